@@ -1,0 +1,37 @@
+# What every target of ours is compiled with.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  # Precompiled headers and a second checkout share cached objects only with these settings.
+  set(ccache_launcher ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
+      CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+  set(CMAKE_C_COMPILER_LAUNCHER ${ccache_launcher})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${ccache_launcher})
+endif()
+
+set(BARWRIGHT_SANITIZE "" CACHE STRING "Sanitizers for the native build, as given to -fsanitize")
+
+# Interface target: ours alone, so that bought sources keep their own warnings.
+add_library(barwright_options INTERFACE)
+target_compile_options(barwright_options INTERFACE -Wall -Wextra -Werror -Wno-unknown-pragmas -fpch-preprocess)
+if(WIN32)
+  # Message-map entries name handlers without qualification and reach protected base handlers.
+  target_compile_options(barwright_options INTERFACE -fms-extensions)
+  target_compile_definitions(barwright_options INTERFACE UNICODE _UNICODE NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00
+                                                        _WIN32_IE=0x0A00)
+  add_compile_options($<$<CONFIG:Debug>:-g1>)
+  # gcc_s, stdc++ and winpthread are shared: exceptions and type information cross our DLLs.
+endif()
+if(BARWRIGHT_SANITIZE)
+  add_compile_options(-fsanitize=${BARWRIGHT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${BARWRIGHT_SANITIZE})
+endif()
