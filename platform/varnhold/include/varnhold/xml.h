@@ -1,0 +1,107 @@
+#pragma once
+
+#include "varnhold/varnhold_api.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace varnhold {
+class XmlTree;
+
+/// A place in a source text. Lines and columns count from 1, columns in characters (code points); 0 means unknown.
+struct TextPosition {
+    std::size_t line = 0;
+    std::size_t column = 0;
+};
+} // namespace varnhold
+
+/// One element of a document. A small value: copy it freely. It keeps what it refers to alive, also when its document
+/// is loaded anew or destroyed. Every query takes constant time (texts: their length) and may run in any number of
+/// threads at once. A null node (default-constructed, or asked for with an index out of range) has no children, no
+/// attributes and empty texts.
+class VARNHOLD_API CXmlNodeWrapper {
+public:
+    CXmlNodeWrapper() = default;
+
+    bool IsNull() const noexcept { return !m_tree; }
+
+    /// The tag name, namespace prefix included.
+    std::wstring GetName() const;
+
+    /// Child elements in document order; texts, comments and processing instructions are not counted.
+    std::size_t GetChildCount() const noexcept;
+    CXmlNodeWrapper GetChild(std::size_t index) const;
+
+    /// Attributes in document order, as written: two of the same name are both there. Entities are already replaced,
+    /// line breaks and tabs in a value are blanks. An index out of range gives an empty text.
+    std::size_t GetAttributeCount() const noexcept;
+    std::wstring GetAttributeName(std::size_t index) const;
+    std::wstring GetAttributeValue(std::size_t index) const;
+
+    /// Where the element's "<" and an attribute's name stand in the file.
+    varnhold::TextPosition GetPosition() const;
+    varnhold::TextPosition GetAttributePosition(std::size_t index) const;
+
+private:
+    friend class CXmlDocumentWrapper;
+    CXmlNodeWrapper(std::shared_ptr<const varnhold::XmlTree> tree, std::uint32_t element);
+
+    std::shared_ptr<const varnhold::XmlTree> m_tree;
+    std::uint32_t m_element = 0;
+};
+
+/// An XML document read from a file or from memory.
+///
+/// Encoding: a byte order mark decides; without one the XML declaration does; without both it is UTF-8. Known are
+/// UTF-8, UTF-16 (either byte order, also without a mark), US-ASCII, ISO-8859-1, GB2312, GBK (code page 936) and
+/// GB18030. Broken sequences become U+FFFD; an unknown encoding is an error.
+///
+/// Refused, with an error: what is not well-formed, a NUL character, more or less than one document element, text
+/// beside it, elements nested deeper than c_maxDepth, sources longer than c_maxSize bytes, anything but a plain file.
+///
+/// A document type definition is skipped and nothing outside the file is ever read: only the five predefined entities
+/// and character references are replaced, any other reference stays in the text as it was written.
+class VARNHOLD_API CXmlDocumentWrapper {
+public:
+    static constexpr std::size_t c_maxDepth = 100000;
+    static constexpr std::size_t c_maxSize = std::size_t(256) << 20;
+
+    CXmlDocumentWrapper();
+    ~CXmlDocumentWrapper();
+    CXmlDocumentWrapper(CXmlDocumentWrapper&&) noexcept;
+    CXmlDocumentWrapper& operator=(CXmlDocumentWrapper&&) noexcept;
+
+    /// Reads a file. False when it could not be read or is refused: then the earlier content stays and GetErrorText
+    /// says why. Wide paths may be longer than MAX_PATH when they are absolute; narrow paths are UTF-8 on Windows and
+    /// taken byte by byte on Linux.
+    bool Load(const std::wstring& path);
+    bool Load(const wchar_t* path);
+    bool Load(const std::string& path);
+    bool Load(const char* path);
+
+    /// Reads a document from memory; `name` stands for the file name in GetErrorText.
+    bool LoadFromMemory(std::string_view bytes, const std::wstring& name = L"(memory)");
+
+    /// The document element; a null node before the first successful load.
+    CXmlNodeWrapper GetDocumentElement() const;
+
+    /// What was wrong with the last load: "file:line:column: what" ("file: what" when no place can be given). All
+    /// empty or 0 after a successful one.
+    const std::wstring& GetErrorText() const noexcept { return m_errorText; }
+    /// The same without file and place.
+    const std::wstring& GetErrorReason() const noexcept { return m_errorReason; }
+    std::size_t GetErrorLine() const noexcept { return m_errorPosition.line; }
+    std::size_t GetErrorColumn() const noexcept { return m_errorPosition.column; }
+
+private:
+    bool Fail(const std::wstring& name, const std::wstring& reason, varnhold::TextPosition position);
+    bool Take(const std::wstring& name, std::string bytes);
+
+    std::shared_ptr<const varnhold::XmlTree> m_tree;
+    std::wstring m_errorText;
+    std::wstring m_errorReason;
+    varnhold::TextPosition m_errorPosition;
+};
