@@ -1,0 +1,40 @@
+#!/usr/bin/python3
+"""Every tracked text file is UTF-8 without a byte order mark, has LF line ends and ends with one."""
+import subprocess
+import sys
+
+BINARY = (".png", ".ico", ".bmp")
+
+
+def problems(path):
+    data = open(path, "rb").read()
+    if not data:
+        return
+    try:
+        data.decode("utf-8")
+    except UnicodeDecodeError as error:
+        yield f"not UTF-8 at byte {error.start}"
+    if data.startswith(b"\xef\xbb\xbf"):
+        yield "begins with a byte order mark"
+    if b"\r" in data:
+        yield f"carriage return in line {data[:data.index(bytes([13]))].count(bytes([10])) + 1}"
+    if not data.endswith(b"\n"):
+        yield "does not end with a line feed"
+    for number, line in enumerate(data.split(b"\n"), 1):
+        if line.endswith((b" ", b"\t")) and not path.endswith(".md"):
+            yield f"white space at the end of line {number}"
+
+
+def main():
+    listing = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], check=True, capture_output=True)
+    bad = 0
+    for path in filter(None, listing.stdout.decode().split("\0")):
+        if path.endswith(BINARY):
+            continue
+        for problem in problems(path):
+            print(f"{path}: {problem}")
+            bad += 1
+    return 1 if bad else 0
+
+
+sys.exit(main())
