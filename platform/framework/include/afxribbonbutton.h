@@ -1,0 +1,137 @@
+#pragma once
+
+#include <afxbaseribbonelement.h>
+
+// A push button of a ribbon: image and text in three sizes, a command, and optionally a drop-down of sub-items or of a
+// menu. With a default command the face is split into a command area and a menu area; without one the whole face opens
+// the drop-down. Images are indexes into the parent category's image lists, or icons.
+class FRAMEWORK_API CMFCRibbonButton : public CMFCRibbonBaseElement {
+    DECLARE_DYNCREATE(CMFCRibbonButton)
+
+public:
+    CMFCRibbonButton();
+    CMFCRibbonButton(UINT nID, LPCTSTR lpszText, int nSmallImageIndex = -1, int nLargeImageIndex = -1,
+                     BOOL bAlwaysShowDescription = FALSE);
+    // The icons stay the caller's unless bAutoDestroyIcon is set; a null small icon is drawn from the large one.
+    CMFCRibbonButton(UINT nID, LPCTSTR lpszText, HICON hIcon, BOOL bAlwaysShowDescription = FALSE,
+                     HICON hIconSmall = nullptr, BOOL bAutoDestroyIcon = FALSE, BOOL bAlphaBlendIcon = FALSE);
+    CMFCRibbonButton(const CMFCRibbonButton&) = delete;
+    CMFCRibbonButton& operator=(const CMFCRibbonButton&) = delete;
+    ~CMFCRibbonButton() override;
+
+    // Sub-items: the button owns them. An index of -1 or beyond the end appends.
+    void AddSubItem(CMFCRibbonBaseElement* pSubItem, int nIndex = -1);
+    const CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& GetSubItems() const { return m_arSubItems; }
+    int FindSubItemIndexByID(UINT uiID) const;
+    BOOL RemoveSubItem(int nIndex);
+    void RemoveAllSubItems();
+
+    // A menu instead of sub-items; the handle stays the caller's.
+    void SetMenu(HMENU hMenu, BOOL bIsDefaultCommand = FALSE, BOOL bRightAlign = FALSE);
+    HMENU GetMenu() const { return m_hMenu; }
+    BOOL HasMenu() const override;
+    void SetDefaultCommand(BOOL bSet = TRUE) { m_bIsDefaultCommand = bSet; }
+    BOOL IsDefaultCommand() const { return m_bIsDefaultCommand; }
+    void SetRightAlignMenu(BOOL bSet = TRUE) { m_bRightAlignMenu = bSet; }
+    BOOL IsRightAlignMenu() const { return m_bRightAlignMenu; }
+    BOOL IsMenuOnBottom() const;
+    CRect GetMenuRect() const;
+    CRect GetCommandRect() const;
+
+    // Images.
+    int GetImageIndex(BOOL bLargeImage) const { return bLargeImage ? m_nLargeImageIndex : m_nSmallImageIndex; }
+    void SetImageIndex(int nIndex, BOOL bLargeImage);
+    HICON GetIcon(BOOL bLargeIcon = TRUE) const;
+    void SetAlwaysLargeImage(BOOL bSet = TRUE) { m_bIsAlwaysLargeImage = bSet; }
+    BOOL IsAlwaysLargeImage() const override { return m_bIsAlwaysLargeImage; }
+    BOOL IsLargeImage() const { return m_bIsLargeImage; }
+    BOOL IsAlwaysShowDescription() const { return m_bIsAlwaysShowDescription; }
+
+    CSize GetRegularSize(CDC* pDC) override;
+    CSize GetIntermediateSize(CDC* pDC) override;
+    CSize GetCompactSize(CDC* pDC) override;
+    CSize GetImageSize(RibbonImageType type) const override;
+    int GetTextRowHeight() const;
+    BOOL IsSingleLineText() const;
+    BOOL HasLargeMode() const override;
+    BOOL HasIntermediateMode() const override;
+    BOOL HasCompactMode() const override;
+    BOOL CanBeStretched() override;
+    BOOL IsWholeRowHeight() const override;
+    void CleanUpSizes() override;
+    void OnCalcTextSize(CDC* pDC) override;
+    void OnAfterChangeRect(CDC* pDC) override;
+
+    void OnDraw(CDC* pDC) override;
+    virtual void OnDrawBorder(CDC* pDC);
+    virtual COLORREF OnFillBackground(CDC* pDC);
+    void DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) override;
+    // Two-line text below the image; answers its size. bCalcOnly: nothing is drawn.
+    CSize DrawBottomText(CDC* pDC, BOOL bCalcOnly);
+    virtual int DrawRibbonText(CDC* pDC, const CString& strText, CRect rectText, UINT uiDTFlags,
+                               COLORREF clrText = static_cast<COLORREF>(-1));
+
+    virtual BOOL IsAlwaysDrawBorder() const { return FALSE; }
+    virtual BOOL IsApplicationButton() const { return FALSE; }
+    virtual BOOL IsDefaultPanelButton() const { return FALSE; }
+    virtual BOOL IsDrawTooltipImage() const { return TRUE; }
+    virtual BOOL IsPopupDefaultMenuLook() const;
+    virtual BOOL IsCommandAreaHighlighted() const;
+    virtual BOOL IsMenuAreaHighlighted() const;
+
+    void SetText(LPCTSTR lpszText) override;
+    void SetDescription(LPCTSTR lpszText) override;
+    CString GetToolTipText() const override;
+    void SetParentCategory(CMFCRibbonCategory* pParent) override;
+    void SetParentPanel(CMFCRibbonPanel* pPanel) override;
+    void SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) override;
+    void SetOriginal(CMFCRibbonBaseElement* pOriginal) override;
+    void CopyFrom(const CMFCRibbonBaseElement& src) override;
+    void ClosePopupMenu() override;
+
+    CMFCRibbonBaseElement* Find(const CMFCRibbonBaseElement* pElement) override;
+    CMFCRibbonBaseElement* FindByID(UINT uiCmdID) override;
+    CMFCRibbonBaseElement* FindByData(DWORD_PTR dwData) override;
+    CMFCRibbonBaseElement* FindByOriginal(CMFCRibbonBaseElement* pOriginal) override;
+    void GetElementsByID(UINT uiCmdID, CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) override;
+
+    void OnMouseMove(CPoint point) override;
+    void OnLButtonDown(CPoint point) override;
+    void OnLButtonUp(CPoint point) override;
+    void OnHighlight(BOOL bHighlight) override;
+    BOOL OnKey(BOOL bIsMenuKey) override;
+    void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
+
+protected:
+    virtual void OnClick(CPoint point);
+    BOOL OnProcessKey(UINT nChar) override;
+    // The face as the current mode, state and measures give it.
+    struct Face;
+    Face CollectFace() const;
+    void ReleaseIcons();
+    BOOL IsSplit() const;
+    BOOL DrawsLargeFace() const;
+    // Draws the icon handle for the type into the rectangle; FALSE when there is none.
+    BOOL DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectImage);
+    BOOL DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage);
+
+    HICON m_hIcon = nullptr;
+    HICON m_hIconSmall = nullptr;
+    BOOL m_bAutoDestroyIcon = FALSE;
+    BOOL m_bAlphaBlendIcon = FALSE;
+    BOOL m_bIsAlwaysShowDescription = FALSE;
+    int m_nSmallImageIndex = -1;
+    int m_nLargeImageIndex = -1;
+    BOOL m_bIsAlwaysLargeImage = FALSE;
+    BOOL m_bIsLargeImage = FALSE; // the last face drawn showed the large image
+
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_arSubItems;
+    HMENU m_hMenu = nullptr;
+    BOOL m_bIsDefaultCommand = FALSE;
+    BOOL m_bRightAlignMenu = FALSE;
+    BOOL m_bMenuAreaHighlighted = FALSE;
+
+    CSize m_sizeTextRight;  // single-line text; scaled; empty: not measured
+    CSize m_sizeTextBottom; // text broken over the lines below a large image, with its menu arrow
+    CString m_strMeasuredText;
+};

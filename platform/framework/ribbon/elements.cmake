@@ -1,0 +1,3 @@
+# The ribbon elements.
+target_sources(framework PRIVATE
+)
