@@ -1,0 +1,143 @@
+#pragma once
+
+#include "afxwin.h"
+#include "afxtempl.h"
+#include "afxribbonbutton.h"
+
+class CMFCRibbonBar;
+class CMFCRibbonCategory;
+class CMFCRibbonCmdUI;
+class CMFCRibbonPanelMenuBar;
+class CFrameWnd;
+struct RibbonMetrics;
+struct RibbonPanelArrangement;
+struct RibbonPanelShape;
+
+/// The button that stands for a panel that is too narrow to show its elements. Owned by its panel.
+class FRAMEWORK_API CMFCRibbonDefaultPanelButton : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CMFCRibbonDefaultPanelButton)
+
+public:
+    CMFCRibbonDefaultPanelButton();
+
+    BOOL IsDefaultPanelButton() const override { return TRUE; }
+    BOOL HasCompactMode() const override { return FALSE; }
+    BOOL HasIntermediateMode() const override { return FALSE; }
+    BOOL HasLargeMode() const override { return TRUE; }
+    BOOL HasMenu() const override { return TRUE; }
+    CSize GetRegularSize(CDC* pDC) override;
+    void OnDraw(CDC* pDC) override;
+
+    /// Icon of the collapsed panel, not owned; without one the visual manager's ribbon image is drawn.
+    void SetPanelIcon(HICON hIcon) { m_panelIcon = hIcon; }
+
+private:
+    HICON m_panelIcon = nullptr;
+};
+
+/// A captioned group of ribbon elements. Made by CMFCRibbonCategory::AddPanel, owned by its category; owns its
+/// elements. Rectangles are in the ribbon bar's client pixels, empty while the panel is not shown.
+class FRAMEWORK_API CMFCRibbonPanel : public CObject {
+    DECLARE_DYNCREATE(CMFCRibbonPanel)
+
+protected:
+    CMFCRibbonPanel(LPCTSTR lpszName = NULL, HICON hIcon = NULL);
+
+public:
+    ~CMFCRibbonPanel() override;
+
+    /// Takes ownership of the element.
+    virtual void Add(CMFCRibbonBaseElement* pElem);
+    virtual void AddSeparator();
+    /// Takes ownership when it returns TRUE; FALSE for a position outside 0..GetCount().
+    virtual BOOL Insert(CMFCRibbonBaseElement* pElem, int nIndex);
+    virtual BOOL InsertSeparator(int nIndex);
+    BOOL Remove(int nIndex, BOOL bDelete = TRUE);
+    void RemoveAll();
+    /// The new element takes the place of the old one, which is deleted.
+    BOOL Replace(int nIndex, CMFCRibbonBaseElement* pElem);
+    BOOL ReplaceByID(UINT uiCmdID, CMFCRibbonBaseElement* pElem);
+
+    LPCTSTR GetName() const { return m_strName; }
+    int GetCount() const;
+    /// NULL for a position that does not exist.
+    CMFCRibbonBaseElement* GetElement(int nIndex) const;
+    virtual int GetIndex(CMFCRibbonBaseElement* pElem) const;
+    BOOL HasElement(const CMFCRibbonBaseElement* pElem) const;
+    CMFCRibbonBaseElement* FindByID(UINT uiCmdID) const;
+    CMFCRibbonBaseElement* FindByData(DWORD_PTR dwData) const;
+    void GetElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
+    void GetElementsByID(UINT uiCmdID, CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
+    void GetVisibleElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
+    void GetItemIDsList(CList<UINT, UINT>& lstItems) const;
+
+    CMFCRibbonBaseElement* GetDroppedDown() const;
+    CMFCRibbonBaseElement* GetFocused() const;
+    CMFCRibbonBaseElement* GetHighlighted() const;
+    CMFCRibbonBaseElement* GetPressed() const;
+    void SetFocused(CMFCRibbonBaseElement* pNewFocus);
+    BOOL IsHighlighted() const { return m_bHighlighted; }
+    /// Marks the panel and the element under the point (client pixels of the bar) as hot, or takes both marks away.
+    virtual void Highlight(BOOL bHighlight, CPoint point);
+
+    CMFCRibbonCategory* GetParentCategory() const { return m_pParent; }
+    CMFCRibbonPanelMenuBar* GetParentMenuBar() const { return m_pParentMenuBar; }
+    CMFCRibbonBaseElement* GetParentButton() const { return m_pParentButton; }
+    CMFCRibbonButton& GetDefaultButton() { return m_btnDefault; }
+
+    const CRect& GetRect() const { return m_rect; }
+    int GetCaptionHeight() const { return m_rectCaption.Height(); }
+    const CRect& GetCaptionRect() const { return m_rectCaption; }
+    BOOL IsCollapsed() const { return m_bCollapsed; }
+    BOOL IsMenuMode() const { return m_bMenuMode; }
+    virtual BOOL IsMainPanel() const { return FALSE; }
+    BOOL IsWindows7Look() const;
+    void SetCenterColumnVert(BOOL bSet = TRUE);
+    BOOL IsCenterColumnVert() const { return m_bCenterColumnVert; }
+    void SetJustifyColumns(BOOL bSet = TRUE);
+    BOOL IsJustifyColumns() const { return m_bJustifyColumns; }
+
+    /// The element under the point; over the caption the default button when bCheckPanelCaption is TRUE, else NULL.
+    virtual CMFCRibbonBaseElement* HitTest(CPoint point, BOOL bCheckPanelCaption = FALSE);
+    /// Position of the element under the point, -1 when there is none.
+    virtual int HitTestEx(CPoint point) const;
+
+    void SetKeys(LPCTSTR lpszKeys);
+    void SetData(DWORD_PTR dwData) { m_dwData = dwData; }
+    DWORD_PTR GetData() const { return m_dwData; }
+
+    // Called by the category.
+    virtual void DoPaint(CDC* pDC);
+    virtual CMFCRibbonBaseElement* MouseButtonDown(CPoint point);
+    virtual void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
+    virtual void OnShow(BOOL bShow);
+
+protected:
+    friend class CMFCRibbonCategory;
+    friend class CMFCRibbonBar;
+
+    CString m_strName;
+    CString m_strKeys;
+    CRect m_rect;
+    CRect m_rectCaption;
+    CMFCRibbonCategory* m_pParent = nullptr;
+    CMFCRibbonPanelMenuBar* m_pParentMenuBar = nullptr;
+    CMFCRibbonBaseElement* m_pParentButton = nullptr;
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_arElements;
+    CMFCRibbonDefaultPanelButton m_btnDefault;
+    BOOL m_bCollapsed = FALSE;
+    BOOL m_bMenuMode = FALSE;
+    BOOL m_bHighlighted = FALSE;
+    BOOL m_bCenterColumnVert = FALSE;
+    BOOL m_bJustifyColumns = FALSE;
+    DWORD_PTR m_dwData = 0;
+
+private:
+    void CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON icon);
+    void Adopt(CMFCRibbonBaseElement* element);
+    /// Sizes of all elements in every mode, for the layout.
+    RibbonPanelShape Measure(CDC* pDC, const RibbonMetrics& metrics);
+    /// Places panel, caption and elements as the layout found; the panel's top left corner is at origin.
+    void Place(CDC* pDC, const RibbonPanelArrangement& arrangement, CPoint origin, const RibbonMetrics& metrics);
+    void Hide(CDC* pDC);
+};

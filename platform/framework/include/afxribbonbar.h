@@ -1,0 +1,200 @@
+#pragma once
+
+#include <memory>
+
+#include "afxPane.h"
+#include "afxribboncategory.h"
+#include "afxribbonquickaccesstoolbar.h"
+
+class CMFCToolTipCtrl;
+class CToolTipCtrl;
+struct RibbonBarParts;
+
+/// Parts of the bar that are hidden now; see CMFCRibbonBar::GetHideFlags.
+inline constexpr DWORD AFX_RIBBONBAR_HIDE_ELEMENTS = 0x0001;
+inline constexpr DWORD AFX_RIBBONBAR_HIDE_ALL = 0x0002;
+
+#ifndef AFX_IDW_RIBBON_BAR
+#define AFX_IDW_RIBBON_BAR 0xE806
+#endif
+
+/// The button at the left end of the caption and tab rows. Belongs to the host; the bar keeps a pointer only.
+class FRAMEWORK_API CMFCRibbonApplicationButton : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CMFCRibbonApplicationButton)
+
+public:
+    CMFCRibbonApplicationButton();
+    CMFCRibbonApplicationButton(UINT uiBmpResID);
+    /// The bitmap is copied.
+    CMFCRibbonApplicationButton(HBITMAP hBmp);
+
+    void SetImage(UINT uiBmpResID);
+    void SetImage(HBITMAP hBmp);
+
+    BOOL IsApplicationButton() const override { return TRUE; }
+    void DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) override;
+    void OnDraw(CDC* pDC) override;
+
+private:
+    CMFCToolBarImages m_Image;
+};
+
+/// The caption above the tabs of a context category.
+class FRAMEWORK_API CMFCRibbonContextCaption : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CMFCRibbonContextCaption)
+    friend class CMFCRibbonBar;
+
+public:
+    CMFCRibbonContextCaption();
+    AFX_RibbonCategoryColor GetColor() const { return m_Color; }
+    int GetRightTabX() const { return m_nRightTabX; }
+    void OnDraw(CDC* pDC) override;
+
+private:
+    AFX_RibbonCategoryColor m_Color = AFX_CategoryColor_None;
+    int m_nRightTabX = -1;
+};
+
+/// The ribbon bar of a frame: tabs, categories of panels, quick access toolbar, application button. It docks to the
+/// frame's top and owns its categories. All rectangles and points are client pixels of the bar, already scaled.
+class FRAMEWORK_API CMFCRibbonBar : public CPane {
+    DECLARE_DYNAMIC(CMFCRibbonBar)
+
+public:
+    CMFCRibbonBar(BOOL bReplaceFrameCaption = TRUE);
+    ~CMFCRibbonBar() override;
+
+    BOOL Create(CWnd* pParentWnd, DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP, UINT nID = AFX_IDW_RIBBON_BAR);
+    BOOL CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle = 0, DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP,
+                  UINT nID = AFX_IDW_RIBBON_BAR);
+
+    // Categories. Positions count all categories, shown or not.
+    CMFCRibbonCategory* AddCategory(LPCTSTR lpszName, UINT uiSmallImagesResID, UINT uiLargeImagesResID,
+                                    CSize sizeSmallImage = CSize(16, 16), CSize sizeLargeImage = CSize(32, 32),
+                                    int nInsertAt = -1, CRuntimeClass* pRTI = NULL);
+    CMFCRibbonCategory* AddContextCategory(LPCTSTR lpszName, LPCTSTR lpszContextName, UINT uiContextID,
+                                           AFX_RibbonCategoryColor clrContext, UINT uiSmallImagesResID,
+                                           UINT uiLargeImagesResID, CSize sizeSmallImage = CSize(16, 16),
+                                           CSize sizeLargeImage = CSize(32, 32), CRuntimeClass* pRTI = NULL);
+    void ShowContextCategories(UINT uiContextID, BOOL bShow = TRUE);
+    BOOL ActivateContextCategory(UINT uiContextID);
+    /// TRUE when at least one was shown before.
+    BOOL HideAllContextCategories();
+    BOOL GetContextName(UINT uiContextID, CString& strName) const;
+    BOOL RemoveCategory(int nIndex);
+    void RemoveAllCategories();
+    void ShowCategory(int nIndex, BOOL bShow = TRUE);
+    /// FALSE for a category that is not shown or not of this bar.
+    BOOL SetActiveCategory(CMFCRibbonCategory* pCategory, BOOL bForceRestore = FALSE);
+    CMFCRibbonCategory* GetActiveCategory() const;
+    CMFCRibbonCategory* GetCategory(int nIndex) const;
+    int GetCategoryCount() const;
+    int GetVisibleCategoryCount() const;
+    int GetCategoryIndex(CMFCRibbonCategory* pCategory) const;
+    int FindCategoryIndexByData(DWORD dwData) const;
+    int GetCategoryHeight() const;
+
+    // Searches. Categories come first, then the quick access toolbar.
+    CMFCRibbonBaseElement* FindByID(UINT uiCmdID, BOOL bVisibleOnly = TRUE, BOOL bExcludeQAT = FALSE) const;
+    CMFCRibbonBaseElement* FindByData(DWORD_PTR dwData, BOOL bVisibleOnly = TRUE) const;
+    void GetElementsByID(UINT uiCmdID, CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arButtons);
+    void GetItemIDsList(CList<UINT, UINT>& lstItems, BOOL bHiddenOnly = FALSE) const;
+    BOOL SetElementKeys(UINT uiCmdID, LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys = NULL);
+    virtual CMFCRibbonBaseElement* HitTest(CPoint point, BOOL bCheckActiveCategory = FALSE,
+                                           BOOL bCheckPanelCaption = FALSE);
+    virtual CMFCRibbonBaseElement* GetDroppedDown();
+    virtual CMFCRibbonBaseElement* GetFocused();
+
+    // Quick access toolbar, application button, elements right of the tabs.
+    void SetQuickAccessCommands(const CList<UINT, UINT>& lstCommands, BOOL bRecalcLayout = TRUE);
+    void GetQuickAccessCommands(CList<UINT, UINT>& lstCommands);
+    void SetQuickAccessDefaultState(const CMFCRibbonQuickAccessToolBarDefaultState& state);
+    void SetQuickAccessToolbarOnTop(BOOL bOnTop);
+    BOOL IsQuickAccessToolbarOnTop() const;
+    BOOL IsQATEmpty() const;
+    CRect GetQuickAccessToolbarLocation() const;
+    CRect GetQATCommandsLocation() const;
+    CMFCRibbonBaseElement* GetQATDroppedDown();
+    void SetApplicationButton(CMFCRibbonApplicationButton* pButton, CSize sizeButton);
+    CMFCRibbonApplicationButton* GetApplicationButton() const;
+    /// Takes ownership of the element.
+    void AddToTabs(CMFCRibbonBaseElement* pElement);
+    void RemoveAllFromTabs();
+
+    // Layout and look.
+    void RecalcLayout() override;
+    void ForceRecalcLayout();
+    DWORD GetHideFlags() const;
+    void ToggleMimimizeState();
+    int GetCaptionHeight() const override;
+    BOOL IsReplaceFrameCaption() const;
+    BOOL IsTransparentCaption() const;
+    BOOL IsWindows7Look() const;
+    void SetWindows7Look(BOOL bWindows7Look, BOOL bRecalc = TRUE);
+    /// How much of their full width the tabs have, in percent.
+    int GetTabTrancateRatio() const;
+    virtual BOOL IsMainRibbonBar() const { return TRUE; }
+    virtual BOOL IsShowGroupBorder(CMFCRibbonButtonsGroup* pGroup) const;
+
+    // Tooltips.
+    void EnableToolTips(BOOL bEnable = TRUE, BOOL bEnableDescr = TRUE);
+    BOOL IsToolTipEnabled() const;
+    BOOL IsToolTipDescrEnabled() const;
+    int GetTooltipFixedWidthRegular() const;
+    int GetTooltipFixedWidthLargeImage() const;
+    void SetTooltipFixedWidth(int nWidthRegular, int nWidthLargeImage);
+    void PopTooltip();
+
+    void DeactivateKeyboardFocus(BOOL bSetFocus = TRUE);
+
+    // What a derived bar replaces.
+    virtual void OnClickButton(CMFCRibbonButton* pButton, CPoint point);
+    virtual BOOL OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit);
+    virtual BOOL OnShowRibbonQATMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit);
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+    CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
+    BOOL CanFloat() const override { return FALSE; }
+    BOOL CanBeClosed() const override { return FALSE; }
+    BOOL IsResizable() const override { return FALSE; }
+    void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
+    void OnPaneContextMenu(CWnd* pParentFrame, CPoint point) override;
+
+    // Extension points of this framework: elements, categories and the Tovasque bar use them.
+    CToolTipCtrl* GetToolTipCtrl() const { return m_pToolTip; }
+    const struct RibbonMetrics& GetMetrics() const;
+    void InvalidateElement(const CRect& rect);
+    void OnElementDestroyed(CMFCRibbonBaseElement* pElement);
+    /// Paints the whole bar into the device context, as on the screen.
+    void DoPaint(CDC* pDC) override;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnCancelMode();
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
+    afx_msg BOOL OnNeedTipText(UINT id, NMHDR* pNMH, LRESULT* pResult);
+    afx_msg LRESULT OnUpdateToolTips(WPARAM wp, LPARAM lp);
+
+    /// Own tooltip control, made by the tooltip manager; NULL while tooltips are off.
+    CToolTipCtrl* m_pToolTip = nullptr;
+    /// Row above the tabs that stands for the frame's caption; empty when the frame keeps its own.
+    CRect m_rectCaption;
+
+private:
+    friend class CMFCRibbonCategory;
+    friend class CMFCRibbonTab;
+
+    std::unique_ptr<RibbonBarParts> m_parts;
+};

@@ -1,0 +1,161 @@
+#pragma once
+
+#include "fx/ribbon_colors.h"
+#include "afxRibbonPanel.h"
+#include "afxtoolbarimages.h"
+
+struct RibbonCategoryParts;
+
+/// The tab of a category: what the bar's hit test gives over it. Its parent category is the category that it opens.
+class FRAMEWORK_API CMFCRibbonTab : public CMFCRibbonBaseElement {
+    DECLARE_DYNCREATE(CMFCRibbonTab)
+
+public:
+    CMFCRibbonTab();
+
+    CSize GetRegularSize(CDC* pDC) override;
+    CString GetToolTipText() const override;
+    void OnDraw(CDC* pDC) override;
+    void OnLButtonDown(CPoint point) override;
+
+    BOOL IsSelected() const;
+    /// The row has no room for the whole text; drawing ends it with dots and the tooltip shows it.
+    BOOL IsTruncated() const { return m_bIsTrancated; }
+
+protected:
+    friend class CMFCRibbonBar;
+    BOOL m_bIsTrancated = FALSE;
+};
+
+/// One of the two buttons that scroll a category whose collapsed panels still need more than the bar's width.
+class FRAMEWORK_API CRibbonCategoryScroll : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CRibbonCategoryScroll)
+
+public:
+    CRibbonCategoryScroll();
+
+    BOOL IsLeftScroll() const { return m_bIsLeft; }
+    void SetLeftScroll(BOOL bIsLeft) { m_bIsLeft = bIsLeft; }
+    void OnDraw(CDC* pDC) override;
+    void OnLButtonUp(CPoint point) override;
+
+private:
+    BOOL m_bIsLeft = FALSE;
+};
+
+/// A page of the ribbon bar: a tab and a row of panels. Made by CMFCRibbonBar::AddCategory, owned by its bar; owns its
+/// panels. Rectangles are in the bar's client pixels, empty while the category is not active.
+class FRAMEWORK_API CMFCRibbonCategory : public CObject {
+    DECLARE_DYNCREATE(CMFCRibbonCategory)
+
+protected:
+    /// For dynamic creation; the bar initialises the object afterwards.
+    CMFCRibbonCategory();
+    CMFCRibbonCategory(CMFCRibbonBar* pParenrRibbonBar, LPCTSTR lpszName, UINT uiSmallImagesResID,
+                       UINT uiLargeImagesResID, CSize sizeSmallImage = CSize(16, 16),
+                       CSize sizeLargeImage = CSize(32, 32));
+
+public:
+    ~CMFCRibbonCategory() override;
+
+    /// The panel belongs to the category. A run-time class that is not a panel's gives NULL.
+    CMFCRibbonPanel* AddPanel(LPCTSTR lpszPanelName, HICON hIcon = 0, CRuntimeClass* pRTI = NULL);
+    int GetPanelCount() const;
+    /// NULL for a position that does not exist.
+    CMFCRibbonPanel* GetPanel(int nIndex);
+    int GetPanelIndex(const CMFCRibbonPanel* pPanel) const;
+    CMFCRibbonPanel* GetPanelFromPoint(CPoint point) const;
+    CMFCRibbonPanel* FindPanelWithElem(const CMFCRibbonBaseElement* pElement);
+    BOOL RemovePanel(int nIndex, BOOL bDelete = TRUE);
+    /// An element that only customising and searches see; the category owns it.
+    void AddHidden(CMFCRibbonBaseElement* pElem);
+
+    LPCTSTR GetName() const { return m_strName; }
+    void SetName(LPCTSTR lpszName);
+    void SetKeys(LPCTSTR lpszKeys);
+    void SetData(DWORD_PTR dwData) { m_dwData = dwData; }
+    DWORD_PTR GetData() const { return m_dwData; }
+    void SetTabColor(AFX_RibbonCategoryColor color);
+    AFX_RibbonCategoryColor GetTabColor() const { return m_Color; }
+    UINT GetContextID() const { return m_uiContextID; }
+
+    CMFCRibbonBaseElement* FindByID(UINT uiCmdID, BOOL bVisibleOnly = TRUE) const;
+    CMFCRibbonBaseElement* FindByData(DWORD_PTR dwData, BOOL bVisibleOnly = TRUE) const;
+    void GetElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
+    void GetElementsByID(UINT uiCmdID, CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
+    void GetVisibleElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
+    void GetItemIDsList(CList<UINT, UINT>& lstItems, BOOL bHiddenOnly = FALSE) const;
+    CMFCRibbonBaseElement* GetFirstVisibleElement() const;
+    CMFCRibbonBaseElement* GetLastVisibleElement() const;
+    CMFCRibbonBaseElement* GetDroppedDown();
+    CMFCRibbonBaseElement* GetFocused();
+    CMFCRibbonBaseElement* GetHighlighted();
+
+    CMFCToolBarImages& GetSmallImages() { return m_SmallImages; }
+    CMFCToolBarImages& GetLargeImages() { return m_LargeImages; }
+    CSize GetImageSize(BOOL bIsLargeImage) const;
+    int GetImageCount(BOOL bIsLargeImage) const;
+
+    BOOL IsActive() const { return m_bIsActive; }
+    BOOL IsVisible() const { return m_bIsVisible; }
+    BOOL IsWindows7Look() const;
+    CRect GetRect() const { return m_rect; }
+    CRect GetTabRect() const { return m_Tab.GetRect(); }
+    /// Height of panels with their captions; the same for every category of the bar.
+    int GetMaxHeight(CDC* pDC);
+    int GetTextTopLine() const;
+    CMFCRibbonBar* GetParentRibbonBar() const { return m_pParentRibbonBar; }
+    CMFCRibbonPanelMenuBar* GetParentMenuBar() const { return m_pParentMenuBar; }
+    CMFCRibbonBaseElement* GetParentButton() const { return m_ParentButton; }
+
+    CMFCRibbonBaseElement* HitTest(CPoint point, BOOL bCheckPanelCaption = FALSE) const;
+    /// Position of the element under the point among all elements of the category, -1 when there is none.
+    int HitTestEx(CPoint point) const;
+    CMFCRibbonBaseElement* HitTestScrollButtons(CPoint point) const;
+    /// Moves the hot mark from the old panel (may be NULL) to the one under the point, which is returned.
+    CMFCRibbonPanel* HighlightPanel(CMFCRibbonPanel* pHLPanel, CPoint point);
+    /// Positions of panels in the order in which they give up width; a position may stand several times.
+    void SetCollapseOrder(const CArray<int, int>& arCollapseOrder);
+
+    virtual void RecalcLayout(CDC* pDC);
+    virtual void ReposPanels(CDC* pDC);
+    virtual BOOL OnScrollHorz(BOOL bScrollLeft, int nScrollOffset = 0);
+    virtual void OnDraw(CDC* pDC);
+    virtual BOOL OnDrawImage(CDC* pDC, CRect rect, CMFCRibbonBaseElement* pElement, BOOL bIsLargeImage,
+                             BOOL nImageIndex, BOOL bCenter);
+    virtual CMFCRibbonBaseElement* OnLButtonDown(CPoint point);
+    virtual void OnLButtonUp(CPoint point);
+    virtual void OnMouseMove(CPoint point);
+    virtual void OnCancelMode();
+    virtual void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
+
+protected:
+    friend class CMFCRibbonBar;
+    friend class CMFCRibbonTab;
+
+    virtual void SetActive(BOOL bIsActive = TRUE);
+    void CommonInit(CMFCRibbonBar* pParentRibbonBar = NULL, LPCTSTR lpszName = NULL, UINT uiSmallImagesResID = 0,
+                    UINT uiLargeImagesResID = 0, CSize sizeSmallImage = CSize(16, 16),
+                    CSize sizeLargeImage = CSize(32, 32));
+
+    CString m_strName;
+    CRect m_rect;
+    CMFCRibbonTab m_Tab;
+    CRibbonCategoryScroll m_ScrollLeft;
+    CRibbonCategoryScroll m_ScrollRight;
+    CMFCRibbonBar* m_pParentRibbonBar = nullptr;
+    CMFCRibbonPanelMenuBar* m_pParentMenuBar = nullptr;
+    CMFCRibbonBaseElement* m_ParentButton = nullptr;
+    CMFCToolBarImages m_SmallImages;
+    CMFCToolBarImages m_LargeImages;
+    CSize m_sizeSmallImage{16, 16};
+    CSize m_sizeLargeImage{32, 32};
+    BOOL m_bIsActive = FALSE;
+    BOOL m_bIsVisible = TRUE;
+    AFX_RibbonCategoryColor m_Color = AFX_CategoryColor_None;
+    UINT m_uiContextID = 0;
+    DWORD_PTR m_dwData = 0;
+
+private:
+    std::unique_ptr<RibbonCategoryParts> m_parts;
+};

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "afxtempl.h"
+#include "afxribbonbuttonsgroup.h"
+
+class CMFCRibbonBar;
+struct RibbonMetrics;
+
+/// The commands of the quick access toolbar's menu and which of them are shown until the user changes the toolbar.
+class FRAMEWORK_API CMFCRibbonQuickAccessToolBarDefaultState {
+    friend class CMFCRibbonQuickAccessToolBar;
+    friend class CMFCRibbonBar;
+
+public:
+    CMFCRibbonQuickAccessToolBarDefaultState();
+
+    /// Only changes this state, never a bar.
+    void AddCommand(UINT uiCmd, BOOL bIsVisible = TRUE);
+    void CopyFrom(const CMFCRibbonQuickAccessToolBarDefaultState& src);
+    void RemoveAll();
+
+private:
+    CArray<UINT, UINT> m_arCommands;
+    CArray<BOOL, BOOL> m_arVisibleState;
+};
+
+/// The quick access toolbar of a ribbon bar: copies of elements in one row, and a button that opens its menu.
+/// Copies are made from the bar's elements and linked to them by their original.
+class FRAMEWORK_API CMFCRibbonQuickAccessToolBar : public CMFCRibbonButtonsGroup {
+    DECLARE_DYNCREATE(CMFCRibbonQuickAccessToolBar)
+    friend class CMFCRibbonBar;
+
+public:
+    CMFCRibbonQuickAccessToolBar();
+    ~CMFCRibbonQuickAccessToolBar() override;
+
+    /// Copies the element to the end of the toolbar. FALSE when it is there already or cannot be copied.
+    BOOL Add(CMFCRibbonBaseElement* pElem);
+    /// Deletes the copy itself, or the copy of the element. FALSE when there is none.
+    BOOL Remove(CMFCRibbonBaseElement* pElem);
+    /// Replaces all copies. Ids that no element of the bar has are left out; 0 is a separator.
+    void SetCommands(CMFCRibbonBar* pRibbonBar, const CList<UINT, UINT>& lstCommands);
+    /// Ids in the toolbar's order, without separators.
+    void GetCommands(CList<UINT, UINT>& lstCommands) const;
+    void ReplaceCommands(const CList<UINT, UINT>& lstCommands);
+    BOOL IsEmpty() const { return GetCount() == 0; }
+
+    /// Width of all commands and the menu button.
+    CSize GetRegularSize(CDC* pDC) override;
+    /// Places the copies in one row; what the rectangle has no room for gets an empty rectangle.
+    void OnAfterChangeRect(CDC* pDC) override;
+    void OnDraw(CDC* pDC) override;
+    CMFCRibbonBaseElement* HitTest(CPoint point) override;
+    /// Rectangle of the copies alone, without the menu button.
+    CRect GetCommandsRect() const { return m_rectCommands; }
+    CMFCRibbonBaseElement& GetCustomizeButton() { return m_btnCustomize; }
+
+private:
+    CMFCRibbonBaseElement* MakeCopy(CMFCRibbonBaseElement& source) const;
+
+    CRect m_rectCommands;
+    CMFCRibbonButton m_btnCustomize;
+};

@@ -1,0 +1,3 @@
+# Bar, categories, panels, quick access toolbar and their layout.
+target_sources(framework PRIVATE
+)
