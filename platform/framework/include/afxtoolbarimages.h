@@ -1,0 +1,161 @@
+#pragma once
+
+#include <afxwin.h>
+
+/// What PrepareDrawImage sets up and EndDrawImage puts back. Opaque to hosts.
+class FRAMEWORK_API CAfxDrawState {
+public:
+    CAfxDrawState() = default;
+    ~CAfxDrawState();
+    CAfxDrawState(const CAfxDrawState&) = delete;
+    CAfxDrawState& operator=(const CAfxDrawState&) = delete;
+
+private:
+    friend class CMFCToolBarImages;
+    HDC m_dcSource = NULL;
+    HBITMAP m_bmpPrevious = NULL;
+};
+
+/// A row of equally sized images for toolbars, menus and the ribbon. Images with alpha are kept as 32-bit premultiplied
+/// bitmaps; others have a transparent colour. The list owns its bitmaps. Sizes are pixels of the bitmap, "Dest" sizes
+/// the ones on the screen.
+class FRAMEWORK_API CMFCToolBarImages : public CObject {
+    DECLARE_DYNAMIC(CMFCToolBarImages)
+
+public:
+    enum ImageAlignHorz { ImageAlignHorzLeft, ImageAlignHorzCenter, ImageAlignHorzRight, ImageAlignHorzStretch };
+    enum ImageAlignVert { ImageAlignVertTop, ImageAlignVertCenter, ImageAlignVertBottom, ImageAlignVertStretch };
+
+    CMFCToolBarImages();
+    CMFCToolBarImages(const CMFCToolBarImages&) = delete;
+    CMFCToolBarImages& operator=(const CMFCToolBarImages&) = delete;
+    ~CMFCToolBarImages() override;
+
+    // Filling. Functions that add return the index of the new image, -1 on failure.
+    /// The icon stays the caller's. bAlphaBlend keeps its alpha in a 32-bit list.
+    int AddIcon(HICON hIcon, BOOL bAlphaBlend = FALSE);
+    int AddImage(HBITMAP hbmp, BOOL bSetBitPerPixel = FALSE);
+    int AddImage(const CMFCToolBarImages& imageList, int nIndex);
+    /// A bitmap resource, or one of type "PNG". bAdd appends instead of replacing.
+    BOOL Load(UINT uiResID, HINSTANCE hinstRes = NULL, BOOL bAdd = FALSE);
+    /// A BMP or PNG file; a file larger than nMaxFileSize bytes (0: any) is refused.
+    BOOL Load(LPCTSTR lpszBmpFileName, DWORD nMaxFileSize = 819200);
+    BOOL LoadStr(LPCTSTR lpszResourceName, HINSTANCE hinstRes = NULL, BOOL bAdd = FALSE);
+    BOOL CreateFromImageList(const CImageList& imageList);
+    BOOL CopyTo(CMFCToolBarImages& imageList);
+    BOOL UpdateImage(int iImage, HBITMAP hbmp);
+    BOOL DeleteImage(int iImage);
+    void Clear();
+    /// As a BMP file; NULL writes to the file it was loaded from.
+    BOOL Save(LPCTSTR lpszBmpFileName = NULL);
+    BOOL CopyImageToClipboard(int iImage);
+
+    // Properties
+    void SetImageSize(SIZE sizeImage, BOOL bUpdateCount = FALSE);
+    SIZE GetImageSize(BOOL bDest = FALSE) const;
+    void SetSingleImage();
+    int GetCount() const { return m_iCount; }
+    BOOL IsValid() const { return m_hbmImageWell != NULL; }
+    BOOL IsReadOnly() const { return m_bReadOnly; }
+    BOOL IsUserImagesList() const { return m_bUserImagesList; }
+    int GetBitsPerPixel() const { return m_nBitsPerPixel; }
+    HBITMAP GetImageWell() const { return m_hbmImageWell; }
+    HBITMAP GetImageWellLight() const { return m_hbmImageLight; }
+    COLORREF SetTransparentColor(COLORREF clrTransparent);
+    COLORREF GetTransparentColor() const { return m_clrTransparent; }
+    CRect GetLastImageRect() const { return m_rectLastDraw; }
+    /// A black-and-white mask of one image, white where it is transparent; caller deletes. NULL on failure.
+    HBITMAP GetMask(int iImage);
+    /// Offset of the first image loaded from this resource, -1 when it was not loaded.
+    int GetResourceOffset(UINT uiResId) const;
+    /// A new icon, destroyed by the caller. NULL when there is no such image.
+    HICON ExtractIcon(int nIndex);
+
+    // Drawing
+    /// Begin a series of Draw calls; FALSE when there are no images. sizeImageDest 0: natural size (times the scale of
+    /// 1).
+    BOOL PrepareDrawImage(CAfxDrawState& ds, CSize sizeImageDest = CSize(0, 0), BOOL bFadeInactive = FALSE);
+    BOOL Draw(CDC* pDC, int x, int y, int iImageIndex, BOOL bHilite = FALSE, BOOL bDisabled = FALSE,
+              BOOL bIndeterminate = FALSE, BOOL bShadow = FALSE, BOOL bInactive = FALSE, BYTE alphaSrc = 255);
+    void EndDrawImage(CAfxDrawState& ds);
+    /// Needs no PrepareDrawImage. rectSrc empty: the whole image. Stretch draws it over the whole of rect.
+    BOOL DrawEx(CDC* pDC, CRect rect, int iImageIndex, ImageAlignHorz horzAlign = ImageAlignHorzLeft,
+                ImageAlignVert vertAlign = ImageAlignVertTop, CRect rectSrc = CRect(0, 0, 0, 0), BYTE alphaSrc = 255);
+    static void FillDitheredRect(CDC* pDC, const CRect& rect);
+
+    // Changes to the pixels
+    BOOL ConvertTo32Bits(COLORREF clrTransparent = (COLORREF)-1);
+    BOOL GrayImages(int nGrayImageLuminancePercentage);
+    void AdaptColors(COLORREF clrBase, COLORREF clrTone);
+    BOOL MapTo3dColors(BOOL bUseRGBQUAD = TRUE, COLORREF clrSrc = (COLORREF)-1, COLORREF clrDest = (COLORREF)-1);
+    BOOL Mirror();
+    BOOL MirrorVert();
+    /// Resamples all images by the factor; image size, count and GetScale follow. FALSE when nothing was changed.
+    BOOL SmoothResize(double dblImageScale);
+    BOOL IsScaled() const { return m_dblScale != 1.0; }
+    double GetScale() const { return m_dblScale; }
+    void OnSysColorChange();
+
+    // Looks
+    void SetAlwaysLight(BOOL bAlwaysLight = TRUE) { m_bAlwaysLight = bAlwaysLight; }
+    BOOL GetAlwaysLight() const { return m_bAlwaysLight; }
+    void SetLightPercentage(int nValue);
+    int GetLightPercentage() const { return m_nLightPercentage; }
+    void SetMapTo3DColors(BOOL bMapTo3DColors) { m_bMapTo3DColors = bMapTo3DColors; }
+    BOOL GetMapTo3DColors() const { return m_bMapTo3DColors; }
+    void SetPreMultiplyAutoCheck(BOOL bAuto = TRUE) { m_bAutoCheckPremlt = bAuto; }
+    BOOL IsPreMultiplyAutoCheck() const { return m_bAutoCheckPremlt; }
+    static void SetDisabledImageAlpha(BYTE nValue) { m_nDisabledImageAlpha = nValue; }
+    static BYTE GetDisabledImageAlpha() { return m_nDisabledImageAlpha; }
+    static void __stdcall SetFadedImageAlpha(BYTE nValue) { m_nFadedImageAlpha = nValue; }
+    static BYTE __stdcall GetFadedImageAlpha() { return m_nFadedImageAlpha; }
+    static BOOL Is32BitTransparencySupported() { return TRUE; }
+    static void __stdcall EnableRTL(BOOL bIsRTL = TRUE);
+    static BOOL IsRTL() { return m_bIsRTL; }
+    static void __stdcall CleanUp();
+
+    static BOOL MirrorBitmap(HBITMAP& hbmp, int cxImage);
+    static BOOL __stdcall MirrorBitmapVert(HBITMAP& hbmp, int cyImage);
+    static COLORREF __stdcall MapToSysColor(COLORREF color, BOOL bUseRGBQUAD = TRUE);
+    static COLORREF __stdcall MapFromSysColor(COLORREF color, BOOL bUseRGBQUAD = TRUE);
+    static COLORREF __stdcall MapToSysColorAlpha(COLORREF color);
+    static HRGN __stdcall CreateRegionFromImage(HBITMAP bmp, COLORREF clrTransparent);
+
+    static BOOL m_bDisableTrueColorAlpha;
+
+protected:
+    /// Multiplies colours by alpha; with bAutoCheckPremlt only when some colour exceeds its alpha.
+    static BOOL __stdcall PreMultiplyAlpha(HBITMAP hbmp, BOOL bAutoCheckPremlt);
+    BOOL PreMultiplyAlpha(HBITMAP hbmp);
+
+private:
+    BOOL AppendBitmap(HBITMAP hbmp);
+    BOOL ReplaceWell(HBITMAP hbmp);
+    void UpdateCount();
+    BOOL DrawPixels(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, int nLook, BYTE alphaSrc);
+
+    HBITMAP m_hbmImageWell = NULL;
+    HBITMAP m_hbmImageLight = NULL;
+    CSize m_sizeImage = CSize(16, 15);
+    CSize m_sizeImageDest = CSize(0, 0);
+    CRect m_rectLastDraw = CRect(0, 0, 0, 0);
+    CRect m_rectSubImage = CRect(0, 0, 0, 0);
+    CString m_strFile;
+    CMap<UINT, UINT, int, int> m_mapOffsets;
+    int m_iCount = 0;
+    int m_nBitsPerPixel = 0;
+    int m_nLightPercentage = -1;
+    double m_dblScale = 1.0;
+    COLORREF m_clrTransparent = (COLORREF)-1;
+    BOOL m_bFadeInactive = FALSE;
+    BOOL m_bAlwaysLight = FALSE;
+    BOOL m_bMapTo3DColors = TRUE;
+    BOOL m_bAutoCheckPremlt = FALSE;
+    BOOL m_bReadOnly = FALSE;
+    BOOL m_bUserImagesList = FALSE;
+    BOOL m_bCreated = FALSE;
+
+    static BYTE m_nDisabledImageAlpha;
+    static BYTE m_nFadedImageAlpha;
+    static BOOL m_bIsRTL;
+};
