@@ -1,0 +1,87 @@
+#pragma once
+
+#include "afxwin.h"
+
+#include <memory>
+
+class CContextMenuManager;
+class CFrameImpl;
+class CKeyboardManager;
+class CTooltipManager;
+
+/// An application with the managers of customisable bars and with settings kept in sections of its registry key.
+///
+/// The managers are made by InitXxxManager or by the first GetXxxManager and die with the application object.
+class FRAMEWORK_API CWinAppEx : public CWinApp {
+    DECLARE_DYNAMIC(CWinAppEx)
+public:
+    explicit CWinAppEx(BOOL bResourceSmartUpdate = FALSE);
+    ~CWinAppEx() override;
+
+    int ExitInstance() override;
+
+    // Registry base: the section below which everything of this object lies. "Workspace" unless set.
+    LPCTSTR SetRegistryBase(LPCTSTR lpszSectionName = NULL);
+    LPCTSTR GetRegistryBase();
+    /// The base, szSectionAdd and nothing else: a path below the application's key.
+    CString GetRegSectionPath(LPCTSTR szSectionAdd = _T(""));
+
+    int GetInt(LPCTSTR lpszEntry, int nDefault = 0);
+    CString GetString(LPCTSTR lpszEntry, LPCTSTR lpzDefault = _T(""));
+    /// The caller deletes *ppData with delete[].
+    BOOL GetBinary(LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL GetObject(LPCTSTR lpszEntry, CObject& obj);
+    BOOL WriteInt(LPCTSTR lpszEntry, int nValue);
+    BOOL WriteString(LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    BOOL WriteBinary(LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+    BOOL WriteObject(LPCTSTR lpszEntry, CObject& obj);
+    int GetSectionInt(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, int nDefault = 0);
+    CString GetSectionString(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = _T(""));
+    BOOL GetSectionBinary(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL GetSectionObject(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, CObject& obj);
+    BOOL WriteSectionInt(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, int nValue);
+    BOOL WriteSectionString(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    BOOL WriteSectionBinary(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+    BOOL WriteSectionObject(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, CObject& obj);
+    BOOL IsStateExists(LPCTSTR lpszSectionName);
+    /// Deletes the section's settings.
+    virtual BOOL CleanState(LPCTSTR lpszSectionName = NULL);
+
+    /// FALSE: there was one already.
+    BOOL InitContextMenuManager();
+    BOOL InitKeyboardManager();
+    BOOL InitTooltipManager();
+    CContextMenuManager* GetContextMenuManager();
+    CKeyboardManager* GetKeyboardManager();
+    CTooltipManager* GetTooltipManager();
+
+    /// Shows the popup of a menu resource through the context menu manager. Screen co-ordinates.
+    virtual BOOL ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd);
+    virtual BOOL OnViewDoubleClick(CWnd* pWnd, int iViewId);
+    virtual BOOL OnWorkspaceIdle(CWnd*);
+    BOOL IsResourceSmartUpdate() const { return m_bResourceSmartUpdate; }
+    void EnableLoadWindowPlacement(BOOL bEnable = TRUE) { m_bLoadWindowPlacement = bEnable; }
+    int GetDataVersion() const { return m_iSavedVersion; }
+    int GetDataVersionMajor() const { return HIWORD(m_iSavedVersion); }
+    int GetDataVersionMinor() const { return LOWORD(m_iSavedVersion); }
+
+    BOOL m_bForceImageReset = FALSE;
+
+protected:
+    virtual void PreLoadState() {}
+    virtual void LoadCustomState() {}
+    virtual void PreSaveState() {}
+    virtual void SaveCustomState() {}
+    virtual void OnClosingMainFrame(CFrameImpl*) {}
+    virtual BOOL LoadWindowPlacement(CRect& rectNormalPosition, int& nFlags, int& nShowCmd);
+    virtual BOOL StoreWindowPlacement(const CRect& rectNormalPosition, int nFlags, int nShowCmd);
+
+    BOOL m_bResourceSmartUpdate;
+    BOOL m_bLoadWindowPlacement = TRUE;
+    int m_iSavedVersion = -1;
+    CString m_strRegSection;
+
+private:
+    struct Managers;
+    std::unique_ptr<Managers> m_managers;
+};
