@@ -10,6 +10,7 @@
 
 namespace varnhold {
 class XmlTree;
+struct FileContent;
 
 /// A place in a source text. Lines and columns count from 1, columns in characters (code points); 0 means unknown.
 struct TextPosition {
@@ -59,8 +60,9 @@ private:
 /// UTF-8, UTF-16 (either byte order, also without a mark), US-ASCII, ISO-8859-1, GB2312, GBK (code page 936) and
 /// GB18030. Broken sequences become U+FFFD; an unknown encoding is an error.
 ///
-/// Refused, with an error: what is not well-formed, a NUL character, more or less than one document element, text
-/// beside it, elements nested deeper than c_maxDepth, sources longer than c_maxSize bytes, anything but a plain file.
+/// Refused, with an error: tags, attributes, comments, sections or instructions that are malformed, not closed or
+/// crossed, a NUL character, more or less than one document element, text beside it, elements nested deeper than
+/// c_maxDepth, sources longer than c_maxSize bytes, anything but a plain file.
 ///
 /// A document type definition is skipped and nothing outside the file is ever read: only the five predefined entities
 /// and character references are replaced, any other reference stays in the text as it was written.
@@ -99,6 +101,7 @@ public:
 private:
     bool Fail(const std::wstring& name, const std::wstring& reason, varnhold::TextPosition position);
     bool Take(const std::wstring& name, std::string bytes);
+    bool Take(const std::wstring& name, varnhold::FileContent content);
 
     std::shared_ptr<const varnhold::XmlTree> m_tree;
     std::wstring m_errorText;

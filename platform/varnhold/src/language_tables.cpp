@@ -1,0 +1,208 @@
+#include "src/language_tables.h"
+
+#include "src/file_system.h"
+#include "src/unicode.h"
+#include "src/xml_tree.h"
+#include "varnhold/strings.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace varnhold {
+
+namespace {
+
+std::string_view LocalName(const pugi::xml_node& node) {
+    const std::string_view name = node.name();
+    return name.substr(name.find(':') + 1); // npos + 1 is 0
+}
+
+/// Whether blanks count inside `node`, when they do (or not) around it.
+bool PreservesBlanks(const pugi::xml_node& node, bool inherited) {
+    const pugi::xml_attribute space = node.attribute("xml:space");
+    return space ? std::string_view(space.value()) == "preserve" : inherited;
+}
+
+/// A line break with the blanks around it is the file's layout, not the text's: it counts as one blank, and as none at
+/// either end.
+std::string FoldLineBreaks(std::string_view text) {
+    constexpr std::string_view blanks = " \t\n";
+    std::string folded;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t run = std::min(text.find_first_of(blanks, at), text.size());
+        const std::size_t end = std::min(text.find_first_not_of(blanks, run), text.size());
+        folded += text.substr(at, run - at);
+        const std::string_view blank = text.substr(run, end - run);
+        if (blank.find('\n') == std::string_view::npos)
+            folded += blank;
+        else if (run > 0 && end < text.size())
+            folded += ' ';
+        at = end;
+    }
+    return folded;
+}
+
+/// The element after `node` in document order that is not inside it, without leaving `top`.
+pugi::xml_node NextAfter(pugi::xml_node node, const pugi::xml_node& top) {
+    while (node != top && !node.next_sibling())
+        node = node.parent();
+    return node == top ? pugi::xml_node() : node.next_sibling();
+}
+
+/// The text of a source or target. Spans (pc, mrk) count with what is in them; placeholders and their like have no
+/// text of their own.
+std::string ReadContent(const pugi::xml_node& content, bool preserve) {
+    std::string text;
+    pugi::xml_node node = content.first_child();
+    while (node) {
+        const std::string_view name = LocalName(node);
+        const bool span = node.type() == pugi::node_element && (name == "pc" || name == "mrk");
+        if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
+            text += node.value();
+        else if (name == "cp")
+            AppendUtf8(text, static_cast<char32_t>(std::strtoul(node.attribute("hex").value(), nullptr, 16)));
+        node = span && node.first_child() ? node.first_child() : NextAfter(node, content);
+    }
+    return preserve ? text : FoldLineBreaks(text);
+}
+
+bool SameCode(std::string_view left, std::string_view right) {
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [lower](char a, char b) { return lower(a) == lower(b); });
+}
+
+} // namespace
+
+/// Reads one file into the tables.
+class XliffReader {
+public:
+    XliffReader(LanguageTables& tables, const std::wstring& path, const LanguageTables::ProblemSink& sink)
+        : m_tables(tables), m_path(path), m_sink(sink) {}
+
+    bool Read(const std::wstring& language);
+
+private:
+    void ReadFile(const pugi::xml_node& file, bool preserve);
+    void ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTables::Section& section);
+    void Report(const std::wstring& what, TextPosition position) const {
+        if (m_sink)
+            m_sink(FormatProblem(m_path, position, what));
+    }
+    void Report(const std::wstring& what, const pugi::xml_node& node) const { Report(what, m_tree->GetPosition(node)); }
+
+    LanguageTables& m_tables;
+    const std::wstring& m_path;
+    const LanguageTables::ProblemSink& m_sink;
+    std::shared_ptr<const XmlTree> m_tree;
+};
+
+bool XliffReader::Read(const std::wstring& language) {
+    FileContent content = ReadWholeFile(ToNativePath(m_path), CXmlDocumentWrapper::c_maxSize);
+    if (!content.read) {
+        Report(content.reason, TextPosition());
+        return false;
+    }
+    XmlFailure failure;
+    m_tree = XmlTree::Parse(std::move(content.bytes), BlankText::Keep, failure);
+    if (!m_tree) {
+        Report(failure.reason, failure.position);
+        return false;
+    }
+    const pugi::xml_node root = m_tree->GetRoot();
+    if (LocalName(root) != "xliff" || !std::string_view(root.attribute("version").value()).starts_with("2.")) {
+        Report(L"this is no XLIFF 2 file", root);
+        return false;
+    }
+    const pugi::xml_attribute target = root.attribute("trgLang");
+    if (target && !SameCode(target.value(), wstring2String(language)))
+        Report(L"trgLang is \"" + string2wstring(target.value()) + L"\", but the folder is \"" + language + L"\"",
+               root);
+    const bool preserve = PreservesBlanks(root, false);
+    for (const pugi::xml_node& child : root) {
+        if (LocalName(child) == "file")
+            ReadFile(child, PreservesBlanks(child, preserve));
+    }
+    return true;
+}
+
+void XliffReader::ReadFile(const pugi::xml_node& file, bool preserve) {
+    const char* id = file.attribute("id").value();
+    if (!*id) {
+        Report(L"a file without an id belongs to no section; it is skipped", file);
+        return;
+    }
+    LanguageTables::Section& section = m_tables.m_sections[id];
+    // Groups may nest: they say how an editor shows the units, not what the keys are.
+    std::vector<std::pair<pugi::xml_node, bool>> open{{file.first_child(), preserve}};
+    while (!open.empty()) {
+        auto& [next, blanks] = open.back();
+        if (!next) {
+            open.pop_back();
+            continue;
+        }
+        const pugi::xml_node node = std::exchange(next, next.next_sibling());
+        const bool nodeBlanks = PreservesBlanks(node, blanks);
+        const std::string_view name = LocalName(node);
+        if (name == "group")
+            open.emplace_back(node.first_child(), nodeBlanks);
+        else if (name == "unit")
+            ReadUnit(node, nodeBlanks, section);
+    }
+}
+
+void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTables::Section& section) {
+    const pugi::xml_attribute name = unit.attribute("name");
+    const std::string key = *name.value() ? name.value() : unit.attribute("id").value();
+    if (key.empty()) {
+        Report(L"a unit has neither a name nor an id; it is skipped", unit);
+        return;
+    }
+    std::vector<std::pair<int, std::string>> parts; // by the place that the translation asks for
+    for (const pugi::xml_node& part : unit) {
+        const std::string_view kind = LocalName(part);
+        if (kind != "segment" && kind != "ignorable")
+            continue;
+        const bool blanks = PreservesBlanks(part, preserve);
+        int place = static_cast<int>(parts.size()) + 1;
+        std::string source;
+        std::string target;
+        for (const pugi::xml_node& text : part) {
+            const std::string_view which = LocalName(text);
+            if (which == "source") {
+                source = ReadContent(text, PreservesBlanks(text, blanks));
+            } else if (which == "target") {
+                target = ReadContent(text, PreservesBlanks(text, blanks));
+                place = text.attribute("order").as_int(place);
+            }
+        }
+        parts.emplace_back(place, target.empty() ? source : target);
+    }
+    if (parts.empty()) {
+        Report(L"the unit \"" + string2wstring(key) + L"\" has no segment; it is skipped", unit);
+        return;
+    }
+    std::stable_sort(parts.begin(), parts.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    std::string text;
+    for (const auto& part : parts)
+        text += part.second;
+    if (!section.insert_or_assign(key, string2wstring(text)).second)
+        Report(L"the unit \"" + string2wstring(key) + L"\" was there before; the later one counts", unit);
+}
+
+bool LanguageTables::AddFile(const std::wstring& path, const std::wstring& language, const ProblemSink& sink) {
+    return XliffReader(*this, path, sink).Read(language);
+}
+
+const std::wstring* LanguageTables::Find(std::string_view section, std::string_view key) const {
+    const auto texts = m_sections.find(section);
+    if (texts == m_sections.end())
+        return nullptr;
+    const auto text = texts->second.find(key);
+    return text == texts->second.end() ? nullptr : &text->second;
+}
+
+} // namespace varnhold

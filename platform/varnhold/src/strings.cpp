@@ -1,0 +1,115 @@
+#include "varnhold/strings.h"
+
+#include "src/unicode.h"
+
+namespace varnhold {
+
+namespace {
+
+/// What a lead byte promises: the number of bytes that follow and the range of the first of them, which is what keeps
+/// overlong forms, surrogates and values above U+10FFFF out.
+struct LeadByte {
+    int following = 0;
+    unsigned char low = 0x80;
+    unsigned char high = 0xBF;
+};
+
+LeadByte ReadLeadByte(unsigned char lead) {
+    if (lead >= 0xC2 && lead <= 0xDF)
+        return {1};
+    if (lead == 0xE0)
+        return {2, 0xA0, 0xBF};
+    if (lead == 0xED)
+        return {2, 0x80, 0x9F};
+    if (lead >= 0xE1 && lead <= 0xEF)
+        return {2};
+    if (lead == 0xF0)
+        return {3, 0x90, 0xBF};
+    if (lead == 0xF4)
+        return {3, 0x80, 0x8F};
+    if (lead >= 0xF1 && lead <= 0xF3)
+        return {3};
+    return {0};
+}
+
+} // namespace
+
+char32_t NextFromUtf8(std::string_view text, std::size_t& at) {
+    const auto lead = static_cast<unsigned char>(text[at++]);
+    if (lead < 0x80)
+        return lead;
+    LeadByte rule = ReadLeadByte(lead);
+    if (rule.following == 0)
+        return c_replacement;
+    char32_t c = lead & (0x3F >> rule.following);
+    for (int i = 0; i < rule.following; ++i) {
+        if (at == text.size())
+            return c_replacement;
+        const auto byte = static_cast<unsigned char>(text[at]);
+        if (byte < rule.low || byte > rule.high)
+            return c_replacement;
+        c = c << 6 | (byte & 0x3F);
+        rule.low = 0x80;
+        rule.high = 0xBF;
+        ++at;
+    }
+    return c;
+}
+
+void AppendUtf8(std::string& text, char32_t c) {
+    if (!IsScalarValue(c))
+        c = c_replacement;
+    if (c < 0x80) {
+        text += static_cast<char>(c);
+    } else if (c < 0x800) {
+        text += static_cast<char>(0xC0 | c >> 6);
+        text += static_cast<char>(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        text += static_cast<char>(0xE0 | c >> 12);
+        text += static_cast<char>(0x80 | (c >> 6 & 0x3F));
+        text += static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        text += static_cast<char>(0xF0 | c >> 18);
+        text += static_cast<char>(0x80 | (c >> 12 & 0x3F));
+        text += static_cast<char>(0x80 | (c >> 6 & 0x3F));
+        text += static_cast<char>(0x80 | (c & 0x3F));
+    }
+}
+
+void AppendWide(std::wstring& text, char32_t c) {
+    if (!IsScalarValue(c))
+        c = c_replacement;
+    if (sizeof(wchar_t) == 2 && c >= 0x10000) {
+        text += static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
+        text += static_cast<wchar_t>(0xDC00 + (c & 0x3FF));
+    } else {
+        text += static_cast<wchar_t>(c);
+    }
+}
+
+} // namespace varnhold
+
+std::string wstring2String(std::wstring_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        auto c = static_cast<char32_t>(text[i]);
+        if (sizeof(wchar_t) == 2 && c >= 0xD800 && c <= 0xDBFF && i + 1 < text.size()) {
+            const auto low = static_cast<char32_t>(text[i + 1]);
+            if (low >= 0xDC00 && low <= 0xDFFF) {
+                c = 0x10000 + ((c - 0xD800) << 10) + (low - 0xDC00);
+                ++i;
+            }
+        }
+        varnhold::AppendUtf8(result, c);
+    }
+    return result;
+}
+
+std::wstring string2wstring(std::string_view text) {
+    std::wstring result;
+    result.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();)
+        varnhold::AppendWide(result, varnhold::NextFromUtf8(text, at));
+    return result;
+}

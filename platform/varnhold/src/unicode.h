@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace varnhold {
+
+constexpr char32_t c_replacement = 0xFFFD;
+
+/// True for a code point that a text may hold: not above U+10FFFF and not a surrogate.
+constexpr bool IsScalarValue(char32_t c) {
+    return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF);
+}
+
+/// Takes one code point off `text` at `at` and moves `at` behind it; `at` must be inside. A broken sequence yields
+/// U+FFFD and is skipped as far as it could have been the start of a valid one, at least one byte.
+char32_t NextFromUtf8(std::string_view text, std::size_t& at);
+
+/// Appends `c`, or U+FFFD when it is not a scalar value.
+void AppendUtf8(std::string& text, char32_t c);
+void AppendWide(std::wstring& text, char32_t c);
+
+} // namespace varnhold

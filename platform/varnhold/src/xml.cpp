@@ -1,0 +1,105 @@
+#include "varnhold/xml.h"
+
+#include "src/file_system.h"
+#include "src/xml_tree.h"
+#include "varnhold/strings.h"
+
+#include <utility>
+
+using varnhold::TextPosition;
+using varnhold::XmlTree;
+
+CXmlNodeWrapper::CXmlNodeWrapper(std::shared_ptr<const XmlTree> tree, std::uint32_t element)
+    : m_tree(std::move(tree)), m_element(element) {}
+
+std::wstring CXmlNodeWrapper::GetName() const {
+    return m_tree ? string2wstring(m_tree->GetElement(m_element).node.name()) : std::wstring();
+}
+
+std::size_t CXmlNodeWrapper::GetChildCount() const noexcept {
+    return m_tree ? m_tree->GetElement(m_element).childCount : 0;
+}
+
+CXmlNodeWrapper CXmlNodeWrapper::GetChild(std::size_t index) const {
+    if (index >= GetChildCount())
+        return {};
+    return {m_tree, m_tree->GetElement(m_element).firstChild + static_cast<std::uint32_t>(index)};
+}
+
+std::size_t CXmlNodeWrapper::GetAttributeCount() const noexcept {
+    return m_tree ? m_tree->GetElement(m_element).attributeCount : 0;
+}
+
+std::wstring CXmlNodeWrapper::GetAttributeName(std::size_t index) const {
+    if (index >= GetAttributeCount())
+        return {};
+    return string2wstring(m_tree->GetAttribute(m_tree->GetElement(m_element), index).name());
+}
+
+std::wstring CXmlNodeWrapper::GetAttributeValue(std::size_t index) const {
+    if (index >= GetAttributeCount())
+        return {};
+    return string2wstring(m_tree->GetAttribute(m_tree->GetElement(m_element), index).value());
+}
+
+TextPosition CXmlNodeWrapper::GetPosition() const {
+    return m_tree ? m_tree->GetPosition(m_tree->GetElement(m_element).node) : TextPosition();
+}
+
+TextPosition CXmlNodeWrapper::GetAttributePosition(std::size_t index) const {
+    if (index >= GetAttributeCount())
+        return {};
+    return m_tree->GetPosition(m_tree->GetAttribute(m_tree->GetElement(m_element), index));
+}
+
+CXmlDocumentWrapper::CXmlDocumentWrapper() = default;
+CXmlDocumentWrapper::~CXmlDocumentWrapper() = default;
+CXmlDocumentWrapper::CXmlDocumentWrapper(CXmlDocumentWrapper&&) noexcept = default;
+CXmlDocumentWrapper& CXmlDocumentWrapper::operator=(CXmlDocumentWrapper&&) noexcept = default;
+
+bool CXmlDocumentWrapper::Load(const std::wstring& path) {
+    return Take(path, varnhold::ReadWholeFile(varnhold::ToNativePath(path), c_maxSize));
+}
+
+bool CXmlDocumentWrapper::Load(const wchar_t* path) {
+    return Load(std::wstring(path ? path : L""));
+}
+
+bool CXmlDocumentWrapper::Load(const std::string& path) {
+    return Take(string2wstring(path), varnhold::ReadWholeFile(varnhold::ToNativePath(path), c_maxSize));
+}
+
+bool CXmlDocumentWrapper::Load(const char* path) {
+    return Load(std::string(path ? path : ""));
+}
+
+bool CXmlDocumentWrapper::LoadFromMemory(std::string_view bytes, const std::wstring& name) {
+    return Take(name, std::string(bytes));
+}
+
+CXmlNodeWrapper CXmlDocumentWrapper::GetDocumentElement() const {
+    return m_tree ? CXmlNodeWrapper(m_tree, 0) : CXmlNodeWrapper();
+}
+
+bool CXmlDocumentWrapper::Take(const std::wstring& name, std::string bytes) {
+    varnhold::XmlFailure failure;
+    std::shared_ptr<const XmlTree> tree = XmlTree::Parse(std::move(bytes), varnhold::BlankText::Drop, failure);
+    if (!tree)
+        return Fail(name, failure.reason, failure.position);
+    m_tree = std::move(tree);
+    m_errorText.clear();
+    m_errorReason.clear();
+    m_errorPosition = {};
+    return true;
+}
+
+bool CXmlDocumentWrapper::Take(const std::wstring& name, varnhold::FileContent content) {
+    return content.read ? Take(name, std::move(content.bytes)) : Fail(name, content.reason, {});
+}
+
+bool CXmlDocumentWrapper::Fail(const std::wstring& name, const std::wstring& reason, TextPosition position) {
+    m_errorText = varnhold::FormatProblem(name, position, reason);
+    m_errorReason = reason;
+    m_errorPosition = position;
+    return false;
+}

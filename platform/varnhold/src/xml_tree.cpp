@@ -1,0 +1,190 @@
+#include "src/xml_tree.h"
+
+#include "src/encoding.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace varnhold {
+
+namespace {
+
+constexpr std::size_t c_blockSize = 1024;
+
+struct StatusText {
+    pugi::xml_parse_status status;
+    const wchar_t* text;
+};
+constexpr StatusText c_statusTexts[] = {
+    {pugi::status_out_of_memory, L"there is not enough memory"},
+    {pugi::status_internal_error, L"the parser failed"},
+    {pugi::status_unrecognized_tag, L"this is no tag"},
+    {pugi::status_bad_pi, L"a processing instruction or declaration is malformed or not closed"},
+    {pugi::status_bad_comment, L"a comment is malformed or not closed"},
+    {pugi::status_bad_cdata, L"a CDATA section is malformed or not closed"},
+    {pugi::status_bad_doctype, L"the document type definition is malformed or not closed"},
+    {pugi::status_bad_pcdata, L"a text is malformed"},
+    {pugi::status_bad_start_element, L"a start tag is malformed or not closed"},
+    {pugi::status_bad_attribute, L"an attribute is malformed or not closed"},
+    {pugi::status_bad_end_element, L"an end tag is malformed or not closed"},
+    {pugi::status_end_element_mismatch,
+     L"a start tag and an end tag do not belong together, or one of them is missing"},
+};
+
+const wchar_t* DescribeStatus(pugi::xml_parse_status status) {
+    const auto* found = std::find_if(std::begin(c_statusTexts), std::end(c_statusTexts),
+                                     [status](const StatusText& entry) { return entry.status == status; });
+    return found == std::end(c_statusTexts) ? L"the document is not well-formed" : found->text;
+}
+
+bool IsText(const pugi::xml_node& node) {
+    return node.type() == pugi::node_cdata ||
+           (node.type() == pugi::node_pcdata &&
+            std::string_view(node.value()).find_first_not_of(" \t\r\n") != std::string_view::npos);
+}
+
+bool StartsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
+} // namespace
+
+std::shared_ptr<const XmlTree> XmlTree::Parse(std::string bytes, BlankText blanks, XmlFailure& failure) {
+    std::shared_ptr<XmlTree> tree(new XmlTree);
+    if (bytes.empty()) {
+        failure = {L"the document is empty", {}};
+        return nullptr;
+    }
+    if (bytes.size() > CXmlDocumentWrapper::c_maxSize) {
+        failure = {L"the document is longer than " + std::to_wstring(CXmlDocumentWrapper::c_maxSize) + L" bytes", {}};
+        return nullptr;
+    }
+    if (!DecodeXml(std::move(bytes), tree->m_text, failure.reason)) {
+        failure.position = {1, 1};
+        return nullptr;
+    }
+    tree->IndexLines();
+    if (!tree->ParseText(blanks, failure))
+        return nullptr;
+    return tree;
+}
+
+bool XmlTree::ParseText(BlankText blanks, XmlFailure& failure) {
+    const std::size_t nul = m_text.find('\0');
+    if (nul != std::string::npos) {
+        failure = {L"there is a NUL character", GetPosition(nul)};
+        return false;
+    }
+    m_buffer.assign(m_text.c_str(), m_text.c_str() + m_text.size() + 1);
+    // As a fragment, so that texts beside the document element are seen (and refused) instead of skipped.
+    unsigned options = pugi::parse_default | pugi::parse_fragment;
+    if (blanks == BlankText::Keep)
+        options |= pugi::parse_ws_pcdata;
+    const pugi::xml_parse_result result =
+        m_document.load_buffer_inplace(m_buffer.data(), m_buffer.size(), options, pugi::encoding_utf8);
+    if (!result) {
+        failure = {DescribeStatus(result.status), GetPosition(static_cast<std::size_t>(result.offset))};
+        return false;
+    }
+    pugi::xml_node root;
+    return CheckTopLevel(root, failure) && LayOutElements(root, failure);
+}
+
+bool XmlTree::CheckTopLevel(pugi::xml_node& root, XmlFailure& failure) const {
+    for (const pugi::xml_node& node : m_document) {
+        if (IsText(node)) {
+            const std::size_t offset = static_cast<std::size_t>(node.value() - m_buffer.data());
+            failure = {L"there is text outside the document element",
+                       GetPosition(m_text.find_first_not_of(" \t\r\n", std::min(offset, m_text.size())))};
+            return false;
+        }
+        if (node.type() != pugi::node_element)
+            continue;
+        if (root) {
+            failure = {L"there is a second document element", GetPosition(node)};
+            return false;
+        }
+        root = node;
+    }
+    if (!root)
+        failure = {L"there is no document element", GetPosition(m_text.size())};
+    return !root.empty();
+}
+
+bool XmlTree::LayOutElements(const pugi::xml_node& root, XmlFailure& failure) {
+    m_elements.push_back({root});
+    std::size_t depth = 1;
+    std::size_t levelEnd = 1;
+    for (std::size_t i = 0; i < m_elements.size(); ++i) {
+        if (i == levelEnd) {
+            levelEnd = m_elements.size();
+            if (++depth > CXmlDocumentWrapper::c_maxDepth) {
+                failure = {L"elements are nested deeper than " + std::to_wstring(CXmlDocumentWrapper::c_maxDepth),
+                           GetPosition(m_elements[i].node)};
+                return false;
+            }
+        }
+        const pugi::xml_node node = m_elements[i].node;
+        const auto firstChild = static_cast<std::uint32_t>(m_elements.size());
+        for (const pugi::xml_node& child : node) {
+            if (child.type() == pugi::node_element)
+                m_elements.push_back({child});
+        }
+        Element& element = m_elements[i];
+        element.firstChild = firstChild;
+        element.childCount = static_cast<std::uint32_t>(m_elements.size()) - firstChild;
+        element.firstAttribute = static_cast<std::uint32_t>(m_attributes.size());
+        for (const pugi::xml_attribute& attribute : node.attributes())
+            m_attributes.push_back(attribute);
+        element.attributeCount = static_cast<std::uint32_t>(m_attributes.size()) - element.firstAttribute;
+    }
+    return true;
+}
+
+void XmlTree::IndexLines() {
+    m_lineStarts.push_back(0);
+    std::size_t characters = 0;
+    for (std::size_t i = 0; i < m_text.size(); ++i) {
+        if (i % c_blockSize == 0)
+            m_characterCounts.push_back(characters);
+        characters += StartsCharacter(m_text[i]) ? 1 : 0;
+        const bool endsLine = m_text[i] == '\n' || (m_text[i] == '\r' && m_text[i + 1] != '\n');
+        if (endsLine)
+            m_lineStarts.push_back(i + 1);
+    }
+    if (m_text.size() % c_blockSize == 0)
+        m_characterCounts.push_back(characters);
+}
+
+std::size_t XmlTree::CountCharacters(std::size_t end) const {
+    const std::size_t block = end / c_blockSize;
+    const auto begin = m_text.begin();
+    const auto counted = std::count_if(begin + static_cast<std::ptrdiff_t>(block * c_blockSize),
+                                       begin + static_cast<std::ptrdiff_t>(end), StartsCharacter);
+    return m_characterCounts[block] + static_cast<std::size_t>(counted);
+}
+
+TextPosition XmlTree::GetPosition(std::size_t offset) const {
+    offset = std::min(offset, m_text.size());
+    const auto next = std::upper_bound(m_lineStarts.begin(), m_lineStarts.end(), offset);
+    const auto line = static_cast<std::size_t>(next - m_lineStarts.begin());
+    return {line, CountCharacters(offset) - CountCharacters(*std::prev(next)) + 1};
+}
+
+TextPosition XmlTree::GetPosition(const pugi::xml_node& element) const {
+    return GetPosition(static_cast<std::size_t>(element.name() - m_buffer.data()) - 1);
+}
+
+TextPosition XmlTree::GetPosition(const pugi::xml_attribute& attribute) const {
+    return GetPosition(static_cast<std::size_t>(attribute.name() - m_buffer.data()));
+}
+
+std::wstring FormatProblem(const std::wstring& file, TextPosition position, const std::wstring& text) {
+    std::wstring problem = file;
+    if (position.line > 0)
+        problem += L':' + std::to_wstring(position.line) + L':' + std::to_wstring(position.column);
+    return problem + L": " + text;
+}
+
+} // namespace varnhold
