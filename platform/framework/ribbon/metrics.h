@@ -1,0 +1,70 @@
+#pragma once
+
+#include <algorithm>
+
+/// Every length of the ribbon bar, from the text height of its font and the image scale. Scaled pixels.
+struct RibbonMetrics {
+    static constexpr int rowsPerPanel = 3;
+
+    double scale = 1.0;
+    int textHeight = 0;
+
+    int smallImage = 0;
+    int largeImage = 0;
+
+    int captionHeight = 0; // row above the tabs that stands for the frame's caption or holds the quick access toolbar
+    int tabHeight = 0;
+    int tabPaddingX = 0; // between a tab's text and its side
+    int tabGap = 0;
+    int minTabWidth = 0; // a tab that is narrower than this is not worth a click
+
+    int categoryMarginX = 0;
+    int categoryMarginY = 0;
+    int panelGap = 0;
+    int panelPaddingX = 0;
+    int panelPaddingY = 0;
+    int panelCaptionHeight = 0;
+    int panelContentHeight = 0;
+    int rowHeight = 0;  // height of an intermediate or compact element
+    int elementGap = 0; // between columns, and between groups of one row
+    int separatorWidth = 0;
+    int minPanelWidth = 0;
+    int scrollButtonWidth = 0;
+    int quickAccessGap = 0;
+
+    int PanelHeight() const { return 2 * panelPaddingY + panelContentHeight + panelCaptionHeight; }
+    int CategoryHeight() const { return PanelHeight() + 2 * categoryMarginY; }
+
+    /// A length at 96 DPI in this scale.
+    int Scaled(int length) const { return static_cast<int>(length * scale + 0.5); }
+
+    /// textHeight: of the ribbon's font, already scaled. scale: 1.0 at 96 DPI.
+    static RibbonMetrics FromFont(int textHeight, double scale) {
+        RibbonMetrics m;
+        m.scale = std::max(scale, 1.0);
+        m.textHeight = std::max(textHeight, 1);
+        m.smallImage = m.Scaled(16);
+        m.largeImage = m.Scaled(32);
+        m.rowHeight = std::max(m.textHeight, m.smallImage) + m.Scaled(6);
+        const int largeElement = m.largeImage + 2 * m.textHeight + m.Scaled(9);
+        m.rowHeight = std::max(m.rowHeight, (largeElement + rowsPerPanel - 1) / rowsPerPanel);
+        m.panelContentHeight = rowsPerPanel * m.rowHeight;
+        m.panelCaptionHeight = m.textHeight + m.Scaled(4);
+        m.panelPaddingX = m.Scaled(4);
+        m.panelPaddingY = m.Scaled(3);
+        m.panelGap = m.Scaled(2);
+        m.categoryMarginX = m.Scaled(3);
+        m.categoryMarginY = m.Scaled(2);
+        m.elementGap = m.Scaled(2);
+        m.separatorWidth = m.Scaled(5);
+        m.minPanelWidth = m.Scaled(40);
+        m.scrollButtonWidth = m.Scaled(13);
+        m.tabHeight = m.textHeight + m.Scaled(11);
+        m.tabPaddingX = m.Scaled(10);
+        m.tabGap = m.Scaled(2);
+        m.minTabWidth = m.Scaled(16);
+        m.captionHeight = std::max(m.textHeight, m.smallImage) + m.Scaled(10);
+        m.quickAccessGap = m.Scaled(4);
+        return m;
+    }
+};

@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+#include "shapes.h"
+
+namespace {
+
+const RibbonMetrics g_metrics = RibbonMetrics::FromFont(13, 1.0);
+
+std::vector<RibbonPanelLadder> Ladders(const std::vector<RibbonPanelShape>& shapes, const RibbonMetrics& metrics) {
+    return {[&] {
+        std::vector<RibbonPanelLadder> ladders;
+        for (const RibbonPanelShape& shape : shapes) {
+            ladders.emplace_back(shape, metrics);
+        }
+        return ladders;
+    }()};
+}
+
+std::vector<RibbonPanelShape> AnyCategory(unsigned seed, const RibbonMetrics& metrics) {
+    std::mt19937 random(seed);
+    std::vector<RibbonPanelShape> panels;
+    const int count = std::uniform_int_distribution(1, 12)(random);
+    for (int index = 0; index < count; ++index) {
+        panels.push_back(shapes::AnyPanel(random, metrics));
+    }
+    return panels;
+}
+
+void ExpectSame(const RibbonCategoryArrangement& one, const RibbonCategoryArrangement& two) {
+    ASSERT_EQ(one.panels.size(), two.panels.size());
+    for (size_t index = 0; index < one.panels.size(); ++index) {
+        ASSERT_EQ(one.panels[index].rect, two.panels[index].rect);
+        ASSERT_EQ(one.panels[index].stepCount, two.panels[index].stepCount);
+    }
+}
+
+void ExpectApartAndInside(const RibbonCategoryArrangement& arrangement, const RibbonMetrics& metrics, int width) {
+    const RibbonRect bar{0, 0, width, metrics.CategoryHeight()};
+    std::vector<RibbonRect> rects{arrangement.scrollLeft, arrangement.scrollRight};
+    for (const auto& panel : arrangement.panels) {
+        rects.push_back(panel.rect);
+    }
+    for (size_t one = 0; one < rects.size(); ++one) {
+        ASSERT_TRUE(rects[one].IsEmpty() || bar.Contains(rects[one])) << one;
+        for (size_t other = one + 1; other < rects.size(); ++other) {
+            ASSERT_FALSE(rects[one].Overlaps(rects[other])) << one << " and " << other;
+        }
+    }
+}
+
+TEST(RibbonCategoryLayout, AtEveryWidthPanelsStayApartAndInsideTheSameWidthGivesTheSameAndWiderNeverReducesMore) {
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        const RibbonMetrics metrics = RibbonMetrics::FromFont(13 + seed % 8, 1.0 + (seed % 4) * 0.25);
+        const auto ladders = Ladders(AnyCategory(seed, metrics), metrics);
+        RibbonCategoryArrangement narrower;
+        for (int width = 300; width <= 2000; ++width) {
+            SCOPED_TRACE(testing::Message() << "seed " << seed << " width " << width);
+            const auto arrangement = ArrangeCategory(ladders, metrics, width);
+            ASSERT_NO_FATAL_FAILURE(ExpectApartAndInside(arrangement, metrics, width));
+            ASSERT_NO_FATAL_FAILURE(ExpectSame(arrangement, ArrangeCategory(ladders, metrics, width)));
+            for (size_t index = 0; index < narrower.panels.size(); ++index) {
+                ASSERT_LE(arrangement.panels[index].stepCount, narrower.panels[index].stepCount) << index;
+            }
+            narrower = arrangement;
+        }
+    }
+}
+
+TEST(RibbonCategoryLayout, ElementsOfShownPanelsLieInsideTheirPanels) {
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        const auto shapes = AnyCategory(seed, g_metrics);
+        const auto ladders = Ladders(shapes, g_metrics);
+        for (int width = 300; width <= 2000; width += 37) {
+            const auto arrangement = ArrangeCategory(ladders, g_metrics, width);
+            for (size_t panel = 0; panel < ladders.size(); ++panel) {
+                const RibbonRect& rect = arrangement.panels[panel].rect;
+                const auto inner = ladders[panel].Arrange(arrangement.panels[panel].stepCount);
+                ASSERT_TRUE(rect.IsEmpty() || rect.Width() == inner.width);
+                for (const auto& element : inner.elements) {
+                    ASSERT_TRUE(rect.IsEmpty() || element.rect.IsEmpty() ||
+                                rect.Contains(element.rect.Moved(rect.left, rect.top)));
+                }
+            }
+        }
+    }
+}
+
+TEST(RibbonCategoryLayout, WithRoomNothingIsReducedAndPanelsFollowEachOther) {
+    const auto ladders = Ladders(AnyCategory(3, g_metrics), g_metrics);
+    const auto arrangement = ArrangeCategory(ladders, g_metrics, 100000);
+    int x = g_metrics.categoryMarginX;
+    for (size_t index = 0; index < ladders.size(); ++index) {
+        EXPECT_EQ(arrangement.panels[index].stepCount, 0);
+        EXPECT_EQ(arrangement.panels[index].rect.left, x);
+        EXPECT_EQ(arrangement.panels[index].rect.Width(), ladders[index].FullWidth());
+        x = arrangement.panels[index].rect.right + g_metrics.panelGap;
+    }
+    EXPECT_FALSE(arrangement.scrolls);
+}
+
+class TwoEqualPanels : public testing::Test {
+protected:
+    TwoEqualPanels() {
+        RibbonPanelShape panel;
+        panel.elements.assign(3, shapes::LargeButton(60, g_metrics));
+        panel.captionWidth = 20;
+        panel.collapsedWidth = 44;
+        m_ladders = Ladders({panel, panel}, g_metrics);
+        m_justTooNarrow = 2 * m_ladders[0].FullWidth() + g_metrics.panelGap + 2 * g_metrics.categoryMarginX - 1;
+    }
+    std::vector<RibbonPanelLadder> m_ladders;
+    int m_justTooNarrow = 0;
+};
+
+TEST_F(TwoEqualPanels, TheRightOneReducesFirst) {
+    const auto arrangement = ArrangeCategory(m_ladders, g_metrics, m_justTooNarrow);
+    EXPECT_EQ(arrangement.panels[0].stepCount, 0);
+    EXPECT_EQ(arrangement.panels[1].stepCount, 1);
+}
+
+TEST_F(TwoEqualPanels, TheCollapseOrderNamesWhoReducesFirst) {
+    const int order[] = {0, 0, 0, 7, -1};
+    const auto arrangement = ArrangeCategory(m_ladders, g_metrics, m_justTooNarrow, order);
+    EXPECT_EQ(arrangement.panels[0].stepCount, 1);
+    EXPECT_EQ(arrangement.panels[1].stepCount, 0);
+}
+
+TEST(RibbonCategoryLayout, WhatDoesNotFitCollapsedScrollsByWholePanels) {
+    std::vector<RibbonPanelShape> panels(20);
+    for (auto& panel : panels) {
+        panel.elements.assign(3, shapes::LargeButton(60, g_metrics));
+        panel.captionWidth = 20;
+        panel.collapsedWidth = 44;
+    }
+    const auto ladders = Ladders(panels, g_metrics);
+    const auto start = ArrangeCategory(ladders, g_metrics, 400);
+    ASSERT_TRUE(start.scrolls);
+    EXPECT_FALSE(start.panels[0].rect.IsEmpty());
+    EXPECT_TRUE(start.panels[19].rect.IsEmpty());
+    EXPECT_TRUE(start.scrollLeft.IsEmpty());
+    EXPECT_FALSE(start.scrollRight.IsEmpty());
+
+    const auto end = ArrangeCategory(ladders, g_metrics, 400, {}, 1000);
+    EXPECT_FALSE(end.panels[19].rect.IsEmpty()) << "the first panel is held so that the last page is full";
+    EXPECT_FALSE(end.panels[static_cast<size_t>(end.firstPanel)].rect.IsEmpty());
+    EXPECT_TRUE(end.scrollRight.IsEmpty());
+    EXPECT_FALSE(end.scrollLeft.IsEmpty());
+}
+
+TEST(RibbonCategoryLayout, ABarTooNarrowForAnythingShowsNothingOutside) {
+    const auto ladders = Ladders(AnyCategory(5, g_metrics), g_metrics);
+    for (int width = 0; width < 300; ++width) {
+        ASSERT_NO_FATAL_FAILURE(ExpectApartAndInside(ArrangeCategory(ladders, g_metrics, width), g_metrics, width));
+    }
+}
+
+TEST(RibbonCategoryLayout, FiftyTimesTheElementsTakeNoMoreThanAHundredAndFiftyTimesTheTime) {
+    const auto measure = [](size_t elements) {
+        RibbonPanelShape panel;
+        panel.captionWidth = 20;
+        panel.collapsedWidth = 44;
+        panel.elements.assign(elements, shapes::LargeButton(60, g_metrics));
+        std::chrono::nanoseconds best = std::chrono::hours(1);
+        for (int attempt = 0; attempt < 5; ++attempt) {
+            const auto start = std::chrono::steady_clock::now();
+            const auto ladders = Ladders({panel}, g_metrics);
+            const auto arrangement = ArrangeCategory(ladders, g_metrics, 300);
+            const auto placed = ladders[0].Arrange(arrangement.panels[0].stepCount);
+            best = std::min<std::chrono::nanoseconds>(best, std::chrono::steady_clock::now() - start);
+        }
+        return best;
+    };
+    EXPECT_LT(measure(50000), 150 * measure(1000));
+}
+
+} // namespace
