@@ -13,7 +13,7 @@ const RibbonMetrics g_metrics = RibbonMetrics::FromFont(13, 1.0);
 RibbonPanelShape Panel(std::vector<RibbonElementShape> elements) {
     RibbonPanelShape panel;
     panel.elements = std::move(elements);
-    panel.captionWidth = 30;
+    panel.captionWidth = 60;
     panel.collapsedWidth = 44;
     return panel;
 }
@@ -114,7 +114,7 @@ TEST(RibbonPanelLayout, AnEmptyPanelHasItsCaption) {
     const RibbonPanelLadder ladder(Panel({}), g_metrics);
     const auto full = ladder.Arrange(0);
     EXPECT_FALSE(full.caption.IsEmpty());
-    EXPECT_GE(full.width, 30);
+    EXPECT_GE(full.width, 60);
 }
 
 TEST(RibbonPanelLayout, EveryStepOfAnyPanelIsNarrowerAndKeepsItsElementsApartAndInside) {
