@@ -1,0 +1,16 @@
+#pragma once
+
+/// The common controls.
+#include "afxwin.h"
+#include "fx/image_list.h"
+#include "fx/header_control.h"
+#include "fx/list_control.h"
+#include "fx/progress_control.h"
+#include "fx/rich_edit_control.h"
+#include "fx/slider_control.h"
+#include "fx/spin_control.h"
+#include "fx/status_bar_control.h"
+#include "fx/tab_control.h"
+#include "fx/tool_bar_control.h"
+#include "fx/tool_tip_control.h"
+#include "fx/tree_control.h"

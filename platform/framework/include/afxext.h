@@ -1,0 +1,19 @@
+#pragma once
+
+#include "afxcmn.h"
+#include "afxwin.h"
+#include "fx/control_bar.h"
+#include "fx/status_bar.h"
+
+class CDocument;
+class CDocTemplate;
+class CView;
+
+/// What a frame's creation hands down to its client window.
+struct CCreateContext {
+    CRuntimeClass* m_pNewViewClass = NULL;
+    CDocument* m_pCurrentDoc = NULL;
+    CDocTemplate* m_pNewDocTemplate = NULL;
+    CView* m_pLastView = NULL;
+    CFrameWnd* m_pCurrentFrame = NULL;
+};

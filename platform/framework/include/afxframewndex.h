@@ -1,0 +1,71 @@
+#pragma once
+
+#include "afxbasepane.h"
+#include "fx/frame_impl.h"
+
+class CDockablePane;
+class CMFCToolBarMenuButton;
+class CPaneFrameWnd;
+
+/// A frame with docked panes, ribbon or menu bar.
+class FRAMEWORK_API CFrameWndEx : public CFrameWnd {
+    DECLARE_DYNCREATE(CFrameWndEx)
+
+public:
+    CFrameWndEx();
+    ~CFrameWndEx() override;
+
+    BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                   CWnd* pParentWnd = NULL, CCreateContext* pContext = NULL) override;
+
+    CDockingManager* GetDockingManager() { return &m_Impl.DockingManager(); }
+    CDockingManager* FindDockingManager() override { return &m_Impl.DockingManager(); }
+    BOOL AddPane(CBasePane* pControlBar, BOOL bTail = TRUE);
+    BOOL InsertPane(CBasePane* pControlBar, CBasePane* pTarget, BOOL bAfter = TRUE);
+    void RemovePaneFromDockManager(CBasePane* pControlBar, BOOL bDestroy, BOOL bAdjustLayout, BOOL bAutoHide,
+                                   CBasePane* pBarReplacement);
+    CBasePane* GetPane(UINT nID);
+    BOOL EnableDocking(DWORD dwDockStyle);
+    void DockPane(CBasePane* pBar, UINT nDockBarID = 0, LPCRECT lpRect = NULL);
+    BOOL DockPaneLeftOf(CPane* pBar, CPane* pLeftOf);
+    void ShowPane(CBasePane* pBar, BOOL bShow, BOOL bDelay, BOOL bActivate);
+    virtual BOOL OnShowPanes(BOOL bShow);
+    void EnablePaneMenu(BOOL bEnable, UINT uiCustomizeCmd, const CString& strCustomizeLabel,
+                        UINT uiViewToolbarsMenuEntryID, BOOL bContextMenuShowsToolbarsOnly = FALSE,
+                        BOOL bViewMenuShowsToolbarsOnly = FALSE);
+
+    void RecalcLayout(BOOL bNotify = TRUE) override;
+    virtual void AdjustDockingLayout(HDWP hdwp = NULL);
+
+    CMFCRibbonBar* GetRibbonBar();
+    const CMFCMenuBar* GetMenuBar() const;
+    BOOL IsMenuBarAvailable() const { return GetMenuBar() != NULL; }
+    CMFCPopupMenu* GetActivePopup() const { return m_Impl.ActivePopup(); }
+    UINT GetDefaultResId() const { return m_Impl.m_defaultResourceId; }
+    void SetMenuBar(CMFCMenuBar* bar) { m_Impl.SetMenuBar(bar); }
+
+    virtual BOOL OnShowPopupMenu(CMFCPopupMenu* pMenu);
+    virtual void OnClosePopupMenu(CMFCPopupMenu* pMenuPopup);
+    virtual BOOL OnShowCustomizePane(CMFCPopupMenu* pMenuPane, UINT uiToolbarID);
+    virtual BOOL OnTearOffMenu(CMFCPopupMenu* pMenuPopup, CPane* pBar);
+    virtual BOOL OnDrawMenuImage(CDC* pDC, const CMFCToolBarMenuButton* pMenuButton, const CRect& rectImage);
+    virtual void OnDrawMenuLogo(CDC* pDC, CMFCPopupMenu* pMenu, const CRect& rectLogo);
+    virtual BOOL OnMenuButtonToolHitTest(CMFCToolBarButton* pButton, TOOLINFO* pTI);
+    virtual BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* pButton, CString& strTTText);
+    virtual BOOL OnCloseDockingPane(CDockablePane* pPane);
+    virtual BOOL OnCloseMiniFrame(CPaneFrameWnd* pWnd);
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg LRESULT OnChangeVisualManager(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnPaneCheck(UINT nID);
+    afx_msg void OnUpdatePaneMenu(CCmdUI* pCmdUI);
+
+protected:
+    CFrameImpl m_Impl{this};
+    DECLARE_MESSAGE_MAP()
+};

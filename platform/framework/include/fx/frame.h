@@ -1,0 +1,148 @@
+#pragma once
+
+#include "fx/bar_styles.h"
+#include "fx/wnd.h"
+
+class CControlBar;
+class CDockingManager;
+struct CCreateContext;
+
+/// A frame whose title takes the document's name in front of its own.
+#define FWS_ADDTOTITLE 0x00008000L
+/// The title is "document - frame" instead of "frame - document".
+#define FWS_PREFIXTITLE 0x00004000L
+#define FWS_SNAPTOBARS 0x00002000L
+
+/// Values of GetMenuBarState / SetMenuBarState and of the visibility.
+#define AFX_MBS_VISIBLE 0x01L
+#define AFX_MBS_HIDDEN 0x02L
+#define AFX_MBV_KEEPVISIBLE 0x01L
+#define AFX_MBV_DISPLAYONFOCUS 0x02L
+#define AFX_MBV_DISPLAYONF10 0x04L
+
+/// Bits that say what a frame does at its next idle time (m_nIdleFlags).
+enum FrameIdleFlags { idleMenu = 1, idleTitle = 2, idleNotify = 4, idleLayout = 8 };
+
+/// A top-level or MDI child frame window: it holds menu, accelerator table, title, bars around its client area and
+/// routes commands (itself, then the application; derived frames put their active child in front). Create it with new:
+/// the object deletes itself after WM_NCDESTROY.
+class FRAMEWORK_API CFrameWnd : public CWnd {
+    DECLARE_DYNCREATE(CFrameWnd)
+
+public:
+    static const CRect rectDefault;
+
+    CFrameWnd();
+    ~CFrameWnd() override;
+
+    /// Both return FALSE when the window could not be made; the object is then deleted unless it was never attached.
+    virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
+                        const RECT& rect = rectDefault, CWnd* pParentWnd = NULL, LPCTSTR lpszMenuName = NULL,
+                        DWORD dwExStyle = 0, CCreateContext* pContext = NULL);
+    /// Takes menu, accelerator table, icon and title (first part of the string) from the resources with one id. Missing
+    /// menu, table or string leave the frame without it.
+    virtual BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                           CWnd* pParentWnd = NULL, CCreateContext* pContext = NULL);
+
+    /// Loads the table from the resources; FALSE when there is none. The frame must not have a table yet.
+    BOOL LoadAccelTable(LPCTSTR lpszResourceName);
+    /// Replaces the table and destroys the former one, unless it is the same or came from the resources.
+    void ReplaceAccelTable(HACCEL newTable);
+
+    virtual void ActivateFrame(int nCmdShow = -1);
+    virtual CFrameWnd* GetActiveFrame();
+    virtual void RecalcLayout(BOOL bNotify = TRUE);
+
+    void BeginModalState() override;
+    void EndModalState() override;
+    BOOL InModalState() const { return m_cModalStack > 0; }
+    void ShowOwnedWindows(BOOL bShow);
+
+    /// The bar that shows messages: the child with the status bar's id. NULL when there is none.
+    virtual CWnd* GetMessageBar();
+    /// The prompt of a command: the first line of the string resource with that id, empty when there is none.
+    virtual void GetMessageString(UINT nID, CString& rMessage) const;
+    void SetMessageText(LPCTSTR lpszText);
+    void SetMessageText(UINT nID);
+
+    CString GetTitle() const { return m_strTitle; }
+    void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
+    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+    virtual void OnUpdateFrameMenu(HMENU hMenuAlt);
+    /// Sets the menu at the next idle time.
+    virtual void DelayUpdateFrameMenu(HMENU hMenuAlt);
+
+    virtual DWORD GetMenuBarState();
+    virtual BOOL SetMenuBarState(DWORD nState);
+    virtual DWORD GetMenuBarVisibility();
+    virtual void SetMenuBarVisibility(DWORD nStyle);
+
+    CControlBar* GetControlBar(UINT nID);
+    void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
+    BOOL IsTracking() const { return m_nIDTracking != 0; }
+    afx_msg BOOL OnBarCheck(UINT nID);
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
+
+    /// A control bar says where it belongs; the frame does not own it.
+    void AddControlBar(CControlBar* bar);
+    void RemoveControlBar(CControlBar* bar);
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    /// NULL unless the frame docks panes.
+    virtual CDockingManager* FindDockingManager() { return NULL; }
+
+    BOOL m_bAutoMenuEnable = TRUE; ///< items without a handler are disabled when their menu opens
+    HACCEL m_hAccelTable = NULL;   ///< current table, NULL when none; replace it with ReplaceAccelTable
+
+protected:
+    virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+    virtual void OnShowMenuBar();
+    virtual void OnHideMenuBar();
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    void PostNcDestroy() override;
+    /// The table that translates keys now; an MDI child's comes before the frame's own.
+    virtual HACCEL GetDefaultAccelerator();
+    /// The resource id of icon and class; used by PreCreateWindow.
+    LPCTSTR GetIconWndClass(DWORD style, UINT resourceId);
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnClose();
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
+    afx_msg void OnEnterIdle(UINT nWhy, CWnd* pWho);
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    DECLARE_MESSAGE_MAP()
+
+    HMENU m_hMenuDefault = NULL; ///< the frame's own menu
+    HMENU m_hMenuAlt = NULL;     ///< set at the next idle time when idleMenu is on
+    UINT m_nIDHelp = 0;          ///< the id given to LoadFrame
+    UINT m_nIDTracking = 0;      ///< menu item under the cursor
+    UINT m_nIDLastMessage = 0;   ///< id of the message shown last, 0 for plain text
+    UINT m_nIdleFlags = 0;       ///< FrameIdleFlags
+    CString m_strTitle;          ///< the frame's own title, without a document
+    CObList m_listControlBars;   ///< CControlBar, not owned
+    BOOL m_isAccelTableOwned = FALSE;
+
+private:
+    BOOL CreateFromMenu(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent, HMENU menu,
+                        DWORD exStyle, CCreateContext* context);
+    void LayOutDuringIdle();
+
+    int m_cModalStack = 0;
+    std::vector<HWND> m_disabledWindows; ///< by BeginModalState
+    bool m_isInLayout = false;
+    DWORD m_menuBarState = AFX_MBS_VISIBLE;
+    DWORD m_menuBarVisibility = AFX_MBV_KEEPVISIBLE;
+};
