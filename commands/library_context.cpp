@@ -9,7 +9,7 @@
 
 std::vector<CBitmap*> g_layCtrlBmp;
 
-CQkMfc::CQkMfc() = default;
+CQkMfc::CQkMfc() { Init(); }
 
 CQkMfc::~CQkMfc() = default;
 
@@ -18,4 +18,41 @@ void CQkMfc::Init() {}
 CQkMfc* CQkMfc::Ins() {
     static CQkMfc instance;
     return &instance;
+}
+
+namespace {
+
+std::wstring InstallationDirectory() {
+    std::wstring directory;
+    FileOp::GetAppPath(directory);
+    return directory;
+}
+
+std::wstring RecordedMediaFolder() {
+    const wchar_t* const keyPath =
+        afxGlobalData.bIsWow6432Node ? L"Software\\Wow6432Node\\HALVORN\\Tessaly\\" : L"Software\\HALVORN\\Tessaly\\";
+    CKey key;
+    std::wstring folder;
+    if (key.Open(HKEY_LOCAL_MACHINE, keyPath))
+        key.GetStringValue(L"FlashPath", folder);
+    return MediaFolderOf(folder);
+}
+
+} // namespace
+
+CString GetIconPathStr(const std::wstring& path, int size) {
+    static const std::wstring directory = InstallationDirectory();
+    return IconFileBelow(directory, path, size).c_str();
+}
+
+CString GetHelpFileName(int id, const CString&) {
+    std::wstring helpFile;
+    CMenuIdMgr::Ins()->GetHelpFile(id, helpFile);
+    return helpFile.c_str();
+}
+
+bool GetHaveMedias_Brevant(CString& folder) {
+    static const std::wstring known = RecordedMediaFolder();
+    folder = known.c_str();
+    return !known.empty();
 }

@@ -1,20 +1,12 @@
 #include "menu_event.h"
 
-bool CMenuReactor::DisableMain() const {
-    return false;
-}
+bool CMenuReactor::DisableMain() const { return false; }
 
-bool CMenuReactor::MenuClick(unsigned int) const {
-    return false;
-}
+bool CMenuReactor::MenuClick(unsigned int) const { return false; }
 
-bool CMenuReactor::Update(CCmdUI*) const {
-    return false;
-}
+bool CMenuReactor::Update(CCmdUI*) const { return false; }
 
-CMenuEvtHandleMgr::CMenuEvtHandleMgr() {
-    m_mutex.setPrompt("CMenuEvtHandleMgr::m_mutex");
-}
+CMenuEvtHandleMgr::CMenuEvtHandleMgr() { m_mutex.setPrompt("CMenuEvtHandleMgr::m_mutex"); }
 
 CMenuEvtHandleMgr* CMenuEvtHandleMgr::Ins() {
     static CMenuEvtHandleMgr instance;

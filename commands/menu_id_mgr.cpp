@@ -59,9 +59,7 @@ bool CMenuIdMgr::GetToolTip(const int& id, std::wstring& toolTip) const {
     return GetFilledText(id, &MenuIdRecord::toolTip, toolTip);
 }
 
-bool CMenuIdMgr::GetCmd(int id, std::wstring& cmd) const {
-    return GetFilledText(id, &MenuIdRecord::cmd, cmd);
-}
+bool CMenuIdMgr::GetCmd(int id, std::wstring& cmd) const { return GetFilledText(id, &MenuIdRecord::cmd, cmd); }
 
 bool CMenuIdMgr::GetCmdParam(int id, std::wstring& param) const {
     return GetFilledText(id, &MenuIdRecord::param, param);

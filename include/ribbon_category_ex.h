@@ -10,13 +10,12 @@ class BARWRIGHT_API CMFCRibbonCategoryEx : public CMFCRibbonCategory {
     DECLARE_DYNCREATE(CMFCRibbonCategoryEx)
 
 public:
-    CMFCRibbonCategoryEx() = default;
-
     /// The command id, 0 until SetID.
     UINT GetID() const { return m_nID; }
     void SetID(UINT id) { m_nID = id; }
 
-    void CopyFrom(CMFCRibbonCategory& src) override;
+protected:
+    CMFCRibbonCategoryEx() = default;
 
 private:
     UINT m_nID = 0;

@@ -1,0 +1,31 @@
+#include "config/element_kind.h"
+
+#include "config/text_case.h"
+
+namespace {
+
+struct KindName {
+    std::wstring_view type;
+    ElementKind kind;
+};
+
+constexpr KindName kindNames[] = {
+    {L"BUTTON", ElementKind::Button},
+    {L"GROUP", ElementKind::Group},
+    {L"SLIDER", ElementKind::Slider},
+    {L"label", ElementKind::Label},
+    {L"edit", ElementKind::Edit},
+    {L"qkRibbonCheckComb", ElementKind::CheckCombo},
+    {L"qkRibbonMultiComb", ElementKind::MultiCombo},
+    {L"qkRibbonMultiComb2", ElementKind::LightCombo},
+};
+
+} // namespace
+
+ElementKind KindOfElement(std::wstring_view type) noexcept {
+    for (const KindName& name : kindNames) {
+        if (EqualsIgnoringCase(type, name.type))
+            return name.kind;
+    }
+    return ElementKind::Unknown;
+}

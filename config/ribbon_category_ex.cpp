@@ -1,0 +1,3 @@
+#include "ribbon_category_ex.h"
+
+IMPLEMENT_DYNCREATE(CMFCRibbonCategoryEx, CMFCRibbonCategory)

@@ -1,0 +1,189 @@
+#include "ribbon_icon_button.h"
+
+#include "elements/icon_file.h"
+
+#include <afxglobals.h>
+#include <afxtoolbarimages.h>
+#include <varnhold/language.h>
+
+IMPLEMENT_DYNCREATE(CMFCRibbonUNIcoButton, CMFCRibbonButton)
+
+CString CMFCRibbonUNIcoButton::s_skinStyle;
+
+namespace {
+
+constexpr int largeSide = 32;
+constexpr int smallSide = 16;
+
+/// The image size that a type stands for, in pixels at 96 DPI.
+CSize UnscaledSize(CMFCRibbonBaseElement::RibbonImageType type) {
+    const int side = type == CMFCRibbonBaseElement::RibbonImageLarge ? largeSide : smallSide;
+    return CSize(side, side);
+}
+
+CSize ScaledSize(CMFCRibbonBaseElement::RibbonImageType type) {
+    const CSize size = UnscaledSize(type);
+    if (!afxGlobalData.IsRibbonImageScaleEnabled())
+        return size;
+    const double scale = afxGlobalData.GetRibbonImageScale();
+    if (scale == 1.0)
+        return size;
+    return CSize(static_cast<int>(size.cx * scale + 0.5), static_cast<int>(size.cy * scale + 0.5));
+}
+
+CString AlternateOf(const CString& path) {
+    CString alternate = path;
+    alternate.Replace(L"modle", L"modle_0");
+    return alternate;
+}
+
+/// Puts another value in a variable's place and the old one back at the end of the scope.
+template <class T>
+class Lent {
+public:
+    Lent(T& place, const T& value) : m_place(place), m_kept(place) { m_place = value; }
+    ~Lent() { m_place = m_kept; }
+    Lent(const Lent&) = delete;
+    Lent& operator=(const Lent&) = delete;
+
+private:
+    T& m_place;
+    const T m_kept;
+};
+
+} // namespace
+
+CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, int smallImageIndex, int largeImageIndex,
+                                             BOOL alwaysShowDescription)
+    : CMFCRibbonButton(id, text, smallImageIndex, largeImageIndex, alwaysShowDescription) {}
+
+CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, HICON largeIcon, BOOL alwaysShowDescription,
+                                             HICON smallIcon, BOOL autoDestroyIcon, BOOL alphaBlendIcon)
+    : CMFCRibbonButton(id, text, largeIcon, alwaysShowDescription, smallIcon, autoDestroyIcon, alphaBlendIcon) {}
+
+CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, const CString& largeIconPath,
+                                             BOOL alwaysShowDescription, const CString& smallIconPath,
+                                             BOOL autoDestroyIcon, BOOL alphaBlendIcon, BOOL keepLargePath)
+    : CMFCRibbonButton(id, text, static_cast<HICON>(nullptr), alwaysShowDescription, nullptr, autoDestroyIcon,
+                       alphaBlendIcon),
+      m_largeIconPath(largeIconPath),
+      m_smallIconPath(smallIconPath),
+      m_largeAlternatePath(keepLargePath ? largeIconPath : AlternateOf(largeIconPath)),
+      m_smallAlternatePath(AlternateOf(smallIconPath)) {
+    TryIconFile(m_largeIconPath, largeSide);
+    TryIconFile(m_smallIconPath, smallSide);
+}
+
+void CMFCRibbonUNIcoButton::SetSkinStyle(CString style) { s_skinStyle = style; }
+
+CMFCRibbonUNIcoButton* CMFCRibbonUNIcoButton::GetIconButtonOriginal() const {
+    return DYNAMIC_DOWNCAST(CMFCRibbonUNIcoButton, GetOriginal());
+}
+
+CSize CMFCRibbonUNIcoButton::GetImageSize(RibbonImageType type) const {
+    if (const CMFCRibbonUNIcoButton* original = GetIconButtonOriginal())
+        return original->GetImageSize(type);
+    if (m_largeIconPath.IsEmpty())
+        return CMFCRibbonButton::GetImageSize(type);
+    return ScaledSize(type);
+}
+
+void CMFCRibbonUNIcoButton::DrawImage(CDC* dc, RibbonImageType type, CRect rect) {
+    if (CMFCRibbonUNIcoButton* original = GetIconButtonOriginal())
+        DrawThroughOriginal(*original, dc, type, rect);
+    else if (!m_largeIconPath.IsEmpty() && !m_largeAlternatePath.IsEmpty())
+        DrawIconFiles(dc, type, rect);
+}
+
+void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type,
+                                                CRect rect) {
+    const Lent disabled(original.m_bIsDisabled, m_bIsDisabled);
+    const Lent place(original.m_rect, m_rect);
+    original.DrawImage(dc, type, rect);
+}
+
+void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect) {
+    const bool alternate = s_skinStyle == L"0";
+    const OwnedIcon large = LoadIconFile(alternate ? m_largeAlternatePath : m_largeIconPath, largeSide);
+    const OwnedIcon small = LoadIconFile(alternate ? m_smallAlternatePath : m_smallIconPath, smallSide);
+    // The handles are the element's own for the time of this draw only.
+    const Lent largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);
+    if (!m_hIcon) {
+        const Lent noSmallHandle(m_hIconSmall, static_cast<HICON>(nullptr));
+        CMFCRibbonButton::DrawImage(dc, type, rect);
+        return;
+    }
+    const Lent smallHandle(m_hIconSmall, small.Get() ? small.Get() : m_hIconSmall);
+    const HICON icon = type == RibbonImageSmall && m_hIconSmall ? m_hIconSmall : m_hIcon;
+    if (m_bIsDisabled)
+        DrawDisabledIcon(dc, icon, UnscaledSize(type), ScaledSize(type), rect.TopLeft());
+    else
+        DrawEnabledIcon(dc, icon, ScaledSize(type), rect.TopLeft());
+}
+
+void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, HICON icon, CSize unscaled, CSize scaled, CPoint corner) const {
+    CMFCToolBarImages images;
+    images.SetImageSize(unscaled);
+    const int index = images.AddIcon(icon, m_bAlphaBlendIcon);
+    CAfxDrawState state;
+    if (index < 0 || !images.PrepareDrawImage(state, scaled))
+        return;
+    constexpr BOOL isHilite = FALSE;
+    constexpr BOOL isDisabled = TRUE;
+    images.Draw(dc, corner.x, corner.y, index, isHilite, isDisabled, FALSE, FALSE, FALSE, 255);
+    images.EndDrawImage(state);
+}
+
+void CMFCRibbonUNIcoButton::DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, CPoint corner) const {
+    const CWnd* const parent = GetParentWnd();
+    const bool isRightToLeft = parent && (parent->GetExStyle() & WS_EX_LAYOUTRTL);
+    ::DrawIconEx(dc->GetSafeHdc(), corner.x, corner.y, icon, scaled.cx, scaled.cy, 0, nullptr,
+                 DI_NORMAL | (isRightToLeft ? DI_NOMIRROR : 0));
+}
+
+void CMFCRibbonUNIcoButton::OnDraw(CDC* dc) {
+    const std::wstring translated = CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1);
+    // The member, not SetText: that would take a part of the text for key tips.
+    const Lent displayed(m_strText, CString(translated.c_str()));
+    CMFCRibbonButton::OnDraw(dc);
+}
+
+void CMFCRibbonUNIcoButton::OnAfterChangeRect(CDC* dc) { CMFCRibbonButton::OnAfterChangeRect(dc); }
+
+void CMFCRibbonUNIcoButton::CopyFrom(const CMFCRibbonBaseElement& src) {
+    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonUNIcoButton, &src);
+    if (source && !m_bAutoDestroyIcon) {
+        m_largeIconPath = source->m_largeIconPath;
+        m_smallIconPath = source->m_smallIconPath;
+    }
+    CMFCRibbonButton::CopyFrom(src);
+}
+
+IMPLEMENT_DYNCREATE(CMFCRibbonSmallButton, CMFCRibbonUNIcoButton)
+
+CMFCRibbonSmallButton::CMFCRibbonSmallButton(UINT id, LPCTSTR text, int smallImageIndex, int largeImageIndex,
+                                             BOOL alwaysShowDescription)
+    : CMFCRibbonUNIcoButton(id, text, smallImageIndex, largeImageIndex, alwaysShowDescription) {}
+
+CMFCRibbonSmallButton::CMFCRibbonSmallButton(UINT id, LPCTSTR text, HICON largeIcon, BOOL alwaysShowDescription,
+                                             HICON smallIcon, BOOL autoDestroyIcon, BOOL alphaBlendIcon)
+    : CMFCRibbonUNIcoButton(id, text, largeIcon, alwaysShowDescription, smallIcon, autoDestroyIcon, alphaBlendIcon) {}
+
+CMFCRibbonSmallButton::CMFCRibbonSmallButton(UINT id, LPCTSTR text, const CString& largeIconPath,
+                                             BOOL alwaysShowDescription, const CString& smallIconPath,
+                                             BOOL autoDestroyIcon, BOOL alphaBlendIcon)
+    : CMFCRibbonUNIcoButton(id, text, largeIconPath, alwaysShowDescription, smallIconPath, autoDestroyIcon,
+                            alphaBlendIcon, FALSE) {}
+
+BOOL CMFCRibbonSmallButton::HasLargeMode() const {
+    if (m_smallMode)
+        return FALSE;
+    const CSize size = GetImageSize(RibbonImageLarge);
+    return size.cx != 0 || size.cy != 0;
+}
+
+void CMFCRibbonSmallButton::CopyFrom(const CMFCRibbonBaseElement& src) {
+    CMFCRibbonUNIcoButton::CopyFrom(src);
+    if (const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonSmallButton, &src))
+        m_smallMode = source->m_smallMode;
+}
