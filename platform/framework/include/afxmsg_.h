@@ -5,9 +5,7 @@
 #include "fx/message_shapes.h"
 
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
-    const AFX_MSGMAP* theClass::GetMessageMap() const {                                                                \
-        return GetThisMessageMap();                                                                                    \
-    }                                                                                                                  \
+    const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); }                                  \
     const AFX_MSGMAP* PASCAL theClass::GetThisMessageMap() {                                                           \
         using ThisClass [[maybe_unused]] = theClass;                                                                   \
         using TheBaseClass = baseClass;                                                                                \

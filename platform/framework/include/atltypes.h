@@ -197,21 +197,9 @@ private:
     }
 };
 
-inline CPoint CSize::operator+(POINT point) const noexcept {
-    return CPoint(cx + point.x, cy + point.y);
-}
-inline CPoint CSize::operator-(POINT point) const noexcept {
-    return CPoint(cx - point.x, cy - point.y);
-}
-inline CRect CSize::operator+(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) + *this;
-}
-inline CRect CSize::operator-(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) - *this;
-}
-inline CRect CPoint::operator+(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) + *this;
-}
-inline CRect CPoint::operator-(const RECT* lpRect) const noexcept {
-    return CRect(lpRect) - *this;
-}
+inline CPoint CSize::operator+(POINT point) const noexcept { return CPoint(cx + point.x, cy + point.y); }
+inline CPoint CSize::operator-(POINT point) const noexcept { return CPoint(cx - point.x, cy - point.y); }
+inline CRect CSize::operator+(const RECT* lpRect) const noexcept { return CRect(lpRect) + *this; }
+inline CRect CSize::operator-(const RECT* lpRect) const noexcept { return CRect(lpRect) - *this; }
+inline CRect CPoint::operator+(const RECT* lpRect) const noexcept { return CRect(lpRect) + *this; }
+inline CRect CPoint::operator-(const RECT* lpRect) const noexcept { return CRect(lpRect) - *this; }

@@ -106,9 +106,7 @@ FRAMEWORK_API void AppendMessage(std::string& target, const char* format, const 
 /// Conversions by the system's ANSI code page; a length below 0 means up to the terminating zero. Null gives "".
 FRAMEWORK_API std::wstring WidenText(const char* text, int length = -1);
 FRAMEWORK_API std::string NarrowText(const wchar_t* text, int length = -1);
-inline std::wstring WidenText(const std::string& text) {
-    return WidenText(text.data(), static_cast<int>(text.size()));
-}
+inline std::wstring WidenText(const std::string& text) { return WidenText(text.data(), static_cast<int>(text.size())); }
 inline std::string NarrowText(const std::wstring& text) {
     return NarrowText(text.data(), static_cast<int>(text.size()));
 }

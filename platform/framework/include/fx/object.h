@@ -113,32 +113,22 @@ public:                                                                         
 
 // The record itself needs no code to run before it is usable; the registration adds it to the list.
 #define FX_IMPLEMENT_RUNTIME_CLASS(class_name, base_class_name, schema, create)                                        \
-    static CRuntimeClass* PASCAL base_of_##class_name() {                                                              \
-        return base_class_name::GetThisClass();                                                                        \
-    }                                                                                                                  \
+    static CRuntimeClass* PASCAL base_of_##class_name() { return base_class_name::GetThisClass(); }                    \
     constinit CRuntimeClass class_name::class##class_name = {                                                          \
         #class_name, sizeof(class_name), schema, create, &base_of_##class_name, nullptr, nullptr};                     \
-    CRuntimeClass* PASCAL class_name::GetThisClass() {                                                                 \
-        return &class_name::class##class_name;                                                                         \
-    }                                                                                                                  \
-    CRuntimeClass* class_name::GetRuntimeClass() const {                                                               \
-        return &class_name::class##class_name;                                                                         \
-    }                                                                                                                  \
+    CRuntimeClass* PASCAL class_name::GetThisClass() { return &class_name::class##class_name; }                        \
+    CRuntimeClass* class_name::GetRuntimeClass() const { return &class_name::class##class_name; }                      \
     static AFX_CLASSINIT registration_of_##class_name(RUNTIME_CLASS(class_name));
 
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                                 \
     FX_IMPLEMENT_RUNTIME_CLASS(class_name, base_class_name, 0xFFFF, nullptr)
 
 #define IMPLEMENT_DYNCREATE(class_name, base_class_name)                                                               \
-    CObject* PASCAL class_name::CreateObject() {                                                                       \
-        return new class_name;                                                                                         \
-    }                                                                                                                  \
+    CObject* PASCAL class_name::CreateObject() { return new class_name; }                                              \
     FX_IMPLEMENT_RUNTIME_CLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
 
 #define IMPLEMENT_SERIAL(class_name, base_class_name, wSchema)                                                         \
-    CObject* PASCAL class_name::CreateObject() {                                                                       \
-        return new class_name;                                                                                         \
-    }                                                                                                                  \
+    CObject* PASCAL class_name::CreateObject() { return new class_name; }                                              \
     FX_IMPLEMENT_RUNTIME_CLASS(class_name, base_class_name, (wSchema), &class_name::CreateObject)                      \
     CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb) {                                                      \
         pOb = (class_name*)ar.ReadObject(RUNTIME_CLASS(class_name));                                                   \

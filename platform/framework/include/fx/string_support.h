@@ -42,12 +42,8 @@ FRAMEWORK_API std::string MessageByList(const char* format, va_list* arguments);
 FRAMEWORK_API std::wstring TextOfVariant(const VARIANT& value);
 
 /// One character or text in the other width.
-inline std::wstring ToWidth(const char* text, int length, const wchar_t*) {
-    return WidenText(text, length);
-}
-inline std::string ToWidth(const wchar_t* text, int length, const char*) {
-    return NarrowText(text, length);
-}
+inline std::wstring ToWidth(const char* text, int length, const wchar_t*) { return WidenText(text, length); }
+inline std::string ToWidth(const wchar_t* text, int length, const char*) { return NarrowText(text, length); }
 inline std::wstring ToWidth(const wchar_t* text, int length, const wchar_t*) {
     return text == nullptr ? std::wstring() : length < 0 ? std::wstring(text) : std::wstring(text, length);
 }
