@@ -1,0 +1,114 @@
+#include "scenario.h"
+
+#include <cstdint>
+#include <fstream>
+#include <random>
+#include <set>
+
+namespace {
+
+constexpr std::size_t kButtonsInAPanel = 10;
+constexpr std::size_t kPanelsInACategory = 10;
+constexpr unsigned kSeed = 41000;
+
+void Put(std::string& bytes, std::uint32_t value, int size) {
+    for (int i = 0; i < size; ++i)
+        bytes.push_back(static_cast<char>(value >> (8 * i)));
+}
+
+/// An icon file with one 32-bit picture of the given side in pixels.
+std::string MakeIcon(int side, std::uint32_t color) {
+    const std::uint32_t pixels = static_cast<std::uint32_t>(side * side);
+    const std::uint32_t maskBytes = static_cast<std::uint32_t>((side + 31) / 32 * 4 * side);
+    constexpr std::uint32_t kHeader = 40;
+    constexpr std::uint32_t kOffset = 6 + 16;
+    std::string bytes;
+    Put(bytes, 0, 2);
+    Put(bytes, 1, 2);
+    Put(bytes, 1, 2);
+    Put(bytes, static_cast<std::uint32_t>(side), 1);
+    Put(bytes, static_cast<std::uint32_t>(side), 1);
+    Put(bytes, 0, 2);
+    Put(bytes, 1, 2);
+    Put(bytes, 32, 2);
+    Put(bytes, kHeader + pixels * 4 + maskBytes, 4);
+    Put(bytes, kOffset, 4);
+    Put(bytes, kHeader, 4);
+    Put(bytes, static_cast<std::uint32_t>(side), 4);
+    Put(bytes, static_cast<std::uint32_t>(2 * side), 4);
+    Put(bytes, 1, 2);
+    Put(bytes, 32, 2);
+    for (int i = 0; i < 6; ++i)
+        Put(bytes, 0, 4);
+    for (std::uint32_t i = 0; i < pixels; ++i)
+        Put(bytes, 0xFF000000u | color, 4);
+    bytes.append(maskBytes, 0);
+    return bytes;
+}
+
+void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+} // namespace
+
+std::vector<std::wstring> MakeKeywords(std::size_t count, std::size_t length) {
+    static constexpr wchar_t kSigns[] = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+    std::mt19937 random(kSeed);
+    std::uniform_int_distribution<std::size_t> sign(0, std::size(kSigns) - 2);
+    std::set<std::wstring> seen;
+    std::vector<std::wstring> keywords;
+    while (keywords.size() < count) {
+        std::wstring keyword(length, L' ');
+        for (wchar_t& letter : keyword)
+            letter = kSigns[sign(random)];
+        if (seen.insert(keyword).second)
+            keywords.push_back(std::move(keyword));
+    }
+    return keywords;
+}
+
+std::string MakeRibbonFile(std::size_t buttons, std::size_t iconFiles) {
+    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ribbon>\n  <row KEYWORD=\"Categories\">\n";
+    const auto number = [](std::size_t n) { return std::to_string(n); };
+    for (std::size_t i = 0; i < buttons; ++i) {
+        const std::string n = std::to_string(buttons) + "_" + number(i);
+        const std::size_t inCategory = i % (kButtonsInAPanel * kPanelsInACategory);
+        if (inCategory == 0)
+            text += "    <category KEYWORD=\"Category" + n + "\" NAME=\"\">\n";
+        if (i % kButtonsInAPanel == 0)
+            text += "      <panel KEYWORD=\"Panel" + n + "\" NAME=\"\">\n";
+        text += "        <item KEYWORD=\"Command" + n + "\" NAME=\"\" TOOLTIP=\"\" TYPE=\"BUTTON\" SIZE=\"" +
+                (i % 4 == 0 ? "32" : "16") + "\" PICPATH=\"pic\\modle\\icon" + number(i % iconFiles) +
+                ".ico\" CMD=\"command\" PARAM=\"" + n + "\"/>\n";
+        const bool isLast = i + 1 == buttons;
+        if ((i + 1) % kButtonsInAPanel == 0 || isLast)
+            text += "      </panel>\n";
+        if ((i + 1) % (kButtonsInAPanel * kPanelsInACategory) == 0 || isLast)
+            text += "    </category>\n";
+    }
+    return text + "  </row>\n</ribbon>\n";
+}
+
+ScenarioDirectory::ScenarioDirectory() {
+    std::random_device device;
+    m_path = std::filesystem::temp_directory_path() / ("barwright-bench-" + std::to_string(device()));
+    std::filesystem::create_directories(m_path);
+}
+
+ScenarioDirectory::~ScenarioDirectory() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+std::wstring ScenarioDirectory::AddRibbonFile(std::size_t buttons, std::size_t iconFiles) {
+    const std::string name = "ribbon" + std::to_string(buttons) + ".xml";
+    WriteFile(m_path / "cfg" / name, MakeRibbonFile(buttons, iconFiles));
+    for (const char* const set : {"modle", "modle_0"})
+        for (const int side : {16, 32})
+            for (std::size_t i = 0; i < iconFiles; ++i)
+                WriteFile(m_path / "pic" / set / std::to_string(side) / ("icon" + std::to_string(i) + ".ico"),
+                          MakeIcon(side, static_cast<std::uint32_t>(i * 0x0B0D11) & 0xFFFFFFu));
+    return std::wstring(name.begin(), name.end());
+}

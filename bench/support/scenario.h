@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+// What the benchmarks work on; made the same way every time.
+
+/// `count` different keywords of `length` letters and digits, in no order.
+std::vector<std::wstring> MakeKeywords(std::size_t count, std::size_t length);
+
+/// The text of a ribbon file with `buttons` buttons, 10 in a panel, 10 panels in a category, their pictures taken in
+/// turn from `iconFiles` icon files.
+std::string MakeRibbonFile(std::size_t buttons, std::size_t iconFiles);
+
+/// A new directory below the temporary one, removed with all it holds at the end.
+class ScenarioDirectory {
+public:
+    ScenarioDirectory();
+    ~ScenarioDirectory();
+    ScenarioDirectory(const ScenarioDirectory&) = delete;
+    ScenarioDirectory& operator=(const ScenarioDirectory&) = delete;
+
+    const std::filesystem::path& Path() const { return m_path; }
+
+    /// cfg/ribbonBUTTONS.xml and, once, the icon files in 16 and 32 pixels. Returns the file's name below cfg.
+    std::wstring AddRibbonFile(std::size_t buttons, std::size_t iconFiles);
+
+private:
+    std::filesystem::path m_path;
+};
