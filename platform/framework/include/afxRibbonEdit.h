@@ -5,6 +5,10 @@
 
 class CMFCRibbonEdit;
 
+namespace ribbon {
+struct EditContent;
+}
+
 // The edit window inside a ribbon edit. Its element owns it.
 class FRAMEWORK_API CMFCRibbonRichEditCtrl : public CRichEditCtrl {
     DECLARE_DYNAMIC(CMFCRibbonRichEditCtrl)
@@ -19,7 +23,6 @@ public:
 protected:
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
-    afx_msg void OnPaint();
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnChange();
@@ -27,7 +30,6 @@ protected:
 
     CMFCRibbonEdit& m_edit;
     BOOL m_bIsHighlighted = FALSE;
-    BOOL m_bTracked = FALSE;
 };
 
 // A text field with an optional label and image. The element keeps the text; the edit window is made when the element
@@ -54,7 +56,8 @@ public:
     virtual CMFCRibbonRichEditCtrl* CreateEdit(CWnd* pWndParent, DWORD dwEditStyle);
     // Null while there is no window.
     CMFCRibbonRichEditCtrl* GetEditWnd() const { return m_pWndEdit; }
-    CRect GetEditRect() const { return m_rectEdit; }
+    // The edit area is also the command rectangle, the drop button of a combo box the menu rectangle.
+    CRect GetEditRect() const { return m_rectCommand; }
     void DestroyCtrl() override;
     virtual void DropDownList();
 
@@ -102,7 +105,11 @@ protected:
     virtual BOOL HasEditWindow() const { return TRUE; }
     BOOL ShouldShowWindow() const;
     void PlaceEditWindow();
-    void LayoutParts(CDC* pDC);
+    void UpdateWindowColors();
+    struct Layout;
+    Layout CollectLayout(CDC* pDC) const;
+    ribbon::EditContent CollectContent(CDC* pDC, BOOL bWithLabel) const;
+    void ShowTextInWindow();
 
     CMFCRibbonRichEditCtrl* m_pWndEdit = nullptr;
     CString m_strEdit;
@@ -111,8 +118,5 @@ protected:
     int m_nWidthFloaty = 0;
     int m_nAlign = ES_LEFT;
     BOOL m_bSettingText = FALSE;
-    CRect m_rectLabel;
-    CRect m_rectImage;
-    CRect m_rectEdit;
-    CRect m_rectDropButton;
+    CRect m_rectText; // where the text stands inside the edit area: the edit window's place
 };

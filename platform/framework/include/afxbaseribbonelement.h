@@ -30,6 +30,8 @@ public:
     enum RibbonImageType { RibbonImageLarge, RibbonImageSmall };
 
     CMFCRibbonBaseElement();
+    CMFCRibbonBaseElement(const CMFCRibbonBaseElement&) = delete;
+    CMFCRibbonBaseElement& operator=(const CMFCRibbonBaseElement&) = delete;
     ~CMFCRibbonBaseElement() override;
 
     // Identity and texts. SetText splits "text\nkeys"; a text without the part keeps the keys.
@@ -67,6 +69,8 @@ public:
     CMFCRibbonBar* GetTopLevelRibbonBar() const;
     virtual void SetParentWnd(CWnd* pParentWnd);
     virtual CWnd* GetParentWnd() const;
+    void SetParentGroup(CMFCRibbonButtonsGroup* pGroup) { m_pParentGroup = pGroup; }
+    CMFCRibbonButtonsGroup* GetParentGroup() const { return m_pParentGroup; }
 
     // Rectangle and size. GetSize answers the size in the current mode; sizes are scaled pixels.
     void SetRect(CRect rect) { m_rect = rect; }
@@ -95,7 +99,7 @@ public:
     virtual void SetCompactMode(BOOL bCompactMode = TRUE);
     virtual void SetIntermediateMode(BOOL bIntermediateMode = TRUE);
     BOOL IsLargeMode() const { return !m_bCompactMode && !m_bIntermediateMode; }
-    BOOL IsIntermediateMode() const { return m_bIntermediateMode; }
+    BOOL IsIntermediateMode() const { return m_bIntermediateMode && !m_bCompactMode; }
     BOOL IsCompactMode() const { return m_bCompactMode; }
     virtual BOOL IsAlwaysLargeImage() const;
     virtual void SetTextAlwaysOnRight(BOOL bSet = TRUE);
@@ -220,6 +224,7 @@ protected:
 
     CMFCRibbonCategory* m_pParentCategory = nullptr;
     CMFCRibbonPanel* m_pParentPanel = nullptr;
+    CMFCRibbonButtonsGroup* m_pParentGroup = nullptr;
     CMFCRibbonBar* m_pRibbonBar = nullptr;
     CWnd* m_pParentWnd = nullptr;
     CWnd* m_pPopup = nullptr;

@@ -2,6 +2,11 @@
 
 #include <afxbaseribbonelement.h>
 
+namespace ribbon {
+struct ButtonContent;
+struct TextBreak;
+} // namespace ribbon
+
 // A push button of a ribbon: image and text in three sizes, a command, and optionally a drop-down of sub-items or of a
 // menu. With a default command the face is split into a command area and a menu area; without one the whole face opens
 // the drop-down. Images are indexes into the parent category's image lists, or icons.
@@ -15,8 +20,6 @@ public:
     // The icons stay the caller's unless bAutoDestroyIcon is set; a null small icon is drawn from the large one.
     CMFCRibbonButton(UINT nID, LPCTSTR lpszText, HICON hIcon, BOOL bAlwaysShowDescription = FALSE,
                      HICON hIconSmall = nullptr, BOOL bAutoDestroyIcon = FALSE, BOOL bAlphaBlendIcon = FALSE);
-    CMFCRibbonButton(const CMFCRibbonButton&) = delete;
-    CMFCRibbonButton& operator=(const CMFCRibbonButton&) = delete;
     ~CMFCRibbonButton() override;
 
     // Sub-items: the button owns them. An index of -1 or beyond the end appends.
@@ -35,8 +38,9 @@ public:
     void SetRightAlignMenu(BOOL bSet = TRUE) { m_bRightAlignMenu = bSet; }
     BOOL IsRightAlignMenu() const { return m_bRightAlignMenu; }
     BOOL IsMenuOnBottom() const;
-    CRect GetMenuRect() const;
-    CRect GetCommandRect() const;
+    // The areas that open the drop-down and that send the command, as placed by the last OnAfterChangeRect.
+    CRect GetMenuRect() const { return m_rectMenu; }
+    CRect GetCommandRect() const { return m_rectCommand; }
 
     // Images.
     int GetImageIndex(BOOL bLargeImage) const { return bLargeImage ? m_nLargeImageIndex : m_nSmallImageIndex; }
@@ -44,7 +48,7 @@ public:
     HICON GetIcon(BOOL bLargeIcon = TRUE) const;
     void SetAlwaysLargeImage(BOOL bSet = TRUE) { m_bIsAlwaysLargeImage = bSet; }
     BOOL IsAlwaysLargeImage() const override { return m_bIsAlwaysLargeImage; }
-    BOOL IsLargeImage() const { return m_bIsLargeImage; }
+    BOOL IsLargeImage() const { return GetFaceImageType() == RibbonImageLarge; }
     BOOL IsAlwaysShowDescription() const { return m_bIsAlwaysShowDescription; }
 
     CSize GetRegularSize(CDC* pDC) override;
@@ -79,8 +83,6 @@ public:
     virtual BOOL IsCommandAreaHighlighted() const;
     virtual BOOL IsMenuAreaHighlighted() const;
 
-    void SetText(LPCTSTR lpszText) override;
-    void SetDescription(LPCTSTR lpszText) override;
     CString GetToolTipText() const override;
     void SetParentCategory(CMFCRibbonCategory* pParent) override;
     void SetParentPanel(CMFCRibbonPanel* pPanel) override;
@@ -105,15 +107,19 @@ public:
 protected:
     virtual void OnClick(CPoint point);
     BOOL OnProcessKey(UINT nChar) override;
-    // The face as the current mode, state and measures give it.
+    // What the face shows and where: the current mode, state and measures, for the text as it is now.
     struct Face;
-    Face CollectFace() const;
-    void ReleaseIcons();
-    BOOL IsSplit() const;
-    BOOL DrawsLargeFace() const;
-    // Draws the icon handle for the type into the rectangle; FALSE when there is none.
+    Face CollectFace(CDC* pDC) const;
+    ribbon::ButtonContent CollectContent(CDC* pDC, BOOL bLarge, BOOL bImageOnly, ribbon::TextBreak& lines) const;
+    CSize MeasureAs(CDC* pDC, BOOL bLarge, BOOL bImageOnly);
+    BOOL IsSplit() const { return HasMenu() && m_bIsDefaultCommand; }
+    BOOL ShowsLargeFace() const;
+    RibbonImageType GetFaceImageType() const;
+    void DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText);
     BOOL DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectImage);
     BOOL DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage);
+    void ReleaseIcons();
+    void CopySubItems(const CMFCRibbonButton& src);
 
     HICON m_hIcon = nullptr;
     HICON m_hIconSmall = nullptr;
@@ -123,7 +129,6 @@ protected:
     int m_nSmallImageIndex = -1;
     int m_nLargeImageIndex = -1;
     BOOL m_bIsAlwaysLargeImage = FALSE;
-    BOOL m_bIsLargeImage = FALSE; // the last face drawn showed the large image
 
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_arSubItems;
     HMENU m_hMenu = nullptr;
@@ -131,7 +136,8 @@ protected:
     BOOL m_bRightAlignMenu = FALSE;
     BOOL m_bMenuAreaHighlighted = FALSE;
 
-    CSize m_sizeTextRight;  // single-line text; scaled; empty: not measured
-    CSize m_sizeTextBottom; // text broken over the lines below a large image, with its menu arrow
-    CString m_strMeasuredText;
+    CRect m_rectCommand;
+    CRect m_rectMenu;
+    CSize m_sizeTextRight;  // one line; scaled; empty until measured
+    CSize m_sizeTextBottom; // broken over the two lines below a large image, the menu arrow counted
 };

@@ -10,8 +10,6 @@ class FRAMEWORK_API CMFCRibbonButtonsGroup : public CMFCRibbonBaseElement {
 public:
     CMFCRibbonButtonsGroup();
     CMFCRibbonButtonsGroup(CMFCRibbonBaseElement* pButton);
-    CMFCRibbonButtonsGroup(const CMFCRibbonButtonsGroup&) = delete;
-    CMFCRibbonButtonsGroup& operator=(const CMFCRibbonButtonsGroup&) = delete;
     ~CMFCRibbonButtonsGroup() override;
 
     void AddButton(CMFCRibbonBaseElement* pButton);
@@ -56,10 +54,7 @@ public:
     void GetElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) override;
     void GetElementsByID(UINT uiCmdID, CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) override;
 
-    // Mouse input reaches the button under the point or, while one is pressed, that one.
-    void OnMouseMove(CPoint point) override;
-    void OnLButtonDown(CPoint point) override;
-    void OnLButtonUp(CPoint point) override;
+    // Mouse input goes to the button that HitTest answers.
     void OnHighlight(BOOL bHighlight) override;
     void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
 

@@ -53,6 +53,7 @@ protected:
     int m_nPos = 0;
     int m_nZoomIncrement = 10;
     BOOL m_bZoomButtons = FALSE;
+    BOOL m_bHasRepeated = FALSE; // a held zoom button has stepped already: its release does not step again
     RibbonSliderPart m_HotPart = RibbonSliderPart::None;
     RibbonSliderPart m_PressedPart = RibbonSliderPart::None;
 };
