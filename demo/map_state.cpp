@@ -1,0 +1,205 @@
+#include "map_state.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cwchar>
+
+namespace {
+
+constexpr double kWorldWidth = 360;
+constexpr double kWorldHeight = 180;
+constexpr std::size_t kHistoryLimit = 100;
+
+bool IsSameView(const MapView& a, const MapView& b) {
+    return a.center.longitude == b.center.longitude && a.center.latitude == b.center.latitude &&
+           a.pixelsPerDegree == b.pixelsPerDegree;
+}
+
+std::optional<std::vector<double>> ParseNumbers(const std::wstring& text, std::size_t count) {
+    std::vector<double> numbers;
+    const wchar_t* at = text.c_str();
+    for (;;) {
+        wchar_t* end = nullptr;
+        const double number = std::wcstod(at, &end);
+        if (end == at || !std::isfinite(number))
+            return std::nullopt;
+        numbers.push_back(number);
+        const wchar_t* const separator = end;
+        at = end;
+        while (*at == L' ')
+            ++at;
+        if (*at == L',')
+            ++at;
+        if (*at == 0 && separator[0] != L',')
+            break;
+        if (at == separator)
+            return std::nullopt;
+    }
+    if (numbers.size() != count)
+        return std::nullopt;
+    return numbers;
+}
+
+} // namespace
+
+MapState::MapState() : m_history{m_view} {}
+
+void MapState::SetWindowSize(int width, int height) {
+    const bool first = m_width == 1 && m_height == 1;
+    m_width = std::max(width, 1);
+    m_height = std::max(height, 1);
+    if (first) {
+        ShowWorld();
+        m_history = {m_view};
+        m_historyPosition = 0;
+    }
+    Clamp();
+    Changed();
+}
+
+void MapState::Clamp() {
+    m_view.pixelsPerDegree = std::clamp(m_view.pixelsPerDegree, kMinPixelsPerDegree, kMaxPixelsPerDegree);
+    m_view.center.longitude = std::clamp(m_view.center.longitude, -kWorldWidth / 2, kWorldWidth / 2);
+    m_view.center.latitude = std::clamp(m_view.center.latitude, -kWorldHeight / 2, kWorldHeight / 2);
+}
+
+void MapState::Remember() {
+    Clamp();
+    Changed();
+    if (IsSameView(m_history[m_historyPosition], m_view))
+        return;
+    m_history.resize(m_historyPosition + 1);
+    m_history.push_back(m_view);
+    if (m_history.size() > kHistoryLimit)
+        m_history.erase(m_history.begin());
+    m_historyPosition = m_history.size() - 1;
+}
+
+void MapState::Zoom(double factor, double offsetX, double offsetY) {
+    const double before = m_view.pixelsPerDegree;
+    const double after = std::clamp(before * factor, kMinPixelsPerDegree, kMaxPixelsPerDegree);
+    m_view.center.longitude += offsetX / before - offsetX / after;
+    m_view.center.latitude -= offsetY / before - offsetY / after;
+    m_view.pixelsPerDegree = after;
+    Remember();
+}
+
+void MapState::SetScale(double pixelsPerDegree) {
+    m_view.pixelsPerDegree = pixelsPerDegree;
+    Remember();
+}
+
+void MapState::Pan(double fractionEast, double fractionNorth) {
+    m_view.center.longitude += fractionEast * m_width / m_view.pixelsPerDegree;
+    m_view.center.latitude += fractionNorth * m_height / m_view.pixelsPerDegree;
+    Remember();
+}
+
+void MapState::Drag(double pixelsEast, double pixelsNorth) {
+    m_view.center.longitude += pixelsEast / m_view.pixelsPerDegree;
+    m_view.center.latitude += pixelsNorth / m_view.pixelsPerDegree;
+    Clamp();
+    Changed();
+}
+
+void MapState::EndDrag() { Remember(); }
+
+void MapState::Show(const GeoBox& box) {
+    const double width = std::max(box.east - box.west, 0.1);
+    const double height = std::max(box.north - box.south, 0.1);
+    m_view.center = {(box.west + box.east) / 2, (box.south + box.north) / 2};
+    m_view.pixelsPerDegree = std::min(m_width / width, m_height / height);
+    Remember();
+}
+
+void MapState::CenterOn(GeoPoint place) {
+    m_view.center = place;
+    Remember();
+}
+
+void MapState::ShowWorld() { Show(GeoBox()); }
+
+bool MapState::CanStep(int direction) const noexcept {
+    return direction < 0 ? m_historyPosition > 0 : m_historyPosition + 1 < m_history.size();
+}
+
+bool MapState::Step(int direction) {
+    if (!CanStep(direction))
+        return false;
+    m_historyPosition += direction < 0 ? -1 : 1;
+    m_view = m_history[m_historyPosition];
+    Changed();
+    return true;
+}
+
+void MapState::AddBookmark() {
+    m_bookmarks.push_back(m_view);
+    m_bookmarkPosition = m_bookmarks.size() - 1;
+    Changed();
+}
+
+bool MapState::NextBookmark() {
+    if (m_bookmarks.empty())
+        return false;
+    m_bookmarkPosition = (m_bookmarkPosition + 1) % m_bookmarks.size();
+    m_view = m_bookmarks[m_bookmarkPosition];
+    Remember();
+    return true;
+}
+
+void MapState::Toggle(MapLayer layer) {
+    bool& shown = m_layers[static_cast<int>(layer)];
+    shown = !shown;
+    Changed();
+}
+
+void MapState::SetPalette(MapPalette palette) {
+    m_palette = palette;
+    Changed();
+}
+
+void MapState::SetGraticuleSpacing(int degrees) {
+    m_spacing = std::clamp(degrees, 1, 90);
+    Changed();
+}
+
+void MapState::ToggleSmooth() {
+    m_smooth = !m_smooth;
+    Changed();
+}
+
+int MapState::SliderPosition() const {
+    const double range = std::log(kMaxPixelsPerDegree / kMinPixelsPerDegree);
+    return static_cast<int>(std::lround(std::log(m_view.pixelsPerDegree / kMinPixelsPerDegree) / range * kSliderMax));
+}
+
+void MapState::SetSliderPosition(int position) {
+    if (position == SliderPosition())
+        return;
+    const double part = std::clamp(position, 0, kSliderMax) / static_cast<double>(kSliderMax);
+    SetScale(kMinPixelsPerDegree * std::pow(kMaxPixelsPerDegree / kMinPixelsPerDegree, part));
+}
+
+void MapState::ToWindow(GeoPoint place, double& x, double& y) const {
+    x = m_width / 2.0 + (place.longitude - m_view.center.longitude) * m_view.pixelsPerDegree;
+    y = m_height / 2.0 - (place.latitude - m_view.center.latitude) * m_view.pixelsPerDegree;
+}
+
+GeoPoint MapState::ToPlace(double x, double y) const {
+    return {m_view.center.longitude + (x - m_width / 2.0) / m_view.pixelsPerDegree,
+            m_view.center.latitude - (y - m_height / 2.0) / m_view.pixelsPerDegree};
+}
+
+std::optional<GeoBox> ParseBox(const std::wstring& text) {
+    const auto numbers = ParseNumbers(text, 4);
+    if (!numbers)
+        return std::nullopt;
+    return GeoBox{(*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]};
+}
+
+std::optional<std::pair<double, double>> ParsePair(const std::wstring& text) {
+    const auto numbers = ParseNumbers(text, 2);
+    if (!numbers)
+        return std::nullopt;
+    return std::make_pair((*numbers)[0], (*numbers)[1]);
+}

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A place on the globe in degrees; longitude east and latitude north are positive.
+struct GeoPoint {
+    double longitude = 0;
+    double latitude = 0;
+};
+
+/// A rectangle of the globe in degrees.
+struct GeoBox {
+    double west = -180;
+    double south = -90;
+    double east = 180;
+    double north = 90;
+};
+
+/// What part of the map is seen: its middle and the scale in screen pixels a degree.
+struct MapView {
+    GeoPoint center;
+    double pixelsPerDegree = 4;
+};
+
+enum class MapLayer { Relief, Coast, Lakes, Graticule, Cities, Names, Count };
+enum class MapPalette { Natural, Night, Plain };
+
+/// Everything that the map window shows, as plain data: view, history, layers, palette, bookmarks. Knows no window; the
+/// window says its size in pixels and repaints when Version() has changed.
+class MapState {
+public:
+    static constexpr double kMinPixelsPerDegree = 1;
+    static constexpr double kMaxPixelsPerDegree = 120;
+    /// Positions of a scale slider: 0 is the smallest scale, kSliderMax the largest, steps are equal factors.
+    static constexpr int kSliderMax = 100;
+
+    MapState();
+
+    /// Size of the map window in pixels. The view keeps its middle.
+    void SetWindowSize(int width, int height);
+    int WindowWidth() const noexcept { return m_width; }
+    int WindowHeight() const noexcept { return m_height; }
+
+    const MapView& View() const noexcept { return m_view; }
+
+    /// Changes the scale by a factor; the place under the window position (pixels from the middle) stays where it is.
+    void Zoom(double factor, double offsetX = 0, double offsetY = 0);
+    void SetScale(double pixelsPerDegree);
+    /// Moves by fractions of the window; positive is east and north.
+    void Pan(double fractionEast, double fractionNorth);
+    /// Moves by pixels without an entry in the history, for dragging; EndDrag makes the entry.
+    void Drag(double pixelsEast, double pixelsNorth);
+    void EndDrag();
+    void Show(const GeoBox& box);
+    void CenterOn(GeoPoint place);
+    void ShowWorld();
+
+    /// Goes through the views that were shown: -1 back, 1 forward. False when there is none.
+    bool Step(int direction);
+    bool CanStep(int direction) const noexcept;
+
+    void AddBookmark();
+    bool NextBookmark();
+    std::size_t BookmarkCount() const noexcept { return m_bookmarks.size(); }
+
+    bool IsShown(MapLayer layer) const noexcept { return m_layers[static_cast<int>(layer)]; }
+    void Toggle(MapLayer layer);
+    MapPalette Palette() const noexcept { return m_palette; }
+    void SetPalette(MapPalette palette);
+    int GraticuleSpacing() const noexcept { return m_spacing; }
+    void SetGraticuleSpacing(int degrees);
+    bool IsSmooth() const noexcept { return m_smooth; }
+    void ToggleSmooth();
+
+    int SliderPosition() const;
+    void SetSliderPosition(int position);
+
+    /// Window position in pixels from the top left corner, and back.
+    void ToWindow(GeoPoint place, double& x, double& y) const;
+    GeoPoint ToPlace(double x, double y) const;
+
+    /// Rises with every change that shows.
+    unsigned Version() const noexcept { return m_version; }
+
+private:
+    void Clamp();
+    void Remember();
+    void Changed() noexcept { ++m_version; }
+
+    int m_width = 1;
+    int m_height = 1;
+    MapView m_view;
+    std::vector<MapView> m_history;
+    std::size_t m_historyPosition = 0;
+    std::vector<MapView> m_bookmarks;
+    std::size_t m_bookmarkPosition = 0;
+    bool m_layers[static_cast<int>(MapLayer::Count)] = {true, true, true, true, true, true};
+    MapPalette m_palette = MapPalette::Natural;
+    int m_spacing = 15;
+    bool m_smooth = true;
+    unsigned m_version = 1;
+};
+
+/// Four decimal numbers "west,south,east,north"; nothing when the text is anything else.
+std::optional<GeoBox> ParseBox(const std::wstring& text);
+/// Two decimal numbers divided by a comma or by spaces, in the order written.
+std::optional<std::pair<double, double>> ParsePair(const std::wstring& text);

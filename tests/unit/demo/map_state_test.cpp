@@ -1,0 +1,107 @@
+#include "map_state.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+MapState MakeState() {
+    MapState state;
+    state.SetWindowSize(720, 360);
+    return state;
+}
+
+} // namespace
+
+TEST(MapState, FirstSizeShowsTheWholeWorld) {
+    const MapState state = MakeState();
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 2);
+    EXPECT_DOUBLE_EQ(state.View().center.longitude, 0);
+    EXPECT_FALSE(state.CanStep(-1));
+}
+
+TEST(MapState, ZoomKeepsThePlaceUnderThePointer) {
+    MapState state = MakeState();
+    const GeoPoint before = state.ToPlace(100, 50);
+    state.Zoom(2, 100 - 360, 50 - 180);
+    const GeoPoint after = state.ToPlace(100, 50);
+    EXPECT_NEAR(before.longitude, after.longitude, 1e-9);
+    EXPECT_NEAR(before.latitude, after.latitude, 1e-9);
+}
+
+TEST(MapState, ScaleStaysWithinItsLimits) {
+    MapState state = MakeState();
+    state.Zoom(1e9);
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, MapState::kMaxPixelsPerDegree);
+    state.Zoom(1e-9);
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, MapState::kMinPixelsPerDegree);
+}
+
+TEST(MapState, HistoryGoesBackAndForwardAndANewViewDropsTheForwardPart) {
+    MapState state = MakeState();
+    state.Zoom(2);
+    state.Zoom(2);
+    ASSERT_TRUE(state.Step(-1));
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 4);
+    ASSERT_TRUE(state.Step(1));
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 8);
+    EXPECT_FALSE(state.Step(1));
+    ASSERT_TRUE(state.Step(-1));
+    state.Pan(0.25, 0);
+    EXPECT_FALSE(state.CanStep(1));
+}
+
+TEST(MapState, PanMovesByAFractionOfTheWindow) {
+    MapState state = MakeState();
+    state.Pan(0.25, 0.1);
+    EXPECT_DOUBLE_EQ(state.View().center.longitude, 90);
+    EXPECT_DOUBLE_EQ(state.View().center.latitude, 18);
+}
+
+TEST(MapState, SliderPositionAndScaleAgreeBothWays) {
+    MapState state = MakeState();
+    for (int position = 0; position <= MapState::kSliderMax; ++position) {
+        state.SetSliderPosition(position);
+        EXPECT_EQ(state.SliderPosition(), position);
+    }
+}
+
+TEST(MapState, DragMakesOneHistoryEntry) {
+    MapState state = MakeState();
+    state.Drag(10, 0);
+    state.Drag(10, 0);
+    state.EndDrag();
+    ASSERT_TRUE(state.Step(-1));
+    EXPECT_DOUBLE_EQ(state.View().center.longitude, 0);
+    EXPECT_FALSE(state.CanStep(-1));
+}
+
+TEST(MapState, BookmarksGoRound) {
+    MapState state = MakeState();
+    EXPECT_FALSE(state.NextBookmark());
+    state.AddBookmark();
+    state.Zoom(4);
+    state.AddBookmark();
+    ASSERT_TRUE(state.NextBookmark());
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 2);
+    ASSERT_TRUE(state.NextBookmark());
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 8);
+}
+
+TEST(MapState, WindowAndPlaceAreInverse) {
+    MapState state = MakeState();
+    state.Show({73, 15, 146, 54});
+    double x = 0;
+    double y = 0;
+    state.ToWindow({121.47, 31.23}, x, y);
+    const GeoPoint place = state.ToPlace(x, y);
+    EXPECT_NEAR(place.longitude, 121.47, 1e-9);
+    EXPECT_NEAR(place.latitude, 31.23, 1e-9);
+}
+
+TEST(ParseNumbers, TakesWholeTextsOnly) {
+    EXPECT_TRUE(ParseBox(L"73,15,146,54"));
+    EXPECT_DOUBLE_EQ(ParseBox(L"-12, 34,42 ,71.5")->north, 71.5);
+    EXPECT_TRUE(ParsePair(L"31.2 121.5"));
+    for (const wchar_t* text : {L"", L"1", L"1,2,3", L"a,b", L"1,2x", L"1,2,", L"1;2"})
+        EXPECT_FALSE(ParsePair(text)) << text;
+}
