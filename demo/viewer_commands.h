@@ -1,0 +1,31 @@
+#pragma once
+
+#include "command_reactor.h"
+
+#include <boost/shared_ptr.hpp>
+
+class MapState;
+struct MapData;
+
+/// What the map commands need of the frame beside the state: the controls that hold a value, and a word to the user.
+class ViewerHost {
+public:
+    virtual ~ViewerHost() = default;
+    virtual int ScaleSliderPosition() const = 0;
+    virtual std::wstring PlaceText() const = 0;
+    virtual void TellPlaceUnknown(const std::wstring& text) = 0;
+    virtual void TellAbout() = 0;
+    virtual void SwitchLanguage(const std::wstring& code) = 0;
+    virtual bool IsLanguage(const std::wstring& code) const = 0;
+    virtual void SwitchSkin(const std::wstring& name) = 0;
+    virtual bool IsSkin(const std::wstring& name) const = 0;
+    virtual void SwitchIconStyle(const std::wstring& style) = 0;
+    virtual bool IsIconStyle(const std::wstring& style) const = 0;
+};
+
+/// Zooming, moving, going to places and regions, history and bookmarks.
+boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const MapData& data, ViewerHost& host);
+/// Layers, graticule and palette.
+boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state);
+/// Language, skin, icon style and help.
+boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host);
