@@ -38,7 +38,7 @@ int Integer(const std::wstring& text) { return static_cast<int>(std::wcstol(text
 
 constexpr double kPlaceScale = 24; // pixels a degree: a city with its surroundings
 
-void GoToPlace(MapState& state, const MapData& data, ViewerHost& host) {
+void GoToPlace(MapState& state, const MapData& data, ViewerHost& host, bool isQuiet) {
     const std::wstring text = host.PlaceText();
     GeoPoint place;
     if (const auto pair = ParsePair(text)) {
@@ -46,7 +46,8 @@ void GoToPlace(MapState& state, const MapData& data, ViewerHost& host) {
     } else if (const City* const city = data.FindCity(text)) {
         place = city->place;
     } else {
-        host.TellPlaceUnknown(text);
+        if (!isQuiet)
+            host.TellPlaceUnknown(text);
         return;
     }
     const double half = state.WindowWidth() / kPlaceScale / 2;
@@ -76,7 +77,10 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
         if (const auto box = ParseBox(parameter))
             state.Show(*box);
     });
-    reactor->Serve(L"place", [&state, &data, &host](const std::wstring&) { GoToPlace(state, data, host); });
+    // The edit field sends its command on losing the focus too: nobody wants a message box for that.
+    reactor->Serve(L"place", [&state, &data, &host](const std::wstring& parameter) {
+        GoToPlace(state, data, host, parameter == L"quiet");
+    });
     reactor->Serve(
         L"bookmark",
         [&state](const std::wstring& what) {

@@ -1,0 +1,186 @@
+#include <afxcontrolbars.h>
+
+#include "frame_dump.h"
+
+#include "add_ribbon_bar.h"
+#include "menu_id_mgr.h"
+#include "ribbon_category_ex.h"
+
+#include "varnhold/strings.h"
+
+#include <filesystem>
+#include <fstream>
+
+using nlohmann::ordered_json;
+
+namespace {
+
+std::string Utf8(const std::wstring& text) { return wstring2String(text); }
+std::string Utf8(const CString& text) { return wstring2String(std::wstring_view(text.GetString(), text.GetLength())); }
+
+std::string ClassName(const CObject& object) { return object.GetRuntimeClass()->m_lpszClassName; }
+
+ordered_json DumpRegistry() {
+    constexpr int kFirstId = 41000;
+    const CMenuIdMgr* const registry = CMenuIdMgr::Ins();
+    ordered_json entries = ordered_json::array();
+    for (int id = kFirstId; id < static_cast<int>(CMenuIdMgr::s_AddBeginID); ++id) {
+        std::wstring keyword;
+        std::wstring name;
+        std::wstring tooltip;
+        std::wstring command;
+        std::wstring parameter;
+        std::wstring help;
+        if (!registry->GetMenuMark(id, keyword))
+            continue;
+        registry->GetMenuName(keyword, name);
+        registry->GetToolTip(id, tooltip);
+        registry->GetCmd(id, command);
+        registry->GetCmdParam(id, parameter);
+        registry->GetHelpFile(id, help);
+        entries.push_back({{"id", id},
+                           {"keyword", Utf8(keyword)},
+                           {"name", Utf8(name)},
+                           {"tooltip", Utf8(tooltip)},
+                           {"cmd", Utf8(command)},
+                           {"param", Utf8(parameter)},
+                           {"help", Utf8(help)}});
+    }
+    return entries;
+}
+
+ordered_json DumpRect(const CRect& rect) { return ordered_json::array({rect.left, rect.top, rect.right, rect.bottom}); }
+
+ordered_json DumpElement(const CMFCRibbonBaseElement& element);
+
+ordered_json DumpChildren(const CMFCRibbonBaseElement& element) {
+    ordered_json children = ordered_json::array();
+    if (const auto* const group = DYNAMIC_DOWNCAST(CMFCRibbonButtonsGroup, &element)) {
+        for (int i = 0; i < group->GetCount(); ++i)
+            children.push_back(DumpElement(*group->GetButton(i)));
+    } else if (const auto* const button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element)) {
+        const auto& items = button->GetSubItems();
+        for (int i = 0; i < static_cast<int>(items.GetSize()); ++i)
+            children.push_back(DumpElement(*items[i]));
+    }
+    return children;
+}
+
+ordered_json DumpElement(const CMFCRibbonBaseElement& element) {
+    ordered_json result = {{"class", ClassName(element)},
+                           {"id", element.GetID()},
+                           {"text", Utf8(CString(element.GetText()))},
+                           {"tooltip", Utf8(element.GetToolTipText())},
+                           {"description", Utf8(element.GetDescription())},
+                           {"visible", element.IsVisible() != FALSE},
+                           {"enabled", element.IsDisabled() == FALSE},
+                           {"large", element.IsLargeMode() != FALSE},
+                           {"rect", DumpRect(element.GetRect())}};
+    ordered_json children = DumpChildren(element);
+    if (!children.empty())
+        result["children"] = std::move(children);
+    return result;
+}
+
+ordered_json DumpCategory(CMFCRibbonCategory& category) {
+    ordered_json result = {{"name", Utf8(CString(category.GetName()))}, {"class", ClassName(category)}};
+    if (const auto* const extended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, &category))
+        result["id"] = extended->GetID();
+    result["visible"] = category.IsVisible() != FALSE;
+    result["active"] = category.IsActive() != FALSE;
+    ordered_json panels = ordered_json::array();
+    for (int i = 0; i < category.GetPanelCount(); ++i) {
+        const CMFCRibbonPanel& panel = *category.GetPanel(i);
+        ordered_json elements = ordered_json::array();
+        for (int k = 0; k < panel.GetCount(); ++k)
+            elements.push_back(DumpElement(*panel.GetElement(k)));
+        panels.push_back({{"name", Utf8(CString(panel.GetName()))}, {"elements", std::move(elements)}});
+    }
+    result["panels"] = std::move(panels);
+    return result;
+}
+
+ordered_json DumpRibbon(const DumpSources& sources) {
+    ordered_json categories = ordered_json::array();
+    ordered_json quickAccess = ordered_json::array();
+    if (sources.ribbon) {
+        for (int i = 0; i < sources.ribbon->GetCategoryCount(); ++i)
+            categories.push_back(DumpCategory(*sources.ribbon->GetCategory(i)));
+        CList<UINT, UINT> ids;
+        sources.ribbon->GetQuickAccessCommands(ids);
+        for (POSITION at = ids.GetHeadPosition(); at;)
+            quickAccess.push_back(ids.GetNext(at));
+    }
+    ordered_json commands = ordered_json::array();
+    for (const std::vector<std::wstring>& file : sources.commands) {
+        ordered_json list = ordered_json::array();
+        for (const std::wstring& command : file)
+            list.push_back(Utf8(command));
+        commands.push_back(std::move(list));
+    }
+    return {{"categories", std::move(categories)},
+            {"quickAccess", std::move(quickAccess)},
+            {"commands", std::move(commands)}};
+}
+
+ordered_json DumpRecord(const CAddRibbonBar::_RibbonInfo& record) {
+    ordered_json values = ordered_json::array();
+    for (const std::wstring& value : record.valueGroup)
+        values.push_back(Utf8(value));
+    return {{"groupBefore", record.groupBefore},
+            {"name", Utf8(record.name)},
+            {"type", Utf8(record.type)},
+            {"tooltip", Utf8(record.tooltip)},
+            {"keyword", Utf8(record.keyword)},
+            {"picPath", Utf8(record.picPath)},
+            {"picDisPath", Utf8(record.picDisPath)},
+            {"size", record.size},
+            {"cmd", Utf8(record.cmd)},
+            {"param", Utf8(record.param)},
+            {"help", Utf8(record.help)},
+            {"acceptF1", record.acceptF1},
+            {"cateTab", record.cateTab},
+            {"valueGroup", std::move(values)},
+            {"width", record.width}};
+}
+
+ordered_json DumpStatusExtras() {
+    ordered_json extras = ordered_json::array();
+    for (const auto& [path, row] : CAddRibbonBar::m_smStatusExBtns) {
+        ordered_json records = ordered_json::array();
+        for (const CAddRibbonBar::_RibbonInfo& record : row.second)
+            records.push_back(DumpRecord(record));
+        extras.push_back({{"path", Utf8(path)}, {"row", Utf8(row.first)}, {"records", std::move(records)}});
+    }
+    return extras;
+}
+
+} // namespace
+
+ordered_json DumpFrame(const DumpSources& sources) {
+    return {{"nextCommandId", CMenuIdMgr::s_AddBeginID},
+            {"registry", DumpRegistry()},
+            {"ribbon", DumpRibbon(sources)},
+            {"menu", ordered_json::array()},
+            {"accelerators", ordered_json::array()},
+            {"toolbars", ordered_json::array()},
+            {"statusExtras", DumpStatusExtras()},
+            {"status",
+             {{"app", Utf8(sources.application)}, {"elements", ordered_json::array()}, {"extended", ordered_json::array()}}}};
+}
+
+bool WriteJson(const ordered_json& json, const std::wstring& path) {
+    // Readers poll the file: it appears whole or not at all.
+    const std::filesystem::path target(path);
+    std::filesystem::path temporary(target);
+    temporary += L".part";
+    {
+        std::ofstream file(temporary, std::ios::binary);
+        file << json.dump(2) << '\n';
+        if (!file.flush())
+            return false;
+    }
+    std::error_code error;
+    std::filesystem::rename(temporary, target, error);
+    return !error;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <vector>
+
+class CMFCRibbonBar;
+
+/// What a dump is made from; bars that are not there give empty lists.
+struct DumpSources {
+    CMFCRibbonBar* ribbon = nullptr;
+    std::vector<std::vector<std::wstring>> commands; ///< m_cmdList of every ribbon builder, one list for each file.
+    std::wstring application;                        ///< The application whose status extras are shown.
+};
+
+/// The bars as JSON: what was built, by whom it is known, where it lies. Rectangles are [left, top, right, bottom] in
+/// client pixels of the bar. The keys keep the order that readers of the format rely on.
+nlohmann::ordered_json DumpFrame(const DumpSources& sources);
+
+/// Writes the dump as UTF-8 with two spaces of indentation. False when the file cannot be written.
+bool WriteJson(const nlohmann::ordered_json& json, const std::wstring& path);
