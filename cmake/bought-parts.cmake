@@ -5,6 +5,10 @@ set(DEPS_DIR ${PROJECT_SOURCE_DIR}/.deps)
 add_library(boost_headers INTERFACE)
 target_include_directories(boost_headers SYSTEM INTERFACE ${DEPS_DIR}/boost-include)
 
+# So is the JSON library.
+add_library(json_headers INTERFACE)
+target_include_directories(json_headers SYSTEM INTERFACE ${DEPS_DIR}/json-include)
+
 add_library(pugixml STATIC ${DEPS_DIR}/pugixml/src/pugixml.cpp)
 target_include_directories(pugixml SYSTEM PUBLIC ${DEPS_DIR}/pugixml/src)
 target_compile_options(pugixml PRIVATE -w)

@@ -26,7 +26,12 @@ bool ParseSize(const std::wstring& text, int& width, int& height) {
 std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
     DemoOptions options;
     typedef std::function<bool(const std::wstring&)> Setter;
-    const auto text = [](std::wstring& target) { return Setter([&target](const std::wstring& v) { target = v; return true; }); };
+    const auto text = [](std::wstring& target) {
+        return Setter([&target](const std::wstring& v) {
+            target = v;
+            return true;
+        });
+    };
     const std::map<std::wstring, Setter> setters = {
         {L"--lang", text(options.language)},
         {L"--skin", text(options.skin)},

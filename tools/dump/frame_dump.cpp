@@ -166,7 +166,9 @@ ordered_json DumpFrame(const DumpSources& sources) {
             {"toolbars", ordered_json::array()},
             {"statusExtras", DumpStatusExtras()},
             {"status",
-             {{"app", Utf8(sources.application)}, {"elements", ordered_json::array()}, {"extended", ordered_json::array()}}}};
+             {{"app", Utf8(sources.application)},
+              {"elements", ordered_json::array()},
+              {"extended", ordered_json::array()}}}};
 }
 
 bool WriteJson(const ordered_json& json, const std::wstring& path) {

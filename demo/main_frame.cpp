@@ -1,0 +1,215 @@
+#include "main_frame.h"
+
+#include "add_ribbon_bar.h"
+#include "frame_dump.h"
+#include "menu_event.h"
+#include "menu_id_mgr.h"
+#include "ribbon_icon_button.h"
+
+#include "varnhold/file_op.h"
+#include "varnhold/language.h"
+#include "varnhold/message_box.h"
+#include "varnhold/strings.h"
+
+#include <array>
+
+namespace {
+
+constexpr UINT kFirstCommand = 41000;
+constexpr UINT kLastCommand = 49999;
+constexpr UINT kRebuildRibbonMessage = WM_APP + 1;
+constexpr wchar_t kRibbonFile[] = L"cfg\\ribbon.xml";
+
+struct Skin {
+    const wchar_t* name;
+    CMFCVisualManagerOffice2007::Style style;
+};
+constexpr std::array<Skin, 2> kSkins = {{{L"silver", CMFCVisualManagerOffice2007::Office2007_Silver},
+                                         {L"black", CMFCVisualManagerOffice2007::Office2007_ObsidianBlack}}};
+
+std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "Viewer"); }
+
+std::wstring InstallationDirectory() {
+    std::wstring path;
+    FileOp::GetAppPath(path);
+    return path;
+}
+
+template <class Element>
+Element* FindElement(const CMFCRibbonBar& ribbon, const wchar_t* keyword) {
+    int id = 0;
+    if (!CMenuIdMgr::Ins()->GetMenuId(keyword, id))
+        return nullptr;
+    return DYNAMIC_DOWNCAST(Element, ribbon.FindByID(static_cast<UINT>(id), FALSE, TRUE));
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
+
+BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
+ON_WM_CREATE()
+ON_WM_SETFOCUS()
+ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
+ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
+ON_MESSAGE(kRebuildRibbonMessage, OnRebuildRibbon)
+END_MESSAGE_MAP()
+
+CMainFrame::CMainFrame(const DemoOptions& options)
+    : m_options(options),
+      m_data(MapData::Load(std::filesystem::path(InstallationDirectory()) / L"data")),
+      m_map(m_state, m_data),
+      m_ribbon(FALSE),
+      m_skin(options.skin) {
+    CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
+    dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));
+    dispatcher->addReactor(MakeLayerReactor(m_state));
+    dispatcher->addReactor(MakeSettingsReactor(*this));
+}
+
+BOOL CMainFrame::CreateFrame() {
+    const CRect rect(CPoint(0, 0), CSize(m_options.width, m_options.height));
+    return Create(nullptr, ViewerText("ViewerTitle").c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rect);
+}
+
+int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
+    if (CFrameWndEx::OnCreate(createStruct) == -1)
+        return -1;
+    ApplySkin();
+    if (!m_ribbon.Create(this) || !m_map.Create(this, AFX_IDW_PANE_FIRST))
+        return -1;
+    m_ribbon.EnableToolTips(TRUE, TRUE);
+    BuildRibbon();
+    ApplyTexts();
+    return 0;
+}
+
+void CMainFrame::OnSetFocus(CWnd*) { m_map.SetFocus(); }
+
+void CMainFrame::BuildRibbon() {
+    m_slider = nullptr;
+    m_place = nullptr;
+    CMFCRibbonCategory* const active = m_ribbon.GetActiveCategory();
+    const int shown = active ? m_ribbon.GetCategoryIndex(active) : m_options.category;
+    m_ribbon.RemoveAllCategories();
+
+    CAddRibbonBar builder;
+    builder.Load(kRibbonFile, &m_ribbon, TRUE);
+    m_commandTexts = builder.m_cmdList;
+    m_slider = FindElement<CMFCRibbonSlider>(m_ribbon, L"ZoomSlider");
+    m_place = FindElement<CMFCRibbonEdit>(m_ribbon, L"PlaceEdit");
+    if (m_slider) {
+        m_slider->SetRange(0, MapState::kSliderMax);
+        m_slider->SetZoomButtons();
+        m_slider->SetZoomIncrement(5);
+        m_slider->SetPos(m_state.SliderPosition(), FALSE);
+    }
+    if (m_ribbon.GetCategoryCount() > 0)
+        m_ribbon.SetActiveCategory(m_ribbon.GetCategory(std::min(shown, m_ribbon.GetCategoryCount() - 1)));
+    m_ribbon.ForceRecalcLayout();
+}
+
+void CMainFrame::OnConfiguredCommand(UINT id) {
+    CMenuEvtHandleMgr::Ins()->MenuClick(id);
+    ShowState();
+    WriteRecord();
+}
+
+void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
+    if (!CMenuEvtHandleMgr::Ins()->Update(commandUi))
+        commandUi->ContinueRouting();
+}
+
+void CMainFrame::ShowState() {
+    if (m_slider && m_slider->GetPos() != m_state.SliderPosition())
+        m_slider->SetPos(m_state.SliderPosition());
+    m_map.ShowState();
+}
+
+void CMainFrame::ApplySkin() {
+    for (const Skin& skin : kSkins)
+        if (m_skin == skin.name)
+            CMFCVisualManagerOffice2007::SetStyle(skin.style);
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+}
+
+void CMainFrame::ApplyTexts() {
+    SetWindowText(ViewerText("ViewerTitle").c_str());
+    MapPaintStyle style;
+    style.scale = afxGlobalData.GetRibbonImageScale();
+    style.chineseNames = CMultiLanguageMgr::GetLanguage() == L"zh-CN";
+    style.kilometres = ViewerText("Kilometres");
+    m_map.SetStyle(style);
+}
+
+void CMainFrame::WriteRecord() {
+    if (m_options.record.empty())
+        return;
+    const MapView& view = m_state.View();
+    nlohmann::ordered_json layers = nlohmann::ordered_json::array();
+    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i)
+        layers.push_back(m_state.IsShown(static_cast<MapLayer>(i)));
+    nlohmann::ordered_json record = {{"map",
+                                      {{"longitude", view.center.longitude},
+                                       {"latitude", view.center.latitude},
+                                       {"pixelsPerDegree", view.pixelsPerDegree},
+                                       {"layers", std::move(layers)},
+                                       {"palette", static_cast<int>(m_state.Palette())}}},
+                                     {"language", wstring2String(CMultiLanguageMgr::GetLanguage())},
+                                     {"skin", wstring2String(m_skin)},
+                                     {"iconStyle", wstring2String(m_iconStyle)},
+                                     {"frame", DumpFrame({&m_ribbon, {m_commandTexts}, L""})}};
+    CRect ribbon;
+    m_ribbon.GetWindowRect(ribbon);
+    record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
+    WriteJson(record, m_options.record);
+}
+
+int CMainFrame::ScaleSliderPosition() const { return m_slider ? m_slider->GetPos() : m_state.SliderPosition(); }
+
+std::wstring CMainFrame::PlaceText() const {
+    return m_place ? std::wstring(m_place->GetEditText().GetString()) : std::wstring();
+}
+
+void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
+    std::wstring message = ViewerText("PlaceUnknown");
+    const std::size_t mark = message.find(L"%s");
+    if (mark != std::wstring::npos)
+        message.replace(mark, 2, text);
+    QKMessageBox(message, QK_MESSAGE_WARNING, GetSafeHwnd());
+}
+
+void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+
+void CMainFrame::SwitchLanguage(const std::wstring& code) {
+    if (!CMultiLanguageMgr::SetLanguage(code))
+        return;
+    setMessageBoxTitle(ViewerText("ViewerTitle"));
+    ApplyTexts();
+    // The clicked button is still at work: the ribbon is built anew after it has finished.
+    PostMessage(kRebuildRibbonMessage);
+}
+
+LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
+    BuildRibbon();
+    WriteRecord();
+    return 0;
+}
+
+bool CMainFrame::IsLanguage(const std::wstring& code) const { return CMultiLanguageMgr::GetLanguage() == code; }
+
+void CMainFrame::SwitchSkin(const std::wstring& name) {
+    m_skin = name;
+    ApplySkin();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+bool CMainFrame::IsSkin(const std::wstring& name) const { return m_skin == name; }
+
+void CMainFrame::SwitchIconStyle(const std::wstring& style) {
+    m_iconStyle = style;
+    CMFCRibbonUNIcoButton::SetSkinStyle(style.c_str());
+    m_ribbon.Invalidate();
+}
+
+bool CMainFrame::IsIconStyle(const std::wstring& style) const { return m_iconStyle == style; }

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <afxcontrolbars.h>
+
+#include "map_data.h"
+#include "map_state.h"
+#include "map_window.h"
+#include "options.h"
+#include "viewer_commands.h"
+
+/// The viewer's main window: the ribbon from cfg\ribbon.xml above the map. Turns the configured commands over to the
+/// reactors and answers what they need of the frame.
+class CMainFrame : public CFrameWndEx, private ViewerHost {
+    DECLARE_DYNAMIC(CMainFrame)
+
+public:
+    explicit CMainFrame(const DemoOptions& options);
+
+    BOOL CreateFrame();
+    CMFCRibbonBar& Ribbon() { return m_ribbon; }
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT createStruct);
+    afx_msg void OnSetFocus(CWnd* earlier);
+    afx_msg void OnConfiguredCommand(UINT id);
+    afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
+    afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void BuildRibbon();
+    void ShowState();
+    void ApplySkin();
+    void ApplyTexts();
+    void WriteRecord();
+
+    int ScaleSliderPosition() const override;
+    std::wstring PlaceText() const override;
+    void TellPlaceUnknown(const std::wstring& text) override;
+    void TellAbout() override;
+    void SwitchLanguage(const std::wstring& code) override;
+    bool IsLanguage(const std::wstring& code) const override;
+    void SwitchSkin(const std::wstring& name) override;
+    bool IsSkin(const std::wstring& name) const override;
+    void SwitchIconStyle(const std::wstring& style) override;
+    bool IsIconStyle(const std::wstring& style) const override;
+
+    DemoOptions m_options;
+    MapData m_data;
+    MapState m_state;
+    CMapWindow m_map;
+    CMFCRibbonBar m_ribbon;
+    CMFCRibbonSlider* m_slider = nullptr; ///< The ribbon's; null when the configuration has none.
+    CMFCRibbonEdit* m_place = nullptr;    ///< The same.
+    std::wstring m_skin;
+    std::wstring m_iconStyle;
+    std::vector<std::wstring> m_commandTexts; ///< As the builder met them, for the record.
+};

@@ -1,0 +1,72 @@
+#include "main_frame.h"
+#include "options.h"
+#include "screenshot.h"
+
+#include "varnhold/language.h"
+#include "varnhold/message_box.h"
+#include "varnhold/strings.h"
+
+#include <shellapi.h>
+
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+std::vector<std::wstring> CommandLine() {
+    int count = 0;
+    LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    std::vector<std::wstring> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.emplace_back(words[i]);
+    ::LocalFree(words);
+    return arguments;
+}
+
+} // namespace
+
+/// The map viewer.
+class CViewerApp : public CWinAppEx {
+public:
+    BOOL InitInstance() override {
+        CWinAppEx::InitInstance();
+        std::wstring error;
+        const std::optional<DemoOptions> options = ParseDemoOptions(CommandLine(), error);
+        if (!options) {
+            std::fprintf(stderr, "demo: %s\n", wstring2String(error).c_str());
+            m_exitCode = 2;
+            return FALSE;
+        }
+        m_gdiPlus.emplace();
+        if (options->scalePercent > 0)
+            afxGlobalData.SetRibbonImageScale(options->scalePercent / 100.0);
+        if (!CMultiLanguageMgr::SetLanguage(options->language))
+            CMultiLanguageMgr::SetLanguage(L"en");
+        setMessageBoxTitle(CMultiLanguageMgr::translationW("ViewerTitle", -1, "Viewer"));
+
+        auto* const frame = new CMainFrame(*options); // destroys itself with its window
+        m_pMainWnd = frame;
+        if (!frame->CreateFrame())
+            return FALSE;
+        frame->ShowWindow(SW_SHOW);
+        frame->UpdateWindow();
+        if (options->screenshot.empty())
+            return TRUE;
+        SettleWindow(frame->GetSafeHwnd());
+        m_exitCode = WriteScreenshot(frame->GetSafeHwnd(), options->screenshot) ? 0 : 1;
+        frame->DestroyWindow();
+        return FALSE;
+    }
+
+    int ExitInstance() override {
+        const int code = CWinAppEx::ExitInstance();
+        m_gdiPlus.reset();
+        return m_exitCode ? m_exitCode : code;
+    }
+
+private:
+    std::optional<GdiPlusSession> m_gdiPlus;
+    int m_exitCode = 0;
+};
+
+static CViewerApp s_viewer;
