@@ -1,0 +1,182 @@
+#include <afxcontrolbars.h>
+
+#include "options.h"
+
+#include "add_ribbon_bar.h"
+#include "frame_dump.h"
+#include "screenshot.h"
+
+#include "varnhold/file_op.h"
+#include "varnhold/language.h"
+#include "varnhold/message_box.h"
+#include "varnhold/strings.h"
+
+#include <shellapi.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr int kLoadFailed = 1;
+constexpr int kWrongUsage = 2;
+
+void Complain(const std::wstring& text) { std::fprintf(stderr, "barview: %s\n", wstring2String(text).c_str()); }
+
+std::vector<std::wstring> CommandLine() {
+    int count = 0;
+    LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    std::vector<std::wstring> arguments;
+    for (int i = 1; i < count; ++i)
+        arguments.emplace_back(words[i]);
+    ::LocalFree(words);
+    return arguments;
+}
+
+/// The frame around the previewed bars. Every configured command is enabled, because no host is there to say otherwise.
+class CPreviewFrame : public CFrameWndEx {
+public:
+    explicit CPreviewFrame(const BarviewOptions& options) : m_options(options), m_ribbon(FALSE) {}
+
+    BOOL CreateFrame() {
+        CRect rect(CPoint(0, 0), CSize(m_options.width, m_options.height));
+        const DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+        ::AdjustWindowRectEx(rect, style, FALSE, 0);
+        rect.MoveToXY(0, 0);
+        return Create(nullptr, m_options.directory.c_str(), style, rect);
+    }
+
+    /// Builds the bars; false when a file could not be loaded.
+    bool Build() {
+        bool isComplete = true;
+        for (const std::wstring& file : m_options.ribbonFiles) {
+            CAddRibbonBar builder;
+            if (!builder.Load(file, &m_ribbon, TRUE)) {
+                Complain(L"not loaded: " + file);
+                isComplete = false;
+            }
+            m_commands.push_back(builder.m_cmdList);
+        }
+        ShowCategory();
+        m_ribbon.ForceRecalcLayout();
+        return isComplete;
+    }
+
+    DumpSources Sources() { return {&m_ribbon, m_commands, L""}; }
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT createStruct) {
+        if (CFrameWndEx::OnCreate(createStruct) == -1 || !m_ribbon.Create(this))
+            return -1;
+        m_ribbon.EnableToolTips(TRUE, TRUE);
+        return 0;
+    }
+    afx_msg void OnCommandOfFile(UINT) {}
+    afx_msg void OnUpdateCommandOfFile(CCmdUI* commandUi) { commandUi->Enable(TRUE); }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void ShowCategory() {
+        for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
+            CMFCRibbonCategory* const category = m_ribbon.GetCategory(i);
+            if (m_options.category.empty() ? i == 0 : m_options.category == category->GetName()) {
+                m_ribbon.SetActiveCategory(category);
+                return;
+            }
+        }
+        if (!m_options.category.empty())
+            Complain(L"no category named " + m_options.category);
+    }
+
+    const BarviewOptions& m_options;
+    CMFCRibbonBar m_ribbon;
+    std::vector<std::vector<std::wstring>> m_commands;
+};
+
+BEGIN_MESSAGE_MAP(CPreviewFrame, CFrameWndEx)
+ON_WM_CREATE()
+ON_COMMAND_RANGE(41000, 57343, OnCommandOfFile)
+ON_UPDATE_COMMAND_UI_RANGE(41000, 57343, OnUpdateCommandOfFile)
+END_MESSAGE_MAP()
+
+} // namespace
+
+/// Shows what a configuration builds.
+class CBarviewApp : public CWinAppEx {
+public:
+    BOOL InitInstance() override {
+        CWinAppEx::InitInstance();
+        std::wstring error;
+        std::optional<BarviewOptions> options = ParseBarviewOptions(CommandLine(), error);
+        if (!options) {
+            Complain(error);
+            std::fputs(wstring2String(BarviewUsage()).c_str(), stderr);
+            m_exitCode = kWrongUsage;
+            return FALSE;
+        }
+        m_options = *options;
+        m_gdiPlus = std::make_unique<GdiPlusSession>();
+        if (m_options.IsUnattended())
+            m_answer = std::make_unique<ScopedMessageBoxHandler>([](const std::wstring& message, int, HWND) {
+                Complain(message);
+                return IDOK;
+            });
+        Prepare();
+
+        auto* const frame = new CPreviewFrame(m_options); // destroys itself with its window
+        m_pMainWnd = frame;
+        if (!frame->CreateFrame()) {
+            m_exitCode = kLoadFailed;
+            return FALSE;
+        }
+        if (!frame->Build())
+            m_exitCode = kLoadFailed;
+        frame->ShowWindow(SW_SHOW);
+        frame->UpdateWindow();
+        if (!m_options.IsUnattended())
+            return TRUE;
+        SettleWindow(frame->GetSafeHwnd());
+        WriteOutputs(*frame);
+        frame->DestroyWindow();
+        return FALSE;
+    }
+
+    int ExitInstance() override {
+        const int code = CWinAppEx::ExitInstance();
+        m_answer.reset();
+        m_gdiPlus.reset();
+        return m_exitCode ? m_exitCode : code;
+    }
+
+private:
+    void Prepare() {
+        FileOp::SetAppPath(m_options.directory);
+        CMultiLanguageMgr::SetProblemSink([](const std::wstring& problem) { Complain(problem); });
+        if (!m_options.language.empty() && !CMultiLanguageMgr::SetLanguage(m_options.language))
+            Complain(L"no usable language " + m_options.language);
+        if (m_options.scalePercent > 0)
+            afxGlobalData.SetRibbonImageScale(m_options.scalePercent / 100.0);
+        CMFCVisualManagerOffice2007::SetStyle(m_options.skin == L"black"
+                                                  ? CMFCVisualManagerOffice2007::Office2007_ObsidianBlack
+                                                  : CMFCVisualManagerOffice2007::Office2007_Silver);
+        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+    }
+
+    void WriteOutputs(CPreviewFrame& frame) {
+        if (!m_options.screenshot.empty() && !WriteScreenshot(frame.GetSafeHwnd(), m_options.screenshot)) {
+            Complain(L"not written: " + m_options.screenshot);
+            m_exitCode = kLoadFailed;
+        }
+        if (!m_options.dump.empty() && !WriteJson(DumpFrame(frame.Sources()), m_options.dump)) {
+            Complain(L"not written: " + m_options.dump);
+            m_exitCode = kLoadFailed;
+        }
+    }
+
+    BarviewOptions m_options;
+    std::unique_ptr<GdiPlusSession> m_gdiPlus;
+    std::unique_ptr<ScopedMessageBoxHandler> m_answer;
+    int m_exitCode = 0;
+};
+
+static CBarviewApp s_barview;

@@ -1,0 +1,108 @@
+#include "options.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <filesystem>
+#include <functional>
+#include <map>
+
+namespace {
+
+bool ParseInt(const std::wstring& text, int low, int high, int& number) {
+    wchar_t* end = nullptr;
+    const long value = std::wcstol(text.c_str(), &end, 10);
+    if (text.empty() || *end != 0 || value < low || value > high)
+        return false;
+    number = static_cast<int>(value);
+    return true;
+}
+
+bool ParseSize(const std::wstring& text, int& width, int& height) {
+    constexpr int kLargest = 16384;
+    const std::size_t cross = text.find(L'x');
+    return cross != std::wstring::npos && ParseInt(text.substr(0, cross), 1, kLargest, width) &&
+           ParseInt(text.substr(cross + 1), 1, kLargest, height);
+}
+
+/// cfg\ribbon*.xml of the directory in name order, as paths relative to it.
+std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
+    std::vector<std::wstring> files;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(directory) / L"cfg", error)) {
+        const std::wstring name = entry.path().filename().wstring();
+        if (entry.is_regular_file(error) && name.starts_with(L"ribbon") && name.ends_with(L".xml"))
+            files.push_back(L"cfg\\" + name);
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+} // namespace
+
+const wchar_t* BarviewUsage() {
+    return L"usage: barview DIR [--ribbon FILE]... [--lang LANG] [--skin black|silver] [--size WxH]\n"
+           L"               [--scale PERCENT] [--category NAME] [--screenshot OUT.png] [--dump OUT.json]\n"
+           L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon it "
+           L"takes\n"
+           L"cfg\\ribbon*.xml in name order. With --screenshot or --dump it leaves when they are written.\n"
+           L"Exit code: 0, 1 when a file could not be loaded or written, 2 on wrong usage.\n";
+}
+
+std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
+    BarviewOptions options;
+    typedef std::function<bool(const std::wstring&)> Setter;
+    const auto text = [](std::wstring& target) {
+        return Setter([&target](const std::wstring& value) {
+            target = value;
+            return !value.empty();
+        });
+    };
+    const std::map<std::wstring, Setter> setters = {
+        {L"--ribbon",
+         [&](const std::wstring& file) {
+             options.ribbonFiles.push_back(file);
+             return !file.empty();
+         }},
+        {L"--lang", text(options.language)},
+        {L"--skin",
+         [&](const std::wstring& name) {
+             options.skin = name;
+             return name == L"black" || name == L"silver";
+         }},
+        {L"--size", [&](const std::wstring& value) { return ParseSize(value, options.width, options.height); }},
+        {L"--scale", [&](const std::wstring& value) { return ParseInt(value, 50, 400, options.scalePercent); }},
+        {L"--category", text(options.category)},
+        {L"--screenshot", text(options.screenshot)},
+        {L"--dump", text(options.dump)},
+    };
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::wstring& argument = arguments[i];
+        const auto setter = setters.find(argument);
+        if (setter == setters.end()) {
+            if (argument.starts_with(L"-") || !options.directory.empty()) {
+                error = L"not understood: " + argument;
+                return std::nullopt;
+            }
+            options.directory = argument;
+            continue;
+        }
+        if (++i == arguments.size() || !setter->second(arguments[i])) {
+            error = argument + L" needs a proper value";
+            return std::nullopt;
+        }
+    }
+    if (options.directory.empty()) {
+        error = L"the installation directory is missing";
+        return std::nullopt;
+    }
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(options.directory, ignored)) {
+        error = L"no such directory: " + options.directory;
+        return std::nullopt;
+    }
+    if (options.directory.back() != L'\\' && options.directory.back() != L'/')
+        options.directory += L'\\';
+    if (options.ribbonFiles.empty())
+        options.ribbonFiles = FindRibbonFiles(options.directory);
+    return options;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What the preview was asked for.
+struct BarviewOptions {
+    std::wstring directory;                ///< Installation directory, with its closing backslash.
+    std::vector<std::wstring> ribbonFiles; ///< Relative to the directory, as the builders get them.
+    std::wstring language;
+    std::wstring skin = L"silver";
+    int width = 1280; ///< Client size of the frame in screen pixels.
+    int height = 300;
+    int scalePercent = 0;  ///< 0: as the screen says.
+    std::wstring category; ///< Name of the category to show; empty: the first.
+    std::wstring screenshot;
+    std::wstring dump;
+
+    /// Nobody watches: leave after the output, and never wait for an answer.
+    bool IsUnattended() const { return !screenshot.empty() || !dump.empty(); }
+};
+
+/// Nothing, with a line in `error`, on wrong usage.
+std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error);
+
+/// One line for each option.
+const wchar_t* BarviewUsage();
