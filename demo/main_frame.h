@@ -17,7 +17,8 @@ public:
     explicit CMainFrame(const DemoOptions& options);
 
     BOOL CreateFrame();
-    CMFCRibbonBar& Ribbon() { return m_ribbon; }
+    /// Writes what is shown to the file of the option --record, if there is one.
+    void WriteRecord();
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
@@ -32,7 +33,6 @@ private:
     void ShowState();
     void ApplySkin();
     void ApplyTexts();
-    void WriteRecord();
 
     int ScaleSliderPosition() const override;
     std::wstring PlaceText() const override;

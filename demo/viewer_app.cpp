@@ -50,6 +50,7 @@ public:
             return FALSE;
         frame->ShowWindow(SW_SHOW);
         frame->UpdateWindow();
+        frame->WriteRecord();
         if (options->screenshot.empty())
             return TRUE;
         SettleWindow(frame->GetSafeHwnd());

@@ -1,0 +1,93 @@
+"""Starts the viewer on a virtual display and drives it from outside, as a person would."""
+import json
+import os
+import subprocess
+import tempfile
+import time
+
+ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+DEADLINE = 40
+
+
+class Viewer:
+    """One run of the demo. `bin_dir` holds demo.exe; use it as a context."""
+
+    def __init__(self, bin_dir, *arguments):
+        self._bin = bin_dir
+        self._arguments = arguments
+        self._folder = tempfile.TemporaryDirectory()
+        self._record_file = os.path.join(self._folder.name, "record.json")
+
+    def __enter__(self):
+        read_end, write_end = os.pipe()
+        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x900x24", "-nolisten", "tcp"],
+                                        pass_fds=[write_end], stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        display = os.read(read_end, 16).decode().strip()
+        os.close(read_end)
+        if not display:
+            raise RuntimeError("Xvfb did not start")
+        # A prefix of its own: Wine's desktop belongs to one display at a time.
+        self._environment = dict(os.environ, DISPLAY=":" + display,
+                                 BARWRIGHT_WINEPREFIX=os.path.join(ROOT, "build", "wine-e2e"))
+        self._program = subprocess.Popen(
+            [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, "demo.exe"), "--size", "1280x800",
+             "--record", self._record_file, *self._arguments], env=self._environment)
+        self.record = self.wait_for(lambda record: True)
+        return self
+
+    def __exit__(self, *_):
+        subprocess.run(["wineserver", "-k"], env=dict(self._environment, WINEPREFIX=self._environment["BARWRIGHT_WINEPREFIX"]))
+        self._program.wait()
+        self._server.terminate()
+        self._server.wait()
+        self._folder.cleanup()
+
+    def wait_for(self, condition):
+        """The first record that meets the condition; fails when none does in time."""
+        end = time.monotonic() + DEADLINE
+        record = None
+        while time.monotonic() < end:
+            if self._program.poll() is not None:
+                raise AssertionError(f"the viewer left with {self._program.returncode}")
+            try:
+                with open(self._record_file, encoding="utf-8") as file:
+                    record = json.load(file)
+                if condition(record):
+                    self.record = record
+                    return record
+            except (FileNotFoundError, json.JSONDecodeError):
+                pass
+            time.sleep(0.05)
+        raise AssertionError(f"no record met the condition in {DEADLINE} s; last one: {record and record['map']}")
+
+    def _xdotool(self, *words):
+        subprocess.run(["xdotool", *map(str, words)], env=self._environment, check=True)
+
+    def click(self, x, y):
+        self._xdotool("mousemove", x, y, "sleep", 0.1, "click", 1)
+
+    def elements(self):
+        def walk(element):
+            yield element
+            for child in element.get("children", []):
+                yield from walk(child)
+
+        for category in self.record["frame"]["ribbon"]["categories"]:
+            for panel in category["panels"]:
+                for element in panel["elements"]:
+                    yield from walk(element)
+
+    def id_of(self, keyword):
+        return next(entry["id"] for entry in self.record["frame"]["registry"] if entry["keyword"] == keyword)
+
+    def click_command(self, keyword):
+        """Clicks the middle of the command's element in the ribbon."""
+        wanted = self.id_of(keyword)
+        left, top, right, bottom = next(e["rect"] for e in self.elements() if e["id"] == wanted)
+        bar_left, bar_top = self.record["ribbonOnScreen"][:2]
+        self.click(bar_left + (left + right) // 2, bar_top + (top + bottom) // 2)
+
+    def picture(self, path):
+        subprocess.run(["import", "-window", "root", path], env=self._environment, check=True)
+        return path

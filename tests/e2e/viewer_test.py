@@ -1,0 +1,51 @@
+#!/usr/bin/python3
+"""End-to-end tests of the demo: real clicks from outside, judged by its record and by pictures.
+
+usage: viewer_test.py BIN_DIR [TEST...]
+"""
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from viewer import Viewer
+
+BIN_DIR = ""
+
+
+def changed_pixels(before, after, area):
+    """Number of pixels of the area (ImageMagick geometry) that differ."""
+    result = subprocess.run(["compare", "-metric", "AE", f"{before}[{area}]", f"{after}[{area}]", "null:"],
+                            capture_output=True, text=True)
+    return int(float(result.stderr.split()[0]))
+
+
+class ClickOnARibbonButton(unittest.TestCase):
+    def test_zoom_in_doubles_the_scale_and_the_map_changes_on_the_screen(self):
+        with Viewer(BIN_DIR) as viewer, tempfile.TemporaryDirectory() as folder:
+            before = viewer.picture(os.path.join(folder, "before.png"))
+            scale = viewer.record["map"]["pixelsPerDegree"]
+            viewer.click_command("ZoomIn")
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] == 2 * scale)
+            after = viewer.picture(os.path.join(folder, "after.png"))
+            self.assertGreater(changed_pixels(before, after, "800x300+100+350"), 20000)
+
+    def test_the_dump_names_every_configured_command_once(self):
+        with Viewer(BIN_DIR) as viewer:
+            registry = viewer.record["frame"]["registry"]
+            keywords = [entry["keyword"] for entry in registry]
+            self.assertEqual(len(keywords), len(set(keywords)))
+            self.assertEqual([entry["id"] for entry in registry], sorted(entry["id"] for entry in registry))
+            self.assertEqual(viewer.record["frame"]["nextCommandId"], registry[-1]["id"] + 1)
+
+    def test_a_language_switch_rebuilds_the_ribbon_in_the_other_language(self):
+        with Viewer(BIN_DIR, "--lang", "zh-CN", "--category", "2") as viewer:
+            self.assertEqual(viewer.record["frame"]["ribbon"]["categories"][0]["name"], "地图")
+            viewer.click_command("LanguageEnglish")
+            viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "Map")
+
+
+if __name__ == "__main__":
+    BIN_DIR = sys.argv.pop(1)
+    unittest.main(verbosity=2)
