@@ -1,0 +1,226 @@
+#include "config/ribbon_file.h"
+#include "tests/unit/ribbon_file/translation_tables.h"
+
+#include <varnhold/xml.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::vector<RibbonRecord> ReadRows(const std::string& xml, DiagnosticsSink& sink = DroppedDiagnostics()) {
+    CXmlDocumentWrapper document;
+    EXPECT_TRUE(document.LoadFromMemory(xml)) << xml;
+    return ReadRibbonRows(document.GetDocumentElement(), FileDiagnostics(L"f.xml", sink));
+}
+
+/// Every record as "depth:keyword", in reading order.
+void Describe(const std::vector<RibbonRecord>& records, int depth, std::wstring& out) {
+    for (const RibbonRecord& record : records) {
+        out += std::to_wstring(depth) + L":" + record.info.keyword + L" ";
+        Describe(record.children, depth + 1, out);
+    }
+}
+
+std::wstring Outline(const std::string& xml) {
+    std::wstring outline;
+    Describe(ReadRows(xml), 1, outline);
+    return outline;
+}
+
+const RibbonRecord& Below(const std::vector<RibbonRecord>& rows, std::initializer_list<std::size_t> path) {
+    const std::vector<RibbonRecord>* records = &rows;
+    const RibbonRecord* record = nullptr;
+    for (const std::size_t index : path) {
+        record = &records->at(index);
+        records = &record->children;
+    }
+    return *record;
+}
+
+TEST(RibbonFileWalk, DepthAloneSaysWhatAnElementIs) {
+    EXPECT_EQ(
+        Outline("<any><row KEYWORD='r'><x KEYWORD='c'><row KEYWORD='p'><x KEYWORD='e'><y KEYWORD='s'/></x></row></x>"
+                "</row></any>"),
+        L"1:r 2:c 3:p 4:e 5:s ");
+}
+
+TEST(RibbonFileWalk, ChildrenAreVisitedInDocumentOrder) {
+    EXPECT_EQ(Outline("<d><r KEYWORD='1'><c KEYWORD='a'><p KEYWORD='b'/><p KEYWORD='c'/></c><c KEYWORD='d'/></r>"
+                      "<r KEYWORD='2'><c KEYWORD='e'/></r></d>"),
+              L"1:1 2:a 3:b 3:c 2:d 1:2 2:e ");
+}
+
+TEST(RibbonFileWalk, ElementsBelowSubItemsAreNotRead) {
+    EXPECT_EQ(
+        Outline("<d><r KEYWORD='1'><r KEYWORD='2'><r KEYWORD='3'><r KEYWORD='4'><r KEYWORD='5'><r KEYWORD='6'/></r>"
+                "</r></r></r></r></d>"),
+        L"1:1 2:2 3:3 4:4 5:5 ");
+}
+
+TEST(RibbonFileWalk, TextsAndCommentsAreNoElements) {
+    EXPECT_EQ(Outline("<d>text<!-- c --><r KEYWORD='1'>text<?pi?><c KEYWORD='2'/><![CDATA[<c/>]]></r></d>"),
+              L"1:1 2:2 ");
+}
+
+TEST(RibbonFileWalk, DocumentElementsOwnAttributesAreNotRead) {
+    EXPECT_EQ(
+        Outline("<d KEYWORD='QK_Rbbion_QAToolbar' SIZE='x'><r KEYWORD='1'><c KEYWORD='2'><p KEYWORD='3'/></c></r></d>"),
+        L"1:1 2:2 3:3 ");
+}
+
+TEST(RibbonFileWalk, EmptyDocumentHasNoRows) {
+    EXPECT_EQ(Outline("<d/>"), L"");
+    EXPECT_TRUE(ReadRibbonRows(CXmlNodeWrapper(), FileDiagnostics({}, DroppedDiagnostics())).empty());
+}
+
+TEST(RibbonFileWalk, RowKindsAreComparedWithLetterCase) {
+    EXPECT_EQ(KindOfRow(L"QK_Rbbion_QAToolbar"), RibbonRowKind::QuickAccess);
+    EXPECT_EQ(KindOfRow(L"StatusEx_btns"), RibbonRowKind::StatusButtons);
+    for (const wchar_t* keyword : {L"", L"QK_Ribbon_QAToolbar", L"qk_rbbion_qatoolbar", L"StatusEx_Btns",
+                                   L"statusex_btns", L"QK_Rbbion_QAToolbar "})
+        EXPECT_EQ(KindOfRow(keyword), RibbonRowKind::Categories) << keyword;
+}
+
+TEST(RibbonFileWalk, QuickAccessAndStatusRowsHaveOneLevel) {
+    EXPECT_EQ(Outline("<d><r KEYWORD='QK_Rbbion_QAToolbar'><i KEYWORD='a'><p KEYWORD='no'/></i><i KEYWORD='b'/></r>"
+                      "<r KEYWORD='StatusEx_btns'><i KEYWORD='c'><p KEYWORD='no'/></i></r>"
+                      "<r KEYWORD='plain'><i KEYWORD='d'><p KEYWORD='yes'/></i></r></d>"),
+              L"1:QK_Rbbion_QAToolbar 2:a 2:b 1:StatusEx_btns 2:c 1:plain 2:d 3:yes ");
+}
+
+TEST(RibbonFileWalk, RowWithoutAttributesHoldsCategories) {
+    EXPECT_EQ(Outline("<d><r><c KEYWORD='a'><p KEYWORD='b'/></c></r></d>"), L"1: 2:a 3:b ");
+}
+
+TEST(RibbonFileWalk, ElementsThatCannotBeReadKeepTheirPlace) {
+    EXPECT_EQ(Outline("<d><r KEYWORD='1'><c/><c SIZE='x' KEYWORD='no'><p KEYWORD='p'/></c></r></d>"),
+              L"1:1 2: 2: 3:p ");
+}
+
+TEST(RibbonFileCarryOver, PanelKeepsItsCategorysPictureCommandAndParameter) {
+    const auto rows = ReadRows("<d><r><c KEYWORD='c' NAME='' CMD='do' PARAM='with' PICDisPATH='grey' TYPE='t' SIZE='3'>"
+                               "<p KEYWORD='p'/></c></r></d>");
+    const RibbonInfo& panel = Below(rows, {0, 0, 0}).info;
+    EXPECT_EQ(panel.cmd, L"do");
+    EXPECT_EQ(panel.param, L"with");
+    EXPECT_EQ(panel.picDisPath, L"grey");
+    EXPECT_EQ(panel.type, L"");
+    EXPECT_EQ(panel.size, 0);
+}
+
+TEST(RibbonFileCarryOver, PanelKeepsThoseOfThePanelBefore) {
+    const auto rows = ReadRows("<d><r><c CMD='1' PARAM='c'><p KEYWORD='a' CMD='2'/><p KEYWORD='b'/><p/></c></r></d>");
+    EXPECT_EQ(Below(rows, {0, 0, 1}).info.cmd, L"2");
+    EXPECT_EQ(Below(rows, {0, 0, 1}).info.param, L"c");
+    EXPECT_EQ(Below(rows, {0, 0, 2}).info.cmd, L"2");
+}
+
+TEST(RibbonFileCarryOver, CategoryStartsFresh) {
+    const auto rows = ReadRows("<d><r CMD='row'><c CMD='1' PARAM='x'/><c KEYWORD='b'/></r></d>");
+    EXPECT_EQ(Below(rows, {0, 0}).info.cmd, L"1");
+    EXPECT_EQ(Below(rows, {0, 1}).info.cmd, L"");
+    EXPECT_EQ(Below(rows, {0, 1}).info.param, L"");
+}
+
+TEST(RibbonFileCarryOver, ElementStartsFresh) {
+    const auto rows =
+        ReadRows("<d><r><c CMD='1'><p CMD='2' PARAM='x'><e KEYWORD='a' CMD='3'/><e KEYWORD='b'/></p></c></r></d>");
+    EXPECT_EQ(Below(rows, {0, 0, 0, 0}).info.cmd, L"3");
+    EXPECT_EQ(Below(rows, {0, 0, 0, 0}).info.param, L"");
+    EXPECT_EQ(Below(rows, {0, 0, 0, 1}).info.cmd, L"");
+}
+
+TEST(RibbonFileCarryOver, SubItemKeepsThoseOfItsElementAndOfTheSubItemBefore) {
+    const auto rows =
+        ReadRows("<d><r><c><p><e CMD='1' PARAM='x'><s KEYWORD='a'/><s CMD='2'/><s KEYWORD='c'/></e></p></c></r></d>");
+    EXPECT_EQ(Below(rows, {0, 0, 0, 0, 0}).info.cmd, L"1");
+    EXPECT_EQ(Below(rows, {0, 0, 0, 0, 2}).info.cmd, L"2");
+    EXPECT_EQ(Below(rows, {0, 0, 0, 0, 2}).info.param, L"x");
+}
+
+TEST(RibbonFileCarryOver, SingleElementIsReadLikeOneOfAFile) {
+    CXmlDocumentWrapper document;
+    ASSERT_TRUE(
+        document.LoadFromMemory("<e KEYWORD='e' CMD='1'><s KEYWORD='a'><x KEYWORD='no'/></s><s CMD='2'/><s/></e>"));
+    const RibbonRecord element =
+        ReadRibbonElement(document.GetDocumentElement(), FileDiagnostics({}, DroppedDiagnostics()));
+    EXPECT_EQ(element.info.keyword, L"e");
+    ASSERT_EQ(element.children.size(), 3u);
+    EXPECT_EQ(element.children[0].info.cmd, L"1");
+    EXPECT_TRUE(element.children[0].children.empty());
+    EXPECT_EQ(element.children[2].info.cmd, L"2");
+}
+
+class CollectingSink : public DiagnosticsSink {
+public:
+    void Report(const Diagnostic& diagnostic) override {
+        m_seen += std::string(diagnostic.code) + "@" + std::to_string(diagnostic.position.line) + ":" +
+                  std::to_string(diagnostic.position.column) + " ";
+        m_last = diagnostic;
+    }
+    std::string m_seen;
+    Diagnostic m_last;
+};
+
+struct DiagnosticCase {
+    const char* xml;
+    const char* expected;
+};
+
+constexpr DiagnosticCase diagnosticCases[] = {
+    {"<d><r><c KEYWORD='a'/></r></d>", ""},
+    {"<d><r><c KEYWORD='a' colour='red'/></r></d>", "unknown-attribute@1:22 "},
+    {"<d><r><c KEYWORD='a' SIZE='16px'/></r></d>", "not-a-number@1:22 "},
+    {"<d><r><c NAME='' KEYWORD='a'/></r></d>", "text-before-keyword@1:10 "},
+    {"<d>\n<r>\n <c KEYWORD='a' GROUPBEFORE='Y' CMD=''/></r></d>", "group-before-not-last@3:17 "},
+    {"<d><r><c KEYWORD='a' CateTab='maybe'/></r></d>", "not-yes-or-no@1:22 "},
+    {"<d><r><c/></r></d>", "no-attributes@1:7 "},
+    {"<d><r><c CMD='x'/></r></d>", "no-keyword@1:7 "},
+    {"<d><r><c KEYWORD='a'><p KEYWORD='p'><e KEYWORD='e' TYPE='lamp'/></p></c></r></d>", "unknown-type@1:37 "},
+    {"<d><r><c KEYWORD='a'><p KEYWORD='p'><e KEYWORD='e' TYPE='group'/></p></c></r></d>", "empty-group@1:37 "},
+    {"<d><r><c KEYWORD='a'><p KEYWORD='p'><e KEYWORD='e' TYPE='LABEL'><s KEYWORD='s' "
+     "TYPE='button'/></e></p></c></r></d>",
+     "takes-no-sub-items@1:37 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a'><p/></c></r></d>", "too-deep@1:31 "},
+};
+
+TEST(RibbonFileDiagnostics, EveryProblemIsReportedWithItsPlace) {
+    for (const DiagnosticCase& diagnosticCase : diagnosticCases) {
+        CollectingSink sink;
+        ReadRows(diagnosticCase.xml, sink);
+        EXPECT_EQ(sink.m_seen, diagnosticCase.expected) << diagnosticCase.xml;
+    }
+}
+
+TEST(RibbonFileDiagnostics, ReportNamesTheFile) {
+    CollectingSink sink;
+    ReadRows("<d><r><c KEYWORD='a' SIZE='x'/></r></d>", sink);
+    EXPECT_EQ(sink.m_last.file, L"f.xml");
+    EXPECT_EQ(sink.m_last.severity, DiagnosticSeverity::Error);
+    EXPECT_NE(sink.m_last.text, L"");
+}
+
+TEST(RibbonFileDiagnostics, LibrarysOwnSinkDropsEverything) {
+    EXPECT_FALSE(DroppedDiagnostics().IsListening());
+    DroppedDiagnostics().Report({});
+}
+
+TEST(RibbonFileDiagnostics, RecordsAreTheSameWhetherSomebodyListensOrNot) {
+    for (const DiagnosticCase& diagnosticCase : diagnosticCases) {
+        CollectingSink sink;
+        std::wstring heard;
+        Describe(ReadRows(diagnosticCase.xml, sink), 1, heard);
+        EXPECT_EQ(heard, Outline(diagnosticCase.xml)) << diagnosticCase.xml;
+    }
+}
+
+TEST(RibbonFileDiagnostics, UnreadableFileIsReportedOnceWithItsPlace) {
+    const TemporaryDirectory directory;
+    CollectingSink sink;
+    std::vector<RibbonRecord> rows;
+    EXPECT_FALSE(LoadRibbonFile(directory.Write("f.xml", "<d>\n<r></d>"), rows, sink));
+    EXPECT_TRUE(sink.m_seen.starts_with("unreadable-file@2:")) << sink.m_seen;
+    EXPECT_EQ(sink.m_seen.find(' '), sink.m_seen.size() - 1);
+}
+
+} // namespace
