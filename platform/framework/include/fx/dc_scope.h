@@ -1,0 +1,89 @@
+#pragma once
+
+// Scopes for drawing: what is changed on a device context is put back at the end of the block.
+
+#include "fx/dc.h"
+
+namespace fx {
+
+/// One object selected into a context, the one before selected back.
+template <class Object>
+class DcSelection {
+public:
+    DcSelection(CDC& dc, Object* object) : m_dc(dc), m_before(dc.SelectObject(object)) {}
+    ~DcSelection() {
+        if (m_before != nullptr) {
+            m_dc.SelectObject(m_before);
+        }
+    }
+    DcSelection(const DcSelection&) = delete;
+    DcSelection& operator=(const DcSelection&) = delete;
+
+private:
+    CDC& m_dc;
+    Object* m_before;
+};
+template <class Object>
+DcSelection(CDC&, Object*) -> DcSelection<Object>;
+
+/// Everything that SaveDC keeps: selected objects, colours, modes, clipping, co-ordinates.
+class DcState {
+public:
+    explicit DcState(CDC& dc) : m_dc(dc), m_saved(dc.SaveDC()) {}
+    ~DcState() {
+        if (m_saved != 0) {
+            m_dc.RestoreDC(m_saved);
+        }
+    }
+    DcState(const DcState&) = delete;
+    DcState& operator=(const DcState&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_saved;
+};
+
+/// Text colour and a transparent background for a block.
+class TextColour {
+public:
+    TextColour(CDC& dc, COLORREF colour)
+        : m_dc(dc), m_colour(dc.SetTextColor(colour)), m_mode(dc.SetBkMode(TRANSPARENT)) {}
+    ~TextColour() {
+        m_dc.SetTextColor(m_colour);
+        m_dc.SetBkMode(m_mode);
+    }
+    TextColour(const TextColour&) = delete;
+    TextColour& operator=(const TextColour&) = delete;
+
+private:
+    CDC& m_dc;
+    COLORREF m_colour;
+    int m_mode;
+};
+
+/// A double buffer: draws to memory in the target's own co-ordinates and copies the rectangle to the target at the end.
+/// It starts with what the target shows there, and with the target's font and colours. When memory for the picture is
+/// out, GetDC gives the target itself.
+class FRAMEWORK_API MemoryDc {
+public:
+    /// The rectangle is in the target's logical units; the target must outlive this.
+    MemoryDc(CDC& target, const CRect& rect);
+    ~MemoryDc();
+    MemoryDc(const MemoryDc&) = delete;
+    MemoryDc& operator=(const MemoryDc&) = delete;
+
+    CDC& GetDC() noexcept { return m_isBuffered ? m_memory : m_target; }
+    operator CDC&() noexcept { return GetDC(); }
+    CDC* operator->() noexcept { return &GetDC(); }
+
+private:
+    CDC& m_target;
+    CRect m_rect;
+    CBitmap m_bitmap;
+    CDC m_memory;
+    HGDIOBJ m_bitmapBefore = nullptr;
+    HGDIOBJ m_fontBefore = nullptr;
+    bool m_isBuffered = false;
+};
+
+} // namespace fx
