@@ -25,7 +25,8 @@ add_library(barwright_options INTERFACE)
 target_compile_options(barwright_options INTERFACE -Wall -Wextra -Werror -Wno-unknown-pragmas -fpch-preprocess)
 if(WIN32)
   # Message-map entries name handlers without qualification and reach protected base handlers.
-  target_compile_options(barwright_options INTERFACE -fms-extensions)
+  # Windows structures are read through more than one type everywhere (NMHDR and its extensions, RECT as two POINTs).
+  target_compile_options(barwright_options INTERFACE -fms-extensions -fno-strict-aliasing)
   target_compile_definitions(barwright_options INTERFACE UNICODE _UNICODE NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00
                                                         _WIN32_IE=0x0A00)
   add_compile_options($<$<CONFIG:Debug>:-g1>)
