@@ -9,7 +9,6 @@ class CDockingPanesRow;
 class CDockSite;
 class CPaneDivider;
 class CPaneFrameWnd;
-class CMFCRibbonBar;
 
 /// Base of every window that sits along the edges of a frame's client area: bars, toolbars, status bars, the ribbon. A
 /// pane whose parent is a docking frame enters that frame's docking manager when it is created and leaves it when
@@ -100,6 +99,8 @@ public:
 
     virtual HDWP SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags, HDWP hdwp = NULL);
     virtual HDWP MoveWindow(CRect& rect, BOOL bRepaint = TRUE, HDWP hdwp = NULL);
+    using CWnd::MoveWindow;
+    using CWnd::SetWindowPos;
 
     /// Position and state under the application's registry section; FALSE when nothing could be read or written.
     virtual BOOL LoadState(LPCTSTR lpszProfileName = NULL, int nIndex = -1, UINT uiID = (UINT)-1);
@@ -115,16 +116,11 @@ public:
     /// The window's text. E_INVALIDARG for anything but the pane itself.
     virtual HRESULT get_accName(VARIANT varChild, BSTR* pszName);
 
-    /// Our own extension point: a frame that finds its ribbon among its panes asks each. NULL for everything else.
-    virtual CMFCRibbonBar* AsRibbonBar() { return NULL; }
-
     CFont* SelectDefaultFont(CDC* pDC);
-    BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
     virtual void DoPaint(CDC* pDC);
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
@@ -133,7 +129,6 @@ protected:
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSizeParent(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnHelpHitTest(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CDockingManager* FindDockingManager() const;
@@ -141,11 +136,10 @@ protected:
     DWORD m_dwStyle = 0;            ///< CBRS_ bits
     DWORD m_dwControlBarStyle = 0;  ///< AFX_CBRS_ bits
     DWORD m_dwEnabledAlignment = 0; ///< CBRS_ALIGN_ bits allowed by EnableDocking
-    BOOL m_bVisible = FALSE;
     BOOL m_bRecentVisibleState = FALSE;
     BOOL m_bIsDocked = FALSE; ///< lies in a row of its side, beside others
     BOOL m_bIsDialogControl = FALSE;
-    AFX_DOCK_TYPE m_dockMode = DT_UNDEFINED;
+    AFX_DOCK_TYPE m_dockMode = DT_UNDEFINED; ///< DT_UNDEFINED: the application's
     CWnd* m_pDockSiteFrame = NULL;
 
     friend class CDockingManager;

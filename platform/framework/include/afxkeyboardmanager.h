@@ -29,9 +29,6 @@ public:
     /// Forgets cached tables.
     static void CleanUp();
 
-    /// Puts the resource's table back.
-    void ResetAll();
-
 private:
     static bool s_isShowAll;
     static CString s_delimiter;

@@ -1,43 +1,9 @@
 #pragma once
 
-/// Styles, window ids and small enumerations that panes, bars and frames share. The styles are bits of a pane's style
-/// word; alignment and style share that word.
+/// Styles and small enumerations that panes, bars and frames share.
 
 #include "afxpriv.h"
-
-#define CBRS_ALIGN_LEFT 0x1000L
-#define CBRS_ALIGN_TOP 0x2000L
-#define CBRS_ALIGN_RIGHT 0x4000L
-#define CBRS_ALIGN_BOTTOM 0x8000L
-#define CBRS_ALIGN_ANY 0xF000L
-
-#define CBRS_BORDER_LEFT 0x0100L
-#define CBRS_BORDER_TOP 0x0200L
-#define CBRS_BORDER_RIGHT 0x0400L
-#define CBRS_BORDER_BOTTOM 0x0800L
-#define CBRS_BORDER_ANY 0x0F00L
-
-#define CBRS_TOOLTIPS 0x0010L
-#define CBRS_FLYBY 0x0020L
-#define CBRS_FLOAT_MULTI 0x0040L
-#define CBRS_BORDER_3D 0x0080L
-#define CBRS_HIDE_INPLACE 0x0008L
-#define CBRS_SIZE_DYNAMIC 0x0004L
-#define CBRS_SIZE_FIXED 0x0002L
-#define CBRS_FLOATING 0x0001L
-#define CBRS_GRIPPER 0x00400000L
-
-#define CBRS_ORIENT_HORZ (CBRS_ALIGN_TOP | CBRS_ALIGN_BOTTOM)
-#define CBRS_ORIENT_VERT (CBRS_ALIGN_LEFT | CBRS_ALIGN_RIGHT)
-#define CBRS_ORIENT_ANY (CBRS_ORIENT_HORZ | CBRS_ORIENT_VERT)
-
-#define CBRS_ALL 0x0040FFFFL
-
-#define CBRS_NOALIGN 0x00000000L
-#define CBRS_LEFT (CBRS_ALIGN_LEFT | CBRS_BORDER_RIGHT)
-#define CBRS_TOP (CBRS_ALIGN_TOP | CBRS_BORDER_BOTTOM)
-#define CBRS_RIGHT (CBRS_ALIGN_RIGHT | CBRS_BORDER_LEFT)
-#define CBRS_BOTTOM (CBRS_ALIGN_BOTTOM | CBRS_BORDER_TOP)
+#include "afxres.h"
 
 /// What a pane can do for its user (its second style word).
 #define AFX_CBRS_FLOAT 0x0001L
@@ -52,25 +18,6 @@
 #define AFX_DEFAULT_DOCKING_PANE_STYLE                                                                                 \
     (AFX_CBRS_FLOAT | AFX_CBRS_CLOSE | AFX_CBRS_RESIZE | AFX_CBRS_AUTOHIDE | AFX_CBRS_REGULAR_TABS)
 #define AFX_DEFAULT_TOOLBAR_STYLE (AFX_CBRS_FLOAT | AFX_CBRS_CLOSE)
-
-/// Ids of the windows inside a frame.
-#define AFX_IDW_CONTROLBAR_FIRST 0xE800
-#define AFX_IDW_CONTROLBAR_LAST 0xE8FF
-#define AFX_IDW_TOOLBAR 0xE800
-#define AFX_IDW_STATUS_BAR 0xE801
-#define AFX_IDW_PREVIEW_BAR 0xE802
-#define AFX_IDW_RESIZE_BAR 0xE803
-#define AFX_IDW_REBAR 0xE804
-#define AFX_IDW_DIALOGBAR 0xE805
-#define AFX_IDW_RIBBON_BAR 0xE806
-#define AFX_IDW_MENUBAR 0xE807
-#define AFX_IDW_DOCKBAR_TOP 0xE81B
-#define AFX_IDW_DOCKBAR_LEFT 0xE81C
-#define AFX_IDW_DOCKBAR_RIGHT 0xE81D
-#define AFX_IDW_DOCKBAR_BOTTOM 0xE81E
-#define AFX_IDW_DOCKBAR_FLOAT 0xE81F
-#define AFX_IDW_PANE_FIRST 0xE900
-#define AFX_IDW_PANE_LAST 0xE9FF
 
 enum AFX_DOCK_TYPE { DT_UNDEFINED = 0, DT_IMMEDIATE = 1, DT_STANDARD = 2, DT_SMART = 0x80 };
 enum AFX_SMARTDOCK_THEME { AFX_SDT_DEFAULT = 0, AFX_SDT_VS2005, AFX_SDT_VS2008 };

@@ -34,6 +34,8 @@ public:
     BOOL IsVisible() const;
     /// Shows or hides at the frame's next layout.
     void DelayShow(BOOL bShow);
+    /// Does what DelayShow asked for; true when the visibility changed.
+    bool ShowIfDelayed();
 
     BOOL m_bAutoDelete = FALSE; ///< delete the object after its window
     CWnd* m_pInPlaceOwner = NULL;

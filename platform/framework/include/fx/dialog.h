@@ -13,7 +13,8 @@ public:
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = NULL);
     ~CDialog() override;
 
-    /// Modeless. FALSE when the template is missing or the window could not be made.
+    /// Modeless. FALSE when the template is missing or the window could not be made. Initial values of controls
+    /// (lpDialogInit) are not read.
     virtual BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = NULL);
     virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = NULL);
     virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = NULL, void* lpDialogInit = NULL);
@@ -57,11 +58,12 @@ protected:
     CWnd* m_pParentWnd = NULL; ///< given to the constructor or InitModalIndirect
 
 private:
-    bool CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent);
-    HWND DisableOwner();
+    /// Makes the window from a resource of that name; false when there is none.
+    bool CreateFromResource(LPCTSTR name, CWnd* parent);
+    bool CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance);
 
-    LPCDLGTEMPLATE m_memoryTemplate = nullptr; ///< not owned
-    HGLOBAL m_lockedTemplate = nullptr;
-    void* m_memoryInit = nullptr;
-    bool m_isModal = false;
+    LPCDLGTEMPLATE m_memoryTemplate = nullptr; ///< for DoModal, not owned
+    HGLOBAL m_memoryHandle = nullptr;          ///< the same, to be locked
+    bool m_isModal = false;                    ///< DoModal has not returned
+    bool m_hasEnded = false;                   ///< EndDialog was called
 };

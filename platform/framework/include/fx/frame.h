@@ -3,6 +3,10 @@
 #include "fx/bar_styles.h"
 #include "fx/wnd.h"
 
+#include <afxcoll.h>
+
+#include <vector>
+
 class CControlBar;
 class CDockingManager;
 struct CCreateContext;
@@ -52,10 +56,14 @@ public:
     virtual void ActivateFrame(int nCmdShow = -1);
     virtual CFrameWnd* GetActiveFrame();
     virtual void RecalcLayout(BOOL bNotify = TRUE);
+    /// Lays out at the next idle time.
+    void DelayRecalcLayout(BOOL bNotify = TRUE);
+    /// Lets the control bars take their strips; `place` as in WM_SIZEPARENT.
+    void PlaceControlBars(AFX_SIZEPARENTPARAMS& place);
 
     void BeginModalState() override;
     void EndModalState() override;
-    BOOL InModalState() const { return m_cModalStack > 0; }
+    BOOL InModalState() const { return m_modalDepth > 0; }
     void ShowOwnedWindows(BOOL bShow);
 
     /// The bar that shows messages: the child with the status bar's id. NULL when there is none.
@@ -100,25 +108,21 @@ protected:
     virtual void OnShowMenuBar();
     virtual void OnHideMenuBar();
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void PostNcDestroy() override;
     /// The table that translates keys now; an MDI child's comes before the frame's own.
     virtual HACCEL GetDefaultAccelerator();
-    /// The resource id of icon and class; used by PreCreateWindow.
+    /// Registers (once) a class with the icon of that id; NULL when there is no such icon.
     LPCTSTR GetIconWndClass(DWORD style, UINT resourceId);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg BOOL OnQueryEndSession();
     afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
-    afx_msg void OnEnterIdle(UINT nWhy, CWnd* pWho);
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
+    afx_msg void OnExitMenuLoop(BOOL bIsTrackPopupMenu);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
@@ -136,13 +140,18 @@ protected:
     BOOL m_isAccelTableOwned = FALSE;
 
 private:
-    BOOL CreateFromMenu(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent, HMENU menu,
+    friend class CMDIFrameWnd;
+    BOOL CreateWithMenu(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent, HMENU menu,
                         DWORD exStyle, CCreateContext* context);
-    void LayOutDuringIdle();
+    void UpdateMenuItem(CCmdUI& state, CMenu& menu);
+    void ShowDelayedBars();
 
-    int m_cModalStack = 0;
+    int m_modalDepth = 0;
     std::vector<HWND> m_disabledWindows; ///< by BeginModalState
     bool m_isInLayout = false;
+    bool m_leavesApplicationOut = false; ///< for the next command: the MDI frame asks the application itself
+    bool m_isMenuBarShownForKeys = false;
     DWORD m_menuBarState = AFX_MBS_VISIBLE;
     DWORD m_menuBarVisibility = AFX_MBV_KEEPVISIBLE;
+    CString m_toolTipText; ///< kept while a tooltip shows it
 };

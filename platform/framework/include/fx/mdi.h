@@ -46,16 +46,11 @@ public:
 
 protected:
     BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext) override;
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     LRESULT DefWindowProc(UINT nMsg, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnDestroy();
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnUpdateMDIWindowCmd(CCmdUI* pCmdUI);
     afx_msg BOOL OnMDIWindowCmd(UINT nID);
-    afx_msg void OnWindowNew();
     DECLARE_MESSAGE_MAP()
 };
 
@@ -84,8 +79,8 @@ public:
     BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
     CWnd* GetMessageBar() override;
-    void OnUpdateFrameMenu(BOOL isActive, CWnd* activated, HMENU alternative);
-    using CFrameWnd::OnUpdateFrameMenu;
+    /// Puts this child's menu (or `hMenuAlt`) into the MDI frame.
+    void OnUpdateFrameMenu(HMENU hMenuAlt) override;
     void ActivateFrame(int nCmdShow = -1) override;
 
 protected:
@@ -93,11 +88,7 @@ protected:
     LRESULT DefWindowProc(UINT nMsg, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
-    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnDestroy();
-    afx_msg BOOL OnNcActivate(BOOL bActive);
     DECLARE_MESSAGE_MAP()
 
     HMENU m_hMenuShared = NULL;

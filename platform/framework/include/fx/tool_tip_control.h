@@ -63,7 +63,4 @@ public:
 protected:
     /// Describes the tool for a message; false when rectangle and id do not go together.
     bool FillInToolInfo(TOOLINFO& info, const CWnd* window, UINT_PTR tool) const;
-
-    afx_msg LRESULT OnAddTool(WPARAM wParam, LPARAM lParam);
-    DECLARE_MESSAGE_MAP()
 };
