@@ -44,9 +44,7 @@ constexpr EncodingName c_encodingNames[] = {
 
 constexpr std::string_view c_blanks = " \t\r\n";
 
-bool IsBlank(char c) {
-    return c_blanks.find(c) != std::string_view::npos;
-}
+bool IsBlank(char c) { return c_blanks.find(c) != std::string_view::npos; }
 
 /// The value of `encoding` in the XML declaration at the start of `text`. False when the declaration is malformed;
 /// empty when there is no declaration or it names none.

@@ -39,9 +39,7 @@ bool FileOp::GetAppPath(std::wstring& path) {
     return provider ? provider(path) : varnhold::GetProgramFolder(path);
 }
 
-void FileOp::SetAppPath(const std::wstring& path) {
-    SetAppPathProvider(MakeProvider(path));
-}
+void FileOp::SetAppPath(const std::wstring& path) { SetAppPathProvider(MakeProvider(path)); }
 
 FileOp::AppPathProvider FileOp::SetAppPathProvider(const AppPathProvider& provider) {
     const std::lock_guard<std::mutex> lock(GetState().mutex);
@@ -54,9 +52,9 @@ bool FileOp::FileExist(const std::wstring& path) {
 
 ScopedAppPath::ScopedAppPath(const std::wstring& path) : m_earlier(FileOp::SetAppPathProvider(MakeProvider(path))) {}
 
+ScopedAppPath::ScopedAppPath(const wchar_t* path) : ScopedAppPath(std::wstring(path ? path : L"")) {}
+
 ScopedAppPath::ScopedAppPath(const FileOp::AppPathProvider& provider)
     : m_earlier(FileOp::SetAppPathProvider(provider)) {}
 
-ScopedAppPath::~ScopedAppPath() {
-    FileOp::SetAppPathProvider(m_earlier);
-}
+ScopedAppPath::~ScopedAppPath() { FileOp::SetAppPathProvider(m_earlier); }

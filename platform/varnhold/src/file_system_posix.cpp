@@ -12,12 +12,8 @@ namespace varnhold {
 
 namespace fs = std::filesystem;
 
-NativePath ToNativePath(const std::wstring& path) {
-    return wstring2String(path);
-}
-NativePath ToNativePath(std::string_view utf8Path) {
-    return std::string(utf8Path);
-}
+NativePath ToNativePath(const std::wstring& path) { return wstring2String(path); }
+NativePath ToNativePath(std::string_view utf8Path) { return std::string(utf8Path); }
 
 FileContent ReadWholeFile(const NativePath& path, std::size_t maxSize) {
     if (path.find('\0') != NativePath::npos)

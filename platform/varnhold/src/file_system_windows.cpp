@@ -35,9 +35,7 @@ std::wstring DescribeError(DWORD error) {
     return length > 0 ? std::wstring(text, length) : L"system error " + std::to_wstring(error);
 }
 
-bool Contains(const std::wstring& text, wchar_t c) {
-    return text.find(c) != std::wstring::npos;
-}
+bool Contains(const std::wstring& text, wchar_t c) { return text.find(c) != std::wstring::npos; }
 
 std::wstring MakeFullPath(const std::wstring& path) {
     std::wstring full(MAX_PATH, L'\0');
@@ -65,9 +63,7 @@ NativePath ToNativePath(const std::wstring& path) {
     return L"\\\\?\\" + full;
 }
 
-NativePath ToNativePath(std::string_view utf8Path) {
-    return ToNativePath(string2wstring(utf8Path));
-}
+NativePath ToNativePath(std::string_view utf8Path) { return ToNativePath(string2wstring(utf8Path)); }
 
 FileContent ReadWholeFile(const NativePath& path, std::size_t maxSize) {
     if (Contains(path, L'\0'))

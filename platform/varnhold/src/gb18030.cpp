@@ -69,12 +69,8 @@ char32_t FromFourBytes(const unsigned char* b) {
     return static_cast<char32_t>(0x10000 + (index - firstOfOtherPlanes));
 }
 
-bool IsLead(unsigned char byte) {
-    return byte >= 0x81 && byte <= 0xFE;
-}
-bool IsDigit(unsigned char byte) {
-    return byte >= 0x30 && byte <= 0x39;
-}
+bool IsLead(unsigned char byte) { return byte >= 0x81 && byte <= 0xFE; }
+bool IsDigit(unsigned char byte) { return byte >= 0x30 && byte <= 0x39; }
 
 char32_t NextFromGb18030(std::string_view bytes, std::size_t& at) {
     const auto* b = reinterpret_cast<const unsigned char*>(bytes.data()) + at;

@@ -24,9 +24,7 @@ bool ExpandVariables(const std::wstring& text, std::wstring& expanded) {
 
 } // namespace
 
-CKey::~CKey() {
-    Close();
-}
+CKey::~CKey() { Close(); }
 
 CKey::CKey(CKey&& other) noexcept : m_key(std::exchange(other.m_key, nullptr)) {}
 
@@ -43,9 +41,7 @@ bool CKey::Open(HKEY root, const wchar_t* path) {
     return RegOpenKeyExW(root, cleanPath.c_str(), 0, KEY_READ, &m_key) == ERROR_SUCCESS;
 }
 
-bool CKey::Open(HKEY root, const std::wstring& path) {
-    return Open(root, path.c_str());
-}
+bool CKey::Open(HKEY root, const std::wstring& path) { return Open(root, path.c_str()); }
 
 void CKey::Close() {
     if (m_key)

@@ -55,9 +55,7 @@ std::string MakeUnitKey(const std::string& keyword, int number) {
     return key;
 }
 
-wchar_t Lower(wchar_t c) {
-    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
-}
+wchar_t Lower(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
 
 bool EqualsIgnoringCase(std::wstring_view left, std::wstring_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),

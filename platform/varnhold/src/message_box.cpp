@@ -57,17 +57,11 @@ int QKMessageBox(const wchar_t* message, int status, HWND owner) {
     return QKMessageBox(std::wstring(message ? message : L""), status, owner);
 }
 
-std::wstring getMessageBoxTitle() {
-    return GetState().title.empty() ? GetProgramName() : GetState().title;
-}
+std::wstring getMessageBoxTitle() { return GetState().title.empty() ? GetProgramName() : GetState().title; }
 
-void setMessageBoxTitle(const std::wstring& title) {
-    GetState().title = title;
-}
+void setMessageBoxTitle(const std::wstring& title) { GetState().title = title; }
 
 ScopedMessageBoxHandler::ScopedMessageBoxHandler(const MessageBoxHandler& handler)
     : m_earlier(std::exchange(GetState().handler, handler)) {}
 
-ScopedMessageBoxHandler::~ScopedMessageBoxHandler() {
-    GetState().handler = m_earlier;
-}
+ScopedMessageBoxHandler::~ScopedMessageBoxHandler() { GetState().handler = m_earlier; }

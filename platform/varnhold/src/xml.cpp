@@ -61,17 +61,13 @@ bool CXmlDocumentWrapper::Load(const std::wstring& path) {
     return Take(path, varnhold::ReadWholeFile(varnhold::ToNativePath(path), c_maxSize));
 }
 
-bool CXmlDocumentWrapper::Load(const wchar_t* path) {
-    return Load(std::wstring(path ? path : L""));
-}
+bool CXmlDocumentWrapper::Load(const wchar_t* path) { return Load(std::wstring(path ? path : L"")); }
 
 bool CXmlDocumentWrapper::Load(const std::string& path) {
     return Take(string2wstring(path), varnhold::ReadWholeFile(varnhold::ToNativePath(path), c_maxSize));
 }
 
-bool CXmlDocumentWrapper::Load(const char* path) {
-    return Load(std::string(path ? path : ""));
-}
+bool CXmlDocumentWrapper::Load(const char* path) { return Load(std::string(path ? path : "")); }
 
 bool CXmlDocumentWrapper::LoadFromMemory(std::string_view bytes, const std::wstring& name) {
     return Take(name, std::string(bytes));

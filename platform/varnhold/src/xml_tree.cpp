@@ -44,9 +44,7 @@ bool IsText(const pugi::xml_node& node) {
             std::string_view(node.value()).find_first_not_of(" \t\r\n") != std::string_view::npos);
 }
 
-bool StartsCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-}
+bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
 
 } // namespace
 

@@ -32,6 +32,7 @@ public:
 class VARNHOLD_API ScopedAppPath {
 public:
     explicit ScopedAppPath(const std::wstring& path);
+    explicit ScopedAppPath(const wchar_t* path);
     explicit ScopedAppPath(const FileOp::AppPathProvider& provider);
     ~ScopedAppPath();
     ScopedAppPath(const ScopedAppPath&) = delete;
