@@ -25,8 +25,11 @@ public:
     BOOL HasIntermediateMode() const override { return FALSE; }
     BOOL HasLargeMode() const override { return TRUE; }
     BOOL HasMenu() const override { return TRUE; }
-    CSize GetRegularSize(CDC* pDC) override;
-    void OnDraw(CDC* pDC) override;
+    CSize GetImageSize(RibbonImageType type) const override;
+    void DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) override;
+    COLORREF OnFillBackground(CDC* pDC) override;
+    void OnDrawBorder(CDC*) override {}
+    void OnLButtonUp(CPoint point) override;
 
     /// Icon of the collapsed panel, not owned; without one the visual manager's ribbon image is drawn.
     void SetPanelIcon(HICON hIcon) { m_panelIcon = hIcon; }
@@ -140,4 +143,5 @@ private:
     /// Places panel, caption and elements as the layout found; the panel's top left corner is at origin.
     void Place(CDC* pDC, const RibbonPanelArrangement& arrangement, CPoint origin, const RibbonMetrics& metrics);
     void Hide(CDC* pDC);
+    void MarkLayoutDirty();
 };

@@ -14,10 +14,6 @@ struct RibbonBarParts;
 inline constexpr DWORD AFX_RIBBONBAR_HIDE_ELEMENTS = 0x0001;
 inline constexpr DWORD AFX_RIBBONBAR_HIDE_ALL = 0x0002;
 
-#ifndef AFX_IDW_RIBBON_BAR
-#define AFX_IDW_RIBBON_BAR 0xE806
-#endif
-
 /// The button at the left end of the caption and tab rows. Belongs to the host; the bar keeps a pointer only.
 class FRAMEWORK_API CMFCRibbonApplicationButton : public CMFCRibbonButton {
     DECLARE_DYNCREATE(CMFCRibbonApplicationButton)
@@ -160,10 +156,15 @@ public:
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     void OnPaneContextMenu(CWnd* pParentFrame, CPoint point) override;
 
-    // Extension points of this framework: elements, categories and the Tovasque bar use them.
+    CMFCRibbonBar* AsRibbonBar() override { return this; }
+
+    // Extension points of this framework: elements, categories and derived bars use them.
     CToolTipCtrl* GetToolTipCtrl() const { return m_pToolTip; }
     const struct RibbonMetrics& GetMetrics() const;
-    void InvalidateElement(const CRect& rect);
+    /// What the bar shows has changed: it lays itself out before it is next drawn, hit-tested or updated.
+    void MarkLayoutDirty();
+    /// Lays out now if something changed since the last time.
+    void EnsureLayout();
     void OnElementDestroyed(CMFCRibbonBaseElement* pElement);
     /// Paints the whole bar into the device context, as on the screen.
     void DoPaint(CDC* pDC) override;
@@ -183,6 +184,7 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg void OnCancelMode();
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
     afx_msg BOOL OnNeedTipText(UINT id, NMHDR* pNMH, LRESULT* pResult);
     afx_msg LRESULT OnUpdateToolTips(WPARAM wp, LPARAM lp);
@@ -195,6 +197,22 @@ protected:
 private:
     friend class CMFCRibbonCategory;
     friend class CMFCRibbonTab;
+
+    void UpdateMetrics();
+    void Measure(CDC* pDC);
+    void Arrange(CDC* pDC);
+    void ArrangeContextCaptions();
+    void HideEverything(CDC* pDC);
+    void AskFrameForRoom();
+    /// Tells the owner that the user chose another category.
+    void NotifyCategoryChanged();
+    void SetActiveWithoutCheck(CMFCRibbonCategory* category);
+    CMFCRibbonCategory* FirstVisibleCategory() const;
+    void ApplyDefaultQuickAccess();
+    void SetHot(CMFCRibbonBaseElement* element, CPoint point);
+    void Press(CMFCRibbonBaseElement* element, CPoint point);
+    void CancelPress();
+    void PlaceTooltip();
 
     std::unique_ptr<RibbonBarParts> m_parts;
 };

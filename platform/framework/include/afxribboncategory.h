@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "fx/ribbon_colors.h"
 #include "afxRibbonPanel.h"
 #include "afxtoolbarimages.h"
@@ -157,5 +159,10 @@ protected:
     DWORD_PTR m_dwData = 0;
 
 private:
+    friend class CMFCRibbonPanel;
+    void MarkLayoutDirty();
+    void LoadImages();
+    void HideElements(CDC* pDC);
+
     std::unique_ptr<RibbonCategoryParts> m_parts;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unordered_map>
+
 #include "afxtempl.h"
 #include "afxribbonbuttonsgroup.h"
 
@@ -22,6 +24,21 @@ public:
 private:
     CArray<UINT, UINT> m_arCommands;
     CArray<BOOL, BOOL> m_arVisibleState;
+};
+
+/// Opens the menu of the quick access toolbar, from which the user chooses its commands.
+class FRAMEWORK_API CMFCRibbonQuickAccessCustomizeButton : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CMFCRibbonQuickAccessCustomizeButton)
+
+public:
+    CMFCRibbonQuickAccessCustomizeButton() = default;
+
+    CString GetToolTipText() const override;
+    BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
+    CSize GetCompactSize(CDC* pDC) override;
+    CSize GetRegularSize(CDC* pDC) override { return GetCompactSize(pDC); }
+    void OnDraw(CDC* pDC) override;
+    void OnLButtonUp(CPoint point) override;
 };
 
 /// The quick access toolbar of a ribbon bar: copies of elements in one row, and a button that opens its menu.
@@ -57,7 +74,12 @@ public:
 
 private:
     CMFCRibbonBaseElement* MakeCopy(CMFCRibbonBaseElement& source) const;
+    void Append(CMFCRibbonBaseElement* copy, const CMFCRibbonBaseElement* source);
+    void DeleteAt(int position);
+    /// An element of the bar goes: its copy goes with it.
+    void OnOriginalDestroyed(const CMFCRibbonBaseElement* original);
 
     CRect m_rectCommands;
-    CMFCRibbonButton m_btnCustomize;
+    CMFCRibbonQuickAccessCustomizeButton m_btnCustomize;
+    std::unordered_map<const CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_copies; // by original
 };

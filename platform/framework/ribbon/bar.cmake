@@ -1,3 +1,5 @@
 # Bar, categories, panels, quick access toolbar and their layout.
 target_sources(framework PRIVATE
-)
+  bar.cpp bar_arrange.cpp bar_categories.cpp bar_elements.cpp bar_input.cpp bar_layout.cpp bar_menus.cpp
+  bar_quick_access.cpp bar_tooltip.cpp category.cpp category_layout.cpp paint_buffer.cpp panel.cpp panel_layout.cpp
+  quick_access.cpp bar.rc)

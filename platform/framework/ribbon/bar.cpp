@@ -1,0 +1,244 @@
+#include "afxribbonbar.h"
+
+#include "afxglobals.h"
+#include "ribbon/bar_parts.h"
+#include "ribbon/paint_buffer.h"
+
+IMPLEMENT_DYNAMIC(CMFCRibbonBar, CPane)
+
+BEGIN_MESSAGE_MAP(CMFCRibbonBar, CPane)
+ON_WM_CREATE()
+ON_WM_DESTROY()
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_SIZE()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_MOUSEMOVE()
+ON_WM_MOUSELEAVE()
+ON_WM_MOUSEWHEEL()
+ON_WM_CANCELMODE()
+ON_WM_CAPTURECHANGED()
+ON_WM_TIMER()
+ON_WM_SETTINGCHANGE()
+ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedTipText)
+ON_REGISTERED_MESSAGE(AFX_WM_UPDATETOOLTIPS, OnUpdateToolTips)
+END_MESSAGE_MAP()
+
+RibbonFontScope::RibbonFontScope(CDC& dc)
+    : m_dc(dc.GetSafeHdc()), m_previous(::SelectObject(m_dc, afxGlobalData.fontRegular.GetSafeHandle())) {}
+
+RibbonFontScope::~RibbonFontScope() {
+    if (m_previous != nullptr) {
+        ::SelectObject(m_dc, m_previous);
+    }
+}
+
+CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
+    : m_rectCaption(0, 0, 0, 0), m_parts(std::make_unique<RibbonBarParts>()) {
+    m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
+    m_parts->quickAccess.SetParentRibbonBar(this);
+    m_parts->quickAccess.GetCustomizeButton().SetParentRibbonBar(this);
+}
+
+CMFCRibbonBar::~CMFCRibbonBar() {
+    // The window first: its messages still need the parts.
+    if (GetSafeHwnd() != nullptr) {
+        DestroyWindow();
+    }
+    if (m_parts->applicationButton != nullptr) {
+        m_parts->applicationButton->SetParentRibbonBar(nullptr);
+    }
+    m_parts->quickAccess.RemoveAll();
+    m_parts.reset();
+}
+
+BOOL CMFCRibbonBar::Create(CWnd* pParentWnd, DWORD dwStyle, UINT nID) { return CreateEx(pParentWnd, 0, dwStyle, nID); }
+
+BOOL CMFCRibbonBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle, UINT nID) {
+    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
+    if (!CPane::CreateEx(0, windowClass, dwStyle | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0), pParentWnd,
+                         nID, dwCtrlStyle)) {
+        return FALSE;
+    }
+    SetPaneAlignment(CBRS_ALIGN_TOP);
+    return TRUE;
+}
+
+int CMFCRibbonBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CPane::OnCreate(lpCreateStruct) == -1) {
+        return -1;
+    }
+    if (m_parts->tooltips) {
+        EnableToolTips(TRUE, m_parts->tooltipDescriptions);
+    }
+    MarkLayoutDirty();
+    return 0;
+}
+
+void CMFCRibbonBar::OnDestroy() {
+    CancelPress();
+    CTooltipManager::DeleteToolTip(m_pToolTip);
+    for (const auto& category : m_parts->categories) {
+        CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
+        category->GetElements(elements);
+        for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+            elements[index]->DestroyCtrl();
+        }
+    }
+    CPane::OnDestroy();
+}
+
+void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
+    if (m_parts == nullptr) {
+        return;
+    }
+    for (CMFCRibbonBaseElement** holder : {&m_parts->hot, &m_parts->pressed, &m_parts->releasing}) {
+        if (*holder == pElement) {
+            *holder = nullptr;
+        }
+    }
+    if (m_parts->applicationButton == pElement) {
+        m_parts->applicationButton = nullptr;
+    }
+    m_parts->quickAccess.OnOriginalDestroyed(pElement);
+}
+
+// ---- painting
+
+void CMFCRibbonBar::OnPaint() {
+    EnsureLayout();
+    CPaintDC dc(this);
+    RibbonPaintBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
+    DoPaint(&buffer.GetDC());
+}
+
+BOOL CMFCRibbonBar::OnEraseBkgnd(CDC* /*pDC*/) { return TRUE; }
+
+void CMFCRibbonBar::DoPaint(CDC* pDC) {
+    EnsureLayout();
+    const RibbonBarArrangement& places = m_parts->arrangement;
+    CRect client;
+    GetClientRect(client);
+    CRect clip;
+    if (pDC->GetClipBox(clip) == NULLREGION || clip.IsRectEmpty()) {
+        clip = client;
+    }
+    RibbonFontScope font(*pDC);
+    const int previousMode = pDC->SetBkMode(TRANSPARENT);
+    CMFCVisualManager* manager = CMFCVisualManager::GetInstance();
+    manager->OnFillBarBackground(pDC, this, client, clip);
+
+    CRect above(0, 0, client.right, places.tabRow.bottom);
+    if (!m_rectCaption.IsRectEmpty()) {
+        manager->OnDrawRibbonCaption(pDC, this, m_rectCaption, ToCRect(places.captionText));
+        above.top = m_rectCaption.bottom;
+    }
+    const COLORREF text = manager->OnDrawRibbonTabsFrame(pDC, this, above);
+    pDC->SetTextColor(text == static_cast<COLORREF>(-1) ? afxGlobalData.clrBarText : text);
+
+    const auto draw = [pDC](CMFCRibbonBaseElement& element) {
+        if (!element.GetRect().IsRectEmpty() && pDC->RectVisible(element.GetRect())) {
+            element.OnDraw(pDC);
+        }
+    };
+    for (const auto& context : m_parts->contexts) {
+        draw(*context.caption);
+    }
+    if (m_parts->active != nullptr && pDC->RectVisible(m_parts->active->GetRect())) {
+        m_parts->active->OnDraw(pDC);
+    }
+    for (const auto& category : m_parts->categories) {
+        if (category->IsVisible()) {
+            draw(category->m_Tab);
+        }
+    }
+    for (const auto& element : m_parts->tabElements) {
+        draw(*element);
+    }
+    draw(m_parts->quickAccess);
+    if (m_parts->applicationButton != nullptr) {
+        draw(*m_parts->applicationButton);
+    }
+    pDC->SetBkMode(previousMode);
+}
+
+// ---- what the bar is
+
+DWORD CMFCRibbonBar::GetHideFlags() const {
+    return (m_parts->minimized ? AFX_RIBBONBAR_HIDE_ELEMENTS : 0) |
+           (m_parts->hiddenForWidth ? AFX_RIBBONBAR_HIDE_ALL : 0);
+}
+
+int CMFCRibbonBar::GetCaptionHeight() const { return m_rectCaption.Height(); }
+
+int CMFCRibbonBar::GetCategoryHeight() const { return m_parts->arrangement.category.Height(); }
+
+BOOL CMFCRibbonBar::IsReplaceFrameCaption() const { return m_parts->replacesCaption; }
+
+// The caption row is drawn by the visual manager, never left to the system's glass.
+BOOL CMFCRibbonBar::IsTransparentCaption() const { return FALSE; }
+
+BOOL CMFCRibbonBar::IsWindows7Look() const { return m_parts->windows7Look; }
+
+void CMFCRibbonBar::SetWindows7Look(BOOL bWindows7Look, BOOL bRecalc) {
+    if (m_parts->windows7Look == (bWindows7Look != FALSE)) {
+        return;
+    }
+    m_parts->windows7Look = bWindows7Look != FALSE;
+    MarkLayoutDirty();
+    if (bRecalc) {
+        ForceRecalcLayout();
+    }
+}
+
+int CMFCRibbonBar::GetTabTrancateRatio() const { return m_parts->arrangement.tabReduction; }
+
+BOOL CMFCRibbonBar::IsShowGroupBorder(CMFCRibbonButtonsGroup* pGroup) const { return pGroup != &m_parts->quickAccess; }
+
+const RibbonMetrics& CMFCRibbonBar::GetMetrics() const { return m_parts->metrics; }
+
+void CMFCRibbonBar::SetApplicationButton(CMFCRibbonApplicationButton* pButton, CSize sizeButton) {
+    if (m_parts->applicationButton != nullptr && m_parts->applicationButton != pButton) {
+        m_parts->applicationButton->SetParentRibbonBar(nullptr);
+    }
+    m_parts->applicationButton = pButton;
+    m_parts->applicationButtonSize = sizeButton;
+    if (pButton != nullptr) {
+        pButton->SetParentRibbonBar(this);
+    }
+    MarkLayoutDirty();
+}
+
+CMFCRibbonApplicationButton* CMFCRibbonBar::GetApplicationButton() const { return m_parts->applicationButton; }
+
+void CMFCRibbonBar::AddToTabs(CMFCRibbonBaseElement* pElement) {
+    if (pElement == nullptr) {
+        return;
+    }
+    pElement->SetParentRibbonBar(this);
+    m_parts->tabElements.emplace_back(pElement);
+    MarkLayoutDirty();
+}
+
+void CMFCRibbonBar::RemoveAllFromTabs() {
+    m_parts->tabElements.clear();
+    MarkLayoutDirty();
+}
+
+void CMFCRibbonBar::ToggleMimimizeState() {
+    m_parts->minimized = !m_parts->minimized;
+    ForceRecalcLayout();
+}
+
+void CMFCRibbonBar::DeactivateKeyboardFocus(BOOL bSetFocus) {
+    if (CMFCRibbonBaseElement* focused = GetFocused()) {
+        focused->SetFocused(FALSE);
+    }
+    if (bSetFocus) {
+        if (CFrameWnd* frame = GetTopLevelFrame()) {
+            frame->SetFocus();
+        }
+    }
+}

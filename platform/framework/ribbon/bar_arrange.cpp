@@ -1,0 +1,201 @@
+// The layout of a ribbon bar: measures its parts, asks the pure layout for their places, and hands them out.
+#include "afxribbonbar.h"
+
+#include "afxglobals.h"
+#include "ribbon/bar_parts.h"
+
+namespace {
+
+// Below this width, at 96 DPI, nothing of the ribbon can be used.
+constexpr int kMinBarWidth = 100;
+
+bool IsTabShown(const CMFCRibbonCategory& category) { return category.IsVisible() != FALSE; }
+
+void PlaceElement(CMFCRibbonBaseElement& element, CDC* pDC, const RibbonRect& rect) {
+    element.SetRect(ToCRect(rect));
+    element.OnAfterChangeRect(pDC);
+}
+
+} // namespace
+
+void CMFCRibbonBar::MarkLayoutDirty() {
+    m_parts->layoutDirty = true;
+    if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
+        Invalidate(FALSE);
+    }
+}
+
+void CMFCRibbonBar::EnsureLayout() {
+    if (GetSafeHwnd() == nullptr || m_parts->isLayingOut) {
+        return;
+    }
+    CRect client;
+    GetClientRect(client);
+    if (!m_parts->layoutDirty && client.Width() == m_parts->laidOutWidth) {
+        return;
+    }
+    m_parts->isLayingOut = true;
+    {
+        CClientDC dc(this);
+        RibbonFontScope font(dc);
+        if (m_parts->layoutDirty) {
+            Measure(&dc);
+        }
+        m_parts->shape.width = client.Width();
+        Arrange(&dc);
+    }
+    m_parts->layoutDirty = false;
+    m_parts->isLayingOut = false;
+    m_parts->laidOutWidth = client.Width();
+    PlaceTooltip();
+    if (client.Height() != m_parts->arrangement.height && !m_parts->hiddenForWidth) {
+        AskFrameForRoom();
+    }
+}
+
+void CMFCRibbonBar::RecalcLayout() {
+    for (const auto& category : m_parts->categories) {
+        category->m_parts->measured = false;
+    }
+    if (m_parts->quickAccessPending && !m_parts->quickAccessChosen) {
+        ApplyDefaultQuickAccess();
+    }
+    MarkLayoutDirty();
+    EnsureLayout();
+}
+
+void CMFCRibbonBar::ForceRecalcLayout() {
+    for (const auto& category : m_parts->categories) {
+        CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
+        category->GetElements(elements);
+        for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+            elements[index]->CleanUpSizes();
+        }
+    }
+    RecalcLayout();
+    if (GetSafeHwnd() != nullptr) {
+        AskFrameForRoom();
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+}
+
+// The height follows from what the bar shows, its place from the frame's other bars.
+void CMFCRibbonBar::AskFrameForRoom() {
+    if (CFrameWnd* frame = DYNAMIC_DOWNCAST(CFrameWnd, GetDockSiteFrameWnd())) {
+        frame->RecalcLayout();
+    }
+}
+
+CSize CMFCRibbonBar::CalcFixedLayout(BOOL bStretch, BOOL /*bHorz*/) {
+    EnsureLayout();
+    CRect parent(0, 0, 0, 0);
+    if (CWnd* parentWindow = GetParent()) {
+        parentWindow->GetClientRect(parent);
+    }
+    m_parts->hiddenForWidth = parent.Width() < m_parts->metrics.Scaled(kMinBarWidth);
+    const int height = m_parts->hiddenForWidth ? 0 : m_parts->arrangement.height;
+    return {bStretch ? 32767 : static_cast<int>(parent.Width()), height};
+}
+
+void CMFCRibbonBar::OnSize(UINT nType, int cx, int cy) {
+    CPane::OnSize(nType, cx, cy);
+    EnsureLayout();
+    // What is drawn depends on the width everywhere: tabs, panels and the ends of the frames around them.
+    Invalidate(FALSE);
+}
+
+void CMFCRibbonBar::UpdateMetrics() {
+    const RibbonMetrics metrics =
+        RibbonMetrics::FromFont(afxGlobalData.GetTextHeight(), afxGlobalData.GetRibbonImageScale());
+    if (metrics.textHeight == m_parts->metrics.textHeight && metrics.scale == m_parts->metrics.scale) {
+        return;
+    }
+    m_parts->metrics = metrics;
+    for (const auto& category : m_parts->categories) {
+        category->m_parts->measured = false;
+    }
+}
+
+void CMFCRibbonBar::Measure(CDC* pDC) {
+    UpdateMetrics();
+    const RibbonMetrics& metrics = m_parts->metrics;
+    RibbonBarShape& shape = m_parts->shape;
+    shape.replacesCaption = m_parts->replacesCaption;
+    shape.minimized = m_parts->minimized;
+    shape.quickAccessOnTop = m_parts->quickAccessOnTop;
+    shape.quickAccessWidth = 0;
+    if (!m_parts->quickAccess.IsEmpty() || m_parts->quickAccessDefault.m_arCommands.GetSize() > 0) {
+        shape.quickAccessWidth = m_parts->quickAccess.GetRegularSize(pDC).cx;
+    }
+    shape.applicationButton = {};
+    if (m_parts->applicationButton != nullptr && m_parts->applicationButton->IsVisible()) {
+        shape.applicationButton = {metrics.Scaled(m_parts->applicationButtonSize.cx),
+                                   metrics.Scaled(m_parts->applicationButtonSize.cy)};
+    }
+    shape.tabWidths.clear();
+    for (const auto& category : m_parts->categories) {
+        if (IsTabShown(*category)) {
+            shape.tabWidths.push_back(category->m_Tab.GetRegularSize(pDC).cx);
+        }
+    }
+    shape.tabElementWidths.clear();
+    for (const auto& element : m_parts->tabElements) {
+        element->SetInitialMode(TRUE);
+        element->SetCompactMode(TRUE);
+        element->OnCalcTextSize(pDC);
+        shape.tabElementWidths.push_back(element->IsVisible() ? static_cast<int>(element->GetSize(pDC).cx) : 0);
+    }
+}
+
+void CMFCRibbonBar::Arrange(CDC* pDC) {
+    m_parts->arrangement = ArrangeBar(m_parts->shape, m_parts->metrics);
+    const RibbonBarArrangement& places = m_parts->arrangement;
+    m_rectCaption = ToCRect(places.caption);
+    if (m_parts->applicationButton != nullptr) {
+        PlaceElement(*m_parts->applicationButton, pDC, places.applicationButton);
+    }
+    PlaceElement(m_parts->quickAccess, pDC, places.quickAccess);
+    for (size_t index = 0; index < m_parts->tabElements.size(); ++index) {
+        const bool shown = m_parts->tabElements[index]->IsVisible() != FALSE;
+        PlaceElement(*m_parts->tabElements[index], pDC, shown ? places.tabElements[index] : RibbonRect{});
+    }
+    size_t tab = 0;
+    for (const auto& category : m_parts->categories) {
+        if (!IsTabShown(*category)) {
+            PlaceElement(category->m_Tab, pDC, {});
+            continue;
+        }
+        category->m_Tab.m_bIsTrancated = places.tabs[tab].Width() < m_parts->shape.tabWidths[tab];
+        PlaceElement(category->m_Tab, pDC, places.tabs[tab]);
+        ++tab;
+    }
+    ArrangeContextCaptions();
+    if (m_parts->active != nullptr) {
+        m_parts->active->m_rect = ToCRect(places.category);
+        if (m_parts->active->m_parts->measured) {
+            m_parts->active->ReposPanels(pDC);
+        } else {
+            m_parts->active->RecalcLayout(pDC);
+        }
+    }
+}
+
+// A context's caption lies above its tabs as far as the row above them has room beside the quick access toolbar.
+void CMFCRibbonBar::ArrangeContextCaptions() {
+    const RibbonBarArrangement& places = m_parts->arrangement;
+    const int left = std::max(places.quickAccess.right, places.applicationButton.right);
+    for (const auto& context : m_parts->contexts) {
+        CRect rect(0, 0, 0, 0);
+        for (const auto& category : m_parts->categories) {
+            if (category->GetContextID() == context.id && !category->GetTabRect().IsRectEmpty()) {
+                CRect above = category->GetTabRect();
+                above.bottom = above.top;
+                above.top = 0;
+                rect.UnionRect(rect, above);
+            }
+        }
+        rect.left = std::max<LONG>(rect.left, left);
+        context.caption->m_nRightTabX = rect.IsRectEmpty() ? -1 : rect.right;
+        context.caption->SetRect(rect.IsRectEmpty() ? CRect(0, 0, 0, 0) : rect);
+    }
+}

@@ -1,0 +1,330 @@
+// Which categories a ribbon bar has, which of them it shows, and the searches through them.
+#include "afxribbonbar.h"
+
+#include <algorithm>
+
+#include "ribbon/bar_parts.h"
+
+using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
+
+CMFCRibbonCategory* CMFCRibbonBar::AddCategory(LPCTSTR lpszName, UINT uiSmallImagesResID, UINT uiLargeImagesResID,
+                                               CSize sizeSmallImage, CSize sizeLargeImage, int nInsertAt,
+                                               CRuntimeClass* pRTI) {
+    CRuntimeClass* runtimeClass = pRTI != nullptr ? pRTI : RUNTIME_CLASS(CMFCRibbonCategory);
+    std::unique_ptr<CObject> object(runtimeClass->CreateObject());
+    CMFCRibbonCategory* category = DYNAMIC_DOWNCAST(CMFCRibbonCategory, object.get());
+    if (category == nullptr) {
+        return nullptr;
+    }
+    category->CommonInit(this, lpszName, uiSmallImagesResID, uiLargeImagesResID, sizeSmallImage, sizeLargeImage);
+    object.release(); // the list of categories owns it from here
+    auto& categories = m_parts->categories;
+    const bool appends = nInsertAt < 0 || static_cast<size_t>(nInsertAt) >= categories.size();
+    categories.emplace(appends ? categories.end() : categories.begin() + nInsertAt, category);
+    if (m_parts->active == nullptr) {
+        SetActiveWithoutCheck(category);
+    }
+    MarkLayoutDirty();
+    return category;
+}
+
+CMFCRibbonCategory* CMFCRibbonBar::AddContextCategory(LPCTSTR lpszName, LPCTSTR lpszContextName, UINT uiContextID,
+                                                      AFX_RibbonCategoryColor clrContext, UINT uiSmallImagesResID,
+                                                      UINT uiLargeImagesResID, CSize sizeSmallImage,
+                                                      CSize sizeLargeImage, CRuntimeClass* pRTI) {
+    if (uiContextID == 0) {
+        return nullptr;
+    }
+    CMFCRibbonCategory* former = m_parts->active;
+    CMFCRibbonCategory* category =
+        AddCategory(lpszName, uiSmallImagesResID, uiLargeImagesResID, sizeSmallImage, sizeLargeImage, -1, pRTI);
+    if (category == nullptr) {
+        return nullptr;
+    }
+    category->m_uiContextID = uiContextID;
+    category->m_bIsVisible = FALSE;
+    category->SetTabColor(clrContext);
+    if (m_parts->active == category) {
+        SetActiveWithoutCheck(former);
+    }
+    CString known;
+    if (!GetContextName(uiContextID, known)) {
+        auto caption = std::make_unique<CMFCRibbonContextCaption>();
+        caption->SetParentRibbonBar(this);
+        caption->SetText(lpszContextName);
+        caption->m_Color = clrContext;
+        m_parts->contexts.push_back({uiContextID, CString(lpszContextName), std::move(caption)});
+    }
+    return category;
+}
+
+void CMFCRibbonBar::ShowContextCategories(UINT uiContextID, BOOL bShow) {
+    for (int index = 0; index < GetCategoryCount(); ++index) {
+        if (uiContextID != 0 && GetCategory(index)->GetContextID() == uiContextID) {
+            ShowCategory(index, bShow);
+        }
+    }
+}
+
+BOOL CMFCRibbonBar::ActivateContextCategory(UINT uiContextID) {
+    for (const auto& category : m_parts->categories) {
+        if (uiContextID != 0 && category->GetContextID() == uiContextID && category->IsVisible()) {
+            return SetActiveCategory(category.get());
+        }
+    }
+    return FALSE;
+}
+
+BOOL CMFCRibbonBar::HideAllContextCategories() {
+    BOOL hidden = FALSE;
+    for (int index = 0; index < GetCategoryCount(); ++index) {
+        if (GetCategory(index)->GetContextID() != 0 && GetCategory(index)->IsVisible()) {
+            ShowCategory(index, FALSE);
+            hidden = TRUE;
+        }
+    }
+    return hidden;
+}
+
+BOOL CMFCRibbonBar::GetContextName(UINT uiContextID, CString& strName) const {
+    for (const auto& context : m_parts->contexts) {
+        if (context.id == uiContextID) {
+            strName = context.name;
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+BOOL CMFCRibbonBar::RemoveCategory(int nIndex) {
+    CMFCRibbonCategory* category = GetCategory(nIndex);
+    if (category == nullptr) {
+        return FALSE;
+    }
+    m_parts->hotPanel = nullptr;
+    if (m_parts->active == category) {
+        m_parts->active = nullptr;
+    }
+    m_parts->categories.erase(m_parts->categories.begin() + nIndex);
+    if (m_parts->active == nullptr) {
+        SetActiveWithoutCheck(FirstVisibleCategory());
+    }
+    MarkLayoutDirty();
+    return TRUE;
+}
+
+void CMFCRibbonBar::RemoveAllCategories() {
+    m_parts->hotPanel = nullptr;
+    m_parts->active = nullptr;
+    m_parts->quickAccess.RemoveAll();
+    m_parts->categories.clear();
+    m_parts->contexts.clear();
+    MarkLayoutDirty();
+}
+
+void CMFCRibbonBar::ShowCategory(int nIndex, BOOL bShow) {
+    CMFCRibbonCategory* category = GetCategory(nIndex);
+    if (category == nullptr || !category->m_bIsVisible == !bShow) {
+        return;
+    }
+    category->m_bIsVisible = bShow;
+    if (!bShow && m_parts->active == category) {
+        SetActiveWithoutCheck(FirstVisibleCategory());
+    } else if (bShow && m_parts->active == nullptr) {
+        SetActiveWithoutCheck(category);
+    }
+    MarkLayoutDirty();
+}
+
+BOOL CMFCRibbonBar::SetActiveCategory(CMFCRibbonCategory* pCategory, BOOL bForceRestore) {
+    if (pCategory == nullptr || GetCategoryIndex(pCategory) < 0 || !pCategory->IsVisible()) {
+        return FALSE;
+    }
+    if (bForceRestore && m_parts->minimized) {
+        m_parts->minimized = false;
+        MarkLayoutDirty();
+    }
+    SetActiveWithoutCheck(pCategory);
+    return TRUE;
+}
+
+void CMFCRibbonBar::SetActiveWithoutCheck(CMFCRibbonCategory* category) {
+    if (m_parts->active == category) {
+        return;
+    }
+    if (m_parts->active != nullptr) {
+        CancelPress();
+        m_parts->hotPanel = nullptr;
+        m_parts->active->SetActive(FALSE);
+    }
+    m_parts->active = category;
+    if (category != nullptr) {
+        category->SetActive(TRUE);
+    }
+    MarkLayoutDirty();
+}
+
+CMFCRibbonCategory* CMFCRibbonBar::FirstVisibleCategory() const {
+    for (const auto& category : m_parts->categories) {
+        if (category->IsVisible()) {
+            return category.get();
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonCategory* CMFCRibbonBar::GetActiveCategory() const { return m_parts->active; }
+
+CMFCRibbonCategory* CMFCRibbonBar::GetCategory(int nIndex) const {
+    const bool exists = nIndex >= 0 && nIndex < GetCategoryCount();
+    return exists ? m_parts->categories[static_cast<size_t>(nIndex)].get() : nullptr;
+}
+
+int CMFCRibbonBar::GetCategoryCount() const { return static_cast<int>(m_parts->categories.size()); }
+
+int CMFCRibbonBar::GetVisibleCategoryCount() const {
+    return static_cast<int>(std::count_if(m_parts->categories.begin(), m_parts->categories.end(),
+                                          [](const auto& category) { return category->IsVisible() != FALSE; }));
+}
+
+int CMFCRibbonBar::GetCategoryIndex(CMFCRibbonCategory* pCategory) const {
+    for (int index = 0; index < GetCategoryCount(); ++index) {
+        if (GetCategory(index) == pCategory) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+int CMFCRibbonBar::FindCategoryIndexByData(DWORD dwData) const {
+    for (int index = 0; index < GetCategoryCount(); ++index) {
+        if (GetCategory(index)->GetData() == dwData) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBar::FindByID(UINT uiCmdID, BOOL bVisibleOnly, BOOL bExcludeQAT) const {
+    for (const auto& category : m_parts->categories) {
+        if (bVisibleOnly && !category->IsVisible()) {
+            continue;
+        }
+        if (CMFCRibbonBaseElement* found = category->FindByID(uiCmdID, bVisibleOnly)) {
+            return found;
+        }
+    }
+    for (const auto& element : m_parts->tabElements) {
+        if (CMFCRibbonBaseElement* found = element->FindByID(uiCmdID)) {
+            return found;
+        }
+    }
+    if (m_parts->applicationButton != nullptr) {
+        if (CMFCRibbonBaseElement* found = m_parts->applicationButton->FindByID(uiCmdID)) {
+            return found;
+        }
+    }
+    return bExcludeQAT ? nullptr : m_parts->quickAccess.FindByID(uiCmdID);
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBar::FindByData(DWORD_PTR dwData, BOOL bVisibleOnly) const {
+    for (const auto& category : m_parts->categories) {
+        if (bVisibleOnly && !category->IsVisible()) {
+            continue;
+        }
+        if (CMFCRibbonBaseElement* found = category->FindByData(dwData, bVisibleOnly)) {
+            return found;
+        }
+    }
+    for (const auto& element : m_parts->tabElements) {
+        if (CMFCRibbonBaseElement* found = element->FindByData(dwData)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+void CMFCRibbonBar::GetElementsByID(UINT uiCmdID, ElementArray& arButtons) {
+    arButtons.RemoveAll();
+    for (const auto& category : m_parts->categories) {
+        category->GetElementsByID(uiCmdID, arButtons);
+    }
+    for (const auto& element : m_parts->tabElements) {
+        element->GetElementsByID(uiCmdID, arButtons);
+    }
+    if (m_parts->applicationButton != nullptr) {
+        m_parts->applicationButton->GetElementsByID(uiCmdID, arButtons);
+    }
+    m_parts->quickAccess.GetElementsByID(uiCmdID, arButtons);
+}
+
+void CMFCRibbonBar::GetItemIDsList(CList<UINT, UINT>& lstItems, BOOL bHiddenOnly) const {
+    lstItems.RemoveAll();
+    for (const auto& category : m_parts->categories) {
+        category->GetItemIDsList(lstItems, bHiddenOnly);
+    }
+}
+
+BOOL CMFCRibbonBar::SetElementKeys(UINT uiCmdID, LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
+    ElementArray elements;
+    GetElementsByID(uiCmdID, elements);
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        elements[index]->SetKeys(lpszKeys, lpszMenuKeys);
+    }
+    return elements.GetSize() > 0;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBar::GetDroppedDown() {
+    if (CMFCRibbonBaseElement* dropped = GetQATDroppedDown()) {
+        return dropped;
+    }
+    if (m_parts->applicationButton != nullptr && m_parts->applicationButton->IsDroppedDown()) {
+        return m_parts->applicationButton;
+    }
+    for (const auto& element : m_parts->tabElements) {
+        if (CMFCRibbonBaseElement* dropped = element->GetDroppedDown()) {
+            return dropped;
+        }
+    }
+    return m_parts->active != nullptr ? m_parts->active->GetDroppedDown() : nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBar::GetFocused() {
+    for (const auto& element : m_parts->tabElements) {
+        if (element->IsFocused()) {
+            return element.get();
+        }
+    }
+    for (int index = 0; index < m_parts->quickAccess.GetCount(); ++index) {
+        if (m_parts->quickAccess.GetButton(index)->IsFocused()) {
+            return m_parts->quickAccess.GetButton(index);
+        }
+    }
+    return m_parts->active != nullptr ? m_parts->active->GetFocused() : nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBar::HitTest(CPoint point, BOOL bCheckActiveCategory, BOOL bCheckPanelCaption) {
+    EnsureLayout();
+    if (m_parts->applicationButton != nullptr) {
+        if (CMFCRibbonBaseElement* hit = m_parts->applicationButton->HitTest(point)) {
+            return hit;
+        }
+    }
+    if (CMFCRibbonBaseElement* hit = m_parts->quickAccess.HitTest(point)) {
+        return hit;
+    }
+    for (const auto& element : m_parts->tabElements) {
+        if (CMFCRibbonBaseElement* hit = element->HitTest(point)) {
+            return hit;
+        }
+    }
+    for (const auto& category : m_parts->categories) {
+        if (CMFCRibbonBaseElement* hit = category->m_Tab.HitTest(point)) {
+            return hit;
+        }
+    }
+    if (bCheckActiveCategory && m_parts->active != nullptr) {
+        return m_parts->active->HitTest(point, bCheckPanelCaption);
+    }
+    return nullptr;
+}

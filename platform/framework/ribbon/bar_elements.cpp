@@ -1,0 +1,179 @@
+// The elements that only a ribbon bar has: tabs, scroll buttons, collapsed panels, application button, context
+// captions.
+#include "afxribbonbar.h"
+
+#include "afxglobals.h"
+#include "afxvisualmanager.h"
+#include "ribbon/bar_parts.h"
+
+namespace {
+
+COLORREF OrDefault(COLORREF color) { return color == static_cast<COLORREF>(-1) ? afxGlobalData.clrBarText : color; }
+
+// One line in the middle of the rectangle, ended with dots where it is too long.
+void DrawCenteredText(CDC* pDC, const CString& text, CRect rect, COLORREF color) {
+    RibbonFontScope font(*pDC);
+    const COLORREF previousColor = pDC->SetTextColor(OrDefault(color));
+    const int previousMode = pDC->SetBkMode(TRANSPARENT);
+    pDC->DrawText(text, rect, DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+    pDC->SetBkMode(previousMode);
+    pDC->SetTextColor(previousColor);
+}
+
+} // namespace
+
+// ---- tab
+
+IMPLEMENT_DYNCREATE(CMFCRibbonTab, CMFCRibbonBaseElement)
+
+CMFCRibbonTab::CMFCRibbonTab() = default;
+
+CSize CMFCRibbonTab::GetRegularSize(CDC* pDC) {
+    CMFCRibbonCategory* category = GetParentCategory();
+    if (category == nullptr || category->GetParentRibbonBar() == nullptr) {
+        return {0, 0};
+    }
+    const RibbonMetrics& metrics = category->GetParentRibbonBar()->GetMetrics();
+    RibbonFontScope font(*pDC);
+    const CSize text = pDC->GetTextExtent(CString(category->GetName()));
+    return {text.cx + 2 * metrics.tabPaddingX, metrics.tabHeight};
+}
+
+CString CMFCRibbonTab::GetToolTipText() const {
+    return m_bIsTrancated && GetParentCategory() != nullptr ? CString(GetParentCategory()->GetName()) : CString();
+}
+
+BOOL CMFCRibbonTab::IsSelected() const { return GetParentCategory() != nullptr && GetParentCategory()->IsActive(); }
+
+void CMFCRibbonTab::OnDraw(CDC* pDC) {
+    CMFCRibbonCategory* category = GetParentCategory();
+    if (category == nullptr) {
+        return;
+    }
+    const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryTab(pDC, this, IsSelected());
+    CRect text = m_rect;
+    if (m_bIsTrancated) {
+        text.DeflateRect(afxGlobalData.ScalePixels(2), 0);
+    }
+    DrawCenteredText(pDC, category->GetName(), text, color);
+}
+
+void CMFCRibbonTab::OnLButtonDown(CPoint /*point*/) {
+    CMFCRibbonCategory* category = GetParentCategory();
+    CMFCRibbonBar* bar = GetParentRibbonBar();
+    if (category == nullptr || bar == nullptr || category->IsActive() || !bar->SetActiveCategory(category)) {
+        return;
+    }
+    bar->NotifyCategoryChanged();
+}
+
+// ---- scroll buttons of a category
+
+IMPLEMENT_DYNCREATE(CRibbonCategoryScroll, CMFCRibbonButton)
+
+CRibbonCategoryScroll::CRibbonCategoryScroll() = default;
+
+void CRibbonCategoryScroll::OnDraw(CDC* pDC) {
+    CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryScroll(pDC, this);
+}
+
+void CRibbonCategoryScroll::OnLButtonUp(CPoint point) {
+    if (IsPressed() && m_rect.PtInRect(point) && GetParentCategory() != nullptr) {
+        GetParentCategory()->OnScrollHorz(m_bIsLeft);
+    }
+}
+
+// ---- button of a collapsed panel
+
+IMPLEMENT_DYNCREATE(CMFCRibbonDefaultPanelButton, CMFCRibbonButton)
+
+CMFCRibbonDefaultPanelButton::CMFCRibbonDefaultPanelButton() = default;
+
+CSize CMFCRibbonDefaultPanelButton::GetImageSize(RibbonImageType type) const {
+    const int side = afxGlobalData.ScalePixels(type == RibbonImageLarge ? 32 : 16);
+    return {side, side};
+}
+
+// Without an icon of its own a panel shows what its first element shows.
+void CMFCRibbonDefaultPanelButton::DrawImage(CDC* pDC, RibbonImageType /*type*/, CRect rectImage) {
+    const CSize small = GetImageSize(RibbonImageSmall);
+    const CRect inner(CPoint(rectImage.CenterPoint().x - small.cx / 2, rectImage.CenterPoint().y - small.cy / 2),
+                      small);
+    CMFCVisualManager::GetInstance()->OnDrawDefaultRibbonImage(pDC, rectImage, IsDisabled(), IsPressed(),
+                                                               IsHighlighted());
+    if (m_panelIcon != nullptr) {
+        ::DrawIconEx(pDC->GetSafeHdc(), inner.left, inner.top, m_panelIcon, inner.Width(), inner.Height(), 0, nullptr,
+                     DI_NORMAL);
+        return;
+    }
+    CMFCRibbonPanel* panel = GetParentPanel();
+    for (int index = 0; panel != nullptr && index < panel->GetCount(); ++index) {
+        if (panel->GetElement(index)->GetImageSize(RibbonImageSmall).cx > 0) {
+            panel->GetElement(index)->DrawImage(pDC, RibbonImageSmall, inner);
+            return;
+        }
+    }
+}
+
+COLORREF CMFCRibbonDefaultPanelButton::OnFillBackground(CDC* pDC) {
+    CMFCVisualManager::GetInstance()->OnDrawRibbonDefaultPaneButton(pDC, this);
+    return static_cast<COLORREF>(-1);
+}
+
+// The panel's popup is not there yet: a release ends the press and nothing else.
+void CMFCRibbonDefaultPanelButton::OnLButtonUp(CPoint /*point*/) {}
+
+// ---- application button
+
+IMPLEMENT_DYNCREATE(CMFCRibbonApplicationButton, CMFCRibbonButton)
+
+CMFCRibbonApplicationButton::CMFCRibbonApplicationButton() = default;
+
+CMFCRibbonApplicationButton::CMFCRibbonApplicationButton(UINT uiBmpResID) { SetImage(uiBmpResID); }
+
+CMFCRibbonApplicationButton::CMFCRibbonApplicationButton(HBITMAP hBmp) { SetImage(hBmp); }
+
+void CMFCRibbonApplicationButton::SetImage(UINT uiBmpResID) {
+    m_Image.Clear();
+    m_Image.Load(uiBmpResID);
+    m_Image.SetSingleImage();
+    Redraw();
+}
+
+void CMFCRibbonApplicationButton::SetImage(HBITMAP hBmp) {
+    m_Image.Clear();
+    BITMAP bitmap{};
+    if (hBmp != nullptr && ::GetObject(hBmp, sizeof(bitmap), &bitmap) == sizeof(bitmap)) {
+        m_Image.SetImageSize(CSize(bitmap.bmWidth, bitmap.bmHeight));
+        m_Image.AddImage(hBmp);
+    }
+    Redraw();
+}
+
+void CMFCRibbonApplicationButton::DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
+    if (m_Image.GetCount() == 0) {
+        CMFCRibbonButton::DrawImage(pDC, type, rectImage);
+        return;
+    }
+    m_Image.DrawEx(pDC, rectImage, 0, CMFCToolBarImages::ImageAlignHorzCenter, CMFCToolBarImages::ImageAlignVertCenter);
+}
+
+void CMFCRibbonApplicationButton::OnDraw(CDC* pDC) {
+    CMFCVisualManager::GetInstance()->OnDrawRibbonApplicationButton(pDC, this);
+    if (m_Image.GetCount() > 0 || GetIcon(TRUE) != nullptr) {
+        DrawImage(pDC, RibbonImageLarge, m_rect);
+    } else {
+        DrawCenteredText(pDC, m_strText, m_rect, static_cast<COLORREF>(-1));
+    }
+}
+
+// ---- caption of a context
+
+IMPLEMENT_DYNCREATE(CMFCRibbonContextCaption, CMFCRibbonButton)
+
+CMFCRibbonContextCaption::CMFCRibbonContextCaption() = default;
+
+void CMFCRibbonContextCaption::OnDraw(CDC* pDC) {
+    const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryCaption(pDC, this);
+    DrawCenteredText(pDC, m_strText, m_rect, color);
+}

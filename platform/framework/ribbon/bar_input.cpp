@@ -1,0 +1,268 @@
+// Pointer input, command updates and menus of a ribbon bar. A press belongs to its element until the button is
+// released; the element that loses the capture is told nothing but that it is no longer pressed.
+#include "afxribbonbar.h"
+
+#include "ribbon/bar_parts.h"
+
+namespace {
+
+constexpr UINT_PTR kRepeatTimer = 1;
+constexpr int kFarAway = -32000;
+
+bool TakesInput(const CMFCRibbonBaseElement& element) { return !element.IsDisabled() && !element.IsSeparator(); }
+
+} // namespace
+
+void CMFCRibbonBar::OnLButtonDown(UINT nFlags, CPoint point) {
+    CPane::OnLButtonDown(nFlags, point);
+    PopTooltip();
+    CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
+    if (hit != nullptr && TakesInput(*hit)) {
+        Press(hit, point);
+    }
+}
+
+void CMFCRibbonBar::OnLButtonDblClk(UINT nFlags, CPoint point) {
+    CPane::OnLButtonDblClk(nFlags, point);
+    CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
+    if (hit == nullptr || !TakesInput(*hit)) {
+        return;
+    }
+    if (DYNAMIC_DOWNCAST(CMFCRibbonTab, hit) != nullptr) {
+        ToggleMimimizeState();
+        return;
+    }
+    Press(hit, point);
+}
+
+void CMFCRibbonBar::Press(CMFCRibbonBaseElement* element, CPoint point) {
+    const HWND window = m_hWnd;
+    m_parts->pressed = element;
+    SetCapture();
+    SetHot(element, point);
+    element->SetPressed(TRUE);
+    element->Redraw();
+    const bool inCategory = m_parts->active != nullptr && element->GetParentPanel() != nullptr;
+    if (inCategory) {
+        m_parts->active->OnLButtonDown(point);
+    } else {
+        element->OnLButtonDown(point);
+    }
+    int delay = 0;
+    if (::IsWindow(window) && m_parts->pressed != nullptr && m_parts->pressed->IsAutoRepeatMode(delay)) {
+        SetTimer(kRepeatTimer, static_cast<UINT>(delay), nullptr);
+    }
+}
+
+void CMFCRibbonBar::OnLButtonUp(UINT nFlags, CPoint point) {
+    CPane::OnLButtonUp(nFlags, point);
+    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
+    if (element == nullptr) {
+        return;
+    }
+    const HWND window = m_hWnd;
+    KillTimer(kRepeatTimer);
+    m_parts->releasing = element;
+    if (GetCapture() == this) {
+        ::ReleaseCapture();
+    }
+    if (m_parts->releasing == nullptr) {
+        return;
+    }
+    element->OnLButtonUp(point);
+    // The click may have ended the window, the bar or the element.
+    if (!::IsWindow(window)) {
+        return;
+    }
+    if (CMFCRibbonBaseElement* released = std::exchange(m_parts->releasing, nullptr)) {
+        released->SetPressed(FALSE);
+        released->Redraw();
+    }
+    SetHot(HitTest(point, TRUE), point);
+}
+
+void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
+    CPane::OnMouseMove(nFlags, point);
+    if (!m_parts->tracksLeave) {
+        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
+        m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
+    }
+    CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
+    if (m_parts->pressed != nullptr) {
+        SetHot(hit == m_parts->pressed ? hit : nullptr, point);
+        m_parts->pressed->OnMouseMove(point);
+        return;
+    }
+    SetHot(hit, point);
+    if (m_parts->hot != nullptr) {
+        m_parts->hot->OnMouseMove(point);
+    }
+}
+
+void CMFCRibbonBar::OnMouseLeave() {
+    CPane::OnMouseLeave();
+    m_parts->tracksLeave = false;
+    if (m_parts->pressed == nullptr) {
+        SetHot(nullptr, CPoint(-1, -1));
+    }
+}
+
+// The panel and the element under the pointer change their look; nothing else is drawn again.
+void CMFCRibbonBar::SetHot(CMFCRibbonBaseElement* element, CPoint point) {
+    if (element != nullptr && element->IsSeparator()) {
+        element = nullptr;
+    }
+    if (m_parts->active != nullptr) {
+        m_parts->hotPanel = m_parts->active->HighlightPanel(m_parts->hotPanel, point);
+    }
+    if (m_parts->hot == element) {
+        return;
+    }
+    if (m_parts->hot != nullptr) {
+        m_parts->hot->SetHighlighted(FALSE);
+    }
+    m_parts->hot = element;
+    if (element != nullptr) {
+        element->SetHighlighted(TRUE);
+    }
+    PlaceTooltip();
+}
+
+void CMFCRibbonBar::CancelPress() {
+    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
+    if (element == nullptr) {
+        return;
+    }
+    if (GetSafeHwnd() != nullptr) {
+        KillTimer(kRepeatTimer);
+    }
+    element->SetPressed(FALSE);
+    // Whatever the element is in the middle of ends here; no element acts on a release so far away.
+    element->OnLButtonUp(CPoint(kFarAway, kFarAway));
+    if (GetSafeHwnd() != nullptr && GetCapture() == this) {
+        ::ReleaseCapture();
+    }
+}
+
+void CMFCRibbonBar::OnCancelMode() {
+    CPane::OnCancelMode();
+    CancelPress();
+    SetHot(nullptr, CPoint(-1, -1));
+}
+
+void CMFCRibbonBar::OnCaptureChanged(CWnd* pWnd) {
+    CPane::OnCaptureChanged(pWnd);
+    if (pWnd != this && m_parts->pressed != nullptr) {
+        CancelPress();
+        SetHot(nullptr, CPoint(-1, -1));
+    }
+}
+
+void CMFCRibbonBar::OnTimer(UINT_PTR nIDEvent) {
+    if (nIDEvent != kRepeatTimer) {
+        CPane::OnTimer(nIDEvent);
+        return;
+    }
+    if (m_parts->pressed == nullptr) {
+        KillTimer(kRepeatTimer);
+        return;
+    }
+    const HWND window = m_hWnd;
+    const bool goesOn = m_parts->pressed->OnAutoRepeat() != FALSE;
+    if (::IsWindow(window) && !goesOn) {
+        KillTimer(kRepeatTimer);
+    }
+}
+
+// Over the bar the wheel walks through the shown categories, without going round at the ends.
+BOOL CMFCRibbonBar::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
+    CPoint client = pt;
+    ScreenToClient(&client);
+    CRect area;
+    GetClientRect(area);
+    if (!area.PtInRect(client) || m_parts->active == nullptr || m_parts->pressed != nullptr || m_parts->minimized ||
+        GetDroppedDown() != nullptr) {
+        return CPane::OnMouseWheel(nFlags, zDelta, pt);
+    }
+    const int step = zDelta > 0 ? -1 : 1;
+    int index = GetCategoryIndex(m_parts->active);
+    for (int notch = 0; notch < std::max(1, abs(zDelta) / WHEEL_DELTA); ++notch) {
+        int next = index + step;
+        while (GetCategory(next) != nullptr && !GetCategory(next)->IsVisible()) {
+            next += step;
+        }
+        if (GetCategory(next) == nullptr) {
+            break;
+        }
+        index = next;
+    }
+    if (GetCategory(index) != m_parts->active) {
+        SetActiveCategory(GetCategory(index));
+        NotifyCategoryChanged();
+    }
+    return TRUE;
+}
+
+void CMFCRibbonBar::NotifyCategoryChanged() {
+    if (CWnd* owner = GetOwner()) {
+        owner->SendMessage(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, 0, reinterpret_cast<LPARAM>(this));
+    }
+}
+
+BOOL CMFCRibbonBar::PreTranslateMessage(MSG* pMsg) {
+    const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
+    if (isMouse && m_pToolTip != nullptr && pMsg->hwnd == m_hWnd) {
+        m_pToolTip->RelayEvent(pMsg);
+    }
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && m_parts->pressed != nullptr) {
+        CancelPress();
+        return TRUE;
+    }
+    return CPane::PreTranslateMessage(pMsg);
+}
+
+void CMFCRibbonBar::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
+    CPane::OnSettingChange(uFlags, lpszSection);
+    ForceRecalcLayout();
+}
+
+void CMFCRibbonBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    EnsureLayout();
+    CMFCRibbonCmdUI update;
+    update.m_pOther = this;
+    if (m_parts->applicationButton != nullptr) {
+        m_parts->applicationButton->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
+    }
+    m_parts->quickAccess.OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
+    for (const auto& element : m_parts->tabElements) {
+        element->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
+    }
+    if (m_parts->active != nullptr && !m_parts->minimized) {
+        m_parts->active->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
+    }
+}
+
+// The element sends its command itself; a derived bar adds what else a click does.
+void CMFCRibbonBar::OnClickButton(CMFCRibbonButton* /*pButton*/, CPoint /*point*/) {}
+
+void CMFCRibbonBar::OnPaneContextMenu(CWnd* pParentFrame, CPoint point) {
+    if (point == CPoint(-1, -1)) {
+        if (CMFCRibbonBaseElement* focused = GetFocused()) {
+            CRect rect = focused->GetRect();
+            ClientToScreen(rect);
+            OnShowRibbonContextMenu(this, rect.left, rect.bottom, focused);
+            if (pParentFrame != nullptr) {
+                pParentFrame->SetFocus();
+            }
+        }
+        return;
+    }
+    DeactivateKeyboardFocus(FALSE);
+    CPoint client = point;
+    ScreenToClient(&client);
+    CMFCRibbonBaseElement* hit = HitTest(client, TRUE, TRUE);
+    if (hit == nullptr && m_rectCaption.PtInRect(client)) {
+        return;
+    }
+    OnShowRibbonContextMenu(this, point.x, point.y, hit);
+}

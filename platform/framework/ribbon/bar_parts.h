@@ -1,0 +1,80 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "afxribbonbar.h"
+#include "ribbon/bar_layout.h"
+#include "ribbon/panel_layout.h"
+
+inline CRect ToCRect(const RibbonRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
+
+/// Selects the ribbon's regular font for its lifetime.
+class RibbonFontScope {
+public:
+    explicit RibbonFontScope(CDC& dc);
+    ~RibbonFontScope();
+    RibbonFontScope(const RibbonFontScope&) = delete;
+    RibbonFontScope& operator=(const RibbonFontScope&) = delete;
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_previous;
+};
+
+struct RibbonCategoryParts {
+    std::vector<std::unique_ptr<CMFCRibbonPanel>> panels;
+    std::vector<std::unique_ptr<CMFCRibbonBaseElement>> hidden;
+    std::vector<RibbonPanelLadder> ladders; // one a panel, as last measured
+    std::vector<int> collapseOrder;
+    int firstPanel = 0; // leftmost panel in view while the category scrolls
+    bool measured = false;
+    UINT smallImagesId = 0;
+    UINT largeImagesId = 0;
+    double imageScale = 0.0; // at which the images were loaded; 0: not yet
+};
+
+/// What a ribbon bar consists of and what it knows of the pointer.
+struct RibbonBarParts {
+    RibbonMetrics metrics = RibbonMetrics::FromFont(13, 1.0);
+    RibbonBarShape shape;
+    RibbonBarArrangement arrangement;
+    bool layoutDirty = true;
+    bool isLayingOut = false;
+    int laidOutWidth = -1;
+
+    bool replacesCaption = false;
+    bool windows7Look = false;
+    bool minimized = false;
+    bool hiddenForWidth = false;
+    bool quickAccessOnTop = true;
+    bool tooltips = true;
+    bool tooltipDescriptions = true;
+    int tooltipWidthRegular = 0;
+    int tooltipWidthLargeImage = 0;
+    CString tooltipText; // lent to the tooltip control while it shows
+
+    CMFCRibbonApplicationButton* applicationButton = nullptr; // the host's
+    CSize applicationButtonSize{0, 0};                        // at 96 DPI
+    CMFCRibbonQuickAccessToolBarDefaultState quickAccessDefault;
+    bool quickAccessChosen = false;  // SetQuickAccessCommands was called: the default state does not apply
+    bool quickAccessPending = false; // the default state names commands that no element had yet
+    CMFCRibbonQuickAccessToolBar quickAccess;
+
+    // Nothing here outlives the element: each tells the bar when it goes.
+    CMFCRibbonBaseElement* hot = nullptr;
+    CMFCRibbonBaseElement* pressed = nullptr;
+    CMFCRibbonBaseElement* releasing = nullptr; // gets the button's release now
+    CMFCRibbonPanel* hotPanel = nullptr;
+    bool tracksLeave = false;
+
+    CMFCRibbonCategory* active = nullptr;
+    struct Context {
+        UINT id;
+        CString name;
+        std::unique_ptr<CMFCRibbonContextCaption> caption;
+    };
+    std::vector<Context> contexts;
+    std::vector<std::unique_ptr<CMFCRibbonBaseElement>> tabElements;
+    std::vector<std::unique_ptr<CMFCRibbonCategory>> categories;
+};

@@ -1,0 +1,500 @@
+#include "afxribboncategory.h"
+
+#include <algorithm>
+
+#include "afxglobals.h"
+#include "afxribbonbar.h"
+#include "afxvisualmanager.h"
+#include "ribbon/bar_parts.h"
+
+using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
+
+IMPLEMENT_DYNCREATE(CMFCRibbonCategory, CObject)
+
+CMFCRibbonCategory::CMFCRibbonCategory() : m_rect(0, 0, 0, 0), m_parts(std::make_unique<RibbonCategoryParts>()) {}
+
+CMFCRibbonCategory::CMFCRibbonCategory(CMFCRibbonBar* pParenrRibbonBar, LPCTSTR lpszName, UINT uiSmallImagesResID,
+                                       UINT uiLargeImagesResID, CSize sizeSmallImage, CSize sizeLargeImage)
+    : CMFCRibbonCategory() {
+    CommonInit(pParenrRibbonBar, lpszName, uiSmallImagesResID, uiLargeImagesResID, sizeSmallImage, sizeLargeImage);
+}
+
+CMFCRibbonCategory::~CMFCRibbonCategory() = default;
+
+void CMFCRibbonCategory::CommonInit(CMFCRibbonBar* pParentRibbonBar, LPCTSTR lpszName, UINT uiSmallImagesResID,
+                                    UINT uiLargeImagesResID, CSize sizeSmallImage, CSize sizeLargeImage) {
+    m_pParentRibbonBar = pParentRibbonBar;
+    m_strName = lpszName;
+    m_parts->smallImagesId = uiSmallImagesResID;
+    m_parts->largeImagesId = uiLargeImagesResID;
+    m_sizeSmallImage = sizeSmallImage;
+    m_sizeLargeImage = sizeLargeImage;
+    m_ScrollLeft.SetLeftScroll(TRUE);
+    for (CMFCRibbonBaseElement* element :
+         {static_cast<CMFCRibbonBaseElement*>(&m_Tab), static_cast<CMFCRibbonBaseElement*>(&m_ScrollLeft),
+          static_cast<CMFCRibbonBaseElement*>(&m_ScrollRight)}) {
+        element->SetParentCategory(this);
+    }
+    LoadImages();
+}
+
+// The images are kept at the ribbon's scale; another scale needs the originals again.
+void CMFCRibbonCategory::LoadImages() {
+    const double scale = afxGlobalData.GetRibbonImageScale();
+    if (m_parts->imageScale == scale) {
+        return;
+    }
+    m_parts->imageScale = scale;
+    const auto load = [scale](CMFCToolBarImages& images, UINT id, CSize size) {
+        if (id == 0) {
+            return;
+        }
+        images.Clear();
+        images.SetImageSize(size);
+        if (images.Load(id) && scale != 1.0) {
+            images.SmoothResize(scale);
+        }
+    };
+    load(m_SmallImages, m_parts->smallImagesId, m_sizeSmallImage);
+    load(m_LargeImages, m_parts->largeImagesId, m_sizeLargeImage);
+}
+
+CSize CMFCRibbonCategory::GetImageSize(BOOL bIsLargeImage) const {
+    const CMFCToolBarImages& images = bIsLargeImage ? m_LargeImages : m_SmallImages;
+    if (images.GetCount() > 0) {
+        return images.GetImageSize();
+    }
+    const CSize& nominal = bIsLargeImage ? m_sizeLargeImage : m_sizeSmallImage;
+    return {afxGlobalData.ScalePixels(nominal.cx), afxGlobalData.ScalePixels(nominal.cy)};
+}
+
+int CMFCRibbonCategory::GetImageCount(BOOL bIsLargeImage) const {
+    return (bIsLargeImage ? m_LargeImages : m_SmallImages).GetCount();
+}
+
+BOOL CMFCRibbonCategory::OnDrawImage(CDC* pDC, CRect rect, CMFCRibbonBaseElement* pElement, BOOL bIsLargeImage,
+                                     BOOL nImageIndex, BOOL bCenter) {
+    CMFCToolBarImages& images = bIsLargeImage ? m_LargeImages : m_SmallImages;
+    if (nImageIndex < 0 || nImageIndex >= images.GetCount()) {
+        return FALSE;
+    }
+    const CSize size = images.GetImageSize();
+    CPoint corner = rect.TopLeft();
+    if (bCenter) {
+        corner.Offset((rect.Width() - size.cx) / 2, (rect.Height() - size.cy) / 2);
+    }
+    CAfxDrawState state;
+    if (!images.PrepareDrawImage(state, size)) {
+        return FALSE;
+    }
+    const BOOL disabled = pElement != nullptr && pElement->IsDisabled();
+    const BOOL drawn = images.Draw(pDC, corner.x, corner.y, nImageIndex, FALSE, disabled);
+    images.EndDrawImage(state);
+    return drawn;
+}
+
+// ---- panels
+
+CMFCRibbonPanel* CMFCRibbonCategory::AddPanel(LPCTSTR lpszPanelName, HICON hIcon, CRuntimeClass* pRTI) {
+    CRuntimeClass* runtimeClass = pRTI != nullptr ? pRTI : RUNTIME_CLASS(CMFCRibbonPanel);
+    std::unique_ptr<CObject> object(runtimeClass->CreateObject());
+    CMFCRibbonPanel* panel = DYNAMIC_DOWNCAST(CMFCRibbonPanel, object.get());
+    if (panel == nullptr) {
+        return nullptr;
+    }
+    object.release(); // the list of panels owns it from here
+    m_parts->panels.emplace_back(panel);
+    panel->CommonInit(this, lpszPanelName, hIcon);
+    MarkLayoutDirty();
+    return panel;
+}
+
+int CMFCRibbonCategory::GetPanelCount() const { return static_cast<int>(m_parts->panels.size()); }
+
+CMFCRibbonPanel* CMFCRibbonCategory::GetPanel(int nIndex) {
+    return nIndex >= 0 && nIndex < GetPanelCount() ? m_parts->panels[static_cast<size_t>(nIndex)].get() : nullptr;
+}
+
+int CMFCRibbonCategory::GetPanelIndex(const CMFCRibbonPanel* pPanel) const {
+    const auto& panels = m_parts->panels;
+    const auto found =
+        std::find_if(panels.begin(), panels.end(), [pPanel](const auto& panel) { return panel.get() == pPanel; });
+    return found == panels.end() ? -1 : static_cast<int>(found - panels.begin());
+}
+
+CMFCRibbonPanel* CMFCRibbonCategory::GetPanelFromPoint(CPoint point) const {
+    for (const auto& panel : m_parts->panels) {
+        if (panel->GetRect().PtInRect(point)) {
+            return panel.get();
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonPanel* CMFCRibbonCategory::FindPanelWithElem(const CMFCRibbonBaseElement* pElement) {
+    for (const auto& panel : m_parts->panels) {
+        if (panel->HasElement(pElement)) {
+            return panel.get();
+        }
+    }
+    return nullptr;
+}
+
+BOOL CMFCRibbonCategory::RemovePanel(int nIndex, BOOL bDelete) {
+    if (GetPanel(nIndex) == nullptr) {
+        return FALSE;
+    }
+    if (m_pParentRibbonBar != nullptr && m_pParentRibbonBar->m_parts != nullptr) {
+        m_pParentRibbonBar->m_parts->hotPanel = nullptr;
+    }
+    const auto position = m_parts->panels.begin() + nIndex;
+    if (!bDelete) {
+        CClientDC dc(m_pParentRibbonBar);
+        (*position)->Hide(&dc);
+        position->release(); // the caller owns it from here
+    }
+    m_parts->panels.erase(position);
+    MarkLayoutDirty();
+    return TRUE;
+}
+
+void CMFCRibbonCategory::AddHidden(CMFCRibbonBaseElement* pElem) {
+    if (pElem != nullptr) {
+        pElem->SetParentCategory(this);
+        m_parts->hidden.emplace_back(pElem);
+    }
+}
+
+void CMFCRibbonCategory::MarkLayoutDirty() {
+    m_parts->measured = false;
+    if (m_pParentRibbonBar != nullptr) {
+        m_pParentRibbonBar->MarkLayoutDirty();
+    }
+}
+
+void CMFCRibbonCategory::SetName(LPCTSTR lpszName) {
+    m_strName = lpszName;
+    MarkLayoutDirty();
+}
+
+void CMFCRibbonCategory::SetKeys(LPCTSTR lpszKeys) { m_Tab.SetKeys(lpszKeys); }
+
+void CMFCRibbonCategory::SetTabColor(AFX_RibbonCategoryColor color) {
+    m_Color = color;
+    m_Tab.Redraw();
+}
+
+BOOL CMFCRibbonCategory::IsWindows7Look() const {
+    return m_pParentRibbonBar != nullptr && m_pParentRibbonBar->IsWindows7Look();
+}
+
+// ---- searches
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::FindByID(UINT uiCmdID, BOOL bVisibleOnly) const {
+    for (const auto& panel : m_parts->panels) {
+        CMFCRibbonBaseElement* found = panel->FindByID(uiCmdID);
+        if (found != nullptr && (!bVisibleOnly || found->IsVisible())) {
+            return found;
+        }
+    }
+    if (!bVisibleOnly) {
+        for (const auto& element : m_parts->hidden) {
+            if (CMFCRibbonBaseElement* found = element->FindByID(uiCmdID)) {
+                return found;
+            }
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::FindByData(DWORD_PTR dwData, BOOL bVisibleOnly) const {
+    for (const auto& panel : m_parts->panels) {
+        CMFCRibbonBaseElement* found = panel->FindByData(dwData);
+        if (found != nullptr && (!bVisibleOnly || found->IsVisible())) {
+            return found;
+        }
+    }
+    if (!bVisibleOnly) {
+        for (const auto& element : m_parts->hidden) {
+            if (CMFCRibbonBaseElement* found = element->FindByData(dwData)) {
+                return found;
+            }
+        }
+    }
+    return nullptr;
+}
+
+void CMFCRibbonCategory::GetElements(ElementArray& arElements) {
+    arElements.RemoveAll();
+    for (const auto& panel : m_parts->panels) {
+        panel->GetElements(arElements);
+    }
+    for (const auto& element : m_parts->hidden) {
+        element->GetElements(arElements);
+    }
+}
+
+void CMFCRibbonCategory::GetElementsByID(UINT uiCmdID, ElementArray& arElements) {
+    for (const auto& panel : m_parts->panels) {
+        panel->GetElementsByID(uiCmdID, arElements);
+    }
+    for (const auto& element : m_parts->hidden) {
+        element->GetElementsByID(uiCmdID, arElements);
+    }
+}
+
+void CMFCRibbonCategory::GetVisibleElements(ElementArray& arElements) {
+    if (!m_ScrollLeft.GetRect().IsRectEmpty()) {
+        arElements.Add(&m_ScrollLeft);
+    }
+    for (const auto& panel : m_parts->panels) {
+        if (!panel->GetRect().IsRectEmpty()) {
+            panel->GetVisibleElements(arElements);
+        }
+    }
+    if (!m_ScrollRight.GetRect().IsRectEmpty()) {
+        arElements.Add(&m_ScrollRight);
+    }
+}
+
+void CMFCRibbonCategory::GetItemIDsList(CList<UINT, UINT>& lstItems, BOOL bHiddenOnly) const {
+    if (!bHiddenOnly) {
+        for (const auto& panel : m_parts->panels) {
+            panel->GetItemIDsList(lstItems);
+        }
+    }
+    for (const auto& element : m_parts->hidden) {
+        if (element->GetID() != 0) {
+            lstItems.AddTail(element->GetID());
+        }
+    }
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::GetFirstVisibleElement() const {
+    ElementArray elements;
+    const_cast<CMFCRibbonCategory*>(this)->GetVisibleElements(elements);
+    return elements.IsEmpty() ? nullptr : elements[0];
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::GetLastVisibleElement() const {
+    ElementArray elements;
+    const_cast<CMFCRibbonCategory*>(this)->GetVisibleElements(elements);
+    return elements.IsEmpty() ? nullptr : elements[elements.GetUpperBound()];
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::GetDroppedDown() {
+    for (const auto& panel : m_parts->panels) {
+        if (CMFCRibbonBaseElement* dropped = panel->GetDroppedDown()) {
+            return dropped;
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::GetFocused() {
+    if (m_Tab.IsFocused()) {
+        return &m_Tab;
+    }
+    for (const auto& panel : m_parts->panels) {
+        if (CMFCRibbonBaseElement* focused = panel->GetFocused()) {
+            return focused;
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::GetHighlighted() {
+    if (m_Tab.IsHighlighted()) {
+        return &m_Tab;
+    }
+    for (const auto& panel : m_parts->panels) {
+        if (CMFCRibbonBaseElement* highlighted = panel->GetHighlighted()) {
+            return highlighted;
+        }
+    }
+    return nullptr;
+}
+
+// ---- pointer
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::HitTest(CPoint point, BOOL bCheckPanelCaption) const {
+    if (CMFCRibbonBaseElement* scroll = HitTestScrollButtons(point)) {
+        return scroll;
+    }
+    CMFCRibbonPanel* panel = GetPanelFromPoint(point);
+    return panel != nullptr ? panel->HitTest(point, bCheckPanelCaption) : nullptr;
+}
+
+int CMFCRibbonCategory::HitTestEx(CPoint point) const {
+    int before = 0;
+    for (const auto& panel : m_parts->panels) {
+        const int position = panel->GetRect().PtInRect(point) ? panel->HitTestEx(point) : -1;
+        if (position >= 0) {
+            return before + position;
+        }
+        before += panel->GetCount();
+    }
+    return -1;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::HitTestScrollButtons(CPoint point) const {
+    for (const CRibbonCategoryScroll* button : {&m_ScrollLeft, &m_ScrollRight}) {
+        if (button->GetRect().PtInRect(point)) {
+            return const_cast<CRibbonCategoryScroll*>(button);
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonPanel* CMFCRibbonCategory::HighlightPanel(CMFCRibbonPanel* pHLPanel, CPoint point) {
+    CMFCRibbonPanel* panel = GetPanelFromPoint(point);
+    if (pHLPanel != nullptr && pHLPanel != panel) {
+        pHLPanel->Highlight(FALSE, point);
+    }
+    if (panel != nullptr && panel != pHLPanel) {
+        panel->Highlight(TRUE, point);
+    }
+    return panel;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonCategory::OnLButtonDown(CPoint point) {
+    if (CMFCRibbonBaseElement* scroll = HitTestScrollButtons(point)) {
+        scroll->OnLButtonDown(point);
+        return scroll;
+    }
+    CMFCRibbonPanel* panel = GetPanelFromPoint(point);
+    return panel != nullptr ? panel->MouseButtonDown(point) : nullptr;
+}
+
+void CMFCRibbonCategory::OnLButtonUp(CPoint point) {
+    if (CMFCRibbonBaseElement* hit = HitTest(point)) {
+        hit->OnLButtonUp(point);
+    }
+}
+
+void CMFCRibbonCategory::OnMouseMove(CPoint point) {
+    if (CMFCRibbonBaseElement* hit = HitTest(point)) {
+        hit->OnMouseMove(point);
+    }
+}
+
+void CMFCRibbonCategory::OnCancelMode() {
+    for (const auto& panel : m_parts->panels) {
+        if (panel->IsHighlighted()) {
+            panel->Highlight(FALSE, CPoint(-1, -1));
+        }
+    }
+}
+
+void CMFCRibbonCategory::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    for (const auto& panel : m_parts->panels) {
+        panel->OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);
+    }
+}
+
+// ---- layout and drawing
+
+void CMFCRibbonCategory::SetCollapseOrder(const CArray<int, int>& arCollapseOrder) {
+    m_parts->collapseOrder.assign(arCollapseOrder.GetData(), arCollapseOrder.GetData() + arCollapseOrder.GetSize());
+    MarkLayoutDirty();
+}
+
+int CMFCRibbonCategory::GetMaxHeight(CDC* /*pDC*/) {
+    return m_pParentRibbonBar != nullptr ? m_pParentRibbonBar->GetMetrics().CategoryHeight() : 0;
+}
+
+int CMFCRibbonCategory::GetTextTopLine() const {
+    if (m_pParentRibbonBar == nullptr) {
+        return 0;
+    }
+    const RibbonMetrics& metrics = m_pParentRibbonBar->GetMetrics();
+    return metrics.panelContentHeight - 2 * metrics.textHeight;
+}
+
+void CMFCRibbonCategory::RecalcLayout(CDC* pDC) {
+    if (m_pParentRibbonBar == nullptr) {
+        return;
+    }
+    LoadImages();
+    const RibbonMetrics& metrics = m_pParentRibbonBar->GetMetrics();
+    m_parts->ladders.clear();
+    for (const auto& panel : m_parts->panels) {
+        m_parts->ladders.emplace_back(panel->Measure(pDC, metrics), metrics);
+    }
+    m_parts->measured = true;
+    ReposPanels(pDC);
+}
+
+void CMFCRibbonCategory::ReposPanels(CDC* pDC) {
+    if (m_pParentRibbonBar == nullptr || m_rect.IsRectEmpty()) {
+        HideElements(pDC);
+        return;
+    }
+    const RibbonMetrics& metrics = m_pParentRibbonBar->GetMetrics();
+    const RibbonCategoryArrangement places =
+        ArrangeCategory(m_parts->ladders, metrics, m_rect.Width(), m_parts->collapseOrder, m_parts->firstPanel);
+    m_parts->firstPanel = places.firstPanel;
+    const auto placeScroll = [this, pDC](CRibbonCategoryScroll& button, const RibbonRect& rect) {
+        button.SetRect(rect.IsEmpty() ? CRect(0, 0, 0, 0) : ToCRect(rect) + m_rect.TopLeft());
+        button.OnAfterChangeRect(pDC);
+    };
+    placeScroll(m_ScrollLeft, places.scrollLeft);
+    placeScroll(m_ScrollRight, places.scrollRight);
+    for (size_t index = 0; index < m_parts->panels.size(); ++index) {
+        const RibbonCategoryArrangement::Panel& place = places.panels[index];
+        if (place.rect.IsEmpty()) {
+            m_parts->panels[index]->Hide(pDC);
+        } else {
+            m_parts->panels[index]->Place(pDC, m_parts->ladders[index].Arrange(place.stepCount),
+                                          CPoint(place.rect.left, place.rect.top) + m_rect.TopLeft(), metrics);
+        }
+    }
+}
+
+void CMFCRibbonCategory::HideElements(CDC* pDC) {
+    for (const auto& panel : m_parts->panels) {
+        panel->Hide(pDC);
+    }
+    m_ScrollLeft.SetRect(CRect(0, 0, 0, 0));
+    m_ScrollRight.SetRect(CRect(0, 0, 0, 0));
+}
+
+void CMFCRibbonCategory::SetActive(BOOL bIsActive) {
+    if (!m_bIsActive == !bIsActive) {
+        return;
+    }
+    m_bIsActive = bIsActive;
+    if (!bIsActive) {
+        m_rect = CRect(0, 0, 0, 0);
+        HideElements(nullptr);
+    }
+}
+
+// Whole panels, one at a time unless an offset says how many.
+BOOL CMFCRibbonCategory::OnScrollHorz(BOOL bScrollLeft, int nScrollOffset) {
+    const int former = m_parts->firstPanel;
+    const int count = std::max(nScrollOffset, 1);
+    m_parts->firstPanel = std::max(former + (bScrollLeft ? -count : count), 0);
+    if (m_pParentRibbonBar == nullptr || m_pParentRibbonBar->GetSafeHwnd() == nullptr) {
+        return FALSE;
+    }
+    CClientDC dc(m_pParentRibbonBar);
+    ReposPanels(&dc);
+    m_pParentRibbonBar->InvalidateRect(m_rect, FALSE);
+    return m_parts->firstPanel != former;
+}
+
+void CMFCRibbonCategory::OnDraw(CDC* pDC) {
+    if (m_rect.IsRectEmpty()) {
+        return;
+    }
+    CMFCVisualManager::GetInstance()->OnDrawRibbonCategory(pDC, this, m_rect);
+    for (const auto& panel : m_parts->panels) {
+        panel->DoPaint(pDC);
+    }
+    for (CRibbonCategoryScroll* button : {&m_ScrollLeft, &m_ScrollRight}) {
+        if (!button->GetRect().IsRectEmpty()) {
+            button->OnDraw(pDC);
+        }
+    }
+}

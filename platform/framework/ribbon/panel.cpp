@@ -1,0 +1,465 @@
+#include "afxRibbonPanel.h"
+
+#include "afxglobals.h"
+#include "afxribbonbar.h"
+#include "afxvisualmanager.h"
+#include "ribbon/bar_parts.h"
+
+using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
+
+IMPLEMENT_DYNCREATE(CMFCRibbonPanel, CObject)
+
+namespace {
+
+RibbonSize ToRibbonSize(const CSize& size) { return {static_cast<int>(size.cx), static_cast<int>(size.cy)}; }
+
+RibbonElementFlow FlowOf(CMFCRibbonBaseElement& element, bool hasLarge, bool hasSmaller) {
+    if (hasLarge) {
+        return hasSmaller ? RibbonElementFlow::Column : RibbonElementFlow::WholeHeight;
+    }
+    if (element.IsSeparator() || element.IsWholeRowHeight()) {
+        return RibbonElementFlow::WholeHeight;
+    }
+    return element.IsAlignByColumn() ? RibbonElementFlow::Column : RibbonElementFlow::Row;
+}
+
+RibbonElementShape ShapeOf(CMFCRibbonBaseElement& element, CDC* pDC) {
+    RibbonElementShape shape;
+    if (!element.IsVisible()) {
+        shape.flow = RibbonElementFlow::Hidden;
+        return shape;
+    }
+    element.SetInitialMode();
+    element.OnCalcTextSize(pDC);
+    shape.hasLarge = element.HasLargeMode() != FALSE;
+    shape.hasCompact = element.HasCompactMode() != FALSE;
+    const bool hasIntermediate = element.HasIntermediateMode() != FALSE;
+    shape.hasIntermediate = hasIntermediate || !shape.hasLarge;
+    const RibbonSize regular = ToRibbonSize(element.GetRegularSize(pDC));
+    shape.large = regular;
+    shape.intermediate = hasIntermediate ? ToRibbonSize(element.GetIntermediateSize(pDC)) : regular;
+    shape.compact = shape.hasCompact ? ToRibbonSize(element.GetCompactSize(pDC)) : shape.intermediate;
+    shape.flow = FlowOf(element, shape.hasLarge, hasIntermediate || shape.hasCompact);
+    return shape;
+}
+
+void SetMode(CMFCRibbonBaseElement& element, RibbonElementMode mode) {
+    element.SetCompactMode(mode == RibbonElementMode::Compact);
+    element.SetIntermediateMode(mode == RibbonElementMode::Intermediate);
+}
+
+} // namespace
+
+CMFCRibbonPanel::CMFCRibbonPanel(LPCTSTR lpszName, HICON hIcon) : m_rect(0, 0, 0, 0), m_rectCaption(0, 0, 0, 0) {
+    CommonInit(nullptr, lpszName, hIcon);
+}
+
+CMFCRibbonPanel::~CMFCRibbonPanel() {
+    for (INT_PTR index = 0; index < m_arElements.GetSize(); ++index) {
+        delete m_arElements[index];
+    }
+}
+
+void CMFCRibbonPanel::CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON icon) {
+    m_pParent = parent;
+    m_strName = name;
+    m_btnDefault.SetText(name);
+    m_btnDefault.SetPanelIcon(icon);
+    m_btnDefault.SetParentPanel(this);
+    m_btnDefault.SetParentCategory(parent);
+}
+
+void CMFCRibbonPanel::MarkLayoutDirty() {
+    if (m_pParent != nullptr) {
+        m_pParent->MarkLayoutDirty();
+    }
+}
+
+// ---- elements
+
+void CMFCRibbonPanel::Adopt(CMFCRibbonBaseElement* element) {
+    element->SetParentPanel(this);
+    element->SetParentCategory(m_pParent);
+    element->SetInitialMode();
+    MarkLayoutDirty();
+}
+
+void CMFCRibbonPanel::Add(CMFCRibbonBaseElement* pElem) { Insert(pElem, GetCount()); }
+
+BOOL CMFCRibbonPanel::Insert(CMFCRibbonBaseElement* pElem, int nIndex) {
+    if (nIndex == -1) {
+        nIndex = GetCount();
+    }
+    if (pElem == nullptr || nIndex < 0 || nIndex > GetCount()) {
+        return FALSE;
+    }
+    m_arElements.InsertAt(nIndex, pElem);
+    Adopt(pElem);
+    return TRUE;
+}
+
+// A separator in front of everything would separate nothing.
+void CMFCRibbonPanel::AddSeparator() {
+    if (GetCount() > 0) {
+        Add(new CMFCRibbonSeparator);
+    }
+}
+
+BOOL CMFCRibbonPanel::InsertSeparator(int nIndex) {
+    auto separator = std::make_unique<CMFCRibbonSeparator>();
+    if (!Insert(separator.get(), nIndex)) {
+        return FALSE;
+    }
+    separator.release(); // the panel owns it from here
+    return TRUE;
+}
+
+BOOL CMFCRibbonPanel::Remove(int nIndex, BOOL bDelete) {
+    CMFCRibbonBaseElement* element = GetElement(nIndex);
+    if (element == nullptr) {
+        return FALSE;
+    }
+    m_arElements.RemoveAt(nIndex);
+    if (bDelete) {
+        delete element;
+    } else {
+        // The bar forgets what it knows of it while the element still names the bar.
+        if (CMFCRibbonBar* bar = element->GetParentRibbonBar()) {
+            bar->OnElementDestroyed(element);
+        }
+        element->DestroyCtrl();
+        element->SetParentPanel(nullptr);
+        element->SetParentCategory(nullptr);
+    }
+    MarkLayoutDirty();
+    return TRUE;
+}
+
+void CMFCRibbonPanel::RemoveAll() {
+    ElementArray elements;
+    elements.Copy(m_arElements);
+    m_arElements.RemoveAll();
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        delete elements[index];
+    }
+    MarkLayoutDirty();
+}
+
+BOOL CMFCRibbonPanel::Replace(int nIndex, CMFCRibbonBaseElement* pElem) {
+    CMFCRibbonBaseElement* former = GetElement(nIndex);
+    if (former == nullptr || pElem == nullptr) {
+        return FALSE;
+    }
+    m_arElements[nIndex] = pElem;
+    delete former;
+    Adopt(pElem);
+    return TRUE;
+}
+
+BOOL CMFCRibbonPanel::ReplaceByID(UINT uiCmdID, CMFCRibbonBaseElement* pElem) {
+    for (int index = 0; index < GetCount(); ++index) {
+        if (GetElement(index)->GetID() == uiCmdID) {
+            return Replace(index, pElem);
+        }
+    }
+    return FALSE;
+}
+
+int CMFCRibbonPanel::GetCount() const { return static_cast<int>(m_arElements.GetSize()); }
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::GetElement(int nIndex) const {
+    return nIndex >= 0 && nIndex < GetCount() ? m_arElements[nIndex] : nullptr;
+}
+
+int CMFCRibbonPanel::GetIndex(CMFCRibbonBaseElement* pElem) const {
+    for (int index = 0; index < GetCount(); ++index) {
+        if (m_arElements[index] == pElem) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+BOOL CMFCRibbonPanel::HasElement(const CMFCRibbonBaseElement* pElem) const {
+    for (int index = 0; index < GetCount(); ++index) {
+        if (m_arElements[index]->Find(pElem) != nullptr) {
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::FindByID(UINT uiCmdID) const {
+    for (int index = 0; index < GetCount(); ++index) {
+        if (CMFCRibbonBaseElement* found = m_arElements[index]->FindByID(uiCmdID)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::FindByData(DWORD_PTR dwData) const {
+    for (int index = 0; index < GetCount(); ++index) {
+        if (CMFCRibbonBaseElement* found = m_arElements[index]->FindByData(dwData)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+void CMFCRibbonPanel::GetElements(ElementArray& arElements) {
+    for (int index = 0; index < GetCount(); ++index) {
+        m_arElements[index]->GetElements(arElements);
+    }
+}
+
+void CMFCRibbonPanel::GetElementsByID(UINT uiCmdID, ElementArray& arElements) {
+    for (int index = 0; index < GetCount(); ++index) {
+        m_arElements[index]->GetElementsByID(uiCmdID, arElements);
+    }
+}
+
+void CMFCRibbonPanel::GetVisibleElements(ElementArray& arElements) {
+    if (m_bCollapsed) {
+        arElements.Add(&m_btnDefault);
+        return;
+    }
+    for (int index = 0; index < GetCount(); ++index) {
+        if (!m_arElements[index]->GetRect().IsRectEmpty()) {
+            m_arElements[index]->GetElements(arElements);
+        }
+    }
+}
+
+void CMFCRibbonPanel::GetItemIDsList(CList<UINT, UINT>& lstItems) const {
+    ElementArray elements;
+    const_cast<CMFCRibbonPanel*>(this)->GetElements(elements);
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        if (elements[index]->GetID() != 0 && elements[index]->GetID() != static_cast<UINT>(-1)) {
+            lstItems.AddTail(elements[index]->GetID());
+        }
+    }
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::GetDroppedDown() const {
+    if (m_btnDefault.IsDroppedDown()) {
+        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
+    }
+    for (int index = 0; index < GetCount(); ++index) {
+        if (CMFCRibbonBaseElement* dropped = m_arElements[index]->GetDroppedDown()) {
+            return dropped;
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::GetFocused() const {
+    if (m_btnDefault.IsFocused()) {
+        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
+    }
+    ElementArray elements;
+    const_cast<CMFCRibbonPanel*>(this)->GetElements(elements);
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        if (elements[index]->IsFocused()) {
+            return elements[index];
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::GetHighlighted() const {
+    if (m_btnDefault.IsHighlighted()) {
+        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
+    }
+    for (int index = 0; index < GetCount(); ++index) {
+        if (CMFCRibbonBaseElement* highlighted = m_arElements[index]->GetHighlighted()) {
+            return highlighted;
+        }
+    }
+    return nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::GetPressed() const {
+    if (m_btnDefault.IsPressed()) {
+        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
+    }
+    for (int index = 0; index < GetCount(); ++index) {
+        if (CMFCRibbonBaseElement* pressed = m_arElements[index]->GetPressed()) {
+            return pressed;
+        }
+    }
+    return nullptr;
+}
+
+void CMFCRibbonPanel::SetFocused(CMFCRibbonBaseElement* pNewFocus) {
+    CMFCRibbonBaseElement* former = GetFocused();
+    if (former == pNewFocus) {
+        return;
+    }
+    if (former != nullptr) {
+        former->SetFocused(FALSE);
+    }
+    if (pNewFocus != nullptr) {
+        pNewFocus->SetFocused(TRUE);
+    }
+}
+
+void CMFCRibbonPanel::SetKeys(LPCTSTR lpszKeys) {
+    m_strKeys = lpszKeys;
+    m_btnDefault.SetKeys(lpszKeys);
+}
+
+// ---- place and look
+
+BOOL CMFCRibbonPanel::IsWindows7Look() const { return m_pParent != nullptr && m_pParent->IsWindows7Look(); }
+
+void CMFCRibbonPanel::SetCenterColumnVert(BOOL bSet) {
+    m_bCenterColumnVert = bSet;
+    MarkLayoutDirty();
+}
+
+void CMFCRibbonPanel::SetJustifyColumns(BOOL bSet) {
+    m_bJustifyColumns = bSet;
+    MarkLayoutDirty();
+}
+
+RibbonPanelShape CMFCRibbonPanel::Measure(CDC* pDC, const RibbonMetrics& /*metrics*/) {
+    RibbonPanelShape shape;
+    shape.elements.reserve(static_cast<size_t>(GetCount()));
+    for (int index = 0; index < GetCount(); ++index) {
+        shape.elements.push_back(ShapeOf(*m_arElements[index], pDC));
+    }
+    RibbonFontScope font(*pDC);
+    shape.captionWidth = pDC->GetTextExtent(m_strName).cx;
+    m_btnDefault.OnCalcTextSize(pDC);
+    shape.collapsedWidth = m_btnDefault.GetRegularSize(pDC).cx;
+    shape.centerColumns = m_bCenterColumnVert != FALSE;
+    shape.justifyColumns = m_bJustifyColumns != FALSE;
+    return shape;
+}
+
+void CMFCRibbonPanel::Place(CDC* pDC, const RibbonPanelArrangement& arrangement, CPoint origin,
+                            const RibbonMetrics& /*metrics*/) {
+    const CRect none(0, 0, 0, 0);
+    m_bCollapsed = arrangement.collapsed;
+    m_rect = CRect(origin, CSize(arrangement.width, arrangement.height));
+    m_rectCaption = m_bCollapsed ? none : ToCRect(arrangement.caption) + origin;
+    m_btnDefault.SetRect(m_bCollapsed ? m_rect : none);
+    m_btnDefault.OnAfterChangeRect(pDC);
+    for (int index = 0; index < GetCount(); ++index) {
+        CMFCRibbonBaseElement& element = *m_arElements[index];
+        const RibbonPlacedElement& place = arrangement.elements[static_cast<size_t>(index)];
+        SetMode(element, place.mode);
+        element.SetRect(place.rect.IsEmpty() ? none : ToCRect(place.rect) + origin);
+        element.OnAfterChangeRect(pDC);
+        element.OnShow(!place.rect.IsEmpty());
+    }
+}
+
+void CMFCRibbonPanel::Hide(CDC* pDC) {
+    const CRect none(0, 0, 0, 0);
+    m_bHighlighted = FALSE;
+    if (m_rect.IsRectEmpty()) {
+        return;
+    }
+    m_rect = m_rectCaption = none;
+    m_btnDefault.SetRect(none);
+    for (int index = 0; index < GetCount(); ++index) {
+        CMFCRibbonBaseElement& element = *m_arElements[index];
+        element.SetRect(none);
+        element.OnAfterChangeRect(pDC);
+        element.OnShow(FALSE);
+    }
+}
+
+void CMFCRibbonPanel::DoPaint(CDC* pDC) {
+    if (m_rect.IsRectEmpty() || !pDC->RectVisible(m_rect)) {
+        return;
+    }
+    if (m_bCollapsed) {
+        m_btnDefault.OnDraw(pDC);
+        return;
+    }
+    CMFCVisualManager* manager = CMFCVisualManager::GetInstance();
+    const COLORREF color = manager->OnDrawRibbonPanel(pDC, this, m_rect, m_rectCaption);
+    const COLORREF previous = pDC->SetTextColor(color == static_cast<COLORREF>(-1) ? afxGlobalData.clrBarText : color);
+    manager->OnDrawRibbonPanelCaption(pDC, this, m_rectCaption);
+    for (int index = 0; index < GetCount(); ++index) {
+        CMFCRibbonBaseElement& element = *m_arElements[index];
+        if (!element.GetRect().IsRectEmpty() && pDC->RectVisible(element.GetRect())) {
+            element.OnDraw(pDC);
+        }
+    }
+    pDC->SetTextColor(previous);
+}
+
+// ---- pointer and command update
+
+void CMFCRibbonPanel::Highlight(BOOL bHighlight, CPoint point) {
+    const bool changes = !m_bHighlighted != !bHighlight;
+    m_bHighlighted = bHighlight;
+    CMFCRibbonBaseElement* former = GetHighlighted();
+    CMFCRibbonBaseElement* hit = bHighlight ? HitTest(point) : nullptr;
+    if (former != nullptr && former != hit) {
+        former->SetHighlighted(FALSE);
+    }
+    if (hit != nullptr && !hit->IsSeparator()) {
+        hit->SetHighlighted(TRUE);
+    }
+    CMFCRibbonBar* bar = m_pParent != nullptr ? m_pParent->GetParentRibbonBar() : nullptr;
+    if (changes && bar != nullptr && bar->GetSafeHwnd() != nullptr) {
+        bar->InvalidateRect(m_rect, FALSE);
+    }
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::HitTest(CPoint point, BOOL bCheckPanelCaption) {
+    if (!m_rect.PtInRect(point)) {
+        return nullptr;
+    }
+    if (m_bCollapsed) {
+        return &m_btnDefault;
+    }
+    if (m_rectCaption.PtInRect(point)) {
+        return bCheckPanelCaption ? &m_btnDefault : nullptr;
+    }
+    for (int index = 0; index < GetCount(); ++index) {
+        if (CMFCRibbonBaseElement* hit = m_arElements[index]->HitTest(point)) {
+            return hit;
+        }
+    }
+    return nullptr;
+}
+
+int CMFCRibbonPanel::HitTestEx(CPoint point) const {
+    for (int index = 0; index < GetCount(); ++index) {
+        if (m_arElements[index]->GetRect().PtInRect(point)) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonPanel::MouseButtonDown(CPoint point) {
+    CMFCRibbonBaseElement* hit = HitTest(point);
+    if (hit != nullptr) {
+        hit->OnLButtonDown(point);
+    }
+    return hit;
+}
+
+void CMFCRibbonPanel::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    if (m_bCollapsed || m_rect.IsRectEmpty()) {
+        return;
+    }
+    for (int index = 0; index < GetCount(); ++index) {
+        if (!m_arElements[index]->GetRect().IsRectEmpty()) {
+            m_arElements[index]->OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);
+        }
+    }
+}
+
+void CMFCRibbonPanel::OnShow(BOOL bShow) {
+    for (int index = 0; index < GetCount(); ++index) {
+        m_arElements[index]->OnShow(bShow && !m_arElements[index]->GetRect().IsRectEmpty());
+    }
+}

@@ -1,0 +1,257 @@
+#include "afxribbonquickaccesstoolbar.h"
+
+#include "afxglobals.h"
+#include "afxribbonbar.h"
+#include "afxvisualmanager.h"
+#include "ribbon/bar_menus.h"
+#include "ribbon/metrics.h"
+
+using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
+
+// ---- the default state
+
+CMFCRibbonQuickAccessToolBarDefaultState::CMFCRibbonQuickAccessToolBarDefaultState() = default;
+
+void CMFCRibbonQuickAccessToolBarDefaultState::AddCommand(UINT uiCmd, BOOL bIsVisible) {
+    m_arCommands.Add(uiCmd);
+    m_arVisibleState.Add(bIsVisible);
+}
+
+void CMFCRibbonQuickAccessToolBarDefaultState::CopyFrom(const CMFCRibbonQuickAccessToolBarDefaultState& src) {
+    if (&src != this) {
+        m_arCommands.Copy(src.m_arCommands);
+        m_arVisibleState.Copy(src.m_arVisibleState);
+    }
+}
+
+void CMFCRibbonQuickAccessToolBarDefaultState::RemoveAll() {
+    m_arCommands.RemoveAll();
+    m_arVisibleState.RemoveAll();
+}
+
+// ---- the button that opens the menu
+
+IMPLEMENT_DYNCREATE(CMFCRibbonQuickAccessCustomizeButton, CMFCRibbonButton)
+
+CString CMFCRibbonQuickAccessCustomizeButton::GetToolTipText() const {
+    return RibbonText(RibbonTextId::QuickAccessCustomize);
+}
+
+CSize CMFCRibbonQuickAccessCustomizeButton::GetCompactSize(CDC* /*pDC*/) {
+    const int height = afxGlobalData.ScalePixels(22);
+    return {afxGlobalData.ScalePixels(13), height};
+}
+
+void CMFCRibbonQuickAccessCustomizeButton::OnDraw(CDC* pDC) {
+    OnFillBackground(pDC);
+    OnDrawBorder(pDC);
+    const COLORREF color = CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(IsDisabled());
+    const int half = afxGlobalData.ScalePixels(3);
+    const CPoint center = m_rect.CenterPoint();
+    pDC->FillSolidRect(center.x - half, center.y - 2 * half, 2 * half - 1, std::max(half / 3, 1), color);
+    for (int row = 0; row < half; ++row) {
+        pDC->FillSolidRect(center.x - half + row, center.y - half / 2 + row, 2 * (half - row) - 1, 1, color);
+    }
+}
+
+void CMFCRibbonQuickAccessCustomizeButton::OnLButtonUp(CPoint point) {
+    CMFCRibbonBar* bar = GetTopLevelRibbonBar();
+    if (!IsPressed() || !m_rect.PtInRect(point) || bar == nullptr) {
+        return;
+    }
+    CPoint corner(m_rect.left, m_rect.bottom);
+    bar->ClientToScreen(&corner);
+    bar->OnShowRibbonQATMenu(bar, corner.x, corner.y, this);
+}
+
+// ---- the toolbar
+
+IMPLEMENT_DYNCREATE(CMFCRibbonQuickAccessToolBar, CMFCRibbonButtonsGroup)
+
+CMFCRibbonQuickAccessToolBar::CMFCRibbonQuickAccessToolBar() : m_rectCommands(0, 0, 0, 0) {}
+
+CMFCRibbonQuickAccessToolBar::~CMFCRibbonQuickAccessToolBar() = default;
+
+CMFCRibbonBaseElement* CMFCRibbonQuickAccessToolBar::MakeCopy(CMFCRibbonBaseElement& source) const {
+    if (!source.CanBeAddedToQuickAccessToolBar()) {
+        return nullptr;
+    }
+    CObject* object = source.GetRuntimeClass()->CreateObject();
+    CMFCRibbonBaseElement* copy = DYNAMIC_DOWNCAST(CMFCRibbonBaseElement, object);
+    if (copy == nullptr) {
+        delete object;
+        return nullptr;
+    }
+    copy->CopyFrom(source);
+    copy->CopyStateFrom(&source);
+    copy->SetParentCategory(source.GetParentCategory());
+    copy->SetParentRibbonBar(source.GetParentRibbonBar());
+    copy->SetParentPanel(nullptr);
+    copy->SetQATMode(TRUE);
+    copy->SetVisible(TRUE);
+    copy->SetInitialMode(TRUE);
+    copy->SetCompactMode(TRUE);
+    return copy;
+}
+
+void CMFCRibbonQuickAccessToolBar::Append(CMFCRibbonBaseElement* copy, const CMFCRibbonBaseElement* source) {
+    m_arButtons.Add(copy);
+    if (source != nullptr) {
+        m_copies[source] = copy;
+    }
+}
+
+BOOL CMFCRibbonQuickAccessToolBar::Add(CMFCRibbonBaseElement* pElem) {
+    if (pElem == nullptr || m_copies.count(pElem) != 0) {
+        return FALSE;
+    }
+    CMFCRibbonBaseElement* copy = MakeCopy(*pElem);
+    if (copy == nullptr) {
+        return FALSE;
+    }
+    Append(copy, pElem);
+    return TRUE;
+}
+
+BOOL CMFCRibbonQuickAccessToolBar::Remove(CMFCRibbonBaseElement* pElem) {
+    const auto known = m_copies.find(pElem);
+    const CMFCRibbonBaseElement* copy = known != m_copies.end() ? known->second : pElem;
+    for (int position = 0; position < GetCount(); ++position) {
+        if (m_arButtons[position] == copy) {
+            DeleteAt(position);
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+void CMFCRibbonQuickAccessToolBar::DeleteAt(int position) {
+    CMFCRibbonBaseElement* copy = m_arButtons[position];
+    m_arButtons.RemoveAt(position);
+    m_copies.erase(copy->GetOriginal());
+    delete copy;
+}
+
+void CMFCRibbonQuickAccessToolBar::OnOriginalDestroyed(const CMFCRibbonBaseElement* original) {
+    const auto known = m_copies.find(original);
+    if (known != m_copies.end()) {
+        Remove(known->second);
+    }
+}
+
+// One walk over all elements finds the originals of all commands, however many there are.
+void CMFCRibbonQuickAccessToolBar::SetCommands(CMFCRibbonBar* pRibbonBar, const CList<UINT, UINT>& lstCommands) {
+    m_copies.clear();
+    RemoveAll();
+    if (pRibbonBar == nullptr) {
+        return;
+    }
+    std::unordered_map<UINT, CMFCRibbonBaseElement*> originals;
+    for (POSITION position = lstCommands.GetHeadPosition(); position != nullptr;) {
+        originals.emplace(lstCommands.GetNext(position), nullptr);
+    }
+    for (int index = 0; index < pRibbonBar->GetCategoryCount(); ++index) {
+        ElementArray elements;
+        pRibbonBar->GetCategory(index)->GetElements(elements);
+        for (INT_PTR item = 0; item < elements.GetSize(); ++item) {
+            const auto wanted = originals.find(elements[item]->GetID());
+            if (wanted != originals.end() && wanted->second == nullptr &&
+                elements[item]->CanBeAddedToQuickAccessToolBar()) {
+                wanted->second = elements[item];
+            }
+        }
+    }
+    for (POSITION position = lstCommands.GetHeadPosition(); position != nullptr;) {
+        const UINT id = lstCommands.GetNext(position);
+        if (id == 0) {
+            auto* separator = new CMFCRibbonSeparator;
+            separator->SetParentRibbonBar(pRibbonBar);
+            separator->SetQATMode(TRUE);
+            Append(separator, nullptr);
+        } else {
+            Add(originals[id]);
+        }
+    }
+}
+
+void CMFCRibbonQuickAccessToolBar::ReplaceCommands(const CList<UINT, UINT>& lstCommands) {
+    SetCommands(GetParentRibbonBar(), lstCommands);
+}
+
+void CMFCRibbonQuickAccessToolBar::GetCommands(CList<UINT, UINT>& lstCommands) const {
+    lstCommands.RemoveAll();
+    for (int position = 0; position < GetCount(); ++position) {
+        if (!m_arButtons[position]->IsSeparator()) {
+            lstCommands.AddTail(m_arButtons[position]->GetID());
+        }
+    }
+}
+
+CSize CMFCRibbonQuickAccessToolBar::GetRegularSize(CDC* pDC) {
+    CSize total = m_btnCustomize.GetRegularSize(pDC);
+    for (int position = 0; position < GetCount(); ++position) {
+        m_arButtons[position]->OnCalcTextSize(pDC);
+        const CSize size = m_arButtons[position]->GetSize(pDC);
+        total.cx += size.cx;
+        total.cy = std::max(total.cy, size.cy);
+    }
+    return total;
+}
+
+void CMFCRibbonQuickAccessToolBar::OnAfterChangeRect(CDC* pDC) {
+    const auto place = [pDC](CMFCRibbonBaseElement& element, const CRect& rect) {
+        element.SetRect(rect);
+        element.OnAfterChangeRect(pDC);
+    };
+    const CRect none(0, 0, 0, 0);
+    m_rectCommands = CRect(m_rect.left, m_rect.top, m_rect.left, m_rect.bottom);
+    const int customizeWidth = m_btnCustomize.GetRegularSize(pDC).cx;
+    const int end = m_rect.right - customizeWidth;
+    bool full = m_rect.IsRectEmpty() != FALSE;
+    for (int position = 0; position < GetCount(); ++position) {
+        CMFCRibbonBaseElement& element = *m_arButtons[position];
+        const CSize size = element.GetSize(pDC);
+        full = full || m_rectCommands.right + size.cx > end;
+        if (full) {
+            place(element, none);
+            continue;
+        }
+        const int height = std::min<int>(size.cy, m_rect.Height());
+        const int top = m_rect.top + (m_rect.Height() - height) / 2;
+        place(element, CRect(m_rectCommands.right, top, m_rectCommands.right + size.cx, top + height));
+        m_rectCommands.right += size.cx;
+    }
+    if (m_rect.IsRectEmpty() || customizeWidth > m_rect.Width()) {
+        place(m_btnCustomize, none);
+        return;
+    }
+    const int height = std::min<int>(m_btnCustomize.GetRegularSize(pDC).cy, m_rect.Height());
+    const int top = m_rect.top + (m_rect.Height() - height) / 2;
+    place(m_btnCustomize, CRect(m_rectCommands.right, top, m_rectCommands.right + customizeWidth, top + height));
+}
+
+void CMFCRibbonQuickAccessToolBar::OnDraw(CDC* pDC) {
+    const COLORREF previous =
+        pDC->SetTextColor(CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(FALSE));
+    for (int position = 0; position < GetCount(); ++position) {
+        if (!m_arButtons[position]->GetRect().IsRectEmpty() && pDC->RectVisible(m_arButtons[position]->GetRect())) {
+            m_arButtons[position]->OnDraw(pDC);
+        }
+    }
+    if (!m_btnCustomize.GetRect().IsRectEmpty()) {
+        m_btnCustomize.OnDraw(pDC);
+    }
+    pDC->SetTextColor(previous);
+}
+
+CMFCRibbonBaseElement* CMFCRibbonQuickAccessToolBar::HitTest(CPoint point) {
+    if (!m_rect.PtInRect(point)) {
+        return nullptr;
+    }
+    for (int position = 0; position < GetCount(); ++position) {
+        if (CMFCRibbonBaseElement* hit = m_arButtons[position]->HitTest(point)) {
+            return hit;
+        }
+    }
+    return m_btnCustomize.HitTest(point);
+}
