@@ -156,8 +156,6 @@ public:
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     void OnPaneContextMenu(CWnd* pParentFrame, CPoint point) override;
 
-    CMFCRibbonBar* AsRibbonBar() override { return this; }
-
     // Extension points of this framework: elements, categories and derived bars use them.
     CToolTipCtrl* GetToolTipCtrl() const { return m_pToolTip; }
     const struct RibbonMetrics& GetMetrics() const;

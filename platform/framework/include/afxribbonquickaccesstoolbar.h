@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "afxtempl.h"
+#include "afxribbonbutton.h"
 #include "afxribbonbuttonsgroup.h"
 
 class CMFCRibbonBar;

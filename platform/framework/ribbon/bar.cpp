@@ -1,7 +1,11 @@
 #include "afxribbonbar.h"
 
 #include "afxglobals.h"
+#include "afxtooltipmanager.h"
+#include "afxvisualmanager.h"
+#include "fx/registered_messages.h"
 #include "ribbon/bar_parts.h"
+#include "fx/window_dc.h"
 #include "ribbon/paint_buffer.h"
 
 IMPLEMENT_DYNAMIC(CMFCRibbonBar, CPane)

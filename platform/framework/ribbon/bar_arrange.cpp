@@ -2,6 +2,7 @@
 #include "afxribbonbar.h"
 
 #include "afxglobals.h"
+#include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
 
 namespace {

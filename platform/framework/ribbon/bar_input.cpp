@@ -2,6 +2,8 @@
 // released; the element that loses the capture is told nothing but that it is no longer pressed.
 #include "afxribbonbar.h"
 
+#include "afxcmn.h"
+#include "fx/registered_messages.h"
 #include "ribbon/bar_parts.h"
 
 namespace {

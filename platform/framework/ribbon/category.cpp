@@ -5,6 +5,7 @@
 #include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
+#include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
