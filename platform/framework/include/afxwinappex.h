@@ -4,7 +4,6 @@
 
 #include <memory>
 
-class CContextMenuManager;
 class CFrameImpl;
 class CKeyboardManager;
 class CTooltipManager;
@@ -48,15 +47,11 @@ public:
     virtual BOOL CleanState(LPCTSTR lpszSectionName = NULL);
 
     /// FALSE: there was one already.
-    BOOL InitContextMenuManager();
     BOOL InitKeyboardManager();
     BOOL InitTooltipManager();
-    CContextMenuManager* GetContextMenuManager();
     CKeyboardManager* GetKeyboardManager();
     CTooltipManager* GetTooltipManager();
 
-    /// Shows the popup of a menu resource through the context menu manager. Screen co-ordinates.
-    virtual BOOL ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd);
     virtual BOOL OnViewDoubleClick(CWnd* pWnd, int iViewId);
     virtual BOOL OnWorkspaceIdle(CWnd*);
     BOOL IsResourceSmartUpdate() const { return m_bResourceSmartUpdate; }

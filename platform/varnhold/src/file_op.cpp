@@ -50,8 +50,6 @@ bool FileOp::FileExist(const std::wstring& path) {
     return path.find(L'\0') == std::wstring::npos && varnhold::IsFile(varnhold::ToNativePath(path));
 }
 
-bool FileOp::FileExist(const wchar_t* path) { return path && FileExist(std::wstring(path)); }
-
 ScopedAppPath::ScopedAppPath(const std::wstring& path) : m_earlier(FileOp::SetAppPathProvider(MakeProvider(path))) {}
 
 ScopedAppPath::ScopedAppPath(const wchar_t* path) : ScopedAppPath(std::wstring(path ? path : L"")) {}

@@ -37,3 +37,11 @@ public:
     UINT m_nIndexMax = 0;           ///< number of items
     CMenu* m_pParentMenu = nullptr; ///< menu that holds m_pSubMenu's item, for a menu bar's popups
 };
+
+namespace fx {
+
+/// Asks the state of every plain item of a menu that is about to open. With disableIfNoHandler, items whose command
+/// nobody handles are disabled.
+FRAMEWORK_API void UpdateMenuItems(CMenu* popup, CCmdTarget* target, BOOL disableIfNoHandler);
+
+} // namespace fx

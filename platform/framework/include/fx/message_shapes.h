@@ -5,6 +5,7 @@
 #include "fx/thread.h"
 #include "fx/menu.h"
 
+#include <bit>
 #include <type_traits>
 
 class CDC;
@@ -129,9 +130,14 @@ struct IsActivated {
     static BOOL Get(const CWnd* wnd, const Call& call) { return wnd->m_hWnd == reinterpret_cast<HWND>(call.lParam); }
 };
 
+/// Takes the signature off a handler for the table, and puts it back for the call.
 template <class Member>
 AFX_PMSG Erase(Member member) {
-    return reinterpret_cast<AFX_PMSG>(member);
+    return std::bit_cast<AFX_PMSG>(member);
+}
+template <class Handler>
+Handler Restore(AFX_PMSG member) {
+    return std::bit_cast<Handler>(member);
 }
 
 /// A window message's handler: result type and arguments. VoidResult is what a void handler answers to the sender.
@@ -140,7 +146,7 @@ struct ShapeWith {
     using Handler = Result (CWnd::*)(typename Arguments::Type...);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         CWnd* wnd = static_cast<CWnd*>(target);
-        const auto member = reinterpret_cast<Handler>(handler);
+        const auto member = Restore<Handler>(handler);
         if constexpr (std::is_void_v<Result>) {
             (wnd->*member)(Arguments::Get(wnd, call)...);
             call.result = VoidResult;
@@ -168,7 +174,7 @@ struct MouseWheelShape {
     using Handler = BOOL (CWnd::*)(UINT, short, CPoint);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         CWnd* wnd = static_cast<CWnd*>(target);
-        const auto member = reinterpret_cast<Handler>(handler);
+        const auto member = Restore<Handler>(handler);
         call.result = 0;
         return (wnd->*member)(LOWORD(call.wParam), static_cast<short>(HIWORD(call.wParam)), PointL::Get(wnd, call));
     }
@@ -179,7 +185,7 @@ struct ReflectedColourShape {
     using Handler = HBRUSH (CWnd::*)(CDC*, UINT);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         CWnd* wnd = static_cast<CWnd*>(target);
-        const auto member = reinterpret_cast<Handler>(handler);
+        const auto member = Restore<Handler>(handler);
         const HBRUSH brush = (wnd->*member)(DeviceContextW::Get(wnd, call), ControlColourKind::Get(wnd, call));
         call.result = reinterpret_cast<LRESULT>(brush);
         return brush != nullptr;
@@ -189,7 +195,7 @@ struct ReflectedColourShape {
 struct ThreadMessageShape {
     using Handler = void (CWinThread::*)(WPARAM, LPARAM);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
-        (static_cast<CWinThread*>(target)->*reinterpret_cast<Handler>(handler))(call.wParam, call.lParam);
+        (static_cast<CWinThread*>(target)->*Restore<Handler>(handler))(call.wParam, call.lParam);
         return TRUE;
     }
 };
@@ -198,20 +204,20 @@ struct ThreadMessageShape {
 struct CommandShape {
     using Handler = void (CCmdTarget::*)();
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call&) {
-        (target->*reinterpret_cast<Handler>(handler))();
+        (target->*Restore<Handler>(handler))();
         return TRUE;
     }
 };
 struct CommandExShape {
     using Handler = BOOL (CCmdTarget::*)(UINT);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
-        return (target->*reinterpret_cast<Handler>(handler))(call.id);
+        return (target->*Restore<Handler>(handler))(call.id);
     }
 };
 struct CommandRangeShape {
     using Handler = void (CCmdTarget::*)(UINT);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
-        (target->*reinterpret_cast<Handler>(handler))(call.id);
+        (target->*Restore<Handler>(handler))(call.id);
         return TRUE;
     }
 };
@@ -220,7 +226,7 @@ struct UpdateShape {
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         auto* item = static_cast<CCmdUI*>(call.extra);
         item->m_bContinueRouting = FALSE;
-        (target->*reinterpret_cast<Handler>(handler))(item);
+        (target->*Restore<Handler>(handler))(item);
         const BOOL handled = !item->m_bContinueRouting;
         item->m_bContinueRouting = FALSE;
         return handled;
@@ -230,7 +236,7 @@ struct NotifyShape {
     using Handler = void (CCmdTarget::*)(NMHDR*, LRESULT*);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         auto* notify = static_cast<AFX_NOTIFY*>(call.extra);
-        (target->*reinterpret_cast<Handler>(handler))(notify->pNMHDR, notify->pResult);
+        (target->*Restore<Handler>(handler))(notify->pNMHDR, notify->pResult);
         return TRUE;
     }
 };
@@ -238,14 +244,14 @@ struct NotifyExShape {
     using Handler = BOOL (CCmdTarget::*)(UINT, NMHDR*, LRESULT*);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         auto* notify = static_cast<AFX_NOTIFY*>(call.extra);
-        return (target->*reinterpret_cast<Handler>(handler))(call.id, notify->pNMHDR, notify->pResult);
+        return (target->*Restore<Handler>(handler))(call.id, notify->pNMHDR, notify->pResult);
     }
 };
 struct NotifyRangeShape {
     using Handler = void (CCmdTarget::*)(UINT, NMHDR*, LRESULT*);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         auto* notify = static_cast<AFX_NOTIFY*>(call.extra);
-        (target->*reinterpret_cast<Handler>(handler))(call.id, notify->pNMHDR, notify->pResult);
+        (target->*Restore<Handler>(handler))(call.id, notify->pNMHDR, notify->pResult);
         return TRUE;
     }
 };
@@ -253,14 +259,12 @@ struct NotifyReflectExShape {
     using Handler = BOOL (CCmdTarget::*)(NMHDR*, LRESULT*);
     static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call& call) {
         auto* notify = static_cast<AFX_NOTIFY*>(call.extra);
-        return (target->*reinterpret_cast<Handler>(handler))(notify->pNMHDR, notify->pResult);
+        return (target->*Restore<Handler>(handler))(notify->pNMHDR, notify->pResult);
     }
 };
 struct ControlReflectExShape {
     using Handler = BOOL (CCmdTarget::*)();
-    static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call&) {
-        return (target->*reinterpret_cast<Handler>(handler))();
-    }
+    static BOOL Invoke(CCmdTarget* target, AFX_PMSG handler, Call&) { return (target->*Restore<Handler>(handler))(); }
 };
 
 } // namespace fx

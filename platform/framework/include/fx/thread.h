@@ -70,9 +70,8 @@ protected:
     UINT m_nMsgLast = 0;
 
 private:
-    struct StartData;
-    static unsigned __stdcall ThreadEntry(void* start);
-    int RunThread(const StartData& start);
+    static unsigned __stdcall ThreadEntry(void* thread);
+    int RunThread();
     friend class CWnd;
 };
 

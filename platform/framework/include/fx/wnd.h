@@ -23,6 +23,9 @@ class CToolTipCtrl;
 class CWnd;
 struct CCreateContext;
 
+// The system's header has it as a macro of two arguments.
+#undef GetNextWindow
+
 /// Messages that the headers of older systems lack.
 #ifndef WM_DWMWINDOWMAXIMIZEDCHANGE
 #define WM_DWMWINDOWMAXIMIZEDCHANGE 0x0321
@@ -39,8 +42,9 @@ FRAMEWORK_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCurs
                                                  HICON hIcon = 0);
 /// Registers the class unless a class of that name is registered already.
 FRAMEWORK_API BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass);
-/// The window procedure of every window that has a permanent object.
-FRAMEWORK_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
+/// The window procedure of every window that has a permanent object. A CException from a handler goes to
+/// CWinThread::ProcessWndProcException; anything else that is thrown ends the program.
+FRAMEWORK_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) noexcept;
 
 namespace fx {
 
@@ -347,7 +351,7 @@ public:
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
     // Dispatch, for the framework's own window procedure and tests.
-    friend LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
+    friend LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) noexcept;
 
 protected:
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
@@ -365,8 +369,6 @@ protected:
     static const MSG* PASCAL GetCurrentMessage();
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = NULL);
-    /// TRUE when the control that sends the message handled it itself.
-    BOOL SendToControl(HWND control, UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
 
     // Message handlers. Each gives the message, with its original parameters, to DefWindowProc unless said otherwise.
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
@@ -444,7 +446,6 @@ protected:
     afx_msg void OnMouseLeave();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
-    afx_msg LRESULT OnRegisteredMouseWheel(WPARAM wParam, LPARAM lParam);
     afx_msg void OnMove(int x, int y);
     afx_msg void OnMoving(UINT nSide, LPRECT lpRect);
     afx_msg BOOL OnNcActivate(BOOL bActive);
@@ -536,6 +537,7 @@ protected:
 
 private:
     explicit CWnd(HWND special);
+    LRESULT OnTouchMessage(WPARAM wParam, LPARAM lParam);
     friend struct fx::CreationHookAccess;
     friend class fx::WindowCreationHook;
     DECLARE_MESSAGE_MAP()

@@ -26,7 +26,6 @@ public:
 
     /// True when `path` names an existing file. A folder is not a file.
     static bool FileExist(const std::wstring& path);
-    static bool FileExist(const wchar_t* path);
 };
 
 /// Sets the installation directory for as long as the object lives; for tests and tools.

@@ -55,8 +55,8 @@ public:
     static std::vector<std::wstring> Languages();
 
     /// Calls `listener` after each change of language, in the thread that changed it and in the order of registration.
-    /// A listener may add and remove listeners: one removed during the calls is not called any more, one added is
-    /// called from the next change on. Returns a number for RemoveChangeListener.
+    /// A listener may add and remove listeners; one removed during the calls is not called any more. Returns a number
+    /// for RemoveChangeListener.
     static int AddChangeListener(const ChangeListener& listener);
     static void RemoveChangeListener(int number);
 

@@ -1,0 +1,201 @@
+#include "afxwinappex.h"
+
+#include "afxkeyboardmanager.h"
+#include "afxtooltipmanager.h"
+
+IMPLEMENT_DYNAMIC(CWinAppEx, CWinApp)
+
+namespace {
+
+constexpr LPCTSTR WindowPlacementSection = L"WindowPlacement";
+constexpr LPCTSTR DefaultRegistryBase = L"Workspace";
+
+/// Serialises an object into bytes and back through an archive in memory.
+std::vector<BYTE> StoreObject(CObject& object) {
+    CMemFile file;
+    CArchive archive(&file, CArchive::store);
+    object.Serialize(archive);
+    archive.Close();
+    const UINT size = static_cast<UINT>(file.GetLength());
+    std::vector<BYTE> bytes(size);
+    file.SeekToBegin();
+    file.Read(bytes.data(), size);
+    return bytes;
+}
+
+} // namespace
+
+struct CWinAppEx::Managers {
+    std::unique_ptr<CKeyboardManager> keyboard;
+    std::unique_ptr<CTooltipManager> toolTip;
+};
+
+CWinAppEx::CWinAppEx(BOOL bResourceSmartUpdate)
+    : m_bResourceSmartUpdate(bResourceSmartUpdate), m_managers(std::make_unique<Managers>()) {
+    SetRegistryBase();
+}
+
+CWinAppEx::~CWinAppEx() = default;
+
+int CWinAppEx::ExitInstance() {
+    m_managers = std::make_unique<Managers>();
+    return CWinApp::ExitInstance();
+}
+
+LPCTSTR CWinAppEx::SetRegistryBase(LPCTSTR lpszSectionName) {
+    m_strRegSection = lpszSectionName != nullptr ? lpszSectionName : DefaultRegistryBase;
+    return m_strRegSection;
+}
+
+LPCTSTR CWinAppEx::GetRegistryBase() { return m_strRegSection; }
+
+CString CWinAppEx::GetRegSectionPath(LPCTSTR szSectionAdd) {
+    CString path = m_strRegSection;
+    if (szSectionAdd != nullptr && *szSectionAdd != 0) {
+        path += L"\\";
+        path += szSectionAdd;
+    }
+    return path;
+}
+
+int CWinAppEx::GetInt(LPCTSTR lpszEntry, int nDefault) { return GetSectionInt(L"", lpszEntry, nDefault); }
+CString CWinAppEx::GetString(LPCTSTR lpszEntry, LPCTSTR lpzDefault) {
+    return GetSectionString(L"", lpszEntry, lpzDefault);
+}
+BOOL CWinAppEx::GetBinary(LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes) {
+    return GetSectionBinary(L"", lpszEntry, ppData, pBytes);
+}
+BOOL CWinAppEx::GetObject(LPCTSTR lpszEntry, CObject& obj) { return GetSectionObject(L"", lpszEntry, obj); }
+BOOL CWinAppEx::WriteInt(LPCTSTR lpszEntry, int nValue) { return WriteSectionInt(L"", lpszEntry, nValue); }
+BOOL CWinAppEx::WriteString(LPCTSTR lpszEntry, LPCTSTR lpszValue) {
+    return WriteSectionString(L"", lpszEntry, lpszValue);
+}
+BOOL CWinAppEx::WriteBinary(LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes) {
+    return WriteSectionBinary(L"", lpszEntry, pData, nBytes);
+}
+BOOL CWinAppEx::WriteObject(LPCTSTR lpszEntry, CObject& obj) { return WriteSectionObject(L"", lpszEntry, obj); }
+
+int CWinAppEx::GetSectionInt(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, int nDefault) {
+    return static_cast<int>(GetProfileInt(GetRegSectionPath(lpszSubSection), lpszEntry, nDefault));
+}
+CString CWinAppEx::GetSectionString(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault) {
+    return GetProfileString(GetRegSectionPath(lpszSubSection), lpszEntry, lpszDefault);
+}
+BOOL CWinAppEx::GetSectionBinary(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes) {
+    return GetProfileBinary(GetRegSectionPath(lpszSubSection), lpszEntry, ppData, pBytes);
+}
+BOOL CWinAppEx::WriteSectionInt(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, int nValue) {
+    return WriteProfileInt(GetRegSectionPath(lpszSubSection), lpszEntry, nValue);
+}
+BOOL CWinAppEx::WriteSectionString(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPCTSTR lpszValue) {
+    return WriteProfileString(GetRegSectionPath(lpszSubSection), lpszEntry, lpszValue);
+}
+BOOL CWinAppEx::WriteSectionBinary(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes) {
+    return WriteProfileBinary(GetRegSectionPath(lpszSubSection), lpszEntry, pData, nBytes);
+}
+
+BOOL CWinAppEx::GetSectionObject(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, CObject& obj) {
+    LPBYTE data = nullptr;
+    UINT size = 0;
+    if (!GetSectionBinary(lpszSubSection, lpszEntry, &data, &size)) {
+        return FALSE;
+    }
+    const std::unique_ptr<BYTE[]> bytes(data);
+    try {
+        CMemFile file(bytes.get(), size);
+        CArchive archive(&file, CArchive::load);
+        obj.Serialize(archive);
+        return TRUE;
+    } catch (CArchiveException* e) {
+        // Written by another version, or damaged: as if it were not there.
+        e->Delete();
+        return FALSE;
+    }
+}
+
+BOOL CWinAppEx::WriteSectionObject(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, CObject& obj) {
+    std::vector<BYTE> bytes = StoreObject(obj);
+    return WriteSectionBinary(lpszSubSection, lpszEntry, bytes.data(), static_cast<UINT>(bytes.size()));
+}
+
+BOOL CWinAppEx::IsStateExists(LPCTSTR lpszSectionName) {
+    if (m_pszRegistryKey == nullptr) {
+        return FALSE;
+    }
+    const HKEY application = GetAppRegistryKey();
+    HKEY section = nullptr;
+    const bool exists =
+        ::RegOpenKeyEx(application, GetRegSectionPath(lpszSectionName), 0, KEY_READ, &section) == ERROR_SUCCESS;
+    if (exists) {
+        ::RegCloseKey(section);
+    }
+    ::RegCloseKey(application);
+    return exists;
+}
+
+BOOL CWinAppEx::CleanState(LPCTSTR lpszSectionName) {
+    if (m_pszRegistryKey == nullptr) {
+        return FALSE;
+    }
+    const HKEY application = GetAppRegistryKey();
+    const CString section = lpszSectionName != nullptr ? CString(lpszSectionName) : GetRegSectionPath();
+    const LONG result = DelRegTree(application, section);
+    ::RegCloseKey(application);
+    return result == ERROR_SUCCESS;
+}
+
+BOOL CWinAppEx::InitKeyboardManager() {
+    if (m_managers->keyboard != nullptr) {
+        return FALSE;
+    }
+    m_managers->keyboard = std::make_unique<CKeyboardManager>();
+    return TRUE;
+}
+
+BOOL CWinAppEx::InitTooltipManager() {
+    if (m_managers->toolTip != nullptr) {
+        return FALSE;
+    }
+    m_managers->toolTip = std::make_unique<CTooltipManager>();
+    return TRUE;
+}
+
+CKeyboardManager* CWinAppEx::GetKeyboardManager() {
+    InitKeyboardManager();
+    return m_managers->keyboard.get();
+}
+
+CTooltipManager* CWinAppEx::GetTooltipManager() {
+    InitTooltipManager();
+    return m_managers->toolTip.get();
+}
+
+BOOL CWinAppEx::OnViewDoubleClick(CWnd*, int) { return FALSE; }
+BOOL CWinAppEx::OnWorkspaceIdle(CWnd*) { return FALSE; }
+
+BOOL CWinAppEx::LoadWindowPlacement(CRect& rectNormalPosition, int& nFlags, int& nShowCmd) {
+    const CString section = GetRegSectionPath(WindowPlacementSection);
+    constexpr int Missing = INT_MIN;
+    LPBYTE data = nullptr;
+    UINT size = 0;
+    if (!GetProfileBinary(section, L"Rect", &data, &size)) {
+        return FALSE;
+    }
+    const std::unique_ptr<BYTE[]> bytes(data);
+    const int flags = static_cast<int>(GetProfileInt(section, L"Flags", Missing));
+    const int show = static_cast<int>(GetProfileInt(section, L"ShowCmd", Missing));
+    if (size != sizeof(RECT) || flags == Missing || show == Missing) {
+        return FALSE;
+    }
+    rectNormalPosition = *reinterpret_cast<const RECT*>(bytes.get());
+    nFlags = flags;
+    nShowCmd = show;
+    return TRUE;
+}
+
+BOOL CWinAppEx::StoreWindowPlacement(const CRect& rectNormalPosition, int nFlags, int nShowCmd) {
+    const CString section = GetRegSectionPath(WindowPlacementSection);
+    RECT rect = rectNormalPosition;
+    return WriteProfileBinary(section, L"Rect", reinterpret_cast<LPBYTE>(&rect), sizeof(rect)) &&
+           WriteProfileInt(section, L"Flags", nFlags) && WriteProfileInt(section, L"ShowCmd", nShowCmd);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "fx/handle_map.h"
+#include "fx/menu.h"
+#include "fx/wnd.h"
+
+class CWinThread;
+
+namespace fx {
+
+/// The tooltip that the framework shows for windows with EnableToolTips. One per thread.
+struct ToolTipState {
+    HWND control = nullptr;
+    HWND window = nullptr; ///< whose tool is registered
+    INT_PTR hit = -1;
+    TOOLINFO tool = {};
+    bool isTracking = false;
+};
+
+/// What the framework knows of one thread.
+struct ThreadState {
+    ThreadState();
+
+    CWinThread* thread = nullptr;
+    CHandleMap<CWnd, HWND> windows;
+    CHandleMap<CMenu, HMENU> menus;
+    MSG handled = {}; ///< the window message being handled: what CWnd::Default repeats
+    MSG pumped = {};  ///< the last message that the loop took from the queue
+    WindowCreationHook* creation = nullptr;
+    HMENU trackedMenu = nullptr; ///< the popup menu that is open by RunPopupMenu
+    ToolTipState toolTip;
+};
+
+ThreadState& CurrentThread();
+
+} // namespace fx
