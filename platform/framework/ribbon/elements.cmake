@@ -1,7 +1,21 @@
 # The ribbon elements.
 target_sources(framework PRIVATE
+  base_element.cpp
+  button.cpp
+  button_draw.cpp
   button_geometry.cpp
+  button_input.cpp
+  buttons_group.cpp
+  check_box.cpp
+  edit.cpp
   edit_geometry.cpp
+  edit_window.cpp
+  element_commands.cpp
+  element_metrics.cpp
+  label.cpp
+  separator.cpp
+  slider.cpp
   slider_geometry.cpp
+  sub_items.cpp
   text_break.cpp
 )

@@ -1,0 +1,299 @@
+#include <afxbaseribbonelement.h>
+
+#include <afxribbonbar.h>
+#include <afxRibbonPanel.h>
+#include <afxribboncategory.h>
+
+#include "ribbon/element_metrics.h"
+
+IMPLEMENT_DYNAMIC(CMFCRibbonBaseElement, CObject)
+
+namespace {
+
+// Text margins at 96 DPI.
+constexpr int kMarginX = 4;
+constexpr int kMarginY = 3;
+
+CSize CurrentMargin() {
+    const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
+    return {metrics.Scaled(kMarginX), metrics.Scaled(kMarginY)};
+}
+
+bool IsCommand(UINT id) { return id != 0 && id != static_cast<UINT>(-1); }
+
+} // namespace
+
+CMFCRibbonBaseElement::CMFCRibbonBaseElement() : m_rect(0, 0, 0, 0), m_szMargin(CurrentMargin()) {}
+
+CMFCRibbonBaseElement::~CMFCRibbonBaseElement() {
+    if (m_pRibbonBar != nullptr)
+        m_pRibbonBar->OnElementDestroyed(this);
+}
+
+// ---- identity and texts
+
+void CMFCRibbonBaseElement::SetID(UINT nID) { m_nID = nID; }
+
+UINT CMFCRibbonBaseElement::GetNotifyID() { return m_nID; }
+
+void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
+    const CString text = lpszText != nullptr ? lpszText : L"";
+    const int split = text.Find(L'\n');
+    if (split >= 0) {
+        m_strKeys = text.Mid(split + 1);
+        m_strText = text.Left(split);
+    } else {
+        m_strText = text;
+    }
+    CleanUpSizes();
+}
+
+void CMFCRibbonBaseElement::SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
+    m_strKeys = lpszKeys != nullptr ? lpszKeys : L"";
+    m_strMenuKeys = lpszMenuKeys != nullptr ? lpszMenuKeys : L"";
+}
+
+void CMFCRibbonBaseElement::SetToolTipText(LPCTSTR lpszText) {
+    m_strToolTip = lpszText != nullptr ? lpszText : L"";
+    UpdateTooltipInfo();
+}
+
+CString CMFCRibbonBaseElement::GetToolTipText() const { return m_strToolTip; }
+
+void CMFCRibbonBaseElement::SetDescription(LPCTSTR lpszText) {
+    m_strDescription = lpszText != nullptr ? lpszText : L"";
+    UpdateTooltipInfo();
+}
+
+CString CMFCRibbonBaseElement::GetDescription() const { return m_strDescription; }
+
+// A tip that is shown now shows the old text at the old place.
+void CMFCRibbonBaseElement::UpdateTooltipInfo() {
+    CMFCRibbonBar* bar = GetParentRibbonBar();
+    if (bar != nullptr && m_bIsHighlighted)
+        bar->PopTooltip();
+}
+
+void CMFCRibbonBaseElement::CopyFrom(const CMFCRibbonBaseElement& src) {
+    m_nID = src.m_nID;
+    m_strText = src.m_strText;
+    m_strToolTip = src.m_strToolTip;
+    m_strDescription = src.m_strDescription;
+    m_strKeys = src.m_strKeys;
+    m_strMenuKeys = src.m_strMenuKeys;
+    m_dwData = src.m_dwData;
+    m_bCompactMode = src.m_bCompactMode;
+    m_bIntermediateMode = src.m_bIntermediateMode;
+    m_bTextAlwaysOnRight = src.m_bTextAlwaysOnRight;
+    m_bIsDefaultMenuLook = src.m_bIsDefaultMenuLook;
+    m_bIsVisible = src.m_bIsVisible;
+    CleanUpSizes();
+}
+
+void CMFCRibbonBaseElement::CopyStateFrom(CMFCRibbonBaseElement* pSource) {
+    if (pSource == nullptr || pSource == this)
+        return;
+    SetDisabled(pSource->IsDisabled());
+    SetChecked(pSource->IsChecked(), pSource->IsRadio());
+    SetVisible(pSource->IsVisible());
+    SetOriginal(pSource->GetOriginal() != nullptr ? pSource->GetOriginal() : pSource);
+}
+
+void CMFCRibbonBaseElement::SetOriginal(CMFCRibbonBaseElement* pOriginal) { m_pOriginal = pOriginal; }
+
+// ---- parents
+
+void CMFCRibbonBaseElement::SetParentCategory(CMFCRibbonCategory* pParent) {
+    m_pParentCategory = pParent;
+    SetParentRibbonBar(pParent != nullptr ? pParent->GetParentRibbonBar() : nullptr);
+}
+
+void CMFCRibbonBaseElement::SetParentPanel(CMFCRibbonPanel* pPanel) { m_pParentPanel = pPanel; }
+
+CMFCRibbonPanel* CMFCRibbonBaseElement::GetParentPanel() const { return m_pParentPanel; }
+
+void CMFCRibbonBaseElement::SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) { m_pRibbonBar = pRibbonBar; }
+
+CMFCRibbonBar* CMFCRibbonBaseElement::GetParentRibbonBar() const { return m_pRibbonBar; }
+
+// A copy in a pop-up has no bar of its own; its original has.
+CMFCRibbonBar* CMFCRibbonBaseElement::GetTopLevelRibbonBar() const {
+    if (m_pRibbonBar != nullptr || m_pOriginal == nullptr)
+        return m_pRibbonBar;
+    return m_pOriginal->GetTopLevelRibbonBar();
+}
+
+void CMFCRibbonBaseElement::SetParentWnd(CWnd* pParentWnd) { m_pParentWnd = pParentWnd; }
+
+CWnd* CMFCRibbonBaseElement::GetParentWnd() const {
+    if (m_pParentWnd != nullptr)
+        return m_pParentWnd;
+    return m_pRibbonBar;
+}
+
+// ---- size
+
+CSize CMFCRibbonBaseElement::GetSize(CDC* pDC) {
+    if (m_bCompactMode && HasCompactMode())
+        return GetCompactSize(pDC);
+    if ((m_bCompactMode || m_bIntermediateMode) && HasIntermediateMode())
+        return GetIntermediateSize(pDC);
+    return GetRegularSize(pDC);
+}
+
+CSize CMFCRibbonBaseElement::GetIntermediateSize(CDC* pDC) { return GetRegularSize(pDC); }
+
+CSize CMFCRibbonBaseElement::GetCompactSize(CDC* pDC) { return GetRegularSize(pDC); }
+
+CSize CMFCRibbonBaseElement::GetImageSize(RibbonImageType /*type*/) const { return {0, 0}; }
+
+void CMFCRibbonBaseElement::OnCalcTextSize(CDC* /*pDC*/) { m_szMargin = CurrentMargin(); }
+
+void CMFCRibbonBaseElement::CleanUpSizes() {}
+
+void CMFCRibbonBaseElement::OnAfterChangeRect(CDC* /*pDC*/) { UpdateTooltipInfo(); }
+
+BOOL CMFCRibbonBaseElement::CanBeStretched() { return TRUE; }
+
+BOOL CMFCRibbonBaseElement::CanBeStretchedHorizontally() { return FALSE; }
+
+void CMFCRibbonBaseElement::StretchHorizontally() {}
+
+BOOL CMFCRibbonBaseElement::StretchToWholeRow(CDC* pDC, int nHeight) {
+    if (!IsWholeRowHeight() || m_rect.IsRectEmpty())
+        return FALSE;
+    m_rect.bottom = m_rect.top + nHeight;
+    OnAfterChangeRect(pDC);
+    return TRUE;
+}
+
+BOOL CMFCRibbonBaseElement::CanBeCompacted() const { return HasCompactMode(); }
+
+BOOL CMFCRibbonBaseElement::IsWholeRowHeight() const { return FALSE; }
+
+BOOL CMFCRibbonBaseElement::IsAlignByColumn() const { return TRUE; }
+
+BOOL CMFCRibbonBaseElement::HasLargeMode() const { return FALSE; }
+
+BOOL CMFCRibbonBaseElement::HasIntermediateMode() const { return FALSE; }
+
+BOOL CMFCRibbonBaseElement::HasCompactMode() const { return FALSE; }
+
+void CMFCRibbonBaseElement::SetInitialMode(BOOL bOneRow) {
+    m_bCompactMode = FALSE;
+    m_bIntermediateMode = HasIntermediateMode() && (bOneRow || !HasLargeMode());
+}
+
+void CMFCRibbonBaseElement::SetCompactMode(BOOL bCompactMode) { m_bCompactMode = bCompactMode && HasCompactMode(); }
+
+void CMFCRibbonBaseElement::SetIntermediateMode(BOOL bIntermediateMode) {
+    m_bIntermediateMode = bIntermediateMode && HasIntermediateMode();
+}
+
+BOOL CMFCRibbonBaseElement::IsAlwaysLargeImage() const { return FALSE; }
+
+void CMFCRibbonBaseElement::SetTextAlwaysOnRight(BOOL bSet) {
+    m_bTextAlwaysOnRight = bSet;
+    CleanUpSizes();
+}
+
+// ---- drawing and state
+
+void CMFCRibbonBaseElement::DrawImage(CDC* /*pDC*/, RibbonImageType /*type*/, CRect /*rectImage*/) {}
+
+void CMFCRibbonBaseElement::Redraw() {
+    CWnd* parent = GetParentWnd();
+    if (parent != nullptr && parent->GetSafeHwnd() != nullptr && !m_rect.IsRectEmpty())
+        parent->InvalidateRect(m_rect);
+}
+
+void CMFCRibbonBaseElement::SetVisible(BOOL bIsVisible) {
+    if (!m_bIsVisible == !bIsVisible)
+        return;
+    m_bIsVisible = bIsVisible;
+    OnShow(bIsVisible);
+}
+
+BOOL CMFCRibbonBaseElement::IsAutoRepeatMode(int& nDelay) const {
+    nDelay = 0;
+    return FALSE;
+}
+
+BOOL CMFCRibbonBaseElement::CanBeAddedToQuickAccessToolBar() const { return IsCommand(m_nID); }
+
+void CMFCRibbonBaseElement::SetHighlighted(BOOL bHighlighted) {
+    if (!m_bIsHighlighted == !bHighlighted)
+        return;
+    m_bIsHighlighted = bHighlighted;
+    OnHighlight(bHighlighted);
+    Redraw();
+}
+
+void CMFCRibbonBaseElement::SetFocused(BOOL bFocused) {
+    if (!m_bIsFocused == !bFocused)
+        return;
+    m_bIsFocused = bFocused;
+    OnSetFocus(bFocused);
+    Redraw();
+}
+
+void CMFCRibbonBaseElement::SetDisabled(BOOL bDisabled) {
+    if (!m_bIsDisabled == !bDisabled)
+        return;
+    m_bIsDisabled = bDisabled;
+    if (bDisabled)
+        m_bIsPressed = FALSE;
+    OnEnable(!bDisabled);
+    Redraw();
+}
+
+void CMFCRibbonBaseElement::SetChecked(BOOL bChecked, BOOL bIsRadio) {
+    if (!m_bIsChecked == !bChecked && !m_bIsRadio == !bIsRadio)
+        return;
+    m_bIsChecked = bChecked;
+    m_bIsRadio = bIsRadio;
+    OnCheck(bChecked);
+    Redraw();
+}
+
+void CMFCRibbonBaseElement::SetDroppedDown(CWnd* pPopup) {
+    m_pPopup = pPopup;
+    m_bIsDroppedDown = pPopup != nullptr;
+    Redraw();
+}
+
+// ---- search
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::HitTest(CPoint point) {
+    return m_bIsVisible && m_rect.PtInRect(point) ? this : nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::Find(const CMFCRibbonBaseElement* pElement) {
+    return pElement == this ? this : nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::FindByID(UINT uiCmdID) { return m_nID == uiCmdID ? this : nullptr; }
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::FindByData(DWORD_PTR dwData) {
+    return m_dwData == dwData ? this : nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::FindByOriginal(CMFCRibbonBaseElement* pOriginal) {
+    return m_pOriginal == pOriginal ? this : nullptr;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::GetDroppedDown() { return IsDroppedDown() ? this : nullptr; }
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::GetHighlighted() { return IsHighlighted() ? this : nullptr; }
+
+CMFCRibbonBaseElement* CMFCRibbonBaseElement::GetPressed() { return IsPressed() ? this : nullptr; }
+
+void CMFCRibbonBaseElement::GetElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) {
+    arElements.Add(this);
+}
+
+void CMFCRibbonBaseElement::GetElementsByID(UINT uiCmdID,
+                                            CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) {
+    if (m_nID == uiCmdID)
+        arElements.Add(this);
+}

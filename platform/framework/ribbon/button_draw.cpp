@@ -1,0 +1,129 @@
+// Drawing of a ribbon button: one road from the collected face to the device context.
+#include <afxribbonbutton.h>
+
+#include <afxglobals.h>
+#include <afxribbonbuttonsgroup.h>
+#include <afxribboncategory.h>
+#include <afxvisualmanager.h>
+
+#include "ribbon/button_face.h"
+#include "ribbon/element_metrics.h"
+
+namespace {
+
+constexpr UINT kOneLine = DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER | DT_END_ELLIPSIS;
+// Lines below a large image fit by construction; clipping the last column of an overhanging glyph would show.
+constexpr UINT kBottomLine = DT_SINGLELINE | DT_NOPREFIX | DT_TOP | DT_NOCLIP;
+
+} // namespace
+
+void CMFCRibbonButton::OnDraw(CDC* pDC) {
+    if (m_rect.IsRectEmpty())
+        return;
+    const ribbon::TextContext context(pDC);
+    const COLORREF color = ribbon::TextColor(pDC, OnFillBackground(pDC), IsDisabled());
+    const Face face = CollectFace(pDC);
+
+    if (!face.parts.image.IsEmpty())
+        DrawImage(pDC, GetFaceImageType(), ribbon::ToRect(face.parts.image));
+    DrawFaceText(pDC, face, color);
+    if (!face.parts.arrow.IsEmpty())
+        ribbon::DrawMenuArrow(pDC, face.parts.arrow, color);
+    OnDrawBorder(pDC);
+}
+
+COLORREF CMFCRibbonButton::OnFillBackground(CDC* pDC) {
+    return CMFCVisualManager::GetInstance()->OnFillRibbonButton(pDC, this);
+}
+
+void CMFCRibbonButton::OnDrawBorder(CDC* pDC) { CMFCVisualManager::GetInstance()->OnDrawRibbonButtonBorder(pDC, this); }
+
+void CMFCRibbonButton::DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText) {
+    if (m_strText.IsEmpty() || face.parts.text.IsEmpty())
+        return;
+    if (face.content.look != ribbon::ButtonLook::Large) {
+        DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.parts.text), kOneLine, clrText);
+        return;
+    }
+    const int row = ribbon::CurrentMetrics().textHeight;
+    const auto draw = [&](const CString& text, int left, int width, int top) {
+        const CRect rect(left, top, left + width, top + row);
+        DrawRibbonText(pDC, text, rect, kBottomLine, clrText);
+    };
+    const ribbon::Rect& area = face.parts.text;
+    const int center = (area.left + area.right) / 2;
+    draw(m_strText.Left(static_cast<int>(face.lines.firstLength)), center - face.lines.firstWidth / 2,
+         face.lines.firstWidth, area.top);
+    if (face.content.isArrowAlone)
+        return;
+    const int tail = face.parts.arrow.IsEmpty() ? 0 : ribbon::BottomArrowWidth(ribbon::CurrentMetrics());
+    draw(m_strText.Mid(static_cast<int>(face.lines.secondStart)), center - (face.lines.secondWidth + tail) / 2,
+         face.lines.secondWidth, area.top + row);
+}
+
+CSize CMFCRibbonButton::DrawBottomText(CDC* pDC, BOOL bCalcOnly) {
+    const ribbon::TextContext context(pDC);
+    Face face;
+    face.content = CollectContent(pDC, TRUE, FALSE, face.lines);
+    const int rows = face.content.isArrowAlone && !HasMenu() ? 1 : 2;
+    if (!bCalcOnly && pDC != nullptr) {
+        face.parts = ribbon::PlaceButton(ribbon::FromRect(m_rect), face.content, ribbon::CurrentMetrics());
+        DrawFaceText(pDC, face, static_cast<COLORREF>(-1));
+    }
+    return {face.content.bottomTextWidth, rows * ribbon::CurrentMetrics().textHeight};
+}
+
+int CMFCRibbonButton::DrawRibbonText(CDC* pDC, const CString& strText, CRect rectText, UINT uiDTFlags,
+                                     COLORREF clrText) {
+    if (clrText == static_cast<COLORREF>(-1))
+        return pDC->DrawText(strText, rectText, uiDTFlags);
+    const COLORREF old = pDC->SetTextColor(clrText);
+    const int height = pDC->DrawText(strText, rectText, uiDTFlags);
+    pDC->SetTextColor(old);
+    return height;
+}
+
+// ---- image
+
+void CMFCRibbonButton::DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
+    if (rectImage.IsRectEmpty() || DrawIconImage(pDC, type, rectImage) || DrawListImage(pDC, type, rectImage))
+        return;
+    if (m_pOriginal != nullptr && m_pOriginal != this)
+        m_pOriginal->DrawImage(pDC, type, rectImage);
+}
+
+// An icon of a disabled button goes through an image list, which knows how to grey it.
+BOOL CMFCRibbonButton::DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
+    const bool isLarge = type == RibbonImageLarge;
+    HICON icon = GetIcon(isLarge);
+    if (icon == nullptr)
+        return FALSE;
+    if (!IsDisabled()) {
+        const CWnd* parent = GetParentWnd();
+        const bool isMirrored =
+            parent != nullptr && (::GetWindowLongW(parent->GetSafeHwnd(), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+        return ::DrawIconEx(pDC->GetSafeHdc(), rectImage.left, rectImage.top, icon, rectImage.Width(),
+                            rectImage.Height(), 0, nullptr, DI_NORMAL | (isMirrored ? DI_NOMIRROR : 0));
+    }
+    CMFCToolBarImages images;
+    images.SetImageSize(isLarge ? CSize(32, 32) : CSize(16, 16));
+    const int index = images.AddIcon(icon, m_bAlphaBlendIcon || afxGlobalData.Is32BitIcons());
+    CAfxDrawState state;
+    if (index < 0 || !images.PrepareDrawImage(state, rectImage.Size()))
+        return FALSE;
+    const BOOL isDrawn = images.Draw(pDC, rectImage.left, rectImage.top, index, FALSE, TRUE);
+    images.EndDrawImage(state);
+    return isDrawn;
+}
+
+BOOL CMFCRibbonButton::DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
+    const bool isLarge = type == RibbonImageLarge;
+    const int index = GetImageIndex(isLarge);
+    if (index < 0)
+        return FALSE;
+    if (m_pParentGroup != nullptr && m_pParentGroup->HasImages() && !isLarge) {
+        m_pParentGroup->OnDrawImage(pDC, rectImage, this, index);
+        return TRUE;
+    }
+    return m_pParentCategory != nullptr && m_pParentCategory->OnDrawImage(pDC, rectImage, this, isLarge, index, TRUE);
+}

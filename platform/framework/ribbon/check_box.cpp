@@ -1,0 +1,33 @@
+#include <afxribboncheckbox.h>
+
+#include <afxvisualmanager.h>
+
+#include "ribbon/edit_geometry.h"
+#include "ribbon/element_metrics.h"
+
+IMPLEMENT_DYNCREATE(CMFCRibbonCheckBox, CMFCRibbonButton)
+
+CMFCRibbonCheckBox::CMFCRibbonCheckBox(UINT nID, LPCTSTR lpszText) : CMFCRibbonButton(nID, lpszText) {}
+
+CSize CMFCRibbonCheckBox::GetRegularSize(CDC* pDC) {
+    const ribbon::Size text = ribbon::TextContext(pDC).Measure({GetText(), wcslen(GetText())});
+    return ribbon::ToSize(ribbon::MeasureCheckBox(text, ribbon::CurrentMetrics()));
+}
+
+CSize CMFCRibbonCheckBox::GetIntermediateSize(CDC* pDC) { return GetRegularSize(pDC); }
+
+CSize CMFCRibbonCheckBox::GetCompactSize(CDC* pDC) { return GetRegularSize(pDC); }
+
+void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
+    if (m_rect.IsRectEmpty())
+        return;
+    const ribbon::TextContext context(pDC);
+    const ribbon::Size text = context.Measure({GetText(), wcslen(GetText())});
+    const ribbon::CheckBoxFace face = ribbon::PlaceCheckBox(ribbon::FromRect(m_rect), text, ribbon::CurrentMetrics());
+    CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(pDC, ribbon::ToRect(face.box), IsChecked() ? 1 : 0,
+                                                       IsHighlighted(), IsPressed(), !IsDisabled());
+    if (!face.text.IsEmpty())
+        DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.text),
+                       DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS,
+                       ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
+}

@@ -1,0 +1,116 @@
+// Commands, input hooks and command updates of ribbon elements.
+#include <afxbaseribbonelement.h>
+
+#include <afxribbonbar.h>
+
+namespace {
+
+bool IsCommand(UINT id) { return id != 0 && id != static_cast<UINT>(-1); }
+
+CWnd* OwnerOf(CWnd& window) {
+    CWnd* owner = window.GetOwner();
+    return owner != nullptr ? owner : &window;
+}
+
+} // namespace
+
+CWnd* CMFCRibbonBaseElement::GetCommandTarget() const {
+    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr && bar->GetSafeHwnd() != nullptr)
+        return OwnerOf(*bar);
+    CWnd* parent = GetParentWnd();
+    return parent != nullptr && parent->GetSafeHwnd() != nullptr ? OwnerOf(*parent) : nullptr;
+}
+
+// The handler of the command may delete this element: nothing here looks at it after sending.
+BOOL CMFCRibbonBaseElement::NotifyCommand(BOOL bWithDelay) {
+    const UINT id = GetNotifyID();
+    if (!IsCommand(id) || IsDisabled())
+        return FALSE;
+    CWnd* target = GetCommandTarget();
+    if (target == nullptr || target->GetSafeHwnd() == nullptr)
+        return FALSE;
+    if (bWithDelay)
+        return ::PostMessageW(target->GetSafeHwnd(), WM_COMMAND, id, 0);
+    ::SendMessageW(target->GetSafeHwnd(), WM_COMMAND, id, 0);
+    return TRUE;
+}
+
+void CMFCRibbonBaseElement::PostMenuCommand(UINT uiCmdId) {
+    CWnd* target = GetCommandTarget();
+    if (target != nullptr && IsCommand(uiCmdId))
+        ::PostMessageW(target->GetSafeHwnd(), WM_COMMAND, uiCmdId, 0);
+}
+
+void CMFCRibbonBaseElement::OnShowPopupMenu() {
+    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr)
+        bar->PopTooltip();
+}
+
+void CMFCRibbonBaseElement::ClosePopupMenu() {
+    CWnd* popup = m_pPopup;
+    SetDroppedDown(nullptr);
+    if (popup != nullptr && popup->GetSafeHwnd() != nullptr)
+        ::SendMessageW(popup->GetSafeHwnd(), WM_CLOSE, 0, 0);
+}
+
+void CMFCRibbonBaseElement::DestroyCtrl() {}
+void CMFCRibbonBaseElement::OnMenuCommandHook(int /*nCommand*/) {}
+
+void CMFCRibbonBaseElement::OnMouseMove(CPoint /*point*/) {}
+void CMFCRibbonBaseElement::OnLButtonDown(CPoint /*point*/) {}
+void CMFCRibbonBaseElement::OnLButtonUp(CPoint /*point*/) {}
+
+// The second press of a double click is a press.
+void CMFCRibbonBaseElement::OnLButtonDblClk(CPoint point) { OnLButtonDown(point); }
+
+BOOL CMFCRibbonBaseElement::OnAutoRepeat() { return FALSE; }
+
+BOOL CMFCRibbonBaseElement::OnKey(BOOL /*bIsMenuKey*/) { return FALSE; }
+
+BOOL CMFCRibbonBaseElement::OnMenuKey(UINT /*nUpperChar*/) { return FALSE; }
+
+BOOL CMFCRibbonBaseElement::OnProcessKey(UINT /*nChar*/) { return FALSE; }
+
+void CMFCRibbonBaseElement::OnSetFocus(BOOL /*bSet*/) {}
+void CMFCRibbonBaseElement::OnHighlight(BOOL /*bHighlight*/) {}
+void CMFCRibbonBaseElement::OnEnable(BOOL /*bEnable*/) {}
+void CMFCRibbonBaseElement::OnCheck(BOOL /*bCheck*/) {}
+void CMFCRibbonBaseElement::OnShow(BOOL /*bShow*/) {}
+void CMFCRibbonBaseElement::OnRTLChanged(BOOL /*bIsRTL*/) {}
+
+void CMFCRibbonBaseElement::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    if (pCmdUI == nullptr || !IsCommand(m_nID))
+        return;
+    pCmdUI->m_nID = m_nID;
+    pCmdUI->m_pUpdated = this;
+    pCmdUI->DoUpdate(pTarget, bDisableIfNoHndler);
+    pCmdUI->m_pUpdated = nullptr;
+}
+
+// ---- the update object
+
+CMFCRibbonCmdUI::CMFCRibbonCmdUI() = default;
+
+void CMFCRibbonCmdUI::Enable(BOOL bOn) {
+    m_bEnableChanged = TRUE;
+    if (m_pUpdated != nullptr)
+        m_pUpdated->SetDisabled(!bOn);
+}
+
+void CMFCRibbonCmdUI::SetCheck(int nCheck) {
+    if (m_pUpdated != nullptr)
+        m_pUpdated->SetChecked(nCheck != 0);
+}
+
+void CMFCRibbonCmdUI::SetRadio(BOOL bOn) {
+    if (m_pUpdated != nullptr)
+        m_pUpdated->SetChecked(bOn, TRUE);
+}
+
+// A new text changes sizes; the bar lays itself out at its next change. Until then the text is drawn shortened.
+void CMFCRibbonCmdUI::SetText(LPCTSTR lpszText) {
+    if (m_pUpdated == nullptr || lpszText == nullptr || CString(lpszText) == m_pUpdated->GetText())
+        return;
+    m_pUpdated->SetText(lpszText);
+    m_pUpdated->Redraw();
+}

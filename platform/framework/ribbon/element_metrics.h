@@ -1,0 +1,45 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <string_view>
+
+#include "ribbon/face_types.h"
+
+// The bridge between the geometry of ribbon elements and the window system: measures, rectangles, fonts.
+namespace ribbon {
+
+// Metrics at the current ribbon image scale and font.
+FaceMetrics CurrentMetrics();
+
+CRect ToRect(const Rect& rect);
+Rect FromRect(const CRect& rect);
+inline CSize ToSize(Size size) { return {size.width, size.height}; }
+inline Size FromSize(const CSize& size) { return {size.cx, size.cy}; }
+
+// Selects the ribbon's regular font and transparent text for its lifetime. A null context is replaced by one for
+// measuring.
+class TextContext {
+public:
+    explicit TextContext(CDC* pDC);
+    ~TextContext();
+    TextContext(const TextContext&) = delete;
+    TextContext& operator=(const TextContext&) = delete;
+
+    HDC Get() const { return m_hDC; }
+    Size Measure(std::wstring_view text) const;
+
+private:
+    HDC m_hDC = nullptr;
+    HDC m_hMeasureDC = nullptr;
+    HGDIOBJ m_hOldFont = nullptr;
+    int m_oldMode = 0;
+};
+
+// A triangle pointing down that fills the rectangle.
+void DrawMenuArrow(CDC* pDC, const Rect& rect, COLORREF color);
+
+// A colour from the visual manager, or what stands for its "default": grey when disabled, else the context's own.
+COLORREF TextColor(CDC* pDC, COLORREF color, BOOL isDisabled);
+
+} // namespace ribbon

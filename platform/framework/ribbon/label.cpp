@@ -1,0 +1,70 @@
+#include <afxRibbonLabel.h>
+
+#include <afxvisualmanager.h>
+
+#include "ribbon/element_metrics.h"
+
+IMPLEMENT_DYNCREATE(CMFCRibbonLabel, CMFCRibbonButton)
+
+namespace {
+// A multi-line label is about so many times as wide as high.
+constexpr int kMultiLineRows = 3;
+} // namespace
+
+CMFCRibbonLabel::CMFCRibbonLabel(LPCTSTR lpszText, BOOL bIsMultiLine)
+    : CMFCRibbonButton(0, lpszText), m_bIsMultiLine(bIsMultiLine) {}
+
+CMFCRibbonLabel::~CMFCRibbonLabel() = default;
+
+void CMFCRibbonLabel::CopyFrom(const CMFCRibbonBaseElement& src) {
+    CMFCRibbonButton::CopyFrom(src);
+    if (const auto* label = dynamic_cast<const CMFCRibbonLabel*>(&src); label != nullptr)
+        m_bIsMultiLine = label->m_bIsMultiLine;
+}
+
+// A multi-line label takes the width at which its text fits the panel's rows.
+CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
+    const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
+    const ribbon::TextContext context(pDC);
+    const ribbon::Size text = context.Measure({GetText(), wcslen(GetText())});
+    if (!m_bIsMultiLine || m_strText.IsEmpty())
+        return {text.width + 2 * m_szMargin.cx, metrics.RowHeight()};
+
+    CDC* dc = CDC::FromHandle(context.Get());
+    const int limit = kMultiLineRows * metrics.textHeight;
+    const int step = std::max(1, metrics.Scaled(4));
+    CRect lines(0, 0, text.width / kMultiLineRows, 0);
+    for (int width = lines.right; width <= text.width; width += step) {
+        lines = CRect(0, 0, width, 0);
+        dc->DrawText(m_strText, lines, DT_WORDBREAK | DT_NOPREFIX | DT_CALCRECT);
+        if (lines.Height() <= limit && lines.Width() <= width)
+            break;
+    }
+    return {lines.Width() + 2 * m_szMargin.cx, lines.Height() + 2 * m_szMargin.cy};
+}
+
+CSize CMFCRibbonLabel::GetIntermediateSize(CDC* pDC) { return GetRegularSize(pDC); }
+
+CSize CMFCRibbonLabel::GetCompactSize(CDC* pDC) { return GetRegularSize(pDC); }
+
+// The text has the colour that the container has set, as its background is the container's.
+void CMFCRibbonLabel::OnDraw(CDC* pDC) {
+    if (m_rect.IsRectEmpty())
+        return;
+    const ribbon::TextContext context(pDC);
+    CMFCVisualManager::GetInstance()->OnDrawRibbonLabel(pDC, this, m_rect);
+    CRect text = m_rect;
+    text.DeflateRect(m_szMargin.cx, 0);
+    UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
+    if (m_bIsMultiLine) {
+        format = DT_WORDBREAK | DT_NOPREFIX;
+        CRect needed = text;
+        const int height = pDC->DrawText(m_strText, needed, format | DT_CALCRECT);
+        text.DeflateRect(0, std::max(0, (text.Height() - height) / 2));
+    }
+    DrawRibbonText(pDC, m_strText, text, format, ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
+}
+
+void CMFCRibbonLabel::OnLButtonUp(CPoint /*point*/) { m_bIsPressed = FALSE; }
+
+void CMFCRibbonLabel::OnClick(CPoint /*point*/) {}

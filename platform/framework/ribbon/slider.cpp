@@ -1,0 +1,192 @@
+#include <afxribbonslider.h>
+
+#include <afxvisualmanager.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "ribbon/element_metrics.h"
+#include "ribbon/slider_geometry.h"
+
+IMPLEMENT_DYNCREATE(CMFCRibbonSlider, CMFCRibbonBaseElement)
+
+namespace {
+
+constexpr int kRepeatDelay = 100; // milliseconds
+
+ribbon::SliderState StateOf(const CMFCRibbonSlider& slider) {
+    return {slider.GetRangeMin(), slider.GetRangeMax(), slider.GetPos(), slider.HasZoomButtons() != FALSE};
+}
+
+ribbon::SliderFace FaceOf(const CMFCRibbonSlider& slider) {
+    return ribbon::PlaceSlider(ribbon::FromRect(slider.GetRect()), StateOf(slider), ribbon::CurrentMetrics());
+}
+
+bool IsZoomButton(RibbonSliderPart part) {
+    return part == RibbonSliderPart::Increase || part == RibbonSliderPart::Decrease;
+}
+
+} // namespace
+
+CMFCRibbonSlider::CMFCRibbonSlider(UINT nID, int nWidth) : m_nWidth(nWidth) { m_nID = nID; }
+
+void CMFCRibbonSlider::SetPos(int nPos, BOOL bRedraw) {
+    m_nPos = std::clamp(nPos, m_nMin, m_nMax);
+    if (bRedraw)
+        Redraw();
+}
+
+void CMFCRibbonSlider::SetRange(int nMin, int nMax) {
+    std::tie(m_nMin, m_nMax) = std::minmax(nMin, nMax);
+    SetPos(m_nPos);
+}
+
+void CMFCRibbonSlider::SetZoomButtons(BOOL bSet) {
+    m_bZoomButtons = bSet;
+    Redraw();
+}
+
+CSize CMFCRibbonSlider::GetRegularSize(CDC* /*pDC*/) {
+    return ribbon::ToSize(ribbon::MeasureSlider(m_nWidth, m_bZoomButtons != FALSE, ribbon::CurrentMetrics()));
+}
+
+void CMFCRibbonSlider::CopyFrom(const CMFCRibbonBaseElement& src) {
+    CMFCRibbonBaseElement::CopyFrom(src);
+    const auto* slider = dynamic_cast<const CMFCRibbonSlider*>(&src);
+    if (slider == nullptr)
+        return;
+    m_nWidth = slider->m_nWidth;
+    m_nMin = slider->m_nMin;
+    m_nMax = slider->m_nMax;
+    m_nPos = slider->m_nPos;
+    m_nZoomIncrement = slider->m_nZoomIncrement;
+    m_bZoomButtons = slider->m_bZoomButtons;
+}
+
+void CMFCRibbonSlider::OnDraw(CDC* pDC) {
+    if (m_rect.IsRectEmpty())
+        return;
+    CMFCVisualManager* visual = CMFCVisualManager::GetInstance();
+    const ribbon::SliderFace face = FaceOf(*this);
+    const auto isHot = [this](RibbonSliderPart part) { return !IsDisabled() && m_HotPart == part; };
+    const auto isPressed = [this](RibbonSliderPart part) { return !IsDisabled() && m_PressedPart == part; };
+    if (m_bZoomButtons) {
+        const auto draw = [&](RibbonSliderPart part, const ribbon::Rect& rect) {
+            visual->OnDrawRibbonSliderZoomButton(pDC, this, ribbon::ToRect(rect), part == RibbonSliderPart::Decrease,
+                                                 isHot(part), isPressed(part), IsDisabled());
+        };
+        draw(RibbonSliderPart::Decrease, face.decrease);
+        draw(RibbonSliderPart::Increase, face.increase);
+    }
+    visual->OnDrawRibbonSliderChannel(pDC, this, ribbon::ToRect(face.channel));
+    visual->OnDrawRibbonSliderThumb(pDC, this, ribbon::ToRect(face.thumb), isHot(RibbonSliderPart::Thumb),
+                                    isPressed(RibbonSliderPart::Thumb), IsDisabled());
+}
+
+// ---- input
+
+RibbonSliderPart CMFCRibbonSlider::GetPartFromPoint(CPoint point) const {
+    return ribbon::SliderPartAt(FaceOf(*this), {static_cast<int>(point.x), static_cast<int>(point.y)});
+}
+
+int CMFCRibbonSlider::GetPosFromPoint(CPoint point) const {
+    return ribbon::SliderPositionAt(ribbon::FromRect(m_rect), StateOf(*this), ribbon::CurrentMetrics(), point.x);
+}
+
+CRect CMFCRibbonSlider::GetThumbRect() const { return ribbon::ToRect(FaceOf(*this).thumb); }
+
+// The handler of the command may delete this slider; the notification comes last.
+void CMFCRibbonSlider::ChangePos(int nPos) {
+    const int pos = std::clamp(nPos, m_nMin, m_nMax);
+    if (pos == m_nPos)
+        return;
+    SetPos(pos);
+    NotifyCommand();
+}
+
+void CMFCRibbonSlider::OnMouseMove(CPoint point) {
+    if (IsDisabled())
+        return;
+    const RibbonSliderPart part = GetPartFromPoint(point);
+    if (part != m_HotPart) {
+        m_HotPart = part;
+        Redraw();
+    }
+    if (m_PressedPart == RibbonSliderPart::Thumb)
+        ChangePos(GetPosFromPoint(point));
+}
+
+void CMFCRibbonSlider::OnLButtonDown(CPoint point) {
+    if (IsDisabled())
+        return;
+    m_PressedPart = m_HotPart = GetPartFromPoint(point);
+    m_bIsPressed = m_PressedPart != RibbonSliderPart::None;
+    m_bHasRepeated = FALSE;
+    Redraw();
+}
+
+void CMFCRibbonSlider::OnLButtonUp(CPoint point) {
+    const RibbonSliderPart pressed = std::exchange(m_PressedPart, RibbonSliderPart::None);
+    const BOOL hasRepeated = std::exchange(m_bHasRepeated, FALSE);
+    m_bIsPressed = FALSE;
+    Redraw();
+    if (IsDisabled() || GetPartFromPoint(point) != pressed)
+        return;
+    switch (pressed) {
+    case RibbonSliderPart::Increase:
+        ChangePos(hasRepeated ? m_nPos : m_nPos + m_nZoomIncrement);
+        break;
+    case RibbonSliderPart::Decrease:
+        ChangePos(hasRepeated ? m_nPos : m_nPos - m_nZoomIncrement);
+        break;
+    case RibbonSliderPart::Channel:
+        ChangePos(GetPosFromPoint(point));
+        break;
+    case RibbonSliderPart::Thumb: // followed the pointer already
+    case RibbonSliderPart::None:
+        break;
+    }
+}
+
+BOOL CMFCRibbonSlider::IsAutoRepeatMode(int& nDelay) const {
+    nDelay = kRepeatDelay;
+    return IsZoomButton(m_PressedPart);
+}
+
+BOOL CMFCRibbonSlider::OnAutoRepeat() {
+    if (IsDisabled() || !IsZoomButton(m_PressedPart))
+        return FALSE;
+    if (m_HotPart != m_PressedPart)
+        return TRUE; // the pointer has left the button and may come back
+    m_bHasRepeated = TRUE;
+    ChangePos(m_PressedPart == RibbonSliderPart::Increase ? m_nPos + m_nZoomIncrement : m_nPos - m_nZoomIncrement);
+    return TRUE;
+}
+
+void CMFCRibbonSlider::OnHighlight(BOOL bHighlight) {
+    if (!bHighlight)
+        m_HotPart = RibbonSliderPart::None;
+}
+
+BOOL CMFCRibbonSlider::OnProcessKey(UINT nChar) {
+    if (IsDisabled())
+        return FALSE;
+    switch (nChar) {
+    case VK_LEFT:
+    case VK_DOWN:
+        ChangePos(m_nPos - m_nZoomIncrement);
+        return TRUE;
+    case VK_RIGHT:
+    case VK_UP:
+        ChangePos(m_nPos + m_nZoomIncrement);
+        return TRUE;
+    case VK_HOME:
+        ChangePos(m_nMin);
+        return TRUE;
+    case VK_END:
+        ChangePos(m_nMax);
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
