@@ -8,6 +8,9 @@
 
 #include <boost/lexical_cast/try_lexical_convert.hpp>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 /// One attribute on its way into the record.
@@ -16,8 +19,11 @@ struct Reading {
     std::size_t index;
     RibbonInfo& info;
     const FileDiagnostics& diagnostics;
+    /// The keyword read so far, as it stands in the file: translations are looked up under it.
+    std::string_view& keyword;
 
-    std::wstring Value() const { return node.GetAttributeValue(index); }
+    std::string_view Utf8() const { return node.GetAttributeValueUtf8(index); }
+    std::wstring Value() const { return string2wstring(Utf8()); }
     void Warn(std::string_view code, std::wstring text) const {
         if (diagnostics.IsListening())
             diagnostics.Warn(node.GetAttributePosition(index), code, std::move(text));
@@ -33,26 +39,31 @@ bool TakeText(const Reading& reading) {
     return true;
 }
 
+bool TakeKeyword(const Reading& reading) {
+    reading.keyword = reading.Utf8();
+    return TakeText<&RibbonInfo::keyword>(reading);
+}
+
 template <std::wstring RibbonInfo::*field, int number>
 bool TakeTranslation(const Reading& reading) {
     static const std::string section = "RibbonBarCfg";
     static const CMultiLanguageMgr::Fallback noFallback;
-    if (reading.info.keyword.empty())
+    if (reading.keyword.empty())
         reading.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
-    reading.info.*field =
-        CMultiLanguageMgr::translationW(wstring2String(reading.info.keyword), number, section, noFallback);
+    reading.info.*field = CMultiLanguageMgr::translationW(std::string(reading.keyword), number, section, noFallback);
     return true;
 }
 
 template <std::int32_t RibbonInfo::*field>
 bool TakeNumber(const Reading& reading) {
-    const std::wstring value = reading.Value();
+    const std::string_view value = reading.Utf8();
     std::int32_t number = 0;
-    if (!boost::conversion::try_lexical_convert(value, number)) {
+    if (!boost::conversion::try_lexical_convert(value.data(), value.size(), number)) {
         if (reading.diagnostics.IsListening())
             reading.diagnostics.Fail(
                 reading.node.GetAttributePosition(reading.index), "not-a-number",
-                L"\"" + value + L"\" is not a decimal number of 32 bits; the attributes after it are not read");
+                L"\"" + reading.Value() +
+                    L"\" is not a decimal number of 32 bits; the attributes after it are not read");
         return false;
     }
     reading.info.*field = number;
@@ -60,25 +71,25 @@ bool TakeNumber(const Reading& reading) {
 }
 
 bool TakeGroupBefore(const Reading& reading) {
-    reading.info.groupBefore = EqualsIgnoringCase(reading.Value(), L"Y");
+    reading.info.groupBefore = EqualsIgnoringCase(reading.Utf8(), "Y");
     if (reading.info.groupBefore && reading.index + 1 < reading.node.GetAttributeCount())
         reading.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
     return true;
 }
 
 bool TakeCateTab(const Reading& reading) {
-    const std::wstring value = reading.Value();
-    if (EqualsIgnoringCase(value, L"Y"))
+    const std::string_view value = reading.Utf8();
+    if (EqualsIgnoringCase(value, "Y"))
         reading.info.cateTab = true;
-    else if (EqualsIgnoringCase(value, L"N"))
+    else if (EqualsIgnoringCase(value, "N"))
         reading.info.cateTab = false;
     else
-        reading.Warn("not-yes-or-no", L"\"" + value + L"\" is neither Y nor N");
+        reading.Warn("not-yes-or-no", L"\"" + reading.Value() + L"\" is neither Y nor N");
     return true;
 }
 
 bool TakeAcceptF1(const Reading& reading) {
-    if (EqualsIgnoringCase(reading.Value(), L"N"))
+    if (EqualsIgnoringCase(reading.Utf8(), "N"))
         reading.info.acceptF1 = false;
     return true;
 }
@@ -94,35 +105,36 @@ bool TakeValueGroup(const Reading& reading) {
 }
 
 struct Attribute {
-    std::wstring_view name;
+    std::string_view name;
     Taker take;
 };
 
 constexpr Attribute attributes[] = {
-    {L"KEYWORD", TakeText<&RibbonInfo::keyword>},
-    {L"IDKEY", TakeText<&RibbonInfo::keyword>},
-    {L"NAME", TakeTranslation<&RibbonInfo::name, -1>},
-    {L"TYPE", TakeText<&RibbonInfo::type>},
-    {L"TOOLTIP", TakeTranslation<&RibbonInfo::tooltip, 0>},
-    {L"PICPATH", TakeText<&RibbonInfo::picPath>},
-    {L"PICDisPATH", TakeText<&RibbonInfo::picDisPath>},
-    {L"SIZE", TakeNumber<&RibbonInfo::size>},
-    {L"GROUPBEFORE", TakeGroupBefore},
-    {L"VALUEGROUP", TakeValueGroup},
-    {L"WIDTH", TakeNumber<&RibbonInfo::width>},
-    {L"CMD", TakeText<&RibbonInfo::cmd>},
-    {L"PARAM", TakeText<&RibbonInfo::param>},
-    {L"help", TakeText<&RibbonInfo::help>},
-    {L"CateTab", TakeCateTab},
-    {L"AcceptF1", TakeAcceptF1},
+    {"KEYWORD", TakeKeyword},
+    {"IDKEY", TakeKeyword},
+    {"NAME", TakeTranslation<&RibbonInfo::name, -1>},
+    {"TYPE", TakeText<&RibbonInfo::type>},
+    {"TOOLTIP", TakeTranslation<&RibbonInfo::tooltip, 0>},
+    {"PICPATH", TakeText<&RibbonInfo::picPath>},
+    {"PICDisPATH", TakeText<&RibbonInfo::picDisPath>},
+    {"SIZE", TakeNumber<&RibbonInfo::size>},
+    {"GROUPBEFORE", TakeGroupBefore},
+    {"VALUEGROUP", TakeValueGroup},
+    {"WIDTH", TakeNumber<&RibbonInfo::width>},
+    {"CMD", TakeText<&RibbonInfo::cmd>},
+    {"PARAM", TakeText<&RibbonInfo::param>},
+    {"help", TakeText<&RibbonInfo::help>},
+    {"CateTab", TakeCateTab},
+    {"AcceptF1", TakeAcceptF1},
 };
 
-const Attribute* FindAttribute(std::wstring_view name) {
-    for (const Attribute& attribute : attributes) {
-        if (EqualsIgnoringCase(name, attribute.name))
-            return &attribute;
-    }
-    return nullptr;
+const Attribute* FindAttribute(std::string_view name) {
+    // The length settles nearly every comparison without a call.
+    const auto* const found =
+        std::find_if(std::begin(attributes), std::end(attributes), [name](const Attribute& known) {
+            return known.name.size() == name.size() && EqualsIgnoringCase(known.name, name);
+        });
+    return found == std::end(attributes) ? nullptr : found;
 }
 
 void Reset(RibbonInfo& info) {
@@ -144,16 +156,17 @@ bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDia
     const std::size_t count = node.GetAttributeCount();
     if (count == 0)
         return false;
+    std::string_view keyword;
     for (std::size_t i = 0; i < count; ++i) {
-        const Reading reading{node, i, info, diagnostics};
+        const Reading reading{node, i, info, diagnostics, keyword};
         // Every attribute takes it back, so GROUPBEFORE counts only where it is the last one.
         info.groupBefore = false;
-        const std::wstring name = node.GetAttributeName(i);
-        if (const Attribute* attribute = FindAttribute(name)) {
+        if (const Attribute* attribute = FindAttribute(node.GetAttributeNameUtf8(i))) {
             if (!attribute->take(reading))
                 return false;
-        } else {
-            reading.Warn("unknown-attribute", L"\"" + name + L"\" is not an attribute of a ribbon file");
+        } else if (diagnostics.IsListening()) {
+            reading.Warn("unknown-attribute",
+                         L"\"" + node.GetAttributeName(i) + L"\" is not an attribute of a ribbon file");
         }
     }
     if (info.help.empty() && info.acceptF1)

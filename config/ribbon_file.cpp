@@ -29,13 +29,13 @@ private:
     /// Whether the children of the node are to be read.
     bool Read(const CXmlNodeWrapper& node, std::size_t depth) {
         RibbonRecord& parent = *m_open[depth - 1];
-        RibbonRecord record;
+        const RibbonInfo* const before = parent.children.empty() ? &parent.info : &parent.children.back().info;
+        RibbonRecord& record = AddChild(parent);
         // Panels and sub-items are read into the record that was read before them.
         if (depth == PanelDepth || depth == SubItemDepth)
-            CarryOver(parent.children.empty() ? parent.info : parent.children.back().info, record.info);
+            CarryOver(*before, record.info);
         ReadRibbonInfo(node, record.info, m_diagnostics);
-        parent.children.push_back(std::move(record));
-        m_open[depth] = &parent.children.back();
+        m_open[depth] = &record;
 
         if (depth == RowDepth)
             m_rowKind = KindOfRow(m_open[depth]->info.keyword);
@@ -46,6 +46,9 @@ private:
             m_open[depth]->children.reserve(node.GetChildCount());
         return goesDeeper;
     }
+
+    /// The children were reserved when the walk came to their parent, so no reference to one goes bad.
+    static RibbonRecord& AddChild(RibbonRecord& parent) { return parent.children.emplace_back(); }
 
     static void CarryOver(const RibbonInfo& before, RibbonInfo& info) {
         info.picDisPath = before.picDisPath;

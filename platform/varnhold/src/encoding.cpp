@@ -114,7 +114,7 @@ std::string RepairUtf8(std::string bytes) {
     // Almost every file is valid: only then is nothing copied.
     std::size_t at = 0;
     const std::string_view view = bytes;
-    while (at < view.size()) {
+    while ((at += CountAscii(view, at)) < view.size()) {
         const std::size_t start = at;
         if (NextFromUtf8(view, at) == c_replacement && view.substr(start, at - start) != "\xEF\xBF\xBD") {
             at = start;

@@ -2,6 +2,10 @@
 
 #include "src/unicode.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
 namespace varnhold {
 
 namespace {
@@ -33,6 +37,19 @@ LeadByte ReadLeadByte(unsigned char lead) {
 }
 
 } // namespace
+
+std::size_t CountAscii(std::string_view text, std::size_t at) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    const std::size_t start = at;
+    for (std::uint64_t word = 0; at + sizeof word <= text.size(); at += sizeof word) {
+        std::memcpy(&word, text.data() + at, sizeof word);
+        if (word & highBits)
+            break;
+    }
+    while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80)
+        ++at;
+    return at - start;
+}
 
 char32_t NextFromUtf8(std::string_view text, std::size_t& at) {
     const auto lead = static_cast<unsigned char>(text[at++]);
@@ -90,6 +107,8 @@ void AppendWide(std::wstring& text, char32_t c) {
 } // namespace varnhold
 
 std::string wstring2String(std::wstring_view text) {
+    if (std::all_of(text.begin(), text.end(), [](wchar_t c) { return static_cast<std::uint32_t>(c) < 0x80; }))
+        return std::string(text.begin(), text.end());
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -107,9 +126,13 @@ std::string wstring2String(std::wstring_view text) {
 }
 
 std::wstring string2wstring(std::string_view text) {
+    std::size_t at = varnhold::CountAscii(text, 0);
+    if (at == text.size())
+        return std::wstring(text.begin(), text.end());
     std::wstring result;
     result.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();)
+    result.assign(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at));
+    while (at < text.size())
         varnhold::AppendWide(result, varnhold::NextFromUtf8(text, at));
     return result;
 }

@@ -13,6 +13,9 @@ constexpr bool IsScalarValue(char32_t c) {
     return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF);
 }
 
+/// How many bytes from `at` on are ASCII, counted up to the first that is not.
+std::size_t CountAscii(std::string_view text, std::size_t at);
+
 /// Takes one code point off `text` at `at` and moves `at` behind it; `at` must be inside. A broken sequence yields
 /// U+FFFD and is skipped as far as it could have been the start of a valid one, at least one byte.
 char32_t NextFromUtf8(std::string_view text, std::size_t& at);

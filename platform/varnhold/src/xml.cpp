@@ -30,16 +30,24 @@ std::size_t CXmlNodeWrapper::GetAttributeCount() const noexcept {
     return m_tree ? m_tree->GetElement(m_element).attributeCount : 0;
 }
 
-std::wstring CXmlNodeWrapper::GetAttributeName(std::size_t index) const {
+std::string_view CXmlNodeWrapper::GetAttributeNameUtf8(std::size_t index) const noexcept {
     if (index >= GetAttributeCount())
         return {};
-    return string2wstring(m_tree->GetAttribute(m_tree->GetElement(m_element), index).name());
+    return m_tree->GetAttribute(m_tree->GetElement(m_element), index).name();
+}
+
+std::string_view CXmlNodeWrapper::GetAttributeValueUtf8(std::size_t index) const noexcept {
+    if (index >= GetAttributeCount())
+        return {};
+    return m_tree->GetAttribute(m_tree->GetElement(m_element), index).value();
+}
+
+std::wstring CXmlNodeWrapper::GetAttributeName(std::size_t index) const {
+    return string2wstring(GetAttributeNameUtf8(index));
 }
 
 std::wstring CXmlNodeWrapper::GetAttributeValue(std::size_t index) const {
-    if (index >= GetAttributeCount())
-        return {};
-    return string2wstring(m_tree->GetAttribute(m_tree->GetElement(m_element), index).value());
+    return string2wstring(GetAttributeValueUtf8(index));
 }
 
 TextPosition CXmlNodeWrapper::GetPosition() const {

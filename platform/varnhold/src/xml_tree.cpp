@@ -62,7 +62,6 @@ std::shared_ptr<const XmlTree> XmlTree::Parse(std::string bytes, BlankText blank
         failure.position = {1, 1};
         return nullptr;
     }
-    tree->IndexLines();
     if (!tree->ParseText(blanks, failure))
         return nullptr;
     return tree;
@@ -140,7 +139,7 @@ bool XmlTree::LayOutElements(const pugi::xml_node& root, XmlFailure& failure) {
     return true;
 }
 
-void XmlTree::IndexLines() {
+void XmlTree::IndexLines() const {
     m_lineStarts.push_back(0);
     std::size_t characters = 0;
     for (std::size_t i = 0; i < m_text.size(); ++i) {
@@ -164,6 +163,7 @@ std::size_t XmlTree::CountCharacters(std::size_t end) const {
 }
 
 TextPosition XmlTree::GetPosition(std::size_t offset) const {
+    std::call_once(m_linesIndexed, [this] { IndexLines(); });
     offset = std::min(offset, m_text.size());
     const auto next = std::upper_bound(m_lineStarts.begin(), m_lineStarts.end(), offset);
     const auto line = static_cast<std::size_t>(next - m_lineStarts.begin());

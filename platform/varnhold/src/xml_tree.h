@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,7 +55,7 @@ private:
     bool ParseText(BlankText blanks, XmlFailure& failure);
     bool CheckTopLevel(pugi::xml_node& root, XmlFailure& failure) const;
     bool LayOutElements(const pugi::xml_node& root, XmlFailure& failure);
-    void IndexLines();
+    void IndexLines() const;
     TextPosition GetPosition(std::size_t offset) const;
     std::size_t CountCharacters(std::size_t end) const;
 
@@ -63,8 +64,10 @@ private:
     pugi::xml_document m_document;
     std::vector<Element> m_elements;
     std::vector<pugi::xml_attribute> m_attributes;
-    std::vector<std::size_t> m_lineStarts;
-    std::vector<std::size_t> m_characterCounts; // characters before each block of the text
+    // Made when the first position is asked for: most documents are right and nobody asks.
+    mutable std::once_flag m_linesIndexed;
+    mutable std::vector<std::size_t> m_lineStarts;
+    mutable std::vector<std::size_t> m_characterCounts; // characters before each block of the text
 };
 
 /// "file:line:column: text", or "file: text" when the place is unknown.

@@ -42,6 +42,10 @@ public:
     std::wstring GetAttributeName(std::size_t index) const;
     std::wstring GetAttributeValue(std::size_t index) const;
 
+    /// The same as UTF-8, without a copy: the view is good for as long as any node of the document lives.
+    std::string_view GetAttributeNameUtf8(std::size_t index) const noexcept;
+    std::string_view GetAttributeValueUtf8(std::size_t index) const noexcept;
+
     /// Where the element's "<" and an attribute's name stand in the file.
     varnhold::TextPosition GetPosition() const;
     varnhold::TextPosition GetAttributePosition(std::size_t index) const;
