@@ -314,7 +314,9 @@ public:
     void Dump(CDumpContext& dc) const override;
     void AssertValid() const override;
 
-protected:
-    template <class Wrapper, class Handle>
-    Wrapper* SelectAs(Handle handle);
+private:
+    template <class Wrapper>
+    Wrapper* SelectAs(const CGdiObject* object);
+
+    BOOL(CALLBACK* m_abortProc)(HDC, int) = nullptr;
 };
