@@ -9,9 +9,7 @@ namespace varnhold {
 constexpr char32_t c_replacement = 0xFFFD;
 
 /// True for a code point that a text may hold: not above U+10FFFF and not a surrogate.
-constexpr bool IsScalarValue(char32_t c) {
-    return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF);
-}
+constexpr bool IsScalarValue(char32_t c) { return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF); }
 
 /// How many bytes from `at` on are ASCII, counted up to the first that is not.
 std::size_t CountAscii(std::string_view text, std::size_t at);
