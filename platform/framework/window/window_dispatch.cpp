@@ -49,6 +49,12 @@ UINT NotifyId(const NMHDR& header) {
 
 } // namespace
 
+struct fx::WindowProcAccess {
+    static LRESULT Call(CWnd& wnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        return wnd.WindowProc(message, wParam, lParam);
+    }
+};
+
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) noexcept {
     CWnd* wnd = CWnd::FromHandlePermanent(hWnd);
     if (wnd == nullptr) {
@@ -57,7 +63,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     CurrentMessageScope scope(hWnd, nMsg, wParam, lParam);
     try {
         // The object may be gone afterwards.
-        return wnd->WindowProc(nMsg, wParam, lParam);
+        return fx::WindowProcAccess::Call(*wnd, nMsg, wParam, lParam);
     } catch (CException* e) {
         const MSG message = fx::CurrentThread().handled;
         CWinThread* thread = AfxGetThread();

@@ -49,6 +49,7 @@ FRAMEWORK_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, L
 namespace fx {
 
 struct CreationHookAccess;
+struct WindowProcAccess;
 
 /// While it lives, the next window that this thread creates becomes
 /// wnd's before it gets its first message. For everything that creates windows by other means than CWnd::CreateEx.
@@ -350,8 +351,9 @@ public:
     void NotifyWinEvent(DWORD event, LONG idObjectType, LONG idObject);
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
-    // Dispatch, for the framework's own window procedure and tests.
-    friend LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) noexcept;
+    // The way of the framework's own window procedure to WindowProc. (An exported function as a friend loses its
+    // import.)
+    friend struct fx::WindowProcAccess;
 
 protected:
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
