@@ -83,6 +83,16 @@ TEST(Strings, BrokenUtf8BecomesOneReplacementForEachBrokenPiece) {
         EXPECT_EQ(string2wstring(pair.narrow), pair.wide) << ::testing::PrintToString(pair.narrow);
 }
 
+TEST(Strings, TheFirstWideCharacterMayStandAnywhere) {
+    for (std::size_t before = 0; before < 20; ++before) {
+        const std::string ascii(before, 'a');
+        const std::wstring wideAscii(before, L'a');
+        EXPECT_EQ(string2wstring(ascii + "\xE5\x9B\xBE" + ascii), wideAscii + L"\x56FE" + wideAscii);
+        EXPECT_EQ(wstring2String(wideAscii + L"\x56FE" + wideAscii), ascii + "\xE5\x9B\xBE" + ascii);
+        EXPECT_EQ(string2wstring(ascii + "\xFF" + ascii), wideAscii + L"\xFFFD" + wideAscii);
+    }
+}
+
 TEST(Strings, LoneSurrogatesBecomeReplacements) {
     const std::string replacement = "\xEF\xBF\xBD";
     const auto high = static_cast<wchar_t>(0xD83D);

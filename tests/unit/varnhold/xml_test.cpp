@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -62,6 +63,16 @@ TEST(Xml, ReferencesAndLineBreaksInValuesAreResolved) {
         Parse("<r a='&lt;&gt;&amp;&apos;&quot;&#65;&#x56FE;&#x1F600;' b='1\r\n2\t3'/>");
     EXPECT_EQ(document.GetDocumentElement().GetAttributeValue(0), L"<>&'\"A\x56FE\U0001F600");
     EXPECT_EQ(document.GetDocumentElement().GetAttributeValue(1), L"1 2 3");
+}
+
+TEST(Xml, NarrowViewsOfAttributesAreUtf8AndOutliveTheirNodeObject) {
+    const CXmlDocumentWrapper document = Parse("<r><c \xE5\x9B\xBE='\xE5\x9C\xB0&lt;'/></r>");
+    const std::string_view name = document.GetDocumentElement().GetChild(0).GetAttributeNameUtf8(0);
+    const std::string_view value = document.GetDocumentElement().GetChild(0).GetAttributeValueUtf8(0);
+    EXPECT_EQ(name, "\xE5\x9B\xBE");
+    EXPECT_EQ(value, "\xE5\x9C\xB0<");
+    EXPECT_EQ(document.GetDocumentElement().GetAttributeNameUtf8(0), "");
+    EXPECT_EQ(CXmlNodeWrapper().GetAttributeValueUtf8(0), "");
 }
 
 TEST(Xml, IndexesOutOfRangeGiveNullNodesAndEmptyTexts) {
@@ -234,7 +245,10 @@ TEST(Xml, ManyThreadsMayReadOneDocument) {
         threads.emplace_back([&document, &count] {
             const CXmlNodeWrapper root = document.GetDocumentElement();
             for (std::size_t i = 0; i < root.GetChildCount(); ++i)
-                count += root.GetChild(i).GetAttributeValue(0) == std::to_wstring(i) ? 1 : 0;
+                count += root.GetChild(i).GetAttributeValue(0) == std::to_wstring(i) &&
+                                 root.GetChild(i).GetPosition().column > 3
+                             ? 1
+                             : 0;
         });
     }
     for (std::thread& thread : threads)

@@ -42,7 +42,8 @@ public:
     std::wstring GetAttributeName(std::size_t index) const;
     std::wstring GetAttributeValue(std::size_t index) const;
 
-    /// The same as UTF-8, without a copy: the view is good for as long as any node of the document lives.
+    /// The same as UTF-8, without a copy: the view is good for as long as any node of the document lives. A character
+    /// reference to no character (a surrogate, say) leaves broken UTF-8 in it.
     std::string_view GetAttributeNameUtf8(std::size_t index) const noexcept;
     std::string_view GetAttributeValueUtf8(std::size_t index) const noexcept;
 
