@@ -200,7 +200,6 @@ private:
     void Measure(CDC* pDC);
     void Arrange(CDC* pDC);
     void ArrangeContextCaptions();
-    void HideEverything(CDC* pDC);
     void AskFrameForRoom();
     /// Tells the owner that the user chose another category.
     void NotifyCategoryChanged();

@@ -80,15 +80,22 @@ void CMFCRibbonBar::ForceRecalcLayout() {
     }
 }
 
-// The height follows from what the bar shows, its place from the frame's other bars.
+// The height follows from what the bar shows, its place from the frame's other bars. While the frame asks for the
+// height it lays out anyway.
 void CMFCRibbonBar::AskFrameForRoom() {
-    if (CFrameWnd* frame = DYNAMIC_DOWNCAST(CFrameWnd, GetDockSiteFrameWnd())) {
-        frame->RecalcLayout();
+    CFrameWnd* frame = DYNAMIC_DOWNCAST(CFrameWnd, GetDockSiteFrameWnd());
+    if (frame == nullptr || m_parts->isAskingForRoom) {
+        return;
     }
+    m_parts->isAskingForRoom = true;
+    frame->RecalcLayout();
+    m_parts->isAskingForRoom = false;
 }
 
 CSize CMFCRibbonBar::CalcFixedLayout(BOOL bStretch, BOOL /*bHorz*/) {
+    const bool wasAsking = std::exchange(m_parts->isAskingForRoom, true);
     EnsureLayout();
+    m_parts->isAskingForRoom = wasAsking;
     CRect parent(0, 0, 0, 0);
     if (CWnd* parentWindow = GetParent()) {
         parentWindow->GetClientRect(parent);

@@ -91,6 +91,7 @@ CMFCRibbonBaseElement* CMFCRibbonQuickAccessToolBar::MakeCopy(CMFCRibbonBaseElem
     copy->SetVisible(TRUE);
     copy->SetInitialMode(TRUE);
     copy->SetCompactMode(TRUE);
+    copy->SetIntermediateMode(!copy->IsCompactMode());
     return copy;
 }
 
