@@ -1,0 +1,107 @@
+#include "tests/ui/ribbon_bar/ribbon_frame.h"
+
+namespace {
+
+TEST_F(RibbonBarTest, ACategoryIsCreatedFromItsRuntimeClassAndThenInitialised) {
+    CMFCRibbonCategory* category = Bar().GetCategory(1);
+    EXPECT_TRUE(category->IsKindOf(RUNTIME_CLASS(HostCategory)));
+    EXPECT_STREQ(category->GetName(), L"View");
+    EXPECT_EQ(category->GetParentRibbonBar(), &Bar());
+    EXPECT_EQ(Bar().AddCategory(L"Wrong", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(CMFCRibbonButton)),
+              nullptr);
+    EXPECT_EQ(Bar().GetCategoryCount(), 2);
+}
+
+TEST_F(RibbonBarTest, ACategoryGoesToItsPosition) {
+    CMFCRibbonCategory* first = Bar().AddCategory(L"First", 0, 0, CSize(16, 16), CSize(32, 32), 0);
+    EXPECT_EQ(Bar().GetCategoryIndex(first), 0);
+    EXPECT_EQ(Bar().GetCategoryCount(), 3);
+    EXPECT_STREQ(Bar().GetCategory(1)->GetName(), L"Home");
+    EXPECT_EQ(Bar().GetActiveCategory(), Bar().GetCategory(1)) << "adding does not change what is shown";
+    EXPECT_EQ(Bar().GetCategory(3), nullptr);
+    EXPECT_EQ(Bar().GetCategory(-1), nullptr);
+}
+
+TEST_F(RibbonBarTest, AHiddenCategoryCannotBecomeActive) {
+    Bar().ShowCategory(1, FALSE);
+    EXPECT_EQ(Bar().GetVisibleCategoryCount(), 1);
+    EXPECT_FALSE(Bar().SetActiveCategory(Bar().GetCategory(1)));
+    EXPECT_EQ(Bar().GetActiveCategory(), Bar().GetCategory(0));
+    Bar().ShowCategory(1, TRUE);
+    EXPECT_TRUE(Bar().SetActiveCategory(Bar().GetCategory(1)));
+    EXPECT_TRUE(Bar().GetCategory(1)->IsActive());
+    EXPECT_FALSE(Bar().GetCategory(0)->IsActive());
+}
+
+TEST_F(RibbonBarTest, HidingTheActiveCategoryActivatesAnother) {
+    Bar().ShowCategory(0, FALSE);
+    EXPECT_EQ(Bar().GetActiveCategory(), Bar().GetCategory(1));
+    Bar().ShowCategory(1, FALSE);
+    EXPECT_EQ(Bar().GetActiveCategory(), nullptr);
+    Bar().ShowCategory(0, TRUE);
+    EXPECT_EQ(Bar().GetActiveCategory(), Bar().GetCategory(0));
+}
+
+TEST_F(RibbonBarTest, AHiddenCategoryHasNoTabAndIsNotSearched) {
+    Bar().ShowCategory(1, FALSE);
+    Bar().RecalcLayout();
+    EXPECT_TRUE(Bar().GetCategory(1)->GetTabRect().IsRectEmpty());
+    EXPECT_EQ(Bar().FindByID(commands::find), nullptr);
+    EXPECT_NE(Bar().FindByID(commands::find, FALSE), nullptr);
+}
+
+TEST_F(RibbonBarTest, RemovingTheActiveCategoryDeletesItAndActivatesAnother) {
+    EXPECT_FALSE(Bar().RemoveCategory(7));
+    EXPECT_TRUE(Bar().RemoveCategory(0));
+    EXPECT_EQ(Bar().GetCategoryCount(), 1);
+    EXPECT_STREQ(Bar().GetActiveCategory()->GetName(), L"View");
+    EXPECT_EQ(Bar().FindByID(commands::paste, FALSE), nullptr);
+    Bar().RemoveAllCategories();
+    EXPECT_EQ(Bar().GetActiveCategory(), nullptr);
+    PumpPending();
+}
+
+TEST_F(RibbonBarTest, OnlyTheActiveCategorysElementsHaveAPlace) {
+    EXPECT_FALSE(Element(commands::paste).GetRect().IsRectEmpty());
+    EXPECT_TRUE(Element(commands::find).GetRect().IsRectEmpty());
+    Bar().SetActiveCategory(Bar().GetCategory(1));
+    PumpPending();
+    EXPECT_TRUE(Element(commands::paste).GetRect().IsRectEmpty());
+    EXPECT_FALSE(Element(commands::find).GetRect().IsRectEmpty());
+}
+
+TEST_F(RibbonBarTest, ContextCategoriesAppearWithTheirContext) {
+    CMFCRibbonCategory* tools = Bar().AddContextCategory(L"Tools", L"Picture", 17, AFX_CategoryColor_Red, 0, 0);
+    ASSERT_NE(tools, nullptr);
+    EXPECT_FALSE(tools->IsVisible());
+    EXPECT_FALSE(Bar().ActivateContextCategory(17));
+    Bar().ShowContextCategories(17);
+    EXPECT_TRUE(Bar().ActivateContextCategory(17));
+    EXPECT_EQ(Bar().GetActiveCategory(), tools);
+    CString name;
+    EXPECT_TRUE(Bar().GetContextName(17, name));
+    EXPECT_STREQ(name, L"Picture");
+    EXPECT_TRUE(Bar().HideAllContextCategories());
+    EXPECT_FALSE(Bar().HideAllContextCategories());
+    EXPECT_EQ(Bar().GetActiveCategory(), Bar().GetCategory(0));
+}
+
+TEST_F(RibbonBarTest, APanelsElementsAreAddedReplacedAndRemoved) {
+    CMFCRibbonPanel* panel = Bar().GetCategory(1)->GetPanel(0);
+    EXPECT_FALSE(panel->Insert(nullptr, 0));
+    EXPECT_TRUE(panel->Insert(new CMFCRibbonButton(commands::bold, L"New"), 0));
+    EXPECT_EQ(panel->GetElement(0)->GetParentPanel(), panel);
+    EXPECT_EQ(panel->GetElement(0)->GetParentCategory(), Bar().GetCategory(1));
+    EXPECT_TRUE(panel->ReplaceByID(commands::bold, new CMFCRibbonButton(commands::italic, L"Newer")));
+    EXPECT_EQ(panel->GetElement(0)->GetID(), commands::italic);
+    std::unique_ptr<CMFCRibbonBaseElement> kept(panel->GetElement(0));
+    EXPECT_TRUE(panel->Remove(0, FALSE));
+    EXPECT_EQ(kept->GetParentPanel(), nullptr);
+    EXPECT_FALSE(panel->Remove(5));
+    EXPECT_EQ(panel->GetCount(), 2);
+    panel->RemoveAll();
+    EXPECT_EQ(panel->GetCount(), 0);
+    PumpPending();
+}
+
+} // namespace

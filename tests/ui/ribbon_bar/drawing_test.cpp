@@ -1,0 +1,141 @@
+#include <objidl.h>
+#include <propidl.h>
+
+#include <gdiplus.h>
+
+#include <set>
+
+#include "tests/ui/ribbon_bar/ribbon_frame.h"
+
+namespace {
+
+/// A picture of the bar in memory: 32 bits a pixel, top row first.
+class Picture {
+public:
+    explicit Picture(CMFCRibbonBar& bar) {
+        CRect client;
+        bar.GetClientRect(client);
+        m_size = client.Size();
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof(BITMAPINFOHEADER), m_size.cx, -m_size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        m_pixels = static_cast<DWORD*>(bits);
+        std::fill(m_pixels, m_pixels + m_size.cx * m_size.cy, 0xFF00FF);
+        CDC dc;
+        dc.CreateCompatibleDC(nullptr);
+        const HGDIOBJ previous = ::SelectObject(dc.GetSafeHdc(), m_bitmap);
+        bar.DoPaint(&dc);
+        ::GdiFlush();
+        ::SelectObject(dc.GetSafeHdc(), previous);
+    }
+    ~Picture() { ::DeleteObject(m_bitmap); }
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    DWORD At(int x, int y) const { return m_pixels[y * m_size.cx + x] & 0xFFFFFF; }
+    CSize Size() const { return m_size; }
+    std::set<DWORD> Colours(const CRect& rect) const {
+        std::set<DWORD> colours;
+        for (int y = rect.top; y < rect.bottom; ++y) {
+            for (int x = rect.left; x < rect.right; ++x) {
+                colours.insert(At(x, y));
+            }
+        }
+        return colours;
+    }
+
+    /// Written beside the test program for people to look at, when BARWRIGHT_PICTURES names a folder.
+    void Save(const std::wstring& name) const {
+        wchar_t folder[MAX_PATH];
+        if (::GetEnvironmentVariableW(L"BARWRIGHT_PICTURES", folder, MAX_PATH) == 0) {
+            return;
+        }
+        Gdiplus::GdiplusStartupInput input;
+        ULONG_PTR token = 0;
+        ASSERT_EQ(Gdiplus::GdiplusStartup(&token, &input, nullptr), Gdiplus::Ok);
+        {
+            Gdiplus::Bitmap bitmap(m_size.cx, m_size.cy, m_size.cx * 4, PixelFormat32bppRGB,
+                                   reinterpret_cast<BYTE*>(m_pixels));
+            const CLSID png{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
+            EXPECT_EQ(bitmap.Save((std::wstring(folder) + L"\\" + name).c_str(), &png, nullptr), Gdiplus::Ok);
+        }
+        Gdiplus::GdiplusShutdown(token);
+    }
+
+private:
+    CSize m_size;
+    HBITMAP m_bitmap = nullptr;
+    DWORD* m_pixels = nullptr;
+};
+
+TEST_F(RibbonBarTest, EveryPixelIsPainted) {
+    const Picture picture(Bar());
+    picture.Save(L"ribbon.png");
+    EXPECT_EQ(picture.Colours(CRect(CPoint(0, 0), picture.Size())).count(0xFF00FF), 0u);
+}
+
+TEST_F(RibbonBarTest, EveryElementShowsSomething) {
+    const Picture picture(Bar());
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
+    Bar().GetActiveCategory()->GetVisibleElements(elements);
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        EXPECT_GT(picture.Colours(elements[index]->GetRect()).size(), 1u)
+            << elements[index]->GetID() << ' ' << elements[index]->GetRuntimeClass()->m_lpszClassName;
+    }
+    for (int index = 0; index < Bar().GetCategoryCount(); ++index) {
+        EXPECT_GT(picture.Colours(Bar().GetCategory(index)->GetTabRect()).size(), 1u) << index;
+    }
+}
+
+TEST_F(RibbonBarTest, AHotElementLooksDifferentAndNothingElseDoes) {
+    const Picture before(Bar());
+    m_pointer.MoveTo(Bar(), CenterOf(commands::cut));
+    const Picture hot(Bar());
+    hot.Save(L"ribbon_hot.png");
+    const CRect panel = Bar().GetCategory(0)->GetPanel(0)->GetRect();
+    const CRect cut = Element(commands::cut).GetRect();
+    int inside = 0;
+    int outside = 0;
+    for (int y = 0; y < before.Size().cy; ++y) {
+        for (int x = 0; x < before.Size().cx; ++x) {
+            if (before.At(x, y) != hot.At(x, y)) {
+                cut.PtInRect(CPoint(x, y)) ? ++inside : ++outside;
+                EXPECT_TRUE(panel.PtInRect(CPoint(x, y)));
+            }
+        }
+    }
+    EXPECT_GT(inside, 0);
+}
+
+TEST_F(RibbonBarTest, ADisabledElementLooksDifferent) {
+    const Picture before(Bar());
+    Element(commands::paste).SetDisabled(TRUE);
+    const Picture after(Bar());
+    EXPECT_NE(before.Colours(Element(commands::paste).GetRect()), after.Colours(Element(commands::paste).GetRect()));
+}
+
+// Pictures for people at several widths and scales; the rules above hold in all of them.
+TEST_F(RibbonBarTest, AtEveryWidthAndScaleEveryPixelIsPainted) {
+    Bar().AddContextCategory(L"Tools", L"Picture Tools", 3, AFX_CategoryColor_Red, 0, 0);
+    CList<UINT, UINT> list;
+    for (const UINT id : {commands::paste, commands::cut, 0u, commands::find}) {
+        list.AddTail(id);
+    }
+    Bar().SetQuickAccessCommands(list);
+    for (const double scale : {1.0, 1.5}) {
+        ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(scale));
+        Bar().ForceRecalcLayout();
+        for (const int width : {1000, 560, 480, 380, 300}) {
+            SetClientWidth(width);
+            RunIdle();
+            const Picture picture(Bar());
+            picture.Save(L"ribbon_" + std::to_wstring(width) + L"_" + std::to_wstring(static_cast<int>(scale * 100)) +
+                         L".png");
+            EXPECT_EQ(picture.Colours(CRect(CPoint(0, 0), picture.Size())).count(0xFF00FF), 0u) << width;
+        }
+    }
+    afxGlobalData.SetRibbonImageScale(0);
+}
+
+} // namespace

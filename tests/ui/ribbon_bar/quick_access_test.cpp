@@ -1,0 +1,183 @@
+#include <gmock/gmock.h>
+
+#include <chrono>
+
+#include "tests/ui/ribbon_bar/ribbon_frame.h"
+
+namespace {
+
+using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class QuickAccessTest : public RibbonBarTest {
+protected:
+    void SetDefaultState(std::initializer_list<UINT> visible, std::initializer_list<UINT> others = {}) {
+        CMFCRibbonQuickAccessToolBarDefaultState state;
+        for (const UINT id : visible) {
+            state.AddCommand(id);
+        }
+        for (const UINT id : others) {
+            state.AddCommand(id, FALSE);
+        }
+        Bar().SetQuickAccessDefaultState(state);
+    }
+    void SetCommands(std::initializer_list<UINT> ids) {
+        CList<UINT, UINT> list;
+        for (const UINT id : ids) {
+            list.AddTail(id);
+        }
+        Bar().SetQuickAccessCommands(list);
+        PumpPending();
+    }
+    std::vector<UINT> Commands() {
+        CList<UINT, UINT> list;
+        Bar().GetQuickAccessCommands(list);
+        std::vector<UINT> ids;
+        for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
+            ids.push_back(list.GetNext(position));
+        }
+        return ids;
+    }
+    CMFCRibbonBaseElement* CopyOf(UINT id) {
+        ElementArray elements;
+        Bar().GetElementsByID(id, elements);
+        for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+            if (elements[index]->IsQATMode()) {
+                return elements[index];
+            }
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(QuickAccessTest, CommandsAreCopiesLinkedToTheirOriginals) {
+    SetCommands({commands::cut, commands::paste});
+    EXPECT_THAT(Commands(), ElementsAre(commands::cut, commands::paste));
+    CMFCRibbonBaseElement* copy = CopyOf(commands::paste);
+    ASSERT_NE(copy, nullptr);
+    EXPECT_NE(copy, &Element(commands::paste));
+    EXPECT_EQ(copy->GetOriginal(), &Element(commands::paste));
+    EXPECT_EQ(copy->GetRuntimeClass(), Element(commands::paste).GetRuntimeClass());
+    EXPECT_STREQ(copy->GetText(), L"Paste");
+    ElementArray both;
+    Bar().GetElementsByID(commands::paste, both);
+    EXPECT_EQ(both.GetSize(), 2);
+}
+
+TEST_F(QuickAccessTest, SeparatorsAreShownAndNotListedAndUnknownCommandsLeftOut) {
+    SetCommands({commands::cut, 0, 9999, commands::find});
+    EXPECT_THAT(Commands(), ElementsAre(commands::cut, commands::find)) << "also from categories that are not active";
+}
+
+TEST_F(QuickAccessTest, LiesAboveTheTabsAndAClickSendsTheCommand) {
+    EXPECT_TRUE(Bar().GetQuickAccessToolbarLocation().IsRectEmpty());
+    SetCommands({commands::cut, commands::paste});
+    const CRect place = Bar().GetQuickAccessToolbarLocation();
+    EXPECT_FALSE(place.IsRectEmpty());
+    EXPECT_LE(place.bottom, Bar().GetCategory(0)->GetTabRect().top);
+    const CRect rect = CopyOf(commands::paste)->GetRect();
+    EXPECT_EQ(Bar().HitTest(rect.CenterPoint()), CopyOf(commands::paste));
+    m_pointer.Click(Bar(), Center(rect));
+    PumpPending();
+    EXPECT_THAT(m_frame->commands, ElementsAre(commands::paste));
+}
+
+TEST_F(QuickAccessTest, BelowTheRibbonItLiesUnderTheCategory) {
+    SetCommands({commands::cut});
+    Bar().SetQuickAccessToolbarOnTop(FALSE);
+    Bar().RecalcLayout();
+    EXPECT_FALSE(Bar().IsQuickAccessToolbarOnTop());
+    EXPECT_GE(Bar().GetQuickAccessToolbarLocation().top, Bar().GetActiveCategory()->GetRect().bottom);
+}
+
+TEST_F(QuickAccessTest, TheDefaultStateAppliesUntilCommandsAreSet) {
+    SetDefaultState({commands::paste}, {commands::cut});
+    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
+    SetDefaultState({commands::find, commands::cut});
+    EXPECT_THAT(Commands(), ElementsAre(commands::find, commands::cut));
+    SetCommands({commands::copy});
+    SetDefaultState({commands::paste});
+    EXPECT_THAT(Commands(), ElementsAre(commands::copy));
+}
+
+TEST_F(QuickAccessTest, AnEmptyDefaultStateEmptiesTheToolbar) {
+    SetDefaultState({commands::paste});
+    SetDefaultState({});
+    EXPECT_THAT(Commands(), IsEmpty());
+    EXPECT_TRUE(Bar().IsQATEmpty());
+}
+
+TEST_F(QuickAccessTest, ADefaultStateNamedBeforeItsElementsAppliesOnceTheyAreThere) {
+    SetDefaultState({commands::closesFrame});
+    EXPECT_THAT(Commands(), IsEmpty());
+    Bar().GetCategory(0)->GetPanel(0)->Add(new CMFCRibbonButton(commands::closesFrame, L"Close"));
+    Bar().RecalcLayout();
+    EXPECT_THAT(Commands(), ElementsAre(commands::closesFrame));
+}
+
+TEST_F(QuickAccessTest, ACopyGoesWithItsOriginal) {
+    SetCommands({commands::cut, commands::paste});
+    Bar().GetCategory(0)->GetPanel(0)->Remove(0);
+    EXPECT_THAT(Commands(), ElementsAre(commands::cut));
+    Bar().RemoveCategory(0);
+    EXPECT_THAT(Commands(), IsEmpty());
+    PumpPending();
+}
+
+TEST_F(QuickAccessTest, InANarrowBarWhatHasNoRoomIsNotShown) {
+    AddManyButtons(40, 20);
+    CList<UINT, UINT> list;
+    for (UINT id = 0; id < 40; ++id) {
+        list.AddTail(commands::firstHandled + 1000 + id);
+    }
+    Bar().SetQuickAccessCommands(list);
+    SetClientWidth(300);
+    EXPECT_EQ(Commands().size(), 40u);
+    CRect client;
+    Bar().GetClientRect(client);
+    EXPECT_LE(Bar().GetQuickAccessToolbarLocation().right, client.right);
+    EXPECT_LE(Bar().GetQATCommandsLocation().right, Bar().GetQuickAccessToolbarLocation().right);
+    EXPECT_TRUE(CopyOf(commands::firstHandled + 1039)->GetRect().IsRectEmpty());
+}
+
+TEST_F(QuickAccessTest, TheContextMenuAddsAnElement) {
+    Element(commands::paste).SetDisabled(FALSE);
+    CountingPopupMenu menu(1);
+    const CRect rect = Element(commands::paste).GetRect();
+    Bar().OnShowRibbonContextMenu(&Bar(), rect.left, rect.top, &Element(commands::paste));
+    EXPECT_EQ(menu.Count(), 1);
+    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
+}
+
+TEST_F(QuickAccessTest, TheToolbarsMenuTogglesItsCommands) {
+    SetDefaultState({commands::paste}, {commands::cut});
+    CountingPopupMenu second(2);
+    Bar().OnShowRibbonQATMenu(&Bar(), 0, 0, nullptr);
+    EXPECT_THAT(Commands(), ElementsAre(commands::paste, commands::cut));
+    Bar().OnShowRibbonQATMenu(&Bar(), 0, 0, nullptr);
+    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
+}
+
+TEST_F(QuickAccessTest, TenTimesTheCommandsTakeNoMoreThanFortyTimesTheTime) {
+    const auto measure = [this](int count) {
+        CMFCRibbonCategory* category = AddManyButtons(count, 50);
+        CList<UINT, UINT> list;
+        for (int index = 0; index < count; ++index) {
+            list.AddTail(commands::firstHandled + 1000 + static_cast<UINT>(index));
+        }
+        std::chrono::nanoseconds best = std::chrono::hours(1);
+        for (int attempt = 0; attempt < 3; ++attempt) {
+            const auto start = std::chrono::steady_clock::now();
+            Bar().SetQuickAccessCommands(list, FALSE);
+            best = std::min<std::chrono::nanoseconds>(best, std::chrono::steady_clock::now() - start);
+        }
+        EXPECT_EQ(Commands().size(), static_cast<size_t>(count));
+        Bar().RemoveCategory(Bar().GetCategoryIndex(category));
+        return best;
+    };
+    const auto few = measure(500);
+    EXPECT_LT(measure(5000), 40 * few);
+}
+
+} // namespace

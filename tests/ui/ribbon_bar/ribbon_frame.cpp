@@ -1,0 +1,139 @@
+#include "tests/ui/ribbon_bar/ribbon_frame.h"
+
+#include "afxRibbonEdit.h"
+#include "afxRibbonLabel.h"
+#include "afxribboncheckbox.h"
+#include "afxribbonslider.h"
+#include "fx/registered_messages.h"
+
+IMPLEMENT_DYNCREATE(HostCategory, CMFCRibbonCategory)
+
+BEGIN_MESSAGE_MAP(RibbonFrame, CFrameWndEx)
+ON_WM_CREATE()
+ON_COMMAND_RANGE(commands::firstHandled, commands::lastHandled, OnRibbonCommand)
+ON_UPDATE_COMMAND_UI_RANGE(commands::firstHandled, commands::lastHandled, OnUpdateRibbonCommand)
+ON_REGISTERED_MESSAGE(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, OnCategoryChanged)
+END_MESSAGE_MAP()
+
+int RibbonFrame::OnCreate(LPCREATESTRUCT create) {
+    return CFrameWndEx::OnCreate(create) == 0 && bar.Create(this) ? 0 : -1;
+}
+
+void RibbonFrame::OnRibbonCommand(UINT id) {
+    commands.push_back(id);
+    if (id == ::commands::closesFrame) {
+        DestroyWindow();
+    }
+}
+
+void RibbonFrame::OnUpdateRibbonCommand(CCmdUI* update) {
+    update->Enable(update->m_nID != disabledCommand);
+    update->SetCheck(update->m_nID == checkedCommand ? 1 : 0);
+}
+
+LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {
+    EXPECT_EQ(reinterpret_cast<CMFCRibbonBar*>(lParam), &bar);
+    ++categoryChanges;
+    return 0;
+}
+
+RibbonBarTest::RibbonBarTest() : m_frame(new RibbonFrame) {
+    if (!m_frame->Create(nullptr, L"Ribbon", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 1000, 600))) {
+        throw std::runtime_error("the frame could not be created");
+    }
+    m_window = m_frame->GetSafeHwnd();
+    FillBar();
+    SetClientWidth(1000);
+    PumpPending();
+}
+
+RibbonBarTest::~RibbonBarTest() {
+    if (::IsWindow(m_window)) {
+        m_frame->DestroyWindow();
+    }
+    PumpPending();
+    for (HICON icon : m_icons) {
+        ::DestroyIcon(icon);
+    }
+}
+
+HICON RibbonBarTest::MakeIcon(int side, COLORREF color) {
+    std::vector<DWORD> pixels(static_cast<size_t>(side) * side);
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            const bool inside = x > 1 && y > 1 && x < side - 2 && y < side - 2;
+            pixels[static_cast<size_t>(y) * side + x] =
+                inside ? 0xFF000000u | GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color) : 0;
+        }
+    }
+    ICONINFO info{};
+    info.fIcon = TRUE;
+    info.hbmColor = ::CreateBitmap(side, side, 1, 32, pixels.data());
+    info.hbmMask = ::CreateBitmap(side, side, 1, 1, nullptr);
+    const HICON icon = ::CreateIconIndirect(&info);
+    ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+    m_icons.push_back(icon);
+    return icon;
+}
+
+void RibbonBarTest::FillBar() {
+    const auto button = [this](UINT id, LPCTSTR text, COLORREF color) {
+        return new CMFCRibbonButton(id, text, MakeIcon(32, color), FALSE, MakeIcon(16, color));
+    };
+    CMFCRibbonCategory* home = Bar().AddCategory(L"Home", 0, 0);
+    CMFCRibbonPanel* clipboard = home->AddPanel(L"Clipboard");
+    clipboard->Add(button(commands::paste, L"Paste", RGB(200, 120, 30)));
+    clipboard->Add(button(commands::cut, L"Cut", RGB(180, 30, 30)));
+    clipboard->Add(button(commands::copy, L"Copy", RGB(30, 90, 180)));
+    clipboard->Add(button(commands::format, L"Format Painter", RGB(30, 150, 60)));
+    CMFCRibbonPanel* text = home->AddPanel(L"Text");
+    auto* group = new CMFCRibbonButtonsGroup;
+    group->AddButton(
+        new CMFCRibbonButton(commands::bold, L"", MakeIcon(16, RGB(0, 0, 0)), FALSE, MakeIcon(16, RGB(0, 0, 0))));
+    group->AddButton(new CMFCRibbonButton(commands::italic, L"", MakeIcon(16, RGB(90, 90, 90)), FALSE,
+                                          MakeIcon(16, RGB(90, 90, 90))));
+    text->Add(group);
+    text->AddSeparator();
+    auto* edit = new CMFCRibbonEdit(commands::size, 70, L"Size:");
+    edit->SetEditText(L"12");
+    text->Add(edit);
+    text->Add(new CMFCRibbonLabel(L"A label"));
+    auto* slider = new CMFCRibbonSlider(commands::zoom, 100);
+    slider->SetZoomButtons();
+    slider->SetPos(40);
+    text->Add(slider);
+    text->AddSeparator();
+    text->Add(new CMFCRibbonCheckBox(commands::options, L"Options"));
+    CMFCRibbonCategory* view =
+        Bar().AddCategory(L"View", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(HostCategory));
+    view->AddPanel(L"Search")->Add(button(commands::find, L"Find", RGB(120, 60, 160)));
+    view->GetPanel(0)->Add(button(commands::noHandler, L"Nobody", RGB(60, 60, 60)));
+}
+
+CMFCRibbonCategory* RibbonBarTest::AddManyButtons(int count, int perPanel) {
+    CMFCRibbonCategory* category = Bar().AddCategory(L"Many", 0, 0);
+    CMFCRibbonPanel* panel = nullptr;
+    for (int index = 0; index < count; ++index) {
+        if (index % perPanel == 0) {
+            panel = category->AddPanel(L"Panel");
+        }
+        panel->Add(new CMFCRibbonButton(commands::firstHandled + 1000 + static_cast<UINT>(index), L"Button"));
+    }
+    return category;
+}
+
+CMFCRibbonBaseElement& RibbonBarTest::Element(UINT id) {
+    CMFCRibbonBaseElement* element = Bar().FindByID(id, TRUE, TRUE);
+    if (element == nullptr) {
+        throw std::runtime_error("no element has the id");
+    }
+    return *element;
+}
+
+void RibbonBarTest::SetClientWidth(int width) {
+    CRect window(0, 0, width, 600);
+    m_frame->CalcWindowRect(window);
+    m_frame->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    PumpPending();
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "afxcontrolbars.h"
+#include "afxglobals.h"
+#include "afxribbonbar.h"
+#include "fx/window_dc.h"
+#include "tests/support/message_pump.h"
+#include "tests/support/pointer.h"
+#include "tests/support/ui_test.h"
+
+/// Command ids of the tests' ribbon.
+namespace commands {
+constexpr UINT paste = 1001;
+constexpr UINT cut = 1002;
+constexpr UINT copy = 1003;
+constexpr UINT format = 1004;
+constexpr UINT find = 1005;
+constexpr UINT bold = 1006;
+constexpr UINT italic = 1007;
+constexpr UINT size = 1008;
+constexpr UINT zoom = 1009;
+constexpr UINT options = 1010;
+constexpr UINT closesFrame = 1090;
+constexpr UINT firstHandled = 1000;
+constexpr UINT lastHandled = 6999;
+constexpr UINT noHandler = 7001;
+} // namespace commands
+
+/// A category class of a host.
+class HostCategory : public CMFCRibbonCategory {
+    DECLARE_DYNCREATE(HostCategory)
+
+public:
+    int value = 0;
+};
+
+/// A frame with a ribbon bar; notes what the bar sends. Deletes itself with its window, as frames do.
+class RibbonFrame : public CFrameWndEx {
+public:
+    explicit RibbonFrame(BOOL replaceCaption = FALSE) : bar(replaceCaption) {}
+
+    CMFCRibbonBar bar;
+    std::vector<UINT> commands;
+    int categoryChanges = 0;
+    UINT disabledCommand = 0;
+    UINT checkedCommand = 0;
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg void OnRibbonCommand(UINT id);
+    afx_msg void OnUpdateRibbonCommand(CCmdUI* update);
+    afx_msg LRESULT OnCategoryChanged(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+};
+
+/// A visible frame, 1000 pixels wide inside, whose ribbon has two categories with all kinds of elements.
+class RibbonBarTest : public ::testing::Test {
+protected:
+    RibbonBarTest();
+    ~RibbonBarTest() override;
+
+    CMFCRibbonBar& Bar() { return m_frame->bar; }
+    CMFCRibbonBaseElement& Element(UINT id);
+    static CPoint Center(const CRect& rect) { return rect.CenterPoint(); }
+    CPoint CenterOf(UINT id) { return Center(Element(id).GetRect()); }
+    void SetClientWidth(int width);
+    void FillBar();
+    /// A grid of that many small buttons in a category of their own; ids from firstHandled + 1000 on.
+    CMFCRibbonCategory* AddManyButtons(int count, int perPanel);
+
+    RibbonFrame* m_frame = nullptr;
+    HWND m_window = nullptr; // of the frame; stays when the frame is gone
+    Pointer m_pointer;
+    std::vector<HICON> m_icons;
+
+private:
+    HICON MakeIcon(int side, COLORREF color);
+};

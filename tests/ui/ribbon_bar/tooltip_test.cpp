@@ -1,0 +1,53 @@
+#include "tests/ui/ribbon_bar/ribbon_frame.h"
+
+namespace {
+
+CString TipTextAt(CMFCRibbonBar& bar, CPoint client) {
+    bar.ClientToScreen(&client);
+    ::SetCursorPos(client.x, client.y);
+    NMTTDISPINFO info{};
+    info.hdr.hwndFrom = bar.GetToolTipCtrl()->GetSafeHwnd();
+    info.hdr.code = TTN_NEEDTEXT;
+    bar.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
+    return info.lpszText != nullptr ? CString(info.lpszText) : CString();
+}
+
+TEST_F(RibbonBarTest, TheTooltipIsTheElementsTipOrItsText) {
+    ASSERT_NE(Bar().GetToolTipCtrl(), nullptr);
+    EXPECT_STREQ(TipTextAt(Bar(), CenterOf(commands::paste)), L"Paste");
+    Element(commands::cut).SetToolTipText(L"Cuts the selection");
+    EXPECT_STREQ(TipTextAt(Bar(), CenterOf(commands::cut)), L"Cuts the selection");
+    EXPECT_STREQ(TipTextAt(Bar(), CPoint(900, 5)), L"");
+}
+
+TEST_F(RibbonBarTest, WithoutTooltipsThereIsNoControl) {
+    Bar().EnableToolTips(FALSE);
+    EXPECT_FALSE(Bar().IsToolTipEnabled());
+    EXPECT_EQ(Bar().GetToolTipCtrl(), nullptr);
+    Bar().EnableToolTips(TRUE, FALSE);
+    EXPECT_TRUE(Bar().IsToolTipEnabled());
+    EXPECT_FALSE(Bar().IsToolTipDescrEnabled());
+    EXPECT_NE(Bar().GetToolTipCtrl(), nullptr);
+}
+
+TEST_F(RibbonBarTest, TheToolFollowsTheElementUnderThePointer) {
+    m_pointer.MoveTo(Bar(), CenterOf(commands::cut));
+    TOOLINFO tool{};
+    tool.cbSize = sizeof(tool);
+    tool.hwnd = Bar();
+    tool.uId = 1;
+    ASSERT_TRUE(Bar().GetToolTipCtrl()->SendMessage(TTM_GETTOOLINFO, 0, reinterpret_cast<LPARAM>(&tool)));
+    EXPECT_EQ(CRect(tool.rect), Element(commands::cut).GetRect());
+}
+
+TEST_F(RibbonBarTest, TheQuickAccessMenuButtonHasTheFrameworksText) {
+    CList<UINT, UINT> list;
+    list.AddTail(commands::cut);
+    Bar().SetQuickAccessCommands(list);
+    const CRect all = Bar().GetQuickAccessToolbarLocation();
+    const CRect copies = Bar().GetQATCommandsLocation();
+    EXPECT_STREQ(TipTextAt(Bar(), CPoint((copies.right + all.right) / 2, all.CenterPoint().y)),
+                 L"Customize Quick Access Toolbar");
+}
+
+} // namespace
