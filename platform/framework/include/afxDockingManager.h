@@ -3,6 +3,10 @@
 #include "afxwin.h"
 #include "fx/bar_styles.h"
 
+#include <afxcoll.h>
+
+#include <vector>
+
 class CBasePane;
 class CPane;
 
@@ -21,6 +25,9 @@ public:
     BOOL InsertPane(CBasePane* pControlBar, CBasePane* pTarget, BOOL bAfter = TRUE);
     void RemovePaneFromDockManager(CBasePane* pWnd, BOOL bDestroy, BOOL bAdjustLayout, BOOL bAutoHide = FALSE,
                                    CBasePane* pBarReplacement = NULL);
+    /// The pane becomes the innermost (outermost) of its side.
+    void MoveToEndOfSide(CBasePane* pane);
+    void MoveToStartOfSide(CBasePane* pane);
     virtual CBasePane* FindPaneByID(UINT uBarID, BOOL bSearchMiniFrames = FALSE);
     /// Appends the panes (of a class when pRTCFilter is given) to lstBars.
     void GetPaneList(CObList& lstBars, BOOL bIncludeAutohide = FALSE, CRuntimeClass* pRTCFilter = NULL,
@@ -58,6 +65,8 @@ public:
     void EnablePaneContextMenu(BOOL bEnable, UINT uiCustomizeCmd, const CString& strCustomizeText,
                                BOOL bToolbarsOnly = FALSE);
 
+    BOOL HasPaneContextMenu() const { return m_hasPaneMenu; }
+
     virtual BOOL LoadState(LPCTSTR lpszProfileName = NULL, UINT uiID = (UINT)-1);
     virtual BOOL SaveState(LPCTSTR lpszProfileName = NULL, UINT uiID = (UINT)-1);
 
@@ -73,7 +82,7 @@ protected:
 
 private:
     void PlacePanes(HDWP deferred);
-    void ShowPaneMenu(CPoint point);
+    std::vector<CBasePane*> PanesToPlace() const;
 
     DWORD m_dwEnabledAlignment = 0;
     BOOL m_bIsInAdjustLayout = FALSE;

@@ -3,9 +3,8 @@
 #include "afxbasepane.h"
 #include "fx/frame_impl.h"
 
-class CDockablePane;
 class CMFCToolBarMenuButton;
-class CPaneFrameWnd;
+class CPane;
 
 /// A frame with docked panes, ribbon or menu bar.
 class FRAMEWORK_API CFrameWndEx : public CFrameWnd {
@@ -46,26 +45,21 @@ public:
 
     virtual BOOL OnShowPopupMenu(CMFCPopupMenu* pMenu);
     virtual void OnClosePopupMenu(CMFCPopupMenu* pMenuPopup);
-    virtual BOOL OnShowCustomizePane(CMFCPopupMenu* pMenuPane, UINT uiToolbarID);
-    virtual BOOL OnTearOffMenu(CMFCPopupMenu* pMenuPopup, CPane* pBar);
     virtual BOOL OnDrawMenuImage(CDC* pDC, const CMFCToolBarMenuButton* pMenuButton, const CRect& rectImage);
-    virtual void OnDrawMenuLogo(CDC* pDC, CMFCPopupMenu* pMenu, const CRect& rectLogo);
-    virtual BOOL OnMenuButtonToolHitTest(CMFCToolBarButton* pButton, TOOLINFO* pTI);
     virtual BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* pButton, CString& strTTText);
-    virtual BOOL OnCloseDockingPane(CDockablePane* pPane);
-    virtual BOOL OnCloseMiniFrame(CPaneFrameWnd* pWnd);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg LRESULT OnChangeVisualManager(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnPaneCheck(UINT nID);
     afx_msg void OnUpdatePaneMenu(CCmdUI* pCmdUI);
 
 protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
     CFrameImpl m_Impl{this};
     DECLARE_MESSAGE_MAP()
 };

@@ -77,6 +77,8 @@ public:
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
     virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
     virtual void OnUpdateFrameMenu(HMENU hMenuAlt);
+    /// Sets the title at the next idle time.
+    void DelayUpdateTitle() { m_nIdleFlags |= idleTitle; }
     /// Sets the menu at the next idle time.
     virtual void DelayUpdateFrameMenu(HMENU hMenuAlt);
 
@@ -141,6 +143,7 @@ protected:
 
 private:
     friend class CMDIFrameWnd;
+    friend class CMDIChildWnd;
     BOOL CreateWithMenu(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent, HMENU menu,
                         DWORD exStyle, CCreateContext* context);
     void UpdateMenuItem(CCmdUI& state, CMenu& menu);

@@ -8,29 +8,27 @@ class CMFCPopupMenu;
 class CMFCRibbonBar;
 class CMFCToolBarButton;
 
-/// What CFrameWndEx, CMDIFrameWndEx share: docking manager, special panes, active popup, keys. Part of the frame.
+/// What CFrameWndEx and CMDIFrameWndEx share: docking manager, special panes, the open popup. Part of the frame.
 class FRAMEWORK_API CFrameImpl {
 public:
     explicit CFrameImpl(CFrameWnd* frame) : m_frame(frame) {}
+    CFrameImpl(const CFrameImpl&) = delete;
+    CFrameImpl& operator=(const CFrameImpl&) = delete;
 
     CDockingManager& DockingManager() { return m_dockingManager; }
+    /// Before the frame's first pane is made.
     bool Create();
-    /// Places the panes; `notify` as in CFrameWnd::RecalcLayout.
-    void RecalcLayout(BOOL notify);
-    /// Keys that open a menu or belong to the ribbon. TRUE when the message is used up.
-    bool PreTranslateMessage(MSG* message);
-    /// A command that belongs to an open popup or the pane menu.
-    bool OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info);
-    bool OnShowPopupMenu(CMFCPopupMenu* popup);
-    void OnClosePopupMenu(CMFCPopupMenu* popup);
-    bool OnMenuChar(UINT character);
-    /// Hears of a bar that is the frame's menu or ribbon bar; null when it goes away.
+    /// The first ribbon among the panes, else null.
+    CMFCRibbonBar* RibbonBar();
+    /// The menu bar tells of itself; null when it goes away.
     void SetMenuBar(CMFCMenuBar* bar) { m_menuBar = bar; }
     CMFCMenuBar* MenuBar() const { return m_menuBar; }
-    CMFCRibbonBar* RibbonBar();
+    void OnShowPopupMenu(CMFCPopupMenu* popup);
+    void OnClosePopupMenu(CMFCPopupMenu* popup);
     CMFCPopupMenu* ActivePopup() const { return m_activePopup; }
 
     UINT m_defaultResourceId = 0;
+    bool m_isInLayout = false;
 
 private:
     CFrameWnd* m_frame;

@@ -45,6 +45,7 @@ public:
     CString GetPaneText(int nIndex) const;
     void GetPaneText(int nIndex, CString& rString) const;
     BOOL SetPaneText(int nIndex, LPCTSTR lpszNewText, BOOL bUpdate = TRUE);
+    /// Valid as long as the bar's window.
     CStatusBarCtrl& GetStatusBarCtrl() const;
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
@@ -70,4 +71,5 @@ private:
     void PlacePanes();
 
     std::vector<Pane> m_panes;
+    std::unique_ptr<CStatusBarCtrl> m_control; ///< sees the bar's window through the control's members
 };

@@ -1,0 +1,352 @@
+#include "afxDockingManager.h"
+
+#include "afxPane.h"
+#include "afxext.h"
+#include "panes/pane_layout.h"
+#include "panes/ribbon_pane.h"
+
+#include <algorithm>
+#include <utility>
+
+AFX_DOCK_TYPE CDockingManager::m_dockModeGlobal = DT_STANDARD;
+int CDockingManager::m_nDockSensitivity = 15;
+
+namespace {
+
+DWORD AlignmentOfDockBar(UINT dockBar) {
+    switch (dockBar) {
+    case AFX_IDW_DOCKBAR_TOP:
+        return CBRS_ALIGN_TOP;
+    case AFX_IDW_DOCKBAR_BOTTOM:
+        return CBRS_ALIGN_BOTTOM;
+    case AFX_IDW_DOCKBAR_LEFT:
+        return CBRS_ALIGN_LEFT;
+    case AFX_IDW_DOCKBAR_RIGHT:
+        return CBRS_ALIGN_RIGHT;
+    default:
+        return 0;
+    }
+}
+
+panes::PaneRequest RequestOf(CBasePane& pane) {
+    const auto* row = DYNAMIC_DOWNCAST(CPane, &pane);
+    const bool isAlone = !pane.IsDocked() || (row && row->GetExclusiveRowMode());
+    const CSize size = pane.CalcFixedLayout(isAlone, pane.IsHorizontal());
+    return {panes::SideOfAlignment(pane.GetCurrentAlignment()), size, isAlone};
+}
+
+/// Moves a child window (frame's client pixels) unless it lies there already; a needless move would repaint it.
+HDWP DeferMove(HDWP deferred, HWND window, const RECT& place) {
+    RECT now;
+    ::GetWindowRect(window, &now);
+    ::MapWindowPoints(nullptr, ::GetParent(window), reinterpret_cast<LPPOINT>(&now), 2);
+    if (::EqualRect(&now, &place)) {
+        return deferred;
+    }
+    const HDWP next = deferred
+                          ? ::DeferWindowPos(deferred, window, nullptr, place.left, place.top, place.right - place.left,
+                                             place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE)
+                          : nullptr;
+    if (!next) {
+        ::SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                       SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    return next;
+}
+
+} // namespace
+
+BOOL CDockingManager::Create(CFrameWnd* pParentWnd) {
+    m_pParentWnd = pParentWnd;
+    return pParentWnd != nullptr;
+}
+
+BOOL CDockingManager::AddPane(CBasePane* pWnd, BOOL bTail, BOOL, BOOL bInsertForOuterEdge) {
+    if (!pWnd || m_lstControlBars.Find(pWnd)) {
+        return FALSE;
+    }
+    if (bTail && !bInsertForOuterEdge) {
+        m_lstControlBars.AddTail(pWnd);
+    } else {
+        m_lstControlBars.AddHead(pWnd);
+    }
+    return TRUE;
+}
+
+BOOL CDockingManager::InsertPane(CBasePane* pControlBar, CBasePane* pTarget, BOOL bAfter) {
+    const POSITION target = m_lstControlBars.Find(pTarget);
+    if (!target || pControlBar == pTarget) {
+        return FALSE;
+    }
+    if (const POSITION former = m_lstControlBars.Find(pControlBar)) {
+        m_lstControlBars.RemoveAt(former);
+    }
+    if (bAfter) {
+        m_lstControlBars.InsertAfter(target, pControlBar);
+    } else {
+        m_lstControlBars.InsertBefore(target, pControlBar);
+    }
+    return TRUE;
+}
+
+void CDockingManager::MoveToEndOfSide(CBasePane* pane) {
+    if (const POSITION position = m_lstControlBars.Find(pane)) {
+        m_lstControlBars.RemoveAt(position);
+        m_lstControlBars.AddTail(pane);
+    }
+}
+
+void CDockingManager::MoveToStartOfSide(CBasePane* pane) {
+    if (const POSITION position = m_lstControlBars.Find(pane)) {
+        m_lstControlBars.RemoveAt(position);
+        m_lstControlBars.AddHead(pane);
+    }
+}
+
+void CDockingManager::RemovePaneFromDockManager(CBasePane* pWnd, BOOL bDestroy, BOOL bAdjustLayout, BOOL,
+                                                CBasePane* pBarReplacement) {
+    if (const POSITION hidden = m_hiddenPanes.Find(pWnd)) {
+        m_hiddenPanes.RemoveAt(hidden);
+    }
+    const POSITION position = m_lstControlBars.Find(pWnd);
+    if (!position) {
+        return;
+    }
+    if (pBarReplacement && !m_lstControlBars.Find(pBarReplacement)) {
+        m_lstControlBars.SetAt(position, pBarReplacement);
+    } else {
+        m_lstControlBars.RemoveAt(position);
+    }
+    if (bDestroy) {
+        pWnd->DestroyWindow();
+    }
+    if (bAdjustLayout) {
+        AdjustDockingLayout();
+    }
+}
+
+CBasePane* CDockingManager::FindPaneByID(UINT uBarID, BOOL) {
+    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
+        auto* pane = static_cast<CBasePane*>(m_lstControlBars.GetNext(position));
+        if (static_cast<UINT>(pane->GetDlgCtrlID()) == uBarID) {
+            return pane;
+        }
+    }
+    return nullptr;
+}
+
+void CDockingManager::GetPaneList(CObList& lstBars, BOOL, CRuntimeClass* pRTCFilter, BOOL) {
+    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
+        CObject* pane = m_lstControlBars.GetNext(position);
+        if (!pRTCFilter || pane->IsKindOf(pRTCFilter)) {
+            lstBars.AddTail(pane);
+        }
+    }
+}
+
+CBasePane* CDockingManager::PaneFromPoint(CPoint point, int nSensitivity, bool bExactBar, CRuntimeClass* pRTCBarType,
+                                          BOOL bCheckVisibility, const CBasePane* pBarToIgnore) const {
+    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
+        auto* pane = static_cast<CBasePane*>(m_lstControlBars.GetNext(position));
+        if (pane == pBarToIgnore || (bCheckVisibility && !pane->IsVisible())) {
+            continue;
+        }
+        if (pRTCBarType && !(bExactBar ? pane->GetRuntimeClass() == pRTCBarType : pane->IsKindOf(pRTCBarType))) {
+            continue;
+        }
+        CRect window;
+        pane->GetWindowRect(&window);
+        window.InflateRect(nSensitivity, nSensitivity);
+        if (window.PtInRect(point)) {
+            return pane;
+        }
+    }
+    return nullptr;
+}
+
+BOOL CDockingManager::EnableDocking(DWORD dwStyle) {
+    m_dwEnabledAlignment |= dwStyle & CBRS_ALIGN_ANY;
+    return m_dwEnabledAlignment != 0;
+}
+
+void CDockingManager::DockPane(CBasePane* pBar, UINT nDockBarID, LPCRECT lpRect) {
+    const DWORD alignment = nDockBarID ? AlignmentOfDockBar(nDockBarID) : pBar->GetCurrentAlignment();
+    if ((alignment & pBar->GetEnabledAlignment() & m_dwEnabledAlignment) == 0) {
+        return;
+    }
+    AddPane(pBar);
+    pBar->SetPaneAlignment(alignment);
+    pBar->DockPane(nullptr, lpRect, lpRect ? DM_RECT : DM_STANDARD);
+}
+
+BOOL CDockingManager::DockPaneLeftOf(CPane* pBarToDock, CPane* pTargetBar) {
+    if (!m_lstControlBars.Find(pTargetBar)) {
+        return FALSE;
+    }
+    pBarToDock->SetPaneAlignment(pTargetBar->GetCurrentAlignment());
+    if (!pBarToDock->DockPane(nullptr, nullptr, DM_STANDARD)) {
+        return FALSE;
+    }
+    InsertPane(pBarToDock, pTargetBar, FALSE);
+    AdjustDockingLayout();
+    return TRUE;
+}
+
+void CDockingManager::RecalcLayout(BOOL) { AdjustDockingLayout(); }
+
+void CDockingManager::AdjustDockingLayout(HDWP hdwp) {
+    if (m_nLockCount > 0) {
+        m_isLayoutPending = true;
+        return;
+    }
+    // A pane that is resized may ask for a layout itself; it is in the middle of one.
+    if (m_bIsInAdjustLayout || !m_pParentWnd || !m_pParentWnd->m_hWnd || m_pParentWnd->IsIconic()) {
+        return;
+    }
+    m_bIsInAdjustLayout = TRUE;
+    PlacePanes(hdwp);
+    m_bIsInAdjustLayout = FALSE;
+}
+
+std::vector<CBasePane*> CDockingManager::PanesToPlace() const {
+    std::vector<CBasePane*> panes;
+    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
+        auto* pane = static_cast<CBasePane*>(m_lstControlBars.GetNext(position));
+        const bool isInFrame = ::GetParent(pane->m_hWnd) == m_pParentWnd->m_hWnd;
+        if (isInFrame && pane->IsVisible() && pane->GetCurrentAlignment() != 0) {
+            panes.push_back(pane);
+        }
+    }
+    // The ribbon stands in for caption and menu: nothing goes above it. Bars that keep to an edge lie outside the rows
+    // of docked ones.
+    std::stable_sort(panes.begin(), panes.end(), [](const CBasePane* first, const CBasePane* second) {
+        const auto rank = [](const CBasePane* pane) { return IsRibbonPane(pane) ? 0 : pane->IsDocked() ? 2 : 1; };
+        return rank(first) < rank(second);
+    });
+    return panes;
+}
+
+void CDockingManager::PlacePanes(HDWP deferred) {
+    m_pParentWnd->GetClientRect(&m_rectOuter);
+    m_rectOuter.DeflateRect(m_rectMargins.left, m_rectMargins.top, m_rectMargins.right, m_rectMargins.bottom);
+
+    const std::vector<CBasePane*> placed = PanesToPlace();
+    constexpr int clientAndControlBars = 8;
+    const bool isOwnBatch = deferred == nullptr;
+    HDWP batch = isOwnBatch ? ::BeginDeferWindowPos(static_cast<int>(placed.size()) + clientAndControlBars) : deferred;
+
+    AFX_SIZEPARENTPARAMS bars{batch, m_rectOuter, {0, 0}, TRUE};
+    m_pParentWnd->PlaceControlBars(bars);
+    batch = bars.hDWP;
+
+    std::vector<panes::PaneRequest> requests;
+    requests.reserve(placed.size());
+    for (CBasePane* pane : placed) {
+        requests.push_back(RequestOf(*pane));
+    }
+    const panes::PaneLayout layout = panes::LayOutPanes(bars.rect, requests);
+    for (size_t index = 0; index < placed.size(); ++index) {
+        batch = DeferMove(batch, placed[index]->m_hWnd, layout.panes[index]);
+    }
+    m_rectClientArea = layout.rest;
+    if (const HWND client = ::GetDlgItem(m_pParentWnd->m_hWnd, AFX_IDW_PANE_FIRST)) {
+        batch = DeferMove(batch, client, layout.rest);
+    }
+    if (isOwnBatch && batch) {
+        ::EndDeferWindowPos(batch);
+    }
+}
+
+void CDockingManager::LockUpdate(BOOL bLock) {
+    m_nLockCount += bLock ? 1 : -1;
+    if (m_nLockCount <= 0) {
+        m_nLockCount = 0;
+        if (std::exchange(m_isLayoutPending, false)) {
+            AdjustDockingLayout();
+        }
+    }
+}
+
+BOOL CDockingManager::ShowPanes(BOOL bShow) {
+    CObList& source = bShow ? m_hiddenPanes : m_lstControlBars;
+    std::vector<CBasePane*> changed;
+    for (POSITION position = source.GetHeadPosition(); position;) {
+        auto* pane = static_cast<CBasePane*>(source.GetNext(position));
+        if (pane->IsVisible() != bShow) {
+            changed.push_back(pane);
+        }
+    }
+    m_hiddenPanes.RemoveAll();
+    for (CBasePane* pane : changed) {
+        if (!bShow) {
+            m_hiddenPanes.AddTail(pane);
+        }
+        pane->ShowPane(bShow, TRUE, FALSE);
+    }
+    AdjustDockingLayout();
+    return !changed.empty();
+}
+
+void CDockingManager::SetDockingMode(AFX_DOCK_TYPE dockMode, AFX_SMARTDOCK_THEME) { m_dockModeGlobal = dockMode; }
+
+void CDockingManager::EnablePaneContextMenu(BOOL bEnable, UINT uiCustomizeCmd, const CString& strCustomizeText,
+                                            BOOL bToolbarsOnly) {
+    m_hasPaneMenu = bEnable != FALSE;
+    m_customizeCommand = uiCustomizeCmd;
+    m_customizeText = strCustomizeText;
+    m_paneMenuOfToolbarsOnly = bToolbarsOnly != FALSE;
+}
+
+void CDockingManager::OnPaneContextMenu(CPoint point) {
+    if (!m_hasPaneMenu || !m_pParentWnd) {
+        return;
+    }
+    std::vector<CPane*> offered;
+    CMenu menu;
+    menu.CreatePopupMenu();
+    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
+        auto* pane = DYNAMIC_DOWNCAST(CPane, m_lstControlBars.GetNext(position));
+        if (!pane || !pane->AllowShowOnPaneMenu() || (m_paneMenuOfToolbarsOnly && pane->IsResizable())) {
+            continue;
+        }
+        CString name;
+        pane->GetPaneName(name);
+        if (name.IsEmpty()) {
+            continue;
+        }
+        offered.push_back(pane);
+        menu.AppendMenu(MF_STRING | (pane->IsVisible() ? MF_CHECKED : MF_UNCHECKED), offered.size(), name);
+    }
+    const UINT customize = static_cast<UINT>(offered.size()) + 1;
+    if (m_customizeCommand) {
+        if (!offered.empty()) {
+            menu.AppendMenu(MF_SEPARATOR);
+        }
+        menu.AppendMenu(MF_STRING, customize, m_customizeText);
+    }
+    const auto choice =
+        static_cast<UINT>(menu.TrackPopupMenu(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, m_pParentWnd));
+    if (choice == customize && m_customizeCommand) {
+        m_pParentWnd->SendMessage(WM_COMMAND, m_customizeCommand);
+    } else if (choice > 0 && choice <= offered.size()) {
+        CPane* pane = offered[choice - 1];
+        pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
+    }
+}
+
+BOOL CDockingManager::SaveState(LPCTSTR lpszProfileName, UINT) {
+    BOOL isSaved = TRUE;
+    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
+        isSaved &= static_cast<CBasePane*>(m_lstControlBars.GetNext(position))->SaveState(lpszProfileName);
+    }
+    return isSaved;
+}
+
+BOOL CDockingManager::LoadState(LPCTSTR lpszProfileName, UINT) {
+    BOOL isLoaded = TRUE;
+    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
+        isLoaded &= static_cast<CBasePane*>(m_lstControlBars.GetNext(position))->LoadState(lpszProfileName);
+    }
+    AdjustDockingLayout();
+    return isLoaded;
+}

@@ -1,0 +1,146 @@
+#include "afxkeyboardmanager.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <vector>
+
+bool CKeyboardManager::s_isShowAll = false;
+CString CKeyboardManager::s_delimiter(L"; ");
+
+namespace {
+
+CFrameWnd* FrameOrMain(CFrameWnd* frame) { return frame ? frame : DYNAMIC_DOWNCAST(CFrameWnd, AfxGetMainWnd()); }
+
+std::vector<ACCEL> EntriesOf(CFrameWnd* frame) {
+    frame = FrameOrMain(frame);
+    const HACCEL table = frame ? frame->m_hAccelTable : nullptr;
+    const int count = table ? ::CopyAcceleratorTableW(table, nullptr, 0) : 0;
+    std::vector<ACCEL> entries(static_cast<size_t>(count));
+    if (count > 0) {
+        ::CopyAcceleratorTableW(table, entries.data(), count);
+    }
+    return entries;
+}
+
+struct KeyName {
+    WORD key;
+    LPCTSTR name;
+};
+
+/// Keys whose names the keyboard layout does not tell, or tells too long for a menu.
+constexpr KeyName namedKeys[] = {
+    {VK_BACK, L"Backspace"}, {VK_TAB, L"Tab"},        {VK_RETURN, L"Enter"},   {VK_ESCAPE, L"Esc"},
+    {VK_SPACE, L"Space"},    {VK_PRIOR, L"Page Up"},  {VK_NEXT, L"Page Down"}, {VK_END, L"End"},
+    {VK_HOME, L"Home"},      {VK_LEFT, L"Left"},      {VK_UP, L"Up"},          {VK_RIGHT, L"Right"},
+    {VK_DOWN, L"Down"},      {VK_INSERT, L"Ins"},     {VK_DELETE, L"Del"},     {VK_ADD, L"Num +"},
+    {VK_SUBTRACT, L"Num -"}, {VK_MULTIPLY, L"Num *"}, {VK_DIVIDE, L"Num /"},   {VK_PAUSE, L"Pause"},
+};
+
+CString NameOfKey(WORD key) {
+    const auto* named = std::find_if(std::begin(namedKeys), std::end(namedKeys),
+                                     [key](const KeyName& candidate) { return candidate.key == key; });
+    if (named != std::end(namedKeys)) {
+        return named->name;
+    }
+    CString name;
+    if (key >= VK_F1 && key <= VK_F24) {
+        name.Format(L"F%d", key - VK_F1 + 1);
+        return name;
+    }
+    if (const UINT character = ::MapVirtualKeyW(key, MAPVK_VK_TO_CHAR) & 0x7FFF) {
+        name = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(character)));
+    }
+    return name;
+}
+
+CString TextOf(const ACCEL& entry) {
+    CString text;
+    if (entry.fVirt & FCONTROL) {
+        text += L"Ctrl+";
+    }
+    if (entry.fVirt & FALT) {
+        text += L"Alt+";
+    }
+    if (entry.fVirt & FSHIFT) {
+        text += L"Shift+";
+    }
+    if (entry.fVirt & FVIRTKEY) {
+        return text + NameOfKey(entry.key);
+    }
+    // A table for characters names control characters by their number.
+    if (entry.key < L' ') {
+        return text + L"Ctrl+" + static_cast<wchar_t>(entry.key + L'@');
+    }
+    return text + static_cast<wchar_t>(entry.key);
+}
+
+} // namespace
+
+CKeyboardManager::CKeyboardManager() = default;
+
+CKeyboardManager::~CKeyboardManager() = default;
+
+BOOL CKeyboardManager::UpdateAccelTable(CMultiDocTemplate*, HACCEL hAccelNew, CFrameWnd* pDefaultFrame) {
+    CFrameWnd* frame = FrameOrMain(pDefaultFrame);
+    if (!frame) {
+        return FALSE;
+    }
+    frame->ReplaceAccelTable(hAccelNew);
+    return TRUE;
+}
+
+BOOL CKeyboardManager::UpdateAccelTable(CMultiDocTemplate* pTemplate, LPACCEL lpAccel, int nSize,
+                                        CFrameWnd* pDefaultFrame) {
+    const HACCEL table = ::CreateAcceleratorTableW(lpAccel, nSize);
+    if (!table) {
+        return FALSE;
+    }
+    if (!UpdateAccelTable(pTemplate, table, pDefaultFrame)) {
+        ::DestroyAcceleratorTable(table);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+BOOL CKeyboardManager::FindDefaultAccelerator(UINT uiCmd, CString& str, CFrameWnd* pWndFrame, BOOL) {
+    bool isFound = false;
+    for (const ACCEL& entry : EntriesOf(pWndFrame)) {
+        if (entry.cmd != uiCmd) {
+            continue;
+        }
+        if (!isFound) {
+            str = TextOf(entry);
+        } else {
+            str += s_delimiter + TextOf(entry);
+        }
+        isFound = true;
+        if (!s_isShowAll) {
+            break;
+        }
+    }
+    return isFound;
+}
+
+BOOL CKeyboardManager::IsKeyHandled(WORD nKey, BYTE fVirt, CFrameWnd* pWndFrame, BOOL) {
+    const auto meaning = [](BYTE flags) { return static_cast<BYTE>(flags & (FVIRTKEY | FSHIFT | FCONTROL | FALT)); };
+    const std::vector<ACCEL> entries = EntriesOf(pWndFrame);
+    return std::any_of(entries.begin(), entries.end(),
+                       [&](const ACCEL& entry) { return entry.key == nKey && meaning(entry.fVirt) == meaning(fVirt); });
+}
+
+BOOL CKeyboardManager::IsKeyPrintable(const UINT nChar) {
+    const UINT character = ::MapVirtualKeyW(nChar, MAPVK_VK_TO_CHAR) & 0x7FFF;
+    return character >= L' ' && std::iswprint(static_cast<wint_t>(character));
+}
+
+UINT CKeyboardManager::TranslateCharToUpper(const UINT nChar) { return std::towupper(static_cast<wint_t>(nChar)); }
+
+void CKeyboardManager::ShowAllAccelerators(BOOL bShowAll, LPCTSTR lpszDelimiter) {
+    s_isShowAll = bShowAll != FALSE;
+    s_delimiter = lpszDelimiter ? lpszDelimiter : L"; ";
+}
+
+void CKeyboardManager::CleanUp() {
+    // Tables are read from their frames each time: there is nothing to forget but the way of showing them.
+    ShowAllAccelerators(FALSE);
+}

@@ -1,0 +1,66 @@
+#include "afxPane.h"
+
+#include "afxwinappex.h"
+
+// Where panes keep their state: one section per pane below the application's base section.
+
+namespace {
+
+CString SectionOf(const CBasePane& pane, LPCTSTR profile, int index, UINT id, LPCTSTR kind) {
+    if (index == -1) {
+        index = pane.GetDlgCtrlID();
+    }
+    CString section;
+    if (id == static_cast<UINT>(-1)) {
+        section.Format(L"%s\\%s-%d", profile ? profile : L"", kind, index);
+    } else {
+        section.Format(L"%s\\%s-%d%x", profile ? profile : L"", kind, index, id);
+    }
+    return section;
+}
+
+CWinAppEx* Application() { return DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); }
+
+} // namespace
+
+BOOL CBasePane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
+    CWinAppEx* application = Application();
+    if (!application) {
+        return FALSE;
+    }
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"BasePane");
+    const int isVisible = application->GetSectionInt(section, L"IsVisible", -1);
+    if (isVisible == -1) {
+        return FALSE;
+    }
+    ShowPane(isVisible, TRUE, FALSE);
+    return TRUE;
+}
+
+BOOL CBasePane::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
+    CWinAppEx* application = Application();
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"BasePane");
+    return application && application->WriteSectionInt(section, L"IsVisible", GetRecentVisibleState());
+}
+
+BOOL CPane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
+    CWinAppEx* application = Application();
+    if (!application) {
+        return FALSE;
+    }
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"Pane");
+    const DWORD alignment = static_cast<DWORD>(application->GetSectionInt(section, L"RecentAlignment", 0));
+    // Only sides that the host still allows are taken back.
+    if ((alignment & m_dwEnabledAlignment) != 0) {
+        SetPaneAlignment(alignment);
+    }
+    return CBasePane::LoadState(lpszProfileName, nIndex, uiID);
+}
+
+BOOL CPane::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
+    CWinAppEx* application = Application();
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"Pane");
+    return application &&
+           application->WriteSectionInt(section, L"RecentAlignment", static_cast<int>(GetCurrentAlignment())) &&
+           CBasePane::SaveState(lpszProfileName, nIndex, uiID);
+}

@@ -1,0 +1,192 @@
+#include "afxwin.h"
+
+#include "afxext.h"
+
+#include <utility>
+
+// What lies inside the frame: bars, the client window, the menu bar; done at once or at idle time.
+
+void CFrameWnd::OnSize(UINT nType, int cx, int cy) {
+    CWnd::OnSize(nType, cx, cy);
+    if (nType != SIZE_MINIMIZED) {
+        RecalcLayout();
+    }
+}
+
+void CFrameWnd::RecalcLayout(BOOL) {
+    if (m_isInLayout) {
+        return;
+    }
+    m_isInLayout = true;
+    m_nIdleFlags &= ~(idleLayout | idleNotify);
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST);
+    m_isInLayout = false;
+}
+
+void CFrameWnd::DelayRecalcLayout(BOOL bNotify) { m_nIdleFlags |= bNotify ? idleLayout | idleNotify : idleLayout; }
+
+void CFrameWnd::PlaceControlBars(AFX_SIZEPARENTPARAMS& place) {
+    for (POSITION position = m_listControlBars.GetHeadPosition(); position;) {
+        CObject* bar = m_listControlBars.GetNext(position);
+        static_cast<CControlBar*>(bar)->SendMessage(WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&place));
+    }
+}
+
+LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
+    if (m_nIdleFlags & idleMenu) {
+        OnUpdateFrameMenu(m_hMenuAlt);
+    }
+    if (m_nIdleFlags & idleTitle) {
+        OnUpdateFrameTitle(TRUE);
+    }
+    ShowDelayedBars();
+    if (m_nIdleFlags & idleLayout) {
+        RecalcLayout(m_nIdleFlags & idleNotify);
+        UpdateWindow();
+    }
+    m_nIdleFlags = 0;
+    return 0;
+}
+
+void CFrameWnd::ShowDelayedBars() {
+    for (POSITION position = m_listControlBars.GetHeadPosition(); position;) {
+        if (static_cast<CControlBar*>(m_listControlBars.GetNext(position))->ShowIfDelayed()) {
+            m_nIdleFlags |= idleLayout;
+        }
+    }
+}
+
+CControlBar* CFrameWnd::GetControlBar(UINT nID) {
+    if (nID == 0) {
+        return nullptr;
+    }
+    for (POSITION position = m_listControlBars.GetHeadPosition(); position;) {
+        auto* bar = static_cast<CControlBar*>(m_listControlBars.GetNext(position));
+        if (static_cast<UINT>(bar->GetDlgCtrlID()) == nID) {
+            return bar;
+        }
+    }
+    return nullptr;
+}
+
+void CFrameWnd::AddControlBar(CControlBar* bar) {
+    if (!m_listControlBars.Find(bar)) {
+        m_listControlBars.AddTail(bar);
+    }
+}
+
+void CFrameWnd::RemoveControlBar(CControlBar* bar) {
+    if (const POSITION position = m_listControlBars.Find(bar)) {
+        m_listControlBars.RemoveAt(position);
+        DelayRecalcLayout();
+    }
+}
+
+void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
+    pBar->DelayShow(bShow);
+    if (bDelay) {
+        return;
+    }
+    pBar->ShowIfDelayed();
+    RecalcLayout();
+}
+
+BOOL CFrameWnd::OnBarCheck(UINT nID) {
+    CControlBar* bar = GetControlBar(nID);
+    if (!bar) {
+        return FALSE;
+    }
+    ShowControlBar(bar, !bar->IsVisible(), FALSE);
+    return TRUE;
+}
+
+void CFrameWnd::OnUpdateControlBarMenu(CCmdUI* pCmdUI) {
+    if (CControlBar* bar = GetControlBar(pCmdUI->m_nID)) {
+        pCmdUI->SetCheck(bar->IsVisible());
+    } else {
+        pCmdUI->ContinueRouting();
+    }
+}
+
+void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
+    if ((GetStyle() & FWS_ADDTOTITLE) == 0) {
+        return;
+    }
+    CString shown;
+    GetWindowText(shown);
+    CString title = m_strTitle;
+    CFrameWnd* active = bAddToTitle ? GetActiveFrame() : this;
+    if (active && active != this && !active->GetTitle().IsEmpty()) {
+        title = (GetStyle() & FWS_PREFIXTITLE) ? active->GetTitle() + L" - " + m_strTitle
+                                               : m_strTitle + L" - " + active->GetTitle();
+    }
+    // Setting an equal text would flicker.
+    if (title != shown) {
+        SetWindowText(title);
+    }
+}
+
+void CFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
+    if (m_menuBarState == AFX_MBS_HIDDEN) {
+        return;
+    }
+    const HMENU menu = hMenuAlt ? hMenuAlt : m_hMenuDefault;
+    if (menu && ::GetMenu(m_hWnd) != menu) {
+        ::SetMenu(m_hWnd, menu);
+    }
+}
+
+void CFrameWnd::DelayUpdateFrameMenu(HMENU hMenuAlt) {
+    m_hMenuAlt = hMenuAlt;
+    m_nIdleFlags |= idleMenu;
+}
+
+DWORD CFrameWnd::GetMenuBarState() { return m_menuBarState; }
+
+BOOL CFrameWnd::SetMenuBarState(DWORD nState) {
+    if (nState == m_menuBarState || (nState != AFX_MBS_VISIBLE && nState != AFX_MBS_HIDDEN)) {
+        return FALSE;
+    }
+    if (!m_hMenuDefault) {
+        m_hMenuDefault = ::GetMenu(m_hWnd);
+    }
+    if (!m_hMenuDefault) {
+        return FALSE;
+    }
+    m_menuBarState = nState;
+    if (nState == AFX_MBS_VISIBLE) {
+        OnShowMenuBar();
+    } else {
+        OnHideMenuBar();
+    }
+    ::SetMenu(m_hWnd, nState == AFX_MBS_VISIBLE ? m_hMenuDefault : nullptr);
+    return TRUE;
+}
+
+DWORD CFrameWnd::GetMenuBarVisibility() { return m_menuBarVisibility; }
+
+void CFrameWnd::SetMenuBarVisibility(DWORD nStyle) {
+    if (nStyle == 0 || (nStyle & ~(AFX_MBV_KEEPVISIBLE | AFX_MBV_DISPLAYONFOCUS | AFX_MBV_DISPLAYONF10)) != 0) {
+        return;
+    }
+    m_menuBarVisibility = nStyle;
+    SetMenuBarState(nStyle == AFX_MBV_KEEPVISIBLE ? AFX_MBS_VISIBLE : AFX_MBS_HIDDEN);
+}
+
+void CFrameWnd::OnShowMenuBar() {}
+
+void CFrameWnd::OnHideMenuBar() {}
+
+void CFrameWnd::OnSysCommand(UINT nID, LPARAM lParam) {
+    if ((nID & 0xFFF0) == SC_KEYMENU && m_menuBarVisibility != AFX_MBV_KEEPVISIBLE && lParam != ' ') {
+        m_isMenuBarShownForKeys = SetMenuBarState(AFX_MBS_VISIBLE) != FALSE;
+    }
+    CWnd::OnSysCommand(nID, lParam);
+}
+
+void CFrameWnd::OnExitMenuLoop(BOOL bIsTrackPopupMenu) {
+    CWnd::OnExitMenuLoop(bIsTrackPopupMenu);
+    if (std::exchange(m_isMenuBarShownForKeys, false)) {
+        SetMenuBarState(AFX_MBS_HIDDEN);
+    }
+}

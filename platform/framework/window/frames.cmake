@@ -1,0 +1,35 @@
+# Frames, MDI, dialogs and controls.
+target_sources(framework PRIVATE
+  ${CMAKE_CURRENT_LIST_DIR}/control_button_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_combo_box.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_edit_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_header_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_list_box.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_list_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_message.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_progress_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_rich_edit_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_scroll_bar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_slider_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_spin_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_static_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_status_bar_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_tab_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_tool_bar_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_tool_tip_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/control_tree_control.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dialog_data_exchange.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dialog_ex.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dialog_window.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_control_bar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_ex.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_impl.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_layout.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_messages.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_status_bar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_window.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/mdi_child.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/mdi_child_ex.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/mdi_frame.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/mdi_frame_ex.cpp
+)
