@@ -176,7 +176,7 @@ public:
 
     // For containers: set the state and tell the element (OnHighlight, OnEnable, OnCheck, OnSetFocus) where it changed.
     void SetHighlighted(BOOL bHighlighted);
-    void SetPressed(BOOL bPressed) { m_bIsPressed = bPressed; }
+    virtual void SetPressed(BOOL bPressed) { m_bIsPressed = bPressed; }
     void SetFocused(BOOL bFocused);
     void SetDisabled(BOOL bDisabled);
     void SetChecked(BOOL bChecked, BOOL bIsRadio = FALSE);

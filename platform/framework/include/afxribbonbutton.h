@@ -89,6 +89,8 @@ public:
     void SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) override;
     void SetOriginal(CMFCRibbonBaseElement* pOriginal) override;
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
+    // Opens the menu, or the sub-items as a menu, below the button; returns when it has closed.
+    void OnShowPopupMenu() override;
     void ClosePopupMenu() override;
 
     CMFCRibbonBaseElement* Find(const CMFCRibbonBaseElement* pElement) override;
@@ -120,6 +122,7 @@ protected:
     BOOL DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage);
     void ReleaseIcons();
     void CopySubItems(const CMFCRibbonButton& src);
+    void ForgetPopup();
 
     HICON m_hIcon = nullptr;
     HICON m_hIconSmall = nullptr;

@@ -35,6 +35,7 @@ public:
     void OnLButtonDown(CPoint point) override;
     void OnLButtonUp(CPoint point) override;
     void OnHighlight(BOOL bHighlight) override;
+    void SetPressed(BOOL bPressed) override;
 
 protected:
     CMFCRibbonSlider() = default;

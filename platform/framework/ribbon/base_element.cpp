@@ -242,7 +242,7 @@ void CMFCRibbonBaseElement::SetDisabled(BOOL bDisabled) {
         return;
     m_bIsDisabled = bDisabled;
     if (bDisabled)
-        m_bIsPressed = FALSE;
+        SetPressed(FALSE);
     OnEnable(!bDisabled);
     Redraw();
 }

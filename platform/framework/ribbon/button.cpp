@@ -41,6 +41,7 @@ CMFCRibbonButton::CMFCRibbonButton(UINT nID, LPCTSTR lpszText, HICON hIcon, BOOL
 }
 
 CMFCRibbonButton::~CMFCRibbonButton() {
+    ForgetPopup();
     RemoveAllSubItems();
     ReleaseIcons();
 }

@@ -163,6 +163,13 @@ BOOL CMFCRibbonSlider::OnAutoRepeat() {
     return TRUE;
 }
 
+// A press can end without a release, when the parent window loses the capture.
+void CMFCRibbonSlider::SetPressed(BOOL bPressed) {
+    CMFCRibbonBaseElement::SetPressed(bPressed);
+    if (!bPressed)
+        m_PressedPart = RibbonSliderPart::None;
+}
+
 void CMFCRibbonSlider::OnHighlight(BOOL bHighlight) {
     if (!bHighlight)
         m_HotPart = RibbonSliderPart::None;

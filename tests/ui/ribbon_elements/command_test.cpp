@@ -126,10 +126,7 @@ TEST_F(Commands, ALabelSendsNoneEvenWithAnId) {
 class PopupButton : public CMFCRibbonButton {
 public:
     using CMFCRibbonButton::CMFCRibbonButton;
-    void OnShowPopupMenu() override {
-        ++popups;
-        CMFCRibbonButton::OnShowPopupMenu();
-    }
+    void OnShowPopupMenu() override { ++popups; }
     int popups = 0;
 };
 
@@ -155,6 +152,57 @@ TEST_F(Commands, AMenuButtonOpensOnThePressAndSendsNothing) {
     Click(button, button.GetRect().CenterPoint());
     EXPECT_EQ(button.popups, 1);
     EXPECT_TRUE(window.commands.empty());
+}
+
+TEST_F(Commands, SubItemsAreShownAsAMenuAndTheChosenOneSendsItsCommand) {
+    CMFCRibbonButton button(kId, L"Shapes");
+    button.AddSubItem(new CMFCRibbonButton(11, L"Line"));
+    button.AddSubItem(new CMFCRibbonSeparator);
+    auto* inner = new CMFCRibbonButton(12, L"More");
+    inner->AddSubItem(new CMFCRibbonButton(13, L"Star"));
+    button.AddSubItem(inner);
+    auto* hidden = new CMFCRibbonButton(14, L"Hidden");
+    hidden->SetVisible(FALSE);
+    button.AddSubItem(hidden);
+    button.AddSubItem(new CMFCRibbonButton(15, L"Circle"));
+    Shown(button);
+    CountingPopupMenu popup(3 /* third command: Line, Star, Circle */);
+    Click(button, button.GetRect().CenterPoint());
+    EXPECT_EQ(popup.Count(), 1);
+    EXPECT_EQ(popup.LastItemCount(), 4);
+    EXPECT_EQ(window.commands, std::vector<UINT>{15});
+    EXPECT_FALSE(button.IsDroppedDown());
+}
+
+TEST_F(Commands, AMenuLeftWithoutAChoiceSendsNothing) {
+    CMFCRibbonButton button(kId, L"Shapes");
+    button.AddSubItem(new CMFCRibbonButton(11, L"Line"));
+    Shown(button);
+    CountingPopupMenu popup(0);
+    Click(button, button.GetRect().CenterPoint());
+    EXPECT_EQ(popup.Count(), 1);
+    EXPECT_TRUE(window.commands.empty());
+    button.SetDisabled(TRUE);
+    button.OnShowPopupMenu();
+    EXPECT_EQ(popup.Count(), 1);
+}
+
+TEST_F(Commands, AMenuHandleIsShownInPlaceOfSubItems) {
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, 21, L"One");
+    menu.AppendMenu(MF_STRING, 22, L"Two");
+    CMFCRibbonButton button(kId, L"Shapes");
+    button.SetMenu(menu.GetSafeHmenu(), TRUE);
+    Shown(button);
+    CountingPopupMenu popup(0);
+    Click(button, button.GetMenuRect().CenterPoint());
+    EXPECT_EQ(popup.LastItemCount(), 2);
+    EXPECT_EQ(popup.LastPoint().y, [&] {
+        CRect rect = button.GetRect();
+        window.ClientToScreen(rect);
+        return rect.bottom;
+    }());
 }
 
 TEST_F(Commands, HighlightFollowsThePointerBetweenTheAreas) {
@@ -197,6 +245,17 @@ TEST_F(Commands, ADragSendsTheCommandAtEachNewPosition) {
     EXPECT_EQ(positions, (std::vector<int>{1, 2, 3, 4}));
     slider.OnMouseMove({thumb.x + 20, thumb.y});
     EXPECT_EQ(slider.GetPos(), 4);
+}
+
+TEST_F(Commands, ADragEndsWhenThePressIsTakenAway) {
+    ProbeSlider slider;
+    Shown(slider);
+    const CPoint thumb = slider.GetThumbRect().CenterPoint();
+    slider.OnLButtonDown(thumb);
+    slider.SetPressed(FALSE); // what a parent does that loses the capture
+    slider.OnMouseMove({thumb.x + 20, thumb.y});
+    EXPECT_EQ(slider.GetPos(), 0);
+    EXPECT_TRUE(window.commands.empty());
 }
 
 TEST_F(Commands, AClickOnTheChannelMovesTheThumbThere) {
