@@ -29,26 +29,22 @@ private:
     /// Whether the children of the node are to be read.
     bool Read(const CXmlNodeWrapper& node, std::size_t depth) {
         RibbonRecord& parent = *m_open[depth - 1];
-        const RibbonInfo* const before = parent.children.empty() ? &parent.info : &parent.children.back().info;
-        RibbonRecord& record = AddChild(parent);
+        RibbonRecord& record = parent.children.emplace_back();
+        m_open[depth] = &record;
         // Panels and sub-items are read into the record that was read before them.
         if (depth == PanelDepth || depth == SubItemDepth)
-            CarryOver(*before, record.info);
+            CarryOver(parent.children.size() == 1 ? parent.info : parent.children.end()[-2].info, record.info);
         ReadRibbonInfo(node, record.info, m_diagnostics);
-        m_open[depth] = &record;
 
         if (depth == RowDepth)
-            m_rowKind = KindOfRow(m_open[depth]->info.keyword);
+            m_rowKind = KindOfRow(record.info.keyword);
         const bool goesDeeper = depth < LastDepth();
         if (m_diagnostics.IsListening())
             ReportOn(node, depth, goesDeeper);
         if (goesDeeper)
-            m_open[depth]->children.reserve(node.GetChildCount());
+            record.children.reserve(node.GetChildCount());
         return goesDeeper;
     }
-
-    /// The children were reserved when the walk came to their parent, so no reference to one goes bad.
-    static RibbonRecord& AddChild(RibbonRecord& parent) { return parent.children.emplace_back(); }
 
     static void CarryOver(const RibbonInfo& before, RibbonInfo& info) {
         info.picDisPath = before.picDisPath;

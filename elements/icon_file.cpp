@@ -1,36 +1,57 @@
 #include "elements/icon_file.h"
 
-#include <cstdint>
 #include <map>
 #include <string>
 
+std::size_t FileIcon::s_readCount = 0;
+std::size_t FileIcon::s_aliveCount = 0;
+
 namespace {
 
-/// Changes with the file; 0 where there is none.
-std::uint64_t TimeStampOf(const wchar_t* path) {
+/// What changes when a file is written anew.
+struct FileStamp {
+    ULONGLONG writeTime = 0;
+    ULONGLONG size = 0;
+    bool operator==(const FileStamp&) const = default;
+};
+
+ULONGLONG Joined(DWORD high, DWORD low) { return (static_cast<ULONGLONG>(high) << 32) | low; }
+
+/// All zero where there is no file.
+FileStamp StampOf(const wchar_t* path) {
     WIN32_FILE_ATTRIBUTE_DATA data;
     if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &data))
-        return 0;
-    return (static_cast<std::uint64_t>(data.ftLastWriteTime.dwHighDateTime) << 32) | data.ftLastWriteTime.dwLowDateTime;
+        return {};
+    return {Joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime),
+            Joined(data.nFileSizeHigh, data.nFileSizeLow)};
 }
 
 } // namespace
 
-OwnedIcon LoadIconFile(const wchar_t* path, int side) {
+FileIcon::FileIcon(const wchar_t* path, int side) {
     if (!*path)
-        return {};
-    return OwnedIcon(static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, side, side, LR_LOADFROMFILE)));
+        return;
+    ++s_readCount;
+    m_icon = static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, side, side, LR_LOADFROMFILE));
+    if (m_icon)
+        ++s_aliveCount;
+}
+
+FileIcon::~FileIcon() {
+    if (!m_icon)
+        return;
+    ::DestroyIcon(m_icon);
+    --s_aliveCount;
 }
 
 void TryIconFile(const wchar_t* path, int side) {
     if (!*path)
         return;
-    // User-interface thread only, like every ribbon element.
-    static std::map<std::pair<std::wstring, int>, std::uint64_t> triedStamps;
-    const std::uint64_t stamp = TimeStampOf(path);
-    const auto [tried, isNew] = triedStamps.try_emplace({path, side}, stamp);
+    static std::map<std::pair<std::wstring, int>, FileStamp> stamps;
+    const FileStamp stamp = StampOf(path);
+    const auto [tried, isNew] = stamps.try_emplace({path, side}, stamp);
     if (!isNew && tried->second == stamp)
         return;
     tried->second = stamp;
-    LoadIconFile(path, side);
+    const FileIcon trial(path, side);
 }

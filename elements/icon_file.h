@@ -2,31 +2,35 @@
 
 #include <windows.h>
 
+#include <cstddef>
 #include <utility>
 
-/// Owns an icon handle; may be empty.
-class OwnedIcon {
+/// Owns an icon that was loaded from a file; may be empty.
+class FileIcon {
 public:
-    OwnedIcon() = default;
-    explicit OwnedIcon(HICON icon) : m_icon(icon) {}
-    OwnedIcon(OwnedIcon&& other) noexcept : m_icon(std::exchange(other.m_icon, nullptr)) {}
-    OwnedIcon& operator=(OwnedIcon&& other) noexcept {
+    FileIcon() = default;
+    /// The file at `side` x `side` pixels; empty for an empty path and for what is not a loadable icon.
+    FileIcon(const wchar_t* path, int side);
+    FileIcon(FileIcon&& other) noexcept : m_icon(std::exchange(other.m_icon, nullptr)) {}
+    FileIcon& operator=(FileIcon&& other) noexcept {
         std::swap(m_icon, other.m_icon);
         return *this;
     }
-    ~OwnedIcon() {
-        if (m_icon)
-            ::DestroyIcon(m_icon);
-    }
+    ~FileIcon();
 
     HICON Get() const { return m_icon; }
 
+    /// Files that were read, successfully or not, and icons that are loaded now, in the whole process.
+    static std::size_t GetReadCount() { return s_readCount; }
+    static std::size_t GetAliveCount() { return s_aliveCount; }
+
 private:
+    // User-interface thread only, like every ribbon element.
+    static std::size_t s_readCount;
+    static std::size_t s_aliveCount;
+
     HICON m_icon = nullptr;
 };
-
-/// The icon file at `side` x `side` pixels; empty for an empty path and for what is not a loadable icon.
-OwnedIcon LoadIconFile(const wchar_t* path, int side);
 
 /// Loads an icon file once as a test and releases it. A file that was tried and has not changed since is not read
 /// again, so that thousands of buttons with the same few pictures cost one look at the file's time stamp each.

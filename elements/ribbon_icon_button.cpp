@@ -104,8 +104,8 @@ void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original,
 
 void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect) {
     const bool alternate = s_skinStyle == L"0";
-    const OwnedIcon large = LoadIconFile(alternate ? m_largeAlternatePath : m_largeIconPath, largeSide);
-    const OwnedIcon small = LoadIconFile(alternate ? m_smallAlternatePath : m_smallIconPath, smallSide);
+    const FileIcon large(alternate ? m_largeAlternatePath : m_largeIconPath, largeSide);
+    const FileIcon small(alternate ? m_smallAlternatePath : m_smallIconPath, smallSide);
     // The handles are the element's own for the time of this draw only.
     const Lent largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);
     if (!m_hIcon) {
