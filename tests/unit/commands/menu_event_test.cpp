@@ -77,9 +77,7 @@ TEST_F(CommandDispatch, WithoutReactorsNothingIsHandled) {
     EXPECT_FALSE(Dispatcher().DisableMain());
 }
 
-TEST_F(CommandDispatch, InsIsAlwaysTheSameInstance) {
-    EXPECT_EQ(CMenuEvtHandleMgr::Ins(), CMenuEvtHandleMgr::Ins());
-}
+TEST_F(CommandDispatch, InsIsAlwaysTheSameInstance) { EXPECT_EQ(CMenuEvtHandleMgr::Ins(), CMenuEvtHandleMgr::Ins()); }
 
 TEST_F(CommandDispatch, ReactorsAreAskedInOrderOfRegistrationUntilOneHandles) {
     Add("A", false);

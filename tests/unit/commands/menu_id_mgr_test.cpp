@@ -47,13 +47,9 @@ const Query textQueries[] = {
     {"GetHelpFile", [](const CMenuIdMgr& r, int id, std::wstring& text) { return r.GetHelpFile(id, text); }},
 };
 
-TEST_F(CommandRegistry, CounterStartsAt41000) {
-    EXPECT_EQ(CMenuIdMgr::s_AddBeginID, 41000u);
-}
+TEST_F(CommandRegistry, CounterStartsAt41000) { EXPECT_EQ(CMenuIdMgr::s_AddBeginID, 41000u); }
 
-TEST_F(CommandRegistry, MutexCarriesItsName) {
-    EXPECT_EQ(CMenuIdMgr::m_mutex.getPrompt(), "CMenuIdMgr::m_mutex");
-}
+TEST_F(CommandRegistry, MutexCarriesItsName) { EXPECT_EQ(CMenuIdMgr::m_mutex.getPrompt(), "CMenuIdMgr::m_mutex"); }
 
 TEST_F(CommandRegistry, InstanceExistsFromTheFirstInsUntilDestroy) {
     EXPECT_EQ(CMenuIdMgr::s_pMenuMgr, nullptr);

@@ -37,17 +37,13 @@ TEST(MediaFolder, BackslashIsAppendedWhereItIsMissing) {
     EXPECT_EQ(MediaFolderOf(L"C:\\video\\"), L"C:\\video\\Media\\");
 }
 
-TEST(MediaFolder, EmptyValueGivesEmptyText) {
-    EXPECT_EQ(MediaFolderOf(L""), L"");
-}
+TEST(MediaFolder, EmptyValueGivesEmptyText) { EXPECT_EQ(MediaFolderOf(L""), L""); }
 
 TEST(MediaFolder, OneCharacterGetsNoBackslash) {
     EXPECT_EQ(MediaFolderOf(L"C"), L"CMedia\\");
     EXPECT_EQ(MediaFolderOf(L"\\"), L"\\Media\\");
 }
 
-TEST(MediaFolder, TwoCharactersGetABackslash) {
-    EXPECT_EQ(MediaFolderOf(L"C:"), L"C:\\Media\\");
-}
+TEST(MediaFolder, TwoCharactersGetABackslash) { EXPECT_EQ(MediaFolderOf(L"C:"), L"C:\\Media\\"); }
 
 } // namespace

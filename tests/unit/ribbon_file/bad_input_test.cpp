@@ -1,5 +1,5 @@
 #include "config/ribbon_file.h"
-#include "tests/unit/ribbon_file/translation_tables.h"
+#include "tests/support/translation_tables.h"
 
 #include <gtest/gtest.h>
 

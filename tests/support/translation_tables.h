@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/unit/ribbon_file/temporary_directory.h"
+#include "tests/support/temporary_directory.h"
 
 #include <varnhold/file_op.h>
 #include <varnhold/language.h>

@@ -1,0 +1,406 @@
+#include "elements/icon_file.h"
+#include "ribbon_icon_button.h"
+#include "tests/support/canvas.h"
+#include "tests/support/icon_writer.h"
+#include "tests/support/translation_tables.h"
+#include "tests/support/ui_test.h"
+
+#include <afxglobals.h>
+
+#include <varnhold/language.h>
+
+#include <memory>
+
+namespace {
+
+constexpr std::uint32_t red = 0xFF0000;
+constexpr std::uint32_t green = 0x00FF00;
+constexpr std::uint32_t blue = 0x0000FF;
+constexpr std::uint32_t yellow = 0xFFFF00;
+
+class IconButton : public testing::Test {
+protected:
+    ~IconButton() override {
+        CMFCRibbonUNIcoButton::SetSkinStyle(CString());
+        afxGlobalData.SetRibbonImageScale(1.0);
+        EXPECT_EQ(FileIcon::GetAliveCount(), 0u) << "an icon was not released";
+    }
+    void SetUp() override {
+        ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.0));
+        m_large = WriteIcon("pic/modle/large.ico", 32, red);
+        m_small = WriteIcon("pic/modle/small.ico", 16, green);
+        WriteIcon("pic/modle_0/large.ico", 32, blue);
+        WriteIcon("pic/modle_0/small.ico", 16, yellow);
+    }
+
+    CString WriteIcon(const std::string& name, int side, std::uint32_t colour) {
+        return m_directory.Write(name, MakeIconFile(side, {colour, colour})).c_str();
+    }
+    std::unique_ptr<CMFCRibbonUNIcoButton> MakeButton(BOOL keepLarge = FALSE) const {
+        return std::make_unique<CMFCRibbonUNIcoButton>(1, L"text", m_large, FALSE, m_small, TRUE, FALSE, keepLarge);
+    }
+
+    /// The colour near the corner of the picture that the button draws at (10, 20).
+    std::uint32_t ColourDrawn(CMFCRibbonUNIcoButton& button, CMFCRibbonBaseElement::RibbonImageType type) {
+        m_canvas.Clear();
+        button.DrawImage(m_canvas.Dc(), type, CRect(10, 20, 64, 64));
+        return m_canvas.At(14, 24);
+    }
+    CSize ExtentDrawn(CMFCRibbonUNIcoButton& button, CMFCRibbonBaseElement::RibbonImageType type) {
+        ColourDrawn(button, type);
+        return m_canvas.Extent();
+    }
+
+    static constexpr auto Large = CMFCRibbonBaseElement::RibbonImageLarge;
+    static constexpr auto Small = CMFCRibbonBaseElement::RibbonImageSmall;
+
+    TemporaryDirectory m_directory;
+    CString m_large;
+    CString m_small;
+    Canvas m_canvas;
+};
+
+TEST_F(IconButton, PathsAreGivenBackAsConfigured) {
+    const auto button = MakeButton();
+    EXPECT_EQ(button->GetIconPath(TRUE), m_large);
+    EXPECT_EQ(button->GetIconPath(2), m_large);
+    EXPECT_EQ(button->GetIconPath(FALSE), m_small);
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(button->GetIconPath(TRUE), m_large);
+}
+
+TEST_F(IconButton, DrawsThePrimaryFilesWithoutASkinStyle) {
+    const auto button = MakeButton();
+    EXPECT_EQ(ColourDrawn(*button, Large), red);
+    EXPECT_EQ(ColourDrawn(*button, Small), green);
+}
+
+TEST_F(IconButton, SkinStyleZeroSelectsTheAlternateFiles) {
+    const auto button = MakeButton();
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(*button, Large), blue);
+    EXPECT_EQ(ColourDrawn(*button, Small), yellow);
+}
+
+TEST_F(IconButton, AnyOtherSkinStyleSelectsThePrimaryFiles) {
+    const auto button = MakeButton();
+    for (const wchar_t* style : {L"1", L"00", L" 0", L"black", L""}) {
+        CMFCRibbonUNIcoButton::SetSkinStyle(style);
+        EXPECT_EQ(ColourDrawn(*button, Large), red) << style;
+    }
+}
+
+TEST_F(IconButton, KeptLargePathIsItsOwnAlternateWhileTheSmallOneIsFormed) {
+    const auto button = MakeButton(TRUE);
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(*button, Large), red);
+    EXPECT_EQ(ColourDrawn(*button, Small), yellow);
+}
+
+TEST_F(IconButton, EveryModleInAPathIsReplaced) {
+    const CString twice = WriteIcon("modle/modle/x.ico", 32, red);
+    WriteIcon("modle_0/modle_0/x.ico", 32, blue);
+    CMFCRibbonUNIcoButton button(1, L"", twice, FALSE, CString());
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(button, Large), blue);
+}
+
+TEST_F(IconButton, SmallPictureComesFromTheLargeFileWhereThereIsNoSmallOne) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large);
+    EXPECT_EQ(ColourDrawn(button, Small), red);
+    EXPECT_EQ(ExtentDrawn(button, Small), CSize(26, 36));
+}
+
+TEST_F(IconButton, SmallFileThatIsMissingIsSkipped) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small + L".missing");
+    EXPECT_EQ(ColourDrawn(button, Small), red);
+}
+
+TEST_F(IconButton, PictureStandsAtTheCornerOfItsRectangleInItsOwnSize) {
+    const auto button = MakeButton();
+    EXPECT_EQ(ExtentDrawn(*button, Large), CSize(42, 52));
+    EXPECT_EQ(m_canvas.At(9, 20), Canvas::background);
+    EXPECT_EQ(m_canvas.At(10, 19), Canvas::background);
+    EXPECT_EQ(m_canvas.At(10, 20), red);
+    EXPECT_EQ(ExtentDrawn(*button, Small), CSize(26, 36));
+}
+
+TEST_F(IconButton, PictureIsScaledWithTheRibbon) {
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
+    const auto button = MakeButton();
+    EXPECT_EQ(ExtentDrawn(*button, Small), CSize(34, 44));
+}
+
+TEST_F(IconButton, LargeFileThatIsMissingDrawsNothingWithoutImageIndexes) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large + L".missing", FALSE, m_small);
+    EXPECT_EQ(ExtentDrawn(button, Large), CSize(0, 0));
+    EXPECT_EQ(ExtentDrawn(button, Small), CSize(0, 0));
+}
+
+TEST_F(IconButton, WithoutPathsNothingIsDrawnEvenWithIcons) {
+    const FileIcon icon(m_large, 32);
+    ASSERT_NE(icon.Get(), nullptr);
+    CMFCRibbonUNIcoButton withIcon(1, L"", icon.Get());
+    EXPECT_EQ(ExtentDrawn(withIcon, Large), CSize(0, 0));
+    CMFCRibbonUNIcoButton withIndexes(1, L"", 0, 0);
+    EXPECT_EQ(ExtentDrawn(withIndexes, Large), CSize(0, 0));
+    CMFCRibbonUNIcoButton empty;
+    EXPECT_EQ(ExtentDrawn(empty, Large), CSize(0, 0));
+    EXPECT_TRUE(empty.GetIconPath(TRUE).IsEmpty());
+}
+
+TEST_F(IconButton, DirectoryInPlaceOfAnIconDrawsNothing) {
+    CMFCRibbonUNIcoButton button(1, L"", CString(m_directory.Path().wstring().c_str()), FALSE, CString());
+    EXPECT_EQ(ExtentDrawn(button, Large), CSize(0, 0));
+}
+
+TEST_F(IconButton, FileThatIsNoIconDrawsNothing) {
+    const std::string icon = MakeIconFile(32, {red, red});
+    for (const std::string& bytes :
+         {std::string(), std::string("not an icon"), icon.substr(0, 6), icon.substr(0, 30)}) {
+        CMFCRibbonUNIcoButton button(1, L"", CString(m_directory.Write("bad.ico", bytes).c_str()), FALSE, CString());
+        EXPECT_EQ(ExtentDrawn(button, Large), CSize(0, 0)) << bytes.size() << " bytes";
+    }
+}
+
+TEST_F(IconButton, DisabledButtonIsDrawnGreyAndNotInTheIconsColours) {
+    const auto button = MakeButton();
+    button->SetDisabled(TRUE);
+    for (const auto type : {Large, Small}) {
+        const std::uint32_t colour = ColourDrawn(*button, type);
+        EXPECT_NE(colour, red);
+        EXPECT_NE(colour, green);
+        EXPECT_NE(colour, Canvas::background);
+    }
+    EXPECT_EQ(ExtentDrawn(*button, Large), CSize(42, 52));
+    EXPECT_EQ(ExtentDrawn(*button, Small), CSize(26, 36));
+}
+
+TEST_F(IconButton, FilesAreReadAtEveryDrawAndReleasedAfterwards) {
+    const auto button = MakeButton();
+    const std::size_t before = FileIcon::GetReadCount();
+    ColourDrawn(*button, Large);
+    EXPECT_EQ(FileIcon::GetReadCount(), before + 2);
+    EXPECT_EQ(FileIcon::GetAliveCount(), 0u);
+    WriteIcon("pic/modle/large.ico", 32, blue);
+    EXPECT_EQ(ColourDrawn(*button, Large), blue);
+    EXPECT_EQ(FileIcon::GetReadCount(), before + 4);
+}
+
+TEST_F(IconButton, NoHandleIsKeptAfterConstructionOrDrawing) {
+    const auto button = MakeButton();
+    EXPECT_EQ(button->GetIcon(TRUE), nullptr);
+    EXPECT_EQ(button->GetIcon(FALSE), nullptr);
+    ColourDrawn(*button, Large);
+    EXPECT_EQ(button->GetIcon(TRUE), nullptr);
+    EXPECT_EQ(button->GetIcon(FALSE), nullptr);
+}
+
+TEST_F(IconButton, FileThatWasTriedIsNotReadAgainUntilItChanges) {
+    const auto first = MakeButton();
+    const std::size_t before = FileIcon::GetReadCount();
+    for (int i = 0; i < 100; ++i)
+        MakeButton();
+    EXPECT_EQ(FileIcon::GetReadCount(), before);
+    m_directory.Write("pic/modle/large.ico", MakeIconFile(32, {blue, blue}) + "longer than before");
+    MakeButton();
+    EXPECT_EQ(FileIcon::GetReadCount(), before + 1);
+    MakeButton();
+    EXPECT_EQ(FileIcon::GetReadCount(), before + 1);
+}
+
+TEST_F(IconButton, MissingFileIsTriedAgainOnceItIsThere) {
+    const CString path = m_large + L".later";
+    const auto make = [&path] { CMFCRibbonUNIcoButton button(1, L"", path, FALSE, CString()); };
+    make();
+    const std::size_t before = FileIcon::GetReadCount();
+    make();
+    EXPECT_EQ(FileIcon::GetReadCount(), before);
+    WriteIcon("pic/modle/large.ico.later", 32, red);
+    make();
+    EXPECT_EQ(FileIcon::GetReadCount(), before + 1);
+}
+
+TEST_F(IconButton, ImageSizeIs16And32AndScales) {
+    const auto button = MakeButton();
+    EXPECT_EQ(button->GetImageSize(Small), CSize(16, 16));
+    EXPECT_EQ(button->GetImageSize(Large), CSize(32, 32));
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
+    EXPECT_EQ(button->GetImageSize(Small), CSize(24, 24));
+    EXPECT_EQ(button->GetImageSize(Large), CSize(48, 48));
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.28));
+    EXPECT_EQ(button->GetImageSize(Small), CSize(20, 20));
+    EXPECT_EQ(button->GetImageSize(Large), CSize(41, 41));
+}
+
+TEST_F(IconButton, ImageSizeIsNotScaledWhileScalingIsOff) {
+    const auto button = MakeButton();
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
+    afxGlobalData.EnableRibbonImageScale(FALSE);
+    EXPECT_EQ(button->GetImageSize(Large), CSize(32, 32));
+    afxGlobalData.EnableRibbonImageScale(TRUE);
+}
+
+TEST_F(IconButton, ImageSizeDoesNotDependOnWhetherTheFileIsThere) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large + L".missing", FALSE, CString());
+    EXPECT_EQ(button.GetImageSize(Large), CSize(32, 32));
+}
+
+TEST_F(IconButton, WithoutALargePathTheFrameworksRuleGivesTheImageSize) {
+    CMFCRibbonUNIcoButton button(1, L"", CString(), FALSE, m_small);
+    EXPECT_EQ(button.GetImageSize(Large), CSize(0, 0));
+    EXPECT_EQ(button.GetImageSize(Small), CSize(0, 0));
+}
+
+TEST_F(IconButton, CopyTakesThePathsAndNotTheAlternates) {
+    const auto source = MakeButton();
+    CMFCRibbonUNIcoButton copy;
+    copy.CopyFrom(*source);
+    EXPECT_EQ(copy.GetIconPath(TRUE), m_large);
+    EXPECT_EQ(copy.GetIconPath(FALSE), m_small);
+    EXPECT_EQ(copy.GetID(), 1u);
+    EXPECT_EQ(CString(copy.GetText()), L"text");
+    EXPECT_EQ(ExtentDrawn(copy, Large), CSize(0, 0)) << "without an alternate path nothing is drawn";
+}
+
+TEST_F(IconButton, ButtonThatDestroysItsIconsKeepsItsOwnPaths) {
+    CMFCRibbonUNIcoButton target(2, L"", m_small, FALSE, m_large, TRUE);
+    target.CopyFrom(*MakeButton());
+    EXPECT_EQ(target.GetIconPath(TRUE), m_small);
+    EXPECT_EQ(target.GetIconPath(FALSE), m_large);
+}
+
+TEST_F(IconButton, CopyOfAnotherKindOfButtonTakesNoPaths) {
+    CMFCRibbonUNIcoButton target(2, L"", m_large, FALSE, m_small, FALSE);
+    const CMFCRibbonButton other(3, L"other");
+    target.CopyFrom(other);
+    EXPECT_EQ(target.GetIconPath(TRUE), m_large);
+    EXPECT_EQ(CString(target.GetText()), L"other");
+}
+
+TEST_F(IconButton, LinkedCopyDrawsThroughItsOriginal) {
+    const auto original = MakeButton();
+    CMFCRibbonUNIcoButton copy;
+    copy.CopyFrom(*original);
+    copy.SetOriginal(original.get());
+    EXPECT_EQ(ColourDrawn(copy, Large), red);
+    EXPECT_EQ(ColourDrawn(copy, Small), green);
+    EXPECT_EQ(copy.GetImageSize(Large), CSize(32, 32));
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(copy, Large), blue);
+}
+
+TEST_F(IconButton, OriginalIsLentDisabledFlagAndRectangleAndGetsItsOwnBack) {
+    const auto original = MakeButton();
+    original->SetRect(CRect(1, 2, 3, 4));
+    CMFCRibbonUNIcoButton copy;
+    copy.SetOriginal(original.get());
+    copy.SetRect(CRect(5, 6, 7, 8));
+    copy.SetDisabled(TRUE);
+    EXPECT_NE(ColourDrawn(copy, Large), red) << "drawn disabled";
+    EXPECT_FALSE(original->IsDisabled());
+    EXPECT_EQ(original->GetRect(), CRect(1, 2, 3, 4));
+
+    original->SetDisabled(TRUE);
+    copy.SetDisabled(FALSE);
+    EXPECT_EQ(ColourDrawn(copy, Large), red) << "drawn enabled";
+    EXPECT_TRUE(original->IsDisabled());
+}
+
+TEST_F(IconButton, OriginalOfAnotherKindIsNotAsked) {
+    CMFCRibbonButton original(1, L"");
+    const auto button = MakeButton();
+    button->SetOriginal(&original);
+    EXPECT_EQ(ColourDrawn(*button, Large), red);
+    EXPECT_EQ(button->GetImageSize(Large), CSize(32, 32));
+}
+
+TEST_F(IconButton, IsMadeByItsRunTimeClass) {
+    for (CRuntimeClass* runtimeClass : {RUNTIME_CLASS(CMFCRibbonUNIcoButton), RUNTIME_CLASS(CMFCRibbonSmallButton)}) {
+        const std::unique_ptr<CObject> made(runtimeClass->CreateObject());
+        ASSERT_NE(made, nullptr) << runtimeClass->m_lpszClassName;
+        EXPECT_TRUE(made->IsKindOf(RUNTIME_CLASS(CMFCRibbonUNIcoButton)));
+        EXPECT_EQ(made->GetRuntimeClass(), runtimeClass);
+    }
+}
+
+/// Keeps the texts that it is asked to draw.
+class TextKeepingButton : public CMFCRibbonUNIcoButton {
+public:
+    using CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton;
+    int DrawRibbonText(CDC*, const CString& text, CRect, UINT, COLORREF) override {
+        drawn += text.GetString();
+        return 0;
+    }
+    std::wstring drawn;
+};
+
+TEST_F(IconButton, TextIsTranslatedAtEveryDrawAndPutBack) {
+    const TranslatedInstallation installation;
+    TextKeepingButton button(1, L"key", m_large, FALSE, m_small);
+    TestWindow window;
+    button.SetParentWnd(&window);
+    button.SetIntermediateMode(TRUE);
+    button.SetRect(CRect(0, 0, 64, 24));
+
+    ASSERT_TRUE(installation.Translate("key", "Common", "one "));
+    button.OnDraw(m_canvas.Dc());
+    EXPECT_EQ(button.drawn, L"one <key>");
+    EXPECT_EQ(CString(button.GetText()), L"key");
+
+    button.drawn.clear();
+    ASSERT_TRUE(installation.Translate("key", "Common", "two "));
+    button.OnDraw(m_canvas.Dc());
+    EXPECT_EQ(button.drawn, L"two <key>");
+    EXPECT_EQ(CString(button.GetText()), L"key");
+}
+
+TEST_F(IconButton, KeyTipsStayWhenTheTextIsSwappedAtADraw) {
+    const TranslatedInstallation installation;
+    ASSERT_TRUE(installation.Translate("key", "Common"));
+    TextKeepingButton button(1, L"key\nK", m_large, FALSE, m_small);
+    TestWindow window;
+    button.SetParentWnd(&window);
+    button.SetRect(CRect(0, 0, 64, 24));
+    const CString keys = button.GetKeys();
+    EXPECT_EQ(keys, L"K");
+    button.OnDraw(m_canvas.Dc());
+    EXPECT_EQ(CString(button.GetKeys()), keys);
+    EXPECT_EQ(CString(button.GetText()), L"key");
+}
+
+class SmallButton : public IconButton {};
+
+TEST_F(SmallButton, HasALargeModeUntilItIsSetSmall) {
+    CMFCRibbonSmallButton button(1, L"", m_large, FALSE, m_small);
+    EXPECT_TRUE(button.HasLargeMode());
+    button.SetSmallMode();
+    EXPECT_FALSE(button.HasLargeMode());
+    button.SetLargeMode();
+    EXPECT_TRUE(button.HasLargeMode());
+}
+
+TEST_F(SmallButton, WithoutALargePictureHasNoLargeMode) {
+    EXPECT_FALSE(CMFCRibbonSmallButton().HasLargeMode());
+    EXPECT_FALSE(CMFCRibbonSmallButton(1, L"", CString(), FALSE, m_small).HasLargeMode());
+}
+
+TEST_F(SmallButton, FormsBothAlternates) {
+    CMFCRibbonSmallButton button(1, L"", m_large, FALSE, m_small);
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(button, Large), blue);
+    EXPECT_EQ(ColourDrawn(button, Small), yellow);
+}
+
+TEST_F(SmallButton, CopyTakesTheSmallMode) {
+    CMFCRibbonSmallButton source(1, L"", m_large, FALSE, m_small);
+    source.SetSmallMode();
+    CMFCRibbonSmallButton copy;
+    copy.CopyFrom(source);
+    EXPECT_EQ(copy.GetIconPath(TRUE), m_large);
+    EXPECT_FALSE(copy.HasLargeMode());
+    copy.CopyFrom(CMFCRibbonSmallButton(1, L"", m_large));
+    EXPECT_TRUE(copy.HasLargeMode());
+}
+
+} // namespace

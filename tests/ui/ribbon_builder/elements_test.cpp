@@ -1,0 +1,395 @@
+#include "ribbon_icon_button.h"
+#include "tests/ui/ribbon_builder/ribbon_fixture.h"
+
+#include <varnhold/xml.h>
+
+namespace {
+
+/// Reads an element from a literal and gives it to the builder as the host would.
+class XmlElement {
+public:
+    explicit XmlElement(const std::string& xml) { EXPECT_TRUE(m_document.LoadFromMemory(xml)) << xml; }
+    CXmlNodeWrapper Node() const { return m_document.GetDocumentElement(); }
+
+private:
+    CXmlDocumentWrapper m_document;
+};
+
+RibbonInfo InfoOf(const wchar_t* type) {
+    RibbonInfo info;
+    info.type = type;
+    info.name = L"name";
+    info.tooltip = L"tip";
+    info.picPath = L"pic\\a.ico";
+    return info;
+}
+
+std::unique_ptr<CMFCRibbonBaseElement> Make(const RibbonInfo& info, const CAddRibbonBar* owner = nullptr) {
+    return std::unique_ptr<CMFCRibbonBaseElement>(CAddRibbonBar::CreateACtrl(7, info, owner));
+}
+
+TEST_F(RibbonBuilder, EveryKindOfElementIsBuiltInOrder) {
+    ASSERT_TRUE(Load(
+        Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='button' SIZE='16'/><e KEYWORD='3' TYPE='slider'/>"
+              "<e KEYWORD='4' TYPE='LABEL'/><e KEYWORD='5' TYPE='Edit'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton 1 #1 SmallButton 2 #2 Slider 3 #3 Label 4 #4 Edit 5 #5)]");
+}
+
+TEST_F(RibbonBuilder, NamesAndTooltipsComeFromTheTranslationService) {
+    ASSERT_TRUE(m_installation.Translate("C P K"));
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON'/>")));
+    EXPECT_EQ(Outline(), L"[<C> #0 (<P> UNIcoButton K #1)]");
+    EXPECT_EQ(CString(Element(0)->GetText()), L"<K>");
+    EXPECT_EQ(Element(0)->GetToolTipText(), L"tip of <K>");
+}
+
+TEST_F(RibbonBuilder, EveryCommandIsRegisteredWithItsTexts) {
+    ASSERT_TRUE(m_installation.Translate("K"));
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' CMD='do' PARAM='with' help='own.swf'/>")));
+    const CMenuIdMgr& registry = *CMenuIdMgr::Ins();
+    int id = 0;
+    std::wstring text;
+    ASSERT_TRUE(registry.GetMenuId(L"K", id));
+    EXPECT_EQ(id, m_firstId + 1);
+    EXPECT_TRUE(registry.GetMenuName(L"K", text));
+    EXPECT_EQ(text, L"<K>");
+    EXPECT_TRUE(registry.GetToolTip(id, text));
+    EXPECT_EQ(text, L"tip of <K>");
+    EXPECT_TRUE(registry.GetCmd(id, text));
+    EXPECT_EQ(text, L"do");
+    EXPECT_TRUE(registry.GetCmdParam(id, text));
+    EXPECT_EQ(text, L"with");
+    EXPECT_EQ(HelpOf(L"K"), L"own.swf");
+}
+
+TEST_F(RibbonBuilder, CategoryIsExtendedAndCarriesItsIdUnlessCateTabIsYes) {
+    ASSERT_TRUE(Load(
+        "<r><c KEYWORD='A' NAME=''/><c KEYWORD='B' NAME='' CateTab='y'/><c KEYWORD='C' NAME='' CateTab='N'/></r>"));
+    EXPECT_EQ(Outline(), L"[A #0][B][C #1]");
+    int id = 0;
+    EXPECT_FALSE(CMenuIdMgr::Ins()->GetMenuId(L"B", id));
+}
+
+TEST_F(RibbonBuilder, CategoryOfRegisteredKeywordOffersNoHelpFile) {
+    ASSERT_TRUE(
+        Load(Panel("<e KEYWORD='X' TYPE='BUTTON' AcceptF1='N'/>") + "<r><c KEYWORD='X' help='category.swf'/></r>"));
+    EXPECT_EQ(HelpOf(L"X"), L"");
+}
+
+TEST_F(RibbonBuilder, PanelsTakeNoIds) {
+    ASSERT_TRUE(Load("<r><c KEYWORD='A'><p KEYWORD='P1'/><p KEYWORD='P2'/></c></r>"));
+    EXPECT_EQ(TakenIds(), 1);
+    int id = 0;
+    EXPECT_FALSE(CMenuIdMgr::Ins()->GetMenuId(L"P1", id));
+}
+
+TEST_F(RibbonBuilder, KeywordInTwoElementsIsRegisteredOnceAndBothGetItsId) {
+    ASSERT_TRUE(
+        Load(Panel("<e KEYWORD='K' TYPE='BUTTON' CMD='first'/><e KEYWORD='K' TYPE='BUTTON' SIZE='16' CMD='second'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton K #1 SmallButton K #1)]");
+    std::wstring cmd;
+    EXPECT_TRUE(CMenuIdMgr::Ins()->GetCmd(m_firstId + 1, cmd));
+    EXPECT_EQ(cmd, L"first");
+    EXPECT_EQ(TakenIds(), 2);
+}
+
+TEST_F(RibbonBuilder, SecondElementsHelpFileIsStoredOnlyIfTheFirstHadNone) {
+    ASSERT_TRUE(
+        Load(Panel("<e KEYWORD='K' TYPE='BUTTON' AcceptF1='N'/><e KEYWORD='K' TYPE='BUTTON' help='second.swf'/>"
+                   "<e KEYWORD='K' TYPE='BUTTON' help='third.swf'/>"
+                   "<e KEYWORD='L' TYPE='BUTTON' help='first.swf'/><e KEYWORD='L' TYPE='BUTTON' help='second.swf'/>")));
+    EXPECT_EQ(HelpOf(L"K"), L"second.swf");
+    EXPECT_EQ(HelpOf(L"L"), L"first.swf");
+}
+
+TEST_F(RibbonBuilder, UnknownTypeAddsNothingButConsumesAnId) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='a' TYPE='lamp'/><e KEYWORD='b'/><e KEYWORD='c' TYPE='BUTTON'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton c #3)]");
+    int id = 0;
+    EXPECT_TRUE(CMenuIdMgr::Ins()->GetMenuId(L"a", id));
+}
+
+TEST_F(RibbonBuilder, UnknownTypeOfARegisteredKeywordConsumesNoId) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='C' TYPE='lamp'/>")));
+    EXPECT_EQ(TakenIds(), 1);
+}
+
+TEST_F(RibbonBuilder, ElementWithoutKeywordConsumesAnIdThatLeadsNowhere) {
+    ASSERT_TRUE(Load(Panel("<e TYPE='BUTTON'/><e KEYWORD='K' TYPE='BUTTON'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton UNIcoButton K #2)]");
+    EXPECT_EQ(Element(0)->GetID(), static_cast<UINT>(m_firstId + 1));
+}
+
+TEST_F(RibbonBuilder, ElementThatCannotBeReadIsUsedAsFarAsItWasRead) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' TYPE='BUTTON' SIZE='16px' CMD='never'/><e/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton K #1)]");
+    EXPECT_EQ(TakenIds(), 3);
+}
+
+TEST_F(RibbonBuilder, GroupWithThreeChildrenIsOneGroupOfThreeButtons) {
+    ASSERT_TRUE(
+        Load(Panel("<e KEYWORD='G' TYPE='GROUP'><s KEYWORD='1' TYPE='BUTTON' SIZE='16'/><s KEYWORD='2' TYPE='BUTTON'/>"
+                   "<s KEYWORD='3' TYPE='edit'/></e>")));
+    EXPECT_EQ(FirstPanel()->GetCount(), 1);
+    EXPECT_EQ(Outline(), L"[C #0 (P ButtonsGroup{SmallButton 1 #2, UNIcoButton 2 #3, Edit 3 #4})]");
+}
+
+TEST_F(RibbonBuilder, GroupIsKnownInAnyLetterCaseAndNeedsChildren) {
+    ASSERT_TRUE(
+        Load(Panel("<e KEYWORD='G' TYPE='group'><s KEYWORD='1' TYPE='BUTTON'/></e><e KEYWORD='H' TYPE='GROUP'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P ButtonsGroup{UNIcoButton 1 #2})]");
+}
+
+TEST_F(RibbonBuilder, ButtonWithChildrenGetsThemAsSubItems) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='B' TYPE='button'><s KEYWORD='1' TYPE='BUTTON'/><s KEYWORD='2' TYPE='lamp'/>"
+                           "<s KEYWORD='3' TYPE='label'/></e>"
+                           "<e KEYWORD='S' TYPE='BUTTON' SIZE='16'><s KEYWORD='4' TYPE='BUTTON' SIZE='16'/></e>")));
+    EXPECT_EQ(Outline(),
+              L"[C #0 (P UNIcoButton B #1{UNIcoButton 1 #2, Label 3 #4} SmallButton S #5{SmallButton 4 #6})]");
+}
+
+TEST_F(RibbonBuilder, LabelWithChildrenAddsNothingAndReadsNoneOfThem) {
+    ASSERT_TRUE(Load(Panel(
+        "<e KEYWORD='L' TYPE='label'><s KEYWORD='1' TYPE='BUTTON'/></e><e KEYWORD='E' TYPE='edit'><s KEYWORD='2'/></e>"
+        "<e KEYWORD='X' TYPE='lamp'><s KEYWORD='3' TYPE='BUTTON'/></e>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P)]");
+    EXPECT_EQ(TakenIds(), 4);
+}
+
+TEST_F(RibbonBuilder, SubItemKeepsTheCommandOfItsElement) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='B' TYPE='BUTTON' CMD='do' PARAM='p'><s KEYWORD='1' TYPE='BUTTON'/></e>")));
+    std::wstring text;
+    EXPECT_TRUE(CMenuIdMgr::Ins()->GetCmd(m_firstId + 2, text));
+    EXPECT_EQ(text, L"do");
+    EXPECT_TRUE(CMenuIdMgr::Ins()->GetCmdParam(m_firstId + 2, text));
+    EXPECT_EQ(text, L"p");
+}
+
+TEST_F(RibbonBuilder, GroupBeforePutsASeparatorBeforeTheElement) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' GROUPBEFORE='Y'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton 1 #1 Separator UNIcoButton 2 #2)]");
+}
+
+TEST_F(RibbonBuilder, SeparatorStandsAlsoBeforeAnElementThatIsNotBuilt) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='lamp' GROUPBEFORE='Y'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton 1 #1 Separator)]");
+}
+
+TEST_F(RibbonBuilder, GroupBeforeOfASubItemIsIgnored) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='B' TYPE='BUTTON'><s KEYWORD='1' TYPE='BUTTON' GROUPBEFORE='Y'/></e>"
+                           "<e KEYWORD='G' TYPE='GROUP'><s KEYWORD='2' TYPE='BUTTON' GROUPBEFORE='Y'/></e>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton B #1{UNIcoButton 1 #2} ButtonsGroup{UNIcoButton 2 #4})]");
+}
+
+TEST_F(RibbonBuilder, AddListAddsOneElementToAPanel) {
+    ASSERT_TRUE(Load(Panel("")));
+    const XmlElement element(
+        "<e KEYWORD='B' TYPE='BUTTON' CMD='do' GROUPBEFORE='Y'><s KEYWORD='1' TYPE='BUTTON'/></e>");
+    m_builder.AddList(element.Node(), FirstPanel());
+    EXPECT_EQ(Outline(), L"[C #0 (P Separator UNIcoButton B #1{UNIcoButton 1 #2})]");
+    EXPECT_EQ(m_builder.m_cmdList, (std::vector<std::wstring>{L"", L"", L"do", L"do"}));
+}
+
+TEST_F(RibbonBuilder, AddListToANullPanelDoesNothing) {
+    const XmlElement element("<e KEYWORD='B' TYPE='BUTTON'/>");
+    m_builder.AddList(element.Node(), nullptr);
+    EXPECT_EQ(TakenIds(), 0);
+}
+
+TEST_F(RibbonBuilder, GetRowInfoReadsOneElementIntoARecord) {
+    CAddRibbonBar::_RibbonInfo info;
+    info.cmd = L"kept";
+    EXPECT_TRUE(m_builder.GetRowInfo(XmlElement("<e KEYWORD='K' SIZE='16'/>").Node(), info));
+    EXPECT_EQ(info.keyword, L"K");
+    EXPECT_EQ(info.size, 16);
+    EXPECT_EQ(info.cmd, L"kept");
+    EXPECT_FALSE(m_builder.GetRowInfo(XmlElement("<e/>").Node(), info));
+    EXPECT_FALSE(m_builder.GetRowInfo(XmlElement("<e SIZE=''/>").Node(), info));
+}
+
+TEST_F(RibbonBuilder, ButtonTakesBothIconSizesAndASmallOneThe16PixelIcon) {
+    const CString directory = m_installation.Directory().Prefix().c_str();
+    RibbonInfo info = InfoOf(L"BUTTON");
+    auto button = Make(info);
+    auto* icon = DYNAMIC_DOWNCAST(CMFCRibbonUNIcoButton, button.get());
+    ASSERT_NE(icon, nullptr);
+    EXPECT_EQ(icon->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
+    EXPECT_EQ(icon->GetIconPath(TRUE).Right(13), L"pic\\32\\a.ico");
+    EXPECT_EQ(icon->GetIconPath(FALSE).Right(13), L"pic\\16\\a.ico");
+    EXPECT_EQ(icon->GetID(), 7u);
+    EXPECT_EQ(CString(icon->GetText()), L"name");
+    EXPECT_EQ(icon->GetToolTipText(), L"tip");
+    EXPECT_TRUE(icon->HasLargeMode());
+
+    info.size = 16;
+    button = Make(info);
+    icon = DYNAMIC_DOWNCAST(CMFCRibbonSmallButton, button.get());
+    ASSERT_NE(icon, nullptr);
+    EXPECT_EQ(icon->GetIconPath(TRUE).Right(13), L"pic\\16\\a.ico");
+    EXPECT_TRUE(icon->GetIconPath(FALSE).IsEmpty());
+    EXPECT_FALSE(icon->HasLargeMode());
+
+    for (const int size : {0, 15, 17, 24, 32, -16}) {
+        info.size = size;
+        EXPECT_EQ(Make(info)->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton)) << size;
+    }
+}
+
+TEST_F(RibbonBuilder, ButtonsAlternateIconsAreFormed) {
+    m_installation.Directory().Write("skin/modle_0/32/a.ico", MakeIconFile(32, {0xFF, 0xFF}));
+    // The installation directory of icons is asked for once in the process; the path says where it was.
+    RibbonInfo info = InfoOf(L"BUTTON");
+    info.picPath = L"skin\\modle\\a.ico";
+    const auto button = Make(info);
+    EXPECT_NE(static_cast<CMFCRibbonUNIcoButton*>(button.get())->GetIconPath(TRUE).Find(L"skin\\modle\\32\\a.ico"), -1);
+}
+
+TEST_F(RibbonBuilder, F1HintIsGivenToButtonsWhoseOwnerAndRecordWantIt) {
+    EXPECT_EQ(CAddRibbonBar::m_strHelpF1, L"\u6309F1\u952E\u83B7\u5F97\u6B64\u529F\u80FD\u89C6\u9891");
+    for (const int size : {16, 32}) {
+        RibbonInfo info = InfoOf(L"BUTTON");
+        info.size = size;
+        m_builder.SetCreateF1Tip(true);
+        EXPECT_EQ(Make(info, &m_builder)->GetDescription(), CAddRibbonBar::m_strHelpF1);
+        EXPECT_EQ(Make(info, nullptr)->GetDescription(), L"");
+        info.acceptF1 = false;
+        EXPECT_EQ(Make(info, &m_builder)->GetDescription(), L"");
+        info.acceptF1 = true;
+        m_builder.SetCreateF1Tip(false);
+        EXPECT_FALSE(m_builder.getAcceptF1());
+        EXPECT_EQ(Make(info, &m_builder)->GetDescription(), L"");
+    }
+}
+
+TEST_F(RibbonBuilder, F1HintIsForButtonsOnly) {
+    for (const wchar_t* type : {L"slider", L"label", L"edit"})
+        EXPECT_EQ(Make(InfoOf(type), &m_builder)->GetDescription(), L"") << type;
+}
+
+TEST_F(RibbonBuilder, LoadedButtonsGetTheF1HintUnlessRefused) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' AcceptF1='n'/>")));
+    EXPECT_EQ(Element(0)->GetDescription(), CAddRibbonBar::m_strHelpF1);
+    EXPECT_EQ(Element(1)->GetDescription(), L"");
+}
+
+TEST_F(RibbonBuilder, SliderIsAsWideAsConfiguredOrFifty) {
+    for (const auto& [width, expected] : {std::pair{120, 120}, {1, 1}, {0, 50}, {-5, 50}}) {
+        RibbonInfo info = InfoOf(L"SLIDER");
+        info.width = width;
+        const auto made = Make(info);
+        const auto* const slider = DYNAMIC_DOWNCAST(CMFCRibbonSlider, made.get());
+        ASSERT_NE(slider, nullptr);
+        const CMFCRibbonSlider same(7, expected);
+        EXPECT_EQ(slider->GetWidth(), same.GetWidth()) << width;
+        EXPECT_EQ(slider->GetID(), 7u);
+        EXPECT_EQ(CString(slider->GetText()), L"name");
+        EXPECT_EQ(slider->GetToolTipText(), L"tip");
+    }
+}
+
+TEST_F(RibbonBuilder, EditIsAsWideAsConfiguredOrFiftyAndHoldsTheName) {
+    for (const auto& [width, expected] : {std::pair{120, 120}, {1, 1}, {0, 50}, {-5, 50}}) {
+        RibbonInfo info = InfoOf(L"edit");
+        info.width = width;
+        const auto made = Make(info);
+        auto* const edit = DYNAMIC_DOWNCAST(CMFCRibbonEdit, made.get());
+        ASSERT_NE(edit, nullptr);
+        EXPECT_EQ(edit->GetWidth(), CMFCRibbonEdit(7, expected).GetWidth()) << width;
+        EXPECT_EQ(edit->GetID(), 7u);
+        EXPECT_EQ(edit->GetEditText(), L"name");
+        EXPECT_EQ(CString(edit->GetText()), L"");
+        EXPECT_EQ(edit->GetToolTipText(), L"tip");
+    }
+}
+
+TEST_F(RibbonBuilder, LabelHasNameAndIdAndNothingMore) {
+    const auto made = Make(InfoOf(L"Label"));
+    const auto* const label = DYNAMIC_DOWNCAST(CMFCRibbonLabel, made.get());
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(CString(label->GetText()), L"name");
+    EXPECT_EQ(label->GetID(), 7u);
+    EXPECT_EQ(label->GetToolTipText(), L"");
+    EXPECT_FALSE(label->IsMultiLine());
+}
+
+TEST_F(RibbonBuilder, UnknownTypesMakeNothing) {
+    for (const wchar_t* type : {L"", L"lamp", L"GROUP", L"BUTTON ", L"buttons"})
+        EXPECT_EQ(Make(InfoOf(type)), nullptr) << type;
+}
+
+TEST_F(RibbonBuilder, IconsThatAreMissingDoNotStopTheBuild) {
+    ASSERT_TRUE(
+        Load(Panel("<e KEYWORD='1' TYPE='BUTTON' PICPATH='no\\such.ico'/><e KEYWORD='2' TYPE='BUTTON' PICPATH=''/>"
+                   "<e KEYWORD='3' TYPE='BUTTON' PICPATH='a&#x3C;b|*?.ico'/><e KEYWORD='4' TYPE='BUTTON'/>")));
+    EXPECT_EQ(FirstPanel()->GetCount(), 4);
+}
+
+class ButtonFromKey : public RibbonBuilder {
+protected:
+    void SetUp() override {
+        RibbonBuilder::SetUp();
+        ASSERT_TRUE(m_installation.Translate("K L"));
+    }
+    std::unique_ptr<CMFCRibbonUNIcoButton> Make(const std::wstring& keyword, int keepLarge = 0) {
+        m_id = -7;
+        return std::unique_ptr<CMFCRibbonUNIcoButton>(
+            CAddRibbonBar::CreateBtnFromKey(&m_bar, keyword, 5, m_id, keepLarge));
+    }
+    int m_id = -7;
+};
+
+const char* const keyButton = "<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='pic\\a.ico' AcceptF1='N'/>";
+
+TEST_F(ButtonFromKey, CopiesTheCommandsButton) {
+    m_builder.SetCreateF1Tip(false);
+    ASSERT_TRUE(Load(Panel(keyButton)));
+    const auto button = Make(L"K");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(m_id, m_firstId + 1);
+    EXPECT_EQ(button->GetID(), static_cast<UINT>(m_id));
+    EXPECT_EQ(CString(button->GetText()), L"<K>");
+    EXPECT_EQ(button->GetToolTipText(), L"tip of <K>");
+    EXPECT_EQ(button->GetDescription(), CAddRibbonBar::m_strHelpF1) << "always";
+    const auto* const found = static_cast<CMFCRibbonUNIcoButton*>(Element(0));
+    EXPECT_EQ(button->GetIconPath(TRUE), found->GetIconPath(TRUE));
+    EXPECT_EQ(button->GetIconPath(FALSE), found->GetIconPath(FALSE));
+    EXPECT_EQ(button->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
+}
+
+TEST_F(ButtonFromKey, IsNullWithoutABar) {
+    ASSERT_TRUE(Load(Panel(keyButton)));
+    int id = -7;
+    EXPECT_EQ(CAddRibbonBar::CreateBtnFromKey(nullptr, L"K", 0, id, 0), nullptr);
+    EXPECT_EQ(id, -7);
+}
+
+TEST_F(ButtonFromKey, IsNullForAnUnknownKeyword) {
+    ASSERT_TRUE(Load(Panel(keyButton)));
+    EXPECT_EQ(Make(L"unknown"), nullptr);
+    EXPECT_EQ(m_id, -7);
+}
+
+TEST_F(ButtonFromKey, IsNullForAKeywordWithoutATooltip) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TYPE='BUTTON'/>")));
+    EXPECT_EQ(Make(L"K"), nullptr);
+    EXPECT_EQ(m_id, -7);
+}
+
+TEST_F(ButtonFromKey, IsNullWhereTheBarHasNoSuchElementButTellsTheId) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='lamp'/>")));
+    EXPECT_EQ(Make(L"K"), nullptr);
+    EXPECT_EQ(m_id, m_firstId + 1);
+}
+
+TEST_F(ButtonFromKey, IsNullForAnElementOfAnotherKind) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='edit'/>")));
+    EXPECT_EQ(Make(L"K"), nullptr);
+    EXPECT_EQ(m_id, m_firstId + 1);
+}
+
+TEST_F(ButtonFromKey, IsNullForAHiddenButton) {
+    ASSERT_TRUE(Load(Panel(keyButton), 0));
+    EXPECT_EQ(Make(L"K"), nullptr);
+}
+
+} // namespace

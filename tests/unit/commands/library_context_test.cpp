@@ -1,0 +1,116 @@
+#include "library_context.h"
+#include "menu_id_mgr.h"
+
+#include <afxglobals.h>
+#include <gtest/gtest.h>
+#include <varnhold/file_op.h>
+
+namespace {
+
+TEST(LibraryContext, InsIsAlwaysTheSameInstanceWithAnEmptyImageList) {
+    EXPECT_EQ(CQkMfc::Ins(), CQkMfc::Ins());
+    EXPECT_EQ(CQkMfc::Ins()->m_imageList.GetSafeHandle(), nullptr);
+}
+
+TEST(LibraryContext, BitmapListIsEmptyUntilTheHostFillsIt) { EXPECT_TRUE(g_layCtrlBmp.empty()); }
+
+TEST(LibraryContext, HelpFileNameIsTheRegisteredHelpFile) {
+    CMenuIdMgr::Ins()->Add(L"K", 41000, L"", L"", L"", L"", L"k.swf");
+    CMenuIdMgr::Ins()->Add(L"L", 41001, L"", L"", L"", L"", L"");
+    EXPECT_EQ(GetHelpFileName(41000, L"not consulted"), L"k.swf");
+    EXPECT_EQ(GetHelpFileName(41001, L"k.swf"), L"");
+    EXPECT_EQ(GetHelpFileName(41002, L"k.swf"), L"");
+    CMenuIdMgr::Destroy();
+}
+
+TEST(LibraryContext, IconPathStandsBelowTheInstallationDirectoryThatWasKnownFirst) {
+    std::wstring directory;
+    {
+        const ScopedAppPath first(L"C:\\first\\");
+        // The program's first call, unless another test ran before in this process.
+        GetIconPathStr(L"a\\b.ico", 32);
+    }
+    const CString known = GetIconPathStr(L"", 16);
+    const ScopedAppPath second(L"C:\\second\\");
+    EXPECT_EQ(GetIconPathStr(L"", 16), known);
+    const CString base = known.Left(known.GetLength() - 3);
+    EXPECT_EQ(GetIconPathStr(L"a\\b.ico", 32), base + L"a\\32\\b.ico");
+    EXPECT_EQ(GetIconPathStr(L"pic\\skin\\icon\\down.ico", 16), base + L"pic\\skin\\icon\\16\\down.ico");
+    EXPECT_EQ(GetIconPathStr(L"down.ico", 16), base + L"\\16down.ico");
+}
+
+/// Puts a value where the installer records the folder of the help videos, and takes it away at the end. The registry
+/// is one for all tests of a machine, so they take turns.
+class MediaFolder : public testing::Test {
+protected:
+    MediaFolder() : m_turn(::CreateMutexW(nullptr, FALSE, L"barwright-media-folder-test")) {
+        ::WaitForSingleObject(m_turn, INFINITE);
+        Remove();
+    }
+    ~MediaFolder() override {
+        Remove();
+        ::ReleaseMutex(m_turn);
+        ::CloseHandle(m_turn);
+    }
+    /// What the library answers is found once in a process; ctest gives each of these tests one of its own.
+    void SetUp() override {
+        static bool asked = false;
+        if (asked)
+            GTEST_SKIP() << "the folder is looked up once in a process; run this test alone";
+        asked = true;
+    }
+
+    static const wchar_t* KeyPath() {
+        return afxGlobalData.bIsWow6432Node ? L"Software\\Wow6432Node\\HALVORN\\Tessaly"
+                                            : L"Software\\HALVORN\\Tessaly";
+    }
+    static void Record(const std::wstring& folder) {
+        ASSERT_EQ(::RegSetKeyValueW(HKEY_LOCAL_MACHINE, KeyPath(), L"FlashPath", REG_SZ, folder.c_str(),
+                                    static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t))),
+                  ERROR_SUCCESS);
+    }
+    static void Remove() { ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, KeyPath()); }
+
+    static void ExpectFolder(const wchar_t* recorded, const wchar_t* expected) {
+        Record(recorded);
+        CString folder = L"before";
+        EXPECT_EQ(GetHaveMedias_Brevant(folder), *expected != 0);
+        EXPECT_EQ(folder, expected);
+    }
+
+private:
+    HANDLE m_turn;
+};
+
+TEST_F(MediaFolder, GetsABackslashWhereItIsMissing) { ExpectFolder(L"C:\\video", L"C:\\video\\Media\\"); }
+
+TEST_F(MediaFolder, KeepsItsBackslash) { ExpectFolder(L"C:\\video\\", L"C:\\video\\Media\\"); }
+
+TEST_F(MediaFolder, OfOneCharacterGetsNone) { ExpectFolder(L"C", L"CMedia\\"); }
+
+TEST_F(MediaFolder, EmptyValueGivesEmptyTextAndFalse) { ExpectFolder(L"", L""); }
+
+TEST_F(MediaFolder, MissingKeyGivesEmptyTextAndFalse) {
+    CString folder = L"before";
+    EXPECT_FALSE(GetHaveMedias_Brevant(folder));
+    EXPECT_EQ(folder, L"");
+}
+
+TEST_F(MediaFolder, IsLookedUpOnceInAProcess) {
+    ExpectFolder(L"C:\\video", L"C:\\video\\Media\\");
+    Record(L"D:\\other");
+    CString folder;
+    EXPECT_TRUE(GetHaveMedias_Brevant(folder));
+    EXPECT_EQ(folder, L"C:\\video\\Media\\");
+}
+
+TEST_F(MediaFolder, ThatWasMissingAtFirstStaysMissing) {
+    CString folder;
+    EXPECT_FALSE(GetHaveMedias_Brevant(folder));
+    Record(L"C:\\video");
+    folder = L"before";
+    EXPECT_FALSE(GetHaveMedias_Brevant(folder));
+    EXPECT_EQ(folder, L"");
+}
+
+} // namespace
