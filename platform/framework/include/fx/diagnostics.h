@@ -1,6 +1,7 @@
 #pragma once
 
-// ASSERT, VERIFY, ENSURE, TRACE. In a build with NDEBUG, ASSERT and TRACE vanish; ENSURE stays and throws.
+// ASSERT, VERIFY, ENSURE, TRACE. In a build with NDEBUG, ASSERT and TRACE vanish; ENSURE stays: it throws in
+// every build, so that callers can rely on it.
 
 #include "fx/base.h"
 #include "fx/format.h"
@@ -63,9 +64,8 @@ void Trace(DWORD /*category*/, UINT /*level*/, LPCSTR format, const Args&... arg
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))
 #define ENSURE_THROW(cond, exception)                                                                                  \
     do {                                                                                                               \
-        const bool ensured_ = !!(cond);                                                                                \
-        ASSERT(ensured_);                                                                                              \
-        if (!ensured_) {                                                                                               \
+        if (!(cond)) [[unlikely]] {                                                                                    \
+            TRACE("%s(%d): argument refused: %s\n", __FILE__, __LINE__, #cond);                                        \
             exception;                                                                                                 \
         }                                                                                                              \
     } while (false)
