@@ -1,0 +1,228 @@
+#include "fx/dc_scope.h"
+#include "fx/exceptions.h"
+#include "fx/image_list.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A 32-bit picture in memory to draw on.
+class Canvas : public testing::Test {
+protected:
+    void SetUp() override {
+        m_before = AfxGdiObjectCount();
+        m_dc = std::make_unique<CDC>();
+        ASSERT_TRUE(m_dc->CreateCompatibleDC(nullptr));
+        BITMAPINFO info = {};
+        info.bmiHeader.biSize = sizeof(info.bmiHeader);
+        info.bmiHeader.biWidth = 40;
+        info.bmiHeader.biHeight = -30;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, nullptr, nullptr, 0);
+        m_bitmapBefore = ::SelectObject(*m_dc, m_bitmap);
+    }
+    void TearDown() override {
+        ::SelectObject(*m_dc, m_bitmapBefore);
+        m_dc.reset();
+        ::DeleteObject(m_bitmap);
+        AfxDeleteTemporaryGdiObjects();
+        EXPECT_EQ(AfxGdiObjectCount(), m_before) << "every wrapper gave its handle back";
+    }
+
+    std::unique_ptr<CDC> m_dc;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_bitmapBefore = nullptr;
+    long m_before = 0;
+};
+constexpr COLORREF red = RGB(255, 0, 0);
+constexpr COLORREF green = RGB(0, 255, 0);
+constexpr COLORREF blue = RGB(0, 0, 255);
+
+TEST_F(Canvas, OwnedObjectsAreCountedAndDeleted) {
+    const long before = AfxGdiObjectCount();
+    HGDIOBJ handle = nullptr;
+    {
+        CPen pen(PS_SOLID, 1, red);
+        CBrush brush(blue);
+        handle = pen;
+        EXPECT_EQ(AfxGdiObjectCount(), before + 2);
+        EXPECT_EQ(CPen::FromHandle(pen), &pen);
+        EXPECT_EQ(CGdiObject::FromHandlePermanent(handle), &pen);
+    }
+    EXPECT_EQ(AfxGdiObjectCount(), before);
+    EXPECT_EQ(::GetObjectType(handle), 0u);
+}
+
+TEST_F(Canvas, TemporariesOwnNothingAndEndAtIdle) {
+    const HBRUSH handle = ::CreateSolidBrush(green);
+    CGdiObject* const object = CGdiObject::FromHandle(handle);
+    EXPECT_TRUE(object->IsKindOf(RUNTIME_CLASS(CBrush)));
+    EXPECT_EQ(CBrush::FromHandle(handle), object);
+    EXPECT_EQ(CGdiObject::FromHandlePermanent(handle), nullptr);
+    EXPECT_EQ(CGdiObject::FromHandle(nullptr), nullptr);
+    AfxDeleteTemporaryGdiObjects();
+    EXPECT_EQ(::GetObjectType(handle), static_cast<DWORD>(OBJ_BRUSH));
+    ::DeleteObject(handle);
+}
+
+TEST_F(Canvas, DetachedHandlesLiveOn) {
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(90, L"Arial"));
+    const HGDIOBJ handle = font.Detach();
+    EXPECT_EQ(font.GetSafeHandle(), nullptr);
+    EXPECT_FALSE(font.DeleteObject());
+    EXPECT_TRUE(::DeleteObject(handle));
+}
+
+TEST_F(Canvas, SelectObjectAnswersTheObjectBefore) {
+    CPen first(PS_SOLID, 1, red);
+    CPen second(PS_SOLID, 1, green);
+    CPen* const stock = m_dc->SelectObject(&first);
+    ASSERT_NE(stock, nullptr);
+    EXPECT_EQ(m_dc->SelectObject(&second), &first);
+    EXPECT_EQ(m_dc->GetCurrentPen(), &second);
+    EXPECT_EQ(m_dc->SelectObject(stock), &second);
+}
+
+TEST_F(Canvas, ScopesPutBackWhatTheyChanged) {
+    CPen pen(PS_SOLID, 1, red);
+    const HGDIOBJ before = ::GetCurrentObject(*m_dc, OBJ_PEN);
+    {
+        const fx::DcSelection selection(*m_dc, &pen);
+        EXPECT_EQ(::GetCurrentObject(*m_dc, OBJ_PEN), pen.m_hObject);
+    }
+    EXPECT_EQ(::GetCurrentObject(*m_dc, OBJ_PEN), before);
+    m_dc->SetTextColor(blue);
+    {
+        const fx::DcState state(*m_dc);
+        m_dc->SetTextColor(red);
+        m_dc->IntersectClipRect(0, 0, 1, 1);
+    }
+    EXPECT_EQ(m_dc->GetTextColor(), blue);
+    CRect box;
+    m_dc->GetClipBox(box);
+    EXPECT_EQ(box.Width(), 40);
+}
+
+TEST_F(Canvas, SolidFillSetsTheBackgroundColour) {
+    m_dc->FillSolidRect(CRect(2, 3, 6, 8), green);
+    EXPECT_EQ(m_dc->GetPixel(2, 3), green);
+    EXPECT_EQ(m_dc->GetPixel(5, 7), green);
+    EXPECT_EQ(m_dc->GetPixel(6, 7), RGB(0, 0, 0));
+    EXPECT_EQ(m_dc->GetPixel(5, 8), RGB(0, 0, 0));
+    EXPECT_EQ(m_dc->GetBkColor(), green);
+}
+
+TEST_F(Canvas, Raised3dRectangleHasTwoColours) {
+    m_dc->Draw3dRect(CRect(0, 0, 10, 10), red, blue);
+    EXPECT_EQ(m_dc->GetPixel(0, 0), red);
+    EXPECT_EQ(m_dc->GetPixel(8, 0), red);
+    EXPECT_EQ(m_dc->GetPixel(9, 0), blue);
+    EXPECT_EQ(m_dc->GetPixel(0, 9), blue);
+    EXPECT_EQ(m_dc->GetPixel(5, 5), RGB(0, 0, 0));
+}
+
+TEST_F(Canvas, MemoryDcCopiesItsRectangleBack) {
+    m_dc->FillSolidRect(CRect(0, 0, 40, 30), blue);
+    {
+        fx::MemoryDc buffer(*m_dc, CRect(5, 5, 15, 15));
+        EXPECT_EQ(buffer->GetPixel(6, 6), blue) << "it starts with what is there";
+        buffer->FillSolidRect(CRect(7, 7, 30, 9), red);
+        EXPECT_EQ(m_dc->GetPixel(8, 8), blue);
+    }
+    EXPECT_EQ(m_dc->GetPixel(8, 8), red);
+    EXPECT_EQ(m_dc->GetPixel(14, 8), red);
+    EXPECT_EQ(m_dc->GetPixel(15, 8), blue) << "outside of the rectangle";
+}
+
+TEST_F(Canvas, MemoryDcAnswersTheTargetForAnEmptyRectangle) {
+    fx::MemoryDc buffer(*m_dc, CRect(5, 5, 5, 15));
+    EXPECT_EQ(&buffer.GetDC(), m_dc.get());
+}
+
+TEST_F(Canvas, BlendAndTransparency) {
+    CDC source;
+    source.CreateCompatibleDC(m_dc.get());
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(m_dc.get(), 4, 4);
+    {
+        const fx::DcSelection selection(source, &bitmap);
+        source.FillSolidRect(0, 0, 4, 4, red);
+        source.FillSolidRect(0, 0, 1, 4, green);
+        m_dc->FillSolidRect(CRect(0, 0, 40, 30), blue);
+        EXPECT_TRUE(m_dc->TransparentBlt(0, 0, 4, 4, &source, 0, 0, 4, 4, green));
+        EXPECT_EQ(m_dc->GetPixel(0, 0), blue);
+        EXPECT_EQ(m_dc->GetPixel(1, 0), red);
+        EXPECT_TRUE(m_dc->AlphaBlend(10, 0, 4, 4, &source, 0, 0, 4, 4, BLENDFUNCTION{AC_SRC_OVER, 0, 128, 0}));
+        const COLORREF mixed = m_dc->GetPixel(12, 2);
+        EXPECT_NEAR(GetRValue(mixed), 128, 2);
+        EXPECT_NEAR(GetBValue(mixed), 127, 2);
+    }
+}
+
+TEST_F(Canvas, ImageListsAddDrawAndRoundTrip) {
+    CImageList list;
+    ASSERT_TRUE(list.Create(4, 4, ILC_COLOR32 | ILC_MASK, 0, 2));
+    const HICON icon = ::CreateIcon(nullptr, 4, 4, 1, 1, reinterpret_cast<const BYTE*>("\0\0\0\0\0\0\0\0"),
+                                    reinterpret_cast<const BYTE*>("\xF0\0\xF0\0\xF0\0\xF0\0"));
+    EXPECT_EQ(list.Add(icon), 0);
+    EXPECT_TRUE(::DestroyIcon(icon)) << "the icon stays the caller's";
+    EXPECT_EQ(list.Add(HICON(nullptr)), -1);
+    EXPECT_EQ(CImageList::FromHandle(list), &list);
+    m_dc->FillSolidRect(CRect(0, 0, 40, 30), green);
+    EXPECT_TRUE(list.Draw(m_dc.get(), 0, CPoint(10, 10), ILD_NORMAL));
+    EXPECT_EQ(m_dc->GetPixel(11, 11), RGB(255, 255, 255));
+    EXPECT_EQ(m_dc->GetPixel(9, 11), green);
+
+    CMemFile file;
+    {
+        CArchive ar(&file, CArchive::store);
+        ASSERT_TRUE(list.Write(&ar));
+    }
+    file.SeekToBegin();
+    CArchive ar(&file, CArchive::load);
+    CImageList copy;
+    ASSERT_TRUE(copy.Read(&ar));
+    EXPECT_EQ(copy.GetImageCount(), 1);
+    ar.Close();
+}
+
+TEST_F(Canvas, RegionsCombine) {
+    CRgn outer;
+    CRgn inner;
+    outer.CreateRectRgn(0, 0, 10, 10);
+    inner.CreateRectRgn(2, 2, 8, 8);
+    EXPECT_EQ(outer.CombineRgn(&outer, &inner, RGN_DIFF), COMPLEXREGION);
+    EXPECT_FALSE(outer.PtInRegion(5, 5));
+    EXPECT_TRUE(outer.PtInRegion(1, 1));
+}
+
+TEST_F(Canvas, TextIsMeasuredWithItsWholeLength) {
+    const CString text(L"measured");
+    EXPECT_GT(m_dc->GetTextExtent(text).cx, m_dc->GetTextExtent(text, 4).cx);
+    CRect rect;
+    EXPECT_GT(m_dc->DrawText(text, rect, DT_CALCRECT | DT_SINGLELINE), 0);
+    EXPECT_EQ(rect.Width(), m_dc->GetTextExtent(text).cx);
+}
+
+TEST(GdiObjects, EachThreadHasItsOwnMap) {
+    CPen pen(PS_SOLID, 1, red);
+    struct Result {
+        HGDIOBJ handle;
+        CGdiObject* permanent;
+    } result{pen, &pen};
+    const HANDLE thread = ::CreateThread(
+        nullptr, 0,
+        [](void* data) -> DWORD {
+            auto* const seen = static_cast<Result*>(data);
+            seen->permanent = CGdiObject::FromHandlePermanent(seen->handle);
+            return 0;
+        },
+        &result, 0, nullptr);
+    ::WaitForSingleObject(thread, INFINITE);
+    ::CloseHandle(thread);
+    EXPECT_EQ(result.permanent, nullptr);
+}
+
+} // namespace
