@@ -3,7 +3,7 @@
 #include <windows.h>
 
 /// A mouse made of messages: each operation sends what the system would send to the window under the point, or to the
-/// window that has the capture. The real cursor does not move.
+/// window that has the capture, through the thread's PreTranslateMessage. The real cursor does not move.
 ///
 /// What it cannot show: GetCursorPos and GetKeyState still answer the real mouse; WM_MOUSELEAVE and hover do not come
 /// by themselves (SendLeave); activation by a click, drag detection and menus' own modal loops, which read input
@@ -32,7 +32,7 @@ public:
     HWND Target() const;
 
 private:
-    LRESULT Send(UINT clientMessage, UINT button);
+    LRESULT Send(UINT clientMessage, UINT nonClientMessage);
     WPARAM ButtonFlags() const;
 
     POINT m_position = {};

@@ -53,9 +53,9 @@ private:
     fx::PopupMenuRunner m_before;
 };
 
-/// Installs an application object of its own before the tests and initialises the framework for the test's thread. A
-/// program with a CWinApp object of its own defines none of this: call UseTestApplication() only where tests need one.
-/// Link test_support_app to have it done for the whole program.
+/// Initialises the framework for the thread that runs the tests. Programs that link test_support_app get it together
+/// with an application object (a CWinAppEx with settings below "Barwright tests" in the registry); a program with an
+/// application object of its own links test_support and adds the environment itself.
 class UiTestEnvironment : public ::testing::Environment {
 public:
     void SetUp() override;

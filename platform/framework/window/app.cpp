@@ -72,7 +72,7 @@ void CWinApp::SetCurrentHandles(HINSTANCE instance, LPTSTR commandLine, int show
         m_pszHelpFilePath = Keep(folder + name + L".hlp");
     }
     if (m_pszProfileName == nullptr) {
-        m_pszProfileName = Keep(name + L".ini");
+        m_pszProfileName = m_pszRegistryKey != nullptr ? m_pszAppName : Keep(name + L".ini");
     }
 }
 

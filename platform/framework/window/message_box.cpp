@@ -1,4 +1,5 @@
 #include "fx/app.h"
+#include "fx/exceptions.h"
 
 #include <mutex>
 
@@ -6,6 +7,10 @@ namespace {
 
 std::mutex g_runnerLock;
 fx::MessageBoxRunner g_runner;
+
+/// What CException::ReportError tells the user takes the same way as every other box.
+[[maybe_unused]] const auto g_plainReport =
+    fx::SetReportErrorHandler([](LPCTSTR text, UINT type, UINT helpId) { return AfxMessageBox(text, type, helpId); });
 
 } // namespace
 

@@ -1,0 +1,90 @@
+#include "afxwinappex.h"
+#include "tests/support/ui_test.h"
+
+namespace {
+
+CWinAppEx* App() { return static_cast<CWinAppEx*>(AfxGetApp()); }
+
+class Profile : public ::testing::Test {
+protected:
+    void TearDown() override { App()->WriteProfileString(L"Section", nullptr, nullptr); }
+};
+
+TEST_F(Profile, NumbersComeBackAndMissingOnesAreTheDefault) {
+    EXPECT_EQ(App()->GetProfileInt(L"Section", L"Number", 3), 3u);
+    EXPECT_TRUE(App()->WriteProfileInt(L"Section", L"Number", -7));
+    EXPECT_EQ(static_cast<int>(App()->GetProfileInt(L"Section", L"Number", 3)), -7);
+}
+
+TEST_F(Profile, TextsComeBackAndANullTextDeletesTheEntry) {
+    EXPECT_TRUE(App()->WriteProfileString(L"Section", L"Text", L"Grüße 图层"));
+    EXPECT_STREQ(App()->GetProfileString(L"Section", L"Text"), L"Grüße 图层");
+    EXPECT_TRUE(App()->WriteProfileString(L"Section", L"Text", nullptr));
+    EXPECT_STREQ(App()->GetProfileString(L"Section", L"Text", L"gone"), L"gone");
+}
+
+TEST_F(Profile, BytesComeBack) {
+    BYTE bytes[] = {0, 1, 255, 16};
+    EXPECT_TRUE(App()->WriteProfileBinary(L"Section", L"Bytes", bytes, sizeof(bytes)));
+    LPBYTE found = nullptr;
+    UINT size = 0;
+    ASSERT_TRUE(App()->GetProfileBinary(L"Section", L"Bytes", &found, &size));
+    const std::unique_ptr<BYTE[]> owned(found);
+    ASSERT_EQ(size, sizeof(bytes));
+    EXPECT_TRUE(std::equal(bytes, bytes + size, found));
+    EXPECT_FALSE(App()->GetProfileBinary(L"Section", L"Missing", &found, &size));
+    EXPECT_EQ(found, nullptr);
+}
+
+TEST_F(Profile, ANullEntryDeletesTheSection) {
+    App()->WriteProfileInt(L"Section", L"Number", 5);
+    EXPECT_TRUE(App()->WriteProfileString(L"Section", nullptr, nullptr));
+    EXPECT_EQ(App()->GetProfileInt(L"Section", L"Number", 1), 1u);
+}
+
+TEST_F(Profile, SectionsOfTheApplicationLieBelowItsRegistryBase) {
+    App()->SetRegistryBase(L"Section");
+    EXPECT_TRUE(App()->WriteInt(L"Width", 640));
+    EXPECT_TRUE(App()->WriteSectionInt(L"Bars", L"Count", 4));
+    EXPECT_EQ(App()->GetProfileInt(L"Section", L"Width", 0), 640u);
+    EXPECT_EQ(App()->GetProfileInt(L"Section\\Bars", L"Count", 0), 4u);
+    EXPECT_TRUE(App()->IsStateExists(L"Bars"));
+    EXPECT_FALSE(App()->IsStateExists(L"Nothing"));
+    EXPECT_TRUE(App()->CleanState());
+    EXPECT_EQ(App()->GetInt(L"Width", -1), -1);
+    App()->SetRegistryBase();
+    EXPECT_STREQ(App()->GetRegistryBase(), L"Workspace");
+}
+
+TEST(Application, NamesComeFromTheProgramFileUnlessSet) {
+    EXPECT_STREQ(AfxGetAppName(), L"window_tests");
+    EXPECT_STREQ(AfxGetApp()->m_pszExeName, L"window_tests");
+    EXPECT_EQ(AfxGetApp()->m_hInstance, ::GetModuleHandle(nullptr));
+    EXPECT_EQ(AfxGetThread(), AfxGetApp());
+}
+
+TEST(Application, ACommandLineIsTakenApart) {
+    CCommandLineInfo printTo;
+    printTo.ParseParam(L"pt", TRUE, FALSE);
+    printTo.ParseParam(L"a.txt", FALSE, FALSE);
+    printTo.ParseParam(L"printer", FALSE, TRUE);
+    EXPECT_EQ(printTo.m_nShellCommand, CCommandLineInfo::FilePrintTo);
+    EXPECT_STREQ(printTo.m_strPrinterName, L"printer");
+    CCommandLineInfo open;
+    open.ParseParam(L"a.txt", FALSE, TRUE);
+    EXPECT_EQ(open.m_nShellCommand, CCommandLineInfo::FileOpen);
+    EXPECT_STREQ(open.m_strFileName, L"a.txt");
+    CCommandLineInfo fresh;
+    fresh.ParseParam(L"unknown", TRUE, TRUE);
+    EXPECT_EQ(fresh.m_nShellCommand, CCommandLineInfo::FileNew);
+}
+
+TEST(Application, TheManagersAreMadeOnceOnDemand) {
+    EXPECT_NE(App()->GetKeyboardManager(), nullptr);
+    EXPECT_EQ(App()->GetKeyboardManager(), App()->GetKeyboardManager());
+    EXPECT_FALSE(App()->InitKeyboardManager());
+    EXPECT_NE(App()->GetTooltipManager(), nullptr);
+    EXPECT_FALSE(App()->InitTooltipManager());
+}
+
+} // namespace
