@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr UINT kOneLine = DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER | DT_END_ELLIPSIS;
+// A glyph may reach beyond its measured width; the margin beside the text has room for it.
+constexpr UINT kOneLine = DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER | DT_END_ELLIPSIS | DT_NOCLIP;
 // Lines below a large image fit by construction; clipping the last column of an overhanging glyph would show.
 constexpr UINT kBottomLine = DT_SINGLELINE | DT_NOPREFIX | DT_TOP | DT_NOCLIP;
 

@@ -28,6 +28,6 @@ void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
                                                        IsHighlighted(), IsPressed(), !IsDisabled());
     if (!face.text.IsEmpty())
         DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.text),
-                       DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS,
+                       DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
 }

@@ -139,7 +139,7 @@ void CMFCRibbonEdit::OnDrawLabelAndImage(CDC* pDC) {
         DrawImage(pDC, RibbonImageSmall, ribbon::ToRect(face.image));
     if (!face.label.IsEmpty())
         DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.label),
-                       DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS,
+                       DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
 }
 

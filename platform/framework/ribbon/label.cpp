@@ -55,7 +55,7 @@ void CMFCRibbonLabel::OnDraw(CDC* pDC) {
     CMFCVisualManager::GetInstance()->OnDrawRibbonLabel(pDC, this, m_rect);
     CRect text = m_rect;
     text.DeflateRect(m_szMargin.cx, 0);
-    UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
+    UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP;
     if (m_bIsMultiLine) {
         format = DT_WORDBREAK | DT_NOPREFIX;
         CRect needed = text;

@@ -101,7 +101,7 @@ TEST_P(Painted, AMenuButtonShowsItsArrow) {
 TEST_P(Painted, TheTextSwappedForOneDrawIsTheOneThatShows) {
     class Translated : public CMFCRibbonButton {
     public:
-        Translated() : CMFCRibbonButton(1, L"iiii") {}
+        Translated() : CMFCRibbonButton(1, L"iiiiiiiiiiii") {}
         void OnDraw(CDC* pDC) override {
             const CString kept = m_strText;
             m_strText = shown;
@@ -116,7 +116,7 @@ TEST_P(Painted, TheTextSwappedForOneDrawIsTheOneThatShows) {
     button.shown = L"WW";
     button.OnDraw(&canvas);
     EXPECT_GT(canvas.Count(button.GetRect(), IsDark), 10);
-    EXPECT_STREQ(button.GetText(), L"iiii");
+    EXPECT_STREQ(button.GetText(), L"iiiiiiiiiiii");
 }
 
 TEST_P(Painted, LabelsHaveTheColourThatTheContainerHasSet) {
