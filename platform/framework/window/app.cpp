@@ -217,6 +217,16 @@ CWnd* AFXAPI AfxGetMainWnd() {
 
 LPCTSTR AFXAPI AfxGetAppName() { return g_application != nullptr ? g_application->m_pszAppName : nullptr; }
 
+int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf) {
+    // Strings lie in blocks of 16.
+    const LPCTSTR block = MAKEINTRESOURCE((nIDS >> 4) + 1);
+    const int length = ::LoadString(AfxFindResourceHandle(block, RT_STRING), nIDS, lpszBuf, static_cast<int>(nMaxBuf));
+    if (length == 0 && nMaxBuf > 0) {
+        lpszBuf[0] = 0;
+    }
+    return length;
+}
+
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {
     // A missing disk is an error code, not a box of the system.
     ::SetErrorMode(::SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);

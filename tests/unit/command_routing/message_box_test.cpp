@@ -24,4 +24,10 @@ TEST(MessageBoxes, AnInnerRunnerGivesWayToTheOuterOneAgain) {
     EXPECT_EQ(outer.Count(), 1);
 }
 
+TEST(Strings, AMissingResourceIsAnEmptyText) {
+    wchar_t text[8] = L"before";
+    EXPECT_EQ(AfxLoadString(64999, text, 8), 0);
+    EXPECT_STREQ(text, L"");
+}
+
 } // namespace

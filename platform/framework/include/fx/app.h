@@ -134,6 +134,10 @@ FRAMEWORK_API int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance
 /// Frees what the framework keeps for the calling thread; AfxWinMain calls it last.
 FRAMEWORK_API void AFXAPI AfxWinTerm();
 
+/// Copies a string resource, cut to nMaxBuf characters with the zero. Returns its length, 0 (and "") when there is
+/// none.
+FRAMEWORK_API int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
+
 FRAMEWORK_API int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 FRAMEWORK_API int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = (UINT)-1);
 
