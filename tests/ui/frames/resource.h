@@ -1,0 +1,9 @@
+#pragma once
+
+#define IDR_TEST_FRAME 128
+#define IDD_TEST_DIALOG 129
+#define IDC_TEST_EDIT 1001
+#define IDC_TEST_CHECK 1002
+#define ID_TEST_COMMAND 0x8001
+#define ID_TEST_OTHER 0x8002
+#define ID_TEST_LONG 0x8003
