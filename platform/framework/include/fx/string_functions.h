@@ -1,8 +1,8 @@
 #pragma once
 
-// Bodies of CStringT's members; included by fx/string.h alone.
+// Bodies of CStringT's members; fx/string.h is what one includes.
 
-#include "fx/string.h"
+#include "fx/string_class.h"
 
 #include <algorithm>
 
