@@ -32,18 +32,18 @@ TEST(IconFile, SizeIsWrittenInDecimal) {
     EXPECT_EQ(IconFileBelow(L"", L"a\\b.ico", -5), L"a\\-5\\b.ico");
 }
 
-TEST(MediaFolder, BackslashIsAppendedWhereItIsMissing) {
+TEST(MediaFolderRule, BackslashIsAppendedWhereItIsMissing) {
     EXPECT_EQ(MediaFolderOf(L"C:\\video"), L"C:\\video\\Media\\");
     EXPECT_EQ(MediaFolderOf(L"C:\\video\\"), L"C:\\video\\Media\\");
 }
 
-TEST(MediaFolder, EmptyValueGivesEmptyText) { EXPECT_EQ(MediaFolderOf(L""), L""); }
+TEST(MediaFolderRule, EmptyValueGivesEmptyText) { EXPECT_EQ(MediaFolderOf(L""), L""); }
 
-TEST(MediaFolder, OneCharacterGetsNoBackslash) {
+TEST(MediaFolderRule, OneCharacterGetsNoBackslash) {
     EXPECT_EQ(MediaFolderOf(L"C"), L"CMedia\\");
     EXPECT_EQ(MediaFolderOf(L"\\"), L"\\Media\\");
 }
 
-TEST(MediaFolder, TwoCharactersGetABackslash) { EXPECT_EQ(MediaFolderOf(L"C:"), L"C:\\Media\\"); }
+TEST(MediaFolderRule, TwoCharactersGetABackslash) { EXPECT_EQ(MediaFolderOf(L"C:"), L"C:\\Media\\"); }
 
 } // namespace
