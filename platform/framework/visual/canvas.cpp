@@ -1,0 +1,49 @@
+#include "visual/canvas.h"
+
+#include <algorithm>
+
+namespace visual {
+
+HBITMAP MakeBitmap32(int width, int height, std::uint32_t** bits) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = std::max(width, 1);
+    info.bmiHeader.biHeight = -std::max(height, 1);
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* memory = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &memory, nullptr, 0);
+    *bits = static_cast<std::uint32_t*>(memory);
+    return bitmap;
+}
+
+Canvas::Canvas(HDC dc, const RECT& bounds) : m_dc(dc), m_bounds(bounds) {
+    const int width = bounds.right - bounds.left, height = bounds.bottom - bounds.top;
+    if (width <= 0 || height <= 0 || !RectVisible(dc, &bounds))
+        return;
+    m_memory = CreateCompatibleDC(dc);
+    std::uint32_t* bits = nullptr;
+    m_bitmap = MakeBitmap32(width, height, &bits);
+    if (m_memory == nullptr || m_bitmap == nullptr)
+        return;
+    m_previous = SelectObject(m_memory, m_bitmap);
+    m_view = {bits, width, height};
+}
+
+Canvas::~Canvas() {
+    if (m_view.bits != nullptr) {
+        GdiFlush();
+        const BLENDFUNCTION over{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+        AlphaBlend(m_dc, m_bounds.left, m_bounds.top, m_view.width, m_view.height, m_memory, 0, 0, m_view.width,
+                   m_view.height, over);
+    }
+    if (m_previous != nullptr)
+        SelectObject(m_memory, m_previous);
+    if (m_bitmap != nullptr)
+        DeleteObject(m_bitmap);
+    if (m_memory != nullptr)
+        DeleteDC(m_memory);
+}
+
+} // namespace visual

@@ -1,0 +1,321 @@
+#include "visual/paint_ribbon.h"
+
+#include <algorithm>
+#include <array>
+
+namespace visual {
+
+namespace {
+
+FourStops StopsOf(const Face& face, int split) { return {face.top1, face.top2, face.bottom1, face.bottom2, split}; }
+
+/// The upper gradient of a category is a narrow band, so that its colour change lies above the buttons.
+constexpr int g_categorySplit = 18;
+
+Face Tinted(Face face, Argb tint) {
+    if (AlphaOf(tint) == 0)
+        return face;
+    for (Argb* color : {&face.top1, &face.top2, &face.bottom1, &face.bottom2})
+        *color = WithAlpha(Mix(*color, tint, 1, 3), AlphaOf(*color));
+    face.outer = Mix(face.outer, tint, 1, 2);
+    return face;
+}
+
+void PaintDisc(HDC dc, const RECT& rect, const Face& face, const Look& look) {
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    const IntRect whole = canvas.Local(rect);
+    FillEllipse(canvas.View(), whole, StopsOf(face, 50));
+    StrokeEllipse(canvas.View(), whole.Deflated(look.Line()), WithAlpha(face.inner, AlphaOf(face.inner) / 2),
+                  look.Line());
+    StrokeEllipse(canvas.View(), whole, face.outer, look.Line());
+}
+
+bool IsNearlySquare(const RECT& rect) {
+    const LONG width = rect.right - rect.left, height = rect.bottom - rect.top;
+    return width * 5 < height * 6 && height * 5 < width * 6;
+}
+
+} // namespace
+
+void PaintRibbonBackground(HDC dc, const RECT& rect, const Look& look) {
+    const Canvas canvas(dc, rect);
+    const Argb top = look.skin[ColorSlot::RibbonTop], bottom = look.skin[ColorSlot::RibbonBottom];
+    if (!canvas.IsEmpty())
+        FillRounded(canvas.View(), canvas.Local(rect), {}, {top, bottom, top, bottom, 100});
+}
+
+Argb TabTextColor(const TabState& state, const Skin& skin) {
+    if (state.isActive)
+        return skin[ColorSlot::TabTextActive];
+    return skin[state.isHot ? ColorSlot::TabTextHot : ColorSlot::TabText];
+}
+
+void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look) {
+    if (!state.isActive && !state.isHot && AlphaOf(state.tint) == 0)
+        return;
+    const int line = look.Line(), radius = look.Radius();
+    const bool isBright = state.isHot || state.isFocused;
+    Face face = look.skin[state.isActive ? (isBright ? FaceSlot::TabActiveHot : FaceSlot::TabActive) : FaceSlot::TabHot];
+    face = Tinted(face, state.tint);
+    if (!state.isActive && !state.isHot)
+        face.outer = face.inner = 0;
+
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    // The sides run on below the rectangle, so that the tab has no lower line. A hot tab stands clear of the category.
+    IntRect body = canvas.Local(rect);
+    body.bottom += state.isActive ? radius + 2 * line : 0;
+    const Corners corners = state.isActive ? Corners::All(radius) : Corners::Top(radius);
+    IntRect fill = canvas.Local(rect);
+    FillRounded(canvas.View(), fill, Corners::Top(radius), StopsOf(face, look.skin.split));
+    if (!state.isActive && state.isHot)
+        FillGlow(canvas.View(), fill.Deflated(line), {},
+                 {(fill.left + fill.right) / 2.0, static_cast<double>(fill.bottom)}, fill.Width() * 0.62,
+                 fill.Height() * 0.75, look.skin[ColorSlot::TabGlow]);
+    if (!state.isActive)
+        body.bottom += line;
+    StrokeRounded(canvas.View(), body.Deflated(line), corners.Deflated(line), face.inner, line);
+    StrokeRounded(canvas.View(), body, corners, face.outer, line);
+}
+
+void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const Look& look) {
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    const Face& face = look.skin[FaceSlot::RibbonCategory];
+    const IntRect whole = canvas.Local(rect);
+    const int line = look.Line();
+    const Corners corners = Corners::All(look.Radius());
+    FillRounded(canvas.View(), whole, corners, StopsOf(face, g_categorySplit));
+    StrokeRounded(canvas.View(), whole.Deflated(line), corners.Deflated(line), face.inner, line);
+    StrokeRounded(canvas.View(), whole, corners, face.outer, line);
+    if (gapLeft + line < gapRight - line) {
+        RECT gap{gapLeft + line, rect.top, gapRight - line, rect.top + 2 * line};
+        const IntRect hole = canvas.Local(gap);
+        FillRounded(canvas.View(), hole, {}, {face.top1, face.top1, face.top1, face.top1, 50});
+    }
+}
+
+void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const Look& look) {
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    const Face& face = look.skin[isHot ? FaceSlot::RibbonPanelHot : FaceSlot::RibbonPanel];
+    const IntRect whole = canvas.Local(rect);
+    const int line = look.Line(), radius = look.Radius();
+    const Corners corners = Corners::All(radius);
+    // A light line outside right and below gives the frame its depth; the frame itself is one line smaller.
+    const IntRect frame{whole.left, whole.top, whole.right - line, whole.bottom - line};
+    StrokeRounded(canvas.View(), {whole.left + line, whole.top + line, whole.right, whole.bottom}, corners, face.inner,
+                  line);
+    FillRounded(canvas.View(), frame, corners, StopsOf(face, look.skin.split));
+    if (!IsRectEmpty(&caption)) {
+        const Face& strip = look.skin[isHot ? FaceSlot::PanelCaptionHot : FaceSlot::PanelCaption];
+        IntRect area = canvas.Local(caption);
+        area = {frame.left, std::max(area.top, frame.top), frame.right, frame.bottom};
+        FillRounded(canvas.View(), area, Corners::Bottom(radius), StopsOf(strip, 50));
+    }
+    StrokeRounded(canvas.View(), frame.Deflated(line), corners.Deflated(line),
+                  WithAlpha(face.inner, AlphaOf(face.inner) / 2), line);
+    StrokeRounded(canvas.View(), frame, corners, face.outer, line);
+}
+
+void PaintPanelCaption(HDC dc, const RECT& caption, const wchar_t* text, int length, bool isHot, const Look& look) {
+    RECT area = caption;
+    InflateRect(&area, -look.Px(3), 0);
+    PaintText(dc, area, text, length, DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX,
+              look.skin[isHot ? ColorSlot::PanelCaptionTextHot : ColorSlot::PanelCaptionText]);
+}
+
+void PaintDefaultPane(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
+    const FaceSlot slot = state.isPressed || state.isDropped ? FaceSlot::DefaultPanePressed
+                          : state.isHot                      ? FaceSlot::DefaultPaneHot
+                                                             : FaceSlot::DefaultPane;
+    PaintFace(dc, rect, look.skin[slot], Corners::All(look.Radius()), look);
+}
+
+void PaintButton(HDC dc, const ButtonParts& parts, const ElementState& state, const Look& look) {
+    const Face* face = ButtonFaceFor(look.skin, state);
+    const Corners corners = CornersFor(parts.place, look.Radius());
+    const bool isSplit = !IsRectEmpty(&parts.menu) && !IsRectEmpty(&parts.command);
+    if (face == nullptr)
+        return;
+    if (!isSplit || state.isDisabled || (!parts.isCommandHot && !parts.isMenuHot)) {
+        PaintFace(dc, parts.rect, *face, corners, look);
+        return;
+    }
+    // The part under the cursor glows, the other one only shows that it belongs to it. An open menu presses its part.
+    PaintFace(dc, parts.rect, look.skin[FaceSlot::ButtonPale], corners, look);
+    const RECT& lit = parts.isMenuHot ? parts.menu : parts.command;
+    const int saved = SaveDC(dc);
+    IntersectClipRect(dc, lit.left, lit.top, lit.right, lit.bottom);
+    PaintFace(dc, parts.rect, *face, corners, look);
+    RestoreDC(dc, saved);
+    const bool isBelow = parts.menu.top >= parts.command.bottom;
+    const int line = look.Line();
+    const RECT divider = isBelow ? RECT{parts.rect.left, parts.menu.top, parts.rect.right, parts.menu.top + line}
+                                 : RECT{parts.menu.left, parts.rect.top, parts.menu.left + line, parts.rect.bottom};
+    PaintSolid(dc, divider, face->outer);
+}
+
+void PaintGroup(HDC dc, const RECT& rect, const Look& look) {
+    PaintFace(dc, rect, look.skin[FaceSlot::Group], Corners::All(look.Radius()), look);
+}
+
+void PaintEdit(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
+    const FaceSlot slot = state.isDisabled                                       ? FaceSlot::EditDisabled
+                          : state.isHot || state.isDropped || state.isPressed ? FaceSlot::EditHot
+                                                                                 : FaceSlot::Edit;
+    PaintFace(dc, rect, look.skin[slot], {}, look);
+}
+
+void PaintSliderChannel(HDC dc, const RECT& rect, const Look& look) {
+    RECT area = rect;
+    const LONG extra = (rect.bottom - rect.top - 2 * look.Line()) / 2;
+    area.top += std::max<LONG>(extra, 0);
+    area.bottom = area.top + 2 * look.Line();
+    PaintEtchedLine(dc, area, false, look.skin[ColorSlot::SliderTrackDark], look.skin[ColorSlot::SliderTrackLight],
+                    look);
+}
+
+void PaintSliderThumb(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    // A plate with a pointed lower end.
+    const Face& face = KnobFaceFor(look.skin, state);
+    const double width = rect.right - rect.left, height = rect.bottom - rect.top;
+    const double shoulder = height - width / 2;
+    const auto plate = [&](double inset) {
+        return std::array<PointF, 5>{{{inset, inset},
+                                      {width - inset, inset},
+                                      {width - inset, shoulder - inset * 0.4},
+                                      {width / 2, height - inset * 1.4},
+                                      {inset, shoulder - inset * 0.4}}};
+    };
+    const double line = look.Line();
+    FillPolygon(canvas.View(), plate(0), face.outer);
+    FillPolygon(canvas.View(), plate(line), face.inner);
+    FillPolygon(canvas.View(), plate(line * 2), face.bottom1);
+    const auto upper = plate(line * 2);
+    const std::array<PointF, 4> shine{{upper[0], upper[1], {upper[1].x, height * 0.45}, {upper[0].x, height * 0.45}}};
+    FillPolygon(canvas.View(), shine, face.top2);
+}
+
+void PaintZoomButton(HDC dc, const RECT& rect, bool isPlus, const ElementState& state, const Look& look) {
+    const LONG side = std::min(rect.right - rect.left, rect.bottom - rect.top);
+    const LONG left = (rect.left + rect.right - side) / 2, top = (rect.top + rect.bottom - side) / 2;
+    const RECT disc{left, top, left + side, top + side};
+    PaintDisc(dc, disc, KnobFaceFor(look.skin, state), look);
+    PaintSign(dc, disc, isPlus, look.skin[state.isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], look);
+}
+
+void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
+    const Face& face = look.skin[state.isPressed || state.isDropped ? FaceSlot::AppButtonPressed
+                                 : state.isHot                      ? FaceSlot::AppButtonHot
+                                                                    : FaceSlot::AppButton];
+    if (!IsNearlySquare(rect)) {
+        PaintFace(dc, rect, face, Corners::Top(look.Radius()), look);
+        return;
+    }
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    // A glass ball: dark rim, light ring, and a bright spot of light below.
+    const int line = look.Line();
+    const IntRect whole = canvas.Local(rect).Deflated(line);
+    const double side = whole.Width();
+    StrokeEllipse(canvas.View(), canvas.Local(rect), WithAlpha(face.outer, 90), line * 2);
+    FillEllipse(canvas.View(), whole, {face.top1, face.top2, face.bottom1, face.bottom2, 46});
+    FillGlow(canvas.View(), whole.Deflated(2 * line), Corners::All(static_cast<int>(side / 2) - 2 * line),
+             {whole.left + side / 2, whole.top + side * 0.96}, side * 0.46, side * 0.40, WithAlpha(face.bottom2, 255));
+    StrokeEllipse(canvas.View(), whole.Deflated(line), face.inner, line * 1.2);
+    StrokeEllipse(canvas.View(), whole, face.outer, line);
+}
+
+void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look) {
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    const Face& face = look.skin[isActive ? FaceSlot::CaptionActive : FaceSlot::CaptionInactive];
+    IntRect whole = canvas.Local(rect);
+    FillRounded(canvas.View(), whole, {}, StopsOf(face, look.skin.split));
+    const IntRect light{whole.left, whole.top, whole.right, whole.top + look.Line()};
+    FillRounded(canvas.View(), light, {}, {face.inner, face.inner, face.inner, face.inner, 50});
+}
+
+void PaintCaptionButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look) {
+    if (state.isPressed || state.isHot)
+        PaintFace(dc, rect,
+                  look.skin[state.isPressed ? FaceSlot::CaptionButtonPressed : FaceSlot::CaptionButtonHot],
+                  Corners::All(look.Radius()), look);
+    PaintWindowGlyph(dc, rect, glyph,
+                     look.skin[state.isDisabled ? ColorSlot::CaptionTextInactive : ColorSlot::CaptionGlyph], look);
+}
+
+void PaintCategoryScroll(HDC dc, const RECT& rect, bool isLeft, const ElementState& state, const Look& look) {
+    const Face* face = ButtonFaceFor(look.skin, state);
+    PaintFace(dc, rect, face != nullptr ? *face : look.skin[FaceSlot::CategoryScroll],
+              isLeft ? Corners::Left(look.Radius()) : Corners::Right(look.Radius()), look);
+    PaintArrow(dc, rect, isLeft ? ArrowDirection::Left : ArrowDirection::Right, look.skin[ColorSlot::Glyph],
+               look.skin[ColorSlot::GlyphLight], look);
+}
+
+void PaintContextCaption(HDC dc, const RECT& rect, Argb tint, const Look& look) {
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    const IntRect whole = canvas.Local(rect);
+    const int line = look.Line();
+    FillRounded(canvas.View(), whole, {},
+                {WithAlpha(tint, 30), WithAlpha(tint, 90), WithAlpha(tint, 90), WithAlpha(tint, 170), 40});
+    const FourStops side{WithAlpha(tint, 0), WithAlpha(tint, 230), WithAlpha(tint, 230), WithAlpha(tint, 230), 60};
+    FillRounded(canvas.View(), {whole.left, whole.top, whole.left + line, whole.bottom}, {}, side);
+    FillRounded(canvas.View(), {whole.right - line, whole.top, whole.right, whole.bottom}, {}, side);
+}
+
+void PaintKeyTip(HDC dc, const RECT& rect, const wchar_t* text, int length, bool isDisabled, const Look& look) {
+    PaintFace(dc, rect, look.skin[FaceSlot::KeyTip], Corners::All(std::min(look.Radius(), look.Px(2))), look);
+    const Argb color = look.skin[ColorSlot::KeyTipText];
+    PaintText(dc, rect, text, length, DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX,
+              isDisabled ? Mix(color, look.skin[FaceSlot::KeyTip].bottom1, 1, 2) : color);
+}
+
+void PaintProgress(HDC dc, const RECT& rect, const RECT& chunk, const Look& look) {
+    PaintFace(dc, rect, look.skin[FaceSlot::ProgressTrack], Corners::All(look.Radius()), look);
+    RECT inside = rect, filled;
+    InflateRect(&inside, -look.Line(), -look.Line());
+    if (!IntersectRect(&filled, &inside, &chunk))
+        return;
+    Face face = look.skin[FaceSlot::ProgressChunk];
+    face.outer = 0;
+    PaintFace(dc, filled, face, Corners::All(std::max(look.Radius() - look.Line(), 0)), look);
+    PaintBorders(dc, rect, look.skin[FaceSlot::ProgressTrack], Corners::All(look.Radius()), look);
+}
+
+void PaintMainPanelFrame(HDC dc, const RECT& rect, const RECT& content, const Look& look) {
+    PaintFace(dc, rect, look.skin[FaceSlot::MainPanelFrame], Corners::All(look.Radius()), look);
+    if (IsRectEmpty(&content))
+        return;
+    PaintSolid(dc, content, look.skin[ColorSlot::MenuFill]);
+    PaintFrame(dc, content, look.skin[ColorSlot::MenuBorder], look.Line());
+}
+
+void PaintStatusBar(HDC dc, const RECT& rect, const Look& look) {
+    const Canvas canvas(dc, rect);
+    if (canvas.IsEmpty())
+        return;
+    const Face& face = look.skin[FaceSlot::StatusBar];
+    const IntRect whole = canvas.Local(rect);
+    const int line = look.Line();
+    FillRounded(canvas.View(), whole, {}, StopsOf(face, look.skin.split));
+    FillRounded(canvas.View(), {whole.left, whole.top, whole.right, whole.top + line}, {},
+                {face.outer, face.outer, face.outer, face.outer, 50});
+    FillRounded(canvas.View(), {whole.left, whole.top + line, whole.right, whole.top + 2 * line}, {},
+                {face.inner, face.inner, face.inner, face.inner, 50});
+}
+
+} // namespace visual
