@@ -43,7 +43,6 @@ struct FRAMEWORK_API AFX_GLOBAL_DATA {
     BOOL DrawParentBackground(CWnd* pWnd, CDC* pDC, LPRECT lpRect = NULL);
     /// ABE_-numbered bits of the screen edges that hold an auto-hide taskbar.
     int GetShellAutohideBars();
-    BOOL IsDwmCompositionEnabled();
     /// Takes <TAG>...</TAG> out of strBuffer, its contents into strTag. FALSE when the tag is not there.
     BOOL ExcludeTag(CString& strBuffer, LPCTSTR lpszTag, CString& strTag, BOOL bIsCharsList = FALSE);
     void EnableAccessibilitySupport(BOOL bEnable = TRUE) { m_bEnableAccessibility = bEnable; }

@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+class CMFCToolBarImages;
+
 /// What PrepareDrawImage sets up and EndDrawImage puts back. Opaque to hosts.
 class FRAMEWORK_API CAfxDrawState {
 public:
@@ -12,8 +14,9 @@ public:
 
 private:
     friend class CMFCToolBarImages;
-    HDC m_dcSource = NULL;
-    HBITMAP m_bmpPrevious = NULL;
+    CMFCToolBarImages* m_pImages = NULL;
+    CSize m_sizeDestBefore = CSize(0, 0);
+    BOOL m_bFadeBefore = FALSE;
 };
 
 /// A row of equally sized images for toolbars, menus and the ribbon. Images with alpha are kept as 32-bit premultiplied
@@ -41,14 +44,9 @@ public:
     /// A BMP or PNG file; a file larger than nMaxFileSize bytes (0: any) is refused.
     BOOL Load(LPCTSTR lpszBmpFileName, DWORD nMaxFileSize = 819200);
     BOOL LoadStr(LPCTSTR lpszResourceName, HINSTANCE hinstRes = NULL, BOOL bAdd = FALSE);
-    BOOL CreateFromImageList(const CImageList& imageList);
     BOOL CopyTo(CMFCToolBarImages& imageList);
-    BOOL UpdateImage(int iImage, HBITMAP hbmp);
     BOOL DeleteImage(int iImage);
     void Clear();
-    /// As a BMP file; NULL writes to the file it was loaded from.
-    BOOL Save(LPCTSTR lpszBmpFileName = NULL);
-    BOOL CopyImageToClipboard(int iImage);
 
     // Properties
     void SetImageSize(SIZE sizeImage, BOOL bUpdateCount = FALSE);
@@ -64,8 +62,6 @@ public:
     COLORREF SetTransparentColor(COLORREF clrTransparent);
     COLORREF GetTransparentColor() const { return m_clrTransparent; }
     CRect GetLastImageRect() const { return m_rectLastDraw; }
-    /// A black-and-white mask of one image, white where it is transparent; caller deletes. NULL on failure.
-    HBITMAP GetMask(int iImage);
     /// Offset of the first image loaded from this resource, -1 when it was not loaded.
     int GetResourceOffset(UINT uiResId) const;
     /// A new icon, destroyed by the caller. NULL when there is no such image.
@@ -86,8 +82,6 @@ public:
     // Changes to the pixels
     BOOL ConvertTo32Bits(COLORREF clrTransparent = (COLORREF)-1);
     BOOL GrayImages(int nGrayImageLuminancePercentage);
-    void AdaptColors(COLORREF clrBase, COLORREF clrTone);
-    BOOL MapTo3dColors(BOOL bUseRGBQUAD = TRUE, COLORREF clrSrc = (COLORREF)-1, COLORREF clrDest = (COLORREF)-1);
     BOOL Mirror();
     BOOL MirrorVert();
     /// Resamples all images by the factor; image size, count and GetScale follow. FALSE when nothing was changed.
@@ -112,48 +106,35 @@ public:
     static BOOL Is32BitTransparencySupported() { return TRUE; }
     static void __stdcall EnableRTL(BOOL bIsRTL = TRUE);
     static BOOL IsRTL() { return m_bIsRTL; }
-    static void __stdcall CleanUp();
-
-    static BOOL MirrorBitmap(HBITMAP& hbmp, int cxImage);
-    static BOOL __stdcall MirrorBitmapVert(HBITMAP& hbmp, int cyImage);
-    static COLORREF __stdcall MapToSysColor(COLORREF color, BOOL bUseRGBQUAD = TRUE);
-    static COLORREF __stdcall MapFromSysColor(COLORREF color, BOOL bUseRGBQUAD = TRUE);
-    static COLORREF __stdcall MapToSysColorAlpha(COLORREF color);
-    static HRGN __stdcall CreateRegionFromImage(HBITMAP bmp, COLORREF clrTransparent);
 
     static BOOL m_bDisableTrueColorAlpha;
 
-protected:
-    /// Multiplies colours by alpha; with bAutoCheckPremlt only when some colour exceeds its alpha.
-    static BOOL __stdcall PreMultiplyAlpha(HBITMAP hbmp, BOOL bAutoCheckPremlt);
-    BOOL PreMultiplyAlpha(HBITMAP hbmp);
-
 private:
-    BOOL AppendBitmap(HBITMAP hbmp);
-    BOOL ReplaceWell(HBITMAP hbmp);
+    /// Joins a strip of images, a top-down 32-bit bitmap that the list takes over; FALSE (and deleted) when it cannot.
+    BOOL Append(HBITMAP hbmp, BOOL bHasAlpha);
+    void SetWell(HBITMAP hbmp);
     void UpdateCount();
-    BOOL DrawPixels(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, int nLook, BYTE alphaSrc);
+    CRect GetSourceRect(int nIndex) const;
+    BOOL BlendImage(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, UINT nLook, BYTE alphaSrc);
 
     HBITMAP m_hbmImageWell = NULL;
     HBITMAP m_hbmImageLight = NULL;
     CSize m_sizeImage = CSize(16, 15);
     CSize m_sizeImageDest = CSize(0, 0);
     CRect m_rectLastDraw = CRect(0, 0, 0, 0);
-    CRect m_rectSubImage = CRect(0, 0, 0, 0);
     CString m_strFile;
     CMap<UINT, UINT, int, int> m_mapOffsets;
     int m_iCount = 0;
     int m_nBitsPerPixel = 0;
     int m_nLightPercentage = -1;
     double m_dblScale = 1.0;
-    COLORREF m_clrTransparent = (COLORREF)-1;
+    COLORREF m_clrTransparent = RGB(192, 192, 192);
     BOOL m_bFadeInactive = FALSE;
     BOOL m_bAlwaysLight = FALSE;
     BOOL m_bMapTo3DColors = TRUE;
-    BOOL m_bAutoCheckPremlt = FALSE;
+    BOOL m_bAutoCheckPremlt = TRUE;
     BOOL m_bReadOnly = FALSE;
     BOOL m_bUserImagesList = FALSE;
-    BOOL m_bCreated = FALSE;
 
     static BYTE m_nDisabledImageAlpha;
     static BYTE m_nFadedImageAlpha;

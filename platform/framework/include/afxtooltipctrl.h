@@ -64,7 +64,6 @@ public:
 protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
     /// TTN_SHOW: sizes and places the window. *pResult is 1 when it was placed, 0 when the system places it.
     afx_msg void OnShow(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnPop(NMHDR* pNMHDR, LRESULT* pResult);
@@ -72,8 +71,6 @@ protected:
 
     /// Fill m_Params from the visual manager when the tooltip follows it.
     void UpdateParams();
-    /// The toolbar button under the cursor, when the owner is a toolbar.
-    void GetHotButton();
     /// The text of the current tool, without its accelerator marks.
     CString GetLabel();
 

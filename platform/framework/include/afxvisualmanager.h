@@ -158,9 +158,6 @@ public:
     virtual COLORREF GetRibbonStatusBarTextColor(CMFCRibbonStatusBar* pStatusBar);
     virtual COLORREF GetSmartDockingHighlightToneColor();
     virtual COLORREF GetStatusBarPaneTextColor(CMFCStatusBar* pStatusBar, CMFCStatusBarPaneInfo* pPane);
-    virtual void GetTabFrameColors(const CMFCBaseTabCtrl* pTabWnd, COLORREF& clrDark, COLORREF& clrBlack,
-                                   COLORREF& clrHighlight, COLORREF& clrFace, COLORREF& clrDarkShadow,
-                                   COLORREF& clrLight, CBrush*& pbrFace, CBrush*& pbrBlack);
     virtual COLORREF GetTabTextColor(const CMFCBaseTabCtrl*, int, BOOL);
     virtual COLORREF GetToolbarButtonTextColor(CMFCToolBarButton* pButton, AFX_BUTTON_STATE state);
     virtual COLORREF GetToolbarDisabledColor() const;
@@ -173,7 +170,6 @@ public:
     // Key tips, the captions of panels and of the window are drawn with their text. For all others, tabs too, the
     // manager draws the face, and the element its image and its text over it in the colour returned.
     virtual void OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect rect, CRect rectText);
-    virtual void OnDrawRibbonCaptionButton(CDC* pDC, CMFCRibbonCaptionButton* pButton);
     virtual void OnDrawRibbonApplicationButton(CDC* pDC, CMFCRibbonButton* pButton);
     virtual COLORREF OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar* pWndRibbonBar, CRect rectTab);
     virtual COLORREF OnDrawRibbonCategoryTab(CDC* pDC, CMFCRibbonTab* pTab, BOOL bIsActive);
@@ -202,10 +198,6 @@ public:
     virtual void OnDrawRibbonLabel(CDC* pDC, CMFCRibbonLabel* pLabel, CRect rect);
     virtual void OnDrawRibbonCheckBoxOnList(CDC* pDC, CMFCRibbonCheckBox* pCheckBox, CRect rect, BOOL bIsSelected,
                                             BOOL bHighlighted);
-    virtual void OnDrawRibbonColorPaletteBox(CDC* pDC, CMFCRibbonColorButton* pColorButton,
-                                             CMFCRibbonGalleryIcon* pIcon, COLORREF color, CRect rect,
-                                             BOOL bDrawTopEdge, BOOL bDrawBottomEdge, BOOL bIsHighlighted,
-                                             BOOL bIsChecked, BOOL bIsDisabled);
     virtual void OnDrawRibbonProgressBar(CDC* pDC, CMFCRibbonProgressBar* pProgress, CRect rectProgress,
                                          CRect rectChunk, BOOL bInfiniteMode);
     virtual void OnDrawRibbonSliderChannel(CDC* pDC, CMFCRibbonSlider* pSlider, CRect rect);
@@ -214,7 +206,6 @@ public:
     virtual void OnDrawRibbonSliderZoomButton(CDC* pDC, CMFCRibbonSlider* pSlider, CRect rect, BOOL bIsZoomOut,
                                               BOOL bIsHighlighted, BOOL bIsPressed, BOOL bIsDisabled);
     virtual void OnDrawRibbonGalleryBorder(CDC* pDC, CMFCRibbonGallery* pButton, CRect rectBorder);
-    virtual void OnDrawRibbonGalleryButton(CDC* pDC, CMFCRibbonGalleryIcon* pButton);
     virtual void OnDrawRibbonMenuCheckFrame(CDC* pDC, CMFCRibbonButton* pButton, CRect rect);
 
     // Ribbon pop-ups and status bar
@@ -263,11 +254,8 @@ public:
                                   CMFCToolBarEditBoxButton* pButton);
     virtual void OnDrawCheckBox(CDC* pDC, CRect rect, BOOL bHighlighted, BOOL bChecked, BOOL bEnabled);
     virtual void OnDrawCheckBoxEx(CDC* pDC, CRect rect, int nState, BOOL bHighlighted, BOOL bPressed, BOOL bEnabled);
-    virtual void OnDrawControlBorder(CWnd* pWndCtrl);
     virtual void OnDrawExpandingBox(CDC* pDC, CRect rect, BOOL bIsOpened, COLORREF colorBox);
     virtual void OnDrawScrollButtons(CDC* pDC, const CRect& rect, const int nBorderSize, int iImage, BOOL bHilited);
-    virtual void OnDrawSpinButtons(CDC* pDC, CRect rectSpin, int nState, BOOL bOrientation,
-                                   CMFCSpinButtonCtrl* pSpinCtrl);
     virtual void OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar* pBar, CRect rectPane, UINT uiID, UINT nStyle);
     virtual void OnDrawStatusBarProgress(CDC* pDC, CMFCStatusBar* pStatusBar, CRect rectProgress, int nProgressTotal,
                                          int nProgressCurr, COLORREF clrBar, COLORREF clrProgressBarDest,
@@ -285,18 +273,12 @@ public:
     // Panes, frames and tabs
     virtual COLORREF OnDrawPaneCaption(CDC* pDC, CDockablePane* pBar, BOOL bActive, CRect rectCaption,
                                        CRect rectButtons);
-    virtual void OnDrawCaptionButton(CDC* pDC, CMFCCaptionButton* pButton, BOOL bActive, BOOL bHorz, BOOL bMaximized,
-                                     BOOL bDisabled, int nImageID = -1);
     virtual void OnDrawPaneDivider(CDC* pDC, CPaneDivider* pSlider, CRect rect, BOOL bAutoHideMode);
     virtual COLORREF OnFillMiniFrameCaption(CDC* pDC, CRect rectCaption, CPaneFrameWnd* pFrameWnd, BOOL bActive);
     virtual void OnDrawMiniFrameBorder(CDC* pDC, CPaneFrameWnd* pFrameWnd, CRect rectBorder, CRect rectBorderSize);
     virtual void OnDrawTab(CDC* pDC, CRect rectTab, int iTab, BOOL bIsActive, const CMFCBaseTabCtrl* pTabWnd);
-    virtual void OnDrawTabContent(CDC* pDC, CRect rectTab, int iTab, BOOL bIsActive, const CMFCBaseTabCtrl* pTabWnd,
-                                  COLORREF clrText);
     virtual void OnDrawTabCloseButton(CDC* pDC, CRect rect, const CMFCBaseTabCtrl* pTabWnd, BOOL bIsHighlighted,
                                       BOOL bIsPressed, BOOL bIsDisabled);
-    virtual void OnDrawTabsButtonBorder(CDC* pDC, CRect& rect, CMFCButton* pButton, UINT uiState,
-                                        CMFCBaseTabCtrl* pWndTab);
     virtual void OnFillTab(CDC* pDC, CRect rectFill, CBrush* pbrFill, int iTab, BOOL bIsActive,
                            const CMFCBaseTabCtrl* pTabWnd);
     virtual void OnEraseTabsArea(CDC* pDC, CRect rect, const CMFCBaseTabCtrl* pTabWnd);

@@ -24,6 +24,8 @@ public:
 
     void OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu* pMenu, CRect rect) override;
     void OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz) override;
+    void OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect rectClip,
+                             BOOL bNCArea = FALSE) override;
     void OnUpdateSystemColors() override;
 
 protected:

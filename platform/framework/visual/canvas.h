@@ -11,8 +11,8 @@ constexpr Argb FromColorRef(COLORREF color) {
     return MakeArgb(255, GetRValue(color), GetGValue(color), GetBValue(color));
 }
 
-/// A transparent 32-bit picture over a rectangle of a device context; what was drawn is blended onto the context when the
-/// canvas goes. An empty rectangle, or one outside of the clip box, gives an empty view.
+/// A transparent 32-bit picture over a rectangle of a device context; what was drawn is blended onto the context when
+/// the canvas goes. An empty rectangle, or one outside of the clip box, gives an empty view.
 class Canvas {
 public:
     Canvas(HDC dc, const RECT& bounds);

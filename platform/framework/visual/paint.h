@@ -2,8 +2,8 @@
 
 #include "visual/canvas.h"
 
-// Paint functions shared by everything that is drawn. They read a skin, rectangles and a state, and change nothing but the
-// pixels of the device context. Rectangles are device pixels; sizes inside them follow Look::scale.
+// Paint functions shared by everything that is drawn. They read a skin, rectangles and a state, and change nothing but
+// the pixels of the device context. Rectangles are device pixels; sizes inside them follow Look::scale.
 namespace visual {
 
 struct Look {

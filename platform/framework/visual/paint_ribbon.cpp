@@ -57,7 +57,8 @@ void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look)
         return;
     const int line = look.Line(), radius = look.Radius();
     const bool isBright = state.isHot || state.isFocused;
-    Face face = look.skin[state.isActive ? (isBright ? FaceSlot::TabActiveHot : FaceSlot::TabActive) : FaceSlot::TabHot];
+    Face face =
+        look.skin[state.isActive ? (isBright ? FaceSlot::TabActiveHot : FaceSlot::TabActive) : FaceSlot::TabHot];
     face = Tinted(face, state.tint);
     if (!state.isActive && !state.isHot)
         face.outer = face.inner = 0;
@@ -166,9 +167,9 @@ void PaintGroup(HDC dc, const RECT& rect, const Look& look) {
 }
 
 void PaintEdit(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
-    const FaceSlot slot = state.isDisabled                                       ? FaceSlot::EditDisabled
+    const FaceSlot slot = state.isDisabled                                    ? FaceSlot::EditDisabled
                           : state.isHot || state.isDropped || state.isPressed ? FaceSlot::EditHot
-                                                                                 : FaceSlot::Edit;
+                                                                              : FaceSlot::Edit;
     PaintFace(dc, rect, look.skin[slot], {}, look);
 }
 
@@ -249,8 +250,7 @@ void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look) {
 
 void PaintCaptionButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look) {
     if (state.isPressed || state.isHot)
-        PaintFace(dc, rect,
-                  look.skin[state.isPressed ? FaceSlot::CaptionButtonPressed : FaceSlot::CaptionButtonHot],
+        PaintFace(dc, rect, look.skin[state.isPressed ? FaceSlot::CaptionButtonPressed : FaceSlot::CaptionButtonHot],
                   Corners::All(look.Radius()), look);
     PaintWindowGlyph(dc, rect, glyph,
                      look.skin[state.isDisabled ? ColorSlot::CaptionTextInactive : ColorSlot::CaptionGlyph], look);

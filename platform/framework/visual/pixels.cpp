@@ -66,8 +66,8 @@ unsigned CoverageAt(const IntRect& rect, const Corners& corners, int x, int y) {
         return 0;
     const bool isTop = y - rect.top < rect.Height() / 2;
     const bool isLeft = x - rect.left < rect.Width() / 2;
-    const int radius = isTop ? (isLeft ? corners.topLeft : corners.topRight)
-                             : (isLeft ? corners.bottomLeft : corners.bottomRight);
+    const int radius =
+        isTop ? (isLeft ? corners.topLeft : corners.topRight) : (isLeft ? corners.bottomLeft : corners.bottomRight);
     const int fromSide = isLeft ? x - rect.left : rect.right - 1 - x;
     const int fromEdge = isTop ? y - rect.top : rect.bottom - 1 - y;
     if (fromSide >= radius || fromEdge >= radius)

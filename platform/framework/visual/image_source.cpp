@@ -1,0 +1,157 @@
+#include "visual/image_source.h"
+
+#include <algorithm>
+#include <objidl.h>
+#include <gdiplus.h>
+#include <shlwapi.h>
+
+namespace visual {
+
+namespace {
+
+/// GDI+ stays started: it must not be shut down while the process unloads its DLLs.
+bool StartGdiPlus() {
+    static const bool isStarted = [] {
+        ULONG_PTR token = 0;
+        const Gdiplus::GdiplusStartupInput input;
+        return Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok;
+    }();
+    return isStarted;
+}
+
+Picture Decode(Gdiplus::Bitmap& source) {
+    const int width = static_cast<int>(source.GetWidth()), height = static_cast<int>(source.GetHeight());
+    if (source.GetLastStatus() != Gdiplus::Ok || width <= 0 || height <= 0)
+        return {};
+    Gdiplus::BitmapData data;
+    const Gdiplus::Rect whole(0, 0, width, height);
+    if (source.LockBits(&whole, Gdiplus::ImageLockModeRead, PixelFormat32bppPARGB, &data) != Gdiplus::Ok)
+        return {};
+    Picture picture;
+    std::uint32_t* bits = nullptr;
+    picture.bitmap = MakeBitmap32(width, height, &bits);
+    if (picture.bitmap != nullptr)
+        for (int y = 0; y < height; ++y)
+            std::copy_n(reinterpret_cast<const std::uint32_t*>(static_cast<const BYTE*>(data.Scan0) + y * data.Stride),
+                        width, bits + static_cast<std::size_t>(y) * width);
+    source.UnlockBits(&data);
+    picture.hasAlpha = Gdiplus::IsAlphaPixelFormat(source.GetPixelFormat());
+    return picture;
+}
+
+/// Any bitmap as 32-bit rows, alpha as it stands.
+HBITMAP CopyRows(HBITMAP bitmap, std::uint32_t** bits, BITMAP& info) {
+    if (GetObjectW(bitmap, sizeof(info), &info) == 0)
+        return nullptr;
+    info.bmHeight = std::abs(info.bmHeight);
+    const HBITMAP copy = MakeBitmap32(info.bmWidth, info.bmHeight, bits);
+    if (copy == nullptr)
+        return nullptr;
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof(format.bmiHeader), info.bmWidth, -info.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    const HDC screen = GetDC(nullptr);
+    GetDIBits(screen, bitmap, 0, info.bmHeight, *bits, &format, DIB_RGB_COLORS);
+    ReleaseDC(nullptr, screen);
+    return copy;
+}
+
+void MakeOpaque(const PixelView& view) {
+    std::for_each_n(view.bits, static_cast<std::size_t>(view.width) * view.height,
+                    [](std::uint32_t& pixel) { pixel |= 0xFF000000; });
+}
+
+} // namespace
+
+PixelView ViewOf(HBITMAP bitmap) {
+    BITMAP info{};
+    if (bitmap == nullptr || GetObjectW(bitmap, sizeof(info), &info) == 0 || info.bmBits == nullptr)
+        return {};
+    GdiFlush();
+    return {static_cast<std::uint32_t*>(info.bmBits), info.bmWidth, info.bmHeight};
+}
+
+Picture PictureFromBitmap(HBITMAP bitmap, bool isMultiplied) {
+    BITMAP info{};
+    std::uint32_t* bits = nullptr;
+    Picture picture{CopyRows(bitmap, &bits, info), false};
+    if (picture.bitmap == nullptr)
+        return {};
+    const PixelView view{bits, info.bmWidth, info.bmHeight};
+    picture.hasAlpha = info.bmBitsPixel == 32 && HasAlpha(view);
+    if (picture.hasAlpha)
+        PreMultiply(view, isMultiplied);
+    else
+        MakeOpaque(view);
+    return picture;
+}
+
+Picture PictureFromFile(const wchar_t* path) {
+    const auto bitmap =
+        static_cast<HBITMAP>(LoadImageW(nullptr, path, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
+    if (bitmap != nullptr) {
+        const Picture picture = PictureFromBitmap(bitmap, true);
+        DeleteObject(bitmap);
+        return picture;
+    }
+    if (!StartGdiPlus())
+        return {};
+    Gdiplus::Bitmap source(path);
+    return Decode(source);
+}
+
+Picture PictureFromResource(HINSTANCE module, const wchar_t* name) {
+    if (const HRSRC found = FindResourceW(module, name, L"PNG"); found != nullptr && StartGdiPlus()) {
+        const HGLOBAL loaded = LoadResource(module, found);
+        IStream* stream =
+            SHCreateMemStream(static_cast<const BYTE*>(LockResource(loaded)), SizeofResource(module, found));
+        if (stream == nullptr)
+            return {};
+        Picture picture;
+        {
+            Gdiplus::Bitmap source(stream);
+            picture = Decode(source);
+        }
+        stream->Release();
+        return picture;
+    }
+    const auto bitmap = static_cast<HBITMAP>(LoadImageW(module, name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+    if (bitmap == nullptr)
+        return {};
+    const Picture picture = PictureFromBitmap(bitmap, true);
+    DeleteObject(bitmap);
+    return picture;
+}
+
+Picture PictureFromIcon(HICON icon, SIZE size) {
+    ICONINFO info{};
+    if (!GetIconInfo(icon, &info))
+        return {};
+    Picture picture;
+    BITMAP colorInfo{}, maskInfo{};
+    std::uint32_t *colorBits = nullptr, *maskBits = nullptr;
+    const HBITMAP mask = CopyRows(info.hbmMask, &maskBits, maskInfo);
+    // An icon without colours keeps its picture in the lower half of the mask.
+    const HBITMAP color = CopyRows(info.hbmColor != nullptr ? info.hbmColor : info.hbmMask, &colorBits, colorInfo);
+    if (color != nullptr && mask != nullptr) {
+        const int width = colorInfo.bmWidth;
+        const int height = info.hbmColor != nullptr ? colorInfo.bmHeight : colorInfo.bmHeight / 2;
+        PixelView source{colorBits + (info.hbmColor != nullptr ? 0 : static_cast<std::size_t>(width) * height), width,
+                         height};
+        const bool hasAlpha = info.hbmColor != nullptr && colorInfo.bmBitsPixel == 32 && HasAlpha(source);
+        if (hasAlpha)
+            PreMultiply(source, false);
+        else
+            for (int i = 0; i < width * height; ++i)
+                source.bits[i] = (maskBits[i] & 0xFFFFFF) != 0 ? 0 : source.bits[i] | 0xFF000000;
+        std::uint32_t* bits = nullptr;
+        picture = {MakeBitmap32(size.cx, size.cy, &bits), true};
+        if (picture.bitmap != nullptr)
+            Resample(source, {bits, size.cx, size.cy});
+    }
+    for (const HBITMAP bitmap : {color, mask, info.hbmColor, info.hbmMask})
+        if (bitmap != nullptr)
+            DeleteObject(bitmap);
+    return picture;
+}
+
+} // namespace visual

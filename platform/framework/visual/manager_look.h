@@ -1,0 +1,31 @@
+#pragma once
+
+#include "afxglobals.h"
+#include "visual/paint_ribbon.h"
+
+#include <afxbaseribbonelement.h>
+
+// From the framework's objects to the state that paint functions read.
+namespace visual {
+
+inline Look LookOf(const Skin& skin) { return {skin, afxGlobalData.GetRibbonImageScale()}; }
+
+inline ElementState StateOf(const CMFCRibbonBaseElement& element) {
+    return {element.IsHighlighted() != FALSE, element.IsPressed() != FALSE, element.IsChecked() != FALSE,
+            element.IsDisabled() != FALSE, element.IsDroppedDown() != FALSE};
+}
+
+inline GroupPlace PlaceOf(const CMFCRibbonBaseElement& element) {
+    switch (element.GetLocationInGroup()) {
+    case CMFCRibbonBaseElement::RibbonElementFirstInGroup:
+        return GroupPlace::First;
+    case CMFCRibbonBaseElement::RibbonElementMiddleInGroup:
+        return GroupPlace::Middle;
+    case CMFCRibbonBaseElement::RibbonElementLastInGroup:
+        return GroupPlace::Last;
+    default:
+        return GroupPlace::Alone;
+    }
+}
+
+} // namespace visual

@@ -1,0 +1,363 @@
+#include "afxtoolbarimages.h"
+
+#include "visual/image_source.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+using visual::Picture;
+using visual::PixelView;
+using visual::ViewOf;
+
+IMPLEMENT_DYNAMIC(CMFCToolBarImages, CObject)
+
+BOOL CMFCToolBarImages::m_bDisableTrueColorAlpha = FALSE;
+BYTE CMFCToolBarImages::m_nDisabledImageAlpha = 127;
+BYTE CMFCToolBarImages::m_nFadedImageAlpha = 150;
+BOOL CMFCToolBarImages::m_bIsRTL = FALSE;
+
+namespace {
+
+void CopyPixels(const PixelView& source, const CRect& from, const PixelView& target, int left) {
+    for (int y = 0; y < std::min<int>(from.Height(), target.height); ++y)
+        for (int x = 0; x < from.Width() && left + x < target.width; ++x)
+            if (from.left + x < source.width && from.top + y < source.height)
+                target.At(left + x, y) = source.At(from.left + x, from.top + y);
+}
+
+} // namespace
+
+CMFCToolBarImages::CMFCToolBarImages() = default;
+
+CMFCToolBarImages::~CMFCToolBarImages() { Clear(); }
+
+void CMFCToolBarImages::Clear() {
+    SetWell(nullptr);
+    m_iCount = 0;
+    m_nBitsPerPixel = 0;
+    m_dblScale = 1.0;
+    m_strFile.Empty();
+    m_mapOffsets.RemoveAll();
+}
+
+void CMFCToolBarImages::SetWell(HBITMAP hbmp) {
+    if (m_hbmImageWell != nullptr && m_hbmImageWell != hbmp)
+        ::DeleteObject(m_hbmImageWell);
+    m_hbmImageWell = hbmp;
+    if (m_hbmImageLight != nullptr)
+        ::DeleteObject(m_hbmImageLight);
+    m_hbmImageLight = nullptr;
+}
+
+void CMFCToolBarImages::UpdateCount() {
+    m_iCount = m_sizeImage.cx > 0 ? ViewOf(m_hbmImageWell).width / static_cast<int>(m_sizeImage.cx) : 0;
+}
+
+CRect CMFCToolBarImages::GetSourceRect(int nIndex) const {
+    return CRect(CPoint(nIndex * m_sizeImage.cx, 0), m_sizeImage);
+}
+
+BOOL CMFCToolBarImages::Append(HBITMAP hbmp, BOOL bHasAlpha) {
+    const PixelView added = ViewOf(hbmp);
+    if (added.bits == nullptr)
+        return FALSE;
+    // A list with alpha keeps it; pixels of the transparent colour become clear when lists of both kinds meet.
+    const bool isMixed = m_hbmImageWell != nullptr && (m_nBitsPerPixel == 32) != (bHasAlpha != FALSE);
+    if (isMixed && bHasAlpha)
+        ConvertTo32Bits();
+    if (isMixed && !bHasAlpha)
+        for (int i = 0; i < added.width * added.height; ++i)
+            if (visual::ToColorRef(added.bits[i]) == m_clrTransparent)
+                added.bits[i] = 0;
+
+    const PixelView present = ViewOf(m_hbmImageWell);
+    const int kept = m_iCount * m_sizeImage.cx, width = kept + added.width;
+    const int height = std::max(present.height, added.height);
+    std::uint32_t* bits = nullptr;
+    const HBITMAP joined = visual::MakeBitmap32(width, height, &bits);
+    if (joined != nullptr) {
+        const PixelView target{bits, width, height};
+        CopyPixels(present, CRect(0, 0, kept, present.height), target, 0);
+        CopyPixels(added, CRect(0, 0, added.width, added.height), target, kept);
+        SetWell(joined);
+        if (m_nBitsPerPixel != 32)
+            m_nBitsPerPixel = bHasAlpha ? 32 : 24;
+        UpdateCount();
+    }
+    ::DeleteObject(hbmp);
+    return joined != nullptr;
+}
+
+int CMFCToolBarImages::AddIcon(HICON hIcon, BOOL bAlphaBlend) {
+    Picture picture = visual::PictureFromIcon(hIcon, m_sizeImage);
+    if (picture.bitmap == nullptr)
+        return -1;
+    if (!bAlphaBlend) {
+        // Without blending a pixel is there or not.
+        const PixelView view = ViewOf(picture.bitmap);
+        for (int i = 0; i < view.width * view.height; ++i) {
+            const unsigned alpha = visual::AlphaOf(view.bits[i]);
+            const auto whole = [alpha](unsigned channel) {
+                return std::min(channel * 255 / std::max(alpha, 1u), 255u);
+            };
+            view.bits[i] = alpha < 128 ? 0
+                                       : visual::MakeArgb(255, whole(visual::RedOf(view.bits[i])),
+                                                          whole(visual::GreenOf(view.bits[i])),
+                                                          whole(visual::BlueOf(view.bits[i])));
+        }
+    }
+    return Append(picture.bitmap, TRUE) ? m_iCount - 1 : -1;
+}
+
+int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL) {
+    const Picture picture = visual::PictureFromBitmap(hbmp, m_bAutoCheckPremlt);
+    const int first = m_iCount;
+    return picture.bitmap != nullptr && Append(picture.bitmap, picture.hasAlpha) ? first : -1;
+}
+
+int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) {
+    if (nIndex < 0 || nIndex >= imageList.m_iCount || imageList.m_sizeImage != m_sizeImage)
+        return -1;
+    std::uint32_t* bits = nullptr;
+    const HBITMAP one = visual::MakeBitmap32(m_sizeImage.cx, m_sizeImage.cy, &bits);
+    if (one == nullptr)
+        return -1;
+    CopyPixels(ViewOf(imageList.m_hbmImageWell), imageList.GetSourceRect(nIndex),
+               {bits, m_sizeImage.cx, m_sizeImage.cy}, 0);
+    return Append(one, imageList.m_nBitsPerPixel == 32) ? m_iCount - 1 : -1;
+}
+
+BOOL CMFCToolBarImages::Load(UINT uiResID, HINSTANCE hinstRes, BOOL bAdd) {
+    int offset = 0;
+    if (bAdd && m_mapOffsets.Lookup(uiResID, offset))
+        return TRUE;
+    const int before = bAdd ? m_iCount : 0;
+    if (!LoadStr(MAKEINTRESOURCE(uiResID), hinstRes, bAdd))
+        return FALSE;
+    m_mapOffsets.SetAt(uiResID, before);
+    return TRUE;
+}
+
+BOOL CMFCToolBarImages::LoadStr(LPCTSTR lpszResourceName, HINSTANCE hinstRes, BOOL bAdd) {
+    if (hinstRes == nullptr) {
+        const bool isPng = FindResourceW(AfxFindResourceHandle(lpszResourceName, L"PNG"), lpszResourceName, L"PNG");
+        hinstRes = AfxFindResourceHandle(lpszResourceName, isPng ? L"PNG" : RT_BITMAP);
+    }
+    const Picture picture = visual::PictureFromResource(hinstRes, lpszResourceName);
+    if (picture.bitmap == nullptr)
+        return FALSE;
+    if (!bAdd)
+        Clear();
+    m_bReadOnly = TRUE;
+    return Append(picture.bitmap, picture.hasAlpha);
+}
+
+BOOL CMFCToolBarImages::Load(LPCTSTR lpszBmpFileName, DWORD nMaxFileSize) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!GetFileAttributesExW(lpszBmpFileName, GetFileExInfoStandard, &data))
+        return FALSE;
+    if (nMaxFileSize != 0 && (data.nFileSizeHigh != 0 || data.nFileSizeLow > nMaxFileSize))
+        return FALSE;
+    const Picture picture = visual::PictureFromFile(lpszBmpFileName);
+    if (picture.bitmap == nullptr)
+        return FALSE;
+    Clear();
+    m_strFile = lpszBmpFileName;
+    m_bUserImagesList = TRUE;
+    m_bReadOnly = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return Append(picture.bitmap, picture.hasAlpha);
+}
+
+BOOL CMFCToolBarImages::CopyTo(CMFCToolBarImages& imageList) {
+    if (&imageList == this)
+        return FALSE;
+    imageList.Clear();
+    imageList.m_sizeImage = m_sizeImage;
+    imageList.m_sizeImageDest = m_sizeImageDest;
+    imageList.m_nLightPercentage = m_nLightPercentage;
+    imageList.m_bAlwaysLight = m_bAlwaysLight;
+    imageList.m_clrTransparent = m_clrTransparent;
+    imageList.m_bMapTo3DColors = m_bMapTo3DColors;
+    imageList.m_bReadOnly = m_bReadOnly;
+    if (m_hbmImageWell != nullptr) {
+        const PixelView source = ViewOf(m_hbmImageWell);
+        std::uint32_t* bits = nullptr;
+        const HBITMAP copy = visual::MakeBitmap32(source.width, source.height, &bits);
+        if (copy == nullptr)
+            return FALSE;
+        std::copy_n(source.bits, static_cast<std::size_t>(source.width) * source.height, bits);
+        imageList.SetWell(copy);
+    }
+    imageList.m_iCount = m_iCount;
+    imageList.m_nBitsPerPixel = m_nBitsPerPixel;
+    imageList.m_dblScale = m_dblScale;
+    for (POSITION position = m_mapOffsets.GetStartPosition(); position != nullptr;) {
+        UINT id = 0;
+        int offset = 0;
+        m_mapOffsets.GetNextAssoc(position, id, offset);
+        imageList.m_mapOffsets.SetAt(id, offset);
+    }
+    return TRUE;
+}
+
+BOOL CMFCToolBarImages::DeleteImage(int iImage) {
+    if (iImage < 0 || iImage >= m_iCount)
+        return FALSE;
+    const PixelView source = ViewOf(m_hbmImageWell);
+    const int step = m_sizeImage.cx, width = (m_iCount - 1) * step;
+    if (width == 0) {
+        SetWell(nullptr);
+        m_iCount = 0;
+        return TRUE;
+    }
+    std::uint32_t* bits = nullptr;
+    const HBITMAP rest = visual::MakeBitmap32(width, source.height, &bits);
+    if (rest == nullptr)
+        return FALSE;
+    const PixelView target{bits, width, source.height};
+    CopyPixels(source, CRect(0, 0, iImage * step, source.height), target, 0);
+    CopyPixels(source, CRect((iImage + 1) * step, 0, m_iCount * step, source.height), target, iImage * step);
+    SetWell(rest);
+    --m_iCount;
+    return TRUE;
+}
+
+void CMFCToolBarImages::SetImageSize(SIZE sizeImage, BOOL bUpdateCount) {
+    m_sizeImage = sizeImage;
+    if (bUpdateCount)
+        UpdateCount();
+}
+
+SIZE CMFCToolBarImages::GetImageSize(BOOL bDest) const {
+    return bDest && m_sizeImageDest != CSize(0, 0) ? m_sizeImageDest : m_sizeImage;
+}
+
+void CMFCToolBarImages::SetSingleImage() {
+    const PixelView view = ViewOf(m_hbmImageWell);
+    m_sizeImage = CSize(view.width, view.height);
+    m_iCount = view.bits != nullptr ? 1 : 0;
+}
+
+COLORREF CMFCToolBarImages::SetTransparentColor(COLORREF clrTransparent) {
+    return std::exchange(m_clrTransparent, clrTransparent);
+}
+
+int CMFCToolBarImages::GetResourceOffset(UINT uiResId) const {
+    int offset = 0;
+    return m_mapOffsets.Lookup(uiResId, offset) ? offset : -1;
+}
+
+HICON CMFCToolBarImages::ExtractIcon(int nIndex) {
+    if (nIndex < 0 || nIndex >= m_iCount)
+        return nullptr;
+    std::uint32_t* bits = nullptr;
+    ICONINFO info{};
+    info.fIcon = TRUE;
+    info.hbmColor = visual::MakeBitmap32(m_sizeImage.cx, m_sizeImage.cy, &bits);
+    const std::vector<BYTE> clear((m_sizeImage.cx + 15) / 16 * 2 * m_sizeImage.cy);
+    info.hbmMask = CreateBitmap(m_sizeImage.cx, m_sizeImage.cy, 1, 1, clear.data());
+    HICON icon = nullptr;
+    if (info.hbmColor != nullptr && info.hbmMask != nullptr) {
+        const PixelView target{bits, m_sizeImage.cx, m_sizeImage.cy};
+        CopyPixels(ViewOf(m_hbmImageWell), GetSourceRect(nIndex), target, 0);
+        for (int i = 0; i < target.width * target.height; ++i) {
+            const std::uint32_t pixel = bits[i];
+            const unsigned alpha = visual::AlphaOf(pixel);
+            const bool isClear = alpha == 0 || (m_nBitsPerPixel != 32 && visual::ToColorRef(pixel) == m_clrTransparent);
+            const auto whole = [alpha](unsigned channel) {
+                return std::min(channel * 255 / std::max(alpha, 1u), 255u);
+            };
+            bits[i] = isClear ? 0
+                              : visual::MakeArgb(alpha, whole(visual::RedOf(pixel)), whole(visual::GreenOf(pixel)),
+                                                 whole(visual::BlueOf(pixel)));
+        }
+        icon = CreateIconIndirect(&info);
+    }
+    ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+    return icon;
+}
+
+BOOL CMFCToolBarImages::ConvertTo32Bits(COLORREF clrTransparent) {
+    if (m_hbmImageWell == nullptr || m_nBitsPerPixel == 32)
+        return FALSE;
+    const COLORREF clear = clrTransparent == static_cast<COLORREF>(-1) ? m_clrTransparent : clrTransparent;
+    const PixelView view = ViewOf(m_hbmImageWell);
+    for (int i = 0; i < view.width * view.height; ++i)
+        if (visual::ToColorRef(view.bits[i]) == clear)
+            view.bits[i] = 0;
+    m_nBitsPerPixel = 32;
+    return TRUE;
+}
+
+BOOL CMFCToolBarImages::GrayImages(int nGrayImageLuminancePercentage) {
+    if (m_hbmImageWell == nullptr || nGrayImageLuminancePercentage < 0)
+        return FALSE;
+    ConvertTo32Bits();
+    const PixelView view = ViewOf(m_hbmImageWell);
+    for (int i = 0; i < view.width * view.height; ++i) {
+        const std::uint32_t pixel = view.bits[i];
+        const unsigned luma =
+            (visual::RedOf(pixel) * 77 + visual::GreenOf(pixel) * 151 + visual::BlueOf(pixel) * 28) >> 8;
+        const unsigned percent = nGrayImageLuminancePercentage == 0 ? 130 : nGrayImageLuminancePercentage;
+        const unsigned grey = std::min(luma * percent / 100, visual::AlphaOf(pixel));
+        view.bits[i] = visual::MakeArgb(visual::AlphaOf(pixel), grey, grey, grey);
+    }
+    SetWell(m_hbmImageWell);
+    return TRUE;
+}
+
+BOOL CMFCToolBarImages::Mirror() {
+    const PixelView view = ViewOf(m_hbmImageWell);
+    if (view.bits == nullptr)
+        return FALSE;
+    for (int image = 0; image < m_iCount; ++image)
+        for (int y = 0; y < view.height; ++y)
+            std::reverse(&view.At(image * m_sizeImage.cx, y), &view.At(image * m_sizeImage.cx, y) + m_sizeImage.cx);
+    return TRUE;
+}
+
+BOOL CMFCToolBarImages::MirrorVert() {
+    const PixelView view = ViewOf(m_hbmImageWell);
+    if (view.bits == nullptr)
+        return FALSE;
+    const int height = std::min<int>(m_sizeImage.cy, view.height);
+    for (int y = 0; y < height / 2; ++y)
+        std::swap_ranges(&view.At(0, y), &view.At(0, y) + view.width, &view.At(0, height - 1 - y));
+    return TRUE;
+}
+
+BOOL CMFCToolBarImages::SmoothResize(double dblImageScale) {
+    if (m_hbmImageWell == nullptr || dblImageScale <= 0 || dblImageScale == 1.0)
+        return FALSE;
+    ConvertTo32Bits();
+    const CSize size(static_cast<int>(std::lround(m_sizeImage.cx * dblImageScale)),
+                     static_cast<int>(std::lround(m_sizeImage.cy * dblImageScale)));
+    std::uint32_t* bits = nullptr;
+    const HBITMAP resized = visual::MakeBitmap32(size.cx * m_iCount, size.cy, &bits);
+    if (resized == nullptr)
+        return FALSE;
+    const PixelView source = ViewOf(m_hbmImageWell), target{bits, static_cast<int>(size.cx) * m_iCount, size.cy};
+    std::vector<std::uint32_t> from(static_cast<std::size_t>(m_sizeImage.cx) * m_sizeImage.cy);
+    std::vector<std::uint32_t> to(static_cast<std::size_t>(size.cx) * size.cy);
+    for (int image = 0; image < m_iCount; ++image) {
+        // One image at a time, so that neighbours do not run into each other.
+        const PixelView one{from.data(), m_sizeImage.cx, m_sizeImage.cy}, scaled{to.data(), size.cx, size.cy};
+        std::ranges::fill(from, 0u);
+        CopyPixels(source, GetSourceRect(image), one, 0);
+        visual::Resample(one, scaled);
+        CopyPixels(scaled, CRect(0, 0, size.cx, size.cy), target, image * size.cx);
+    }
+    SetWell(resized);
+    m_sizeImage = size;
+    m_dblScale *= dblImageScale;
+    return TRUE;
+}
+
+void CMFCToolBarImages::SetLightPercentage(int nValue) { m_nLightPercentage = nValue; }
+
+void CMFCToolBarImages::OnSysColorChange() { SetWell(m_hbmImageWell); }
+
+void __stdcall CMFCToolBarImages::EnableRTL(BOOL bIsRTL) { m_bIsRTL = bIsRTL; }

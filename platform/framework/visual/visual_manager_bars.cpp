@@ -1,0 +1,225 @@
+#include "afxvisualmanager.h"
+
+#include "visual/manager_look.h"
+
+#include <afxbasepane.h>
+#include <afxext.h>
+
+#include <algorithm>
+
+using visual::ColorSlot;
+using visual::ElementState;
+using visual::FaceSlot;
+using visual::LookOf;
+using visual::ToColorRef;
+
+namespace {
+
+ElementState StateFrom(CMFCVisualManager::AFX_BUTTON_STATE state) {
+    ElementState result;
+    result.isHot = state == CMFCVisualManager::ButtonsIsHighlighted;
+    result.isPressed = state == CMFCVisualManager::ButtonsIsPressed;
+    return result;
+}
+
+ElementState ComboState(BOOL disabled, BOOL dropped, BOOL highlighted) {
+    return {highlighted != FALSE, false, false, disabled != FALSE, dropped != FALSE};
+}
+
+} // namespace
+
+void CMFCVisualManager::OnFillBarBackground(CDC* pDC, CBasePane*, CRect rectClient, CRect, BOOL) {
+    visual::PaintFill(*pDC, rectClient, GetSkin()[FaceSlot::ToolBar], LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawBarGripper(CDC* pDC, CRect rectGripper, BOOL bHorz, CBasePane*) {
+    visual::PaintGripper(*pDC, rectGripper, bHorz != FALSE, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawSeparator(CDC* pDC, CBasePane*, CRect rect, BOOL bIsHoriz) {
+    visual::PaintEtchedLine(*pDC, rect, bIsHoriz != FALSE, GetSkin()[ColorSlot::SeparatorDark],
+                            GetSkin()[ColorSlot::SeparatorLight], LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawPaneBorder(CDC* pDC, CBasePane*, CRect& rect) {
+    visual::PaintFrame(*pDC, rect, GetSkin()[ColorSlot::PaneBorder], 1);
+}
+
+void CMFCVisualManager::OnFillButtonInterior(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state) {
+    const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state));
+    if (face != nullptr && m_bEnableToolbarButtonFill)
+        visual::PaintFill(*pDC, rect, *face, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawButtonBorder(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state) {
+    if (const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state)))
+        visual::PaintBorders(*pDC, rect, *face, {}, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawButtonSeparator(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state,
+                                              BOOL bHorz) {
+    const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state));
+    visual::PaintEtchedLine(*pDC, rect, bHorz != FALSE,
+                            face != nullptr ? face->outer : GetSkin()[ColorSlot::SeparatorDark],
+                            face != nullptr ? face->inner : GetSkin()[ColorSlot::SeparatorLight], LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawFloatingToolbarBorder(CDC* pDC, CMFCBaseToolBar*, CRect rectBorder, CRect) {
+    visual::PaintFrame(*pDC, rectBorder, GetSkin()[ColorSlot::FrameBorder], 1);
+    rectBorder.DeflateRect(1, 1);
+    visual::PaintFrame(*pDC, rectBorder, GetSkin()[ColorSlot::FrameBorderInner], 1);
+}
+
+void CMFCVisualManager::OnDrawComboBorder(CDC* pDC, CRect rect, BOOL bDisabled, BOOL bIsDropped, BOOL bIsHighlighted,
+                                          CMFCToolBarComboBoxButton*) {
+    const FaceSlot slot = bDisabled                      ? FaceSlot::EditDisabled
+                          : bIsDropped || bIsHighlighted ? FaceSlot::EditHot
+                                                         : FaceSlot::Edit;
+    visual::PaintFrame(*pDC, rect, GetSkin()[slot].outer, LookOf(GetSkin()).Line());
+}
+
+void CMFCVisualManager::OnDrawComboDropButton(CDC* pDC, CRect rect, BOOL bDisabled, BOOL bIsDropped,
+                                              BOOL bIsHighlighted, CMFCToolBarComboBoxButton*) {
+    const visual::Face* const face =
+        visual::ButtonFaceFor(GetSkin(), ComboState(bDisabled, bIsDropped, bIsHighlighted));
+    if (face != nullptr)
+        visual::PaintFace(*pDC, rect, *face, {}, LookOf(GetSkin()));
+    else
+        visual::PaintFill(*pDC, rect, GetSkin()[FaceSlot::ToolBar], LookOf(GetSkin()));
+    visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down,
+                       GetSkin()[bDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], 0, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawEditBorder(CDC* pDC, CRect rect, BOOL bDisabled, BOOL bIsHighlighted,
+                                         CMFCToolBarEditBoxButton*) {
+    OnDrawComboBorder(pDC, rect, bDisabled, FALSE, bIsHighlighted, nullptr);
+}
+
+void CMFCVisualManager::OnDrawCheckBox(CDC* pDC, CRect rect, BOOL bHighlighted, BOOL bChecked, BOOL bEnabled) {
+    OnDrawCheckBoxEx(pDC, rect, bChecked ? 1 : 0, bHighlighted, FALSE, bEnabled);
+}
+
+void CMFCVisualManager::OnDrawCheckBoxEx(CDC* pDC, CRect rect, int nState, BOOL bHighlighted, BOOL bPressed,
+                                         BOOL bEnabled) {
+    const ElementState state{bHighlighted != FALSE, bPressed != FALSE, nState == 1, !bEnabled, false};
+    visual::PaintCheckBox(*pDC, rect, state, nState == 2, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawExpandingBox(CDC* pDC, CRect rect, BOOL bIsOpened, COLORREF colorBox) {
+    visual::PaintFrame(*pDC, rect, visual::FromColorRef(colorBox), 1);
+    visual::PaintSign(*pDC, rect, !bIsOpened, visual::FromColorRef(colorBox), LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawScrollButtons(CDC* pDC, const CRect& rect, const int, int iImage, BOOL bHilited) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::BarBackground]);
+    if (bHilited)
+        visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::ButtonHot], {}, LookOf(GetSkin()));
+    visual::PaintArrow(*pDC, rect, static_cast<visual::ArrowDirection>(std::clamp(iImage, 0, 3)),
+                       GetSkin()[ColorSlot::Glyph], 0, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar*, CRect rectPane, UINT, UINT nStyle) {
+    if (nStyle & SBPS_NOBORDERS)
+        return;
+    rectPane.left = rectPane.right - 2 * LookOf(GetSkin()).Line();
+    visual::PaintEtchedLine(*pDC, rectPane, true, GetSkin()[ColorSlot::StatusSeparatorDark],
+                            GetSkin()[ColorSlot::StatusSeparatorLight], LookOf(GetSkin()));
+}
+
+COLORREF CMFCVisualManager::OnDrawRibbonStatusBarPane(CDC*, CMFCRibbonStatusBar* pBar, CMFCRibbonStatusBarPane*) {
+    return GetRibbonStatusBarTextColor(pBar);
+}
+
+void CMFCVisualManager::OnDrawStatusBarProgress(CDC* pDC, CMFCStatusBar*, CRect rectProgress, int nProgressTotal,
+                                                int nProgressCurr, COLORREF, COLORREF, COLORREF clrProgressText,
+                                                BOOL bProgressText) {
+    if (nProgressTotal <= 0)
+        return;
+    const int part = std::clamp(nProgressCurr, 0, nProgressTotal);
+    CRect chunk = rectProgress;
+    chunk.right = chunk.left + MulDiv(chunk.Width(), part, nProgressTotal);
+    visual::PaintProgress(*pDC, rectProgress, chunk, LookOf(GetSkin()));
+    if (!bProgressText)
+        return;
+    CString text;
+    text.Format(L"%d%%", MulDiv(part, 100, nProgressTotal));
+    visual::PaintText(*pDC, rectProgress, text, text.GetLength(), DT_CENTER | DT_VCENTER | DT_SINGLELINE,
+                      visual::FromColorRef(clrProgressText));
+}
+
+void CMFCVisualManager::OnDrawStatusBarSizeBox(CDC* pDC, CMFCStatusBar*, CRect rectSizeBox) {
+    visual::PaintSizeBox(*pDC, rectSizeBox, LookOf(GetSkin()));
+}
+
+COLORREF CMFCVisualManager::OnFillCommandsListBackground(CDC* pDC, CRect rect, BOOL bIsSelected) {
+    if (bIsSelected)
+        visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuItemHot], {}, LookOf(GetSkin()));
+    else
+        visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuFill]);
+    return ToColorRef(GetSkin()[bIsSelected ? ColorSlot::MenuTextHot : ColorSlot::MenuText]);
+}
+
+void CMFCVisualManager::OnDrawToolBoxFrame(CDC* pDC, const CRect& rect) {
+    visual::PaintFrame(*pDC, rect, GetSkin()[ColorSlot::PaneBorder], 1);
+}
+
+void CMFCVisualManager::OnDrawSplitterBorder(CDC* pDC, CSplitterWndEx*, CRect rect) {
+    visual::PaintFrame(*pDC, rect, GetSkin()[ColorSlot::PaneBorder], 1);
+}
+
+void CMFCVisualManager::OnDrawSplitterBox(CDC* pDC, CSplitterWndEx*, CRect& rect) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::DividerFill]);
+}
+
+void CMFCVisualManager::OnFillSplitterBackground(CDC* pDC, CSplitterWndEx*, CRect rect) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::DividerFill]);
+}
+
+COLORREF CMFCVisualManager::OnDrawPaneCaption(CDC* pDC, CDockablePane*, BOOL bActive, CRect rectCaption, CRect) {
+    visual::PaintFace(*pDC, rectCaption, GetSkin()[bActive ? FaceSlot::PaneCaptionActive : FaceSlot::PaneCaption], {},
+                      LookOf(GetSkin()));
+    return ToColorRef(GetSkin()[bActive ? ColorSlot::PaneCaptionTextActive : ColorSlot::PaneCaptionText]);
+}
+
+void CMFCVisualManager::OnDrawPaneDivider(CDC* pDC, CPaneDivider*, CRect rect, BOOL) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::DividerFill]);
+}
+
+COLORREF CMFCVisualManager::OnFillMiniFrameCaption(CDC* pDC, CRect rectCaption, CPaneFrameWnd*, BOOL bActive) {
+    visual::PaintFill(*pDC, rectCaption, GetSkin()[bActive ? FaceSlot::PaneCaptionActive : FaceSlot::PaneCaption],
+                      LookOf(GetSkin()));
+    return ToColorRef(GetSkin()[bActive ? ColorSlot::PaneCaptionTextActive : ColorSlot::PaneCaptionText]);
+}
+
+void CMFCVisualManager::OnDrawMiniFrameBorder(CDC* pDC, CPaneFrameWnd*, CRect rectBorder, CRect) {
+    OnDrawFloatingToolbarBorder(pDC, nullptr, rectBorder, CRect(2, 2, 2, 2));
+}
+
+void CMFCVisualManager::OnDrawTab(CDC* pDC, CRect rectTab, int, BOOL bIsActive, const CMFCBaseTabCtrl*) {
+    visual::PaintFace(*pDC, rectTab, GetSkin()[bIsActive ? FaceSlot::DocumentTabActive : FaceSlot::DocumentTab],
+                      visual::Corners::Top(LookOf(GetSkin()).Radius()), LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawTabCloseButton(CDC* pDC, CRect rect, const CMFCBaseTabCtrl*, BOOL bIsHighlighted,
+                                             BOOL bIsPressed, BOOL bIsDisabled) {
+    const ElementState state{bIsHighlighted != FALSE, bIsPressed != FALSE, false, bIsDisabled != FALSE, false};
+    visual::PaintCaptionButton(*pDC, rect, visual::WindowGlyph::Close, state, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnFillTab(CDC* pDC, CRect rectFill, CBrush*, int, BOOL bIsActive, const CMFCBaseTabCtrl*) {
+    visual::PaintFill(*pDC, rectFill, GetSkin()[bIsActive ? FaceSlot::DocumentTabActive : FaceSlot::DocumentTab],
+                      LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnEraseTabsArea(CDC* pDC, CRect rect, const CMFCBaseTabCtrl*) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::BarBackground]);
+}
+
+void CMFCVisualManager::OnEraseTabsButton(CDC* pDC, CRect rect, CMFCButton*, CMFCBaseTabCtrl*) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::BarBackground]);
+}
+
+BOOL CMFCVisualManager::OnEraseTabsFrame(CDC* pDC, CRect rect, const CMFCBaseTabCtrl*) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[FaceSlot::DocumentTabActive].bottom2);
+    return TRUE;
+}

@@ -1,0 +1,105 @@
+#include "afxvisualmanager.h"
+
+#include "afxdrawmanager.h"
+#include "visual/manager_look.h"
+
+using visual::ColorSlot;
+using visual::FaceSlot;
+using visual::LookOf;
+using visual::ToColorRef;
+
+void CMFCVisualManager::OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu*, CRect rect) {
+    visual::PaintFrame(*pDC, rect, GetSkin()[ColorSlot::MenuBorder], LookOf(GetSkin()).Line());
+    rect.DeflateRect(LookOf(GetSkin()).Line(), LookOf(GetSkin()).Line());
+    visual::PaintFrame(*pDC, rect, GetSkin()[ColorSlot::MenuFill], LookOf(GetSkin()).Line());
+}
+
+void CMFCVisualManager::OnDrawMenuShadow(CDC* pDC, const CRect& rectClient, const CRect& rectExclude, int nDepth,
+                                         int iMinBrightness, int iMaxBrightness, CBitmap* pBmpSaveBottom,
+                                         CBitmap* pBmpSaveRight, BOOL bRTL) {
+    const int saved = pDC->SaveDC();
+    if (!rectExclude.IsRectEmpty())
+        pDC->ExcludeClipRect(rectExclude);
+    CDrawingManager(*pDC).DrawShadow(rectClient, nDepth, iMinBrightness, iMaxBrightness, pBmpSaveBottom, pBmpSaveRight,
+                                     static_cast<COLORREF>(-1), !bRTL);
+    pDC->RestoreDC(saved);
+}
+
+void CMFCVisualManager::OnDrawMenuCheck(CDC* pDC, CMFCToolBarMenuButton*, CRect rect, BOOL, BOOL bIsRadio) {
+    visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuCheck], {}, LookOf(GetSkin()));
+    if (bIsRadio)
+        visual::PaintRadioMark(*pDC, rect, GetSkin()[ColorSlot::CheckMark], LookOf(GetSkin()));
+    else
+        visual::PaintCheckMark(*pDC, rect, GetSkin()[ColorSlot::CheckMark], LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawMenuItemButton(CDC* pDC, CMFCToolBarMenuButton*, CRect rectButton, BOOL bHighlight,
+                                             BOOL bDisabled) {
+    CRect line = rectButton;
+    line.right = line.left + 2 * LookOf(GetSkin()).Line();
+    visual::PaintEtchedLine(*pDC, line, true, GetSkin()[ColorSlot::MenuSeparator], GetSkin()[ColorSlot::MenuFill],
+                            LookOf(GetSkin()));
+    if (bHighlight && !bDisabled)
+        visual::PaintBorders(*pDC, rectButton, GetSkin()[FaceSlot::MenuItemHot], {}, LookOf(GetSkin()));
+}
+
+COLORREF CMFCVisualManager::OnDrawMenuLabel(CDC* pDC, CRect rect) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuLabelFill]);
+    visual::PaintSolid(*pDC, {rect.left, rect.bottom - LookOf(GetSkin()).Line(), rect.right, rect.bottom},
+                       GetSkin()[ColorSlot::MenuSeparator]);
+    return ToColorRef(GetSkin()[ColorSlot::MenuLabelText]);
+}
+
+void CMFCVisualManager::OnDrawMenuResizeBar(CDC* pDC, CRect rect, int) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuGutter]);
+    visual::PaintGripper(*pDC, rect, rect.Height() > rect.Width(), LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawMenuScrollButton(CDC* pDC, CRect rect, BOOL bIsScrollDown, BOOL bIsHighlited,
+                                               BOOL bIsPressed, BOOL bIsDisabled) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuFill]);
+    if ((bIsHighlited || bIsPressed) && !bIsDisabled)
+        visual::PaintFace(*pDC, rect, GetSkin()[bIsPressed ? FaceSlot::ButtonPressed : FaceSlot::MenuItemHot], {},
+                          LookOf(GetSkin()));
+    visual::PaintArrow(*pDC, rect, bIsScrollDown ? visual::ArrowDirection::Down : visual::ArrowDirection::Up,
+                       GetSkin()[bIsDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], 0, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawMenuSystemButton(CDC* pDC, CRect rect, UINT uiSystemCommand, UINT nStyle,
+                                               BOOL bHighlight) {
+    visual::ElementState state;
+    state.isHot = bHighlight != FALSE;
+    state.isPressed = (nStyle & TBSTATE_PRESSED) != 0;
+    const visual::WindowGlyph glyph = uiSystemCommand == SC_MINIMIZE   ? visual::WindowGlyph::Minimize
+                                      : uiSystemCommand == SC_RESTORE  ? visual::WindowGlyph::Restore
+                                      : uiSystemCommand == SC_MAXIMIZE ? visual::WindowGlyph::Maximize
+                                                                       : visual::WindowGlyph::Close;
+    visual::PaintCaptionButton(*pDC, rect, glyph, state, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawMenuArrowOnCustomizeList(CDC* pDC, CRect rectCommand, BOOL) {
+    CRect arrow = rectCommand;
+    arrow.left = arrow.right - arrow.Height();
+    visual::PaintArrow(*pDC, arrow, visual::ArrowDirection::Right, GetSkin()[ColorSlot::Glyph], 0, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawShowAllMenuItems(CDC* pDC, CRect rect, AFX_BUTTON_STATE state) {
+    if (state != ButtonsIsRegular)
+        visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuItemHot], {}, LookOf(GetSkin()));
+    visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down, GetSkin()[ColorSlot::Glyph], 0, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawTearOffCaption(CDC* pDC, CRect rect, BOOL bIsActive) {
+    visual::PaintFill(*pDC, rect, GetSkin()[bIsActive ? FaceSlot::PaneCaptionActive : FaceSlot::PaneCaption],
+                      LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnHighlightMenuItem(CDC* pDC, CMFCToolBarMenuButton*, CRect rect, COLORREF& clrText) {
+    visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuItemHot], visual::Corners::All(LookOf(GetSkin()).Radius()),
+                      LookOf(GetSkin()));
+    clrText = ToColorRef(GetSkin()[ColorSlot::MenuTextHot]);
+}
+
+void CMFCVisualManager::OnHighlightRarelyUsedMenuItems(CDC* pDC, CRect rectRarelyUsed) {
+    visual::PaintSolid(*pDC, rectRarelyUsed, GetSkin()[ColorSlot::MenuGutter]);
+}

@@ -1,0 +1,262 @@
+#include "afxvisualmanager.h"
+
+#include "visual/manager_look.h"
+
+#include <afxRibbonPanel.h>
+#include <afxribbonbar.h>
+#include <afxribboncategory.h>
+
+#include <array>
+
+using visual::ColorSlot;
+using visual::ElementState;
+using visual::FaceSlot;
+using visual::LookOf;
+using visual::StateOf;
+using visual::ToColorRef;
+
+namespace {
+
+ElementState StateFrom(BOOL hot, BOOL pressed, BOOL disabled) {
+    return {hot != FALSE, pressed != FALSE, false, disabled != FALSE, false};
+}
+
+visual::Argb TintOf(CMFCVisualManager& manager, AFX_RibbonCategoryColor color) {
+    return color == AFX_CategoryColor_None ? 0 : visual::FromColorRef(manager.RibbonCategoryColorToRGB(color));
+}
+
+COLORREF ButtonTextColor(const visual::Skin& skin, const ElementState& state) {
+    if (state.isDisabled)
+        return ToColorRef(skin[ColorSlot::RibbonTextDisabled]);
+    const bool isLit = state.isHot || state.isPressed || state.isChecked || state.isDropped;
+    return ToColorRef(skin[isLit ? ColorSlot::RibbonTextHot : ColorSlot::RibbonText]);
+}
+
+visual::ButtonParts PartsOf(CMFCRibbonButton& button) {
+    visual::ButtonParts parts;
+    parts.rect = button.GetRect();
+    parts.command = button.GetCommandRect();
+    parts.menu = button.GetMenuRect();
+    parts.isCommandHot = button.IsCommandAreaHighlighted() != FALSE;
+    parts.isMenuHot = button.IsMenuAreaHighlighted() != FALSE;
+    parts.place = visual::PlaceOf(button);
+    return parts;
+}
+
+} // namespace
+
+COLORREF CMFCVisualManager::RibbonCategoryColorToRGB(AFX_RibbonCategoryColor color) {
+    static constexpr std::array<COLORREF, 8> colors{static_cast<COLORREF>(-1), RGB(224, 84, 76),  RGB(240, 146, 54),
+                                                    RGB(228, 196, 52),         RGB(104, 178, 72), RGB(72, 132, 214),
+                                                    RGB(92, 92, 190),          RGB(160, 92, 180)};
+    const auto index = static_cast<std::size_t>(color);
+    return index < colors.size() ? colors[index] : colors[0];
+}
+
+void CMFCVisualManager::OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect rect, CRect rectText) {
+    CWnd* const frame = pBar != nullptr ? pBar->GetTopLevelParent() : nullptr;
+    // Before the window is shown nobody is active; the caption is then drawn as the active one.
+    const HWND active = ::GetActiveWindow();
+    const bool isActive = frame == nullptr || active == nullptr || active == frame->GetSafeHwnd();
+    visual::PaintCaption(*pDC, rect, isActive, LookOf(GetSkin()));
+    if (frame == nullptr)
+        return;
+    CString title;
+    frame->GetWindowText(title);
+    visual::PaintText(*pDC, rectText, title, title.GetLength(),
+                      DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX,
+                      GetSkin()[isActive ? ColorSlot::CaptionText : ColorSlot::CaptionTextInactive]);
+}
+
+void CMFCVisualManager::OnDrawRibbonApplicationButton(CDC* pDC, CMFCRibbonButton* pButton) {
+    visual::PaintApplicationButton(*pDC, pButton->GetRect(), StateOf(*pButton), LookOf(GetSkin()));
+}
+
+COLORREF CMFCVisualManager::OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar*, CRect rectTab) {
+    visual::PaintRibbonBackground(*pDC, rectTab, LookOf(GetSkin()));
+    return ToColorRef(GetSkin()[ColorSlot::TabText]);
+}
+
+COLORREF CMFCVisualManager::OnDrawRibbonCategoryTab(CDC* pDC, CMFCRibbonTab* pTab, BOOL bIsActive) {
+    visual::TabState state{bIsActive != FALSE, pTab->IsHighlighted() != FALSE, pTab->IsFocused() != FALSE, 0};
+    if (const CMFCRibbonCategory* category = pTab->GetParentCategory())
+        state.tint = TintOf(*this, category->GetTabColor());
+    visual::PaintTab(*pDC, pTab->GetRect(), state, LookOf(GetSkin()));
+    return ToColorRef(visual::TabTextColor(state, GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonCategory(CDC* pDC, CMFCRibbonCategory* pCategory, CRect rectCategory) {
+    const CRect tab = pCategory != nullptr && pCategory->IsActive() ? pCategory->GetTabRect() : CRect(0, 0, 0, 0);
+    visual::PaintCategory(*pDC, rectCategory, tab.left, tab.right, LookOf(GetSkin()));
+}
+
+COLORREF CMFCVisualManager::OnDrawRibbonCategoryCaption(CDC* pDC, CMFCRibbonContextCaption* pContextCaption) {
+    const visual::Argb tint = TintOf(*this, pContextCaption->GetColor());
+    if (tint != 0)
+        visual::PaintContextCaption(*pDC, pContextCaption->GetRect(), tint, LookOf(GetSkin()));
+    return ToColorRef(GetSkin()[ColorSlot::CaptionText]);
+}
+
+void CMFCVisualManager::OnDrawRibbonCategoryScroll(CDC* pDC, CRibbonCategoryScroll* pScroll) {
+    visual::PaintCategoryScroll(*pDC, pScroll->GetRect(), pScroll->IsLeftScroll() != FALSE, StateOf(*pScroll),
+                                LookOf(GetSkin()));
+}
+
+COLORREF CMFCVisualManager::OnDrawRibbonPanel(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectPanel, CRect rectCaption) {
+    visual::PaintPanel(*pDC, rectPanel, rectCaption, pPanel != nullptr && pPanel->IsHighlighted(), LookOf(GetSkin()));
+    return ToColorRef(GetSkin()[ColorSlot::RibbonText]);
+}
+
+void CMFCVisualManager::OnDrawRibbonPanelCaption(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectCaption) {
+    const CString name = pPanel->GetName();
+    visual::PaintPanelCaption(*pDC, rectCaption, name, name.GetLength(), pPanel->IsHighlighted() != FALSE,
+                              LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonKeyTip(CDC* pDC, CMFCRibbonBaseElement* pElement, CRect rect, CString str) {
+    str.MakeUpper();
+    visual::PaintKeyTip(*pDC, rect, str, str.GetLength(), pElement != nullptr && pElement->IsDisabled(),
+                        LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonQuickAccessToolBarSeparator(CDC* pDC, CMFCRibbonSeparator*, CRect rect) {
+    visual::PaintEtchedLine(*pDC, rect, true, GetSkin()[ColorSlot::SeparatorDark], GetSkin()[ColorSlot::SeparatorLight],
+                            LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnFillRibbonQuickAccessToolBarPopup(CDC* pDC, CMFCRibbonPanelMenuBar*, CRect rect) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::PopupFill]);
+}
+
+COLORREF CMFCVisualManager::OnFillRibbonButton(CDC* pDC, CMFCRibbonButton* pButton) {
+    const ElementState state = StateOf(*pButton);
+    visual::PaintButton(*pDC, PartsOf(*pButton), state, LookOf(GetSkin()));
+    return ButtonTextColor(GetSkin(), state);
+}
+
+void CMFCVisualManager::OnDrawRibbonButtonBorder(CDC* pDC, CMFCRibbonButton* pButton) {
+    // A lit face has its border already; only a button that always shows one still needs it.
+    if (pButton->IsAlwaysDrawBorder() && visual::ButtonFaceFor(GetSkin(), StateOf(*pButton)) == nullptr)
+        visual::PaintBorders(*pDC, pButton->GetRect(), GetSkin()[FaceSlot::Group],
+                             visual::CornersFor(visual::PlaceOf(*pButton), LookOf(GetSkin()).Radius()),
+                             LookOf(GetSkin()));
+}
+
+COLORREF CMFCVisualManager::OnDrawRibbonButtonsGroup(CDC* pDC, CMFCRibbonButtonsGroup*, CRect rectGroup) {
+    visual::PaintGroup(*pDC, rectGroup, LookOf(GetSkin()));
+    return static_cast<COLORREF>(-1);
+}
+
+void CMFCVisualManager::OnDrawRibbonDefaultPaneButton(CDC* pDC, CMFCRibbonButton* pButton) {
+    visual::PaintDefaultPane(*pDC, pButton->GetRect(), StateOf(*pButton), LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonDefaultPaneButtonContext(CDC* pDC, CMFCRibbonButton* pButton) {
+    pButton->DrawBottomText(pDC, FALSE);
+}
+
+void CMFCVisualManager::OnDrawRibbonDefaultPaneButtonIndicator(CDC* pDC, CMFCRibbonButton* pButton, CRect rect, BOOL,
+                                                               BOOL) {
+    visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down,
+                       GetSkin()[pButton->IsDisabled() ? ColorSlot::GlyphDisabled : ColorSlot::Glyph],
+                       GetSkin()[ColorSlot::GlyphLight], LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawDefaultRibbonImage(CDC* pDC, CRect rectImage, BOOL bIsDisabled, BOOL bIsPressed,
+                                                 BOOL bIsHighlighted) {
+    visual::PaintFace(*pDC, rectImage,
+                      visual::KnobFaceFor(GetSkin(), StateFrom(bIsHighlighted, bIsPressed, bIsDisabled)),
+                      visual::Corners::All(LookOf(GetSkin()).Radius()), LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnFillRibbonEdit(CDC* pDC, CMFCRibbonRichEditCtrl*, CRect rect, BOOL bIsHighlighted,
+                                         BOOL bIsPaneHighlighted, BOOL bIsDisabled, COLORREF& clrText,
+                                         COLORREF& clrSelBackground, COLORREF& clrSelText) {
+    visual::PaintEdit(*pDC, rect, StateFrom(bIsHighlighted || bIsPaneHighlighted, FALSE, bIsDisabled),
+                      LookOf(GetSkin()));
+    clrText = ToColorRef(GetSkin()[bIsDisabled ? ColorSlot::EditTextDisabled : ColorSlot::EditText]);
+    clrSelBackground = ToColorRef(GetSkin()[ColorSlot::EditSelection]);
+    clrSelText = ToColorRef(GetSkin()[ColorSlot::EditSelectionText]);
+}
+
+// A label lies on its panel without a face of its own.
+void CMFCVisualManager::OnDrawRibbonLabel(CDC*, CMFCRibbonLabel*, CRect) {}
+
+void CMFCVisualManager::OnDrawRibbonCheckBoxOnList(CDC* pDC, CMFCRibbonCheckBox*, CRect rect, BOOL bIsSelected,
+                                                   BOOL bHighlighted) {
+    ElementState state;
+    state.isChecked = bIsSelected != FALSE;
+    state.isHot = bHighlighted != FALSE;
+    visual::PaintCheckBox(*pDC, rect, state, false, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonProgressBar(CDC* pDC, CMFCRibbonProgressBar*, CRect rectProgress, CRect rectChunk,
+                                                BOOL) {
+    visual::PaintProgress(*pDC, rectProgress, rectChunk, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonSliderChannel(CDC* pDC, CMFCRibbonSlider*, CRect rect) {
+    visual::PaintSliderChannel(*pDC, rect, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonSliderThumb(CDC* pDC, CMFCRibbonSlider*, CRect rect, BOOL bIsHighlighted,
+                                                BOOL bIsPressed, BOOL bIsDisabled) {
+    visual::PaintSliderThumb(*pDC, rect, StateFrom(bIsHighlighted, bIsPressed, bIsDisabled), LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonSliderZoomButton(CDC* pDC, CMFCRibbonSlider*, CRect rect, BOOL bIsZoomOut,
+                                                     BOOL bIsHighlighted, BOOL bIsPressed, BOOL bIsDisabled) {
+    visual::PaintZoomButton(*pDC, rect, !bIsZoomOut, StateFrom(bIsHighlighted, bIsPressed, bIsDisabled),
+                            LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::GetRibbonSliderColors(CMFCRibbonSlider*, BOOL bIsHighlighted, BOOL bIsPressed, BOOL bIsDisabled,
+                                              COLORREF& clrLine, COLORREF& clrFill) {
+    const visual::Face& face = visual::KnobFaceFor(GetSkin(), StateFrom(bIsHighlighted, bIsPressed, bIsDisabled));
+    clrLine = ToColorRef(face.outer);
+    clrFill = ToColorRef(face.bottom1);
+}
+
+void CMFCVisualManager::OnDrawRibbonGalleryBorder(CDC* pDC, CMFCRibbonGallery*, CRect rectBorder) {
+    visual::PaintFrame(*pDC, rectBorder, GetSkin()[FaceSlot::Edit].outer, LookOf(GetSkin()).Line());
+}
+
+void CMFCVisualManager::OnDrawRibbonMenuCheckFrame(CDC* pDC, CMFCRibbonButton*, CRect rect) {
+    visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuCheck], {}, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonMainPanelFrame(CDC* pDC, CMFCRibbonMainPanel*, CRect rect) {
+    visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MainPanelFrame], {}, LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonMainPanelButtonBorder(CDC*, CMFCRibbonButton*) {}
+
+COLORREF CMFCVisualManager::OnFillRibbonMainPanelButton(CDC* pDC, CMFCRibbonButton* pButton) {
+    const ElementState state = StateOf(*pButton);
+    if (state.isHot && !state.isDisabled)
+        visual::PaintFace(*pDC, pButton->GetRect(), GetSkin()[FaceSlot::MenuItemHot],
+                          visual::Corners::All(LookOf(GetSkin()).Radius()), LookOf(GetSkin()));
+    return ToColorRef(GetSkin()[state.isDisabled ? ColorSlot::MenuTextDisabled : ColorSlot::MenuText]);
+}
+
+void CMFCVisualManager::OnFillRibbonMenuFrame(CDC* pDC, CMFCRibbonMainPanel*, CRect rect) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuFill]);
+}
+
+void CMFCVisualManager::OnDrawRibbonRecentFilesFrame(CDC* pDC, CMFCRibbonMainPanel*, CRect rect) {
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuGutter]);
+    visual::PaintSolid(*pDC, {rect.left, rect.top, rect.left + LookOf(GetSkin()).Line(), rect.bottom},
+                       GetSkin()[ColorSlot::MenuGutterLine]);
+}
+
+COLORREF CMFCVisualManager::GetRibbonHyperlinkTextColor(CMFCRibbonLinkCtrl*) {
+    return ToColorRef(GetSkin()[ColorSlot::Hyperlink]);
+}
+
+COLORREF CMFCVisualManager::GetRibbonQuickAccessToolBarTextColor(BOOL bDisabled) {
+    return ToColorRef(GetSkin()[bDisabled ? ColorSlot::RibbonTextDisabled : ColorSlot::QatText]);
+}
+
+COLORREF CMFCVisualManager::GetRibbonStatusBarTextColor(CMFCRibbonStatusBar*) {
+    return ToColorRef(GetSkin()[ColorSlot::StatusText]);
+}
