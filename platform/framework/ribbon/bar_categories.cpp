@@ -2,6 +2,7 @@
 #include "afxribbonbar.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ribbon/bar_parts.h"
 
@@ -155,6 +156,9 @@ void CMFCRibbonBar::SetActiveWithoutCheck(CMFCRibbonCategory* category) {
     if (m_parts->active != nullptr) {
         CancelPress();
         m_parts->hotPanel = nullptr;
+        if (m_parts->hot != nullptr && m_parts->hot->GetParentPanel() != nullptr) {
+            std::exchange(m_parts->hot, nullptr)->SetHighlighted(FALSE);
+        }
         m_parts->active->SetActive(FALSE);
     }
     m_parts->active = category;

@@ -431,6 +431,10 @@ void CMFCRibbonCategory::ReposPanels(CDC* pDC) {
         HideElements(pDC);
         return;
     }
+    if (!m_parts->measured) {
+        RecalcLayout(pDC);
+        return;
+    }
     const RibbonMetrics& metrics = m_pParentRibbonBar->GetMetrics();
     const RibbonCategoryArrangement places =
         ArrangeCategory(m_parts->ladders, metrics, m_rect.Width(), m_parts->collapseOrder, m_parts->firstPanel);

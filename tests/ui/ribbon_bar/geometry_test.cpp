@@ -124,6 +124,14 @@ TEST_F(RibbonBarTest, PanelsWithoutRoomScrollIntoView) {
     EXPECT_TRUE(category->GetPanel(0)->GetRect().IsRectEmpty());
 }
 
+TEST_F(RibbonBarTest, ScrollingRightAfterAPanelWasAddedMeasuresItFirst) {
+    CMFCRibbonCategory* category = Bar().GetActiveCategory();
+    CMFCRibbonPanel* panel = category->AddPanel(L"Added");
+    panel->Add(new CMFCRibbonButton(commands::closesFrame, L"Close"));
+    EXPECT_FALSE(category->OnScrollHorz(FALSE)) << "everything is in view";
+    EXPECT_FALSE(panel->GetRect().IsRectEmpty());
+}
+
 TEST_F(RibbonBarTest, TabsAreShortenedWhenTheyDoNotFit) {
     for (int index = 0; index < 12; ++index) {
         Bar().AddCategory(L"A category with a long name", 0, 0);

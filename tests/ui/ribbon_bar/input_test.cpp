@@ -50,6 +50,15 @@ TEST_F(RibbonBarTest, OneElementIsHotAtATimeAndNoneAfterLeaving) {
     EXPECT_FALSE(Bar().GetCategory(0)->GetPanel(1)->IsHighlighted());
 }
 
+TEST_F(RibbonBarTest, AnElementOfACategoryThatIsLeftIsNotHot) {
+    m_pointer.MoveTo(Bar(), CenterOf(commands::paste));
+    Bar().SetActiveCategory(Bar().GetCategory(1));
+    Bar().SetActiveCategory(Bar().GetCategory(0));
+    Bar().RecalcLayout();
+    EXPECT_FALSE(Element(commands::paste).IsHighlighted());
+    EXPECT_FALSE(Bar().GetCategory(0)->GetPanel(0)->IsHighlighted());
+}
+
 TEST_F(RibbonBarTest, HoveringInvalidatesNoMoreThanThePanel) {
     m_pointer.MoveTo(Bar(), CenterOf(commands::paste));
     Bar().UpdateWindow();
