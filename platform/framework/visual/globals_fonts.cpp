@@ -76,7 +76,7 @@ void AFX_GLOBAL_DATA::CreateFonts(const NONCLIENTMETRICS& metrics) {
     font.lfWeight = FW_NORMAL;
     font.lfItalic = FALSE;
     font.lfCharSet = DEFAULT_CHARSET;
-    font.lfQuality = DEFAULT_QUALITY;
+    font.lfQuality = CLEARTYPE_QUALITY;
     Recreate(fontRegular, font);
     Recreate(fontTooltip, font);
 

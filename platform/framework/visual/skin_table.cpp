@@ -309,7 +309,7 @@ const std::array<ColorRow, g_colorCount> g_colorRows{{
     {ColorSlot::RibbonText, {0xFF15428B, 0xFF2F3338, 0xFF1D4757, 0xFF3A4048}},
     {ColorSlot::RibbonTextHot, {0xFF15428B, 0xFF2A2D31, 0xFF1D4757, 0xFF32373D}},
     {ColorSlot::RibbonTextDisabled, {0xFF8D9DB5, 0xFF83898F, 0xFF8AA3AC, 0xFF9AA0A8}},
-    {ColorSlot::PanelCaptionText, {0xFF3E6AAA, 0xFF33373D, 0xFF2F6374, 0xFF5A626B}},
+    {ColorSlot::PanelCaptionText, {0xFF365F9C, 0xFF33373D, 0xFF2F6374, 0xFF5A626B}},
     {ColorSlot::PanelCaptionTextHot, {0xFF15428B, 0xFF1E2125, 0xFF174B5C, 0xFF3A4048}},
     {ColorSlot::SeparatorDark, {0xFF9DBBE0, 0xFF9299A2, 0xFF9BBAC6, 0xFFB4BAC4}},
     {ColorSlot::SeparatorLight, {0xC0FFFFFF, 0xA0FFFFFF, 0xC0FFFFFF, 0xE0FFFFFF}},

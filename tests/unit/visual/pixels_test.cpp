@@ -1,0 +1,132 @@
+#include "visual/pixels.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using namespace visual;
+
+namespace {
+
+class Pixels : public testing::Test {
+protected:
+    std::vector<std::uint32_t> m_bits = std::vector<std::uint32_t>(20 * 20);
+    PixelView m_view{m_bits.data(), 20, 20};
+    const IntRect m_rect{2, 2, 18, 18};
+};
+
+constexpr FourStops Plain(Argb color) { return {color, color, color, color, 50}; }
+
+TEST(Colours, MixGoesFromOneEndToTheOther) {
+    EXPECT_EQ(Mix(0xFF000000, 0xFFFFFFFF, 0, 4), 0xFF000000u);
+    EXPECT_EQ(Mix(0xFF000000, 0xFFFFFFFF, 4, 4), 0xFFFFFFFFu);
+    EXPECT_EQ(Mix(0xFF000000, 0xFF646464, 1, 2), 0xFF323232u);
+}
+
+TEST_F(Pixels, FillStaysInTheRectangle) {
+    FillRounded(m_view, m_rect, {}, Plain(0xFF336699));
+    EXPECT_EQ(m_view.At(2, 2), 0xFF336699u);
+    EXPECT_EQ(m_view.At(17, 17), 0xFF336699u);
+    EXPECT_EQ(m_view.At(1, 2), 0u);
+    EXPECT_EQ(m_view.At(18, 17), 0u);
+}
+
+TEST_F(Pixels, RoundCornersAreClearOutsideAndSmoothOnTheEdge) {
+    FillRounded(m_view, m_rect, Corners::All(5), Plain(0xFFFFFFFF));
+    EXPECT_EQ(AlphaOf(m_view.At(2, 2)), 0u);
+    EXPECT_EQ(AlphaOf(m_view.At(10, 2)), 255u);
+    bool hasEdge = false;
+    for (int x = 2; x < 8; ++x)
+        hasEdge |= AlphaOf(m_view.At(x, 3)) > 0 && AlphaOf(m_view.At(x, 3)) < 255;
+    EXPECT_TRUE(hasEdge);
+}
+
+TEST_F(Pixels, OnlyTheNamedCornersAreRound) {
+    FillRounded(m_view, m_rect, Corners::Top(5), Plain(0xFFFFFFFF));
+    EXPECT_EQ(AlphaOf(m_view.At(2, 2)), 0u);
+    EXPECT_EQ(AlphaOf(m_view.At(17, 2)), 0u);
+    EXPECT_EQ(AlphaOf(m_view.At(2, 17)), 255u);
+    EXPECT_EQ(AlphaOf(m_view.At(17, 17)), 255u);
+}
+
+TEST_F(Pixels, GradientsMeetAtTheSplit) {
+    FillRounded(m_view, {0, 0, 20, 20}, {}, {0xFF000000, 0xFF202020, 0xFF808080, 0xFFFFFFFF, 50});
+    EXPECT_EQ(m_view.At(0, 0), 0xFF000000u);
+    EXPECT_EQ(m_view.At(0, 9), 0xFF202020u);
+    EXPECT_EQ(m_view.At(0, 10), 0xFF808080u);
+    EXPECT_EQ(m_view.At(0, 19), 0xFFFFFFFFu);
+}
+
+TEST_F(Pixels, StrokeLeavesTheInsideClear) {
+    StrokeRounded(m_view, m_rect, Corners::All(3), 0xFF112233, 1);
+    EXPECT_EQ(m_view.At(10, 2), 0xFF112233u);
+    EXPECT_EQ(m_view.At(2, 10), 0xFF112233u);
+    EXPECT_EQ(m_view.At(17, 10), 0xFF112233u);
+    EXPECT_EQ(m_view.At(10, 3), 0u);
+    EXPECT_EQ(m_view.At(10, 10), 0u);
+}
+
+TEST_F(Pixels, StrokeIsAsThickAsAsked) {
+    StrokeRounded(m_view, m_rect, {}, 0xFF112233, 2);
+    EXPECT_EQ(m_view.At(10, 3), 0xFF112233u);
+    EXPECT_EQ(m_view.At(3, 10), 0xFF112233u);
+    EXPECT_EQ(m_view.At(10, 4), 0u);
+}
+
+TEST_F(Pixels, ShapesPartlyOutsideOfTheViewAreCut) {
+    FillRounded(m_view, {-10, -10, 40, 40}, Corners::All(4), Plain(0xFF010203));
+    StrokeRounded(m_view, {-10, -10, 40, 40}, Corners::All(4), 0xFFFFFFFF, 1);
+    FillEllipse(m_view, {-10, 5, 40, 40}, Plain(0xFF040506));
+    const PointF triangle[] = {{-5, -5}, {40, 10}, {5, 60}};
+    FillPolygon(m_view, triangle, 0xFF070809);
+    EXPECT_EQ(m_view.At(10, 10), 0xFF070809u);
+}
+
+TEST_F(Pixels, BlendingHalfMixesHalf) {
+    m_view.At(0, 0) = 0xFF000000;
+    BlendPixel(m_view.At(0, 0), 0x80FFFFFF);
+    EXPECT_EQ(AlphaOf(m_view.At(0, 0)), 255u);
+    EXPECT_NEAR(RedOf(m_view.At(0, 0)), 128, 1);
+}
+
+TEST_F(Pixels, EllipseIsRound) {
+    FillEllipse(m_view, {0, 0, 20, 20}, Plain(0xFFFFFFFF));
+    EXPECT_EQ(AlphaOf(m_view.At(0, 0)), 0u);
+    EXPECT_EQ(AlphaOf(m_view.At(10, 10)), 255u);
+    EXPECT_EQ(m_view.At(3, 7), m_view.At(16, 7));
+}
+
+TEST(Disabled, IsGreyAndKeepsClearPixelsClear) {
+    EXPECT_EQ(DisabledPixel(0), 0u);
+    for (const std::uint32_t pixel : {0xFFFF0000u, 0xFF00FF00u, 0xFF000000u, 0xFFFFFFFFu, 0x80400000u}) {
+        const std::uint32_t grey = DisabledPixel(pixel);
+        EXPECT_EQ(RedOf(grey), GreenOf(grey));
+        EXPECT_EQ(GreenOf(grey), BlueOf(grey));
+        EXPECT_LE(RedOf(grey), AlphaOf(grey));
+    }
+    const int contrast =
+        static_cast<int>(RedOf(DisabledPixel(0xFFFFFFFF))) - static_cast<int>(RedOf(DisabledPixel(0xFF000000)));
+    EXPECT_GT(contrast, 40);
+    EXPECT_LT(contrast, 160);
+}
+
+TEST(Resampling, KeepsAPlainColourAndHalvesAChequer) {
+    std::vector<std::uint32_t> plain(16, 0xFF336699), larger(36);
+    Resample({plain.data(), 4, 4}, {larger.data(), 6, 6});
+    for (const std::uint32_t pixel : larger)
+        EXPECT_EQ(pixel, 0xFF336699u);
+    std::vector<std::uint32_t> chequer{0xFF000000, 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000}, one(1);
+    Resample({chequer.data(), 2, 2}, {one.data(), 1, 1});
+    EXPECT_NEAR(RedOf(one[0]), 128, 1);
+}
+
+TEST(PreMultiplying, IsDoneOnceOnly) {
+    std::uint32_t pixel = 0x80FF0000;
+    const PixelView view{&pixel, 1, 1};
+    PreMultiply(view, true);
+    EXPECT_EQ(pixel, 0x80800000u);
+    PreMultiply(view, true);
+    EXPECT_EQ(pixel, 0x80800000u);
+}
+
+} // namespace
