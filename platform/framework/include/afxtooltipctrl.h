@@ -48,7 +48,8 @@ public:
     void SetHotRibbonButton(CMFCRibbonButton* pRibbonButton);
     /// Screen position of the next show; CPoint(-1, -1) leaves it to the system.
     void SetLocation(CPoint pt);
-    /// Widths in pixels for tooltips without and with a large image; 0: as wide as the text.
+    /// Widths, in pixels at 96 DPI, of tooltips with a description: with an image larger than 32 pixels at 96 DPI, and
+    /// all others. 0: as wide as the text, at most m_nMaxDescrWidth.
     void SetFixedWidth(int nWidthRegular, int nWidthLargeImage);
 
     virtual CSize GetIconSize();
@@ -64,6 +65,8 @@ public:
 protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
     /// TTN_SHOW: sizes and places the window. *pResult is 1 when it was placed, 0 when the system places it.
     afx_msg void OnShow(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnPop(NMHDR* pNMHDR, LRESULT* pResult);
@@ -73,18 +76,30 @@ protected:
     void UpdateParams();
     /// The text of the current tool, without its accelerator marks.
     CString GetLabel();
+    /// Moves (unless ptScreen is CPoint(-1, -1)) and sizes the window for this show, kept inside the work area of the
+    /// monitor there. TRUE when it was moved: the handler of TTN_SHOW answers that.
+    BOOL PlaceForShow(CPoint ptScreen, CSize size);
+    /// The look of this type of owner is asked from the visual manager.
+    void SetOwnerType(UINT nType) { m_nOwnerType = nType; }
+    BOOL IsDescriptionShown() const { return m_Params.m_bDrawDescription && !m_strDescription.IsEmpty(); }
+    /// Width in which label and description are wrapped, in pixels.
+    int GetTextWidth() const;
+
+    friend class CTooltipManager;
 
     CMFCToolTipInfo m_Params;
     CString m_strDescription;
-    /// The label that is shown; GetLabel fills it on show.
+    /// The label that is shown; OnShow fills it.
     CString m_strLabel;
+    /// Set by toolbars, as m_pRibbonButton by the ribbon. Not owned.
     CMFCToolBarButton* m_pHotButton = NULL;
     CMFCRibbonButton* m_pRibbonButton = NULL;
     CSize m_sizeImage = CSize(0, 0);
     CPoint m_ptMargin = CPoint(0, 0);
     CPoint m_ptLocation = CPoint(-1, -1);
-    /// TRUE until the parameters were fetched from the visual manager for this control.
-    BOOL m_bParamsPending = TRUE;
+    CRect m_rectShow = CRect(0, 0, 0, 0);
+    BOOL m_bMovedForShow = FALSE;
+    UINT m_nOwnerType = (UINT)-1;
     int m_nFixedWidthRegular = 0;
     int m_nFixedWidthWithImage = 0;
 };

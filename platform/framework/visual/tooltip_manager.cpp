@@ -71,7 +71,13 @@ BOOL CTooltipManager::CreateToolTip(CToolTipCtrl*& pToolTip, CWnd* pWndParent, U
     } else {
         made = new CToolTipCtrl;
     }
-    if (made == nullptr || !made->Create(pWndParent, TTS_ALWAYSTIP | (look.m_bBalloonTooltip ? TTS_BALLOON : 0))) {
+    DWORD style = TTS_ALWAYSTIP;
+    if (CMFCToolTipCtrl* const own = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, made)) {
+        own->SetOwnerType(nType);
+        // It takes key marks away itself; the system would take half of each "&&" before.
+        style |= TTS_NOPREFIX | (look.m_bBalloonTooltip ? TTS_BALLOON : 0);
+    }
+    if (made == nullptr || !made->Create(pWndParent, style)) {
         delete made;
         return FALSE;
     }

@@ -1,0 +1,176 @@
+// When a tooltip appears: its size and place, and painting it.
+#include "afxtooltipctrl.h"
+
+#include "afxglobals.h"
+#include "afxmsg_.h"
+#include "afxribbonbar.h"
+#include "afxribbonbutton.h"
+#include "afxvisualmanager.h"
+#include "fx/window_dc.h"
+#include "visual/tooltip_layout.h"
+#include "visual/tooltip_text.h"
+
+#include <vector>
+
+namespace {
+
+const CPoint g_nowhere(-1, -1);
+constexpr int g_longestLabel = 4096;
+constexpr int g_corner = 4;
+
+struct Margins {
+    int x, y;
+};
+constexpr Margins g_squareMargins = {4, 2};
+constexpr Margins g_roundedMargins = {6, 4};
+
+CRect WorkAreaAt(CPoint point) {
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    if (::GetMonitorInfo(::MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &info)) {
+        return info.rcWork;
+    }
+    CRect area(0, 0, 0, 0);
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMFCToolTipCtrl, CToolTipCtrl)
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_SIZE()
+ON_WM_WINDOWPOSCHANGING()
+ON_NOTIFY_REFLECT(TTN_SHOW, OnShow)
+ON_NOTIFY_REFLECT(TTN_POP, OnPop)
+END_MESSAGE_MAP()
+
+void CMFCToolTipCtrl::UpdateParams() {
+    CMFCVisualManager* manager = m_Params.m_bVislManagerTheme ? CMFCVisualManager::GetInstance() : NULL;
+    CMFCToolTipInfo params;
+    if (manager != NULL && manager->GetToolTipInfo(params, m_nOwnerType)) {
+        m_Params = params;
+        m_Params.m_bVislManagerTheme = TRUE;
+    }
+}
+
+CString CMFCToolTipCtrl::GetLabel() {
+    std::vector<wchar_t> text(g_longestLabel);
+    ::GetWindowTextW(m_hWnd, text.data(), g_longestLabel);
+    return CString(tooltip::WithoutKeyMarks(text.data()).c_str());
+}
+
+void CMFCToolTipCtrl::OnShow(NMHDR* /*pNMHDR*/, LRESULT* pResult) {
+    *pResult = 0;
+    m_rectShow.SetRectEmpty();
+    UpdateParams();
+    if (m_Params.m_bBalloonTooltip) {
+        return; // the system draws balloons
+    }
+    m_strLabel = GetLabel();
+    const Margins& margins = m_Params.m_bRoundedCorners ? g_roundedMargins : g_squareMargins;
+    m_ptMargin = CPoint(afxGlobalData.ScalePixels(margins.x), afxGlobalData.ScalePixels(margins.y));
+    m_sizeImage = m_Params.m_bDrawIcon ? GetIconSize() : CSize(0, 0);
+    CClientDC dc(this);
+    tooltip::Content content;
+    content.icon = m_sizeImage;
+    content.label = OnDrawLabel(&dc, CRect(0, 0, 0, 0), TRUE);
+    content.description = IsDescriptionShown() ? OnDrawDescription(&dc, CRect(0, 0, 0, 0), TRUE) : CSize(0, 0);
+    *pResult = PlaceForShow(m_ptLocation, tooltip::Arrange(content, CSize(m_ptMargin.x, m_ptMargin.y)).window);
+}
+
+BOOL CMFCToolTipCtrl::PlaceForShow(CPoint ptScreen, CSize size) {
+    CRect system;
+    GetWindowRect(system);
+    CPoint cursor;
+    ::GetCursorPos(&cursor);
+    const bool isFixed = ptScreen != g_nowhere;
+    const CPoint wanted = isFixed ? ptScreen : CPoint(cursor.x, cursor.y + ::GetSystemMetrics(SM_CYCURSOR) * 2 / 3);
+    int avoidTop = static_cast<int>(cursor.y) - 1;
+    const CMFCRibbonBar* bar = m_pRibbonButton != NULL ? m_pRibbonButton->GetTopLevelRibbonBar() : NULL;
+    if (bar != NULL && bar->GetSafeHwnd() != NULL) {
+        CRect area;
+        bar->GetWindowRect(area);
+        avoidTop = static_cast<int>(area.top);
+    }
+    const CPoint corner = tooltip::KeepInside(wanted, size, WorkAreaAt(wanted), avoidTop);
+    m_bMovedForShow = TRUE;
+    m_rectShow = CRect(corner, size);
+    SetWindowPos(NULL, corner.x, corner.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    return m_bMovedForShow;
+}
+
+// The system may size the window again after TTN_SHOW, for the text in its own font.
+void CMFCToolTipCtrl::OnWindowPosChanging(WINDOWPOS* lpwndpos) {
+    if (!m_rectShow.IsRectEmpty()) {
+        if ((lpwndpos->flags & SWP_NOSIZE) == 0) {
+            lpwndpos->cx = m_rectShow.Width();
+            lpwndpos->cy = m_rectShow.Height();
+        }
+        if ((lpwndpos->flags & SWP_NOMOVE) == 0 && m_bMovedForShow) {
+            lpwndpos->x = m_rectShow.left;
+            lpwndpos->y = m_rectShow.top;
+        }
+    }
+    CToolTipCtrl::OnWindowPosChanging(lpwndpos);
+}
+
+void CMFCToolTipCtrl::OnPop(NMHDR* /*pNMHDR*/, LRESULT* pResult) {
+    m_rectShow.SetRectEmpty();
+    *pResult = 0;
+}
+
+void CMFCToolTipCtrl::OnSize(UINT nType, int cx, int cy) {
+    CToolTipCtrl::OnSize(nType, cx, cy);
+    if (m_Params.m_bBalloonTooltip) {
+        return;
+    }
+    const int corner = afxGlobalData.ScalePixels(g_corner);
+    // The window owns its region from here.
+    ::SetWindowRgn(
+        m_hWnd, m_Params.m_bRoundedCorners ? ::CreateRoundRectRgn(0, 0, cx + 1, cy + 1, corner, corner) : NULL, FALSE);
+}
+
+BOOL CMFCToolTipCtrl::OnEraseBkgnd(CDC* pDC) {
+    return m_Params.m_bBalloonTooltip ? CToolTipCtrl::OnEraseBkgnd(pDC) : TRUE;
+}
+
+void CMFCToolTipCtrl::OnPaint() {
+    if (m_Params.m_bBalloonTooltip) {
+        Default();
+        return;
+    }
+    CPaintDC paint(this);
+    CRect client;
+    GetClientRect(client);
+    // All at once, so that nothing flickers.
+    CDC dc;
+    CBitmap picture;
+    if (!dc.CreateCompatibleDC(&paint) || !picture.CreateCompatibleBitmap(&paint, client.Width(), client.Height())) {
+        return;
+    }
+    CBitmap* const previous = dc.SelectObject(&picture);
+    COLORREF text = 0, line = 0;
+    OnFillBackground(&dc, client, text, line);
+    OnDrawBorder(&dc, client, line);
+    tooltip::Content content;
+    content.icon = m_sizeImage;
+    content.label = OnDrawLabel(&dc, CRect(0, 0, 0, 0), TRUE);
+    content.description = IsDescriptionShown() ? OnDrawDescription(&dc, CRect(0, 0, 0, 0), TRUE) : CSize(0, 0);
+    const tooltip::Layout layout = tooltip::Arrange(content, CSize(m_ptMargin.x, m_ptMargin.y));
+    if (!layout.icon.IsRectEmpty()) {
+        OnDrawIcon(&dc, layout.icon);
+    }
+    ::SetTextColor(dc.GetSafeHdc(), text);
+    OnDrawLabel(&dc, layout.label, FALSE);
+    if (layout.separatorY >= 0) {
+        if (m_Params.m_bDrawSeparator) {
+            OnDrawSeparator(&dc, static_cast<int>(layout.label.left), static_cast<int>(client.right - m_ptMargin.x),
+                            layout.separatorY);
+        }
+        OnDrawDescription(&dc, layout.description, FALSE);
+    }
+    paint.BitBlt(0, 0, client.Width(), client.Height(), &dc, 0, 0, SRCCOPY);
+    dc.SelectObject(previous);
+}
