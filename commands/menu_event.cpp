@@ -18,7 +18,7 @@ void CMenuEvtHandleMgr::addReactor(boost::shared_ptr<CMenuReactor> reactor) {
     m_reactors.push_back(std::move(reactor));
 }
 
-std::vector<boost::shared_ptr<CMenuReactor>> CMenuEvtHandleMgr::getReactors() const {
+std::vector<boost::shared_ptr<CMenuReactor>> CMenuEvtHandleMgr::getReactors() {
     xrecursive_mutex::scoped_lock lock(m_mutex);
     return m_reactors;
 }

@@ -43,7 +43,7 @@ public:
     /// by a reactor within a dispatch, it is asked in that same dispatch.
     void addReactor(boost::shared_ptr<CMenuReactor> reactor);
     /// A copy of the list, in the order of registration.
-    std::vector<boost::shared_ptr<CMenuReactor>> getReactors() const;
+    std::vector<boost::shared_ptr<CMenuReactor>> getReactors();
 
     /// Each asks the reactors one after the other until one returns true; false when none did.
     bool MenuClick(unsigned int id) const;

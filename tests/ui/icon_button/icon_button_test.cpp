@@ -176,6 +176,20 @@ TEST_F(IconButton, DisabledButtonIsDrawnGreyAndNotInTheIconsColours) {
     EXPECT_EQ(ExtentDrawn(*button, Small), CSize(26, 36));
 }
 
+TEST_F(IconButton, DisabledPictureIsScaledWithTheRibbon) {
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
+    const auto button = MakeButton();
+    button->SetDisabled(TRUE);
+    EXPECT_EQ(ExtentDrawn(*button, Small), CSize(34, 44));
+    EXPECT_EQ(ExtentDrawn(*button, Large), CSize(58, 64)) << "48 pixels, cut off at the canvas's edge";
+}
+
+TEST_F(IconButton, DisabledSmallPictureFromTheLargeFileHasTheSmallSize) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large);
+    button.SetDisabled(TRUE);
+    EXPECT_EQ(ExtentDrawn(button, Small), CSize(26, 36));
+}
+
 TEST_F(IconButton, FilesAreReadAtEveryDrawAndReleasedAfterwards) {
     const auto button = MakeButton();
     const std::size_t before = FileIcon::GetReadCount();
@@ -305,6 +319,58 @@ TEST_F(IconButton, OriginalIsLentDisabledFlagAndRectangleAndGetsItsOwnBack) {
     copy.SetDisabled(FALSE);
     EXPECT_EQ(ColourDrawn(copy, Large), red) << "drawn enabled";
     EXPECT_TRUE(original->IsDisabled());
+}
+
+/// Keeps what it holds while it is drawn.
+class WatchedButton : public CMFCRibbonUNIcoButton {
+public:
+    void DrawImage(CDC*, RibbonImageType, CRect rect) override {
+        drawnAt = rect;
+        heldRect = m_rect;
+        wasDisabled = m_bIsDisabled;
+    }
+    CRect drawnAt;
+    CRect heldRect;
+    BOOL wasDisabled = FALSE;
+};
+
+TEST_F(IconButton, OriginalHoldsTheCopysFlagAndRectangleWhileItDraws) {
+    WatchedButton original;
+    original.SetRect(CRect(1, 2, 3, 4));
+    CMFCRibbonUNIcoButton copy;
+    copy.SetOriginal(&original);
+    copy.SetRect(CRect(5, 6, 7, 8));
+    copy.SetDisabled(TRUE);
+    copy.DrawImage(m_canvas.Dc(), Large, CRect(10, 20, 64, 64));
+    EXPECT_EQ(original.drawnAt, CRect(10, 20, 64, 64));
+    EXPECT_EQ(original.heldRect, CRect(5, 6, 7, 8));
+    EXPECT_TRUE(original.wasDisabled);
+    EXPECT_EQ(original.GetRect(), CRect(1, 2, 3, 4));
+    EXPECT_FALSE(original.IsDisabled());
+}
+
+TEST_F(IconButton, LinkedCopyTakesItsImageSizeFromItsOriginal) {
+    const auto withPaths = MakeButton();
+    CMFCRibbonUNIcoButton withoutPaths;
+    CMFCRibbonUNIcoButton copy;
+    copy.SetOriginal(withPaths.get());
+    EXPECT_EQ(copy.GetImageSize(Large), CSize(32, 32));
+    const auto copyWithPaths = MakeButton();
+    copyWithPaths->SetOriginal(&withoutPaths);
+    EXPECT_EQ(copyWithPaths->GetImageSize(Large), CSize(0, 0));
+}
+
+TEST_F(IconButton, ChangedRectangleReachesTheFrameworksButton) {
+    const auto button = MakeButton();
+    TestWindow window;
+    button->SetParentWnd(&window);
+    button->SetIntermediateMode(TRUE);
+    button->AddSubItem(new CMFCRibbonButton(2, L"sub"));
+    button->SetDefaultCommand(TRUE);
+    button->SetRect(CRect(0, 0, 80, 24));
+    EXPECT_TRUE(button->GetMenuRect().IsRectEmpty());
+    button->OnAfterChangeRect(m_canvas.Dc());
+    EXPECT_FALSE(button->GetMenuRect().IsRectEmpty());
 }
 
 TEST_F(IconButton, OriginalOfAnotherKindIsNotAsked) {

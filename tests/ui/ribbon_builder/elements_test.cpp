@@ -1,9 +1,13 @@
 #include "ribbon_icon_button.h"
+#include "tests/support/canvas.h"
 #include "tests/ui/ribbon_builder/ribbon_fixture.h"
 
 #include <varnhold/xml.h>
 
 namespace {
+
+constexpr std::uint32_t red = 0xFF0000;
+constexpr std::uint32_t blue = 0x0000FF;
 
 /// Reads an element from a literal and gives it to the builder as the host would.
 class XmlElement {
@@ -235,13 +239,59 @@ TEST_F(RibbonBuilder, ButtonTakesBothIconSizesAndASmallOneThe16PixelIcon) {
     }
 }
 
+/// Shows the flags that a button keeps for itself.
+struct ButtonFlags : CMFCRibbonUNIcoButton {
+    static BOOL DestroysIcons(const CMFCRibbonUNIcoButton& button) {
+        return button.*(&ButtonFlags::m_bAutoDestroyIcon);
+    }
+    static BOOL BlendsIcons(const CMFCRibbonUNIcoButton& button) { return button.*(&ButtonFlags::m_bAlphaBlendIcon); }
+};
+
+TEST_F(RibbonBuilder, ButtonsOwnTheirIconsBlendNoneAndShowNoDescription) {
+    for (const int size : {16, 32}) {
+        RibbonInfo info = InfoOf(L"BUTTON");
+        info.size = size;
+        const auto made = Make(info);
+        const auto& button = static_cast<const CMFCRibbonUNIcoButton&>(*made);
+        EXPECT_TRUE(ButtonFlags::DestroysIcons(button)) << size;
+        EXPECT_FALSE(ButtonFlags::BlendsIcons(button)) << size;
+        EXPECT_FALSE(button.IsAlwaysShowDescription()) << size;
+    }
+}
+
+/// Writes a red icon to the path of the button's large picture and a blue one to its alternate.
+void WriteLargeIcons(const CMFCRibbonUNIcoButton& button) {
+    for (const std::uint32_t colour : {red, blue}) {
+        CString path = button.GetIconPath(TRUE);
+        if (colour == blue) {
+            ASSERT_GT(path.Replace(L"modle", L"modle_0"), 0);
+        }
+        const std::filesystem::path file(path.GetString());
+        std::filesystem::create_directories(file.parent_path());
+        const std::string bytes = MakeIconFile(32, {colour, colour});
+        std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+}
+
+/// The colour of the large picture while the skin style selects the alternates.
+std::uint32_t AlternateColour(CMFCRibbonUNIcoButton& button) {
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    Canvas canvas;
+    button.DrawImage(canvas.Dc(), CMFCRibbonBaseElement::RibbonImageLarge, CRect(0, 0, 32, 32));
+    CMFCRibbonUNIcoButton::SetSkinStyle(CString());
+    return canvas.At(4, 4);
+}
+
 TEST_F(RibbonBuilder, ButtonsAlternateIconsAreFormed) {
-    m_installation.Directory().Write("skin/modle_0/32/a.ico", MakeIconFile(32, {0xFF, 0xFF}));
-    // The installation directory of icons is asked for once in the process; the path says where it was.
     RibbonInfo info = InfoOf(L"BUTTON");
     info.picPath = L"skin\\modle\\a.ico";
-    const auto button = Make(info);
-    EXPECT_NE(static_cast<CMFCRibbonUNIcoButton*>(button.get())->GetIconPath(TRUE).Find(L"skin\\modle\\32\\a.ico"), -1);
+    for (const int size : {16, 32}) {
+        info.size = size;
+        const auto made = Make(info);
+        auto& button = static_cast<CMFCRibbonUNIcoButton&>(*made);
+        WriteLargeIcons(button);
+        EXPECT_EQ(AlternateColour(button), blue) << size;
+    }
 }
 
 TEST_F(RibbonBuilder, F1HintIsGivenToButtonsWhoseOwnerAndRecordWantIt) {
@@ -354,6 +404,35 @@ TEST_F(ButtonFromKey, CopiesTheCommandsButton) {
     EXPECT_EQ(button->GetIconPath(TRUE), found->GetIconPath(TRUE));
     EXPECT_EQ(button->GetIconPath(FALSE), found->GetIconPath(FALSE));
     EXPECT_EQ(button->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
+}
+
+TEST_F(ButtonFromKey, LeavesIconsAndDescriptionFlagsOff) {
+    ASSERT_TRUE(Load(Panel(keyButton)));
+    const auto button = Make(L"K", 1);
+    ASSERT_NE(button, nullptr);
+    EXPECT_FALSE(ButtonFlags::DestroysIcons(*button));
+    EXPECT_FALSE(ButtonFlags::BlendsIcons(*button));
+    EXPECT_FALSE(button->IsAlwaysShowDescription());
+}
+
+TEST_F(ButtonFromKey, LastArgumentKeepsTheLargePath) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='skin\\modle\\k.ico'/>")));
+    WriteLargeIcons(static_cast<CMFCRibbonUNIcoButton&>(*Element(0)));
+    const auto kept = Make(L"K", 1);
+    ASSERT_NE(kept, nullptr);
+    EXPECT_EQ(AlternateColour(*kept), red);
+    const auto formed = Make(L"K", 0);
+    ASSERT_NE(formed, nullptr);
+    EXPECT_EQ(AlternateColour(*formed), blue);
+}
+
+TEST_F(ButtonFromKey, IsFoundOnTheQuickAccessToolbarToo) {
+    ASSERT_TRUE(Load("<r KEYWORD='QK_Rbbion_QAToolbar'><i KEYWORD='K'/></r>" + Panel(keyButton)));
+    const CString path = static_cast<CMFCRibbonUNIcoButton*>(Element(0))->GetIconPath(TRUE);
+    m_bar.ShowCategory(0, FALSE);
+    const auto button = Make(L"K");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->GetIconPath(TRUE), path);
 }
 
 TEST_F(ButtonFromKey, IsNullWithoutABar) {

@@ -175,6 +175,16 @@ TEST_F(RibbonBuilder, FileWithoutCategoriesKeepsTheIndexesAndHidesTheFormerOnesA
     EXPECT_EQ(last, 1);
 }
 
+TEST_F(RibbonBuilder, IndexesOfCategoriesThatAreGoneDoNoHarm) {
+    ASSERT_TRUE(Load(twoCategories, 1));
+    m_bar.RemoveAllCategories();
+    EXPECT_TRUE(Load(quickAccess, 0, "none.xml"));
+    int first = 0;
+    int last = 0;
+    EXPECT_EQ(m_builder.GetAddIndex(first, last), 2);
+    EXPECT_EQ(m_bar.GetCategoryCount(), 0);
+}
+
 TEST_F(RibbonBuilder, HiddenLoadWithoutAnyCategoryHidesNothing) {
     ASSERT_TRUE(Load(twoCategories, 1));
     CAddRibbonBar second;

@@ -1,5 +1,6 @@
 #include "library_context.h"
 #include "menu_id_mgr.h"
+#include "tests/support/scoped_value.h"
 
 #include <afxglobals.h>
 #include <gtest/gtest.h>
@@ -24,7 +25,6 @@ TEST(LibraryContext, HelpFileNameIsTheRegisteredHelpFile) {
 }
 
 TEST(LibraryContext, IconPathStandsBelowTheInstallationDirectoryThatWasKnownFirst) {
-    std::wstring directory;
     {
         const ScopedAppPath first(L"C:\\first\\");
         // The program's first call, unless another test ran before in this process.
@@ -60,16 +60,18 @@ protected:
         asked = true;
     }
 
-    static const wchar_t* KeyPath() {
-        return afxGlobalData.bIsWow6432Node ? L"Software\\Wow6432Node\\HALVORN\\Tessaly"
-                                            : L"Software\\HALVORN\\Tessaly";
-    }
-    static void Record(const std::wstring& folder) {
-        ASSERT_EQ(::RegSetKeyValueW(HKEY_LOCAL_MACHINE, KeyPath(), L"FlashPath", REG_SZ, folder.c_str(),
+    static constexpr const wchar_t* plainKey = L"Software\\HALVORN\\Tessaly";
+    static constexpr const wchar_t* redirectedKey = L"Software\\Wow6432Node\\HALVORN\\Tessaly";
+
+    static void Record(const std::wstring& folder, const wchar_t* key = plainKey) {
+        ASSERT_EQ(::RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, L"FlashPath", REG_SZ, folder.c_str(),
                                     static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t))),
                   ERROR_SUCCESS);
     }
-    static void Remove() { ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, KeyPath()); }
+    static void Remove() {
+        for (const wchar_t* key : {plainKey, redirectedKey})
+            ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, key);
+    }
 
     static void ExpectFolder(const wchar_t* recorded, const wchar_t* expected) {
         Record(recorded);
@@ -80,6 +82,7 @@ protected:
 
 private:
     HANDLE m_turn;
+    const ScopedValue<BOOL> m_plain{afxGlobalData.bIsWow6432Node, FALSE};
 };
 
 TEST_F(MediaFolder, GetsABackslashWhereItIsMissing) { ExpectFolder(L"C:\\video", L"C:\\video\\Media\\"); }
@@ -91,6 +94,32 @@ TEST_F(MediaFolder, OfOneCharacterGetsNone) { ExpectFolder(L"C", L"CMedia\\"); }
 TEST_F(MediaFolder, EmptyValueGivesEmptyTextAndFalse) { ExpectFolder(L"", L""); }
 
 TEST_F(MediaFolder, MissingKeyGivesEmptyTextAndFalse) {
+    CString folder = L"before";
+    EXPECT_FALSE(GetHaveMedias_Brevant(folder));
+    EXPECT_EQ(folder, L"");
+}
+
+TEST_F(MediaFolder, IsReadFromTheRedirectedKeyWhereTheFrameworkSaysThatThereIsOne) {
+    Record(L"C:\\plain", plainKey);
+    Record(L"C:\\redirected", redirectedKey);
+    const ScopedValue<BOOL> redirected(afxGlobalData.bIsWow6432Node, TRUE);
+    CString folder;
+    EXPECT_TRUE(GetHaveMedias_Brevant(folder));
+    EXPECT_EQ(folder, L"C:\\redirected\\Media\\");
+}
+
+TEST_F(MediaFolder, IsReadFromThePlainKeyElsewhere) {
+    Record(L"C:\\plain", plainKey);
+    Record(L"C:\\redirected", redirectedKey);
+    CString folder;
+    EXPECT_TRUE(GetHaveMedias_Brevant(folder));
+    EXPECT_EQ(folder, L"C:\\plain\\Media\\");
+}
+
+TEST_F(MediaFolder, ValueThatIsNoTextGivesEmptyTextAndFalse) {
+    const DWORD number = 7;
+    ASSERT_EQ(::RegSetKeyValueW(HKEY_LOCAL_MACHINE, plainKey, L"FlashPath", REG_DWORD, &number, sizeof(number)),
+              ERROR_SUCCESS);
     CString folder = L"before";
     EXPECT_FALSE(GetHaveMedias_Brevant(folder));
     EXPECT_EQ(folder, L"");

@@ -225,28 +225,50 @@ TEST_F(CommandDispatch, ThreadsNeverDispatchAtOnce) {
     EXPECT_EQ(asked, threadCount * perThread);
 }
 
-TEST_F(CommandDispatch, RegistrationWaitsForADispatchOfAnotherThread) {
+TEST_F(CommandDispatch, EveryOperationWaitsForADispatchOfAnotherThread) {
     const auto first = Add("A");
-    std::atomic<bool> added = false;
-    std::thread registrar;
-    const auto late = Make("late", true);
-    first->instead = [&] {
-        std::atomic<bool> started = false;
-        registrar = std::thread([&] {
-            started = true;
-            Dispatcher().addReactor(late);
-            added = true;
-        });
-        while (!started)
-            std::this_thread::yield();
-        for (int i = 0; i < 1000; ++i)
-            std::this_thread::yield();
-        EXPECT_FALSE(added);
-        return false;
+    const auto late = Make("late");
+    const std::function<void()> operations[] = {
+        [&late] { Dispatcher().addReactor(late); }, [] { Dispatcher().getReactors(); },
+        [] { Dispatcher().MenuClick(1); },          [] { Dispatcher().Update(nullptr); },
+        [] { Dispatcher().DisableMain(); },
     };
-    EXPECT_FALSE(Dispatcher().DisableMain());
-    registrar.join();
-    EXPECT_TRUE(added);
+    const std::function<bool()> dispatches[] = {
+        [] { return Dispatcher().MenuClick(1); },
+        [] { return Dispatcher().Update(nullptr); },
+        [] { return Dispatcher().DisableMain(); },
+    };
+    for (const auto& operation : operations) {
+        for (const auto& dispatch : dispatches) {
+            std::atomic<bool> started = false;
+            std::atomic<bool> finished = false;
+            std::thread other;
+            first->instead = [&] {
+                if (other.joinable())
+                    return false;
+                other = std::thread([&] {
+                    started = true;
+                    operation();
+                    finished = true;
+                });
+                while (!started)
+                    std::this_thread::yield();
+                for (int i = 0; i < 1000; ++i)
+                    std::this_thread::yield();
+                EXPECT_FALSE(finished);
+                return false;
+            };
+            EXPECT_FALSE(dispatch());
+            other.join();
+            EXPECT_TRUE(finished);
+        }
+    }
+}
+
+TEST_F(CommandDispatch, LockCarriesItsName) {
+    // The lock is the dispatcher's first member.
+    EXPECT_EQ(reinterpret_cast<const xrecursive_mutex*>(CMenuEvtHandleMgr::Ins())->getPrompt(),
+              "CMenuEvtHandleMgr::m_mutex");
 }
 
 } // namespace

@@ -31,6 +31,34 @@ protected:
         return mark;
     }
 
+    /// How often to look whether another thread has finished: a while for what must not, long for what must.
+    static constexpr int briefly = 2000;
+    static constexpr int patiently = 5'000'000;
+
+    /// Whether another thread gets through the operation while this one holds the lock.
+    template <class Operation>
+    static bool FinishesWhileTheLockIsHeld(Operation operation, int looks) {
+        std::atomic<bool> started = false;
+        std::atomic<bool> finished = false;
+        bool inTime = false;
+        std::thread other;
+        {
+            xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
+            other = std::thread([&] {
+                started = true;
+                operation();
+                finished = true;
+            });
+            while (!started)
+                std::this_thread::yield();
+            for (int i = 0; i < looks && !finished; ++i)
+                std::this_thread::yield();
+            inTime = finished;
+        }
+        other.join();
+        return inTime;
+    }
+
 private:
     std::uint32_t m_savedNextId = CMenuIdMgr::s_AddBeginID;
 };
@@ -219,10 +247,15 @@ TEST_F(CommandRegistry, HelpFileOfAnUnknownIdDoesNotRegisterTheId) {
 TEST_F(CommandRegistry, SetHelpFileTakesNoLock) {
     AddNamed(L"K", 41000);
     CMenuIdMgr* const registry = CMenuIdMgr::Ins();
-    xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
-    std::thread([registry] { registry->SetHelpFile(41000, L"A"); }).join();
+    EXPECT_TRUE(FinishesWhileTheLockIsHeld([registry] { registry->SetHelpFile(41000, L"A"); }, patiently));
     std::wstring help;
     EXPECT_TRUE(registry->GetHelpFile(41000, help));
+}
+
+TEST_F(CommandRegistry, EmptyKeywordIsRefusedBeforeTheLockIsTaken) {
+    CMenuIdMgr* const registry = CMenuIdMgr::Ins();
+    EXPECT_TRUE(
+        FinishesWhileTheLockIsHeld([registry] { registry->Add(L"", 41000, L"", L"", L"", L"", L""); }, patiently));
 }
 
 TEST_F(CommandRegistry, DestroyForgetsEveryEntryAndKeepsTheCounter) {
@@ -249,9 +282,23 @@ TEST_F(CommandRegistry, CopyHoldsTheSameEntriesAndIsIndependent) {
     CMenuIdMgr::s_pMenuMgr = copy;
     EXPECT_EQ(IdOf(L"K"), 41000);
     std::wstring text;
+    EXPECT_TRUE(Registry().GetMenuName(L"K", text));
+    EXPECT_EQ(text, L"name");
     EXPECT_TRUE(Registry().GetCmd(41000, text));
     EXPECT_EQ(text, L"cmd");
     EXPECT_EQ(IdOf(L"later"), -7);
+}
+
+TEST_F(CommandRegistry, AssignmentReplacesEveryEntry) {
+    Registry().Add(L"K", 41000, L"name", L"cmd", L"tip", L"param", L"help");
+    auto* const other = new CMenuIdMgr(Registry());
+    AddNamed(L"later", 41001);
+    Registry() = *other;
+    EXPECT_EQ(IdOf(L"K"), 41000);
+    EXPECT_EQ(IdOf(L"later"), -7);
+    EXPECT_EQ(MarkOf(41001), L"(none)");
+    CMenuIdMgr::Destroy();
+    CMenuIdMgr::s_pMenuMgr = other;
 }
 
 TEST_F(CommandRegistry, HolderOfTheLockMayCallEveryOperation) {
@@ -263,26 +310,72 @@ TEST_F(CommandRegistry, HolderOfTheLockMayCallEveryOperation) {
     EXPECT_EQ(IdOf(L"K"), -7);
 }
 
-TEST_F(CommandRegistry, OperationsWaitForTheHolderOfTheLock) {
+struct LockedOperation {
+    const char* what;
+    void (*run)(CMenuIdMgr& registry);
+};
+
+/// Each on an instance that is at hand already: asking Ins() for it would wait as well.
+const LockedOperation lockedOperations[] = {
+    {"Add", [](CMenuIdMgr& r) { r.Add(L"L", 41001, L"", L"", L"", L"", L""); }},
+    {"GetMenuId",
+     [](CMenuIdMgr& r) {
+         int id = 0;
+         r.GetMenuId(L"K", id);
+     }},
+    {"GetMenuName",
+     [](CMenuIdMgr& r) {
+         std::wstring text;
+         r.GetMenuName(L"K", text);
+     }},
+    {"GetMenuMark",
+     [](CMenuIdMgr& r) {
+         std::wstring text;
+         r.GetMenuMark(41000, text);
+     }},
+    {"Ins", [](CMenuIdMgr&) { CMenuIdMgr::Ins(); }},
+    {"Destroy", [](CMenuIdMgr&) { CMenuIdMgr::Destroy(); }},
+};
+
+TEST_F(CommandRegistry, EveryOperationWaitsForTheHolderOfTheLock) {
+    for (const LockedOperation& operation : lockedOperations) {
+        AddNamed(L"K", 41000);
+        CMenuIdMgr* const registry = CMenuIdMgr::Ins();
+        EXPECT_FALSE(FinishesWhileTheLockIsHeld([&] { operation.run(*registry); }, briefly)) << operation.what;
+    }
     AddNamed(L"K", 41000);
-    std::atomic<bool> answered = false;
-    std::thread asker;
+    CMenuIdMgr* const registry = CMenuIdMgr::Ins();
+    for (const Query& query : textQueries) {
+        std::wstring text;
+        EXPECT_FALSE(FinishesWhileTheLockIsHeld([&] { query.ask(*registry, 41000, text); }, briefly)) << query.what;
+    }
+}
+
+/// The instance, looked at without waiting for the thread that may be making it.
+#if defined(__SANITIZE_THREAD__)
+[[gnu::no_sanitize("thread")]]
+#endif
+CMenuIdMgr*
+InstanceSeenWithoutTheLock() {
+    return *const_cast<CMenuIdMgr* volatile*>(&CMenuIdMgr::s_pMenuMgr);
+}
+
+TEST_F(CommandRegistry, InsMakesTheInstanceBeforeItTakesTheLock) {
+    std::atomic<bool> returned = false;
+    std::thread first;
     {
         xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
-        std::atomic<bool> started = false;
-        asker = std::thread([&] {
-            started = true;
-            EXPECT_EQ(IdOf(L"K"), 41000);
-            answered = true;
+        first = std::thread([&returned] {
+            CMenuIdMgr::Ins();
+            returned = true;
         });
-        while (!started)
+        for (int i = 0; i < patiently && !InstanceSeenWithoutTheLock(); ++i)
             std::this_thread::yield();
-        for (int i = 0; i < 1000; ++i)
-            std::this_thread::yield();
-        EXPECT_FALSE(answered);
+        EXPECT_NE(InstanceSeenWithoutTheLock(), nullptr);
+        EXPECT_FALSE(returned);
     }
-    asker.join();
-    EXPECT_TRUE(answered);
+    first.join();
+    EXPECT_TRUE(returned);
 }
 
 TEST_F(CommandRegistry, ThreadsMayAddAndAskAtOnce) {

@@ -59,6 +59,26 @@ TEST(RibbonInfoRecord, NewRecordIsEmpty) {
     EXPECT_FALSE(info.cateTab);
 }
 
+TEST(RibbonInfoRecord, FieldsStandInTheirOrder) {
+    const RibbonInfo info{true,   L"name",  L"type", L"tip", L"key", L"pic", L"dis", 16,
+                          L"cmd", L"param", L"help", false,  true,   {L"a"}, 50};
+    EXPECT_TRUE(info.groupBefore);
+    EXPECT_EQ(info.name, L"name");
+    EXPECT_EQ(info.type, L"type");
+    EXPECT_EQ(info.tooltip, L"tip");
+    EXPECT_EQ(info.keyword, L"key");
+    EXPECT_EQ(info.picPath, L"pic");
+    EXPECT_EQ(info.picDisPath, L"dis");
+    EXPECT_EQ(info.size, 16);
+    EXPECT_EQ(info.cmd, L"cmd");
+    EXPECT_EQ(info.param, L"param");
+    EXPECT_EQ(info.help, L"help");
+    EXPECT_FALSE(info.acceptF1);
+    EXPECT_TRUE(info.cateTab);
+    EXPECT_EQ(info.valueGroup, std::vector<std::wstring>{L"a"});
+    EXPECT_EQ(info.width, 50);
+}
+
 TEST_F(RibbonElementAttributes, TextsAreTakenAsWritten) {
     const RibbonInfo info = InfoOf(R"(KEYWORD=" A b " TYPE="Button" PICPATH="pic\a.ico" PICDisPATH="pic\d.ico" )"
                                    R"(CMD="do &lt;it&gt;" PARAM="p &amp; q" help="h.swf")");

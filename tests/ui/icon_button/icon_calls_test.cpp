@@ -1,0 +1,206 @@
+// What the icon-file button asks of the system: which files it loads at which size, what it releases, how it draws.
+
+#include "elements/icon_file.h"
+#include "ribbon_icon_button.h"
+#include "tests/support/canvas.h"
+#include "tests/support/icon_writer.h"
+#include "tests/support/import_spy.h"
+#include "tests/support/temporary_directory.h"
+#include "tests/support/ui_test.h"
+
+#include <afxglobals.h>
+
+#include <algorithm>
+
+extern "C" {
+extern void* __imp_DrawIconEx;
+extern void* __imp_LoadImageW;
+extern void* __imp_DestroyIcon;
+}
+
+namespace {
+
+struct Drawn {
+    int x;
+    int y;
+    HICON icon;
+    int width;
+    int height;
+    UINT flags;
+};
+
+struct Loaded {
+    std::wstring path;
+    UINT type;
+    int width;
+    int height;
+    UINT flags;
+    HANDLE icon;
+};
+
+std::vector<Drawn> g_drawn;
+std::vector<Loaded> g_loaded;
+std::vector<HANDLE> g_released;
+decltype(&::LoadImageW) g_loadImage = nullptr;
+decltype(&::DestroyIcon) g_destroyIcon = nullptr;
+
+BOOL WINAPI KeepDrawn(HDC, int x, int y, HICON icon, int width, int height, UINT, HBRUSH, UINT flags) {
+    g_drawn.push_back({x, y, icon, width, height, flags});
+    return TRUE;
+}
+
+HANDLE WINAPI KeepLoaded(HINSTANCE instance, LPCWSTR name, UINT type, int width, int height, UINT flags) {
+    const HANDLE icon = g_loadImage(instance, name, type, width, height, flags);
+    g_loaded.push_back({name, type, width, height, flags, icon});
+    return icon;
+}
+
+BOOL WINAPI KeepReleased(HICON icon) {
+    g_released.push_back(icon);
+    return g_destroyIcon(icon);
+}
+
+class IconCalls : public testing::Test {
+protected:
+    IconCalls() {
+        g_loadImage = m_loads.GetOriginal();
+        g_destroyIcon = m_releases.GetOriginal();
+        m_large = m_directory.Write("modle/large.ico", MakeIconFile(32, {0xFF0000, 0xFF0000})).c_str();
+        m_small = m_directory.Write("modle/small.ico", MakeIconFile(16, {0x00FF00, 0x00FF00})).c_str();
+        m_directory.Write("modle_0/large.ico", MakeIconFile(32, {0x0000FF, 0x0000FF}));
+        Forget();
+    }
+    ~IconCalls() override {
+        CMFCRibbonUNIcoButton::SetSkinStyle(CString());
+        afxGlobalData.SetRibbonImageScale(1.0);
+        Forget();
+    }
+
+    static void Forget() {
+        g_drawn.clear();
+        g_loaded.clear();
+        g_released.clear();
+    }
+    /// The only picture of one draw at (10, 20).
+    Drawn Draw(CMFCRibbonUNIcoButton& button, CMFCRibbonBaseElement::RibbonImageType type) {
+        Forget();
+        button.DrawImage(m_canvas.Dc(), type, CRect(10, 20, 64, 64));
+        EXPECT_EQ(g_drawn.size(), 1u);
+        return g_drawn.empty() ? Drawn{} : g_drawn.front();
+    }
+    /// Every icon that was loaded was released, once, and nothing else was.
+    static void ExpectLoadsReleased() {
+        std::vector<HANDLE> loaded;
+        for (const Loaded& load : g_loaded) {
+            if (load.icon)
+                loaded.push_back(load.icon);
+        }
+        std::sort(loaded.begin(), loaded.end());
+        std::vector<HANDLE> released = g_released;
+        std::sort(released.begin(), released.end());
+        EXPECT_EQ(loaded, released);
+    }
+
+    static constexpr auto Large = CMFCRibbonBaseElement::RibbonImageLarge;
+    static constexpr auto Small = CMFCRibbonBaseElement::RibbonImageSmall;
+
+    const ImportSpy<decltype(::DrawIconEx)> m_draws{__imp_DrawIconEx, &KeepDrawn};
+    const ImportSpy<decltype(::LoadImageW)> m_loads{__imp_LoadImageW, &KeepLoaded};
+    const ImportSpy<decltype(::DestroyIcon)> m_releases{__imp_DestroyIcon, &KeepReleased};
+    TemporaryDirectory m_directory;
+    CString m_large;
+    CString m_small;
+    Canvas m_canvas;
+};
+
+TEST_F(IconCalls, EnabledPictureIsDrawnAtTheCornerInItsOwnSize) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    const Drawn large = Draw(button, Large);
+    EXPECT_EQ(CPoint(large.x, large.y), CPoint(10, 20));
+    EXPECT_EQ(CSize(large.width, large.height), CSize(32, 32));
+    EXPECT_EQ(large.icon, g_loaded.at(0).icon);
+    const Drawn small = Draw(button, Small);
+    EXPECT_EQ(CSize(small.width, small.height), CSize(16, 16));
+    EXPECT_EQ(small.icon, g_loaded.at(1).icon);
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
+    EXPECT_EQ(Draw(button, Large).width, 48);
+    EXPECT_EQ(Draw(button, Small).height, 24);
+}
+
+TEST_F(IconCalls, PictureIsNotMirroredInARightToLeftParent) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    EXPECT_EQ(Draw(button, Large).flags, static_cast<UINT>(DI_NORMAL)) << "without a parent";
+    TestWindow window;
+    button.SetParentWnd(&window);
+    EXPECT_EQ(Draw(button, Large).flags, static_cast<UINT>(DI_NORMAL)) << "left to right";
+    window.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    EXPECT_EQ(Draw(button, Large).flags, static_cast<UINT>(DI_NORMAL | DI_NOMIRROR));
+    EXPECT_EQ(Draw(button, Small).flags, static_cast<UINT>(DI_NORMAL | DI_NOMIRROR));
+}
+
+TEST_F(IconCalls, DisabledPictureIsNotDrawnAsAnIcon) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    button.SetDisabled(TRUE);
+    for (const auto type : {Large, Small}) {
+        m_canvas.Clear();
+        button.DrawImage(m_canvas.Dc(), type, CRect(10, 20, 64, 64));
+        EXPECT_NE(m_canvas.Extent(), CSize(0, 0));
+    }
+    EXPECT_TRUE(g_drawn.empty());
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, EachDrawLoadsBothFilesInTheirSizesAndReleasesThem) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    for (const auto type : {Large, Small}) {
+        Draw(button, type);
+        ASSERT_EQ(g_loaded.size(), 2u);
+        EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+        EXPECT_EQ(CSize(g_loaded[0].width, g_loaded[0].height), CSize(32, 32));
+        EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+        EXPECT_EQ(CSize(g_loaded[1].width, g_loaded[1].height), CSize(16, 16));
+        for (const Loaded& load : g_loaded) {
+            EXPECT_EQ(load.type, static_cast<UINT>(IMAGE_ICON));
+            EXPECT_EQ(load.flags, static_cast<UINT>(LR_LOADFROMFILE));
+            EXPECT_NE(load.icon, nullptr);
+        }
+        ExpectLoadsReleased();
+    }
+}
+
+TEST_F(IconCalls, EmptyPathIsNotLoaded) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large);
+    Draw(button, Small);
+    ASSERT_EQ(g_loaded.size(), 1u);
+    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, MissingAlternateFileIsSkippedAndTheOtherIsReleased) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(Draw(button, Small).icon, g_loaded.at(0).icon) << "there is no small alternate file";
+    EXPECT_EQ(g_loaded.at(1).icon, nullptr);
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, SmallIconIsReleasedWhereTheLargeOneCannotBeLoaded) {
+    CMFCRibbonUNIcoButton button(1, L"", m_large + L".missing", FALSE, m_small);
+    Forget();
+    button.DrawImage(m_canvas.Dc(), Small, CRect(10, 20, 64, 64));
+    EXPECT_EQ(g_released.size(), 1u);
+    EXPECT_TRUE(g_drawn.empty());
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, ConstructorTriesEachFileInItsSizeAndReleasesIt) {
+    const CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    ASSERT_EQ(g_loaded.size(), 2u);
+    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+    EXPECT_EQ(g_loaded[0].width, 32);
+    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+    EXPECT_EQ(g_loaded[1].width, 16);
+    ExpectLoadsReleased();
+}
+
+} // namespace
