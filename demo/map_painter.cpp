@@ -60,6 +60,16 @@ struct Canvas {
     REAL Scaled(double pixels) const { return static_cast<REAL>(pixels * style.scale); }
 };
 
+Canvas MakeCanvas(Graphics& graphics, const MapState& state, const MapPaintStyle& style) {
+    const GeoPoint northWest = state.ToPlace(0, 0);
+    const GeoPoint southEast = state.ToPlace(state.WindowWidth(), state.WindowHeight());
+    return {graphics,
+            state,
+            style,
+            kColors[static_cast<std::size_t>(state.Palette())],
+            {northWest.longitude, southEast.latitude, southEast.longitude, northWest.latitude}};
+}
+
 void AddRing(const Canvas& canvas, const GeoRing& ring, std::vector<PointF>& points) {
     points.clear();
     for (const GeoPoint& place : ring.points) {
@@ -88,6 +98,28 @@ void DrawRings(const Canvas& canvas, const std::vector<GeoRing>& rings, const Co
     }
 }
 
+/// Remembers where texts stand, so that none is written over another.
+class TextPlaces {
+public:
+    /// True, and the place is taken, when nothing stands there yet.
+    bool Take(const RectF& place) {
+        const auto covers = [&place](const RectF& other) { return other.IntersectsWith(place) != FALSE; };
+        if (std::any_of(m_taken.begin(), m_taken.end(), covers))
+            return false;
+        m_taken.push_back(place);
+        return true;
+    }
+
+private:
+    std::vector<RectF> m_taken;
+};
+
+RectF PlaceOfText(const Canvas& canvas, const Gdiplus::Font& font, const std::wstring& text, PointF at) {
+    RectF place;
+    canvas.graphics.MeasureString(text.c_str(), static_cast<INT>(text.size()), &font, at, &place);
+    return place;
+}
+
 void DrawHaloText(const Canvas& canvas, const Gdiplus::Font& font, const std::wstring& text, PointF at) {
     Gdiplus::SolidBrush halo(canvas.colors.halo);
     Gdiplus::SolidBrush ink(canvas.colors.text);
@@ -107,25 +139,41 @@ std::wstring DegreeText(int degrees, wchar_t positive, wchar_t negative) {
     return result;
 }
 
-void DrawGraticule(const Canvas& canvas, const Gdiplus::Font& font) {
+void DrawGraticuleLines(const Canvas& canvas) {
     Gdiplus::Pen pen(canvas.colors.graticule, canvas.Scaled(1));
     const int spacing = canvas.state.GraticuleSpacing();
     const PointF northWest = canvas.At({-180, 90});
     const PointF southEast = canvas.At({180, -90});
-    const REAL top = std::max(northWest.Y, REAL(0));
-    const REAL left = std::max(northWest.X, REAL(0));
     for (int longitude = -180; longitude <= 180; longitude += spacing) {
         const REAL x = canvas.At({static_cast<double>(longitude), 0}).X;
         canvas.graphics.DrawLine(&pen, x, northWest.Y, x, southEast.Y);
-        if (longitude < 180)
-            DrawHaloText(canvas, font, DegreeText(longitude, L'E', L'W'), PointF(x + canvas.Scaled(2), top));
     }
     const int first = 90 / spacing * spacing;
     for (int latitude = -first; latitude <= first; latitude += spacing) {
         const REAL y = canvas.At({0, static_cast<double>(latitude)}).Y;
         canvas.graphics.DrawLine(&pen, northWest.X, y, southEast.X, y);
-        if (latitude < 90 && y - top > canvas.Scaled(14))
-            DrawHaloText(canvas, font, DegreeText(latitude, L'N', L'S'), PointF(left + canvas.Scaled(2), y));
+    }
+}
+
+/// Numbers along the upper and the left edge of what is seen; those without room are left out.
+void DrawGraticuleNumbers(const Canvas& canvas, const Gdiplus::Font& font, TextPlaces& places) {
+    const int spacing = canvas.state.GraticuleSpacing();
+    const PointF northWest = canvas.At({-180, 90});
+    const REAL top = std::max(northWest.Y, REAL(0));
+    const REAL left = std::max(northWest.X, REAL(0));
+    const auto write = [&](const std::wstring& text, PointF at) {
+        if (places.Take(PlaceOfText(canvas, font, text, at)))
+            DrawHaloText(canvas, font, text, at);
+    };
+    for (int longitude = -180; longitude < 180; longitude += spacing) {
+        const REAL x = canvas.At({static_cast<double>(longitude), 0}).X;
+        write(DegreeText(longitude, L'E', L'W'), PointF(x + canvas.Scaled(2), top));
+    }
+    const int first = 90 / spacing * spacing;
+    for (int latitude = first; latitude >= -first; latitude -= spacing) {
+        const REAL y = canvas.At({0, static_cast<double>(latitude)}).Y;
+        if (y >= top)
+            write(DegreeText(latitude, L'N', L'S'), PointF(left + canvas.Scaled(2), y));
     }
 }
 
@@ -134,22 +182,41 @@ int LargestRank(double pixelsPerDegree, double scale) {
     return detail < 3 ? 1 : detail < 7 ? 2 : 3;
 }
 
-void DrawCities(const Canvas& canvas, const std::vector<City>& cities, const Gdiplus::Font& font) {
+template <class Draw>
+void ForEachShownCity(const Canvas& canvas, const std::vector<City>& cities, Draw draw) {
+    const int largest = LargestRank(canvas.state.View().pixelsPerDegree, canvas.style.scale);
+    // The important ones first: they get the room for their names.
+    for (int rank = 1; rank <= largest; ++rank)
+        for (const City& city : cities)
+            if (city.rank == rank &&
+                canvas.Sees({city.place.longitude, city.place.latitude, city.place.longitude, city.place.latitude}))
+                draw(city, canvas.At(city.place), canvas.Scaled(rank == 1 ? 3.5 : 2.5));
+}
+
+void DrawCities(const Canvas& canvas, const std::vector<City>& cities) {
     Gdiplus::SolidBrush dot(canvas.colors.city);
-    Gdiplus::Pen rim(canvas.colors.halo, canvas.Scaled(1.2));
-    const int rank = LargestRank(canvas.state.View().pixelsPerDegree, canvas.style.scale);
-    for (const City& city : cities) {
-        if (city.rank > rank)
-            continue;
-        const PointF at = canvas.At(city.place);
-        const REAL radius = canvas.Scaled(city.rank == 1 ? 3.5 : 2.5);
-        const RectF circle(at.X - radius, at.Y - radius, 2 * radius, 2 * radius);
-        canvas.graphics.DrawEllipse(&rim, circle);
-        canvas.graphics.FillEllipse(&dot, circle);
-        if (canvas.state.IsShown(MapLayer::Names))
-            DrawHaloText(canvas, font, canvas.style.chineseNames ? city.chinese : city.english,
-                         PointF(at.X + radius, at.Y - canvas.Scaled(8)));
-    }
+    Gdiplus::SolidBrush rim(canvas.colors.halo);
+    ForEachShownCity(canvas, cities, [&](const City&, PointF at, REAL radius) {
+        const REAL outer = radius + canvas.Scaled(1.2);
+        canvas.graphics.FillEllipse(&rim, RectF(at.X - outer, at.Y - outer, 2 * outer, 2 * outer));
+        canvas.graphics.FillEllipse(&dot, RectF(at.X - radius, at.Y - radius, 2 * radius, 2 * radius));
+    });
+}
+
+void DrawCityNames(const Canvas& canvas, const std::vector<City>& cities, const Gdiplus::Font& font,
+                   TextPlaces& places) {
+    ForEachShownCity(canvas, cities, [&](const City& city, PointF at, REAL radius) {
+        const std::wstring& name = canvas.style.chineseNames ? city.chinese : city.english;
+        const RectF size = PlaceOfText(canvas, font, name, at);
+        const REAL y = at.Y - size.Height / 2;
+        // Right of the dot, or left of it where that is taken.
+        for (const REAL x : {at.X + radius, at.X - radius - size.Width}) {
+            if (places.Take(RectF(x, y, size.Width, size.Height))) {
+                DrawHaloText(canvas, font, name, PointF(x, y));
+                return;
+            }
+        }
+    });
 }
 
 /// The roundest length, 1, 2 or 5 times a power of ten, that is no longer than `limit`.
@@ -185,6 +252,69 @@ void DrawScaleBar(const Canvas& canvas, const Gdiplus::Font& font) {
                  PointF(left + canvas.Scaled(4), bottom - canvas.Scaled(22)));
 }
 
+/// A picture twice as wide and high as what it is averaged down to: smooth edges wherever the lines are drawn.
+class FineSurface {
+public:
+    FineSurface(int width, int height) : m_width(width), m_height(height), m_dc(::CreateCompatibleDC(nullptr)) {
+        BITMAPINFO info = {};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = 2 * width;
+        info.bmiHeader.biHeight = -2 * height;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        void* bits = nullptr;
+        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        m_fine = static_cast<DWORD*>(bits);
+        m_earlier = ::SelectObject(m_dc, m_bitmap);
+    }
+    ~FineSurface() {
+        ::SelectObject(m_dc, m_earlier);
+        ::DeleteObject(m_bitmap);
+        ::DeleteDC(m_dc);
+    }
+    FineSurface(const FineSurface&) = delete;
+    FineSurface& operator=(const FineSurface&) = delete;
+
+    bool IsUsable() const { return m_fine != nullptr; }
+    HDC Dc() const { return m_dc; }
+
+    void AverageTo(HDC target) {
+        ::GdiFlush();
+        std::vector<DWORD> pixels(static_cast<std::size_t>(m_width) * m_height);
+        const std::size_t stride = 2 * static_cast<std::size_t>(m_width);
+        for (int y = 0; y < m_height; ++y) {
+            const DWORD* upper = m_fine + 2 * y * stride;
+            const DWORD* lower = upper + stride;
+            DWORD* out = pixels.data() + static_cast<std::size_t>(y) * m_width;
+            for (int x = 0; x < m_width; ++x, upper += 2, lower += 2)
+                out[x] = Average(upper[0], upper[1], lower[0], lower[1]);
+        }
+        BITMAPINFO info = {};
+        info.bmiHeader.biSize = sizeof info.bmiHeader;
+        info.bmiHeader.biWidth = m_width;
+        info.bmiHeader.biHeight = -m_height;
+        info.bmiHeader.biPlanes = 1;
+        info.bmiHeader.biBitCount = 32;
+        ::SetDIBitsToDevice(target, 0, 0, m_width, m_height, 0, 0, 0, m_height, pixels.data(), &info, DIB_RGB_COLORS);
+    }
+
+private:
+    /// Of each colour on its own: two colours at a time, with eight free bits above each.
+    static DWORD Average(DWORD a, DWORD b, DWORD c, DWORD d) {
+        constexpr DWORD kEven = 0x00FF00FF;
+        const DWORD even = (a & kEven) + (b & kEven) + (c & kEven) + (d & kEven);
+        const DWORD odd = ((a >> 8) & kEven) + ((b >> 8) & kEven) + ((c >> 8) & kEven) + ((d >> 8) & kEven);
+        return (even >> 2 & kEven) | ((odd >> 2 & kEven) << 8);
+    }
+
+    int m_width;
+    int m_height;
+    HDC m_dc;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_earlier = nullptr;
+    DWORD* m_fine = nullptr;
+};
+
 } // namespace
 
 struct MapPainter::Relief {
@@ -196,48 +326,64 @@ MapPainter::MapPainter(const MapData& data) : m_data(data) {}
 
 MapPainter::~MapPainter() = default;
 
-void MapPainter::Paint(HDC dc, const MapState& state, const MapPaintStyle& style) {
-    Graphics graphics(dc);
-    const Colors& colors = kColors[static_cast<std::size_t>(state.Palette())];
-    const GeoPoint northWest = state.ToPlace(0, 0);
-    const GeoPoint southEast = state.ToPlace(state.WindowWidth(), state.WindowHeight());
-    const Canvas canvas{graphics,
-                        state,
-                        style,
-                        colors,
-                        {northWest.longitude, southEast.latitude, southEast.longitude, northWest.latitude}};
-    graphics.Clear(colors.sea);
+bool MapPainter::PaintRelief(Gdiplus::Graphics& graphics, const Gdiplus::RectF& world) {
+    if (!m_relief)
+        m_relief = std::make_unique<Relief>(m_data.reliefFile);
+    graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
+    graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
+    const bool isDrawn = graphics.DrawImage(&m_relief->image, world) == Gdiplus::Ok;
+    graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeDefault);
+    return isDrawn;
+}
 
-    bool hasRelief = false;
+void MapPainter::PaintShapes(HDC dc, const MapState& state, const MapPaintStyle& style) {
+    Graphics graphics(dc);
+    const Canvas canvas = MakeCanvas(graphics, state, style);
+    graphics.Clear(canvas.colors.sea);
     const PointF corner = canvas.At({-180, 90});
     const PointF opposite = canvas.At({180, -90});
     const RectF world(corner.X, corner.Y, opposite.X - corner.X, opposite.Y - corner.Y);
-    if (state.IsShown(MapLayer::Relief)) {
-        if (!m_relief)
-            m_relief = std::make_unique<Relief>(m_data.reliefFile);
-        graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
-        graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
-        hasRelief = graphics.DrawImage(&m_relief->image, world) == Gdiplus::Ok;
-        if (hasRelief && colors.reliefVeil > 0) {
-            Gdiplus::SolidBrush veil(Color(colors.reliefVeil, colors.sea.GetR(), colors.sea.GetG(), colors.sea.GetB()));
-            graphics.FillRectangle(&veil, world);
-        }
-        graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeDefault);
+    const bool hasRelief = state.IsShown(MapLayer::Relief) && PaintRelief(graphics, world);
+    if (hasRelief && canvas.colors.reliefVeil > 0) {
+        const Color& sea = canvas.colors.sea;
+        Gdiplus::SolidBrush veil(Color(canvas.colors.reliefVeil, sea.GetR(), sea.GetG(), sea.GetB()));
+        graphics.FillRectangle(&veil, world);
     }
-
     graphics.SetSmoothingMode(state.IsSmooth() ? Gdiplus::SmoothingModeAntiAlias : Gdiplus::SmoothingModeNone);
+    if (state.IsShown(MapLayer::Coast))
+        DrawRings(canvas, m_data.coast, hasRelief ? nullptr : &canvas.colors.land, canvas.colors.coast, 1);
+    if (state.IsShown(MapLayer::Lakes))
+        DrawRings(canvas, m_data.lakes, &canvas.colors.lake, canvas.colors.lakeShore, 0.7);
+    if (state.IsShown(MapLayer::Graticule))
+        DrawGraticuleLines(canvas);
+    if (state.IsShown(MapLayer::Cities))
+        DrawCities(canvas, m_data.cities);
+}
+
+void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& style) {
+    Graphics graphics(dc);
+    const Canvas canvas = MakeCanvas(graphics, state, style);
     graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAliasGridFit);
     const Gdiplus::FontFamily family(style.chineseNames ? L"Microsoft YaHei UI" : L"Segoe UI");
     const Gdiplus::Font small(&family, canvas.Scaled(11), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font normal(&family, canvas.Scaled(12), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
-
-    if (state.IsShown(MapLayer::Coast))
-        DrawRings(canvas, m_data.coast, hasRelief ? nullptr : &colors.land, colors.coast, 1);
-    if (state.IsShown(MapLayer::Lakes))
-        DrawRings(canvas, m_data.lakes, &colors.lake, colors.lakeShore, 0.7);
+    TextPlaces places;
     if (state.IsShown(MapLayer::Graticule))
-        DrawGraticule(canvas, small);
-    if (state.IsShown(MapLayer::Cities))
-        DrawCities(canvas, m_data.cities, normal);
+        DrawGraticuleNumbers(canvas, small, places);
+    if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names))
+        DrawCityNames(canvas, m_data.cities, normal, places);
     DrawScaleBar(canvas, normal);
+}
+
+void MapPainter::Paint(HDC dc, const MapState& state, const MapPaintStyle& style) {
+    FineSurface fine(state.IsSmooth() ? state.WindowWidth() : 0, state.WindowHeight());
+    if (fine.IsUsable()) {
+        MapPaintStyle doubled = style;
+        doubled.scale *= 2;
+        PaintShapes(fine.Dc(), state.Enlarged(2), doubled);
+        fine.AverageTo(dc);
+    } else {
+        PaintShapes(dc, state, style);
+    }
+    PaintTexts(dc, state, style);
 }

@@ -7,6 +7,11 @@
 
 #include <memory>
 
+namespace Gdiplus {
+class Graphics;
+class RectF;
+} // namespace Gdiplus
+
 /// What the painter needs beside state and data.
 struct MapPaintStyle {
     double scale = 1;          ///< Screen pixels per pixel at 96 DPI; lines and texts grow with it.
@@ -27,6 +32,10 @@ public:
 
 private:
     struct Relief;
+
+    void PaintShapes(HDC dc, const MapState& state, const MapPaintStyle& style);
+    void PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& style);
+    bool PaintRelief(Gdiplus::Graphics& graphics, const Gdiplus::RectF& world);
 
     const MapData& m_data;
     std::unique_ptr<Relief> m_relief;

@@ -190,6 +190,14 @@ GeoPoint MapState::ToPlace(double x, double y) const {
             m_view.center.latitude - (y - m_height / 2.0) / m_view.pixelsPerDegree};
 }
 
+MapState MapState::Enlarged(int factor) const {
+    MapState enlarged = *this;
+    enlarged.m_width *= factor;
+    enlarged.m_height *= factor;
+    enlarged.m_view.pixelsPerDegree *= factor;
+    return enlarged;
+}
+
 std::optional<GeoBox> ParseBox(const std::wstring& text) {
     const auto numbers = ParseNumbers(text, 4);
     if (!numbers)

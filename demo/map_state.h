@@ -81,6 +81,9 @@ public:
     void ToWindow(GeoPoint place, double& x, double& y) const;
     GeoPoint ToPlace(double x, double y) const;
 
+    /// The same view in a window that is `factor` times as wide and high.
+    MapState Enlarged(int factor) const;
+
     /// Rises with every change that shows.
     unsigned Version() const noexcept { return m_version; }
 

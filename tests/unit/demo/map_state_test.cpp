@@ -98,6 +98,18 @@ TEST(MapState, WindowAndPlaceAreInverse) {
     EXPECT_NEAR(place.latitude, 31.23, 1e-9);
 }
 
+TEST(MapState, AnEnlargedStateShowsTheSamePlaceAtTheEnlargedPosition) {
+    MapState state = MakeState();
+    state.Show({73, 15, 146, 54});
+    const MapState enlarged = state.Enlarged(2);
+    const GeoPoint place = state.ToPlace(100, 40);
+    double x = 0;
+    double y = 0;
+    enlarged.ToWindow(place, x, y);
+    EXPECT_NEAR(x, 200, 1e-6);
+    EXPECT_NEAR(y, 80, 1e-6);
+}
+
 TEST(ParseNumbers, TakesWholeTextsOnly) {
     EXPECT_TRUE(ParseBox(L"73,15,146,54"));
     EXPECT_DOUBLE_EQ(ParseBox(L"-12, 34,42 ,71.5")->north, 71.5);
