@@ -142,10 +142,10 @@ public:
     }
 
     int ExitInstance() override {
-        const int code = CWinAppEx::ExitInstance();
+        CWinAppEx::ExitInstance();
         m_answer.reset();
         m_gdiPlus.reset();
-        return m_exitCode ? m_exitCode : code;
+        return m_exitCode;
     }
 
 private:

@@ -1,0 +1,120 @@
+"""What a ribbon file and the language tables must build, worked out from the files alone."""
+import os
+import xml.etree.ElementTree as xml
+
+F1_HINT = "按F1键获得此功能视频"
+FIRST_ID = 41000
+XLIFF = "{urn:oasis:names:tc:xliff:document:2.0}"
+
+
+def read_texts(folder, section="RibbonBarCfg"):
+    texts = {}
+    for name in sorted(os.listdir(folder)):
+        for file in xml.parse(os.path.join(folder, name)).getroot().iter(XLIFF + "file"):
+            if file.get("id") != section:
+                continue
+            for unit in file.iter(XLIFF + "unit"):
+                source, target = unit.find(f".//{XLIFF}source"), unit.find(f".//{XLIFF}target")
+                texts[unit.get("name")] = (target.text if target is not None else None) or source.text
+    return texts
+
+
+class Expectation:
+    """Registry and ribbon that a file builds in a process that has built nothing before."""
+
+    def __init__(self, ribbon_file, language_folder):
+        self._texts = read_texts(language_folder)
+        self.registry = {}
+        self.commands = []
+        self.next_id = FIRST_ID
+        self.categories = []
+        quick_access = []
+        for row in xml.parse(ribbon_file).getroot():
+            if row.get("KEYWORD") == "QK_Rbbion_QAToolbar":
+                quick_access += [item.get("KEYWORD") for item in row]
+            elif row.get("KEYWORD") != "StatusEx_btns":
+                self.categories += [self._category(node) for node in row]
+        self.quick_access = [self.registry[k]["id"] for k in quick_access if k in self.registry]
+
+    def _record(self, node, before=None):
+        record = {"keyword": "", "name": "", "tooltip": "", "type": "", "size": 0, "help": "", "acceptF1": True,
+                  "cateTab": False, "groupBefore": False,
+                  "cmd": before["cmd"] if before else "", "param": before["param"] if before else ""}
+        for name, value in node.attrib.items():
+            name = name.upper()
+            record["groupBefore"] = False
+            if name in ("KEYWORD", "IDKEY"):
+                record["keyword"] = value
+            elif name == "NAME":
+                record["name"] = self._texts.get(record["keyword"], record["keyword"])
+            elif name == "TOOLTIP":
+                record["tooltip"] = self._texts.get(record["keyword"] + ".tooltip", "")
+            elif name in ("TYPE", "CMD", "PARAM", "HELP"):
+                record[name.lower()] = value
+            elif name == "SIZE":
+                record["size"] = int(value)
+            elif name == "GROUPBEFORE":
+                record["groupBefore"] = value.upper() == "Y"
+            elif name == "ACCEPTF1" and value.upper() == "N":
+                record["acceptF1"] = False
+            elif name == "CATETAB":
+                record["cateTab"] = value.upper() == "Y"
+        if not record["help"] and record["acceptF1"]:
+            record["help"] = record["name"] + ".swf"
+        self.commands.append(record["cmd"])
+        return record
+
+    def _id(self, record):
+        known = self.registry.get(record["keyword"])
+        if known:
+            return known["id"]
+        taken, self.next_id = self.next_id, self.next_id + 1
+        if record["keyword"]:
+            self.registry[record["keyword"]] = {"id": taken, **{k: record[k] for k in ("keyword", "name", "tooltip", "cmd", "param", "help")}}
+        return taken
+
+    def _category(self, node):
+        record = self._record(node)
+        category = {"name": record["name"], "class": "CMFCRibbonCategory", "panels": []}
+        if not record["cateTab"]:
+            category["class"] = "CMFCRibbonCategoryEx"
+            category["id"] = self._id(record)
+        for child in node:
+            record = self._record(child, record)
+            panel = {"name": record["name"], "elements": []}
+            for element in child:
+                self._add(element, panel["elements"])
+            category["panels"].append(panel)
+        return category
+
+    def _add(self, node, elements):
+        record = self._record(node)
+        identity = self._id(record)
+        # The framework adds no separator to an empty panel.
+        if record["groupBefore"] and elements:
+            elements.append({"class": "CMFCRibbonSeparator", "id": 0, "text": ""})
+        if record["type"].upper() == "GROUP":
+            children = []
+            for child in node:
+                record = self._record(child, record)
+                children.append(self._element(self._id(record), record))
+            elements.append({"class": "CMFCRibbonButtonsGroup", "id": 0, "text": "", "children": children})
+        else:
+            elements.append(self._element(identity, record))
+
+    @staticmethod
+    def _element(identity, record):
+        kind = record["type"].upper()
+        if kind == "BUTTON":
+            return {"class": "CMFCRibbonSmallButton" if record["size"] == 16 else "CMFCRibbonUNIcoButton", "id": identity,
+                    "text": record["name"], "tooltip": record["tooltip"] or None,
+                    "description": F1_HINT if record["acceptF1"] else ""}
+        classes = {"SLIDER": "CMFCRibbonSlider", "LABEL": "CMFCRibbonLabel", "EDIT": "CMFCRibbonEdit"}
+        element = {"class": classes[kind], "id": identity, "description": ""}
+        if kind == "SLIDER":
+            element.update(text=record["name"], tooltip=record["tooltip"])
+        elif kind == "LABEL":
+            element.update(text=record["name"])
+        else:
+            element.update(tooltip=record["tooltip"])
+        return element

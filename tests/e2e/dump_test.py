@@ -1,0 +1,103 @@
+#!/usr/bin/python3
+"""barview's dump of the demo's configuration, element by element, beside what the files say.
+
+usage: dump_test.py BIN_DIR [TEST...]
+"""
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from configuration import Expectation
+from viewer import ROOT
+
+BIN_DIR = ""
+DUMP_KEYS = ["nextCommandId", "registry", "ribbon", "menu", "accelerators", "toolbars", "statusExtras", "status"]
+
+
+def barview(*arguments):
+    return subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), "--null", os.path.join(BIN_DIR, "barview.exe"), *arguments],
+                          capture_output=True, text=True)
+
+
+def dump(*arguments):
+    with tempfile.TemporaryDirectory() as folder:
+        path = os.path.join(folder, "dump.json")
+        result = barview(*arguments, "--dump", path)
+        with open(path, encoding="utf-8") as file:
+            return result, json.load(file)
+
+
+class DumpOfTheDemo(unittest.TestCase):
+    maxDiff = None
+
+    def check(self, language):
+        result, got = dump(BIN_DIR, "--lang", language)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        want = Expectation(os.path.join(BIN_DIR, "cfg", "ribbon.xml"), os.path.join(BIN_DIR, "lang", language))
+        self.assertEqual(list(got), DUMP_KEYS)
+        self.assertEqual(got["nextCommandId"], want.next_id)
+        self.assertEqual(got["registry"], sorted(want.registry.values(), key=lambda entry: entry["id"]))
+        self.assertEqual(got["ribbon"]["quickAccess"], want.quick_access)
+        self.assertEqual(got["ribbon"]["commands"], [want.commands])
+        self.assertEqual(len(got["ribbon"]["categories"]), len(want.categories))
+        for index, (category, expected) in enumerate(zip(got["ribbon"]["categories"], want.categories)):
+            self.assertEqual((category["name"], category["class"], category.get("id")),
+                             (expected["name"], expected["class"], expected.get("id")))
+            self.assertEqual((category["visible"], category["active"]), (True, index == 0))
+            self.assertEqual([p["name"] for p in category["panels"]], [p["name"] for p in expected["panels"]])
+            for panel, expected_panel in zip(category["panels"], expected["panels"]):
+                self.check_elements(panel["elements"], expected_panel["elements"])
+
+    def check_elements(self, got, want):
+        self.assertEqual([e["class"] for e in got], [e["class"] for e in want])
+        for element, expected in zip(got, want):
+            for key, value in expected.items():
+                if key == "children":
+                    self.check_elements(element["children"], value)
+                elif value is not None:
+                    self.assertEqual(element[key], value, f"{key} of {element}")
+            self.assertTrue(element["visible"])
+            self.assertEqual(len(element["rect"]), 4)
+
+    def test_every_element_is_what_the_files_say_in_chinese(self):
+        self.check("zh-CN")
+
+    def test_every_element_is_what_the_files_say_in_english(self):
+        self.check("en")
+
+    def test_elements_of_the_shown_category_lie_apart_inside_the_bar(self):
+        _, got = dump(BIN_DIR, "--lang", "en", "--size", "1280x300")
+        panels = got["ribbon"]["categories"][0]["panels"]
+        rects = [e["rect"] for p in panels for e in p["elements"]]
+        for left, top, right, bottom in rects:
+            self.assertTrue(0 <= left < right <= 1280 and 0 < top < bottom <= 300)
+        for i, a in enumerate(rects):
+            for b in rects[:i]:
+                self.assertFalse(a[0] < b[2] and b[0] < a[2] and a[1] < b[3] and b[1] < a[3], (a, b))
+
+    def test_elements_of_other_categories_have_no_place(self):
+        _, got = dump(BIN_DIR, "--lang", "en")
+        for panel in got["ribbon"]["categories"][1]["panels"]:
+            for element in panel["elements"]:
+                self.assertEqual(element["rect"], [0, 0, 0, 0])
+
+
+class ExitCodes(unittest.TestCase):
+    def test_a_file_that_cannot_be_loaded_gives_1_and_a_line_that_names_it(self):
+        with tempfile.TemporaryDirectory() as folder:
+            result = barview(BIN_DIR, "--ribbon", "cfg\\missing.xml", "--dump", os.path.join(folder, "dump.json"))
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("not loaded: cfg\\missing.xml", result.stderr)
+        self.assertIn("请确认文件:", result.stderr)
+
+    def test_wrong_usage_gives_2(self):
+        for arguments in ([], [BIN_DIR, "--size", "wide"], [BIN_DIR, "--nonsense"], ["/no/such/place"]):
+            self.assertEqual(barview(*arguments).returncode, 2, arguments)
+
+
+if __name__ == "__main__":
+    BIN_DIR = os.path.abspath(sys.argv.pop(1))
+    unittest.main(verbosity=2)
