@@ -4,6 +4,8 @@
 
 #include <afxribbonbutton.h>
 
+#include <string>
+
 /// A ribbon button whose pictures are icon files, read at every draw and released afterwards. It has up to two files,
 /// large (32 x 32) and small (16 x 16), each with an alternate that the skin style "0" selects: the path with every
 /// "modle" replaced by "modle_0". Its text is a translation key (section "Common"), looked up at every draw.
@@ -26,6 +28,20 @@ public:
     CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, const CString& largeIconPath, BOOL alwaysShowDescription = FALSE,
                           const CString& smallIconPath = CString(), BOOL autoDestroyIcon = FALSE,
                           BOOL alphaBlendIcon = FALSE, BOOL keepLargePath = FALSE);
+
+    // The same three with a std::wstring as the text.
+    CMFCRibbonUNIcoButton(UINT id, const std::wstring& text, int smallImageIndex = -1, int largeImageIndex = -1,
+                          BOOL alwaysShowDescription = FALSE)
+        : CMFCRibbonUNIcoButton(id, text.c_str(), smallImageIndex, largeImageIndex, alwaysShowDescription) {}
+    CMFCRibbonUNIcoButton(UINT id, const std::wstring& text, HICON largeIcon, BOOL alwaysShowDescription = FALSE,
+                          HICON smallIcon = nullptr, BOOL autoDestroyIcon = FALSE, BOOL alphaBlendIcon = FALSE)
+        : CMFCRibbonUNIcoButton(id, text.c_str(), largeIcon, alwaysShowDescription, smallIcon, autoDestroyIcon,
+                                alphaBlendIcon) {}
+    CMFCRibbonUNIcoButton(UINT id, const std::wstring& text, const CString& largeIconPath,
+                          BOOL alwaysShowDescription = FALSE, const CString& smallIconPath = CString(),
+                          BOOL autoDestroyIcon = FALSE, BOOL alphaBlendIcon = FALSE, BOOL keepLargePath = FALSE)
+        : CMFCRibbonUNIcoButton(id, text.c_str(), largeIconPath, alwaysShowDescription, smallIconPath, autoDestroyIcon,
+                                alphaBlendIcon, keepLargePath) {}
 
     /// The style of all icon-file buttons of the process: "0" selects the alternate files, any other text the primary
     /// ones. Shows at each button's next draw; the host asks for it.
@@ -73,6 +89,19 @@ public:
     CMFCRibbonSmallButton(UINT id, LPCTSTR text, const CString& largeIconPath, BOOL alwaysShowDescription = FALSE,
                           const CString& smallIconPath = CString(), BOOL autoDestroyIcon = FALSE,
                           BOOL alphaBlendIcon = FALSE);
+
+    CMFCRibbonSmallButton(UINT id, const std::wstring& text, int smallImageIndex = -1, int largeImageIndex = -1,
+                          BOOL alwaysShowDescription = FALSE)
+        : CMFCRibbonSmallButton(id, text.c_str(), smallImageIndex, largeImageIndex, alwaysShowDescription) {}
+    CMFCRibbonSmallButton(UINT id, const std::wstring& text, HICON largeIcon, BOOL alwaysShowDescription = FALSE,
+                          HICON smallIcon = nullptr, BOOL autoDestroyIcon = FALSE, BOOL alphaBlendIcon = FALSE)
+        : CMFCRibbonSmallButton(id, text.c_str(), largeIcon, alwaysShowDescription, smallIcon, autoDestroyIcon,
+                                alphaBlendIcon) {}
+    CMFCRibbonSmallButton(UINT id, const std::wstring& text, const CString& largeIconPath,
+                          BOOL alwaysShowDescription = FALSE, const CString& smallIconPath = CString(),
+                          BOOL autoDestroyIcon = FALSE, BOOL alphaBlendIcon = FALSE)
+        : CMFCRibbonSmallButton(id, text.c_str(), largeIconPath, alwaysShowDescription, smallIconPath, autoDestroyIcon,
+                                alphaBlendIcon) {}
 
     void SetSmallMode() { m_smallMode = TRUE; }
     void SetLargeMode() { m_smallMode = FALSE; }

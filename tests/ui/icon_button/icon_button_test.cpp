@@ -69,6 +69,30 @@ TEST_F(IconButton, PathsAreGivenBackAsConfigured) {
     EXPECT_EQ(button->GetIconPath(TRUE), m_large);
 }
 
+template <class Button>
+class ButtonTexts : public testing::Test {};
+using IconButtonClasses = testing::Types<CMFCRibbonUNIcoButton, CMFCRibbonSmallButton>;
+TYPED_TEST_SUITE(ButtonTexts, IconButtonClasses);
+
+template <class Button, class Text>
+void ExpectTextTaken(const Text& text) {
+    EXPECT_EQ(CString(Button(1, text).GetText()), L"text");
+    EXPECT_EQ(Button(1, text, 4, 5).GetImageIndex(TRUE), 5);
+    EXPECT_EQ(Button(1, text, 4, 5).GetImageIndex(FALSE), 4);
+    EXPECT_EQ(CString(Button(1, text, ::LoadIcon(nullptr, IDI_APPLICATION)).GetText()), L"text");
+    EXPECT_NE(Button(1, text, ::LoadIcon(nullptr, IDI_APPLICATION)).GetIcon(TRUE), nullptr);
+    EXPECT_EQ(Button(1, text, CString(L"large"), FALSE, CString(L"small")).GetIconPath(FALSE), L"small");
+    EXPECT_EQ(Button(1, text, L"large", TRUE).GetIconPath(TRUE), L"large");
+    EXPECT_TRUE(Button(1, text, L"large", TRUE).IsAlwaysShowDescription());
+}
+
+TYPED_TEST(ButtonTexts, MayBeOfEveryKind) {
+    ExpectTextTaken<TypeParam>(L"text");
+    ExpectTextTaken<TypeParam>(static_cast<const wchar_t*>(L"text"));
+    ExpectTextTaken<TypeParam>(CString(L"text"));
+    ExpectTextTaken<TypeParam>(std::wstring(L"text"));
+}
+
 TEST_F(IconButton, DrawsThePrimaryFilesWithoutASkinStyle) {
     const auto button = MakeButton();
     EXPECT_EQ(ColourDrawn(*button, Large), red);

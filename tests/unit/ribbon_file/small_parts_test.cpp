@@ -75,9 +75,9 @@ TEST_F(CommandIds, SecondHelpFileIsTakenOnlyWhereTheFirstHadNone) {
 }
 
 TEST_F(CommandIds, CategoryOffersNoHelpFile) {
-    ObtainCommandId(Named(L"K"), HelpOffer::No);
-    ObtainCommandId(Named(L"K", L"second"), HelpOffer::No);
-    EXPECT_EQ(HelpOf(m_first), L"");
+    const int id = ObtainCommandId(Named(L"K"), HelpOffer::No);
+    EXPECT_EQ(ObtainCommandId(Named(L"K", L"second"), HelpOffer::No), id);
+    EXPECT_EQ(HelpOf(id), L"");
 }
 
 TEST_F(CommandIds, EmptyKeywordConsumesAnIdEachTimeAndRegistersNothing) {
