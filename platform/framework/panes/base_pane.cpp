@@ -2,6 +2,7 @@
 
 #include "afxDockingManager.h"
 #include "afxPane.h"
+#include "afxvisualmanager.h"
 #include "fx/window_dc.h"
 #include "panes/pane_layout.h"
 
@@ -277,7 +278,9 @@ void CBasePane::OnPaint() {
 void CBasePane::DoPaint(CDC* pDC) {
     CRect client;
     GetClientRect(&client);
-    ::FillRect(pDC->m_hDC, &client, ::GetSysColorBrush(COLOR_3DFACE));
+    CRect clip;
+    pDC->GetClipBox(&clip);
+    CMFCVisualManager::GetInstance()->OnFillBarBackground(pDC, this, client, clip);
 }
 
 BOOL CBasePane::OnEraseBkgnd(CDC*) { return TRUE; }

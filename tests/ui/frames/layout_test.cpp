@@ -3,6 +3,7 @@
 #include "afxMDIFrameWndEx.h"
 #include "afxPane.h"
 #include "afxframewndex.h"
+#include "afxvisualmanager.h"
 
 namespace {
 
@@ -24,12 +25,24 @@ public:
         ++updates;
         updateTarget = target;
     }
+    using CPane::DoPaint;
     CSize size{0, 0};
     int updates = 0;
     CFrameWnd* updateTarget = nullptr;
 };
 
 class ClientWindow : public CWnd {};
+
+/// A look of which a test sees where it was asked to fill.
+class FillingLook : public CMFCVisualManager {
+    DECLARE_DYNCREATE(FillingLook)
+public:
+    void OnFillBarBackground(CDC* dc, CBasePane*, CRect client, CRect, BOOL) override {
+        dc->FillSolidRect(client, colour);
+    }
+    static constexpr COLORREF colour = RGB(12, 34, 56);
+};
+IMPLEMENT_DYNCREATE(FillingLook, CMFCVisualManager)
 
 template <class Frame>
 class LayoutFixture : public ::testing::Test {
@@ -186,6 +199,22 @@ TEST_F(DockLayout, AStatusBarOfTheSystemLiesUnderThePanes) {
     EXPECT_GT(place.Height(), 5);
     EXPECT_EQ(place.bottom, m_height);
     EXPECT_EQ(PlaceInParent(bottom).bottom, place.top);
+}
+
+TEST_F(DockLayout, APaneIsFilledByTheVisualManager) {
+    CDC memory;
+    ASSERT_TRUE(memory.CreateCompatibleDC(nullptr));
+    const HBITMAP bitmap = ::CreateBitmap(m_width, 30, 1, 32, nullptr);
+    const HGDIOBJ former = ::SelectObject(memory.m_hDC, bitmap);
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(FillingLook));
+    top.DoPaint(&memory);
+    EXPECT_EQ(memory.GetPixel(0, 0), FillingLook::colour);
+    EXPECT_EQ(memory.GetPixel(m_width - 1, 29), FillingLook::colour);
+    CMFCVisualManager::SetDefaultManager(nullptr);
+    top.DoPaint(&memory);
+    EXPECT_NE(memory.GetPixel(0, 0), FillingLook::colour) << "the look has changed";
+    ::SelectObject(memory.m_hDC, former);
+    ::DeleteObject(bitmap);
 }
 
 TEST_F(DockLayout, TheMenuOfPanesShowsAndHides) {
