@@ -109,7 +109,9 @@ BOOL CFrameWndEx::OnDrawMenuImage(CDC*, const CMFCToolBarMenuButton*, const CRec
 
 BOOL CFrameWndEx::GetToolbarButtonToolTipText(CMFCToolBarButton*, CString&) { return FALSE; }
 
-BOOL CFrameWndEx::PreTranslateMessage(MSG* pMsg) { return CFrameWnd::PreTranslateMessage(pMsg); }
+BOOL CFrameWndEx::PreTranslateMessage(MSG* pMsg) {
+    return m_Impl.HandWheelToRibbon(*pMsg) || CFrameWnd::PreTranslateMessage(pMsg);
+}
 
 BOOL CFrameWndEx::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);

@@ -1,7 +1,10 @@
 #include "fx/frame_impl.h"
 
 #include "afxbasepane.h"
+#include "afxribbonbar.h"
 #include "panes/ribbon_pane.h"
+
+#include <windowsx.h>
 
 bool CFrameImpl::Create() { return m_dockingManager.Create(m_frame) != FALSE; }
 
@@ -14,6 +17,22 @@ CMFCRibbonBar* CFrameImpl::RibbonBar() {
         }
     }
     return nullptr;
+}
+
+// The system sends the wheel to the focus. A window inside the ribbon that has both focus and pointer keeps it.
+BOOL CFrameImpl::HandWheelToRibbon(const MSG& message) {
+    if (message.message != WM_MOUSEWHEEL || ::GetCapture() || !m_frame->IsWindowEnabled()) {
+        return FALSE;
+    }
+    const CMFCRibbonBar* const bar = RibbonBar();
+    const HWND ribbon = bar ? bar->GetSafeHwnd() : nullptr;
+    const HWND below = ::WindowFromPoint({GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)});
+    const bool isOverRibbon = ribbon && (below == ribbon || ::IsChild(ribbon, below));
+    if (!isOverRibbon || message.hwnd == below) {
+        return FALSE;
+    }
+    ::SendMessageW(ribbon, message.message, message.wParam, message.lParam);
+    return TRUE;
 }
 
 void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) { m_activePopup = popup; }

@@ -134,7 +134,9 @@ BOOL CMDIFrameWndEx::OnDrawMenuImage(CDC*, const CMFCToolBarMenuButton*, const C
 
 BOOL CMDIFrameWndEx::GetToolbarButtonToolTipText(CMFCToolBarButton*, CString&) { return FALSE; }
 
-BOOL CMDIFrameWndEx::PreTranslateMessage(MSG* pMsg) { return CMDIFrameWnd::PreTranslateMessage(pMsg); }
+BOOL CMDIFrameWndEx::PreTranslateMessage(MSG* pMsg) {
+    return m_Impl.HandWheelToRibbon(*pMsg) || CMDIFrameWnd::PreTranslateMessage(pMsg);
+}
 
 BOOL CMDIFrameWndEx::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     return CMDIFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);

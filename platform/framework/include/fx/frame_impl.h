@@ -23,6 +23,8 @@ public:
     /// The menu bar tells of itself; null when it goes away.
     void SetMenuBar(CMFCMenuBar* bar) { m_menuBar = bar; }
     CMFCMenuBar* MenuBar() const { return m_menuBar; }
+    /// Hands a turn of the wheel above the ribbon to the ribbon, whoever has the focus. TRUE: the message is done.
+    BOOL HandWheelToRibbon(const MSG& message);
     void OnShowPopupMenu(CMFCPopupMenu* popup);
     void OnClosePopupMenu(CMFCPopupMenu* popup);
     CMFCPopupMenu* ActivePopup() const { return m_activePopup; }
