@@ -191,6 +191,8 @@ public:
 protected:
     virtual BOOL OnProcessKey(UINT nChar);
     virtual void OnSetFocus(BOOL bSet);
+    // The element's size or visibility has changed: whatever holds it lays itself out before it is next drawn.
+    void MarkLayoutDirty();
     // The window that receives the element's commands and its other messages to the host; null when there is none.
     CWnd* GetCommandTarget() const;
 

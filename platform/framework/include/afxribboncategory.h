@@ -159,6 +159,7 @@ protected:
     DWORD_PTR m_dwData = 0;
 
 private:
+    friend class CMFCRibbonBaseElement;
     friend class CMFCRibbonPanel;
     void MarkLayoutDirty();
     void LoadImages();

@@ -19,7 +19,11 @@ void PlaceElement(CMFCRibbonBaseElement& element, CDC* pDC, const RibbonRect& re
 
 } // namespace
 
+// An element may show another text while it draws; a layout for each of them would draw without end.
 void CMFCRibbonBar::MarkLayoutDirty() {
+    if (m_parts->isDrawing) {
+        return;
+    }
     m_parts->layoutDirty = true;
     if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
         Invalidate(FALSE);

@@ -41,6 +41,7 @@ struct RibbonBarParts {
     RibbonBarArrangement arrangement;
     bool layoutDirty = true;
     bool isLayingOut = false;
+    bool isDrawing = false;
     bool isAskingForRoom = false;
     int laidOutWidth = -1;
 

@@ -39,13 +39,14 @@ UINT CMFCRibbonBaseElement::GetNotifyID() { return m_nID; }
 void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
     const CString text = lpszText != nullptr ? lpszText : L"";
     const int split = text.Find(L'\n');
-    if (split >= 0) {
+    if (split >= 0)
         m_strKeys = text.Mid(split + 1);
-        m_strText = text.Left(split);
-    } else {
-        m_strText = text;
-    }
+    const CString shown = split >= 0 ? text.Left(split) : text;
+    const bool changes = shown != m_strText;
+    m_strText = shown;
     CleanUpSizes();
+    if (changes)
+        MarkLayoutDirty();
 }
 
 void CMFCRibbonBaseElement::SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
@@ -133,6 +134,15 @@ CWnd* CMFCRibbonBaseElement::GetParentWnd() const {
 
 // ---- size
 
+// The category measures the element anew, where it has one; a copy in the quick access toolbar and an element of the
+// tab row are measured with the bar.
+void CMFCRibbonBaseElement::MarkLayoutDirty() {
+    if (m_pParentCategory != nullptr)
+        m_pParentCategory->MarkLayoutDirty();
+    else if (m_pRibbonBar != nullptr)
+        m_pRibbonBar->MarkLayoutDirty();
+}
+
 CSize CMFCRibbonBaseElement::GetSize(CDC* pDC) {
     if (m_bCompactMode && HasCompactMode())
         return GetCompactSize(pDC);
@@ -212,6 +222,7 @@ void CMFCRibbonBaseElement::SetVisible(BOOL bIsVisible) {
         return;
     m_bIsVisible = bIsVisible;
     OnShow(bIsVisible);
+    MarkLayoutDirty();
 }
 
 BOOL CMFCRibbonBaseElement::IsAutoRepeatMode(int& nDelay) const {

@@ -107,7 +107,6 @@ void CMFCRibbonCmdUI::SetRadio(BOOL bOn) {
         m_pUpdated->SetChecked(bOn, TRUE);
 }
 
-// A new text changes sizes; the bar lays itself out at its next change. Until then the text is drawn shortened.
 void CMFCRibbonCmdUI::SetText(LPCTSTR lpszText) {
     if (m_pUpdated == nullptr || lpszText == nullptr || CString(lpszText) == m_pUpdated->GetText())
         return;

@@ -29,6 +29,9 @@ void RibbonFrame::OnRibbonCommand(UINT id) {
 void RibbonFrame::OnUpdateRibbonCommand(CCmdUI* update) {
     update->Enable(update->m_nID != disabledCommand);
     update->SetCheck(update->m_nID == checkedCommand ? 1 : 0);
+    if (update->m_nID == renamedCommand) {
+        update->SetText(newName);
+    }
 }
 
 LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {

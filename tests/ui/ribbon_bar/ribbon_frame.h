@@ -47,6 +47,8 @@ public:
     int categoryChanges = 0;
     UINT disabledCommand = 0;
     UINT checkedCommand = 0;
+    UINT renamedCommand = 0;
+    CString newName;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);

@@ -56,4 +56,58 @@ TEST_F(RibbonBarTest, AnUpdateThatChangesNothingDrawsNothing) {
     EXPECT_FALSE(Bar().GetUpdateRect(update));
 }
 
+TEST_F(RibbonBarTest, ANewTextLaysTheBarOutBeforeItIsNextDrawn) {
+    const int before = Element(commands::cut).GetRect().Width();
+    const CRect neighbour = Bar().GetCategory(0)->GetPanel(1)->GetRect();
+    Element(commands::cut).SetText(L"Cut out and keep what was chosen");
+    Bar().UpdateWindow();
+    EXPECT_GT(Element(commands::cut).GetRect().Width(), before);
+    EXPECT_GT(Bar().GetCategory(0)->GetPanel(1)->GetRect().left, neighbour.left);
+}
+
+TEST_F(RibbonBarTest, ATextFromAnUpdateHandlerLaysTheBarOutOnce) {
+    const int before = Element(commands::cut).GetRect().Width();
+    m_frame->renamedCommand = commands::cut;
+    m_frame->newName = L"Cut out and keep what was chosen";
+    RunIdle();
+    Bar().UpdateWindow();
+    EXPECT_GT(Element(commands::cut).GetRect().Width(), before);
+    RunIdle();
+    CRect update;
+    EXPECT_FALSE(Bar().GetUpdateRect(update)) << "the same text again";
+}
+
+TEST_F(RibbonBarTest, AHiddenElementGivesUpItsPlaceAndGetsItBack) {
+    CMFCRibbonBaseElement& cut = Element(commands::cut);
+    const CRect place = cut.GetRect();
+    const CRect below = Element(commands::copy).GetRect();
+    cut.SetVisible(FALSE);
+    Bar().UpdateWindow();
+    EXPECT_TRUE(cut.GetRect().IsRectEmpty());
+    EXPECT_EQ(Element(commands::copy).GetRect().TopLeft(), place.TopLeft());
+    cut.SetVisible(TRUE);
+    Bar().UpdateWindow();
+    EXPECT_EQ(cut.GetRect(), place);
+    EXPECT_EQ(Element(commands::copy).GetRect(), below);
+}
+
+/// Shows another text than its own while it draws.
+class LendingButton : public CMFCRibbonButton {
+public:
+    using CMFCRibbonButton::CMFCRibbonButton;
+    void OnDraw(CDC* dc) override {
+        const CString own = GetText();
+        SetText(L"Shown instead");
+        CMFCRibbonButton::OnDraw(dc);
+        SetText(own);
+    }
+};
+
+TEST_F(RibbonBarTest, ATextThatIsLentForADrawDrawsNothingAgain) {
+    Bar().GetCategory(0)->GetPanel(0)->Add(new LendingButton(commands::firstHandled + 500, L"Own"));
+    Bar().UpdateWindow();
+    CRect update;
+    EXPECT_FALSE(Bar().GetUpdateRect(update));
+}
+
 } // namespace
