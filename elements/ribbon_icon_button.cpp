@@ -141,14 +141,40 @@ void CMFCRibbonUNIcoButton::DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, C
                  DI_NORMAL | (isRightToLeft ? DI_NOMIRROR : 0));
 }
 
+CString CMFCRibbonUNIcoButton::DisplayedText() const {
+    return CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1).c_str();
+}
+
+// The member, not SetText: that would take a part of the text for key tips.
 void CMFCRibbonUNIcoButton::OnDraw(CDC* dc) {
-    const std::wstring translated = CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1);
-    // The member, not SetText: that would take a part of the text for key tips.
-    const Lent displayed(m_strText, CString(translated.c_str()));
+    const Lent displayed(m_strText, DisplayedText());
     CMFCRibbonButton::OnDraw(dc);
 }
 
-void CMFCRibbonUNIcoButton::OnAfterChangeRect(CDC* dc) { CMFCRibbonButton::OnAfterChangeRect(dc); }
+void CMFCRibbonUNIcoButton::OnAfterChangeRect(CDC* dc) {
+    const Lent displayed(m_strText, DisplayedText());
+    CMFCRibbonButton::OnAfterChangeRect(dc);
+}
+
+void CMFCRibbonUNIcoButton::OnCalcTextSize(CDC* dc) {
+    const Lent displayed(m_strText, DisplayedText());
+    CMFCRibbonButton::OnCalcTextSize(dc);
+}
+
+CSize CMFCRibbonUNIcoButton::GetRegularSize(CDC* dc) {
+    const Lent displayed(m_strText, DisplayedText());
+    return CMFCRibbonButton::GetRegularSize(dc);
+}
+
+CSize CMFCRibbonUNIcoButton::GetIntermediateSize(CDC* dc) {
+    const Lent displayed(m_strText, DisplayedText());
+    return CMFCRibbonButton::GetIntermediateSize(dc);
+}
+
+CSize CMFCRibbonUNIcoButton::GetCompactSize(CDC* dc) {
+    const Lent displayed(m_strText, DisplayedText());
+    return CMFCRibbonButton::GetCompactSize(dc);
+}
 
 void CMFCRibbonUNIcoButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonUNIcoButton, &src);

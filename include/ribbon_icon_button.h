@@ -8,7 +8,8 @@
 
 /// A ribbon button whose pictures are icon files, read at every draw and released afterwards. It has up to two files,
 /// large (32 x 32) and small (16 x 16), each with an alternate that the skin style "0" selects: the path with every
-/// "modle" replaced by "modle_0". Its text is a translation key (section "Common"), looked up at every draw.
+/// "modle" replaced by "modle_0". Its text is a translation key (section "Common"), looked up
+/// whenever the button is measured, placed or drawn.
 ///
 /// A path that names no icon is skipped; without the large icon the button draws from its image indexes. Sizes are
 /// pixels at 96 DPI, drawn at the ribbon's image scale.
@@ -55,12 +56,18 @@ public:
     CSize GetImageSize(RibbonImageType type) const override;
     void DrawImage(CDC* dc, RibbonImageType type, CRect rect) override;
     void OnDraw(CDC* dc) override;
+    // Measure and place the text that OnDraw shows.
+    void OnCalcTextSize(CDC* dc) override;
+    CSize GetRegularSize(CDC* dc) override;
+    CSize GetIntermediateSize(CDC* dc) override;
+    CSize GetCompactSize(CDC* dc) override;
     void OnAfterChangeRect(CDC* dc) override;
     /// Copies the primary paths unless this button destroys its icons itself; the alternates are not copied, so a copy
     /// without an original draws no picture.
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
 
 private:
+    CString DisplayedText() const;
     CMFCRibbonUNIcoButton* GetIconButtonOriginal() const;
     void DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type, CRect rect);
     void DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect);

@@ -414,15 +414,17 @@ TEST_F(IconButton, IsMadeByItsRunTimeClass) {
     }
 }
 
-/// Keeps the texts that it is asked to draw.
+/// Keeps the texts that it is asked to draw, and the place of the last one.
 class TextKeepingButton : public CMFCRibbonUNIcoButton {
 public:
     using CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton;
-    int DrawRibbonText(CDC*, const CString& text, CRect, UINT, COLORREF) override {
+    int DrawRibbonText(CDC*, const CString& text, CRect rect, UINT, COLORREF) override {
         drawn += text.GetString();
+        place = rect;
         return 0;
     }
     std::wstring drawn;
+    CRect place{0, 0, 0, 0};
 };
 
 TEST_F(IconButton, TextIsTranslatedAtEveryDrawAndPutBack) {
@@ -443,6 +445,37 @@ TEST_F(IconButton, TextIsTranslatedAtEveryDrawAndPutBack) {
     button.OnDraw(m_canvas.Dc());
     EXPECT_EQ(button.drawn, L"two <key>");
     EXPECT_EQ(CString(button.GetText()), L"key");
+}
+
+TEST_F(IconButton, SizesAreThoseOfTheTranslationInEveryMode) {
+    const TranslatedInstallation installation;
+    ASSERT_TRUE(installation.Translate("key", "Common", "a long and winding "));
+    CMFCRibbonUNIcoButton button(1, L"key", m_large, FALSE, m_small);
+    CMFCRibbonUNIcoButton translated(1, L"a long and winding <key>", m_large, FALSE, m_small);
+    CDC* const dc = m_canvas.Dc();
+    EXPECT_EQ(button.GetRegularSize(dc), translated.GetRegularSize(dc));
+    EXPECT_EQ(button.GetIntermediateSize(dc), translated.GetIntermediateSize(dc));
+    EXPECT_EQ(button.GetCompactSize(dc), translated.GetCompactSize(dc));
+    EXPECT_EQ(CString(button.GetText()), L"key");
+    ASSERT_TRUE(installation.Translate("key", "Common"));
+    EXPECT_LT(button.GetIntermediateSize(dc).cx, translated.GetIntermediateSize(dc).cx) << "the language has changed";
+}
+
+TEST_F(IconButton, LongTranslationsAreDrawnWhole) {
+    const TranslatedInstallation installation;
+    ASSERT_TRUE(installation.Translate("key", "Common", "a long and winding "));
+    TextKeepingButton button(1, L"key", m_large, FALSE, m_small);
+    TestWindow window;
+    button.SetParentWnd(&window);
+    button.SetIntermediateMode(TRUE);
+    CDC* const dc = m_canvas.Dc();
+    button.OnCalcTextSize(dc);
+    button.SetRect(CRect(CPoint(0, 0), button.GetSize(dc)));
+    button.OnAfterChangeRect(dc);
+    button.OnDraw(dc);
+    CFont* const former = dc->SelectObject(&afxGlobalData.fontRegular);
+    EXPECT_GE(button.place.Width(), dc->GetTextExtent(CString(L"a long and winding <key>")).cx);
+    dc->SelectObject(former);
 }
 
 TEST_F(IconButton, KeyTipsStayWhenTheTextIsSwappedAtADraw) {
