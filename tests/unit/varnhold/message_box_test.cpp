@@ -61,7 +61,7 @@ struct RealBox {
 
 DWORD WINAPI AnswerRealBox(void* argument) {
     RealBox& box = *static_cast<RealBox*>(argument);
-    for (int i = 0; i < 500 && !box.seen; ++i) {
+    for (int i = 0; i < 6000 && !box.seen; ++i) {
         const HWND window = FindWindowW(L"#32770", L"varnhold_tests");
         for (HWND child = window ? GetWindow(window, GW_CHILD) : nullptr; child;
              child = GetWindow(child, GW_HWNDNEXT)) {
