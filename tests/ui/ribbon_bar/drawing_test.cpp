@@ -3,8 +3,11 @@
 
 #include <gdiplus.h>
 
+#include <algorithm>
 #include <set>
 
+#include "afxRibbonLabel.h"
+#include "afxvisualmanager.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
 namespace {
@@ -113,6 +116,43 @@ TEST_F(RibbonBarTest, ADisabledElementLooksDifferent) {
     Element(commands::paste).SetDisabled(TRUE);
     const Picture after(Bar());
     EXPECT_NE(before.Colours(Element(commands::paste).GetRect()), after.Colours(Element(commands::paste).GetRect()));
+}
+
+/// The framework's own look with red text in panels.
+class RedTextLook : public CMFCVisualManager {
+    DECLARE_DYNCREATE(RedTextLook)
+public:
+    COLORREF OnDrawRibbonPanel(CDC* dc, CMFCRibbonPanel* panel, CRect rect, CRect caption) override {
+        CMFCVisualManager::OnDrawRibbonPanel(dc, panel, rect, caption);
+        return RGB(255, 0, 0);
+    }
+};
+IMPLEMENT_DYNCREATE(RedTextLook, CMFCVisualManager)
+
+TEST_F(RibbonBarTest, LabelsOfAllKindsHaveTheTextColourOfTheirPanel) {
+    const auto reddish = [](const std::set<DWORD>& colours) {
+        return std::any_of(colours.begin(), colours.end(), [](DWORD colour) {
+            return (colour >> 16) > 180 && (colour >> 8 & 0xFF) < 80 && (colour & 0xFF) < 80;
+        });
+    };
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
+    Bar().GetActiveCategory()->GetVisibleElements(elements);
+    CMFCRibbonBaseElement* label = nullptr;
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        if (elements[index]->IsKindOf(RUNTIME_CLASS(CMFCRibbonLabel))) {
+            label = elements[index];
+        }
+    }
+    ASSERT_NE(label, nullptr);
+    const std::vector<CMFCRibbonBaseElement*> labelled{label, &Element(commands::options), &Element(commands::size)};
+    const Picture before(Bar());
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(RedTextLook));
+    const Picture after(Bar());
+    CMFCVisualManager::SetDefaultManager(nullptr);
+    for (CMFCRibbonBaseElement* element : labelled) {
+        EXPECT_FALSE(reddish(before.Colours(element->GetRect()))) << element->GetRuntimeClass()->m_lpszClassName;
+        EXPECT_TRUE(reddish(after.Colours(element->GetRect()))) << element->GetRuntimeClass()->m_lpszClassName;
+    }
 }
 
 // Pictures for people at several widths and scales; the rules above hold in all of them.
