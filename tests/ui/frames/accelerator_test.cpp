@@ -8,7 +8,7 @@ namespace {
 class KeyFrame : public Owned<CFrameWnd> {
 public:
     void OnTestCommand() { ++commands; }
-    void OnOther() { ++others; }
+    void OnAnother() { ++others; }
     int commands = 0;
     int others = 0;
     DECLARE_MESSAGE_MAP()
@@ -16,7 +16,7 @@ public:
 
 BEGIN_MESSAGE_MAP(KeyFrame, CFrameWnd)
 ON_COMMAND(ID_TEST_COMMAND, &KeyFrame::OnTestCommand)
-ON_COMMAND(ID_TEST_OTHER, &KeyFrame::OnOther)
+ON_COMMAND(ID_TEST_OTHER, &KeyFrame::OnAnother)
 END_MESSAGE_MAP()
 
 class AcceleratorTest : public ::testing::Test {
