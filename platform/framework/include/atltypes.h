@@ -11,12 +11,24 @@ class CRect;
 
 class CSize : public tagSIZE {
 public:
-    CSize() noexcept : tagSIZE{0, 0} {}
-    CSize(int initCX, int initCY) noexcept : tagSIZE{initCX, initCY} {}
+    CSize() noexcept {
+        cx = 0;
+        cy = 0;
+    }
+    CSize(int initCX, int initCY) noexcept {
+        cx = initCX;
+        cy = initCY;
+    }
     CSize(SIZE initSize) noexcept : tagSIZE(initSize) {}
-    CSize(POINT initPt) noexcept : tagSIZE{initPt.x, initPt.y} {}
+    CSize(POINT initPt) noexcept {
+        cx = initPt.x;
+        cy = initPt.y;
+    }
     /// Width in the low word, height in the high word, both signed.
-    CSize(DWORD dwSize) noexcept : tagSIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))} {}
+    CSize(DWORD dwSize) noexcept {
+        cx = static_cast<short>(LOWORD(dwSize));
+        cy = static_cast<short>(HIWORD(dwSize));
+    }
 
     BOOL operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
     BOOL operator!=(SIZE size) const noexcept { return !(*this == size); }
@@ -35,13 +47,24 @@ public:
 
 class CPoint : public tagPOINT {
 public:
-    CPoint() noexcept : tagPOINT{0, 0} {}
-    CPoint(int initX, int initY) noexcept : tagPOINT{initX, initY} {}
+    CPoint() noexcept {
+        x = 0;
+        y = 0;
+    }
+    CPoint(int initX, int initY) noexcept {
+        x = initX;
+        y = initY;
+    }
     CPoint(POINT initPt) noexcept : tagPOINT(initPt) {}
-    CPoint(SIZE initSize) noexcept : tagPOINT{initSize.cx, initSize.cy} {}
+    CPoint(SIZE initSize) noexcept {
+        x = initSize.cx;
+        y = initSize.cy;
+    }
     /// x in the low word, y in the high word, both signed, as in mouse messages.
-    CPoint(LPARAM dwPoint) noexcept
-        : tagPOINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))} {}
+    CPoint(LPARAM dwPoint) noexcept {
+        x = static_cast<short>(LOWORD(dwPoint));
+        y = static_cast<short>(HIWORD(dwPoint));
+    }
 
     void Offset(int xOffset, int yOffset) noexcept {
         x += xOffset;
@@ -69,12 +92,32 @@ public:
 
 class CRect : public tagRECT {
 public:
-    CRect() noexcept : tagRECT{0, 0, 0, 0} {}
-    CRect(int l, int t, int r, int b) noexcept : tagRECT{l, t, r, b} {}
+    CRect() noexcept {
+        left = 0;
+        top = 0;
+        right = 0;
+        bottom = 0;
+    }
+    CRect(int l, int t, int r, int b) noexcept {
+        left = l;
+        top = t;
+        right = r;
+        bottom = b;
+    }
     CRect(const RECT& srcRect) noexcept : tagRECT(srcRect) {}
     CRect(LPCRECT lpSrcRect) noexcept : tagRECT(*lpSrcRect) {}
-    CRect(POINT point, SIZE size) noexcept : tagRECT{point.x, point.y, point.x + size.cx, point.y + size.cy} {}
-    CRect(POINT topLeft, POINT bottomRight) noexcept : tagRECT{topLeft.x, topLeft.y, bottomRight.x, bottomRight.y} {}
+    CRect(POINT point, SIZE size) noexcept {
+        left = point.x;
+        top = point.y;
+        right = point.x + size.cx;
+        bottom = point.y + size.cy;
+    }
+    CRect(POINT topLeft, POINT bottomRight) noexcept {
+        left = topLeft.x;
+        top = topLeft.y;
+        right = bottomRight.x;
+        bottom = bottomRight.y;
+    }
     CRect(const CRect&) noexcept = default;
 
     int Width() const noexcept { return right - left; }
