@@ -45,7 +45,9 @@ public:
         }
     }
     void FreeExtra() {
-        if (m_size != m_capacity) {
+        if (m_size == 0) {
+            RemoveAll();
+        } else if (m_size != m_capacity) {
             Reallocate(m_size);
         }
     }
@@ -171,7 +173,7 @@ private:
         if (capacity > static_cast<INT_PTR>(PTRDIFF_MAX / sizeof(TYPE))) {
             AfxThrowMemoryException();
         }
-        TYPE* const fresh = capacity == 0 ? nullptr : Allocate(capacity);
+        TYPE* const fresh = Allocate(capacity);
         if constexpr (std::is_move_constructible_v<TYPE>) {
             std::uninitialized_move(m_data, m_data + m_size, fresh);
         } else {
