@@ -222,7 +222,6 @@ void RibbonPanelLadder::MakeSteps() {
     content += m_metrics.elementGap * static_cast<int>(m_blocks.empty() ? 0 : m_blocks.size() - 1);
     m_fullWidth = PanelWidth(content);
 
-    int panel = m_fullWidth;
     std::vector<size_t> level(m_blocks.size(), 0);
     for (const Phase phase : {Phase::Intermediate, Phase::Compact}) {
         for (size_t position = m_blocks.size(); position-- > 0;) {
@@ -231,8 +230,7 @@ void RibbonPanelLadder::MakeSteps() {
                 const int gain = block.levels[level[position]].width - block.levels[level[position] + 1].width;
                 ++level[position];
                 content -= gain;
-                panel = PanelWidth(content);
-                m_steps.push_back({phase, panel});
+                m_steps.push_back({phase, PanelWidth(content)});
                 m_stepBlocks.push_back(position);
             }
         }
