@@ -2,9 +2,10 @@
 """Checks that need a compiler.
 
 usage: lint_compile.py headers   every header compiles alone, twice in one file, and with warnings as errors
-       lint_compile.py tidy      clang-tidy over every source, with the commands that the builds recorded
+       lint_compile.py tidy [FOLDER...]   clang-tidy over every source, with the commands that the builds recorded
 What passed is remembered below build/lint/ by the content of the file, of everything that it includes and of the settings.
 """
+import bisect
 import concurrent.futures
 import hashlib
 import json
@@ -18,9 +19,11 @@ ROOT = os.getcwd()
 CROSS = "x86_64-w64-mingw32-g++-posix"
 WINDOWS_FLAGS = ["-std=c++20", "-fms-extensions", "-Wall", "-Wextra", "-Werror", "-Wno-unknown-pragmas", "-DUNICODE", "-D_UNICODE",
                  "-DNOMINMAX", "-DWINVER=0x0A00", "-D_WIN32_WINNT=0x0A00", "-D_WIN32_IE=0x0A00"]
+NATIVE_FLAGS = ["-std=c++20", "-Wall", "-Wextra", "-Werror", "-Wno-unknown-pragmas"]
 INCLUDE_ROOTS = ["platform/framework/include", "platform/varnhold/include", "platform/tovasque/include", "include", ".",
                  "platform/framework", "platform/varnhold", "platform/tovasque"]
 INCLUDE = re.compile(rb'^\s*#\s*include\s+["<]([^">]+)[">]', re.M)
+BATCH = 12  # sources that clang-tidy reads in one go
 _content = {}
 
 
@@ -69,15 +72,34 @@ def listed(*patterns):
                           capture_output=True, text=True).stdout.split()
 
 
+SYSTEM_INCLUDES = [".deps/boost-include", ".deps/json-include", ".deps/pugixml/src", "/usr/src/googletest/googletest/include",
+                   "/usr/src/googletest/googlemock/include"]
+
+
 def headers():
-    jobs = []
-    for path in listed("*.h"):
-        includes = [f"-I{root}" for root in INCLUDE_ROOTS]
-        includes += ["-isystem", ".deps/boost-include", "-isystem", "/usr/src/googletest/googletest/include",
-                     "-isystem", "/usr/src/googletest/googlemock/include"]
-        text = f'#include "{path}"\n#include "{path}"\n'
-        jobs.append((path, [CROSS, *WINDOWS_FLAGS, *includes, "-fsyntax-only", "-x", "c++", "-"], text))
-    return run_all(jobs, " ".join(WINDOWS_FLAGS), "build/lint/headers")
+    ours = listed("*.h")
+    includes = [f"-I{root}" for root in INCLUDE_ROOTS] + sum((["-isystem", folder] for folder in SYSTEM_INCLUDES), [])
+    checks = [([CROSS, *WINDOWS_FLAGS], ours), (["g++", *NATIVE_FLAGS], portable(ours))]
+    failures = 0
+    for compiler, paths in checks:
+        command = [*compiler, *includes, "-fsyntax-only", "-x", "c++", "-"]
+        jobs = [(path, command, f'#include "{path}"\n#include "{path}"\n') for path in paths]
+        failures += run_all(jobs, " ".join(command), "build/lint/headers")
+    return failures
+
+
+def portable(ours):
+    """The headers that the native build reads, for each source as its compiler sees it."""
+    commands = []
+    for entry in json.load(open("build/native/compile_commands.json")):
+        if not os.path.relpath(entry["file"], ROOT).startswith((".deps", "..")):
+            words = shlex.split(entry["command"])
+            at = words.index("-o")
+            commands.append(words[:at] + words[at + 2:] + ["-MM"])
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        rules = pool.map(lambda c: subprocess.run(c, check=True, capture_output=True, text=True).stdout, commands)
+    read = {os.path.relpath(name, ROOT) for rule in rules for name in rule.split()}
+    return sorted(read & set(ours))
 
 
 def cross_system_includes():
@@ -88,48 +110,145 @@ def cross_system_includes():
     return [f for f in folders if not re.search(r"/\d+-posix/include$", f)]
 
 
-def tidy_command(entry, cross):
+# What GCC knows and clang does not, and what says nothing to a check.
+GCC_ONLY = ("-fpch-preprocess", "-Winvalid-pch", "-fno-keep-inline-dllexport", "-fno-strict-aliasing", "-DNDEBUG")
+
+
+def clang_flags(entry, cross):
+    """The recorded command as flags for clang: without compiler, input, output, warnings and optimization."""
     words = shlex.split(entry["command"])
     start = next(i for i, w in enumerate(words) if re.search(r"(g\+\+-posix|/c\+\+|g\+\+)$", w))
-    flags, skip = [], False
-    words = words[start + 1:]
-    for i, word in enumerate(words):
-        if skip:
-            skip = False
+    words = iter(words[start + 1:])
+    flags = []
+    for word in words:
+        if word == "-o":
+            next(words)
+        elif word == "-include":
+            flags += ["-include", prefix_header(next(words))]
+        elif word == "-isystem":
+            flags += [word, next(words)]
+        elif word in ("-c", entry["file"]) or word in GCC_ONLY or re.match(r"-[WOg]|-fsanitize|-D\w+_EXPORTS$", word):
             continue
-        if word in ("-o", "-c"):
-            skip = word == "-o"
-            continue
-        if word == entry["file"] or word in ("-fpch-preprocess", "-Winvalid-pch", "-g1", "-Werror") or word.startswith("-fsanitize"):
-            continue
-        if word == "-include":
-            pch = words[i + 1]
-            copy = "build/lint/pch/" + hashlib.sha256(pch.encode()).hexdigest()[:12] + ".h"
-            os.makedirs(os.path.dirname(copy), exist_ok=True)
-            if not os.path.exists(copy):
-                open(copy, "w").write(open(pch).read())
-            flags += ["-include", os.path.join(ROOT, copy)]
-            skip = True
-            continue
-        flags.append(word)
+        else:
+            flags.append(word)
     if cross:
         flags = ["--target=x86_64-w64-mingw32", "-nostdinc++"] + sum((["-isystem", f] for f in cross), []) + flags
-    return ["clang-tidy", "--quiet", os.path.relpath(entry["file"], ROOT), "--", *flags]
+    return flags
 
 
-def tidy():
-    ours = set(listed("*.cpp"))
-    jobs, done = [], set()
+def prefix_header(path):
+    """A copy elsewhere: beside the original lies the other compiler's precompiled form, which clang would take."""
+    text = open(path).read()
+    copy = os.path.join(ROOT, "build/lint/pch", hashlib.sha256(text.encode()).hexdigest()[:12] + ".h")
+    os.makedirs(os.path.dirname(copy), exist_ok=True)
+    if not os.path.exists(copy):
+        open(copy, "w").write(text)
+    return copy
+
+
+def clang_text(text):
+    """GCC takes the old form of message maps, ON_COMMAND(ID, OnX), clang wants ON_COMMAND(ID, &ThisClass::OnX)."""
+    def qualified(message_map):
+        return re.sub(r"^(\s*ON_\w+\((?:[^()]|\([^()]*\))*?)\b(?<!::)(?<!&)([A-Za-z_]\w*)\)(?=\s*$)", r"\1&ThisClass::\2)",
+                      message_map[0], flags=re.M)
+    return re.sub(r"^BEGIN_(TEMPLATE_)?MESSAGE_MAP.*?^END_MESSAGE_MAP", qualified, text, flags=re.M | re.S)
+
+
+class Batch:
+    """Sources with equal flags, checked as one text: reading and matching the system headers costs ten times what one
+    source costs. Sources whose names clash come back as compile errors and go into another batch."""
+
+    MESSAGE = re.compile(r"^([^:\n]+):(\d+):(\d+): (error|warning|note): (.*)$")
+
+    def __init__(self, files, flags):
+        self.files, self.flags = files, flags
+        name = hashlib.sha256(" ".join([*files, *flags]).encode()).hexdigest()[:16]
+        self.path = f"build/lint/batches/{name}.cpp"
+        self.starts = []
+        text = []
+        for path in files:
+            self.starts.append(len(text))
+            text += clang_text(open(path, encoding="utf-8").read()).split("\n") + [""]
+        os.makedirs(os.path.dirname(self.path), exist_ok=True)
+        open(self.path, "w", encoding="utf-8").write("\n".join(text))
+
+    def run(self, *options):
+        folders = sorted({os.path.dirname(path) for path in self.files})
+        near = sum((["-iquote", folder] for folder in folders), [])
+        command = ["clang-tidy", "--quiet", *options, self.path, "--", *near, *self.flags, "-ferror-limit=0"]
+        result = subprocess.run(command, capture_output=True, text=True)
+        return result.returncode, [self.translated(line) for line in result.stdout.split("\n")]
+
+    def translated(self, line):
+        """(source file or None, kind, line of output as if the source had been checked alone)"""
+        match = self.MESSAGE.match(line)
+        if not match:
+            return None, "", line
+        path, number, column, kind, rest = match.groups()
+        path = os.path.relpath(path, ROOT)
+        if path != self.path:
+            return path, kind, f"{path}:{number}:{column}: {kind}: {rest}"
+        index = bisect.bisect_left(self.starts, int(number)) - 1
+        source = self.files[index]
+        return source, kind, f"{source}:{int(number) - self.starts[index]}:{column}: {kind}: {rest}"
+
+
+def check_together(files, flags, passed):
+    """Splits files into batches that compile, checks them, calls passed(file) for each clean one; returns the
+    number of others."""
+    failures, pending = 0, list(files)
+    while pending:
+        take, pending = pending[:BATCH], pending[BATCH:]
+        while len(take) > 1:
+            _, lines = Batch(take, flags).run("--checks=-*,modernize-deprecated-headers")
+            clashing = {source for source, _, line in lines if "[clang-diagnostic-error]" in line} - {take[0]}
+            if not any("[clang-diagnostic-error]" in line for _, _, line in lines):
+                break
+            clashing = clashing & set(take) or set(take[1:])
+            pending += [path for path in take if path in clashing]
+            take = [path for path in take if path not in clashing]
+        code, lines = Batch(take, flags).run()
+        blamed = {source for source, kind, _ in lines if kind == "error"}
+        if code == 0 or blamed and blamed <= set(take):
+            for path in take:
+                if path not in blamed:
+                    passed(path)
+        if code:
+            failures += max(1, len(blamed))
+            print("\n".join(line for _, _, line in lines if line.strip()), flush=True)
+    return failures
+
+
+def tidy(wanted):
+    """wanted: beginnings of paths, or nothing for every source."""
+    ours = {path for path in listed("*.cpp") if not wanted or path.startswith(tuple(wanted))}
+    folder, settings = "build/lint/tidy", open(".clang-tidy").read()
+    os.makedirs(folder, exist_ok=True)
+    together, done, stamps = {}, set(), {}
     for build, cross in (("native", None), ("windows-release", cross_system_includes())):
         for entry in json.load(open(f"build/{build}/compile_commands.json")):
             path = os.path.relpath(entry["file"], ROOT)
-            if path in ours and path not in done:
-                done.add(path)
-                jobs.append((path, tidy_command(entry, cross), None))
+            if path not in ours or path in done:
+                continue
+            done.add(path)
+            flags = clang_flags(entry, cross)
+            key = hashlib.sha256((settings + " ".join(flags) + path + content_key(path)).encode()).hexdigest()
+            stamps[path] = os.path.join(folder, key)
+            if not os.path.exists(stamps[path]):
+                together.setdefault(tuple(flags), []).append(path)
     left = sorted(ours - done)
     if left:
         print("no build compiles: " + " ".join(left))
-    return run_all(jobs, open(".clang-tidy").read(), "build/lint/tidy") + len(left)
+
+    def passed(path):
+        open(stamps[path], "w").close()
+
+    jobs = [(files[at:at + 4 * BATCH], flags) for flags, files in together.items()
+            for at in range(0, len(files), 4 * BATCH)]
+    jobs.sort(key=lambda job: -len(job[0]))
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        failures = sum(pool.map(lambda job: check_together(*job, passed), jobs))
+    return failures + len(left)
 
 
-sys.exit(1 if {"headers": headers, "tidy": tidy}[sys.argv[1]]() else 0)
+sys.exit(1 if {"headers": headers, "tidy": lambda: tidy(sys.argv[2:])}[sys.argv[1]]() else 0)
