@@ -7,7 +7,9 @@
 namespace {
 
 constexpr std::uint32_t red = 0xFF0000;
+constexpr std::uint32_t green = 0x00FF00;
 constexpr std::uint32_t blue = 0x0000FF;
+constexpr std::uint32_t yellow = 0xFFFF00;
 
 /// Reads an element from a literal and gives it to the builder as the host would.
 class XmlElement {
@@ -259,27 +261,34 @@ TEST_F(RibbonBuilder, ButtonsOwnTheirIconsBlendNoneAndShowNoDescription) {
     }
 }
 
-/// Writes a red icon to the path of the button's large picture and a blue one to its alternate.
+void WriteIcon(const CString& path, int side, std::uint32_t colour) {
+    const std::filesystem::path file(path.GetString());
+    std::filesystem::create_directories(file.parent_path());
+    const std::string bytes = MakeIconFile(side, {colour, colour});
+    std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+/// A red icon at the path of the button's large picture and a blue one at its alternate.
 void WriteLargeIcons(const CMFCRibbonUNIcoButton& button) {
-    for (const std::uint32_t colour : {red, blue}) {
-        CString path = button.GetIconPath(TRUE);
-        if (colour == blue) {
-            ASSERT_GT(path.Replace(L"modle", L"modle_0"), 0);
-        }
-        const std::filesystem::path file(path.GetString());
-        std::filesystem::create_directories(file.parent_path());
-        const std::string bytes = MakeIconFile(32, {colour, colour});
-        std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    }
+    CString path = button.GetIconPath(TRUE);
+    WriteIcon(path, 32, red);
+    ASSERT_GT(path.Replace(L"modle", L"modle_0"), 0);
+    WriteIcon(path, 32, blue);
+}
+
+std::uint32_t ColourDrawn(CMFCRibbonUNIcoButton& button, CMFCRibbonBaseElement::RibbonImageType type) {
+    Canvas canvas;
+    const int side = type == CMFCRibbonBaseElement::RibbonImageLarge ? 32 : 16;
+    button.DrawImage(canvas.Dc(), type, CRect(0, 0, side, side));
+    return canvas.At(4, 4);
 }
 
 /// The colour of the large picture while the skin style selects the alternates.
 std::uint32_t AlternateColour(CMFCRibbonUNIcoButton& button) {
     CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
-    Canvas canvas;
-    button.DrawImage(canvas.Dc(), CMFCRibbonBaseElement::RibbonImageLarge, CRect(0, 0, 32, 32));
+    const std::uint32_t colour = ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageLarge);
     CMFCRibbonUNIcoButton::SetSkinStyle(CString());
-    return canvas.At(4, 4);
+    return colour;
 }
 
 TEST_F(RibbonBuilder, ButtonsAlternateIconsAreFormed) {
@@ -291,6 +300,40 @@ TEST_F(RibbonBuilder, ButtonsAlternateIconsAreFormed) {
         auto& button = static_cast<CMFCRibbonUNIcoButton&>(*made);
         WriteLargeIcons(button);
         EXPECT_EQ(AlternateColour(button), blue) << size;
+    }
+}
+
+/// An image of one colour in a category's list.
+void AddImage(CMFCToolBarImages& images, const TemporaryDirectory& directory, int side, std::uint32_t colour) {
+    images.SetImageSize(CSize(side, side));
+    const std::wstring file = directory.Write("image.ico", MakeIconFile(side, {colour, colour}));
+    const auto icon = static_cast<HICON>(::LoadImageW(nullptr, file.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE));
+    EXPECT_EQ(images.AddIcon(icon, TRUE), 0);
+    ::DestroyIcon(icon);
+}
+
+TEST_F(RibbonBuilder, ButtonWhoseLargeFileIsMissingDrawsFromItsImageIndexes) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' TYPE='BUTTON' PICPATH='late\\a.ico'/>")));
+    CMFCRibbonCategory& category = *m_bar.GetCategory(0);
+    AddImage(category.GetLargeImages(), m_installation.Directory(), 32, red);
+    AddImage(category.GetSmallImages(), m_installation.Directory(), 16, blue);
+    auto& button = static_cast<CMFCRibbonUNIcoButton&>(*Element(0));
+    button.SetImageIndex(0, TRUE);
+    button.SetImageIndex(0, FALSE);
+    WriteIcon(button.GetIconPath(FALSE), 16, green);
+    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageLarge), red);
+    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageSmall), blue) << "not from the small file either";
+    WriteIcon(button.GetIconPath(TRUE), 32, yellow);
+    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageLarge), yellow);
+    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageSmall), green);
+}
+
+TEST_F(RibbonBuilder, CategoryHasImagesOf16And32Pixels) {
+    ASSERT_TRUE(Load("<r><c KEYWORD='A' NAME=''/><c KEYWORD='B' NAME='' CateTab='Y'/></r>"));
+    for (int index : {0, 1}) {
+        EXPECT_EQ(m_bar.GetCategory(index)->GetImageSize(FALSE), CSize(16, 16));
+        EXPECT_EQ(m_bar.GetCategory(index)->GetImageSize(TRUE), CSize(32, 32));
+        EXPECT_EQ(m_bar.GetCategory(index)->GetImageCount(TRUE), 0);
     }
 }
 
