@@ -144,9 +144,11 @@ void CRecentDockSiteInfo::Init() {
 CRect& CRecentDockSiteInfo::GetRecentDockedRect(BOOL bForSlider) { return m_dockedRects[bForSlider ? 1 : 0]; }
 
 CRecentDockSiteInfo& CRecentDockSiteInfo::operator=(CRecentDockSiteInfo& src) {
-    SetInfo(FALSE, src);
-    SetInfo(TRUE, src);
-    m_rectRecentFloatingRect = src.m_rectRecentFloatingRect;
+    if (this != &src) {
+        SetInfo(FALSE, src);
+        SetInfo(TRUE, src);
+        m_rectRecentFloatingRect = src.m_rectRecentFloatingRect;
+    }
     return *this;
 }
 

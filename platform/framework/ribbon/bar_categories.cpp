@@ -18,7 +18,7 @@ CMFCRibbonCategory* CMFCRibbonBar::AddCategory(LPCTSTR lpszName, UINT uiSmallIma
         return nullptr;
     }
     category->CommonInit(this, lpszName, uiSmallImagesResID, uiLargeImagesResID, sizeSmallImage, sizeLargeImage);
-    object.release(); // the list of categories owns it from here
+    static_cast<void>(object.release()); // the list of categories owns it from here
     auto& categories = m_parts->categories;
     const bool appends = nInsertAt < 0 || static_cast<size_t>(nInsertAt) >= categories.size();
     categories.emplace(appends ? categories.end() : categories.begin() + nInsertAt, category);

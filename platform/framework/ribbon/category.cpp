@@ -103,7 +103,7 @@ CMFCRibbonPanel* CMFCRibbonCategory::AddPanel(LPCTSTR lpszPanelName, HICON hIcon
     if (panel == nullptr) {
         return nullptr;
     }
-    object.release(); // the list of panels owns it from here
+    static_cast<void>(object.release()); // the list of panels owns it from here
     m_parts->panels.emplace_back(panel);
     panel->CommonInit(this, lpszPanelName, hIcon);
     MarkLayoutDirty();
@@ -152,7 +152,7 @@ BOOL CMFCRibbonCategory::RemovePanel(int nIndex, BOOL bDelete) {
     if (!bDelete) {
         CClientDC dc(m_pParentRibbonBar);
         (*position)->Hide(&dc);
-        position->release(); // the caller owns it from here
+        static_cast<void>(position->release()); // the caller owns it from here
     }
     m_parts->panels.erase(position);
     MarkLayoutDirty();

@@ -110,7 +110,7 @@ BOOL CMFCRibbonPanel::InsertSeparator(int nIndex) {
     if (!Insert(separator.get(), nIndex)) {
         return FALSE;
     }
-    separator.release(); // the panel owns it from here
+    static_cast<void>(separator.release()); // the panel owns it from here
     return TRUE;
 }
 
