@@ -28,7 +28,7 @@ class BARWRIGHT_API CAddRibbonBar {
 public:
     using _RibbonInfo = RibbonInfo;
 
-    /// The installation directory; set by the first object made.
+    /// The installation directory with its closing separator; set by the first object made, if it was empty.
     static CString m_sAppPath;
     /// The hint that configured buttons get as their description: F1 shows a video of the command.
     static CString m_strHelpF1;
