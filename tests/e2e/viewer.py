@@ -33,11 +33,18 @@ class Viewer:
         self._program = subprocess.Popen(
             [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, "demo.exe"), "--size", "1280x800",
              "--record", self._record_file, *self._arguments], env=self._environment)
-        self.record = self.wait_for(lambda record: True)
+        try:
+            self.wait_for(lambda record: True)
+        except BaseException:
+            self.__exit__()
+            raise
         return self
 
     def __exit__(self, *_):
-        subprocess.run(["wineserver", "-k"], env=dict(self._environment, WINEPREFIX=self._environment["BARWRIGHT_WINEPREFIX"]))
+        # The next run would join a server that is still on its way out.
+        for option in ("-k", "-w"):
+            subprocess.run(["wineserver", option],
+                           env=dict(self._environment, WINEPREFIX=self._environment["BARWRIGHT_WINEPREFIX"]))
         self._program.wait()
         self._server.terminate()
         self._server.wait()
@@ -60,6 +67,13 @@ class Viewer:
                 pass
             time.sleep(0.05)
         raise AssertionError(f"no record met the condition in {DEADLINE} s; last one: {record and record['map']}")
+
+    def wait_until(self, condition, what):
+        end = time.monotonic() + DEADLINE
+        while not condition():
+            if time.monotonic() > end:
+                raise AssertionError(f"not within {DEADLINE} s: {what}")
+            time.sleep(0.1)
 
     def _xdotool(self, *words):
         subprocess.run(["xdotool", *map(str, words)], env=self._environment, check=True)
