@@ -46,8 +46,11 @@ public:
 
         auto* const frame = new CMainFrame(*options); // destroys itself with its window
         m_pMainWnd = frame;
-        if (!frame->CreateFrame())
+        if (!frame->CreateFrame()) {
+            std::fputs("demo: the window could not be made\n", stderr);
+            m_exitCode = 1;
             return FALSE;
+        }
         frame->ShowWindow(SW_SHOW);
         frame->UpdateWindow();
         frame->WriteRecord();

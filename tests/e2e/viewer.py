@@ -20,11 +20,12 @@ class Viewer:
 
     def __enter__(self):
         read_end, write_end = os.pipe()
-        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x900x24", "-nolisten", "tcp"],
+        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-noreset"],
                                         pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
-        display = os.read(read_end, 16).decode().strip()
-        os.close(read_end)
+        # The number may come in pieces; the line end closes it.
+        with os.fdopen(read_end) as numbers:
+            display = numbers.readline().strip()
         if not display:
             raise RuntimeError("Xvfb did not start")
         # A prefix of its own: Wine's desktop belongs to one display at a time.
