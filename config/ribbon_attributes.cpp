@@ -6,24 +6,27 @@
 #include <varnhold/strings.h>
 #include <varnhold/xml.h>
 
-#include <boost/lexical_cast/try_lexical_convert.hpp>
-
-#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
 #include <iterator>
 
 namespace {
+
+constexpr std::wstring_view c_helpExtension = L".swf";
 
 /// One attribute on its way into the record.
 struct Reading {
     const CXmlNodeWrapper& node;
     std::size_t index;
+    std::string_view utf8;
     RibbonInfo& info;
+    const CTranslationSection& texts;
     const FileDiagnostics& diagnostics;
     /// The keyword read so far, as it stands in the file: translations are looked up under it.
     std::string_view& keyword;
 
-    std::string_view Utf8() const { return node.GetAttributeValueUtf8(index); }
-    std::wstring Value() const { return string2wstring(Utf8()); }
+    std::wstring Value() const { return string2wstring(utf8); }
     void Warn(std::string_view code, std::wstring text) const {
         if (diagnostics.IsListening())
             diagnostics.Warn(node.GetAttributePosition(index), code, std::move(text));
@@ -35,30 +38,36 @@ using Taker = bool (*)(const Reading& reading);
 
 template <std::wstring RibbonInfo::*field>
 bool TakeText(const Reading& reading) {
-    reading.info.*field = reading.Value();
+    string2wstring(reading.utf8, reading.info.*field);
     return true;
 }
 
 bool TakeKeyword(const Reading& reading) {
-    reading.keyword = reading.Utf8();
+    reading.keyword = reading.utf8;
     return TakeText<&RibbonInfo::keyword>(reading);
 }
 
 template <std::wstring RibbonInfo::*field, int number>
 bool TakeTranslation(const Reading& reading) {
-    static const std::string section = "RibbonBarCfg";
-    static const CMultiLanguageMgr::Fallback noFallback;
     if (reading.keyword.empty())
         reading.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
-    reading.info.*field = CMultiLanguageMgr::translationW(std::string(reading.keyword), number, section, noFallback);
+    reading.texts.Translate(reading.keyword, number, reading.info.*field);
     return true;
+}
+
+/// The whole text, without blanks; a sign may stand before the digits.
+bool ToNumber(std::string_view text, std::int32_t& number) {
+    if (text.size() > 1 && text.front() == '+' && text[1] != '-')
+        text.remove_prefix(1);
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    return error == std::errc() && stop == end;
 }
 
 template <std::int32_t RibbonInfo::*field>
 bool TakeNumber(const Reading& reading) {
-    const std::string_view value = reading.Utf8();
     std::int32_t number = 0;
-    if (!boost::conversion::try_lexical_convert(value.data(), value.size(), number)) {
+    if (!ToNumber(reading.utf8, number)) {
         if (reading.diagnostics.IsListening())
             reading.diagnostics.Fail(
                 reading.node.GetAttributePosition(reading.index), "not-a-number",
@@ -71,14 +80,14 @@ bool TakeNumber(const Reading& reading) {
 }
 
 bool TakeGroupBefore(const Reading& reading) {
-    reading.info.groupBefore = EqualsIgnoringCase(reading.Utf8(), "Y");
+    reading.info.groupBefore = EqualsIgnoringCase(reading.utf8, "Y");
     if (reading.info.groupBefore && reading.index + 1 < reading.node.GetAttributeCount())
         reading.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
     return true;
 }
 
 bool TakeCateTab(const Reading& reading) {
-    const std::string_view value = reading.Utf8();
+    const std::string_view value = reading.utf8;
     if (EqualsIgnoringCase(value, "Y"))
         reading.info.cateTab = true;
     else if (EqualsIgnoringCase(value, "N"))
@@ -89,7 +98,7 @@ bool TakeCateTab(const Reading& reading) {
 }
 
 bool TakeAcceptF1(const Reading& reading) {
-    if (EqualsIgnoringCase(reading.Utf8(), "N"))
+    if (EqualsIgnoringCase(reading.utf8, "N"))
         reading.info.acceptF1 = false;
     return true;
 }
@@ -109,6 +118,12 @@ struct Attribute {
     Taker take;
 };
 
+constexpr std::size_t c_letterSlots = 32;
+
+/// Where a name's first letter, in either case, has its slot. Other characters share slots with letters.
+constexpr std::size_t SlotOf(char letter) { return static_cast<unsigned char>(letter) % c_letterSlots; }
+
+// Those of one first letter stand together, the more frequent ones first.
 constexpr Attribute attributes[] = {
     {"KEYWORD", TakeKeyword},
     {"IDKEY", TakeKeyword},
@@ -116,25 +131,45 @@ constexpr Attribute attributes[] = {
     {"TYPE", TakeText<&RibbonInfo::type>},
     {"TOOLTIP", TakeTranslation<&RibbonInfo::tooltip, 0>},
     {"PICPATH", TakeText<&RibbonInfo::picPath>},
+    {"PARAM", TakeText<&RibbonInfo::param>},
     {"PICDisPATH", TakeText<&RibbonInfo::picDisPath>},
     {"SIZE", TakeNumber<&RibbonInfo::size>},
     {"GROUPBEFORE", TakeGroupBefore},
     {"VALUEGROUP", TakeValueGroup},
     {"WIDTH", TakeNumber<&RibbonInfo::width>},
     {"CMD", TakeText<&RibbonInfo::cmd>},
-    {"PARAM", TakeText<&RibbonInfo::param>},
-    {"help", TakeText<&RibbonInfo::help>},
     {"CateTab", TakeCateTab},
+    {"help", TakeText<&RibbonInfo::help>},
     {"AcceptF1", TakeAcceptF1},
 };
 
+struct Span {
+    std::uint8_t begin = 0;
+    std::uint8_t end = 0;
+};
+
+/// The attributes of each first letter.
+constexpr std::array<Span, c_letterSlots> MakeSpans() {
+    std::array<Span, c_letterSlots> spans{};
+    for (std::uint8_t i = 0; i < std::size(attributes); ++i) {
+        Span& span = spans[SlotOf(attributes[i].name.front())];
+        if (span.end == 0)
+            span.begin = i;
+        span.end = static_cast<std::uint8_t>(i + 1);
+    }
+    return spans;
+}
+constexpr std::array<Span, c_letterSlots> c_spans = MakeSpans();
+
 const Attribute* FindAttribute(std::string_view name) {
-    // The length settles nearly every comparison without a call.
-    const auto* const found =
-        std::find_if(std::begin(attributes), std::end(attributes), [name](const Attribute& known) {
-            return known.name.size() == name.size() && EqualsIgnoringCase(known.name, name);
-        });
-    return found == std::end(attributes) ? nullptr : found;
+    const Span span = c_spans[name.empty() ? 0 : SlotOf(name.front())];
+    for (std::size_t i = span.begin; i < span.end; ++i) {
+        const std::string_view known = attributes[i].name;
+        // Nearly every name is written as it stands here.
+        if (known.size() == name.size() && (known == name || EqualsIgnoringCase(known, name)))
+            return &attributes[i];
+    }
+    return nullptr;
 }
 
 void Reset(RibbonInfo& info) {
@@ -153,15 +188,21 @@ void Reset(RibbonInfo& info) {
 
 bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDiagnostics& diagnostics) {
     Reset(info);
+    return ReadNewRibbonInfo(node, info, CTranslationSection(c_ribbonSection), diagnostics);
+}
+
+bool ReadNewRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const CTranslationSection& texts,
+                       const FileDiagnostics& diagnostics) {
     const std::size_t count = node.GetAttributeCount();
     if (count == 0)
         return false;
     std::string_view keyword;
     for (std::size_t i = 0; i < count; ++i) {
-        const Reading reading{node, i, info, diagnostics, keyword};
+        const varnhold::XmlAttributeView read = node.GetAttributeUtf8(i);
+        const Reading reading{node, i, read.value, info, texts, diagnostics, keyword};
         // Every attribute takes it back, so GROUPBEFORE counts only where it is the last one.
         info.groupBefore = false;
-        if (const Attribute* attribute = FindAttribute(node.GetAttributeNameUtf8(i))) {
+        if (const Attribute* attribute = FindAttribute(read.name)) {
             if (!attribute->take(reading))
                 return false;
         } else if (diagnostics.IsListening()) {
@@ -169,7 +210,9 @@ bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDia
                          L"\"" + node.GetAttributeName(i) + L"\" is not an attribute of a ribbon file");
         }
     }
-    if (info.help.empty() && info.acceptF1)
-        info.help = info.name + L".swf";
+    if (info.help.empty() && info.acceptF1) {
+        info.help.reserve(info.name.size() + c_helpExtension.size());
+        info.help.append(info.name).append(c_helpExtension);
+    }
     return true;
 }

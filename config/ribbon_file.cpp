@@ -4,6 +4,8 @@
 #include "config/element_kind.h"
 #include "config/ribbon_attributes.h"
 
+#include <varnhold/language.h>
+
 #include <array>
 
 namespace {
@@ -34,7 +36,7 @@ private:
         // Panels and sub-items are read into the record that was read before them.
         if (depth == PanelDepth || depth == SubItemDepth)
             CarryOver(parent.children.size() == 1 ? parent.info : parent.children.end()[-2].info, record.info);
-        ReadRibbonInfo(node, record.info, m_diagnostics);
+        ReadNewRibbonInfo(node, record.info, m_texts, m_diagnostics);
 
         if (depth == RowDepth)
             m_rowKind = KindOfRow(record.info.keyword);
@@ -80,6 +82,7 @@ private:
     std::array<RibbonRecord*, SubItemDepth + 1> m_open{};
     const std::size_t m_depthOfRoot;
     const FileDiagnostics& m_diagnostics;
+    const CTranslationSection m_texts{c_ribbonSection};
     RibbonRowKind m_rowKind = RibbonRowKind::Categories;
 };
 

@@ -2,15 +2,40 @@
 
 #include "varnhold/strings.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 
 namespace varnhold {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+class FileDescriptor {
+public:
+    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
+    ~FileDescriptor() {
+        if (IsOpen())
+            ::close(m_descriptor);
+    }
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    bool IsOpen() const { return m_descriptor >= 0; }
+    int Get() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+std::wstring DescribeError(int error) { return string2wstring(std::generic_category().message(error)); }
+
+} // namespace
 
 NativePath ToNativePath(const std::wstring& path) { return wstring2String(path); }
 NativePath ToNativePath(std::string_view utf8Path) { return std::string(utf8Path); }
@@ -18,24 +43,31 @@ NativePath ToNativePath(std::string_view utf8Path) { return std::string(utf8Path
 FileContent ReadWholeFile(const NativePath& path, std::size_t maxSize) {
     if (path.find('\0') != NativePath::npos)
         return {false, {}, L"the path holds a NUL character"};
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    if (!fs::exists(status))
-        return {false, {}, error ? string2wstring(error.message()) : L"the file does not exist"};
-    if (!fs::is_regular_file(status))
+    // Without blocking, or opening a pipe would wait for its writer.
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status {};
+    if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0)
+        return {false, {}, DescribeError(errno)};
+    if (!S_ISREG(status.st_mode))
         return {false, {}, L"this is not a file"};
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        return {false, {}, string2wstring(std::generic_category().message(errno))};
-    std::string content;
-    char block[65536];
-    while (file.read(block, sizeof block), file.gcount() > 0) {
-        content.append(block, static_cast<std::size_t>(file.gcount()));
-        if (content.size() > maxSize)
+    // One byte more than the file should have: where it stays unused, the end was reached in one read.
+    std::string content(std::min(static_cast<std::size_t>(status.st_size), maxSize) + 1, '\0');
+    std::size_t length = 0;
+    while (true) {
+        const ssize_t count = ::read(file.Get(), content.data() + length, content.size() - length);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return {false, {}, DescribeError(errno)};
+        length += static_cast<std::size_t>(count);
+        if (length > maxSize)
             return {false, {}, L"the file is longer than " + std::to_wstring(maxSize) + L" bytes"};
+        if (count == 0)
+            break;
+        if (length == content.size())
+            content.resize(std::min(2 * length, maxSize + 1));
     }
-    if (file.bad())
-        return {false, {}, L"the file could not be read"};
+    content.resize(length);
     return {true, std::move(content), {}};
 }
 

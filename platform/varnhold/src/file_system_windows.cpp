@@ -35,6 +35,13 @@ std::wstring DescribeError(DWORD error) {
     return length > 0 ? std::wstring(text, length) : L"system error " + std::to_wstring(error);
 }
 
+constexpr std::size_t c_longestRead = std::size_t(1) << 30;
+
+bool IsFolder(const NativePath& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 bool Contains(const std::wstring& text, wchar_t c) { return text.find(c) != std::wstring::npos; }
 
 std::wstring MakeFullPath(const std::wstring& path) {
@@ -68,26 +75,36 @@ NativePath ToNativePath(std::string_view utf8Path) { return ToNativePath(string2
 FileContent ReadWholeFile(const NativePath& path, std::size_t maxSize) {
     if (Contains(path, L'\0'))
         return {false, {}, L"the path holds a NUL character"};
-    const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY))
-        return {false, {}, L"this is not a file"};
     const FileHandle file(CreateFileW(path.c_str(), GENERIC_READ,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                       FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-    if (!file.IsOpen())
-        return {false, {}, DescribeError(GetLastError())};
+    if (!file.IsOpen()) {
+        const DWORD error = GetLastError();
+        return {false, {}, IsFolder(path) ? L"this is not a file" : DescribeError(error)};
+    }
     if (GetFileType(file.Get()) != FILE_TYPE_DISK)
         return {false, {}, L"this is not a file"};
-    std::string content;
-    char block[65536];
-    DWORD count = 0;
-    do {
-        if (!ReadFile(file.Get(), block, sizeof block, &count, nullptr))
+    LARGE_INTEGER size;
+    if (!GetFileSizeEx(file.Get(), &size))
+        return {false, {}, DescribeError(GetLastError())};
+    // One byte more than the file should have: where it stays unused, the end was reached in one read.
+    std::string content(std::min(static_cast<std::size_t>(size.QuadPart), maxSize) + 1, '\0');
+    std::size_t length = 0;
+    while (true) {
+        const std::size_t room = content.size() - length;
+        const DWORD asked = static_cast<DWORD>(std::min(room, c_longestRead));
+        DWORD count = 0;
+        if (!ReadFile(file.Get(), content.data() + length, asked, &count, nullptr))
             return {false, {}, DescribeError(GetLastError())};
-        content.append(block, count);
-        if (content.size() > maxSize)
+        length += count;
+        if (length > maxSize)
             return {false, {}, L"the file is longer than " + std::to_wstring(maxSize) + L" bytes"};
-    } while (count > 0);
+        if (count < asked)
+            break;
+        if (length == content.size())
+            content.resize(std::min(2 * length, maxSize + 1));
+    }
+    content.resize(length);
     return {true, std::move(content), {}};
 }
 

@@ -46,13 +46,24 @@ void Report(const std::wstring& problem) {
 
 constexpr int c_tooltipNumber = 0;
 
-std::string MakeUnitKey(const std::string& keyword, int number) {
-    std::string key = keyword;
-    if (number >= c_tooltipNumber) {
-        key += '.';
-        key += number == c_tooltipNumber ? "tooltip" : std::to_string(number);
-    }
-    return key;
+/// Null where there is no entry.
+const std::wstring* FindText(const LanguageTables& tables, std::string_view section, std::string_view keyword,
+                             int number) {
+    if (number < c_tooltipNumber)
+        return tables.Find(section, keyword);
+    const std::string suffix = number == c_tooltipNumber ? "tooltip" : std::to_string(number);
+    std::string key;
+    key.reserve(keyword.size() + 1 + suffix.size());
+    key.append(keyword).append(1, '.').append(suffix);
+    return tables.Find(section, key);
+}
+
+/// The text of a missing entry, for which there is no function to ask.
+void TakeDefault(std::string_view keyword, int number, std::wstring& text) {
+    if (number < c_tooltipNumber)
+        string2wstring(keyword, text);
+    else
+        text.clear();
 }
 
 wchar_t Lower(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
@@ -144,12 +155,25 @@ std::wstring CMultiLanguageMgr::translation(const wchar_t* text, const std::stri
 std::wstring CMultiLanguageMgr::translationW(const std::string& keyword, int number, const std::string& section,
                                              const Fallback& fallback) {
     if (const std::shared_ptr<const LanguageTables> tables = GetTables()) {
-        if (const std::wstring* text = tables->Find(section, MakeUnitKey(keyword, number)))
+        if (const std::wstring* text = FindText(*tables, section, keyword, number))
             return *text;
     }
     if (fallback)
         return fallback(keyword, number, section);
-    return number < c_tooltipNumber ? string2wstring(keyword) : std::wstring();
+    std::wstring text;
+    TakeDefault(keyword, number, text);
+    return text;
+}
+
+CTranslationSection::CTranslationSection(std::string_view section) : m_tables(GetTables()), m_section(section) {}
+
+CTranslationSection::~CTranslationSection() = default;
+
+void CTranslationSection::Translate(std::string_view keyword, int number, std::wstring& text) const {
+    if (const std::wstring* found = m_tables ? FindText(*m_tables, m_section, keyword, number) : nullptr)
+        text = *found;
+    else
+        TakeDefault(keyword, number, text);
 }
 
 bool CMultiLanguageMgr::SetLanguage(const std::wstring& code) {

@@ -126,13 +126,34 @@ std::string wstring2String(std::wstring_view text) {
 }
 
 std::wstring string2wstring(std::string_view text) {
+    std::wstring wide;
+    string2wstring(text, wide);
+    return wide;
+}
+
+void string2wstring(std::string_view text, std::wstring& wide) {
+    constexpr std::size_t shortLength = 64;
+    if (text.size() <= shortLength) {
+        // One pass and one heap block at most: nearly every text is short ASCII.
+        wchar_t letters[shortLength];
+        unsigned char bits = 0;
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            const auto byte = static_cast<unsigned char>(text[i]);
+            bits |= byte;
+            letters[i] = static_cast<wchar_t>(byte);
+        }
+        if (bits < 0x80) {
+            if (text.size() <= wide.capacity())
+                wide.assign(letters, text.size());
+            else
+                wide = std::wstring(letters, text.size()); // a block of the right size, not of twice the old one
+            return;
+        }
+    }
     std::size_t at = varnhold::CountAscii(text, 0);
-    if (at == text.size())
-        return std::wstring(text.begin(), text.end());
-    std::wstring result;
-    result.reserve(text.size());
-    result.assign(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at));
+    wide.clear();
+    wide.reserve(text.size());
+    wide.assign(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at));
     while (at < text.size())
-        varnhold::AppendWide(result, varnhold::NextFromUtf8(text, at));
-    return result;
+        varnhold::AppendWide(wide, varnhold::NextFromUtf8(text, at));
 }

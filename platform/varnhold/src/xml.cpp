@@ -42,6 +42,13 @@ std::string_view CXmlNodeWrapper::GetAttributeValueUtf8(std::size_t index) const
     return m_tree->GetAttribute(m_tree->GetElement(m_element), index).value();
 }
 
+varnhold::XmlAttributeView CXmlNodeWrapper::GetAttributeUtf8(std::size_t index) const noexcept {
+    if (index >= GetAttributeCount())
+        return {};
+    const pugi::xml_attribute attribute = m_tree->GetAttribute(m_tree->GetElement(m_element), index);
+    return {attribute.name(), attribute.value()};
+}
+
 std::wstring CXmlNodeWrapper::GetAttributeName(std::size_t index) const {
     return string2wstring(GetAttributeNameUtf8(index));
 }

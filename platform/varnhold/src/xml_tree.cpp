@@ -12,6 +12,11 @@ namespace {
 
 constexpr std::size_t c_blockSize = 1024;
 
+// Source bytes of a small element and of a small attribute: what the tables of a document are made ready for.
+constexpr std::size_t c_bytesPerElement = 64;
+constexpr std::size_t c_bytesPerAttribute = 16;
+constexpr std::size_t c_mostReadyElements = 65536;
+
 struct StatusText {
     pugi::xml_parse_status status;
     const wchar_t* text;
@@ -110,6 +115,9 @@ bool XmlTree::CheckTopLevel(pugi::xml_node& root, XmlFailure& failure) const {
 }
 
 bool XmlTree::LayOutElements(const pugi::xml_node& root, XmlFailure& failure) {
+    const std::size_t readyBytes = std::min(m_text.size(), c_mostReadyElements * c_bytesPerElement);
+    m_elements.reserve(readyBytes / c_bytesPerElement + 1);
+    m_attributes.reserve(readyBytes / c_bytesPerAttribute);
     m_elements.push_back({root});
     std::size_t depth = 1;
     std::size_t levelEnd = 1;

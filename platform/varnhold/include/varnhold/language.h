@@ -4,8 +4,14 @@
 
 #include <boost/function.hpp>
 
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
+
+namespace varnhold {
+class LanguageTables;
+}
 
 /// The translation service: the display texts of the current language, looked up by section and key.
 ///
@@ -64,4 +70,21 @@ public:
     static ProblemSink SetProblemSink(const ProblemSink& sink);
 
     CMultiLanguageMgr() = delete;
+};
+
+/// One section's texts in the language that was in force when it was made, for many lookups in a row: it takes the
+/// tables once and then no lock. A later change of language is not seen. May be used in any number of threads.
+class VARNHOLD_API CTranslationSection {
+public:
+    explicit CTranslationSection(std::string_view section);
+    ~CTranslationSection();
+    CTranslationSection(const CTranslationSection&) = delete;
+    CTranslationSection& operator=(const CTranslationSection&) = delete;
+
+    /// What CMultiLanguageMgr::translationW answers without a fallback function.
+    void Translate(std::string_view keyword, int number, std::wstring& text) const;
+
+private:
+    std::shared_ptr<const varnhold::LanguageTables> m_tables;
+    std::string m_section;
 };

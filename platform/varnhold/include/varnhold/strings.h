@@ -15,3 +15,6 @@ VARNHOLD_API std::string wstring2String(std::wstring_view text);
 
 /// Wide text of UTF-8.
 VARNHOLD_API std::wstring string2wstring(std::string_view text);
+
+/// The same into a text that is there already, without another one in between.
+VARNHOLD_API void string2wstring(std::string_view text, std::wstring& wide);

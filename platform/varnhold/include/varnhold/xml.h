@@ -17,6 +17,12 @@ struct TextPosition {
     std::size_t line = 0;
     std::size_t column = 0;
 };
+
+/// Name and value of an attribute, UTF-8.
+struct XmlAttributeView {
+    std::string_view name;
+    std::string_view value;
+};
 } // namespace varnhold
 
 /// One element of a document. A small value: copy it freely. It keeps what it refers to alive, also when its document
@@ -46,6 +52,7 @@ public:
     /// reference to no character (a surrogate, say) leaves broken UTF-8 in it.
     std::string_view GetAttributeNameUtf8(std::size_t index) const noexcept;
     std::string_view GetAttributeValueUtf8(std::size_t index) const noexcept;
+    varnhold::XmlAttributeView GetAttributeUtf8(std::size_t index) const noexcept;
 
     /// Where the element's "<" and an attribute's name stand in the file.
     varnhold::TextPosition GetPosition() const;
