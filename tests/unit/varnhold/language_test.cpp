@@ -192,6 +192,27 @@ TEST_F(Language, SwitchesAtRunTime) {
     EXPECT_EQ(Text("Map"), "Map");
 }
 
+TEST_F(Language, ASectionAnswersLikeTheServiceAndKeepsTheLanguageItWasMadeIn) {
+    const auto text = [](const CTranslationSection& section, const std::string& key, int number) {
+        std::wstring answer = L"what was there before";
+        section.Translate(key, number, answer);
+        return wstring2String(answer);
+    };
+    const CTranslationSection without("S");
+    LoadUnits(Unit("Map", "the map") + Unit("Map.tooltip", "shows the map") + Unit("Map.2", "two"));
+    const CTranslationSection section("S");
+    for (const char* key : {"Map", "Missing", ""}) {
+        for (const int number : {-1, 0, 1, 2})
+            EXPECT_EQ(text(section, key, number), Text(key, number)) << key << " " << number;
+    }
+    EXPECT_EQ(text(section, "Map", 0), "shows the map");
+    EXPECT_EQ(text(CTranslationSection("T"), "Map", -1), "Map");
+    EXPECT_EQ(text(without, "Map", 0), "");
+
+    ASSERT_TRUE(CMultiLanguageMgr::SetLanguage(L""));
+    EXPECT_EQ(text(section, "Map", 2), "two");
+}
+
 TEST_F(Language, SettingTheSameLanguageReadsItsFilesAnew) {
     LoadUnits(Unit("k", "old"));
     LoadUnits(Unit("k", "new"));

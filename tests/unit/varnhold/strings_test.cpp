@@ -93,6 +93,18 @@ TEST(Strings, TheFirstWideCharacterMayStandAnywhere) {
     }
 }
 
+TEST(Strings, AConversionIntoATextReplacesAllOfItAtEveryLength) {
+    for (const std::size_t length : {0u, 3u, 7u, 15u, 63u, 64u, 65u, 300u}) {
+        for (const std::size_t before : {0u, 5u, 64u, 400u}) {
+            std::wstring wide(before, L'z');
+            string2wstring(std::string(length, 'a'), wide);
+            EXPECT_EQ(wide, std::wstring(length, L'a')) << length << " over " << before;
+            string2wstring(std::string(length, 'a') + "\xE5\x9B\xBE", wide);
+            EXPECT_EQ(wide, std::wstring(length, L'a') + L"\x56FE") << length << " over " << before;
+        }
+    }
+}
+
 TEST(Strings, LoneSurrogatesBecomeReplacements) {
     const std::string replacement = "\xEF\xBF\xBD";
     const auto high = static_cast<wchar_t>(0xD83D);

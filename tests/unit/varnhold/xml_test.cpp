@@ -71,6 +71,10 @@ TEST(Xml, NarrowViewsOfAttributesAreUtf8AndOutliveTheirNodeObject) {
     const std::string_view value = document.GetDocumentElement().GetChild(0).GetAttributeValueUtf8(0);
     EXPECT_EQ(name, "\xE5\x9B\xBE");
     EXPECT_EQ(value, "\xE5\x9C\xB0<");
+    EXPECT_EQ(document.GetDocumentElement().GetChild(0).GetAttributeUtf8(0).name, name);
+    EXPECT_EQ(document.GetDocumentElement().GetChild(0).GetAttributeUtf8(0).value, value);
+    EXPECT_EQ(document.GetDocumentElement().GetChild(0).GetAttributeUtf8(1).name, "");
+    EXPECT_EQ(CXmlNodeWrapper().GetAttributeUtf8(0).value, "");
     EXPECT_EQ(document.GetDocumentElement().GetAttributeNameUtf8(0), "");
     EXPECT_EQ(CXmlNodeWrapper().GetAttributeValueUtf8(0), "");
 }
