@@ -75,6 +75,7 @@ TEST_F(RibbonBarTest, ElementsHaveAtLeastTheSizeThatTheyAskFor) {
 TEST_F(RibbonBarTest, TheSameWidthGivesTheSamePlaces) {
     SetClientWidth(430);
     std::vector<CRect> before;
+    before.reserve(4);
     for (int index = 0; index < 4; ++index) {
         before.push_back(Bar().GetCategory(0)->GetPanel(0)->GetElement(index)->GetRect());
     }
