@@ -20,7 +20,7 @@ public:
         }
         const int index = point.x / 100;
         tool->hwnd = m_hWnd;
-        tool->uId = static_cast<UINT_PTR>(10 + index);
+        tool->uId = 10 + static_cast<UINT_PTR>(index);
         tool->rect = CRect(index * 100, 0, index * 100 + 100, 50);
         tool->lpszText = LPSTR_TEXTCALLBACK;
         return 10 + index;
