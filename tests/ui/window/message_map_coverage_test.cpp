@@ -179,14 +179,15 @@ TEST(MessageMapTable, EveryMessageHasItsOwnEntry) {
 
 TEST(MessageMapTable, AWindowWithEveryBaseHandlerBehavesLikeOneWithout) {
     Everything window;
-    ASSERT_TRUE(window.CreateEx(0, nullptr, L"everything", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 120, 90, nullptr,
+    // Wider than the least width that the caption's buttons leave.
+    ASSERT_TRUE(window.CreateEx(0, nullptr, L"everything", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 10, 10, 320, 190, nullptr,
                                 nullptr));
     CString text;
     window.GetWindowText(text);
     EXPECT_STREQ(text, L"everything");
     CRect rect;
     window.GetWindowRect(&rect);
-    EXPECT_EQ(rect.Size(), CSize(120, 90));
+    EXPECT_EQ(rect.Size(), CSize(320, 190));
     EXPECT_EQ(window.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-500, -500)), HTNOWHERE);
     EXPECT_TRUE(window.DestroyWindow());
     EXPECT_EQ(window.m_hWnd, nullptr);
