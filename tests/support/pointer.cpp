@@ -39,16 +39,43 @@ LRESULT Deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam, POINT p
     return AfxPreTranslateMessage(&queued) ? 0 : ::SendMessage(window, message, wParam, lParam);
 }
 
+bool IsUnder(HWND window, POINT screen) {
+    RECT rect;
+    return ::IsWindowVisible(window) && ::IsWindowEnabled(window) && ::GetWindowRect(window, &rect) &&
+           ::PtInRect(&rect, screen);
+}
+
+bool LetsThrough(HWND window, POINT screen) {
+    return ::SendMessage(window, WM_NCHITTEST, 0, MAKELPARAM(screen.x, screen.y)) == HTTRANSPARENT;
+}
+
+/// The window itself or its deepest child under the point; null when it lets the pointer through.
+HWND DeepestUnder(HWND window, POINT screen) {
+    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        if (IsUnder(child, screen)) {
+            if (const HWND found = DeepestUnder(child, screen)) {
+                return found;
+            }
+        }
+    }
+    return LetsThrough(window, screen) ? nullptr : window;
+}
+
 } // namespace
 
 HWND Pointer::Target() const {
     if (HWND capture = ::GetCapture()) {
         return capture;
     }
-    const HWND window = ::WindowFromPoint(m_position);
-    DWORD process = 0;
-    const DWORD thread = window != nullptr ? ::GetWindowThreadProcessId(window, &process) : 0;
-    return thread == ::GetCurrentThreadId() ? window : nullptr;
+    // Not WindowFromPoint: another test's window may lie above ours on the desktop that all share.
+    for (HWND window = ::GetTopWindow(nullptr); window != nullptr; window = ::GetWindow(window, GW_HWNDNEXT)) {
+        if (::GetWindowThreadProcessId(window, nullptr) == ::GetCurrentThreadId() && IsUnder(window, m_position)) {
+            if (const HWND found = DeepestUnder(window, m_position)) {
+                return found;
+            }
+        }
+    }
+    return nullptr;
 }
 
 WPARAM Pointer::ButtonFlags() const { return m_held; }

@@ -15,7 +15,8 @@ protected:
         ASSERT_TRUE(bar.Create(&frame));
         bar.AddCategory(L"First", 0, 0);
         bar.AddCategory(L"Second", 0, 0);
-        frame.SetWindowPos(nullptr, 50, 50, 500, 400, SWP_NOZORDER);
+        // Above the windows of the tests that run at the same time.
+        frame.SetWindowPos(&CWnd::wndTopMost, 50, 50, 500, 400, 0);
         frame.ShowWindow(SW_SHOWNA);
         frame.RecalcLayout();
         bar.GetWindowRect(&area);
