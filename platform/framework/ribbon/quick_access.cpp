@@ -234,6 +234,10 @@ void CMFCRibbonQuickAccessToolBar::OnAfterChangeRect(CDC* pDC) {
 void CMFCRibbonQuickAccessToolBar::OnDraw(CDC* pDC) {
     const COLORREF previous =
         pDC->SetTextColor(CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(FALSE));
+    // The same images lie in the light panels below: on a dark row they need ground of their own.
+    if (!m_rectCommands.IsRectEmpty()) {
+        CMFCVisualManager::GetInstance()->OnDrawRibbonButtonsGroup(pDC, this, m_rectCommands);
+    }
     for (int position = 0; position < GetCount(); ++position) {
         if (!m_arButtons[position]->GetRect().IsRectEmpty() && pDC->RectVisible(m_arButtons[position]->GetRect())) {
             m_arButtons[position]->OnDraw(pDC);
