@@ -106,7 +106,7 @@ TEST(Checks, AFailedAssertReachesTheHandlerAndVerifyAlwaysEvaluates) {
     ASSERT(false && "expected to fail");
     int evaluated = 0;
     VERIFY(++evaluated == 1);
-    const CObject* const none = nullptr;
+    [[maybe_unused]] const CObject* const none = nullptr;
     ASSERT_VALID(none);
     AfxSetAssertHandler(before);
     EXPECT_EQ(evaluated, 1);
