@@ -151,10 +151,10 @@ struct Span {
 /// The attributes of each first letter.
 constexpr std::array<Span, c_letterSlots> MakeSpans() {
     std::array<Span, c_letterSlots> spans{};
-    for (std::uint8_t i = 0; i < std::size(attributes); ++i) {
+    for (std::size_t i = 0; i < std::size(attributes); ++i) {
         Span& span = spans[SlotOf(attributes[i].name.front())];
         if (span.end == 0)
-            span.begin = i;
+            span.begin = static_cast<std::uint8_t>(i);
         span.end = static_cast<std::uint8_t>(i + 1);
     }
     return spans;

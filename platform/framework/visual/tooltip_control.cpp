@@ -20,12 +20,12 @@ constexpr int g_corner = 4;
 class FontScope {
 public:
     FontScope(CDC* dc, const CFont& font) : m_dc(dc->GetSafeHdc()) {
-        if (font.GetSafeHandle() != NULL) {
+        if (font.GetSafeHandle() != nullptr) {
             m_previous = ::SelectObject(m_dc, font.GetSafeHandle());
         }
     }
     ~FontScope() {
-        if (m_previous != NULL) {
+        if (m_previous != nullptr) {
             ::SelectObject(m_dc, m_previous);
         }
     }
@@ -34,7 +34,7 @@ public:
 
 private:
     HDC m_dc;
-    HGDIOBJ m_previous = NULL;
+    HGDIOBJ m_previous = nullptr;
 };
 
 /// Text wrapped to the width, drawn with the selected font and text colour, or only measured.
@@ -80,7 +80,9 @@ CMFCToolTipCtrl::CMFCToolTipCtrl(CMFCToolTipInfo* pParams) { SetParams(pParams);
 
 CMFCToolTipCtrl::~CMFCToolTipCtrl() = default;
 
-void CMFCToolTipCtrl::SetParams(CMFCToolTipInfo* pParams) { m_Params = pParams != NULL ? *pParams : CMFCToolTipInfo(); }
+void CMFCToolTipCtrl::SetParams(CMFCToolTipInfo* pParams) {
+    m_Params = pParams != nullptr ? *pParams : CMFCToolTipInfo();
+}
 
 void CMFCToolTipCtrl::SetDescription(const CString strDesrciption) { m_strDescription = strDesrciption; }
 
@@ -94,7 +96,7 @@ void CMFCToolTipCtrl::SetFixedWidth(int nWidthRegular, int nWidthLargeImage) {
 }
 
 CSize CMFCToolTipCtrl::GetIconSize() {
-    if (m_pRibbonButton == NULL) {
+    if (m_pRibbonButton == nullptr) {
         return CSize(0, 0);
     }
     const bool isLarge = m_pRibbonButton->IsLargeImage() != FALSE;
@@ -103,7 +105,7 @@ CSize CMFCToolTipCtrl::GetIconSize() {
 }
 
 BOOL CMFCToolTipCtrl::OnDrawIcon(CDC* pDC, CRect rectImage) {
-    if (m_pRibbonButton == NULL || rectImage.IsRectEmpty()) {
+    if (m_pRibbonButton == nullptr || rectImage.IsRectEmpty()) {
         return FALSE;
     }
     const bool isLarge = m_pRibbonButton->IsLargeImage() != FALSE;
@@ -126,7 +128,7 @@ int CMFCToolTipCtrl::GetTextWidth() const {
 CSize CMFCToolTipCtrl::OnDrawLabel(CDC* pDC, CRect rect, BOOL bCalcOnly) {
     const FontScope font(pDC, m_Params.m_bBoldLabel ? afxGlobalData.fontBold : afxGlobalData.fontTooltip);
     // A label alone may be wider than a description: as wide as the tooltip may be.
-    const int widest = GetSafeHwnd() != NULL ? GetMaxTipWidth() : -1;
+    const int widest = GetSafeHwnd() != nullptr ? GetMaxTipWidth() : -1;
     const int width = IsDescriptionShown() ? GetTextWidth() : widest > 0 ? widest : ::GetSystemMetrics(SM_CXSCREEN) / 2;
     return DrawWrapped(pDC, m_strLabel, rect, width, bCalcOnly);
 }

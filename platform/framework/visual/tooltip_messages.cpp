@@ -47,9 +47,9 @@ ON_NOTIFY_REFLECT(TTN_POP, OnPop)
 END_MESSAGE_MAP()
 
 void CMFCToolTipCtrl::UpdateParams() {
-    CMFCVisualManager* manager = m_Params.m_bVislManagerTheme ? CMFCVisualManager::GetInstance() : NULL;
+    CMFCVisualManager* manager = m_Params.m_bVislManagerTheme ? CMFCVisualManager::GetInstance() : nullptr;
     CMFCToolTipInfo params;
-    if (manager != NULL && manager->GetToolTipInfo(params, m_nOwnerType)) {
+    if (manager != nullptr && manager->GetToolTipInfo(params, m_nOwnerType)) {
         m_Params = params;
         m_Params.m_bVislManagerTheme = TRUE;
     }
@@ -88,8 +88,8 @@ BOOL CMFCToolTipCtrl::PlaceForShow(CPoint ptScreen, CSize size) {
     const bool isFixed = ptScreen != g_nowhere;
     const CPoint wanted = isFixed ? ptScreen : CPoint(cursor.x, cursor.y + ::GetSystemMetrics(SM_CYCURSOR) * 2 / 3);
     int avoidTop = static_cast<int>(cursor.y) - 1;
-    const CMFCRibbonBar* bar = m_pRibbonButton != NULL ? m_pRibbonButton->GetTopLevelRibbonBar() : NULL;
-    if (bar != NULL && bar->GetSafeHwnd() != NULL) {
+    const CMFCRibbonBar* bar = m_pRibbonButton != nullptr ? m_pRibbonButton->GetTopLevelRibbonBar() : nullptr;
+    if (bar != nullptr && bar->GetSafeHwnd() != nullptr) {
         CRect area;
         bar->GetWindowRect(area);
         avoidTop = static_cast<int>(area.top);
@@ -97,7 +97,7 @@ BOOL CMFCToolTipCtrl::PlaceForShow(CPoint ptScreen, CSize size) {
     const CPoint corner = tooltip::KeepInside(wanted, size, WorkAreaAt(wanted), avoidTop);
     m_bMovedForShow = TRUE;
     m_rectShow = CRect(corner, size);
-    SetWindowPos(NULL, corner.x, corner.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(nullptr, corner.x, corner.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
     return m_bMovedForShow;
 }
 
@@ -128,8 +128,9 @@ void CMFCToolTipCtrl::OnSize(UINT nType, int cx, int cy) {
     }
     const int corner = afxGlobalData.ScalePixels(g_corner);
     // The window owns its region from here.
-    ::SetWindowRgn(
-        m_hWnd, m_Params.m_bRoundedCorners ? ::CreateRoundRectRgn(0, 0, cx + 1, cy + 1, corner, corner) : NULL, FALSE);
+    ::SetWindowRgn(m_hWnd,
+                   m_Params.m_bRoundedCorners ? ::CreateRoundRectRgn(0, 0, cx + 1, cy + 1, corner, corner) : nullptr,
+                   FALSE);
 }
 
 BOOL CMFCToolTipCtrl::OnEraseBkgnd(CDC* pDC) {
