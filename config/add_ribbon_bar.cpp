@@ -36,7 +36,7 @@ bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show)
     if (path.empty())
         return false;
     // The caller may have passed m_cfgPath itself.
-    const std::wstring newPath = path;
+    const std::wstring newPath = path; // NOLINT(performance-unnecessary-copy-initialization)
     m_cfgPath.clear();
     m_cmdList.clear();
     if (!bar)

@@ -6,7 +6,6 @@ namespace {
 
 using Phase = RibbonPanelLadder::Phase;
 using testing::Each;
-using testing::Field;
 
 const RibbonMetrics g_metrics = RibbonMetrics::FromFont(13, 1.0);
 
