@@ -1,25 +1,13 @@
 #include "options.h"
 
-#include <cwchar>
+#include "command_line.h"
+
 #include <functional>
 #include <map>
 
 namespace {
 
-bool ParseInt(const std::wstring& text, int& number) {
-    wchar_t* end = nullptr;
-    const long value = std::wcstol(text.c_str(), &end, 10);
-    if (text.empty() || *end != 0 || value < 0 || value > 100000)
-        return false;
-    number = static_cast<int>(value);
-    return true;
-}
-
-bool ParseSize(const std::wstring& text, int& width, int& height) {
-    const std::size_t cross = text.find(L'x');
-    return cross != std::wstring::npos && ParseInt(text.substr(0, cross), width) &&
-           ParseInt(text.substr(cross + 1), height) && width > 0 && height > 0;
-}
+constexpr int kLargest = 100000;
 
 } // namespace
 
@@ -37,9 +25,9 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
         {L"--skin", text(options.skin)},
         {L"--screenshot", text(options.screenshot)},
         {L"--record", text(options.record)},
-        {L"--size", [&](const std::wstring& v) { return ParseSize(v, options.width, options.height); }},
-        {L"--scale", [&](const std::wstring& v) { return ParseInt(v, options.scalePercent); }},
-        {L"--category", [&](const std::wstring& v) { return ParseInt(v, options.category); }},
+        {L"--size", [&](const std::wstring& v) { return ParseSize(v, kLargest, options.width, options.height); }},
+        {L"--scale", [&](const std::wstring& v) { return ParseInteger(v, 0, kLargest, options.scalePercent); }},
+        {L"--category", [&](const std::wstring& v) { return ParseInteger(v, 0, kLargest, options.category); }},
     };
     for (std::size_t i = 0; i < arguments.size(); i += 2) {
         const auto setter = setters.find(arguments[i]);

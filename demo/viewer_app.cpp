@@ -1,29 +1,14 @@
 #include "main_frame.h"
 #include "options.h"
+#include "command_line.h"
 #include "screenshot.h"
 
 #include "varnhold/language.h"
 #include "varnhold/message_box.h"
 #include "varnhold/strings.h"
 
-#include <shellapi.h>
-
 #include <cstdio>
 #include <optional>
-
-namespace {
-
-std::vector<std::wstring> CommandLine() {
-    int count = 0;
-    LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
-    std::vector<std::wstring> arguments;
-    for (int i = 1; i < count; ++i)
-        arguments.emplace_back(words[i]);
-    ::LocalFree(words);
-    return arguments;
-}
-
-} // namespace
 
 /// The map viewer.
 class CViewerApp : public CWinAppEx {
@@ -31,7 +16,7 @@ public:
     BOOL InitInstance() override {
         CWinAppEx::InitInstance();
         std::wstring error;
-        const std::optional<DemoOptions> options = ParseDemoOptions(CommandLine(), error);
+        const std::optional<DemoOptions> options = ParseDemoOptions(CommandLineWords(), error);
         if (!options) {
             std::fprintf(stderr, "demo: %s\n", wstring2String(error).c_str());
             m_exitCode = 2;

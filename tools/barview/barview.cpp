@@ -3,6 +3,7 @@
 #include "options.h"
 
 #include "add_ribbon_bar.h"
+#include "command_line.h"
 #include "frame_dump.h"
 #include "screenshot.h"
 
@@ -10,8 +11,6 @@
 #include "varnhold/language.h"
 #include "varnhold/message_box.h"
 #include "varnhold/strings.h"
-
-#include <shellapi.h>
 
 #include <cstdio>
 #include <memory>
@@ -22,16 +21,6 @@ constexpr int kLoadFailed = 1;
 constexpr int kWrongUsage = 2;
 
 void Complain(const std::wstring& text) { std::fprintf(stderr, "barview: %s\n", wstring2String(text).c_str()); }
-
-std::vector<std::wstring> CommandLine() {
-    int count = 0;
-    LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
-    std::vector<std::wstring> arguments;
-    for (int i = 1; i < count; ++i)
-        arguments.emplace_back(words[i]);
-    ::LocalFree(words);
-    return arguments;
-}
 
 /// The frame around the previewed bars. Every configured command is enabled, because no host is there to say otherwise.
 class CPreviewFrame : public CFrameWndEx {
@@ -107,7 +96,7 @@ public:
     BOOL InitInstance() override {
         CWinAppEx::InitInstance();
         std::wstring error;
-        std::optional<BarviewOptions> options = ParseBarviewOptions(CommandLine(), error);
+        std::optional<BarviewOptions> options = ParseBarviewOptions(CommandLineWords(), error);
         if (!options) {
             Complain(error);
             std::fputs(wstring2String(BarviewUsage()).c_str(), stderr);

@@ -1,28 +1,15 @@
 #include "options.h"
 
+#include "command_line.h"
+
 #include <algorithm>
-#include <cwchar>
 #include <filesystem>
 #include <functional>
 #include <map>
 
 namespace {
 
-bool ParseInt(const std::wstring& text, int low, int high, int& number) {
-    wchar_t* end = nullptr;
-    const long value = std::wcstol(text.c_str(), &end, 10);
-    if (text.empty() || *end != 0 || value < low || value > high)
-        return false;
-    number = static_cast<int>(value);
-    return true;
-}
-
-bool ParseSize(const std::wstring& text, int& width, int& height) {
-    constexpr int kLargest = 16384;
-    const std::size_t cross = text.find(L'x');
-    return cross != std::wstring::npos && ParseInt(text.substr(0, cross), 1, kLargest, width) &&
-           ParseInt(text.substr(cross + 1), 1, kLargest, height);
-}
+constexpr int kLargest = 16384;
 
 /// cfg\ribbon*.xml of the directory in name order, as paths relative to it.
 std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
@@ -69,8 +56,9 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
              options.skin = name;
              return name == L"black" || name == L"silver";
          }},
-        {L"--size", [&](const std::wstring& value) { return ParseSize(value, options.width, options.height); }},
-        {L"--scale", [&](const std::wstring& value) { return ParseInt(value, 50, 400, options.scalePercent); }},
+        {L"--size",
+         [&](const std::wstring& value) { return ParseSize(value, kLargest, options.width, options.height); }},
+        {L"--scale", [&](const std::wstring& value) { return ParseInteger(value, 50, 400, options.scalePercent); }},
         {L"--category", text(options.category)},
         {L"--screenshot", text(options.screenshot)},
         {L"--dump", text(options.dump)},
