@@ -147,7 +147,7 @@ TEST(Tooltip, RoundedOnesHaveARegion) {
     Stage stage(params);
     const CRect rect = stage.Show(L"Open", L"");
     const HRGN region = ::CreateRectRgn(0, 0, 0, 0);
-    EXPECT_NE(stage.tooltip.GetSafeHwnd() != NULL ? ::GetWindowRgn(stage.tooltip.m_hWnd, region) : ERROR, ERROR);
+    EXPECT_NE(stage.tooltip.GetSafeHwnd() != nullptr ? ::GetWindowRgn(stage.tooltip.m_hWnd, region) : ERROR, ERROR);
     EXPECT_FALSE(::PtInRegion(region, 0, 0));
     EXPECT_TRUE(::PtInRegion(region, rect.Width() / 2, 0));
     ::DeleteObject(region);
