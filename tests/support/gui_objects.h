@@ -1,0 +1,23 @@
+#pragma once
+
+#include <iosfwd>
+
+/// How many objects this process holds from the system, to be compared before and after. Reads the process's own handle
+/// tables where the system does not answer the question itself, so objects that no wrapper owns are counted as well.
+struct GuiObjects {
+    /// Bitmaps, brushes, fonts, pens, palettes, regions and device contexts; an icon's bitmaps are among them.
+    long gdi = 0;
+    /// Those GDI objects, device contexts and image lists that a wrapper owns.
+    long wrapped = 0;
+    /// Icons and cursors, shared ones included (the system loads those once and keeps them).
+    long icons = 0;
+    long menus = 0;
+    /// Windows of all kinds, message-only ones excepted.
+    long windows = 0;
+
+    friend bool operator==(const GuiObjects&, const GuiObjects&) = default;
+    friend std::ostream& operator<<(std::ostream& out, const GuiObjects& objects);
+};
+
+/// Deletes the calling thread's temporary wrappers first, which would count otherwise. Costs some 10 ms.
+GuiObjects CountGuiObjects();
