@@ -4,7 +4,9 @@
 #include "frame_dump.h"
 #include "menu_event.h"
 #include "menu_id_mgr.h"
+#include "picture_export.h"
 #include "ribbon_icon_button.h"
+#include "screenshot.h"
 
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"
@@ -28,6 +30,14 @@ constexpr std::array<Skin, 2> kSkins = {{{L"silver", CMFCVisualManagerOffice2007
                                          {L"black", CMFCVisualManagerOffice2007::Office2007_ObsidianBlack}}};
 
 std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "Viewer"); }
+
+/// The message with the name in place of its "%s".
+std::wstring WithName(std::wstring message, const std::wstring& name) {
+    const std::size_t mark = message.find(L"%s");
+    if (mark != std::wstring::npos)
+        message.replace(mark, 2, name);
+    return message;
+}
 
 std::wstring InstallationDirectory() {
     std::wstring path;
@@ -64,6 +74,7 @@ CMainFrame::CMainFrame(const DemoOptions& options)
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
     dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));
     dispatcher->addReactor(MakeLayerReactor(m_state));
+    dispatcher->addReactor(MakePictureReactor(m_state, *this));
     dispatcher->addReactor(MakeSettingsReactor(*this));
 }
 
@@ -172,14 +183,12 @@ std::wstring CMainFrame::PlaceText() const {
 }
 
 void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
-    std::wstring message = ViewerText("PlaceUnknown");
-    const std::size_t mark = message.find(L"%s");
-    if (mark != std::wstring::npos)
-        message.replace(mark, 2, text);
-    QKMessageBox(message, QK_MESSAGE_WARNING, GetSafeHwnd());
+    QKMessageBox(WithName(ViewerText("PlaceUnknown"), text), QK_MESSAGE_WARNING, GetSafeHwnd());
 }
 
 void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+
+void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
 
 void CMainFrame::SwitchLanguage(const std::wstring& code) {
     if (!CMultiLanguageMgr::SetLanguage(code))
@@ -213,3 +222,29 @@ void CMainFrame::SwitchIconStyle(const std::wstring& style) {
 }
 
 bool CMainFrame::IsIconStyle(const std::wstring& style) const { return m_iconStyle == style; }
+
+void CMainFrame::ToggleRibbonMinimized() { m_ribbon.ToggleMimimizeState(); }
+
+bool CMainFrame::IsRibbonMinimized() const { return (m_ribbon.GetHideFlags() & AFX_RIBBONBAR_HIDE_ELEMENTS) != 0; }
+
+void CMainFrame::ToggleQuickAccessBelow() {
+    m_ribbon.SetQuickAccessToolbarOnTop(!m_ribbon.IsQuickAccessToolbarOnTop());
+    RecalcLayout();
+}
+
+bool CMainFrame::IsQuickAccessBelow() const { return !m_ribbon.IsQuickAccessToolbarOnTop(); }
+
+void CMainFrame::CopyPicture() {
+    CBitmap picture;
+    if (m_map.MakePicture(picture))
+        PutPictureOnClipboard(GetSafeHwnd(), picture);
+}
+
+void CMainFrame::SavePicture() {
+    const std::wstring path = AskForPictureFile(GetSafeHwnd(), ViewerText("PictureFilter"));
+    CBitmap picture;
+    if (!path.empty() && !(m_map.MakePicture(picture) && WritePng(picture, path)))
+        QKMessageBox(WithName(ViewerText("PictureFailed"), path), QK_MESSAGE_WARNING, GetSafeHwnd());
+}
+
+void CMainFrame::CopyText(const std::wstring& text) { PutTextOnClipboard(GetSafeHwnd(), text); }

@@ -38,12 +38,20 @@ private:
     std::wstring PlaceText() const override;
     void TellPlaceUnknown(const std::wstring& text) override;
     void TellAbout() override;
+    void TellKeyboard() override;
     void SwitchLanguage(const std::wstring& code) override;
     bool IsLanguage(const std::wstring& code) const override;
     void SwitchSkin(const std::wstring& name) override;
     bool IsSkin(const std::wstring& name) const override;
     void SwitchIconStyle(const std::wstring& style) override;
     bool IsIconStyle(const std::wstring& style) const override;
+    void ToggleRibbonMinimized() override;
+    bool IsRibbonMinimized() const override;
+    void ToggleQuickAccessBelow() override;
+    bool IsQuickAccessBelow() const override;
+    void CopyPicture() override;
+    void SavePicture() override;
+    void CopyText(const std::wstring& text) override;
 
     DemoOptions m_options;
     MapData m_data;

@@ -351,9 +351,10 @@ void MapPainter::PaintShapes(HDC dc, const MapState& state, const MapPaintStyle&
     }
     graphics.SetSmoothingMode(state.IsSmooth() ? Gdiplus::SmoothingModeAntiAlias : Gdiplus::SmoothingModeNone);
     if (state.IsShown(MapLayer::Coast))
-        DrawRings(canvas, m_data.coast, hasRelief ? nullptr : &canvas.colors.land, canvas.colors.coast, 1);
+        DrawRings(canvas, m_data.coast, hasRelief ? nullptr : &canvas.colors.land, canvas.colors.coast,
+                  state.LineWidth());
     if (state.IsShown(MapLayer::Lakes))
-        DrawRings(canvas, m_data.lakes, &canvas.colors.lake, canvas.colors.lakeShore, 0.7);
+        DrawRings(canvas, m_data.lakes, &canvas.colors.lake, canvas.colors.lakeShore, 0.7 * state.LineWidth());
     if (state.IsShown(MapLayer::Graticule))
         DrawGraticuleLines(canvas);
     if (state.IsShown(MapLayer::Cities))
@@ -367,12 +368,14 @@ void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& 
     const Gdiplus::FontFamily family(style.chineseNames ? L"Microsoft YaHei UI" : L"Segoe UI");
     const Gdiplus::Font small(&family, canvas.Scaled(11), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font normal(&family, canvas.Scaled(12), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
+    const Gdiplus::Font names(&family, canvas.Scaled(state.NameSize()), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     TextPlaces places;
     if (state.IsShown(MapLayer::Graticule))
         DrawGraticuleNumbers(canvas, small, places);
     if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names))
-        DrawCityNames(canvas, m_data.cities, normal, places);
-    DrawScaleBar(canvas, normal);
+        DrawCityNames(canvas, m_data.cities, names, places);
+    if (state.IsShown(MapLayer::ScaleBar))
+        DrawScaleBar(canvas, normal);
 }
 
 void MapPainter::Paint(HDC dc, const MapState& state, const MapPaintStyle& style) {

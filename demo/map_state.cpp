@@ -138,13 +138,20 @@ void MapState::AddBookmark() {
     Changed();
 }
 
-bool MapState::NextBookmark() {
+bool MapState::StepBookmark(int direction) {
     if (m_bookmarks.empty())
         return false;
-    m_bookmarkPosition = (m_bookmarkPosition + 1) % m_bookmarks.size();
+    const std::size_t step = direction < 0 ? m_bookmarks.size() - 1 : 1;
+    m_bookmarkPosition = (m_bookmarkPosition + step) % m_bookmarks.size();
     m_view = m_bookmarks[m_bookmarkPosition];
     Remember();
     return true;
+}
+
+void MapState::ClearBookmarks() {
+    m_bookmarks.clear();
+    m_bookmarkPosition = 0;
+    Changed();
 }
 
 void MapState::Toggle(MapLayer layer) {
@@ -165,6 +172,16 @@ void MapState::SetGraticuleSpacing(int degrees) {
 
 void MapState::ToggleSmooth() {
     m_smooth = !m_smooth;
+    Changed();
+}
+
+void MapState::SetLineWidth(int times) {
+    m_lineWidth = std::clamp(times, kMinLineWidth, kMaxLineWidth);
+    Changed();
+}
+
+void MapState::SetNameSize(int pixels) {
+    m_nameSize = std::clamp(pixels, kMinNameSize, kMaxNameSize);
     Changed();
 }
 

@@ -24,7 +24,7 @@ struct MapView {
     double pixelsPerDegree = 4;
 };
 
-enum class MapLayer { Relief, Coast, Lakes, Graticule, Cities, Names, Count };
+enum class MapLayer { Relief, Coast, Lakes, Graticule, Cities, Names, ScaleBar, Count };
 enum class MapPalette { Natural, Night, Plain };
 
 /// Everything that the map window shows, as plain data: view, history, layers, palette, bookmarks. Knows no window; the
@@ -35,6 +35,10 @@ public:
     static constexpr double kMaxPixelsPerDegree = 120;
     /// Positions of a scale slider: 0 is the smallest scale, kSliderMax the largest, steps are equal factors.
     static constexpr int kSliderMax = 100;
+    static constexpr int kMinLineWidth = 1;
+    static constexpr int kMaxLineWidth = 3;
+    static constexpr int kMinNameSize = 8;
+    static constexpr int kMaxNameSize = 32;
 
     MapState();
 
@@ -62,7 +66,9 @@ public:
     bool CanStep(int direction) const noexcept;
 
     void AddBookmark();
-    bool NextBookmark();
+    /// Goes round the kept views: 1 forward, -1 back. False when there is none.
+    bool StepBookmark(int direction);
+    void ClearBookmarks();
     std::size_t BookmarkCount() const noexcept { return m_bookmarks.size(); }
 
     bool IsShown(MapLayer layer) const noexcept { return m_layers[static_cast<int>(layer)]; }
@@ -73,6 +79,12 @@ public:
     void SetGraticuleSpacing(int degrees);
     bool IsSmooth() const noexcept { return m_smooth; }
     void ToggleSmooth();
+    /// Times the plain width of coastlines and shores, kMinLineWidth to kMaxLineWidth.
+    int LineWidth() const noexcept { return m_lineWidth; }
+    void SetLineWidth(int times);
+    /// Height of the names in pixels at 96 DPI.
+    int NameSize() const noexcept { return m_nameSize; }
+    void SetNameSize(int pixels);
 
     int SliderPosition() const;
     void SetSliderPosition(int position);
@@ -99,10 +111,12 @@ private:
     std::size_t m_historyPosition = 0;
     std::vector<MapView> m_bookmarks;
     std::size_t m_bookmarkPosition = 0;
-    bool m_layers[static_cast<int>(MapLayer::Count)] = {true, true, true, true, true, true};
+    bool m_layers[static_cast<int>(MapLayer::Count)] = {true, true, true, true, true, true, true};
     MapPalette m_palette = MapPalette::Natural;
     int m_spacing = 15;
     bool m_smooth = true;
+    int m_lineWidth = 1;
+    int m_nameSize = 12;
     unsigned m_version = 1;
 };
 

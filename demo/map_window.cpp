@@ -59,6 +59,20 @@ void CMapWindow::OnPaint() {
     memory.SelectObject(earlier);
 }
 
+BOOL CMapWindow::MakePicture(CBitmap& picture) {
+    CClientDC screen(this);
+    CRect client;
+    GetClientRect(client);
+    if (client.IsRectEmpty() || !picture.CreateCompatibleBitmap(&screen, client.Width(), client.Height()))
+        return FALSE;
+    CDC memory;
+    memory.CreateCompatibleDC(&screen);
+    CBitmap* const earlier = memory.SelectObject(&picture);
+    m_painter.Paint(memory.GetSafeHdc(), m_state, m_style);
+    memory.SelectObject(earlier);
+    return TRUE;
+}
+
 BOOL CMapWindow::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CMapWindow::OnSize(UINT type, int width, int height) {

@@ -18,6 +18,8 @@ public:
     void SetStyle(const MapPaintStyle& style);
     /// Repaints when the state has changed since the last painting.
     void ShowState();
+    /// Draws the map as it is shown now into a new bitmap. FALSE when there is no room for one.
+    BOOL MakePicture(CBitmap& picture);
 
 protected:
     afx_msg void OnPaint();

@@ -3,10 +3,12 @@
 #include "map_data.h"
 #include "map_state.h"
 
+#include <boost/format.hpp>
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace {
 
@@ -14,12 +16,13 @@ struct LayerName {
     const wchar_t* parameter;
     MapLayer layer;
 };
-constexpr std::array<LayerName, 6> kLayers = {{{L"relief", MapLayer::Relief},
+constexpr std::array<LayerName, 7> kLayers = {{{L"relief", MapLayer::Relief},
                                                {L"coast", MapLayer::Coast},
                                                {L"lakes", MapLayer::Lakes},
                                                {L"graticule", MapLayer::Graticule},
                                                {L"cities", MapLayer::Cities},
-                                               {L"names", MapLayer::Names}}};
+                                               {L"names", MapLayer::Names},
+                                               {L"scalebar", MapLayer::ScaleBar}}};
 
 struct PaletteName {
     const wchar_t* parameter;
@@ -38,6 +41,14 @@ int Integer(const std::wstring& text) { return static_cast<int>(std::wcstol(text
 
 constexpr double kPlaceScale = 24; // pixels a degree: a city with its surroundings
 
+/// Shows a place with its surroundings.
+void Visit(MapState& state, GeoPoint place) {
+    const double half = state.WindowWidth() / kPlaceScale / 2;
+    const double halfHeight = state.WindowHeight() / kPlaceScale / 2;
+    state.Show(
+        {place.longitude - half, place.latitude - halfHeight, place.longitude + half, place.latitude + halfHeight});
+}
+
 void GoToPlace(MapState& state, const MapData& data, ViewerHost& host, bool isQuiet) {
     const std::wstring text = host.PlaceText();
     GeoPoint place;
@@ -50,10 +61,20 @@ void GoToPlace(MapState& state, const MapData& data, ViewerHost& host, bool isQu
             host.TellPlaceUnknown(text);
         return;
     }
-    const double half = state.WindowWidth() / kPlaceScale / 2;
-    const double halfHeight = state.WindowHeight() / kPlaceScale / 2;
-    state.Show(
-        {place.longitude - half, place.latitude - halfHeight, place.longitude + half, place.latitude + halfHeight});
+    Visit(state, place);
+}
+
+/// A command whose parameter is a number: it sets that value, and is checked while the value is the set one. Without a
+/// parameter it goes on to the next of the values, and round.
+template <class Get, class Set>
+void ServeValue(CCommandReactor& reactor, const wchar_t* command, std::vector<int> values, Get get, Set set) {
+    reactor.Serve(
+        command,
+        [=](const std::wstring& parameter) {
+            const auto larger = std::upper_bound(values.begin(), values.end(), get());
+            set(!parameter.empty() ? Integer(parameter) : larger == values.end() ? values.front() : *larger);
+        },
+        [=](const std::wstring& parameter) { return !parameter.empty() && get() == Integer(parameter); });
 }
 
 } // namespace
@@ -81,13 +102,19 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
     reactor->Serve(L"place", [&state, &data, &host](const std::wstring& parameter) {
         GoToPlace(state, data, host, parameter == L"quiet");
     });
+    reactor->Serve(L"visit", [&state](const std::wstring& parameter) {
+        if (const auto pair = ParsePair(parameter))
+            Visit(state, {pair->second, pair->first});
+    });
     reactor->Serve(
         L"bookmark",
         [&state](const std::wstring& what) {
             if (what == L"add")
                 state.AddBookmark();
+            else if (what == L"clear")
+                state.ClearBookmarks();
             else
-                state.NextBookmark();
+                state.StepBookmark(what == L"previous" ? -1 : 1);
         },
         nullptr, [&state](const std::wstring& what) { return what == L"add" || state.BookmarkCount() > 0; });
     return reactor;
@@ -125,6 +152,26 @@ boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state) {
     reactor->Serve(
         L"smooth", [&state](const std::wstring&) { state.ToggleSmooth(); },
         [&state](const std::wstring&) { return state.IsSmooth(); });
+    ServeValue(
+        *reactor, L"linewidth", {1, 2, 3}, [&state] { return state.LineWidth(); },
+        [&state](int times) { state.SetLineWidth(times); });
+    ServeValue(
+        *reactor, L"namesize", {9, 12, 16}, [&state] { return state.NameSize(); },
+        [&state](int pixels) { state.SetNameSize(pixels); });
+    return reactor;
+}
+
+boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, ViewerHost& host) {
+    auto reactor = boost::make_shared<CCommandReactor>();
+    reactor->Serve(L"picture", [&state, &host](const std::wstring& what) {
+        const GeoPoint center = state.View().center;
+        if (what == L"copy")
+            host.CopyPicture();
+        else if (what == L"save")
+            host.SavePicture();
+        else
+            host.CopyText((boost::wformat(L"%.4f, %.4f") % center.latitude % center.longitude).str());
+    });
     return reactor;
 }
 
@@ -139,6 +186,18 @@ boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host) {
     reactor->Serve(
         L"icons", [&host](const std::wstring& style) { host.SwitchIconStyle(style); },
         [&host](const std::wstring& style) { return host.IsIconStyle(style); });
+    reactor->Serve(
+        L"ribbon",
+        [&host](const std::wstring& what) {
+            if (what == L"below")
+                host.ToggleQuickAccessBelow();
+            else
+                host.ToggleRibbonMinimized();
+        },
+        [&host](const std::wstring& what) {
+            return what == L"below" ? host.IsQuickAccessBelow() : host.IsRibbonMinimized();
+        });
+    reactor->Serve(L"keyboard", [&host](const std::wstring&) { host.TellKeyboard(); });
     reactor->Serve(L"about", [&host](const std::wstring&) { host.TellAbout(); });
     return reactor;
 }

@@ -15,17 +15,29 @@ public:
     virtual std::wstring PlaceText() const = 0;
     virtual void TellPlaceUnknown(const std::wstring& text) = 0;
     virtual void TellAbout() = 0;
+    virtual void TellKeyboard() = 0;
     virtual void SwitchLanguage(const std::wstring& code) = 0;
     virtual bool IsLanguage(const std::wstring& code) const = 0;
     virtual void SwitchSkin(const std::wstring& name) = 0;
     virtual bool IsSkin(const std::wstring& name) const = 0;
     virtual void SwitchIconStyle(const std::wstring& style) = 0;
     virtual bool IsIconStyle(const std::wstring& style) const = 0;
+    virtual void ToggleRibbonMinimized() = 0;
+    virtual bool IsRibbonMinimized() const = 0;
+    virtual void ToggleQuickAccessBelow() = 0;
+    virtual bool IsQuickAccessBelow() const = 0;
+    /// A picture of the map as it is on the screen: to the clipboard, or to a file that the user names.
+    virtual void CopyPicture() = 0;
+    virtual void SavePicture() = 0;
+    /// Puts a text on the clipboard.
+    virtual void CopyText(const std::wstring& text) = 0;
 };
 
 /// Zooming, moving, going to places and regions, history and bookmarks.
 boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const MapData& data, ViewerHost& host);
 /// Layers, graticule and palette.
 boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state);
-/// Language, skin, icon style and help.
+/// Pictures and co-ordinates for other programs.
+boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, ViewerHost& host);
+/// Language, skin, icon style, ribbon and help.
 boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host);

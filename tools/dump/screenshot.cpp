@@ -36,10 +36,15 @@ GdiPlusSession::GdiPlusSession() {
 
 GdiPlusSession::~GdiPlusSession() { Gdiplus::GdiplusShutdown(m_token); }
 
+bool WritePng(HBITMAP bitmap, const std::wstring& path) {
+    CLSID encoder;
+    Gdiplus::Bitmap picture(bitmap, nullptr);
+    return FindPngEncoder(encoder) && picture.Save(path.c_str(), &encoder, nullptr) == Gdiplus::Ok;
+}
+
 bool WriteScreenshot(HWND window, const std::wstring& path) {
     CRect rect;
-    CLSID encoder;
-    if (!::GetWindowRect(window, rect) || rect.IsRectEmpty() || !FindPngEncoder(encoder))
+    if (!::GetWindowRect(window, rect) || rect.IsRectEmpty())
         return false;
     CBitmap bitmap;
     {
@@ -51,8 +56,7 @@ bool WriteScreenshot(HWND window, const std::wstring& path) {
         memory.BitBlt(0, 0, rect.Width(), rect.Height(), &source, 0, 0, SRCCOPY);
         memory.SelectObject(earlier);
     }
-    Gdiplus::Bitmap picture(static_cast<HBITMAP>(bitmap.GetSafeHandle()), nullptr);
-    return picture.Save(path.c_str(), &encoder, nullptr) == Gdiplus::Ok;
+    return WritePng(bitmap, path);
 }
 
 void SettleWindow(HWND window) {

@@ -16,6 +16,9 @@ private:
     ULONG_PTR m_token = 0;
 };
 
+/// Writes a bitmap into a PNG file. Needs a GdiPlusSession. False when the file cannot be written.
+bool WritePng(HBITMAP bitmap, const std::wstring& path);
+
 /// Writes what a shown window looks like now, frame and children included, into a PNG file. Needs a display and a
 /// GdiPlusSession. False when the window has no area or the file cannot be written.
 bool WriteScreenshot(HWND window, const std::wstring& path);

@@ -77,14 +77,49 @@ TEST(MapState, DragMakesOneHistoryEntry) {
 
 TEST(MapState, BookmarksGoRound) {
     MapState state = MakeState();
-    EXPECT_FALSE(state.NextBookmark());
+    EXPECT_FALSE(state.StepBookmark(1));
     state.AddBookmark();
     state.Zoom(4);
     state.AddBookmark();
-    ASSERT_TRUE(state.NextBookmark());
+    ASSERT_TRUE(state.StepBookmark(1));
     EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 2);
-    ASSERT_TRUE(state.NextBookmark());
+    ASSERT_TRUE(state.StepBookmark(1));
     EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 8);
+}
+
+TEST(MapState, BookmarksGoRoundTheOtherWay) {
+    MapState state = MakeState();
+    for (int i = 0; i < 3; ++i) {
+        state.AddBookmark();
+        state.Zoom(2);
+    }
+    ASSERT_TRUE(state.StepBookmark(-1));
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 4);
+    ASSERT_TRUE(state.StepBookmark(-1));
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 2);
+    ASSERT_TRUE(state.StepBookmark(-1));
+    EXPECT_DOUBLE_EQ(state.View().pixelsPerDegree, 8);
+}
+
+TEST(MapState, ClearedBookmarksLeadNowhere) {
+    MapState state = MakeState();
+    state.AddBookmark();
+    state.ClearBookmarks();
+    EXPECT_EQ(state.BookmarkCount(), 0u);
+    EXPECT_FALSE(state.StepBookmark(1));
+    EXPECT_FALSE(state.StepBookmark(-1));
+}
+
+TEST(MapState, LineWidthAndNameSizeStayWithinWhatCanBeRead) {
+    MapState state = MakeState();
+    state.SetLineWidth(99);
+    EXPECT_EQ(state.LineWidth(), MapState::kMaxLineWidth);
+    state.SetLineWidth(0);
+    EXPECT_EQ(state.LineWidth(), MapState::kMinLineWidth);
+    state.SetNameSize(1);
+    EXPECT_EQ(state.NameSize(), MapState::kMinNameSize);
+    state.SetNameSize(16);
+    EXPECT_EQ(state.NameSize(), 16);
 }
 
 TEST(MapState, WindowAndPlaceAreInverse) {
