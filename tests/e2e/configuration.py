@@ -93,14 +93,17 @@ class Expectation:
         # The framework adds no separator to an empty panel.
         if record["groupBefore"] and elements:
             elements.append({"class": "CMFCRibbonSeparator", "id": 0, "text": ""})
-        if record["type"].upper() == "GROUP":
-            children = []
-            for child in node:
-                record = self._record(child, record)
-                children.append(self._element(self._id(record), record))
-            elements.append({"class": "CMFCRibbonButtonsGroup", "id": 0, "text": "", "children": children})
-        else:
-            elements.append(self._element(identity, record))
+        kind = record["type"].upper()
+        element = {"class": "CMFCRibbonButtonsGroup", "id": 0, "text": ""} if kind == "GROUP" else self._element(identity, record)
+        if len(node) and kind not in ("GROUP", "BUTTON"):
+            return  # Only buttons and groups have children; anything else that has some is left out.
+        children = []
+        for child in node:
+            record = self._record(child, record)
+            children.append(self._element(self._id(record), record))
+        if children or kind == "GROUP":
+            element["children"] = children
+        elements.append(element)
 
     @staticmethod
     def _element(identity, record):

@@ -54,6 +54,7 @@ class DumpOfTheDemo(unittest.TestCase):
     def check_elements(self, got, want):
         self.assertEqual([e["class"] for e in got], [e["class"] for e in want])
         for element, expected in zip(got, want):
+            self.assertEqual("children" in element, "children" in expected, element)
             for key, value in expected.items():
                 if key == "children":
                     self.check_elements(element["children"], value)
