@@ -18,4 +18,5 @@
 #include "fx/controls.h"
 #include "fx/dialog.h"
 #include "fx/frame.h"
+#include "fx/mini_frame.h"
 #include "fx/mdi.h"

@@ -32,4 +32,5 @@ target_sources(framework PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/mdi_child_ex.cpp
   ${CMAKE_CURRENT_LIST_DIR}/mdi_frame.cpp
   ${CMAKE_CURRENT_LIST_DIR}/mdi_frame_ex.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/mini_frame.cpp
 )

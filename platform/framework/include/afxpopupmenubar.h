@@ -1,0 +1,117 @@
+#pragma once
+
+#include "afxtoolbar.h"
+#include "afxtoolbarmenubutton.h"
+
+class CMFCPopupMenu;
+
+/// The items of a pop-up menu: child window of a CMFCPopupMenu, which owns it. It imports a menu's items, tracks the
+/// mouse and keys over them, and opens the pop-ups of its items.
+class FRAMEWORK_API CMFCPopupMenuBar : public CMFCToolBar {
+    DECLARE_DYNCREATE(CMFCPopupMenuBar)
+
+public:
+    CMFCPopupMenuBar();
+    ~CMFCPopupMenuBar() override;
+
+    BOOL Create(CWnd* pParentWnd, DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP,
+                UINT nID = AFX_IDW_TOOLBAR) override;
+    using CMFCToolBar::Create;
+
+    // Items
+    /// Items of the menu, with texts, states and default item as they are now; hMenu stays the caller's. FALSE: hMenu
+    /// is no menu.
+    virtual BOOL ImportFromMenu(HMENU hMenu, BOOL bShowAllCommands = FALSE);
+    /// A new menu of the items, destroyed by the caller.
+    virtual HMENU ExportToMenu() const;
+    UINT GetDefaultMenuId() const { return m_uiDefMenuCmd; }
+    void SetDefaultMenuId(UINT uiCmd) { m_uiDefMenuCmd = uiCmd; }
+    void SetButtonStyle(int nIndex, UINT nStyle) override;
+    /// Index of the item chosen last in any menu, -1 when none was.
+    static int __stdcall GetLastCommandIndex() { return m_nLastCommandIndex; }
+
+    // Size and layout. CMFCPopupMenu::RecalcLayout asks CalcSize for the size of the whole list of items (pixels),
+    // gives the bar the room it has, and calls AdjustLocations, which places the items from -GetOffset() on.
+    CSize CalcSize(BOOL bVertDock) override;
+    CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
+    void AdjustLayout() override;
+    void AdjustLocations() override;
+    void AdjustSizeImmediate(BOOL bRecalcLayout = TRUE) override;
+    int GetRowHeight() const override;
+    /// Size of an image as it is drawn (scaled pixels).
+    virtual CSize GetCurrentMenuImageSize() const;
+    /// Pixels by which the items are scrolled up.
+    int GetOffset() const { return m_iOffset; }
+    void SetOffset(int iOffset);
+    /// Height of all items (pixels).
+    int GetContentHeight() const { return m_nContentHeight; }
+    /// Right edge of the column of images and check marks; 0 when there is none.
+    int GetGutterWidth() const;
+
+    // What kind of pop-up this is
+    BOOL IsDropDownListMode() const { return m_bDropDownListMode; }
+    BOOL IsPaletteMode() const { return FALSE; }
+    virtual BOOL IsRibbonPanel() const { return FALSE; }
+    virtual BOOL IsRibbonPanelInRegularMode() const { return FALSE; }
+
+    // Pop-ups of the items
+    void StartPopupMenuTimer(CMFCToolBarMenuButton* pMenuButton, int nDelayFactor = 1);
+    /// The open pop-up will close unless RestoreDelayedSubMenu comes in time.
+    virtual void CloseDelayedSubMenu();
+    virtual void RestoreDelayedSubMenu();
+
+    // Input, called for the active menu. TRUE: the key or character is used.
+    virtual BOOL OnKey(UINT nChar);
+    BOOL TranslateChar(UINT nChar) override;
+    /// TRUE: the wheel has scrolled or changed something. Otherwise the menu swallows it.
+    virtual BOOL OnWheel(short zDelta);
+    /// Makes the first item hot when no other is, as after opening by a key.
+    virtual void SelectFirstItem();
+
+    void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
+    /// The menu around this bar; NULL while the bar has none.
+    CMFCPopupMenu* GetParentPopup() const;
+
+    BOOL m_bDisableSideBarInXPMode = FALSE; ///< no column for images
+
+protected:
+    void DoPaint(CDC* pDC) override;
+    void DrawSeparator(CDC* pDC, const CRect& rect, BOOL bHorz) override;
+    void OnChangeHot(int iHot) override;
+    BOOL OnSendCommand(const CMFCToolBarButton* pButton) override;
+    CWnd* GetCommandTarget() const override;
+    BOOL OnUserToolTip(CMFCToolBarButton*, CString&) const override { return FALSE; }
+    INT_PTR OnToolHitTest(CPoint, TOOLINFO*) const override { return -1; }
+    /// Fills the client area behind the items.
+    void OnFillBackground(CDC* pDC) override;
+    /// The item at the index is chosen, by mouse or key; `this` may be gone afterwards.
+    virtual void ChooseItem(int iIndex);
+    /// Next item to make hot from iFrom in direction nStep; -1 when no item can be.
+    int FindSelectable(int iFrom, int nStep) const;
+    virtual void MakeVisible(int iIndex);
+    BOOL OpenSubMenu(int iIndex, BOOL bSelectFirst);
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
+    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
+    DECLARE_MESSAGE_MAP()
+
+    UINT m_uiDefMenuCmd = 0;
+    int m_iOffset = 0;
+    int m_nContentHeight = 0;
+    BOOL m_bDropDownListMode = FALSE;                             ///< plain rows without gutter and mnemonics
+    CMFCToolBarMenuButton* m_pDelayedPopupMenuButton = NULL;      ///< to open when the timer ends
+    CMFCToolBarMenuButton* m_pDelayedClosePopupMenuButton = NULL; ///< to close when the timer ends
+
+    static int m_nLastCommandIndex;
+
+    friend class CMFCPopupMenu;
+    friend class CMFCToolBarMenuButton;
+};
