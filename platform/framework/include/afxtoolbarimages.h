@@ -44,6 +44,8 @@ public:
     /// A BMP or PNG file; a file larger than nMaxFileSize bytes (0: any) is refused.
     BOOL Load(LPCTSTR lpszBmpFileName, DWORD nMaxFileSize = 819200);
     BOOL LoadStr(LPCTSTR lpszResourceName, HINSTANCE hinstRes = NULL, BOOL bAdd = FALSE);
+    /// The images of the list, at its size, instead of those that were there. FALSE when it has none.
+    BOOL CreateFromImageList(const CImageList& imageList);
     BOOL CopyTo(CMFCToolBarImages& imageList);
     BOOL DeleteImage(int iImage);
     void Clear();
@@ -66,6 +68,16 @@ public:
     int GetResourceOffset(UINT uiResId) const;
     /// A new icon, destroyed by the caller. NULL when there is no such image.
     HICON ExtractIcon(int nIndex);
+    /// A new monochrome bitmap, deleted by the caller: 1 where the image is clear. NULL when there is no such image.
+    HBITMAP GetMask(int iImage);
+
+    // Users' own images: lists that were loaded from a file
+    /// Writes a BMP file; without a name the one that the images came from. FALSE for images that are not the user's
+    /// own, or when the file cannot be written.
+    BOOL Save(LPCTSTR lpszBmpFileName = NULL);
+    /// Replaces one image; FALSE unless these are the user's own and the bitmap has their size.
+    BOOL UpdateImage(int iImage, HBITMAP hbmp);
+    BOOL CopyImageToClipboard(int iImage);
 
     // Drawing
     /// Begin a series of Draw calls; FALSE when there are no images. sizeImageDest 0: natural size (times the scale of
@@ -89,6 +101,23 @@ public:
     BOOL IsScaled() const { return m_dblScale != 1.0; }
     double GetScale() const { return m_dblScale; }
     void OnSysColorChange();
+    /// Moves all colours by the way from the base to the tone: what was clrBase becomes clrTone.
+    void AdaptColors(COLORREF clrBase, COLORREF clrTone);
+    /// Replaces one colour, or, without a source, black, the two greys and white by the system's button colours. FALSE
+    /// for lists with alpha and those that SetMapTo3DColors switched it off for. bUseRGBQUAD changes nothing here.
+    BOOL MapTo3dColors(BOOL bUseRGBQUAD = TRUE, COLORREF clrSrc = (COLORREF)-1, COLORREF clrDest = (COLORREF)-1);
+    /// Black, dark grey, light grey and white to button text, shadow, face and highlight; others stay. With
+    /// bUseRGBQUAD colours are read and given back as 0x00RRGGBB.
+    static COLORREF __stdcall MapToSysColor(COLORREF color, BOOL bUseRGBQUAD = TRUE);
+    static COLORREF __stdcall MapFromSysColor(COLORREF color, BOOL bUseRGBQUAD = TRUE);
+
+    // Single bitmaps
+    /// The pixels of another colour, in the bitmap's co-ordinates; deleted by the caller. NULL when there are none.
+    static HRGN __stdcall CreateRegionFromImage(HBITMAP bmp, COLORREF clrTransparent);
+    /// Turn each image of a strip, cxImage (cyImage) pixels wide (high), and replace the bitmap by a new one; the old
+    /// one is deleted. FALSE, with nothing changed, for a bitmap that does not hold whole images.
+    static BOOL MirrorBitmap(HBITMAP& hbmp, int cxImage);
+    static BOOL __stdcall MirrorBitmapVert(HBITMAP& hbmp, int cyImage);
 
     // Looks
     void SetAlwaysLight(BOOL bAlwaysLight = TRUE) { m_bAlwaysLight = bAlwaysLight; }
@@ -108,6 +137,11 @@ public:
     static BOOL IsRTL() { return m_bIsRTL; }
 
     static BOOL m_bDisableTrueColorAlpha;
+
+protected:
+    /// Multiplies the colours of a 32-bit bitmap by their alpha; with bAutoCheckPremlt only when they are not yet.
+    static BOOL __stdcall PreMultiplyAlpha(HBITMAP hbmp, BOOL bAutoCheckPremlt);
+    BOOL PreMultiplyAlpha(HBITMAP hbmp);
 
 private:
     /// Joins a strip of images, a top-down 32-bit bitmap that the list takes over; FALSE (and deleted) when it cannot.

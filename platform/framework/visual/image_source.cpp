@@ -1,6 +1,7 @@
 #include "visual/image_source.h"
 
 #include <algorithm>
+#include <cstring>
 #include <objidl.h>
 #include <gdiplus.h>
 #include <shlwapi.h>
@@ -68,6 +69,41 @@ PixelView ViewOf(HBITMAP bitmap) {
         return {};
     GdiFlush();
     return {static_cast<std::uint32_t*>(info.bmBits), info.bmWidth, info.bmHeight};
+}
+
+void CopyPixels(const PixelView& source, const RECT& from, const PixelView& target, int left) {
+    const int width = from.right - from.left, height = from.bottom - from.top;
+    for (int y = 0; y < std::min(height, target.height); ++y)
+        for (int x = 0; x < width && left + x < target.width; ++x)
+            if (from.left + x < source.width && from.top + y < source.height)
+                target.At(left + x, y) = source.At(from.left + x, from.top + y);
+}
+
+std::vector<BYTE> BitmapFileFrom(const PixelView& view) {
+    const std::size_t rowSize = static_cast<std::size_t>(view.width) * sizeof(std::uint32_t);
+    constexpr std::size_t headerSize = sizeof(BITMAPFILEHEADER) + sizeof(BITMAPINFOHEADER);
+    std::vector<BYTE> file(headerSize + rowSize * view.height);
+    BITMAPFILEHEADER header = {};
+    header.bfType = 0x4D42; // "BM"
+    header.bfSize = static_cast<DWORD>(file.size());
+    header.bfOffBits = headerSize;
+    BITMAPINFOHEADER info = {};
+    info.biSize = sizeof(info);
+    info.biWidth = view.width;
+    info.biHeight = view.height;
+    info.biPlanes = 1;
+    info.biBitCount = 32;
+    std::memcpy(file.data(), &header, sizeof(header));
+    std::memcpy(file.data() + sizeof(header), &info, sizeof(info));
+    for (int y = 0; y < view.height; ++y)
+        std::memcpy(file.data() + headerSize + rowSize * (view.height - 1 - y), &view.At(0, y), rowSize);
+    return file;
+}
+
+HBITMAP CopyBitmap32(HBITMAP bitmap) {
+    std::uint32_t* bits = nullptr;
+    BITMAP info{};
+    return CopyRows(bitmap, &bits, info);
 }
 
 Picture PictureFromBitmap(HBITMAP bitmap, bool isMultiplied) {

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+using visual::CopyPixels;
 using visual::Picture;
 using visual::PixelView;
 using visual::ViewOf;
@@ -17,17 +18,6 @@ BOOL CMFCToolBarImages::m_bDisableTrueColorAlpha = FALSE;
 BYTE CMFCToolBarImages::m_nDisabledImageAlpha = 127;
 BYTE CMFCToolBarImages::m_nFadedImageAlpha = 150;
 BOOL CMFCToolBarImages::m_bIsRTL = FALSE;
-
-namespace {
-
-void CopyPixels(const PixelView& source, const CRect& from, const PixelView& target, int left) {
-    for (int y = 0; y < std::min<int>(from.Height(), target.height); ++y)
-        for (int x = 0; x < from.Width() && left + x < target.width; ++x)
-            if (from.left + x < source.width && from.top + y < source.height)
-                target.At(left + x, y) = source.At(from.left + x, from.top + y);
-}
-
-} // namespace
 
 CMFCToolBarImages::CMFCToolBarImages() = default;
 
