@@ -33,3 +33,6 @@ private:
     static bool s_isShowAll;
     static CString s_delimiter;
 };
+
+/// The manager that exists now, or null.
+FRAMEWORK_API extern CKeyboardManager* afxKeyboardManager;

@@ -76,9 +76,14 @@ CString TextOf(const ACCEL& entry) {
 
 } // namespace
 
-CKeyboardManager::CKeyboardManager() = default;
+CKeyboardManager* afxKeyboardManager = nullptr;
 
-CKeyboardManager::~CKeyboardManager() = default;
+CKeyboardManager::CKeyboardManager() {
+    ASSERT(afxKeyboardManager == nullptr);
+    afxKeyboardManager = this;
+}
+
+CKeyboardManager::~CKeyboardManager() { afxKeyboardManager = nullptr; }
 
 BOOL CKeyboardManager::UpdateAccelTable(CMultiDocTemplate*, HACCEL hAccelNew, CFrameWnd* pDefaultFrame) {
     CFrameWnd* frame = FrameOrMain(pDefaultFrame);

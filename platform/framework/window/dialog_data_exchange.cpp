@@ -1,6 +1,7 @@
 #include "afxcmn.h"
 #include "afxwin.h"
 #include "fx/ddx.h"
+#include "window/dialog_data_failure.h"
 
 #include <cerrno>
 #include <cfloat>
@@ -25,16 +26,6 @@ void SetText(HWND control, const CString& text) {
     if (TextOf(control) != text) {
         ::SetWindowTextW(control, text);
     }
-}
-
-/// Tells the user and fails. The application's own string wins over the built-in one.
-void FailWith(CDataExchange* exchange, UINT messageId, LPCTSTR otherwise) {
-    CString text;
-    if (!text.LoadString(messageId)) {
-        text = otherwise;
-    }
-    AfxMessageBox(text, MB_OK | MB_ICONEXCLAMATION, messageId);
-    exchange->Fail();
 }
 
 /// The whole text must be the number; blanks around it are allowed.
@@ -71,8 +62,8 @@ void ExchangeInteger(CDataExchange* exchange, int control, Number& value) {
     }
     if (!ParseInteger(TextOf(window), value)) {
         const bool isSigned = std::numeric_limits<Number>::is_signed;
-        FailWith(exchange, isSigned ? AFX_IDP_PARSE_INT : AFX_IDP_PARSE_UINT,
-                 isSigned ? L"Please enter an integer." : L"Please enter a positive integer.");
+        FailDataExchange(*exchange, isSigned ? AFX_IDP_PARSE_INT : AFX_IDP_PARSE_UINT,
+                         isSigned ? L"Please enter an integer." : L"Please enter a positive integer.");
     }
 }
 
@@ -90,7 +81,7 @@ void ExchangeReal(CDataExchange* exchange, int control, Number& value, int digit
     wchar_t* rest = nullptr;
     const double parsed = std::wcstod(start, &rest);
     if (rest == start || !IsRestBlank(rest)) {
-        FailWith(exchange, AFX_IDP_PARSE_REAL, L"Please enter a number.");
+        FailDataExchange(*exchange, AFX_IDP_PARSE_REAL, L"Please enter a number.");
     }
     value = static_cast<Number>(parsed);
 }
@@ -103,6 +94,13 @@ void ExchangeIndex(CDataExchange* exchange, int control, UINT getMessage, UINT s
     } else {
         ::SendMessageW(window, setMessage, static_cast<WPARAM>(index), 0);
     }
+}
+
+/// Chooses the item whose text is exactly the value, whatever the case.
+void SelectExact(HWND window, UINT findMessage, UINT setMessage, const CString& value) {
+    const LRESULT found = ::SendMessageW(window, findMessage, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(static_cast<LPCTSTR>(value)));
+    ::SendMessageW(window, setMessage, static_cast<WPARAM>(found), 0);
 }
 
 } // namespace
@@ -209,6 +207,26 @@ void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value) {
     }
 }
 
+void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
+    const HWND window = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        value = TextOf(window);
+        return;
+    }
+    SelectExact(window, CB_FINDSTRINGEXACT, CB_SETCURSEL, value);
+    if (::SendMessageW(window, CB_GETCURSEL, 0, 0) == CB_ERR) {
+        SetText(window, value);
+    }
+}
+
+void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value) {
+    if (pDX->m_bSaveAndValidate) {
+        DDX_LBString(pDX, nIDC, value);
+    } else {
+        SelectExact(pDX->PrepareCtrl(nIDC), LB_FINDSTRINGEXACT, LB_SETCURSEL, value);
+    }
+}
+
 void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value) {
     const HWND window = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
@@ -225,40 +243,4 @@ void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value) {
     } else {
         ::SendMessageW(window, TBM_SETPOS, TRUE, value);
     }
-}
-
-void AFXAPI DDV_MaxChars(CDataExchange* pDX, CString const& value, int nChars) {
-    if (!pDX->m_bSaveAndValidate || value.GetLength() <= nChars) {
-        return;
-    }
-    CString text;
-    text.Format(L"Please enter no more than %d characters.", nChars);
-    FailWith(pDX, AFX_IDP_PARSE_STRING_SIZE, text);
-}
-
-void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal) {
-    if (!pDX->m_bSaveAndValidate || (value >= minVal && value <= maxVal)) {
-        return;
-    }
-    CString text;
-    text.Format(L"Please enter an integer between %d and %d.", minVal, maxVal);
-    FailWith(pDX, AFX_IDP_PARSE_INT_RANGE, text);
-}
-
-void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal) {
-    if (!pDX->m_bSaveAndValidate || (value >= minVal && value <= maxVal)) {
-        return;
-    }
-    CString text;
-    text.Format(L"Please enter an integer between %u and %u.", minVal, maxVal);
-    FailWith(pDX, AFX_IDP_PARSE_INT_RANGE, text);
-}
-
-void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal, double maxVal) {
-    if (!pDX->m_bSaveAndValidate || (value >= minVal && value <= maxVal)) {
-        return;
-    }
-    CString text;
-    text.Format(L"Please enter a number between %g and %g.", minVal, maxVal);
-    FailWith(pDX, AFX_IDP_PARSE_REAL_RANGE, text);
 }

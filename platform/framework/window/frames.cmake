@@ -19,6 +19,7 @@ target_sources(framework PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/control_tool_tip_control.cpp
   ${CMAKE_CURRENT_LIST_DIR}/control_tree_control.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialog_data_exchange.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/dialog_data_validation.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialog_ex.cpp
   ${CMAKE_CURRENT_LIST_DIR}/dialog_window.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_control_bar.cpp

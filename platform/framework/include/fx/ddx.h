@@ -21,12 +21,25 @@ FRAMEWORK_API void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
 FRAMEWORK_API void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
 FRAMEWORK_API void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index);
 FRAMEWORK_API void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value);
+/// A text of another case is the same; one that only begins with the value is not.
+FRAMEWORK_API void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value);
 FRAMEWORK_API void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index);
 FRAMEWORK_API void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value);
+FRAMEWORK_API void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value);
 FRAMEWORK_API void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
 FRAMEWORK_API void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
 
+/// Values are checked when the dialog is read; one that is wrong is reported by a message box and fails.
 FRAMEWORK_API void AFXAPI DDV_MaxChars(CDataExchange* pDX, CString const& value, int nChars);
+FRAMEWORK_API void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD const& value, DWORD minVal, DWORD maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxUnsigned(CDataExchange* pDX, unsigned value, unsigned minVal, unsigned maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, float value, float minVal, float maxVal);
 FRAMEWORK_API void AFXAPI DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal, double maxVal);
+FRAMEWORK_API void AFXAPI DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
