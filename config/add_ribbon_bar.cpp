@@ -45,7 +45,7 @@ bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show)
     if (!FileOp::GetAppPath(directory))
         return false;
     const std::wstring fullPath = directory + newPath;
-    std::vector<RibbonRecord> rows;
+    RibbonRecords rows;
     if (!LoadRibbonFile(fullPath, rows, DroppedDiagnostics())) {
         ShowMissingFileMessage(fullPath);
         return false;
@@ -53,7 +53,7 @@ bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show)
 
     m_cfgPath = newPath;
     const int countBefore = bar->GetCategoryCount();
-    for (const RibbonRecord& row : rows)
+    for (const RibbonRecord& row : rows.top)
         AddRow(row, *bar);
     const int countAfter = bar->GetCategoryCount();
     if (countAfter > countBefore) {
@@ -71,13 +71,13 @@ void CAddRibbonBar::AddRow(const RibbonRecord& row, CMFCRibbonBar& bar) {
     switch (KindOfRow(row.info.keyword)) {
     case RibbonRowKind::QuickAccess:
         for (const RibbonRecord& item : row.children)
-            m_qaKeywords.push_back(item.info.keyword);
+            m_qaKeywords.emplace_back(item.info.keyword);
         break;
     case RibbonRowKind::StatusButtons: {
         std::vector<_RibbonInfo> buttons;
         for (const RibbonRecord& button : row.children)
-            buttons.push_back(button.info);
-        m_smStatusExBtns[m_cfgPath] = {row.info.keyword, std::move(buttons)};
+            buttons.push_back(ToRibbonInfo(button.info));
+        m_smStatusExBtns[m_cfgPath] = {std::wstring(row.info.keyword), std::move(buttons)};
         break;
     }
     case RibbonRowKind::Categories:
@@ -88,20 +88,21 @@ void CAddRibbonBar::AddRow(const RibbonRecord& row, CMFCRibbonBar& bar) {
 }
 
 void CAddRibbonBar::AddCategory(const RibbonRecord& category, CMFCRibbonBar& bar) {
-    m_cmdList.push_back(category.info.cmd);
-    CRuntimeClass* const extended = category.info.cateTab ? nullptr : RUNTIME_CLASS(CMFCRibbonCategoryEx);
+    const RibbonInfo info = ToRibbonInfo(category.info);
+    m_cmdList.push_back(info.cmd);
+    CRuntimeClass* const extended = info.cateTab ? nullptr : RUNTIME_CLASS(CMFCRibbonCategoryEx);
     CMFCRibbonCategory* const added =
-        bar.AddCategory(category.info.name.c_str(), 0, 0, CSize(16, 16), CSize(32, 32), -1, extended);
+        bar.AddCategory(info.name.c_str(), 0, 0, CSize(16, 16), CSize(32, 32), -1, extended);
     if (extended) {
-        const int id = ObtainCommandId(category.info, HelpOffer::No);
+        const int id = ObtainCommandId(info, HelpOffer::No);
         if (auto* const addedExtended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, added))
             addedExtended->SetID(static_cast<UINT>(id));
     }
     if (!added)
         return;
     for (const RibbonRecord& panel : category.children) {
-        m_cmdList.push_back(panel.info.cmd);
-        CMFCRibbonPanel* const addedPanel = added->AddPanel(panel.info.name.c_str());
+        m_cmdList.emplace_back(panel.info.cmd);
+        CMFCRibbonPanel* const addedPanel = added->AddPanel(panel.info.name.data());
         if (!addedPanel)
             continue;
         for (const RibbonRecord& element : panel.children)
@@ -131,28 +132,30 @@ bool CAddRibbonBar::GetRowInfo(const CXmlNodeWrapper& node, _RibbonInfo& info) c
 
 void CAddRibbonBar::AddList(const CXmlNodeWrapper& node, CMFCRibbonPanel* panel) {
     if (panel)
-        AddElement(ReadRibbonElement(node, Unreported()), *panel);
+        AddElement(ReadRibbonElement(node, Unreported()).top.front(), *panel);
 }
 
 void CAddRibbonBar::AddElement(const RibbonRecord& element, CMFCRibbonPanel& panel) {
-    m_cmdList.push_back(element.info.cmd);
-    const auto id = static_cast<unsigned int>(ObtainCommandId(element.info, HelpOffer::Yes));
-    if (element.info.groupBefore)
+    const RibbonInfo info = ToRibbonInfo(element.info);
+    m_cmdList.push_back(info.cmd);
+    const auto id = static_cast<unsigned int>(ObtainCommandId(info, HelpOffer::Yes));
+    if (info.groupBefore)
         panel.AddSeparator();
     CMFCRibbonBaseElement* const created =
-        element.children.empty() ? CreateACtrl(id, element.info, this) : CreateWithSubItems(element, id);
+        element.children.empty() ? CreateACtrl(id, info, this) : CreateWithSubItems(info, element.children, id);
     // The panel owns the element from here on.
     if (created)
         panel.Add(created);
 }
 
-CMFCRibbonBaseElement* CAddRibbonBar::CreateWithSubItems(const RibbonRecord& element, unsigned int id) {
+CMFCRibbonBaseElement* CAddRibbonBar::CreateWithSubItems(const RibbonInfo& element,
+                                                         std::span<const RibbonRecord> subItems, unsigned int id) {
     CMFCRibbonUNIcoButton* button = nullptr;
     CMFCRibbonButtonsGroup* group = nullptr;
-    switch (KindOfElement(element.info.type)) {
+    switch (KindOfElement(element.type)) {
     case ElementKind::Button:
         // Every element of this kind is an icon-file button, the small one too.
-        button = static_cast<CMFCRibbonUNIcoButton*>(CreateACtrl(id, element.info, this));
+        button = static_cast<CMFCRibbonUNIcoButton*>(CreateACtrl(id, element, this));
         break;
     case ElementKind::Group:
         group = new CMFCRibbonButtonsGroup;
@@ -160,10 +163,11 @@ CMFCRibbonBaseElement* CAddRibbonBar::CreateWithSubItems(const RibbonRecord& ele
     default:
         return nullptr;
     }
-    for (const RibbonRecord& subItem : element.children) {
-        m_cmdList.push_back(subItem.info.cmd);
-        const auto subId = static_cast<unsigned int>(ObtainCommandId(subItem.info, HelpOffer::Yes));
-        CMFCRibbonBaseElement* const created = CreateACtrl(subId, subItem.info, this);
+    for (const RibbonRecord& subItem : subItems) {
+        const RibbonInfo info = ToRibbonInfo(subItem.info);
+        m_cmdList.push_back(info.cmd);
+        const auto subId = static_cast<unsigned int>(ObtainCommandId(info, HelpOffer::Yes));
+        CMFCRibbonBaseElement* const created = CreateACtrl(subId, info, this);
         // Button and group own what is added to them.
         if (created && button)
             button->AddSubItem(created, -1);

@@ -3,30 +3,24 @@
 #include <varnhold/xml.h>
 
 #include <cstddef>
-#include <vector>
 
-/// Visits the elements below `root` in document order; the children of `root` are at depth 1. `visit(node, depth)`
-/// returns whether the node's children are visited too. Depth is limited by memory only, not by the stack.
+/// Visits the elements below `root` in document order; the children of `root` are at depth 1. `visit(element, depth)`
+/// returns whether the element's children are visited too; it may read from the cursor, but not move it. Depth takes
+/// neither stack nor memory.
 template <class Visit>
-void WalkBelow(const CXmlNodeWrapper& root, Visit visit) {
-    struct Level {
-        CXmlNodeWrapper parent;
-        std::size_t count;
-        std::size_t next;
-    };
-    std::vector<Level> path;
-    path.push_back({root, root.GetChildCount(), 0});
-    while (!path.empty()) {
-        Level& level = path.back();
-        if (level.next == level.count) {
-            path.pop_back();
+void WalkBelow(varnhold::XmlCursor root, Visit visit) {
+    varnhold::XmlCursor& at = root;
+    if (!at.ToFirstChild())
+        return;
+    for (std::size_t depth = 1;;) {
+        if (visit(at, depth) && at.ToFirstChild()) {
+            ++depth;
             continue;
         }
-        CXmlNodeWrapper node = level.parent.GetChild(level.next++);
-        if (visit(static_cast<const CXmlNodeWrapper&>(node), path.size())) {
-            const std::size_t count = node.GetChildCount();
-            if (count)
-                path.push_back({std::move(node), count, 0});
+        while (!at.ToNextSibling()) {
+            if (--depth == 0)
+                return;
+            at.ToParent();
         }
     }
 }

@@ -6,6 +6,7 @@
 #include <varnhold/strings.h>
 #include <varnhold/xml.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
@@ -16,42 +17,47 @@ namespace {
 constexpr std::wstring_view c_helpExtension = L".swf";
 
 /// One attribute on its way into the record.
-struct Reading {
-    const CXmlNodeWrapper& node;
+struct Attribute {
+    const varnhold::XmlCursor& element;
     std::size_t index;
+    std::size_t count;
     std::string_view utf8;
-    RibbonInfo& info;
-    const CTranslationSection& texts;
-    const FileDiagnostics& diagnostics;
+    RibbonTexts& info;
+    const RibbonReading& reading;
     /// The keyword read so far, as it stands in the file: translations are looked up under it.
     std::string_view& keyword;
 
-    std::wstring Value() const { return string2wstring(utf8); }
+    varnhold::TextPosition Position() const { return element.GetAttributePosition(index); }
     void Warn(std::string_view code, std::wstring text) const {
-        if (diagnostics.IsListening())
-            diagnostics.Warn(node.GetAttributePosition(index), code, std::move(text));
+        if (reading.diagnostics.IsListening())
+            reading.diagnostics.Warn(Position(), code, std::move(text));
     }
 };
 
 /// False: the rest of the element must not be read.
-using Taker = bool (*)(const Reading& reading);
+using Taker = bool (*)(const Attribute& attribute);
 
-template <std::wstring RibbonInfo::*field>
-bool TakeText(const Reading& reading) {
-    string2wstring(reading.utf8, reading.info.*field);
+template <std::wstring_view RibbonTexts::*field>
+bool TakeText(const Attribute& attribute) {
+    attribute.info.*field = attribute.reading.arena.Widen(attribute.utf8);
     return true;
 }
 
-bool TakeKeyword(const Reading& reading) {
-    reading.keyword = reading.utf8;
-    return TakeText<&RibbonInfo::keyword>(reading);
+bool TakeKeyword(const Attribute& attribute) {
+    attribute.keyword = attribute.utf8;
+    return TakeText<&RibbonTexts::keyword>(attribute);
 }
 
-template <std::wstring RibbonInfo::*field, int number>
-bool TakeTranslation(const Reading& reading) {
-    if (reading.keyword.empty())
-        reading.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
-    reading.texts.Translate(reading.keyword, number, reading.info.*field);
+template <std::wstring_view RibbonTexts::*field, int number>
+bool TakeTranslation(const Attribute& attribute) {
+    if (attribute.keyword.empty())
+        attribute.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
+    if (const std::wstring* text = attribute.reading.translations.Find(attribute.keyword, number))
+        attribute.info.*field = attribute.reading.arena.Join(*text, {});
+    else if (CTranslationSection::ShowsMissingKey(number))
+        attribute.info.*field = attribute.info.keyword;
+    else
+        attribute.info.*field = L"";
     return true;
 }
 
@@ -64,56 +70,60 @@ bool ToNumber(std::string_view text, std::int32_t& number) {
     return error == std::errc() && stop == end;
 }
 
-template <std::int32_t RibbonInfo::*field>
-bool TakeNumber(const Reading& reading) {
+template <std::int32_t RibbonTexts::*field>
+bool TakeNumber(const Attribute& attribute) {
     std::int32_t number = 0;
-    if (!ToNumber(reading.utf8, number)) {
-        if (reading.diagnostics.IsListening())
-            reading.diagnostics.Fail(
-                reading.node.GetAttributePosition(reading.index), "not-a-number",
-                L"\"" + reading.Value() +
-                    L"\" is not a decimal number of 32 bits; the attributes after it are not read");
+    if (!ToNumber(attribute.utf8, number)) {
+        const FileDiagnostics& diagnostics = attribute.reading.diagnostics;
+        if (diagnostics.IsListening())
+            diagnostics.Fail(attribute.Position(), "not-a-number",
+                             L"\"" + string2wstring(attribute.utf8) +
+                                 L"\" is not a decimal number of 32 bits; the attributes after it are not read");
         return false;
     }
-    reading.info.*field = number;
+    attribute.info.*field = number;
     return true;
 }
 
-bool TakeGroupBefore(const Reading& reading) {
-    reading.info.groupBefore = EqualsIgnoringCase(reading.utf8, "Y");
-    if (reading.info.groupBefore && reading.index + 1 < reading.node.GetAttributeCount())
-        reading.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
+bool TakeGroupBefore(const Attribute& attribute) {
+    attribute.info.groupBefore = EqualsIgnoringCase(attribute.utf8, "Y");
+    if (attribute.info.groupBefore && attribute.index + 1 < attribute.count)
+        attribute.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
     return true;
 }
 
-bool TakeCateTab(const Reading& reading) {
-    const std::string_view value = reading.utf8;
+bool TakeCateTab(const Attribute& attribute) {
+    const std::string_view value = attribute.utf8;
     if (EqualsIgnoringCase(value, "Y"))
-        reading.info.cateTab = true;
+        attribute.info.cateTab = true;
     else if (EqualsIgnoringCase(value, "N"))
-        reading.info.cateTab = false;
+        attribute.info.cateTab = false;
     else
-        reading.Warn("not-yes-or-no", L"\"" + reading.Value() + L"\" is neither Y nor N");
+        attribute.Warn("not-yes-or-no", L"\"" + string2wstring(value) + L"\" is neither Y nor N");
     return true;
 }
 
-bool TakeAcceptF1(const Reading& reading) {
-    if (EqualsIgnoringCase(reading.utf8, "N"))
-        reading.info.acceptF1 = false;
+bool TakeAcceptF1(const Attribute& attribute) {
+    if (EqualsIgnoringCase(attribute.utf8, "N"))
+        attribute.info.acceptF1 = false;
     return true;
 }
 
-bool TakeValueGroup(const Reading& reading) {
-    const std::wstring value = reading.Value();
-    reading.info.valueGroup.clear();
-    std::size_t begin = 0;
-    for (std::size_t comma; (comma = value.find(L',', begin)) != std::wstring::npos; begin = comma + 1)
-        reading.info.valueGroup.push_back(value.substr(begin, comma - begin));
-    reading.info.valueGroup.push_back(value.substr(begin));
+bool TakeValueGroup(const Attribute& attribute) {
+    TextArena& arena = attribute.reading.arena;
+    std::string_view rest = attribute.utf8;
+    const auto commas = static_cast<std::size_t>(std::count(rest.begin(), rest.end(), ','));
+    const std::span<std::wstring_view> pieces = arena.MakeArray<std::wstring_view>(commas + 1);
+    for (std::wstring_view& piece : pieces) {
+        const std::size_t comma = std::min(rest.find(','), rest.size());
+        piece = arena.Widen(rest.substr(0, comma));
+        rest.remove_prefix(std::min(comma + 1, rest.size()));
+    }
+    attribute.info.valueGroup = pieces;
     return true;
 }
 
-struct Attribute {
+struct KnownAttribute {
     std::string_view name;
     Taker take;
 };
@@ -124,22 +134,22 @@ constexpr std::size_t c_letterSlots = 32;
 constexpr std::size_t SlotOf(char letter) { return static_cast<unsigned char>(letter) % c_letterSlots; }
 
 // Those of one first letter stand together, the more frequent ones first.
-constexpr Attribute attributes[] = {
+constexpr KnownAttribute attributes[] = {
     {"KEYWORD", TakeKeyword},
     {"IDKEY", TakeKeyword},
-    {"NAME", TakeTranslation<&RibbonInfo::name, -1>},
-    {"TYPE", TakeText<&RibbonInfo::type>},
-    {"TOOLTIP", TakeTranslation<&RibbonInfo::tooltip, 0>},
-    {"PICPATH", TakeText<&RibbonInfo::picPath>},
-    {"PARAM", TakeText<&RibbonInfo::param>},
-    {"PICDisPATH", TakeText<&RibbonInfo::picDisPath>},
-    {"SIZE", TakeNumber<&RibbonInfo::size>},
+    {"NAME", TakeTranslation<&RibbonTexts::name, -1>},
+    {"TYPE", TakeText<&RibbonTexts::type>},
+    {"TOOLTIP", TakeTranslation<&RibbonTexts::tooltip, 0>},
+    {"PICPATH", TakeText<&RibbonTexts::picPath>},
+    {"PARAM", TakeText<&RibbonTexts::param>},
+    {"PICDisPATH", TakeText<&RibbonTexts::picDisPath>},
+    {"SIZE", TakeNumber<&RibbonTexts::size>},
     {"GROUPBEFORE", TakeGroupBefore},
     {"VALUEGROUP", TakeValueGroup},
-    {"WIDTH", TakeNumber<&RibbonInfo::width>},
-    {"CMD", TakeText<&RibbonInfo::cmd>},
+    {"WIDTH", TakeNumber<&RibbonTexts::width>},
+    {"CMD", TakeText<&RibbonTexts::cmd>},
     {"CateTab", TakeCateTab},
-    {"help", TakeText<&RibbonInfo::help>},
+    {"help", TakeText<&RibbonTexts::help>},
     {"AcceptF1", TakeAcceptF1},
 };
 
@@ -161,7 +171,7 @@ constexpr std::array<Span, c_letterSlots> MakeSpans() {
 }
 constexpr std::array<Span, c_letterSlots> c_spans = MakeSpans();
 
-const Attribute* FindAttribute(std::string_view name) {
+const KnownAttribute* FindAttribute(std::string_view name) {
     const Span span = c_spans[name.empty() ? 0 : SlotOf(name.front())];
     for (std::size_t i = span.begin; i < span.end; ++i) {
         const std::string_view known = attributes[i].name;
@@ -172,47 +182,38 @@ const Attribute* FindAttribute(std::string_view name) {
     return nullptr;
 }
 
-void Reset(RibbonInfo& info) {
-    info.groupBefore = false;
-    info.cateTab = false;
-    info.acceptF1 = true;
-    for (std::wstring RibbonInfo::*field : {&RibbonInfo::name, &RibbonInfo::type, &RibbonInfo::tooltip,
-                                            &RibbonInfo::keyword, &RibbonInfo::picPath, &RibbonInfo::help})
-        (info.*field).clear();
-    info.size = 0;
-    info.width = 0;
-    info.valueGroup.clear();
-}
-
 } // namespace
 
 bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDiagnostics& diagnostics) {
-    Reset(info);
-    return ReadNewRibbonInfo(node, info, CTranslationSection(c_ribbonSection), diagnostics);
+    TextArena arena;
+    RibbonTexts texts;
+    texts.picDisPath = info.picDisPath;
+    texts.cmd = info.cmd;
+    texts.param = info.param;
+    varnhold::XmlCursor element(node);
+    const bool complete = ReadNewRibbonInfo(element, texts, {CTranslationSection(c_ribbonSection), arena, diagnostics});
+    Assign(info, texts);
+    return complete;
 }
 
-bool ReadNewRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const CTranslationSection& texts,
-                       const FileDiagnostics& diagnostics) {
-    const std::size_t count = node.GetAttributeCount();
-    if (count == 0)
+bool ReadNewRibbonInfo(varnhold::XmlCursor& element, RibbonTexts& info, const RibbonReading& reading) {
+    const std::span<const varnhold::XmlAttributeView> read = element.ReadAttributes();
+    if (read.empty())
         return false;
     std::string_view keyword;
-    for (std::size_t i = 0; i < count; ++i) {
-        const varnhold::XmlAttributeView read = node.GetAttributeUtf8(i);
-        const Reading reading{node, i, read.value, info, texts, diagnostics, keyword};
+    for (std::size_t i = 0; i < read.size(); ++i) {
+        const Attribute attribute{element, i, read.size(), read[i].value, info, reading, keyword};
         // Every attribute takes it back, so GROUPBEFORE counts only where it is the last one.
         info.groupBefore = false;
-        if (const Attribute* attribute = FindAttribute(read.name)) {
-            if (!attribute->take(reading))
+        if (const KnownAttribute* known = FindAttribute(read[i].name)) {
+            if (!known->take(attribute))
                 return false;
-        } else if (diagnostics.IsListening()) {
-            reading.Warn("unknown-attribute",
-                         L"\"" + node.GetAttributeName(i) + L"\" is not an attribute of a ribbon file");
+        } else if (reading.diagnostics.IsListening()) {
+            attribute.Warn("unknown-attribute",
+                           L"\"" + string2wstring(read[i].name) + L"\" is not an attribute of a ribbon file");
         }
     }
-    if (info.help.empty() && info.acceptF1) {
-        info.help.reserve(info.name.size() + c_helpExtension.size());
-        info.help.append(info.name).append(c_helpExtension);
-    }
+    if (info.help.empty() && info.acceptF1)
+        info.help = reading.arena.Join(info.name, c_helpExtension);
     return true;
 }

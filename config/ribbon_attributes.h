@@ -1,7 +1,7 @@
 #pragma once
 
 #include "config/diagnostics.h"
-#include "ribbon_info.h"
+#include "config/ribbon_record.h"
 
 class CTranslationSection;
 class CXmlNodeWrapper;
@@ -15,7 +15,15 @@ inline constexpr char c_ribbonSection[] = "RibbonBarCfg";
 /// a number: then nothing after it is read.
 bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDiagnostics& diagnostics);
 
-/// The same for a record that holds nothing yet, `picDisPath`, `cmd` and `param` aside, with the texts of
-/// c_ribbonSection: for the many elements of one file.
-bool ReadNewRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const CTranslationSection& texts,
-                       const FileDiagnostics& diagnostics);
+/// What the many elements of one file are read with.
+struct RibbonReading {
+    /// The texts of c_ribbonSection.
+    const CTranslationSection& translations;
+    /// Where the texts of the records go.
+    TextArena& arena;
+    const FileDiagnostics& diagnostics;
+};
+
+/// The same from the element that a cursor is at, for a record that holds nothing yet, `picDisPath`, `cmd` and `param`
+/// aside.
+bool ReadNewRibbonInfo(varnhold::XmlCursor& element, RibbonTexts& info, const RibbonReading& reading);

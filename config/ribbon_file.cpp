@@ -12,43 +12,57 @@ namespace {
 
 enum Depth : std::size_t { RowDepth = 1, CategoryDepth, PanelDepth, ElementDepth, SubItemDepth };
 
-/// Builds the records while a walk goes over the elements: keeps the record that is open at each depth.
+/// Builds the records while a walk goes over the elements: keeps the place of the next record at each depth.
 class RecordReader {
 public:
-    /// `depthOfRoot`: what `root` is; its record takes what the walk below it finds.
-    RecordReader(RibbonRecord& root, std::size_t depthOfRoot, const FileDiagnostics& diagnostics)
-        : m_depthOfRoot(depthOfRoot), m_diagnostics(diagnostics) {
-        m_open[depthOfRoot] = &root;
+    explicit RecordReader(const FileDiagnostics& diagnostics) : m_diagnostics(diagnostics) {}
+
+    /// `root`: its record takes what lies below `element`, which is at depth `depthOfRoot`.
+    void ReadBelow(const varnhold::XmlCursor& element, RibbonRecord& root, std::size_t depthOfRoot) {
+        OpenChildren(element, root, depthOfRoot);
+        WalkBelow(element, [this, depthOfRoot](varnhold::XmlCursor& child, std::size_t depth) {
+            return Read(child, depthOfRoot + depth);
+        });
     }
 
-    void ReadBelow(const CXmlNodeWrapper& root) {
-        m_open[m_depthOfRoot]->children.reserve(root.GetChildCount());
-        WalkBelow(root,
-                  [this](const CXmlNodeWrapper& node, std::size_t depth) { return Read(node, m_depthOfRoot + depth); });
+    bool ReadInfo(varnhold::XmlCursor& element, RibbonTexts& info) {
+        return ReadNewRibbonInfo(element, info, {m_translations, m_records.arena, m_diagnostics});
     }
+
+    RibbonRecords m_records;
 
 private:
-    /// Whether the children of the node are to be read.
-    bool Read(const CXmlNodeWrapper& node, std::size_t depth) {
-        RibbonRecord& parent = *m_open[depth - 1];
-        RibbonRecord& record = parent.children.emplace_back();
-        m_open[depth] = &record;
+    struct Level {
+        RibbonRecord* parent = nullptr;
+        std::size_t next = 0;
+    };
+
+    void OpenChildren(const varnhold::XmlCursor& element, RibbonRecord& parent, std::size_t depth) {
+        parent.children = m_records.arena.MakeArray<RibbonRecord>(element.CountChildren());
+        m_levels[depth] = {&parent, 0};
+    }
+
+    /// Whether the children of the element are to be read.
+    bool Read(varnhold::XmlCursor& element, std::size_t depth) {
+        Level& level = m_levels[depth - 1];
+        RibbonRecord& record = level.parent->children[level.next];
         // Panels and sub-items are read into the record that was read before them.
         if (depth == PanelDepth || depth == SubItemDepth)
-            CarryOver(parent.children.size() == 1 ? parent.info : parent.children.end()[-2].info, record.info);
-        ReadNewRibbonInfo(node, record.info, m_texts, m_diagnostics);
+            CarryOver(level.next == 0 ? level.parent->info : level.parent->children[level.next - 1].info, record.info);
+        ++level.next;
+        ReadInfo(element, record.info);
 
         if (depth == RowDepth)
             m_rowKind = KindOfRow(record.info.keyword);
         const bool goesDeeper = depth < LastDepth();
         if (m_diagnostics.IsListening())
-            ReportOn(node, depth, goesDeeper);
+            ReportOn(element, record.info, depth, goesDeeper);
         if (goesDeeper)
-            record.children.reserve(node.GetChildCount());
+            OpenChildren(element, record, depth);
         return goesDeeper;
     }
 
-    static void CarryOver(const RibbonInfo& before, RibbonInfo& info) {
+    static void CarryOver(const RibbonTexts& before, RibbonTexts& info) {
         info.picDisPath = before.picDisPath;
         info.cmd = before.cmd;
         info.param = before.param;
@@ -56,21 +70,22 @@ private:
 
     std::size_t LastDepth() const { return m_rowKind == RibbonRowKind::Categories ? SubItemDepth : CategoryDepth; }
 
-    void ReportOn(const CXmlNodeWrapper& node, std::size_t depth, bool goesDeeper) const {
-        const RibbonInfo& info = m_open[depth]->info;
-        const bool hasChildren = node.GetChildCount() > 0;
-        const varnhold::TextPosition position = node.GetPosition();
-        if (node.GetAttributeCount() == 0 && depth > RowDepth)
+    void ReportOn(varnhold::XmlCursor& element, const RibbonTexts& info, std::size_t depth, bool goesDeeper) const {
+        const bool hasChildren = element.HasChildren();
+        const bool hasAttributes = !element.ReadAttributes().empty();
+        const varnhold::TextPosition position = element.GetPosition();
+        if (!hasAttributes && depth > RowDepth)
             m_diagnostics.Warn(position, "no-attributes", L"an element without attributes describes nothing");
         else if (info.keyword.empty() && depth > RowDepth && depth != PanelDepth)
             m_diagnostics.Warn(position, "no-keyword", L"without a keyword the command cannot be registered");
         if (!goesDeeper && hasChildren)
             m_diagnostics.Warn(position, "too-deep", L"the elements below this one are not read");
-        if (depth < ElementDepth || node.GetAttributeCount() == 0)
+        if (depth < ElementDepth || !hasAttributes)
             return;
         const ElementKind kind = KindOfElement(info.type);
         if (kind == ElementKind::Unknown)
-            m_diagnostics.Warn(position, "unknown-type", L"\"" + info.type + L"\" is not a kind of ribbon element");
+            m_diagnostics.Warn(position, "unknown-type",
+                               L"\"" + std::wstring(info.type) + L"\" is not a kind of ribbon element");
         else if (kind == ElementKind::Group && (depth == SubItemDepth || !hasChildren))
             m_diagnostics.Warn(position, "empty-group",
                                L"a group without elements, or within another one, shows nothing");
@@ -79,16 +94,16 @@ private:
                                L"only a button or a group may have elements below it; nothing is shown");
     }
 
-    std::array<RibbonRecord*, SubItemDepth + 1> m_open{};
-    const std::size_t m_depthOfRoot;
     const FileDiagnostics& m_diagnostics;
-    const CTranslationSection m_texts{c_ribbonSection};
+    const CTranslationSection m_translations{c_ribbonSection};
+    /// By the depth of the parent.
+    std::array<Level, SubItemDepth> m_levels{};
     RibbonRowKind m_rowKind = RibbonRowKind::Categories;
 };
 
 } // namespace
 
-RibbonRowKind KindOfRow(const std::wstring& keyword) {
+RibbonRowKind KindOfRow(std::wstring_view keyword) {
     if (keyword == L"QK_Rbbion_QAToolbar")
         return RibbonRowKind::QuickAccess;
     if (keyword == L"StatusEx_btns")
@@ -96,20 +111,25 @@ RibbonRowKind KindOfRow(const std::wstring& keyword) {
     return RibbonRowKind::Categories;
 }
 
-std::vector<RibbonRecord> ReadRibbonRows(const CXmlNodeWrapper& documentElement, const FileDiagnostics& diagnostics) {
+RibbonRecords ReadRibbonRows(const varnhold::XmlCursor& documentElement, const FileDiagnostics& diagnostics) {
+    RecordReader reader(diagnostics);
     RibbonRecord document;
-    RecordReader(document, 0, diagnostics).ReadBelow(documentElement);
-    return std::move(document.children);
+    reader.ReadBelow(documentElement, document, 0);
+    reader.m_records.top = document.children;
+    return std::move(reader.m_records);
 }
 
-RibbonRecord ReadRibbonElement(const CXmlNodeWrapper& element, const FileDiagnostics& diagnostics) {
-    RibbonRecord record;
-    ReadRibbonInfo(element, record.info, diagnostics);
-    RecordReader(record, ElementDepth, diagnostics).ReadBelow(element);
-    return record;
+RibbonRecords ReadRibbonElement(const CXmlNodeWrapper& element, const FileDiagnostics& diagnostics) {
+    RecordReader reader(diagnostics);
+    reader.m_records.top = reader.m_records.arena.MakeArray<RibbonRecord>(1);
+    RibbonRecord& record = reader.m_records.top.front();
+    varnhold::XmlCursor cursor(element);
+    reader.ReadInfo(cursor, record.info);
+    reader.ReadBelow(cursor, record, ElementDepth);
+    return std::move(reader.m_records);
 }
 
-bool LoadRibbonFile(const std::wstring& fullPath, std::vector<RibbonRecord>& rows, DiagnosticsSink& sink) {
+bool LoadRibbonFile(const std::wstring& fullPath, RibbonRecords& rows, DiagnosticsSink& sink) {
     const FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
     if (!document.Load(fullPath)) {
@@ -117,6 +137,6 @@ bool LoadRibbonFile(const std::wstring& fullPath, std::vector<RibbonRecord>& row
                          document.GetErrorReason());
         return false;
     }
-    rows = ReadRibbonRows(document.GetDocumentElement(), diagnostics);
+    rows = ReadRibbonRows(varnhold::XmlCursor(document), diagnostics);
     return true;
 }

@@ -7,6 +7,7 @@
 #include <afxwin.h>
 
 #include <map>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -92,7 +93,8 @@ private:
     void AddRow(const RibbonRecord& row, CMFCRibbonBar& bar);
     void AddCategory(const RibbonRecord& category, CMFCRibbonBar& bar);
     void AddElement(const RibbonRecord& element, CMFCRibbonPanel& panel);
-    CMFCRibbonBaseElement* CreateWithSubItems(const RibbonRecord& element, unsigned int id);
+    CMFCRibbonBaseElement* CreateWithSubItems(const RibbonInfo& element, std::span<const RibbonRecord> subItems,
+                                              unsigned int id);
     void HideAddedCategories(CMFCRibbonBar& bar) const;
     void ShowQuickAccessCommands(CMFCRibbonBar& bar) const;
 

@@ -6,6 +6,7 @@
 #include "varnhold/strings.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <mutex>
 #include <utility>
@@ -51,16 +52,17 @@ const std::wstring* FindText(const LanguageTables& tables, std::string_view sect
                              int number) {
     if (number < c_tooltipNumber)
         return tables.Find(section, keyword);
-    const std::string suffix = number == c_tooltipNumber ? "tooltip" : std::to_string(number);
-    std::string key;
-    key.reserve(keyword.size() + 1 + suffix.size());
-    key.append(keyword).append(1, '.').append(suffix);
-    return tables.Find(section, key);
+    const std::string suffix = number == c_tooltipNumber ? ".tooltip" : '.' + std::to_string(number);
+    std::array<char, 128> room;
+    if (keyword.size() + suffix.size() > room.size())
+        return tables.Find(section, std::string(keyword) + suffix);
+    const auto end = std::copy(suffix.begin(), suffix.end(), std::copy(keyword.begin(), keyword.end(), room.begin()));
+    return tables.Find(section, {room.begin(), end});
 }
 
 /// The text of a missing entry, for which there is no function to ask.
 void TakeDefault(std::string_view keyword, int number, std::wstring& text) {
-    if (number < c_tooltipNumber)
+    if (CTranslationSection::ShowsMissingKey(number))
         string2wstring(keyword, text);
     else
         text.clear();
@@ -170,10 +172,14 @@ CTranslationSection::CTranslationSection(std::string_view section) : m_tables(Ge
 CTranslationSection::~CTranslationSection() = default;
 
 void CTranslationSection::Translate(std::string_view keyword, int number, std::wstring& text) const {
-    if (const std::wstring* found = m_tables ? FindText(*m_tables, m_section, keyword, number) : nullptr)
+    if (const std::wstring* found = Find(keyword, number))
         text = *found;
     else
         TakeDefault(keyword, number, text);
+}
+
+const std::wstring* CTranslationSection::Find(std::string_view keyword, int number) const {
+    return m_tables ? FindText(*m_tables, m_section, keyword, number) : nullptr;
 }
 
 bool CMultiLanguageMgr::SetLanguage(const std::wstring& code) {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstring>
 
 namespace varnhold {
 
@@ -36,19 +35,66 @@ LeadByte ReadLeadByte(unsigned char lead) {
     return {0};
 }
 
+// Lengths that the compiler turns into a few vector instructions.
+constexpr std::size_t c_blockLength = 64;
+constexpr std::size_t c_longStep = 16;
+constexpr std::size_t c_shortStep = 4;
+
+bool IsAscii(const char* text, std::size_t length) {
+    unsigned char bits = 0;
+    for (std::size_t i = 0; i < length; ++i)
+        bits |= static_cast<unsigned char>(text[i]);
+    return bits < 0x80;
+}
+
+template <std::size_t length>
+bool WidenStep(const char* text, wchar_t* letters) {
+    if (!IsAscii(text, length))
+        return false;
+    for (std::size_t i = 0; i < length; ++i)
+        letters[i] = static_cast<wchar_t>(static_cast<unsigned char>(text[i]));
+    return true;
+}
+
 } // namespace
 
 std::size_t CountAscii(std::string_view text, std::size_t at) {
-    constexpr std::uint64_t highBits = 0x8080808080808080;
     const std::size_t start = at;
-    for (std::uint64_t word = 0; at + sizeof word <= text.size(); at += sizeof word) {
-        std::memcpy(&word, text.data() + at, sizeof word);
-        if (word & highBits)
-            break;
+    for (; at + c_blockLength <= text.size() && IsAscii(text.data() + at, c_blockLength); at += c_blockLength) {
     }
     while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80)
         ++at;
     return at - start;
+}
+
+std::size_t FindNul(std::string_view text) {
+    std::size_t at = 0;
+    for (; at + c_blockLength <= text.size(); at += c_blockLength) {
+        unsigned char least = 0xFF;
+        for (std::size_t i = 0; i < c_blockLength; ++i)
+            least = std::min(least, static_cast<unsigned char>(text[at + i]));
+        if (least == 0)
+            break;
+    }
+    while (at < text.size() && text[at] != '\0')
+        ++at;
+    return at;
+}
+
+std::size_t WidenAscii(std::string_view text, wchar_t* letters) {
+    const std::size_t size = text.size();
+    std::size_t at = 0;
+    for (; at + c_longStep <= size; at += c_longStep) {
+        if (!WidenStep<c_longStep>(text.data() + at, letters + at))
+            break;
+    }
+    for (; at + c_shortStep <= size; at += c_shortStep) {
+        if (!WidenStep<c_shortStep>(text.data() + at, letters + at))
+            break;
+    }
+    for (; at < size && static_cast<unsigned char>(text[at]) < 0x80; ++at)
+        letters[at] = static_cast<wchar_t>(text[at]);
+    return at;
 }
 
 char32_t NextFromUtf8(std::string_view text, std::size_t& at) {
@@ -93,15 +139,16 @@ void AppendUtf8(std::string& text, char32_t c) {
     }
 }
 
-void AppendWide(std::wstring& text, char32_t c) {
+wchar_t* PutWide(wchar_t* at, char32_t c) {
     if (!IsScalarValue(c))
         c = c_replacement;
     if (sizeof(wchar_t) == 2 && c >= 0x10000) {
-        text += static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
-        text += static_cast<wchar_t>(0xDC00 + (c & 0x3FF));
+        *at++ = static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
+        *at++ = static_cast<wchar_t>(0xDC00 + (c & 0x3FF));
     } else {
-        text += static_cast<wchar_t>(c);
+        *at++ = static_cast<wchar_t>(c);
     }
+    return at;
 }
 
 } // namespace varnhold
@@ -134,26 +181,23 @@ std::wstring string2wstring(std::string_view text) {
 void string2wstring(std::string_view text, std::wstring& wide) {
     constexpr std::size_t shortLength = 64;
     if (text.size() <= shortLength) {
-        // One pass and one heap block at most: nearly every text is short ASCII.
+        // One heap block at most: nearly every text is short.
         wchar_t letters[shortLength];
-        unsigned char bits = 0;
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            const auto byte = static_cast<unsigned char>(text[i]);
-            bits |= byte;
-            letters[i] = static_cast<wchar_t>(byte);
-        }
-        if (bits < 0x80) {
-            if (text.size() <= wide.capacity())
-                wide.assign(letters, text.size());
-            else
-                wide = std::wstring(letters, text.size()); // a block of the right size, not of twice the old one
-            return;
-        }
+        const std::size_t length = string2wstring(text, letters);
+        if (length <= wide.capacity())
+            wide.assign(letters, length);
+        else
+            wide = std::wstring(letters, length); // a block of the right size, not of twice the old one
+        return;
     }
-    std::size_t at = varnhold::CountAscii(text, 0);
-    wide.clear();
-    wide.reserve(text.size());
-    wide.assign(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at));
+    wide.resize(text.size());
+    wide.resize(string2wstring(text, wide.data()));
+}
+
+std::size_t string2wstring(std::string_view text, wchar_t* letters) {
+    std::size_t at = varnhold::WidenAscii(text, letters);
+    wchar_t* end = letters + at;
     while (at < text.size())
-        varnhold::AppendWide(wide, varnhold::NextFromUtf8(text, at));
+        end = varnhold::PutWide(end, varnhold::NextFromUtf8(text, at));
+    return static_cast<std::size_t>(end - letters);
 }

@@ -89,7 +89,10 @@ bool CXmlDocumentWrapper::LoadFromMemory(std::string_view bytes, const std::wstr
 }
 
 CXmlNodeWrapper CXmlDocumentWrapper::GetDocumentElement() const {
-    return m_tree ? CXmlNodeWrapper(m_tree, 0) : CXmlNodeWrapper();
+    if (!m_tree)
+        return {};
+    m_tree->LayOut();
+    return {m_tree, 0};
 }
 
 bool CXmlDocumentWrapper::Take(const std::wstring& name, std::string bytes) {

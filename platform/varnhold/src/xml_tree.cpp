@@ -1,8 +1,12 @@
 #include "src/xml_tree.h"
 
 #include "src/encoding.h"
+#include "src/unicode.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
+#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -16,6 +20,12 @@ constexpr std::size_t c_blockSize = 1024;
 constexpr std::size_t c_bytesPerElement = 64;
 constexpr std::size_t c_bytesPerAttribute = 16;
 constexpr std::size_t c_mostReadyElements = 65536;
+
+/// How deep elements can be nested in so many bytes: "<a></a>" around others, "<a/>" innermost.
+constexpr std::size_t GetMostLevels(std::size_t bytes) { return (bytes + 3) / 7; }
+
+// Texts are searched for their ends by words, which may reach behind the buffer's last NUL.
+constexpr std::size_t c_padding = sizeof(std::uint64_t);
 
 struct StatusText {
     pugi::xml_parse_status status;
@@ -73,63 +83,84 @@ std::shared_ptr<const XmlTree> XmlTree::Parse(std::string bytes, BlankText blank
 }
 
 bool XmlTree::ParseText(BlankText blanks, XmlFailure& failure) {
-    const std::size_t nul = m_text.find('\0');
-    if (nul != std::string::npos) {
+    const std::size_t nul = FindNul(m_text);
+    if (nul != m_text.size()) {
         failure = {L"there is a NUL character", GetPosition(nul)};
         return false;
     }
-    m_buffer.assign(m_text.c_str(), m_text.c_str() + m_text.size() + 1);
+    m_buffer = std::make_unique_for_overwrite<char[]>(m_text.size() + 1 + c_padding);
+    std::memcpy(m_buffer.get(), m_text.data(), m_text.size());
+    std::memset(m_buffer.get() + m_text.size(), 0, 1 + c_padding);
     // As a fragment, so that texts beside the document element are seen (and refused) instead of skipped.
     unsigned options = pugi::parse_default | pugi::parse_fragment;
     if (blanks == BlankText::Keep)
         options |= pugi::parse_ws_pcdata;
     const pugi::xml_parse_result result =
-        m_document.load_buffer_inplace(m_buffer.data(), m_buffer.size(), options, pugi::encoding_utf8);
+        m_document.load_buffer_inplace(m_buffer.get(), m_text.size() + 1, options, pugi::encoding_utf8);
     if (!result) {
         failure = {DescribeStatus(result.status), GetPosition(static_cast<std::size_t>(result.offset))};
         return false;
     }
-    pugi::xml_node root;
-    return CheckTopLevel(root, failure) && LayOutElements(root, failure);
+    return CheckTopLevel(failure) && CheckDepth(failure);
 }
 
-bool XmlTree::CheckTopLevel(pugi::xml_node& root, XmlFailure& failure) const {
+bool XmlTree::CheckTopLevel(XmlFailure& failure) {
     for (const pugi::xml_node& node : m_document) {
         if (IsText(node)) {
-            const std::size_t offset = static_cast<std::size_t>(node.value() - m_buffer.data());
+            const std::size_t offset = static_cast<std::size_t>(node.value() - m_buffer.get());
             failure = {L"there is text outside the document element",
                        GetPosition(m_text.find_first_not_of(" \t\r\n", std::min(offset, m_text.size())))};
             return false;
         }
         if (node.type() != pugi::node_element)
             continue;
-        if (root) {
+        if (m_root) {
             failure = {L"there is a second document element", GetPosition(node)};
             return false;
         }
-        root = node;
+        m_root = node;
     }
-    if (!root)
+    if (!m_root)
         failure = {L"there is no document element", GetPosition(m_text.size())};
-    return !root.empty();
+    return !m_root.empty();
 }
 
-bool XmlTree::LayOutElements(const pugi::xml_node& root, XmlFailure& failure) {
+bool XmlTree::CheckDepth(XmlFailure& failure) const {
+    if (GetMostLevels(m_text.size()) <= CXmlDocumentWrapper::c_maxDepth)
+        return true;
+    std::size_t depth = 1;
+    pugi::xml_node node = m_root;
+    while (true) {
+        if (node.type() == pugi::node_element && depth > CXmlDocumentWrapper::c_maxDepth) {
+            failure = {L"elements are nested deeper than " + std::to_wstring(CXmlDocumentWrapper::c_maxDepth),
+                       GetPosition(node)};
+            return false;
+        }
+        if (const pugi::xml_node child = node.first_child()) {
+            node = child;
+            ++depth;
+            continue;
+        }
+        while (node != m_root && !node.next_sibling()) {
+            node = node.parent();
+            --depth;
+        }
+        if (node == m_root)
+            return true;
+        node = node.next_sibling();
+    }
+}
+
+void XmlTree::LayOut() const {
+    std::call_once(m_laidOut, [this] { LayOutElements(); });
+}
+
+void XmlTree::LayOutElements() const {
     const std::size_t readyBytes = std::min(m_text.size(), c_mostReadyElements * c_bytesPerElement);
     m_elements.reserve(readyBytes / c_bytesPerElement + 1);
     m_attributes.reserve(readyBytes / c_bytesPerAttribute);
-    m_elements.push_back({root});
-    std::size_t depth = 1;
-    std::size_t levelEnd = 1;
+    m_elements.push_back({m_root});
     for (std::size_t i = 0; i < m_elements.size(); ++i) {
-        if (i == levelEnd) {
-            levelEnd = m_elements.size();
-            if (++depth > CXmlDocumentWrapper::c_maxDepth) {
-                failure = {L"elements are nested deeper than " + std::to_wstring(CXmlDocumentWrapper::c_maxDepth),
-                           GetPosition(m_elements[i].node)};
-                return false;
-            }
-        }
         const pugi::xml_node node = m_elements[i].node;
         const auto firstChild = static_cast<std::uint32_t>(m_elements.size());
         for (const pugi::xml_node& child : node) {
@@ -144,7 +175,20 @@ bool XmlTree::LayOutElements(const pugi::xml_node& root, XmlFailure& failure) {
             m_attributes.push_back(attribute);
         element.attributeCount = static_cast<std::uint32_t>(m_attributes.size()) - element.firstAttribute;
     }
-    return true;
+}
+
+std::size_t XmlTree::LengthOf(const char* text) const {
+    const char* const begin = m_buffer.get();
+    if (std::less<>()(text, begin) || !std::less<>()(text, begin + m_text.size() + 1))
+        return std::strlen(text); // the parser's own empty text
+    constexpr std::uint64_t ones = 0x0101010101010101, highBits = 0x8080808080808080;
+    for (std::size_t length = 0;; length += sizeof(std::uint64_t)) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text + length, sizeof word);
+        // The lowest bit that is left belongs to the first NUL.
+        if (const std::uint64_t nuls = (word - ones) & ~word & highBits)
+            return length + static_cast<std::size_t>(std::countr_zero(nuls)) / 8;
+    }
 }
 
 void XmlTree::IndexLines() const {
@@ -179,11 +223,11 @@ TextPosition XmlTree::GetPosition(std::size_t offset) const {
 }
 
 TextPosition XmlTree::GetPosition(const pugi::xml_node& element) const {
-    return GetPosition(static_cast<std::size_t>(element.name() - m_buffer.data()) - 1);
+    return GetPosition(static_cast<std::size_t>(element.name() - m_buffer.get()) - 1);
 }
 
 TextPosition XmlTree::GetPosition(const pugi::xml_attribute& attribute) const {
-    return GetPosition(static_cast<std::size_t>(attribute.name() - m_buffer.data()));
+    return GetPosition(static_cast<std::size_t>(attribute.name() - m_buffer.get()));
 }
 
 std::wstring FormatProblem(const std::wstring& file, TextPosition position, const std::wstring& text) {

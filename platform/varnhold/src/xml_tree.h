@@ -20,8 +20,8 @@ struct XmlFailure {
     TextPosition position;
 };
 
-/// A parsed document, never changed after it was made, with its elements laid out level by level: the children of an
-/// element and the attributes of an element lie side by side, so that each is reached by its index at once.
+/// A parsed document, never changed after it was made. LayOut numbers its elements level by level: then the children of
+/// an element and the attributes of an element lie side by side, so that each is reached by its index at once.
 class XmlTree {
 public:
     struct Element {
@@ -32,18 +32,24 @@ public:
         std::uint32_t attributeCount = 0;
     };
 
-    /// Null, with the reason in `failure`, for bytes that are refused. Element 0 is the document element.
+    /// Null, with the reason in `failure`, for bytes that are refused.
     static std::shared_ptr<const XmlTree> Parse(std::string bytes, BlankText blanks, XmlFailure& failure);
 
     XmlTree(const XmlTree&) = delete;
     XmlTree& operator=(const XmlTree&) = delete;
 
+    /// Needed once before the first GetElement; any thread may call it, any number of times. Element 0 is the document
+    /// element.
+    void LayOut() const;
     const Element& GetElement(std::uint32_t index) const { return m_elements[index]; }
     pugi::xml_attribute GetAttribute(const Element& element, std::size_t index) const {
         return m_attributes[element.firstAttribute + index];
     }
 
-    pugi::xml_node GetRoot() const { return m_elements.front().node; }
+    pugi::xml_node GetRoot() const { return m_root; }
+
+    /// The length of a name or a value that the parser left in this document.
+    std::size_t LengthOf(const char* text) const;
 
     /// Where the element's "<" stands, or the first letter of the attribute's name.
     TextPosition GetPosition(const pugi::xml_node& element) const;
@@ -53,17 +59,21 @@ private:
     XmlTree() = default;
 
     bool ParseText(BlankText blanks, XmlFailure& failure);
-    bool CheckTopLevel(pugi::xml_node& root, XmlFailure& failure) const;
-    bool LayOutElements(const pugi::xml_node& root, XmlFailure& failure);
+    bool CheckTopLevel(XmlFailure& failure);
+    bool CheckDepth(XmlFailure& failure) const;
+    void LayOutElements() const;
     void IndexLines() const;
     TextPosition GetPosition(std::size_t offset) const;
     std::size_t CountCharacters(std::size_t end) const;
 
-    std::string m_text;         // UTF-8, as it stands in the file
-    std::vector<char> m_buffer; // the same, taken to pieces by the parser, which keeps pointing into it
+    std::string m_text; // UTF-8, as it stands in the file
+    // The same, taken to pieces by the parser, which keeps pointing into it; some NULs follow.
+    std::unique_ptr<char[]> m_buffer;
     pugi::xml_document m_document;
-    std::vector<Element> m_elements;
-    std::vector<pugi::xml_attribute> m_attributes;
+    pugi::xml_node m_root;
+    mutable std::once_flag m_laidOut;
+    mutable std::vector<Element> m_elements;
+    mutable std::vector<pugi::xml_attribute> m_attributes;
     // Made when the first position is asked for: most documents are right and nobody asks.
     mutable std::once_flag m_linesIndexed;
     mutable std::vector<std::size_t> m_lineStarts;

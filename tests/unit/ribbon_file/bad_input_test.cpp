@@ -25,7 +25,7 @@ class BadRibbonFile : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(Load(goodFile));
-        ASSERT_EQ(m_rows.size(), 3u);
+        ASSERT_EQ(m_rows.top.size(), 3u);
     }
 
     bool Load(const std::string& bytes) { return LoadPath(m_directory.Write("file.xml", bytes)); }
@@ -36,12 +36,12 @@ protected:
         ExpectEarlierRows(what);
     }
     void ExpectEarlierRows(const std::string& what) const {
-        ASSERT_EQ(m_rows.size(), 3u) << what;
-        EXPECT_EQ(m_rows[2].children.at(0).info.keyword, L"C1") << what;
+        ASSERT_EQ(m_rows.top.size(), 3u) << what;
+        EXPECT_EQ(m_rows.top[2].children[0].info.keyword, L"C1") << what;
     }
 
     TemporaryDirectory m_directory;
-    std::vector<RibbonRecord> m_rows;
+    RibbonRecords m_rows;
 };
 
 TEST_F(BadRibbonFile, MalformedXmlIsRefusedAndTheEarlierRowsStay) {
@@ -63,7 +63,7 @@ TEST_F(BadRibbonFile, FileDamagedAtEveryPlaceNeitherCrashesNorHangs) {
         for (const char damage : {'\0', '<', '>', '"', '&', '\xFF'}) {
             std::string bytes = goodFile;
             bytes[place] = damage;
-            std::vector<RibbonRecord> rows;
+            RibbonRecords rows;
             LoadRibbonFile(m_directory.Write("damaged.xml", bytes), rows, DroppedDiagnostics());
         }
     }
@@ -85,14 +85,14 @@ TEST_F(BadRibbonFile, Utf16BytesThatCallThemselvesUtf8AreRefused) {
 
 TEST_F(BadRibbonFile, BytesOfAnotherEncodingBecomeReplacementCharacters) {
     EXPECT_TRUE(Load("<?xml version='1.0' encoding='UTF-8'?><d><r KEYWORD='\xB1\xA3\xB4\xE6'/></d>"));
-    ASSERT_EQ(m_rows.size(), 1u);
-    EXPECT_NE(m_rows[0].info.keyword.find(L'\uFFFD'), std::wstring::npos);
+    ASSERT_EQ(m_rows.top.size(), 1u);
+    EXPECT_NE(m_rows.top[0].info.keyword.find(L'\uFFFD'), std::wstring::npos);
 }
 
 TEST_F(BadRibbonFile, NationalEncodingsAreRead) {
     EXPECT_TRUE(Load("<?xml version='1.0' encoding='GB2312'?><d><r KEYWORD='\xB1\xA3\xB4\xE6'/></d>"));
-    ASSERT_EQ(m_rows.size(), 1u);
-    EXPECT_EQ(m_rows[0].info.keyword, L"\u4FDD\u5B58");
+    ASSERT_EQ(m_rows.top.size(), 1u);
+    EXPECT_EQ(m_rows.top[0].info.keyword, L"\u4FDD\u5B58");
 }
 
 TEST_F(BadRibbonFile, NulBytesAreRefused) {
@@ -120,9 +120,9 @@ TEST_F(BadRibbonFile, DeepNestingThatTheParserTakesIsReadToTheFifthLevel) {
     for (std::size_t i = 0; i < levels; ++i)
         bytes += "</a>";
     ASSERT_TRUE(Load(bytes));
-    const std::vector<RibbonRecord>* records = &m_rows;
+    std::span<const RibbonRecord> records = m_rows.top;
     std::size_t depth = 0;
-    for (; !records->empty(); records = &records->front().children)
+    for (; !records.empty(); records = records.front().children)
         ++depth;
     EXPECT_EQ(depth, 5u);
 }
@@ -132,7 +132,7 @@ TEST_F(BadRibbonFile, FiftyThousandElementsAreRead) {
     for (int i = 0; i < 50000; ++i)
         bytes += "<e KEYWORD='K" + std::to_string(i) + "' TYPE='BUTTON' SIZE='16'/>";
     ASSERT_TRUE(Load(bytes + "</p></c></r></d>"));
-    const std::vector<RibbonRecord>& elements = m_rows.at(0).children.at(0).children.at(0).children;
+    const std::span<const RibbonRecord> elements = m_rows.top[0].children[0].children[0].children;
     ASSERT_EQ(elements.size(), 50000u);
     EXPECT_EQ(elements.back().info.keyword, L"K49999");
 }
@@ -140,21 +140,21 @@ TEST_F(BadRibbonFile, FiftyThousandElementsAreRead) {
 TEST_F(BadRibbonFile, ValueOfAMegabyteIsRead) {
     ASSERT_TRUE(Load("<d><r><c CMD='" + std::string(1 << 20, 'x') + "' VALUEGROUP='" + std::string(1 << 20, ',') +
                      "'/></r></d>"));
-    EXPECT_EQ(m_rows.at(0).children.at(0).info.cmd.size(), std::size_t(1) << 20);
-    EXPECT_EQ(m_rows.at(0).children.at(0).info.valueGroup.size(), (std::size_t(1) << 20) + 1);
+    EXPECT_EQ(m_rows.top[0].children[0].info.cmd.size(), std::size_t(1) << 20);
+    EXPECT_EQ(m_rows.top[0].children[0].info.valueGroup.size(), (std::size_t(1) << 20) + 1);
 }
 
 TEST_F(BadRibbonFile, NumberOfAMegabyteIsRefusedAlone) {
     ASSERT_TRUE(
         Load("<d><r><c KEYWORD='a' SIZE='" + std::string(1 << 20, '9') + "' CMD='no'/><c KEYWORD='b'/></r></d>"));
-    ASSERT_EQ(m_rows.at(0).children.size(), 2u);
-    EXPECT_EQ(m_rows[0].children[0].info.cmd, L"");
-    EXPECT_EQ(m_rows[0].children[1].info.keyword, L"b");
+    ASSERT_EQ(m_rows.top[0].children.size(), 2u);
+    EXPECT_EQ(m_rows.top[0].children[0].info.cmd, L"");
+    EXPECT_EQ(m_rows.top[0].children[1].info.keyword, L"b");
 }
 
 TEST_F(BadRibbonFile, EntityBombIsNotExpanded) {
     ASSERT_TRUE(Load("<!DOCTYPE d [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;'>]><d><r KEYWORD='&b;'/></d>"));
-    EXPECT_EQ(m_rows.at(0).info.keyword, L"&b;");
+    EXPECT_EQ(m_rows.top[0].info.keyword, L"&b;");
 }
 
 TEST_F(BadRibbonFile, MissingFileIsRefused) {

@@ -7,32 +7,32 @@
 
 namespace {
 
-std::vector<RibbonRecord> ReadRows(const std::string& xml, DiagnosticsSink& sink = DroppedDiagnostics()) {
+RibbonRecords ReadRows(const std::string& xml, DiagnosticsSink& sink = DroppedDiagnostics()) {
     CXmlDocumentWrapper document;
     EXPECT_TRUE(document.LoadFromMemory(xml)) << xml;
-    return ReadRibbonRows(document.GetDocumentElement(), FileDiagnostics(L"f.xml", sink));
+    return ReadRibbonRows(varnhold::XmlCursor(document), FileDiagnostics(L"f.xml", sink));
 }
 
 /// Every record as "depth:keyword", in reading order.
-void Describe(const std::vector<RibbonRecord>& records, int depth, std::wstring& out) {
+void Describe(std::span<const RibbonRecord> records, int depth, std::wstring& out) {
     for (const RibbonRecord& record : records) {
-        out += std::to_wstring(depth) + L":" + record.info.keyword + L" ";
+        out += std::to_wstring(depth) + L":" + std::wstring(record.info.keyword) + L" ";
         Describe(record.children, depth + 1, out);
     }
 }
 
 std::wstring Outline(const std::string& xml) {
     std::wstring outline;
-    Describe(ReadRows(xml), 1, outline);
+    Describe(ReadRows(xml).top, 1, outline);
     return outline;
 }
 
-const RibbonRecord& Below(const std::vector<RibbonRecord>& rows, std::initializer_list<std::size_t> path) {
-    const std::vector<RibbonRecord>* records = &rows;
+const RibbonRecord& Below(const RibbonRecords& rows, std::initializer_list<std::size_t> path) {
+    std::span<const RibbonRecord> records = rows.top;
     const RibbonRecord* record = nullptr;
     for (const std::size_t index : path) {
-        record = &records->at(index);
-        records = &record->children;
+        record = &records[index];
+        records = record->children;
     }
     return *record;
 }
@@ -70,7 +70,8 @@ TEST(RibbonFileWalk, DocumentElementsOwnAttributesAreNotRead) {
 
 TEST(RibbonFileWalk, EmptyDocumentHasNoRows) {
     EXPECT_EQ(Outline("<d/>"), L"");
-    EXPECT_TRUE(ReadRibbonRows(CXmlNodeWrapper(), FileDiagnostics({}, DroppedDiagnostics())).empty());
+    EXPECT_TRUE(
+        ReadRibbonRows(varnhold::XmlCursor(CXmlNodeWrapper()), FileDiagnostics({}, DroppedDiagnostics())).top.empty());
 }
 
 TEST(RibbonFileWalk, RowKindsAreComparedWithLetterCase) {
@@ -100,7 +101,7 @@ TEST(RibbonFileWalk, ElementsThatCannotBeReadKeepTheirPlace) {
 TEST(RibbonFileCarryOver, PanelKeepsItsCategorysPictureCommandAndParameter) {
     const auto rows = ReadRows("<d><r><c KEYWORD='c' NAME='' CMD='do' PARAM='with' PICDisPATH='grey' TYPE='t' SIZE='3'>"
                                "<p KEYWORD='p'/></c></r></d>");
-    const RibbonInfo& panel = Below(rows, {0, 0, 0}).info;
+    const RibbonTexts& panel = Below(rows, {0, 0, 0}).info;
     EXPECT_EQ(panel.cmd, L"do");
     EXPECT_EQ(panel.param, L"with");
     EXPECT_EQ(panel.picDisPath, L"grey");
@@ -142,8 +143,9 @@ TEST(RibbonFileCarryOver, SingleElementIsReadLikeOneOfAFile) {
     CXmlDocumentWrapper document;
     ASSERT_TRUE(
         document.LoadFromMemory("<e KEYWORD='e' CMD='1'><s KEYWORD='a'><x KEYWORD='no'/></s><s CMD='2'/><s/></e>"));
-    const RibbonRecord element =
+    const RibbonRecords read =
         ReadRibbonElement(document.GetDocumentElement(), FileDiagnostics({}, DroppedDiagnostics()));
+    const RibbonRecord& element = read.top[0];
     EXPECT_EQ(element.info.keyword, L"e");
     ASSERT_EQ(element.children.size(), 3u);
     EXPECT_EQ(element.children[0].info.cmd, L"1");
@@ -209,7 +211,7 @@ TEST(RibbonFileDiagnostics, RecordsAreTheSameWhetherSomebodyListensOrNot) {
     for (const DiagnosticCase& diagnosticCase : diagnosticCases) {
         CollectingSink sink;
         std::wstring heard;
-        Describe(ReadRows(diagnosticCase.xml, sink), 1, heard);
+        Describe(ReadRows(diagnosticCase.xml, sink).top, 1, heard);
         EXPECT_EQ(heard, Outline(diagnosticCase.xml)) << diagnosticCase.xml;
     }
 }
@@ -217,7 +219,7 @@ TEST(RibbonFileDiagnostics, RecordsAreTheSameWhetherSomebodyListensOrNot) {
 TEST(RibbonFileDiagnostics, UnreadableFileIsReportedOnceWithItsPlace) {
     const TemporaryDirectory directory;
     CollectingSink sink;
-    std::vector<RibbonRecord> rows;
+    RibbonRecords rows;
     EXPECT_FALSE(LoadRibbonFile(directory.Write("f.xml", "<d>\n<r></d>"), rows, sink));
     EXPECT_TRUE(sink.m_seen.starts_with("unreadable-file@2:")) << sink.m_seen;
     EXPECT_EQ(sink.m_seen.find(' '), sink.m_seen.size() - 1);

@@ -120,7 +120,7 @@ TEST(DepthWalker, GoesBelowAnElementOnlyWhereTheVisitorSaysSo) {
     CXmlDocumentWrapper document;
     ASSERT_TRUE(document.LoadFromMemory("<d><a><b/></a><c><e><f/></e></c></d>"));
     std::wstring seen;
-    WalkBelow(document.GetDocumentElement(), [&seen](const CXmlNodeWrapper& node, std::size_t depth) {
+    WalkBelow(varnhold::XmlCursor(document), [&seen](const varnhold::XmlCursor& node, std::size_t depth) {
         seen += std::to_wstring(depth) + node.GetName() + L" ";
         return node.GetName() != L"a";
     });
@@ -137,7 +137,7 @@ TEST(DepthWalker, DepthIsNotLimitedByTheStack) {
     CXmlDocumentWrapper document;
     ASSERT_TRUE(document.LoadFromMemory(xml));
     std::size_t deepest = 0;
-    WalkBelow(document.GetDocumentElement(), [&deepest](const CXmlNodeWrapper&, std::size_t depth) {
+    WalkBelow(varnhold::XmlCursor(document), [&deepest](const varnhold::XmlCursor&, std::size_t depth) {
         deepest = depth;
         return true;
     });

@@ -31,6 +31,19 @@ const Pair c_pairs[] = {
     {"\xF4\x8F\xBF\xBF", L"\U0010FFFF"},
 };
 
+TEST(Strings, EveryLengthWithEveryPlaceOfALongLetterIsConverted) {
+    for (std::size_t length = 0; length < 90; ++length) {
+        EXPECT_EQ(string2wstring(std::string(length, 'a')), std::wstring(length, L'a'));
+        for (std::size_t place = 0; place < length; ++place) {
+            std::string text(length, 'a');
+            std::wstring expected(length, L'a');
+            text.replace(place, 1, "\xE5\x9B\xBE");
+            expected[place] = L'\x56FE';
+            ASSERT_EQ(string2wstring(text), expected) << length << " " << place;
+        }
+    }
+}
+
 TEST(Strings, ConvertsValidTextBothWaysWithoutLoss) {
     for (const Pair& pair : c_pairs) {
         EXPECT_EQ(string2wstring(pair.narrow), pair.wide) << pair.narrow;

@@ -50,6 +50,15 @@ TEST(XmlHostile, TheDepthLimitIsExact) {
     EXPECT_EQ(document.GetErrorColumn(), 3 * CXmlDocumentWrapper::c_maxDepth + 1);
 }
 
+TEST(XmlHostile, TheDepthLimitIsExactForTheShortestDocument) {
+    const auto nest = [](std::size_t depth) {
+        std::string text = Nest(depth, true);
+        return text.replace(text.find("<a></a>"), 7, "<a/>");
+    };
+    EXPECT_EQ(Reason(nest(CXmlDocumentWrapper::c_maxDepth)), "loaded");
+    EXPECT_EQ(Reason(nest(CXmlDocumentWrapper::c_maxDepth + 1)), "elements are nested deeper than 100000");
+}
+
 TEST(XmlHostile, TenMegabytesOfNestingAreRefusedSoon) {
     constexpr std::size_t tenMegabytes = 10 << 20;
     double seconds = MeasureSeconds(

@@ -84,6 +84,11 @@ public:
     /// What CMultiLanguageMgr::translationW answers without a fallback function.
     void Translate(std::string_view keyword, int number, std::wstring& text) const;
 
+    /// The entry's text, which lives as long as this object; null for a missing entry.
+    const std::wstring* Find(std::string_view keyword, int number) const;
+    /// Whether the key itself stands for a missing entry of this number; for others it is an empty text.
+    static constexpr bool ShowsMissingKey(int number) { return number < 0; }
+
 private:
     std::shared_ptr<const varnhold::LanguageTables> m_tables;
     std::string m_section;

@@ -2,6 +2,7 @@
 
 #include "varnhold/varnhold_api.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -18,3 +19,7 @@ VARNHOLD_API std::wstring string2wstring(std::string_view text);
 
 /// The same into a text that is there already, without another one in between.
 VARNHOLD_API void string2wstring(std::string_view text, std::wstring& wide);
+
+/// The same into memory that has room for as many letters as `text` has bytes. Returns how many were written; no NUL
+/// follows them.
+VARNHOLD_API std::size_t string2wstring(std::string_view text, wchar_t* letters);

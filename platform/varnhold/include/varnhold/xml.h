@@ -6,10 +6,17 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <span>
 #include <string_view>
+#include <vector>
+
+namespace pugi {
+struct xml_node_struct;
+}
 
 namespace varnhold {
 class XmlTree;
+class XmlCursor;
 struct FileContent;
 
 /// A place in a source text. Lines and columns count from 1, columns in characters (code points); 0 means unknown.
@@ -60,6 +67,7 @@ public:
 
 private:
     friend class CXmlDocumentWrapper;
+    friend class varnhold::XmlCursor;
     CXmlNodeWrapper(std::shared_ptr<const varnhold::XmlTree> tree, std::uint32_t element);
 
     std::shared_ptr<const varnhold::XmlTree> m_tree;
@@ -99,7 +107,8 @@ public:
     /// Reads a document from memory; `name` stands for the file name in GetErrorText.
     bool LoadFromMemory(std::string_view bytes, const std::wstring& name = L"(memory)");
 
-    /// The document element; a null node before the first successful load.
+    /// The document element; a null node before the first successful load. The first call takes time in proportion to
+    /// the document, to number its elements; a varnhold::XmlCursor does without.
     CXmlNodeWrapper GetDocumentElement() const;
 
     /// What was wrong with the last load: "file:line:column: what" ("file: what" when no place can be given). All
@@ -111,6 +120,7 @@ public:
     std::size_t GetErrorColumn() const noexcept { return m_errorPosition.column; }
 
 private:
+    friend class varnhold::XmlCursor;
     bool Fail(const std::wstring& name, const std::wstring& reason, varnhold::TextPosition position);
     bool Take(const std::wstring& name, std::string bytes);
     bool Take(const std::wstring& name, varnhold::FileContent content);
@@ -120,3 +130,41 @@ private:
     std::wstring m_errorReason;
     varnhold::TextPosition m_errorPosition;
 };
+
+namespace varnhold {
+
+/// A place among the elements of a document that moves from one to the next: the fastest way to read a document from
+/// its first element to its last. It keeps the document alive. A cursor over nothing (of a null node, or of a document
+/// that was not loaded) goes nowhere and has no attributes.
+class VARNHOLD_API XmlCursor {
+public:
+    /// At the document element.
+    explicit XmlCursor(const CXmlDocumentWrapper& document);
+    explicit XmlCursor(const CXmlNodeWrapper& element);
+
+    /// False where there is no such element: the cursor then stays.
+    bool ToFirstChild() noexcept;
+    bool ToNextSibling() noexcept;
+    bool ToParent() noexcept;
+
+    std::wstring GetName() const;
+    bool HasChildren() const noexcept;
+    /// Takes time in proportion to the answer.
+    std::size_t CountChildren() const noexcept;
+
+    /// All attributes of the element, in document order. The list is good until the next call, the views in it for as
+    /// long as the document lives.
+    std::span<const XmlAttributeView> ReadAttributes();
+
+    TextPosition GetPosition() const;
+    TextPosition GetAttributePosition(std::size_t index) const;
+
+private:
+    bool MoveTo(pugi::xml_node_struct* element) noexcept;
+
+    std::shared_ptr<const XmlTree> m_tree;
+    pugi::xml_node_struct* m_element = nullptr;
+    std::vector<XmlAttributeView> m_attributes;
+};
+
+} // namespace varnhold

@@ -1,0 +1,78 @@
+#include "src/xml_tree.h"
+#include "varnhold/strings.h"
+
+namespace varnhold {
+
+namespace {
+
+pugi::xml_node ElementFrom(pugi::xml_node node) {
+    while (node && node.type() != pugi::node_element)
+        node = node.next_sibling();
+    return node;
+}
+
+} // namespace
+
+XmlCursor::XmlCursor(const CXmlDocumentWrapper& document) : m_tree(document.m_tree) {
+    if (m_tree)
+        m_element = m_tree->GetRoot().internal_object();
+}
+
+XmlCursor::XmlCursor(const CXmlNodeWrapper& element) : m_tree(element.m_tree) {
+    if (m_tree)
+        m_element = m_tree->GetElement(element.m_element).node.internal_object();
+}
+
+bool XmlCursor::MoveTo(pugi::xml_node_struct* element) noexcept {
+    if (element)
+        m_element = element;
+    return element != nullptr;
+}
+
+bool XmlCursor::ToFirstChild() noexcept {
+    return MoveTo(ElementFrom(pugi::xml_node(m_element).first_child()).internal_object());
+}
+
+bool XmlCursor::ToNextSibling() noexcept {
+    return MoveTo(ElementFrom(pugi::xml_node(m_element).next_sibling()).internal_object());
+}
+
+bool XmlCursor::ToParent() noexcept {
+    const pugi::xml_node parent = pugi::xml_node(m_element).parent();
+    return parent.type() == pugi::node_element && MoveTo(parent.internal_object());
+}
+
+std::wstring XmlCursor::GetName() const { return string2wstring(pugi::xml_node(m_element).name()); }
+
+bool XmlCursor::HasChildren() const noexcept { return !ElementFrom(pugi::xml_node(m_element).first_child()).empty(); }
+
+std::size_t XmlCursor::CountChildren() const noexcept {
+    std::size_t count = 0;
+    for (pugi::xml_node child = pugi::xml_node(m_element).first_child(); child; child = child.next_sibling())
+        count += child.type() == pugi::node_element ? 1 : 0;
+    return count;
+}
+
+std::span<const XmlAttributeView> XmlCursor::ReadAttributes() {
+    m_attributes.clear();
+    for (pugi::xml_attribute attribute = pugi::xml_node(m_element).first_attribute(); attribute;
+         attribute = attribute.next_attribute()) {
+        const char* const name = attribute.name();
+        const char* const value = attribute.value();
+        m_attributes.push_back({{name, m_tree->LengthOf(name)}, {value, m_tree->LengthOf(value)}});
+    }
+    return m_attributes;
+}
+
+TextPosition XmlCursor::GetPosition() const {
+    return m_element ? m_tree->GetPosition(pugi::xml_node(m_element)) : TextPosition();
+}
+
+TextPosition XmlCursor::GetAttributePosition(std::size_t index) const {
+    pugi::xml_attribute attribute = pugi::xml_node(m_element).first_attribute();
+    for (; attribute && index > 0; --index)
+        attribute = attribute.next_attribute();
+    return attribute ? m_tree->GetPosition(attribute) : TextPosition();
+}
+
+} // namespace varnhold
