@@ -45,8 +45,12 @@ protected:
     RibbonSliderPart GetPartFromPoint(CPoint point) const;
     int GetPosFromPoint(CPoint point) const;
     CRect GetThumbRect() const;
-    // Sets the position and sends the command when it changed.
-    void ChangePos(int nPos);
+    // What the user does: sets the position and sends the command when it changed.
+    virtual void ChangePos(int nPos);
+    // The position so many units further on, inside the range.
+    int GetPosAfter(long long nStep) const;
+    // What a page key moves by: a fifth of the range, at least one increment.
+    long long GetPageStep() const;
 
     int m_nWidth = 100;
     int m_nMin = 0;

@@ -95,6 +95,16 @@ int CMFCRibbonSlider::GetPosFromPoint(CPoint point) const {
 
 CRect CMFCRibbonSlider::GetThumbRect() const { return ribbon::ToRect(FaceOf(*this).thumb); }
 
+// Steps may be as large as the range of int.
+int CMFCRibbonSlider::GetPosAfter(long long nStep) const {
+    return static_cast<int>(std::clamp<long long>(m_nPos + nStep, m_nMin, m_nMax));
+}
+
+long long CMFCRibbonSlider::GetPageStep() const {
+    constexpr long long kPages = 5;
+    return std::max<long long>(m_nZoomIncrement, (static_cast<long long>(m_nMax) - m_nMin) / kPages);
+}
+
 // The handler of the command may delete this slider; the notification comes last.
 void CMFCRibbonSlider::ChangePos(int nPos) {
     const int pos = std::clamp(nPos, m_nMin, m_nMax);
@@ -134,10 +144,10 @@ void CMFCRibbonSlider::OnLButtonUp(CPoint point) {
         return;
     switch (pressed) {
     case RibbonSliderPart::Increase:
-        ChangePos(hasRepeated ? m_nPos : m_nPos + m_nZoomIncrement);
+        ChangePos(hasRepeated ? m_nPos : GetPosAfter(m_nZoomIncrement));
         break;
     case RibbonSliderPart::Decrease:
-        ChangePos(hasRepeated ? m_nPos : m_nPos - m_nZoomIncrement);
+        ChangePos(hasRepeated ? m_nPos : GetPosAfter(-static_cast<long long>(m_nZoomIncrement)));
         break;
     case RibbonSliderPart::Channel:
         ChangePos(GetPosFromPoint(point));
@@ -159,7 +169,8 @@ BOOL CMFCRibbonSlider::OnAutoRepeat() {
     if (m_HotPart != m_PressedPart)
         return TRUE; // the pointer has left the button and may come back
     m_bHasRepeated = TRUE;
-    ChangePos(m_PressedPart == RibbonSliderPart::Increase ? m_nPos + m_nZoomIncrement : m_nPos - m_nZoomIncrement);
+    const long long step = m_nZoomIncrement;
+    ChangePos(GetPosAfter(m_PressedPart == RibbonSliderPart::Increase ? step : -step));
     return TRUE;
 }
 
@@ -181,11 +192,17 @@ BOOL CMFCRibbonSlider::OnProcessKey(UINT nChar) {
     switch (nChar) {
     case VK_LEFT:
     case VK_DOWN:
-        ChangePos(m_nPos - m_nZoomIncrement);
+        ChangePos(GetPosAfter(-static_cast<long long>(m_nZoomIncrement)));
         return TRUE;
     case VK_RIGHT:
     case VK_UP:
-        ChangePos(m_nPos + m_nZoomIncrement);
+        ChangePos(GetPosAfter(m_nZoomIncrement));
+        return TRUE;
+    case VK_PRIOR:
+        ChangePos(GetPosAfter(GetPageStep()));
+        return TRUE;
+    case VK_NEXT:
+        ChangePos(GetPosAfter(-GetPageStep()));
         return TRUE;
     case VK_HOME:
         ChangePos(m_nMin);

@@ -1,0 +1,114 @@
+#include "ribbon_label_ex.h"
+
+#include "host_messages.h"
+
+#include <afxglobals.h>
+#include <afxribbonbar.h>
+#include <afxvisualmanager.h>
+
+#include <varnhold/language.h>
+
+#include <algorithm>
+
+IMPLEMENT_DYNCREATE(CMFCRibbonLabelEx, CMFCRibbonLabel)
+
+namespace {
+
+constexpr COLORREF noColor = 0xFFFFFFFF;
+/// The line below a label in a menu stays free, in pixels.
+constexpr int menuBottomMargin = 2;
+
+/// Font, colour and background mode of a device context, given back at the end of the scope.
+class KeptText {
+public:
+    KeptText(CDC* dc, CFont& font)
+        : m_dc(dc), m_font(dc->SelectObject(&font)), m_color(dc->GetTextColor()), m_mode(dc->SetBkMode(TRANSPARENT)) {}
+    ~KeptText() {
+        m_dc->SetBkMode(m_mode);
+        m_dc->SetTextColor(m_color);
+        m_dc->SelectObject(m_font);
+    }
+    KeptText(const KeptText&) = delete;
+    KeptText& operator=(const KeptText&) = delete;
+
+private:
+    CDC* m_dc;
+    CFont* m_font;
+    COLORREF m_color;
+    int m_mode;
+};
+
+/// Centres the lines of a text that may be broken: the rectangle narrowed at top and bottom alike.
+CRect CentredLines(CDC* dc, const CString& text, CRect rect, UINT format) {
+    CRect needed = rect;
+    const int height = dc->DrawText(text, needed, format | DT_CALCRECT);
+    rect.DeflateRect(0, std::max(0, (rect.Height() - height) / 2));
+    return rect;
+}
+
+HWND OwnerOf(const CWnd* window) {
+    const CWnd* owner = window && window->GetSafeHwnd() ? window->GetOwner() : nullptr;
+    return owner ? owner->GetSafeHwnd() : nullptr;
+}
+
+} // namespace
+
+CMFCRibbonLabelEx::CMFCRibbonLabelEx(LPCTSTR text, BOOL multiLine) : CMFCRibbonLabel(text, multiLine) {}
+
+CString CMFCRibbonLabelEx::DisplayedText() const {
+    return CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1).c_str();
+}
+
+void CMFCRibbonLabelEx::CopyFrom(const CMFCRibbonBaseElement& src) {
+    CMFCRibbonLabel::CopyFrom(src);
+    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonLabelEx, &src);
+    if (!source)
+        return;
+    m_right = source->m_right;
+    m_textColor = source->m_textColor;
+    m_leftOffset = source->m_leftOffset;
+}
+
+// The room is that of the text which will be shown.
+CSize CMFCRibbonLabelEx::GetRegularSize(CDC* dc) {
+    const CString key = m_strText;
+    m_strText = DisplayedText();
+    const CSize size = CMFCRibbonLabel::GetRegularSize(dc);
+    m_strText = key;
+    return size;
+}
+
+void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
+    if (m_rect.IsRectEmpty())
+        return;
+    CMFCVisualManager* const visual = CMFCVisualManager::GetInstance();
+    const KeptText kept(dc, IsMenuMode() ? afxGlobalData.fontBold : afxGlobalData.fontRegular);
+    CRect rect = m_rect;
+    if (IsMenuMode()) {
+        rect.bottom -= menuBottomMargin;
+        dc->SetTextColor(visual->OnDrawMenuLabel(dc, rect));
+    } else {
+        visual->OnDrawRibbonLabel(dc, this, rect);
+    }
+    rect.DeflateRect(m_szMargin.cx, 0);
+
+    const CString text = DisplayedText();
+    UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
+    if (IsMultiLine() && !IsMenuMode()) {
+        format = DT_WORDBREAK | DT_NOPREFIX;
+        rect = CentredLines(dc, text, rect, format);
+    }
+    if (m_textColor != noColor)
+        dc->SetTextColor(m_textColor);
+    rect.left += m_leftOffset;
+    DrawRibbonText(dc, text, rect, format);
+}
+
+// The host may delete this label: the message comes last.
+void CMFCRibbonLabelEx::OnLButtonDown(CPoint point) {
+    const CWnd* holder = GetTopLevelRibbonBar();
+    const HWND host = OwnerOf(holder ? holder : GetParentWnd());
+    CMFCRibbonLabel::OnLButtonDown(point);
+    if (host && ::IsWindow(host))
+        ::SendMessageW(host, WM_RIBBON_LABEL_CLICKED, reinterpret_cast<WPARAM>(this), 0);
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "barwright_api.h"
+
+#include <afxRibbonLabel.h>
+
+/// A ribbon label that tells the host of clicks (WM_RIBBON_LABEL_CLICKED), translates its text when it draws it, and
+/// may be coloured, shifted or put at the right end of a status bar. The container owns it.
+class BARWRIGHT_API CMFCRibbonLabelEx : public CMFCRibbonLabel {
+    DECLARE_DYNCREATE(CMFCRibbonLabelEx)
+
+public:
+    explicit CMFCRibbonLabelEx(LPCTSTR text, BOOL multiLine = FALSE);
+
+    /// The status bar places a right label at its right end.
+    void SetRight(bool right) { m_right = right; }
+    bool IsRight() const { return m_right; }
+    /// Added to the text's left edge; scaled pixels, may be negative.
+    void SetLeftOffset(int offset) { m_leftOffset = offset; }
+    /// 0xFFFFFFFF: the visual manager's colour.
+    void SetTextColor(COLORREF color) { m_textColor = color; }
+
+    void OnDraw(CDC* dc) override;
+    void OnLButtonDown(CPoint point) override;
+    CSize GetRegularSize(CDC* dc) override;
+    void CopyFrom(const CMFCRibbonBaseElement& src) override;
+
+protected:
+    CMFCRibbonLabelEx() = default;
+
+private:
+    CString DisplayedText() const;
+
+    bool m_right = false;
+    COLORREF m_textColor = 0xFFFFFFFF;
+    int m_leftOffset = 0;
+};
