@@ -1,0 +1,88 @@
+#include "ribbon/focus_walk.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace ribbon {
+namespace {
+
+/// A rectangle as seen along a step: `begin` to `end` grows in the direction of the step.
+struct Span {
+    int begin;
+    int end;
+    int sideBegin;
+    int sideEnd;
+
+    int Length() const { return end - begin; }
+    int SideCentre() const { return (sideBegin + sideEnd) / 2; }
+};
+
+Span Along(const RibbonRect& rect, FocusStep step) {
+    switch (step) {
+    case FocusStep::Left:
+        return {-rect.right, -rect.left, rect.top, rect.bottom};
+    case FocusStep::Right:
+        return {rect.left, rect.right, rect.top, rect.bottom};
+    case FocusStep::Up:
+        return {-rect.bottom, -rect.top, rect.left, rect.right};
+    case FocusStep::Down:
+        break;
+    }
+    return {rect.top, rect.bottom, rect.left, rect.right};
+}
+
+/// How far a goal is, the lower the better: first whether it lies beside, then the way, then the offset.
+struct Distance {
+    bool isAside;
+    int way;
+    int offset;
+    auto operator<=>(const Distance&) const = default;
+};
+
+Distance Measure(const Span& from, const Span& goal) {
+    const int way = std::max(0, goal.begin - from.end);
+    const int gap = std::max({0, goal.sideBegin - from.sideEnd + 1, from.sideBegin - goal.sideEnd + 1});
+    const int offset = std::abs(goal.SideCentre() - from.SideCentre());
+    // Off the way the gap counts twice: three rows down are not nearer than the next column.
+    return gap == 0 ? Distance{false, way, offset} : Distance{true, way + 2 * gap, offset};
+}
+
+} // namespace
+
+std::optional<std::size_t> FocusNeighbour(const std::vector<RibbonRect>& places, std::size_t from, FocusStep step) {
+    if (from >= places.size())
+        return std::nullopt;
+    const Span start = Along(places[from], step);
+    std::optional<std::size_t> best;
+    Distance bestDistance{};
+    for (std::size_t place = 0; place < places.size(); ++place) {
+        if (place == from || places[place].IsEmpty())
+            continue;
+        const Span goal = Along(places[place], step);
+        // Neighbours may overlap by a border.
+        const int tolerance = std::min(start.Length(), goal.Length()) / 2;
+        if (goal.begin < start.end - tolerance || goal.end <= start.end)
+            continue;
+        const Distance distance = Measure(start, goal);
+        if (!best || distance < bestDistance) {
+            best = place;
+            bestDistance = distance;
+        }
+    }
+    return best;
+}
+
+RibbonRect PlaceKeyTip(const RibbonRect& element, RibbonSize tip, int imageWidth, const RibbonRect& bounds) {
+    const bool isRow = imageWidth > 0 && element.Width() > 2 * imageWidth && element.Height() < 2 * imageWidth;
+    const int middle = isRow ? element.left + imageWidth : (element.left + element.right) / 2;
+    RibbonRect rect{middle - tip.cx / 2, element.bottom - tip.cy / 2, 0, 0};
+    if (!bounds.IsEmpty()) {
+        rect.left = std::max(bounds.left, std::min(rect.left, bounds.right - tip.cx));
+        rect.top = std::max(bounds.top, std::min(rect.top, bounds.bottom - tip.cy));
+    }
+    rect.right = rect.left + tip.cx;
+    rect.bottom = rect.top + tip.cy;
+    return rect;
+}
+
+} // namespace ribbon
