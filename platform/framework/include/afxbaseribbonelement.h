@@ -11,6 +11,7 @@ class CFrameWnd;
 class CMFCRibbonBar;
 class CMFCRibbonButtonsGroup;
 class CMFCRibbonCategory;
+class CMFCRibbonKeyTip;
 class CMFCRibbonPanel;
 
 // What a panel, a group, a quick access toolbar or a status bar shows: the base of every ribbon element. An element has
@@ -147,6 +148,15 @@ public:
     virtual CMFCRibbonBaseElement* GetPressed();
     virtual void GetElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
     virtual void GetElementsByID(UINT uiCmdID, CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements);
+
+    // Key tips. AddToKeyList gives new tips to the caller. The rectangle is in client pixels of the parent window, the
+    // size is scaled; both are empty without letters. bIsMenu: the tip of a split button's menu.
+    virtual void AddToKeyList(CArray<CMFCRibbonKeyTip*, CMFCRibbonKeyTip*>& arElems);
+    virtual CRect GetKeyTipRect(CDC* pDC, BOOL bIsMenu);
+    virtual CSize GetKeyTipSize(CDC* pDC);
+    virtual void OnDrawKeyTip(CDC* pDC, const CRect& rect, BOOL bIsMenu);
+    // The letters in force: those that were given, else the ones chosen from the text.
+    CString GetKeyTipText(BOOL bIsMenu) const;
 
     // Commands. WM_COMMAND goes to the owner of the ribbon bar; with delay it is posted. FALSE: nothing was sent
     // because the element is disabled, has no command id or no window.

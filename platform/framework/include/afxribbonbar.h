@@ -8,6 +8,7 @@
 
 class CMFCToolTipCtrl;
 class CToolTipCtrl;
+class RibbonKeyboard;
 struct RibbonBarParts;
 
 /// Parts of the bar that are hidden now; see CMFCRibbonBar::GetHideFlags.
@@ -141,7 +142,26 @@ public:
     void SetTooltipFixedWidth(int nWidthRegular, int nWidthLargeImage);
     void PopTooltip();
 
+    // Keyboard. Alt or F10 shows key tips in levels: the bar's own, then those of a category or pop-up; arrows move the
+    // focus instead. Letters that were not given (SetKeys) are chosen from the texts.
+    void EnableKeyTips(BOOL bEnable = TRUE);
+    BOOL IsKeyTipEnabled() const;
+    void ShowKeyTips();
+    void HideKeyTips();
+    /// -1 without key tips, 0 for those of the bar, from 1 for those that a key tip led to.
+    int GetKeyboardNavigationLevel() const;
+    /// Bar, category, panel or pop-up whose tips are shown, and the one before it; NULL when there is none.
+    CObject* GetKeyboardNavLevelCurrent() const;
+    CObject* GetKeyboardNavLevelParent() const;
+    /// Shows the tips of the bar, a category or a panel; NULL ends the keyboard's way through the bar.
+    void SetKeyboardNavigationLevel(CObject* pLevel, BOOL bSetFocus = TRUE);
+    /// Ends it; the focus returns to where it was.
     void DeactivateKeyboardFocus(BOOL bSetFocus = TRUE);
+    /// From the frame, with the parameters of the message. TRUE: the key was the bar's.
+    BOOL OnSysKeyDown(CFrameWnd* pFrameWnd, WPARAM wParam, LPARAM lParam);
+    BOOL OnSysKeyUp(CFrameWnd* pFrameWnd, WPARAM wParam, LPARAM lParam);
+    /// A letter of a key tip; without tips one of the bar's own level.
+    virtual BOOL TranslateChar(UINT nChar);
 
     // What a derived bar replaces.
     virtual void OnClickButton(CMFCRibbonButton* pButton, CPoint point);
@@ -158,6 +178,7 @@ public:
 
     // Extension points of this framework: elements, categories and derived bars use them.
     CToolTipCtrl* GetToolTipCtrl() const { return m_pToolTip; }
+    RibbonKeyboard& GetKeyboard();
     const struct RibbonMetrics& GetMetrics() const;
     /// What the bar shows has changed: it lays itself out before it is next drawn, hit-tested or updated.
     void MarkLayoutDirty();
@@ -181,6 +202,8 @@ protected:
     afx_msg void OnMouseLeave();
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg void OnCancelMode();
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
@@ -195,6 +218,7 @@ protected:
 private:
     friend class CMFCRibbonCategory;
     friend class CMFCRibbonTab;
+    friend class RibbonKeyboard;
 
     void UpdateMetrics();
     void Measure(CDC* pDC);

@@ -93,6 +93,9 @@ public:
     void OnShowPopupMenu() override;
     void ClosePopupMenu() override;
 
+    void AddToKeyList(CArray<CMFCRibbonKeyTip*, CMFCRibbonKeyTip*>& arElems) override;
+    CRect GetKeyTipRect(CDC* pDC, BOOL bIsMenu) override;
+
     CMFCRibbonBaseElement* Find(const CMFCRibbonBaseElement* pElement) override;
     CMFCRibbonBaseElement* FindByID(UINT uiCmdID) override;
     CMFCRibbonBaseElement* FindByData(DWORD_PTR dwData) override;

@@ -43,6 +43,7 @@ public:
     void SetOriginal(CMFCRibbonBaseElement* pOriginal) override;
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
 
+    void AddToKeyList(CArray<CMFCRibbonKeyTip*, CMFCRibbonKeyTip*>& arElems) override;
     CMFCRibbonBaseElement* HitTest(CPoint point) override;
     CMFCRibbonBaseElement* Find(const CMFCRibbonBaseElement* pElement) override;
     CMFCRibbonBaseElement* FindByID(UINT uiCmdID) override;

@@ -134,6 +134,7 @@ public:
 protected:
     friend class CMFCRibbonBar;
     friend class CMFCRibbonTab;
+    friend class RibbonKeyboard;
 
     virtual void SetActive(BOOL bIsActive = TRUE);
     void CommonInit(CMFCRibbonBar* pParentRibbonBar = NULL, LPCTSTR lpszName = NULL, UINT uiSmallImagesResID = 0,

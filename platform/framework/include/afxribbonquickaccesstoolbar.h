@@ -40,6 +40,7 @@ public:
     CSize GetRegularSize(CDC* pDC) override { return GetCompactSize(pDC); }
     void OnDraw(CDC* pDC) override;
     void OnLButtonUp(CPoint point) override;
+    BOOL OnKey(BOOL bIsMenuKey) override;
 };
 
 /// The quick access toolbar of a ribbon bar: copies of elements in one row, and a button that opens its menu.

@@ -23,6 +23,8 @@ ON_WM_MOUSEMOVE()
 ON_WM_MOUSELEAVE()
 ON_WM_MOUSEWHEEL()
 ON_WM_CANCELMODE()
+ON_WM_SETFOCUS()
+ON_WM_KILLFOCUS()
 ON_WM_CAPTURECHANGED()
 ON_WM_TIMER()
 ON_WM_SETTINGCHANGE()
@@ -58,6 +60,7 @@ RibbonFontScope::~RibbonFontScope() {
 
 CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
     : m_rectCaption(0, 0, 0, 0), m_parts(std::make_unique<RibbonBarParts>()) {
+    m_parts->keyboard = std::make_unique<RibbonKeyboard>(*this);
     m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
     m_parts->quickAccess.SetParentRibbonBar(this);
     m_parts->quickAccess.GetCustomizeButton().SetParentRibbonBar(this);
@@ -100,6 +103,7 @@ int CMFCRibbonBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void CMFCRibbonBar::OnDestroy() {
     CancelPress();
+    m_parts->keyboard->Deactivate(RibbonKeyboard::Focus::Leave);
     CTooltipManager::DeleteToolTip(m_pToolTip);
     for (const auto& category : m_parts->categories) {
         CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
@@ -123,6 +127,7 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
     if (m_parts->applicationButton == pElement) {
         m_parts->applicationButton = nullptr;
     }
+    m_parts->keyboard->OnElementDestroyed(*pElement);
     m_parts->quickAccess.OnOriginalDestroyed(pElement);
 }
 
@@ -183,6 +188,7 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
     if (m_parts->applicationButton != nullptr) {
         draw(*m_parts->applicationButton);
     }
+    m_parts->keyboard->DrawFocus(*pDC);
     pDC->SetBkMode(previousMode);
 }
 
@@ -252,15 +258,4 @@ void CMFCRibbonBar::RemoveAllFromTabs() {
 void CMFCRibbonBar::ToggleMimimizeState() {
     m_parts->minimized = !m_parts->minimized;
     ForceRecalcLayout();
-}
-
-void CMFCRibbonBar::DeactivateKeyboardFocus(BOOL bSetFocus) {
-    if (CMFCRibbonBaseElement* focused = GetFocused()) {
-        focused->SetFocused(FALSE);
-    }
-    if (bSetFocus) {
-        if (CFrameWnd* frame = GetTopLevelFrame()) {
-            frame->SetFocus();
-        }
-    }
 }

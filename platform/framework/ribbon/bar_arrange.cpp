@@ -25,6 +25,7 @@ void CMFCRibbonBar::MarkLayoutDirty() {
         return;
     }
     m_parts->layoutDirty = true;
+    m_parts->keyboard->Forget();
     if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
         Invalidate(FALSE);
     }
@@ -53,6 +54,7 @@ void CMFCRibbonBar::EnsureLayout() {
     m_parts->isLayingOut = false;
     m_parts->laidOutWidth = client.Width();
     PlaceTooltip();
+    m_parts->keyboard->OnLayoutChanged();
     if (client.Height() != m_parts->arrangement.height && !m_parts->hiddenForWidth) {
         AskFrameForRoom();
     }

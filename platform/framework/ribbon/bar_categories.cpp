@@ -293,20 +293,6 @@ CMFCRibbonBaseElement* CMFCRibbonBar::GetDroppedDown() {
     return m_parts->active != nullptr ? m_parts->active->GetDroppedDown() : nullptr;
 }
 
-CMFCRibbonBaseElement* CMFCRibbonBar::GetFocused() {
-    for (const auto& element : m_parts->tabElements) {
-        if (element->IsFocused()) {
-            return element.get();
-        }
-    }
-    for (int index = 0; index < m_parts->quickAccess.GetCount(); ++index) {
-        if (m_parts->quickAccess.GetButton(index)->IsFocused()) {
-            return m_parts->quickAccess.GetButton(index);
-        }
-    }
-    return m_parts->active != nullptr ? m_parts->active->GetFocused() : nullptr;
-}
-
 CMFCRibbonBaseElement* CMFCRibbonBar::HitTest(CPoint point, BOOL bCheckActiveCategory, BOOL bCheckPanelCaption) {
     EnsureLayout();
     if (m_parts->applicationButton != nullptr) {

@@ -5,6 +5,7 @@
 
 #include "afxribbonbar.h"
 #include "ribbon/bar_layout.h"
+#include "ribbon/keyboard.h"
 #include "ribbon/panel_layout.h"
 
 inline CRect ToCRect(const RibbonRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
@@ -79,4 +80,5 @@ struct RibbonBarParts {
     std::vector<Context> contexts;
     std::vector<std::unique_ptr<CMFCRibbonBaseElement>> tabElements;
     std::vector<std::unique_ptr<CMFCRibbonCategory>> categories;
+    std::unique_ptr<RibbonKeyboard> keyboard; // never null
 };

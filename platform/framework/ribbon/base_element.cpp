@@ -5,6 +5,7 @@
 #include <afxribboncategory.h>
 
 #include "ribbon/element_metrics.h"
+#include "ribbon/keyboard.h"
 
 IMPLEMENT_DYNAMIC(CMFCRibbonBaseElement, CObject)
 
@@ -52,6 +53,8 @@ void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
 void CMFCRibbonBaseElement::SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
     m_strKeys = lpszKeys != nullptr ? lpszKeys : L"";
     m_strMenuKeys = lpszMenuKeys != nullptr ? lpszMenuKeys : L"";
+    if (m_pRibbonBar != nullptr)
+        m_pRibbonBar->GetKeyboard().Forget();
 }
 
 void CMFCRibbonBaseElement::SetToolTipText(LPCTSTR lpszText) {

@@ -45,10 +45,10 @@ void CMFCRibbonButton::OnClick(CPoint point) {
     NotifyCommand();
 }
 
-BOOL CMFCRibbonButton::OnKey(BOOL /*bIsMenuKey*/) {
+BOOL CMFCRibbonButton::OnKey(BOOL bIsMenuKey) {
     if (IsDisabled())
         return FALSE;
-    if (HasMenu() && !IsSplit())
+    if (HasMenu() && (bIsMenuKey || !IsSplit()))
         OnShowPopupMenu();
     else
         OnClick(m_rect.CenterPoint());

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "ribbon/element_metrics.h"
+#include "ribbon/keyboard.h"
 
 IMPLEMENT_DYNAMIC(CMFCRibbonRichEditCtrl, CRichEditCtrl)
 
@@ -47,12 +48,16 @@ LRESULT CMFCRibbonRichEditCtrl::OnMouseLeave(WPARAM /*wParam*/, LPARAM /*lParam*
 
 void CMFCRibbonRichEditCtrl::OnSetFocus(CWnd* pOldWnd) {
     CRichEditCtrl::OnSetFocus(pOldWnd);
+    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr)
+        bar->GetKeyboard().OnEditFocusCame(pOldWnd->GetSafeHwnd());
     m_edit.OnEditFocus(TRUE);
 }
 
 // The loss of the focus may send the command, whose handler may delete this window: it comes last.
 void CMFCRibbonRichEditCtrl::OnKillFocus(CWnd* pNewWnd) {
     CRichEditCtrl::OnKillFocus(pNewWnd);
+    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr)
+        bar->GetKeyboard().OnFocusWent(pNewWnd->GetSafeHwnd());
     m_edit.OnEditFocus(FALSE);
 }
 
@@ -165,7 +170,9 @@ BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
     if (nChar == VK_ESCAPE)
         RevertText();
     m_strCommitted = m_strEdit;
-    if (CWnd* target = GetCommandTarget(); target != nullptr)
+    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr)
+        bar->GetKeyboard().GiveFocusBack();
+    if (CWnd* target = GetCommandTarget(); target != nullptr && HasFocus())
         target->SetFocus();
     if (nChar == VK_RETURN)
         NotifyCommand();

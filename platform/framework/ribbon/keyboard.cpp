@@ -1,6 +1,7 @@
 // Key tips: their levels, the letters and the messages that lead through them.
 #include "ribbon/keyboard.h"
 
+#include <algorithm>
 #include <cwctype>
 
 #include "afxribbonbar.h"
@@ -89,8 +90,8 @@ void RibbonKeyboard::Assign(Tips& tips, std::size_t first) {
     }
 }
 
-// Letters for what stands on the bar, digits for the quick access toolbar. Hidden tabs keep their letters, so that those
-// of the others do not change when they appear.
+// Letters for what stands on the bar, digits for the quick access toolbar. Hidden tabs keep their letters, so that
+// those of the others do not change when they appear.
 void RibbonKeyboard::CollectBar(Tips& tips) const {
     const RibbonBarParts& parts = *m_bar.m_parts;
     for (int place = 0; place < parts.quickAccess.GetCount(); ++place) {
@@ -211,8 +212,8 @@ void RibbonKeyboard::OnLayoutChanged() { ShowMatchingTips(); }
 
 bool RibbonKeyboard::IsPopupOnTop() const { return !m_levels.empty() && m_levels.back().window != &m_bar; }
 
-// Elements of a panel that has scrolled out of view, or of a minimised bar, can be called without being seen. Those of a
-// collapsed panel are the business of its pop-up.
+// Elements of a panel that has scrolled out of view, or of a minimised bar, can be called without being seen. Those of
+// a collapsed panel are the business of its pop-up.
 bool RibbonKeyboard::IsReachable(const CMFCRibbonKeyTip& tip) const {
     const CMFCRibbonBaseElement& element = *tip.GetElement();
     if (!element.IsVisible() || tip.GetKeys().IsEmpty()) {
@@ -540,6 +541,12 @@ bool RibbonKeyboard::OnKeyInEdit(UINT key) {
 void RibbonKeyboard::OnMouseButton(HWND window) {
     m_isAltPending = false;
     if (!m_isActive) {
+        return;
+    }
+    // A click beside an edit's text, on its drop button for example, is still the edit's.
+    const bool isInEdit = HoldsFocus() && ::GetFocus() != m_bar.GetSafeHwnd();
+    if (isInEdit && (window == m_bar.GetSafeHwnd() || ::IsChild(m_bar.GetSafeHwnd(), window))) {
+        HideTips();
         return;
     }
     if (IsPopupOnTop() && window == m_levels.back().window->GetSafeHwnd()) {

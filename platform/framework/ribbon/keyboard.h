@@ -14,9 +14,9 @@ class CMFCRibbonBaseElement;
 class CMFCRibbonCategory;
 class CMFCRibbonTab;
 
-/// A ribbon bar's keyboard: the levels of key tips, and the focus that arrows move. Owned by its bar. While it is active
-/// the bar's window has the system's focus, or the edit window of an element has; when it ends the focus returns to
-/// where it was. A command may destroy bar and keyboard: what sends one comes last.
+/// A ribbon bar's keyboard: the levels of key tips, and the focus that arrows move. Owned by its bar. While it is
+/// active the bar's window has the system's focus, or the edit window of an element has; when it ends the focus returns
+/// to where it was. A command may destroy bar and keyboard: what sends one comes last.
 class RibbonKeyboard {
 public:
     enum class Focus { GiveBack, Leave };
@@ -43,10 +43,14 @@ public:
     /// Takes the focus without tips, on the active tab.
     void Activate();
     void Deactivate(Focus focus);
+    /// Ends the keyboard, and returns the focus even when only an edit had it.
+    void GiveFocusBack();
 
     // Messages; true: done.
     bool OnSysKeyDown(UINT key, LPARAM flags);
     bool OnSysKeyUp(UINT key);
+    /// Another key went down while Alt was held.
+    void OnOtherKey() { m_isAltPending = false; }
     /// A key while the keyboard is active.
     bool OnKeyDown(const MSG& message);
     /// A letter of a key tip, in any case; starts with the bar's level when none is shown.
@@ -54,10 +58,12 @@ public:
     void OnMouseButton(HWND window);
     /// The focus comes to the bar or an edit window in it.
     void OnFocusCame(HWND former);
+    /// An edit that was clicked has the keyboard as well: Tab and arrows lead on from it.
+    void OnEditFocusCame(HWND former);
     void OnFocusWent(HWND next);
 
-    /// A pop-up of the bar opens. When keys opened it the elements take the next letters, and show them when the letters
-    /// of a tip did; their rectangles are client pixels of their parent window. Nothing happens otherwise.
+    /// A pop-up of the bar opens. When keys opened it the elements take the next letters, and show them when the
+    /// letters of a tip did; their rectangles are client pixels of their parent window. Nothing happens otherwise.
     void EnterPopup(CWnd& popup, CObject* object, const std::vector<CMFCRibbonBaseElement*>& elements);
     /// The pop-up closes. goesBack: without a choice, so that the level below is shown again.
     void LeavePopup(const CWnd& popup, bool goesBack);

@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <imm.h>
+
 #include "afxDockingManager.h"
 #include "afxRibbonEdit.h"
 #include "afxglobals.h"
@@ -28,7 +30,7 @@ void AppendStops(const ElementArray& elements, Elements& stops) {
     }
 }
 
-void Append(Elements& to, const Elements& from) { to.insert(to.end(), from.begin(), from.end()); }
+void Join(Elements& to, const Elements& from) { to.insert(to.end(), from.begin(), from.end()); }
 
 bool Contains(const Elements& elements, const CMFCRibbonBaseElement* element) {
     return std::find(elements.begin(), elements.end(), element) != elements.end();
@@ -65,9 +67,7 @@ CMFCRibbonBaseElement* NeighbourOf(const Elements& stops, const CMFCRibbonBaseEl
     return next ? stops[*next] : nullptr;
 }
 
-bool CanTakeFocus(HWND window) {
-    return ::IsWindow(window) && ::IsWindowVisible(window) && ::IsWindowEnabled(window);
-}
+bool CanTakeFocus(HWND window) { return ::IsWindow(window) && ::IsWindowVisible(window) && ::IsWindowEnabled(window); }
 
 } // namespace
 
@@ -82,6 +82,16 @@ void RibbonKeyboard::OnFocusCame(HWND former) {
     if (former != nullptr && former != m_bar.GetSafeHwnd() && !::IsChild(m_bar.GetSafeHwnd(), former)) {
         m_formerFocus = former;
     }
+}
+
+void RibbonKeyboard::OnEditFocusCame(HWND former) {
+    OnFocusCame(former);
+    m_isActive = m_isActive || HoldsFocus();
+}
+
+void RibbonKeyboard::GiveFocusBack() {
+    Deactivate(Focus::Leave);
+    ReturnFocus();
 }
 
 void RibbonKeyboard::OnFocusWent(HWND next) {
@@ -99,6 +109,8 @@ void RibbonKeyboard::Activate() {
     m_bar.EnsureLayout();
     m_bar.PopTooltip();
     m_isActive = true;
+    // Letters are for the tips, not for an input method.
+    ::ImmAssociateContext(m_bar.GetSafeHwnd(), nullptr);
     if (::GetFocus() != m_bar.GetSafeHwnd()) {
         // The system tells the former focus to the window that gets it; an edit in the bar is none to return to.
         m_bar.SetFocus();
@@ -344,8 +356,8 @@ bool RibbonKeyboard::MoveAnywhere(const CMFCRibbonBaseElement& from, ribbon::Foc
     if (CMFCRibbonTab* tab = ActiveTab()) {
         stops.push_back(tab);
     }
-    Append(stops, TabRowStops());
-    Append(stops, CategoryStops());
+    Join(stops, TabRowStops());
+    Join(stops, CategoryStops());
     if (!Contains(stops, &from)) {
         return false;
     }
@@ -360,8 +372,8 @@ void RibbonKeyboard::MoveInOrder(bool forward) {
     if (CMFCRibbonTab* tab = ActiveTab()) {
         stops.push_back(tab);
     }
-    Append(stops, CategoryStops());
-    Append(stops, TabRowStops());
+    Join(stops, CategoryStops());
+    Join(stops, TabRowStops());
     if (stops.empty()) {
         return;
     }
@@ -408,10 +420,10 @@ void RibbonKeyboard::GoToNextPane(bool forward) {
         manager->GetPaneList(panes);
         for (POSITION position = panes.GetHeadPosition(); position != nullptr;) {
             auto* pane = static_cast<CBasePane*>(panes.GetNext(position));
-            const HWND inside = pane->GetSafeHwnd() != nullptr
-                                    ? ::GetNextDlgTabItem(pane->GetSafeHwnd(), nullptr, FALSE)
-                                    : nullptr;
-            if (pane != &m_bar && pane->CanFocus() && CanTakeFocus(inside)) {
+            const HWND inside =
+                pane->GetSafeHwnd() != nullptr ? ::GetNextDlgTabItem(pane->GetSafeHwnd(), nullptr, FALSE) : nullptr;
+            const bool isStop = CanTakeFocus(inside) && (::GetWindowLongPtr(inside, GWL_STYLE) & WS_TABSTOP) != 0;
+            if (pane != &m_bar && pane->CanFocus() && isStop) {
                 goals.push_back(inside);
             }
         }

@@ -55,13 +55,20 @@ void CMFCRibbonQuickAccessCustomizeButton::OnDraw(CDC* pDC) {
 }
 
 void CMFCRibbonQuickAccessCustomizeButton::OnLButtonUp(CPoint point) {
+    if (IsPressed() && m_rect.PtInRect(point)) {
+        OnKey(TRUE);
+    }
+}
+
+BOOL CMFCRibbonQuickAccessCustomizeButton::OnKey(BOOL /*bIsMenuKey*/) {
     CMFCRibbonBar* bar = GetTopLevelRibbonBar();
-    if (!IsPressed() || !m_rect.PtInRect(point) || bar == nullptr) {
-        return;
+    if (bar == nullptr) {
+        return FALSE;
     }
     CPoint corner(m_rect.left, m_rect.bottom);
     bar->ClientToScreen(&corner);
     bar->OnShowRibbonQATMenu(bar, corner.x, corner.y, this);
+    return TRUE;
 }
 
 // ---- the toolbar

@@ -11,7 +11,8 @@ namespace visual {
 inline Look LookOf(const Skin& skin) { return {skin, afxGlobalData.GetRibbonImageScale()}; }
 
 inline ElementState StateOf(const CMFCRibbonBaseElement& element) {
-    return {element.IsHighlighted() != FALSE, element.IsPressed() != FALSE, element.IsChecked() != FALSE,
+    // What has the keyboard's focus looks like what is under the pointer.
+    return {element.IsHighlighted() != FALSE || element.IsFocused() != FALSE, element.IsPressed() != FALSE, element.IsChecked() != FALSE,
             element.IsDisabled() != FALSE, element.IsDroppedDown() != FALSE};
 }
 

@@ -110,7 +110,8 @@ BOOL CFrameWndEx::OnDrawMenuImage(CDC*, const CMFCToolBarMenuButton*, const CRec
 BOOL CFrameWndEx::GetToolbarButtonToolTipText(CMFCToolBarButton*, CString&) { return FALSE; }
 
 BOOL CFrameWndEx::PreTranslateMessage(MSG* pMsg) {
-    return m_Impl.HandWheelToRibbon(*pMsg) || CFrameWnd::PreTranslateMessage(pMsg);
+    return m_Impl.HandWheelToRibbon(*pMsg) || m_Impl.HandActiveKeyToRibbon(*pMsg) ||
+           CFrameWnd::PreTranslateMessage(pMsg) || m_Impl.HandKeyToRibbon(*pMsg);
 }
 
 BOOL CFrameWndEx::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {

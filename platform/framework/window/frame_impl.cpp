@@ -3,6 +3,7 @@
 #include "afxbasepane.h"
 #include "afxribbonbar.h"
 #include "panes/ribbon_pane.h"
+#include "ribbon/keyboard.h"
 
 #include <windowsx.h>
 
@@ -33,6 +34,70 @@ BOOL CFrameImpl::HandWheelToRibbon(const MSG& message) {
     }
     ::SendMessageW(ribbon, message.message, message.wParam, message.lParam);
     return TRUE;
+}
+
+CMFCRibbonBar* CFrameImpl::RibbonForKeys(const MSG& message) {
+    const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    const bool isMouse = (message.message > WM_MOUSEMOVE && message.message <= WM_MOUSELAST) ||
+                         (message.message > WM_NCMOUSEMOVE && message.message <= WM_NCXBUTTONDBLCLK);
+    if ((!isKey && !isMouse) || !m_frame->IsWindowEnabled() ||
+        ::GetAncestor(message.hwnd, GA_ROOT) != m_frame->GetSafeHwnd()) {
+        return nullptr;
+    }
+    CMFCRibbonBar* bar = RibbonBar();
+    return bar && bar->GetSafeHwnd() ? bar : nullptr;
+}
+
+BOOL CFrameImpl::HandActiveKeyToRibbon(const MSG& message) {
+    CMFCRibbonBar* bar = RibbonForKeys(message);
+    if (!bar) {
+        return FALSE;
+    }
+    RibbonKeyboard& keyboard = bar->GetKeyboard();
+    switch (message.message) {
+    case WM_KEYDOWN:
+        return keyboard.OnKeyDown(message);
+    case WM_SYSKEYDOWN:
+        // An accelerator may take the key: Alt was not pressed alone all the same.
+        if (message.wParam != VK_MENU) {
+            keyboard.OnOtherKey();
+        }
+        return keyboard.IsActive() && bar->OnSysKeyDown(m_frame, message.wParam, message.lParam);
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+    case WM_XBUTTONDOWN:
+    case WM_NCLBUTTONDOWN:
+    case WM_NCRBUTTONDOWN:
+    case WM_NCMBUTTONDOWN:
+    case WM_NCXBUTTONDOWN:
+        keyboard.OnMouseButton(message.hwnd);
+        return FALSE;
+    default:
+        return FALSE;
+    }
+}
+
+BOOL CFrameImpl::HandKeyToRibbon(const MSG& message) {
+    CMFCRibbonBar* bar = RibbonForKeys(message);
+    if (!bar) {
+        return FALSE;
+    }
+    switch (message.message) {
+    case WM_KEYDOWN:
+        if (message.wParam == VK_F1 && ::GetKeyState(VK_CONTROL) < 0 && bar->IsWindowVisible()) {
+            bar->ToggleMimimizeState();
+            return TRUE;
+        }
+        return FALSE;
+    case WM_SYSKEYDOWN:
+        return !bar->GetKeyboard().IsActive() && bar->OnSysKeyDown(m_frame, message.wParam, message.lParam);
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+        return bar->OnSysKeyUp(m_frame, message.wParam, message.lParam);
+    default:
+        return FALSE;
+    }
 }
 
 void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) { m_activePopup = popup; }

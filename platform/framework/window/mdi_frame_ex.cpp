@@ -135,7 +135,8 @@ BOOL CMDIFrameWndEx::OnDrawMenuImage(CDC*, const CMFCToolBarMenuButton*, const C
 BOOL CMDIFrameWndEx::GetToolbarButtonToolTipText(CMFCToolBarButton*, CString&) { return FALSE; }
 
 BOOL CMDIFrameWndEx::PreTranslateMessage(MSG* pMsg) {
-    return m_Impl.HandWheelToRibbon(*pMsg) || CMDIFrameWnd::PreTranslateMessage(pMsg);
+    return m_Impl.HandWheelToRibbon(*pMsg) || m_Impl.HandActiveKeyToRibbon(*pMsg) ||
+           CMDIFrameWnd::PreTranslateMessage(pMsg) || m_Impl.HandKeyToRibbon(*pMsg);
 }
 
 BOOL CMDIFrameWndEx::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {

@@ -25,6 +25,10 @@ public:
     CMFCMenuBar* MenuBar() const { return m_menuBar; }
     /// Hands a turn of the wheel above the ribbon to the ribbon, whoever has the focus. TRUE: the message is done.
     BOOL HandWheelToRibbon(const MSG& message);
+    /// A key while the ribbon's keyboard is active comes before the accelerators, one that would start it (Alt, F10, Alt
+    /// with a letter, Ctrl+F1) after them. A click ends the keyboard. TRUE: the message is done.
+    BOOL HandActiveKeyToRibbon(const MSG& message);
+    BOOL HandKeyToRibbon(const MSG& message);
     void OnShowPopupMenu(CMFCPopupMenu* popup);
     void OnClosePopupMenu(CMFCPopupMenu* popup);
     CMFCPopupMenu* ActivePopup() const { return m_activePopup; }
@@ -33,6 +37,9 @@ public:
     bool m_isInLayout = false;
 
 private:
+    /// The ribbon, when the message is for the frame and what lies in it: a dialog's keys are its own.
+    CMFCRibbonBar* RibbonForKeys(const MSG& message);
+
     CFrameWnd* m_frame;
     CDockingManager m_dockingManager;
     CMFCMenuBar* m_menuBar = nullptr;
