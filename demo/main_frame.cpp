@@ -80,7 +80,8 @@ CMainFrame::CMainFrame(const DemoOptions& options)
 
 BOOL CMainFrame::CreateFrame() {
     const CRect rect(CPoint(0, 0), CSize(m_options.width, m_options.height));
-    return Create(nullptr, ViewerText("ViewerTitle").c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rect);
+    return Create(nullptr, ViewerText("ViewerTitle").c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rect, nullptr,
+                  nullptr, m_options.isRightToLeft ? WS_EX_LAYOUTRTL : 0);
 }
 
 int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {

@@ -25,6 +25,11 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
         {L"--skin", text(options.skin)},
         {L"--screenshot", text(options.screenshot)},
         {L"--record", text(options.record)},
+        {L"--direction",
+         [&](const std::wstring& v) {
+             options.isRightToLeft = v == L"rtl";
+             return v == L"rtl" || v == L"ltr";
+         }},
         {L"--size", [&](const std::wstring& v) { return ParseSize(v, kLargest, options.width, options.height); }},
         {L"--scale", [&](const std::wstring& v) { return ParseInteger(v, 0, kLargest, options.scalePercent); }},
         {L"--category", [&](const std::wstring& v) { return ParseInteger(v, 0, kLargest, options.category); }},

@@ -10,10 +10,11 @@ struct DemoOptions {
     std::wstring skin = L"silver";
     int width = 1280; ///< Outer size of the frame in screen pixels.
     int height = 800;
-    int scalePercent = 0;    ///< 0: as the screen says.
-    int category = 0;        ///< Index of the category shown first.
-    std::wstring screenshot; ///< PNG file to write, then leave; empty: stay.
-    std::wstring record;     ///< JSON file that is written anew after each command; empty: none.
+    int scalePercent = 0;       ///< 0: as the screen says.
+    int category = 0;           ///< Index of the category shown first.
+    bool isRightToLeft = false; ///< Mirrored layout, as for languages that are written so.
+    std::wstring screenshot;    ///< PNG file to write, then leave; empty: stay.
+    std::wstring record;        ///< JSON file that is written anew after each command; empty: none.
 };
 
 /// Nothing, with a line in `error`, when an argument is unknown or malformed.

@@ -33,7 +33,7 @@ class Viewer:
                                  BARWRIGHT_WINEPREFIX=os.path.join(ROOT, "build", "wine-e2e"))
         self._program = subprocess.Popen(
             [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, "demo.exe"), "--size", "1280x800",
-             "--record", self._record_file, *self._arguments], env=self._environment)
+             "--record", self._record_file, *map(str, self._arguments)], env=self._environment)
         try:
             self.wait_for(lambda record: True)
         except BaseException:
@@ -96,12 +96,43 @@ class Viewer:
     def id_of(self, keyword):
         return next(entry["id"] for entry in self.record["frame"]["registry"] if entry["keyword"] == keyword)
 
-    def click_command(self, keyword):
-        """Clicks the middle of the command's element in the ribbon."""
+    def place_of(self, keyword):
+        """Left, top, right, bottom of the command's element on the screen."""
         wanted = self.id_of(keyword)
         left, top, right, bottom = next(e["rect"] for e in self.elements() if e["id"] == wanted)
         bar_left, bar_top = self.record["ribbonOnScreen"][:2]
-        self.click(bar_left + (left + right) // 2, bar_top + (top + bottom) // 2)
+        return bar_left + left, bar_top + top, bar_left + right, bar_top + bottom
+
+    def _middle(self, keyword):
+        left, top, right, bottom = self.place_of(keyword)
+        return (left + right) // 2, (top + bottom) // 2
+
+    def click_command(self, keyword):
+        """Clicks the middle of the command's element in the ribbon."""
+        self.click(*self._middle(keyword))
+
+    def hover_command(self, keyword):
+        x, y = self._middle(keyword)
+        # Two moves: the first one may only bring the pointer into the window.
+        self._xdotool("mousemove", x - 2, y, "sleep", 0.1, "mousemove", x, y)
+
+    def press_command(self, keyword):
+        self.hover_command(keyword)
+        self._xdotool("sleep", 0.1, "mousedown", 1)
+
+    def release(self):
+        self._xdotool("mouseup", 1)
+
+    def open_menu(self, keyword):
+        """Clicks the arrow: at the right end of a row, at the lower end of a large button."""
+        left, top, right, bottom = self.place_of(keyword)
+        if right - left > bottom - top:
+            self.click(right - 6, (top + bottom) // 2)
+        else:
+            self.click((left + right) // 2, bottom - 6)
+
+    def key(self, *names):
+        self._xdotool("key", *names)
 
     def picture(self, path):
         subprocess.run(["import", "-window", "root", path], env=self._environment, check=True)

@@ -49,6 +49,8 @@ bool WriteScreenshot(HWND window, const std::wstring& path) {
     CBitmap bitmap;
     {
         CWindowDC source(CWnd::FromHandle(window));
+        // A mirrored window is copied as it stands on the screen.
+        ::SetLayout(source.GetSafeHdc(), 0);
         CDC memory;
         memory.CreateCompatibleDC(&source);
         bitmap.CreateCompatibleBitmap(&source, rect.Width(), rect.Height());

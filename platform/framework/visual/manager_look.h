@@ -12,8 +12,8 @@ inline Look LookOf(const Skin& skin) { return {skin, afxGlobalData.GetRibbonImag
 
 inline ElementState StateOf(const CMFCRibbonBaseElement& element) {
     // What has the keyboard's focus looks like what is under the pointer.
-    return {element.IsHighlighted() != FALSE || element.IsFocused() != FALSE, element.IsPressed() != FALSE, element.IsChecked() != FALSE,
-            element.IsDisabled() != FALSE, element.IsDroppedDown() != FALSE};
+    return {element.IsHighlighted() != FALSE || element.IsFocused() != FALSE, element.IsPressed() != FALSE,
+            element.IsChecked() != FALSE, element.IsDisabled() != FALSE, element.IsDroppedDown() != FALSE};
 }
 
 inline GroupPlace PlaceOf(const CMFCRibbonBaseElement& element) {

@@ -68,12 +68,12 @@ TEST(KeyLetters, AnAutomaticKeyDoesNotBeginAGivenOne) {
 }
 
 TEST(KeyLetters, GrowWhenTheAlphabetIsNotEnough) {
-    std::vector<KeyTipWish> wishes(27, {L"", L"Button"});
+    std::vector<KeyTipWish> wishes(27, {L"", L"Pencil"});
     const std::vector<std::wstring> keys = AssignKeyTips(wishes);
     EXPECT_EQ(FirstClash(keys), L"");
     // The first letter that most texts share begins the longer keys.
     EXPECT_THAT(std::vector<std::wstring>(keys.begin(), keys.begin() + 6),
-                ElementsAre(L"U", L"T", L"O", L"N", L"BU", L"BT"));
+                ElementsAre(L"E", L"N", L"C", L"I", L"L", L"PE"));
 }
 
 TEST(KeyLetters, AreUniqueAndNoneBeginsAnother) {

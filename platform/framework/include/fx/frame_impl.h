@@ -25,8 +25,8 @@ public:
     CMFCMenuBar* MenuBar() const { return m_menuBar; }
     /// Hands a turn of the wheel above the ribbon to the ribbon, whoever has the focus. TRUE: the message is done.
     BOOL HandWheelToRibbon(const MSG& message);
-    /// A key while the ribbon's keyboard is active comes before the accelerators, one that would start it (Alt, F10, Alt
-    /// with a letter, Ctrl+F1) after them. A click ends the keyboard. TRUE: the message is done.
+    /// A key while the ribbon's keyboard is active comes before the accelerators, one that would start it (Alt, F10,
+    /// Alt with a letter, Ctrl+F1) after them. A click ends the keyboard. TRUE: the message is done.
     BOOL HandActiveKeyToRibbon(const MSG& message);
     BOOL HandKeyToRibbon(const MSG& message);
     void OnShowPopupMenu(CMFCPopupMenu* popup);
