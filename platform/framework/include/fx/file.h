@@ -2,7 +2,18 @@
 
 // CFile: unbuffered binary files; CMemFile: the same interface on memory. Errors throw CFileException.
 
+#include "atltime.h"
 #include "fx/exceptions.h"
+
+/// What a directory says of a file. Times of 0 are unknown.
+struct CFileStatus {
+    CTime m_ctime; ///< made
+    CTime m_mtime; ///< changed last
+    CTime m_atime; ///< read last
+    ULONGLONG m_size = 0;
+    BYTE m_attribute = 0; ///< CFile::Attribute
+    TCHAR m_szFullName[_MAX_PATH] = {};
+};
 
 class FRAMEWORK_API CFile : public CObject {
     DECLARE_DYNAMIC(CFile)
@@ -25,6 +36,15 @@ public:
         osWriteThrough = 0x20000,
         osRandomAccess = 0x40000,
         osSequentialScan = 0x80000
+    };
+    enum Attribute {
+        normal = 0x00,
+        readOnly = 0x01,
+        hidden = 0x02,
+        system = 0x04,
+        volume = 0x08,
+        directory = 0x10,
+        archive = 0x20
     };
     enum SeekPosition { begin = 0x0, current = 0x1, end = 0x2 };
 
@@ -65,6 +85,11 @@ public:
 
     static void PASCAL Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
     static void PASCAL Remove(LPCTSTR lpszFileName);
+    /// FALSE when there is no such file, or no file is open.
+    BOOL GetStatus(CFileStatus& rStatus) const;
+    static BOOL PASCAL GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus);
+    /// Sets the attributes and, when m_mtime is not 0, the times. Throws CFileException.
+    static void PASCAL SetStatus(LPCTSTR lpszFileName, const CFileStatus& status);
 
     HANDLE m_hFile = INVALID_HANDLE_VALUE;
 
