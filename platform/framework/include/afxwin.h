@@ -18,5 +18,6 @@
 #include "fx/controls.h"
 #include "fx/dialog.h"
 #include "fx/frame.h"
+#include "fx/view.h"
 #include "fx/mini_frame.h"
 #include "fx/mdi.h"

@@ -13,6 +13,8 @@ ON_WM_CREATE()
 ON_WM_CLOSE()
 ON_WM_DESTROY()
 ON_WM_SIZE()
+ON_WM_SETFOCUS()
+ON_WM_ACTIVATE()
 ON_WM_QUERYENDSESSION()
 ON_WM_INITMENUPOPUP()
 ON_WM_MENUSELECT()
@@ -121,8 +123,6 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return 0;
 }
 
-BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext*) { return TRUE; }
-
 void CFrameWnd::PostNcDestroy() { delete this; }
 
 void CFrameWnd::OnDestroy() {
@@ -182,6 +182,9 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
 
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     const bool asksApplication = !std::exchange(m_leavesApplicationOut, false);
+    if (m_pViewActive != nullptr && m_pViewActive->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+        return TRUE;
+    }
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
         return TRUE;
     }

@@ -28,7 +28,9 @@ target_sources(framework PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/frame_layout.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_messages.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_status_bar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_views.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_window.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/view.cpp
   ${CMAKE_CURRENT_LIST_DIR}/mdi_child.cpp
   ${CMAKE_CURRENT_LIST_DIR}/mdi_child_ex.cpp
   ${CMAKE_CURRENT_LIST_DIR}/mdi_frame.cpp

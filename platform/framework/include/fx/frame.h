@@ -9,6 +9,8 @@
 
 class CControlBar;
 class CDockingManager;
+class CDocument;
+class CView;
 struct CCreateContext;
 
 /// A frame whose title takes the document's name in front of its own.
@@ -28,8 +30,8 @@ struct CCreateContext;
 enum FrameIdleFlags { idleMenu = 1, idleTitle = 2, idleNotify = 4, idleLayout = 8 };
 
 /// A top-level or MDI child frame window: it holds menu, accelerator table, title, bars around its client area and
-/// routes commands (itself, then the application; derived frames put their active child in front). Create it with new:
-/// the object deletes itself after WM_NCDESTROY.
+/// routes commands (active view, itself, then the application; derived frames put their active child in front). Create
+/// it with new: the object deletes itself after WM_NCDESTROY.
 class FRAMEWORK_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 
@@ -52,6 +54,16 @@ public:
     BOOL LoadAccelTable(LPCTSTR lpszResourceName);
     /// Replaces the table and destroys the former one, unless it is the same or came from the resources.
     void ReplaceAccelTable(HACCEL newTable);
+
+    /// A view of pContext->m_pNewViewClass, child of the frame. NULL when it cannot be made.
+    CWnd* CreateView(CCreateContext* pContext, UINT nID = AFX_IDW_PANE_FIRST);
+    /// The view that commands go to first; NULL when there is none.
+    CView* GetActiveView() const { return m_pViewActive; }
+    /// NULL leaves the frame without an active view. bNotify: the new view is told.
+    void SetActiveView(CView* pViewNew, BOOL bNotify = TRUE);
+    /// After Create: makes the view with id AFX_IDW_PANE_FIRST active when none is, lets all views update and, with
+    /// bMakeVisible, shows the frame. pDoc may be NULL.
+    void InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible);
 
     virtual void ActivateFrame(int nCmdShow = -1);
     virtual CFrameWnd* GetActiveFrame();
@@ -106,6 +118,7 @@ public:
     HACCEL m_hAccelTable = NULL;   ///< current table, NULL when none; replace it with ReplaceAccelTable
 
 protected:
+    /// The base makes the view that the context names, if any.
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
     virtual void OnShowMenuBar();
     virtual void OnHideMenuBar();
@@ -121,6 +134,8 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
@@ -139,6 +154,7 @@ protected:
     UINT m_nIdleFlags = 0;       ///< FrameIdleFlags
     CString m_strTitle;          ///< the frame's own title, without a document
     CObList m_listControlBars;   ///< CControlBar, not owned
+    CView* m_pViewActive = NULL; ///< not owned
     BOOL m_isAccelTableOwned = FALSE;
 
 private:
