@@ -69,7 +69,7 @@ CMainFrame::CMainFrame(const DemoOptions& options)
     : m_options(options),
       m_data(MapData::Load(std::filesystem::path(InstallationDirectory()) / L"data")),
       m_map(m_state, m_data),
-      m_ribbon(FALSE),
+      m_ribbon(TRUE),
       m_skin(options.skin) {
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
     dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));

@@ -53,6 +53,8 @@ struct FRAMEWORK_API AFX_GLOBAL_DATA {
     BOOL IsRibbonImageScaleEnabled() const { return m_bRibbonImageScaleEnabled; }
     void EnableRibbonImageScale(BOOL bEnable = TRUE);
     /// 1.0 while scaling is switched off.
+    /// Dots per inch of the monitor that the main frame is on; 0: as the screen says. Takes effect with UpdateFonts.
+    void SetScreenDpi(UINT dpi) { m_nScreenDpi = dpi; }
     double GetRibbonImageScale() const { return m_bRibbonImageScaleEnabled ? m_dblRibbonImageScale : 1.0; }
     /// A host, test or preview sets 1.0 to 4.0; 0 returns to the screen's own. Recreates the fonts at once; bars must
     /// be laid out again by the caller. FALSE, and nothing changed, when the factor is out of range.
@@ -100,6 +102,7 @@ private:
     void ReadHighContrast();
     double ScreenScale() const;
 
+    UINT m_nScreenDpi = 0;
     double m_dblRibbonImageScale = 1.0;
     double m_dblScaleSetByHost = 0.0;
     BOOL m_bRibbonImageScaleEnabled = TRUE;

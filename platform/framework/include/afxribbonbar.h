@@ -43,13 +43,49 @@ class FRAMEWORK_API CMFCRibbonContextCaption : public CMFCRibbonButton {
 
 public:
     CMFCRibbonContextCaption();
+    BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
     AFX_RibbonCategoryColor GetColor() const { return m_Color; }
     int GetRightTabX() const { return m_nRightTabX; }
     void OnDraw(CDC* pDC) override;
 
+protected:
+    /// A click activates the first category of the context.
+    void OnClick(CPoint point) override;
+
 private:
     AFX_RibbonCategoryColor m_Color = AFX_CategoryColor_None;
+    UINT m_uiContextID = 0;
     int m_nRightTabX = -1;
+};
+
+/// A window button (SC_MINIMIZE, SC_MAXIMIZE or SC_CLOSE) in the bar: the frame's own at the end of the caption, or
+/// those of a maximised MDI child at the end of the tab row. A click posts the system command to its window.
+class FRAMEWORK_API CMFCRibbonCaptionButton : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CMFCRibbonCaptionButton)
+
+public:
+    CMFCRibbonCaptionButton();
+    /// hwndMDIChild NULL: the frame of the bar.
+    CMFCRibbonCaptionButton(UINT uiSysCmd, HWND hwndMDIChild);
+
+    HWND GetMDIChild() const { return m_hwndMDIChild; }
+    /// What a click does now: SC_RESTORE instead of SC_MAXIMIZE for a maximised window.
+    UINT GetSystemCommand() const;
+
+    CSize GetRegularSize(CDC* pDC) override;
+    CString GetToolTipText() const override;
+    BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
+    void OnDraw(CDC* pDC) override;
+
+protected:
+    void OnClick(CPoint point) override;
+
+private:
+    friend class CMFCRibbonBar;
+    HWND TargetWindow() const;
+
+    UINT m_uiSysCmd = 0;
+    HWND m_hwndMDIChild = nullptr;
 };
 
 /// The ribbon bar of a frame: tabs, categories of panels, quick access toolbar, application button. It docks to the
@@ -126,9 +162,13 @@ public:
     int GetCaptionHeight() const override;
     BOOL IsReplaceFrameCaption() const;
     BOOL IsTransparentCaption() const;
+    /// Shows the window buttons of a maximised MDI child at the end of the tab row, or takes them away.
+    void SetMaximizeMode(BOOL bMax, CWnd* pWnd = NULL);
+    /// The child whose buttons SetMaximizeMode shows when it gets no window.
+    void SetActiveMDIChild(CWnd* pWnd);
     BOOL IsWindows7Look() const;
     void SetWindows7Look(BOOL bWindows7Look, BOOL bRecalc = TRUE);
-    /// How much of their full width the tabs have, in percent.
+    /// How much of their full width the tabs had to give up, in percent.
     int GetTabTrancateRatio() const;
     virtual BOOL IsMainRibbonBar() const { return TRUE; }
     virtual BOOL IsShowGroupBorder(CMFCRibbonButtonsGroup* pGroup) const;
@@ -185,6 +225,18 @@ public:
     /// Lays out now if something changed since the last time.
     void EnsureLayout();
     void OnElementDestroyed(CMFCRibbonBaseElement* pElement);
+    /// What a point of the bar is for its frame: HTCAPTION, HTSYSMENU (the icon), else HTCLIENT.
+    LRESULT HitTestCaption(CPoint point);
+    /// The row that stands for the frame's caption; empty when the frame keeps its own.
+    CRect GetCaptionRect() const { return m_rectCaption; }
+    CRect GetCaptionIconRect() const;
+    /// Whether the caption row shows the frame as the active one. The frame says so.
+    void SetCaptionActive(bool isActive);
+    bool IsCaptionActive() const;
+    /// Title, activation or size of the frame have changed.
+    void RedrawCaption();
+    /// The tab row scrolls by one tab while the tabs have no room.
+    void ScrollTabs(BOOL bLeft);
     /// Paints the whole bar into the device context, as on the screen.
     void DoPaint(CDC* pDC) override;
 
@@ -205,6 +257,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
     afx_msg BOOL OnNeedTipText(UINT id, NMHDR* pNMH, LRESULT* pResult);
@@ -217,13 +270,20 @@ protected:
 
 private:
     friend class CMFCRibbonCategory;
+    friend class CMFCRibbonContextCaption;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
 
     void UpdateMetrics();
+    bool IsFrameTooSmall();
     void Measure(CDC* pDC);
     void Arrange(CDC* pDC);
     void ArrangeContextCaptions();
+    void MeasureCaption();
+    void DrawCaption(CDC* pDC);
+    void ArrangeCaptionButtons(CDC* pDC);
+    void UpdateMaximizeMode();
+    CMFCRibbonBaseElement* HitTestCaptionElements(CPoint point);
     void AskFrameForRoom();
     /// Tells the owner that the user chose another category.
     void NotifyCategoryChanged();

@@ -170,6 +170,7 @@ public:
     // Key tips, the captions of panels and of the window are drawn with their text. For all others, tabs too, the
     // manager draws the face, and the element its image and its text over it in the colour returned.
     virtual void OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect rect, CRect rectText);
+    virtual void OnDrawRibbonCaptionButton(CDC* pDC, CMFCRibbonCaptionButton* pButton);
     virtual void OnDrawRibbonApplicationButton(CDC* pDC, CMFCRibbonButton* pButton);
     virtual COLORREF OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar* pWndRibbonBar, CRect rectTab);
     virtual COLORREF OnDrawRibbonCategoryTab(CDC* pDC, CMFCRibbonTab* pTab, BOOL bIsActive);
@@ -276,6 +277,9 @@ public:
     virtual void OnDrawPaneDivider(CDC* pDC, CPaneDivider* pSlider, CRect rect, BOOL bAutoHideMode);
     virtual COLORREF OnFillMiniFrameCaption(CDC* pDC, CRect rectCaption, CPaneFrameWnd* pFrameWnd, BOOL bActive);
     virtual void OnDrawMiniFrameBorder(CDC* pDC, CPaneFrameWnd* pFrameWnd, CRect rectBorder, CRect rectBorderSize);
+    virtual void GetTabFrameColors(const CMFCBaseTabCtrl* pTabWnd, COLORREF& clrDark, COLORREF& clrBlack,
+                                   COLORREF& clrHighlight, COLORREF& clrFace, COLORREF& clrDarkShadow,
+                                   COLORREF& clrLight, CBrush*& pbrFace, CBrush*& pbrBlack);
     virtual void OnDrawTab(CDC* pDC, CRect rectTab, int iTab, BOOL bIsActive, const CMFCBaseTabCtrl* pTabWnd);
     virtual void OnDrawTabCloseButton(CDC* pDC, CRect rect, const CMFCBaseTabCtrl* pTabWnd, BOOL bIsHighlighted,
                                       BOOL bIsPressed, BOOL bIsDisabled);
@@ -285,6 +289,7 @@ public:
     virtual void OnEraseTabsButton(CDC* pDC, CRect rect, CMFCButton* pButton, CMFCBaseTabCtrl* pWndTab);
     virtual BOOL OnEraseTabsFrame(CDC* pDC, CRect rect, const CMFCBaseTabCtrl* pTabWnd);
     virtual BOOL OnEraseMDIClientArea(CDC* pDC, CRect rectClient);
+    /// Draws the borders of a frame whose ribbon stands for its caption; for other windows FALSE.
     virtual BOOL OnNcPaint(CWnd* pWnd, const CObList& lstSysButtons, CRect rectRedraw);
     virtual BOOL OnNcActivate(CWnd* pWnd, BOOL bActive);
     virtual void OnActivateApp(CWnd* pWnd, BOOL bActive);
@@ -294,6 +299,9 @@ public:
 protected:
     /// The table of colours that this manager draws from.
     virtual const visual::Skin& GetSkin() const;
+
+    CBrush m_brTabFace;
+    CBrush m_brTabBlack;
 
     /// TRUE when GetInstance created the manager and DestroyInstance may delete it.
     BOOL m_bAutoDestroy = FALSE;

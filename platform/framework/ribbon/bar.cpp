@@ -26,6 +26,7 @@ ON_WM_CANCELMODE()
 ON_WM_SETFOCUS()
 ON_WM_KILLFOCUS()
 ON_WM_CAPTURECHANGED()
+ON_WM_NCHITTEST()
 ON_WM_TIMER()
 ON_WM_SETTINGCHANGE()
 ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedTipText)
@@ -64,6 +65,9 @@ CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
     m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
     m_parts->quickAccess.SetParentRibbonBar(this);
     m_parts->quickAccess.GetCustomizeButton().SetParentRibbonBar(this);
+    m_parts->tabScrollLeft.SetLeftScroll(TRUE);
+    m_parts->tabScrollLeft.SetParentRibbonBar(this);
+    m_parts->tabScrollRight.SetParentRibbonBar(this);
 }
 
 CMFCRibbonBar::~CMFCRibbonBar() {
@@ -159,7 +163,7 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
 
     CRect above(0, 0, client.right, places.tabRow.bottom);
     if (!m_rectCaption.IsRectEmpty()) {
-        manager->OnDrawRibbonCaption(pDC, this, m_rectCaption, ToCRect(places.captionText));
+        DrawCaption(pDC);
         above.top = m_rectCaption.bottom;
     }
     const COLORREF text = manager->OnDrawRibbonTabsFrame(pDC, this, above);
@@ -184,6 +188,13 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
     for (const auto& element : m_parts->tabElements) {
         draw(*element);
     }
+    draw(m_parts->tabScrollLeft);
+    draw(m_parts->tabScrollRight);
+    for (const auto* buttons : {&m_parts->captionButtons, &m_parts->childButtons}) {
+        for (const auto& button : *buttons) {
+            draw(*button);
+        }
+    }
     draw(m_parts->quickAccess);
     if (m_parts->applicationButton != nullptr) {
         draw(*m_parts->applicationButton);
@@ -196,7 +207,7 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
 
 DWORD CMFCRibbonBar::GetHideFlags() const {
     return (m_parts->minimized ? AFX_RIBBONBAR_HIDE_ELEMENTS : 0) |
-           (m_parts->hiddenForWidth ? AFX_RIBBONBAR_HIDE_ALL : 0);
+           (m_parts->hiddenForSize ? AFX_RIBBONBAR_HIDE_ALL : 0);
 }
 
 int CMFCRibbonBar::GetCaptionHeight() const { return m_rectCaption.Height(); }

@@ -7,8 +7,9 @@
 
 namespace {
 
-// Below this width, at 96 DPI, nothing of the ribbon can be used.
-constexpr int kMinBarWidth = 100;
+// In a smaller client area, at 96 DPI, the ribbon would only stand in the way.
+constexpr int kMinFrameWidth = 200;
+constexpr int kMinFrameHeight = 150;
 
 bool IsTabShown(const CMFCRibbonCategory& category) { return category.IsVisible() != FALSE; }
 
@@ -37,6 +38,11 @@ void CMFCRibbonBar::EnsureLayout() {
     }
     CRect client;
     GetClientRect(client);
+    const bool isFrameTooSmall = IsFrameTooSmall();
+    if (isFrameTooSmall != m_parts->hiddenForSize) {
+        m_parts->hiddenForSize = isFrameTooSmall;
+        m_parts->layoutDirty = true;
+    }
     if (!m_parts->layoutDirty && client.Width() == m_parts->laidOutWidth) {
         return;
     }
@@ -55,7 +61,7 @@ void CMFCRibbonBar::EnsureLayout() {
     m_parts->laidOutWidth = client.Width();
     PlaceTooltip();
     m_parts->keyboard->OnLayoutChanged();
-    if (client.Height() != m_parts->arrangement.height && !m_parts->hiddenForWidth) {
+    if (client.Height() != m_parts->arrangement.height) {
         AskFrameForRoom();
     }
 }
@@ -106,9 +112,19 @@ CSize CMFCRibbonBar::CalcFixedLayout(BOOL bStretch, BOOL /*bHorz*/) {
     if (CWnd* parentWindow = GetParent()) {
         parentWindow->GetClientRect(parent);
     }
-    m_parts->hiddenForWidth = parent.Width() < m_parts->metrics.Scaled(kMinBarWidth);
-    const int height = m_parts->hiddenForWidth ? 0 : m_parts->arrangement.height;
-    return {bStretch ? 32767 : static_cast<int>(parent.Width()), height};
+    return {bStretch ? 32767 : static_cast<int>(parent.Width()), m_parts->arrangement.height};
+}
+
+// A minimised frame has no size that would say anything.
+bool CMFCRibbonBar::IsFrameTooSmall() {
+    CWnd* parent = GetParent();
+    if (parent == nullptr || parent->IsIconic()) {
+        return m_parts->hiddenForSize;
+    }
+    CRect area;
+    parent->GetClientRect(area);
+    const RibbonMetrics& metrics = m_parts->metrics;
+    return area.Width() < metrics.Scaled(kMinFrameWidth) || area.Height() < metrics.Scaled(kMinFrameHeight);
 }
 
 void CMFCRibbonBar::OnSize(UINT nType, int cx, int cy) {
@@ -136,6 +152,9 @@ void CMFCRibbonBar::Measure(CDC* pDC) {
     RibbonBarShape& shape = m_parts->shape;
     shape.replacesCaption = m_parts->replacesCaption;
     shape.minimized = m_parts->minimized;
+    shape.captionOnly = m_parts->hiddenForSize;
+    shape.tabsOnlyButton = m_parts->windows7Look;
+    MeasureCaption();
     shape.quickAccessOnTop = m_parts->quickAccessOnTop;
     shape.quickAccessWidth = 0;
     if (!m_parts->quickAccess.IsEmpty() || m_parts->quickAccessDefault.m_arCommands.GetSize() > 0) {
@@ -184,6 +203,10 @@ void CMFCRibbonBar::Arrange(CDC* pDC) {
         ++tab;
     }
     ArrangeContextCaptions();
+    ArrangeCaptionButtons(pDC);
+    PlaceElement(m_parts->tabScrollLeft, pDC, places.tabScrollLeft);
+    PlaceElement(m_parts->tabScrollRight, pDC, places.tabScrollRight);
+    m_parts->shape.firstTab = places.firstTab;
     if (m_parts->active != nullptr) {
         m_parts->active->m_rect = ToCRect(places.category);
         if (m_parts->active->m_parts->measured) {
@@ -197,7 +220,10 @@ void CMFCRibbonBar::Arrange(CDC* pDC) {
 // A context's caption lies above its tabs as far as the row above them has room beside the quick access toolbar.
 void CMFCRibbonBar::ArrangeContextCaptions() {
     const RibbonBarArrangement& places = m_parts->arrangement;
-    const int left = std::max(places.quickAccess.right, places.applicationButton.right);
+    // Below the category the toolbar takes nothing of the row.
+    const int toolbarRight = m_parts->quickAccessOnTop ? places.quickAccess.right : 0;
+    const int left = std::max({toolbarRight, places.applicationButton.right, places.captionIcon.right});
+    const int right = places.captionText.IsEmpty() ? m_parts->shape.width : places.captionText.right;
     for (const auto& context : m_parts->contexts) {
         CRect rect(0, 0, 0, 0);
         for (const auto& category : m_parts->categories) {
@@ -209,6 +235,7 @@ void CMFCRibbonBar::ArrangeContextCaptions() {
             }
         }
         rect.left = std::max<LONG>(rect.left, left);
+        rect.right = std::min<LONG>(rect.right, right);
         context.caption->m_nRightTabX = rect.IsRectEmpty() ? -1 : rect.right;
         context.caption->SetRect(rect.IsRectEmpty() ? CRect(0, 0, 0, 0) : rect);
     }

@@ -54,6 +54,7 @@ CMFCRibbonCategory* CMFCRibbonBar::AddContextCategory(LPCTSTR lpszName, LPCTSTR 
         caption->SetParentRibbonBar(this);
         caption->SetText(lpszContextName);
         caption->m_Color = clrContext;
+        caption->m_uiContextID = uiContextID;
         m_parts->contexts.push_back({uiContextID, CString(lpszContextName), std::move(caption)});
     }
     return category;
@@ -299,6 +300,9 @@ CMFCRibbonBaseElement* CMFCRibbonBar::HitTest(CPoint point, BOOL bCheckActiveCat
         if (CMFCRibbonBaseElement* hit = m_parts->applicationButton->HitTest(point)) {
             return hit;
         }
+    }
+    if (CMFCRibbonBaseElement* hit = HitTestCaptionElements(point)) {
+        return hit;
     }
     if (CMFCRibbonBaseElement* hit = m_parts->quickAccess.HitTest(point)) {
         return hit;

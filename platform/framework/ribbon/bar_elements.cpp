@@ -78,8 +78,14 @@ void CRibbonCategoryScroll::OnDraw(CDC* pDC) {
 }
 
 void CRibbonCategoryScroll::OnLButtonUp(CPoint point) {
-    if (IsPressed() && m_rect.PtInRect(point) && GetParentCategory() != nullptr) {
+    if (!IsPressed() || !m_rect.PtInRect(point)) {
+        return;
+    }
+    // Without a category it scrolls the tabs.
+    if (GetParentCategory() != nullptr) {
         GetParentCategory()->OnScrollHorz(m_bIsLeft);
+    } else if (CMFCRibbonBar* bar = GetParentRibbonBar()) {
+        bar->ScrollTabs(m_bIsLeft);
     }
 }
 
@@ -176,4 +182,11 @@ CMFCRibbonContextCaption::CMFCRibbonContextCaption() = default;
 void CMFCRibbonContextCaption::OnDraw(CDC* pDC) {
     const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryCaption(pDC, this);
     DrawCenteredText(pDC, m_strText, m_rect, color);
+}
+
+void CMFCRibbonContextCaption::OnClick(CPoint /*point*/) {
+    CMFCRibbonBar* bar = GetParentRibbonBar();
+    if (bar != nullptr && bar->ActivateContextCategory(m_uiContextID)) {
+        bar->NotifyCategoryChanged();
+    }
 }

@@ -229,6 +229,7 @@ void CMFCRibbonBar::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
 }
 
 void CMFCRibbonBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    UpdateMaximizeMode();
     EnsureLayout();
     CMFCRibbonCmdUI update;
     update.m_pOther = this;

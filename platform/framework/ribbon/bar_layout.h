@@ -13,8 +13,14 @@ struct RibbonBarShape {
     bool minimized = false;            // tabs only
     int quickAccessWidth = 0;          // of all its commands; 0: no quick access toolbar
     RibbonSize applicationButton;      // 0: none
+    bool tabsOnlyButton = false;       // the application button is as high as the tabs, not as both rows
     std::vector<int> tabWidths;        // full width of each shown tab
     std::vector<int> tabElementWidths; // elements at the right end of the tab row
+    bool captionOnly = false;          // the frame is too small for anything but its caption
+    bool hasIcon = false;              // the frame's icon leads the caption
+    int captionButtons = 0;            // the frame's own, at the right end of the caption
+    int childButtons = 0;              // those of a maximised MDI child, at the right end of the tab row
+    int firstTab = 0;                  // leftmost one in view while the tabs scroll
 };
 
 /// Where the parts of the bar lie, in client pixels. Empty rectangles are not shown.
@@ -22,10 +28,16 @@ struct RibbonBarArrangement {
     int height = 0;
     RibbonRect caption; // the row above the tabs, when it stands for the frame's caption
     RibbonRect captionText;
+    RibbonRect captionIcon;
+    std::vector<RibbonRect> captionButtons; // from left to right
+    std::vector<RibbonRect> childButtons;
     RibbonRect applicationButton;
     RibbonRect quickAccess;
     RibbonRect tabRow;
     std::vector<RibbonRect> tabs;
+    RibbonRect tabScrollLeft; // empty unless the tabs can scroll there
+    RibbonRect tabScrollRight;
+    int firstTab = 0; // as asked for, or what is possible
     std::vector<RibbonRect> tabElements;
     RibbonRect category;
     int tabReduction = 0; // how much of their full width the tabs lost, in percent
@@ -35,3 +47,6 @@ RibbonBarArrangement ArrangeBar(const RibbonBarShape& shape, const RibbonMetrics
 
 /// Shortens the widest of the widths until their sum is at most available; none falls below minimum unless all do.
 std::vector<int> ShortenWidths(const std::vector<int>& widths, int available, int minimum);
+
+/// The wider of the parts of area that lie left and right of the taken part; all of it when nothing is taken.
+RibbonRect WiderFreePart(const RibbonRect& area, const RibbonRect& taken);

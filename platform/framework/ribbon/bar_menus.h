@@ -13,6 +13,10 @@ enum class RibbonTextId : UINT {
     QuickAccessBelow = 17099,
     QuickAccessAbove = 17100,
     Minimize = 17101,
+    WindowMinimize = 17120,
+    WindowMaximize = 17121,
+    WindowRestore = 17122,
+    WindowClose = 17123,
 };
 
 CString RibbonText(RibbonTextId id);

@@ -9,6 +9,10 @@
 #include "ribbon/panel_layout.h"
 
 inline CRect ToCRect(const RibbonRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
+inline RibbonRect ToRibbonRect(const CRect& rect) {
+    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
+            static_cast<int>(rect.bottom)};
+}
 
 /// Selects the ribbon's regular font for its lifetime.
 class RibbonFontScope {
@@ -47,9 +51,10 @@ struct RibbonBarParts {
     int laidOutWidth = -1;
 
     bool replacesCaption = false;
+    bool captionActive = true;
     bool windows7Look = false;
     bool minimized = false;
-    bool hiddenForWidth = false;
+    bool hiddenForSize = false;
     bool quickAccessOnTop = true;
     bool tooltips = true;
     bool tooltipDescriptions = true;
@@ -78,6 +83,11 @@ struct RibbonBarParts {
         std::unique_ptr<CMFCRibbonContextCaption> caption;
     };
     std::vector<Context> contexts;
+    std::vector<std::unique_ptr<CMFCRibbonCaptionButton>> captionButtons; // the frame's
+    std::vector<std::unique_ptr<CMFCRibbonCaptionButton>> childButtons;   // of the maximised MDI child
+    CRibbonCategoryScroll tabScrollLeft;
+    CRibbonCategoryScroll tabScrollRight;
+    HWND activeChild = nullptr;
     std::vector<std::unique_ptr<CMFCRibbonBaseElement>> tabElements;
     std::vector<std::unique_ptr<CMFCRibbonCategory>> categories;
     std::unique_ptr<RibbonKeyboard> keyboard; // never null

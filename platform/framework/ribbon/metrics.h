@@ -13,6 +13,9 @@ struct RibbonMetrics {
     int largeImage = 0;
 
     int captionHeight = 0; // row above the tabs that stands for the frame's caption or holds the quick access toolbar
+    int captionButtonWidth = 0;
+    int captionButtonHeight = 0;
+    int childButtonSide = 0; // of the buttons of a maximised MDI child
     int tabHeight = 0;
     int tabPaddingX = 0; // between a tab's text and its side
     int tabGap = 0;
@@ -62,8 +65,11 @@ struct RibbonMetrics {
         m.tabHeight = m.textHeight + m.Scaled(11);
         m.tabPaddingX = m.Scaled(10);
         m.tabGap = m.Scaled(2);
-        m.minTabWidth = m.Scaled(16);
+        m.minTabWidth = m.Scaled(30);
         m.captionHeight = std::max(m.textHeight, m.smallImage) + m.Scaled(10);
+        m.captionButtonWidth = m.Scaled(29);
+        m.captionButtonHeight = m.captionHeight - m.Scaled(4);
+        m.childButtonSide = m.Scaled(19);
         m.quickAccessGap = m.Scaled(4);
         return m;
     }

@@ -212,6 +212,8 @@ BOOL AFX_GLOBAL_DATA::SetRibbonImageScale(double dblScale) {
 int AFX_GLOBAL_DATA::ScalePixels(int n) const { return static_cast<int>(std::lround(n * GetRibbonImageScale())); }
 
 double AFX_GLOBAL_DATA::ScreenScale() const {
+    if (m_nScreenDpi != 0)
+        return std::clamp(m_nScreenDpi / 96.0, 1.0, 4.0);
     const HDC screen = GetDC(nullptr);
     const double scale = GetDeviceCaps(screen, LOGPIXELSX) / 96.0;
     ReleaseDC(nullptr, screen);

@@ -256,6 +256,45 @@ void PaintCaptionButton(HDC dc, const RECT& rect, WindowGlyph glyph, const Eleme
                      look.skin[state.isDisabled ? ColorSlot::CaptionTextInactive : ColorSlot::CaptionGlyph], look);
 }
 
+void PaintChildButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look) {
+    if (const Face* face = ButtonFaceFor(look.skin, state))
+        PaintFace(dc, rect, *face, Corners::All(look.Radius()), look);
+    const bool isLit = state.isHot || state.isPressed;
+    const Argb plain = look.skin[ColorSlot::TabText];
+    PaintWindowGlyph(dc, rect, glyph,
+                     state.isDisabled ? WithAlpha(plain, 110) : (isLit ? look.skin[ColorSlot::Glyph] : plain), look);
+}
+
+void PaintFrameBorder(HDC dc, const RECT& window, const RECT& client, int captionHeight, const FrameBorderState& state,
+                      const Look& look) {
+    const int line = look.Line();
+    const LONG captionBottom = client.top + captionHeight;
+    const Face& caption = look.skin[state.isActive ? FaceSlot::CaptionActive : FaceSlot::CaptionInactive];
+    PaintSolid(dc, window, look.skin[ColorSlot::RibbonTop]);
+    PaintCaption(dc, {window.left, client.top, window.right, captionBottom}, state.isActive, look);
+    PaintSolid(dc, {window.left, window.top, window.right, client.top}, caption.top1);
+    const Argb outer = look.skin[ColorSlot::FrameBorder];
+    const Argb border = state.isActive ? outer : Mix(outer, caption.bottom2, 1, 2);
+    const Argb inner = look.skin[ColorSlot::FrameBorderInner];
+    // Only the corners are worth a canvas.
+    const LONG headBottom = std::min<LONG>(window.top + state.cornerRadius + 2 * line, window.bottom);
+    const RECT body{window.left, headBottom, window.right, window.bottom};
+    PaintFrame(dc, {body.left + line, body.top - line, body.right - line, body.bottom - line}, inner, line);
+    PaintFrame(dc, {body.left, body.top - line, body.right, body.bottom}, border, line);
+    const RECT head{window.left, window.top, window.right, headBottom};
+    PaintSolid(dc, {head.left + 2 * line, headBottom - 2 * line, head.right - 2 * line, headBottom}, caption.top1);
+    const Canvas canvas(dc, head);
+    if (canvas.IsEmpty())
+        return;
+    IntRect whole = canvas.Local(head);
+    FillRounded(canvas.View(), {whole.left, whole.top, whole.right, static_cast<int>(client.top - head.top)}, {},
+                {caption.top1, caption.top1, caption.top1, caption.top1, 50});
+    whole.bottom += state.cornerRadius + 2 * line;
+    const Corners corners = Corners::Top(state.cornerRadius);
+    StrokeRounded(canvas.View(), whole.Deflated(line), corners.Deflated(line), inner, line);
+    StrokeRounded(canvas.View(), whole, corners, border, line);
+}
+
 void PaintCategoryScroll(HDC dc, const RECT& rect, bool isLeft, const ElementState& state, const Look& look) {
     const Face* face = ButtonFaceFor(look.skin, state);
     PaintFace(dc, rect, face != nullptr ? *face : look.skin[FaceSlot::CategoryScroll],

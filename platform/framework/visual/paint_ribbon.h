@@ -47,6 +47,17 @@ void PaintZoomButton(HDC dc, const RECT& rect, bool isPlus, const ElementState& 
 void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state, const Look& look);
 void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look);
 void PaintCaptionButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look);
+/// The same for a maximised MDI child, on the row of tabs.
+void PaintChildButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look);
+
+struct FrameBorderState {
+    bool isActive = true;
+    int cornerRadius = 0; // of the window's upper corners, pixels
+};
+/// The borders of a window around its client area, whose first captionHeight pixels are the caption: it goes on into
+/// the borders. The client area itself must be clipped.
+void PaintFrameBorder(HDC dc, const RECT& window, const RECT& client, int captionHeight, const FrameBorderState& state,
+                      const Look& look);
 void PaintCategoryScroll(HDC dc, const RECT& rect, bool isLeft, const ElementState& state, const Look& look);
 void PaintContextCaption(HDC dc, const RECT& rect, Argb tint, const Look& look);
 void PaintKeyTip(HDC dc, const RECT& rect, const wchar_t* text, int length, bool isDisabled, const Look& look);

@@ -55,9 +55,7 @@ COLORREF CMFCVisualManager::RibbonCategoryColorToRGB(AFX_RibbonCategoryColor col
 
 void CMFCVisualManager::OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect rect, CRect rectText) {
     CWnd* const frame = pBar != nullptr ? pBar->GetTopLevelParent() : nullptr;
-    // Before the window is shown nobody is active; the caption is then drawn as the active one.
-    const HWND active = ::GetActiveWindow();
-    const bool isActive = frame == nullptr || active == nullptr || active == frame->GetSafeHwnd();
+    const bool isActive = pBar == nullptr || pBar->IsCaptionActive();
     visual::PaintCaption(*pDC, rect, isActive, LookOf(GetSkin()));
     if (frame == nullptr)
         return;
@@ -148,7 +146,10 @@ COLORREF CMFCVisualManager::OnDrawRibbonButtonsGroup(CDC* pDC, CMFCRibbonButtons
 }
 
 void CMFCVisualManager::OnDrawRibbonDefaultPaneButton(CDC* pDC, CMFCRibbonButton* pButton) {
-    visual::PaintDefaultPane(*pDC, pButton->GetRect(), StateOf(*pButton), LookOf(GetSkin()));
+    const ElementState state = StateOf(*pButton);
+    visual::PaintDefaultPane(*pDC, pButton->GetRect(), state, LookOf(GetSkin()));
+    // The text over it takes the colour of the context.
+    pDC->SetTextColor(ButtonTextColor(GetSkin(), state));
 }
 
 void CMFCVisualManager::OnDrawRibbonDefaultPaneButtonContext(CDC* pDC, CMFCRibbonButton* pButton) {

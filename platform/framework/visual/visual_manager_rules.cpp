@@ -78,11 +78,6 @@ BOOL CMFCVisualManager::DrawPushButtonWinXP(CDC* pDC, CRect rect, CMFCButton* pB
     return IsWindowsThemingSupported() && DrawPushButton(pDC, rect, pButton, uiState);
 }
 
-// The window draws its own frame unless a derived manager takes it over.
-BOOL CMFCVisualManager::OnNcPaint(CWnd*, const CObList&, CRect) { return FALSE; }
-BOOL CMFCVisualManager::OnNcActivate(CWnd*, BOOL) { return FALSE; }
-void CMFCVisualManager::OnActivateApp(CWnd*, BOOL) {}
-BOOL CMFCVisualManager::OnSetWindowRegion(CWnd*, CSize) { return FALSE; }
 BOOL CMFCVisualManager::OnEraseMDIClientArea(CDC* pDC, CRect rectClient) {
     visual::PaintSolid(*pDC, rectClient, GetSkin()[ColorSlot::MdiBackground]);
     return TRUE;

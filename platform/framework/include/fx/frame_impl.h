@@ -29,6 +29,31 @@ public:
     /// Alt with a letter, Ctrl+F1) after them. A click ends the keyboard. TRUE: the message is done.
     BOOL HandActiveKeyToRibbon(const MSG& message);
     BOOL HandKeyToRibbon(const MSG& message);
+
+    // The ribbon as the frame's caption: the frame gives up the system's (WS_CAPTION) while a ribbon that replaces it
+    // is shown, and answers the system for it. The functions below may be called only while ReplacesCaption().
+    /// Takes the caption away or gives it back, as the ribbon says now. Before each layout.
+    void UpdateCaptionStyle();
+    bool ReplacesCaption() const { return m_replacesCaption; }
+    /// The client area is all within the sizing borders; all of the window when it is maximised.
+    void OnNcCalcSize(RECT& rect) const;
+    LRESULT OnNcHitTest(CPoint point);
+    void OnNcPaint();
+    void OnNcActivate(bool isActive);
+    /// A maximised frame covers the work area of its monitor, not the whole monitor.
+    void OnGetMinMaxInfo(MINMAXINFO& info) const;
+    void OnWindowPosChanged(const WINDOWPOS& place);
+    void RedrawCaption();
+    /// TRUE: the message is done. Double click on caption or icon, right click, press on the icon.
+    BOOL OnNcButton(UINT message, UINT hit, CPoint point);
+    /// TRUE when the command opens the system menu by keyboard, which then was shown.
+    BOOL OnSysCommand(UINT command, LPARAM key);
+    /// Modal. Screen point; what was chosen is posted to the frame.
+    void ShowSystemMenu(CPoint point);
+
+    /// Colours, fonts or scale of the system have changed: reads them again, lays out and redraws. dpi 0: as it was.
+    void OnSystemChange(UINT dpi = 0);
+
     void OnShowPopupMenu(CMFCPopupMenu* popup);
     void OnClosePopupMenu(CMFCPopupMenu* popup);
     CMFCPopupMenu* ActivePopup() const { return m_activePopup; }
@@ -39,8 +64,13 @@ public:
 private:
     /// The ribbon, when the message is for the frame and what lies in it: a dialog's keys are its own.
     CMFCRibbonBar* RibbonForKeys(const MSG& message);
+    int BorderWidth() const;
+    void UpdateRegion();
 
     CFrameWnd* m_frame;
+    bool m_replacesCaption = false;
+    bool m_hasRegion = false;
+    CSize m_regionSize{0, 0}; ///< of the window when its region was set; 0, 0: maximised or none
     CDockingManager m_dockingManager;
     CMFCMenuBar* m_menuBar = nullptr;
     CMFCPopupMenu* m_activePopup = nullptr;
