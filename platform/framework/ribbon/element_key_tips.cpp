@@ -13,11 +13,6 @@ namespace {
 constexpr int kPaddingX = 4;
 constexpr int kPaddingY = 1;
 
-RibbonRect ToRibbonRect(const CRect& rect) {
-    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-            static_cast<int>(rect.bottom)};
-}
-
 // A tip never lies outside of the work area of its element's monitor; client pixels of the window.
 RibbonRect WorkAreaIn(CWnd& window, const CRect& element) {
     CRect screen = element;

@@ -130,6 +130,11 @@ void CFrameImpl::UpdateRegion() {
     }
 }
 
+void CFrameImpl::OnChangeVisualManager() {
+    m_regionSize = CSize(-1, -1);
+    UpdateRegion();
+}
+
 void CFrameImpl::RedrawCaption() {
     if (CMFCRibbonBar* ribbon = RibbonBar()) {
         ribbon->RedrawCaption();

@@ -171,6 +171,9 @@ LRESULT CFrameWndEx::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
 void CFrameWndEx::AdjustDockingLayout(HDWP hdwp) { m_Impl.DockingManager().AdjustDockingLayout(hdwp); }
 
 LRESULT CFrameWndEx::OnChangeVisualManager(WPARAM, LPARAM) {
+    if (m_Impl.ReplacesCaption()) {
+        m_Impl.OnChangeVisualManager();
+    }
     RecalcLayout();
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
     return 0;

@@ -196,6 +196,9 @@ void CMDIFrameWndEx::AdjustClientArea() {
 void CMDIFrameWndEx::OnSizeMDIClient(const CRect&, const CRect&) {}
 
 LRESULT CMDIFrameWndEx::OnChangeVisualManager(WPARAM, LPARAM) {
+    if (m_Impl.ReplacesCaption()) {
+        m_Impl.OnChangeVisualManager();
+    }
     RecalcLayout();
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
     return 0;

@@ -43,6 +43,8 @@ public:
     /// A maximised frame covers the work area of its monitor, not the whole monitor.
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
     void OnWindowPosChanged(const WINDOWPOS& place);
+    /// Another look may shape the window differently.
+    void OnChangeVisualManager();
     void RedrawCaption();
     /// TRUE: the message is done. Double click on caption or icon, right click, press on the icon.
     BOOL OnNcButton(UINT message, UINT hit, CPoint point);
