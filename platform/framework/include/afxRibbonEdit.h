@@ -74,6 +74,9 @@ public:
     BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
 
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
+    BOOL PutACCValue(LPCTSTR lpszValue) override;
+
     void OnAfterChangeRect(CDC* pDC) override;
     void OnDraw(CDC* pDC) override;
     virtual void OnDrawLabelAndImage(CDC* pDC);

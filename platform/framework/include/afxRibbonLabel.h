@@ -22,6 +22,7 @@ public:
     BOOL IsWholeRowHeight() const override { return m_bIsMultiLine; }
     BOOL IsTabStop() const override { return FALSE; }
     BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
     void OnDraw(CDC* pDC) override;
     void OnLButtonUp(CPoint point) override;
 

@@ -7,6 +7,8 @@
 
 #include "fx/ribbon_cmd_ui.h"
 
+class CAccessibilityData;
+
 class CFrameWnd;
 class CMFCRibbonBar;
 class CMFCRibbonButtonsGroup;
@@ -158,6 +160,19 @@ public:
     // The letters in force: those that were given, else the ones chosen from the text.
     CString GetKeyTipText(BOOL bIsMenu) const;
 
+    // Accessibility. SetACCData describes the element to assistive programs; pParent is the window whose client pixels
+    // its rectangle has. An element whose inside has no elements of its own, as a drop list's rows, serves them by
+    // number from 0: how many there are now, the description of one (rectangle in screen pixels), its default action.
+    // FALSE: there is no such row, or it has no action.
+    virtual BOOL SetACCData(CWnd* pParent, CAccessibilityData& data);
+    virtual int GetACCRowCount() const { return 0; }
+    virtual BOOL SetACCRowData(int /*nRow*/, CAccessibilityData& /*data*/) { return FALSE; }
+    virtual BOOL OnACCRowDefaultAction(int /*nRow*/) { return FALSE; }
+    // A value that an assistive program sets. FALSE: the element takes none, or not this one.
+    virtual BOOL PutACCValue(LPCTSTR /*lpszValue*/) { return FALSE; }
+    // Tells assistive programs of an event (EVENT_OBJECT_) of the element.
+    void NotifyAccessibility(DWORD dwEvent);
+
     // Commands. WM_COMMAND goes to the owner of the ribbon bar; with delay it is posted. FALSE: nothing was sent
     // because the element is disabled, has no command id or no window.
     BOOL NotifyCommand(BOOL bWithDelay = FALSE);
@@ -186,7 +201,7 @@ public:
 
     // For containers: set the state and tell the element (OnHighlight, OnEnable, OnCheck, OnSetFocus) where it changed.
     void SetHighlighted(BOOL bHighlighted);
-    virtual void SetPressed(BOOL bPressed) { m_bIsPressed = bPressed; }
+    virtual void SetPressed(BOOL bPressed);
     void SetFocused(BOOL bFocused);
     void SetDisabled(BOOL bDisabled);
     void SetChecked(BOOL bChecked, BOOL bIsRadio = FALSE);
@@ -259,6 +274,7 @@ protected:
     CSize GetRegularSize(CDC* pDC) override;
     BOOL IsSeparator() const override { return TRUE; }
     BOOL IsTabStop() const override { return FALSE; }
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
     void OnDraw(CDC* pDC) override;
 
     BOOL m_bIsHoriz = FALSE;

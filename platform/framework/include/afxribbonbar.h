@@ -5,9 +5,11 @@
 #include "afxPane.h"
 #include "afxribboncategory.h"
 #include "afxribbonquickaccesstoolbar.h"
+#include "fx/accessibility_data.h"
 
 class CMFCToolTipCtrl;
 class CToolTipCtrl;
+class RibbonAccess;
 class RibbonKeyboard;
 struct RibbonBarParts;
 
@@ -203,6 +205,9 @@ public:
     /// A letter of a key tip; without tips one of the bar's own level.
     virtual BOOL TranslateChar(UINT nChar);
 
+    /// Describes the bar (0) or one of its parts (from 1) to assistive programs, in m_AccData. FALSE: no such part.
+    BOOL OnSetAccData(long lVal) override;
+
     // What a derived bar replaces.
     virtual void OnClickButton(CMFCRibbonButton* pButton, CPoint point);
     virtual BOOL OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit);
@@ -219,6 +224,10 @@ public:
     // Extension points of this framework: elements, categories and derived bars use them.
     CToolTipCtrl* GetToolTipCtrl() const { return m_pToolTip; }
     RibbonKeyboard& GetKeyboard();
+    RibbonAccess& GetAccess();
+    /// An element leaves the bar, or goes: key tips and assistive programs forget it.
+    void ForgetElement(CMFCRibbonBaseElement& element);
+    void NotifyElementEvent(DWORD event, CMFCRibbonBaseElement& element);
     const struct RibbonMetrics& GetMetrics() const;
     /// What the bar shows has changed: it lays itself out before it is next drawn, hit-tested or updated.
     void MarkLayoutDirty();
@@ -256,6 +265,8 @@ protected:
     afx_msg void OnCancelMode();
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAccessAction(WPARAM wParam, LPARAM lParam);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
@@ -267,12 +278,15 @@ protected:
     CToolTipCtrl* m_pToolTip = nullptr;
     /// Row above the tabs that stands for the frame's caption; empty when the frame keeps its own.
     CRect m_rectCaption;
+    /// What OnSetAccData described last.
+    CAccessibilityData m_AccData;
 
 private:
     friend class CMFCRibbonCategory;
     friend class CMFCRibbonContextCaption;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
+    friend class RibbonAccess;
 
     void UpdateMetrics();
     bool IsFrameTooSmall();

@@ -95,6 +95,7 @@ public:
 
     void AddToKeyList(CArray<CMFCRibbonKeyTip*, CMFCRibbonKeyTip*>& arElems) override;
     CRect GetKeyTipRect(CDC* pDC, BOOL bIsMenu) override;
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
 
     CMFCRibbonBaseElement* Find(const CMFCRibbonBaseElement* pElement) override;
     CMFCRibbonBaseElement* FindByID(UINT uiCmdID) override;

@@ -44,6 +44,7 @@ public:
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
 
     void AddToKeyList(CArray<CMFCRibbonKeyTip*, CMFCRibbonKeyTip*>& arElems) override;
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
     CMFCRibbonBaseElement* HitTest(CPoint point) override;
     CMFCRibbonBaseElement* Find(const CMFCRibbonBaseElement* pElement) override;
     CMFCRibbonBaseElement* FindByID(UINT uiCmdID) override;

@@ -19,6 +19,7 @@ public:
     CString GetToolTipText() const override;
     void OnDraw(CDC* pDC) override;
     void OnLButtonDown(CPoint point) override;
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
 
     BOOL IsSelected() const;
     /// The row has no room for the whole text; drawing ends it with dots and the tooltip shows it.
@@ -103,6 +104,7 @@ public:
     BOOL IsWindows7Look() const;
     CRect GetRect() const { return m_rect; }
     CRect GetTabRect() const { return m_Tab.GetRect(); }
+    const CMFCRibbonTab& GetTab() const { return m_Tab; }
     /// Height of panels with their captions; the same for every category of the bar.
     int GetMaxHeight(CDC* pDC);
     int GetTextTopLine() const;
@@ -135,6 +137,7 @@ protected:
     friend class CMFCRibbonBar;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
+    friend class RibbonAccess;
 
     virtual void SetActive(BOOL bIsActive = TRUE);
     void CommonInit(CMFCRibbonBar* pParentRibbonBar = NULL, LPCTSTR lpszName = NULL, UINT uiSmallImagesResID = 0,

@@ -15,6 +15,7 @@ public:
     BOOL HasLargeMode() const override { return FALSE; }
     BOOL HasCompactMode() const override { return FALSE; }
     BOOL IsDrawTooltipImage() const override { return FALSE; }
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
     void OnDraw(CDC* pDC) override;
 
 protected:

@@ -25,6 +25,8 @@ public:
     int GetWidth() const { return m_nWidth; }
 
     CSize GetRegularSize(CDC* pDC) override;
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
+    BOOL PutACCValue(LPCTSTR lpszValue) override;
     void OnDraw(CDC* pDC) override;
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
     BOOL IsAutoRepeatMode(int& nDelay) const override;

@@ -25,6 +25,8 @@ ON_WM_MOUSEWHEEL()
 ON_WM_CANCELMODE()
 ON_WM_SETFOCUS()
 ON_WM_KILLFOCUS()
+ON_MESSAGE(WM_GETOBJECT, &CMFCRibbonBar::OnGetObject)
+ON_MESSAGE(kRibbonAccessAction, &CMFCRibbonBar::OnAccessAction)
 ON_WM_CAPTURECHANGED()
 ON_WM_NCHITTEST()
 ON_WM_TIMER()
@@ -62,6 +64,7 @@ RibbonFontScope::~RibbonFontScope() {
 CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
     : m_rectCaption(0, 0, 0, 0), m_parts(std::make_unique<RibbonBarParts>()) {
     m_parts->keyboard = std::make_unique<RibbonKeyboard>(*this);
+    m_parts->access = std::make_unique<RibbonAccess>(*this);
     m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
     m_parts->quickAccess.SetParentRibbonBar(this);
     m_parts->quickAccess.GetCustomizeButton().SetParentRibbonBar(this);
@@ -108,6 +111,7 @@ int CMFCRibbonBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 void CMFCRibbonBar::OnDestroy() {
     CancelPress();
     m_parts->keyboard->Deactivate(RibbonKeyboard::Focus::Leave);
+    m_parts->access->Disconnect();
     CTooltipManager::DeleteToolTip(m_pToolTip);
     for (const auto& category : m_parts->categories) {
         CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
@@ -131,7 +135,7 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
     if (m_parts->applicationButton == pElement) {
         m_parts->applicationButton = nullptr;
     }
-    m_parts->keyboard->OnElementDestroyed(*pElement);
+    ForgetElement(*pElement);
     m_parts->quickAccess.OnOriginalDestroyed(pElement);
 }
 

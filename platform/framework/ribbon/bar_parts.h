@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "afxribbonbar.h"
+#include "ribbon/access.h"
 #include "ribbon/bar_layout.h"
 #include "ribbon/keyboard.h"
 #include "ribbon/panel_layout.h"
@@ -91,4 +92,5 @@ struct RibbonBarParts {
     std::vector<std::unique_ptr<CMFCRibbonBaseElement>> tabElements;
     std::vector<std::unique_ptr<CMFCRibbonCategory>> categories;
     std::unique_ptr<RibbonKeyboard> keyboard; // never null
+    std::unique_ptr<RibbonAccess> access;     // never null
 };

@@ -46,8 +46,10 @@ void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
     const bool changes = shown != m_strText;
     m_strText = shown;
     CleanUpSizes();
-    if (changes)
+    if (changes) {
         MarkLayoutDirty();
+        NotifyAccessibility(EVENT_OBJECT_NAMECHANGE);
+    }
 }
 
 void CMFCRibbonBaseElement::SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
@@ -116,7 +118,11 @@ void CMFCRibbonBaseElement::SetParentPanel(CMFCRibbonPanel* pPanel) { m_pParentP
 
 CMFCRibbonPanel* CMFCRibbonBaseElement::GetParentPanel() const { return m_pParentPanel; }
 
-void CMFCRibbonBaseElement::SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) { m_pRibbonBar = pRibbonBar; }
+void CMFCRibbonBaseElement::SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) {
+    if (m_pRibbonBar != nullptr && m_pRibbonBar != pRibbonBar)
+        m_pRibbonBar->ForgetElement(*this);
+    m_pRibbonBar = pRibbonBar;
+}
 
 CMFCRibbonBar* CMFCRibbonBaseElement::GetParentRibbonBar() const { return m_pRibbonBar; }
 
@@ -249,6 +255,8 @@ void CMFCRibbonBaseElement::SetFocused(BOOL bFocused) {
     m_bIsFocused = bFocused;
     OnSetFocus(bFocused);
     Redraw();
+    if (bFocused)
+        NotifyAccessibility(EVENT_OBJECT_FOCUS);
 }
 
 void CMFCRibbonBaseElement::SetDisabled(BOOL bDisabled) {
@@ -259,6 +267,14 @@ void CMFCRibbonBaseElement::SetDisabled(BOOL bDisabled) {
         SetPressed(FALSE);
     OnEnable(!bDisabled);
     Redraw();
+    NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
+}
+
+void CMFCRibbonBaseElement::SetPressed(BOOL bPressed) {
+    const BOOL changes = !m_bIsPressed != !bPressed;
+    m_bIsPressed = bPressed;
+    if (changes)
+        NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
 }
 
 void CMFCRibbonBaseElement::SetChecked(BOOL bChecked, BOOL bIsRadio) {
@@ -268,12 +284,14 @@ void CMFCRibbonBaseElement::SetChecked(BOOL bChecked, BOOL bIsRadio) {
     m_bIsRadio = bIsRadio;
     OnCheck(bChecked);
     Redraw();
+    NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
 }
 
 void CMFCRibbonBaseElement::SetDroppedDown(CWnd* pPopup) {
     m_pPopup = pPopup;
     m_bIsDroppedDown = pPopup != nullptr;
     Redraw();
+    NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
 }
 
 // ---- search

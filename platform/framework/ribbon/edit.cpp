@@ -52,6 +52,7 @@ void CMFCRibbonEdit::SetEditText(CString strText) {
     m_strEdit = strText;
     ShowTextInWindow();
     Redraw();
+    NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
 }
 
 void CMFCRibbonEdit::CopyFrom(const CMFCRibbonBaseElement& src) {

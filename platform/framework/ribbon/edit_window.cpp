@@ -151,11 +151,15 @@ void CMFCRibbonEdit::UpdateWindowColors() {
 // ---- from the window
 
 void CMFCRibbonEdit::OnEditChange() {
-    if (!m_bSettingText && m_pWndEdit != nullptr)
-        m_pWndEdit->GetWindowText(m_strEdit);
+    if (m_bSettingText || m_pWndEdit == nullptr)
+        return;
+    m_pWndEdit->GetWindowText(m_strEdit);
+    NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
 }
 
 void CMFCRibbonEdit::OnEditFocus(BOOL bSet) {
+    if (bSet && !m_bIsFocused)
+        NotifyAccessibility(EVENT_OBJECT_FOCUS);
     m_bIsFocused = bSet;
     UpdateWindowColors();
     Redraw();

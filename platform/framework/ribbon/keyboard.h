@@ -75,6 +75,8 @@ public:
     void OnElementDestroyed(const CMFCRibbonBaseElement& element);
     void OnLayoutChanged();
     void SetFocusTo(CMFCRibbonBaseElement* element);
+    /// Does what Enter on the element does, wherever the focus is. Nothing follows it: a command may end the bar.
+    void Invoke(CMFCRibbonBaseElement& element);
     /// Marks the element with the focus, while the arrows move it.
     void DrawFocus(CDC& dc) const;
 

@@ -468,6 +468,20 @@ void RibbonKeyboard::Execute(CMFCRibbonBaseElement& element, bool isMenu) {
     }
 }
 
+// A tab opens its category, an edit or slider takes the focus; the others act as on a click.
+void RibbonKeyboard::Invoke(CMFCRibbonBaseElement& element) {
+    if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, &element)) {
+        ChooseTab(*tab);
+    } else if (TakesFocus(element)) {
+        Activate();
+        SetFocusTo(&element);
+    } else if (m_isActive) {
+        Execute(element, false);
+    } else if (!element.IsDisabled()) {
+        element.OnKey(FALSE);
+    }
+}
+
 // With tips the next letters are those of the category; without, its first element gets the focus.
 void RibbonKeyboard::ExecuteTab(CMFCRibbonTab& tab) {
     if (!m_areTipsShown) {

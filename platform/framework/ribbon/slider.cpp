@@ -31,9 +31,11 @@ bool IsZoomButton(RibbonSliderPart part) {
 CMFCRibbonSlider::CMFCRibbonSlider(UINT nID, int nWidth) : m_nWidth(nWidth) { m_nID = nID; }
 
 void CMFCRibbonSlider::SetPos(int nPos, BOOL bRedraw) {
-    m_nPos = std::clamp(nPos, m_nMin, m_nMax);
+    const int former = std::exchange(m_nPos, std::clamp(nPos, m_nMin, m_nMax));
     if (bRedraw)
         Redraw();
+    if (m_nPos != former)
+        NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
 }
 
 void CMFCRibbonSlider::SetRange(int nMin, int nMax) {

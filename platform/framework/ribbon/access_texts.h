@@ -1,0 +1,25 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include "ribbon/key_letters.h"
+
+/// Texts for assistive programs; string resources of the framework.
+enum class RibbonAccessTextId : UINT {
+    Ribbon = 17150,
+    QuickAccess = 17151,
+    Tabs = 17152,
+    Press = 17153,
+    Open = 17154,
+    Check = 17155,
+    Uncheck = 17156,
+    Switch = 17157,
+    Edit = 17158,
+    Alt = 17159,
+};
+
+CString RibbonAccessText(RibbonAccessTextId id);
+
+inline CString WithoutMnemonic(const CString& text) {
+    return ribbon::WithoutMnemonic({text, static_cast<std::size_t>(text.GetLength())}).c_str();
+}
