@@ -52,9 +52,6 @@ public:
     void SetAutoDestroy(BOOL bAutoDestroy = TRUE) { m_bAutoDestroy = bAutoDestroy; }
     HMENU GetHMenu() { return m_hMenu; }
     BOOL IsShown() const { return m_bShown; }
-    /// Until the menu is closed by itself rather than by a command.
-    virtual BOOL IsIdle() const { return FALSE; }
-    virtual BOOL InCommand() { return FALSE; }
 
     // The chain and what opened it
     CMFCPopupMenu* GetParentPopupMenu() const { return m_pParentPopup; }
@@ -86,7 +83,7 @@ public:
 
     // Commands
     CWnd* GetMessageWnd() const;
-    void SetMessageWnd(CWnd* pMsgWnd) { m_pMessageWnd = pMsgWnd; }
+    void SetMessageWnd(CWnd* pMsgWnd) { m_hMessageWnd = pMsgWnd->GetSafeHwnd(); }
     /// Queues WM_COMMAND for the message window. FALSE: there is none, or the id is 0.
     BOOL PostCommand(UINT uiCommandID);
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
@@ -112,6 +109,7 @@ public:
     MENUAREA_TYPE CheckArea(const CPoint& ptScreen) const;
 
     // Looks and rules
+    /// TRUE: a click on a disabled item closes the menu, too.
     virtual BOOL IsAlwaysClose() const { return FALSE; }
     /// A click on an outside window closes the chain. TRUE: the window gets the click then.
     virtual BOOL DefaultMouseClickOnClose() const { return TRUE; }
@@ -122,9 +120,7 @@ public:
     static BOOL __stdcall GetForceShadow() { return m_bForceShadow; }
     static void SetSendMenuSelectMsg(BOOL bSet = TRUE) { m_bSendMenuSelectMsg = bSet; }
     static BOOL IsSendMenuSelectMsg() { return m_bSendMenuSelectMsg; }
-    static void EnableMenuSound(BOOL bEnable = TRUE) { m_bEnableMenuSound = bEnable; }
-    static UINT __stdcall IsMenuSound() { return m_bEnableMenuSound; }
-    /// A menu has its own if it animates: the base slides and fades through AnimateWindow.
+    /// How menus appear, and for how many milliseconds; none unless set.
     static void SetAnimationType(ANIMATION_TYPE type) { m_AnimationType = type; }
     static ANIMATION_TYPE GetAnimationType(BOOL bNoSystem = FALSE);
     static void SetAnimationSpeed(UINT nElapse) { m_nAnimationSpeed = nElapse; }
@@ -133,13 +129,17 @@ public:
     static void UpdateAllShadows(LPRECT lprectScreen = NULL);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
-    BOOL DestroyWindow() override;
 
     // The framework's own.
-    /// A key or character while the chain is open, given to the active menu before any window sees it. TRUE: used.
+    /// A key (WM_KEYDOWN, WM_SYSKEYDOWN) or character (WM_CHAR, WM_SYSCHAR) while the chain is open, given to the
+    /// active menu before any window sees it. TRUE: used. Whatever is not used goes nowhere, unless IsEditFocused.
     virtual BOOL OnChainKey(UINT nMessage, UINT nChar);
-    /// TRUE while keys go to a window inside the menu instead (a list under an edit field).
+    /// TRUE while keys that the menu does not use go to the window with the focus (a list under an edit field).
     virtual BOOL IsEditFocused() const { return FALSE; }
+    /// The window is the one that the pop-up was opened for, or gets its commands.
+    BOOL IsOpenedFor(HWND window) const { return window && (window == m_hParentWnd || window == m_hMessageWnd); }
+    /// Width of the border on each side (pixels).
+    int GetBorderSize() const;
     /// Client area without border, scroll buttons and resize bar: the bar's place.
     CRect GetBarRect() const;
     /// The chosen command, when the menu runs for TrackPopupMenu.
@@ -153,15 +153,13 @@ protected:
     /// Makes the bar's window and fills it; FALSE ends Create.
     virtual BOOL InitMenuBar();
     virtual void OnChangeHot(int) {}
-    /// Told before the command is posted; the chain is closed by then, and the object lives.
+    /// Told before the command is queued and the chain closed; it may close the menu itself.
     virtual void OnChooseItem(UINT) {}
     /// Size of the window for the bar's items (pixels), border and limits included.
     virtual CSize CalcWindowSize(int nMaxHeight);
     virtual void DrawFrame(CDC* pDC);
-    int GetBorderSize() const;
     void PostNcDestroy() override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
-    void SetScrollMode();
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
@@ -183,12 +181,14 @@ protected:
 
 private:
     struct Parts;
+    CFrameWnd* GetOwnerFrame() const;
     void FindParents(CWnd* pWndParent, BOOL bOwnMessage);
     void Place();
     void PlaceBar();
     void ShowAnimated();
     void ScrollBy(int nPixels);
     void DragResize(CPoint point);
+    void ForgetParents();
     CRect GetAvoidedArea();
     void TellOpened();
     void TellClosed();
@@ -196,13 +196,14 @@ private:
     HMENU m_hMenu = NULL;
     CMFCToolBarMenuButton* m_pParentBtn = NULL;
     CMFCRibbonBaseElement* m_pParentRibbonElement = NULL;
-    CWnd* m_pParentWnd = NULL;
-    CWnd* m_pMessageWnd = NULL;
+    HWND m_hParentWnd = NULL;
+    HWND m_hMessageWnd = NULL;
     CMFCPopupMenu* m_pParentPopup = NULL;
     CMFCPopupMenu* m_pChildPopup = NULL;
     UINT* m_pTrackResult = NULL;
     std::unique_ptr<Parts> m_parts;
     CPoint m_ptWanted{0, 0};
+    CRect m_rectBar{0, 0, 0, 0};
     int m_iMaxWidth = 0;
     int m_nMaxHeight = 0;
     int m_nMinWidth = 0;
@@ -220,12 +221,12 @@ private:
     BOOL m_bEscClose = FALSE;
     BOOL m_bOpenedByKey = FALSE;
     BOOL m_bClosing = FALSE;
+    BOOL m_bInLayout = FALSE;
 
     static CMFCPopupMenu* m_pActivePopupMenu;
     static BOOL m_bForceMenuFocus;
     static BOOL m_bForceShadow;
     static BOOL m_bSendMenuSelectMsg;
-    static BOOL m_bEnableMenuSound;
     static ANIMATION_TYPE m_AnimationType;
     static UINT m_nAnimationSpeed;
 

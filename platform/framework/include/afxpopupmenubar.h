@@ -5,6 +5,10 @@
 
 class CMFCPopupMenu;
 
+namespace toolbar {
+struct MenuRowMetrics;
+}
+
 /// The items of a pop-up menu: child window of a CMFCPopupMenu, which owns it. It imports a menu's items, tracks the
 /// mouse and keys over them, and opens the pop-ups of its items.
 class FRAMEWORK_API CMFCPopupMenuBar : public CMFCToolBar {
@@ -14,8 +18,7 @@ public:
     CMFCPopupMenuBar();
     ~CMFCPopupMenuBar() override;
 
-    BOOL Create(CWnd* pParentWnd, DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP,
-                UINT nID = AFX_IDW_TOOLBAR) override;
+    BOOL Create(CWnd* pParentWnd, DWORD dwStyle = AFX_DEFAULT_TOOLBAR_STYLE, UINT nID = AFX_IDW_TOOLBAR) override;
     using CMFCToolBar::Create;
 
     // Items
@@ -47,6 +50,9 @@ public:
     int GetContentHeight() const { return m_nContentHeight; }
     /// Right edge of the column of images and check marks; 0 when there is none.
     int GetGutterWidth() const;
+    toolbar::MenuRowMetrics GetRowMetrics() const;
+    /// Mnemonics are underlined: the menu was opened by a key, or the user always wants them.
+    BOOL ShowsMnemonics() const { return m_bShowsMnemonics; }
 
     // What kind of pop-up this is
     BOOL IsDropDownListMode() const { return m_bDropDownListMode; }
@@ -106,6 +112,9 @@ protected:
     UINT m_uiDefMenuCmd = 0;
     int m_iOffset = 0;
     int m_nContentHeight = 0;
+    BOOL m_bAcceptsRelease = FALSE; ///< the button that opened the menu has been let go, or the mouse has moved
+    BOOL m_bShowsMnemonics = FALSE;
+    CPoint m_ptOpened{-1, -1};                                    ///< where the mouse was when the menu opened (screen)
     BOOL m_bDropDownListMode = FALSE;                             ///< plain rows without gutter and mnemonics
     CMFCToolBarMenuButton* m_pDelayedPopupMenuButton = NULL;      ///< to open when the timer ends
     CMFCToolBarMenuButton* m_pDelayedClosePopupMenuButton = NULL; ///< to close when the timer ends

@@ -17,10 +17,9 @@ public:
     CMFCToolBar();
     ~CMFCToolBar() override;
 
-    virtual BOOL Create(CWnd* pParentWnd, DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP, UINT nID = AFX_IDW_TOOLBAR);
-    virtual BOOL CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle = TBSTYLE_FLAT,
-                          DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP, CRect rcBorders = CRect(1, 1, 1, 1),
-                          UINT nID = AFX_IDW_TOOLBAR);
+    virtual BOOL Create(CWnd* pParentWnd, DWORD dwStyle = AFX_DEFAULT_TOOLBAR_STYLE, UINT nID = AFX_IDW_TOOLBAR);
+    virtual BOOL CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle = TBSTYLE_FLAT, DWORD dwStyle = AFX_DEFAULT_TOOLBAR_STYLE,
+                          CRect rcBorders = CRect(1, 1, 1, 1), UINT nID = AFX_IDW_TOOLBAR);
     using CMFCBaseToolBar::Create;
     using CMFCBaseToolBar::CreateEx;
     static CMFCToolBar* __stdcall FromHandlePermanent(HWND hwnd);
@@ -33,7 +32,7 @@ public:
     virtual int InsertButton(const CMFCToolBarButton& button, INT_PTR iInsertAt = -1);
     /// Takes the object over, also when it fails with -1.
     virtual int InsertButton(CMFCToolBarButton* pButton, int iInsertAt = -1);
-    /// A separator may begin a bar. Beside another separator none is added: -1.
+    /// A separator may begin a bar.
     virtual int InsertSeparator(INT_PTR iInsertAt = -1);
     /// Separators that the button leaves without use go with it, so that later indexes can shift.
     virtual BOOL RemoveButton(int iIndex);

@@ -29,8 +29,6 @@ public:
     virtual BOOL HasButton() const { return FALSE; }
     virtual BOOL IsEmptyMenuAllowed() const { return FALSE; }
     virtual BOOL IsTearOffMenu() const { return FALSE; }
-    /// Opens only by its arrow; the rest of the button sends its command.
-    void SetMenuOnly(BOOL bMenuOnly) { m_bMenuOnly = bMenuOnly; }
 
     // The pop-up
     CMFCPopupMenu* GetPopupMenu() const { return m_pPopupMenu; }
@@ -66,8 +64,11 @@ public:
 
 protected:
     void ClearCommands();
-    /// In a menu rather than in a toolbar.
+    void TakeCommandImage();
+    /// The menu that the item lies in; NULL in a toolbar.
     CMFCPopupMenuBar* GetMenuBar() const;
+    /// Has a command of its own beside the menu: only the arrow opens the menu.
+    BOOL IsSplit() const;
     BOOL HasPopup() const { return !m_listCommands.IsEmpty() || IsEmptyMenuAllowed(); }
     void DrawMenuItem(CDC* pDC, const CRect& rect, CMFCToolBarImages* pImages, BOOL bHighlight, BOOL bGrayDisabled);
     void DrawBarItem(CDC* pDC, const CRect& rect, CMFCToolBarImages* pImages, BOOL bHorz, BOOL bHighlight,
@@ -76,14 +77,14 @@ protected:
                            BOOL bGrayDisabled);
     void DrawDocumentIcon(CDC* pDC, const CRect& rectImage, HICON hIcon);
     CRect GetArrowRect(const CRect& rect, BOOL bHorz) const;
+    /// Called by the pop-up when it closes.
+    void OnPopupClosed();
 
     CObList m_listCommands;
     CMFCPopupMenu* m_pPopupMenu = NULL; ///< clears itself when it closes
     CWnd* m_pWndMessage = NULL;
     BOOL m_bIsRadio = FALSE;
-    BOOL m_bMenuOnly = FALSE;
-    BOOL m_bDrawDownArrow = FALSE;
-    BOOL m_bMenuMode = FALSE; ///< lies in a menu
+    BOOL m_bDrawDownArrow = TRUE; ///< in a toolbar
     BOOL m_bClickedOnMenu = FALSE;
 
     friend class CMFCToolBar;

@@ -1,6 +1,7 @@
 #include "afxvisualmanager.h"
 
 #include "visual/manager_look.h"
+#include "visual/menu_background.h"
 
 #include <afxbasepane.h>
 #include <afxext.h>
@@ -28,7 +29,9 @@ ElementState ComboState(BOOL disabled, BOOL dropped, BOOL highlighted) {
 
 } // namespace
 
-void CMFCVisualManager::OnFillBarBackground(CDC* pDC, CBasePane*, CRect rectClient, CRect, BOOL) {
+void CMFCVisualManager::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
+    if (visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
+        return;
     visual::PaintFill(*pDC, rectClient, GetSkin()[FaceSlot::ToolBar], LookOf(GetSkin()));
 }
 

@@ -2,6 +2,7 @@
 
 #include "afxtooltipctrl.h"
 #include "visual/manager_look.h"
+#include "visual/menu_background.h"
 #include "visual/system_skins.h"
 
 #include <afxribbonbar.h>
@@ -106,7 +107,9 @@ void CMFCVisualManagerOffice2003::OnUpdateSystemColors() {
     SetPen(m_penSeparatorLight, skin[ColorSlot::SeparatorLight]);
 }
 
-void CMFCVisualManagerOffice2003::OnFillBarBackground(CDC* pDC, CBasePane*, CRect rectClient, CRect, BOOL) {
+void CMFCVisualManagerOffice2003::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
+    if (visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
+        return;
     const visual::Argb light = visual::FromColorRef(m_clrToolBarGradientLight);
     const visual::Argb dark = visual::FromColorRef(m_clrToolBarGradientDark);
     visual::Face face = GetSkin()[FaceSlot::ToolBar];

@@ -1,6 +1,7 @@
 #include "fx/frame_impl.h"
 
 #include "afxbasepane.h"
+#include "afxpopupmenu.h"
 #include "afxribbonbar.h"
 #include "panes/ribbon_pane.h"
 #include "ribbon/keyboard.h"
@@ -104,6 +105,6 @@ void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) { m_activePopup = popup; 
 
 void CFrameImpl::OnClosePopupMenu(CMFCPopupMenu* popup) {
     if (m_activePopup == popup) {
-        m_activePopup = nullptr;
+        m_activePopup = popup->GetParentPopupMenu();
     }
 }

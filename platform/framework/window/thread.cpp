@@ -5,6 +5,7 @@
 #include "fx/exceptions.h"
 #include "fx/frame.h"
 #include "fx/gdi_objects.h"
+#include "toolbar/menu_watch.h"
 #include "window/message_map.h"
 #include "window/thread_state.h"
 #include "afxmsg_.h"
@@ -182,6 +183,10 @@ BOOL CWinThread::DispatchThreadMessage(MSG* pMsg) {
 }
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
+    // Open pop-up menus come before every window.
+    if (toolbar::FilterMenuMessage(pMsg)) {
+        return TRUE;
+    }
     if (pMsg->hwnd == nullptr && DispatchThreadMessage(pMsg)) {
         return TRUE;
     }
@@ -272,7 +277,7 @@ BOOL AFXAPI AfxPumpMessage() {
     if (::GetMessage(&pumped, nullptr, 0, 0) <= 0) {
         return FALSE;
     }
-    if (!CWnd::WalkPreTranslateTree(nullptr, &pumped)) {
+    if (!AfxPreTranslateMessage(&pumped)) {
         const MSG message = pumped;
         ::TranslateMessage(&message);
         ::DispatchMessage(&message);
@@ -282,5 +287,6 @@ BOOL AFXAPI AfxPumpMessage() {
 
 BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg) {
     CWinThread* thread = AfxGetThread();
-    return thread != nullptr ? thread->PreTranslateMessage(pMsg) : CWnd::WalkPreTranslateTree(nullptr, pMsg);
+    return thread != nullptr ? thread->PreTranslateMessage(pMsg)
+                             : toolbar::FilterMenuMessage(pMsg) || CWnd::WalkPreTranslateTree(nullptr, pMsg);
 }

@@ -1,0 +1,15 @@
+#include "afxbasetoolbar.h"
+
+IMPLEMENT_DYNCREATE(CMFCBaseToolBar, CPane)
+
+CMFCBaseToolBar::CMFCBaseToolBar() = default;
+
+CMFCBaseToolBar::~CMFCBaseToolBar() = default;
+
+// A toolbar shrinks to its first button: what does not fit is cut off.
+void CMFCBaseToolBar::GetMinSize(CSize& size) const { size = CSize(0, 0); }
+
+void CMFCBaseToolBar::OnAfterChangeParent(CWnd* pWndOldParent) {
+    CPane::OnAfterChangeParent(pWndOldParent);
+    RecalcLayout();
+}

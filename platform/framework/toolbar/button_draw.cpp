@@ -1,0 +1,135 @@
+#include "afxtoolbarbutton.h"
+
+#include "afxtoolbar.h"
+#include "afxvisualmanager.h"
+#include "toolbar/metrics.h"
+
+#include <algorithm>
+
+using toolbar::Scaled;
+
+CString CMFCToolBarButton::GetShownText() const {
+    const int tabulator = m_strText.Find(L'\t');
+    return toolbar::WithoutPrefix(tabulator >= 0 ? m_strText.Left(tabulator) : m_strText);
+}
+
+CSize CMFCToolBarButton::MeasureText(CDC* pDC) const {
+    const CString text = GetShownText();
+    if (text.IsEmpty()) {
+        return CSize(0, 0);
+    }
+    CRect rect(0, 0, 0, 0);
+    pDC->DrawText(text, rect, DT_CALCRECT | DT_NOPREFIX | (m_bTextBelow && m_bWrapText ? DT_CENTER : DT_SINGLELINE));
+    return rect.Size();
+}
+
+SIZE CMFCToolBarButton::OnCalculateSize(CDC* pDC, const CSize& sizeDefault, BOOL bHorz) {
+    m_bHorz = bHorz;
+    m_sizeText = CSize(0, 0);
+    if (!m_bVisible || m_bIsHidden) {
+        return CSize(0, 0);
+    }
+    // A button without an image shows its text, whatever it was told.
+    const bool showsImage = IsDrawImage() != FALSE;
+    const bool showsText = !m_strText.IsEmpty() && (!showsImage || (m_bText && bHorz));
+    if (!showsText) {
+        return sizeDefault;
+    }
+    m_sizeText = MeasureText(pDC);
+    const int margin = Scaled(toolbar::ButtonTextMargin);
+    if (!showsImage) {
+        return CSize(std::max<int>(sizeDefault.cx, m_sizeText.cx + 2 * margin),
+                     std::max<int>(sizeDefault.cy, m_sizeText.cy + 2 * Scaled(2)));
+    }
+    if (m_bTextBelow) {
+        return CSize(std::max<int>(sizeDefault.cx, m_sizeText.cx + 2 * margin), sizeDefault.cy + m_sizeText.cy);
+    }
+    return CSize(sizeDefault.cx + m_sizeText.cx + margin, std::max<int>(sizeDefault.cy, m_sizeText.cy));
+}
+
+CMFCToolBarButton::Content CMFCToolBarButton::PlaceContent(const CRect& rect, CSize sizeImage, BOOL bHorz) const {
+    Content content{CRect(0, 0, 0, 0), CRect(0, 0, 0, 0)};
+    const bool showsImage = IsDrawImage() && sizeImage != CSize(0, 0);
+    const bool showsText = m_sizeText.cx > 0;
+    if (showsImage) {
+        CPoint place(rect.left + (rect.Width() - sizeImage.cx) / 2, rect.top + (rect.Height() - sizeImage.cy) / 2);
+        if (showsText && m_bTextBelow) {
+            place.y = rect.top + Scaled(toolbar::ButtonPadding);
+        } else if (showsText && bHorz) {
+            place.x = rect.left + Scaled(toolbar::ButtonPadding);
+        }
+        content.image = CRect(place, sizeImage);
+    }
+    if (showsText) {
+        content.text = rect;
+        if (showsImage && m_bTextBelow) {
+            content.text.top = content.image.bottom;
+        } else if (showsImage) {
+            content.text.left = content.image.right + Scaled(toolbar::ButtonTextGap);
+        }
+    }
+    return content;
+}
+
+int CMFCToolBarButton::GetButtonState(BOOL bHighlight) const {
+    if (m_nStyle & (TBBS_PRESSED | TBBS_CHECKED)) {
+        return CMFCVisualManager::ButtonsIsPressed;
+    }
+    return bHighlight ? CMFCVisualManager::ButtonsIsHighlighted : CMFCVisualManager::ButtonsIsRegular;
+}
+
+void CMFCToolBarButton::FillInterior(CDC* pDC, const CRect& rect, BOOL bHighlight) {
+    const auto state = static_cast<CMFCVisualManager::AFX_BUTTON_STATE>(GetButtonState(bHighlight));
+    if (!m_bDisableFill && state != CMFCVisualManager::ButtonsIsRegular) {
+        CMFCVisualManager::GetInstance()->OnFillButtonInterior(pDC, this, rect, state);
+    }
+}
+
+void CMFCToolBarButton::DrawButtonBorder(CDC* pDC, const CRect& rect, BOOL bHighlight) {
+    const auto state = static_cast<CMFCVisualManager::AFX_BUTTON_STATE>(GetButtonState(bHighlight));
+    if (state != CMFCVisualManager::ButtonsIsRegular) {
+        CMFCVisualManager::GetInstance()->OnDrawButtonBorder(pDC, this, rect, state);
+    }
+}
+
+void CMFCToolBarButton::DrawButtonText(CDC* pDC, const CRect& rectText, BOOL bHighlight) {
+    if (rectText.IsRectEmpty()) {
+        return;
+    }
+    CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
+    const auto state = static_cast<CMFCVisualManager::AFX_BUTTON_STATE>(GetButtonState(bHighlight));
+    const COLORREF before = pDC->SetTextColor(IsDisabledState() ? manager->GetToolbarDisabledTextColor()
+                                                                : manager->GetToolbarButtonTextColor(this, state));
+    const int modeBefore = pDC->SetBkMode(TRANSPARENT);
+    const bool isBeside = !m_bTextBelow && IsDrawImage();
+    CRect rect = rectText;
+    UINT flags = DT_NOPREFIX | DT_END_ELLIPSIS | (isBeside ? DT_LEFT : DT_CENTER);
+    if (m_bTextBelow && m_bWrapText) {
+        rect.top += std::max(0, (rect.Height() - static_cast<int>(m_sizeText.cy)) / 2);
+    } else {
+        flags |= DT_SINGLELINE | DT_VCENTER;
+    }
+    pDC->DrawText(GetShownText(), rect, flags);
+    pDC->SetBkMode(modeBefore);
+    pDC->SetTextColor(before);
+}
+
+void CMFCToolBarButton::OnDraw(CDC* pDC, const CRect& rect, CMFCToolBarImages* pImages, BOOL bHorz, BOOL,
+                               BOOL bHighlight, BOOL bDrawBorder, BOOL bGrayDisabledButtons) {
+    const bool isDisabled = IsDisabledState();
+    const BOOL isHot = bHighlight && !isDisabled;
+    FillInterior(pDC, rect, isHot);
+    Content content = PlaceContent(rect, pImages ? CSize(pImages->GetImageSize(TRUE)) : CSize(0, 0), bHorz);
+    if ((m_nStyle & TBBS_PRESSED) && CMFCVisualManager::GetInstance()->IsOffsetPressedButton()) {
+        content.image.OffsetRect(1, 1);
+        content.text.OffsetRect(1, 1);
+    }
+    if (pImages && IsDrawImage()) {
+        pImages->Draw(pDC, content.image.left, content.image.top, GetImage(), FALSE, isDisabled && bGrayDisabledButtons,
+                      (m_nStyle & TBBS_INDETERMINATE) != 0);
+    }
+    DrawButtonText(pDC, content.text, isHot);
+    if (bDrawBorder && HaveHotBorder()) {
+        DrawButtonBorder(pDC, rect, isHot);
+    }
+}

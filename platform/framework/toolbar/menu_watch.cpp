@@ -1,0 +1,152 @@
+#include "toolbar/menu_watch.h"
+
+#include "afxpopupmenu.h"
+
+namespace {
+
+HHOOK g_hook = nullptr;
+
+bool IsButtonDown(UINT message) {
+    switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONDBLCLK:
+    case WM_NCLBUTTONDOWN:
+    case WM_NCRBUTTONDOWN:
+    case WM_NCMBUTTONDOWN:
+    case WM_NCLBUTTONDBLCLK:
+        return true;
+    default:
+        return false;
+    }
+}
+
+CPoint ScreenPoint(const MSG& message) {
+    CPoint point(static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam)));
+    const bool isClient = message.message >= WM_MOUSEFIRST;
+    if (isClient) {
+        ::ClientToScreen(message.hwnd, &point);
+    }
+    return point;
+}
+
+/// The area that opened the chain: a click there closes it and must not open it again.
+bool IsOnParentArea(CMFCPopupMenu* root, const MSG& message) {
+    CRect area;
+    CWnd* window = root->GetParentArea(area);
+    if (!window || area.IsRectEmpty() || window->GetSafeHwnd() != message.hwnd) {
+        return false;
+    }
+    window->ClientToScreen(&area);
+    return area.PtInRect(ScreenPoint(message)) != FALSE;
+}
+
+BOOL OnOutsideClick(CMFCPopupMenu* active, const MSG& message) {
+    CMFCPopupMenu* root = active->GetRootPopupMenu();
+    const bool isSwallowed = IsOnParentArea(root, message) || !active->DefaultMouseClickOnClose();
+    CMFCPopupMenu::CloseAll();
+    return isSwallowed;
+}
+
+bool IsOwnerOfChain(HWND window) {
+    CMFCPopupMenu* active = CMFCPopupMenu::GetActiveMenu();
+    const HWND root = active ? active->GetRootPopupMenu()->GetSafeHwnd() : nullptr;
+    return root && ::GetWindow(root, GW_OWNER) == window;
+}
+
+/// Whether a sent message ends the chain.
+bool EndsChain(const CWPSTRUCT& sent) {
+    switch (sent.message) {
+    case WM_ACTIVATEAPP:
+        return sent.wParam == FALSE;
+    case WM_ACTIVATE:
+        return LOWORD(sent.wParam) == WA_INACTIVE && IsOwnerOfChain(sent.hwnd) &&
+               !toolbar::IsInOpenPopups(reinterpret_cast<HWND>(sent.lParam));
+    case WM_SIZE:
+    case WM_CANCELMODE:
+    case WM_ENTERSIZEMOVE:
+    case WM_ENTERMENULOOP:
+        return IsOwnerOfChain(sent.hwnd);
+    case WM_ENABLE:
+        return sent.wParam == FALSE && IsOwnerOfChain(sent.hwnd);
+    default:
+        return false;
+    }
+}
+
+/// Pop-ups that belong to a window which is being destroyed must not outlive it.
+void CloseOrphans(HWND destroyed) {
+    for (CMFCPopupMenu* menu = CMFCPopupMenu::GetActiveMenu(); menu; menu = menu->GetParentPopupMenu()) {
+        if (menu->IsOpenedFor(destroyed)) {
+            menu->CloseMenu();
+            return;
+        }
+    }
+}
+
+LRESULT CALLBACK OnSentMessage(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HC_ACTION && CMFCPopupMenu::GetActiveMenu()) {
+        const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (sent.message == WM_DESTROY) {
+            CloseOrphans(sent.hwnd);
+        } else if (EndsChain(sent)) {
+            CMFCPopupMenu::CloseAll();
+        }
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+} // namespace
+
+void toolbar::WatchPopups(bool areOpen) {
+    if (areOpen && !g_hook) {
+        g_hook = ::SetWindowsHookExW(WH_CALLWNDPROC, OnSentMessage, nullptr, ::GetCurrentThreadId());
+    } else if (!areOpen && g_hook) {
+        ::UnhookWindowsHookEx(g_hook);
+        g_hook = nullptr;
+    }
+}
+
+bool toolbar::IsInOpenPopups(HWND window) {
+    for (CMFCPopupMenu* menu = CMFCPopupMenu::GetActiveMenu(); window && menu; menu = menu->GetParentPopupMenu()) {
+        if (menu->m_hWnd == window || ::IsChild(menu->m_hWnd, window)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+BOOL toolbar::FilterMenuMessage(MSG* message) {
+    CMFCPopupMenu* active = CMFCPopupMenu::GetActiveMenu();
+    if (!active || ::GetWindowThreadProcessId(active->m_hWnd, nullptr) != ::GetCurrentThreadId()) {
+        return FALSE;
+    }
+    switch (message->message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_CHAR:
+    case WM_SYSCHAR:
+        if (active->OnChainKey(message->message, static_cast<UINT>(message->wParam))) {
+            return TRUE;
+        }
+        if (active->IsEditFocused()) {
+            return FALSE;
+        }
+        // What no key of the menu is may be a mnemonic once it has become a character.
+        if (message->message == WM_KEYDOWN || message->message == WM_SYSKEYDOWN) {
+            ::TranslateMessage(message);
+        }
+        return TRUE;
+    case WM_SYSKEYUP:
+        return TRUE;
+    case WM_MOUSEWHEEL:
+        if (CMFCPopupMenuBar* bar = active->GetMenuBar()) {
+            bar->OnWheel(static_cast<short>(HIWORD(message->wParam)));
+        }
+        return TRUE;
+    default:
+        return IsButtonDown(message->message) && !IsInOpenPopups(message->hwnd) && OnOutsideClick(active, *message);
+    }
+}

@@ -1,0 +1,424 @@
+// A pop-up's size and place, scrolling and resizing.
+#include "afxpopupmenu.h"
+
+#include "afxglobals.h"
+#include "afxvisualmanager.h"
+#include "fx/dc_scope.h"
+#include "fx/window_dc.h"
+#include "toolbar/metrics.h"
+#include "toolbar/popup_parts.h"
+#include "toolbar/popup_place.h"
+
+#include <algorithm>
+
+using toolbar::Scaled;
+
+namespace {
+
+constexpr int scrollArrowHeight = 12, resizeBarHeight = 9, scrollStep = 10;
+constexpr UINT_PTR scrollTimer = 0xF101;
+constexpr UINT scrollInterval = 60; // milliseconds
+constexpr int screenMargin = 0;
+
+CRect WorkArea(CPoint point) {
+    MONITORINFO info = {};
+    info.cbSize = sizeof(info);
+    ::GetMonitorInfoW(::MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &info);
+    return info.rcWork;
+}
+
+} // namespace
+
+int CMFCPopupMenu::GetBorderSize() const {
+    const double scale = afxGlobalData.GetRibbonImageScale();
+    return CMFCVisualManager::GetInstance()->GetPopupMenuBorderSize() * (scale >= 2.0 ? static_cast<int>(scale) : 1);
+}
+
+void CMFCPopupMenu::EnableScrolling(BOOL bEnable) {
+    m_bScrollable = bEnable;
+    if (m_bShown) {
+        RecalcLayout();
+    }
+}
+
+void CMFCPopupMenu::EnableResize(CSize sizeMinResize) {
+    m_sizeMinResize = sizeMinResize;
+    m_bIsResizeable = sizeMinResize != CSize(0, 0);
+    m_bVertResizeOnly = FALSE;
+}
+
+void CMFCPopupMenu::EnableVertResize(int nMinResize) {
+    m_sizeMinResize = CSize(0, nMinResize);
+    m_bIsResizeable = m_bVertResizeOnly = nMinResize > 0;
+}
+
+CSize CMFCPopupMenu::CalcWindowSize(int nMaxHeight) {
+    CMFCPopupMenuBar* bar = GetMenuBar();
+    const int border = GetBorderSize();
+    CSize size = bar->CalcSize(TRUE);
+    size.cy += 2 * border + (m_bIsResizeable ? Scaled(resizeBarHeight) : 0);
+    const int limit = m_nMaxHeight > 0 ? std::min(nMaxHeight, m_nMaxHeight) : nMaxHeight;
+    if (size.cy > limit) {
+        size.cy = limit;
+        size.cx += m_bScrollBar ? ::GetSystemMetrics(SM_CXVSCROLL) : 0;
+    }
+    size.cx += 2 * border;
+    if (m_iMaxWidth > 0) {
+        size.cx = std::min<int>(size.cx, m_iMaxWidth);
+    }
+    size.cx = std::max<int>(size.cx, m_nMinWidth);
+    return size;
+}
+
+CRect CMFCPopupMenu::GetAvoidedArea() {
+    CRect area;
+    CWnd* window = GetParentArea(area);
+    if (!window || !window->GetSafeHwnd() || area.IsRectEmpty()) {
+        return CRect(0, 0, 0, 0);
+    }
+    window->ClientToScreen(&area);
+    return area;
+}
+
+void CMFCPopupMenu::Place() {
+    if (m_bHasBeenResized) {
+        return;
+    }
+    toolbar::PopupRequest request;
+    request.wanted = m_ptWanted;
+    request.workArea = WorkArea(m_ptWanted);
+    request.avoid = GetAvoidedArea();
+    request.isRightAligned = m_bRightAlign != FALSE;
+    request.size = CalcWindowSize(request.workArea.Height() - screenMargin);
+    const toolbar::PopupPlacement placement = toolbar::PlacePopup(request);
+    m_DropDirection = placement.direction;
+    ::SetWindowPos(m_hWnd, nullptr, placement.rect.left, placement.rect.top, placement.rect.Width(),
+                   placement.rect.Height(), SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOOWNERZORDER);
+}
+
+// Strips first, then the scroll bar, the rest is the bar's.
+void CMFCPopupMenu::PlaceBar() {
+    CMFCPopupMenuBar* bar = GetMenuBar();
+    if (!m_hWnd || !bar || !bar->GetSafeHwnd()) {
+        return;
+    }
+    CRect inside;
+    GetClientRect(&inside);
+    inside.DeflateRect(GetBorderSize(), GetBorderSize());
+    Parts& parts = *m_parts;
+    parts.resizeBar.SetRectEmpty();
+    if (m_bIsResizeable) {
+        const bool isOnTop = m_DropDirection == DROP_DIRECTION_TOP;
+        parts.resizeBar = inside;
+        (isOnTop ? parts.resizeBar.bottom : parts.resizeBar.top) =
+            isOnTop ? inside.top + Scaled(resizeBarHeight) : inside.bottom - Scaled(resizeBarHeight);
+        (isOnTop ? inside.top : inside.bottom) = isOnTop ? parts.resizeBar.bottom : parts.resizeBar.top;
+    }
+    const int content = bar->CalcSize(TRUE).cy;
+    const bool overflows = content > inside.Height();
+    m_bScrollable = overflows;
+    parts.upArrow.SetRectEmpty();
+    parts.downArrow.SetRectEmpty();
+    if (overflows && !m_bScrollBar) {
+        parts.upArrow = parts.downArrow = inside;
+        parts.upArrow.bottom = inside.top + Scaled(scrollArrowHeight);
+        parts.downArrow.top = inside.bottom - Scaled(scrollArrowHeight);
+        inside.top = parts.upArrow.bottom;
+        inside.bottom = parts.downArrow.top;
+    }
+    const int lowest = std::max(0, content - inside.Height());
+    if (overflows && m_bScrollBar) {
+        const int width = ::GetSystemMetrics(SM_CXVSCROLL);
+        if (!parts.scrollBar.GetSafeHwnd()) {
+            parts.scrollBar.Create(WS_CHILD | SBS_VERT, CRect(0, 0, 0, 0), this, 1);
+        }
+        parts.scrollBar.SetWindowPos(nullptr, inside.right - width, inside.top, width, inside.Height(),
+                                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+        inside.right -= width;
+        SCROLLINFO info = {};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_ALL;
+        info.nMax = std::max(0, content - 1);
+        info.nPage = static_cast<UINT>(std::max<LONG>(0, inside.Height()));
+        info.nPos = std::min(bar->GetOffset(), lowest);
+        parts.scrollBar.SetScrollInfo(&info);
+    } else if (parts.scrollBar.GetSafeHwnd()) {
+        parts.scrollBar.ShowWindow(SW_HIDE);
+    }
+    m_rectBar = inside;
+    ::SetWindowPos(bar->m_hWnd, nullptr, inside.left, inside.top, inside.Width(), inside.Height(),
+                   SWP_NOACTIVATE | SWP_NOZORDER);
+    bar->SetOffset(std::clamp(bar->GetOffset(), 0, lowest));
+}
+
+CRect CMFCPopupMenu::GetBarRect() const { return m_rectBar; }
+
+void CMFCPopupMenu::RecalcLayout(BOOL) {
+    if (!m_hWnd || m_bClosing || m_bInLayout) {
+        return;
+    }
+    m_bInLayout = TRUE;
+    Place();
+    PlaceBar();
+    m_bInLayout = FALSE;
+    if (m_bShown) {
+        UpdateShadow();
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    }
+}
+
+void CMFCPopupMenu::OnSize(UINT nType, int cx, int cy) {
+    // A frame's own layout of control bars has no place here.
+    CWnd::OnSize(nType, cx, cy);
+    if (!m_bInLayout) {
+        PlaceBar();
+        Invalidate();
+    }
+}
+
+void CMFCPopupMenu::MoveTo(const CPoint& pt) {
+    m_ptWanted = pt;
+    ::SetWindowPos(m_hWnd, nullptr, pt.x, pt.y, 0, 0, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOSIZE | SWP_NOOWNERZORDER);
+    UpdateShadow();
+}
+
+CMFCPopupMenu::MENUAREA_TYPE CMFCPopupMenu::CheckArea(const CPoint& ptScreen) const {
+    CRect window;
+    GetWindowRect(&window);
+    if (window.PtInRect(ptScreen)) {
+        return MENU;
+    }
+    const CRect shadow = m_parts->shadow.Rect();
+    if (shadow.IsRectEmpty() || !shadow.PtInRect(ptScreen)) {
+        return OUTSIDE;
+    }
+    return ptScreen.y >= window.bottom ? SHADOW_BOTTOM : SHADOW_RIGHT;
+}
+
+void CMFCPopupMenu::UpdateShadow(LPRECT) {
+    const int depth = Scaled(CMFCVisualManager::GetInstance()->GetMenuShadowDepth());
+    if (!m_bShown || !m_hWnd || !::IsWindowVisible(m_hWnd)) {
+        return;
+    }
+    CRect window;
+    GetWindowRect(&window);
+    // What lies below is taken from the screen: it must be drawn by then.
+    m_parts->shadow.Hide();
+    if (const HWND owner = ::GetWindow(m_hWnd, GW_OWNER)) {
+        ::RedrawWindow(owner, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+    m_parts->shadow.Show(m_hWnd, window, depth);
+}
+
+void CMFCPopupMenu::UpdateAllShadows(LPRECT lprectScreen) {
+    for (CMFCPopupMenu* menu = m_pActivePopupMenu; menu; menu = menu->m_pParentPopup) {
+        menu->UpdateShadow(lprectScreen);
+    }
+}
+
+void CMFCPopupMenu::ShowAnimated() {
+    CRect window;
+    GetWindowRect(&window);
+    const HWND handle = m_hWnd;
+    m_parts->shadow.Show(m_hWnd, window, Scaled(CMFCVisualManager::GetInstance()->GetMenuShadowDepth()));
+    m_bShown = TRUE;
+    const ANIMATION_TYPE animation = GetAnimationType();
+    if (animation != NO_ANIMATION && m_nAnimationSpeed > 0) {
+        const bool isUpwards = m_DropDirection == DROP_DIRECTION_TOP;
+        const DWORD flags = animation == FADE ? AW_BLEND : AW_SLIDE | (isUpwards ? AW_VER_NEGATIVE : AW_VER_POSITIVE);
+        ::AnimateWindow(m_hWnd, m_nAnimationSpeed, flags);
+    }
+    if (!::IsWindow(handle)) {
+        return;
+    }
+    ::SetWindowPos(handle, HWND_TOP, 0, 0, 0, 0, SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    ::UpdateWindow(handle);
+    if (::IsWindow(handle) && m_bOpenedByKey) {
+        GetMenuBar()->SelectFirstItem();
+    }
+}
+
+void CMFCPopupMenu::ScrollBy(int nPixels) {
+    CMFCPopupMenuBar* bar = GetMenuBar();
+    const int lowest = std::max(0, static_cast<int>(bar->CalcSize(TRUE).cy) - m_rectBar.Height());
+    const int offset = std::clamp(bar->GetOffset() + nPixels, 0, lowest);
+    if (offset == bar->GetOffset()) {
+        return;
+    }
+    bar->SetOffset(offset);
+    if (m_parts->scrollBar.GetSafeHwnd()) {
+        m_parts->scrollBar.SetScrollPos(offset);
+    }
+    InvalidateRect(m_parts->upArrow);
+    InvalidateRect(m_parts->downArrow);
+}
+
+void CMFCPopupMenu::OnVScroll(UINT nSBCode, UINT, CScrollBar* pScrollBar) {
+    if (!pScrollBar) {
+        return;
+    }
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    pScrollBar->GetScrollInfo(&info, SIF_ALL);
+    const int line = std::max(1, GetMenuBar()->GetRowHeight());
+    const int page = std::max(line, m_rectBar.Height());
+    const int offset = GetMenuBar()->GetOffset();
+    switch (nSBCode) {
+    case SB_LINEUP:
+        return ScrollBy(-line);
+    case SB_LINEDOWN:
+        return ScrollBy(line);
+    case SB_PAGEUP:
+        return ScrollBy(-page);
+    case SB_PAGEDOWN:
+        return ScrollBy(page);
+    case SB_TOP:
+        return ScrollBy(-offset);
+    case SB_BOTTOM:
+        return ScrollBy(info.nMax);
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        // Whole rows, so that none is cut at the top.
+        return ScrollBy(info.nTrackPos / line * line - offset);
+    default:
+        return;
+    }
+}
+
+void CMFCPopupMenu::OnMouseMove(UINT nFlags, CPoint point) {
+    CMiniFrameWnd::OnMouseMove(nFlags, point);
+    Parts& parts = *m_parts;
+    if (parts.isResizing) {
+        DragResize(point);
+        return;
+    }
+    const int hot = parts.upArrow.PtInRect(point) ? -1 : parts.downArrow.PtInRect(point) ? 1 : 0;
+    if (hot != parts.hotArrow) {
+        parts.hotArrow = hot;
+        InvalidateRect(parts.upArrow);
+        InvalidateRect(parts.downArrow);
+    }
+    if (hot != 0) {
+        SetTimer(scrollTimer, scrollInterval, nullptr);
+    }
+}
+
+void CMFCPopupMenu::OnTimer(UINT_PTR nIDEvent) {
+    if (nIDEvent != scrollTimer) {
+        CMiniFrameWnd::OnTimer(nIDEvent);
+        return;
+    }
+    CPoint cursor;
+    ::GetCursorPos(&cursor);
+    ScreenToClient(&cursor);
+    Parts& parts = *m_parts;
+    const CRect& strip = parts.hotArrow < 0 ? parts.upArrow : parts.downArrow;
+    if (parts.hotArrow == 0 || !strip.PtInRect(cursor)) {
+        parts.hotArrow = 0;
+        KillTimer(scrollTimer);
+        InvalidateRect(parts.upArrow);
+        InvalidateRect(parts.downArrow);
+        return;
+    }
+    ScrollBy(parts.hotArrow * Scaled(scrollStep));
+}
+
+void CMFCPopupMenu::OnLButtonDown(UINT, CPoint point) {
+    Parts& parts = *m_parts;
+    if (parts.resizeBar.PtInRect(point)) {
+        CRect window;
+        GetWindowRect(&window);
+        parts.isResizing = true;
+        parts.resizeStart = point;
+        ClientToScreen(&parts.resizeStart);
+        parts.resizeFrom = window.Size();
+        parts.shadow.Hide();
+        SetCapture();
+    } else if (parts.upArrow.PtInRect(point)) {
+        ScrollBy(-std::max(1, GetMenuBar()->GetRowHeight()));
+    } else if (parts.downArrow.PtInRect(point)) {
+        ScrollBy(std::max(1, GetMenuBar()->GetRowHeight()));
+    }
+}
+
+void CMFCPopupMenu::DragResize(CPoint point) {
+    Parts& parts = *m_parts;
+    CPoint screen = point;
+    ClientToScreen(&screen);
+    const bool isOnTop = m_DropDirection == DROP_DIRECTION_TOP;
+    CRect window;
+    GetWindowRect(&window);
+    const CRect work = WorkArea(window.TopLeft());
+    const int moved = isOnTop ? parts.resizeStart.y - screen.y : screen.y - parts.resizeStart.y;
+    const int room = isOnTop ? window.bottom - work.top : work.bottom - window.top;
+    const int tallest = static_cast<int>(CalcWindowSize(std::max(room, 1)).cy);
+    const int cy = std::clamp(static_cast<int>(parts.resizeFrom.cy) + moved,
+                              std::min(static_cast<int>(m_sizeMinResize.cy), room), m_nMaxHeight > 0 ? room : tallest);
+    int cx = window.Width();
+    if (!m_bVertResizeOnly) {
+        cx = std::clamp(static_cast<int>(parts.resizeFrom.cx + screen.x - parts.resizeStart.x),
+                        static_cast<int>(m_sizeMinResize.cx), static_cast<int>(work.right - window.left));
+    }
+    if (cy == window.Height() && cx == window.Width()) {
+        return;
+    }
+    m_bHasBeenResized = TRUE;
+    const int top = isOnTop ? window.bottom - cy : window.top;
+    ::SetWindowPos(m_hWnd, nullptr, window.left, top, cx, cy, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOOWNERZORDER);
+    UpdateWindow();
+}
+
+void CMFCPopupMenu::OnLButtonUp(UINT nFlags, CPoint point) {
+    CMiniFrameWnd::OnLButtonUp(nFlags, point);
+    if (m_parts->isResizing) {
+        ::ReleaseCapture();
+    }
+}
+
+void CMFCPopupMenu::OnCaptureChanged(CWnd*) {
+    if (std::exchange(m_parts->isResizing, false)) {
+        UpdateShadow();
+    }
+}
+
+BOOL CMFCPopupMenu::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
+    CPoint cursor;
+    ::GetCursorPos(&cursor);
+    ScreenToClient(&cursor);
+    if (m_parts->resizeBar.PtInRect(cursor)) {
+        ::SetCursor(::LoadCursorW(nullptr, m_bVertResizeOnly ? IDC_SIZENS : IDC_SIZENWSE));
+        return TRUE;
+    }
+    return CMiniFrameWnd::OnSetCursor(pWnd, nHitTest, message);
+}
+
+int CMFCPopupMenu::OnMouseActivate(CWnd*, UINT, UINT) { return MA_NOACTIVATE; }
+
+BOOL CMFCPopupMenu::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CMFCPopupMenu::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    fx::MemoryDc memory(dc, client);
+    DrawFrame(&memory.GetDC());
+}
+
+void CMFCPopupMenu::DrawFrame(CDC* pDC) {
+    CRect client;
+    GetClientRect(&client);
+    CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
+    manager->OnFillBarBackground(pDC, GetMenuBar(), client, client);
+    const Parts& parts = *m_parts;
+    CMFCPopupMenuBar* bar = GetMenuBar();
+    if (!parts.upArrow.IsRectEmpty()) {
+        const bool isAtTop = bar->GetOffset() <= 0;
+        const bool isAtBottom = bar->GetOffset() + m_rectBar.Height() >= bar->GetContentHeight();
+        manager->OnDrawMenuScrollButton(pDC, parts.upArrow, FALSE, parts.hotArrow < 0, FALSE, isAtTop);
+        manager->OnDrawMenuScrollButton(pDC, parts.downArrow, TRUE, parts.hotArrow > 0, FALSE, isAtBottom);
+    }
+    if (!parts.resizeBar.IsRectEmpty()) {
+        manager->OnDrawMenuResizeBar(pDC, parts.resizeBar, m_bVertResizeOnly ? 1 : 0);
+    }
+    manager->OnDrawMenuBorder(pDC, this, client);
+}

@@ -1,0 +1,71 @@
+#include "toolbar/popup_place.h"
+
+#include <algorithm>
+
+namespace {
+
+using toolbar::PopupPlacement;
+using toolbar::PopupRequest;
+
+int Clamp(int position, int length, int from, int to) { return std::max(from, std::min(position, to - length)); }
+
+/// Beside the area: a menu that an item of a menu opens.
+PopupPlacement PlaceBeside(const PopupRequest& request) {
+    const CRect& work = request.workArea;
+    PopupPlacement result;
+    result.direction = CMFCPopupMenu::DROP_DIRECTION_RIGHT;
+    int x = request.wanted.x;
+    if (x + request.size.cx > work.right) {
+        // The overlap with the menu before it is the same on both sides.
+        const int overlap = request.avoid.right - request.wanted.x;
+        const int left = request.avoid.left + overlap - request.size.cx;
+        if (left >= work.left || request.avoid.left - work.left > work.right - request.avoid.right) {
+            result.direction = CMFCPopupMenu::DROP_DIRECTION_LEFT;
+            x = left;
+        }
+    }
+    x = Clamp(x, request.size.cx, work.left, work.right);
+    const int y = Clamp(request.wanted.y, request.size.cy, work.top, work.bottom);
+    result.rect = CRect(CPoint(x, y), request.size);
+    return result;
+}
+
+} // namespace
+
+PopupPlacement toolbar::PlacePopup(const PopupRequest& request) {
+    const CRect& work = request.workArea;
+    PopupRequest fitted = request;
+    fitted.size.cx = std::min<int>(request.size.cx, work.Width());
+    fitted.size.cy = std::min<int>(request.size.cy, work.Height());
+    const bool hasAvoid = !request.avoid.IsRectEmpty();
+    const bool isBeside = hasAvoid && !request.isRightAligned && request.wanted.y < request.avoid.bottom &&
+                          request.wanted.x > request.avoid.left;
+    if (isBeside) {
+        return PlaceBeside(fitted);
+    }
+    PopupPlacement result;
+    result.direction = CMFCPopupMenu::DROP_DIRECTION_BOTTOM;
+    CSize size = fitted.size;
+    int y = request.wanted.y;
+    if (y + size.cy > work.bottom) {
+        const int above = hasAvoid ? static_cast<int>(request.avoid.top) : y;
+        const int roomAbove = above - work.top;
+        const int roomBelow = work.bottom - y;
+        if (roomAbove >= size.cy || roomAbove > roomBelow) {
+            result.direction = CMFCPopupMenu::DROP_DIRECTION_TOP;
+            // A menu at a point may cover the point; one that was dropped down never covers what dropped it.
+            size.cy = hasAvoid ? std::min<int>(size.cy, roomAbove) : size.cy;
+            y = above - size.cy;
+        } else if (hasAvoid) {
+            size.cy = std::min<int>(size.cy, roomBelow);
+        }
+    }
+    int x = request.isRightAligned ? request.wanted.x - size.cx : request.wanted.x;
+    if (!hasAvoid && !request.isRightAligned && x + size.cx > work.right && x - size.cx >= work.left) {
+        x -= size.cx;
+    }
+    x = Clamp(x, size.cx, work.left, work.right);
+    y = Clamp(y, size.cy, work.top, work.bottom);
+    result.rect = CRect(CPoint(x, y), size);
+    return result;
+}

@@ -1,0 +1,319 @@
+// Mouse, commands and their state, tooltips.
+#include "afxtoolbar.h"
+
+#include "afxMDIFrameWndEx.h"
+#include "afxext.h"
+#include "afxframewndex.h"
+#include "afxtoolbarmenubutton.h"
+#include "toolbar/metrics.h"
+
+#include <cwctype>
+
+namespace {
+
+bool IsPressable(const CMFCToolBarButton* button) {
+    return button && !(button->m_nStyle & (TBBS_SEPARATOR | TBBS_DISABLED)) && !button->IsHidden();
+}
+
+/// A button of a toolbar as an update handler sees it.
+class ToolBarCmdUI : public CCmdUI {
+public:
+    void Enable(BOOL bOn) override {
+        m_bEnableChanged = TRUE;
+        ChangeStyle(TBBS_DISABLED, bOn ? 0 : TBBS_DISABLED);
+    }
+    void SetCheck(int nCheck) override {
+        const UINT look = nCheck == 1 ? TBBS_CHECKED : nCheck == 2 ? TBBS_INDETERMINATE : 0u;
+        ChangeStyle(TBBS_CHECKED | TBBS_INDETERMINATE, look);
+    }
+    void SetRadio(BOOL bOn) override {
+        SetCheck(bOn ? 1 : 0);
+        Button()->SetRadio();
+    }
+    void SetText(LPCTSTR lpszText) override {
+        CMFCToolBarButton* button = Button();
+        if (button->m_strText != lpszText) {
+            button->m_strText = lpszText;
+            if (button->IsDrawText()) {
+                Bar()->AdjustLayout();
+            }
+        }
+    }
+
+private:
+    CMFCToolBar* Bar() const { return static_cast<CMFCToolBar*>(m_pOther); }
+    CMFCToolBarButton* Button() const { return Bar()->GetButton(static_cast<int>(m_nIndex)); }
+    void ChangeStyle(UINT mask, UINT bits) {
+        const int index = static_cast<int>(m_nIndex);
+        Bar()->SetButtonStyle(index, (Bar()->GetButtonStyle(index) & ~mask) | bits);
+    }
+};
+
+} // namespace
+
+void CMFCToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    ToolBarCmdUI state;
+    state.m_pOther = this;
+    for (state.m_nIndex = 0; state.m_nIndex < static_cast<UINT>(GetCount()); ++state.m_nIndex) {
+        state.m_nIndexMax = static_cast<UINT>(GetCount());
+        const CMFCToolBarButton* button = GetButton(static_cast<int>(state.m_nIndex));
+        const bool opensMenu = button->m_nID == 0 || button->m_nID == static_cast<UINT>(-1);
+        if (opensMenu || (button->m_nStyle & TBBS_SEPARATOR)) {
+            continue;
+        }
+        state.m_nID = button->m_nID;
+        // The bar's own handlers first: one of a derived bar decides.
+        if (!CWnd::OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr)) {
+            const auto* menuButton = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, button);
+            const BOOL hasMenu = menuButton && !menuButton->GetCommands().IsEmpty();
+            state.DoUpdate(pTarget, bDisableIfNoHndler && !hasMenu);
+        }
+    }
+    UpdateDialogControls(pTarget, bDisableIfNoHndler);
+}
+
+void CMFCToolBar::SetHighlighted(int iIndex) {
+    if (iIndex == m_iHighlighted) {
+        return;
+    }
+    InvalidateButton(m_iHighlighted);
+    m_iHighlighted = iIndex;
+    InvalidateButton(m_iHighlighted);
+    OnChangeHot(iIndex);
+}
+
+BOOL CMFCToolBar::SetHot(CMFCToolBarButton* pMenuButton) {
+    const int index = pMenuButton ? ButtonToIndex(pMenuButton) : -1;
+    if (pMenuButton && index < 0) {
+        return FALSE;
+    }
+    SetHighlighted(index);
+    return TRUE;
+}
+
+BOOL CMFCToolBar::IsPureMenuButton(CMFCToolBarButton* pButton) const {
+    const auto* button = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, pButton);
+    return button && (button->m_nID == 0 || button->m_nID == static_cast<UINT>(-1)) && !button->GetCommands().IsEmpty();
+}
+
+CMFCToolBarMenuButton* CMFCToolBar::GetDroppedDownMenu(int* pIndex) const {
+    int index = 0;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position; ++index) {
+        CObject* object = const_cast<CObject*>(static_cast<const CObject*>(m_Buttons.GetNext(position)));
+        auto* button = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, object);
+        if (button && button->IsDroppedDown()) {
+            if (pIndex) {
+                *pIndex = index;
+            }
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+void CMFCToolBar::Deactivate() {
+    if (CMFCToolBarMenuButton* open = GetDroppedDownMenu()) {
+        open->OnCancelMode();
+    }
+    SetHighlighted(-1);
+}
+
+CWnd* CMFCToolBar::GetCommandTarget() const {
+    CWnd* owner = GetOwner();
+    if (m_bRouteCommandsViaFrame || !owner) {
+        return GetTopLevelFrame();
+    }
+    return owner;
+}
+
+BOOL CMFCToolBar::ProcessCommand(CMFCToolBarButton* pButton) {
+    const UINT id = pButton ? pButton->m_nID : 0;
+    CWnd* target = GetCommandTarget();
+    if (!IsPressable(pButton) || id == 0 || id == static_cast<UINT>(-1) || !target) {
+        return FALSE;
+    }
+    m_pLastCommandButton = pButton;
+    // The handler may destroy this bar.
+    target->SendMessage(WM_COMMAND, id, 0);
+    return TRUE;
+}
+
+void CMFCToolBar::ClickButton(int iIndex, BOOL bSendCommand) {
+    CMFCToolBarButton* button = GetButton(iIndex);
+    if (!IsPressable(button)) {
+        return;
+    }
+    if (button->m_nStyle & TBSTYLE_CHECK) {
+        SetButtonStyle(iIndex, button->m_nStyle ^ TBBS_CHECKED);
+    }
+    const HWND window = m_hWnd;
+    if (button->OnClickUp() || !bSendCommand || OnSendCommand(button)) {
+        return;
+    }
+    ProcessCommand(button);
+    if (::IsWindow(window)) {
+        ::UpdateWindow(window);
+    }
+}
+
+void CMFCToolBar::OnMouseMove(UINT nFlags, CPoint point) {
+    CMFCBaseToolBar::OnMouseMove(nFlags, point);
+    const int hit = HitTest(point);
+    if (m_iButtonCapture >= 0) {
+        // Only the pressed button takes part until it is let go.
+        const UINT style = GetButtonStyle(m_iButtonCapture);
+        const UINT pressed = hit == m_iButtonCapture ? TBBS_PRESSED : 0;
+        SetButtonStyle(m_iButtonCapture, (style & ~static_cast<UINT>(TBBS_PRESSED)) | pressed);
+        return;
+    }
+    SetHighlighted(IsPressable(GetButton(hit)) ? hit : -1);
+    if (!m_bTracked) {
+        TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, m_hWnd, 0};
+        m_bTracked = ::TrackMouseEvent(&track);
+    }
+}
+
+void CMFCToolBar::OnMouseLeave() {
+    m_bTracked = FALSE;
+    if (m_iButtonCapture < 0) {
+        SetHighlighted(-1);
+    }
+}
+
+void CMFCToolBar::OnLButtonDown(UINT nFlags, CPoint point) {
+    CMFCBaseToolBar::OnLButtonDown(nFlags, point);
+    const int hit = HitTest(point);
+    CMFCToolBarButton* button = GetButton(hit);
+    if (!IsPressable(button)) {
+        return;
+    }
+    const HWND window = m_hWnd;
+    if (button->OnClick(this, TRUE)) {
+        if (::IsWindow(window)) {
+            InvalidateButton(hit);
+        }
+        return;
+    }
+    m_iButtonCapture = hit;
+    SetHighlighted(hit);
+    SetButtonStyle(hit, button->m_nStyle | TBBS_PRESSED);
+    SetCapture();
+}
+
+void CMFCToolBar::OnLButtonUp(UINT nFlags, CPoint point) {
+    CMFCBaseToolBar::OnLButtonUp(nFlags, point);
+    const int pressed = m_iButtonCapture;
+    if (pressed < 0) {
+        return;
+    }
+    m_iButtonCapture = -1;
+    SetButtonStyle(pressed, GetButtonStyle(pressed) & ~static_cast<UINT>(TBBS_PRESSED));
+    ::ReleaseCapture();
+    if (HitTest(point) == pressed) {
+        ClickButton(pressed, TRUE);
+    } else {
+        SetHighlighted(-1);
+    }
+}
+
+void CMFCToolBar::OnLButtonDblClk(UINT nFlags, CPoint point) {
+    const int hit = HitTest(point);
+    CMFCToolBarButton* button = GetButton(hit);
+    if (!button) {
+        CMFCBaseToolBar::OnLButtonDblClk(nFlags, point);
+        return;
+    }
+    const HWND window = m_hWnd;
+    button->OnDblClk(this);
+    if (::IsWindow(window)) {
+        // The second click of a fast user.
+        OnLButtonDown(nFlags, point);
+    }
+}
+
+void CMFCToolBar::OnCancelMode() {
+    CMFCBaseToolBar::OnCancelMode();
+    for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
+        static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position))->OnCancelMode();
+    }
+    if (m_iButtonCapture >= 0) {
+        ::ReleaseCapture();
+    }
+    SetHighlighted(-1);
+}
+
+void CMFCToolBar::OnCaptureChanged(CWnd*) {
+    const int pressed = m_iButtonCapture;
+    m_iButtonCapture = -1;
+    if (pressed >= 0) {
+        SetButtonStyle(pressed, GetButtonStyle(pressed) & ~static_cast<UINT>(TBBS_PRESSED));
+    }
+}
+
+BOOL CMFCToolBar::TranslateChar(UINT nChar) {
+    const wchar_t wanted = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(nChar)));
+    for (int i = 0; i < GetCount(); ++i) {
+        CMFCToolBarButton* button = GetButton(i);
+        if (!IsPressable(button) || toolbar::MnemonicOf(button->m_strText) != wanted) {
+            continue;
+        }
+        if (!button->OnClick(this, TRUE)) {
+            ClickButton(i, TRUE);
+        }
+        return TRUE;
+    }
+    return FALSE;
+}
+
+BOOL CMFCToolBar::PreTranslateMessage(MSG* pMsg) { return CMFCBaseToolBar::PreTranslateMessage(pMsg); }
+
+INT_PTR CMFCToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
+    const int hit = m_bShowTooltips ? const_cast<CMFCToolBar*>(this)->HitTest(point) : -1;
+    const CMFCToolBarButton* button = GetButton(hit);
+    if (!button) {
+        return -1;
+    }
+    if (pTI) {
+        pTI->hwnd = m_hWnd;
+        pTI->uId = static_cast<UINT_PTR>(hit) + 1;
+        pTI->rect = button->Rect();
+        pTI->lpszText = LPSTR_TEXTCALLBACK;
+    }
+    return hit + 1;
+}
+
+BOOL CMFCToolBar::OnUserToolTip(CMFCToolBarButton* pButton, CString& strTTText) const {
+    if (pButton->OnGetCustomToolTipText(strTTText)) {
+        return TRUE;
+    }
+    CFrameWnd* frame = GetTopLevelFrame();
+    if (auto* single = DYNAMIC_DOWNCAST(CFrameWndEx, frame)) {
+        if (single->GetToolbarButtonToolTipText(pButton, strTTText)) {
+            return TRUE;
+        }
+    } else if (auto* multiple = DYNAMIC_DOWNCAST(CMDIFrameWndEx, frame)) {
+        if (multiple->GetToolbarButtonToolTipText(pButton, strTTText)) {
+            return TRUE;
+        }
+    }
+    const int tabulator = pButton->m_strText.Find(L'\t');
+    strTTText = toolbar::WithoutPrefix(tabulator >= 0 ? pButton->m_strText.Left(tabulator) : pButton->m_strText);
+    CString resource;
+    if (strTTText.IsEmpty() && pButton->m_nID != 0 && resource.LoadString(pButton->m_nID)) {
+        const int lineEnd = resource.Find(L'\n');
+        strTTText = lineEnd >= 0 ? resource.Mid(lineEnd + 1) : resource;
+    }
+    return !strTTText.IsEmpty();
+}
+
+BOOL CMFCToolBar::OnNeedTipText(UINT, NMHDR* pNMH, LRESULT* pResult) {
+    auto* need = reinterpret_cast<NMTTDISPINFOW*>(pNMH);
+    CMFCToolBarButton* button = GetButton(static_cast<int>(pNMH->idFrom) - 1);
+    m_strToolTip.Empty();
+    if (!button || !OnUserToolTip(button, m_strToolTip)) {
+        return FALSE;
+    }
+    need->lpszText = const_cast<LPTSTR>(static_cast<LPCTSTR>(m_strToolTip));
+    *pResult = 0;
+    return TRUE;
+}

@@ -1,0 +1,94 @@
+// How a toolbar is drawn.
+#include "afxtoolbar.h"
+
+#include "afxglobals.h"
+#include "afxvisualmanager.h"
+#include "fx/dc_scope.h"
+#include "fx/window_dc.h"
+#include "toolbar/metrics.h"
+
+using toolbar::Scaled;
+
+void CMFCToolBar::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    if (client.IsRectEmpty()) {
+        return;
+    }
+    fx::MemoryDc memory(dc, client);
+    DoPaint(&memory.GetDC());
+}
+
+BOOL CMFCToolBar::OnEraseBkgnd(CDC*) { return TRUE; }
+
+void CMFCToolBar::DoPaint(CDC* pDC) {
+    CRect client;
+    GetClientRect(&client);
+    CRect clip;
+    pDC->GetClipBox(&clip);
+    CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
+    manager->OnFillBarBackground(pDC, this, client, clip);
+    OnFillBackground(pDC);
+    const BOOL isHorizontal = IsHorizontal();
+    if (GetPaneStyle() & CBRS_GRIPPER) {
+        CRect gripper = client;
+        (isHorizontal ? gripper.right : gripper.bottom) =
+            (isHorizontal ? gripper.left : gripper.top) + Scaled(toolbar::SeparatorSize);
+        manager->OnDrawBarGripper(pDC, gripper, isHorizontal, this);
+    }
+    CFont* const former = SelectToolBarFont(pDC, isHorizontal);
+    int index = 0;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position; ++index) {
+        auto* button = static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position));
+        CRect shown;
+        if (button->IsHidden() || !button->IsVisible() || !shown.IntersectRect(clip, button->Rect())) {
+            continue;
+        }
+        if (button->m_nStyle & TBBS_SEPARATOR) {
+            DrawSeparator(pDC, button->Rect(), isHorizontal);
+            continue;
+        }
+        const BOOL isHot = index == m_iHighlighted || button->IsDroppedDown();
+        DrawButton(pDC, button, GetImageList(*button, isHot), isHot, m_bGrayDisabledButtons);
+    }
+    if (former) {
+        pDC->SelectObject(former);
+    }
+}
+
+BOOL CMFCToolBar::DrawButton(CDC* pDC, CMFCToolBarButton* pButton, CMFCToolBarImages* pImages, BOOL bHighlighted,
+                             BOOL bDrawDisabledImages) {
+    CAfxDrawState state;
+    CMFCToolBarImages* images = nullptr;
+    if (pImages && pButton->IsDrawImage() && pImages->PrepareDrawImage(state, Scaled(CSize(pImages->GetImageSize())))) {
+        images = pImages;
+    }
+    const BOOL isHot = bHighlighted && (m_bShowHotBorder || m_bMenuMode);
+    pButton->OnDraw(pDC, pButton->Rect(), images, IsHorizontal(), FALSE, isHot, TRUE,
+                    bDrawDisabledImages && images != &m_DisabledImages);
+    if (images) {
+        images->EndDrawImage(state);
+    }
+    return TRUE;
+}
+
+void CMFCToolBar::DrawSeparator(CDC* pDC, const CRect& rect, BOOL bHorz) {
+    CMFCVisualManager::GetInstance()->OnDrawSeparator(pDC, this, rect, bHorz);
+}
+
+CMFCToolBarButton* CMFCToolBar::InvalidateButton(int nIndex) {
+    CMFCToolBarButton* button = GetButton(nIndex);
+    if (button && m_hWnd) {
+        CRect rect = button->GetInvalidateRect();
+        rect.InflateRect(1, 1);
+        InvalidateRect(rect);
+    }
+    return button;
+}
+
+void CMFCToolBar::UpdateButton(int nIndex) {
+    if (InvalidateButton(nIndex) && m_hWnd) {
+        UpdateWindow();
+    }
+}
