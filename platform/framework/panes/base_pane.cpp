@@ -4,7 +4,7 @@
 #include "afxPane.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
-#include "panes/pane_layout.h"
+#include "panes/bar_place.h"
 
 #include <utility>
 
@@ -233,14 +233,9 @@ void CBasePane::CopyState(CBasePane* pOrgBar) {
 }
 
 LRESULT CBasePane::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM) {
-    if (IsVisible()) {
-        auto* target = DYNAMIC_DOWNCAST(CFrameWnd, GetOwner());
-        if (!target) {
-            target = GetParentFrame();
-        }
-        if (target) {
-            OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
-        }
+    CFrameWnd* const target = IsVisible() ? panes::CommandTargetOf(*this) : nullptr;
+    if (target != nullptr) {
+        OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
     }
     return 0;
 }
@@ -254,19 +249,8 @@ LRESULT CBasePane::OnSizeParent(WPARAM, LPARAM lParam) {
     if (FindDockingManager() || GetCurrentAlignment() == 0 || !IsVisible()) {
         return 0;
     }
-    auto* place = reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
-    const CSize size = CalcFixedLayout(place->bStretch, IsHorizontal());
-    const RECT strip = panes::TakeStrip(place->rect, panes::SideOfAlignment(GetCurrentAlignment()),
-                                        IsHorizontal() ? size.cy : size.cx);
-    if (IsHorizontal()) {
-        place->sizeTotal.cy += size.cy;
-    } else {
-        place->sizeTotal.cx += size.cx;
-    }
-    if (place->hDWP) {
-        place->hDWP = SetWindowPos(nullptr, strip.left, strip.top, strip.right - strip.left, strip.bottom - strip.top,
-                                   SWP_NOZORDER | SWP_NOACTIVATE, place->hDWP);
-    }
+    auto& place = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
+    panes::TakePlaceInFrame(*this, GetCurrentAlignment(), CalcFixedLayout(place.bStretch, IsHorizontal()), place);
     return 0;
 }
 

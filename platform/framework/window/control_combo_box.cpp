@@ -80,14 +80,7 @@ int CComboBox::GetItemHeight(int nIndex) const { return Send<int>(*this, CB_GETI
 int CComboBox::GetLBText(int nIndex, LPTSTR lpszText) const { return Send<int>(*this, CB_GETLBTEXT, nIndex, lpszText); }
 
 void CComboBox::GetLBText(int nIndex, CString& rString) const {
-    const int length = GetLBTextLen(nIndex);
-    if (length < 0) {
-        rString.Empty();
-        return;
-    }
-    std::vector<wchar_t> text(static_cast<size_t>(length) + 1);
-    GetLBText(nIndex, text.data());
-    rString = text.data();
+    rString = ItemText(*this, CB_GETLBTEXTLEN, CB_GETLBTEXT, nIndex);
 }
 
 int CComboBox::GetLBTextLen(int nIndex) const { return Send<int>(*this, CB_GETLBTEXTLEN, nIndex); }
@@ -149,21 +142,5 @@ int CComboBox::SetTopIndex(int nIndex) { return Send<int>(*this, CB_SETTOPINDEX,
 void CComboBox::ShowDropDown(BOOL bShowIt) { Send(*this, CB_SHOWDROPDOWN, bShowIt); }
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
-    switch (message) {
-    case WM_COMPAREITEM:
-        *pResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
-    default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
-    }
-    return TRUE;
+    return RouteOwnerDraw(*this, message, lParam, pResult) || CWnd::OnChildNotify(message, wParam, lParam, pResult);
 }

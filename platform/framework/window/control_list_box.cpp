@@ -73,14 +73,7 @@ int CListBox::GetSelItems(int nMaxItems, LPINT rgIndex) const {
 int CListBox::GetText(int nIndex, LPTSTR lpszBuffer) const { return Send<int>(*this, LB_GETTEXT, nIndex, lpszBuffer); }
 
 void CListBox::GetText(int nIndex, CString& rString) const {
-    const int length = GetTextLen(nIndex);
-    if (length < 0) {
-        rString.Empty();
-        return;
-    }
-    std::vector<wchar_t> text(static_cast<size_t>(length) + 1);
-    GetText(nIndex, text.data());
-    rString = text.data();
+    rString = ItemText(*this, LB_GETTEXTLEN, LB_GETTEXT, nIndex);
 }
 
 int CListBox::GetTextLen(int nIndex) const { return Send<int>(*this, LB_GETTEXTLEN, nIndex); }
@@ -152,26 +145,14 @@ int CListBox::VKeyToItem(UINT nKey, UINT nIndex) {
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     switch (message) {
-    case WM_COMPAREITEM:
-        *pResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
     case WM_VKEYTOITEM:
         *pResult = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
-        break;
+        return TRUE;
     case WM_CHARTOITEM:
         *pResult = CharToItem(LOWORD(wParam), HIWORD(wParam));
-        break;
+        return TRUE;
     default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+        return RouteOwnerDraw(*this, message, lParam, pResult) ||
+               CWnd::OnChildNotify(message, wParam, lParam, pResult);
     }
-    return TRUE;
 }

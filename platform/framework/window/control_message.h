@@ -43,6 +43,38 @@ inline HWND HandleOf(const CWnd* window) { return window ? window->m_hWnd : null
 
 inline HIMAGELIST HandleOf(const CImageList* images) { return images ? images->m_hImageList : nullptr; }
 
+/// The text of an item, read with the control's two messages for its length and for itself; empty when there is none.
+inline CString ItemText(const CWnd& window, UINT lengthMessage, UINT textMessage, int index) {
+    const int length = Send<int>(window, lengthMessage, index);
+    if (length < 0) {
+        return {};
+    }
+    std::vector<wchar_t> text(static_cast<size_t>(length) + 1);
+    Send(window, textMessage, index, text.data());
+    return text.data();
+}
+
+/// Passes the messages of owner-drawn items on to the control's own virtual functions. False: it is another message.
+template <class Control>
+bool RouteOwnerDraw(Control& control, UINT message, LPARAM lParam, LRESULT* result) {
+    switch (message) {
+    case WM_COMPAREITEM:
+        *result = control.CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        return true;
+    case WM_DRAWITEM:
+        control.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return true;
+    case WM_MEASUREITEM:
+        control.MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        return true;
+    case WM_DELETEITEM:
+        control.DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// Registers the common controls' classes once.
 void EnsureCommonControls();
 

@@ -1,7 +1,7 @@
 #include "afxext.h"
 #include "fx/window_dc.h"
 
-#include "panes/pane_layout.h"
+#include "panes/bar_place.h"
 
 IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 
@@ -115,28 +115,16 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam) {
     if (!IsVisible() || (m_dwStyle & CBRS_ALIGN_ANY) == 0) {
         return 0;
     }
-    auto* place = reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
+    auto& place = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
     const bool isHorizontal = (m_dwStyle & CBRS_ORIENT_HORZ) != 0;
-    const CSize size = CalcFixedLayout(place->bStretch, isHorizontal);
-    const RECT strip =
-        panes::TakeStrip(place->rect, panes::SideOfAlignment(m_dwStyle), isHorizontal ? size.cy : size.cx);
-    (isHorizontal ? place->sizeTotal.cy : place->sizeTotal.cx) += isHorizontal ? size.cy : size.cx;
-    if (place->hDWP) {
-        place->hDWP = ::DeferWindowPos(place->hDWP, m_hWnd, nullptr, strip.left, strip.top, strip.right - strip.left,
-                                       strip.bottom - strip.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    }
+    panes::TakePlaceInFrame(*this, m_dwStyle, CalcFixedLayout(place.bStretch, isHorizontal), place);
     return 0;
 }
 
 LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM) {
-    if (IsVisible()) {
-        auto* target = DYNAMIC_DOWNCAST(CFrameWnd, GetOwner());
-        if (!target) {
-            target = GetParentFrame();
-        }
-        if (target) {
-            OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
-        }
+    CFrameWnd* const target = IsVisible() ? panes::CommandTargetOf(*this) : nullptr;
+    if (target != nullptr) {
+        OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
     }
     return 0;
 }
