@@ -60,6 +60,13 @@ public:
     /// The new element takes the place of the old one, which is deleted.
     BOOL Replace(int nIndex, CMFCRibbonBaseElement* pElem);
     BOOL ReplaceByID(UINT uiCmdID, CMFCRibbonBaseElement* pElem);
+    /// A new element of the class takes the place, id, texts and images of the one that was there. NULL, with nothing
+    /// changed, when there is none or the class makes no ribbon element.
+    CMFCRibbonBaseElement* SetElementRTC(int nIndex, CRuntimeClass* pRTC);
+    CMFCRibbonBaseElement* SetElementRTCByID(UINT uiCmdID, CRuntimeClass* pRTC);
+    /// Gives the button of that id a menu, see CMFCRibbonButton::SetMenu. FALSE when there is no such button.
+    BOOL SetElementMenu(UINT uiCmdID, HMENU hMenu, BOOL bIsDefautCommand = FALSE, BOOL bRightAlign = FALSE);
+    BOOL SetElementMenu(UINT uiCmdID, UINT uiMenuResID, BOOL bIsDefautCommand = FALSE, BOOL bRightAlign = FALSE);
 
     LPCTSTR GetName() const { return m_strName; }
     int GetCount() const;

@@ -177,6 +177,8 @@ public:
     // because the element is disabled, has no command id or no window.
     BOOL NotifyCommand(BOOL bWithDelay = FALSE);
     void PostMenuCommand(UINT uiCmdId);
+    // Tells the window that receives the commands that the list of this element has a row hot, -1 for none.
+    virtual void NotifyHighlightListItem(int nIndex);
     virtual void OnShowPopupMenu();
     virtual void ClosePopupMenu();
     virtual void DestroyCtrl();

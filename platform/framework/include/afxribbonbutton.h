@@ -2,6 +2,8 @@
 
 #include <afxbaseribbonelement.h>
 
+#include <memory>
+
 namespace ribbon {
 struct ButtonContent;
 struct TextBreak;
@@ -31,6 +33,8 @@ public:
 
     // A menu instead of sub-items; the handle stays the caller's.
     void SetMenu(HMENU hMenu, BOOL bIsDefaultCommand = FALSE, BOOL bRightAlign = FALSE);
+    // A menu resource, its popup when it has just one; the button keeps it. Unknown ids leave the button without.
+    void SetMenu(UINT uiMenuResID, BOOL bIsDefaultCommand = FALSE, BOOL bRightAlign = FALSE);
     HMENU GetMenu() const { return m_hMenu; }
     BOOL HasMenu() const override;
     void SetDefaultCommand(BOOL bSet = TRUE) { m_bIsDefaultCommand = bSet; }
@@ -139,6 +143,7 @@ protected:
 
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_arSubItems;
     HMENU m_hMenu = nullptr;
+    std::shared_ptr<CMenu> m_pLoadedMenu; // from the resources, shared by the button's copies
     BOOL m_bIsDefaultCommand = FALSE;
     BOOL m_bRightAlignMenu = FALSE;
     BOOL m_bMenuAreaHighlighted = FALSE;

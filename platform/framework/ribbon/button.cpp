@@ -61,6 +61,7 @@ void CMFCRibbonButton::ReleaseIcons() {
 
 void CMFCRibbonButton::SetMenu(HMENU hMenu, BOOL bIsDefaultCommand, BOOL bRightAlign) {
     m_hMenu = hMenu;
+    m_pLoadedMenu.reset();
     m_bIsDefaultCommand = bIsDefaultCommand;
     m_bRightAlignMenu = bRightAlign;
     CleanUpSizes();
@@ -234,6 +235,7 @@ void CMFCRibbonButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     m_nLargeImageIndex = button->m_nLargeImageIndex;
     m_bIsAlwaysLargeImage = button->m_bIsAlwaysLargeImage;
     m_hMenu = button->m_hMenu;
+    m_pLoadedMenu = button->m_pLoadedMenu;
     m_bIsDefaultCommand = button->m_bIsDefaultCommand;
     m_bRightAlignMenu = button->m_bRightAlignMenu;
     CopySubItems(*button);

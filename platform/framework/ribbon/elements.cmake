@@ -14,6 +14,7 @@ target_sources(framework PRIVATE
   element_commands.cpp
   element_metrics.cpp
   label.cpp
+  panel_changes.cpp
   separator.cpp
   slider.cpp
   slider_geometry.cpp
