@@ -1,14 +1,10 @@
 #include "interface.h"
 
-#include "afxDockingManager.h"
 #include "afxMDIChildWndEx.h"
 #include "afxMDIFrameWndEx.h"
-#include "afxPane.h"
-#include "afxbasepane.h"
 #include "afxdialogex.h"
 #include "afxext.h"
 #include "afxframewndex.h"
-#include "afxrecentDockSiteInfo.h"
 #include "afxwin.h"
 
 INTERFACE_OF(CDialog) {
@@ -51,7 +47,9 @@ INTERFACE_OF(CDialogEx) {
     MADE_FROM(LPCTSTR, CWnd*);
     MEMBER(void, SetBackgroundColor, (COLORREF, BOOL));
     CALL(SetBackgroundColor, COLORREF);
+    MEMBER(void, SetBackgroundImage, (HBITMAP, CDialogEx::BackgroundLocation, BOOL, BOOL));
     CALL(SetBackgroundImage, HBITMAP);
+    MEMBER(BOOL, SetBackgroundImage, (UINT, CDialogEx::BackgroundLocation, BOOL));
     CALL(SetBackgroundImage, UINT);
 }
 
@@ -63,14 +61,18 @@ INTERFACE_OF(CFrameWnd) {
     VIRTUAL(void, BeginModalState, ());
     VIRTUAL(BOOL, Create, (LPCTSTR, LPCTSTR, DWORD, const RECT&, CWnd*, LPCTSTR, DWORD, CCreateContext*));
     CALL(Create, LPCTSTR, LPCTSTR);
+    MEMBER(CWnd*, CreateView, (CCreateContext*, UINT));
+    CALL(CreateView, CCreateContext*);
     VIRTUAL(void, EndModalState, ());
     VIRTUAL(CFrameWnd*, GetActiveFrame, ());
+    MEMBER(CView*, GetActiveView, () const);
     MEMBER(CControlBar*, GetControlBar, (UINT));
     VIRTUAL(DWORD, GetMenuBarState, ());
     VIRTUAL(DWORD, GetMenuBarVisibility, ());
     VIRTUAL(CWnd*, GetMessageBar, ());
     VIRTUAL(void, GetMessageString, (UINT, CString&) const);
     MEMBER(CString, GetTitle, () const);
+    MEMBER(void, InitialUpdateFrame, (CDocument*, BOOL));
     MEMBER(BOOL, InModalState, () const);
     MEMBER(BOOL, IsTracking, () const);
     MEMBER(BOOL, LoadAccelTable, (LPCTSTR));
@@ -80,6 +82,8 @@ INTERFACE_OF(CFrameWnd) {
     MEMBER(void, OnUpdateControlBarMenu, (CCmdUI*));
     VIRTUAL(void, RecalcLayout, (BOOL));
     CALL(RecalcLayout);
+    MEMBER(void, SetActiveView, (CView*, BOOL));
+    CALL(SetActiveView, CView*);
     VIRTUAL(BOOL, SetMenuBarState, (DWORD));
     VIRTUAL(void, SetMenuBarVisibility, (DWORD));
     MEMBER(void, SetMessageText, (LPCTSTR));
@@ -127,13 +131,21 @@ INTERFACE_OF(CFrameWndEx) {
     VIRTUAL(BOOL, OnCmdMsg, (UINT, int, void*, AFX_CMDHANDLERINFO*));
     MEMBER(int, OnCreate, (LPCREATESTRUCT));
     VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, const CMFCToolBarMenuButton*, const CRect&));
+    MEMBER(void, OnGetMinMaxInfo, (MINMAXINFO FAR*));
+    MEMBER(BOOL, OnNcActivate, (BOOL));
+    MEMBER(void, OnNcCalcSize, (BOOL, NCCALCSIZE_PARAMS FAR*));
+    MEMBER(LRESULT, OnNcHitTest, (CPoint));
+    MEMBER(void, OnNcPaint, ());
     MEMBER(BOOL, OnPaneCheck, (UINT));
+    MEMBER(LRESULT, OnSetText, (WPARAM, LPARAM));
     VIRTUAL(BOOL, OnShowPanes, (BOOL));
     VIRTUAL(BOOL, OnShowPopupMenu, (CMFCPopupMenu*));
     MEMBER(void, OnSize, (UINT, int, int));
+    MEMBER(void, OnSysColorChange, ());
     VIRTUAL(void, OnUpdateFrameMenu, (HMENU));
     VIRTUAL(void, OnUpdateFrameTitle, (BOOL));
     MEMBER(void, OnUpdatePaneMenu, (CCmdUI*));
+    MEMBER(void, OnWindowPosChanged, (WINDOWPOS FAR*));
     VIRTUAL(BOOL, PreTranslateMessage, (MSG*));
     VIRTUAL(void, RecalcLayout, (BOOL));
     CALL(RecalcLayout);
@@ -292,205 +304,11 @@ INTERFACE_OF(CStatusBar) {
     CALL(SetPaneText, int, LPCTSTR);
 }
 
-INTERFACE_OF(CBasePane) {
-    BASE(CWnd);
-    MEMBER(void, AddPane, (CBasePane*));
-    VIRTUAL(void, AdjustDockingLayout, (HDWP));
-    CALL(AdjustDockingLayout);
-    VIRTUAL(void, AdjustLayout, ());
-    VIRTUAL(CSize, CalcFixedLayout, (BOOL, BOOL));
-    VIRTUAL(BOOL, CanAcceptPane, (const CBasePane*) const);
-    VIRTUAL(BOOL, CanAutoHide, () const);
-    VIRTUAL(BOOL, CanBeAttached, () const);
-    VIRTUAL(BOOL, CanBeClosed, () const);
-    VIRTUAL(BOOL, CanBeDocked, (CBasePane*) const);
-    VIRTUAL(BOOL, CanBeResized, () const);
-    VIRTUAL(BOOL, CanBeTabbedDocument, () const);
-    VIRTUAL(BOOL, CanFloat, () const);
-    VIRTUAL(BOOL, CanFocus, () const);
-    VIRTUAL(void, CopyState, (CBasePane*));
-    VIRTUAL(BOOL, CreateEx, (DWORD, LPCTSTR, LPCTSTR, DWORD, const RECT&, CWnd*, UINT, DWORD, CCreateContext*));
-    CALL(CreateEx, DWORD, LPCTSTR, LPCTSTR, DWORD, const RECT&, CWnd*, UINT);
-    VIRTUAL(BOOL, DockPane, (CBasePane*, LPCRECT, AFX_DOCK_METHOD));
-    VIRTUAL(BOOL, DockToFrameWindow, (DWORD, LPCRECT, DWORD, CBasePane*, int, BOOL));
-    CALL(DockToFrameWindow, DWORD);
-    VIRTUAL(BOOL, DoesAllowDynInsertBefore, () const);
-    VIRTUAL(void, EnableDocking, (DWORD));
-    VIRTUAL(void, EnableGripper, (BOOL));
-    NAMED(get_accName);
-    VIRTUAL(int, GetCaptionHeight, () const);
-    VIRTUAL(DWORD, GetControlBarStyle, () const);
-    VIRTUAL(DWORD, GetCurrentAlignment, () const);
-    VIRTUAL(AFX_DOCK_TYPE, GetDockingMode, () const);
-    VIRTUAL(CWnd*, GetDockSiteFrameWnd, () const);
-    VIRTUAL(DWORD, GetEnabledAlignment, () const);
-    VIRTUAL(DWORD, GetMFCStyle, () const);
-    VIRTUAL(HICON, GetPaneIcon, (BOOL));
-    MEMBER(CDockingPanesRow*, GetPaneRow, ());
-    VIRTUAL(DWORD, GetPaneStyle, () const);
-    VIRTUAL(CDockSite*, GetParentDockSite, () const);
-    VIRTUAL(CPaneFrameWnd*, GetParentMiniFrame, (BOOL) const);
-    CALL(GetParentMiniFrame);
-    VIRTUAL(BOOL, GetRecentVisibleState, () const);
-    VIRTUAL(BOOL, HideInPrintPreviewMode, () const);
-    MEMBER(BOOL, InsertPane, (CBasePane*, CBasePane*, BOOL));
-    CALL(InsertPane, CBasePane*, CBasePane*);
-    VIRTUAL(BOOL, IsAccessibilityCompatible, ());
-    VIRTUAL(BOOL, IsAutoHideMode, () const);
-    MEMBER(BOOL, IsDialogControl, () const);
-    VIRTUAL(BOOL, IsDocked, () const);
-    VIRTUAL(BOOL, IsFloating, () const);
-    VIRTUAL(BOOL, IsHorizontal, () const);
-    VIRTUAL(BOOL, IsInFloatingMultiPaneFrameWnd, () const);
-    VIRTUAL(BOOL, IsMDITabbed, () const);
-    MEMBER(BOOL, IsPaneVisible, () const);
-    VIRTUAL(BOOL, IsResizable, () const);
-    VIRTUAL(BOOL, IsRestoredFromRegistry, () const);
-    VIRTUAL(BOOL, IsTabbed, () const);
-    VIRTUAL(BOOL, IsVisible, () const);
-    VIRTUAL(BOOL, LoadState, (LPCTSTR, int, UINT));
-    CALL(LoadState);
-    VIRTUAL(HDWP, MoveWindow, (CRect&, BOOL, HDWP));
-    CALL(MoveWindow, CRect&);
-    VIRTUAL(void, OnAfterChangeParent, (CWnd*));
-    VIRTUAL(void, OnBeforeChangeParent, (CWnd*, BOOL));
-    CALL(OnBeforeChangeParent, CWnd*);
-    VIRTUAL(void, OnPaneContextMenu, (CWnd*, CPoint));
-    VIRTUAL(BOOL, OnSetAccData, (long));
-    NAMED(OnUpdateCmdUI);
-    NAMED(PreTranslateMessage);
-    VIRTUAL(void, RecalcLayout, ());
-    MEMBER(void, RemovePaneFromDockManager, (CBasePane*, BOOL, BOOL, BOOL, CBasePane*));
-    CALL(RemovePaneFromDockManager, CBasePane*);
-    VIRTUAL(BOOL, SaveState, (LPCTSTR, int, UINT));
-    CALL(SaveState);
-    MEMBER(CFont*, SelectDefaultFont, (CDC*));
-    NAMED(Serialize);
-    VIRTUAL(void, SetControlBarStyle, (DWORD));
-    MEMBER(void, SetDockingMode, (AFX_DOCK_TYPE));
-    VIRTUAL(void, SetPaneAlignment, (DWORD));
-    VIRTUAL(void, SetPaneStyle, (DWORD));
-    VIRTUAL(HDWP, SetWindowPos, (const CWnd*, int, int, int, int, UINT, HDWP));
-    CALL(SetWindowPos, const CWnd*, int, int, int, int, UINT);
-    VIRTUAL(void, ShowPane, (BOOL, BOOL, BOOL));
-    VIRTUAL(CSize, StretchPane, (int, BOOL));
-    VIRTUAL(void, UndockPane, (BOOL));
-    CALL(UndockPane);
-}
-
-PROTECTED_INTERFACE_OF(CBasePane) { VIRTUAL(void, DoPaint, (CDC*)); }
-
-INTERFACE_OF(CPane) {
-    BASE(CBasePane);
-    VIRTUAL(void, AdjustSizeImmediate, (BOOL));
-    CALL(AdjustSizeImmediate);
-    VIRTUAL(BOOL, AllowShowOnPaneMenu, () const);
-    VIRTUAL(CSize, CalcAvailableSize, (CRect));
-    MEMBER(void, CalcInsideRect, (CRect&, BOOL) const);
-    MEMBER(void, CalcRecentDockedRect, ());
-    VIRTUAL(CSize, CalcSize, (BOOL));
-    VIRTUAL(BOOL, CanBeDocked, (CBasePane*) const);
-    VIRTUAL(BOOL, CanBeTabbedDocument, () const);
-    VIRTUAL(void, CopyState, (CPane*));
-    VIRTUAL(BOOL, Create, (LPCTSTR, DWORD, const RECT&, CWnd*, UINT, DWORD, CCreateContext*));
-    CALL(Create, LPCTSTR, DWORD, const RECT&, CWnd*, UINT);
-    VIRTUAL(BOOL, CreateEx, (DWORD, LPCTSTR, DWORD, const RECT&, CWnd*, UINT, DWORD, CCreateContext*));
-    CALL(CreateEx, DWORD, LPCTSTR, DWORD, const RECT&, CWnd*, UINT);
-    NAMED(CreateObject);
-    VIRTUAL(BOOL, DockPane, (CBasePane*, LPCRECT, AFX_DOCK_METHOD));
-    VIRTUAL(BOOL, DockToFrameWindow, (DWORD, LPCRECT, DWORD, CBasePane*, int, BOOL));
-    CALL(DockToFrameWindow, DWORD);
-    VIRTUAL(BOOL, DoesAllowSiblingBars, () const);
-    VIRTUAL(int, GetAvailableExpandSize, () const);
-    VIRTUAL(int, GetAvailableStretchSize, () const);
-    MEMBER(CRect, GetBorders, () const);
-    MEMBER(CDockingPanesRow*, GetDockSiteRow, () const);
-    VIRTUAL(BOOL, GetExclusiveRowMode, () const);
-    VIRTUAL(void, GetMinSize, (CSize&) const);
-    VIRTUAL(void, GetPaneName, (CString&) const);
-    NAMED(GetThisClass);
-    VIRTUAL(BOOL, IsDragMode, () const);
-    VIRTUAL(BOOL, IsInFloatingMultiPaneFrameWnd, () const);
-    VIRTUAL(BOOL, IsResizable, () const);
-    VIRTUAL(BOOL, IsTabbed, () const);
-    VIRTUAL(BOOL, LoadState, (LPCTSTR, int, UINT));
-    CALL(LoadState);
-    VIRTUAL(void, OnAfterChangeParent, (CWnd*));
-    VIRTUAL(void, OnBeforeChangeParent, (CWnd*, BOOL));
-    CALL(OnBeforeChangeParent, CWnd*);
-    VIRTUAL(void, OnPressCloseButton, ());
-    VIRTUAL(BOOL, OnShowControlBarMenu, (CPoint));
-    VIRTUAL(void, RecalcLayout, ());
-    VIRTUAL(BOOL, SaveState, (LPCTSTR, int, UINT));
-    CALL(SaveState);
-    MEMBER(void, SetBorders, (int, int, int, int));
-    CALL(SetBorders);
-    MEMBER(void, SetBorders, (LPCRECT));
-    VIRTUAL(void, SetExclusiveRowMode, (BOOL));
-    CALL(SetExclusiveRowMode);
-    MEMBER(void, SetMinSize, (const CSize&));
-    VIRTUAL(void, UndockPane, (BOOL));
-    CALL(UndockPane);
-    DATA(CRecentDockSiteInfo, m_recentDockInfo);
-}
-
-PROTECTED_INTERFACE_OF(CPane) {
-    VIRTUAL(void, OnAfterDock, (CBasePane*, LPCRECT, AFX_DOCK_METHOD));
-    VIRTUAL(BOOL, OnBeforeDock, (CBasePane**, LPCRECT, AFX_DOCK_METHOD));
-}
-
-INTERFACE_OF(CDockingManager) {
-    BASE(CObject);
-    MEMBER(BOOL, AddPane, (CBasePane*, BOOL, BOOL, BOOL));
-    CALL(AddPane, CBasePane*);
-    VIRTUAL(void, AdjustDockingLayout, (HDWP));
-    CALL(AdjustDockingLayout);
-    MEMBER(BOOL, Create, (CFrameWnd*));
-    MEMBER(void, DockPane, (CBasePane*, UINT, LPCRECT));
-    CALL(DockPane, CBasePane*);
-    MEMBER(BOOL, DockPaneLeftOf, (CPane*, CPane*));
-    MEMBER(BOOL, EnableDocking, (DWORD));
-    MEMBER(void, EnablePaneContextMenu, (BOOL, UINT, const CString&, BOOL));
-    CALL(EnablePaneContextMenu, BOOL, UINT, const CString&);
-    VIRTUAL(CBasePane*, FindPaneByID, (UINT, BOOL));
-    CALL(FindPaneByID, UINT);
-    MEMBER(CRect, GetClientAreaBounds, () const);
-    MEMBER(void, GetClientAreaBounds, (CRect&));
-    STATIC(AFX_DOCK_TYPE, GetDockingMode, ());
-    MEMBER(CFrameWnd*, GetDockSiteFrameWnd, () const);
-    MEMBER(CRect, GetOuterEdgeBounds, () const);
-    MEMBER(void, GetPaneList, (CObList&, BOOL, CRuntimeClass*, BOOL));
-    CALL(GetPaneList, CObList&);
-    MEMBER(BOOL, InsertPane, (CBasePane*, CBasePane*, BOOL));
-    CALL(InsertPane, CBasePane*, CBasePane*);
-    MEMBER(BOOL, IsInAdjustLayout, () const);
-    VIRTUAL(BOOL, LoadState, (LPCTSTR, UINT));
-    CALL(LoadState);
-    MEMBER(void, LockUpdate, (BOOL));
-    MEMBER(void, OnPaneContextMenu, (CPoint));
-    VIRTUAL(CBasePane*, PaneFromPoint, (CPoint, int, bool, CRuntimeClass*, BOOL, const CBasePane*) const);
-    CALL(PaneFromPoint, CPoint, int);
-    CALL(PaneFromPoint, CPoint, int, DWORD&);
-    VIRTUAL(void, RecalcLayout, (BOOL));
-    CALL(RecalcLayout);
-    MEMBER(void, RemovePaneFromDockManager, (CBasePane*, BOOL, BOOL, BOOL, CBasePane*));
-    CALL(RemovePaneFromDockManager, CBasePane*, BOOL, BOOL);
-    VIRTUAL(BOOL, SaveState, (LPCTSTR, UINT));
-    CALL(SaveState);
-    MEMBER(void, Serialize, (CArchive&));
-    STATIC(void, SetDockingMode, (AFX_DOCK_TYPE, AFX_SMARTDOCK_THEME));
-    CALL(SetDockingMode, AFX_DOCK_TYPE);
-    VIRTUAL(BOOL, ShowPanes, (BOOL));
-    STATIC_DATA(AFX_DOCK_TYPE, m_dockModeGlobal);
-    STATIC_DATA(int, m_nDockSensitivity);
-}
-
-INTERFACE_OF(CRecentDockSiteInfo) {
-    BASE(CObject);
-    MADE_FROM(CPane*);
-    MEMBER(void, CleanUp, ());
-    MEMBER(CRect&, GetRecentDockedRect, (BOOL));
-    MEMBER(void, Init, ());
-    MEMBER(CRecentDockSiteInfo&, operator=, (CRecentDockSiteInfo&));
-    VIRTUAL(void, SetInfo, (BOOL, CRecentDockSiteInfo&));
+INTERFACE_OF(CMiniFrameWnd) {
+    BASE(CFrameWnd);
+    MADE_FROM();
+    VIRTUAL(BOOL, Create, (LPCTSTR, LPCTSTR, DWORD, const RECT&, CWnd*, UINT));
+    CALL(Create, LPCTSTR, LPCTSTR, DWORD, const RECT&);
+    VIRTUAL(BOOL, CreateEx, (DWORD, LPCTSTR, LPCTSTR, DWORD, const RECT&, CWnd*, UINT));
+    CALL(CreateEx, DWORD, LPCTSTR, LPCTSTR, DWORD, const RECT&);
 }

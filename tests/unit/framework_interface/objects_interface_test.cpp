@@ -3,6 +3,7 @@
 #include "afx.h"
 #include "afxwin.h"
 #include "atlsimpstr.h"
+#include "atltime.h"
 #include "atltypes.h"
 
 INTERFACE_OF(CObject) {
@@ -133,6 +134,8 @@ INTERFACE_OF(CFile) {
     VIRTUAL(CString, GetFileTitle, () const);
     VIRTUAL(ULONGLONG, GetLength, () const);
     VIRTUAL(ULONGLONG, GetPosition, () const);
+    MEMBER(BOOL, GetStatus, (CFileStatus&) const);
+    CALL(GetStatus, LPCTSTR, CFileStatus&);
     VIRTUAL(void, LockRange, (ULONGLONG, ULONGLONG));
     VIRTUAL(BOOL, Open, (LPCTSTR, UINT, CFileException*));
     CALL(Open, LPCTSTR, UINT);
@@ -144,6 +147,7 @@ INTERFACE_OF(CFile) {
     MEMBER(ULONGLONG, SeekToEnd, ());
     VIRTUAL(void, SetFilePath, (LPCTSTR));
     VIRTUAL(void, SetLength, (ULONGLONG));
+    CALL(SetStatus, LPCTSTR, const CFileStatus&);
     VIRTUAL(void, UnlockRange, (ULONGLONG, ULONGLONG));
     VIRTUAL(void, Write, (const void*, UINT));
     MEMBER(HANDLE, operator HANDLE, () const);
@@ -297,4 +301,56 @@ INTERFACE_OF(CRect) {
     MEMBER(void, operator-=, (SIZE));
     MEMBER(void, operator-=, (LPCRECT));
     MEMBER(BOOL, operator==, (const RECT&) const);
+}
+
+INTERFACE_OF(CTime) {
+    MADE_FROM();
+    MADE_FROM(__time64_t);
+    MADE_FROM(int, int, int, int, int, int, int);
+    MADE_FROM(WORD, WORD, int);
+    MADE_FROM(const SYSTEMTIME&, int);
+    MADE_FROM(const FILETIME&, int);
+    MEMBER(CString, Format, (LPCTSTR) const);
+    MEMBER(CString, Format, (UINT) const);
+    MEMBER(CString, FormatGmt, (LPCTSTR) const);
+    MEMBER(CString, FormatGmt, (UINT) const);
+    MEMBER(bool, GetAsSystemTime, (SYSTEMTIME&) const);
+    STATIC(CTime, GetCurrentTime, ());
+    MEMBER(int, GetDay, () const);
+    MEMBER(int, GetDayOfWeek, () const);
+    MEMBER(struct tm*, GetGmtTm, (struct tm*) const);
+    MEMBER(int, GetHour, () const);
+    MEMBER(struct tm*, GetLocalTm, (struct tm*) const);
+    MEMBER(int, GetMinute, () const);
+    MEMBER(int, GetMonth, () const);
+    MEMBER(int, GetSecond, () const);
+    MEMBER(__time64_t, GetTime, () const);
+    MEMBER(CArchive&, Serialize64, (CArchive&));
+    MEMBER(CTime&, operator+=, (CTimeSpan));
+    MEMBER(CTime&, operator-=, (CTimeSpan));
+    MEMBER(CTime&, operator=, (__time64_t));
+    MEMBER(CTime, operator+, (CTimeSpan) const);
+    MEMBER(CTime, operator-, (CTimeSpan) const);
+    MEMBER(CTimeSpan, operator-, (CTime) const);
+}
+
+INTERFACE_OF(CTimeSpan) {
+    MADE_FROM();
+    MADE_FROM(__time64_t);
+    MADE_FROM(LONG, int, int, int);
+    MEMBER(CString, Format, (LPCSTR) const);
+    MEMBER(CString, Format, (LPCTSTR) const);
+    MEMBER(CString, Format, (UINT) const);
+    MEMBER(LONGLONG, GetDays, () const);
+    MEMBER(LONG, GetHours, () const);
+    MEMBER(LONG, GetMinutes, () const);
+    MEMBER(LONG, GetSeconds, () const);
+    MEMBER(LONGLONG, GetTotalHours, () const);
+    MEMBER(LONGLONG, GetTotalMinutes, () const);
+    MEMBER(LONGLONG, GetTotalSeconds, () const);
+    MEMBER(CArchive&, Serialize64, (CArchive&));
+    MEMBER(CTimeSpan, operator+, (CTimeSpan) const);
+    MEMBER(CTimeSpan, operator-, (CTimeSpan) const);
+    MEMBER(CTimeSpan&, operator+=, (CTimeSpan));
+    MEMBER(CTimeSpan&, operator-=, (CTimeSpan));
 }

@@ -5,6 +5,7 @@
 
 INTERFACE_OF(CMFCRibbonBaseElement) {
     BASE(CObject);
+    VIRTUAL(void, AddToKeyList, (CArray<CMFCRibbonKeyTip*, CMFCRibbonKeyTip*>&));
     VIRTUAL(BOOL, CanBeAddedToQuickAccessToolBar, () const);
     VIRTUAL(BOOL, CanBeCompacted, () const);
     VIRTUAL(BOOL, CanBeStretched, ());
@@ -29,6 +30,8 @@ INTERFACE_OF(CMFCRibbonBaseElement) {
     VIRTUAL(CSize, GetImageSize, (CMFCRibbonBaseElement::RibbonImageType) const);
     VIRTUAL(CSize, GetIntermediateSize, (CDC*));
     MEMBER(LPCTSTR, GetKeys, () const);
+    VIRTUAL(CRect, GetKeyTipRect, (CDC*, BOOL));
+    VIRTUAL(CSize, GetKeyTipSize, (CDC*));
     MEMBER(CMFCRibbonBaseElement::RibbonElementLocation, GetLocationInGroup, () const);
     MEMBER(LPCTSTR, GetMenuKeys, () const);
     VIRTUAL(UINT, GetNotifyID, ());
@@ -76,10 +79,12 @@ INTERFACE_OF(CMFCRibbonBaseElement) {
     VIRTUAL(BOOL, IsWholeRowHeight, () const);
     MEMBER(BOOL, NotifyCommand, (BOOL));
     CALL(NotifyCommand);
+    VIRTUAL(void, NotifyHighlightListItem, (int));
     VIRTUAL(void, OnAfterChangeRect, (CDC*));
     VIRTUAL(BOOL, OnAutoRepeat, ());
     VIRTUAL(void, OnCalcTextSize, (CDC*));
     VIRTUAL(void, OnDraw, (CDC*));
+    VIRTUAL(void, OnDrawKeyTip, (CDC*, const CRect&, BOOL));
     VIRTUAL(BOOL, OnKey, (BOOL));
     VIRTUAL(BOOL, OnMenuKey, (UINT));
     VIRTUAL(void, OnRTLChanged, (BOOL));
@@ -175,6 +180,8 @@ INTERFACE_OF(CMFCRibbonButton) {
     MEMBER(void, SetImageIndex, (int, BOOL));
     MEMBER(void, SetMenu, (HMENU, BOOL, BOOL));
     CALL(SetMenu, HMENU);
+    MEMBER(void, SetMenu, (UINT, BOOL, BOOL));
+    CALL(SetMenu, UINT);
     VIRTUAL(void, SetParentCategory, (CMFCRibbonCategory*));
     MEMBER(void, SetRightAlignMenu, (BOOL));
     CALL(SetRightAlignMenu);

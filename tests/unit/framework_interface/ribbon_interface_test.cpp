@@ -38,6 +38,8 @@ INTERFACE_OF(CMFCRibbonBar) {
     CALL(Create, CWnd*);
     MEMBER(void, DeactivateKeyboardFocus, (BOOL));
     CALL(DeactivateKeyboardFocus);
+    MEMBER(void, EnableKeyTips, (BOOL));
+    CALL(EnableKeyTips);
     MEMBER(void, EnableToolTips, (BOOL, BOOL));
     CALL(EnableToolTips);
     MEMBER(CMFCRibbonBaseElement*, FindByData, (DWORD_PTR, BOOL) const);
@@ -60,6 +62,9 @@ INTERFACE_OF(CMFCRibbonBar) {
     MEMBER(DWORD, GetHideFlags, () const);
     MEMBER(void, GetItemIDsList, (CList<UINT, UINT>&, BOOL) const);
     CALL(GetItemIDsList, CList<UINT, UINT>&);
+    MEMBER(int, GetKeyboardNavigationLevel, () const);
+    MEMBER(CObject*, GetKeyboardNavLevelCurrent, () const);
+    MEMBER(CObject*, GetKeyboardNavLevelParent, () const);
     MEMBER(CRect, GetQATCommandsLocation, () const);
     MEMBER(CMFCRibbonBaseElement*, GetQATDroppedDown, ());
     MEMBER(void, GetQuickAccessCommands, (CList<UINT, UINT>&));
@@ -69,8 +74,10 @@ INTERFACE_OF(CMFCRibbonBar) {
     MEMBER(int, GetTooltipFixedWidthRegular, () const);
     MEMBER(int, GetVisibleCategoryCount, () const);
     MEMBER(BOOL, HideAllContextCategories, ());
+    MEMBER(void, HideKeyTips, ());
     VIRTUAL(CMFCRibbonBaseElement*, HitTest, (CPoint, BOOL, BOOL));
     CALL(HitTest, CPoint);
+    MEMBER(BOOL, IsKeyTipEnabled, () const);
     VIRTUAL(BOOL, IsMainRibbonBar, () const);
     MEMBER(BOOL, IsQATEmpty, () const);
     MEMBER(BOOL, IsQuickAccessToolbarOnTop, () const);
@@ -84,6 +91,8 @@ INTERFACE_OF(CMFCRibbonBar) {
     MEMBER(BOOL, OnSetAccData, (long));
     VIRTUAL(BOOL, OnShowRibbonContextMenu, (CWnd*, int, int, CMFCRibbonBaseElement*));
     VIRTUAL(BOOL, OnShowRibbonQATMenu, (CWnd*, int, int, CMFCRibbonBaseElement*));
+    MEMBER(BOOL, OnSysKeyDown, (CFrameWnd*, WPARAM, LPARAM));
+    MEMBER(BOOL, OnSysKeyUp, (CFrameWnd*, WPARAM, LPARAM));
     MEMBER(void, PopTooltip, ());
     VIRTUAL(BOOL, PreTranslateMessage, (MSG*));
     VIRTUAL(void, RecalcLayout, ());
@@ -92,9 +101,14 @@ INTERFACE_OF(CMFCRibbonBar) {
     MEMBER(BOOL, RemoveCategory, (int));
     MEMBER(BOOL, SetActiveCategory, (CMFCRibbonCategory*, BOOL));
     CALL(SetActiveCategory, CMFCRibbonCategory*);
+    MEMBER(void, SetActiveMDIChild, (CWnd*));
     MEMBER(BOOL, SetElementKeys, (UINT, LPCTSTR, LPCTSTR));
     CALL(SetElementKeys, UINT, LPCTSTR);
     MEMBER(void, SetApplicationButton, (CMFCRibbonApplicationButton*, CSize));
+    MEMBER(void, SetKeyboardNavigationLevel, (CObject*, BOOL));
+    CALL(SetKeyboardNavigationLevel, CObject*);
+    MEMBER(void, SetMaximizeMode, (BOOL, CWnd*));
+    CALL(SetMaximizeMode, BOOL);
     MEMBER(void, SetQuickAccessCommands, (const CList<UINT, UINT>&, BOOL));
     CALL(SetQuickAccessCommands, const CList<UINT, UINT>&);
     MEMBER(void, SetQuickAccessDefaultState, (const CMFCRibbonQuickAccessToolBarDefaultState&));
@@ -106,7 +120,9 @@ INTERFACE_OF(CMFCRibbonBar) {
     CALL(ShowCategory, int);
     MEMBER(void, ShowContextCategories, (UINT, BOOL));
     CALL(ShowContextCategories, UINT);
+    MEMBER(void, ShowKeyTips, ());
     MEMBER(void, ToggleMimimizeState, ());
+    VIRTUAL(BOOL, TranslateChar, (UINT));
 }
 
 INTERFACE_OF(CMFCRibbonButtonsGroup) {
@@ -299,6 +315,12 @@ INTERFACE_OF(CMFCRibbonPanel) {
     MEMBER(void, SetCenterColumnVert, (BOOL));
     CALL(SetCenterColumnVert);
     MEMBER(void, SetData, (DWORD_PTR));
+    MEMBER(BOOL, SetElementMenu, (UINT, HMENU, BOOL, BOOL));
+    CALL(SetElementMenu, UINT, HMENU);
+    MEMBER(BOOL, SetElementMenu, (UINT, UINT, BOOL, BOOL));
+    CALL(SetElementMenu, UINT, UINT);
+    MEMBER(CMFCRibbonBaseElement*, SetElementRTC, (int, CRuntimeClass*));
+    MEMBER(CMFCRibbonBaseElement*, SetElementRTCByID, (UINT, CRuntimeClass*));
     MEMBER(void, SetFocused, (CMFCRibbonBaseElement*));
     MEMBER(void, SetJustifyColumns, (BOOL));
     CALL(SetJustifyColumns);

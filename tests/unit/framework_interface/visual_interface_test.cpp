@@ -99,6 +99,7 @@ INTERFACE_OF(CDrawingManager) {
 INTERFACE_OF(CMFCToolBarImages) {
     BASE(CObject);
     MADE_FROM();
+    MEMBER(void, AdaptColors, (COLORREF, COLORREF));
     MEMBER(int, AddIcon, (HICON, BOOL));
     CALL(AddIcon, HICON);
     MEMBER(int, AddImage, (HBITMAP, BOOL));
@@ -107,7 +108,10 @@ INTERFACE_OF(CMFCToolBarImages) {
     MEMBER(void, Clear, ());
     MEMBER(BOOL, ConvertTo32Bits, (COLORREF));
     CALL(ConvertTo32Bits);
+    MEMBER(BOOL, CopyImageToClipboard, (int));
     MEMBER(BOOL, CopyTo, (CMFCToolBarImages&));
+    MEMBER(BOOL, CreateFromImageList, (const CImageList&));
+    STATIC(HRGN, CreateRegionFromImage, (HBITMAP, COLORREF));
     MEMBER(BOOL, DeleteImage, (int));
     MEMBER(BOOL, Draw, (CDC*, int, int, int, BOOL, BOOL, BOOL, BOOL, BOOL, BYTE));
     CALL(Draw, CDC*, int, int, int);
@@ -131,6 +135,7 @@ INTERFACE_OF(CMFCToolBarImages) {
     MEMBER(CRect, GetLastImageRect, () const);
     MEMBER(int, GetLightPercentage, () const);
     MEMBER(BOOL, GetMapTo3DColors, () const);
+    MEMBER(HBITMAP, GetMask, (int));
     MEMBER(int, GetResourceOffset, (UINT) const);
     MEMBER(double, GetScale, () const);
     MEMBER(COLORREF, GetTransparentColor, () const);
@@ -148,11 +153,21 @@ INTERFACE_OF(CMFCToolBarImages) {
     CALL(Load, LPCTSTR);
     MEMBER(BOOL, LoadStr, (LPCTSTR, HINSTANCE, BOOL));
     CALL(LoadStr, LPCTSTR);
+    STATIC(COLORREF, MapFromSysColor, (COLORREF, BOOL));
+    CALL(MapFromSysColor, COLORREF);
+    MEMBER(BOOL, MapTo3dColors, (BOOL, COLORREF, COLORREF));
+    CALL(MapTo3dColors);
+    STATIC(COLORREF, MapToSysColor, (COLORREF, BOOL));
+    CALL(MapToSysColor, COLORREF);
     MEMBER(BOOL, Mirror, ());
+    STATIC(BOOL, MirrorBitmap, (HBITMAP&, int));
+    STATIC(BOOL, MirrorBitmapVert, (HBITMAP&, int));
     MEMBER(BOOL, MirrorVert, ());
     MEMBER(void, OnSysColorChange, ());
     MEMBER(BOOL, PrepareDrawImage, (CAfxDrawState&, CSize, BOOL));
     CALL(PrepareDrawImage, CAfxDrawState&);
+    MEMBER(BOOL, Save, (LPCTSTR));
+    CALL(Save);
     MEMBER(void, SetAlwaysLight, (BOOL));
     CALL(SetAlwaysLight);
     STATIC(void, SetDisabledImageAlpha, (BYTE));
@@ -166,7 +181,13 @@ INTERFACE_OF(CMFCToolBarImages) {
     MEMBER(void, SetSingleImage, ());
     MEMBER(COLORREF, SetTransparentColor, (COLORREF));
     MEMBER(BOOL, SmoothResize, (double));
+    MEMBER(BOOL, UpdateImage, (int, HBITMAP));
     STATIC_DATA(BOOL, m_bDisableTrueColorAlpha);
+}
+
+PROTECTED_INTERFACE_OF(CMFCToolBarImages) {
+    STATIC(BOOL, PreMultiplyAlpha, (HBITMAP, BOOL));
+    MEMBER(BOOL, PreMultiplyAlpha, (HBITMAP));
 }
 
 INTERFACE_OF(CMFCToolTipCtrl) {

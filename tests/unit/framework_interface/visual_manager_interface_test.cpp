@@ -48,6 +48,9 @@ INTERFACE_OF(CMFCVisualManager) {
     VIRTUAL(int, GetShowAllMenuItemsHeight, (CDC*, const CSize&));
     VIRTUAL(COLORREF, GetSmartDockingHighlightToneColor, ());
     VIRTUAL(COLORREF, GetStatusBarPaneTextColor, (CMFCStatusBar*, CMFCStatusBarPaneInfo*));
+    VIRTUAL(
+        void, GetTabFrameColors,
+        (const CMFCBaseTabCtrl*, COLORREF&, COLORREF&, COLORREF&, COLORREF&, COLORREF&, COLORREF&, CBrush*&, CBrush*&));
     VIRTUAL(COLORREF, GetTabTextColor, (const CMFCBaseTabCtrl*, int, BOOL));
     VIRTUAL(COLORREF, GetToolbarButtonTextColor, (CMFCToolBarButton*, CMFCVisualManager::AFX_BUTTON_STATE));
     VIRTUAL(COLORREF, GetToolbarDisabledTextColor, ());
@@ -91,6 +94,7 @@ INTERFACE_OF(CMFCVisualManager) {
     VIRTUAL(void, OnDrawRibbonButtonBorder, (CDC*, CMFCRibbonButton*));
     VIRTUAL(COLORREF, OnDrawRibbonButtonsGroup, (CDC*, CMFCRibbonButtonsGroup*, CRect));
     VIRTUAL(void, OnDrawRibbonCaption, (CDC*, CMFCRibbonBar*, CRect, CRect));
+    VIRTUAL(void, OnDrawRibbonCaptionButton, (CDC*, CMFCRibbonCaptionButton*));
     VIRTUAL(void, OnDrawRibbonCategory, (CDC*, CMFCRibbonCategory*, CRect));
     VIRTUAL(COLORREF, OnDrawRibbonCategoryCaption, (CDC*, CMFCRibbonContextCaption*));
     VIRTUAL(void, OnDrawRibbonCategoryScroll, (CDC*, CRibbonCategoryScroll*));
@@ -200,6 +204,9 @@ INTERFACE_OF(CMFCVisualManagerOffice2003) {
     VIRTUAL(COLORREF, GetHighlightMenuItemColor, () const);
     VIRTUAL(int, GetShowAllMenuItemsHeight, (CDC*, const CSize&));
     VIRTUAL(COLORREF, GetSmartDockingHighlightToneColor, ());
+    VIRTUAL(
+        void, GetTabFrameColors,
+        (const CMFCBaseTabCtrl*, COLORREF&, COLORREF&, COLORREF&, COLORREF&, COLORREF&, COLORREF&, CBrush*&, CBrush*&));
     VIRTUAL(int, GetToolBarCustomizeButtonMargin, () const);
     VIRTUAL(COLORREF, GetToolbarDisabledColor, () const);
     VIRTUAL(BOOL, GetToolTipInfo, (CMFCToolTipInfo&, UINT));
@@ -274,6 +281,9 @@ INTERFACE_OF(CMFCVisualManagerOffice2007) {
     VIRTUAL(int, GetShowAllMenuItemsHeight, (CDC*, const CSize&));
     VIRTUAL(COLORREF, GetStatusBarPaneTextColor, (CMFCStatusBar*, CMFCStatusBarPaneInfo*));
     NAMED(GetStyle);
+    VIRTUAL(
+        void, GetTabFrameColors,
+        (const CMFCBaseTabCtrl*, COLORREF&, COLORREF&, COLORREF&, COLORREF&, COLORREF&, COLORREF&, CBrush*&, CBrush*&));
     VIRTUAL(int, GetTabHorzMargin, (const CMFCBaseTabCtrl*));
     VIRTUAL(COLORREF, GetTabTextColor, (const CMFCBaseTabCtrl*, int, BOOL));
     VIRTUAL(COLORREF, GetToolbarButtonTextColor, (CMFCToolBarButton*, CMFCVisualManager::AFX_BUTTON_STATE));
@@ -308,6 +318,7 @@ INTERFACE_OF(CMFCVisualManagerOffice2007) {
     VIRTUAL(void, OnDrawRibbonButtonBorder, (CDC*, CMFCRibbonButton*));
     VIRTUAL(COLORREF, OnDrawRibbonButtonsGroup, (CDC*, CMFCRibbonButtonsGroup*, CRect));
     VIRTUAL(void, OnDrawRibbonCaption, (CDC*, CMFCRibbonBar*, CRect, CRect));
+    VIRTUAL(void, OnDrawRibbonCaptionButton, (CDC*, CMFCRibbonCaptionButton*));
     VIRTUAL(void, OnDrawRibbonCategory, (CDC*, CMFCRibbonCategory*, CRect));
     VIRTUAL(COLORREF, OnDrawRibbonCategoryCaption, (CDC*, CMFCRibbonContextCaption*));
     VIRTUAL(void, OnDrawRibbonCategoryScroll, (CDC*, CRibbonCategoryScroll*));

@@ -273,3 +273,18 @@ INTERFACE_OF(CKeyboardManager) {
     MEMBER(BOOL, UpdateAccelTable, (CMultiDocTemplate*, HACCEL, CFrameWnd*));
     CALL(UpdateAccelTable, CMultiDocTemplate*, HACCEL);
 }
+
+INTERFACE_OF(CView) {
+    BASE(CWnd);
+    VIRTUAL(BOOL, IsSelected, (const CObject*) const);
+    VIRTUAL(void, OnInitialUpdate, ());
+    VIRTUAL(void, OnPrepareDC, (CDC*, CPrintInfo*));
+    CALL(OnPrepareDC, CDC*);
+}
+
+PROTECTED_INTERFACE_OF(CView) {
+    VIRTUAL(void, OnActivateFrame, (UINT, CFrameWnd*));
+    VIRTUAL(void, OnActivateView, (BOOL, CView*, CView*));
+    VIRTUAL(void, OnDraw, (CDC*));
+    VIRTUAL(void, OnUpdate, (CView*, LPARAM, CObject*));
+}
