@@ -152,7 +152,6 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
         *pResult = CharToItem(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
     default:
-        return RouteOwnerDraw(*this, message, lParam, pResult) ||
-               CWnd::OnChildNotify(message, wParam, lParam, pResult);
+        return RouteOwnerDraw(*this, message, lParam, pResult) || CWnd::OnChildNotify(message, wParam, lParam, pResult);
     }
 }
