@@ -1,0 +1,215 @@
+// A ribbon of 1,600 pixels that shows 100 buttons with icon files: painting it in every way that a user causes, beside
+// the icon loads, icon draws and text draws of the same paint and nothing else.
+#include <afxcontrolbars.h>
+#include <afxvisualmanageroffice2007.h>
+
+#include "draw_calls.h"
+#include "ribbon_icon_button.h"
+#include "scenario.h"
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace {
+
+constexpr std::size_t kIconFiles = 20;
+constexpr int kWidth = 1600, kNarrowWidth = 1500;
+constexpr int kPanels = 5, kButtonsInAPanel = 20, kButtons = kPanels * kButtonsInAPanel;
+
+ScenarioDirectory& Scenario() {
+    static ScenarioDirectory directory;
+    return directory;
+}
+
+CString IconPath(int side, int index) {
+    static const bool isMade = (Scenario().AddRibbonFile(100, kIconFiles), true);
+    const std::wstring path = Scenario().Path().wstring() + L"\\pic\\modle\\" + std::to_wstring(side) + L"\\icon" +
+                              std::to_wstring(index % static_cast<int>(kIconFiles)) + L".ico";
+    return isMade ? path.c_str() : L"";
+}
+
+class CBenchFrame : public CFrameWndEx {
+public:
+    CBenchFrame() : m_ribbon(FALSE) {}
+    bool Make() {
+        if (!Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) || !m_ribbon.Create(this))
+            return false;
+        AddCategory(L"One");
+        AddCategory(L"Two");
+        m_ribbon.SetActiveCategory(m_ribbon.GetCategory(0));
+        SetClientWidth(kWidth);
+        ShowWindow(SW_SHOW);
+        UpdateWindow();
+        return true;
+    }
+    void SetClientWidth(int width) {
+        CRect window, client;
+        GetWindowRect(window);
+        GetClientRect(client);
+        SetWindowPos(nullptr, 0, 0, width + window.Width() - client.Width(), 900, SWP_NOZORDER | SWP_NOMOVE);
+    }
+    CMFCRibbonBar m_ribbon;
+
+protected:
+    /// The frame may be wider than the screen.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        const LRESULT result = CFrameWndEx::WindowProc(message, wParam, lParam);
+        if (message == WM_GETMINMAXINFO)
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMaxTrackSize = {4 * kWidth, 4 * kWidth};
+        return result;
+    }
+
+private:
+    void AddCategory(LPCTSTR name) {
+        CMFCRibbonCategory* const category = m_ribbon.AddCategory(name, 0, 0);
+        for (int panel = 0; panel < kPanels; ++panel) {
+            CMFCRibbonPanel* const added = category->AddPanel(L"Panel");
+            for (int i = 0; i < kButtonsInAPanel; ++i) {
+                const int index = panel * kButtonsInAPanel + i;
+                added->Add(new CMFCRibbonUNIcoButton(static_cast<UINT>(41000 + index),
+                                                     std::wstring(1, static_cast<wchar_t>(L'A' + index % 26)).c_str(), IconPath(32, index),
+                                                     FALSE, IconPath(16, index), TRUE, FALSE, FALSE));
+            }
+        }
+    }
+};
+
+CBenchFrame* g_frame = nullptr;
+
+CMFCRibbonBar& Ribbon() { return g_frame->m_ribbon; }
+
+void PaintWhole() { Ribbon().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
+
+void SwitchTab() {
+    const int next = 1 - Ribbon().GetCategoryIndex(Ribbon().GetActiveCategory());
+    Ribbon().SetActiveCategory(Ribbon().GetCategory(next));
+    Ribbon().UpdateWindow();
+}
+
+void Resize() {
+    CRect client;
+    g_frame->GetClientRect(client);
+    g_frame->SetClientWidth(client.Width() == kWidth ? kNarrowWidth : kWidth);
+    Ribbon().UpdateWindow();
+}
+
+void Hover() {
+    static int next = 0;
+    next = 1 - next;
+    CMFCRibbonPanel* const panel = Ribbon().GetActiveCategory()->GetPanel(2);
+    const CPoint point = panel->GetElement(next == 0 ? 0 : kButtonsInAPanel - 1)->GetRect().CenterPoint();
+    Ribbon().SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
+    Ribbon().UpdateWindow();
+}
+
+/// As at the start: whatever was kept from earlier paints is dropped.
+void ForgetPaints() { CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007)); }
+
+void FirstPaint() { PaintWhole(); }
+
+struct Action {
+    const char* name;
+    void (*run)();
+    void (*prepare)();
+};
+constexpr Action kActions[] = {
+    {"first paint", FirstPaint, ForgetPaints}, {"full repaint", PaintWhole, nullptr}, {"tab switch", SwitchTab, nullptr},
+    {"relayout on resize", Resize, nullptr},   {"hover", Hover, nullptr},
+};
+
+DrawCalls CallsOf(const Action& action) {
+    for (int i = 0; i < 2; ++i) // what happens every time, not what happens the first time
+        action.run();
+    const DrawCallCounter counter;
+    action.run();
+    action.run();
+    return {counter.Calls().imageLoads / 2, counter.Calls().icons / 2, counter.Calls().texts / 2};
+}
+
+void Run(benchmark::State& state, const Action& action) {
+    const DrawCalls calls = CallsOf(action);
+    for (auto _ : state) {
+        if (action.prepare) {
+            state.PauseTiming();
+            action.prepare();
+            state.ResumeTiming();
+        }
+        action.run();
+    }
+    state.counters["loads"] = static_cast<double>(calls.imageLoads);
+    state.counters["icons"] = static_cast<double>(calls.icons);
+    state.counters["texts"] = static_cast<double>(calls.texts);
+}
+
+void RunFloor(benchmark::State& state, const Action& action) {
+    const DrawCalls calls = CallsOf(action);
+    const CString path = IconPath(16, 0);
+    CClientDC window(&Ribbon());
+    CDC memory;
+    memory.CreateCompatibleDC(&window);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&window, kWidth, 150);
+    CBitmap* const previous = memory.SelectObject(&bitmap);
+    CFont* const font = memory.SelectObject(&afxGlobalData.fontRegular);
+    for (auto _ : state) {
+        for (long i = 0; i < calls.imageLoads; ++i) {
+            const int side = i % 2 == 0 ? 32 : 16;
+            const CString file = IconPath(side, static_cast<int>(i / 2));
+            const auto icon =
+                static_cast<HICON>(::LoadImageW(nullptr, file, IMAGE_ICON, side, side, LR_LOADFROMFILE));
+            if (i < calls.icons)
+                ::DrawIconEx(memory.GetSafeHdc(), 16 * static_cast<int>(i % 90), 20, icon, 16, 16, 0, nullptr,
+                             DI_NORMAL);
+            ::DestroyIcon(icon);
+        }
+        for (long i = 0; i < calls.texts; ++i) {
+            CRect rect(15 * static_cast<int>(i % 100), 60, 15 * static_cast<int>(i % 100) + 40, 80);
+            memory.DrawText(L"B", 1, rect, DT_SINGLELINE | DT_NOPREFIX);
+        }
+    }
+    memory.SelectObject(font);
+    memory.SelectObject(previous);
+}
+
+void Register() {
+    for (const Action& action : kActions) {
+        benchmark::RegisterBenchmark(action.name, [&action](benchmark::State& state) { Run(state, action); })
+            ->Unit(benchmark::kMicrosecond);
+        benchmark::RegisterBenchmark((std::string(action.name) + "/floor: its icon loads, icon draws and texts").c_str(),
+                                     [&action](benchmark::State& state) { RunFloor(state, action); })
+            ->Unit(benchmark::kMicrosecond);
+    }
+}
+
+class CBenchApp : public CWinAppEx {
+public:
+    BOOL InitInstance() override {
+        CWinAppEx::InitInstance();
+        ForgetPaints();
+        g_frame = new CBenchFrame; // destroys itself with its window
+        m_pMainWnd = g_frame;
+        if (!g_frame->Make())
+            return FALSE;
+        int count = __argc;
+        benchmark::Initialize(&count, __argv);
+        Register();
+        CRect bar;
+        Ribbon().GetClientRect(bar);
+        if (const DrawCalls calls = CallsOf(kActions[1]); bar.Width() != kWidth || calls.imageLoads != 2 * kButtons) {
+            std::fprintf(stderr, "%ld icon files were loaded for %d buttons in %d pixels\n", calls.imageLoads, kButtons,
+                         bar.Width());
+            return FALSE;
+        }
+        benchmark::RunSpecifiedBenchmarks();
+        g_frame->DestroyWindow();
+        return FALSE;
+    }
+};
+
+CBenchApp s_app;
+
+} // namespace
