@@ -64,7 +64,7 @@ public:
     /// Reserves beginnings until there is room for so many keys: first letters, those with the most texts first, then
     /// the last pairs.
     void MakeRoom(std::size_t count, const std::vector<std::wstring>& preferences) {
-        std::wstring singles = FreeAmong(L"");
+        std::wstring singles = FreeAmong(std::wstring());
         std::array<std::size_t, 26> texts{};
         for (const std::wstring& letters : preferences) {
             if (!letters.empty())
