@@ -70,9 +70,9 @@ private:
             CMFCRibbonPanel* const added = category->AddPanel(L"Panel");
             for (int i = 0; i < kButtonsInAPanel; ++i) {
                 const int index = panel * kButtonsInAPanel + i;
-                added->Add(new CMFCRibbonUNIcoButton(static_cast<UINT>(41000 + index),
-                                                     std::wstring(1, static_cast<wchar_t>(L'A' + index % 26)).c_str(), IconPath(32, index),
-                                                     FALSE, IconPath(16, index), TRUE, FALSE, FALSE));
+                added->Add(new CMFCRibbonUNIcoButton(
+                    static_cast<UINT>(41000 + index), std::wstring(1, static_cast<wchar_t>(L'A' + index % 26)).c_str(),
+                    IconPath(32, index), FALSE, IconPath(16, index), TRUE, FALSE, FALSE));
             }
         }
     }
@@ -117,8 +117,11 @@ struct Action {
     void (*prepare)();
 };
 constexpr Action kActions[] = {
-    {"first paint", FirstPaint, ForgetPaints}, {"full repaint", PaintWhole, nullptr}, {"tab switch", SwitchTab, nullptr},
-    {"relayout on resize", Resize, nullptr},   {"hover", Hover, nullptr},
+    {"first paint", FirstPaint, ForgetPaints},
+    {"full repaint", PaintWhole, nullptr},
+    {"tab switch", SwitchTab, nullptr},
+    {"relayout on resize", Resize, nullptr},
+    {"hover", Hover, nullptr},
 };
 
 DrawCalls CallsOf(const Action& action) {
@@ -159,8 +162,7 @@ void RunFloor(benchmark::State& state, const Action& action) {
         for (long i = 0; i < calls.imageLoads; ++i) {
             const int side = i % 2 == 0 ? 32 : 16;
             const CString file = IconPath(side, static_cast<int>(i / 2));
-            const auto icon =
-                static_cast<HICON>(::LoadImageW(nullptr, file, IMAGE_ICON, side, side, LR_LOADFROMFILE));
+            const auto icon = static_cast<HICON>(::LoadImageW(nullptr, file, IMAGE_ICON, side, side, LR_LOADFROMFILE));
             if (i < calls.icons)
                 ::DrawIconEx(memory.GetSafeHdc(), 16 * static_cast<int>(i % 90), 20, icon, 16, 16, 0, nullptr,
                              DI_NORMAL);
@@ -177,10 +179,12 @@ void RunFloor(benchmark::State& state, const Action& action) {
 
 void Register() {
     for (const Action& action : kActions) {
-        benchmark::RegisterBenchmark(action.name, [&action](benchmark::State& state) { Run(state, action); })
-            ->Unit(benchmark::kMicrosecond);
-        benchmark::RegisterBenchmark((std::string(action.name) + "/floor: its icon loads, icon draws and texts").c_str(),
-                                     [&action](benchmark::State& state) { RunFloor(state, action); })
+        benchmark::RegisterBenchmark(action.name, [&action](benchmark::State& state) {
+            Run(state, action);
+        })->Unit(benchmark::kMicrosecond);
+        benchmark::RegisterBenchmark(
+            (std::string(action.name) + "/floor: its icon loads, icon draws and texts").c_str(),
+            [&action](benchmark::State& state) { RunFloor(state, action); })
             ->Unit(benchmark::kMicrosecond);
     }
 }
