@@ -143,8 +143,12 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
 
 void CMFCRibbonBar::OnPaint() {
     EnsureLayout();
+    // Far apart, two buttons have everything between them in the paint rectangle, but not in the region.
+    CRgn region;
+    region.CreateRectRgn(0, 0, 0, 0);
+    GetUpdateRgn(&region);
     CPaintDC dc(this);
-    RibbonPaintBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
+    RibbonPaintBuffer buffer(dc, CRect(dc.m_ps.rcPaint), region);
     DoPaint(&buffer.GetDC());
 }
 

@@ -1,27 +1,86 @@
 #include "ribbon/paint_buffer.h"
 
-RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area) : m_target(target), m_area(area) {
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+/// The bitmap between two paints. Pictures larger than this are not kept: they come from one paint of many windows.
+constexpr LONG g_mostKeptPixels = LONG(4) << 20;
+
+struct KeptBitmap {
+    HBITMAP handle = nullptr;
+    CSize size = CSize(0, 0);
+    int depth = 0;
+
+    KeptBitmap() = default;
+    ~KeptBitmap() { Drop(); }
+    KeptBitmap(const KeptBitmap&) = delete;
+    KeptBitmap& operator=(const KeptBitmap&) = delete;
+
+    void Drop() {
+        if (handle != nullptr)
+            ::DeleteObject(handle);
+        handle = nullptr;
+    }
+    /// The bitmap if it is large enough for the context, else nothing.
+    HBITMAP Take(CSize wanted, int wantedDepth) {
+        const bool fits = size.cx >= wanted.cx && size.cy >= wanted.cy && depth == wantedDepth;
+        return fits ? std::exchange(handle, nullptr) : nullptr;
+    }
+};
+
+KeptBitmap& Kept() {
+    static thread_local KeptBitmap kept;
+    return kept;
+}
+
+int DepthOf(HDC dc) { return ::GetDeviceCaps(dc, BITSPIXEL) * ::GetDeviceCaps(dc, PLANES); }
+
+} // namespace
+
+RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
+    : m_target(target), m_area(area), m_size(area.Size()) {
     const HDC targetDC = target.GetSafeHdc();
     if (area.IsRectEmpty() || !m_memory.CreateCompatibleDC(&target)) {
         return;
     }
-    m_bitmap = ::CreateCompatibleBitmap(targetDC, area.Width(), area.Height());
+    KeptBitmap& kept = Kept();
+    m_bitmap = kept.Take(m_size, DepthOf(targetDC));
+    if (m_bitmap != nullptr) {
+        m_size = kept.size;
+    } else {
+        m_bitmap = ::CreateCompatibleBitmap(targetDC, m_size.cx, m_size.cy);
+    }
     if (m_bitmap == nullptr) {
         return;
     }
+    m_isOpen = true;
     const HDC memory = m_memory.GetSafeHdc();
     m_previous = ::SelectObject(memory, m_bitmap);
+    if (shown != nullptr) {
+        ::SelectClipRgn(memory, shown);
+        ::OffsetClipRgn(memory, -area.left, -area.top);
+    }
     ::SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
     ::IntersectClipRect(memory, area.left, area.top, area.right, area.bottom);
 }
 
 RibbonPaintBuffer::~RibbonPaintBuffer() {
-    if (m_bitmap == nullptr) {
+    if (!m_isOpen) {
         return;
     }
     const HDC memory = m_memory.GetSafeHdc();
     ::BitBlt(m_target.GetSafeHdc(), m_area.left, m_area.top, m_area.Width(), m_area.Height(), memory, m_area.left,
              m_area.top, SRCCOPY);
     ::SelectObject(memory, m_previous);
-    ::DeleteObject(m_bitmap);
+    KeptBitmap& kept = Kept();
+    if (m_size.cx * m_size.cy > g_mostKeptPixels || (kept.handle != nullptr && kept.size.cx > m_size.cx)) {
+        ::DeleteObject(m_bitmap);
+        return;
+    }
+    kept.Drop();
+    kept.handle = m_bitmap;
+    kept.size = m_size;
+    kept.depth = DepthOf(m_target.GetSafeHdc());
 }

@@ -383,7 +383,9 @@ void CMFCRibbonPanel::DoPaint(CDC* pDC) {
     CMFCVisualManager* manager = CMFCVisualManager::GetInstance();
     const COLORREF color = manager->OnDrawRibbonPanel(pDC, this, m_rect, m_rectCaption);
     const COLORREF previous = pDC->SetTextColor(color == static_cast<COLORREF>(-1) ? afxGlobalData.clrBarText : color);
-    manager->OnDrawRibbonPanelCaption(pDC, this, m_rectCaption);
+    if (pDC->RectVisible(m_rectCaption)) {
+        manager->OnDrawRibbonPanelCaption(pDC, this, m_rectCaption);
+    }
     for (int index = 0; index < GetCount(); ++index) {
         CMFCRibbonBaseElement& element = *m_arElements[index];
         if (!element.GetRect().IsRectEmpty() && pDC->RectVisible(element.GetRect())) {

@@ -18,9 +18,11 @@ HBITMAP MakeBitmap32(int width, int height, std::uint32_t** bits) {
     return bitmap;
 }
 
-Canvas::Canvas(HDC dc, const RECT& bounds) : m_dc(dc), m_bounds(bounds) {
+Canvas::Canvas(HDC dc, const RECT& bounds, const Recipe& recipe) : m_dc(dc), m_bounds(bounds), m_recipe(recipe) {
     const int width = bounds.right - bounds.left, height = bounds.bottom - bounds.top;
     if (width <= 0 || height <= 0 || !RectVisible(dc, &bounds))
+        return;
+    if (!m_recipe.IsEmpty() && PictureCache::Instance().Draw(dc, bounds, m_recipe))
         return;
     m_memory = CreateCompatibleDC(dc);
     std::uint32_t* bits = nullptr;
@@ -40,7 +42,9 @@ Canvas::~Canvas() {
     }
     if (m_previous != nullptr)
         SelectObject(m_memory, m_previous);
-    if (m_bitmap != nullptr)
+    if (m_view.bits != nullptr && !m_recipe.IsEmpty())
+        PictureCache::Instance().Put(m_recipe, m_bitmap, m_view);
+    else if (m_bitmap != nullptr)
         DeleteObject(m_bitmap);
     if (m_memory != nullptr)
         DeleteDC(m_memory);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "visual/picture_cache.h"
 #include "visual/skin.h"
 
 #include <windows.h>
@@ -15,7 +16,10 @@ constexpr Argb FromColorRef(COLORREF color) {
 /// the canvas goes. An empty rectangle, or one outside of the clip box, gives an empty view.
 class Canvas {
 public:
-    Canvas(HDC dc, const RECT& bounds);
+    Canvas(HDC dc, const RECT& bounds) : Canvas(dc, bounds, Recipe()) {}
+    /// For a picture that is often the same: it is kept under the recipe's name. Where it is there already, it is drawn
+    /// at once and the view is empty. Nothing but the recipe and the size may decide about the picture.
+    Canvas(HDC dc, const RECT& bounds, const Recipe& recipe);
     ~Canvas();
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
@@ -32,6 +36,7 @@ public:
 private:
     HDC m_dc;
     RECT m_bounds;
+    Recipe m_recipe;
     HDC m_memory = nullptr;
     HBITMAP m_bitmap = nullptr;
     HGDIOBJ m_previous = nullptr;

@@ -58,7 +58,7 @@ Corners CornersFor(GroupPlace place, int radius) {
 }
 
 void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look) {
-    const Canvas canvas(dc, rect);
+    const Canvas canvas(dc, rect, Recipe("face", face, corners, look.skin.split, look.Line()));
     if (canvas.IsEmpty())
         return;
     const IntRect whole = canvas.Local(rect);
@@ -70,7 +70,7 @@ void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corner
 }
 
 void PaintFill(HDC dc, const RECT& rect, const Face& face, const Look& look) {
-    const Canvas canvas(dc, rect);
+    const Canvas canvas(dc, rect, Recipe("fill", face, look.skin.split));
     if (!canvas.IsEmpty())
         FillRounded(canvas.View(), canvas.Local(rect), {}, StopsOf(face, look.skin));
 }
@@ -120,7 +120,7 @@ void PaintArrow(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, 
     const int depth = look.Px(3), half = depth;
     const LONG middleX = (rect.left + rect.right) / 2, middleY = (rect.top + rect.bottom) / 2;
     const RECT bounds{middleX - half - 2, middleY - half - 2, middleX + half + 3, middleY + half + 3};
-    const Canvas canvas(dc, bounds);
+    const Canvas canvas(dc, bounds, Recipe("arrow", direction, color, light, depth));
     if (canvas.IsEmpty())
         return;
     // Rows of whole pixels give a sharp triangle at any scale.
@@ -145,7 +145,7 @@ void PaintArrow(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, 
 
 void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look&) {
     const RECT square = Square(rect);
-    const Canvas canvas(dc, square);
+    const Canvas canvas(dc, square, Recipe("check mark", color));
     if (canvas.IsEmpty())
         return;
     // Corner points of a tick on a square of side 1, clockwise from the outer left.
@@ -161,7 +161,7 @@ void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look&) {
 
 void PaintRadioMark(HDC dc, const RECT& rect, Argb color, const Look&) {
     const RECT square = Square(rect);
-    const Canvas canvas(dc, square);
+    const Canvas canvas(dc, square, Recipe("radio mark", color));
     if (canvas.IsEmpty())
         return;
     const int inset = std::max<int>((square.right - square.left) * 3 / 10, 1);

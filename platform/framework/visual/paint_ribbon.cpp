@@ -22,7 +22,7 @@ Face Tinted(Face face, Argb tint) {
 }
 
 void PaintDisc(HDC dc, const RECT& rect, const Face& face, const Look& look) {
-    const Canvas canvas(dc, rect);
+    const Canvas canvas(dc, rect, Recipe("disc", face, look.Line()));
     if (canvas.IsEmpty())
         return;
     const IntRect whole = canvas.Local(rect);
@@ -40,8 +40,8 @@ bool IsNearlySquare(const RECT& rect) {
 } // namespace
 
 void PaintRibbonBackground(HDC dc, const RECT& rect, const Look& look) {
-    const Canvas canvas(dc, rect);
     const Argb top = look.skin[ColorSlot::RibbonTop], bottom = look.skin[ColorSlot::RibbonBottom];
+    const Canvas canvas(dc, rect, Recipe("ribbon background", top, bottom));
     if (!canvas.IsEmpty())
         FillRounded(canvas.View(), canvas.Local(rect), {}, {top, bottom, top, bottom, 100});
 }
@@ -63,7 +63,9 @@ void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look)
     if (!state.isActive && !state.isHot)
         face.outer = face.inner = 0;
 
-    const Canvas canvas(dc, rect);
+    const Canvas canvas(
+        dc, rect,
+        Recipe("tab", face, state.isActive, state.isHot, look.skin.split, line, radius, look.skin[ColorSlot::TabGlow]));
     if (canvas.IsEmpty())
         return;
     // The sides run on below the rectangle, so that the tab has no lower line. A hot tab stands clear of the category.
@@ -83,12 +85,15 @@ void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look)
 }
 
 void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const Look& look) {
-    const Canvas canvas(dc, rect);
+    const Face& face = look.skin[FaceSlot::RibbonCategory];
+    const int line = look.Line();
+    const bool hasGap = gapLeft < gapRight;
+    const Canvas canvas(dc, rect,
+                        Recipe("category", face, line, look.Radius(), hasGap ? gapLeft - rect.left : 0,
+                               hasGap ? gapRight - rect.left : 0));
     if (canvas.IsEmpty())
         return;
-    const Face& face = look.skin[FaceSlot::RibbonCategory];
     const IntRect whole = canvas.Local(rect);
-    const int line = look.Line();
     const Corners corners = Corners::All(look.Radius());
     FillRounded(canvas.View(), whole, corners, StopsOf(face, g_categorySplit));
     StrokeRounded(canvas.View(), whole.Deflated(line), corners.Deflated(line), face.inner, line);
@@ -101,20 +106,23 @@ void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const 
 }
 
 void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const Look& look) {
-    const Canvas canvas(dc, rect);
+    const Face& face = look.skin[isHot ? FaceSlot::RibbonPanelHot : FaceSlot::RibbonPanel];
+    const Face& strip = look.skin[isHot ? FaceSlot::PanelCaptionHot : FaceSlot::PanelCaption];
+    const bool hasStrip = !IsRectEmpty(&caption);
+    const int line = look.Line(), radius = look.Radius();
+    const Canvas canvas(
+        dc, rect,
+        Recipe("panel", face, strip, line, radius, look.skin.split, hasStrip, hasStrip ? caption.top - rect.top : 0));
     if (canvas.IsEmpty())
         return;
-    const Face& face = look.skin[isHot ? FaceSlot::RibbonPanelHot : FaceSlot::RibbonPanel];
     const IntRect whole = canvas.Local(rect);
-    const int line = look.Line(), radius = look.Radius();
     const Corners corners = Corners::All(radius);
     // A light line outside right and below gives the frame its depth; the frame itself is one line smaller.
     const IntRect frame{whole.left, whole.top, whole.right - line, whole.bottom - line};
     StrokeRounded(canvas.View(), {whole.left + line, whole.top + line, whole.right, whole.bottom}, corners, face.inner,
                   line);
     FillRounded(canvas.View(), frame, corners, StopsOf(face, look.skin.split));
-    if (!IsRectEmpty(&caption)) {
-        const Face& strip = look.skin[isHot ? FaceSlot::PanelCaptionHot : FaceSlot::PanelCaption];
+    if (hasStrip) {
         IntRect area = canvas.Local(caption);
         area = {frame.left, std::max(area.top, frame.top), frame.right, frame.bottom};
         FillRounded(canvas.View(), area, Corners::Bottom(radius), StopsOf(strip, 50));
