@@ -116,11 +116,13 @@ void RibbonKeyboard::CollectBar(Tips& tips) const {
 // The elements and the buttons for which their panels may collapse: the letters do not depend on the width.
 void RibbonKeyboard::CollectCategory(CMFCRibbonCategory& category, Tips& tips) {
     for (int index = 0; index < category.GetPanelCount(); ++index) {
-        CMFCRibbonPanel& panel = *category.GetPanel(index);
-        Append(panel.GetDefaultButton(), tips);
+        const CMFCRibbonPanel& panel = *category.GetPanel(index);
         for (int place = 0; place < panel.GetCount(); ++place) {
             Append(*panel.GetElement(place), tips);
         }
+    }
+    for (int index = 0; index < category.GetPanelCount(); ++index) {
+        Append(category.GetPanel(index)->GetDefaultButton(), tips);
     }
     Assign(tips, 0);
 }
