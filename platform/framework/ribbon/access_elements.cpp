@@ -18,7 +18,7 @@ using TextId = RibbonAccessTextId;
 
 // "Alt, H, FP": what is pressed one after the other, from the document.
 CString KeysOf(const CMFCRibbonBaseElement& element) {
-    const CString keys = element.GetKeyTipText(FALSE);
+    CString keys = element.GetKeyTipText(FALSE);
     if (keys.IsEmpty()) {
         return keys;
     }

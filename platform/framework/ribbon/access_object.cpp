@@ -278,6 +278,7 @@ HRESULT RibbonAccessible::NavigateTo(const std::vector<RibbonAccessNode>& siblin
     std::optional<std::size_t> next;
     if (const auto step = StepOf(direction)) {
         std::vector<RibbonRect> rects;
+        rects.reserve(siblings.size());
         for (const RibbonAccessNode& sibling : siblings) {
             rects.push_back(ToRibbonRect(m_tree->RectOf(sibling)));
         }

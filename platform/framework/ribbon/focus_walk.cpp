@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <tuple>
 
 namespace ribbon {
 namespace {
@@ -36,7 +37,9 @@ struct Distance {
     bool isAside;
     int way;
     int offset;
-    auto operator<=>(const Distance&) const = default;
+    bool operator<(const Distance& other) const {
+        return std::tie(isAside, way, offset) < std::tie(other.isAside, other.way, other.offset);
+    }
 };
 
 Distance Measure(const Span& from, const Span& goal) {

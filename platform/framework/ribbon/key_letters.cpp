@@ -38,7 +38,9 @@ std::wstring PreferredLetters(std::wstring_view text) {
         startsWord = false;
     }
     std::wstring result;
-    for (const wchar_t letter : marked + initials + others) {
+    marked += initials;
+    marked += others;
+    for (const wchar_t letter : marked) {
         if (result.find(letter) == std::wstring::npos)
             result += letter;
     }
@@ -99,7 +101,7 @@ public:
             for (std::size_t letter = 0; letter < m_length; ++letter)
                 end *= kLetters.size();
             for (; m_place < end; ++m_place) {
-                const std::wstring key = KeyAt(m_place, m_length);
+                std::wstring key = KeyAt(m_place, m_length);
                 if (CanTake(key))
                     return key;
             }

@@ -12,7 +12,7 @@ std::wstring Accessible::Text(HRESULT (STDMETHODCALLTYPE IAccessible::*get)(VARI
     const HRESULT result = (m_object->*get)(Self(), &text);
     EXPECT_TRUE(SUCCEEDED(result)) << std::hex << result;
     EXPECT_EQ(result == S_OK, text != nullptr);
-    const std::wstring copy = text != nullptr ? text : L"";
+    std::wstring copy = text != nullptr ? text : L"";
     ::SysFreeString(text);
     return copy;
 }

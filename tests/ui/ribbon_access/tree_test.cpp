@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 using ::testing::ElementsAre;
-using ::testing::UnorderedElementsAre;
 
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <set>
+#include <utility>
 
 #include "afxRibbonEdit.h"
 #include "afxribbonslider.h"
@@ -163,15 +164,11 @@ TEST_F(FocusWalkTest, TheHandlerOfATextThatIsLeftMayDestroyTheFrame) {
 }
 
 TEST_F(FocusWalkTest, EveryCommandOfABigRandomRibbonIsReachedByArrowsAlone) {
-    struct Position {
-        CMFCRibbonCategory* category;
-        CMFCRibbonBaseElement* focused;
-        auto operator<=>(const Position&) const = default;
-    };
+    using Position = std::pair<CMFCRibbonCategory*, CMFCRibbonBaseElement*>;
     for (const unsigned seed : {3u, 4u}) {
         const std::set<UINT> ids = FillAtRandom(seed, 5);
         Start();
-        const auto here = [this] { return Position{Bar().GetActiveCategory(), Bar().GetFocused()}; };
+        const auto here = [this] { return Position(Bar().GetActiveCategory(), Bar().GetFocused()); };
         std::set<Position> found{here()};
         std::deque<Position> open{here()};
         std::set<UINT> reached;
@@ -181,9 +178,9 @@ TEST_F(FocusWalkTest, EveryCommandOfABigRandomRibbonIsReachedByArrowsAlone) {
             for (const UINT arrow : {VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN}) {
                 // Back to where an arrow led before; the step from there is a real key.
                 Bar().GetFocused()->SetFocused(FALSE);
-                Bar().SetActiveCategory(from.category);
+                Bar().SetActiveCategory(from.first);
                 Bar().EnsureLayout();
-                from.focused->SetFocused(TRUE);
+                from.second->SetFocused(TRUE);
                 Press(arrow);
                 ASSERT_NE(Bar().GetFocused(), nullptr);
                 if (found.insert(here()).second) {
