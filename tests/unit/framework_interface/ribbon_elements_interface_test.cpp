@@ -92,6 +92,7 @@ INTERFACE_OF(CMFCRibbonBaseElement) {
     VIRTUAL(void, OnShowPopupMenu, ());
     MEMBER(void, PostMenuCommand, (UINT));
     VIRTUAL(void, Redraw, ());
+    VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
     VIRTUAL(void, SetCompactMode, (BOOL));
     CALL(SetCompactMode);
     MEMBER(void, SetData, (DWORD_PTR));
@@ -172,6 +173,7 @@ INTERFACE_OF(CMFCRibbonButton) {
     VIRTUAL(COLORREF, OnFillBackground, (CDC*));
     MEMBER(void, RemoveAllSubItems, ());
     MEMBER(BOOL, RemoveSubItem, (int));
+    VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
     MEMBER(void, SetAlwaysLargeImage, (BOOL));
     CALL(SetAlwaysLargeImage);
     MEMBER(void, SetDefaultCommand, (BOOL));

@@ -217,6 +217,7 @@ INTERFACE_OF(CMFCRibbonCheckBox) {
     VIRTUAL(CSize, GetRegularSize, (CDC*));
     VIRTUAL(BOOL, IsDrawTooltipImage, () const);
     VIRTUAL(void, OnDraw, (CDC*));
+    VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
 }
 
 INTERFACE_OF(CMFCRibbonContextCaption) {
@@ -257,6 +258,7 @@ INTERFACE_OF(CMFCRibbonEdit) {
     VIRTUAL(void, OnRTLChanged, (BOOL));
     VIRTUAL(void, OnShow, (BOOL));
     VIRTUAL(void, Redraw, ());
+    VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
     MEMBER(void, SetEditText, (CString));
     MEMBER(void, SetTextAlign, (int));
     MEMBER(void, SetWidth, (int, BOOL));
@@ -268,6 +270,7 @@ INTERFACE_OF(CMFCRibbonLabel) {
     MADE_FROM(LPCTSTR, BOOL);
     NAMED(CreateObject);
     NAMED(GetThisClass);
+    VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
 }
 
 INTERFACE_OF(CMFCRibbonPanel) {
