@@ -7,6 +7,7 @@
 class CMFCRibbonBar;
 class CMFCRibbonCategory;
 class CMFCRibbonCmdUI;
+class CMFCRibbonPanelMenu;
 class CMFCRibbonPanelMenuBar;
 class CFrameWnd;
 struct RibbonMetrics;
@@ -29,7 +30,8 @@ public:
     void DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) override;
     COLORREF OnFillBackground(CDC* pDC) override;
     void OnDrawBorder(CDC*) override {}
-    void OnLButtonUp(CPoint point) override;
+    /// Shows the panel's elements in a pop-up.
+    void OnShowPopupMenu() override;
 
     /// Icon of the collapsed panel, not owned; without one the visual manager's ribbon image is drawn.
     void SetPanelIcon(HICON hIcon) { m_panelIcon = hIcon; }
@@ -112,6 +114,10 @@ public:
     /// Position of the element under the point, -1 when there is none.
     virtual int HitTestEx(CPoint point) const;
 
+    /// Shows the elements in a pop-up beside the button (NULL: beside the panel's own one) until it is dismissed; they
+    /// are the panel's own elements, lent to the pop-up. NULL: the pop-up could not be made.
+    CMFCRibbonPanelMenu* ShowPopup(CMFCRibbonDefaultPanelButton* pButton = NULL);
+
     void SetKeys(LPCTSTR lpszKeys);
     void SetData(DWORD_PTR dwData) { m_dwData = dwData; }
     DWORD_PTR GetData() const { return m_dwData; }
@@ -125,6 +131,7 @@ public:
 protected:
     friend class CMFCRibbonCategory;
     friend class CMFCRibbonBar;
+    friend class CMFCRibbonPanelMenuBar;
 
     CString m_strName;
     CString m_strKeys;
@@ -150,5 +157,7 @@ private:
     /// Places panel, caption and elements as the layout found; the panel's top left corner is at origin.
     void Place(CDC* pDC, const RibbonPanelArrangement& arrangement, CPoint origin, const RibbonMetrics& metrics);
     void Hide(CDC* pDC);
+    /// A pop-up shows the elements now.
+    virtual bool IsLent() const { return m_pParentMenuBar != nullptr; }
     void MarkLayoutDirty();
 };

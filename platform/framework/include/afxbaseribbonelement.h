@@ -15,12 +15,14 @@ class CMFCRibbonButtonsGroup;
 class CMFCRibbonCategory;
 class CMFCRibbonKeyTip;
 class CMFCRibbonPanel;
+class CMFCRibbonPanelMenuBar;
 
 // What a panel, a group, a quick access toolbar or a status bar shows: the base of every ribbon element. An element has
 // no window of its own; it draws itself into and takes mouse input from its parent window, in whose client
 // co-ordinates (scaled pixels) its rectangle and all points are. Its container owns it.
 class FRAMEWORK_API CMFCRibbonBaseElement : public CObject {
     DECLARE_DYNAMIC(CMFCRibbonBaseElement)
+    friend class CMFCRibbonPanelMenuBar;
 
 public:
     enum RibbonElementLocation {
@@ -72,6 +74,9 @@ public:
     CMFCRibbonBar* GetTopLevelRibbonBar() const;
     virtual void SetParentWnd(CWnd* pParentWnd);
     virtual CWnd* GetParentWnd() const;
+    // The pop-up that shows the element now, null while its own container does.
+    virtual void SetParentMenu(CMFCRibbonPanelMenuBar* pMenuBar) { m_pParentMenu = pMenuBar; }
+    CMFCRibbonPanelMenuBar* GetParentMenu() const { return m_pParentMenu; }
     void SetParentGroup(CMFCRibbonButtonsGroup* pGroup) { m_pParentGroup = pGroup; }
     CMFCRibbonButtonsGroup* GetParentGroup() const { return m_pParentGroup; }
 
@@ -111,6 +116,8 @@ public:
     // Drawing. OnDraw paints the element's rectangle.
     virtual void OnDraw(CDC* pDC) = 0;
     virtual void DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage);
+    // Draws the element's image in a row of a menu. FALSE: it has none.
+    virtual BOOL OnDrawMenuImage(CDC* pDC, CRect rect);
     virtual void Redraw();
 
     // State.
@@ -195,6 +202,8 @@ public:
     virtual BOOL OnKey(BOOL bIsMenuKey);
     virtual BOOL OnMenuKey(UINT nUpperChar);
     virtual void OnHighlight(BOOL bHighlight);
+    // Another element of the pop-up that shows this one is hot; null: none is.
+    virtual void OnChangeMenuHighlight(CMFCRibbonPanelMenuBar* pPanelMenuBar, CMFCRibbonBaseElement* pHot);
     virtual void OnEnable(BOOL bEnable);
     virtual void OnCheck(BOOL bCheck);
     virtual void OnShow(BOOL bShow);
@@ -209,6 +218,7 @@ public:
     void SetChecked(BOOL bChecked, BOOL bIsRadio = FALSE);
     // The pop-up that the element has dropped down, null when it closes; not owned.
     void SetDroppedDown(CWnd* pPopup);
+    CWnd* GetPopup() const { return m_pPopup; }
     void SetLocationInGroup(RibbonElementLocation location) { m_Location = location; }
     void SetShowGroupBorder(BOOL bShow) { m_bShowGroupBorder = bShow; }
     void SetMenuMode(BOOL bMenuMode) { m_bIsMenuMode = bMenuMode; }
@@ -222,6 +232,8 @@ protected:
     void MarkLayoutDirty();
     // The window that receives the element's commands and its other messages to the host; null when there is none.
     CWnd* GetCommandTarget() const;
+    // Closes the pop-ups that show the element, before its command is sent.
+    void CloseParentMenus();
 
     UINT m_nID = 0;
     CString m_strText;
@@ -256,6 +268,7 @@ protected:
     CMFCRibbonButtonsGroup* m_pParentGroup = nullptr;
     CMFCRibbonBar* m_pRibbonBar = nullptr;
     CWnd* m_pParentWnd = nullptr;
+    CMFCRibbonPanelMenuBar* m_pParentMenu = nullptr;
     CWnd* m_pPopup = nullptr;
     CMFCRibbonBaseElement* m_pOriginal = nullptr;
 };

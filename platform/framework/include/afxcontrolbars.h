@@ -36,6 +36,8 @@
 #include "afxribbonslider.h"
 #include "afxribboncheckbox.h"
 #include "afxRibbonPanel.h"
+#include "afxRibbonMainPanel.h"
+#include "afxribbonpanelmenu.h"
 #include "afxribboncategory.h"
 #include "afxribbonquickaccesstoolbar.h"
 #include "afxribbonbar.h"

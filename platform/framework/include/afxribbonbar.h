@@ -7,6 +7,7 @@
 #include "afxribbonquickaccesstoolbar.h"
 #include "fx/accessibility_data.h"
 
+class CMFCRibbonMainPanel;
 class CMFCToolTipCtrl;
 class CToolTipCtrl;
 class RibbonAccess;
@@ -31,6 +32,9 @@ public:
     void SetImage(HBITMAP hBmp);
 
     BOOL IsApplicationButton() const override { return TRUE; }
+    /// The bar's main category, where it has one.
+    BOOL HasMenu() const override;
+    void OnShowPopupMenu() override;
     void DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) override;
     void OnDraw(CDC* pDC) override;
 
@@ -111,6 +115,11 @@ public:
                                            AFX_RibbonCategoryColor clrContext, UINT uiSmallImagesResID,
                                            UINT uiLargeImagesResID, CSize sizeSmallImage = CSize(16, 16),
                                            CSize sizeLargeImage = CSize(32, 32), CRuntimeClass* pRTI = NULL);
+    /// The application menu, which the application button opens; it is none of the categories that have tabs. A former
+    /// one is deleted.
+    CMFCRibbonMainPanel* AddMainCategory(LPCTSTR lpszName, UINT uiSmallImagesResID, UINT uiLargeImagesResID,
+                                         CSize sizeSmallImage = CSize(16, 16), CSize sizeLargeImage = CSize(32, 32));
+    CMFCRibbonCategory* GetMainCategory() const;
     void ShowContextCategories(UINT uiContextID, BOOL bShow = TRUE);
     BOOL ActivateContextCategory(UINT uiContextID);
     /// TRUE when at least one was shown before.
@@ -284,6 +293,7 @@ protected:
 private:
     friend class CMFCRibbonCategory;
     friend class CMFCRibbonContextCaption;
+    friend class CMFCRibbonQuickAccessMoreButton;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
     friend class RibbonAccess;
@@ -304,6 +314,8 @@ private:
     void SetActiveWithoutCheck(CMFCRibbonCategory* category);
     CMFCRibbonCategory* FirstVisibleCategory() const;
     void ApplyDefaultQuickAccess();
+    void ToggleQuickAccessCommand(UINT uiCmdID);
+    void AddPlaceOfQuickAccess(class RibbonMenu& menu);
     void SetHot(CMFCRibbonBaseElement* element, CPoint point);
     void Press(CMFCRibbonBaseElement* element, CPoint point);
     void CancelPress();

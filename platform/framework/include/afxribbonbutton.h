@@ -6,6 +6,7 @@
 
 namespace ribbon {
 struct ButtonContent;
+struct MenuRowContent;
 struct TextBreak;
 } // namespace ribbon
 
@@ -93,8 +94,9 @@ public:
     void SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) override;
     void SetOriginal(CMFCRibbonBaseElement* pOriginal) override;
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
-    // Opens the menu, or the sub-items as a menu, below the button; returns when it has closed.
+    // Opens the menu or the sub-items in a pop-up beside the button and returns at once; closes it when it is open.
     void OnShowPopupMenu() override;
+    BOOL OnDrawMenuImage(CDC* pDC, CRect rect) override;
     void ClosePopupMenu() override;
 
     void AddToKeyList(CArray<CMFCRibbonKeyTip*, CMFCRibbonKeyTip*>& arElems) override;
@@ -124,13 +126,17 @@ protected:
     CSize MeasureAs(CDC* pDC, BOOL bLarge, BOOL bImageOnly);
     BOOL IsSplit() const { return HasMenu() && m_bIsDefaultCommand; }
     BOOL ShowsLargeFace() const;
+    // In a pop-up that lists its elements one below the other.
+    BOOL ShowsMenuRow() const { return IsMenuMode() && m_pParentGroup == nullptr; }
+    ribbon::MenuRowContent CollectMenuRow(CDC* pDC) const;
+    void DrawMenuRow(CDC* pDC);
+    void PlaceMenuRowParts(CDC* pDC);
     RibbonImageType GetFaceImageType() const;
     void DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText);
     BOOL DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectImage);
     BOOL DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage);
     void ReleaseIcons();
     void CopySubItems(const CMFCRibbonButton& src);
-    void ForgetPopup();
 
     HICON m_hIcon = nullptr;
     HICON m_hIconSmall = nullptr;

@@ -40,6 +40,7 @@ public:
     void SetParentPanel(CMFCRibbonPanel* pPanel) override;
     void SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) override;
     void SetParentWnd(CWnd* pParentWnd) override;
+    void SetParentMenu(CMFCRibbonPanelMenuBar* pMenuBar) override;
     void SetOriginal(CMFCRibbonBaseElement* pOriginal) override;
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
 

@@ -20,6 +20,8 @@ public:
     void OnDraw(CDC* pDC) override;
     void OnLButtonDown(CPoint point) override;
     BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
+    /// Shows the category of a minimised bar in a pop-up.
+    void OnShowPopupMenu() override;
 
     BOOL IsSelected() const;
     /// The row has no room for the whole text; drawing ends it with dots and the tooltip shows it.
@@ -135,6 +137,7 @@ public:
 
 protected:
     friend class CMFCRibbonBar;
+    friend class CMFCRibbonPanelMenuBar;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
     friend class RibbonAccess;

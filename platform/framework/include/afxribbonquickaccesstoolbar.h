@@ -39,8 +39,24 @@ public:
     CSize GetCompactSize(CDC* pDC) override;
     CSize GetRegularSize(CDC* pDC) override { return GetCompactSize(pDC); }
     void OnDraw(CDC* pDC) override;
-    void OnLButtonUp(CPoint point) override;
-    BOOL OnKey(BOOL bIsMenuKey) override;
+    BOOL HasMenu() const override { return TRUE; }
+    void OnShowPopupMenu() override;
+};
+
+/// Shows the commands that the quick access toolbar has no room for in a pop-up. Part of the toolbar.
+class FRAMEWORK_API CMFCRibbonQuickAccessMoreButton : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CMFCRibbonQuickAccessMoreButton)
+
+public:
+    CMFCRibbonQuickAccessMoreButton() = default;
+
+    CString GetToolTipText() const override;
+    BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
+    CSize GetCompactSize(CDC* pDC) override;
+    CSize GetRegularSize(CDC* pDC) override { return GetCompactSize(pDC); }
+    void OnDraw(CDC* pDC) override;
+    BOOL HasMenu() const override { return TRUE; }
+    void OnShowPopupMenu() override;
 };
 
 /// The quick access toolbar of a ribbon bar: copies of elements in one row, and a button that opens its menu.
@@ -73,6 +89,11 @@ public:
     /// Rectangle of the copies alone, without the menu button.
     CRect GetCommandsRect() const { return m_rectCommands; }
     CMFCRibbonBaseElement& GetCustomizeButton() { return m_btnCustomize; }
+    /// Has an empty rectangle while there is room for all commands.
+    CMFCRibbonBaseElement& GetMoreButton() { return m_btnMore; }
+    /// The commands without room, in order.
+    void GetHiddenElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) const;
+    CMFCRibbonBaseElement* GetDroppedDown() override;
 
 private:
     CMFCRibbonBaseElement* MakeCopy(CMFCRibbonBaseElement& source) const;
@@ -83,5 +104,6 @@ private:
 
     CRect m_rectCommands;
     CMFCRibbonQuickAccessCustomizeButton m_btnCustomize;
+    CMFCRibbonQuickAccessMoreButton m_btnMore;
     std::unordered_map<const CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_copies; // by original
 };

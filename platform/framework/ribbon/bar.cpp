@@ -1,6 +1,7 @@
 #include "afxribbonbar.h"
 
 #include "afxglobals.h"
+#include "afxribbonpanelmenu.h"
 #include "afxtooltipmanager.h"
 #include "afxvisualmanager.h"
 #include "fx/registered_messages.h"
@@ -68,6 +69,7 @@ CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
     m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
     m_parts->quickAccess.SetParentRibbonBar(this);
     m_parts->quickAccess.GetCustomizeButton().SetParentRibbonBar(this);
+    m_parts->quickAccess.GetMoreButton().SetParentRibbonBar(this);
     m_parts->tabScrollLeft.SetLeftScroll(TRUE);
     m_parts->tabScrollLeft.SetParentRibbonBar(this);
     m_parts->tabScrollRight.SetParentRibbonBar(this);
@@ -110,6 +112,7 @@ int CMFCRibbonBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void CMFCRibbonBar::OnDestroy() {
     CancelPress();
+    CMFCRibbonPanelMenu::DismissAll();
     m_parts->keyboard->Deactivate(RibbonKeyboard::Focus::Leave);
     m_parts->access->Disconnect();
     CTooltipManager::DeleteToolTip(m_pToolTip);
@@ -127,7 +130,8 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
     if (m_parts == nullptr) {
         return;
     }
-    for (CMFCRibbonBaseElement** holder : {&m_parts->hot, &m_parts->pressed, &m_parts->releasing}) {
+    for (CMFCRibbonBaseElement** holder :
+         {&m_parts->hot, &m_parts->pressed, &m_parts->releasing, &m_parts->menuSubject}) {
         if (*holder == pElement) {
             *holder = nullptr;
         }
@@ -185,7 +189,7 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
     for (const auto& context : m_parts->contexts) {
         draw(*context.caption);
     }
-    if (m_parts->active != nullptr && pDC->RectVisible(m_parts->active->GetRect())) {
+    if (m_parts->ShownCategory() != nullptr && pDC->RectVisible(m_parts->active->GetRect())) {
         m_parts->active->OnDraw(pDC);
     }
     for (const auto& category : m_parts->categories) {

@@ -207,12 +207,12 @@ void CMFCRibbonBar::Arrange(CDC* pDC) {
     PlaceElement(m_parts->tabScrollLeft, pDC, places.tabScrollLeft);
     PlaceElement(m_parts->tabScrollRight, pDC, places.tabScrollRight);
     m_parts->shape.firstTab = places.firstTab;
-    if (m_parts->active != nullptr) {
-        m_parts->active->m_rect = ToCRect(places.category);
-        if (m_parts->active->m_parts->measured) {
-            m_parts->active->ReposPanels(pDC);
+    if (CMFCRibbonCategory* shown = m_parts->ShownCategory()) {
+        shown->m_rect = ToCRect(places.category);
+        if (shown->m_parts->measured) {
+            shown->ReposPanels(pDC);
         } else {
-            m_parts->active->RecalcLayout(pDC);
+            shown->RecalcLayout(pDC);
         }
     }
 }

@@ -1,9 +1,12 @@
 // Which categories a ribbon bar has, which of them it shows, and the searches through them.
 #include "afxribbonbar.h"
 
+#include "afxRibbonMainPanel.h"
+
 #include <algorithm>
 #include <utility>
 
+#include "afxribbonpanelmenu.h"
 #include "ribbon/bar_parts.h"
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
@@ -59,6 +62,19 @@ CMFCRibbonCategory* CMFCRibbonBar::AddContextCategory(LPCTSTR lpszName, LPCTSTR 
     }
     return category;
 }
+
+CMFCRibbonMainPanel* CMFCRibbonBar::AddMainCategory(LPCTSTR lpszName, UINT uiSmallImagesResID, UINT uiLargeImagesResID,
+                                                    CSize sizeSmallImage, CSize sizeLargeImage) {
+    std::unique_ptr<CMFCRibbonCategory> category(
+        static_cast<CMFCRibbonCategory*>(RUNTIME_CLASS(CMFCRibbonCategory)->CreateObject()));
+    category->CommonInit(this, lpszName, uiSmallImagesResID, uiLargeImagesResID, sizeSmallImage, sizeLargeImage);
+    auto* panel =
+        static_cast<CMFCRibbonMainPanel*>(category->AddPanel(lpszName, nullptr, RUNTIME_CLASS(CMFCRibbonMainPanel)));
+    m_parts->mainCategory = std::move(category);
+    return panel;
+}
+
+CMFCRibbonCategory* CMFCRibbonBar::GetMainCategory() const { return m_parts->mainCategory.get(); }
 
 void CMFCRibbonBar::ShowContextCategories(UINT uiContextID, BOOL bShow) {
     for (int index = 0; index < GetCategoryCount(); ++index) {
@@ -155,6 +171,9 @@ void CMFCRibbonBar::SetActiveWithoutCheck(CMFCRibbonCategory* category) {
         return;
     }
     if (m_parts->active != nullptr) {
+        if (m_parts->ShownCategory() == nullptr) {
+            CMFCRibbonPanelMenu::DismissAll();
+        }
         CancelPress();
         m_parts->hotPanel = nullptr;
         if (m_parts->hot != nullptr && m_parts->hot->GetParentPanel() != nullptr) {
@@ -229,6 +248,11 @@ CMFCRibbonBaseElement* CMFCRibbonBar::FindByID(UINT uiCmdID, BOOL bVisibleOnly, 
             return found;
         }
     }
+    if (m_parts->mainCategory != nullptr) {
+        if (CMFCRibbonBaseElement* found = m_parts->mainCategory->FindByID(uiCmdID, bVisibleOnly)) {
+            return found;
+        }
+    }
     return bExcludeQAT ? nullptr : m_parts->quickAccess.FindByID(uiCmdID);
 }
 
@@ -259,6 +283,9 @@ void CMFCRibbonBar::GetElementsByID(UINT uiCmdID, ElementArray& arButtons) {
     }
     if (m_parts->applicationButton != nullptr) {
         m_parts->applicationButton->GetElementsByID(uiCmdID, arButtons);
+    }
+    if (m_parts->mainCategory != nullptr) {
+        m_parts->mainCategory->GetElementsByID(uiCmdID, arButtons);
     }
     m_parts->quickAccess.GetElementsByID(uiCmdID, arButtons);
 }
@@ -317,7 +344,7 @@ CMFCRibbonBaseElement* CMFCRibbonBar::HitTest(CPoint point, BOOL bCheckActiveCat
             return hit;
         }
     }
-    if (bCheckActiveCategory && m_parts->active != nullptr) {
+    if (bCheckActiveCategory && m_parts->ShownCategory() != nullptr) {
         return m_parts->active->HitTest(point, bCheckPanelCaption);
     }
     return nullptr;

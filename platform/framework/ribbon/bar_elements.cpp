@@ -3,6 +3,7 @@
 #include "afxribbonbar.h"
 
 #include "afxglobals.h"
+#include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_parts.h"
 
@@ -61,10 +62,43 @@ void CMFCRibbonTab::OnDraw(CDC* pDC) {
 void CMFCRibbonTab::OnLButtonDown(CPoint /*point*/) {
     CMFCRibbonCategory* category = GetParentCategory();
     CMFCRibbonBar* bar = GetParentRibbonBar();
-    if (category == nullptr || bar == nullptr || category->IsActive() || !bar->SetActiveCategory(category)) {
+    if (category == nullptr || bar == nullptr) {
         return;
     }
-    bar->NotifyCategoryChanged();
+    const bool isMinimized = (bar->GetHideFlags() & AFX_RIBBONBAR_HIDE_ELEMENTS) != 0;
+    if (isMinimized && IsDroppedDown()) {
+        ClosePopupMenu();
+        return;
+    }
+    const bool changes = !category->IsActive();
+    if (changes && !bar->SetActiveCategory(category)) {
+        return;
+    }
+    const HWND window = bar->GetSafeHwnd();
+    if (isMinimized) {
+        OnShowPopupMenu();
+    }
+    // The host may do anything; it comes last.
+    if (changes && ::IsWindow(window)) {
+        bar->NotifyCategoryChanged();
+    }
+}
+
+// The panels of a minimised bar, below its tabs.
+void CMFCRibbonTab::OnShowPopupMenu() {
+    CMFCRibbonBaseElement::OnShowPopupMenu();
+    CMFCRibbonCategory* category = GetParentCategory();
+    CMFCRibbonBar* bar = GetParentRibbonBar();
+    if (category == nullptr || bar == nullptr || category->GetParentMenuBar() != nullptr) {
+        return;
+    }
+    CRect row;
+    bar->GetClientRect(row);
+    row.top = row.bottom = m_rect.bottom;
+    const int border = CMFCVisualManager::GetInstance()->GetRibbonPopupBorderSize(nullptr);
+    const CSize size(row.Width() - 2 * border, bar->GetMetrics().CategoryHeight());
+    auto* menu = new CMFCRibbonPanelMenu(category, size);
+    menu->OpenAt(bar, row, CMFCRibbonPanelMenu::Side::Below, this);
 }
 
 // ---- scroll buttons of a category
@@ -126,8 +160,16 @@ COLORREF CMFCRibbonDefaultPanelButton::OnFillBackground(CDC* pDC) {
     return static_cast<COLORREF>(-1);
 }
 
-// The panel's popup is not there yet: a release ends the press and nothing else.
-void CMFCRibbonDefaultPanelButton::OnLButtonUp(CPoint /*point*/) {}
+void CMFCRibbonDefaultPanelButton::OnShowPopupMenu() {
+    if (IsDroppedDown()) {
+        ClosePopupMenu();
+        return;
+    }
+    CMFCRibbonBaseElement::OnShowPopupMenu();
+    if (CMFCRibbonPanel* panel = GetParentPanel()) {
+        panel->ShowPopup(this);
+    }
+}
 
 // ---- application button
 
@@ -154,6 +196,25 @@ void CMFCRibbonApplicationButton::SetImage(HBITMAP hBmp) {
         m_Image.AddImage(hBmp);
     }
     Redraw();
+}
+
+BOOL CMFCRibbonApplicationButton::HasMenu() const {
+    const CMFCRibbonBar* bar = GetParentRibbonBar();
+    return (bar != nullptr && bar->GetMainCategory() != nullptr) || CMFCRibbonButton::HasMenu();
+}
+
+void CMFCRibbonApplicationButton::OnShowPopupMenu() {
+    CMFCRibbonBar* bar = GetParentRibbonBar();
+    CMFCRibbonCategory* main = bar != nullptr ? bar->GetMainCategory() : nullptr;
+    if (main == nullptr || IsDroppedDown()) {
+        CMFCRibbonButton::OnShowPopupMenu();
+        return;
+    }
+    CMFCRibbonBaseElement::OnShowPopupMenu();
+    if (!IsDisabled()) {
+        auto* menu = new CMFCRibbonPanelMenu(main->GetPanel(0));
+        menu->OpenFor(this, CMFCRibbonPanelMenu::Side::Below);
+    }
 }
 
 void CMFCRibbonApplicationButton::DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) {

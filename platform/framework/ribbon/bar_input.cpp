@@ -114,7 +114,7 @@ void CMFCRibbonBar::SetHot(CMFCRibbonBaseElement* element, CPoint point) {
     if (element != nullptr && element->IsSeparator()) {
         element = nullptr;
     }
-    if (m_parts->active != nullptr) {
+    if (m_parts->ShownCategory() != nullptr) {
         m_parts->hotPanel = m_parts->active->HighlightPanel(m_parts->hotPanel, point);
     }
     if (m_parts->hot == element) {

@@ -1,6 +1,9 @@
 #include "ribbon/bar_menus.h"
 
+#include "afxRibbonLabel.h"
+#include "afxribbonpanelmenu.h"
 #include "core/module.h"
+#include "ribbon/menu_items.h"
 
 CString RibbonText(RibbonTextId id) {
     LPCWSTR text = nullptr;
@@ -8,33 +11,63 @@ CString RibbonText(RibbonTextId id) {
     return length > 0 ? CString(text, length) : CString();
 }
 
-RibbonMenu::RibbonMenu() { m_menu.CreatePopupMenu(); }
+namespace {
 
-void RibbonMenu::Append(UINT flags, const CString& text, Action action) {
-    m_actions.push_back(std::move(action));
-    m_menu.AppendMenu(MF_STRING | flags, static_cast<UINT_PTR>(m_actions.size()), text);
+/// A row that does something of the bar's own instead of sending a command.
+class ActionButton : public CMFCRibbonButton {
+public:
+    ActionButton(const CString& text, RibbonMenu::Action action)
+        : CMFCRibbonButton(0, text), m_action(std::move(action)) {}
+
+protected:
+    // The pop-up, and this row with it, is on its way out when the action runs.
+    void OnClick(CPoint /*point*/) override {
+        const RibbonMenu::Action action = m_action;
+        CloseParentMenus();
+        action();
+    }
+
+private:
+    RibbonMenu::Action m_action;
+};
+
+} // namespace
+
+CMFCRibbonButton& RibbonMenu::Append(const CString& text, Action action) {
+    CString key;
+    auto item = std::make_unique<ActionButton>(TakeMnemonic(text, key), std::move(action));
+    item->SetKeys(nullptr, key);
+    CMFCRibbonButton& added = *item;
+    m_items.push_back(std::move(item));
+    return added;
 }
 
+void RibbonMenu::AddHeading(const CString& text) { m_items.push_back(std::make_unique<CMFCRibbonLabel>(text)); }
+
 void RibbonMenu::AddCommand(const CString& text, bool enabled, Action action) {
-    Append(enabled ? MF_ENABLED : MF_GRAYED, text, std::move(action));
+    Append(text, std::move(action)).SetDisabled(!enabled);
 }
 
 void RibbonMenu::AddCheck(const CString& text, bool checked, Action action) {
-    Append(checked ? MF_CHECKED : MF_UNCHECKED, text, std::move(action));
+    Append(text, std::move(action)).SetChecked(checked);
 }
 
 void RibbonMenu::AddSeparator() {
-    if (!m_actions.empty()) {
-        m_menu.AppendMenu(MF_SEPARATOR);
+    if (!m_items.empty()) {
+        m_items.push_back(std::make_unique<CMFCRibbonSeparator>(TRUE));
     }
 }
 
-BOOL RibbonMenu::Track(CPoint screen, CWnd* owner) {
-    const auto chosen = static_cast<size_t>(
-        m_menu.TrackPopupMenu(TPM_LEFTALIGN | TPM_RETURNCMD | TPM_NONOTIFY, screen.x, screen.y, owner));
-    if (chosen == 0 || chosen > m_actions.size()) {
+BOOL RibbonMenu::Track(CPoint screen, CWnd* owner, CMFCRibbonBaseElement* opener) {
+    if (m_items.empty() || owner == nullptr) {
         return FALSE;
     }
-    m_actions[chosen - 1]();
-    return TRUE;
+    auto* menu = new CMFCRibbonPanelMenu;
+    for (auto& item : m_items) {
+        menu->GetRibbonMenuBar().AddOwnElement(std::move(item));
+    }
+    m_items.clear();
+    CPoint corner = screen;
+    owner->ScreenToClient(&corner);
+    return menu->OpenAt(owner, CRect(corner, CSize(0, 0)), CMFCRibbonPanelMenu::Side::Below, opener);
 }

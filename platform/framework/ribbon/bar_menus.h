@@ -1,9 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <vector>
 
-#include "afxwin.h"
+#include "afxribbonbutton.h"
 
 /// Texts of the bar's own menus and tips; string resources of the framework.
 enum class RibbonTextId : UINT {
@@ -13,6 +14,7 @@ enum class RibbonTextId : UINT {
     QuickAccessBelow = 17099,
     QuickAccessAbove = 17100,
     Minimize = 17101,
+    QuickAccessMore = 17102,
     WindowMinimize = 17120,
     WindowMaximize = 17121,
     WindowRestore = 17122,
@@ -21,25 +23,24 @@ enum class RibbonTextId : UINT {
 
 CString RibbonText(RibbonTextId id);
 
-/// A popup menu whose items carry what they do. Lives for one Track.
+/// A pop-up menu whose items carry what they do. Lives until Track.
 class RibbonMenu {
 public:
     using Action = std::function<void()>;
 
-    RibbonMenu();
-
+    void AddHeading(const CString& text);
     void AddCommand(const CString& text, Action action) { AddCommand(text, true, std::move(action)); }
     void AddCommand(const CString& text, bool enabled, Action action);
     void AddCheck(const CString& text, bool checked, Action action);
     /// Only between items: not before the first one.
     void AddSeparator();
 
-    /// Shows the menu at a screen point and does what was chosen. FALSE when the menu was left without a choice.
-    BOOL Track(CPoint screen, CWnd* owner);
+    /// Opens the menu at a screen point and returns at once; what is chosen is done after the menu has closed. FALSE:
+    /// it has no items, or could not be opened.
+    BOOL Track(CPoint screen, CWnd* owner, CMFCRibbonBaseElement* opener = nullptr);
 
 private:
-    void Append(UINT flags, const CString& text, Action action);
+    CMFCRibbonButton& Append(const CString& text, Action action);
 
-    CMenu m_menu;
-    std::vector<Action> m_actions;
+    std::vector<std::unique_ptr<CMFCRibbonBaseElement>> m_items;
 };

@@ -73,11 +73,16 @@ struct RibbonBarParts {
     // Nothing here outlives the element: each tells the bar when it goes.
     CMFCRibbonBaseElement* hot = nullptr;
     CMFCRibbonBaseElement* pressed = nullptr;
-    CMFCRibbonBaseElement* releasing = nullptr; // gets the button's release now
+    CMFCRibbonBaseElement* releasing = nullptr;   // gets the button's release now
+    CMFCRibbonBaseElement* menuSubject = nullptr; // whose context menu is open
     CMFCRibbonPanel* hotPanel = nullptr;
     bool tracksLeave = false;
 
     CMFCRibbonCategory* active = nullptr;
+    /// The active category where the bar itself shows it, not a pop-up.
+    CMFCRibbonCategory* ShownCategory() const {
+        return active != nullptr && active->GetParentMenuBar() == nullptr ? active : nullptr;
+    }
     struct Context {
         UINT id;
         CString name;
@@ -91,6 +96,7 @@ struct RibbonBarParts {
     HWND activeChild = nullptr;
     std::vector<std::unique_ptr<CMFCRibbonBaseElement>> tabElements;
     std::vector<std::unique_ptr<CMFCRibbonCategory>> categories;
+    std::unique_ptr<CMFCRibbonCategory> mainCategory;
     std::unique_ptr<RibbonKeyboard> keyboard; // never null
     std::unique_ptr<RibbonAccess> access;     // never null
 };

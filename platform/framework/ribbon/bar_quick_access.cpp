@@ -55,48 +55,60 @@ CRect CMFCRibbonBar::GetQATCommandsLocation() const { return m_parts->quickAcces
 
 CMFCRibbonBaseElement* CMFCRibbonBar::GetQATDroppedDown() { return m_parts->quickAccess.GetDroppedDown(); }
 
-// The commands of the default state, those in the toolbar checked; then where the toolbar lies.
-BOOL CMFCRibbonBar::OnShowRibbonQATMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* /*pHit*/) {
-    const CMFCRibbonQuickAccessToolBarDefaultState& state = m_parts->quickAccessDefault;
-    RibbonMenu menu;
-    for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
-        const UINT id = state.m_arCommands[index];
-        if (CMFCRibbonBaseElement* element = FindByID(id, FALSE, TRUE)) {
-            menu.AddCheck(element->GetText(), m_parts->quickAccess.FindByID(id) != nullptr, [this, id, element] {
-                CMFCRibbonBaseElement* copy = m_parts->quickAccess.FindByID(id);
-                m_parts->quickAccessChosen = true;
-                copy != nullptr ? m_parts->quickAccess.Remove(copy) : m_parts->quickAccess.Add(element);
-                MarkLayoutDirty();
-            });
-        }
+void CMFCRibbonBar::ToggleQuickAccessCommand(UINT uiCmdID) {
+    CMFCRibbonQuickAccessToolBar& toolbar = m_parts->quickAccess;
+    m_parts->quickAccessChosen = true;
+    if (CMFCRibbonBaseElement* copy = toolbar.FindByID(uiCmdID)) {
+        toolbar.Remove(copy);
+    } else {
+        toolbar.Add(FindByID(uiCmdID, FALSE, TRUE));
     }
-    menu.AddSeparator();
-    menu.AddCommand(
-        RibbonText(m_parts->quickAccessOnTop ? RibbonTextId::QuickAccessBelow : RibbonTextId::QuickAccessAbove),
-        [this] { SetQuickAccessToolbarOnTop(!m_parts->quickAccessOnTop); });
-    return menu.Track(CPoint(x, y), pWnd);
+    MarkLayoutDirty();
 }
 
-BOOL CMFCRibbonBar::OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) {
-    RibbonMenu menu;
-    if (pHit != nullptr && pHit->IsQATMode()) {
-        menu.AddCommand(RibbonText(RibbonTextId::QuickAccessRemove), [this, pHit] {
-            m_parts->quickAccessChosen = true;
-            m_parts->quickAccess.Remove(pHit);
-            MarkLayoutDirty();
-        });
-    } else if (pHit != nullptr && pHit->CanBeAddedToQuickAccessToolBar()) {
-        const bool isThere = m_parts->quickAccess.FindByOriginal(pHit) != nullptr;
-        menu.AddCommand(RibbonText(RibbonTextId::QuickAccessAdd), !isThere, [this, pHit] {
-            m_parts->quickAccessChosen = true;
-            m_parts->quickAccess.Add(pHit);
-            MarkLayoutDirty();
-        });
-    }
-    menu.AddSeparator();
+void CMFCRibbonBar::AddPlaceOfQuickAccess(RibbonMenu& menu) {
     menu.AddCommand(
         RibbonText(m_parts->quickAccessOnTop ? RibbonTextId::QuickAccessBelow : RibbonTextId::QuickAccessAbove),
         [this] { SetQuickAccessToolbarOnTop(!m_parts->quickAccessOnTop); });
     menu.AddCheck(RibbonText(RibbonTextId::Minimize), m_parts->minimized, [this] { ToggleMimimizeState(); });
+}
+
+// The commands of the default state, those in the toolbar checked; then where the toolbar lies.
+BOOL CMFCRibbonBar::OnShowRibbonQATMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) {
+    const CMFCRibbonQuickAccessToolBarDefaultState& state = m_parts->quickAccessDefault;
+    RibbonMenu menu;
+    menu.AddHeading(RibbonText(RibbonTextId::QuickAccessCustomize));
+    for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
+        const UINT id = state.m_arCommands[index];
+        if (CMFCRibbonBaseElement* element = FindByID(id, FALSE, TRUE)) {
+            menu.AddCheck(element->GetText(), m_parts->quickAccess.FindByID(id) != nullptr,
+                          [this, id] { ToggleQuickAccessCommand(id); });
+        }
+    }
+    menu.AddSeparator();
+    AddPlaceOfQuickAccess(menu);
+    return menu.Track(CPoint(x, y), pWnd, pHit);
+}
+
+// The element may go while the menu is open; nothing is done with it then.
+BOOL CMFCRibbonBar::OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) {
+    RibbonMenu menu;
+    m_parts->menuSubject = pHit;
+    if (pHit != nullptr && pHit->IsQATMode()) {
+        menu.AddCommand(RibbonText(RibbonTextId::QuickAccessRemove), [this] {
+            m_parts->quickAccessChosen = true;
+            m_parts->quickAccess.Remove(m_parts->menuSubject);
+            MarkLayoutDirty();
+        });
+    } else if (pHit != nullptr && pHit->CanBeAddedToQuickAccessToolBar()) {
+        const bool isThere = m_parts->quickAccess.FindByOriginal(pHit) != nullptr;
+        menu.AddCommand(RibbonText(RibbonTextId::QuickAccessAdd), !isThere, [this] {
+            m_parts->quickAccessChosen = true;
+            m_parts->quickAccess.Add(m_parts->menuSubject);
+            MarkLayoutDirty();
+        });
+    }
+    menu.AddSeparator();
+    AddPlaceOfQuickAccess(menu);
     return menu.Track(CPoint(x, y), pWnd);
 }

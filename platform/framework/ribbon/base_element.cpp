@@ -3,6 +3,7 @@
 #include <afxribbonbar.h>
 #include <afxRibbonPanel.h>
 #include <afxribboncategory.h>
+#include <afxribbonpanelmenu.h>
 
 #include "ribbon/element_metrics.h"
 #include "ribbon/keyboard.h"
@@ -26,7 +27,12 @@ bool IsCommand(UINT id) { return id != 0 && id != static_cast<UINT>(-1); }
 
 CMFCRibbonBaseElement::CMFCRibbonBaseElement() : m_rect(0, 0, 0, 0), m_szMargin(CurrentMargin()) {}
 
+// A pop-up must not show what is no longer there, nor stay open without the element that opened it.
 CMFCRibbonBaseElement::~CMFCRibbonBaseElement() {
+    if (m_pParentMenu != nullptr)
+        m_pParentMenu->OnElementDestroyed(this);
+    if (auto* menu = dynamic_cast<CMFCRibbonPanelMenu*>(m_pPopup))
+        menu->OnParentElementDestroyed();
     if (m_pRibbonBar != nullptr)
         m_pRibbonBar->OnElementDestroyed(this);
 }
@@ -146,6 +152,8 @@ CWnd* CMFCRibbonBaseElement::GetParentWnd() const {
 // The category measures the element anew, where it has one; a copy in the quick access toolbar and an element of the
 // tab row are measured with the bar.
 void CMFCRibbonBaseElement::MarkLayoutDirty() {
+    if (m_pParentMenu != nullptr)
+        m_pParentMenu->MarkLayoutDirty();
     if (m_pParentCategory != nullptr)
         m_pParentCategory->MarkLayoutDirty();
     else if (m_pRibbonBar != nullptr)
@@ -219,6 +227,8 @@ void CMFCRibbonBaseElement::SetTextAlwaysOnRight(BOOL bSet) {
 // ---- drawing and state
 
 void CMFCRibbonBaseElement::DrawImage(CDC* /*pDC*/, RibbonImageType /*type*/, CRect /*rectImage*/) {}
+
+BOOL CMFCRibbonBaseElement::OnDrawMenuImage(CDC* /*pDC*/, CRect /*rect*/) { return FALSE; }
 
 void CMFCRibbonBaseElement::Redraw() {
     CWnd* parent = GetParentWnd();

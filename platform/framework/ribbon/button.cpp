@@ -5,6 +5,7 @@
 
 #include "ribbon/button_face.h"
 #include "ribbon/element_metrics.h"
+#include "ribbon/menu_geometry.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonButton, CMFCRibbonBaseElement)
 
@@ -41,7 +42,8 @@ CMFCRibbonButton::CMFCRibbonButton(UINT nID, LPCTSTR lpszText, HICON hIcon, BOOL
 }
 
 CMFCRibbonButton::~CMFCRibbonButton() {
-    ForgetPopup();
+    // The pop-up gives the sub-items back while they are still there.
+    CMFCRibbonBaseElement::ClosePopupMenu();
     RemoveAllSubItems();
     ReleaseIcons();
 }
@@ -194,6 +196,8 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
 }
 
 CSize CMFCRibbonButton::MeasureAs(CDC* pDC, BOOL bLarge, BOOL bImageOnly) {
+    if (ShowsMenuRow())
+        return ribbon::ToSize(ribbon::MeasureMenuRow(CollectMenuRow(pDC), ribbon::CurrentMetrics()));
     ribbon::TextBreak lines;
     return ribbon::ToSize(
         ribbon::MeasureButton(CollectContent(pDC, bLarge, bImageOnly, lines), ribbon::CurrentMetrics()));
@@ -207,6 +211,10 @@ CSize CMFCRibbonButton::GetCompactSize(CDC* pDC) { return MeasureAs(pDC, FALSE, 
 
 void CMFCRibbonButton::OnAfterChangeRect(CDC* pDC) {
     CMFCRibbonBaseElement::OnAfterChangeRect(pDC);
+    if (ShowsMenuRow()) {
+        PlaceMenuRowParts(pDC);
+        return;
+    }
     const Face face = CollectFace(pDC);
     m_rectCommand = ribbon::ToRect(face.parts.command);
     m_rectMenu = ribbon::ToRect(face.parts.menu);

@@ -21,6 +21,10 @@ constexpr UINT kBottomLine = DT_SINGLELINE | DT_NOPREFIX | DT_TOP | DT_NOCLIP;
 void CMFCRibbonButton::OnDraw(CDC* pDC) {
     if (m_rect.IsRectEmpty())
         return;
+    if (ShowsMenuRow()) {
+        DrawMenuRow(pDC);
+        return;
+    }
     const ribbon::TextContext context(pDC);
     const COLORREF color = ribbon::TextColor(pDC, OnFillBackground(pDC), IsDisabled());
     const Face face = CollectFace(pDC);

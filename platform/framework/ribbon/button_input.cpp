@@ -42,6 +42,7 @@ void CMFCRibbonButton::OnLButtonUp(CPoint point) {
 void CMFCRibbonButton::OnClick(CPoint point) {
     if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr)
         bar->OnClickButton(this, point);
+    CloseParentMenus();
     NotifyCommand();
 }
 

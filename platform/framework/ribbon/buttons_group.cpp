@@ -197,6 +197,12 @@ void CMFCRibbonButtonsGroup::SetParentWnd(CWnd* pParentWnd) {
         m_arButtons[i]->SetParentWnd(pParentWnd);
 }
 
+void CMFCRibbonButtonsGroup::SetParentMenu(CMFCRibbonPanelMenuBar* pMenuBar) {
+    CMFCRibbonBaseElement::SetParentMenu(pMenuBar);
+    for (int i = 0; i < GetCount(); ++i)
+        m_arButtons[i]->SetParentMenu(pMenuBar);
+}
+
 // Buttons follow when both groups have the same ones.
 void CMFCRibbonButtonsGroup::SetOriginal(CMFCRibbonBaseElement* pOriginal) {
     CMFCRibbonBaseElement::SetOriginal(pOriginal);

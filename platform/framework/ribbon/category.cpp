@@ -4,6 +4,7 @@
 
 #include "afxglobals.h"
 #include "afxribbonbar.h"
+#include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
@@ -20,7 +21,11 @@ CMFCRibbonCategory::CMFCRibbonCategory(CMFCRibbonBar* pParenrRibbonBar, LPCTSTR 
     CommonInit(pParenrRibbonBar, lpszName, uiSmallImagesResID, uiLargeImagesResID, sizeSmallImage, sizeLargeImage);
 }
 
-CMFCRibbonCategory::~CMFCRibbonCategory() = default;
+CMFCRibbonCategory::~CMFCRibbonCategory() {
+    if (m_pParentMenuBar != nullptr) {
+        m_pParentMenuBar->OnCategoryDestroyed();
+    }
+}
 
 void CMFCRibbonCategory::CommonInit(CMFCRibbonBar* pParentRibbonBar, LPCTSTR lpszName, UINT uiSmallImagesResID,
                                     UINT uiLargeImagesResID, CSize sizeSmallImage, CSize sizeLargeImage) {
@@ -485,7 +490,8 @@ BOOL CMFCRibbonCategory::OnScrollHorz(BOOL bScrollLeft, int nScrollOffset) {
     }
     CClientDC dc(m_pParentRibbonBar);
     ReposPanels(&dc);
-    m_pParentRibbonBar->InvalidateRect(m_rect, FALSE);
+    CWnd* window = m_pParentMenuBar != nullptr ? static_cast<CWnd*>(m_pParentMenuBar) : m_pParentRibbonBar;
+    window->InvalidateRect(m_rect, FALSE);
     return m_parts->firstPanel != former;
 }
 

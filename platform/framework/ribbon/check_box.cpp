@@ -9,7 +9,10 @@ IMPLEMENT_DYNCREATE(CMFCRibbonCheckBox, CMFCRibbonButton)
 
 CMFCRibbonCheckBox::CMFCRibbonCheckBox(UINT nID, LPCTSTR lpszText) : CMFCRibbonButton(nID, lpszText) {}
 
+// In a menu it is a row with a check mark.
 CSize CMFCRibbonCheckBox::GetRegularSize(CDC* pDC) {
+    if (ShowsMenuRow())
+        return CMFCRibbonButton::GetRegularSize(pDC);
     const ribbon::Size text = ribbon::TextContext(pDC).Measure({GetText(), wcslen(GetText())});
     return ribbon::ToSize(ribbon::MeasureCheckBox(text, ribbon::CurrentMetrics()));
 }
@@ -21,6 +24,10 @@ CSize CMFCRibbonCheckBox::GetCompactSize(CDC* pDC) { return GetRegularSize(pDC);
 void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
     if (m_rect.IsRectEmpty())
         return;
+    if (ShowsMenuRow()) {
+        DrawMenuRow(pDC);
+        return;
+    }
     const ribbon::TextContext context(pDC);
     const ribbon::Size text = context.Measure({GetText(), wcslen(GetText())});
     const ribbon::CheckBoxFace face = ribbon::PlaceCheckBox(ribbon::FromRect(m_rect), text, ribbon::CurrentMetrics());

@@ -178,8 +178,10 @@ BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
         bar->GetKeyboard().GiveFocusBack();
     if (CWnd* target = GetCommandTarget(); target != nullptr && HasFocus())
         target->SetFocus();
-    if (nChar == VK_RETURN)
+    if (nChar == VK_RETURN) {
+        CloseParentMenus();
         NotifyCommand();
+    }
     return TRUE;
 }
 

@@ -2,6 +2,7 @@
 #include <afxbaseribbonelement.h>
 
 #include <afxribbonbar.h>
+#include <afxribbonpanelmenu.h>
 
 namespace {
 
@@ -49,8 +50,15 @@ void CMFCRibbonBaseElement::OnShowPopupMenu() {
 void CMFCRibbonBaseElement::ClosePopupMenu() {
     CWnd* popup = m_pPopup;
     SetDroppedDown(nullptr);
-    if (popup != nullptr && popup->GetSafeHwnd() != nullptr)
+    if (auto* menu = dynamic_cast<CMFCRibbonPanelMenu*>(popup))
+        menu->Dismiss();
+    else if (popup != nullptr && popup->GetSafeHwnd() != nullptr)
         ::SendMessageW(popup->GetSafeHwnd(), WM_CLOSE, 0, 0);
+}
+
+void CMFCRibbonBaseElement::CloseParentMenus() {
+    if (m_pParentMenu != nullptr)
+        CMFCRibbonPanelMenu::DismissAll();
 }
 
 void CMFCRibbonBaseElement::DestroyCtrl() {}
@@ -73,6 +81,8 @@ BOOL CMFCRibbonBaseElement::OnProcessKey(UINT /*nChar*/) { return FALSE; }
 
 void CMFCRibbonBaseElement::OnSetFocus(BOOL /*bSet*/) {}
 void CMFCRibbonBaseElement::OnHighlight(BOOL /*bHighlight*/) {}
+void CMFCRibbonBaseElement::OnChangeMenuHighlight(CMFCRibbonPanelMenuBar* /*pPanelMenuBar*/,
+                                                  CMFCRibbonBaseElement* /*pHot*/) {}
 void CMFCRibbonBaseElement::OnEnable(BOOL /*bEnable*/) {}
 void CMFCRibbonBaseElement::OnCheck(BOOL /*bCheck*/) {}
 void CMFCRibbonBaseElement::OnShow(BOOL /*bShow*/) {}

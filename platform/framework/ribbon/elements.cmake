@@ -5,6 +5,7 @@ target_sources(framework PRIVATE
   button_draw.cpp
   button_geometry.cpp
   button_input.cpp
+  button_menu_row.cpp
   button_popup.cpp
   buttons_group.cpp
   check_box.cpp

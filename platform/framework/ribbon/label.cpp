@@ -1,5 +1,6 @@
 #include <afxRibbonLabel.h>
 
+#include <afxglobals.h>
 #include <afxvisualmanager.h>
 
 #include "ribbon/element_metrics.h"
@@ -52,6 +53,16 @@ void CMFCRibbonLabel::OnDraw(CDC* pDC) {
     if (m_rect.IsRectEmpty())
         return;
     const ribbon::TextContext context(pDC);
+    if (IsMenuMode()) {
+        // A heading of the rows below it.
+        const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawMenuLabel(pDC, m_rect);
+        CFont* regular = pDC->SelectObject(&afxGlobalData.fontBold);
+        CRect heading = m_rect;
+        heading.DeflateRect(m_szMargin.cx, 0);
+        DrawRibbonText(pDC, m_strText, heading, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS, color);
+        pDC->SelectObject(regular);
+        return;
+    }
     CMFCVisualManager::GetInstance()->OnDrawRibbonLabel(pDC, this, m_rect);
     CRect text = m_rect;
     text.DeflateRect(m_szMargin.cx, 0);

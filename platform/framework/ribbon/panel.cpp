@@ -2,6 +2,7 @@
 
 #include "afxglobals.h"
 #include "afxribbonbar.h"
+#include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_parts.h"
 
@@ -55,6 +56,9 @@ CMFCRibbonPanel::CMFCRibbonPanel(LPCTSTR lpszName, HICON hIcon) : m_rect(0, 0, 0
 }
 
 CMFCRibbonPanel::~CMFCRibbonPanel() {
+    if (m_pParentMenuBar != nullptr) {
+        m_pParentMenuBar->OnPanelDestroyed(this);
+    }
     for (INT_PTR index = 0; index < m_arElements.GetSize(); ++index) {
         delete m_arElements[index];
     }
@@ -126,6 +130,11 @@ BOOL CMFCRibbonPanel::Remove(int nIndex, BOOL bDelete) {
         // The bar forgets what it knows of it while the element still names the bar.
         if (CMFCRibbonBar* bar = element->GetParentRibbonBar()) {
             bar->OnElementDestroyed(element);
+        }
+        if (CMFCRibbonPanelMenuBar* menuBar = element->GetParentMenu()) {
+            menuBar->OnElementDestroyed(element);
+            element->SetParentMenu(nullptr);
+            element->SetParentWnd(nullptr);
         }
         element->DestroyCtrl();
         element->SetParentPanel(nullptr);
@@ -304,6 +313,12 @@ void CMFCRibbonPanel::SetFocused(CMFCRibbonBaseElement* pNewFocus) {
     }
 }
 
+CMFCRibbonPanelMenu* CMFCRibbonPanel::ShowPopup(CMFCRibbonDefaultPanelButton* pButton) {
+    CMFCRibbonBaseElement* opener = pButton != nullptr ? pButton : &m_btnDefault;
+    auto* menu = new CMFCRibbonPanelMenu(this);
+    return menu->OpenFor(opener, CMFCRibbonPanelMenu::Side::Below) ? menu : nullptr;
+}
+
 void CMFCRibbonPanel::SetKeys(LPCTSTR lpszKeys) {
     m_strKeys = lpszKeys;
     m_btnDefault.SetKeys(lpszKeys);
@@ -346,7 +361,8 @@ void CMFCRibbonPanel::Place(CDC* pDC, const RibbonPanelArrangement& arrangement,
     m_rectCaption = m_bCollapsed ? none : ToCRect(arrangement.caption) + origin;
     m_btnDefault.SetRect(m_bCollapsed ? m_rect : none);
     m_btnDefault.OnAfterChangeRect(pDC);
-    for (int index = 0; index < GetCount(); ++index) {
+    // What a pop-up shows has its place there.
+    for (int index = 0; index < GetCount() && !IsLent(); ++index) {
         CMFCRibbonBaseElement& element = *m_arElements[index];
         const RibbonPlacedElement& place = arrangement.elements[static_cast<size_t>(index)];
         SetMode(element, place.mode);
@@ -364,7 +380,7 @@ void CMFCRibbonPanel::Hide(CDC* pDC) {
     }
     m_rect = m_rectCaption = none;
     m_btnDefault.SetRect(none);
-    for (int index = 0; index < GetCount(); ++index) {
+    for (int index = 0; index < GetCount() && !IsLent(); ++index) {
         CMFCRibbonBaseElement& element = *m_arElements[index];
         element.SetRect(none);
         element.OnAfterChangeRect(pDC);

@@ -54,24 +54,28 @@ void CMFCRibbonQuickAccessCustomizeButton::OnDraw(CDC* pDC) {
     }
 }
 
-void CMFCRibbonQuickAccessCustomizeButton::OnLButtonUp(CPoint point) {
-    if (IsPressed() && m_rect.PtInRect(point)) {
-        OnKey(TRUE);
-    }
-}
-
-BOOL CMFCRibbonQuickAccessCustomizeButton::OnKey(BOOL /*bIsMenuKey*/) {
+void CMFCRibbonQuickAccessCustomizeButton::OnShowPopupMenu() {
     CMFCRibbonBar* bar = GetTopLevelRibbonBar();
-    if (bar == nullptr) {
-        return FALSE;
+    if (IsDroppedDown() || bar == nullptr) {
+        ClosePopupMenu();
+        return;
     }
+    CMFCRibbonBaseElement::OnShowPopupMenu();
     CPoint corner(m_rect.left, m_rect.bottom);
     bar->ClientToScreen(&corner);
     bar->OnShowRibbonQATMenu(bar, corner.x, corner.y, this);
-    return TRUE;
 }
 
 // ---- the toolbar
+
+namespace {
+
+/// An element without room has no rectangle, or one in the pop-up that shows it.
+bool IsShownHere(const CMFCRibbonBaseElement& element) {
+    return element.GetParentMenu() == nullptr && !element.GetRect().IsRectEmpty();
+}
+
+} // namespace
 
 IMPLEMENT_DYNCREATE(CMFCRibbonQuickAccessToolBar, CMFCRibbonButtonsGroup)
 
@@ -207,35 +211,50 @@ CSize CMFCRibbonQuickAccessToolBar::GetRegularSize(CDC* pDC) {
 }
 
 void CMFCRibbonQuickAccessToolBar::OnAfterChangeRect(CDC* pDC) {
-    const auto place = [pDC](CMFCRibbonBaseElement& element, const CRect& rect) {
-        element.SetRect(rect);
-        element.OnAfterChangeRect(pDC);
-    };
     const CRect none(0, 0, 0, 0);
     m_rectCommands = CRect(m_rect.left, m_rect.top, m_rect.left, m_rect.bottom);
     const int customizeWidth = m_btnCustomize.GetRegularSize(pDC).cx;
     const int end = m_rect.right - customizeWidth;
+    int needed = 0;
+    for (int position = 0; position < GetCount(); ++position) {
+        needed += m_arButtons[position]->GetSize(pDC).cx;
+    }
+    const bool isTooNarrow = m_rect.left + needed > end;
+    const int moreWidth = isTooNarrow ? m_btnMore.GetRegularSize(pDC).cx : 0;
+    const auto place = [this, pDC](CMFCRibbonBaseElement& element, int left, CSize size) {
+        const int height = std::min<int>(size.cy, m_rect.Height());
+        const int top = m_rect.top + (m_rect.Height() - height) / 2;
+        element.SetRect(CRect(left, top, left + size.cx, top + height));
+        element.OnAfterChangeRect(pDC);
+    };
+    const auto hide = [pDC, none](CMFCRibbonBaseElement& element) {
+        element.SetRect(none);
+        element.OnAfterChangeRect(pDC);
+    };
     bool full = m_rect.IsRectEmpty() != FALSE;
     for (int position = 0; position < GetCount(); ++position) {
         CMFCRibbonBaseElement& element = *m_arButtons[position];
         const CSize size = element.GetSize(pDC);
-        full = full || m_rectCommands.right + size.cx > end;
-        if (full) {
-            place(element, none);
+        full = full || m_rectCommands.right + size.cx > end - moreWidth;
+        // What the pop-up of the rest shows has its place there.
+        if (element.GetParentMenu() != nullptr) {
+            full = true;
             continue;
         }
-        const int height = std::min<int>(size.cy, m_rect.Height());
-        const int top = m_rect.top + (m_rect.Height() - height) / 2;
-        place(element, CRect(m_rectCommands.right, top, m_rectCommands.right + size.cx, top + height));
+        if (full) {
+            hide(element);
+            continue;
+        }
+        place(element, m_rectCommands.right, size);
         m_rectCommands.right += size.cx;
     }
-    if (m_rect.IsRectEmpty() || customizeWidth > m_rect.Width()) {
-        place(m_btnCustomize, none);
+    if (m_rect.IsRectEmpty() || customizeWidth + moreWidth > m_rect.Width()) {
+        hide(m_btnMore);
+        hide(m_btnCustomize);
         return;
     }
-    const int height = std::min<int>(m_btnCustomize.GetRegularSize(pDC).cy, m_rect.Height());
-    const int top = m_rect.top + (m_rect.Height() - height) / 2;
-    place(m_btnCustomize, CRect(m_rectCommands.right, top, m_rectCommands.right + customizeWidth, top + height));
+    isTooNarrow ? place(m_btnMore, m_rectCommands.right, m_btnMore.GetRegularSize(pDC)) : hide(m_btnMore);
+    place(m_btnCustomize, m_rectCommands.right + moreWidth, m_btnCustomize.GetRegularSize(pDC));
 }
 
 void CMFCRibbonQuickAccessToolBar::OnDraw(CDC* pDC) {
@@ -246,12 +265,15 @@ void CMFCRibbonQuickAccessToolBar::OnDraw(CDC* pDC) {
         CMFCVisualManager::GetInstance()->OnDrawRibbonButtonsGroup(pDC, this, m_rectCommands);
     }
     for (int position = 0; position < GetCount(); ++position) {
-        if (!m_arButtons[position]->GetRect().IsRectEmpty() && pDC->RectVisible(m_arButtons[position]->GetRect())) {
+        if (IsShownHere(*m_arButtons[position]) && pDC->RectVisible(m_arButtons[position]->GetRect())) {
             m_arButtons[position]->OnDraw(pDC);
         }
     }
-    if (!m_btnCustomize.GetRect().IsRectEmpty()) {
-        m_btnCustomize.OnDraw(pDC);
+    for (CMFCRibbonButton* button :
+         {static_cast<CMFCRibbonButton*>(&m_btnMore), static_cast<CMFCRibbonButton*>(&m_btnCustomize)}) {
+        if (!button->GetRect().IsRectEmpty()) {
+            button->OnDraw(pDC);
+        }
     }
     pDC->SetTextColor(previous);
 }
@@ -261,9 +283,12 @@ CMFCRibbonBaseElement* CMFCRibbonQuickAccessToolBar::HitTest(CPoint point) {
         return nullptr;
     }
     for (int position = 0; position < GetCount(); ++position) {
-        if (CMFCRibbonBaseElement* hit = m_arButtons[position]->HitTest(point)) {
+        CMFCRibbonBaseElement* hit =
+            IsShownHere(*m_arButtons[position]) ? m_arButtons[position]->HitTest(point) : nullptr;
+        if (hit != nullptr) {
             return hit;
         }
     }
-    return m_btnCustomize.HitTest(point);
+    CMFCRibbonBaseElement* more = m_btnMore.HitTest(point);
+    return more != nullptr ? more : m_btnCustomize.HitTest(point);
 }

@@ -1,9 +1,11 @@
 #include <afxbaseribbonelement.h>
 
 #include <afxribbonbar.h>
+#include <afxribbonpanelmenu.h>
 #include <afxvisualmanager.h>
 
 #include "ribbon/element_metrics.h"
+#include "ribbon/menu_geometry.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonSeparator, CMFCRibbonBaseElement)
 
@@ -21,6 +23,8 @@ void CMFCRibbonSeparator::CopyFrom(const CMFCRibbonBaseElement& src) {
 
 CSize CMFCRibbonSeparator::GetRegularSize(CDC* /*pDC*/) {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
+    if (IsMenuMode())
+        return {0, ribbon::MenuSeparatorHeight(metrics)};
     const int thickness = metrics.Scaled(kThickness);
     return m_bIsHoriz ? CSize(thickness, thickness) : CSize(thickness, metrics.RowHeight());
 }
@@ -29,7 +33,9 @@ void CMFCRibbonSeparator::OnDraw(CDC* pDC) {
     if (m_rect.IsRectEmpty())
         return;
     CMFCVisualManager* visual = CMFCVisualManager::GetInstance();
-    if (IsQATMode())
+    if (IsMenuMode())
+        visual->OnDrawSeparator(pDC, m_pParentMenu, m_rect, FALSE);
+    else if (IsQATMode())
         visual->OnDrawRibbonQuickAccessToolBarSeparator(pDC, this, m_rect);
     else
         visual->OnDrawSeparator(pDC, GetTopLevelRibbonBar(), m_rect, !m_bIsHoriz);

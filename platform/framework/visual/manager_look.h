@@ -5,6 +5,8 @@
 
 #include <afxbaseribbonelement.h>
 
+class CBasePane;
+
 // From the framework's objects to the state that paint functions read.
 namespace visual {
 
@@ -28,5 +30,8 @@ inline GroupPlace PlaceOf(const CMFCRibbonBaseElement& element) {
         return GroupPlace::Alone;
     }
 }
+
+/// The ground of a ribbon pop-up that lists its elements: plain, with a column for images. false: the bar is none.
+bool FillRibbonMenu(HDC dc, CBasePane* bar, const RECT& rect, const Look& look);
 
 } // namespace visual

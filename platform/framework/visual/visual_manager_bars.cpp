@@ -5,6 +5,7 @@
 
 #include <afxbasepane.h>
 #include <afxext.h>
+#include <afxribbonpanelmenu.h>
 
 #include <algorithm>
 
@@ -30,7 +31,8 @@ ElementState ComboState(BOOL disabled, BOOL dropped, BOOL highlighted) {
 } // namespace
 
 void CMFCVisualManager::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
-    if (visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
+    if (visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
+        visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
         return;
     visual::PaintFill(*pDC, rectClient, GetSkin()[FaceSlot::ToolBar], LookOf(GetSkin()));
 }
@@ -39,7 +41,13 @@ void CMFCVisualManager::OnDrawBarGripper(CDC* pDC, CRect rectGripper, BOOL bHorz
     visual::PaintGripper(*pDC, rectGripper, bHorz != FALSE, LookOf(GetSkin()));
 }
 
-void CMFCVisualManager::OnDrawSeparator(CDC* pDC, CBasePane*, CRect rect, BOOL bIsHoriz) {
+void CMFCVisualManager::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz) {
+    if (const auto* menu = dynamic_cast<CMFCRibbonPanelMenuBar*>(pBar); menu != nullptr && !bIsHoriz) {
+        const int top = rect.CenterPoint().y;
+        visual::PaintSolid(*pDC, CRect(rect.left + menu->GetImageColumnWidth(), top, rect.right, top + 1),
+                           GetSkin()[ColorSlot::MenuSeparator]);
+        return;
+    }
     visual::PaintEtchedLine(*pDC, rect, bIsHoriz != FALSE, GetSkin()[ColorSlot::SeparatorDark],
                             GetSkin()[ColorSlot::SeparatorLight], LookOf(GetSkin()));
 }

@@ -3,10 +3,23 @@
 #include "afxdrawmanager.h"
 #include "visual/manager_look.h"
 
+#include <afxribbonpanelmenu.h>
+
 using visual::ColorSlot;
 using visual::FaceSlot;
 using visual::LookOf;
 using visual::ToColorRef;
+
+bool visual::FillRibbonMenu(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
+    const auto* menu = dynamic_cast<CMFCRibbonPanelMenuBar*>(bar);
+    if (menu == nullptr)
+        return false;
+    PaintSolid(dc, rect, look.skin[ColorSlot::MenuFill]);
+    const LONG column = rect.left + menu->GetImageColumnWidth();
+    PaintSolid(dc, {rect.left, rect.top, column, rect.bottom}, look.skin[ColorSlot::MenuGutter]);
+    PaintSolid(dc, {column, rect.top, column + look.Line(), rect.bottom}, look.skin[ColorSlot::MenuGutterLine]);
+    return true;
+}
 
 void CMFCVisualManager::OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu*, CRect rect) {
     visual::PaintFrame(*pDC, rect, GetSkin()[ColorSlot::MenuBorder], LookOf(GetSkin()).Line());

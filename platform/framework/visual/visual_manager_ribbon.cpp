@@ -32,6 +32,25 @@ COLORREF ButtonTextColor(const visual::Skin& skin, const ElementState& state) {
     return ToColorRef(skin[isLit ? ColorSlot::RibbonTextHot : ColorSlot::RibbonText]);
 }
 
+// A row of a pop-up; the part under the pointer of a row with a command and a menu has a frame of its own.
+COLORREF FillMenuRow(CDC* pDC, CMFCRibbonButton& button, const ElementState& state, const visual::Skin& skin) {
+    if (state.isDisabled)
+        return ToColorRef(skin[ColorSlot::MenuTextDisabled]);
+    if (!state.isHot && !state.isDropped)
+        return ToColorRef(skin[ColorSlot::MenuText]);
+    const visual::Look look = LookOf(skin);
+    const visual::Corners corners = visual::Corners::All(look.Radius());
+    const CRect menu = button.GetMenuRect();
+    const CRect command = button.GetCommandRect();
+    if (command.IsRectEmpty() || menu.IsRectEmpty()) {
+        visual::PaintFace(*pDC, button.GetRect(), skin[FaceSlot::MenuItemHot], corners, look);
+    } else {
+        visual::PaintFace(*pDC, command, skin[FaceSlot::MenuItemHot], corners, look);
+        visual::PaintFace(*pDC, menu, skin[FaceSlot::MenuItemHot], corners, look);
+    }
+    return ToColorRef(skin[ColorSlot::MenuTextHot]);
+}
+
 visual::ButtonParts PartsOf(CMFCRibbonButton& button) {
     visual::ButtonParts parts;
     parts.rect = button.GetRect();
@@ -128,6 +147,8 @@ void CMFCVisualManager::OnFillRibbonQuickAccessToolBarPopup(CDC* pDC, CMFCRibbon
 
 COLORREF CMFCVisualManager::OnFillRibbonButton(CDC* pDC, CMFCRibbonButton* pButton) {
     const ElementState state = StateOf(*pButton);
+    if (pButton->IsMenuMode())
+        return FillMenuRow(pDC, *pButton, state, GetSkin());
     visual::PaintButton(*pDC, PartsOf(*pButton), state, LookOf(GetSkin()));
     return ButtonTextColor(GetSkin(), state);
 }
@@ -234,9 +255,9 @@ void CMFCVisualManager::OnDrawRibbonMainPanelButtonBorder(CDC*, CMFCRibbonButton
 
 COLORREF CMFCVisualManager::OnFillRibbonMainPanelButton(CDC* pDC, CMFCRibbonButton* pButton) {
     const ElementState state = StateOf(*pButton);
-    if (state.isHot && !state.isDisabled)
-        visual::PaintFace(*pDC, pButton->GetRect(), GetSkin()[FaceSlot::MenuItemHot],
-                          visual::Corners::All(LookOf(GetSkin()).Radius()), LookOf(GetSkin()));
+    const FaceSlot face = state.isHot && !state.isDisabled ? FaceSlot::MenuItemHot : FaceSlot::Group;
+    visual::PaintFace(*pDC, pButton->GetRect(), GetSkin()[face], visual::Corners::All(LookOf(GetSkin()).Radius()),
+                      LookOf(GetSkin()));
     return ToColorRef(GetSkin()[state.isDisabled ? ColorSlot::MenuTextDisabled : ColorSlot::MenuText]);
 }
 

@@ -108,7 +108,8 @@ void CMFCVisualManagerOffice2003::OnUpdateSystemColors() {
 }
 
 void CMFCVisualManagerOffice2003::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
-    if (visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
+    if (visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
+        visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
         return;
     const visual::Argb light = visual::FromColorRef(m_clrToolBarGradientLight);
     const visual::Argb dark = visual::FromColorRef(m_clrToolBarGradientDark);

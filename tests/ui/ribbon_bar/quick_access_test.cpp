@@ -140,24 +140,6 @@ TEST_F(QuickAccessTest, InANarrowBarWhatHasNoRoomIsNotShown) {
     EXPECT_TRUE(CopyOf(commands::firstHandled + 1039)->GetRect().IsRectEmpty());
 }
 
-TEST_F(QuickAccessTest, TheContextMenuAddsAnElement) {
-    Element(commands::paste).SetDisabled(FALSE);
-    CountingPopupMenu menu(1);
-    const CRect rect = Element(commands::paste).GetRect();
-    Bar().OnShowRibbonContextMenu(&Bar(), rect.left, rect.top, &Element(commands::paste));
-    EXPECT_EQ(menu.Count(), 1);
-    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
-}
-
-TEST_F(QuickAccessTest, TheToolbarsMenuTogglesItsCommands) {
-    SetDefaultState({commands::paste}, {commands::cut});
-    CountingPopupMenu second(2);
-    Bar().OnShowRibbonQATMenu(&Bar(), 0, 0, nullptr);
-    EXPECT_THAT(Commands(), ElementsAre(commands::paste, commands::cut));
-    Bar().OnShowRibbonQATMenu(&Bar(), 0, 0, nullptr);
-    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
-}
-
 TEST_F(QuickAccessTest, TenTimesTheCommandsTakeNoMoreThanFortyTimesTheTime) {
     const auto measure = [this](int count) {
         CMFCRibbonCategory* category = AddManyButtons(count, 50);

@@ -21,12 +21,20 @@ int RibbonFrame::OnCreate(LPCREATESTRUCT create) {
 
 void RibbonFrame::OnRibbonCommand(UINT id) {
     commands.push_back(id);
+    if (onCommand) {
+        const auto action = onCommand;
+        action();
+        return;
+    }
     if (id == ::commands::closesFrame) {
         DestroyWindow();
     }
 }
 
 void RibbonFrame::OnUpdateRibbonCommand(CCmdUI* update) {
+    if (onUpdate) {
+        onUpdate();
+    }
     update->Enable(update->m_nID != disabledCommand);
     update->SetCheck(update->m_nID == checkedCommand ? 1 : 0);
     if (update->m_nID == renamedCommand) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -49,6 +50,8 @@ public:
     UINT checkedCommand = 0;
     UINT renamedCommand = 0;
     CString newName;
+    std::function<void()> onCommand; // after the command was noted; may end the frame
+    std::function<void()> onUpdate;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);

@@ -1,0 +1,113 @@
+// A button as a row of a menu: image column, text, short-cut, arrow.
+#include <afxribbonbutton.h>
+
+#include <afxglobals.h>
+#include <afxribbonpanelmenu.h>
+#include <afxvisualmanager.h>
+
+#include "ribbon/element_metrics.h"
+#include "ribbon/menu_geometry.h"
+
+namespace {
+
+constexpr UINT kRowText = DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER | DT_END_ELLIPSIS | DT_NOCLIP;
+
+std::wstring_view View(const CString& text) {
+    return {static_cast<LPCTSTR>(text), static_cast<size_t>(text.GetLength())};
+}
+
+// A text from a menu carries its short-cut behind a tab.
+CString TextOf(const CString& text) {
+    const int tab = text.Find(L'\t');
+    return tab < 0 ? text : text.Left(tab);
+}
+
+CString KeysOf(const CString& text) {
+    const int tab = text.Find(L'\t');
+    return tab < 0 ? CString() : text.Mid(tab + 1);
+}
+
+// A check mark or a dot in the middle of the rectangle.
+void DrawMark(CDC* pDC, const CRect& rect, BOOL isRadio, COLORREF color) {
+    const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
+    const int unit = std::max(1, metrics.Scaled(1));
+    const CPoint middle = rect.CenterPoint();
+    const COLORREF oldColor = pDC->GetBkColor();
+    if (isRadio) {
+        const int radius = metrics.Scaled(3);
+        for (int y = -radius; y <= radius; ++y) {
+            const int half = radius - std::max(0, std::abs(y) - radius / 2);
+            pDC->FillSolidRect(middle.x - half, middle.y + y, 2 * half + 1, 1, color);
+        }
+    } else {
+        for (int step = -3; step <= 4; ++step) {
+            const int low = step < 0 ? step + 3 : 3 - step;
+            pDC->FillSolidRect(middle.x + step * unit, middle.y + (low - 2) * unit, unit, 2 * unit + 1, color);
+        }
+    }
+    pDC->SetBkColor(oldColor);
+}
+
+void DrawSubmenuArrow(CDC* pDC, const CRect& rect, COLORREF color) {
+    const int half = std::max(3, ribbon::CurrentMetrics().Scaled(3));
+    const CPoint middle = rect.CenterPoint();
+    const COLORREF oldColor = pDC->GetBkColor();
+    for (int column = 0; column <= half; ++column) {
+        const int reach = half - column;
+        pDC->FillSolidRect(middle.x - half / 2 + column, middle.y - reach, 1, 2 * reach + 1, color);
+    }
+    pDC->SetBkColor(oldColor);
+}
+
+} // namespace
+
+ribbon::MenuRowContent CMFCRibbonButton::CollectMenuRow(CDC* pDC) const {
+    ribbon::MenuRowContent content;
+    const ribbon::TextContext context(pDC);
+    const BOOL isLarge = m_pParentMenu != nullptr ? m_pParentMenu->HasLargeRows(this) : IsAlwaysLargeImage();
+    content.image = ribbon::FromSize(GetImageSize(isLarge ? RibbonImageLarge : RibbonImageSmall));
+    content.text = context.Measure(View(TextOf(m_strText)));
+    content.text.height = ribbon::CurrentMetrics().textHeight;
+    content.keys = context.Measure(View(KeysOf(m_strText)));
+    if (isLarge && m_bIsAlwaysShowDescription && !m_strDescription.IsEmpty())
+        content.description = context.Measure(View(m_strDescription));
+    if (HasMenu())
+        content.menu = IsSplit() ? ribbon::ButtonMenu::Split : ribbon::ButtonMenu::Whole;
+    content.imageColumn = m_pParentMenu != nullptr ? m_pParentMenu->GetImageColumnWidth(this) : 0;
+    return content;
+}
+
+void CMFCRibbonButton::PlaceMenuRowParts(CDC* pDC) {
+    const ribbon::MenuRowFace face =
+        ribbon::PlaceMenuRow(ribbon::FromRect(m_rect), CollectMenuRow(pDC), ribbon::CurrentMetrics());
+    m_rectCommand = ribbon::ToRect(face.command);
+    m_rectMenu = ribbon::ToRect(face.menu);
+}
+
+void CMFCRibbonButton::DrawMenuRow(CDC* pDC) {
+    const ribbon::TextContext context(pDC);
+    const ribbon::MenuRowContent content = CollectMenuRow(pDC);
+    const ribbon::MenuRowFace face = ribbon::PlaceMenuRow(ribbon::FromRect(m_rect), content, ribbon::CurrentMetrics());
+    const COLORREF color = ribbon::TextColor(pDC, OnFillBackground(pDC), IsDisabled());
+
+    if (IsChecked())
+        CMFCVisualManager::GetInstance()->OnDrawRibbonMenuCheckFrame(pDC, this, ribbon::ToRect(face.frame));
+    if (face.image.IsEmpty() || !OnDrawMenuImage(pDC, ribbon::ToRect(face.image))) {
+        if (IsChecked())
+            DrawMark(pDC, ribbon::ToRect(face.frame), IsRadio(), color);
+    }
+    DrawRibbonText(pDC, TextOf(m_strText), ribbon::ToRect(face.text), kRowText, color);
+    if (!face.description.IsEmpty())
+        DrawRibbonText(pDC, m_strDescription, ribbon::ToRect(face.description), kRowText, color);
+    if (!face.keys.IsEmpty())
+        DrawRibbonText(pDC, KeysOf(m_strText), ribbon::ToRect(face.keys), kRowText, color);
+    if (!face.arrow.IsEmpty())
+        DrawSubmenuArrow(pDC, ribbon::ToRect(face.arrow), color);
+    OnDrawBorder(pDC);
+}
+
+BOOL CMFCRibbonButton::OnDrawMenuImage(CDC* pDC, CRect rect) {
+    const BOOL isLarge = rect.Width() > GetImageSize(RibbonImageSmall).cx;
+    DrawImage(pDC, isLarge ? RibbonImageLarge : RibbonImageSmall, rect);
+    return TRUE;
+}

@@ -1,0 +1,144 @@
+// The application menu.
+#include "afxRibbonMainPanel.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "afxRibbonEdit.h"
+#include "afxvisualmanager.h"
+#include "ribbon/bar_parts.h"
+#include "ribbon/element_metrics.h"
+#include "ribbon/main_panel_geometry.h"
+#include "ribbon/menu_geometry.h"
+
+struct RibbonMainPanelParts {
+    enum class Place { Left, Right, Bottom };
+    std::vector<const CMFCRibbonBaseElement*> right;
+    std::vector<const CMFCRibbonBaseElement*> bottom;
+    int rightWidth = 0; // at 96 DPI
+    bool smallRows = false;
+    ribbon::MainPanelPlaces places;
+
+    Place PlaceOf(const CMFCRibbonBaseElement* element) const {
+        if (std::find(right.begin(), right.end(), element) != right.end()) {
+            return Place::Right;
+        }
+        return std::find(bottom.begin(), bottom.end(), element) != bottom.end() ? Place::Bottom : Place::Left;
+    }
+};
+
+// ---- button of the bottom row
+
+IMPLEMENT_DYNCREATE(CMFCRibbonMainPanelButton, CMFCRibbonButton)
+
+CMFCRibbonMainPanelButton::CMFCRibbonMainPanelButton() = default;
+
+CMFCRibbonMainPanelButton::CMFCRibbonMainPanelButton(UINT uiCmdID, LPCTSTR lpszText, int nSmallImageIndex)
+    : CMFCRibbonButton(uiCmdID, lpszText, nSmallImageIndex) {}
+
+COLORREF CMFCRibbonMainPanelButton::OnFillBackground(CDC* pDC) {
+    return CMFCVisualManager::GetInstance()->OnFillRibbonMainPanelButton(pDC, this);
+}
+
+void CMFCRibbonMainPanelButton::OnDrawBorder(CDC* pDC) {
+    CMFCVisualManager::GetInstance()->OnDrawRibbonMainPanelButtonBorder(pDC, this);
+}
+
+// ---- panel
+
+IMPLEMENT_DYNCREATE(CMFCRibbonMainPanel, CMFCRibbonPanel)
+
+CMFCRibbonMainPanel::CMFCRibbonMainPanel() : m_parts(std::make_unique<RibbonMainPanelParts>()) { m_bMenuMode = TRUE; }
+
+CMFCRibbonMainPanel::~CMFCRibbonMainPanel() = default;
+
+void CMFCRibbonMainPanel::Add(CMFCRibbonBaseElement* pElem) { CMFCRibbonPanel::Add(pElem); }
+
+void CMFCRibbonMainPanel::AddToRight(CMFCRibbonBaseElement* pElem, int nWidth) {
+    if (pElem == nullptr) {
+        return;
+    }
+    m_parts->right.push_back(pElem);
+    m_parts->rightWidth = std::max(m_parts->rightWidth, nWidth);
+    CMFCRibbonPanel::Add(pElem);
+}
+
+void CMFCRibbonMainPanel::AddToBottom(CMFCRibbonMainPanelButton* pElem) {
+    if (pElem == nullptr) {
+        return;
+    }
+    m_parts->bottom.push_back(pElem);
+    CMFCRibbonPanel::Add(pElem);
+}
+
+CRect CMFCRibbonMainPanel::GetCommandsFrame() const {
+    return m_pParentMenuBar != nullptr ? ribbon::ToRect(m_parts->places.frame) : CRect(0, 0, 0, 0);
+}
+
+int CMFCRibbonMainPanel::GetImageColumnWidth(const CMFCRibbonButton* pButton) const {
+    const bool isLarge =
+        !m_parts->smallRows && pButton != nullptr && m_parts->PlaceOf(pButton) == RibbonMainPanelParts::Place::Left;
+    const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
+    return ribbon::MenuImageColumn(metrics.Scaled(isLarge ? 32 : 16), metrics);
+}
+
+BOOL CMFCRibbonMainPanel::HasLargeRow(const CMFCRibbonButton* pButton) const {
+    return !m_parts->smallRows && m_parts->PlaceOf(pButton) == RibbonMainPanelParts::Place::Left &&
+           pButton->GetImageSize(CMFCRibbonBaseElement::RibbonImageLarge).cx > 0;
+}
+
+// Large rows, unless the screen is too low for them.
+CSize CMFCRibbonMainPanel::Arrange(CDC* pDC, CSize room) {
+    m_parts->smallRows = false;
+    CSize size = ArrangeRows(pDC);
+    if (size.cy > room.cy) {
+        m_parts->smallRows = true;
+        size = ArrangeRows(pDC);
+    }
+    return size;
+}
+
+CSize CMFCRibbonMainPanel::ArrangeRows(CDC* pDC) {
+    using Place = RibbonMainPanelParts::Place;
+    ribbon::MainPanelContent content;
+    content.rightWidth = ribbon::CurrentMetrics().Scaled(m_parts->rightWidth);
+    for (int index = 0; index < GetCount(); ++index) {
+        CMFCRibbonBaseElement& element = *GetElement(index);
+        const Place place = m_parts->PlaceOf(&element);
+        element.SetMenuMode(place != Place::Bottom);
+        element.SetCompactMode(FALSE);
+        element.SetIntermediateMode(place == Place::Bottom);
+        element.OnCalcTextSize(pDC);
+        const CSize size = element.IsVisible() ? element.GetSize(pDC) : CSize(0, 0);
+        auto& list = place == Place::Right ? content.right : place == Place::Bottom ? content.bottom : content.left;
+        list.push_back(ribbon::FromSize(size));
+    }
+    m_parts->places = ribbon::PlaceMainPanel(content, ribbon::CurrentMetrics());
+    const ribbon::MainPanelPlaces& places = m_parts->places;
+    size_t left = 0;
+    size_t right = 0;
+    size_t bottom = 0;
+    for (int index = 0; index < GetCount(); ++index) {
+        CMFCRibbonBaseElement& element = *GetElement(index);
+        const Place place = m_parts->PlaceOf(&element);
+        CRect rect = ribbon::ToRect(place == Place::Right    ? places.right[right++]
+                                    : place == Place::Bottom ? places.bottom[bottom++]
+                                                             : places.left[left++]);
+        if (rect.IsRectEmpty()) {
+            rect = CRect(0, 0, 0, 0);
+        }
+        element.SetRect(rect);
+        element.OnAfterChangeRect(pDC);
+        element.OnShow(!rect.IsRectEmpty());
+    }
+    return ribbon::ToSize(places.size);
+}
+
+void CMFCRibbonMainPanel::DrawBackground(CDC* pDC, CRect rect) {
+    CMFCVisualManager* manager = CMFCVisualManager::GetInstance();
+    manager->OnDrawRibbonMainPanelFrame(pDC, this, rect);
+    manager->OnFillRibbonMenuFrame(pDC, this, ribbon::ToRect(m_parts->places.frame));
+    if (!m_parts->places.rightFrame.IsEmpty()) {
+        manager->OnDrawRibbonRecentFilesFrame(pDC, this, ribbon::ToRect(m_parts->places.rightFrame));
+    }
+}

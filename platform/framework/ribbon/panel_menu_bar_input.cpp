@@ -1,0 +1,515 @@
+// Pointer and keyboard of a ribbon pop-up. A press belongs to its element until the button is released.
+#include "afxribbonpanelmenu.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "afxRibbonLabel.h"
+#include "afxribbonbar.h"
+#include "afxribbonbutton.h"
+#include "ribbon/element_metrics.h"
+#include "ribbon/panel_menu_parts.h"
+
+BEGIN_MESSAGE_MAP(CMFCRibbonPanelMenuBar, CPane)
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_MOUSEMOVE()
+ON_WM_MOUSELEAVE()
+ON_WM_CONTEXTMENU()
+ON_WM_CANCELMODE()
+ON_WM_CAPTURECHANGED()
+ON_WM_TIMER()
+ON_WM_MOUSEACTIVATE()
+ON_WM_SETCURSOR()
+ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr UINT_PTR kHoverTimer = 1;
+constexpr UINT_PTR kScrollTimer = 2;
+constexpr UINT_PTR kRepeatTimer = 3;
+constexpr UINT kScrollDelay = 100;
+constexpr int kFarAway = -32000;
+
+bool TakesInput(const CMFCRibbonBaseElement& element) { return !element.IsDisabled() && !element.IsSeparator(); }
+
+UINT HoverDelay() {
+    DWORD delay = 400;
+    ::SystemParametersInfo(SPI_GETMENUSHOWDELAY, 0, &delay, 0);
+    return std::max<UINT>(delay, 1);
+}
+
+bool IsHeading(CMFCRibbonBaseElement& element) { return DYNAMIC_DOWNCAST(CMFCRibbonLabel, &element) != nullptr; }
+
+wchar_t Upper(wchar_t letter) {
+    return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(
+        ::CharUpperW(reinterpret_cast<LPWSTR>(static_cast<UINT_PTR>(static_cast<unsigned short>(letter))))));
+}
+
+} // namespace
+
+// ---- pointer
+
+int CMFCRibbonPanelMenuBar::OnMouseActivate(CWnd* /*pDesktopWnd*/, UINT /*nHitTest*/, UINT /*message*/) {
+    return MA_NOACTIVATE;
+}
+
+BOOL CMFCRibbonPanelMenuBar::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
+    return CPane::OnSetCursor(pWnd, nHitTest, message);
+}
+
+void CMFCRibbonPanelMenuBar::OnLButtonDown(UINT nFlags, CPoint point) {
+    CPane::OnLButtonDown(nFlags, point);
+    EnsureLayout();
+    const ribbon::Point at{static_cast<int>(point.x), static_cast<int>(point.y)};
+    if (m_parts->list.scrollUp.Contains(at) || m_parts->list.scrollDown.Contains(at)) {
+        Scroll(m_parts->list.scrollUp.Contains(at) ? -1 : 1);
+        return;
+    }
+    CMFCRibbonBaseElement* hit = HitTest(point);
+    CMFCRibbonPanelMenu* menu = GetMenu();
+    if (menu != nullptr && (hit == nullptr || !hit->IsDroppedDown())) {
+        menu->DismissChildren();
+    }
+    if (hit == nullptr || !TakesInput(*hit)) {
+        return;
+    }
+    const HWND window = m_hWnd;
+    m_parts->pressed = hit;
+    SetCapture();
+    SetHot(hit);
+    hit->SetPressed(TRUE);
+    hit->Redraw();
+    hit->OnLButtonDown(point);
+    int delay = 0;
+    if (::IsWindow(window) && m_parts->pressed != nullptr && m_parts->pressed->IsAutoRepeatMode(delay)) {
+        SetTimer(kRepeatTimer, static_cast<UINT>(delay), nullptr);
+    }
+}
+
+void CMFCRibbonPanelMenuBar::OnLButtonDblClk(UINT nFlags, CPoint point) { OnLButtonDown(nFlags, point); }
+
+// The command may end the window, its owner, or the elements: nothing is looked at afterwards.
+void CMFCRibbonPanelMenuBar::OnLButtonUp(UINT nFlags, CPoint point) {
+    CPane::OnLButtonUp(nFlags, point);
+    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
+    if (element == nullptr) {
+        return;
+    }
+    const HWND window = m_hWnd;
+    KillTimer(kRepeatTimer);
+    m_parts->releasing = element;
+    if (GetCapture() == this) {
+        ::ReleaseCapture();
+    }
+    if (!::IsWindow(window) || m_parts->releasing == nullptr) {
+        return;
+    }
+    element->OnLButtonUp(point);
+    if (!::IsWindow(window)) {
+        return;
+    }
+    if (CMFCRibbonBaseElement* released = std::exchange(m_parts->releasing, nullptr)) {
+        released->SetPressed(FALSE);
+        released->Redraw();
+    }
+}
+
+void CMFCRibbonPanelMenuBar::OnMouseMove(UINT nFlags, CPoint point) {
+    CPane::OnMouseMove(nFlags, point);
+    // Windows repeats moves when windows appear; the keyboard's choice must not be lost by that.
+    if (std::exchange(m_parts->lastMove, point) == point) {
+        return;
+    }
+    if (!m_parts->tracksLeave) {
+        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
+        m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
+    }
+    EnsureLayout();
+    CMFCRibbonBaseElement* hit = HitTest(point);
+    if (m_parts->pressed != nullptr) {
+        SetHot(hit == m_parts->pressed ? hit : nullptr);
+        m_parts->pressed->OnMouseMove(point);
+        return;
+    }
+    const ribbon::Point at{static_cast<int>(point.x), static_cast<int>(point.y)};
+    const int scroll = m_parts->list.scrollUp.Contains(at) ? -1 : m_parts->list.scrollDown.Contains(at) ? 1 : 0;
+    if (std::exchange(m_parts->scrollHot, scroll) != scroll) {
+        Invalidate(FALSE);
+        scroll != 0 ? static_cast<void>(SetTimer(kScrollTimer, kScrollDelay, nullptr))
+                    : static_cast<void>(KillTimer(kScrollTimer));
+    }
+    const bool changes = hit != m_parts->hot;
+    SetHot(hit);
+    if (m_parts->hot != nullptr) {
+        m_parts->hot->OnMouseMove(point);
+    }
+    if (changes && IsMenuMode()) {
+        SetTimer(kHoverTimer, HoverDelay(), nullptr);
+    }
+}
+
+// The row whose menu is open stays lit while the pointer is in that menu.
+void CMFCRibbonPanelMenuBar::OnMouseLeave() {
+    CPane::OnMouseLeave();
+    m_parts->tracksLeave = false;
+    m_parts->lastMove = CPoint(-1, -1);
+    m_parts->scrollHot = 0;
+    KillTimer(kScrollTimer);
+    KillTimer(kHoverTimer);
+    if (m_parts->pressed != nullptr) {
+        return;
+    }
+    CMFCRibbonBaseElement* dropped = nullptr;
+    for (const RibbonLoan& loan : m_parts->loans) {
+        dropped = dropped != nullptr ? dropped : loan.element->GetDroppedDown();
+    }
+    SetHot(dropped);
+}
+
+void CMFCRibbonPanelMenuBar::OnContextMenu(CWnd* /*pWnd*/, CPoint point) {
+    CPoint client = point;
+    ScreenToClient(&client);
+    CMFCRibbonBaseElement* hit = HitTest(client);
+    CMFCRibbonBar* bar = hit != nullptr ? hit->GetTopLevelRibbonBar() : nullptr;
+    if (bar != nullptr) {
+        bar->OnShowRibbonContextMenu(this, point.x, point.y, hit);
+    }
+}
+
+BOOL CMFCRibbonPanelMenuBar::OnMouseWheel(UINT /*nFlags*/, short zDelta, CPoint /*pt*/) {
+    Scroll(zDelta > 0 ? -1 : 1);
+    return TRUE;
+}
+
+void CMFCRibbonPanelMenuBar::OnCancelMode() {
+    CPane::OnCancelMode();
+    CancelPress();
+}
+
+void CMFCRibbonPanelMenuBar::OnCaptureChanged(CWnd* pWnd) {
+    CPane::OnCaptureChanged(pWnd);
+    if (pWnd != this) {
+        CancelPress();
+    }
+}
+
+void CMFCRibbonPanelMenuBar::CancelPress() {
+    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
+    if (element == nullptr) {
+        return;
+    }
+    if (GetSafeHwnd() != nullptr) {
+        KillTimer(kRepeatTimer);
+    }
+    element->SetPressed(FALSE);
+    // Whatever the element is in the middle of ends here; no element acts on a release so far away.
+    element->OnLButtonUp(CPoint(kFarAway, kFarAway));
+    if (GetSafeHwnd() != nullptr && GetCapture() == this) {
+        ::ReleaseCapture();
+    }
+}
+
+void CMFCRibbonPanelMenuBar::OnTimer(UINT_PTR nIDEvent) {
+    const HWND window = m_hWnd;
+    switch (nIDEvent) {
+    case kHoverTimer:
+        KillTimer(kHoverTimer);
+        OpenHot();
+        break;
+    case kScrollTimer:
+        if (m_parts->scrollHot == 0 || !Scroll(m_parts->scrollHot)) {
+            KillTimer(kScrollTimer);
+        }
+        break;
+    case kRepeatTimer:
+        if (m_parts->pressed == nullptr || !m_parts->pressed->OnAutoRepeat()) {
+            if (::IsWindow(window)) {
+                KillTimer(kRepeatTimer);
+            }
+        }
+        break;
+    default:
+        CPane::OnTimer(nIDEvent);
+    }
+}
+
+// What rests under the pointer opens its menu, or closes that of another row.
+void CMFCRibbonPanelMenuBar::OpenHot() {
+    CMFCRibbonBaseElement* hot = m_parts->hot;
+    CMFCRibbonPanelMenu* menu = GetMenu();
+    if (menu == nullptr || hot == nullptr || m_parts->pressed != nullptr || hot->IsDroppedDown()) {
+        return;
+    }
+    menu->DismissChildren();
+    if (hot->HasMenu() && TakesInput(*hot)) {
+        hot->OnShowPopupMenu();
+    }
+}
+
+void CMFCRibbonPanelMenuBar::SetHot(CMFCRibbonBaseElement* pElement) {
+    if (pElement != nullptr && pElement->IsSeparator()) {
+        pElement = nullptr;
+    }
+    if (m_parts->hot == pElement) {
+        return;
+    }
+    if (m_parts->hot != nullptr) {
+        m_parts->hot->SetHighlighted(FALSE);
+    }
+    m_parts->hot = pElement;
+    if (pElement != nullptr) {
+        pElement->SetHighlighted(TRUE);
+    }
+    for (const RibbonLoan& loan : m_parts->loans) {
+        loan.element->OnChangeMenuHighlight(this, pElement);
+    }
+}
+
+BOOL CMFCRibbonPanelMenuBar::Scroll(int nRows) {
+    if (m_parts->look != RibbonPopupLook::Menu || m_parts->list.scrollDown.IsEmpty()) {
+        return FALSE;
+    }
+    const bool can = nRows < 0 ? m_parts->list.canScrollUp : m_parts->list.canScrollDown;
+    if (!can) {
+        return FALSE;
+    }
+    if (CMFCRibbonPanelMenu* menu = GetMenu()) {
+        menu->DismissChildren();
+    }
+    SetHot(nullptr);
+    m_parts->list.firstRow = std::max(0, m_parts->list.firstRow + nRows);
+    CalcContentSize(m_parts->room);
+    Invalidate(FALSE);
+    return TRUE;
+}
+
+// ---- keyboard
+
+void CMFCRibbonPanelMenuBar::Highlight(CMFCRibbonBaseElement* pElement) {
+    ShowRowOf(pElement);
+    SetHot(pElement);
+}
+
+void CMFCRibbonPanelMenuBar::HighlightFirst() {
+    ElementArray stops;
+    CollectStops(stops);
+    if (!stops.IsEmpty()) {
+        Highlight(stops[0]);
+    }
+}
+
+// What the keyboard stops at, in the order of Tab. Rows that are scrolled out of view count.
+void CMFCRibbonPanelMenuBar::CollectStops(ElementArray& stops) const {
+    ElementArray all;
+    if (m_parts->category != nullptr) {
+        m_parts->category->GetVisibleElements(all);
+    } else {
+        for (CMFCRibbonBaseElement* element : m_parts->shown) {
+            element->GetElements(all);
+        }
+    }
+    for (INT_PTR index = 0; index < all.GetSize(); ++index) {
+        CMFCRibbonBaseElement& element = *all[index];
+        if (element.IsVisible() && element.IsTabStop() && !element.IsSeparator() && !IsHeading(element)) {
+            stops.Add(&element);
+        }
+    }
+}
+
+BOOL CMFCRibbonPanelMenuBar::OnKey(UINT nChar) {
+    CMFCRibbonBaseElement* hot = m_parts->hot;
+    CMFCRibbonPanelMenu* menu = GetMenu();
+    if (menu == nullptr) {
+        return FALSE;
+    }
+    switch (nChar) {
+    case VK_ESCAPE:
+        menu->GoBack();
+        return TRUE;
+    case VK_RETURN:
+    case VK_SPACE:
+        if (hot != nullptr) {
+            Activate(hot, Choice::Command);
+        }
+        return TRUE;
+    case VK_RIGHT:
+        if (hot != nullptr && IsMenuMode() && hot->HasMenu() && TakesInput(*hot)) {
+            Activate(hot, Choice::Menu);
+            return TRUE;
+        }
+        break;
+    case VK_LEFT:
+        if (IsMenuMode() && menu->GetParentMenu() != nullptr &&
+            (hot == nullptr || DYNAMIC_DOWNCAST(CMFCRibbonButton, hot) != nullptr)) {
+            menu->GoBack();
+            return TRUE;
+        }
+        break;
+    default:
+        break;
+    }
+    // A slider moves by itself.
+    const bool isOwnKey = nChar == VK_LEFT || nChar == VK_RIGHT;
+    if (isOwnKey && hot != nullptr && DYNAMIC_DOWNCAST(CMFCRibbonButton, hot) == nullptr && hot->ProcessKey(nChar)) {
+        return TRUE;
+    }
+    return MoveHot(nChar);
+}
+
+// A split button's row sends its command; its menu opens by the arrow key and the pointer.
+void CMFCRibbonPanelMenuBar::Activate(CMFCRibbonBaseElement* pElement, Choice choice) {
+    if (!TakesInput(*pElement)) {
+        return;
+    }
+    CMFCRibbonButton* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, pElement);
+    const bool opens =
+        button != nullptr && button->HasMenu() && (!button->IsDefaultCommand() || choice == Choice::Menu);
+    if (!opens) {
+        pElement->OnKey(FALSE);
+        return;
+    }
+    if (!pElement->IsDroppedDown()) {
+        pElement->OnShowPopupMenu();
+    }
+    CMFCRibbonPanelMenu* opened = CMFCRibbonPanelMenu::GetDeepest();
+    if (opened != nullptr && opened->GetOpener() == pElement) {
+        opened->GetRibbonMenuBar().HighlightFirst();
+    }
+}
+
+BOOL CMFCRibbonPanelMenuBar::MoveHot(UINT nChar) {
+    ElementArray stops;
+    CollectStops(stops);
+    if (stops.IsEmpty()) {
+        return FALSE;
+    }
+    switch (nChar) {
+    case VK_HOME:
+        Highlight(stops[0]);
+        return TRUE;
+    case VK_END:
+        Highlight(stops[stops.GetUpperBound()]);
+        return TRUE;
+    case VK_TAB:
+        return Step(::GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
+    case VK_UP:
+    case VK_DOWN:
+        if (m_parts->look == RibbonPopupLook::Menu) {
+            return Step(nChar == VK_UP ? -1 : 1);
+        }
+        return StepTowards(nChar);
+    case VK_LEFT:
+    case VK_RIGHT:
+        return m_parts->look == RibbonPopupLook::Menu ? TRUE : StepTowards(nChar);
+    default:
+        return FALSE;
+    }
+}
+
+BOOL CMFCRibbonPanelMenuBar::Step(int direction) {
+    ElementArray stops;
+    CollectStops(stops);
+    INT_PTR at = direction > 0 ? -1 : stops.GetSize();
+    for (INT_PTR index = 0; index < stops.GetSize(); ++index) {
+        if (stops[index] == m_parts->hot) {
+            at = index;
+        }
+    }
+    at = (at + direction + stops.GetSize()) % stops.GetSize();
+    Highlight(stops[at]);
+    return TRUE;
+}
+
+// The nearest stop on that side; sideways distance counts double.
+BOOL CMFCRibbonPanelMenuBar::StepTowards(UINT nChar) {
+    if (m_parts->hot == nullptr) {
+        HighlightFirst();
+        return TRUE;
+    }
+    ElementArray stops;
+    CollectStops(stops);
+    const CRect from = m_parts->hot->GetRect();
+    CMFCRibbonBaseElement* best = nullptr;
+    int bestDistance = 0;
+    for (INT_PTR index = 0; index < stops.GetSize(); ++index) {
+        const CRect to = stops[index]->GetRect();
+        if (stops[index] == m_parts->hot || to.IsRectEmpty()) {
+            continue;
+        }
+        const bool isVertical = nChar == VK_UP || nChar == VK_DOWN;
+        const int along = nChar == VK_DOWN    ? to.top - from.bottom
+                          : nChar == VK_UP    ? from.top - to.bottom
+                          : nChar == VK_RIGHT ? to.left - from.right
+                                              : from.left - to.right;
+        const int across = isVertical ? std::abs(to.CenterPoint().x - from.CenterPoint().x)
+                                      : std::abs(to.CenterPoint().y - from.CenterPoint().y);
+        const int distance = along + 2 * across;
+        if (along >= -1 && (best == nullptr || distance < bestDistance)) {
+            best = stops[index];
+            bestDistance = distance;
+        }
+    }
+    if (best != nullptr) {
+        Highlight(best);
+    }
+    return TRUE;
+}
+
+void CMFCRibbonPanelMenuBar::ShowRowOf(CMFCRibbonBaseElement* pElement) {
+    if (m_parts->look != RibbonPopupLook::Menu || pElement == nullptr || m_parts->list.scrollDown.IsEmpty()) {
+        return;
+    }
+    for (size_t index = 0; index < m_parts->shown.size(); ++index) {
+        if (m_parts->shown[index]->Find(pElement) == nullptr) {
+            continue;
+        }
+        const int first =
+            ribbon::FirstRowThatShows(m_parts->rows, static_cast<int>(index), static_cast<int>(m_parts->room.cy),
+                                      m_parts->list.firstRow, ribbon::CurrentMetrics());
+        if (first != m_parts->list.firstRow) {
+            m_parts->list.firstRow = first;
+            CalcContentSize(m_parts->room);
+            Invalidate(FALSE);
+        }
+        return;
+    }
+}
+
+// A key tip that fits acts at once; a first letter that several texts share walks through them.
+BOOL CMFCRibbonPanelMenuBar::OnLetter(UINT nUpperChar) {
+    ElementArray stops;
+    CollectStops(stops);
+    const auto letter = static_cast<wchar_t>(nUpperChar);
+    std::vector<CMFCRibbonBaseElement*> byText;
+    for (INT_PTR index = 0; index < stops.GetSize(); ++index) {
+        CMFCRibbonBaseElement& element = *stops[index];
+        if (TakesInput(element) && element.OnMenuKey(nUpperChar)) {
+            return TRUE;
+        }
+        const CString keys = *element.GetMenuKeys() != 0 ? element.GetMenuKeys() : element.GetKeys();
+        if (keys.GetLength() == 1 && Upper(keys[0]) == letter) {
+            Highlight(&element);
+            Activate(&element, Choice::Command);
+            return TRUE;
+        }
+        const CString text = element.GetText();
+        if (keys.IsEmpty() && !text.IsEmpty() && Upper(text[0]) == letter) {
+            byText.push_back(&element);
+        }
+    }
+    if (byText.empty()) {
+        return FALSE;
+    }
+    const auto at = std::find(byText.begin(), byText.end(), m_parts->hot);
+    CMFCRibbonBaseElement* next = at == byText.end() || at + 1 == byText.end() ? byText.front() : *(at + 1);
+    Highlight(next);
+    if (byText.size() == 1) {
+        Activate(next, Choice::Command);
+    }
+    return TRUE;
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "afxRibbonPanel.h"
+#include "afxribboncategory.h"
+#include "afxribbonpanelmenu.h"
+#include "ribbon/menu_geometry.h"
+
+/// A panel of elements that are another's: it forgets them before it goes.
+class LentPanel : public CMFCRibbonPanel {
+public:
+    LentPanel(LPCTSTR name, bool isMenu) : CMFCRibbonPanel(name) { m_bMenuMode = isMenu; }
+    ~LentPanel() override {
+        m_arElements.RemoveAll();
+        m_pParentMenuBar = nullptr;
+    }
+
+    void Set(CMFCRibbonCategory* category, CMFCRibbonPanelMenuBar* bar) {
+        m_pParent = category;
+        m_pParentMenuBar = bar;
+    }
+    void Show(CMFCRibbonBaseElement* element) { m_arElements.Add(element); }
+    void Forget(const CMFCRibbonBaseElement* element) {
+        for (INT_PTR index = m_arElements.GetSize(); index-- > 0;) {
+            if (m_arElements[index] == element) {
+                m_arElements.RemoveAt(index);
+            }
+        }
+    }
+    bool IsLent() const override { return false; }
+    void ForgetAll() { m_arElements.RemoveAll(); }
+};
+
+/// What an element was like before it was lent.
+struct RibbonLoan {
+    CMFCRibbonBaseElement* element;
+    BOOL isCompact;
+    BOOL isIntermediate;
+    BOOL isMenuMode;
+    CWnd* parentWindow;                 // its own, not the bar's
+    CMFCRibbonPanelMenuBar* parentMenu; // a pop-up of panels lends on what one of them holds
+    CRect rect;
+};
+
+/// What a ribbon pop-up shows and what it knows of the pointer.
+struct RibbonPanelMenuParts {
+    RibbonPopupLook look = RibbonPopupLook::Menu;
+    CMFCRibbonPanel* source = nullptr; // whose elements are shown
+    CMFCRibbonCategory* category = nullptr;
+    CMFCRibbonMainPanel* mainPanel = nullptr;
+    CSize categorySize{0, 0};
+    std::unique_ptr<LentPanel> panel;
+    std::vector<std::unique_ptr<CMFCRibbonBaseElement>> owned;
+    std::vector<CMFCRibbonBaseElement*> shown; // top level, in order
+    std::vector<RibbonLoan> loans;
+    bool isLent = false;
+    CWnd* commandWindow = nullptr; // of what opened the pop-up
+    bool defaultMenuLook = false;
+
+    bool layoutDirty = true;
+    bool isLayingOut = false;
+    CSize room{0, 0};
+    CSize size{0, 0};
+    ribbon::MenuList list;
+    std::vector<ribbon::Size> rows;
+    int imageColumn = 0;
+
+    CMFCRibbonBaseElement* hot = nullptr;
+    CMFCRibbonBaseElement* pressed = nullptr;
+    CMFCRibbonBaseElement* releasing = nullptr;
+    CMFCRibbonBaseElement* returning = nullptr; // goes back to its container now
+    CPoint lastMove{-1, -1};
+    int scrollHot = 0; // -1 up, 1 down
+    bool tracksLeave = false;
+};

@@ -1,0 +1,170 @@
+// Pop-ups of the quick access toolbar and context menus.
+#include <gmock/gmock.h>
+
+#include "tests/ui/ribbon_popup/popup_fixture.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
+
+class QuickAccessPopup : public RibbonPopupTest {
+protected:
+    void SetDefaultState(std::initializer_list<UINT> visible, std::initializer_list<UINT> others = {}) {
+        CMFCRibbonQuickAccessToolBarDefaultState state;
+        for (const UINT id : visible) {
+            state.AddCommand(id);
+        }
+        for (const UINT id : others) {
+            state.AddCommand(id, FALSE);
+        }
+        Bar().SetQuickAccessDefaultState(state);
+        PumpPending();
+    }
+    std::vector<UINT> Commands() {
+        CList<UINT, UINT> list;
+        Bar().GetQuickAccessCommands(list);
+        std::vector<UINT> ids;
+        for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
+            ids.push_back(list.GetNext(position));
+        }
+        return ids;
+    }
+    CMFCRibbonBaseElement& At(CPoint point) {
+        CMFCRibbonBaseElement* hit = Bar().HitTest(point);
+        if (hit == nullptr) {
+            throw std::runtime_error("nothing is there");
+        }
+        return *hit;
+    }
+    CMFCRibbonBaseElement& CustomizeButton() {
+        const CRect toolbar = Bar().GetQuickAccessToolbarLocation();
+        for (int x = toolbar.right - 1; x > toolbar.left; --x) {
+            CMFCRibbonBaseElement* hit = Bar().HitTest(CPoint(x, toolbar.CenterPoint().y));
+            if (DYNAMIC_DOWNCAST(CMFCRibbonQuickAccessCustomizeButton, hit) != nullptr) {
+                return *hit;
+            }
+        }
+        throw std::runtime_error("no customize button");
+    }
+    CMFCRibbonBaseElement* MoreButton() {
+        const CRect toolbar = Bar().GetQuickAccessToolbarLocation();
+        for (int x = toolbar.left; x < toolbar.right; ++x) {
+            CMFCRibbonBaseElement* hit = Bar().HitTest(CPoint(x, toolbar.CenterPoint().y));
+            if (DYNAMIC_DOWNCAST(CMFCRibbonQuickAccessMoreButton, hit) != nullptr) {
+                return hit;
+            }
+        }
+        return nullptr;
+    }
+    CMFCRibbonBaseElement& Row(LPCTSTR text) {
+        ElementArray rows;
+        PopupBar().GetElements(rows);
+        for (INT_PTR index = 0; index < rows.GetSize(); ++index) {
+            if (CString(rows[index]->GetText()) == text) {
+                return *rows[index];
+            }
+        }
+        throw std::runtime_error("no such row");
+    }
+};
+
+TEST_F(QuickAccessPopup, TheCustomizeMenuChecksWhatIsShownAndTogglesIt) {
+    SetDefaultState({commands::paste}, {commands::cut});
+    Click(CustomizeButton());
+    ASSERT_EQ(OpenCount(), 1);
+    EXPECT_TRUE(Row(L"Paste").IsChecked());
+    EXPECT_FALSE(Row(L"Cut").IsChecked());
+    Click(Row(L"Cut"));
+    EXPECT_THAT(Commands(), ElementsAre(commands::paste, commands::cut));
+    EXPECT_EQ(OpenCount(), 0);
+    Click(CustomizeButton());
+    Click(Row(L"Paste"));
+    EXPECT_THAT(Commands(), ElementsAre(commands::cut));
+    EXPECT_THAT(m_frame->commands, IsEmpty()) << "customising sends no command";
+}
+
+TEST_F(QuickAccessPopup, TheCustomizeMenuMovesTheToolbarBelowTheRibbonAndBack) {
+    SetDefaultState({commands::paste});
+    Click(CustomizeButton());
+    Click(Row(L"Show Quick Access Toolbar Below the Ribbon"));
+    EXPECT_FALSE(Bar().IsQuickAccessToolbarOnTop());
+    Click(CustomizeButton());
+    Click(Row(L"Show Quick Access Toolbar Above the Ribbon"));
+    EXPECT_TRUE(Bar().IsQuickAccessToolbarOnTop());
+}
+
+TEST_F(QuickAccessPopup, TheCustomizeMenuMinimisesTheRibbon) {
+    SetDefaultState({commands::paste});
+    Click(CustomizeButton());
+    Click(Row(L"Minimize the Ribbon"));
+    EXPECT_NE(Bar().GetHideFlags() & AFX_RIBBONBAR_HIDE_ELEMENTS, 0u);
+}
+
+TEST_F(QuickAccessPopup, TheContextMenuAddsAnElementAndRemovesItsCopy) {
+    const CPoint at = Element(commands::paste).GetRect().CenterPoint();
+    CPoint screen = at;
+    Bar().ClientToScreen(&screen);
+    Bar().OnShowRibbonContextMenu(&Bar(), screen.x, screen.y, &Element(commands::paste));
+    Click(Row(L"Add to Quick Access Toolbar"));
+    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
+    CMFCRibbonBaseElement& copy = At(Bar().GetQATCommandsLocation().CenterPoint());
+    Bar().OnShowRibbonContextMenu(&Bar(), screen.x, screen.y, &copy);
+    Click(Row(L"Remove from Quick Access Toolbar"));
+    EXPECT_THAT(Commands(), IsEmpty());
+}
+
+TEST_F(QuickAccessPopup, AnElementIsAddedFromACollapsedPanelsPopup) {
+    CMFCRibbonPanel& panel = OpenCollapsedPanel();
+    CPoint screen = panel.GetElement(0)->GetRect().CenterPoint();
+    PopupBar().ClientToScreen(&screen);
+    ::SendMessage(PopupBar(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(PopupBar().GetSafeHwnd()),
+                  MAKELPARAM(screen.x, screen.y));
+    ASSERT_EQ(OpenCount(), 2);
+    Click(Row(L"Add to Quick Access Toolbar"));
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
+}
+
+TEST_F(QuickAccessPopup, AnElementThatGoesWhileItsContextMenuIsOpenIsNotAdded) {
+    Bar().OnShowRibbonContextMenu(&Bar(), 50, 50, &Element(commands::paste));
+    Bar().GetCategory(0)->GetPanel(0)->Remove(0);
+    Click(Row(L"Add to Quick Access Toolbar"));
+    EXPECT_THAT(Commands(), IsEmpty());
+}
+
+TEST_F(QuickAccessPopup, WhatHasNoRoomIsShownByTheMoreButtonAndWorks) {
+    AddManyButtons(30, 20);
+    CList<UINT, UINT> list;
+    list.AddTail(commands::firstHandled + 1000);
+    Bar().SetQuickAccessCommands(list);
+    EXPECT_EQ(MoreButton(), nullptr) << "there is room";
+    for (UINT id = 1; id < 30; ++id) {
+        list.AddTail(commands::firstHandled + 1000 + id);
+    }
+    Bar().SetQuickAccessCommands(list);
+    SetClientWidth(300);
+    ASSERT_NE(MoreButton(), nullptr);
+    Click(*MoreButton());
+    ASSERT_EQ(OpenCount(), 1);
+    ElementArray rest;
+    PopupBar().GetElements(rest);
+    int inBar = 0;
+    ElementArray all;
+    for (UINT id = 0; id < 30; ++id) {
+        Bar().GetElementsByID(commands::firstHandled + 1000 + id, all);
+        for (INT_PTR index = 0; index < all.GetSize(); ++index) {
+            const bool isHere = all[index]->IsQATMode() && all[index]->GetParentMenu() == nullptr &&
+                                !all[index]->GetRect().IsRectEmpty();
+            inBar += isHere ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(inBar + rest.GetSize(), 30) << "each is in the bar or in the pop-up";
+    const UINT last = rest[rest.GetUpperBound()]->GetID();
+    Click(*rest[rest.GetUpperBound()]);
+    EXPECT_THAT(m_frame->commands, ElementsAre(last));
+    EXPECT_EQ(OpenCount(), 0);
+}
+
+} // namespace

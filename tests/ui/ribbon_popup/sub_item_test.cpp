@@ -1,0 +1,215 @@
+// Pop-ups of buttons: sub-items, menus by handle, split buttons.
+#include <gmock/gmock.h>
+
+#include "tests/ui/ribbon_popup/popup_fixture.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class SubItems : public RibbonPopupTest {};
+
+TEST_F(SubItems, APressOpensThemAndTheButtonIsDroppedDown) {
+    Click(Shapes());
+    EXPECT_EQ(OpenCount(), 1);
+    EXPECT_TRUE(Shapes().IsDroppedDown());
+    EXPECT_EQ(Bar().GetDroppedDown(), &Shapes());
+    EXPECT_EQ(Popup().GetOpener(), &Shapes());
+    EXPECT_TRUE(PopupBar().IsMenuMode());
+    EXPECT_TRUE(PopupBar().IsRibbonPanel());
+    EXPECT_FALSE(PopupBar().IsRibbonPanelInRegularMode());
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+}
+
+TEST_F(SubItems, LieOneBelowTheOtherAndHiddenOnesTakeNoPlace) {
+    Click(Shapes());
+    for (int index = 1; index < 5; ++index) {
+        EXPECT_EQ(SubItem(index).GetRect().top, SubItem(index - 1).GetRect().bottom);
+        EXPECT_EQ(SubItem(index).GetRect().Width(), SubItem(0).GetRect().Width());
+    }
+    EXPECT_TRUE(SubItem(5).GetRect().IsRectEmpty());
+    EXPECT_EQ(PopupBar().HitTest(SubItem(1).GetRect().CenterPoint()), &SubItem(1));
+    EXPECT_EQ(PopupBar().HitTestEx(SubItem(1).GetRect().CenterPoint()), 1);
+}
+
+TEST_F(SubItems, LieBelowTheirButtonOnTheScreen) {
+    Click(Shapes());
+    CRect button = Shapes().GetRect();
+    Bar().ClientToScreen(button);
+    CRect popup;
+    Popup().GetWindowRect(popup);
+    EXPECT_EQ(popup.left, button.left);
+    EXPECT_EQ(popup.top, button.bottom);
+}
+
+TEST_F(SubItems, AClickSendsTheCommandOnceAndClosesEverything) {
+    Click(Shapes());
+    Click(SubItem(1));
+    EXPECT_THAT(m_frame->commands, ElementsAre(kStar));
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_FALSE(Shapes().IsDroppedDown());
+}
+
+TEST_F(SubItems, GoBackUnchangedWhenThePopupCloses) {
+    Click(Shapes());
+    EXPECT_EQ(SubItem(0).GetParentMenu(), &PopupBar());
+    EXPECT_EQ(SubItem(0).GetParentWnd(), &PopupBar());
+    EXPECT_TRUE(SubItem(0).IsMenuMode());
+    MoveOver(SubItem(0));
+    EXPECT_TRUE(SubItem(0).IsHighlighted());
+    CMFCRibbonPanelMenu::DismissAll();
+    EXPECT_EQ(SubItem(0).GetParentMenu(), nullptr);
+    EXPECT_EQ(SubItem(0).GetParentWnd(), &Bar());
+    EXPECT_FALSE(SubItem(0).IsMenuMode());
+    EXPECT_FALSE(SubItem(0).IsHighlighted());
+    EXPECT_TRUE(SubItem(0).GetRect().IsRectEmpty());
+}
+
+TEST_F(SubItems, ADisabledRowDoesNothing) {
+    Click(Shapes());
+    EXPECT_TRUE(SubItem(4).IsDisabled()) << "the host's update handlers were asked";
+    Click(SubItem(4));
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+    EXPECT_EQ(OpenCount(), 1);
+}
+
+TEST_F(SubItems, TheHostSetsChecksOfRowsWhileTheyAreShown) {
+    m_frame->checkedCommand = kLine;
+    Click(Shapes());
+    EXPECT_TRUE(SubItem(0).IsChecked());
+    m_frame->checkedCommand = kStar;
+    RunIdle();
+    EXPECT_FALSE(SubItem(0).IsChecked());
+    EXPECT_TRUE(SubItem(1).IsChecked());
+}
+
+TEST_F(SubItems, ANestedRowOpensBesideItByAClick) {
+    Click(Shapes());
+    CRect row = SubItem(3).GetRect();
+    PopupBar().ClientToScreen(row);
+    Click(SubItem(3));
+    ASSERT_EQ(OpenCount(), 2);
+    CRect nested;
+    Popup().GetWindowRect(nested);
+    EXPECT_EQ(nested.left, row.right);
+    EXPECT_EQ(nested.top, row.top);
+    Click(*SubItem(3).GetSubItems()[0]);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kCircle));
+    EXPECT_EQ(OpenCount(), 0);
+}
+
+TEST_F(SubItems, ANestedRowOpensWhenThePointerRestsOnIt) {
+    Click(Shapes());
+    MoveOver(SubItem(3));
+    EXPECT_TRUE(PumpUntil([] { return OpenCount() == 2; }));
+    MoveOver(SubItem(0));
+    EXPECT_TRUE(PumpUntil([] { return OpenCount() == 1; })) << "another row closes it again";
+}
+
+TEST_F(SubItems, AnotherPressOnTheButtonClosesThem) {
+    Click(Shapes());
+    Click(Shapes());
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_FALSE(Shapes().IsDroppedDown());
+}
+
+TEST_F(SubItems, APressElsewhereClosesThemAndIsNotLost) {
+    Click(Shapes());
+    Click(Element(commands::paste));
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_THAT(m_frame->commands, ElementsAre(commands::paste));
+}
+
+TEST_F(SubItems, ADisabledButtonOpensNothing) {
+    Shapes().SetDisabled(TRUE);
+    Shapes().OnShowPopupMenu();
+    EXPECT_EQ(OpenCount(), 0);
+}
+
+TEST_F(SubItems, AnotherProgramsActivationClosesThem) {
+    Click(Shapes());
+    ::SendMessage(Popup(), WM_ACTIVATEAPP, FALSE, 0);
+    EXPECT_EQ(OpenCount(), 0);
+}
+
+TEST_F(SubItems, AListLongerThanTheScreenScrollsToItsLastRow) {
+    for (UINT index = 0; index < 200; ++index) {
+        Shapes().AddSubItem(new CMFCRibbonButton(2000 + index, L"Row"));
+    }
+    Click(Shapes());
+    CMFCRibbonBaseElement& last = *Shapes().GetSubItems()[Shapes().GetSubItems().GetUpperBound()];
+    EXPECT_TRUE(last.GetRect().IsRectEmpty());
+    CRect window;
+    Popup().GetWindowRect(window);
+    EXPECT_LE(window.Height(), ::GetSystemMetrics(SM_CYSCREEN));
+    while (PopupBar().Scroll(1)) {
+    }
+    EXPECT_FALSE(last.GetRect().IsRectEmpty());
+    Click(last);
+    EXPECT_THAT(m_frame->commands, ElementsAre(2199u));
+}
+
+TEST_F(SubItems, AMenuHandleIsShownInPlaceOfSubItems) {
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, kLine, L"&One\tCtrl+1");
+    menu.AppendMenu(MF_SEPARATOR);
+    CMenu inner;
+    inner.CreatePopupMenu();
+    inner.AppendMenu(MF_STRING, kCircle, L"Inner");
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(inner.Detach()), L"&More");
+    menu.AppendMenu(MF_STRING, kOff, L"Off");
+    Shapes().SetMenu(menu.GetSafeHmenu());
+    Click(Shapes());
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> rows;
+    PopupBar().GetElements(rows);
+    ASSERT_EQ(rows.GetSize(), 4);
+    EXPECT_STREQ(rows[0]->GetText(), L"One\tCtrl+1");
+    EXPECT_STREQ(rows[0]->GetMenuKeys(), L"O");
+    EXPECT_TRUE(rows[1]->IsSeparator());
+    EXPECT_TRUE(rows[2]->HasMenu());
+    EXPECT_TRUE(rows[3]->IsDisabled());
+    Click(*rows[0]);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kLine));
+}
+
+class SplitButton : public RibbonPopupTest {};
+
+TEST_F(SplitButton, TheCommandPartSendsAndTheMenuPartOpens) {
+    Click(Split(), Split().GetCommandRect().CenterPoint());
+    EXPECT_THAT(m_frame->commands, ElementsAre(kSplit));
+    EXPECT_EQ(OpenCount(), 0);
+    Click(Split(), Split().GetMenuRect().CenterPoint());
+    ASSERT_EQ(OpenCount(), 1);
+    Click(*Split().GetSubItems()[0]);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kSplit, kOne));
+}
+
+TEST_F(SplitButton, ARightAlignedMenuEndsAtTheButtonsRightEdge) {
+    Split().SetRightAlignMenu();
+    Split().SetRect(CRect(400, 20, 600, 42)); // wide enough, and far enough from the screen's edge
+    Bar().ClientToScreen(CRect());
+    Split().OnShowPopupMenu();
+    CRect button = Split().GetRect();
+    Bar().ClientToScreen(button);
+    CRect popup;
+    Popup().GetWindowRect(popup);
+    EXPECT_EQ(popup.right, button.right);
+}
+
+TEST_F(SplitButton, ARowWithACommandOfItsOwnHasBothParts) {
+    SubItem(3).SetDefaultCommand();
+    Click(Shapes());
+    EXPECT_FALSE(SubItem(3).GetCommandRect().IsRectEmpty());
+    EXPECT_FALSE(SubItem(3).GetMenuRect().IsRectEmpty());
+    Click(SubItem(3), SubItem(3).GetMenuRect().CenterPoint());
+    EXPECT_EQ(OpenCount(), 2);
+    CMFCRibbonPanelMenu::DismissAll();
+    Click(Shapes());
+    Click(SubItem(3), SubItem(3).GetCommandRect().CenterPoint());
+    EXPECT_THAT(m_frame->commands, ElementsAre(kMore));
+    EXPECT_EQ(OpenCount(), 0);
+}
+
+} // namespace
