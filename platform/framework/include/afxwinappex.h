@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class CContextMenuManager;
 class CFrameImpl;
 class CKeyboardManager;
 class CTooltipManager;
@@ -49,8 +50,10 @@ public:
     /// FALSE: there was one already.
     BOOL InitKeyboardManager();
     BOOL InitTooltipManager();
+    BOOL InitContextMenuManager();
     CKeyboardManager* GetKeyboardManager();
     CTooltipManager* GetTooltipManager();
+    CContextMenuManager* GetContextMenuManager();
 
     virtual BOOL OnViewDoubleClick(CWnd* pWnd, int iViewId);
     virtual BOOL OnWorkspaceIdle(CWnd*);

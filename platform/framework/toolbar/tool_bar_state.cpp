@@ -73,5 +73,6 @@ BOOL CMFCToolBar::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
 
 BOOL CMFCToolBar::RemoveStateFromRegistry(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
     CWinAppEx* application = Application();
-    return application && application->CleanState(SectionOf(*this, lpszProfileName, nIndex, uiID));
+    return application &&
+           application->CleanState(application->GetRegSectionPath(SectionOf(*this, lpszProfileName, nIndex, uiID)));
 }

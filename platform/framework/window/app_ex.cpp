@@ -1,5 +1,6 @@
 #include "afxwinappex.h"
 
+#include "afxcontextmenumanager.h"
 #include "afxkeyboardmanager.h"
 #include "afxtooltipmanager.h"
 
@@ -28,6 +29,7 @@ std::vector<BYTE> StoreObject(CObject& object) {
 struct CWinAppEx::Managers {
     std::unique_ptr<CKeyboardManager> keyboard;
     std::unique_ptr<CTooltipManager> toolTip;
+    std::unique_ptr<CContextMenuManager> contextMenus;
 };
 
 CWinAppEx::CWinAppEx(BOOL bResourceSmartUpdate)
@@ -160,6 +162,14 @@ BOOL CWinAppEx::InitTooltipManager() {
     return TRUE;
 }
 
+BOOL CWinAppEx::InitContextMenuManager() {
+    if (m_managers->contextMenus != nullptr) {
+        return FALSE;
+    }
+    m_managers->contextMenus = std::make_unique<CContextMenuManager>();
+    return TRUE;
+}
+
 CKeyboardManager* CWinAppEx::GetKeyboardManager() {
     InitKeyboardManager();
     return m_managers->keyboard.get();
@@ -168,6 +178,11 @@ CKeyboardManager* CWinAppEx::GetKeyboardManager() {
 CTooltipManager* CWinAppEx::GetTooltipManager() {
     InitTooltipManager();
     return m_managers->toolTip.get();
+}
+
+CContextMenuManager* CWinAppEx::GetContextMenuManager() {
+    InitContextMenuManager();
+    return m_managers->contextMenus.get();
 }
 
 BOOL CWinAppEx::OnViewDoubleClick(CWnd*, int) { return FALSE; }

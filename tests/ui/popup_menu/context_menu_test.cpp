@@ -71,6 +71,15 @@ TEST_F(ContextMenuTest, ARightAlignedMenuEndsAtThePoint) {
     EXPECT_EQ(window.top, 200);
 }
 
+TEST_F(ContextMenuTest, TheApplicationMakesItsManagerWhenAsked) {
+    auto* application = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp());
+    ASSERT_NE(application, nullptr);
+    CContextMenuManager* manager = application->GetContextMenuManager();
+    ASSERT_NE(manager, nullptr);
+    EXPECT_EQ(application->GetContextMenuManager(), manager);
+    EXPECT_FALSE(application->InitContextMenuManager());
+}
+
 TEST_F(ContextMenuTest, TheFirstManagerIsTheProgramsOne) {
     EXPECT_EQ(afxContextMenuManager, &m_manager);
     EXPECT_FALSE(m_manager.AddMenu(L"Missing", 4711));

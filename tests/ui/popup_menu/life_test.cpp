@@ -1,3 +1,4 @@
+#include "tests/support/gui_objects.h"
 #include "tests/ui/popup_menu/menu_frame.h"
 
 TEST_F(PopupMenuTest, ANewMenuIsTheActiveOneAndTellsTheFrame) {
@@ -192,37 +193,6 @@ TEST_F(PopupMenuTest, ItemsCanBeAddedToAMenuWithoutAHandle) {
     EXPECT_EQ(m_frame->commands, std::vector<UINT>{menu_ids::open});
 }
 
-namespace {
-
-/// Windows of this process's thread.
-int CountWindows() {
-    int count = 0;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND, LPARAM number) -> BOOL {
-            ++*reinterpret_cast<int*>(number);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
-/// Entries that are used in the process's table of GDI objects; the system's own count is not kept everywhere.
-int CountGdiObjects() {
-    // The table lies behind a pointer in the process environment block: 24 bytes for each of 65,536 handles, the first
-    // pointer of an entry null when it is free.
-    const auto* environment = reinterpret_cast<const char*>(__readgsqword(0x60));
-    const auto* table = *reinterpret_cast<const char* const*>(environment + 0xF8);
-    int count = 0;
-    constexpr int handles = 0x4000, entrySize = 24;
-    for (int i = 0; table && i < handles; ++i) {
-        count += *reinterpret_cast<const ULONG_PTR*>(table + static_cast<size_t>(i) * entrySize) != 0;
-    }
-    return count;
-}
-
-} // namespace
-
 TEST_F(PopupMenuTest, FiveHundredMenusLeaveNoObjectBehind) {
     const auto openAndClose = [this] {
         CMFCPopupMenu* menu = Open();
@@ -234,16 +204,9 @@ TEST_F(PopupMenuTest, FiveHundredMenusLeaveNoObjectBehind) {
     for (int i = 0; i < 5; ++i) {
         openAndClose();
     }
-    const int windows = CountWindows();
-    const int objects = CountGdiObjects();
-    const DWORD userObjects = ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS);
+    const GuiObjects before = CountGuiObjects();
     for (int i = 0; i < 500; ++i) {
         openAndClose();
     }
-    EXPECT_EQ(CountWindows(), windows);
-    EXPECT_EQ(CountGdiObjects(), objects);
-    EXPECT_EQ(::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS), userObjects);
-    // The count sees a single object.
-    CPen pen(PS_SOLID, 1, RGB(1, 2, 3));
-    EXPECT_EQ(CountGdiObjects(), objects + 1);
+    EXPECT_EQ(CountGuiObjects(), before);
 }

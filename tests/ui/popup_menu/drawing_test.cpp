@@ -1,0 +1,177 @@
+#include <objidl.h>
+#include <propidl.h>
+
+#include <gdiplus.h>
+
+#include <algorithm>
+#include <string>
+
+#include "afxglobals.h"
+#include "tests/ui/popup_menu/menu_frame.h"
+
+namespace {
+
+/// A menu and a bar whose drawing the tests call.
+class DrawnBar : public CMFCPopupMenuBar {
+public:
+    using CMFCPopupMenuBar::DoPaint;
+};
+
+class DrawnMenu : public CMFCPopupMenu {
+public:
+    CMFCPopupMenuBar* GetMenuBar() override { return &bar; }
+    using CMFCPopupMenu::DrawFrame;
+    DrawnBar bar;
+};
+
+constexpr DWORD unpainted = 0xFF00FF;
+
+/// The menu as it draws itself: 32 bits a pixel, top row first.
+class Picture {
+public:
+    explicit Picture(DrawnMenu& menu) {
+        CRect client;
+        menu.GetClientRect(client);
+        m_size = client.Size();
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof(BITMAPINFOHEADER), m_size.cx, -m_size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        m_pixels = static_cast<DWORD*>(bits);
+        std::fill(m_pixels, m_pixels + m_size.cx * m_size.cy, unpainted);
+        CDC dc;
+        dc.CreateCompatibleDC(nullptr);
+        const HGDIOBJ previous = ::SelectObject(dc.GetSafeHdc(), m_bitmap);
+        menu.DrawFrame(&dc);
+        m_bar = menu.GetBarRect();
+        dc.SetViewportOrg(m_bar.TopLeft());
+        dc.IntersectClipRect(CRect(CPoint(0, 0), m_bar.Size()));
+        menu.bar.DoPaint(&dc);
+        ::GdiFlush();
+        ::SelectObject(dc.GetSafeHdc(), previous);
+    }
+    ~Picture() { ::DeleteObject(m_bitmap); }
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    DWORD At(CPoint point) const { return m_pixels[point.y * m_size.cx + point.x] & 0xFFFFFF; }
+    /// A point of the bar.
+    DWORD InBar(int x, int y) const { return At(CPoint(m_bar.left + x, m_bar.top + y)); }
+    CSize Size() const { return m_size; }
+
+    /// Written for people to look at, when BARWRIGHT_PICTURES names a folder.
+    void Save(const std::wstring& name) const {
+        wchar_t folder[MAX_PATH];
+        if (::GetEnvironmentVariableW(L"BARWRIGHT_PICTURES", folder, MAX_PATH) == 0) {
+            return;
+        }
+        const Gdiplus::GdiplusStartupInput input;
+        ULONG_PTR token = 0;
+        ASSERT_EQ(Gdiplus::GdiplusStartup(&token, &input, nullptr), Gdiplus::Ok);
+        {
+            Gdiplus::Bitmap bitmap(m_size.cx, m_size.cy, m_size.cx * 4, PixelFormat32bppRGB,
+                                   reinterpret_cast<BYTE*>(m_pixels));
+            const CLSID png{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
+            EXPECT_EQ(bitmap.Save((std::wstring(folder) + L"\\" + name).c_str(), &png, nullptr), Gdiplus::Ok);
+        }
+        Gdiplus::GdiplusShutdown(token);
+    }
+
+private:
+    CSize m_size;
+    CRect m_bar;
+    HBITMAP m_bitmap = nullptr;
+    DWORD* m_pixels = nullptr;
+};
+
+using Style = CMFCVisualManagerOffice2007::Style;
+
+struct Look {
+    Style style;
+    const wchar_t* name;
+    double scale;
+};
+
+class MenuLookTest : public PopupMenuTest, public ::testing::WithParamInterface<Look> {
+protected:
+    MenuLookTest() {
+        CMFCVisualManagerOffice2007::SetStyle(GetParam().style);
+        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+        afxGlobalData.SetRibbonImageScale(GetParam().scale);
+    }
+    ~MenuLookTest() override {
+        CMFCPopupMenu::CloseAll();
+        afxGlobalData.SetRibbonImageScale(0);
+        CMFCVisualManager::SetDefaultManager(nullptr);
+        CMFCVisualManagerOffice2007::CleanStyle();
+    }
+    DrawnMenu* OpenDrawn() {
+        auto* menu = new DrawnMenu;
+        return menu->Create(m_frame, 200, 150, MakeMenu()) ? menu : nullptr;
+    }
+};
+
+} // namespace
+
+TEST_P(MenuLookTest, EveryPixelIsPaintedAndEveryPartIsThere) {
+    DrawnMenu* menu = OpenDrawn();
+    ASSERT_NE(menu, nullptr);
+    Keys(m_window).Press(VK_DOWN);
+    const Picture picture(*menu);
+    std::wstring name = L"menu-";
+    name += GetParam().name;
+    name += GetParam().scale > 1 ? L"-150.png" : L"-100.png";
+    picture.Save(name);
+    int holes = 0;
+    for (int y = 0; y < picture.Size().cy; ++y) {
+        for (int x = 0; x < picture.Size().cx; ++x) {
+            holes += picture.At(CPoint(x, y)) == unpainted;
+        }
+    }
+    EXPECT_EQ(holes, 0);
+
+    const CMFCPopupMenuBar& bar = menu->bar;
+    const int gutter = bar.GetGutterWidth();
+    const CPoint plain = CenterOf(menu, 3); // disabled
+    CRect row, checked, separator;
+    bar.GetItemRect(3, row);
+    bar.GetItemRect(4, checked);
+    bar.GetItemRect(1, separator);
+    const DWORD fill = picture.InBar(gutter + 3, plain.y);
+    // The column of images, the hot row's face, the check mark's face, the border and the separator stand out.
+    EXPECT_NE(picture.InBar(2, plain.y), fill);
+    EXPECT_NE(picture.InBar(gutter + 3, CenterOf(menu, 0).y), fill);
+    EXPECT_NE(picture.InBar(gutter / 2, checked.CenterPoint().y), picture.InBar(2, checked.CenterPoint().y));
+    EXPECT_NE(picture.At(CPoint(0, picture.Size().cy / 2)), fill);
+    bool hasLine = false;
+    for (int y = separator.top; y < separator.bottom; ++y) {
+        hasLine = hasLine || picture.InBar(row.Width() / 2, y) != fill;
+    }
+    EXPECT_TRUE(hasLine);
+}
+
+TEST_P(MenuLookTest, DisabledTextIsPalerThanTheRest) {
+    DrawnMenu* menu = OpenDrawn();
+    const Picture picture(*menu);
+    const auto darkest = [&](int index) {
+        CRect row;
+        menu->bar.GetItemRect(index, row);
+        int value = 3 * 255;
+        for (int y = row.top + 2; y < row.bottom - 2; ++y) {
+            for (int x = menu->bar.GetGutterWidth() + 4; x < row.right - 4; ++x) {
+                const DWORD pixel = picture.InBar(x, y);
+                value = std::min<int>(value, GetRValue(pixel) + GetGValue(pixel) + GetBValue(pixel));
+            }
+        }
+        return value;
+    };
+    EXPECT_GT(darkest(3), darkest(4) + 60);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Looks, MenuLookTest,
+    ::testing::Values(Look{Style::Office2007_LunaBlue, L"blue", 1.0}, Look{Style::Office2007_LunaBlue, L"blue", 1.5},
+                      Look{Style::Office2007_ObsidianBlack, L"black", 1.0},
+                      Look{Style::Office2007_ObsidianBlack, L"black", 1.5}, Look{Style::Office2007_Aqua, L"aqua", 1.0},
+                      Look{Style::Office2007_Aqua, L"aqua", 1.5}, Look{Style::Office2007_Silver, L"silver", 1.0},
+                      Look{Style::Office2007_Silver, L"silver", 1.5}));
