@@ -188,6 +188,8 @@ LEFT_OUT("state kept between runs", CKeyboardManager, LoadState, ResetAll, SaveS
 
 LEFT_OUT("looks of controls that the framework does not have", CMFCBaseVisualManager, DrawStatusBarProgress,
          GetStandardWindowsTheme)
+LEFT_OUT("buttons of docked panes, galleries and tabs, which the framework does not have yet", CMFCVisualManager,
+         OnDrawCaptionButton, OnDrawRibbonGalleryButton, OnDrawTabContent)
 LEFT_OUT("looks of controls that the framework does not have", CMFCVisualManager, DoDrawHeaderSortArrow,
          GetAutoHideButtonTextColor, GetCaptionBarTextColor, GetPropertyGridGroupColor, GetPropertyGridGroupTextColor,
          GetSmartDockingBaseGuideColors, GetSmartDockingTheme, OnDrawAutoHideButtonBorder, OnDrawBrowseButton,
