@@ -272,9 +272,12 @@ void RibbonAccess::Describe(const Node& node, CAccessibilityData& data) const {
         data.m_strName = WithoutMnemonic(PanelOf(node).GetName());
         data.m_nRole = ROLE_SYSTEM_GROUPING;
         break;
-    case Kind::Element:
-        node.anchor->SetACCData(&m_bar, data);
+    case Kind::Element: {
+        // A pop-up may show it for a while.
+        CWnd* window = node.anchor->GetParentWnd();
+        node.anchor->SetACCData(window != nullptr ? window : &m_bar, data);
         return;
+    }
     }
     data.m_rect = RectOf(node);
     if (data.m_rect.IsRectEmpty()) {

@@ -96,7 +96,8 @@ void RibbonKeyboard::GiveFocusBack() {
 
 void RibbonKeyboard::OnFocusWent(HWND next) {
     const bool stays = next != nullptr && (next == m_bar.GetSafeHwnd() || ::IsChild(m_bar.GetSafeHwnd(), next));
-    const bool goesToPopup = next != nullptr && IsPopupOnTop() && next == m_levels.back().window->GetSafeHwnd();
+    const HWND popup = IsPopupOnTop() ? m_levels.back().window->GetSafeHwnd() : nullptr;
+    const bool goesToPopup = next != nullptr && popup != nullptr && (next == popup || ::IsChild(popup, next));
     if (m_isActive && !m_isMovingFocus && !stays && !goesToPopup) {
         Deactivate(Focus::Leave);
     }
@@ -322,7 +323,7 @@ void RibbonKeyboard::EnterCategory(CMFCRibbonTab& tab) {
     // Minimised: the tab shows its panels as a press on it does.
     const HWND window = m_bar.GetSafeHwnd();
     tab.OnLButtonDown(tab.GetRect().CenterPoint());
-    if (::IsWindow(window)) {
+    if (::IsWindow(window) && !IsPopupOnTop()) {
         if (const Elements shown = CategoryStops(); !shown.empty()) {
             SetFocusTo(shown.front());
         }
@@ -497,13 +498,17 @@ void RibbonKeyboard::ExecuteTab(CMFCRibbonTab& tab) {
     m_target = nullptr;
     SetFocusTo(&tab);
     m_bar.EnsureLayout();
-    PushLevel(tab.GetParentCategory());
-    if (tab.GetParentCategory()->GetRect().IsRectEmpty()) {
+    CMFCRibbonCategory* category = tab.GetParentCategory();
+    if (category->GetRect().IsRectEmpty()) {
         // Minimised: a press shows the panels, in a pop-up that brings a level of its own.
+        m_target = &tab;
         tab.OnLButtonDown(tab.GetRect().CenterPoint());
-        if (!::IsWindow(window)) {
+        if (!::IsWindow(window) || !m_isActive || std::exchange(m_target, nullptr) == nullptr) {
             return;
         }
+    }
+    if (!IsPopupOnTop()) {
+        PushLevel(category);
     }
     ShowMatchingTips();
 }
