@@ -46,7 +46,7 @@ CObList& AllToolBars() {
     return bars;
 }
 
-CSize AtLeast(SIZE button, SIZE image) {
+CSize RoomFor(SIZE button, SIZE image) {
     return CSize(std::max(button.cx, image.cx + buttonBorder.cx), std::max(button.cy, image.cy + buttonBorder.cy));
 }
 
@@ -106,7 +106,7 @@ const CObList& CMFCToolBar::GetAllToolbars() { return AllToolBars(); }
 
 void __stdcall CMFCToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage) {
     m_sizeImage = sizeImage;
-    m_sizeButton = AtLeast(sizeButton, sizeImage);
+    m_sizeButton = RoomFor(sizeButton, sizeImage);
     // A list that has images keeps their size.
     for (CMFCToolBarImages* images : {&m_Images, &m_ColdImages, &m_DisabledImages}) {
         if (images->GetCount() == 0) {
@@ -130,7 +130,7 @@ void __stdcall CMFCToolBar::SetMenuSizes(SIZE sizeButton, SIZE sizeImage) {
 
 void CMFCToolBar::SetLockedSizes(SIZE sizeButton, SIZE sizeImage, BOOL) {
     m_sizeImageLocked = sizeImage;
-    m_sizeButtonLocked = AtLeast(sizeButton, sizeImage);
+    m_sizeButtonLocked = RoomFor(sizeButton, sizeImage);
     for (CMFCToolBarImages* images : {&m_ImagesLocked, &m_ColdImagesLocked, &m_DisabledImagesLocked}) {
         if (images->GetCount() == 0) {
             images->SetImageSize(sizeImage);

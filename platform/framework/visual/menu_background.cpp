@@ -15,3 +15,11 @@ bool visual::PaintMenuBackground(HDC dc, CBasePane* bar, const RECT& rect, const
     }
     return true;
 }
+
+bool visual::PaintMenuSeparator(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
+    if (DYNAMIC_DOWNCAST(CMFCPopupMenuBar, bar) == nullptr)
+        return false;
+    const LONG middle = (rect.top + rect.bottom - look.Line()) / 2;
+    PaintSolid(dc, {rect.left, middle, rect.right, middle + look.Line()}, look.skin[ColorSlot::MenuSeparator]);
+    return true;
+}

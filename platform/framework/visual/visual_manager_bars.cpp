@@ -48,6 +48,8 @@ void CMFCVisualManager::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, B
                            GetSkin()[ColorSlot::MenuSeparator]);
         return;
     }
+    if (!bIsHoriz && visual::PaintMenuSeparator(*pDC, pBar, rect, LookOf(GetSkin())))
+        return;
     visual::PaintEtchedLine(*pDC, rect, bIsHoriz != FALSE, GetSkin()[ColorSlot::SeparatorDark],
                             GetSkin()[ColorSlot::SeparatorLight], LookOf(GetSkin()));
 }

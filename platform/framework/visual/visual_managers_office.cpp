@@ -1,6 +1,7 @@
 #include "afxvisualmanageroffice2007.h"
 
 #include "afxtooltipctrl.h"
+#include "afxpopupmenubar.h"
 #include "visual/manager_look.h"
 #include "visual/menu_background.h"
 #include "visual/system_skins.h"
@@ -93,8 +94,12 @@ void CMFCVisualManagerOffice2003::OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu*, CRe
     PaintMenuBorder(*pDC, rect, visual::GradientSkin());
 }
 
-void CMFCVisualManagerOffice2003::OnDrawSeparator(CDC* pDC, CBasePane*, CRect rect, BOOL bIsHoriz) {
-    PaintSeparator(*pDC, rect, bIsHoriz, visual::GradientSkin());
+void CMFCVisualManagerOffice2003::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz) {
+    // Between a menu's items the line is the menu's own.
+    if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr)
+        CMFCVisualManager::OnDrawSeparator(pDC, pBar, rect, bIsHoriz);
+    else
+        PaintSeparator(*pDC, rect, bIsHoriz, visual::GradientSkin());
 }
 
 void CMFCVisualManagerOffice2003::OnUpdateSystemColors() {
@@ -172,8 +177,12 @@ void CMFCVisualManagerOffice2007::OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu*, CRe
     PaintMenuBorder(*pDC, rect, GetSkin());
 }
 
-void CMFCVisualManagerOffice2007::OnDrawSeparator(CDC* pDC, CBasePane*, CRect rect, BOOL bIsHoriz) {
-    PaintSeparator(*pDC, rect, bIsHoriz, GetSkin());
+void CMFCVisualManagerOffice2007::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz) {
+    // Between a menu's items the line is the menu's own.
+    if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr)
+        CMFCVisualManager::OnDrawSeparator(pDC, pBar, rect, bIsHoriz);
+    else
+        PaintSeparator(*pDC, rect, bIsHoriz, GetSkin());
 }
 
 void CMFCVisualManagerOffice2007::OnUpdateSystemColors() { CMFCVisualManagerOffice2003::OnUpdateSystemColors(); }
