@@ -85,6 +85,7 @@ INTERFACE_OF(CMFCRibbonBaseElement) {
     VIRTUAL(void, OnCalcTextSize, (CDC*));
     VIRTUAL(void, OnDraw, (CDC*));
     VIRTUAL(void, OnDrawKeyTip, (CDC*, const CRect&, BOOL));
+    VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, CRect));
     VIRTUAL(BOOL, OnKey, (BOOL));
     VIRTUAL(BOOL, OnMenuKey, (UINT));
     VIRTUAL(void, OnRTLChanged, (BOOL));
@@ -106,6 +107,7 @@ INTERFACE_OF(CMFCRibbonBaseElement) {
     CALL(SetKeys, LPCTSTR);
     VIRTUAL(void, SetOriginal, (CMFCRibbonBaseElement*));
     VIRTUAL(void, SetParentCategory, (CMFCRibbonCategory*));
+    VIRTUAL(void, SetParentMenu, (CMFCRibbonPanelMenuBar*));
     VIRTUAL(void, SetParentRibbonBar, (CMFCRibbonBar*));
     MEMBER(void, SetRect, (CRect));
     VIRTUAL(void, SetText, (LPCTSTR));

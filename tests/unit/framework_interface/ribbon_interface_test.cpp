@@ -2,6 +2,7 @@
 
 #include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
+#include "afxRibbonMainPanel.h"
 #include "afxRibbonPanel.h"
 #include "afxbaseribbonelement.h"
 #include "afxribbonbar.h"
@@ -31,6 +32,8 @@ INTERFACE_OF(CMFCRibbonBar) {
     MEMBER(CMFCRibbonCategory*, AddContextCategory,
            (LPCTSTR, LPCTSTR, UINT, AFX_RibbonCategoryColor, UINT, UINT, CSize, CSize, CRuntimeClass*));
     CALL(AddContextCategory, LPCTSTR, LPCTSTR, UINT, AFX_RibbonCategoryColor, UINT, UINT);
+    MEMBER(CMFCRibbonMainPanel*, AddMainCategory, (LPCTSTR, UINT, UINT, CSize, CSize));
+    CALL(AddMainCategory, LPCTSTR, UINT, UINT);
     MEMBER(void, AddToTabs, (CMFCRibbonBaseElement*));
     MEMBER(BOOL, CreateEx, (CWnd*, DWORD, DWORD, UINT));
     CALL(CreateEx, CWnd*);
@@ -65,6 +68,7 @@ INTERFACE_OF(CMFCRibbonBar) {
     MEMBER(int, GetKeyboardNavigationLevel, () const);
     MEMBER(CObject*, GetKeyboardNavLevelCurrent, () const);
     MEMBER(CObject*, GetKeyboardNavLevelParent, () const);
+    MEMBER(CMFCRibbonCategory*, GetMainCategory, () const);
     MEMBER(CRect, GetQATCommandsLocation, () const);
     MEMBER(CMFCRibbonBaseElement*, GetQATDroppedDown, ());
     MEMBER(void, GetQuickAccessCommands, (CList<UINT, UINT>&));
@@ -217,6 +221,7 @@ INTERFACE_OF(CMFCRibbonCheckBox) {
     VIRTUAL(CSize, GetRegularSize, (CDC*));
     VIRTUAL(BOOL, IsDrawTooltipImage, () const);
     VIRTUAL(void, OnDraw, (CDC*));
+    VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, CRect));
     VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
 }
 
@@ -271,6 +276,17 @@ INTERFACE_OF(CMFCRibbonLabel) {
     NAMED(CreateObject);
     NAMED(GetThisClass);
     VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
+}
+
+INTERFACE_OF(CMFCRibbonMainPanel) {
+    BASE(CMFCRibbonPanel);
+    VIRTUAL(void, Add, (CMFCRibbonBaseElement*));
+    MEMBER(void, AddToBottom, (CMFCRibbonMainPanelButton*));
+    MEMBER(void, AddToRight, (CMFCRibbonBaseElement*, int));
+    CALL(AddToRight, CMFCRibbonBaseElement*);
+    NAMED(CreateObject);
+    MEMBER(CRect, GetCommandsFrame, () const);
+    NAMED(GetThisClass);
 }
 
 INTERFACE_OF(CMFCRibbonPanel) {
@@ -328,6 +344,8 @@ INTERFACE_OF(CMFCRibbonPanel) {
     MEMBER(void, SetJustifyColumns, (BOOL));
     CALL(SetJustifyColumns);
     MEMBER(void, SetKeys, (LPCTSTR));
+    MEMBER(CMFCRibbonPanelMenu*, ShowPopup, (CMFCRibbonDefaultPanelButton*));
+    CALL(ShowPopup);
     VIRTUAL(void, Highlight, (BOOL, CPoint));
     MEMBER(BOOL, IsWindows7Look, () const);
 }
