@@ -18,5 +18,4 @@ public:
     virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpClassName, LPCTSTR lpWindowName, DWORD dwStyle, const RECT& rect,
                           CWnd* pParentWnd = NULL, UINT nID = 0);
     using CFrameWnd::Create;
-    using CFrameWnd::CreateEx;
 };
