@@ -139,7 +139,7 @@ MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, 
     const int bottom = std::max(y, maxHeight - scrollHeight);
     list.scrollDown = {0, bottom, width, bottom + scrollHeight};
     list.canScrollUp = list.firstRow > 0;
-    list.canScrollDown = static_cast<size_t>(list.firstRow + count) < rows.size();
+    list.canScrollDown = list.firstRow + count < static_cast<int>(rows.size());
     list.size = {width, bottom + scrollHeight};
     return list;
 }

@@ -140,8 +140,11 @@ void CMFCRibbonPanelMenuBar::OnMouseMove(UINT nFlags, CPoint point) {
     const int scroll = m_parts->list.scrollUp.Contains(at) ? -1 : m_parts->list.scrollDown.Contains(at) ? 1 : 0;
     if (std::exchange(m_parts->scrollHot, scroll) != scroll) {
         Invalidate(FALSE);
-        scroll != 0 ? static_cast<void>(SetTimer(kScrollTimer, kScrollDelay, nullptr))
-                    : static_cast<void>(KillTimer(kScrollTimer));
+        if (scroll != 0) {
+            SetTimer(kScrollTimer, kScrollDelay, nullptr);
+        } else {
+            KillTimer(kScrollTimer);
+        }
     }
     const bool changes = hit != m_parts->hot;
     SetHot(hit);
