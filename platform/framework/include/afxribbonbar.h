@@ -303,6 +303,7 @@ private:
     void Measure(CDC* pDC);
     void Arrange(CDC* pDC);
     void ArrangeContextCaptions();
+    void MeasureTabs(CDC* pDC);
     void MeasureCaption();
     void DrawCaption(CDC* pDC);
     void ArrangeCaptionButtons(CDC* pDC);

@@ -1,6 +1,8 @@
 // The layout of a ribbon bar: measures its parts, asks the pure layout for their places, and hands them out.
 #include "afxribbonbar.h"
 
+#include <unordered_map>
+
 #include "afxglobals.h"
 #include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
@@ -165,18 +167,38 @@ void CMFCRibbonBar::Measure(CDC* pDC) {
         shape.applicationButton = {metrics.Scaled(m_parts->applicationButtonSize.cx),
                                    metrics.Scaled(m_parts->applicationButtonSize.cy)};
     }
-    shape.tabWidths.clear();
-    for (const auto& category : m_parts->categories) {
-        if (IsTabShown(*category)) {
-            shape.tabWidths.push_back(category->m_Tab.GetRegularSize(pDC).cx);
-        }
-    }
+    MeasureTabs(pDC);
     shape.tabElementWidths.clear();
     for (const auto& element : m_parts->tabElements) {
         element->SetInitialMode(TRUE);
         element->SetCompactMode(TRUE);
         element->OnCalcTextSize(pDC);
         shape.tabElementWidths.push_back(element->IsVisible() ? static_cast<int>(element->GetSize(pDC).cx) : 0);
+    }
+}
+
+// The tabs of a context are together at least as wide as its caption above them.
+void CMFCRibbonBar::MeasureTabs(CDC* pDC) {
+    std::vector<int>& widths = m_parts->shape.tabWidths;
+    widths.clear();
+    std::unordered_map<UINT, std::vector<size_t>> tabsOfContext;
+    for (const auto& category : m_parts->categories) {
+        if (IsTabShown(*category)) {
+            tabsOfContext[category->GetContextID()].push_back(widths.size());
+            widths.push_back(category->m_Tab.GetRegularSize(pDC).cx);
+        }
+    }
+    for (const auto& context : m_parts->contexts) {
+        const std::vector<size_t>& tabs = tabsOfContext[context.id];
+        int missing = static_cast<int>(pDC->GetTextExtent(context.name).cx) + 2 * m_parts->metrics.tabPaddingX;
+        for (const size_t tab : tabs) {
+            missing -= widths[tab] + m_parts->metrics.tabGap;
+        }
+        for (size_t index = 0; index < tabs.size() && missing > 0; ++index) {
+            const int share = missing / static_cast<int>(tabs.size() - index);
+            widths[tabs[index]] += share;
+            missing -= share;
+        }
     }
 }
 

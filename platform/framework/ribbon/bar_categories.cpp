@@ -123,6 +123,9 @@ BOOL CMFCRibbonBar::RemoveCategory(int nIndex) {
     if (m_parts->active == category) {
         m_parts->active = nullptr;
     }
+    if (m_parts->activeBeforeContext == category) {
+        m_parts->activeBeforeContext = nullptr;
+    }
     m_parts->categories.erase(m_parts->categories.begin() + nIndex);
     if (m_parts->active == nullptr) {
         SetActiveWithoutCheck(FirstVisibleCategory());
@@ -134,6 +137,7 @@ BOOL CMFCRibbonBar::RemoveCategory(int nIndex) {
 void CMFCRibbonBar::RemoveAllCategories() {
     m_parts->hotPanel = nullptr;
     m_parts->active = nullptr;
+    m_parts->activeBeforeContext = nullptr;
     m_parts->quickAccess.RemoveAll();
     m_parts->categories.clear();
     m_parts->contexts.clear();
@@ -147,7 +151,9 @@ void CMFCRibbonBar::ShowCategory(int nIndex, BOOL bShow) {
     }
     category->m_bIsVisible = bShow;
     if (!bShow && m_parts->active == category) {
-        SetActiveWithoutCheck(FirstVisibleCategory());
+        CMFCRibbonCategory* former = m_parts->activeBeforeContext;
+        const bool goesBack = category->GetContextID() != 0 && former != nullptr && former->IsVisible();
+        SetActiveWithoutCheck(goesBack ? former : FirstVisibleCategory());
     } else if (bShow && m_parts->active == nullptr) {
         SetActiveWithoutCheck(category);
     }
@@ -183,6 +189,9 @@ void CMFCRibbonBar::SetActiveWithoutCheck(CMFCRibbonCategory* category) {
     }
     m_parts->active = category;
     if (category != nullptr) {
+        if (category->GetContextID() == 0) {
+            m_parts->activeBeforeContext = category;
+        }
         category->SetActive(TRUE);
     }
     MarkLayoutDirty();

@@ -79,6 +79,7 @@ struct RibbonBarParts {
     bool tracksLeave = false;
 
     CMFCRibbonCategory* active = nullptr;
+    CMFCRibbonCategory* activeBeforeContext = nullptr; // where the bar goes back to when the context is hidden
     /// The active category where the bar itself shows it, not a pop-up.
     CMFCRibbonCategory* ShownCategory() const {
         return active != nullptr && active->GetParentMenuBar() == nullptr ? active : nullptr;

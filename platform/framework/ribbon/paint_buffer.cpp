@@ -58,7 +58,12 @@ RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
     m_isOpen = true;
     const HDC memory = m_memory.GetSafeHdc();
     m_previous = ::SelectObject(memory, m_bitmap);
-    if (shown != nullptr) {
+    // In a mirrored window text and images keep their direction, only their places change sides. The region counts its
+    // pixels from the other side there and is left out: the target clips anyway.
+    if ((::GetLayout(targetDC) & LAYOUT_RTL) != 0) {
+        ::SetLayout(memory, LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED);
+        m_isMirrored = true;
+    } else if (shown != nullptr) {
         ::SelectClipRgn(memory, shown);
         ::OffsetClipRgn(memory, -area.left, -area.top);
     }
@@ -71,8 +76,15 @@ RibbonPaintBuffer::~RibbonPaintBuffer() {
         return;
     }
     const HDC memory = m_memory.GetSafeHdc();
+    const DWORD layout = ::GetLayout(m_target.GetSafeHdc());
+    if (m_isMirrored) {
+        ::SetLayout(m_target.GetSafeHdc(), layout | LAYOUT_BITMAPORIENTATIONPRESERVED);
+    }
     ::BitBlt(m_target.GetSafeHdc(), m_area.left, m_area.top, m_area.Width(), m_area.Height(), memory, m_area.left,
              m_area.top, SRCCOPY);
+    if (m_isMirrored) {
+        ::SetLayout(m_target.GetSafeHdc(), layout);
+    }
     ::SelectObject(memory, m_previous);
     KeptBitmap& kept = Kept();
     if (m_size.cx * m_size.cy > g_mostKeptPixels || (kept.handle != nullptr && kept.size.cx > m_size.cx)) {

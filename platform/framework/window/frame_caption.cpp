@@ -141,6 +141,19 @@ void CFrameImpl::RedrawCaption() {
     }
 }
 
+void CFrameImpl::KeepRibbonFromErasing(CDC& dc) {
+    CMFCRibbonBar* ribbon = RibbonBar();
+    if (ribbon == nullptr || !ribbon->IsVisible()) {
+        return;
+    }
+    CRect rows;
+    ribbon->GetWindowRect(&rows);
+    m_frame->ScreenToClient(&rows);
+    CRect client;
+    m_frame->GetClientRect(&client);
+    dc.ExcludeClipRect(client.left, rows.top, client.right, rows.bottom);
+}
+
 // ---- pointer and system menu
 
 BOOL CFrameImpl::OnNcButton(UINT message, UINT hit, CPoint point) {

@@ -9,6 +9,7 @@ IMPLEMENT_DYNCREATE(CFrameWndEx, CFrameWnd)
 BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
+ON_WM_ERASEBKGND()
 ON_WM_NCCALCSIZE()
 ON_WM_NCHITTEST()
 ON_WM_NCPAINT()
@@ -95,6 +96,14 @@ BOOL CFrameWndEx::OnNcActivate(BOOL bActive) {
     DefWindowProc(WM_NCACTIVATE, static_cast<WPARAM>(bActive), -1);
     m_Impl.OnNcActivate(bActive != FALSE);
     return TRUE;
+}
+
+BOOL CFrameWndEx::OnEraseBkgnd(CDC* pDC) {
+    const int saved = pDC->SaveDC();
+    m_Impl.KeepRibbonFromErasing(*pDC);
+    const BOOL isErased = CFrameWnd::OnEraseBkgnd(pDC);
+    pDC->RestoreDC(saved);
+    return isErased;
 }
 
 void CFrameWndEx::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {

@@ -11,6 +11,7 @@ IMPLEMENT_DYNCREATE(CMDIFrameWndEx, CMDIFrameWnd)
 BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
+ON_WM_ERASEBKGND()
 ON_WM_NCCALCSIZE()
 ON_WM_NCHITTEST()
 ON_WM_NCPAINT()
@@ -98,6 +99,14 @@ BOOL CMDIFrameWndEx::OnNcActivate(BOOL bActive) {
     DefWindowProc(WM_NCACTIVATE, static_cast<WPARAM>(bActive), -1);
     m_Impl.OnNcActivate(bActive != FALSE);
     return TRUE;
+}
+
+BOOL CMDIFrameWndEx::OnEraseBkgnd(CDC* pDC) {
+    const int saved = pDC->SaveDC();
+    m_Impl.KeepRibbonFromErasing(*pDC);
+    const BOOL isErased = CMDIFrameWnd::OnEraseBkgnd(pDC);
+    pDC->RestoreDC(saved);
+    return isErased;
 }
 
 void CMDIFrameWndEx::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {

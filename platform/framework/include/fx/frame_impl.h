@@ -46,6 +46,9 @@ public:
     /// Another look may shape the window differently.
     void OnChangeVisualManager();
     void RedrawCaption();
+    /// Takes the ribbon's rows out of the context's clip region: erasing them would flash while the frame grows, before
+    /// the ribbon has its new width.
+    void KeepRibbonFromErasing(CDC& dc);
     /// TRUE: the message is done. Double click on caption or icon, right click, press on the icon.
     BOOL OnNcButton(UINT message, UINT hit, CPoint point);
     /// TRUE when the command opens the system menu by keyboard, which then was shown.
