@@ -23,9 +23,9 @@ int CommonLimit(std::vector<int> widths, int available) {
 std::vector<RibbonRect> ArrangeFromRight(int count, RibbonSize size, const RibbonRect& row) {
     std::vector<RibbonRect> result(static_cast<size_t>(std::max(count, 0)));
     int right = row.right;
-    for (size_t index = result.size(); index-- > 0 && right - size.cx >= row.left;) {
-        result[index] = {right - size.cx, row.top, right, row.top + size.cy};
-        right -= size.cx;
+    for (size_t index = result.size(); index-- > 0 && right - size.width >= row.left;) {
+        result[index] = {right - size.width, row.top, right, row.top + size.height};
+        right -= size.width;
     }
     return result;
 }
@@ -116,8 +116,9 @@ void ArrangeCaption(const RibbonBarShape& shape, const RibbonMetrics& metrics, i
     int right = width;
     if (shape.replacesCaption) {
         result.caption = row;
+        const RibbonRect room{left, row.top, row.right, row.bottom};
         result.captionButtons =
-            ArrangeFromRight(shape.captionButtons, {metrics.captionButtonWidth, metrics.captionButtonHeight}, row);
+            ArrangeFromRight(shape.captionButtons, {metrics.captionButtonWidth, metrics.captionButtonHeight}, room);
         right = LeftOf(result.captionButtons, width);
     }
     int x = left;
@@ -178,7 +179,7 @@ RibbonBarArrangement ArrangeBar(const RibbonBarShape& shape, const RibbonMetrics
     }
     int y = 0;
     int left = 0;
-    const int buttonWidth = std::min(shape.applicationButton.cx, width);
+    const int buttonWidth = std::min(shape.applicationButton.width, width);
     if (buttonWidth > 0) {
         left = buttonWidth + metrics.quickAccessGap;
         const int buttonTop = shape.tabsOnlyButton && topRow ? metrics.captionHeight : 0;
@@ -193,7 +194,7 @@ RibbonBarArrangement ArrangeBar(const RibbonBarShape& shape, const RibbonMetrics
         y += metrics.captionHeight;
     }
     result.tabRow = {0, y, width, y + metrics.tabHeight};
-    const RibbonRect childRow{0, y + (metrics.tabHeight - metrics.childButtonSide) / 2, width - metrics.categoryMarginX,
+    const RibbonRect childRow{left, y + (metrics.tabHeight - metrics.childButtonSide) / 2, width - metrics.categoryMarginX,
                               result.tabRow.bottom};
     result.childButtons =
         ArrangeFromRight(shape.childButtons, {metrics.childButtonSide, metrics.childButtonSide}, childRow);

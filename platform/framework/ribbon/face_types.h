@@ -2,38 +2,9 @@
 
 #include <algorithm>
 
-// Plain rectangles for the geometry of ribbon elements. They know no windows header, so that geometry is tested
-// natively.
+#include "ribbon/geometry.h"
+
 namespace ribbon {
-
-struct Point {
-    int x = 0;
-    int y = 0;
-};
-
-struct Size {
-    int width = 0;
-    int height = 0;
-
-    bool IsEmpty() const { return width <= 0 || height <= 0; }
-    friend bool operator==(const Size&, const Size&) = default;
-};
-
-// Right and bottom are outside.
-struct Rect {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    int Width() const { return right - left; }
-    int Height() const { return bottom - top; }
-    bool IsEmpty() const { return right <= left || bottom <= top; }
-    bool Contains(Point point) const {
-        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
-    }
-    friend bool operator==(const Rect&, const Rect&) = default;
-};
 
 // Lengths of a face that follow the display: the height of a line of text as measured, everything else from lengths at
 // 96 DPI.

@@ -78,13 +78,13 @@ std::optional<std::size_t> FocusNeighbour(const std::vector<RibbonRect>& places,
 RibbonRect PlaceKeyTip(const RibbonRect& element, RibbonSize tip, int imageWidth, const RibbonRect& bounds) {
     const bool isRow = imageWidth > 0 && element.Width() > 2 * imageWidth && element.Height() < 2 * imageWidth;
     const int middle = isRow ? element.left + imageWidth : (element.left + element.right) / 2;
-    RibbonRect rect{middle - tip.cx / 2, element.bottom - tip.cy / 2, 0, 0};
+    RibbonRect rect{middle - tip.width / 2, element.bottom - tip.height / 2, 0, 0};
     if (!bounds.IsEmpty()) {
-        rect.left = std::max(bounds.left, std::min(rect.left, bounds.right - tip.cx));
-        rect.top = std::max(bounds.top, std::min(rect.top, bounds.bottom - tip.cy));
+        rect.left = std::max(bounds.left, std::min(rect.left, bounds.right - tip.width));
+        rect.top = std::max(bounds.top, std::min(rect.top, bounds.bottom - tip.height));
     }
-    rect.right = rect.left + tip.cx;
-    rect.bottom = rect.top + tip.cy;
+    rect.right = rect.left + tip.width;
+    rect.bottom = rect.top + tip.height;
     return rect;
 }
 

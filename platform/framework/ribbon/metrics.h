@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "ribbon/face_types.h"
+
 /// Every length of the ribbon bar, from the text height of its font and the image scale. Scaled pixels.
 struct RibbonMetrics {
     static constexpr int rowsPerPanel = 3;
@@ -48,7 +50,8 @@ struct RibbonMetrics {
         m.textHeight = std::max(textHeight, 1);
         m.smallImage = m.Scaled(16);
         m.largeImage = m.Scaled(32);
-        m.rowHeight = std::max(m.textHeight, m.smallImage) + m.Scaled(6);
+        // A third of a panel also takes a third of a large button.
+        m.rowHeight = ribbon::FaceMetrics{m.scale, m.textHeight}.RowHeight();
         const int largeElement = m.largeImage + 2 * m.textHeight + m.Scaled(9);
         m.rowHeight = std::max(m.rowHeight, (largeElement + rowsPerPanel - 1) / rowsPerPanel);
         m.panelContentHeight = rowsPerPanel * m.rowHeight;

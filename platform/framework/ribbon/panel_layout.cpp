@@ -57,7 +57,7 @@ RibbonSize RibbonPanelLadder::SizeOf(size_t index, RibbonElementMode mode) const
 }
 
 int RibbonPanelLadder::RowsOf(size_t index, RibbonElementMode mode) const {
-    const int height = SizeOf(index, mode).cy;
+    const int height = SizeOf(index, mode).height;
     return std::clamp((height + m_metrics.rowHeight - 1) / m_metrics.rowHeight, 1, RibbonMetrics::rowsPerPanel);
 }
 
@@ -85,7 +85,7 @@ void RibbonPanelLadder::MakeBlocks() {
 void RibbonPanelLadder::AddWholeHeight(size_t index) {
     const RibbonElementShape& element = m_shape.elements[index];
     const RibbonElementMode mode = element.hasLarge ? RibbonElementMode::Large : RibbonElementMode::Intermediate;
-    m_blocks.push_back({Block::Kind::WholeHeight, {index}, {{Phase::Intermediate, mode, 1, SizeOf(index, mode).cx}}});
+    m_blocks.push_back({Block::Kind::WholeHeight, {index}, {{Phase::Intermediate, mode, 1, SizeOf(index, mode).width}}});
 }
 
 // Neighbours that can be large reduce in threes, counted from the right, so that each three becomes one full column.
@@ -110,7 +110,7 @@ size_t RibbonPanelLadder::AddLargeRun(size_t first) {
         Block block{Block::Kind::Stack, {run.begin() + begin, run.begin() + begin + count}, {}};
         int width = m_metrics.elementGap * static_cast<int>(count - 1);
         for (const size_t index : block.elements) {
-            width += m_shape.elements[index].large.cx;
+            width += m_shape.elements[index].large.width;
         }
         block.levels.push_back({Phase::Intermediate, RibbonElementMode::Large, 1, width});
         const bool canStack = std::all_of(block.elements.begin(), block.elements.end(), [this](size_t index) {
@@ -184,7 +184,7 @@ size_t RibbonPanelLadder::AddFlow(size_t first) {
 int RibbonPanelLadder::StackWidth(const Block& block, RibbonElementMode mode) const {
     int width = 0;
     for (const size_t index : block.elements) {
-        width = std::max(width, SizeOf(index, ModeOf(index, mode)).cx);
+        width = std::max(width, SizeOf(index, ModeOf(index, mode)).width);
     }
     return width;
 }
@@ -193,7 +193,7 @@ int RibbonPanelLadder::StackWidth(const Block& block, RibbonElementMode mode) co
 int RibbonPanelLadder::FlowWidth(const Block& block, int rows) const {
     std::vector<int> widths;
     for (const size_t index : block.elements) {
-        widths.push_back(SizeOf(index, RibbonElementMode::Intermediate).cx);
+        widths.push_back(SizeOf(index, RibbonElementMode::Intermediate).width);
     }
     const int gap = m_metrics.elementGap;
     int low = *std::max_element(widths.begin(), widths.end());
@@ -294,7 +294,7 @@ void RibbonPanelLadder::PlaceSideBySide(const Block& block, int x, std::vector<R
     const int top = m_metrics.panelPaddingY;
     for (const size_t index : block.elements) {
         const RibbonElementMode mode = block.levels.front().mode;
-        const int width = SizeOf(index, mode).cx;
+        const int width = SizeOf(index, mode).width;
         placed[index] = {{x, top, x + width, top + m_metrics.panelContentHeight}, mode};
         x += width + m_metrics.elementGap;
     }
@@ -315,9 +315,9 @@ void RibbonPanelLadder::PlaceStack(const Block& block, RibbonElementMode mode, i
         const RibbonElementMode own = ModeOf(index, mode);
         const RibbonSize size = SizeOf(index, own);
         const int room = RowsOf(index, own) * m_metrics.rowHeight;
-        const int height = std::min(size.cy, room);
+        const int height = std::min(size.height, room);
         const int top = y + (room - height) / 2;
-        placed[index] = {{x, top, x + (m_shape.justifyColumns ? columnWidth : size.cx), top + height}, own};
+        placed[index] = {{x, top, x + (m_shape.justifyColumns ? columnWidth : size.width), top + height}, own};
         y += room;
     }
 }
@@ -326,7 +326,7 @@ void RibbonPanelLadder::PlaceFlow(const Block& block, int rows, int width, int x
                                   std::vector<RibbonPlacedElement>& placed) const {
     std::vector<int> widths;
     for (const size_t index : block.elements) {
-        widths.push_back(SizeOf(index, RibbonElementMode::Intermediate).cx);
+        widths.push_back(SizeOf(index, RibbonElementMode::Intermediate).width);
     }
     // Two rows stand apart from each other and from the edges; one row alone stays at the top like a column.
     rows = std::min(rows, RowsForWidth(widths, m_metrics.elementGap, width));
@@ -343,7 +343,7 @@ void RibbonPanelLadder::PlaceFlow(const Block& block, int rows, int width, int x
             top += m_metrics.rowHeight + gap;
         }
         const int height =
-            std::min(SizeOf(block.elements[position], RibbonElementMode::Intermediate).cy, m_metrics.rowHeight);
+            std::min(SizeOf(block.elements[position], RibbonElementMode::Intermediate).height, m_metrics.rowHeight);
         const int y = top + (m_metrics.rowHeight - height) / 2;
         placed[block.elements[position]] = {{left, y, left + widths[position], y + height},
                                             RibbonElementMode::Intermediate};

@@ -153,8 +153,10 @@ void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look&) {
         {{0.20, 0.50}, {0.32, 0.40}, {0.44, 0.56}, {0.72, 0.20}, {0.84, 0.28}, {0.45, 0.80}}};
     std::array<PointF, shape.size()> points;
     const double side = square.right - square.left;
-    std::ranges::transform(shape, points.begin(), [side](PointF point) {
-        return PointF{point.x * side, point.y * side};
+    // A tick does not change its direction in a mirrored window.
+    const bool isMirrored = (GetLayout(dc) & LAYOUT_RTL) != 0;
+    std::ranges::transform(shape, points.begin(), [side, isMirrored](PointF point) {
+        return PointF{(isMirrored ? 1 - point.x : point.x) * side, point.y * side};
     });
     FillPolygon(canvas.View(), points, color);
 }

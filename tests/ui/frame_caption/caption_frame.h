@@ -89,3 +89,5 @@ class RibbonMdiFrameWithCaption : public CaptionFrame<CMDIFrameWndEx> {};
 /// Lets real pointer and key input through the thread's loop.
 void SendMouse(CPoint screen, DWORD flags);
 void SendClick(CPoint screen, DWORD down = MOUSEEVENTF_LEFTDOWN, DWORD up = MOUSEEVENTF_LEFTUP);
+/// A drag that goes on by a timer, also inside the system's own loops; the caller pumps.
+void StartDrag(CPoint from, CPoint to);

@@ -12,14 +12,7 @@ protected:
 TEST_F(CaptionInput, ADragMovesTheFrame) {
     const CRect before = frame.WindowRect();
     const CPoint from = frame.CaptionPoint();
-    const CPoint to = from + CPoint(60, 45);
-    // Moving is a loop of the system's own, which the queued input ends.
-    SendMouse(from, 0);
-    SendMouse(from, MOUSEEVENTF_LEFTDOWN);
-    for (int step = 1; step <= 15; ++step) {
-        SendMouse(from + CPoint(4 * step, 3 * step), 0);
-    }
-    SendMouse(to, MOUSEEVENTF_LEFTUP);
+    StartDrag(from, from + CPoint(60, 45));
     EXPECT_TRUE(PumpUntil([&] { return frame.WindowRect().TopLeft() == before.TopLeft() + CPoint(60, 45); }))
         << frame.WindowRect().left << ' ' << frame.WindowRect().top;
     EXPECT_EQ(frame.WindowRect().Size(), before.Size());
@@ -35,12 +28,7 @@ TEST_F(CaptionInput, ADoubleClickMaximizes) {
 TEST_F(CaptionInput, ADragOfTheBorderResizes) {
     const CRect before = frame.WindowRect();
     const CPoint from(before.right - 1, before.CenterPoint().y + 60);
-    SendMouse(from, 0);
-    SendMouse(from, MOUSEEVENTF_LEFTDOWN);
-    for (int step = 1; step <= 10; ++step) {
-        SendMouse(from - CPoint(5 * step, 0), 0);
-    }
-    SendMouse(from - CPoint(50, 0), MOUSEEVENTF_LEFTUP);
+    StartDrag(from, from - CPoint(50, 0));
     EXPECT_TRUE(PumpUntil([&] { return frame.WindowRect().Width() == before.Width() - 50; }))
         << frame.WindowRect().Width();
     EXPECT_EQ(frame.WindowRect().TopLeft(), before.TopLeft());

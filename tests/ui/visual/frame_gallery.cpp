@@ -1,5 +1,5 @@
-// frame_gallery DIR [PERCENT [WIDTH [rtl]]]: writes frame-STYLE-PERCENT-WIDTH.png of a frame with everything that a ribbon can
-// show in each style, for people to look at.
+// frame_gallery DIR [PERCENT [WIDTH [rtl]]]: writes frame-STYLE-PERCENT-WIDTH.png of a frame with everything that a
+// ribbon can show in each style, for people to look at.
 #include "afxMDIChildWndEx.h"
 #include "afxMDIFrameWndEx.h"
 #include "afxRibbonEdit.h"
@@ -66,8 +66,8 @@ public:
         CMFCRibbonPanel* text = home->AddPanel(L"Text");
         auto* group = new CMFCRibbonButtonsGroup;
         for (UINT id = 10; id < 15; ++id) {
-            group->AddButton(
-                new CMFCRibbonButton(id, L"", MakeIcon(16, RGB(id * 9, 80, 90)), FALSE, MakeIcon(16, RGB(id * 9, 80, 90))));
+            group->AddButton(new CMFCRibbonButton(id, L"", MakeIcon(16, RGB(id * 9, 80, 90)), FALSE,
+                                                  MakeIcon(16, RGB(id * 9, 80, 90))));
         }
         text->Add(group);
         text->AddSeparator();
@@ -90,8 +90,8 @@ public:
         }
         CMFCRibbonPanel* small = home->AddPanel(L"Small states");
         for (UINT index = 0; index < 5; ++index) {
-            small->Add(new CMFCRibbonButton(40 + index, names[index], MakeIcon(16, RGB(60, 60 + index * 30, 160)), FALSE,
-                                            MakeIcon(16, RGB(60, 60 + index * 30, 160))));
+            small->Add(new CMFCRibbonButton(40 + index, names[index], MakeIcon(16, RGB(60, 60 + index * 30, 160)),
+                                            FALSE, MakeIcon(16, RGB(60, 60 + index * 30, 160))));
         }
         bar.AddCategory(L"Insert", 0, 0)->AddPanel(L"Pictures");
         bar.AddCategory(L"Page layout", 0, 0)->AddPanel(L"Page");
@@ -156,14 +156,15 @@ bool WriteFrame(const std::wstring& directory, int style, const wchar_t* name, i
     CMFCVisualManagerOffice2007::SetStyle(static_cast<CMFCVisualManagerOffice2007::Style>(style));
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
     GalleryFrame frame;
-    if (!frame.Create(nullptr, L"Report - Writer", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CRect(0, 0, width, 250 * percent / 100), nullptr, nullptr,
-                      isRtl ? WS_EX_LAYOUTRTL : 0) ||
+    if (!frame.Create(nullptr, L"Report - Writer", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                      CRect(0, 0, width, 250 * percent / 100), nullptr, nullptr, isRtl ? WS_EX_LAYOUTRTL : 0) ||
         !frame.bar.Create(&frame)) {
         return false;
     }
     frame.Fill();
     auto* child = new CMDIChildWndEx;
-    child->Create(nullptr, L"Sheet", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW | WS_MAXIMIZE, CRect(0, 0, 200, 100), &frame);
+    child->Create(nullptr, L"Sheet", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW | WS_MAXIMIZE, CRect(0, 0, 200, 100),
+                  &frame);
     child->MDIMaximize();
     frame.ShowWindow(SW_SHOW);
     frame.RecalcLayout();

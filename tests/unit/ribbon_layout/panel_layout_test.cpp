@@ -84,7 +84,7 @@ TEST(RibbonPanelLayout, GroupsTakeTwoRowsAndThreeWhenNarrow) {
 
 TEST(RibbonPanelLayout, AnElementHigherThanOneRowTakesSeveral) {
     RibbonElementShape high = shapes::Edit(80, g_metrics);
-    high.intermediate.cy = 2 * g_metrics.rowHeight;
+    high.intermediate.height = 2 * g_metrics.rowHeight;
     const RibbonPanelLadder ladder(
         Panel({high, shapes::SmallButton(40, g_metrics), shapes::SmallButton(40, g_metrics)}), g_metrics);
     const auto full = ladder.Arrange(0);
