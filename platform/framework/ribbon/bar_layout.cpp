@@ -194,8 +194,8 @@ RibbonBarArrangement ArrangeBar(const RibbonBarShape& shape, const RibbonMetrics
         y += metrics.captionHeight;
     }
     result.tabRow = {0, y, width, y + metrics.tabHeight};
-    const RibbonRect childRow{left, y + (metrics.tabHeight - metrics.childButtonSide) / 2, width - metrics.categoryMarginX,
-                              result.tabRow.bottom};
+    const RibbonRect childRow{left, y + (metrics.tabHeight - metrics.childButtonSide) / 2,
+                              width - metrics.categoryMarginX, result.tabRow.bottom};
     result.childButtons =
         ArrangeFromRight(shape.childButtons, {metrics.childButtonSide, metrics.childButtonSide}, childRow);
     const int tabsRight = LeftOf(result.childButtons, width) - metrics.categoryMarginX;

@@ -85,7 +85,8 @@ void RibbonPanelLadder::MakeBlocks() {
 void RibbonPanelLadder::AddWholeHeight(size_t index) {
     const RibbonElementShape& element = m_shape.elements[index];
     const RibbonElementMode mode = element.hasLarge ? RibbonElementMode::Large : RibbonElementMode::Intermediate;
-    m_blocks.push_back({Block::Kind::WholeHeight, {index}, {{Phase::Intermediate, mode, 1, SizeOf(index, mode).width}}});
+    m_blocks.push_back(
+        {Block::Kind::WholeHeight, {index}, {{Phase::Intermediate, mode, 1, SizeOf(index, mode).width}}});
 }
 
 // Neighbours that can be large reduce in threes, counted from the right, so that each three becomes one full column.
