@@ -20,8 +20,9 @@ protected:
         ++m_compared;
         EXPECT_EQ(object.Location(), OnScreen(element["rect"]));
         const std::wstring text = string2wstring(element["text"].get<std::string>());
-        if (!text.empty())
+        if (!text.empty()) {
             EXPECT_EQ(object.Name(), text);
+        }
         EXPECT_EQ((object.State() & STATE_SYSTEM_UNAVAILABLE) == 0, element["enabled"].get<bool>());
         const bool isGroup = element["class"] == "CMFCRibbonButtonsGroup";
         const bool hasMenu = !isGroup && element.contains("children");
