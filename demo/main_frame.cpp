@@ -20,6 +20,9 @@ namespace {
 constexpr UINT kFirstCommand = 41000;
 constexpr UINT kLastCommand = 49999;
 constexpr UINT kRebuildRibbonMessage = WM_APP + 1;
+/// Buttons with sub-items that also do something of their own.
+constexpr std::array<const wchar_t*, 5> kSplitButtons = {L"ZoomOriginal", L"PlaceCities", L"BookmarkGo", L"LineWidth",
+                                                         L"NameSize"};
 constexpr wchar_t kRibbonFile[] = L"cfg\\ribbon.xml";
 
 struct Skin {
@@ -110,6 +113,9 @@ void CMainFrame::BuildRibbon() {
     m_commandTexts = builder.m_cmdList;
     m_slider = FindElement<CMFCRibbonSlider>(m_ribbon, L"ZoomSlider");
     m_place = FindElement<CMFCRibbonEdit>(m_ribbon, L"PlaceEdit");
+    for (const wchar_t* keyword : kSplitButtons)
+        if (auto* const button = FindElement<CMFCRibbonButton>(m_ribbon, keyword))
+            button->SetDefaultCommand();
     if (m_slider) {
         m_slider->SetRange(0, MapState::kSliderMax);
         m_slider->SetZoomButtons();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <iosfwd>
 
 /// How many objects this process holds from the system, to be compared before and after. Reads the process's own handle
@@ -21,3 +23,20 @@ struct GuiObjects {
 
 /// Deletes the calling thread's temporary wrappers first, which would count otherwise. Costs some 10 ms.
 GuiObjects CountGuiObjects();
+
+/// Success when one of three passes ends with as many objects as it began with: the system takes an object for itself
+/// now and then, but what a pass leaks it leaks every time.
+template <class Pass>
+::testing::AssertionResult LeavesNothingBehind(Pass pass) {
+    ::testing::AssertionResult failure = ::testing::AssertionFailure();
+    for (int round = 0; round < 3; ++round) {
+        const GuiObjects before = CountGuiObjects();
+        pass();
+        const GuiObjects after = CountGuiObjects();
+        if (after == before) {
+            return ::testing::AssertionSuccess();
+        }
+        failure << "from " << before << " to " << after << "\n";
+    }
+    return failure;
+}

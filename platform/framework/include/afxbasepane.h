@@ -100,7 +100,6 @@ public:
     virtual HDWP SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags, HDWP hdwp = NULL);
     virtual HDWP MoveWindow(CRect& rect, BOOL bRepaint = TRUE, HDWP hdwp = NULL);
     using CWnd::MoveWindow;
-    using CWnd::SetWindowPos;
 
     /// Position and state under the application's registry section; FALSE when nothing could be read or written.
     virtual BOOL LoadState(LPCTSTR lpszProfileName = NULL, int nIndex = -1, UINT uiID = (UINT)-1);

@@ -62,6 +62,7 @@ std::vector<std::unique_ptr<CMFCRibbonBaseElement>> MakeMenuItems(HMENU menu, co
     std::vector<std::unique_ptr<CMFCRibbonBaseElement>> items;
     const CMenu* source = CMenu::FromHandle(menu);
     const int count = source != nullptr ? static_cast<int>(source->GetMenuItemCount()) : 0;
+    items.reserve(static_cast<std::size_t>(count));
     for (int position = 0; position < count; ++position) {
         items.push_back(MakeItem(*source, position, button));
     }

@@ -110,12 +110,10 @@ void CMFCRibbonPanel::AddSeparator() {
 }
 
 BOOL CMFCRibbonPanel::InsertSeparator(int nIndex) {
-    auto separator = std::make_unique<CMFCRibbonSeparator>();
-    if (!Insert(separator.get(), nIndex)) {
+    if (nIndex < -1 || nIndex > GetCount()) {
         return FALSE;
     }
-    static_cast<void>(separator.release()); // the panel owns it from here
-    return TRUE;
+    return Insert(new CMFCRibbonSeparator, nIndex);
 }
 
 BOOL CMFCRibbonPanel::Remove(int nIndex, BOOL bDelete) {

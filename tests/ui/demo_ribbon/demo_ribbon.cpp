@@ -12,9 +12,10 @@ namespace {
 void Collect(const nlohmann::ordered_json& element, std::set<UINT>& ids) {
     static const std::set<std::string> commandClasses = {"CMFCRibbonUNIcoButton", "CMFCRibbonSmallButton",
                                                          "CMFCRibbonEdit", "CMFCRibbonSlider"};
-    if (commandClasses.count(element["class"].get<std::string>()) != 0)
+    const bool hasMenu = element.contains("children");
+    if (!hasMenu && commandClasses.count(element["class"].get<std::string>()) != 0)
         ids.insert(element["id"].get<UINT>());
-    if (element.contains("children"))
+    if (hasMenu)
         for (const nlohmann::ordered_json& child : element["children"])
             Collect(child, ids);
 }

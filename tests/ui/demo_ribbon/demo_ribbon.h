@@ -12,5 +12,5 @@ void LoadDemoRibbon(CMFCRibbonBar& bar);
 /// The dump of the bar's categories.
 nlohmann::ordered_json DumpCategories(CMFCRibbonBar& bar);
 
-/// Ids of everything that sends a command: buttons, sub-items, members of groups, edits and sliders.
+/// Ids of everything that sends a command: buttons without a menu, sub-items, members of groups, edits and sliders.
 std::set<UINT> CommandsOf(const nlohmann::ordered_json& categories);

@@ -155,7 +155,7 @@ TEST_F(LabelEx, AMultiLineLabelBreaksItsTextAndCentresIt) {
     ASSERT_GE(first, 0);
     const int line = afxGlobalData.GetTextHeight();
     EXPECT_GT(last - first, line) << "more than one line";
-    EXPECT_NEAR((first + last) / 2, 100, line) << "in the middle of the height";
+    EXPECT_NEAR((first + last) / 2.0, 100, line) << "in the middle of the height";
     EXPECT_LT(last - first, 120);
 }
 

@@ -204,9 +204,9 @@ TEST_F(PopupMenuTest, FiveHundredMenusLeaveNoObjectBehind) {
     for (int i = 0; i < 5; ++i) {
         openAndClose();
     }
-    const GuiObjects before = CountGuiObjects();
-    for (int i = 0; i < 500; ++i) {
-        openAndClose();
-    }
-    EXPECT_EQ(CountGuiObjects(), before);
+    EXPECT_TRUE(LeavesNothingBehind([&] {
+        for (int i = 0; i < 500; ++i) {
+            openAndClose();
+        }
+    }));
 }

@@ -4,8 +4,7 @@
 
 #include "afxpopupmenu.h"
 
-// The functions are the framework's own; their sources are compiled into this program.
-#include "toolbar/popup_place.cpp"
+#include "toolbar/popup_place.h"
 
 using toolbar::PlacePopup;
 using toolbar::PopupRequest;

@@ -18,11 +18,11 @@ protected:
         for (int i = 0; i < kFirstRound; ++i)
             action(i);
         PumpPending();
-        const GuiObjects before = CountGuiObjects();
-        for (int i = 0; i < count; ++i)
-            action(i);
-        PumpPending();
-        EXPECT_EQ(CountGuiObjects(), before);
+        EXPECT_TRUE(LeavesNothingBehind([&] {
+            for (int i = 0; i < count; ++i)
+                action(i);
+            PumpPending();
+        }));
     }
     void Repaint() { Bar().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
     void SwitchTab(int i) {

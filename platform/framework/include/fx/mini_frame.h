@@ -17,5 +17,4 @@ public:
                         CWnd* pParentWnd = NULL, UINT nID = 0);
     virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpClassName, LPCTSTR lpWindowName, DWORD dwStyle, const RECT& rect,
                           CWnd* pParentWnd = NULL, UINT nID = 0);
-    using CFrameWnd::Create;
 };
