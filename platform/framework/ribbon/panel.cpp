@@ -113,7 +113,10 @@ BOOL CMFCRibbonPanel::InsertSeparator(int nIndex) {
     if (nIndex < -1 || nIndex > GetCount()) {
         return FALSE;
     }
-    return Insert(new CMFCRibbonSeparator, nIndex);
+    CMFCRibbonBaseElement* separator = new CMFCRibbonSeparator;
+    m_arElements.InsertAt(nIndex == -1 ? GetCount() : nIndex, separator);
+    Adopt(separator);
+    return TRUE;
 }
 
 BOOL CMFCRibbonPanel::Remove(int nIndex, BOOL bDelete) {
