@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "add_ribbon_bar.h"
+#include "frame_dump.h"
 #include "menu_id_mgr.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 #include "varnhold/language.h"

@@ -3,7 +3,7 @@
 #include <set>
 
 #include "afxribbonbar.h"
-#include "frame_dump.h"
+#include <nlohmann/json.hpp>
 
 /// Replaces the categories of the bar by those of the viewer's ribbon file, in English. The commands get ids that the
 /// frame of the bar's tests handles.
