@@ -1,13 +1,9 @@
-#include <objidl.h>
-#include <propidl.h>
-
-#include <gdiplus.h>
-
 #include <algorithm>
 #include <set>
 
 #include "afxRibbonLabel.h"
 #include "afxvisualmanager.h"
+#include "tests/support/picture_file.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
 namespace {
@@ -49,22 +45,7 @@ public:
     }
 
     /// Written beside the test program for people to look at, when BARWRIGHT_PICTURES names a folder.
-    void Save(const std::wstring& name) const {
-        wchar_t folder[MAX_PATH];
-        if (::GetEnvironmentVariableW(L"BARWRIGHT_PICTURES", folder, MAX_PATH) == 0) {
-            return;
-        }
-        Gdiplus::GdiplusStartupInput input;
-        ULONG_PTR token = 0;
-        ASSERT_EQ(Gdiplus::GdiplusStartup(&token, &input, nullptr), Gdiplus::Ok);
-        {
-            Gdiplus::Bitmap bitmap(m_size.cx, m_size.cy, m_size.cx * 4, PixelFormat32bppRGB,
-                                   reinterpret_cast<BYTE*>(m_pixels));
-            const CLSID png{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
-            EXPECT_EQ(bitmap.Save((std::wstring(folder) + L"\\" + name).c_str(), &png, nullptr), Gdiplus::Ok);
-        }
-        Gdiplus::GdiplusShutdown(token);
-    }
+    void Save(const std::wstring& name) const { SavePicture(m_bitmap, name); }
 
 private:
     CSize m_size;

@@ -1,12 +1,8 @@
-#include <objidl.h>
-#include <propidl.h>
-
-#include <gdiplus.h>
-
 #include <algorithm>
 
 #include "afxvisualmanager.h"
 #include "afxvisualmanageroffice2007.h"
+#include "tests/support/picture_file.h"
 #include "tests/ui/ribbon_keys/keyboard_fixture.h"
 
 namespace {
@@ -48,10 +44,6 @@ protected:
 
     /// Bar and tips as on the screen; written for people to look at when BARWRIGHT_PICTURES names a folder.
     void Save(const std::wstring& name) {
-        wchar_t folder[MAX_PATH];
-        if (::GetEnvironmentVariableW(L"BARWRIGHT_PICTURES", folder, MAX_PATH) == 0) {
-            return;
-        }
         CRect client;
         Bar().GetClientRect(client);
         client.bottom += afxGlobalData.ScalePixels(20);
@@ -66,15 +58,7 @@ protected:
             shown.tip->GetElement()->OnDrawKeyTip(&dc, shown.rect, shown.tip->IsMenu());
         }
         dc.SelectObject(former);
-        Gdiplus::GdiplusStartupInput input;
-        ULONG_PTR token = 0;
-        ASSERT_EQ(Gdiplus::GdiplusStartup(&token, &input, nullptr), Gdiplus::Ok);
-        {
-            Gdiplus::Bitmap picture(static_cast<HBITMAP>(bitmap.GetSafeHandle()), nullptr);
-            const CLSID png{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
-            EXPECT_EQ(picture.Save((std::wstring(folder) + L"\\" + name).c_str(), &png, nullptr), Gdiplus::Ok);
-        }
-        Gdiplus::GdiplusShutdown(token);
+        SavePicture(static_cast<HBITMAP>(bitmap.GetSafeHandle()), name);
     }
 };
 
