@@ -6,6 +6,8 @@
 #include "afxvisualmanager.h"
 #include "ribbon/bar_parts.h"
 
+#include <memory>
+
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 
 IMPLEMENT_DYNCREATE(CMFCRibbonPanel, CObject)
@@ -110,12 +112,11 @@ void CMFCRibbonPanel::AddSeparator() {
 }
 
 BOOL CMFCRibbonPanel::InsertSeparator(int nIndex) {
-    if (nIndex < -1 || nIndex > GetCount()) {
+    auto separator = std::make_unique<CMFCRibbonSeparator>();
+    if (!Insert(separator.get(), nIndex)) {
         return FALSE;
     }
-    CMFCRibbonBaseElement* separator = new CMFCRibbonSeparator;
-    m_arElements.InsertAt(nIndex == -1 ? GetCount() : nIndex, separator);
-    Adopt(separator);
+    static_cast<void>(separator.release()); // the panel owns it now
     return TRUE;
 }
 
