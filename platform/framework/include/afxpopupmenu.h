@@ -30,6 +30,9 @@ public:
     };
     enum ANIMATION_TYPE { SYSTEM_DEFAULT_ANIMATION = -1, NO_ANIMATION = 0, UNFOLD, SLIDE, FADE };
     enum MENUAREA_TYPE { OUTSIDE, LOGO, TEAROFF_CAPTION, SHADOW_RIGHT, SHADOW_BOTTOM, MENU };
+    /// What a message of the queue is for while the chain is open: the menu has used it, has no use for it (a key is
+    /// lost then, unless it becomes a character), or it is the addressed window's.
+    enum class ChainInput { Used, Unused, ForWindow };
 
     CMFCPopupMenu();
     ~CMFCPopupMenu() override;
@@ -61,7 +64,7 @@ public:
     void SetParentButton(CMFCToolBarMenuButton* pButton) { m_pParentBtn = pButton; }
     CMFCToolBarMenuButton* GetParentButton() const { return m_pParentBtn; }
     CMFCToolBar* GetParentToolBar() const;
-    /// The element is told (SetDroppedDown(NULL)) when the pop-up closes.
+    /// Before Create. The element is told when the pop-up opens and closes (SetDroppedDown); its end closes the pop-up.
     void SetParentRibbonElement(CMFCRibbonBaseElement* pElem) { m_pParentRibbonElement = pElem; }
     CMFCRibbonBaseElement* GetParentRibbonElement() const { return m_pParentRibbonElement; }
     /// The window and the rectangle (its client co-ordinates) that opened the pop-up: it opens beside that area and not
@@ -136,10 +139,23 @@ public:
     virtual BOOL OnChainKey(UINT nMessage, UINT nChar);
     /// TRUE while keys that the menu does not use go to the window with the focus (a list under an edit field).
     virtual BOOL IsEditFocused() const { return FALSE; }
+    /// A key, character or turn of the wheel while the chain is open, given to the active menu before any window sees
+    /// it. By default keys and characters go to OnChainKey, and the wheel to the bar.
+    virtual ChainInput OnChainMessage(const MSG& message);
+    /// A press on the parent area of the chain's first menu: TRUE leaves closing to what lies there, which gets it.
+    virtual BOOL IsClosedByOpener(const MSG&) const { return FALSE; }
+    /// The element that opened the menu goes away.
+    void OnParentElementDestroyed();
+    /// The window that owns the chain, outside of it.
+    HWND GetOwnerWindow() const;
+    /// The same, where it is a frame; NULL otherwise.
+    CFrameWnd* GetOwnerFrame() const;
+    /// It has left the chain or is on its way out.
+    BOOL IsClosing() const { return m_bClosing; }
     /// The window is the one that the pop-up was opened for, or gets its commands.
     BOOL IsOpenedFor(HWND window) const { return window && (window == m_hParentWnd || window == m_hMessageWnd); }
     /// Width of the border on each side (pixels).
-    int GetBorderSize() const;
+    virtual int GetBorderSize() const;
     /// Client area without border, scroll buttons and resize bar: the bar's place.
     CRect GetBarRect() const;
     /// The chosen command, when the menu runs for TrackPopupMenu.
@@ -152,6 +168,12 @@ protected:
     CMFCPopupMenu(CMFCToolBarsMenuPropertyPage* pCustPage, LPCTSTR lpszTitle);
     /// Makes the bar's window and fills it; FALSE ends Create.
     virtual BOOL InitMenuBar();
+    /// Told when chain and frame know the menu, before it has its size and is shown; it may close the menu.
+    virtual void OnOpened() {}
+    /// Gives the window its size and place.
+    virtual void Place();
+    /// Gives the bar its place in the window.
+    virtual void PlaceBar();
     virtual void OnChangeHot(int) {}
     /// Told before the command is queued and the chain closed; it may close the menu itself.
     virtual void OnChooseItem(UINT) {}
@@ -177,21 +199,27 @@ protected:
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     DECLARE_MESSAGE_MAP()
 
+    /// Closes what was opened from it and takes it out of the chain. FALSE: the end of what was opened has ended it.
+    BOOL LeaveChain();
+    /// Tells the frame that it has closed. Once; the host may do anything.
+    void TellClosed();
+    /// Tells what opened it that it has closed.
+    void ForgetParents();
+    /// Takes window and shadow from the screen.
+    void HideWindow();
+
     CMFCPopupMenuBar m_wndMenuBar;
+    DROP_DIRECTION m_DropDirection = DROP_DIRECTION_NONE;
+    BOOL m_bEscClose = FALSE;
 
 private:
     struct Parts;
-    CFrameWnd* GetOwnerFrame() const;
     void FindParents(CWnd* pWndParent, BOOL bOwnMessage);
-    void Place();
-    void PlaceBar();
     void ShowAnimated();
     void ScrollBy(int nPixels);
     void DragResize(CPoint point);
-    void ForgetParents();
     CRect GetAvoidedArea();
     void TellOpened();
-    void TellClosed();
 
     HMENU m_hMenu = NULL;
     CMFCToolBarMenuButton* m_pParentBtn = NULL;
@@ -208,7 +236,6 @@ private:
     int m_nMaxHeight = 0;
     int m_nMinWidth = 0;
     CSize m_sizeMinResize{0, 0};
-    DROP_DIRECTION m_DropDirection = DROP_DIRECTION_NONE;
     BOOL m_bAutoDestroy = TRUE;
     BOOL m_bShown = FALSE;
     BOOL m_bLocked = FALSE;
@@ -218,9 +245,10 @@ private:
     BOOL m_bIsResizeable = FALSE;
     BOOL m_bVertResizeOnly = FALSE;
     BOOL m_bHasBeenResized = FALSE;
-    BOOL m_bEscClose = FALSE;
     BOOL m_bOpenedByKey = FALSE;
     BOOL m_bClosing = FALSE;
+    BOOL m_bHasLeft = FALSE;
+    BOOL m_bToldClosed = FALSE;
     BOOL m_bInLayout = FALSE;
 
     static CMFCPopupMenu* m_pActivePopupMenu;

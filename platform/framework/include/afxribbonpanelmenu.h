@@ -2,9 +2,8 @@
 
 #include <memory>
 
-#include "afxPane.h"
+#include "afxpopupmenu.h"
 #include "afxtempl.h"
-#include "fx/frame.h"
 
 class CFrameWnd;
 class CMFCRibbonBar;
@@ -29,7 +28,7 @@ enum class RibbonPopupLook {
 /// What a ribbon pop-up shows. The elements are not its own: they are lent to it while it is open, with its window as
 /// their parent window, and go back to their container, unchanged, when it closes. Points and rectangles are client
 /// pixels of this window. Part of its pop-up.
-class FRAMEWORK_API CMFCRibbonPanelMenuBar : public CPane {
+class FRAMEWORK_API CMFCRibbonPanelMenuBar : public CMFCPopupMenuBar {
     DECLARE_DYNCREATE(CMFCRibbonPanelMenuBar)
 
 public:
@@ -56,8 +55,8 @@ public:
 
     BOOL IsMenuMode() const;
     BOOL IsMainPanel() const;
-    virtual BOOL IsRibbonPanel() const { return TRUE; }
-    virtual BOOL IsRibbonPanelInRegularMode() const;
+    BOOL IsRibbonPanel() const override { return TRUE; }
+    BOOL IsRibbonPanelInRegularMode() const override;
     /// Ordinary menu look: every row has a small image.
     void SetDefaultMenuLook(BOOL bSet = TRUE);
     BOOL IsDefaultMenuLook() const;
@@ -72,9 +71,12 @@ public:
     void Highlight(CMFCRibbonBaseElement* pElement);
     void HighlightFirst();
     /// A key's virtual code. FALSE: the key has no meaning here.
-    BOOL OnKey(UINT nChar);
+    BOOL OnKey(UINT nChar) override;
     /// A letter: a mnemonic, else the beginning of a text.
     BOOL OnLetter(UINT nUpperChar);
+    BOOL TranslateChar(UINT nChar) override;
+    BOOL OnWheel(short zDelta) override;
+    void SelectFirstItem() override { HighlightFirst(); }
     BOOL Scroll(int nRows);
 
     // For the pop-up and the elements.
@@ -90,6 +92,9 @@ public:
     void UpdateElements(CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     void DoPaint(CDC* pDC) override;
+    void AdjustLayout() override;
+    void AdjustLocations() override {}
+    CSize CalcSize(BOOL bVertDock) override;
 
 protected:
     friend class CMFCRibbonPanelMenu;
@@ -109,9 +114,8 @@ protected:
     afx_msg void OnCancelMode();
     afx_msg void OnCaptureChanged(CWnd* pWnd);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
-    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
-    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -145,9 +149,9 @@ private:
 };
 
 /// A pop-up of the ribbon: of a collapsed panel, a button's menu or sub-items, a minimised category, the quick access
-/// toolbar's rest, or the application menu. Made with new and opened; from then on it owns itself and goes after it was
-/// dismissed.
-class FRAMEWORK_API CMFCRibbonPanelMenu : public CFrameWnd {
+/// toolbar's rest, or the application menu. A pop-up menu like every other, in the same chain; only its window outlives
+/// its closing by a moment, so that an element may close it from inside its own handlers.
+class FRAMEWORK_API CMFCRibbonPanelMenu : public CMFCPopupMenu {
     DECLARE_DYNCREATE(CMFCRibbonPanelMenu)
 
 public:
@@ -161,14 +165,16 @@ public:
     CMFCRibbonPanelMenu(const ElementArray& arButtons, BOOL bIsFloatyMode = FALSE);
     ~CMFCRibbonPanelMenu() override;
 
+    CMFCPopupMenuBar* GetMenuBar() override { return &m_wndRibbonBar; }
     CMFCRibbonPanelMenuBar& GetRibbonMenuBar() { return m_wndRibbonBar; }
     CMFCRibbonPanel* GetPanel() const { return m_wndRibbonBar.GetPanel(); }
     BOOL IsMenuMode() const { return m_wndRibbonBar.IsMenuMode(); }
 
-    /// Opens beside the element, whose pop-up it becomes, in place of any other. FALSE: the window could not be made;
-    /// the object is gone then.
+    /// Opens beside the element, whose pop-up it becomes, in place of any other. FALSE: it was not shown; the object is
+    /// gone, or goes by itself.
     BOOL OpenFor(CMFCRibbonBaseElement* pElement, Side side);
-    /// Opens beside an area of the window, in client pixels. pElement may be NULL.
+    /// Opens beside an area of the window, in client pixels; an empty area is a point that no press is kept from.
+    /// pElement may be NULL.
     BOOL OpenAt(CWnd* pParent, const CRect& area, Side side, CMFCRibbonBaseElement* pElement = NULL);
 
     /// As Dismiss, when nothing was chosen: the keyboard goes back to what opened it.
@@ -177,46 +183,47 @@ public:
     /// message handlers runs any more.
     void Dismiss();
     void DismissChildren();
+    /// Closes every open pop-up, whatever its kind.
     static void DismissAll();
-    /// The pop-up opened last; NULL when none is open.
+    /// The ribbon pop-up opened last; NULL when none is open.
     static CMFCRibbonPanelMenu* GetDeepest();
     static BOOL IsAnyOpen() { return GetDeepest() != NULL; }
-    CMFCRibbonPanelMenu* GetParentMenu() const { return m_parentMenu; }
-    CMFCRibbonBaseElement* GetOpener() const { return m_opener; }
+    /// The ribbon pop-up that it was opened from; NULL when none.
+    CMFCRibbonPanelMenu* GetParentMenu() const;
+    CMFCRibbonBaseElement* GetOpener() const { return GetParentRibbonElement(); }
     /// TRUE: the window belongs to one of the open pop-ups.
     static BOOL IsPopupWindow(HWND hWnd);
-    void OnParentElementDestroyed();
     /// The content has changed its size.
     void FitToContent();
-    CFrameWnd* GetCommandFrame() const;
+    CFrameWnd* GetCommandFrame() const { return GetOwnerFrame(); }
+
+    // CMFCPopupMenu
+    CWnd* GetParentArea(CRect& rectParentBtn) override;
+    int GetBorderSize() const override;
+    ChainInput OnChainMessage(const MSG& message) override;
+    BOOL IsClosedByOpener(const MSG& message) const override;
 
 protected:
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    BOOL InitMenuBar() override;
+    void OnOpened() override;
+    void Place() override;
+    void PlaceBar() override;
+    void DrawFrame(CDC* pDC) override;
+
     afx_msg void OnClose();
     afx_msg void OnDestroy();
-    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-    afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
     DECLARE_MESSAGE_MAP()
 
 private:
-    BOOL CreateWindows(CWnd* pParent);
-    int BorderSize() const;
-    void Place();
-    void TakeOutOfChain();
+    ChainInput OnKeyMessage(const MSG& message);
+    void GiveFocusToOwner();
     void EnterKeyboard();
     void LeaveKeyboard();
-    static BOOL FilterMessage(MSG* pMsg);
-    static BOOL FilterKey(const MSG& message);
-    static void OnPressOutside(const MSG& message);
 
     CMFCRibbonPanelMenuBar m_wndRibbonBar;
-    CMFCRibbonBaseElement* m_opener = nullptr;
-    CMFCRibbonPanelMenu* m_parentMenu = nullptr;
     CRect m_area{0, 0, 0, 0}; // screen
     Side m_side = Side::Below;
-    HWND m_owner = nullptr;
     bool m_isDismissed = false;
     bool m_goesBack = false;
     CMFCRibbonBar* m_bar = nullptr; // whose pop-up it is; dismisses it before it goes

@@ -31,7 +31,7 @@ CMFCRibbonBaseElement::CMFCRibbonBaseElement() : m_rect(0, 0, 0, 0), m_szMargin(
 CMFCRibbonBaseElement::~CMFCRibbonBaseElement() {
     if (m_pParentMenu != nullptr)
         m_pParentMenu->OnElementDestroyed(this);
-    if (auto* menu = dynamic_cast<CMFCRibbonPanelMenu*>(m_pPopup))
+    if (auto* menu = dynamic_cast<CMFCPopupMenu*>(m_pPopup))
         menu->OnParentElementDestroyed();
     if (m_pRibbonBar != nullptr)
         m_pRibbonBar->OnElementDestroyed(this);

@@ -50,8 +50,8 @@ void CMFCRibbonBaseElement::OnShowPopupMenu() {
 void CMFCRibbonBaseElement::ClosePopupMenu() {
     CWnd* popup = m_pPopup;
     SetDroppedDown(nullptr);
-    if (auto* menu = dynamic_cast<CMFCRibbonPanelMenu*>(popup))
-        menu->Dismiss();
+    if (auto* menu = dynamic_cast<CMFCPopupMenu*>(popup))
+        menu->CloseMenu();
     else if (popup != nullptr && popup->GetSafeHwnd() != nullptr)
         ::SendMessageW(popup->GetSafeHwnd(), WM_CLOSE, 0, 0);
 }

@@ -9,7 +9,7 @@
 #include "ribbon/element_metrics.h"
 #include "ribbon/panel_menu_parts.h"
 
-IMPLEMENT_DYNCREATE(CMFCRibbonPanelMenuBar, CPane)
+IMPLEMENT_DYNCREATE(CMFCRibbonPanelMenuBar, CMFCPopupMenuBar)
 
 CMFCRibbonPanelMenuBar::CMFCRibbonPanelMenuBar() : m_parts(std::make_shared<RibbonPanelMenuParts>()) {}
 

@@ -10,7 +10,7 @@
 #include "ribbon/element_metrics.h"
 #include "ribbon/panel_menu_parts.h"
 
-BEGIN_MESSAGE_MAP(CMFCRibbonPanelMenuBar, CPane)
+BEGIN_MESSAGE_MAP(CMFCRibbonPanelMenuBar, CMFCPopupMenuBar)
 ON_WM_PAINT()
 ON_WM_ERASEBKGND()
 ON_WM_LBUTTONDOWN()
@@ -22,9 +22,8 @@ ON_WM_CONTEXTMENU()
 ON_WM_CANCELMODE()
 ON_WM_CAPTURECHANGED()
 ON_WM_TIMER()
-ON_WM_MOUSEACTIVATE()
-ON_WM_SETCURSOR()
 ON_WM_MOUSEWHEEL()
+ON_WM_RBUTTONUP()
 END_MESSAGE_MAP()
 
 namespace {
@@ -53,14 +52,6 @@ wchar_t Upper(wchar_t letter) {
 } // namespace
 
 // ---- pointer
-
-int CMFCRibbonPanelMenuBar::OnMouseActivate(CWnd* /*pDesktopWnd*/, UINT /*nHitTest*/, UINT /*message*/) {
-    return MA_NOACTIVATE;
-}
-
-BOOL CMFCRibbonPanelMenuBar::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
-    return CPane::OnSetCursor(pWnd, nHitTest, message);
-}
 
 void CMFCRibbonPanelMenuBar::OnLButtonDown(UINT nFlags, CPoint point) {
     CPane::OnLButtonDown(nFlags, point);
@@ -185,9 +176,14 @@ void CMFCRibbonPanelMenuBar::OnContextMenu(CWnd* /*pWnd*/, CPoint point) {
 }
 
 BOOL CMFCRibbonPanelMenuBar::OnMouseWheel(UINT /*nFlags*/, short zDelta, CPoint /*pt*/) {
-    Scroll(zDelta > 0 ? -1 : 1);
+    OnWheel(zDelta);
     return TRUE;
 }
+
+BOOL CMFCRibbonPanelMenuBar::OnWheel(short zDelta) { return Scroll(zDelta > 0 ? -1 : 1); }
+
+// The right button chooses nothing; the system makes its context menu of it.
+void CMFCRibbonPanelMenuBar::OnRButtonUp(UINT nFlags, CPoint point) { CPane::OnRButtonUp(nFlags, point); }
 
 void CMFCRibbonPanelMenuBar::OnCancelMode() {
     CPane::OnCancelMode();
@@ -482,6 +478,8 @@ void CMFCRibbonPanelMenuBar::ShowRowOf(CMFCRibbonBaseElement* pElement) {
         return;
     }
 }
+
+BOOL CMFCRibbonPanelMenuBar::TranslateChar(UINT nChar) { return OnLetter(Upper(static_cast<wchar_t>(nChar))); }
 
 // A key tip that fits acts at once; a first letter that several texts share walks through them.
 BOOL CMFCRibbonPanelMenuBar::OnLetter(UINT nUpperChar) {

@@ -51,6 +51,10 @@ void CMFCRibbonPanelMenuBar::EnsureLayout() {
     }
 }
 
+CSize CMFCRibbonPanelMenuBar::CalcSize(BOOL /*bVertDock*/) { return m_parts->size; }
+
+void CMFCRibbonPanelMenuBar::AdjustLayout() { MarkLayoutDirty(); }
+
 CSize CMFCRibbonPanelMenuBar::CalcContentSize(CSize room) {
     if (GetSafeHwnd() == nullptr || m_parts->isLayingOut) {
         return m_parts->size;

@@ -45,7 +45,11 @@ bool IsOnParentArea(CMFCPopupMenu* root, const MSG& message) {
 
 BOOL OnOutsideClick(CMFCPopupMenu* active, const MSG& message) {
     CMFCPopupMenu* root = active->GetRootPopupMenu();
-    const bool isSwallowed = IsOnParentArea(root, message) || !active->DefaultMouseClickOnClose();
+    const bool isOnOpener = IsOnParentArea(root, message);
+    if (isOnOpener && root->IsClosedByOpener(message)) {
+        return FALSE;
+    }
+    const bool isSwallowed = isOnOpener || !active->DefaultMouseClickOnClose();
     CMFCPopupMenu::CloseAll();
     return isSwallowed;
 }
@@ -126,26 +130,18 @@ BOOL toolbar::FilterMenuMessage(MSG* message) {
     switch (message->message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
+    case WM_SYSKEYUP:
     case WM_CHAR:
     case WM_SYSCHAR:
-        if (active->OnChainKey(message->message, static_cast<UINT>(message->wParam))) {
-            return TRUE;
-        }
-        if (active->IsEditFocused()) {
-            return FALSE;
-        }
+    case WM_MOUSEWHEEL: {
+        const CMFCPopupMenu::ChainInput input = active->OnChainMessage(*message);
         // What no key of the menu is may be a mnemonic once it has become a character.
-        if (message->message == WM_KEYDOWN || message->message == WM_SYSKEYDOWN) {
+        const bool isKey = message->message == WM_KEYDOWN || message->message == WM_SYSKEYDOWN;
+        if (isKey && input == CMFCPopupMenu::ChainInput::Unused) {
             ::TranslateMessage(message);
         }
-        return TRUE;
-    case WM_SYSKEYUP:
-        return TRUE;
-    case WM_MOUSEWHEEL:
-        if (CMFCPopupMenuBar* bar = active->GetMenuBar()) {
-            bar->OnWheel(static_cast<short>(HIWORD(message->wParam)));
-        }
-        return TRUE;
+        return input != CMFCPopupMenu::ChainInput::ForWindow;
+    }
     default:
         return IsButtonDown(message->message) && !IsInOpenPopups(message->hwnd) && OnOutsideClick(active, *message);
     }

@@ -89,10 +89,16 @@ BOOL CMFCPopupMenu::Create(CWnd* pWndParent, int x, int y, HMENU hMenu, BOOL bLo
         CMiniFrameWnd::DestroyWindow();
         return FALSE;
     }
+    if (!m_bClosing) {
+        OnOpened();
+    }
+    if (!::IsWindow(window) || m_bClosing) {
+        return FALSE;
+    }
     Place();
     PlaceBar();
     ShowAnimated();
-    return ::IsWindow(window);
+    return ::IsWindow(window) && !m_bClosing;
 }
 
 int CMFCPopupMenu::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -157,13 +163,17 @@ void CMFCPopupMenu::FindParents(CWnd* pWndParent, BOOL bOwnMessage) {
     }
 }
 
-CFrameWnd* CMFCPopupMenu::GetOwnerFrame() const {
+HWND CMFCPopupMenu::GetOwnerWindow() const {
     // A child is owned by the menu before it.
     HWND owner = m_hWnd ? ::GetWindow(m_hWnd, GW_OWNER) : nullptr;
     while (owner && DYNAMIC_DOWNCAST(CMFCPopupMenu, CWnd::FromHandlePermanent(owner))) {
         owner = ::GetWindow(owner, GW_OWNER);
     }
-    return DYNAMIC_DOWNCAST(CFrameWnd, CWnd::FromHandlePermanent(owner));
+    return owner;
+}
+
+CFrameWnd* CMFCPopupMenu::GetOwnerFrame() const {
+    return DYNAMIC_DOWNCAST(CFrameWnd, CWnd::FromHandlePermanent(GetOwnerWindow()));
 }
 
 void CMFCPopupMenu::TellOpened() {
@@ -172,10 +182,23 @@ void CMFCPopupMenu::TellOpened() {
     }
     m_pActivePopupMenu = this;
     toolbar::WatchPopups(true);
+    if (m_pParentRibbonElement) {
+        m_pParentRibbonElement->SetDroppedDown(this);
+    }
 }
 
-// The chain first: what is told may open or close menus of its own.
-void CMFCPopupMenu::TellClosed() {
+BOOL CMFCPopupMenu::LeaveChain() {
+    m_bClosing = TRUE;
+    if (m_pChildPopup) {
+        const HWND window = m_hWnd;
+        m_pChildPopup->CloseMenu();
+        if (!::IsWindow(window)) {
+            return FALSE;
+        }
+    }
+    if (std::exchange(m_bHasLeft, TRUE)) {
+        return TRUE;
+    }
     if (m_pParentPopup && m_pParentPopup->m_pChildPopup == this) {
         m_pParentPopup->m_pChildPopup = nullptr;
     }
@@ -185,7 +208,21 @@ void CMFCPopupMenu::TellClosed() {
     if (!m_pActivePopupMenu) {
         toolbar::WatchPopups(false);
     }
-    if (m_bSendMenuSelectMsg && !m_pParentPopup && m_bShown && m_hMessageWnd) {
+    return TRUE;
+}
+
+void CMFCPopupMenu::HideWindow() {
+    m_parts->shadow.Hide();
+    m_bShown = FALSE;
+    ShowWindow(SW_HIDE);
+}
+
+void CMFCPopupMenu::TellClosed() {
+    if (std::exchange(m_bToldClosed, TRUE)) {
+        return;
+    }
+    const bool tellsSelection = m_bSendMenuSelectMsg && !GetMenuBar()->IsRibbonPanel();
+    if (tellsSelection && !m_pParentPopup && m_bShown && m_hMessageWnd) {
         // As the system says that its menus are closed.
         ::SendMessageW(m_hMessageWnd, WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
     }
@@ -207,15 +244,20 @@ void CMFCPopupMenu::ForgetParents() {
 }
 
 void CMFCPopupMenu::OnDestroy() {
-    m_bClosing = TRUE;
-    if (m_pChildPopup) {
-        m_pChildPopup->CloseMenu();
+    // The chain first: what is told may open or close menus of its own.
+    if (!LeaveChain()) {
+        return;
     }
     m_parts->shadow.Hide();
     m_parts->shadow.DestroyWindow();
     TellClosed();
     ForgetParents();
     CMiniFrameWnd::OnDestroy();
+}
+
+void CMFCPopupMenu::OnParentElementDestroyed() {
+    m_pParentRibbonElement = nullptr;
+    CloseMenu();
 }
 
 void CMFCPopupMenu::PostNcDestroy() { CMiniFrameWnd::PostNcDestroy(); }
@@ -324,4 +366,24 @@ BOOL CMFCPopupMenu::OnChainKey(UINT nMessage, UINT nChar) {
         return TRUE;
     }
     return bar && bar->OnKey(nChar);
+}
+
+CMFCPopupMenu::ChainInput CMFCPopupMenu::OnChainMessage(const MSG& message) {
+    switch (message.message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_CHAR:
+    case WM_SYSCHAR:
+        if (OnChainKey(message.message, static_cast<UINT>(message.wParam))) {
+            return ChainInput::Used;
+        }
+        return IsEditFocused() ? ChainInput::ForWindow : ChainInput::Unused;
+    case WM_MOUSEWHEEL:
+        if (CMFCPopupMenuBar* bar = GetMenuBar()) {
+            bar->OnWheel(static_cast<short>(HIWORD(message.wParam)));
+        }
+        return ChainInput::Used;
+    default:
+        return ChainInput::Unused;
+    }
 }

@@ -157,12 +157,17 @@ void CMFCPopupMenu::RecalcLayout(BOOL) {
     if (!m_hWnd || m_bClosing || m_bInLayout) {
         return;
     }
+    CRect before, after;
+    GetWindowRect(&before);
     m_bInLayout = TRUE;
     Place();
     PlaceBar();
     m_bInLayout = FALSE;
+    GetWindowRect(&after);
     if (m_bShown) {
-        UpdateShadow();
+        if (before != after) {
+            UpdateShadow();
+        }
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     }
 }

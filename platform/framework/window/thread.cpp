@@ -286,10 +286,6 @@ BOOL AFXAPI AfxPumpMessage() {
 }
 
 BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg) {
-    auto* const popupFilter = fx::CurrentThread().popupFilter;
-    if (popupFilter != nullptr && popupFilter(pMsg)) {
-        return TRUE;
-    }
     CWinThread* thread = AfxGetThread();
     return thread != nullptr ? thread->PreTranslateMessage(pMsg)
                              : toolbar::FilterMenuMessage(pMsg) || CWnd::WalkPreTranslateTree(nullptr, pMsg);

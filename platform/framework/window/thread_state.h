@@ -29,8 +29,6 @@ struct ThreadState {
     WindowCreationHook* creation = nullptr;
     HMENU trackedMenu = nullptr; ///< the popup menu that is open by RunPopupMenu
     ToolTipState toolTip;
-    /// Sees the messages of the queue before everybody else while a pop-up is open; TRUE: done with it.
-    BOOL (*popupFilter)(MSG* message) = nullptr;
 };
 
 ThreadState& CurrentThread();

@@ -42,6 +42,16 @@ void RibbonFrame::OnUpdateRibbonCommand(CCmdUI* update) {
     }
 }
 
+BOOL RibbonFrame::OnShowPopupMenu(CMFCPopupMenu* menu) {
+    ++popupsShown;
+    return allowsPopups && CFrameWndEx::OnShowPopupMenu(menu);
+}
+
+void RibbonFrame::OnClosePopupMenu(CMFCPopupMenu* menu) {
+    ++popupsClosed;
+    CFrameWndEx::OnClosePopupMenu(menu);
+}
+
 LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {
     EXPECT_EQ(reinterpret_cast<CMFCRibbonBar*>(lParam), &bar);
     ++categoryChanges;

@@ -52,6 +52,12 @@ public:
     CString newName;
     std::function<void()> onCommand; // after the command was noted; may end the frame
     std::function<void()> onUpdate;
+    int popupsShown = 0;
+    int popupsClosed = 0;
+    bool allowsPopups = true;
+
+    BOOL OnShowPopupMenu(CMFCPopupMenu* menu) override;
+    void OnClosePopupMenu(CMFCPopupMenu* menu) override;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
