@@ -1,7 +1,9 @@
 #include "fx/app.h"
 
+#include "afxadv.h"
 #include "afxmsg_.h"
 #include "afxpriv.h"
+#include "afxres.h"
 #include "window/thread_state.h"
 
 #include <clocale>
@@ -9,6 +11,7 @@
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
+ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
 END_MESSAGE_MAP()
 
 namespace {
@@ -87,7 +90,13 @@ int CWinApp::Run() {
     return CWinThread::Run();
 }
 
-int CWinApp::ExitInstance() { return CWinThread::ExitInstance(); }
+int CWinApp::ExitInstance() {
+    if (m_recentFiles) {
+        m_recentFiles->WriteList();
+    }
+    return CWinThread::ExitInstance();
+}
+
 BOOL CWinApp::OnIdle(LONG lCount) { return CWinThread::OnIdle(lCount); }
 BOOL CWinApp::PreTranslateMessage(MSG* pMsg) { return CWinThread::PreTranslateMessage(pMsg); }
 BOOL CWinApp::ProcessMessageFilter(int code, LPMSG lpMsg) { return CWinThread::ProcessMessageFilter(code, lpMsg); }

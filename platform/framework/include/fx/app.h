@@ -9,8 +9,13 @@
 #include <string>
 #include <vector>
 
+class CCmdUI;
 class CDocTemplate;
+class CRecentFileList;
 class CWinApp;
+
+/// How many recent files an application keeps unless it asks for another number.
+#define _AFX_MRU_COUNT 4
 
 /// What the command line asked for; CWinApp::ParseCommandLine fills it.
 class FRAMEWORK_API CCommandLineInfo : public CObject {
@@ -84,6 +89,10 @@ public:
     void ParseCommandLine(CCommandLineInfo& rCmdInfo);
     void HideApplication();
     virtual BOOL SaveAllModified();
+    /// The path becomes the first of the recent files; nothing happens before LoadStdProfileSettings.
+    virtual void AddToRecentFileList(LPCTSTR lpszPathName);
+    /// Null before LoadStdProfileSettings, and where the application keeps no recent files.
+    CRecentFileList* GetRecentFileList() const { return m_recentFiles.get(); }
 
     /// Shows AfxMessageBox's box. Goes through fx::RunMessageBox.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
@@ -106,6 +115,10 @@ protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
     void SetAppID(LPCTSTR lpcszAppID);
+    /// Reads the recent files, nMaxMRU at most, from the application's settings; 0: it keeps none. ExitInstance writes
+    /// them.
+    void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
+    afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
     afx_msg void OnAppExit();
     DECLARE_MESSAGE_MAP()
 
@@ -116,6 +129,7 @@ private:
     LPCTSTR Keep(std::wstring text);
 
     std::vector<std::unique_ptr<std::wstring>> m_texts; ///< what the m_psz members point to unless the host set them
+    std::unique_ptr<CRecentFileList> m_recentFiles;
     int m_waitCursorCount = 0;
     HCURSOR m_waitCursorRestore = nullptr;
 };
