@@ -6,6 +6,10 @@
 
 struct RibbonMainPanelParts;
 
+namespace ribbon {
+struct MenuList;
+}
+
 /// A button in the bottom row of the application menu.
 class FRAMEWORK_API CMFCRibbonMainPanelButton : public CMFCRibbonButton {
     DECLARE_DYNCREATE(CMFCRibbonMainPanelButton)
@@ -35,6 +39,9 @@ public:
     void Add(CMFCRibbonBaseElement* pElem) override;
     /// Takes ownership; the next row of the right side, which is at least nWidth pixels (at 96 DPI) wide.
     void AddToRight(CMFCRibbonBaseElement* pElem, int nWidth = 300);
+    /// The next rows of the right side: a heading and the application's recent files, as they are when the menu opens.
+    /// Each sends its command, from ID_FILE_MRU_FILE1 on.
+    void AddRecentFilesList(LPCTSTR lpszLabel, int nWidth = 300);
     /// Takes ownership; the next button of the bottom row.
     void AddToBottom(CMFCRibbonMainPanelButton* pElem);
     /// Commands and right side together, in the pop-up; empty while it is not open.
@@ -44,12 +51,17 @@ public:
     // For the pop-up.
     int GetImageColumnWidth(const CMFCRibbonButton* pButton) const;
     BOOL HasLargeRow(const CMFCRibbonButton* pButton) const;
-    /// Places all elements and answers the size that they take.
-    CSize Arrange(CDC* pDC, CSize room);
+    /// Brings the rows of recent files up to date.
+    void UpdateRecentFiles();
+    /// Places all elements and answers the size that they take. What is higher than the room scrolls: scrolling says
+    /// from which row on, and receives the strips for it.
+    CSize Arrange(CDC* pDC, CSize room, ribbon::MenuList& scrolling);
+    /// The first row from which on the element is in view; nFirstRow where it is already.
+    int FirstRowThatShows(const CMFCRibbonBaseElement* pElement, int nFirstRow) const;
     void DrawBackground(CDC* pDC, CRect rect);
 
 private:
-    CSize ArrangeRows(CDC* pDC);
+    CSize ArrangeRows(CDC* pDC, int nMaxHeight, int nFirstRow);
 
     std::unique_ptr<RibbonMainPanelParts> m_parts;
 };

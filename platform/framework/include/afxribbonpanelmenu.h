@@ -1,11 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "afxpopupmenu.h"
 #include "afxtempl.h"
 
-class CFrameWnd;
 class CMFCRibbonBar;
 class CMFCRibbonBaseElement;
 class CMFCRibbonButton;
@@ -13,6 +13,7 @@ class CMFCRibbonCategory;
 class CMFCRibbonMainPanel;
 class CMFCRibbonPanel;
 class CMFCRibbonPanelMenu;
+class RibbonAccess;
 struct RibbonLoan;
 struct RibbonPanelMenuParts;
 
@@ -52,6 +53,8 @@ public:
     /// The element shown here whose original, or which itself, is the given one; NULL when there is none.
     virtual CMFCRibbonBaseElement* FindByOrigin(CMFCRibbonBaseElement* pOrigin) const;
     void GetElements(ElementArray& arElements) const;
+    /// Top level, in order, hidden ones and those scrolled out of view too; empty for a category.
+    const std::vector<CMFCRibbonBaseElement*>& GetShown() const;
 
     BOOL IsMenuMode() const;
     BOOL IsMainPanel() const;
@@ -81,16 +84,24 @@ public:
 
     // For the pop-up and the elements.
     CMFCRibbonPanelMenu* GetMenu() const;
+    /// The ribbon bar whose pop-up it is; NULL when there is none.
+    CMFCRibbonBar* GetRibbonBar() const;
+    /// NULL until the pointer was over an element, and where the ribbon bar shows no tooltips.
+    CToolTipCtrl* GetToolTipCtrl() const;
     RibbonPopupLook GetLook() const;
     /// The bar takes ownership; before it is shown.
     void AddOwnElement(std::unique_ptr<CMFCRibbonBaseElement> element);
     void MarkLayoutDirty();
+    void EnsureLayout();
+    RibbonAccess& GetAccess();
+    void NotifyElementEvent(DWORD event, CMFCRibbonBaseElement& element);
     /// Lays out for a screen area and answers the size that it takes.
     CSize CalcContentSize(CSize room);
     void GiveBack();
     void OnElementDestroyed(CMFCRibbonBaseElement* pElement);
     void UpdateElements(CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
     void DoPaint(CDC* pDC) override;
     void AdjustLayout() override;
     void AdjustLocations() override {}
@@ -116,10 +127,14 @@ protected:
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnDestroy();
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAccessAction(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnNeedTipText(UINT id, NMHDR* pNMH, LRESULT* pResult);
+    afx_msg LRESULT OnUpdateToolTips(WPARAM wp, LPARAM lp);
     DECLARE_MESSAGE_MAP()
 
 private:
-    void EnsureLayout();
     CSize ArrangeMenu(CDC* pDC, CSize room);
     CSize ArrangeLines(CDC* pDC, CSize room);
     CSize ArrangePanel(CDC* pDC, CSize room);
@@ -129,7 +144,11 @@ private:
     void DrawElements(CDC* pDC);
     void SetHot(CMFCRibbonBaseElement* pElement);
     void OpenHot();
+    void CreateTooltip();
+    void PlaceTooltip();
+    void PopTooltip();
     void CancelPress();
+    void ReleaseOver(CPoint point);
     void CollectStops(ElementArray& stops) const;
     BOOL MoveHot(UINT nChar);
     BOOL Step(int direction);
@@ -191,6 +210,7 @@ public:
     /// The ribbon pop-up that it was opened from; NULL when none.
     CMFCRibbonPanelMenu* GetParentMenu() const;
     CMFCRibbonBaseElement* GetOpener() const { return GetParentRibbonElement(); }
+    CMFCRibbonBar* GetRibbonBar() const { return m_bar; }
     /// TRUE: the window belongs to one of the open pop-ups.
     static BOOL IsPopupWindow(HWND hWnd);
     /// The content has changed its size.

@@ -1,4 +1,4 @@
-// The accessible tree of a ribbon bar: which nodes there are, where, and what they say of themselves.
+// What all accessible trees of the ribbon have in common: objects, events, and what categories, panels and groups hold.
 #include "ribbon/access.h"
 
 #include <algorithm>
@@ -20,20 +20,6 @@ using Kind = Node::Kind;
 // Below are the positions of children.
 constexpr LONG kFirstId = 0x10000;
 
-Node ElementNode(CMFCRibbonBaseElement* element) { return {Kind::Element, element}; }
-
-void AppendShown(CMFCRibbonBaseElement* element, std::vector<Node>& nodes) {
-    if (element != nullptr && element->IsVisible()) {
-        nodes.push_back(ElementNode(element));
-    }
-}
-
-void AppendButtons(const CMFCRibbonButtonsGroup& group, std::vector<Node>& nodes) {
-    for (int place = 0; place < group.GetCount(); ++place) {
-        AppendShown(group.GetButton(place), nodes);
-    }
-}
-
 } // namespace
 
 CString RibbonAccessText(RibbonAccessTextId id) {
@@ -42,7 +28,7 @@ CString RibbonAccessText(RibbonAccessTextId id) {
     return length > 0 ? CString(text, length) : CString();
 }
 
-RibbonAccess::RibbonAccess(CMFCRibbonBar& bar) : m_bar(bar), m_nextId(kFirstId) {}
+RibbonAccess::RibbonAccess(CWnd& window) : m_window(window), m_nextId(kFirstId) {}
 
 RibbonAccess::~RibbonAccess() { Disconnect(); }
 
@@ -108,8 +94,8 @@ bool RibbonAccess::FindById(LONG id, Node& node) const {
 }
 
 void RibbonAccess::Notify(DWORD event, CMFCRibbonBaseElement& element) {
-    if (m_bar.GetSafeHwnd() != nullptr && ::IsWinEventHookInstalled(event)) {
-        ::NotifyWinEvent(event, m_bar.GetSafeHwnd(), OBJID_CLIENT, IdOf(element));
+    if (m_window.GetSafeHwnd() != nullptr && ::IsWinEventHookInstalled(event)) {
+        ::NotifyWinEvent(event, m_window.GetSafeHwnd(), OBJID_CLIENT, IdOf(element));
     }
 }
 
@@ -119,32 +105,25 @@ CMFCRibbonCategory& RibbonAccess::CategoryOf(const Node& node) { return *node.an
 
 CMFCRibbonPanel& RibbonAccess::PanelOf(const Node& node) { return *node.anchor->GetParentPanel(); }
 
+void RibbonAccess::AppendShown(CMFCRibbonBaseElement* element, std::vector<Node>& nodes) {
+    if (element != nullptr && element->IsVisible()) {
+        nodes.push_back(ElementNode(element));
+    }
+}
+
+void RibbonAccess::AppendButtons(const CMFCRibbonButtonsGroup& group, std::vector<Node>& nodes) {
+    for (int place = 0; place < group.GetCount(); ++place) {
+        AppendShown(group.GetButton(place), nodes);
+    }
+}
+
+RibbonBarParts& RibbonAccess::PartsOf(CMFCRibbonBar& bar) { return *bar.m_parts; }
+
+CMFCRibbonBaseElement* RibbonAccess::TabOf(CMFCRibbonCategory& category) { return &category.m_Tab; }
+
 std::vector<Node> RibbonAccess::ChildrenOf(const Node& node) const {
-    const RibbonBarParts& parts = *m_bar.m_parts;
     std::vector<Node> nodes;
     switch (node.kind) {
-    case Kind::Bar:
-        AppendShown(parts.applicationButton, nodes);
-        nodes.push_back({Kind::QuickAccess});
-        for (const auto& element : parts.tabElements) {
-            AppendShown(element.get(), nodes);
-        }
-        nodes.push_back({Kind::TabList});
-        if (parts.active != nullptr) {
-            nodes.push_back({Kind::Category, &parts.active->m_Tab});
-        }
-        break;
-    case Kind::QuickAccess:
-        AppendButtons(parts.quickAccess, nodes);
-        AppendShown(&m_bar.m_parts->quickAccess.GetCustomizeButton(), nodes);
-        break;
-    case Kind::TabList:
-        for (const auto& category : parts.categories) {
-            if (category->IsVisible()) {
-                AppendShown(&category->m_Tab, nodes);
-            }
-        }
-        break;
     case Kind::Category: {
         CMFCRibbonCategory& category = CategoryOf(node);
         for (int place = 0; place < category.GetPanelCount(); ++place) {
@@ -174,24 +153,20 @@ std::vector<Node> RibbonAccess::ChildrenOf(const Node& node) const {
             AppendButtons(*group, nodes);
         }
         break;
+    default:
+        break;
     }
     return nodes;
 }
 
 RibbonAccessNode RibbonAccess::ParentOf(const Node& node) const {
     if (node.kind == Kind::Panel) {
-        return {Kind::Category, &CategoryOf(node).m_Tab};
+        return {Kind::Category, TabOf(CategoryOf(node))};
     }
     if (node.kind != Kind::Element) {
         return {};
     }
     const CMFCRibbonBaseElement& element = *node.anchor;
-    if (element.IsKindOf(RUNTIME_CLASS(CMFCRibbonTab))) {
-        return {Kind::TabList};
-    }
-    if (element.IsQATMode() || &element == &m_bar.m_parts->quickAccess.GetCustomizeButton()) {
-        return {Kind::QuickAccess};
-    }
     if (element.GetParentGroup() != nullptr) {
         return ElementNode(element.GetParentGroup());
     }
@@ -199,7 +174,7 @@ RibbonAccessNode RibbonAccess::ParentOf(const Node& node) const {
         return {Kind::Panel, &panel->GetDefaultButton()};
     }
     if (CMFCRibbonCategory* category = element.GetParentCategory()) {
-        return {Kind::Category, &category->m_Tab}; // a scroll button
+        return {Kind::Category, TabOf(*category)}; // a scroll button
     }
     return {};
 }
@@ -207,24 +182,16 @@ RibbonAccessNode RibbonAccess::ParentOf(const Node& node) const {
 CRect RibbonAccess::RectOf(const Node& node) const {
     CRect rect(0, 0, 0, 0);
     switch (node.kind) {
-    case Kind::Bar:
-        m_bar.GetClientRect(rect);
-        return rect;
-    case Kind::QuickAccess:
-        return m_bar.m_parts->quickAccess.GetRect();
-    case Kind::TabList:
-        for (const Node& tab : ChildrenOf(node)) {
-            rect.UnionRect(rect, tab.anchor->GetRect());
-        }
-        return rect;
     case Kind::Category:
         return CategoryOf(node).GetRect();
     case Kind::Panel:
         return PanelOf(node).GetRect();
     case Kind::Element:
-        break;
+        return node.anchor->GetRect();
+    default:
+        m_window.GetClientRect(rect);
+        return rect;
     }
-    return node.anchor->GetRect();
 }
 
 bool RibbonAccess::FindAt(const Node& node, CPoint point, Node& found) const {
@@ -240,50 +207,28 @@ bool RibbonAccess::FindAt(const Node& node, CPoint point, Node& found) const {
     return true;
 }
 
-bool RibbonAccess::GetFocused(Node& node) const {
-    CMFCRibbonBaseElement* focused = m_bar.GetFocused();
-    node = ElementNode(focused);
-    return focused != nullptr;
-}
-
 // ---- what a node says
 
 void RibbonAccess::Describe(const Node& node, CAccessibilityData& data) const {
     data = {};
-    switch (node.kind) {
-    case Kind::Bar:
-        data.m_strName = RibbonAccessText(RibbonAccessTextId::Ribbon);
-        data.m_nRole = ROLE_SYSTEM_TOOLBAR;
-        data.m_nState = STATE_SYSTEM_FOCUSABLE;
-        break;
-    case Kind::QuickAccess:
-        data.m_strName = RibbonAccessText(RibbonAccessTextId::QuickAccess);
-        data.m_nRole = ROLE_SYSTEM_TOOLBAR;
-        break;
-    case Kind::TabList:
-        data.m_strName = RibbonAccessText(RibbonAccessTextId::Tabs);
-        data.m_nRole = ROLE_SYSTEM_PAGETABLIST;
-        break;
-    case Kind::Category:
-        data.m_strName = WithoutMnemonic(CategoryOf(node).GetName());
-        data.m_nRole = ROLE_SYSTEM_PROPERTYPAGE;
-        break;
-    case Kind::Panel:
-        data.m_strName = WithoutMnemonic(PanelOf(node).GetName());
-        data.m_nRole = ROLE_SYSTEM_GROUPING;
-        break;
-    case Kind::Element: {
+    if (node.kind == Kind::Element) {
         // A pop-up may show it for a while.
         CWnd* window = node.anchor->GetParentWnd();
-        node.anchor->SetACCData(window != nullptr ? window : &m_bar, data);
+        node.anchor->SetACCData(window != nullptr ? window : &m_window, data);
         return;
     }
+    if (node.kind == Kind::Category) {
+        data.m_strName = WithoutMnemonic(CategoryOf(node).GetName());
+        data.m_nRole = ROLE_SYSTEM_PROPERTYPAGE;
+    } else if (node.kind == Kind::Panel) {
+        data.m_strName = WithoutMnemonic(PanelOf(node).GetName());
+        data.m_nRole = ROLE_SYSTEM_GROUPING;
     }
     data.m_rect = RectOf(node);
     if (data.m_rect.IsRectEmpty()) {
         data.m_nState |= STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN;
     }
-    m_bar.ClientToScreen(data.m_rect);
+    m_window.ClientToScreen(data.m_rect);
 }
 
 // ---- what a node does
@@ -295,20 +240,11 @@ bool RibbonAccess::StartDefaultAction(const Node& node) {
         return false;
     }
     m_pending = node.anchor;
-    return ::PostMessageW(m_bar.GetSafeHwnd(), kRibbonAccessAction, 0, 0) != FALSE;
+    return ::PostMessageW(m_window.GetSafeHwnd(), kRibbonAccessAction, 0, 0) != FALSE;
 }
 
 void RibbonAccess::RunPendingAction() {
     if (CMFCRibbonBaseElement* element = std::exchange(m_pending, nullptr)) {
-        m_bar.GetKeyboard().Invoke(*element);
+        Invoke(*element);
     }
-}
-
-bool RibbonAccess::TakeFocus(const Node& node) {
-    if (node.kind != Kind::Element || !node.anchor->IsTabStop() || node.anchor->GetRect().IsRectEmpty()) {
-        return false;
-    }
-    m_bar.GetKeyboard().Activate();
-    m_bar.GetKeyboard().SetFocusTo(node.anchor);
-    return true;
 }

@@ -2,6 +2,7 @@
 #include <afxRibbonEdit.h>
 #include <afxRibbonLabel.h>
 #include <afxribbonbar.h>
+#include <afxribbonpanelmenu.h>
 #include <afxribboncheckbox.h>
 #include <afxribbonslider.h>
 
@@ -152,7 +153,9 @@ BOOL CMFCRibbonTab::SetACCData(CWnd* pParent, CAccessibilityData& data) {
 }
 
 void CMFCRibbonBaseElement::NotifyAccessibility(DWORD dwEvent) {
-    if (m_pRibbonBar != nullptr) {
+    if (m_pParentMenu != nullptr) {
+        m_pParentMenu->NotifyElementEvent(dwEvent, *this);
+    } else if (m_pRibbonBar != nullptr) {
         m_pRibbonBar->NotifyElementEvent(dwEvent, *this);
     }
 }

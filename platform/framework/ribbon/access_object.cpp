@@ -104,7 +104,7 @@ HRESULT RibbonAccessible::Resolve(const VARIANT& child, Target& target) const {
     if (child.lVal == CHILDID_SELF) {
         return S_OK;
     }
-    m_tree->Bar().EnsureLayout();
+    m_tree->EnsureLayout();
     const std::vector<RibbonAccessNode> children = m_tree->ChildrenOf(m_node);
     if (child.lVal > 0 && child.lVal <= static_cast<LONG>(children.size())) {
         target.node = children[static_cast<std::size_t>(child.lVal) - 1];
@@ -114,7 +114,7 @@ HRESULT RibbonAccessible::Resolve(const VARIANT& child, Target& target) const {
         target.row = child.lVal;
         return S_OK;
     }
-    return m_node.kind == Kind::Bar && m_tree->FindById(child.lVal, target.node) ? S_OK : E_INVALIDARG;
+    return m_node.kind == Kind::Root && m_tree->FindById(child.lVal, target.node) ? S_OK : E_INVALIDARG;
 }
 
 HRESULT RibbonAccessible::Describe(const VARIANT& child, CAccessibilityData& data) const {
@@ -123,7 +123,7 @@ HRESULT RibbonAccessible::Describe(const VARIANT& child, CAccessibilityData& dat
     if (FAILED(result)) {
         return result;
     }
-    m_tree->Bar().EnsureLayout();
+    m_tree->EnsureLayout();
     if (target.row > 0) {
         return target.node.anchor->SetACCRowData(target.row - 1, data) ? S_OK : E_INVALIDARG;
     }
@@ -168,8 +168,8 @@ STDMETHODIMP RibbonAccessible::get_accParent(IDispatch** parent) {
     if (m_tree == nullptr) {
         return CO_E_OBJNOTCONNECTED;
     }
-    if (m_node.kind == Kind::Bar) {
-        return ::AccessibleObjectFromWindow(m_tree->Bar().GetSafeHwnd(), static_cast<DWORD>(OBJID_WINDOW),
+    if (m_node.kind == Kind::Root) {
+        return ::AccessibleObjectFromWindow(m_tree->Window().GetSafeHwnd(), static_cast<DWORD>(OBJID_WINDOW),
                                             IID_IDispatch, reinterpret_cast<void**>(parent));
     }
     *parent = m_tree->ObjectOf(m_tree->ParentOf(m_node));
@@ -184,7 +184,7 @@ STDMETHODIMP RibbonAccessible::get_accChildCount(long* count) {
     if (m_tree == nullptr) {
         return CO_E_OBJNOTCONNECTED;
     }
-    m_tree->Bar().EnsureLayout();
+    m_tree->EnsureLayout();
     *count = std::max(static_cast<long>(m_tree->ChildrenOf(m_node).size()), static_cast<long>(CountRows()));
     return S_OK;
 }
@@ -219,7 +219,7 @@ STDMETHODIMP RibbonAccessible::get_accFocus(VARIANT* child) {
         return S_FALSE;
     }
     for (RibbonAccessNode inside = focused; inside != m_node; inside = m_tree->ParentOf(inside)) {
-        if (inside.kind == Kind::Bar) {
+        if (inside.kind == Kind::Root) {
             return S_FALSE; // elsewhere in the bar
         }
     }
@@ -258,7 +258,7 @@ STDMETHODIMP RibbonAccessible::accNavigate(long direction, VARIANT start, VARIAN
     if (target.row > 0) {
         return S_FALSE;
     }
-    m_tree->Bar().EnsureLayout();
+    m_tree->EnsureLayout();
     if (direction == NAVDIR_FIRSTCHILD || direction == NAVDIR_LASTCHILD) {
         const std::vector<RibbonAccessNode> children = m_tree->ChildrenOf(target.node);
         if (children.empty()) {
@@ -266,7 +266,7 @@ STDMETHODIMP RibbonAccessible::accNavigate(long direction, VARIANT start, VARIAN
         }
         return AnswerWith(direction == NAVDIR_FIRSTCHILD ? children.front() : children.back(), end);
     }
-    if (target.node.kind == Kind::Bar) {
+    if (target.node.kind == Kind::Root) {
         return S_FALSE;
     }
     return NavigateTo(m_tree->ChildrenOf(m_tree->ParentOf(target.node)), target.node, direction, end);
@@ -319,9 +319,9 @@ STDMETHODIMP RibbonAccessible::accHitTest(long left, long top, VARIANT* child) {
     if (m_tree == nullptr) {
         return CO_E_OBJNOTCONNECTED;
     }
-    m_tree->Bar().EnsureLayout();
+    m_tree->EnsureLayout();
     CPoint point(left, top);
-    m_tree->Bar().ScreenToClient(&point);
+    m_tree->Window().ScreenToClient(&point);
     RibbonAccessNode found;
     return m_tree->FindAt(m_node, point, found) ? AnswerWith(found, child) : S_FALSE;
 }

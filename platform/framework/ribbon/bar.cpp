@@ -65,7 +65,7 @@ RibbonFontScope::~RibbonFontScope() {
 CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
     : m_rectCaption(0, 0, 0, 0), m_parts(std::make_unique<RibbonBarParts>()) {
     m_parts->keyboard = std::make_unique<RibbonKeyboard>(*this);
-    m_parts->access = std::make_unique<RibbonAccess>(*this);
+    m_parts->access = std::make_unique<RibbonBarAccess>(*this);
     m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
     m_parts->quickAccess.SetParentRibbonBar(this);
     m_parts->quickAccess.GetCustomizeButton().SetParentRibbonBar(this);
@@ -130,8 +130,8 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
     if (m_parts == nullptr) {
         return;
     }
-    for (CMFCRibbonBaseElement** holder :
-         {&m_parts->hot, &m_parts->pressed, &m_parts->releasing, &m_parts->menuSubject}) {
+    m_parts->press.Forget(pElement);
+    for (CMFCRibbonBaseElement** holder : {&m_parts->hot, &m_parts->menuSubject}) {
         if (*holder == pElement) {
             *holder = nullptr;
         }

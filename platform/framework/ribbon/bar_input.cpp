@@ -8,9 +8,6 @@
 
 namespace {
 
-constexpr UINT_PTR kRepeatTimer = 1;
-constexpr int kFarAway = -32000;
-
 bool TakesInput(const CMFCRibbonBaseElement& element) { return !element.IsDisabled() && !element.IsSeparator(); }
 
 } // namespace
@@ -38,49 +35,22 @@ void CMFCRibbonBar::OnLButtonDblClk(UINT nFlags, CPoint point) {
 }
 
 void CMFCRibbonBar::Press(CMFCRibbonBaseElement* element, CPoint point) {
-    const HWND window = m_hWnd;
-    m_parts->pressed = element;
-    SetCapture();
     SetHot(element, point);
-    element->SetPressed(TRUE);
-    element->Redraw();
-    const bool inCategory = m_parts->active != nullptr && element->GetParentPanel() != nullptr;
-    if (inCategory) {
-        m_parts->active->OnLButtonDown(point);
-    } else {
-        element->OnLButtonDown(point);
-    }
-    int delay = 0;
-    if (::IsWindow(window) && m_parts->pressed != nullptr && m_parts->pressed->IsAutoRepeatMode(delay)) {
-        SetTimer(kRepeatTimer, static_cast<UINT>(delay), nullptr);
-    }
+    m_parts->press.Start(*this, *element, [this, element, point] {
+        const bool inCategory = m_parts->active != nullptr && element->GetParentPanel() != nullptr;
+        if (inCategory) {
+            m_parts->active->OnLButtonDown(point);
+        } else {
+            element->OnLButtonDown(point);
+        }
+    });
 }
 
 void CMFCRibbonBar::OnLButtonUp(UINT nFlags, CPoint point) {
     CPane::OnLButtonUp(nFlags, point);
-    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
-    if (element == nullptr) {
-        return;
+    if (m_parts->press.Release(point) == RibbonPress::Released::Element) {
+        SetHot(HitTest(point, TRUE), point);
     }
-    const HWND window = m_hWnd;
-    KillTimer(kRepeatTimer);
-    m_parts->releasing = element;
-    if (GetCapture() == this) {
-        ::ReleaseCapture();
-    }
-    if (m_parts->releasing == nullptr) {
-        return;
-    }
-    element->OnLButtonUp(point);
-    // The click may have ended the window, the bar or the element.
-    if (!::IsWindow(window)) {
-        return;
-    }
-    if (CMFCRibbonBaseElement* released = std::exchange(m_parts->releasing, nullptr)) {
-        released->SetPressed(FALSE);
-        released->Redraw();
-    }
-    SetHot(HitTest(point, TRUE), point);
 }
 
 void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
@@ -90,9 +60,9 @@ void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
         m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
     }
     CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
-    if (m_parts->pressed != nullptr) {
-        SetHot(hit == m_parts->pressed ? hit : nullptr, point);
-        m_parts->pressed->OnMouseMove(point);
+    if (CMFCRibbonBaseElement* pressed = m_parts->press.GetElement()) {
+        SetHot(hit == pressed ? hit : nullptr, point);
+        pressed->OnMouseMove(point);
         return;
     }
     SetHot(hit, point);
@@ -104,7 +74,7 @@ void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
 void CMFCRibbonBar::OnMouseLeave() {
     CPane::OnMouseLeave();
     m_parts->tracksLeave = false;
-    if (m_parts->pressed == nullptr) {
+    if (!m_parts->press.IsActive()) {
         SetHot(nullptr, CPoint(-1, -1));
     }
 }
@@ -130,21 +100,7 @@ void CMFCRibbonBar::SetHot(CMFCRibbonBaseElement* element, CPoint point) {
     PlaceTooltip();
 }
 
-void CMFCRibbonBar::CancelPress() {
-    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
-    if (element == nullptr) {
-        return;
-    }
-    if (GetSafeHwnd() != nullptr) {
-        KillTimer(kRepeatTimer);
-    }
-    element->SetPressed(FALSE);
-    // Whatever the element is in the middle of ends here; no element acts on a release so far away.
-    element->OnLButtonUp(CPoint(kFarAway, kFarAway));
-    if (GetSafeHwnd() != nullptr && GetCapture() == this) {
-        ::ReleaseCapture();
-    }
-}
+void CMFCRibbonBar::CancelPress() { m_parts->press.Cancel(); }
 
 void CMFCRibbonBar::OnCancelMode() {
     CPane::OnCancelMode();
@@ -154,25 +110,17 @@ void CMFCRibbonBar::OnCancelMode() {
 
 void CMFCRibbonBar::OnCaptureChanged(CWnd* pWnd) {
     CPane::OnCaptureChanged(pWnd);
-    if (pWnd != this && m_parts->pressed != nullptr) {
+    if (pWnd != this && m_parts->press.IsActive()) {
         CancelPress();
         SetHot(nullptr, CPoint(-1, -1));
     }
 }
 
 void CMFCRibbonBar::OnTimer(UINT_PTR nIDEvent) {
-    if (nIDEvent != kRepeatTimer) {
+    if (nIDEvent == RibbonPress::kTimer) {
+        m_parts->press.OnTimer(m_hWnd);
+    } else {
         CPane::OnTimer(nIDEvent);
-        return;
-    }
-    if (m_parts->pressed == nullptr) {
-        KillTimer(kRepeatTimer);
-        return;
-    }
-    const HWND window = m_hWnd;
-    const bool goesOn = m_parts->pressed->OnAutoRepeat() != FALSE;
-    if (::IsWindow(window) && !goesOn) {
-        KillTimer(kRepeatTimer);
     }
 }
 
@@ -182,7 +130,7 @@ BOOL CMFCRibbonBar::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
     ScreenToClient(&client);
     CRect area;
     GetClientRect(area);
-    if (!area.PtInRect(client) || m_parts->active == nullptr || m_parts->pressed != nullptr || m_parts->minimized ||
+    if (!area.PtInRect(client) || m_parts->active == nullptr || m_parts->press.IsActive() || m_parts->minimized ||
         GetDroppedDown() != nullptr) {
         return CPane::OnMouseWheel(nFlags, zDelta, pt);
     }
@@ -216,7 +164,7 @@ BOOL CMFCRibbonBar::PreTranslateMessage(MSG* pMsg) {
     if (isMouse && m_pToolTip != nullptr && pMsg->hwnd == m_hWnd) {
         m_pToolTip->RelayEvent(pMsg);
     }
-    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && m_parts->pressed != nullptr) {
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && m_parts->press.IsActive()) {
         CancelPress();
         return TRUE;
     }

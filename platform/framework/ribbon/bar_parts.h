@@ -8,12 +8,17 @@
 #include "ribbon/bar_layout.h"
 #include "ribbon/keyboard.h"
 #include "ribbon/panel_layout.h"
+#include "ribbon/press.h"
 
 inline CRect ToCRect(const RibbonRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 inline RibbonRect ToRibbonRect(const CRect& rect) {
     return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
             static_cast<int>(rect.bottom)};
 }
+
+/// Answers TTN_NEEDTEXT with an element's tip. The text is lent: it stays where it is while the tip shows.
+void FillRibbonTooltip(CToolTipCtrl& control, NMHDR& request, CMFCRibbonBaseElement& element, bool showsDescription,
+                       const CString& text);
 
 /// Selects the ribbon's regular font for its lifetime.
 class RibbonFontScope {
@@ -72,8 +77,7 @@ struct RibbonBarParts {
 
     // Nothing here outlives the element: each tells the bar when it goes.
     CMFCRibbonBaseElement* hot = nullptr;
-    CMFCRibbonBaseElement* pressed = nullptr;
-    CMFCRibbonBaseElement* releasing = nullptr;   // gets the button's release now
+    RibbonPress press;
     CMFCRibbonBaseElement* menuSubject = nullptr; // whose context menu is open
     CMFCRibbonPanel* hotPanel = nullptr;
     bool tracksLeave = false;

@@ -91,15 +91,19 @@ BOOL CMFCRibbonBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) {
     if (text.IsEmpty()) {
         return TRUE;
     }
-    if (CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_pToolTip)) {
-        CMFCRibbonButton* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, hit);
-        tooltip->SetHotRibbonButton(button != nullptr && button->IsDrawTooltipImage() ? button : nullptr);
-        tooltip->SetDescription(m_parts->tooltipDescriptions ? hit->GetDescription() : CString());
-    }
     m_parts->tooltipText = text;
-    auto* info = reinterpret_cast<NMTTDISPINFO*>(pNMH);
-    info->lpszText = const_cast<LPTSTR>(static_cast<LPCTSTR>(m_parts->tooltipText));
+    FillRibbonTooltip(*m_pToolTip, *pNMH, *hit, m_parts->tooltipDescriptions, m_parts->tooltipText);
     return TRUE;
+}
+
+void FillRibbonTooltip(CToolTipCtrl& control, NMHDR& request, CMFCRibbonBaseElement& element, bool showsDescription,
+                       const CString& text) {
+    if (CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, &control)) {
+        CMFCRibbonButton* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element);
+        tooltip->SetHotRibbonButton(button != nullptr && button->IsDrawTooltipImage() ? button : nullptr);
+        tooltip->SetDescription(showsDescription ? element.GetDescription() : CString());
+    }
+    reinterpret_cast<NMTTDISPINFO&>(request).lpszText = const_cast<LPTSTR>(static_cast<LPCTSTR>(text));
 }
 
 LRESULT CMFCRibbonBar::OnUpdateToolTips(WPARAM wp, LPARAM /*lp*/) {

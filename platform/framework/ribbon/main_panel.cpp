@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "afxRibbonEdit.h"
+#include "afxRibbonLabel.h"
+#include "afxadv.h"
+#include "afxres.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/element_metrics.h"
@@ -17,7 +20,9 @@ struct RibbonMainPanelParts {
     std::vector<const CMFCRibbonBaseElement*> bottom;
     int rightWidth = 0; // at 96 DPI
     bool smallRows = false;
+    ribbon::MainPanelContent content; // as last measured
     ribbon::MainPanelPlaces places;
+    std::vector<CMFCRibbonButton*> recentFiles;
 
     Place PlaceOf(const CMFCRibbonBaseElement* element) const {
         if (std::find(right.begin(), right.end(), element) != right.end()) {
@@ -44,6 +49,17 @@ void CMFCRibbonMainPanelButton::OnDrawBorder(CDC* pDC) {
     CMFCVisualManager::GetInstance()->OnDrawRibbonMainPanelButtonBorder(pDC, this);
 }
 
+namespace {
+
+/// A recent file: in the application menu only.
+class RecentFileButton : public CMFCRibbonButton {
+public:
+    explicit RecentFileButton(UINT id) : CMFCRibbonButton(id, L"") {}
+    BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
+};
+
+} // namespace
+
 // ---- panel
 
 IMPLEMENT_DYNCREATE(CMFCRibbonMainPanel, CMFCRibbonPanel)
@@ -61,6 +77,35 @@ void CMFCRibbonMainPanel::AddToRight(CMFCRibbonBaseElement* pElem, int nWidth) {
     m_parts->right.push_back(pElem);
     m_parts->rightWidth = std::max(m_parts->rightWidth, nWidth);
     CMFCRibbonPanel::Add(pElem);
+}
+
+void CMFCRibbonMainPanel::AddRecentFilesList(LPCTSTR lpszLabel, int nWidth) {
+    AddToRight(new CMFCRibbonLabel(lpszLabel), nWidth);
+    for (UINT id = ID_FILE_MRU_FIRST; id <= ID_FILE_MRU_LAST; ++id) {
+        auto row = std::make_unique<RecentFileButton>(id);
+        row->SetVisible(FALSE);
+        m_parts->recentFiles.push_back(row.get());
+        AddToRight(row.release(), nWidth);
+    }
+}
+
+void CMFCRibbonMainPanel::UpdateRecentFiles() {
+    CRecentFileList* files = AfxGetApp() != nullptr ? AfxGetApp()->GetRecentFileList() : nullptr;
+    int index = 0;
+    for (CMFCRibbonButton* row : m_parts->recentFiles) {
+        CString name;
+        const BOOL isThere = files != nullptr && files->GetDisplayName(name, index, nullptr, 0);
+        row->SetVisible(isThere);
+        if (isThere) {
+            CString text;
+            text.Format(L"%d %s", index + 1, static_cast<LPCTSTR>(name));
+            row->SetText(text);
+            row->SetToolTipText((*files)[index]);
+            text.Format(L"%d", (index + 1) % 10);
+            row->SetKeys(nullptr, index < 10 ? static_cast<LPCTSTR>(text) : nullptr);
+        }
+        ++index;
+    }
 }
 
 void CMFCRibbonMainPanel::AddToBottom(CMFCRibbonMainPanelButton* pElem) {
@@ -87,20 +132,45 @@ BOOL CMFCRibbonMainPanel::HasLargeRow(const CMFCRibbonButton* pButton) const {
            pButton->GetImageSize(CMFCRibbonBaseElement::RibbonImageLarge).cx > 0;
 }
 
-// Large rows, unless the screen is too low for them.
-CSize CMFCRibbonMainPanel::Arrange(CDC* pDC, CSize room) {
+// Large rows, unless the screen is too low for them; where it is too low for small ones they scroll.
+CSize CMFCRibbonMainPanel::Arrange(CDC* pDC, CSize room, ribbon::MenuList& scrolling) {
     m_parts->smallRows = false;
-    CSize size = ArrangeRows(pDC);
+    CSize size = ArrangeRows(pDC, 0, 0);
     if (size.cy > room.cy) {
         m_parts->smallRows = true;
-        size = ArrangeRows(pDC);
+        size = ArrangeRows(pDC, room.cy, scrolling.firstRow);
     }
+    const ribbon::MainPanelPlaces& places = m_parts->places;
+    scrolling.scrollUp = places.scrollUp;
+    scrolling.scrollDown = places.scrollDown;
+    scrolling.firstRow = places.firstRow;
+    scrolling.canScrollUp = places.canScrollUp;
+    scrolling.canScrollDown = places.canScrollDown;
     return size;
 }
 
-CSize CMFCRibbonMainPanel::ArrangeRows(CDC* pDC) {
+int CMFCRibbonMainPanel::FirstRowThatShows(const CMFCRibbonBaseElement* pElement, int nFirstRow) const {
     using Place = RibbonMainPanelParts::Place;
-    ribbon::MainPanelContent content;
+    const Place place = m_parts->PlaceOf(pElement);
+    if (place == Place::Bottom) {
+        return nFirstRow;
+    }
+    int row = 0;
+    for (int index = 0; index < GetCount() && GetElement(index) != pElement; ++index) {
+        row += m_parts->PlaceOf(GetElement(index)) == place ? 1 : 0;
+    }
+    const auto& rows = place == Place::Right ? m_parts->content.right : m_parts->content.left;
+    const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
+    const int room = ribbon::ColumnRoom(rows, m_parts->places.frame.Height(), metrics);
+    return ribbon::FirstRowThatShows(rows, row, room, nFirstRow, metrics);
+}
+
+CSize CMFCRibbonMainPanel::ArrangeRows(CDC* pDC, int nMaxHeight, int nFirstRow) {
+    using Place = RibbonMainPanelParts::Place;
+    ribbon::MainPanelContent& content = m_parts->content;
+    content = {};
+    content.maxHeight = nMaxHeight;
+    content.firstRow = nFirstRow;
     content.rightWidth = ribbon::CurrentMetrics().Scaled(m_parts->rightWidth);
     for (int index = 0; index < GetCount(); ++index) {
         CMFCRibbonBaseElement& element = *GetElement(index);

@@ -107,6 +107,8 @@ MenuRowFace PlaceMenuRow(const Rect& rect, const MenuRowContent& content, const 
     return face;
 }
 
+int ScrollStripHeight(const FaceMetrics& metrics) { return metrics.Scaled(kScrollHeight); }
+
 MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, int firstRow,
                        const FaceMetrics& metrics) {
     MenuList list;

@@ -50,6 +50,9 @@ struct MenuList {
     bool canScrollDown = false;
 };
 
+// Height of the strips at the ends of a list that scrolls.
+int ScrollStripHeight(const FaceMetrics& metrics);
+
 // Shows as many whole rows from firstRow on as maxHeight has room for, at least one; a first row that would leave room
 // unused at the end moves up. A row of no height takes no place.
 MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, int firstRow,

@@ -102,6 +102,9 @@ void CMFCRibbonPanelMenuBar::Lend() {
     CMFCRibbonCategory* category = nullptr;
     if (m_parts->source != nullptr) {
         category = m_parts->source->GetParentCategory();
+        if (m_parts->mainPanel != nullptr) {
+            m_parts->mainPanel->UpdateRecentFiles();
+        }
         m_parts->source->m_pParentMenuBar = this;
         for (int position = 0; position < m_parts->source->GetCount(); ++position) {
             m_parts->shown.push_back(m_parts->source->GetElement(position));
@@ -121,8 +124,13 @@ void CMFCRibbonPanelMenuBar::GiveBack() {
         return;
     }
     CancelPress();
+    PopTooltip();
+    if (m_parts->access != nullptr) {
+        m_parts->access->Disconnect();
+    }
     const std::shared_ptr<RibbonPanelMenuParts> parts = m_parts;
-    parts->hot = parts->releasing = nullptr;
+    parts->hot = nullptr;
+    parts->press.ForgetReleased();
     // An edit that loses its window sends its command, whose handler may delete anything.
     while (!parts->loans.empty()) {
         const RibbonLoan loan = parts->loans.back();
@@ -172,8 +180,11 @@ void CMFCRibbonPanelMenuBar::GiveBackElement(const RibbonLoan& loan, const Ribbo
 }
 
 void CMFCRibbonPanelMenuBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
-    for (CMFCRibbonBaseElement** holder :
-         {&m_parts->hot, &m_parts->pressed, &m_parts->releasing, &m_parts->returning}) {
+    m_parts->press.Forget(pElement);
+    if (m_parts->access != nullptr) {
+        m_parts->access->Forget(*pElement);
+    }
+    for (CMFCRibbonBaseElement** holder : {&m_parts->hot, &m_parts->returning}) {
         if (*holder == pElement) {
             *holder = nullptr;
         }
@@ -292,6 +303,8 @@ void CMFCRibbonPanelMenuBar::GetElements(ElementArray& arElements) const {
         }
     }
 }
+
+const std::vector<CMFCRibbonBaseElement*>& CMFCRibbonPanelMenuBar::GetShown() const { return m_parts->shown; }
 
 CMFCRibbonBaseElement* CMFCRibbonPanelMenuBar::GetHighlighted() const { return m_parts->hot; }
 

@@ -4,9 +4,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
+#include "afxRibbonMainPanel.h"
 #include "afxribbonbar.h"
 #include "afxribbonbutton.h"
+#include "fx/registered_messages.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/panel_menu_parts.h"
 
@@ -24,15 +27,18 @@ ON_WM_CAPTURECHANGED()
 ON_WM_TIMER()
 ON_WM_MOUSEWHEEL()
 ON_WM_RBUTTONUP()
+ON_WM_DESTROY()
+ON_MESSAGE(WM_GETOBJECT, &CMFCRibbonPanelMenuBar::OnGetObject)
+ON_MESSAGE(kRibbonAccessAction, &CMFCRibbonPanelMenuBar::OnAccessAction)
+ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedTipText)
+ON_REGISTERED_MESSAGE(AFX_WM_UPDATETOOLTIPS, OnUpdateToolTips)
 END_MESSAGE_MAP()
 
 namespace {
 
 constexpr UINT_PTR kHoverTimer = 1;
 constexpr UINT_PTR kScrollTimer = 2;
-constexpr UINT_PTR kRepeatTimer = 3;
 constexpr UINT kScrollDelay = 100;
-constexpr int kFarAway = -32000;
 
 bool TakesInput(const CMFCRibbonBaseElement& element) { return !element.IsDisabled() && !element.IsSeparator(); }
 
@@ -55,6 +61,8 @@ wchar_t Upper(wchar_t letter) {
 
 void CMFCRibbonPanelMenuBar::OnLButtonDown(UINT nFlags, CPoint point) {
     CPane::OnLButtonDown(nFlags, point);
+    m_bAcceptsRelease = TRUE;
+    PopTooltip();
     EnsureLayout();
     const ribbon::Point at{static_cast<int>(point.x), static_cast<int>(point.y)};
     if (m_parts->list.scrollUp.Contains(at) || m_parts->list.scrollDown.Contains(at)) {
@@ -69,17 +77,8 @@ void CMFCRibbonPanelMenuBar::OnLButtonDown(UINT nFlags, CPoint point) {
     if (hit == nullptr || !TakesInput(*hit)) {
         return;
     }
-    const HWND window = m_hWnd;
-    m_parts->pressed = hit;
-    SetCapture();
     SetHot(hit);
-    hit->SetPressed(TRUE);
-    hit->Redraw();
-    hit->OnLButtonDown(point);
-    int delay = 0;
-    if (::IsWindow(window) && m_parts->pressed != nullptr && m_parts->pressed->IsAutoRepeatMode(delay)) {
-        SetTimer(kRepeatTimer, static_cast<UINT>(delay), nullptr);
-    }
+    m_parts->press.Start(*this, *hit, [hit, point] { hit->OnLButtonDown(point); });
 }
 
 void CMFCRibbonPanelMenuBar::OnLButtonDblClk(UINT nFlags, CPoint point) { OnLButtonDown(nFlags, point); }
@@ -87,31 +86,34 @@ void CMFCRibbonPanelMenuBar::OnLButtonDblClk(UINT nFlags, CPoint point) { OnLBut
 // The command may end the window, its owner, or the elements: nothing is looked at afterwards.
 void CMFCRibbonPanelMenuBar::OnLButtonUp(UINT nFlags, CPoint point) {
     CPane::OnLButtonUp(nFlags, point);
-    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
-    if (element == nullptr) {
+    const std::shared_ptr<RibbonPanelMenuParts> parts = m_parts;
+    if (parts->press.Release(point) == RibbonPress::Released::Nothing && m_bAcceptsRelease) {
+        ReleaseOver(point);
+    }
+}
+
+// A press that began elsewhere, on what opened the pop-up for example, ends on a button: it is clicked.
+void CMFCRibbonPanelMenuBar::ReleaseOver(CPoint point) {
+    EnsureLayout();
+    CMFCRibbonBaseElement* hit = HitTest(point);
+    CMFCRibbonButton* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, hit);
+    if (button == nullptr || !TakesInput(*button) || IsHeading(*button) ||
+        DYNAMIC_DOWNCAST(CMFCRibbonEdit, button) != nullptr || button->IsDroppedDown()) {
         return;
     }
     const HWND window = m_hWnd;
-    KillTimer(kRepeatTimer);
-    m_parts->releasing = element;
-    if (GetCapture() == this) {
-        ::ReleaseCapture();
-    }
-    if (!::IsWindow(window) || m_parts->releasing == nullptr) {
-        return;
-    }
-    element->OnLButtonUp(point);
-    if (!::IsWindow(window)) {
-        return;
-    }
-    if (CMFCRibbonBaseElement* released = std::exchange(m_parts->releasing, nullptr)) {
-        released->SetPressed(FALSE);
-        released->Redraw();
+    button->OnLButtonDown(point);
+    if (::IsWindow(window) && HitTest(point) == hit && !button->IsDroppedDown()) {
+        button->OnLButtonUp(point);
     }
 }
 
 void CMFCRibbonPanelMenuBar::OnMouseMove(UINT nFlags, CPoint point) {
     CPane::OnMouseMove(nFlags, point);
+    CPoint screen = point;
+    ClientToScreen(&screen);
+    // The button that opened the pop-up may be let go above it, where the pointer was.
+    m_bAcceptsRelease = m_bAcceptsRelease || screen != m_ptOpened;
     // Windows repeats moves when windows appear; the keyboard's choice must not be lost by that.
     if (std::exchange(m_parts->lastMove, point) == point) {
         return;
@@ -122,9 +124,9 @@ void CMFCRibbonPanelMenuBar::OnMouseMove(UINT nFlags, CPoint point) {
     }
     EnsureLayout();
     CMFCRibbonBaseElement* hit = HitTest(point);
-    if (m_parts->pressed != nullptr) {
-        SetHot(hit == m_parts->pressed ? hit : nullptr);
-        m_parts->pressed->OnMouseMove(point);
+    if (CMFCRibbonBaseElement* pressed = m_parts->press.GetElement()) {
+        SetHot(hit == pressed ? hit : nullptr);
+        pressed->OnMouseMove(point);
         return;
     }
     const ribbon::Point at{static_cast<int>(point.x), static_cast<int>(point.y)};
@@ -155,7 +157,7 @@ void CMFCRibbonPanelMenuBar::OnMouseLeave() {
     m_parts->scrollHot = 0;
     KillTimer(kScrollTimer);
     KillTimer(kHoverTimer);
-    if (m_parts->pressed != nullptr) {
+    if (m_parts->press.IsActive()) {
         return;
     }
     CMFCRibbonBaseElement* dropped = nullptr;
@@ -192,29 +194,14 @@ void CMFCRibbonPanelMenuBar::OnCancelMode() {
 
 void CMFCRibbonPanelMenuBar::OnCaptureChanged(CWnd* pWnd) {
     CPane::OnCaptureChanged(pWnd);
-    if (pWnd != this) {
+    if (pWnd != this && m_parts->press.IsActive()) {
         CancelPress();
     }
 }
 
-void CMFCRibbonPanelMenuBar::CancelPress() {
-    CMFCRibbonBaseElement* element = std::exchange(m_parts->pressed, nullptr);
-    if (element == nullptr) {
-        return;
-    }
-    if (GetSafeHwnd() != nullptr) {
-        KillTimer(kRepeatTimer);
-    }
-    element->SetPressed(FALSE);
-    // Whatever the element is in the middle of ends here; no element acts on a release so far away.
-    element->OnLButtonUp(CPoint(kFarAway, kFarAway));
-    if (GetSafeHwnd() != nullptr && GetCapture() == this) {
-        ::ReleaseCapture();
-    }
-}
+void CMFCRibbonPanelMenuBar::CancelPress() { m_parts->press.Cancel(); }
 
 void CMFCRibbonPanelMenuBar::OnTimer(UINT_PTR nIDEvent) {
-    const HWND window = m_hWnd;
     switch (nIDEvent) {
     case kHoverTimer:
         KillTimer(kHoverTimer);
@@ -225,12 +212,8 @@ void CMFCRibbonPanelMenuBar::OnTimer(UINT_PTR nIDEvent) {
             KillTimer(kScrollTimer);
         }
         break;
-    case kRepeatTimer:
-        if (m_parts->pressed == nullptr || !m_parts->pressed->OnAutoRepeat()) {
-            if (::IsWindow(window)) {
-                KillTimer(kRepeatTimer);
-            }
-        }
+    case RibbonPress::kTimer:
+        m_parts->press.OnTimer(m_hWnd);
         break;
     default:
         CPane::OnTimer(nIDEvent);
@@ -241,10 +224,11 @@ void CMFCRibbonPanelMenuBar::OnTimer(UINT_PTR nIDEvent) {
 void CMFCRibbonPanelMenuBar::OpenHot() {
     CMFCRibbonBaseElement* hot = m_parts->hot;
     CMFCRibbonPanelMenu* menu = GetMenu();
-    if (menu == nullptr || hot == nullptr || m_parts->pressed != nullptr || hot->IsDroppedDown()) {
+    if (menu == nullptr || hot == nullptr || m_parts->press.IsActive() || hot->IsDroppedDown()) {
         return;
     }
     menu->DismissChildren();
+    PopTooltip();
     if (hot->HasMenu() && TakesInput(*hot)) {
         hot->OnShowPopupMenu();
     }
@@ -263,14 +247,16 @@ void CMFCRibbonPanelMenuBar::SetHot(CMFCRibbonBaseElement* pElement) {
     m_parts->hot = pElement;
     if (pElement != nullptr) {
         pElement->SetHighlighted(TRUE);
+        pElement->NotifyAccessibility(EVENT_OBJECT_FOCUS);
     }
+    PlaceTooltip();
     for (const RibbonLoan& loan : m_parts->loans) {
         loan.element->OnChangeMenuHighlight(this, pElement);
     }
 }
 
 BOOL CMFCRibbonPanelMenuBar::Scroll(int nRows) {
-    if (m_parts->look != RibbonPopupLook::Menu || m_parts->list.scrollDown.IsEmpty()) {
+    if (m_parts->list.scrollDown.IsEmpty()) {
         return FALSE;
     }
     const bool can = nRows < 0 ? m_parts->list.canScrollUp : m_parts->list.canScrollDown;
@@ -398,7 +384,8 @@ BOOL CMFCRibbonPanelMenuBar::MoveHot(UINT nChar) {
         return Step(::GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
     case VK_UP:
     case VK_DOWN:
-        if (m_parts->look == RibbonPopupLook::Menu) {
+        // Arrows that look for the nearest place would not find rows that are scrolled out of view.
+        if (m_parts->look == RibbonPopupLook::Menu || !m_parts->list.scrollDown.IsEmpty()) {
             return Step(nChar == VK_UP ? -1 : 1);
         }
         return StepTowards(nChar);
@@ -460,22 +447,26 @@ BOOL CMFCRibbonPanelMenuBar::StepTowards(UINT nChar) {
 }
 
 void CMFCRibbonPanelMenuBar::ShowRowOf(CMFCRibbonBaseElement* pElement) {
-    if (m_parts->look != RibbonPopupLook::Menu || pElement == nullptr || m_parts->list.scrollDown.IsEmpty()) {
+    if (pElement == nullptr || m_parts->list.scrollDown.IsEmpty()) {
         return;
     }
-    for (size_t index = 0; index < m_parts->shown.size(); ++index) {
-        if (m_parts->shown[index]->Find(pElement) == nullptr) {
-            continue;
-        }
-        const int first =
-            ribbon::FirstRowThatShows(m_parts->rows, static_cast<int>(index), static_cast<int>(m_parts->room.cy),
-                                      m_parts->list.firstRow, ribbon::CurrentMetrics());
-        if (first != m_parts->list.firstRow) {
-            m_parts->list.firstRow = first;
-            CalcContentSize(m_parts->room);
-            Invalidate(FALSE);
-        }
+    const auto row =
+        std::find_if(m_parts->shown.begin(), m_parts->shown.end(),
+                     [pElement](CMFCRibbonBaseElement* shown) { return shown->Find(pElement) != nullptr; });
+    if (row == m_parts->shown.end()) {
         return;
+    }
+    int first = m_parts->list.firstRow;
+    if (m_parts->mainPanel != nullptr) {
+        first = m_parts->mainPanel->FirstRowThatShows(*row, first);
+    } else {
+        first = ribbon::FirstRowThatShows(m_parts->rows, static_cast<int>(row - m_parts->shown.begin()),
+                                          static_cast<int>(m_parts->room.cy), first, ribbon::CurrentMetrics());
+    }
+    if (first != m_parts->list.firstRow) {
+        m_parts->list.firstRow = first;
+        CalcContentSize(m_parts->room);
+        Invalidate(FALSE);
     }
 }
 

@@ -180,7 +180,7 @@ CSize CMFCRibbonPanelMenuBar::ArrangeMainPanel(CDC* pDC, CSize room) {
     if (m_parts->mainPanel == nullptr) {
         return m_parts->size;
     }
-    return m_parts->mainPanel->Arrange(pDC, room);
+    return m_parts->mainPanel->Arrange(pDC, room, m_parts->list);
 }
 
 // ---- drawing
@@ -229,7 +229,7 @@ void CMFCRibbonPanelMenuBar::DoPaint(CDC* pDC) {
         break;
     }
     const ribbon::MenuList& list = m_parts->list;
-    if (m_parts->look == RibbonPopupLook::Menu && !list.scrollDown.IsEmpty()) {
+    if (!list.scrollDown.IsEmpty()) {
         manager->OnDrawMenuScrollButton(pDC, ribbon::ToRect(list.scrollUp), FALSE, m_parts->scrollHot < 0, FALSE,
                                         !list.canScrollUp);
         manager->OnDrawMenuScrollButton(pDC, ribbon::ToRect(list.scrollDown), TRUE, m_parts->scrollHot > 0, FALSE,

@@ -6,7 +6,9 @@
 #include "afxRibbonPanel.h"
 #include "afxribboncategory.h"
 #include "afxribbonpanelmenu.h"
+#include "ribbon/access.h"
 #include "ribbon/menu_geometry.h"
+#include "ribbon/press.h"
 
 /// A panel of elements that are another's: it forgets them before it goes.
 class LentPanel : public CMFCRibbonPanel {
@@ -68,10 +70,14 @@ struct RibbonPanelMenuParts {
     int imageColumn = 0;
 
     CMFCRibbonBaseElement* hot = nullptr;
-    CMFCRibbonBaseElement* pressed = nullptr;
-    CMFCRibbonBaseElement* releasing = nullptr;
+    RibbonPress press;
     CMFCRibbonBaseElement* returning = nullptr; // goes back to its container now
     CPoint lastMove{-1, -1};
     int scrollHot = 0; // -1 up, 1 down
     bool tracksLeave = false;
+
+    std::unique_ptr<RibbonAccess> access; // null until an assistive program asks
+
+    CToolTipCtrl* tooltip = nullptr; // the window's; null until it is needed
+    CString tooltipText;             // lent to the tooltip while it shows
 };

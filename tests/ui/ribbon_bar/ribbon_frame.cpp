@@ -1,5 +1,7 @@
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
+#include <afxres.h>
+
 #include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
 #include "afxribboncheckbox.h"
@@ -50,6 +52,17 @@ BOOL RibbonFrame::OnShowPopupMenu(CMFCPopupMenu* menu) {
 void RibbonFrame::OnClosePopupMenu(CMFCPopupMenu* menu) {
     ++popupsClosed;
     CFrameWndEx::OnClosePopupMenu(menu);
+}
+
+BOOL RibbonFrame::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) {
+    const bool isRecentFile = id >= ID_FILE_MRU_FIRST && id <= ID_FILE_MRU_LAST;
+    if (!handlesRecentFiles || !isRecentFile || code != CN_COMMAND) {
+        return CFrameWndEx::OnCmdMsg(id, code, extra, info);
+    }
+    if (info == nullptr) {
+        commands.push_back(id); // a command, not the question whether anybody handles it
+    }
+    return TRUE;
 }
 
 LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {

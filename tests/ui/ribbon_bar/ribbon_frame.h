@@ -55,9 +55,11 @@ public:
     int popupsShown = 0;
     int popupsClosed = 0;
     bool allowsPopups = true;
+    bool handlesRecentFiles = false;
 
     BOOL OnShowPopupMenu(CMFCPopupMenu* menu) override;
     void OnClosePopupMenu(CMFCPopupMenu* menu) override;
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);

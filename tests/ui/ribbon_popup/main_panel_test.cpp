@@ -91,6 +91,35 @@ TEST_F(MainPanel, SubItemsOpenBesideTheirRow) {
     EXPECT_THAT(m_frame->commands, ElementsAre(kQuickPrint));
 }
 
+TEST_F(MainPanel, RowsThatTheScreenHasNoRoomForAreScrolledToAndWork) {
+    for (UINT index = 0; index < 100; ++index) {
+        m_panel->Add(new CMFCRibbonButton(2000 + index, L"Row"));
+        m_panel->AddToRight(new CMFCRibbonButton(2200 + index, L"Recent"), 200);
+    }
+    Click(m_button);
+    CRect window;
+    Popup().GetWindowRect(window);
+    EXPECT_LE(window.Height(), ::GetSystemMetrics(SM_CYSCREEN));
+    EXPECT_TRUE(RectOf(2099).IsRectEmpty());
+    EXPECT_TRUE(RectOf(2299).IsRectEmpty());
+    EXPECT_FALSE(RectOf(kExit).IsRectEmpty()) << "the buttons below stay";
+    EXPECT_FALSE(PopupBar().Scroll(-1));
+    while (PopupBar().Scroll(1)) {
+    }
+    const CRect frame = m_panel->GetCommandsFrame();
+    for (const UINT id : {2099u, 2299u}) {
+        EXPECT_FALSE(RectOf(id).IsRectEmpty());
+        EXPECT_LE(RectOf(id).bottom, frame.bottom);
+    }
+    Click(*m_panel->FindByID(2299));
+    Click(m_button);
+    Press(VK_UP); // goes round to the last
+    PopupBar().Highlight(m_panel->FindByID(2099));
+    EXPECT_FALSE(RectOf(2099).IsRectEmpty()) << "the keyboard brings it into view";
+    Press(VK_RETURN);
+    EXPECT_THAT(m_frame->commands, ElementsAre(2299u, 2099u));
+}
+
 TEST_F(MainPanel, AnotherMainCategoryReplacesTheFormerEvenWhileItIsOpen) {
     Click(m_button);
     m_panel = Bar().AddMainCategory(L"Other", 0, 0);

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <vector>
 
 #include "ribbon/main_panel_geometry.h"
 
@@ -138,6 +140,38 @@ TEST(MainPanelPlaces, PartsLieInTheFrameAndButtonsBelowIt) {
         EXPECT_EQ(places.bottom[1].right, places.frame.right);
         EXPECT_LT(places.bottom[0].right, places.bottom[1].left);
         EXPECT_TRUE(IsInside(places.bottom[1], {0, 0, places.size.width, places.size.height}));
+    }
+}
+
+TEST(MainPanelPlaces, ColumnsThatAreTooHighScrollSoThatEachRowHasItsTurn) {
+    for (const FaceMetrics& metrics : kMetrics) {
+        for (int maxHeight = metrics.Scaled(140); maxHeight < metrics.Scaled(420); maxHeight += 7) {
+            MainPanelContent content;
+            content.left.assign(8, {150, metrics.Scaled(40)});
+            content.right.assign(12, {100, metrics.Scaled(20)});
+            content.bottom = {{70, 22}};
+            content.maxHeight = maxHeight;
+            std::vector<bool> left(8), right(12);
+            bool goesOn = true;
+            while (goesOn) {
+                const MainPanelPlaces places = PlaceMainPanel(content, metrics);
+                EXPECT_LE(places.size.height, maxHeight);
+                const Rect inside{places.frame.left, places.scrollUp.bottom, places.frame.right,
+                                  places.scrollDown.IsEmpty() ? places.frame.bottom : places.scrollDown.top};
+                for (size_t row = 0; row < 8; ++row) {
+                    EXPECT_TRUE(IsInside(places.left[row], inside)) << maxHeight;
+                    left[row] = left[row] || !places.left[row].IsEmpty();
+                }
+                for (size_t row = 0; row < 12; ++row) {
+                    EXPECT_TRUE(IsInside(places.right[row], inside)) << maxHeight;
+                    right[row] = right[row] || !places.right[row].IsEmpty();
+                }
+                goesOn = places.canScrollDown;
+                content.firstRow = places.firstRow + 1;
+            }
+            EXPECT_EQ(std::count(left.begin(), left.end(), true), 8) << maxHeight;
+            EXPECT_EQ(std::count(right.begin(), right.end(), true), 12) << maxHeight;
+        }
     }
 }
 

@@ -1,0 +1,113 @@
+// The accessible tree of a ribbon bar: what stands at its root, and how it takes the focus.
+#include "ribbon/access.h"
+
+#include "afxribbonbar.h"
+#include "ribbon/access_texts.h"
+#include "ribbon/bar_parts.h"
+
+namespace {
+
+using Node = RibbonAccessNode;
+using Kind = Node::Kind;
+
+} // namespace
+
+RibbonBarAccess::RibbonBarAccess(CMFCRibbonBar& bar) : RibbonAccess(bar), m_bar(bar) {}
+
+void RibbonBarAccess::EnsureLayout() const { m_bar.EnsureLayout(); }
+
+std::vector<Node> RibbonBarAccess::ChildrenOf(const Node& node) const {
+    RibbonBarParts& parts = PartsOf(m_bar);
+    std::vector<Node> nodes;
+    switch (node.kind) {
+    case Kind::Root:
+        AppendShown(parts.applicationButton, nodes);
+        nodes.push_back({Kind::QuickAccess});
+        for (const auto& element : parts.tabElements) {
+            AppendShown(element.get(), nodes);
+        }
+        nodes.push_back({Kind::TabList});
+        if (parts.active != nullptr) {
+            nodes.push_back({Kind::Category, TabOf(*parts.active)});
+        }
+        return nodes;
+    case Kind::QuickAccess:
+        AppendButtons(parts.quickAccess, nodes);
+        AppendShown(&parts.quickAccess.GetCustomizeButton(), nodes);
+        return nodes;
+    case Kind::TabList:
+        for (const auto& category : parts.categories) {
+            if (category->IsVisible()) {
+                AppendShown(TabOf(*category), nodes);
+            }
+        }
+        return nodes;
+    default:
+        return RibbonAccess::ChildrenOf(node);
+    }
+}
+
+RibbonAccessNode RibbonBarAccess::ParentOf(const Node& node) const {
+    if (node.kind == Kind::Element) {
+        const CMFCRibbonBaseElement& element = *node.anchor;
+        if (element.IsKindOf(RUNTIME_CLASS(CMFCRibbonTab))) {
+            return {Kind::TabList};
+        }
+        if (element.IsQATMode() || &element == &PartsOf(m_bar).quickAccess.GetCustomizeButton()) {
+            return {Kind::QuickAccess};
+        }
+    }
+    return RibbonAccess::ParentOf(node);
+}
+
+CRect RibbonBarAccess::RectOf(const Node& node) const {
+    if (node.kind == Kind::QuickAccess) {
+        return PartsOf(m_bar).quickAccess.GetRect();
+    }
+    if (node.kind != Kind::TabList) {
+        return RibbonAccess::RectOf(node);
+    }
+    CRect rect(0, 0, 0, 0);
+    for (const Node& tab : ChildrenOf(node)) {
+        rect.UnionRect(rect, tab.anchor->GetRect());
+    }
+    return rect;
+}
+
+void RibbonBarAccess::Describe(const Node& node, CAccessibilityData& data) const {
+    RibbonAccess::Describe(node, data);
+    switch (node.kind) {
+    case Kind::Root:
+        data.m_strName = RibbonAccessText(RibbonAccessTextId::Ribbon);
+        data.m_nRole = ROLE_SYSTEM_TOOLBAR;
+        data.m_nState |= STATE_SYSTEM_FOCUSABLE;
+        break;
+    case Kind::QuickAccess:
+        data.m_strName = RibbonAccessText(RibbonAccessTextId::QuickAccess);
+        data.m_nRole = ROLE_SYSTEM_TOOLBAR;
+        break;
+    case Kind::TabList:
+        data.m_strName = RibbonAccessText(RibbonAccessTextId::Tabs);
+        data.m_nRole = ROLE_SYSTEM_PAGETABLIST;
+        break;
+    default:
+        break;
+    }
+}
+
+bool RibbonBarAccess::GetFocused(Node& node) const {
+    CMFCRibbonBaseElement* focused = m_bar.GetFocused();
+    node = ElementNode(focused);
+    return focused != nullptr;
+}
+
+bool RibbonBarAccess::TakeFocus(const Node& node) {
+    if (node.kind != Kind::Element || !node.anchor->IsTabStop() || node.anchor->GetRect().IsRectEmpty()) {
+        return false;
+    }
+    m_bar.GetKeyboard().Activate();
+    m_bar.GetKeyboard().SetFocusTo(node.anchor);
+    return true;
+}
+
+void RibbonBarAccess::Invoke(CMFCRibbonBaseElement& element) { m_bar.GetKeyboard().Invoke(element); }
