@@ -52,7 +52,8 @@ std::vector<Rect> ScrollRows(const std::vector<Size>& sizes, const Rect& column,
     places.firstRow = std::max(places.firstRow, list.firstRow);
     places.canScrollUp = places.canScrollUp || list.canScrollUp;
     places.canScrollDown = places.canScrollDown || list.canScrollDown;
-    const int top = column.top + (scrolls ? 0 : ScrollStripHeight(metrics)); // a list that scrolls begins below its own strip
+    const int top =
+        column.top + (scrolls ? 0 : ScrollStripHeight(metrics)); // a list that scrolls begins below its own strip
     for (Rect& row : list.rows) {
         if (!row.IsEmpty())
             row = {column.left, top + row.top, column.right, top + row.bottom};

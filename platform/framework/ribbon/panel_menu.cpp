@@ -239,9 +239,7 @@ CMFCRibbonPanelMenu* CMFCRibbonPanelMenu::GetDeepest() { return NearestRibbonMen
 
 CMFCRibbonPanelMenu* CMFCRibbonPanelMenu::GetParentMenu() const { return NearestRibbonMenu(GetParentPopupMenu()); }
 
-BOOL CMFCRibbonPanelMenu::IsPopupWindow(HWND hWnd) {
-    return toolbar::IsInOpenPopups(hWnd);
-}
+BOOL CMFCRibbonPanelMenu::IsPopupWindow(HWND hWnd) { return toolbar::IsInOpenPopups(hWnd); }
 
 void CMFCRibbonPanelMenu::OnClose() {
     if (m_isDismissed) {

@@ -11,8 +11,8 @@ constexpr LPCTSTR kEntryFormat = L"File%d";
 CString FullPath(LPCTSTR path) {
     const DWORD needed = ::GetFullPathNameW(path, 0, nullptr, nullptr);
     CString full;
-    const DWORD length = needed > 0 ? ::GetFullPathNameW(path, needed, full.GetBuffer(static_cast<int>(needed)), nullptr)
-                                    : 0;
+    const DWORD length =
+        needed > 0 ? ::GetFullPathNameW(path, needed, full.GetBuffer(static_cast<int>(needed)), nullptr) : 0;
     full.ReleaseBuffer(static_cast<int>(length));
     return length > 0 ? full : CString(path);
 }
@@ -54,8 +54,11 @@ CString CurrentDirectory() {
 } // namespace
 
 CRecentFileList::CRecentFileList(UINT nStart, LPCTSTR lpszSection, LPCTSTR lpszEntryFormat, int nSize, int nMaxDispLen)
-    : m_paths(static_cast<size_t>(std::max(nSize, 0))), m_nStart(nStart), m_strSection(lpszSection),
-      m_strEntryFormat(lpszEntryFormat), m_nMaxDispLen(nMaxDispLen) {}
+    : m_paths(static_cast<size_t>(std::max(nSize, 0))),
+      m_nStart(nStart),
+      m_strSection(lpszSection),
+      m_strEntryFormat(lpszEntryFormat),
+      m_nMaxDispLen(nMaxDispLen) {}
 
 CRecentFileList::~CRecentFileList() = default;
 

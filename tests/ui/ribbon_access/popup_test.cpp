@@ -21,9 +21,9 @@ protected:
     /// What AccessibleObjectFromWindow gives for the window of the pop-up's bar.
     static Accessible Root() {
         void* object = nullptr;
-        EXPECT_EQ(::AccessibleObjectFromWindow(PopupBar(), static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                               &object),
-                  S_OK);
+        EXPECT_EQ(
+            ::AccessibleObjectFromWindow(PopupBar(), static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &object),
+            S_OK);
         return Accessible(static_cast<IAccessible*>(object));
     }
     static std::vector<std::wstring> NamesIn(const Accessible& parent) {

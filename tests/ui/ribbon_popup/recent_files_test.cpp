@@ -18,7 +18,9 @@ public:
     using CWinApp::LoadStdProfileSettings;
 };
 
-void Load(UINT count) { (AfxGetApp()->*static_cast<void (CWinApp::*)(UINT)>(&Settings::LoadStdProfileSettings))(count); }
+void Load(UINT count) {
+    (AfxGetApp()->*static_cast<void (CWinApp::*)(UINT)>(&Settings::LoadStdProfileSettings))(count);
+}
 
 class RecentFilesMenu : public RibbonPopupTest {
 protected:
