@@ -86,13 +86,12 @@ LEFT_OUT("thumbnails, progress and buttons in the task bar", CMDIChildWndEx, Can
 LEFT_OUT("thumbnails, progress and buttons in the task bar", AFX_GLOBAL_DATA, GetITaskbarList, GetITaskbarList3,
          ReleaseTaskBarRefs)
 
-LEFT_OUT("documents, their templates and recent files", CWinApp, AddDocTemplate, AddToRecentFileList, CloseAllDocuments,
-         GetFirstDocTemplatePosition, GetNextDocTemplate, OpenDocumentFile, ProcessShellCommand, LoadStdProfileSettings,
-         OnFileNew, OnFileOpen)
-LEFT_OUT("documents, their templates and recent files", CFrameWnd, GetActiveDocument)
-LEFT_OUT("documents, their templates and recent files", CMDIFrameWndEx, CreateDocumentWindow, CreateNewWindow)
-LEFT_OUT("documents, their templates and recent files", CMDIChildWndEx, GetDocumentName)
-LEFT_OUT("documents, their templates and recent files", CView, GetDocument)
+LEFT_OUT("documents and their templates", CWinApp, AddDocTemplate, CloseAllDocuments, GetFirstDocTemplatePosition,
+         GetNextDocTemplate, OpenDocumentFile, ProcessShellCommand, OnFileNew, OnFileOpen)
+LEFT_OUT("documents and their templates", CFrameWnd, GetActiveDocument)
+LEFT_OUT("documents and their templates", CMDIFrameWndEx, CreateDocumentWindow, CreateNewWindow)
+LEFT_OUT("documents and their templates", CMDIChildWndEx, GetDocumentName)
+LEFT_OUT("documents and their templates", CView, GetDocument)
 
 LEFT_OUT("printing and its preview", CWinApp, CreatePrinterDC, GetPrinterDeviceDefaults, SelectPrinter,
          OnFilePrintSetup)
@@ -235,7 +234,6 @@ class CDocument;
 class CDocTemplate;
 class CMultiDocTemplate;
 class CSingleDocTemplate;
-class CRecentFileList;
 class CPrintInfo;
 class CToolBar;
 class CDialogBar;
@@ -259,8 +257,7 @@ class CMFCRibbonUndoButton;
 class CMFCRibbonCustomizeDialog;
 class CMFCRibbonCustomizePropertyPage;
 
-LEFT_OUT_CLASSES("documents and their templates", CDocument, CDocTemplate, CMultiDocTemplate, CSingleDocTemplate,
-                 CRecentFileList)
+LEFT_OUT_CLASSES("documents and their templates", CDocument, CDocTemplate, CMultiDocTemplate, CSingleDocTemplate)
 LEFT_OUT_CLASSES("printing and its preview", CPrintInfo)
 LEFT_OUT_CLASSES("older bars, replaced by the panes", CToolBar, CDialogBar, CReBar)
 LEFT_OUT_CLASSES("pictures: the framework keeps them in image lists", CImage)

@@ -281,6 +281,8 @@ INTERFACE_OF(CMFCRibbonLabel) {
 INTERFACE_OF(CMFCRibbonMainPanel) {
     BASE(CMFCRibbonPanel);
     VIRTUAL(void, Add, (CMFCRibbonBaseElement*));
+    MEMBER(void, AddRecentFilesList, (LPCTSTR, int));
+    CALL(AddRecentFilesList, LPCTSTR);
     MEMBER(void, AddToBottom, (CMFCRibbonMainPanelButton*));
     MEMBER(void, AddToRight, (CMFCRibbonBaseElement*, int));
     CALL(AddToRight, CMFCRibbonBaseElement*);

@@ -1,5 +1,6 @@
 #include "interface.h"
 
+#include "afxadv.h"
 #include "afxkeyboardmanager.h"
 #include "afxwin.h"
 #include "afxwinappex.h"
@@ -60,6 +61,7 @@ INTERFACE_OF(CWinThread) {
 INTERFACE_OF(CWinApp) {
     BASE(CWinThread);
     MADE_FROM(LPCTSTR);
+    VIRTUAL(void, AddToRecentFileList, (LPCTSTR));
     MEMBER(LONG, DelRegTree, (HKEY, const CString&));
     CALL(DelRegTree, HKEY, const CString&);
     VIRTUAL(int, DoMessageBox, (LPCTSTR, UINT, UINT));
@@ -107,9 +109,24 @@ INTERFACE_OF(CWinApp) {
 }
 
 PROTECTED_INTERFACE_OF(CWinApp) {
+    MEMBER(void, LoadStdProfileSettings, (UINT));
     MEMBER(void, SetAppID, (LPCTSTR));
     MEMBER(void, SetRegistryKey, (LPCTSTR));
     MEMBER(void, SetRegistryKey, (UINT));
+}
+
+INTERFACE_OF(CRecentFileList) {
+    MADE_FROM(UINT, LPCTSTR, LPCTSTR, int);
+    MADE_FROM(UINT, LPCTSTR, LPCTSTR, int, int);
+    VIRTUAL(void, Add, (LPCTSTR));
+    VIRTUAL(BOOL, GetDisplayName, (CString&, int, LPCTSTR, int, BOOL) const);
+    CALL(GetDisplayName, CString&, int, LPCTSTR, int);
+    MEMBER(int, GetSize, () const);
+    VIRTUAL(void, ReadList, ());
+    VIRTUAL(void, Remove, (int));
+    VIRTUAL(void, UpdateMenu, (CCmdUI*));
+    VIRTUAL(void, WriteList, ());
+    MEMBER(CString&, operator[], (int));
 }
 
 INTERFACE_OF(CWinAppEx) {
