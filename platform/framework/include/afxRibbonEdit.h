@@ -59,7 +59,10 @@ public:
     // The edit area is also the command rectangle, the drop button of a combo box the menu rectangle.
     CRect GetEditRect() const { return m_rectCommand; }
     void DestroyCtrl() override;
+    // Opens the list of an element that has one.
     virtual void DropDownList();
+    // The keyboard's focus goes to an edit window.
+    BOOL TakesTyping() const { return HasEditWindow(); }
 
     CSize GetRegularSize(CDC* pDC) override;
     CSize GetCompactSize(CDC* pDC) override;
@@ -98,8 +101,12 @@ protected:
     // From the edit window.
     virtual void OnEditChange();
     virtual void OnEditFocus(BOOL bSet);
-    // Enter, Escape, arrows; TRUE: done.
+    // Enter, Escape, arrows; with Alt the arrows and function keys only. TRUE: done.
     virtual BOOL OnEditKey(UINT nChar);
+    // The text is about to be sent: the command follows.
+    virtual void OnTextCommitted() {}
+    // The host's window has the focus again.
+    void LeaveEditWindow();
     // Sends the command when the text differs from the one last sent or set.
     void CommitText();
     void RevertText();
@@ -117,7 +124,7 @@ protected:
     CMFCRibbonRichEditCtrl* m_pWndEdit = nullptr;
     CString m_strEdit;
     CString m_strCommitted; // the text that was last set or sent
-    int m_nWidth = 0;
+    int m_nWidth = 0;       // configured, of the edit area at 96 DPI; 0 or less: the usual one
     int m_nWidthFloaty = 0;
     int m_nAlign = ES_LEFT;
     BOOL m_bSettingText = FALSE;

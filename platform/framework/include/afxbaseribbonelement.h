@@ -136,6 +136,8 @@ public:
     virtual BOOL IsGalleryIcon() const { return FALSE; }
     virtual BOOL IsShowTooltipOnBottom() const { return TRUE; }
     virtual BOOL HasMenu() const { return FALSE; }
+    // OnKey(TRUE) opens something: a menu or a list.
+    virtual BOOL HasDropDown() const { return HasMenu(); }
     virtual BOOL IsAutoRepeatMode(int& nDelay) const;
     BOOL IsMenuMode() const { return m_bIsMenuMode; }
     BOOL IsQATMode() const { return m_bIsQATMode; }

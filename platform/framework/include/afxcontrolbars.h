@@ -32,6 +32,7 @@
 #include "afxribbonbutton.h"
 #include "afxribbonbuttonsgroup.h"
 #include "afxRibbonEdit.h"
+#include "afxribboncombobox.h"
 #include "afxRibbonLabel.h"
 #include "afxribbonslider.h"
 #include "afxribboncheckbox.h"

@@ -179,6 +179,8 @@ protected:
     virtual void OnChooseItem(UINT) {}
     /// Size of the window for the bar's items (pixels), border and limits included.
     virtual CSize CalcWindowSize(int nMaxHeight);
+    /// What the menu does not open over, screen; empty: nothing.
+    virtual CRect GetAvoidedArea();
     virtual void DrawFrame(CDC* pDC);
     void PostNcDestroy() override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -218,7 +220,6 @@ private:
     void ShowAnimated();
     void ScrollBy(int nPixels);
     void DragResize(CPoint point);
-    CRect GetAvoidedArea();
     void TellOpened();
 
     HMENU m_hMenu = NULL;

@@ -3,14 +3,23 @@
 #include "afxtoolbar.h"
 #include "afxtoolbarmenubutton.h"
 
+#include <memory>
+
 class CMFCPopupMenu;
 
 namespace toolbar {
+class PopupRows;
 struct MenuRowMetrics;
-}
+struct RowGeometry;
+} // namespace toolbar
 
 /// The items of a pop-up menu: child window of a CMFCPopupMenu, which owns it. It imports a menu's items, tracks the
 /// mouse and keys over them, and opens the pop-ups of its items.
+///
+/// With SetRows it is a list instead (IsDropDownListMode): it has no buttons then (GetCount answers 0), and rows,
+/// rectangles, hit test, scrolling and painting are computed, so that the number of rows costs nothing. Derived bars of
+/// a list override the message handlers and use HitTest, GetRowRect and InvalidateRow. What a handler tells the host
+/// may close the list, which ends this object: look at the window's handle again before going on.
 class FRAMEWORK_API CMFCPopupMenuBar : public CMFCToolBar {
     DECLARE_DYNCREATE(CMFCPopupMenuBar)
 
@@ -57,6 +66,31 @@ public:
     // What kind of pop-up this is
     BOOL IsDropDownListMode() const { return m_bDropDownListMode; }
     BOOL IsPaletteMode() const { return FALSE; }
+
+    // A list. Its rows begin at the upper edge of the client area and are GetRowHeight() high each; it scrolls by whole
+    // rows.
+    /// Before the window is made. NULL: back to buttons. The rows stay the caller's and outlive the window.
+    void SetRows(toolbar::PopupRows* pRows);
+    BOOL HasRows() const { return m_rows != NULL; }
+    int GetRowCount() const;
+    /// Client pixels, also of a row that is scrolled out of view; empty when there is no such row.
+    CRect GetRowRect(int nRow) const;
+    void InvalidateRow(int nRow);
+    /// The hot row, under the mouse or chosen by keys; -1 when none is.
+    int GetHotRow() const { return HasRows() ? m_iHighlighted : -1; }
+    /// Scrolls to the row and makes it hot; -1: none is. The host is told and may close the list.
+    void SetHotRow(int nRow);
+    /// Rows were added or removed, or have another text.
+    void OnRowsChanged();
+    /// Row under the point (client pixels) or, with buttons, the index of the button; -1 when there is none.
+    int HitTest(CPoint point) override;
+    void GetItemRect(int nIndex, LPRECT lpRect) const override;
+    void GetInvalidateItemRect(int nIndex, LPRECT lpRect) const override;
+    /// What of a height is moved by a page: in a list whole rows.
+    int GetPageHeight(int nHeight) const;
+    /// The largest offset that makes sense in a bar of that height.
+    int GetLowestOffset(int nHeight);
+
     virtual BOOL IsRibbonPanel() const { return FALSE; }
     virtual BOOL IsRibbonPanelInRegularMode() const { return FALSE; }
 
@@ -95,6 +129,9 @@ protected:
     /// Next item to make hot from iFrom in direction nStep; -1 when no item can be.
     int FindSelectable(int iFrom, int nStep) const;
     virtual void MakeVisible(int iIndex);
+    /// The space bar on a list's hot row. TRUE: it was used; the list stays open and draws the row anew, if it is still
+    /// there. FALSE: it is a character like any other.
+    virtual BOOL OnToggleRow(int nRow);
     BOOL OpenSubMenu(int iIndex, BOOL bSelectFirst);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -109,6 +146,20 @@ protected:
     afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     DECLARE_MESSAGE_MAP()
 
+private:
+    struct Rows;
+    toolbar::RowGeometry GetRowGeometry() const;
+    CSize CalcRows();
+    void PaintRows(CDC* pDC);
+    void PaintRow(CDC* pDC, int nRow);
+    BOOL OnRowKey(UINT nChar);
+    BOOL OnRowChar(UINT nChar);
+    BOOL OnRowWheel(short zDelta);
+    BOOL ToggleHotRow();
+    void ChooseRow(int nRow);
+    std::unique_ptr<Rows> m_rows; ///< of a list; NULL: there are buttons
+
+protected:
     UINT m_uiDefMenuCmd = 0;
     int m_iOffset = 0;
     int m_nContentHeight = 0;

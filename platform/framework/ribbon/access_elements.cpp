@@ -41,8 +41,8 @@ LONG StateOf(const CMFCRibbonBaseElement& element) {
         {element.IsChecked(), STATE_SYSTEM_CHECKED},
         {element.IsTabStop() && !element.IsDisabled(), STATE_SYSTEM_FOCUSABLE},
         {element.IsFocused(), STATE_SYSTEM_FOCUSED},
-        {element.HasMenu(), STATE_SYSTEM_HASPOPUP},
-        {element.HasMenu(), element.IsDroppedDown() ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED},
+        {element.HasDropDown(), STATE_SYSTEM_HASPOPUP},
+        {element.HasDropDown(), element.IsDroppedDown() ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED},
         {!element.IsVisible(), STATE_SYSTEM_INVISIBLE},
         {element.GetRect().IsRectEmpty(), STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN},
     };

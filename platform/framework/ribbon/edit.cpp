@@ -80,8 +80,8 @@ ribbon::EditContent CMFCRibbonEdit::CollectContent(CDC* pDC, BOOL bWithLabel) co
     content.image = ribbon::FromSize(GetImageSize(RibbonImageSmall));
     if (bWithLabel)
         content.label = ribbon::TextContext(pDC).Measure({GetText(), wcslen(GetText())});
-    content.boxWidth = ribbon::CurrentMetrics().Scaled(GetWidth());
     content.dropButtonWidth = GetDropButtonWidth();
+    content.boxWidth = ribbon::CurrentMetrics().Scaled(GetWidth()) + content.dropButtonWidth;
     return content;
 }
 

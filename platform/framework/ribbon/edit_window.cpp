@@ -21,11 +21,19 @@ ON_MESSAGE(WM_MOUSELEAVE, &CMFCRibbonRichEditCtrl::OnMouseLeave)
 ON_CONTROL_REFLECT(EN_CHANGE, &CMFCRibbonRichEditCtrl::OnChange)
 END_MESSAGE_MAP()
 
+namespace {
+
+// Alt with an arrow is the edit's; what else Alt goes with means the frame.
+bool IsKeyWithAlt(WPARAM key) { return key == VK_UP || key == VK_DOWN; }
+
+} // namespace
+
 CMFCRibbonRichEditCtrl::CMFCRibbonRichEditCtrl(CMFCRibbonEdit& edit) : m_edit(edit) {}
 
 BOOL CMFCRibbonRichEditCtrl::PreTranslateMessage(MSG* pMsg) {
     // The key may send a command whose handler deletes this window.
-    if (pMsg->message == WM_KEYDOWN && pMsg->hwnd == GetSafeHwnd() && m_edit.OnEditKey(static_cast<UINT>(pMsg->wParam)))
+    const bool isKey = pMsg->message == WM_KEYDOWN || (pMsg->message == WM_SYSKEYDOWN && IsKeyWithAlt(pMsg->wParam));
+    if (isKey && pMsg->hwnd == GetSafeHwnd() && m_edit.OnEditKey(static_cast<UINT>(pMsg->wParam)))
         return TRUE;
     return CRichEditCtrl::PreTranslateMessage(pMsg);
 }
@@ -174,21 +182,27 @@ BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
     if (nChar == VK_ESCAPE)
         RevertText();
     m_strCommitted = m_strEdit;
+    LeaveEditWindow();
+    if (nChar == VK_RETURN) {
+        CloseParentMenus();
+        OnTextCommitted();
+        NotifyCommand();
+    }
+    return TRUE;
+}
+
+void CMFCRibbonEdit::LeaveEditWindow() {
     if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr)
         bar->GetKeyboard().GiveFocusBack();
     if (CWnd* target = GetCommandTarget(); target != nullptr && HasFocus())
         target->SetFocus();
-    if (nChar == VK_RETURN) {
-        CloseParentMenus();
-        NotifyCommand();
-    }
-    return TRUE;
 }
 
 void CMFCRibbonEdit::CommitText() {
     if (m_strEdit == m_strCommitted)
         return;
     m_strCommitted = m_strEdit;
+    OnTextCommitted();
     NotifyCommand();
 }
 

@@ -9,6 +9,10 @@ target_sources(framework PRIVATE
   button_popup.cpp
   buttons_group.cpp
   check_box.cpp
+  combo_box.cpp
+  combo_box_access.cpp
+  combo_box_face.cpp
+  drop_down_list.cpp
   edit.cpp
   edit_geometry.cpp
   edit_window.cpp

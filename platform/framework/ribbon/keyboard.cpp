@@ -422,7 +422,7 @@ bool RibbonKeyboard::OnSysKeyDown(UINT key, LPARAM flags) {
         return false;
     }
     if (m_isActive && key == VK_DOWN) {
-        if (CMFCRibbonBaseElement* focused = m_bar.GetFocused(); focused != nullptr && focused->HasMenu()) {
+        if (CMFCRibbonBaseElement* focused = m_bar.GetFocused(); focused != nullptr && focused->HasDropDown()) {
             HideTips();
             OpenMenu(*focused, true);
         }
@@ -503,7 +503,7 @@ bool RibbonKeyboard::OnKeyDown(const MSG& message) {
         }
         return true;
     case VK_F4:
-        if (CMFCRibbonBaseElement* focused = m_bar.GetFocused(); focused != nullptr && focused->HasMenu()) {
+        if (CMFCRibbonBaseElement* focused = m_bar.GetFocused(); focused != nullptr && focused->HasDropDown()) {
             HideTips();
             OpenMenu(*focused, true);
         }

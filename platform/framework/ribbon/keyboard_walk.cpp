@@ -38,7 +38,8 @@ bool Contains(const Elements& elements, const CMFCRibbonBaseElement* element) {
 
 // These do nothing by a key of their own: they take the focus.
 bool TakesFocus(CMFCRibbonBaseElement& element) {
-    return element.IsKindOf(RUNTIME_CLASS(CMFCRibbonEdit)) || element.IsKindOf(RUNTIME_CLASS(CMFCRibbonSlider));
+    const auto* edit = DYNAMIC_DOWNCAST(CMFCRibbonEdit, &element);
+    return (edit != nullptr && edit->TakesTyping()) || element.IsKindOf(RUNTIME_CLASS(CMFCRibbonSlider));
 }
 
 ribbon::FocusStep StepOf(UINT key) {
@@ -176,7 +177,8 @@ void RibbonKeyboard::SetFocusTo(CMFCRibbonBaseElement* element) {
 
 void RibbonKeyboard::DrawFocus(CDC& dc) const {
     CMFCRibbonBaseElement* focused = m_isActive && !m_areTipsShown ? m_bar.GetFocused() : nullptr;
-    if (focused == nullptr || focused->GetRect().IsRectEmpty() || focused->IsKindOf(RUNTIME_CLASS(CMFCRibbonEdit))) {
+    const auto* edit = DYNAMIC_DOWNCAST(CMFCRibbonEdit, focused);
+    if (focused == nullptr || focused->GetRect().IsRectEmpty() || (edit != nullptr && edit->TakesTyping())) {
         return;
     }
     CRect rect = focused->GetRect();
@@ -454,7 +456,7 @@ void RibbonKeyboard::Execute(CMFCRibbonBaseElement& element, bool isMenu) {
         SetFocusTo(&element);
         return;
     }
-    if (button != nullptr && button->HasMenu() && (isMenu || !button->IsDefaultCommand())) {
+    if (button != nullptr && button->HasDropDown() && (isMenu || !button->IsDefaultCommand())) {
         OpenMenu(element, isMenu);
         return;
     }

@@ -221,7 +221,8 @@ void CMFCPopupMenu::TellClosed() {
     if (std::exchange(m_bToldClosed, TRUE)) {
         return;
     }
-    const bool tellsSelection = m_bSendMenuSelectMsg && !GetMenuBar()->IsRibbonPanel();
+    const bool tellsSelection =
+        m_bSendMenuSelectMsg && !GetMenuBar()->IsRibbonPanel() && !GetMenuBar()->IsDropDownListMode();
     if (tellsSelection && !m_pParentPopup && m_bShown && m_hMessageWnd) {
         // As the system says that its menus are closed.
         ::SendMessageW(m_hMessageWnd, WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);

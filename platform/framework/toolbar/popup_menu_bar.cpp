@@ -9,6 +9,7 @@
 #include "toolbar/menu_items.h"
 #include "toolbar/menu_row.h"
 #include "toolbar/metrics.h"
+#include "toolbar/popup_menu_rows.h"
 
 #include <algorithm>
 #include <memory>
@@ -126,6 +127,9 @@ int CMFCPopupMenuBar::GetRowHeight() const {
 }
 
 CSize CMFCPopupMenuBar::CalcSize(BOOL) {
+    if (m_rows) {
+        return CalcRows();
+    }
     CClientDC dc(m_hWnd ? this : nullptr);
     CFont* const former = SelectToolBarFont(&dc, TRUE);
     const CSize sizeDefault(0, GetRowHeight());
@@ -153,7 +157,7 @@ CSize CMFCPopupMenuBar::CalcSize(BOOL) {
 CSize CMFCPopupMenuBar::CalcFixedLayout(BOOL, BOOL) { return CalcSize(TRUE); }
 
 void CMFCPopupMenuBar::AdjustLocations() {
-    if (!m_hWnd) {
+    if (!m_hWnd || m_rows) {
         return;
     }
     CalcSize(TRUE);
@@ -181,7 +185,13 @@ void CMFCPopupMenuBar::AdjustLayout() {
 void CMFCPopupMenuBar::AdjustSizeImmediate(BOOL) { AdjustLayout(); }
 
 void CMFCPopupMenuBar::SetOffset(int iOffset) {
-    m_iOffset = iOffset;
+    if (m_rows && m_hWnd) {
+        CRect client;
+        GetClientRect(&client);
+        m_iOffset = GetRowGeometry().Snap(iOffset, client.Height());
+    } else {
+        m_iOffset = iOffset;
+    }
     AdjustLocations();
     if (m_hWnd) {
         Invalidate();
@@ -190,7 +200,12 @@ void CMFCPopupMenuBar::SetOffset(int iOffset) {
 
 void CMFCPopupMenuBar::OnFillBackground(CDC*) {}
 
-void CMFCPopupMenuBar::DoPaint(CDC* pDC) { CMFCToolBar::DoPaint(pDC); }
+void CMFCPopupMenuBar::DoPaint(CDC* pDC) {
+    CMFCToolBar::DoPaint(pDC);
+    if (m_rows) {
+        PaintRows(pDC);
+    }
+}
 
 // The line runs beside the column of images.
 void CMFCPopupMenuBar::DrawSeparator(CDC* pDC, const CRect& rect, BOOL) {

@@ -3,6 +3,7 @@
 
 #include "afxpopupmenu.h"
 #include "toolbar/metrics.h"
+#include "toolbar/popup_menu_rows.h"
 
 #include <algorithm>
 #include <cwctype>
@@ -59,6 +60,11 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point) {
         m_bTracked = ::TrackMouseEvent(&track);
     }
     const int hit = HitTest(point);
+    if (m_rows) {
+        // Beside the rows the last one stays hot, as in every list. The host is told, which may end this.
+        SetHighlighted(hit >= 0 ? hit : m_iHighlighted);
+        return;
+    }
     CMFCToolBarButton* button = GetButton(hit);
     // Over its own item again, an open pop-up stays.
     CMFCToolBarMenuButton* open = GetDroppedDownMenu();
@@ -83,6 +89,9 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point) {
 
 void CMFCPopupMenuBar::OnMouseLeave() {
     m_bTracked = FALSE;
+    if (m_rows) {
+        return;
+    }
     KillTimer(openTimer);
     m_pDelayedPopupMenuButton = nullptr;
     int open = -1;
@@ -148,6 +157,10 @@ BOOL CMFCPopupMenuBar::OpenSubMenu(int iIndex, BOOL bSelectFirst) {
 void CMFCPopupMenuBar::OnLButtonDown(UINT, CPoint point) {
     m_bAcceptsRelease = TRUE;
     const int hit = HitTest(point);
+    if (m_rows) {
+        SetHighlighted(hit >= 0 ? hit : m_iHighlighted);
+        return;
+    }
     if (!IsSelectable(GetButton(hit))) {
         return;
     }
@@ -168,6 +181,10 @@ void CMFCPopupMenuBar::OnLButtonDblClk(UINT nFlags, CPoint point) { OnLButtonDow
 void CMFCPopupMenuBar::OnRButtonUp(UINT nFlags, CPoint point) { OnLButtonUp(nFlags, point); }
 
 void CMFCPopupMenuBar::ChooseItem(int iIndex) {
+    if (m_rows) {
+        ChooseRow(iIndex);
+        return;
+    }
     CMFCToolBarButton* button = GetButton(iIndex);
     CMFCPopupMenu* popup = GetParentPopup();
     if (!button || !popup) {
@@ -208,7 +225,11 @@ void CMFCPopupMenuBar::OnChangeHot(int iHot) {
     if (!popup) {
         return;
     }
+    const bool isList = m_rows != nullptr;
     popup->OnChangeHot(iHot);
+    if (isList) {
+        return; // and what the host was told may have ended this
+    }
     const CMFCToolBarButton* button = GetButton(iHot);
     CWnd* target = GetCommandTarget();
     if (!button || !target || !CMFCPopupMenu::IsSendMenuSelectMsg()) {
@@ -235,7 +256,7 @@ int CMFCPopupMenuBar::FindSelectable(int iFrom, int nStep) const {
 }
 
 void CMFCPopupMenuBar::SelectFirstItem() {
-    if (m_iHighlighted < 0) {
+    if (m_iHighlighted < 0 && !m_rows) {
         const int first = FindSelectable(-1, 1);
         MakeVisible(first);
         SetHighlighted(first);
@@ -243,14 +264,18 @@ void CMFCPopupMenuBar::SelectFirstItem() {
 }
 
 void CMFCPopupMenuBar::MakeVisible(int iIndex) {
-    const CMFCToolBarButton* button = GetButton(iIndex);
     CMFCPopupMenu* popup = GetParentPopup();
-    if (!button || !popup || !popup->IsScrollable()) {
+    CRect rect;
+    GetItemRect(iIndex, rect);
+    if (rect.IsRectEmpty() || !popup || !popup->IsScrollable()) {
         return;
     }
     CRect client;
     GetClientRect(&client);
-    const CRect rect = button->Rect();
+    if (m_rows) {
+        popup->ScrollBy(GetRowGeometry().OffsetToShow(iIndex, client.Height()) - m_iOffset);
+        return;
+    }
     if (rect.top < client.top) {
         popup->ScrollBy(rect.top - client.top);
     } else if (rect.bottom > client.bottom) {
@@ -263,6 +288,9 @@ BOOL CMFCPopupMenuBar::OnWheel(short zDelta) {
     if (!popup || !popup->IsScrollable()) {
         return FALSE;
     }
+    if (m_rows) {
+        return OnRowWheel(zDelta);
+    }
     constexpr int rowsPerNotch = 3;
     const int before = m_iOffset;
     popup->ScrollBy(-zDelta * rowsPerNotch * GetRowHeight() / WHEEL_DELTA);
@@ -273,6 +301,9 @@ BOOL CMFCPopupMenuBar::OnKey(UINT nChar) {
     CMFCPopupMenu* popup = GetParentPopup();
     if (!popup) {
         return FALSE;
+    }
+    if (m_rows) {
+        return OnRowKey(nChar);
     }
     const auto select = [this](int index) {
         if (index >= 0) {
@@ -330,6 +361,9 @@ BOOL CMFCPopupMenuBar::OnKey(UINT nChar) {
 
 // One item with the mnemonic is chosen; among several the next becomes hot. Without mnemonics the first letter counts.
 BOOL CMFCPopupMenuBar::TranslateChar(UINT nChar) {
+    if (m_rows) {
+        return OnRowChar(nChar);
+    }
     const wchar_t wanted = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(nChar)));
     int first = -1, next = -1, found = 0;
     for (int i = 0; i < GetCount(); ++i) {

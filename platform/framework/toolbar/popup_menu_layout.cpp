@@ -126,7 +126,7 @@ void CMFCPopupMenu::PlaceBar() {
         inside.top = parts.upArrow.bottom;
         inside.bottom = parts.downArrow.top;
     }
-    const int lowest = std::max(0, content - inside.Height());
+    const int lowest = bar->GetLowestOffset(inside.Height());
     if (overflows && m_bScrollBar) {
         const int width = ::GetSystemMetrics(SM_CXVSCROLL);
         if (!parts.scrollBar.GetSafeHwnd()) {
@@ -139,7 +139,7 @@ void CMFCPopupMenu::PlaceBar() {
         info.cbSize = sizeof(info);
         info.fMask = SIF_ALL;
         info.nMax = std::max(0, content - 1);
-        info.nPage = static_cast<UINT>(std::max<LONG>(0, inside.Height()));
+        info.nPage = static_cast<UINT>(bar->GetPageHeight(inside.Height()));
         info.nPos = std::min(bar->GetOffset(), lowest);
         parts.scrollBar.SetScrollInfo(&info);
     } else if (parts.scrollBar.GetSafeHwnd()) {
@@ -245,7 +245,7 @@ void CMFCPopupMenu::ShowAnimated() {
 
 void CMFCPopupMenu::ScrollBy(int nPixels) {
     CMFCPopupMenuBar* bar = GetMenuBar();
-    const int lowest = std::max(0, static_cast<int>(bar->CalcSize(TRUE).cy) - m_rectBar.Height());
+    const int lowest = bar->GetLowestOffset(m_rectBar.Height());
     const int offset = std::clamp(bar->GetOffset() + nPixels, 0, lowest);
     if (offset == bar->GetOffset()) {
         return;
@@ -266,7 +266,7 @@ void CMFCPopupMenu::OnVScroll(UINT nSBCode, UINT, CScrollBar* pScrollBar) {
     info.cbSize = sizeof(info);
     pScrollBar->GetScrollInfo(&info, SIF_ALL);
     const int line = std::max(1, GetMenuBar()->GetRowHeight());
-    const int page = std::max(line, m_rectBar.Height());
+    const int page = std::max(line, GetMenuBar()->GetPageHeight(m_rectBar.Height()));
     const int offset = GetMenuBar()->GetOffset();
     switch (nSBCode) {
     case SB_LINEUP:

@@ -11,12 +11,11 @@ using toolbar::Scaled;
 
 void CMFCToolBar::OnPaint() {
     CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    if (client.IsRectEmpty()) {
+    const CRect painted = dc.m_ps.rcPaint;
+    if (painted.IsRectEmpty()) {
         return;
     }
-    fx::MemoryDc memory(dc, client);
+    fx::MemoryDc memory(dc, painted);
     DoPaint(&memory.GetDC());
 }
 
@@ -78,13 +77,13 @@ void CMFCToolBar::DrawSeparator(CDC* pDC, const CRect& rect, BOOL bHorz) {
 }
 
 CMFCToolBarButton* CMFCToolBar::InvalidateButton(int nIndex) {
-    CMFCToolBarButton* button = GetButton(nIndex);
-    if (button && m_hWnd) {
-        CRect rect = button->GetInvalidateRect();
+    CRect rect;
+    GetInvalidateItemRect(nIndex, rect);
+    if (!rect.IsRectEmpty() && m_hWnd) {
         rect.InflateRect(1, 1);
         InvalidateRect(rect);
     }
-    return button;
+    return GetButton(nIndex);
 }
 
 void CMFCToolBar::UpdateButton(int nIndex) {

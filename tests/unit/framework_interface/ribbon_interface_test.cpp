@@ -1,6 +1,7 @@
 #include "interface.h"
 
 #include "afxRibbonEdit.h"
+#include "afxribboncombobox.h"
 #include "afxRibbonLabel.h"
 #include "afxRibbonMainPanel.h"
 #include "afxRibbonPanel.h"
@@ -223,6 +224,36 @@ INTERFACE_OF(CMFCRibbonCheckBox) {
     VIRTUAL(void, OnDraw, (CDC*));
     VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, CRect));
     VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
+}
+
+INTERFACE_OF(CMFCRibbonComboBox) {
+    BASE(CMFCRibbonEdit);
+    MADE_FROM(UINT, BOOL, int, LPCTSTR, int);
+    MADE_FROM(UINT);
+    VIRTUAL(INT_PTR, AddItem, (LPCTSTR, DWORD_PTR));
+    CALL(AddItem, LPCTSTR);
+    NAMED(CreateObject);
+    MEMBER(BOOL, DeleteItem, (int));
+    MEMBER(BOOL, DeleteItem, (DWORD_PTR));
+    MEMBER(BOOL, DeleteItem, (LPCTSTR));
+    MEMBER(void, EnableDropDownListResize, (BOOL));
+    CALL(EnableDropDownListResize);
+    MEMBER(int, FindItem, (LPCTSTR) const);
+    MEMBER(INT_PTR, GetCount, () const);
+    MEMBER(int, GetCurSel, () const);
+    MEMBER(int, GetDropDownHeight, ());
+    VIRTUAL(CSize, GetIntermediateSize, (CDC*));
+    MEMBER(LPCTSTR, GetItem, (int) const);
+    MEMBER(DWORD_PTR, GetItemData, (int) const);
+    NAMED(GetThisClass);
+    MEMBER(BOOL, HasEditBox, () const);
+    MEMBER(BOOL, IsResizeDropDownList, () const);
+    VIRTUAL(void, OnSelectItem, (int));
+    MEMBER(void, RemoveAllItems, ());
+    MEMBER(BOOL, SelectItem, (int));
+    MEMBER(BOOL, SelectItem, (DWORD_PTR));
+    MEMBER(BOOL, SelectItem, (LPCTSTR));
+    MEMBER(void, SetDropDownHeight, (int));
 }
 
 INTERFACE_OF(CMFCRibbonContextCaption) {

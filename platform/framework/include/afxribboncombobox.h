@@ -1,0 +1,215 @@
+#pragma once
+
+#include <afxRibbonEdit.h>
+#include <afxpopupmenu.h>
+
+#include "fx/popup_rows.h"
+
+#include <memory>
+#include <vector>
+
+class CMFCDropDownListBox;
+
+// A text field, or with bHasEditBox FALSE a face that shows the selected item, with a list of items that drops down. A
+// choice in the list selects the item and sends the element's command. Two items may have the same text. Every element
+// with the command's id shows the same selection: the copies in the quick access toolbar follow; items are each
+// element's own.
+//
+// For derived classes: the edit area is m_rectCommand, the drop button m_rectMenu (client pixels of the parent window,
+// empty before the first layout), the edit window m_pWndEdit, the text margins m_szMargin, the mark of an open list
+// m_bIsDroppedDown (SetDroppedDown).
+class FRAMEWORK_API CMFCRibbonComboBox : public CMFCRibbonEdit {
+    DECLARE_DYNCREATE(CMFCRibbonComboBox)
+
+public:
+    // nWidth: of the edit area in pixels at 96 DPI, the drop button comes on top; -1: the usual width.
+    CMFCRibbonComboBox(UINT nID, BOOL bHasEditBox = TRUE, int nWidth = -1, LPCTSTR lpszLabel = nullptr,
+                       int nImage = -1);
+    ~CMFCRibbonComboBox() override;
+
+    // Items. The result of AddItem is the new item's index, which is the last; -1 for a null text, which adds nothing.
+    // An open list takes a new item up; it closes when items are removed.
+    virtual INT_PTR AddItem(LPCTSTR lpszItem, DWORD_PTR dwData = 0);
+    // FALSE: there is no such item. By data or text the first one goes.
+    BOOL DeleteItem(int iIndex);
+    BOOL DeleteItem(DWORD_PTR dwData);
+    BOOL DeleteItem(LPCTSTR lpszText);
+    // Clears the text, too.
+    void RemoveAllItems();
+    INT_PTR GetCount() const { return static_cast<INT_PTR>(m_items.size()); }
+    // Null for an index without an item.
+    LPCTSTR GetItem(int iIndex) const;
+    // 0 for an index without an item.
+    DWORD_PTR GetItemData(int iIndex) const;
+    // The first item with exactly that text; -1 when there is none.
+    int FindItem(LPCTSTR lpszText) const;
+
+    // Selection. FALSE, and nothing changed: there is no such item. Index -1 selects none. No command is sent.
+    BOOL SelectItem(int iIndex);
+    BOOL SelectItem(DWORD_PTR dwData);
+    BOOL SelectItem(LPCTSTR lpszText);
+    // -1: none is selected.
+    int GetCurSel() const { return m_nSelected; }
+    // The user has chosen the item, and the list is closed. Selects it and sends the command, whose handler may delete
+    // this element.
+    virtual void OnSelectItem(int nItem);
+
+    // The list
+    BOOL HasEditBox() const { return m_bHasEditBox; }
+    void EnableDropDownListResize(BOOL bEnable = FALSE) { m_bResizeList = bEnable; }
+    BOOL IsResizeDropDownList() const { return m_bResizeList; }
+    // The most that the list takes, border included, in device pixels; fewer items make it lower. Until a height above
+    // 0 is set there is a usual one that grows with the scale.
+    void SetDropDownHeight(int nHeight) { m_nDropDownHeight = nHeight; }
+    int GetDropDownHeight();
+    // Opens the list, or closes an open one. What another element has open is closed, and nothing opens then; a pop-up
+    // that shows this element stays.
+    void DropDownList() override;
+    // Null while no list of this element is open.
+    CMFCDropDownListBox* GetDropDownList() const;
+
+    // The list's rows. The row's rectangle is pButton->Rect() in client pixels of the list's bar, whose button this is
+    // (the same object for every row). Background and highlight are painted, the ribbon's font is selected, the row's
+    // text colour is set and the text's background transparent. TRUE: drawn; FALSE: the list draws the item's text.
+    virtual BOOL OnDrawDropListItem(CDC* /*pDC*/, int /*nIndex*/, CMFCToolBarMenuButton* /*pButton*/,
+                                    BOOL /*bHighlight*/) {
+        return FALSE;
+    }
+    // The width that an item's row needs (pixels; its height is the font's). sizeText: that of the item's own text with
+    // its margins. Asked for the longest texts when the list opens.
+    virtual int GetDropListItemWidth(CDC* /*pDC*/, int /*nIndex*/, CSize sizeText) { return sizeText.cx; }
+    // The space bar on a row of the open list. TRUE: it was used; the list stays open and draws the row anew. The
+    // handler of what is sent here may close the list and delete this element.
+    virtual BOOL OnToggleDropListItem(int /*nIndex*/) { return FALSE; }
+
+    CSize GetIntermediateSize(CDC* pDC) override;
+    BOOL CanBeAddedToQuickAccessToolBar() const override;
+    BOOL HasDropDown() const override { return TRUE; }
+    BOOL IsHighlighted() const override { return CMFCRibbonEdit::IsHighlighted() || IsDroppedDown(); }
+    // Everything but the place: text, items with data, selection, height, edit box and resizing. An edit window of this
+    // element goes.
+    void CopyFrom(const CMFCRibbonBaseElement& src) override;
+    void OnDraw(CDC* pDC) override;
+    void OnAfterChangeRect(CDC* pDC) override;
+    void OnEnable(BOOL bEnable) override;
+    void OnShow(BOOL bShow) override;
+    void OnLButtonDown(CPoint point) override;
+    BOOL OnKey(BOOL bIsMenuKey) override;
+
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
+    BOOL PutACCValue(LPCTSTR lpszValue) override;
+    int GetACCRowCount() const override { return static_cast<int>(m_items.size()); }
+    BOOL SetACCRowData(int nRow, CAccessibilityData& data) override;
+    BOOL OnACCRowDefaultAction(int nRow) override;
+
+protected:
+    CMFCRibbonComboBox();
+
+    // ---- the parts of DropDownList, for derived classes with a list of their own
+    // FALSE: nothing must open (disabled, no window, a hidden edit window), or something else was open and is closed
+    // now. TRUE: OnShowPopupMenu was called.
+    BOOL BeginDropDown();
+    // Fills the list with the items, marks the element dropped down and opens it; from then on the list is its
+    // window's. nMinWidth: of the list in device pixels, -1: the width of edit area and drop button.
+    void OpenDropDown(CMFCDropDownListBox* pList, int nMinWidth = -1);
+    // Where the list begins on the screen: below the edit area, or below the element when that is empty; at its left
+    // edge, in a mirrored window at its right edge.
+    CPoint GetDropDownPoint() const;
+
+    // ---- the parts of OnDraw
+    // OnDraw paints label, image, box and drop button, and has this paint the inside of the edit area unless an edit
+    // window covers it. rectEdit: the edit area, to which the painting is clipped. Font, text colour and transparency
+    // are set. The base draws the text.
+    virtual void OnDrawSelectedItem(CDC* pDC, CRect rectEdit);
+
+    int GetDropButtonWidth() const override;
+    BOOL HasEditWindow() const override { return m_bHasEditBox; }
+    BOOL OnProcessKey(UINT nChar) override;
+    BOOL OnEditKey(UINT nChar) override;
+    void OnEditChange() override;
+    void OnEditFocus(BOOL bSet) override;
+    void OnTextCommitted() override;
+
+    BOOL m_bHasEditBox = TRUE;
+
+private:
+    friend class CMFCDropDownListBox;
+    struct Item {
+        CString text;
+        DWORD_PTR data;
+    };
+    BOOL IsItem(int index) const { return index >= 0 && index < GetCount(); }
+    int FindData(DWORD_PTR dwData) const;
+    void TakeSelection(int index, const CString& text);
+    void ShowSelectionInCopies();
+    void CloseDropDown();
+
+    std::vector<Item> m_items;
+    int m_nSelected = -1;
+    int m_nDropDownHeight = 0;
+    BOOL m_bResizeList = FALSE;
+    BOOL m_bDelaysCommand = FALSE;
+    // Gone when the element is: what outlives a call into the host looks here.
+    std::shared_ptr<BOOL> m_life;
+};
+
+// The list that a combo box drops down: a pop-up with one row for each text, whatever their number. Made with new; from
+// Track on the window owns the object. It never has the focus: with an edit box the keys that it does not use go to
+// the edit window. A derived class may have a bar of its own (GetMenuBar), which needs to be no list: the rows are
+// given to it (CMFCPopupMenuBar::SetRows) when the window is made.
+class FRAMEWORK_API CMFCDropDownListBox : public CMFCPopupMenu, private toolbar::PopupRows {
+    DECLARE_DYNCREATE(CMFCDropDownListBox)
+
+public:
+    CMFCDropDownListBox();
+    // The element is asked to draw the rows and told what is chosen. It may go first.
+    explicit CMFCDropDownListBox(CMFCRibbonComboBox* pParentCombo);
+    ~CMFCDropDownListBox() override;
+
+    // Index of the new row; -1 for a null text.
+    int AddString(LPCTSTR lpszItem);
+    int GetCount() const { return static_cast<int>(m_rows.size()); }
+    // FALSE, and strText unchanged: there is no such row.
+    BOOL GetText(int nIndex, CString& strText) const;
+    void ResetContent();
+    // The hot row while the list is open; -1: none. FALSE: there is no such row.
+    BOOL SetCurSel(int nIndex);
+    int GetCurSel() const;
+
+    // Opens the list at the point (screen), in a mirrored parent ending there, and returns. FALSE: the object is gone.
+    // Opening changes the size of the window before it is shown (IsShown), a user's hand afterwards.
+    BOOL Track(CPoint point, CWnd* pWndOwner);
+
+    CMFCRibbonComboBox* GetParentCombo() const { return m_pCombo; }
+    void OnParentComboDestroyed();
+
+    CWnd* GetParentArea(CRect& rectParentBtn) override;
+    BOOL IsEditFocused() const override;
+    BOOL OnChainKey(UINT nMessage, UINT nChar) override;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL InitMenuBar() override;
+    CSize CalcWindowSize(int nMaxHeight) override;
+    CRect GetAvoidedArea() override;
+    void OnChangeHot(int nHot) override;
+    // Closes the list and has the element select the row.
+    void OnChooseItem(UINT nIndex) override;
+
+    afx_msg void OnClose();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    int GetRowCount() const override { return GetCount(); }
+    const CString& GetRowText(int row) const override { return m_rows[static_cast<std::size_t>(row)]; }
+    int MeasureRows(CDC& dc) override;
+    BOOL DrawRow(CDC& dc, int row, CMFCToolBarMenuButton& button, BOOL isHot) override;
+    void ChooseRow(int row) override { OnChooseItem(static_cast<UINT>(row)); }
+    BOOL ToggleRow(int row) override;
+
+    CMFCRibbonComboBox* m_pCombo = nullptr;
+    std::vector<CString> m_rows;
+    int m_nCurSel = -1; // until the bar is there
+    BOOL m_bToldHot = FALSE;
+    std::shared_ptr<BOOL> m_life;
+};

@@ -1,0 +1,65 @@
+// What a combo box and its rows tell assistive programs.
+#include <afxribboncombobox.h>
+
+#include <oleacc.h>
+
+#include "fx/accessibility_data.h"
+#include "ribbon/access_texts.h"
+
+BOOL CMFCRibbonComboBox::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonEdit::SetACCData(pParent, data);
+    const CMFCDropDownListBox* list = GetDropDownList();
+    CString hot;
+    // Whoever walks through the open list hears where it is.
+    if (list != nullptr && list->GetText(list->GetCurSel(), hot))
+        data.m_strValue = hot;
+    if (!m_bHasEditBox)
+        data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Open);
+    return TRUE;
+}
+
+// A value that an assistive program sets is typed, or chosen where nothing can be typed.
+BOOL CMFCRibbonComboBox::PutACCValue(LPCTSTR lpszValue) {
+    return m_bHasEditBox ? CMFCRibbonEdit::PutACCValue(lpszValue) : OnACCRowDefaultAction(FindItem(lpszValue));
+}
+
+BOOL CMFCRibbonComboBox::SetACCRowData(int nRow, CAccessibilityData& data) {
+    if (!IsItem(nRow))
+        return FALSE;
+    data = {};
+    data.m_strName = GetItem(nRow);
+    data.m_nRole = ROLE_SYSTEM_LISTITEM;
+    data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Switch);
+    data.m_nState = STATE_SYSTEM_SELECTABLE | (nRow == m_nSelected ? STATE_SYSTEM_SELECTED : 0) |
+                    (IsDisabled() ? STATE_SYSTEM_UNAVAILABLE : 0);
+    CRect shown(0, 0, 0, 0);
+    if (CMFCDropDownListBox* list = GetDropDownList(); list != nullptr && list->GetSafeHwnd() != nullptr) {
+        CMFCPopupMenuBar& bar = *list->GetMenuBar();
+        CRect client;
+        bar.GetClientRect(client);
+        shown.IntersectRect(client, bar.GetRowRect(nRow));
+        if (!shown.IsRectEmpty())
+            bar.ClientToScreen(shown);
+        data.m_nState |= STATE_SYSTEM_FOCUSABLE | (nRow == bar.GetHotRow() ? STATE_SYSTEM_FOCUSED : 0);
+    }
+    data.m_rect = shown;
+    if (shown.IsRectEmpty())
+        data.m_nState |=
+            GetDropDownList() != nullptr ? STATE_SYSTEM_OFFSCREEN : STATE_SYSTEM_OFFSCREEN | STATE_SYSTEM_INVISIBLE;
+    return TRUE;
+}
+
+// The program that asks must not wait for what the command does.
+BOOL CMFCRibbonComboBox::OnACCRowDefaultAction(int nRow) {
+    if (!IsItem(nRow) || IsDisabled())
+        return FALSE;
+    const std::weak_ptr<BOOL> life = m_life;
+    CloseDropDown();
+    if (life.expired())
+        return TRUE;
+    m_bDelaysCommand = TRUE;
+    OnSelectItem(nRow);
+    if (!life.expired())
+        m_bDelaysCommand = FALSE;
+    return TRUE;
+}

@@ -1,0 +1,215 @@
+// The list that a combo box drops down.
+#include <afxribboncombobox.h>
+
+#include "toolbar/menu_row.h"
+#include "toolbar/row_text.h"
+
+#include <algorithm>
+#include <numeric>
+
+IMPLEMENT_DYNCREATE(CMFCDropDownListBox, CMFCPopupMenu)
+
+BEGIN_MESSAGE_MAP(CMFCDropDownListBox, CMFCPopupMenu)
+ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr int kMostMeasured = 300; // texts, the longest ones
+constexpr int kRowsAboveSelection = 2;
+
+bool IsMirrored(const CWnd* window) {
+    return window != nullptr && window->GetSafeHwnd() != nullptr && (window->GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+}
+
+} // namespace
+
+CMFCDropDownListBox::CMFCDropDownListBox() : CMFCDropDownListBox(nullptr) {}
+
+CMFCDropDownListBox::CMFCDropDownListBox(CMFCRibbonComboBox* pParentCombo)
+    : m_pCombo(pParentCombo), m_life(std::make_shared<BOOL>(TRUE)) {
+    EnableScrollBar();
+}
+
+// The window goes first, while there are rows.
+CMFCDropDownListBox::~CMFCDropDownListBox() {
+    if (m_hWnd != nullptr)
+        DestroyWindow();
+}
+
+// ---- rows
+
+int CMFCDropDownListBox::AddString(LPCTSTR lpszItem) {
+    if (lpszItem == nullptr)
+        return -1;
+    m_rows.emplace_back(lpszItem);
+    if (m_hWnd != nullptr)
+        GetMenuBar()->OnRowsChanged();
+    return GetCount() - 1;
+}
+
+BOOL CMFCDropDownListBox::GetText(int nIndex, CString& strText) const {
+    if (nIndex < 0 || nIndex >= GetCount())
+        return FALSE;
+    strText = m_rows[static_cast<std::size_t>(nIndex)];
+    return TRUE;
+}
+
+void CMFCDropDownListBox::ResetContent() {
+    m_rows.clear();
+    m_nCurSel = -1;
+    if (m_hWnd != nullptr)
+        GetMenuBar()->OnRowsChanged();
+}
+
+BOOL CMFCDropDownListBox::SetCurSel(int nIndex) {
+    if (nIndex < -1 || nIndex >= GetCount())
+        return FALSE;
+    m_nCurSel = nIndex;
+    if (m_hWnd != nullptr)
+        GetMenuBar()->SetHotRow(nIndex);
+    return TRUE;
+}
+
+int CMFCDropDownListBox::GetCurSel() const {
+    return m_hWnd != nullptr ? const_cast<CMFCDropDownListBox*>(this)->GetMenuBar()->GetHotRow() : m_nCurSel;
+}
+
+// Measuring every text of a long list would be seen when it opens: the longest by their characters are near enough.
+int CMFCDropDownListBox::MeasureRows(CDC& dc) {
+    std::vector<int> longest(m_rows.size());
+    std::iota(longest.begin(), longest.end(), 0);
+    const std::size_t measured = std::min<std::size_t>(longest.size(), kMostMeasured);
+    const auto end = longest.begin() + static_cast<std::ptrdiff_t>(measured);
+    const auto isLonger = [this](int left, int right) {
+        return m_rows[static_cast<std::size_t>(left)].GetLength() > m_rows[static_cast<std::size_t>(right)].GetLength();
+    };
+    if (end != longest.end())
+        std::nth_element(longest.begin(), end, longest.end(), isLonger);
+    const CMFCPopupMenuBar& bar = *GetMenuBar();
+    int width = 0;
+    for (auto row = longest.begin(); row != end; ++row) {
+        const CString text = toolbar::ShownText(m_rows[static_cast<std::size_t>(*row)]);
+        const CSize size(toolbar::MenuRowWidth(static_cast<int>(dc.GetTextExtent(text).cx), bar.GetRowMetrics()),
+                         bar.GetRowHeight());
+        const int wanted = m_pCombo != nullptr ? m_pCombo->GetDropListItemWidth(&dc, *row, size) : size.cx;
+        width = std::max(width, wanted);
+    }
+    return std::min(width, ::GetSystemMetrics(SM_CXSCREEN) / 2);
+}
+
+BOOL CMFCDropDownListBox::DrawRow(CDC& dc, int row, CMFCToolBarMenuButton& button, BOOL isHot) {
+    return m_pCombo != nullptr && m_pCombo->OnDrawDropListItem(&dc, row, &button, isHot);
+}
+
+// ---- the window
+
+BOOL CMFCDropDownListBox::Track(CPoint point, CWnd* pWndOwner) {
+    SetRightAlign(m_pCombo != nullptr && IsMirrored(m_pCombo->GetParentWnd()));
+    const std::weak_ptr<BOOL> life = m_life;
+    return Create(pWndOwner, point.x, point.y, nullptr, FALSE, TRUE) && !life.expired();
+}
+
+BOOL CMFCDropDownListBox::PreCreateWindow(CREATESTRUCT& cs) {
+    cs.dwExStyle |= IsRightAlign() ? WS_EX_LAYOUTRTL : 0;
+    return CMFCPopupMenu::PreCreateWindow(cs);
+}
+
+BOOL CMFCDropDownListBox::InitMenuBar() {
+    CMFCPopupMenuBar* bar = GetMenuBar();
+    if (bar == nullptr)
+        return FALSE;
+    bar->SetRows(this);
+    if (!CMFCPopupMenu::InitMenuBar())
+        return FALSE;
+    bar->SetHotRow(m_nCurSel);
+    bar->SetOffset(std::max(0, m_nCurSel - kRowsAboveSelection) * bar->GetRowHeight());
+    return TRUE;
+}
+
+// Whole rows, unless the user decides on the height.
+CSize CMFCDropDownListBox::CalcWindowSize(int nMaxHeight) {
+    CSize size = CMFCPopupMenu::CalcWindowSize(nMaxHeight);
+    const int row = GetMenuBar()->GetRowHeight();
+    const int inside = size.cy - 2 * GetBorderSize();
+    if (!IsResizeble() && row > 0 && inside > row)
+        size.cy -= inside % row;
+    return size;
+}
+
+CWnd* CMFCDropDownListBox::GetParentArea(CRect& rectParentBtn) {
+    if (m_pCombo == nullptr)
+        return CMFCPopupMenu::GetParentArea(rectParentBtn);
+    rectParentBtn = m_pCombo->GetRect();
+    return m_pCombo->GetParentWnd();
+}
+
+CRect CMFCDropDownListBox::GetAvoidedArea() {
+    CWnd* parent = m_pCombo != nullptr ? m_pCombo->GetParentWnd() : nullptr;
+    if (parent == nullptr || m_pCombo->GetCommandRect().IsRectEmpty())
+        return CMFCPopupMenu::GetAvoidedArea();
+    CRect area;
+    area.UnionRect(m_pCombo->GetCommandRect(), m_pCombo->GetMenuRect());
+    parent->ClientToScreen(area);
+    return area;
+}
+
+void CMFCDropDownListBox::OnParentComboDestroyed() {
+    m_pCombo = nullptr;
+    SetParentRibbonElement(nullptr);
+    CloseMenu();
+}
+
+void CMFCDropDownListBox::OnClose() {
+    const std::weak_ptr<BOOL> life = m_life;
+    if (std::exchange(m_bToldHot, FALSE) && m_pCombo != nullptr)
+        m_pCombo->NotifyHighlightListItem(-1);
+    if (!life.expired())
+        CMFCPopupMenu::OnClose();
+}
+
+// ---- input
+
+BOOL CMFCDropDownListBox::IsEditFocused() const {
+    return m_pCombo != nullptr && m_pCombo->HasEditBox() && m_pCombo->HasFocus();
+}
+
+BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
+    const BOOL isKey = nMessage == WM_KEYDOWN || nMessage == WM_SYSKEYDOWN;
+    // Alt may be the first half of Alt and an arrow, which closes the list as it opens it.
+    if (isKey && nChar == VK_MENU)
+        return TRUE;
+    if (nMessage == WM_SYSKEYDOWN && (nChar == VK_UP || nChar == VK_DOWN)) {
+        CloseMenu();
+        return TRUE;
+    }
+    if (isKey && nChar == VK_RETURN && GetCurSel() < 0 && IsEditFocused()) {
+        // The text that was typed counts.
+        CMFCRibbonComboBox* combo = m_pCombo;
+        const std::weak_ptr<BOOL> life = combo->m_life;
+        CloseMenu();
+        if (!life.expired())
+            combo->ProcessKey(nChar);
+        return TRUE;
+    }
+    return CMFCPopupMenu::OnChainKey(nMessage, nChar);
+}
+
+BOOL CMFCDropDownListBox::ToggleRow(int row) { return m_pCombo != nullptr && m_pCombo->OnToggleDropListItem(row); }
+
+// While the list opens nothing has become hot that was not selected before.
+void CMFCDropDownListBox::OnChangeHot(int nHot) {
+    if (!IsShown() || m_pCombo == nullptr)
+        return;
+    m_bToldHot = TRUE;
+    m_pCombo->NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
+    m_pCombo->NotifyHighlightListItem(nHot); // the host may end the list
+}
+
+void CMFCDropDownListBox::OnChooseItem(UINT nIndex) {
+    CMFCRibbonComboBox* combo = m_pCombo;
+    const std::weak_ptr<BOOL> life = combo != nullptr ? combo->m_life : nullptr;
+    CloseMenu();
+    if (!life.expired())
+        combo->OnSelectItem(static_cast<int>(nIndex));
+}

@@ -1,0 +1,259 @@
+// A pop-up's bar as a list: rows that are computed, not kept.
+#include "toolbar/popup_menu_rows.h"
+
+#include "afxpopupmenu.h"
+#include "afxvisualmanager.h"
+#include "fx/dc_scope.h"
+#include "fx/window_dc.h"
+#include "toolbar/menu_row.h"
+#include "toolbar/row_text.h"
+
+#include <algorithm>
+
+void CMFCPopupMenuBar::SetRows(toolbar::PopupRows* pRows) {
+    m_rows.reset();
+    if (pRows) {
+        m_rows = std::make_unique<Rows>();
+        m_rows->source = pRows;
+        m_rows->button.m_pWndParent = this;
+        m_rows->button.m_bText = TRUE;
+    }
+    m_bDropDownListMode = pRows != nullptr;
+    m_iHighlighted = -1;
+    m_iOffset = 0;
+}
+
+int CMFCPopupMenuBar::GetRowCount() const { return m_rows ? m_rows->source->GetRowCount() : 0; }
+
+toolbar::RowGeometry CMFCPopupMenuBar::GetRowGeometry() const {
+    return {GetRowCount(), std::max(1, GetRowHeight()), m_iOffset};
+}
+
+CRect CMFCPopupMenuBar::GetRowRect(int nRow) const {
+    const toolbar::RowGeometry rows = GetRowGeometry();
+    if (!m_hWnd || !rows.IsRow(nRow)) {
+        return CRect(0, 0, 0, 0);
+    }
+    CRect client;
+    GetClientRect(&client);
+    return CRect(CPoint(0, rows.TopOf(nRow)), CSize(client.Width(), rows.height));
+}
+
+void CMFCPopupMenuBar::InvalidateRow(int nRow) {
+    CRect client;
+    CRect shown;
+    if (m_hWnd) {
+        GetClientRect(&client);
+    }
+    if (shown.IntersectRect(client, GetRowRect(nRow))) {
+        InvalidateRect(shown);
+    }
+}
+
+int CMFCPopupMenuBar::HitTest(CPoint point) {
+    if (!m_rows) {
+        return CMFCToolBar::HitTest(point);
+    }
+    CRect client;
+    GetClientRect(&client);
+    return client.PtInRect(point) ? GetRowGeometry().RowAt(point.y) : -1;
+}
+
+void CMFCPopupMenuBar::GetItemRect(int nIndex, LPRECT lpRect) const {
+    if (m_rows) {
+        *lpRect = GetRowRect(nIndex);
+    } else {
+        CMFCToolBar::GetItemRect(nIndex, lpRect);
+    }
+}
+
+void CMFCPopupMenuBar::GetInvalidateItemRect(int nIndex, LPRECT lpRect) const {
+    if (m_rows) {
+        *lpRect = GetRowRect(nIndex);
+    } else {
+        CMFCToolBar::GetInvalidateItemRect(nIndex, lpRect);
+    }
+}
+
+int CMFCPopupMenuBar::GetPageHeight(int nHeight) const {
+    if (!m_rows) {
+        return std::max(0, nHeight);
+    }
+    const toolbar::RowGeometry rows = GetRowGeometry();
+    return rows.RowsPerPage(nHeight) * rows.height;
+}
+
+int CMFCPopupMenuBar::GetLowestOffset(int nHeight) {
+    return m_rows ? GetRowGeometry().LowestOffset(nHeight) : std::max(0, static_cast<int>(CalcSize(TRUE).cy) - nHeight);
+}
+
+CSize CMFCPopupMenuBar::CalcRows() {
+    if (m_rows->width < 0) {
+        CClientDC dc(m_hWnd ? this : nullptr);
+        CFont* const former = SelectToolBarFont(&dc, TRUE);
+        m_rows->width = m_rows->source->MeasureRows(dc);
+        if (former) {
+            dc.SelectObject(former);
+        }
+    }
+    m_nContentHeight = GetRowGeometry().ContentHeight();
+    return CSize(m_rows->width, m_nContentHeight);
+}
+
+void CMFCPopupMenuBar::OnRowsChanged() {
+    if (!m_rows) {
+        return;
+    }
+    m_rows->width = -1;
+    m_rows->typed.Forget();
+    m_iHighlighted = std::min(m_iHighlighted, GetRowCount() - 1);
+    AdjustLayout();
+}
+
+// ---- drawing
+
+void CMFCPopupMenuBar::PaintRows(CDC* pDC) {
+    CRect clip;
+    pDC->GetClipBox(&clip);
+    CFont* const former = SelectToolBarFont(pDC, TRUE);
+    const toolbar::RowSpan shown = toolbar::RowsBetween(GetRowGeometry(), clip.top, clip.bottom);
+    for (int row = shown.first; row < shown.end; ++row) {
+        PaintRow(pDC, row);
+    }
+    if (former) {
+        pDC->SelectObject(former);
+    }
+}
+
+void CMFCPopupMenuBar::PaintRow(CDC* pDC, int nRow) {
+    CMFCToolBarMenuButton& button = m_rows->button;
+    button.m_rect = GetRowRect(nRow);
+    button.m_strText = toolbar::ShownText(m_rows->source->GetRowText(nRow));
+    const BOOL isHot = nRow == m_iHighlighted;
+    CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
+    if (isHot) {
+        CRect face = button.m_rect;
+        face.DeflateRect(1, 0);
+        COLORREF unused = 0;
+        manager->OnHighlightMenuItem(pDC, &button, face, unused);
+    }
+    const fx::TextColour colour(*pDC, manager->GetMenuItemTextColor(&button, isHot, FALSE));
+    if (m_rows->source->DrawRow(*pDC, nRow, button, isHot)) {
+        return;
+    }
+    CRect label = toolbar::LayOutMenuRow(button.m_rect, GetRowMetrics()).text;
+    pDC->DrawText(button.m_strText, label, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+}
+
+// ---- input
+
+void CMFCPopupMenuBar::SetHotRow(int nRow) {
+    if (!m_rows) {
+        return;
+    }
+    const int row = GetRowGeometry().IsRow(nRow) ? nRow : -1;
+    MakeVisible(row);
+    SetHighlighted(row);
+}
+
+void CMFCPopupMenuBar::ChooseRow(int nRow) {
+    if (GetRowGeometry().IsRow(nRow)) {
+        m_nLastCommandIndex = nRow;
+        m_rows->source->ChooseRow(nRow);
+    }
+}
+
+BOOL CMFCPopupMenuBar::OnToggleRow(int nRow) { return m_rows && m_rows->source->ToggleRow(nRow); }
+
+BOOL CMFCPopupMenuBar::OnRowWheel(short zDelta) {
+    constexpr int rowsPerNotch = 3;
+    const int before = m_iOffset;
+    m_rows->wheelRest += zDelta * rowsPerNotch;
+    const int moved = m_rows->wheelRest / WHEEL_DELTA;
+    m_rows->wheelRest -= moved * WHEEL_DELTA;
+    GetParentPopup()->ScrollBy(-moved * GetRowGeometry().height);
+    return m_iOffset != before;
+}
+
+// An edit field above the list keeps the keys that move within its text.
+BOOL CMFCPopupMenuBar::OnRowKey(UINT nChar) {
+    CMFCPopupMenu* popup = GetParentPopup();
+    const BOOL isEditing = popup->IsEditFocused();
+    CRect client;
+    GetClientRect(&client);
+    const toolbar::RowGeometry rows = GetRowGeometry();
+    const int page = std::max(1, rows.RowsPerPage(client.Height()) - 1);
+    const int last = rows.count - 1;
+    const auto moveTo = [&](int row) {
+        SetHotRow(last < 0 ? -1 : std::clamp(row, 0, last));
+        return TRUE;
+    };
+    const auto moveBy = [&](int distance) { return moveTo(m_iHighlighted < 0 ? 0 : m_iHighlighted + distance); };
+    switch (nChar) {
+    case VK_DOWN:
+        return moveBy(1);
+    case VK_UP:
+        return moveBy(-1);
+    case VK_NEXT:
+        return moveBy(page);
+    case VK_PRIOR:
+        return moveBy(-page);
+    case VK_HOME:
+        return !isEditing && moveTo(0);
+    case VK_END:
+        return !isEditing && moveTo(last);
+    case VK_RIGHT:
+        return !isEditing && moveBy(1);
+    case VK_LEFT:
+        return !isEditing && moveBy(-1);
+    case VK_ESCAPE:
+        popup->m_bEscClose = TRUE;
+        popup->CloseMenu();
+        return TRUE;
+    case VK_F4:
+    case VK_TAB:
+        popup->CloseMenu();
+        return TRUE;
+    case VK_RETURN:
+        if (m_iHighlighted >= 0) {
+            ChooseItem(m_iHighlighted);
+        } else {
+            popup->CloseMenu();
+        }
+        return TRUE;
+    case VK_SPACE:
+        return !isEditing && ToggleHotRow();
+    default:
+        return FALSE;
+    }
+}
+
+// In the middle of a word a space belongs to it.
+BOOL CMFCPopupMenuBar::ToggleHotRow() {
+    if (m_iHighlighted < 0 || m_rows->typed.IsGoingOn(::GetTickCount64())) {
+        return FALSE;
+    }
+    const HWND window = m_hWnd;
+    const int row = m_iHighlighted;
+    const BOOL isUsed = OnToggleRow(row);
+    if (isUsed && ::IsWindow(window)) {
+        InvalidateRow(row);
+    }
+    return isUsed;
+}
+
+BOOL CMFCPopupMenuBar::OnRowChar(UINT nChar) {
+    const std::uint64_t now = ::GetTickCount64();
+    // A space begins no word.
+    if (nChar < L' ' || (nChar == L' ' && !m_rows->typed.IsGoingOn(now))) {
+        return TRUE;
+    }
+    const toolbar::PopupRows& source = *m_rows->source;
+    const int row = m_rows->typed.Type(
+        static_cast<wchar_t>(nChar), ::GetTickCount64(), m_iHighlighted, GetRowCount(),
+        [&source](int index, const std::wstring& text) { return toolbar::StartsWith(source.GetRowText(index), text); });
+    if (row >= 0) {
+        SetHotRow(row);
+    }
+    return TRUE;
+}

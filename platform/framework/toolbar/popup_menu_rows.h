@@ -1,0 +1,15 @@
+#pragma once
+
+#include "afxpopupmenubar.h"
+#include "fx/popup_rows.h"
+#include "toolbar/row_geometry.h"
+#include "toolbar/type_ahead.h"
+
+/// What a bar that is a list needs beside its rows.
+struct CMFCPopupMenuBar::Rows {
+    toolbar::PopupRows* source = nullptr;
+    CMFCToolBarMenuButton button; ///< stands for the row that is being drawn
+    toolbar::TypeAhead typed;
+    int width = -1;    ///< measured; -1: not yet
+    int wheelRest = 0; ///< of the wheel, less than a row
+};

@@ -1,0 +1,130 @@
+#include "tests/ui/ribbon_combo/combo_fixture.h"
+
+#include "tests/support/growth.h"
+#include "tests/support/gui_objects.h"
+
+namespace {
+
+class ManyRows : public RibbonComboTest {
+protected:
+    static constexpr UINT kMany = 1203;
+    static constexpr int kCount = 10000;
+
+    ManyRows() {
+        Add(kMany, FALSE, kCount);
+        LayOut();
+    }
+    SpyCombo& Many() { return static_cast<SpyCombo&>(Element(kMany)); }
+    double OpenSeconds(CMFCRibbonComboBox& combo) {
+        double best = 1e9;
+        for (int attempt = 0; attempt < 5; ++attempt) {
+            best = std::min(best, MeasureSeconds([&combo] { combo.DropDownList(); }));
+            EXPECT_TRUE(IsOpen());
+            CMFCPopupMenu::CloseAll();
+        }
+        return best;
+    }
+};
+
+TEST_F(ManyRows, OpenAlmostAsFastAsTen) {
+    const double ten = OpenSeconds(Plain());
+    const double all = OpenSeconds(Many());
+    RecordProperty("ten_ms", static_cast<int>(ten * 1000));
+    RecordProperty("all_ms", static_cast<int>(all * 1000));
+    EXPECT_LT(all, ten + 0.1);
+}
+
+TEST_F(ManyRows, OnlyWhatIsSeenIsDrawn) {
+    Many().SetDropDownHeight(30 * afxGlobalData.GetTextHeight() + 10);
+    for (const int selected : {-1, 0, 5000, kCount - 1}) {
+        Many().SelectItem(selected);
+        ClickButton(Many());
+        Many().drawn.clear();
+        ListBar().Invalidate();
+        ListBar().UpdateWindow();
+        EXPECT_LE(Many().drawn.size(), 31u);
+        EXPECT_GE(Many().drawn.size(), 29u);
+        CMFCPopupMenu::CloseAll();
+    }
+}
+
+TEST_F(ManyRows, AreReachedToTheLastOneAndChosen) {
+    ClickButton(Many());
+    EXPECT_TRUE(List().IsScrollable());
+    Press(VK_END);
+    EXPECT_EQ(ListBar().GetHotRow(), kCount - 1);
+    CRect client;
+    ListBar().GetClientRect(client);
+    EXPECT_LE(ListBar().GetRowRect(kCount - 1).bottom, client.bottom);
+    ClickRow(kCount - 2);
+    EXPECT_EQ(Many().GetCurSel(), kCount - 2);
+}
+
+TEST_F(ManyRows, AScrollBarReachesEveryRow) {
+    ClickButton(Many());
+    CWnd* scrollBar = nullptr;
+    for (CWnd* child = List().GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT)) {
+        scrollBar = child->m_hWnd != ListBar().m_hWnd ? child : scrollBar;
+    }
+    ASSERT_NE(scrollBar, nullptr);
+    EXPECT_TRUE(scrollBar->IsWindowVisible());
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    ASSERT_TRUE(::GetScrollInfo(scrollBar->m_hWnd, SB_CTL, &info));
+    const auto scroll = [&scrollBar](int code) {
+        List().SendMessage(WM_VSCROLL, MAKEWPARAM(code, 0), reinterpret_cast<LPARAM>(scrollBar->m_hWnd));
+        return ListBar().HitTest(CPoint(5, 0));
+    };
+    CRect client;
+    ListBar().GetClientRect(client);
+    const int page = client.Height() / ListBar().GetRowHeight();
+    EXPECT_EQ(info.nMax, kCount * ListBar().GetRowHeight() - 1);
+    EXPECT_EQ(static_cast<int>(info.nPage), page * ListBar().GetRowHeight());
+    EXPECT_EQ(scroll(SB_LINEDOWN), 1);
+    EXPECT_EQ(scroll(SB_PAGEDOWN), 1 + page);
+    EXPECT_EQ(scroll(SB_BOTTOM), kCount - page);
+    EXPECT_EQ(scroll(SB_PAGEUP), kCount - 2 * page);
+    EXPECT_EQ(scroll(SB_TOP), 0);
+}
+
+TEST_F(ManyRows, AreFilledAndSearchedInNoTime) {
+    CMFCRibbonComboBox combo(1, FALSE);
+    const double seconds = MeasureSeconds([&combo] {
+        for (int i = 0; i < kCount; ++i) {
+            combo.AddItem(L"A row among many others");
+        }
+        combo.AddItem(L"Z");
+        EXPECT_EQ(combo.FindItem(L"Z"), kCount);
+    });
+    EXPECT_LT(seconds, 1.0);
+}
+
+TEST_F(RibbonComboTest, FiveHundredListsLeaveNothingBehind) {
+    ClickButton(Plain());
+    CMFCPopupMenu::CloseAll();
+    EXPECT_TRUE(LeavesNothingBehind([this] {
+        for (int i = 0; i < 500; ++i) {
+            Plain().DropDownList();
+            ListBar().UpdateWindow();
+            CMFCPopupMenu::CloseAll();
+        }
+        PumpPending();
+    }));
+}
+
+TEST_F(RibbonComboTest, TheSmallestScaleAndTheLargestHaveAllParts) {
+    for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
+        afxGlobalData.SetRibbonImageScale(scale);
+        LayOut();
+        EXPECT_EQ(Plain().GetCommandRect().Width(), static_cast<int>(90 * scale + 0.5));
+        ClickButton(Plain());
+        EXPECT_EQ(ListBar().GetRowHeight(), afxGlobalData.GetTextHeight());
+        EXPECT_GE(ScreenRect(List()).Width(), BoxOnScreen(Plain()).Width());
+        ClickRow(7);
+        EXPECT_EQ(Plain().GetCurSel(), 7) << scale;
+    }
+    afxGlobalData.SetRibbonImageScale(0);
+}
+
+} // namespace
