@@ -1,0 +1,150 @@
+// Combo boxes in the pop-up of a collapsed panel and in the quick access toolbar.
+#include <afxribbonpanelmenu.h>
+
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+
+#include "tests/ui/ribbon_combo/combo_fixture.h"
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class ComboInPanelPopup : public RibbonComboTest {
+protected:
+    ComboInPanelPopup() {
+        CArray<int, int> order;
+        for (int step = 0; step < 3; ++step) {
+            order.Add(0); // the first panel, through all its sizes
+        }
+        CMFCRibbonCategory& category = *Bar().GetCategory(0);
+        category.SetCollapseOrder(order);
+        for (int width = 900; width > 200 && !category.GetPanel(0)->IsCollapsed(); width -= 20) {
+            SetClientWidth(width);
+        }
+        if (!category.GetPanel(0)->IsCollapsed()) {
+            throw std::runtime_error("the panel never collapses");
+        }
+        m_pointer.Click(Bar().GetSafeHwnd(), category.GetPanel(0)->GetDefaultButton().GetRect().CenterPoint());
+        PumpPending();
+        m_panel = CMFCRibbonPanelMenu::GetDeepest();
+    }
+    bool IsPanelOpen() const { return CMFCRibbonPanelMenu::GetDeepest() != nullptr; }
+    static bool IsListOpen() {
+        return DYNAMIC_DOWNCAST(CMFCDropDownListBox, CMFCPopupMenu::GetActiveMenu()) != nullptr;
+    }
+    CMFCRibbonPanelMenu* m_panel = nullptr;
+};
+
+TEST_F(ComboInPanelPopup, OpensItsListAndThePopupStays) {
+    ASSERT_NE(m_panel, nullptr);
+    ASSERT_EQ(Plain().GetParentWnd(), &m_panel->GetRibbonMenuBar());
+    ClickButton(Plain());
+    ASSERT_TRUE(IsListOpen());
+    EXPECT_TRUE(IsPanelOpen());
+    EXPECT_EQ(List().GetParentPopupMenu(), m_panel);
+    EXPECT_EQ(ScreenRect(List()).TopLeft(), CPoint(BoxOnScreen(Plain()).left, BoxOnScreen(Plain()).bottom));
+    EXPECT_GT(ListBar().GetRowCount(), 0);
+}
+
+TEST_F(ComboInPanelPopup, AChoiceClosesBothAndSendsTheCommandOnce) {
+    ClickButton(Plain());
+    ClickRow(2);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Plain().GetCurSel(), 2);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kPlain));
+}
+
+TEST_F(ComboInPanelPopup, EscAndAnotherClickCloseTheListAlone) {
+    ClickButton(Plain());
+    Press(VK_ESCAPE);
+    EXPECT_FALSE(IsListOpen());
+    EXPECT_TRUE(IsPanelOpen());
+    ClickButton(Plain());
+    ASSERT_TRUE(IsListOpen());
+    ClickButton(Plain());
+    EXPECT_FALSE(IsListOpen());
+    EXPECT_TRUE(IsPanelOpen());
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+}
+
+TEST_F(ComboInPanelPopup, AClickElsewhereInThePopupClosesTheList) {
+    ClickButton(Plain());
+    m_pointer.MoveTo(Edit().GetParentWnd()->GetSafeHwnd(), CPoint(Edit().GetRect().left + 2, Edit().GetRect().top + 2));
+    m_pointer.Press();
+    EXPECT_FALSE(IsListOpen());
+    m_pointer.Release();
+    EXPECT_TRUE(IsPanelOpen());
+}
+
+TEST_F(ComboInPanelPopup, AClickOutsideClosesBoth) {
+    ClickButton(Plain());
+    m_pointer.Click(m_window, CPoint(20, 400));
+    PumpPending();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(IsPanelOpen());
+}
+
+TEST_F(ComboInPanelPopup, KeysLeadToItAndOpenIt) {
+    for (int step = 0; step < 20 && m_panel->GetRibbonMenuBar().GetHighlighted() != &Plain(); ++step) {
+        Press(VK_TAB);
+    }
+    ASSERT_EQ(m_panel->GetRibbonMenuBar().GetHighlighted(), &Plain());
+    Press(VK_RETURN);
+    ASSERT_TRUE(IsListOpen());
+    Press(VK_DOWN);
+    Press(VK_DOWN);
+    Press(VK_RETURN);
+    EXPECT_EQ(Plain().GetCurSel(), 1);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kPlain));
+}
+
+TEST_F(ComboInPanelPopup, AnEditKeepsTheFocusUnderItsList) {
+    ClickButton(Edit());
+    ASSERT_TRUE(IsListOpen());
+    EXPECT_TRUE(IsPanelOpen());
+    EXPECT_TRUE(Edit().HasFocus());
+    Type(L"Item 5");
+    EXPECT_EQ(ListBar().GetHotRow(), 5);
+    Press(VK_RETURN);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Edit().GetCurSel(), 5);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kEdit));
+}
+
+TEST_F(ComboInPanelPopup, TheCommandMayEndTheFrame) {
+    m_frame->onCommand = [this] { m_frame->DestroyWindow(); };
+    ClickButton(Plain());
+    ClickRow(2);
+    EXPECT_FALSE(::IsWindow(m_window));
+}
+
+TEST_F(ComboInPanelPopup, ThePanelMayGoWhileTheListIsOpen) {
+    ClickButton(Plain());
+    Bar().RemoveCategory(0);
+    PumpPending();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(IsPanelOpen());
+}
+
+TEST_F(RibbonComboTest, ACopyInTheQuickAccessToolbarOpensItsOwnList) {
+    AddToQuickAccess(kPlain);
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> copies;
+    Bar().GetElementsByID(kPlain, copies);
+    ASSERT_EQ(copies.GetSize(), 2);
+    auto& first = static_cast<CMFCRibbonComboBox&>(*copies[0]);
+    auto& second = static_cast<CMFCRibbonComboBox&>(*copies[1]);
+    CMFCRibbonComboBox& copy = first.IsQATMode() ? first : second;
+    ASSERT_TRUE(copy.IsQATMode());
+    ASSERT_FALSE(copy.GetRect().IsRectEmpty());
+    ClickButton(copy);
+    ASSERT_TRUE(IsOpen());
+    EXPECT_EQ(List().GetParentCombo(), &copy);
+    ClickRow(6);
+    EXPECT_EQ(Plain().GetCurSel(), 6);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kPlain));
+}
+
+} // namespace

@@ -1,0 +1,150 @@
+// How faces and open lists look, in pictures for people when BARWRIGHT_PICTURES names a folder, and that no pixel of a
+// list is left unpainted.
+#include <afxvisualmanageroffice2007.h>
+
+#include <algorithm>
+#include <string>
+
+#include "tests/support/picture_file.h"
+#include "tests/ui/ribbon_combo/combo_fixture.h"
+
+namespace {
+
+class DrawnListBar : public CMFCPopupMenuBar {
+public:
+    using CMFCPopupMenuBar::DoPaint;
+};
+
+class DrawnList : public CMFCDropDownListBox {
+public:
+    using CMFCDropDownListBox::CMFCDropDownListBox;
+    CMFCPopupMenuBar* GetMenuBar() override { return &bar; }
+    using CMFCDropDownListBox::DrawFrame;
+    DrawnListBar bar;
+};
+
+class DrawnCombo : public CMFCRibbonComboBox {
+public:
+    using CMFCRibbonComboBox::CMFCRibbonComboBox;
+    void DropDownList() override {
+        if (BeginDropDown()) {
+            OpenDropDown(new DrawnList(this));
+        }
+    }
+};
+
+constexpr DWORD kUnpainted = 0xFF00FF;
+
+class Bitmap {
+public:
+    explicit Bitmap(CSize size) : m_size(size) {
+        BITMAPINFO info{};
+        info.bmiHeader = {sizeof(BITMAPINFOHEADER), size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+        void* bits = nullptr;
+        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+        m_pixels = static_cast<DWORD*>(bits);
+        std::fill(m_pixels, m_pixels + size.cx * size.cy, kUnpainted);
+        m_dc.CreateCompatibleDC(nullptr);
+        m_before = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap);
+    }
+    ~Bitmap() {
+        ::SelectObject(m_dc.GetSafeHdc(), m_before);
+        ::DeleteObject(m_bitmap);
+    }
+    Bitmap(const Bitmap&) = delete;
+    Bitmap& operator=(const Bitmap&) = delete;
+    CDC& Dc() { return m_dc; }
+    HBITMAP Get() const { return m_bitmap; }
+    DWORD At(int x, int y) const {
+        ::GdiFlush();
+        return m_pixels[y * m_size.cx + x] & 0xFFFFFF;
+    }
+    long CountUnpainted(const CRect& rect) const {
+        long count = 0;
+        for (int y = rect.top; y < rect.bottom; ++y) {
+            for (int x = rect.left; x < rect.right; ++x) {
+                count += At(x, y) == kUnpainted ? 1 : 0;
+            }
+        }
+        return count;
+    }
+
+private:
+    CSize m_size;
+    CDC m_dc;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_before = nullptr;
+    DWORD* m_pixels = nullptr;
+};
+
+using Style = CMFCVisualManagerOffice2007::Style;
+
+struct Look {
+    Style style;
+    const wchar_t* name;
+    double scale;
+};
+
+class ComboLookTest : public RibbonComboTest, public ::testing::WithParamInterface<Look> {
+protected:
+    ComboLookTest() : combo(*new DrawnCombo(1210, FALSE, 110, L"Layer:")) {
+        CMFCVisualManagerOffice2007::SetStyle(GetParam().style);
+        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+        afxGlobalData.SetRibbonImageScale(GetParam().scale);
+        for (const wchar_t* text : {L"Coastlines", L"Lakes and rivers", L"Borders", L"Relief", L"Roads", L"Railways",
+                                    L"Towns with more than 100,000 people", L"Grid"}) {
+            combo.AddItem(text);
+        }
+        for (int i = 0; i < 30; ++i) {
+            combo.AddItem(L"Another layer");
+        }
+        Bar().GetCategory(0)->GetPanel(1)->Add(&combo);
+        Plain().SelectItem(2);
+        Edit().SelectItem(3);
+        combo.SelectItem(1);
+        m_frame->disabledCommand = kEdit;
+        LayOut();
+        RunIdle();
+    }
+    ~ComboLookTest() override {
+        CMFCPopupMenu::CloseAll();
+        afxGlobalData.SetRibbonImageScale(0);
+        CMFCVisualManager::SetDefaultManager(nullptr);
+        CMFCVisualManagerOffice2007::CleanStyle();
+    }
+    DrawnCombo& combo;
+};
+
+TEST_P(ComboLookTest, EveryPixelOfTheListIsPainted) {
+    m_pointer.Click(Bar().GetSafeHwnd(), combo.GetMenuRect().CenterPoint());
+    auto* list = dynamic_cast<DrawnList*>(CMFCPopupMenu::GetActiveMenu());
+    ASSERT_NE(list, nullptr);
+    Press(VK_DOWN);
+    CRect bar;
+    Bar().GetClientRect(bar);
+    const CRect window = ScreenRect(*list);
+    const CPoint origin(combo.GetCommandRect().left, bar.Height() + 5);
+    Bitmap picture(
+        CSize(std::max(bar.Width(), static_cast<int>(origin.x) + window.Width()), bar.Height() + window.Height() + 10));
+    Bar().DoPaint(&picture.Dc());
+    EXPECT_EQ(picture.CountUnpainted(combo.GetRect()), 0);
+    picture.Dc().SetViewportOrg(origin);
+    list->DrawFrame(&picture.Dc());
+    const CRect inside = list->GetBarRect();
+    picture.Dc().SetViewportOrg(origin + inside.TopLeft());
+    picture.Dc().IntersectClipRect(CRect(CPoint(0, 0), inside.Size()));
+    list->bar.DoPaint(&picture.Dc());
+    EXPECT_EQ(picture.CountUnpainted(CRect(origin + inside.TopLeft(), inside.Size())), 0);
+    const CPoint hot = origin + inside.TopLeft() + CPoint(inside.Width() - 6, list->bar.GetRowRect(2).CenterPoint().y);
+    const CPoint cold = origin + inside.TopLeft() + CPoint(inside.Width() - 6, list->bar.GetRowRect(4).CenterPoint().y);
+    EXPECT_NE(picture.At(hot.x, hot.y), picture.At(cold.x, cold.y)) << "the hot row stands out";
+    SavePicture(picture.Get(), std::wstring(L"combo-") + GetParam().name + L".png");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ComboLookTest,
+                         ::testing::Values(Look{Style::Office2007_ObsidianBlack, L"black-100", 1.0},
+                                           Look{Style::Office2007_ObsidianBlack, L"black-150", 1.5},
+                                           Look{Style::Office2007_Silver, L"silver-100", 1.0},
+                                           Look{Style::Office2007_Silver, L"silver-150", 1.5}));
+
+} // namespace
