@@ -3,7 +3,9 @@
 #include "add_ribbon_bar.h"
 #include "config/element_kind.h"
 #include "library_context.h"
+#include "ribbon_check_combo.h"
 #include "ribbon_icon_button.h"
+#include "ribbon_multi_combo.h"
 
 #include <afxRibbonEdit.h>
 #include <afxRibbonLabel.h>
@@ -62,17 +64,28 @@ CMFCRibbonBaseElement* CreateEdit(unsigned int id, const RibbonInfo& info, F1Hin
     return edit;
 }
 
+/// A combo with marks, which nobody can type into, without label and image and in the default width.
+template <class Combo>
+CMFCRibbonBaseElement* CreateCombo(unsigned int id, const RibbonInfo& info, F1Hint) {
+    auto* const combo = new Combo(id, FALSE, -1, nullptr, -1);
+    if constexpr (requires { combo->UserStaticDropDownHeight(true); })
+        combo->UserStaticDropDownHeight(true);
+    return WithTexts(combo, info);
+}
+
 struct KindCreator {
     ElementKind kind;
     Creator create;
 };
 
-// The three combos are added here with their classes in combos/; until then their types make nothing.
 constexpr KindCreator creators[] = {
     {ElementKind::Button, CreateButton},
     {ElementKind::Slider, CreateSlider},
     {ElementKind::Label, CreateLabel},
     {ElementKind::Edit, CreateEdit},
+    {ElementKind::CheckCombo, CreateCombo<CMFCRibbonCheckComb>},
+    {ElementKind::MultiCombo, CreateCombo<CMFCRibbonMultiCombo>},
+    {ElementKind::LightCombo, CreateCombo<CMFCRibbonVesMultiCombo>},
 };
 
 } // namespace

@@ -18,8 +18,9 @@ public:
     /// Never null.
     static CQkMfc* Ins();
 
-    /// The shared pictures of the multi combos, which the host fills: image 0 is a light that is on, image 1 one that
-    /// is off.
+    /// The shared pictures of the multi combos, which the host fills before a combo first draws: image 0 is a light
+    /// that is on, image 1 one that is off. A list that does not exist by then is filled with the library's own
+    /// pictures; a host that comes later deletes it first.
     CImageList m_imageList;
 
 private:

@@ -2,13 +2,18 @@
 // compiled.
 
 #include "add_ribbon_bar.h"
+#include "check_drop_down.h"
 #include "library_context.h"
 #include "ribbon_category_ex.h"
+#include "ribbon_check_combo.h"
 #include "ribbon_icon_button.h"
+#include "ribbon_multi_combo.h"
 
 #include <gtest/gtest.h>
 
 #include <concepts>
+#include <cstddef>
+#include <map>
 #include <type_traits>
 
 namespace {
@@ -67,11 +72,73 @@ static_assert(!std::is_constructible_v<CMFCRibbonSmallButton, UINT, LPCTSTR, CSt
 static_assert(std::is_constructible_v<Button, UINT, LPCTSTR, CString, BOOL, CString, BOOL, BOOL, BOOL>);
 static_assert(std::is_base_of_v<CMFCRibbonCategory, CMFCRibbonCategoryEx>);
 
+using Check = CMFCRibbonCheckComb;
+using Multi = CMFCRibbonMultiCombo;
+using LightOnly = CMFCRibbonVesMultiCombo;
+using TypeKeys = std::map<Text, int>;
+static_assert(
+    std::is_same_v<decltype(&CRibbonNotifyCombox::NotifyChangeData), bool (CRibbonNotifyCombox::*)(int, int, bool)>);
+template <class Combo>
+concept MarkedCombo = std::is_base_of_v<CMFCRibbonComboBox, Combo> && std::is_base_of_v<CRibbonNotifyCombox, Combo> &&
+    std::is_constructible_v<Combo, UINT, BOOL, int, LPCTSTR, int> &&
+    std::is_same_v<decltype(&Combo::AddItem), INT_PTR (Combo::*)(LPCTSTR, DWORD_PTR)> &&
+    std::is_same_v<decltype(&Combo::RemoveAll), void (Combo::*)()> &&
+    std::is_same_v<decltype(&Combo::setTypeKeyName2Index), void (Combo::*)(const TypeKeys&)> &&
+    std::is_same_v<decltype(&Combo::findIndexByTypeKeyName), int (Combo::*)(const Text&) const> &&
+    std::is_same_v<decltype(&Combo::findTypeKeyNameByIndex), Text (Combo::*)(int) const>;
+static_assert(MarkedCombo<Check> && MarkedCombo<Multi> && MarkedCombo<LightOnly>);
+template <class Combo>
+concept StaticHeight = std::is_same_v<decltype(Combo::m_nStaticDropDownHeight), int> &&
+    std::is_same_v<decltype(&Combo::UserStaticDropDownHeight), void (Combo::*)(bool)> &&
+    std::is_same_v<decltype(&Combo::SetStaticDropDownHeight), void (Combo::*)(int)>;
+static_assert(StaticHeight<Check> && StaticHeight<Multi> && !StaticHeight<LightOnly>);
+static_assert(std::is_same_v<decltype(&Check::SetItemCheck), bool (Check::*)(int, bool)>);
+static_assert(std::is_same_v<decltype(&Check::GetItemCheck), bool (Check::*)(int, bool&) const>);
+static_assert(std::is_default_constructible_v<Check> && !std::is_default_constructible_v<Multi> &&
+              !std::is_default_constructible_v<LightOnly>);
+static_assert(sizeof(Multi::rowInfo) == 8 && offsetof(Multi::rowInfo, clr) == 0 &&
+              offsetof(Multi::rowInfo, light) == 4);
+static_assert(std::is_trivially_copyable_v<Multi::rowInfo>);
+template <class Combo>
+concept LitCombo = requires(Combo& combo, const Combo& constant, int index, const wchar_t* text, bool& light) {
+    { combo.SetItemLight(index, true, true) } -> std::same_as<bool>;
+    { combo.SetItemLight(text, true, true) } -> std::same_as<bool>;
+    { constant.GetItemLight(index, light) } -> std::same_as<bool>;
+};
+static_assert(LitCombo<Multi> && LitCombo<LightOnly> && !LitCombo<Check>);
+template <class Combo>
+concept ColouredCombo = requires(Combo& combo, const Combo& constant, int index, const wchar_t* text, COLORREF& color,
+                                 typename Combo::rowInfo& info, bool& lock) {
+    { combo.SetItemClr(index, color, true) } -> std::same_as<bool>;
+    { combo.SetItemClr(text, color, true) } -> std::same_as<bool>;
+    { constant.GetItemClr(index, color) } -> std::same_as<bool>;
+    { combo.SetItemInfo(index, color, true, true) } -> std::same_as<bool>;
+    { combo.SetItemInfo(index, info) } -> std::same_as<bool>;
+    { constant.GetItemInfo(index, info) } -> std::same_as<bool>;
+    { combo.SetItemLock(index, true, true) } -> std::same_as<bool>;
+    { combo.SetItemLock(text, true, true) } -> std::same_as<bool>;
+    { constant.GetItemLock(index, lock) } -> std::same_as<bool>;
+};
+static_assert(ColouredCombo<Multi> && !ColouredCombo<LightOnly>);
+static_assert(std::is_base_of_v<CMFCDropDownListBox, CMFCCheckDropDown> &&
+              std::is_constructible_v<CMFCCheckDropDown, CMFCRibbonComboBox*>);
+static_assert(
+    std::is_same_v<decltype(&CMFCCheckDropDown::SetSpRects), void (CMFCCheckDropDown::*)(const std::vector<CRect>&)>);
+static_assert(
+    std::is_same_v<decltype(&CMFCPopupMenuBarEx::SetSpRects), void (CMFCPopupMenuBarEx::*)(const std::vector<CRect>&)>);
+static_assert(
+    std::is_same_v<decltype(&CMFCPopupMenuBarEx::SetNotifyChild), void (CMFCPopupMenuBarEx::*)(CRibbonNotifyCombox*)>);
+
 TEST(HostInterface, EveryClassThatTheFrameworkMakesIsKnownByItsName) {
     EXPECT_STREQ(RUNTIME_CLASS(CMFCRibbonUNIcoButton)->m_lpszClassName, "CMFCRibbonUNIcoButton");
     EXPECT_STREQ(RUNTIME_CLASS(CMFCRibbonSmallButton)->m_lpszClassName, "CMFCRibbonSmallButton");
     EXPECT_STREQ(RUNTIME_CLASS(CMFCRibbonCategoryEx)->m_lpszClassName, "CMFCRibbonCategoryEx");
-    for (const char* name : {"CMFCRibbonUNIcoButton", "CMFCRibbonSmallButton", "CMFCRibbonCategoryEx"})
+    EXPECT_STREQ(RUNTIME_CLASS(Check)->m_lpszClassName, "CMFCRibbonCheckComb");
+    EXPECT_STREQ(RUNTIME_CLASS(Multi)->m_lpszClassName, "CMFCRibbonMultiCombo");
+    EXPECT_STREQ(RUNTIME_CLASS(LightOnly)->m_lpszClassName, "CMFCRibbonVesMultiCombo");
+    for (const char* name :
+         {"CMFCRibbonUNIcoButton", "CMFCRibbonSmallButton", "CMFCRibbonCategoryEx", "CMFCRibbonCheckComb",
+          "CMFCRibbonMultiCombo", "CMFCRibbonVesMultiCombo", "CMFCCheckDropDown", "CMFCPopupMenuBarEx"})
         EXPECT_NE(CRuntimeClass::FromName(name), nullptr) << name;
 }
 

@@ -1,5 +1,8 @@
+#include "ribbon_check_combo.h"
 #include "ribbon_icon_button.h"
+#include "ribbon_multi_combo.h"
 #include "tests/support/canvas.h"
+#include "tests/support/scoped_value.h"
 #include "tests/ui/ribbon_builder/ribbon_fixture.h"
 
 #include <varnhold/xml.h>
@@ -39,6 +42,15 @@ TEST_F(RibbonBuilder, EveryKindOfElementIsBuiltInOrder) {
         Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='button' SIZE='16'/><e KEYWORD='3' TYPE='slider'/>"
               "<e KEYWORD='4' TYPE='LABEL'/><e KEYWORD='5' TYPE='Edit'/>")));
     EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton 1 #1 SmallButton 2 #2 Slider 3 #3 Label 4 #4 Edit 5 #5)]");
+}
+
+TEST_F(RibbonBuilder, CombosWithMarksAreBuiltLikeAnyElement) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='qkRibbonCheckComb'/><e KEYWORD='2' TYPE='QKRIBBONMULTICOMB'/>"
+                           "<e KEYWORD='3' TYPE='qkribbonmulticomb2'/><e KEYWORD='G' TYPE='GROUP'><s KEYWORD='4' "
+                           "TYPE='qkRibbonCheckComb'/>"
+                           "</e><e KEYWORD='5' TYPE='qkRibbonMultiComb'><s KEYWORD='6' TYPE='BUTTON'/></e>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P CheckComb 1 #1 MultiCombo 2 #2 VesMultiCombo 3 #3 ButtonsGroup{CheckComb 4 #5})]")
+        << "a combo takes no sub-items";
 }
 
 TEST_F(RibbonBuilder, NamesAndTooltipsComeFromTheTranslationService) {
@@ -405,8 +417,73 @@ TEST_F(RibbonBuilder, LabelHasNameAndIdAndNothingMore) {
     EXPECT_FALSE(label->IsMultiLine());
 }
 
+template <class Combo>
+std::unique_ptr<Combo> MakeCombo(const wchar_t* type) {
+    RibbonInfo info = InfoOf(type);
+    info.width = 300;
+    std::unique_ptr<CMFCRibbonBaseElement> made = Make(info);
+    auto* const combo = DYNAMIC_DOWNCAST(Combo, made.get());
+    EXPECT_NE(combo, nullptr);
+    if (combo)
+        static_cast<void>(made.release());
+    return std::unique_ptr<Combo>(combo);
+}
+
+void ExpectBuiltCombo(CMFCRibbonComboBox& combo) {
+    EXPECT_EQ(combo.GetID(), 7u);
+    EXPECT_FALSE(combo.HasEditBox());
+    EXPECT_EQ(combo.GetWidth(), CMFCRibbonComboBox(7, FALSE).GetWidth()) << "the usual width, whatever the file says";
+    EXPECT_EQ(combo.GetImageIndex(FALSE), -1);
+    EXPECT_EQ(combo.GetCount(), 0);
+    EXPECT_EQ(CString(combo.GetText()), L"name");
+    EXPECT_EQ(combo.GetToolTipText(), L"tip");
+    EXPECT_EQ(combo.GetDescription(), L"") << "the F1 hint is for buttons only";
+}
+
+TEST_F(RibbonBuilder, ACheckComboAndAMultiComboDropInTheirClassesStaticHeight) {
+    const ScopedValue checkHeight(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 321);
+    const ScopedValue multiHeight(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 123);
+    const auto check = MakeCombo<CMFCRibbonCheckComb>(L"qkRibbonCheckComb");
+    ASSERT_NE(check, nullptr);
+    ExpectBuiltCombo(*check);
+    EXPECT_EQ(check->GetDropDownHeight(), 321);
+    check->SetStaticDropDownHeight(333);
+    EXPECT_EQ(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 333) << "it uses the static height";
+    const auto multi = MakeCombo<CMFCRibbonMultiCombo>(L"qkRibbonMultiComb");
+    ASSERT_NE(multi, nullptr);
+    ExpectBuiltCombo(*multi);
+    EXPECT_EQ(multi->GetDropDownHeight(), 123);
+    multi->SetStaticDropDownHeight(111);
+    EXPECT_EQ(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 111);
+}
+
+TEST_F(RibbonBuilder, ALightOnlyComboKeepsItsDropDownHeight) {
+    const auto light = MakeCombo<CMFCRibbonVesMultiCombo>(L"qkRibbonMultiComb2");
+    ASSERT_NE(light, nullptr);
+    ExpectBuiltCombo(*light);
+    EXPECT_EQ(light->GetDropDownHeight(), CMFCRibbonComboBox(7, FALSE).GetDropDownHeight());
+}
+
+TEST_F(RibbonBuilder, AConfiguredComboGoesOntoTheQuickAccessToolbar) {
+    ASSERT_TRUE(Load("<r KEYWORD='QK_Rbbion_QAToolbar'><i KEYWORD='K'/></r>" +
+                     Panel("<e KEYWORD='K' TYPE='qkRibbonCheckComb'/>")));
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> copies;
+    m_bar.GetElementsByID(Element(0)->GetID(), copies);
+    ASSERT_EQ(copies.GetSize(), 2);
+    auto& combo = static_cast<CMFCRibbonCheckComb&>(*Element(0));
+    combo.AddItem(L"one");
+    combo.SetItemCheck(0, true);
+    for (INT_PTR i = 0; i < copies.GetSize(); ++i) {
+        bool isChecked = false;
+        auto* const copy = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, copies[i]);
+        ASSERT_NE(copy, nullptr);
+        EXPECT_TRUE(copy->GetItemCheck(0, isChecked));
+        EXPECT_TRUE(isChecked);
+    }
+}
+
 TEST_F(RibbonBuilder, UnknownTypesMakeNothing) {
-    for (const wchar_t* type : {L"", L"lamp", L"GROUP", L"BUTTON ", L"buttons"})
+    for (const wchar_t* type : {L"", L"lamp", L"GROUP", L"BUTTON ", L"buttons", L"qkRibbonMultiComb3", L"CheckComb"})
         EXPECT_EQ(Make(InfoOf(type)), nullptr) << type;
 }
 

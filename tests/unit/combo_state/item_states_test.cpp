@@ -1,4 +1,3 @@
-#include "combos/combo_row.h"
 #include "combos/item_states.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +5,12 @@
 #include <climits>
 
 namespace {
+
+/// A state of two parts.
+struct ComboRow {
+    unsigned clr = 0;
+    bool light = false;
+};
 
 TEST(ItemStates, AreSetForItemsOnly) {
     ItemStates<bool> states;

@@ -1,0 +1,90 @@
+#include "check_drop_down.h"
+
+#include "combos/mark_geometry.h"
+#include "ribbon_check_combo.h"
+#include "ribbon_multi_combo.h"
+
+IMPLEMENT_DYNCREATE(CMFCPopupMenuBarEx, CMFCPopupMenuBar)
+IMPLEMENT_DYNCREATE(CMFCCheckDropDown, CMFCDropDownListBox)
+
+BEGIN_MESSAGE_MAP(CMFCPopupMenuBarEx, CMFCPopupMenuBar)
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONUP()
+ON_WM_LBUTTONDBLCLK()
+END_MESSAGE_MAP()
+
+BEGIN_MESSAGE_MAP(CMFCCheckDropDown, CMFCDropDownListBox)
+ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr bool ordinaryClick = false;
+constexpr bool exclusiveClick = true;
+
+} // namespace
+
+// ---- the rows
+
+int CMFCPopupMenuBarEx::ZoneAt(CPoint point) const { return marks::ZoneAt(m_zones, point.x, point.y, GetRowHeight()); }
+
+void CMFCPopupMenuBarEx::OnLButtonDown(UINT flags, CPoint point) {
+    // Neither tracked nor closed: what a mark does comes with the release.
+    if (m_notifyChild && HitTest(point) >= 0 && ZoneAt(point) >= 0) {
+        m_bAcceptsRelease = TRUE;
+        return;
+    }
+    CMFCPopupMenuBar::OnLButtonDown(flags, point);
+}
+
+// In the next three the host may have closed the list, or destroyed all around it, when the notify child comes back.
+
+void CMFCPopupMenuBarEx::OnLButtonUp(UINT flags, CPoint point) {
+    const int row = HitTest(point);
+    const int zone = ZoneAt(point);
+    const HWND window = m_hWnd;
+    if (m_notifyChild && row >= 0 && zone >= 0) {
+        const bool isDone = m_notifyChild->NotifyChangeData(row, zone, ordinaryClick);
+        if (!::IsWindow(window))
+            return;
+        if (isDone) {
+            InvalidateRow(row);
+            return;
+        }
+    }
+    CMFCPopupMenuBar::OnLButtonUp(flags, point);
+}
+
+// The row is not looked at: a double click in the column below the last row counts, too.
+void CMFCPopupMenuBarEx::OnLButtonDblClk(UINT flags, CPoint point) {
+    const int zone = ZoneAt(point);
+    const HWND window = m_hWnd;
+    if (m_notifyChild && zone >= 0) {
+        const bool isDone = m_notifyChild->NotifyChangeData(HitTest(point), zone, exclusiveClick);
+        if (!::IsWindow(window))
+            return;
+        if (isDone) {
+            Invalidate();
+            return;
+        }
+    }
+    CMFCPopupMenuBar::OnLButtonDblClk(flags, point);
+}
+
+// ---- the list
+
+CMFCCheckDropDown::CMFCCheckDropDown(CMFCRibbonComboBox* combo) : CMFCDropDownListBox(combo) {
+    m_rows.SetNotifyChild(dynamic_cast<CRibbonNotifyCombox*>(combo));
+}
+
+void CMFCCheckDropDown::OnSize(UINT type, int cx, int cy) {
+    CMFCDropDownListBox::OnSize(type, cx, cy);
+    // The height in which the list opens is no wish of the user's.
+    if (!IsShown())
+        return;
+    CMFCRibbonBaseElement* const combo = GetParentRibbonElement();
+    if (auto* const check = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, combo))
+        check->SetStaticDropDownHeight(cy);
+    else if (auto* const multi = DYNAMIC_DOWNCAST(CMFCRibbonMultiCombo, combo))
+        multi->SetStaticDropDownHeight(cy);
+}

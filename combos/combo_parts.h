@@ -1,0 +1,79 @@
+#pragma once
+
+#include "combos/item_states.h"
+#include "combos/mark_geometry.h"
+#include "combos/synchronise.h"
+#include "combos/type_key_map.h"
+
+#include <afxribbonbar.h>
+#include <afxribboncombobox.h>
+
+#include <vector>
+
+class CAccessibilityData;
+
+/// What the three ribbon combos with marks have in common.
+
+/// What such a combo keeps beside the items. Row: the state of one item.
+template <class Row>
+struct MarkedComboState {
+    ItemStates<Row> rows;
+    TypeKeyMap keys;
+    bool usesStaticHeight = false;
+    SynchronisedFlag synchronised;
+
+    /// All that a copy of the element takes over.
+    void CopyFrom(const MarkedComboState& source) {
+        rows = source.rows;
+        keys = source.keys;
+        usesStaticHeight = source.usesStaticHeight;
+    }
+};
+
+/// The elements of the same ribbon bar with the combo's command id; null for one of another class.
+template <class Combo>
+std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
+    std::vector<Combo*> found;
+    CMFCRibbonBar* const bar = combo.GetTopLevelRibbonBar();
+    if (!bar)
+        return found;
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
+    bar->GetElementsByID(combo.GetID(), elements);
+    for (INT_PTR i = 0; i < elements.GetSize(); ++i)
+        found.push_back(DYNAMIC_DOWNCAST(Combo, elements[i]));
+    return found;
+}
+
+inline int CountOf(const CMFCRibbonComboBox& combo) { return static_cast<int>(combo.GetCount()); }
+
+/// The window that gets the combo's messages; null when there is none.
+HWND HostOf(const CMFCRibbonBaseElement& combo);
+/// Sends a message whose wParam is the text. The receiver may have destroyed everything when it comes back. 0 when the
+/// window is gone.
+LRESULT TellHost(HWND host, UINT message, const CString& text, LPARAM lParam);
+
+/// Selects the item of a row that was clicked; a click below the rows selects nothing.
+void SelectRow(CMFCRibbonComboBox& combo, int index);
+
+/// Empty for an index without an item.
+CString TextOf(const CMFCRibbonComboBox& combo, int index);
+/// As people read it.
+CString DisplayedTextOf(const CMFCRibbonComboBox& combo, int index);
+/// The item's text, in the colours of the device context.
+void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const marks::Rect& place);
+
+CRect ToRect(const marks::Rect& rect);
+marks::Rect FromRect(const CRect& rect);
+
+/// The list that a combo with marks drops; not opened yet.
+CMFCDropDownListBox* MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones);
+/// The panel that shows the combo is no longer hot: the open list is.
+void CoolPanelOf(const CMFCRibbonComboBox& combo);
+/// The width that the item's row needs in the list: `marksWidth` and the text as people read it. The list's font is
+/// selected.
+int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);
+
+/// Adds an item's state, in words, to what assistive programs are told.
+void AddWords(CAccessibilityData& data, const CString& words);
+/// A word as people read it.
+CString Displayed(const wchar_t* word);

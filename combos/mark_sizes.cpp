@@ -1,0 +1,38 @@
+#include "combos/mark_sizes.h"
+
+#include "combos/mark_geometry.h"
+
+#include <afxglobals.h>
+
+#include <algorithm>
+
+namespace {
+constexpr int enlargedIcon = 16;
+}
+
+MarkSizes& MarkSizes::Current() {
+    static MarkSizes sizes;
+    return sizes;
+}
+
+double MarkScale() {
+    return afxGlobalData.IsRibbonImageScaleEnabled() ? std::max(1.0, afxGlobalData.GetRibbonImageScale()) : 1.0;
+}
+
+void ScaleCheckBoxOnce() {
+    MarkSizes& sizes = MarkSizes::Current();
+    if (sizes.isCheckBoxScaled || MarkScale() <= 1.0)
+        return;
+    sizes.checkBox = marks::Scaled(sizes.checkBox, MarkScale());
+    sizes.isCheckBoxScaled = true;
+}
+
+void EnlargeIconOnce() {
+    MarkSizes& sizes = MarkSizes::Current();
+    if (sizes.isIconEnlarged || MarkScale() <= 1.0)
+        return;
+    sizes.icon = enlargedIcon;
+    sizes.isIconEnlarged = true;
+}
+
+int ScaledIconSize() { return marks::Scaled(MarkSizes::Current().icon, MarkScale()); }

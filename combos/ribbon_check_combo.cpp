@@ -1,0 +1,212 @@
+#include "ribbon_check_combo.h"
+
+#include "combos/check_toggle.h"
+#include "combos/combo_parts.h"
+#include "combos/mark_sizes.h"
+#include "host_messages.h"
+
+#include <afxvisualmanager.h>
+#include <fx/accessibility_data.h>
+
+IMPLEMENT_DYNCREATE(CMFCRibbonCheckComb, CMFCRibbonComboBox)
+
+namespace {
+
+constexpr int initialListHeight = 560;
+/// The boxes' only zone.
+constexpr int boxZone = 0;
+/// Between the sides of a row and its box or text: a box lies in the middle of the column in which a click counts.
+const CSize textMargin(1, 1);
+
+} // namespace
+
+int CMFCRibbonCheckComb::m_nStaticDropDownHeight = initialListHeight;
+
+struct CMFCRibbonCheckComb::State : MarkedComboState<bool> {
+    template <class Operation>
+    static void ChangeCopies(CMFCRibbonCheckComb& combo, Operation operation) {
+        SynchroniseCopies(
+            combo, [](CMFCRibbonCheckComb& one) -> SynchronisedFlag& { return one.m_state->synchronised; },
+            [&combo] { return ElementsWithIdOf(combo); }, operation);
+    }
+    /// Within the margins of a row, or of the face's edit area.
+    static marks::CheckRow Place(const CMFCRibbonCheckComb& combo, CRect row) {
+        row.DeflateRect(combo.m_szMargin);
+        return marks::PlaceCheckRow(FromRect(row), MarkSizes::Current().checkBox);
+    }
+    static void DrawItem(const CMFCRibbonCheckComb& combo, CDC& dc, int index, const CRect& row) {
+        const marks::CheckRow place = Place(combo, row);
+        const bool isChecked = combo.m_state->rows.GetOrEmpty(index);
+        CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(&dc, ToRect(place.box), isChecked ? 1 : 0, FALSE, FALSE,
+                                                           !combo.IsDisabled());
+        DrawTextOf(combo, dc, index,
+                   {place.text.left, static_cast<int>(row.top), place.text.right, static_cast<int>(row.bottom)});
+    }
+    /// Everything that shows the checks, after a user changed one.
+    static void RedrawAll(CMFCRibbonCheckComb& combo) {
+        combo.Redraw();
+        ChangeCopies(combo, [](CMFCRibbonCheckComb& copy) { copy.Redraw(); });
+    }
+    CString WordsFor(int index) const { return Displayed(rows.GetOrEmpty(index) ? L"checked" : L"not checked"); }
+};
+
+CMFCRibbonCheckComb::CMFCRibbonCheckComb() : m_state(std::make_shared<State>()) {
+    ScaleCheckBoxOnce();
+    m_szMargin = textMargin;
+}
+
+CMFCRibbonCheckComb::CMFCRibbonCheckComb(UINT id, BOOL hasEditBox, int width, LPCTSTR label, int imageIndex)
+    : CMFCRibbonComboBox(id, hasEditBox, width, label, imageIndex), m_state(std::make_shared<State>()) {
+    m_szMargin = textMargin;
+}
+
+CMFCRibbonCheckComb::~CMFCRibbonCheckComb() = default;
+
+void CMFCRibbonCheckComb::CopyFrom(const CMFCRibbonBaseElement& src) {
+    CMFCRibbonComboBox::CopyFrom(src);
+    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, &src);
+    if (!source || source == this)
+        return;
+    m_state->CopyFrom(*source->m_state);
+    if (m_state->usesStaticHeight)
+        SetDropDownHeight(m_nStaticDropDownHeight);
+}
+
+// ---- items and their checks
+
+INT_PTR CMFCRibbonCheckComb::AddItem(LPCTSTR text, DWORD_PTR data) {
+    CMFCRibbonComboBox::AddItem(text, data);
+    State::ChangeCopies(*this, [text, data](CMFCRibbonCheckComb& copy) { copy.AddItem(text, data); });
+    return 1;
+}
+
+void CMFCRibbonCheckComb::RemoveAll() {
+    RemoveAllItems();
+    State::ChangeCopies(*this, [](CMFCRibbonCheckComb& copy) { copy.RemoveAll(); });
+}
+
+bool CMFCRibbonCheckComb::SetItemCheck(int index, bool check) {
+    if (!m_state->rows.Set(index, CountOf(*this), check))
+        return false;
+    State::ChangeCopies(*this, [index, check](CMFCRibbonCheckComb& copy) { copy.SetItemCheck(index, check); });
+    return true;
+}
+
+bool CMFCRibbonCheckComb::GetItemCheck(int index, bool& check) const { return m_state->rows.Get(index, check); }
+
+void CMFCRibbonCheckComb::setTypeKeyName2Index(const std::map<std::wstring, int>& map) { m_state->keys.Set(map); }
+
+int CMFCRibbonCheckComb::findIndexByTypeKeyName(const std::wstring& key) const { return m_state->keys.FindIndex(key); }
+
+std::wstring CMFCRibbonCheckComb::findTypeKeyNameByIndex(int index) const { return m_state->keys.FindKey(index); }
+
+// ---- the list
+
+void CMFCRibbonCheckComb::UserStaticDropDownHeight(bool use) {
+    m_state->usesStaticHeight = use;
+    if (use)
+        SetDropDownHeight(m_nStaticDropDownHeight);
+}
+
+void CMFCRibbonCheckComb::SetStaticDropDownHeight(int height) {
+    if (!m_state->usesStaticHeight)
+        return;
+    m_nStaticDropDownHeight = height;
+    SetDropDownHeight(height);
+}
+
+void CMFCRibbonCheckComb::DropDownList() {
+    if (!BeginDropDown())
+        return;
+    CoolPanelOf(*this);
+    const int editBottom = static_cast<int>(GetEditRect().bottom);
+    OpenDropDown(MakeMarkedList(*this, {marks::CheckZone(MarkSizes::Current().checkBox, editBottom)}), m_rect.Width());
+}
+
+// ---- clicks. Whatever the host is told may be the combo's end.
+
+bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusive) {
+    const HWND host = HostOf(*this);
+    if (!host)
+        return false;
+    const bool old = m_state->rows.GetOrEmpty(index);
+    if (!exclusive) {
+        const CheckChange change = ToggleOne(index, old);
+        SetItemCheck(index, change.check);
+        SelectRow(*this, index);
+        State::RedrawAll(*this);
+        TellHost(host, WM_COMBO_CHECK_CHANGED, TextOf(*this, index), static_cast<LPARAM>(change.notice));
+        return true;
+    }
+    const std::weak_ptr<State> life = m_state;
+    for (const CheckChange& change : ToggleExclusive(index, old, CountOf(*this))) {
+        // The host may have taken items away since.
+        if (!SetItemCheck(change.index, change.check))
+            break;
+        if (!change.isTold)
+            continue;
+        TellHost(host, WM_COMBO_CHECK_CHANGED, TextOf(*this, change.index), static_cast<LPARAM>(change.notice));
+        if (life.expired())
+            return true;
+    }
+    State::RedrawAll(*this);
+    return true;
+}
+
+BOOL CMFCRibbonCheckComb::OnToggleDropListItem(int index) { return NotifyChangeData(index, boxZone, false); }
+
+void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
+    if (IsDisabled())
+        return;
+    const HWND host = HostOf(*this);
+    const marks::Rect zone = marks::CheckFaceZone(FromRect(GetEditRect()), MarkSizes::Current().checkBox);
+    if (HasEditBox() || !host || !ToRect(zone).PtInRect(point)) {
+        CMFCRibbonComboBox::OnLButtonDown(point);
+        return;
+    }
+    const int selected = GetCurSel();
+    const CheckChange change = ToggleOne(selected, m_state->rows.GetOrEmpty(selected));
+    SetItemCheck(selected, change.check);
+    State::RedrawAll(*this);
+    TellHost(host, WM_COMBO_CHECK_CHANGED, GetEditText(), static_cast<LPARAM>(change.notice));
+}
+
+// ---- drawing
+
+void CMFCRibbonCheckComb::OnCalcTextSize(CDC* dc) {
+    CMFCRibbonComboBox::OnCalcTextSize(dc);
+    m_szMargin = textMargin;
+}
+
+BOOL CMFCRibbonCheckComb::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenuButton* row, BOOL /*highlighted*/) {
+    State::DrawItem(*this, *dc, index, row->Rect());
+    return TRUE;
+}
+
+int CMFCRibbonCheckComb::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
+    return RowWidthOf(*this, *dc, index, static_cast<int>(State::Place(*this, CRect()).text.left));
+}
+
+// The marks stand where a click on them counts.
+void CMFCRibbonCheckComb::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
+    State::DrawItem(*this, *dc, GetCurSel(), GetEditRect());
+}
+
+// ---- accessibility
+
+BOOL CMFCRibbonCheckComb::SetACCData(CWnd* parent, CAccessibilityData& data) {
+    const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
+    if (isDescribed && GetCurSel() >= 0)
+        AddWords(data, m_state->WordsFor(GetCurSel()));
+    return isDescribed;
+}
+
+BOOL CMFCRibbonCheckComb::SetACCRowData(int row, CAccessibilityData& data) {
+    if (!CMFCRibbonComboBox::SetACCRowData(row, data))
+        return FALSE;
+    data.m_strName = DisplayedTextOf(*this, row);
+    if (m_state->rows.GetOrEmpty(row))
+        data.m_nState |= STATE_SYSTEM_CHECKED;
+    AddWords(data, m_state->WordsFor(row));
+    return TRUE;
+}

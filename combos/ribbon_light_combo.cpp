@@ -1,0 +1,152 @@
+#include "combos/combo_parts.h"
+#include "combos/light_images.h"
+#include "combos/mark_sizes.h"
+#include "host_messages.h"
+#include "ribbon_multi_combo.h"
+
+#include <fx/accessibility_data.h>
+
+IMPLEMENT_DYNCREATE(CMFCRibbonVesMultiCombo, CMFCRibbonComboBox)
+
+namespace {
+/// The list's second zone switches nothing.
+constexpr int lightZone = 0;
+} // namespace
+
+struct CMFCRibbonVesMultiCombo::State : MarkedComboState<bool> {
+    template <class Operation>
+    static void ChangeCopies(CMFCRibbonVesMultiCombo& combo, Operation operation) {
+        SynchroniseCopies(
+            combo, [](CMFCRibbonVesMultiCombo& one) -> SynchronisedFlag& { return one.m_state->synchronised; },
+            [&combo] { return ElementsWithIdOf(combo); }, operation);
+    }
+    void DrawItem(const CMFCRibbonVesMultiCombo& combo, CDC& dc, int index, const CRect& row) const {
+        const marks::LightRow place = marks::PlaceLightRow(FromRect(row), MarkSizes::Current().icon);
+        DrawLight(dc, place.light, rows.GetOrEmpty(index) ? LightState::On : LightState::Off);
+        DrawTextOf(combo, dc, index, place.text);
+    }
+    CString WordsFor(int index) const { return Displayed(rows.GetOrEmpty(index) ? L"light on" : L"light off"); }
+};
+
+CMFCRibbonVesMultiCombo::CMFCRibbonVesMultiCombo() : m_state(std::make_shared<State>()) {}
+
+CMFCRibbonVesMultiCombo::CMFCRibbonVesMultiCombo(UINT id, BOOL hasEditBox, int width, LPCTSTR label, int imageIndex)
+    : CMFCRibbonComboBox(id, hasEditBox, width, label, imageIndex), m_state(std::make_shared<State>()) {}
+
+CMFCRibbonVesMultiCombo::~CMFCRibbonVesMultiCombo() = default;
+
+void CMFCRibbonVesMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) {
+    CMFCRibbonComboBox::CopyFrom(src);
+    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonVesMultiCombo, &src);
+    if (source && source != this)
+        m_state->CopyFrom(*source->m_state);
+}
+
+// ---- items and their lights
+
+INT_PTR CMFCRibbonVesMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
+    CMFCRibbonComboBox::AddItem(text, data);
+    State::ChangeCopies(*this, [text, data](CMFCRibbonVesMultiCombo& copy) { copy.AddItem(text, data); });
+    return 1;
+}
+
+void CMFCRibbonVesMultiCombo::RemoveAll() {
+    RemoveAllItems();
+    State::ChangeCopies(*this, [](CMFCRibbonVesMultiCombo& copy) { copy.RemoveAll(); });
+}
+
+bool CMFCRibbonVesMultiCombo::SetItemLight(int index, bool light, bool redraw) {
+    if (!m_state->rows.Set(index, CountOf(*this), light))
+        return false;
+    if (redraw)
+        Redraw();
+    State::ChangeCopies(*this, [=](CMFCRibbonVesMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
+    return true;
+}
+
+bool CMFCRibbonVesMultiCombo::SetItemLight(const wchar_t* text, bool light, bool redraw) {
+    return text && SetItemLight(FindItem(text), light, redraw);
+}
+
+bool CMFCRibbonVesMultiCombo::GetItemLight(int index, bool& light) const { return m_state->rows.Get(index, light); }
+
+void CMFCRibbonVesMultiCombo::setTypeKeyName2Index(const std::map<std::wstring, int>& map) { m_state->keys.Set(map); }
+
+int CMFCRibbonVesMultiCombo::findIndexByTypeKeyName(const std::wstring& key) const {
+    return m_state->keys.FindIndex(key);
+}
+
+std::wstring CMFCRibbonVesMultiCombo::findTypeKeyNameByIndex(int index) const { return m_state->keys.FindKey(index); }
+
+// ---- the list
+
+void CMFCRibbonVesMultiCombo::DropDownList() {
+    if (!BeginDropDown())
+        return;
+    CoolPanelOf(*this);
+    OpenDropDown(MakeMarkedList(*this, marks::LightZones(MarkSizes::Current().icon)), m_rect.Width());
+}
+
+// ---- clicks. Whatever the host is told may be the combo's end.
+
+bool CMFCRibbonVesMultiCombo::NotifyChangeData(int index, int zone, bool /*exclusive*/) {
+    const HWND host = HostOf(*this);
+    if (!host || zone != lightZone)
+        return false;
+    const bool light = !m_state->rows.GetOrEmpty(index);
+    SetItemLight(index, light, true);
+    SelectRow(*this, index);
+    Redraw();
+    TellHost(host, WM_VESCOMBO_LIGHT_CHANGED, TextOf(*this, index), light ? 1 : 0);
+    return true;
+}
+
+BOOL CMFCRibbonVesMultiCombo::OnToggleDropListItem(int index) { return NotifyChangeData(index, lightZone, false); }
+
+void CMFCRibbonVesMultiCombo::OnLButtonDown(CPoint point) {
+    if (IsDisabled())
+        return;
+    const HWND host = HostOf(*this);
+    const marks::LightRow place = marks::PlaceLightRow(FromRect(GetEditRect()), MarkSizes::Current().icon);
+    if (HasEditBox() || !host || !ToRect(place.light).PtInRect(point)) {
+        CMFCRibbonComboBox::OnLButtonDown(point);
+        return;
+    }
+    const int selected = GetCurSel();
+    const bool light = !m_state->rows.GetOrEmpty(selected);
+    SetItemLight(selected, light, true);
+    TellHost(host, WM_VESCOMBO_LIGHT_CHANGED, GetEditText(), light ? 1 : 0);
+}
+
+// ---- drawing
+
+BOOL CMFCRibbonVesMultiCombo::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenuButton* row, BOOL /*highlighted*/) {
+    m_state->DrawItem(*this, *dc, index, row->Rect());
+    return TRUE;
+}
+
+int CMFCRibbonVesMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
+    return RowWidthOf(*this, *dc, index, marks::PlaceLightRow({}, MarkSizes::Current().icon).text.left);
+}
+
+// The marks stand where a click on them counts.
+void CMFCRibbonVesMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
+    m_state->DrawItem(*this, *dc, GetCurSel(), GetEditRect());
+}
+
+// ---- accessibility
+
+BOOL CMFCRibbonVesMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
+    const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
+    if (isDescribed && GetCurSel() >= 0)
+        AddWords(data, m_state->WordsFor(GetCurSel()));
+    return isDescribed;
+}
+
+BOOL CMFCRibbonVesMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
+    if (!CMFCRibbonComboBox::SetACCRowData(row, data))
+        return FALSE;
+    data.m_strName = DisplayedTextOf(*this, row);
+    AddWords(data, m_state->WordsFor(row));
+    return TRUE;
+}

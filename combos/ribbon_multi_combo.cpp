@@ -1,0 +1,271 @@
+#include "ribbon_multi_combo.h"
+
+#include "combos/combo_parts.h"
+#include "combos/light_images.h"
+#include "combos/mark_sizes.h"
+#include "host_messages.h"
+
+#include <fx/accessibility_data.h>
+
+IMPLEMENT_DYNCREATE(CMFCRibbonMultiCombo, CMFCRibbonComboBox)
+
+namespace {
+
+constexpr int initialListHeight = 560;
+
+// Zones of a row.
+constexpr int swatchZone = 0;
+constexpr int lightZone = 1;
+/// The list has no zone for it: a caller of NotifyChangeData means it.
+constexpr int actionZone = 2;
+
+} // namespace
+
+int CMFCRibbonMultiCombo::m_nStaticDropDownHeight = initialListHeight;
+
+struct CMFCRibbonMultiCombo::State : MarkedComboState<rowInfo> {
+    template <class Operation>
+    static void ChangeCopies(CMFCRibbonMultiCombo& combo, Operation operation) {
+        SynchroniseCopies(
+            combo, [](CMFCRibbonMultiCombo& one) -> SynchronisedFlag& { return one.m_state->synchronised; },
+            [&combo] { return ElementsWithIdOf(combo); }, operation);
+    }
+    void DrawItem(const CMFCRibbonMultiCombo& combo, CDC& dc, int index, const CRect& row) const {
+        const rowInfo info = rows.GetOrEmpty(index);
+        const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(row), ScaledIconSize());
+        const CRect swatch = ToRect(place.swatch);
+        if (!swatch.IsRectEmpty()) {
+            CBrush brush(info.clr);
+            dc.FillRect(swatch, &brush);
+            ::FrameRect(dc.GetSafeHdc(), swatch, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+        }
+        DrawLightScaled(dc, place.light, info.light ? LightState::On : LightState::Off);
+        DrawTextOf(combo, dc, index, place.text);
+    }
+    CString WordsFor(int index) const {
+        const rowInfo info = rows.GetOrEmpty(index);
+        CString words;
+        words.Format(L"%s, %s #%02X%02X%02X", Displayed(info.light ? L"light on" : L"light off").GetString(),
+                     Displayed(L"colour").GetString(), GetRValue(info.clr), GetGValue(info.clr), GetBValue(info.clr));
+        return words;
+    }
+};
+
+CMFCRibbonMultiCombo::CMFCRibbonMultiCombo() : m_state(std::make_shared<State>()) {}
+
+CMFCRibbonMultiCombo::CMFCRibbonMultiCombo(UINT id, BOOL hasEditBox, int width, LPCTSTR label, int imageIndex)
+    : CMFCRibbonComboBox(id, hasEditBox, width, label, imageIndex), m_state(std::make_shared<State>()) {
+    EnlargeIconOnce();
+}
+
+CMFCRibbonMultiCombo::~CMFCRibbonMultiCombo() = default;
+
+void CMFCRibbonMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) {
+    CMFCRibbonComboBox::CopyFrom(src);
+    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonMultiCombo, &src);
+    if (!source || source == this)
+        return;
+    m_state->CopyFrom(*source->m_state);
+    if (m_state->usesStaticHeight)
+        SetDropDownHeight(m_nStaticDropDownHeight);
+}
+
+// ---- items and their states
+
+INT_PTR CMFCRibbonMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
+    CMFCRibbonComboBox::AddItem(text, data);
+    State::ChangeCopies(*this, [text, data](CMFCRibbonMultiCombo& copy) { copy.AddItem(text, data); });
+    return 1;
+}
+
+void CMFCRibbonMultiCombo::RemoveAll() {
+    RemoveAllItems();
+    State::ChangeCopies(*this, [](CMFCRibbonMultiCombo& copy) { copy.RemoveAll(); });
+}
+
+bool CMFCRibbonMultiCombo::SetItemClr(int index, const COLORREF& clr, bool redraw) {
+    if (!m_state->rows.Modify(index, CountOf(*this), [clr](rowInfo& info) { info.clr = clr; }))
+        return false;
+    if (redraw)
+        Redraw();
+    State::ChangeCopies(*this, [=](CMFCRibbonMultiCombo& copy) { copy.SetItemClr(index, clr, redraw); });
+    return true;
+}
+
+bool CMFCRibbonMultiCombo::SetItemClr(const wchar_t* text, const COLORREF& clr, bool redraw) {
+    return text && SetItemClr(FindItem(text), clr, redraw);
+}
+
+bool CMFCRibbonMultiCombo::GetItemClr(int index, COLORREF& clr) const {
+    rowInfo info;
+    if (!m_state->rows.Get(index, info))
+        return false;
+    clr = info.clr;
+    return true;
+}
+
+bool CMFCRibbonMultiCombo::SetItemLight(int index, bool light, bool redraw) {
+    if (!m_state->rows.Modify(index, CountOf(*this), [light](rowInfo& info) { info.light = light; }))
+        return false;
+    if (redraw)
+        Redraw();
+    State::ChangeCopies(*this, [=](CMFCRibbonMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
+    return true;
+}
+
+bool CMFCRibbonMultiCombo::SetItemLight(const wchar_t* text, bool light, bool redraw) {
+    return text && SetItemLight(FindItem(text), light, redraw);
+}
+
+bool CMFCRibbonMultiCombo::GetItemLight(int index, bool& light) const {
+    rowInfo info;
+    if (!m_state->rows.Get(index, info))
+        return false;
+    light = info.light;
+    return true;
+}
+
+bool CMFCRibbonMultiCombo::SetItemInfo(int index, const COLORREF& clr, bool light, bool /*lock*/) {
+    return m_state->rows.Set(index, CountOf(*this), {clr, light});
+}
+
+bool CMFCRibbonMultiCombo::SetItemInfo(int index, rowInfo& info) {
+    m_state->rows.SetUnchecked(index, info);
+    return true;
+}
+
+bool CMFCRibbonMultiCombo::GetItemInfo(int index, rowInfo& info) const { return m_state->rows.Get(index, info); }
+
+bool CMFCRibbonMultiCombo::SetItemLock(int /*index*/, bool /*lock*/, bool /*redraw*/) { return true; }
+
+bool CMFCRibbonMultiCombo::SetItemLock(const wchar_t* /*text*/, bool /*lock*/, bool /*redraw*/) { return true; }
+
+bool CMFCRibbonMultiCombo::GetItemLock(int /*index*/, bool& /*lock*/) const { return true; }
+
+void CMFCRibbonMultiCombo::setTypeKeyName2Index(const std::map<std::wstring, int>& map) { m_state->keys.Set(map); }
+
+int CMFCRibbonMultiCombo::findIndexByTypeKeyName(const std::wstring& key) const { return m_state->keys.FindIndex(key); }
+
+std::wstring CMFCRibbonMultiCombo::findTypeKeyNameByIndex(int index) const { return m_state->keys.FindKey(index); }
+
+// ---- the list
+
+void CMFCRibbonMultiCombo::UserStaticDropDownHeight(bool use) {
+    m_state->usesStaticHeight = use;
+    if (use)
+        SetDropDownHeight(m_nStaticDropDownHeight);
+}
+
+void CMFCRibbonMultiCombo::SetStaticDropDownHeight(int height) {
+    if (!m_state->usesStaticHeight)
+        return;
+    m_nStaticDropDownHeight = height;
+    SetDropDownHeight(height);
+}
+
+void CMFCRibbonMultiCombo::DropDownList() {
+    if (!BeginDropDown())
+        return;
+    CoolPanelOf(*this);
+    OpenDropDown(MakeMarkedList(*this, marks::SwatchZones(GetEditRect().Height(), ScaledIconSize())), m_rect.Width());
+}
+
+// ---- clicks. Whatever the host is told may be the combo's end.
+
+/// False: the combo is gone.
+bool CMFCRibbonMultiCombo::AskForLight(HWND host, const CString& text, int index) {
+    const std::weak_ptr<State> life = m_state;
+    const bool wanted = !m_state->rows.GetOrEmpty(index).light;
+    const bool isAllowed = TellHost(host, WM_COMBO_LIGHT_CHANGED, text, wanted ? 1 : 0) != 0;
+    if (life.expired())
+        return false;
+    // This element's light only, in whatever colour the host has given it meanwhile.
+    if (isAllowed)
+        m_state->rows.Modify(index, CountOf(*this), [wanted](rowInfo& info) { info.light = wanted; });
+    Redraw();
+    return true;
+}
+
+void CMFCRibbonMultiCombo::AskForColor(HWND host, int index) const {
+    const COLORREF color = m_state->rows.GetOrEmpty(index).clr;
+    ::PostMessageW(host, WM_COMBO_COLOR_PICK, static_cast<WPARAM>(index), static_cast<LPARAM>(color));
+}
+
+bool CMFCRibbonMultiCombo::NotifyChangeData(int index, int zone, bool /*exclusive*/) {
+    const HWND host = HostOf(*this);
+    if (!host)
+        return false;
+    switch (zone) {
+    case swatchZone:
+        SelectRow(*this, index);
+        Redraw();
+        AskForColor(host, index);
+        return false;
+    case lightZone:
+        SelectRow(*this, index);
+        AskForLight(host, TextOf(*this, index), index);
+        return true;
+    case actionZone: {
+        m_state->rows.SetUnchecked(index, m_state->rows.GetOrEmpty(index));
+        SelectRow(*this, index);
+        const std::weak_ptr<State> life = m_state;
+        TellHost(host, WM_COMBO_ITEM_ACTION, TextOf(*this, index), 1);
+        if (!life.expired())
+            Redraw();
+        return true;
+    }
+    default:
+        return false;
+    }
+}
+
+BOOL CMFCRibbonMultiCombo::OnToggleDropListItem(int index) { return NotifyChangeData(index, lightZone, false); }
+
+void CMFCRibbonMultiCombo::OnLButtonDown(CPoint point) {
+    if (IsDisabled())
+        return;
+    const HWND host = HostOf(*this);
+    const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(GetEditRect()), ScaledIconSize());
+    if (HasEditBox() || !host)
+        CMFCRibbonComboBox::OnLButtonDown(point);
+    else if (ToRect(place.light).PtInRect(point))
+        AskForLight(host, GetEditText(), GetCurSel());
+    else if (ToRect(place.swatch).PtInRect(point))
+        AskForColor(host, GetCurSel());
+    else
+        CMFCRibbonComboBox::OnLButtonDown(point);
+}
+
+// ---- drawing
+
+BOOL CMFCRibbonMultiCombo::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenuButton* row, BOOL /*highlighted*/) {
+    m_state->DrawItem(*this, *dc, index, row->Rect());
+    return TRUE;
+}
+
+int CMFCRibbonMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
+    return RowWidthOf(*this, *dc, index,
+                      marks::PlaceSwatchRow({0, 0, 0, ScaledIconSize()}, ScaledIconSize()).text.left);
+}
+
+// The marks stand where a click on them counts.
+void CMFCRibbonMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
+    m_state->DrawItem(*this, *dc, GetCurSel(), GetEditRect());
+}
+
+// ---- accessibility
+
+BOOL CMFCRibbonMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
+    const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
+    if (isDescribed && GetCurSel() >= 0)
+        AddWords(data, m_state->WordsFor(GetCurSel()));
+    return isDescribed;
+}
+
+BOOL CMFCRibbonMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
+    if (!CMFCRibbonComboBox::SetACCRowData(row, data))
+        return FALSE;
+    data.m_strName = DisplayedTextOf(*this, row);
+    AddWords(data, m_state->WordsFor(row));
+    return TRUE;
+}

@@ -1,0 +1,170 @@
+// The height in which the lists of a class drop.
+#include "tests/ui/marked_combos/combo_fixture.h"
+
+namespace {
+
+TEST_F(RibbonCombos, TheStaticHeightsAreFiveHundredAndSixtyAtFirst) {
+    EXPECT_EQ(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 560);
+    EXPECT_EQ(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 560);
+}
+
+template <class Combo>
+class StaticHeight : public RibbonCombos {};
+using WithHeight = testing::Types<CMFCRibbonCheckComb, CMFCRibbonMultiCombo>;
+TYPED_TEST_SUITE(StaticHeight, WithHeight);
+
+TYPED_TEST(StaticHeight, IsTakenWhenItIsSwitchedOnAndNoEarlier) {
+    TypeParam combo(comboId, FALSE);
+    combo.SetDropDownHeight(77);
+    combo.UserStaticDropDownHeight(false);
+    EXPECT_EQ(combo.GetDropDownHeight(), 77);
+    combo.UserStaticDropDownHeight(true);
+    EXPECT_EQ(combo.GetDropDownHeight(), 560);
+    combo.SetDropDownHeight(88);
+    combo.UserStaticDropDownHeight(false);
+    EXPECT_EQ(combo.GetDropDownHeight(), 88);
+}
+
+TYPED_TEST(StaticHeight, IsSetByCombosThatUseItOnly) {
+    TypeParam combo(comboId, FALSE);
+    combo.SetDropDownHeight(77);
+    combo.SetStaticDropDownHeight(400);
+    EXPECT_EQ(combo.GetDropDownHeight(), 77);
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 560);
+    combo.UserStaticDropDownHeight(true);
+    combo.SetStaticDropDownHeight(400);
+    EXPECT_EQ(combo.GetDropDownHeight(), 400);
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 400);
+    TypeParam other(comboId, FALSE);
+    other.UserStaticDropDownHeight(true);
+    EXPECT_EQ(other.GetDropDownHeight(), 400);
+}
+
+TYPED_TEST(StaticHeight, GoesWithACopyThatUsesIt) {
+    TypeParam combo(comboId, FALSE);
+    combo.UserStaticDropDownHeight(true);
+    combo.SetDropDownHeight(77);
+    TypeParam copy(comboId, FALSE);
+    copy.CopyFrom(combo);
+    EXPECT_EQ(copy.GetDropDownHeight(), 560) << "not the height of that combo alone";
+    copy.SetStaticDropDownHeight(300);
+    EXPECT_EQ(copy.GetDropDownHeight(), 300) << "the copy uses it";
+    combo.UserStaticDropDownHeight(false);
+    combo.SetDropDownHeight(99);
+    copy.CopyFrom(combo);
+    EXPECT_EQ(copy.GetDropDownHeight(), 99);
+}
+
+/// Gives the open list another height, as a user's hand does.
+void ResizeOpenList(int height) {
+    CMFCPopupMenu* const list = CMFCPopupMenu::GetActiveMenu();
+    CRect rect;
+    list->GetWindowRect(&rect);
+    list->SetWindowPos(nullptr, 0, 0, rect.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int HeightOfOpenList() {
+    CRect rect(0, 0, 0, 0);
+    if (CMFCPopupMenu* const list = CMFCPopupMenu::GetActiveMenu())
+        list->GetWindowRect(&rect);
+    return rect.Height();
+}
+
+TYPED_TEST(StaticHeight, AUsersResizeOfOneListIsTheNextHeightOfAllThatUseIt) {
+    auto& first = this->template Add<TypeParam>(comboId, 0);
+    auto& second = this->template Add<TypeParam>(comboId + 1, 0);
+    auto& alone = this->template Add<TypeParam>(comboId + 2, 0);
+    for (TypeParam* const combo : {&first, &second, &alone}) {
+        for (int i = 0; i < 200; ++i)
+            combo->AddItem(L"item");
+        combo->EnableDropDownListResize(TRUE);
+        combo->SetDropDownHeight(200);
+    }
+    first.UserStaticDropDownHeight(true);
+    second.UserStaticDropDownHeight(true);
+    this->Open(first);
+    EXPECT_EQ(HeightOfOpenList(), 560);
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 560) << "opening is no resize";
+    ResizeOpenList(300);
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 300);
+    EXPECT_EQ(first.GetDropDownHeight(), 300);
+    CMFCPopupMenu::CloseAll();
+    EXPECT_EQ(CMFCRibbonCheckComb::m_nStaticDropDownHeight + CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 860)
+        << "the other class keeps its own";
+    EXPECT_EQ(alone.GetDropDownHeight(), 200);
+
+    first.UserStaticDropDownHeight(true);
+    this->Open(first);
+    EXPECT_EQ(HeightOfOpenList(), 300);
+    CMFCPopupMenu::CloseAll();
+    second.UserStaticDropDownHeight(true);
+    this->Open(second);
+    EXPECT_EQ(HeightOfOpenList(), 300);
+    CMFCPopupMenu::CloseAll();
+
+    this->Open(alone);
+    ResizeOpenList(250);
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 300) << "one that does not use it";
+    EXPECT_EQ(alone.GetDropDownHeight(), 200);
+}
+
+TYPED_TEST(StaticHeight, AListOfFewItemsThatIsLowerLeavesItAlone) {
+    auto& combo = this->template Add<TypeParam>();
+    combo.UserStaticDropDownHeight(true);
+    this->Open(combo);
+    EXPECT_LT(HeightOfOpenList(), 200);
+    CMFCPopupMenu::CloseAll();
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 560);
+}
+
+TEST_F(RibbonCombos, ALightOnlyListKeepsItsHeightToItself) {
+    auto& combo = Add<CMFCRibbonVesMultiCombo>(comboId, 0);
+    for (int i = 0; i < 200; ++i)
+        combo.AddItem(L"item");
+    combo.EnableDropDownListResize(TRUE);
+    combo.SetDropDownHeight(200);
+    Open(combo);
+    ResizeOpenList(300);
+    EXPECT_EQ(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 560);
+    EXPECT_EQ(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 560);
+    EXPECT_EQ(combo.GetDropDownHeight(), 200);
+}
+
+TEST_F(RibbonCombos, AListIsAtLeastAsWideAsItsCombo) {
+    auto& combo = Add<CMFCRibbonCheckComb>();
+    Open(combo);
+    CRect rect;
+    CMFCPopupMenu::GetActiveMenu()->GetWindowRect(&rect);
+    EXPECT_GE(rect.Width(), combo.GetRect().Width());
+}
+
+TEST_F(RibbonCombos, AListOpensBelowTheEditAreaAtItsLeftEdge) {
+    auto& combo = Add<CMFCRibbonMultiCombo>();
+    Open(combo);
+    CRect rect;
+    CMFCPopupMenu::GetActiveMenu()->GetWindowRect(&rect);
+    CRect edit = combo.GetEditRect();
+    m_host.Bar().ClientToScreen(&edit);
+    EXPECT_EQ(rect.TopLeft(), CPoint(edit.left, edit.bottom));
+}
+
+TEST_F(RibbonCombos, TheListOfAnotherElementClosesAndNothingOpens) {
+    auto& first = Add<CMFCRibbonCheckComb>();
+    auto& second = Add<CMFCRibbonMultiCombo>(comboId + 1);
+    first.DropDownList();
+    ASSERT_TRUE(first.IsDroppedDown());
+    second.DropDownList();
+    EXPECT_FALSE(first.IsDroppedDown());
+    EXPECT_FALSE(second.IsDroppedDown());
+    EXPECT_EQ(Rows(), nullptr);
+    second.DropDownList();
+    EXPECT_TRUE(second.IsDroppedDown());
+}
+
+TEST_F(RibbonCombos, TheListShowsTheSelectedItemHot) {
+    auto& combo = Add<CMFCRibbonVesMultiCombo>();
+    combo.SelectItem(2);
+    EXPECT_EQ(Open(combo).GetHotRow(), 2);
+}
+
+} // namespace
