@@ -2,6 +2,7 @@
 
 #include "add_ribbon_bar.h"
 #include "frame_dump.h"
+#include "host_messages.h"
 #include "menu_event.h"
 #include "menu_id_mgr.h"
 #include "picture_export.h"
@@ -66,6 +67,11 @@ ON_WM_SETFOCUS()
 ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
 ON_MESSAGE(kRebuildRibbonMessage, OnRebuildRibbon)
+ON_MESSAGE(WM_COMBO_CHECK_CHANGED, OnLayerChecked)
+ON_MESSAGE(WM_COMBO_COLOR_PICK, OnLayerColor)
+ON_MESSAGE(WM_COMBO_LIGHT_CHANGED, OnLayerLight)
+ON_MESSAGE(WM_VESCOMBO_LIGHT_CHANGED, OnLabelLight)
+ON_MESSAGE(WM_RIBBON_LABEL_CLICKED, OnLabelClicked)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(const DemoOptions& options)
@@ -73,10 +79,11 @@ CMainFrame::CMainFrame(const DemoOptions& options)
       m_data(MapData::Load(std::filesystem::path(InstallationDirectory()) / L"data")),
       m_map(m_state, m_data),
       m_ribbon(TRUE),
+      m_controls(m_state),
       m_skin(options.skin) {
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
     dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));
-    dispatcher->addReactor(MakeLayerReactor(m_state));
+    dispatcher->addReactor(MakeLayerReactor(m_state, *this));
     dispatcher->addReactor(MakePictureReactor(m_state, *this));
     dispatcher->addReactor(MakeSettingsReactor(*this));
 }
@@ -96,13 +103,13 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     m_ribbon.EnableToolTips(TRUE, TRUE);
     BuildRibbon();
     ApplyTexts();
+    m_map.SetPointerListener([this](GeoPoint place) { m_controls.ShowPointer(place); });
     return 0;
 }
 
 void CMainFrame::OnSetFocus(CWnd*) { m_map.SetFocus(); }
 
 void CMainFrame::BuildRibbon() {
-    m_slider = nullptr;
     m_place = nullptr;
     CMFCRibbonCategory* const active = m_ribbon.GetActiveCategory();
     const int shown = active ? m_ribbon.GetCategoryIndex(active) : m_options.category;
@@ -111,17 +118,11 @@ void CMainFrame::BuildRibbon() {
     CAddRibbonBar builder;
     builder.Load(kRibbonFile, &m_ribbon, TRUE);
     m_commandTexts = builder.m_cmdList;
-    m_slider = FindElement<CMFCRibbonSlider>(m_ribbon, L"ZoomSlider");
     m_place = FindElement<CMFCRibbonEdit>(m_ribbon, L"PlaceEdit");
     for (const wchar_t* keyword : kSplitButtons)
         if (auto* const button = FindElement<CMFCRibbonButton>(m_ribbon, keyword))
             button->SetDefaultCommand();
-    if (m_slider) {
-        m_slider->SetRange(0, MapState::kSliderMax);
-        m_slider->SetZoomButtons();
-        m_slider->SetZoomIncrement(5);
-        m_slider->SetPos(m_state.SliderPosition(), FALSE);
-    }
+    m_controls.Attach(m_ribbon);
     if (m_ribbon.GetCategoryCount() > 0)
         m_ribbon.SetActiveCategory(m_ribbon.GetCategory(std::min(shown, m_ribbon.GetCategoryCount() - 1)));
     m_ribbon.ForceRecalcLayout();
@@ -129,8 +130,7 @@ void CMainFrame::BuildRibbon() {
 
 void CMainFrame::OnConfiguredCommand(UINT id) {
     CMenuEvtHandleMgr::Ins()->MenuClick(id);
-    ShowState();
-    WriteRecord();
+    TakeChange();
 }
 
 void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
@@ -139,9 +139,45 @@ void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
 }
 
 void CMainFrame::ShowState() {
-    if (m_slider && m_slider->GetPos() != m_state.SliderPosition())
-        m_slider->SetPos(m_state.SliderPosition());
+    m_controls.ShowState();
     m_map.ShowState();
+}
+
+void CMainFrame::TakeChange() {
+    ShowState();
+    WriteRecord();
+}
+
+LRESULT CMainFrame::OnLayerChecked(WPARAM, LPARAM) {
+    m_controls.TakeChecks();
+    TakeChange();
+    return 0;
+}
+
+LRESULT CMainFrame::OnLayerColor(WPARAM item, LPARAM) {
+    if (m_controls.AskColor(static_cast<int>(item), this))
+        TakeChange();
+    return 0;
+}
+
+// The answer decides; the combo shows the light itself afterwards.
+LRESULT CMainFrame::OnLayerLight(WPARAM text, LPARAM isOn) {
+    const bool isTaken = m_controls.TakeLight(*reinterpret_cast<const CString*>(text), isOn != 0);
+    m_map.ShowState();
+    WriteRecord();
+    return isTaken ? 1 : 0;
+}
+
+LRESULT CMainFrame::OnLabelLight(WPARAM, LPARAM) {
+    m_controls.TakeLabelLights();
+    TakeChange();
+    return 0;
+}
+
+LRESULT CMainFrame::OnLabelClicked(WPARAM label, LPARAM) {
+    if (m_controls.IsPointerLabel(reinterpret_cast<const void*>(label)))
+        m_controls.SwitchPointerFormat();
+    return 0;
 }
 
 void CMainFrame::ApplySkin() {
@@ -167,11 +203,23 @@ void CMainFrame::WriteRecord() {
     nlohmann::ordered_json layers = nlohmann::ordered_json::array();
     for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i)
         layers.push_back(m_state.IsShown(static_cast<MapLayer>(i)));
+    nlohmann::ordered_json styles = nlohmann::ordered_json::array();
+    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
+        const auto layer = static_cast<MapLayer>(i);
+        styles.push_back({{"color", ShownColor(m_state, layer)},
+                          {"lit", m_state.IsLit(layer)},
+                          {"locked", m_state.IsLocked(layer)}});
+    }
+    nlohmann::ordered_json labels = nlohmann::ordered_json::array();
+    for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i)
+        labels.push_back(m_state.IsLit(static_cast<MapLabel>(i)));
     nlohmann::ordered_json record = {{"map",
                                       {{"longitude", view.center.longitude},
                                        {"latitude", view.center.latitude},
                                        {"pixelsPerDegree", view.pixelsPerDegree},
                                        {"layers", std::move(layers)},
+                                       {"layerStyles", std::move(styles)},
+                                       {"labelsLit", std::move(labels)},
                                        {"palette", static_cast<int>(m_state.Palette())}}},
                                      {"language", wstring2String(CMultiLanguageMgr::GetLanguage())},
                                      {"skin", wstring2String(m_skin)},
@@ -183,7 +231,7 @@ void CMainFrame::WriteRecord() {
     WriteJson(record, m_options.record);
 }
 
-int CMainFrame::ScaleSliderPosition() const { return m_slider ? m_slider->GetPos() : m_state.SliderPosition(); }
+int CMainFrame::ScaleSliderPosition() const { return m_controls.ScalePosition(); }
 
 std::wstring CMainFrame::PlaceText() const {
     return m_place ? std::wstring(m_place->GetEditText().GetString()) : std::wstring();

@@ -2,6 +2,7 @@
 
 #include <afxcontrolbars.h>
 
+#include "layer_controls.h"
 #include "map_data.h"
 #include "map_state.h"
 #include "map_window.h"
@@ -26,16 +27,24 @@ protected:
     afx_msg void OnConfiguredCommand(UINT id);
     afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
     afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);
+    afx_msg LRESULT OnLayerChecked(WPARAM, LPARAM);
+    afx_msg LRESULT OnLayerColor(WPARAM item, LPARAM);
+    afx_msg LRESULT OnLayerLight(WPARAM text, LPARAM isOn);
+    afx_msg LRESULT OnLabelLight(WPARAM, LPARAM);
+    afx_msg LRESULT OnLabelClicked(WPARAM label, LPARAM);
     DECLARE_MESSAGE_MAP()
 
 private:
     void BuildRibbon();
     void ShowState();
+    /// After a change that came by a message.
+    void TakeChange();
     void ApplySkin();
     void ApplyTexts();
 
     int ScaleSliderPosition() const override;
     std::wstring PlaceText() const override;
+    std::optional<MapLayer> ChosenLayer() const override { return m_controls.ChosenLayer(); }
     void TellPlaceUnknown(const std::wstring& text) override;
     void TellAbout() override;
     void TellKeyboard() override;
@@ -58,8 +67,8 @@ private:
     MapState m_state;
     CMapWindow m_map;
     CMFCRibbonBar m_ribbon;
-    CMFCRibbonSlider* m_slider = nullptr; ///< The ribbon's; null when the configuration has none.
-    CMFCRibbonEdit* m_place = nullptr;    ///< The same.
+    LayerControls m_controls;
+    CMFCRibbonEdit* m_place = nullptr; ///< The ribbon's; null when the configuration has none.
     std::wstring m_skin;
     std::wstring m_iconStyle;
     std::vector<std::wstring> m_commandTexts; ///< As the builder met them, for the record.

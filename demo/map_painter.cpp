@@ -39,6 +39,15 @@ const std::array<Colors, 3> kColors = {{
      Color(0xFF202020), Color(0xF0FFFFFF), Color(0xFF404040), 216},
 }};
 
+/// Where a layer's own colour stands in a row of the table.
+constexpr std::array<Color Colors::*, static_cast<std::size_t>(MapLayer::Count)> kLayerColors = {
+    &Colors::sea, &Colors::coast, &Colors::lake, &Colors::graticule, &Colors::city, &Colors::text, &Colors::text};
+
+constexpr BYTE kUnlitVeil = 216;
+constexpr BYTE kFaintness = 3; // what is unlit keeps a third of its strength
+
+Color Faint(Color color) { return Color(color.GetA() / kFaintness, color.GetR(), color.GetG(), color.GetB()); }
+
 /// State of one painting: what each layer's function needs.
 struct Canvas {
     Graphics& graphics;
@@ -57,6 +66,15 @@ struct Canvas {
         state.ToWindow(place, x, y);
         return PointF(static_cast<REAL>(x), static_cast<REAL>(y));
     }
+    /// The colour of a layer: its own one in place of the palette's, faint where its light is off.
+    Color Ink(MapLayer layer, Color palette) const {
+        Color color = palette;
+        if (const auto own = state.Color(layer))
+            color = Color(static_cast<DWORD>(palette.GetA()) << 24 | *own);
+        return state.IsLit(layer) ? color : Faint(color);
+    }
+    /// The layer's light alone, for what has no colour of its own.
+    Color Lit(MapLayer layer, Color color) const { return state.IsLit(layer) ? color : Faint(color); }
     REAL Scaled(double pixels) const { return static_cast<REAL>(pixels * style.scale); }
 };
 
@@ -120,9 +138,23 @@ RectF PlaceOfText(const Canvas& canvas, const Gdiplus::Font& font, const std::ws
     return place;
 }
 
-void DrawHaloText(const Canvas& canvas, const Gdiplus::Font& font, const std::wstring& text, PointF at) {
-    Gdiplus::SolidBrush halo(canvas.colors.halo);
-    Gdiplus::SolidBrush ink(canvas.colors.text);
+/// How the texts of one kind are written.
+struct TextStyle {
+    const Gdiplus::Font& font;
+    Color ink;
+    Color halo;
+};
+
+TextStyle StyleOf(const Canvas& canvas, const Gdiplus::Font& font, MapLayer layer, MapLabel label) {
+    const bool isLit = canvas.state.IsLit(label);
+    const Color ink = canvas.Ink(layer, canvas.colors.text);
+    return {font, isLit ? ink : Faint(ink), isLit ? canvas.colors.halo : Faint(canvas.colors.halo)};
+}
+
+void DrawHaloText(const Canvas& canvas, const TextStyle& style, const std::wstring& text, PointF at) {
+    Gdiplus::SolidBrush halo(style.halo);
+    Gdiplus::SolidBrush ink(style.ink);
+    const Gdiplus::Font& font = style.font;
     const REAL step = canvas.Scaled(1);
     const INT length = static_cast<INT>(text.size());
     for (const PointF& offset : {PointF(-step, 0), PointF(step, 0), PointF(0, -step), PointF(0, step)})
@@ -140,7 +172,7 @@ std::wstring DegreeText(int degrees, wchar_t positive, wchar_t negative) {
 }
 
 void DrawGraticuleLines(const Canvas& canvas) {
-    Gdiplus::Pen pen(canvas.colors.graticule, canvas.Scaled(1));
+    Gdiplus::Pen pen(canvas.Ink(MapLayer::Graticule, canvas.colors.graticule), canvas.Scaled(1));
     const int spacing = canvas.state.GraticuleSpacing();
     const PointF northWest = canvas.At({-180, 90});
     const PointF southEast = canvas.At({180, -90});
@@ -156,14 +188,14 @@ void DrawGraticuleLines(const Canvas& canvas) {
 }
 
 /// Numbers along the upper and the left edge of what is seen; those without room are left out.
-void DrawGraticuleNumbers(const Canvas& canvas, const Gdiplus::Font& font, TextPlaces& places) {
+void DrawGraticuleNumbers(const Canvas& canvas, const TextStyle& style, TextPlaces& places) {
     const int spacing = canvas.state.GraticuleSpacing();
     const PointF northWest = canvas.At({-180, 90});
     const REAL top = std::max(northWest.Y, REAL(0));
     const REAL left = std::max(northWest.X, REAL(0));
     const auto write = [&](const std::wstring& text, PointF at) {
-        if (places.Take(PlaceOfText(canvas, font, text, at)))
-            DrawHaloText(canvas, font, text, at);
+        if (places.Take(PlaceOfText(canvas, style.font, text, at)))
+            DrawHaloText(canvas, style, text, at);
     };
     for (int longitude = -180; longitude < 180; longitude += spacing) {
         const REAL x = canvas.At({static_cast<double>(longitude), 0}).X;
@@ -194,8 +226,8 @@ void ForEachShownCity(const Canvas& canvas, const std::vector<City>& cities, Dra
 }
 
 void DrawCities(const Canvas& canvas, const std::vector<City>& cities) {
-    Gdiplus::SolidBrush dot(canvas.colors.city);
-    Gdiplus::SolidBrush rim(canvas.colors.halo);
+    Gdiplus::SolidBrush dot(canvas.Ink(MapLayer::Cities, canvas.colors.city));
+    Gdiplus::SolidBrush rim(canvas.Lit(MapLayer::Cities, canvas.colors.halo));
     ForEachShownCity(canvas, cities, [&](const City&, PointF at, REAL radius) {
         const REAL outer = radius + canvas.Scaled(1.2);
         canvas.graphics.FillEllipse(&rim, RectF(at.X - outer, at.Y - outer, 2 * outer, 2 * outer));
@@ -203,16 +235,15 @@ void DrawCities(const Canvas& canvas, const std::vector<City>& cities) {
     });
 }
 
-void DrawCityNames(const Canvas& canvas, const std::vector<City>& cities, const Gdiplus::Font& font,
-                   TextPlaces& places) {
+void DrawCityNames(const Canvas& canvas, const std::vector<City>& cities, const TextStyle& style, TextPlaces& places) {
     ForEachShownCity(canvas, cities, [&](const City& city, PointF at, REAL radius) {
         const std::wstring& name = canvas.style.chineseNames ? city.chinese : city.english;
-        const RectF size = PlaceOfText(canvas, font, name, at);
+        const RectF size = PlaceOfText(canvas, style.font, name, at);
         const REAL y = at.Y - size.Height / 2;
         // Right of the dot, or left of it where that is taken.
         for (const REAL x : {at.X + radius, at.X - radius - size.Width}) {
             if (places.Take(RectF(x, y, size.Width, size.Height))) {
-                DrawHaloText(canvas, font, name, PointF(x, y));
+                DrawHaloText(canvas, style, name, PointF(x, y));
                 return;
             }
         }
@@ -228,7 +259,7 @@ double RoundLength(double limit) {
     return power;
 }
 
-void DrawScaleBar(const Canvas& canvas, const Gdiplus::Font& font) {
+void DrawScaleBar(const Canvas& canvas, const TextStyle& style) {
     constexpr double kKilometresPerDegree = 111.32;
     constexpr double kPi = 3.14159265358979;
     const MapView& view = canvas.state.View();
@@ -239,8 +270,8 @@ void DrawScaleBar(const Canvas& canvas, const Gdiplus::Font& font) {
     const REAL left = canvas.Scaled(16);
     const REAL bottom = static_cast<REAL>(canvas.state.WindowHeight()) - canvas.Scaled(16);
 
-    Gdiplus::Pen halo(canvas.colors.halo, canvas.Scaled(5));
-    Gdiplus::Pen ink(canvas.colors.text, canvas.Scaled(2));
+    Gdiplus::Pen halo(canvas.Lit(MapLayer::ScaleBar, canvas.colors.halo), canvas.Scaled(5));
+    Gdiplus::Pen ink(canvas.Ink(MapLayer::ScaleBar, canvas.colors.text), canvas.Scaled(2));
     const REAL tick = canvas.Scaled(6);
     const std::array<PointF, 4> line = {PointF(left, bottom - tick), PointF(left, bottom),
                                         PointF(left + length, bottom), PointF(left + length, bottom - tick)};
@@ -248,7 +279,7 @@ void DrawScaleBar(const Canvas& canvas, const Gdiplus::Font& font) {
     canvas.graphics.DrawLines(&ink, line.data(), static_cast<INT>(line.size()));
     wchar_t text[32];
     std::swprintf(text, std::size(text), L"%g ", kilometres);
-    DrawHaloText(canvas, font, text + canvas.style.kilometres,
+    DrawHaloText(canvas, style, text + canvas.style.kilometres,
                  PointF(left + canvas.Scaled(4), bottom - canvas.Scaled(22)));
 }
 
@@ -317,6 +348,13 @@ private:
 
 } // namespace
 
+std::uint32_t ShownColor(const MapState& state, MapLayer layer) {
+    if (const auto own = state.Color(layer))
+        return *own;
+    const Colors& colors = kColors[static_cast<std::size_t>(state.Palette())];
+    return (colors.*kLayerColors[static_cast<std::size_t>(layer)]).GetValue() & 0xFFFFFF;
+}
+
 struct MapPainter::Relief {
     explicit Relief(const std::wstring& file) : image(file.c_str()) {}
     Gdiplus::Bitmap image;
@@ -339,22 +377,27 @@ bool MapPainter::PaintRelief(Gdiplus::Graphics& graphics, const Gdiplus::RectF& 
 void MapPainter::PaintShapes(HDC dc, const MapState& state, const MapPaintStyle& style) {
     Graphics graphics(dc);
     const Canvas canvas = MakeCanvas(graphics, state, style);
-    graphics.Clear(canvas.colors.sea);
+    const Color& sea = canvas.colors.sea;
+    const auto around = state.Color(MapLayer::Relief);
+    graphics.Clear(around ? Color(0xFF000000 | *around) : sea);
     const PointF corner = canvas.At({-180, 90});
     const PointF opposite = canvas.At({180, -90});
     const RectF world(corner.X, corner.Y, opposite.X - corner.X, opposite.Y - corner.Y);
     const bool hasRelief = state.IsShown(MapLayer::Relief) && PaintRelief(graphics, world);
-    if (hasRelief && canvas.colors.reliefVeil > 0) {
-        const Color& sea = canvas.colors.sea;
-        Gdiplus::SolidBrush veil(Color(canvas.colors.reliefVeil, sea.GetR(), sea.GetG(), sea.GetB()));
+    const BYTE veilStrength = state.IsLit(MapLayer::Relief) ? canvas.colors.reliefVeil : kUnlitVeil;
+    if (hasRelief && veilStrength > 0) {
+        Gdiplus::SolidBrush veil(Color(veilStrength, sea.GetR(), sea.GetG(), sea.GetB()));
         graphics.FillRectangle(&veil, world);
     }
     graphics.SetSmoothingMode(state.IsSmooth() ? Gdiplus::SmoothingModeAntiAlias : Gdiplus::SmoothingModeNone);
     if (state.IsShown(MapLayer::Coast))
-        DrawRings(canvas, m_data.coast, hasRelief ? nullptr : &canvas.colors.land, canvas.colors.coast,
-                  state.LineWidth());
-    if (state.IsShown(MapLayer::Lakes))
-        DrawRings(canvas, m_data.lakes, &canvas.colors.lake, canvas.colors.lakeShore, 0.7 * state.LineWidth());
+        DrawRings(canvas, m_data.coast, hasRelief ? nullptr : &canvas.colors.land,
+                  canvas.Ink(MapLayer::Coast, canvas.colors.coast), state.LineWidth());
+    if (state.IsShown(MapLayer::Lakes)) {
+        const Color water = canvas.Ink(MapLayer::Lakes, canvas.colors.lake);
+        DrawRings(canvas, m_data.lakes, &water, canvas.Lit(MapLayer::Lakes, canvas.colors.lakeShore),
+                  0.7 * state.LineWidth());
+    }
     if (state.IsShown(MapLayer::Graticule))
         DrawGraticuleLines(canvas);
     if (state.IsShown(MapLayer::Cities))
@@ -371,11 +414,11 @@ void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& 
     const Gdiplus::Font names(&family, canvas.Scaled(state.NameSize()), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     TextPlaces places;
     if (state.IsShown(MapLayer::Graticule))
-        DrawGraticuleNumbers(canvas, small, places);
+        DrawGraticuleNumbers(canvas, StyleOf(canvas, small, MapLayer::Graticule, MapLabel::GraticuleNumbers), places);
     if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names))
-        DrawCityNames(canvas, m_data.cities, names, places);
+        DrawCityNames(canvas, m_data.cities, StyleOf(canvas, names, MapLayer::Names, MapLabel::CityNames), places);
     if (state.IsShown(MapLayer::ScaleBar))
-        DrawScaleBar(canvas, normal);
+        DrawScaleBar(canvas, StyleOf(canvas, normal, MapLayer::ScaleBar, MapLabel::ScaleBarText));
 }
 
 void MapPainter::Paint(HDC dc, const MapState& state, const MapPaintStyle& style) {

@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <memory>
 
 namespace Gdiplus {
@@ -18,6 +19,10 @@ struct MapPaintStyle {
     bool chineseNames = false; ///< Which names of the cities are written.
     std::wstring kilometres;   ///< Unit of the scale bar in the reader's language.
 };
+
+/// The colour, 0xRRGGBB, in which a layer is drawn: its own one or the palette's. Of the relief it is what lies around
+/// it.
+std::uint32_t ShownColor(const MapState& state, MapLayer layer);
 
 /// Draws the map. Holds the relief picture, which is read on first use.
 class MapPainter {

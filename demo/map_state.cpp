@@ -154,9 +154,35 @@ void MapState::ClearBookmarks() {
     Changed();
 }
 
-void MapState::Toggle(MapLayer layer) {
-    bool& shown = m_layers[static_cast<int>(layer)];
-    shown = !shown;
+void MapState::Toggle(MapLayer layer) { SetShown(layer, !IsShown(layer)); }
+
+void MapState::SetShown(MapLayer layer, bool shown) {
+    if (IsShown(layer) == shown)
+        return;
+    m_layers[static_cast<int>(layer)] = shown;
+    Changed();
+}
+
+void MapState::SetColor(MapLayer layer, std::uint32_t color) {
+    m_colors[static_cast<int>(layer)] = color & 0xFFFFFF;
+    Changed();
+}
+
+bool MapState::SetLit(MapLayer layer, bool lit) {
+    if (IsLocked(layer))
+        return false;
+    m_lit[static_cast<int>(layer)] = lit;
+    Changed();
+    return true;
+}
+
+void MapState::ToggleLock(MapLayer layer) {
+    bool& locked = m_locked[static_cast<int>(layer)];
+    locked = !locked;
+}
+
+void MapState::SetLit(MapLabel label, bool lit) {
+    m_labelsLit[static_cast<int>(label)] = lit;
     Changed();
 }
 

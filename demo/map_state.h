@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,6 +26,8 @@ struct MapView {
 };
 
 enum class MapLayer { Relief, Coast, Lakes, Graticule, Cities, Names, ScaleBar, Count };
+/// The texts written on the map.
+enum class MapLabel { GraticuleNumbers, CityNames, ScaleBarText, Count };
 enum class MapPalette { Natural, Night, Plain };
 
 /// Everything that the map window shows, as plain data: view, history, layers, palette, bookmarks. Knows no window; the
@@ -73,6 +76,20 @@ public:
 
     bool IsShown(MapLayer layer) const noexcept { return m_layers[static_cast<int>(layer)]; }
     void Toggle(MapLayer layer);
+    void SetShown(MapLayer layer, bool shown);
+    /// The layer's own colour, 0xRRGGBB; nothing where the palette's is used.
+    std::optional<std::uint32_t> Color(MapLayer layer) const noexcept { return m_colors[static_cast<int>(layer)]; }
+    void SetColor(MapLayer layer, std::uint32_t color);
+    /// A layer whose light is off is drawn faintly.
+    bool IsLit(MapLayer layer) const noexcept { return m_lit[static_cast<int>(layer)]; }
+    /// False, and nothing changes, where the layer is locked.
+    bool SetLit(MapLayer layer, bool lit);
+    /// A locked layer keeps its light as it is.
+    bool IsLocked(MapLayer layer) const noexcept { return m_locked[static_cast<int>(layer)]; }
+    void ToggleLock(MapLayer layer);
+    /// A text whose light is off is written faintly.
+    bool IsLit(MapLabel label) const noexcept { return m_labelsLit[static_cast<int>(label)]; }
+    void SetLit(MapLabel label, bool lit);
     MapPalette Palette() const noexcept { return m_palette; }
     void SetPalette(MapPalette palette);
     int GraticuleSpacing() const noexcept { return m_spacing; }
@@ -111,7 +128,12 @@ private:
     std::size_t m_historyPosition = 0;
     std::vector<MapView> m_bookmarks;
     std::size_t m_bookmarkPosition = 0;
-    bool m_layers[static_cast<int>(MapLayer::Count)] = {true, true, true, true, true, true, true};
+    static constexpr int kLayerCount = static_cast<int>(MapLayer::Count);
+    bool m_layers[kLayerCount] = {true, true, true, true, true, true, true};
+    std::optional<std::uint32_t> m_colors[kLayerCount];
+    bool m_lit[kLayerCount] = {true, true, true, true, true, true, true};
+    bool m_locked[kLayerCount] = {};
+    bool m_labelsLit[static_cast<int>(MapLabel::Count)] = {true, true, true};
     MapPalette m_palette = MapPalette::Natural;
     int m_spacing = 15;
     bool m_smooth = true;

@@ -90,6 +90,8 @@ void CMapWindow::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CMapWindow::OnMouseMove(UINT, CPoint point) {
+    if (m_pointerListener)
+        m_pointerListener(m_state.ToPlace(point.x, point.y));
     if (!m_dragging)
         return;
     m_state.Drag(m_dragFrom.x - point.x, point.y - m_dragFrom.y);

@@ -6,6 +6,8 @@
 #include "map_painter.h"
 #include "map_state.h"
 
+#include <functional>
+
 /// The window that shows the map. Drags with the left button, zooms with the wheel and by double click. State and data
 /// are the owner's and outlive the window.
 class CMapWindow : public CWnd {
@@ -18,6 +20,8 @@ public:
     void SetStyle(const MapPaintStyle& style);
     /// Repaints when the state has changed since the last painting.
     void ShowState();
+    /// Is told of the place under the pointer whenever it moves.
+    void SetPointerListener(std::function<void(GeoPoint)> listener) { m_pointerListener = std::move(listener); }
     /// Draws the map as it is shown now into a new bitmap. FALSE when there is no room for one.
     BOOL MakePicture(CBitmap& picture);
 
@@ -44,4 +48,5 @@ private:
     unsigned m_shownVersion = 0;
     bool m_dragging = false;
     CPoint m_dragFrom;
+    std::function<void(GeoPoint)> m_pointerListener;
 };

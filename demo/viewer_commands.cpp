@@ -120,8 +120,22 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
     return reactor;
 }
 
-boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state) {
+boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHost& host) {
     auto reactor = boost::make_shared<CCommandReactor>();
+    // A choice in a combo of layers only says which layer is meant.
+    for (const wchar_t* const combo : {L"layers", L"layercolors", L"labels"})
+        reactor->Serve(combo, [](const std::wstring&) {});
+    reactor->Serve(
+        L"lock",
+        [&state, &host](const std::wstring&) {
+            if (const auto layer = host.ChosenLayer())
+                state.ToggleLock(*layer);
+        },
+        [&state, &host](const std::wstring&) {
+            const auto layer = host.ChosenLayer();
+            return layer && state.IsLocked(*layer);
+        },
+        [&host](const std::wstring&) { return host.ChosenLayer().has_value(); });
     reactor->Serve(
         L"layer",
         [&state](const std::wstring& name) {

@@ -2,9 +2,12 @@
 
 #include "command_reactor.h"
 
+#include "map_state.h"
+
 #include <boost/shared_ptr.hpp>
 
-class MapState;
+#include <optional>
+
 struct MapData;
 
 /// What the map commands need of the frame beside the state: the controls that hold a value, and a word to the user.
@@ -13,6 +16,8 @@ public:
     virtual ~ViewerHost() = default;
     virtual int ScaleSliderPosition() const = 0;
     virtual std::wstring PlaceText() const = 0;
+    /// The layer whose colour and light are shown.
+    virtual std::optional<MapLayer> ChosenLayer() const = 0;
     virtual void TellPlaceUnknown(const std::wstring& text) = 0;
     virtual void TellAbout() = 0;
     virtual void TellKeyboard() = 0;
@@ -36,7 +41,7 @@ public:
 /// Zooming, moving, going to places and regions, history and bookmarks.
 boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const MapData& data, ViewerHost& host);
 /// Layers, graticule and palette.
-boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state);
+boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHost& host);
 /// Pictures and co-ordinates for other programs.
 boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, ViewerHost& host);
 /// Language, skin, icon style, ribbon and help.

@@ -4,6 +4,8 @@ import xml.etree.ElementTree as xml
 
 F1_HINT = "按F1键获得此功能视频"
 FIRST_ID = 41000
+# Of the lists of each kind of combo; None: the framework's own.
+COMBO_HEIGHTS = {"QKRIBBONCHECKCOMB": 560, "QKRIBBONMULTICOMB": 560, "QKRIBBONMULTICOMB2": None}
 XLIFF = "{urn:oasis:names:tc:xliff:document:2.0}"
 
 
@@ -112,10 +114,17 @@ class Expectation:
             return {"class": "CMFCRibbonSmallButton" if record["size"] == 16 else "CMFCRibbonUNIcoButton", "id": identity,
                     "text": record["name"], "tooltip": record["tooltip"] or None,
                     "description": F1_HINT if record["acceptF1"] else ""}
-        classes = {"SLIDER": "CMFCRibbonSlider", "LABEL": "CMFCRibbonLabel", "EDIT": "CMFCRibbonEdit"}
+        classes = {"SLIDER": "CMFCRibbonSlider", "LABEL": "CMFCRibbonLabel", "EDIT": "CMFCRibbonEdit",
+                   "QKRIBBONCHECKCOMB": "CMFCRibbonCheckComb", "QKRIBBONMULTICOMB": "CMFCRibbonMultiCombo",
+                   "QKRIBBONMULTICOMB2": "CMFCRibbonVesMultiCombo"}
         element = {"class": classes[kind], "id": identity, "description": ""}
-        if kind == "SLIDER":
-            element.update(text=record["name"], tooltip=record["tooltip"])
+        if kind in COMBO_HEIGHTS:
+            # The host fills the combos.
+            element.update(text=record["name"], tooltip=record["tooltip"], items=[], selected=-1)
+            if COMBO_HEIGHTS[kind]:
+                element.update(dropDownHeight=COMBO_HEIGHTS[kind])
+        elif kind == "SLIDER":
+            element.update(text=record["name"], tooltip=record["tooltip"], pos=0, min=0, max=100)
         elif kind == "LABEL":
             element.update(text=record["name"])
         else:

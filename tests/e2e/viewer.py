@@ -99,7 +99,8 @@ class Viewer:
     def place_of(self, keyword):
         """Left, top, right, bottom of the command's element on the screen."""
         wanted = self.id_of(keyword)
-        left, top, right, bottom = next(e["rect"] for e in self.elements() if e["id"] == wanted)
+        # A command may have elements in categories that are not shown: they have no place.
+        left, top, right, bottom = next(e["rect"] for e in self.elements() if e["id"] == wanted and e["rect"][2] > e["rect"][0])
         bar_left, bar_top = self.record["ribbonOnScreen"][:2]
         return bar_left + left, bar_top + top, bar_left + right, bar_top + bottom
 

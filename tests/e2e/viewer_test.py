@@ -49,6 +49,48 @@ class ClickOnARibbonButton(unittest.TestCase):
             viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "Map")
 
 
+class LayerCombos(unittest.TestCase):
+    """The combos with marks, from the mouse to the map. Layers in the order of the viewer's lists: relief, coast, ..."""
+
+    def open(self, *arguments):
+        return Viewer(BIN_DIR, "--lang", "en", "--category", "1", *arguments)
+
+    def test_a_tick_in_the_list_hides_the_layer_and_the_list_stays_open(self):
+        with self.open() as viewer:
+            viewer.open_menu("LayersShown")
+            viewer.key("space")
+            viewer.wait_for(lambda record: record["map"]["layers"][:2] == [False, True])
+            viewer.key("Down", "space")
+            viewer.wait_for(lambda record: record["map"]["layers"][:2] == [False, False])
+
+    def test_the_light_of_a_locked_layer_cannot_be_switched(self):
+        with self.open() as viewer:
+            lit = lambda record: record["map"]["layerStyles"][1]["lit"]
+            viewer.open_menu("LayerColors")
+            viewer.key("space")
+            viewer.wait_for(lambda record: not lit(record))
+            viewer.key("Escape")
+            viewer.click_command("LayerLock")
+            viewer.wait_for(lambda record: record["map"]["layerStyles"][1]["locked"])
+            viewer.open_menu("LayerColors")
+            viewer.key("space", "Escape")
+            viewer.open_menu("LabelLights")
+            viewer.key("space")
+            viewer.wait_for(lambda record: record["map"]["labelsLit"] == [False, True, True])
+            self.assertFalse(lit(viewer.record))
+
+    def test_both_scale_sliders_move_together(self):
+        with self.open() as viewer:
+            scale = viewer.record["map"]["pixelsPerDegree"]
+            left, top, right, bottom = viewer.place_of("ZoomSlider")
+            viewer.click(right - (bottom - top) // 2, (top + bottom) // 2)
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > scale)
+            positions = [e["pos"] for e in viewer.elements() if e["id"] == viewer.id_of("ZoomSlider")]
+            self.assertEqual(len(positions), 2)
+            self.assertEqual(positions[0], positions[1])
+            self.assertGreater(positions[0], 0)
+
+
 if __name__ == "__main__":
     BIN_DIR = os.path.abspath(sys.argv.pop(1))
     unittest.main(verbosity=2)

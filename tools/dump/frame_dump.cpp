@@ -5,11 +5,15 @@
 #include "add_ribbon_bar.h"
 #include "menu_id_mgr.h"
 #include "ribbon_category_ex.h"
+#include "ribbon_check_combo.h"
+#include "ribbon_label_ex.h"
+#include "ribbon_multi_combo.h"
 
 #include "varnhold/strings.h"
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 using nlohmann::ordered_json;
 
@@ -51,7 +55,7 @@ ordered_json DumpRegistry() {
 
 ordered_json DumpRect(const CRect& rect) { return ordered_json::array({rect.left, rect.top, rect.right, rect.bottom}); }
 
-ordered_json DumpElement(const CMFCRibbonBaseElement& element);
+ordered_json DumpElement(CMFCRibbonBaseElement& element);
 
 ordered_json DumpChildren(const CMFCRibbonBaseElement& element) {
     ordered_json children = ordered_json::array();
@@ -66,7 +70,63 @@ ordered_json DumpChildren(const CMFCRibbonBaseElement& element) {
     return children;
 }
 
-ordered_json DumpElement(const CMFCRibbonBaseElement& element) {
+using State = std::optional<ordered_json>;
+
+/// What a combo keeps of an item; nothing where it keeps nothing.
+State StateOf(const CMFCRibbonCheckComb& combo, int index) {
+    bool check = false;
+    if (!combo.GetItemCheck(index, check))
+        return std::nullopt;
+    return ordered_json{{"check", check}};
+}
+
+State StateOf(const CMFCRibbonMultiCombo& combo, int index) {
+    CMFCRibbonMultiCombo::rowInfo info = {};
+    if (!combo.GetItemInfo(index, info))
+        return std::nullopt;
+    return ordered_json{{"clr", info.clr}, {"light", info.light}};
+}
+
+State StateOf(const CMFCRibbonVesMultiCombo& combo, int index) {
+    bool light = false;
+    if (!combo.GetItemLight(index, light))
+        return std::nullopt;
+    return ordered_json{{"light", light}};
+}
+
+/// GetDropDownHeight is not const as documented.
+template <class Combo>
+void DumpCombo(ordered_json& result, CMFCRibbonBaseElement& element) {
+    auto* const combo = DYNAMIC_DOWNCAST(Combo, &element);
+    if (!combo)
+        return;
+    ordered_json items = ordered_json::array();
+    for (int i = 0; i < static_cast<int>(combo->GetCount()); ++i) {
+        ordered_json item = {{"text", Utf8(CString(combo->GetItem(i)))}};
+        if (State state = StateOf(*combo, i))
+            item["state"] = std::move(*state);
+        items.push_back(std::move(item));
+    }
+    result["items"] = std::move(items);
+    result["selected"] = combo->GetCurSel();
+    result["dropDownHeight"] = combo->GetDropDownHeight();
+}
+
+/// What a class of elements adds to the keys that all have.
+void DumpOwnValues(ordered_json& result, CMFCRibbonBaseElement& element) {
+    DumpCombo<CMFCRibbonCheckComb>(result, element);
+    DumpCombo<CMFCRibbonMultiCombo>(result, element);
+    DumpCombo<CMFCRibbonVesMultiCombo>(result, element);
+    if (const auto* const slider = DYNAMIC_DOWNCAST(CMFCRibbonSlider, &element)) {
+        result["pos"] = slider->GetPos();
+        result["min"] = slider->GetRangeMin();
+        result["max"] = slider->GetRangeMax();
+    }
+    if (auto* const label = DYNAMIC_DOWNCAST(CMFCRibbonLabelEx, &element))
+        result["right"] = label->IsRight();
+}
+
+ordered_json DumpElement(CMFCRibbonBaseElement& element) {
     ordered_json result = {{"class", ClassName(element)},
                            {"id", element.GetID()},
                            {"text", Utf8(CString(element.GetText()))},
@@ -76,6 +136,7 @@ ordered_json DumpElement(const CMFCRibbonBaseElement& element) {
                            {"enabled", element.IsDisabled() == FALSE},
                            {"large", element.IsLargeMode() != FALSE},
                            {"rect", DumpRect(element.GetRect())}};
+    DumpOwnValues(result, element);
     ordered_json children = DumpChildren(element);
     if (!children.empty())
         result["children"] = std::move(children);
@@ -90,7 +151,7 @@ ordered_json DumpCategory(CMFCRibbonCategory& category) {
     result["active"] = category.IsActive() != FALSE;
     ordered_json panels = ordered_json::array();
     for (int i = 0; i < category.GetPanelCount(); ++i) {
-        const CMFCRibbonPanel& panel = *category.GetPanel(i);
+        CMFCRibbonPanel& panel = *category.GetPanel(i);
         ordered_json elements = ordered_json::array();
         for (int k = 0; k < panel.GetCount(); ++k)
             elements.push_back(DumpElement(*panel.GetElement(k)));

@@ -152,3 +152,44 @@ TEST(ParseNumbers, TakesWholeTextsOnly) {
     for (const wchar_t* text : {L"", L"1", L"1,2,3", L"a,b", L"1,2x", L"1,2,", L"1;2"})
         EXPECT_FALSE(ParsePair(text)) << text;
 }
+
+TEST(MapState, LockedLayerKeepsItsLight) {
+    MapState state = MakeState();
+    ASSERT_TRUE(state.IsLit(MapLayer::Coast));
+    state.ToggleLock(MapLayer::Coast);
+    EXPECT_FALSE(state.SetLit(MapLayer::Coast, false));
+    EXPECT_TRUE(state.IsLit(MapLayer::Coast));
+    EXPECT_TRUE(state.SetLit(MapLayer::Lakes, false));
+    EXPECT_FALSE(state.IsLit(MapLayer::Lakes));
+    state.ToggleLock(MapLayer::Coast);
+    EXPECT_TRUE(state.SetLit(MapLayer::Coast, false));
+    EXPECT_FALSE(state.IsLit(MapLayer::Coast));
+}
+
+TEST(MapState, LayerHasNoColorOfItsOwnUntilOneIsGiven) {
+    MapState state = MakeState();
+    EXPECT_FALSE(state.Color(MapLayer::Lakes).has_value());
+    const unsigned version = state.Version();
+    state.SetColor(MapLayer::Lakes, 0xFF123456);
+    EXPECT_EQ(state.Color(MapLayer::Lakes), 0x123456u);
+    EXPECT_FALSE(state.Color(MapLayer::Coast).has_value());
+    EXPECT_GT(state.Version(), version);
+}
+
+TEST(MapState, ShowingWhatIsShownIsNoChange) {
+    MapState state = MakeState();
+    const unsigned version = state.Version();
+    state.SetShown(MapLayer::Cities, true);
+    EXPECT_EQ(state.Version(), version);
+    state.SetShown(MapLayer::Cities, false);
+    EXPECT_FALSE(state.IsShown(MapLayer::Cities));
+    EXPECT_GT(state.Version(), version);
+}
+
+TEST(MapState, LightsOfTextsAreApartFromThoseOfLayers) {
+    MapState state = MakeState();
+    state.SetLit(MapLabel::CityNames, false);
+    EXPECT_FALSE(state.IsLit(MapLabel::CityNames));
+    EXPECT_TRUE(state.IsLit(MapLabel::GraticuleNumbers));
+    EXPECT_TRUE(state.IsLit(MapLayer::Names));
+}
