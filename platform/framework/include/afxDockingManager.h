@@ -65,6 +65,12 @@ public:
     void EnablePaneContextMenu(BOOL bEnable, UINT uiCustomizeCmd, const CString& strCustomizeText,
                                BOOL bToolbarsOnly = FALSE);
 
+    /// Where F6 leads from the window with the focus, Shift+F6 when bForward is FALSE: ribbon, the panes in which
+    /// something can have the focus, the document, and round. The ribbon is answered as its own window. NULL: nowhere.
+    HWND FindNextFocus(HWND hFrom, BOOL bForward);
+    /// The window to which F6 comes back in the document; one inside a pane is none.
+    void RememberDocumentFocus(HWND hWnd);
+
     BOOL HasPaneContextMenu() const { return m_hasPaneMenu; }
 
     virtual BOOL LoadState(LPCTSTR lpszProfileName = NULL, UINT uiID = (UINT)-1);
@@ -83,6 +89,7 @@ protected:
 private:
     void PlacePanes(HDWP deferred);
     std::vector<CBasePane*> PanesToPlace() const;
+    HWND DocumentFocus() const;
 
     DWORD m_dwEnabledAlignment = 0;
     BOOL m_bIsInAdjustLayout = FALSE;
@@ -92,6 +99,7 @@ private:
     CRect m_rectOuter{0, 0, 0, 0};
     CRect m_rectMargins{0, 0, 0, 0};
     CObList m_hiddenPanes; ///< by ShowPanes(FALSE)
+    HWND m_documentFocus = NULL;
     bool m_hasPaneMenu = false;
     bool m_paneMenuOfToolbarsOnly = false;
     UINT m_customizeCommand = 0;

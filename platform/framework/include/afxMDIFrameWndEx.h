@@ -57,28 +57,13 @@ public:
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
-    afx_msg LRESULT OnNcHitTest(CPoint point);
-    afx_msg void OnNcPaint();
-    afx_msg BOOL OnNcActivate(BOOL bActive);
-    afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
-    afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point);
-    afx_msg void OnNcRButtonDown(UINT nHitTest, CPoint point);
-    afx_msg void OnNcRButtonUp(UINT nHitTest, CPoint point);
-    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
-    afx_msg void OnWindowPosChanged(WINDOWPOS* lpwndpos);
-    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
-    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
-    afx_msg void OnSysColorChange();
-    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
-    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnChangeVisualManager(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnPaneCheck(UINT nID);
     afx_msg void OnUpdatePaneMenu(CCmdUI* pCmdUI);
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     CFrameImpl m_Impl{this};
     CRect m_clientPlace{0, 0, 0, 0}; ///< of the MDI client when OnSizeMDIClient was called last

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "afxwin.h"
 #include "afxtempl.h"
 #include "afxribbonbutton.h"
@@ -38,6 +40,22 @@ public:
 
 private:
     HICON m_panelIcon = nullptr;
+};
+
+/// The small button at the end of a panel's caption; it usually opens a dialog box with more of what the panel offers.
+/// Owned by its panel. A copy in the quick access toolbar is an ordinary button.
+class FRAMEWORK_API CMFCRibbonLaunchButton : public CMFCRibbonButton {
+    DECLARE_DYNCREATE(CMFCRibbonLaunchButton)
+
+public:
+    CMFCRibbonLaunchButton();
+
+    CSize GetRegularSize(CDC* pDC) override;
+    CSize GetImageSize(RibbonImageType type) const override;
+    void DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) override;
+    void OnDraw(CDC* pDC) override;
+    /// It stands in the caption of its panel, not as a copy elsewhere.
+    BOOL IsInCaption() const { return m_pParentPanel != nullptr && !IsQATMode(); }
 };
 
 /// A captioned group of ribbon elements. Made by CMFCRibbonCategory::AddPanel, owned by its category; owns its
@@ -97,6 +115,12 @@ public:
     CMFCRibbonBaseElement* GetParentButton() const { return m_pParentButton; }
     CMFCRibbonButton& GetDefaultButton() { return m_btnDefault; }
 
+    /// Shows a button at the end of the caption; 0 takes it away. nIconIndex: position in the category's small images
+    /// for a copy in the quick access toolbar, -1 for a plain image.
+    void EnableLaunchButton(UINT uiCmdID, int nIconIndex = -1, LPCTSTR lpszKeys = NULL);
+    CMFCRibbonButton& GetLaunchButton();
+    BOOL HasLaunchButton() const;
+
     const CRect& GetRect() const { return m_rect; }
     int GetCaptionHeight() const { return m_rectCaption.Height(); }
     const CRect& GetCaptionRect() const { return m_rectCaption; }
@@ -109,7 +133,8 @@ public:
     void SetJustifyColumns(BOOL bSet = TRUE);
     BOOL IsJustifyColumns() const { return m_bJustifyColumns; }
 
-    /// The element under the point; over the caption the default button when bCheckPanelCaption is TRUE, else NULL.
+    /// The element under the point; over the caption the launch button, else the default button when bCheckPanelCaption
+    /// is TRUE, else NULL.
     virtual CMFCRibbonBaseElement* HitTest(CPoint point, BOOL bCheckPanelCaption = FALSE);
     /// Position of the element under the point, -1 when there is none.
     virtual int HitTestEx(CPoint point) const;
@@ -124,6 +149,8 @@ public:
 
     // Called by the category.
     virtual void DoPaint(CDC* pDC);
+    /// A key while one of the elements has the keyboard. FALSE: neither the panel nor the element has a use for it.
+    virtual BOOL OnKey(UINT nChar);
     virtual CMFCRibbonBaseElement* MouseButtonDown(CPoint point);
     virtual void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
     virtual void OnShow(BOOL bShow);
@@ -142,6 +169,7 @@ protected:
     CMFCRibbonBaseElement* m_pParentButton = nullptr;
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_arElements;
     CMFCRibbonDefaultPanelButton m_btnDefault;
+    CMFCRibbonLaunchButton m_btnLaunch;
     BOOL m_bCollapsed = FALSE;
     BOOL m_bMenuMode = FALSE;
     BOOL m_bHighlighted = FALSE;
@@ -152,12 +180,16 @@ protected:
 private:
     void CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON icon);
     void Adopt(CMFCRibbonBaseElement* element);
+    std::vector<CMFCRibbonBaseElement*> CollectParts() const;
     /// Sizes of all elements in every mode, for the layout.
     RibbonPanelShape Measure(CDC* pDC, const RibbonMetrics& metrics);
     /// Places panel, caption and elements as the layout found; the panel's top left corner is at origin.
     void Place(CDC* pDC, const RibbonPanelArrangement& arrangement, CPoint origin, const RibbonMetrics& metrics);
     void Hide(CDC* pDC);
     /// A pop-up shows the elements now.
+    /// What a pop-up shows of a panel has the panel's own launch button.
+    virtual CMFCRibbonLaunchButton& LaunchButton() { return m_btnLaunch; }
+    const CMFCRibbonLaunchButton& LaunchButton() const { return const_cast<CMFCRibbonPanel*>(this)->LaunchButton(); }
     virtual bool IsLent() const { return m_pParentMenuBar != nullptr; }
     void MarkLayoutDirty();
 };

@@ -6,6 +6,7 @@
 #include "afxbasepane.h"
 #include "afxPane.h"
 #include "afxDockingManager.h"
+#include "afxcaptionbutton.h"
 #include "afxframewndex.h"
 #include "afxMDIFrameWndEx.h"
 #include "afxMDIChildWndEx.h"

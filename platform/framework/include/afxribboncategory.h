@@ -133,6 +133,9 @@ public:
     virtual void OnLButtonUp(CPoint point);
     virtual void OnMouseMove(CPoint point);
     virtual void OnCancelMode();
+    /// A key (virtual code) while an element of the category has the keyboard, in the bar or in a pop-up. FALSE: no
+    /// element has a use for it, and the walk through the ribbon gets it.
+    virtual BOOL OnKey(UINT nChar);
     virtual void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
 
 protected:

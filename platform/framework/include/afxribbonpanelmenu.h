@@ -150,6 +150,7 @@ private:
     void CancelPress();
     void ReleaseOver(CPoint point);
     void CollectStops(ElementArray& stops) const;
+    BOOL OfferKey(UINT nChar);
     BOOL MoveHot(UINT nChar);
     BOOL Step(int direction);
     BOOL StepTowards(UINT nChar);

@@ -24,6 +24,7 @@ class CMFCRibbonContextCaption;
 class CMFCRibbonGallery;
 class CMFCRibbonGalleryIcon;
 class CMFCRibbonLabel;
+class CMFCRibbonLaunchButton;
 class CMFCRibbonLinkCtrl;
 class CMFCRibbonMainPanel;
 class CMFCRibbonPanel;
@@ -178,7 +179,9 @@ public:
     virtual COLORREF OnDrawRibbonCategoryCaption(CDC* pDC, CMFCRibbonContextCaption* pContextCaption);
     virtual void OnDrawRibbonCategoryScroll(CDC* pDC, CRibbonCategoryScroll* pScroll);
     virtual COLORREF OnDrawRibbonPanel(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectPanel, CRect rectCaption);
+    /// The launch button's place is free of text.
     virtual void OnDrawRibbonPanelCaption(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectCaption);
+    virtual void OnDrawRibbonLaunchButton(CDC* pDC, CMFCRibbonLaunchButton* pButton, CMFCRibbonPanel* pPanel);
     virtual void OnDrawRibbonKeyTip(CDC* pDC, CMFCRibbonBaseElement* pElement, CRect rect, CString str);
     virtual void OnDrawRibbonQuickAccessToolBarSeparator(CDC* pDC, CMFCRibbonSeparator* pSeparator, CRect rect);
     virtual void OnFillRibbonQuickAccessToolBarPopup(CDC* pDC, CMFCRibbonPanelMenuBar* pMenuBar, CRect rect);
@@ -272,6 +275,10 @@ public:
     virtual BOOL DrawPushButtonWinXP(CDC*, CRect, CMFCButton*, UINT);
 
     // Panes, frames and tabs
+    /// A button in the caption of a pane or mini frame, see CMFCCaptionButton::OnDraw. nImageID: -1, its own picture;
+    /// the framework has no others.
+    virtual void OnDrawCaptionButton(CDC* pDC, CMFCCaptionButton* pButton, BOOL bActive, BOOL bHorz, BOOL bMaximized,
+                                     BOOL bDisabled, int nImageID = -1);
     virtual COLORREF OnDrawPaneCaption(CDC* pDC, CDockablePane* pBar, BOOL bActive, CRect rectCaption,
                                        CRect rectButtons);
     virtual void OnDrawPaneDivider(CDC* pDC, CPaneDivider* pSlider, CRect rect, BOOL bAutoHideMode);

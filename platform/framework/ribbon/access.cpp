@@ -146,6 +146,9 @@ std::vector<Node> RibbonAccess::ChildrenOf(const Node& node) const {
         for (int place = 0; place < panel.GetCount(); ++place) {
             AppendShown(panel.GetElement(place), nodes);
         }
+        if (panel.HasLaunchButton()) {
+            AppendShown(&panel.GetLaunchButton(), nodes);
+        }
         break;
     }
     case Kind::Element:

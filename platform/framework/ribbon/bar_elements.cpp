@@ -51,7 +51,11 @@ void CMFCRibbonTab::OnDraw(CDC* pDC) {
     if (category == nullptr) {
         return;
     }
-    const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryTab(pDC, this, IsSelected());
+    // A minimised bar shows no page that the tab could belong to, unless the tab has opened it.
+    const CMFCRibbonBar* bar = GetParentRibbonBar();
+    const bool isMinimized = bar != nullptr && (bar->GetHideFlags() & AFX_RIBBONBAR_HIDE_ELEMENTS) != 0;
+    const BOOL isActive = IsSelected() && (!isMinimized || IsDroppedDown());
+    const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryTab(pDC, this, isActive);
     CRect text = m_rect;
     if (m_bIsTrancated) {
         text.DeflateRect(afxGlobalData.ScalePixels(2), 0);

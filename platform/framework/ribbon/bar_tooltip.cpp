@@ -80,10 +80,8 @@ BOOL CMFCRibbonBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) {
     if (m_pToolTip == nullptr || pNMH->hwndFrom != m_pToolTip->GetSafeHwnd() || GetDroppedDown() != nullptr) {
         return FALSE;
     }
-    CPoint point;
-    ::GetCursorPos(&point);
-    ScreenToClient(&point);
-    CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
+    // The tool lies on the element under the pointer.
+    CMFCRibbonBaseElement* hit = m_parts->hot;
     if (hit == nullptr) {
         return TRUE;
     }

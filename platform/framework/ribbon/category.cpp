@@ -392,6 +392,13 @@ void CMFCRibbonCategory::OnCancelMode() {
     }
 }
 
+BOOL CMFCRibbonCategory::OnKey(UINT nChar) {
+    const CMFCRibbonBaseElement* element =
+        m_pParentMenuBar != nullptr ? m_pParentMenuBar->GetHighlighted() : GetFocused();
+    CMFCRibbonPanel* panel = element != nullptr ? element->GetParentPanel() : nullptr;
+    return panel != nullptr && panel->OnKey(nChar);
+}
+
 void CMFCRibbonCategory::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     for (const auto& panel : m_parts->panels) {
         panel->OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);

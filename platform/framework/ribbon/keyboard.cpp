@@ -79,6 +79,12 @@ void RibbonKeyboard::Append(CMFCRibbonBaseElement& element, Tips& tips) {
     }
 }
 
+void RibbonKeyboard::AppendLaunchButton(CMFCRibbonPanel& panel, Tips& tips) {
+    if (panel.HasLaunchButton()) {
+        Append(panel.GetLaunchButton(), tips);
+    }
+}
+
 void RibbonKeyboard::Assign(Tips& tips, std::size_t first) {
     std::vector<KeyTipWish> wishes;
     for (std::size_t place = first; place < tips.size(); ++place) {
@@ -116,10 +122,13 @@ void RibbonKeyboard::CollectBar(Tips& tips) const {
 // The elements and the buttons for which their panels may collapse: the letters do not depend on the width.
 void RibbonKeyboard::CollectCategory(CMFCRibbonCategory& category, Tips& tips) {
     for (int index = 0; index < category.GetPanelCount(); ++index) {
-        const CMFCRibbonPanel& panel = *category.GetPanel(index);
+        CMFCRibbonPanel& panel = *category.GetPanel(index);
         for (int place = 0; place < panel.GetCount(); ++place) {
             Append(*panel.GetElement(place), tips);
         }
+    }
+    for (int index = 0; index < category.GetPanelCount(); ++index) {
+        AppendLaunchButton(*category.GetPanel(index), tips);
     }
     for (int index = 0; index < category.GetPanelCount(); ++index) {
         Append(category.GetPanel(index)->GetDefaultButton(), tips);
@@ -137,6 +146,7 @@ RibbonKeyboard::Level RibbonKeyboard::MakeLevel(CObject* object) const {
         for (int place = 0; place < panel->GetCount(); ++place) {
             Append(*panel->GetElement(place), level.tips);
         }
+        AppendLaunchButton(*panel, level.tips);
         Assign(level.tips, 0);
     } else {
         level.object = &m_bar;
@@ -475,6 +485,10 @@ bool RibbonKeyboard::OnKeyDown(const MSG& message) {
             HideTips();
         }
         return false;
+    }
+    const HWND window = m_bar.GetSafeHwnd();
+    if (!m_areTipsShown && (HandKeyToFocused(key) || !::IsWindow(window))) {
+        return true;
     }
     switch (key) {
     case VK_ESCAPE:

@@ -12,6 +12,7 @@
 class CMFCRibbonBar;
 class CMFCRibbonBaseElement;
 class CMFCRibbonCategory;
+class CMFCRibbonPanel;
 class CMFCRibbonTab;
 
 /// A ribbon bar's keyboard: the levels of key tips, and the focus that arrows move. Owned by its bar. While it is
@@ -95,6 +96,7 @@ private:
     void CollectBar(Tips& tips) const;
     static void CollectCategory(CMFCRibbonCategory& category, Tips& tips);
     static void Append(CMFCRibbonBaseElement& element, Tips& tips);
+    static void AppendLaunchButton(CMFCRibbonPanel& panel, Tips& tips);
     static void Assign(Tips& tips, std::size_t first);
     void PushLevel(CObject* object);
     void PopLevel();
@@ -110,6 +112,8 @@ private:
     void Execute(CMFCRibbonBaseElement& element, bool isMenu);
     void ExecuteTab(CMFCRibbonTab& tab);
     void OpenMenu(CMFCRibbonBaseElement& element, bool isMenu);
+    bool HandKeyToFocused(UINT key);
+    void TakeFocusTo(CMFCRibbonBaseElement& element);
     bool OnArrow(UINT key);
     bool MoveAmongTabs(CMFCRibbonTab& tab, int step);
     bool MoveInCategory(CMFCRibbonBaseElement& from, ribbon::FocusStep step);

@@ -8,6 +8,7 @@
 #include "afxRibbonEdit.h"
 #include "afxglobals.h"
 #include "afxribbonbar.h"
+#include "afxribbonpanelmenu.h"
 #include "afxribbonslider.h"
 #include "fx/frame.h"
 #include "ribbon/bar_parts.h"
@@ -139,7 +140,7 @@ void RibbonKeyboard::Deactivate(Focus focus) {
 
 // The loss of the focus may send an edit's command, which may end the bar.
 void RibbonKeyboard::ReturnFocus() {
-    if (!HoldsFocus()) {
+    if (!HoldsFocus() && !CMFCRibbonPanelMenu::IsPopupWindow(::GetFocus())) {
         return;
     }
     const HWND former = std::exchange(m_formerFocus, nullptr);
@@ -252,6 +253,18 @@ CMFCRibbonTab* RibbonKeyboard::ActiveTab() const {
 
 // ---- moves
 
+// The category is asked first; what is in none is asked itself. A handler may end the bar.
+bool RibbonKeyboard::HandKeyToFocused(UINT key) {
+    CMFCRibbonBaseElement* focused = m_bar.GetFocused();
+    if (focused == nullptr) {
+        return false;
+    }
+    if (CMFCRibbonCategory* category = focused->GetParentPanel() != nullptr ? m_bar.GetActiveCategory() : nullptr) {
+        return category->OnKey(key);
+    }
+    return !focused->IsKindOf(RUNTIME_CLASS(CMFCRibbonButton)) && focused->ProcessKey(key);
+}
+
 bool RibbonKeyboard::OnArrow(UINT key) {
     CMFCRibbonBaseElement* focused = m_bar.GetFocused();
     if (focused == nullptr) {
@@ -260,10 +273,6 @@ bool RibbonKeyboard::OnArrow(UINT key) {
     }
     const ribbon::FocusStep step = StepOf(key);
     const bool isAcross = key == VK_LEFT || key == VK_RIGHT;
-    // A slider lies flat: it takes the arrows across, the others lead on.
-    if (isAcross && focused->IsKindOf(RUNTIME_CLASS(CMFCRibbonSlider)) && focused->ProcessKey(key)) {
-        return true;
-    }
     if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, focused)) {
         if (isAcross && MoveAmongTabs(*tab, key == VK_LEFT ? -1 : 1)) {
             return true;
@@ -391,9 +400,6 @@ void RibbonKeyboard::MoveToEnd(bool last) {
     if (focused == nullptr) {
         return;
     }
-    if (focused->IsKindOf(RUNTIME_CLASS(CMFCRibbonSlider)) && focused->ProcessKey(last ? VK_END : VK_HOME)) {
-        return;
-    }
     for (const Elements& stops : {CategoryStops(), Tabs(), CaptionStops(), TabRowStops()}) {
         if (!Contains(stops, focused)) {
             continue;
@@ -413,28 +419,13 @@ void RibbonKeyboard::MoveToEnd(bool last) {
     }
 }
 
-// The frame's panes that have something to focus, in their order, then what had the focus before.
+// The next of the frame's panes, or the document; without panes what had the focus before.
 void RibbonKeyboard::GoToNextPane(bool forward) {
     auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, m_bar.GetTopLevelFrame());
-    CDockingManager* manager = frame != nullptr ? frame->FindDockingManager() : nullptr;
-    std::vector<HWND> goals;
-    if (manager != nullptr) {
-        CObList panes;
-        manager->GetPaneList(panes);
-        for (POSITION position = panes.GetHeadPosition(); position != nullptr;) {
-            auto* pane = static_cast<CBasePane*>(panes.GetNext(position));
-            const HWND inside =
-                pane->GetSafeHwnd() != nullptr ? ::GetNextDlgTabItem(pane->GetSafeHwnd(), nullptr, FALSE) : nullptr;
-            const bool isStop = CanTakeFocus(inside) && (::GetWindowLongPtr(inside, GWL_STYLE) & WS_TABSTOP) != 0;
-            if (pane != &m_bar && pane->CanFocus() && isStop) {
-                goals.push_back(inside);
-            }
-        }
+    if (CDockingManager* manager = frame != nullptr ? frame->FindDockingManager() : nullptr) {
+        manager->RememberDocumentFocus(m_formerFocus);
+        m_formerFocus = manager->FindNextFocus(m_bar.GetSafeHwnd(), forward);
     }
-    if (goals.empty() || m_formerFocus != nullptr) {
-        goals.push_back(m_formerFocus);
-    }
-    m_formerFocus = forward ? goals.front() : goals.back();
     Deactivate(Focus::GiveBack);
 }
 
@@ -453,7 +444,7 @@ void RibbonKeyboard::Execute(CMFCRibbonBaseElement& element, bool isMenu) {
     const auto* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element);
     if (TakesFocus(element)) {
         HideTips();
-        SetFocusTo(&element);
+        TakeFocusTo(element);
         return;
     }
     if (button != nullptr && button->HasDropDown() && (isMenu || !button->IsDefaultCommand())) {
@@ -471,13 +462,24 @@ void RibbonKeyboard::Execute(CMFCRibbonBaseElement& element, bool isMenu) {
     }
 }
 
+// In a pop-up the element is the one that its keys go to; the focus stays in the bar unless an edit takes the caret.
+void RibbonKeyboard::TakeFocusTo(CMFCRibbonBaseElement& element) {
+    CMFCRibbonPanelMenuBar* popup = element.GetParentMenu();
+    if (popup != nullptr) {
+        popup->Highlight(&element);
+    }
+    if (popup == nullptr || element.IsKindOf(RUNTIME_CLASS(CMFCRibbonEdit))) {
+        SetFocusTo(&element);
+    }
+}
+
 // A tab opens its category, an edit or slider takes the focus; the others act as on a click.
 void RibbonKeyboard::Invoke(CMFCRibbonBaseElement& element) {
     if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, &element)) {
         ChooseTab(*tab);
     } else if (TakesFocus(element)) {
         Activate();
-        SetFocusTo(&element);
+        TakeFocusTo(element);
     } else if (m_isActive) {
         Execute(element, false);
     } else if (!element.IsDisabled()) {

@@ -73,6 +73,8 @@ void CMFCRibbonPanel::CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON
     m_btnDefault.SetPanelIcon(icon);
     m_btnDefault.SetParentPanel(this);
     m_btnDefault.SetParentCategory(parent);
+    m_btnLaunch.SetParentPanel(this);
+    m_btnLaunch.SetParentCategory(parent);
 }
 
 void CMFCRibbonPanel::MarkLayoutDirty() {
@@ -191,130 +193,6 @@ int CMFCRibbonPanel::GetIndex(CMFCRibbonBaseElement* pElem) const {
     return -1;
 }
 
-BOOL CMFCRibbonPanel::HasElement(const CMFCRibbonBaseElement* pElem) const {
-    for (int index = 0; index < GetCount(); ++index) {
-        if (m_arElements[index]->Find(pElem) != nullptr) {
-            return TRUE;
-        }
-    }
-    return FALSE;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonPanel::FindByID(UINT uiCmdID) const {
-    for (int index = 0; index < GetCount(); ++index) {
-        if (CMFCRibbonBaseElement* found = m_arElements[index]->FindByID(uiCmdID)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonPanel::FindByData(DWORD_PTR dwData) const {
-    for (int index = 0; index < GetCount(); ++index) {
-        if (CMFCRibbonBaseElement* found = m_arElements[index]->FindByData(dwData)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-void CMFCRibbonPanel::GetElements(ElementArray& arElements) {
-    for (int index = 0; index < GetCount(); ++index) {
-        m_arElements[index]->GetElements(arElements);
-    }
-}
-
-void CMFCRibbonPanel::GetElementsByID(UINT uiCmdID, ElementArray& arElements) {
-    for (int index = 0; index < GetCount(); ++index) {
-        m_arElements[index]->GetElementsByID(uiCmdID, arElements);
-    }
-}
-
-void CMFCRibbonPanel::GetVisibleElements(ElementArray& arElements) {
-    if (m_bCollapsed) {
-        arElements.Add(&m_btnDefault);
-        return;
-    }
-    for (int index = 0; index < GetCount(); ++index) {
-        if (!m_arElements[index]->GetRect().IsRectEmpty()) {
-            m_arElements[index]->GetElements(arElements);
-        }
-    }
-}
-
-void CMFCRibbonPanel::GetItemIDsList(CList<UINT, UINT>& lstItems) const {
-    ElementArray elements;
-    const_cast<CMFCRibbonPanel*>(this)->GetElements(elements);
-    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
-        if (elements[index]->GetID() != 0 && elements[index]->GetID() != static_cast<UINT>(-1)) {
-            lstItems.AddTail(elements[index]->GetID());
-        }
-    }
-}
-
-CMFCRibbonBaseElement* CMFCRibbonPanel::GetDroppedDown() const {
-    if (m_btnDefault.IsDroppedDown()) {
-        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
-    }
-    for (int index = 0; index < GetCount(); ++index) {
-        if (CMFCRibbonBaseElement* dropped = m_arElements[index]->GetDroppedDown()) {
-            return dropped;
-        }
-    }
-    return nullptr;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonPanel::GetFocused() const {
-    if (m_btnDefault.IsFocused()) {
-        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
-    }
-    ElementArray elements;
-    const_cast<CMFCRibbonPanel*>(this)->GetElements(elements);
-    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
-        if (elements[index]->IsFocused()) {
-            return elements[index];
-        }
-    }
-    return nullptr;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonPanel::GetHighlighted() const {
-    if (m_btnDefault.IsHighlighted()) {
-        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
-    }
-    for (int index = 0; index < GetCount(); ++index) {
-        if (CMFCRibbonBaseElement* highlighted = m_arElements[index]->GetHighlighted()) {
-            return highlighted;
-        }
-    }
-    return nullptr;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonPanel::GetPressed() const {
-    if (m_btnDefault.IsPressed()) {
-        return const_cast<CMFCRibbonDefaultPanelButton*>(&m_btnDefault);
-    }
-    for (int index = 0; index < GetCount(); ++index) {
-        if (CMFCRibbonBaseElement* pressed = m_arElements[index]->GetPressed()) {
-            return pressed;
-        }
-    }
-    return nullptr;
-}
-
-void CMFCRibbonPanel::SetFocused(CMFCRibbonBaseElement* pNewFocus) {
-    CMFCRibbonBaseElement* former = GetFocused();
-    if (former == pNewFocus) {
-        return;
-    }
-    if (former != nullptr) {
-        former->SetFocused(FALSE);
-    }
-    if (pNewFocus != nullptr) {
-        pNewFocus->SetFocused(TRUE);
-    }
-}
-
 CMFCRibbonPanelMenu* CMFCRibbonPanel::ShowPopup(CMFCRibbonDefaultPanelButton* pButton) {
     CMFCRibbonBaseElement* opener = pButton != nullptr ? pButton : &m_btnDefault;
     auto* menu = new CMFCRibbonPanelMenu(this);
@@ -348,6 +226,7 @@ RibbonPanelShape CMFCRibbonPanel::Measure(CDC* pDC, const RibbonMetrics& /*metri
     }
     RibbonFontScope font(*pDC);
     shape.captionWidth = pDC->GetTextExtent(m_strName).cx;
+    shape.hasLaunchButton = HasLaunchButton() && LaunchButton().IsVisible();
     m_btnDefault.OnCalcTextSize(pDC);
     shape.collapsedWidth = m_btnDefault.GetRegularSize(pDC).cx;
     shape.centerColumns = m_bCenterColumnVert != FALSE;
@@ -363,6 +242,11 @@ void CMFCRibbonPanel::Place(CDC* pDC, const RibbonPanelArrangement& arrangement,
     m_rectCaption = m_bCollapsed ? none : ToCRect(arrangement.caption) + origin;
     m_btnDefault.SetRect(m_bCollapsed ? m_rect : none);
     m_btnDefault.OnAfterChangeRect(pDC);
+    if (!IsLent()) {
+        const RibbonRect& launch = arrangement.launchButton;
+        LaunchButton().SetRect(m_bCollapsed || launch.IsEmpty() ? none : ToCRect(launch) + origin);
+        LaunchButton().OnAfterChangeRect(pDC);
+    }
     // What a pop-up shows has its place there.
     for (int index = 0; index < GetCount() && !IsLent(); ++index) {
         CMFCRibbonBaseElement& element = *m_arElements[index];
@@ -382,6 +266,9 @@ void CMFCRibbonPanel::Hide(CDC* pDC) {
     }
     m_rect = m_rectCaption = none;
     m_btnDefault.SetRect(none);
+    if (!IsLent()) {
+        LaunchButton().SetRect(none);
+    }
     for (int index = 0; index < GetCount() && !IsLent(); ++index) {
         CMFCRibbonBaseElement& element = *m_arElements[index];
         element.SetRect(none);
@@ -403,6 +290,7 @@ void CMFCRibbonPanel::DoPaint(CDC* pDC) {
     const COLORREF previous = pDC->SetTextColor(color == static_cast<COLORREF>(-1) ? afxGlobalData.clrBarText : color);
     if (pDC->RectVisible(m_rectCaption)) {
         manager->OnDrawRibbonPanelCaption(pDC, this, m_rectCaption);
+        LaunchButton().OnDraw(pDC);
     }
     for (int index = 0; index < GetCount(); ++index) {
         CMFCRibbonBaseElement& element = *m_arElements[index];
@@ -438,6 +326,9 @@ CMFCRibbonBaseElement* CMFCRibbonPanel::HitTest(CPoint point, BOOL bCheckPanelCa
     }
     if (m_bCollapsed) {
         return &m_btnDefault;
+    }
+    if (CMFCRibbonBaseElement* launch = LaunchButton().HitTest(point)) {
+        return launch;
     }
     if (m_rectCaption.PtInRect(point)) {
         return bCheckPanelCaption ? &m_btnDefault : nullptr;
@@ -475,6 +366,9 @@ void CMFCRibbonPanel::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget,
         if (!m_arElements[index]->GetRect().IsRectEmpty()) {
             m_arElements[index]->OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);
         }
+    }
+    if (!m_btnLaunch.GetRect().IsRectEmpty()) {
+        m_btnLaunch.OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);
     }
 }
 

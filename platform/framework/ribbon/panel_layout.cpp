@@ -211,8 +211,21 @@ int RibbonPanelLadder::FlowWidth(const Block& block, int rows) const {
 }
 
 int RibbonPanelLadder::PanelWidth(int contentWidth) const {
-    const int inside = std::max(contentWidth, m_shape.captionWidth);
+    const int launchButton =
+        m_shape.hasLaunchButton ? m_metrics.launchButtonSide + 2 * m_metrics.launchButtonMargin : 0;
+    const int inside = std::max(contentWidth, m_shape.captionWidth + launchButton);
     return std::max(inside + 2 * m_metrics.panelPaddingX, m_metrics.minPanelWidth);
+}
+
+// As far from the caption's end as from its lower edge, one line of the frame apart.
+RibbonRect RibbonPanelLadder::PlaceLaunchButton(const RibbonRect& caption) const {
+    if (!m_shape.hasLaunchButton) {
+        return {};
+    }
+    const int side = m_metrics.launchButtonSide;
+    const int right = caption.right - m_metrics.launchButtonMargin;
+    const int top = caption.top + (caption.bottom - caption.top - side) / 2;
+    return {right - side, top, right, top + side};
 }
 
 void RibbonPanelLadder::MakeSteps() {
@@ -262,6 +275,7 @@ RibbonPanelArrangement RibbonPanelLadder::Arrange(int stepCount) const {
         return result;
     }
     result.caption = {0, result.height - m_metrics.panelCaptionHeight, result.width, result.height};
+    result.launchButton = PlaceLaunchButton(result.caption);
 
     std::vector<size_t> level(m_blocks.size(), 0);
     for (size_t step = 0; step < taken; ++step) {

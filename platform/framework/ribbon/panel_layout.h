@@ -33,6 +33,7 @@ struct RibbonPanelShape {
     std::vector<RibbonElementShape> elements;
     int captionWidth = 0;   // of the text alone
     int collapsedWidth = 0; // of the button that stands for the panel; 0: the panel does not collapse
+    bool hasLaunchButton = false;
     bool centerColumns = false;
     bool justifyColumns = false;
 };
@@ -47,6 +48,7 @@ struct RibbonPanelArrangement {
     int height = 0;
     bool collapsed = false;
     RibbonRect caption;                        // empty when collapsed
+    RibbonRect launchButton;                   // at the caption's end; empty when there is none
     std::vector<RibbonPlacedElement> elements; // one for each element of the shape
 };
 
@@ -90,6 +92,7 @@ private:
     void AddWholeHeight(size_t index);
     void MakeSteps();
     int PanelWidth(int contentWidth) const;
+    RibbonRect PlaceLaunchButton(const RibbonRect& caption) const;
     int StackWidth(const Block& block, RibbonElementMode mode) const;
     int FlowWidth(const Block& block, int rows) const;
     void PlaceBlock(const Block& block, size_t level, int x, std::vector<RibbonPlacedElement>& placed) const;

@@ -92,6 +92,7 @@ void CMFCRibbonPanelMenuBar::Lend() {
             for (int position = 0; position < panel.GetCount(); ++position) {
                 LendElement(panel.GetElement(position));
             }
+            LendElement(&panel.GetLaunchButton());
             LendElement(&panel.GetDefaultButton());
         }
         LendElement(&category.m_ScrollLeft);
@@ -116,6 +117,12 @@ void CMFCRibbonPanelMenuBar::Lend() {
     for (CMFCRibbonBaseElement* element : m_parts->shown) {
         m_parts->panel->Show(element);
         LendElement(element);
+    }
+    if (m_parts->look == RibbonPopupLook::Panel && m_parts->source->HasLaunchButton()) {
+        CMFCRibbonLaunchButton& launch = m_parts->source->LaunchButton();
+        m_parts->panel->ShowLaunchButton(launch);
+        m_parts->shown.push_back(&launch);
+        LendElement(&launch);
     }
 }
 
@@ -271,7 +278,9 @@ int CMFCRibbonPanelMenuBar::HitTestEx(CPoint point) const {
     if (m_parts->category != nullptr) {
         return m_parts->category->HitTestEx(point);
     }
-    for (size_t index = 0; index < m_parts->shown.size(); ++index) {
+    // The launch button, behind the elements, is none of them.
+    const size_t count = m_parts->panel != nullptr ? static_cast<size_t>(m_parts->panel->GetCount()) : 0;
+    for (size_t index = 0; index < count; ++index) {
         if (m_parts->shown[index]->GetRect().PtInRect(point)) {
             return static_cast<int>(index);
         }

@@ -312,6 +312,10 @@ BOOL CMFCRibbonPanelMenuBar::OnKey(UINT nChar) {
     if (menu == nullptr) {
         return FALSE;
     }
+    const HWND window = m_hWnd;
+    if (OfferKey(nChar) || !::IsWindow(window)) {
+        return TRUE;
+    }
     switch (nChar) {
     case VK_ESCAPE:
         menu->GoBack();
@@ -338,12 +342,18 @@ BOOL CMFCRibbonPanelMenuBar::OnKey(UINT nChar) {
     default:
         break;
     }
-    // A slider moves by itself.
-    const bool isOwnKey = nChar == VK_LEFT || nChar == VK_RIGHT;
-    if (isOwnKey && hot != nullptr && DYNAMIC_DOWNCAST(CMFCRibbonButton, hot) == nullptr && hot->ProcessKey(nChar)) {
-        return TRUE;
-    }
     return MoveHot(nChar);
+}
+
+// In a list one goes up and down, whatever a row could do with the key.
+BOOL CMFCRibbonPanelMenuBar::OfferKey(UINT nChar) {
+    if (IsMenuMode() && (nChar == VK_UP || nChar == VK_DOWN)) {
+        return FALSE;
+    }
+    if (m_parts->category != nullptr) {
+        return m_parts->category->OnKey(nChar);
+    }
+    return GetPanel() != nullptr && GetPanel()->OnKey(nChar);
 }
 
 // A split button's row sends its command; its menu opens by the arrow key and the pointer.

@@ -24,7 +24,11 @@ public:
         m_pParentMenuBar = bar;
     }
     void Show(CMFCRibbonBaseElement* element) { m_arElements.Add(element); }
+    void ShowLaunchButton(CMFCRibbonLaunchButton& button) { m_launch = &button; }
     void Forget(const CMFCRibbonBaseElement* element) {
+        if (m_launch == element) {
+            m_launch = nullptr;
+        }
         for (INT_PTR index = m_arElements.GetSize(); index-- > 0;) {
             if (m_arElements[index] == element) {
                 m_arElements.RemoveAt(index);
@@ -32,7 +36,15 @@ public:
         }
     }
     bool IsLent() const override { return false; }
-    void ForgetAll() { m_arElements.RemoveAll(); }
+    void ForgetAll() {
+        m_arElements.RemoveAll();
+        m_launch = nullptr;
+    }
+
+private:
+    CMFCRibbonLaunchButton& LaunchButton() override { return m_launch != nullptr ? *m_launch : m_btnLaunch; }
+
+    CMFCRibbonLaunchButton* m_launch = nullptr; // of the panel whose elements are shown
 };
 
 /// What an element was like before it was lent.

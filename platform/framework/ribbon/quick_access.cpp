@@ -4,6 +4,7 @@
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_menus.h"
+#include "ribbon/element_metrics.h"
 #include "ribbon/metrics.h"
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
@@ -43,9 +44,15 @@ CSize CMFCRibbonQuickAccessCustomizeButton::GetCompactSize(CDC* /*pDC*/) {
 }
 
 void CMFCRibbonQuickAccessCustomizeButton::OnDraw(CDC* pDC) {
-    OnFillBackground(pDC);
+    const COLORREF onFace = OnFillBackground(pDC);
     OnDrawBorder(pDC);
-    const COLORREF color = CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(IsDisabled());
+    // Below the ribbon, and on a face of its own, it does not lie on the caption.
+    const CMFCRibbonBar* bar = GetTopLevelRibbonBar();
+    const bool isOnCaption = bar == nullptr || bar->IsQuickAccessToolbarOnTop();
+    const bool hasFace = IsHighlighted() || IsPressed() || IsFocused() || IsDroppedDown();
+    const COLORREF color = isOnCaption && !hasFace
+                               ? CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(IsDisabled())
+                               : ribbon::TextColor(pDC, onFace, IsDisabled());
     const int half = afxGlobalData.ScalePixels(3);
     const CPoint center = m_rect.CenterPoint();
     pDC->FillSolidRect(center.x - half, center.y - 2 * half, 2 * half - 1, std::max(half / 3, 1), color);

@@ -70,7 +70,10 @@ void CMFCRibbonSlider::OnDraw(CDC* pDC) {
         return;
     CMFCVisualManager* visual = CMFCVisualManager::GetInstance();
     const ribbon::SliderFace face = FaceOf(*this);
-    const auto isHot = [this](RibbonSliderPart part) { return !IsDisabled() && m_HotPart == part; };
+    // With the keyboard it is the thumb that moves.
+    const bool hasKeyboard = IsFocused() || (IsHighlighted() && m_HotPart == RibbonSliderPart::None);
+    const RibbonSliderPart hot = hasKeyboard ? RibbonSliderPart::Thumb : m_HotPart;
+    const auto isHot = [this, hot](RibbonSliderPart part) { return !IsDisabled() && hot == part; };
     const auto isPressed = [this](RibbonSliderPart part) { return !IsDisabled() && m_PressedPart == part; };
     if (m_bZoomButtons) {
         const auto draw = [&](RibbonSliderPart part, const ribbon::Rect& rect) {

@@ -139,6 +139,34 @@ void PaintPanelCaption(HDC dc, const RECT& caption, const wchar_t* text, int len
               look.skin[isHot ? ColorSlot::PanelCaptionTextHot : ColorSlot::PanelCaptionText]);
 }
 
+void PaintLaunchButton(HDC dc, const RECT& rect, const ElementState& state, bool isPanelHot, const Look& look) {
+    const Face* face = ButtonFaceFor(look.skin, state);
+    if (face != nullptr)
+        PaintFace(dc, rect, *face, Corners::All(std::min(look.Radius(), look.Px(2))), look);
+    const Argb caption = look.skin[isPanelHot ? ColorSlot::PanelCaptionTextHot : ColorSlot::PanelCaptionText];
+    const Argb color = state.isDisabled  ? WithAlpha(caption, 110)
+                       : face != nullptr ? look.skin[ColorSlot::Glyph]
+                                         : caption;
+    const int side = look.Px(8), corner = look.Px(5), head = look.Px(4), line = look.Line();
+    const LONG left = (rect.left + rect.right - side) / 2, top = (rect.top + rect.bottom - side) / 2;
+    const RECT box{left, top, left + side, top + side};
+    const Canvas canvas(dc, box, Recipe("launch button", color, side, corner, head, line));
+    if (canvas.IsEmpty())
+        return;
+    const IntRect local = canvas.Local(box);
+    const auto fill = [&](int x, int y, int width, int height) {
+        FillRounded(canvas.View(), {local.left + x, local.top + y, local.left + x + width, local.top + y + height}, {},
+                    {color, color, color, color, 50});
+    };
+    fill(0, 0, corner, line);
+    fill(0, line, line, corner - line);
+    // Rows of whole pixels give a sharp arrow at any scale; its shaft ends where the head begins.
+    for (int row = 0; row < head; ++row)
+        fill(side - 1 - row, side - head + row, row + 1, 1);
+    for (int step = 2 * line; step < side - (head + 1) / 2; ++step)
+        fill(step, step, line, line);
+}
+
 void PaintDefaultPane(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
     const FaceSlot slot = state.isPressed || state.isDropped ? FaceSlot::DefaultPanePressed
                           : state.isHot                      ? FaceSlot::DefaultPaneHot

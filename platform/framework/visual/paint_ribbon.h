@@ -24,6 +24,8 @@ void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const 
 /// The panel's frame and caption strip. An empty caption rectangle: no strip.
 void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const Look& look);
 void PaintPanelCaption(HDC dc, const RECT& caption, const wchar_t* text, int length, bool isHot, const Look& look);
+/// The small button in the caption: a corner and an arrow that leads out of it. isPanelHot: the caption is the hot one.
+void PaintLaunchButton(HDC dc, const RECT& rect, const ElementState& state, bool isPanelHot, const Look& look);
 void PaintDefaultPane(HDC dc, const RECT& rect, const ElementState& state, const Look& look);
 
 /// A button of one face, or of two when menu is not empty: the command part and the menu part.

@@ -4,6 +4,7 @@
 #include "visual/menu_background.h"
 
 #include <afxbasepane.h>
+#include <afxcaptionbutton.h>
 #include <afxext.h>
 #include <afxribbonpanelmenu.h>
 
@@ -26,6 +27,36 @@ ElementState StateFrom(CMFCVisualManager::AFX_BUTTON_STATE state) {
 
 ElementState ComboState(BOOL disabled, BOOL dropped, BOOL highlighted) {
     return {highlighted != FALSE, false, false, disabled != FALSE, dropped != FALSE};
+}
+
+// A hit that stands for nothing known has no picture.
+void PaintCaptionGlyph(HDC dc, const CRect& rect, UINT hit, bool isAcross, bool isMaximized, visual::Argb color,
+                       const visual::Look& look) {
+    using visual::ArrowDirection;
+    switch (hit) {
+    case HTCLOSE:
+    case AFX_HTCLOSE:
+        visual::PaintWindowGlyph(dc, rect, visual::WindowGlyph::Close, color, look);
+        break;
+    case HTMINBUTTON:
+        visual::PaintWindowGlyph(dc, rect, visual::WindowGlyph::Minimize, color, look);
+        break;
+    case HTMAXBUTTON:
+        visual::PaintWindowGlyph(dc, rect, isMaximized ? visual::WindowGlyph::Maximize : visual::WindowGlyph::Restore,
+                                 color, look);
+        break;
+    case AFX_HTMAXBUTTON:
+        if (isAcross)
+            visual::PaintArrow(dc, rect, isMaximized ? ArrowDirection::Right : ArrowDirection::Left, color, 0, look);
+        else
+            visual::PaintArrow(dc, rect, isMaximized ? ArrowDirection::Down : ArrowDirection::Up, color, 0, look);
+        break;
+    case AFX_HTMENU:
+        visual::PaintArrow(dc, rect, ArrowDirection::Down, color, 0, look);
+        break;
+    default:
+        break;
+    }
 }
 
 } // namespace
@@ -192,6 +223,21 @@ COLORREF CMFCVisualManager::OnDrawPaneCaption(CDC* pDC, CDockablePane*, BOOL bAc
     visual::PaintFace(*pDC, rectCaption, GetSkin()[bActive ? FaceSlot::PaneCaptionActive : FaceSlot::PaneCaption], {},
                       LookOf(GetSkin()));
     return ToColorRef(GetSkin()[bActive ? ColorSlot::PaneCaptionTextActive : ColorSlot::PaneCaptionText]);
+}
+
+void CMFCVisualManager::OnDrawCaptionButton(CDC* pDC, CMFCCaptionButton* pButton, BOOL bActive, BOOL bHorz,
+                                            BOOL bMaximized, BOOL bDisabled, int) {
+    const CRect rect = pButton->GetRect();
+    const ElementState state{pButton->m_bFocused != FALSE, pButton->m_bPushed != FALSE, false, bDisabled != FALSE,
+                             pButton->m_bDroppedDown != FALSE};
+    const visual::Face* const face = bDisabled ? nullptr : visual::ButtonFaceFor(GetSkin(), state);
+    if (face != nullptr)
+        visual::PaintFace(*pDC, rect, *face, visual::Corners::All(LookOf(GetSkin()).Px(2)), LookOf(GetSkin()));
+    const visual::Argb plain = GetSkin()[bActive ? ColorSlot::PaneCaptionTextActive : ColorSlot::PaneCaptionText];
+    const visual::Argb color = bDisabled         ? visual::WithAlpha(plain, 110)
+                               : face != nullptr ? GetSkin()[ColorSlot::Glyph]
+                                                 : plain;
+    PaintCaptionGlyph(*pDC, rect, pButton->GetHit(), bHorz != FALSE, bMaximized != FALSE, color, LookOf(GetSkin()));
 }
 
 void CMFCVisualManager::OnDrawPaneDivider(CDC* pDC, CPaneDivider*, CRect rect, BOOL) {

@@ -96,6 +96,8 @@ COLORREF CMFCVisualManager::OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar*, CRec
 
 COLORREF CMFCVisualManager::OnDrawRibbonCategoryTab(CDC* pDC, CMFCRibbonTab* pTab, BOOL bIsActive) {
     visual::TabState state{bIsActive != FALSE, pTab->IsHighlighted() != FALSE, pTab->IsFocused() != FALSE, 0};
+    // An active tab shows the focus by its brightness.
+    state.isHot = state.isHot || (state.isFocused && !state.isActive);
     if (const CMFCRibbonCategory* category = pTab->GetParentCategory())
         state.tint = TintOf(*this, category->GetTabColor());
     visual::PaintTab(*pDC, pTab->GetRect(), state, LookOf(GetSkin()));
@@ -126,7 +128,14 @@ COLORREF CMFCVisualManager::OnDrawRibbonPanel(CDC* pDC, CMFCRibbonPanel* pPanel,
 
 void CMFCVisualManager::OnDrawRibbonPanelCaption(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectCaption) {
     const CString name = pPanel->GetName();
+    if (const CRect launch = pPanel->GetLaunchButton().GetRect(); !launch.IsRectEmpty())
+        rectCaption.right = launch.left;
     visual::PaintPanelCaption(*pDC, rectCaption, name, name.GetLength(), pPanel->IsHighlighted() != FALSE,
+                              LookOf(GetSkin()));
+}
+
+void CMFCVisualManager::OnDrawRibbonLaunchButton(CDC* pDC, CMFCRibbonLaunchButton* pButton, CMFCRibbonPanel* pPanel) {
+    visual::PaintLaunchButton(*pDC, pButton->GetRect(), StateOf(*pButton), pPanel != nullptr && pPanel->IsHighlighted(),
                               LookOf(GetSkin()));
 }
 

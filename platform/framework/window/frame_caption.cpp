@@ -106,10 +106,14 @@ void CFrameImpl::OnGetMinMaxInfo(MINMAXINFO& info) const {
     info.ptMaxTrackSize.y = std::max<LONG>(info.ptMaxTrackSize.y, area.Height());
 }
 
+// The ribbon paints itself anew when its width changes; the buttons in its caption tell whether the frame is maximised.
 void CFrameImpl::OnWindowPosChanged(const WINDOWPOS& place) {
     if ((place.flags & SWP_NOSIZE) == 0 || (place.flags & SWP_FRAMECHANGED) != 0) {
         UpdateRegion();
-        RedrawCaption();
+        const bool isZoomed = m_frame->IsZoomed() != FALSE;
+        if (std::exchange(m_wasZoomed, isZoomed) != isZoomed) {
+            RedrawCaption();
+        }
     }
 }
 
@@ -130,28 +134,10 @@ void CFrameImpl::UpdateRegion() {
     }
 }
 
-void CFrameImpl::OnChangeVisualManager() {
-    m_regionSize = CSize(-1, -1);
-    UpdateRegion();
-}
-
 void CFrameImpl::RedrawCaption() {
     if (CMFCRibbonBar* ribbon = RibbonBar()) {
         ribbon->RedrawCaption();
     }
-}
-
-void CFrameImpl::KeepRibbonFromErasing(CDC& dc) {
-    CMFCRibbonBar* ribbon = RibbonBar();
-    if (ribbon == nullptr || !ribbon->IsVisible()) {
-        return;
-    }
-    CRect rows;
-    ribbon->GetWindowRect(&rows);
-    m_frame->ScreenToClient(&rows);
-    CRect client;
-    m_frame->GetClientRect(&client);
-    dc.ExcludeClipRect(client.left, rows.top, client.right, rows.bottom);
 }
 
 // ---- pointer and system menu

@@ -9,22 +9,7 @@ IMPLEMENT_DYNCREATE(CFrameWndEx, CFrameWnd)
 BEGIN_MESSAGE_MAP(CFrameWndEx, CFrameWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
-ON_WM_ERASEBKGND()
-ON_WM_NCCALCSIZE()
-ON_WM_NCHITTEST()
-ON_WM_NCPAINT()
-ON_WM_NCACTIVATE()
-ON_WM_GETMINMAXINFO()
-ON_WM_WINDOWPOSCHANGED()
-ON_WM_NCLBUTTONDOWN()
-ON_WM_NCLBUTTONDBLCLK()
-ON_WM_NCRBUTTONDOWN()
-ON_WM_NCRBUTTONUP()
-ON_WM_SYSCOMMAND()
-ON_WM_SYSCOLORCHANGE()
-ON_WM_SETTINGCHANGE()
 ON_MESSAGE(WM_SETTEXT, &CFrameWndEx::OnSetText)
-ON_MESSAGE(WM_DPICHANGED, &CFrameWndEx::OnDpiChanged)
 ON_REGISTERED_MESSAGE(AFX_WM_CHANGEVISUALMANAGER, &CFrameWndEx::OnChangeVisualManager)
 END_MESSAGE_MAP()
 
@@ -66,125 +51,18 @@ void CFrameWndEx::RecalcLayout(BOOL bNotify) {
     m_Impl.m_isInLayout = false;
 }
 
-// ---- the ribbon as caption
-
-void CFrameWndEx::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp) {
-    if (m_Impl.ReplacesCaption() && !IsIconic()) {
-        m_Impl.OnNcCalcSize(lpncsp->rgrc[0]);
-        return;
-    }
-    CFrameWnd::OnNcCalcSize(bCalcValidRects, lpncsp);
-}
-
-LRESULT CFrameWndEx::OnNcHitTest(CPoint point) {
-    return m_Impl.ReplacesCaption() && !IsIconic() ? m_Impl.OnNcHitTest(point) : CFrameWnd::OnNcHitTest(point);
-}
-
-void CFrameWndEx::OnNcPaint() {
-    if (m_Impl.ReplacesCaption() && !IsIconic()) {
-        m_Impl.OnNcPaint();
-        return;
-    }
-    CFrameWnd::OnNcPaint();
-}
-
-BOOL CFrameWndEx::OnNcActivate(BOOL bActive) {
-    if (!m_Impl.ReplacesCaption() || IsIconic()) {
-        return CFrameWnd::OnNcActivate(bActive);
-    }
-    // -1: the system notes the activation but draws nothing.
-    DefWindowProc(WM_NCACTIVATE, static_cast<WPARAM>(bActive), -1);
-    m_Impl.OnNcActivate(bActive != FALSE);
-    return TRUE;
-}
-
-BOOL CFrameWndEx::OnEraseBkgnd(CDC* pDC) {
-    const int saved = pDC->SaveDC();
-    m_Impl.KeepRibbonFromErasing(*pDC);
-    const BOOL isErased = CFrameWnd::OnEraseBkgnd(pDC);
-    pDC->RestoreDC(saved);
-    return isErased;
-}
-
-void CFrameWndEx::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {
-    CFrameWnd::OnGetMinMaxInfo(lpMMI);
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.OnGetMinMaxInfo(*lpMMI);
-    }
-}
-
-void CFrameWndEx::OnWindowPosChanged(WINDOWPOS* lpwndpos) {
-    CFrameWnd::OnWindowPosChanged(lpwndpos);
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.OnWindowPosChanged(*lpwndpos);
-    }
-}
-
-void CFrameWndEx::OnNcLButtonDown(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCLBUTTONDOWN, nHitTest, point)) {
-        CFrameWnd::OnNcLButtonDown(nHitTest, point);
-    }
-}
-
-void CFrameWndEx::OnNcLButtonDblClk(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCLBUTTONDBLCLK, nHitTest, point)) {
-        CFrameWnd::OnNcLButtonDblClk(nHitTest, point);
-    }
-}
-
-void CFrameWndEx::OnNcRButtonDown(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCRBUTTONDOWN, nHitTest, point)) {
-        CFrameWnd::OnNcRButtonDown(nHitTest, point);
-    }
-}
-
-void CFrameWndEx::OnNcRButtonUp(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCRBUTTONUP, nHitTest, point)) {
-        CFrameWnd::OnNcRButtonUp(nHitTest, point);
-    }
-}
-
-void CFrameWndEx::OnSysCommand(UINT nID, LPARAM lParam) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnSysCommand(nID, lParam)) {
-        CFrameWnd::OnSysCommand(nID, lParam);
-    }
-}
-
-LRESULT CFrameWndEx::OnSetText(WPARAM, LPARAM) {
-    const LRESULT result = Default();
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.RedrawCaption();
-    }
-    return result;
-}
-
-void CFrameWndEx::OnSysColorChange() {
-    CFrameWnd::OnSysColorChange();
-    m_Impl.OnSystemChange();
-}
-
-void CFrameWndEx::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
-    CFrameWnd::OnSettingChange(uFlags, lpszSection);
-    m_Impl.OnSystemChange();
-}
-
-LRESULT CFrameWndEx::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
-    m_Impl.OnSystemChange(LOWORD(wParam));
-    if (const auto* place = reinterpret_cast<const RECT*>(lParam)) {
-        SetWindowPos(nullptr, place->left, place->top, place->right - place->left, place->bottom - place->top,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-    return 0;
+LRESULT CFrameWndEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    return m_Impl.OnDefault(message, wParam, lParam, [](CFrameWnd& frame, UINT number, WPARAM first, LPARAM second) {
+        return static_cast<CFrameWndEx&>(frame).CFrameWnd::DefWindowProc(number, first, second);
+    });
 }
 
 void CFrameWndEx::AdjustDockingLayout(HDWP hdwp) { m_Impl.DockingManager().AdjustDockingLayout(hdwp); }
 
+LRESULT CFrameWndEx::OnSetText(WPARAM, LPARAM) { return Default(); }
+
 LRESULT CFrameWndEx::OnChangeVisualManager(WPARAM, LPARAM) {
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.OnChangeVisualManager();
-    }
-    RecalcLayout();
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
+    m_Impl.OnChangeVisualManager();
     return 0;
 }
 

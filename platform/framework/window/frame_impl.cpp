@@ -90,6 +90,9 @@ BOOL CFrameImpl::HandKeyToRibbon(const MSG& message) {
             bar->ToggleMimimizeState();
             return TRUE;
         }
+        if (message.wParam == VK_F6 && ::GetKeyState(VK_CONTROL) >= 0) {
+            return MoveFocusToNextPane(::GetKeyState(VK_SHIFT) >= 0);
+        }
         return FALSE;
     case WM_SYSKEYDOWN:
         return !bar->GetKeyboard().IsActive() && bar->OnSysKeyDown(m_frame, message.wParam, message.lParam);
@@ -99,6 +102,20 @@ BOOL CFrameImpl::HandKeyToRibbon(const MSG& message) {
     default:
         return FALSE;
     }
+}
+
+BOOL CFrameImpl::MoveFocusToNextPane(BOOL forward) {
+    const HWND next = m_dockingManager.FindNextFocus(::GetFocus(), forward);
+    if (next == nullptr) {
+        return FALSE;
+    }
+    CMFCRibbonBar* bar = RibbonBar();
+    if (bar != nullptr && next == bar->GetSafeHwnd()) {
+        bar->GetKeyboard().Activate();
+    } else {
+        ::SetFocus(next);
+    }
+    return TRUE;
 }
 
 void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) { m_activePopup = popup; }

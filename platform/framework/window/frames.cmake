@@ -24,6 +24,7 @@ target_sources(framework PRIVATE
   ${CMAKE_CURRENT_LIST_DIR}/dialog_window.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_caption.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_control_bar.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/frame_default.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_ex.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_impl.cpp
   ${CMAKE_CURRENT_LIST_DIR}/frame_layout.cpp

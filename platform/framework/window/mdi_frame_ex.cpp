@@ -11,22 +11,6 @@ IMPLEMENT_DYNCREATE(CMDIFrameWndEx, CMDIFrameWnd)
 BEGIN_MESSAGE_MAP(CMDIFrameWndEx, CMDIFrameWnd)
 ON_WM_CREATE()
 ON_WM_SIZE()
-ON_WM_ERASEBKGND()
-ON_WM_NCCALCSIZE()
-ON_WM_NCHITTEST()
-ON_WM_NCPAINT()
-ON_WM_NCACTIVATE()
-ON_WM_GETMINMAXINFO()
-ON_WM_WINDOWPOSCHANGED()
-ON_WM_NCLBUTTONDOWN()
-ON_WM_NCLBUTTONDBLCLK()
-ON_WM_NCRBUTTONDOWN()
-ON_WM_NCRBUTTONUP()
-ON_WM_SYSCOMMAND()
-ON_WM_SYSCOLORCHANGE()
-ON_WM_SETTINGCHANGE()
-ON_MESSAGE(WM_SETTEXT, &CMDIFrameWndEx::OnSetText)
-ON_MESSAGE(WM_DPICHANGED, &CMDIFrameWndEx::OnDpiChanged)
 ON_REGISTERED_MESSAGE(AFX_WM_CHANGEVISUALMANAGER, &CMDIFrameWndEx::OnChangeVisualManager)
 END_MESSAGE_MAP()
 
@@ -69,115 +53,14 @@ void CMDIFrameWndEx::RecalcLayout(BOOL bNotify) {
     m_Impl.m_isInLayout = false;
 }
 
-// ---- the ribbon as caption
-
-void CMDIFrameWndEx::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp) {
-    if (m_Impl.ReplacesCaption() && !IsIconic()) {
-        m_Impl.OnNcCalcSize(lpncsp->rgrc[0]);
-        return;
+LRESULT CMDIFrameWndEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    // The system would spread the MDI client over the panes, for the layout to take it back at once.
+    if (message == WM_SIZE) {
+        return 0;
     }
-    CMDIFrameWnd::OnNcCalcSize(bCalcValidRects, lpncsp);
-}
-
-LRESULT CMDIFrameWndEx::OnNcHitTest(CPoint point) {
-    return m_Impl.ReplacesCaption() && !IsIconic() ? m_Impl.OnNcHitTest(point) : CMDIFrameWnd::OnNcHitTest(point);
-}
-
-void CMDIFrameWndEx::OnNcPaint() {
-    if (m_Impl.ReplacesCaption() && !IsIconic()) {
-        m_Impl.OnNcPaint();
-        return;
-    }
-    CMDIFrameWnd::OnNcPaint();
-}
-
-BOOL CMDIFrameWndEx::OnNcActivate(BOOL bActive) {
-    if (!m_Impl.ReplacesCaption() || IsIconic()) {
-        return CMDIFrameWnd::OnNcActivate(bActive);
-    }
-    // -1: the system notes the activation but draws nothing.
-    DefWindowProc(WM_NCACTIVATE, static_cast<WPARAM>(bActive), -1);
-    m_Impl.OnNcActivate(bActive != FALSE);
-    return TRUE;
-}
-
-BOOL CMDIFrameWndEx::OnEraseBkgnd(CDC* pDC) {
-    const int saved = pDC->SaveDC();
-    m_Impl.KeepRibbonFromErasing(*pDC);
-    const BOOL isErased = CMDIFrameWnd::OnEraseBkgnd(pDC);
-    pDC->RestoreDC(saved);
-    return isErased;
-}
-
-void CMDIFrameWndEx::OnGetMinMaxInfo(MINMAXINFO* lpMMI) {
-    CMDIFrameWnd::OnGetMinMaxInfo(lpMMI);
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.OnGetMinMaxInfo(*lpMMI);
-    }
-}
-
-void CMDIFrameWndEx::OnWindowPosChanged(WINDOWPOS* lpwndpos) {
-    CMDIFrameWnd::OnWindowPosChanged(lpwndpos);
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.OnWindowPosChanged(*lpwndpos);
-    }
-}
-
-void CMDIFrameWndEx::OnNcLButtonDown(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCLBUTTONDOWN, nHitTest, point)) {
-        CMDIFrameWnd::OnNcLButtonDown(nHitTest, point);
-    }
-}
-
-void CMDIFrameWndEx::OnNcLButtonDblClk(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCLBUTTONDBLCLK, nHitTest, point)) {
-        CMDIFrameWnd::OnNcLButtonDblClk(nHitTest, point);
-    }
-}
-
-void CMDIFrameWndEx::OnNcRButtonDown(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCRBUTTONDOWN, nHitTest, point)) {
-        CMDIFrameWnd::OnNcRButtonDown(nHitTest, point);
-    }
-}
-
-void CMDIFrameWndEx::OnNcRButtonUp(UINT nHitTest, CPoint point) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnNcButton(WM_NCRBUTTONUP, nHitTest, point)) {
-        CMDIFrameWnd::OnNcRButtonUp(nHitTest, point);
-    }
-}
-
-void CMDIFrameWndEx::OnSysCommand(UINT nID, LPARAM lParam) {
-    if (!m_Impl.ReplacesCaption() || !m_Impl.OnSysCommand(nID, lParam)) {
-        CMDIFrameWnd::OnSysCommand(nID, lParam);
-    }
-}
-
-LRESULT CMDIFrameWndEx::OnSetText(WPARAM, LPARAM) {
-    const LRESULT result = Default();
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.RedrawCaption();
-    }
-    return result;
-}
-
-void CMDIFrameWndEx::OnSysColorChange() {
-    CMDIFrameWnd::OnSysColorChange();
-    m_Impl.OnSystemChange();
-}
-
-void CMDIFrameWndEx::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
-    CMDIFrameWnd::OnSettingChange(uFlags, lpszSection);
-    m_Impl.OnSystemChange();
-}
-
-LRESULT CMDIFrameWndEx::OnDpiChanged(WPARAM wParam, LPARAM lParam) {
-    m_Impl.OnSystemChange(LOWORD(wParam));
-    if (const auto* place = reinterpret_cast<const RECT*>(lParam)) {
-        SetWindowPos(nullptr, place->left, place->top, place->right - place->left, place->bottom - place->top,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-    return 0;
+    return m_Impl.OnDefault(message, wParam, lParam, [](CFrameWnd& frame, UINT number, WPARAM first, LPARAM second) {
+        return static_cast<CMDIFrameWndEx&>(frame).CMDIFrameWnd::DefWindowProc(number, first, second);
+    });
 }
 
 void CMDIFrameWndEx::AdjustDockingLayout(HDWP hdwp) {
@@ -205,11 +88,7 @@ void CMDIFrameWndEx::AdjustClientArea() {
 void CMDIFrameWndEx::OnSizeMDIClient(const CRect&, const CRect&) {}
 
 LRESULT CMDIFrameWndEx::OnChangeVisualManager(WPARAM, LPARAM) {
-    if (m_Impl.ReplacesCaption()) {
-        m_Impl.OnChangeVisualManager();
-    }
-    RecalcLayout();
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
+    m_Impl.OnChangeVisualManager();
     return 0;
 }
 

@@ -176,4 +176,21 @@ TEST_F(AccessTreeTest, TheBarDescribesItsPartsToDerivedBars) {
     EXPECT_FALSE(Bar().OnSetAccData(4));
 }
 
+TEST_F(AccessTreeTest, ALaunchButtonIsTheLastOfItsPanelAndHasItsName) {
+    CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(0);
+    panel.EnableLaunchButton(commands::firstHandled + 300);
+    Bar().RecalcLayout();
+    const Accessible grouping = Part(ROLE_SYSTEM_PROPERTYPAGE).ChildAt(1);
+    ASSERT_EQ(grouping.ChildCount(), panel.GetCount() + 1);
+    const Accessible button = grouping.ChildAt(grouping.ChildCount());
+    EXPECT_EQ(button.Role(), ROLE_SYSTEM_PUSHBUTTON);
+    EXPECT_EQ(button.Name(), L"Clipboard");
+    EXPECT_EQ(button.Action(), L"Press");
+    EXPECT_EQ(button.Parent(), grouping);
+    EXPECT_EQ(button, *Root().HitTest(button.Location().CenterPoint()));
+    ASSERT_EQ(button.DoDefaultAction(), S_OK);
+    PumpPending();
+    EXPECT_EQ(m_frame->commands, std::vector<UINT>{commands::firstHandled + 300});
+}
+
 } // namespace

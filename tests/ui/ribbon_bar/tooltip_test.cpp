@@ -2,25 +2,27 @@
 
 namespace {
 
-CString TipTextAt(CMFCRibbonBar& bar, CPoint client) {
-    bar.ClientToScreen(&client);
-    ::SetCursorPos(client.x, client.y);
-    NMTTDISPINFO info{};
-    info.hdr.hwndFrom = bar.GetToolTipCtrl()->GetSafeHwnd();
-    info.hdr.code = TTN_NEEDTEXT;
-    bar.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
-    return info.lpszText != nullptr ? CString(info.lpszText) : CString();
-}
+class RibbonTooltipTest : public RibbonBarTest {
+protected:
+    CString TipTextAt(CPoint client) {
+        m_pointer.MoveTo(Bar(), client);
+        NMTTDISPINFO info{};
+        info.hdr.hwndFrom = Bar().GetToolTipCtrl()->GetSafeHwnd();
+        info.hdr.code = TTN_NEEDTEXT;
+        Bar().SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
+        return info.lpszText != nullptr ? CString(info.lpszText) : CString();
+    }
+};
 
-TEST_F(RibbonBarTest, TheTooltipIsTheElementsTipOrItsText) {
+TEST_F(RibbonTooltipTest, TheTooltipIsTheElementsTipOrItsText) {
     ASSERT_NE(Bar().GetToolTipCtrl(), nullptr);
-    EXPECT_STREQ(TipTextAt(Bar(), CenterOf(commands::paste)), L"Paste");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::paste)), L"Paste");
     Element(commands::cut).SetToolTipText(L"Cuts the selection");
-    EXPECT_STREQ(TipTextAt(Bar(), CenterOf(commands::cut)), L"Cuts the selection");
-    EXPECT_STREQ(TipTextAt(Bar(), CPoint(900, 5)), L"");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::cut)), L"Cuts the selection");
+    EXPECT_STREQ(TipTextAt(CPoint(900, 5)), L"");
 }
 
-TEST_F(RibbonBarTest, WithoutTooltipsThereIsNoControl) {
+TEST_F(RibbonTooltipTest, WithoutTooltipsThereIsNoControl) {
     Bar().EnableToolTips(FALSE);
     EXPECT_FALSE(Bar().IsToolTipEnabled());
     EXPECT_EQ(Bar().GetToolTipCtrl(), nullptr);
@@ -30,7 +32,7 @@ TEST_F(RibbonBarTest, WithoutTooltipsThereIsNoControl) {
     EXPECT_NE(Bar().GetToolTipCtrl(), nullptr);
 }
 
-TEST_F(RibbonBarTest, TheToolFollowsTheElementUnderThePointer) {
+TEST_F(RibbonTooltipTest, TheToolFollowsTheElementUnderThePointer) {
     m_pointer.MoveTo(Bar(), CenterOf(commands::cut));
     TOOLINFO tool{};
     tool.cbSize = sizeof(tool);
@@ -40,13 +42,13 @@ TEST_F(RibbonBarTest, TheToolFollowsTheElementUnderThePointer) {
     EXPECT_EQ(CRect(tool.rect), Element(commands::cut).GetRect());
 }
 
-TEST_F(RibbonBarTest, TheQuickAccessMenuButtonHasTheFrameworksText) {
+TEST_F(RibbonTooltipTest, TheQuickAccessMenuButtonHasTheFrameworksText) {
     CList<UINT, UINT> list;
     list.AddTail(commands::cut);
     Bar().SetQuickAccessCommands(list);
     const CRect all = Bar().GetQuickAccessToolbarLocation();
     const CRect copies = Bar().GetQATCommandsLocation();
-    EXPECT_STREQ(TipTextAt(Bar(), CPoint((copies.right + all.right) / 2, all.CenterPoint().y)),
+    EXPECT_STREQ(TipTextAt(CPoint((copies.right + all.right) / 2, all.CenterPoint().y)),
                  L"Customize Quick Access Toolbar");
 }
 

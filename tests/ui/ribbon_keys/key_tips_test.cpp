@@ -113,6 +113,35 @@ TEST_F(KeyTipTest, AnEditGetsTheCaretAndEnterGivesTheFocusBack) {
     EXPECT_EQ(::GetFocus(), Document());
 }
 
+TEST_F(KeyTipTest, ALaunchButtonHasATipAndItsLettersSendItsCommand) {
+    constexpr UINT launch = commands::firstHandled + 300;
+    Bar().GetCategory(0)->GetPanel(0)->EnableLaunchButton(launch, -1, L"FN");
+    Bar().RecalcLayout();
+    Press({VK_MENU, 'H'});
+    EXPECT_THAT(ShownTips(), Contains(L"FN"));
+    Press({'F', 'N'});
+    EXPECT_THAT(m_frame->commands, ElementsAre(launch));
+    EXPECT_EQ(::GetFocus(), Document());
+}
+
+TEST_F(KeyTipTest, ALaunchButtonInThePopUpOfACollapsedPanelHasATipToo) {
+    constexpr UINT launch = commands::firstHandled + 300;
+    CMFCRibbonCategory* many = AddManyButtons(60, 12);
+    many->SetKeys(L"X");
+    many->GetPanel(0)->EnableLaunchButton(launch, -1, L"FN");
+    many->GetPanel(0)->SetKeys(L"ZZ");
+    Bar().SetActiveCategory(many);
+    SetClientWidth(300);
+    ASSERT_TRUE(many->GetPanel(0)->IsCollapsed());
+    Press({VK_MENU, 'X'});
+    EXPECT_THAT(ShownTips(), Not(Contains(L"FN")));
+    Press({'Z', 'Z'});
+    EXPECT_THAT(ShownTips(), Contains(L"FN"));
+    Press({'F', 'N'});
+    EXPECT_THAT(m_frame->commands, ElementsAre(launch));
+    EXPECT_EQ(::GetFocus(), Document());
+}
+
 TEST_F(KeyTipTest, ASliderGetsTheFocusAndTheArrowsAcross) {
     Press({VK_MENU, 'H'});
     auto& slider = static_cast<CMFCRibbonSlider&>(Element(commands::zoom));

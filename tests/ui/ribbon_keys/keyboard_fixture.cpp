@@ -12,8 +12,8 @@ void Send(std::vector<std::pair<UINT, bool>> strokes) {
         input.type = INPUT_KEYBOARD;
         input.ki.wVk = static_cast<WORD>(key);
         input.ki.wScan = static_cast<WORD>(::MapVirtualKey(key, MAPVK_VK_TO_VSC));
-        const bool isExtended =
-            key == VK_LEFT || key == VK_RIGHT || key == VK_UP || key == VK_DOWN || key == VK_HOME || key == VK_END;
+        // Page up to the arrows, and Insert: the keys beside the number pad.
+        const bool isExtended = (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT;
         input.ki.dwFlags = (isUp ? KEYEVENTF_KEYUP : 0) | (isExtended ? KEYEVENTF_EXTENDEDKEY : 0);
         inputs.push_back(input);
     }

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "afxRibbonEdit.h"
-#include "afxribbonslider.h"
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -98,18 +97,6 @@ TEST_F(FocusWalkTest, AnEditKeepsItsArrowsAcrossAndTabLeadsOn) {
     EXPECT_EQ(Bar().GetFocused(), &Element(commands::zoom));
     EXPECT_THAT(m_frame->commands, ElementsAre(commands::size)) << "a text that is left is sent";
     EXPECT_EQ(::GetFocus(), Bar().GetSafeHwnd());
-}
-
-TEST_F(FocusWalkTest, ASliderTakesHomeAndEndToo) {
-    Start();
-    while (Bar().GetFocused() != &Element(commands::zoom)) {
-        Press(VK_TAB);
-    }
-    auto& slider = static_cast<CMFCRibbonSlider&>(Element(commands::zoom));
-    Press(VK_END);
-    EXPECT_EQ(slider.GetPos(), slider.GetRangeMax());
-    Press(VK_HOME);
-    EXPECT_EQ(slider.GetPos(), slider.GetRangeMin());
 }
 
 TEST_F(FocusWalkTest, F6LeavesForTheNextPane) {

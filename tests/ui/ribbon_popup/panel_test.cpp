@@ -107,4 +107,36 @@ TEST_F(CollapsedPanel, ClosesWhenTheFrameIsGone) {
     EXPECT_EQ(OpenCount(), 0);
 }
 
+TEST_F(CollapsedPanel, ItsLaunchButtonWorksInThePopUpAndGoesBack) {
+    constexpr UINT launch = commands::firstHandled + 300;
+    Bar().GetCategory(0)->GetPanel(0)->EnableLaunchButton(launch);
+    CMFCRibbonPanel& panel = OpenCollapsedPanel();
+    CMFCRibbonButton& button = panel.GetLaunchButton();
+    ASSERT_FALSE(button.GetRect().IsRectEmpty());
+    EXPECT_EQ(button.GetParentWnd(), &PopupBar());
+    EXPECT_EQ(PopupBar().HitTest(button.GetRect().CenterPoint()), &button);
+    EXPECT_EQ(PopupBar().HitTestEx(button.GetRect().CenterPoint()), -1) << "it is none of the panel's elements";
+    EXPECT_GT(button.GetRect().top, panel.GetElement(0)->GetRect().bottom);
+    Click(button);
+    EXPECT_THAT(m_frame->commands, ElementsAre(launch));
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_TRUE(button.GetRect().IsRectEmpty());
+    SetClientWidth(1000);
+    Click(button);
+    EXPECT_THAT(m_frame->commands, ElementsAre(launch, launch)) << "it works in the bar again";
+}
+
+TEST_F(CollapsedPanel, ALaunchButtonThatIsTakenAwayWhileThePopUpIsOpenIsGone) {
+    constexpr UINT launch = commands::firstHandled + 300;
+    Bar().GetCategory(0)->GetPanel(0)->EnableLaunchButton(launch);
+    CMFCRibbonPanel& panel = OpenCollapsedPanel();
+    const CPoint at = panel.GetLaunchButton().GetRect().CenterPoint();
+    panel.EnableLaunchButton(0);
+    PumpPending();
+    ASSERT_EQ(OpenCount(), 1);
+    m_pointer.Click(PopupBar(), at);
+    PumpPending();
+    EXPECT_THAT(m_frame->commands, testing::IsEmpty());
+}
+
 } // namespace

@@ -1,5 +1,5 @@
-// frame_gallery DIR [PERCENT [WIDTH [rtl]]]: writes frame-STYLE-PERCENT-WIDTH.png of a frame with everything that a
-// ribbon can show in each style, for people to look at.
+// frame_gallery DIR [PERCENT [WIDTH [rtl|minimized|below]...]]: writes frame-STYLE-PERCENT-WIDTH[-WORD]....png of a
+// frame with everything that a ribbon can show in each style, for people to look at. below: the quick access toolbar.
 #include "afxMDIChildWndEx.h"
 #include "afxMDIFrameWndEx.h"
 #include "afxRibbonEdit.h"
@@ -17,8 +17,10 @@
 #include <objidl.h>
 #include <gdiplus.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -93,6 +95,9 @@ public:
             small->Add(new CMFCRibbonButton(40 + index, names[index], MakeIcon(16, RGB(60, 60 + index * 30, 160)),
                                             FALSE, MakeIcon(16, RGB(60, 60 + index * 30, 160))));
         }
+        for (CMFCRibbonPanel* panel : {clipboard, text, styles, small}) {
+            panel->EnableLaunchButton(50 + static_cast<UINT>(home->GetPanelIndex(panel)));
+        }
         bar.AddCategory(L"Insert", 0, 0)->AddPanel(L"Pictures");
         bar.AddCategory(L"Page layout", 0, 0)->AddPanel(L"Page");
         bar.AddContextCategory(L"Design", L"Table tools", 77, AFX_CategoryColor_Orange, 0, 0)->AddPanel(L"Cells");
@@ -120,6 +125,9 @@ public:
             element(3)->SetChecked(TRUE);
             element(4)->SetDisabled(TRUE);
         }
+        bar.FindByID(51, TRUE, TRUE)->SetDisabled(TRUE);
+        bar.FindByID(52, TRUE, TRUE)->SetHighlighted(TRUE);
+        bar.FindByID(53, TRUE, TRUE)->SetPressed(TRUE);
         bar.FindByID(23, TRUE, TRUE)->SetChecked(TRUE);
         bar.FindByID(24, TRUE, TRUE)->SetDisabled(TRUE);
         bar.FindByID(11, TRUE, TRUE)->SetChecked(TRUE);
@@ -152,12 +160,14 @@ bool WritePicture(CWnd& window, const std::wstring& path) {
     return picture.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
 }
 
-bool WriteFrame(const std::wstring& directory, int style, const wchar_t* name, int percent, int width, bool isRtl) {
+bool WriteFrame(const std::wstring& directory, int style, const wchar_t* name, int percent, int width,
+                const std::set<std::wstring>& words) {
     CMFCVisualManagerOffice2007::SetStyle(static_cast<CMFCVisualManagerOffice2007::Style>(style));
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
     GalleryFrame frame;
     if (!frame.Create(nullptr, L"Report - Writer", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
-                      CRect(0, 0, width, 250 * percent / 100), nullptr, nullptr, isRtl ? WS_EX_LAYOUTRTL : 0) ||
+                      CRect(0, 0, width, 250 * percent / 100), nullptr, nullptr,
+                      words.count(L"rtl") != 0 ? WS_EX_LAYOUTRTL : 0) ||
         !frame.bar.Create(&frame)) {
         return false;
     }
@@ -166,20 +176,28 @@ bool WriteFrame(const std::wstring& directory, int style, const wchar_t* name, i
     child->Create(nullptr, L"Sheet", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW | WS_MAXIMIZE, CRect(0, 0, 200, 100),
                   &frame);
     child->MDIMaximize();
+    frame.bar.SetQuickAccessToolbarOnTop(words.count(L"below") == 0);
+    if (words.count(L"minimized") != 0) {
+        frame.bar.ToggleMimimizeState();
+    }
     frame.ShowWindow(SW_SHOW);
     frame.RecalcLayout();
     PumpPending();
     frame.ShowStates();
     frame.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    return WritePicture(frame, directory + L"\\frame-" + name + L"-" + std::to_wstring(percent) + L"-" +
-                                   std::to_wstring(width) + (isRtl ? L"-rtl.png" : L".png"));
+    std::wstring file =
+        directory + L"\\frame-" + name + L"-" + std::to_wstring(percent) + L"-" + std::to_wstring(width);
+    for (const std::wstring& word : words) {
+        file += L"-" + word;
+    }
+    return WritePicture(frame, file + L".png");
 }
 
 } // namespace
 
 int wmain(int count, wchar_t** arguments) {
     if (count < 2) {
-        std::fputs("usage: frame_gallery DIR [PERCENT [WIDTH [rtl]]]\n", stderr);
+        std::fputs("usage: frame_gallery DIR [PERCENT [WIDTH [rtl|minimized|below]...]]\n", stderr);
         return 2;
     }
     UiTestEnvironment environment;
@@ -192,10 +210,11 @@ int wmain(int count, wchar_t** arguments) {
     const int percent = count > 2 ? std::stoi(arguments[2]) : 100;
     const int width = count > 3 ? std::stoi(arguments[3]) : 1280;
     afxGlobalData.SetRibbonImageScale(percent / 100.0);
+    const std::set<std::wstring> words(arguments + std::min(count, 4), arguments + count);
     const wchar_t* styles[] = {L"blue", L"black", L"aqua", L"silver"};
     int failures = 0;
     for (int style = 0; style < 4; ++style) {
-        failures += WriteFrame(arguments[1], style, styles[style], percent, width, count > 4) ? 0 : 1;
+        failures += WriteFrame(arguments[1], style, styles[style], percent, width, words) ? 0 : 1;
     }
     Gdiplus::GdiplusShutdown(token);
     environment.TearDown();

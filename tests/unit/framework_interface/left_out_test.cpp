@@ -187,8 +187,13 @@ LEFT_OUT("state kept between runs", CKeyboardManager, LoadState, ResetAll, SaveS
 
 LEFT_OUT("looks of controls that the framework does not have", CMFCBaseVisualManager, DrawStatusBarProgress,
          GetStandardWindowsTheme)
-LEFT_OUT("buttons of docked panes, galleries and tabs, which the framework does not have yet", CMFCVisualManager,
-         OnDrawCaptionButton, OnDrawRibbonGalleryButton, OnDrawTabContent)
+LEFT_OUT("items and scroll buttons of galleries, which nobody uses", CMFCVisualManager, OnDrawRibbonGalleryButton)
+LEFT_OUT("items and scroll buttons of galleries, which nobody uses", CMFCVisualManagerOffice2007,
+         OnDrawRibbonGalleryButton)
+LEFT_OUT("text and icon of a tab are asked of its tab window, which the framework does not have yet", CMFCVisualManager,
+         OnDrawTabContent)
+LEFT_OUT("numbers of pictures of menus: the look draws them from what the button stands for", CMFCCaptionButton,
+         GetIconID)
 LEFT_OUT("looks of controls that the framework does not have", CMFCVisualManager, DoDrawHeaderSortArrow,
          GetAutoHideButtonTextColor, GetCaptionBarTextColor, GetPropertyGridGroupColor, GetPropertyGridGroupTextColor,
          GetSmartDockingBaseGuideColors, GetSmartDockingTheme, OnDrawAutoHideButtonBorder, OnDrawBrowseButton,
@@ -221,11 +226,43 @@ LEFT_OUT("ribbons from resources and XML of the resource editor", CMFCRibbonBar,
 
 LEFT_OUT("galleries in panels", CMFCRibbonPanel, GetGalleryRect, MakeGalleryItemVisible)
 
+LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, controls have the system's", CWnd,
+         accDoDefaultAction, accHitTest, accLocation, accNavigate, accSelect, CreateAccessibleProxy,
+         EnableActiveAccessibility, get_accChild, get_accChildCount, get_accDefaultAction, get_accDescription,
+         get_accFocus, get_accHelp, get_accHelpTopic, get_accKeyboardShortcut, get_accName, get_accParent, get_accRole,
+         get_accSelection, get_accState, get_accValue)
+LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, controls have the system's", CBasePane,
+         AccNotifyObjectFocusEvent)
+
+LEFT_OUT("drawing on the desktop's glass", AFX_GLOBAL_DATA, DrawTextOnGlass, IsDwmCompositionEnabled)
+LEFT_OUT("drawing on the desktop's glass", CMFCVisualManager, DrawTextOnGlass)
+LEFT_OUT("drawing on the desktop's glass", CFrameWndEx, OnDWMCompositionChanged)
+LEFT_OUT("drawing on the desktop's glass", CMFCRibbonBar, DWMCompositionChanged)
+
+LEFT_OUT("the wheel of mice before the system knew wheels", CWnd, OnRegisteredMouseWheel)
+
+LEFT_OUT("the menu bar that is a pane", CFrameWndEx, OnMenuButtonToolHitTest, OnSetMenu)
+LEFT_OUT("the menu bar that is a pane", CMDIFrameWndEx, OnMenuButtonToolHitTest)
+
+LEFT_OUT("the background of the MDI client is the system's", CMDIFrameWndEx, OnEraseMDIClientBackground)
+
+LEFT_OUT("the ribbon knows its direction from its window", CMFCRibbonBar, OnRTLChanged)
+LEFT_OUT("the ribbon knows its direction from its window", CMFCRibbonCategory, OnRTLChanged)
+
+LEFT_OUT("places of pop-ups and widths of panels: the layout is a function of its own", CMFCRibbonPanel,
+         GetPreferedMenuLocation, RecalcWidths)
+
+LEFT_OUT("edits with spin buttons, which nobody uses", CMFCRibbonEdit, EnableSpinButtons, HasSpinButtons)
+
 LEFT_OUT("toolbar resources as ribbon groups", CMFCRibbonPanel, AddToolBar)
 
 LEFT_OUT("nothing is shared that could be freed", CMFCToolBarImages, CleanUp)
 
-LEFT_OUT("what it does is not documented", CMDIFrameWndEx, m_bDisableSetRedraw)
+LEFT_OUT("what it does is not documented", CFrameWndEx, UpdateCaption)
+LEFT_OUT("what it does is not documented", CMDIFrameWndEx, UpdateCaption, m_bDisableSetRedraw)
+LEFT_OUT("what it does is not documented", CMFCRibbonBar, AddQATOnlyCategory, DrawMenuImage, OnEditContextMenu)
+LEFT_OUT("what it does is not documented", CMFCRibbonBaseElement, OnAddToQAToolbar)
+LEFT_OUT("what it does is not documented", CMFCRibbonCategory, CopyFrom, NotifyControlCommand, OnDrawMenuBorder)
 LEFT_OUT("what it does is not documented", CMFCToolBarImages, MapToSysColorAlpha)
 
 } // namespace
@@ -254,6 +291,14 @@ class CMFCRibbonLinkCtrl;
 class CMFCRibbonMiniToolBar;
 class CMFCRibbonProgressBar;
 class CMFCRibbonUndoButton;
+class CMFCMenuBar;
+class CMFCRibbonStatusBar;
+class CMFCBaseTabCtrl;
+class CDockablePane;
+class CPaneFrameWnd;
+class CPaneDivider;
+class CMenuImages;
+class CMFCRibbonGalleryIcon;
 class CMFCRibbonCustomizeDialog;
 class CMFCRibbonCustomizePropertyPage;
 
@@ -265,7 +310,11 @@ LEFT_OUT_CLASSES("windows of several parts or pages", CSplitterWnd, CPropertyShe
 LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
                  CMFCVisualManagerWindows7)
 LEFT_OUT_CLASSES("helpers of the docking panes", CGlobalUtils)
+LEFT_OUT_CLASSES("bars of the next steps", CMFCMenuBar, CMFCRibbonStatusBar)
+LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
+                 CPaneFrameWnd, CPaneDivider)
+LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)
 LEFT_OUT_CLASSES("ribbon elements that nobody uses", CMFCRibbonColorButton, CMFCRibbonFontComboBox, CMFCRibbonGallery,
-                 CMFCRibbonGalleryMenuButton, CMFCRibbonLinkCtrl, CMFCRibbonMiniToolBar, CMFCRibbonProgressBar,
-                 CMFCRibbonUndoButton)
+                 CMFCRibbonGalleryIcon, CMFCRibbonGalleryMenuButton, CMFCRibbonLinkCtrl, CMFCRibbonMiniToolBar,
+                 CMFCRibbonProgressBar, CMFCRibbonUndoButton)
 LEFT_OUT_CLASSES("customizing the ribbon in a dialog", CMFCRibbonCustomizeDialog, CMFCRibbonCustomizePropertyPage)

@@ -3,6 +3,7 @@
 #include "afxDockingManager.h"
 #include "afxPane.h"
 #include "afxbasepane.h"
+#include "afxcaptionbutton.h"
 #include "afxrecentDockSiteInfo.h"
 
 INTERFACE_OF(CBasePane) {
@@ -206,4 +207,21 @@ INTERFACE_OF(CRecentDockSiteInfo) {
     MEMBER(void, Init, ());
     MEMBER(CRecentDockSiteInfo&, operator=, (CRecentDockSiteInfo&));
     VIRTUAL(void, SetInfo, (BOOL, CRecentDockSiteInfo&));
+}
+
+INTERFACE_OF(CMFCCaptionButton) {
+    BASE(CObject);
+    MADE_FROM();
+    MADE_FROM(UINT);
+    MADE_FROM(UINT, BOOL);
+    MEMBER(UINT, GetHit, () const);
+    VIRTUAL(CRect, GetRect, () const);
+    STATIC(CSize, GetSize, ());
+    MEMBER(BOOL, IsMiniFrameButton, () const);
+    MEMBER(void, Move, (const CPoint&, BOOL));
+    CALL(Move, const CPoint&);
+    VIRTUAL(void, OnDraw, (CDC*, BOOL, BOOL, BOOL, BOOL));
+    CALL(OnDraw, CDC*, BOOL);
+    MEMBER(void, SetMiniFramebutton, (BOOL));
+    CALL(SetMiniFramebutton);
 }

@@ -199,6 +199,7 @@ INTERFACE_OF(CMFCRibbonCategory) {
     VIRTUAL(BOOL, OnDrawImage, (CDC*, CRect, CMFCRibbonBaseElement*, BOOL, BOOL, BOOL));
     VIRTUAL(CMFCRibbonBaseElement*, OnLButtonDown, (CPoint));
     VIRTUAL(void, OnLButtonUp, (CPoint));
+    VIRTUAL(BOOL, OnKey, (UINT));
     VIRTUAL(void, OnMouseMove, (CPoint));
     VIRTUAL(BOOL, OnScrollHorz, (BOOL, int));
     CALL(OnScrollHorz, BOOL);
@@ -309,6 +310,16 @@ INTERFACE_OF(CMFCRibbonLabel) {
     VIRTUAL(BOOL, SetACCData, (CWnd*, CAccessibilityData&));
 }
 
+INTERFACE_OF(CMFCRibbonLaunchButton) {
+    BASE(CMFCRibbonButton);
+    MADE_FROM();
+    NAMED(CreateObject);
+    NAMED(GetThisClass);
+    VIRTUAL(CRect, GetKeyTipRect, (CDC*, BOOL));
+    VIRTUAL(CSize, GetRegularSize, (CDC*));
+    VIRTUAL(void, OnDraw, (CDC*));
+}
+
 INTERFACE_OF(CMFCRibbonMainPanel) {
     BASE(CMFCRibbonPanel);
     VIRTUAL(void, Add, (CMFCRibbonBaseElement*));
@@ -326,6 +337,8 @@ INTERFACE_OF(CMFCRibbonPanel) {
     BASE(CObject);
     VIRTUAL(void, Add, (CMFCRibbonBaseElement*));
     VIRTUAL(void, AddSeparator, ());
+    MEMBER(void, EnableLaunchButton, (UINT, int, LPCTSTR));
+    CALL(EnableLaunchButton, UINT);
     MEMBER(CMFCRibbonBaseElement*, FindByData, (DWORD_PTR) const);
     MEMBER(CMFCRibbonBaseElement*, FindByID, (UINT) const);
     MEMBER(int, GetCaptionHeight, () const);
@@ -340,6 +353,7 @@ INTERFACE_OF(CMFCRibbonPanel) {
     MEMBER(CMFCRibbonBaseElement*, GetHighlighted, () const);
     VIRTUAL(int, GetIndex, (CMFCRibbonBaseElement*) const);
     MEMBER(void, GetItemIDsList, (CList<UINT, UINT>&) const);
+    MEMBER(CMFCRibbonButton&, GetLaunchButton, ());
     MEMBER(LPCTSTR, GetName, () const);
     MEMBER(CMFCRibbonBaseElement*, GetParentButton, () const);
     MEMBER(CMFCRibbonCategory*, GetParentCategory, () const);
@@ -359,6 +373,7 @@ INTERFACE_OF(CMFCRibbonPanel) {
     MEMBER(BOOL, IsJustifyColumns, () const);
     VIRTUAL(BOOL, IsMainPanel, () const);
     MEMBER(BOOL, IsMenuMode, () const);
+    VIRTUAL(BOOL, OnKey, (UINT));
     MEMBER(BOOL, Remove, (int, BOOL));
     CALL(Remove, int);
     MEMBER(void, RemoveAll, ());

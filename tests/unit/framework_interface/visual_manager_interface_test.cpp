@@ -68,6 +68,8 @@ INTERFACE_OF(CMFCVisualManager) {
     VIRTUAL(void, OnDrawBarGripper, (CDC*, CRect, BOOL, CBasePane*));
     VIRTUAL(void, OnDrawButtonBorder, (CDC*, CMFCToolBarButton*, CRect, CMFCVisualManager::AFX_BUTTON_STATE));
     VIRTUAL(void, OnDrawButtonSeparator, (CDC*, CMFCToolBarButton*, CRect, CMFCVisualManager::AFX_BUTTON_STATE, BOOL));
+    VIRTUAL(void, OnDrawCaptionButton, (CDC*, CMFCCaptionButton*, BOOL, BOOL, BOOL, BOOL, int));
+    CALL(OnDrawCaptionButton, CDC*, CMFCCaptionButton*, BOOL, BOOL, BOOL, BOOL);
     VIRTUAL(void, OnDrawCheckBox, (CDC*, CRect, BOOL, BOOL, BOOL));
     VIRTUAL(void, OnDrawCheckBoxEx, (CDC*, CRect, int, BOOL, BOOL, BOOL));
     VIRTUAL(void, OnDrawComboBorder, (CDC*, CRect, BOOL, BOOL, BOOL, CMFCToolBarComboBoxButton*));
@@ -106,6 +108,7 @@ INTERFACE_OF(CMFCVisualManager) {
     VIRTUAL(void, OnDrawRibbonGalleryBorder, (CDC*, CMFCRibbonGallery*, CRect));
     VIRTUAL(void, OnDrawRibbonKeyTip, (CDC*, CMFCRibbonBaseElement*, CRect, CString));
     VIRTUAL(void, OnDrawRibbonLabel, (CDC*, CMFCRibbonLabel*, CRect));
+    VIRTUAL(void, OnDrawRibbonLaunchButton, (CDC*, CMFCRibbonLaunchButton*, CMFCRibbonPanel*));
     VIRTUAL(void, OnDrawRibbonMainPanelButtonBorder, (CDC*, CMFCRibbonButton*));
     VIRTUAL(void, OnDrawRibbonMainPanelFrame, (CDC*, CMFCRibbonMainPanel*, CRect));
     VIRTUAL(void, OnDrawRibbonMenuCheckFrame, (CDC*, CMFCRibbonButton*, CRect));
@@ -328,6 +331,7 @@ INTERFACE_OF(CMFCVisualManagerOffice2007) {
     VIRTUAL(void, OnDrawRibbonDefaultPaneButtonIndicator, (CDC*, CMFCRibbonButton*, CRect, BOOL, BOOL));
     VIRTUAL(void, OnDrawRibbonGalleryBorder, (CDC*, CMFCRibbonGallery*, CRect));
     VIRTUAL(void, OnDrawRibbonKeyTip, (CDC*, CMFCRibbonBaseElement*, CRect, CString));
+    VIRTUAL(void, OnDrawRibbonLaunchButton, (CDC*, CMFCRibbonLaunchButton*, CMFCRibbonPanel*));
     VIRTUAL(void, OnDrawRibbonMainPanelButtonBorder, (CDC*, CMFCRibbonButton*));
     VIRTUAL(void, OnDrawRibbonMainPanelFrame, (CDC*, CMFCRibbonMainPanel*, CRect));
     VIRTUAL(void, OnDrawRibbonMenuCheckFrame, (CDC*, CMFCRibbonButton*, CRect));

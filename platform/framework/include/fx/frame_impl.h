@@ -30,34 +30,23 @@ public:
     BOOL HandActiveKeyToRibbon(const MSG& message);
     BOOL HandKeyToRibbon(const MSG& message);
 
+    /// F6 and Shift+F6 in the frame or one of its panes: the focus goes on to the next of ribbon, panes and document.
+    BOOL MoveFocusToNextPane(BOOL forward);
+
     // The ribbon as the frame's caption: the frame gives up the system's (WS_CAPTION) while a ribbon that replaces it
-    // is shown, and answers the system for it. The functions below may be called only while ReplacesCaption().
+    // is shown, and answers the system for it.
     /// Takes the caption away or gives it back, as the ribbon says now. Before each layout.
     void UpdateCaptionStyle();
     bool ReplacesCaption() const { return m_replacesCaption; }
-    /// The client area is all within the sizing borders; all of the window when it is maximised.
-    void OnNcCalcSize(RECT& rect) const;
-    LRESULT OnNcHitTest(CPoint point);
-    void OnNcPaint();
-    void OnNcActivate(bool isActive);
-    /// A maximised frame covers the work area of its monitor, not the whole monitor.
-    void OnGetMinMaxInfo(MINMAXINFO& info) const;
-    void OnWindowPosChanged(const WINDOWPOS& place);
-    /// Another look may shape the window differently.
-    void OnChangeVisualManager();
-    void RedrawCaption();
-    /// Takes the ribbon's rows out of the context's clip region: erasing them would flash while the frame grows, before
-    /// the ribbon has its new width.
-    void KeepRibbonFromErasing(CDC& dc);
-    /// TRUE: the message is done. Double click on caption or icon, right click, press on the icon.
-    BOOL OnNcButton(UINT message, UINT hit, CPoint point);
-    /// TRUE when the command opens the system menu by keyboard, which then was shown.
-    BOOL OnSysCommand(UINT command, LPARAM key);
     /// Modal. Screen point; what was chosen is posted to the frame.
     void ShowSystemMenu(CPoint point);
 
-    /// Colours, fonts or scale of the system have changed: reads them again, lays out and redraws. dpi 0: as it was.
-    void OnSystemChange(UINT dpi = 0);
+    /// The DefWindowProc of the frame's base class.
+    using SystemProc = LRESULT (*)(CFrameWnd& frame, UINT message, WPARAM wParam, LPARAM lParam);
+    /// The frame's DefWindowProc: what it does itself, then or instead what the system does.
+    LRESULT OnDefault(UINT message, WPARAM wParam, LPARAM lParam, SystemProc system);
+    /// Another look may shape the window differently: lays out and redraws everything.
+    void OnChangeVisualManager();
 
     void OnShowPopupMenu(CMFCPopupMenu* popup);
     void OnClosePopupMenu(CMFCPopupMenu* popup);
@@ -71,10 +60,30 @@ private:
     CMFCRibbonBar* RibbonForKeys(const MSG& message);
     int BorderWidth() const;
     void UpdateRegion();
+    bool DrawsCaption(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, SystemProc system);
+    LRESULT DefaultWithCaption(UINT message, WPARAM wParam, LPARAM lParam, SystemProc system);
+    LRESULT OnEraseBkgnd(HDC dc, SystemProc system);
+    /// The client area is all within the sizing borders; all of the window when it is maximised.
+    void OnNcCalcSize(RECT& rect) const;
+    LRESULT OnNcHitTest(CPoint point);
+    void OnNcPaint();
+    void OnNcActivate(bool isActive);
+    /// A maximised frame covers the work area of its monitor, not the whole monitor.
+    void OnGetMinMaxInfo(MINMAXINFO& info) const;
+    void OnWindowPosChanged(const WINDOWPOS& place);
+    void RedrawCaption();
+    /// TRUE: the message is done. Double click on caption or icon, right click, press on the icon.
+    BOOL OnNcButton(UINT message, UINT hit, CPoint point);
+    /// TRUE when the command opens the system menu by keyboard, which then was shown.
+    BOOL OnSysCommand(UINT command, LPARAM key);
+    /// Colours, fonts or scale of the system have changed: reads them again, lays out and redraws. dpi 0: as it was.
+    void OnSystemChange(UINT dpi = 0);
+    void OnDpiChanged(UINT dpi, const RECT* place);
 
     CFrameWnd* m_frame;
     bool m_replacesCaption = false;
     bool m_hasRegion = false;
+    bool m_wasZoomed = false; ///< when its size last changed
     CSize m_regionSize{0, 0}; ///< of the window when its region was set; 0, 0: maximised or none
     CDockingManager m_dockingManager;
     CMFCMenuBar* m_menuBar = nullptr;

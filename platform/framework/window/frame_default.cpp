@@ -1,0 +1,132 @@
+// What a frame with panes does in place of the system, for the frame of one window and for the MDI frame alike: its
+// DefWindowProc comes here, so that a host's own handlers are asked first and get here by calling their base class.
+#include "fx/frame_impl.h"
+
+#include <windowsx.h>
+
+#include "afxribbonbar.h"
+#include "afxvisualmanager.h"
+
+namespace {
+
+CPoint PointOf(LPARAM lParam) { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
+
+} // namespace
+
+LRESULT CFrameImpl::OnDefault(UINT message, WPARAM wParam, LPARAM lParam, SystemProc system) {
+    switch (message) {
+    case WM_ERASEBKGND:
+        return OnEraseBkgnd(reinterpret_cast<HDC>(wParam), system);
+    case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE: {
+        const LRESULT result = system(*m_frame, message, wParam, lParam);
+        OnSystemChange();
+        return result;
+    }
+    case WM_DPICHANGED:
+        OnDpiChanged(LOWORD(wParam), reinterpret_cast<const RECT*>(lParam));
+        return 0;
+    default:
+        break;
+    }
+    if (!m_replacesCaption) {
+        return system(*m_frame, message, wParam, lParam);
+    }
+    LRESULT result = 0;
+    if (!m_frame->IsIconic() && DrawsCaption(message, wParam, lParam, result, system)) {
+        return result;
+    }
+    return DefaultWithCaption(message, wParam, lParam, system);
+}
+
+// An iconic frame has no client area: the system draws it and finds its points.
+bool CFrameImpl::DrawsCaption(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, SystemProc system) {
+    switch (message) {
+    case WM_NCCALCSIZE:
+        // With and without wParam the first of what lParam leads to is the window's rectangle.
+        OnNcCalcSize(*reinterpret_cast<RECT*>(lParam));
+        return true;
+    case WM_NCHITTEST:
+        result = OnNcHitTest(PointOf(lParam));
+        return true;
+    case WM_NCPAINT:
+        OnNcPaint();
+        return true;
+    case WM_NCACTIVATE:
+        // -1: the system notes the activation but draws nothing.
+        system(*m_frame, message, wParam, -1);
+        OnNcActivate(wParam != FALSE);
+        result = TRUE;
+        return true;
+    default:
+        return false;
+    }
+}
+
+LRESULT CFrameImpl::DefaultWithCaption(UINT message, WPARAM wParam, LPARAM lParam, SystemProc system) {
+    switch (message) {
+    case WM_NCLBUTTONDOWN:
+    case WM_NCLBUTTONDBLCLK:
+    case WM_NCRBUTTONDOWN:
+    case WM_NCRBUTTONUP:
+        if (OnNcButton(message, static_cast<UINT>(wParam), PointOf(lParam))) {
+            return 0;
+        }
+        break;
+    case WM_SYSCOMMAND:
+        if (OnSysCommand(static_cast<UINT>(wParam), lParam)) {
+            return 0;
+        }
+        break;
+    case WM_GETMINMAXINFO:
+    case WM_WINDOWPOSCHANGED:
+    case WM_SETTEXT: {
+        const LRESULT result = system(*m_frame, message, wParam, lParam);
+        if (message == WM_GETMINMAXINFO) {
+            OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
+        } else if (message == WM_WINDOWPOSCHANGED) {
+            OnWindowPosChanged(*reinterpret_cast<const WINDOWPOS*>(lParam));
+        } else {
+            RedrawCaption();
+        }
+        return result;
+    }
+    default:
+        break;
+    }
+    return system(*m_frame, message, wParam, lParam);
+}
+
+// The ribbon's rows stay: erasing them would flash while the frame grows, before the ribbon has its new width.
+LRESULT CFrameImpl::OnEraseBkgnd(HDC dc, SystemProc system) {
+    CMFCRibbonBar* ribbon = RibbonBar();
+    const int saved = ::SaveDC(dc);
+    if (ribbon != nullptr && ribbon->IsVisible()) {
+        CRect rows;
+        ribbon->GetWindowRect(&rows);
+        m_frame->ScreenToClient(&rows);
+        CRect client;
+        m_frame->GetClientRect(&client);
+        ::ExcludeClipRect(dc, client.left, rows.top, client.right, rows.bottom);
+    }
+    const LRESULT isErased = system(*m_frame, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0);
+    ::RestoreDC(dc, saved);
+    return isErased;
+}
+
+void CFrameImpl::OnDpiChanged(UINT dpi, const RECT* place) {
+    OnSystemChange(dpi);
+    if (place != nullptr) {
+        m_frame->SetWindowPos(nullptr, place->left, place->top, place->right - place->left, place->bottom - place->top,
+                              SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+void CFrameImpl::OnChangeVisualManager() {
+    if (m_replacesCaption) {
+        m_regionSize = CSize(-1, -1);
+        UpdateRegion();
+    }
+    m_frame->RecalcLayout();
+    m_frame->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
+}
