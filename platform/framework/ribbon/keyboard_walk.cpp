@@ -9,7 +9,6 @@
 #include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "afxribbonpanelmenu.h"
-#include "afxribbonslider.h"
 #include "fx/frame.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/keyboard.h"
@@ -35,12 +34,6 @@ void Join(Elements& to, const Elements& from) { to.insert(to.end(), from.begin()
 
 bool Contains(const Elements& elements, const CMFCRibbonBaseElement* element) {
     return std::find(elements.begin(), elements.end(), element) != elements.end();
-}
-
-// These do nothing by a key of their own: they take the focus.
-bool TakesFocus(CMFCRibbonBaseElement& element) {
-    const auto* edit = DYNAMIC_DOWNCAST(CMFCRibbonEdit, &element);
-    return (edit != nullptr && edit->TakesTyping()) || element.IsKindOf(RUNTIME_CLASS(CMFCRibbonSlider));
 }
 
 ribbon::FocusStep StepOf(UINT key) {
@@ -427,111 +420,4 @@ void RibbonKeyboard::GoToNextPane(bool forward) {
         m_formerFocus = manager->FindNextFocus(m_bar.GetSafeHwnd(), forward);
     }
     Deactivate(Focus::GiveBack);
-}
-
-// ---- what a key does
-
-// A command comes after the focus has returned, as if it had been clicked.
-void RibbonKeyboard::Execute(CMFCRibbonBaseElement& element, bool isMenu) {
-    if (element.IsDisabled()) {
-        ::MessageBeep(MB_OK);
-        return;
-    }
-    if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, &element)) {
-        ExecuteTab(*tab);
-        return;
-    }
-    const auto* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element);
-    if (TakesFocus(element)) {
-        HideTips();
-        TakeFocusTo(element);
-        return;
-    }
-    if (button != nullptr && button->HasDropDown() && (isMenu || !button->IsDefaultCommand())) {
-        OpenMenu(element, isMenu);
-        return;
-    }
-    const HWND window = m_bar.GetSafeHwnd();
-    m_target = &element;
-    Deactivate(Focus::GiveBack);
-    if (!::IsWindow(window)) {
-        return;
-    }
-    if (CMFCRibbonBaseElement* target = std::exchange(m_target, nullptr)) {
-        target->OnKey(isMenu);
-    }
-}
-
-// In a pop-up the element is the one that its keys go to; the focus stays in the bar unless an edit takes the caret.
-void RibbonKeyboard::TakeFocusTo(CMFCRibbonBaseElement& element) {
-    CMFCRibbonPanelMenuBar* popup = element.GetParentMenu();
-    if (popup != nullptr) {
-        popup->Highlight(&element);
-    }
-    if (popup == nullptr || element.IsKindOf(RUNTIME_CLASS(CMFCRibbonEdit))) {
-        SetFocusTo(&element);
-    }
-}
-
-// A tab opens its category, an edit or slider takes the focus; the others act as on a click.
-void RibbonKeyboard::Invoke(CMFCRibbonBaseElement& element) {
-    if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, &element)) {
-        ChooseTab(*tab);
-    } else if (TakesFocus(element)) {
-        Activate();
-        TakeFocusTo(element);
-    } else if (m_isActive) {
-        Execute(element, false);
-    } else if (!element.IsDisabled()) {
-        element.OnKey(FALSE);
-    }
-}
-
-// With tips the next letters are those of the category; without, its first element gets the focus.
-void RibbonKeyboard::ExecuteTab(CMFCRibbonTab& tab) {
-    if (!m_areTipsShown) {
-        EnterCategory(tab);
-        return;
-    }
-    const HWND window = m_bar.GetSafeHwnd();
-    m_target = &tab;
-    ChooseTab(tab);
-    if (!::IsWindow(window) || !m_isActive || m_target == nullptr) {
-        return;
-    }
-    m_target = nullptr;
-    SetFocusTo(&tab);
-    m_bar.EnsureLayout();
-    CMFCRibbonCategory* category = tab.GetParentCategory();
-    if (category->GetRect().IsRectEmpty()) {
-        // Minimised: a press shows the panels, in a pop-up that brings a level of its own.
-        m_target = &tab;
-        tab.OnLButtonDown(tab.GetRect().CenterPoint());
-        if (!::IsWindow(window) || !m_isActive || std::exchange(m_target, nullptr) == nullptr) {
-            return;
-        }
-    }
-    if (!IsPopupOnTop()) {
-        PushLevel(category);
-    }
-    ShowMatchingTips();
-}
-
-// A menu that runs its own loop is over when the call returns; a pop-up has brought its level, or has dropped down.
-void RibbonKeyboard::OpenMenu(CMFCRibbonBaseElement& element, bool isMenu) {
-    const HWND window = m_bar.GetSafeHwnd();
-    for (const Level& level : m_levels) {
-        for (const auto& tip : level.tips) {
-            tip->Hide();
-        }
-    }
-    m_target = &element;
-    element.OnKey(isMenu);
-    if (!::IsWindow(window) || !m_isActive) {
-        return;
-    }
-    const CMFCRibbonBaseElement* target = std::exchange(m_target, nullptr);
-    if (!IsPopupOnTop() && (target == nullptr || !target->IsDroppedDown())) {
-        Deactivate(Focus::GiveBack);
-    }
 }
