@@ -25,8 +25,9 @@ protected:
         }
         EXPECT_EQ((object.State() & STATE_SYSTEM_UNAVAILABLE) == 0, element["enabled"].get<bool>());
         const bool isGroup = element["class"] == "CMFCRibbonButtonsGroup";
-        const bool hasMenu = !isGroup && element.contains("children");
-        EXPECT_EQ((object.State() & STATE_SYSTEM_HASPOPUP) != 0, hasMenu);
+        // Sub-items, or the list of a combo.
+        const bool dropsDown = !isGroup && (element.contains("children") || element.contains("dropDownHeight"));
+        EXPECT_EQ((object.State() & STATE_SYSTEM_HASPOPUP) != 0, dropsDown);
         if (!isGroup)
             return;
         const auto& members = element["children"];
