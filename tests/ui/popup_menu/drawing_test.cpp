@@ -2,6 +2,7 @@
 #include <string>
 
 #include "afxglobals.h"
+#include "tests/support/canvas.h"
 #include "tests/support/picture_file.h"
 #include "tests/ui/popup_menu/menu_frame.h"
 
@@ -20,49 +21,34 @@ public:
     DrawnBar bar;
 };
 
-constexpr DWORD unpainted = 0xFF00FF;
+constexpr std::uint32_t unpainted = 0xFF00FF;
 
-/// The menu as it draws itself: 32 bits a pixel, top row first.
-class Picture {
+CSize ClientSize(const CWnd& window) {
+    CRect client;
+    window.GetClientRect(client);
+    return client.Size();
+}
+
+/// The menu as it draws itself.
+class Picture : public Canvas {
 public:
-    explicit Picture(DrawnMenu& menu) {
-        CRect client;
-        menu.GetClientRect(client);
-        m_size = client.Size();
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), m_size.cx, -m_size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        m_pixels = static_cast<DWORD*>(bits);
-        std::fill(m_pixels, m_pixels + m_size.cx * m_size.cy, unpainted);
-        CDC dc;
-        dc.CreateCompatibleDC(nullptr);
-        const HGDIOBJ previous = ::SelectObject(dc.GetSafeHdc(), m_bitmap);
+    explicit Picture(DrawnMenu& menu) : Canvas(ClientSize(menu), unpainted), m_bar(menu.GetBarRect()) {
+        CDC& dc = *Dc();
         menu.DrawFrame(&dc);
-        m_bar = menu.GetBarRect();
         dc.SetViewportOrg(m_bar.TopLeft());
         dc.IntersectClipRect(CRect(CPoint(0, 0), m_bar.Size()));
         menu.bar.DoPaint(&dc);
-        ::GdiFlush();
-        ::SelectObject(dc.GetSafeHdc(), previous);
+        Close();
     }
-    ~Picture() { ::DeleteObject(m_bitmap); }
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
 
-    DWORD At(CPoint point) const { return m_pixels[point.y * m_size.cx + point.x] & 0xFFFFFF; }
     /// A point of the bar.
-    DWORD InBar(int x, int y) const { return At(CPoint(m_bar.left + x, m_bar.top + y)); }
-    CSize Size() const { return m_size; }
+    std::uint32_t InBar(int x, int y) const { return At(m_bar.left + x, m_bar.top + y); }
 
     /// Written for people to look at, when BARWRIGHT_PICTURES names a folder.
-    void Save(const std::wstring& name) const { SavePicture(m_bitmap, name); }
+    void Save(const std::wstring& name) const { SavePicture(Bitmap(), name); }
 
 private:
-    CSize m_size;
     CRect m_bar;
-    HBITMAP m_bitmap = nullptr;
-    DWORD* m_pixels = nullptr;
 };
 
 using Style = CMFCVisualManagerOffice2007::Style;
@@ -103,13 +89,7 @@ TEST_P(MenuLookTest, EveryPixelIsPaintedAndEveryPartIsThere) {
     name += GetParam().name;
     name += GetParam().scale > 1 ? L"-150.png" : L"-100.png";
     picture.Save(name);
-    int holes = 0;
-    for (int y = 0; y < picture.Size().cy; ++y) {
-        for (int x = 0; x < picture.Size().cx; ++x) {
-            holes += picture.At(CPoint(x, y)) == unpainted;
-        }
-    }
-    EXPECT_EQ(holes, 0);
+    EXPECT_EQ(picture.Colours().count(unpainted), 0u);
 
     const CMFCPopupMenuBar& bar = menu->bar;
     const int gutter = bar.GetGutterWidth();
@@ -118,12 +98,12 @@ TEST_P(MenuLookTest, EveryPixelIsPaintedAndEveryPartIsThere) {
     bar.GetItemRect(3, row);
     bar.GetItemRect(4, checked);
     bar.GetItemRect(1, separator);
-    const DWORD fill = picture.InBar(gutter + 3, plain.y);
+    const std::uint32_t fill = picture.InBar(gutter + 3, plain.y);
     // The column of images, the hot row's face, the check mark's face, the border and the separator stand out.
     EXPECT_NE(picture.InBar(2, plain.y), fill);
     EXPECT_NE(picture.InBar(gutter + 3, CenterOf(menu, 0).y), fill);
     EXPECT_NE(picture.InBar(gutter / 2, checked.CenterPoint().y), picture.InBar(2, checked.CenterPoint().y));
-    EXPECT_NE(picture.At(CPoint(0, picture.Size().cy / 2)), fill);
+    EXPECT_NE(picture.At(0, picture.Size().cy / 2), fill);
     bool hasLine = false;
     for (int y = separator.top; y < separator.bottom; ++y) {
         hasLine = hasLine || picture.InBar(row.Width() / 2, y) != fill;
@@ -140,7 +120,7 @@ TEST_P(MenuLookTest, DisabledTextIsPalerThanTheRest) {
         int value = 3 * 255;
         for (int y = row.top + 2; y < row.bottom - 2; ++y) {
             for (int x = menu->bar.GetGutterWidth() + 4; x < row.right - 4; ++x) {
-                const DWORD pixel = picture.InBar(x, y);
+                const std::uint32_t pixel = picture.InBar(x, y);
                 value = std::min<int>(value, GetRValue(pixel) + GetGValue(pixel) + GetBValue(pixel));
             }
         }

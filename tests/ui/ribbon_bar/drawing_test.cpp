@@ -1,62 +1,37 @@
 #include <algorithm>
-#include <set>
 
 #include "afxRibbonLabel.h"
 #include "afxvisualmanager.h"
+#include "tests/support/canvas.h"
 #include "tests/support/picture_file.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
 namespace {
 
-/// A picture of the bar in memory: 32 bits a pixel, top row first.
-class Picture {
-public:
-    explicit Picture(CMFCRibbonBar& bar) {
-        CRect client;
-        bar.GetClientRect(client);
-        m_size = client.Size();
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), m_size.cx, -m_size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        m_pixels = static_cast<DWORD*>(bits);
-        std::fill(m_pixels, m_pixels + m_size.cx * m_size.cy, 0xFF00FF);
-        CDC dc;
-        dc.CreateCompatibleDC(nullptr);
-        const HGDIOBJ previous = ::SelectObject(dc.GetSafeHdc(), m_bitmap);
-        bar.DoPaint(&dc);
-        ::GdiFlush();
-        ::SelectObject(dc.GetSafeHdc(), previous);
-    }
-    ~Picture() { ::DeleteObject(m_bitmap); }
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
+constexpr std::uint32_t g_unpainted = 0xFF00FF;
 
-    DWORD At(int x, int y) const { return m_pixels[y * m_size.cx + x] & 0xFFFFFF; }
-    CSize Size() const { return m_size; }
-    std::set<DWORD> Colours(const CRect& rect) const {
-        std::set<DWORD> colours;
-        for (int y = rect.top; y < rect.bottom; ++y) {
-            for (int x = rect.left; x < rect.right; ++x) {
-                colours.insert(At(x, y));
-            }
-        }
-        return colours;
+CSize ClientSize(const CWnd& window) {
+    CRect client;
+    window.GetClientRect(client);
+    return client.Size();
+}
+
+/// A picture of the bar in memory.
+class Picture : public Canvas {
+public:
+    explicit Picture(CMFCRibbonBar& bar) : Canvas(ClientSize(bar), g_unpainted) {
+        bar.DoPaint(Dc());
+        Close();
     }
 
     /// Written beside the test program for people to look at, when BARWRIGHT_PICTURES names a folder.
-    void Save(const std::wstring& name) const { SavePicture(m_bitmap, name); }
-
-private:
-    CSize m_size;
-    HBITMAP m_bitmap = nullptr;
-    DWORD* m_pixels = nullptr;
+    void Save(const std::wstring& name) const { SavePicture(Bitmap(), name); }
 };
 
 TEST_F(RibbonBarTest, EveryPixelIsPainted) {
     const Picture picture(Bar());
     picture.Save(L"ribbon.png");
-    EXPECT_EQ(picture.Colours(CRect(CPoint(0, 0), picture.Size())).count(0xFF00FF), 0u);
+    EXPECT_EQ(picture.Colours().count(g_unpainted), 0u);
 }
 
 TEST_F(RibbonBarTest, EveryElementShowsSomething) {
@@ -111,8 +86,8 @@ public:
 IMPLEMENT_DYNCREATE(RedTextLook, CMFCVisualManager)
 
 TEST_F(RibbonBarTest, LabelsOfAllKindsHaveTheTextColourOfTheirPanel) {
-    const auto reddish = [](const std::set<DWORD>& colours) {
-        return std::any_of(colours.begin(), colours.end(), [](DWORD colour) {
+    const auto reddish = [](const std::set<std::uint32_t>& colours) {
+        return std::any_of(colours.begin(), colours.end(), [](std::uint32_t colour) {
             return (colour >> 16) > 180 && (colour >> 8 & 0xFF) < 80 && (colour & 0xFF) < 80;
         });
     };
@@ -153,7 +128,7 @@ TEST_F(RibbonBarTest, AtEveryWidthAndScaleEveryPixelIsPainted) {
             const Picture picture(Bar());
             picture.Save(L"ribbon_" + std::to_wstring(width) + L"_" + std::to_wstring(static_cast<int>(scale * 100)) +
                          L".png");
-            EXPECT_EQ(picture.Colours(CRect(CPoint(0, 0), picture.Size())).count(0xFF00FF), 0u) << width;
+            EXPECT_EQ(picture.Colours().count(g_unpainted), 0u) << width;
         }
     }
     afxGlobalData.SetRibbonImageScale(0);

@@ -11,16 +11,6 @@ using testing::IsEmpty;
 
 class QuickAccessTest : public RibbonBarTest {
 protected:
-    void SetDefaultState(std::initializer_list<UINT> visible, std::initializer_list<UINT> others = {}) {
-        CMFCRibbonQuickAccessToolBarDefaultState state;
-        for (const UINT id : visible) {
-            state.AddCommand(id);
-        }
-        for (const UINT id : others) {
-            state.AddCommand(id, FALSE);
-        }
-        Bar().SetQuickAccessDefaultState(state);
-    }
     void SetCommands(std::initializer_list<UINT> ids) {
         CList<UINT, UINT> list;
         for (const UINT id : ids) {
@@ -28,15 +18,6 @@ protected:
         }
         Bar().SetQuickAccessCommands(list);
         PumpPending();
-    }
-    std::vector<UINT> Commands() {
-        CList<UINT, UINT> list;
-        Bar().GetQuickAccessCommands(list);
-        std::vector<UINT> ids;
-        for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
-            ids.push_back(list.GetNext(position));
-        }
-        return ids;
     }
     CMFCRibbonBaseElement* CopyOf(UINT id) {
         ElementArray elements;
@@ -52,7 +33,7 @@ protected:
 
 TEST_F(QuickAccessTest, CommandsAreCopiesLinkedToTheirOriginals) {
     SetCommands({commands::cut, commands::paste});
-    EXPECT_THAT(Commands(), ElementsAre(commands::cut, commands::paste));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::cut, commands::paste));
     CMFCRibbonBaseElement* copy = CopyOf(commands::paste);
     ASSERT_NE(copy, nullptr);
     EXPECT_NE(copy, &Element(commands::paste));
@@ -66,7 +47,8 @@ TEST_F(QuickAccessTest, CommandsAreCopiesLinkedToTheirOriginals) {
 
 TEST_F(QuickAccessTest, SeparatorsAreShownAndNotListedAndUnknownCommandsLeftOut) {
     SetCommands({commands::cut, 0, 9999, commands::find});
-    EXPECT_THAT(Commands(), ElementsAre(commands::cut, commands::find)) << "also from categories that are not active";
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::cut, commands::find))
+        << "also from categories that are not active";
 }
 
 TEST_F(QuickAccessTest, LiesAboveTheTabsAndAClickSendsTheCommand) {
@@ -91,36 +73,36 @@ TEST_F(QuickAccessTest, BelowTheRibbonItLiesUnderTheCategory) {
 }
 
 TEST_F(QuickAccessTest, TheDefaultStateAppliesUntilCommandsAreSet) {
-    SetDefaultState({commands::paste}, {commands::cut});
-    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
-    SetDefaultState({commands::find, commands::cut});
-    EXPECT_THAT(Commands(), ElementsAre(commands::find, commands::cut));
+    SetQuickAccessDefault({commands::paste}, {commands::cut});
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::paste));
+    SetQuickAccessDefault({commands::find, commands::cut});
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::find, commands::cut));
     SetCommands({commands::copy});
-    SetDefaultState({commands::paste});
-    EXPECT_THAT(Commands(), ElementsAre(commands::copy));
+    SetQuickAccessDefault({commands::paste});
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::copy));
 }
 
 TEST_F(QuickAccessTest, AnEmptyDefaultStateEmptiesTheToolbar) {
-    SetDefaultState({commands::paste});
-    SetDefaultState({});
-    EXPECT_THAT(Commands(), IsEmpty());
+    SetQuickAccessDefault({commands::paste});
+    SetQuickAccessDefault({});
+    EXPECT_THAT(QuickAccessCommands(), IsEmpty());
     EXPECT_TRUE(Bar().IsQATEmpty());
 }
 
 TEST_F(QuickAccessTest, ADefaultStateNamedBeforeItsElementsAppliesOnceTheyAreThere) {
-    SetDefaultState({commands::closesFrame});
-    EXPECT_THAT(Commands(), IsEmpty());
+    SetQuickAccessDefault({commands::closesFrame});
+    EXPECT_THAT(QuickAccessCommands(), IsEmpty());
     Bar().GetCategory(0)->GetPanel(0)->Add(new CMFCRibbonButton(commands::closesFrame, L"Close"));
     Bar().RecalcLayout();
-    EXPECT_THAT(Commands(), ElementsAre(commands::closesFrame));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::closesFrame));
 }
 
 TEST_F(QuickAccessTest, ACopyGoesWithItsOriginal) {
     SetCommands({commands::cut, commands::paste});
     Bar().GetCategory(0)->GetPanel(0)->Remove(0);
-    EXPECT_THAT(Commands(), ElementsAre(commands::cut));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::cut));
     Bar().RemoveCategory(0);
-    EXPECT_THAT(Commands(), IsEmpty());
+    EXPECT_THAT(QuickAccessCommands(), IsEmpty());
     PumpPending();
 }
 
@@ -132,7 +114,7 @@ TEST_F(QuickAccessTest, InANarrowBarWhatHasNoRoomIsNotShown) {
     }
     Bar().SetQuickAccessCommands(list);
     SetClientWidth(300);
-    EXPECT_EQ(Commands().size(), 40u);
+    EXPECT_EQ(QuickAccessCommands().size(), 40u);
     CRect client;
     Bar().GetClientRect(client);
     EXPECT_LE(Bar().GetQuickAccessToolbarLocation().right, client.right);
@@ -148,7 +130,7 @@ TEST_F(QuickAccessTest, TenTimesTheCommandsTakeNoMoreThanFortyTimesTheTime) {
             list.AddTail(commands::firstHandled + 1000 + static_cast<UINT>(index));
         }
         const double seconds = MeasureSeconds([&] { Bar().SetQuickAccessCommands(list, FALSE); });
-        EXPECT_EQ(Commands().size(), static_cast<size_t>(count));
+        EXPECT_EQ(QuickAccessCommands().size(), static_cast<size_t>(count));
         Bar().RemoveCategory(Bar().GetCategoryIndex(category));
         return seconds;
     };

@@ -12,6 +12,7 @@ IMPLEMENT_DYNCREATE(HostCategory, CMFCRibbonCategory)
 
 BEGIN_MESSAGE_MAP(RibbonFrame, CFrameWndEx)
 ON_WM_CREATE()
+ON_WM_GETMINMAXINFO()
 ON_COMMAND_RANGE(commands::firstHandled, commands::lastHandled, OnRibbonCommand)
 ON_UPDATE_COMMAND_UI_RANGE(commands::firstHandled, commands::lastHandled, OnUpdateRibbonCommand)
 ON_REGISTERED_MESSAGE(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, OnCategoryChanged)
@@ -63,6 +64,11 @@ BOOL RibbonFrame::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* i
         commands.push_back(id); // a command, not the question whether anybody handles it
     }
     return TRUE;
+}
+
+void RibbonFrame::OnGetMinMaxInfo(MINMAXINFO* limits) {
+    CFrameWndEx::OnGetMinMaxInfo(limits);
+    limits->ptMaxTrackSize = {10000, 10000};
 }
 
 LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {
@@ -165,9 +171,34 @@ CMFCRibbonBaseElement& RibbonBarTest::Element(UINT id) {
     return *element;
 }
 
+void RibbonBarTest::SetQuickAccessDefault(std::initializer_list<UINT> visible, std::initializer_list<UINT> others) {
+    CMFCRibbonQuickAccessToolBarDefaultState state;
+    for (const UINT id : visible) {
+        state.AddCommand(id);
+    }
+    for (const UINT id : others) {
+        state.AddCommand(id, FALSE);
+    }
+    Bar().SetQuickAccessDefaultState(state);
+    PumpPending();
+}
+
+std::vector<UINT> RibbonBarTest::QuickAccessCommands() {
+    CList<UINT, UINT> list;
+    Bar().GetQuickAccessCommands(list);
+    std::vector<UINT> ids;
+    for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
+        ids.push_back(list.GetNext(position));
+    }
+    return ids;
+}
+
 void RibbonBarTest::SetClientWidth(int width) {
     CRect window(0, 0, width, 600);
     m_frame->CalcWindowRect(window);
     m_frame->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    CRect client;
+    m_frame->GetClientRect(client);
+    EXPECT_EQ(client.Width(), width) << "the system has another limit";
     PumpPending();
 }

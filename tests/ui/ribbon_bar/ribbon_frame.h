@@ -65,6 +65,8 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnRibbonCommand(UINT id);
     afx_msg void OnUpdateRibbonCommand(CCmdUI* update);
+    /// Lets the frame be wider than the screen.
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* limits);
     afx_msg LRESULT OnCategoryChanged(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 };
@@ -79,8 +81,12 @@ protected:
     CMFCRibbonBaseElement& Element(UINT id);
     static CPoint Center(const CRect& rect) { return rect.CenterPoint(); }
     CPoint CenterOf(UINT id) { return Center(Element(id).GetRect()); }
+    /// Any width, wider than the screen too.
     void SetClientWidth(int width);
     void FillBar();
+    /// The commands that the quick access toolbar starts with, and others that its menu offers.
+    void SetQuickAccessDefault(std::initializer_list<UINT> visible, std::initializer_list<UINT> others = {});
+    std::vector<UINT> QuickAccessCommands();
     /// A grid of that many small buttons in a category of their own; ids from firstHandled + 1000 on.
     CMFCRibbonCategory* AddManyButtons(int count, int perPanel);
 

@@ -65,6 +65,17 @@ void RibbonPopupTest::Press(UINT key) {
     PumpPending();
 }
 
+CMFCRibbonBaseElement* RibbonPopupTest::FindInQuickAccess(const CRuntimeClass* kind) {
+    const CRect toolbar = Bar().GetQuickAccessToolbarLocation();
+    for (int x = toolbar.left; x < toolbar.right; ++x) {
+        CMFCRibbonBaseElement* hit = Bar().HitTest(CPoint(x, toolbar.CenterPoint().y));
+        if (hit != nullptr && hit->IsKindOf(kind)) {
+            return hit;
+        }
+    }
+    return nullptr;
+}
+
 CMFCRibbonPanel& RibbonPopupTest::Collapse(int panel) {
     CArray<int, int> order;
     for (int step = 0; step < 3; ++step) {

@@ -35,6 +35,8 @@ protected:
     void Click(const CMFCRibbonBaseElement& element, CPoint at);
     void MoveOver(const CMFCRibbonBaseElement& element);
     void Press(UINT key);
+    /// The shown element of that class in the quick access toolbar; null when there is none.
+    CMFCRibbonBaseElement* FindInQuickAccess(const CRuntimeClass* kind);
     /// Collapses the first panel of the active category and opens it.
     CMFCRibbonPanel& OpenCollapsedPanel();
     CMFCRibbonPanel& Collapse(int panel);

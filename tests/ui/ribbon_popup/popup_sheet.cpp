@@ -1,21 +1,15 @@
 // Writes pictures of a frame's pop-ups in all styles, for people to look at.   ribbon_popup_sheet DIR PERCENT
 #include <afxvisualmanageroffice2007.h>
-#include <gdiplus.h>
 
 #include <string>
 
+#include "tests/support/png_file.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
 
 std::wstring g_directory;
 int g_percent = 100;
-
-bool SavePng(HBITMAP bitmap, const std::wstring& path) {
-    const CLSID png = {0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
-    Gdiplus::Bitmap picture(bitmap, nullptr);
-    return picture.Save(path.c_str(), &png, nullptr) == Gdiplus::Ok;
-}
 
 class PopupSheet : public RibbonPopupTest {
 protected:
@@ -56,7 +50,7 @@ protected:
             x += rect.Width() + 10;
         }
         ::SelectObject(dc.GetSafeHdc(), old);
-        EXPECT_TRUE(SavePng(bitmap, g_directory + L"\\" + name + L".png"));
+        EXPECT_TRUE(WritePng(bitmap, g_directory + L"\\" + name + L".png"));
         ::DeleteObject(bitmap);
     }
 };
@@ -129,12 +123,8 @@ int main(int count, char** arguments) {
     }
     g_directory.assign(arguments[1], arguments[1] + strlen(arguments[1]));
     g_percent = atoi(arguments[2]);
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
+    const ScopedGdiplus gdiplus;
     int one = 1;
     testing::InitGoogleTest(&one, arguments);
-    const int result = RUN_ALL_TESTS();
-    Gdiplus::GdiplusShutdown(token);
-    return result;
+    return RUN_ALL_TESTS();
 }

@@ -11,26 +11,6 @@ using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 
 class QuickAccessPopup : public RibbonPopupTest {
 protected:
-    void SetDefaultState(std::initializer_list<UINT> visible, std::initializer_list<UINT> others = {}) {
-        CMFCRibbonQuickAccessToolBarDefaultState state;
-        for (const UINT id : visible) {
-            state.AddCommand(id);
-        }
-        for (const UINT id : others) {
-            state.AddCommand(id, FALSE);
-        }
-        Bar().SetQuickAccessDefaultState(state);
-        PumpPending();
-    }
-    std::vector<UINT> Commands() {
-        CList<UINT, UINT> list;
-        Bar().GetQuickAccessCommands(list);
-        std::vector<UINT> ids;
-        for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
-            ids.push_back(list.GetNext(position));
-        }
-        return ids;
-    }
     CMFCRibbonBaseElement& At(CPoint point) {
         CMFCRibbonBaseElement* hit = Bar().HitTest(point);
         if (hit == nullptr) {
@@ -39,25 +19,12 @@ protected:
         return *hit;
     }
     CMFCRibbonBaseElement& CustomizeButton() {
-        const CRect toolbar = Bar().GetQuickAccessToolbarLocation();
-        for (int x = toolbar.right - 1; x > toolbar.left; --x) {
-            CMFCRibbonBaseElement* hit = Bar().HitTest(CPoint(x, toolbar.CenterPoint().y));
-            if (DYNAMIC_DOWNCAST(CMFCRibbonQuickAccessCustomizeButton, hit) != nullptr) {
-                return *hit;
-            }
+        if (CMFCRibbonBaseElement* button = FindInQuickAccess(RUNTIME_CLASS(CMFCRibbonQuickAccessCustomizeButton))) {
+            return *button;
         }
         throw std::runtime_error("no customize button");
     }
-    CMFCRibbonBaseElement* MoreButton() {
-        const CRect toolbar = Bar().GetQuickAccessToolbarLocation();
-        for (int x = toolbar.left; x < toolbar.right; ++x) {
-            CMFCRibbonBaseElement* hit = Bar().HitTest(CPoint(x, toolbar.CenterPoint().y));
-            if (DYNAMIC_DOWNCAST(CMFCRibbonQuickAccessMoreButton, hit) != nullptr) {
-                return hit;
-            }
-        }
-        return nullptr;
-    }
+    CMFCRibbonBaseElement* MoreButton() { return FindInQuickAccess(RUNTIME_CLASS(CMFCRibbonQuickAccessMoreButton)); }
     CMFCRibbonBaseElement& Row(LPCTSTR text) {
         ElementArray rows;
         PopupBar().GetElements(rows);
@@ -71,22 +38,22 @@ protected:
 };
 
 TEST_F(QuickAccessPopup, TheCustomizeMenuChecksWhatIsShownAndTogglesIt) {
-    SetDefaultState({commands::paste}, {commands::cut});
+    SetQuickAccessDefault({commands::paste}, {commands::cut});
     Click(CustomizeButton());
     ASSERT_EQ(OpenCount(), 1);
     EXPECT_TRUE(Row(L"Paste").IsChecked());
     EXPECT_FALSE(Row(L"Cut").IsChecked());
     Click(Row(L"Cut"));
-    EXPECT_THAT(Commands(), ElementsAre(commands::paste, commands::cut));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::paste, commands::cut));
     EXPECT_EQ(OpenCount(), 0);
     Click(CustomizeButton());
     Click(Row(L"Paste"));
-    EXPECT_THAT(Commands(), ElementsAre(commands::cut));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::cut));
     EXPECT_THAT(m_frame->commands, IsEmpty()) << "customising sends no command";
 }
 
 TEST_F(QuickAccessPopup, TheCustomizeMenuMovesTheToolbarBelowTheRibbonAndBack) {
-    SetDefaultState({commands::paste});
+    SetQuickAccessDefault({commands::paste});
     Click(CustomizeButton());
     Click(Row(L"Show Quick Access Toolbar Below the Ribbon"));
     EXPECT_FALSE(Bar().IsQuickAccessToolbarOnTop());
@@ -96,7 +63,7 @@ TEST_F(QuickAccessPopup, TheCustomizeMenuMovesTheToolbarBelowTheRibbonAndBack) {
 }
 
 TEST_F(QuickAccessPopup, TheCustomizeMenuMinimisesTheRibbon) {
-    SetDefaultState({commands::paste});
+    SetQuickAccessDefault({commands::paste});
     Click(CustomizeButton());
     Click(Row(L"Minimize the Ribbon"));
     EXPECT_NE(Bar().GetHideFlags() & AFX_RIBBONBAR_HIDE_ELEMENTS, 0u);
@@ -108,11 +75,11 @@ TEST_F(QuickAccessPopup, TheContextMenuAddsAnElementAndRemovesItsCopy) {
     Bar().ClientToScreen(&screen);
     Bar().OnShowRibbonContextMenu(&Bar(), screen.x, screen.y, &Element(commands::paste));
     Click(Row(L"Add to Quick Access Toolbar"));
-    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::paste));
     CMFCRibbonBaseElement& copy = At(Bar().GetQATCommandsLocation().CenterPoint());
     Bar().OnShowRibbonContextMenu(&Bar(), screen.x, screen.y, &copy);
     Click(Row(L"Remove from Quick Access Toolbar"));
-    EXPECT_THAT(Commands(), IsEmpty());
+    EXPECT_THAT(QuickAccessCommands(), IsEmpty());
 }
 
 TEST_F(QuickAccessPopup, AnElementIsAddedFromACollapsedPanelsPopup) {
@@ -124,14 +91,14 @@ TEST_F(QuickAccessPopup, AnElementIsAddedFromACollapsedPanelsPopup) {
     ASSERT_EQ(OpenCount(), 2);
     Click(Row(L"Add to Quick Access Toolbar"));
     EXPECT_EQ(OpenCount(), 0);
-    EXPECT_THAT(Commands(), ElementsAre(commands::paste));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::paste));
 }
 
 TEST_F(QuickAccessPopup, AnElementThatGoesWhileItsContextMenuIsOpenIsNotAdded) {
     Bar().OnShowRibbonContextMenu(&Bar(), 50, 50, &Element(commands::paste));
     Bar().GetCategory(0)->GetPanel(0)->Remove(0);
     Click(Row(L"Add to Quick Access Toolbar"));
-    EXPECT_THAT(Commands(), IsEmpty());
+    EXPECT_THAT(QuickAccessCommands(), IsEmpty());
 }
 
 TEST_F(QuickAccessPopup, WhatHasNoRoomIsShownByTheMoreButtonAndWorks) {

@@ -11,11 +11,9 @@
 #include "afxribbonslider.h"
 #include "afxvisualmanageroffice2007.h"
 #include "tests/support/message_pump.h"
+#include "tests/support/png_file.h"
 #include "tests/support/ui_test.h"
 #include "fx/window_dc.h"
-
-#include <objidl.h>
-#include <gdiplus.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -25,8 +23,6 @@
 #include <vector>
 
 namespace {
-
-constexpr CLSID kPngEncoder{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
 
 HICON MakeIcon(int side, COLORREF color) {
     std::vector<DWORD> pixels(static_cast<std::size_t>(side) * side);
@@ -156,8 +152,7 @@ bool WritePicture(CWnd& window, const std::wstring& path) {
     CBitmap* const earlier = memory.SelectObject(&bitmap);
     memory.BitBlt(0, 0, rect.Width(), rect.Height(), &source, 0, 0, SRCCOPY);
     memory.SelectObject(earlier);
-    Gdiplus::Bitmap picture(static_cast<HBITMAP>(bitmap.GetSafeHandle()), nullptr);
-    return picture.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+    return WritePng(static_cast<HBITMAP>(bitmap.GetSafeHandle()), path);
 }
 
 bool WriteFrame(const std::wstring& directory, int style, const wchar_t* name, int percent, int width,
@@ -202,9 +197,8 @@ int wmain(int count, wchar_t** arguments) {
     }
     UiTestEnvironment environment;
     environment.SetUp();
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {
+    const ScopedGdiplus gdiplus;
+    if (!gdiplus.IsStarted()) {
         return 1;
     }
     const int percent = count > 2 ? std::stoi(arguments[2]) : 100;
@@ -216,7 +210,6 @@ int wmain(int count, wchar_t** arguments) {
     for (int style = 0; style < 4; ++style) {
         failures += WriteFrame(arguments[1], style, styles[style], percent, width, words) ? 0 : 1;
     }
-    Gdiplus::GdiplusShutdown(token);
     environment.TearDown();
     return failures == 0 ? 0 : 1;
 }

@@ -1,15 +1,13 @@
 // visual_gallery DIR: writes STYLE-PERCENT.png of all ribbon parts for each style, for people to look at.
 #include "gallery_sheet.h"
 
+#include "tests/support/png_file.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <string>
-#include <objidl.h>
-#include <gdiplus.h>
 
 namespace {
-
-constexpr CLSID g_pngEncoder{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
 
 bool WriteSheet(const std::wstring& path, std::size_t style, int percent) {
     const visual::Look look{visual::StyleSkin(style), percent / 100.0};
@@ -26,8 +24,7 @@ bool WriteSheet(const std::wstring& path, std::size_t style, int percent) {
     DeleteObject(font);
     SelectObject(dc, previousBitmap);
     DeleteDC(dc);
-    Gdiplus::Bitmap picture(width, height, width * 4, PixelFormat32bppRGB, reinterpret_cast<BYTE*>(bits));
-    const bool isSaved = picture.Save(path.c_str(), &g_pngEncoder, nullptr) == Gdiplus::Ok;
+    const bool isSaved = WritePng(bitmap, path);
     DeleteObject(bitmap);
     return isSaved;
 }
@@ -39,9 +36,8 @@ int wmain(int count, wchar_t** arguments) {
         std::fputs("usage: visual_gallery DIR\n", stderr);
         return 2;
     }
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok)
+    const ScopedGdiplus gdiplus;
+    if (!gdiplus.IsStarted())
         return 1;
     const wchar_t* styles[] = {L"blue", L"black", L"aqua", L"silver"};
     int failures = 0;
@@ -52,6 +48,5 @@ int wmain(int count, wchar_t** arguments) {
             if (!WriteSheet(path, style, percent))
                 ++failures;
         }
-    Gdiplus::GdiplusShutdown(token);
     return failures == 0 ? 0 : 1;
 }
