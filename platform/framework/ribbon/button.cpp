@@ -137,9 +137,8 @@ int CMFCRibbonButton::GetTextRowHeight() const { return ribbon::CurrentMetrics()
 
 BOOL CMFCRibbonButton::IsSingleLineText() const {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    const ribbon::TextContext context(nullptr);
     const int limit = ribbon::LargeSingleLineWidth(metrics, ribbon::FromSize(GetImageSize(RibbonImageLarge)));
-    const auto measure = [&context](std::wstring_view text) { return context.Measure(text).width; };
+    const auto measure = [](std::wstring_view text) { return ribbon::MeasureText(nullptr, text).width; };
     return !ribbon::BreakInTwo(View(m_strText), measure, limit, 0).HasSecondLine(View(m_strText));
 }
 
@@ -150,7 +149,7 @@ void CMFCRibbonButton::CleanUpSizes() {
 
 void CMFCRibbonButton::OnCalcTextSize(CDC* pDC) {
     CMFCRibbonBaseElement::OnCalcTextSize(pDC);
-    m_sizeTextRight = ribbon::ToSize(ribbon::TextContext(pDC).Measure(View(m_strText)));
+    m_sizeTextRight = ribbon::ToSize(ribbon::MeasureText(pDC, View(m_strText)));
     m_sizeTextBottom = HasLargeMode() ? DrawBottomText(pDC, TRUE) : CSize(0, 0);
 }
 
@@ -170,7 +169,6 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
     using ribbon::ButtonLook;
     using ribbon::ButtonMenu;
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    const ribbon::TextContext context(pDC);
     ribbon::ButtonContent content;
     content.image =
         ribbon::FromSize(GetImageSize(bLarge || IsAlwaysLargeImage() ? RibbonImageLarge : RibbonImageSmall));
@@ -182,12 +180,12 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
         content.look = bImageOnly ? ButtonLook::ImageOnly : ButtonLook::Small;
 
     const std::wstring_view text = View(m_strText);
-    content.rightText = context.Measure(text);
+    content.rightText = ribbon::MeasureText(pDC, text);
     if (content.look != ButtonLook::Large)
         return content;
 
     const int arrow = HasMenu() ? ribbon::BottomArrowWidth(metrics) : 0;
-    const auto measure = [&context](std::wstring_view part) { return context.Measure(part).width; };
+    const auto measure = [pDC](std::wstring_view part) { return ribbon::MeasureText(pDC, part).width; };
     lines = ribbon::BreakInTwo(text, measure, ribbon::LargeSingleLineWidth(metrics, content.image), arrow);
     content.isArrowAlone = !lines.HasSecondLine(text);
     content.secondLineWidth = lines.secondWidth;

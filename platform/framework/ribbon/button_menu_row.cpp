@@ -63,14 +63,13 @@ void DrawSubmenuArrow(CDC* pDC, const CRect& rect, COLORREF color) {
 
 ribbon::MenuRowContent CMFCRibbonButton::CollectMenuRow(CDC* pDC) const {
     ribbon::MenuRowContent content;
-    const ribbon::TextContext context(pDC);
     const BOOL isLarge = m_pParentMenu != nullptr ? m_pParentMenu->HasLargeRows(this) : IsAlwaysLargeImage();
     content.image = ribbon::FromSize(GetImageSize(isLarge ? RibbonImageLarge : RibbonImageSmall));
-    content.text = context.Measure(View(TextOf(m_strText)));
+    content.text = ribbon::MeasureText(pDC, View(TextOf(m_strText)));
     content.text.height = ribbon::CurrentMetrics().textHeight;
-    content.keys = context.Measure(View(KeysOf(m_strText)));
+    content.keys = ribbon::MeasureText(pDC, View(KeysOf(m_strText)));
     if (isLarge && m_bIsAlwaysShowDescription && !m_strDescription.IsEmpty())
-        content.description = context.Measure(View(m_strDescription));
+        content.description = ribbon::MeasureText(pDC, View(m_strDescription));
     if (HasMenu())
         content.menu = IsSplit() ? ribbon::ButtonMenu::Split : ribbon::ButtonMenu::Whole;
     content.imageColumn = m_pParentMenu != nullptr ? m_pParentMenu->GetImageColumnWidth(this) : 0;

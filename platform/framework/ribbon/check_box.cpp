@@ -13,7 +13,7 @@ CMFCRibbonCheckBox::CMFCRibbonCheckBox(UINT nID, LPCTSTR lpszText) : CMFCRibbonB
 CSize CMFCRibbonCheckBox::GetRegularSize(CDC* pDC) {
     if (ShowsMenuRow())
         return CMFCRibbonButton::GetRegularSize(pDC);
-    const ribbon::Size text = ribbon::TextContext(pDC).Measure({GetText(), wcslen(GetText())});
+    const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     return ribbon::ToSize(ribbon::MeasureCheckBox(text, ribbon::CurrentMetrics()));
 }
 
@@ -29,7 +29,7 @@ void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
         return;
     }
     const ribbon::TextContext context(pDC);
-    const ribbon::Size text = context.Measure({GetText(), wcslen(GetText())});
+    const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     const ribbon::CheckBoxFace face = ribbon::PlaceCheckBox(ribbon::FromRect(m_rect), text, ribbon::CurrentMetrics());
     CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(pDC, ribbon::ToRect(face.box), IsChecked() ? 1 : 0,
                                                        IsHighlighted(), IsPressed(), !IsDisabled());

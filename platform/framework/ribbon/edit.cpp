@@ -79,7 +79,7 @@ ribbon::EditContent CMFCRibbonEdit::CollectContent(CDC* pDC, BOOL bWithLabel) co
     ribbon::EditContent content;
     content.image = ribbon::FromSize(GetImageSize(RibbonImageSmall));
     if (bWithLabel)
-        content.label = ribbon::TextContext(pDC).Measure({GetText(), wcslen(GetText())});
+        content.label = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     content.dropButtonWidth = GetDropButtonWidth();
     content.boxWidth = ribbon::CurrentMetrics().Scaled(GetWidth()) + content.dropButtonWidth;
     return content;

@@ -27,7 +27,6 @@ public:
     TextContext& operator=(const TextContext&) = delete;
 
     HDC Get() const { return m_hDC; }
-    Size Measure(std::wstring_view text) const;
 
 private:
     HDC m_hDC = nullptr;
@@ -35,6 +34,10 @@ private:
     HGDIOBJ m_hOldFont = nullptr;
     int m_oldMode = 0;
 };
+
+// The size of one line in the ribbon's regular font. The context may be null. Texts that were measured before cost no
+// call of the system.
+Size MeasureText(CDC* pDC, std::wstring_view text);
 
 // A triangle pointing down that fills the rectangle.
 void DrawMenuArrow(CDC* pDC, const Rect& rect, COLORREF color);

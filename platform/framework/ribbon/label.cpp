@@ -26,11 +26,11 @@ void CMFCRibbonLabel::CopyFrom(const CMFCRibbonBaseElement& src) {
 // A multi-line label takes the width at which its text fits the panel's rows.
 CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    const ribbon::TextContext context(pDC);
-    const ribbon::Size text = context.Measure({GetText(), wcslen(GetText())});
+    const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     if (!m_bIsMultiLine || m_strText.IsEmpty())
         return {text.width + 2 * m_szMargin.cx, metrics.RowHeight()};
 
+    const ribbon::TextContext context(pDC);
     CDC* dc = CDC::FromHandle(context.Get());
     const int limit = kMultiLineRows * metrics.textHeight;
     const int step = std::max(1, metrics.Scaled(4));

@@ -1,5 +1,7 @@
 #include "ribbon/paint_buffer.h"
 
+#include "visual/canvas.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -11,7 +13,6 @@ constexpr LONG g_mostKeptPixels = LONG(4) << 20;
 struct KeptBitmap {
     HBITMAP handle = nullptr;
     CSize size = CSize(0, 0);
-    int depth = 0;
 
     KeptBitmap() = default;
     ~KeptBitmap() { Drop(); }
@@ -23,9 +24,9 @@ struct KeptBitmap {
             ::DeleteObject(handle);
         handle = nullptr;
     }
-    /// The bitmap if it is large enough for the context, else nothing.
-    HBITMAP Take(CSize wanted, int wantedDepth) {
-        const bool fits = size.cx >= wanted.cx && size.cy >= wanted.cy && depth == wantedDepth;
+    /// The bitmap if it is large enough, else nothing.
+    HBITMAP Take(CSize wanted) {
+        const bool fits = size.cx >= wanted.cx && size.cy >= wanted.cy;
         return fits ? std::exchange(handle, nullptr) : nullptr;
     }
 };
@@ -34,8 +35,6 @@ KeptBitmap& Kept() {
     static thread_local KeptBitmap kept;
     return kept;
 }
-
-int DepthOf(HDC dc) { return ::GetDeviceCaps(dc, BITSPIXEL) * ::GetDeviceCaps(dc, PLANES); }
 
 } // namespace
 
@@ -46,11 +45,13 @@ RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
         return;
     }
     KeptBitmap& kept = Kept();
-    m_bitmap = kept.Take(m_size, DepthOf(targetDC));
+    m_bitmap = kept.Take(m_size);
     if (m_bitmap != nullptr) {
         m_size = kept.size;
     } else {
-        m_bitmap = ::CreateCompatibleBitmap(targetDC, m_size.cx, m_size.cy);
+        // Of one format whatever the screen's: asking for that takes longer than a small paint.
+        std::uint32_t* bits = nullptr;
+        m_bitmap = visual::MakeBitmap32(m_size.cx, m_size.cy, &bits);
     }
     if (m_bitmap == nullptr) {
         return;
@@ -94,5 +95,4 @@ RibbonPaintBuffer::~RibbonPaintBuffer() {
     kept.Drop();
     kept.handle = m_bitmap;
     kept.size = m_size;
-    kept.depth = DepthOf(m_target.GetSafeHdc());
 }
