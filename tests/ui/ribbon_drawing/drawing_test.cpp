@@ -1,28 +1,11 @@
 // What a paint draws, and that the pointer finds what was drawn.
-#include "tests/ui/ribbon_bar/ribbon_frame.h"
+#include "tests/ui/ribbon_drawing/probes.h"
 
-#include <map>
 #include <set>
 
 namespace {
 
-/// A button that notes where it drew itself.
-class ProbeButton : public CMFCRibbonButton {
-public:
-    struct Log {
-        std::map<const CMFCRibbonBaseElement*, CRect> places;
-        int draws = 0;
-    };
-    ProbeButton(UINT id, LPCTSTR text, Log& log) : CMFCRibbonButton(id, text), m_log(log) {}
-    void OnDraw(CDC* pDC) override {
-        ++m_log.draws;
-        m_log.places[this] = m_rect;
-        CMFCRibbonButton::OnDraw(pDC);
-    }
-
-private:
-    Log& m_log;
-};
+using ProbeButton = Probe<CMFCRibbonButton>;
 
 class RibbonDrawing : public RibbonBarTest {
 protected:
@@ -35,7 +18,7 @@ protected:
             CMFCRibbonPanel* added = m_category->AddPanel(L"Panel");
             for (int button = 0; button < buttonsInAPanel; ++button) {
                 const int index = panel * buttonsInAPanel + button;
-                added->Add(new ProbeButton(commands::firstHandled + 2000 + static_cast<UINT>(index), L"Button", m_log));
+                added->Add(new ProbeButton(m_log, commands::firstHandled + 2000 + static_cast<UINT>(index), L"Button"));
             }
         }
         Bar().SetActiveCategory(m_category);
@@ -54,7 +37,7 @@ protected:
     CMFCRibbonBaseElement& Button(int panel, int button) { return *m_category->GetPanel(panel)->GetElement(button); }
 
     CMFCRibbonCategory* m_category = nullptr;
-    ProbeButton::Log m_log;
+    DrawingLog m_log;
 };
 
 TEST_F(RibbonDrawing, AFullRepaintDrawsEveryShownButtonOnce) {

@@ -47,6 +47,31 @@ TEST_P(Scales, OtherElementsHaveTheHeightOfARow) {
     EXPECT_EQ(label.GetRegularSize(nullptr).cy, Row());
 }
 
+TEST(ElementText, IsMeasuredAnewInAnotherFont) {
+    CMFCRibbonLabel label(L"Some words");
+    const CSize before = label.GetRegularSize(nullptr);
+    LOGFONT font;
+    ASSERT_TRUE(afxGlobalData.fontRegular.GetLogFont(&font));
+    font.lfHeight *= 2;
+    ASSERT_TRUE(afxGlobalData.SetMenuFont(&font, TRUE));
+    EXPECT_GT(label.GetRegularSize(nullptr).cx, before.cx * 3 / 2);
+    afxGlobalData.UpdateFonts();
+    EXPECT_EQ(label.GetRegularSize(nullptr), before);
+}
+
+TEST(ElementText, OfAnyNumberOfElementsHasItsOwnWidth) {
+    const auto widthOf = [](int number) {
+        return CMFCRibbonLabel(CString(L'i', number % 50) + CString(L'W', number / 50)).GetRegularSize(nullptr).cx;
+    };
+    std::vector<LONG> widths;
+    for (int number = 0; number < 3000; ++number)
+        widths.push_back(widthOf(number));
+    for (int number = 2999; number >= 0; --number)
+        ASSERT_EQ(widthOf(number), widths[static_cast<std::size_t>(number)]) << number;
+    EXPECT_GT(widths[49], widths[48]);
+    EXPECT_GT(widths[2950], widths[2900]);
+}
+
 TEST(ButtonMode, GetSizeFollowsTheMode) {
     const SolidIcon icon(32, RGB(200, 0, 0));
     CMFCRibbonButton button(1, L"Page Setup", icon.Get());

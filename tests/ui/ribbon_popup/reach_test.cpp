@@ -105,7 +105,7 @@ TEST_F(Reach, EveryElementOfRandomPanelsAtEveryWidth) {
     int collapsed = 0;
     for (unsigned seed = 1; seed <= 4; ++seed) {
         CMFCRibbonCategory& category = AddRandomPanels(seed);
-        for (int width = 300 + static_cast<int>(seed); width <= 2000; width += 37) {
+        for (int width = 300 + static_cast<int>(seed); width <= 3840; width += 59) {
             SetClientWidth(width);
             CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> all;
             category.GetElements(all);

@@ -33,7 +33,7 @@ TEST(RibbonCategoryLayout, AtEveryWidthEveryPanelCanBeReached) {
     for (unsigned seed = 1; seed <= 12; ++seed) {
         const RibbonMetrics metrics = RibbonMetrics::FromFont(13 + seed % 8, 1.0 + (seed % 4) * 0.25);
         const auto panels = AnyPanels(seed, metrics);
-        for (int width = 300; width <= 2000; ++width)
+        for (int width = 300; width <= 3840; ++width)
             ASSERT_EQ(PanelsInReach(panels, metrics, width).size(), panels.size()) << "seed " << seed << " " << width;
     }
 }
@@ -60,7 +60,7 @@ TEST(RibbonCategoryLayout, AWiderBarNeverMakesAPanelNarrower) {
         const RibbonMetrics metrics = RibbonMetrics::FromFont(13, 1.0);
         const auto panels = AnyPanels(seed, metrics);
         std::vector<int> narrower(panels.size(), 0);
-        for (int width = 300; width <= 2000; ++width) {
+        for (int width = 300; width <= 3840; ++width) {
             const RibbonCategoryArrangement arrangement = ArrangeCategory(panels, metrics, width);
             for (size_t index = 0; index < panels.size(); ++index) {
                 const int panelWidth = panels[index].Arrange(arrangement.panels[index].stepCount).width;
