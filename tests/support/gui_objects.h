@@ -4,6 +4,8 @@
 
 #include <iosfwd>
 
+#include "tests/support/message_pump.h"
+
 /// How many objects this process holds from the system, to be compared before and after. Reads the process's own handle
 /// tables where the system does not answer the question itself, so objects that no wrapper owns are counted as well.
 struct GuiObjects {
@@ -39,4 +41,18 @@ template <class Pass>
         failure << "from " << before << " to " << after << "\n";
     }
     return failure;
+}
+
+/// Success when the action, done `count` times, leaves nothing behind. Before that it is done `first` times, which
+/// fills what keeps things on purpose, within limits. The action is given the number of the round.
+template <class Action>
+::testing::AssertionResult RepeatedLeavesNothingBehind(int first, int count, Action action) {
+    const auto repeat = [&action](int rounds) {
+        for (int round = 0; round < rounds; ++round) {
+            action(round);
+        }
+        PumpPending();
+    };
+    repeat(first);
+    return LeavesNothingBehind([&] { repeat(count); });
 }
