@@ -4,8 +4,10 @@
 #include "tests/support/icon_writer.h"
 #include "tests/support/translation_tables.h"
 #include "tests/support/ui_test.h"
+#include "tests/ui/icon_button/button_flags.h"
 
 #include <afxglobals.h>
+#include <afxtoolbarimages.h>
 
 #include <varnhold/language.h>
 
@@ -129,6 +131,46 @@ TEST_F(IconButton, EveryModleInAPathIsReplaced) {
     EXPECT_EQ(ColourDrawn(button, Large), blue);
 }
 
+TEST_F(IconButton, AlternateOfAnAlternatePathIsFormedLikeAnyOther) {
+    const CString alternate = WriteIcon("modle_0/x.ico", 32, red);
+    WriteIcon("modle_0_0/x.ico", 32, blue);
+    CMFCRibbonUNIcoButton button(1, L"", alternate, FALSE, CString());
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(button, Large), blue);
+}
+
+TEST_F(IconButton, ModleInOtherLettersIsNotReplaced) {
+    const CString path = WriteIcon("Modle/MODLE.ico", 32, red);
+    CMFCRibbonUNIcoButton button(1, L"", path, FALSE, CString());
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(button, Large), red);
+}
+
+TEST_F(IconButton, LargeAlternateFileThatIsMissingDrawsNothingWithoutImageIndexes) {
+    const CString path = WriteIcon("modle/lonely.ico", 32, red);
+    CMFCRibbonUNIcoButton button(1, L"", path, FALSE, m_small);
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ExtentDrawn(button, Large), CSize(0, 0)) << "not the primary file";
+    EXPECT_EQ(ExtentDrawn(button, Small), CSize(0, 0)) << "nor the small alternate alone";
+    CMFCRibbonUNIcoButton::SetSkinStyle(CString());
+    EXPECT_EQ(ColourDrawn(button, Large), red) << "the paths are chosen at each draw";
+}
+
+TEST_F(IconButton, ConstructorWithPathsSetsIdTextAndFlags) {
+    for (const BOOL flag : {FALSE, TRUE}) {
+        const CMFCRibbonUNIcoButton shows(7, L"text", m_large, flag, m_small, !flag, flag, FALSE);
+        EXPECT_EQ(shows.GetID(), 7u);
+        EXPECT_EQ(CString(shows.GetText()), L"text");
+        EXPECT_EQ(shows.IsAlwaysShowDescription(), flag);
+        EXPECT_EQ(ButtonFlags::DestroysIcons(shows), !flag);
+        EXPECT_EQ(ButtonFlags::BlendsIcons(shows), flag);
+        const CMFCRibbonSmallButton small(7, L"text", m_large, flag, m_small, !flag, flag);
+        EXPECT_EQ(small.IsAlwaysShowDescription(), flag);
+        EXPECT_EQ(ButtonFlags::DestroysIcons(small), !flag);
+        EXPECT_EQ(ButtonFlags::BlendsIcons(small), flag);
+    }
+}
+
 TEST_F(IconButton, SmallPictureComesFromTheLargeFileWhereThereIsNoSmallOne) {
     CMFCRibbonUNIcoButton button(1, L"", m_large);
     EXPECT_EQ(ColourDrawn(button, Small), red);
@@ -198,6 +240,30 @@ TEST_F(IconButton, DisabledButtonIsDrawnGreyAndNotInTheIconsColours) {
     }
     EXPECT_EQ(ExtentDrawn(*button, Large), CSize(42, 52));
     EXPECT_EQ(ExtentDrawn(*button, Small), CSize(26, 36));
+}
+
+TEST_F(IconButton, DisabledPictureIsThatOfAnImageListInItsDisabledStyle) {
+    for (const BOOL blends : {FALSE, TRUE}) {
+        for (const double scale : {1.0, 1.5}) {
+            ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(scale));
+            CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small, FALSE, blends);
+            button.SetDisabled(TRUE);
+            const FileIcon icon(m_small, 16);
+            CMFCToolBarImages images;
+            images.SetImageSize(CSize(16, 16));
+            ASSERT_EQ(images.AddIcon(icon.Get(), blends), 0);
+            Canvas expected;
+            CAfxDrawState state;
+            ASSERT_TRUE(images.PrepareDrawImage(state, button.GetImageSize(Small)));
+            images.Draw(expected.Dc(), 10, 20, 0, FALSE, TRUE, FALSE, FALSE, FALSE, 255);
+            images.EndDrawImage(state);
+            ColourDrawn(button, Small);
+            for (int y = 0; y < 64; ++y) {
+                for (int x = 0; x < 64; ++x)
+                    ASSERT_EQ(m_canvas.At(x, y), expected.At(x, y)) << x << ", " << y << " at " << scale;
+            }
+        }
+    }
 }
 
 TEST_F(IconButton, DisabledPictureIsScaledWithTheRibbon) {
@@ -301,6 +367,16 @@ TEST_F(IconButton, CopyTakesThePathsAndNotTheAlternates) {
     EXPECT_EQ(ExtentDrawn(copy, Large), CSize(0, 0)) << "without an alternate path nothing is drawn";
 }
 
+TEST_F(IconButton, CopyIntoAButtonWithPathsKeepsThatButtonsAlternates) {
+    const CString other = WriteIcon("other/modle/x.ico", 32, green);
+    WriteIcon("other/modle_0/x.ico", 32, yellow);
+    CMFCRibbonUNIcoButton target(2, L"", other, FALSE, CString(), FALSE);
+    target.CopyFrom(*MakeButton());
+    EXPECT_EQ(ColourDrawn(target, Large), red);
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    EXPECT_EQ(ColourDrawn(target, Large), yellow);
+}
+
 TEST_F(IconButton, ButtonThatDestroysItsIconsKeepsItsOwnPaths) {
     CMFCRibbonUNIcoButton target(2, L"", m_small, FALSE, m_large, TRUE);
     target.CopyFrom(*MakeButton());
@@ -326,6 +402,20 @@ TEST_F(IconButton, LinkedCopyDrawsThroughItsOriginal) {
     EXPECT_EQ(copy.GetImageSize(Large), CSize(32, 32));
     CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
     EXPECT_EQ(ColourDrawn(copy, Large), blue);
+}
+
+TEST_F(IconButton, CopyOfALinkedCopyDrawsThroughBoth) {
+    const auto original = MakeButton();
+    CMFCRibbonUNIcoButton copy;
+    copy.SetOriginal(original.get());
+    CMFCRibbonUNIcoButton copyOfCopy;
+    copyOfCopy.SetOriginal(&copy);
+    EXPECT_EQ(copyOfCopy.GetImageSize(Large), CSize(32, 32));
+    EXPECT_EQ(ColourDrawn(copyOfCopy, Large), red);
+    copyOfCopy.SetDisabled(TRUE);
+    EXPECT_NE(ColourDrawn(copyOfCopy, Large), red) << "drawn disabled";
+    EXPECT_FALSE(copy.IsDisabled());
+    EXPECT_FALSE(original->IsDisabled());
 }
 
 TEST_F(IconButton, OriginalIsLentDisabledFlagAndRectangleAndGetsItsOwnBack) {
@@ -513,6 +603,22 @@ TEST_F(SmallButton, FormsBothAlternates) {
     CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
     EXPECT_EQ(ColourDrawn(button, Large), blue);
     EXPECT_EQ(ColourDrawn(button, Small), yellow);
+}
+
+TEST_F(SmallButton, CopyOfAnotherKindOfButtonKeepsTheSmallMode) {
+    CMFCRibbonSmallButton copy(1, L"", m_large, FALSE, m_small);
+    copy.SetSmallMode();
+    copy.CopyFrom(*MakeButton());
+    EXPECT_FALSE(copy.HasLargeMode());
+    EXPECT_EQ(copy.GetIconPath(TRUE), m_large);
+}
+
+TEST_F(SmallButton, LinkedSmallButtonHasALargeModeWhereItsOriginalHasALargePicture) {
+    CMFCRibbonSmallButton copy;
+    EXPECT_FALSE(copy.HasLargeMode());
+    const auto original = MakeButton();
+    copy.SetOriginal(original.get());
+    EXPECT_TRUE(copy.HasLargeMode());
 }
 
 TEST_F(SmallButton, CopyTakesTheSmallMode) {

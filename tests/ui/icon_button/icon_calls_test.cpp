@@ -193,6 +193,48 @@ TEST_F(IconCalls, SmallIconIsReleasedWhereTheLargeOneCannotBeLoaded) {
     ExpectLoadsReleased();
 }
 
+TEST_F(IconCalls, ConstructorTriesNoEmptyPath) {
+    const CMFCRibbonUNIcoButton large(1, L"", m_large);
+    ASSERT_EQ(g_loaded.size(), 1u);
+    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+    const CMFCRibbonUNIcoButton small(1, L"", CString(), FALSE, m_small);
+    ASSERT_EQ(g_loaded.size(), 2u);
+    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+    const CMFCRibbonUNIcoButton neither(1, L"", CString());
+    EXPECT_EQ(g_loaded.size(), 2u);
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, ConstructorTriesNoAlternate) {
+    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
+    const CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    ASSERT_EQ(g_loaded.size(), 2u);
+    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+}
+
+TEST_F(IconCalls, LinkedCopyLoadsTheFilesOfItsOriginalOnceAndReleasesThem) {
+    CMFCRibbonUNIcoButton original(1, L"", m_large, FALSE, m_small);
+    CMFCRibbonUNIcoButton copy(2, L"", m_small, FALSE, m_large);
+    copy.SetOriginal(&original);
+    Draw(copy, Large);
+    ASSERT_EQ(g_loaded.size(), 2u);
+    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, WhatDrawsNothingLoadsNothing) {
+    CMFCRibbonUNIcoButton unlinked;
+    unlinked.CopyFrom(CMFCRibbonUNIcoButton(1, L"", m_large, FALSE, m_small));
+    CMFCRibbonUNIcoButton smallOnly(1, L"", CString(), FALSE, m_small);
+    Forget();
+    for (CMFCRibbonUNIcoButton* button : {&unlinked, &smallOnly})
+        button->DrawImage(m_canvas.Dc(), Large, CRect(10, 20, 64, 64));
+    EXPECT_TRUE(g_loaded.empty());
+    EXPECT_TRUE(g_drawn.empty());
+}
+
 TEST_F(IconCalls, ConstructorTriesEachFileInItsSizeAndReleasesIt) {
     const CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
     ASSERT_EQ(g_loaded.size(), 2u);

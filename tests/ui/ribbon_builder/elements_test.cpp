@@ -3,6 +3,7 @@
 #include "ribbon_multi_combo.h"
 #include "tests/support/canvas.h"
 #include "tests/support/scoped_value.h"
+#include "tests/ui/icon_button/button_flags.h"
 #include "tests/ui/ribbon_builder/ribbon_fixture.h"
 
 #include <varnhold/xml.h>
@@ -120,6 +121,13 @@ TEST_F(RibbonBuilder, SecondElementsHelpFileIsStoredOnlyIfTheFirstHadNone) {
     EXPECT_EQ(HelpOf(L"L"), L"first.swf");
 }
 
+TEST_F(RibbonBuilder, SubItemOffersItsHelpFileToo) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' TYPE='BUTTON' AcceptF1='N'/><e KEYWORD='B' TYPE='BUTTON'>"
+                           "<s KEYWORD='K' TYPE='BUTTON' help='sub.swf'/></e>"
+                           "<e KEYWORD='G' TYPE='GROUP'><s KEYWORD='K' TYPE='BUTTON' help='member.swf'/></e>")));
+    EXPECT_EQ(HelpOf(L"K"), L"sub.swf");
+}
+
 TEST_F(RibbonBuilder, UnknownTypeAddsNothingButConsumesAnId) {
     ASSERT_TRUE(Load(Panel("<e KEYWORD='a' TYPE='lamp'/><e KEYWORD='b'/><e KEYWORD='c' TYPE='BUTTON'/>")));
     EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton c #3)]");
@@ -164,6 +172,22 @@ TEST_F(RibbonBuilder, ButtonWithChildrenGetsThemAsSubItems) {
                            "<e KEYWORD='S' TYPE='BUTTON' SIZE='16'><s KEYWORD='4' TYPE='BUTTON' SIZE='16'/></e>")));
     EXPECT_EQ(Outline(),
               L"[C #0 (P UNIcoButton B #1{UNIcoButton 1 #2, Label 3 #4} SmallButton S #5{SmallButton 4 #6})]");
+}
+
+TEST_F(RibbonBuilder, GroupsDoNotNest) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='G' TYPE='GROUP'><s KEYWORD='H' TYPE='GROUP'><t KEYWORD='T' TYPE='BUTTON'/></s>"
+                           "<s KEYWORD='1' TYPE='BUTTON'/></e>"
+                           "<e KEYWORD='B' TYPE='BUTTON'><s KEYWORD='I' TYPE='GROUP'/></e>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P ButtonsGroup{UNIcoButton 1 #3} UNIcoButton B #4)]");
+    int id = 0;
+    EXPECT_TRUE(CMenuIdMgr::Ins()->GetMenuId(L"H", id)) << "it takes its id all the same";
+    EXPECT_FALSE(CMenuIdMgr::Ins()->GetMenuId(L"T", id)) << "too deep to be read";
+}
+
+TEST_F(RibbonBuilder, GroupWhoseMembersAreAllUnknownIsAddedEmpty) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='G' TYPE='GROUP'><s KEYWORD='1' TYPE='lamp'/></e>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P ButtonsGroup{})]");
+    EXPECT_EQ(TakenIds(), 3);
 }
 
 TEST_F(RibbonBuilder, LabelWithChildrenAddsNothingAndReadsNoneOfThem) {
@@ -252,14 +276,6 @@ TEST_F(RibbonBuilder, ButtonTakesBothIconSizesAndASmallOneThe16PixelIcon) {
         EXPECT_EQ(Make(info)->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton)) << size;
     }
 }
-
-/// Shows the flags that a button keeps for itself.
-struct ButtonFlags : CMFCRibbonUNIcoButton {
-    static BOOL DestroysIcons(const CMFCRibbonUNIcoButton& button) {
-        return button.*(&ButtonFlags::m_bAutoDestroyIcon);
-    }
-    static BOOL BlendsIcons(const CMFCRibbonUNIcoButton& button) { return button.*(&ButtonFlags::m_bAlphaBlendIcon); }
-};
 
 TEST_F(RibbonBuilder, ButtonsOwnTheirIconsBlendNoneAndShowNoDescription) {
     for (const int size : {16, 32}) {
@@ -375,6 +391,20 @@ TEST_F(RibbonBuilder, LoadedButtonsGetTheF1HintUnlessRefused) {
     ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' AcceptF1='n'/>")));
     EXPECT_EQ(Element(0)->GetDescription(), CAddRibbonBar::m_strHelpF1);
     EXPECT_EQ(Element(1)->GetDescription(), L"");
+}
+
+TEST_F(RibbonBuilder, BuilderWithoutF1HintsLoadsButtonsWithoutThem) {
+    m_builder.SetCreateF1Tip(false);
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' AcceptF1='Y'>"
+                           "<s KEYWORD='3' TYPE='BUTTON'/></e>")));
+    EXPECT_EQ(Element(0)->GetDescription(), L"");
+    EXPECT_EQ(Element(1)->GetDescription(), L"");
+    const auto* const button = static_cast<CMFCRibbonButton*>(Element(1));
+    EXPECT_EQ(button->GetSubItems()[0]->GetDescription(), L"");
+    m_builder.SetCreateF1Tip(true);
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='2' TYPE='BUTTON'><s KEYWORD='3' TYPE='BUTTON'/></e>"), 1, "again.xml"));
+    const auto* const again = static_cast<CMFCRibbonButton*>(m_bar.GetCategory(1)->GetPanel(0)->GetElement(0));
+    EXPECT_EQ(again->GetSubItems()[0]->GetDescription(), CAddRibbonBar::m_strHelpF1);
 }
 
 TEST_F(RibbonBuilder, SliderIsAsWideAsConfiguredOrFifty) {
@@ -553,6 +583,23 @@ TEST_F(ButtonFromKey, IsFoundOnTheQuickAccessToolbarToo) {
     const auto button = Make(L"K");
     ASSERT_NE(button, nullptr);
     EXPECT_EQ(button->GetIconPath(TRUE), path);
+}
+
+TEST_F(ButtonFromKey, OfASmallButtonIsAnOrdinaryOneWithTheSmallOnesPaths) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' SIZE='16' PICPATH='pic\\a.ico'/>")));
+    const auto button = Make(L"K");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
+    EXPECT_EQ(button->GetIconPath(TRUE).Right(12), L"pic\\16\\a.ico");
+    EXPECT_TRUE(button->GetIconPath(FALSE).IsEmpty());
+    EXPECT_TRUE(button->HasLargeMode());
+}
+
+TEST_F(ButtonFromKey, IsFoundAmongSubItemsAndMembersOfGroups) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='B' TYPE='BUTTON'><s KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON'/></e>"
+                           "<e KEYWORD='G' TYPE='GROUP'><s KEYWORD='L' NAME='' TOOLTIP='' TYPE='BUTTON'/></e>")));
+    EXPECT_NE(Make(L"K"), nullptr);
+    EXPECT_NE(Make(L"L"), nullptr);
 }
 
 TEST_F(ButtonFromKey, IsNullWithoutABar) {
