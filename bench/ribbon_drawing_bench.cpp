@@ -90,10 +90,11 @@ void SwitchTab() {
     Ribbon().UpdateWindow();
 }
 
+/// Another width each time, as when a user drags the frame's border: nothing kept from the last width helps.
 void Resize() {
-    CRect client;
-    g_frame->GetClientRect(client);
-    g_frame->SetClientWidth(client.Width() == kWidth ? kNarrowWidth : kWidth);
+    static int step = 0;
+    step = (step + 37) % (kWidth - kNarrowWidth + 1);
+    g_frame->SetClientWidth(kWidth - step);
     Ribbon().UpdateWindow();
 }
 

@@ -2,7 +2,8 @@
 """Prints Google Benchmark's JSON results as a table: each figure beside its floors, which are named FIGURE/floor: WHAT.
 
 usage: bench_table.py RESULT.json...
-The time is the median of the repetitions.
+Times are medians of the repetitions: the time that passed and, in the columns marked cpu, what the processor spent on it.
+On a busy machine only the latter says something.
 """
 import json
 import sys
@@ -13,26 +14,39 @@ MICROSECONDS = {"ns": 1e-3, "us": 1.0, "ms": 1e3, "s": 1e6}
 def medians(path):
     for run in json.load(open(path, encoding="utf-8"))["benchmarks"]:
         if run.get("aggregate_name") == "median":
-            yield run["run_name"], run["real_time"] * MICROSECONDS[run["time_unit"]]
+            unit = MICROSECONDS[run["time_unit"]]
+            yield run["run_name"], (run["real_time"] * unit, run["cpu_time"] * unit)
+
+
+def split(name):
+    """A figure's name and its argument."""
+    figure, _, argument = name.rpartition("/")
+    return (figure, argument) if argument.isdigit() else (name, "")
+
+
+def ratio(figure, floor):
+    return f"{figure / floor:6.2f}" if floor else f"{'':6}"
 
 
 def main():
     figures, floors = {}, []
     for path in sys.argv[1:]:
-        for name, time in medians(path):
+        for name, times in medians(path):
             if "/floor: " in name:
                 figure, what = name.split("/floor: ", 1)
-                what, _, argument = what.rpartition("/") if what.rpartition("/")[2].isdigit() else (what, "", "")
-                floors.append((figure, argument, what, time))
+                floors.append((figure, *reversed(split(what)), times))
             else:
-                figures[name] = time
-    print(f"{'figure':34} {'us':>12}   {'floor us':>12} {'ratio':>6}  floor")
-    for name, time in figures.items():
-        figure, _, argument = name.rpartition("/") if name.rpartition("/")[2].isdigit() else (name, "", "")
+                figures[name] = times
+    columns = f"{'us':>12} {'cpu us':>12}   {'floor us':>12} {'cpu us':>12} {'ratio':>6} {'cpu':>6}"
+    print(f"{'figure':34} {columns}  floor")
+    for name, (wall, cpu) in figures.items():
+        figure, argument = split(name)
         matching = [f for f in floors if f[0] == figure and f[1] in ("", argument)]
         for i, (_, _, what, floor) in enumerate(matching or [(None, None, "none", None)]):
-            left = f"{name:34} {time:12.3f}" if i == 0 else " " * 47
-            right = f"{floor:12.3f} {time / floor:6.2f}" if floor else f"{'':12} {'':6}"
+            left = f"{name:34} {wall:12.3f} {cpu:12.3f}" if i == 0 else " " * 60
+            right = f"{'':40}"
+            if floor:
+                right = f"{floor[0]:12.3f} {floor[1]:12.3f} {ratio(wall, floor[0])} {ratio(cpu, floor[1])}"
             print(f"{left}   {right}  {what}")
 
 

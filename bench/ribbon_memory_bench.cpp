@@ -1,0 +1,77 @@
+// What a ribbon that was loaded from a file takes: working set and GDI objects over the same frame without it.
+//   bench_ribbon_memory BUTTONS
+#include <afxcontrolbars.h>
+
+#include "add_ribbon_bar.h"
+#include "scenario.h"
+#include "tests/support/message_pump.h"
+
+#include <varnhold/file_op.h>
+
+#include <windows.h>
+
+#include <psapi.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr std::size_t kIconFiles = 20;
+
+class CBenchFrame : public CFrameWndEx {
+public:
+    CBenchFrame() : m_ribbon(FALSE) {}
+    bool Make() {
+        if (!Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) || !m_ribbon.Create(this))
+            return false;
+        ShowWindow(SW_SHOW);
+        return true;
+    }
+    /// All that a user waits for: layout, paint, idle work.
+    void Settle() {
+        RecalcLayout();
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        PumpPending();
+    }
+    CMFCRibbonBar m_ribbon;
+};
+
+double WorkingSetInMegabytes() {
+    PROCESS_MEMORY_COUNTERS counters = {};
+    counters.cb = sizeof(counters);
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof(counters));
+    return static_cast<double>(counters.WorkingSetSize) / (1024.0 * 1024.0);
+}
+
+class CBenchApp : public CWinAppEx {
+public:
+    BOOL InitInstance() override {
+        CWinAppEx::InitInstance();
+        const int buttons = __argc > 1 ? std::atoi(__argv[1]) : 0;
+        ScenarioDirectory scenario;
+        const std::wstring file =
+            buttons > 0 ? L"cfg\\" + scenario.AddRibbonFile(static_cast<std::size_t>(buttons), kIconFiles) : L"";
+        FileOp::SetAppPath(scenario.Path().wstring() + L"\\");
+        auto* const frame = new CBenchFrame; // destroys itself with its window
+        m_pMainWnd = frame;
+        if (buttons <= 0 || !frame->Make()) {
+            std::fputs("usage: bench_ribbon_memory BUTTONS\n", stderr);
+            return FALSE;
+        }
+        frame->Settle();
+        const double empty = WorkingSetInMegabytes();
+        CAddRibbonBar builder;
+        if (!builder.Load(file, &frame->m_ribbon, 1))
+            return FALSE;
+        frame->Settle();
+        std::printf("memory of %d buttons: %.2f MB over an empty frame of %.2f MB\n", buttons,
+                    WorkingSetInMegabytes() - empty, empty);
+        frame->DestroyWindow();
+        return FALSE;
+    }
+};
+
+CBenchApp s_app;
+
+} // namespace
