@@ -5,6 +5,7 @@
 #include "combos/mark_sizes.h"
 #include "host_messages.h"
 
+#include <afxglobals.h>
 #include <afxvisualmanager.h>
 #include <fx/accessibility_data.h>
 
@@ -15,8 +16,12 @@ namespace {
 constexpr int initialListHeight = 560;
 /// The boxes' only zone.
 constexpr int boxZone = 0;
+
 /// Between the sides of a row and its box or text: a box lies in the middle of the column in which a click counts.
-const CSize textMargin(1, 1);
+CSize TextMargin() {
+    const int margin = afxGlobalData.ScalePixels(1);
+    return {margin, margin};
+}
 
 } // namespace
 
@@ -52,12 +57,12 @@ struct CMFCRibbonCheckComb::State : MarkedComboState<bool> {
 
 CMFCRibbonCheckComb::CMFCRibbonCheckComb() : m_state(std::make_shared<State>()) {
     ScaleCheckBoxOnce();
-    m_szMargin = textMargin;
+    m_szMargin = TextMargin();
 }
 
 CMFCRibbonCheckComb::CMFCRibbonCheckComb(UINT id, BOOL hasEditBox, int width, LPCTSTR label, int imageIndex)
     : CMFCRibbonComboBox(id, hasEditBox, width, label, imageIndex), m_state(std::make_shared<State>()) {
-    m_szMargin = textMargin;
+    m_szMargin = TextMargin();
 }
 
 CMFCRibbonCheckComb::~CMFCRibbonCheckComb() = default;
@@ -175,7 +180,7 @@ void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
 
 void CMFCRibbonCheckComb::OnCalcTextSize(CDC* dc) {
     CMFCRibbonComboBox::OnCalcTextSize(dc);
-    m_szMargin = textMargin;
+    m_szMargin = TextMargin();
 }
 
 BOOL CMFCRibbonCheckComb::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenuButton* row, BOOL /*highlighted*/) {

@@ -112,7 +112,7 @@ protected:
     /// Drops the list by a press on the arrow, as people do.
     CMFCPopupMenuBarEx& Open(CMFCRibbonComboBox& combo) {
         const CPoint arrow = combo.GetMenuRect().CenterPoint();
-        m_pointer.Click(m_host.BarWindow(), arrow);
+        m_pointer.Click(combo.GetParentWnd()->GetSafeHwnd(), arrow);
         PumpPending();
         if (!Rows())
             throw std::runtime_error("no list is open");
@@ -128,7 +128,7 @@ protected:
     }
     void ClickFace(CMFCRibbonComboBox& combo, int x) {
         const CRect edit = combo.GetEditRect();
-        m_pointer.Click(m_host.BarWindow(), CPoint(edit.left + x, edit.CenterPoint().y));
+        m_pointer.Click(combo.GetParentWnd()->GetSafeHwnd(), CPoint(edit.left + x, edit.CenterPoint().y));
         PumpPending();
     }
     static void Key(UINT key) {

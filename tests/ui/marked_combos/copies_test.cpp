@@ -22,6 +22,16 @@ public:
 };
 IMPLEMENT_DYNCREATE(CountingCombo, CMFCRibbonMultiCombo)
 
+class CountingCheck : public CMFCRibbonCheckComb {
+public:
+    using CMFCRibbonCheckComb::CMFCRibbonCheckComb;
+    void Redraw() override {
+        ++redraws;
+        CMFCRibbonCheckComb::Redraw();
+    }
+    int redraws = 0;
+};
+
 class Copies : public RibbonCombos {
 protected:
     void SetUp() override {
@@ -143,6 +153,22 @@ TEST_F(RibbonCombos, EachCopysOperationRunsOnce) {
         EXPECT_EQ(one->redraws, 1) << "none was asked for";
     panel.SetItemInfo(0, RGB(4, 5, 6), true, false);
     EXPECT_EQ(panel.redraws, 1);
+}
+
+TEST_F(RibbonCombos, ACheckIsRedrawnWhenAUserChangesItAndNotWhenTheHostDoes) {
+    auto& twin = Add<CountingCheck>(comboId, 0);
+    auto& combo = Add<CountingCheck>();
+    combo.SelectItem(0);
+    twin.redraws = combo.redraws = 0;
+    combo.SetItemCheck(0, true);
+    EXPECT_EQ(combo.redraws + twin.redraws, 0);
+    ClickFace(combo, 8);
+    EXPECT_GE(combo.redraws, 1);
+    EXPECT_GE(twin.redraws, 1);
+    twin.redraws = combo.redraws = 0;
+    combo.NotifyChangeData(0, 0, false);
+    EXPECT_GE(combo.redraws, 1);
+    EXPECT_GE(twin.redraws, 1);
 }
 
 TEST_F(RibbonCombos, AComboOutsideOfARibbonIsChangedAlone) {

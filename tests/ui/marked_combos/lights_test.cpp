@@ -50,9 +50,10 @@ protected:
     static void ExpectOwn(const ComboPicture& picture, LightState state, int side) {
         const std::vector<std::uint32_t> wanted = DrawLightPicture(side, state);
         const auto part = [](std::uint32_t pixel, int shift) { return static_cast<int>(pixel >> shift & 0xFF); };
+        auto next = wanted.begin();
         for (int y = 0; y < side; ++y) {
             for (int x = 0; x < side; ++x) {
-                const std::uint32_t pixel = wanted[static_cast<std::size_t>(y * side + x)];
+                const std::uint32_t pixel = *next++;
                 const int alpha = part(pixel, 24);
                 for (const int shift : {0, 8, 16}) {
                     const int over =

@@ -133,7 +133,7 @@ TYPED_TEST(EveryCombo, ANewMapOfTypeKeysReplacesTheOldOne) {
 TYPED_TEST(EveryCombo, ACopyTakesItemsStatesAndTypeKeys) {
     TypeParam combo(comboId, FALSE, 90, L"Label");
     for (int i = 0; i < 3; ++i)
-        combo.AddItem(someItems[i], static_cast<DWORD_PTR>(10 + i));
+        combo.AddItem(someItems[i], 10 + static_cast<DWORD_PTR>(i));
     SetMark(combo, 1, true);
     combo.setTypeKeyName2Index({{L"k", 1}});
     combo.SelectItem(2);
