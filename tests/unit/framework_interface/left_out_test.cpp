@@ -81,8 +81,9 @@ LEFT_OUT("thumbnails, progress and buttons in the task bar", CMDIChildWndEx, Can
          InvalidateIconicBitmaps, IsRegisteredWithTaskbarTabs, IsTaskbarTabsSupportEnabled,
          IsTaskbarThumbnailClipRectEnabled, OnGetIconicLivePreviewBitmap, OnGetIconicThumbnail,
          OnPressTaskbarThmbnailCloseButton, OnTaskbarTabThumbnailActivate, OnTaskbarTabThumbnailMouseActivate,
-         OnTaskbarTabThumbnailStretch, RegisterTaskbarTab, SetTaskbarTabActive, SetTaskbarTabOrder,
-         SetTaskbarTabProperties, SetTaskbarThumbnailClipRect, UnregisterTaskbarTab, UpdateTaskbarTabIcon)
+         OnTaskbarTabThumbnailStretch, m_dwDefaultTaskbarTabPropertyFlags, RegisterTaskbarTab, SetTaskbarTabActive,
+         SetTaskbarTabOrder, SetTaskbarTabProperties, SetTaskbarThumbnailClipRect, UnregisterTaskbarTab,
+         UpdateTaskbarTabIcon)
 LEFT_OUT("thumbnails, progress and buttons in the task bar", AFX_GLOBAL_DATA, GetITaskbarList, GetITaskbarList3,
          ReleaseTaskBarRefs)
 
@@ -171,7 +172,7 @@ LEFT_OUT("docking of the plain control bars", CFrameWnd, DockControlBar, EnableD
 LEFT_OUT("docking of the plain control bars", CControlBar, DrawGripper, EnableDocking)
 
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CWinAppEx, EnableTearOffMenus, EnableUserTools,
-         GetMouseManager, GetShellManager, GetUserToolsManager, InitMouseManager, InitShellManager)
+         ShowPopupMenu, GetMouseManager, GetShellManager, GetUserToolsManager, InitMouseManager, InitShellManager)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CFrameWndEx, GetTearOffBars, OnDrawMenuLogo,
          OnShowCustomizePane, OnTearOffMenu, OnToolbarContextMenu, OnToolbarCreateNew, OnToolbarDelete,
          SetupToolbarMenu)
@@ -243,6 +244,7 @@ LEFT_OUT("the wheel of mice before the system knew wheels", CWnd, OnRegisteredMo
 
 LEFT_OUT("the menu bar that is a pane", CFrameWndEx, OnMenuButtonToolHitTest, OnSetMenu)
 LEFT_OUT("the menu bar that is a pane", CMDIFrameWndEx, OnMenuButtonToolHitTest)
+LEFT_OUT("the menu bar that is a pane", CMDIChildWndEx, GetToolbarButtonToolTipText)
 
 LEFT_OUT("the background of the MDI client is the system's", CMDIFrameWndEx, OnEraseMDIClientBackground)
 
@@ -293,6 +295,7 @@ class CMFCRibbonProgressBar;
 class CMFCRibbonUndoButton;
 class CMFCMenuBar;
 class CMFCRibbonStatusBar;
+class CMFCToolBarComboBoxButton;
 class CMFCBaseTabCtrl;
 class CDockablePane;
 class CPaneFrameWnd;
@@ -310,7 +313,8 @@ LEFT_OUT_CLASSES("windows of several parts or pages", CSplitterWnd, CPropertyShe
 LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
                  CMFCVisualManagerWindows7)
 LEFT_OUT_CLASSES("helpers of the docking panes", CGlobalUtils)
-LEFT_OUT_CLASSES("bars of the next steps", CMFCMenuBar, CMFCRibbonStatusBar)
+LEFT_OUT_CLASSES("bars of the next steps, and combos of toolbars", CMFCMenuBar, CMFCRibbonStatusBar,
+                 CMFCToolBarComboBoxButton)
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
                  CPaneFrameWnd, CPaneDivider)
 LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)
