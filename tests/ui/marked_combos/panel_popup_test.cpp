@@ -1,0 +1,95 @@
+// Combos with marks in the pop-up of a collapsed panel.
+#include "tests/ui/marked_combos/combo_fixture.h"
+
+#include <afxribbonpanelmenu.h>
+
+namespace {
+
+class CollapsedPanel : public RibbonCombos {
+protected:
+    void SetUp() override {
+        m_check = &Add<CMFCRibbonCheckComb>();
+        m_twin = &AddToQuickAccess<CMFCRibbonCheckComb>();
+        m_multi = &Add<CMFCRibbonMultiCombo>(comboId + 1);
+        m_check->SelectItem(1);
+        m_multi->SelectItem(1);
+        CArray<int, int> order;
+        for (int step = 0; step < 3; ++step)
+            order.Add(0); // the first panel, through all its sizes
+        CMFCRibbonCategory& category = *m_host.Bar().GetCategory(0);
+        category.SetCollapseOrder(order);
+        CMFCRibbonPanel& panel = *category.GetPanel(0);
+        CMFCRibbonPanel* const other = category.AddPanel(L"Other"); // takes the room
+        for (UINT i = 0; i < 6; ++i)
+            other->Add(new CMFCRibbonButton(900 + i, L"A button with a long text"));
+        m_host.LayOut();
+        for (int width = 900; width > 150 && !panel.IsCollapsed(); width -= 20) {
+            m_host.Frame().SetWindowPos(nullptr, 0, 0, width, 400, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+            PumpPending();
+        }
+        ASSERT_TRUE(panel.IsCollapsed());
+        m_pointer.Click(m_host.BarWindow(), panel.GetDefaultButton().GetRect().CenterPoint());
+        PumpPending();
+        ASSERT_NE(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+        ASSERT_NE(m_check->GetParentWnd(), &m_host.Bar());
+        TakeTold();
+    }
+    static bool IsPanelOpen() { return CMFCRibbonPanelMenu::GetDeepest() != nullptr; }
+
+    CMFCRibbonCheckComb* m_check = nullptr;
+    CMFCRibbonCheckComb* m_twin = nullptr; // on the quick access toolbar
+    CMFCRibbonMultiCombo* m_multi = nullptr;
+};
+
+TEST_F(CollapsedPanel, AFaceClickChangesAllAndThePopupStays) {
+    ClickFace(*m_check, 8);
+    EXPECT_EQ(TakeTold(), Told{"sent CHECK 'two' 1"});
+    EXPECT_EQ(ChecksOf(*m_check), "?1?");
+    EXPECT_EQ(ChecksOf(*m_twin), "?1?");
+    EXPECT_TRUE(IsPanelOpen());
+    EXPECT_EQ(Rows(), nullptr);
+}
+
+TEST_F(CollapsedPanel, AMarkInTheListIsSwitchedAndBothStayOpen) {
+    Open(*m_check);
+    EXPECT_TRUE(IsPanelOpen());
+    ClickRow(2, 8);
+    EXPECT_EQ(TakeTold(), Told{"sent CHECK 'three' 1"});
+    EXPECT_EQ(ChecksOf(*m_twin), "??1");
+    EXPECT_NE(Rows(), nullptr);
+    EXPECT_TRUE(IsPanelOpen());
+}
+
+TEST_F(CollapsedPanel, ASwatchClickClosesBothBeforeTheHostIsAsked) {
+    Open(*m_multi);
+    bool wasOpen = true;
+    m_host.Frame().onMessage = [&](const HostMessage& one) {
+        if (one.message == WM_COMBO_COLOR_PICK)
+            wasOpen = Rows() != nullptr || IsPanelOpen();
+        return 0;
+    };
+    ClickRow(0, 5);
+    EXPECT_EQ(TakeTold(), (Told{"sent COMMAND 701", "posted COLOUR #0 0"}));
+    EXPECT_FALSE(wasOpen);
+}
+
+TEST_F(CollapsedPanel, SettersReachTheElementWhileThePopupShowsIt) {
+    m_twin->SetItemCheck(0, true);
+    EXPECT_EQ(ChecksOf(*m_check), "1??");
+    m_check->AddItem(L"new");
+    EXPECT_EQ(m_twin->GetCount(), 4);
+}
+
+TEST_F(CollapsedPanel, AHostMayEndTheFrameFromAListInThePopup) {
+    m_host.Frame().onMessage = [&](const HostMessage&) {
+        m_host.Destroy();
+        return 0;
+    };
+    Open(*m_check);
+    ClickRow(1, 8);
+    PumpPending();
+    EXPECT_FALSE(m_host.IsAlive());
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+}
+
+} // namespace
