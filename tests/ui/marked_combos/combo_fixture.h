@@ -53,10 +53,18 @@ inline std::string Describe(const HostMessage& one) {
 constexpr UINT comboId = 700;
 const wchar_t* const someItems[] = {L"one", L"two", L"three", L"four"};
 
+/// Whoever is in the foreground loses it to programs that start beside this one, and an open list closes then. Who
+/// never was has nothing to lose.
+inline void LeaveForeground() {
+    ::SetForegroundWindow(::GetDesktopWindow());
+    PumpPending();
+}
+
 /// A host with combos at 100 %, whose class-wide values are the initial ones again afterwards.
 class RibbonCombos : public testing::Test {
 protected:
     RibbonCombos() {
+        LeaveForeground();
         m_host.Frame().listensTo = [](UINT message) { return std::ranges::count(ComboMessages(), message) != 0; };
         m_host.Frame().carriesText = CarriesText;
     }

@@ -160,6 +160,7 @@ protected:
     }
     static int RunCase(const Case& one) {
         RibbonHost host;
+        LeaveForeground();
         Pointer pointer;
         Scene scene{host, pointer, &MakeCombo(host, one.kind)};
         for (const wchar_t* const item : someItems)
