@@ -22,7 +22,6 @@ struct RibbonMainPanelParts {
     bool smallRows = false;
     ribbon::MainPanelContent content; // as last measured
     ribbon::MainPanelPlaces places;
-    std::vector<CMFCRibbonButton*> recentFiles;
 
     Place PlaceOf(const CMFCRibbonBaseElement* element) const {
         if (std::find(right.begin(), right.end(), element) != right.end()) {
@@ -84,15 +83,18 @@ void CMFCRibbonMainPanel::AddRecentFilesList(LPCTSTR lpszLabel, int nWidth) {
     for (UINT id = ID_FILE_MRU_FIRST; id <= ID_FILE_MRU_LAST; ++id) {
         auto row = std::make_unique<RecentFileButton>(id);
         row->SetVisible(FALSE);
-        m_parts->recentFiles.push_back(row.get());
         AddToRight(row.release(), nWidth);
     }
 }
 
 void CMFCRibbonMainPanel::UpdateRecentFiles() {
     CRecentFileList* files = AfxGetApp() != nullptr ? AfxGetApp()->GetRecentFileList() : nullptr;
-    int index = 0;
-    for (CMFCRibbonButton* row : m_parts->recentFiles) {
+    for (int position = 0; position < GetCount(); ++position) {
+        auto* row = dynamic_cast<RecentFileButton*>(GetElement(position));
+        if (row == nullptr) {
+            continue;
+        }
+        const int index = static_cast<int>(row->GetID() - ID_FILE_MRU_FIRST);
         CString name;
         const BOOL isThere = files != nullptr && files->GetDisplayName(name, index, nullptr, 0);
         row->SetVisible(isThere);
@@ -104,7 +106,6 @@ void CMFCRibbonMainPanel::UpdateRecentFiles() {
             text.Format(L"%d", (index + 1) % 10);
             row->SetKeys(nullptr, index < 10 ? static_cast<LPCTSTR>(text) : nullptr);
         }
-        ++index;
     }
 }
 

@@ -68,6 +68,7 @@ bool EndsChain(const CWPSTRUCT& sent) {
     case WM_ACTIVATE:
         return LOWORD(sent.wParam) == WA_INACTIVE && IsOwnerOfChain(sent.hwnd) &&
                !toolbar::IsInOpenPopups(reinterpret_cast<HWND>(sent.lParam));
+    case WM_MOVE:
     case WM_SIZE:
     case WM_CANCELMODE:
     case WM_ENTERSIZEMOVE:

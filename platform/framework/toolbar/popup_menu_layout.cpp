@@ -178,6 +178,9 @@ void CMFCPopupMenu::OnSize(UINT nType, int cx, int cy) {
     if (!m_bInLayout) {
         PlaceBar();
         Invalidate();
+        if (!m_parts->isResizing) {
+            UpdateShadow();
+        }
     }
 }
 

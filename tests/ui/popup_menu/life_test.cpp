@@ -119,6 +119,12 @@ TEST_F(PopupMenuTest, AResizedFrameClosesTheChain) {
     EXPECT_EQ(Active(), nullptr);
 }
 
+TEST_F(PopupMenuTest, AMovedFrameClosesTheChain) {
+    OpenChild(Open(), L"&Recent");
+    m_frame->SetWindowPos(nullptr, 30, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_EQ(Active(), nullptr);
+}
+
 TEST_F(PopupMenuTest, ADisabledFrameClosesTheChain) {
     OpenChild(Open(), L"&Recent");
     m_frame->EnableWindow(FALSE);

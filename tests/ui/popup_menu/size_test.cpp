@@ -97,6 +97,24 @@ TEST_F(PopupMenuSizeTest, TheGripAtTheBottomResizesWithinItsLimits) {
     EXPECT_NE(Active(), nullptr);
 }
 
+TEST_F(PopupMenuSizeTest, TheShadowFollowsTheMenusPlaceAndSize) {
+    CMFCPopupMenu* menu = Open();
+    const auto isBesideShadow = [menu] {
+        CRect window;
+        menu->GetWindowRect(&window);
+        return menu->CheckArea(CPoint(window.right, window.bottom - 3)) == CMFCPopupMenu::SHADOW_RIGHT &&
+               menu->CheckArea(CPoint(window.right - 3, window.bottom)) == CMFCPopupMenu::SHADOW_BOTTOM;
+    };
+    ASSERT_TRUE(isBesideShadow());
+    menu->MoveTo(CPoint(230, 140));
+    EXPECT_TRUE(isBesideShadow());
+    menu->GetMenuItem(0)->m_strText = L"An item with a name that is a great deal longer than it was before";
+    menu->RecalcLayout();
+    EXPECT_TRUE(isBesideShadow());
+    menu->SetWindowPos(nullptr, 0, 0, 330, 140, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_TRUE(isBesideShadow());
+}
+
 TEST_F(PopupMenuSizeTest, AMenuGrowsWithTheScale) {
     CMFCPopupMenu* menu = Open();
     const int row = menu->GetMenuBar()->GetRowHeight();

@@ -77,9 +77,15 @@ LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {
     return 0;
 }
 
-RibbonBarTest::RibbonBarTest() : m_frame(new RibbonFrame) {
-    if (!m_frame->Create(nullptr, L"Ribbon", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 1000, 600))) {
+RibbonBarTest::RibbonBarTest(Activation activation) : m_frame(new RibbonFrame) {
+    const DWORD visible = activation == Activation::Active ? WS_VISIBLE : 0;
+    if (!m_frame->Create(nullptr, L"Ribbon", WS_OVERLAPPEDWINDOW | visible, CRect(0, 0, 1000, 600))) {
         throw std::runtime_error("the frame could not be created");
+    }
+    if (visible == 0) {
+        ::ShowWindow(m_frame->GetSafeHwnd(), SW_SHOWNOACTIVATE);
+        // Above all windows it is not the one that becomes active when another program's window goes.
+        ::SetWindowPos(m_frame->GetSafeHwnd(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
     m_window = m_frame->GetSafeHwnd();
     FillBar();
@@ -196,7 +202,7 @@ std::vector<UINT> RibbonBarTest::QuickAccessCommands() {
 void RibbonBarTest::SetClientWidth(int width) {
     CRect window(0, 0, width, 600);
     m_frame->CalcWindowRect(window);
-    m_frame->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    m_frame->SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     CRect client;
     m_frame->GetClientRect(client);
     EXPECT_EQ(client.Width(), width) << "the system has another limit";

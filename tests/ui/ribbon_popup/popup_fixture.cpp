@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-RibbonPopupTest::RibbonPopupTest() {
+RibbonPopupTest::RibbonPopupTest() : RibbonBarTest(Activation::Inactive) {
     CMFCRibbonPanel* panel = Bar().GetCategory(0)->GetPanel(0);
     m_shapes = new CMFCRibbonButton(kShapes, L"Shapes");
     m_shapes->AddSubItem(new CMFCRibbonButton(kLine, L"Line"));

@@ -13,6 +13,22 @@ int g_percent = 100;
 
 class PopupSheet : public RibbonPopupTest {
 protected:
+    /// The application menu with more rows than the screen has room for, scrolled a little.
+    void WriteHighMenu(CMFCRibbonApplicationButton& application, CMFCRibbonMainPanel& main, const std::wstring& name) {
+        const int before = main.GetCount();
+        for (UINT index = 0; index < 40; ++index) {
+            main.Add(new CMFCRibbonButton(5200 + index, L"Another row", ::LoadIcon(nullptr, IDI_INFORMATION)));
+            main.AddToRight(new CMFCRibbonButton(5300 + index, L"Another letter.txt"), 200);
+        }
+        Click(application);
+        PopupBar().Scroll(3);
+        Write(name);
+        CMFCRibbonPanelMenu::DismissAll();
+        while (main.GetCount() > before) {
+            main.Remove(main.GetCount() - 1);
+        }
+        PumpPending();
+    }
     /// The open pop-ups side by side.
     void Write(const std::wstring& name) {
         std::vector<CMFCRibbonPanelMenu*> menus;
@@ -40,7 +56,7 @@ protected:
             CRect rect;
             menu->GetWindowRect(rect);
             dc.SetViewportOrg(x, 10);
-            CMFCVisualManager::GetInstance()->OnDrawMenuBorder(&dc, nullptr, CRect(CPoint(0, 0), rect.Size()));
+            CMFCVisualManager::GetInstance()->OnDrawMenuBorder(&dc, menu, CRect(CPoint(0, 0), rect.Size()));
             CRect bar;
             menu->GetRibbonMenuBar().GetWindowRect(bar);
             dc.SetViewportOrg(x + bar.left - rect.left, 10 + bar.top - rect.top);
@@ -52,6 +68,27 @@ protected:
         ::SelectObject(dc.GetSafeHdc(), old);
         EXPECT_TRUE(WritePng(bitmap, g_directory + L"\\" + name + L".png"));
         ::DeleteObject(bitmap);
+        WriteScreen(menus, L"screen-" + name);
+    }
+    /// As they stand on the screen, with their shadows; a program without display sees nothing there.
+    void WriteScreen(const std::vector<CMFCRibbonPanelMenu*>& menus, const std::wstring& name) {
+        CRect area(0, 0, 0, 0);
+        for (CMFCRibbonPanelMenu* menu : menus) {
+            CRect rect;
+            menu->GetWindowRect(rect);
+            area.UnionRect(area, rect);
+        }
+        area.InflateRect(16, 16);
+        PumpPending();
+        CWindowDC screen(nullptr);
+        CDC dc;
+        dc.CreateCompatibleDC(&screen);
+        CBitmap bitmap;
+        bitmap.CreateCompatibleBitmap(&screen, area.Width(), area.Height());
+        CBitmap* old = dc.SelectObject(&bitmap);
+        dc.BitBlt(0, 0, area.Width(), area.Height(), &screen, area.left, area.top, SRCCOPY);
+        dc.SelectObject(old);
+        EXPECT_TRUE(SavePng(bitmap, g_directory + L"\\" + name + L".png"));
     }
 };
 
@@ -103,11 +140,12 @@ TEST_F(PopupSheet, AllStyles) {
         PopupBar().Highlight(main->GetElement(1));
         Write(L"main-" + suffix);
         CMFCRibbonPanelMenu::DismissAll();
+        WriteHighMenu(application, *main, L"main-high-" + suffix);
         Collapse(0);
         Click(Bar().GetCategory(0)->GetPanel(0)->GetDefaultButton());
         Write(L"panel-" + suffix);
         CMFCRibbonPanelMenu::DismissAll();
-        Click(Bar().GetCategory(0)->GetPanel(1)->GetDefaultButton());
+        Click(Collapse(1).GetDefaultButton());
         Write(L"panel-text-" + suffix);
         CMFCRibbonPanelMenu::DismissAll();
     }
