@@ -23,6 +23,11 @@ struct RibbonMainPanelParts {
     ribbon::MainPanelContent content; // as last measured
     ribbon::MainPanelPlaces places;
 
+    // An element, or another in the memory of one that is gone, is added anew.
+    void Forget(const CMFCRibbonBaseElement* element) {
+        std::erase(right, element);
+        std::erase(bottom, element);
+    }
     Place PlaceOf(const CMFCRibbonBaseElement* element) const {
         if (std::find(right.begin(), right.end(), element) != right.end()) {
             return Place::Right;
@@ -67,12 +72,16 @@ CMFCRibbonMainPanel::CMFCRibbonMainPanel() : m_parts(std::make_unique<RibbonMain
 
 CMFCRibbonMainPanel::~CMFCRibbonMainPanel() = default;
 
-void CMFCRibbonMainPanel::Add(CMFCRibbonBaseElement* pElem) { CMFCRibbonPanel::Add(pElem); }
+void CMFCRibbonMainPanel::Add(CMFCRibbonBaseElement* pElem) {
+    m_parts->Forget(pElem);
+    CMFCRibbonPanel::Add(pElem);
+}
 
 void CMFCRibbonMainPanel::AddToRight(CMFCRibbonBaseElement* pElem, int nWidth) {
     if (pElem == nullptr) {
         return;
     }
+    m_parts->Forget(pElem);
     m_parts->right.push_back(pElem);
     m_parts->rightWidth = std::max(m_parts->rightWidth, nWidth);
     CMFCRibbonPanel::Add(pElem);
@@ -113,6 +122,7 @@ void CMFCRibbonMainPanel::AddToBottom(CMFCRibbonMainPanelButton* pElem) {
     if (pElem == nullptr) {
         return;
     }
+    m_parts->Forget(pElem);
     m_parts->bottom.push_back(pElem);
     CMFCRibbonPanel::Add(pElem);
 }

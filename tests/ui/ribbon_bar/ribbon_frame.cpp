@@ -84,8 +84,6 @@ RibbonBarTest::RibbonBarTest(Activation activation) : m_frame(new RibbonFrame) {
     }
     if (visible == 0) {
         ::ShowWindow(m_frame->GetSafeHwnd(), SW_SHOWNOACTIVATE);
-        // Above all windows it is not the one that becomes active when another program's window goes.
-        ::SetWindowPos(m_frame->GetSafeHwnd(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
     m_window = m_frame->GetSafeHwnd();
     FillBar();

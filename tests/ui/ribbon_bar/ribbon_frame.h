@@ -74,7 +74,7 @@ protected:
 /// A visible frame, 1000 pixels wide inside, whose ribbon has two categories with all kinds of elements.
 class RibbonBarTest : public ::testing::Test {
 protected:
-    /// A frame that was never active does not notice when a program beside the test takes the foreground.
+    /// A frame that was never active seldom notices when a program beside the test takes the foreground.
     enum class Activation { Active, Inactive };
     explicit RibbonBarTest(Activation activation = Activation::Active);
     ~RibbonBarTest() override;

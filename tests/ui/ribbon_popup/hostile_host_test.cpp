@@ -1,11 +1,8 @@
-// Hosts that take away what a pop-up shows, from inside its commands and otherwise; and what pop-ups leave behind.
+// Hosts that take away what a pop-up shows, from inside its commands and otherwise.
 #include <gmock/gmock.h>
-
-#include <oleacc.h>
 
 #include <functional>
 
-#include "tests/support/gui_objects.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -147,99 +144,6 @@ TEST_F(HostileHost, APressMayEndWithThePopupGone) {
     PumpPending();
     EXPECT_TRUE(m_frame->commands.empty());
     EXPECT_FALSE(SubItem(0).IsPressed());
-}
-
-TEST_F(HostileHost, FiveHundredPopupsLeaveNothingBehind) {
-    const auto openAndClose = [this](int times) {
-        for (int i = 0; i < times; ++i) {
-            Click(Shapes());
-            Click(SubItem(3));
-            ::UpdateWindow(PopupBar());
-            CMFCRibbonPanelMenu::DismissAll();
-            PumpPending();
-        }
-    };
-    openAndClose(5);
-    EXPECT_TRUE(LeavesNothingBehind([&] { openAndClose(250); }));
-}
-
-/// Five hundred pop-ups of one kind, with a tooltip and an accessible tree.
-class PopupsOfAKind : public HostileHost {
-protected:
-    PopupsOfAKind() : m_isInitialized(SUCCEEDED(::CoInitialize(nullptr))) {}
-    ~PopupsOfAKind() override {
-        if (m_isInitialized) {
-            ::CoUninitialize();
-        }
-    }
-    static void AskForTree() {
-        void* object = nullptr;
-        ASSERT_EQ(
-            ::AccessibleObjectFromWindow(PopupBar(), static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &object),
-            S_OK);
-        static_cast<IAccessible*>(object)->Release();
-    }
-    void ExpectNothingLeft(const std::function<void()>& open) {
-        const auto openAndClose = [&open](int times) {
-            for (int i = 0; i < times; ++i) {
-                open();
-                ASSERT_EQ(OpenCount(), 1);
-                CMFCRibbonPanelMenu::ElementArray elements;
-                PopupBar().GetElements(elements);
-                Pointer().MoveTo(PopupBar(), elements[0]->GetRect().CenterPoint());
-                AskForTree();
-                ::UpdateWindow(PopupBar());
-                CMFCRibbonPanelMenu::DismissAll();
-                PumpPending();
-            }
-        };
-        openAndClose(5);
-        EXPECT_TRUE(LeavesNothingBehind([&] { openAndClose(500); }));
-    }
-
-private:
-    bool m_isInitialized;
-};
-
-TEST_F(PopupsOfAKind, CollapsedPanelsLeaveNothingBehind) {
-    CMFCRibbonPanel& panel = Collapse(1); // with an edit
-    ExpectNothingLeft([&] { Click(panel.GetDefaultButton()); });
-}
-
-TEST_F(PopupsOfAKind, MinimisedCategoriesLeaveNothingBehind) {
-    Bar().ToggleMimimizeState();
-    PumpPending();
-    ExpectNothingLeft([this] {
-        m_pointer.Click(Bar(), Bar().GetCategory(0)->GetTabRect().CenterPoint());
-        PumpPending();
-    });
-}
-
-TEST_F(PopupsOfAKind, ApplicationMenusLeaveNothingBehind) {
-    CMFCRibbonApplicationButton button;
-    Bar().SetApplicationButton(&button, CSize(44, 24));
-    CMFCRibbonMainPanel* main = Bar().AddMainCategory(L"Main", 0, 0);
-    main->Add(new CMFCRibbonButton(kLine, L"New"));
-    main->AddRecentFilesList(L"Recent");
-    main->AddToBottom(new CMFCRibbonMainPanelButton(kStar, L"Exit", -1));
-    Bar().RecalcLayout();
-    PumpPending();
-    ExpectNothingLeft([&] { Click(button); });
-    Bar().SetApplicationButton(nullptr, CSize(0, 0));
-}
-
-TEST_F(PopupsOfAKind, ContextMenusLeaveNothingBehind) {
-    ExpectNothingLeft([this] { Bar().OnShowRibbonContextMenu(&Bar(), 50, 50, &Element(commands::paste)); });
-}
-
-TEST_F(PopupsOfAKind, QuickAccessRestsLeaveNothingBehind) {
-    CMFCRibbonPanelMenu::ElementArray elements;
-    elements.Add(&SubItem(0));
-    elements.Add(&SubItem(1));
-    ExpectNothingLeft([&] {
-        auto* menu = new CMFCRibbonPanelMenu(elements, TRUE);
-        menu->OpenAt(&Bar(), CRect(10, 10, 30, 30), CMFCRibbonPanelMenu::Side::Below);
-    });
 }
 
 } // namespace

@@ -120,6 +120,20 @@ TEST_F(MainPanel, RowsThatTheScreenHasNoRoomForAreScrolledToAndWork) {
     EXPECT_THAT(m_frame->commands, ElementsAre(2299u, 2099u));
 }
 
+TEST_F(MainPanel, AnElementStandsWhereItWasAddedLast) {
+    CMFCRibbonBaseElement* recent = m_panel->FindByID(kRecent);
+    for (int index = 0; index < m_panel->GetCount(); ++index) {
+        if (m_panel->GetElement(index) == recent) {
+            m_panel->Remove(index, FALSE);
+        }
+    }
+    m_panel->Add(recent);
+    m_panel->AddToRight(new CMFCRibbonButton(kShapes + 500, L"Other"), 200);
+    Click(m_button);
+    EXPECT_EQ(RectOf(kRecent).left, m_panel->GetCommandsFrame().left);
+    EXPECT_GT(RectOf(kShapes + 500).left, RectOf(kRecent).right - 1);
+}
+
 TEST_F(MainPanel, AnotherMainCategoryReplacesTheFormerEvenWhileItIsOpen) {
     Click(m_button);
     m_panel = Bar().AddMainCategory(L"Other", 0, 0);

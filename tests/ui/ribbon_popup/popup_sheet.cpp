@@ -79,6 +79,7 @@ protected:
             area.UnionRect(area, rect);
         }
         area.InflateRect(16, 16);
+        area.IntersectRect(area, CRect(0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)));
         PumpPending();
         CWindowDC screen(nullptr);
         CDC dc;
