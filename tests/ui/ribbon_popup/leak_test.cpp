@@ -22,7 +22,7 @@ protected:
 
     void ExpectNothingLeft(const std::function<void()>& open) {
         Show(open, 5);
-        EXPECT_TRUE(LeavesNothingBehind([&] { EXPECT_GT(Show(open, 500), 250) << "most of them were seen"; }));
+        EXPECT_TRUE(LeavesNothingBehind([&] { EXPECT_GT(Show(open, 150), 75) << "most of them were seen"; }));
     }
 
 private:
