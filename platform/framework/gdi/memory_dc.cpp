@@ -15,6 +15,9 @@ MemoryDc::MemoryDc(CDC& target, const CRect& rect) : m_target(target), m_rect(re
     }
     // Handles, not wrappers: a temporary wrapper might be deleted before this object is.
     m_bitmapBefore = ::SelectObject(m_memory, m_bitmap);
+    if (const DWORD layout = ::GetLayout(target); layout != 0 && layout != GDI_ERROR) {
+        ::SetLayout(m_memory, layout);
+    }
     m_memory.SetMapMode(target.GetMapMode());
     if (target.GetMapMode() == MM_ANISOTROPIC || target.GetMapMode() == MM_ISOTROPIC) {
         m_memory.SetWindowExt(target.GetWindowExt());

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace {
 
 /// A 32-bit picture in memory to draw on.
@@ -134,6 +136,46 @@ TEST_F(Canvas, MemoryDcCopiesItsRectangleBack) {
     EXPECT_EQ(m_dc->GetPixel(8, 8), red);
     EXPECT_EQ(m_dc->GetPixel(14, 8), red);
     EXPECT_EQ(m_dc->GetPixel(15, 8), blue) << "outside of the rectangle";
+}
+
+// What is drawn through the buffer equals what is drawn at once: places change sides, text keeps its direction.
+TEST_F(Canvas, MemoryDcIsMirroredLikeItsTarget) {
+    const auto draw = [this](bool isBuffered, const CRect& rect) {
+        ::SetLayout(*m_dc, 0);
+        m_dc->FillSolidRect(CRect(0, 0, 40, 30), blue);
+        ::SetLayout(*m_dc, LAYOUT_RTL);
+        const auto drawOn = [](CDC& dc) {
+            dc.FillSolidRect(CRect(3, 3, 8, 8), red);
+            dc.SetBkMode(TRANSPARENT);
+            dc.SetTextColor(green);
+            dc.TextOut(9, 4, CString(L"F1"));
+            CBrush brush(green);
+            dc.FillRect(CRect(0, 20, 1, 22), &brush);
+            dc.FillRect(CRect(38, 20, 40, 22), &brush);
+        };
+        if (isBuffered) {
+            fx::MemoryDc buffer(*m_dc, rect);
+            drawOn(buffer);
+        } else {
+            drawOn(*m_dc);
+        }
+        ::SetLayout(*m_dc, 0);
+        std::vector<COLORREF> pixels;
+        for (int y = 0; y < 30; ++y) {
+            for (int x = 0; x < 40; ++x) {
+                pixels.push_back(m_dc->GetPixel(x, y));
+            }
+        }
+        return pixels;
+    };
+    const CRect all(0, 0, 40, 30);
+    const std::vector<COLORREF> atOnce = draw(false, all);
+    EXPECT_EQ(atOnce[4 * 40 + 40 - 5], red) << "the place is mirrored";
+    EXPECT_EQ(atOnce[21 * 40 + 39], green);
+    EXPECT_EQ(draw(true, all), atOnce);
+    const std::vector<COLORREF> part = draw(true, CRect(2, 2, 33, 25));
+    EXPECT_EQ(part[4 * 40 + 40 - 5], red);
+    EXPECT_EQ(part[21 * 40 + 39], blue) << "outside of the rectangle";
 }
 
 TEST_F(Canvas, MemoryDcAnswersTheTargetForAnEmptyRectangle) {

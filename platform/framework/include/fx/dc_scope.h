@@ -62,8 +62,8 @@ private:
 };
 
 /// A double buffer: draws to memory in the target's own co-ordinates and copies the rectangle to the target at the end.
-/// It starts with what the target shows there, and with the target's font and colours. When memory for the picture is
-/// out, GetDC gives the target itself.
+/// It starts with what the target shows there, with the target's font and colours, and mirrored as the target is. When
+/// memory for the picture is out, GetDC gives the target itself.
 class FRAMEWORK_API MemoryDc {
 public:
     /// The rectangle is in the target's logical units; the target must outlive this.
