@@ -128,5 +128,6 @@ protected:
     int m_nWidthFloaty = 0;
     int m_nAlign = ES_LEFT;
     BOOL m_bSettingText = FALSE;
-    CRect m_rectText; // where the text stands inside the edit area: the edit window's place
+    int m_nWindowTextHeight = 0; // of the font that the window has
+    CRect m_rectText;            // where the text stands inside the edit area: the edit window's place
 };

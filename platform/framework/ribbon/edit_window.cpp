@@ -32,7 +32,11 @@ CMFCRibbonRichEditCtrl::CMFCRibbonRichEditCtrl(CMFCRibbonEdit& edit) : m_edit(ed
 
 BOOL CMFCRibbonRichEditCtrl::PreTranslateMessage(MSG* pMsg) {
     // The key may send a command whose handler deletes this window.
-    const bool isKey = pMsg->message == WM_KEYDOWN || (pMsg->message == WM_SYSKEYDOWN && IsKeyWithAlt(pMsg->wParam));
+    const bool isWithAlt = pMsg->message == WM_SYSKEYDOWN && IsKeyWithAlt(pMsg->wParam);
+    const bool isKey = pMsg->message == WM_KEYDOWN || isWithAlt;
+    // Alt, when it is let go, was not pressed alone.
+    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); isWithAlt && bar != nullptr)
+        bar->GetKeyboard().OnOtherKey();
     if (isKey && pMsg->hwnd == GetSafeHwnd() && m_edit.OnEditKey(static_cast<UINT>(pMsg->wParam)))
         return TRUE;
     return CRichEditCtrl::PreTranslateMessage(pMsg);
@@ -109,10 +113,16 @@ void CMFCRibbonEdit::PlaceEditWindow() {
     }
     if (m_pWndEdit == nullptr) {
         m_pWndEdit = CreateEdit(GetParentWnd(), WS_CHILD | ES_AUTOHSCROLL | m_nAlign);
+        m_nWindowTextHeight = afxGlobalData.GetTextHeight();
         if (m_pWndEdit == nullptr)
             return;
         m_pWndEdit->EnableWindow(!IsDisabled());
         ShowTextInWindow();
+    }
+    // Another scale, or other settings of the user's, have another font.
+    if (m_nWindowTextHeight != afxGlobalData.GetTextHeight()) {
+        m_nWindowTextHeight = afxGlobalData.GetTextHeight();
+        m_pWndEdit->SetFont(&afxGlobalData.fontRegular);
     }
     m_pWndEdit->SetWindowPos(nullptr, m_rectText.left, m_rectText.top, m_rectText.Width(), m_rectText.Height(),
                              SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);

@@ -416,6 +416,12 @@ bool RibbonKeyboard::OnSysKeyDown(UINT key, LPARAM flags) {
         if ((flags & kRepeats) != 0) {
             return m_swallowedUp == key;
         }
+        const bool isInEdit = HoldsFocus() && ::GetFocus() != m_bar.GetSafeHwnd();
+        if (m_isActive && isInEdit && !m_areTipsShown && key == VK_MENU) {
+            // It may be the first half of Alt and an arrow, which opens the edit's list.
+            m_isAltPending = true;
+            return false;
+        }
         if (m_isActive) {
             Deactivate(Focus::GiveBack);
         } else if (key == VK_MENU || !CanStart()) {
@@ -454,7 +460,14 @@ bool RibbonKeyboard::OnSysKeyUp(UINT key) {
         m_swallowedUp = 0;
         return true;
     }
-    if (key != VK_MENU || !std::exchange(m_isAltPending, false) || !CanStart()) {
+    if (key != VK_MENU || !std::exchange(m_isAltPending, false)) {
+        return false;
+    }
+    if (m_isActive) {
+        Deactivate(Focus::GiveBack);
+        return true;
+    }
+    if (!CanStart()) {
         return false;
     }
     Activate();

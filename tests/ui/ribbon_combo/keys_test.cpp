@@ -204,6 +204,23 @@ TEST_F(ComboKeys, F4AndArrowsInTheEditWindowOpenTheList) {
     EXPECT_TRUE(IsOpen());
 }
 
+TEST_F(ComboKeys, AltIsNoMoreThanTheFirstHalfOfAltAndDown) {
+    FocusOn(Edit());
+    Keys keys;
+    keys.Down(VK_MENU);
+    keys.Hold(VK_MENU);
+    EXPECT_TRUE(Edit().HasFocus());
+    keys.Press(VK_DOWN);
+    EXPECT_TRUE(IsOpen());
+    keys.Let(VK_MENU);
+    keys.Up(VK_MENU);
+    EXPECT_TRUE(IsOpen());
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(Edit().HasFocus());
+    Press(VK_MENU);
+    EXPECT_FALSE(Edit().HasFocus()) << "alone it leaves the ribbon";
+}
+
 TEST_F(ComboKeys, TheEditWindowKeepsTheFocusAndItsOwnKeys) {
     FocusOn(Edit());
     Press(VK_F4);

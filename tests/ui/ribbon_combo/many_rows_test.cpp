@@ -1,5 +1,7 @@
 #include "tests/ui/ribbon_combo/combo_fixture.h"
 
+#include <richedit.h>
+
 #include "tests/support/growth.h"
 #include "tests/support/gui_objects.h"
 
@@ -114,6 +116,7 @@ TEST_F(RibbonComboTest, FiveHundredListsLeaveNothingBehind) {
 }
 
 TEST_F(RibbonComboTest, TheSmallestScaleAndTheLargestHaveAllParts) {
+    LONG fontHeight = 0;
     for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
         afxGlobalData.SetRibbonImageScale(scale);
         LayOut();
@@ -123,6 +126,12 @@ TEST_F(RibbonComboTest, TheSmallestScaleAndTheLargestHaveAllParts) {
         EXPECT_GE(ScreenRect(List()).Width(), BoxOnScreen(Plain()).Width());
         ClickRow(7);
         EXPECT_EQ(Plain().GetCurSel(), 7) << scale;
+        CHARFORMATW format{};
+        format.cbSize = sizeof(format);
+        format.dwMask = CFM_SIZE;
+        Edit().GetEditWnd()->SendMessage(EM_GETCHARFORMAT, SCF_ALL, reinterpret_cast<LPARAM>(&format));
+        EXPECT_GT(format.yHeight, fontHeight) << "the edit window's font follows";
+        fontHeight = format.yHeight;
     }
     afxGlobalData.SetRibbonImageScale(0);
 }
