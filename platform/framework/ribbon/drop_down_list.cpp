@@ -1,6 +1,8 @@
 // The list that a combo box drops down.
 #include <afxribboncombobox.h>
 
+#include <afxglobals.h>
+
 #include "toolbar/menu_row.h"
 #include "toolbar/row_text.h"
 
@@ -16,6 +18,7 @@ END_MESSAGE_MAP()
 namespace {
 
 constexpr int kMostMeasured = 300; // texts, the longest ones
+constexpr int kOverhang = 2;       // letters may be drawn beyond their width, at 96 DPI
 constexpr int kRowsAboveSelection = 2;
 
 bool IsMirrored(const CWnd* window) {
@@ -90,8 +93,8 @@ int CMFCDropDownListBox::MeasureRows(CDC& dc) {
     int width = 0;
     for (auto row = longest.begin(); row != end; ++row) {
         const CString text = toolbar::ShownText(m_rows[static_cast<std::size_t>(*row)]);
-        const CSize size(toolbar::MenuRowWidth(static_cast<int>(dc.GetTextExtent(text).cx), bar.GetRowMetrics()),
-                         bar.GetRowHeight());
+        const int textWidth = static_cast<int>(dc.GetTextExtent(text).cx) + afxGlobalData.ScalePixels(kOverhang);
+        const CSize size(toolbar::MenuRowWidth(textWidth, bar.GetRowMetrics()), bar.GetRowHeight());
         const int wanted = m_pCombo != nullptr ? m_pCombo->GetDropListItemWidth(&dc, *row, size) : size.cx;
         width = std::max(width, wanted);
     }

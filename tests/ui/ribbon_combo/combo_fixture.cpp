@@ -38,7 +38,7 @@ SpyCombo& RibbonComboTest::Add(UINT id, BOOL hasEditBox, int items) {
     for (int item = 0; item < items; ++item) {
         CString text;
         text.Format(L"Item %d", item);
-        combo->AddItem(text, static_cast<DWORD_PTR>(1000 + item));
+        combo->AddItem(text, static_cast<DWORD_PTR>(item) + 1000);
     }
     Bar().GetCategory(0)->GetPanel(0)->Add(combo);
     return *combo;
