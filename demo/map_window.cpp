@@ -18,7 +18,11 @@ END_MESSAGE_MAP()
 
 BOOL CMapWindow::Create(CWnd* parent, UINT id) {
     const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
-    return CWnd::Create(windowClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0), parent, id);
+    if (!CWnd::Create(windowClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0), parent, id))
+        return FALSE;
+    // West stays on the left, whichever way the reader's language runs.
+    ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
+    return TRUE;
 }
 
 void CMapWindow::SetStyle(const MapPaintStyle& style) {

@@ -1,6 +1,7 @@
 #include "ribbon/paint_buffer.h"
 
 #include "visual/canvas.h"
+#include "visual/device_pixels.h"
 
 #include <algorithm>
 #include <utility>
@@ -59,12 +60,15 @@ RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
     m_isOpen = true;
     const HDC memory = m_memory.GetSafeHdc();
     m_previous = ::SelectObject(memory, m_bitmap);
-    // In a mirrored window text and images keep their direction, only their places change sides. The region counts its
-    // pixels from the other side there and is left out: the target clips anyway.
-    if ((::GetLayout(targetDC) & LAYOUT_RTL) != 0) {
+    m_isMirrored = visual::IsMirrored(targetDC);
+    if (m_isMirrored) {
+        // Text and images keep their direction, only their places change sides. Nothing is clipped here, the target
+        // does it: a mirrored context clips one pixel beside what it draws.
         ::SetLayout(memory, LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED);
-        m_isMirrored = true;
-    } else if (shown != nullptr) {
+        ::SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
+        return;
+    }
+    if (shown != nullptr) {
         ::SelectClipRgn(memory, shown);
         ::OffsetClipRgn(memory, -area.left, -area.top);
     }
@@ -77,14 +81,16 @@ RibbonPaintBuffer::~RibbonPaintBuffer() {
         return;
     }
     const HDC memory = m_memory.GetSafeHdc();
-    const DWORD layout = ::GetLayout(m_target.GetSafeHdc());
+    const HDC target = m_target.GetSafeHdc();
     if (m_isMirrored) {
-        ::SetLayout(m_target.GetSafeHdc(), layout | LAYOUT_BITMAPORIENTATIONPRESERVED);
-    }
-    ::BitBlt(m_target.GetSafeHdc(), m_area.left, m_area.top, m_area.Width(), m_area.Height(), memory, m_area.left,
-             m_area.top, SRCCOPY);
-    if (m_isMirrored) {
-        ::SetLayout(m_target.GetSafeHdc(), layout);
+        const POINT from = visual::DeviceCorner(memory, m_area);
+        const POINT to = visual::DeviceCorner(target, m_area);
+        const visual::ScopedDevicePixels memoryPixels(memory);
+        const visual::ScopedDevicePixels targetPixels(target);
+        ::BitBlt(target, to.x, to.y, m_area.Width(), m_area.Height(), memory, from.x, from.y, SRCCOPY);
+    } else {
+        ::BitBlt(target, m_area.left, m_area.top, m_area.Width(), m_area.Height(), memory, m_area.left, m_area.top,
+                 SRCCOPY);
     }
     ::SelectObject(memory, m_previous);
     KeptBitmap& kept = Kept();

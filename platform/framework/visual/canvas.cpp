@@ -1,5 +1,7 @@
 #include "visual/canvas.h"
 
+#include "visual/device_pixels.h"
+
 #include <algorithm>
 
 namespace visual {
@@ -18,12 +20,21 @@ HBITMAP MakeBitmap32(int width, int height, std::uint32_t** bits) {
     return bitmap;
 }
 
+namespace {
+
+void Blend(HDC target, POINT corner, HDC source, SIZE size) {
+    const BLENDFUNCTION over{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    AlphaBlend(target, corner.x, corner.y, size.cx, size.cy, source, 0, 0, size.cx, size.cy, over);
+}
+
+} // namespace
+
 Canvas::Canvas(HDC dc, const RECT& bounds, const Recipe& recipe) : m_dc(dc), m_bounds(bounds), m_recipe(recipe) {
     const int width = bounds.right - bounds.left, height = bounds.bottom - bounds.top;
     if (width <= 0 || height <= 0 || !RectVisible(dc, &bounds))
         return;
     // A kept picture would have the wrong direction half of the time.
-    if (const DWORD layout = GetLayout(dc); layout != GDI_ERROR && (layout & LAYOUT_RTL) != 0)
+    if (IsMirrored(dc))
         m_recipe = Recipe();
     if (!m_recipe.IsEmpty() && PictureCache::Instance().Draw(dc, bounds, m_recipe))
         return;
@@ -36,45 +47,22 @@ Canvas::Canvas(HDC dc, const RECT& bounds, const Recipe& recipe) : m_dc(dc), m_b
     m_view = {bits, width, height};
 }
 
-namespace {
-
-/// While it lives a mirrored context places pictures mirrored but does not mirror them.
-class ScopedPictureLayout {
-public:
-    explicit ScopedPictureLayout(HDC dc) : m_dc(dc), m_layout(GetLayout(dc)) {
-        if (IsMirrored())
-            SetLayout(m_dc, m_layout | LAYOUT_BITMAPORIENTATIONPRESERVED);
-    }
-    ~ScopedPictureLayout() {
-        if (IsMirrored())
-            SetLayout(m_dc, m_layout);
-    }
-    ScopedPictureLayout(const ScopedPictureLayout&) = delete;
-    ScopedPictureLayout& operator=(const ScopedPictureLayout&) = delete;
-
-    bool IsMirrored() const { return m_layout != GDI_ERROR && (m_layout & LAYOUT_RTL) != 0; }
-
-private:
-    HDC m_dc;
-    DWORD m_layout;
-};
-
-} // namespace
-
 Canvas::~Canvas() {
     if (m_view.bits != nullptr) {
         GdiFlush();
-        // What was drawn from left to right belongs from right to left: tabs' gaps, round ends of groups.
-        const ScopedPictureLayout layout(m_dc);
-        if (layout.IsMirrored()) {
+        const SIZE size{m_view.width, m_view.height};
+        if (IsMirrored(m_dc)) {
+            // What was drawn from left to right belongs from right to left: tabs' gaps, round ends of groups.
             for (int y = 0; y < m_view.height; ++y) {
                 std::uint32_t* const row = m_view.bits + static_cast<std::ptrdiff_t>(y) * m_view.width;
                 std::reverse(row, row + m_view.width);
             }
+            const POINT corner = DeviceCorner(m_dc, m_bounds);
+            const ScopedDevicePixels pixels(m_dc);
+            Blend(m_dc, corner, m_memory, size);
+        } else {
+            Blend(m_dc, {m_bounds.left, m_bounds.top}, m_memory, size);
         }
-        const BLENDFUNCTION over{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
-        AlphaBlend(m_dc, m_bounds.left, m_bounds.top, m_view.width, m_view.height, m_memory, 0, 0, m_view.width,
-                   m_view.height, over);
     }
     if (m_previous != nullptr)
         SelectObject(m_memory, m_previous);
