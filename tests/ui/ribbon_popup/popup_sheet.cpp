@@ -89,7 +89,7 @@ protected:
         CBitmap* old = dc.SelectObject(&bitmap);
         dc.BitBlt(0, 0, area.Width(), area.Height(), &screen, area.left, area.top, SRCCOPY);
         dc.SelectObject(old);
-        EXPECT_TRUE(SavePng(bitmap, g_directory + L"\\" + name + L".png"));
+        EXPECT_TRUE(WritePng(bitmap, g_directory + L"\\" + name + L".png"));
     }
 };
 
