@@ -5,7 +5,6 @@
 #include "combos/mark_sizes.h"
 #include "host_messages.h"
 
-#include <afxglobals.h>
 #include <afxvisualmanager.h>
 #include <fx/accessibility_data.h>
 
@@ -17,11 +16,8 @@ constexpr int initialListHeight = 560;
 /// The boxes' only zone.
 constexpr int boxZone = 0;
 
-/// Between the sides of a row and its box or text: a box lies in the middle of the column in which a click counts.
-CSize TextMargin() {
-    const int margin = afxGlobalData.ScalePixels(1);
-    return {margin, margin};
-}
+/// Between the sides of a row and its box or text, at any scale: the column in which a click counts ends with the box.
+const CSize textMargin(1, 1);
 
 } // namespace
 
@@ -57,12 +53,12 @@ struct CMFCRibbonCheckComb::State : MarkedComboState<bool> {
 
 CMFCRibbonCheckComb::CMFCRibbonCheckComb() : m_state(std::make_shared<State>()) {
     ScaleCheckBoxOnce();
-    m_szMargin = TextMargin();
+    m_szMargin = textMargin;
 }
 
 CMFCRibbonCheckComb::CMFCRibbonCheckComb(UINT id, BOOL hasEditBox, int width, LPCTSTR label, int imageIndex)
     : CMFCRibbonComboBox(id, hasEditBox, width, label, imageIndex), m_state(std::make_shared<State>()) {
-    m_szMargin = TextMargin();
+    m_szMargin = textMargin;
 }
 
 CMFCRibbonCheckComb::~CMFCRibbonCheckComb() = default;
@@ -124,6 +120,8 @@ void CMFCRibbonCheckComb::DropDownList() {
     if (!BeginDropDown())
         return;
     CoolPanelOf(*this);
+    if (m_state->usesStaticHeight) // the list of another combo may have been resized since
+        SetDropDownHeight(m_nStaticDropDownHeight);
     const int editBottom = static_cast<int>(GetEditRect().bottom);
     OpenDropDown(MakeMarkedList(*this, {marks::CheckZone(MarkSizes::Current().checkBox, editBottom)}), m_rect.Width());
 }
@@ -180,7 +178,7 @@ void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
 
 void CMFCRibbonCheckComb::OnCalcTextSize(CDC* dc) {
     CMFCRibbonComboBox::OnCalcTextSize(dc);
-    m_szMargin = TextMargin();
+    m_szMargin = textMargin;
 }
 
 BOOL CMFCRibbonCheckComb::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenuButton* row, BOOL /*highlighted*/) {

@@ -167,6 +167,8 @@ void CMFCRibbonMultiCombo::DropDownList() {
     if (!BeginDropDown())
         return;
     CoolPanelOf(*this);
+    if (m_state->usesStaticHeight) // the list of another combo may have been resized since
+        SetDropDownHeight(m_nStaticDropDownHeight);
     OpenDropDown(MakeMarkedList(*this, marks::SwatchZones(GetEditRect().Height(), ScaledIconSize())), m_rect.Width());
 }
 

@@ -124,7 +124,12 @@ void LayerControls::FillCombos() {
         m_styles->SelectItem(1);
     if (m_labels)
         m_labels->SelectItem(0);
+    for (CMFCRibbonComboBox* const combo : Combos())
+        if (combo)
+            combo->EnableDropDownListResize(TRUE);
 }
+
+std::array<CMFCRibbonComboBox*, 3> LayerControls::Combos() const { return {m_shown, m_styles, m_labels}; }
 
 /// The configured slider gives way to one whose copies move together; the second place is the panel of the pointer.
 void LayerControls::MakeSliders(CMFCRibbonBar& ribbon) {
@@ -163,19 +168,16 @@ void LayerControls::ShowState() {
         bool isChecked = false;
         if (m_shown && (!m_shown->GetItemCheck(i, isChecked) || isChecked != m_state.IsShown(layer)))
             m_shown->SetItemCheck(i, m_state.IsShown(layer));
-        CMFCRibbonMultiCombo::rowInfo info = {};
-        const COLORREF color = ToColorRef(ShownColor(m_state, layer));
-        if (m_styles && (!m_styles->GetItemInfo(i, info) || info.clr != color || info.light != m_state.IsLit(layer))) {
-            m_styles->SetItemClr(i, color, false);
+        // The combo has changed its own light only: this reaches its copies, too.
+        if (m_styles) {
+            m_styles->SetItemClr(i, ToColorRef(ShownColor(m_state, layer)), false);
             m_styles->SetItemLight(i, m_state.IsLit(layer), false);
         }
     }
     for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i)
         if (m_labels)
             m_labels->SetItemLight(i, m_state.IsLit(static_cast<MapLabel>(i)), false);
-    for (CMFCRibbonBaseElement* const combo :
-         {static_cast<CMFCRibbonBaseElement*>(m_shown), static_cast<CMFCRibbonBaseElement*>(m_styles),
-          static_cast<CMFCRibbonBaseElement*>(m_labels)})
+    for (CMFCRibbonComboBox* const combo : Combos())
         if (combo)
             combo->Redraw();
     if (m_scale && m_scale->GetPos() != m_state.SliderPosition())

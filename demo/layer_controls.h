@@ -44,6 +44,8 @@ public:
     bool IsPointerLabel(const void* label) const { return label == m_pointer; }
 
 private:
+    /// Null where the configuration has none.
+    std::array<CMFCRibbonComboBox*, 3> Combos() const;
     void FillCombos();
     void MakeSliders(CMFCRibbonBar& ribbon);
     void MakePointerLabel(CMFCRibbonPanel& panel);

@@ -21,9 +21,12 @@ namespace {
 constexpr UINT kFirstCommand = 41000;
 constexpr UINT kLastCommand = 49999;
 constexpr UINT kRebuildRibbonMessage = WM_APP + 1;
+constexpr UINT kShowStateMessage = WM_APP + 2;
 /// Buttons with sub-items that also do something of their own.
 constexpr std::array<const wchar_t*, 5> kSplitButtons = {L"ZoomOriginal", L"PlaceCities", L"BookmarkGo", L"LineWidth",
                                                          L"NameSize"};
+/// Beside those that the configuration puts there.
+constexpr std::array<const wchar_t*, 3> kOfferedForQuickAccess = {L"BookmarkAdd", L"PictureCopy", L"LayersShown"};
 constexpr wchar_t kRibbonFile[] = L"cfg\\ribbon.xml";
 
 struct Skin {
@@ -67,6 +70,7 @@ ON_WM_SETFOCUS()
 ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
 ON_MESSAGE(kRebuildRibbonMessage, OnRebuildRibbon)
+ON_MESSAGE(kShowStateMessage, OnShowState)
 ON_MESSAGE(WM_COMBO_CHECK_CHANGED, OnLayerChecked)
 ON_MESSAGE(WM_COMBO_COLOR_PICK, OnLayerColor)
 ON_MESSAGE(WM_COMBO_LIGHT_CHANGED, OnLayerLight)
@@ -113,6 +117,8 @@ void CMainFrame::BuildRibbon() {
     m_place = nullptr;
     CMFCRibbonCategory* const active = m_ribbon.GetActiveCategory();
     const int shown = active ? m_ribbon.GetCategoryIndex(active) : m_options.category;
+    CList<UINT, UINT> chosen; // for quick access, perhaps by the user
+    m_ribbon.GetQuickAccessCommands(chosen);
     m_ribbon.RemoveAllCategories();
 
     CAddRibbonBar builder;
@@ -122,10 +128,28 @@ void CMainFrame::BuildRibbon() {
     for (const wchar_t* keyword : kSplitButtons)
         if (auto* const button = FindElement<CMFCRibbonButton>(m_ribbon, keyword))
             button->SetDefaultCommand();
+    OfferQuickAccess(builder);
+    if (active)
+        m_ribbon.SetQuickAccessCommands(chosen);
     m_controls.Attach(m_ribbon);
     if (m_ribbon.GetCategoryCount() > 0)
         m_ribbon.SetActiveCategory(m_ribbon.GetCategory(std::min(shown, m_ribbon.GetCategoryCount() - 1)));
     m_ribbon.ForceRecalcLayout();
+}
+
+/// What the customise menu of the quick access toolbar lists, and what it goes back to.
+void CMainFrame::OfferQuickAccess(const CAddRibbonBar& builder) {
+    CMFCRibbonQuickAccessToolBarDefaultState offered;
+    std::vector<unsigned int> ids;
+    builder.GetQAToolBar(ids);
+    for (const unsigned int id : ids)
+        offered.AddCommand(id, TRUE);
+    for (const wchar_t* const keyword : kOfferedForQuickAccess) {
+        int id = 0;
+        if (CMenuIdMgr::Ins()->GetMenuId(keyword, id))
+            offered.AddCommand(static_cast<UINT>(id), FALSE);
+    }
+    m_ribbon.SetQuickAccessDefaultState(offered);
 }
 
 void CMainFrame::OnConfiguredCommand(UINT id) {
@@ -148,6 +172,11 @@ void CMainFrame::TakeChange() {
     WriteRecord();
 }
 
+LRESULT CMainFrame::OnShowState(WPARAM, LPARAM) {
+    TakeChange();
+    return 0;
+}
+
 LRESULT CMainFrame::OnLayerChecked(WPARAM, LPARAM) {
     m_controls.TakeChecks();
     TakeChange();
@@ -160,11 +189,12 @@ LRESULT CMainFrame::OnLayerColor(WPARAM item, LPARAM) {
     return 0;
 }
 
-// The answer decides; the combo shows the light itself afterwards.
+// The answer decides; the combo shows the light itself afterwards, and then its copies are to show it.
 LRESULT CMainFrame::OnLayerLight(WPARAM text, LPARAM isOn) {
     const bool isTaken = m_controls.TakeLight(*reinterpret_cast<const CString*>(text), isOn != 0);
     m_map.ShowState();
     WriteRecord();
+    PostMessage(kShowStateMessage);
     return isTaken ? 1 : 0;
 }
 

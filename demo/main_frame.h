@@ -9,6 +9,8 @@
 #include "options.h"
 #include "viewer_commands.h"
 
+class CAddRibbonBar;
+
 /// The viewer's main window: the ribbon from cfg\ribbon.xml above the map. Turns the configured commands over to the
 /// reactors and answers what they need of the frame.
 class CMainFrame : public CFrameWndEx, private ViewerHost {
@@ -27,6 +29,7 @@ protected:
     afx_msg void OnConfiguredCommand(UINT id);
     afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
     afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);
+    afx_msg LRESULT OnShowState(WPARAM, LPARAM);
     afx_msg LRESULT OnLayerChecked(WPARAM, LPARAM);
     afx_msg LRESULT OnLayerColor(WPARAM item, LPARAM);
     afx_msg LRESULT OnLayerLight(WPARAM text, LPARAM isOn);
@@ -36,6 +39,7 @@ protected:
 
 private:
     void BuildRibbon();
+    void OfferQuickAccess(const CAddRibbonBar& builder);
     void ShowState();
     /// After a change that came by a message.
     void TakeChange();

@@ -79,6 +79,14 @@ class DumpOfTheDemo(unittest.TestCase):
             for b in rects[:i]:
                 self.assertFalse(a[0] < b[2] and b[0] < a[2] and a[1] < b[3] and b[1] < a[3], (a, b))
 
+    def test_narrow_and_enlarged_bars_keep_their_elements_inside(self):
+        for width, scale in ((300, 100), (300, 200), (1280, 150)):
+            _, got = dump(BIN_DIR, "--lang", "en", "--size", f"{width}x400", "--scale", str(scale))
+            rects = [e["rect"] for p in got["ribbon"]["categories"][0]["panels"] for e in p["elements"]]
+            for left, top, right, bottom in rects:
+                # What a collapsed panel holds has no place.
+                self.assertTrue([left, top, right, bottom] == [0, 0, 0, 0] or 0 <= left < right <= width, (width, scale, left, right))
+
     def test_elements_of_other_categories_have_no_place(self):
         _, got = dump(BIN_DIR, "--lang", "en")
         for panel in got["ribbon"]["categories"][1]["panels"]:

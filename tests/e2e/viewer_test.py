@@ -63,6 +63,30 @@ class LayerCombos(unittest.TestCase):
             viewer.key("Down", "space")
             viewer.wait_for(lambda record: record["map"]["layers"][:2] == [False, False])
 
+    def test_a_tick_changes_the_map_at_once(self):
+        with self.open() as viewer, tempfile.TemporaryDirectory() as folder:
+            before = viewer.picture(os.path.join(folder, "before.png"))
+            viewer.open_menu("LayersShown")
+            viewer.key("space", "Escape")
+            viewer.wait_for(lambda record: not record["map"]["layers"][0])
+            viewer.wait_until(lambda: changed_pixels(before, viewer.picture(os.path.join(folder, "after.png")),
+                                                     MAP_AREA) > MANY_PIXELS, "the map looks different")
+
+    def test_the_dump_shows_items_and_states(self):
+        def bgr(color):
+            return color >> 16 & 0xFF | color & 0xFF00 | (color & 0xFF) << 16
+
+        with self.open() as viewer:
+            elements = {element["class"]: element for element in viewer.elements()}
+            states = {name: [item["state"] for item in element["items"]] for name, element in elements.items() if "items" in element}
+            shown = viewer.record["map"]
+            self.assertEqual(states["CMFCRibbonCheckComb"], [{"check": check} for check in shown["layers"]])
+            self.assertEqual(states["CMFCRibbonMultiCombo"],
+                             [{"clr": bgr(style["color"]), "light": style["lit"]} for style in shown["layerStyles"]])
+            self.assertEqual(states["CMFCRibbonVesMultiCombo"], [{"light": lit} for lit in shown["labelsLit"]])
+            self.assertEqual(elements["CMFCRibbonMultiCombo"]["selected"], 1)
+            self.assertIs(elements["CMFCRibbonLabelEx"]["right"], False)
+
     def test_the_light_of_a_locked_layer_cannot_be_switched(self):
         with self.open() as viewer:
             lit = lambda record: record["map"]["layerStyles"][1]["lit"]

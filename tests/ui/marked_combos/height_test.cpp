@@ -93,11 +93,9 @@ TYPED_TEST(StaticHeight, AUsersResizeOfOneListIsTheNextHeightOfAllThatUseIt) {
         << "the other class keeps its own";
     EXPECT_EQ(alone.GetDropDownHeight(), 200);
 
-    first.UserStaticDropDownHeight(true);
     this->Open(first);
     EXPECT_EQ(HeightOfOpenList(), 300);
     CMFCPopupMenu::CloseAll();
-    second.UserStaticDropDownHeight(true);
     this->Open(second);
     EXPECT_EQ(HeightOfOpenList(), 300);
     CMFCPopupMenu::CloseAll();

@@ -4,6 +4,10 @@
 
 #include <climits>
 
+// What hosts that were built before count on.
+static_assert(WM_COMBO_CHECK_CHANGED == 0x0470 && WM_COMBO_COLOR_PICK == 0x0471 && WM_COMBO_LIGHT_CHANGED == 0x0472 &&
+              WM_COMBO_ITEM_ACTION == 0x0473 && WM_VESCOMBO_LIGHT_CHANGED == 0x0464);
+
 namespace {
 
 constexpr bool ordinary = false;
