@@ -76,7 +76,7 @@ std::vector<City> ReadCities(const std::filesystem::path& path) {
     while (std::getline(file, line)) {
         std::vector<std::string> fields;
         boost::trim_right(line);
-        boost::split(fields, line, boost::is_any_of("\t"));
+        boost::split(fields, line, [](char character) { return character == '\t'; });
         if (line.empty() || line[0] == '#' || fields.size() != 5)
             continue;
         std::istringstream numbers(fields[0] + " " + fields[1] + " " + fields[2]);
