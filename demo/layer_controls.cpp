@@ -1,9 +1,9 @@
 #include "layer_controls.h"
 
 #include "map_painter.h"
-#include "menu_id_mgr.h"
 #include "ribbon_check_combo.h"
 #include "ribbon_label_ex.h"
+#include "ribbon_lookup.h"
 #include "ribbon_multi_combo.h"
 #include "ribbon_slider_sync.h"
 
@@ -35,14 +35,6 @@ std::uint32_t FromColorRef(COLORREF color) {
     return static_cast<std::uint32_t>(GetRValue(color)) << 16 | GetGValue(color) << 8 | GetBValue(color);
 }
 
-template <class Element>
-Element* FindElement(const CMFCRibbonBar& ribbon, const wchar_t* keyword) {
-    int id = 0;
-    if (!CMenuIdMgr::Ins()->GetMenuId(keyword, id))
-        return nullptr;
-    return DYNAMIC_DOWNCAST(Element, ribbon.FindByID(static_cast<UINT>(id), FALSE, TRUE));
-}
-
 int IndexOf(const CMFCRibbonPanel& panel, const CMFCRibbonBaseElement* element) {
     int index = panel.GetCount() - 1;
     while (index >= 0 && panel.GetElement(index) != element)
@@ -59,6 +51,13 @@ CMFCRibbonPanel* FindPanel(CMFCRibbonBar& ribbon, const CString& name) {
                 return category.GetPanel(k);
     }
     return nullptr;
+}
+
+template <class Combo>
+void ShowLight(Combo* combo, int item, bool isLit) {
+    bool isShownLit = false;
+    if (combo && (!combo->GetItemLight(item, isShownLit) || isShownLit != isLit))
+        combo->SetItemLight(item, isLit, true);
 }
 
 std::wstring DegreeText(double degrees, const wchar_t* side, bool hasSeconds) {
@@ -124,12 +123,10 @@ void LayerControls::FillCombos() {
         m_styles->SelectItem(1);
     if (m_labels)
         m_labels->SelectItem(0);
-    for (CMFCRibbonComboBox* const combo : Combos())
+    for (CMFCRibbonComboBox* const combo : std::array<CMFCRibbonComboBox*, 3>{m_shown, m_styles, m_labels})
         if (combo)
             combo->EnableDropDownListResize(TRUE);
 }
-
-std::array<CMFCRibbonComboBox*, 3> LayerControls::Combos() const { return {m_shown, m_styles, m_labels}; }
 
 /// The configured slider gives way to one whose copies move together; the second place is the panel of the pointer.
 void LayerControls::MakeSliders(CMFCRibbonBar& ribbon) {
@@ -166,22 +163,25 @@ void LayerControls::ShowState() {
     for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
         const auto layer = static_cast<MapLayer>(i);
         bool isChecked = false;
-        if (m_shown && (!m_shown->GetItemCheck(i, isChecked) || isChecked != m_state.IsShown(layer)))
+        if (m_shown && (!m_shown->GetItemCheck(i, isChecked) || isChecked != m_state.IsShown(layer))) {
             m_shown->SetItemCheck(i, m_state.IsShown(layer));
-        // The combo has changed its own light only: this reaches its copies, too.
-        if (m_styles) {
-            m_styles->SetItemClr(i, ToColorRef(ShownColor(m_state, layer)), false);
-            m_styles->SetItemLight(i, m_state.IsLit(layer), false);
+            m_shown->Redraw();
         }
+        const COLORREF color = ToColorRef(ShownColor(m_state, layer));
+        COLORREF shownColor = 0;
+        if (m_styles && (!m_styles->GetItemClr(i, shownColor) || shownColor != color))
+            m_styles->SetItemClr(i, color, true);
+        ShowLight(m_styles, i, m_state.IsLit(layer));
     }
     for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i)
-        if (m_labels)
-            m_labels->SetItemLight(i, m_state.IsLit(static_cast<MapLabel>(i)), false);
-    for (CMFCRibbonComboBox* const combo : Combos())
-        if (combo)
-            combo->Redraw();
+        ShowLight(m_labels, i, m_state.IsLit(static_cast<MapLabel>(i)));
     if (m_scale && m_scale->GetPos() != m_state.SliderPosition())
         m_scale->SetPosSync(m_state.SliderPosition(), TRUE);
+}
+
+void LayerControls::ShareLayerLights() {
+    for (int i = 0; m_styles && i < static_cast<int>(MapLayer::Count); ++i)
+        m_styles->SetItemLight(i, m_state.IsLit(static_cast<MapLayer>(i)), true);
 }
 
 int LayerControls::ScalePosition() const { return m_scale ? m_scale->GetPos() : m_state.SliderPosition(); }

@@ -22,6 +22,8 @@ public:
     void Attach(CMFCRibbonBar& ribbon);
     /// Brings the controls to the state's values.
     void ShowState();
+    /// A combo that changes a layer's light changes its own only: this brings it to the copies.
+    void ShareLayerLights();
 
     /// The scale slider's position.
     int ScalePosition() const;
@@ -44,8 +46,6 @@ public:
     bool IsPointerLabel(const void* label) const { return label == m_pointer; }
 
 private:
-    /// Null where the configuration has none.
-    std::array<CMFCRibbonComboBox*, 3> Combos() const;
     void FillCombos();
     void MakeSliders(CMFCRibbonBar& ribbon);
     void MakePointerLabel(CMFCRibbonPanel& panel);

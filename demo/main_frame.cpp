@@ -7,6 +7,7 @@
 #include "menu_id_mgr.h"
 #include "picture_export.h"
 #include "ribbon_icon_button.h"
+#include "ribbon_lookup.h"
 #include "screenshot.h"
 
 #include "varnhold/file_op.h"
@@ -21,7 +22,7 @@ namespace {
 constexpr UINT kFirstCommand = 41000;
 constexpr UINT kLastCommand = 49999;
 constexpr UINT kRebuildRibbonMessage = WM_APP + 1;
-constexpr UINT kShowStateMessage = WM_APP + 2;
+constexpr UINT kLightTakenMessage = WM_APP + 2;
 /// Buttons with sub-items that also do something of their own.
 constexpr std::array<const wchar_t*, 5> kSplitButtons = {L"ZoomOriginal", L"PlaceCities", L"BookmarkGo", L"LineWidth",
                                                          L"NameSize"};
@@ -52,14 +53,6 @@ std::wstring InstallationDirectory() {
     return path;
 }
 
-template <class Element>
-Element* FindElement(const CMFCRibbonBar& ribbon, const wchar_t* keyword) {
-    int id = 0;
-    if (!CMenuIdMgr::Ins()->GetMenuId(keyword, id))
-        return nullptr;
-    return DYNAMIC_DOWNCAST(Element, ribbon.FindByID(static_cast<UINT>(id), FALSE, TRUE));
-}
-
 } // namespace
 
 IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
@@ -70,7 +63,7 @@ ON_WM_SETFOCUS()
 ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
 ON_MESSAGE(kRebuildRibbonMessage, OnRebuildRibbon)
-ON_MESSAGE(kShowStateMessage, OnShowState)
+ON_MESSAGE(kLightTakenMessage, OnLightTaken)
 ON_MESSAGE(WM_COMBO_CHECK_CHANGED, OnLayerChecked)
 ON_MESSAGE(WM_COMBO_COLOR_PICK, OnLayerColor)
 ON_MESSAGE(WM_COMBO_LIGHT_CHANGED, OnLayerLight)
@@ -172,7 +165,8 @@ void CMainFrame::TakeChange() {
     WriteRecord();
 }
 
-LRESULT CMainFrame::OnShowState(WPARAM, LPARAM) {
+LRESULT CMainFrame::OnLightTaken(WPARAM, LPARAM) {
+    m_controls.ShareLayerLights();
     TakeChange();
     return 0;
 }
@@ -191,11 +185,10 @@ LRESULT CMainFrame::OnLayerColor(WPARAM item, LPARAM) {
 
 // The answer decides; the combo shows the light itself afterwards, and then its copies are to show it.
 LRESULT CMainFrame::OnLayerLight(WPARAM text, LPARAM isOn) {
-    const bool isTaken = m_controls.TakeLight(*reinterpret_cast<const CString*>(text), isOn != 0);
-    m_map.ShowState();
-    WriteRecord();
-    PostMessage(kShowStateMessage);
-    return isTaken ? 1 : 0;
+    if (!m_controls.TakeLight(*reinterpret_cast<const CString*>(text), isOn != 0))
+        return 0;
+    PostMessage(kLightTakenMessage);
+    return 1;
 }
 
 LRESULT CMainFrame::OnLabelLight(WPARAM, LPARAM) {

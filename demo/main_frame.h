@@ -29,7 +29,7 @@ protected:
     afx_msg void OnConfiguredCommand(UINT id);
     afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
     afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);
-    afx_msg LRESULT OnShowState(WPARAM, LPARAM);
+    afx_msg LRESULT OnLightTaken(WPARAM, LPARAM);
     afx_msg LRESULT OnLayerChecked(WPARAM, LPARAM);
     afx_msg LRESULT OnLayerColor(WPARAM item, LPARAM);
     afx_msg LRESULT OnLayerLight(WPARAM text, LPARAM isOn);

@@ -60,20 +60,19 @@ RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
     m_isOpen = true;
     const HDC memory = m_memory.GetSafeHdc();
     m_previous = ::SelectObject(memory, m_bitmap);
-    m_isMirrored = visual::IsMirrored(targetDC);
-    if (m_isMirrored) {
-        // Text and images keep their direction, only their places change sides. Nothing is clipped here, the target
-        // does it: a mirrored context clips one pixel beside what it draws.
+    const bool isMirrored = visual::IsMirrored(targetDC);
+    if (isMirrored) {
+        // Text and images keep their direction, only their places change sides.
         ::SetLayout(memory, LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED);
-        ::SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
-        return;
-    }
-    if (shown != nullptr) {
+    } else if (shown != nullptr) {
         ::SelectClipRgn(memory, shown);
         ::OffsetClipRgn(memory, -area.left, -area.top);
     }
     ::SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
-    ::IntersectClipRect(memory, area.left, area.top, area.right, area.bottom);
+    // The target clips anyway, and a mirrored context clips one pixel beside what it draws.
+    if (!isMirrored) {
+        ::IntersectClipRect(memory, area.left, area.top, area.right, area.bottom);
+    }
 }
 
 RibbonPaintBuffer::~RibbonPaintBuffer() {
@@ -82,7 +81,7 @@ RibbonPaintBuffer::~RibbonPaintBuffer() {
     }
     const HDC memory = m_memory.GetSafeHdc();
     const HDC target = m_target.GetSafeHdc();
-    if (m_isMirrored) {
+    if (visual::IsMirrored(target)) {
         const POINT from = visual::DeviceCorner(memory, m_area);
         const POINT to = visual::DeviceCorner(target, m_area);
         const visual::ScopedDevicePixels memoryPixels(memory);

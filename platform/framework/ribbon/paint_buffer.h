@@ -24,5 +24,4 @@ private:
     CSize m_size;
     HGDIOBJ m_previous = nullptr;
     bool m_isOpen = false;
-    bool m_isMirrored = false;
 };
