@@ -1,11 +1,14 @@
 #include "fx/dc_scope.h"
+#include "gdi/device_pixels.h"
 
 namespace fx {
 
-MemoryDc::MemoryDc(CDC& target, const CRect& rect) : m_target(target), m_rect(rect) {
+MemoryDc::MemoryDc(CDC& target, const CRect& rect) : m_target(target) {
     CRect pixels(rect);
     target.LPtoDP(&pixels);
     pixels.NormalizeRect();
+    m_corner = gdi::DeviceCorner(target, rect);
+    m_size = pixels.Size();
     if (pixels.IsRectEmpty() || !m_memory.CreateCompatibleDC(&target)) {
         return;
     }
@@ -23,12 +26,12 @@ MemoryDc::MemoryDc(CDC& target, const CRect& rect) : m_target(target), m_rect(re
         m_memory.SetWindowExt(target.GetWindowExt());
         m_memory.SetViewportExt(target.GetViewportExt());
     }
-    m_memory.SetWindowOrg(rect.TopLeft());
+    gdi::PutCornerAtOrigin(m_memory, rect);
     m_fontBefore = ::SelectObject(m_memory, ::GetCurrentObject(target.m_hAttribDC, OBJ_FONT));
     m_memory.SetTextColor(target.GetTextColor());
     m_memory.SetBkColor(target.GetBkColor());
     m_memory.SetBkMode(target.GetBkMode());
-    m_memory.BitBlt(rect.left, rect.top, rect.Width(), rect.Height(), &target, rect.left, rect.top, SRCCOPY);
+    gdi::CopyPixels(m_memory, {0, 0}, target, m_corner, m_size);
     m_isBuffered = true;
 }
 
@@ -36,9 +39,7 @@ MemoryDc::~MemoryDc() {
     if (!m_isBuffered) {
         return;
     }
-    m_memory.SetWindowOrg(m_rect.TopLeft());
-    m_target.BitBlt(m_rect.left, m_rect.top, m_rect.Width(), m_rect.Height(), &m_memory, m_rect.left, m_rect.top,
-                    SRCCOPY);
+    gdi::CopyPixels(m_target, m_corner, m_memory, {0, 0}, m_size);
     ::SelectObject(m_memory, m_fontBefore);
     ::SelectObject(m_memory, m_bitmapBefore);
 }

@@ -1,7 +1,7 @@
 #include "ribbon/paint_buffer.h"
 
+#include "gdi/device_pixels.h"
 #include "visual/canvas.h"
-#include "visual/device_pixels.h"
 
 #include <algorithm>
 #include <utility>
@@ -60,7 +60,7 @@ RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
     m_isOpen = true;
     const HDC memory = m_memory.GetSafeHdc();
     m_previous = ::SelectObject(memory, m_bitmap);
-    const bool isMirrored = visual::IsMirrored(targetDC);
+    const bool isMirrored = gdi::IsMirrored(targetDC);
     if (isMirrored) {
         // Text and images keep their direction, only their places change sides.
         ::SetLayout(memory, LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED);
@@ -81,12 +81,9 @@ RibbonPaintBuffer::~RibbonPaintBuffer() {
     }
     const HDC memory = m_memory.GetSafeHdc();
     const HDC target = m_target.GetSafeHdc();
-    if (visual::IsMirrored(target)) {
-        const POINT from = visual::DeviceCorner(memory, m_area);
-        const POINT to = visual::DeviceCorner(target, m_area);
-        const visual::ScopedDevicePixels memoryPixels(memory);
-        const visual::ScopedDevicePixels targetPixels(target);
-        ::BitBlt(target, to.x, to.y, m_area.Width(), m_area.Height(), memory, from.x, from.y, SRCCOPY);
+    if (gdi::IsMirrored(target)) {
+        gdi::CopyPixels(target, gdi::DeviceCorner(target, m_area), memory, gdi::DeviceCorner(memory, m_area),
+                        m_area.Size());
     } else {
         ::BitBlt(target, m_area.left, m_area.top, m_area.Width(), m_area.Height(), memory, m_area.left, m_area.top,
                  SRCCOPY);

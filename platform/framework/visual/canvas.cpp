@@ -1,6 +1,6 @@
 #include "visual/canvas.h"
 
-#include "visual/device_pixels.h"
+#include "gdi/device_pixels.h"
 
 #include <algorithm>
 
@@ -34,7 +34,7 @@ Canvas::Canvas(HDC dc, const RECT& bounds, const Recipe& recipe) : m_dc(dc), m_b
     if (width <= 0 || height <= 0 || !RectVisible(dc, &bounds))
         return;
     // A kept picture would have the wrong direction half of the time.
-    if (IsMirrored(dc))
+    if (gdi::IsMirrored(dc))
         m_recipe = Recipe();
     if (!m_recipe.IsEmpty() && PictureCache::Instance().Draw(dc, bounds, m_recipe))
         return;
@@ -51,14 +51,14 @@ Canvas::~Canvas() {
     if (m_view.bits != nullptr) {
         GdiFlush();
         const SIZE size{m_view.width, m_view.height};
-        if (IsMirrored(m_dc)) {
+        if (gdi::IsMirrored(m_dc)) {
             // What was drawn from left to right belongs from right to left: tabs' gaps, round ends of groups.
             for (int y = 0; y < m_view.height; ++y) {
                 std::uint32_t* const row = m_view.bits + static_cast<std::ptrdiff_t>(y) * m_view.width;
                 std::reverse(row, row + m_view.width);
             }
-            const POINT corner = DeviceCorner(m_dc, m_bounds);
-            const ScopedDevicePixels pixels(m_dc);
+            const POINT corner = gdi::DeviceCorner(m_dc, m_bounds);
+            const gdi::ScopedDevicePixels pixels(m_dc);
             Blend(m_dc, corner, m_memory, size);
         } else {
             Blend(m_dc, {m_bounds.left, m_bounds.top}, m_memory, size);

@@ -1,5 +1,6 @@
 #include "afxdrawmanager.h"
 
+#include "gdi/device_pixels.h"
 #include "visual/canvas.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ constexpr COLORREF g_none = static_cast<COLORREF>(-1);
 /// What a rectangle of a context shows, to be changed pixel by pixel and put back.
 class Snapshot {
 public:
-    Snapshot(HDC dc, const CRect& rect) : m_dc(dc), m_rect(rect) {
+    Snapshot(HDC dc, const CRect& rect) : m_dc(dc), m_corner(gdi::DeviceCorner(dc, rect)) {
         if (rect.Width() <= 0 || rect.Height() <= 0)
             return;
         m_memory = CreateCompatibleDC(dc);
@@ -25,7 +26,7 @@ public:
         if (m_memory == nullptr || m_bitmap == nullptr)
             return;
         m_previous = SelectObject(m_memory, m_bitmap);
-        BitBlt(m_memory, 0, 0, rect.Width(), rect.Height(), dc, rect.left, rect.top, SRCCOPY);
+        gdi::CopyPixels(m_memory, {0, 0}, dc, m_corner, rect.Size());
         GdiFlush();
         m_view = {bits, rect.Width(), rect.Height()};
     }
@@ -44,7 +45,7 @@ public:
     const visual::PixelView& View() const { return m_view; }
     void PutBack() const {
         GdiFlush();
-        BitBlt(m_dc, m_rect.left, m_rect.top, m_view.width, m_view.height, m_memory, 0, 0, SRCCOPY);
+        gdi::CopyPixels(m_dc, m_corner, m_memory, {0, 0}, {m_view.width, m_view.height});
     }
     void ForEach(COLORREF except, int tolerance, const std::function<COLORREF(COLORREF)>& change) const {
         const auto isNear = [tolerance](int a, int b) { return std::abs(a - b) <= tolerance; };
@@ -60,7 +61,7 @@ public:
 
 private:
     HDC m_dc;
-    CRect m_rect;
+    POINT m_corner; // in pixels of the device
     HDC m_memory = nullptr;
     HBITMAP m_bitmap = nullptr;
     HGDIOBJ m_previous = nullptr;
@@ -77,9 +78,9 @@ void SaveOrRestore(CDC& dc, const CRect& rect, CBitmap* bitmap) {
     const HDC memory = CreateCompatibleDC(dc);
     const HGDIOBJ previous = SelectObject(memory, bitmap->GetSafeHandle());
     if (isFilled)
-        BitBlt(dc, rect.left, rect.top, rect.Width(), rect.Height(), memory, 0, 0, SRCCOPY);
+        gdi::CopyPixels(dc, gdi::DeviceCorner(dc, rect), memory, {0, 0}, rect.Size());
     else
-        BitBlt(memory, 0, 0, rect.Width(), rect.Height(), dc, rect.left, rect.top, SRCCOPY);
+        gdi::CopyPixels(memory, {0, 0}, dc, gdi::DeviceCorner(dc, rect), rect.Size());
     SelectObject(memory, previous);
     DeleteDC(memory);
 }

@@ -1,5 +1,7 @@
 #include "visual/paint.h"
 
+#include "gdi/device_pixels.h"
+
 #include <algorithm>
 #include <array>
 
@@ -154,7 +156,7 @@ void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look&) {
     std::array<PointF, shape.size()> points;
     const double side = square.right - square.left;
     // A tick does not change its direction in a mirrored window.
-    const bool isMirrored = (GetLayout(dc) & LAYOUT_RTL) != 0;
+    const bool isMirrored = gdi::IsMirrored(dc);
     std::ranges::transform(shape, points.begin(), [side, isMirrored](PointF point) {
         return PointF{(isMirrored ? 1 - point.x : point.x) * side, point.y * side};
     });

@@ -6,6 +6,7 @@
 #include "afxribbonbar.h"
 #include "afxribbonbutton.h"
 #include "afxvisualmanager.h"
+#include "fx/dc_scope.h"
 #include "fx/window_dc.h"
 #include "visual/tooltip_layout.h"
 #include "visual/tooltip_text.h"
@@ -146,12 +147,8 @@ void CMFCToolTipCtrl::OnPaint() {
     CRect client;
     GetClientRect(client);
     // All at once, so that nothing flickers.
-    CDC dc;
-    CBitmap picture;
-    if (!dc.CreateCompatibleDC(&paint) || !picture.CreateCompatibleBitmap(&paint, client.Width(), client.Height())) {
-        return;
-    }
-    CBitmap* const previous = dc.SelectObject(&picture);
+    fx::MemoryDc memory(paint, client);
+    CDC& dc = memory;
     COLORREF text = 0, line = 0;
     OnFillBackground(&dc, client, text, line);
     OnDrawBorder(&dc, client, line);
@@ -172,6 +169,4 @@ void CMFCToolTipCtrl::OnPaint() {
         }
         OnDrawDescription(&dc, layout.description, FALSE);
     }
-    paint.BitBlt(0, 0, client.Width(), client.Height(), &dc, 0, 0, SRCCOPY);
-    dc.SelectObject(previous);
 }

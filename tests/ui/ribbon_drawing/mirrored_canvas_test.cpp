@@ -1,6 +1,6 @@
 // Pictures in a mirrored device context lie where the same context puts what it fills itself.
+#include "gdi/device_pixels.h"
 #include "visual/canvas.h"
-#include "visual/device_pixels.h"
 
 #include <gtest/gtest.h>
 
@@ -83,10 +83,10 @@ TEST(MirroredCanvas, ContextIsMirroredAsBeforeAfterThePicture) {
     ::SetViewportOrgEx(drawn.Dc(), 3, 1, nullptr);
     POINT before{7, 4};
     ::LPtoDP(drawn.Dc(), &before, 1);
-    { const visual::ScopedDevicePixels pixels(drawn.Dc()); }
+    { const gdi::ScopedDevicePixels pixels(drawn.Dc()); }
     POINT after{7, 4};
     ::LPtoDP(drawn.Dc(), &after, 1);
     EXPECT_EQ(after.x, before.x);
     EXPECT_EQ(after.y, before.y);
-    EXPECT_TRUE(visual::IsMirrored(drawn.Dc()));
+    EXPECT_TRUE(gdi::IsMirrored(drawn.Dc()));
 }

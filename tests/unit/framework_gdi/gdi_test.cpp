@@ -1,3 +1,4 @@
+#include "afxdrawmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/exceptions.h"
 #include "fx/image_list.h"
@@ -37,9 +38,59 @@ protected:
     HGDIOBJ m_bitmapBefore = nullptr;
     long m_before = 0;
 };
+constexpr int g_width = 40, g_height = 30;
 constexpr COLORREF red = RGB(255, 0, 0);
 constexpr COLORREF green = RGB(0, 255, 0);
 constexpr COLORREF blue = RGB(0, 0, 255);
+
+/// The same picture as the context of a mirrored window.
+class MirroredCanvas : public Canvas {
+protected:
+    /// A blue ground with what `draw` puts there, row by row from the left of the device.
+    template <typename Draw>
+    std::vector<COLORREF> Pixels(Draw draw) {
+        ::SetLayout(*m_dc, 0);
+        m_dc->FillSolidRect(CRect(0, 0, g_width, g_height), blue);
+        ::SetLayout(*m_dc, LAYOUT_RTL);
+        draw(*m_dc);
+        return Copy();
+    }
+    std::vector<COLORREF> Copy() {
+        const DWORD layout = ::SetLayout(*m_dc, 0);
+        std::vector<COLORREF> pixels;
+        for (int y = 0; y < g_height; ++y) {
+            for (int x = 0; x < g_width; ++x)
+                pixels.push_back(m_dc->GetPixel(x, y));
+        }
+        ::SetLayout(*m_dc, layout);
+        return pixels;
+    }
+    /// One letter a pixel, so that a failure shows where.
+    static std::string Rows(const std::vector<COLORREF>& pixels) {
+        std::string text;
+        for (std::size_t i = 0; i < pixels.size(); ++i) {
+            const COLORREF pixel = pixels[i];
+            text += pixel == blue    ? '.'
+                    : pixel == red   ? 'r'
+                    : pixel == green ? 'g'
+                                     : static_cast<char>('A' + pixel % 26);
+            if ((i + 1) % g_width == 0)
+                text += '\n';
+        }
+        return text;
+    }
+    /// Places that change sides, text that keeps its direction, a picture, the first and the last column.
+    static void DrawSample(CDC& dc) {
+        dc.FillSolidRect(CRect(3, 3, 8, 8), red);
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextColor(green);
+        dc.TextOut(9, 4, CString(L"F1"));
+        CBrush brush(green);
+        dc.FillRect(CRect(0, 20, 1, 22), &brush);
+        dc.FillRect(CRect(38, 20, 40, 22), &brush);
+        CDrawingManager(dc).FillGradient(CRect(5, 22, 21, 28), red, green, FALSE);
+    }
+};
 
 TEST_F(Canvas, OwnedObjectsAreCountedAndDeleted) {
     const long before = AfxGdiObjectCount();
@@ -138,44 +189,68 @@ TEST_F(Canvas, MemoryDcCopiesItsRectangleBack) {
     EXPECT_EQ(m_dc->GetPixel(15, 8), blue) << "outside of the rectangle";
 }
 
-// What is drawn through the buffer equals what is drawn at once: places change sides, text keeps its direction.
-TEST_F(Canvas, MemoryDcIsMirroredLikeItsTarget) {
-    const auto draw = [this](bool isBuffered, const CRect& rect) {
-        ::SetLayout(*m_dc, 0);
-        m_dc->FillSolidRect(CRect(0, 0, 40, 30), blue);
-        ::SetLayout(*m_dc, LAYOUT_RTL);
-        const auto drawOn = [](CDC& dc) {
-            dc.FillSolidRect(CRect(3, 3, 8, 8), red);
-            dc.SetBkMode(TRANSPARENT);
-            dc.SetTextColor(green);
-            dc.TextOut(9, 4, CString(L"F1"));
-            CBrush brush(green);
-            dc.FillRect(CRect(0, 20, 1, 22), &brush);
-            dc.FillRect(CRect(38, 20, 40, 22), &brush);
+TEST_F(MirroredCanvas, EachRectangleThroughTheBufferEqualsTheSameDrawingAtOnce) {
+    const std::vector<COLORREF> empty = Pixels([](CDC&) {});
+    const std::vector<COLORREF> atOnce = Pixels(DrawSample);
+    EXPECT_EQ(atOnce[4 * g_width + g_width - 5], red) << "the place is mirrored";
+    EXPECT_EQ(atOnce[21 * g_width + g_width - 1], green) << "the first column";
+    EXPECT_EQ(atOnce[21 * g_width], green) << "the last column";
+    for (const CRect& rect : {CRect(0, 0, 40, 30), CRect(2, 2, 33, 25), CRect(3, 3, 8, 8), CRect(0, 20, 1, 22),
+                              CRect(38, 19, 40, 23), CRect(8, 2, 17, 29)}) {
+        const std::vector<COLORREF> buffered = Pixels([&rect](CDC& dc) {
+            fx::MemoryDc buffer(dc, rect);
+            DrawSample(buffer);
+        });
+        std::vector<COLORREF> expected = empty;
+        for (int y = rect.top; y < rect.bottom; ++y) {
+            for (int x = g_width - rect.right; x < g_width - rect.left; ++x)
+                expected[y * g_width + x] = atOnce[y * g_width + x];
+        }
+        EXPECT_EQ(Rows(buffered), Rows(expected))
+            << rect.left << ' ' << rect.top << ' ' << rect.right << ' ' << rect.bottom;
+    }
+}
+
+TEST_F(MirroredCanvas, ABufferThatNothingIsDrawnToChangesNothing) {
+    const std::vector<COLORREF> before = Pixels(DrawSample);
+    const std::vector<COLORREF> after = Pixels([](CDC& dc) {
+        DrawSample(dc);
+        const fx::MemoryDc buffer(dc, CRect(2, 2, 33, 25));
+    });
+    EXPECT_EQ(after, before);
+}
+
+TEST_F(MirroredCanvas, ABufferGoesWhereTheOriginIsMoved) {
+    const auto moved = [](auto draw) {
+        return [draw](CDC& dc) {
+            dc.SetViewportOrg(-5, 3);
+            draw(dc);
+            dc.SetViewportOrg(0, 0);
         };
-        if (isBuffered) {
-            fx::MemoryDc buffer(*m_dc, rect);
-            drawOn(buffer);
-        } else {
-            drawOn(*m_dc);
-        }
-        ::SetLayout(*m_dc, 0);
-        std::vector<COLORREF> pixels;
-        for (int y = 0; y < 30; ++y) {
-            for (int x = 0; x < 40; ++x) {
-                pixels.push_back(m_dc->GetPixel(x, y));
-            }
-        }
-        return pixels;
     };
-    const CRect all(0, 0, 40, 30);
-    const std::vector<COLORREF> atOnce = draw(false, all);
-    EXPECT_EQ(atOnce[4 * 40 + 40 - 5], red) << "the place is mirrored";
-    EXPECT_EQ(atOnce[21 * 40 + 39], green);
-    EXPECT_EQ(draw(true, all), atOnce);
-    const std::vector<COLORREF> part = draw(true, CRect(2, 2, 33, 25));
-    EXPECT_EQ(part[4 * 40 + 40 - 5], red);
-    EXPECT_EQ(part[21 * 40 + 39], blue) << "outside of the rectangle";
+    const std::vector<COLORREF> buffered = Pixels(moved([](CDC& dc) {
+        fx::MemoryDc buffer(dc, CRect(0, 0, 40, 30));
+        DrawSample(buffer);
+    }));
+    EXPECT_EQ(buffered, Pixels(moved(DrawSample)));
+    EXPECT_NE(buffered, Pixels(DrawSample));
+}
+
+// What lay below a shadow comes back to the pixel.
+TEST_F(MirroredCanvas, WhatAShadowCoversIsKept) {
+    const std::vector<COLORREF> before = Pixels(DrawSample);
+    std::vector<COLORREF> shaded;
+    const std::vector<COLORREF> after = Pixels([&](CDC& dc) {
+        DrawSample(dc);
+        CBitmap below, beside;
+        const CRect box(2, 2, 12, 10);
+        CDrawingManager manager(dc);
+        EXPECT_TRUE(manager.DrawShadow(box, 3, 100, 60, &below, &beside));
+        shaded = Copy();
+        EXPECT_TRUE(manager.DrawShadow(box, 3, 100, 100, &below, &beside));
+    });
+    EXPECT_NE(shaded, before);
+    EXPECT_EQ(after, before);
 }
 
 TEST_F(Canvas, MemoryDcAnswersTheTargetForAnEmptyRectangle) {

@@ -78,7 +78,8 @@ public:
 
 private:
     CDC& m_target;
-    CRect m_rect;
+    CPoint m_corner; // of the rectangle on the target's device, in its pixels
+    CSize m_size;    // in pixels
     CBitmap m_bitmap;
     CDC m_memory;
     HGDIOBJ m_bitmapBefore = nullptr;
