@@ -6,6 +6,13 @@
 #include <cstdint>
 #include <set>
 
+/// Size of the window's client area, for a canvas of all that it shows.
+inline CSize ClientSize(const CWnd& window) {
+    CRect client;
+    window.GetClientRect(client);
+    return client.Size();
+}
+
 /// A 32-bit memory bitmap to draw into and to look at, pixel by pixel; coloured all over with `blank` (0x00RRGGBB)
 /// before anything is drawn.
 class Canvas {

@@ -8,6 +8,7 @@
 #include "afxribbonbar.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/pointer.h"
+#include "tests/support/real_mouse.h"
 #include "tests/support/ui_test.h"
 
 #include <optional>
@@ -87,7 +88,6 @@ class RibbonFrameWithCaption : public CaptionFrame<CFrameWndEx> {};
 class RibbonMdiFrameWithCaption : public CaptionFrame<CMDIFrameWndEx> {};
 
 /// Lets real pointer and key input through the thread's loop.
-void SendMouse(CPoint screen, DWORD flags);
 void SendClick(CPoint screen, DWORD down = MOUSEEVENTF_LEFTDOWN, DWORD up = MOUSEEVENTF_LEFTUP);
 /// A drag that goes on by a timer, also inside the system's own loops; the caller pumps.
 void StartDrag(CPoint from, CPoint to);

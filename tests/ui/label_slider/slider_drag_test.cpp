@@ -1,5 +1,6 @@
 // A drag with the real pointer.
 #include "ribbon_slider_sync.h"
+#include "tests/support/real_mouse.h"
 #include "tests/support/ribbon_host.h"
 
 namespace {
@@ -10,15 +11,6 @@ public:
     using CMFCRibbonSliderSync::GetPosFromPoint;
     CPoint ThumbCenter() const { return GetThumbRect().CenterPoint(); }
 };
-
-void SendMouse(CPoint screen, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = ::MulDiv(screen.x, 65536, ::GetSystemMetrics(SM_CXSCREEN)) + 1;
-    input.mi.dy = ::MulDiv(screen.y, 65536, ::GetSystemMetrics(SM_CYSCREEN)) + 1;
-    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
-    ASSERT_EQ(::SendInput(1, &input, sizeof(input)), 1u);
-}
 
 TEST(SliderDrag, TheRealPointerDragsEveryCopyAlong) {
     RibbonHost host;

@@ -23,12 +23,6 @@ public:
 
 constexpr std::uint32_t unpainted = 0xFF00FF;
 
-CSize ClientSize(const CWnd& window) {
-    CRect client;
-    window.GetClientRect(client);
-    return client.Size();
-}
-
 /// The menu as it draws itself.
 class Picture : public Canvas {
 public:

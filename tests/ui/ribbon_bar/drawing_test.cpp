@@ -10,12 +10,6 @@ namespace {
 
 constexpr std::uint32_t g_unpainted = 0xFF00FF;
 
-CSize ClientSize(const CWnd& window) {
-    CRect client;
-    window.GetClientRect(client);
-    return client.Size();
-}
-
 /// A picture of the bar in memory.
 class Picture : public Canvas {
 public:

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "tests/support/canvas.h"
 #include "tests/support/picture_file.h"
 #include "tests/ui/ribbon_combo/combo_fixture.h"
 
@@ -33,32 +34,12 @@ public:
     }
 };
 
-constexpr DWORD kUnpainted = 0xFF00FF;
+constexpr std::uint32_t kUnpainted = 0xFF00FF;
 
-class Bitmap {
+class Picture : public Canvas {
 public:
-    explicit Bitmap(CSize size) : m_size(size) {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        m_pixels = static_cast<DWORD*>(bits);
-        std::fill(m_pixels, m_pixels + size.cx * size.cy, kUnpainted);
-        m_dc.CreateCompatibleDC(nullptr);
-        m_before = ::SelectObject(m_dc.GetSafeHdc(), m_bitmap);
-    }
-    ~Bitmap() {
-        ::SelectObject(m_dc.GetSafeHdc(), m_before);
-        ::DeleteObject(m_bitmap);
-    }
-    Bitmap(const Bitmap&) = delete;
-    Bitmap& operator=(const Bitmap&) = delete;
-    CDC& Dc() { return m_dc; }
-    HBITMAP Get() const { return m_bitmap; }
-    DWORD At(int x, int y) const {
-        ::GdiFlush();
-        return m_pixels[y * m_size.cx + x] & 0xFFFFFF;
-    }
+    explicit Picture(CSize size) : Canvas(size, kUnpainted) {}
+
     long CountUnpainted(const CRect& rect) const {
         long count = 0;
         for (int y = rect.top; y < rect.bottom; ++y) {
@@ -68,13 +49,6 @@ public:
         }
         return count;
     }
-
-private:
-    CSize m_size;
-    CDC m_dc;
-    HBITMAP m_bitmap = nullptr;
-    HGDIOBJ m_before = nullptr;
-    DWORD* m_pixels = nullptr;
 };
 
 using Style = CMFCVisualManagerOffice2007::Style;
@@ -124,21 +98,21 @@ TEST_P(ComboLookTest, EveryPixelOfTheListIsPainted) {
     Bar().GetClientRect(bar);
     const CRect window = ScreenRect(*list);
     const CPoint origin(combo.GetCommandRect().left, bar.Height() + 5);
-    Bitmap picture(
+    Picture picture(
         CSize(std::max(bar.Width(), static_cast<int>(origin.x) + window.Width()), bar.Height() + window.Height() + 10));
-    Bar().DoPaint(&picture.Dc());
+    Bar().DoPaint(picture.Dc());
     EXPECT_EQ(picture.CountUnpainted(combo.GetRect()), 0);
-    picture.Dc().SetViewportOrg(origin);
-    list->DrawFrame(&picture.Dc());
+    picture.Dc()->SetViewportOrg(origin);
+    list->DrawFrame(picture.Dc());
     const CRect inside = list->GetBarRect();
-    picture.Dc().SetViewportOrg(origin + inside.TopLeft());
-    picture.Dc().IntersectClipRect(CRect(CPoint(0, 0), inside.Size()));
-    list->bar.DoPaint(&picture.Dc());
+    picture.Dc()->SetViewportOrg(origin + inside.TopLeft());
+    picture.Dc()->IntersectClipRect(CRect(CPoint(0, 0), inside.Size()));
+    list->bar.DoPaint(picture.Dc());
     EXPECT_EQ(picture.CountUnpainted(CRect(origin + inside.TopLeft(), inside.Size())), 0);
     const CPoint hot = origin + inside.TopLeft() + CPoint(inside.Width() - 6, list->bar.GetRowRect(2).CenterPoint().y);
     const CPoint cold = origin + inside.TopLeft() + CPoint(inside.Width() - 6, list->bar.GetRowRect(4).CenterPoint().y);
     EXPECT_NE(picture.At(hot.x, hot.y), picture.At(cold.x, cold.y)) << "the hot row stands out";
-    SavePicture(picture.Get(), std::wstring(L"combo-") + GetParam().name + L".png");
+    SavePicture(picture.Bitmap(), std::wstring(L"combo-") + GetParam().name + L".png");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ComboLookTest,

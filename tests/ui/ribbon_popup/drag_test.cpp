@@ -1,6 +1,7 @@
 // One press of the real mouse from a button into its menu.
 #include <gmock/gmock.h>
 
+#include "tests/support/real_mouse.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -11,12 +12,7 @@ using testing::IsEmpty;
 class PressAndDrag : public RibbonPopupTest {
 protected:
     static void Send(CPoint screen, DWORD flags) {
-        INPUT input{};
-        input.type = INPUT_MOUSE;
-        input.mi.dx = ::MulDiv(screen.x, 65536, ::GetSystemMetrics(SM_CXSCREEN)) + 1;
-        input.mi.dy = ::MulDiv(screen.y, 65536, ::GetSystemMetrics(SM_CYSCREEN)) + 1;
-        input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
-        ASSERT_EQ(::SendInput(1, &input, sizeof(input)), 1u);
+        SendMouse(screen, flags);
         PumpPending();
     }
     static CPoint MiddleOf(const CMFCRibbonBaseElement& element) {
