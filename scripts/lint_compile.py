@@ -3,6 +3,7 @@
 
 usage: lint_compile.py headers   every header compiles alone, twice in one file, and with warnings as errors
        lint_compile.py tidy [FOLDER...]   clang-tidy over every source, with the commands that the builds recorded
+       lint_compile.py tidy FILE...       over these alone: a quick look, which is not remembered
 What passed is remembered below build/lint/ by the content of the file, of everything that it includes and of the settings.
 """
 import bisect
@@ -23,7 +24,7 @@ NATIVE_FLAGS = ["-std=c++20", "-Wall", "-Wextra", "-Werror", "-Wno-unknown-pragm
 INCLUDE_ROOTS = ["platform/framework/include", "platform/varnhold/include", "platform/tovasque/include", "include", ".",
                  "platform/framework", "platform/varnhold", "platform/tovasque"]
 INCLUDE = re.compile(rb'^\s*#\s*include\s+["<]([^">]+)[">]', re.M)
-BATCH = 12  # sources that clang-tidy reads in one go
+BATCH = 12  # sources that clang-tidy reads in one go, at most about
 _content = {}
 
 
@@ -193,64 +194,83 @@ class Batch:
         return source, kind, f"{source}:{int(number) - self.starts[index]}:{column}: {kind}: {rest}"
 
 
-def check_together(files, flags, options, passed):
-    """Splits files into batches that compile, checks them, calls passed(file) for each clean one; returns the
-    number of others."""
-    failures, pending = 0, list(files)
+def check_together(files, flags, options):
+    """Checks the files as one text, and those whose names clash with others as a next one. Whether all are clean."""
+    clean, pending = True, list(files)
     while pending:
-        take, pending = pending[:BATCH], pending[BATCH:]
+        take, pending = pending, []
         while len(take) > 1:
             _, lines = Batch(take, flags).run("--checks=-*,modernize-deprecated-headers")
-            clashing = {source for source, _, line in lines if "[clang-diagnostic-error]" in line} - {take[0]}
             if not any("[clang-diagnostic-error]" in line for _, _, line in lines):
                 break
+            clashing = {source for source, _, line in lines if "[clang-diagnostic-error]" in line} - {take[0]}
             clashing = clashing & set(take) or set(take[1:])
             pending += [path for path in take if path in clashing]
             take = [path for path in take if path not in clashing]
         code, lines = Batch(take, flags).run(*options)
-        blamed = {source for source, kind, _ in lines if kind == "error"}
-        if code == 0 or blamed and blamed <= set(take):
-            for path in take:
-                if path not in blamed:
-                    passed(path)
         if code:
-            failures += max(1, len(blamed))
+            clean = False
             print("\n".join(line for _, _, line in lines if line.strip()), flush=True)
-    return failures
+    return clean
 
 
-def tidy(wanted):
-    """wanted: beginnings of paths, or nothing for every source."""
-    ours = {path for path in listed("*.cpp") if not wanted or path.startswith(tuple(wanted))}
-    folder, settings = "build/lint/tidy", open(".clang-tidy").read()
-    os.makedirs(folder, exist_ok=True)
-    together, done, stamps = {}, set(), {}
+def bucket(path, count):
+    """Which of its room's batches a source belongs to: its name alone says it, so a new neighbour moves no other."""
+    return int(hashlib.sha256(path.encode()).hexdigest(), 16) % count
+
+
+def batches(ours):
+    """{(flags, options, folder, bucket): sources} of everything that a build compiles, and the sources that none does.
+    What the path analyzer finds depends on what it has read before. So a batch is made of one folder's sources, whatever
+    was changed or asked for: the same tree gives the same findings, on this machine and on the next one."""
+    rooms, done = {}, set()
     for build, cross in (("native", None), ("windows-release", cross_system_includes())):
         for entry in json.load(open(f"build/{build}/compile_commands.json")):
             path = os.path.relpath(entry["file"], ROOT)
-            if path not in ours or path in done:
-                continue
-            done.add(path)
-            flags = clang_flags(entry, cross)
-            key = hashlib.sha256((settings + " ".join(flags) + path + content_key(path)).encode()).hexdigest()
-            stamps[path] = os.path.join(folder, key)
-            if not os.path.exists(stamps[path]):
+            if path in ours and path not in done:
+                done.add(path)
                 # The path analyzer needs minutes for the branches that each EXPECT opens, and learns little from them.
                 # A test says what it expects as plainly as it can, not as fast.
                 options = ("--checks=-clang-analyzer-*,-performance-inefficient-*",) if path.startswith(("tests/", "bench/")) else ()
-                together.setdefault((tuple(flags), options), []).append(path)
-    left = sorted(ours - done)
+                rooms.setdefault((tuple(clang_flags(entry, cross)), options, os.path.dirname(path)), []).append(path)
+    made = {}
+    for room, paths in rooms.items():
+        count = 1
+        while len(paths) > BATCH * count:
+            count *= 2
+        for path in sorted(paths):
+            made.setdefault((*room, bucket(path, count)), []).append(path)
+    return made, sorted(set(ours) - done)
+
+
+def tidy(wanted):
+    """wanted: folders, whose batches are checked whole, or files, checked alone; nothing for every source."""
+    wanted = [os.path.normpath(path) for path in wanted]
+    alone = bool(wanted) and all(os.path.isfile(path) for path in wanted)
+    folder, settings = "build/lint/tidy", open(".clang-tidy").read()
+    os.makedirs(folder, exist_ok=True)
+    made, left = batches(listed("*.cpp"))
     if left:
         print("no build compiles: " + " ".join(left))
+    jobs = []
+    for (flags, options, *_), paths in made.items():
+        if alone:
+            jobs += [([path], flags, options, os.devnull) for path in paths if path in wanted]
+        elif not wanted or any(path.startswith(tuple(folder + "/" for folder in wanted)) for path in paths):
+            contents = [path + content_key(path) for path in paths]
+            stamp = os.path.join(folder, hashlib.sha256("".join([settings, *flags, *options, *contents]).encode()).hexdigest())
+            if not os.path.exists(stamp):
+                jobs.append((paths, flags, options, stamp))
+    jobs.sort(key=lambda job: -sum(os.path.getsize(path) for path in job[0]))  # the longest first: no core waits at the end
 
-    def passed(path):
-        open(stamps[path], "w").close()
+    def run(paths, flags, options, stamp):
+        clean = check_together(paths, flags, options)
+        if clean:
+            open(stamp, "w").close()
+        return clean
 
-    jobs = [(files[at:at + 4 * BATCH], *how) for how, files in together.items()
-            for at in range(0, len(files), 4 * BATCH)]
-    jobs.sort(key=lambda job: -len(job[0]))
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        failures = sum(pool.map(lambda job: check_together(*job, passed), jobs))
+        failures = sum(not clean for clean in pool.map(lambda job: run(*job), jobs))
     return failures + len(left)
 
 
