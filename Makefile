@@ -8,7 +8,7 @@ JOBS ?= $(shell nproc)
 
 help:
 	@echo "make demo   build the demo application and show it (or write build/demo.png where there is no display)"
-	@echo "make test   build everything and run every test"
+	@echo "make test   build everything and run every test (test-native, test-windows, test-e2e: a part of them)"
 	@echo "make lint   formatting, static analysis, layers, headers, exports, spelling"
 	@echo "make bench  measure, each figure beside its floor"
 	@echo "make build  build only; the programs lie in $(BIN)"
@@ -29,6 +29,16 @@ demo: setup
 
 test: setup
 	@scripts/run-tests
+
+test-native: setup
+	@scripts/run-tests native native-asan native-tsan
+
+test-windows: setup
+	@scripts/run-tests windows-release
+
+test-e2e: setup
+	@scripts/build windows-release
+	@ctest --test-dir $(RELEASE) -L e2e --output-on-failure --no-tests=error
 
 lint: setup-lint
 	@scripts/lint
