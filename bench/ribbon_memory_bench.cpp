@@ -1,10 +1,10 @@
 // What a ribbon that was loaded from a file takes: working set and GDI objects over the same frame without it.
-//   bench_ribbon_memory BUTTONS
+//   bench_ribbon_memory BUTTONS [MEGABYTES]      ends with 1 when they take more memory, or an object each
 #include <afxcontrolbars.h>
 
 #include "add_ribbon_bar.h"
 #include "scenario.h"
-#include "tests/support/message_pump.h"
+#include "tests/support/gui_objects.h"
 
 #include <varnhold/file_op.h>
 
@@ -12,6 +12,7 @@
 
 #include <psapi.h>
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
@@ -49,6 +50,7 @@ public:
     BOOL InitInstance() override {
         CWinAppEx::InitInstance();
         const int buttons = __argc > 1 ? std::atoi(__argv[1]) : 0;
+        const double bar = __argc > 2 ? std::atof(__argv[2]) : HUGE_VAL;
         ScenarioDirectory scenario;
         const std::wstring file =
             buttons > 0 ? L"cfg\\" + scenario.AddRibbonFile(static_cast<std::size_t>(buttons), kIconFiles) : L"";
@@ -56,20 +58,31 @@ public:
         auto* const frame = new CBenchFrame; // destroys itself with its window
         m_pMainWnd = frame;
         if (buttons <= 0 || !frame->Make()) {
-            std::fputs("usage: bench_ribbon_memory BUTTONS\n", stderr);
+            std::fputs("usage: bench_ribbon_memory BUTTONS [MEGABYTES]\n", stderr);
             return FALSE;
         }
         frame->Settle();
         const double empty = WorkingSetInMegabytes();
+        const GuiObjects objectsBefore = CountGuiObjects();
         CAddRibbonBar builder;
         if (!builder.Load(file, &frame->m_ribbon, 1))
             return FALSE;
         frame->Settle();
-        std::printf("memory of %d buttons: %.2f MB over an empty frame of %.2f MB\n", buttons,
-                    WorkingSetInMegabytes() - empty, empty);
+        const double taken = WorkingSetInMegabytes() - empty;
+        const long objects = CountGuiObjects().gdi - objectsBefore.gdi;
+        m_isOver = taken > bar || objects >= buttons;
+        std::printf("memory of %d buttons: %.2f MB over an empty frame of %.2f MB, %ld GDI objects more%s\n", buttons,
+                    taken, empty, objects, m_isOver ? ": OVER" : "");
         frame->DestroyWindow();
         return FALSE;
     }
+    int ExitInstance() override {
+        const int result = CWinAppEx::ExitInstance();
+        return m_isOver ? 1 : result;
+    }
+
+private:
+    bool m_isOver = false;
 };
 
 CBenchApp s_app;

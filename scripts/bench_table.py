@@ -3,12 +3,23 @@
 
 usage: bench_table.py RESULT.json...
 Times are medians of the repetitions: the time that passed and, in the columns marked cpu, what the processor spent on it.
-On a busy machine only the latter says something.
+On a busy machine only the latter says something. Where we hold ourselves to a bar it stands at the line's end; the program
+ends with 1 when a figure is over it.
 """
 import json
 import sys
 
 MICROSECONDS = {"ns": 1e-3, "us": 1.0, "ms": 1e3, "s": 1e6}
+
+# (figure, beginning of the floor's name): how many times the floor's processor time the figure may take.
+RATIO_BARS = {
+    ("registry look-up of 5000", "std::map"): 1.3,
+    ("dispatch to 10 reactors", ""): 1.5,
+    ("file into records", ""): 3.0,
+    ("full repaint", ""): 1.25,
+}
+# Microseconds, on a machine where loading one icon file takes 140.
+TIME_BARS = {("Load", "100"): 8_000, ("Load", "1000"): 52_000, ("Load", "5000"): 260_000}
 
 
 def medians(path):
@@ -28,7 +39,22 @@ def ratio(figure, floor):
     return f"{figure / floor:6.2f}" if floor else f"{'':6}"
 
 
+def verdict(value, bar):
+    return f"at most {bar:g}: {'ok' if value <= bar else 'OVER'}"
+
+
+def bar_of(figure, argument, cpu, what, floor):
+    """What the line is held to, in words, or nothing."""
+    if (figure, argument) in TIME_BARS:
+        return verdict(cpu, TIME_BARS[figure, argument])
+    for (name, beginning), bar in RATIO_BARS.items():
+        if floor and name == figure and what.startswith(beginning):
+            return verdict(cpu / floor[1], bar)
+    return ""
+
+
 def main():
+    over = 0
     figures, floors = {}, []
     for path in sys.argv[1:]:
         for name, times in medians(path):
@@ -45,9 +71,12 @@ def main():
         for i, (_, _, what, floor) in enumerate(matching or [(None, None, "none", None)]):
             left = f"{name:34} {wall:12.3f} {cpu:12.3f}" if i == 0 else " " * 60
             right = f"{'':40}"
+            held = bar_of(figure, argument, cpu, what, floor)
+            over += held.endswith("OVER")
             if floor:
                 right = f"{floor[0]:12.3f} {floor[1]:12.3f} {ratio(wall, floor[0])} {ratio(cpu, floor[1])}"
-            print(f"{left}   {right}  {what}")
+            print(f"{left}   {right}  {what}{held and '   ' + held}")
+    return 1 if over else 0
 
 
-main()
+sys.exit(main())
