@@ -165,7 +165,7 @@ public:
     BOOL ProcessCommand(CMFCToolBarButton* pButton);
     static BOOL IsLastCommandFromButton(CMFCToolBarButton* pButton) { return pButton == m_pLastCommandButton; }
     void SetRouteCommandsViaFrame(BOOL bValue) { m_bRouteCommandsViaFrame = bValue; }
-    BOOL GetRouteCommandsViaFrame() const { return m_bRouteCommandsViaFrame; }
+    BOOL GetRouteCommandsViaFrame() { return m_bRouteCommandsViaFrame; }
     static BOOL IsCustomizeMode() { return FALSE; }
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     virtual BOOL OnSetDefaultButtonText(CMFCToolBarButton* pButton);

@@ -183,6 +183,42 @@ LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonChec
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonEdit, OnDrawOnList)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonSeparator, AddToListBox, OnDrawOnList)
 
+LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBar, EnableCustomizeButton,
+         EnableQuickCustomization, GetCustomizeButton, IsAddRemoveQuickCustomize, IsAltCustomizeMode, IsDragButton,
+         IsExistCustomizeButton, OnBeforeRemoveButton, SetCustomizeMode)
+LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBarButton, CreateFromOleData,
+         GetClipboardFormat, OnAddToCustomizePage, OnBeforeDrag, OnBeforeDrop, OnCustomizeMenu, OnDrawOnCustomizeList,
+         PrepareDrag, SetClipboardFormatName)
+LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBarMenuButton, EnableQuickCustomize,
+         IsQuickMode, OnBeforeDrag, OnDrawOnCustomizeList, SetTearOff)
+LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCPopupMenu, AlwaysShowEmptyToolsEntry,
+         CreateTearOffBar, GetQuickCustomizeType, IsAlwaysShowEmptyToolsEntry, IsCustomizePane, IsQuickCustomize,
+         SetQuickCustomizeType, SetQuickMode)
+LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCPopupMenuBar, BuildOrigItems,
+         FindDestintationToolBar, LoadFromHash)
+
+LEFT_OUT("menus that hide what is seldom used", CMFCToolBar, AddBasicCommand, AddCommandUsage, GetBasicCommands,
+         IsBasicCommand, IsCommandPermitted, IsCommandRarelyUsed, SetBasicCommands, SetCommandUsageOptions,
+         SetNonPermittedCommands)
+LEFT_OUT("menus that hide what is seldom used", CMFCPopupMenu, HideRarelyUsedCommands, ShowAllCommands)
+
+LEFT_OUT("two toolbars that share a row and its buttons", CMFCToolBar, CanHandleSiblings, GetSiblingToolBar,
+         IsOneRowWithSibling, IsSibling, SetOneRowWithSibling, SetSiblingToolBar, SetTwoRowsWithSibling)
+
+LEFT_OUT("sounds, logos and palettes of menus", CMFCPopupMenu, EnableMenuLogo, EnableMenuSound, IsMenuSound)
+LEFT_OUT("sounds, logos and palettes of menus", CMFCToolBarMenuButton, GetPaletteRows, IsMenuPaletteMode,
+         SetMenuPaletteMode)
+
+LEFT_OUT("images of toolbars from several resources, or grey while the frame is inactive", CMFCToolBar,
+         AddToolBarForImageCollection, AutoGrayInactiveImages, IsAutoGrayInactiveImages, IsResourceChanged,
+         LoadBitmapEx, LoadToolBarEx, m_bDontScaleImages, m_dblLargeImageRatio, ResetImages)
+
+LEFT_OUT("state kept between runs", CMFCToolBar, GetOrigResetButtons, LoadLargeIconsState, LoadParameters, ResetAll,
+         SaveParameters)
+LEFT_OUT("state kept between runs", CMFCToolBarButton, SaveBarState)
+LEFT_OUT("state kept between runs", CMFCToolBarMenuButton, SaveBarState)
+LEFT_OUT("state kept between runs", CMFCPopupMenu, SaveState)
+LEFT_OUT("state kept between runs", CContextMenuManager, LoadState, ResetState, SaveState)
 LEFT_OUT("state kept between runs", CWinAppEx, LoadState, SaveState, ReloadWindowPlacement)
 LEFT_OUT("state kept between runs", CKeyboardManager, LoadState, ResetAll, SaveState)
 
@@ -234,6 +270,8 @@ LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, co
          get_accSelection, get_accState, get_accValue)
 LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, controls have the system's", CBasePane,
          AccNotifyObjectFocusEvent)
+LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, controls have the system's",
+         CMFCToolBarButton, SetACCData)
 
 LEFT_OUT("drawing on the desktop's glass", AFX_GLOBAL_DATA, DrawTextOnGlass, IsDwmCompositionEnabled)
 LEFT_OUT("drawing on the desktop's glass", CMFCVisualManager, DrawTextOnGlass)
@@ -265,6 +303,10 @@ LEFT_OUT("what it does is not documented", CMDIFrameWndEx, UpdateCaption, m_bDis
 LEFT_OUT("what it does is not documented", CMFCRibbonBar, AddQATOnlyCategory, DrawMenuImage, OnEditContextMenu)
 LEFT_OUT("what it does is not documented", CMFCRibbonBaseElement, OnAddToQAToolbar)
 LEFT_OUT("what it does is not documented", CMFCRibbonCategory, CopyFrom, NotifyControlCommand, OnDrawMenuBorder)
+LEFT_OUT("what it does is not documented", CMFCToolBar, EnableLargeIcons, EnableReflections, GetHwndLastFocus,
+         GetIgnoreSetText, RestoreFocus, SetHelpMode, SetIgnoreSetText, SetMaskMode)
+LEFT_OUT("what it does is not documented", CMFCToolBarMenuButton, SetMenuOnly)
+LEFT_OUT("what it does is not documented", CMFCPopupMenu, InCommand, IsIdle, TriggerResize)
 LEFT_OUT("what it does is not documented", CMFCToolBarImages, MapToSysColorAlpha)
 
 } // namespace

@@ -143,6 +143,7 @@ INTERFACE_OF(CWinAppEx) {
     MEMBER(int, GetDataVersionMinor, () const);
     MEMBER(int, GetInt, (LPCTSTR, int));
     CALL(GetInt, LPCTSTR);
+    MEMBER(CContextMenuManager*, GetContextMenuManager, ());
     MEMBER(CKeyboardManager*, GetKeyboardManager, ());
     MEMBER(BOOL, GetObject, (LPCTSTR, CObject&));
     MEMBER(CString, GetRegSectionPath, (LPCTSTR));
@@ -157,6 +158,7 @@ INTERFACE_OF(CWinAppEx) {
     MEMBER(CString, GetString, (LPCTSTR, LPCTSTR));
     CALL(GetString, LPCTSTR);
     MEMBER(CTooltipManager*, GetTooltipManager, ());
+    MEMBER(BOOL, InitContextMenuManager, ());
     MEMBER(BOOL, InitKeyboardManager, ());
     MEMBER(BOOL, InitTooltipManager, ());
     MEMBER(BOOL, IsResourceSmartUpdate, () const);
