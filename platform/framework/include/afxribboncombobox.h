@@ -200,6 +200,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    BOOL OnListKey(UINT nMessage, UINT nChar);
     int GetRowCount() const override { return GetCount(); }
     const CString& GetRowText(int row) const override { return m_rows[static_cast<std::size_t>(row)]; }
     int MeasureRows(CDC& dc) override;

@@ -2,7 +2,9 @@
 #include <afxribboncombobox.h>
 
 #include <afxglobals.h>
+#include <afxribbonbar.h>
 
+#include "ribbon/keyboard.h"
 #include "toolbar/menu_row.h"
 #include "toolbar/row_text.h"
 
@@ -177,7 +179,7 @@ BOOL CMFCDropDownListBox::IsEditFocused() const {
     return m_pCombo != nullptr && m_pCombo->HasEditBox() && m_pCombo->HasFocus();
 }
 
-BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
+BOOL CMFCDropDownListBox::OnListKey(UINT nMessage, UINT nChar) {
     const BOOL isKey = nMessage == WM_KEYDOWN || nMessage == WM_SYSKEYDOWN;
     // Alt may be the first half of Alt and an arrow, which closes the list as it opens it.
     if (isKey && nChar == VK_MENU)
@@ -196,6 +198,18 @@ BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
         return TRUE;
     }
     return CMFCPopupMenu::OnChainKey(nMessage, nChar);
+}
+
+// A choice has told the keyboard of its end before: what is closed by a key otherwise goes back to where it was opened.
+BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
+    CMFCRibbonComboBox* combo = m_pCombo;
+    const std::weak_ptr<BOOL> life = combo != nullptr ? combo->m_life : nullptr;
+    const BOOL isUsed = OnListKey(nMessage, nChar);
+    if (life.expired() || combo->IsDroppedDown())
+        return isUsed;
+    if (CMFCRibbonBar* bar = combo->GetTopLevelRibbonBar(); bar != nullptr)
+        bar->GetKeyboard().LeaveList();
+    return isUsed;
 }
 
 BOOL CMFCDropDownListBox::ToggleRow(int row) { return m_pCombo != nullptr && m_pCombo->OnToggleDropListItem(row); }

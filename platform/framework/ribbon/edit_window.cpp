@@ -34,9 +34,8 @@ BOOL CMFCRibbonRichEditCtrl::PreTranslateMessage(MSG* pMsg) {
     // The key may send a command whose handler deletes this window.
     const bool isWithAlt = pMsg->message == WM_SYSKEYDOWN && IsKeyWithAlt(pMsg->wParam);
     const bool isKey = pMsg->message == WM_KEYDOWN || isWithAlt;
-    // Alt, when it is let go, was not pressed alone.
     if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); isWithAlt && bar != nullptr)
-        bar->GetKeyboard().OnOtherKey();
+        bar->GetKeyboard().OnAltIsUsed();
     if (isKey && pMsg->hwnd == GetSafeHwnd() && m_edit.OnEditKey(static_cast<UINT>(pMsg->wParam)))
         return TRUE;
     return CRichEditCtrl::PreTranslateMessage(pMsg);

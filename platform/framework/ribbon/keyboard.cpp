@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cwctype>
+#include <utility>
 
 #include "afxribbonbar.h"
 #include "ribbon/bar_parts.h"
@@ -194,6 +195,7 @@ void RibbonKeyboard::ShowTips() {
 }
 
 void RibbonKeyboard::HideTips() {
+    m_isInList = false;
     if (!m_areTipsShown) {
         return;
     }
@@ -397,6 +399,12 @@ void RibbonKeyboard::LeavePopup(const CWnd& popup, bool goesBack) {
     }
 }
 
+void RibbonKeyboard::LeaveList() {
+    if (std::exchange(m_isInList, false) && m_isActive) {
+        ShowTips();
+    }
+}
+
 // ---- messages
 
 // Alt and F10 are the ribbon's in a frame without a menu of its own, while nobody holds the mouse.
@@ -416,9 +424,12 @@ bool RibbonKeyboard::OnSysKeyDown(UINT key, LPARAM flags) {
         if ((flags & kRepeats) != 0) {
             return m_swallowedUp == key;
         }
+        m_swallowedUp = 0; // a pop-up may have taken the release that was waited for
         const bool isInEdit = HoldsFocus() && ::GetFocus() != m_bar.GetSafeHwnd();
-        if (m_isActive && isInEdit && !m_areTipsShown && key == VK_MENU) {
-            // It may be the first half of Alt and an arrow, which opens the edit's list.
+        const CMFCRibbonBaseElement* focused = m_bar.GetFocused();
+        const bool mayOpen = isInEdit || (focused != nullptr && focused->HasDropDown());
+        if (m_isActive && mayOpen && !m_areTipsShown && key == VK_MENU) {
+            // It may be the first half of Alt and an arrow, which opens what drops down.
             m_isAltPending = true;
             return false;
         }
@@ -438,6 +449,7 @@ bool RibbonKeyboard::OnSysKeyDown(UINT key, LPARAM flags) {
         return false;
     }
     if (m_isActive && key == VK_DOWN) {
+        OnAltIsUsed();
         if (CMFCRibbonBaseElement* focused = m_bar.GetFocused(); focused != nullptr && focused->HasDropDown()) {
             HideTips();
             OpenMenu(*focused, true);

@@ -52,6 +52,11 @@ public:
     bool OnSysKeyUp(UINT key);
     /// Another key went down while Alt was held.
     void OnOtherKey() { m_isAltPending = false; }
+    /// The same, and the key was taken: the release of Alt must not open the window's menu.
+    void OnAltIsUsed() {
+        m_isAltPending = false;
+        m_swallowedUp = VK_MENU;
+    }
     /// A key while the keyboard is active.
     bool OnKeyDown(const MSG& message);
     /// A letter of a key tip, in any case; starts with the bar's level when none is shown.
@@ -68,6 +73,8 @@ public:
     void EnterPopup(CWnd& popup, CObject* object, const std::vector<CMFCRibbonBaseElement*>& elements);
     /// The pop-up closes. goesBack: without a choice, so that the level below is shown again.
     void LeavePopup(const CWnd& popup, bool goesBack);
+    /// A key has closed the list of an element without a choice: the tips whose letters opened it are shown again.
+    void LeaveList();
 
     /// The letters of the element's tip: `given`, or what its level's texts give; empty when it is in no level.
     CString KeysOf(const CMFCRibbonBaseElement& element, bool isMenu, const CString& given);
@@ -140,6 +147,7 @@ private:
     bool m_areTipsEnabled = true;
     bool m_areTipsShown = false;
     bool m_isActive = false;
+    bool m_isInList = false; // that letters opened; the tips wait for its end
     bool m_isMovingFocus = false;
     bool m_isAltPending = false; // Alt went down and nothing happened since
     UINT m_swallowedUp = 0;      // key whose release belongs to a press that was taken

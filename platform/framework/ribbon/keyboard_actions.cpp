@@ -103,7 +103,7 @@ void RibbonKeyboard::ExecuteTab(CMFCRibbonTab& tab) {
     ShowMatchingTips();
 }
 
-// A menu that runs its own loop is over when the call returns; a pop-up has brought its level, or has dropped down.
+// A menu that runs its own loop is over when the call returns; a pop-up has brought its level; a list has dropped down.
 void RibbonKeyboard::OpenMenu(CMFCRibbonBaseElement& element, bool isMenu) {
     const HWND window = m_bar.GetSafeHwnd();
     for (const Level& level : m_levels) {
@@ -111,13 +111,18 @@ void RibbonKeyboard::OpenMenu(CMFCRibbonBaseElement& element, bool isMenu) {
             tip->Hide();
         }
     }
+    const std::size_t depth = m_levels.size();
     m_target = &element;
     element.OnKey(isMenu);
     if (!::IsWindow(window) || !m_isActive) {
         return;
     }
     const CMFCRibbonBaseElement* target = std::exchange(m_target, nullptr);
-    if (!IsPopupOnTop() && (target == nullptr || !target->IsDroppedDown())) {
+    const bool isOpen = target != nullptr && target->IsDroppedDown();
+    if (isOpen && m_levels.size() == depth && m_areTipsShown) {
+        HideTips();
+        m_isInList = true;
+    } else if (!IsPopupOnTop() && !isOpen) {
         Deactivate(Focus::GiveBack);
     }
 }

@@ -119,6 +119,7 @@ void RibbonKeyboard::Deactivate(Focus focus) {
         return;
     }
     m_isActive = false;
+    m_isInList = false;
     m_areTipsShown = false;
     m_typed.clear();
     m_levels.clear();
