@@ -113,7 +113,7 @@ TEST_F(RibbonBarTest, AtEveryWidthAndScaleEveryPixelIsPainted) {
         list.AddTail(id);
     }
     Bar().SetQuickAccessCommands(list);
-    for (const double scale : {1.0, 1.5}) {
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
         ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(scale));
         Bar().ForceRecalcLayout();
         for (const int width : {1000, 560, 480, 380, 300}) {
