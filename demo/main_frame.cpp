@@ -250,7 +250,21 @@ void CMainFrame::WriteRecord() {
                                      {"frame", DumpFrame({&m_ribbon, {m_commandTexts}, L""})}};
     CRect ribbon;
     m_ribbon.GetWindowRect(ribbon);
+    const auto onScreen = [&ribbon](CRect rect) {
+        rect.OffsetRect(ribbon.TopLeft());
+        return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
+    };
     record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
+    record["quickAccessOnScreen"] = onScreen(m_ribbon.GetQuickAccessToolbarLocation());
+    record["tabsOnScreen"] = nlohmann::ordered_json::array();
+    for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i)
+        record["tabsOnScreen"].push_back(onScreen(m_ribbon.GetCategory(i)->GetTabRect()));
+    record["ribbonMinimized"] = IsRibbonMinimized();
+    record["quickAccessBelow"] = IsQuickAccessBelow();
+    std::string text = record.dump();
+    if (text == m_recorded)
+        return;
+    m_recorded = std::move(text);
     WriteJson(record, m_options.record);
 }
 

@@ -20,7 +20,7 @@ public:
     explicit CMainFrame(const DemoOptions& options);
 
     BOOL CreateFrame();
-    /// Writes what is shown to the file of the option --record, if there is one.
+    /// Writes what is shown to the file of the option --record, if there is one and it says something else so far.
     void WriteRecord();
 
 protected:
@@ -76,4 +76,5 @@ private:
     std::wstring m_skin;
     std::wstring m_iconStyle;
     std::vector<std::wstring> m_commandTexts; ///< As the builder met them, for the record.
+    std::string m_recorded;                   ///< What the file of the record says.
 };

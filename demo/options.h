@@ -14,7 +14,7 @@ struct DemoOptions {
     int category = 0;           ///< Index of the category shown first.
     bool isRightToLeft = false; ///< Mirrored layout, as for languages that are written so.
     std::wstring screenshot;    ///< PNG file to write, then leave; empty: stay.
-    std::wstring record;        ///< JSON file that is written anew after each command; empty: none.
+    std::wstring record;        ///< JSON file that is written anew after each change; empty: none.
 };
 
 /// Nothing, with a line in `error`, when an argument is unknown or malformed.

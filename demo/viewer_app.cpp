@@ -47,6 +47,14 @@ public:
         return FALSE;
     }
 
+    /// Much of what a user does to the ribbon is no command.
+    BOOL OnIdle(LONG count) override {
+        const BOOL wantsMore = CWinAppEx::OnIdle(count);
+        if (count == 0 && m_pMainWnd != nullptr)
+            static_cast<CMainFrame*>(m_pMainWnd)->WriteRecord();
+        return wantsMore;
+    }
+
     int ExitInstance() override {
         CWinAppEx::ExitInstance();
         m_gdiPlus.reset();

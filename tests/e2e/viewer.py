@@ -35,11 +35,20 @@ class Viewer:
             [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, "demo.exe"), "--size", "1280x800",
              "--record", self._record_file, *map(str, self._arguments)], env=self._environment)
         try:
-            self.wait_for(lambda record: True)
+            self.begin()
         except BaseException:
             self.__exit__()
             raise
         return self
+
+    def begin(self):
+        """What has to happen before the viewer can be used."""
+        self.wait_for(lambda record: True)
+
+    def leave(self):
+        """Closes the window as a person does and gives the exit code."""
+        self.key("alt+F4")
+        return self._program.wait(timeout=DEADLINE)
 
     def __exit__(self, *_):
         # The next run would join a server that is still on its way out.
@@ -132,8 +141,26 @@ class Viewer:
         else:
             self.click((left + right) // 2, bottom - 6)
 
+    def double_click(self, x, y):
+        self._xdotool("mousemove", x, y, "sleep", 0.1, "click", "--repeat", 2, "--delay", 60, 1)
+
+    def tab_middle(self, index):
+        left, top, right, bottom = self.record["tabsOnScreen"][index]
+        return (left + right) // 2, (top + bottom) // 2
+
+    def open_quick_access_menu(self):
+        """Clicks the arrow at the end of the quick access toolbar."""
+        _, top, right, bottom = self.record["quickAccessOnScreen"]
+        self.click(right - 5, (top + bottom) // 2)
+
     def key(self, *names):
         self._xdotool("key", *names)
+
+    def windows(self, title):
+        """Names the shown windows with exactly this title."""
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self._environment,
+                               capture_output=True, text=True)
+        return found.stdout.split()
 
     def picture(self, path):
         subprocess.run(["import", "-window", "root", path], env=self._environment, check=True)

@@ -4,15 +4,18 @@
 usage: viewer_test.py BIN_DIR [TEST...]
 """
 import os
+import shutil
 import subprocess
 import sys
 import tempfile
 import unittest
 
-from viewer import Viewer
+from viewer import ROOT, Viewer
 
 BIN_DIR = ""
 MAP_AREA = "800x300+100+350"
+RIBBON_AREA = "1280x150+0+60"
+TITLE = "Map viewer"
 MANY_PIXELS = 20000
 
 
@@ -113,6 +116,133 @@ class LayerCombos(unittest.TestCase):
             self.assertEqual(len(positions), 2)
             self.assertEqual(positions[0], positions[1])
             self.assertGreater(positions[0], 0)
+
+
+def height(record):
+    return record["ribbonOnScreen"][3] - record["ribbonOnScreen"][1]
+
+
+class RibbonOnTheScreen(unittest.TestCase):
+    """What a person does to the ribbon as a whole."""
+    MINIMIZED = staticmethod(lambda record: record["ribbonMinimized"])
+    WHOLE = staticmethod(lambda record: not record["ribbonMinimized"])
+
+    def open(self, *arguments):
+        return Viewer(BIN_DIR, "--lang", "en", "--category", "2", *arguments)
+
+    def test_a_double_click_on_a_tab_minimises_the_ribbon_and_another_brings_it_back(self):
+        with self.open() as viewer:
+            whole = height(viewer.record)
+            viewer.double_click(*viewer.tab_middle(2))
+            minimized = height(viewer.wait_for(self.MINIMIZED))
+            self.assertLess(minimized, whole / 2)
+            viewer.double_click(*viewer.tab_middle(2))
+            self.assertEqual(height(viewer.wait_for(self.WHOLE)), whole)
+
+    def test_ctrl_f1_minimises_the_ribbon_and_brings_it_back(self):
+        with self.open() as viewer, tempfile.TemporaryDirectory() as folder:
+            whole = height(viewer.record)
+            before = os.path.join(folder, "before.png")
+            # Not before everything is painted and up to date.
+            viewer.wait_until(lambda: changed_pixels(viewer.picture(before), viewer.picture(os.path.join(folder, "next.png")),
+                                                     RIBBON_AREA) == 0, "the ribbon is settled")
+            viewer.key("ctrl+F1")
+            self.assertLess(height(viewer.wait_for(self.MINIMIZED)), whole / 2)
+            viewer.key("ctrl+F1")
+            self.assertEqual(height(viewer.wait_for(self.WHOLE)), whole)
+            viewer.wait_until(lambda: changed_pixels(before, viewer.picture(os.path.join(folder, "after.png")),
+                                                     RIBBON_AREA) == 0, "the ribbon looks as before")
+
+    def test_the_command_minimises_the_ribbon_as_the_double_click_does(self):
+        with self.open() as viewer:
+            viewer.click_command("RibbonMinimize")
+            viewer.wait_for(self.MINIMIZED)
+            viewer.double_click(*viewer.tab_middle(0))
+            viewer.wait_for(self.WHOLE)
+            self.assertTrue(viewer.record["frame"]["ribbon"]["categories"][0]["active"])
+
+    def test_the_command_puts_the_quick_access_toolbar_below_the_panels_and_back(self):
+        with self.open() as viewer:
+            before = viewer.record
+            viewer.click_command("QuickAccessBelow")
+            below = viewer.wait_for(lambda record: record["quickAccessBelow"])
+            panels = [element["rect"][3] for element in viewer.elements()]
+            self.assertGreaterEqual(below["quickAccessOnScreen"][1] - below["ribbonOnScreen"][1], max(panels))
+            self.assertLessEqual(below["quickAccessOnScreen"][3], below["ribbonOnScreen"][3])
+            self.assertGreater(height(below), height(before))
+            viewer.click_command("QuickAccessBelow")
+            after = viewer.wait_for(lambda record: not record["quickAccessBelow"])
+            self.assertEqual(after["quickAccessOnScreen"], before["quickAccessOnScreen"])
+            self.assertEqual(height(after), height(before))
+
+
+class CustomizedQuickAccess(unittest.TestCase):
+    def test_a_command_that_was_checked_in_the_menu_appears_and_survives_a_language_switch(self):
+        with Viewer(BIN_DIR, "--lang", "en", "--category", "2") as viewer:
+            shown = viewer.record["frame"]["ribbon"]["quickAccess"]
+            width = viewer.record["quickAccessOnScreen"][2]
+            added = viewer.id_of("BookmarkAdd")
+            self.assertNotIn(added, shown)
+            viewer.open_quick_access_menu()
+            # The commands that are shown stand first, then those on offer.
+            viewer.key(*["Down"] * (len(shown) + 1), "Return")
+            chosen = lambda record: record["frame"]["ribbon"]["quickAccess"] == shown + [added]
+            viewer.wait_for(lambda record: chosen(record) and record["quickAccessOnScreen"][2] > width)
+            viewer.click_command("LanguageChinese")
+            viewer.wait_for(lambda record: record["language"] == "zh-CN" and chosen(record)
+                            and record["frame"]["ribbon"]["categories"][0]["name"] == "地图")
+
+    def test_a_command_that_was_unchecked_in_the_menu_disappears(self):
+        with Viewer(BIN_DIR, "--lang", "en") as viewer:
+            shown = viewer.record["frame"]["ribbon"]["quickAccess"]
+            viewer.open_quick_access_menu()
+            viewer.key("Down", "Return")
+            viewer.wait_for(lambda record: record["frame"]["ribbon"]["quickAccess"] == shown[1:])
+
+
+class BrokenRibbonViewer(Viewer):
+    """Meets a message before the frame appears."""
+
+    def begin(self):
+        self.wait_until(lambda: self.windows(TITLE), "a message is shown")
+        self.key("Return")
+        super().begin()
+
+
+class LeavingTheViewer(unittest.TestCase):
+    def run_demo(self, *arguments):
+        return subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), "--null", os.path.join(BIN_DIR, "demo.exe"),
+                               *arguments], capture_output=True, text=True, timeout=120)
+
+    def test_closing_the_window_gives_0(self):
+        with Viewer(BIN_DIR) as viewer:
+            self.assertEqual(viewer.leave(), 0)
+
+    def test_wrong_usage_gives_2_and_a_line_that_says_what_is_wrong(self):
+        for arguments, line in ((["--nonsense", "1"], "demo: unknown option --nonsense"),
+                                (["--size", "wide"], "demo: --size needs a proper value"),
+                                (["--lang"], "demo: --lang needs a proper value")):
+            result = self.run_demo(*arguments)
+            self.assertEqual(result.returncode, 2, arguments)
+            self.assertIn(line, result.stderr)
+
+    def test_a_picture_that_cannot_be_written_gives_1(self):
+        self.assertEqual(self.run_demo("--screenshot", "Z:\\no\\such\\folder\\picture.png").returncode, 1)
+
+    def test_a_broken_ribbon_file_gives_a_message_and_the_viewer_goes_on_without_a_ribbon(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for name in os.listdir(BIN_DIR):
+                path = os.path.join(BIN_DIR, name)
+                if name == "demo.exe":
+                    shutil.copy(path, folder)
+                elif os.path.isdir(path) and name != "cfg" or name.endswith(".dll"):
+                    os.symlink(path, os.path.join(folder, name))
+            os.mkdir(os.path.join(folder, "cfg"))
+            with open(os.path.join(folder, "cfg", "ribbon.xml"), "w", encoding="utf-8") as file:
+                file.write("<ribbon><row>")
+            with BrokenRibbonViewer(folder, "--lang", "en") as viewer:
+                self.assertEqual(viewer.record["frame"]["ribbon"]["categories"], [])
+                self.assertEqual(viewer.leave(), 0)
 
 
 if __name__ == "__main__":
