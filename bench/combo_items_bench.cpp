@@ -1,6 +1,7 @@
-// A multi combo with many items and two copies: filling it and setting states, opening its list, painting what the list
-// shows; beside the same work with nothing but strings, maps, and draw calls.
+// Combos with many items and two copies: filling them and setting states, opening a list, painting what the list shows;
+// beside the same work with nothing but strings, maps, and draw calls.
 #include "combo_window.h"
+#include "draw_calls.h"
 
 #include <benchmark/benchmark.h>
 
@@ -64,6 +65,33 @@ void SetStatesFloor(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * count);
 }
 
+void SetChecks(benchmark::State& state) {
+    const auto count = static_cast<int>(state.range(0));
+    g_window->Fill(count);
+    bool check = false;
+    for (auto _ : state) {
+        check = !check;
+        for (int i = 0; i < count; ++i)
+            g_window->CheckCombo().SetItemCheck(i, check);
+    }
+    state.SetItemsProcessed(state.iterations() * count);
+}
+
+void SetChecksFloor(benchmark::State& state) {
+    const auto count = static_cast<int>(state.range(0));
+    std::map<int, bool> copies[kCopies];
+    bool check = false;
+    for (auto _ : state) {
+        check = !check;
+        for (int i = 0; i < count; ++i) {
+            for (auto& copy : copies)
+                copy[i] = check;
+        }
+        benchmark::DoNotOptimize(copies);
+    }
+    state.SetItemsProcessed(state.iterations() * count);
+}
+
 void Open(benchmark::State& state) {
     g_window->Fill(static_cast<int>(state.range(0)));
     for (auto _ : state) {
@@ -86,17 +114,23 @@ void OpenFloor(benchmark::State& state) {
     }
 }
 
+/// The rows that a list shows are painted, however many it has.
 void PaintRows(benchmark::State& state) {
-    g_window->Fill(10000);
-    g_window->Combo().SetDropDownHeight(kShownRows * afxGlobalData.GetTextHeight() + 4);
-    g_window->Combo().DropDownList();
-    CMFCPopupMenu* const list = CMFCPopupMenu::GetActiveMenu();
+    g_window->Fill(static_cast<int>(state.range(0)));
+    CMFCPopupMenuBar* const list = g_window->OpenList(kShownRows);
     if (!list) {
         state.SkipWithError("no list is open");
         return;
     }
+    const auto paint = [list] { list->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); };
+    const DrawCallCounter counter;
+    paint();
+    const long texts = counter.Calls().texts;
+    if (texts < kShownRows - 2 || texts > kShownRows + 2)
+        state.SkipWithError("the list does not paint as many rows as it shows");
     for (auto _ : state)
-        list->GetMenuBar()->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        paint();
+    state.counters["texts"] = static_cast<double>(texts);
     CMFCPopupMenu::CloseAll();
 }
 
@@ -134,9 +168,15 @@ BENCHMARK(SetStatesFloor)
     ->Arg(1000)
     ->Arg(10000)
     ->Unit(benchmark::kMicrosecond);
+BENCHMARK(SetChecks)->Name("set every item's check")->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(SetChecksFloor)
+    ->Name("set every item's check/floor: three maps")
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(Open)->Name("open a list")->Arg(10)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(OpenFloor)->Name("open a list/floor: a window with a child")->Unit(benchmark::kMicrosecond);
-BENCHMARK(PaintRows)->Name("paint 30 rows")->Unit(benchmark::kMicrosecond);
+BENCHMARK(PaintRows)->Name("paint 30 rows")->Arg(kShownRows)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(PaintRowsFloor)->Name("paint 30 rows/floor: their swatches, lights and texts")->Unit(benchmark::kMicrosecond);
 
 class CBenchApp : public CWinAppEx {

@@ -98,13 +98,24 @@ void Resize() {
     Ribbon().UpdateWindow();
 }
 
+void MovePointerTo(int panel, int button) {
+    const CMFCRibbonPanel* const shown = Ribbon().GetActiveCategory()->GetPanel(panel);
+    const CPoint point = shown->GetElement(button)->GetRect().CenterPoint();
+    Ribbon().SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
+    Ribbon().UpdateWindow();
+}
+
 void Hover() {
     static int next = 0;
     next = 1 - next;
-    CMFCRibbonPanel* const panel = Ribbon().GetActiveCategory()->GetPanel(2);
-    const CPoint point = panel->GetElement(next == 0 ? 0 : kButtonsInAPanel - 1)->GetRect().CenterPoint();
-    Ribbon().SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
-    Ribbon().UpdateWindow();
+    MovePointerTo(2, next == 0 ? 0 : kButtonsInAPanel - 1);
+}
+
+/// The panel under the pointer has a ground of its own, so that two panels change with all that lies on them.
+void HoverAcrossPanels() {
+    static int next = 0;
+    next = 1 - next;
+    MovePointerTo(next == 0 ? 1 : 3, 0);
 }
 
 /// As at the start: whatever was kept from earlier paints is dropped.
@@ -123,6 +134,7 @@ constexpr Action kActions[] = {
     {"tab switch", SwitchTab, nullptr},
     {"relayout on resize", Resize, nullptr},
     {"hover", Hover, nullptr},
+    {"hover across panels", HoverAcrossPanels, nullptr},
 };
 
 DrawCalls CallsOf(const Action& action) {

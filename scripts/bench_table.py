@@ -21,6 +21,10 @@ RATIO_BARS = {
 # Microseconds, on a machine where loading one icon file takes 140.
 TIME_BARS = {("Load", "100"): 8_000, ("Load", "1000"): 52_000, ("Load", "5000"): 260_000}
 
+# How many times the processor time of the smallest argument the largest one may take: ten times the items, and what a
+# screen shows of them.
+GROWTH_BARS = {"set every item's check": 14.0, "set every item's light": 14.0, "paint 30 rows": 1.2}
+
 
 def medians(path):
     for run in json.load(open(path, encoding="utf-8"))["benchmarks"]:
@@ -53,6 +57,27 @@ def bar_of(figure, argument, cpu, what, floor):
     return ""
 
 
+def print_growth(figures):
+    """How a figure grows with its argument: 1 is independent of it, as many times as the argument is linear. Gives the
+    number of figures that grow more than they may."""
+    over = 0
+    sizes = {}
+    for name, times in figures.items():
+        figure, argument = split(name)
+        if argument:
+            sizes.setdefault(figure, []).append((int(argument), times))
+    grown = {figure: sorted(several) for figure, several in sizes.items() if len(several) > 1}
+    if grown:
+        print(f"\n{'figure':34} {'from':>8} {'to':>8} {'argument':>9} {'time':>8} {'cpu':>8}")
+    for figure, several in grown.items():
+        (least, (wall, cpu)), (most, (last_wall, last_cpu)) = several[0], several[-1]
+        held = verdict(last_cpu / cpu, GROWTH_BARS[figure]) if figure in GROWTH_BARS else ""
+        over += held.endswith("OVER")
+        line = f"{figure:34} {least:8} {most:8} {most / least:8.1f}x {last_wall / wall:7.2f}x {last_cpu / cpu:7.2f}x"
+        print(f"{line}   {held}".rstrip())
+    return over
+
+
 def main():
     over = 0
     figures, floors = {}, []
@@ -76,6 +101,7 @@ def main():
             if floor:
                 right = f"{floor[0]:12.3f} {floor[1]:12.3f} {ratio(wall, floor[0])} {ratio(cpu, floor[1])}"
             print(f"{left}   {right}  {what}{held and '   ' + held}")
+    over += print_growth(figures)
     return 1 if over else 0
 
 

@@ -4,11 +4,13 @@
 #include <afxvisualmanageroffice2007.h>
 
 #include "library_context.h"
+#include "ribbon_check_combo.h"
 #include "ribbon_multi_combo.h"
 
 #include <vector>
 
-/// A frame whose ribbon shows several multi combos with one command id. Destroys itself with its window.
+/// A frame whose ribbon shows several multi combos with one command id and as many check combos with another. Destroys
+/// itself with its window.
 class ComboWindow : public CFrameWndEx {
 public:
     ComboWindow() : m_ribbon(FALSE) {}
@@ -22,19 +24,34 @@ public:
             auto* const combo = new CMFCRibbonMultiCombo(700, FALSE, 120);
             panel->Add(combo);
             m_combos.push_back(combo);
+            auto* const checkCombo = new CMFCRibbonCheckComb(701, FALSE, 120);
+            panel->Add(checkCombo);
+            m_checkCombos.push_back(checkCombo);
         }
         ShowWindow(SW_SHOW);
         UpdateWindow();
         return true;
     }
     CMFCRibbonMultiCombo& Combo() { return *m_combos.front(); }
+    CMFCRibbonCheckComb& CheckCombo() { return *m_checkCombos.front(); }
     void Fill(int items) {
         Combo().RemoveAll();
-        for (int i = 0; i < items; ++i)
+        CheckCombo().RemoveAll();
+        for (int i = 0; i < items; ++i) {
             Combo().AddItem(L"item", static_cast<DWORD_PTR>(i));
+            CheckCombo().AddItem(L"item", static_cast<DWORD_PTR>(i));
+        }
+    }
+    /// Drops the multi combo's list with room for that many rows and gives its window, null when none dropped.
+    CMFCPopupMenuBar* OpenList(int rows) {
+        Combo().SetDropDownHeight(rows * afxGlobalData.GetTextHeight() + 4);
+        Combo().DropDownList();
+        CMFCPopupMenu* const list = CMFCPopupMenu::GetActiveMenu();
+        return list != nullptr ? list->GetMenuBar() : nullptr;
     }
 
 private:
     CMFCRibbonBar m_ribbon;
-    std::vector<CMFCRibbonMultiCombo*> m_combos; // the ribbon's
+    std::vector<CMFCRibbonMultiCombo*> m_combos; // the ribbon's, as the next
+    std::vector<CMFCRibbonCheckComb*> m_checkCombos;
 };
