@@ -109,6 +109,8 @@ public:
     void EnableVertResize(int nMinResize);
     BOOL IsResizeble() const { return m_bIsResizeable; }
     BOOL HasBeenResized() const { return m_bHasBeenResized; }
+    /// It is giving itself another size (RecalcLayout): the WM_SIZE that it hears now is nobody's wish.
+    BOOL IsInLayout() const { return m_bInLayout; }
     MENUAREA_TYPE CheckArea(const CPoint& ptScreen) const;
 
     // Looks and rules

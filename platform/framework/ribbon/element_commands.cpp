@@ -49,8 +49,15 @@ void CMFCRibbonBaseElement::OnShowPopupMenu() {
 
 void CMFCRibbonBaseElement::ClosePopupMenu() {
     CWnd* popup = m_pPopup;
+    auto* menu = dynamic_cast<CMFCPopupMenu*>(popup);
+    // An open one tells this element itself when it has closed. Until then both know each other: the host, which hears
+    // of the closing first, may delete this element.
+    if (menu != nullptr && menu->GetSafeHwnd() != nullptr && menu->GetParentRibbonElement() == this) {
+        menu->CloseMenu();
+        return;
+    }
     SetDroppedDown(nullptr);
-    if (auto* menu = dynamic_cast<CMFCPopupMenu*>(popup))
+    if (menu != nullptr)
         menu->CloseMenu();
     else if (popup != nullptr && popup->GetSafeHwnd() != nullptr)
         ::SendMessageW(popup->GetSafeHwnd(), WM_CLOSE, 0, 0);

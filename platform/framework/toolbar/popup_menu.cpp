@@ -217,15 +217,20 @@ void CMFCPopupMenu::HideWindow() {
     ShowWindow(SW_HIDE);
 }
 
+// The host may end this, by ending the window that it belongs to.
 void CMFCPopupMenu::TellClosed() {
     if (std::exchange(m_bToldClosed, TRUE)) {
         return;
     }
+    const HWND window = m_hWnd;
     const bool tellsSelection =
         m_bSendMenuSelectMsg && !GetMenuBar()->IsRibbonPanel() && !GetMenuBar()->IsDropDownListMode();
     if (tellsSelection && !m_pParentPopup && m_bShown && m_hMessageWnd) {
         // As the system says that its menus are closed.
         ::SendMessageW(m_hMessageWnd, WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
+    }
+    if (!::IsWindow(window)) {
+        return;
     }
     CFrameWnd* frame = GetOwnerFrame();
     if (auto* single = DYNAMIC_DOWNCAST(CFrameWndEx, frame)) {
@@ -251,7 +256,11 @@ void CMFCPopupMenu::OnDestroy() {
     }
     m_parts->shadow.Hide();
     m_parts->shadow.DestroyWindow();
+    const HWND window = m_hWnd;
     TellClosed();
+    if (!::IsWindow(window)) {
+        return;
+    }
     ForgetParents();
     CMiniFrameWnd::OnDestroy();
 }
