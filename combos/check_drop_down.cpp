@@ -77,10 +77,16 @@ CMFCCheckDropDown::CMFCCheckDropDown(CMFCRibbonComboBox* combo) : CMFCDropDownLi
     m_rows.SetNotifyChild(dynamic_cast<CRibbonNotifyCombox*>(combo));
 }
 
+// Closing may take a while: a host that is told of it may pump messages for the rows.
+void CMFCCheckDropDown::OnParentComboDestroyed() {
+    m_rows.SetNotifyChild(nullptr);
+    CMFCDropDownListBox::OnParentComboDestroyed();
+}
+
 void CMFCCheckDropDown::OnSize(UINT type, int cx, int cy) {
     CMFCDropDownListBox::OnSize(type, cx, cy);
-    // The height in which the list opens is no wish of the user's.
-    if (!IsShown())
+    // The height in which the list opens, or which it takes for another item, is no wish of the user's.
+    if (!IsShown() || IsInLayout())
         return;
     CMFCRibbonBaseElement* const combo = GetParentRibbonElement();
     if (auto* const check = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, combo))

@@ -29,7 +29,8 @@ HWND HostOf(const CMFCRibbonBaseElement& combo) {
     if (!bar || !bar->GetSafeHwnd())
         return nullptr;
     const CWnd* const owner = bar->GetOwner();
-    return owner ? owner->GetSafeHwnd() : nullptr;
+    const HWND window = owner ? owner->GetSafeHwnd() : nullptr;
+    return ::IsWindow(window) ? window : nullptr;
 }
 
 LRESULT TellHost(HWND host, UINT message, const CString& text, LPARAM lParam) {
@@ -65,8 +66,8 @@ marks::Rect FromRect(const CRect& rect) {
             static_cast<int>(rect.bottom)};
 }
 
-CMFCDropDownListBox* MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones) {
-    auto* const list = new CMFCCheckDropDown(&combo);
+std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones) {
+    auto list = std::make_unique<CMFCCheckDropDown>(&combo);
     std::vector<CRect> rects(zones.size());
     std::ranges::transform(zones, rects.begin(), ToRect);
     list->SetSpRects(rects);

@@ -8,6 +8,7 @@
 #include <afxribbonbar.h>
 #include <afxribboncombobox.h>
 
+#include <memory>
 #include <vector>
 
 class CAccessibilityData;
@@ -46,7 +47,7 @@ std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
 
 inline int CountOf(const CMFCRibbonComboBox& combo) { return static_cast<int>(combo.GetCount()); }
 
-/// The window that gets the combo's messages; null when there is none.
+/// The window that gets the combo's messages; null when there is none (any more).
 HWND HostOf(const CMFCRibbonBaseElement& combo);
 /// Sends a message whose wParam is the text. The receiver may have destroyed everything when it comes back. 0 when the
 /// window is gone.
@@ -65,8 +66,8 @@ void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const marks
 CRect ToRect(const marks::Rect& rect);
 marks::Rect FromRect(const CRect& rect);
 
-/// The list that a combo with marks drops; not opened yet.
-CMFCDropDownListBox* MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones);
+/// The list that a combo with marks drops; empty, and not opened yet.
+std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones);
 /// The panel that shows the combo is no longer hot: the open list is.
 void CoolPanelOf(const CMFCRibbonComboBox& combo);
 /// The width that the item's row needs in the list: `marksWidth` and the text as people read it. The list's font is

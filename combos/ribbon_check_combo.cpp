@@ -5,8 +5,11 @@
 #include "combos/mark_sizes.h"
 #include "host_messages.h"
 
+#include <afxglobals.h>
 #include <afxvisualmanager.h>
 #include <fx/accessibility_data.h>
+
+#include <algorithm>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonCheckComb, CMFCRibbonComboBox)
 
@@ -64,12 +67,13 @@ CMFCRibbonCheckComb::CMFCRibbonCheckComb(UINT id, BOOL hasEditBox, int width, LP
 CMFCRibbonCheckComb::~CMFCRibbonCheckComb() = default;
 
 void CMFCRibbonCheckComb::CopyFrom(const CMFCRibbonBaseElement& src) {
-    CMFCRibbonComboBox::CopyFrom(src);
     const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, &src);
-    if (!source || source == this)
-        return;
-    m_state->CopyFrom(*source->m_state);
-    if (m_state->usesStaticHeight)
+    const bool isOther = source && source != this;
+    if (isOther)
+        m_state->CopyFrom(*source->m_state);
+    const std::weak_ptr<State> life = m_state;
+    CMFCRibbonComboBox::CopyFrom(src); // closes an open list, of which the host hears
+    if (!life.expired() && isOther && m_state->usesStaticHeight)
         SetDropDownHeight(m_nStaticDropDownHeight);
 }
 
@@ -82,7 +86,10 @@ INT_PTR CMFCRibbonCheckComb::AddItem(LPCTSTR text, DWORD_PTR data) {
 }
 
 void CMFCRibbonCheckComb::RemoveAll() {
-    RemoveAllItems();
+    const std::weak_ptr<State> life = m_state;
+    RemoveAllItems(); // closes an open list, of which the host hears
+    if (life.expired())
+        return;
     State::ChangeCopies(*this, [](CMFCRibbonCheckComb& copy) { copy.RemoveAll(); });
 }
 
@@ -122,8 +129,12 @@ void CMFCRibbonCheckComb::DropDownList() {
     CoolPanelOf(*this);
     if (m_state->usesStaticHeight) // the list of another combo may have been resized since
         SetDropDownHeight(m_nStaticDropDownHeight);
-    const int editBottom = static_cast<int>(GetEditRect().bottom);
-    OpenDropDown(MakeMarkedList(*this, {marks::CheckZone(MarkSizes::Current().checkBox, editBottom)}), m_rect.Width());
+    OpenDropDown(m_rect.Width());
+}
+
+std::unique_ptr<CMFCDropDownListBox> CMFCRibbonCheckComb::MakeDropDownList() {
+    const int editBottom = std::max(static_cast<int>(GetEditRect().bottom), afxGlobalData.GetTextHeight());
+    return MakeMarkedList(*this, {marks::CheckZone(MarkSizes::Current().checkBox, editBottom)});
 }
 
 // ---- clicks. Whatever the host is told may be the combo's end.

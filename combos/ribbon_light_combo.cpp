@@ -36,10 +36,10 @@ CMFCRibbonVesMultiCombo::CMFCRibbonVesMultiCombo(UINT id, BOOL hasEditBox, int w
 CMFCRibbonVesMultiCombo::~CMFCRibbonVesMultiCombo() = default;
 
 void CMFCRibbonVesMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) {
-    CMFCRibbonComboBox::CopyFrom(src);
     const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonVesMultiCombo, &src);
     if (source && source != this)
         m_state->CopyFrom(*source->m_state);
+    CMFCRibbonComboBox::CopyFrom(src); // closes an open list: the host hears of it, and may delete this
 }
 
 // ---- items and their lights
@@ -51,7 +51,10 @@ INT_PTR CMFCRibbonVesMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
 }
 
 void CMFCRibbonVesMultiCombo::RemoveAll() {
-    RemoveAllItems();
+    const std::weak_ptr<State> life = m_state;
+    RemoveAllItems(); // closes an open list, of which the host hears
+    if (life.expired())
+        return;
     State::ChangeCopies(*this, [](CMFCRibbonVesMultiCombo& copy) { copy.RemoveAll(); });
 }
 
@@ -84,7 +87,11 @@ void CMFCRibbonVesMultiCombo::DropDownList() {
     if (!BeginDropDown())
         return;
     CoolPanelOf(*this);
-    OpenDropDown(MakeMarkedList(*this, marks::LightZones(MarkSizes::Current().icon)), m_rect.Width());
+    OpenDropDown(m_rect.Width());
+}
+
+std::unique_ptr<CMFCDropDownListBox> CMFCRibbonVesMultiCombo::MakeDropDownList() {
+    return MakeMarkedList(*this, marks::LightZones(MarkSizes::Current().icon));
 }
 
 // ---- clicks. Whatever the host is told may be the combo's end.

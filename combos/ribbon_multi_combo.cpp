@@ -61,12 +61,13 @@ CMFCRibbonMultiCombo::CMFCRibbonMultiCombo(UINT id, BOOL hasEditBox, int width, 
 CMFCRibbonMultiCombo::~CMFCRibbonMultiCombo() = default;
 
 void CMFCRibbonMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) {
-    CMFCRibbonComboBox::CopyFrom(src);
     const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonMultiCombo, &src);
-    if (!source || source == this)
-        return;
-    m_state->CopyFrom(*source->m_state);
-    if (m_state->usesStaticHeight)
+    const bool isOther = source && source != this;
+    if (isOther)
+        m_state->CopyFrom(*source->m_state);
+    const std::weak_ptr<State> life = m_state;
+    CMFCRibbonComboBox::CopyFrom(src); // closes an open list, of which the host hears
+    if (!life.expired() && isOther && m_state->usesStaticHeight)
         SetDropDownHeight(m_nStaticDropDownHeight);
 }
 
@@ -79,7 +80,10 @@ INT_PTR CMFCRibbonMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
 }
 
 void CMFCRibbonMultiCombo::RemoveAll() {
-    RemoveAllItems();
+    const std::weak_ptr<State> life = m_state;
+    RemoveAllItems(); // closes an open list, of which the host hears
+    if (life.expired())
+        return;
     State::ChangeCopies(*this, [](CMFCRibbonMultiCombo& copy) { copy.RemoveAll(); });
 }
 
@@ -169,7 +173,11 @@ void CMFCRibbonMultiCombo::DropDownList() {
     CoolPanelOf(*this);
     if (m_state->usesStaticHeight) // the list of another combo may have been resized since
         SetDropDownHeight(m_nStaticDropDownHeight);
-    OpenDropDown(MakeMarkedList(*this, marks::SwatchZones(GetEditRect().Height(), ScaledIconSize())), m_rect.Width());
+    OpenDropDown(m_rect.Width());
+}
+
+std::unique_ptr<CMFCDropDownListBox> CMFCRibbonMultiCombo::MakeDropDownList() {
+    return MakeMarkedList(*this, marks::SwatchZones(GetEditRect().Height(), ScaledIconSize()));
 }
 
 // ---- clicks. Whatever the host is told may be the combo's end.
@@ -221,7 +229,18 @@ bool CMFCRibbonMultiCombo::NotifyChangeData(int index, int zone, bool /*exclusiv
     }
 }
 
-BOOL CMFCRibbonMultiCombo::OnToggleDropListItem(int index) { return NotifyChangeData(index, lightZone, false); }
+// As a click on the light; with Shift as one on the swatch, which chooses the row.
+BOOL CMFCRibbonMultiCombo::OnToggleDropListItem(int index) {
+    if (::GetKeyState(VK_SHIFT) >= 0)
+        return NotifyChangeData(index, lightZone, false);
+    const std::weak_ptr<State> life = m_state;
+    if (!NotifyChangeData(index, swatchZone, false)) {
+        ClosePopupMenu();
+        if (!life.expired())
+            OnSelectItem(index);
+    }
+    return TRUE;
+}
 
 void CMFCRibbonMultiCombo::OnLButtonDown(CPoint point) {
     if (IsDisabled())

@@ -47,6 +47,8 @@ public:
     /// See CMFCPopupMenuBarEx.
     void SetSpRects(const std::vector<CRect>& zones) { m_rows.SetSpRects(zones); }
 
+    void OnParentComboDestroyed() override;
+
 protected:
     CMFCCheckDropDown() = default;
     afx_msg void OnSize(UINT type, int cx, int cy);

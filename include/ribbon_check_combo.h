@@ -62,6 +62,7 @@ public:
     BOOL SetACCRowData(int row, CAccessibilityData& data) override;
 
 protected:
+    std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override;
     void OnDrawSelectedItem(CDC* dc, CRect edit) override;
 
 private:

@@ -34,6 +34,8 @@ public:
     std::function<bool(UINT message)> carriesText = [](UINT) { return false; };
     /// Called for each message that was kept, commands included; its result is the message's.
     std::function<LRESULT(const HostMessage&)> onMessage;
+    /// Called while a pop-up closes, which has left the chain by then; it may destroy the frame.
+    std::function<void(CMFCPopupMenu&)> onPopupClosed;
 
     int CountCommands(UINT id) const {
         int count = 0;
@@ -55,6 +57,12 @@ public:
             return CFrameWndEx::OnCmdMsg(id, code, extra, info);
         static_cast<CCmdUI*>(extra)->Enable(id != disabledCommand);
         return TRUE;
+    }
+
+    void OnClosePopupMenu(CMFCPopupMenu* popup) override {
+        CFrameWndEx::OnClosePopupMenu(popup);
+        if (const auto heard = onPopupClosed)
+            heard(*popup);
     }
 
 protected:

@@ -105,13 +105,16 @@ public:
 protected:
     CMFCRibbonComboBox();
 
-    // ---- the parts of DropDownList, for derived classes with a list of their own
+    // ---- the parts of DropDownList, for derived classes
     // FALSE: nothing must open (disabled, no window, a hidden edit window), or something else was open and is closed
     // now. TRUE: OnShowPopupMenu was called.
     BOOL BeginDropDown();
-    // Fills the list with the items, marks the element dropped down and opens it; from then on the list is its
-    // window's. nMinWidth: of the list in device pixels, -1: the width of edit area and drop button.
-    void OpenDropDown(CMFCDropDownListBox* pList, int nMinWidth = -1);
+    // Makes the list, fills it with the items, marks the element dropped down and opens it; from then on the list is
+    // its window's. Without memory for it nothing opens. nMinWidth: of the list in device pixels, -1: the width of edit
+    // area and drop button.
+    void OpenDropDown(int nMinWidth = -1);
+    // An empty list for this element: where a derived class has one of its own. Null: nothing opens.
+    virtual std::unique_ptr<CMFCDropDownListBox> MakeDropDownList();
     // Where the list begins on the screen: below the edit area, or below the element when that is empty; at its left
     // edge, in a mirrored window at its right edge.
     CPoint GetDropDownPoint() const;
@@ -142,6 +145,7 @@ private:
     int FindData(DWORD_PTR dwData) const;
     void TakeSelection(int index, const CString& text);
     void ShowSelectionInCopies();
+    std::unique_ptr<CMFCDropDownListBox> MakeFilledList();
     void CloseDropDown();
 
     std::vector<Item> m_items;
@@ -181,7 +185,8 @@ public:
     BOOL Track(CPoint point, CWnd* pWndOwner);
 
     CMFCRibbonComboBox* GetParentCombo() const { return m_pCombo; }
-    void OnParentComboDestroyed();
+    // The element goes: the list closes and forgets it.
+    virtual void OnParentComboDestroyed();
 
     CWnd* GetParentArea(CRect& rectParentBtn) override;
     BOOL IsEditFocused() const override;

@@ -8,6 +8,8 @@
 #include "ribbon/element_metrics.h"
 #include "toolbar/row_text.h"
 
+#include <new>
+
 namespace {
 constexpr int kDropButton = 14; // width at 96 DPI
 constexpr int kTextSide = 3;    // between the edit area's frame and the text
@@ -82,7 +84,23 @@ BOOL CMFCRibbonComboBox::BeginDropDown() {
 
 void CMFCRibbonComboBox::DropDownList() {
     if (BeginDropDown())
-        OpenDropDown(new CMFCDropDownListBox(this));
+        OpenDropDown();
+}
+
+std::unique_ptr<CMFCDropDownListBox> CMFCRibbonComboBox::MakeDropDownList() {
+    return std::make_unique<CMFCDropDownListBox>(this);
+}
+
+// Null when there is no memory for it.
+std::unique_ptr<CMFCDropDownListBox> CMFCRibbonComboBox::MakeFilledList() {
+    try {
+        std::unique_ptr<CMFCDropDownListBox> list = MakeDropDownList();
+        for (std::size_t i = 0; list != nullptr && i < m_items.size(); ++i)
+            list->AddString(m_items[i].text);
+        return list;
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
 }
 
 CPoint CMFCRibbonComboBox::GetDropDownPoint() const {
@@ -93,12 +111,11 @@ CPoint CMFCRibbonComboBox::GetDropDownPoint() const {
     return CPoint(isMirrored ? area.right : area.left, area.bottom);
 }
 
-void CMFCRibbonComboBox::OpenDropDown(CMFCDropDownListBox* pList, int nMinWidth) {
+void CMFCRibbonComboBox::OpenDropDown(int nMinWidth) {
+    CMFCDropDownListBox* const pList = MakeFilledList().release();
     if (pList == nullptr)
         return;
     pList->SetParentRibbonElement(this);
-    for (const Item& item : m_items)
-        pList->AddString(item.text);
     pList->SetCurSel(m_nSelected);
     pList->SetMaxHeight(GetDropDownHeight());
     pList->SetMinWidth(nMinWidth >= 0 ? nMinWidth : m_rectCommand.Width() + m_rectMenu.Width());

@@ -115,6 +115,20 @@ TYPED_TEST(StaticHeight, AListOfFewItemsThatIsLowerLeavesItAlone) {
     EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 560);
 }
 
+TYPED_TEST(StaticHeight, AnItemAddedToTheOpenListIsNoResize) {
+    auto& combo = this->template Add<TypeParam>();
+    combo.UserStaticDropDownHeight(true);
+    this->Open(combo);
+    const int before = HeightOfOpenList();
+    for (int i = 0; i < 5; ++i)
+        combo.AddItem(L"more");
+    EXPECT_GT(HeightOfOpenList(), before) << "the list takes the items up";
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 560);
+    EXPECT_EQ(combo.GetDropDownHeight(), 560);
+    ResizeOpenList(before);
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, before) << "but a user's hand is one, then as before";
+}
+
 TEST_F(RibbonCombos, ALightOnlyListKeepsItsHeightToItself) {
     auto& combo = Add<CMFCRibbonVesMultiCombo>(comboId, 0);
     for (int i = 0; i < 200; ++i)

@@ -1,6 +1,8 @@
 // A host that does the worst it can inside of every message.
 #include "menu_event.h"
+#include "tests/support/keys.h"
 #include "tests/ui/marked_combos/combo_fixture.h"
+#include "tests/ui/marked_combos/counted_faults.h"
 
 #include <afxRibbonPanel.h>
 
@@ -49,6 +51,11 @@ struct Scene {
         combo->DropDownList();
         CMFCPopupMenu::GetActiveMenu()->OnChainKey(WM_KEYDOWN, VK_SPACE);
     }
+    void ShiftSpace() const {
+        Keys keys;
+        keys.Hold(VK_SHIFT);
+        Space();
+    }
     void Notify(int zone, bool exclusive) const {
         dynamic_cast<CRibbonNotifyCombox&>(*combo).NotifyChangeData(1, zone, exclusive);
     }
@@ -66,6 +73,7 @@ const Trigger triggers[] = {
     {"ADoubleClickOnAMark", [](Scene& scene) { scene.DoubleClickRow(8); }},
     {"ADoubleClickOnTheSecondMark", [](Scene& scene) { scene.DoubleClickRow(25); }},
     {"SpaceInTheList", [](Scene& scene) { scene.Space(); }},
+    {"ShiftAndSpaceInTheList", [](Scene& scene) { scene.ShiftSpace(); }},
     {"AClickOnTheFacesMark", [](Scene& scene) { scene.ClickFace(8); }},
     {"AClickOnTheFacesSecondMark", [](Scene& scene) { scene.ClickFace(25); }},
     {"AnAction", [](Scene& scene) { scene.Notify(2, false); }},
@@ -126,24 +134,6 @@ std::vector<Case> AllCases() {
     }
     return cases;
 }
-
-/// Counts accesses to memory that is not there: the system swallows those that happen below a window procedure.
-class CountedFaults {
-public:
-    CountedFaults() : m_handler(::AddVectoredExceptionHandler(1, Count)) { s_count = 0; }
-    ~CountedFaults() { ::RemoveVectoredExceptionHandler(m_handler); }
-    CountedFaults(const CountedFaults&) = delete;
-    CountedFaults& operator=(const CountedFaults&) = delete;
-    int Get() const { return s_count; }
-
-private:
-    static LONG CALLBACK Count(EXCEPTION_POINTERS* exception) {
-        s_count += exception->ExceptionRecord->ExceptionCode == EXCEPTION_ACCESS_VIOLATION ? 1 : 0;
-        return EXCEPTION_CONTINUE_SEARCH;
-    }
-    inline static int s_count = 0;
-    void* m_handler;
-};
 
 /// One program for each kind and trigger would cost a second each: the cases of a kind run in one.
 class HostileHost : public testing::TestWithParam<Kind> {

@@ -1,4 +1,5 @@
 // Combos with marks in the pop-up of a collapsed panel.
+#include "tests/support/keys.h"
 #include "tests/ui/marked_combos/combo_fixture.h"
 
 #include <afxribbonpanelmenu.h>
@@ -71,6 +72,16 @@ TEST_F(CollapsedPanel, ASwatchClickClosesBothBeforeTheHostIsAsked) {
     ClickRow(0, 5);
     EXPECT_EQ(TakeTold(), (Told{"sent COMMAND 701", "posted COLOUR #0 0"}));
     EXPECT_FALSE(wasOpen);
+}
+
+TEST_F(CollapsedPanel, ShiftAndSpaceCloseBothBeforeTheHostIsAsked) {
+    Open(*m_multi);
+    Keys keys;
+    keys.Hold(VK_SHIFT);
+    Key(VK_SPACE);
+    EXPECT_EQ(Rows(), nullptr);
+    EXPECT_FALSE(IsPanelOpen());
+    EXPECT_EQ(TakeTold(), (Told{"sent COMMAND 701", "posted COLOUR #1 0"}));
 }
 
 TEST_F(CollapsedPanel, SettersReachTheElementWhileThePopupShowsIt) {

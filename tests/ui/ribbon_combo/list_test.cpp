@@ -401,9 +401,12 @@ public:
     using CMFCRibbonComboBox::CMFCRibbonComboBox;
     void DropDownList() override {
         if (BeginDropDown()) {
-            OpenDropDown(new OtherList(this), m_rect.Width());
+            OpenDropDown(m_rect.Width());
         }
     }
+
+protected:
+    std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override { return std::make_unique<OtherList>(this); }
 };
 
 TEST_F(ComboList, ADerivedListsOwnBarIsUsedEverywhere) {

@@ -27,11 +27,9 @@ public:
 class DrawnCombo : public CMFCRibbonComboBox {
 public:
     using CMFCRibbonComboBox::CMFCRibbonComboBox;
-    void DropDownList() override {
-        if (BeginDropDown()) {
-            OpenDropDown(new DrawnList(this));
-        }
-    }
+
+protected:
+    std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override { return std::make_unique<DrawnList>(this); }
 };
 
 constexpr std::uint32_t kUnpainted = 0xFF00FF;

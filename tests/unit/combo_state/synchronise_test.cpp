@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <memory>
+#include <new>
 #include <vector>
 
 namespace {
@@ -65,6 +68,59 @@ TEST_F(Synchronise, AnElementWithoutCopiesIsAlone) {
     m_all.clear();
     EXPECT_TRUE(m_first.Set(0, true));
     EXPECT_EQ(m_first.calls, 1);
+}
+
+/// An element that does something when it is changed.
+struct Acting {
+    SynchronisedFlag flag;
+    std::function<void()> act = [] {};
+};
+
+void ChangeAll(Acting& self, const std::vector<Acting*>& all) {
+    SynchroniseCopies(
+        self, [](Acting& one) -> SynchronisedFlag& { return one.flag; }, [&all] { return all; },
+        [](Acting& copy) {
+            const std::function<void()> act = copy.act;
+            act();
+        });
+}
+
+TEST(SynchroniseEnds, ACopyThatGoesWithAnothersChangeIsPassedOver) {
+    Acting self;
+    auto first = std::make_unique<Acting>();
+    auto second = std::make_unique<Acting>();
+    int changes = 0;
+    first->act = [&] {
+        ++changes;
+        second.reset();
+    };
+    second->act = [&] { ++changes; };
+    ChangeAll(self, {first.get(), second.get()});
+    EXPECT_EQ(changes, 1);
+    EXPECT_FALSE(first->flag.IsSet());
+}
+
+TEST(SynchroniseEnds, TheOneThatWasChangedAndTheCopyMayGoWithTheChange) {
+    auto self = std::make_unique<Acting>();
+    auto first = std::make_unique<Acting>();
+    auto second = std::make_unique<Acting>();
+    int changes = 0;
+    first->act = [&] {
+        ++changes;
+        self.reset();
+        first.reset();
+    };
+    second->act = [&] { ++changes; };
+    ChangeAll(*self, {first.get(), second.get()});
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(SynchroniseEnds, AChangeThatFailsLeavesNoFlagSet) {
+    Acting self;
+    Acting copy;
+    copy.act = [] { throw std::bad_alloc(); };
+    EXPECT_THROW(ChangeAll(self, {&copy}), std::bad_alloc);
+    EXPECT_FALSE(copy.flag.IsSet());
 }
 
 } // namespace
