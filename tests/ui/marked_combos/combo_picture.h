@@ -77,7 +77,8 @@ inline void DrawRows(CMFCPopupMenuBarEx& rows, CDC& dc) {
     };
     CRect client;
     rows.GetClientRect(&client);
-    dc.FillSolidRect(client, RGB(255, 255, 255));
+    // By a brush: in a mirrored context the colour of an opaque text leaves the outermost column out.
+    ::FillRect(dc.GetSafeHdc(), &client, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
     (rows.*(&Open::DoPaint))(&dc);
 }
 

@@ -178,6 +178,8 @@ TYPED_TEST(EveryCombo, ACopyOfItselfOrOfAnotherKindKeepsItsStates) {
 TYPED_TEST(EveryCombo, IsMadeByItsNameAndIsBothAComboAndAReceiverOfClicks) {
     TypeParam combo(comboId, FALSE);
     EXPECT_NE(dynamic_cast<CRibbonNotifyCombox*>(static_cast<CMFCRibbonComboBox*>(&combo)), nullptr);
+    EXPECT_EQ(static_cast<const void*>(static_cast<CMFCRibbonComboBox*>(&combo)), static_cast<const void*>(&combo))
+        << "a combo first";
     CRuntimeClass* const found = CRuntimeClass::FromName(combo.GetRuntimeClass()->m_lpszClassName);
     EXPECT_EQ(found, combo.GetRuntimeClass());
     EXPECT_TRUE(combo.IsKindOf(RUNTIME_CLASS(CMFCRibbonComboBox)));
