@@ -146,6 +146,69 @@ TEST_F(LabelEx, AMenuLabelLeavesTheLastTwoRowsFree) {
     EXPECT_EQ(m_canvas.Extent(), CSize(190, 38)) << "the frame is filled over the whole width, but for two rows";
 }
 
+/// Notes what labels ask of it, and has a colour for menus.
+class LabelManager : public CMFCVisualManager {
+    DECLARE_DYNCREATE(LabelManager)
+public:
+    void OnDrawRibbonLabel(CDC*, CMFCRibbonLabel*, CRect rect) override { labels.push_back(rect); }
+    COLORREF OnDrawMenuLabel(CDC*, CRect rect) override {
+        menuLabels.push_back(rect);
+        return RGB(255, 0, 0);
+    }
+    static LabelManager& Get() { return dynamic_cast<LabelManager&>(*CMFCVisualManager::GetInstance()); }
+    std::vector<CRect> labels;
+    std::vector<CRect> menuLabels;
+};
+IMPLEMENT_DYNCREATE(LabelManager, CMFCVisualManager)
+
+TEST_F(LabelEx, TheSkinPaintsBehindTheTextAndColoursItInMenus) {
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(LabelManager));
+    CMFCRibbonLabelEx label(L"IIII");
+    const CRect rect(10, 10, 190, 40);
+    Draw(label, rect);
+    EXPECT_EQ(LabelManager::Get().labels, std::vector<CRect>{rect});
+    EXPECT_EQ(FirstColumn(pureRed), -1);
+    label.SetMenuMode(TRUE);
+    Draw(label, rect);
+    EXPECT_EQ(LabelManager::Get().menuLabels, (std::vector<CRect>{CRect(10, 10, 190, 38)}));
+    EXPECT_EQ(LabelManager::Get().labels.size(), 1u) << "not both";
+    EXPECT_GE(FirstColumn(pureRed), 10);
+    label.SetTextColor(RGB(0, 0, 255));
+    Draw(label, rect);
+    EXPECT_EQ(FirstColumn(pureRed), -1) << "a colour of its own counts more";
+    EXPECT_GE(FirstColumn(0x0000FF), 10);
+    CMFCVisualManager::SetDefaultManager(nullptr);
+}
+
+TEST_F(LabelEx, TheTextIsBoldInAMenu) {
+    CMFCRibbonLabelEx label(L"WWWWWWWW");
+    label.SetTextColor(RGB(255, 0, 0));
+    Draw(label);
+    const int regular = LastColumn(pureRed) - FirstColumn(pureRed);
+    label.SetMenuMode(TRUE);
+    Draw(label);
+    EXPECT_GT(LastColumn(pureRed) - FirstColumn(pureRed), regular);
+}
+
+TEST_F(LabelEx, TheTextBeginsBehindTheMargin) {
+    struct Open : CMFCRibbonLabelEx {
+        using CMFCRibbonLabelEx::CMFCRibbonLabelEx;
+        void SetMargin(int margin) { m_szMargin.cx = margin; }
+    };
+    Open label(L"\x2588\x2588");
+    label.SetTextColor(RGB(255, 0, 0));
+    Draw(label);
+    int columns[2] = {};
+    for (const int margin : {0, 7}) {
+        label.SetMargin(margin);
+        m_canvas.Clear();
+        label.OnDraw(m_canvas.Dc());
+        columns[margin / 7] = FirstColumn(pureRed);
+    }
+    ASSERT_GE(columns[0], 10);
+    EXPECT_EQ(columns[1], columns[0] + 7);
+}
+
 TEST_F(LabelEx, AMultiLineLabelBreaksItsTextAndCentresIt) {
     CMFCRibbonLabelEx label(L"IIIIII IIIIII IIIIII", TRUE);
     label.SetTextColor(RGB(255, 0, 0));

@@ -228,6 +228,21 @@ TEST_F(SliderSyncInput, AMoveWithoutAPressOnlyLightsThePart) {
     EXPECT_EQ(m_copy->GetPos(), 0);
 }
 
+TEST_F(SliderSyncInput, IsDrawnAnewWhenAnotherPartBecomesHotAndOnlyThen) {
+    const auto isDrawnAnew = [this](CPoint point) {
+        PumpPending();
+        m_host.Bar().ValidateRect(nullptr);
+        m_copy->OnMouseMove(point);
+        return ::GetUpdateRect(m_host.BarWindow(), nullptr, FALSE) != FALSE;
+    };
+    EXPECT_TRUE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Increase)));
+    EXPECT_FALSE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Increase) + CSize(1, 0)));
+    EXPECT_TRUE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Decrease)));
+    m_host.Frame().disabledCommand = id; // or the next update enables it again
+    m_copy->SetDisabled(TRUE);
+    EXPECT_FALSE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Increase)));
+}
+
 TEST_F(SliderSyncInput, AClickIntoTheChannelTakesThePositionThere) {
     m_pointer.Click(m_host.BarWindow(), m_copy->PointOf(33));
     ExpectAllAt(33);
