@@ -122,7 +122,9 @@ class Viewer:
         self.click(*self._middle(keyword))
 
     def hover_command(self, keyword):
-        x, y = self._middle(keyword)
+        self.hover(*self._middle(keyword))
+
+    def hover(self, x, y):
         # Two moves: the first one may only bring the pointer into the window.
         self._xdotool("mousemove", x - 2, y, "sleep", 0.1, "mousemove", x, y)
 

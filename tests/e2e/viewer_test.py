@@ -4,6 +4,7 @@
 usage: viewer_test.py BIN_DIR [TEST...]
 """
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -116,6 +117,57 @@ class LayerCombos(unittest.TestCase):
             self.assertEqual(len(positions), 2)
             self.assertEqual(positions[0], positions[1])
             self.assertGreater(positions[0], 0)
+
+    def ask_for_colour(self, viewer, *keys):
+        """Answers the system's dialog, whose field of the red part has the focus."""
+        viewer.open_menu("LayerColors")
+        viewer.key("shift+space")
+        viewer.wait_until(lambda: viewer.windows("Color"), "the dialog is shown")
+        viewer.key(*keys)
+        viewer.wait_until(lambda: not viewer.windows("Color"), "the dialog is gone")
+
+    def test_the_colour_chosen_in_the_systems_dialog_is_the_layers_and_a_cancelled_one_is_not(self):
+        with self.open() as viewer:
+            style = lambda record: record["map"]["layerStyles"][1]
+            before = style(viewer.record)["color"]
+            self.ask_for_colour(viewer, "1", "7", "Escape")
+            viewer.open_menu("LayerColors")
+            viewer.key("space", "Escape")
+            viewer.wait_for(lambda record: not style(record)["lit"])
+            self.assertEqual(style(viewer.record)["color"], before)
+            self.ask_for_colour(viewer, "2", "0", "0", "Return")
+            wanted = 200 << 16 | before & 0xFFFF
+            viewer.wait_for(lambda record: style(record)["color"] == wanted)
+            self.assertEqual(style(viewer.record)["lit"], False)
+
+    def test_the_place_under_the_pointer_is_shown_and_a_click_on_it_changes_its_form(self):
+        decimal = re.compile(r"(\d+)\.(\d{4})\u00b0 [NS]  (\d+)\.(\d{4})\u00b0 [WE]")
+        seconds = re.compile(r"(\d+)\u00b0 (\d\d)\u2032 (\d\d)\u2033 [NS]  (\d+)\u00b0 (\d\d)\u2032 (\d\d)\u2033 [WE]")
+        with self.open() as viewer:
+            def shown():
+                # What the pointer does is in the record that the next change writes.
+                lit = viewer.record["map"]["labelsLit"][0]
+                viewer.open_menu("LabelLights")
+                viewer.key("space", "Escape")
+                viewer.wait_for(lambda record: record["map"]["labelsLit"][0] != lit)
+                return next(element for element in viewer.elements() if element["class"] == "CMFCRibbonLabelEx")
+
+            viewer.hover(900, 450)
+            viewer.hover(700, 500)
+            label = shown()
+            first = decimal.fullmatch(label["text"])
+            self.assertTrue(first, label["text"])
+            left, top, right, bottom = label["rect"]
+            bar_left, bar_top = viewer.record["ribbonOnScreen"][:2]
+            viewer.click(bar_left + (left + right) // 2, bar_top + (top + bottom) // 2)
+            label = shown()
+            second = seconds.fullmatch(label["text"])
+            self.assertTrue(second, label["text"])
+            for whole, minute, second_part, degrees, fraction in (
+                    (*second.groups()[:3], *first.groups()[:2]), (*second.groups()[3:], *first.groups()[2:])):
+                self.assertAlmostEqual(int(whole) + int(minute) / 60 + int(second_part) / 3600,
+                                       float(f"{degrees}.{fraction}"), delta=1 / 3600)
+            self.assertEqual(label["rect"], [left, top, right, bottom], "the label is as wide as before")
 
 
 def height(record):

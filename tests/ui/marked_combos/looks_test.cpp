@@ -171,10 +171,10 @@ TEST_F(ComboLooks, AnItemWithoutARecordShowsTheOffImageOnFaceAndInRow) {
         Rows()->SetHotRow(-1);
         const ComboPicture list = List();
         const CRect row = Rows()->GetRowRect(1);
-        // Below a row's middle of its own: an even height has its middle between two lines.
         for (const auto& [picture, area] : {std::pair{&face, edit}, {&list, row}}) {
-            const int top = (&one.combo == &multi) ? static_cast<int>((area.top + area.bottom) / 2 - 6.5)
-                                                   : static_cast<int>(area.top + (area.Height() - 13) / 2);
+            const LONG middle = (area.top + area.bottom) / 2;
+            // The two kinds round in their own ways.
+            const LONG top = (&one.combo == &multi) ? middle - 7 : area.top + (area.Height() - 13) / 2;
             const ComboPicture wanted = off(6);
             for (int y = 0; y < 13; ++y) {
                 for (int x = 0; x < 13; ++x)
