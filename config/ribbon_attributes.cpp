@@ -19,15 +19,15 @@ constexpr std::wstring_view c_helpExtension = L".swf";
 /// One attribute on its way into the record.
 struct Attribute {
     const varnhold::XmlCursor& element;
-    std::size_t index;
-    std::size_t count;
-    std::string_view utf8;
+    const varnhold::XmlAttributeView& written;
+    bool isLast;
     RibbonTexts& info;
     const RibbonReading& reading;
     /// The keyword read so far, as it stands in the file: translations are looked up under it.
     std::string_view& keyword;
 
-    varnhold::TextPosition Position() const { return element.GetAttributePosition(index); }
+    varnhold::TextPosition Position() const { return element.GetAttributePosition(written); }
+    std::string_view Value() const { return written.value; }
     void Warn(std::string_view code, std::wstring text) const {
         if (reading.diagnostics.IsListening())
             reading.diagnostics.Warn(Position(), code, std::move(text));
@@ -39,12 +39,12 @@ using Taker = bool (*)(const Attribute& attribute);
 
 template <std::wstring_view RibbonTexts::*field>
 bool TakeText(const Attribute& attribute) {
-    attribute.info.*field = attribute.reading.arena.Widen(attribute.utf8);
+    attribute.info.*field = attribute.reading.arena.Widen(attribute.Value());
     return true;
 }
 
 bool TakeKeyword(const Attribute& attribute) {
-    attribute.keyword = attribute.utf8;
+    attribute.keyword = attribute.Value();
     return TakeText<&RibbonTexts::keyword>(attribute);
 }
 
@@ -73,11 +73,11 @@ bool ToNumber(std::string_view text, std::int32_t& number) {
 template <std::int32_t RibbonTexts::*field>
 bool TakeNumber(const Attribute& attribute) {
     std::int32_t number = 0;
-    if (!ToNumber(attribute.utf8, number)) {
+    if (!ToNumber(attribute.Value(), number)) {
         const FileDiagnostics& diagnostics = attribute.reading.diagnostics;
         if (diagnostics.IsListening())
             diagnostics.Fail(attribute.Position(), "not-a-number",
-                             L"\"" + string2wstring(attribute.utf8) +
+                             L"\"" + string2wstring(attribute.Value()) +
                                  L"\" is not a decimal number of 32 bits; the attributes after it are not read");
         return false;
     }
@@ -86,14 +86,14 @@ bool TakeNumber(const Attribute& attribute) {
 }
 
 bool TakeGroupBefore(const Attribute& attribute) {
-    attribute.info.groupBefore = EqualsIgnoringCase(attribute.utf8, "Y");
-    if (attribute.info.groupBefore && attribute.index + 1 < attribute.count)
+    attribute.info.groupBefore = EqualsIgnoringCase(attribute.Value(), "Y");
+    if (attribute.info.groupBefore && !attribute.isLast)
         attribute.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
     return true;
 }
 
 bool TakeCateTab(const Attribute& attribute) {
-    const std::string_view value = attribute.utf8;
+    const std::string_view value = attribute.Value();
     if (EqualsIgnoringCase(value, "Y"))
         attribute.info.cateTab = true;
     else if (EqualsIgnoringCase(value, "N"))
@@ -104,14 +104,14 @@ bool TakeCateTab(const Attribute& attribute) {
 }
 
 bool TakeAcceptF1(const Attribute& attribute) {
-    if (EqualsIgnoringCase(attribute.utf8, "N"))
+    if (EqualsIgnoringCase(attribute.Value(), "N"))
         attribute.info.acceptF1 = false;
     return true;
 }
 
 bool TakeValueGroup(const Attribute& attribute) {
     TextArena& arena = attribute.reading.arena;
-    std::string_view rest = attribute.utf8;
+    std::string_view rest = attribute.Value();
     const auto commas = static_cast<std::size_t>(std::count(rest.begin(), rest.end(), ','));
     const std::span<std::wstring_view> pieces = arena.MakeArray<std::wstring_view>(commas + 1);
     for (std::wstring_view& piece : pieces) {
@@ -202,7 +202,7 @@ bool ReadNewRibbonInfo(varnhold::XmlCursor& element, RibbonTexts& info, const Ri
         return false;
     std::string_view keyword;
     for (std::size_t i = 0; i < read.size(); ++i) {
-        const Attribute attribute{element, i, read.size(), read[i].value, info, reading, keyword};
+        const Attribute attribute{element, read[i], i + 1 == read.size(), info, reading, keyword};
         // Every attribute takes it back, so GROUPBEFORE counts only where it is the last one.
         info.groupBefore = false;
         if (const KnownAttribute* known = FindAttribute(read[i].name)) {

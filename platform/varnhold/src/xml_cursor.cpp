@@ -68,11 +68,8 @@ TextPosition XmlCursor::GetPosition() const {
     return m_element ? m_tree->GetPosition(pugi::xml_node(m_element)) : TextPosition();
 }
 
-TextPosition XmlCursor::GetAttributePosition(std::size_t index) const {
-    pugi::xml_attribute attribute = pugi::xml_node(m_element).first_attribute();
-    for (; attribute && index > 0; --index)
-        attribute = attribute.next_attribute();
-    return attribute ? m_tree->GetPosition(attribute) : TextPosition();
+TextPosition XmlCursor::GetAttributePosition(const XmlAttributeView& attribute) const {
+    return m_tree ? m_tree->GetPositionOfName(attribute.name.data()) : TextPosition();
 }
 
 } // namespace varnhold

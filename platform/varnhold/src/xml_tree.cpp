@@ -2,6 +2,7 @@
 
 #include "src/encoding.h"
 #include "src/unicode.h"
+#include "src/xml_references.h"
 
 #include <algorithm>
 #include <bit>
@@ -101,7 +102,7 @@ bool XmlTree::ParseText(BlankText blanks, XmlFailure& failure) {
         failure = {DescribeStatus(result.status), GetPosition(static_cast<std::size_t>(result.offset))};
         return false;
     }
-    return CheckTopLevel(failure) && CheckDepth(failure);
+    return CheckTopLevel(failure) && CheckDepth(failure) && CheckReferences(failure);
 }
 
 bool XmlTree::CheckTopLevel(XmlFailure& failure) {
@@ -149,6 +150,14 @@ bool XmlTree::CheckDepth(XmlFailure& failure) const {
             return true;
         node = node.next_sibling();
     }
+}
+
+bool XmlTree::CheckReferences(XmlFailure& failure) const {
+    const std::size_t reference = FindReferenceToNoCharacter(m_text);
+    if (reference == std::string_view::npos)
+        return true;
+    failure = {L"a character reference stands for no character", GetPosition(reference)};
+    return false;
 }
 
 void XmlTree::LayOut() const {
@@ -227,7 +236,11 @@ TextPosition XmlTree::GetPosition(const pugi::xml_node& element) const {
 }
 
 TextPosition XmlTree::GetPosition(const pugi::xml_attribute& attribute) const {
-    return GetPosition(static_cast<std::size_t>(attribute.name() - m_buffer.get()));
+    return GetPositionOfName(attribute.name());
+}
+
+TextPosition XmlTree::GetPositionOfName(const char* name) const {
+    return GetPosition(static_cast<std::size_t>(name - m_buffer.get()));
 }
 
 std::wstring FormatProblem(const std::wstring& file, TextPosition position, const std::wstring& text) {

@@ -54,6 +54,8 @@ public:
     /// Where the element's "<" stands, or the first letter of the attribute's name.
     TextPosition GetPosition(const pugi::xml_node& element) const;
     TextPosition GetPosition(const pugi::xml_attribute& attribute) const;
+    /// The same for an attribute's name that the parser left in this document.
+    TextPosition GetPositionOfName(const char* name) const;
 
 private:
     XmlTree() = default;
@@ -61,6 +63,7 @@ private:
     bool ParseText(BlankText blanks, XmlFailure& failure);
     bool CheckTopLevel(XmlFailure& failure);
     bool CheckDepth(XmlFailure& failure) const;
+    bool CheckReferences(XmlFailure& failure) const;
     void LayOutElements() const;
     void IndexLines() const;
     TextPosition GetPosition(std::size_t offset) const;

@@ -154,6 +154,23 @@ TEST_F(RibbonElementAttributes, NameBeforeKeywordTranslatesTheEmptyKeyword) {
     EXPECT_NE(info.name, L"written");
 }
 
+TEST_F(RibbonElementAttributes, TooltipBeforeKeywordTranslatesTheEmptyKeyword) {
+    const RibbonInfo info = InfoOf(R"(TOOLTIP="written" KEYWORD="A")");
+    EXPECT_EQ(info.keyword, L"A");
+    EXPECT_EQ(info.tooltip, CMultiLanguageMgr::translationW("", 0, "RibbonBarCfg"));
+    EXPECT_NE(info.tooltip, L"tip of <A>");
+    EXPECT_NE(info.tooltip, L"written");
+}
+
+TEST_F(RibbonElementAttributes, KeywordOfTheElementReadBeforeIsNotTranslated) {
+    RibbonInfo before = FilledRecord();
+    before.keyword = L"B";
+    const RibbonInfo info = ReadAttributes(R"(NAME="" TOOLTIP="" KEYWORD="A")", before).info;
+    EXPECT_EQ(info.keyword, L"A");
+    EXPECT_EQ(info.name, CMultiLanguageMgr::translationW("", -1, "RibbonBarCfg"));
+    EXPECT_EQ(info.tooltip, CMultiLanguageMgr::translationW("", 0, "RibbonBarCfg"));
+}
+
 TEST_F(RibbonElementAttributes, NameBetweenTwoKeywordsTranslatesTheFirst) {
     EXPECT_EQ(InfoOf(R"(KEYWORD="A" NAME="" IDKEY="B")").name, L"<A>");
 }

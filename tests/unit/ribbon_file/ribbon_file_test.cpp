@@ -1,4 +1,5 @@
 #include "config/ribbon_file.h"
+#include "tests/support/growth.h"
 #include "tests/support/translation_tables.h"
 
 #include <varnhold/xml.h>
@@ -93,6 +94,26 @@ TEST(RibbonFileWalk, RowWithoutAttributesHoldsCategories) {
     EXPECT_EQ(Outline("<d><r><c KEYWORD='a'><p KEYWORD='b'/></c></r></d>"), L"1: 2:a 3:b ");
 }
 
+TEST(RibbonFileWalk, IdKeyOfARowNamesItsKind) {
+    EXPECT_EQ(Outline("<d><r IDKEY='StatusEx_btns'><i KEYWORD='a'><p KEYWORD='no'/></i></r>"
+                      "<r idkey='QK_Rbbion_QAToolbar'><i KEYWORD='b'><p KEYWORD='no'/></i></r></d>"),
+              L"1:StatusEx_btns 2:a 1:QK_Rbbion_QAToolbar 2:b ");
+}
+
+TEST(RibbonFileWalk, RowIsReadLikeAnyElement) {
+    // After a number that is none nothing is read, so that the row has no keyword and holds categories.
+    EXPECT_EQ(Outline("<d><r SIZE='x' KEYWORD='StatusEx_btns'><c KEYWORD='a'><p KEYWORD='b'/></c></r></d>"),
+              L"1: 2:a 3:b ");
+    EXPECT_EQ(Outline("<d><r SIZE='1' KEYWORD='StatusEx_btns' WIDTH='x'><c KEYWORD='a'><p KEYWORD='b'/></c></r></d>"),
+              L"1:StatusEx_btns 2:a ");
+    const auto rows = ReadRows("<d><r KEYWORD='r' TYPE='t' CMD='c' SIZE='7' help='h'/></d>");
+    const RibbonTexts& row = Below(rows, {0}).info;
+    EXPECT_EQ(row.type, L"t");
+    EXPECT_EQ(row.cmd, L"c");
+    EXPECT_EQ(row.size, 7);
+    EXPECT_EQ(row.help, L"h");
+}
+
 TEST(RibbonFileWalk, ElementsThatCannotBeReadKeepTheirPlace) {
     EXPECT_EQ(Outline("<d><r KEYWORD='1'><c/><c SIZE='x' KEYWORD='no'><p KEYWORD='p'/></c></r></d>"),
               L"1:1 2: 2: 3:p ");
@@ -164,6 +185,16 @@ public:
     Diagnostic m_last;
 };
 
+class CountingSink : public DiagnosticsSink {
+public:
+    void Report(const Diagnostic& diagnostic) override {
+        ++m_count;
+        m_lastColumn = diagnostic.position.column;
+    }
+    std::size_t m_count = 0;
+    std::size_t m_lastColumn = 0;
+};
+
 struct DiagnosticCase {
     const char* xml;
     const char* expected;
@@ -192,6 +223,28 @@ TEST(RibbonFileDiagnostics, EveryProblemIsReportedWithItsPlace) {
         ReadRows(diagnosticCase.xml, sink);
         EXPECT_EQ(sink.m_seen, diagnosticCase.expected) << diagnosticCase.xml;
     }
+}
+
+TEST(RibbonFileDiagnostics, ManyUnknownAttributesOfOneElementAreReportedInLinearTime) {
+    const auto measure = [](std::size_t count) {
+        std::string xml = "<d><r KEYWORD='r'";
+        for (std::size_t i = 0; i < count; ++i)
+            xml += " x=''";
+        xml += "/></d>";
+        CXmlDocumentWrapper document;
+        EXPECT_TRUE(document.LoadFromMemory(xml));
+        CountingSink sink;
+        const double seconds =
+            MeasureSeconds([&] { ReadRibbonRows(varnhold::XmlCursor(document), FileDiagnostics(L"f.xml", sink)); });
+        EXPECT_EQ(sink.m_count, count);
+        EXPECT_EQ(sink.m_lastColumn, 18 + 5 * (count - 1) + 1);
+        return seconds;
+    };
+    constexpr std::size_t few = 10000;
+    // 4 where time is linear, 16 where it is quadratic.
+    const double growth = MeasureGrowth(
+        4, [&] { return measure(few); }, [&] { return measure(4 * few); });
+    EXPECT_LT(growth, 9.0);
 }
 
 TEST(RibbonFileDiagnostics, ReportNamesTheFile) {

@@ -6,6 +6,7 @@
 
 namespace {
 
+using varnhold::XmlAttributeView;
 using varnhold::XmlCursor;
 
 CXmlDocumentWrapper Loaded(const std::string& xml) {
@@ -46,7 +47,7 @@ TEST(XmlCursor, OverNothingHasNothing) {
         EXPECT_TRUE(cursor.ReadAttributes().empty());
         EXPECT_EQ(cursor.GetName(), L"");
         EXPECT_EQ(cursor.GetPosition().line, 0u);
-        EXPECT_EQ(cursor.GetAttributePosition(0).line, 0u);
+        EXPECT_EQ(cursor.GetAttributePosition({}).line, 0u);
     }
 }
 
@@ -79,11 +80,20 @@ TEST(XmlCursor, AttributesAreThoseOfTheNode) {
     for (std::size_t i = 0; i < attributes.size(); ++i) {
         EXPECT_EQ(attributes[i].name, node.GetAttributeNameUtf8(i));
         EXPECT_EQ(attributes[i].value, node.GetAttributeValueUtf8(i));
-        EXPECT_EQ(cursor.GetAttributePosition(i).line, node.GetAttributePosition(i).line);
-        EXPECT_EQ(cursor.GetAttributePosition(i).column, node.GetAttributePosition(i).column);
+        EXPECT_EQ(cursor.GetAttributePosition(attributes[i]).line, node.GetAttributePosition(i).line);
+        EXPECT_EQ(cursor.GetAttributePosition(attributes[i]).column, node.GetAttributePosition(i).column);
     }
-    EXPECT_EQ(cursor.GetAttributePosition(3).line, 2u);
-    EXPECT_EQ(cursor.GetAttributePosition(4).line, 0u);
+    EXPECT_EQ(cursor.GetAttributePosition(attributes[3]).line, 2u);
+}
+
+TEST(XmlCursor, AttributesKeepTheirPlaceAfterTheCursorMoved) {
+    XmlCursor cursor(Loaded("<d><a k='v'\n  l=''/><b/></d>"));
+    ASSERT_TRUE(cursor.ToFirstChild());
+    const XmlAttributeView second = cursor.ReadAttributes()[1];
+    ASSERT_TRUE(cursor.ToNextSibling());
+    EXPECT_TRUE(cursor.ReadAttributes().empty());
+    EXPECT_EQ(cursor.GetAttributePosition(second).line, 2u);
+    EXPECT_EQ(cursor.GetAttributePosition(second).column, 3u);
 }
 
 } // namespace

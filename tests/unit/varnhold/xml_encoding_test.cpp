@@ -63,6 +63,16 @@ TEST(XmlEncoding, Utf16IsKnownWithoutAMark) {
     EXPECT_EQ(Read(Utf16(text, true)), c_map);
 }
 
+TEST(XmlEncoding, DeclaredByteOrdersOfUtf16AreKnown) {
+    const std::u16string little = u"<?xml version='1.0' encoding='utf-16le'?><r n='\u5730\u56FE'/>";
+    const std::u16string big = u"<?xml version='1.0' encoding='utf-16be'?><r n='\u5730\u56FE'/>";
+    EXPECT_EQ(Read(Utf16(little, false)), c_map);
+    EXPECT_EQ(Read(Utf16(big, true)), c_map);
+    // The bytes tell the truth, whatever the declaration says.
+    EXPECT_EQ(Read(Utf16(big, false)), c_map);
+    EXPECT_EQ(Read(Utf16(little, true)), c_map);
+}
+
 TEST(XmlEncoding, Utf16ReachesBeyondTheBasicPlane) {
     EXPECT_EQ(Read("\xFF\xFE" + Utf16(u"<r n='\U0001F600'/>", false)), L"\U0001F600");
     EXPECT_EQ(Read("\xFE\xFF" + Utf16(u"<r n='\U0001F600'/>", true)), L"\U0001F600");
@@ -82,12 +92,15 @@ TEST(XmlEncoding, AHalfUnitAtTheEndOfUtf16IsNotSwallowed) {
 }
 
 TEST(XmlEncoding, TheDeclaredEncodingIsHonoured) {
-    for (const char* name : {"GBK", "gbk", "GB2312", "gb2312", "GB18030", "cp936"})
+    for (const char* name : {"GBK", "gbk", "GB2312", "gb2312", "gb_2312-80", "GB_2312-80", "EUC-CN", "euc-cn",
+                             "GB18030", "cp936", "MS936", "ms936", "windows-936"})
         EXPECT_EQ(Read(Declared(name, "\xB5\xD8\xCD\xBC")), c_map) << name;
-    EXPECT_EQ(Read(Declared("utf-8", "\xE5\x9C\xB0\xE5\x9B\xBE")), c_map);
-    EXPECT_EQ(Read(Declared("ISO-8859-1", "\xE4\xFF\x80")), L"\xE4\xFF\x80");
-    EXPECT_EQ(Read(Declared("latin1", "\xE4")), L"\xE4");
-    EXPECT_EQ(Read(Declared("US-ASCII", "a\xE4")), L"a\xFFFD");
+    for (const char* name : {"utf-8", "utf8", "UTF8"})
+        EXPECT_EQ(Read(Declared(name, "\xE5\x9C\xB0\xE5\x9B\xBE")), c_map) << name;
+    for (const char* name : {"ISO-8859-1", "iso_8859-1", "ISO_8859-1", "latin1", "l1", "L1"})
+        EXPECT_EQ(Read(Declared(name, "\xE4\xFF\x80")), L"\xE4\xFF\x80") << name;
+    for (const char* name : {"US-ASCII", "ascii"})
+        EXPECT_EQ(Read(Declared(name, "a\xE4")), L"a\xFFFD") << name;
 }
 
 TEST(XmlEncoding, TheDeclarationMayBeWrittenInAnyOfItsForms) {
@@ -102,7 +115,9 @@ TEST(XmlEncoding, AnUnknownEncodingIsAnErrorThatNamesIt) {
 }
 
 TEST(XmlEncoding, ADeclarationThatCannotBeTrueIsAnError) {
-    EXPECT_EQ(Read(Declared("UTF-16", "x")), L"<the declaration says UTF-16, but the bytes are not UTF-16>");
+    for (const char* name : {"UTF-16", "utf16", "utf-16le", "UTF-16LE", "utf-16be"})
+        EXPECT_EQ(Read(Declared(name, "x")),
+                  L"<the declaration says " + string2wstring(name) + L", but the bytes are not UTF-16>");
     EXPECT_EQ(Read("\xFF\xFE\0\0<\0\0\0"s), L"<the encoding UTF-32 is not supported>");
     EXPECT_EQ(Read("\0\0\xFE\xFF\0\0\0<"s), L"<the encoding UTF-32 is not supported>");
 }

@@ -199,16 +199,84 @@ TEST(XmlHostile, DeepDocumentTypesDoNotOverflowTheStack) {
     EXPECT_EQ(Reason(text), "the document type definition is malformed or not closed");
 }
 
-TEST(XmlHostile, OddCharacterReferencesDoNotBreakTheText) {
+TEST(XmlHostile, CharacterReferencesReachTheLastCharacter) {
     CXmlDocumentWrapper document;
-    ASSERT_TRUE(
-        document.LoadFromMemory("<r a='x&#xD800;y' b='&#99999999999999999999;' c='&#x110000;z' d='&#;&#x;&;'/>"));
+    ASSERT_TRUE(document.LoadFromMemory("<r a='&#65;&#x41;&#0065;' b='&#xD7FF;&#xe000;' c='&#1114111;&#x0010FFFF;'/>"));
     const CXmlNodeWrapper root = document.GetDocumentElement();
-    EXPECT_EQ(root.GetAttributeValue(0).front(), L'x');
-    EXPECT_EQ(root.GetAttributeValue(0).back(), L'y');
-    EXPECT_EQ(root.GetAttributeValue(0).find(static_cast<wchar_t>(0xD800)), std::wstring::npos);
-    EXPECT_EQ(root.GetAttributeValue(2).back(), L'z');
-    EXPECT_EQ(root.GetAttributeValue(3), L"&#;&#x;&;");
+    EXPECT_EQ(root.GetAttributeValue(0), L"AAA");
+    EXPECT_EQ(root.GetAttributeValue(1), L"\xD7FF\xE000");
+    EXPECT_EQ(root.GetAttributeValue(2), L"\U0010FFFF\U0010FFFF");
+}
+
+TEST(XmlHostile, WhatIsNoWholeCharacterReferenceStaysAsWritten) {
+    for (const std::string text :
+         {"&#;", "&#x;", "&;", "&#0", "&#x0", "&#0 ;", "&#0x0;", "&#X0;", "&# 0;", "&#-1;", "&amp#0;"}) {
+        CXmlDocumentWrapper document;
+        ASSERT_TRUE(document.LoadFromMemory("<r a='" + text + "'/>")) << text;
+        EXPECT_EQ(document.GetDocumentElement().GetAttributeValue(0), string2wstring(text));
+    }
+}
+
+const char* const referencesToNoCharacter[] = {
+    "&#0;",
+    "&#x0;",
+    "&#000;",
+    "&#xD800;",
+    "&#xdfff;",
+    "&#55296;",
+    "&#57343;",
+    "&#x110000;",
+    "&#1114112;",
+    "&#4294967361;",
+    "&#x100000041;",
+    "&#99999999999999999999999;",
+    "&#x10000000000000041;",
+    "&#18446744073709551681;",
+};
+
+TEST(XmlHostile, ReferencesToNoCharacterAreRefusedWithTheirPlace) {
+    for (const std::string reference : referencesToNoCharacter) {
+        const std::string documents[] = {
+            "<r b='>'>\n <a \xC3\xA4='" + reference + "'/></r>",
+            "<r b='>'>\n <!----> " + reference + "</r>",
+            "<r b=\"'&lt;\">\n<c t='&#1'>" + reference + "</c></r>",
+            "<r>\n<!--'-->\t" + reference + "</r>",
+            "<!DOCTYPE r [<!ENTITY a '<'><!-- > -->]><r>\n\t\t\t\t <a/>" + reference + reference + "</r>",
+        };
+        const std::size_t columns[] = {8, 10, 12, 10, 10};
+        for (std::size_t i = 0; i < std::size(documents); ++i) {
+            CXmlDocumentWrapper document;
+            EXPECT_FALSE(document.LoadFromMemory(documents[i])) << documents[i];
+            EXPECT_EQ(document.GetErrorReason(), L"a character reference stands for no character") << documents[i];
+            EXPECT_EQ(document.GetErrorLine(), 2u) << documents[i];
+            EXPECT_EQ(document.GetErrorColumn(), columns[i]) << documents[i];
+        }
+    }
+}
+
+TEST(XmlHostile, MarkupInAValueHidesNoReference) {
+    for (const char* text : {"<r a='<!-- &#0; -->'/>", "<r a='<![CDATA[ &#0; ]]>'/>", "<r a='<?x &#0; ?>'/>",
+                             "<r a='<!--' b='&#0;' c='-->'/>", "<r a=\"'\" b='&#0;'/>", "<r a='/>'>&#0;</r>"})
+        EXPECT_EQ(Reason(text), "a character reference stands for no character") << text;
+}
+
+TEST(XmlHostile, WhatIsNotReplacedMayLookLikeAReferenceToNoCharacter) {
+    for (const char* text :
+         {"<r><!-- &#0; --></r>", "<!-- &#0; --><r/>", "<r><![CDATA[&#0;<a b='>]]></r>", "<?x &#0;?><r/>",
+          "<r><?x ' &#0;?></r>", "<!DOCTYPE r [<!ENTITY a '&#0;'><!ENTITY b \">&#0;\"><!-- '>&#0; -->]><r/>",
+          "<r a='&#1'>&#x<!--&#0;--></r>", "<?x?><!DOCTYPE r SYSTEM '>&#0;'><r><!--'--><?y \"?></r><!--&#0;-->"})
+        EXPECT_EQ(Reason(text), "loaded") << text;
+}
+
+TEST(XmlHostile, HiddenReferencesAreFoundInLinearTime) {
+    const double growth = GrowthForFourTimes(20000, [](std::size_t count) {
+        std::string text = "<r>";
+        for (std::size_t i = 0; i < count; ++i)
+            text += "<!--&#0;--><a b='&#65;'/>";
+        text += "</r>";
+        return MeasureSeconds([&] { EXPECT_EQ(Reason(text), "loaded"); });
+    });
+    EXPECT_LT(growth, 9.0);
 }
 
 #ifdef _WIN32

@@ -55,8 +55,7 @@ public:
     std::wstring GetAttributeName(std::size_t index) const;
     std::wstring GetAttributeValue(std::size_t index) const;
 
-    /// The same as UTF-8, without a copy: the view is good for as long as any node of the document lives. A character
-    /// reference to no character (a surrogate, say) leaves broken UTF-8 in it.
+    /// The same as UTF-8, without a copy: the view is good for as long as any node of the document lives.
     std::string_view GetAttributeNameUtf8(std::size_t index) const noexcept;
     std::string_view GetAttributeValueUtf8(std::size_t index) const noexcept;
     varnhold::XmlAttributeView GetAttributeUtf8(std::size_t index) const noexcept;
@@ -81,8 +80,9 @@ private:
 /// GB18030. Broken sequences become U+FFFD; an unknown encoding is an error.
 ///
 /// Refused, with an error: tags, attributes, comments, sections or instructions that are malformed, not closed or
-/// crossed, a NUL character, more or less than one document element, text beside it, elements nested deeper than
-/// c_maxDepth, sources longer than c_maxSize bytes, anything but a plain file.
+/// crossed, a NUL character, a character reference that stands for none (0, a surrogate, above 10FFFF), more or less
+/// than one document element, text beside it, elements nested deeper than c_maxDepth, sources longer than c_maxSize
+/// bytes, anything but a plain file.
 ///
 /// A document type definition is skipped and nothing outside the file is ever read: only the five predefined entities
 /// and character references are replaced, any other reference stays in the text as it was written.
@@ -157,7 +157,8 @@ public:
     std::span<const XmlAttributeView> ReadAttributes();
 
     TextPosition GetPosition() const;
-    TextPosition GetAttributePosition(std::size_t index) const;
+    /// Where the name stands of an attribute that ReadAttributes has listed, at this element or at an earlier one.
+    TextPosition GetAttributePosition(const XmlAttributeView& attribute) const;
 
 private:
     bool MoveTo(pugi::xml_node_struct* element) noexcept;
