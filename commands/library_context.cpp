@@ -6,6 +6,7 @@
 #include <afxglobals.h>
 #include <varnhold/file_op.h>
 #include <varnhold/key.h>
+#include <varnhold/strings_mfc.h>
 
 std::vector<CBitmap*> g_layCtrlBmp;
 
@@ -42,17 +43,17 @@ std::wstring RecordedMediaFolder() {
 
 CString GetIconPathStr(const std::wstring& path, int size) {
     static const std::wstring directory = InstallationDirectory();
-    return IconFileBelow(directory, path, size).c_str();
+    return wstring2CString(IconFileBelow(directory, path, size));
 }
 
 CString GetHelpFileName(int id, const CString&) {
     std::wstring helpFile;
     CMenuIdMgr::Ins()->GetHelpFile(id, helpFile);
-    return helpFile.c_str();
+    return wstring2CString(helpFile);
 }
 
 bool GetHaveMedias_Brevant(CString& folder) {
     static const std::wstring known = RecordedMediaFolder();
-    folder = known.c_str();
+    folder = wstring2CString(known);
     return !known.empty();
 }

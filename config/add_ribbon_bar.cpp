@@ -13,6 +13,7 @@
 #include <afxribbonbar.h>
 #include <afxribbonbuttonsgroup.h>
 #include <varnhold/file_op.h>
+#include <varnhold/strings_mfc.h>
 
 CString CAddRibbonBar::m_sAppPath;
 CString CAddRibbonBar::m_strHelpF1 = L"按F1键获得此功能视频";
@@ -29,7 +30,7 @@ FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics());
 CAddRibbonBar::CAddRibbonBar() {
     std::wstring directory;
     if (m_sAppPath.IsEmpty() && FileOp::GetAppPath(directory))
-        m_sAppPath = directory.c_str();
+        m_sAppPath = wstring2CString(directory);
 }
 
 bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show) {

@@ -228,6 +228,20 @@ TEST_F(CommandRegistry, HelpFileOnceSetIsNeverReplaced) {
     EXPECT_EQ(help, L"A");
 }
 
+TEST_F(CommandRegistry, EmptyHelpFileLeavesTheIdOpenForALaterOne) {
+    AddNamed(L"K", 41000);
+    Registry().SetHelpFile(41000, L"");
+    std::wstring help = L"before";
+    EXPECT_FALSE(Registry().GetHelpFile(41000, help));
+    EXPECT_EQ(help, L"before");
+    Registry().SetHelpFile(41000, L"A");
+    EXPECT_TRUE(Registry().GetHelpFile(41000, help));
+    EXPECT_EQ(help, L"A");
+    Registry().SetHelpFile(41000, L"");
+    EXPECT_TRUE(Registry().GetHelpFile(41000, help));
+    EXPECT_EQ(help, L"A");
+}
+
 TEST_F(CommandRegistry, HelpFileGivenAtRegistrationIsNotReplaced) {
     Registry().Add(L"K", 41000, L"", L"", L"", L"", L"given");
     Registry().SetHelpFile(41000, L"later");
