@@ -22,7 +22,11 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
     };
     const std::map<std::wstring, Setter> setters = {
         {L"--lang", text(options.language)},
-        {L"--skin", text(options.skin)},
+        {L"--skin",
+         [&](const std::wstring& v) {
+             options.skin = v;
+             return v == L"black" || v == L"silver";
+         }},
         {L"--screenshot", text(options.screenshot)},
         {L"--record", text(options.record)},
         {L"--direction",

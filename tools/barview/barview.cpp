@@ -35,9 +35,11 @@ public:
         return Create(nullptr, m_options.directory.c_str(), style, rect);
     }
 
-    /// Builds the bars; false when a file could not be loaded.
+    /// Builds the bars; false when a file could not be loaded, or when what was asked for is not there.
     bool Build() {
-        bool isComplete = true;
+        bool isComplete = !m_options.ribbonFiles.empty();
+        if (!isComplete)
+            Complain(L"no ribbon file: " + m_options.directory + L"cfg\\ribbon*.xml");
         for (const std::wstring& file : m_options.ribbonFiles) {
             CAddRibbonBar builder;
             if (!builder.Load(file, &m_ribbon, TRUE)) {
@@ -46,7 +48,7 @@ public:
             }
             m_commands.push_back(builder.m_cmdList);
         }
-        ShowCategory();
+        isComplete = ShowCategory() && isComplete;
         m_ribbon.ForceRecalcLayout();
         return isComplete;
     }
@@ -65,16 +67,19 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void ShowCategory() {
+    /// False when there is no category of the name that was asked for.
+    bool ShowCategory() {
         for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
             CMFCRibbonCategory* const category = m_ribbon.GetCategory(i);
             if (m_options.category.empty() ? i == 0 : m_options.category == category->GetName()) {
                 m_ribbon.SetActiveCategory(category);
-                return;
+                return true;
             }
         }
-        if (!m_options.category.empty())
-            Complain(L"no category named " + m_options.category);
+        if (m_options.category.empty())
+            return true;
+        Complain(L"no category named " + m_options.category);
+        return false;
     }
 
     const BarviewOptions& m_options;
@@ -141,8 +146,10 @@ private:
     void Prepare() {
         FileOp::SetAppPath(m_options.directory);
         CMultiLanguageMgr::SetProblemSink([](const std::wstring& problem) { Complain(problem); });
-        if (!m_options.language.empty() && !CMultiLanguageMgr::SetLanguage(m_options.language))
+        if (!m_options.language.empty() && !CMultiLanguageMgr::SetLanguage(m_options.language)) {
             Complain(L"no usable language " + m_options.language);
+            m_exitCode = kLoadFailed;
+        }
         if (m_options.scalePercent > 0)
             afxGlobalData.SetRibbonImageScale(m_options.scalePercent / 100.0);
         CMFCVisualManagerOffice2007::SetStyle(m_options.skin == L"black"

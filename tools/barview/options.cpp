@@ -2,6 +2,8 @@
 
 #include "command_line.h"
 
+#include <windows.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <functional>
@@ -11,16 +13,25 @@ namespace {
 
 constexpr int kLargest = 16384;
 
-/// cfg\ribbon*.xml of the directory in name order, as paths relative to it.
+/// As the file system folds it, so that names that differ by case alone are one.
+std::wstring Folded(std::wstring name) {
+    ::CharUpperBuffW(name.data(), static_cast<DWORD>(name.size()));
+    return name;
+}
+
+/// cfg\ribbon*.xml of the directory in name order, as paths relative to it. Letter case says nothing, as in the file
+/// system.
 std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
     std::vector<std::wstring> files;
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(directory) / L"cfg", error)) {
         const std::wstring name = entry.path().filename().wstring();
-        if (entry.is_regular_file(error) && name.starts_with(L"ribbon") && name.ends_with(L".xml"))
+        const std::wstring folded = Folded(name);
+        if (entry.is_regular_file(error) && folded.starts_with(L"RIBBON") && folded.ends_with(L".XML"))
             files.push_back(L"cfg\\" + name);
     }
-    std::sort(files.begin(), files.end());
+    std::sort(files.begin(), files.end(),
+              [](const std::wstring& left, const std::wstring& right) { return Folded(left) < Folded(right); });
     return files;
 }
 
@@ -32,7 +43,9 @@ const wchar_t* BarviewUsage() {
            L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon it "
            L"takes\n"
            L"cfg\\ribbon*.xml in name order. With --screenshot or --dump it leaves when they are written.\n"
-           L"Exit code: 0, 1 when a file could not be loaded or written, 2 on wrong usage.\n";
+           L"Exit code: 0, 1 when a file could not be loaded or written, when there is no ribbon file, or no category "
+           L"of\n"
+           L"that name, 2 on wrong usage.\n";
 }
 
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {

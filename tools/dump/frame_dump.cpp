@@ -11,6 +11,7 @@
 
 #include "varnhold/strings.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -25,18 +26,20 @@ std::string Utf8(const CString& text) { return wstring2String(std::wstring_view(
 std::string ClassName(const CObject& object) { return object.GetRuntimeClass()->m_lpszClassName; }
 
 ordered_json DumpRegistry() {
-    constexpr int kFirstId = 41000;
+    // The ids that a window message can carry, whoever took them, and whatever the counter reached beyond.
+    constexpr int kIdsOfMessages = 0x10000;
+    const int end = std::max(kIdsOfMessages, static_cast<int>(CMenuIdMgr::s_AddBeginID));
     const CMenuIdMgr* const registry = CMenuIdMgr::Ins();
     ordered_json entries = ordered_json::array();
-    for (int id = kFirstId; id < static_cast<int>(CMenuIdMgr::s_AddBeginID); ++id) {
+    for (int id = 0; id < end; ++id) {
         std::wstring keyword;
+        if (!registry->GetMenuMark(id, keyword))
+            continue;
         std::wstring name;
         std::wstring tooltip;
         std::wstring command;
         std::wstring parameter;
         std::wstring help;
-        if (!registry->GetMenuMark(id, keyword))
-            continue;
         registry->GetMenuName(keyword, name);
         registry->GetToolTip(id, tooltip);
         registry->GetCmd(id, command);

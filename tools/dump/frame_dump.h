@@ -14,7 +14,8 @@ struct DumpSources {
     std::wstring application;                        ///< The application whose status extras are shown.
 };
 
-/// The bars as JSON: what was built, by whom it is known, where it lies. Rectangles are [left, top, right, bottom] in
+/// The bars as JSON: what was built, by whom it is known, where it lies. Of the registry, the commands whose ids fit
+/// into 16 bits or lie below the next free one; none that are negative. Rectangles are [left, top, right, bottom] in
 /// client pixels of the bar. The keys keep the order that readers of the format rely on.
 nlohmann::ordered_json DumpFrame(const DumpSources& sources);
 

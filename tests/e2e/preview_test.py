@@ -1,0 +1,229 @@
+#!/usr/bin/python3
+"""barview and the demo's picture with a configuration of the tests' own: two ribbon files, one language.
+
+usage: preview_test.py BIN_DIR [TEST...]
+"""
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+from viewer import ROOT
+
+BIN_DIR = ""
+F1_HINT = "按F1键获得此功能视频"
+
+# Named so that the order differs when letter case counts.
+FIRST_FILE = r"cfg\ribbon-a.xml"
+SECOND_FILE = r"cfg\Ribbon-B.XML"
+
+FILES = {
+    "cfg/ribbon-a.xml": """<ribbon>
+  <row KEYWORD="main">
+    <category KEYWORD="Map" NAME="">
+      <panel KEYWORD="View" NAME="">
+        <element KEYWORD="Large" NAME="" TOOLTIP="" TYPE="BUTTON" PICPATH="pic\\a.ico" CMD="do" PARAM="1"/>
+        <element KEYWORD="Small" NAME="" TYPE="BUTTON" SIZE="16" AcceptF1="N" GROUPBEFORE="Y"/>
+      </panel>
+    </category>
+  </row>
+</ribbon>
+""",
+    "cfg/Ribbon-B.XML": """<ribbon>
+  <row KEYWORD="QK_Rbbion_QAToolbar"><item KEYWORD="Small"/></row>
+  <row KEYWORD="StatusEx_btns">
+    <item KEYWORD="Every" NAME="" TYPE="BUTTON" TOOLTIP="" PICPATH="pic\\e.ico" PICDisPATH="pic\\d.ico" SIZE="16"
+          VALUEGROUP="a,,地" WIDTH="-50" CMD="run &lt;it&gt;" PARAM="7" help="own.swf" CateTab="Y" AcceptF1="N" GROUPBEFORE="Y"/>
+    <item KEYWORD="Unknown" NAME="" TOOLTIP=""/>
+  </row>
+  <row KEYWORD="more">
+    <category KEYWORD="Plain" NAME="" CateTab="Y">
+      <panel KEYWORD="View" NAME=""><element KEYWORD="Large" NAME="" TYPE="BUTTON"/></panel>
+    </category>
+  </row>
+</ribbon>
+""",
+    "cfg/other.xml": "<ribbon><row><category KEYWORD='Other' NAME=''/></row></ribbon>",
+    "cfg/ribbon.txt": "<ribbon><row><category KEYWORD='Other' NAME=''/></row></ribbon>",
+    "lang/en/table.xlf": """<xliff xmlns="urn:oasis:names:tc:xliff:document:2.0" version="2.0" srcLang="en"><file id="RibbonBarCfg">
+""" + "".join(f'<unit id="u{i}" name="{key}"><segment><source>{text}</source></segment></unit>\n' for i, (key, text) in enumerate({
+        "Map": "The map", "View": "Sight", "Large": "Enlarge", "Large.tooltip": "Makes it larger", "Small": "Reduce",
+        "Plain": "No command", "Every": "Everything", "Every.tooltip": "Has it all"}.items())) + "</file></xliff>\n",
+    "lang/bad/table.xlf": "<xliff>",
+}
+
+
+def make_installation(folder):
+    for name, text in FILES.items():
+        path = os.path.join(folder, name)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(text)
+
+
+def run(program, *arguments, display=None):
+    environment = dict(os.environ)
+    words = [os.path.join(ROOT, "scripts", "wine-run")]
+    if display:
+        # A display and a prefix of its own, as the demo's clicks have them.
+        environment.pop("DISPLAY", None)
+        environment["BARWRIGHT_WINEPREFIX"] = os.path.join(ROOT, "build", "wine-e2e")
+    else:
+        words.append("--null")
+    return subprocess.run([*words, os.path.join(BIN_DIR, program), *arguments], capture_output=True, text=True, env=environment)
+
+
+def picture_facts(path):
+    """Width, height, number of colours, mean brightness from 0 to 1."""
+    result = subprocess.run(["identify", "-format", "%m %w %h %k %[fx:mean]", path], capture_output=True, text=True, check=True)
+    kind, width, height, colours, mean = result.stdout.split()
+    assert kind == "PNG", kind
+    return int(width), int(height), int(colours), float(mean)
+
+
+class OwnInstallation(unittest.TestCase):
+    maxDiff = None
+
+    def setUp(self):
+        self._folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self._folder.cleanup)
+        self.folder = self._folder.name
+        make_installation(self.folder)
+        self.dump_file = os.path.join(self.folder, "dump.json")
+
+    def preview(self, *arguments):
+        result = run("barview.exe", self.folder, *arguments, "--dump", self.dump_file)
+        with open(self.dump_file, encoding="utf-8") as file:
+            return result, json.load(file)
+
+    def dump(self, *arguments):
+        result, got = self.preview("--lang", "en", *arguments)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(result.stderr, "")
+        return got
+
+
+def button(kind, identity, text, tooltip="", description="", large=False):
+    return {"class": kind, "id": identity, "text": text, "tooltip": tooltip, "description": description, "visible": True,
+            "enabled": True, "large": large}
+
+
+def without_places(value):
+    if isinstance(value, dict):
+        return {key: without_places(part) for key, part in value.items() if key != "rect"}
+    return [without_places(part) for part in value] if isinstance(value, list) else value
+
+
+def names(dump):
+    return [category["name"] for category in dump["ribbon"]["categories"]]
+
+
+class DumpOfTwoFiles(OwnInstallation):
+    def test_every_part_is_what_the_files_say(self):
+        got = self.dump("--size", "900x300")
+        # A button without a tooltip of its own shows its text.
+        separator = button("CMFCRibbonSeparator", 0, "", large=True)
+        self.assertEqual(without_places(got), {
+            "nextCommandId": 41003,
+            "registry": [
+                {"id": 41000, "keyword": "Map", "name": "The map", "tooltip": "", "cmd": "", "param": "", "help": "The map.swf"},
+                {"id": 41001, "keyword": "Large", "name": "Enlarge", "tooltip": "Makes it larger", "cmd": "do", "param": "1",
+                 "help": "Enlarge.swf"},
+                {"id": 41002, "keyword": "Small", "name": "Reduce", "tooltip": "", "cmd": "", "param": "", "help": ""}],
+            "ribbon": {
+                "categories": [
+                    {"name": "The map", "class": "CMFCRibbonCategoryEx", "id": 41000, "visible": True, "active": True,
+                     "panels": [{"name": "Sight", "elements": [
+                         button("CMFCRibbonUNIcoButton", 41001, "Enlarge", "Makes it larger", F1_HINT, large=True),
+                         separator,
+                         button("CMFCRibbonSmallButton", 41002, "Reduce", "Reduce")]}]},
+                    {"name": "No command", "class": "CMFCRibbonCategory", "visible": True, "active": False,
+                     "panels": [{"name": "Sight", "elements": [
+                         button("CMFCRibbonUNIcoButton", 41001, "Enlarge", "Enlarge", F1_HINT, large=True)]}]}],
+                "quickAccess": [41002],
+                "commands": [["", "", "do", ""], ["", "", ""]]},
+            "menu": [], "accelerators": [], "toolbars": [],
+            "statusExtras": [{"path": SECOND_FILE, "row": "StatusEx_btns", "records": [
+                {"groupBefore": True, "name": "Everything", "type": "BUTTON", "tooltip": "Has it all", "keyword": "Every",
+                 "picPath": "pic\\e.ico", "picDisPath": "pic\\d.ico", "size": 16, "cmd": "run <it>", "param": "7",
+                 "help": "own.swf", "acceptF1": False, "cateTab": True, "valueGroup": ["a", "", "地"], "width": -50},
+                {"groupBefore": False, "name": "Unknown", "type": "", "tooltip": "", "keyword": "Unknown", "picPath": "",
+                 "picDisPath": "", "size": 0, "cmd": "", "param": "", "help": "Unknown.swf", "acceptF1": True,
+                 "cateTab": False, "valueGroup": [], "width": 0}]}],
+            "status": {"app": "", "elements": [], "extended": []}})
+
+    def test_files_are_built_in_the_order_in_which_they_are_given(self):
+        got = self.dump("--ribbon", SECOND_FILE, "--ribbon", FIRST_FILE)
+        self.assertEqual(names(got), ["No command", "The map"])
+        self.assertEqual([entry["keyword"] for entry in got["registry"]], ["Large", "Map", "Small"])
+        self.assertEqual(names(self.dump("--ribbon", r"cfg\other.xml")), ["Other"])
+
+    def test_the_category_asked_for_is_the_active_one(self):
+        for name in ("The map", "No command"):
+            got = self.dump("--category", name)
+            for category in got["ribbon"]["categories"]:
+                left, top, right, bottom = category["panels"][0]["elements"][0]["rect"]
+                self.assertEqual(category["active"], category["name"] == name)
+                self.assertEqual(right > left and bottom > top, category["name"] == name)
+
+
+class ExitCode1(OwnInstallation):
+    def check(self, line, *arguments, built=("The map", "No command")):
+        result, got = self.preview(*arguments)
+        self.assertEqual(result.returncode, 1, result.stderr)
+        self.assertIn(line, result.stderr)
+        self.assertEqual(len(names(got)), len(built))
+
+    def test_a_category_that_is_not_there(self):
+        self.check("no category named Nowhere", "--lang", "en", "--category", "Nowhere")
+
+    def test_a_language_that_is_not_there_or_is_broken(self):
+        self.check("no usable language fr", "--lang", "fr")
+        self.check("no usable language bad", "--lang", "bad")
+
+    def test_a_directory_without_ribbon_files(self):
+        for name in ("ribbon-a.xml", "Ribbon-B.XML"):
+            os.remove(os.path.join(self.folder, "cfg", name))
+        self.check(r"cfg\ribbon*.xml", built=())
+
+    def test_a_picture_that_cannot_be_written(self):
+        self.check("not written: ", "--screenshot", os.path.join(self.folder, "missing", "picture.png"))
+
+
+class Pictures(OwnInstallation):
+    def picture(self, program, *arguments):
+        path = os.path.join(self.folder, "picture.png")
+        result = run(program, *arguments, "--screenshot", path, display=True)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        facts = picture_facts(path)
+        os.remove(path)
+        return facts
+
+    def test_barview_shows_the_bars_in_either_skin(self):
+        brightness = {}
+        for skin in ("silver", "black"):
+            width, height, colours, brightness[skin] = self.picture("barview.exe", self.folder, "--lang", "en", "--skin", skin,
+                                                                    "--size", "700x320")
+            # The size is that of the client area.
+            self.assertTrue(700 <= width < 760 and 320 <= height < 380, (width, height))
+            self.assertGreater(colours, 20)
+        self.assertLess(brightness["black"], brightness["silver"] - 0.05)
+
+    def test_the_demo_shows_its_frame(self):
+        width, height, colours, _ = self.picture("demo.exe", "--lang", "en", "--size", "900x600")
+        self.assertEqual((width, height), (900, 600))
+        self.assertGreater(colours, 200)
+
+
+class DemoUsage(unittest.TestCase):
+    def test_an_unknown_skin_is_refused(self):
+        result = run("demo.exe", "--skin", "gold")
+        self.assertEqual(result.returncode, 2)
+        self.assertIn("--skin needs a proper value", result.stderr)
+
+
+if __name__ == "__main__":
+    BIN_DIR = os.path.abspath(sys.argv.pop(1))
+    unittest.main(verbosity=2)
