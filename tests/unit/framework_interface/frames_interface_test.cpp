@@ -14,6 +14,7 @@ INTERFACE_OF(CDialog) {
     MADE_FROM();
     VIRTUAL(BOOL, Create, (LPCTSTR, CWnd*));
     CALL(Create, LPCTSTR);
+    VIRTUAL(void, OnSetFont, (CFont*));
     VIRTUAL(BOOL, Create, (UINT, CWnd*));
     CALL(Create, UINT);
     VIRTUAL(BOOL, CreateIndirect, (LPCDLGTEMPLATE, CWnd*, void*));

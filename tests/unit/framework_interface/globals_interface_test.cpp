@@ -8,8 +8,14 @@
 #include "afxtooltipmanager.h"
 #include "afxwin.h"
 
+#include <concepts>
 #include <memory>
 #include <set>
+
+namespace interface_check {
+/// A class that a library of a host's exports.
+class AFX_EXT_CLASS Exported {};
+} // namespace interface_check
 
 namespace {
 
@@ -43,6 +49,7 @@ TEST(Globals, ApplicationAndResources) {
     FUNCTION(void(UINT, BOOL), AfxEndThread);
     FUNCTION_CALL(CWinThread*, AfxBeginThread(static_cast<AFX_THREADPROC>(nullptr), static_cast<void*>(nullptr)));
     FUNCTION_CALL(CWinThread*, AfxBeginThread(RUNTIME_CLASS(CWinThread)));
+    static_assert(std::is_same_v<decltype(afxContextMenuManager), CContextMenuManager*>);
     static_assert(std::is_same_v<decltype(afxKeyboardManager), CKeyboardManager*>);
 }
 
@@ -153,6 +160,20 @@ BEGIN_TEMPLATE_MESSAGE_MAP(Templated, Base, Base)
 ON_COMMAND(1, &Templated::OnTemplated)
 END_MESSAGE_MAP()
 
+TEST(Globals, ALibraryMayUseItsOwnResourcesForATime) {
+    const HINSTANCE before = AfxGetResourceHandle();
+    const HINSTANCE other = ::GetModuleHandle(L"kernel32");
+    AfxSetResourceHandle(other);
+    {
+        AFX_MANAGE_STATE(AfxGetStaticModuleState())
+        EXPECT_EQ(AfxGetResourceHandle(), ::GetModuleHandle(nullptr));
+    }
+    EXPECT_EQ(AfxGetResourceHandle(), other);
+    AfxSetResourceHandle(before);
+    const std::unique_ptr<interface_check::Exported> made(DEBUG_NEW interface_check::Exported);
+    EXPECT_NE(made, nullptr);
+}
+
 TEST(Globals, ClassMacrosDescribeTheClass) {
     EXPECT_STREQ(RUNTIME_CLASS(Described)->m_lpszClassName, "Described");
     Named named;
@@ -166,6 +187,21 @@ TEST(Globals, ClassMacrosDescribeTheClass) {
     EXPECT_TRUE(window.IsKindOf(RUNTIME_CLASS(CWnd)));
     OwnThread thread;
     EXPECT_TRUE(thread.IsKindOf(RUNTIME_CLASS(CWinThread)));
+}
+
+/// An archive takes the value and gives it back.
+template <typename T>
+constexpr bool isArchived = requires(CArchive& archive, T value) {
+    { archive << value } -> std::same_as<CArchive&>;
+    { archive >> value } -> std::same_as<CArchive&>;
+};
+
+TEST(Globals, ArchivesTakeTheDocumentedTypes) {
+    static_assert(isArchived<BYTE> && isArchived<WORD> && isArchived<LONG> && isArchived<DWORD>);
+    static_assert(isArchived<float> && isArchived<double> && isArchived<int> && isArchived<short>);
+    static_assert(isArchived<char> && isArchived<wchar_t> && isArchived<unsigned> && isArchived<bool>);
+    static_assert(isArchived<ULONGLONG> && isArchived<LONGLONG> && isArchived<CString>);
+    static_assert(isArchived<POINT> && isArchived<SIZE> && isArchived<RECT> && isArchived<CObject*>);
 }
 
 TEST(Globals, SerialClassesComeBackAsTheirClass) {

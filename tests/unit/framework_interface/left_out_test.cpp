@@ -269,7 +269,9 @@ LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, co
          get_accFocus, get_accHelp, get_accHelpTopic, get_accKeyboardShortcut, get_accName, get_accParent, get_accRole,
          get_accSelection, get_accState, get_accValue)
 LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, controls have the system's", CBasePane,
-         AccNotifyObjectFocusEvent)
+         accHitTest, accLocation, AccNotifyObjectFocusEvent, accSelect, get_accChild, get_accChildCount,
+         get_accDefaultAction, get_accDescription, get_accFocus, get_accHelp, get_accHelpTopic, get_accKeyboardShortcut,
+         get_accParent, get_accRole, get_accSelection, get_accState, get_accValue)
 LEFT_OUT("windows that describe themselves: the ribbon has a tree of its own, controls have the system's",
          CMFCToolBarButton, SetACCData)
 
@@ -297,6 +299,9 @@ LEFT_OUT("edits with spin buttons, which nobody uses", CMFCRibbonEdit, EnableSpi
 LEFT_OUT("toolbar resources as ribbon groups", CMFCRibbonPanel, AddToolBar)
 
 LEFT_OUT("nothing is shared that could be freed", CMFCToolBarImages, CleanUp)
+
+LEFT_OUT("files that belong to a transaction, values of databases", CFile, m_pTM)
+LEFT_OUT("files that belong to a transaction, values of databases", CTime, GetAsDBTIMESTAMP)
 
 LEFT_OUT("what it does is not documented", CFrameWndEx, UpdateCaption)
 LEFT_OUT("what it does is not documented", CMDIFrameWndEx, UpdateCaption, m_bDisableSetRedraw)

@@ -316,6 +316,7 @@ INTERFACE_OF(CTime) {
     MEMBER(CString, FormatGmt, (UINT) const);
     MEMBER(bool, GetAsSystemTime, (SYSTEMTIME&) const);
     STATIC(CTime, GetCurrentTime, ());
+    NAMED(GetYear);
     MEMBER(int, GetDay, () const);
     MEMBER(int, GetDayOfWeek, () const);
     MEMBER(struct tm*, GetGmtTm, (struct tm*) const);
@@ -345,6 +346,7 @@ INTERFACE_OF(CTimeSpan) {
     MEMBER(LONG, GetHours, () const);
     MEMBER(LONG, GetMinutes, () const);
     MEMBER(LONG, GetSeconds, () const);
+    MEMBER(__time64_t, GetTimeSpan, () const);
     MEMBER(LONGLONG, GetTotalHours, () const);
     MEMBER(LONGLONG, GetTotalMinutes, () const);
     MEMBER(LONGLONG, GetTotalSeconds, () const);

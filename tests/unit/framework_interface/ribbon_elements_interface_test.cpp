@@ -83,6 +83,7 @@ INTERFACE_OF(CMFCRibbonBaseElement) {
     VIRTUAL(void, OnAfterChangeRect, (CDC*));
     VIRTUAL(BOOL, OnAutoRepeat, ());
     VIRTUAL(void, OnCalcTextSize, (CDC*));
+    VIRTUAL(void, OnChangeMenuHighlight, (CMFCRibbonPanelMenuBar*, CMFCRibbonBaseElement*));
     VIRTUAL(void, OnDraw, (CDC*));
     VIRTUAL(void, OnDrawKeyTip, (CDC*, const CRect&, BOOL));
     VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, CRect));

@@ -413,6 +413,7 @@ PROTECTED_INTERFACE_OF(CWnd) {
     MEMBER(int, OnVKeyToItem, (UINT, CListBox*, UINT));
     MEMBER(void, OnVScroll, (UINT, UINT, CScrollBar*));
     MEMBER(void, OnVScrollClipboard, (CWnd*, UINT, UINT));
+    MEMBER(void, OnWindowMaximizedChanged, (BOOL));
     MEMBER(void, OnWindowPosChanged, (WINDOWPOS*));
     MEMBER(void, OnWindowPosChanging, (WINDOWPOS*));
     MEMBER(void, OnWinIniChange, (LPCTSTR));
