@@ -178,16 +178,21 @@ void CMFCPopupMenu::OnSize(UINT nType, int cx, int cy) {
     if (!m_bInLayout) {
         PlaceBar();
         Invalidate();
-        if (!m_parts->isResizing) {
-            UpdateShadow();
-        }
+    }
+}
+
+// Whoever moves the window: the shadow lies beside it.
+void CMFCPopupMenu::OnWindowPosChanged(WINDOWPOS* lpwndpos) {
+    CMiniFrameWnd::OnWindowPosChanged(lpwndpos);
+    const UINT unchanged = SWP_NOMOVE | SWP_NOSIZE;
+    if (!m_bInLayout && !m_parts->isResizing && (lpwndpos->flags & unchanged) != unchanged) {
+        UpdateShadow();
     }
 }
 
 void CMFCPopupMenu::MoveTo(const CPoint& pt) {
     m_ptWanted = pt;
     ::SetWindowPos(m_hWnd, nullptr, pt.x, pt.y, 0, 0, SWP_NOACTIVATE | SWP_NOZORDER | SWP_NOSIZE | SWP_NOOWNERZORDER);
-    UpdateShadow();
 }
 
 CMFCPopupMenu::MENUAREA_TYPE CMFCPopupMenu::CheckArea(const CPoint& ptScreen) const {

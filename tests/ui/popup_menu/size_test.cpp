@@ -113,6 +113,10 @@ TEST_F(PopupMenuSizeTest, TheShadowFollowsTheMenusPlaceAndSize) {
     EXPECT_TRUE(isBesideShadow());
     menu->SetWindowPos(nullptr, 0, 0, 330, 140, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     EXPECT_TRUE(isBesideShadow());
+    menu->SetWindowPos(nullptr, 260, 90, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_TRUE(isBesideShadow());
+    menu->SetWindowPos(nullptr, 240, 120, 300, 160, SWP_NOZORDER | SWP_NOACTIVATE);
+    EXPECT_TRUE(isBesideShadow());
 }
 
 TEST_F(PopupMenuSizeTest, AMenuGrowsWithTheScale) {
