@@ -3,6 +3,8 @@
 #include "combos/mark_sizes.h"
 #include "library_context.h"
 
+#include <fx/dc_scope.h>
+
 #include <algorithm>
 #include <map>
 
@@ -103,6 +105,8 @@ void DrawLightScaled(CDC& dc, const marks::Rect& place, LightState state) {
     const HICON icon = ::ImageList_GetIcon(shared.GetSafeHandle(), IndexOf(state), ILD_TRANSPARENT);
     if (!icon)
         return;
-    ::DrawIconEx(dc.GetSafeHdc(), place.left, place.top, icon, place.Width(), place.Height(), 0, nullptr, DI_NORMAL);
+    const fx::PictureScope scope(dc, CRect(place.left, place.top, place.right, place.bottom));
+    ::DrawIconEx(dc.GetSafeHdc(), scope.Corner().x, scope.Corner().y, icon, place.Width(), place.Height(), 0, nullptr,
+                 DI_NORMAL);
     ::DestroyIcon(icon);
 }

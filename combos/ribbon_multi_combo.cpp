@@ -37,7 +37,7 @@ struct CMFCRibbonMultiCombo::State : MarkedComboState<rowInfo> {
         if (!swatch.IsRectEmpty()) {
             CBrush brush(info.clr);
             dc.FillRect(swatch, &brush);
-            ::FrameRect(dc.GetSafeHdc(), swatch, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+            dc.FrameRect(swatch, CBrush::FromHandle(static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH))));
         }
         DrawLightScaled(dc, place.light, info.light ? LightState::On : LightState::Off);
         DrawTextOf(combo, dc, index, place.text);

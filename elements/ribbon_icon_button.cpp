@@ -4,6 +4,7 @@
 
 #include <afxglobals.h>
 #include <afxtoolbarimages.h>
+#include <fx/dc_scope.h>
 #include <varnhold/language.h>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonUNIcoButton, CMFCRibbonButton)
@@ -137,7 +138,8 @@ void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, HICON icon, CSize unscaled
 void CMFCRibbonUNIcoButton::DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, CPoint corner) const {
     const CWnd* const parent = GetParentWnd();
     const bool isRightToLeft = parent && (parent->GetExStyle() & WS_EX_LAYOUTRTL);
-    ::DrawIconEx(dc->GetSafeHdc(), corner.x, corner.y, icon, scaled.cx, scaled.cy, 0, nullptr,
+    const fx::PictureScope place(*dc, CRect(corner, scaled));
+    ::DrawIconEx(dc->GetSafeHdc(), place.Corner().x, place.Corner().y, icon, scaled.cx, scaled.cy, 0, nullptr,
                  DI_NORMAL | (isRightToLeft ? DI_NOMIRROR : 0));
 }
 

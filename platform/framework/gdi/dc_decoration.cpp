@@ -1,12 +1,13 @@
 #include "gdi/dc_calls.h"
+#include "gdi/device_pixels.h"
 
-void CDC::FillRect(LPCRECT lpRect, CBrush* pBrush) { ::FillRect(m_hDC, lpRect, SafeHandle(pBrush)); }
-void CDC::FrameRect(LPCRECT lpRect, CBrush* pBrush) { ::FrameRect(m_hDC, lpRect, SafeHandle(pBrush)); }
+void CDC::FillRect(LPCRECT lpRect, CBrush* pBrush) { gdi::FillWith(m_hDC, *lpRect, SafeHandle(pBrush)); }
+void CDC::FrameRect(LPCRECT lpRect, CBrush* pBrush) { gdi::FrameWith(m_hDC, *lpRect, SafeHandle(pBrush)); }
 void CDC::InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
     SetBkColor(clr);
-    ::ExtTextOut(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
+    gdi::FillSolid(m_hDC, *lpRect, clr);
 }
 void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) { FillSolidRect(CRect(x, y, x + cx, y + cy), clr); }
 

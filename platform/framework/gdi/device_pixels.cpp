@@ -9,6 +9,12 @@ bool IsMirrored(HDC dc) {
     return layout != GDI_ERROR && (layout & LAYOUT_RTL) != 0;
 }
 
+bool KeepsPictures(HDC dc) {
+    constexpr DWORD both = LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED;
+    const DWORD layout = GetLayout(dc);
+    return layout != GDI_ERROR && (layout & both) == both;
+}
+
 POINT DeviceCorner(HDC dc, const RECT& rect) {
     POINT corners[] = {{rect.left, rect.top}, {rect.right, rect.bottom}};
     LPtoDP(dc, corners, 2);
@@ -21,12 +27,48 @@ void PutCornerAtOrigin(HDC dc, const RECT& rect) {
     OffsetViewportOrgEx(dc, IsMirrored(dc) ? corner.x : -corner.x, -corner.y, nullptr);
 }
 
-ScopedDevicePixels::ScopedDevicePixels(HDC dc) : m_dc(dc), m_saved(SaveDC(dc)) {
+int CountDevicePixels(HDC dc) {
+    const int saved = SaveDC(dc);
     SetLayout(dc, 0);
     SetMapMode(dc, MM_TEXT);
     SetViewportOrgEx(dc, 0, 0, nullptr);
     SetWindowOrgEx(dc, 0, 0, nullptr);
+    return saved;
 }
+
+namespace {
+
+/// The same for FillRect and FrameRect.
+template <typename Paint>
+BOOL PaintWith(HDC dc, const RECT& rect, HBRUSH brush, Paint paint) {
+    if (!KeepsPictures(dc)) {
+        return paint(dc, &rect, brush);
+    }
+    const POINT corner = DeviceCorner(dc, rect);
+    const ScopedDevicePixels pixels(dc);
+    const RECT onDevice{corner.x, corner.y, corner.x + rect.right - rect.left, corner.y + rect.bottom - rect.top};
+    return paint(dc, &onDevice, brush);
+}
+
+} // namespace
+
+BOOL FillWith(HDC dc, const RECT& rect, HBRUSH brush) { return PaintWith(dc, rect, brush, FillRect); }
+
+BOOL FrameWith(HDC dc, const RECT& rect, HBRUSH brush) { return PaintWith(dc, rect, brush, FrameRect); }
+
+void FillSolid(HDC dc, const RECT& rect, COLORREF color) {
+    SetBkColor(dc, color);
+    if (!IsMirrored(dc)) {
+        ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
+        return;
+    }
+    // The ground of a text lies one pixel beside the rectangle there.
+    const COLORREF previous = SetDCBrushColor(dc, color);
+    FillWith(dc, rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    SetDCBrushColor(dc, previous);
+}
+
+ScopedDevicePixels::ScopedDevicePixels(HDC dc) : m_dc(dc), m_saved(CountDevicePixels(dc)) {}
 
 ScopedDevicePixels::~ScopedDevicePixels() { RestoreDC(m_dc, m_saved); }
 

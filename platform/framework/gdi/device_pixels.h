@@ -6,11 +6,22 @@
 namespace gdi {
 
 bool IsMirrored(HDC dc);
+/// Whether the context is mirrored but not what is copied to it; such a one also puts that one pixel beside.
+bool KeepsPictures(HDC dc);
 
 /// Where the upper left pixel of a rectangle in the context's co-ordinates lies on its device.
 POINT DeviceCorner(HDC dc, const RECT& rect);
 /// Moves the context's origin so that the rectangle's upper left pixel is the device's first one.
 void PutCornerAtOrigin(HDC dc, const RECT& rect);
+
+/// Lets the context count device pixels from the left until RestoreDC gets the number that this returns.
+int CountDevicePixels(HDC dc);
+
+/// FillRect and FrameRect, in the rectangle's own pixels in every context.
+BOOL FillWith(HDC dc, const RECT& rect, HBRUSH brush);
+BOOL FrameWith(HDC dc, const RECT& rect, HBRUSH brush);
+/// Fills the rectangle and leaves the colour as the background colour.
+void FillSolid(HDC dc, const RECT& rect, COLORREF color);
 
 /// While it lives the context counts device pixels from the left. Pictures are copied like this where a window is
 /// mirrored: a mirrored context puts them one pixel beside what else it draws.

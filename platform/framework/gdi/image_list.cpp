@@ -1,5 +1,6 @@
 #include "fx/image_list.h"
 
+#include "fx/dc_scope.h"
 #include "fx/dump_context.h"
 #include "fx/module_state.h"
 #include "gdi/dc_calls.h"
@@ -112,10 +113,19 @@ BOOL CImageList::Copy(int iDst, CImageList* pSrc, int iSrc, UINT uFlags) {
 }
 
 BOOL CImageList::Draw(CDC* pDC, int nImage, POINT pt, UINT nStyle) {
-    return ::ImageList_Draw(m_hImageList, nImage, SafeHandle(pDC), pt.x, pt.y, nStyle);
+    return DrawEx(pDC, nImage, pt, SIZE{0, 0}, CLR_DEFAULT, CLR_DEFAULT, nStyle);
 }
 BOOL CImageList::DrawEx(CDC* pDC, int nImage, POINT pt, SIZE sz, COLORREF clrBk, COLORREF clrFg, UINT nStyle) {
-    return ::ImageList_DrawEx(m_hImageList, nImage, SafeHandle(pDC), pt.x, pt.y, sz.cx, sz.cy, clrBk, clrFg, nStyle);
+    if (pDC == nullptr) {
+        return FALSE;
+    }
+    int width = sz.cx, height = sz.cy;
+    if (width == 0 || height == 0) {
+        ::ImageList_GetIconSize(m_hImageList, &width, &height);
+    }
+    const fx::PictureScope place(*pDC, CRect(pt, CSize(width, height)));
+    return ::ImageList_DrawEx(m_hImageList, nImage, *pDC, place.Corner().x, place.Corner().y, sz.cx, sz.cy, clrBk,
+                              clrFg, nStyle);
 }
 BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* pimldp) {
     ENSURE(pimldp != nullptr);

@@ -3,6 +3,19 @@
 
 namespace fx {
 
+PictureScope::PictureScope(CDC& dc, const CRect& rect) : m_dc(dc), m_corner(rect.TopLeft()) {
+    if (gdi::KeepsPictures(dc)) {
+        m_corner = gdi::DeviceCorner(dc, rect);
+        m_saved = gdi::CountDevicePixels(dc);
+    }
+}
+
+PictureScope::~PictureScope() {
+    if (m_saved != 0) {
+        ::RestoreDC(m_dc, m_saved);
+    }
+}
+
 MemoryDc::MemoryDc(CDC& target, const CRect& rect) : m_target(target) {
     CRect pixels(rect);
     target.LPtoDP(&pixels);

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "afxvisualmanager.h"
+#include "fx/dc_scope.h"
 #include "fx/mdi.h"
 #include "ribbon/bar_parts.h"
 
@@ -152,7 +153,8 @@ void CMFCRibbonBar::DrawCaption(CDC* pDC) {
     CMFCVisualManager::GetInstance()->OnDrawRibbonCaption(pDC, this, m_rectCaption, text);
     const CRect icon = GetCaptionIconRect();
     if (!icon.IsRectEmpty()) {
-        ::DrawIconEx(pDC->GetSafeHdc(), icon.left, icon.top, SmallIconOf(::GetParent(m_hWnd)), icon.Width(),
+        const fx::PictureScope place(*pDC, icon);
+        ::DrawIconEx(*pDC, place.Corner().x, place.Corner().y, SmallIconOf(::GetParent(m_hWnd)), icon.Width(),
                      icon.Height(), 0, nullptr, DI_NORMAL);
     }
 }

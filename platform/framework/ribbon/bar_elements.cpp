@@ -5,6 +5,7 @@
 #include "afxglobals.h"
 #include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
+#include "fx/dc_scope.h"
 #include "ribbon/bar_parts.h"
 
 namespace {
@@ -146,7 +147,8 @@ void CMFCRibbonDefaultPanelButton::DrawImage(CDC* pDC, RibbonImageType /*type*/,
     CMFCVisualManager::GetInstance()->OnDrawDefaultRibbonImage(pDC, rectImage, IsDisabled(), IsPressed(),
                                                                IsHighlighted());
     if (m_panelIcon != nullptr) {
-        ::DrawIconEx(pDC->GetSafeHdc(), inner.left, inner.top, m_panelIcon, inner.Width(), inner.Height(), 0, nullptr,
+        const fx::PictureScope place(*pDC, inner);
+        ::DrawIconEx(*pDC, place.Corner().x, place.Corner().y, m_panelIcon, inner.Width(), inner.Height(), 0, nullptr,
                      DI_NORMAL);
         return;
     }

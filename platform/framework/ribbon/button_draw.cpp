@@ -6,6 +6,7 @@
 #include <afxribboncategory.h>
 #include <afxvisualmanager.h>
 
+#include "fx/dc_scope.h"
 #include "ribbon/button_face.h"
 #include "ribbon/element_metrics.h"
 
@@ -107,8 +108,9 @@ BOOL CMFCRibbonButton::DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectI
         const CWnd* parent = GetParentWnd();
         const bool isMirrored =
             parent != nullptr && (::GetWindowLongW(parent->GetSafeHwnd(), GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
-        return ::DrawIconEx(pDC->GetSafeHdc(), rectImage.left, rectImage.top, icon, rectImage.Width(),
-                            rectImage.Height(), 0, nullptr, DI_NORMAL | (isMirrored ? DI_NOMIRROR : 0));
+        const fx::PictureScope place(*pDC, rectImage);
+        return ::DrawIconEx(*pDC, place.Corner().x, place.Corner().y, icon, rectImage.Width(), rectImage.Height(), 0,
+                            nullptr, DI_NORMAL | (isMirrored ? DI_NOMIRROR : 0));
     }
     CMFCToolBarImages images;
     images.SetImageSize(isLarge ? CSize(32, 32) : CSize(16, 16));

@@ -29,8 +29,9 @@ struct RibbonMetrics {
     int panelPaddingX = 0;
     int panelPaddingY = 0;
     int panelCaptionHeight = 0;
-    int launchButtonSide = 0;   // of the button in a panel's caption
-    int launchButtonMargin = 0; // between it and the caption's end
+    int panelCaptionPadding = 0; // between its text and the panel's padding
+    int launchButtonSide = 0;    // of the button in a panel's caption
+    int launchButtonMargin = 0;  // between it and the caption's end
     int panelContentHeight = 0;
     int rowHeight = 0;  // height of an intermediate or compact element
     int elementGap = 0; // between columns, and between groups of one row
@@ -58,6 +59,7 @@ struct RibbonMetrics {
         m.rowHeight = std::max(m.rowHeight, (largeElement + rowsPerPanel - 1) / rowsPerPanel);
         m.panelContentHeight = rowsPerPanel * m.rowHeight;
         m.panelCaptionHeight = m.textHeight + m.Scaled(4);
+        m.panelCaptionPadding = m.Scaled(2);
         m.launchButtonMargin = m.Scaled(2);
         m.launchButtonSide = m.panelCaptionHeight - 2 * m.Scaled(1) - 1;
         m.panelPaddingX = m.Scaled(4);

@@ -213,7 +213,7 @@ int RibbonPanelLadder::FlowWidth(const Block& block, int rows) const {
 int RibbonPanelLadder::PanelWidth(int contentWidth) const {
     const int launchButton =
         m_shape.hasLaunchButton ? m_metrics.launchButtonSide + 2 * m_metrics.launchButtonMargin : 0;
-    const int inside = std::max(contentWidth, m_shape.captionWidth + launchButton);
+    const int inside = std::max(contentWidth, m_shape.captionWidth + 2 * m_metrics.panelCaptionPadding + launchButton);
     return std::max(inside + 2 * m_metrics.panelPaddingX, m_metrics.minPanelWidth);
 }
 

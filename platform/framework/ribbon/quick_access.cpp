@@ -54,10 +54,11 @@ void CMFCRibbonQuickAccessCustomizeButton::OnDraw(CDC* pDC) {
                                ? CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(IsDisabled())
                                : ribbon::TextColor(pDC, onFace, IsDisabled());
     const int half = afxGlobalData.ScalePixels(3);
-    const CPoint center = m_rect.CenterPoint();
-    pDC->FillSolidRect(center.x - half, center.y - 2 * half, 2 * half - 1, std::max(half / 3, 1), color);
+    const int toArrow = half + half / 2; // from the top of the line above it
+    const CPoint corner(m_rect.CenterPoint().x - half, m_rect.CenterPoint().y - (toArrow + half) / 2);
+    pDC->FillSolidRect(corner.x, corner.y, 2 * half - 1, std::max(half / 3, 1), color);
     for (int row = 0; row < half; ++row) {
-        pDC->FillSolidRect(center.x - half + row, center.y - half / 2 + row, 2 * (half - row) - 1, 1, color);
+        pDC->FillSolidRect(corner.x + row, corner.y + toArrow + row, 2 * (half - row) - 1, 1, color);
     }
 }
 

@@ -225,7 +225,8 @@ void CMFCToolBarMenuButton::DrawMenuItemImage(CDC* pDC, const CRect& rectImage, 
 
 void CMFCToolBarMenuButton::DrawDocumentIcon(CDC* pDC, const CRect& rectImage, HICON hIcon) {
     if (hIcon) {
-        ::DrawIconEx(*pDC, rectImage.left, rectImage.top, hIcon, rectImage.Width(), rectImage.Height(), 0, nullptr,
+        const fx::PictureScope place(*pDC, rectImage);
+        ::DrawIconEx(*pDC, place.Corner().x, place.Corner().y, hIcon, rectImage.Width(), rectImage.Height(), 0, nullptr,
                      DI_NORMAL);
     }
 }

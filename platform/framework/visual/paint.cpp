@@ -86,8 +86,8 @@ void PaintBorders(HDC dc, const RECT& rect, const Face& face, const Corners& cor
 
 void PaintSolid(HDC dc, const RECT& rect, Argb color) {
     if (AlphaOf(color) == 255) {
-        const COLORREF previous = SetBkColor(dc, ToColorRef(color));
-        ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, L"", 0, nullptr);
+        const COLORREF previous = GetBkColor(dc);
+        gdi::FillSolid(dc, rect, ToColorRef(color));
         SetBkColor(dc, previous);
         return;
     }

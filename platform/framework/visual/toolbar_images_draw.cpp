@@ -1,6 +1,7 @@
 #include "afxtoolbarimages.h"
 
 #include "afxglobals.h"
+#include "fx/dc_scope.h"
 #include "visual/image_source.h"
 
 #include <algorithm>
@@ -143,8 +144,12 @@ BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect&
     const HDC memory = ::CreateCompatibleDC(*pDC);
     const HGDIOBJ previous = ::SelectObject(memory, image);
     const BLENDFUNCTION over{AC_SRC_OVER, 0, static_cast<BYTE>(alpha), AC_SRC_ALPHA};
-    const BOOL drawn = ::AlphaBlend(*pDC, rectDest.left, rectDest.top, rectDest.Width(), rectDest.Height(), memory, 0,
-                                    0, rectDest.Width(), rectDest.Height(), over);
+    BOOL drawn = FALSE;
+    {
+        const fx::PictureScope place(*pDC, rectDest);
+        drawn = ::AlphaBlend(*pDC, place.Corner().x, place.Corner().y, rectDest.Width(), rectDest.Height(), memory, 0,
+                             0, rectDest.Width(), rectDest.Height(), over);
+    }
     ::SelectObject(memory, previous);
     ::DeleteDC(memory);
     ::DeleteObject(image);

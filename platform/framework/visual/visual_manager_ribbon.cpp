@@ -80,6 +80,10 @@ void CMFCVisualManager::OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect
         return;
     CString title;
     frame->GetWindowText(title);
+    // A lone dot says less than nothing.
+    const CString least = title.Left(1) + L"...";
+    if (pDC->GetTextExtent(least).cx > rectText.Width() && pDC->GetTextExtent(title).cx > rectText.Width())
+        return;
     visual::PaintText(*pDC, rectText, title, title.GetLength(),
                       DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX,
                       GetSkin()[isActive ? ColorSlot::CaptionText : ColorSlot::CaptionTextInactive]);

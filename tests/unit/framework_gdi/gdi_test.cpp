@@ -211,6 +211,54 @@ TEST_F(MirroredCanvas, EachRectangleThroughTheBufferEqualsTheSameDrawingAtOnce) 
     }
 }
 
+// A context may be mirrored and leave pictures unturned; what is filled lies where the other kind has it.
+TEST_F(MirroredCanvas, FillsLieInTheSamePlacesWhetherPicturesAreTurnedOrNot) {
+    const auto fill = [](CDC& dc) {
+        CBrush brush(green);
+        dc.FillSolidRect(CRect(3, 3, 8, 8), red);
+        dc.FillRect(CRect(9, 3, 20, 8), &brush);
+        dc.FrameRect(CRect(22, 3, 30, 9), &brush);
+        dc.Draw3dRect(CRect(3, 10, 20, 20), red, green);
+    };
+    const std::vector<COLORREF> turned = Pixels(fill);
+    EXPECT_EQ(turned[4 * g_width + g_width - 1 - 3], red);
+    EXPECT_EQ(turned[4 * g_width + g_width - 8], red);
+    EXPECT_EQ(turned[4 * g_width + g_width - 9], blue);
+    EXPECT_EQ(turned[4 * g_width + g_width - 1 - 9], green);
+    EXPECT_EQ(Rows(Pixels([&fill](CDC& dc) {
+                  ::SetLayout(dc, LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED);
+                  fill(dc);
+              })),
+              Rows(turned));
+}
+
+TEST_F(MirroredCanvas, APictureLiesWhereItsRectangleIsFilled) {
+    const CRect place(9, 3, 13, 7);
+    CImageList list;
+    ASSERT_TRUE(list.Create(4, 4, ILC_COLOR32, 0, 1));
+    CDC source;
+    source.CreateCompatibleDC(m_dc.get());
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(m_dc.get(), 4, 4);
+    {
+        const fx::DcSelection selection(source, &bitmap);
+        source.FillSolidRect(0, 0, 4, 4, red);
+    }
+    list.Add(&bitmap, static_cast<CBitmap*>(nullptr));
+    for (const DWORD layout : {DWORD{LAYOUT_RTL}, DWORD{LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED}}) {
+        const auto draw = [&](bool isPicture) {
+            return Rows(Pixels([&](CDC& dc) {
+                ::SetLayout(dc, layout);
+                if (isPicture)
+                    EXPECT_TRUE(list.Draw(&dc, 0, place.TopLeft(), ILD_NORMAL));
+                else
+                    dc.FillSolidRect(place, red);
+            }));
+        };
+        EXPECT_EQ(draw(true), draw(false)) << layout;
+    }
+}
+
 TEST_F(MirroredCanvas, ABufferThatNothingIsDrawnToChangesNothing) {
     const std::vector<COLORREF> before = Pixels(DrawSample);
     const std::vector<COLORREF> after = Pixels([](CDC& dc) {

@@ -98,7 +98,7 @@ TEST(RibbonPanelLayout, APanelIsAtLeastAsWideAsItsCaption) {
     panel.captionWidth = 200;
     panel.collapsedWidth = 0;
     const RibbonPanelLadder ladder(panel, g_metrics);
-    EXPECT_EQ(ladder.FullWidth(), 200 + 2 * g_metrics.panelPaddingX);
+    EXPECT_EQ(ladder.FullWidth(), 200 + 2 * (g_metrics.panelPaddingX + g_metrics.panelCaptionPadding));
     EXPECT_TRUE(ladder.Steps().empty()) << "no reduction makes the caption narrower";
 }
 

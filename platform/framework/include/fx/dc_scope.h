@@ -61,6 +61,24 @@ private:
     int m_mode;
 };
 
+/// While it lives a picture that is drawn with its upper left corner at Corner() lies where the context fills the
+/// rectangle. A mirrored context that leaves pictures unturned would put it one pixel beside.
+class FRAMEWORK_API PictureScope {
+public:
+    /// The rectangle is in the context's logical units; its size is the picture's.
+    PictureScope(CDC& dc, const CRect& rect);
+    ~PictureScope();
+    PictureScope(const PictureScope&) = delete;
+    PictureScope& operator=(const PictureScope&) = delete;
+
+    CPoint Corner() const { return m_corner; }
+
+private:
+    CDC& m_dc;
+    CPoint m_corner;
+    int m_saved = 0;
+};
+
 /// A double buffer: draws to memory in the target's own co-ordinates and copies the rectangle to the target at the end.
 /// It starts with what the target shows there, with the target's font and colours, and mirrored as the target is. When
 /// memory for the picture is out, GetDC gives the target itself.
