@@ -6,13 +6,8 @@ IMPLEMENT_DYNCREATE(CMFCRibbonSliderSync, CMFCRibbonSlider)
 
 CMFCRibbonSliderSync::CMFCRibbonSliderSync(UINT id, int width) : CMFCRibbonSlider(id, width) {}
 
-// Nobody may find this slider any more: neither by a list nor as an original.
+// Nobody may find this slider any more; who had it as its original gets this one's from the base class.
 CMFCRibbonSliderSync::~CMFCRibbonSliderSync() {
-    CMFCRibbonBaseElement* const source = GetOriginal();
-    for (CMFCRibbonSliderSync* slider : GetRoot().m_linked) {
-        if (slider->GetOriginal() == this)
-            slider->m_pOriginal = source;
-    }
     Unlink();
     for (CMFCRibbonSliderSync* slider : m_linked)
         slider->m_linkedTo = nullptr;

@@ -2,6 +2,8 @@
 
 #include "framework_api.h"
 
+#include <vector>
+
 #include <afxtempl.h>
 #include <afxwin.h>
 
@@ -61,6 +63,7 @@ public:
     // Takes over what CopyFrom leaves out (enabled, checked, visible) and makes the source, or the source's original,
     // the original of this element.
     void CopyStateFrom(CMFCRibbonBaseElement* pSource);
+    // When the original goes, what had it takes that one's original instead, mostly none.
     virtual void SetOriginal(CMFCRibbonBaseElement* pOriginal);
     CMFCRibbonBaseElement* GetOriginal() const { return m_pOriginal; }
 
@@ -236,6 +239,8 @@ protected:
     CWnd* GetCommandTarget() const;
     // Closes the pop-ups that show the element, before its command is sent.
     void CloseParentMenus();
+    // The elements whose original this one is.
+    std::vector<CMFCRibbonBaseElement*> CollectCopies() const;
 
     UINT m_nID = 0;
     CString m_strText;
@@ -272,7 +277,12 @@ protected:
     CWnd* m_pParentWnd = nullptr;
     CMFCRibbonPanelMenuBar* m_pParentMenu = nullptr;
     CWnd* m_pPopup = nullptr;
+
+private:
     CMFCRibbonBaseElement* m_pOriginal = nullptr;
+    CMFCRibbonBaseElement* m_pFirstCopy = nullptr; // of a list of all whose original this one is
+    CMFCRibbonBaseElement* m_pNextCopy = nullptr;  // the neighbours in the original's list
+    CMFCRibbonBaseElement* m_pPreviousCopy = nullptr;
 };
 
 // A thin line between elements: vertical and as high as its row, or horizontal in menus.

@@ -31,6 +31,8 @@ public:
     int FindSubItemIndexByID(UINT uiID) const;
     BOOL RemoveSubItem(int nIndex);
     void RemoveAllSubItems();
+    // From now on this copy, and each copy in its menu, has the menu and the sub-items that its original is given.
+    void FollowOriginal();
 
     // A menu instead of sub-items; the handle stays the caller's.
     void SetMenu(HMENU hMenu, BOOL bIsDefaultCommand = FALSE, BOOL bRightAlign = FALSE);
@@ -38,7 +40,7 @@ public:
     void SetMenu(UINT uiMenuResID, BOOL bIsDefaultCommand = FALSE, BOOL bRightAlign = FALSE);
     HMENU GetMenu() const { return m_hMenu; }
     BOOL HasMenu() const override;
-    void SetDefaultCommand(BOOL bSet = TRUE) { m_bIsDefaultCommand = bSet; }
+    void SetDefaultCommand(BOOL bSet = TRUE);
     BOOL IsDefaultCommand() const { return m_bIsDefaultCommand; }
     void SetRightAlignMenu(BOOL bSet = TRUE) { m_bRightAlignMenu = bSet; }
     BOOL IsRightAlignMenu() const { return m_bRightAlignMenu; }
@@ -137,6 +139,12 @@ protected:
     BOOL DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage);
     void ReleaseIcons();
     void CopySubItems(const CMFCRibbonButton& src);
+    void DeleteSubItems();
+    void RemoveCopyOf(const CMFCRibbonBaseElement& item, int place);
+    void OnSubItemsChanged(BOOL hadMenu);
+    void TakeMenu(HMENU menu, const std::shared_ptr<CMenu>& loaded, BOOL isDefaultCommand, BOOL rightAlign);
+    void OnMenuChanged();
+    std::vector<CMFCRibbonButton*> CollectFollowers() const;
 
     HICON m_hIcon = nullptr;
     HICON m_hIconSmall = nullptr;
@@ -152,6 +160,7 @@ protected:
     std::shared_ptr<CMenu> m_pLoadedMenu; // from the resources, shared by the button's copies
     BOOL m_bIsDefaultCommand = FALSE;
     BOOL m_bRightAlignMenu = FALSE;
+    BOOL m_bFollowsOriginal = FALSE;
     BOOL m_bMenuAreaHighlighted = FALSE;
 
     CRect m_rectCommand;

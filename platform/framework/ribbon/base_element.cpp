@@ -1,5 +1,7 @@
 #include <afxbaseribbonelement.h>
 
+#include <utility>
+
 #include <afxribbonbar.h>
 #include <afxRibbonPanel.h>
 #include <afxribboncategory.h>
@@ -35,6 +37,10 @@ CMFCRibbonBaseElement::~CMFCRibbonBaseElement() {
         menu->OnParentElementDestroyed();
     if (m_pRibbonBar != nullptr)
         m_pRibbonBar->OnElementDestroyed(this);
+    CMFCRibbonBaseElement* const original = m_pOriginal;
+    CMFCRibbonBaseElement::SetOriginal(nullptr);
+    while (CMFCRibbonBaseElement* const copy = m_pFirstCopy)
+        copy->CMFCRibbonBaseElement::SetOriginal(original != copy ? original : nullptr);
 }
 
 // ---- identity and texts
@@ -111,7 +117,26 @@ void CMFCRibbonBaseElement::CopyStateFrom(CMFCRibbonBaseElement* pSource) {
     SetOriginal(pSource->GetOriginal() != nullptr ? pSource->GetOriginal() : pSource);
 }
 
-void CMFCRibbonBaseElement::SetOriginal(CMFCRibbonBaseElement* pOriginal) { m_pOriginal = pOriginal; }
+void CMFCRibbonBaseElement::SetOriginal(CMFCRibbonBaseElement* pOriginal) {
+    if (pOriginal == this)
+        pOriginal = nullptr;
+    if (m_pOriginal != nullptr)
+        (m_pPreviousCopy != nullptr ? m_pPreviousCopy->m_pNextCopy : m_pOriginal->m_pFirstCopy) = m_pNextCopy;
+    if (m_pNextCopy != nullptr)
+        m_pNextCopy->m_pPreviousCopy = m_pPreviousCopy;
+    m_pOriginal = pOriginal;
+    m_pPreviousCopy = nullptr;
+    m_pNextCopy = pOriginal != nullptr ? std::exchange(pOriginal->m_pFirstCopy, this) : nullptr;
+    if (m_pNextCopy != nullptr)
+        m_pNextCopy->m_pPreviousCopy = this;
+}
+
+std::vector<CMFCRibbonBaseElement*> CMFCRibbonBaseElement::CollectCopies() const {
+    std::vector<CMFCRibbonBaseElement*> copies;
+    for (CMFCRibbonBaseElement* copy = m_pFirstCopy; copy != nullptr; copy = copy->m_pNextCopy)
+        copies.push_back(copy);
+    return copies;
+}
 
 // ---- parents
 
@@ -126,7 +151,7 @@ CMFCRibbonPanel* CMFCRibbonBaseElement::GetParentPanel() const { return m_pParen
 
 void CMFCRibbonBaseElement::SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) {
     if (m_pRibbonBar != nullptr && m_pRibbonBar != pRibbonBar)
-        m_pRibbonBar->ForgetElement(*this);
+        m_pRibbonBar->OnElementDestroyed(this);
     m_pRibbonBar = pRibbonBar;
 }
 

@@ -44,7 +44,7 @@ CMFCRibbonButton::CMFCRibbonButton(UINT nID, LPCTSTR lpszText, HICON hIcon, BOOL
 CMFCRibbonButton::~CMFCRibbonButton() {
     // The pop-up gives the sub-items back while they are still there.
     CMFCRibbonBaseElement::ClosePopupMenu();
-    RemoveAllSubItems();
+    DeleteSubItems();
     ReleaseIcons();
 }
 
@@ -62,11 +62,33 @@ void CMFCRibbonButton::ReleaseIcons() {
 // ---- menu
 
 void CMFCRibbonButton::SetMenu(HMENU hMenu, BOOL bIsDefaultCommand, BOOL bRightAlign) {
-    m_hMenu = hMenu;
-    m_pLoadedMenu.reset();
-    m_bIsDefaultCommand = bIsDefaultCommand;
-    m_bRightAlignMenu = bRightAlign;
+    TakeMenu(hMenu, nullptr, bIsDefaultCommand, bRightAlign);
+}
+
+void CMFCRibbonButton::TakeMenu(HMENU menu, const std::shared_ptr<CMenu>& loaded, BOOL isDefaultCommand,
+                                BOOL rightAlign) {
+    m_hMenu = menu;
+    m_pLoadedMenu = loaded;
+    m_bIsDefaultCommand = isDefaultCommand;
+    m_bRightAlignMenu = rightAlign;
+    OnMenuChanged();
+    for (CMFCRibbonButton* copy : CollectFollowers())
+        copy->TakeMenu(menu, loaded, isDefaultCommand, rightAlign);
+}
+
+void CMFCRibbonButton::SetDefaultCommand(BOOL bSet) {
+    if (!m_bIsDefaultCommand == !bSet)
+        return;
+    m_bIsDefaultCommand = bSet;
+    OnMenuChanged();
+    for (CMFCRibbonButton* copy : CollectFollowers())
+        copy->SetDefaultCommand(bSet);
+}
+
+// The arrow and the split take room.
+void CMFCRibbonButton::OnMenuChanged() {
     CleanUpSizes();
+    MarkLayoutDirty();
 }
 
 BOOL CMFCRibbonButton::HasMenu() const { return m_hMenu != nullptr || !m_arSubItems.IsEmpty(); }
@@ -106,7 +128,8 @@ CSize CMFCRibbonButton::GetImageSize(RibbonImageType type) const {
         return isLarge ? CSize(0, 0) : m_pParentGroup->GetImageSize();
     if (m_pParentCategory != nullptr)
         return m_pParentCategory->GetImageSize(isLarge);
-    return m_pOriginal != nullptr ? m_pOriginal->GetImageSize(type) : CSize(0, 0);
+    const CMFCRibbonBaseElement* original = GetOriginal();
+    return original != nullptr ? original->GetImageSize(type) : CSize(0, 0);
 }
 
 // ---- modes and size

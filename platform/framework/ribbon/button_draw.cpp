@@ -94,8 +94,8 @@ int CMFCRibbonButton::DrawRibbonText(CDC* pDC, const CString& strText, CRect rec
 void CMFCRibbonButton::DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
     if (rectImage.IsRectEmpty() || DrawIconImage(pDC, type, rectImage) || DrawListImage(pDC, type, rectImage))
         return;
-    if (m_pOriginal != nullptr && m_pOriginal != this)
-        m_pOriginal->DrawImage(pDC, type, rectImage);
+    if (CMFCRibbonBaseElement* original = GetOriginal())
+        original->DrawImage(pDC, type, rectImage);
 }
 
 // An icon of a disabled button goes through an image list, which knows how to grey it.

@@ -14,8 +14,7 @@ void CMFCRibbonButton::SetMenu(UINT uiMenuResID, BOOL bIsDefaultCommand, BOOL bR
         const CMenu* const popup = menu->GetMenuItemCount() == 1 ? menu->GetSubMenu(0) : nullptr;
         shown = popup != nullptr ? popup->m_hMenu : menu->m_hMenu;
     }
-    SetMenu(shown, bIsDefaultCommand, bRightAlign);
-    m_pLoadedMenu = shown != nullptr ? std::move(menu) : nullptr;
+    TakeMenu(shown, shown != nullptr ? menu : nullptr, bIsDefaultCommand, bRightAlign);
 }
 
 CMFCRibbonBaseElement* CMFCRibbonPanel::SetElementRTC(int nIndex, CRuntimeClass* pRTC) {

@@ -111,6 +111,10 @@ CMFCRibbonBaseElement* CMFCRibbonQuickAccessToolBar::MakeCopy(CMFCRibbonBaseElem
     copy->SetInitialMode(TRUE);
     copy->SetCompactMode(TRUE);
     copy->SetIntermediateMode(!copy->IsCompactMode());
+    auto* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, copy);
+    if (button != nullptr && button->GetOriginal() == &source) {
+        button->FollowOriginal();
+    }
     return copy;
 }
 

@@ -102,4 +102,70 @@ TEST_F(IconButtonInPopup, ACopyInTheQuickAccessPopupShowsItsIconAndRunsItsComman
     PumpPending();
 }
 
+/// The bar's quick access toolbar has a copy of a button that opens two icon-file buttons.
+class CopyOfAMenuButton : public IconButtonInPopup {
+protected:
+    CopyOfAMenuButton() {
+        auto menu = std::make_unique<CMFCRibbonButton>(menuId, L"Layers");
+        menu->AddSubItem(MakeButton().release());
+        menu->AddSubItem(new CMFCRibbonUNIcoButton(iconId + 1, L"Other", m_large, FALSE, m_small));
+        m_button = &m_host.Add(std::move(menu));
+        CList<UINT, UINT> commands;
+        commands.AddTail(menuId);
+        m_host.Bar().SetQuickAccessCommands(commands);
+        PumpPending();
+    }
+    CMFCRibbonButton& Copy() {
+        const CPoint point = m_host.Bar().GetQATCommandsLocation().CenterPoint();
+        return static_cast<CMFCRibbonButton&>(*m_host.Bar().HitTest(point));
+    }
+    /// Freed memory is overwritten by the next allocation of its size: a touch of it shows.
+    static void ChurnMemory() {
+        std::vector<std::unique_ptr<char[]>> blocks;
+        for (size_t size = 16; size < 3000; size += 8) {
+            for (int i = 0; i < 4; ++i) {
+                blocks.push_back(std::make_unique<char[]>(size));
+                memset(blocks.back().get(), 0xDD, size);
+            }
+        }
+    }
+
+    CMFCRibbonButton* m_button = nullptr;
+};
+
+TEST_F(CopyOfAMenuButton, OpensAndPaintsWhatItsOriginalStillHas) {
+    m_button->RemoveSubItem(0);
+    ChurnMemory();
+    Click(Copy());
+    ASSERT_NE(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+    ASSERT_EQ(Copy().GetSubItems().GetSize(), 1);
+    EXPECT_EQ(CountPixels(*Copy().GetSubItems()[0], green), 16 * 16);
+    // And what goes while its row is shown.
+    m_button->RemoveAllSubItems();
+    ChurnMemory();
+    m_canvas.Clear();
+    if (CMFCRibbonPanelMenu::GetDeepest() != nullptr)
+        PopupBar().DoPaint(m_canvas.Dc());
+    PumpPending();
+    EXPECT_EQ(Copy().GetSubItems().GetSize(), 0);
+}
+
+TEST_F(CopyOfAMenuButton, ACopyOfTheHostsPaintsNoPictureOfAnOriginalThatIsGone) {
+    CMFCRibbonButton copy;
+    copy.CopyFrom(*m_button);
+    copy.SetParentRibbonBar(&m_host.Bar());
+    m_button->RemoveAllSubItems();
+    ChurnMemory();
+    CMFCRibbonPanelMenu::ElementArray elements;
+    elements.Add(copy.GetSubItems()[0]);
+    elements.Add(copy.GetSubItems()[1]);
+    auto* menu = new CMFCRibbonPanelMenu(elements);
+    ASSERT_TRUE(menu->OpenAt(&m_host.Bar(), CRect(10, 10, 30, 30), CMFCRibbonPanelMenu::Side::Below));
+    EXPECT_EQ(CountPixels(*elements[0], green), 0) << "its alternates were the original's";
+    Click(*elements[1]);
+    EXPECT_EQ(m_host.Frame().CountCommands(iconId + 1), 1);
+    CMFCRibbonPanelMenu::DismissAll();
+    PumpPending();
+}
+
 } // namespace

@@ -211,6 +211,33 @@ TEST_P(RunTimeClasses, AreFoundInTheClassList) {
     EXPECT_EQ(found, GetParam().runtimeClass);
 }
 
+TEST_P(RunTimeClasses, AnOriginalThatGoesIsNoOriginalAnyMore) {
+    Element first = GetParam().make();
+    Element second = GetParam().make();
+    const Element copy = GetParam().make();
+    const Element other = GetParam().make();
+    second->SetOriginal(first.get());
+    copy->SetOriginal(second.get());
+    other->SetOriginal(second.get());
+    other->SetOriginal(first.get());
+    second.reset();
+    EXPECT_EQ(copy->GetOriginal(), first.get()) << "what its original was a copy of";
+    first.reset();
+    EXPECT_EQ(copy->GetOriginal(), nullptr);
+    EXPECT_EQ(other->GetOriginal(), nullptr);
+}
+
+TEST(CopyFrom, ASubItemsCopyIsNotLinkedToAnItemThatIsGone) {
+    CMFCRibbonButton source;
+    source.AddSubItem(new CMFCRibbonButton(1, L"One"));
+    CMFCRibbonButton copy;
+    copy.CopyFrom(source);
+    ASSERT_EQ(copy.GetSubItems()[0]->GetOriginal(), source.GetSubItems()[0]);
+    source.RemoveAllSubItems();
+    ASSERT_EQ(copy.GetSubItems().GetSize(), 1) << "a copy of the host's own keeps what it has";
+    EXPECT_EQ(copy.GetSubItems()[0]->GetOriginal(), nullptr);
+}
+
 TEST(CopyFrom, AnotherClassGivesWhatBothHave) {
     CMFCRibbonSlider slider(5, 60);
     slider.SetToolTipText(L"Zoom");
