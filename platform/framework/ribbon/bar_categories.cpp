@@ -8,6 +8,7 @@
 
 #include "afxribbonpanelmenu.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/element_walk.h"
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 
@@ -248,12 +249,12 @@ CMFCRibbonBaseElement* CMFCRibbonBar::FindByID(UINT uiCmdID, BOOL bVisibleOnly, 
         }
     }
     for (const auto& element : m_parts->tabElements) {
-        if (CMFCRibbonBaseElement* found = element->FindByID(uiCmdID)) {
+        if (CMFCRibbonBaseElement* found = ribbon::FindByID(*element, uiCmdID, bVisibleOnly)) {
             return found;
         }
     }
     if (m_parts->applicationButton != nullptr) {
-        if (CMFCRibbonBaseElement* found = m_parts->applicationButton->FindByID(uiCmdID)) {
+        if (CMFCRibbonBaseElement* found = ribbon::FindByID(*m_parts->applicationButton, uiCmdID, bVisibleOnly)) {
             return found;
         }
     }
@@ -275,7 +276,7 @@ CMFCRibbonBaseElement* CMFCRibbonBar::FindByData(DWORD_PTR dwData, BOOL bVisible
         }
     }
     for (const auto& element : m_parts->tabElements) {
-        if (CMFCRibbonBaseElement* found = element->FindByData(dwData)) {
+        if (CMFCRibbonBaseElement* found = ribbon::FindByData(*element, dwData, bVisibleOnly)) {
             return found;
         }
     }

@@ -8,6 +8,7 @@
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/element_walk.h"
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 
@@ -156,7 +157,15 @@ BOOL CMFCRibbonCategory::RemovePanel(int nIndex, BOOL bDelete) {
     const auto position = m_parts->panels.begin() + nIndex;
     if (!bDelete) {
         CClientDC dc(m_pParentRibbonBar);
-        (*position)->Hide(&dc);
+        CMFCRibbonPanel& panel = **position;
+        panel.Hide(&dc);
+        // Nothing in it knows category and bar from now on: it may outlive them.
+        for (CMFCRibbonBaseElement* element : panel.CollectParts()) {
+            element->SetParentCategory(nullptr);
+        }
+        panel.m_btnDefault.SetParentCategory(nullptr);
+        panel.m_btnLaunch.SetParentCategory(nullptr);
+        panel.m_pParent = nullptr;
         static_cast<void>(position->release()); // the caller owns it from here
     }
     m_parts->panels.erase(position);
@@ -198,9 +207,10 @@ BOOL CMFCRibbonCategory::IsWindows7Look() const {
 
 CMFCRibbonBaseElement* CMFCRibbonCategory::FindByID(UINT uiCmdID, BOOL bVisibleOnly) const {
     for (const auto& panel : m_parts->panels) {
-        CMFCRibbonBaseElement* found = panel->FindByID(uiCmdID);
-        if (found != nullptr && (!bVisibleOnly || found->IsVisible())) {
-            return found;
+        for (CMFCRibbonBaseElement* part : panel->CollectParts()) {
+            if (CMFCRibbonBaseElement* found = ribbon::FindByID(*part, uiCmdID, bVisibleOnly)) {
+                return found;
+            }
         }
     }
     if (!bVisibleOnly) {
@@ -215,9 +225,10 @@ CMFCRibbonBaseElement* CMFCRibbonCategory::FindByID(UINT uiCmdID, BOOL bVisibleO
 
 CMFCRibbonBaseElement* CMFCRibbonCategory::FindByData(DWORD_PTR dwData, BOOL bVisibleOnly) const {
     for (const auto& panel : m_parts->panels) {
-        CMFCRibbonBaseElement* found = panel->FindByData(dwData);
-        if (found != nullptr && (!bVisibleOnly || found->IsVisible())) {
-            return found;
+        for (int index = 0; index < panel->GetCount(); ++index) {
+            if (CMFCRibbonBaseElement* found = ribbon::FindByData(*panel->GetElement(index), dwData, bVisibleOnly)) {
+                return found;
+            }
         }
     }
     if (!bVisibleOnly) {

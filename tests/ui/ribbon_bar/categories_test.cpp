@@ -50,6 +50,78 @@ TEST_F(RibbonBarTest, AHiddenCategoryHasNoTabAndIsNotSearched) {
     EXPECT_NE(Bar().FindByID(commands::find, FALSE), nullptr);
 }
 
+TEST_F(RibbonBarTest, AHiddenElementHidesNoVisibleOneFromTheSearch) {
+    constexpr UINT id = commands::firstHandled + 500;
+    CMFCRibbonButton* shown[2] = {};
+    const auto add = [&](const auto& put, int place) {
+        auto* hidden = new CMFCRibbonButton(id + static_cast<UINT>(place), L"Hidden");
+        hidden->SetVisible(FALSE);
+        shown[place] = new CMFCRibbonButton(id + static_cast<UINT>(place), L"Shown");
+        hidden->SetData(70 + place);
+        shown[place]->SetData(70 + place);
+        put(hidden);
+        put(shown[place]);
+    };
+    CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(0);
+    add([&](CMFCRibbonBaseElement* element) { panel.Add(element); }, 0);
+    auto* group = new CMFCRibbonButtonsGroup;
+    add([&](CMFCRibbonBaseElement* element) { group->AddButton(element); }, 1);
+    Bar().AddToTabs(group);
+    for (int place = 0; place < 2; ++place) {
+        const UINT wanted = id + static_cast<UINT>(place);
+        EXPECT_EQ(Bar().FindByID(wanted), shown[place]) << place;
+        EXPECT_EQ(Bar().FindByData(70 + place), shown[place]) << place;
+        EXPECT_STREQ(Bar().FindByID(wanted, FALSE)->GetText(), L"Hidden") << "the first of all";
+        shown[place]->SetVisible(FALSE);
+        EXPECT_EQ(Bar().FindByID(wanted), nullptr) << place;
+        EXPECT_EQ(Bar().FindByData(70 + place), nullptr) << place;
+    }
+}
+
+TEST_F(RibbonBarTest, APanelThatIsTakenOutMayOutliveItsCategory) {
+    CMFCRibbonCategory& category = *Bar().GetCategory(0);
+    CMFCRibbonPanel* text = category.GetPanel(1);
+    CList<UINT, UINT> list;
+    list.AddTail(commands::bold);
+    Bar().SetQuickAccessCommands(list);
+    m_pointer.MoveTo(Bar(), CenterOf(commands::italic));
+    ASSERT_TRUE(Element(commands::italic).IsHighlighted());
+    CMFCRibbonBaseElement& italic = Element(commands::italic);
+    ASSERT_TRUE(category.RemovePanel(1, FALSE));
+    EXPECT_EQ(text->GetParentCategory(), nullptr);
+    EXPECT_EQ(italic.GetParentRibbonBar(), nullptr);
+    EXPECT_TRUE(Bar().IsQATEmpty());
+    Bar().RemoveCategory(0);
+    delete text;
+    m_pointer.MoveTo(Bar(), Center(Bar().GetCategory(0)->GetTabRect()));
+    PumpPending();
+    EXPECT_EQ(Bar().FindByID(commands::italic), nullptr);
+}
+
+TEST_F(RibbonBarTest, AButtonThatGetsOrLosesItsMenuIsLaidOutAnew) {
+    auto* button = new CMFCRibbonButton(commands::firstHandled + 510, L"Opens");
+    Bar().GetCategory(0)->GetPanel(0)->Add(button);
+    PumpPending();
+    const auto width = [&] {
+        Bar().EnsureLayout();
+        return button->GetRect().Width();
+    };
+    const int plain = width();
+    ASSERT_GT(plain, 0);
+    button->AddSubItem(new CMFCRibbonButton(commands::firstHandled + 511, L"Item"));
+    const int withArrow = width();
+    EXPECT_GT(withArrow, plain);
+    EXPECT_FALSE(button->GetMenuRect().IsRectEmpty());
+    button->RemoveSubItem(0);
+    EXPECT_EQ(width(), plain);
+    CMenu menu;
+    menu.CreatePopupMenu();
+    button->SetMenu(menu);
+    EXPECT_EQ(width(), withArrow);
+    button->SetMenu(static_cast<HMENU>(nullptr));
+    EXPECT_EQ(width(), plain);
+}
+
 TEST_F(RibbonBarTest, RemovingTheActiveCategoryDeletesItAndActivatesAnother) {
     EXPECT_FALSE(Bar().RemoveCategory(7));
     EXPECT_TRUE(Bar().RemoveCategory(0));
