@@ -47,6 +47,8 @@ public:
     virtual UINT GetNotifyID();
     virtual void SetText(LPCTSTR lpszText);
     LPCTSTR GetText() const { return m_strText; }
+    // The text that the user reads, also in tips, menus and key tips: where it is drawn translated, the translation.
+    virtual CString GetShownText() const { return m_strText; }
     virtual void SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys = nullptr);
     LPCTSTR GetKeys() const { return m_strKeys; }
     LPCTSTR GetMenuKeys() const { return m_strMenuKeys; }

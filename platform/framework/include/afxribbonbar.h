@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <unordered_map>
 
 #include "afxPane.h"
 #include "afxribboncategory.h"
@@ -294,6 +296,7 @@ private:
     friend class CMFCRibbonCategory;
     friend class CMFCRibbonContextCaption;
     friend class CMFCRibbonQuickAccessMoreButton;
+    friend class CMFCRibbonQuickAccessToolBar;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
     friend class RibbonAccess;
@@ -314,7 +317,17 @@ private:
     void NotifyCategoryChanged();
     void SetActiveWithoutCheck(CMFCRibbonCategory* category);
     CMFCRibbonCategory* FirstVisibleCategory() const;
+    /// The first of all elements that fits, in the order of FindByID, without those of the quick access toolbar.
+    CMFCRibbonBaseElement* FindElement(const std::function<bool(CMFCRibbonBaseElement&)>& fits) const;
+    /// Fills in, for each id in it, the element that the quick access toolbar copies; one walk for all.
+    void FindQuickAccessOriginals(std::unordered_map<UINT, CMFCRibbonBaseElement*>& originals) const;
+    CMFCRibbonBaseElement* FindQuickAccessOriginal(UINT uiCmdID) const;
+    /// What is copied when the user adds the element: a copy stands for its original. NULL: nothing.
+    CMFCRibbonBaseElement* GetQuickAccessSource(CMFCRibbonBaseElement* pElement) const;
     void ApplyDefaultQuickAccess();
+    /// Applies the default state again when an element has come that it had missed.
+    void CompleteDefaultQuickAccess();
+    void ForgetQuickAccessOriginal(const CMFCRibbonBaseElement& element);
     void ToggleQuickAccessCommand(UINT uiCmdID);
     void AddPlaceOfQuickAccess(class RibbonMenu& menu);
     void SetHot(CMFCRibbonBaseElement* element, CPoint point);

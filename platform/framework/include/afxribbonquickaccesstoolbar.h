@@ -71,8 +71,14 @@ public:
 
     /// Copies the element to the end of the toolbar. FALSE when it is there already or cannot be copied.
     BOOL Add(CMFCRibbonBaseElement* pElem);
+    /// The element was copied and its copy is still there.
+    BOOL HasCopyOf(const CMFCRibbonBaseElement* pElem) const { return m_copies.count(pElem) != 0; }
+    /// The copy with that id itself, not what it has in its menu; null when there is none.
+    CMFCRibbonBaseElement* FindCopyByID(UINT uiCmdID) const;
     /// Deletes the copy itself, or the copy of the element. FALSE when there is none.
     BOOL Remove(CMFCRibbonBaseElement* pElem);
+    /// In place of the group's, which knows no originals.
+    void RemoveAll();
     /// Replaces all copies. Ids that no element of the bar has are left out; 0 is a separator.
     void SetCommands(CMFCRibbonBar* pRibbonBar, const CList<UINT, UINT>& lstCommands);
     /// Ids in the toolbar's order, without separators.
@@ -96,14 +102,19 @@ public:
     CMFCRibbonBaseElement* GetDroppedDown() override;
 
 private:
+    using Originals = std::unordered_map<UINT, CMFCRibbonBaseElement*>; // by id; null: none was found
+
+    void SetCommands(const CList<UINT, UINT>& commands, const Originals& originals);
     CMFCRibbonBaseElement* MakeCopy(CMFCRibbonBaseElement& source) const;
     void Append(CMFCRibbonBaseElement* copy, const CMFCRibbonBaseElement* source);
     void DeleteAt(int position);
-    /// An element of the bar goes: its copy goes with it.
-    void OnOriginalDestroyed(const CMFCRibbonBaseElement* original);
+    /// An element of the bar goes: its copy goes with it. TRUE: it had one.
+    BOOL OnOriginalDestroyed(const CMFCRibbonBaseElement* original);
 
     CRect m_rectCommands;
     CMFCRibbonQuickAccessCustomizeButton m_btnCustomize;
     CMFCRibbonQuickAccessMoreButton m_btnMore;
-    std::unordered_map<const CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_copies; // by original
+    // Copies by the element that was copied, and back; that element may have an original itself.
+    std::unordered_map<const CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_copies;
+    std::unordered_map<const CMFCRibbonBaseElement*, const CMFCRibbonBaseElement*> m_sources;
 };

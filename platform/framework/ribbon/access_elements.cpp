@@ -193,5 +193,6 @@ void CMFCRibbonBar::ForgetElement(CMFCRibbonBaseElement& element) {
     if (m_parts != nullptr) {
         m_parts->keyboard->OnElementDestroyed(element);
         m_parts->access->Forget(element);
+        ForgetQuickAccessOriginal(element);
     }
 }

@@ -140,7 +140,6 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
         m_parts->applicationButton = nullptr;
     }
     ForgetElement(*pElement);
-    m_parts->quickAccess.OnOriginalDestroyed(pElement);
 }
 
 // ---- painting

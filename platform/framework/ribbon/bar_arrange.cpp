@@ -72,9 +72,7 @@ void CMFCRibbonBar::RecalcLayout() {
     for (const auto& category : m_parts->categories) {
         category->m_parts->measured = false;
     }
-    if (m_parts->quickAccessPending && !m_parts->quickAccessChosen) {
-        ApplyDefaultQuickAccess();
-    }
+    CompleteDefaultQuickAccess();
     MarkLayoutDirty();
     EnsureLayout();
 }

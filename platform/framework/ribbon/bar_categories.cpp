@@ -142,6 +142,9 @@ void CMFCRibbonBar::RemoveAllCategories() {
     m_parts->quickAccess.RemoveAll();
     m_parts->categories.clear();
     m_parts->contexts.clear();
+    if (!m_parts->quickAccessChosen) {
+        ApplyDefaultQuickAccess();
+    }
     MarkLayoutDirty();
 }
 

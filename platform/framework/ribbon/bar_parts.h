@@ -71,8 +71,8 @@ struct RibbonBarParts {
     CMFCRibbonApplicationButton* applicationButton = nullptr; // the host's
     CSize applicationButtonSize{0, 0};                        // at 96 DPI
     CMFCRibbonQuickAccessToolBarDefaultState quickAccessDefault;
-    bool quickAccessChosen = false;  // SetQuickAccessCommands was called: the default state does not apply
-    bool quickAccessPending = false; // the default state names commands that no element had yet
+    bool quickAccessChosen = false;       // SetQuickAccessCommands was called: the default state does not apply
+    std::vector<UINT> quickAccessMissing; // commands of the default state that no element has
     CMFCRibbonQuickAccessToolBar quickAccess;
 
     // Nothing here outlives the element: each tells the bar when it goes.

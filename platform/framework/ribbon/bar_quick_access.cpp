@@ -1,12 +1,26 @@
 // The quick access toolbar as the bar's hosts and users change it.
 #include "afxribbonbar.h"
 
+#include <algorithm>
+#include <unordered_map>
+
 #include "ribbon/bar_menus.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/element_walk.h"
+
+using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
+
+namespace {
+
+CString NameOf(const CMFCRibbonBaseElement& element) {
+    const CString text = element.GetShownText();
+    return text.IsEmpty() ? element.GetToolTipText() : text;
+}
+
+} // namespace
 
 void CMFCRibbonBar::SetQuickAccessCommands(const CList<UINT, UINT>& lstCommands, BOOL bRecalcLayout) {
     m_parts->quickAccessChosen = true;
-    m_parts->quickAccessPending = false;
     m_parts->quickAccess.SetCommands(this, lstCommands);
     MarkLayoutDirty();
     if (bRecalcLayout) {
@@ -29,15 +43,101 @@ void CMFCRibbonBar::SetQuickAccessDefaultState(const CMFCRibbonQuickAccessToolBa
 void CMFCRibbonBar::ApplyDefaultQuickAccess() {
     const CMFCRibbonQuickAccessToolBarDefaultState& state = m_parts->quickAccessDefault;
     CList<UINT, UINT> visible;
-    INT_PTR commands = 0;
+    std::unordered_map<UINT, CMFCRibbonBaseElement*> originals;
     for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
         if (state.m_arVisibleState[index]) {
             visible.AddTail(state.m_arCommands[index]);
-            ++commands;
+            originals.emplace(state.m_arCommands[index], nullptr);
         }
     }
-    m_parts->quickAccess.SetCommands(this, visible);
-    m_parts->quickAccessPending = m_parts->quickAccess.GetCount() < commands;
+    FindQuickAccessOriginals(originals);
+    m_parts->quickAccess.SetCommands(visible, originals);
+    m_parts->quickAccessMissing.clear();
+    for (const auto& [id, original] : originals) {
+        if (id != 0 && original == nullptr) {
+            m_parts->quickAccessMissing.push_back(id);
+        }
+    }
+}
+
+void CMFCRibbonBar::CompleteDefaultQuickAccess() {
+    if (m_parts->quickAccessChosen || m_parts->quickAccessMissing.empty()) {
+        return;
+    }
+    std::unordered_map<UINT, CMFCRibbonBaseElement*> missing;
+    for (const UINT id : m_parts->quickAccessMissing) {
+        missing.emplace(id, nullptr);
+    }
+    FindQuickAccessOriginals(missing);
+    if (std::any_of(missing.begin(), missing.end(), [](const auto& one) { return one.second != nullptr; })) {
+        ApplyDefaultQuickAccess();
+    }
+}
+
+// The default state brings the copy back with the next element of that id.
+void CMFCRibbonBar::ForgetQuickAccessOriginal(const CMFCRibbonBaseElement& element) {
+    if (m_parts->quickAccess.OnOriginalDestroyed(&element) && !m_parts->quickAccessChosen) {
+        m_parts->quickAccessMissing.push_back(element.GetID());
+    }
+}
+
+// ---- what it copies
+
+CMFCRibbonBaseElement* CMFCRibbonBar::FindElement(const std::function<bool(CMFCRibbonBaseElement&)>& fits) const {
+    ElementArray elements;
+    const auto firstOf = [&]() -> CMFCRibbonBaseElement* {
+        for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+            if (CMFCRibbonBaseElement* found = ribbon::FirstWithin(*elements[index], fits)) {
+                return found;
+            }
+        }
+        return nullptr;
+    };
+    for (const auto& category : m_parts->categories) {
+        category->GetElements(elements);
+        if (CMFCRibbonBaseElement* found = firstOf()) {
+            return found;
+        }
+    }
+    elements.RemoveAll();
+    for (const auto& element : m_parts->tabElements) {
+        elements.Add(element.get());
+    }
+    if (m_parts->applicationButton != nullptr) {
+        elements.Add(m_parts->applicationButton);
+    }
+    if (CMFCRibbonBaseElement* found = firstOf()) {
+        return found;
+    }
+    elements.RemoveAll();
+    if (m_parts->mainCategory != nullptr) {
+        m_parts->mainCategory->GetElements(elements);
+    }
+    return firstOf();
+}
+
+void CMFCRibbonBar::FindQuickAccessOriginals(std::unordered_map<UINT, CMFCRibbonBaseElement*>& originals) const {
+    originals.erase(0); // a separator
+    std::size_t open = originals.size();
+    FindElement([&](CMFCRibbonBaseElement& element) {
+        const auto wanted = originals.find(element.GetID());
+        if (wanted != originals.end() && wanted->second == nullptr && element.CanBeAddedToQuickAccessToolBar()) {
+            wanted->second = &element;
+            --open;
+        }
+        return open == 0;
+    });
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBar::FindQuickAccessOriginal(UINT uiCmdID) const {
+    return FindElement([uiCmdID](CMFCRibbonBaseElement& element) {
+        return element.GetID() == uiCmdID && element.CanBeAddedToQuickAccessToolBar();
+    });
+}
+
+CMFCRibbonBaseElement* CMFCRibbonBar::GetQuickAccessSource(CMFCRibbonBaseElement* pElement) const {
+    const bool isCopy = pElement != nullptr && m_parts->quickAccess.Find(pElement) != nullptr;
+    return isCopy ? pElement->GetOriginal() : pElement;
 }
 
 void CMFCRibbonBar::SetQuickAccessToolbarOnTop(BOOL bOnTop) {
@@ -58,10 +158,10 @@ CMFCRibbonBaseElement* CMFCRibbonBar::GetQATDroppedDown() { return m_parts->quic
 void CMFCRibbonBar::ToggleQuickAccessCommand(UINT uiCmdID) {
     CMFCRibbonQuickAccessToolBar& toolbar = m_parts->quickAccess;
     m_parts->quickAccessChosen = true;
-    if (CMFCRibbonBaseElement* copy = toolbar.FindByID(uiCmdID)) {
+    if (CMFCRibbonBaseElement* copy = toolbar.FindCopyByID(uiCmdID)) {
         toolbar.Remove(copy);
     } else {
-        toolbar.Add(FindByID(uiCmdID, FALSE, TRUE));
+        toolbar.Add(FindQuickAccessOriginal(uiCmdID));
     }
     MarkLayoutDirty();
 }
@@ -78,10 +178,16 @@ BOOL CMFCRibbonBar::OnShowRibbonQATMenu(CWnd* pWnd, int x, int y, CMFCRibbonBase
     const CMFCRibbonQuickAccessToolBarDefaultState& state = m_parts->quickAccessDefault;
     RibbonMenu menu;
     menu.AddHeading(RibbonText(RibbonTextId::QuickAccessCustomize));
+    std::unordered_map<UINT, CMFCRibbonBaseElement*> originals;
+    for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
+        originals.emplace(state.m_arCommands[index], nullptr);
+    }
+    FindQuickAccessOriginals(originals);
     for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
         const UINT id = state.m_arCommands[index];
-        if (CMFCRibbonBaseElement* element = FindByID(id, FALSE, TRUE)) {
-            menu.AddCheck(element->GetText(), m_parts->quickAccess.FindByID(id) != nullptr,
+        const auto original = originals.find(id);
+        if (original != originals.end() && original->second != nullptr) {
+            menu.AddCheck(NameOf(*original->second), m_parts->quickAccess.FindCopyByID(id) != nullptr,
                           [this, id] { ToggleQuickAccessCommand(id); });
         }
     }
@@ -101,10 +207,11 @@ BOOL CMFCRibbonBar::OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbon
             MarkLayoutDirty();
         });
     } else if (pHit != nullptr && pHit->CanBeAddedToQuickAccessToolBar()) {
-        const bool isThere = m_parts->quickAccess.FindByOriginal(pHit) != nullptr;
-        menu.AddCommand(RibbonText(RibbonTextId::QuickAccessAdd), !isThere, [this] {
+        const CMFCRibbonBaseElement* source = GetQuickAccessSource(pHit);
+        const bool canAdd = source != nullptr && !m_parts->quickAccess.HasCopyOf(source);
+        menu.AddCommand(RibbonText(RibbonTextId::QuickAccessAdd), canAdd, [this] {
             m_parts->quickAccessChosen = true;
-            m_parts->quickAccess.Add(m_parts->menuSubject);
+            m_parts->quickAccess.Add(GetQuickAccessSource(m_parts->menuSubject));
             MarkLayoutDirty();
         });
     }

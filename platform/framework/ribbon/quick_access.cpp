@@ -7,8 +7,6 @@
 #include "ribbon/element_metrics.h"
 #include "ribbon/metrics.h"
 
-using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
-
 // ---- the default state
 
 CMFCRibbonQuickAccessToolBarDefaultState::CMFCRibbonQuickAccessToolBarDefaultState() = default;
@@ -122,11 +120,12 @@ void CMFCRibbonQuickAccessToolBar::Append(CMFCRibbonBaseElement* copy, const CMF
     m_arButtons.Add(copy);
     if (source != nullptr) {
         m_copies[source] = copy;
+        m_sources[copy] = source;
     }
 }
 
 BOOL CMFCRibbonQuickAccessToolBar::Add(CMFCRibbonBaseElement* pElem) {
-    if (pElem == nullptr || m_copies.count(pElem) != 0) {
+    if (pElem == nullptr || HasCopyOf(pElem)) {
         return FALSE;
     }
     CMFCRibbonBaseElement* copy = MakeCopy(*pElem);
@@ -135,6 +134,15 @@ BOOL CMFCRibbonQuickAccessToolBar::Add(CMFCRibbonBaseElement* pElem) {
     }
     Append(copy, pElem);
     return TRUE;
+}
+
+CMFCRibbonBaseElement* CMFCRibbonQuickAccessToolBar::FindCopyByID(UINT uiCmdID) const {
+    for (int position = 0; position < GetCount(); ++position) {
+        if (m_arButtons[position]->GetID() == uiCmdID && !m_arButtons[position]->IsSeparator()) {
+            return m_arButtons[position];
+        }
+    }
+    return nullptr;
 }
 
 BOOL CMFCRibbonQuickAccessToolBar::Remove(CMFCRibbonBaseElement* pElem) {
@@ -152,48 +160,48 @@ BOOL CMFCRibbonQuickAccessToolBar::Remove(CMFCRibbonBaseElement* pElem) {
 void CMFCRibbonQuickAccessToolBar::DeleteAt(int position) {
     CMFCRibbonBaseElement* copy = m_arButtons[position];
     m_arButtons.RemoveAt(position);
-    m_copies.erase(copy->GetOriginal());
+    if (const auto known = m_sources.find(copy); known != m_sources.end()) {
+        m_copies.erase(known->second);
+        m_sources.erase(known);
+    }
     delete copy;
 }
 
-void CMFCRibbonQuickAccessToolBar::OnOriginalDestroyed(const CMFCRibbonBaseElement* original) {
-    const auto known = m_copies.find(original);
-    if (known != m_copies.end()) {
-        Remove(known->second);
-    }
+void CMFCRibbonQuickAccessToolBar::RemoveAll() {
+    m_copies.clear();
+    m_sources.clear();
+    CMFCRibbonButtonsGroup::RemoveAll();
 }
 
-// One walk over all elements finds the originals of all commands, however many there are.
+BOOL CMFCRibbonQuickAccessToolBar::OnOriginalDestroyed(const CMFCRibbonBaseElement* original) {
+    const auto known = m_copies.find(original);
+    return known != m_copies.end() && Remove(known->second);
+}
+
 void CMFCRibbonQuickAccessToolBar::SetCommands(CMFCRibbonBar* pRibbonBar, const CList<UINT, UINT>& lstCommands) {
-    m_copies.clear();
-    RemoveAll();
     if (pRibbonBar == nullptr) {
+        RemoveAll();
         return;
     }
-    std::unordered_map<UINT, CMFCRibbonBaseElement*> originals;
+    Originals originals;
     for (POSITION position = lstCommands.GetHeadPosition(); position != nullptr;) {
         originals.emplace(lstCommands.GetNext(position), nullptr);
     }
-    for (int index = 0; index < pRibbonBar->GetCategoryCount(); ++index) {
-        ElementArray elements;
-        pRibbonBar->GetCategory(index)->GetElements(elements);
-        for (INT_PTR item = 0; item < elements.GetSize(); ++item) {
-            const auto wanted = originals.find(elements[item]->GetID());
-            if (wanted != originals.end() && wanted->second == nullptr &&
-                elements[item]->CanBeAddedToQuickAccessToolBar()) {
-                wanted->second = elements[item];
-            }
-        }
-    }
-    for (POSITION position = lstCommands.GetHeadPosition(); position != nullptr;) {
-        const UINT id = lstCommands.GetNext(position);
+    pRibbonBar->FindQuickAccessOriginals(originals);
+    SetCommands(lstCommands, originals);
+}
+
+void CMFCRibbonQuickAccessToolBar::SetCommands(const CList<UINT, UINT>& commands, const Originals& originals) {
+    RemoveAll();
+    for (POSITION position = commands.GetHeadPosition(); position != nullptr;) {
+        const UINT id = commands.GetNext(position);
         if (id == 0) {
             auto* separator = new CMFCRibbonSeparator;
-            separator->SetParentRibbonBar(pRibbonBar);
+            separator->SetParentRibbonBar(GetParentRibbonBar());
             separator->SetQATMode(TRUE);
             Append(separator, nullptr);
-        } else {
-            Add(originals[id]);
+        } else if (const auto original = originals.find(id); original != originals.end()) {
+            Add(original->second);
         }
     }
 }

@@ -213,6 +213,11 @@ TEST_F(RibbonBuilder, GroupBeforePutsASeparatorBeforeTheElement) {
     EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton 1 #1 Separator UNIcoButton 2 #2)]");
 }
 
+TEST_F(RibbonBuilder, GroupBeforeOfAPanelsFirstElementPutsNone) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON' GROUPBEFORE='Y'/><e KEYWORD='2' TYPE='BUTTON'/>")));
+    EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton 1 #1 UNIcoButton 2 #2)]");
+}
+
 TEST_F(RibbonBuilder, SeparatorStandsAlsoBeforeAnElementThatIsNotBuilt) {
     ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='lamp' GROUPBEFORE='Y'/>")));
     EXPECT_EQ(Outline(), L"[C #0 (P UNIcoButton 1 #1 Separator)]");
@@ -436,6 +441,8 @@ TEST_F(RibbonBuilder, EditIsAsWideAsConfiguredOrFiftyAndHoldsTheName) {
         EXPECT_EQ(edit->GetID(), 7u);
         EXPECT_EQ(edit->GetEditText(), L"name");
         EXPECT_EQ(CString(edit->GetText()), L"");
+        EXPECT_EQ(edit->GetImageIndex(FALSE), -1);
+        EXPECT_EQ(edit->GetImageIndex(TRUE), -1);
         EXPECT_EQ(edit->GetToolTipText(), L"tip");
     }
 }
@@ -495,6 +502,12 @@ TEST_F(RibbonBuilder, ALightOnlyComboKeepsItsDropDownHeight) {
     ASSERT_NE(light, nullptr);
     ExpectBuiltCombo(*light);
     EXPECT_EQ(light->GetDropDownHeight(), CMFCRibbonComboBox(7, FALSE).GetDropDownHeight());
+}
+
+TEST_F(RibbonBuilder, ASubItemGoesOntoTheQuickAccessToolbarToo) {
+    ASSERT_TRUE(Load("<r KEYWORD='QK_Rbbion_QAToolbar'><i KEYWORD='S'/><i KEYWORD='B'/></r>" +
+                     Panel("<e KEYWORD='B' TYPE='BUTTON'><s KEYWORD='S' TYPE='BUTTON'/></e>")));
+    EXPECT_EQ(QuickAccessIds(), (std::vector<UINT>{2, 1}));
 }
 
 TEST_F(RibbonBuilder, AConfiguredComboGoesOntoTheQuickAccessToolbar) {
@@ -557,6 +570,26 @@ TEST_F(ButtonFromKey, CopiesTheCommandsButton) {
     EXPECT_EQ(button->GetIconPath(TRUE), found->GetIconPath(TRUE));
     EXPECT_EQ(button->GetIconPath(FALSE), found->GetIconPath(FALSE));
     EXPECT_EQ(button->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
+}
+
+TEST_F(ButtonFromKey, NameAndTooltipAreTheRegisteredOnesWhateverTheFoundButtonShows) {
+    ASSERT_TRUE(Load(Panel(keyButton)));
+    Element(0)->SetText(L"another text");
+    Element(0)->SetToolTipText(L"another tip");
+    const auto button = Make(L"K");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(CString(button->GetText()), L"<K>");
+    EXPECT_EQ(button->GetToolTipText(), L"tip of <K>");
+}
+
+TEST_F(ButtonFromKey, TakesThePathsOfTheVisibleOneOfTwo) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='pic\\a.ico'/>"
+                           "<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='pic\\b.ico'/>")));
+    EXPECT_EQ(Make(L"K")->GetIconPath(TRUE).Right(5), L"a.ico");
+    Element(0)->SetVisible(FALSE);
+    const auto button = Make(L"K");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->GetIconPath(TRUE).Right(5), L"b.ico");
 }
 
 TEST_F(ButtonFromKey, LeavesIconsAndDescriptionFlagsOff) {

@@ -82,6 +82,53 @@ TEST_F(QuickAccessPopup, TheContextMenuAddsAnElementAndRemovesItsCopy) {
     EXPECT_THAT(QuickAccessCommands(), IsEmpty());
 }
 
+TEST_F(QuickAccessPopup, ASubItemIsToggledThoughItsButtonsCopyIsThere) {
+    SetQuickAccessDefault({kShapes}, {kLine});
+    Click(CustomizeButton());
+    EXPECT_FALSE(Row(L"Line").IsChecked());
+    Click(Row(L"Line"));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(kShapes, kLine));
+    Click(CustomizeButton());
+    EXPECT_TRUE(Row(L"Line").IsChecked());
+    Click(Row(L"Line"));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(kShapes));
+}
+
+TEST_F(QuickAccessPopup, ARowOfACopysMenuIsAddedAsWhatItIsACopyOf) {
+    SetQuickAccessDefault({kShapes});
+    const auto openContextMenu = [this] {
+        Click(At(Bar().GetQATCommandsLocation().CenterPoint()));
+        CPoint screen = Row(L"Star").GetRect().CenterPoint();
+        PopupBar().ClientToScreen(&screen);
+        ::SendMessage(PopupBar(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(PopupBar().GetSafeHwnd()),
+                      MAKELPARAM(screen.x, screen.y));
+    };
+    openContextMenu();
+    Click(Row(L"Add to Quick Access Toolbar"));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(kShapes, kStar));
+    ElementArray stars;
+    Bar().GetElementsByID(kStar, stars);
+    EXPECT_EQ(stars[stars.GetUpperBound()]->GetOriginal(), &SubItem(1));
+    CMFCRibbonPanelMenu::DismissAll();
+    Shapes().RemoveSubItem(1);
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(kShapes));
+}
+
+TEST_F(QuickAccessPopup, WhatOutlivesTheCategoriesIsAddedAgainAfterThey) {
+    auto* tabButton = new CMFCRibbonButton(kOne + 1, L"Tab");
+    Bar().AddToTabs(tabButton);
+    CList<UINT, UINT> list;
+    list.AddTail(kOne + 1);
+    Bar().SetQuickAccessCommands(list);
+    Bar().RemoveAllCategories();
+    FillBar();
+    Bar().RecalcLayout();
+    EXPECT_THAT(QuickAccessCommands(), IsEmpty());
+    Bar().OnShowRibbonContextMenu(&Bar(), 50, 50, tabButton);
+    Click(Row(L"Add to Quick Access Toolbar"));
+    EXPECT_THAT(QuickAccessCommands(), ElementsAre(kOne + 1));
+}
+
 TEST_F(QuickAccessPopup, AnElementIsAddedFromACollapsedPanelsPopup) {
     CMFCRibbonPanel& panel = OpenCollapsedPanel();
     CPoint screen = panel.GetElement(0)->GetRect().CenterPoint();
