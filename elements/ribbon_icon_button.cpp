@@ -143,38 +143,38 @@ void CMFCRibbonUNIcoButton::DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, C
                  DI_NORMAL | (isRightToLeft ? DI_NOMIRROR : 0));
 }
 
-CString CMFCRibbonUNIcoButton::DisplayedText() const {
+CString CMFCRibbonUNIcoButton::GetShownText() const {
     return CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1).c_str();
 }
 
 // The member, not SetText: that would take a part of the text for key tips.
 void CMFCRibbonUNIcoButton::OnDraw(CDC* dc) {
-    const Lent displayed(m_strText, DisplayedText());
+    const Lent displayed(m_strText, GetShownText());
     CMFCRibbonButton::OnDraw(dc);
 }
 
 void CMFCRibbonUNIcoButton::OnAfterChangeRect(CDC* dc) {
-    const Lent displayed(m_strText, DisplayedText());
+    const Lent displayed(m_strText, GetShownText());
     CMFCRibbonButton::OnAfterChangeRect(dc);
 }
 
 void CMFCRibbonUNIcoButton::OnCalcTextSize(CDC* dc) {
-    const Lent displayed(m_strText, DisplayedText());
+    const Lent displayed(m_strText, GetShownText());
     CMFCRibbonButton::OnCalcTextSize(dc);
 }
 
 CSize CMFCRibbonUNIcoButton::GetRegularSize(CDC* dc) {
-    const Lent displayed(m_strText, DisplayedText());
+    const Lent displayed(m_strText, GetShownText());
     return CMFCRibbonButton::GetRegularSize(dc);
 }
 
 CSize CMFCRibbonUNIcoButton::GetIntermediateSize(CDC* dc) {
-    const Lent displayed(m_strText, DisplayedText());
+    const Lent displayed(m_strText, GetShownText());
     return CMFCRibbonButton::GetIntermediateSize(dc);
 }
 
 CSize CMFCRibbonUNIcoButton::GetCompactSize(CDC* dc) {
-    const Lent displayed(m_strText, DisplayedText());
+    const Lent displayed(m_strText, GetShownText());
     return CMFCRibbonButton::GetCompactSize(dc);
 }
 

@@ -55,7 +55,7 @@ HWND OwnerOf(const CWnd* window) {
 
 CMFCRibbonLabelEx::CMFCRibbonLabelEx(LPCTSTR text, BOOL multiLine) : CMFCRibbonLabel(text, multiLine) {}
 
-CString CMFCRibbonLabelEx::DisplayedText() const {
+CString CMFCRibbonLabelEx::GetShownText() const {
     return CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1).c_str();
 }
 
@@ -72,7 +72,7 @@ void CMFCRibbonLabelEx::CopyFrom(const CMFCRibbonBaseElement& src) {
 // The room is that of the text which will be shown.
 CSize CMFCRibbonLabelEx::GetRegularSize(CDC* dc) {
     const CString key = m_strText;
-    m_strText = DisplayedText();
+    m_strText = GetShownText();
     const CSize size = CMFCRibbonLabel::GetRegularSize(dc);
     m_strText = key;
     return size;
@@ -92,7 +92,7 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
     }
     rect.DeflateRect(m_szMargin.cx, 0);
 
-    const CString text = DisplayedText();
+    const CString text = GetShownText();
     UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
     if (IsMultiLine() && !IsMenuMode()) {
         format = DT_WORDBREAK | DT_NOPREFIX;

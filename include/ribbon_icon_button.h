@@ -54,6 +54,8 @@ public:
     // CMFCRibbonButton. A button that was copied for another bar takes size and picture from the one that it was copied
     // from, while that one is an icon-file button.
     CSize GetImageSize(RibbonImageType type) const override;
+    /// The translation of the text.
+    CString GetShownText() const override;
     void DrawImage(CDC* dc, RibbonImageType type, CRect rect) override;
     void OnDraw(CDC* dc) override;
     // Measure and place the text that OnDraw shows.
@@ -67,7 +69,6 @@ public:
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
 
 private:
-    CString DisplayedText() const;
     CMFCRibbonUNIcoButton* GetIconButtonOriginal() const;
     void DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type, CRect rect);
     void DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect);

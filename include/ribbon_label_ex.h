@@ -20,6 +20,8 @@ public:
     /// 0xFFFFFFFF: the visual manager's colour.
     void SetTextColor(COLORREF color) { m_textColor = color; }
 
+    /// The translation of the text.
+    CString GetShownText() const override;
     void OnDraw(CDC* dc) override;
     void OnLButtonDown(CPoint point) override;
     CSize GetRegularSize(CDC* dc) override;
@@ -29,8 +31,6 @@ protected:
     CMFCRibbonLabelEx() = default;
 
 private:
-    CString DisplayedText() const;
-
     bool m_right = false;
     COLORREF m_textColor = 0xFFFFFFFF;
     int m_leftOffset = 0;

@@ -57,7 +57,8 @@ LONG StateOf(const CMFCRibbonBaseElement& element) {
 
 BOOL CMFCRibbonBaseElement::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     data = {};
-    data.m_strName = WithoutMnemonic(m_strText.IsEmpty() ? GetToolTipText() : m_strText);
+    const CString text = GetShownText();
+    data.m_strName = WithoutMnemonic(text.IsEmpty() ? GetToolTipText() : text);
     data.m_strDescription = GetDescription();
     if (IsTabStop()) {
         data.m_strKeys = KeysOf(*this);

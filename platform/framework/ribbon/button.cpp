@@ -243,7 +243,7 @@ void CMFCRibbonButton::OnAfterChangeRect(CDC* pDC) {
 
 // ---- texts
 
-CString CMFCRibbonButton::GetToolTipText() const { return m_strToolTip.IsEmpty() ? m_strText : m_strToolTip; }
+CString CMFCRibbonButton::GetToolTipText() const { return m_strToolTip.IsEmpty() ? GetShownText() : m_strToolTip; }
 
 void CMFCRibbonButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonBaseElement::CopyFrom(src);

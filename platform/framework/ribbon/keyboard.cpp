@@ -33,7 +33,7 @@ std::wstring CharactersOf(UINT key) {
 
 KeyTipWish WishOf(const CMFCRibbonKeyTip& tip) {
     const CMFCRibbonBaseElement& element = *tip.GetElement();
-    CString text = element.GetText();
+    CString text = element.GetShownText();
     if (const auto* tab = dynamic_cast<const CMFCRibbonTab*>(&element); tab != nullptr) {
         text = tab->GetParentCategory()->GetName();
     } else if (text.IsEmpty()) {

@@ -499,7 +499,7 @@ BOOL CMFCRibbonPanelMenuBar::OnLetter(UINT nUpperChar) {
             Activate(&element, Choice::Command);
             return TRUE;
         }
-        const CString text = element.GetText();
+        const CString text = element.GetShownText();
         if (keys.IsEmpty() && !text.IsEmpty() && Upper(text[0]) == letter) {
             byText.push_back(&element);
         }

@@ -81,7 +81,7 @@ BOOL CMFCRibbonPanelMenuBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pR
     const CMFCRibbonBar* bar = GetRibbonBar();
     const bool showsDescription = bar == nullptr || bar->IsToolTipDescrEnabled();
     const CString text = hot->GetToolTipText();
-    const bool saysMore = text != hot->GetText() || (showsDescription && !hot->GetDescription().IsEmpty());
+    const bool saysMore = text != hot->GetShownText() || (showsDescription && !hot->GetDescription().IsEmpty());
     if (text.IsEmpty() || (IsMenuMode() && !saysMore)) {
         return TRUE;
     }
