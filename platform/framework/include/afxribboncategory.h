@@ -41,8 +41,12 @@ public:
 
     BOOL IsLeftScroll() const { return m_bIsLeft; }
     void SetLeftScroll(BOOL bIsLeft) { m_bIsLeft = bIsLeft; }
+    BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
     void OnDraw(CDC* pDC) override;
-    void OnLButtonUp(CPoint point) override;
+    BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
+
+protected:
+    void OnClick(CPoint point) override;
 
 private:
     BOOL m_bIsLeft = FALSE;

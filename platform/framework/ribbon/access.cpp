@@ -111,6 +111,12 @@ void RibbonAccess::AppendShown(CMFCRibbonBaseElement* element, std::vector<Node>
     }
 }
 
+void RibbonAccess::AppendPlaced(CMFCRibbonBaseElement* element, std::vector<Node>& nodes) {
+    if (!element->GetRect().IsRectEmpty()) {
+        AppendShown(element, nodes);
+    }
+}
+
 void RibbonAccess::AppendButtons(const CMFCRibbonButtonsGroup& group, std::vector<Node>& nodes) {
     for (int place = 0; place < group.GetCount(); ++place) {
         AppendShown(group.GetButton(place), nodes);

@@ -78,6 +78,8 @@ protected:
     virtual void Invoke(CMFCRibbonBaseElement& element) = 0;
     static Node ElementNode(CMFCRibbonBaseElement* element) { return {Node::Kind::Element, element}; }
     static void AppendShown(CMFCRibbonBaseElement* element, std::vector<Node>& nodes);
+    /// What the layout gives a place only while it is needed.
+    static void AppendPlaced(CMFCRibbonBaseElement* element, std::vector<Node>& nodes);
     static void AppendButtons(const CMFCRibbonButtonsGroup& group, std::vector<Node>& nodes);
     static RibbonBarParts& PartsOf(CMFCRibbonBar& bar);
     static CMFCRibbonBaseElement* TabOf(CMFCRibbonCategory& category);

@@ -23,6 +23,14 @@ std::vector<Node> RibbonBarAccess::ChildrenOf(const Node& node) const {
     case Kind::Root:
         AppendShown(parts.applicationButton, nodes);
         nodes.push_back({Kind::QuickAccess});
+        for (const auto& context : parts.contexts) {
+            AppendPlaced(context.caption.get(), nodes);
+        }
+        for (const auto* buttons : {&parts.captionButtons, &parts.childButtons}) {
+            for (const auto& button : *buttons) {
+                AppendPlaced(button.get(), nodes);
+            }
+        }
         for (const auto& element : parts.tabElements) {
             AppendShown(element.get(), nodes);
         }
@@ -33,14 +41,17 @@ std::vector<Node> RibbonBarAccess::ChildrenOf(const Node& node) const {
         return nodes;
     case Kind::QuickAccess:
         AppendButtons(parts.quickAccess, nodes);
+        AppendPlaced(&parts.quickAccess.GetMoreButton(), nodes);
         AppendShown(&parts.quickAccess.GetCustomizeButton(), nodes);
         return nodes;
     case Kind::TabList:
+        AppendPlaced(&parts.tabScrollLeft, nodes);
         for (const auto& category : parts.categories) {
             if (category->IsVisible()) {
                 AppendShown(TabOf(*category), nodes);
             }
         }
+        AppendPlaced(&parts.tabScrollRight, nodes);
         return nodes;
     default:
         return RibbonAccess::ChildrenOf(node);
@@ -49,11 +60,14 @@ std::vector<Node> RibbonBarAccess::ChildrenOf(const Node& node) const {
 
 RibbonAccessNode RibbonBarAccess::ParentOf(const Node& node) const {
     if (node.kind == Kind::Element) {
+        RibbonBarParts& parts = PartsOf(m_bar);
         const CMFCRibbonBaseElement& element = *node.anchor;
-        if (element.IsKindOf(RUNTIME_CLASS(CMFCRibbonTab))) {
+        if (element.IsKindOf(RUNTIME_CLASS(CMFCRibbonTab)) || &element == &parts.tabScrollLeft ||
+            &element == &parts.tabScrollRight) {
             return {Kind::TabList};
         }
-        if (element.IsQATMode() || &element == &PartsOf(m_bar).quickAccess.GetCustomizeButton()) {
+        if (element.IsQATMode() || &element == &parts.quickAccess.GetCustomizeButton() ||
+            &element == &parts.quickAccess.GetMoreButton()) {
             return {Kind::QuickAccess};
         }
     }

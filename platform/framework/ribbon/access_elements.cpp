@@ -153,6 +153,12 @@ BOOL CMFCRibbonTab::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     return TRUE;
 }
 
+BOOL CRibbonCategoryScroll::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonButton::SetACCData(pParent, data);
+    data.m_strName = RibbonAccessText(m_bIsLeft ? TextId::ScrollLeft : TextId::ScrollRight);
+    return TRUE;
+}
+
 void CMFCRibbonBaseElement::NotifyAccessibility(DWORD dwEvent) {
     if (m_pParentMenu != nullptr) {
         m_pParentMenu->NotifyElementEvent(dwEvent, *this);

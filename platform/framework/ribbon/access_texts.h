@@ -16,6 +16,8 @@ enum class RibbonAccessTextId : UINT {
     Switch = 17157,
     Edit = 17158,
     Alt = 17159,
+    ScrollLeft = 17160,
+    ScrollRight = 17161,
 };
 
 CString RibbonAccessText(RibbonAccessTextId id);

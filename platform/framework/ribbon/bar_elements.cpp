@@ -116,10 +116,7 @@ void CRibbonCategoryScroll::OnDraw(CDC* pDC) {
     CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryScroll(pDC, this);
 }
 
-void CRibbonCategoryScroll::OnLButtonUp(CPoint point) {
-    if (!IsPressed() || !m_rect.PtInRect(point)) {
-        return;
-    }
+void CRibbonCategoryScroll::OnClick(CPoint /*point*/) {
     // Without a category it scrolls the tabs.
     if (GetParentCategory() != nullptr) {
         GetParentCategory()->OnScrollHorz(m_bIsLeft);

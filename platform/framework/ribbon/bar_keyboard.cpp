@@ -61,10 +61,21 @@ CMFCRibbonBaseElement* CMFCRibbonBar::GetFocused() {
     }
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
     m_parts->quickAccess.GetElements(elements);
+    elements.Add(&m_parts->quickAccess.GetMoreButton());
     elements.Add(&m_parts->quickAccess.GetCustomizeButton());
+    for (const auto& context : m_parts->contexts) {
+        elements.Add(context.caption.get());
+    }
+    for (const auto* buttons : {&m_parts->captionButtons, &m_parts->childButtons}) {
+        for (const auto& button : *buttons) {
+            elements.Add(button.get());
+        }
+    }
     for (const auto& element : m_parts->tabElements) {
         element->GetElements(elements);
     }
+    elements.Add(&m_parts->tabScrollLeft);
+    elements.Add(&m_parts->tabScrollRight);
     for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
         if (elements[index]->IsFocused()) {
             return elements[index];

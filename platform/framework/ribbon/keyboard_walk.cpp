@@ -197,9 +197,11 @@ RibbonKeyboard::Elements RibbonKeyboard::CaptionStops() const {
     ElementArray commands;
     parts.quickAccess.GetElements(commands);
     AppendStops(commands, stops);
-    CMFCRibbonBaseElement& customize = parts.quickAccess.GetCustomizeButton();
-    if (CanStand(customize) && !Contains(stops, &customize)) {
-        stops.push_back(&customize);
+    for (CMFCRibbonBaseElement* button :
+         {&parts.quickAccess.GetMoreButton(), &parts.quickAccess.GetCustomizeButton()}) {
+        if (CanStand(*button) && !Contains(stops, button)) {
+            stops.push_back(button);
+        }
     }
     return stops;
 }

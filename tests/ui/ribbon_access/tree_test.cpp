@@ -1,5 +1,7 @@
 #include "tests/ui/ribbon_access/accessible.h"
 
+#include <afxribbonpanelmenu.h>
+
 #include <gmock/gmock.h>
 
 using ::testing::ElementsAre;
@@ -122,6 +124,102 @@ TEST_F(AccessTreeTest, TheQuickAccessToolbarHoldsItsCopiesAndItsMenu) {
     EXPECT_EQ(toolbar.ChildAt(1).Name(), L"Paste");
     EXPECT_EQ(toolbar.ChildAt(1).Parent(), toolbar);
     EXPECT_EQ(toolbar.ChildAt(3).Name(), L"Customize Quick Access Toolbar");
+}
+
+TEST_F(AccessTreeTest, TheMoreButtonIsInTheToolbarAndOpensTheRest) {
+    AddManyButtons(40, 20);
+    CList<UINT, UINT> list;
+    list.AddTail(commands::firstHandled + 1000);
+    Bar().SetQuickAccessCommands(list);
+    EXPECT_EQ(Root().ChildAt(1).ChildCount(), 2) << "there is room";
+    for (UINT id = 1; id < 40; ++id) {
+        list.AddTail(commands::firstHandled + 1000 + id);
+    }
+    Bar().SetQuickAccessCommands(list);
+    SetClientWidth(300);
+    const Accessible toolbar = Root().ChildAt(1);
+    ASSERT_EQ(toolbar.ChildCount(), 42);
+    const Accessible more = toolbar.ChildAt(41);
+    EXPECT_EQ(more.Name(), L"More Controls");
+    EXPECT_EQ(more.Parent(), toolbar);
+    EXPECT_EQ(*Root().HitTest(more.Location().CenterPoint()), more);
+    ASSERT_EQ(more.DoDefaultAction(), S_OK);
+    PumpPending();
+    ASSERT_NE(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+    CMFCRibbonPanelMenu::DismissAll();
+    PumpPending();
+    ASSERT_EQ(more.Select(SELFLAG_TAKEFOCUS), S_OK);
+    EXPECT_EQ(*Root().Focus(), more);
+}
+
+TEST_F(AccessTreeTest, TheButtonsThatScrollTheTabsStandBesideThemWhileTheyAreNeeded) {
+    for (int index = 0; index < 30; ++index) {
+        Bar().AddCategory(L"Another category", 0, 0);
+    }
+    SetClientWidth(300);
+    const Accessible tabs = Part(ROLE_SYSTEM_PAGETABLIST);
+    const Accessible right = tabs.ChildAt(tabs.ChildCount());
+    EXPECT_EQ(right.Name(), L"Scroll Right");
+    EXPECT_EQ(right.Role(), ROLE_SYSTEM_PUSHBUTTON);
+    EXPECT_EQ(right.Parent(), tabs);
+    EXPECT_EQ(*Root().HitTest(right.Location().CenterPoint()), right);
+    ASSERT_FALSE(Bar().GetCategory(0)->GetTabRect().IsRectEmpty());
+    ASSERT_EQ(right.DoDefaultAction(), S_OK);
+    PumpPending();
+    EXPECT_TRUE(Bar().GetCategory(0)->GetTabRect().IsRectEmpty());
+    EXPECT_EQ(tabs.ChildAt(1).Name(), L"Scroll Left");
+}
+
+/// The bar in the caption of its frame.
+class CaptionAccessTest : public AccessTest {
+protected:
+    CaptionAccessTest() {
+        m_frame->DestroyWindow();
+        PumpPending();
+        m_frame = new RibbonFrame(TRUE);
+        if (!m_frame->Create(nullptr, L"Ribbon", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 900, 600))) {
+            throw std::runtime_error("the frame could not be created");
+        }
+        m_window = m_frame->GetSafeHwnd();
+        FillBar();
+        Bar().RecalcLayout();
+        PumpPending();
+    }
+    std::optional<Accessible> Find(const std::wstring& name) {
+        for (Accessible& child : Root().Children()) {
+            if (child.Name() == name) {
+                return std::move(child);
+            }
+        }
+        return std::nullopt;
+    }
+};
+
+TEST_F(CaptionAccessTest, TheButtonsOfTheCaptionArePartsOfTheBar) {
+    for (const wchar_t* name : {L"Minimize", L"Maximize", L"Close"}) {
+        const std::optional<Accessible> button = Find(name);
+        ASSERT_TRUE(button) << name;
+        EXPECT_EQ(button->Role(), ROLE_SYSTEM_PUSHBUTTON);
+        EXPECT_EQ(button->Parent(), Root());
+        EXPECT_EQ(*Root().HitTest(button->Location().CenterPoint()), *button);
+    }
+    ASSERT_EQ(Find(L"Maximize")->DoDefaultAction(), S_OK);
+    PumpPending();
+    EXPECT_TRUE(m_frame->IsZoomed());
+}
+
+TEST_F(CaptionAccessTest, TheCaptionOfAContextIsAPartWhileTheContextIsShown) {
+    Bar().AddContextCategory(L"Drawing", L"Tools", 5, AFX_CategoryColor_Red, 0, 0)->AddPanel(L"Panel");
+    PumpPending();
+    EXPECT_FALSE(Find(L"Tools"));
+    Bar().ShowContextCategories(5);
+    PumpPending();
+    const std::optional<Accessible> caption = Find(L"Tools");
+    ASSERT_TRUE(caption);
+    EXPECT_EQ(*Root().HitTest(caption->Location().CenterPoint()), *caption);
+    ASSERT_EQ(caption->DoDefaultAction(), S_OK);
+    PumpPending();
+    EXPECT_EQ(CString(Bar().GetActiveCategory()->GetName()), L"Drawing");
 }
 
 TEST_F(AccessTreeTest, TheHitTestIsTheBars) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "afxRibbonEdit.h"
+#include "afxribbonpanelmenu.h"
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -79,6 +80,27 @@ TEST_F(FocusWalkTest, TabGoesThroughTheBarAndShiftTabBack) {
         Chord(VK_SHIFT, VK_TAB);
         EXPECT_EQ(FocusedText(), *expected);
     }
+}
+
+TEST_F(FocusWalkTest, TheMoreButtonIsAStopAndEnterOpensTheRest) {
+    AddManyButtons(40, 20);
+    CList<UINT, UINT> list;
+    for (UINT id = 0; id < 40; ++id) {
+        list.AddTail(commands::firstHandled + 1000 + id);
+    }
+    Bar().SetQuickAccessCommands(list);
+    SetClientWidth(300);
+    Start();
+    Chord(VK_SHIFT, VK_TAB);
+    ASSERT_TRUE(Bar().GetFocused()->IsKindOf(RUNTIME_CLASS(CMFCRibbonQuickAccessCustomizeButton)));
+    Chord(VK_SHIFT, VK_TAB);
+    ASSERT_TRUE(Bar().GetFocused()->IsKindOf(RUNTIME_CLASS(CMFCRibbonQuickAccessMoreButton)));
+    Press(VK_RETURN);
+    ASSERT_NE(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+    EXPECT_TRUE(
+        CMFCRibbonPanelMenu::GetDeepest()->GetOpener()->IsKindOf(RUNTIME_CLASS(CMFCRibbonQuickAccessMoreButton)));
+    CMFCRibbonPanelMenu::DismissAll();
+    PumpPending();
 }
 
 TEST_F(FocusWalkTest, AnEditKeepsItsArrowsAcrossAndTabLeadsOn) {
