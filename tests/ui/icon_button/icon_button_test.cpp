@@ -7,6 +7,7 @@
 #include "tests/ui/icon_button/button_flags.h"
 
 #include <afxglobals.h>
+#include <afxribbonbar.h>
 #include <afxtoolbarimages.h>
 
 #include <varnhold/language.h>
@@ -242,28 +243,52 @@ TEST_F(IconButton, DisabledButtonIsDrawnGreyAndNotInTheIconsColours) {
     EXPECT_EQ(ExtentDrawn(*button, Small), CSize(26, 36));
 }
 
-TEST_F(IconButton, DisabledPictureIsThatOfAnImageListInItsDisabledStyle) {
+class DisabledPicture : public IconButton {
+protected:
+    DisabledPicture() {
+        // Two colours each, so that a picture the wrong way round is another one.
+        m_large = m_directory.Write("four/large.ico", MakeIconFile(32, {red, blue})).c_str();
+        m_small = m_directory.Write("four/small.ico", MakeIconFile(16, {green, yellow})).c_str();
+    }
+    void ExpectDisabledAsInAnImageList(CMFCRibbonBaseElement::RibbonImageType type, BOOL blends) {
+        CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small, FALSE, blends);
+        button.SetDisabled(TRUE);
+        const int side = type == Large ? 32 : 16;
+        const FileIcon icon(type == Large ? m_large : m_small, side);
+        CMFCToolBarImages images;
+        images.SetImageSize(CSize(side, side));
+        ASSERT_EQ(images.AddIcon(icon.Get(), blends), 0);
+        m_expected.Clear();
+        CAfxDrawState state;
+        ASSERT_TRUE(images.PrepareDrawImage(state, button.GetImageSize(type)));
+        images.Draw(m_expected.Dc(), 10, 20, 0, FALSE, TRUE, FALSE, FALSE, FALSE, 255);
+        images.EndDrawImage(state);
+        ColourDrawn(button, type);
+        for (int y = 0; y < 64; ++y) {
+            for (int x = 0; x < 64; ++x)
+                ASSERT_EQ(m_canvas.At(x, y), m_expected.At(x, y)) << x << ", " << y << " side " << side;
+        }
+    }
+    Canvas m_expected;
+};
+
+TEST_F(DisabledPicture, IsThatOfAnImageListInItsDisabledStyle) {
     for (const BOOL blends : {FALSE, TRUE}) {
         for (const double scale : {1.0, 1.5}) {
             ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(scale));
-            CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small, FALSE, blends);
-            button.SetDisabled(TRUE);
-            const FileIcon icon(m_small, 16);
-            CMFCToolBarImages images;
-            images.SetImageSize(CSize(16, 16));
-            ASSERT_EQ(images.AddIcon(icon.Get(), blends), 0);
-            Canvas expected;
-            CAfxDrawState state;
-            ASSERT_TRUE(images.PrepareDrawImage(state, button.GetImageSize(Small)));
-            images.Draw(expected.Dc(), 10, 20, 0, FALSE, TRUE, FALSE, FALSE, FALSE, 255);
-            images.EndDrawImage(state);
-            ColourDrawn(button, Small);
-            for (int y = 0; y < 64; ++y) {
-                for (int x = 0; x < 64; ++x)
-                    ASSERT_EQ(m_canvas.At(x, y), expected.At(x, y)) << x << ", " << y << " at " << scale;
-            }
+            ExpectDisabledAsInAnImageList(Small, blends);
+            ExpectDisabledAsInAnImageList(Large, blends);
         }
     }
+}
+
+TEST_F(DisabledPicture, IsThatOfAnImageListInAMirroredContextToo) {
+    m_canvas.Dc()->SetLayout(LAYOUT_RTL);
+    m_expected.Dc()->SetLayout(LAYOUT_RTL);
+    for (const auto type : {Small, Large})
+        ExpectDisabledAsInAnImageList(type, FALSE);
+    EXPECT_EQ(m_canvas.At(20, 30), Canvas::background) << "the large picture begins 10 pixels from the right edge";
+    EXPECT_NE(m_canvas.At(53, 30), Canvas::background);
 }
 
 TEST_F(IconButton, DisabledPictureIsScaledWithTheRibbon) {
@@ -356,6 +381,17 @@ TEST_F(IconButton, WithoutALargePathTheFrameworksRuleGivesTheImageSize) {
     EXPECT_EQ(button.GetImageSize(Small), CSize(0, 0));
 }
 
+TEST_F(IconButton, WithoutALargePathAnImageIndexGivesTheSizeOfTheCategorysImages) {
+    CMFCRibbonBar bar(FALSE);
+    CMFCRibbonCategory* const category = bar.AddCategory(L"", 0, 0, CSize(20, 18), CSize(40, 36));
+    auto* const button = new CMFCRibbonUNIcoButton(1, L"", 3, 4);
+    category->AddPanel(L"")->Add(button);
+    EXPECT_EQ(button->GetImageSize(Large), CSize(40, 36));
+    EXPECT_EQ(button->GetImageSize(Small), CSize(20, 18));
+    button->SetImageIndex(-1, TRUE);
+    EXPECT_EQ(button->GetImageSize(Large), CSize(0, 0));
+}
+
 TEST_F(IconButton, CopyTakesThePathsAndNotTheAlternates) {
     const auto source = MakeButton();
     CMFCRibbonUNIcoButton copy;
@@ -382,6 +418,16 @@ TEST_F(IconButton, ButtonThatDestroysItsIconsKeepsItsOwnPaths) {
     target.CopyFrom(*MakeButton());
     EXPECT_EQ(target.GetIconPath(TRUE), m_small);
     EXPECT_EQ(target.GetIconPath(FALSE), m_large);
+}
+
+TEST_F(IconButton, ASecondCopyOntoTheSameTargetKeepsTheFirstPaths) {
+    CMFCRibbonUNIcoButton target;
+    target.CopyFrom(*MakeButton()); // which destroys its icons, and so does the target from now on
+    const CMFCRibbonUNIcoButton other(3, L"other", m_small, FALSE, m_large, TRUE);
+    target.CopyFrom(other);
+    EXPECT_EQ(target.GetIconPath(TRUE), m_large);
+    EXPECT_EQ(target.GetIconPath(FALSE), m_small);
+    EXPECT_EQ(CString(target.GetText()), L"other");
 }
 
 TEST_F(IconButton, CopyOfAnotherKindOfButtonTakesNoPaths) {
@@ -535,6 +581,25 @@ TEST_F(IconButton, TextIsTranslatedAtEveryDrawAndPutBack) {
     button.OnDraw(m_canvas.Dc());
     EXPECT_EQ(button.drawn, L"two <key>");
     EXPECT_EQ(CString(button.GetText()), L"key");
+}
+
+TEST_F(IconButton, TextIsTranslatedBelowALargePictureAndInARowOfAMenu) {
+    const TranslatedInstallation installation;
+    ASSERT_TRUE(installation.Translate("key", "Common"));
+    TextKeepingButton button(1, L"key", m_large, FALSE, m_small);
+    TestWindow window;
+    button.SetParentWnd(&window);
+    button.SetRect(CRect(0, 0, 64, 64));
+    ASSERT_TRUE(button.IsLargeMode());
+    button.OnDraw(m_canvas.Dc());
+    EXPECT_EQ(button.drawn, L"<key>");
+    EXPECT_GE(button.place.top, 32) << "below the picture";
+
+    button.drawn.clear();
+    button.SetMenuMode(TRUE);
+    button.OnDraw(m_canvas.Dc());
+    EXPECT_EQ(button.drawn, L"<key>");
+    EXPECT_GE(button.place.left, 16) << "beside the picture";
 }
 
 TEST_F(IconButton, SizesAreThoseOfTheTranslationInEveryMode) {

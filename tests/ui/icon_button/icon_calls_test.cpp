@@ -138,6 +138,18 @@ TEST_F(IconCalls, PictureIsNotMirroredInARightToLeftParent) {
     EXPECT_EQ(Draw(button, Small).flags, static_cast<UINT>(DI_NORMAL | DI_NOMIRROR));
 }
 
+TEST_F(IconCalls, ALinkedCopysPictureIsNotMirroredWhereItsOriginalsParentRunsFromRightToLeft) {
+    CMFCRibbonUNIcoButton original(1, L"", m_large, FALSE, m_small);
+    CMFCRibbonUNIcoButton copy;
+    copy.CopyFrom(original);
+    copy.SetOriginal(&original);
+    TestWindow window;
+    original.SetParentWnd(&window);
+    EXPECT_EQ(Draw(copy, Large).flags, static_cast<UINT>(DI_NORMAL));
+    window.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    EXPECT_EQ(Draw(copy, Large).flags, static_cast<UINT>(DI_NORMAL | DI_NOMIRROR));
+}
+
 TEST_F(IconCalls, DisabledPictureIsNotDrawnAsAnIcon) {
     CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
     button.SetDisabled(TRUE);
