@@ -410,14 +410,17 @@ BOOL CMFCRibbonPanelMenuBar::MoveHot(UINT nChar) {
 BOOL CMFCRibbonPanelMenuBar::Step(int direction) {
     ElementArray stops;
     CollectStops(stops);
-    INT_PTR at = direction > 0 ? -1 : stops.GetSize();
-    for (INT_PTR index = 0; index < stops.GetSize(); ++index) {
+    const INT_PTR count = stops.GetSize();
+    if (count == 0) {
+        return FALSE;
+    }
+    INT_PTR at = direction > 0 ? -1 : count;
+    for (INT_PTR index = 0; index < count; ++index) {
         if (stops[index] == m_parts->hot) {
             at = index;
         }
     }
-    at = (at + direction + stops.GetSize()) % stops.GetSize();
-    Highlight(stops[at]);
+    Highlight(stops[(at + direction + count) % count]);
     return TRUE;
 }
 
