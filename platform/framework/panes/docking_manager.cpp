@@ -2,6 +2,7 @@
 
 #include "afxPane.h"
 #include "afxext.h"
+#include "core/scoped_change.h"
 #include "panes/pane_layout.h"
 #include "panes/ribbon_pane.h"
 
@@ -203,9 +204,8 @@ void CDockingManager::AdjustDockingLayout(HDWP hdwp) {
     if (m_bIsInAdjustLayout || !m_pParentWnd || !m_pParentWnd->m_hWnd || m_pParentWnd->IsIconic()) {
         return;
     }
-    m_bIsInAdjustLayout = TRUE;
+    const fx::ScopedChange<BOOL> adjusting(m_bIsInAdjustLayout, TRUE);
     PlacePanes(hdwp);
-    m_bIsInAdjustLayout = FALSE;
 }
 
 std::vector<CBasePane*> CDockingManager::PanesToPlace() const {

@@ -1,6 +1,8 @@
 #include "afxglobals.h"
 
 #include <cmath>
+#include <cstddef>
+#include <cstring>
 #include <cwchar>
 
 namespace {
@@ -33,7 +35,16 @@ const wchar_t* InterfaceFont(HDC dc, const wchar_t* fallback) {
     return fallback;
 }
 
+bool IsSame(const LOGFONTW& left, const LOGFONTW& right) {
+    return std::memcmp(&left, &right, offsetof(LOGFONTW, lfFaceName)) == 0 &&
+           std::wcscmp(left.lfFaceName, right.lfFaceName) == 0;
+}
+
+/// Leaves a font alone that is so already: controls may show it.
 void Recreate(CFont& font, const LOGFONTW& description) {
+    LOGFONTW present{};
+    if (font.GetSafeHandle() && font.GetLogFont(&present) && IsSame(present, description))
+        return;
     font.DeleteObject();
     font.CreateFontIndirect(&description);
 }

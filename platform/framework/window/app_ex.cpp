@@ -4,6 +4,8 @@
 #include "afxkeyboardmanager.h"
 #include "afxtooltipmanager.h"
 
+#include <new>
+
 IMPLEMENT_DYNAMIC(CWinAppEx, CWinApp)
 
 namespace {
@@ -108,10 +110,12 @@ BOOL CWinAppEx::GetSectionObject(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, CObj
         CArchive archive(&file, CArchive::load);
         obj.Serialize(archive);
         return TRUE;
-    } catch (CArchiveException* e) {
+    } catch (CException* e) {
         // Written by another version, or damaged: as if it were not there.
         e->Delete();
         return FALSE;
+    } catch (const std::bad_alloc&) {
+        return FALSE; // a damaged count asks for more than there is
     }
 }
 

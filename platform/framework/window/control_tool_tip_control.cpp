@@ -25,7 +25,7 @@ BOOL CToolTipCtrl::CreateEx(CWnd* pParentWnd, DWORD dwStyle, DWORD dwStyleEx) {
 
 bool CToolTipCtrl::FillInToolInfo(TOOLINFO& info, const CWnd* window, UINT_PTR tool) const {
     info = TOOLINFO{};
-    info.cbSize = sizeof info;
+    info.cbSize = TTTOOLINFOW_V2_SIZE; // which every version of the controls takes
     if (!window || !window->m_hWnd) {
         return false;
     }
@@ -117,7 +117,7 @@ BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const {
     TTHITTESTINFO test{};
     test.hwnd = HandleOf(pWnd);
     test.pt = pt;
-    test.ti.cbSize = sizeof(TOOLINFO);
+    test.ti.cbSize = TTTOOLINFOW_V2_SIZE;
     if (!Send<BOOL>(*this, TTM_HITTEST, 0, &test)) {
         return FALSE;
     }

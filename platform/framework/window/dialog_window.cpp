@@ -104,6 +104,34 @@ INT_PTR CDialog::DoModal() {
 
     m_nModalResult = -1;
     m_isModal = true;
+    const auto end = [&] {
+        if (m_hWnd) {
+            SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+        }
+        // The owner is enabled before the dialog goes, else the system would activate another program's window.
+        if (isOwnerDisabled) {
+            ::EnableWindow(ownerWindow, TRUE);
+            if (m_hWnd && ::GetActiveWindow() == m_hWnd) {
+                ::SetActiveWindow(ownerWindow);
+            }
+        }
+        m_isModal = false;
+        DestroyWindow();
+        if (topWindow) {
+            ::EnableWindow(topWindow, TRUE);
+        }
+    };
+    try {
+        CreateAndRunModal(owner);
+    } catch (...) {
+        end(); // else nobody could use the owner any more
+        throw;
+    }
+    end();
+    return m_nModalResult;
+}
+
+void CDialog::CreateAndRunModal(CWnd* owner) {
     bool isCreated = false;
     if (m_memoryHandle || m_memoryTemplate) {
         const auto* dialogTemplate =
@@ -115,22 +143,6 @@ INT_PTR CDialog::DoModal() {
     if (isCreated && !m_hasEnded) {
         RunModalLoop(MLF_SHOWONIDLE);
     }
-    if (m_hWnd) {
-        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    }
-    // The owner is enabled before the dialog goes, else the system would activate another program's window.
-    if (isOwnerDisabled) {
-        ::EnableWindow(ownerWindow, TRUE);
-        if (::GetActiveWindow() == m_hWnd) {
-            ::SetActiveWindow(ownerWindow);
-        }
-    }
-    m_isModal = false;
-    DestroyWindow();
-    if (topWindow) {
-        ::EnableWindow(topWindow, TRUE);
-    }
-    return m_nModalResult;
 }
 
 void CDialog::EndDialog(int nResult) {

@@ -15,7 +15,10 @@ END_MESSAGE_MAP()
 
 CControlBar::CControlBar() = default;
 
-CControlBar::~CControlBar() { DestroyWindow(); }
+CControlBar::~CControlBar() {
+    m_bAutoDelete = FALSE; // it is being deleted
+    DestroyWindow();
+}
 
 BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs) {
     cs.style |= WS_CHILD | WS_CLIPSIBLINGS;

@@ -3,6 +3,7 @@
 #include "afxPane.h"
 #include "afxext.h"
 #include "fx/registered_messages.h"
+#include "core/scoped_change.h"
 
 IMPLEMENT_DYNCREATE(CFrameWndEx, CFrameWnd)
 
@@ -17,7 +18,7 @@ CFrameWndEx::CFrameWndEx() = default;
 
 CFrameWndEx::~CFrameWndEx() {
     // The panes take themselves out of the docking manager, so it must still be there.
-    DestroyWindow();
+    EndWindow();
 }
 
 BOOL CFrameWndEx::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
@@ -45,10 +46,9 @@ void CFrameWndEx::RecalcLayout(BOOL bNotify) {
         return;
     }
     m_Impl.UpdateCaptionStyle();
-    m_Impl.m_isInLayout = true;
+    const fx::ScopedChange<bool> layout(m_Impl.m_isInLayout, true);
     m_nIdleFlags &= ~(idleLayout | idleNotify);
     m_Impl.DockingManager().RecalcLayout(bNotify);
-    m_Impl.m_isInLayout = false;
 }
 
 LRESULT CFrameWndEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

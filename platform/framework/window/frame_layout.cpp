@@ -1,6 +1,7 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "core/scoped_change.h"
 
 #include <utility>
 
@@ -17,10 +18,9 @@ void CFrameWnd::RecalcLayout(BOOL) {
     if (m_isInLayout) {
         return;
     }
-    m_isInLayout = true;
+    const fx::ScopedChange<bool> layout(m_isInLayout, true);
     m_nIdleFlags &= ~(idleLayout | idleNotify);
     RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST);
-    m_isInLayout = false;
 }
 
 void CFrameWnd::DelayRecalcLayout(BOOL bNotify) { m_nIdleFlags |= bNotify ? idleLayout | idleNotify : idleLayout; }
@@ -33,18 +33,19 @@ void CFrameWnd::PlaceControlBars(AFX_SIZEPARENTPARAMS& place) {
 }
 
 LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM) {
-    if (m_nIdleFlags & idleMenu) {
+    ShowDelayedBars();
+    // What is asked for while this is done is for the next idle time.
+    const UINT flags = std::exchange(m_nIdleFlags, 0);
+    if (flags & idleMenu) {
         OnUpdateFrameMenu(m_hMenuAlt);
     }
-    if (m_nIdleFlags & idleTitle) {
+    if (flags & idleTitle) {
         OnUpdateFrameTitle(TRUE);
     }
-    ShowDelayedBars();
-    if (m_nIdleFlags & idleLayout) {
-        RecalcLayout(m_nIdleFlags & idleNotify);
+    if (flags & idleLayout) {
+        RecalcLayout(flags & idleNotify);
         UpdateWindow();
     }
-    m_nIdleFlags = 0;
     return 0;
 }
 

@@ -31,7 +31,7 @@ const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 CFrameWnd::CFrameWnd() = default;
 
 CFrameWnd::~CFrameWnd() {
-    DestroyWindow();
+    EndWindow();
     if (m_isAccelTableOwned && m_hAccelTable) {
         ::DestroyAcceleratorTable(m_hAccelTable);
     }
@@ -123,7 +123,16 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return 0;
 }
 
-void CFrameWnd::PostNcDestroy() { delete this; }
+void CFrameWnd::PostNcDestroy() {
+    if (!m_isEnding) {
+        delete this;
+    }
+}
+
+void CFrameWnd::EndWindow() {
+    m_isEnding = true;
+    DestroyWindow();
+}
 
 void CFrameWnd::OnDestroy() {
     // The window destroys the menu that it shows: that must be the frame's own, never one that it only borrowed.

@@ -13,7 +13,7 @@ CMDIChildWndEx::CMDIChildWndEx() = default;
 
 CMDIChildWndEx::~CMDIChildWndEx() {
     // The panes take themselves out of the docking manager, so it must still be there.
-    DestroyWindow();
+    EndWindow();
 }
 
 int CMDIChildWndEx::OnCreate(LPCREATESTRUCT lpCreateStruct) {

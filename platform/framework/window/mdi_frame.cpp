@@ -87,13 +87,17 @@ LRESULT CMDIFrameWnd::DefWindowProc(UINT nMsg, WPARAM wParam, LPARAM lParam) {
 BOOL CMDIFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     if (CMDIChildWnd* child = MDIGetActive()) {
         CFrameWnd* frame = child;
+        const HWND window = frame->m_hWnd;
         frame->m_leavesApplicationOut = true;
         const BOOL isHandled = child->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
-        // The handler may have destroyed the child.
+        // Whoever was asked may have destroyed the child; one that did not pass the command on has not used the flag
+        // up.
+        if (CWnd::FromHandlePermanent(window) == frame) {
+            frame->m_leavesApplicationOut = false;
+        }
         if (isHandled) {
             return TRUE;
         }
-        frame->m_leavesApplicationOut = false;
     }
     return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }

@@ -3,6 +3,7 @@
 #include "afxPane.h"
 #include "afxext.h"
 #include "fx/registered_messages.h"
+#include "core/scoped_change.h"
 
 #include <utility>
 
@@ -18,7 +19,7 @@ CMDIFrameWndEx::CMDIFrameWndEx() = default;
 
 CMDIFrameWndEx::~CMDIFrameWndEx() {
     // The panes take themselves out of the docking manager, so it must still be there.
-    DestroyWindow();
+    EndWindow();
 }
 
 BOOL CMDIFrameWndEx::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
@@ -46,11 +47,10 @@ void CMDIFrameWndEx::RecalcLayout(BOOL bNotify) {
         return;
     }
     m_Impl.UpdateCaptionStyle();
-    m_Impl.m_isInLayout = true;
+    const fx::ScopedChange<bool> layout(m_Impl.m_isInLayout, true);
     m_nIdleFlags &= ~(idleLayout | idleNotify);
     m_Impl.DockingManager().RecalcLayout(bNotify);
     AdjustClientArea();
-    m_Impl.m_isInLayout = false;
 }
 
 LRESULT CMDIFrameWndEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -4,7 +4,7 @@ IMPLEMENT_DYNCREATE(CMiniFrameWnd, CFrameWnd)
 
 CMiniFrameWnd::CMiniFrameWnd() = default;
 
-CMiniFrameWnd::~CMiniFrameWnd() { DestroyWindow(); }
+CMiniFrameWnd::~CMiniFrameWnd() { EndWindow(); }
 
 BOOL CMiniFrameWnd::Create(LPCTSTR lpClassName, LPCTSTR lpWindowName, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
                            UINT nID) {

@@ -27,6 +27,7 @@ struct ThreadState {
     MSG handled = {}; ///< the window message being handled: what CWnd::Default repeats
     MSG pumped = {};  ///< the last message that the loop took from the queue
     WindowCreationHook* creation = nullptr;
+    HWND exchanging = nullptr;   ///< whose controls UpdateData fills or reads: what they notify meanwhile is no user's
     HMENU trackedMenu = nullptr; ///< the popup menu that is open by RunPopupMenu
     ToolTipState toolTip;
 };

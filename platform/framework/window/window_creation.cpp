@@ -186,7 +186,7 @@ BOOL CWnd::DestroyWindow() {
     const bool isPermanent = windows.LookupPermanent(window) == this;
     // A permanent object loses its handle in WM_NCDESTROY and may be deleted there.
     const BOOL result = ::DestroyWindow(window);
-    if (!isPermanent) {
+    if (!isPermanent && result) {
         m_hWnd = nullptr;
     }
     return result;
@@ -256,6 +256,7 @@ void CWnd::OnNcDestroy() {
         CancelToolTips(FALSE);
         state.toolTip.window = nullptr;
     }
+    m_continuesModal = false; // a loop that ran for this window would wait for ever
     const HWND window = m_hWnd;
     const WNDPROC super = m_pfnSuper;
     Default();

@@ -6,6 +6,8 @@
 #include "window/message_map.h"
 #include "window/thread_state.h"
 
+#include <new>
+
 namespace {
 
 /// Makes a message the current one for a scope: Default and GetCurrentMessage look at it.
@@ -47,6 +49,15 @@ UINT NotifyId(const NMHDR& header) {
     return isChild ? static_cast<UINT>(::GetDlgCtrlID(header.hwndFrom)) : 0;
 }
 
+/// What the thread says to an exception that left a window procedure, which is deleted.
+LRESULT Answer(CException* exception) {
+    const MSG message = fx::CurrentThread().handled;
+    CWinThread* thread = AfxGetThread();
+    const LRESULT result = thread != nullptr ? thread->ProcessWndProcException(exception, &message) : 0;
+    exception->Delete();
+    return result;
+}
+
 } // namespace
 
 struct fx::WindowProcAccess {
@@ -65,11 +76,14 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
         // The object may be gone afterwards.
         return fx::WindowProcAccess::Call(*wnd, nMsg, wParam, lParam);
     } catch (CException* e) {
-        const MSG message = fx::CurrentThread().handled;
-        CWinThread* thread = AfxGetThread();
-        const LRESULT result = thread != nullptr ? thread->ProcessWndProcException(e, &message) : 0;
-        e->Delete();
-        return result;
+        return Answer(e);
+    } catch (const std::bad_alloc&) {
+        // The same to the user as the framework's own: the operation failed, the program goes on.
+        try {
+            AfxThrowMemoryException();
+        } catch (CMemoryException* e) {
+            return Answer(e);
+        }
     }
 }
 
@@ -134,6 +148,9 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
         probe.m_nID = id;
         OnCmdMsg(id, CN_UPDATE_COMMAND_UI, &probe, nullptr);
         return !probe.m_isEnabled || OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
+    }
+    if (m_hWnd == fx::CurrentThread().exchanging) {
+        return TRUE;
     }
     // Like WM_NOTIFY, the control's own handler comes first: an _EX one decides whether the parent gets it as well.
     CWnd* child = FromHandlePermanent(control);

@@ -4,6 +4,8 @@
 #include "fx/exceptions.h"
 #include "fx/gdi_objects.h"
 #include "fx/wnd.h"
+#include "core/scoped_change.h"
+#include "window/thread_state.h"
 
 namespace {
 
@@ -157,7 +159,10 @@ BOOL CWnd::DlgDirSelectComboBox(LPTSTR lpString, int nIDComboBox) {
     return ::DlgDirSelectComboBoxEx(m_hWnd, lpString, MAX_PATH, nIDComboBox);
 }
 
+// A control that is filled notifies at once. A handler that answers by reading all of them would take over those that
+// are not filled yet, so such notifications are not passed on.
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
+    const fx::ScopedChange<HWND> exchanging(fx::CurrentThread().exchanging, m_hWnd);
     CDataExchange exchange(this, bSaveAndValidate);
     try {
         DoDataExchange(&exchange);

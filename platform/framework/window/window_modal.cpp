@@ -1,6 +1,7 @@
 // Loops that run until a window says that it is done.
 #include "afxpriv.h"
 #include "fx/app.h"
+#include "core/scoped_change.h"
 #include "window/thread_state.h"
 
 namespace {
@@ -12,8 +13,8 @@ constexpr UINT SystemTimer = 0x0118;
 
 int CWnd::RunModalLoop(DWORD dwFlags) {
     ASSERT(m_hWnd != nullptr && !m_isInModalLoop);
-    m_isInModalLoop = true;
-    m_continuesModal = true;
+    const fx::ScopedChange<bool> inLoop(m_isInModalLoop, true);
+    const fx::ScopedChange<bool> continues(m_continuesModal, true); // ends with the scope, as it began
     m_nModalResult = -1;
     bool isHidden = (dwFlags & MLF_SHOWONIDLE) != 0 && (GetStyle() & WS_VISIBLE) == 0;
     bool isIdle = true;
@@ -45,8 +46,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             if (!AfxPumpMessage()) {
                 // The outer loop has to see the end of the program as well.
                 ::PostQuitMessage(static_cast<int>(fx::CurrentThread().pumped.wParam));
-                m_isInModalLoop = false;
-                m_continuesModal = false;
                 return -1;
             }
             MSG& pumped = fx::CurrentThread().pumped;
@@ -60,8 +59,6 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             }
         } while (::PeekMessage(&next, nullptr, 0, 0, PM_NOREMOVE));
     }
-    m_isInModalLoop = false;
-    m_continuesModal = false;
     return m_nModalResult;
 }
 

@@ -105,7 +105,7 @@ void CWnd::FilterToolTipMessage(MSG* pMsg) {
         ScreenToClient(&point);
     }
     TOOLINFO tool = {};
-    tool.cbSize = sizeof(tool);
+    tool.cbSize = TTTOOLINFOW_V2_SIZE; // which every version of the controls takes
     tool.hwnd = m_hWnd;
     tool.lpszText = LPSTR_TEXTCALLBACK;
     const INT_PTR hit = OnToolHitTest(point, &tool);

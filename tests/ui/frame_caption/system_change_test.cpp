@@ -45,4 +45,13 @@ TEST_F(SystemChange, ASettingDrawsTheRibbonAgain) {
     EXPECT_TRUE(::GetUpdateRect(frame.bar.m_hWnd, nullptr, FALSE));
 }
 
+TEST_F(SystemChange, ASettingThatChangesNoFontLeavesTheFontsInTheControlsThatShowThem) {
+    const HGDIOBJ regular = afxGlobalData.fontRegular.GetSafeHandle();
+    const HGDIOBJ bold = afxGlobalData.fontBold.GetSafeHandle();
+    frame.SendMessage(WM_SETTINGCHANGE);
+    EXPECT_EQ(afxGlobalData.fontRegular.GetSafeHandle(), regular);
+    EXPECT_EQ(afxGlobalData.fontBold.GetSafeHandle(), bold);
+    EXPECT_EQ(::GetObjectType(regular), static_cast<DWORD>(OBJ_FONT));
+}
+
 } // namespace

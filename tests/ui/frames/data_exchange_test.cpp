@@ -112,4 +112,48 @@ TEST(KeyboardManagerPointer, IsTheManagerAsLongAsThereIsOne) {
     EXPECT_EQ(afxKeyboardManager, nullptr);
 }
 
+/// Takes everything over as soon as one of its edit boxes changes, as a dialog does that shows a sum below them.
+class TakingWindow : public TestWindow {
+public:
+    TakingWindow() {
+        for (int i = 0; i < 2; ++i) {
+            m_edits[i].Create(WS_CHILD, CRect(0, 0, 40, 20), this, kFirst + static_cast<UINT>(i));
+        }
+    }
+    static constexpr UINT kFirst = 40;
+    CString m_texts[2];
+    int m_changes = 0;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override {
+        for (int i = 0; i < 2; ++i) {
+            DDX_Text(exchange, static_cast<int>(kFirst) + i, m_texts[i]);
+        }
+    }
+    afx_msg void OnChange(UINT) {
+        ++m_changes;
+        UpdateData(TRUE);
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CEdit m_edits[2];
+};
+
+BEGIN_MESSAGE_MAP(TakingWindow, TestWindow)
+ON_CONTROL_RANGE(EN_CHANGE, TakingWindow::kFirst, TakingWindow::kFirst + 1, &TakingWindow::OnChange)
+END_MESSAGE_MAP()
+
+TEST(UpdateData, WhatAFilledControlNotifiesDoesNotReachTheHandlers) {
+    TakingWindow window;
+    window.m_texts[0] = L"one";
+    window.m_texts[1] = L"two";
+    EXPECT_TRUE(window.UpdateData(FALSE));
+    EXPECT_EQ(window.m_changes, 0);
+    EXPECT_STREQ(window.m_texts[1], L"two") << "read before it was shown";
+    window.SetDlgItemText(TakingWindow::kFirst + 1, L"three");
+    EXPECT_EQ(window.m_changes, 1) << "later changes do";
+    EXPECT_STREQ(window.m_texts[1], L"three");
+}
+
 } // namespace

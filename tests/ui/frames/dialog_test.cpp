@@ -181,4 +181,40 @@ TEST(ColouredDialog, PaintsItsBackgroundColour) {
     ::ReleaseDC(nullptr, screen);
 }
 
+TEST(ModalDialog, ADestroyedOneReturnsAndItsOwnerIsEnabledAgain) {
+    TestWindow owner;
+    ScriptedDialog dialog([](ScriptedDialog& self) { self.DestroyWindow(); }, &owner);
+    dialog.DoModal();
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+}
+
+TEST(ModalDialog, AnExceptionThatLeavesItsLoopLeavesTheOwnerEnabled) {
+    class Throwing : public ScriptedDialog {
+    public:
+        using ScriptedDialog::ScriptedDialog;
+        BOOL ContinueModal() override {
+            if (m_hWnd && ++m_asked > 1) {
+                AfxThrowUserException();
+            }
+            return ScriptedDialog::ContinueModal();
+        }
+
+    private:
+        int m_asked = 0;
+    };
+    TestWindow owner;
+    Throwing dialog([](ScriptedDialog&) {}, &owner);
+    bool hasThrown = false;
+    try {
+        dialog.DoModal();
+    } catch (CUserException* exception) {
+        hasThrown = true;
+        exception->Delete();
+    }
+    EXPECT_TRUE(hasThrown);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+}
+
 } // namespace

@@ -1,5 +1,7 @@
 #include "frame_fixture.h"
 
+#include "afxMDIFrameWndEx.h"
+#include "afxframewndex.h"
 #include "afxpriv.h"
 
 namespace {
@@ -199,6 +201,39 @@ TEST(FrameObject, DeletesItselfAfterItsWindow) {
     ASSERT_TRUE(frame->LoadFrame(IDR_TEST_FRAME));
     frame->DestroyWindow();
     EXPECT_EQ(deleted, 1);
+}
+
+/// A frame of a host that deletes it, and whose destructor destroys the window while it is still of this class.
+template <class Frame>
+class DeletedFrame : public Frame {
+public:
+    explicit DeletedFrame(int& ends) : m_ends(ends) {}
+    ~DeletedFrame() override {
+        ++m_ends;
+        if (m_ends == 1) {
+            this->EndWindow();
+        }
+    }
+
+private:
+    int& m_ends;
+};
+
+template <class Frame>
+class DeletedFrameTest : public ::testing::Test {};
+using DeletedFrames = ::testing::Types<CFrameWnd, CFrameWndEx, CMDIFrameWnd, CMDIFrameWndEx>;
+TYPED_TEST_SUITE(DeletedFrameTest, DeletedFrames);
+
+TYPED_TEST(DeletedFrameTest, ItsWindowGoesAndItIsNotDeletedTwice) {
+    int ends = 0;
+    HWND window = nullptr;
+    {
+        DeletedFrame<TypeParam> frame(ends);
+        ASSERT_TRUE(frame.LoadFrame(IDR_TEST_FRAME));
+        window = frame.m_hWnd;
+    }
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(ends, 1);
 }
 
 } // namespace

@@ -15,6 +15,9 @@ public:
         return Create(nullptr, WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 1, 1), parent, id) != FALSE;
     }
     CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override {
+        if (throws) {
+            AfxThrowUserException();
+        }
         CSize answer = size;
         if (stretch) {
             (horizontal ? answer.cx : answer.cy) = 32767;
@@ -27,6 +30,7 @@ public:
     }
     using CPane::DoPaint;
     CSize size{0, 0};
+    bool throws = false;
     int updates = 0;
     CFrameWnd* updateTarget = nullptr;
 };
@@ -109,6 +113,44 @@ TEST_F(DockLayout, ADelayedChangeIsLaidOutAtIdleTime) {
     EXPECT_EQ(PlaceInParent(client).top, 30);
     frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     EXPECT_EQ(PlaceInParent(client).top, 0);
+}
+
+TEST_F(DockLayout, ALayoutThatFailedIsNotTheLast) {
+    top.throws = true;
+    try {
+        frame.RecalcLayout();
+        ADD_FAILURE() << "the pane was not asked";
+    } catch (CUserException* exception) {
+        exception->Delete();
+    }
+    top.throws = false;
+    top.size.cy = 44;
+    frame.RecalcLayout();
+    EXPECT_EQ(PlaceInParent(client).top, 44);
+}
+
+TEST_F(DockLayout, WhatALayoutAsksForIsDoneAtTheNextIdleTime) {
+    class Asking : public Strip {
+    public:
+        CSize CalcFixedLayout(BOOL stretch, BOOL horizontal) override {
+            if (++m_asked == 1) {
+                size.cy = 50;
+                static_cast<CFrameWnd*>(GetParent())->DelayRecalcLayout();
+                return Strip::CalcFixedLayout(stretch, horizontal) - CSize(0, 20);
+            }
+            return Strip::CalcFixedLayout(stretch, horizontal);
+        }
+
+    private:
+        int m_asked = 0;
+    };
+    Asking asking;
+    ASSERT_TRUE(asking.Make(&frame, 7, CBRS_TOP, CSize(10, 10)));
+    frame.DelayRecalcLayout();
+    frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    EXPECT_EQ(PlaceInParent(client).top, 30 + 30);
+    frame.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    EXPECT_EQ(PlaceInParent(client).top, 30 + 50);
 }
 
 TEST_F(DockLayout, ADestroyedPaneLeavesTheManager) {

@@ -129,4 +129,26 @@ TEST_F(MdiTest, TheWindowPopupIsTheOneWithWindowCommands) {
     EXPECT_EQ(frame.GetWindowMenuPopup(menu), ::GetSubMenu(menu, 1));
 }
 
+/// A child that does the command itself and passes nothing on.
+class SelfReliantChild : public CMDIChildWnd {
+    DECLARE_DYNCREATE(SelfReliantChild)
+public:
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        return m_takesAll || CMDIChildWnd::OnCmdMsg(id, code, extra, info);
+    }
+    bool m_takesAll = true;
+};
+IMPLEMENT_DYNCREATE(SelfReliantChild, CMDIChildWnd)
+
+TEST_F(MdiTest, ACommandThatAChildKeptDoesNotHideTheApplicationFromTheNext) {
+    auto* const child =
+        static_cast<SelfReliantChild*>(frame.CreateNewChild(RUNTIME_CLASS(SelfReliantChild), IDR_TEST_FRAME));
+    ASSERT_NE(child, nullptr);
+    frame.SendMessage(WM_COMMAND, ID_TEST_COMMAND);
+    EXPECT_TRUE(g_route.asked.empty());
+    child->m_takesAll = false;
+    child->SendMessage(WM_COMMAND, ID_TEST_COMMAND);
+    EXPECT_EQ(g_route.asked, (std::vector<std::string>{"application"}));
+}
+
 } // namespace

@@ -162,4 +162,10 @@ TEST(WindowClasses, EqualPropertiesShareAClassAndOthersDoNot) {
     EXPECT_EQ(found.hCursor, arrow);
 }
 
+TEST(Creation, AWindowThatCannotBeDestroyedKeepsItsHandle) {
+    CWnd* const desktop = CWnd::GetDesktopWindow();
+    EXPECT_FALSE(desktop->DestroyWindow());
+    EXPECT_EQ(desktop->m_hWnd, ::GetDesktopWindow());
+}
+
 } // namespace

@@ -125,6 +125,24 @@ TEST(Dispatch, AnExceptionInACommandIsReportedAndEndsThere) {
     EXPECT_EQ(window.m_done, 1);
 }
 
+TEST(Dispatch, MemoryThatCannotBeHadEndsTheCommandNotTheProgram) {
+    class Greedy : public Window {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_COMMAND && wParam == CommandThrows) {
+                throw std::bad_alloc();
+            }
+            return Window::WindowProc(message, wParam, lParam);
+        }
+    };
+    CountingMessageBox boxes;
+    Greedy window;
+    window.SendMessage(WM_COMMAND, CommandThrows, 0);
+    EXPECT_EQ(boxes.Count(), 1);
+    window.SendMessage(WM_COMMAND, CommandDone, 0);
+    EXPECT_EQ(window.m_done, 1);
+}
+
 TEST(Dispatch, AUserExceptionIsNotReported) {
     CountingMessageBox boxes;
     Window window;

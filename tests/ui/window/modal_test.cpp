@@ -85,4 +85,21 @@ TEST(ModalLoop, AModalStateDisablesTheWindow) {
     EXPECT_TRUE(window.IsWindowEnabled());
 }
 
+TEST(ModalLoop, ItEndsWithItsWindow) {
+    class Vanishing : public Modal {
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message == WM_APP + 2) {
+                DestroyWindow();
+                return 0;
+            }
+            return Modal::WindowProc(message, wParam, lParam);
+        }
+    };
+    Vanishing window;
+    window.PostMessage(WM_APP + 2);
+    EXPECT_EQ(window.RunModalLoop(), -1);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+}
+
 } // namespace

@@ -87,4 +87,21 @@ TEST(Application, TheManagersAreMadeOnceOnDemand) {
     EXPECT_FALSE(App()->InitTooltipManager());
 }
 
+TEST(SectionObject, ADamagedCountIsAsIfNothingHadBeenKept) {
+    CWinAppEx* const application = App();
+    CUIntArray kept;
+    kept.Add(7);
+    ASSERT_TRUE(application->WriteSectionObject(L"damaged", L"array", kept));
+    CUIntArray read;
+    EXPECT_TRUE(application->GetSectionObject(L"damaged", L"array", read));
+    EXPECT_EQ(read.GetCount(), 1);
+    for (const unsigned long long count : {~0ULL, 1ULL << 60}) {
+        unsigned long long bytes[] = {count};
+        ASSERT_TRUE(
+            application->WriteSectionBinary(L"damaged", L"array", reinterpret_cast<LPBYTE>(bytes), sizeof(bytes)));
+        CUIntArray damaged;
+        EXPECT_FALSE(application->GetSectionObject(L"damaged", L"array", damaged)) << count;
+    }
+}
+
 } // namespace

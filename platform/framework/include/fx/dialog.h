@@ -61,6 +61,7 @@ private:
     /// Makes the window from a resource of that name; false when there is none.
     bool CreateFromResource(LPCTSTR name, CWnd* parent);
     bool CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance);
+    void CreateAndRunModal(CWnd* owner);
 
     LPCDLGTEMPLATE m_memoryTemplate = nullptr; ///< for DoModal, not owned
     HGLOBAL m_memoryHandle = nullptr;          ///< the same, to be locked

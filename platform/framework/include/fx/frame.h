@@ -123,7 +123,10 @@ protected:
     virtual void OnShowMenuBar();
     virtual void OnHideMenuBar();
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    /// Deletes the frame, unless its destructor is what destroys the window.
     void PostNcDestroy() override;
+    /// What each frame's destructor begins with: destroys the window while the members that it needs are there.
+    void EndWindow();
     /// The table that translates keys now; an MDI child's comes before the frame's own.
     virtual HACCEL GetDefaultAccelerator();
     /// Registers (once) a class with the icon of that id; NULL when there is no such icon.
@@ -167,6 +170,7 @@ private:
 
     int m_modalDepth = 0;
     std::vector<HWND> m_disabledWindows; ///< by BeginModalState
+    bool m_isEnding = false;             ///< the destructor runs
     bool m_isInLayout = false;
     bool m_leavesApplicationOut = false; ///< for the next command: the MDI frame asks the application itself
     bool m_isMenuBarShownForKeys = false;
