@@ -1,0 +1,85 @@
+#include "frame_dump.h"
+
+#include "add_ribbon_bar.h"
+#include "menu_id_mgr.h"
+#include "tests/support/scoped_value.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using nlohmann::ordered_json;
+
+class FrameDump : public testing::Test {
+protected:
+    FrameDump() { CMenuIdMgr::Destroy(); }
+    ~FrameDump() override { CMenuIdMgr::Destroy(); }
+
+    static std::vector<int> RegisteredIds() {
+        std::vector<int> ids;
+        const ordered_json dump = DumpFrame({});
+        for (const ordered_json& entry : dump["registry"])
+            ids.push_back(entry["id"]);
+        return ids;
+    }
+};
+
+TEST_F(FrameDump, WithoutBarsEveryListIsEmpty) {
+    const ordered_json expected = {
+        {"nextCommandId", CMenuIdMgr::s_AddBeginID},
+        {"registry", ordered_json::array()},
+        {"ribbon",
+         {{"categories", ordered_json::array()},
+          {"quickAccess", ordered_json::array()},
+          {"commands", ordered_json::array()}}},
+        {"menu", ordered_json::array()},
+        {"accelerators", ordered_json::array()},
+        {"toolbars", ordered_json::array()},
+        {"statusExtras", ordered_json::array()},
+        {"status", {{"app", "application"}, {"elements", ordered_json::array()}, {"extended", ordered_json::array()}}}};
+    EXPECT_EQ(DumpFrame({nullptr, {}, L"application"}).dump(), expected.dump());
+}
+
+TEST_F(FrameDump, CommandsOfTheHostAreListedUnderAnyIdOfAMessage) {
+    for (const int id : {0xFFFF, 41000, 500, 0})
+        CMenuIdMgr::Ins()->Add(L"K" + std::to_wstring(id), id, L"name", L"cmd", L"tip", L"param", L"help");
+    EXPECT_EQ(RegisteredIds(), (std::vector<int>{0, 500, 41000, 0xFFFF}));
+    const ordered_json expected = {{"id", 500},    {"keyword", "K500"}, {"name", "name"}, {"tooltip", "tip"},
+                                   {"cmd", "cmd"}, {"param", "param"},  {"help", "help"}};
+    EXPECT_EQ(DumpFrame({})["registry"][1].dump(), expected.dump());
+}
+
+TEST_F(FrameDump, CounterMayHaveGoneBeyondTheIdsOfMessages) {
+    const ScopedValue counter(CMenuIdMgr::s_AddBeginID, 70001u);
+    for (const int id : {70001, 70000, 65536})
+        CMenuIdMgr::Ins()->Add(L"K" + std::to_wstring(id), id, L"", L"", L"", L"", L"");
+    EXPECT_EQ(RegisteredIds(), (std::vector<int>{65536, 70000}));
+    EXPECT_EQ(DumpFrame({})["nextCommandId"], 70001);
+}
+
+TEST_F(FrameDump, StatusRecordsShowEveryFieldUnderItsOwnName) {
+    const CAddRibbonBar::_RibbonInfo record{true, L"name", L"type", L"tip",  L"key", L"pic", L"dis",
+                                            16,   L"cmd",  L"par",  L"help", false,  true,   {L"a", L"", L"\x5730"},
+                                            50};
+    const ScopedValue extras(CAddRibbonBar::m_smStatusExBtns, decltype(CAddRibbonBar::m_smStatusExBtns){
+                                                                  {L"cfg\\b.xml", {L"StatusEx_btns", {}}},
+                                                                  {L"cfg\\a.xml", {L"StatusEx_btns", {record, {}}}}});
+    const ordered_json got = DumpFrame({})["statusExtras"];
+    ASSERT_EQ(got.size(), 2u);
+    EXPECT_EQ(got[0]["path"], "cfg\\a.xml");
+    EXPECT_EQ(got[0]["row"], "StatusEx_btns");
+    ASSERT_EQ(got[0]["records"].size(), 2u);
+    const ordered_json expected = {{"groupBefore", true}, {"name", "name"},
+                                   {"type", "type"},      {"tooltip", "tip"},
+                                   {"keyword", "key"},    {"picPath", "pic"},
+                                   {"picDisPath", "dis"}, {"size", 16},
+                                   {"cmd", "cmd"},        {"param", "par"},
+                                   {"help", "help"},      {"acceptF1", false},
+                                   {"cateTab", true},     {"valueGroup", {"a", "", "\xE5\x9C\xB0"}},
+                                   {"width", 50}};
+    EXPECT_EQ(got[0]["records"][0].dump(), expected.dump());
+    EXPECT_EQ(got[1]["path"], "cfg\\b.xml");
+    EXPECT_TRUE(got[1]["records"].empty());
+}
+
+} // namespace
