@@ -1,6 +1,9 @@
 #include "gdi/device_pixels.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <span>
+#include <vector>
 
 namespace gdi {
 
@@ -25,6 +28,27 @@ POINT DeviceCorner(HDC dc, const RECT& rect) {
 void PutCornerAtOrigin(HDC dc, const RECT& rect) {
     const POINT corner = DeviceCorner(dc, rect);
     OffsetViewportOrgEx(dc, IsMirrored(dc) ? corner.x : -corner.x, -corner.y, nullptr);
+}
+
+void SelectClip(HDC dc, HRGN region) {
+    std::vector<std::byte> buffer(GetRegionData(region, 0, nullptr));
+    auto* const data = reinterpret_cast<RGNDATA*>(buffer.data());
+    if (GetRegionData(region, static_cast<DWORD>(buffer.size()), data) == 0)
+        return;
+    const HRGN pixels = CreateRectRgn(0, 0, 0, 0);
+    const HRGN part = CreateRectRgn(0, 0, 0, 0);
+    const int beside = IsMirrored(dc) ? 1 : 0;
+    for (const RECT& rect : std::span(reinterpret_cast<const RECT*>(data->Buffer), data->rdh.nCount)) {
+        const POINT corner = DeviceCorner(dc, rect);
+        SetRectRgn(part, corner.x - beside, corner.y, corner.x + rect.right - rect.left,
+                   corner.y + rect.bottom - rect.top);
+        CombineRgn(pixels, pixels, part, RGN_OR);
+    }
+    const DWORD layout = SetLayout(dc, 0);
+    SelectClipRgn(dc, pixels);
+    SetLayout(dc, layout);
+    DeleteObject(part);
+    DeleteObject(pixels);
 }
 
 int CountDevicePixels(HDC dc) {

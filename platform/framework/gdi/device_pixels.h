@@ -23,6 +23,11 @@ BOOL FrameWith(HDC dc, const RECT& rect, HBRUSH brush);
 /// Fills the rectangle and leaves the colour as the background colour.
 void FillSolid(HDC dc, const RECT& rect, COLORREF color);
 
+/// Clips the context to a region in the context's co-ordinates. The system itself takes regions in pixels of the
+/// device. A mirrored context may draw one pixel more on the left of each rectangle: RectVisible asks for places that
+/// far beside those which are drawn.
+void SelectClip(HDC dc, HRGN region);
+
 /// While it lives the context counts device pixels from the left. Pictures are copied like this where a window is
 /// mirrored: a mirrored context puts them one pixel beside what else it draws.
 class ScopedDevicePixels {

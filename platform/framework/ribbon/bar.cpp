@@ -146,17 +146,8 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
 
 void CMFCRibbonBar::OnPaint() {
     EnsureLayout();
-    CPaintDC dc(this);
-    // Far apart, two buttons have everything between them in the paint rectangle, but not in the region, which the
-    // context knows in screen co-ordinates.
-    CRgn shown;
-    shown.CreateRectRgn(0, 0, 0, 0);
-    const auto region = static_cast<HRGN>(shown.GetSafeHandle());
-    CPoint origin(0, 0);
-    const bool isKnown = ::GetRandomRgn(dc.GetSafeHdc(), region, SYSRGN) == 1 &&
-                         ::GetDCOrgEx(dc.GetSafeHdc(), &origin) && ::OffsetRgn(region, -origin.x, -origin.y) != ERROR;
-    RibbonPaintBuffer buffer(dc, CRect(dc.m_ps.rcPaint), isKnown ? region : nullptr);
-    DoPaint(&buffer.GetDC());
+    RibbonWindowPaint paint(*this);
+    DoPaint(&paint.GetDC());
 }
 
 BOOL CMFCRibbonBar::OnEraseBkgnd(CDC* /*pDC*/) { return TRUE; }

@@ -11,6 +11,8 @@ namespace {
 /// The bitmap between two paints. Pictures larger than this are not kept: they come from one paint of many windows.
 constexpr LONG g_mostKeptPixels = LONG(4) << 20;
 
+LONG Pixels(CSize size) { return size.cx * size.cy; }
+
 struct KeptBitmap {
     HBITMAP handle = nullptr;
     CSize size = CSize(0, 0);
@@ -29,6 +31,22 @@ struct KeptBitmap {
     HBITMAP Take(CSize wanted) {
         const bool fits = size.cx >= wanted.cx && size.cy >= wanted.cy;
         return fits ? std::exchange(handle, nullptr) : nullptr;
+    }
+    /// The size of a new bitmap that can take this one's place: low and wide ones and high and narrow ones alternate.
+    CSize GrownTo(CSize wanted) const {
+        const CSize grown(std::max(size.cx, wanted.cx), std::max(size.cy, wanted.cy));
+        return handle != nullptr && Pixels(grown) <= g_mostKeptPixels ? grown : wanted;
+    }
+    /// Takes a bitmap back, or deletes it where it is not to be kept.
+    void Keep(HBITMAP bitmap, CSize bitmapSize) {
+        const bool isCovered = handle != nullptr && size.cx >= bitmapSize.cx && size.cy >= bitmapSize.cy;
+        if (isCovered || Pixels(bitmapSize) > g_mostKeptPixels) {
+            ::DeleteObject(bitmap);
+            return;
+        }
+        Drop();
+        handle = bitmap;
+        size = bitmapSize;
     }
 };
 
@@ -50,6 +68,7 @@ RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
     if (m_bitmap != nullptr) {
         m_size = kept.size;
     } else {
+        m_size = kept.GrownTo(m_size);
         // Of one format whatever the screen's: asking for that takes longer than a small paint.
         std::uint32_t* bits = nullptr;
         m_bitmap = visual::MakeBitmap32(m_size.cx, m_size.cy, &bits);
@@ -60,19 +79,14 @@ RibbonPaintBuffer::RibbonPaintBuffer(CDC& target, const CRect& area, HRGN shown)
     m_isOpen = true;
     const HDC memory = m_memory.GetSafeHdc();
     m_previous = ::SelectObject(memory, m_bitmap);
-    const bool isMirrored = gdi::IsMirrored(targetDC);
-    if (isMirrored) {
+    if (gdi::IsMirrored(targetDC)) {
         // Text and images keep their direction, only their places change sides.
         ::SetLayout(memory, LAYOUT_RTL | LAYOUT_BITMAPORIENTATIONPRESERVED);
-    } else if (shown != nullptr) {
-        ::SelectClipRgn(memory, shown);
-        ::OffsetClipRgn(memory, -area.left, -area.top);
     }
     ::SetViewportOrgEx(memory, -area.left, -area.top, nullptr);
-    // The target clips anyway, and a mirrored context clips one pixel beside what it draws.
-    if (!isMirrored) {
-        ::IntersectClipRect(memory, area.left, area.top, area.right, area.bottom);
-    }
+    CRgn all;
+    all.CreateRectRgnIndirect(area);
+    gdi::SelectClip(memory, shown != nullptr ? shown : all);
 }
 
 RibbonPaintBuffer::~RibbonPaintBuffer() {
@@ -89,12 +103,13 @@ RibbonPaintBuffer::~RibbonPaintBuffer() {
                  SRCCOPY);
     }
     ::SelectObject(memory, m_previous);
-    KeptBitmap& kept = Kept();
-    if (m_size.cx * m_size.cy > g_mostKeptPixels || (kept.handle != nullptr && kept.size.cx > m_size.cx)) {
-        ::DeleteObject(m_bitmap);
-        return;
-    }
-    kept.Drop();
-    kept.handle = m_bitmap;
-    kept.size = m_size;
+    Kept().Keep(m_bitmap, m_size);
 }
+
+RibbonWindowPaint::UpdateRegion::UpdateRegion(CWnd& window) {
+    region.CreateRectRgn(0, 0, 0, 0);
+    ::GetUpdateRgn(window.GetSafeHwnd(), region, FALSE);
+}
+
+RibbonWindowPaint::RibbonWindowPaint(CWnd& window)
+    : m_shown(window), m_target(&window), m_buffer(m_target, CRect(m_target.m_ps.rcPaint), m_shown.region) {}

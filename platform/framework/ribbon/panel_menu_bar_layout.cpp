@@ -187,9 +187,8 @@ CSize CMFCRibbonPanelMenuBar::ArrangeMainPanel(CDC* pDC, CSize room) {
 
 void CMFCRibbonPanelMenuBar::OnPaint() {
     EnsureLayout();
-    CPaintDC dc(this);
-    RibbonPaintBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
-    DoPaint(&buffer.GetDC());
+    RibbonWindowPaint paint(*this);
+    DoPaint(&paint.GetDC());
 }
 
 BOOL CMFCRibbonPanelMenuBar::OnEraseBkgnd(CDC* /*pDC*/) { return TRUE; }
