@@ -2,6 +2,7 @@
 
 #include "afxtoolbar.h"
 #include "afxtoolbarmenubutton.h"
+#include "fx/wheel_rest.h"
 
 #include <memory>
 
@@ -158,6 +159,7 @@ private:
     BOOL ToggleHotRow();
     void ChooseRow(int nRow);
     std::unique_ptr<Rows> m_rows; ///< of a list; NULL: there are buttons
+    fx::WheelRest m_wheel;
 
 protected:
     UINT m_uiDefMenuCmd = 0;

@@ -74,6 +74,7 @@ void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
 void CMFCRibbonBar::OnMouseLeave() {
     CPane::OnMouseLeave();
     m_parts->tracksLeave = false;
+    m_parts->wheel.Reset();
     if (!m_parts->press.IsActive()) {
         SetHot(nullptr, CPoint(-1, -1));
     }
@@ -134,9 +135,10 @@ BOOL CMFCRibbonBar::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
         GetDroppedDown() != nullptr) {
         return CPane::OnMouseWheel(nFlags, zDelta, pt);
     }
-    const int step = zDelta > 0 ? -1 : 1;
+    const int notches = m_parts->wheel.Add(zDelta);
+    const int step = notches > 0 ? -1 : 1;
     int index = GetCategoryIndex(m_parts->active);
-    for (int notch = 0; notch < std::max(1, abs(zDelta) / WHEEL_DELTA); ++notch) {
+    for (int notch = std::abs(notches); notch > 0; --notch) {
         int next = index + step;
         while (GetCategory(next) != nullptr && !GetCategory(next)->IsVisible()) {
             next += step;

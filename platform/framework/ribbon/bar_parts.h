@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "afxribbonbar.h"
+#include "fx/wheel_rest.h"
 #include "ribbon/access.h"
 #include "ribbon/bar_layout.h"
 #include "ribbon/keyboard.h"
@@ -38,7 +39,8 @@ struct RibbonCategoryParts {
     std::vector<std::unique_ptr<CMFCRibbonBaseElement>> hidden;
     std::vector<RibbonPanelLadder> ladders; // one a panel, as last measured
     std::vector<int> collapseOrder;
-    int firstPanel = 0; // leftmost panel in view while the category scrolls
+    int firstPanel = 0;       // leftmost panel in view while the category scrolls
+    int wantedFirstPanel = 0; // as the user scrolled; forgotten as soon as nothing has to scroll
     bool measured = false;
     UINT smallImagesId = 0;
     UINT largeImagesId = 0;
@@ -81,6 +83,7 @@ struct RibbonBarParts {
     CMFCRibbonBaseElement* menuSubject = nullptr; // whose context menu is open
     CMFCRibbonPanel* hotPanel = nullptr;
     bool tracksLeave = false;
+    fx::WheelRest wheel;
 
     CMFCRibbonCategory* active = nullptr;
     CMFCRibbonCategory* activeBeforeContext = nullptr; // where the bar goes back to when the context is hidden

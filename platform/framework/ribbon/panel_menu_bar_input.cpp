@@ -153,6 +153,7 @@ void CMFCRibbonPanelMenuBar::OnMouseMove(UINT nFlags, CPoint point) {
 void CMFCRibbonPanelMenuBar::OnMouseLeave() {
     CPane::OnMouseLeave();
     m_parts->tracksLeave = false;
+    m_parts->wheel.Reset();
     m_parts->lastMove = CPoint(-1, -1);
     m_parts->scrollHot = 0;
     KillTimer(kScrollTimer);
@@ -182,7 +183,10 @@ BOOL CMFCRibbonPanelMenuBar::OnMouseWheel(UINT /*nFlags*/, short zDelta, CPoint 
     return TRUE;
 }
 
-BOOL CMFCRibbonPanelMenuBar::OnWheel(short zDelta) { return Scroll(zDelta > 0 ? -1 : 1); }
+BOOL CMFCRibbonPanelMenuBar::OnWheel(short zDelta) {
+    const int rows = m_parts->wheel.Add(zDelta);
+    return rows != 0 && Scroll(-rows);
+}
 
 // The right button chooses nothing; the system makes its context menu of it.
 void CMFCRibbonPanelMenuBar::OnRButtonUp(UINT nFlags, CPoint point) { CPane::OnRButtonUp(nFlags, point); }

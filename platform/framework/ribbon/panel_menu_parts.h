@@ -6,6 +6,7 @@
 #include "afxRibbonPanel.h"
 #include "afxribboncategory.h"
 #include "afxribbonpanelmenu.h"
+#include "fx/wheel_rest.h"
 #include "ribbon/access.h"
 #include "ribbon/menu_geometry.h"
 #include "ribbon/press.h"
@@ -87,6 +88,7 @@ struct RibbonPanelMenuParts {
     CPoint lastMove{-1, -1};
     int scrollHot = 0; // -1 up, 1 down
     bool tracksLeave = false;
+    fx::WheelRest wheel;
 
     std::unique_ptr<RibbonAccess> access; // null until an assistive program asks
 

@@ -89,6 +89,7 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point) {
 
 void CMFCPopupMenuBar::OnMouseLeave() {
     m_bTracked = FALSE;
+    m_wheel.Reset();
     if (m_rows) {
         return;
     }
@@ -293,7 +294,7 @@ BOOL CMFCPopupMenuBar::OnWheel(short zDelta) {
     }
     constexpr int rowsPerNotch = 3;
     const int before = m_iOffset;
-    popup->ScrollBy(-zDelta * rowsPerNotch * GetRowHeight() / WHEEL_DELTA);
+    popup->ScrollBy(-m_wheel.Add(zDelta, rowsPerNotch * GetRowHeight()));
     return m_iOffset != before;
 }
 

@@ -168,10 +168,7 @@ BOOL CMFCPopupMenuBar::OnToggleRow(int nRow) { return m_rows && m_rows->source->
 BOOL CMFCPopupMenuBar::OnRowWheel(short zDelta) {
     constexpr int rowsPerNotch = 3;
     const int before = m_iOffset;
-    m_rows->wheelRest += zDelta * rowsPerNotch;
-    const int moved = m_rows->wheelRest / WHEEL_DELTA;
-    m_rows->wheelRest -= moved * WHEEL_DELTA;
-    GetParentPopup()->ScrollBy(-moved * GetRowGeometry().height);
+    GetParentPopup()->ScrollBy(-m_wheel.Add(zDelta, rowsPerNotch) * GetRowGeometry().height);
     return m_iOffset != before;
 }
 

@@ -10,6 +10,5 @@ struct CMFCPopupMenuBar::Rows {
     toolbar::PopupRows* source = nullptr;
     CMFCToolBarMenuButton button; ///< stands for the row that is being drawn
     toolbar::TypeAhead typed;
-    int width = -1;    ///< measured; -1: not yet
-    int wheelRest = 0; ///< of the wheel, less than a row
+    int width = -1; ///< measured; -1: not yet
 };

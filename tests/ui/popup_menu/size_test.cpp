@@ -64,6 +64,25 @@ TEST_F(PopupMenuSizeTest, AScrolledMenuReachesItsLastItemByKeyAndWheel) {
     EXPECT_EQ(bar.GetOffset(), bar.GetContentHeight() - client.Height());
 }
 
+TEST_F(PopupMenuSizeTest, SmallTurnsOfTheWheelAddUpToWhatOneLargeTurnScrolls) {
+    auto* menu = new CMFCPopupMenu;
+    menu->SetMaxHeight(80);
+    ASSERT_TRUE(menu->Create(m_frame, 200, 200, MakeMenu()));
+    CMFCPopupMenuBar& bar = *menu->GetMenuBar();
+    const auto turn = [this](int delta) {
+        MSG wheel = {m_window, WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(delta)), 0, 0, {0, 0}};
+        AfxPreTranslateMessage(&wheel);
+    };
+    turn(-40);
+    const int offset = bar.GetOffset();
+    EXPECT_GT(offset, 0);
+    turn(40);
+    ASSERT_EQ(bar.GetOffset(), 0);
+    for (int part = 0; part < 40; ++part)
+        turn(-1);
+    EXPECT_EQ(bar.GetOffset(), offset);
+}
+
 TEST_F(PopupMenuSizeTest, AScrollBarReplacesTheArrows) {
     auto* menu = new CMFCPopupMenu;
     menu->SetMaxHeight(80);

@@ -35,6 +35,29 @@ TEST_F(RibbonBarTest, TheWheelWalksThroughTheShownCategories) {
     EXPECT_EQ(m_frame->categoryChanges, 2);
 }
 
+TEST_F(RibbonBarTest, ANotchInManySmallTurnsMovesOneCategory) {
+    Bar().AddCategory(L"Last", 0, 0);
+    CRect area;
+    Bar().GetWindowRect(area);
+    const auto turn = [&](int delta) {
+        const CPoint point = area.CenterPoint();
+        Bar().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(delta)), MAKELPARAM(point.x, point.y));
+        return Bar().GetCategoryIndex(Bar().GetActiveCategory());
+    };
+    for (const int delta : {-30, -30, -30})
+        EXPECT_EQ(turn(delta), 0);
+    EXPECT_EQ(turn(-30), 1);
+    EXPECT_EQ(m_frame->categoryChanges, 1);
+    for (const int delta : {-30, -30, -30, 30, 30, 30})
+        EXPECT_EQ(turn(delta), 1) << "the other way starts anew";
+    EXPECT_EQ(turn(30), 0);
+    EXPECT_EQ(turn(-90), 0);
+    m_pointer.MoveTo(Bar(), CenterOf(commands::paste));
+    m_pointer.SendLeave();
+    EXPECT_EQ(turn(-30), 0) << "what was left goes with the pointer";
+    EXPECT_EQ(turn(-2 * WHEEL_DELTA), 2) << "a quick turn counts all of its notches";
+}
+
 TEST_F(RibbonBarTest, OneElementIsHotAtATimeAndNoneAfterLeaving) {
     m_pointer.MoveTo(Bar(), CenterOf(commands::paste));
     EXPECT_TRUE(Element(commands::paste).IsHighlighted());
