@@ -80,12 +80,18 @@ class DumpOfTheDemo(unittest.TestCase):
                 self.assertFalse(a[0] < b[2] and b[0] < a[2] and a[1] < b[3] and b[1] < a[3], (a, b))
 
     def test_narrow_and_enlarged_bars_keep_their_elements_inside(self):
-        for width, scale in ((300, 100), (300, 200), (1280, 150)):
+        nowhere = [0, 0, 0, 0]
+        for width, scale in ((300, 100), (300, 175), (300, 200), (1280, 150)):
             _, got = dump(BIN_DIR, "--lang", "en", "--size", f"{width}x400", "--scale", str(scale))
-            rects = [e["rect"] for p in got["ribbon"]["categories"][0]["panels"] for e in p["elements"]]
+            panels = got["ribbon"]["categories"][0]["panels"]
+            # What a collapsed panel holds has no place, nor has a panel that is scrolled out of view.
+            rects = [rect for p in panels for rect in [p["rect"]] + [e["rect"] for e in p["elements"]] if rect != nowhere]
             for left, top, right, bottom in rects:
-                # What a collapsed panel holds has no place.
-                self.assertTrue([left, top, right, bottom] == [0, 0, 0, 0] or 0 <= left < right <= width, (width, scale, left, right))
+                self.assertTrue(0 <= left < right <= width and 0 < top < bottom, (width, scale, left, right))
+            shown = [p["rect"] for p in panels if p["rect"] != nowhere]
+            self.assertTrue(shown, (width, scale))
+            self.assertEqual(shown[0], panels[0]["rect"], "the first panel leads the row")
+            self.assertGreater(shown[0][3] - shown[0][1], 60 * scale // 100, (width, scale))
 
     def test_elements_of_other_categories_have_no_place(self):
         _, got = dump(BIN_DIR, "--lang", "en")

@@ -158,7 +158,9 @@ ordered_json DumpCategory(CMFCRibbonCategory& category) {
         ordered_json elements = ordered_json::array();
         for (int k = 0; k < panel.GetCount(); ++k)
             elements.push_back(DumpElement(*panel.GetElement(k)));
-        panels.push_back({{"name", Utf8(CString(panel.GetName()))}, {"elements", std::move(elements)}});
+        panels.push_back({{"name", Utf8(CString(panel.GetName()))},
+                          {"rect", DumpRect(panel.GetRect())},
+                          {"elements", std::move(elements)}});
     }
     result["panels"] = std::move(panels);
     return result;

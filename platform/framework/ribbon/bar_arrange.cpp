@@ -12,6 +12,8 @@ namespace {
 // In a smaller client area, at 96 DPI, the ribbon would only stand in the way.
 constexpr int kMinFrameWidth = 200;
 constexpr int kMinFrameHeight = 150;
+// In pixels: tabs and panels scroll, so that this is enough for them at every scale.
+constexpr int kMostMinFrameWidth = 250;
 
 bool IsTabShown(const CMFCRibbonCategory& category) { return category.IsVisible() != FALSE; }
 
@@ -124,7 +126,8 @@ bool CMFCRibbonBar::IsFrameTooSmall() {
     CRect area;
     parent->GetClientRect(area);
     const RibbonMetrics& metrics = m_parts->metrics;
-    return area.Width() < metrics.Scaled(kMinFrameWidth) || area.Height() < metrics.Scaled(kMinFrameHeight);
+    return area.Width() < std::min(metrics.Scaled(kMinFrameWidth), kMostMinFrameWidth) ||
+           area.Height() < metrics.Scaled(kMinFrameHeight);
 }
 
 void CMFCRibbonBar::OnSize(UINT nType, int cx, int cy) {
@@ -226,7 +229,10 @@ void CMFCRibbonBar::Arrange(CDC* pDC) {
     ArrangeCaptionButtons(pDC);
     PlaceElement(m_parts->tabScrollLeft, pDC, places.tabScrollLeft);
     PlaceElement(m_parts->tabScrollRight, pDC, places.tabScrollRight);
-    m_parts->shape.firstTab = places.firstTab;
+    const bool tabsScroll = !places.tabScrollLeft.IsEmpty() || !places.tabScrollRight.IsEmpty();
+    if (!tabsScroll && !m_parts->shape.captionOnly) {
+        m_parts->shape.firstTab = 0;
+    }
     if (CMFCRibbonCategory* shown = m_parts->ShownCategory()) {
         shown->m_rect = ToCRect(places.category);
         if (shown->m_parts->measured) {

@@ -204,4 +204,5 @@ void CMFCRibbonBar::ScrollTabs(BOOL bLeft) {
     m_parts->shape.firstTab = std::max(first + (bLeft ? -1 : 1), 0);
     MarkLayoutDirty();
     EnsureLayout();
+    m_parts->shape.firstTab = m_parts->arrangement.firstTab;
 }

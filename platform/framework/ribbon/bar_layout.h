@@ -20,7 +20,7 @@ struct RibbonBarShape {
     bool hasIcon = false;              // the frame's icon leads the caption
     int captionButtons = 0;            // the frame's own, at the right end of the caption
     int childButtons = 0;              // those of a maximised MDI child, at the right end of the tab row
-    int firstTab = 0;                  // leftmost one in view while the tabs scroll
+    int firstTab = 0;                  // leftmost one that is asked for while the tabs scroll
 };
 
 /// Where the parts of the bar lie, in client pixels. Empty rectangles are not shown.

@@ -460,8 +460,11 @@ void CMFCRibbonCategory::ReposPanels(CDC* pDC) {
     }
     const RibbonMetrics& metrics = m_pParentRibbonBar->GetMetrics();
     const RibbonCategoryArrangement places =
-        ArrangeCategory(m_parts->ladders, metrics, m_rect.Width(), m_parts->collapseOrder, m_parts->firstPanel);
+        ArrangeCategory(m_parts->ladders, metrics, m_rect.Width(), m_parts->collapseOrder, m_parts->wantedFirstPanel);
     m_parts->firstPanel = places.firstPanel;
+    if (!places.scrolls) {
+        m_parts->wantedFirstPanel = 0;
+    }
     const auto placeScroll = [this, pDC](CRibbonCategoryScroll& button, const RibbonRect& rect) {
         button.SetRect(rect.IsEmpty() ? CRect(0, 0, 0, 0) : ToCRect(rect) + m_rect.TopLeft());
         button.OnAfterChangeRect(pDC);
@@ -473,7 +476,7 @@ void CMFCRibbonCategory::ReposPanels(CDC* pDC) {
         if (place.rect.IsEmpty()) {
             m_parts->panels[index]->Hide(pDC);
         } else {
-            m_parts->panels[index]->Place(pDC, m_parts->ladders[index].Arrange(place.stepCount),
+            m_parts->panels[index]->Place(pDC, m_parts->ladders[index].Arrange(place.stepCount, place.rect.Width()),
                                           CPoint(place.rect.left, place.rect.top) + m_rect.TopLeft(), metrics);
         }
     }
@@ -502,12 +505,13 @@ void CMFCRibbonCategory::SetActive(BOOL bIsActive) {
 BOOL CMFCRibbonCategory::OnScrollHorz(BOOL bScrollLeft, int nScrollOffset) {
     const int former = m_parts->firstPanel;
     const int count = std::max(nScrollOffset, 1);
-    m_parts->firstPanel = std::max(former + (bScrollLeft ? -count : count), 0);
+    m_parts->wantedFirstPanel = std::max(former + (bScrollLeft ? -count : count), 0);
     if (m_pParentRibbonBar == nullptr || m_pParentRibbonBar->GetSafeHwnd() == nullptr) {
         return FALSE;
     }
     CClientDC dc(m_pParentRibbonBar);
     ReposPanels(&dc);
+    m_parts->wantedFirstPanel = m_parts->firstPanel;
     CWnd* window = m_pParentMenuBar != nullptr ? static_cast<CWnd*>(m_pParentMenuBar) : m_pParentRibbonBar;
     window->InvalidateRect(m_rect, FALSE);
     return m_parts->firstPanel != former;

@@ -94,7 +94,7 @@ RibbonCategoryArrangement ArrangeCategory(std::span<const RibbonPanelLadder> pan
     int x = left;
     int end = right;
     size_t first = 0;
-    if (!reducer.Fits()) {
+    if (!reducer.Fits() && panels.size() > 1) {
         result.scrolls = true;
         x += metrics.scrollButtonWidth;
         end -= metrics.scrollButtonWidth;
@@ -107,7 +107,10 @@ RibbonCategoryArrangement ArrangeCategory(std::span<const RibbonPanelLadder> pan
     size_t shown = first;
     for (size_t panel = 0; panel < panels.size(); ++panel) {
         result.panels[panel].stepCount = reducer.Taken()[panel];
-        const int panelWidth = reducer.Width(panel);
+        int panelWidth = reducer.Width(panel);
+        if (panel == first) {
+            panelWidth = std::min(panelWidth, std::max(end - x, 0));
+        }
         if (panel == shown && x + panelWidth <= end) {
             result.panels[panel].rect = {x, top, x + panelWidth, bottom};
             x += panelWidth + metrics.panelGap;

@@ -264,14 +264,16 @@ void RibbonPanelLadder::MakeSteps() {
     }
 }
 
-RibbonPanelArrangement RibbonPanelLadder::Arrange(int stepCount) const {
+RibbonPanelArrangement RibbonPanelLadder::Arrange(int stepCount, int room) const {
     RibbonPanelArrangement result;
     const size_t taken = std::min(static_cast<size_t>(std::max(stepCount, 0)), m_steps.size());
     result.height = m_metrics.PanelHeight();
     result.width = taken == 0 ? m_fullWidth : m_steps[taken - 1].width;
     result.elements.resize(m_shape.elements.size());
-    if (taken > 0 && m_steps[taken - 1].phase == Phase::Collapsed) {
+    const bool isTooWide = result.width > room && m_shape.collapsedWidth > 0;
+    if (isTooWide || (taken > 0 && m_steps[taken - 1].phase == Phase::Collapsed)) {
         result.collapsed = true;
+        result.width = std::min(result.width, room);
         return result;
     }
     result.caption = {0, result.height - m_metrics.panelCaptionHeight, result.width, result.height};

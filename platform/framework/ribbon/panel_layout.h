@@ -1,5 +1,6 @@
 #pragma once
 
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -68,8 +69,9 @@ public:
     /// Each step is narrower than the one before it.
     const std::vector<Step>& Steps() const { return m_steps; }
 
-    /// Places the elements as they are after the first stepCount steps.
-    RibbonPanelArrangement Arrange(int stepCount) const;
+    /// Places the elements as they are after the first stepCount steps. A panel that is wider than the room collapses
+    /// nevertheless, and its button is cut to the room.
+    RibbonPanelArrangement Arrange(int stepCount, int room = std::numeric_limits<int>::max()) const;
 
 private:
     // Elements that reduce together: some neighbours of one column, of one flow, or one element.
@@ -119,7 +121,7 @@ struct RibbonCategoryArrangement {
     };
     std::vector<Panel> panels;
     bool scrolls = false;
-    int firstPanel = 0; // the leftmost panel in view
+    int firstPanel = 0; // the leftmost panel in view; it has a place however wide it is
     bool canScrollLeft = false;
     bool canScrollRight = false;
     RibbonRect scrollLeft; // empty unless it can scroll there

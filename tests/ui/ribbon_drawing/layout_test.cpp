@@ -22,7 +22,10 @@ struct Places {
 
 class RibbonLayout : public RandomRibbon, public testing::WithParamInterface<unsigned> {
 protected:
-    RibbonLayout() { Fill(GetParam()); }
+    explicit RibbonLayout(double scale = 1.0, Direction direction = Direction::LeftToRight)
+        : RandomRibbon(scale, direction) {
+        Fill(GetParam());
+    }
 
     Places CurrentPlaces() const {
         Places places;
@@ -76,6 +79,26 @@ protected:
         for (INT_PTR index = 0; index < elements.GetSize(); ++index)
             ASSERT_FALSE(elements[index]->GetRect().IsRectEmpty()) << CString(elements[index]->GetText()).GetString();
     }
+    void CheckEveryWidth(int step) {
+        std::vector<int> narrower(Panels().size(), 0);
+        for (int width = kNarrowest; width <= kWidest; width += step) {
+            SCOPED_TRACE(testing::Message() << "width " << width);
+            SetWidth(width);
+            ASSERT_EQ(m_category->GetRect().Width(), width);
+            ASSERT_NO_FATAL_FAILURE(ExpectInOrder());
+            ASSERT_NO_FATAL_FAILURE(ExpectReachable());
+            ASSERT_NO_FATAL_FAILURE(ExpectVisibleOnesToHavePlaces());
+            const std::vector<int> widths = PanelWidths();
+            for (std::size_t panel = 0; panel < widths.size(); ++panel)
+                ASSERT_GE(widths[panel], narrower[panel]) << panel;
+            narrower = widths;
+        }
+    }
+    void CheckPixels(std::initializer_list<int> clientWidths);
+    void ScrollToTheEnd() {
+        while (m_category->OnScrollHorz(FALSE)) {
+        }
+    }
     std::vector<int> PanelWidths() const {
         std::vector<int> widths;
         for (const CMFCRibbonPanel* panel : Panels())
@@ -84,21 +107,7 @@ protected:
     }
 };
 
-TEST_P(RibbonLayout, AtEveryWidthAllIsApartInsideAndReachableAndGrowsWithTheBar) {
-    std::vector<int> narrower(Panels().size(), 0);
-    for (int width = kNarrowest; width <= kWidest; ++width) {
-        SCOPED_TRACE(testing::Message() << "width " << width);
-        SetWidth(width);
-        ASSERT_EQ(m_category->GetRect().Width(), width);
-        ASSERT_NO_FATAL_FAILURE(ExpectInOrder());
-        ASSERT_NO_FATAL_FAILURE(ExpectReachable());
-        ASSERT_NO_FATAL_FAILURE(ExpectVisibleOnesToHavePlaces());
-        const std::vector<int> widths = PanelWidths();
-        for (std::size_t panel = 0; panel < widths.size(); ++panel)
-            ASSERT_GE(widths[panel], narrower[panel]) << panel;
-        narrower = widths;
-    }
-}
+TEST_P(RibbonLayout, AtEveryWidthAllIsApartInsideAndReachableAndGrowsWithTheBar) { CheckEveryWidth(1); }
 
 TEST_P(RibbonLayout, AWidthGivesTheSamePlacesWhicheverWayItWasReached) {
     std::vector<Places> upwards;
@@ -121,8 +130,26 @@ TEST_P(RibbonLayout, AWidthGivesTheSamePlacesWhicheverWayItWasReached) {
     EXPECT_GT(states.size(), 2u) << "the widths did not change much";
 }
 
-TEST_P(RibbonLayout, EveryPixelBelongsToTheElementThatWasDrawnThere) {
-    for (const int width : {1900, 1200, 800, 560, 380}) {
+/// In larger windows and mirrored ones; a coarser sample.
+class EnlargedRibbonLayout : public RibbonLayout {
+protected:
+    EnlargedRibbonLayout() : RibbonLayout(1.5, GetParam() % 2 == 0 ? Direction::RightToLeft : Direction::LeftToRight) {}
+};
+
+class MirroredRibbonLayout : public RibbonLayout {
+protected:
+    MirroredRibbonLayout() : RibbonLayout(1.0, Direction::RightToLeft) {}
+};
+
+TEST_P(EnlargedRibbonLayout, AllIsApartInsideAndReachableAndGrowsWithTheBar) { CheckEveryWidth(13); }
+TEST_P(MirroredRibbonLayout, AllIsApartInsideAndReachableAndGrowsWithTheBar) { CheckEveryWidth(17); }
+
+TEST_P(RibbonLayout, EveryPixelBelongsToTheElementThatWasDrawnThere) { CheckPixels({1900, 1200, 800, 560, 380}); }
+TEST_P(EnlargedRibbonLayout, EveryPixelBelongsToTheElementThatWasDrawnThere) { CheckPixels({1300, 700, 380}); }
+TEST_P(MirroredRibbonLayout, EveryPixelBelongsToTheElementThatWasDrawnThere) { CheckPixels({1200, 560}); }
+
+void RibbonLayout::CheckPixels(std::initializer_list<int> clientWidths) {
+    for (const int width : clientWidths) {
         SetWidth(width);
         m_log = {};
         Bar().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
@@ -176,6 +203,46 @@ TEST_P(RibbonLayout, TheRowOfTabsAndTheQuickAccessToolbarAreHitWhereTheyAreDrawn
     }
 }
 
+TEST_P(RibbonLayout, AScrolledCategoryDependsOnTheWidthAloneUntilEverythingFits) {
+    // Panels enough to scroll at several widths.
+    for (int more = 0; more < 12; ++more)
+        m_category->AddPanel(L"Another")->Add(new Probe<CMFCRibbonLabel>(m_log, L"A label that takes some room"));
+    Bar().RecalcLayout();
+    const auto scrolls = [this] {
+        return !m_category->ScrollLeftRect().IsRectEmpty() || !m_category->ScrollRightRect().IsRectEmpty();
+    };
+    std::map<int, Places> fresh;
+    int widest = kNarrowest;
+    for (int width = kNarrowest; width <= kWidest; width += 20) {
+        SetWidth(width);
+        fresh[width] = CurrentPlaces();
+        widest = scrolls() ? width : widest;
+    }
+    ASSERT_GT(widest, kNarrowest + 200);
+
+    SetWidth(kNarrowest);
+    ScrollToTheEnd();
+    std::map<int, Places> scrolled;
+    for (int width = kNarrowest; width <= widest; width += 20) {
+        SetWidth(width);
+        ASSERT_TRUE(scrolls());
+        scrolled[width] = CurrentPlaces();
+    }
+    EXPECT_NE(scrolled[kNarrowest], fresh[kNarrowest]);
+    for (int width = widest; width >= kNarrowest; width -= 20) {
+        SetWidth(width);
+        EXPECT_EQ(CurrentPlaces(), scrolled[width]) << width;
+    }
+    SetWidth(kWidest);
+    ASSERT_FALSE(scrolls());
+    for (int width = kWidest; width >= kNarrowest; width -= 20) {
+        SetWidth(width);
+        EXPECT_EQ(CurrentPlaces(), fresh[width]) << width << ", after everything did fit";
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Seeds, RibbonLayout, testing::Range(1u, 5u));
+INSTANTIATE_TEST_SUITE_P(Seeds, EnlargedRibbonLayout, testing::Range(5u, 7u));
+INSTANTIATE_TEST_SUITE_P(Seeds, MirroredRibbonLayout, testing::Range(7u, 8u));
 
 } // namespace

@@ -7,6 +7,15 @@
 
 IMPLEMENT_DYNCREATE(OpenCategory, CMFCRibbonCategory)
 
+RandomRibbon::RandomRibbon(double scale, Direction direction) {
+    afxGlobalData.SetRibbonImageScale(scale);
+    if (direction == Direction::RightToLeft)
+        Bar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    Bar().ForceRecalcLayout();
+}
+
+RandomRibbon::~RandomRibbon() { afxGlobalData.SetRibbonImageScale(0); }
+
 void RandomRibbon::Fill(unsigned seed) {
     m_random.seed(seed);
     m_category = static_cast<OpenCategory*>(

@@ -17,7 +17,11 @@ public:
 /// A bar whose active category has panels and elements by chance; each seed gives always the same ones.
 class RandomRibbon : public RibbonBarTest {
 protected:
-    RandomRibbon() = default;
+    enum class Direction { LeftToRight, RightToLeft };
+
+    /// The scale is that of every window of the program while the object lives; 1.0 at 96 DPI.
+    explicit RandomRibbon(double scale = 1.0, Direction direction = Direction::LeftToRight);
+    ~RandomRibbon() override;
 
     void Fill(unsigned seed);
     /// Without the message loop, so that nothing but the layout happens. Pixels of the frame's client area.

@@ -75,7 +75,7 @@ TEST(RibbonCategoryLayout, ElementsOfShownPanelsLieInsideTheirPanels) {
             const auto arrangement = ArrangeCategory(ladders, g_metrics, width);
             for (size_t panel = 0; panel < ladders.size(); ++panel) {
                 const RibbonRect& rect = arrangement.panels[panel].rect;
-                const auto inner = ladders[panel].Arrange(arrangement.panels[panel].stepCount);
+                const auto inner = ladders[panel].Arrange(arrangement.panels[panel].stepCount, rect.Width());
                 ASSERT_TRUE(rect.IsEmpty() || rect.Width() == inner.width);
                 for (const auto& element : inner.elements) {
                     ASSERT_TRUE(rect.IsEmpty() || element.rect.IsEmpty() ||
@@ -97,6 +97,37 @@ TEST(RibbonCategoryLayout, WithRoomNothingIsReducedAndPanelsFollowEachOther) {
         x = arrangement.panels[index].rect.right + g_metrics.panelGap;
     }
     EXPECT_FALSE(arrangement.scrolls);
+}
+
+TEST(RibbonCategoryLayout, APanelThatIsWiderThanTheRowIsShownAsAButtonCutToTheRow) {
+    RibbonPanelShape panel;
+    panel.elements.assign(3, shapes::Edit(350, g_metrics));
+    panel.captionWidth = 20;
+    for (const int collapsedWidth : {60, 320, 500}) {
+        for (const size_t count : {1, 3}) {
+            panel.collapsedWidth = collapsedWidth;
+            const auto ladders = Ladders(std::vector(count, panel), g_metrics);
+            for (int first = 0; first < static_cast<int>(count); ++first) {
+                const auto arrangement = ArrangeCategory(ladders, g_metrics, 300, {}, first);
+                ASSERT_NO_FATAL_FAILURE(ExpectApartAndInside(arrangement, g_metrics, 300));
+                const auto& shown = arrangement.panels[static_cast<size_t>(arrangement.firstPanel)];
+                ASSERT_FALSE(shown.rect.IsEmpty()) << collapsedWidth << ", from " << first;
+                const auto inner = ladders[0].Arrange(shown.stepCount, shown.rect.Width());
+                EXPECT_TRUE(inner.collapsed);
+                EXPECT_EQ(inner.width, shown.rect.Width());
+            }
+        }
+    }
+}
+
+TEST(RibbonCategoryLayout, OnePanelAloneNeedsNoRoomForScrollButtons) {
+    RibbonPanelShape panel;
+    panel.elements.assign(1, shapes::Edit(350, g_metrics));
+    panel.collapsedWidth = 500;
+    const auto arrangement = ArrangeCategory(Ladders({panel}, g_metrics), g_metrics, 300);
+    EXPECT_FALSE(arrangement.scrolls);
+    EXPECT_EQ(arrangement.panels[0].rect.left, g_metrics.categoryMarginX);
+    EXPECT_EQ(arrangement.panels[0].rect.right, 300 - g_metrics.categoryMarginX);
 }
 
 class TwoEqualPanels : public testing::Test {

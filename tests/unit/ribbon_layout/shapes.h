@@ -76,7 +76,7 @@ inline RibbonPanelShape AnyPanel(std::mt19937& random, const RibbonMetrics& m) {
         panel.elements.push_back(Any(random, m));
     }
     panel.captionWidth = std::uniform_int_distribution(20, 90)(random);
-    panel.collapsedWidth = std::uniform_int_distribution(36, 60)(random);
+    panel.collapsedWidth = std::uniform_int_distribution(36, 400)(random);
     panel.centerColumns = random() % 2 == 0;
     panel.justifyColumns = random() % 2 == 0;
     return panel;
