@@ -24,6 +24,8 @@ public:
     BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
     BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
     void OnDraw(CDC* pDC) override;
+    int DrawRibbonText(CDC* pDC, const CString& strText, CRect rectText, UINT uiDTFlags,
+                       COLORREF clrText = static_cast<COLORREF>(-1)) override;
     void OnLButtonUp(CPoint point) override;
 
 protected:

@@ -242,6 +242,9 @@ public:
     const struct RibbonMetrics& GetMetrics() const;
     /// What the bar shows has changed: it lays itself out before it is next drawn, hit-tested or updated.
     void MarkLayoutDirty();
+    /// Texts are shown that were measured otherwise: everything is measured anew before the next paint. While the bar
+    /// draws as well.
+    void MarkMeasuresDirty();
     /// Lays out now if something changed since the last time.
     void EnsureLayout();
     void OnElementDestroyed(CMFCRibbonBaseElement* pElement);

@@ -135,6 +135,8 @@ protected:
     void PlaceMenuRowParts(CDC* pDC);
     RibbonImageType GetFaceImageType() const;
     void DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText);
+    // Asks for a new layout when the text that is drawn, in one line, is not the one that was measured.
+    void CompareWithMeasured(CSize sizeDrawn);
     BOOL DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectImage);
     BOOL DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage);
     void ReleaseIcons();
@@ -159,6 +161,7 @@ protected:
     HMENU m_hMenu = nullptr;
     std::shared_ptr<CMenu> m_pLoadedMenu; // from the resources, shared by the button's copies
     BOOL m_bIsDefaultCommand = FALSE;
+    BOOL m_bAsksForLayout = FALSE; // the text is not the one that was measured
     BOOL m_bRightAlignMenu = FALSE;
     BOOL m_bFollowsOriginal = FALSE;
     BOOL m_bMenuAreaHighlighted = FALSE;

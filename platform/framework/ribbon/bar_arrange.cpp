@@ -70,6 +70,16 @@ void CMFCRibbonBar::EnsureLayout() {
     }
 }
 
+void CMFCRibbonBar::MarkMeasuresDirty() {
+    for (const auto& category : m_parts->categories) {
+        category->m_parts->measured = false;
+    }
+    m_parts->layoutDirty = true;
+    if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
+        Invalidate(FALSE);
+    }
+}
+
 void CMFCRibbonBar::RecalcLayout() {
     for (const auto& category : m_parts->categories) {
         category->m_parts->measured = false;

@@ -2,9 +2,12 @@
 #include <afxribbonbutton.h>
 
 #include <afxglobals.h>
+#include <afxribbonbar.h>
 #include <afxribbonbuttonsgroup.h>
-#include <afxribboncategory.h>
+#include <afxribbonpanelmenu.h>
 #include <afxvisualmanager.h>
+
+#include <algorithm>
 
 #include "fx/dc_scope.h"
 #include "ribbon/button_face.h"
@@ -13,9 +16,11 @@
 namespace {
 
 // A glyph may reach beyond its measured width; the margin beside the text has room for it.
-constexpr UINT kOneLine = DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER | DT_END_ELLIPSIS | DT_NOCLIP;
-// Lines below a large image fit by construction; clipping the last column of an overhanging glyph would show.
-constexpr UINT kBottomLine = DT_SINGLELINE | DT_NOPREFIX | DT_TOP | DT_NOCLIP;
+constexpr UINT kOneLine = DT_SINGLELINE | DT_NOPREFIX | DT_VCENTER;
+constexpr UINT kBottomLine = DT_SINGLELINE | DT_NOPREFIX | DT_TOP;
+
+// A text that is wider than the place it was given stays inside of it.
+UINT WithEnd(UINT format, int width, int room) { return format | (width > room ? DT_END_ELLIPSIS : DT_NOCLIP); }
 
 } // namespace
 
@@ -29,6 +34,7 @@ void CMFCRibbonButton::OnDraw(CDC* pDC) {
     const ribbon::TextContext context(pDC);
     const COLORREF color = ribbon::TextColor(pDC, OnFillBackground(pDC), IsDisabled());
     const Face face = CollectFace(pDC);
+    CompareWithMeasured(ribbon::ToSize(face.content.rightText));
 
     if (!face.parts.image.IsEmpty())
         DrawImage(pDC, GetFaceImageType(), ribbon::ToRect(face.parts.image));
@@ -48,23 +54,40 @@ void CMFCRibbonButton::DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText
     if (m_strText.IsEmpty() || face.parts.text.IsEmpty())
         return;
     if (face.content.look != ribbon::ButtonLook::Large) {
-        DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.parts.text), kOneLine, clrText);
+        const UINT format = WithEnd(kOneLine, face.content.rightText.width, face.parts.text.Width());
+        DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.parts.text), format, clrText);
         return;
     }
     const int row = ribbon::CurrentMetrics().textHeight;
-    const auto draw = [&](const CString& text, int left, int width, int top) {
-        const CRect rect(left, top, left + width, top + row);
-        DrawRibbonText(pDC, text, rect, kBottomLine, clrText);
-    };
     const ribbon::Rect& area = face.parts.text;
     const int center = (area.left + area.right) / 2;
-    draw(m_strText.Left(static_cast<int>(face.lines.firstLength)), center - face.lines.firstWidth / 2,
-         face.lines.firstWidth, area.top);
+    const auto draw = [&](const CString& text, int width, int tail, int top) {
+        const int shown = std::clamp(area.Width() - tail, 0, width);
+        const int left = center - (shown + tail) / 2;
+        DrawRibbonText(pDC, text, CRect(left, top, left + shown, top + row), WithEnd(kBottomLine, width, shown),
+                       clrText);
+    };
+    draw(m_strText.Left(static_cast<int>(face.lines.firstLength)), face.lines.firstWidth, 0, area.top);
     if (face.content.isArrowAlone)
         return;
     const int tail = face.parts.arrow.IsEmpty() ? 0 : ribbon::BottomArrowWidth(ribbon::CurrentMetrics());
-    draw(m_strText.Mid(static_cast<int>(face.lines.secondStart)), center - (face.lines.secondWidth + tail) / 2,
-         face.lines.secondWidth, area.top + row);
+    draw(m_strText.Mid(static_cast<int>(face.lines.secondStart)), face.lines.secondWidth, tail, area.top + row);
+}
+
+// A derived class shows a translation, and the language has changed. One that always draws another text than it
+// measures asks once only.
+void CMFCRibbonButton::CompareWithMeasured(CSize sizeDrawn) {
+    if (m_sizeTextRight == CSize(0, 0) || sizeDrawn == m_sizeTextRight) {
+        m_bAsksForLayout = FALSE;
+        return;
+    }
+    if (m_bAsksForLayout)
+        return;
+    m_bAsksForLayout = TRUE;
+    if (m_pParentMenu != nullptr)
+        m_pParentMenu->MarkLayoutDirty();
+    else if (CMFCRibbonBar* const bar = GetParentRibbonBar())
+        bar->MarkMeasuresDirty();
 }
 
 CSize CMFCRibbonButton::DrawBottomText(CDC* pDC, BOOL bCalcOnly) {

@@ -47,7 +47,7 @@ Rect PlaceBottomArrow(const Rect& text, const ButtonContent& content, const Face
     const Size arrow = MenuArrowSize(metrics);
     if (content.isArrowAlone)
         return Centred(line, arrow);
-    const int width = content.secondLineWidth + BottomArrowWidth(metrics);
+    const int width = std::min(content.secondLineWidth + BottomArrowWidth(metrics), line.Width());
     const int right = line.left + (line.Width() + width) / 2;
     const int top = line.top + (line.Height() - arrow.height) / 2 + metrics.Scaled(1);
     return {right - arrow.width, top, right, top + arrow.height};

@@ -27,6 +27,7 @@ void CMFCRibbonLabel::CopyFrom(const CMFCRibbonBaseElement& src) {
 CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
+    m_sizeTextRight = ribbon::ToSize(text);
     if (!m_bIsMultiLine || m_strText.IsEmpty())
         return {text.width + 2 * m_szMargin.cx, metrics.RowHeight()};
 
@@ -74,6 +75,13 @@ void CMFCRibbonLabel::OnDraw(CDC* pDC) {
         text.DeflateRect(0, std::max(0, (text.Height() - height) / 2));
     }
     DrawRibbonText(pDC, m_strText, text, format, ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
+}
+
+int CMFCRibbonLabel::DrawRibbonText(CDC* pDC, const CString& strText, CRect rectText, UINT uiDTFlags,
+                                    COLORREF clrText) {
+    const auto length = static_cast<size_t>(strText.GetLength());
+    CompareWithMeasured(ribbon::ToSize(ribbon::MeasureText(pDC, {strText.GetString(), length})));
+    return CMFCRibbonButton::DrawRibbonText(pDC, strText, rectText, uiDTFlags, clrText);
 }
 
 void CMFCRibbonLabel::OnLButtonUp(CPoint /*point*/) { m_bIsPressed = FALSE; }
