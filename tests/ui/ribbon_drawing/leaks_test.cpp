@@ -55,6 +55,12 @@ TEST_F(RibbonDrawingLeaks, FullRepaintsOfIconFileButtons) {
     ExpectNoGrowth(10000, [this](int) { Repaint(); });
 }
 
+TEST_F(RibbonDrawingLeaks, FullRepaintsOfAMirroredBar) {
+    AddIconFileButtons();
+    Bar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    ExpectNoGrowth(1500, [this](int) { Repaint(); });
+}
+
 TEST_F(RibbonDrawingLeaks, TabSwitches) {
     ExpectNoGrowth(2000, [this](int i) { SwitchTab(i); });
 }
