@@ -83,6 +83,14 @@ int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWid
     return marksWidth + static_cast<int>(dc.GetTextExtent(InOneLine(DisplayedTextOf(combo, index))).cx) + marks::gap;
 }
 
+void ShowMarkChange(CMFCRibbonComboBox& combo, int index) {
+    combo.Redraw();
+    if (index < 0 || index != combo.GetACCCurrentRow())
+        return;
+    combo.NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
+    combo.NotifyAccessibility(EVENT_OBJECT_DESCRIPTIONCHANGE); // the words stand there
+}
+
 void AddWords(CAccessibilityData& data, const CString& words) {
     data.m_strDescription += data.m_strDescription.IsEmpty() ? words : L", " + words;
 }

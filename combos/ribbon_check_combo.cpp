@@ -47,8 +47,8 @@ struct CMFCRibbonCheckComb::State : MarkedComboState<bool> {
                    {place.text.left, static_cast<int>(row.top), place.text.right, static_cast<int>(row.bottom)});
     }
     /// Everything that shows the checks, after a user changed one.
-    static void RedrawAll(CMFCRibbonCheckComb& combo) {
-        combo.Redraw();
+    static void RedrawAll(CMFCRibbonCheckComb& combo, int index) {
+        ShowMarkChange(combo, index);
         ChangeCopies(combo, [](CMFCRibbonCheckComb& copy) { copy.Redraw(); });
     }
     CString WordsFor(int index) const { return Displayed(rows.GetOrEmpty(index) ? L"checked" : L"not checked"); }
@@ -148,7 +148,7 @@ bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusi
         const CheckChange change = ToggleOne(index, old);
         SetItemCheck(index, change.check);
         SelectRow(*this, index);
-        State::RedrawAll(*this);
+        State::RedrawAll(*this, index);
         TellHost(host, WM_COMBO_CHECK_CHANGED, TextOf(*this, index), static_cast<LPARAM>(change.notice));
         return true;
     }
@@ -163,7 +163,7 @@ bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusi
         if (life.expired())
             return true;
     }
-    State::RedrawAll(*this);
+    State::RedrawAll(*this, GetACCCurrentRow());
     return true;
 }
 
@@ -181,7 +181,7 @@ void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
     const int selected = GetCurSel();
     const CheckChange change = ToggleOne(selected, m_state->rows.GetOrEmpty(selected));
     SetItemCheck(selected, change.check);
-    State::RedrawAll(*this);
+    State::RedrawAll(*this, selected);
     TellHost(host, WM_COMBO_CHECK_CHANGED, GetEditText(), static_cast<LPARAM>(change.notice));
 }
 
@@ -208,17 +208,18 @@ void CMFCRibbonCheckComb::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 
 // ---- accessibility
 
+CString CMFCRibbonCheckComb::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
+
 BOOL CMFCRibbonCheckComb::SetACCData(CWnd* parent, CAccessibilityData& data) {
     const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (isDescribed && GetCurSel() >= 0)
-        AddWords(data, m_state->WordsFor(GetCurSel()));
+    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0)
+        AddWords(data, m_state->WordsFor(row));
     return isDescribed;
 }
 
 BOOL CMFCRibbonCheckComb::SetACCRowData(int row, CAccessibilityData& data) {
     if (!CMFCRibbonComboBox::SetACCRowData(row, data))
         return FALSE;
-    data.m_strName = DisplayedTextOf(*this, row);
     if (m_state->rows.GetOrEmpty(row))
         data.m_nState |= STATE_SYSTEM_CHECKED;
     AddWords(data, m_state->WordsFor(row));

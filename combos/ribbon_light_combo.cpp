@@ -62,7 +62,7 @@ bool CMFCRibbonVesMultiCombo::SetItemLight(int index, bool light, bool redraw) {
     if (!m_state->rows.Set(index, CountOf(*this), light))
         return false;
     if (redraw)
-        Redraw();
+        ShowMarkChange(*this, index);
     State::ChangeCopies(*this, [=](CMFCRibbonVesMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
     return true;
 }
@@ -101,9 +101,8 @@ bool CMFCRibbonVesMultiCombo::NotifyChangeData(int index, int zone, bool /*exclu
     if (!host || zone != lightZone)
         return false;
     const bool light = !m_state->rows.GetOrEmpty(index);
-    SetItemLight(index, light, true);
     SelectRow(*this, index);
-    Redraw();
+    SetItemLight(index, light, true);
     TellHost(host, WM_VESCOMBO_LIGHT_CHANGED, TextOf(*this, index), light ? 1 : 0);
     return true;
 }
@@ -143,17 +142,18 @@ void CMFCRibbonVesMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 
 // ---- accessibility
 
+CString CMFCRibbonVesMultiCombo::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
+
 BOOL CMFCRibbonVesMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
     const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (isDescribed && GetCurSel() >= 0)
-        AddWords(data, m_state->WordsFor(GetCurSel()));
+    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0)
+        AddWords(data, m_state->WordsFor(row));
     return isDescribed;
 }
 
 BOOL CMFCRibbonVesMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
     if (!CMFCRibbonComboBox::SetACCRowData(row, data))
         return FALSE;
-    data.m_strName = DisplayedTextOf(*this, row);
     AddWords(data, m_state->WordsFor(row));
     return TRUE;
 }

@@ -91,7 +91,7 @@ bool CMFCRibbonMultiCombo::SetItemClr(int index, const COLORREF& clr, bool redra
     if (!m_state->rows.Modify(index, CountOf(*this), [clr](rowInfo& info) { info.clr = clr; }))
         return false;
     if (redraw)
-        Redraw();
+        ShowMarkChange(*this, index);
     State::ChangeCopies(*this, [=](CMFCRibbonMultiCombo& copy) { copy.SetItemClr(index, clr, redraw); });
     return true;
 }
@@ -112,7 +112,7 @@ bool CMFCRibbonMultiCombo::SetItemLight(int index, bool light, bool redraw) {
     if (!m_state->rows.Modify(index, CountOf(*this), [light](rowInfo& info) { info.light = light; }))
         return false;
     if (redraw)
-        Redraw();
+        ShowMarkChange(*this, index);
     State::ChangeCopies(*this, [=](CMFCRibbonMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
     return true;
 }
@@ -190,9 +190,9 @@ bool CMFCRibbonMultiCombo::AskForLight(HWND host, const CString& text, int index
     if (life.expired())
         return false;
     // This element's light only, in whatever colour the host has given it meanwhile.
-    if (isAllowed)
-        m_state->rows.Modify(index, CountOf(*this), [wanted](rowInfo& info) { info.light = wanted; });
-    Redraw();
+    const bool isChanged =
+        isAllowed && m_state->rows.Modify(index, CountOf(*this), [wanted](rowInfo& info) { info.light = wanted; });
+    ShowMarkChange(*this, isChanged ? index : -1);
     return true;
 }
 
@@ -276,17 +276,18 @@ void CMFCRibbonMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 
 // ---- accessibility
 
+CString CMFCRibbonMultiCombo::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
+
 BOOL CMFCRibbonMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
     const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (isDescribed && GetCurSel() >= 0)
-        AddWords(data, m_state->WordsFor(GetCurSel()));
+    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0)
+        AddWords(data, m_state->WordsFor(row));
     return isDescribed;
 }
 
 BOOL CMFCRibbonMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
     if (!CMFCRibbonComboBox::SetACCRowData(row, data))
         return FALSE;
-    data.m_strName = DisplayedTextOf(*this, row);
     AddWords(data, m_state->WordsFor(row));
     return TRUE;
 }

@@ -52,6 +52,7 @@ public:
     bool NotifyChangeData(int index, int zone, bool exclusive) override;
 
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
+    CString GetShownItemText(int index) const override;
     void DropDownList() override;
     BOOL OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenuButton* row, BOOL highlighted) override;
     int GetDropListItemWidth(CDC* dc, int index, CSize text) override;

@@ -83,6 +83,8 @@ public:
     void SetHotRow(int nRow);
     /// Rows were added or removed, or have another text.
     void OnRowsChanged();
+    /// The last row is new. Costs the same however many there are.
+    void OnRowAdded();
     /// Row under the point (client pixels) or, with buttons, the index of the button; -1 when there is none.
     int HitTest(CPoint point) override;
     void GetItemRect(int nIndex, LPRECT lpRect) const override;
@@ -151,6 +153,7 @@ private:
     struct Rows;
     toolbar::RowGeometry GetRowGeometry() const;
     CSize CalcRows();
+    int MeasureInListFont(int nRow);
     void PaintRows(CDC* pDC);
     void PaintRow(CDC* pDC, int nRow);
     BOOL OnRowKey(UINT nChar);

@@ -39,6 +39,9 @@ public:
     INT_PTR GetCount() const { return static_cast<INT_PTR>(m_items.size()); }
     // Null for an index without an item.
     LPCTSTR GetItem(int iIndex) const;
+    // An item's text as people read it in the list: the item's own, unless a derived class shows another. Typing finds
+    // rows by it, the list is wide enough for it, assistive programs hear it. Empty for an index without an item.
+    virtual CString GetShownItemText(int nIndex) const { return GetItem(nIndex); }
     // 0 for an index without an item.
     DWORD_PTR GetItemData(int iIndex) const;
     // The first item with exactly that text; -1 when there is none.
@@ -78,13 +81,16 @@ public:
     // The width that an item's row needs (pixels; its height is the font's). sizeText: that of the item's own text with
     // its margins. Asked for the longest texts when the list opens.
     virtual int GetDropListItemWidth(CDC* /*pDC*/, int /*nIndex*/, CSize sizeText) { return sizeText.cx; }
-    // The space bar on a row of the open list. TRUE: it was used; the list stays open and draws the row anew. The
-    // handler of what is sent here may close the list and delete this element.
+    // The space bar on a row of the open list, with Ctrl where the text field has the focus; once however long it is
+    // held. TRUE: it was used; the list stays open and draws the row anew. The handler of what is sent here may close
+    // the list and delete this element.
     virtual BOOL OnToggleDropListItem(int /*nIndex*/) { return FALSE; }
 
     CSize GetIntermediateSize(CDC* pDC) override;
     BOOL CanBeAddedToQuickAccessToolBar() const override;
     BOOL HasDropDown() const override { return TRUE; }
+    // The rows of its open list, too.
+    void Redraw() override;
     BOOL IsHighlighted() const override { return CMFCRibbonEdit::IsHighlighted() || IsDroppedDown(); }
     // Everything but the place: text, items with data, selection, height, edit box and resizing. An edit window of this
     // element goes.
@@ -98,6 +104,8 @@ public:
 
     BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
     BOOL PutACCValue(LPCTSTR lpszValue) override;
+    // The row of which value and state are told: the hot one of the open list, else the selected one; -1: none.
+    int GetACCCurrentRow() const;
     int GetACCRowCount() const override { return static_cast<int>(m_items.size()); }
     BOOL SetACCRowData(int nRow, CAccessibilityData& data) override;
     BOOL OnACCRowDefaultAction(int nRow) override;
@@ -143,6 +151,7 @@ private:
     };
     BOOL IsItem(int index) const { return index >= 0 && index < GetCount(); }
     int FindData(DWORD_PTR dwData) const;
+    int FindShownItem(LPCTSTR lpszText) const;
     void TakeSelection(int index, const CString& text);
     void ShowSelectionInCopies();
     std::unique_ptr<CMFCDropDownListBox> MakeFilledList();
@@ -191,6 +200,7 @@ public:
     CWnd* GetParentArea(CRect& rectParentBtn) override;
     BOOL IsEditFocused() const override;
     BOOL OnChainKey(UINT nMessage, UINT nChar) override;
+    ChainInput OnChainMessage(const MSG& message) override;
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -207,8 +217,10 @@ protected:
 private:
     BOOL OnListKey(UINT nMessage, UINT nChar);
     int GetRowCount() const override { return GetCount(); }
-    const CString& GetRowText(int row) const override { return m_rows[static_cast<std::size_t>(row)]; }
+    CString GetRowText(int row) const override;
     int MeasureRows(CDC& dc) override;
+    int MeasureRow(CDC& dc, int row) override { return MeasureText(dc, row, GetRowText(row)); }
+    int MeasureText(CDC& dc, int row, const CString& text);
     BOOL DrawRow(CDC& dc, int row, CMFCToolBarMenuButton& button, BOOL isHot) override;
     void ChooseRow(int row) override { OnChooseItem(static_cast<UINT>(row)); }
     BOOL ToggleRow(int row) override;

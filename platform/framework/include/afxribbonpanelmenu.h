@@ -75,6 +75,11 @@ public:
     void HighlightFirst();
     /// A key's virtual code. FALSE: the key has no meaning here.
     BOOL OnKey(UINT nChar) override;
+    /// The highlighted element has something to drop down, by F4 or Alt with an arrow. In a menu look that is no row's
+    /// menu, which opens by the arrow beside it.
+    BOOL CanDropDown() const;
+    /// Drops it down. The host is told, and may end this. FALSE: there is nothing.
+    BOOL DropDown();
     /// A letter: a mnemonic, else the beginning of a text.
     BOOL OnLetter(UINT nUpperChar);
     BOOL TranslateChar(UINT nChar) override;
@@ -238,6 +243,7 @@ protected:
 
 private:
     ChainInput OnKeyMessage(const MSG& message);
+    ChainInput OnAltMessage(const MSG& message);
     void GiveFocusToOwner();
     void EnterKeyboard();
     void LeaveKeyboard();
@@ -247,5 +253,7 @@ private:
     Side m_side = Side::Below;
     bool m_isDismissed = false;
     bool m_goesBack = false;
+    enum class Alt { Free, Alone, WithArrow };
+    Alt m_alt = Alt::Free;          // a press of Alt that was kept from the frame: what came of it
     CMFCRibbonBar* m_bar = nullptr; // whose pop-up it is; dismisses it before it goes
 };

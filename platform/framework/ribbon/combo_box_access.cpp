@@ -9,25 +9,44 @@
 BOOL CMFCRibbonComboBox::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     CMFCRibbonEdit::SetACCData(pParent, data);
     const CMFCDropDownListBox* list = GetDropDownList();
-    CString hot;
-    // Whoever walks through the open list hears where it is.
-    if (list != nullptr && list->GetText(list->GetCurSel(), hot))
-        data.m_strValue = hot;
+    const int row = GetACCCurrentRow();
+    // Whoever walks through the open list hears where it is. A text field is heard as it stands there.
+    const bool isInList = list != nullptr && list->GetCurSel() == row;
+    if (row >= 0 && (isInList || (!m_bHasEditBox && m_strEdit == GetItem(row))))
+        data.m_strValue = GetShownItemText(row);
     if (!m_bHasEditBox)
         data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Open);
     return TRUE;
 }
 
-// A value that an assistive program sets is typed, or chosen where nothing can be typed.
+int CMFCRibbonComboBox::GetACCCurrentRow() const {
+    const CMFCDropDownListBox* list = GetDropDownList();
+    const int hot = list != nullptr ? list->GetCurSel() : -1;
+    return IsItem(hot) ? hot : m_nSelected;
+}
+
+int CMFCRibbonComboBox::FindShownItem(LPCTSTR lpszText) const {
+    for (int row = 0; lpszText != nullptr && row < GetACCRowCount(); ++row) {
+        if (GetShownItemText(row) == lpszText)
+            return row;
+    }
+    return -1;
+}
+
+// A value that an assistive program sets is typed, or chosen where nothing can be typed. It may be what was heard.
 BOOL CMFCRibbonComboBox::PutACCValue(LPCTSTR lpszValue) {
-    return m_bHasEditBox ? CMFCRibbonEdit::PutACCValue(lpszValue) : OnACCRowDefaultAction(FindItem(lpszValue));
+    const int own = FindItem(lpszValue);
+    const int shown = FindShownItem(lpszValue);
+    if (!m_bHasEditBox)
+        return OnACCRowDefaultAction(shown >= 0 ? shown : own);
+    return CMFCRibbonEdit::PutACCValue(own < 0 && shown >= 0 ? GetItem(shown) : lpszValue);
 }
 
 BOOL CMFCRibbonComboBox::SetACCRowData(int nRow, CAccessibilityData& data) {
     if (!IsItem(nRow))
         return FALSE;
     data = {};
-    data.m_strName = GetItem(nRow);
+    data.m_strName = GetShownItemText(nRow);
     data.m_nRole = ROLE_SYSTEM_LISTITEM;
     data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Switch);
     data.m_nState = STATE_SYSTEM_SELECTABLE | (nRow == m_nSelected ? STATE_SYSTEM_SELECTED : 0) |

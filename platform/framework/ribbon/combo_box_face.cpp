@@ -54,6 +54,13 @@ void CMFCRibbonComboBox::OnDrawSelectedItem(CDC* pDC, CRect rectEdit) {
                   DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | align);
 }
 
+void CMFCRibbonComboBox::Redraw() {
+    CMFCRibbonEdit::Redraw();
+    CMFCDropDownListBox* list = GetDropDownList();
+    if (list != nullptr && list->GetMenuBar()->GetSafeHwnd() != nullptr)
+        list->GetMenuBar()->Invalidate();
+}
+
 // ---- opening
 
 CMFCDropDownListBox* CMFCRibbonComboBox::GetDropDownList() const {
@@ -199,7 +206,12 @@ void CMFCRibbonComboBox::OnEditChange() {
         return;
     const std::wstring_view typed(m_strEdit, static_cast<std::size_t>(m_strEdit.GetLength()));
     int row = typed.empty() ? -1 : 0;
-    while (row >= 0 && row < GetCount() && !toolbar::StartsWith(m_items[static_cast<std::size_t>(row)].text, typed))
+    // The text field takes an item by its own text, which may not be the one in the list.
+    const auto begins = [this, typed](int item) {
+        return toolbar::StartsWith(GetShownItemText(item), typed) ||
+               toolbar::StartsWith(m_items[static_cast<std::size_t>(item)].text, typed);
+    };
+    while (row >= 0 && row < GetCount() && !begins(row))
         ++row;
     list->GetMenuBar()->SetHotRow(row); // beyond the last: none
 }

@@ -9,7 +9,7 @@
 #include "toolbar/row_text.h"
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CMFCDropDownListBox, CMFCPopupMenu)
 
@@ -22,6 +22,7 @@ namespace {
 constexpr int kMostMeasured = 300; // texts, the longest ones
 constexpr int kOverhang = 2;       // letters may be drawn beyond their width, at 96 DPI
 constexpr int kRowsAboveSelection = 2;
+constexpr LPARAM kIsRepeated = 1 << 30; // of a key's message: it was down before
 
 bool IsMirrored(const CWnd* window) {
     return window != nullptr && window->GetSafeHwnd() != nullptr && (window->GetExStyle() & WS_EX_LAYOUTRTL) != 0;
@@ -49,7 +50,7 @@ int CMFCDropDownListBox::AddString(LPCTSTR lpszItem) {
         return -1;
     m_rows.emplace_back(lpszItem);
     if (m_hWnd != nullptr)
-        GetMenuBar()->OnRowsChanged();
+        GetMenuBar()->OnRowAdded();
     return GetCount() - 1;
 }
 
@@ -80,27 +81,39 @@ int CMFCDropDownListBox::GetCurSel() const {
     return m_hWnd != nullptr ? const_cast<CMFCDropDownListBox*>(this)->GetMenuBar()->GetHotRow() : m_nCurSel;
 }
 
+// Rows may have been added beside the element's items.
+CString CMFCDropDownListBox::GetRowText(int row) const {
+    const CString& text = m_rows[static_cast<std::size_t>(row)];
+    const LPCTSTR item = m_pCombo != nullptr ? m_pCombo->GetItem(row) : nullptr;
+    return item != nullptr && text == item ? m_pCombo->GetShownItemText(row) : text;
+}
+
+int CMFCDropDownListBox::MeasureText(CDC& dc, int row, const CString& text) {
+    const CMFCPopupMenuBar& bar = *GetMenuBar();
+    const int textWidth =
+        static_cast<int>(dc.GetTextExtent(toolbar::ShownText(text)).cx) + afxGlobalData.ScalePixels(kOverhang);
+    const CSize size(toolbar::MenuRowWidth(textWidth, bar.GetRowMetrics()), bar.GetRowHeight());
+    const int wanted = m_pCombo != nullptr ? m_pCombo->GetDropListItemWidth(&dc, row, size) : size.cx;
+    return std::min(wanted, ::GetSystemMetrics(SM_CXSCREEN) / 2);
+}
+
 // Measuring every text of a long list would be seen when it opens: the longest by their characters are near enough.
 int CMFCDropDownListBox::MeasureRows(CDC& dc) {
-    std::vector<int> longest(m_rows.size());
-    std::iota(longest.begin(), longest.end(), 0);
+    std::vector<std::pair<int, CString>> longest;
+    longest.reserve(m_rows.size());
+    for (int row = 0; row < GetCount(); ++row)
+        longest.emplace_back(row, GetRowText(row));
     const std::size_t measured = std::min<std::size_t>(longest.size(), kMostMeasured);
     const auto end = longest.begin() + static_cast<std::ptrdiff_t>(measured);
-    const auto isLonger = [this](int left, int right) {
-        return m_rows[static_cast<std::size_t>(left)].GetLength() > m_rows[static_cast<std::size_t>(right)].GetLength();
+    const auto isLonger = [](const auto& left, const auto& right) {
+        return left.second.GetLength() > right.second.GetLength();
     };
     if (end != longest.end())
         std::nth_element(longest.begin(), end, longest.end(), isLonger);
-    const CMFCPopupMenuBar& bar = *GetMenuBar();
     int width = 0;
-    for (auto row = longest.begin(); row != end; ++row) {
-        const CString text = toolbar::ShownText(m_rows[static_cast<std::size_t>(*row)]);
-        const int textWidth = static_cast<int>(dc.GetTextExtent(text).cx) + afxGlobalData.ScalePixels(kOverhang);
-        const CSize size(toolbar::MenuRowWidth(textWidth, bar.GetRowMetrics()), bar.GetRowHeight());
-        const int wanted = m_pCombo != nullptr ? m_pCombo->GetDropListItemWidth(&dc, *row, size) : size.cx;
-        width = std::max(width, wanted);
-    }
-    return std::min(width, ::GetSystemMetrics(SM_CXSCREEN) / 2);
+    for (auto row = longest.begin(); row != end; ++row)
+        width = std::max(width, MeasureText(dc, row->first, row->second));
+    return width;
 }
 
 BOOL CMFCDropDownListBox::DrawRow(CDC& dc, int row, CMFCToolBarMenuButton& button, BOOL isHot) {
@@ -184,6 +197,10 @@ BOOL CMFCDropDownListBox::OnListKey(UINT nMessage, UINT nChar) {
     // Alt may be the first half of Alt and an arrow, which closes the list as it opens it.
     if (isKey && nChar == VK_MENU)
         return TRUE;
+    if (nMessage == WM_SYSKEYDOWN && nChar == VK_F4) {
+        CloseAll();
+        return TRUE;
+    }
     if (nMessage == WM_SYSKEYDOWN && (nChar == VK_UP || nChar == VK_DOWN)) {
         CloseMenu();
         return TRUE;
@@ -210,6 +227,19 @@ BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
     if (CMFCRibbonBar* bar = combo->GetTopLevelRibbonBar(); bar != nullptr)
         bar->GetKeyboard().LeaveList();
     return isUsed;
+}
+
+// What a held key repeats neither switches to and fro nor opens the list again. Alt and F4 mean the frame.
+CMFCPopupMenu::ChainInput CMFCDropDownListBox::OnChainMessage(const MSG& message) {
+    const bool isWithAlt = message.message == WM_SYSKEYDOWN;
+    const bool switches = message.message == WM_KEYDOWN && message.wParam == VK_SPACE &&
+                          (!IsEditFocused() || ::GetKeyState(VK_CONTROL) < 0);
+    const bool opensAndCloses = isWithAlt && (message.wParam == VK_UP || message.wParam == VK_DOWN);
+    if ((switches || opensAndCloses) && (message.lParam & kIsRepeated) != 0)
+        return ChainInput::Used;
+    const bool closesFrame = isWithAlt && message.wParam == VK_F4;
+    const ChainInput input = CMFCPopupMenu::OnChainMessage(message);
+    return closesFrame ? ChainInput::ForWindow : input;
 }
 
 BOOL CMFCDropDownListBox::ToggleRow(int row) { return m_pCombo != nullptr && m_pCombo->OnToggleDropListItem(row); }

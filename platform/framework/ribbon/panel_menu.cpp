@@ -284,6 +284,8 @@ CMFCPopupMenu::ChainInput CMFCRibbonPanelMenu::OnChainMessage(const MSG& message
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
         return OnKeyMessage(message);
+    case WM_SYSKEYUP:
+        return OnAltMessage(message);
     case WM_CHAR:
     case WM_SYSCHAR:
         if (IsElementWindow(message.hwnd)) {
@@ -316,14 +318,45 @@ CMFCPopupMenu::ChainInput CMFCRibbonPanelMenu::OnKeyMessage(const MSG& message) 
         m_bar->GetKeyboard().OnKeyDown(message)) {
         return ChainInput::Used;
     }
-    if (key == VK_MENU || key == VK_F10) {
+    if (key == VK_F10) {
         CloseAll();
-        return key == VK_F10 ? ChainInput::Used : ChainInput::ForWindow;
+        return ChainInput::Used;
+    }
+    if (key == VK_MENU || message.message == WM_SYSKEYDOWN) {
+        return OnAltMessage(message);
     }
     if (message.message == WM_KEYDOWN && m_wndRibbonBar.OnKey(key)) {
         return ChainInput::Used;
     }
     return ChainInput::Unused;
+}
+
+// Alt leaves the pop-ups, when it is let go if it may be the first half of Alt and an arrow. What else it goes with
+// means the frame.
+CMFCPopupMenu::ChainInput CMFCRibbonPanelMenu::OnAltMessage(const MSG& message) {
+    if (message.message == WM_SYSKEYUP) {
+        const Alt alt = message.wParam == VK_MENU ? std::exchange(m_alt, Alt::Free) : Alt::Free;
+        if (alt == Alt::Alone) {
+            CloseAll();
+        }
+        return alt != Alt::Free ? ChainInput::Used : ChainInput::ForWindow;
+    }
+    if (message.wParam == VK_MENU && m_wndRibbonBar.CanDropDown()) {
+        constexpr LPARAM isRepeated = 1 << 30;
+        m_alt = (message.lParam & isRepeated) != 0 ? m_alt : Alt::Alone;
+        return ChainInput::Used;
+    }
+    if ((message.wParam == VK_DOWN || message.wParam == VK_UP) && m_wndRibbonBar.CanDropDown()) {
+        m_alt = Alt::WithArrow;
+        m_wndRibbonBar.DropDown();
+        return ChainInput::Used;
+    }
+    const bool leaves = message.wParam == VK_MENU || message.wParam == VK_F4 || m_alt != Alt::Free;
+    if (!leaves) {
+        return ChainInput::Unused;
+    }
+    CloseAll();
+    return ChainInput::ForWindow;
 }
 
 // The element that opened the first pop-up closes it itself when it is pressed again.

@@ -330,6 +330,8 @@ BOOL CMFCRibbonPanelMenuBar::OnKey(UINT nChar) {
             Activate(hot, Choice::Command);
         }
         return TRUE;
+    case VK_F4:
+        return DropDown();
     case VK_RIGHT:
         if (hot != nullptr && IsMenuMode() && hot->HasMenu() && TakesInput(*hot)) {
             Activate(hot, Choice::Menu);
@@ -379,6 +381,24 @@ void CMFCRibbonPanelMenuBar::Activate(CMFCRibbonBaseElement* pElement, Choice ch
     if (opened != nullptr && opened->GetOpener() == pElement) {
         opened->GetRibbonMenuBar().HighlightFirst();
     }
+}
+
+BOOL CMFCRibbonPanelMenuBar::CanDropDown() const {
+    CMFCRibbonBaseElement* hot = m_parts->hot;
+    return hot != nullptr && hot->HasDropDown() && TakesInput(*hot) && !(IsMenuMode() && hot->HasMenu());
+}
+
+BOOL CMFCRibbonPanelMenuBar::DropDown() {
+    if (!CanDropDown()) {
+        return FALSE;
+    }
+    CMFCRibbonBaseElement* hot = m_parts->hot;
+    if (hot->HasMenu()) {
+        Activate(hot, Choice::Menu);
+    } else {
+        hot->OnKey(TRUE);
+    }
+    return TRUE;
 }
 
 BOOL CMFCRibbonPanelMenuBar::MoveHot(UINT nChar) {

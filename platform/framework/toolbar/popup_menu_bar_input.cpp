@@ -179,7 +179,12 @@ void CMFCPopupMenuBar::OnLButtonUp(UINT, CPoint point) {
 
 void CMFCPopupMenuBar::OnLButtonDblClk(UINT nFlags, CPoint point) { OnLButtonDown(nFlags, point); }
 
-void CMFCPopupMenuBar::OnRButtonUp(UINT nFlags, CPoint point) { OnLButtonUp(nFlags, point); }
+// A menu's items are chosen by either button; a list's rows, which may have marks, by the left one.
+void CMFCPopupMenuBar::OnRButtonUp(UINT nFlags, CPoint point) {
+    if (!m_rows) {
+        OnLButtonUp(nFlags, point);
+    }
+}
 
 void CMFCPopupMenuBar::ChooseItem(int iIndex) {
     if (m_rows) {

@@ -135,13 +135,7 @@ void CMFCPopupMenu::PlaceBar() {
         parts.scrollBar.SetWindowPos(nullptr, inside.right - width, inside.top, width, inside.Height(),
                                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
         inside.right -= width;
-        SCROLLINFO info = {};
-        info.cbSize = sizeof(info);
-        info.fMask = SIF_ALL;
-        info.nMax = std::max(0, content - 1);
-        info.nPage = static_cast<UINT>(bar->GetPageHeight(inside.Height()));
-        info.nPos = std::min(bar->GetOffset(), lowest);
-        parts.scrollBar.SetScrollInfo(&info);
+        UpdateScrollRange(inside.Height(), TRUE);
     } else if (parts.scrollBar.GetSafeHwnd()) {
         parts.scrollBar.ShowWindow(SW_HIDE);
     }
@@ -149,6 +143,26 @@ void CMFCPopupMenu::PlaceBar() {
     ::SetWindowPos(bar->m_hWnd, nullptr, inside.left, inside.top, inside.Width(), inside.Height(),
                    SWP_NOACTIVATE | SWP_NOZORDER);
     bar->SetOffset(std::clamp(bar->GetOffset(), 0, lowest));
+}
+
+// Of a bar of that height.
+void CMFCPopupMenu::UpdateScrollRange(int nHeight, BOOL bRedraw) {
+    CMFCPopupMenuBar* bar = GetMenuBar();
+    Parts& parts = *m_parts;
+    if (!parts.scrollBar.GetSafeHwnd()) {
+        InvalidateRect(parts.downArrow);
+        return;
+    }
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    info.nMax = std::max(0, bar->GetContentHeight() - 1);
+    info.nPage = static_cast<UINT>(bar->GetPageHeight(nHeight));
+    info.nPos = std::min(bar->GetOffset(), bar->GetLowestOffset(nHeight));
+    parts.scrollBar.SetScrollInfo(&info, bRedraw);
+    if (!bRedraw) {
+        parts.scrollBar.Invalidate();
+    }
 }
 
 CRect CMFCPopupMenu::GetBarRect() const { return m_rectBar; }

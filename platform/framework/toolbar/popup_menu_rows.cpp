@@ -110,6 +110,38 @@ void CMFCPopupMenuBar::OnRowsChanged() {
     AdjustLayout();
 }
 
+int CMFCPopupMenuBar::MeasureInListFont(int nRow) {
+    CClientDC dc(m_hWnd ? this : nullptr);
+    CFont* const former = SelectToolBarFont(&dc, TRUE);
+    const int width = m_rows->source->MeasureRow(dc, nRow);
+    if (former) {
+        dc.SelectObject(former);
+    }
+    return width;
+}
+
+// What scrolls already keeps its size, and only its scroll bar knows of another row.
+void CMFCPopupMenuBar::OnRowAdded() {
+    if (!m_rows) {
+        return;
+    }
+    const int added = GetRowCount() - 1;
+    const int before = m_rows->width;
+    if (before >= 0) {
+        m_rows->width = std::max(before, MeasureInListFont(added));
+    }
+    CMFCPopupMenu* const popup = GetParentPopup();
+    if (!popup || m_rows->width != before || !popup->IsScrollable()) {
+        AdjustLayout();
+        return;
+    }
+    CalcRows();
+    CRect client;
+    GetClientRect(&client);
+    popup->UpdateScrollRange(client.Height(), FALSE);
+    InvalidateRow(added);
+}
+
 // ---- drawing
 
 void CMFCPopupMenuBar::PaintRows(CDC* pDC) {
@@ -219,15 +251,16 @@ BOOL CMFCPopupMenuBar::OnRowKey(UINT nChar) {
         }
         return TRUE;
     case VK_SPACE:
-        return !isEditing && ToggleHotRow();
+        return (!isEditing || ::GetKeyState(VK_CONTROL) < 0) && ToggleHotRow();
     default:
         return FALSE;
     }
 }
 
-// In the middle of a word a space belongs to it.
+// In the middle of a word a space belongs to it, unless it comes with Ctrl.
 BOOL CMFCPopupMenuBar::ToggleHotRow() {
-    if (m_iHighlighted < 0 || m_rows->typed.IsGoingOn(::GetTickCount64())) {
+    const bool isInWord = ::GetKeyState(VK_CONTROL) >= 0 && m_rows->typed.IsGoingOn(::GetTickCount64());
+    if (m_iHighlighted < 0 || isInWord) {
         return FALSE;
     }
     const HWND window = m_hWnd;

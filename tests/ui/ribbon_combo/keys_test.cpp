@@ -178,6 +178,61 @@ TEST_F(ComboKeys, TheSpaceBarIsOfferedToTheCombo) {
     EXPECT_THAT(Plain().toggled, ElementsAre(0)) << "in the middle of a word it is a character";
 }
 
+TEST_F(ComboKeys, AHeldSpaceBarSwitchesOnce) {
+    ClickButton(Plain());
+    Press(VK_DOWN);
+    Plain().takesSpace = true;
+    const auto hold = [this](int repeats) {
+        MSG message{m_window, WM_KEYDOWN, VK_SPACE, 1, 0, {}};
+        AfxPreTranslateMessage(&message);
+        message.lParam |= 1 << 30;
+        for (int i = 0; i < repeats; ++i) {
+            AfxPreTranslateMessage(&message);
+        }
+    };
+    hold(5);
+    EXPECT_THAT(Plain().toggled, ElementsAre(0));
+    hold(0);
+    EXPECT_THAT(Plain().toggled, ElementsAre(0, 0)) << "another press";
+}
+
+TEST_F(ComboKeys, WhileTypingTheSpaceBarIsOfferedWithCtrl) {
+    Edit().takesSpace = true;
+    FocusOn(Edit());
+    Press(VK_F4);
+    Type(L"item");
+    ASSERT_EQ(ListBar().GetHotRow(), 0);
+    Press(VK_SPACE);
+    EXPECT_THAT(Edit().toggled, IsEmpty()) << "it is written";
+    PressWith(VK_CONTROL, VK_SPACE);
+    EXPECT_THAT(Edit().toggled, ElementsAre(0));
+    EXPECT_TRUE(IsOpen());
+    EXPECT_TRUE(Edit().HasFocus());
+    EXPECT_EQ(Edit().GetEditText(), L"item");
+}
+
+TEST_F(ComboKeys, InTheMiddleOfAWordCtrlStillOffersTheSpaceBar) {
+    ClickButton(Plain());
+    Type(L"i");
+    ASSERT_EQ(ListBar().GetHotRow(), 0);
+    PressWith(VK_CONTROL, VK_SPACE);
+    EXPECT_THAT(Plain().toggled, ElementsAre(0));
+}
+
+TEST_F(ComboKeys, AltWithF4ClosesTheListAndIsTheFrames) {
+    ClickButton(Plain());
+    PressWith(VK_MENU, VK_F4);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(::IsWindow(m_window));
+}
+
+TEST_F(ComboKeys, HeldAltAndArrowDoNotOpenAndCloseInTurns) {
+    ClickButton(Plain());
+    MSG message{m_window, WM_SYSKEYDOWN, VK_DOWN, 1 | 1 << 29 | 1 << 30, 0, {}};
+    EXPECT_TRUE(AfxPreTranslateMessage(&message));
+    EXPECT_TRUE(IsOpen());
+}
+
 TEST_F(ComboKeys, KeysDoNotReachTheHostWhileTheListIsOpen) {
     ClickButton(Plain());
     const HWND focus = ::GetFocus();

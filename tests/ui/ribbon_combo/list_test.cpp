@@ -254,6 +254,29 @@ TEST_F(ComboList, TheMouseMakesRowsHotAndTheLastOneStaysSo) {
     EXPECT_EQ(ListBar().GetHotRow(), 6);
 }
 
+TEST_F(ComboList, TheRightButtonOverARowChoosesNothing) {
+    ClickButton(Plain());
+    m_pointer.Click(ListBar().GetSafeHwnd(), ListBar().GetRowRect(3).CenterPoint(), VK_RBUTTON);
+    PumpPending();
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(Plain().GetCurSel(), -1);
+    EXPECT_TRUE(m_frame->commands.empty());
+    ClickRow(3);
+    EXPECT_EQ(Plain().GetCurSel(), 3);
+}
+
+TEST_F(ComboList, RedrawingTheComboDrawsTheRowsOfItsOpenList) {
+    ClickButton(Plain());
+    ListBar().UpdateWindow();
+    ASSERT_FALSE(ListBar().GetUpdateRect(nullptr));
+    Plain().drawn.clear();
+    Plain().Redraw();
+    ListBar().UpdateWindow();
+    EXPECT_THAT(Plain().drawn, ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 8, 9));
+    CMFCPopupMenu::CloseAll();
+    Plain().Redraw();
+}
+
 TEST_F(ComboList, APressOnTheComboReleasedOverARowChoosesIt) {
     m_pointer.MoveTo(Bar().GetSafeHwnd(), Plain().GetMenuRect().CenterPoint());
     m_pointer.Press();

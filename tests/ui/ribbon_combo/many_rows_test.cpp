@@ -90,6 +90,52 @@ TEST_F(ManyRows, AScrollBarReachesEveryRow) {
     EXPECT_EQ(scroll(SB_TOP), 0);
 }
 
+TEST_F(RibbonComboTest, ThousandsOfItemsAreAddedToAnOpenListInNoTime) {
+    ClickButton(Plain());
+    CString text;
+    const double seconds = MeasureSeconds([&] {
+        for (int i = 0; i < 2000; ++i) {
+            text.Format(L"Another item %d", i % 7);
+            Plain().AddItem(text);
+        }
+        PumpPending();
+    });
+    RecordProperty("ms", static_cast<int>(seconds * 1000));
+    EXPECT_LT(seconds, 0.7);
+    EXPECT_EQ(ListBar().GetRowCount(), 2010);
+    CWnd* scrollBar = List().GetWindow(GW_CHILD);
+    while (scrollBar != nullptr && scrollBar->m_hWnd == ListBar().m_hWnd) {
+        scrollBar = scrollBar->GetWindow(GW_HWNDNEXT);
+    }
+    ASSERT_NE(scrollBar, nullptr);
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    ASSERT_TRUE(::GetScrollInfo(scrollBar->m_hWnd, SB_CTL, &info));
+    EXPECT_EQ(info.nMax, 2010 * ListBar().GetRowHeight() - 1);
+    Press(VK_END);
+    ClickRow(2009);
+    EXPECT_EQ(Plain().GetCurSel(), 2009);
+}
+
+TEST_F(RibbonComboTest, AnItemAddedToAListThatScrollsMakesItAsWideAsItNeeds) {
+    for (int i = 0; i < 100; ++i) {
+        Plain().AddItem(L"short");
+    }
+    ClickButton(Plain());
+    ASSERT_TRUE(List().IsScrollable());
+    const int narrow = ScreenRect(List()).Width();
+    Plain().AddItem(L"short");
+    EXPECT_EQ(ScreenRect(List()).Width(), narrow);
+    const CString wide = L"A text that is much longer than the combo box is wide";
+    Plain().AddItem(wide);
+    const int added = ScreenRect(List()).Width();
+    EXPECT_GT(added, narrow);
+    CMFCPopupMenu::CloseAll();
+    ClickButton(Plain());
+    EXPECT_EQ(ScreenRect(List()).Width(), added) << "as wide as it opens";
+}
+
 TEST_F(ManyRows, AreFilledAndSearchedInNoTime) {
     CMFCRibbonComboBox combo(1, FALSE);
     const double seconds = MeasureSeconds([&combo] {

@@ -32,6 +32,12 @@ protected:
         m_panel = CMFCRibbonPanelMenu::GetDeepest();
     }
     bool IsPanelOpen() const { return CMFCRibbonPanelMenu::GetDeepest() != nullptr; }
+    void HighlightPlain() {
+        for (int step = 0; step < 20 && m_panel->GetRibbonMenuBar().GetHighlighted() != &Plain(); ++step) {
+            Press(VK_TAB);
+        }
+        ASSERT_EQ(m_panel->GetRibbonMenuBar().GetHighlighted(), &Plain());
+    }
     static bool IsListOpen() {
         return DYNAMIC_DOWNCAST(CMFCDropDownListBox, CMFCPopupMenu::GetActiveMenu()) != nullptr;
     }
@@ -88,10 +94,7 @@ TEST_F(ComboInPanelPopup, AClickOutsideClosesBoth) {
 }
 
 TEST_F(ComboInPanelPopup, KeysLeadToItAndOpenIt) {
-    for (int step = 0; step < 20 && m_panel->GetRibbonMenuBar().GetHighlighted() != &Plain(); ++step) {
-        Press(VK_TAB);
-    }
-    ASSERT_EQ(m_panel->GetRibbonMenuBar().GetHighlighted(), &Plain());
+    HighlightPlain();
     Press(VK_RETURN);
     ASSERT_TRUE(IsListOpen());
     Press(VK_DOWN);
@@ -99,6 +102,43 @@ TEST_F(ComboInPanelPopup, KeysLeadToItAndOpenIt) {
     Press(VK_RETURN);
     EXPECT_EQ(Plain().GetCurSel(), 1);
     EXPECT_THAT(m_frame->commands, ElementsAre(kPlain));
+}
+
+TEST_F(ComboInPanelPopup, F4AndAltWithAnArrowOpenTheList) {
+    HighlightPlain();
+    Press(VK_F4);
+    ASSERT_TRUE(IsListOpen());
+    Press(VK_ESCAPE);
+    EXPECT_FALSE(IsListOpen());
+    for (const UINT arrow : {VK_DOWN, VK_UP}) {
+        Keys keys;
+        keys.Down(VK_MENU);
+        keys.Hold(VK_MENU);
+        ASSERT_TRUE(IsPanelOpen());
+        keys.Press(arrow);
+        EXPECT_TRUE(IsListOpen()) << arrow;
+        keys.Press(arrow);
+        EXPECT_FALSE(IsListOpen()) << arrow;
+        keys.Let(VK_MENU);
+        keys.Up(VK_MENU);
+        PumpPending();
+        EXPECT_TRUE(IsPanelOpen()) << arrow;
+    }
+    Press(VK_MENU);
+    EXPECT_FALSE(IsPanelOpen()) << "alone it leaves";
+    EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(ComboInPanelPopup, WhatElseAltGoesWithIsTheFrames) {
+    HighlightPlain();
+    PressWith(VK_MENU, VK_F4);
+    EXPECT_FALSE(::IsWindow(m_window));
+}
+
+TEST_F(ComboInPanelPopup, AltLeavesAtOnceWhereNothingDropsDown) {
+    ASSERT_FALSE(m_panel->GetRibbonMenuBar().CanDropDown());
+    Keys(m_window).Down(VK_MENU);
+    EXPECT_FALSE(IsPanelOpen());
 }
 
 TEST_F(ComboInPanelPopup, AnEditKeepsTheFocusUnderItsList) {

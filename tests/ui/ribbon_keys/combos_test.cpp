@@ -159,6 +159,30 @@ TEST_F(ComboKeyTest, InThePopUpOfACollapsedPanelLettersGiveTheCaretToAComboWithA
     EXPECT_EQ(::GetFocus(), Document());
 }
 
+TEST_F(ComboKeyTest, InThePopUpOfACollapsedPanelF4AndAltWithAnArrowOpenTheList) {
+    CollapsePanel();
+    Press({VK_MENU, 'H', 'Q', 'P'});
+    CMFCRibbonPanelMenu* popup = CMFCRibbonPanelMenu::GetDeepest();
+    ASSERT_NE(popup, nullptr);
+    for (int step = 0; step < 20 && popup->GetRibbonMenuBar().GetHighlighted() != &Choice(); ++step) {
+        Press(VK_TAB);
+    }
+    ASSERT_EQ(popup->GetRibbonMenuBar().GetHighlighted(), &Choice());
+    Press(VK_F4);
+    EXPECT_NE(Choice().GetDropDownList(), nullptr);
+    Press(VK_ESCAPE);
+    EXPECT_EQ(Choice().GetDropDownList(), nullptr);
+    Chord(VK_MENU, VK_DOWN);
+    ASSERT_NE(Choice().GetDropDownList(), nullptr);
+    Chord(VK_MENU, VK_DOWN);
+    EXPECT_EQ(Choice().GetDropDownList(), nullptr);
+    ASSERT_EQ(CMFCRibbonPanelMenu::GetDeepest(), popup);
+    Press(VK_MENU);
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr) << "alone it leaves";
+    EXPECT_EQ(::GetFocus(), Document());
+    EXPECT_FALSE(AreTipsShown());
+}
+
 TEST_F(ComboKeyTest, TheHandlerOfAChoiceMayDestroyTheFrame) {
     m_frame->onCommand = [this] { m_frame->DestroyWindow(); };
     Press({VK_MENU, 'H', 'Q', 'C', VK_DOWN, VK_RETURN});

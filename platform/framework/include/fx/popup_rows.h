@@ -12,9 +12,12 @@ namespace toolbar {
 class PopupRows {
 public:
     virtual int GetRowCount() const = 0;
-    virtual const CString& GetRowText(int row) const = 0;
+    /// As people read it.
+    virtual CString GetRowText(int row) const = 0;
     /// Width in pixels that shows the rows; the list's font is selected.
     virtual int MeasureRows(CDC& dc) = 0;
+    /// Of one row.
+    virtual int MeasureRow(CDC& dc, int row) = 0;
     /// Background and highlight are painted, the list's font is selected, the text's colour is set and its background
     /// is transparent. The button stands for the row: it has its text and rectangle and lies in the bar; it is the same
     /// object for all rows. TRUE: the row is drawn; FALSE: the bar draws the text.
