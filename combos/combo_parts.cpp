@@ -84,7 +84,7 @@ int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWid
 }
 
 void ShowMarkChange(CMFCRibbonComboBox& combo, int index) {
-    combo.Redraw();
+    combo.RedrawItem(index);
     if (index < 0 || index != combo.GetACCCurrentRow())
         return;
     combo.NotifyAccessibility(EVENT_OBJECT_STATECHANGE);

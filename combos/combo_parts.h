@@ -74,8 +74,8 @@ void CoolPanelOf(const CMFCRibbonComboBox& combo);
 /// selected.
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);
 
-/// Draws the element and its open list after an item's mark has changed. Assistive programs are told when it is of the
-/// item that the element speaks of.
+/// Draws the element, and the item's row in its open list, after its mark has changed. Assistive programs are told when
+/// it is of the item that the element speaks of.
 void ShowMarkChange(CMFCRibbonComboBox& combo, int index);
 /// Adds an item's state, in words, to what assistive programs are told.
 void AddWords(CAccessibilityData& data, const CString& words);

@@ -10,8 +10,9 @@
 #include <string>
 
 /// A ribbon combo box whose items each have a check box, on the face and in the drop list. A click on a box changes the
-/// check and leaves the list open, a double click sets all items; WM_COMBO_CHECK_CHANGED tells the host. Item texts are
-/// translation keys (section "Common"). The checks belong to positions: they outlive the items.
+/// check and leaves the list open, as Space does on the hot row (Ctrl and Space where a text is typed); a double click
+/// sets all items. WM_COMBO_CHECK_CHANGED tells the host. Item texts are translation keys (section "Common"). The
+/// checks belong to positions: they outlive the items.
 ///
 /// Copies of one element (those with its command id on the same ribbon bar) are changed along by AddItem, RemoveAll and
 /// SetItemCheck. The container owns the combo; the host may destroy it in any message that it gets from it.

@@ -12,8 +12,9 @@
 /// A ribbon combo box whose items each have a colour swatch and a light, on the face and in the drop list. A click on
 /// the swatch asks the host for another colour (WM_COMBO_COLOR_PICK), one on the light whether it may be switched
 /// (WM_COMBO_LIGHT_CHANGED); in the open list Space does what a click on the hot row's light does, and Shift+Space what
-/// one on its swatch does. Item texts are translation keys (section "Common"). The states belong to positions: they
-/// outlive the items; one that was never given is black and off. The pictures of the light are CQkMfc's.
+/// one on its swatch does; with Ctrl as well where a text is typed. Item texts are translation keys (section "Common").
+/// The states belong to positions: they outlive the items; one that was never given is black and off. The pictures of
+/// the light are CQkMfc's.
 ///
 /// Copies of one element (those with its command id on the same ribbon bar) are changed along by AddItem, RemoveAll,
 /// SetItemClr and SetItemLight. The container owns the combo; the host may destroy it in any message that it gets from

@@ -222,7 +222,7 @@ private:
     void FindParents(CWnd* pWndParent, BOOL bOwnMessage);
     void ShowAnimated();
     void ScrollBy(int nPixels);
-    void UpdateScrollRange(int nHeight, BOOL bRedraw);
+    void UpdateScrollRange(int nHeight);
     void DragResize(CPoint point);
     void TellOpened();
 

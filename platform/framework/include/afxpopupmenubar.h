@@ -83,7 +83,8 @@ public:
     void SetHotRow(int nRow);
     /// Rows were added or removed, or have another text.
     void OnRowsChanged();
-    /// The last row is new. Costs the same however many there are.
+    /// The last row is new. Costs the same however many there are: a list that scrolls looks at all that were added
+    /// when it comes back to its messages.
     void OnRowAdded();
     /// Row under the point (client pixels) or, with buttons, the index of the button; -1 when there is none.
     int HitTest(CPoint point) override;
@@ -153,12 +154,13 @@ private:
     struct Rows;
     toolbar::RowGeometry GetRowGeometry() const;
     CSize CalcRows();
-    int MeasureInListFont(int nRow);
+    void LayOutAddedRows();
     void PaintRows(CDC* pDC);
     void PaintRow(CDC* pDC, int nRow);
     BOOL OnRowKey(UINT nChar);
     BOOL OnRowChar(UINT nChar);
     BOOL OnRowWheel(short zDelta);
+    int GetRowsPerNotch() const;
     BOOL ToggleHotRow();
     void ChooseRow(int nRow);
     std::unique_ptr<Rows> m_rows; ///< of a list; NULL: there are buttons

@@ -89,8 +89,9 @@ public:
     CSize GetIntermediateSize(CDC* pDC) override;
     BOOL CanBeAddedToQuickAccessToolBar() const override;
     BOOL HasDropDown() const override { return TRUE; }
-    // The rows of its open list, too.
+    // The rows of its open list, too. A change of one item needs no more than the face and its row; -1: the face.
     void Redraw() override;
+    void RedrawItem(int nIndex);
     BOOL IsHighlighted() const override { return CMFCRibbonEdit::IsHighlighted() || IsDroppedDown(); }
     // Everything but the place: text, items with data, selection, height, edit box and resizing. An edit window of this
     // element goes.
@@ -162,6 +163,7 @@ private:
     int m_nDropDownHeight = 0;
     BOOL m_bResizeList = FALSE;
     BOOL m_bDelaysCommand = FALSE;
+    BOOL m_bRedrawsFace = FALSE; // no more than that: the rows stay as they are
     // Gone when the element is: what outlives a call into the host looks here.
     std::shared_ptr<BOOL> m_life;
 };

@@ -114,9 +114,11 @@ void CMFCRibbonComboBox::TakeSelection(int index, const CString& text) {
     const int selected = isSameItem ? index : index < 0 ? -1 : FindItem(text);
     const BOOL changes = selected != m_nSelected;
     m_nSelected = selected;
+    m_bRedrawsFace = TRUE;
     SetEditText(text);
     if (changes)
         Redraw();
+    m_bRedrawsFace = FALSE;
 }
 
 void CMFCRibbonComboBox::ShowSelectionInCopies() {

@@ -57,8 +57,14 @@ void CMFCRibbonComboBox::OnDrawSelectedItem(CDC* pDC, CRect rectEdit) {
 void CMFCRibbonComboBox::Redraw() {
     CMFCRibbonEdit::Redraw();
     CMFCDropDownListBox* list = GetDropDownList();
-    if (list != nullptr && list->GetMenuBar()->GetSafeHwnd() != nullptr)
+    if (!m_bRedrawsFace && list != nullptr && list->GetMenuBar()->GetSafeHwnd() != nullptr)
         list->GetMenuBar()->Invalidate();
+}
+
+void CMFCRibbonComboBox::RedrawItem(int nIndex) {
+    CMFCRibbonEdit::Redraw();
+    if (CMFCDropDownListBox* list = GetDropDownList(); list != nullptr)
+        list->GetMenuBar()->InvalidateRow(nIndex);
 }
 
 // ---- opening

@@ -229,7 +229,7 @@ BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
     return isUsed;
 }
 
-// What a held key repeats neither switches to and fro nor opens the list again. Alt and F4 mean the frame.
+// What a held key repeats neither switches once more nor opens the list again. Alt and F4 mean the frame.
 CMFCPopupMenu::ChainInput CMFCDropDownListBox::OnChainMessage(const MSG& message) {
     const bool isWithAlt = message.message == WM_SYSKEYDOWN;
     const bool switches = message.message == WM_KEYDOWN && message.wParam == VK_SPACE &&

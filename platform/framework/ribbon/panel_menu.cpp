@@ -341,14 +341,16 @@ CMFCPopupMenu::ChainInput CMFCRibbonPanelMenu::OnAltMessage(const MSG& message) 
         }
         return alt != Alt::Free ? ChainInput::Used : ChainInput::ForWindow;
     }
-    if (message.wParam == VK_MENU && m_wndRibbonBar.CanDropDown()) {
+    const bool isArrow = message.wParam == VK_DOWN || message.wParam == VK_UP;
+    const bool mayDropDown = message.message == WM_SYSKEYDOWN && m_wndRibbonBar.CanDropDown();
+    if (mayDropDown && (isArrow || message.wParam == VK_MENU)) {
         constexpr LPARAM isRepeated = 1 << 30;
-        m_alt = (message.lParam & isRepeated) != 0 ? m_alt : Alt::Alone;
-        return ChainInput::Used;
-    }
-    if ((message.wParam == VK_DOWN || message.wParam == VK_UP) && m_wndRibbonBar.CanDropDown()) {
-        m_alt = Alt::WithArrow;
-        m_wndRibbonBar.DropDown();
+        if ((message.lParam & isRepeated) == 0) {
+            m_alt = isArrow ? Alt::WithArrow : Alt::Alone;
+            if (isArrow) {
+                m_wndRibbonBar.DropDown();
+            }
+        }
         return ChainInput::Used;
     }
     const bool leaves = message.wParam == VK_MENU || message.wParam == VK_F4 || m_alt != Alt::Free;

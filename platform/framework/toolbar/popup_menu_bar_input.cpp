@@ -4,6 +4,7 @@
 #include "afxpopupmenu.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
+#include "toolbar/wheel_rows.h"
 
 #include <algorithm>
 #include <cwctype>
@@ -133,6 +134,8 @@ void CMFCPopupMenuBar::OnTimer(UINT_PTR nIDEvent) {
             RestoreDelayedSubMenu();
             OpenSubMenu(index, FALSE);
         }
+    } else if (nIDEvent == Rows::addedTimer) {
+        LayOutAddedRows();
     } else {
         CMFCToolBar::OnTimer(nIDEvent);
     }
@@ -289,6 +292,17 @@ void CMFCPopupMenuBar::MakeVisible(int iIndex) {
     }
 }
 
+int CMFCPopupMenuBar::GetRowsPerNotch() const {
+    constexpr UINT usual = 3;
+    UINT lines = 0;
+    if (!::SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0)) {
+        lines = usual;
+    }
+    CRect client;
+    GetClientRect(&client);
+    return toolbar::WheelRowsPerNotch(lines, client.Height() / std::max(1, GetRowHeight()));
+}
+
 BOOL CMFCPopupMenuBar::OnWheel(short zDelta) {
     CMFCPopupMenu* popup = GetParentPopup();
     if (!popup || !popup->IsScrollable()) {
@@ -297,9 +311,8 @@ BOOL CMFCPopupMenuBar::OnWheel(short zDelta) {
     if (m_rows) {
         return OnRowWheel(zDelta);
     }
-    constexpr int rowsPerNotch = 3;
     const int before = m_iOffset;
-    popup->ScrollBy(-m_wheel.Add(zDelta, rowsPerNotch * GetRowHeight()));
+    popup->ScrollBy(-m_wheel.Add(zDelta, GetRowsPerNotch() * GetRowHeight()));
     return m_iOffset != before;
 }
 

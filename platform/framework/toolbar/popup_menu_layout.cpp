@@ -135,7 +135,7 @@ void CMFCPopupMenu::PlaceBar() {
         parts.scrollBar.SetWindowPos(nullptr, inside.right - width, inside.top, width, inside.Height(),
                                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
         inside.right -= width;
-        UpdateScrollRange(inside.Height(), TRUE);
+        UpdateScrollRange(inside.Height());
     } else if (parts.scrollBar.GetSafeHwnd()) {
         parts.scrollBar.ShowWindow(SW_HIDE);
     }
@@ -146,7 +146,7 @@ void CMFCPopupMenu::PlaceBar() {
 }
 
 // Of a bar of that height.
-void CMFCPopupMenu::UpdateScrollRange(int nHeight, BOOL bRedraw) {
+void CMFCPopupMenu::UpdateScrollRange(int nHeight) {
     CMFCPopupMenuBar* bar = GetMenuBar();
     Parts& parts = *m_parts;
     if (!parts.scrollBar.GetSafeHwnd()) {
@@ -159,10 +159,7 @@ void CMFCPopupMenu::UpdateScrollRange(int nHeight, BOOL bRedraw) {
     info.nMax = std::max(0, bar->GetContentHeight() - 1);
     info.nPage = static_cast<UINT>(bar->GetPageHeight(nHeight));
     info.nPos = std::min(bar->GetOffset(), bar->GetLowestOffset(nHeight));
-    parts.scrollBar.SetScrollInfo(&info, bRedraw);
-    if (!bRedraw) {
-        parts.scrollBar.Invalidate();
-    }
+    parts.scrollBar.SetScrollInfo(&info);
 }
 
 CRect CMFCPopupMenu::GetBarRect() const { return m_rectBar; }

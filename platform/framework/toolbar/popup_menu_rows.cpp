@@ -9,6 +9,7 @@
 #include "toolbar/row_text.h"
 
 #include <algorithm>
+#include <utility>
 
 void CMFCPopupMenuBar::SetRows(toolbar::PopupRows* pRows) {
     m_rows.reset();
@@ -105,41 +106,56 @@ void CMFCPopupMenuBar::OnRowsChanged() {
         return;
     }
     m_rows->width = -1;
+    m_rows->firstAdded = -1;
     m_rows->typed.Forget();
     m_iHighlighted = std::min(m_iHighlighted, GetRowCount() - 1);
     AdjustLayout();
 }
 
-int CMFCPopupMenuBar::MeasureInListFont(int nRow) {
-    CClientDC dc(m_hWnd ? this : nullptr);
-    CFont* const former = SelectToolBarFont(&dc, TRUE);
-    const int width = m_rows->source->MeasureRow(dc, nRow);
-    if (former) {
-        dc.SelectObject(former);
-    }
-    return width;
-}
-
-// What scrolls already keeps its size, and only its scroll bar knows of another row.
+// What scrolls already keeps its height: it has time.
 void CMFCPopupMenuBar::OnRowAdded() {
     if (!m_rows) {
         return;
     }
-    const int added = GetRowCount() - 1;
+    const bool isWaiting = m_rows->firstAdded >= 0;
+    if (!isWaiting) {
+        m_rows->firstAdded = GetRowCount() - 1;
+    }
+    const CMFCPopupMenu* const popup = GetParentPopup();
+    if (!popup || !popup->IsScrollable()) {
+        LayOutAddedRows();
+    } else if (!isWaiting) {
+        PostMessage(WM_TIMER, Rows::addedTimer);
+    }
+}
+
+// Another width moves everything; otherwise the scroll bar alone knows of other rows.
+void CMFCPopupMenuBar::LayOutAddedRows() {
+    CMFCPopupMenu* const popup = GetParentPopup();
+    const int first = m_rows ? std::exchange(m_rows->firstAdded, -1) : -1;
+    if (first < 0 || !popup) {
+        return;
+    }
     const int before = m_rows->width;
     if (before >= 0) {
-        m_rows->width = std::max(before, MeasureInListFont(added));
+        CClientDC dc(this);
+        CFont* const former = SelectToolBarFont(&dc, TRUE);
+        for (int row = first; row < GetRowCount(); ++row) {
+            m_rows->width = std::max(m_rows->width, m_rows->source->MeasureRow(dc, row));
+        }
+        if (former) {
+            dc.SelectObject(former);
+        }
     }
-    CMFCPopupMenu* const popup = GetParentPopup();
-    if (!popup || m_rows->width != before || !popup->IsScrollable()) {
+    if (m_rows->width != before || !popup->IsScrollable()) {
         AdjustLayout();
         return;
     }
     CalcRows();
     CRect client;
     GetClientRect(&client);
-    popup->UpdateScrollRange(client.Height(), FALSE);
-    InvalidateRow(added);
+    popup->UpdateScrollRange(client.Height());
+    Invalidate();
 }
 
 // ---- drawing
@@ -198,9 +214,8 @@ void CMFCPopupMenuBar::ChooseRow(int nRow) {
 BOOL CMFCPopupMenuBar::OnToggleRow(int nRow) { return m_rows && m_rows->source->ToggleRow(nRow); }
 
 BOOL CMFCPopupMenuBar::OnRowWheel(short zDelta) {
-    constexpr int rowsPerNotch = 3;
     const int before = m_iOffset;
-    GetParentPopup()->ScrollBy(-m_wheel.Add(zDelta, rowsPerNotch) * GetRowGeometry().height);
+    GetParentPopup()->ScrollBy(-m_wheel.Add(zDelta, GetRowsPerNotch()) * GetRowGeometry().height);
     return m_iOffset != before;
 }
 

@@ -10,5 +10,7 @@ struct CMFCPopupMenuBar::Rows {
     toolbar::PopupRows* source = nullptr;
     CMFCToolBarMenuButton button; ///< stands for the row that is being drawn
     toolbar::TypeAhead typed;
-    int width = -1; ///< measured; -1: not yet
+    int width = -1;                                ///< measured; -1: not yet
+    int firstAdded = -1;                           ///< from here on the rows wait for their layout; -1: none
+    static constexpr UINT_PTR addedTimer = 0xF113; ///< posted as a timer's message
 };

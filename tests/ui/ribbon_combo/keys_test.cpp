@@ -123,6 +123,27 @@ TEST_F(ComboKeys, TheWheelScrollsWholeRowsAndStopsAtTheEnds) {
     EXPECT_EQ(FirstShown(), 0);
 }
 
+TEST_F(ComboKeys, TheWheelScrollsWhatTheUserHasSet) {
+    struct WheelLines {
+        explicit WheelLines(UINT lines) {
+            ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &before, 0);
+            isSet = ::SystemParametersInfo(SPI_SETWHEELSCROLLLINES, lines, nullptr, 0) != FALSE;
+        }
+        ~WheelLines() { ::SystemParametersInfo(SPI_SETWHEELSCROLLLINES, before, nullptr, 0); }
+        UINT before = 3;
+        bool isSet = false;
+    };
+    OpenLong();
+    m_pointer.MoveTo(ListBar().GetSafeHwnd(), CPoint(20, 20));
+    for (const auto& [lines, first] :
+         {std::pair(1u, 1), std::pair(5u, 6), std::pair(WHEEL_PAGESCROLL, 18), std::pair(0u, 18), std::pair(40u, 30)}) {
+        const WheelLines setting(lines);
+        ASSERT_TRUE(setting.isSet);
+        m_pointer.Wheel(-1);
+        EXPECT_EQ(FirstShown(), first) << lines;
+    }
+}
+
 TEST_F(ComboKeys, PartsOfAWheelsNotchAddUp) {
     OpenLong();
     const auto turn = [](short delta) {

@@ -126,9 +126,11 @@ TEST_F(RibbonComboTest, AnItemAddedToAListThatScrollsMakesItAsWideAsItNeeds) {
     ASSERT_TRUE(List().IsScrollable());
     const int narrow = ScreenRect(List()).Width();
     Plain().AddItem(L"short");
+    PumpPending();
     EXPECT_EQ(ScreenRect(List()).Width(), narrow);
-    const CString wide = L"A text that is much longer than the combo box is wide";
-    Plain().AddItem(wide);
+    Plain().AddItem(L"A text that is much longer than the combo box is wide");
+    Plain().AddItem(L"short");
+    PumpPending();
     const int added = ScreenRect(List()).Width();
     EXPECT_GT(added, narrow);
     CMFCPopupMenu::CloseAll();
