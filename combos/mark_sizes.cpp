@@ -5,6 +5,7 @@
 #include <afxglobals.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 constexpr int enlargedIcon = 16;
@@ -29,10 +30,8 @@ void ScaleCheckBoxOnce() {
 
 void EnlargeIconOnce() {
     MarkSizes& sizes = MarkSizes::Current();
-    if (sizes.isIconEnlarged || MarkScale() <= 1.0)
-        return;
-    sizes.icon = enlargedIcon;
-    sizes.isIconEnlarged = true;
+    if (!std::exchange(sizes.isIconFixed, true) && MarkScale() > 1.0)
+        sizes.icon = enlargedIcon;
 }
 
 int ScaledIconSize() { return marks::Scaled(MarkSizes::Current().icon, MarkScale()); }

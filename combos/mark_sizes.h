@@ -6,7 +6,7 @@ struct MarkSizes {
     /// Of swatches and lights, before they follow the image scale.
     int icon = 13;
     bool isCheckBoxScaled = false;
-    bool isIconEnlarged = false;
+    bool isIconFixed = false;
 
     static MarkSizes& Current();
 };
@@ -14,9 +14,11 @@ struct MarkSizes {
 /// The scale of the ribbon's images; 1.0 while it is switched off, and never below.
 double MarkScale();
 
-/// What the first combos of a process do on a display whose scale is above 1.0: the check combo that the framework
-/// makes by name, and the multi combo that is made with arguments.
+/// What the check combo does that the framework makes by name: the first one on a display whose scale is above 1.0
+/// scales the box.
 void ScaleCheckBoxOnce();
+/// What the multi combo does that is made with arguments: the first one of a process fixes the icon's size for all,
+/// larger where the display's scale is above 1.0 then.
 void EnlargeIconOnce();
 
 /// The icon's size at the present scale.

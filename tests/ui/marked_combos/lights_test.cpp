@@ -170,9 +170,7 @@ TEST_F(LightImages, DrawingLeavesNothingBehind) {
 
 // ---- sizes of the marks
 
-TEST_F(LightImages, TheFirstMultiComboMadeWithArgumentsOnAScaledDisplayEnlargesTheIconOnce) {
-    const CMFCRibbonMultiCombo plain(1, FALSE);
-    EXPECT_EQ(MarkSizes::Current().icon, 13);
+TEST_F(LightImages, TheFirstMultiComboMadeWithArgumentsEnlargesTheIconOnAScaledDisplay) {
     ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
     const CMFCRibbonVesMultiCombo light(1, FALSE);
     const std::unique_ptr<CObject> made(RUNTIME_CLASS(CMFCRibbonMultiCombo)->CreateObject());
@@ -184,6 +182,14 @@ TEST_F(LightImages, TheFirstMultiComboMadeWithArgumentsOnAScaledDisplayEnlargesT
     const CMFCRibbonMultiCombo again(1, FALSE);
     EXPECT_EQ(MarkSizes::Current().icon, 16);
     EXPECT_EQ(ScaledIconSize(), 32);
+}
+
+TEST_F(LightImages, AFirstMultiComboOnADisplayThatIsNotScaledFixesTheIconToo) {
+    const CMFCRibbonMultiCombo first(1, FALSE);
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
+    const CMFCRibbonMultiCombo second(1, FALSE);
+    EXPECT_EQ(MarkSizes::Current().icon, 13);
+    EXPECT_EQ(ScaledIconSize(), 20);
 }
 
 TEST_F(LightImages, TheFirstCheckComboMadeByNameOnAScaledDisplayScalesTheBoxOnce) {
