@@ -6,6 +6,7 @@
 #include "afxvisualmanager.h"
 #include "fx/registered_messages.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/drawing_scope.h"
 #include "fx/window_dc.h"
 #include "ribbon/paint_buffer.h"
 
@@ -35,23 +36,6 @@ ON_WM_SETTINGCHANGE()
 ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedTipText)
 ON_REGISTERED_MESSAGE(AFX_WM_UPDATETOOLTIPS, OnUpdateToolTips)
 END_MESSAGE_MAP()
-
-namespace {
-
-/// Set while the bar draws.
-class ScopedDrawing {
-public:
-    explicit ScopedDrawing(bool& flag) : m_flag(flag), m_previous(std::exchange(flag, true)) {}
-    ~ScopedDrawing() { m_flag = m_previous; }
-    ScopedDrawing(const ScopedDrawing&) = delete;
-    ScopedDrawing& operator=(const ScopedDrawing&) = delete;
-
-private:
-    bool& m_flag;
-    const bool m_previous;
-};
-
-} // namespace
 
 RibbonFontScope::RibbonFontScope(CDC& dc)
     : m_dc(dc.GetSafeHdc()), m_previous(::SelectObject(m_dc, afxGlobalData.fontRegular.GetSafeHandle())) {}
@@ -161,7 +145,7 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
     if (pDC->GetClipBox(clip) == NULLREGION || clip.IsRectEmpty()) {
         clip = client;
     }
-    const ScopedDrawing drawing(m_parts->isDrawing);
+    const DrawingScope drawing(m_parts->isDrawing);
     RibbonFontScope font(*pDC);
     const int previousMode = pDC->SetBkMode(TRANSPARENT);
     CMFCVisualManager* manager = CMFCVisualManager::GetInstance();

@@ -1,5 +1,6 @@
 #include <afxbaseribbonelement.h>
 
+#include <array>
 #include <utility>
 
 #include <afxribbonbar.h>
@@ -7,6 +8,7 @@
 #include <afxribboncategory.h>
 #include <afxribbonpanelmenu.h>
 
+#include "ribbon/drawing_scope.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/keyboard.h"
 
@@ -21,6 +23,16 @@ constexpr int kMarginY = 3;
 CSize CurrentMargin() {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     return {metrics.Scaled(kMarginX), metrics.Scaled(kMarginY)};
+}
+
+// What an element takes of a bar in each of its modes.
+using ModeSizes = std::array<CSize, 3>;
+
+ModeSizes MeasureModes(CMFCRibbonBaseElement& element) {
+    const ribbon::TextContext context(nullptr);
+    CDC* dc = CDC::FromHandle(context.Get());
+    element.OnCalcTextSize(dc);
+    return {element.GetRegularSize(dc), element.GetIntermediateSize(dc), element.GetCompactSize(dc)};
 }
 
 bool IsCommand(UINT id) { return id != 0 && id != static_cast<UINT>(-1); }
@@ -55,13 +67,24 @@ void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
     if (split >= 0)
         m_strKeys = text.Mid(split + 1);
     const CString shown = split >= 0 ? text.Left(split) : text;
-    const bool changes = shown != m_strText;
+    if (shown == m_strText) {
+        CleanUpSizes();
+        return;
+    }
+    // Where the new text takes as much room as the former one, nothing moves. A text that is only lent for a draw
+    // draws nothing again.
+    const bool isPlaced = m_pRibbonBar != nullptr && m_pParentMenu == nullptr && !m_rect.IsRectEmpty();
+    const bool isMeasured = isPlaced && !DrawingScope::IsActive();
+    const ModeSizes former = isMeasured ? MeasureModes(*this) : ModeSizes();
     m_strText = shown;
     CleanUpSizes();
-    if (changes) {
+    if (isMeasured && MeasureModes(*this) == former) {
+        m_pRibbonBar->GetKeyboard().Forget();
+        Redraw();
+    } else {
         MarkLayoutDirty();
-        NotifyAccessibility(EVENT_OBJECT_NAMECHANGE);
     }
+    NotifyAccessibility(EVENT_OBJECT_NAMECHANGE);
 }
 
 void CMFCRibbonBaseElement::SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
