@@ -9,6 +9,7 @@
 #include <varnhold/language.h>
 
 #include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonLabelEx, CMFCRibbonLabel)
 
@@ -69,12 +70,18 @@ void CMFCRibbonLabelEx::CopyFrom(const CMFCRibbonBaseElement& src) {
     m_leftOffset = source->m_leftOffset;
 }
 
-// The room is that of the text which will be shown.
+void CMFCRibbonLabelEx::SetLeftOffset(int offset) {
+    if (std::exchange(m_leftOffset, offset) != offset)
+        MarkLayoutDirty();
+}
+
+// The room is that of the text which will be shown, at its place.
 CSize CMFCRibbonLabelEx::GetRegularSize(CDC* dc) {
     const CString key = m_strText;
     m_strText = GetShownText();
-    const CSize size = CMFCRibbonLabel::GetRegularSize(dc);
+    CSize size = CMFCRibbonLabel::GetRegularSize(dc);
     m_strText = key;
+    size.cx += std::max(0, m_leftOffset);
     return size;
 }
 
@@ -89,6 +96,8 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
         dc->SetTextColor(visual->OnDrawMenuLabel(dc, rect));
     } else {
         visual->OnDrawRibbonLabel(dc, this, rect);
+        if (IsDisabled())
+            dc->SetTextColor(afxGlobalData.clrGrayedText);
     }
     rect.DeflateRect(m_szMargin.cx, 0);
 

@@ -15,9 +15,9 @@ public:
     /// The status bar places a right label at its right end.
     void SetRight(bool right) { m_right = right; }
     bool IsRight() const { return m_right; }
-    /// Added to the text's left edge; scaled pixels, may be negative.
-    void SetLeftOffset(int offset) { m_leftOffset = offset; }
-    /// 0xFFFFFFFF: the visual manager's colour.
+    /// Added to the text's left edge; scaled pixels, may be negative. The label is wider by it.
+    void SetLeftOffset(int offset);
+    /// 0xFFFFFFFF: the visual manager's colour, or that of disabled texts.
     void SetTextColor(COLORREF color) { m_textColor = color; }
 
     /// The translation of the text.
