@@ -6,54 +6,72 @@ IMPLEMENT_DYNCREATE(CMFCRibbonSliderSync, CMFCRibbonSlider)
 
 CMFCRibbonSliderSync::CMFCRibbonSliderSync(UINT id, int width) : CMFCRibbonSlider(id, width) {}
 
-// Nobody may find this slider any more; who had it as its original gets this one's from the base class.
+// Who followed this slider follows its source; without one the first copy becomes the root of the rest.
 CMFCRibbonSliderSync::~CMFCRibbonSliderSync() {
+    CMFCRibbonSliderSync* const leader = m_leader;
     Unlink();
-    for (CMFCRibbonSliderSync* slider : m_linked)
-        slider->m_linkedTo = nullptr;
+    const std::vector<CMFCRibbonSliderSync*> followers = std::exchange(m_linked, {});
+    for (CMFCRibbonSliderSync* slider : followers)
+        slider->m_leader = nullptr;
+    CMFCRibbonSliderSync* heir = m_source;
+    for (CMFCRibbonSliderSync* slider : followers) {
+        if (slider->m_source != this)
+            continue;
+        slider->SetOriginal(heir);
+        heir = heir ? heir : slider;
+    }
+    CMFCRibbonSliderSync* const next = heir ? heir : leader;
+    for (CMFCRibbonSliderSync* slider : followers) {
+        if (next && !slider->m_leader)
+            next->AddLinkedSlider(slider);
+    }
+    if (leader && heir)
+        leader->AddLinkedSlider(heir);
 }
 
 // ---- the chain
 
-CMFCRibbonSliderSync* CMFCRibbonSliderSync::GetSource() const {
-    return DYNAMIC_DOWNCAST(CMFCRibbonSliderSync, GetOriginal());
-}
-
 CMFCRibbonSliderSync& CMFCRibbonSliderSync::GetRoot() {
     CMFCRibbonSliderSync* root = this;
-    while (CMFCRibbonSliderSync* const source = root->GetSource())
-        root = source;
+    while (root->m_source)
+        root = root->m_source;
     return *root;
 }
 
+// A source is a leader too, so that this walk meets every link that could close a ring.
+bool CMFCRibbonSliderSync::Follows(const CMFCRibbonSliderSync& slider) const {
+    for (const CMFCRibbonSliderSync* one = this; one; one = one->m_leader) {
+        if (one == &slider)
+            return true;
+    }
+    return false;
+}
+
+void CMFCRibbonSliderSync::Link(CMFCRibbonSliderSync& slider) {
+    slider.Unlink();
+    slider.m_leader = this;
+    m_linked.push_back(&slider);
+}
+
 void CMFCRibbonSliderSync::Unlink() {
-    if (CMFCRibbonSliderSync* const holder = std::exchange(m_linkedTo, nullptr))
-        std::erase(holder->m_linked, this);
+    if (CMFCRibbonSliderSync* const leader = std::exchange(m_leader, nullptr))
+        std::erase(leader->m_linked, this);
 }
 
 void CMFCRibbonSliderSync::AddLinkedSlider(CMFCRibbonSliderSync* slider) {
-    CMFCRibbonSliderSync& root = GetRoot();
-    if (!slider || slider == &root || slider->m_linkedTo == &root)
-        return;
-    slider->Unlink();
-    root.m_linked.push_back(slider);
-    slider->m_linkedTo = &root;
-    // Whoever followed that slider now follows this one's root.
-    for (CMFCRibbonSliderSync* follower : std::exchange(slider->m_linked, {})) {
-        follower->m_linkedTo = nullptr;
-        AddLinkedSlider(follower);
-    }
+    if (slider && !slider->m_source && slider->m_leader != this && !Follows(*slider))
+        Link(*slider);
 }
 
-// A chain has an end: a slider cannot become the original of its own original.
 void CMFCRibbonSliderSync::SetOriginal(CMFCRibbonBaseElement* original) {
     auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonSliderSync, original);
-    if (source && &source->GetRoot() == this)
+    if (source && source->Follows(*this))
         return;
     Unlink();
+    m_source = source;
     CMFCRibbonSlider::SetOriginal(original);
     if (source)
-        source->AddLinkedSlider(this);
+        source->Link(*this);
 }
 
 // ---- the position
@@ -70,15 +88,22 @@ void CMFCRibbonSliderSync::ShowPos(int pos, int redraw) {
 }
 
 void CMFCRibbonSliderSync::SetPosSync(int pos, int redraw) {
-    CMFCRibbonSliderSync& root = GetRoot();
-    root.ShowPos(pos, redraw);
-    for (CMFCRibbonSliderSync* slider : root.m_linked)
-        slider->ShowPos(pos, redraw);
+    std::vector<CMFCRibbonSliderSync*> sliders{&GetRoot()};
+    for (size_t i = 0; i < sliders.size(); ++i) {
+        CMFCRibbonSliderSync& slider = *sliders[i];
+        slider.ShowPos(pos, redraw);
+        sliders.insert(sliders.end(), slider.m_linked.begin(), slider.m_linked.end());
+    }
 }
 
+// Sliders of different ranges end at what the links up to the root have in common.
 void CMFCRibbonSliderSync::NotifyCommandSync() {
-    SetPosSync(GetPos(), TRUE);
-    GetRoot().NotifyCommand();
+    if (!m_source)
+        SetPosSync(GetPos(), TRUE);
+    CMFCRibbonSliderSync* last = this;
+    for (; last->m_source; last = last->m_source)
+        last->m_source->SetPosSync(last->GetPos(), TRUE);
+    last->NotifyCommand();
 }
 
 void CMFCRibbonSliderSync::TakePos(int pos) {

@@ -7,8 +7,9 @@
 #include <vector>
 
 /// A ribbon slider whose copies stay at one position. The copies form a chain by their originals; the root of the chain
-/// knows them all, and every change is reported once, as the root's command. The tooltip is the position. The
-/// containers own the sliders; copies and root may go in any order.
+/// reaches them all, and every change is reported once, as the root's command. The tooltip is the position. The
+/// containers own the sliders; copies and root may go in any order: the first copy of a root that goes becomes the root
+/// of the others.
 class BARWRIGHT_API CMFCRibbonSliderSync : public CMFCRibbonSlider {
     DECLARE_DYNCREATE(CMFCRibbonSliderSync)
 
@@ -25,10 +26,11 @@ public:
     void NotifyCommandSync();
     void setTooltipFromPos();
 
-    /// Makes another slider follow this one; nothing happens when it does already. A slider whose original is a
-    /// synchronised slider is linked by that alone.
+    /// Makes another slider follow this one, which does not follow it. A slider whose original is a synchronised slider
+    /// follows that alone; nothing happens then, nor when this slider follows the other one.
     void AddLinkedSlider(CMFCRibbonSliderSync* slider);
 
+    /// Refused where the chain would become a ring.
     void SetOriginal(CMFCRibbonBaseElement* original) override;
     void OnMouseMove(CPoint point) override;
     void OnLButtonUp(CPoint point) override;
@@ -38,12 +40,15 @@ protected:
     void ChangePos(int pos) override;
 
 private:
-    CMFCRibbonSliderSync* GetSource() const;
     CMFCRibbonSliderSync& GetRoot();
+    bool Follows(const CMFCRibbonSliderSync& slider) const;
+    void Link(CMFCRibbonSliderSync& slider);
     void Unlink();
     void ShowPos(int pos, int redraw);
     void TakePos(int pos);
 
-    std::vector<CMFCRibbonSliderSync*> m_linked; // not owned
-    CMFCRibbonSliderSync* m_linkedTo = nullptr;  // whose list holds this slider
+    // None of them is owned.
+    CMFCRibbonSliderSync* m_source = nullptr;    // the original, where that is a synchronised slider
+    CMFCRibbonSliderSync* m_leader = nullptr;    // whose list holds this slider: the source where there is one
+    std::vector<CMFCRibbonSliderSync*> m_linked; // who follows this slider itself
 };
