@@ -22,6 +22,15 @@ ribbon::SliderFace FaceOf(const CMFCRibbonSlider& slider) {
     return ribbon::PlaceSlider(ribbon::FromRect(slider.GetRect()), StateOf(slider), ribbon::CurrentMetrics());
 }
 
+// In a mirrored window the low end is at the right.
+UINT KeyInWindow(UINT key, const CWnd* window) {
+    const bool isMirrored =
+        window != nullptr && window->GetSafeHwnd() != nullptr && (window->GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    if (isMirrored && key == VK_LEFT)
+        return VK_RIGHT;
+    return isMirrored && key == VK_RIGHT ? VK_LEFT : key;
+}
+
 bool IsZoomButton(RibbonSliderPart part) {
     return part == RibbonSliderPart::Increase || part == RibbonSliderPart::Decrease;
 }
@@ -194,7 +203,7 @@ void CMFCRibbonSlider::OnHighlight(BOOL bHighlight) {
 BOOL CMFCRibbonSlider::OnProcessKey(UINT nChar) {
     if (IsDisabled())
         return FALSE;
-    switch (nChar) {
+    switch (KeyInWindow(nChar, GetParentWnd())) {
     case VK_LEFT:
     case VK_DOWN:
         ChangePos(GetPosAfter(-static_cast<long long>(m_nZoomIncrement)));
