@@ -1,11 +1,15 @@
 // The label that tells the host of clicks.
 #include "host_messages.h"
 #include "ribbon_label_ex.h"
+#include "tests/support/buried.h"
 #include "tests/support/canvas.h"
+#include "tests/support/counted_faults.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ribbon_host.h"
+#include "tests/support/scoped_value.h"
 #include "tests/support/translation_tables.h"
 
+#include <afxribbonpanelmenu.h>
 #include <afxvisualmanager.h>
 
 #include <algorithm>
@@ -292,7 +296,7 @@ class LabelClick : public testing::Test {
 protected:
     void SetUp() override {
         m_host.Frame().listensTo = [](UINT message) { return message == 0x46F; };
-        m_label = &m_host.Add(std::make_unique<CMFCRibbonLabelEx>(L"A label to click"));
+        m_label = &m_host.Add(std::make_unique<Buried<CMFCRibbonLabelEx>>(L"A label to click"));
         ASSERT_FALSE(m_label->GetRect().IsRectEmpty());
     }
 
@@ -331,29 +335,103 @@ TEST_F(LabelClick, ADisabledLabelIsSilent) {
     EXPECT_TRUE(m_host.Frame().received.empty());
 }
 
+TEST_F(LabelClick, IsPressedBeforeTheHostIsTold) {
+    BOOL wasPressed = FALSE;
+    m_host.Frame().onMessage = [&](const HostMessage&) -> LRESULT {
+        wasPressed = m_label->IsPressed();
+        return 0;
+    };
+    m_label->OnLButtonDown(m_label->GetRect().CenterPoint());
+    EXPECT_EQ(m_host.Frame().received.size(), 1u);
+    EXPECT_TRUE(wasPressed);
+}
+
 TEST_F(LabelClick, AHostMayCloseItsWindowInTheAnswer) {
+    const CountedFaults faults;
     m_host.Frame().onMessage = [this](const HostMessage&) -> LRESULT {
         m_host.Destroy();
         return 0;
     };
     m_pointer.Click(m_host.BarWindow(), m_label->GetRect().CenterPoint());
     EXPECT_FALSE(m_host.IsAlive());
+    EXPECT_EQ(faults.Get(), 0);
 }
 
 TEST_F(LabelClick, AHostMayRemoveTheLabelInTheAnswer) {
+    const CountedFaults faults;
     m_host.Frame().onMessage = [this](const HostMessage&) -> LRESULT {
         m_host.Bar().RemoveCategory(0);
         return 0;
     };
     m_pointer.Click(m_host.BarWindow(), m_label->GetRect().CenterPoint());
+    PumpPending();
     EXPECT_EQ(m_host.Bar().GetCategoryCount(), 0);
+    EXPECT_EQ(faults.Get(), 0);
 }
 
-TEST_F(LabelClick, WithoutABarNothingIsSent) {
+TEST_F(LabelClick, WithoutABarNobodyIsTold) {
+    const ScopedValue<CWnd*> mainWindow{AfxGetApp()->m_pMainWnd, &m_host.Frame()};
+    CWnd neverMade;
     CMFCRibbonLabelEx loose(L"text");
     loose.SetRect(CRect(0, 0, 50, 20));
-    loose.OnLButtonDown(CPoint(5, 5));
+    for (CWnd* const parent : {static_cast<CWnd*>(nullptr), &neverMade}) {
+        loose.SetParentWnd(parent);
+        loose.OnLButtonDown(CPoint(5, 5));
+    }
     EXPECT_TRUE(m_host.Frame().received.empty());
+    // What has a bar's window as its parent tells that one's owner.
+    loose.SetParentWnd(&m_host.Bar());
+    loose.OnLButtonDown(CPoint(5, 5));
+    EXPECT_EQ(m_host.Frame().received.size(), 1u);
+}
+
+TEST_F(LabelClick, InTheWindowOfAnotherBarTellsThatOnesOwner) {
+    // As on a status bar: a child of the frame that is no ribbon bar.
+    CWnd bar;
+    ASSERT_TRUE(bar.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 100, 20), &m_host.Frame(), 1));
+    CMFCRibbonLabelEx label(L"text");
+    label.SetRect(CRect(0, 0, 50, 20));
+    label.SetParentWnd(&bar);
+    label.OnLButtonDown(CPoint(5, 5));
+    ASSERT_EQ(m_host.Frame().received.size(), 1u);
+    EXPECT_EQ(m_host.Frame().received[0].wParam, reinterpret_cast<WPARAM>(&label));
+    RibbonHost other;
+    other.Frame().listensTo = m_host.Frame().listensTo;
+    bar.SetOwner(&other.Frame());
+    label.OnLButtonDown(CPoint(5, 5));
+    EXPECT_EQ(m_host.Frame().received.size(), 1u);
+    EXPECT_EQ(other.Frame().received.size(), 1u);
+    bar.DestroyWindow();
+}
+
+TEST_F(LabelClick, InThePopupOfACollapsedPanelTellsTheOwnerOfTheBar) {
+    CMFCRibbonCategory& category = *m_host.Bar().GetCategory(0);
+    CMFCRibbonPanel& panel = *category.GetPanel(0);
+    panel.Add(new CMFCRibbonButton(800, L"A button with a long text"));
+    CArray<int, int> order;
+    for (int step = 0; step < 3; ++step)
+        order.Add(0); // the first panel, through all its sizes
+    category.SetCollapseOrder(order);
+    CMFCRibbonPanel* const other = category.AddPanel(L"Other"); // takes the room
+    for (UINT i = 0; i < 6; ++i)
+        other->Add(new CMFCRibbonButton(900 + i, L"A button with a long text"));
+    m_host.LayOut();
+    for (int width = 900; width > 150 && !panel.IsCollapsed(); width -= 20) {
+        m_host.Frame().SetWindowPos(nullptr, 0, 0, width, 400, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        PumpPending();
+    }
+    ASSERT_TRUE(panel.IsCollapsed());
+    m_pointer.Click(m_host.BarWindow(), panel.GetDefaultButton().GetRect().CenterPoint());
+    PumpPending();
+    CWnd* const popup = m_label->GetParentWnd();
+    ASSERT_NE(popup, nullptr);
+    ASSERT_NE(popup, &m_host.Bar());
+    ASSERT_FALSE(m_label->GetRect().IsRectEmpty());
+    m_pointer.Click(popup->GetSafeHwnd(), m_label->GetRect().CenterPoint());
+    ASSERT_EQ(m_host.Frame().received.size(), 1u);
+    EXPECT_EQ(m_host.Frame().received[0].wParam, reinterpret_cast<WPARAM>(m_label));
+    CMFCPopupMenu::CloseAll();
+    PumpPending();
 }
 
 } // namespace

@@ -1,51 +1,9 @@
 // Sliders that stay at one position.
-#include "ribbon_slider_sync.h"
-#include "tests/support/pointer.h"
-#include "tests/support/ribbon_host.h"
+#include "tests/ui/label_slider/slider_fixture.h"
 
 #include <gmock/gmock.h>
 
 namespace {
-
-constexpr UINT id = 500;
-
-/// Reaches the parts of the face.
-class OpenSlider : public CMFCRibbonSliderSync {
-public:
-    using CMFCRibbonSliderSync::CMFCRibbonSliderSync;
-    CPoint ThumbCenter() const { return GetThumbRect().CenterPoint(); }
-    CPoint CenterOf(RibbonSliderPart part) const {
-        const CPoint middle = m_rect.CenterPoint();
-        for (int x = m_rect.left; x < m_rect.right; ++x) {
-            if (GetPartFromPoint({x, middle.y}) == part && GetPartFromPoint({x + 4, middle.y}) == part)
-                return {x + 2, middle.y};
-        }
-        ADD_FAILURE() << "no such part";
-        return {};
-    }
-    /// The point at which the thumb shows a position.
-    CPoint PointOf(int pos) const {
-        const CPoint middle = m_rect.CenterPoint();
-        for (int x = m_rect.left; x < m_rect.right; ++x) {
-            if (GetPosFromPoint({x, middle.y}) == pos)
-                return {x, middle.y};
-        }
-        ADD_FAILURE() << "no point shows " << pos;
-        return {};
-    }
-    void Press(CPoint point) { OnLButtonDown(point); }
-    BOOL Key(UINT key) { return OnProcessKey(key); }
-};
-
-std::wstring TipOf(const CMFCRibbonBaseElement& element) { return element.GetToolTipText().GetString(); }
-
-std::unique_ptr<OpenSlider> MakeSlider(UINT command = id, int width = 400) {
-    auto slider = std::make_unique<OpenSlider>(command, width);
-    slider->SetZoomButtons();
-    slider->SetZoomIncrement(5);
-    slider->SetRange(0, 40);
-    return slider;
-}
 
 TEST(SliderSync, IsAPlainSliderWithItsIdAndWidth) {
     CMFCRibbonSliderSync slider(7, 80);
@@ -64,10 +22,10 @@ TEST(SliderSync, TheTooltipIsThePosition) {
 }
 
 TEST(SliderSync, SettingAnyOneMovesAllAndTheirTooltips) {
-    CMFCRibbonSliderSync root(id);
-    CMFCRibbonSliderSync first(id);
-    CMFCRibbonSliderSync second(id);
-    CMFCRibbonSliderSync third(id);
+    CMFCRibbonSliderSync root(sliderId);
+    CMFCRibbonSliderSync first(sliderId);
+    CMFCRibbonSliderSync second(sliderId);
+    CMFCRibbonSliderSync third(sliderId);
     first.SetOriginal(&root);
     second.SetOriginal(&first); // a chain of three
     root.AddLinkedSlider(&third);
@@ -83,8 +41,8 @@ TEST(SliderSync, SettingAnyOneMovesAllAndTheirTooltips) {
 }
 
 TEST(SliderSync, APositionOutsideOfTheRangeIsItsNearestEndInEveryCopyAndTooltip) {
-    CMFCRibbonSliderSync root(id);
-    CMFCRibbonSliderSync copy(id);
+    CMFCRibbonSliderSync root(sliderId);
+    CMFCRibbonSliderSync copy(sliderId);
     copy.SetOriginal(&root);
     copy.SetPosSync(INT_MAX, TRUE);
     EXPECT_EQ(root.GetPos(), 100);
@@ -94,105 +52,7 @@ TEST(SliderSync, APositionOutsideOfTheRangeIsItsNearestEndInEveryCopyAndTooltip)
     EXPECT_EQ(TipOf(root), L"0");
 }
 
-TEST(SliderSync, CopiesAndRootMayGoInAnyOrder) {
-    auto root = std::make_unique<CMFCRibbonSliderSync>(id);
-    auto first = std::make_unique<CMFCRibbonSliderSync>(id);
-    auto second = std::make_unique<CMFCRibbonSliderSync>(id);
-    first->SetOriginal(root.get());
-    second->SetOriginal(first.get());
-    first.reset();
-    EXPECT_EQ(second->GetOriginal(), root.get());
-    second->SetPosSync(30, FALSE);
-    EXPECT_EQ(root->GetPos(), 30);
-    root.reset();
-    EXPECT_EQ(second->GetOriginal(), nullptr);
-    second->SetPosSync(20, FALSE);
-    EXPECT_EQ(second->GetPos(), 20);
-}
-
-TEST(SliderSync, ASliderIsLinkedOnceAndNeverToItself) {
-    CMFCRibbonSliderSync root(id);
-    {
-        CMFCRibbonSliderSync copy(id);
-        root.AddLinkedSlider(&copy);
-        root.AddLinkedSlider(&copy);
-        root.AddLinkedSlider(&root);
-        root.AddLinkedSlider(nullptr);
-    }
-    root.SetPosSync(5, FALSE);
-    EXPECT_EQ(root.GetPos(), 5);
-}
-
-TEST(SliderSync, AChainNeverBecomesARing) {
-    CMFCRibbonSliderSync root(id);
-    CMFCRibbonSliderSync copy(id);
-    copy.SetOriginal(&root);
-    root.SetOriginal(&copy);
-    root.SetOriginal(&root);
-    EXPECT_EQ(root.GetOriginal(), nullptr);
-    copy.SetPosSync(5, FALSE);
-    EXPECT_EQ(root.GetPos(), 5);
-}
-
-TEST(SliderSync, ACopyThatGetsAnotherOriginalFollowsThatOne) {
-    CMFCRibbonSliderSync first(id);
-    CMFCRibbonSliderSync second(id);
-    CMFCRibbonSliderSync copy(id);
-    copy.SetOriginal(&first);
-    copy.SetOriginal(&second);
-    first.SetPosSync(5, FALSE);
-    EXPECT_EQ(copy.GetPos(), 0);
-    second.SetPosSync(6, FALSE);
-    EXPECT_EQ(copy.GetPos(), 6);
-    copy.SetOriginal(nullptr);
-    second.SetPosSync(7, FALSE);
-    EXPECT_EQ(copy.GetPos(), 6);
-}
-
-TEST(SliderSync, WhoeverFollowedACopyFollowsItsRoot) {
-    CMFCRibbonSliderSync root(id);
-    CMFCRibbonSliderSync middle(id);
-    CMFCRibbonSliderSync last(id);
-    last.SetOriginal(&middle);
-    middle.SetOriginal(&root);
-    root.SetPosSync(8, FALSE);
-    EXPECT_EQ(last.GetPos(), 8);
-}
-
-TEST(SliderSync, AnOriginalOfAnotherClassIsNoSource) {
-    CMFCRibbonSlider plain(id);
-    CMFCRibbonSliderSync slider(id);
-    slider.SetOriginal(&plain);
-    slider.SetPosSync(5, FALSE);
-    EXPECT_EQ(slider.GetPos(), 5);
-    EXPECT_EQ(plain.GetPos(), 0);
-}
-
 // ---- with a window
-
-class SliderSyncInput : public testing::Test {
-protected:
-    void SetUp() override {
-        m_root = &m_host.Add(MakeSlider());
-        m_copy = &m_host.Add(MakeSlider());
-        m_copy->SetOriginal(m_root);
-        ASSERT_FALSE(m_copy->GetRect().IsRectEmpty());
-    }
-    ~SliderSyncInput() override { m_pointer.Release(); }
-
-    int Commands() { return m_host.Frame().CountCommands(id); }
-    void ExpectAllAt(int pos) {
-        EXPECT_EQ(m_root->GetPos(), pos);
-        EXPECT_EQ(m_copy->GetPos(), pos);
-        EXPECT_EQ(TipOf(*m_root), std::to_wstring(pos));
-        EXPECT_EQ(TipOf(*m_copy), std::to_wstring(pos));
-    }
-
-    RibbonHost m_host;
-    Pointer m_pointer;
-    OpenSlider* m_root = nullptr;
-    OpenSlider* m_copy = nullptr;
-};
 
 TEST_F(SliderSyncInput, TheButtonsStepAndTellOnce) {
     m_copy->SetPosSync(10, TRUE);
@@ -238,7 +98,7 @@ TEST_F(SliderSyncInput, IsDrawnAnewWhenAnotherPartBecomesHotAndOnlyThen) {
     EXPECT_TRUE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Increase)));
     EXPECT_FALSE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Increase) + CSize(1, 0)));
     EXPECT_TRUE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Decrease)));
-    m_host.Frame().disabledCommand = id; // or the next update enables it again
+    m_host.Frame().disabledCommand = sliderId; // or the next update enables it again
     m_copy->SetDisabled(TRUE);
     EXPECT_FALSE(isDrawnAnew(m_copy->CenterOf(RibbonSliderPart::Increase)));
 }
@@ -321,27 +181,6 @@ TEST_F(SliderSyncInput, KeysMoveAllOfThem) {
     EXPECT_EQ(Commands(), 2);
     EXPECT_TRUE(m_copy->Key(VK_END));
     EXPECT_EQ(Commands(), 2) << "nothing changed";
-}
-
-TEST_F(SliderSyncInput, AHostMayCloseItsWindowInTheCommand) {
-    m_host.Frame().onMessage = [this](const HostMessage&) -> LRESULT {
-        m_host.Destroy();
-        return 0;
-    };
-    m_pointer.MoveTo(m_host.BarWindow(), m_copy->ThumbCenter());
-    m_pointer.Press();
-    m_pointer.MoveTo(m_host.BarWindow(), m_copy->PointOf(30));
-    EXPECT_FALSE(m_host.IsAlive());
-}
-
-TEST_F(SliderSyncInput, AHostMayCloseItsWindowWhileAButtonRepeats) {
-    m_pointer.MoveTo(m_host.BarWindow(), m_copy->CenterOf(RibbonSliderPart::Increase));
-    m_pointer.Press();
-    m_host.Frame().onMessage = [this](const HostMessage&) -> LRESULT {
-        m_host.Destroy();
-        return 0;
-    };
-    EXPECT_TRUE(PumpUntil([this] { return !m_host.IsAlive(); }));
 }
 
 TEST_F(SliderSyncInput, AHostMaySetThePositionInTheCommand) {

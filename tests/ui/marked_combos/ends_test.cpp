@@ -1,21 +1,12 @@
 // The end of a combo, of its items or of its list while the list is open, whoever brings it about.
+#include "tests/support/buried.h"
+#include "tests/support/counted_faults.h"
 #include "tests/ui/marked_combos/combo_fixture.h"
-#include "tests/ui/marked_combos/counted_faults.h"
 
 #include <afxRibbonPanel.h>
 #include <fx/registered_messages.h>
 
-#include <cstring>
-
 namespace {
-
-/// Its memory is kept when it is gone, with nothing in it that works: whoever still uses it comes to a fault.
-template <class Combo>
-class Buried : public Combo {
-public:
-    using Combo::Combo;
-    static void operator delete(void* memory, std::size_t size) { std::memset(memory, 0xDD, size); }
-};
 
 template <class Combo>
 class Ends : public RibbonCombos {

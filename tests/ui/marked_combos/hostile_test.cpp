@@ -1,8 +1,9 @@
 // A host that does the worst it can inside of every message.
 #include "menu_event.h"
+#include "tests/support/buried.h"
+#include "tests/support/counted_faults.h"
 #include "tests/support/keys.h"
 #include "tests/ui/marked_combos/combo_fixture.h"
-#include "tests/ui/marked_combos/counted_faults.h"
 
 #include <afxRibbonPanel.h>
 
@@ -141,11 +142,11 @@ protected:
     static CMFCRibbonComboBox& MakeCombo(RibbonHost& host, Kind kind) {
         switch (kind) {
         case Kind::Check:
-            return host.Add(std::make_unique<CMFCRibbonCheckComb>(comboId, FALSE, 120));
+            return host.Add(std::make_unique<Buried<CMFCRibbonCheckComb>>(comboId, FALSE, 120));
         case Kind::Multi:
-            return host.Add(std::make_unique<CMFCRibbonMultiCombo>(comboId, FALSE, 120));
+            return host.Add(std::make_unique<Buried<CMFCRibbonMultiCombo>>(comboId, FALSE, 120));
         default:
-            return host.Add(std::make_unique<CMFCRibbonVesMultiCombo>(comboId, FALSE, 120));
+            return host.Add(std::make_unique<Buried<CMFCRibbonVesMultiCombo>>(comboId, FALSE, 120));
         }
     }
     static int RunCase(const Case& one) {
