@@ -191,6 +191,10 @@ BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
     if (nChar == VK_ESCAPE)
         RevertText();
     m_strCommitted = m_strEdit;
+    // In a pop-up the first Escape leaves the text, the next one the pop-up.
+    CMFCRibbonBar* bar = nChar == VK_ESCAPE && m_pParentMenu != nullptr ? GetTopLevelRibbonBar() : nullptr;
+    if (bar != nullptr && bar->GetKeyboard().TakeFocusBack())
+        return TRUE;
     LeaveEditWindow();
     if (nChar == VK_RETURN) {
         CloseParentMenus();

@@ -362,49 +362,6 @@ void RibbonKeyboard::OnElementDestroyed(const CMFCRibbonBaseElement& element) {
     m_areTipsShown = m_areTipsShown && !m_levels.empty();
 }
 
-// ---- pop-ups
-
-void RibbonKeyboard::EnterPopup(CWnd& popup, CObject* object, const std::vector<CMFCRibbonBaseElement*>& elements) {
-    if (!m_isActive) {
-        return;
-    }
-    Level level{object, &popup, nullptr, {}};
-    for (CMFCRibbonBaseElement* element : elements) {
-        Append(*element, level.tips);
-    }
-    Assign(level.tips, 0);
-    if (!m_levels.empty()) {
-        for (const auto& tip : m_levels.back().tips) {
-            tip->Hide();
-        }
-    }
-    m_typed.clear();
-    m_levels.push_back(std::move(level));
-    ShowMatchingTips();
-}
-
-void RibbonKeyboard::LeavePopup(const CWnd& popup, bool goesBack) {
-    for (std::size_t place = 0; place < m_levels.size(); ++place) {
-        if (m_levels[place].window != &popup) {
-            continue;
-        }
-        m_levels.resize(place);
-        m_typed.clear();
-        if (goesBack) {
-            ShowMatchingTips();
-        } else {
-            Deactivate(Focus::GiveBack);
-        }
-        return;
-    }
-}
-
-void RibbonKeyboard::LeaveList() {
-    if (std::exchange(m_isInList, false) && m_isActive) {
-        ShowTips();
-    }
-}
-
 // ---- messages
 
 // Alt and F10 are the ribbon's in a frame without a menu of its own, while nobody holds the mouse.

@@ -44,6 +44,9 @@ public:
     /// Takes the focus without tips, on the active tab.
     void Activate();
     void Deactivate(Focus focus);
+    /// Takes the focus from an edit that is left for what surrounds it. False, and nothing happens, while the keyboard
+    /// is not active.
+    bool TakeFocusBack();
     /// Ends the keyboard, and returns the focus even when only an edit had it.
     void GiveFocusBack();
 

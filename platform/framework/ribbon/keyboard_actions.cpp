@@ -1,4 +1,4 @@
-// What keys and assistive programs do with an element of a ribbon bar.
+// What keys and assistive programs do with an element of a ribbon bar, and the pop-ups and lists that open by it.
 #include <utility>
 
 #include "afxRibbonEdit.h"
@@ -124,5 +124,48 @@ void RibbonKeyboard::OpenMenu(CMFCRibbonBaseElement& element, bool isMenu) {
         m_isInList = true;
     } else if (!IsPopupOnTop() && !isOpen) {
         Deactivate(Focus::GiveBack);
+    }
+}
+
+// ---- pop-ups
+
+void RibbonKeyboard::EnterPopup(CWnd& popup, CObject* object, const std::vector<CMFCRibbonBaseElement*>& elements) {
+    if (!m_isActive) {
+        return;
+    }
+    Level level{object, &popup, nullptr, {}};
+    for (CMFCRibbonBaseElement* element : elements) {
+        Append(*element, level.tips);
+    }
+    Assign(level.tips, 0);
+    if (!m_levels.empty()) {
+        for (const auto& tip : m_levels.back().tips) {
+            tip->Hide();
+        }
+    }
+    m_typed.clear();
+    m_levels.push_back(std::move(level));
+    ShowMatchingTips();
+}
+
+void RibbonKeyboard::LeavePopup(const CWnd& popup, bool goesBack) {
+    for (std::size_t place = 0; place < m_levels.size(); ++place) {
+        if (m_levels[place].window != &popup) {
+            continue;
+        }
+        m_levels.resize(place);
+        m_typed.clear();
+        if (goesBack) {
+            ShowMatchingTips();
+        } else {
+            Deactivate(Focus::GiveBack);
+        }
+        return;
+    }
+}
+
+void RibbonKeyboard::LeaveList() {
+    if (std::exchange(m_isInList, false) && m_isActive) {
+        ShowTips();
     }
 }

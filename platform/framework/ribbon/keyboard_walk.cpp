@@ -73,8 +73,10 @@ bool RibbonKeyboard::HoldsFocus() const {
     return focus != nullptr && (focus == m_bar.GetSafeHwnd() || ::IsChild(m_bar.GetSafeHwnd(), focus));
 }
 
+// On its way from a pop-up back to the bar the focus passes through the frame, which is activated.
 void RibbonKeyboard::OnFocusCame(HWND former) {
-    if (former != nullptr && former != m_bar.GetSafeHwnd() && !::IsChild(m_bar.GetSafeHwnd(), former)) {
+    const bool isOwn = former == m_bar.GetSafeHwnd() || ::IsChild(m_bar.GetSafeHwnd(), former);
+    if (former != nullptr && !isOwn && !m_isMovingFocus) {
         m_formerFocus = former;
     }
 }
@@ -82,6 +84,19 @@ void RibbonKeyboard::OnFocusCame(HWND former) {
 void RibbonKeyboard::OnEditFocusCame(HWND former) {
     OnFocusCame(former);
     m_isActive = m_isActive || HoldsFocus();
+}
+
+bool RibbonKeyboard::TakeFocusBack() {
+    if (!m_isActive) {
+        return false;
+    }
+    const HWND window = m_bar.GetSafeHwnd();
+    m_isMovingFocus = true;
+    m_bar.SetFocus();
+    if (::IsWindow(window)) {
+        m_isMovingFocus = false;
+    }
+    return true;
 }
 
 void RibbonKeyboard::GiveFocusBack() {

@@ -124,6 +124,48 @@ TEST_F(OwnKeyTest, AnEditInThePanelsOfAMinimisedBarGetsTheCaretByItsLetters) {
     EXPECT_EQ(::GetFocus(), Document());
 }
 
+TEST_F(OwnKeyTest, EscapeInAnEditOfAPopUpFirstTakesTheTextBackAndThenClosesThePopUp) {
+    CollapseSlidersPanel();
+    auto& edit = static_cast<CMFCRibbonEdit&>(Element(commands::size));
+    Press({VK_MENU, 'H', 'Z', 'Z'});
+    Type(edit.GetKeyTipText(FALSE));
+    ASSERT_TRUE(edit.HasFocus());
+    Press({'4', '2'});
+    EXPECT_EQ(edit.GetEditText(), L"42");
+    Press(VK_ESCAPE);
+    EXPECT_EQ(edit.GetEditText(), L"12");
+    EXPECT_FALSE(edit.HasFocus());
+    CMFCRibbonPanelMenu* popup = CMFCRibbonPanelMenu::GetDeepest();
+    ASSERT_NE(popup, nullptr);
+    EXPECT_EQ(popup->GetRibbonMenuBar().GetHighlighted(), &edit) << "arrows go on from it";
+    Press(VK_TAB);
+    EXPECT_EQ(popup->GetRibbonMenuBar().GetHighlighted(), &Slider());
+    Press(VK_ESCAPE);
+    EXPECT_EQ(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+    EXPECT_EQ(::GetFocus(), Bar().GetSafeHwnd()) << "back to what opened it";
+    Press(VK_ESCAPE);
+    EXPECT_EQ(::GetFocus(), Document());
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+}
+
+TEST_F(OwnKeyTest, EscapeInAnEditThatWasClickedInAPopUpDoesTheSame) {
+    CollapseSlidersPanel();
+    auto& edit = static_cast<CMFCRibbonEdit&>(Element(commands::size));
+    m_pointer.Click(Bar().GetSafeHwnd(), Center(Bar().GetCategory(0)->GetPanel(1)->GetDefaultButton().GetRect()));
+    PumpPending();
+    ASSERT_NE(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+    edit.GetEditWnd()->SetFocus();
+    PumpPending();
+    Press({VK_END, '7', VK_ESCAPE});
+    EXPECT_EQ(edit.GetEditText(), L"12");
+    EXPECT_FALSE(edit.HasFocus());
+    EXPECT_NE(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+    Press(VK_ESCAPE);
+    EXPECT_EQ(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
+    EXPECT_EQ(::GetFocus(), Document());
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+}
+
 TEST_F(OwnKeyTest, InAMinimisedBarArrowsWalkFromTheTabIntoItsPanelsAndEnterSends) {
     Bar().ToggleMimimizeState();
     Press({VK_MENU, VK_END});
