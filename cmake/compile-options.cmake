@@ -11,8 +11,13 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  # Precompiled headers and a second checkout share cached objects only with these settings.
-  set(ccache_launcher ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
+  # Precompiled headers and a second checkout share cached objects only with these settings. The cache lies beside the
+  # other things that were fetched, unless the user keeps one elsewhere.
+  set(ccache_folder "")
+  if(NOT DEFINED ENV{CCACHE_DIR})
+    set(ccache_folder CCACHE_DIR=${PROJECT_SOURCE_DIR}/.deps/ccache)
+  endif()
+  set(ccache_launcher ${CMAKE_COMMAND} -E env ${ccache_folder} CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
       CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
   set(CMAKE_C_COMPILER_LAUNCHER ${ccache_launcher})
   set(CMAKE_CXX_COMPILER_LAUNCHER ${ccache_launcher})
