@@ -4,6 +4,7 @@
 #include <afxglobals.h>
 #include <afxvisualmanager.h>
 
+#include "core/scoped_change.h"
 #include "fx/dc_scope.h"
 #include "ribbon/element_metrics.h"
 #include "toolbar/row_text.h"
@@ -61,8 +62,12 @@ void CMFCRibbonComboBox::Redraw() {
         list->GetMenuBar()->Invalidate();
 }
 
+// Derived classes hear of every redraw by the virtual function.
 void CMFCRibbonComboBox::RedrawItem(int nIndex) {
-    CMFCRibbonEdit::Redraw();
+    {
+        const fx::ScopedChange<BOOL> face(m_bRedrawsFace, TRUE);
+        Redraw();
+    }
     if (CMFCDropDownListBox* list = GetDropDownList(); list != nullptr)
         list->GetMenuBar()->InvalidateRow(nIndex);
 }

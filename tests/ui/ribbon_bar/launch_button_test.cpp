@@ -148,33 +148,37 @@ TEST_F(LaunchButton, ACopyInTheQuickAccessToolbarIsAnOrdinaryButton) {
     EXPECT_THAT(m_frame->commands, ElementsAre(kLaunch));
 }
 
-TEST_F(LaunchButton, HotPressedAndDisabledLookDifferentInEveryStyleAndAtEveryScale) {
-    using Style = CMFCVisualManagerOffice2007::Style;
-    for (const Style style :
-         {CMFCVisualManagerOffice2007::Office2007_LunaBlue, CMFCVisualManagerOffice2007::Office2007_ObsidianBlack,
-          CMFCVisualManagerOffice2007::Office2007_Aqua, CMFCVisualManagerOffice2007::Office2007_Silver}) {
-        CMFCVisualManagerOffice2007::SetStyle(style);
-        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
-        for (const int percent : {100, 125, 150, 200}) {
-            SCOPED_TRACE(std::to_string(style) + " at " + std::to_string(percent));
-            afxGlobalData.SetRibbonImageScale(percent / 100.0);
-            Layout();
-            const CRect rect = Button().GetRect();
-            ASSERT_FALSE(rect.IsRectEmpty());
-            EXPECT_EQ(rect & Panel().GetCaptionRect(), rect) << "inside the caption";
-            std::set<std::vector<DWORD>> looks{Pixels()};
-            Button().SetDisabled(TRUE);
-            looks.insert(Pixels());
-            Button().SetDisabled(FALSE);
-            m_pointer.MoveTo(Bar(), Middle());
-            looks.insert(Pixels());
-            m_pointer.Press();
-            looks.insert(Pixels());
-            m_pointer.MoveTo(Bar(), CPoint(1, 1));
-            m_pointer.Release();
-            EXPECT_EQ(looks.size(), 4u);
-        }
+class LaunchButtonLooks : public LaunchButton,
+                          public ::testing::WithParamInterface<CMFCVisualManagerOffice2007::Style> {};
+
+TEST_P(LaunchButtonLooks, HotPressedAndDisabledDifferAtEveryScale) {
+    CMFCVisualManagerOffice2007::SetStyle(GetParam());
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+    for (const int percent : {100, 125, 150, 200}) {
+        SCOPED_TRACE(percent);
+        afxGlobalData.SetRibbonImageScale(percent / 100.0);
+        Layout();
+        const CRect rect = Button().GetRect();
+        ASSERT_FALSE(rect.IsRectEmpty());
+        EXPECT_EQ(rect & Panel().GetCaptionRect(), rect) << "inside the caption";
+        std::set<std::vector<DWORD>> looks{Pixels()};
+        Button().SetDisabled(TRUE);
+        looks.insert(Pixels());
+        Button().SetDisabled(FALSE);
+        m_pointer.MoveTo(Bar(), Middle());
+        looks.insert(Pixels());
+        m_pointer.Press();
+        looks.insert(Pixels());
+        m_pointer.MoveTo(Bar(), CPoint(1, 1));
+        m_pointer.Release();
+        EXPECT_EQ(looks.size(), 4u);
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(EveryStyle, LaunchButtonLooks,
+                         ::testing::Values(CMFCVisualManagerOffice2007::Office2007_LunaBlue,
+                                           CMFCVisualManagerOffice2007::Office2007_ObsidianBlack,
+                                           CMFCVisualManagerOffice2007::Office2007_Aqua,
+                                           CMFCVisualManagerOffice2007::Office2007_Silver));
 
 } // namespace
