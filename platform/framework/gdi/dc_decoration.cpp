@@ -7,7 +7,7 @@ void CDC::InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
 
 void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr) {
     SetBkColor(clr);
-    gdi::FillSolid(m_hDC, *lpRect, clr);
+    gdi::FillGround(m_hDC, *lpRect);
 }
 void CDC::FillSolidRect(int x, int y, int cx, int cy, COLORREF clr) { FillSolidRect(CRect(x, y, x + cx, y + cy), clr); }
 

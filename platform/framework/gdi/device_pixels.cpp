@@ -25,6 +25,11 @@ POINT DeviceCorner(HDC dc, const RECT& rect) {
     return {std::min(corners[0].x, corners[1].x) + (IsMirrored(dc) ? 1 : 0), std::min(corners[0].y, corners[1].y)};
 }
 
+RECT DeviceRect(HDC dc, const RECT& rect) {
+    const POINT corner = DeviceCorner(dc, rect);
+    return {corner.x, corner.y, corner.x + rect.right - rect.left, corner.y + rect.bottom - rect.top};
+}
+
 void PutCornerAtOrigin(HDC dc, const RECT& rect) {
     const POINT corner = DeviceCorner(dc, rect);
     OffsetViewportOrgEx(dc, IsMirrored(dc) ? corner.x : -corner.x, -corner.y, nullptr);
@@ -39,9 +44,8 @@ void SelectClip(HDC dc, HRGN region) {
     const HRGN part = CreateRectRgn(0, 0, 0, 0);
     const int beside = IsMirrored(dc) ? 1 : 0;
     for (const RECT& rect : std::span(reinterpret_cast<const RECT*>(data->Buffer), data->rdh.nCount)) {
-        const POINT corner = DeviceCorner(dc, rect);
-        SetRectRgn(part, corner.x - beside, corner.y, corner.x + rect.right - rect.left,
-                   corner.y + rect.bottom - rect.top);
+        const RECT onDevice = DeviceRect(dc, rect);
+        SetRectRgn(part, onDevice.left - beside, onDevice.top, onDevice.right, onDevice.bottom);
         CombineRgn(pixels, pixels, part, RGN_OR);
     }
     const DWORD layout = SetLayout(dc, 0);
@@ -68,9 +72,8 @@ BOOL PaintWith(HDC dc, const RECT& rect, HBRUSH brush, Paint paint) {
     if (!KeepsPictures(dc)) {
         return paint(dc, &rect, brush);
     }
-    const POINT corner = DeviceCorner(dc, rect);
+    const RECT onDevice = DeviceRect(dc, rect);
     const ScopedDevicePixels pixels(dc);
-    const RECT onDevice{corner.x, corner.y, corner.x + rect.right - rect.left, corner.y + rect.bottom - rect.top};
     return paint(dc, &onDevice, brush);
 }
 
@@ -80,14 +83,13 @@ BOOL FillWith(HDC dc, const RECT& rect, HBRUSH brush) { return PaintWith(dc, rec
 
 BOOL FrameWith(HDC dc, const RECT& rect, HBRUSH brush) { return PaintWith(dc, rect, brush, FrameRect); }
 
-void FillSolid(HDC dc, const RECT& rect, COLORREF color) {
-    SetBkColor(dc, color);
+void FillGround(HDC dc, const RECT& rect) {
     if (!IsMirrored(dc)) {
         ExtTextOutW(dc, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
         return;
     }
     // The ground of a text lies one pixel beside the rectangle there.
-    const COLORREF previous = SetDCBrushColor(dc, color);
+    const COLORREF previous = SetDCBrushColor(dc, GetBkColor(dc));
     FillWith(dc, rect, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
     SetDCBrushColor(dc, previous);
 }

@@ -11,6 +11,8 @@ bool KeepsPictures(HDC dc);
 
 /// Where the upper left pixel of a rectangle in the context's co-ordinates lies on its device.
 POINT DeviceCorner(HDC dc, const RECT& rect);
+/// The whole rectangle on its device.
+RECT DeviceRect(HDC dc, const RECT& rect);
 /// Moves the context's origin so that the rectangle's upper left pixel is the device's first one.
 void PutCornerAtOrigin(HDC dc, const RECT& rect);
 
@@ -20,8 +22,8 @@ int CountDevicePixels(HDC dc);
 /// FillRect and FrameRect, in the rectangle's own pixels in every context.
 BOOL FillWith(HDC dc, const RECT& rect, HBRUSH brush);
 BOOL FrameWith(HDC dc, const RECT& rect, HBRUSH brush);
-/// Fills the rectangle and leaves the colour as the background colour.
-void FillSolid(HDC dc, const RECT& rect, COLORREF color);
+/// Fills the rectangle with the context's background colour.
+void FillGround(HDC dc, const RECT& rect);
 
 /// Clips the context to a region in the context's co-ordinates. The system itself takes regions in pixels of the
 /// device. A mirrored context may draw one pixel more on the left of each rectangle: RectVisible asks for places that

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/scoped_change.h"
+
 IMPLEMENT_DYNCREATE(CMFCRibbonComboBox, CMFCRibbonEdit)
 
 namespace {
@@ -114,11 +116,10 @@ void CMFCRibbonComboBox::TakeSelection(int index, const CString& text) {
     const int selected = isSameItem ? index : index < 0 ? -1 : FindItem(text);
     const BOOL changes = selected != m_nSelected;
     m_nSelected = selected;
-    m_bRedrawsFace = TRUE;
+    const fx::ScopedChange<BOOL> face(m_bRedrawsFace, TRUE);
     SetEditText(text);
     if (changes)
         Redraw();
-    m_bRedrawsFace = FALSE;
 }
 
 void CMFCRibbonComboBox::ShowSelectionInCopies() {

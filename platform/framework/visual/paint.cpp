@@ -86,8 +86,8 @@ void PaintBorders(HDC dc, const RECT& rect, const Face& face, const Corners& cor
 
 void PaintSolid(HDC dc, const RECT& rect, Argb color) {
     if (AlphaOf(color) == 255) {
-        const COLORREF previous = GetBkColor(dc);
-        gdi::FillSolid(dc, rect, ToColorRef(color));
+        const COLORREF previous = SetBkColor(dc, ToColorRef(color));
+        gdi::FillGround(dc, rect);
         SetBkColor(dc, previous);
         return;
     }

@@ -2,8 +2,8 @@
 
 #include "afxPane.h"
 #include "afxext.h"
-#include "fx/registered_messages.h"
 #include "core/scoped_change.h"
+#include "fx/registered_messages.h"
 
 IMPLEMENT_DYNCREATE(CFrameWndEx, CFrameWnd)
 
