@@ -15,22 +15,6 @@ class CAccessibilityData;
 
 /// What the three ribbon combos with marks have in common.
 
-/// What such a combo keeps beside the items. Row: the state of one item.
-template <class Row>
-struct MarkedComboState {
-    ItemStates<Row> rows;
-    TypeKeyMap keys;
-    bool usesStaticHeight = false;
-    SynchronisedFlag synchronised;
-
-    /// All that a copy of the element takes over.
-    void CopyFrom(const MarkedComboState& source) {
-        rows = source.rows;
-        keys = source.keys;
-        usesStaticHeight = source.usesStaticHeight;
-    }
-};
-
 /// The elements of the same ribbon bar with the combo's command id; null for one of another class.
 template <class Combo>
 std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
@@ -44,6 +28,81 @@ std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
         found.push_back(DYNAMIC_DOWNCAST(Combo, elements[i]));
     return found;
 }
+
+/// The panel that shows the combo is no longer hot: the open list is.
+void CoolPanelOf(const CMFCRibbonComboBox& combo);
+
+/// What such a combo keeps beside the items, and how its copies get it. Combo: the element's class; State: its nested
+/// class that derives from this and has `Of(combo)`, the pointer that is expired once the combo is gone; Row: the state
+/// of one item. A class with m_nStaticDropDownHeight may use it.
+template <class Combo, class State, class Row>
+struct MarkedComboState {
+    ItemStates<Row> rows;
+    TypeKeyMap keys;
+    bool usesStaticHeight = false;
+    SynchronisedFlag synchronised;
+
+    /// Does to every copy of the combo what was done to it.
+    template <class Operation>
+    static void ChangeCopies(Combo& combo, Operation operation) {
+        SynchroniseCopies(
+            combo, [](Combo& one) -> SynchronisedFlag& { return State::Of(one)->synchronised; },
+            [&combo] { return ElementsWithIdOf(combo); }, operation);
+    }
+
+    static void AddItem(Combo& combo, LPCTSTR text, DWORD_PTR data) {
+        combo.CMFCRibbonComboBox::AddItem(text, data);
+        ChangeCopies(combo, [text, data](Combo& copy) { copy.AddItem(text, data); });
+    }
+    static void RemoveAll(Combo& combo) {
+        const std::weak_ptr<State> life = State::Of(combo);
+        combo.RemoveAllItems(); // closes an open list, of which the host hears
+        if (!life.expired())
+            ChangeCopies(combo, [](Combo& copy) { copy.RemoveAll(); });
+    }
+    /// Takes over all that a copy of `src` has; without states when that is of another class.
+    static void CopyFrom(Combo& combo, const CMFCRibbonBaseElement& src) {
+        const std::weak_ptr<State> life = State::Of(combo);
+        const auto* const source = DYNAMIC_DOWNCAST(Combo, &src);
+        const bool isOther = source && source != &combo;
+        if (isOther)
+            State::Of(combo)->TakeOver(*State::Of(*source));
+        combo.CMFCRibbonComboBox::CopyFrom(src); // closes an open list, of which the host hears
+        if (!life.expired() && isOther)
+            TakeStaticHeight(combo);
+    }
+
+    // ---- the height that the lists of a class share
+
+    static void UseStaticHeight(Combo& combo, bool use) {
+        State::Of(combo)->usesStaticHeight = use;
+        TakeStaticHeight(combo);
+    }
+    static void SetStaticHeight(Combo& combo, int height) {
+        if (!State::Of(combo)->usesStaticHeight)
+            return;
+        Combo::m_nStaticDropDownHeight = height;
+        combo.SetDropDownHeight(height);
+    }
+    /// Before the list opens: that of another combo may have been resized.
+    static void PrepareToDrop(Combo& combo) {
+        CoolPanelOf(combo);
+        TakeStaticHeight(combo);
+    }
+
+private:
+    void TakeOver(const MarkedComboState& source) {
+        rows = source.rows;
+        keys = source.keys;
+        usesStaticHeight = source.usesStaticHeight;
+    }
+    static void TakeStaticHeight(Combo& combo) {
+        if constexpr (requires { Combo::m_nStaticDropDownHeight; }) {
+            if (State::Of(combo)->usesStaticHeight)
+                combo.SetDropDownHeight(Combo::m_nStaticDropDownHeight);
+        }
+    }
+};
 
 inline int CountOf(const CMFCRibbonComboBox& combo) { return static_cast<int>(combo.GetCount()); }
 
@@ -68,8 +127,6 @@ marks::Rect FromRect(const CRect& rect);
 
 /// The list that a combo with marks drops; empty, and not opened yet.
 std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones);
-/// The panel that shows the combo is no longer hot: the open list is.
-void CoolPanelOf(const CMFCRibbonComboBox& combo);
 /// The width that the item's row needs in the list: `marksWidth` and the text as people read it. The list's font is
 /// selected.
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);

@@ -26,13 +26,8 @@ const CSize textMargin(1, 1);
 
 int CMFCRibbonCheckComb::m_nStaticDropDownHeight = initialListHeight;
 
-struct CMFCRibbonCheckComb::State : MarkedComboState<bool> {
-    template <class Operation>
-    static void ChangeCopies(CMFCRibbonCheckComb& combo, Operation operation) {
-        SynchroniseCopies(
-            combo, [](CMFCRibbonCheckComb& one) -> SynchronisedFlag& { return one.m_state->synchronised; },
-            [&combo] { return ElementsWithIdOf(combo); }, operation);
-    }
+struct CMFCRibbonCheckComb::State : MarkedComboState<CMFCRibbonCheckComb, State, bool> {
+    static const std::shared_ptr<State>& Of(const CMFCRibbonCheckComb& combo) { return combo.m_state; }
     /// Within the margins of a row, or of the face's edit area.
     static marks::CheckRow Place(const CMFCRibbonCheckComb& combo, CRect row) {
         row.DeflateRect(combo.m_szMargin);
@@ -66,32 +61,16 @@ CMFCRibbonCheckComb::CMFCRibbonCheckComb(UINT id, BOOL hasEditBox, int width, LP
 
 CMFCRibbonCheckComb::~CMFCRibbonCheckComb() = default;
 
-void CMFCRibbonCheckComb::CopyFrom(const CMFCRibbonBaseElement& src) {
-    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, &src);
-    const bool isOther = source && source != this;
-    if (isOther)
-        m_state->CopyFrom(*source->m_state);
-    const std::weak_ptr<State> life = m_state;
-    CMFCRibbonComboBox::CopyFrom(src); // closes an open list, of which the host hears
-    if (!life.expired() && isOther && m_state->usesStaticHeight)
-        SetDropDownHeight(m_nStaticDropDownHeight);
-}
+void CMFCRibbonCheckComb::CopyFrom(const CMFCRibbonBaseElement& src) { State::CopyFrom(*this, src); }
 
 // ---- items and their checks
 
 INT_PTR CMFCRibbonCheckComb::AddItem(LPCTSTR text, DWORD_PTR data) {
-    CMFCRibbonComboBox::AddItem(text, data);
-    State::ChangeCopies(*this, [text, data](CMFCRibbonCheckComb& copy) { copy.AddItem(text, data); });
+    State::AddItem(*this, text, data);
     return 1;
 }
 
-void CMFCRibbonCheckComb::RemoveAll() {
-    const std::weak_ptr<State> life = m_state;
-    RemoveAllItems(); // closes an open list, of which the host hears
-    if (life.expired())
-        return;
-    State::ChangeCopies(*this, [](CMFCRibbonCheckComb& copy) { copy.RemoveAll(); });
-}
+void CMFCRibbonCheckComb::RemoveAll() { State::RemoveAll(*this); }
 
 bool CMFCRibbonCheckComb::SetItemCheck(int index, bool check) {
     if (!m_state->rows.Set(index, CountOf(*this), check))
@@ -110,25 +89,14 @@ std::wstring CMFCRibbonCheckComb::findTypeKeyNameByIndex(int index) const { retu
 
 // ---- the list
 
-void CMFCRibbonCheckComb::UserStaticDropDownHeight(bool use) {
-    m_state->usesStaticHeight = use;
-    if (use)
-        SetDropDownHeight(m_nStaticDropDownHeight);
-}
+void CMFCRibbonCheckComb::UserStaticDropDownHeight(bool use) { State::UseStaticHeight(*this, use); }
 
-void CMFCRibbonCheckComb::SetStaticDropDownHeight(int height) {
-    if (!m_state->usesStaticHeight)
-        return;
-    m_nStaticDropDownHeight = height;
-    SetDropDownHeight(height);
-}
+void CMFCRibbonCheckComb::SetStaticDropDownHeight(int height) { State::SetStaticHeight(*this, height); }
 
 void CMFCRibbonCheckComb::DropDownList() {
     if (!BeginDropDown())
         return;
-    CoolPanelOf(*this);
-    if (m_state->usesStaticHeight) // the list of another combo may have been resized since
-        SetDropDownHeight(m_nStaticDropDownHeight);
+    State::PrepareToDrop(*this);
     OpenDropDown(m_rect.Width());
 }
 

@@ -13,13 +13,8 @@ namespace {
 constexpr int lightZone = 0;
 } // namespace
 
-struct CMFCRibbonVesMultiCombo::State : MarkedComboState<bool> {
-    template <class Operation>
-    static void ChangeCopies(CMFCRibbonVesMultiCombo& combo, Operation operation) {
-        SynchroniseCopies(
-            combo, [](CMFCRibbonVesMultiCombo& one) -> SynchronisedFlag& { return one.m_state->synchronised; },
-            [&combo] { return ElementsWithIdOf(combo); }, operation);
-    }
+struct CMFCRibbonVesMultiCombo::State : MarkedComboState<CMFCRibbonVesMultiCombo, State, bool> {
+    static const std::shared_ptr<State>& Of(const CMFCRibbonVesMultiCombo& combo) { return combo.m_state; }
     void DrawItem(const CMFCRibbonVesMultiCombo& combo, CDC& dc, int index, const CRect& row) const {
         const marks::LightRow place = marks::PlaceLightRow(FromRect(row), MarkSizes::Current().icon);
         DrawLight(dc, place.light, rows.GetOrEmpty(index) ? LightState::On : LightState::Off);
@@ -35,28 +30,16 @@ CMFCRibbonVesMultiCombo::CMFCRibbonVesMultiCombo(UINT id, BOOL hasEditBox, int w
 
 CMFCRibbonVesMultiCombo::~CMFCRibbonVesMultiCombo() = default;
 
-void CMFCRibbonVesMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) {
-    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonVesMultiCombo, &src);
-    if (source && source != this)
-        m_state->CopyFrom(*source->m_state);
-    CMFCRibbonComboBox::CopyFrom(src); // closes an open list: the host hears of it, and may delete this
-}
+void CMFCRibbonVesMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) { State::CopyFrom(*this, src); }
 
 // ---- items and their lights
 
 INT_PTR CMFCRibbonVesMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
-    CMFCRibbonComboBox::AddItem(text, data);
-    State::ChangeCopies(*this, [text, data](CMFCRibbonVesMultiCombo& copy) { copy.AddItem(text, data); });
+    State::AddItem(*this, text, data);
     return 1;
 }
 
-void CMFCRibbonVesMultiCombo::RemoveAll() {
-    const std::weak_ptr<State> life = m_state;
-    RemoveAllItems(); // closes an open list, of which the host hears
-    if (life.expired())
-        return;
-    State::ChangeCopies(*this, [](CMFCRibbonVesMultiCombo& copy) { copy.RemoveAll(); });
-}
+void CMFCRibbonVesMultiCombo::RemoveAll() { State::RemoveAll(*this); }
 
 bool CMFCRibbonVesMultiCombo::SetItemLight(int index, bool light, bool redraw) {
     if (!m_state->rows.Set(index, CountOf(*this), light))
@@ -86,7 +69,7 @@ std::wstring CMFCRibbonVesMultiCombo::findTypeKeyNameByIndex(int index) const { 
 void CMFCRibbonVesMultiCombo::DropDownList() {
     if (!BeginDropDown())
         return;
-    CoolPanelOf(*this);
+    State::PrepareToDrop(*this);
     OpenDropDown(m_rect.Width());
 }
 
@@ -101,8 +84,13 @@ bool CMFCRibbonVesMultiCombo::NotifyChangeData(int index, int zone, bool /*exclu
     if (!host || zone != lightZone)
         return false;
     const bool light = !m_state->rows.GetOrEmpty(index);
-    SelectRow(*this, index);
+    const bool isHeard = index == GetACCCurrentRow(); // of the light, before the item is selected
     SetItemLight(index, light, true);
+    SelectRow(*this, index);
+    if (isHeard)
+        RedrawItem(index);
+    else
+        ShowMarkChange(*this, index);
     TellHost(host, WM_VESCOMBO_LIGHT_CHANGED, TextOf(*this, index), light ? 1 : 0);
     return true;
 }

@@ -23,13 +23,8 @@ constexpr int actionZone = 2;
 
 int CMFCRibbonMultiCombo::m_nStaticDropDownHeight = initialListHeight;
 
-struct CMFCRibbonMultiCombo::State : MarkedComboState<rowInfo> {
-    template <class Operation>
-    static void ChangeCopies(CMFCRibbonMultiCombo& combo, Operation operation) {
-        SynchroniseCopies(
-            combo, [](CMFCRibbonMultiCombo& one) -> SynchronisedFlag& { return one.m_state->synchronised; },
-            [&combo] { return ElementsWithIdOf(combo); }, operation);
-    }
+struct CMFCRibbonMultiCombo::State : MarkedComboState<CMFCRibbonMultiCombo, State, rowInfo> {
+    static const std::shared_ptr<State>& Of(const CMFCRibbonMultiCombo& combo) { return combo.m_state; }
     void DrawItem(const CMFCRibbonMultiCombo& combo, CDC& dc, int index, const CRect& row) const {
         const rowInfo info = rows.GetOrEmpty(index);
         const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(row), ScaledIconSize());
@@ -60,32 +55,16 @@ CMFCRibbonMultiCombo::CMFCRibbonMultiCombo(UINT id, BOOL hasEditBox, int width, 
 
 CMFCRibbonMultiCombo::~CMFCRibbonMultiCombo() = default;
 
-void CMFCRibbonMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) {
-    const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonMultiCombo, &src);
-    const bool isOther = source && source != this;
-    if (isOther)
-        m_state->CopyFrom(*source->m_state);
-    const std::weak_ptr<State> life = m_state;
-    CMFCRibbonComboBox::CopyFrom(src); // closes an open list, of which the host hears
-    if (!life.expired() && isOther && m_state->usesStaticHeight)
-        SetDropDownHeight(m_nStaticDropDownHeight);
-}
+void CMFCRibbonMultiCombo::CopyFrom(const CMFCRibbonBaseElement& src) { State::CopyFrom(*this, src); }
 
 // ---- items and their states
 
 INT_PTR CMFCRibbonMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
-    CMFCRibbonComboBox::AddItem(text, data);
-    State::ChangeCopies(*this, [text, data](CMFCRibbonMultiCombo& copy) { copy.AddItem(text, data); });
+    State::AddItem(*this, text, data);
     return 1;
 }
 
-void CMFCRibbonMultiCombo::RemoveAll() {
-    const std::weak_ptr<State> life = m_state;
-    RemoveAllItems(); // closes an open list, of which the host hears
-    if (life.expired())
-        return;
-    State::ChangeCopies(*this, [](CMFCRibbonMultiCombo& copy) { copy.RemoveAll(); });
-}
+void CMFCRibbonMultiCombo::RemoveAll() { State::RemoveAll(*this); }
 
 bool CMFCRibbonMultiCombo::SetItemClr(int index, const COLORREF& clr, bool redraw) {
     if (!m_state->rows.Modify(index, CountOf(*this), [clr](rowInfo& info) { info.clr = clr; }))
@@ -154,25 +133,14 @@ std::wstring CMFCRibbonMultiCombo::findTypeKeyNameByIndex(int index) const { ret
 
 // ---- the list
 
-void CMFCRibbonMultiCombo::UserStaticDropDownHeight(bool use) {
-    m_state->usesStaticHeight = use;
-    if (use)
-        SetDropDownHeight(m_nStaticDropDownHeight);
-}
+void CMFCRibbonMultiCombo::UserStaticDropDownHeight(bool use) { State::UseStaticHeight(*this, use); }
 
-void CMFCRibbonMultiCombo::SetStaticDropDownHeight(int height) {
-    if (!m_state->usesStaticHeight)
-        return;
-    m_nStaticDropDownHeight = height;
-    SetDropDownHeight(height);
-}
+void CMFCRibbonMultiCombo::SetStaticDropDownHeight(int height) { State::SetStaticHeight(*this, height); }
 
 void CMFCRibbonMultiCombo::DropDownList() {
     if (!BeginDropDown())
         return;
-    CoolPanelOf(*this);
-    if (m_state->usesStaticHeight) // the list of another combo may have been resized since
-        SetDropDownHeight(m_nStaticDropDownHeight);
+    State::PrepareToDrop(*this);
     OpenDropDown(m_rect.Width());
 }
 
