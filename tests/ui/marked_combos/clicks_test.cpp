@@ -129,6 +129,35 @@ TEST_F(ListClicks, ADoubleClickBelowTheLastRowUnchecksAll) {
         << "neither of the two releases counts";
 }
 
+TEST_F(ListClicks, ADoubleClickOnABoxOfAScrolledListSetsAllToTheOppositeOfThatOne) {
+    auto& combo = Add<CMFCRibbonCheckComb>(comboId, 0);
+    constexpr int count = 300;
+    for (int i = 0; i < count; ++i)
+        combo.AddItem(std::to_wstring(i).c_str());
+    combo.SetItemCheck(210, true);
+    Open(combo);
+    const auto allAre = [&](bool wanted) {
+        const std::string checks = ChecksOf(combo);
+        return std::ranges::all_of(checks, [wanted](char one) { return one == (wanted ? '1' : '0'); });
+    };
+    for (const int row : {200, 210}) {
+        Rows()->SetHotRow(row + 1);
+        PumpPending();
+        ASSERT_LE(Rows()->GetRowRect(0).bottom, 0) << "scrolled";
+        TakeTold();
+        DoubleClickRow(row, 8);
+        ASSERT_NE(Rows(), nullptr);
+        const std::string text = std::to_string(row);
+        const bool isChecked = row == 200; // the second double click unchecks all
+        EXPECT_TRUE(allAre(isChecked)) << row;
+        const Told told = TakeTold();
+        ASSERT_EQ(told.size(), 2u + count - 1);
+        EXPECT_EQ(told.front(), "sent CHECK '" + text + (isChecked ? "' 1" : "' 0"));
+        EXPECT_EQ(told[1], std::string("sent CHECK '0' ") + (isChecked ? "3" : "4"));
+        EXPECT_EQ(told.back(), told.front());
+    }
+}
+
 TEST_F(ListClicks, ADoubleClickBelowTheLastRowBesideTheZoneDoesNothing) {
     auto& combo = Add<CMFCRibbonCheckComb>();
     Open(combo);

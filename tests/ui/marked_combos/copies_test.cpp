@@ -56,6 +56,42 @@ TEST_F(Copies, TheQuickAccessToolbarsCopyHasItemsAndStates) {
     EXPECT_EQ(ChecksOf(AddToQuickAccess<CMFCRibbonCheckComb>(comboId + 1)), "?1?");
 }
 
+TEST_F(Copies, TheQuickAccessToolbarsCopyHasSelectionHeightAndSettings) {
+    auto& combo = Add<CMFCRibbonVesMultiCombo>(comboId + 1, 2);
+    combo.AddItem(L"three", 77);
+    combo.SelectItem(1);
+    combo.SetDropDownHeight(123);
+    combo.EnableDropDownListResize(TRUE);
+    auto& quick = AddToQuickAccess<CMFCRibbonVesMultiCombo>(comboId + 1);
+    EXPECT_EQ(quick.GetCurSel(), 1);
+    EXPECT_EQ(quick.GetEditText(), L"two");
+    EXPECT_EQ(quick.GetDropDownHeight(), 123);
+    EXPECT_TRUE(quick.IsResizeDropDownList());
+    EXPECT_EQ(quick.GetItemData(2), 77u);
+}
+
+TEST_F(Copies, TheQuickAccessToolbarsCopyOfAComboWithTheStaticHeightDropsInThat) {
+    auto& combo = Add<CMFCRibbonCheckComb>(comboId + 1, 0);
+    for (int i = 0; i < 200; ++i)
+        combo.AddItem(L"item");
+    combo.UserStaticDropDownHeight(true);
+    combo.SetStaticDropDownHeight(250);
+    auto& quick = AddToQuickAccess<CMFCRibbonCheckComb>(comboId + 1);
+    EXPECT_EQ(quick.GetDropDownHeight(), 250);
+    Open(quick);
+    CRect list;
+    CMFCPopupMenu::GetActiveMenu()->GetWindowRect(&list);
+    EXPECT_LE(list.Height(), 250);
+    EXPECT_GT(list.Height(), 250 - afxGlobalData.GetTextHeight());
+}
+
+TEST_F(Copies, ASelectionMadeLaterIsSeenOnTheQuickAccessToolbar) {
+    m_panel->SelectItem(2);
+    EXPECT_EQ(m_quick->GetCurSel(), 2);
+    m_quick->SelectItem(0);
+    EXPECT_EQ(m_panel->GetCurSel(), 0);
+}
+
 TEST_F(Copies, AColourSetOnAnyOneIsSetOnAll) {
     int index = 0;
     for (CMFCRibbonMultiCombo* const one : All()) {

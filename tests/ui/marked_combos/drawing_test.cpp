@@ -182,6 +182,67 @@ TEST_F(ComboDrawing, TheTextBeginsThreePixelsBehindTheMarks) {
     }
 }
 
+TEST_F(ComboDrawing, TheTextOfARowBeginsThreePixelsBehindTheMarks) {
+    struct Case {
+        CMFCRibbonComboBox& combo;
+        int textLeft;
+    };
+    const Case cases[] = {{Add<CMFCRibbonCheckComb>(comboId, 0), 20},
+                          {Add<CMFCRibbonMultiCombo>(comboId + 1, 0), 35},
+                          {Add<CMFCRibbonVesMultiCombo>(comboId + 2, 0), 19}};
+    for (const Case& one : cases) {
+        one.combo.AddItem(L"");
+        one.combo.AddItem(L"\x2588\x2588"); // full blocks
+        Open(one.combo);
+        Rows()->SetHotRow(-1);
+        const ComboPicture list = List();
+        const CRect empty = Rows()->GetRowRect(0);
+        const int height = empty.Height();
+        // The rows differ by the text alone.
+        int first = -1;
+        for (int x = 0; x < empty.right && first < 0; ++x) {
+            for (int y = 0; y < height && first < 0; ++y) {
+                if (list.At(x, y) != list.At(x, y + height))
+                    first = x;
+            }
+        }
+        EXPECT_GE(first, one.textLeft);
+        EXPECT_LE(first, one.textLeft + 2);
+        CMFCPopupMenu::CloseAll();
+    }
+}
+
+TEST_F(ComboDrawing, AScaledCheckBoxIsDrawnInItsSizeOnFaceAndInRow) {
+    struct Case {
+        double scale;
+        int side;
+    };
+    for (const Case& one : {Case{1.5, 23}, Case{2.0, 30}}) {
+        SCOPED_TRACE(one.scale);
+        SetScale(one.scale);
+        MarkSizes::Current() = MarkSizes();
+        const CMFCRibbonCheckComb madeByName; // scales the box
+        auto& combo = Add<CMFCRibbonCheckComb>();
+        combo.SelectItem(1);
+        const auto expectBox = [&](const CRect& changed, const CRect& area) {
+            const int top = (area.top + area.bottom) / 2 - one.side / 2;
+            const CRect box(area.left + 2, top, area.left + 2 + one.side, top + one.side);
+            EXPECT_TRUE(Contains(box, changed)) << Text(changed) << " in " << Text(box);
+            EXPECT_GE(changed.Width(), one.side / 2) << "the mark is scaled";
+        };
+        const ComboPicture without = Face(combo);
+        combo.SetItemCheck(1, true);
+        expectBox(Face(combo).DifferenceTo(without), InFace(combo, combo.GetEditRect()));
+
+        Open(combo);
+        Rows()->SetHotRow(-1);
+        const ComboPicture listWithout = List();
+        combo.SetItemCheck(2, true);
+        expectBox(List().DifferenceTo(listWithout), Rows()->GetRowRect(2));
+        CMFCPopupMenu::CloseAll();
+    }
+}
+
 TEST_F(ComboDrawing, ARowHasNoLineTowardsTheNext) {
     auto& combo = Add<CMFCRibbonCheckComb>(comboId, 0);
     combo.AddItem(L"");
@@ -196,9 +257,15 @@ TEST_F(ComboDrawing, ARowHasNoLineTowardsTheNext) {
 
 TEST_F(ComboDrawing, TextsAreTranslatedWhenTheyAreDrawnAndToldAsTheyWereGiven) {
     const TranslatedInstallation installation;
-    for (const bool isCheck : {true, false}) {
-        CMFCRibbonComboBox& combo = isCheck ? static_cast<CMFCRibbonComboBox&>(Add<CMFCRibbonCheckComb>(comboId, 0))
-                                            : Add<CMFCRibbonMultiCombo>(comboId + 1, 0);
+    struct Case {
+        CMFCRibbonComboBox& combo;
+        int markAt;
+        const char* told;
+    };
+    const Case cases[] = {{Add<CMFCRibbonCheckComb>(comboId, 0), 8, "sent CHECK 'two' 1"},
+                          {Add<CMFCRibbonMultiCombo>(comboId + 1, 0), 25, "sent LIGHT 'two' 1"},
+                          {Add<CMFCRibbonVesMultiCombo>(comboId + 2, 0), 8, "sent LIGHT-ONLY 'two' 1"}};
+    for (const auto& [combo, markAt, told] : cases) {
         for (const wchar_t* const text : {L"two", L"<two>"})
             combo.AddItem(text);
         combo.SelectItem(1);
@@ -216,8 +283,8 @@ TEST_F(ComboDrawing, TextsAreTranslatedWhenTheyAreDrawnAndToldAsTheyWereGiven) {
             for (int x = 0; x < first.right; ++x)
                 ASSERT_EQ(list.At(x, y), list.At(x, y + first.Height())) << "both rows read alike";
         }
-        ClickRow(0, isCheck ? 8 : 25);
-        EXPECT_EQ(TakeTold(), Told{isCheck ? "sent CHECK 'two' 1" : "sent LIGHT 'two' 1"});
+        ClickRow(0, markAt);
+        EXPECT_EQ(TakeTold(), Told{told});
         CMFCPopupMenu::CloseAll();
         CMultiLanguageMgr::SetLanguage(L"");
     }

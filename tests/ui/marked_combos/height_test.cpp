@@ -9,7 +9,29 @@ TEST_F(RibbonCombos, TheStaticHeightsAreFiveHundredAndSixtyAtFirst) {
 }
 
 template <class Combo>
-class StaticHeight : public RibbonCombos {};
+class StaticHeight : public RibbonCombos {
+protected:
+    /// A press at the point of the screen, a move by so many pixels, a release.
+    void DragVertically(CPoint from, int by) {
+        m_pointer.MoveTo(from);
+        m_pointer.Press();
+        m_pointer.MoveTo(CPoint(from.x, from.y + by));
+        m_pointer.Release();
+    }
+    /// So far that there is no room below the combo.
+    void MoveFrameDown(const CMFCRibbonComboBox& combo) {
+        MONITORINFO monitor{};
+        monitor.cbSize = sizeof(monitor);
+        ::GetMonitorInfo(::MonitorFromWindow(m_host.BarWindow(), MONITOR_DEFAULTTOPRIMARY), &monitor);
+        CRect edit = combo.GetEditRect();
+        m_host.Bar().ClientToScreen(&edit);
+        CRect frame;
+        m_host.Frame().GetWindowRect(&frame);
+        m_host.Frame().SetWindowPos(nullptr, frame.left, frame.top + monitor.rcWork.bottom - edit.bottom - 20, 0, 0,
+                                    SWP_NOSIZE | SWP_NOZORDER);
+        PumpPending();
+    }
+};
 using WithHeight = testing::Types<CMFCRibbonCheckComb, CMFCRibbonMultiCombo>;
 TYPED_TEST_SUITE(StaticHeight, WithHeight);
 
@@ -104,6 +126,48 @@ TYPED_TEST(StaticHeight, AUsersResizeOfOneListIsTheNextHeightOfAllThatUseIt) {
     ResizeOpenList(250);
     EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 300) << "one that does not use it";
     EXPECT_EQ(alone.GetDropDownHeight(), 200);
+}
+
+TYPED_TEST(StaticHeight, IsSetByADragOfTheListsGrip) {
+    auto& combo = this->template Add<TypeParam>(comboId, 0);
+    for (int i = 0; i < 200; ++i)
+        combo.AddItem(L"item");
+    combo.EnableDropDownListResize(TRUE);
+    combo.UserStaticDropDownHeight(true);
+    combo.SetStaticDropDownHeight(300);
+    this->Open(combo);
+    CRect before;
+    CMFCPopupMenu::GetActiveMenu()->GetWindowRect(&before);
+    this->DragVertically(CPoint(before.CenterPoint().x, before.bottom - 4), 60);
+    CRect after;
+    CMFCPopupMenu::GetActiveMenu()->GetWindowRect(&after);
+    EXPECT_EQ(after, CRect(before.left, before.top, before.right, before.bottom + 60));
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, after.Height());
+    EXPECT_EQ(combo.GetDropDownHeight(), after.Height());
+    CMFCPopupMenu::CloseAll();
+    this->Open(combo);
+    EXPECT_LE(HeightOfOpenList(), after.Height());
+    EXPECT_GT(HeightOfOpenList(), after.Height() - afxGlobalData.GetTextHeight());
+}
+
+TYPED_TEST(StaticHeight, IsSetByADragOfTheGripOfAListThatOpensUpwards) {
+    auto& combo = this->template Add<TypeParam>(comboId, 0);
+    for (int i = 0; i < 200; ++i)
+        combo.AddItem(L"item");
+    combo.EnableDropDownListResize(TRUE);
+    combo.UserStaticDropDownHeight(true);
+    combo.SetStaticDropDownHeight(300);
+    this->MoveFrameDown(combo);
+    this->Open(combo);
+    CMFCPopupMenu* const list = CMFCPopupMenu::GetActiveMenu();
+    ASSERT_EQ(list->GetDropDirection(), CMFCPopupMenu::DROP_DIRECTION_TOP);
+    CRect before;
+    list->GetWindowRect(&before);
+    this->DragVertically(CPoint(before.CenterPoint().x, before.top + 4), -40);
+    CRect after;
+    list->GetWindowRect(&after);
+    EXPECT_EQ(after, CRect(before.left, before.top - 40, before.right, before.bottom)) << "at the combo it stays";
+    EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, after.Height());
 }
 
 TYPED_TEST(StaticHeight, AListOfFewItemsThatIsLowerLeavesItAlone) {

@@ -85,6 +85,49 @@ TEST_F(MarkKeys, ShiftChangesNothingWhereThereIsNoSwatch) {
     EXPECT_NE(Rows(), nullptr);
 }
 
+template <class Combo>
+class EveryKey : public MarkKeys {};
+using AnyCombo = testing::Types<CMFCRibbonCheckComb, CMFCRibbonMultiCombo, CMFCRibbonVesMultiCombo>;
+TYPED_TEST_SUITE(EveryKey, AnyCombo);
+
+TYPED_TEST(EveryKey, EnterChoosesTheHotRowClosesTheListAndSwitchesNothing) {
+    TypeParam& combo = this->template Add<TypeParam>();
+    combo.SelectItem(0);
+    this->Open(combo);
+    this->Key(VK_DOWN);
+    this->Key(VK_DOWN);
+    this->Key(VK_RETURN);
+    EXPECT_EQ(this->Rows(), nullptr);
+    EXPECT_EQ(combo.GetCurSel(), 2);
+    EXPECT_EQ(this->TakeTold(), Told{"sent COMMAND 700"});
+    if constexpr (std::is_same_v<TypeParam, CMFCRibbonCheckComb>)
+        EXPECT_EQ(this->ChecksOf(combo), "???");
+    else
+        EXPECT_EQ(this->LightsOf(combo), "???");
+}
+
+TYPED_TEST(EveryKey, EscapeClosesTheListAndLeavesSelectionAndMarksAlone) {
+    TypeParam& combo = this->template Add<TypeParam>();
+    combo.SelectItem(0);
+    this->Answer(1);
+    this->Open(combo);
+    this->Key(VK_DOWN);
+    this->Key(VK_SPACE);
+    const std::string kept = std::is_same_v<TypeParam, CMFCRibbonCheckComb>    ? "sent CHECK 'two' 1"
+                             : std::is_same_v<TypeParam, CMFCRibbonMultiCombo> ? "sent LIGHT 'two' 1"
+                                                                               : "sent LIGHT-ONLY 'two' 1";
+    EXPECT_EQ(this->TakeTold(), Told{kept});
+    this->Key(VK_DOWN);
+    this->Key(VK_ESCAPE);
+    EXPECT_EQ(this->Rows(), nullptr);
+    EXPECT_EQ(this->TakeTold(), Told{});
+    EXPECT_EQ(combo.GetCurSel(), 1) << "the row whose mark was switched, not the hot one";
+    if constexpr (std::is_same_v<TypeParam, CMFCRibbonCheckComb>)
+        EXPECT_EQ(this->ChecksOf(combo), "?1?") << "what was switched stays so";
+    else
+        EXPECT_EQ(this->LightsOf(combo), "?1?") << "what was switched stays so";
+}
+
 TEST_F(MarkKeys, WithoutAHotRowNoKeyAsksForAColour) {
     auto& combo = Add<CMFCRibbonMultiCombo>();
     Open(combo);

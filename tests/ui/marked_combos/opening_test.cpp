@@ -46,6 +46,31 @@ TYPED_TEST(Opening, WithoutMemoryForTheListNothingOpensAndNothingIsTold) {
     EXPECT_EQ(this->Rows()->GetRowCount(), 3);
 }
 
+TYPED_TEST(Opening, TheElementIsToldOnceBeforeItsListIsThere) {
+    class Told : public TypeParam {
+    public:
+        using TypeParam::TypeParam;
+        void OnShowPopupMenu() override {
+            ++shown;
+            wasOpen = wasOpen || this->IsDroppedDown();
+            TypeParam::OnShowPopupMenu();
+        }
+        int shown = 0;
+        bool wasOpen = false;
+    };
+    auto& combo = this->template Add<Told>();
+    this->Open(combo);
+    EXPECT_EQ(combo.shown, 1);
+    EXPECT_FALSE(combo.wasOpen);
+    CMFCPopupMenu::CloseAll();
+    combo.DropDownList();
+    EXPECT_EQ(combo.shown, 2);
+    CMFCPopupMenu::CloseAll();
+    combo.SetDisabled(TRUE);
+    combo.DropDownList();
+    EXPECT_EQ(combo.shown, 2) << "nothing opens";
+}
+
 TYPED_TEST(Opening, AHiddenEditWindowOpensNothing) {
     auto& combo = this->m_host.Add(std::make_unique<TypeParam>(comboId, TRUE, 120));
     combo.AddItem(L"one");
