@@ -131,12 +131,12 @@ void CMFCRibbonSliderSync::OnMouseMove(CPoint point) {
     ChangePos(GetPosFromPoint(point));
 }
 
-// A press that was taken back ends on no part at all.
+// A press beside the parts moves the thumb to that end; one that was taken back ends on another part than its own.
 void CMFCRibbonSliderSync::OnLButtonUp(CPoint point) {
     const RibbonSliderPart pressed = std::exchange(m_PressedPart, RibbonSliderPart::None);
     m_bIsPressed = FALSE;
     Redraw();
-    if (IsDisabled() || pressed == RibbonSliderPart::None || GetPartFromPoint(point) != pressed)
+    if (IsDisabled() || !m_rect.PtInRect(point) || GetPartFromPoint(point) != pressed)
         return;
     if (pressed == RibbonSliderPart::Increase)
         TakePos(GetPosAfter(GetZoomIncrement()));
@@ -146,13 +146,13 @@ void CMFCRibbonSliderSync::OnLButtonUp(CPoint point) {
         TakePos(GetPosFromPoint(point));
 }
 
-// The pointer may leave a held button and come back.
+// A held button goes on wherever the pointer is.
 BOOL CMFCRibbonSliderSync::OnAutoRepeat() {
     if (IsDisabled())
         return FALSE;
-    if (m_HotPart == m_PressedPart && m_PressedPart == RibbonSliderPart::Increase)
+    if (m_PressedPart == RibbonSliderPart::Increase)
         TakePos(GetPosAfter(GetZoomIncrement()));
-    else if (m_HotPart == m_PressedPart && m_PressedPart == RibbonSliderPart::Decrease)
+    else if (m_PressedPart == RibbonSliderPart::Decrease)
         TakePos(GetPosAfter(-static_cast<long long>(GetZoomIncrement())));
     return TRUE;
 }

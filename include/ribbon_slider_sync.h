@@ -21,8 +21,8 @@ public:
 
     /// Moves the root and every slider linked to it; their tooltips follow. No command is sent.
     void SetPosSync(int pos, int redraw);
-    /// Brings this slider's position to all the others and sends the root's command. The command's handler may delete
-    /// this slider.
+    /// Brings this slider's position to all the others and sends the root's command, to the owner of the root's bar;
+    /// to nobody when the root is in no bar or disabled. The command's handler may delete this slider.
     void NotifyCommandSync();
     void setTooltipFromPos();
 

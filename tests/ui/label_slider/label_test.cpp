@@ -241,13 +241,6 @@ TEST_F(LabelEx, AMultiLineLabelIsASingleLineInAMenu) {
     EXPECT_LE(LastRow(pureRed) - FirstRow(pureRed), afxGlobalData.GetTextHeight());
 }
 
-TEST_F(LabelEx, AnAmpersandIsACharacterLikeAnother) {
-    CMFCRibbonLabelEx label(L"&&&&");
-    label.SetTextColor(RGB(255, 0, 0));
-    Draw(label);
-    EXPECT_GE(FirstColumn(pureRed), 0);
-}
-
 TEST_F(LabelEx, TheTextIsTranslatedAtEveryPaintAndMeasuredSo) {
     const TranslatedInstallation installation;
     CMFCRibbonLabelEx label(L"I");

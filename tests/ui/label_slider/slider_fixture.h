@@ -17,6 +17,7 @@ constexpr UINT sliderId = 500;
 class OpenSlider : public CMFCRibbonSliderSync {
 public:
     using CMFCRibbonSliderSync::CMFCRibbonSliderSync;
+    using CMFCRibbonSliderSync::GetPartFromPoint;
     CPoint ThumbCenter() const { return GetThumbRect().CenterPoint(); }
     CPoint CenterOf(RibbonSliderPart part) const {
         const CPoint middle = m_rect.CenterPoint();

@@ -88,20 +88,54 @@ TEST_F(SliderInput, AReleaseAfterRepeatsIsOneMoreStep) {
     EXPECT_EQ(Commands(), 3);
 }
 
-TEST_F(SliderInput, AHeldButtonWaitsWhileThePointerHasLeftIt) {
+TEST_F(SliderInput, AHeldButtonGoesOnThoughThePointerHasLeftIt) {
     const CPoint button = m_copy->CenterOf(RibbonSliderPart::Decrease);
     m_copy->SetPosSync(20, TRUE);
-    m_copy->OnMouseMove(button);
     m_copy->Press(button);
     EXPECT_TRUE(m_copy->OnAutoRepeat());
     m_copy->OnMouseMove(m_copy->PointOf(30));
-    EXPECT_TRUE(m_copy->OnAutoRepeat()) << "it may come back";
     ExpectAllAt(15);
-    EXPECT_EQ(Commands(), 1);
-    m_copy->OnMouseMove(button);
     EXPECT_TRUE(m_copy->OnAutoRepeat());
     ExpectAllAt(10);
     EXPECT_EQ(Commands(), 2);
+    m_copy->OnLButtonUp(m_copy->PointOf(30));
+    ExpectAllAt(10);
+    EXPECT_EQ(Commands(), 2) << "let go on another part";
+    EXPECT_TRUE(m_copy->OnAutoRepeat());
+    ExpectAllAt(10);
+}
+
+TEST_F(SliderInput, AReleaseOfTheThumbTakesThePositionUnderThePoint) {
+    OpenSlider& narrow = m_host.Add(MakeSlider(sliderId, 120)); // few pixels for a position
+    narrow.SetOriginal(m_root);
+    narrow.SetPosSync(10, TRUE);
+    narrow.Press(narrow.ThumbCenter());
+    const CPoint other = narrow.PointOf(11);
+    ASSERT_EQ(narrow.GetPartFromPoint(other), RibbonSliderPart::Thumb) << "still on the thumb";
+    narrow.OnLButtonUp(other);
+    ExpectAllAt(11);
+    EXPECT_EQ(Commands(), 1);
+}
+
+TEST_F(SliderInput, APressAndReleaseBesideThePartsMovesToThatEnd) {
+    const CRect rect = m_copy->GetRect();
+    struct Case {
+        CPoint point;
+        int pos;
+    };
+    for (const Case& one :
+         {Case{CPoint(rect.left, rect.CenterPoint().y), 0}, Case{CPoint(rect.right - 1, rect.CenterPoint().y), 40}}) {
+        m_copy->SetPosSync(20, TRUE);
+        ASSERT_EQ(m_copy->GetPartFromPoint(one.point), RibbonSliderPart::None);
+        m_copy->Press(one.point);
+        m_copy->OnLButtonUp(one.point);
+        ExpectAllAt(one.pos);
+    }
+    EXPECT_EQ(Commands(), 2);
+    m_copy->Press(CPoint(rect.left, rect.CenterPoint().y));
+    m_copy->OnLButtonUp(CPoint(rect.left - 1, rect.CenterPoint().y));
+    ExpectAllAt(40);
+    EXPECT_EQ(Commands(), 2) << "let go outside of the slider";
 }
 
 TEST_F(SliderInput, LeftAndRightMeanWhatIsSeenInAMirroredWindow) {

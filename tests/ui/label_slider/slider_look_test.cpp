@@ -30,25 +30,33 @@ public:
     }
 };
 
-class SliderLook : public testing::TestWithParam<Style> {
+struct Look {
+    Style style;
+    double scale;
+};
+
+class SliderLook : public testing::TestWithParam<Look> {
 protected:
     SliderLook() {
-        CMFCVisualManagerOffice2007::SetStyle(GetParam());
+        CMFCVisualManagerOffice2007::SetStyle(GetParam().style);
         CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
         m_slider.SetZoomButtons();
         m_slider.SetRange(0, 40);
         m_slider.SetPos(20);
-        m_slider.SetRect(CRect(10, 10, 190, 34));
     }
     ~SliderLook() override {
         CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManager));
         CMFCVisualManagerOffice2007::CleanStyle();
         afxGlobalData.SetRibbonImageScale(0);
     }
-    void SetUp() override { ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.0)); }
+    void SetUp() override {
+        ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(GetParam().scale));
+        m_slider.SetRect(CRect(Scaled(10), Scaled(10), Scaled(190), Scaled(34)));
+    }
+    static int Scaled(int length) { return static_cast<int>(length * GetParam().scale); }
 
     std::unique_ptr<Canvas> Draw() {
-        auto canvas = std::make_unique<Canvas>(CSize(200, 44));
+        auto canvas = std::make_unique<Canvas>(CSize(Scaled(200), Scaled(44)));
         m_slider.OnDraw(canvas->Dc());
         return canvas;
     }
@@ -61,7 +69,22 @@ protected:
         }
         return true;
     }
-    static bool IsSame(const Canvas& one, const Canvas& other) { return IsSame(one, other, CRect(0, 0, 200, 44)); }
+    static bool IsSame(const Canvas& one, const Canvas& other) {
+        return IsSame(one, other, CRect(CPoint(), one.Size()));
+    }
+    /// How much of the part differs from the background: its drawn width and height.
+    static CSize DrawnIn(const Canvas& canvas, const CRect& place) {
+        CRect drawn(place.right, place.bottom, place.left, place.top);
+        for (int y = place.top; y < place.bottom; ++y) {
+            for (int x = place.left; x < place.right; ++x) {
+                if (canvas.At(x, y) == Canvas::background)
+                    continue;
+                drawn = CRect(std::min<LONG>(drawn.left, x), std::min<LONG>(drawn.top, y),
+                              std::max<LONG>(drawn.right, x + 1), std::max<LONG>(drawn.bottom, y + 1));
+            }
+        }
+        return drawn.Size();
+    }
     CRect Part(RibbonSliderPart part) const {
         return part == RibbonSliderPart::Thumb ? m_slider.GetThumbRect() : m_slider.ButtonAt(part);
     }
@@ -110,7 +133,31 @@ TEST_P(SliderLook, ADisabledSliderShowsNoPartHot) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Skins, SliderLook, testing::Values(Style::Office2007_ObsidianBlack, Style::Office2007_Silver),
-                         [](const auto& info) { return info.param == Style::Office2007_Silver ? "Silver" : "Black"; });
+TEST_P(SliderLook, ThumbAndButtonsAreAsLargeAsTheScaleMakesThem) {
+    const auto drawn = Draw();
+    std::vector<CSize> sizes;
+    for (const RibbonSliderPart part : allParts)
+        sizes.push_back(DrawnIn(*drawn, Part(part)));
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.0));
+    m_slider.SetRect(CRect(10, 10, 190, 34));
+    const auto plain = Draw();
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        const CSize unscaled = DrawnIn(*plain, Part(allParts[i]));
+        ASSERT_GT(unscaled.cx, 4);
+        EXPECT_NEAR(sizes[i].cx, unscaled.cx * GetParam().scale, 2) << i;
+        EXPECT_NEAR(sizes[i].cy, unscaled.cy * GetParam().scale, 2) << i;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Skins, SliderLook,
+                         testing::Values(Look{Style::Office2007_ObsidianBlack, 1.0},
+                                         Look{Style::Office2007_ObsidianBlack, 1.5},
+                                         Look{Style::Office2007_ObsidianBlack, 2.0},
+                                         Look{Style::Office2007_Silver, 1.0}, Look{Style::Office2007_Silver, 1.5},
+                                         Look{Style::Office2007_Silver, 2.0}),
+                         [](const auto& info) {
+                             return (info.param.style == Style::Office2007_Silver ? "Silver" : "Black") +
+                                    std::to_string(static_cast<int>(info.param.scale * 100));
+                         });
 
 } // namespace

@@ -7,7 +7,9 @@
 #include "ribbon_category_ex.h"
 #include "ribbon_check_combo.h"
 #include "ribbon_icon_button.h"
+#include "ribbon_label_ex.h"
 #include "ribbon_multi_combo.h"
+#include "ribbon_slider_sync.h"
 
 #include <gtest/gtest.h>
 
@@ -129,6 +131,26 @@ static_assert(
 static_assert(
     std::is_same_v<decltype(&CMFCPopupMenuBarEx::SetNotifyChild), void (CMFCPopupMenuBarEx::*)(CRibbonNotifyCombox*)>);
 
+using LabelEx = CMFCRibbonLabelEx;
+static_assert(std::is_base_of_v<CMFCRibbonLabel, LabelEx> && std::is_constructible_v<LabelEx, LPCTSTR, BOOL> &&
+              !std::is_default_constructible_v<LabelEx>);
+static_assert(std::is_same_v<decltype(&LabelEx::SetRight), void (LabelEx::*)(bool)>);
+static_assert(std::is_same_v<decltype(&LabelEx::IsRight), bool (LabelEx::*)() const>);
+static_assert(std::is_same_v<decltype(&LabelEx::SetLeftOffset), void (LabelEx::*)(int)>);
+static_assert(std::is_same_v<decltype(&LabelEx::SetTextColor), void (LabelEx::*)(COLORREF)>);
+static_assert(std::is_same_v<decltype(&LabelEx::OnDraw), void (LabelEx::*)(CDC*)>);
+static_assert(std::is_same_v<decltype(&LabelEx::OnLButtonDown), void (LabelEx::*)(CPoint)>);
+
+using SliderSync = CMFCRibbonSliderSync;
+static_assert(std::is_base_of_v<CMFCRibbonSlider, SliderSync> && std::is_constructible_v<SliderSync, UINT, int> &&
+              std::is_default_constructible_v<SliderSync>);
+static_assert(std::is_same_v<decltype(&SliderSync::SetPosSync), void (SliderSync::*)(int, int)>);
+static_assert(std::is_same_v<decltype(&SliderSync::NotifyCommandSync), void (SliderSync::*)()>);
+static_assert(std::is_same_v<decltype(&SliderSync::setTooltipFromPos), void (SliderSync::*)()>);
+static_assert(std::is_same_v<decltype(&SliderSync::OnMouseMove), void (SliderSync::*)(CPoint)>);
+static_assert(std::is_same_v<decltype(&SliderSync::OnLButtonUp), void (SliderSync::*)(CPoint)>);
+static_assert(std::is_same_v<decltype(&SliderSync::OnAutoRepeat), BOOL (SliderSync::*)()>);
+
 TEST(HostInterface, EveryClassThatTheFrameworkMakesIsKnownByItsName) {
     EXPECT_STREQ(RUNTIME_CLASS(CMFCRibbonUNIcoButton)->m_lpszClassName, "CMFCRibbonUNIcoButton");
     EXPECT_STREQ(RUNTIME_CLASS(CMFCRibbonSmallButton)->m_lpszClassName, "CMFCRibbonSmallButton");
@@ -136,9 +158,9 @@ TEST(HostInterface, EveryClassThatTheFrameworkMakesIsKnownByItsName) {
     EXPECT_STREQ(RUNTIME_CLASS(Check)->m_lpszClassName, "CMFCRibbonCheckComb");
     EXPECT_STREQ(RUNTIME_CLASS(Multi)->m_lpszClassName, "CMFCRibbonMultiCombo");
     EXPECT_STREQ(RUNTIME_CLASS(LightOnly)->m_lpszClassName, "CMFCRibbonVesMultiCombo");
-    for (const char* name :
-         {"CMFCRibbonUNIcoButton", "CMFCRibbonSmallButton", "CMFCRibbonCategoryEx", "CMFCRibbonCheckComb",
-          "CMFCRibbonMultiCombo", "CMFCRibbonVesMultiCombo", "CMFCCheckDropDown", "CMFCPopupMenuBarEx"})
+    for (const char* name : {"CMFCRibbonUNIcoButton", "CMFCRibbonSmallButton", "CMFCRibbonCategoryEx",
+                             "CMFCRibbonCheckComb", "CMFCRibbonMultiCombo", "CMFCRibbonVesMultiCombo",
+                             "CMFCCheckDropDown", "CMFCPopupMenuBarEx", "CMFCRibbonLabelEx", "CMFCRibbonSliderSync"})
         EXPECT_NE(CRuntimeClass::FromName(name), nullptr) << name;
 }
 
