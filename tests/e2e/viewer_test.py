@@ -18,6 +18,7 @@ MAP_AREA = "800x300+100+350"
 RIBBON_AREA = "1280x150+0+60"
 TITLE = "Map viewer"
 MANY_PIXELS = 20000
+SOME_PIXELS = 300
 
 
 def changed_pixels(before, after, area):
@@ -75,6 +76,43 @@ class LayerCombos(unittest.TestCase):
             viewer.wait_for(lambda record: not record["map"]["layers"][0])
             viewer.wait_until(lambda: changed_pixels(before, viewer.picture(os.path.join(folder, "after.png")),
                                                      MAP_AREA) > MANY_PIXELS, "the map looks different")
+
+    def see_the_map_change(self, change):
+        """The deed changes what the screen shows of the map, whatever the record says."""
+        with self.open() as viewer, tempfile.TemporaryDirectory() as folder:
+            before = viewer.picture(os.path.join(folder, "before.png"))
+            change(viewer)
+            viewer.wait_until(lambda: changed_pixels(before, viewer.picture(os.path.join(folder, "after.png")),
+                                                     MAP_AREA) > SOME_PIXELS, "the map looks different")
+
+    def test_a_layers_light_changes_the_map_at_once(self):
+        def switch(viewer):
+            viewer.open_menu("LayerColors")
+            viewer.key("space", "Escape")
+            viewer.wait_for(lambda record: not record["map"]["layerStyles"][1]["lit"])
+        self.see_the_map_change(switch)
+
+    def test_a_layers_colour_changes_the_map_at_once(self):
+        def colour(viewer):
+            before = viewer.record["map"]["layerStyles"][1]["color"]
+            self.ask_for_colour(viewer, "2", "5", "5", "Return")
+            viewer.wait_for(lambda record: record["map"]["layerStyles"][1]["color"] != before)
+        self.see_the_map_change(colour)
+
+    def test_a_light_of_the_labels_changes_the_map_at_once(self):
+        def switch(viewer):
+            viewer.open_menu("LabelLights")
+            viewer.key("Down", "space", "Escape")  # the names of cities
+            viewer.wait_for(lambda record: record["map"]["labelsLit"] == [True, False, True])
+        self.see_the_map_change(switch)
+
+    def test_a_scale_slider_changes_the_map_at_once(self):
+        def enlarge(viewer):
+            scale = viewer.record["map"]["pixelsPerDegree"]
+            left, top, right, bottom = viewer.place_of("ZoomSlider")
+            viewer.click(right - (bottom - top) // 2, (top + bottom) // 2)
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > scale)
+        self.see_the_map_change(enlarge)
 
     def test_the_dump_shows_items_and_states(self):
         def bgr(color):

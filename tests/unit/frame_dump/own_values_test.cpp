@@ -9,6 +9,8 @@
 #include "tests/support/ribbon_host.h"
 #include "tests/support/scoped_value.h"
 
+#include <afxribbonbuttonsgroup.h>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -86,6 +88,8 @@ TEST_F(OwnValues, ALightOnlyCombosItemsHaveTheirLights) {
     const ordered_json items = DumpedOwn()["items"];
     EXPECT_FALSE(items[0].contains("state"));
     EXPECT_EQ(items[1]["state"].dump(), R"({"light":true})");
+    combo.SetDropDownHeight(210);
+    EXPECT_EQ(Dumped()["dropDownHeight"], 210);
 }
 
 TEST_F(OwnValues, AnEmptyComboHasAnEmptyListOfItems) {
@@ -122,6 +126,23 @@ TEST_F(OwnValues, ASliderHasItsPositionAndRange) {
     slider.SetRange(-5, 20);
     slider.SetPos(7, FALSE);
     EXPECT_EQ(DumpedOwn().dump(), R"({"pos":7,"min":-5,"max":20})");
+}
+
+TEST_F(OwnValues, MembersOfAGroupHaveTheirs) {
+    auto group = std::make_unique<CMFCRibbonButtonsGroup>();
+    auto combo = std::make_unique<CMFCRibbonMultiCombo>(elementId, FALSE, 120);
+    combo->AddItem(L"one");
+    combo->SetItemLight(0, true, false);
+    group->AddButton(combo.release());
+    auto slider = std::make_unique<CMFCRibbonSlider>(elementId + 1, 70);
+    slider->SetRange(1, 9);
+    group->AddButton(slider.release());
+    Add(std::move(group));
+    const ordered_json members = Dumped()["children"];
+    ASSERT_EQ(members.size(), 2u);
+    EXPECT_EQ(members[0]["items"].dump(), R"([{"text":"one","state":{"clr":0,"light":true}}])");
+    EXPECT_EQ(members[1]["min"], 1);
+    EXPECT_EQ(members[1]["max"], 9);
 }
 
 TEST_F(OwnValues, AButtonHasNone) {
