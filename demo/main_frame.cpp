@@ -6,6 +6,7 @@
 #include "menu_event.h"
 #include "menu_id_mgr.h"
 #include "picture_export.h"
+#include "resource.h"
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "screenshot.h"
@@ -87,7 +88,9 @@ CMainFrame::CMainFrame(const DemoOptions& options)
 
 BOOL CMainFrame::CreateFrame() {
     const CRect rect(CPoint(0, 0), CSize(m_options.width, m_options.height));
-    return Create(nullptr, ViewerText("ViewerTitle").c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rect, nullptr,
+    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), nullptr,
+                                                    AfxGetApp()->LoadIcon(IDR_MAINFRAME));
+    return Create(windowClass, ViewerText("ViewerTitle").c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rect, nullptr,
                   nullptr, m_options.isRightToLeft ? WS_EX_LAYOUTRTL : 0);
 }
 
