@@ -259,7 +259,8 @@ double RoundLength(double limit) {
     return power;
 }
 
-void DrawScaleBar(const Canvas& canvas, const TextStyle& style) {
+/// Keeps the numbers and names away from its line and its text.
+void DrawScaleBar(const Canvas& canvas, const TextStyle& style, TextPlaces& places) {
     constexpr double kKilometresPerDegree = 111.32;
     constexpr double kPi = 3.14159265358979;
     const MapView& view = canvas.state.View();
@@ -277,10 +278,14 @@ void DrawScaleBar(const Canvas& canvas, const TextStyle& style) {
                                         PointF(left + length, bottom), PointF(left + length, bottom - tick)};
     canvas.graphics.DrawLines(&halo, line.data(), static_cast<INT>(line.size()));
     canvas.graphics.DrawLines(&ink, line.data(), static_cast<INT>(line.size()));
-    wchar_t text[32];
-    std::swprintf(text, std::size(text), L"%g ", kilometres);
-    DrawHaloText(canvas, style, text + canvas.style.kilometres,
-                 PointF(left + canvas.Scaled(4), bottom - canvas.Scaled(22)));
+    wchar_t number[32];
+    std::swprintf(number, std::size(number), L"%g ", kilometres);
+    const std::wstring text = number + canvas.style.kilometres;
+    const PointF at(left + canvas.Scaled(4), bottom - canvas.Scaled(22));
+    DrawHaloText(canvas, style, text, at);
+    const RectF written = PlaceOfText(canvas, style.font, text, at);
+    const REAL right = std::max(left + length, written.GetRight());
+    places.Take(RectF(left, at.Y, right - left, bottom - at.Y));
 }
 
 /// A picture twice as wide and high as what it is averaged down to: smooth edges wherever the lines are drawn.
@@ -413,12 +418,12 @@ void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& 
     const Gdiplus::Font normal(&family, canvas.Scaled(12), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font names(&family, canvas.Scaled(state.NameSize()), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     TextPlaces places;
+    if (state.IsShown(MapLayer::ScaleBar))
+        DrawScaleBar(canvas, StyleOf(canvas, normal, MapLayer::ScaleBar, MapLabel::ScaleBarText), places);
     if (state.IsShown(MapLayer::Graticule))
         DrawGraticuleNumbers(canvas, StyleOf(canvas, small, MapLayer::Graticule, MapLabel::GraticuleNumbers), places);
     if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names))
         DrawCityNames(canvas, m_data.cities, StyleOf(canvas, names, MapLayer::Names, MapLabel::CityNames), places);
-    if (state.IsShown(MapLayer::ScaleBar))
-        DrawScaleBar(canvas, StyleOf(canvas, normal, MapLayer::ScaleBar, MapLabel::ScaleBarText));
 }
 
 void MapPainter::Paint(HDC dc, const MapState& state, const MapPaintStyle& style) {
