@@ -85,6 +85,10 @@ int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWid
 
 void ShowMarkChange(CMFCRibbonComboBox& combo, int index) {
     combo.RedrawItem(index);
+    TellMarkChange(combo, index);
+}
+
+void TellMarkChange(CMFCRibbonComboBox& combo, int index) {
     if (index < 0 || index != combo.GetACCCurrentRow())
         return;
     combo.NotifyAccessibility(EVENT_OBJECT_STATECHANGE);

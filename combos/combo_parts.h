@@ -131,9 +131,10 @@ std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, c
 /// selected.
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);
 
-/// Draws the element, and the item's row in its open list, after its mark has changed. Assistive programs are told when
-/// it is of the item that the element speaks of.
+/// Draws the element, and the item's row in its open list, after its mark has changed; then TellMarkChange.
 void ShowMarkChange(CMFCRibbonComboBox& combo, int index);
+/// Assistive programs are told of a changed mark when it is of the item that the element speaks of.
+void TellMarkChange(CMFCRibbonComboBox& combo, int index);
 /// Adds an item's state, in words, to what assistive programs are told.
 void AddWords(CAccessibilityData& data, const CString& words);
 /// A word as people read it.

@@ -41,9 +41,18 @@ struct CMFCRibbonCheckComb::State : MarkedComboState<CMFCRibbonCheckComb, State,
         DrawTextOf(combo, dc, index,
                    {place.text.left, static_cast<int>(row.top), place.text.right, static_cast<int>(row.bottom)});
     }
-    /// Everything that shows the checks, after a user changed one.
-    static void RedrawAll(CMFCRibbonCheckComb& combo, int index) {
+    /// Everything that shows the check, after a user changed it.
+    static void ShowChange(CMFCRibbonCheckComb& combo, int index) {
         ShowMarkChange(combo, index);
+        RedrawCopies(combo);
+    }
+    /// The same for the checks of all items.
+    static void ShowChangeOfAll(CMFCRibbonCheckComb& combo) {
+        combo.Redraw();
+        TellMarkChange(combo, combo.GetACCCurrentRow());
+        RedrawCopies(combo);
+    }
+    static void RedrawCopies(CMFCRibbonCheckComb& combo) {
         ChangeCopies(combo, [](CMFCRibbonCheckComb& copy) { copy.Redraw(); });
     }
     CString WordsFor(int index) const { return Displayed(rows.GetOrEmpty(index) ? L"checked" : L"not checked"); }
@@ -116,7 +125,7 @@ bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusi
         const CheckChange change = ToggleOne(index, old);
         SetItemCheck(index, change.check);
         SelectRow(*this, index);
-        State::RedrawAll(*this, index);
+        State::ShowChange(*this, index);
         TellHost(host, WM_COMBO_CHECK_CHANGED, TextOf(*this, index), static_cast<LPARAM>(change.notice));
         return true;
     }
@@ -131,7 +140,7 @@ bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusi
         if (life.expired())
             return true;
     }
-    State::RedrawAll(*this, GetACCCurrentRow());
+    State::ShowChangeOfAll(*this);
     return true;
 }
 
@@ -141,15 +150,16 @@ void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
     if (IsDisabled())
         return;
     const HWND host = HostOf(*this);
-    const marks::Rect zone = marks::CheckFaceZone(FromRect(GetEditRect()), MarkSizes::Current().checkBox);
-    if (HasEditBox() || !host || !ToRect(zone).PtInRect(point)) {
+    const CRect edit = GetEditRect();
+    const marks::Rect zone = marks::CheckFaceZone(FromRect(edit), MarkSizes::Current().checkBox);
+    if (HasEditBox() || !host || !edit.PtInRect(point) || !ToRect(zone).PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
         return;
     }
     const int selected = GetCurSel();
     const CheckChange change = ToggleOne(selected, m_state->rows.GetOrEmpty(selected));
     SetItemCheck(selected, change.check);
-    State::RedrawAll(*this, selected);
+    State::ShowChange(*this, selected);
     TellHost(host, WM_COMBO_CHECK_CHANGED, GetEditText(), static_cast<LPARAM>(change.notice));
 }
 

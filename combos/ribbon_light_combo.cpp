@@ -101,8 +101,9 @@ void CMFCRibbonVesMultiCombo::OnLButtonDown(CPoint point) {
     if (IsDisabled())
         return;
     const HWND host = HostOf(*this);
-    const marks::LightRow place = marks::PlaceLightRow(FromRect(GetEditRect()), MarkSizes::Current().icon);
-    if (HasEditBox() || !host || !ToRect(place.light).PtInRect(point)) {
+    const CRect edit = GetEditRect();
+    const marks::LightRow place = marks::PlaceLightRow(FromRect(edit), MarkSizes::Current().icon);
+    if (HasEditBox() || !host || !edit.PtInRect(point) || !ToRect(place.light).PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
         return;
     }

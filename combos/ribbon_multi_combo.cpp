@@ -160,7 +160,9 @@ bool CMFCRibbonMultiCombo::AskForLight(HWND host, const CString& text, int index
     // This element's light only, in whatever colour the host has given it meanwhile.
     const bool isChanged =
         isAllowed && m_state->rows.Modify(index, CountOf(*this), [wanted](rowInfo& info) { info.light = wanted; });
-    ShowMarkChange(*this, isChanged ? index : -1);
+    RedrawItem(index);
+    if (isChanged)
+        TellMarkChange(*this, index);
     return true;
 }
 
@@ -214,8 +216,9 @@ void CMFCRibbonMultiCombo::OnLButtonDown(CPoint point) {
     if (IsDisabled())
         return;
     const HWND host = HostOf(*this);
-    const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(GetEditRect()), ScaledIconSize());
-    if (HasEditBox() || !host)
+    const CRect edit = GetEditRect();
+    const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(edit), ScaledIconSize());
+    if (HasEditBox() || !host || !edit.PtInRect(point))
         CMFCRibbonComboBox::OnLButtonDown(point);
     else if (ToRect(place.light).PtInRect(point))
         AskForLight(host, GetEditText(), GetCurSel());

@@ -96,6 +96,69 @@ TEST_F(Answers, ALightOnlyCombosLightHasChangedBeforeTheHostSelectsAnotherItem) 
 
 // ---- what happens in which order
 
+TEST_F(Answers, TheHostThatIsAskedForALightSeesTheItemSelectedAndTheOldLight) {
+    auto& combo = Add<CMFCRibbonMultiCombo>();
+    combo.SetItemLight(2, true, false);
+    std::string seen;
+    AllowAfter([&] { seen += LightsOf(combo) + ' ' + std::to_string(combo.GetCurSel()); });
+    combo.NotifyChangeData(2, 1, false);
+    EXPECT_EQ(seen, "??1 2");
+    EXPECT_EQ(LightsOf(combo), "??0");
+}
+
+TEST_F(Answers, TheHostOfAnActionSeesTheRecordAndTheSelectionAlready) {
+    auto& twin = Add<CMFCRibbonMultiCombo>(comboId, 0);
+    auto& combo = Add<CMFCRibbonMultiCombo>();
+    for (int i = 0; i < 3; ++i)
+        twin.CMFCRibbonComboBox::AddItem(someItems[i]);
+    std::string seen;
+    AllowAfter([&] { seen += LightsOf(combo) + ' ' + std::to_string(combo.GetCurSel()); });
+    combo.NotifyChangeData(1, 2, false);
+    EXPECT_EQ(seen, "?0? 1");
+    EXPECT_FALSE(HasRecord(twin, 1)) << "no matter of the copies";
+}
+
+TEST_F(Answers, SwatchAndActionDrawTheFaceAnewThoughTheirItemIsSelectedAlready) {
+    auto& combo = Add<CMFCRibbonMultiCombo>();
+    combo.SelectItem(1);
+    for (const int zone : {0, 2}) {
+        PumpPending();
+        m_host.Bar().ValidateRect(nullptr);
+        combo.NotifyChangeData(1, zone, false);
+        CRect rect(0, 0, 0, 0);
+        ::GetUpdateRect(m_host.BarWindow(), &rect, FALSE);
+        EXPECT_EQ(rect, combo.GetRect()) << zone;
+    }
+}
+
+TEST_F(Answers, AnExclusiveCallDrawsEveryRowOfAnOpenListAnewAndTheFace) {
+    auto& combo = Add<CMFCRibbonCheckComb>();
+    CMFCPopupMenuBarEx& rows = Open(combo);
+    PumpPending();
+    rows.ValidateRect(nullptr);
+    m_host.Bar().ValidateRect(nullptr);
+    combo.NotifyChangeData(1, 0, true);
+    CRect face(0, 0, 0, 0);
+    ::GetUpdateRect(m_host.BarWindow(), &face, FALSE);
+    EXPECT_EQ(face, combo.GetRect());
+    CRgn region;
+    region.CreateRectRgn(0, 0, 0, 0);
+    ::GetUpdateRgn(rows.GetSafeHwnd(), static_cast<HRGN>(region.GetSafeHandle()), FALSE);
+    for (int row = 0; row < 3; ++row)
+        EXPECT_TRUE(region.RectInRegion(rows.GetRowRect(row))) << row;
+}
+
+TEST_F(Answers, ARefusedLightsRowIsDrawnAnewAlsoWhenNoClickAskedForIt) {
+    auto& combo = Add<CMFCRibbonMultiCombo>();
+    CMFCPopupMenuBarEx& rows = Open(combo);
+    PumpPending();
+    rows.ValidateRect(nullptr);
+    combo.NotifyChangeData(1, 1, false);
+    CRect rect(0, 0, 0, 0);
+    ::GetUpdateRect(rows.GetSafeHwnd(), &rect, FALSE);
+    EXPECT_EQ(rect, rows.GetRowRect(1));
+}
+
 /// Notes each redraw with the light and the selection that it would show.
 class NotingLight : public CMFCRibbonVesMultiCombo {
 public:

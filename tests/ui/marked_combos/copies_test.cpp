@@ -22,12 +22,13 @@ public:
 };
 IMPLEMENT_DYNCREATE(CountingCombo, CMFCRibbonMultiCombo)
 
-class CountingCheck : public CMFCRibbonCheckComb {
+template <class Combo>
+class Counting : public Combo {
 public:
-    using CMFCRibbonCheckComb::CMFCRibbonCheckComb;
+    using Combo::Combo;
     void Redraw() override {
         ++redraws;
-        CMFCRibbonCheckComb::Redraw();
+        Combo::Redraw();
     }
     int redraws = 0;
 };
@@ -192,8 +193,8 @@ TEST_F(RibbonCombos, EachCopysOperationRunsOnce) {
 }
 
 TEST_F(RibbonCombos, ACheckIsRedrawnWhenAUserChangesItAndNotWhenTheHostDoes) {
-    auto& twin = Add<CountingCheck>(comboId, 0);
-    auto& combo = Add<CountingCheck>();
+    auto& twin = Add<Counting<CMFCRibbonCheckComb>>(comboId, 0);
+    auto& combo = Add<Counting<CMFCRibbonCheckComb>>();
     combo.SelectItem(0);
     twin.redraws = combo.redraws = 0;
     combo.SetItemCheck(0, true);
@@ -205,6 +206,35 @@ TEST_F(RibbonCombos, ACheckIsRedrawnWhenAUserChangesItAndNotWhenTheHostDoes) {
     combo.NotifyChangeData(0, 0, false);
     EXPECT_GE(combo.redraws, 1);
     EXPECT_GE(twin.redraws, 1);
+}
+
+template <class Combo>
+class Redraws : public RibbonCombos {};
+using LitKinds = testing::Types<CMFCRibbonMultiCombo, CMFCRibbonVesMultiCombo>;
+TYPED_TEST_SUITE(Redraws, LitKinds);
+
+TYPED_TEST(Redraws, AreMadeInEveryCopyWhenTheyAreAskedForAndElseInNone) {
+    auto& twin = this->template Add<Counting<TypeParam>>(comboId, 0);
+    auto& combo = this->template Add<Counting<TypeParam>>();
+    const auto count = [&](auto set) {
+        twin.redraws = combo.redraws = 0;
+        set();
+        EXPECT_EQ(twin.redraws, combo.redraws);
+        return combo.redraws;
+    };
+    for (const bool redraw : {false, true}) {
+        const int wanted = redraw ? 1 : 0;
+        EXPECT_EQ(count([&] { combo.SetItemLight(1, true, redraw); }), wanted);
+        EXPECT_EQ(count([&] { combo.SetItemLight(L"two", false, redraw); }), wanted);
+        if constexpr (std::is_same_v<TypeParam, CMFCRibbonMultiCombo>) {
+            EXPECT_EQ(count([&] { combo.SetItemClr(1, RGB(1, 2, 3), redraw); }), wanted);
+            EXPECT_EQ(count([&] { combo.SetItemClr(L"two", RGB(3, 2, 1), redraw); }), wanted);
+            EXPECT_EQ(count([&] { combo.SetItemLock(1, true, redraw); }), 0);
+            EXPECT_EQ(count([&] { combo.SetItemLock(L"two", true, redraw); }), 0);
+            CMFCRibbonMultiCombo::rowInfo info{RGB(7, 8, 9), true};
+            EXPECT_EQ(count([&] { combo.SetItemInfo(1, info); }), 0);
+        }
+    }
 }
 
 TEST_F(RibbonCombos, AComboOutsideOfARibbonIsChangedAlone) {

@@ -206,14 +206,6 @@ TEST_F(RibbonCombos, ALightOnlyListKeepsItsHeightToItself) {
     EXPECT_EQ(combo.GetDropDownHeight(), 200);
 }
 
-TEST_F(RibbonCombos, AListIsAtLeastAsWideAsItsCombo) {
-    auto& combo = Add<CMFCRibbonCheckComb>();
-    Open(combo);
-    CRect rect;
-    CMFCPopupMenu::GetActiveMenu()->GetWindowRect(&rect);
-    EXPECT_GE(rect.Width(), combo.GetRect().Width());
-}
-
 TEST_F(RibbonCombos, AListOpensBelowTheEditAreaAtItsLeftEdge) {
     auto& combo = Add<CMFCRibbonMultiCombo>();
     Open(combo);

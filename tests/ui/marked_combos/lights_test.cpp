@@ -203,6 +203,14 @@ TEST_F(LightImages, TheFirstCheckComboMadeByNameOnAScaledDisplayScalesTheBoxOnce
     EXPECT_EQ(MarkSizes::Current().checkBox, 23);
 }
 
+TEST_F(LightImages, ACheckComboMadeByNameOnADisplayThatIsNotScaledLeavesTheBoxToALaterOne) {
+    const CMFCRibbonCheckComb first;
+    EXPECT_EQ(MarkSizes::Current().checkBox, 15);
+    ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
+    const CMFCRibbonCheckComb second;
+    EXPECT_EQ(MarkSizes::Current().checkBox, 23);
+}
+
 TEST_F(LightImages, SizesStayAsTheyAreWhereImagesAreNotScaled) {
     const CMFCRibbonCheckComb unscaled;
     EXPECT_EQ(MarkSizes::Current().checkBox, 15);

@@ -109,6 +109,16 @@ TYPED_TEST(Opening, WithoutAnEditAreaTheListOpensBelowTheElement) {
     EXPECT_EQ(list.TopLeft(), CPoint(element.left, element.bottom));
 }
 
+TEST_F(RibbonCombos, WithoutAnEditAreaTheCheckColumnIsStillARowHigh) {
+    auto& combo = Add<Poor<CMFCRibbonCheckComb>>();
+    combo.LoseEditArea();
+    combo.DropDownList();
+    ASSERT_NE(Rows(), nullptr);
+    ClickRow(1, 8, afxGlobalData.GetTextHeight() - 1);
+    EXPECT_EQ(ChecksOf(combo), "?1?");
+    EXPECT_NE(Rows(), nullptr);
+}
+
 TYPED_TEST(Opening, ThePanelIsHotNoLonger) {
     TypeParam& combo = this->template Add<TypeParam>();
     this->m_pointer.MoveTo(this->m_host.BarWindow(), combo.GetRect().CenterPoint());
@@ -157,6 +167,35 @@ TYPED_TEST(Opening, AListThatMayBeResizedTakesNoLessThanTwoLines) {
     list->GetWindowRect(&small);
     EXPECT_EQ(small.Height(), 2 * afxGlobalData.GetTextHeight());
     EXPECT_EQ(small.Width(), window.Width()) << "its height alone";
+}
+
+TEST_F(RibbonCombos, AListAndItsRowsThatAreMadeByNameHaveNeitherZonesNorANotifyChild) {
+    const std::unique_ptr<CObject> list(RUNTIME_CLASS(CMFCCheckDropDown)->CreateObject());
+    ASSERT_TRUE(list && list->IsKindOf(RUNTIME_CLASS(CMFCDropDownListBox)));
+    EXPECT_TRUE(dynamic_cast<CMFCCheckDropDown&>(*list).GetMenuBar()->IsKindOf(RUNTIME_CLASS(CMFCPopupMenuBarEx)));
+
+    const std::unique_ptr<CObject> made(RUNTIME_CLASS(CMFCPopupMenuBarEx)->CreateObject());
+    ASSERT_TRUE(made && made->IsKindOf(RUNTIME_CLASS(CMFCPopupMenuBar)));
+    auto& rows = dynamic_cast<CMFCPopupMenuBarEx&>(*made);
+    ASSERT_TRUE(rows.Create(&m_host.Frame(), WS_CHILD, 4711));
+    struct Notified : CRibbonNotifyCombox {
+        bool NotifyChangeData(int, int, bool) override {
+            ++count;
+            return true;
+        }
+        int count = 0;
+    } child;
+    // Neither without a child nor without zones is anybody told.
+    rows.SetSpRects({CRect(0, 0, 50, 50)});
+    rows.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    rows.SetSpRects({});
+    rows.SetNotifyChild(&child);
+    rows.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    EXPECT_EQ(child.count, 0);
+    rows.SetSpRects({CRect(0, 0, 50, 50)});
+    rows.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
+    EXPECT_EQ(child.count, 1);
+    rows.DestroyWindow();
 }
 
 TYPED_TEST(Opening, AListThatIsNotToBeResizedHasNoGrip) {

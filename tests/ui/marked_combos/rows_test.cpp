@@ -8,11 +8,11 @@ constexpr COLORREF orange = RGB(0xFF, 0x80, 0x20);
 
 using ComboRows = RibbonCombos;
 
-/// One row of any height, as its combo draws it.
+/// One row of any height and 100 pixels wide, as its combo draws it.
 class DrawnRow {
 public:
     DrawnRow(CMFCRibbonComboBox& combo, int index, int height)
-        : m_height(height), m_picture(CSize(100, height + 40), [&](CDC& dc) {
+        : m_height(height), m_picture(CSize(120, height + 40), [&](CDC& dc) {
               Button button;
               button.SetRect(CRect(0, top, 100, top + height));
               EXPECT_TRUE(combo.OnDrawDropListItem(&dc, index, &button, FALSE));
@@ -75,6 +75,59 @@ TEST_F(ComboRows, ARowThatIsLowerThanTheIconCutsItsSwatchWhichStaysSquare) {
         SCOPED_TRACE(height);
         DrawnRow(combo, 0, height).ExpectSwatch(CRect(3, 0, 3 + height, height), orange);
     }
+}
+
+TEST_F(ComboRows, AScaledRowsSwatchIsAsLargeAsTheScaledIconWhereTheRowHasRoomForIt) {
+    struct Case {
+        double scale;
+        int icon;
+    };
+    for (const Case& one : {Case{1.5, 24}, Case{2.0, 32}}) {
+        SCOPED_TRACE(one.scale);
+        ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(one.scale));
+        MarkSizes::Current() = MarkSizes();
+        auto& combo = Add<CMFCRibbonMultiCombo>(comboId, 0); // fixes the icon's size
+        combo.AddItem(L"");
+        combo.SetItemInfo(0, orange, false, false);
+        for (const int height : {40, one.icon, one.icon - 1, 18, 5}) {
+            SCOPED_TRACE(height);
+            const int top = std::max(0, static_cast<int>(height / 2 - one.icon * 0.5));
+            const int side = std::min(top + one.icon, height) - top;
+            const DrawnRow off(combo, 0, height);
+            off.ExpectSwatch(CRect(3, top, 3 + side, top + side), orange);
+            combo.SetItemLight(0, true, false);
+            const CRect light = DrawnRow(combo, 0, height).DifferenceTo(off);
+            EXPECT_FALSE(light.IsRectEmpty());
+            EXPECT_GE(light.left, side + 6);
+            EXPECT_GE(light.top, top);
+            EXPECT_LE(light.right, 2 * side + 6);
+            EXPECT_LE(light.bottom, top + side);
+            combo.SetItemLight(0, false, false);
+        }
+    }
+}
+
+template <class Combo>
+class RowText : public RibbonCombos {};
+using Kinds = testing::Types<CMFCRibbonCheckComb, CMFCRibbonMultiCombo, CMFCRibbonVesMultiCombo>;
+TYPED_TEST_SUITE(RowText, Kinds);
+
+TYPED_TEST(RowText, StandsInTheMiddleOfTheRowAndEndsWithIt) {
+    auto& combo = this->template Add<TypeParam>(comboId, 0);
+    combo.AddItem(L"");
+    combo.AddItem(L"\x2588\x2588"); // full blocks
+    combo.AddItem(std::wstring(60, L'\x2588').c_str());
+    const DrawnRow empty(combo, 0, 20);
+    const CRect low = DrawnRow(combo, 1, 20).DifferenceTo(empty);
+    ASSERT_FALSE(low.IsRectEmpty());
+    for (const int height : {40, 60}) {
+        const CRect high = DrawnRow(combo, 1, height).DifferenceTo(DrawnRow(combo, 0, height));
+        EXPECT_EQ(high.top, low.top + (height - 20) / 2) << height;
+        EXPECT_EQ(high.bottom, low.bottom + (height - 20) / 2) << height;
+    }
+    // The check combo's margin is one pixel.
+    const int right = std::is_same_v<TypeParam, CMFCRibbonCheckComb> ? 99 : 100;
+    EXPECT_EQ(DrawnRow(combo, 2, 20).DifferenceTo(empty).right, right);
 }
 
 TEST_F(ComboRows, ARowWithoutARecordHasABlackSwatch) {
