@@ -28,6 +28,16 @@ def changed_pixels(before, after, area):
     return int(float(result.stderr.split()[0]))
 
 
+def changed_place(before, after, area):
+    """Left and top, on the screen, of what differs in the area (ImageMagick geometry)."""
+    result = subprocess.run(["convert", f"{before}[{area}]", f"{after}[{area}]", "-compose", "difference", "-composite",
+                             "+repage", "-threshold", "0", "-trim", "-format", "%X %Y", "info:"],
+                            capture_output=True, text=True, check=True)
+    left, top = map(int, result.stdout.split())
+    area_left, area_top = map(int, area.split("+")[1:])
+    return area_left + left, area_top + top
+
+
 class ClickOnARibbonButton(unittest.TestCase):
     def test_zoom_in_doubles_the_scale_and_the_map_changes_on_the_screen(self):
         with Viewer(BIN_DIR) as viewer, tempfile.TemporaryDirectory() as folder:
@@ -67,6 +77,27 @@ class LayerCombos(unittest.TestCase):
             viewer.wait_for(lambda record: record["map"]["layers"][:2] == [False, True])
             viewer.key("Down", "space")
             viewer.wait_for(lambda record: record["map"]["layers"][:2] == [False, False])
+
+    def test_the_mouse_ticks_two_rows_and_then_chooses_one(self):
+        row_height = 14
+        with self.open() as viewer, tempfile.TemporaryDirectory() as folder:
+            before = viewer.picture(os.path.join(folder, "before.png"))
+            left, _, right, bottom = viewer.place_of("LayersShown")
+            area = f"{right - left}x100+{left}+{bottom + 1}"
+            viewer.open_menu("LayersShown")
+            viewer.wait_until(lambda: changed_pixels(before, viewer.picture(os.path.join(folder, "open.png")),
+                                                     area) > SOME_PIXELS, "the list is shown")
+            left, top = changed_place(before, os.path.join(folder, "open.png"), area)
+            for row, layers in ((0, [False, True, True]), (2, [False, True, False])):
+                viewer.click(left + 8, top + row * row_height + 7)
+                viewer.wait_for(lambda record: record["map"]["layers"][:3] == layers)
+            viewer.click(left + 60, top + row_height + 7)
+            # The list is closed: Space is no longer its key.
+            selected = lambda record: next(e["selected"] for e in viewer.elements() if e["class"] == "CMFCRibbonCheckComb")
+            viewer.click_command("LayerLock")
+            viewer.wait_for(lambda record: record["map"]["layerStyles"][1]["locked"])
+            self.assertEqual(selected(viewer.record), 1)
+            self.assertEqual(viewer.record["map"]["layers"][:3], [False, True, False])
 
     def test_a_tick_changes_the_map_at_once(self):
         with self.open() as viewer, tempfile.TemporaryDirectory() as folder:
