@@ -4,8 +4,9 @@
 
 #include <afxribboncategory.h>
 
-/// A ribbon category whose tab is a command: it carries the command id that a click on the tab sends. Made by the
-/// ribbon bar through its run-time class (CMFCRibbonBar::AddCategory), which owns it.
+/// A ribbon category whose tab stands for a command: it carries the command's id for the bar and the host. A
+/// CMFCRibbonBar shows the category when its tab is clicked, as any other, and sends nothing. Made by the bar through
+/// its run-time class (CMFCRibbonBar::AddCategory), which owns it.
 class BARWRIGHT_API CMFCRibbonCategoryEx : public CMFCRibbonCategory {
     DECLARE_DYNCREATE(CMFCRibbonCategoryEx)
 
