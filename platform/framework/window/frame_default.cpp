@@ -18,7 +18,8 @@ LRESULT CFrameImpl::OnDefault(UINT message, WPARAM wParam, LPARAM lParam, System
     case WM_ERASEBKGND:
         return OnEraseBkgnd(reinterpret_cast<HDC>(wParam), system);
     case WM_SYSCOLORCHANGE:
-    case WM_SETTINGCHANGE: {
+    case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED: {
         const LRESULT result = system(*m_frame, message, wParam, lParam);
         OnSystemChange();
         return result;
