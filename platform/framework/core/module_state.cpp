@@ -4,11 +4,18 @@
 
 #include <algorithm>
 #include <atomic>
+#include <utility>
 #include <vector>
 
 namespace {
 
 std::atomic<HINSTANCE> g_resources{nullptr};
+
+/// The module whose code the calling thread runs, while a scope says so.
+AFX_MODULE_STATE*& CurrentModule() noexcept {
+    static thread_local AFX_MODULE_STATE* module = nullptr;
+    return module;
+}
 
 // Filled from DllMain of extension DLLs.
 SRWLOCK g_extensionLock = SRWLOCK_INIT;
@@ -34,11 +41,20 @@ bool HasResource(HINSTANCE module, LPCTSTR name, LPCTSTR type) {
 HINSTANCE AFXAPI AfxGetInstanceHandle() { return ::GetModuleHandle(nullptr); }
 
 HINSTANCE AFXAPI AfxGetResourceHandle() {
+    if (const AFX_MODULE_STATE* module = CurrentModule()) {
+        return module->m_hCurrentResourceHandle;
+    }
     const HINSTANCE set = g_resources.load();
     return set == nullptr ? AfxGetInstanceHandle() : set;
 }
 
-void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) { g_resources.store(hInstResource); }
+void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource) {
+    if (AFX_MODULE_STATE* module = CurrentModule()) {
+        module->m_hCurrentResourceHandle = hInstResource;
+    } else {
+        g_resources.store(hInstResource);
+    }
+}
 
 HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
     const HINSTANCE first = AfxGetResourceHandle();
@@ -80,6 +96,6 @@ void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL) {
 }
 
 AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pModuleState) noexcept
-    : m_before(g_resources.exchange(pModuleState->m_hCurrentResourceHandle)) {}
+    : m_before(std::exchange(CurrentModule(), pModuleState)) {}
 
-AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2() { g_resources.store(m_before); }
+AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2() { CurrentModule() = m_before; }

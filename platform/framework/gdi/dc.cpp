@@ -33,7 +33,9 @@ CDC::~CDC() {
     }
 }
 
-CDC* PASCAL CDC::FromHandle(HDC hDC) { return ThreadGdiMaps().contexts.FromHandle(hDC, RUNTIME_CLASS(CDC)); }
+CDC* PASCAL CDC::FromHandle(HDC hDC) {
+    return ThreadGdiMaps().contexts.FromHandle(hDC, RUNTIME_CLASS(CDC), fx::HandlerDepth());
+}
 CDC* PASCAL CDC::FromHandlePermanent(HDC hDC) { return ThreadGdiMaps().contexts.LookupPermanent(hDC); }
 void PASCAL CDC::DeleteTempMap() { ThreadGdiMaps().contexts.DeleteTemp(); }
 

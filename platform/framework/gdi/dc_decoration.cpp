@@ -1,6 +1,9 @@
 #include "gdi/dc_calls.h"
 #include "gdi/device_pixels.h"
 
+#include <algorithm>
+#include <array>
+
 void CDC::FillRect(LPCRECT lpRect, CBrush* pBrush) { gdi::FillWith(m_hDC, *lpRect, SafeHandle(pBrush)); }
 void CDC::FrameRect(LPCRECT lpRect, CBrush* pBrush) { gdi::FrameWith(m_hDC, *lpRect, SafeHandle(pBrush)); }
 void CDC::InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
@@ -30,25 +33,34 @@ void CDC::DrawFocusRect(LPCRECT lpRect) { ::DrawFocusRect(m_hDC, lpRect); }
 
 namespace {
 
-/// The band between a rectangle and the one that is smaller by the size on every side.
-void MakeBand(CRgn& band, const CRect& outer, SIZE size) {
-    CRect inner(outer);
-    inner.DeflateRect(size);
-    inner &= outer;
-    CRgn hole;
-    hole.CreateRectRgnIndirect(inner);
-    band.CreateRectRgnIndirect(outer);
-    band.CombineRgn(&band, &hole, RGN_DIFF);
+/// The band inside a rectangle, as wide as size on each side: above, below, left and right, without overlap. In logical
+/// units, like the context's rectangles and unlike its regions: so it fits any origin, scale and direction.
+using Band = std::array<CRect, 4>;
+
+Band BandOf(CRect outer, SIZE size) {
+    outer.NormalizeRect();
+    const int width = std::clamp<int>(size.cx, 0, (outer.Width() + 1) / 2);
+    const int height = std::clamp<int>(size.cy, 0, (outer.Height() + 1) / 2);
+    const int top = outer.top + height;
+    const int bottom = std::max<int>(top, outer.bottom - height);
+    const int left = outer.left + width;
+    const int right = std::max<int>(left, outer.right - width);
+    return {CRect(outer.left, outer.top, outer.right, top), CRect(outer.left, bottom, outer.right, outer.bottom),
+            CRect(outer.left, top, left, bottom), CRect(right, top, outer.right, bottom)};
 }
 
-void InvertBand(CDC& dc, CRgn& band, CBrush* brush) {
-    dc.SelectClipRgn(&band);
-    CRect box;
-    dc.GetClipBox(box);
-    CBrush* const before = dc.SelectObject(brush);
-    dc.PatBlt(box.left, box.top, box.Width(), box.Height(), PATINVERT);
-    dc.SelectObject(before);
-    dc.SelectClipRgn(nullptr);
+void InvertBand(CDC& dc, const Band& band, CBrush* brush, const Band* spared = nullptr) {
+    const int saved = dc.SaveDC();
+    if (spared != nullptr) {
+        for (const CRect& side : *spared) {
+            dc.ExcludeClipRect(side);
+        }
+    }
+    dc.SelectObject(brush);
+    for (const CRect& side : band) {
+        dc.PatBlt(side.left, side.top, side.Width(), side.Height(), PATINVERT);
+    }
+    dc.RestoreDC(saved);
 }
 
 } // namespace
@@ -57,22 +69,16 @@ void CDC::DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeL
                        CBrush* pBrushLast) {
     CBrush* const brush = pBrush == nullptr ? GetHalftoneBrush() : pBrush;
     CBrush* const lastBrush = pBrushLast == nullptr ? brush : pBrushLast;
-    CRgn band;
-    MakeBand(band, *lpRect, size);
+    const Band band = BandOf(*lpRect, size);
     if (lpRectLast == nullptr) {
         InvertBand(*this, band, brush);
         return;
     }
-    CRgn lastBand;
-    MakeBand(lastBand, *lpRectLast, sizeLast);
-    if (brush == lastBrush) {
-        // What both have in common is inverted already: without this the frame would flicker.
-        band.CombineRgn(&band, &lastBand, RGN_XOR);
-        InvertBand(*this, band, brush);
-        return;
-    }
-    InvertBand(*this, lastBand, lastBrush);
-    InvertBand(*this, band, brush);
+    const Band lastBand = BandOf(*lpRectLast, sizeLast);
+    // What both have in common is inverted already: without this the frame would flicker.
+    const bool hasCommon = brush == lastBrush;
+    InvertBand(*this, lastBand, lastBrush, hasCommon ? &band : nullptr);
+    InvertBand(*this, band, brush, hasCommon ? &lastBand : nullptr);
 }
 
 BOOL CDC::DrawIcon(int x, int y, HICON hIcon) { return ::DrawIcon(m_hDC, x, y, hIcon); }

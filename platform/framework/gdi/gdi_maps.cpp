@@ -48,6 +48,14 @@ void CountGdiObjectGone() noexcept { --g_objectCount; }
 
 long AfxGdiObjectCount() noexcept { return g_objectCount.load(); }
 
+void DeleteReleasedGdiObjects() {
+    GdiMaps& maps = ThreadGdiMaps();
+    const int depth = fx::HandlerDepth();
+    maps.contexts.DeleteReleasedTemp(depth);
+    maps.objects.DeleteReleasedTemp(depth);
+    maps.imageLists.DeleteReleasedTemp(depth);
+}
+
 void AfxDeleteTemporaryGdiObjects() {
     GdiMaps& maps = ThreadGdiMaps();
     maps.contexts.DeleteTemp();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/handler_depth.h"
 #include "fx/handle_map.h"
 #include "fx/image_list.h"
 
@@ -11,6 +12,8 @@ struct GdiMaps {
     CHandleMap<CImageList, HIMAGELIST> imageLists;
 };
 GdiMaps& ThreadGdiMaps();
+/// At idle: the temporary objects that no running handler holds.
+void DeleteReleasedGdiObjects();
 
 // Owned handles are counted over all threads.
 void CountGdiObjectMade() noexcept;

@@ -32,7 +32,7 @@ CRuntimeClass* KindOf(HGDIOBJ handle) {
 CGdiObject::~CGdiObject() { CGdiObject::DeleteObject(); }
 
 CGdiObject* CGdiObject::FromHandle(HGDIOBJ hObject, CRuntimeClass* kind) {
-    return ThreadGdiMaps().objects.FromHandle(hObject, kind);
+    return ThreadGdiMaps().objects.FromHandle(hObject, kind, fx::HandlerDepth());
 }
 
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject) {

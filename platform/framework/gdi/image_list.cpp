@@ -47,7 +47,7 @@ std::vector<BYTE> ReadAll(IStream* stream) {
 CImageList::~CImageList() { CImageList::DeleteImageList(); }
 
 CImageList* PASCAL CImageList::FromHandle(HIMAGELIST hImageList) {
-    return ThreadGdiMaps().imageLists.FromHandle(hImageList, RUNTIME_CLASS(CImageList));
+    return ThreadGdiMaps().imageLists.FromHandle(hImageList, RUNTIME_CLASS(CImageList), fx::HandlerDepth());
 }
 CImageList* PASCAL CImageList::FromHandlePermanent(HIMAGELIST hImageList) {
     return ThreadGdiMaps().imageLists.LookupPermanent(hImageList);

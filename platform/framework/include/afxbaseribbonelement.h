@@ -190,13 +190,14 @@ public:
     // Commands. WM_COMMAND goes to the owner of the ribbon bar; with delay it is posted. FALSE: nothing was sent
     // because the element is disabled, has no command id or no window.
     BOOL NotifyCommand(BOOL bWithDelay = FALSE);
+    // Closes what the element has open and, later, the pop-up that it lies in. The id plays no part.
     void PostMenuCommand(UINT uiCmdId);
     // Tells the window that receives the commands that the list of this element has a row hot, -1 for none.
     virtual void NotifyHighlightListItem(int nIndex);
     virtual void OnShowPopupMenu();
     virtual void ClosePopupMenu();
     virtual void DestroyCtrl();
-    // Called with a menu's special command id before it is posted; -11: a context menu was shown on the element.
+    // For derived bars, before they notify for an element; -11: a context menu was shown on it.
     virtual void OnMenuCommandHook(int nCommand);
 
     // Input and changes of state, called by the containers.

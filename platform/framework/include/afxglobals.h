@@ -92,7 +92,8 @@ struct FRAMEWORK_API AFX_GLOBAL_DATA {
     BOOL bIsWow6432Node = FALSE;
     BOOL m_bUseSystemFont = FALSE, m_bUseBuiltIn32BitIcons = TRUE;
     BOOL m_bMenuAnimation = FALSE, m_bMenuFadeEffect = FALSE;
-    int m_nMaxToolTipWidth = -1;
+    int m_nMaxToolTipWidth =
+        -1; ///< of a tooltip's text, pixels; wider text wraps. Set before the bars are made. -1: no matter
     int m_nDragFrameThicknessFloat = 4, m_nDragFrameThicknessDock = 3;
     int m_nAutoHideToolBarSpacing = 5, m_nAutoHideToolBarMargin = 4;
     int m_nCoveredMainWndClientAreaPercent = 50;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <afxwin.h>
 
 class CMFCToolBarImages;
@@ -60,7 +62,8 @@ public:
     BOOL IsUserImagesList() const { return m_bUserImagesList; }
     int GetBitsPerPixel() const { return m_nBitsPerPixel; }
     HBITMAP GetImageWell() const { return m_hbmImageWell; }
-    HBITMAP GetImageWellLight() const { return m_hbmImageLight; }
+    /// NULL: lighter images are made while they are drawn.
+    HBITMAP GetImageWellLight() const { return NULL; }
     COLORREF SetTransparentColor(COLORREF clrTransparent);
     COLORREF GetTransparentColor() const { return m_clrTransparent; }
     CRect GetLastImageRect() const { return m_rectLastDraw; }
@@ -152,7 +155,6 @@ private:
     BOOL BlendImage(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, UINT nLook, BYTE alphaSrc);
 
     HBITMAP m_hbmImageWell = NULL;
-    HBITMAP m_hbmImageLight = NULL;
     CSize m_sizeImage = CSize(16, 15);
     CSize m_sizeImageDest = CSize(0, 0);
     CRect m_rectLastDraw = CRect(0, 0, 0, 0);
@@ -161,6 +163,7 @@ private:
     int m_iCount = 0;
     int m_nBitsPerPixel = 0;
     int m_nLightPercentage = -1;
+    std::vector<COLORREF> m_mappedColors; ///< the system's colours that MapTo3dColors has put in; empty: none
     double m_dblScale = 1.0;
     COLORREF m_clrTransparent = RGB(192, 192, 192);
     BOOL m_bFadeInactive = FALSE;

@@ -3,6 +3,7 @@
 
 #include "afxtooltipmanager.h"
 #include "ribbon/bar_parts.h"
+#include "visual/tooltip_width.h"
 
 namespace {
 
@@ -20,7 +21,7 @@ void CMFCRibbonBar::EnableToolTips(BOOL bEnable, BOOL bEnableDescr) {
     if (!bEnable || !CTooltipManager::CreateToolTip(m_pToolTip, this, AFX_TOOLTIP_TYPE_RIBBON)) {
         return;
     }
-    m_pToolTip->SetMaxTipWidth(640);
+    m_pToolTip->SetMaxTipWidth(tooltip::WidestText());
     m_pToolTip->AddTool(this, LPSTR_TEXTCALLBACK, CRect(0, 0, 0, 0), kTool);
     if (CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_pToolTip)) {
         tooltip->SetFixedWidth(m_parts->tooltipWidthRegular, m_parts->tooltipWidthLargeImage);

@@ -36,10 +36,12 @@ BOOL CMFCRibbonBaseElement::NotifyCommand(BOOL bWithDelay) {
     return TRUE;
 }
 
-void CMFCRibbonBaseElement::PostMenuCommand(UINT uiCmdId) {
-    CWnd* target = GetCommandTarget();
-    if (target != nullptr && IsCommand(uiCmdId))
-        ::PostMessageW(target->GetSafeHwnd(), WM_COMMAND, uiCmdId, 0);
+void CMFCRibbonBaseElement::PostMenuCommand(UINT /*uiCmdId*/) {
+    const CMFCRibbonPanelMenu* menu = m_pParentMenu != nullptr ? m_pParentMenu->GetMenu() : nullptr;
+    const HWND parent = menu != nullptr ? menu->GetSafeHwnd() : nullptr;
+    ClosePopupMenu();
+    if (parent != nullptr && ::IsWindow(parent))
+        ::PostMessageW(parent, WM_CLOSE, 0, 0);
 }
 
 void CMFCRibbonBaseElement::OnShowPopupMenu() {

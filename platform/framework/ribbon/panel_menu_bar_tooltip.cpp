@@ -4,11 +4,11 @@
 #include "afxtooltipmanager.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/panel_menu_parts.h"
+#include "visual/tooltip_width.h"
 
 namespace {
 
 constexpr UINT_PTR kTool = 1;
-constexpr int kMaxTipWidth = 640;
 
 } // namespace
 
@@ -26,7 +26,7 @@ void CMFCRibbonPanelMenuBar::CreateTooltip() {
         !CTooltipManager::CreateToolTip(m_parts->tooltip, this, AFX_TOOLTIP_TYPE_RIBBON)) {
         return;
     }
-    m_parts->tooltip->SetMaxTipWidth(kMaxTipWidth);
+    m_parts->tooltip->SetMaxTipWidth(tooltip::WidestText());
     m_parts->tooltip->AddTool(this, LPSTR_TEXTCALLBACK, CRect(0, 0, 0, 0), kTool);
     CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_parts->tooltip);
     if (tooltip != nullptr && bar != nullptr) {

@@ -1,6 +1,8 @@
 #include "afxcontextmenumanager.h"
 
 #include "afxpopupmenu.h"
+#include "core/handler_depth.h"
+#include "core/scoped_change.h"
 
 CContextMenuManager* afxContextMenuManager = nullptr;
 
@@ -149,6 +151,7 @@ UINT CContextMenuManager::TrackPopupMenu(HMENU hmenuPopup, int x, int y, CWnd* p
     }
     // Closing clears the chain; the window's handle says when.
     const HWND window = menu->m_hWnd;
+    const fx::ScopedChange<int> depth(fx::HandlerDepth(), fx::HandlerDepth() + 1);
     while (::IsWindow(window)) {
         MSG next;
         if (!::PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE) && AfxGetThread()) {

@@ -1,14 +1,12 @@
 #include "afxglobals.h"
 
-#include <cmath>
+#include "visual/text_size.h"
+
 #include <cstddef>
 #include <cstring>
 #include <cwchar>
 
 namespace {
-
-/// The height of the interface font at 96 DPI: 9 points.
-constexpr int g_fontPixels = 12;
 
 int CALLBACK Found(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
     *reinterpret_cast<bool*>(found) = true;
@@ -79,10 +77,11 @@ void AFX_GLOBAL_DATA::UpdateFonts() {
 void AFX_GLOBAL_DATA::CreateFonts(const NONCLIENTMETRICS& metrics) {
     LOGFONTW font = metrics.lfMenuFont;
     const HDC screen = GetDC(nullptr);
+    const double systemScale = GetDeviceCaps(screen, LOGPIXELSY) / 96.0;
     if (!m_bUseSystemFont)
         std::wcsncpy(font.lfFaceName, InterfaceFont(screen, metrics.lfMenuFont.lfFaceName), LF_FACESIZE - 1);
     ReleaseDC(nullptr, screen);
-    font.lfHeight = -static_cast<LONG>(std::lround(g_fontPixels * GetRibbonImageScale()));
+    font.lfHeight = -visual::FontPixels(metrics.lfMenuFont.lfHeight, systemScale, GetRibbonImageScale());
     font.lfWidth = 0;
     font.lfWeight = FW_NORMAL;
     font.lfItalic = FALSE;

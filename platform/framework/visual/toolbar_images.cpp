@@ -30,15 +30,13 @@ void CMFCToolBarImages::Clear() {
     m_dblScale = 1.0;
     m_strFile.Empty();
     m_mapOffsets.RemoveAll();
+    m_mappedColors.clear();
 }
 
 void CMFCToolBarImages::SetWell(HBITMAP hbmp) {
     if (m_hbmImageWell != nullptr && m_hbmImageWell != hbmp)
         ::DeleteObject(m_hbmImageWell);
     m_hbmImageWell = hbmp;
-    if (m_hbmImageLight != nullptr)
-        ::DeleteObject(m_hbmImageLight);
-    m_hbmImageLight = nullptr;
 }
 
 void CMFCToolBarImages::UpdateCount() {
@@ -183,6 +181,7 @@ BOOL CMFCToolBarImages::CopyTo(CMFCToolBarImages& imageList) {
     imageList.m_iCount = m_iCount;
     imageList.m_nBitsPerPixel = m_nBitsPerPixel;
     imageList.m_dblScale = m_dblScale;
+    imageList.m_mappedColors = m_mappedColors;
     for (POSITION position = m_mapOffsets.GetStartPosition(); position != nullptr;) {
         UINT id = 0;
         int offset = 0;
@@ -347,7 +346,5 @@ BOOL CMFCToolBarImages::SmoothResize(double dblImageScale) {
 }
 
 void CMFCToolBarImages::SetLightPercentage(int nValue) { m_nLightPercentage = nValue; }
-
-void CMFCToolBarImages::OnSysColorChange() { SetWell(m_hbmImageWell); }
 
 void __stdcall CMFCToolBarImages::EnableRTL(BOOL bIsRTL) { m_bIsRTL = bIsRTL; }

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 // Lists as files, on the clipboard and from image lists; changes of colours; single bitmaps.
@@ -45,6 +46,15 @@ COLORREF FromSystem(COLORREF color) {
     const auto isIt = [color](const SystemColor& entry) { return ::GetSysColor(entry.index) == color; };
     const auto* const found = std::ranges::find_if(buttonColors, isIt);
     return found != buttonColors.end() ? found->usual : color;
+}
+
+/// The system's colours for the usual ones, in the order of the table.
+std::vector<COLORREF> PresentColors() {
+    std::vector<COLORREF> present;
+    for (const SystemColor& entry : buttonColors) {
+        present.push_back(::GetSysColor(entry.index));
+    }
+    return present;
 }
 
 void ChangePixels(const PixelView& view, auto change) {
@@ -237,7 +247,24 @@ BOOL CMFCToolBarImages::MapTo3dColors(BOOL, COLORREF clrSrc, COLORREF clrDest) {
         }
         return color == transparent ? pixel : visual::FromColorRef(ToSystem(color));
     });
+    if (!isOneColor) {
+        m_mappedColors = PresentColors();
+    }
     return TRUE;
+}
+
+// What was mapped to the system's colours follows them.
+void CMFCToolBarImages::OnSysColorChange() {
+    if (m_mappedColors.empty()) {
+        return;
+    }
+    const std::vector<COLORREF> before = std::exchange(m_mappedColors, PresentColors());
+    ChangePixels(ViewOf(m_hbmImageWell), [&](std::uint32_t pixel) {
+        const COLORREF color = visual::ToColorRef(pixel);
+        const auto found = std::ranges::find(before, color);
+        const bool isMapped = found != before.end() && color != m_clrTransparent;
+        return isMapped ? visual::FromColorRef(m_mappedColors[found - before.begin()]) : pixel;
+    });
 }
 
 COLORREF __stdcall CMFCToolBarImages::MapToSysColor(COLORREF color, BOOL bUseRGBQUAD) {

@@ -2,6 +2,7 @@
 
 #include "afxglobals.h"
 #include "afxvisualmanager.h"
+#include "visual/tooltip_width.h"
 
 #include <algorithm>
 #include <array>
@@ -81,6 +82,8 @@ BOOL CTooltipManager::CreateToolTip(CToolTipCtrl*& pToolTip, CWnd* pWndParent, U
         delete made;
         return FALSE;
     }
+    if (afxGlobalData.m_nMaxToolTipWidth > 0)
+        made->SetMaxTipWidth(tooltip::WidestText());
     made->Activate(TRUE);
     Live().push_back({made, pWndParent, nType});
     pToolTip = made;
@@ -104,7 +107,7 @@ void CTooltipManager::SetTooltipText(TOOLINFO* pTI, CToolTipCtrl* pToolTip, UINT
     if (CMFCToolTipCtrl* const own = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, pToolTip))
         own->SetDescription(lpszDescr);
     if (pToolTip != nullptr && strText.Find(L'\n') >= 0)
-        pToolTip->SetMaxTipWidth(afxGlobalData.ScalePixels(640));
+        pToolTip->SetMaxTipWidth(tooltip::WidestText());
     // The control copies the text and the caller frees it, as for all texts of tool descriptions.
     pTI->lpszText = static_cast<LPWSTR>(calloc(static_cast<size_t>(strText.GetLength()) + 1, sizeof(wchar_t)));
     if (pTI->lpszText != nullptr)

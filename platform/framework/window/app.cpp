@@ -193,13 +193,14 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
 }
 
 void CWinApp::DoWaitCursor(int nCode) {
+    const bool wasWaiting = m_waitCursorCount > 0;
     m_waitCursorCount = std::max(0, m_waitCursorCount + nCode);
     if (m_waitCursorCount > 0) {
         const HCURSOR before = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
         if (nCode > 0 && m_waitCursorCount == 1) {
             m_waitCursorRestore = before;
         }
-    } else if (nCode < 0) {
+    } else if (wasWaiting) {
         ::SetCursor(m_waitCursorRestore);
     }
 }
@@ -243,6 +244,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCm
         app->SetCurrentHandles(hInstance, lpCmdLine, nCmdShow);
         fx::CurrentThread().thread = app;
     }
+    fx::CurrentThread().messageFilter = std::make_unique<fx::MessageFilterHook>();
     return TRUE;
 }
 
@@ -264,6 +266,7 @@ int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmd
 }
 
 void AFXAPI AfxWinTerm() {
+    fx::CurrentThread().messageFilter.reset();
     CWnd::DeleteTempMap();
     CMenu::DeleteTempMap();
 }

@@ -37,8 +37,6 @@ bool WriteValue(HKEY key, LPCTSTR entry, DWORD type, const void* data, std::size
                                              static_cast<DWORD>(size)) == ERROR_SUCCESS;
 }
 
-constexpr DWORD IniTextLimit = 4096;
-
 /// .ini files hold text: each byte as two letters from 'A'.
 std::wstring EncodeBytes(const BYTE* data, UINT count) {
     std::wstring text;
@@ -48,6 +46,20 @@ std::wstring EncodeBytes(const BYTE* data, UINT count) {
         text += static_cast<wchar_t>(L'A' + (data[index] >> 4));
     }
     return text;
+}
+
+std::wstring ReadIniText(LPCTSTR section, LPCTSTR entry, LPCTSTR fallback, LPCTSTR file) {
+    std::wstring text(256, L'\0');
+    for (;;) {
+        const auto size = static_cast<DWORD>(text.size());
+        const DWORD length = ::GetPrivateProfileString(section, entry, fallback, text.data(), size, file);
+        // A text that was cut fills all but the closing zero.
+        if (length + 1 < size) {
+            text.resize(length);
+            return text;
+        }
+        text.resize(text.size() * 2);
+    }
 }
 
 } // namespace
@@ -103,9 +115,7 @@ BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue
 CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault) {
     const LPCTSTR fallback = lpszDefault != nullptr ? lpszDefault : L"";
     if (m_pszRegistryKey == nullptr) {
-        std::vector<wchar_t> text(IniTextLimit);
-        ::GetPrivateProfileString(lpszSection, lpszEntry, fallback, text.data(), IniTextLimit, m_pszProfileName);
-        return CString(text.data());
+        return CString(ReadIniText(lpszSection, lpszEntry, fallback, m_pszProfileName).c_str());
     }
     const Key section(GetSectionKey(lpszSection));
     std::vector<BYTE> bytes;

@@ -8,6 +8,7 @@
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
 #include "window/frame_border.h"
+#include "window/maximized_place.h"
 
 namespace {
 
@@ -21,13 +22,35 @@ bool IsShownRibbonThatReplacesCaption(const CMFCRibbonBar* ribbon) {
     return ribbon != nullptr && ribbon->IsReplaceFrameCaption() && ribbon->IsVisible();
 }
 
-// An edge where a task bar hides must keep one pixel free, or the bar never comes out.
-void LeaveRoomForHiddenBars(CRect& area) {
-    const int edges = afxGlobalData.GetShellAutohideBars();
-    area.left += (edges >> ABE_LEFT) & 1;
-    area.top += (edges >> ABE_TOP) & 1;
-    area.right -= (edges >> ABE_RIGHT) & 1;
-    area.bottom -= (edges >> ABE_BOTTOM) & 1;
+/// The shell tells of the primary monitor's hidden bars and, asked by rectangle, of every other's.
+UINT HiddenBars(const MONITORINFO& monitor) {
+    if ((monitor.dwFlags & MONITORINFOF_PRIMARY) != 0) {
+        return static_cast<UINT>(afxGlobalData.GetShellAutohideBars());
+    }
+    UINT edges = 0;
+    for (const UINT edge : {ABE_LEFT, ABE_TOP, ABE_RIGHT, ABE_BOTTOM}) {
+        APPBARDATA bar{};
+        bar.cbSize = sizeof(bar);
+        bar.uEdge = edge;
+        bar.rc = monitor.rcMonitor;
+        if (::SHAppBarMessage(ABM_GETAUTOHIDEBAREX, &bar) != 0) {
+            edges |= 1U << edge;
+        }
+    }
+    return edges;
+}
+
+bool ReadSurroundings(HMONITOR shown, MaximizedSurroundings& around) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    MONITORINFO primary{};
+    primary.cbSize = sizeof(primary);
+    if (!::GetMonitorInfoW(shown, &monitor) ||
+        !::GetMonitorInfoW(::MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY), &primary)) {
+        return false;
+    }
+    around = {monitor.rcMonitor, monitor.rcWork, primary.rcMonitor, HiddenBars(monitor)};
+    return true;
 }
 
 } // namespace
@@ -91,19 +114,42 @@ void CFrameImpl::OnNcActivate(bool isActive) {
 }
 
 void CFrameImpl::OnGetMinMaxInfo(MINMAXINFO& info) const {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    if (!::GetMonitorInfoW(::MonitorFromWindow(m_frame->m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor)) {
+    MaximizedSurroundings around{};
+    if (!ReadSurroundings(::MonitorFromWindow(m_frame->m_hWnd, MONITOR_DEFAULTTONEAREST), around)) {
         return;
     }
-    CRect area(monitor.rcWork);
-    if (::EqualRect(&monitor.rcWork, &monitor.rcMonitor)) {
-        LeaveRoomForHiddenBars(area);
+    const MaximizedRequest request = RequestMaximized(around);
+    const CRect frame = MaximizedFrameRect(around);
+    info.ptMaxPosition = request.position;
+    info.ptMaxSize = {request.size.cx, request.size.cy};
+    info.ptMaxTrackSize.x = std::max<LONG>(info.ptMaxTrackSize.x, frame.Width());
+    info.ptMaxTrackSize.y = std::max<LONG>(info.ptMaxTrackSize.y, frame.Height());
+}
+
+void CFrameImpl::OnWindowPosChanging(WINDOWPOS& place) const {
+    const bool moves = (place.flags & SWP_NOMOVE) == 0;
+    const bool sizes = (place.flags & SWP_NOSIZE) == 0;
+    if ((!moves && !sizes) || !m_frame->IsZoomed() || m_frame->IsIconic()) {
+        return;
     }
-    info.ptMaxPosition = {area.left - monitor.rcMonitor.left, area.top - monitor.rcMonitor.top};
-    info.ptMaxSize = {area.Width(), area.Height()};
-    info.ptMaxTrackSize.x = std::max<LONG>(info.ptMaxTrackSize.x, area.Width());
-    info.ptMaxTrackSize.y = std::max<LONG>(info.ptMaxTrackSize.y, area.Height());
+    CRect proposed;
+    m_frame->GetWindowRect(&proposed);
+    if (moves) {
+        proposed.MoveToXY(place.x, place.y);
+    }
+    if (sizes) {
+        proposed.right = proposed.left + place.cx;
+        proposed.bottom = proposed.top + place.cy;
+    }
+    MaximizedSurroundings around{};
+    if (!ReadSurroundings(::MonitorFromRect(&proposed, MONITOR_DEFAULTTONEAREST), around)) {
+        return;
+    }
+    const CRect frame = MaximizedFrameRect(around);
+    place.x = frame.left;
+    place.y = frame.top;
+    place.cx = frame.Width();
+    place.cy = frame.Height();
 }
 
 // The ribbon paints itself anew when its width changes; the buttons in its caption tell whether the frame is maximised.

@@ -18,7 +18,8 @@ LRESULT CFrameImpl::OnDefault(UINT message, WPARAM wParam, LPARAM lParam, System
     case WM_ERASEBKGND:
         return OnEraseBkgnd(reinterpret_cast<HDC>(wParam), system);
     case WM_SYSCOLORCHANGE:
-    case WM_SETTINGCHANGE: {
+    case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED: {
         const LRESULT result = system(*m_frame, message, wParam, lParam);
         OnSystemChange();
         return result;
@@ -79,11 +80,14 @@ LRESULT CFrameImpl::DefaultWithCaption(UINT message, WPARAM wParam, LPARAM lPara
         }
         break;
     case WM_GETMINMAXINFO:
+    case WM_WINDOWPOSCHANGING:
     case WM_WINDOWPOSCHANGED:
     case WM_SETTEXT: {
         const LRESULT result = system(*m_frame, message, wParam, lParam);
         if (message == WM_GETMINMAXINFO) {
             OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
+        } else if (message == WM_WINDOWPOSCHANGING) {
+            OnWindowPosChanging(*reinterpret_cast<WINDOWPOS*>(lParam));
         } else if (message == WM_WINDOWPOSCHANGED) {
             OnWindowPosChanged(*reinterpret_cast<const WINDOWPOS*>(lParam));
         } else {

@@ -16,6 +16,7 @@ ON_WM_SIZE()
 ON_WM_SETFOCUS()
 ON_WM_ACTIVATE()
 ON_WM_QUERYENDSESSION()
+ON_WM_ENDSESSION()
 ON_WM_INITMENUPOPUP()
 ON_WM_MENUSELECT()
 ON_WM_SYSCOMMAND()
@@ -157,6 +158,16 @@ void CFrameWnd::OnClose() {
 BOOL CFrameWnd::OnQueryEndSession() {
     CWinApp* application = AfxGetApp();
     return !application || application->m_pMainWnd != this || application->SaveAllModified();
+}
+
+void CFrameWnd::OnEndSession(BOOL bEnding) {
+    CWinApp* application = AfxGetApp();
+    if (!bEnding || !application || application->m_pMainWnd != this) {
+        CWnd::OnEndSession(bEnding);
+        return;
+    }
+    DestroyWindow(); // deletes the frame
+    application->EndSession();
 }
 
 BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName) {

@@ -48,7 +48,7 @@ HMENU CMenu::Detach() {
 
 CMenu* PASCAL CMenu::FromHandlePermanent(HMENU hMenu) { return fx::CurrentThread().menus.LookupPermanent(hMenu); }
 CMenu* PASCAL CMenu::FromHandle(HMENU hMenu) {
-    return fx::CurrentThread().menus.FromHandle(hMenu, RUNTIME_CLASS(CMenu));
+    return fx::CurrentThread().menus.FromHandle(hMenu, RUNTIME_CLASS(CMenu), fx::HandlerDepth());
 }
 void PASCAL CMenu::DeleteTempMap() { fx::CurrentThread().menus.DeleteTemp(); }
 

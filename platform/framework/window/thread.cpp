@@ -56,6 +56,7 @@ int CWinThread::RunThread() {
     if (m_pfnThreadProc != nullptr) {
         result = static_cast<int>(m_pfnThreadProc(m_pThreadParams));
     } else {
+        fx::CurrentThread().messageFilter = std::make_unique<fx::MessageFilterHook>();
         result = InitInstance() ? Run() : ExitInstance();
     }
     if (CWnd* main = std::exchange(m_pMainWnd, nullptr)) {
@@ -63,6 +64,7 @@ int CWinThread::RunThread() {
     }
     CWnd::DeleteTempMap();
     CMenu::DeleteTempMap();
+    fx::CurrentThread().messageFilter.reset();
     fx::CurrentThread().thread = nullptr;
     if (m_bAutoDelete) {
         delete this;
@@ -96,7 +98,8 @@ int CWinThread::Run() {
         }
         do {
             if (!PumpMessage()) {
-                return ExitInstance();
+                // The end of the session has taken it beforehand, while there was time.
+                return std::exchange(m_hasEndedWithSession, false) ? static_cast<int>(pumped.wParam) : ExitInstance();
             }
             if (IsIdleMessage(&pumped)) {
                 isIdle = true;
@@ -104,6 +107,11 @@ int CWinThread::Run() {
             }
         } while (::PeekMessage(&next, nullptr, 0, 0, PM_NOREMOVE));
     }
+}
+
+void CWinThread::EndSession() {
+    m_hasEndedWithSession = true;
+    ExitInstance();
 }
 
 void CWinThread::RunIdle() {
@@ -153,9 +161,7 @@ BOOL CWinThread::OnIdle(LONG lCount) {
             }
         }
     } else if (lCount == 1) {
-        CWnd::DeleteTempMap();
-        CMenu::DeleteTempMap();
-        AfxDeleteTemporaryGdiObjects();
+        fx::DeleteReleasedTemporaries();
     }
     return lCount <= 0;
 }
@@ -207,7 +213,9 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
     return FALSE;
 }
 
-BOOL CWinThread::ProcessMessageFilter(int, LPMSG) { return FALSE; }
+BOOL CWinThread::ProcessMessageFilter(int code, LPMSG lpMsg) {
+    return lpMsg != nullptr && fx::HandleHelpKey(code, *lpMsg);
+}
 
 LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
     if (pMsg->message == WM_CREATE) {

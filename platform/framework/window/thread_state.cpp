@@ -1,5 +1,7 @@
 #include "window/thread_state.h"
 
+#include "gdi/gdi_maps.h"
+
 namespace fx {
 namespace {
 
@@ -27,6 +29,13 @@ ThreadState::ThreadState() : windows(MakeTemporaryWindow, ReleaseWindow), menus(
 ThreadState& CurrentThread() {
     static thread_local ThreadState state;
     return state;
+}
+
+void DeleteReleasedTemporaries() {
+    ThreadState& state = CurrentThread();
+    state.windows.DeleteReleasedTemp(HandlerDepth());
+    state.menus.DeleteReleasedTemp(HandlerDepth());
+    DeleteReleasedGdiObjects();
 }
 
 } // namespace fx

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "core/handler_depth.h"
 #include "fx/handle_map.h"
 #include "fx/menu.h"
 #include "fx/wnd.h"
+#include "window/message_filter.h"
+
+#include <memory>
 
 class CWinThread;
 
@@ -27,11 +31,15 @@ struct ThreadState {
     MSG handled = {}; ///< the window message being handled: what CWnd::Default repeats
     MSG pumped = {};  ///< the last message that the loop took from the queue
     WindowCreationHook* creation = nullptr;
+    std::unique_ptr<MessageFilterHook> messageFilter; ///< of threads whose object handles messages
     HWND exchanging = nullptr;   ///< whose controls UpdateData fills or reads: what they notify meanwhile is no user's
     HMENU trackedMenu = nullptr; ///< the popup menu that is open by RunPopupMenu
     ToolTipState toolTip;
 };
 
 ThreadState& CurrentThread();
+
+/// At idle: the temporary objects of the calling thread that no running handler holds, of windows, menus and GDI.
+void DeleteReleasedTemporaries();
 
 } // namespace fx

@@ -207,7 +207,9 @@ HWND CWnd::Detach() {
     return std::exchange(m_hWnd, nullptr);
 }
 
-CWnd* PASCAL CWnd::FromHandle(HWND hWnd) { return fx::CurrentThread().windows.FromHandle(hWnd, RUNTIME_CLASS(CWnd)); }
+CWnd* PASCAL CWnd::FromHandle(HWND hWnd) {
+    return fx::CurrentThread().windows.FromHandle(hWnd, RUNTIME_CLASS(CWnd), fx::HandlerDepth());
+}
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd) { return fx::CurrentThread().windows.LookupPermanent(hWnd); }
 void PASCAL CWnd::DeleteTempMap() { fx::CurrentThread().windows.DeleteTemp(); }
 HWND CWnd::GetSafeHwnd() const { return this == nullptr ? nullptr : m_hWnd; }

@@ -3,6 +3,7 @@
 #include "fx/cmdui.h"
 #include "fx/exceptions.h"
 #include "fx/message_shapes.h"
+#include "core/scoped_change.h"
 #include "window/message_map.h"
 #include "window/thread_state.h"
 
@@ -22,6 +23,7 @@ public:
 private:
     fx::ThreadState& m_state;
     MSG m_before;
+    fx::ScopedChange<int> m_depth{fx::HandlerDepth(), fx::HandlerDepth() + 1};
 };
 
 bool IsControlColour(UINT message) { return message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC; }

@@ -15,6 +15,8 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
     ASSERT(m_hWnd != nullptr && !m_isInModalLoop);
     const fx::ScopedChange<bool> inLoop(m_isInModalLoop, true);
     const fx::ScopedChange<bool> continues(m_continuesModal, true); // ends with the scope, as it began
+    // Whoever runs the loop may hold temporary objects.
+    const fx::ScopedChange<int> depth(fx::HandlerDepth(), fx::HandlerDepth() + 1);
     m_nModalResult = -1;
     bool isHidden = (dwFlags & MLF_SHOWONIDLE) != 0 && (GetStyle() & WS_VISIBLE) == 0;
     bool isIdle = true;
@@ -37,6 +39,7 @@ int CWnd::RunModalLoop(DWORD dwFlags) {
             if ((dwFlags & MLF_NOKICKIDLE) != 0 ||
                 ::SendMessage(m_hWnd, WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++) == 0) {
                 isIdle = false;
+                fx::DeleteReleasedTemporaries();
             }
         }
         do {

@@ -45,6 +45,15 @@ TEST_F(SystemChange, ASettingDrawsTheRibbonAgain) {
     EXPECT_TRUE(::GetUpdateRect(frame.bar.m_hWnd, nullptr, FALSE));
 }
 
+TEST_F(SystemChange, AnotherThemeDrawsTheRibbonAgainInItsColours) {
+    frame.bar.UpdateWindow();
+    PumpPending();
+    afxGlobalData.clrBarFace = RGB(1, 2, 3);
+    frame.SendMessage(WM_THEMECHANGED);
+    EXPECT_EQ(afxGlobalData.clrBarFace, ::GetSysColor(COLOR_3DFACE));
+    EXPECT_TRUE(::GetUpdateRect(frame.bar.m_hWnd, nullptr, FALSE));
+}
+
 TEST_F(SystemChange, ASettingThatChangesNoFontLeavesTheFontsInTheControlsThatShowThem) {
     const HGDIOBJ regular = afxGlobalData.fontRegular.GetSafeHandle();
     const HGDIOBJ bold = afxGlobalData.fontBold.GetSafeHandle();

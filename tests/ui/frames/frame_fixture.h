@@ -27,6 +27,23 @@ extern Route g_route;
 class FrameTestApplication : public CWinApp {
 public:
     BOOL OnTestCommand(UINT) { return g_route.Ask("application"); }
+    BOOL SaveAllModified() override {
+        ++saves;
+        return canSave;
+    }
+    int ExitInstance() override {
+        ++exits;
+        return CWinApp::ExitInstance();
+    }
+    BOOL ProcessMessageFilter(int code, LPMSG message) override {
+        filtered.push_back(code);
+        return CWinApp::ProcessMessageFilter(code, message);
+    }
+
+    int saves = 0;
+    int exits = 0;
+    BOOL canSave = TRUE;
+    std::vector<int> filtered; ///< the codes that ProcessMessageFilter got
     DECLARE_MESSAGE_MAP()
 };
 extern FrameTestApplication g_application;

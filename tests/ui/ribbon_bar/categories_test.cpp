@@ -33,6 +33,17 @@ TEST_F(RibbonBarTest, AHiddenCategoryCannotBecomeActive) {
     EXPECT_FALSE(Bar().GetCategory(0)->IsActive());
 }
 
+TEST_F(RibbonBarTest, NeitherTheMainCategoryNorAStrangeOneCanBecomeActive) {
+    CMFCRibbonCategory* active = Bar().GetActiveCategory();
+    Bar().AddMainCategory(L"Main", 0, 0);
+    ASSERT_NE(Bar().GetMainCategory(), nullptr);
+    EXPECT_FALSE(Bar().SetActiveCategory(Bar().GetMainCategory()));
+    EXPECT_FALSE(Bar().SetActiveCategory(nullptr));
+    CMFCRibbonBar other;
+    EXPECT_FALSE(Bar().SetActiveCategory(other.AddCategory(L"Elsewhere", 0, 0)));
+    EXPECT_EQ(Bar().GetActiveCategory(), active);
+}
+
 TEST_F(RibbonBarTest, HidingTheActiveCategoryActivatesAnother) {
     Bar().ShowCategory(0, FALSE);
     EXPECT_EQ(Bar().GetActiveCategory(), Bar().GetCategory(1));

@@ -46,6 +46,20 @@ TEST_F(QuickAccessTest, CommandsAreCopiesLinkedToTheirOriginals) {
     EXPECT_EQ(both.GetSize(), 2);
 }
 
+TEST_F(QuickAccessTest, ACommandOfAHiddenCategoryIsFoundByItsCopyUnlessCopiesAreLeftOut) {
+    CMFCRibbonBaseElement* original = Bar().FindByID(commands::find);
+    ASSERT_NE(original, nullptr);
+    SetCommands({commands::find});
+    EXPECT_EQ(Bar().FindByID(commands::find), original) << "the first of both";
+    Bar().ShowCategory(1, FALSE);
+    CMFCRibbonBaseElement* found = Bar().FindByID(commands::find);
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found, CopyOf(commands::find));
+    EXPECT_EQ(found->GetOriginal(), original);
+    EXPECT_EQ(Bar().FindByID(commands::find, TRUE, TRUE), nullptr);
+    EXPECT_EQ(Bar().FindByID(commands::find, FALSE, TRUE), original);
+}
+
 TEST_F(QuickAccessTest, SeparatorsAreShownAndNotListedAndUnknownCommandsLeftOut) {
     SetCommands({commands::cut, 0, 9999, commands::find});
     EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::cut, commands::find))

@@ -1,3 +1,5 @@
+#include "afxglobals.h"
+#include "tests/support/scoped_value.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
 namespace {
@@ -30,6 +32,13 @@ TEST_F(RibbonTooltipTest, WithoutTooltipsThereIsNoControl) {
     EXPECT_TRUE(Bar().IsToolTipEnabled());
     EXPECT_FALSE(Bar().IsToolTipDescrEnabled());
     EXPECT_NE(Bar().GetToolTipCtrl(), nullptr);
+}
+
+TEST_F(RibbonTooltipTest, TheHostSaysHowWideTheTextMayGet) {
+    EXPECT_EQ(Bar().GetToolTipCtrl()->GetMaxTipWidth(), afxGlobalData.ScalePixels(640));
+    const ScopedValue<int> widest(afxGlobalData.m_nMaxToolTipWidth, 120);
+    Bar().EnableToolTips(TRUE);
+    EXPECT_EQ(Bar().GetToolTipCtrl()->GetMaxTipWidth(), 120);
 }
 
 TEST_F(RibbonTooltipTest, TheToolFollowsTheElementUnderThePointer) {

@@ -212,4 +212,29 @@ TEST_F(SplitButton, ARowWithACommandOfItsOwnHasBothParts) {
     EXPECT_EQ(OpenCount(), 0);
 }
 
+/// What host bars post for an element after its context menu.
+constexpr auto kContextMenuShown = static_cast<UINT>(-11);
+
+TEST_F(SubItems, AMenuCommandOfAnElementInTheBarClosesWhatItHasOpenAndSendsNothing) {
+    Click(Shapes());
+    ASSERT_EQ(OpenCount(), 1);
+    Shapes().PostMenuCommand(kContextMenuShown);
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_FALSE(Shapes().IsDroppedDown());
+    MSG message;
+    EXPECT_FALSE(::PeekMessageW(&message, nullptr, WM_COMMAND, WM_COMMAND, PM_NOREMOVE));
+    PumpPending();
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+}
+
+TEST_F(SubItems, AMenuCommandOfAnElementInAPopUpClosesThePopUpLater) {
+    Click(Shapes());
+    SubItem(0).PostMenuCommand(kContextMenuShown);
+    EXPECT_EQ(OpenCount(), 1) << "whoever calls still runs in it";
+    PumpPending();
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_FALSE(Shapes().IsDroppedDown());
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+}
+
 } // namespace

@@ -11,6 +11,32 @@ TEST_F(ToolBarTest, UserImagesMustHaveTheBarsImageSize) {
     CMFCToolBar::SetUserImages(nullptr);
 }
 
+TEST_F(ToolBarTest, AnotherLookGivesTheSharedImagesTheSystemsColours) {
+    CMFCToolBarImages& images = *CMFCToolBar::GetImages();
+    images.Clear();
+    images.SetTransparentColor(RGB(1, 1, 1));
+    const HBITMAP bitmap = ::CreateBitmap(16, 15, 1, 32, std::vector<DWORD>(16 * 15, 0x00808080).data());
+    ASSERT_EQ(images.AddImage(bitmap), 0);
+    ::DeleteObject(bitmap);
+    ASSERT_TRUE(images.MapTo3dColors());
+    const int index = COLOR_BTNSHADOW;
+    const COLORREF before = ::GetSysColor(index);
+    const COLORREF other = RGB(10, 120, 30);
+    ASSERT_TRUE(::SetSysColors(1, &index, &other));
+    Bar().UpdateWindow();
+    Bar().OnChangeVisualManager();
+    EXPECT_TRUE(::GetUpdateRect(Bar().m_hWnd, nullptr, FALSE)) << "the buttons show the images";
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CBitmap target;
+    target.Attach(::CreateBitmap(16, 15, 1, 32, nullptr));
+    CBitmap* const former = dc.SelectObject(&target);
+    images.DrawEx(&dc, CRect(0, 0, 16, 15), 0);
+    EXPECT_EQ(dc.GetPixel(8, 8), other);
+    dc.SelectObject(former);
+    ::SetSysColors(1, &index, &before);
+}
+
 TEST_F(ToolBarTest, AnUnlockedButtonsImageIsTheCommandsImage) {
     EXPECT_EQ(GetCmdMgr()->GetCmdImage(3002), 1);
     EXPECT_EQ(GetCmdMgr()->GetCmdImage(3002, TRUE), -1);

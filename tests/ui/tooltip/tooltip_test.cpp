@@ -1,7 +1,9 @@
+#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
 
 #include "afxglobals.h"
 #include "afxtooltipctrl.h"
+#include "afxtooltipmanager.h"
 #include "visual/tooltip_layout.h"
 #include "visual/tooltip_text.h"
 
@@ -131,6 +133,29 @@ TEST(Tooltip, ChineseWithoutSpacesIsWrappedToo) {
     stage.tooltip.SetFixedWidth(150, 0);
     const CRect rect = stage.Show(L"\u6253\u5F00", std::wstring(60, L'\u56FE').c_str());
     EXPECT_LE(rect.Width(), afxGlobalData.ScalePixels(150));
+}
+
+TEST(Tooltip, TheHostsWidestWidthWrapsTheTextOfEveryKind) {
+    TestWindow window;
+    const ScopedValue<int> widest(afxGlobalData.m_nMaxToolTipWidth, 90);
+    for (const UINT type : {AFX_TOOLTIP_TYPE_TOOLBAR, AFX_TOOLTIP_TYPE_RIBBON, AFX_TOOLTIP_TYPE_DOCKBAR}) {
+        CToolTipCtrl* tooltip = nullptr;
+        ASSERT_TRUE(CTooltipManager::CreateToolTip(tooltip, &window, type));
+        EXPECT_EQ(tooltip->GetMaxTipWidth(), 90) << type;
+        TOOLINFO info{};
+        CTooltipManager::SetTooltipText(&info, tooltip, type, L"first\nsecond");
+        free(info.lpszText);
+        EXPECT_EQ(tooltip->GetMaxTipWidth(), 90) << "a second line changes nothing";
+        CTooltipManager::DeleteToolTip(tooltip);
+    }
+}
+
+TEST(Tooltip, WithoutAWidestWidthALineStaysOne) {
+    TestWindow window;
+    CToolTipCtrl* tooltip = nullptr;
+    ASSERT_TRUE(CTooltipManager::CreateToolTip(tooltip, &window, AFX_TOOLTIP_TYPE_TOOLBAR));
+    EXPECT_EQ(tooltip->GetMaxTipWidth(), -1);
+    CTooltipManager::DeleteToolTip(tooltip);
 }
 
 TEST(Tooltip, StaysInsideTheWorkArea) {

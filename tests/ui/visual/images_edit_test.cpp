@@ -179,6 +179,46 @@ TEST_F(Images, OneColourOrTheButtonColoursAreReplaced) {
     EXPECT_FALSE(m_images.MapTo3dColors()) << "colours with alpha stay";
 }
 
+/// Another system colour for a scope.
+class ScopedSysColor {
+public:
+    ScopedSysColor(int index, COLORREF color) : m_index(index), m_before(::GetSysColor(index)) {
+        ::SetSysColors(1, &m_index, &color);
+    }
+    ~ScopedSysColor() { ::SetSysColors(1, &m_index, &m_before); }
+    ScopedSysColor(const ScopedSysColor&) = delete;
+    ScopedSysColor& operator=(const ScopedSysColor&) = delete;
+
+private:
+    const int m_index;
+    const COLORREF m_before;
+};
+
+TEST_F(Images, ColoursThatWereMappedToTheSystemsFollowThem) {
+    CMFCToolBarImages mapped;
+    mapped.SetImageSize(CSize(4, 4));
+    mapped.SetTransparentColor(RGB(1, 1, 1));
+    const HBITMAP strip = Strip({0x00808080, 0x00C00000});
+    ASSERT_EQ(mapped.AddImage(strip), 0);
+    CMFCToolBarImages plain;
+    ASSERT_TRUE(mapped.CopyTo(plain));
+    ::DeleteObject(strip);
+    ASSERT_TRUE(mapped.MapTo3dColors());
+    CMFCToolBarImages copy;
+    ASSERT_TRUE(mapped.CopyTo(copy));
+    const ScopedSysColor shadow(COLOR_BTNSHADOW, RGB(10, 120, 30));
+    for (CMFCToolBarImages* images : {&mapped, &copy}) {
+        images->OnSysColorChange();
+        images->DrawEx(&m_dc, CRect(0, 0, 4, 4), 0);
+        EXPECT_EQ(m_dc.GetPixel(1, 1), RGB(10, 120, 30));
+        images->DrawEx(&m_dc, CRect(0, 0, 4, 4), 1);
+        EXPECT_EQ(m_dc.GetPixel(1, 1), RGB(0xC0, 0, 0)) << "no colour of the system";
+    }
+    plain.OnSysColorChange();
+    plain.DrawEx(&m_dc, CRect(0, 0, 4, 4), 0);
+    EXPECT_EQ(m_dc.GetPixel(1, 1), RGB(0x80, 0x80, 0x80)) << "was not mapped";
+}
+
 TEST_F(Images, RegionHasThePixelsOfOtherColours) {
     const HBITMAP strip = Strip({0x00C00000, 0x0000C000, 0x00C00000});
     const HRGN region = CMFCToolBarImages::CreateRegionFromImage(strip, RGB(0xC0, 0, 0));

@@ -27,6 +27,45 @@ TEST_F(Images, DisabledIsGreyWithLessContrast) {
     EXPECT_LT(GetRValue(color), 0xF0);
 }
 
+TEST_F(Images, APreparedListDrawsAnyNumberOfTimesAndInEachState) {
+    const auto at = [this](int x) { return m_dc.GetPixel(x + 2, 1); };
+    CAfxDrawState state;
+    ASSERT_TRUE(m_images.PrepareDrawImage(state, CSize(0, 0), TRUE));
+    EXPECT_TRUE(m_images.Draw(&m_dc, 0, 0, 0));
+    EXPECT_TRUE(m_images.Draw(&m_dc, 4, 0, 0, FALSE, TRUE));
+    EXPECT_TRUE(m_images.Draw(&m_dc, 8, 0, 0, FALSE, FALSE, TRUE));
+    EXPECT_TRUE(m_images.Draw(&m_dc, 12, 0, 0, FALSE, FALSE, FALSE, TRUE));
+    EXPECT_TRUE(m_images.Draw(&m_dc, 16, 0, 0, FALSE, FALSE, FALSE, FALSE, TRUE));
+    EXPECT_TRUE(m_images.Draw(&m_dc, 20, 0, 0, FALSE, FALSE, FALSE, FALSE, FALSE, 128));
+    m_images.EndDrawImage(state);
+    const COLORREF plain = RGB(0xC0, 0, 0);
+    EXPECT_EQ(at(0), plain);
+    EXPECT_EQ(GetRValue(at(4)), GetGValue(at(4))) << "disabled: grey";
+    int drawn = 0;
+    for (int x = 8; x < 12; ++x) {
+        for (int y = 0; y < 4; ++y) {
+            const COLORREF pixel = m_dc.GetPixel(x, y);
+            EXPECT_TRUE(pixel == plain || pixel == RGB(255, 255, 255)) << "indeterminate: every other pixel";
+            drawn += pixel == plain ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(drawn, 8);
+    EXPECT_EQ(at(12), RGB(170, 170, 170)) << "shadow: a third of black";
+    EXPECT_GT(GetGValue(at(16)), 0) << "inactive: the ground shows through";
+    EXPECT_GT(GetRValue(at(16)), 0xC0);
+    EXPECT_NEAR(GetGValue(at(20)), 127, 2) << "half of it";
+}
+
+TEST_F(Images, OnlyAListThatIsPreparedToFadeDoes) {
+    CAfxDrawState state;
+    ASSERT_TRUE(m_images.PrepareDrawImage(state));
+    m_images.Draw(&m_dc, 0, 0, 0, FALSE, FALSE, FALSE, FALSE, TRUE);
+    m_images.EndDrawImage(state);
+    EXPECT_EQ(m_dc.GetPixel(1, 1), RGB(0xC0, 0, 0));
+    CMFCToolBarImages empty;
+    EXPECT_FALSE(empty.PrepareDrawImage(state)) << "there is nothing to draw";
+}
+
 TEST_F(Images, EndDrawImagePutsTheSizeBack) {
     CAfxDrawState state;
     ASSERT_TRUE(m_images.PrepareDrawImage(state, CSize(8, 8)));

@@ -1,9 +1,12 @@
 #include <afxdrawmanager.h>
 #include <afxglobals.h>
+#include <afxtoolbar.h>
 #include <afxtooltipmanager.h>
 #include <afxvisualmanageroffice2007.h>
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace {
 
@@ -70,6 +73,63 @@ TEST_F(VisualManager, StylesDifferInTheirTextColours) {
     EXPECT_EQ(CMFCVisualManager::GetInstance()->GetRibbonStatusBarTextColor(nullptr), RGB(0xF2, 0xF4, 0xF7));
     Manager::SetStyle(Manager::Office2007_LunaBlue);
     EXPECT_EQ(CMFCVisualManager::GetInstance()->GetRibbonStatusBarTextColor(nullptr), RGB(0x15, 0x42, 0x8B));
+}
+
+TEST_F(VisualManager, AStyleThatWasChosenBeforeIsTheNewManagers) {
+    using Manager = CMFCVisualManagerOffice2007;
+    ASSERT_TRUE(Manager::SetStyle(Manager::Office2007_ObsidianBlack));
+    EXPECT_EQ(m_window.m_changes, 0) << "no manager shows it yet";
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(Manager));
+    EXPECT_EQ(CMFCVisualManager::GetInstance()->GetRibbonStatusBarTextColor(nullptr), RGB(0xF2, 0xF4, 0xF7));
+}
+
+TEST_F(VisualManager, ThereIsOneAndItIsMadeAnewAfterItsEnd) {
+    CMFCVisualManager* const first = CMFCVisualManager::GetInstance();
+    EXPECT_EQ(CMFCVisualManager::GetInstance(), first);
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+    CMFCVisualManager::DestroyInstance();
+    EXPECT_EQ(CMFCVisualManager::GetInstance()->GetRuntimeClass(), RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+}
+
+/// How many columns and rows of a picture something was drawn in.
+CSize DrawnColumnsAndRows(CDC& dc, int side, COLORREF ground) {
+    std::set<int> columns;
+    std::set<int> rows;
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x)
+            if (dc.GetPixel(x, y) != ground) {
+                columns.insert(x);
+                rows.insert(y);
+            }
+    return {static_cast<int>(columns.size()), static_cast<int>(rows.size())};
+}
+
+TEST_F(VisualManager, TheSeparatorOfAHorizontalBarIsAVerticalLine) {
+    constexpr int side = 20;
+    constexpr COLORREF ground = RGB(255, 0, 255);
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    void* bits = nullptr;
+    CBitmap bitmap;
+    bitmap.Attach(CDrawingManager::CreateBitmap_32(CSize(side, side), &bits));
+    CBitmap* const previous = dc.SelectObject(&bitmap);
+    CMFCToolBar bar;
+    for (CRuntimeClass* kind : {RUNTIME_CLASS(CMFCVisualManager), RUNTIME_CLASS(CMFCVisualManagerOffice2003),
+                                RUNTIME_CLASS(CMFCVisualManagerOffice2007)}) {
+        CMFCVisualManager::SetDefaultManager(kind);
+        dc.FillSolidRect(0, 0, side, side, ground);
+        CMFCVisualManager::GetInstance()->OnDrawSeparator(&dc, &bar, CRect(0, 0, side, side), TRUE);
+        const CSize upright = DrawnColumnsAndRows(dc, side, ground);
+        EXPECT_LE(upright.cx, 2) << kind->m_lpszClassName;
+        EXPECT_GE(upright.cx, 1) << kind->m_lpszClassName;
+        EXPECT_GE(upright.cy, side / 2) << kind->m_lpszClassName;
+        dc.FillSolidRect(0, 0, side, side, ground);
+        CMFCVisualManager::GetInstance()->OnDrawSeparator(&dc, &bar, CRect(0, 0, side, side), FALSE);
+        const CSize lying = DrawnColumnsAndRows(dc, side, ground);
+        EXPECT_LE(lying.cy, 2) << kind->m_lpszClassName;
+        EXPECT_GE(lying.cx, side / 2) << kind->m_lpszClassName;
+    }
+    dc.SelectObject(previous);
 }
 
 TEST_F(VisualManager, DrawingLeavesNoGdiObjectSelectedOrBehind) {

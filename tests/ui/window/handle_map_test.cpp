@@ -1,3 +1,4 @@
+#include "afxpriv.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/ui_test.h"
 
@@ -47,6 +48,59 @@ TEST(HandleMap, IdleDeletesTemporaryObjectsAndLeavesTheirWindows) {
     RunIdle();
     EXPECT_TRUE(::IsWindow(foreign.Handle()));
     EXPECT_EQ(CWnd::FromHandle(foreign.Handle())->GetOwner(), &parent);
+}
+
+/// Its handler keeps a temporary object over a modal loop, in which another handler asks for one, too.
+class Holder : public TestWindow {
+public:
+    Holder() : m_outer(m_hWnd), m_inner(m_hWnd) {}
+
+    bool m_isHeldAlive = false;
+    bool m_isOtherGone = false;
+
+protected:
+    LRESULT OnRun(WPARAM, LPARAM) {
+        CWnd* const held = CWnd::FromHandle(m_outer.Handle());
+        held->SetOwner(&m_mark);
+        CFont* const font = CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT)));
+        PostMessage(WM_APP + 2);
+        RunModalLoop();
+        m_isHeldAlive = CWnd::FromHandle(m_outer.Handle())->GetOwner() == &m_mark &&
+                        CWnd::FromHandle(m_outer.Handle()) == held &&
+                        CFont::FromHandle(static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT))) == font;
+        m_isOtherGone = CWnd::FromHandle(m_inner.Handle())->GetOwner() == this;
+        return 0;
+    }
+    LRESULT OnAsk(WPARAM, LPARAM) {
+        CWnd::FromHandle(m_inner.Handle())->SetOwner(&m_mark);
+        return 0;
+    }
+    LRESULT OnKickIdle(WPARAM, LPARAM count) {
+        AfxGetThread()->OnIdle(static_cast<LONG>(count));
+        if (count == 2) {
+            EndModalLoop(0);
+        }
+        return count < 2;
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    TestWindow m_mark;
+    ForeignWindow m_outer;
+    ForeignWindow m_inner;
+};
+
+BEGIN_MESSAGE_MAP(Holder, CWnd)
+ON_MESSAGE(WM_APP + 1, &Holder::OnRun)
+ON_MESSAGE(WM_APP + 2, &Holder::OnAsk)
+ON_MESSAGE(WM_KICKIDLE, &Holder::OnKickIdle)
+END_MESSAGE_MAP()
+
+TEST(HandleMap, IdleInAModalLoopDeletesWhatNoRunningHandlerHolds) {
+    Holder holder;
+    holder.SendMessage(WM_APP + 1);
+    EXPECT_TRUE(holder.m_isHeldAlive);
+    EXPECT_TRUE(holder.m_isOtherGone);
 }
 
 TEST(HandleMap, IdleLeavesPermanentObjects) {

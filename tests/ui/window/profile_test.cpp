@@ -1,5 +1,8 @@
 #include "afxwinappex.h"
+#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+
+#include <filesystem>
 
 namespace {
 
@@ -54,6 +57,63 @@ TEST_F(Profile, SectionsOfTheApplicationLieBelowItsRegistryBase) {
     EXPECT_EQ(App()->GetInt(L"Width", -1), -1);
     App()->SetRegistryBase();
     EXPECT_STREQ(App()->GetRegistryBase(), L"Workspace");
+}
+
+/// Settings in an .ini file of the test's own.
+class IniProfile : public ::testing::Test {
+protected:
+    ~IniProfile() override { std::filesystem::remove(m_file); }
+
+    const std::wstring m_file =
+        (std::filesystem::temp_directory_path() / (L"barwright-" + std::to_wstring(::GetCurrentProcessId()) + L".ini"))
+            .wstring();
+    ScopedValue<LPCTSTR> m_noRegistry{App()->m_pszRegistryKey, nullptr};
+    ScopedValue<LPCTSTR> m_profile{App()->m_pszProfileName, m_file.c_str()};
+};
+
+TEST_F(IniProfile, TextsOfAnyLengthComeBackWhole) {
+    for (const int length : {0, 1, 254, 255, 256, 257, 4094, 4095, 4096, 10000}) {
+        std::wstring text;
+        for (int index = 0; index < length; ++index) {
+            text += static_cast<wchar_t>(L'a' + index % 26);
+        }
+        ASSERT_TRUE(App()->WriteProfileString(L"Section", L"Text", text.c_str()));
+        EXPECT_EQ(std::wstring(App()->GetProfileString(L"Section", L"Text")), text) << length;
+    }
+    const std::wstring fallback(5000, L'f');
+    EXPECT_EQ(std::wstring(App()->GetProfileString(L"Section", L"None", fallback.c_str())), fallback);
+}
+
+TEST_F(IniProfile, BytesOfAnyCountComeBackWhole) {
+    for (const UINT count : {1u, 2047u, 2048u, 9000u}) {
+        std::vector<BYTE> bytes(count);
+        for (UINT index = 0; index < count; ++index) {
+            bytes[index] = static_cast<BYTE>(index * 7);
+        }
+        ASSERT_TRUE(App()->WriteProfileBinary(L"Section", L"Bytes", bytes.data(), count));
+        LPBYTE found = nullptr;
+        UINT size = 0;
+        ASSERT_TRUE(App()->GetProfileBinary(L"Section", L"Bytes", &found, &size)) << count;
+        const std::unique_ptr<BYTE[]> owned(found);
+        EXPECT_EQ(std::vector<BYTE>(found, found + size), bytes) << count;
+    }
+}
+
+TEST(WaitCursor, AnEndWithoutABeginLeavesTheCursorAlone) {
+    CWinApp* const application = AfxGetApp();
+    const HCURSOR hand = ::LoadCursor(nullptr, IDC_HAND);
+    ::SetCursor(hand);
+    application->BeginWaitCursor();
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_WAIT));
+    application->EndWaitCursor();
+    EXPECT_EQ(::GetCursor(), hand);
+    const HCURSOR cross = ::LoadCursor(nullptr, IDC_CROSS);
+    ::SetCursor(cross);
+    application->EndWaitCursor();
+    EXPECT_EQ(::GetCursor(), cross);
+    application->BeginWaitCursor();
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_WAIT)) << "the superfluous end does not count";
+    application->EndWaitCursor();
 }
 
 TEST(Application, NamesComeFromTheProgramFileUnlessSet) {

@@ -50,6 +50,33 @@ TEST_F(HandleMap, TemporariesGoWithoutTheirHandle) {
     EXPECT_EQ(CHandled::s_destroyedWithHandle, 0);
 }
 
+TEST_F(HandleMap, WhatARunningHandlerAskedForStaysWhileOthersGo) {
+    const HANDLE inner = reinterpret_cast<HANDLE>(0x5678);
+    CHandled* const held = m_map.FromHandle(m_handle, RUNTIME_CLASS(CHandled), 1);
+    m_map.FromHandle(inner, RUNTIME_CLASS(CHandled), 2);
+    m_map.DeleteReleasedTemp(1);
+    EXPECT_EQ(m_map.LookupTemporary(m_handle), held);
+    EXPECT_EQ(m_map.LookupTemporary(inner), nullptr) << "its handler has returned";
+    m_map.DeleteReleasedTemp(0);
+    EXPECT_EQ(m_map.TemporaryCount(), 0u) << "no handler runs any more";
+}
+
+TEST_F(HandleMap, AnOuterHandlerThatAsksLaterHoldsItToo) {
+    CHandled* const object = m_map.FromHandle(m_handle, RUNTIME_CLASS(CHandled), 3);
+    EXPECT_EQ(m_map.FromHandle(m_handle, RUNTIME_CLASS(CHandled), 1), object);
+    EXPECT_EQ(m_map.FromHandle(m_handle, RUNTIME_CLASS(CHandled), 3), object);
+    m_map.DeleteReleasedTemp(1);
+    EXPECT_EQ(m_map.LookupTemporary(m_handle), object);
+}
+
+TEST_F(HandleMap, AStaleObjectThatARunningHandlerHoldsStaysToo) {
+    CHandled* const plain = m_map.FromHandle(m_handle, RUNTIME_CLASS(CHandled), 1);
+    m_map.FromHandle(m_handle, RUNTIME_CLASS(CHandledSpecial), 2);
+    m_map.DeleteReleasedTemp(1);
+    EXPECT_EQ(m_map.TemporaryCount(), 1u);
+    EXPECT_EQ(plain->m_handle, m_handle);
+}
+
 TEST_F(HandleMap, ThePermanentObjectComesFirst) {
     CHandled object;
     m_map.SetPermanent(m_handle, &object);

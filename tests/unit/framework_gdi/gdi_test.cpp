@@ -92,6 +92,88 @@ protected:
     }
 };
 
+/// A frame while something is dragged: its pixels are turned round, and back again by drawing it once more.
+class DragFrame : public MirroredCanvas {
+protected:
+    static constexpr RECT kFrame{6, 5, 20, 17};
+    static constexpr SIZE kWidth{2, 3};
+
+    void SetUp() override {
+        MirroredCanvas::SetUp();
+        m_dc->FillSolidRect(CRect(0, 0, g_width, g_height), blue);
+    }
+    /// What is drawn in yellow on blue, of a white brush. In logical units of the context as it is.
+    void ExpectBand(const CRect& outer, SIZE width) {
+        CRect inner(outer);
+        inner.DeflateRect(width);
+        for (int y = outer.top - 1; y <= outer.bottom; ++y) {
+            for (int x = outer.left - 1; x <= outer.right; ++x) {
+                const CPoint point(x, y);
+                const bool isOn = outer.PtInRect(point) && !inner.PtInRect(point);
+                ASSERT_EQ(m_dc->GetPixel(point), isOn ? RGB(255, 255, 0) : blue) << x << ' ' << y;
+            }
+        }
+    }
+    void ExpectNothing() {
+        m_dc->SetViewportOrg(0, 0);
+        ::SetLayout(*m_dc, 0);
+        for (int y = 0; y < g_height; ++y) {
+            for (int x = 0; x < g_width; ++x) {
+                ASSERT_EQ(m_dc->GetPixel(x, y), blue) << x << ' ' << y;
+            }
+        }
+    }
+
+    CBrush m_white{RGB(255, 255, 255)};
+};
+
+TEST_F(DragFrame, ItIsABandInsideTheRectangle) {
+    m_dc->DrawDragRect(&kFrame, kWidth, nullptr, kWidth, &m_white);
+    ExpectBand(kFrame, kWidth);
+    m_dc->DrawDragRect(&kFrame, kWidth, nullptr, kWidth, &m_white);
+    ExpectNothing();
+}
+
+TEST_F(DragFrame, InAScrolledContextItIsWhereOtherDrawingIs) {
+    m_dc->SetViewportOrg(9, 7);
+    m_dc->DrawDragRect(&kFrame, kWidth, nullptr, kWidth, &m_white);
+    ExpectBand(kFrame, kWidth);
+}
+
+TEST_F(DragFrame, InAMirroredContextItIsWhereOtherDrawingIs) {
+    const auto filled = Pixels([](CDC& dc) { dc.FillSolidRect(&kFrame, red); });
+    const auto framed = Pixels([this](CDC& dc) { dc.DrawDragRect(&kFrame, {20, 20}, nullptr, {}, &m_white); });
+    for (std::size_t at = 0; at < filled.size(); ++at) {
+        ASSERT_EQ(framed[at] != blue, filled[at] == red) << at % g_width << ' ' << at / g_width;
+    }
+}
+
+TEST_F(DragFrame, MovingItLeavesNothingWhereItWas) {
+    for (const int origin : {0, 5}) {
+        m_dc->SetViewportOrg(origin, origin);
+        const CRect next(9, 7, 23, 20);
+        m_dc->DrawDragRect(&kFrame, kWidth, nullptr, kWidth, &m_white);
+        m_dc->DrawDragRect(&next, {1, 1}, &kFrame, kWidth, &m_white);
+        ExpectBand(next, {1, 1});
+        CBrush other(RGB(255, 255, 255));
+        m_dc->DrawDragRect(&kFrame, kWidth, &next, {1, 1}, &m_white, &other);
+        ExpectBand(kFrame, kWidth);
+        m_dc->DrawDragRect(&kFrame, kWidth, nullptr, kWidth, &m_white);
+    }
+    ExpectNothing();
+}
+
+TEST_F(DragFrame, TheClipRegionOfTheContextStays) {
+    m_dc->IntersectClipRect(CRect(0, 0, 10, g_height));
+    m_dc->DrawDragRect(&kFrame, kWidth, nullptr, kWidth, &m_white);
+    CRect clip;
+    m_dc->GetClipBox(clip);
+    EXPECT_EQ(clip, CRect(0, 0, 10, g_height));
+    m_dc->SelectClipRgn(nullptr);
+    EXPECT_EQ(m_dc->GetPixel(7, 6), RGB(255, 255, 0));
+    EXPECT_EQ(m_dc->GetPixel(12, 6), blue);
+}
+
 TEST_F(Canvas, OwnedObjectsAreCountedAndDeleted) {
     const long before = AfxGdiObjectCount();
     HGDIOBJ handle = nullptr;

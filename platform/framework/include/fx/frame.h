@@ -136,7 +136,10 @@ protected:
     afx_msg void OnClose();
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    /// The main frame asks the application to save what was changed; any other has no objection.
     afx_msg BOOL OnQueryEndSession();
+    /// The main frame is destroyed and the application exits, so that both have stored what they keep.
+    afx_msg void OnEndSession(BOOL bEnding);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);

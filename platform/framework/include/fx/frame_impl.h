@@ -70,6 +70,9 @@ private:
     void OnNcActivate(bool isActive);
     /// A maximised frame covers the work area of its monitor, not the whole monitor.
     void OnGetMinMaxInfo(MINMAXINFO& info) const;
+    /// The system fits a maximised frame to the primary monitor and scales it for others, task bars left out of
+    /// account: the place that it proposes is corrected.
+    void OnWindowPosChanging(WINDOWPOS& place) const;
     void OnWindowPosChanged(const WINDOWPOS& place);
     void RedrawCaption();
     /// TRUE: the message is done. Double click on caption or icon, right click, press on the icon.

@@ -26,7 +26,8 @@ struct AFX_EXTENSION_MODULE {
 FRAMEWORK_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
 FRAMEWORK_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
 
-/// Switches the resource handle for a scope to a DLL's own module.
+/// Switches the calling thread's resource handle for a scope to a DLL's own module; other threads keep theirs. What
+/// AfxSetResourceHandle is given meanwhile stays with that module.
 class FRAMEWORK_API AFX_MAINTAIN_STATE2 {
 public:
     explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pModuleState) noexcept;
@@ -35,7 +36,7 @@ public:
     AFX_MAINTAIN_STATE2& operator=(const AFX_MAINTAIN_STATE2&) = delete;
 
 private:
-    HINSTANCE m_before;
+    AFX_MODULE_STATE* m_before;
 };
 struct AFX_MODULE_STATE {
     HINSTANCE m_hCurrentInstanceHandle;

@@ -3,6 +3,7 @@
 #include "fx/cmdtarget.h"
 
 class CException;
+class CFrameWnd;
 class CWinThread;
 class CWnd;
 
@@ -45,7 +46,8 @@ public:
     virtual BOOL IsIdleMessage(MSG* pMsg);
     /// Offers the message to the windows from its target up to the main window. TRUE: it is not to be dispatched.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    /// Called for messages in the system's modal loops (menus, message boxes). TRUE: processed.
+    /// Called for messages in the system's modal loops (menus, message boxes, dialogs). TRUE: processed. The base makes
+    /// F1 the help command, ID_HELP, where somebody handles it.
     virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
     /// What a window's handler threw ends here. The result goes to the message's sender. The exception is deleted by
     /// the caller.
@@ -72,7 +74,13 @@ protected:
 private:
     static unsigned __stdcall ThreadEntry(void* thread);
     int RunThread();
+    /// The system ends the program as soon as it likes: calls ExitInstance now. A loop that still comes to its end does
+    /// not do it again.
+    void EndSession();
     friend class CWnd;
+    friend class CFrameWnd;
+
+    bool m_hasEndedWithSession = false;
 };
 
 /// The object of the calling thread; null in a thread that was not started through the framework.
