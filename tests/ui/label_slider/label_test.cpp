@@ -3,13 +3,13 @@
 #include "ribbon_label_ex.h"
 #include "tests/support/buried.h"
 #include "tests/support/canvas.h"
+#include "tests/support/collapsed_panel.h"
 #include "tests/support/counted_faults.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ribbon_host.h"
 #include "tests/support/scoped_value.h"
 #include "tests/support/translation_tables.h"
 
-#include <afxribbonpanelmenu.h>
 #include <afxvisualmanager.h>
 
 #include <algorithm>
@@ -405,24 +405,8 @@ TEST_F(LabelClick, InTheWindowOfAnotherBarTellsThatOnesOwner) {
 }
 
 TEST_F(LabelClick, InThePopupOfACollapsedPanelTellsTheOwnerOfTheBar) {
-    CMFCRibbonCategory& category = *m_host.Bar().GetCategory(0);
-    CMFCRibbonPanel& panel = *category.GetPanel(0);
-    panel.Add(new CMFCRibbonButton(800, L"A button with a long text"));
-    CArray<int, int> order;
-    for (int step = 0; step < 3; ++step)
-        order.Add(0); // the first panel, through all its sizes
-    category.SetCollapseOrder(order);
-    CMFCRibbonPanel* const other = category.AddPanel(L"Other"); // takes the room
-    for (UINT i = 0; i < 6; ++i)
-        other->Add(new CMFCRibbonButton(900 + i, L"A button with a long text"));
-    m_host.LayOut();
-    for (int width = 900; width > 150 && !panel.IsCollapsed(); width -= 20) {
-        m_host.Frame().SetWindowPos(nullptr, 0, 0, width, 400, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-        PumpPending();
-    }
-    ASSERT_TRUE(panel.IsCollapsed());
-    m_pointer.Click(m_host.BarWindow(), panel.GetDefaultButton().GetRect().CenterPoint());
-    PumpPending();
+    m_host.Add(std::make_unique<CMFCRibbonButton>(800, L"A button with a long text"));
+    OpenCollapsedPanel(m_host, m_pointer);
     CWnd* const popup = m_label->GetParentWnd();
     ASSERT_NE(popup, nullptr);
     ASSERT_NE(popup, &m_host.Bar());

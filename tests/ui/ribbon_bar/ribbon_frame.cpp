@@ -7,6 +7,7 @@
 #include "afxribboncheckbox.h"
 #include "afxribbonslider.h"
 #include "fx/registered_messages.h"
+#include "tests/support/collapsed_panel.h"
 
 IMPLEMENT_DYNCREATE(HostCategory, CMFCRibbonCategory)
 
@@ -205,4 +206,8 @@ void RibbonBarTest::SetClientWidth(int width) {
     m_frame->GetClientRect(client);
     EXPECT_EQ(client.Width(), width) << "the system has another limit";
     PumpPending();
+}
+
+CMFCRibbonPanel& RibbonBarTest::Collapse(int panel) {
+    return CollapsePanel(*Bar().GetActiveCategory(), panel, [this](int width) { SetClientWidth(width); });
 }

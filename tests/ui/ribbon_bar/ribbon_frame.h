@@ -85,6 +85,8 @@ protected:
     CPoint CenterOf(UINT id) { return Center(Element(id).GetRect()); }
     /// Any width, wider than the screen too.
     void SetClientWidth(int width);
+    /// Narrows the window until that panel of the active category is a button; throws when it never is.
+    CMFCRibbonPanel& Collapse(int panel);
     void FillBar();
     /// The commands that the quick access toolbar starts with, and others that its menu offers.
     void SetQuickAccessDefault(std::initializer_list<UINT> visible, std::initializer_list<UINT> others = {});
