@@ -168,6 +168,22 @@ CMFCRibbonCategory* RibbonBarTest::AddManyButtons(int count, int perPanel) {
     return category;
 }
 
+std::vector<COLORREF> RibbonBarTest::ShownPixels() {
+    CRect client;
+    Bar().GetClientRect(client);
+    CClientDC dc(&Bar());
+    CDC memory;
+    memory.CreateCompatibleDC(&dc);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
+    CBitmap* const previous = memory.SelectObject(&bitmap);
+    memory.BitBlt(0, 0, client.Width(), client.Height(), &dc, 0, 0, SRCCOPY);
+    memory.SelectObject(previous);
+    std::vector<COLORREF> pixels(static_cast<size_t>(client.Width()) * static_cast<size_t>(client.Height()));
+    bitmap.GetBitmapBits(static_cast<DWORD>(pixels.size() * sizeof(COLORREF)), pixels.data());
+    return pixels;
+}
+
 CMFCRibbonBaseElement& RibbonBarTest::Element(UINT id) {
     CMFCRibbonBaseElement* element = Bar().FindByID(id, TRUE, TRUE);
     if (element == nullptr) {

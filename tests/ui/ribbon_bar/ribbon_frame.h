@@ -93,6 +93,8 @@ protected:
     std::vector<UINT> QuickAccessCommands();
     /// A grid of that many small buttons in a category of their own; ids from firstHandled + 1000 on.
     CMFCRibbonCategory* AddManyButtons(int count, int perPanel);
+    /// What the bar's window shows, row by row.
+    std::vector<COLORREF> ShownPixels();
 
     RibbonFrame* m_frame = nullptr;
     HWND m_window = nullptr; // of the frame; stays when the frame is gone
