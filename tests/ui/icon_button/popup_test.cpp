@@ -4,6 +4,7 @@
 #include "elements/icon_file.h"
 #include "ribbon_icon_button.h"
 #include "tests/support/canvas.h"
+#include "tests/support/command_list.h"
 #include "tests/support/icon_writer.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ribbon_host.h"
@@ -110,9 +111,7 @@ protected:
         menu->AddSubItem(MakeButton().release());
         menu->AddSubItem(new CMFCRibbonUNIcoButton(iconId + 1, L"Other", m_large, FALSE, m_small));
         m_button = &m_host.Add(std::move(menu));
-        CList<UINT, UINT> commands;
-        commands.AddTail(menuId);
-        m_host.Bar().SetQuickAccessCommands(commands);
+        m_host.Bar().SetQuickAccessCommands(CommandList{menuId});
         PumpPending();
     }
     CMFCRibbonButton& Copy() {

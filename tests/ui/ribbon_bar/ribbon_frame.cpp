@@ -2,6 +2,8 @@
 
 #include <afxres.h>
 
+#include <numeric>
+
 #include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
 #include "afxribboncheckbox.h"
@@ -168,6 +170,18 @@ CMFCRibbonCategory* RibbonBarTest::AddManyButtons(int count, int perPanel) {
     return category;
 }
 
+std::vector<UINT> RibbonBarTest::ManyCommands(int count) {
+    std::vector<UINT> ids(static_cast<size_t>(count));
+    std::iota(ids.begin(), ids.end(), commands::firstHandled + 1000);
+    return ids;
+}
+
+void RibbonBarTest::FillQuickAccess(int count) {
+    AddManyButtons(count, 20);
+    Bar().SetQuickAccessCommands(CommandList(ManyCommands(count)));
+    SetClientWidth(300);
+}
+
 std::vector<COLORREF> RibbonBarTest::ShownPixels() {
     CRect client;
     Bar().GetClientRect(client);
@@ -205,13 +219,9 @@ void RibbonBarTest::SetQuickAccessDefault(std::initializer_list<UINT> visible, s
 }
 
 std::vector<UINT> RibbonBarTest::QuickAccessCommands() {
-    CList<UINT, UINT> list;
+    CommandList list;
     Bar().GetQuickAccessCommands(list);
-    std::vector<UINT> ids;
-    for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
-        ids.push_back(list.GetNext(position));
-    }
-    return ids;
+    return list.Ids();
 }
 
 void RibbonBarTest::SetClientWidth(int width) {

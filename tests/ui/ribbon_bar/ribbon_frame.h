@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "fx/window_dc.h"
+#include "tests/support/command_list.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ui_test.h"
@@ -93,6 +95,10 @@ protected:
     std::vector<UINT> QuickAccessCommands();
     /// A grid of that many small buttons in a category of their own; ids from firstHandled + 1000 on.
     CMFCRibbonCategory* AddManyButtons(int count, int perPanel);
+    /// The ids of so many of them.
+    static std::vector<UINT> ManyCommands(int count);
+    /// That many buttons, the commands of all on the quick access toolbar, in a window of 300 pixels: few have room.
+    void FillQuickAccess(int count);
     /// What the bar's window shows, row by row.
     std::vector<COLORREF> ShownPixels();
 

@@ -10,6 +10,7 @@
 #include "afxribboncheckbox.h"
 #include "afxribbonslider.h"
 #include "afxvisualmanageroffice2007.h"
+#include "tests/support/command_list.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/png_file.h"
 #include "tests/support/ui_test.h"
@@ -101,11 +102,7 @@ public:
         bar.AddContextCategory(L"Format", L"Picture tools", 78, AFX_CategoryColor_Green, 0, 0)->AddPanel(L"Borders");
         bar.ShowContextCategories(77);
         bar.ShowContextCategories(78);
-        CList<UINT, UINT> quick;
-        for (const UINT id : {1u, 3u, 4u}) {
-            quick.AddTail(id);
-        }
-        bar.SetQuickAccessCommands(quick);
+        bar.SetQuickAccessCommands(CommandList{1, 3, 4});
         application.SetText(L"File");
         bar.SetApplicationButton(&application, CSize(45, 45));
     }
