@@ -29,42 +29,13 @@ protected:
         label.SetRect(rect);
         label.OnDraw(m_canvas.Dc());
     }
-    /// The first column with a pixel of the text colour; -1 when there is none.
-    int FirstColumn(std::uint32_t color) const {
-        for (int x = 0; x < side; ++x) {
-            for (int y = 0; y < side; ++y) {
-                if (m_canvas.At(x, y) == color)
-                    return x;
-            }
-        }
-        return -1;
-    }
-    int LastColumn(std::uint32_t color) const {
-        for (int x = side - 1; x >= 0; --x) {
-            for (int y = 0; y < side; ++y) {
-                if (m_canvas.At(x, y) == color)
-                    return x;
-            }
-        }
-        return -1;
-    }
-    int FirstRow(std::uint32_t color) const {
-        for (int y = 0; y < side; ++y) {
-            for (int x = 0; x < side; ++x) {
-                if (m_canvas.At(x, y) == color)
-                    return y;
-            }
-        }
-        return -1;
-    }
-    int LastRow(std::uint32_t color) const {
-        for (int y = side - 1; y >= 0; --y) {
-            for (int x = 0; x < side; ++x) {
-                if (m_canvas.At(x, y) == color)
-                    return y;
-            }
-        }
-        return -1;
+    /// The first column with a pixel of the text colour; -1 when there is none, as in the next three.
+    int FirstColumn(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::left); }
+    int LastColumn(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::right, 1); }
+    int FirstRow(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::top); }
+    int LastRow(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::bottom, 1); }
+    static int OrNone(const CRect& bounds, LONG RECT::*edge, int beyond = 0) {
+        return bounds.IsRectEmpty() ? -1 : static_cast<int>(bounds.*edge) - beyond;
     }
 
     static constexpr int side = 200;
