@@ -10,6 +10,7 @@
 #include "afxribbonslider.h"
 #include "fx/registered_messages.h"
 #include "tests/support/collapsed_panel.h"
+#include "tests/support/icon_handle.h"
 
 IMPLEMENT_DYNCREATE(HostCategory, CMFCRibbonCategory)
 
@@ -104,29 +105,14 @@ RibbonBarTest::~RibbonBarTest() {
     }
 }
 
-HICON RibbonBarTest::MakeIcon(int side, COLORREF color) {
-    std::vector<DWORD> pixels(static_cast<size_t>(side) * side);
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-            const bool inside = x > 1 && y > 1 && x < side - 2 && y < side - 2;
-            pixels[static_cast<size_t>(y) * side + x] =
-                inside ? 0xFF000000u | GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color) : 0;
-        }
-    }
-    ICONINFO info{};
-    info.fIcon = TRUE;
-    info.hbmColor = ::CreateBitmap(side, side, 1, 32, pixels.data());
-    info.hbmMask = ::CreateBitmap(side, side, 1, 1, nullptr);
-    const HICON icon = ::CreateIconIndirect(&info);
-    ::DeleteObject(info.hbmColor);
-    ::DeleteObject(info.hbmMask);
-    m_icons.push_back(icon);
-    return icon;
+HICON RibbonBarTest::MakeSquareIcon(int side, COLORREF color) {
+    return m_icons.emplace_back(
+        MakeIcon(side, color, [side](int x, int y) { return x > 1 && y > 1 && x < side - 2 && y < side - 2; }));
 }
 
 void RibbonBarTest::FillBar() {
     const auto button = [this](UINT id, LPCTSTR text, COLORREF color) {
-        return new CMFCRibbonButton(id, text, MakeIcon(32, color), FALSE, MakeIcon(16, color));
+        return new CMFCRibbonButton(id, text, MakeSquareIcon(32, color), FALSE, MakeSquareIcon(16, color));
     };
     CMFCRibbonCategory* home = Bar().AddCategory(L"Home", 0, 0);
     CMFCRibbonPanel* clipboard = home->AddPanel(L"Clipboard");
@@ -136,10 +122,10 @@ void RibbonBarTest::FillBar() {
     clipboard->Add(button(commands::format, L"Format Painter", RGB(30, 150, 60)));
     CMFCRibbonPanel* text = home->AddPanel(L"Text");
     auto* group = new CMFCRibbonButtonsGroup;
-    group->AddButton(
-        new CMFCRibbonButton(commands::bold, L"", MakeIcon(16, RGB(0, 0, 0)), FALSE, MakeIcon(16, RGB(0, 0, 0))));
-    group->AddButton(new CMFCRibbonButton(commands::italic, L"", MakeIcon(16, RGB(90, 90, 90)), FALSE,
-                                          MakeIcon(16, RGB(90, 90, 90))));
+    group->AddButton(new CMFCRibbonButton(commands::bold, L"", MakeSquareIcon(16, RGB(0, 0, 0)), FALSE,
+                                          MakeSquareIcon(16, RGB(0, 0, 0))));
+    group->AddButton(new CMFCRibbonButton(commands::italic, L"", MakeSquareIcon(16, RGB(90, 90, 90)), FALSE,
+                                          MakeSquareIcon(16, RGB(90, 90, 90))));
     text->Add(group);
     text->AddSeparator();
     auto* edit = new CMFCRibbonEdit(commands::size, 70, L"Size:");

@@ -108,5 +108,5 @@ protected:
     std::vector<HICON> m_icons;
 
 private:
-    HICON MakeIcon(int side, COLORREF color);
+    HICON MakeSquareIcon(int side, COLORREF color);
 };
