@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kCopies = 3;
+constexpr int kCopies = ComboWindow::copies;
 constexpr int kShownRows = 30;
 
 ComboWindow* g_window = nullptr;
@@ -179,21 +179,16 @@ BENCHMARK(OpenFloor)->Name("open a list/floor: a window with a child")->Unit(ben
 BENCHMARK(PaintRows)->Name("paint 30 rows")->Arg(kShownRows)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(PaintRowsFloor)->Name("paint 30 rows/floor: their swatches, lights and texts")->Unit(benchmark::kMicrosecond);
 
-class CBenchApp : public CWinAppEx {
-public:
-    BOOL InitInstance() override {
-        CWinAppEx::InitInstance();
-        g_window = new ComboWindow; // destroys itself with its window
-        m_pMainWnd = g_window;
+class CComboApp : public CBenchApp<ComboWindow> {
+protected:
+    void Measure(ComboWindow& window) override {
+        g_window = &window;
         int count = __argc;
         benchmark::Initialize(&count, __argv);
-        if (g_window->Make(kCopies))
-            benchmark::RunSpecifiedBenchmarks();
-        g_window->DestroyWindow();
-        return FALSE;
+        benchmark::RunSpecifiedBenchmarks();
     }
 };
 
-CBenchApp s_app;
+CComboApp s_app;
 
 } // namespace

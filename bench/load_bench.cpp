@@ -1,7 +1,6 @@
 // CAddRibbonBar::Load of a whole file into a ribbon bar, beside the icon loads that it cannot do without.
-#include <afxcontrolbars.h>
-
 #include "add_ribbon_bar.h"
+#include "bench_frame.h"
 #include "menu_id_mgr.h"
 #include "scenario.h"
 
@@ -20,15 +19,6 @@ ScenarioDirectory& Scenario() {
     static ScenarioDirectory directory;
     return directory;
 }
-
-class CBenchFrame : public CFrameWndEx {
-public:
-    CBenchFrame() : m_ribbon(FALSE) {}
-    BOOL Make() {
-        return Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) && m_ribbon.Create(this);
-    }
-    CMFCRibbonBar m_ribbon;
-};
 
 CBenchFrame* g_frame = nullptr;
 
@@ -60,24 +50,18 @@ void LoadFloor(benchmark::State& state) {
             }
 }
 
-class CBenchApp : public CWinAppEx {
-public:
-    BOOL InitInstance() override {
-        CWinAppEx::InitInstance();
+class CLoadApp : public CBenchApp<CBenchFrame> {
+protected:
+    void Measure(CBenchFrame& frame) override {
+        g_frame = &frame;
         FileOp::SetAppPath(Scenario().Path().wstring() + L"\\");
-        g_frame = new CBenchFrame; // destroys itself with its window
-        m_pMainWnd = g_frame;
-        if (!g_frame->Make())
-            return FALSE;
         int count = __argc;
         benchmark::Initialize(&count, __argv);
         benchmark::RunSpecifiedBenchmarks();
-        g_frame->DestroyWindow();
-        return FALSE;
     }
 };
 
-CBenchApp s_app;
+CLoadApp s_app;
 
 } // namespace
 

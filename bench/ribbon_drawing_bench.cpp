@@ -1,8 +1,8 @@
 // A ribbon of 1,600 pixels that shows 100 buttons with icon files: painting it in every way that a user causes, beside
 // the icon loads, icon draws and text draws of the same paint and nothing else.
-#include <afxcontrolbars.h>
 #include <afxvisualmanageroffice2007.h>
 
+#include "bench_frame.h"
 #include "draw_calls.h"
 #include "ribbon_icon_button.h"
 #include "scenario.h"
@@ -32,11 +32,14 @@ CString IconPath(int side, int index) {
     return isMade ? path.c_str() : L"";
 }
 
-class CBenchFrame : public CFrameWndEx {
+/// As at the start: whatever was kept from earlier paints is dropped.
+void ForgetPaints() { CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007)); }
+
+class CPaintedFrame : public CBenchFrame {
 public:
-    CBenchFrame() : m_ribbon(FALSE) {}
-    bool Make() {
-        if (!Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) || !m_ribbon.Create(this))
+    bool Make() override {
+        ForgetPaints();
+        if (!CBenchFrame::Make())
             return false;
         AddCategory(L"One");
         AddCategory(L"Two");
@@ -52,7 +55,6 @@ public:
         GetClientRect(client);
         SetWindowPos(nullptr, 0, 0, width + window.Width() - client.Width(), 900, SWP_NOZORDER | SWP_NOMOVE);
     }
-    CMFCRibbonBar m_ribbon;
 
 protected:
     /// The frame may be wider than the screen.
@@ -78,7 +80,7 @@ private:
     }
 };
 
-CBenchFrame* g_frame = nullptr;
+CPaintedFrame* g_frame = nullptr;
 
 CMFCRibbonBar& Ribbon() { return g_frame->m_ribbon; }
 
@@ -117,9 +119,6 @@ void HoverAcrossPanels() {
     next = 1 - next;
     MovePointerTo(next == 0 ? 1 : 3, 0);
 }
-
-/// As at the start: whatever was kept from earlier paints is dropped.
-void ForgetPaints() { CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007)); }
 
 void FirstPaint() { PaintWhole(); }
 
@@ -211,15 +210,10 @@ void Register() {
     }
 }
 
-class CBenchApp : public CWinAppEx {
-public:
-    BOOL InitInstance() override {
-        CWinAppEx::InitInstance();
-        ForgetPaints();
-        g_frame = new CBenchFrame; // destroys itself with its window
-        m_pMainWnd = g_frame;
-        if (!g_frame->Make())
-            return FALSE;
+class CDrawingApp : public CBenchApp<CPaintedFrame> {
+protected:
+    void Measure(CPaintedFrame& frame) override {
+        g_frame = &frame;
         int count = __argc;
         benchmark::Initialize(&count, __argv);
         Register();
@@ -228,14 +222,12 @@ public:
         if (const DrawCalls calls = CallsOf(kActions[1]); bar.Width() != kWidth || calls.imageLoads != 2 * kButtons) {
             std::fprintf(stderr, "%ld icon files were loaded for %d buttons in %d pixels\n", calls.imageLoads, kButtons,
                          bar.Width());
-            return FALSE;
+            return;
         }
         benchmark::RunSpecifiedBenchmarks();
-        g_frame->DestroyWindow();
-        return FALSE;
     }
 };
 
-CBenchApp s_app;
+CDrawingApp s_app;
 
 } // namespace

@@ -1,8 +1,7 @@
 // What a ribbon that was loaded from a file takes: working set and GDI objects over the same frame without it.
 //   bench_ribbon_memory BUTTONS [MEGABYTES]      ends with 1 when they take more memory, or an object each
-#include <afxcontrolbars.h>
-
 #include "add_ribbon_bar.h"
+#include "bench_frame.h"
 #include "scenario.h"
 #include "tests/support/gui_objects.h"
 
@@ -20,14 +19,12 @@ namespace {
 
 constexpr std::size_t kIconFiles = 20;
 
-class CBenchFrame : public CFrameWndEx {
+class CSettlingFrame : public CBenchFrame {
 public:
-    CBenchFrame() : m_ribbon(FALSE) {}
-    bool Make() {
-        if (!Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) || !m_ribbon.Create(this))
-            return false;
+    bool Make() override {
+        const bool isMade = CBenchFrame::Make();
         ShowWindow(SW_SHOW);
-        return true;
+        return isMade;
     }
     /// All that a user waits for: layout, paint, idle work.
     void Settle() {
@@ -35,7 +32,6 @@ public:
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
         PumpPending();
     }
-    CMFCRibbonBar m_ribbon;
 };
 
 double WorkingSetInMegabytes() {
@@ -45,46 +41,43 @@ double WorkingSetInMegabytes() {
     return static_cast<double>(counters.WorkingSetSize) / (1024.0 * 1024.0);
 }
 
-class CBenchApp : public CWinAppEx {
+class CMemoryApp : public CBenchApp<CSettlingFrame> {
 public:
-    BOOL InitInstance() override {
-        CWinAppEx::InitInstance();
+    int ExitInstance() override {
+        const int result = CWinAppEx::ExitInstance();
+        return m_isOver ? 1 : result;
+    }
+
+protected:
+    void Measure(CSettlingFrame& frame) override {
         const int buttons = __argc > 1 ? std::atoi(__argv[1]) : 0;
         const double bar = __argc > 2 ? std::atof(__argv[2]) : HUGE_VAL;
         ScenarioDirectory scenario;
         const std::wstring file =
             buttons > 0 ? L"cfg\\" + scenario.AddRibbonFile(static_cast<std::size_t>(buttons), kIconFiles) : L"";
         FileOp::SetAppPath(scenario.Path().wstring() + L"\\");
-        auto* const frame = new CBenchFrame; // destroys itself with its window
-        m_pMainWnd = frame;
-        if (buttons <= 0 || !frame->Make()) {
+        if (buttons <= 0) {
             std::fputs("usage: bench_ribbon_memory BUTTONS [MEGABYTES]\n", stderr);
-            return FALSE;
+            return;
         }
-        frame->Settle();
+        frame.Settle();
         const double empty = WorkingSetInMegabytes();
         const GuiObjects objectsBefore = CountGuiObjects();
         CAddRibbonBar builder;
-        if (!builder.Load(file, &frame->m_ribbon, 1))
-            return FALSE;
-        frame->Settle();
+        if (!builder.Load(file, &frame.m_ribbon, 1))
+            return;
+        frame.Settle();
         const double taken = WorkingSetInMegabytes() - empty;
         const long objects = CountGuiObjects().gdi - objectsBefore.gdi;
         m_isOver = taken > bar || objects >= buttons;
         std::printf("memory of %d buttons: %.2f MB over an empty frame of %.2f MB, %ld GDI objects more%s\n", buttons,
                     taken, empty, objects, m_isOver ? ": OVER" : "");
-        frame->DestroyWindow();
-        return FALSE;
-    }
-    int ExitInstance() override {
-        const int result = CWinAppEx::ExitInstance();
-        return m_isOver ? 1 : result;
     }
 
 private:
     bool m_isOver = false;
 };
 
-CBenchApp s_app;
+CMemoryApp s_app;
 
 } // namespace

@@ -16,7 +16,9 @@ endfunction()
 
 # barwright_test(NAME SOURCES... [LIBS ...] [LABELS ...] [DESKTOP] [ALONE] [SINGLE] [TIMEOUT s])
 # DESKTOP: the test owns focus, cursor and foreground window, so no two such tests run at once.
-# ALONE: the test asks the system for the window under a point, so no other program may show one meanwhile.
+# ALONE: the test uses the real pointer or keyboard, or asks the system for the window under a point, so no other program
+# may show one meanwhile. A test that only must not lose the foreground links test_own_desktop instead and runs beside
+# others.
 # SINGLE: the whole program is one ctest entry instead of one entry per test case.
 function(barwright_test name)
   cmake_parse_arguments(ARG "DESKTOP;ALONE;SINGLE" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})

@@ -1,26 +1,25 @@
 #pragma once
 
-#include <afxcontrolbars.h>
 #include <afxvisualmanageroffice2007.h>
 
+#include "bench_frame.h"
 #include "library_context.h"
 #include "ribbon_check_combo.h"
 #include "ribbon_multi_combo.h"
 
 #include <vector>
 
-/// A frame whose ribbon shows several multi combos with one command id and as many check combos with another. Destroys
-/// itself with its window.
-class ComboWindow : public CFrameWndEx {
+/// Its ribbon shows several multi combos with one command id and as many check combos with another.
+class ComboWindow : public CBenchFrame {
 public:
-    ComboWindow() : m_ribbon(FALSE) {}
+    static constexpr int copies = 3; // of each of the two
 
-    bool Make(int combos) {
+    bool Make() override {
         CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
-        if (!Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1200, 900)) || !m_ribbon.Create(this))
+        if (!CBenchFrame::Make())
             return false;
         CMFCRibbonPanel* const panel = m_ribbon.AddCategory(L"Home", 0, 0)->AddPanel(L"Panel");
-        for (int i = 0; i < combos; ++i) {
+        for (int i = 0; i < copies; ++i) {
             auto* const combo = new CMFCRibbonMultiCombo(700, FALSE, 120);
             panel->Add(combo);
             m_combos.push_back(combo);
@@ -51,7 +50,6 @@ public:
     }
 
 private:
-    CMFCRibbonBar m_ribbon;
     std::vector<CMFCRibbonMultiCombo*> m_combos; // the ribbon's, as the next
     std::vector<CMFCRibbonCheckComb*> m_checkCombos;
 };

@@ -65,6 +65,17 @@ public:
         return colours;
     }
     std::set<std::uint32_t> Colours() const { return Colours(CRect(CPoint(0, 0), m_size)); }
+    /// The smallest rectangle with all that has the colour; empty when nothing has.
+    CRect BoundsOf(std::uint32_t colour) const {
+        CRect bounds(0, 0, 0, 0);
+        for (int y = 0; y < m_size.cy; ++y) {
+            for (int x = 0; x < m_size.cx; ++x) {
+                if (At(x, y) == colour)
+                    bounds.UnionRect(bounds, CRect(x, y, x + 1, y + 1));
+            }
+        }
+        return bounds;
+    }
     /// Right and lower edge of what was drawn on; 0 when nothing was.
     CSize Extent() const {
         CSize extent(0, 0);

@@ -2,7 +2,7 @@
 
 #include "command_line.h"
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -13,12 +13,6 @@ namespace {
 
 constexpr int kLargest = 16384;
 
-/// As the file system folds it, so that names that differ by case alone are one.
-std::wstring Folded(std::wstring name) {
-    ::CharUpperBuffW(name.data(), static_cast<DWORD>(name.size()));
-    return name;
-}
-
 /// cfg\ribbon*.xml of the directory in name order, as paths relative to it. Letter case says nothing, as in the file
 /// system.
 std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
@@ -26,12 +20,13 @@ std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(directory) / L"cfg", error)) {
         const std::wstring name = entry.path().filename().wstring();
-        const std::wstring folded = Folded(name);
-        if (entry.is_regular_file(error) && folded.starts_with(L"RIBBON") && folded.ends_with(L".XML"))
+        const CString folded = CString(name.c_str()).MakeUpper();
+        if (entry.is_regular_file(error) && folded.Left(6) == L"RIBBON" && folded.Right(4) == L".XML")
             files.push_back(L"cfg\\" + name);
     }
-    std::sort(files.begin(), files.end(),
-              [](const std::wstring& left, const std::wstring& right) { return Folded(left) < Folded(right); });
+    std::sort(files.begin(), files.end(), [](const std::wstring& left, const std::wstring& right) {
+        return CString(left.c_str()).CompareNoCase(right.c_str()) < 0;
+    });
     return files;
 }
 

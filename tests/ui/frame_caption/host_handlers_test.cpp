@@ -3,7 +3,8 @@
 
 namespace {
 
-class AskingFrame : public RibbonFrameWithCaption {
+template <class Base>
+class AskingFrame : public CaptionFrame<Base> {
 public:
     int asked = 0;
     bool answersItself = false;
@@ -11,34 +12,18 @@ public:
 protected:
     afx_msg LRESULT OnNcHitTest(CPoint point) {
         ++asked;
-        return answersItself ? HTBORDER : CFrameWndEx::OnNcHitTest(point);
+        return answersItself ? HTBORDER : Base::OnNcHitTest(point);
     }
     DECLARE_MESSAGE_MAP()
 };
-BEGIN_MESSAGE_MAP(AskingFrame, CFrameWndEx)
-ON_WM_NCHITTEST()
-END_MESSAGE_MAP()
-
-class AskingMdiFrame : public RibbonMdiFrameWithCaption {
-public:
-    int asked = 0;
-    bool answersItself = false;
-
-protected:
-    afx_msg LRESULT OnNcHitTest(CPoint point) {
-        ++asked;
-        return answersItself ? HTBORDER : CMDIFrameWndEx::OnNcHitTest(point);
-    }
-    DECLARE_MESSAGE_MAP()
-};
-BEGIN_MESSAGE_MAP(AskingMdiFrame, CMDIFrameWndEx)
+BEGIN_TEMPLATE_MESSAGE_MAP(AskingFrame, Base, CaptionFrame<Base>)
 ON_WM_NCHITTEST()
 END_MESSAGE_MAP()
 
 template <class Frame>
 class HostHandlers : public ::testing::Test {};
 
-using Frames = ::testing::Types<AskingFrame, AskingMdiFrame>;
+using Frames = ::testing::Types<AskingFrame<CFrameWndEx>, AskingFrame<CMDIFrameWndEx>>;
 TYPED_TEST_SUITE(HostHandlers, Frames);
 
 TYPED_TEST(HostHandlers, AreAskedFirstAndReachTheFramesOwnAnswerThroughTheBaseClass) {

@@ -29,6 +29,16 @@ protected:
         g_route = Route();
         ASSERT_TRUE(frame.Load());
     }
+    /// What the frame gives to a tooltip control that needs the text of a tool; empty when it gives none.
+    std::wstring TipOf(UINT_PTR tool, UINT flags = 0) {
+        NMTTDISPINFOW need{};
+        need.hdr.code = TTN_NEEDTEXTW;
+        need.hdr.idFrom = tool;
+        need.hdr.hwndFrom = frame.m_hWnd;
+        need.uFlags = flags;
+        frame.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&need));
+        return need.lpszText != nullptr ? need.lpszText : L"";
+    }
     RouteFrame frame;
 };
 
@@ -85,48 +95,20 @@ TEST_F(FrameTest, APromptIsTheFirstLineOfTheCommandsText) {
     EXPECT_STREQ(prompt, L"");
 }
 
-TEST_F(FrameTest, ATooltipIsTheSecondLineOfTheCommandsText) {
-    NMTTDISPINFOW need{};
-    need.hdr.code = TTN_NEEDTEXTW;
-    need.hdr.idFrom = ID_TEST_COMMAND;
-    need.hdr.hwndFrom = frame.m_hWnd;
-    frame.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&need));
-    ASSERT_NE(need.lpszText, nullptr);
-    EXPECT_STREQ(need.lpszText, L"Command tip");
-}
+TEST_F(FrameTest, ATooltipIsTheSecondLineOfTheCommandsText) { EXPECT_EQ(TipOf(ID_TEST_COMMAND), L"Command tip"); }
 
 TEST_F(FrameTest, ATooltipMayBeLongerThanTheNotificationsOwnRoom) {
-    NMTTDISPINFOW need{};
-    need.hdr.code = TTN_NEEDTEXTW;
-    need.hdr.idFrom = ID_TEST_LONG;
-    need.hdr.hwndFrom = frame.m_hWnd;
-    frame.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&need));
-    ASSERT_NE(need.lpszText, nullptr);
-    EXPECT_GT(std::wstring(need.lpszText).size(), 80u);
-    EXPECT_TRUE(std::wstring(need.lpszText).ends_with(L"lent"));
+    EXPECT_GT(TipOf(ID_TEST_LONG).size(), 80u);
+    EXPECT_TRUE(TipOf(ID_TEST_LONG).ends_with(L"lent"));
 }
 
 TEST_F(FrameTest, ATooltipForAWindowIsThatOfItsControlId) {
     CStatic control;
     ASSERT_TRUE(control.Create(L"", WS_CHILD, CRect(0, 0, 10, 10), &frame, ID_TEST_COMMAND));
-    NMTTDISPINFOW need{};
-    need.hdr.code = TTN_NEEDTEXTW;
-    need.hdr.idFrom = reinterpret_cast<UINT_PTR>(control.m_hWnd);
-    need.hdr.hwndFrom = frame.m_hWnd;
-    need.uFlags = TTF_IDISHWND;
-    frame.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&need));
-    ASSERT_NE(need.lpszText, nullptr);
-    EXPECT_STREQ(need.lpszText, L"Command tip");
+    EXPECT_EQ(TipOf(reinterpret_cast<UINT_PTR>(control.m_hWnd), TTF_IDISHWND), L"Command tip");
 }
 
-TEST_F(FrameTest, ACommandTextWithoutSecondLineMakesNoTooltip) {
-    NMTTDISPINFOW need{};
-    need.hdr.code = TTN_NEEDTEXTW;
-    need.hdr.idFrom = ID_TEST_OTHER;
-    need.hdr.hwndFrom = frame.m_hWnd;
-    frame.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&need));
-    EXPECT_TRUE(need.lpszText == nullptr || *need.lpszText == L'\0');
-}
+TEST_F(FrameTest, ACommandTextWithoutSecondLineMakesNoTooltip) { EXPECT_EQ(TipOf(ID_TEST_OTHER), L""); }
 
 TEST_F(FrameTest, TheMessageBarShowsPromptsAndPlainTexts) {
     CStatusBar bar;

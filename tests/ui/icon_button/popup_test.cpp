@@ -4,6 +4,8 @@
 #include "elements/icon_file.h"
 #include "ribbon_icon_button.h"
 #include "tests/support/canvas.h"
+#include "tests/support/churn_memory.h"
+#include "tests/support/command_list.h"
 #include "tests/support/icon_writer.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ribbon_host.h"
@@ -110,24 +112,12 @@ protected:
         menu->AddSubItem(MakeButton().release());
         menu->AddSubItem(new CMFCRibbonUNIcoButton(iconId + 1, L"Other", m_large, FALSE, m_small));
         m_button = &m_host.Add(std::move(menu));
-        CList<UINT, UINT> commands;
-        commands.AddTail(menuId);
-        m_host.Bar().SetQuickAccessCommands(commands);
+        m_host.Bar().SetQuickAccessCommands(CommandList{menuId});
         PumpPending();
     }
     CMFCRibbonButton& Copy() {
         const CPoint point = m_host.Bar().GetQATCommandsLocation().CenterPoint();
         return static_cast<CMFCRibbonButton&>(*m_host.Bar().HitTest(point));
-    }
-    /// Freed memory is overwritten by the next allocation of its size: a touch of it shows.
-    static void ChurnMemory() {
-        std::vector<std::unique_ptr<char[]>> blocks;
-        for (size_t size = 16; size < 3000; size += 8) {
-            for (int i = 0; i < 4; ++i) {
-                blocks.push_back(std::make_unique<char[]>(size));
-                memset(blocks.back().get(), 0xDD, size);
-            }
-        }
     }
 
     CMFCRibbonButton* m_button = nullptr;

@@ -23,21 +23,11 @@ protected:
         m_host.Bar().GetUpdateRect(update);
         return update;
     }
-    /// First and last column of the pixels of a colour, as the label is laid out.
-    static std::pair<int, int> Columns(CMFCRibbonLabelEx& label, std::uint32_t color) {
+    /// Where pixels of the colour are, as the label is laid out; empty when none are.
+    static CRect BoundsDrawn(CMFCRibbonLabelEx& label, std::uint32_t color) {
         Canvas canvas(CSize(label.GetRect().right + 100, label.GetRect().bottom + 10));
         label.OnDraw(canvas.Dc());
-        int first = -1;
-        int last = -1;
-        for (int x = 0; x < canvas.Size().cx; ++x) {
-            for (int y = 0; y < canvas.Size().cy; ++y) {
-                if (canvas.At(x, y) != color)
-                    continue;
-                first = first < 0 ? x : first;
-                last = x;
-            }
-        }
-        return {first, last};
+        return canvas.BoundsOf(color);
     }
 
     RibbonHost m_host;
@@ -86,15 +76,13 @@ TEST_F(LabelRoom, AButtonsTextOfTheSameSizeDrawsTheButtonAloneAnewAndComplete) {
 TEST_F(LabelRoom, AnOffsetIsAddedToTheWidthSoThatTheTextStaysWhole) {
     m_label->SetTextColor(RGB(255, 0, 0));
     const int width = m_label->GetRect().Width();
-    const auto [first, last] = Columns(*m_label, pureRed);
-    ASSERT_GE(first, 0);
+    const CRect text = BoundsDrawn(*m_label, pureRed);
+    ASSERT_FALSE(text.IsRectEmpty());
     for (const int offset : {3, 40}) {
         m_label->SetLeftOffset(offset);
         PumpPending();
         EXPECT_EQ(m_label->GetRect().Width(), width + offset);
-        const auto [firstMoved, lastMoved] = Columns(*m_label, pureRed);
-        EXPECT_EQ(firstMoved, first + offset);
-        EXPECT_EQ(lastMoved, last + offset) << "nothing is cut off";
+        EXPECT_EQ(BoundsDrawn(*m_label, pureRed), text + CPoint(offset, 0)) << "nothing is cut off";
     }
     m_label->SetLeftOffset(-3);
     PumpPending();
@@ -104,12 +92,12 @@ TEST_F(LabelRoom, AnOffsetIsAddedToTheWidthSoThatTheTextStaysWhole) {
 TEST_F(LabelRoom, ADisabledLabelHasTheColourOfDisabledTexts) {
     const COLORREF grey = afxGlobalData.clrGrayedText;
     const std::uint32_t color = GetRValue(grey) << 16 | GetGValue(grey) << 8 | GetBValue(grey);
-    EXPECT_EQ(Columns(*m_label, color).first, -1);
+    EXPECT_TRUE(BoundsDrawn(*m_label, color).IsRectEmpty());
     m_label->SetDisabled(TRUE);
-    EXPECT_GE(Columns(*m_label, color).first, 0);
+    EXPECT_FALSE(BoundsDrawn(*m_label, color).IsRectEmpty());
     m_label->SetTextColor(RGB(255, 0, 0));
-    EXPECT_EQ(Columns(*m_label, color).first, -1) << "a colour of its own counts more";
-    EXPECT_GE(Columns(*m_label, pureRed).first, 0);
+    EXPECT_TRUE(BoundsDrawn(*m_label, color).IsRectEmpty()) << "a colour of its own counts more";
+    EXPECT_FALSE(BoundsDrawn(*m_label, pureRed).IsRectEmpty());
 }
 
 } // namespace

@@ -3,13 +3,13 @@
 #include "ribbon_label_ex.h"
 #include "tests/support/buried.h"
 #include "tests/support/canvas.h"
+#include "tests/support/collapsed_panel.h"
 #include "tests/support/counted_faults.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ribbon_host.h"
 #include "tests/support/scoped_value.h"
 #include "tests/support/translation_tables.h"
 
-#include <afxribbonpanelmenu.h>
 #include <afxvisualmanager.h>
 
 #include <algorithm>
@@ -29,42 +29,13 @@ protected:
         label.SetRect(rect);
         label.OnDraw(m_canvas.Dc());
     }
-    /// The first column with a pixel of the text colour; -1 when there is none.
-    int FirstColumn(std::uint32_t color) const {
-        for (int x = 0; x < side; ++x) {
-            for (int y = 0; y < side; ++y) {
-                if (m_canvas.At(x, y) == color)
-                    return x;
-            }
-        }
-        return -1;
-    }
-    int LastColumn(std::uint32_t color) const {
-        for (int x = side - 1; x >= 0; --x) {
-            for (int y = 0; y < side; ++y) {
-                if (m_canvas.At(x, y) == color)
-                    return x;
-            }
-        }
-        return -1;
-    }
-    int FirstRow(std::uint32_t color) const {
-        for (int y = 0; y < side; ++y) {
-            for (int x = 0; x < side; ++x) {
-                if (m_canvas.At(x, y) == color)
-                    return y;
-            }
-        }
-        return -1;
-    }
-    int LastRow(std::uint32_t color) const {
-        for (int y = side - 1; y >= 0; --y) {
-            for (int x = 0; x < side; ++x) {
-                if (m_canvas.At(x, y) == color)
-                    return y;
-            }
-        }
-        return -1;
+    /// The first column with a pixel of the text colour; -1 when there is none, as in the next three.
+    int FirstColumn(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::left); }
+    int LastColumn(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::right, 1); }
+    int FirstRow(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::top); }
+    int LastRow(std::uint32_t color) const { return OrNone(m_canvas.BoundsOf(color), &RECT::bottom, 1); }
+    static int OrNone(const CRect& bounds, LONG RECT::*edge, int beyond = 0) {
+        return bounds.IsRectEmpty() ? -1 : static_cast<int>(bounds.*edge) - beyond;
     }
 
     static constexpr int side = 200;
@@ -398,24 +369,8 @@ TEST_F(LabelClick, InTheWindowOfAnotherBarTellsThatOnesOwner) {
 }
 
 TEST_F(LabelClick, InThePopupOfACollapsedPanelTellsTheOwnerOfTheBar) {
-    CMFCRibbonCategory& category = *m_host.Bar().GetCategory(0);
-    CMFCRibbonPanel& panel = *category.GetPanel(0);
-    panel.Add(new CMFCRibbonButton(800, L"A button with a long text"));
-    CArray<int, int> order;
-    for (int step = 0; step < 3; ++step)
-        order.Add(0); // the first panel, through all its sizes
-    category.SetCollapseOrder(order);
-    CMFCRibbonPanel* const other = category.AddPanel(L"Other"); // takes the room
-    for (UINT i = 0; i < 6; ++i)
-        other->Add(new CMFCRibbonButton(900 + i, L"A button with a long text"));
-    m_host.LayOut();
-    for (int width = 900; width > 150 && !panel.IsCollapsed(); width -= 20) {
-        m_host.Frame().SetWindowPos(nullptr, 0, 0, width, 400, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-        PumpPending();
-    }
-    ASSERT_TRUE(panel.IsCollapsed());
-    m_pointer.Click(m_host.BarWindow(), panel.GetDefaultButton().GetRect().CenterPoint());
-    PumpPending();
+    m_host.Add(std::make_unique<CMFCRibbonButton>(800, L"A button with a long text"));
+    OpenCollapsedPanel(m_host, m_pointer);
     CWnd* const popup = m_label->GetParentWnd();
     ASSERT_NE(popup, nullptr);
     ASSERT_NE(popup, &m_host.Bar());

@@ -3,182 +3,145 @@
 
 namespace {
 
-TEST(SliderChain, CopiesAndRootMayGoInAnyOrder) {
-    auto root = std::make_unique<CMFCRibbonSliderSync>(sliderId);
-    auto first = std::make_unique<CMFCRibbonSliderSync>(sliderId);
-    auto second = std::make_unique<CMFCRibbonSliderSync>(sliderId);
+class SliderChain : public LooseSliders {
+protected:
+    using Leaving = Buried<CMFCRibbonSliderSync>;
+
+    static std::unique_ptr<Leaving> MakeLeaving() { return std::make_unique<Leaving>(sliderId); }
+};
+
+TEST_F(SliderChain, CopiesAndRootMayGoInAnyOrder) {
+    auto root = MakeLeaving();
+    auto first = MakeLeaving();
     first->SetOriginal(root.get());
-    second->SetOriginal(first.get());
+    m_second.SetOriginal(first.get());
     first.reset();
-    EXPECT_EQ(second->GetOriginal(), root.get());
-    second->SetPosSync(30, FALSE);
+    EXPECT_EQ(m_second.GetOriginal(), root.get());
+    m_second.SetPosSync(30, FALSE);
     EXPECT_EQ(root->GetPos(), 30);
     root.reset();
-    EXPECT_EQ(second->GetOriginal(), nullptr);
-    second->SetPosSync(20, FALSE);
-    EXPECT_EQ(second->GetPos(), 20);
+    EXPECT_EQ(m_second.GetOriginal(), nullptr);
+    m_second.SetPosSync(20, FALSE);
+    EXPECT_EQ(m_second.GetPos(), 20);
 }
 
-TEST(SliderChain, TheFirstCopyOfARootThatGoesBecomesTheRootOfTheOthers) {
-    auto root = std::make_unique<Buried<CMFCRibbonSliderSync>>(sliderId);
-    CMFCRibbonSliderSync first(sliderId);
-    CMFCRibbonSliderSync second(sliderId);
-    CMFCRibbonSliderSync below(sliderId);
+TEST_F(SliderChain, TheFirstCopyOfARootThatGoesBecomesTheRootOfTheOthers) {
+    auto root = MakeLeaving();
     CMFCRibbonSliderSync linked(sliderId);
     root->AddLinkedSlider(&linked);
-    first.SetOriginal(root.get());
-    second.SetOriginal(root.get());
-    below.SetOriginal(&second);
+    m_first.SetOriginal(root.get());
+    m_second.SetOriginal(root.get());
+    m_third.SetOriginal(&m_second);
     root.reset();
-    EXPECT_EQ(first.GetOriginal(), nullptr);
-    EXPECT_EQ(second.GetOriginal(), &first);
-    EXPECT_EQ(below.GetOriginal(), &second);
-    int pos = 10;
-    for (CMFCRibbonSliderSync* const moved : {&second, &first, &below}) {
-        moved->SetPosSync(++pos, FALSE);
-        for (const CMFCRibbonSliderSync* slider : {&first, &second, &below, &linked})
-            EXPECT_EQ(slider->GetPos(), pos);
-    }
+    EXPECT_EQ(m_first.GetOriginal(), nullptr);
+    EXPECT_EQ(m_second.GetOriginal(), &m_first);
+    EXPECT_EQ(m_third.GetOriginal(), &m_second);
+    ExpectToFollowEach({&m_second, &m_first, &m_third}, {&m_first, &m_second, &m_third, &linked});
 }
 
-TEST(SliderChain, TheCopiesOfALinkedSliderThatGoesFollowItsLeader) {
-    CMFCRibbonSliderSync leader(sliderId);
-    auto linked = std::make_unique<Buried<CMFCRibbonSliderSync>>(sliderId);
-    CMFCRibbonSliderSync first(sliderId);
-    CMFCRibbonSliderSync second(sliderId);
-    leader.AddLinkedSlider(linked.get());
-    first.SetOriginal(linked.get());
-    second.SetOriginal(linked.get());
-    second.SetPosSync(3, FALSE);
-    EXPECT_EQ(second.GetPos(), 3);
-    EXPECT_EQ(first.GetPos(), 3);
+TEST_F(SliderChain, TheCopiesOfALinkedSliderThatGoesFollowItsLeader) {
+    auto linked = MakeLeaving();
+    m_root.AddLinkedSlider(linked.get());
+    m_first.SetOriginal(linked.get());
+    m_second.SetOriginal(linked.get());
+    m_second.SetPosSync(3, FALSE);
+    ExpectAt(3, {&m_first, &m_second});
     linked.reset();
-    leader.SetPosSync(4, FALSE);
-    EXPECT_EQ(first.GetPos(), 4);
-    EXPECT_EQ(second.GetPos(), 4);
-    second.SetPosSync(5, FALSE);
-    EXPECT_EQ(first.GetPos(), 5);
-    EXPECT_EQ(leader.GetPos(), 4);
+    m_root.SetPosSync(4, FALSE);
+    ExpectAt(4, {&m_first, &m_second});
+    m_second.SetPosSync(5, FALSE);
+    EXPECT_EQ(m_first.GetPos(), 5);
+    EXPECT_EQ(m_root.GetPos(), 4);
 }
 
-TEST(SliderChain, ACopyFollowsItsOriginalAlone) {
-    CMFCRibbonSliderSync root(sliderId);
-    CMFCRibbonSliderSync other(sliderId);
-    CMFCRibbonSliderSync copy(sliderId);
-    copy.SetOriginal(&root);
-    other.AddLinkedSlider(&copy);
-    other.SetPosSync(5, FALSE);
-    EXPECT_EQ(copy.GetPos(), 0);
-    copy.SetPosSync(6, FALSE);
-    EXPECT_EQ(root.GetPos(), 6);
-    EXPECT_EQ(copy.GetPos(), 6);
+TEST_F(SliderChain, ACopyFollowsItsOriginalAlone) {
+    m_first.SetOriginal(&m_root);
+    m_second.AddLinkedSlider(&m_first);
+    m_second.SetPosSync(5, FALSE);
+    EXPECT_EQ(m_first.GetPos(), 0);
+    m_first.SetPosSync(6, FALSE);
+    ExpectAt(6, {&m_root, &m_first});
 }
 
-TEST(SliderChain, AnOriginalOfAnotherClassMayGoFirst) {
+TEST_F(SliderChain, AnOriginalOfAnotherClassMayGoFirst) {
     auto plain = std::make_unique<Buried<CMFCRibbonSlider>>(sliderId);
-    CMFCRibbonSliderSync root(sliderId);
-    CMFCRibbonSliderSync copy(sliderId);
-    root.SetOriginal(plain.get());
-    copy.SetOriginal(&root);
+    m_root.SetOriginal(plain.get());
+    m_first.SetOriginal(&m_root);
     plain.reset();
-    copy.SetPosSync(5, FALSE);
-    EXPECT_EQ(root.GetPos(), 5);
-    root.AddLinkedSlider(&copy);
+    m_first.SetPosSync(5, FALSE);
+    EXPECT_EQ(m_root.GetPos(), 5);
+    m_root.AddLinkedSlider(&m_first);
 }
 
-TEST(SliderChain, SlidersOfDifferentRangesEndAtOnePosition) {
-    CMFCRibbonSliderSync root(sliderId);
-    CMFCRibbonSliderSync middle(sliderId);
-    CMFCRibbonSliderSync last(sliderId);
-    middle.SetRange(0, 50);
-    middle.SetOriginal(&root);
-    last.SetOriginal(&middle);
-    last.SetPos(80);
-    last.NotifyCommandSync();
-    for (const CMFCRibbonSliderSync* slider : {&root, &middle, &last}) {
-        EXPECT_EQ(slider->GetPos(), 50);
-        EXPECT_EQ(TipOf(*slider), L"50");
+TEST_F(SliderChain, SlidersOfDifferentRangesEndAtOnePosition) {
+    m_first.SetRange(0, 50);
+    MakeChain();
+    m_second.SetPos(80);
+    m_second.NotifyCommandSync();
+    ExpectAt(50, {&m_root, &m_first, &m_second});
+}
+
+TEST_F(SliderChain, ASliderIsLinkedOnceAndNeverToItself) {
+    auto linked = MakeLeaving();
+    m_root.AddLinkedSlider(linked.get());
+    m_root.AddLinkedSlider(linked.get());
+    m_root.AddLinkedSlider(&m_root);
+    m_root.AddLinkedSlider(nullptr);
+    linked.reset();
+    m_root.SetPosSync(5, FALSE);
+    EXPECT_EQ(m_root.GetPos(), 5);
+}
+
+TEST_F(SliderChain, NeverBecomesARing) {
+    MakeChain();
+    for (CMFCRibbonSliderSync* below : {&m_root, &m_first, &m_second})
+        m_root.SetOriginal(below);
+    EXPECT_EQ(m_root.GetOriginal(), nullptr);
+    for (CMFCRibbonSliderSync* below : {&m_first, &m_second}) {
+        m_first.SetOriginal(below);
+        EXPECT_EQ(m_first.GetOriginal(), &m_root);
     }
+    m_first.CopyStateFrom(&m_second);
+    EXPECT_EQ(m_first.GetOriginal(), &m_root);
+    m_second.SetPosSync(5, FALSE);
+    ExpectAt(5, {&m_root, &m_first});
 }
 
-TEST(SliderChain, ASliderIsLinkedOnceAndNeverToItself) {
-    CMFCRibbonSliderSync root(sliderId);
-    {
-        CMFCRibbonSliderSync copy(sliderId);
-        root.AddLinkedSlider(&copy);
-        root.AddLinkedSlider(&copy);
-        root.AddLinkedSlider(&root);
-        root.AddLinkedSlider(nullptr);
-    }
-    root.SetPosSync(5, FALSE);
-    EXPECT_EQ(root.GetPos(), 5);
+TEST_F(SliderChain, NeverBecomesARingByLinksAlone) {
+    m_first.AddLinkedSlider(&m_second);
+    m_second.AddLinkedSlider(&m_first);
+    m_first.SetOriginal(&m_second);
+    EXPECT_EQ(m_first.GetOriginal(), nullptr);
+    m_first.SetPosSync(5, FALSE);
+    EXPECT_EQ(m_second.GetPos(), 5);
+    m_second.SetPosSync(6, FALSE);
+    EXPECT_EQ(m_first.GetPos(), 5) << "who was linked only follows";
 }
 
-TEST(SliderChain, NeverBecomesARing) {
-    CMFCRibbonSliderSync root(sliderId);
-    CMFCRibbonSliderSync first(sliderId);
-    CMFCRibbonSliderSync second(sliderId);
-    first.SetOriginal(&root);
-    second.SetOriginal(&first);
-    root.SetOriginal(&root);
-    root.SetOriginal(&first);
-    root.SetOriginal(&second);
-    EXPECT_EQ(root.GetOriginal(), nullptr);
-    first.SetOriginal(&first);
-    EXPECT_EQ(first.GetOriginal(), &root);
-    first.SetOriginal(&second);
-    EXPECT_EQ(first.GetOriginal(), &root);
-    first.CopyStateFrom(&second);
-    EXPECT_EQ(first.GetOriginal(), &root);
-    second.SetPosSync(5, FALSE);
-    EXPECT_EQ(root.GetPos(), 5);
-    EXPECT_EQ(first.GetPos(), 5);
+TEST_F(SliderChain, ACopyThatGetsAnotherOriginalFollowsThatOne) {
+    m_third.SetOriginal(&m_first);
+    m_third.SetOriginal(&m_second);
+    m_first.SetPosSync(5, FALSE);
+    EXPECT_EQ(m_third.GetPos(), 0);
+    m_second.SetPosSync(6, FALSE);
+    EXPECT_EQ(m_third.GetPos(), 6);
+    m_third.SetOriginal(nullptr);
+    m_second.SetPosSync(7, FALSE);
+    EXPECT_EQ(m_third.GetPos(), 6);
 }
 
-TEST(SliderChain, NeverBecomesARingByLinksAlone) {
-    CMFCRibbonSliderSync first(sliderId);
-    CMFCRibbonSliderSync second(sliderId);
-    first.AddLinkedSlider(&second);
-    second.AddLinkedSlider(&first);
-    first.SetOriginal(&second);
-    EXPECT_EQ(first.GetOriginal(), nullptr);
-    first.SetPosSync(5, FALSE);
-    EXPECT_EQ(second.GetPos(), 5);
-    second.SetPosSync(6, FALSE);
-    EXPECT_EQ(first.GetPos(), 5) << "who was linked only follows";
+TEST_F(SliderChain, WhoeverFollowedACopyFollowsItsRoot) {
+    m_second.SetOriginal(&m_first);
+    m_first.SetOriginal(&m_root);
+    m_root.SetPosSync(8, FALSE);
+    EXPECT_EQ(m_second.GetPos(), 8);
 }
 
-TEST(SliderChain, ACopyThatGetsAnotherOriginalFollowsThatOne) {
-    CMFCRibbonSliderSync first(sliderId);
-    CMFCRibbonSliderSync second(sliderId);
-    CMFCRibbonSliderSync copy(sliderId);
-    copy.SetOriginal(&first);
-    copy.SetOriginal(&second);
-    first.SetPosSync(5, FALSE);
-    EXPECT_EQ(copy.GetPos(), 0);
-    second.SetPosSync(6, FALSE);
-    EXPECT_EQ(copy.GetPos(), 6);
-    copy.SetOriginal(nullptr);
-    second.SetPosSync(7, FALSE);
-    EXPECT_EQ(copy.GetPos(), 6);
-}
-
-TEST(SliderChain, WhoeverFollowedACopyFollowsItsRoot) {
-    CMFCRibbonSliderSync root(sliderId);
-    CMFCRibbonSliderSync middle(sliderId);
-    CMFCRibbonSliderSync last(sliderId);
-    last.SetOriginal(&middle);
-    middle.SetOriginal(&root);
-    root.SetPosSync(8, FALSE);
-    EXPECT_EQ(last.GetPos(), 8);
-}
-
-TEST(SliderChain, AnOriginalOfAnotherClassIsNoSource) {
+TEST_F(SliderChain, AnOriginalOfAnotherClassIsNoSource) {
     CMFCRibbonSlider plain(sliderId);
-    CMFCRibbonSliderSync slider(sliderId);
-    slider.SetOriginal(&plain);
-    slider.SetPosSync(5, FALSE);
-    EXPECT_EQ(slider.GetPos(), 5);
+    m_root.SetOriginal(&plain);
+    m_root.SetPosSync(5, FALSE);
+    EXPECT_EQ(m_root.GetPos(), 5);
     EXPECT_EQ(plain.GetPos(), 0);
 }
 

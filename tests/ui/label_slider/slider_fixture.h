@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -52,6 +53,37 @@ std::unique_ptr<Slider> MakeSlider(UINT command = sliderId, int width = 400) {
     slider->SetRange(0, 40);
     return slider;
 }
+
+/// Sliders of one command in no bar, each still on its own.
+class LooseSliders : public testing::Test {
+protected:
+    typedef std::initializer_list<const CMFCRibbonSliderSync*> Sliders;
+
+    /// The second follows the first, which follows the root.
+    void MakeChain() {
+        m_first.SetOriginal(&m_root);
+        m_second.SetOriginal(&m_first);
+    }
+    static void ExpectAt(int pos, Sliders sliders) {
+        for (const CMFCRibbonSliderSync* slider : sliders) {
+            EXPECT_EQ(slider->GetPos(), pos);
+            EXPECT_EQ(TipOf(*slider), std::to_wstring(pos));
+        }
+    }
+    /// Whoever of the movers is set, all the sliders come to its position.
+    static void ExpectToFollowEach(std::initializer_list<CMFCRibbonSliderSync*> movers, Sliders sliders) {
+        int pos = 10;
+        for (CMFCRibbonSliderSync* mover : movers) {
+            mover->SetPosSync(++pos, FALSE);
+            ExpectAt(pos, sliders);
+        }
+    }
+
+    CMFCRibbonSliderSync m_root{sliderId};
+    CMFCRibbonSliderSync m_first{sliderId};
+    CMFCRibbonSliderSync m_second{sliderId};
+    CMFCRibbonSliderSync m_third{sliderId};
+};
 
 /// A slider and its copy in a bar.
 class SliderSyncInput : public testing::Test {

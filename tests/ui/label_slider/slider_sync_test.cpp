@@ -5,7 +5,9 @@
 
 namespace {
 
-TEST(SliderSync, IsAPlainSliderWithItsIdAndWidth) {
+class SliderSync : public LooseSliders {};
+
+TEST_F(SliderSync, IsAPlainSliderWithItsIdAndWidth) {
     CMFCRibbonSliderSync slider(7, 80);
     EXPECT_EQ(slider.GetID(), 7u);
     EXPECT_EQ(slider.GetWidth(), 80);
@@ -13,7 +15,7 @@ TEST(SliderSync, IsAPlainSliderWithItsIdAndWidth) {
     EXPECT_NE(DYNAMIC_DOWNCAST(CMFCRibbonSliderSync, made.get()), nullptr);
 }
 
-TEST(SliderSync, TheTooltipIsThePosition) {
+TEST_F(SliderSync, TheTooltipIsThePosition) {
     CMFCRibbonSliderSync slider(7);
     slider.SetRange(-100, 100);
     slider.SetPos(-42);
@@ -21,35 +23,18 @@ TEST(SliderSync, TheTooltipIsThePosition) {
     EXPECT_EQ(TipOf(slider), L"-42");
 }
 
-TEST(SliderSync, SettingAnyOneMovesAllAndTheirTooltips) {
-    CMFCRibbonSliderSync root(sliderId);
-    CMFCRibbonSliderSync first(sliderId);
-    CMFCRibbonSliderSync second(sliderId);
-    CMFCRibbonSliderSync third(sliderId);
-    first.SetOriginal(&root);
-    second.SetOriginal(&first); // a chain of three
-    root.AddLinkedSlider(&third);
-    CMFCRibbonSliderSync* const all[] = {&root, &first, &second};
-    int pos = 10;
-    for (CMFCRibbonSliderSync* one : all) {
-        one->SetPosSync(++pos, FALSE);
-        for (const CMFCRibbonSliderSync* slider : {&root, &first, &second, &third}) {
-            EXPECT_EQ(slider->GetPos(), pos);
-            EXPECT_EQ(TipOf(*slider), std::to_wstring(pos));
-        }
-    }
+TEST_F(SliderSync, SettingAnyOneMovesAllAndTheirTooltips) {
+    MakeChain();
+    m_root.AddLinkedSlider(&m_third);
+    ExpectToFollowEach({&m_root, &m_first, &m_second}, {&m_root, &m_first, &m_second, &m_third});
 }
 
-TEST(SliderSync, APositionOutsideOfTheRangeIsItsNearestEndInEveryCopyAndTooltip) {
-    CMFCRibbonSliderSync root(sliderId);
-    CMFCRibbonSliderSync copy(sliderId);
-    copy.SetOriginal(&root);
-    copy.SetPosSync(INT_MAX, TRUE);
-    EXPECT_EQ(root.GetPos(), 100);
-    EXPECT_EQ(TipOf(copy), L"100");
-    copy.SetPosSync(INT_MIN, TRUE);
-    EXPECT_EQ(root.GetPos(), 0);
-    EXPECT_EQ(TipOf(root), L"0");
+TEST_F(SliderSync, APositionOutsideOfTheRangeIsItsNearestEndInEveryCopyAndTooltip) {
+    m_first.SetOriginal(&m_root);
+    m_first.SetPosSync(INT_MAX, TRUE);
+    ExpectAt(100, {&m_root, &m_first});
+    m_first.SetPosSync(INT_MIN, TRUE);
+    ExpectAt(0, {&m_root, &m_first});
 }
 
 // ---- with a window

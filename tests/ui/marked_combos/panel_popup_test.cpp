@@ -1,4 +1,5 @@
 // Combos with marks in the pop-up of a collapsed panel.
+#include "tests/support/collapsed_panel.h"
 #include "tests/support/keys.h"
 #include "tests/ui/marked_combos/combo_fixture.h"
 
@@ -14,23 +15,7 @@ protected:
         m_multi = &Add<CMFCRibbonMultiCombo>(comboId + 1);
         m_check->SelectItem(1);
         m_multi->SelectItem(1);
-        CArray<int, int> order;
-        for (int step = 0; step < 3; ++step)
-            order.Add(0); // the first panel, through all its sizes
-        CMFCRibbonCategory& category = *m_host.Bar().GetCategory(0);
-        category.SetCollapseOrder(order);
-        CMFCRibbonPanel& panel = *category.GetPanel(0);
-        CMFCRibbonPanel* const other = category.AddPanel(L"Other"); // takes the room
-        for (UINT i = 0; i < 6; ++i)
-            other->Add(new CMFCRibbonButton(900 + i, L"A button with a long text"));
-        m_host.LayOut();
-        for (int width = 900; width > 150 && !panel.IsCollapsed(); width -= 20) {
-            m_host.Frame().SetWindowPos(nullptr, 0, 0, width, 400, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-            PumpPending();
-        }
-        ASSERT_TRUE(panel.IsCollapsed());
-        m_pointer.Click(m_host.BarWindow(), panel.GetDefaultButton().GetRect().CenterPoint());
-        PumpPending();
+        OpenCollapsedPanel(m_host, m_pointer);
         ASSERT_NE(CMFCRibbonPanelMenu::GetDeepest(), nullptr);
         ASSERT_NE(m_check->GetParentWnd(), &m_host.Bar());
         TakeTold();

@@ -1,3 +1,4 @@
+#include "tests/support/ending_frame.h"
 #include "tests/ui/popup_menu/menu_frame.h"
 
 using PopupMenuCommandTest = PopupMenuTest;
@@ -80,15 +81,8 @@ TEST_F(PopupMenuCommandTest, TheReleaseOfTheButtonThatOpenedTheMenuChoosesNothin
 }
 
 TEST_F(PopupMenuCommandTest, AHostThatEndsItselfInTheCommandIsSafe) {
-    class EndingFrame : public MenuFrame {
-    protected:
-        BOOL OnCommand(WPARAM, LPARAM) override {
-            DestroyWindow();
-            return TRUE;
-        }
-    };
-    auto* frame = new EndingFrame;
-    frame->Create(nullptr, L"Ends", WS_OVERLAPPEDWINDOW, CRect(100, 80, 700, 480));
+    auto* const frame = EndingFrame<MenuFrame>::Make();
+    ASSERT_NE(frame, nullptr);
     const HWND window = frame->m_hWnd;
     auto* menu = new CMFCPopupMenu;
     ASSERT_TRUE(menu->Create(frame, 150, 150, MakeMenu()));

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <string>
 
-#include "afxglobals.h"
 #include "tests/support/canvas.h"
+#include "tests/support/office_look.h"
 #include "tests/support/picture_file.h"
 #include "tests/ui/popup_menu/menu_frame.h"
 
@@ -47,29 +47,15 @@ private:
 
 using Style = CMFCVisualManagerOffice2007::Style;
 
-struct Look {
-    Style style;
-    const wchar_t* name;
-    double scale;
-};
-
-class MenuLookTest : public PopupMenuTest, public ::testing::WithParamInterface<Look> {
+class MenuLookTest : public PopupMenuTest, public ::testing::WithParamInterface<OfficeLook> {
 protected:
-    MenuLookTest() {
-        CMFCVisualManagerOffice2007::SetStyle(GetParam().style);
-        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
-        afxGlobalData.SetRibbonImageScale(GetParam().scale);
-    }
-    ~MenuLookTest() override {
-        CMFCPopupMenu::CloseAll();
-        afxGlobalData.SetRibbonImageScale(0);
-        CMFCVisualManager::SetDefaultManager(nullptr);
-        CMFCVisualManagerOffice2007::CleanStyle();
-    }
+    ~MenuLookTest() override { CMFCPopupMenu::CloseAll(); }
     DrawnMenu* OpenDrawn() {
         auto* menu = new DrawnMenu;
         return menu->Create(m_frame, 200, 150, MakeMenu()) ? menu : nullptr;
     }
+
+    const ScopedOfficeLook m_look{GetParam()};
 };
 
 } // namespace
@@ -123,10 +109,12 @@ TEST_P(MenuLookTest, DisabledTextIsPalerThanTheRest) {
     EXPECT_GT(darkest(3), darkest(4) + 60);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Looks, MenuLookTest,
-    ::testing::Values(Look{Style::Office2007_LunaBlue, L"blue", 1.0}, Look{Style::Office2007_LunaBlue, L"blue", 1.5},
-                      Look{Style::Office2007_ObsidianBlack, L"black", 1.0},
-                      Look{Style::Office2007_ObsidianBlack, L"black", 1.5}, Look{Style::Office2007_Aqua, L"aqua", 1.0},
-                      Look{Style::Office2007_Aqua, L"aqua", 1.5}, Look{Style::Office2007_Silver, L"silver", 1.0},
-                      Look{Style::Office2007_Silver, L"silver", 1.5}));
+INSTANTIATE_TEST_SUITE_P(Looks, MenuLookTest,
+                         ::testing::Values(OfficeLook{Style::Office2007_LunaBlue, L"blue", 1.0},
+                                           OfficeLook{Style::Office2007_LunaBlue, L"blue", 1.5},
+                                           OfficeLook{Style::Office2007_ObsidianBlack, L"black", 1.0},
+                                           OfficeLook{Style::Office2007_ObsidianBlack, L"black", 1.5},
+                                           OfficeLook{Style::Office2007_Aqua, L"aqua", 1.0},
+                                           OfficeLook{Style::Office2007_Aqua, L"aqua", 1.5},
+                                           OfficeLook{Style::Office2007_Silver, L"silver", 1.0},
+                                           OfficeLook{Style::Office2007_Silver, L"silver", 1.5}));

@@ -114,10 +114,7 @@ TEST_F(AccessTreeTest, ACollapsedPanelHoldsItsButton) {
 }
 
 TEST_F(AccessTreeTest, TheQuickAccessToolbarHoldsItsCopiesAndItsMenu) {
-    CList<UINT, UINT> list;
-    list.AddTail(commands::paste);
-    list.AddTail(commands::bold);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::paste, commands::bold});
     const Accessible toolbar = Root().ChildAt(1);
     EXPECT_EQ(toolbar.Name(), L"Quick Access Toolbar");
     ASSERT_EQ(toolbar.ChildCount(), 3);
@@ -128,14 +125,9 @@ TEST_F(AccessTreeTest, TheQuickAccessToolbarHoldsItsCopiesAndItsMenu) {
 
 TEST_F(AccessTreeTest, TheMoreButtonIsInTheToolbarAndOpensTheRest) {
     AddManyButtons(40, 20);
-    CList<UINT, UINT> list;
-    list.AddTail(commands::firstHandled + 1000);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList(ManyCommands(1)));
     EXPECT_EQ(Root().ChildAt(1).ChildCount(), 2) << "there is room";
-    for (UINT id = 1; id < 40; ++id) {
-        list.AddTail(commands::firstHandled + 1000 + id);
-    }
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList(ManyCommands(40)));
     SetClientWidth(300);
     const Accessible toolbar = Root().ChildAt(1);
     ASSERT_EQ(toolbar.ChildCount(), 42);

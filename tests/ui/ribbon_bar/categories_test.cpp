@@ -92,9 +92,7 @@ TEST_F(RibbonBarTest, AHiddenElementHidesNoVisibleOneFromTheSearch) {
 TEST_F(RibbonBarTest, APanelThatIsTakenOutMayOutliveItsCategory) {
     CMFCRibbonCategory& category = *Bar().GetCategory(0);
     CMFCRibbonPanel* text = category.GetPanel(1);
-    CList<UINT, UINT> list;
-    list.AddTail(commands::bold);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::bold});
     m_pointer.MoveTo(Bar(), CenterOf(commands::italic));
     ASSERT_TRUE(Element(commands::italic).IsHighlighted());
     CMFCRibbonBaseElement& italic = Element(commands::italic);

@@ -108,11 +108,7 @@ TEST_F(RibbonBarTest, LabelsOfAllKindsHaveTheTextColourOfTheirPanel) {
 // Pictures for people at several widths and scales; the rules above hold in all of them.
 TEST_F(RibbonBarTest, AtEveryWidthAndScaleEveryPixelIsPainted) {
     Bar().AddContextCategory(L"Tools", L"Picture Tools", 3, AFX_CategoryColor_Red, 0, 0);
-    CList<UINT, UINT> list;
-    for (const UINT id : {commands::paste, commands::cut, 0u, commands::find}) {
-        list.AddTail(id);
-    }
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::paste, commands::cut, 0u, commands::find});
     for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
         ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(scale));
         Bar().ForceRecalcLayout();

@@ -129,9 +129,7 @@ TEST_F(LaunchButton, AWiderCaptionWidensThePanel) {
 }
 
 TEST_F(LaunchButton, ACopyInTheQuickAccessToolbarIsAnOrdinaryButton) {
-    CList<UINT, UINT> list;
-    list.AddTail(kLaunch);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{kLaunch});
     Layout();
     CMFCRibbonBaseElement* copy = nullptr;
     for (int x = 0; x < 200 && copy == nullptr; ++x) {

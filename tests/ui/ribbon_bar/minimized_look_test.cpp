@@ -86,9 +86,7 @@ TEST_F(MinimizedLook, NoTabLooksOpenUntilItHasOpenedItsPanels) {
 }
 
 TEST_F(MinimizedLook, TheQuickAccessMenusArrowStandsOutAboveAndBelowTheRibbon) {
-    CList<UINT, UINT> list;
-    list.AddTail(commands::paste);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::paste});
     using Manager = CMFCVisualManagerOffice2007;
     for (const Manager::Style style : {Manager::Office2007_LunaBlue, Manager::Office2007_ObsidianBlack,
                                        Manager::Office2007_Aqua, Manager::Office2007_Silver}) {

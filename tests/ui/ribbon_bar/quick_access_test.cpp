@@ -13,11 +13,7 @@ using testing::IsEmpty;
 class QuickAccessTest : public RibbonBarTest {
 protected:
     void SetCommands(std::initializer_list<UINT> ids) {
-        CList<UINT, UINT> list;
-        for (const UINT id : ids) {
-            list.AddTail(id);
-        }
-        Bar().SetQuickAccessCommands(list);
+        Bar().SetQuickAccessCommands(CommandList(ids));
         PumpPending();
     }
     CMFCRibbonBaseElement* CopyOf(UINT id) {
@@ -272,13 +268,7 @@ TEST_F(QuickAccessTest, ACopyGoesWithItsOriginal) {
 }
 
 TEST_F(QuickAccessTest, InANarrowBarWhatHasNoRoomIsNotShown) {
-    AddManyButtons(40, 20);
-    CList<UINT, UINT> list;
-    for (UINT id = 0; id < 40; ++id) {
-        list.AddTail(commands::firstHandled + 1000 + id);
-    }
-    Bar().SetQuickAccessCommands(list);
-    SetClientWidth(300);
+    FillQuickAccess(40);
     EXPECT_EQ(QuickAccessCommands().size(), 40u);
     CRect client;
     Bar().GetClientRect(client);
@@ -290,10 +280,7 @@ TEST_F(QuickAccessTest, InANarrowBarWhatHasNoRoomIsNotShown) {
 TEST_F(QuickAccessTest, TenTimesTheCommandsTakeNoMoreThanFortyTimesTheTime) {
     const auto measure = [this](int count) {
         CMFCRibbonCategory* category = AddManyButtons(count, 50);
-        CList<UINT, UINT> list;
-        for (int index = 0; index < count; ++index) {
-            list.AddTail(commands::firstHandled + 1000 + static_cast<UINT>(index));
-        }
+        const CommandList list(ManyCommands(count));
         const double seconds = MeasureSeconds([&] { Bar().SetQuickAccessCommands(list, FALSE); });
         EXPECT_EQ(QuickAccessCommands().size(), static_cast<size_t>(count));
         Bar().RemoveCategory(Bar().GetCategoryIndex(category));

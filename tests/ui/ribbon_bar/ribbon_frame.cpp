@@ -2,11 +2,15 @@
 
 #include <afxres.h>
 
+#include <numeric>
+
 #include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
 #include "afxribboncheckbox.h"
 #include "afxribbonslider.h"
 #include "fx/registered_messages.h"
+#include "tests/support/collapsed_panel.h"
+#include "tests/support/icon_handle.h"
 
 IMPLEMENT_DYNCREATE(HostCategory, CMFCRibbonCategory)
 
@@ -101,29 +105,14 @@ RibbonBarTest::~RibbonBarTest() {
     }
 }
 
-HICON RibbonBarTest::MakeIcon(int side, COLORREF color) {
-    std::vector<DWORD> pixels(static_cast<size_t>(side) * side);
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-            const bool inside = x > 1 && y > 1 && x < side - 2 && y < side - 2;
-            pixels[static_cast<size_t>(y) * side + x] =
-                inside ? 0xFF000000u | GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color) : 0;
-        }
-    }
-    ICONINFO info{};
-    info.fIcon = TRUE;
-    info.hbmColor = ::CreateBitmap(side, side, 1, 32, pixels.data());
-    info.hbmMask = ::CreateBitmap(side, side, 1, 1, nullptr);
-    const HICON icon = ::CreateIconIndirect(&info);
-    ::DeleteObject(info.hbmColor);
-    ::DeleteObject(info.hbmMask);
-    m_icons.push_back(icon);
-    return icon;
+HICON RibbonBarTest::MakeSquareIcon(int side, COLORREF color) {
+    return m_icons.emplace_back(
+        MakeIcon(side, color, [side](int x, int y) { return x > 1 && y > 1 && x < side - 2 && y < side - 2; }));
 }
 
 void RibbonBarTest::FillBar() {
     const auto button = [this](UINT id, LPCTSTR text, COLORREF color) {
-        return new CMFCRibbonButton(id, text, MakeIcon(32, color), FALSE, MakeIcon(16, color));
+        return new CMFCRibbonButton(id, text, MakeSquareIcon(32, color), FALSE, MakeSquareIcon(16, color));
     };
     CMFCRibbonCategory* home = Bar().AddCategory(L"Home", 0, 0);
     CMFCRibbonPanel* clipboard = home->AddPanel(L"Clipboard");
@@ -133,10 +122,10 @@ void RibbonBarTest::FillBar() {
     clipboard->Add(button(commands::format, L"Format Painter", RGB(30, 150, 60)));
     CMFCRibbonPanel* text = home->AddPanel(L"Text");
     auto* group = new CMFCRibbonButtonsGroup;
-    group->AddButton(
-        new CMFCRibbonButton(commands::bold, L"", MakeIcon(16, RGB(0, 0, 0)), FALSE, MakeIcon(16, RGB(0, 0, 0))));
-    group->AddButton(new CMFCRibbonButton(commands::italic, L"", MakeIcon(16, RGB(90, 90, 90)), FALSE,
-                                          MakeIcon(16, RGB(90, 90, 90))));
+    group->AddButton(new CMFCRibbonButton(commands::bold, L"", MakeSquareIcon(16, RGB(0, 0, 0)), FALSE,
+                                          MakeSquareIcon(16, RGB(0, 0, 0))));
+    group->AddButton(new CMFCRibbonButton(commands::italic, L"", MakeSquareIcon(16, RGB(90, 90, 90)), FALSE,
+                                          MakeSquareIcon(16, RGB(90, 90, 90))));
     text->Add(group);
     text->AddSeparator();
     auto* edit = new CMFCRibbonEdit(commands::size, 70, L"Size:");
@@ -167,6 +156,34 @@ CMFCRibbonCategory* RibbonBarTest::AddManyButtons(int count, int perPanel) {
     return category;
 }
 
+std::vector<UINT> RibbonBarTest::ManyCommands(int count) {
+    std::vector<UINT> ids(static_cast<size_t>(count));
+    std::iota(ids.begin(), ids.end(), commands::firstHandled + 1000);
+    return ids;
+}
+
+void RibbonBarTest::FillQuickAccess(int count) {
+    AddManyButtons(count, 20);
+    Bar().SetQuickAccessCommands(CommandList(ManyCommands(count)));
+    SetClientWidth(300);
+}
+
+std::vector<COLORREF> RibbonBarTest::ShownPixels() {
+    CRect client;
+    Bar().GetClientRect(client);
+    CClientDC dc(&Bar());
+    CDC memory;
+    memory.CreateCompatibleDC(&dc);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
+    CBitmap* const previous = memory.SelectObject(&bitmap);
+    memory.BitBlt(0, 0, client.Width(), client.Height(), &dc, 0, 0, SRCCOPY);
+    memory.SelectObject(previous);
+    std::vector<COLORREF> pixels(static_cast<size_t>(client.Width()) * static_cast<size_t>(client.Height()));
+    bitmap.GetBitmapBits(static_cast<DWORD>(pixels.size() * sizeof(COLORREF)), pixels.data());
+    return pixels;
+}
+
 CMFCRibbonBaseElement& RibbonBarTest::Element(UINT id) {
     CMFCRibbonBaseElement* element = Bar().FindByID(id, TRUE, TRUE);
     if (element == nullptr) {
@@ -188,13 +205,9 @@ void RibbonBarTest::SetQuickAccessDefault(std::initializer_list<UINT> visible, s
 }
 
 std::vector<UINT> RibbonBarTest::QuickAccessCommands() {
-    CList<UINT, UINT> list;
+    CommandList list;
     Bar().GetQuickAccessCommands(list);
-    std::vector<UINT> ids;
-    for (POSITION position = list.GetHeadPosition(); position != nullptr;) {
-        ids.push_back(list.GetNext(position));
-    }
-    return ids;
+    return list.Ids();
 }
 
 void RibbonBarTest::SetClientWidth(int width) {
@@ -205,4 +218,8 @@ void RibbonBarTest::SetClientWidth(int width) {
     m_frame->GetClientRect(client);
     EXPECT_EQ(client.Width(), width) << "the system has another limit";
     PumpPending();
+}
+
+CMFCRibbonPanel& RibbonBarTest::Collapse(int panel) {
+    return CollapsePanel(*Bar().GetActiveCategory(), panel, [this](int width) { SetClientWidth(width); });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "fx/window_dc.h"
+#include "tests/support/command_list.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ui_test.h"
@@ -85,12 +87,20 @@ protected:
     CPoint CenterOf(UINT id) { return Center(Element(id).GetRect()); }
     /// Any width, wider than the screen too.
     void SetClientWidth(int width);
+    /// Narrows the window until that panel of the active category is a button; throws when it never is.
+    CMFCRibbonPanel& Collapse(int panel);
     void FillBar();
     /// The commands that the quick access toolbar starts with, and others that its menu offers.
     void SetQuickAccessDefault(std::initializer_list<UINT> visible, std::initializer_list<UINT> others = {});
     std::vector<UINT> QuickAccessCommands();
     /// A grid of that many small buttons in a category of their own; ids from firstHandled + 1000 on.
     CMFCRibbonCategory* AddManyButtons(int count, int perPanel);
+    /// The ids of so many of them.
+    static std::vector<UINT> ManyCommands(int count);
+    /// That many buttons, the commands of all on the quick access toolbar, in a window of 300 pixels: few have room.
+    void FillQuickAccess(int count);
+    /// What the bar's window shows, row by row.
+    std::vector<COLORREF> ShownPixels();
 
     RibbonFrame* m_frame = nullptr;
     HWND m_window = nullptr; // of the frame; stays when the frame is gone
@@ -98,5 +108,5 @@ protected:
     std::vector<HICON> m_icons;
 
 private:
-    HICON MakeIcon(int side, COLORREF color);
+    HICON MakeSquareIcon(int side, COLORREF color);
 };

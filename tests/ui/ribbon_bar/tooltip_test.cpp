@@ -52,9 +52,7 @@ TEST_F(RibbonTooltipTest, TheToolFollowsTheElementUnderThePointer) {
 }
 
 TEST_F(RibbonTooltipTest, TheQuickAccessMenuButtonHasTheFrameworksText) {
-    CList<UINT, UINT> list;
-    list.AddTail(commands::cut);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::cut});
     const CRect all = Bar().GetQuickAccessToolbarLocation();
     const CRect copies = Bar().GetQATCommandsLocation();
     EXPECT_STREQ(TipTextAt(CPoint((copies.right + all.right) / 2, all.CenterPoint().y)),

@@ -36,9 +36,7 @@ TEST_F(RibbonBarTest, ElementsOfOtherCategoriesAreNotUpdated) {
 }
 
 TEST_F(RibbonBarTest, QuickAccessCopiesAreUpdatedWithoutTheirCategory) {
-    CList<UINT, UINT> list;
-    list.AddTail(commands::find);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::find});
     m_frame->disabledCommand = commands::find;
     RunIdle();
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;

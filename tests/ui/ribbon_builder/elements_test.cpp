@@ -1,20 +1,10 @@
-#include "library_context.h"
+// The elements of a file: which are built, in which order, with which ids, texts and help files.
 #include "ribbon_check_combo.h"
-#include "ribbon_icon_button.h"
-#include "ribbon_multi_combo.h"
-#include "tests/support/canvas.h"
-#include "tests/support/scoped_value.h"
-#include "tests/ui/icon_button/button_flags.h"
 #include "tests/ui/ribbon_builder/ribbon_fixture.h"
 
 #include <varnhold/xml.h>
 
 namespace {
-
-constexpr std::uint32_t red = 0xFF0000;
-constexpr std::uint32_t green = 0x00FF00;
-constexpr std::uint32_t blue = 0x0000FF;
-constexpr std::uint32_t yellow = 0xFFFF00;
 
 /// Reads an element from a literal and gives it to the builder as the host would.
 class XmlElement {
@@ -25,19 +15,6 @@ public:
 private:
     CXmlDocumentWrapper m_document;
 };
-
-RibbonInfo InfoOf(const wchar_t* type) {
-    RibbonInfo info;
-    info.type = type;
-    info.name = L"name";
-    info.tooltip = L"tip";
-    info.picPath = L"pic\\a.ico";
-    return info;
-}
-
-std::unique_ptr<CMFCRibbonBaseElement> Make(const RibbonInfo& info, const CAddRibbonBar* owner = nullptr) {
-    return std::unique_ptr<CMFCRibbonBaseElement>(CAddRibbonBar::CreateACtrl(7, info, owner));
-}
 
 TEST_F(RibbonBuilder, EveryKindOfElementIsBuiltInOrder) {
     ASSERT_TRUE(Load(
@@ -255,255 +232,6 @@ TEST_F(RibbonBuilder, GetRowInfoReadsOneElementIntoARecord) {
     EXPECT_FALSE(m_builder.GetRowInfo(XmlElement("<e SIZE=''/>").Node(), info));
 }
 
-TEST_F(RibbonBuilder, ButtonTakesBothIconSizesAndASmallOneThe16PixelIcon) {
-    // Below this test's installation directory where it is the first in its process to ask.
-    const CString largeFile = GetIconPathStr(L"pic\\a.ico", 32);
-    const CString smallFile = GetIconPathStr(L"pic\\a.ico", 16);
-    RibbonInfo info = InfoOf(L"BUTTON");
-    auto button = Make(info);
-    auto* icon = DYNAMIC_DOWNCAST(CMFCRibbonUNIcoButton, button.get());
-    ASSERT_NE(icon, nullptr);
-    EXPECT_EQ(icon->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
-    EXPECT_EQ(icon->GetIconPath(TRUE), largeFile);
-    EXPECT_EQ(icon->GetIconPath(FALSE), smallFile);
-    EXPECT_EQ(icon->GetID(), 7u);
-    EXPECT_EQ(CString(icon->GetText()), L"name");
-    EXPECT_EQ(icon->GetToolTipText(), L"tip");
-    EXPECT_TRUE(icon->HasLargeMode());
-
-    info.size = 16;
-    button = Make(info);
-    icon = DYNAMIC_DOWNCAST(CMFCRibbonSmallButton, button.get());
-    ASSERT_NE(icon, nullptr);
-    EXPECT_EQ(icon->GetIconPath(TRUE), smallFile);
-    EXPECT_TRUE(icon->GetIconPath(FALSE).IsEmpty());
-    EXPECT_FALSE(icon->HasLargeMode());
-
-    for (const int size : {0, 15, 17, 24, 32, -16}) {
-        info.size = size;
-        EXPECT_EQ(Make(info)->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton)) << size;
-    }
-}
-
-TEST_F(RibbonBuilder, ButtonsOwnTheirIconsBlendNoneAndShowNoDescription) {
-    for (const int size : {16, 32}) {
-        RibbonInfo info = InfoOf(L"BUTTON");
-        info.size = size;
-        const auto made = Make(info);
-        const auto& button = static_cast<const CMFCRibbonUNIcoButton&>(*made);
-        EXPECT_TRUE(ButtonFlags::DestroysIcons(button)) << size;
-        EXPECT_FALSE(ButtonFlags::BlendsIcons(button)) << size;
-        EXPECT_FALSE(button.IsAlwaysShowDescription()) << size;
-    }
-}
-
-void WriteIcon(const CString& path, int side, std::uint32_t colour) {
-    const std::filesystem::path file(path.GetString());
-    std::filesystem::create_directories(file.parent_path());
-    const std::string bytes = MakeIconFile(side, {colour, colour});
-    std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-}
-
-/// A red icon at the path of the button's large picture and a blue one at its alternate.
-void WriteLargeIcons(const CMFCRibbonUNIcoButton& button) {
-    CString path = button.GetIconPath(TRUE);
-    WriteIcon(path, 32, red);
-    ASSERT_GT(path.Replace(L"modle", L"modle_0"), 0);
-    WriteIcon(path, 32, blue);
-}
-
-std::uint32_t ColourDrawn(CMFCRibbonUNIcoButton& button, CMFCRibbonBaseElement::RibbonImageType type) {
-    Canvas canvas;
-    const int side = type == CMFCRibbonBaseElement::RibbonImageLarge ? 32 : 16;
-    button.DrawImage(canvas.Dc(), type, CRect(0, 0, side, side));
-    return canvas.At(4, 4);
-}
-
-/// The colour of the large picture while the skin style selects the alternates.
-std::uint32_t AlternateColour(CMFCRibbonUNIcoButton& button) {
-    CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
-    const std::uint32_t colour = ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageLarge);
-    CMFCRibbonUNIcoButton::SetSkinStyle(CString());
-    return colour;
-}
-
-TEST_F(RibbonBuilder, ButtonsAlternateIconsAreFormed) {
-    RibbonInfo info = InfoOf(L"BUTTON");
-    info.picPath = L"skin\\modle\\a.ico";
-    for (const int size : {16, 32}) {
-        info.size = size;
-        const auto made = Make(info);
-        auto& button = static_cast<CMFCRibbonUNIcoButton&>(*made);
-        WriteLargeIcons(button);
-        EXPECT_EQ(AlternateColour(button), blue) << size;
-    }
-}
-
-/// An image of one colour in a category's list.
-void AddImage(CMFCToolBarImages& images, const TemporaryDirectory& directory, int side, std::uint32_t colour) {
-    images.SetImageSize(CSize(side, side));
-    const std::wstring file = directory.Write("image.ico", MakeIconFile(side, {colour, colour}));
-    const auto icon = static_cast<HICON>(::LoadImageW(nullptr, file.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE));
-    EXPECT_EQ(images.AddIcon(icon, TRUE), 0);
-    ::DestroyIcon(icon);
-}
-
-TEST_F(RibbonBuilder, ButtonWhoseLargeFileIsMissingDrawsFromItsImageIndexes) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' TYPE='BUTTON' PICPATH='late\\a.ico'/>")));
-    CMFCRibbonCategory& category = *m_bar.GetCategory(0);
-    AddImage(category.GetLargeImages(), m_installation.Directory(), 32, red);
-    AddImage(category.GetSmallImages(), m_installation.Directory(), 16, blue);
-    auto& button = static_cast<CMFCRibbonUNIcoButton&>(*Element(0));
-    button.SetImageIndex(0, TRUE);
-    button.SetImageIndex(0, FALSE);
-    WriteIcon(button.GetIconPath(FALSE), 16, green);
-    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageLarge), red);
-    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageSmall), blue) << "not from the small file either";
-    WriteIcon(button.GetIconPath(TRUE), 32, yellow);
-    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageLarge), yellow);
-    EXPECT_EQ(ColourDrawn(button, CMFCRibbonBaseElement::RibbonImageSmall), green);
-}
-
-TEST_F(RibbonBuilder, CategoryHasImagesOf16And32Pixels) {
-    ASSERT_TRUE(Load("<r><c KEYWORD='A' NAME=''/><c KEYWORD='B' NAME='' CateTab='Y'/></r>"));
-    for (int index : {0, 1}) {
-        EXPECT_EQ(m_bar.GetCategory(index)->GetImageSize(FALSE), CSize(16, 16));
-        EXPECT_EQ(m_bar.GetCategory(index)->GetImageSize(TRUE), CSize(32, 32));
-        EXPECT_EQ(m_bar.GetCategory(index)->GetImageCount(TRUE), 0);
-    }
-}
-
-TEST_F(RibbonBuilder, F1HintIsGivenToButtonsWhoseOwnerAndRecordWantIt) {
-    EXPECT_EQ(CAddRibbonBar::m_strHelpF1, L"\u6309F1\u952E\u83B7\u5F97\u6B64\u529F\u80FD\u89C6\u9891");
-    for (const int size : {16, 32}) {
-        RibbonInfo info = InfoOf(L"BUTTON");
-        info.size = size;
-        m_builder.SetCreateF1Tip(true);
-        EXPECT_EQ(Make(info, &m_builder)->GetDescription(), CAddRibbonBar::m_strHelpF1);
-        EXPECT_EQ(Make(info, nullptr)->GetDescription(), L"");
-        info.acceptF1 = false;
-        EXPECT_EQ(Make(info, &m_builder)->GetDescription(), L"");
-        info.acceptF1 = true;
-        m_builder.SetCreateF1Tip(false);
-        EXPECT_FALSE(m_builder.getAcceptF1());
-        EXPECT_EQ(Make(info, &m_builder)->GetDescription(), L"");
-    }
-}
-
-TEST_F(RibbonBuilder, F1HintIsForButtonsOnly) {
-    for (const wchar_t* type :
-         {L"slider", L"label", L"edit", L"qkRibbonCheckComb", L"qkRibbonMultiComb", L"qkRibbonMultiComb2"})
-        EXPECT_EQ(Make(InfoOf(type), &m_builder)->GetDescription(), L"") << type;
-}
-
-TEST_F(RibbonBuilder, LoadedButtonsGetTheF1HintUnlessRefused) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' AcceptF1='n'/>")));
-    EXPECT_EQ(Element(0)->GetDescription(), CAddRibbonBar::m_strHelpF1);
-    EXPECT_EQ(Element(1)->GetDescription(), L"");
-}
-
-TEST_F(RibbonBuilder, BuilderWithoutF1HintsLoadsButtonsWithoutThem) {
-    m_builder.SetCreateF1Tip(false);
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' AcceptF1='Y'>"
-                           "<s KEYWORD='3' TYPE='BUTTON'/></e>")));
-    EXPECT_EQ(Element(0)->GetDescription(), L"");
-    EXPECT_EQ(Element(1)->GetDescription(), L"");
-    const auto* const button = static_cast<CMFCRibbonButton*>(Element(1));
-    EXPECT_EQ(button->GetSubItems()[0]->GetDescription(), L"");
-    m_builder.SetCreateF1Tip(true);
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='2' TYPE='BUTTON'><s KEYWORD='3' TYPE='BUTTON'/></e>"), 1, "again.xml"));
-    const auto* const again = static_cast<CMFCRibbonButton*>(m_bar.GetCategory(1)->GetPanel(0)->GetElement(0));
-    EXPECT_EQ(again->GetSubItems()[0]->GetDescription(), CAddRibbonBar::m_strHelpF1);
-}
-
-TEST_F(RibbonBuilder, SliderIsAsWideAsConfiguredOrFifty) {
-    for (const auto& [width, expected] : {std::pair{120, 120}, {1, 1}, {0, 50}, {-5, 50}}) {
-        RibbonInfo info = InfoOf(L"SLIDER");
-        info.width = width;
-        const auto made = Make(info);
-        const auto* const slider = DYNAMIC_DOWNCAST(CMFCRibbonSlider, made.get());
-        ASSERT_NE(slider, nullptr);
-        const CMFCRibbonSlider same(7, expected);
-        EXPECT_EQ(slider->GetWidth(), same.GetWidth()) << width;
-        EXPECT_EQ(slider->GetID(), 7u);
-        EXPECT_EQ(CString(slider->GetText()), L"name");
-        EXPECT_EQ(slider->GetToolTipText(), L"tip");
-    }
-}
-
-TEST_F(RibbonBuilder, EditIsAsWideAsConfiguredOrFiftyAndHoldsTheName) {
-    for (const auto& [width, expected] : {std::pair{120, 120}, {1, 1}, {0, 50}, {-5, 50}}) {
-        RibbonInfo info = InfoOf(L"edit");
-        info.width = width;
-        const auto made = Make(info);
-        auto* const edit = DYNAMIC_DOWNCAST(CMFCRibbonEdit, made.get());
-        ASSERT_NE(edit, nullptr);
-        EXPECT_EQ(edit->GetWidth(), CMFCRibbonEdit(7, expected).GetWidth()) << width;
-        EXPECT_EQ(edit->GetID(), 7u);
-        EXPECT_EQ(edit->GetEditText(), L"name");
-        EXPECT_EQ(CString(edit->GetText()), L"");
-        EXPECT_EQ(edit->GetImageIndex(FALSE), -1);
-        EXPECT_EQ(edit->GetImageIndex(TRUE), -1);
-        EXPECT_EQ(edit->GetToolTipText(), L"tip");
-    }
-}
-
-TEST_F(RibbonBuilder, LabelHasNameAndIdAndNothingMore) {
-    const auto made = Make(InfoOf(L"Label"));
-    const auto* const label = DYNAMIC_DOWNCAST(CMFCRibbonLabel, made.get());
-    ASSERT_NE(label, nullptr);
-    EXPECT_EQ(CString(label->GetText()), L"name");
-    EXPECT_EQ(label->GetID(), 7u);
-    EXPECT_NE(label->GetToolTipText(), L"tip");
-    EXPECT_FALSE(label->IsMultiLine());
-}
-
-template <class Combo>
-std::unique_ptr<Combo> MakeCombo(const wchar_t* type) {
-    RibbonInfo info = InfoOf(type);
-    info.width = 300;
-    std::unique_ptr<CMFCRibbonBaseElement> made = Make(info);
-    auto* const combo = DYNAMIC_DOWNCAST(Combo, made.get());
-    EXPECT_NE(combo, nullptr);
-    if (combo)
-        static_cast<void>(made.release());
-    return std::unique_ptr<Combo>(combo);
-}
-
-void ExpectBuiltCombo(CMFCRibbonComboBox& combo) {
-    EXPECT_EQ(combo.GetID(), 7u);
-    EXPECT_FALSE(combo.HasEditBox());
-    EXPECT_EQ(combo.GetWidth(), CMFCRibbonComboBox(7, FALSE).GetWidth()) << "the usual width, whatever the file says";
-    EXPECT_EQ(combo.GetImageIndex(FALSE), -1);
-    EXPECT_EQ(combo.GetCount(), 0);
-    EXPECT_EQ(CString(combo.GetText()), L"name");
-    EXPECT_EQ(combo.GetToolTipText(), L"tip");
-}
-
-TEST_F(RibbonBuilder, ACheckComboAndAMultiComboDropInTheirClassesStaticHeight) {
-    const ScopedValue checkHeight(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 321);
-    const ScopedValue multiHeight(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 123);
-    const auto check = MakeCombo<CMFCRibbonCheckComb>(L"qkRibbonCheckComb");
-    ASSERT_NE(check, nullptr);
-    ExpectBuiltCombo(*check);
-    EXPECT_EQ(check->GetDropDownHeight(), 321);
-    check->SetStaticDropDownHeight(333);
-    EXPECT_EQ(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 333) << "it uses the static height";
-    const auto multi = MakeCombo<CMFCRibbonMultiCombo>(L"qkRibbonMultiComb");
-    ASSERT_NE(multi, nullptr);
-    ExpectBuiltCombo(*multi);
-    EXPECT_EQ(multi->GetDropDownHeight(), 123);
-    multi->SetStaticDropDownHeight(111);
-    EXPECT_EQ(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 111);
-}
-
-TEST_F(RibbonBuilder, ALightOnlyComboKeepsItsDropDownHeight) {
-    const auto light = MakeCombo<CMFCRibbonVesMultiCombo>(L"qkRibbonMultiComb2");
-    ASSERT_NE(light, nullptr);
-    ExpectBuiltCombo(*light);
-    EXPECT_EQ(light->GetDropDownHeight(), CMFCRibbonComboBox(7, FALSE).GetDropDownHeight());
-}
-
 TEST_F(RibbonBuilder, ASubItemGoesOntoTheQuickAccessToolbarToo) {
     ASSERT_TRUE(Load("<r KEYWORD='QK_Rbbion_QAToolbar'><i KEYWORD='S'/><i KEYWORD='B'/></r>" +
                      Panel("<e KEYWORD='B' TYPE='BUTTON'><s KEYWORD='S' TYPE='BUTTON'/></e>")));
@@ -528,11 +256,6 @@ TEST_F(RibbonBuilder, AConfiguredComboGoesOntoTheQuickAccessToolbar) {
     }
 }
 
-TEST_F(RibbonBuilder, UnknownTypesMakeNothing) {
-    for (const wchar_t* type : {L"", L"lamp", L"GROUP", L"BUTTON ", L"buttons", L"qkRibbonMultiComb3", L"CheckComb"})
-        EXPECT_EQ(Make(InfoOf(type)), nullptr) << type;
-}
-
 TEST_F(RibbonBuilder, IconsThatAreMissingDoNotStopTheBuild) {
     ASSERT_TRUE(
         Load(Panel("<e KEYWORD='1' TYPE='BUTTON' PICPATH='no\\such.ico'/><e KEYWORD='2' TYPE='BUTTON' PICPATH=''/>"
@@ -540,138 +263,33 @@ TEST_F(RibbonBuilder, IconsThatAreMissingDoNotStopTheBuild) {
     EXPECT_EQ(FirstPanel()->GetCount(), 4);
 }
 
-class ButtonFromKey : public RibbonBuilder {
-protected:
-    void SetUp() override {
-        RibbonBuilder::SetUp();
-        ASSERT_TRUE(m_installation.Translate("K L"));
+TEST_F(RibbonBuilder, CategoryHasImagesOf16And32Pixels) {
+    ASSERT_TRUE(Load("<r><c KEYWORD='A' NAME=''/><c KEYWORD='B' NAME='' CateTab='Y'/></r>"));
+    for (int index : {0, 1}) {
+        EXPECT_EQ(m_bar.GetCategory(index)->GetImageSize(FALSE), CSize(16, 16));
+        EXPECT_EQ(m_bar.GetCategory(index)->GetImageSize(TRUE), CSize(32, 32));
+        EXPECT_EQ(m_bar.GetCategory(index)->GetImageCount(TRUE), 0);
     }
-    std::unique_ptr<CMFCRibbonUNIcoButton> Make(const std::wstring& keyword, int keepLarge = 0) {
-        m_id = -7;
-        return std::unique_ptr<CMFCRibbonUNIcoButton>(
-            CAddRibbonBar::CreateBtnFromKey(&m_bar, keyword, 5, m_id, keepLarge));
-    }
-    int m_id = -7;
-};
+}
 
-const char* const keyButton = "<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='pic\\a.ico' AcceptF1='N'/>";
+TEST_F(RibbonBuilder, LoadedButtonsGetTheF1HintUnlessRefused) {
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' AcceptF1='n'/>")));
+    EXPECT_EQ(Element(0)->GetDescription(), CAddRibbonBar::m_strHelpF1);
+    EXPECT_EQ(Element(1)->GetDescription(), L"");
+}
 
-TEST_F(ButtonFromKey, CopiesTheCommandsButton) {
+TEST_F(RibbonBuilder, BuilderWithoutF1HintsLoadsButtonsWithoutThem) {
     m_builder.SetCreateF1Tip(false);
-    ASSERT_TRUE(Load(Panel(keyButton)));
-    const auto button = Make(L"K");
-    ASSERT_NE(button, nullptr);
-    EXPECT_EQ(m_id, m_firstId + 1);
-    EXPECT_EQ(button->GetID(), static_cast<UINT>(m_id));
-    EXPECT_EQ(CString(button->GetText()), L"<K>");
-    EXPECT_EQ(button->GetToolTipText(), L"tip of <K>");
-    EXPECT_EQ(button->GetDescription(), CAddRibbonBar::m_strHelpF1) << "always";
-    const auto* const found = static_cast<CMFCRibbonUNIcoButton*>(Element(0));
-    EXPECT_EQ(button->GetIconPath(TRUE), found->GetIconPath(TRUE));
-    EXPECT_EQ(button->GetIconPath(FALSE), found->GetIconPath(FALSE));
-    EXPECT_EQ(button->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
-}
-
-TEST_F(ButtonFromKey, NameAndTooltipAreTheRegisteredOnesWhateverTheFoundButtonShows) {
-    ASSERT_TRUE(Load(Panel(keyButton)));
-    Element(0)->SetText(L"another text");
-    Element(0)->SetToolTipText(L"another tip");
-    const auto button = Make(L"K");
-    ASSERT_NE(button, nullptr);
-    EXPECT_EQ(CString(button->GetText()), L"<K>");
-    EXPECT_EQ(button->GetToolTipText(), L"tip of <K>");
-}
-
-TEST_F(ButtonFromKey, TakesThePathsOfTheVisibleOneOfTwo) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='pic\\a.ico'/>"
-                           "<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='pic\\b.ico'/>")));
-    EXPECT_EQ(Make(L"K")->GetIconPath(TRUE).Right(5), L"a.ico");
-    Element(0)->SetVisible(FALSE);
-    const auto button = Make(L"K");
-    ASSERT_NE(button, nullptr);
-    EXPECT_EQ(button->GetIconPath(TRUE).Right(5), L"b.ico");
-}
-
-TEST_F(ButtonFromKey, LeavesIconsAndDescriptionFlagsOff) {
-    ASSERT_TRUE(Load(Panel(keyButton)));
-    const auto button = Make(L"K", 1);
-    ASSERT_NE(button, nullptr);
-    EXPECT_FALSE(ButtonFlags::DestroysIcons(*button));
-    EXPECT_FALSE(ButtonFlags::BlendsIcons(*button));
-    EXPECT_FALSE(button->IsAlwaysShowDescription());
-}
-
-TEST_F(ButtonFromKey, LastArgumentKeepsTheLargePath) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' PICPATH='skin\\modle\\k.ico'/>")));
-    WriteLargeIcons(static_cast<CMFCRibbonUNIcoButton&>(*Element(0)));
-    const auto kept = Make(L"K", 1);
-    ASSERT_NE(kept, nullptr);
-    EXPECT_EQ(AlternateColour(*kept), red);
-    const auto formed = Make(L"K", 0);
-    ASSERT_NE(formed, nullptr);
-    EXPECT_EQ(AlternateColour(*formed), blue);
-}
-
-TEST_F(ButtonFromKey, IsFoundOnTheQuickAccessToolbarToo) {
-    ASSERT_TRUE(Load("<r KEYWORD='QK_Rbbion_QAToolbar'><i KEYWORD='K'/></r>" + Panel(keyButton)));
-    const CString path = static_cast<CMFCRibbonUNIcoButton*>(Element(0))->GetIconPath(TRUE);
-    m_bar.ShowCategory(0, FALSE);
-    const auto button = Make(L"K");
-    ASSERT_NE(button, nullptr);
-    EXPECT_EQ(button->GetIconPath(TRUE), path);
-}
-
-TEST_F(ButtonFromKey, OfASmallButtonIsAnOrdinaryOneWithTheSmallOnesPaths) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON' SIZE='16' PICPATH='pic\\a.ico'/>")));
-    const auto button = Make(L"K");
-    ASSERT_NE(button, nullptr);
-    EXPECT_EQ(button->GetRuntimeClass(), RUNTIME_CLASS(CMFCRibbonUNIcoButton));
-    EXPECT_EQ(button->GetIconPath(TRUE).Right(12), L"pic\\16\\a.ico");
-    EXPECT_TRUE(button->GetIconPath(FALSE).IsEmpty());
-    EXPECT_TRUE(button->HasLargeMode());
-}
-
-TEST_F(ButtonFromKey, IsFoundAmongSubItemsAndMembersOfGroups) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='B' TYPE='BUTTON'><s KEYWORD='K' NAME='' TOOLTIP='' TYPE='BUTTON'/></e>"
-                           "<e KEYWORD='G' TYPE='GROUP'><s KEYWORD='L' NAME='' TOOLTIP='' TYPE='BUTTON'/></e>")));
-    EXPECT_NE(Make(L"K"), nullptr);
-    EXPECT_NE(Make(L"L"), nullptr);
-}
-
-TEST_F(ButtonFromKey, IsNullWithoutABar) {
-    ASSERT_TRUE(Load(Panel(keyButton)));
-    int id = -7;
-    EXPECT_EQ(CAddRibbonBar::CreateBtnFromKey(nullptr, L"K", 0, id, 0), nullptr);
-    EXPECT_EQ(id, -7);
-}
-
-TEST_F(ButtonFromKey, IsNullForAnUnknownKeyword) {
-    ASSERT_TRUE(Load(Panel(keyButton)));
-    EXPECT_EQ(Make(L"unknown"), nullptr);
-    EXPECT_EQ(m_id, -7);
-}
-
-TEST_F(ButtonFromKey, IsNullForAKeywordWithoutATooltip) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TYPE='BUTTON'/>")));
-    EXPECT_EQ(Make(L"K"), nullptr);
-    EXPECT_EQ(m_id, -7);
-}
-
-TEST_F(ButtonFromKey, IsNullWhereTheBarHasNoSuchElementButTellsTheId) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='lamp'/>")));
-    EXPECT_EQ(Make(L"K"), nullptr);
-    EXPECT_EQ(m_id, m_firstId + 1);
-}
-
-TEST_F(ButtonFromKey, IsNullForAnElementOfAnotherKind) {
-    ASSERT_TRUE(Load(Panel("<e KEYWORD='K' NAME='' TOOLTIP='' TYPE='edit'/>")));
-    EXPECT_EQ(Make(L"K"), nullptr);
-    EXPECT_EQ(m_id, m_firstId + 1);
-}
-
-TEST_F(ButtonFromKey, IsNullForAHiddenButton) {
-    ASSERT_TRUE(Load(Panel(keyButton), 0));
-    EXPECT_EQ(Make(L"K"), nullptr);
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='1' TYPE='BUTTON'/><e KEYWORD='2' TYPE='BUTTON' AcceptF1='Y'>"
+                           "<s KEYWORD='3' TYPE='BUTTON'/></e>")));
+    EXPECT_EQ(Element(0)->GetDescription(), L"");
+    EXPECT_EQ(Element(1)->GetDescription(), L"");
+    const auto* const button = static_cast<CMFCRibbonButton*>(Element(1));
+    EXPECT_EQ(button->GetSubItems()[0]->GetDescription(), L"");
+    m_builder.SetCreateF1Tip(true);
+    ASSERT_TRUE(Load(Panel("<e KEYWORD='2' TYPE='BUTTON'><s KEYWORD='3' TYPE='BUTTON'/></e>"), 1, "again.xml"));
+    const auto* const again = static_cast<CMFCRibbonButton*>(m_bar.GetCategory(1)->GetPanel(0)->GetElement(0));
+    EXPECT_EQ(again->GetSubItems()[0]->GetDescription(), CAddRibbonBar::m_strHelpF1);
 }
 
 } // namespace

@@ -127,9 +127,7 @@ TEST_F(RibbonBuilder, AnyFlagButZeroShows) {
 
 TEST_F(RibbonBuilder, HiddenLoadHidesTheCategoriesAndLeavesTheQuickAccessCommands) {
     ASSERT_TRUE(Load(twoCategories));
-    CList<UINT, UINT> commands;
-    commands.AddTail(static_cast<UINT>(m_firstId) + 1);
-    m_bar.SetQuickAccessCommands(commands);
+    m_bar.SetQuickAccessCommands(CommandList{static_cast<UINT>(m_firstId) + 1});
     const std::vector<UINT> before = QuickAccessIds();
     CAddRibbonBar second;
     ASSERT_TRUE(Load(second,
@@ -326,13 +324,9 @@ TEST_F(RibbonBuilder, CopiedBuilderHoldsWhatTheOriginalFound) {
 }
 
 TEST_F(RibbonBuilder, Vector2ListAppendsAtTheTail) {
-    CList<UINT, UINT> list;
-    list.AddTail(1);
+    CommandList list{1};
     CAddRibbonBar::vector2List({2, 3, 2}, list);
-    std::vector<UINT> seen;
-    for (POSITION position = list.GetHeadPosition(); position;)
-        seen.push_back(list.GetNext(position));
-    EXPECT_EQ(seen, (std::vector<UINT>{1, 2, 3, 2}));
+    EXPECT_EQ(list.Ids(), (std::vector<UINT>{1, 2, 3, 2}));
     CAddRibbonBar::vector2List({}, list);
     EXPECT_EQ(list.GetCount(), 4);
 }

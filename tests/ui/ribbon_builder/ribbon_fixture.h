@@ -3,6 +3,7 @@
 #include "add_ribbon_bar.h"
 #include "menu_id_mgr.h"
 #include "ribbon_category_ex.h"
+#include "tests/support/command_list.h"
 #include "tests/support/icon_writer.h"
 #include "tests/support/translation_tables.h"
 #include "tests/support/ui_test.h"
@@ -123,11 +124,11 @@ protected:
         return help;
     }
     std::vector<UINT> QuickAccessIds() {
-        CList<UINT, UINT> commands;
+        CommandList commands;
         m_bar.GetQuickAccessCommands(commands);
-        std::vector<UINT> ids;
-        for (POSITION position = commands.GetHeadPosition(); position;)
-            ids.push_back(commands.GetNext(position) - static_cast<UINT>(m_firstId));
+        std::vector<UINT> ids = commands.Ids();
+        for (UINT& id : ids)
+            id -= static_cast<UINT>(m_firstId);
         return ids;
     }
 

@@ -50,9 +50,7 @@ void RibbonComboTest::LayOut() {
 }
 
 void RibbonComboTest::AddToQuickAccess(UINT id) {
-    CList<UINT, UINT> commands;
-    commands.AddTail(id);
-    Bar().SetQuickAccessCommands(commands);
+    Bar().SetQuickAccessCommands(CommandList{id});
     LayOut();
 }
 

@@ -3,8 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <stdexcept>
-
 #include "tests/ui/ribbon_combo/combo_fixture.h"
 
 namespace {
@@ -15,19 +13,7 @@ using ::testing::IsEmpty;
 class ComboInPanelPopup : public RibbonComboTest {
 protected:
     ComboInPanelPopup() {
-        CArray<int, int> order;
-        for (int step = 0; step < 3; ++step) {
-            order.Add(0); // the first panel, through all its sizes
-        }
-        CMFCRibbonCategory& category = *Bar().GetCategory(0);
-        category.SetCollapseOrder(order);
-        for (int width = 900; width > 200 && !category.GetPanel(0)->IsCollapsed(); width -= 20) {
-            SetClientWidth(width);
-        }
-        if (!category.GetPanel(0)->IsCollapsed()) {
-            throw std::runtime_error("the panel never collapses");
-        }
-        m_pointer.Click(Bar().GetSafeHwnd(), category.GetPanel(0)->GetDefaultButton().GetRect().CenterPoint());
+        m_pointer.Click(Bar().GetSafeHwnd(), Collapse(0).GetDefaultButton().GetRect().CenterPoint());
         PumpPending();
         m_panel = CMFCRibbonPanelMenu::GetDeepest();
     }

@@ -1,11 +1,10 @@
 // How faces and open lists look, in pictures for people when BARWRIGHT_PICTURES names a folder, and that no pixel of a
 // list is left unpainted.
-#include <afxvisualmanageroffice2007.h>
-
 #include <algorithm>
 #include <string>
 
 #include "tests/support/canvas.h"
+#include "tests/support/office_look.h"
 #include "tests/support/picture_file.h"
 #include "tests/ui/ribbon_combo/combo_fixture.h"
 
@@ -51,18 +50,9 @@ public:
 
 using Style = CMFCVisualManagerOffice2007::Style;
 
-struct Look {
-    Style style;
-    const wchar_t* name;
-    double scale;
-};
-
-class ComboLookTest : public RibbonComboTest, public ::testing::WithParamInterface<Look> {
+class ComboLookTest : public RibbonComboTest, public ::testing::WithParamInterface<OfficeLook> {
 protected:
     ComboLookTest() : combo(*new DrawnCombo(1210, FALSE, 110, L"Layer:")) {
-        CMFCVisualManagerOffice2007::SetStyle(GetParam().style);
-        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
-        afxGlobalData.SetRibbonImageScale(GetParam().scale);
         for (const wchar_t* text : {L"Coastlines", L"Lakes and rivers", L"Borders", L"Relief", L"Roads", L"Railways",
                                     L"Towns with more than 100,000 people", L"Grid"}) {
             combo.AddItem(text);
@@ -78,13 +68,10 @@ protected:
         LayOut();
         RunIdle();
     }
-    ~ComboLookTest() override {
-        CMFCPopupMenu::CloseAll();
-        afxGlobalData.SetRibbonImageScale(0);
-        CMFCVisualManager::SetDefaultManager(nullptr);
-        CMFCVisualManagerOffice2007::CleanStyle();
-    }
+    ~ComboLookTest() override { CMFCPopupMenu::CloseAll(); }
+
     DrawnCombo& combo;
+    const ScopedOfficeLook m_look{GetParam()};
 };
 
 TEST_P(ComboLookTest, EveryPixelOfTheListIsPainted) {
@@ -114,9 +101,9 @@ TEST_P(ComboLookTest, EveryPixelOfTheListIsPainted) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, ComboLookTest,
-                         ::testing::Values(Look{Style::Office2007_ObsidianBlack, L"black-100", 1.0},
-                                           Look{Style::Office2007_ObsidianBlack, L"black-150", 1.5},
-                                           Look{Style::Office2007_Silver, L"silver-100", 1.0},
-                                           Look{Style::Office2007_Silver, L"silver-150", 1.5}));
+                         ::testing::Values(OfficeLook{Style::Office2007_ObsidianBlack, L"black-100", 1.0},
+                                           OfficeLook{Style::Office2007_ObsidianBlack, L"black-150", 1.5},
+                                           OfficeLook{Style::Office2007_Silver, L"silver-100", 1.0},
+                                           OfficeLook{Style::Office2007_Silver, L"silver-150", 1.5}));
 
 } // namespace

@@ -109,24 +109,12 @@ TEST_F(RibbonDrawing, TheSameWidthGivesTheSamePlacesWhicheverWayItWasReached) {
 
 TEST_F(RibbonDrawing, ARepaintFromKeptPicturesGivesTheSamePixels) {
     const auto pixels = [this] {
-        CRect client;
-        Bar().GetClientRect(client);
-        CClientDC dc(&Bar());
-        CDC memory;
-        memory.CreateCompatibleDC(&dc);
-        CBitmap bitmap;
-        bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
-        CBitmap* const previous = memory.SelectObject(&bitmap);
         Repaint();
-        memory.BitBlt(0, 0, client.Width(), client.Height(), &dc, 0, 0, SRCCOPY);
-        memory.SelectObject(previous);
-        std::vector<BYTE> bits(static_cast<size_t>(client.Width()) * static_cast<size_t>(client.Height()) * 4);
-        bitmap.GetBitmapBits(static_cast<DWORD>(bits.size()), bits.data());
-        return bits;
+        return ShownPixels();
     };
     SetClientWidth(777); // a width that nothing was painted in yet
-    const std::vector<BYTE> first = pixels();
-    EXPECT_NE(first, std::vector<BYTE>(first.size(), first[0]));
+    const std::vector<COLORREF> first = pixels();
+    EXPECT_NE(first, std::vector<COLORREF>(first.size(), first[0]));
     EXPECT_EQ(pixels(), first);
 }
 

@@ -41,21 +41,6 @@ protected:
     /// Another language, in which all texts are longer.
     void Switch() { ASSERT_TRUE(m_tables.Translate("One Two Three Four Five", "Common", "very much longer ")); }
     void PaintOnce() { Bar().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
-    std::vector<COLORREF> Pixels() {
-        CRect client;
-        Bar().GetClientRect(client);
-        CClientDC dc(&Bar());
-        CDC memory;
-        memory.CreateCompatibleDC(&dc);
-        CBitmap bitmap;
-        bitmap.CreateCompatibleBitmap(&dc, client.Width(), client.Height());
-        CBitmap* const previous = memory.SelectObject(&bitmap);
-        memory.BitBlt(0, 0, client.Width(), client.Height(), &dc, 0, 0, SRCCOPY);
-        memory.SelectObject(previous);
-        std::vector<COLORREF> pixels(static_cast<size_t>(client.Width()) * static_cast<size_t>(client.Height()));
-        bitmap.GetBitmapBits(static_cast<DWORD>(pixels.size() * sizeof(COLORREF)), pixels.data());
-        return pixels;
-    }
     std::vector<CRect> Places() const {
         std::vector<CRect> places;
         for (int index = 0; index < m_panel->GetCount(); ++index)
@@ -73,11 +58,11 @@ protected:
 
 TEST_F(LanguageSwitch, ARepaintChangesNoPixelOutsideOfTheElements) {
     PaintOnce();
-    const std::vector<COLORREF> before = Pixels();
+    const std::vector<COLORREF> before = ShownPixels();
     const std::vector<CRect> places = Places();
     Switch();
     PaintOnce();
-    const std::vector<COLORREF> after = Pixels();
+    const std::vector<COLORREF> after = ShownPixels();
     ASSERT_EQ(Places(), places);
     CRect client;
     Bar().GetClientRect(client);

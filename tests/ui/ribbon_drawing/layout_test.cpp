@@ -179,10 +179,7 @@ void RibbonLayout::CheckPixels(std::initializer_list<int> clientWidths) {
 }
 
 TEST_P(RibbonLayout, TheRowOfTabsAndTheQuickAccessToolbarAreHitWhereTheyAreDrawn) {
-    CList<UINT, UINT> list;
-    for (const UINT id : {commands::paste, commands::cut, commands::find})
-        list.AddTail(id);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::paste, commands::cut, commands::find});
     for (const int width : {1000, 420}) {
         SetWidth(width);
         std::map<const CMFCRibbonBaseElement*, CRect> places;

@@ -79,13 +79,7 @@ TEST_F(RibbonPopupLeaks, CustomizeMenuOfTheQuickAccessToolbar) {
 }
 
 TEST_F(RibbonPopupLeaks, RestOfTheQuickAccessToolbar) {
-    AddManyButtons(30, 20);
-    CList<UINT, UINT> list;
-    for (UINT id = 0; id < 30; ++id) {
-        list.AddTail(commands::firstHandled + 1000 + id);
-    }
-    Bar().SetQuickAccessCommands(list);
-    SetClientWidth(300);
+    FillQuickAccess(30);
     ExpectNoGrowth(1, [this] {
         if (CMFCRibbonBaseElement* button = FindInQuickAccess(RUNTIME_CLASS(CMFCRibbonQuickAccessMoreButton))) {
             Click(*button);

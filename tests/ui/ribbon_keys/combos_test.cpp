@@ -35,15 +35,7 @@ protected:
 
     CMFCRibbonComboBox& Choice() { return static_cast<CMFCRibbonComboBox&>(Element(kChoice)); }
     CMFCRibbonComboBox& Typed() { return static_cast<CMFCRibbonComboBox&>(Element(kTyped)); }
-
-    /// Narrows the window until the panel with the combos is collapsed.
-    void CollapsePanel() {
-        CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(1);
-        for (int width = 900; width > 100 && !panel.IsCollapsed(); width -= 20) {
-            SetClientWidth(width);
-        }
-        ASSERT_TRUE(panel.IsCollapsed());
-    }
+    void CollapsePanelOfCombos() { Collapse(1); }
 };
 
 TEST_F(ComboKeyTest, LettersOpenTheListOfAComboWithoutATextAndEnterChooses) {
@@ -132,7 +124,7 @@ TEST_F(ComboKeyTest, AltWithAnArrowOpensTheListOfATextAndAltLeavesAsEver) {
 }
 
 TEST_F(ComboKeyTest, InThePopUpOfACollapsedPanelLettersOpenTheListAndEscapeGoesBackToThem) {
-    CollapsePanel();
+    CollapsePanelOfCombos();
     Press({VK_MENU, 'H', 'Q', 'P', 'Q', 'C'});
     ASSERT_NE(Choice().GetDropDownList(), nullptr);
     EXPECT_THAT(ShownTips(), IsEmpty());
@@ -148,7 +140,7 @@ TEST_F(ComboKeyTest, InThePopUpOfACollapsedPanelLettersOpenTheListAndEscapeGoesB
 }
 
 TEST_F(ComboKeyTest, InThePopUpOfACollapsedPanelLettersGiveTheCaretToAComboWithAText) {
-    CollapsePanel();
+    CollapsePanelOfCombos();
     Press({VK_MENU, 'H', 'Q', 'P', 'Q', 'T'});
     ASSERT_NE(Typed().GetEditWnd(), nullptr);
     EXPECT_EQ(::GetFocus(), Typed().GetEditWnd()->GetSafeHwnd());
@@ -160,7 +152,7 @@ TEST_F(ComboKeyTest, InThePopUpOfACollapsedPanelLettersGiveTheCaretToAComboWithA
 }
 
 TEST_F(ComboKeyTest, InThePopUpOfACollapsedPanelF4AndAltWithAnArrowOpenTheList) {
-    CollapsePanel();
+    CollapsePanelOfCombos();
     Press({VK_MENU, 'H', 'Q', 'P'});
     CMFCRibbonPanelMenu* popup = CMFCRibbonPanelMenu::GetDeepest();
     ASSERT_NE(popup, nullptr);

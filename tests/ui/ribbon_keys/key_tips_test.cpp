@@ -82,10 +82,7 @@ TEST_F(KeyTipTest, ALetterThatLeadsNowhereLeavesTheTips) {
 }
 
 TEST_F(KeyTipTest, TheQuickAccessToolbarHasDigits) {
-    CList<UINT, UINT> list;
-    list.AddTail(commands::paste);
-    list.AddTail(commands::bold);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::paste, commands::bold});
     Press(VK_MENU);
     EXPECT_THAT(ShownTips(), ElementsAre(L"1", L"2", L"H", L"V"));
     Press('2');

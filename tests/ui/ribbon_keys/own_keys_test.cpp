@@ -60,19 +60,7 @@ protected:
         EXPECT_THAT(m_frame->commands, Each(commands::zoom));
     }
 
-    /// Narrows the window until the slider's panel is collapsed.
-    void CollapseSlidersPanel() {
-        CArray<int, int> order;
-        for (int step = 0; step < 3; ++step) {
-            order.Add(1);
-        }
-        Bar().GetCategory(0)->SetCollapseOrder(order);
-        Bar().GetCategory(0)->GetPanel(1)->SetKeys(L"ZZ");
-        for (int width = 900; width > 200 && !Bar().GetCategory(0)->GetPanel(1)->IsCollapsed(); width -= 20) {
-            SetClientWidth(width);
-        }
-        ASSERT_TRUE(Bar().GetCategory(0)->GetPanel(1)->IsCollapsed());
-    }
+    void CollapseSlidersPanel() { Collapse(1).SetKeys(L"ZZ"); }
 };
 
 TEST_F(OwnKeyTest, AFocusedSliderTakesArrowsHomeEndAndPageKeys) {

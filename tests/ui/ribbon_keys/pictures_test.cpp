@@ -63,10 +63,7 @@ protected:
 };
 
 TEST_F(KeyTipPicture, TipsCanBeReadInEverySkinAndAtEveryScale) {
-    CList<UINT, UINT> list;
-    list.AddTail(commands::paste);
-    list.AddTail(commands::bold);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{commands::paste, commands::bold});
     Bar().SetElementKeys(commands::bold, L"FB");
     Bar().SetElementKeys(commands::italic, L"FI");
     for (const auto style :

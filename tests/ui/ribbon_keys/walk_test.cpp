@@ -83,13 +83,7 @@ TEST_F(FocusWalkTest, TabGoesThroughTheBarAndShiftTabBack) {
 }
 
 TEST_F(FocusWalkTest, TheMoreButtonIsAStopAndEnterOpensTheRest) {
-    AddManyButtons(40, 20);
-    CList<UINT, UINT> list;
-    for (UINT id = 0; id < 40; ++id) {
-        list.AddTail(commands::firstHandled + 1000 + id);
-    }
-    Bar().SetQuickAccessCommands(list);
-    SetClientWidth(300);
+    FillQuickAccess(40);
     Start();
     Chord(VK_SHIFT, VK_TAB);
     ASSERT_TRUE(Bar().GetFocused()->IsKindOf(RUNTIME_CLASS(CMFCRibbonQuickAccessCustomizeButton)));

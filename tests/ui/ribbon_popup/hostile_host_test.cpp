@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "tests/support/churn_memory.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -11,16 +12,6 @@ using testing::ElementsAre;
 
 class HostileHost : public RibbonPopupTest {
 protected:
-    /// Freed memory is overwritten by the next allocation of its size: a touch of it shows.
-    static void ChurnMemory() {
-        std::vector<std::unique_ptr<char[]>> blocks;
-        for (size_t size = 16; size < 3000; size += 8) {
-            for (int i = 0; i < 4; ++i) {
-                blocks.push_back(std::make_unique<char[]>(size));
-                memset(blocks.back().get(), 0xDD, size);
-            }
-        }
-    }
     void OnCommand(std::function<void()> action) {
         m_frame->onCommand = [action] {
             action();

@@ -76,21 +76,6 @@ CMFCRibbonBaseElement* RibbonPopupTest::FindInQuickAccess(const CRuntimeClass* k
     return nullptr;
 }
 
-CMFCRibbonPanel& RibbonPopupTest::Collapse(int panel) {
-    CArray<int, int> order;
-    for (int step = 0; step < 3; ++step) {
-        order.Add(panel); // through all its sizes, before any other
-    }
-    Bar().GetActiveCategory()->SetCollapseOrder(order);
-    for (int width = 900; width > 200; width -= 20) {
-        SetClientWidth(width);
-        if (Bar().GetActiveCategory()->GetPanel(panel)->IsCollapsed()) {
-            return *Bar().GetActiveCategory()->GetPanel(panel);
-        }
-    }
-    throw std::runtime_error("the panel never collapses");
-}
-
 CMFCRibbonPanel& RibbonPopupTest::OpenCollapsedPanel() {
     CMFCRibbonPanel& panel = Collapse(0);
     Click(panel.GetDefaultButton());

@@ -39,7 +39,6 @@ protected:
     CMFCRibbonBaseElement* FindInQuickAccess(const CRuntimeClass* kind);
     /// Collapses the first panel of the active category and opens it.
     CMFCRibbonPanel& OpenCollapsedPanel();
-    CMFCRibbonPanel& Collapse(int panel);
 
 private:
     CMFCRibbonButton* m_shapes = nullptr;

@@ -117,9 +117,7 @@ TEST_F(QuickAccessPopup, ARowOfACopysMenuIsAddedAsWhatItIsACopyOf) {
 TEST_F(QuickAccessPopup, WhatOutlivesTheCategoriesIsAddedAgainAfterThey) {
     auto* tabButton = new CMFCRibbonButton(kOne + 1, L"Tab");
     Bar().AddToTabs(tabButton);
-    CList<UINT, UINT> list;
-    list.AddTail(kOne + 1);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList{kOne + 1});
     Bar().RemoveAllCategories();
     FillBar();
     Bar().RecalcLayout();
@@ -150,14 +148,9 @@ TEST_F(QuickAccessPopup, AnElementThatGoesWhileItsContextMenuIsOpenIsNotAdded) {
 
 TEST_F(QuickAccessPopup, WhatHasNoRoomIsShownByTheMoreButtonAndWorks) {
     AddManyButtons(30, 20);
-    CList<UINT, UINT> list;
-    list.AddTail(commands::firstHandled + 1000);
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList(ManyCommands(1)));
     EXPECT_EQ(MoreButton(), nullptr) << "there is room";
-    for (UINT id = 1; id < 30; ++id) {
-        list.AddTail(commands::firstHandled + 1000 + id);
-    }
-    Bar().SetQuickAccessCommands(list);
+    Bar().SetQuickAccessCommands(CommandList(ManyCommands(30)));
     SetClientWidth(300);
     ASSERT_NE(MoreButton(), nullptr);
     Click(*MoreButton());

@@ -1,3 +1,4 @@
+#include "tests/support/ending_frame.h"
 #include "tests/ui/toolbar/bar_frame.h"
 
 TEST_F(ToolBarTest, AClickSendsTheCommandToTheOwner) {
@@ -103,15 +104,8 @@ TEST_F(ToolBarTest, TheTooltipIsTheTextWithoutMnemonic) {
 }
 
 TEST_F(ToolBarTest, AHostThatDestroysTheBarInTheCommandIsSafe) {
-    class EndingFrame : public BarFrame {
-    protected:
-        BOOL OnCommand(WPARAM, LPARAM) override {
-            DestroyWindow();
-            return TRUE;
-        }
-    };
-    auto* frame = new EndingFrame;
-    frame->Create(nullptr, L"Ends", WS_OVERLAPPEDWINDOW, CRect(100, 80, 700, 480));
+    auto* const frame = EndingFrame<BarFrame>::Make();
+    ASSERT_NE(frame, nullptr);
     const HWND window = frame->m_hWnd;
     frame->bar.InsertButton(CMFCToolBarButton(3001, 0));
     frame->ShowWindow(SW_SHOWNOACTIVATE);

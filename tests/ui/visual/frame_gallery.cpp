@@ -10,6 +10,8 @@
 #include "afxribboncheckbox.h"
 #include "afxribbonslider.h"
 #include "afxvisualmanageroffice2007.h"
+#include "tests/support/command_list.h"
+#include "tests/support/icon_handle.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/png_file.h"
 #include "tests/support/ui_test.h"
@@ -24,27 +26,14 @@
 
 namespace {
 
-HICON MakeIcon(int side, COLORREF color) {
-    std::vector<DWORD> pixels(static_cast<std::size_t>(side) * side);
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-            const bool isInside = x > 1 && y > 1 && x < side - 2 && y < side - 2 && (x + y) % 7 != 0;
-            const DWORD opaque = 0xFF000000u | GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color);
-            pixels[static_cast<std::size_t>(y) * side + x] = isInside ? opaque : 0;
-        }
-    }
-    ICONINFO info{};
-    info.fIcon = TRUE;
-    info.hbmColor = ::CreateBitmap(side, side, 1, 32, pixels.data());
-    info.hbmMask = ::CreateBitmap(side, side, 1, 1, nullptr);
-    const HICON icon = ::CreateIconIndirect(&info);
-    ::DeleteObject(info.hbmColor);
-    ::DeleteObject(info.hbmMask);
-    return icon;
+HICON MakeStripedIcon(int side, COLORREF color) {
+    return MakeIcon(side, color, [side](int x, int y) {
+        return x > 1 && y > 1 && x < side - 2 && y < side - 2 && (x + y) % 7 != 0;
+    });
 }
 
 CMFCRibbonButton* MakeButton(UINT id, LPCTSTR text, COLORREF color) {
-    return new CMFCRibbonButton(id, text, MakeIcon(32, color), FALSE, MakeIcon(16, color), TRUE);
+    return new CMFCRibbonButton(id, text, MakeStripedIcon(32, color), FALSE, MakeStripedIcon(16, color), TRUE);
 }
 
 class GalleryFrame : public CMDIFrameWndEx {
@@ -64,8 +53,8 @@ public:
         CMFCRibbonPanel* text = home->AddPanel(L"Text");
         auto* group = new CMFCRibbonButtonsGroup;
         for (UINT id = 10; id < 15; ++id) {
-            group->AddButton(new CMFCRibbonButton(id, L"", MakeIcon(16, RGB(id * 9, 80, 90)), FALSE,
-                                                  MakeIcon(16, RGB(id * 9, 80, 90))));
+            group->AddButton(new CMFCRibbonButton(id, L"", MakeStripedIcon(16, RGB(id * 9, 80, 90)), FALSE,
+                                                  MakeStripedIcon(16, RGB(id * 9, 80, 90))));
         }
         text->Add(group);
         text->AddSeparator();
@@ -88,8 +77,9 @@ public:
         }
         CMFCRibbonPanel* small = home->AddPanel(L"Small states");
         for (UINT index = 0; index < 5; ++index) {
-            small->Add(new CMFCRibbonButton(40 + index, names[index], MakeIcon(16, RGB(60, 60 + index * 30, 160)),
-                                            FALSE, MakeIcon(16, RGB(60, 60 + index * 30, 160))));
+            small->Add(new CMFCRibbonButton(40 + index, names[index],
+                                            MakeStripedIcon(16, RGB(60, 60 + index * 30, 160)), FALSE,
+                                            MakeStripedIcon(16, RGB(60, 60 + index * 30, 160))));
         }
         for (CMFCRibbonPanel* panel : {clipboard, text, styles, small}) {
             panel->EnableLaunchButton(50 + static_cast<UINT>(home->GetPanelIndex(panel)));
@@ -101,11 +91,7 @@ public:
         bar.AddContextCategory(L"Format", L"Picture tools", 78, AFX_CategoryColor_Green, 0, 0)->AddPanel(L"Borders");
         bar.ShowContextCategories(77);
         bar.ShowContextCategories(78);
-        CList<UINT, UINT> quick;
-        for (const UINT id : {1u, 3u, 4u}) {
-            quick.AddTail(id);
-        }
-        bar.SetQuickAccessCommands(quick);
+        bar.SetQuickAccessCommands(CommandList{1, 3, 4});
         application.SetText(L"File");
         bar.SetApplicationButton(&application, CSize(45, 45));
     }

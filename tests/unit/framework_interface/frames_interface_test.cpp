@@ -102,36 +102,51 @@ PROTECTED_INTERFACE_OF(CFrameWnd) {
     VIRTUAL(void, OnShowMenuBar, ());
 }
 
+// What frames with docked panes document alike: all three of them, and the two main frames among them.
+#define FRAME_WITH_PANES                                                                                               \
+    MEMBER(BOOL, AddPane, (CBasePane*, BOOL));                                                                         \
+    CALL(AddPane, CBasePane*);                                                                                         \
+    VIRTUAL(void, AdjustDockingLayout, (HDWP));                                                                        \
+    CALL(AdjustDockingLayout);                                                                                         \
+    MEMBER(void, DockPane, (CBasePane*, UINT, LPCRECT));                                                               \
+    CALL(DockPane, CBasePane*);                                                                                        \
+    MEMBER(BOOL, DockPaneLeftOf, (CPane*, CPane*));                                                                    \
+    MEMBER(BOOL, EnableDocking, (DWORD));                                                                              \
+    MEMBER(CBasePane*, GetPane, (UINT));                                                                               \
+    MEMBER(BOOL, InsertPane, (CBasePane*, CBasePane*, BOOL));                                                          \
+    CALL(InsertPane, CBasePane*, CBasePane*);                                                                          \
+    VIRTUAL(void, RecalcLayout, (BOOL));                                                                               \
+    CALL(RecalcLayout);                                                                                                \
+    MEMBER(void, RemovePaneFromDockManager, (CBasePane*, BOOL, BOOL, BOOL, CBasePane*));                               \
+    MEMBER(void, ShowPane, (CBasePane*, BOOL, BOOL, BOOL))
+
+#define MAIN_FRAME_WITH_PANES                                                                                          \
+    FRAME_WITH_PANES;                                                                                                  \
+    MEMBER(void, EnablePaneMenu, (BOOL, UINT, const CString&, UINT, BOOL, BOOL));                                      \
+    CALL(EnablePaneMenu, BOOL, UINT, const CString&, UINT);                                                            \
+    MEMBER(CMFCPopupMenu*, GetActivePopup, () const);                                                                  \
+    MEMBER(UINT, GetDefaultResId, () const);                                                                           \
+    MEMBER(const CMFCMenuBar*, GetMenuBar, () const);                                                                  \
+    MEMBER(CMFCRibbonBar*, GetRibbonBar, ());                                                                          \
+    VIRTUAL(BOOL, GetToolbarButtonToolTipText, (CMFCToolBarButton*, CString&));                                        \
+    MEMBER(BOOL, IsMenuBarAvailable, () const);                                                                        \
+    VIRTUAL(BOOL, LoadFrame, (UINT, DWORD, CWnd*, CCreateContext*));                                                   \
+    CALL(LoadFrame, UINT);                                                                                             \
+    VIRTUAL(void, OnClosePopupMenu, (CMFCPopupMenu*));                                                                 \
+    VIRTUAL(BOOL, OnCmdMsg, (UINT, int, void*, AFX_CMDHANDLERINFO*));                                                  \
+    VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, const CMFCToolBarMenuButton*, const CRect&));                                \
+    VIRTUAL(BOOL, OnShowPanes, (BOOL));                                                                                \
+    VIRTUAL(BOOL, OnShowPopupMenu, (CMFCPopupMenu*));                                                                  \
+    VIRTUAL(void, OnUpdateFrameMenu, (HMENU));                                                                         \
+    CALL(WinHelp, DWORD)
+
 INTERFACE_OF(CFrameWndEx) {
     BASE(CFrameWnd);
-    MEMBER(BOOL, AddPane, (CBasePane*, BOOL));
-    CALL(AddPane, CBasePane*);
-    VIRTUAL(void, AdjustDockingLayout, (HDWP));
-    CALL(AdjustDockingLayout);
+    MAIN_FRAME_WITH_PANES;
     VIRTUAL(void, DelayUpdateFrameMenu, (HMENU));
-    MEMBER(void, DockPane, (CBasePane*, UINT, LPCRECT));
-    CALL(DockPane, CBasePane*);
-    MEMBER(BOOL, DockPaneLeftOf, (CPane*, CPane*));
-    MEMBER(BOOL, EnableDocking, (DWORD));
-    MEMBER(void, EnablePaneMenu, (BOOL, UINT, const CString&, UINT, BOOL, BOOL));
-    CALL(EnablePaneMenu, BOOL, UINT, const CString&, UINT);
-    MEMBER(CMFCPopupMenu*, GetActivePopup, () const);
-    MEMBER(UINT, GetDefaultResId, () const);
     MEMBER(CDockingManager*, GetDockingManager, ());
-    MEMBER(const CMFCMenuBar*, GetMenuBar, () const);
-    MEMBER(CBasePane*, GetPane, (UINT));
-    MEMBER(CMFCRibbonBar*, GetRibbonBar, ());
-    VIRTUAL(BOOL, GetToolbarButtonToolTipText, (CMFCToolBarButton*, CString&));
-    MEMBER(BOOL, InsertPane, (CBasePane*, CBasePane*, BOOL));
-    CALL(InsertPane, CBasePane*, CBasePane*);
-    MEMBER(BOOL, IsMenuBarAvailable, () const);
-    VIRTUAL(BOOL, LoadFrame, (UINT, DWORD, CWnd*, CCreateContext*));
-    CALL(LoadFrame, UINT);
     MEMBER(LRESULT, OnChangeVisualManager, (WPARAM, LPARAM));
-    VIRTUAL(void, OnClosePopupMenu, (CMFCPopupMenu*));
-    VIRTUAL(BOOL, OnCmdMsg, (UINT, int, void*, AFX_CMDHANDLERINFO*));
     MEMBER(int, OnCreate, (LPCREATESTRUCT));
-    VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, const CMFCToolBarMenuButton*, const CRect&));
     MEMBER(void, OnGetMinMaxInfo, (MINMAXINFO FAR*));
     MEMBER(BOOL, OnNcActivate, (BOOL));
     MEMBER(void, OnNcCalcSize, (BOOL, NCCALCSIZE_PARAMS FAR*));
@@ -139,20 +154,12 @@ INTERFACE_OF(CFrameWndEx) {
     MEMBER(void, OnNcPaint, ());
     MEMBER(BOOL, OnPaneCheck, (UINT));
     MEMBER(LRESULT, OnSetText, (WPARAM, LPARAM));
-    VIRTUAL(BOOL, OnShowPanes, (BOOL));
-    VIRTUAL(BOOL, OnShowPopupMenu, (CMFCPopupMenu*));
     MEMBER(void, OnSize, (UINT, int, int));
     MEMBER(void, OnSysColorChange, ());
-    VIRTUAL(void, OnUpdateFrameMenu, (HMENU));
     VIRTUAL(void, OnUpdateFrameTitle, (BOOL));
     MEMBER(void, OnUpdatePaneMenu, (CCmdUI*));
     MEMBER(void, OnWindowPosChanged, (WINDOWPOS FAR*));
     VIRTUAL(BOOL, PreTranslateMessage, (MSG*));
-    VIRTUAL(void, RecalcLayout, (BOOL));
-    CALL(RecalcLayout);
-    MEMBER(void, RemovePaneFromDockManager, (CBasePane*, BOOL, BOOL, BOOL, CBasePane*));
-    MEMBER(void, ShowPane, (CBasePane*, BOOL, BOOL, BOOL));
-    CALL(WinHelp, DWORD);
 }
 
 INTERFACE_OF(CMDIFrameWnd) {
@@ -192,72 +199,27 @@ INTERFACE_OF(CMDIChildWnd) {
 
 INTERFACE_OF(CMDIFrameWndEx) {
     BASE(CMDIFrameWnd);
-    MEMBER(BOOL, AddPane, (CBasePane*, BOOL));
-    CALL(AddPane, CBasePane*);
+    MAIN_FRAME_WITH_PANES;
     VIRTUAL(void, AdjustClientArea, ());
-    VIRTUAL(void, AdjustDockingLayout, (HDWP));
-    CALL(AdjustDockingLayout);
     NAMED(CreateObject);
-    MEMBER(void, DockPane, (CBasePane*, UINT, LPCRECT));
-    CALL(DockPane, CBasePane*);
-    MEMBER(BOOL, DockPaneLeftOf, (CPane*, CPane*));
-    MEMBER(BOOL, EnableDocking, (DWORD));
-    MEMBER(void, EnablePaneMenu, (BOOL, UINT, const CString&, UINT, BOOL, BOOL));
-    CALL(EnablePaneMenu, BOOL, UINT, const CString&, UINT);
-    MEMBER(CMFCPopupMenu*, GetActivePopup, () const);
-    MEMBER(CBasePane*, GetPane, (UINT));
-    MEMBER(UINT, GetDefaultResId, () const);
-    MEMBER(const CMFCMenuBar*, GetMenuBar, () const);
-    MEMBER(CMFCRibbonBar*, GetRibbonBar, ());
     NAMED(GetThisClass);
-    VIRTUAL(BOOL, GetToolbarButtonToolTipText, (CMFCToolBarButton*, CString&));
-    MEMBER(BOOL, InsertPane, (CBasePane*, CBasePane*, BOOL));
-    CALL(InsertPane, CBasePane*, CBasePane*);
-    MEMBER(BOOL, IsMenuBarAvailable, () const);
-    VIRTUAL(BOOL, LoadFrame, (UINT, DWORD, CWnd*, CCreateContext*));
-    CALL(LoadFrame, UINT);
-    VIRTUAL(void, OnClosePopupMenu, (CMFCPopupMenu*));
-    VIRTUAL(BOOL, OnCmdMsg, (UINT, int, void*, AFX_CMDHANDLERINFO*));
-    VIRTUAL(BOOL, OnDrawMenuImage, (CDC*, const CMFCToolBarMenuButton*, const CRect&));
-    VIRTUAL(BOOL, OnShowPanes, (BOOL));
-    VIRTUAL(BOOL, OnShowPopupMenu, (CMFCPopupMenu*));
     VIRTUAL(void, OnSizeMDIClient, (const CRect&, const CRect&));
-    VIRTUAL(void, OnUpdateFrameMenu, (HMENU));
     NAMED(PreTranslateMessage);
-    VIRTUAL(void, RecalcLayout, (BOOL));
-    CALL(RecalcLayout);
-    MEMBER(void, RemovePaneFromDockManager, (CBasePane*, BOOL, BOOL, BOOL, CBasePane*));
-    MEMBER(void, ShowPane, (CBasePane*, BOOL, BOOL, BOOL));
-    CALL(WinHelp, DWORD);
 }
 
 INTERFACE_OF(CMDIChildWndEx) {
     BASE(CMDIChildWnd);
+    FRAME_WITH_PANES;
     VIRTUAL(void, ActivateTopLevelFrame, ());
-    MEMBER(BOOL, AddPane, (CBasePane*, BOOL));
-    CALL(AddPane, CBasePane*);
-    VIRTUAL(void, AdjustDockingLayout, (HDWP));
-    CALL(AdjustDockingLayout);
     VIRTUAL(BOOL, CanShowOnWindowsList, ());
     NAMED(CreateObject);
-    MEMBER(void, DockPane, (CBasePane*, UINT, LPCRECT));
-    CALL(DockPane, CBasePane*);
-    MEMBER(BOOL, DockPaneLeftOf, (CPane*, CPane*));
-    MEMBER(BOOL, EnableDocking, (DWORD));
     MEMBER(CDockingManager*, GetDockingManager, ());
     VIRTUAL(HICON, GetFrameIcon, () const);
     VIRTUAL(CString, GetFrameText, () const);
-    MEMBER(CBasePane*, GetPane, (UINT));
     NAMED(GetThisClass);
-    MEMBER(BOOL, InsertPane, (CBasePane*, CBasePane*, BOOL));
-    CALL(InsertPane, CBasePane*, CBasePane*);
     VIRTUAL(BOOL, IsReadOnly, ());
     VIRTUAL(void, OnUpdateFrameTitle, (BOOL));
     NAMED(PreTranslateMessage);
-    VIRTUAL(void, RecalcLayout, (BOOL));
-    CALL(RecalcLayout);
-    MEMBER(void, RemovePaneFromDockManager, (CBasePane*, BOOL, BOOL, BOOL, CBasePane*));
-    MEMBER(void, ShowPane, (CBasePane*, BOOL, BOOL, BOOL));
 }
 
 INTERFACE_OF(CControlBar) {

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <afxcontrolbars.h>
+
+/// The window of a benchmark: a frame of 1600 x 900 pixels with an empty ribbon bar. Deletes itself with its window.
+class CBenchFrame : public CFrameWndEx {
+public:
+    CBenchFrame() : m_ribbon(FALSE) {}
+    /// Not shown yet. Classes above fill the bar and show the window.
+    virtual bool Make() {
+        return Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) && m_ribbon.Create(this);
+    }
+    CMFCRibbonBar m_ribbon;
+};
+
+/// Makes the window, measures with it and ends.
+template <class Frame>
+class CBenchApp : public CWinAppEx {
+public:
+    BOOL InitInstance() override {
+        CWinAppEx::InitInstance();
+        auto* const frame = new Frame;
+        m_pMainWnd = frame;
+        if (frame->Make())
+            Measure(*frame);
+        frame->DestroyWindow();
+        return FALSE;
+    }
+
+protected:
+    virtual void Measure(Frame& frame) = 0;
+};
