@@ -71,6 +71,8 @@ std::wstring DegreeText(double degrees, const wchar_t* side, bool hasSeconds) {
 }
 
 std::wstring PlaceText(GeoPoint place, bool hasSeconds) {
+    if (std::abs(place.latitude) > 90 || std::abs(place.longitude) > 180)
+        return L"\u2014"; // beside the world
     return DegreeText(place.latitude, place.latitude < 0 ? L"S" : L"N", hasSeconds) + L"  " +
            DegreeText(place.longitude, place.longitude < 0 ? L"W" : L"E", hasSeconds);
 }

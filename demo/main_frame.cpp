@@ -117,7 +117,11 @@ void CMainFrame::BuildRibbon() {
     m_ribbon.GetQuickAccessCommands(chosen);
     m_ribbon.RemoveAllCategories();
 
+    // The first one that is made so fits the check boxes of all to the scale.
+    const CMFCRibbonCheckComb scalesTheBoxes;
+
     CAddRibbonBar builder;
+    builder.SetCreateF1Tip(false); // no videos come with the viewer
     builder.Load(kRibbonFile, &m_ribbon, TRUE);
     m_commandTexts = builder.m_cmdList;
     m_place = FindElement<CMFCRibbonEdit>(m_ribbon, L"PlaceEdit");
@@ -277,7 +281,11 @@ std::wstring CMainFrame::PlaceText() const {
     return m_place ? std::wstring(m_place->GetEditText().GetString()) : std::wstring();
 }
 
+bool CMainFrame::IsPlaceConfirmed() const { return !m_tellsPlace && ::GetKeyState(VK_RETURN) < 0; }
+
 void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
+    const fx::ScopedChange<bool> tells(m_tellsPlace,
+                                       true); // the field sends its command as it loses the focus to the box
     QKMessageBox(WithName(ViewerText("PlaceUnknown"), text), QK_MESSAGE_WARNING, GetSafeHwnd());
 }
 

@@ -49,6 +49,7 @@ private:
     int ScaleSliderPosition() const override;
     std::wstring PlaceText() const override;
     std::optional<MapLayer> ChosenLayer() const override { return m_controls.ChosenLayer(); }
+    bool IsPlaceConfirmed() const override;
     void TellPlaceUnknown(const std::wstring& text) override;
     void TellAbout() override;
     void TellKeyboard() override;
@@ -72,6 +73,7 @@ private:
     CMapWindow m_map;
     CMFCRibbonBar m_ribbon;
     LayerControls m_controls;
+    bool m_tellsPlace = false;
     CMFCRibbonEdit* m_place = nullptr; ///< The ribbon's; null when the configuration has none.
     std::wstring m_skin;
     std::wstring m_iconStyle;

@@ -98,9 +98,9 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
         if (const auto box = ParseBox(parameter))
             state.Show(*box);
     });
-    // The edit field sends its command on losing the focus too: nobody wants a message box for that.
+    // The field sends its command on losing the focus too: nobody wants a message box for that.
     reactor->Serve(L"place", [&state, &data, &host](const std::wstring& parameter) {
-        GoToPlace(state, data, host, parameter == L"quiet");
+        GoToPlace(state, data, host, parameter == L"field" && !host.IsPlaceConfirmed());
     });
     reactor->Serve(L"visit", [&state](const std::wstring& parameter) {
         if (const auto pair = ParsePair(parameter))

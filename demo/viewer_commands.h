@@ -18,6 +18,8 @@ public:
     virtual std::wstring PlaceText() const = 0;
     /// The layer whose colour and light are shown.
     virtual std::optional<MapLayer> ChosenLayer() const = 0;
+    /// Whether the place field sends its command because of the Enter key.
+    virtual bool IsPlaceConfirmed() const = 0;
     virtual void TellPlaceUnknown(const std::wstring& text) = 0;
     virtual void TellAbout() = 0;
     virtual void TellKeyboard() = 0;

@@ -79,7 +79,7 @@ class LayerCombos(unittest.TestCase):
             viewer.wait_for(lambda record: record["map"]["layers"][:2] == [False, False])
 
     def test_the_mouse_ticks_two_rows_and_then_chooses_one(self):
-        row_height = 14
+        row_height = 18
         with self.open() as viewer, tempfile.TemporaryDirectory() as folder:
             before = viewer.picture(os.path.join(folder, "before.png"))
             left, _, right, bottom = viewer.place_of("LayersShown")

@@ -25,7 +25,10 @@ struct FRAMEWORK_API AFX_GLOBAL_DATA {
     /// One of the COLOR_ constants; a constant that does not exist gives GetSysColor's 0.
     COLORREF GetColor(int nColor);
     /// Height of a row of text in the regular (or, not bHorz, the vertical) font.
+    /// Of a line of text, which is the height of a row in a list: its characters and the space between two lines.
     int GetTextHeight(BOOL bHorz = TRUE);
+    /// Of the characters alone.
+    int GetCharacterHeight() const { return m_nCharacterHeight; }
     /// FALSE when the system refuses; info is then unchanged.
     BOOL GetNonClientMetrics(NONCLIENTMETRICS& info);
     /// Replace the regular (bHorz) or vertical menu font. FALSE when the font cannot be created.
@@ -110,6 +113,7 @@ private:
     BOOL m_bRibbonImageScaleEnabled = TRUE;
     BOOL m_bEnableAccessibility = TRUE;
     int m_nTextHeightHorz = 0, m_nTextHeightVert = 0;
+    int m_nCharacterHeight = 0;
 };
 
 FRAMEWORK_API extern AFX_GLOBAL_DATA afxGlobalData;

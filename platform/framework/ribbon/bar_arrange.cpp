@@ -149,7 +149,7 @@ void CMFCRibbonBar::OnSize(UINT nType, int cx, int cy) {
 
 void CMFCRibbonBar::UpdateMetrics() {
     const RibbonMetrics metrics =
-        RibbonMetrics::FromFont(afxGlobalData.GetTextHeight(), afxGlobalData.GetRibbonImageScale());
+        RibbonMetrics::FromFont(afxGlobalData.GetCharacterHeight(), afxGlobalData.GetRibbonImageScale());
     if (metrics.textHeight == m_parts->metrics.textHeight && metrics.scale == m_parts->metrics.scale) {
         return;
     }

@@ -112,15 +112,15 @@ void CMFCRibbonEdit::PlaceEditWindow() {
     }
     if (m_pWndEdit == nullptr) {
         m_pWndEdit = CreateEdit(GetParentWnd(), WS_CHILD | ES_AUTOHSCROLL | m_nAlign);
-        m_nWindowTextHeight = afxGlobalData.GetTextHeight();
+        m_nWindowTextHeight = afxGlobalData.GetCharacterHeight();
         if (m_pWndEdit == nullptr)
             return;
         m_pWndEdit->EnableWindow(!IsDisabled());
         ShowTextInWindow();
     }
     // Another scale, or other settings of the user's, have another font.
-    if (m_nWindowTextHeight != afxGlobalData.GetTextHeight()) {
-        m_nWindowTextHeight = afxGlobalData.GetTextHeight();
+    if (m_nWindowTextHeight != afxGlobalData.GetCharacterHeight()) {
+        m_nWindowTextHeight = afxGlobalData.GetCharacterHeight();
         m_pWndEdit->SetFont(&afxGlobalData.fontRegular);
     }
     m_pWndEdit->SetWindowPos(nullptr, m_rectText.left, m_rectText.top, m_rectText.Width(), m_rectText.Height(),

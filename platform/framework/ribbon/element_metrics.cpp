@@ -42,7 +42,7 @@ private:
 
     void ForgetOtherFonts() {
         const HGDIOBJ font = afxGlobalData.fontRegular.GetSafeHandle();
-        const int height = afxGlobalData.GetTextHeight();
+        const int height = afxGlobalData.GetCharacterHeight();
         if (font != m_font || height != m_textHeight)
             m_sizes.clear();
         m_font = font;
@@ -56,7 +56,7 @@ private:
 
 } // namespace
 
-FaceMetrics CurrentMetrics() { return {afxGlobalData.GetRibbonImageScale(), afxGlobalData.GetTextHeight()}; }
+FaceMetrics CurrentMetrics() { return {afxGlobalData.GetRibbonImageScale(), afxGlobalData.GetCharacterHeight()}; }
 
 CRect ToRect(const Rect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 

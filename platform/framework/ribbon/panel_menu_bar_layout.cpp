@@ -26,7 +26,7 @@ bool StandsInTextColumn(CMFCRibbonBaseElement& element) {
 }
 
 RibbonMetrics CurrentRibbonMetrics() {
-    return RibbonMetrics::FromFont(afxGlobalData.GetTextHeight(), afxGlobalData.GetRibbonImageScale());
+    return RibbonMetrics::FromFont(afxGlobalData.GetCharacterHeight(), afxGlobalData.GetRibbonImageScale());
 }
 
 } // namespace

@@ -89,7 +89,7 @@ SIZE CMFCToolBarMenuButton::OnCalculateSize(CDC* pDC, const CSize& sizeDefault, 
     const bool isDefault = m_nID != 0 && m_nID == menu->GetDefaultMenuId();
     CFont* const former = isDefault ? pDC->SelectObject(&afxGlobalData.fontBold) : nullptr;
     const UINT prefix = menu->IsDropDownListMode() ? DT_NOPREFIX : 0;
-    m_sizeText = CSize(TextWidth(*pDC, text.label, prefix), afxGlobalData.GetTextHeight());
+    m_sizeText = CSize(TextWidth(*pDC, text.label, prefix), afxGlobalData.GetCharacterHeight());
     if (!text.accelerator.IsEmpty()) {
         m_sizeText.cx += Scaled(acceleratorGap) + TextWidth(*pDC, text.accelerator, DT_NOPREFIX);
     }

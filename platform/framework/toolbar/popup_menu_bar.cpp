@@ -119,11 +119,11 @@ toolbar::MenuRowMetrics CMFCPopupMenuBar::GetRowMetrics() const {
 }
 
 int CMFCPopupMenuBar::GetRowHeight() const {
-    const int text = afxGlobalData.GetTextHeight();
     if (m_bDropDownListMode) {
-        return text;
+        return afxGlobalData.GetTextHeight();
     }
-    return std::max<int>(GetCurrentMenuImageSize().cy + 2 * Scaled(rowPadding), text + 2 * Scaled(textPadding));
+    return std::max<int>(GetCurrentMenuImageSize().cy + 2 * Scaled(rowPadding),
+                         afxGlobalData.GetCharacterHeight() + 2 * Scaled(textPadding));
 }
 
 CSize CMFCPopupMenuBar::CalcSize(BOOL) {
