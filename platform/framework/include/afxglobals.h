@@ -24,10 +24,9 @@ struct FRAMEWORK_API AFX_GLOBAL_DATA {
 
     /// One of the COLOR_ constants; a constant that does not exist gives GetSysColor's 0.
     COLORREF GetColor(int nColor);
-    /// Height of a row of text in the regular (or, not bHorz, the vertical) font.
-    /// Of a line of text, which is the height of a row in a list: its characters and the space between two lines.
+    /// Height of a row of text in the regular (or, not bHorz, the vertical) font: that of a row in a list.
     int GetTextHeight(BOOL bHorz = TRUE);
-    /// Of the characters alone.
+    /// Height of the regular font's characters, without the space between two rows.
     int GetCharacterHeight() const { return m_nCharacterHeight; }
     /// FALSE when the system refuses; info is then unchanged.
     BOOL GetNonClientMetrics(NONCLIENTMETRICS& info);

@@ -56,7 +56,7 @@ TEST_F(Edits, TheWindowFollowsTheRectangle) {
     EXPECT_LE(first.right, edit->GetEditRect().right);
     EXPECT_EQ(edit->GetEditRect().right, edit->GetRect().right);
     EXPECT_EQ(edit->GetEditRect().Width(), 80);
-    EXPECT_EQ(first.Height(), afxGlobalData.GetTextHeight());
+    EXPECT_EQ(first.Height(), afxGlobalData.GetCharacterHeight());
 
     CRect rect = edit->GetRect();
     rect.OffsetRect(30, 40);

@@ -13,7 +13,7 @@ class Scales : public ::testing::TestWithParam<double> {
 protected:
     ScopedScale scale{GetParam()};
     int Scaled(int length) const { return static_cast<int>(length * GetParam() + 0.5); }
-    int Row() const { return std::max(Scaled(16), afxGlobalData.GetTextHeight()) + 2 * Scaled(3); }
+    int Row() const { return std::max(Scaled(16), afxGlobalData.GetCharacterHeight()) + 2 * Scaled(3); }
 };
 
 INSTANTIATE_TEST_SUITE_P(RibbonElements, Scales, ::testing::Values(1.0, 1.5, 2.0));
@@ -24,7 +24,7 @@ TEST_P(Scales, ALargeButtonIsAnImageAboveTwoLinesOfText) {
     EXPECT_EQ(button.GetImageSize(CMFCRibbonBaseElement::RibbonImageLarge), CSize(Scaled(32), Scaled(32)));
     EXPECT_EQ(button.GetImageSize(CMFCRibbonBaseElement::RibbonImageSmall), CSize(Scaled(16), Scaled(16)));
     const CSize size = button.GetRegularSize(nullptr);
-    EXPECT_EQ(size.cy, Scaled(32) + 2 * afxGlobalData.GetTextHeight() + Scaled(1) + 2 * Scaled(3));
+    EXPECT_EQ(size.cy, Scaled(32) + 2 * afxGlobalData.GetCharacterHeight() + Scaled(1) + 2 * Scaled(3));
     EXPECT_GE(size.cx, Scaled(42));
 }
 
@@ -185,8 +185,8 @@ TEST(MultiLineLabel, TakesThreeLinesInsteadOfOneLongOne) {
     const CSize wide = oneLine.GetRegularSize(nullptr);
     const CSize high = lines.GetRegularSize(nullptr);
     EXPECT_LT(high.cx, wide.cx / 2);
-    EXPECT_GT(high.cy, 2 * afxGlobalData.GetTextHeight());
-    EXPECT_LE(high.cy, 3 * afxGlobalData.GetTextHeight() + 6);
+    EXPECT_GT(high.cy, 2 * afxGlobalData.GetCharacterHeight());
+    EXPECT_LE(high.cy, 3 * afxGlobalData.GetCharacterHeight() + 6);
 }
 
 } // namespace

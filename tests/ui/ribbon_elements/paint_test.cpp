@@ -39,7 +39,7 @@ TEST_P(Painted, ALargeButtonShowsItsIconAboveItsText) {
     EXPECT_FALSE(IsRed(canvas.At(image.left + side / 2, image.bottom + 2)));
     CRect text(rect.left, image.bottom, rect.right, rect.bottom);
     EXPECT_GT(canvas.Count(text, IsDark), 30);
-    const int middle = image.bottom + Scaled(1) + afxGlobalData.GetTextHeight();
+    const int middle = image.bottom + Scaled(1) + afxGlobalData.GetCharacterHeight();
     EXPECT_GT(canvas.Count(CRect(rect.left, middle, rect.right, rect.bottom - 2), IsDark), 10) << "second line";
 }
 
