@@ -50,10 +50,9 @@ COLORREF FromSystem(COLORREF color) {
 
 /// The system's colours for the usual ones, in the order of the table.
 std::vector<COLORREF> PresentColors() {
-    std::vector<COLORREF> present;
-    for (const SystemColor& entry : buttonColors) {
-        present.push_back(::GetSysColor(entry.index));
-    }
+    std::vector<COLORREF> present(buttonColors.size());
+    std::ranges::transform(buttonColors, present.begin(),
+                           [](const SystemColor& entry) { return ::GetSysColor(entry.index); });
     return present;
 }
 
