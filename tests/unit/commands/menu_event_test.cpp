@@ -1,10 +1,11 @@
 #include "menu_event.h"
+#include "tests/support/watched_thread.h"
 
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -260,27 +261,17 @@ TEST_F(CommandDispatch, EveryOperationWaitsForADispatchOfAnotherThread) {
     };
     for (const auto& operation : operations) {
         for (const Dispatch& dispatch : dispatches) {
-            std::atomic<bool> started = false;
-            std::atomic<bool> finished = false;
-            std::thread other;
+            std::optional<WatchedThread> other;
             first->instead = [&] {
-                if (other.joinable())
-                    return false;
-                other = std::thread([&] {
-                    started = true;
-                    operation();
-                    finished = true;
-                });
-                while (!started)
-                    std::this_thread::yield();
-                for (int i = 0; i < 1000; ++i)
-                    std::this_thread::yield();
-                EXPECT_FALSE(finished);
+                if (!other) {
+                    EXPECT_FALSE(other.emplace(operation).FinishesWithin(1000));
+                }
                 return false;
             };
             EXPECT_FALSE(dispatch.run()) << dispatch.what;
-            other.join();
-            EXPECT_TRUE(finished);
+            ASSERT_TRUE(other.has_value());
+            other->Join();
+            EXPECT_TRUE(other->HasFinished());
         }
     }
 }

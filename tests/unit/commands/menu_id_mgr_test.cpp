@@ -1,9 +1,11 @@
 #include "menu_id_mgr.h"
+#include "tests/support/watched_thread.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -38,25 +40,9 @@ protected:
     /// Whether another thread gets through the operation while this one holds the lock.
     template <class Operation>
     static bool FinishesWhileTheLockIsHeld(Operation operation, int looks) {
-        std::atomic<bool> started = false;
-        std::atomic<bool> finished = false;
-        bool inTime = false;
-        std::thread other;
-        {
-            xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
-            other = std::thread([&] {
-                started = true;
-                operation();
-                finished = true;
-            });
-            while (!started)
-                std::this_thread::yield();
-            for (int i = 0; i < looks && !finished; ++i)
-                std::this_thread::yield();
-            inTime = finished;
-        }
-        other.join();
-        return inTime;
+        std::optional<WatchedThread> other; // its end waits for the lock's
+        xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
+        return other.emplace(operation).FinishesWithin(looks);
     }
 
 private:
@@ -375,21 +361,17 @@ InstanceSeenWithoutTheLock() {
 }
 
 TEST_F(CommandRegistry, InsMakesTheInstanceBeforeItTakesTheLock) {
-    std::atomic<bool> returned = false;
-    std::thread first;
+    std::optional<WatchedThread> first;
     {
         xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
-        first = std::thread([&returned] {
-            CMenuIdMgr::Ins();
-            returned = true;
-        });
+        first.emplace([] { CMenuIdMgr::Ins(); });
         for (int i = 0; i < patiently && !InstanceSeenWithoutTheLock(); ++i)
             std::this_thread::yield();
         EXPECT_NE(InstanceSeenWithoutTheLock(), nullptr);
-        EXPECT_FALSE(returned);
+        EXPECT_FALSE(first->HasFinished());
     }
-    first.join();
-    EXPECT_TRUE(returned);
+    first->Join();
+    EXPECT_TRUE(first->HasFinished());
 }
 
 TEST_F(CommandRegistry, ThreadsMayAddAndAskAtOnce) {
