@@ -1,6 +1,7 @@
 #include "layer_controls.h"
 
 #include "map_painter.h"
+#include "place_text.h"
 #include "ribbon_check_combo.h"
 #include "ribbon_label_ex.h"
 #include "ribbon_lookup.h"
@@ -11,11 +12,7 @@
 
 #include <commdlg.h>
 
-#include <boost/format.hpp>
-
 #include <array>
-#include <cmath>
-#include <cstdlib>
 
 namespace {
 
@@ -58,23 +55,6 @@ void ShowLight(Combo* combo, int item, bool isLit) {
     bool isShownLit = false;
     if (combo && (!combo->GetItemLight(item, isShownLit) || isShownLit != isLit))
         combo->SetItemLight(item, isLit, true);
-}
-
-std::wstring DegreeText(double degrees, const wchar_t* side, bool hasSeconds) {
-    const double size = std::abs(degrees);
-    if (!hasSeconds)
-        return (boost::wformat(L"%.4f\u00b0 %s") % size % side).str();
-    const long seconds = std::lround(size * 3600);
-    return (boost::wformat(L"%d\u00b0 %02d\u2032 %02d\u2033 %s") % (seconds / 3600) % (seconds / 60 % 60) %
-            (seconds % 60) % side)
-        .str();
-}
-
-std::wstring PlaceText(GeoPoint place, bool hasSeconds) {
-    if (std::abs(place.latitude) > 90 || std::abs(place.longitude) > 180)
-        return L"\u2014"; // beside the world
-    return DegreeText(place.latitude, place.latitude < 0 ? L"S" : L"N", hasSeconds) + L"  " +
-           DegreeText(place.longitude, place.longitude < 0 ? L"W" : L"E", hasSeconds);
 }
 
 /// A label that is as wide as the longest place, so that the ribbon stands still while the pointer moves.

@@ -64,6 +64,22 @@ class ClickOnARibbonButton(unittest.TestCase):
             viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "Map")
 
 
+class PlaceField(unittest.TestCase):
+    def test_enter_goes_to_a_known_place_and_tells_of_an_unknown_one_once(self):
+        with Viewer(BIN_DIR, "--lang", "en") as viewer:
+            viewer.click_command("PlaceEdit")
+            viewer.key("T", "o", "k", "y", "o", "Return")
+            viewer.wait_for(lambda record: abs(record["map"]["longitude"] - 139.69) < 0.1)
+            viewer.click_command("PlaceEdit")
+            viewer.key("ctrl+a", "N", "o", "w", "h", "e", "r", "e", "Return")
+            viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 2, "a message is shown")
+            viewer.key("Escape")
+            viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 1, "the message is gone")
+            viewer.click_command("ZoomIn")
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 24)
+            self.assertEqual(len(viewer.windows(TITLE)), 1, "leaving the field tells nothing")
+
+
 class LayerCombos(unittest.TestCase):
     """The combos with marks, from the mouse to the map. Layers in the order of the viewer's lists: relief, coast, ..."""
 
