@@ -7,6 +7,7 @@
 #include "menu_id_mgr.h"
 #include "picture_export.h"
 #include "resource.h"
+#include "ribbon_check_combo.h"
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "screenshot.h"
@@ -283,10 +284,11 @@ std::wstring CMainFrame::PlaceText() const {
 
 bool CMainFrame::IsPlaceConfirmed() const { return !m_tellsPlace && ::GetKeyState(VK_RETURN) < 0; }
 
+// The field sends its command once more, as it loses the focus to the box.
 void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
-    const fx::ScopedChange<bool> tells(m_tellsPlace,
-                                       true); // the field sends its command as it loses the focus to the box
+    m_tellsPlace = true;
     QKMessageBox(WithName(ViewerText("PlaceUnknown"), text), QK_MESSAGE_WARNING, GetSafeHwnd());
+    m_tellsPlace = false;
 }
 
 void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
