@@ -80,6 +80,7 @@ void CMainFrame::FillLampCombo() {
         combo->AddItem(kLampNames.at(lamp));
         combo->SetItemCheck(static_cast<int>(lamp), m_board->IsMounted(lamp));
     }
+    combo->SelectItem(0); // what its face shows
 }
 
 void CMainFrame::OnConfiguredCommand(UINT id) {
