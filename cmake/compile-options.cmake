@@ -1,11 +1,13 @@
-# What every target of ours is compiled with.
+# What every target of ours is compiled with. The variables count in this project only, also when it is part of another.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+if(PROJECT_IS_TOP_LEVEL OR NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY) # else where the other project wants its programs
+  set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+endif()
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
@@ -25,16 +27,21 @@ endif()
 
 set(BARWRIGHT_SANITIZE "" CACHE STRING "Sanitizers for the native build, as given to -fsanitize")
 
-# Interface target: ours alone, so that bought sources keep their own warnings.
+# What a source needs that includes our headers, a host's too.
+add_library(barwright_usage INTERFACE)
+target_compile_features(barwright_usage INTERFACE cxx_std_20)
+
+# For our own sources alone, so that bought ones and a host's keep their own warnings: link it PRIVATE.
 add_library(barwright_options INTERFACE)
+target_link_libraries(barwright_options INTERFACE barwright_usage)
 # GCC 12 sees an overlap in every literal + std::string.
 target_compile_options(barwright_options INTERFACE -Wall -Wextra -Werror -Wno-unknown-pragmas -Wno-restrict -fpch-preprocess)
 if(WIN32)
   # Message-map entries name handlers without qualification and reach protected base handlers.
   # Windows structures are read through more than one type everywhere (NMHDR and its extensions, RECT as two POINTs).
-  target_compile_options(barwright_options INTERFACE -fms-extensions -fno-strict-aliasing)
-  target_compile_definitions(barwright_options INTERFACE UNICODE _UNICODE NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00
-                                                        _WIN32_IE=0x0A00)
+  target_compile_options(barwright_usage INTERFACE -fms-extensions -fno-strict-aliasing)
+  target_compile_definitions(barwright_usage INTERFACE UNICODE _UNICODE NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00
+                                                      _WIN32_IE=0x0A00)
   add_compile_options($<$<CONFIG:Debug>:-g1>)
   # gcc_s, stdc++ and winpthread are shared: exceptions and type information cross our DLLs.
 endif()

@@ -1,5 +1,3 @@
-include(GoogleTest)
-
 # barwright_object_library(NAME SOURCES... [LIBS ...]): one library folder, compiled once, linked into the DLL and into
 # the unit tests that reach its private classes.
 function(barwright_object_library name)
@@ -10,7 +8,7 @@ function(barwright_object_library name)
   endif()
   add_library(${name} OBJECT ${sources})
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
-  target_link_libraries(${name} PUBLIC barwright_options boost_headers ${ARG_LIBS})
+  target_link_libraries(${name} PRIVATE barwright_options PUBLIC barwright_usage boost_headers ${ARG_LIBS})
   target_compile_definitions(${name} PRIVATE BARWRIGHT_BUILD)
 endfunction()
 
@@ -21,6 +19,7 @@ endfunction()
 # others.
 # SINGLE: the whole program is one ctest entry instead of one entry per test case.
 function(barwright_test name)
+  include(GoogleTest)
   cmake_parse_arguments(ARG "DESKTOP;ALONE;SINGLE" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
@@ -57,23 +56,3 @@ function(barwright_add_subdirectories)
     add_subdirectory(${folder})
   endforeach()
 endfunction()
-
-# The compiler's run-time DLLs beside our own, so that bin/ runs as it stands.
-if(WIN32)
-  set(runtime_files)
-  foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll} OUTPUT_VARIABLE path
-                    OUTPUT_STRIP_TRAILING_WHITESPACE)
-    if(NOT IS_ABSOLUTE "${path}")
-      set(path /usr/x86_64-w64-mingw32/lib/${dll})
-    endif()
-    if(NOT EXISTS "${path}")
-      message(FATAL_ERROR "${dll} of the cross compiler was not found; run scripts/setup")
-    endif()
-    list(APPEND runtime_files "${path}")
-  endforeach()
-  add_custom_target(runtime_dlls ALL
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}
-    COMMAND ${CMAKE_COMMAND} -E copy_if_different ${runtime_files} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}
-    VERBATIM)
-endif()

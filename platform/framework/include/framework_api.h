@@ -6,3 +6,11 @@
 #else
 #define FRAMEWORK_API __declspec(dllimport)
 #endif
+
+// Every header comes through here first, so who compiles without what they need learns it in one line.
+#if !defined(UNICODE) || !defined(_UNICODE)
+#error "The framework is Unicode only: compile with -DUNICODE -D_UNICODE (both), before any header."
+#endif
+#if __cplusplus < 202002L
+#error "The framework needs C++20: compile with -std=c++20 or later."
+#endif
