@@ -54,7 +54,8 @@ struct RibbonMetrics {
         m.smallImage = m.Scaled(16);
         m.largeImage = m.Scaled(32);
         // A third of a panel also takes a third of a large button.
-        m.rowHeight = ribbon::FaceMetrics{m.scale, m.textHeight}.RowHeight();
+        // Frames of rows that stand below each other keep a line apart at every scale.
+        m.rowHeight = ribbon::FaceMetrics{m.scale, m.textHeight}.RowHeight() + 1;
         const int largeElement = m.largeImage + 2 * m.textHeight + m.Scaled(9);
         m.rowHeight = std::max(m.rowHeight, (largeElement + rowsPerPanel - 1) / rowsPerPanel);
         m.panelContentHeight = rowsPerPanel * m.rowHeight;
