@@ -96,11 +96,12 @@ RibbonCategoryArrangement ArrangeCategory(std::span<const RibbonPanelLadder> pan
     size_t first = 0;
     if (!reducer.Fits() && panels.size() > 1) {
         result.scrolls = true;
-        x += metrics.scrollButtonWidth;
+        const int besideLeftButton = left + metrics.scrollButtonWidth;
         end -= metrics.scrollButtonWidth;
         first = std::min(static_cast<size_t>(std::max(firstPanel, 0)),
-                         LastFirstPanel(reducer, panels.size(), metrics.panelGap, end - x));
+                         LastFirstPanel(reducer, panels.size(), metrics.panelGap, end - besideLeftButton));
         result.firstPanel = static_cast<int>(first);
+        x = first > 0 ? besideLeftButton : left;
     }
     const int top = metrics.categoryMarginY;
     const int bottom = top + metrics.PanelHeight();

@@ -171,6 +171,11 @@ TEST(RibbonCategoryLayout, WhatDoesNotFitCollapsedScrollsByWholePanels) {
     EXPECT_TRUE(start.panels[19].rect.IsEmpty());
     EXPECT_TRUE(start.scrollLeft.IsEmpty());
     EXPECT_FALSE(start.scrollRight.IsEmpty());
+    EXPECT_EQ(start.panels[0].rect.left, g_metrics.categoryMarginX) << "no room for a button that is not there";
+
+    const auto next = ArrangeCategory(ladders, g_metrics, 400, {}, 1);
+    EXPECT_FALSE(next.scrollLeft.IsEmpty());
+    EXPECT_EQ(next.panels[1].rect.left, next.scrollLeft.right);
 
     const auto end = ArrangeCategory(ladders, g_metrics, 400, {}, 1000);
     EXPECT_FALSE(end.panels[19].rect.IsEmpty()) << "the first panel is held so that the last page is full";
