@@ -37,6 +37,7 @@ struct RibbonMetrics {
     int elementGap = 0; // between columns, and between groups of one row
     int separatorWidth = 0;
     int minPanelWidth = 0;
+    int minCollapseGain = 0; // a panel that would give up less does not collapse
     int scrollButtonWidth = 0;
     int quickAccessGap = 0;
 
@@ -71,6 +72,7 @@ struct RibbonMetrics {
         m.elementGap = m.Scaled(2);
         m.separatorWidth = m.Scaled(5);
         m.minPanelWidth = m.Scaled(40);
+        m.minCollapseGain = m.Scaled(8);
         m.scrollButtonWidth = m.Scaled(13);
         m.tabHeight = m.textHeight + m.Scaled(11);
         m.tabPaddingX = m.Scaled(10);
