@@ -43,6 +43,28 @@ TEST_F(CollapsedPanel, SendsTheCommandAndGivesTheElementsBack) {
     EXPECT_THAT(m_frame->commands, ElementsAre(commands::paste, commands::paste)) << "they work in the bar again";
 }
 
+TEST_F(CollapsedPanel, ItsColumnsAreJustifiedAndCentredAsInTheRibbon) {
+    CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(0);
+    panel.RemoveAll();
+    panel.Add(new CMFCRibbonEdit(kLine, 60, L"Short"));
+    panel.Add(new CMFCRibbonEdit(kStar, 60, L"A longer label"));
+    const auto places = [&panel] {
+        const CRect first = panel.GetElement(0)->GetRect();
+        return std::pair{first.Width() - panel.GetElement(1)->GetRect().Width(), first.top};
+    };
+    OpenCollapsedPanel();
+    const auto [plainDifference, plainTop] = places();
+    EXPECT_LT(plainDifference, 0);
+    CMFCRibbonPanelMenu::DismissAll();
+    PumpPending();
+    panel.SetJustifyColumns();
+    panel.SetCenterColumnVert();
+    OpenCollapsedPanel();
+    const auto [difference, top] = places();
+    EXPECT_EQ(difference, 0) << "the boxes stand at one left edge";
+    EXPECT_GT(top, plainTop);
+}
+
 TEST_F(CollapsedPanel, TheBarsLayoutLeavesLentElementsAlone) {
     CMFCRibbonPanel& panel = OpenCollapsedPanel();
     const CRect place = panel.GetElement(0)->GetRect();
