@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 
 #include <afxRibbonEdit.h>
+#include <afxRibbonLabel.h>
 
+#include "tests/support/canvas.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -63,6 +65,21 @@ TEST_F(CollapsedPanel, ItsColumnsAreJustifiedAndCentredAsInTheRibbon) {
     const auto [difference, top] = places();
     EXPECT_EQ(difference, 0) << "the boxes stand at one left edge";
     EXPECT_GT(top, plainTop);
+}
+
+TEST_F(CollapsedPanel, ItsButtonHasNoEmptyFrameWherePanelAndElementsHaveNoPicture) {
+    CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(0);
+    const auto hasDrawn = [&panel] {
+        Canvas canvas(40);
+        panel.GetDefaultButton().DrawImage(canvas.Dc(), CMFCRibbonBaseElement::RibbonImageLarge, CRect(4, 4, 36, 36));
+        return canvas.Extent() != CSize(0, 0);
+    };
+    panel.RemoveAll();
+    EXPECT_FALSE(hasDrawn());
+    panel.Add(new CMFCRibbonLabel(L"A text alone"));
+    EXPECT_FALSE(hasDrawn());
+    panel.Add(new CMFCRibbonButton(kLine, L"Line", ::LoadIconW(nullptr, IDI_APPLICATION)));
+    EXPECT_TRUE(hasDrawn());
 }
 
 TEST_F(CollapsedPanel, TheBarsLayoutLeavesLentElementsAlone) {
