@@ -48,8 +48,8 @@ TEST_F(CollapsedPanel, SendsTheCommandAndGivesTheElementsBack) {
 TEST_F(CollapsedPanel, ItsColumnsAreJustifiedAndCentredAsInTheRibbon) {
     CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(0);
     panel.RemoveAll();
-    panel.Add(new CMFCRibbonEdit(kLine, 60, L"Short"));
-    panel.Add(new CMFCRibbonEdit(kStar, 60, L"A longer label"));
+    panel.Add(new CMFCRibbonEdit(kLine, 300, L"Short"));
+    panel.Add(new CMFCRibbonEdit(kStar, 300, L"A longer label"));
     const auto places = [&panel] {
         const CRect first = panel.GetElement(0)->GetRect();
         return std::pair{first.Width() - panel.GetElement(1)->GetRect().Width(), first.top};
