@@ -35,7 +35,7 @@ public:
     /// Shows the panel's elements in a pop-up.
     void OnShowPopupMenu() override;
 
-    /// Icon of the collapsed panel, not owned; without one the visual manager's ribbon image is drawn.
+    /// Icon of the collapsed panel, not owned; without one the first image of the panel's elements is drawn.
     void SetPanelIcon(HICON hIcon) { m_panelIcon = hIcon; }
 
 private:

@@ -136,8 +136,20 @@ CSize CMFCRibbonDefaultPanelButton::GetImageSize(RibbonImageType type) const {
     return {side, side};
 }
 
-// Without an icon of its own a panel shows what its first element shows.
+// Without an icon of its own a panel shows what its first element with an image shows.
 void CMFCRibbonDefaultPanelButton::DrawImage(CDC* pDC, RibbonImageType /*type*/, CRect rectImage) {
+    CMFCRibbonBaseElement* element = nullptr;
+    CMFCRibbonPanel* panel = GetParentPanel();
+    for (int index = 0; m_panelIcon == nullptr && panel != nullptr && index < panel->GetCount(); ++index) {
+        if (panel->GetElement(index)->GetImageSize(RibbonImageSmall).cx > 0) {
+            element = panel->GetElement(index);
+            break;
+        }
+    }
+    // A frame around nothing would look like a picture that is missing.
+    if (m_panelIcon == nullptr && element == nullptr) {
+        return;
+    }
     const CSize small = GetImageSize(RibbonImageSmall);
     const CRect inner(CPoint(rectImage.CenterPoint().x - small.cx / 2, rectImage.CenterPoint().y - small.cy / 2),
                       small);
@@ -147,14 +159,8 @@ void CMFCRibbonDefaultPanelButton::DrawImage(CDC* pDC, RibbonImageType /*type*/,
         const fx::PictureScope place(*pDC, inner);
         ::DrawIconEx(*pDC, place.Corner().x, place.Corner().y, m_panelIcon, inner.Width(), inner.Height(), 0, nullptr,
                      DI_NORMAL);
-        return;
-    }
-    CMFCRibbonPanel* panel = GetParentPanel();
-    for (int index = 0; panel != nullptr && index < panel->GetCount(); ++index) {
-        if (panel->GetElement(index)->GetImageSize(RibbonImageSmall).cx > 0) {
-            panel->GetElement(index)->DrawImage(pDC, RibbonImageSmall, inner);
-            return;
-        }
+    } else {
+        element->DrawImage(pDC, RibbonImageSmall, inner);
     }
 }
 

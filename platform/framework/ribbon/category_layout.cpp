@@ -1,6 +1,7 @@
 #include "ribbon/panel_layout.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -32,6 +33,13 @@ public:
         }
     }
 
+    // What the panel's next step gives up when that step collapses it; 0 otherwise.
+    int CollapseGain(size_t panel) const {
+        const auto& steps = m_panels[panel].Steps();
+        const auto next = static_cast<size_t>(m_taken[panel]);
+        return next < steps.size() && steps[next].phase == Phase::Collapsed ? Width(panel) - steps[next].width : 0;
+    }
+
     void TakeNextPhase(size_t panel) {
         const auto& steps = m_panels[panel].Steps();
         if (static_cast<size_t>(m_taken[panel]) < steps.size()) {
@@ -46,16 +54,32 @@ private:
     int m_available;
 };
 
+// The panel that gives up most goes first, of equal ones the right one. What is left over after the last collapse is
+// less than that one gave up, so that none of the others would fit if it were opened again.
+void Collapse(Reducer& reducer, size_t panelCount) {
+    std::vector<size_t> order(panelCount);
+    std::iota(order.rbegin(), order.rend(), size_t{0});
+    std::stable_sort(order.begin(), order.end(), [&reducer](size_t one, size_t other) {
+        return reducer.CollapseGain(one) > reducer.CollapseGain(other);
+    });
+    for (const size_t panel : order) {
+        reducer.Take(panel, Phase::Collapsed);
+    }
+}
+
 void Reduce(Reducer& reducer, size_t panelCount, std::span<const int> collapseOrder) {
     for (const int panel : collapseOrder) {
         if (panel >= 0 && static_cast<size_t>(panel) < panelCount) {
             reducer.TakeNextPhase(static_cast<size_t>(panel));
         }
     }
-    for (const Phase phase : {Phase::Intermediate, Phase::Compact, Phase::Collapsed}) {
+    for (const Phase phase : {Phase::Intermediate, Phase::Compact}) {
         for (size_t panel = panelCount; panel-- > 0;) {
             reducer.Take(panel, phase);
         }
+    }
+    if (!reducer.Fits()) {
+        Collapse(reducer, panelCount);
     }
 }
 
@@ -96,11 +120,12 @@ RibbonCategoryArrangement ArrangeCategory(std::span<const RibbonPanelLadder> pan
     size_t first = 0;
     if (!reducer.Fits() && panels.size() > 1) {
         result.scrolls = true;
-        x += metrics.scrollButtonWidth;
+        const int besideLeftButton = left + metrics.scrollButtonWidth;
         end -= metrics.scrollButtonWidth;
         first = std::min(static_cast<size_t>(std::max(firstPanel, 0)),
-                         LastFirstPanel(reducer, panels.size(), metrics.panelGap, end - x));
+                         LastFirstPanel(reducer, panels.size(), metrics.panelGap, end - besideLeftButton));
         result.firstPanel = static_cast<int>(first);
+        x = first > 0 ? besideLeftButton : left;
     }
     const int top = metrics.categoryMarginY;
     const int bottom = top + metrics.PanelHeight();

@@ -37,6 +37,7 @@ struct RibbonMetrics {
     int elementGap = 0; // between columns, and between groups of one row
     int separatorWidth = 0;
     int minPanelWidth = 0;
+    int minCollapseGain = 0; // a panel that would give up less does not collapse
     int scrollButtonWidth = 0;
     int quickAccessGap = 0;
 
@@ -54,7 +55,8 @@ struct RibbonMetrics {
         m.smallImage = m.Scaled(16);
         m.largeImage = m.Scaled(32);
         // A third of a panel also takes a third of a large button.
-        m.rowHeight = ribbon::FaceMetrics{m.scale, m.textHeight}.RowHeight();
+        // Frames of rows that stand below each other keep a line apart at every scale.
+        m.rowHeight = ribbon::FaceMetrics{m.scale, m.textHeight}.RowHeight() + 1;
         const int largeElement = m.largeImage + 2 * m.textHeight + m.Scaled(9);
         m.rowHeight = std::max(m.rowHeight, (largeElement + rowsPerPanel - 1) / rowsPerPanel);
         m.panelContentHeight = rowsPerPanel * m.rowHeight;
@@ -70,6 +72,7 @@ struct RibbonMetrics {
         m.elementGap = m.Scaled(2);
         m.separatorWidth = m.Scaled(5);
         m.minPanelWidth = m.Scaled(40);
+        m.minCollapseGain = m.Scaled(8);
         m.scrollButtonWidth = m.Scaled(13);
         m.tabHeight = m.textHeight + m.Scaled(11);
         m.tabPaddingX = m.Scaled(10);

@@ -258,7 +258,7 @@ void RibbonPanelLadder::MakeSteps() {
     m_steps.resize(useful);
     m_stepBlocks.resize(useful);
     const int collapsed = m_shape.collapsedWidth + 2 * m_metrics.panelPaddingX;
-    if (m_shape.collapsedWidth > 0 && collapsed < previous) {
+    if (m_shape.collapsedWidth > 0 && previous - collapsed >= m_metrics.minCollapseGain) {
         m_steps.push_back({Phase::Collapsed, collapsed});
         m_stepBlocks.push_back(noBlock);
     }

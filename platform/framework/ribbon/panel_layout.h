@@ -66,7 +66,7 @@ public:
     RibbonPanelLadder(const RibbonPanelShape& shape, const RibbonMetrics& metrics);
 
     int FullWidth() const { return m_fullWidth; }
-    /// Each step is narrower than the one before it.
+    /// Each step is narrower than the one before it; the collapsed button by so much that it is worth the click.
     const std::vector<Step>& Steps() const { return m_steps; }
 
     /// Places the elements as they are after the first stepCount steps. A panel that is wider than the room collapses
@@ -129,7 +129,8 @@ struct RibbonCategoryArrangement {
 };
 
 /// Fits the panels into width: first larger elements become intermediate, panel by panel from the right, then
-/// compact, then panels collapse; what does not fit even then scrolls by whole panels, from firstPanel on.
+/// compact, then panels collapse, the one that gives up most first, so that none is collapsed that there is room for;
+/// what does not fit even then scrolls by whole panels, from firstPanel on.
 /// collapseOrder names panels that give up a whole phase before the others; it may name a panel several times.
 RibbonCategoryArrangement ArrangeCategory(std::span<const RibbonPanelLadder> panels, const RibbonMetrics& metrics,
                                           int width, std::span<const int> collapseOrder = {}, int firstPanel = 0);

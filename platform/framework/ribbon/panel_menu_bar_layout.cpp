@@ -156,6 +156,9 @@ CSize CMFCRibbonPanelMenuBar::ArrangeLines(CDC* pDC, CSize room) {
 // As much of its full width as the screen has room for; the panel never collapses again.
 CSize CMFCRibbonPanelMenuBar::ArrangePanel(CDC* pDC, CSize room) {
     const RibbonMetrics metrics = CurrentRibbonMetrics();
+    if (m_parts->source != nullptr) {
+        m_parts->panel->FollowColumnsOf(*m_parts->source);
+    }
     RibbonPanelShape shape = m_parts->panel->Measure(pDC, metrics);
     shape.collapsedWidth = 0;
     const RibbonPanelLadder ladder(shape, metrics);

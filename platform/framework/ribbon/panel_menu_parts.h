@@ -24,6 +24,11 @@ public:
         m_pParent = category;
         m_pParentMenuBar = bar;
     }
+    /// Its columns look as they do in the ribbon.
+    void FollowColumnsOf(const CMFCRibbonPanel& panel) {
+        m_bCenterColumnVert = panel.IsCenterColumnVert();
+        m_bJustifyColumns = panel.IsJustifyColumns();
+    }
     void Show(CMFCRibbonBaseElement* element) { m_arElements.Add(element); }
     void ShowLaunchButton(CMFCRibbonLaunchButton& button) { m_launch = &button; }
     void Forget(const CMFCRibbonBaseElement* element) {

@@ -26,6 +26,7 @@ constexpr std::wstring_view kNeverFirst =
 constexpr std::wstring_view kNeverLast = L"$([{\x00A3\x00A5\x2018\x201C\x3008\x300A\x300C\x300E\x3010\x3014\x3016\xFF04"
                                          L"\xFF08\xFF3B\xFF5B\xFFE5";
 constexpr std::wstring_view kBreakAfter = L"-/";
+constexpr size_t kShortText = 4;
 
 bool IsSpace(wchar_t character) { return character == L' ' || character == L'\t' || character == L'\x3000'; }
 
@@ -33,6 +34,12 @@ bool IsUnspaced(wchar_t character) {
     return std::any_of(std::begin(kUnspaced), std::end(kUnspaced), [character](const CharacterRange& range) {
         return character >= range.first && character <= range.last;
     });
+}
+
+// A button grows hardly by the one ideograph that would stand alone.
+bool LeavesOneAlone(std::wstring_view text, std::wstring_view first, std::wstring_view second) {
+    const auto isOne = [](std::wstring_view line) { return line.size() == 1 && IsUnspaced(line.front()); };
+    return text.size() <= kShortText && (isOne(first) || isOne(second));
 }
 
 bool IsIn(std::wstring_view set, wchar_t character) { return set.find(character) != std::wstring_view::npos; }
@@ -76,7 +83,7 @@ TextBreak BreakInTwo(std::wstring_view text, const TextMeasure& measure, int sin
             continue;
         const std::wstring_view first = TrimRight(text.substr(0, index));
         const size_t secondStart = SkipSpaces(text, index);
-        if (first.empty() || secondStart == text.size())
+        if (first.empty() || secondStart == text.size() || LeavesOneAlone(text, first, text.substr(secondStart)))
             continue;
         const TextBreak candidate{first.size(), secondStart, measure(first), measure(text.substr(secondStart))};
         const int width = std::max(candidate.firstWidth, candidate.secondWidth + secondLineExtra);

@@ -23,8 +23,9 @@ using TextMeasure = std::function<int(std::wstring_view)>;
 bool CanBreakBefore(std::wstring_view text, size_t index);
 
 // The break that makes the wider of the two lines narrowest; of equal ones the one with the longer first line. A text
-// not wider than singleLineWidth, or without a place to break, stays on one line. secondLineExtra: what follows the
-// text on the second line (the menu arrow).
+// not wider than singleLineWidth, or without a place to break, stays on one line; so does one of
+// up to four characters where a single ideograph would be a line. secondLineExtra: what follows the text on the second
+// line (the menu arrow).
 TextBreak BreakInTwo(std::wstring_view text, const TextMeasure& measure, int singleLineWidth, int secondLineExtra);
 
 } // namespace ribbon

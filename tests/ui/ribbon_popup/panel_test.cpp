@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 
 #include <afxRibbonEdit.h>
+#include <afxRibbonLabel.h>
 
+#include "tests/support/canvas.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -41,6 +43,43 @@ TEST_F(CollapsedPanel, SendsTheCommandAndGivesTheElementsBack) {
     EXPECT_FALSE(panel.IsCollapsed());
     Click(*panel.GetElement(0));
     EXPECT_THAT(m_frame->commands, ElementsAre(commands::paste, commands::paste)) << "they work in the bar again";
+}
+
+TEST_F(CollapsedPanel, ItsColumnsAreJustifiedAndCentredAsInTheRibbon) {
+    CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(0);
+    panel.RemoveAll();
+    panel.Add(new CMFCRibbonEdit(kLine, 300, L"Short"));
+    panel.Add(new CMFCRibbonEdit(kStar, 300, L"A longer label"));
+    const auto places = [&panel] {
+        const CRect first = panel.GetElement(0)->GetRect();
+        return std::pair{first.Width() - panel.GetElement(1)->GetRect().Width(), first.top};
+    };
+    OpenCollapsedPanel();
+    const auto [plainDifference, plainTop] = places();
+    EXPECT_LT(plainDifference, 0);
+    CMFCRibbonPanelMenu::DismissAll();
+    PumpPending();
+    panel.SetJustifyColumns();
+    panel.SetCenterColumnVert();
+    OpenCollapsedPanel();
+    const auto [difference, top] = places();
+    EXPECT_EQ(difference, 0) << "the boxes stand at one left edge";
+    EXPECT_GT(top, plainTop);
+}
+
+TEST_F(CollapsedPanel, ItsButtonHasNoEmptyFrameWherePanelAndElementsHaveNoPicture) {
+    CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(0);
+    const auto hasDrawn = [&panel] {
+        Canvas canvas(40);
+        panel.GetDefaultButton().DrawImage(canvas.Dc(), CMFCRibbonBaseElement::RibbonImageLarge, CRect(4, 4, 36, 36));
+        return canvas.Extent() != CSize(0, 0);
+    };
+    panel.RemoveAll();
+    EXPECT_FALSE(hasDrawn());
+    panel.Add(new CMFCRibbonLabel(L"A text alone"));
+    EXPECT_FALSE(hasDrawn());
+    panel.Add(new CMFCRibbonButton(kLine, L"Line", ::LoadIconW(nullptr, IDI_APPLICATION)));
+    EXPECT_TRUE(hasDrawn());
 }
 
 TEST_F(CollapsedPanel, TheBarsLayoutLeavesLentElementsAlone) {

@@ -72,6 +72,16 @@ INSTANTIATE_TEST_SUITE_P(
                                 L"\x5BFC\x51FA", L"PDF"},
                       BreakCase{L"\x56FE\x5C42 \x7BA1\x7406\x5668", L"\x56FE\x5C42", L"\x7BA1\x7406\x5668"}));
 
+// A short text grows by one ideograph rather than leave one alone on a line; four stand in two even lines.
+INSTANTIATE_TEST_SUITE_P(NoIdeographAlone, BreakTable,
+                         ::testing::Values(BreakCase{L"\x6700\x5C0F\x5316", L"\x6700\x5C0F\x5316", L""},
+                                           BreakCase{L"\x6700\x5C0F\x5316", L"\x6700\x5C0F\x5316", L"", 34, 9},
+                                           BreakCase{L"\xFF08\x5927\xFF09\x56FE", L"\xFF08\x5927\xFF09\x56FE", L""},
+                                           BreakCase{L"\x6253\x5F00\x6587\x4EF6", L"\x6253\x5F00", L"\x6587\x4EF6"},
+                                           BreakCase{L"\x6253\x5F00\xFF08\x5927\xFF09\x56FE", L"\x6253\x5F00",
+                                                     L"\xFF08\x5927\xFF09\x56FE"},
+                                           BreakCase{L"Export\x56FE", L"Export", L"\x56FE"}));
+
 TEST(LineBreak, StandsNeitherAtTheStartNorAtTheEnd) {
     EXPECT_FALSE(CanBreakBefore(L"\x6253\x5F00", 0));
     EXPECT_TRUE(CanBreakBefore(L"\x6253\x5F00", 1));

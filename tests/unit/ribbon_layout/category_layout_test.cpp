@@ -130,6 +130,76 @@ TEST(RibbonCategoryLayout, OnePanelAloneNeedsNoRoomForScrollButtons) {
     EXPECT_EQ(arrangement.panels[0].rect.right, 300 - g_metrics.categoryMarginX);
 }
 
+/// The panels' own widths and the gaps and margins around them.
+int TotalWidth(const std::vector<RibbonPanelLadder>& ladders, const RibbonCategoryArrangement& arrangement) {
+    int width = 2 * g_metrics.categoryMarginX - g_metrics.panelGap;
+    for (size_t panel = 0; panel < ladders.size(); ++panel) {
+        width += ladders[panel].Arrange(arrangement.panels[panel].stepCount).width + g_metrics.panelGap;
+    }
+    return width;
+}
+
+TEST(RibbonCategoryLayout, NoPanelIsCollapsedThatWouldFitOpen) {
+    int collapsed = 0;
+    for (unsigned seed = 1; seed <= 12; ++seed) {
+        const auto ladders = Ladders(AnyCategory(seed, g_metrics), g_metrics);
+        for (int width = 100; width <= 2000; ++width) {
+            const auto arrangement = ArrangeCategory(ladders, g_metrics, width);
+            const int total = TotalWidth(ladders, arrangement);
+            for (size_t panel = 0; panel < ladders.size(); ++panel) {
+                const int steps = arrangement.panels[panel].stepCount;
+                const auto shown = ladders[panel].Arrange(steps);
+                if (!shown.collapsed) {
+                    continue;
+                }
+                ++collapsed;
+                const int open = ladders[panel].Arrange(steps - 1).width;
+                ASSERT_GT(total - shown.width + open, width) << "seed " << seed << " panel " << panel;
+            }
+        }
+    }
+    EXPECT_GT(collapsed, 1000);
+}
+
+TEST(RibbonCategoryLayout, ThePanelThatGivesUpMostCollapsesFirst) {
+    RibbonPanelShape wide;
+    wide.elements.assign(1, shapes::Edit(250, g_metrics));
+    wide.captionWidth = 20;
+    wide.collapsedWidth = 44;
+    RibbonPanelShape narrow = wide;
+    narrow.elements.assign(1, shapes::Edit(90, g_metrics));
+    const auto ladders = Ladders({narrow, wide, narrow}, g_metrics);
+    const int full = TotalWidth(ladders, ArrangeCategory(ladders, g_metrics, 100000));
+    const auto steps = [&](int width, std::span<const int> order = {}) {
+        const auto arrangement = ArrangeCategory(ladders, g_metrics, width, order);
+        std::vector<int> result;
+        for (const auto& panel : arrangement.panels) {
+            result.push_back(panel.stepCount);
+        }
+        return result;
+    };
+    EXPECT_EQ(steps(full), (std::vector{0, 0, 0}));
+    EXPECT_EQ(steps(full - 1), (std::vector{0, 1, 0}));
+    EXPECT_EQ(steps(full - 207), (std::vector{0, 1, 1})) << "of equal ones the right one";
+    const int order[] = {0, 2};
+    EXPECT_EQ(steps(full - 1, order), (std::vector{1, 0, 0})) << "an order that is set comes first";
+    EXPECT_EQ(steps(full - 60, order), (std::vector{1, 0, 1}));
+}
+
+TEST(RibbonCategoryLayout, APanelDoesNotCollapseWhereThatSavesNothing) {
+    RibbonPanelShape panel;
+    panel.elements.assign(3, shapes::SmallButton(60, g_metrics));
+    panel.captionWidth = 50;
+    const int compact = 50 + 2 * g_metrics.panelCaptionPadding; // the caption's
+    panel.collapsedWidth = compact - g_metrics.minCollapseGain + 1;
+    const int order[] = {0, 0, 0};
+    auto arrangement = ArrangeCategory(Ladders({panel}, g_metrics), g_metrics, 10, order);
+    EXPECT_EQ(arrangement.panels[0].stepCount, 1);
+    --panel.collapsedWidth;
+    arrangement = ArrangeCategory(Ladders({panel}, g_metrics), g_metrics, 10, order);
+    EXPECT_EQ(arrangement.panels[0].stepCount, 2) << "collapsed";
+}
+
 class TwoEqualPanels : public testing::Test {
 protected:
     TwoEqualPanels() {
@@ -171,6 +241,11 @@ TEST(RibbonCategoryLayout, WhatDoesNotFitCollapsedScrollsByWholePanels) {
     EXPECT_TRUE(start.panels[19].rect.IsEmpty());
     EXPECT_TRUE(start.scrollLeft.IsEmpty());
     EXPECT_FALSE(start.scrollRight.IsEmpty());
+    EXPECT_EQ(start.panels[0].rect.left, g_metrics.categoryMarginX) << "no room for a button that is not there";
+
+    const auto next = ArrangeCategory(ladders, g_metrics, 400, {}, 1);
+    EXPECT_FALSE(next.scrollLeft.IsEmpty());
+    EXPECT_EQ(next.panels[1].rect.left, next.scrollLeft.right);
 
     const auto end = ArrangeCategory(ladders, g_metrics, 400, {}, 1000);
     EXPECT_FALSE(end.panels[19].rect.IsEmpty()) << "the first panel is held so that the last page is full";

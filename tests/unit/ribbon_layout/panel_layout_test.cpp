@@ -82,6 +82,20 @@ TEST(RibbonPanelLayout, GroupsTakeTwoRowsAndThreeWhenNarrow) {
     EXPECT_LT(narrow.width, wide.width);
 }
 
+TEST(RibbonPanelLayout, StackedButtonsStandALineApartAtEveryScale) {
+    for (const auto& [percent, textHeight] :
+         {std::pair{100, 13}, {125, 16}, {150, 20}, {150, 18}, {175, 23}, {200, 26}}) {
+        const double scale = percent / 100.0;
+        const RibbonMetrics metrics = RibbonMetrics::FromFont(textHeight, scale);
+        RibbonElementShape button = shapes::SmallButton(60, metrics);
+        button.intermediate.height = button.compact.height = ribbon::FaceMetrics{scale, textHeight}.RowHeight();
+        const auto placed = RibbonPanelLadder(Panel({button, button, button}), metrics).Arrange(0).elements;
+        for (size_t row = 1; row < placed.size(); ++row) {
+            EXPECT_GE(placed[row].rect.top - placed[row - 1].rect.bottom, 1) << percent << " %, text " << textHeight;
+        }
+    }
+}
+
 TEST(RibbonPanelLayout, AnElementHigherThanOneRowTakesSeveral) {
     RibbonElementShape high = shapes::Edit(80, g_metrics);
     high.intermediate.height = 2 * g_metrics.rowHeight;
