@@ -336,6 +336,8 @@ private:
     void SetHot(CMFCRibbonBaseElement* element, CPoint point);
     void Press(CMFCRibbonBaseElement* element, CPoint point);
     void CancelPress();
+    /// Asks for WM_MOUSELEAVE, unless it is on its way already.
+    void TrackLeave();
     void PlaceTooltip();
 
     std::unique_ptr<RibbonBarParts> m_parts;

@@ -8,7 +8,15 @@
 
 namespace {
 
+const CPoint kNowhere(-1, -1);
+
 bool TakesInput(const CMFCRibbonBaseElement& element) { return !element.IsDisabled() && !element.IsSeparator(); }
+
+CPoint CursorPosition() {
+    CPoint position = kNowhere;
+    ::GetCursorPos(&position);
+    return position;
+}
 
 } // namespace
 
@@ -48,17 +56,34 @@ void CMFCRibbonBar::Press(CMFCRibbonBaseElement* element, CPoint point) {
 
 void CMFCRibbonBar::OnLButtonUp(UINT nFlags, CPoint point) {
     CPane::OnLButtonUp(nFlags, point);
-    if (m_parts->press.Release(point) == RibbonPress::Released::Element) {
-        SetHot(HitTest(point, TRUE), point);
+    const CPoint before = CursorPosition();
+    if (m_parts->press.Release(point) != RibbonPress::Released::Element) {
+        return;
+    }
+    // The command may have taken its time, in a dialog for example: the pointer is where the cursor has gone since.
+    const CPoint now = CursorPosition();
+    CPoint place = point;
+    if (now != before) {
+        place = now;
+        ScreenToClient(&place);
+    }
+    const bool isAway = now != before && ::WindowFromPoint(now) != m_hWnd;
+    SetHot(isAway ? nullptr : HitTest(place, TRUE), isAway ? kNowhere : place);
+    if (!isAway) {
+        TrackLeave(); // a dialog has used up the former request
+    }
+}
+
+void CMFCRibbonBar::TrackLeave() {
+    if (!m_parts->tracksLeave) {
+        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
+        m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
     }
 }
 
 void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
     CPane::OnMouseMove(nFlags, point);
-    if (!m_parts->tracksLeave) {
-        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
-        m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
-    }
+    TrackLeave();
     CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
     if (CMFCRibbonBaseElement* pressed = m_parts->press.GetElement()) {
         SetHot(hit == pressed ? hit : nullptr, point);
@@ -76,7 +101,7 @@ void CMFCRibbonBar::OnMouseLeave() {
     m_parts->tracksLeave = false;
     m_parts->wheel.Reset();
     if (!m_parts->press.IsActive()) {
-        SetHot(nullptr, CPoint(-1, -1));
+        SetHot(nullptr, kNowhere);
     }
 }
 
@@ -106,14 +131,14 @@ void CMFCRibbonBar::CancelPress() { m_parts->press.Cancel(); }
 void CMFCRibbonBar::OnCancelMode() {
     CPane::OnCancelMode();
     CancelPress();
-    SetHot(nullptr, CPoint(-1, -1));
+    SetHot(nullptr, kNowhere);
 }
 
 void CMFCRibbonBar::OnCaptureChanged(CWnd* pWnd) {
     CPane::OnCaptureChanged(pWnd);
     if (pWnd != this && m_parts->press.IsActive()) {
         CancelPress();
-        SetHot(nullptr, CPoint(-1, -1));
+        SetHot(nullptr, kNowhere);
     }
 }
 
