@@ -300,6 +300,7 @@ private:
     friend class CMFCRibbonContextCaption;
     friend class CMFCRibbonQuickAccessMoreButton;
     friend class CMFCRibbonQuickAccessToolBar;
+    friend class CMFCRibbonRichEditCtrl;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
     friend class RibbonAccess;
@@ -338,6 +339,8 @@ private:
     void CancelPress();
     /// Asks for WM_MOUSELEAVE, unless it is on its way already.
     void TrackLeave();
+    /// The pointer is in the edit window of an element, or has left it; the point is one of the bar's.
+    void OnEditPointer(class CMFCRibbonEdit& edit, BOOL bInside, CPoint point);
     void PlaceTooltip();
 
     std::unique_ptr<RibbonBarParts> m_parts;

@@ -2,6 +2,7 @@
 // released; the element that loses the capture is told nothing but that it is no longer pressed.
 #include "afxribbonbar.h"
 
+#include "afxRibbonEdit.h"
 #include "afxcmn.h"
 #include "fx/registered_messages.h"
 #include "ribbon/bar_parts.h"
@@ -100,7 +101,18 @@ void CMFCRibbonBar::OnMouseLeave() {
     CPane::OnMouseLeave();
     m_parts->tracksLeave = false;
     m_parts->wheel.Reset();
-    if (!m_parts->press.IsActive()) {
+    if (!m_parts->press.IsActive() && !IsPointerInEdit(m_parts->hot)) {
+        SetHot(nullptr, kNowhere);
+    }
+}
+
+void CMFCRibbonBar::OnEditPointer(CMFCRibbonEdit& edit, BOOL bInside, CPoint point) {
+    if (m_parts->press.IsActive()) {
+        return;
+    }
+    if (bInside) {
+        SetHot(&edit, point);
+    } else if (m_parts->hot == &edit && !m_parts->tracksLeave) {
         SetHot(nullptr, kNowhere);
     }
 }
@@ -188,7 +200,8 @@ void CMFCRibbonBar::NotifyCategoryChanged() {
 
 BOOL CMFCRibbonBar::PreTranslateMessage(MSG* pMsg) {
     const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
-    if (isMouse && m_pToolTip != nullptr && pMsg->hwnd == m_hWnd) {
+    const bool hasTool = pMsg->hwnd == m_hWnd || m_parts->editTool.IsOf(pMsg->hwnd);
+    if (isMouse && m_pToolTip != nullptr && hasTool) {
         m_pToolTip->RelayEvent(pMsg);
     }
     if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && m_parts->press.IsActive()) {

@@ -1,4 +1,6 @@
-// The real cursor: what the bar lights and tells when the pointer leaves, while a command runs.
+// The real cursor: what the bar lights and tells when the pointer leaves, while a command runs, and in an edit.
+#include "afxRibbonEdit.h"
+#include "afxvisualmanageroffice2007.h"
 #include "tests/support/real_mouse.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
@@ -90,6 +92,71 @@ TEST_F(RealCursorTest, AButtonUnderAClosedDialogIsLitUntilThePointerLeaves) {
     EXPECT_TRUE(Element(commands::paste).IsHighlighted());
     MoveTo(OutsideBar());
     EXPECT_TRUE(GoesDark(Element(commands::paste)));
+}
+
+class EditTipTest : public RealCursorTest {
+protected:
+    EditTipTest() {
+        CMFCVisualManagerOffice2007::SetStyle(CMFCVisualManagerOffice2007::Office2007_Silver);
+        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+        Bar().EnableToolTips(TRUE); // of that manager's kind
+        Edit().SetToolTipText(L"Size of the text");
+        Edit().SetDescription(L"In points");
+    }
+    ~EditTipTest() override {
+        CMFCVisualManager::SetDefaultManager(nullptr);
+        CMFCVisualManager::DestroyInstance();
+        CMFCVisualManagerOffice2007::CleanStyle();
+    }
+    CMFCRibbonEdit& Edit() { return static_cast<CMFCRibbonEdit&>(Element(commands::size)); }
+    CPoint InEdit() {
+        CRect rect;
+        Edit().GetEditWnd()->GetWindowRect(rect);
+        return rect.CenterPoint();
+    }
+    CToolTipCtrl& Tip() { return *Bar().GetToolTipCtrl(); }
+    /// Rests there until the tip with the text shows; false when it never does.
+    bool ShowsTipAt(CPoint screen, LPCTSTR expected) {
+        MoveTo(screen - CSize(1, 0));
+        MoveTo(screen);
+        return PumpUntil(
+            [&] {
+                CString text;
+                Tip().GetWindowText(text);
+                return Tip().IsWindowVisible() != FALSE && text == expected;
+            },
+            std::chrono::seconds(5));
+    }
+};
+
+TEST_F(EditTipTest, TheEditWindowShowsTheTipOfItsElement) {
+    ASSERT_EQ(CWnd::WindowFromPoint(InEdit()), Edit().GetEditWnd());
+    ASSERT_TRUE(ShowsTipAt(InEdit(), L"Size of the text"));
+    CRect bar, tip;
+    Bar().GetWindowRect(bar);
+    Tip().GetWindowRect(tip);
+    EXPECT_EQ(tip.left, bar.left + Edit().GetRect().left) << "below the bar, at the element, as for every other";
+    EXPECT_GE(tip.top, bar.bottom);
+    MoveTo(OutsideBar());
+    EXPECT_TRUE(PumpUntil([&] { return Tip().IsWindowVisible() == FALSE; }, std::chrono::seconds(5)));
+}
+
+TEST_F(EditTipTest, TheEditAndItsNeighboursShowTheirOwnTipsInTurn) {
+    EXPECT_TRUE(ShowsTipAt(InEdit(), L"Size of the text"));
+    EXPECT_TRUE(ShowsTipAt(OnScreen(commands::paste), L"Paste"));
+    EXPECT_TRUE(ShowsTipAt(InEdit(), L"Size of the text")) << "again";
+}
+
+TEST_F(EditTipTest, TheEditAndItsPanelAreLitWhileThePointerIsInTheEditWindow) {
+    CMFCRibbonPanel& panel = *Bar().GetCategory(0)->GetPanel(1);
+    MoveTo(OnScreen(commands::paste));
+    MoveTo(InEdit());
+    EXPECT_TRUE(Edit().IsHighlighted());
+    EXPECT_TRUE(panel.IsHighlighted());
+    EXPECT_FALSE(Element(commands::paste).IsHighlighted());
+    MoveTo(OutsideBar());
+    EXPECT_TRUE(GoesDark(Edit()));
+    EXPECT_FALSE(panel.IsHighlighted());
 }
 
 } // namespace
