@@ -28,6 +28,8 @@ protected:
     afx_msg void OnChange();
     DECLARE_MESSAGE_MAP()
 
+    void TellParent(CPoint point);
+
     CMFCRibbonEdit& m_edit;
     BOOL m_bIsHighlighted = FALSE;
 };

@@ -300,6 +300,7 @@ private:
     friend class CMFCRibbonContextCaption;
     friend class CMFCRibbonQuickAccessMoreButton;
     friend class CMFCRibbonQuickAccessToolBar;
+    friend class CMFCRibbonRichEditCtrl;
     friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
     friend class RibbonAccess;
@@ -336,6 +337,10 @@ private:
     void SetHot(CMFCRibbonBaseElement* element, CPoint point);
     void Press(CMFCRibbonBaseElement* element, CPoint point);
     void CancelPress();
+    /// Asks for WM_MOUSELEAVE, unless it is on its way already.
+    void TrackLeave();
+    /// The pointer is in the edit window of an element, or has left it; the point is one of the bar's.
+    void OnEditPointer(class CMFCRibbonEdit& edit, BOOL bInside, CPoint point);
     void PlaceTooltip();
 
     std::unique_ptr<RibbonBarParts> m_parts;

@@ -114,6 +114,7 @@ public:
 
 protected:
     friend class CMFCRibbonPanelMenu;
+    friend class CMFCRibbonRichEditCtrl;
     BOOL CreateBar(CWnd* pParent);
     void SetOpener(const CMFCRibbonBaseElement& opener);
     void Lend();
@@ -153,6 +154,8 @@ private:
     void PlaceTooltip();
     void PopTooltip();
     void CancelPress();
+    /// The pointer is in the edit window of an element, or has left it; the point is one of this window's.
+    void OnEditPointer(class CMFCRibbonEdit& edit, BOOL bInside, CPoint point);
     void ReleaseOver(CPoint point);
     void CollectStops(ElementArray& stops) const;
     BOOL OfferKey(UINT nChar);

@@ -65,6 +65,8 @@ public:
 protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
+    afx_msg void OnNcPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnWindowPosChanging(WINDOWPOS* lpwndpos);
     /// TTN_SHOW: sizes and places the window. *pResult is 1 when it was placed, 0 when the system places it.

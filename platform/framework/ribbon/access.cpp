@@ -7,7 +7,7 @@
 #include "afxRibbonEdit.h"
 #include "afxribbonbar.h"
 #include "afxribbonslider.h"
-#include "core/module.h"
+#include "core/framework_text.h"
 #include "ribbon/access_object.h"
 #include "ribbon/access_texts.h"
 #include "ribbon/bar_parts.h"
@@ -22,11 +22,7 @@ constexpr LONG kFirstId = 0x10000;
 
 } // namespace
 
-CString RibbonAccessText(RibbonAccessTextId id) {
-    LPCWSTR text = nullptr;
-    const int length = ::LoadStringW(FrameworkInstance(), static_cast<UINT>(id), reinterpret_cast<LPWSTR>(&text), 0);
-    return length > 0 ? CString(text, length) : CString();
-}
+CString RibbonAccessText(RibbonAccessTextId id) { return FrameworkText(static_cast<UINT>(id)); }
 
 RibbonAccess::RibbonAccess(CWnd& window) : m_window(window), m_nextId(kFirstId) {}
 

@@ -2,13 +2,22 @@
 // released; the element that loses the capture is told nothing but that it is no longer pressed.
 #include "afxribbonbar.h"
 
+#include "afxRibbonEdit.h"
 #include "afxcmn.h"
 #include "fx/registered_messages.h"
 #include "ribbon/bar_parts.h"
 
 namespace {
 
+const CPoint kNowhere(-1, -1);
+
 bool TakesInput(const CMFCRibbonBaseElement& element) { return !element.IsDisabled() && !element.IsSeparator(); }
+
+CPoint CursorPosition() {
+    CPoint position = kNowhere;
+    ::GetCursorPos(&position);
+    return position;
+}
 
 } // namespace
 
@@ -48,17 +57,34 @@ void CMFCRibbonBar::Press(CMFCRibbonBaseElement* element, CPoint point) {
 
 void CMFCRibbonBar::OnLButtonUp(UINT nFlags, CPoint point) {
     CPane::OnLButtonUp(nFlags, point);
-    if (m_parts->press.Release(point) == RibbonPress::Released::Element) {
-        SetHot(HitTest(point, TRUE), point);
+    const CPoint before = CursorPosition();
+    if (m_parts->press.Release(point) != RibbonPress::Released::Element) {
+        return;
+    }
+    // The command may have taken its time, in a dialog for example: the pointer is where the cursor has gone since.
+    const CPoint now = CursorPosition();
+    CPoint place = point;
+    if (now != before) {
+        place = now;
+        ScreenToClient(&place);
+    }
+    const bool isAway = now != before && ::WindowFromPoint(now) != m_hWnd;
+    SetHot(isAway ? nullptr : HitTest(place, TRUE), isAway ? kNowhere : place);
+    if (!isAway) {
+        TrackLeave(); // a dialog has used up the former request
+    }
+}
+
+void CMFCRibbonBar::TrackLeave() {
+    if (!m_parts->tracksLeave) {
+        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
+        m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
     }
 }
 
 void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
     CPane::OnMouseMove(nFlags, point);
-    if (!m_parts->tracksLeave) {
-        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
-        m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
-    }
+    TrackLeave();
     CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
     if (CMFCRibbonBaseElement* pressed = m_parts->press.GetElement()) {
         SetHot(hit == pressed ? hit : nullptr, point);
@@ -75,8 +101,19 @@ void CMFCRibbonBar::OnMouseLeave() {
     CPane::OnMouseLeave();
     m_parts->tracksLeave = false;
     m_parts->wheel.Reset();
-    if (!m_parts->press.IsActive()) {
-        SetHot(nullptr, CPoint(-1, -1));
+    if (!m_parts->press.IsActive() && !IsPointerInEdit(m_parts->hot)) {
+        SetHot(nullptr, kNowhere);
+    }
+}
+
+void CMFCRibbonBar::OnEditPointer(CMFCRibbonEdit& edit, BOOL bInside, CPoint point) {
+    if (m_parts->press.IsActive()) {
+        return;
+    }
+    if (bInside) {
+        SetHot(&edit, point);
+    } else if (m_parts->hot == &edit && !m_parts->tracksLeave) {
+        SetHot(nullptr, kNowhere);
     }
 }
 
@@ -106,14 +143,14 @@ void CMFCRibbonBar::CancelPress() { m_parts->press.Cancel(); }
 void CMFCRibbonBar::OnCancelMode() {
     CPane::OnCancelMode();
     CancelPress();
-    SetHot(nullptr, CPoint(-1, -1));
+    SetHot(nullptr, kNowhere);
 }
 
 void CMFCRibbonBar::OnCaptureChanged(CWnd* pWnd) {
     CPane::OnCaptureChanged(pWnd);
     if (pWnd != this && m_parts->press.IsActive()) {
         CancelPress();
-        SetHot(nullptr, CPoint(-1, -1));
+        SetHot(nullptr, kNowhere);
     }
 }
 
@@ -163,7 +200,8 @@ void CMFCRibbonBar::NotifyCategoryChanged() {
 
 BOOL CMFCRibbonBar::PreTranslateMessage(MSG* pMsg) {
     const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
-    if (isMouse && m_pToolTip != nullptr && pMsg->hwnd == m_hWnd) {
+    const bool hasTool = pMsg->hwnd == m_hWnd || m_parts->editTool.IsOf(pMsg->hwnd);
+    if (isMouse && m_pToolTip != nullptr && hasTool) {
         m_pToolTip->RelayEvent(pMsg);
     }
     if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && m_parts->press.IsActive()) {

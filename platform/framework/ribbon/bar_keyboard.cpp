@@ -81,5 +81,14 @@ CMFCRibbonBaseElement* CMFCRibbonBar::GetFocused() {
             return elements[index];
         }
     }
-    return m_parts->active != nullptr ? m_parts->active->GetFocused() : nullptr;
+    if (CMFCRibbonBaseElement* focused = m_parts->active != nullptr ? m_parts->active->GetFocused() : nullptr) {
+        return focused;
+    }
+    // What a step to another tab leaves behind.
+    for (const auto& category : m_parts->categories) {
+        if (CMFCRibbonBaseElement* focused = category->GetFocused()) {
+            return focused;
+        }
+    }
+    return nullptr;
 }

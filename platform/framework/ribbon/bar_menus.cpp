@@ -2,14 +2,10 @@
 
 #include "afxRibbonLabel.h"
 #include "afxribbonpanelmenu.h"
-#include "core/module.h"
+#include "core/framework_text.h"
 #include "ribbon/menu_items.h"
 
-CString RibbonText(RibbonTextId id) {
-    LPCWSTR text = nullptr;
-    const int length = ::LoadStringW(FrameworkInstance(), static_cast<UINT>(id), reinterpret_cast<LPWSTR>(&text), 0);
-    return length > 0 ? CString(text, length) : CString();
-}
+CString RibbonText(RibbonTextId id) { return FrameworkText(static_cast<UINT>(id)); }
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "fx/wheel_rest.h"
 #include "ribbon/access.h"
 #include "ribbon/bar_layout.h"
+#include "ribbon/edit_tool.h"
 #include "ribbon/keyboard.h"
 #include "ribbon/panel_layout.h"
 #include "ribbon/press.h"
@@ -69,6 +70,7 @@ struct RibbonBarParts {
     int tooltipWidthRegular = 0;
     int tooltipWidthLargeImage = 0;
     CString tooltipText; // lent to the tooltip control while it shows
+    RibbonEditTool editTool;
 
     CMFCRibbonApplicationButton* applicationButton = nullptr; // the host's
     CSize applicationButtonSize{0, 0};                        // at 96 DPI

@@ -57,6 +57,7 @@ void CMFCRibbonBar::PlaceTooltip() {
     }
     const CRect rect = m_parts->hot != nullptr ? m_parts->hot->GetRect() : CRect(0, 0, 0, 0);
     m_pToolTip->SetToolRect(this, kTool, rect);
+    m_parts->editTool.Follow(*m_pToolTip, *this, m_parts->hot);
     m_pToolTip->Pop();
     CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_pToolTip);
     if (tooltip == nullptr) {

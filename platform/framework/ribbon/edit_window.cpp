@@ -3,6 +3,7 @@
 
 #include <afxglobals.h>
 #include <afxribbonbar.h>
+#include <afxribbonpanelmenu.h>
 #include <afxvisualmanager.h>
 #include <richedit.h>
 
@@ -43,18 +44,30 @@ BOOL CMFCRibbonRichEditCtrl::PreTranslateMessage(MSG* pMsg) {
 
 void CMFCRibbonRichEditCtrl::OnMouseMove(UINT nFlags, CPoint point) {
     CRichEditCtrl::OnMouseMove(nFlags, point);
-    if (m_bIsHighlighted)
-        return;
-    TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, GetSafeHwnd(), 0};
-    ::TrackMouseEvent(&track);
-    m_bIsHighlighted = TRUE;
-    m_edit.OnHighlight(TRUE);
+    if (!m_bIsHighlighted) {
+        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, GetSafeHwnd(), 0};
+        ::TrackMouseEvent(&track);
+        m_bIsHighlighted = TRUE;
+        m_edit.OnHighlight(TRUE);
+    }
+    TellParent(point);
 }
 
 LRESULT CMFCRibbonRichEditCtrl::OnMouseLeave(WPARAM /*wParam*/, LPARAM /*lParam*/) {
     m_bIsHighlighted = FALSE;
     m_edit.OnHighlight(m_edit.IsHighlighted());
+    TellParent(CPoint(-1, -1));
     return Default();
+}
+
+// Over this window the pointer is over the element: the parent lights it and shows its tooltip.
+void CMFCRibbonRichEditCtrl::TellParent(CPoint point) {
+    CWnd* parent = GetParent();
+    ::MapWindowPoints(m_hWnd, parent->GetSafeHwnd(), &point, 1);
+    if (CMFCRibbonBar* bar = DYNAMIC_DOWNCAST(CMFCRibbonBar, parent))
+        bar->OnEditPointer(m_edit, m_bIsHighlighted, point);
+    else if (CMFCRibbonPanelMenuBar* menu = DYNAMIC_DOWNCAST(CMFCRibbonPanelMenuBar, parent))
+        menu->OnEditPointer(m_edit, m_bIsHighlighted, point);
 }
 
 void CMFCRibbonRichEditCtrl::OnSetFocus(CWnd* pOldWnd) {

@@ -15,6 +15,7 @@ target_sources(framework PRIVATE
   drop_down_list.cpp
   edit.cpp
   edit_geometry.cpp
+  edit_tool.cpp
   edit_window.cpp
   element_commands.cpp
   element_metrics.cpp

@@ -158,7 +158,7 @@ void CMFCRibbonPanelMenuBar::OnMouseLeave() {
     m_parts->scrollHot = 0;
     KillTimer(kScrollTimer);
     KillTimer(kHoverTimer);
-    if (m_parts->press.IsActive()) {
+    if (m_parts->press.IsActive() || IsPointerInEdit(m_parts->hot)) {
         return;
     }
     CMFCRibbonBaseElement* dropped = nullptr;
@@ -166,6 +166,20 @@ void CMFCRibbonPanelMenuBar::OnMouseLeave() {
         dropped = dropped != nullptr ? dropped : loan.element->GetDroppedDown();
     }
     SetHot(dropped);
+}
+
+void CMFCRibbonPanelMenuBar::OnEditPointer(CMFCRibbonEdit& edit, BOOL bInside, CPoint point) {
+    if (m_parts->press.IsActive()) {
+        return;
+    }
+    if (bInside) {
+        // As with the moves that the pop-up itself gets.
+        if (std::exchange(m_parts->lastMove, point) != point) {
+            SetHot(&edit);
+        }
+    } else if (m_parts->hot == &edit && !m_parts->tracksLeave) {
+        SetHot(nullptr);
+    }
 }
 
 void CMFCRibbonPanelMenuBar::OnContextMenu(CWnd* /*pWnd*/, CPoint point) {

@@ -42,7 +42,7 @@ void CMFCRibbonPanelMenuBar::PopTooltip() {
 
 void CMFCRibbonPanelMenuBar::PlaceTooltip() {
     CMFCRibbonBaseElement* hot = m_parts->hot;
-    if (hot != nullptr && m_parts->tracksLeave) {
+    if (hot != nullptr && (m_parts->tracksLeave || IsPointerInEdit(hot))) {
         CreateTooltip();
     }
     if (m_parts->tooltip == nullptr || m_parts->tooltip->GetSafeHwnd() == nullptr) {
@@ -50,6 +50,7 @@ void CMFCRibbonPanelMenuBar::PlaceTooltip() {
     }
     const CRect rect = hot != nullptr ? hot->GetRect() : CRect(0, 0, 0, 0);
     m_parts->tooltip->SetToolRect(this, kTool, rect);
+    m_parts->editTool.Follow(*m_parts->tooltip, *this, hot);
     m_parts->tooltip->Pop();
     CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_parts->tooltip);
     if (tooltip == nullptr) {
@@ -100,7 +101,8 @@ LRESULT CMFCRibbonPanelMenuBar::OnUpdateToolTips(WPARAM wp, LPARAM /*lp*/) {
 
 BOOL CMFCRibbonPanelMenuBar::PreTranslateMessage(MSG* pMsg) {
     const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
-    if (isMouse && m_parts->tooltip != nullptr && pMsg->hwnd == m_hWnd) {
+    const bool hasTool = pMsg->hwnd == m_hWnd || m_parts->editTool.IsOf(pMsg->hwnd);
+    if (isMouse && m_parts->tooltip != nullptr && hasTool) {
         m_parts->tooltip->RelayEvent(pMsg);
     }
     return CMFCPopupMenuBar::PreTranslateMessage(pMsg);

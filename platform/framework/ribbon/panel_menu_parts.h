@@ -8,6 +8,7 @@
 #include "afxribbonpanelmenu.h"
 #include "fx/wheel_rest.h"
 #include "ribbon/access.h"
+#include "ribbon/edit_tool.h"
 #include "ribbon/menu_geometry.h"
 #include "ribbon/press.h"
 
@@ -99,4 +100,5 @@ struct RibbonPanelMenuParts {
 
     CToolTipCtrl* tooltip = nullptr; // the window's; null until it is needed
     CString tooltipText;             // lent to the tooltip while it shows
+    RibbonEditTool editTool;
 };

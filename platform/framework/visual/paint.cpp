@@ -152,7 +152,7 @@ void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look&) {
         return;
     // Corner points of a tick on a square of side 1, clockwise from the outer left.
     static constexpr std::array<PointF, 6> shape{
-        {{0.20, 0.50}, {0.32, 0.40}, {0.44, 0.56}, {0.72, 0.20}, {0.84, 0.28}, {0.45, 0.80}}};
+        {{0.18, 0.50}, {0.30, 0.40}, {0.42, 0.56}, {0.70, 0.20}, {0.82, 0.28}, {0.43, 0.80}}};
     std::array<PointF, shape.size()> points;
     const double side = square.right - square.left;
     // A tick does not change its direction in a mirrored window.

@@ -70,6 +70,7 @@ void SetColors(Skin& skin, const SystemColors& c) {
     skin[ColorSlot::MenuFill] = skin[ColorSlot::MenuLabelFill] = c.menu;
     skin[ColorSlot::MenuText] = skin[ColorSlot::MenuTextHot] = skin[ColorSlot::MenuLabelText] = c.menuText;
     skin[ColorSlot::CaptionText] = skin[ColorSlot::PaneCaptionTextActive] = c.captionText;
+    skin[ColorSlot::CaptionTextInactive] = c.inactiveCaptionText;
     skin[ColorSlot::EditText] = c.windowText;
     skin[ColorSlot::EditSelection] = c.selection;
     skin[ColorSlot::EditSelectionText] = c.selectionText;

@@ -155,7 +155,7 @@ const std::array<FaceRow, g_faceCount> g_faceRows{{
     }}},
     {FaceSlot::CaptionInactive, {{
         {0xFFA5B6CE, 0xA0FFFFFF, 0xFFEDF1F7, 0xFFE3EAF3, 0xFFDAE4F0, 0xFFD6E3F3},
-        {0xFF4A4D52, 0x40FFFFFF, 0xFF8A8D92, 0xFF7C7F84, 0xFF6C6F74, 0xFF727272},
+        {0xFF4A4D52, 0x40FFFFFF, 0xFF7C7F84, 0xFF707378, 0xFF616469, 0xFF686868},
         {0xFFA8BFC8, 0xA0FFFFFF, 0xFFF0F5F7, 0xFFE7EEF2, 0xFFDFE9ED, 0xFFDEE9EE},
         {0xFFB5BAC2, 0xB0FFFFFF, 0xFFF6F7F9, 0xFFEEF0F4, 0xFFE5E8ED, 0xFFE2E5EA},
     }}},
@@ -314,7 +314,7 @@ const std::array<ColorRow, g_colorCount> g_colorRows{{
     {ColorSlot::SeparatorDark, {0xFF9DBBE0, 0xFF9299A2, 0xFF9BBAC6, 0xFFB4BAC4}},
     {ColorSlot::SeparatorLight, {0xC0FFFFFF, 0xA0FFFFFF, 0xC0FFFFFF, 0xE0FFFFFF}},
     {ColorSlot::CaptionText, {0xFF15428B, 0xFFF0F3F7, 0xFF1F4E5F, 0xFF3C434C}},
-    {ColorSlot::CaptionTextInactive, {0xFF7E8FA9, 0xFFB9BCC1, 0xFF86A0AA, 0xFF8F959D}},
+    {ColorSlot::CaptionTextInactive, {0xFF6B7C97, 0xFFE0E2E6, 0xFF64838F, 0xFF787E87}},
     {ColorSlot::QatText, {0xFF15428B, 0xFFFFFFFF, 0xFF1F4E5F, 0xFF3C434C}},
     {ColorSlot::MenuFill, {0xFFFAFBFD, 0xFFFAFAFA, 0xFFFAFCFD, 0xFFFBFBFC}},
     {ColorSlot::MenuGutter, {0xFFE9EEF6, 0xFFEBECEE, 0xFFE8F1F4, 0xFFEDEFF2}},

@@ -4,6 +4,7 @@
 #include "afxdrawmanager.h"
 #include "afxglobals.h"
 #include "afxribbonbutton.h"
+#include "visual/tooltip_shape.h"
 #include "visual/tooltip_text.h"
 
 #include <algorithm>
@@ -14,7 +15,6 @@ constexpr COLORREF g_none = static_cast<COLORREF>(-1);
 /// From top to bottom.
 constexpr int g_usualAngle = 270;
 constexpr int g_largestRegularImage = 32;
-constexpr int g_corner = 4;
 
 /// A font that is selected while this lives.
 class FontScope {
@@ -152,15 +152,12 @@ void CMFCToolTipCtrl::OnDrawBorder(CDC* pDC, CRect rect, COLORREF clrLine) {
         CDrawingManager(*pDC).DrawRect(rect, g_none, clrLine);
         return;
     }
-    const int corner = afxGlobalData.ScalePixels(g_corner);
-    const HDC dc = pDC->GetSafeHdc();
-    const HPEN pen = ::CreatePen(PS_SOLID, 1, clrLine);
-    const HGDIOBJ previousPen = ::SelectObject(dc, pen);
-    const HGDIOBJ previousBrush = ::SelectObject(dc, ::GetStockObject(NULL_BRUSH));
-    ::RoundRect(dc, rect.left, rect.top, rect.right, rect.bottom, corner, corner);
-    ::SelectObject(dc, previousBrush);
-    ::SelectObject(dc, previousPen);
-    ::DeleteObject(pen);
+    // Along the edge of the window's own region, which a rounded rectangle drawn with a pen misses here and there.
+    const HRGN shape = tooltip::RoundedShape(rect);
+    const HBRUSH brush = ::CreateSolidBrush(clrLine);
+    ::FrameRgn(pDC->GetSafeHdc(), shape, brush, 1, 1);
+    ::DeleteObject(brush);
+    ::DeleteObject(shape);
 }
 
 void CMFCToolTipCtrl::OnFillBackground(CDC* pDC, CRect rect, COLORREF& clrText, COLORREF& clrLine) {

@@ -9,6 +9,7 @@
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
 #include "visual/tooltip_layout.h"
+#include "visual/tooltip_shape.h"
 #include "visual/tooltip_text.h"
 
 #include <vector>
@@ -17,7 +18,6 @@ namespace {
 
 const CPoint g_nowhere(-1, -1);
 constexpr int g_longestLabel = 4096;
-constexpr int g_corner = 4;
 
 struct Margins {
     int x, y;
@@ -41,6 +41,8 @@ CRect WorkAreaAt(CPoint point) {
 BEGIN_MESSAGE_MAP(CMFCToolTipCtrl, CToolTipCtrl)
 ON_WM_PAINT()
 ON_WM_ERASEBKGND()
+ON_WM_NCCALCSIZE()
+ON_WM_NCPAINT()
 ON_WM_SIZE()
 ON_WM_WINDOWPOSCHANGING()
 ON_NOTIFY_REFLECT(TTN_SHOW, OnShow)
@@ -98,7 +100,8 @@ BOOL CMFCToolTipCtrl::PlaceForShow(CPoint ptScreen, CSize size) {
     const CPoint corner = tooltip::KeepInside(wanted, size, WorkAreaAt(wanted), avoidTop);
     m_bMovedForShow = TRUE;
     m_rectShow = CRect(corner, size);
-    SetWindowPos(nullptr, corner.x, corner.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    // The frame again, too: with the looks the system's border may have come or gone.
+    SetWindowPos(nullptr, corner.x, corner.y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     return m_bMovedForShow;
 }
 
@@ -122,16 +125,26 @@ void CMFCToolTipCtrl::OnPop(NMHDR* /*pNMHDR*/, LRESULT* pResult) {
     *pResult = 0;
 }
 
+// The system gives each tooltip a border of its own; here the whole window is drawn, with one border.
+void CMFCToolTipCtrl::OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp) {
+    if (m_Params.m_bBalloonTooltip) {
+        CToolTipCtrl::OnNcCalcSize(bCalcValidRects, lpncsp);
+    }
+}
+
+void CMFCToolTipCtrl::OnNcPaint() {
+    if (m_Params.m_bBalloonTooltip) {
+        CToolTipCtrl::OnNcPaint();
+    }
+}
+
 void CMFCToolTipCtrl::OnSize(UINT nType, int cx, int cy) {
     CToolTipCtrl::OnSize(nType, cx, cy);
     if (m_Params.m_bBalloonTooltip) {
         return;
     }
-    const int corner = afxGlobalData.ScalePixels(g_corner);
     // The window owns its region from here.
-    ::SetWindowRgn(m_hWnd,
-                   m_Params.m_bRoundedCorners ? ::CreateRoundRectRgn(0, 0, cx + 1, cy + 1, corner, corner) : nullptr,
-                   FALSE);
+    ::SetWindowRgn(m_hWnd, m_Params.m_bRoundedCorners ? tooltip::RoundedShape(CRect(0, 0, cx, cy)) : nullptr, FALSE);
 }
 
 BOOL CMFCToolTipCtrl::OnEraseBkgnd(CDC* pDC) {

@@ -31,6 +31,27 @@ TEST_F(FocusWalkTest, AltGivesTheFocusToTheActiveTabAndAnArrowHidesTheTips) {
     EXPECT_EQ(Bar().GetActiveCategory(), Bar().GetCategory(0));
 }
 
+TEST_F(FocusWalkTest, AStepToAnotherTabTakesTheFocusFromTheFormerOne) {
+    Start();
+    Press(VK_RIGHT);
+    EXPECT_FALSE(Bar().GetCategory(0)->GetTab().IsFocused());
+    EXPECT_TRUE(Bar().GetCategory(1)->GetTab().IsFocused());
+    Press({VK_DOWN, VK_ESCAPE, VK_ESCAPE, VK_ESCAPE});
+    for (int index = 0; index < Bar().GetCategoryCount(); ++index)
+        EXPECT_FALSE(Bar().GetCategory(index)->GetTab().IsFocused()) << index;
+    EXPECT_EQ(FocusedText(), L"");
+}
+
+TEST_F(FocusWalkTest, ACategoryThatIsChangedMeanwhileKeepsNoFocus) {
+    Start();
+    Press(VK_DOWN);
+    ASSERT_TRUE(Element(commands::paste).IsFocused());
+    Bar().SetActiveCategory(Bar().GetCategory(1));
+    Press({VK_ESCAPE, VK_ESCAPE});
+    EXPECT_FALSE(Element(commands::paste).IsFocused());
+    EXPECT_FALSE(Bar().GetCategory(0)->GetTab().IsFocused());
+}
+
 TEST_F(FocusWalkTest, HomeAndEndGoToTheFirstAndLastTab) {
     Start();
     Press(VK_END);

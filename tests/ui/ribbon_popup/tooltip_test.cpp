@@ -1,6 +1,7 @@
 // Tooltips of the elements that pop-ups show.
 #include <gmock/gmock.h>
 
+#include "afxRibbonEdit.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -36,6 +37,27 @@ TEST_F(PopupTooltips, AnElementOfACollapsedPanelShowsItsTipOrItsText) {
     MoveOver(Element(commands::cut));
     EXPECT_STREQ(Tip(), L"Cuts the selection");
     EXPECT_EQ(ToolRect(), Element(commands::cut).GetRect());
+}
+
+TEST_F(PopupTooltips, AnEditWindowShowsTheTipOfItsElement) {
+    auto& edit = static_cast<CMFCRibbonEdit&>(Element(commands::size));
+    edit.SetToolTipText(L"Size of the text");
+    Click(Collapse(1).GetDefaultButton());
+    ASSERT_EQ(OpenCount(), 1);
+    const HWND window = edit.GetEditWnd()->GetSafeHwnd();
+    ASSERT_EQ(::GetParent(window), PopupBar().GetSafeHwnd());
+    CRect client;
+    ::GetClientRect(window, client);
+    m_pointer.MoveTo(window, client.CenterPoint());
+    EXPECT_EQ(PopupBar().GetHighlighted(), &edit);
+    ASSERT_NE(PopupBar().GetToolTipCtrl(), nullptr);
+    EXPECT_STREQ(Tip(), L"Size of the text");
+    TOOLINFO tool{};
+    tool.cbSize = sizeof(tool);
+    tool.hwnd = PopupBar();
+    tool.uId = reinterpret_cast<UINT_PTR>(window);
+    EXPECT_TRUE(PopupBar().GetToolTipCtrl()->SendMessage(TTM_GETTOOLINFO, 0, reinterpret_cast<LPARAM>(&tool)))
+        << "the system asks for a tool of the window itself";
 }
 
 TEST_F(PopupTooltips, ARowOfAMenuShowsOnlyWhatSaysMoreThanItsText) {

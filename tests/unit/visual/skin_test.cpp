@@ -64,6 +64,18 @@ TEST(SkinTable, TextCanBeReadOnItsGround) {
     }
 }
 
+// Paler than that of the active frame, but text all the same.
+TEST(SkinTable, TheTitleOfAnInactiveFrameCanBeReadOnAllOfItsCaption) {
+    for (std::size_t style = 0; style < g_styleCount; ++style) {
+        const Skin& skin = StyleSkin(style);
+        const Face& caption = skin[FaceSlot::CaptionInactive];
+        for (const Argb ground : {caption.top1, caption.top2, caption.bottom1, caption.bottom2})
+            EXPECT_GE(Contrast(skin[ColorSlot::CaptionTextInactive], ground), 3.0) << "style " << style;
+        EXPECT_LT(Contrast(skin[ColorSlot::CaptionTextInactive], caption.bottom1),
+                  Contrast(skin[ColorSlot::CaptionText], skin[FaceSlot::CaptionActive].bottom1));
+    }
+}
+
 TEST(SkinTable, AStyleThatDoesNotExistIsTheFirst) { EXPECT_EQ(&StyleSkin(17), &StyleSkin(0)); }
 
 TEST(SystemSkin, FollowsTheSystemsColours) {
@@ -76,6 +88,14 @@ TEST(SystemSkin, FollowsTheSystemsColours) {
     EXPECT_EQ(skin[ColorSlot::RibbonTop], 0xFFD4D0C8);
     EXPECT_EQ(skin[ColorSlot::RibbonText], 0xFF102030);
     EXPECT_EQ(skin.radius, 0);
+}
+
+TEST(SystemSkin, TheTitleOfAnInactiveFrameHasTheSystemsColourForIt) {
+    SystemColors colors{};
+    colors.text = colors.inactiveCaption = 0xFF102030;
+    colors.inactiveCaptionText = 0xFFE0E0E0;
+    for (const Skin& skin : {MakeSystemSkin(colors), MakeBlendedSkin(colors), MakeGradientSkin(colors, 0xFF3060A0)})
+        EXPECT_GE(Contrast(skin[ColorSlot::CaptionTextInactive], skin[FaceSlot::CaptionInactive].bottom1), 3.0);
 }
 
 } // namespace
