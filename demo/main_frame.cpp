@@ -57,6 +57,14 @@ std::wstring InstallationDirectory() {
 
 } // namespace
 
+void TakeResourceLanguage() {
+    const bool isChinese = CMultiLanguageMgr::GetLanguage() == L"zh-CN";
+    const LANGID language =
+        isChinese ? MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED) : MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
+    ::SetThreadUILanguage(language);
+    ::SetThreadLocale(MAKELCID(language, SORT_DEFAULT)); // what Wine goes by
+}
+
 IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
@@ -298,6 +306,7 @@ void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_ME
 void CMainFrame::SwitchLanguage(const std::wstring& code) {
     if (!CMultiLanguageMgr::SetLanguage(code))
         return;
+    TakeResourceLanguage();
     setMessageBoxTitle(ViewerText("ViewerTitle"));
     ApplyTexts();
     // The clicked button is still at work: the ribbon is built anew after it has finished.

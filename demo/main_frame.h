@@ -11,6 +11,9 @@
 
 class CAddRibbonBar;
 
+/// From now on the thread's resources, the framework's own texts among them, are those of the language in force.
+void TakeResourceLanguage();
+
 /// The viewer's main window: the ribbon from cfg\ribbon.xml above the map. Turns the configured commands over to the
 /// reactors and answers what they need of the frame.
 class CMainFrame : public CFrameWndEx, private ViewerHost {

@@ -27,6 +27,7 @@ public:
             afxGlobalData.SetRibbonImageScale(options->scalePercent / 100.0);
         if (!CMultiLanguageMgr::SetLanguage(options->language))
             CMultiLanguageMgr::SetLanguage(L"en");
+        TakeResourceLanguage();
         setMessageBoxTitle(CMultiLanguageMgr::translationW("ViewerTitle", -1, "Viewer"));
 
         auto* const frame = new CMainFrame(*options); // destroys itself with its window
