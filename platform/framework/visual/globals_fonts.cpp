@@ -55,7 +55,8 @@ int TextHeight(HDC dc, const CFont& font) {
     return metrics.tmHeight;
 }
 
-/// Three tenths of the characters' height between two lines: rows of lists are read easily, and their marks stand apart.
+/// Three tenths of the characters' height between two lines: rows of lists are read easily, and their marks stand
+/// apart.
 int WithLeading(int characterHeight) { return characterHeight + (3 * characterHeight + 5) / 10; }
 
 } // namespace
