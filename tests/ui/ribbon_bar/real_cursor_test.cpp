@@ -94,6 +94,19 @@ TEST_F(RealCursorTest, AButtonUnderAClosedDialogIsLitUntilThePointerLeaves) {
     EXPECT_TRUE(GoesDark(Element(commands::paste)));
 }
 
+TEST_F(RealCursorTest, ACommandThatUsedUpTheNoticeOfLeavingIsFollowedByAnotherRequest) {
+    m_frame->onCommand = [&] {
+        PumpPending(); // the move that follows the end of the capture
+        TRACKMOUSEEVENT former{sizeof(former), TME_CANCEL | TME_LEAVE, Bar(), 0};
+        ASSERT_TRUE(::TrackMouseEvent(&former));
+        Bar().SendMessage(WM_MOUSELEAVE);
+    };
+    Click(commands::paste);
+    ASSERT_TRUE(Element(commands::paste).IsHighlighted());
+    MoveTo(OutsideBar());
+    EXPECT_TRUE(GoesDark(Element(commands::paste)));
+}
+
 class EditTipTest : public RealCursorTest {
 protected:
     EditTipTest() {

@@ -131,14 +131,19 @@ TEST_P(TooltipFrame, OneLineRunsRoundAllFourSides) {
 TEST_P(TooltipFrame, TheTextIsAsFarFromTheRightAsFromTheLeft) {
     Show(L"");
     const Picture picture(m_tooltip);
+    int last = picture.Width() - 1, lowest = picture.Height() - 1;
+    while (last > 0 && !picture.IsShown(last, picture.Height() / 2))
+        --last;
+    while (lowest > 0 && !picture.IsShown(picture.Width() / 2, lowest))
+        --lowest;
     int left = picture.Width(), right = picture.Width(), top = picture.Height(), bottom = picture.Height();
     for (int y = 3; y < picture.Height() - 3; ++y) {
         for (int x = 3; x < picture.Width() - 3; ++x) {
             if (Distance(picture.At(x, y), picture.At(2, y)) > 150) {
                 left = std::min(left, x);
-                right = std::min(right, picture.Width() - 1 - x);
+                right = std::min(right, last - x);
                 top = std::min(top, y);
-                bottom = std::min(bottom, picture.Height() - 1 - y);
+                bottom = std::min(bottom, lowest - y);
             }
         }
     }
