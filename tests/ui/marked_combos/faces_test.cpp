@@ -89,7 +89,7 @@ TYPED_TEST(Faces, WithAnEditBoxNoClickIsTheMarks) {
     this->Answer(allowed);
     for (const CRect& mark : this->MarksOf(combo))
         EXPECT_EQ(this->ToldAt(combo, mark.CenterPoint()), Told{});
-    if constexpr (this->isCheck)
+    if constexpr (TestFixture::isCheck)
         EXPECT_EQ(this->ChecksOf(combo), "?");
     else
         EXPECT_EQ(this->LightsOf(combo), "?");

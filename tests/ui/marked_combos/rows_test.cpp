@@ -91,7 +91,8 @@ TEST_F(ComboRows, AScaledRowsSwatchIsAsLargeAsTheScaledIconWhereTheRowHasRoomFor
         combo.SetItemInfo(0, orange, false, false);
         for (const int height : {40, one.icon, one.icon - 1, 18, 5}) {
             SCOPED_TRACE(height);
-            const int top = std::max(0, static_cast<int>(height / 2 - one.icon * 0.5));
+            const int middle = height / 2;
+            const int top = std::max(0, static_cast<int>(middle - one.icon * 0.5));
             const int side = std::min(top + one.icon, height) - top;
             const DrawnRow off(combo, 0, height);
             off.ExpectSwatch(CRect(3, top, 3 + side, top + side), orange);

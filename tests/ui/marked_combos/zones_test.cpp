@@ -68,7 +68,8 @@ TEST_P(ZoneEdges, TheSquaresOfAMultiCombosRowsAreThoseOfAnEditAreasHeight) {
     const int icon = GetParam().icon;
     ASSERT_EQ(ScaledIconSize(), icon);
     const int editHeight = combo.GetEditRect().Height();
-    const int top = std::max(0, static_cast<int>(editHeight / 2 - icon * 0.5));
+    const int middle = editHeight / 2;
+    const int top = std::max(0, static_cast<int>(middle - icon * 0.5));
     const int bottom = std::min(top + icon, editHeight);
     const int side = bottom - top;
     const int rowHeight = afxGlobalData.GetTextHeight();
