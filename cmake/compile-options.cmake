@@ -5,6 +5,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
 if(PROJECT_IS_TOP_LEVEL OR NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY) # else where the other project wants its programs
   set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 endif()
@@ -13,11 +14,13 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  # Precompiled headers and a second checkout share cached objects only with these settings. The cache lies beside the
-  # other things that were fetched, unless the user keeps one elsewhere.
+  # Precompiled headers and a second checkout share cached objects only with these settings. The cache is one for all
+  # checkouts of the user (scripts/cache-folder says where), so that a fresh clone finds what an older one compiled.
   set(ccache_folder "")
   if(NOT DEFINED ENV{CCACHE_DIR})
-    set(ccache_folder CCACHE_DIR=${PROJECT_SOURCE_DIR}/.deps/ccache)
+    execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/cache-folder ccache OUTPUT_VARIABLE ccache_folder
+                    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    set(ccache_folder CCACHE_DIR=${ccache_folder} CCACHE_MAXSIZE=5G)
   endif()
   set(ccache_launcher ${CMAKE_COMMAND} -E env ${ccache_folder} CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
       CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})

@@ -10,23 +10,32 @@ function(barwright_object_library name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE barwright_options PUBLIC barwright_usage boost_headers ${ARG_LIBS})
   target_compile_definitions(${name} PRIVATE BARWRIGHT_BUILD)
+  if(WIN32)
+    target_precompile_headers(${name} REUSE_FROM framework_prefix)
+  endif()
 endfunction()
 
-# barwright_test(NAME SOURCES... [LIBS ...] [LABELS ...] [DESKTOP] [ALONE] [SINGLE] [TIMEOUT s])
+# barwright_test(NAME SOURCES... [LIBS ...] [LABELS ...] [DESKTOP] [ALONE] [APART] [SINGLE] [TIMEOUT s])
 # DESKTOP: the test owns focus, cursor and foreground window, so no two such tests run at once.
 # ALONE: the test uses the real pointer or keyboard, or asks the system for the window under a point, so no other program
 # may show one meanwhile. A test that only must not lose the foreground links test_own_desktop instead and runs beside
 # others.
-# SINGLE: the whole program is one ctest entry instead of one entry per test case.
+# A suite of tests is one ctest entry and one process. APART: each case is one, because what they test happens once a
+# process. SINGLE: the whole program is one.
 function(barwright_test name)
-  include(GoogleTest)
-  cmake_parse_arguments(ARG "DESKTOP;ALONE;SINGLE" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "DESKTOP;ALONE;APART;SINGLE" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   if(NOT ARG_TIMEOUT)
-    set(ARG_TIMEOUT 120)
+    set(ARG_TIMEOUT 300)
   endif()
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE barwright_options boost_headers ${ARG_LIBS} GTest::gmock_main)
+  if(TARGET window_test_prefix AND ARG_LIBS MATCHES "framework|test_support|barwright|commands|varnhold|tovasque")
+    target_precompile_headers(${name} REUSE_FROM window_test_prefix)
+  else()
+    target_precompile_headers(${name} REUSE_FROM test_prefix)
+  endif()
+  target_compile_options(${name} PRIVATE -O0) # tests are compiled more often than they run
   if(TARGET framework)
     add_dependencies(${name} runtime_dlls)
   endif()
@@ -43,9 +52,19 @@ function(barwright_test name)
   if(ARG_SINGLE)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES ${properties})
-  else()
-    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
+    return()
   endif()
+  set(list ${CMAKE_CURRENT_BINARY_DIR}/${name}_suites.cmake)
+  file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${name}_discovery.cmake CONTENT
+"set(NAME ${name})
+set(PROGRAM $<TARGET_FILE:${name}>)
+set(EMULATOR ${CMAKE_CROSSCOMPILING_EMULATOR})
+set(LIST ${list})
+set(APART ${ARG_APART})
+set(PROPERTIES ${properties})
+include(${PROJECT_SOURCE_DIR}/cmake/discover_suites.cmake)
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}_discovery.cmake)
 endfunction()
 
 # Every folder below DIR that has a CMakeLists.txt of its own.

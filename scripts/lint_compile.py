@@ -4,7 +4,7 @@
 usage: lint_compile.py headers   every header compiles alone, twice in one file, and with warnings as errors
        lint_compile.py tidy [FOLDER...]   clang-tidy over every source, with the commands that the builds recorded
        lint_compile.py tidy FILE...       over these alone: a quick look, which is not remembered
-What passed is remembered below build/lint/ by the content of the file, of everything that it includes and of the settings.
+What passed is remembered in the user's cache (scripts/cache-folder), for every checkout, by the content of the file, of everything that it includes and of the settings.
 """
 import bisect
 import concurrent.futures
@@ -26,6 +26,7 @@ INCLUDE_ROOTS = ["platform/framework/include", "platform/varnhold/include", "pla
 INCLUDE = re.compile(rb'^\s*#\s*include\s+["<]([^">]+)[">]', re.M)
 BATCH = 12  # sources that clang-tidy reads in one go, at most about
 _content = {}
+CACHE = subprocess.run(["scripts/cache-folder", "lint"], check=True, capture_output=True, text=True).stdout.strip()
 
 
 def content_key(path, seen=None):
@@ -85,7 +86,7 @@ def headers():
     for compiler, paths in checks:
         command = [*compiler, *includes, "-fsyntax-only", "-x", "c++", "-"]
         jobs = [(path, command, f'#include "{path}"\n#include "{path}"\n') for path in paths]
-        failures += run_all(jobs, " ".join(command), "build/lint/headers")
+        failures += run_all(jobs, " ".join(command), os.path.join(CACHE, "headers"))
     return failures
 
 
@@ -247,7 +248,7 @@ def tidy(wanted):
     """wanted: folders, whose batches are checked whole, or files, checked alone; nothing for every source."""
     wanted = [os.path.normpath(path) for path in wanted]
     alone = bool(wanted) and all(os.path.isfile(path) for path in wanted)
-    folder, settings = "build/lint/tidy", open(".clang-tidy").read()
+    folder, settings = os.path.join(CACHE, "tidy"), open(".clang-tidy").read()
     os.makedirs(folder, exist_ok=True)
     made, left = batches(listed("*.cpp"))
     if left:
@@ -258,7 +259,8 @@ def tidy(wanted):
             jobs += [([path], flags, options, os.devnull) for path in paths if path in wanted]
         elif not wanted or any(path.startswith(tuple(folder + "/" for folder in wanted)) for path in paths):
             contents = [path + content_key(path) for path in paths]
-            stamp = os.path.join(folder, hashlib.sha256("".join([settings, *flags, *options, *contents]).encode()).hexdigest())
+            said = "".join([settings, *flags, *options, *contents]).replace(ROOT, ".")  # the same in every checkout
+            stamp = os.path.join(folder, hashlib.sha256(said.encode()).hexdigest())
             if not os.path.exists(stamp):
                 jobs.append((paths, flags, options, stamp))
     jobs.sort(key=lambda job: -sum(os.path.getsize(path) for path in job[0]))  # the longest first: no core waits at the end

@@ -1,0 +1,1 @@
+// Nothing of its own: this file is compiled for precompiled headers that others share.
