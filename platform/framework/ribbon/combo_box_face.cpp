@@ -7,7 +7,7 @@
 #include "core/scoped_change.h"
 #include "fx/dc_scope.h"
 #include "ribbon/element_metrics.h"
-#include "toolbar/row_text.h"
+#include "popups/row_text.h"
 
 #include <new>
 

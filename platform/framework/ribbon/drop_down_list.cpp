@@ -6,7 +6,7 @@
 
 #include "ribbon/keyboard.h"
 #include "toolbar/menu_row.h"
-#include "toolbar/row_text.h"
+#include "popups/row_text.h"
 
 #include <algorithm>
 #include <utility>

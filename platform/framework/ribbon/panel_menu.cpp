@@ -8,7 +8,7 @@
 #include "ribbon/element_metrics.h"
 #include "ribbon/keyboard.h"
 #include "ribbon/menu_geometry.h"
-#include "toolbar/menu_watch.h"
+#include "popups/menu_watch.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonPanelMenu, CMFCPopupMenu)
 

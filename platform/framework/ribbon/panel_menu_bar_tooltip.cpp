@@ -4,7 +4,7 @@
 #include "afxtooltipmanager.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/panel_menu_parts.h"
-#include "visual/tooltip_width.h"
+#include "popups/tooltip_width.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "afxbaseribbonelement.h"
 #include "afxframewndex.h"
 #include "afxvisualmanager.h"
-#include "toolbar/menu_watch.h"
+#include "popups/menu_watch.h"
 #include "toolbar/popup_parts.h"
 
 IMPLEMENT_DYNCREATE(CMFCPopupMenu, CMiniFrameWnd)

@@ -4,7 +4,7 @@
 #include "afxpopupmenu.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
-#include "toolbar/wheel_rows.h"
+#include "popups/wheel_rows.h"
 
 #include <algorithm>
 #include <cwctype>

@@ -7,7 +7,7 @@
 #include "fx/window_dc.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_parts.h"
-#include "toolbar/popup_place.h"
+#include "popups/popup_place.h"
 
 #include <algorithm>
 

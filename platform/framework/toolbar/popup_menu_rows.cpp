@@ -6,7 +6,7 @@
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
 #include "toolbar/menu_row.h"
-#include "toolbar/row_text.h"
+#include "popups/row_text.h"
 
 #include <algorithm>
 #include <utility>

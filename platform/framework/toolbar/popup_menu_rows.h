@@ -2,8 +2,8 @@
 
 #include "afxpopupmenubar.h"
 #include "fx/popup_rows.h"
-#include "toolbar/row_geometry.h"
-#include "toolbar/type_ahead.h"
+#include "popups/row_geometry.h"
+#include "popups/type_ahead.h"
 
 /// What a bar that is a list needs beside its rows.
 struct CMFCPopupMenuBar::Rows {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "afxpopupmenu.h"
-#include "toolbar/menu_shadow.h"
+#include "popups/menu_shadow.h"
 
 /// What a pop-up needs beside its bar.
 struct CMFCPopupMenu::Parts {

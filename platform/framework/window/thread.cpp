@@ -5,7 +5,7 @@
 #include "fx/exceptions.h"
 #include "fx/frame.h"
 #include "fx/gdi_objects.h"
-#include "toolbar/menu_watch.h"
+#include "popups/menu_watch.h"
 #include "window/message_map.h"
 #include "window/thread_state.h"
 #include "afxmsg_.h"

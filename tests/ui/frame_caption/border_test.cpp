@@ -1,4 +1,4 @@
-#include "window/frame_border.h"
+#include "frames/frame_border.h"
 
 #include <gtest/gtest.h>
 

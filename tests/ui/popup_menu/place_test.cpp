@@ -4,7 +4,7 @@
 
 #include "afxpopupmenu.h"
 
-#include "toolbar/popup_place.h"
+#include "popups/popup_place.h"
 
 using toolbar::PlacePopup;
 using toolbar::PopupRequest;

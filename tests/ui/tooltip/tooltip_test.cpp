@@ -4,8 +4,8 @@
 #include "afxglobals.h"
 #include "afxtooltipctrl.h"
 #include "afxtooltipmanager.h"
-#include "visual/tooltip_layout.h"
-#include "visual/tooltip_text.h"
+#include "popups/tooltip_layout.h"
+#include "popups/tooltip_text.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "toolbar/row_geometry.h"
+#include "popups/row_geometry.h"
 
 #include <gtest/gtest.h>
 

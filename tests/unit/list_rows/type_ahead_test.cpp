@@ -1,4 +1,4 @@
-#include "toolbar/type_ahead.h"
+#include "popups/type_ahead.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolbar/wheel_rows.h"
+#include "popups/wheel_rows.h"
 
 #include <gtest/gtest.h>
 

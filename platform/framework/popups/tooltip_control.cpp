@@ -4,8 +4,8 @@
 #include "afxdrawmanager.h"
 #include "afxglobals.h"
 #include "afxribbonbutton.h"
-#include "visual/tooltip_shape.h"
-#include "visual/tooltip_text.h"
+#include "popups/tooltip_shape.h"
+#include "popups/tooltip_text.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "toolbar/menu_watch.h"
+#include "popups/menu_watch.h"
 
 #include "afxpopupmenu.h"
 

@@ -1,4 +1,4 @@
-#include "toolbar/row_text.h"
+#include "popups/row_text.h"
 
 #include <windows.h>
 

@@ -1,7 +1,7 @@
 #include "afxvisualmanager.h"
 
-#include "visual/manager_look.h"
-#include "visual/menu_background.h"
+#include "managers/manager_look.h"
+#include "managers/menu_background.h"
 
 #include <afxbasepane.h>
 #include <afxcaptionbutton.h>

@@ -1,4 +1,4 @@
-#include "toolbar/menu_shadow.h"
+#include "popups/menu_shadow.h"
 
 #include "afxglobals.h"
 #include "afxvisualmanager.h"

@@ -1,4 +1,4 @@
-#include "toolbar/popup_place.h"
+#include "popups/popup_place.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "visual/tooltip_text.h"
+#include "popups/tooltip_text.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "afxvisualmanager.h"
 
 #include "afxtooltipctrl.h"
-#include "visual/manager_look.h"
+#include "managers/manager_look.h"
 
 using visual::ColorSlot;
 using visual::FaceSlot;

@@ -1,7 +1,7 @@
 #include "afxvisualmanager.h"
 
 #include "afxdrawmanager.h"
-#include "visual/manager_look.h"
+#include "managers/manager_look.h"
 
 #include <afxribbonpanelmenu.h>
 

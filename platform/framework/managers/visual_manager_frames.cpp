@@ -2,7 +2,7 @@
 #include "afxvisualmanageroffice2007.h"
 
 #include "fx/window_dc.h"
-#include "visual/manager_look.h"
+#include "managers/manager_look.h"
 
 #include <afxribbonbar.h>
 

@@ -7,8 +7,8 @@
 #include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
-#include "window/frame_border.h"
-#include "window/maximized_place.h"
+#include "frames/frame_border.h"
+#include "frames/maximized_place.h"
 
 namespace {
 

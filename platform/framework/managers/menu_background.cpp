@@ -1,4 +1,4 @@
-#include "visual/menu_background.h"
+#include "managers/menu_background.h"
 
 #include "afxpopupmenubar.h"
 

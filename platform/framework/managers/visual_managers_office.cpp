@@ -2,8 +2,8 @@
 
 #include "afxtooltipctrl.h"
 #include "afxpopupmenubar.h"
-#include "visual/manager_look.h"
-#include "visual/menu_background.h"
+#include "managers/manager_look.h"
+#include "managers/menu_background.h"
 #include "visual/system_skins.h"
 
 #include <afxribbonbar.h>

@@ -1,6 +1,6 @@
 #include "afxvisualmanager.h"
 
-#include "visual/manager_look.h"
+#include "managers/manager_look.h"
 
 #include <afxRibbonPanel.h>
 #include <afxribbonbar.h>

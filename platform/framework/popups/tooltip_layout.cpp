@@ -1,4 +1,4 @@
-#include "visual/tooltip_layout.h"
+#include "popups/tooltip_layout.h"
 
 #include <algorithm>
 

@@ -8,9 +8,9 @@
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
-#include "visual/tooltip_layout.h"
-#include "visual/tooltip_shape.h"
-#include "visual/tooltip_text.h"
+#include "popups/tooltip_layout.h"
+#include "popups/tooltip_shape.h"
+#include "popups/tooltip_text.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 
 #include "afxglobals.h"
 #include "afxvisualmanager.h"
-#include "visual/tooltip_width.h"
+#include "popups/tooltip_width.h"
 
 #include <algorithm>
 #include <array>
