@@ -20,8 +20,9 @@ void Fill(benchmark::State& state) {
     const auto count = static_cast<int>(state.range(0));
     for (auto _ : state) {
         g_window->Combo().RemoveAll();
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             g_window->Combo().AddItem(L"item", static_cast<DWORD_PTR>(i));
+        }
     }
     state.SetItemsProcessed(state.iterations() * count);
 }
@@ -31,8 +32,9 @@ void FillFloor(benchmark::State& state) {
     for (auto _ : state) {
         std::vector<std::pair<CString, DWORD_PTR>> copies[kCopies];
         for (int i = 0; i < count; ++i) {
-            for (auto& copy : copies)
+            for (auto& copy : copies) {
                 copy.emplace_back(L"item", static_cast<DWORD_PTR>(i));
+            }
         }
         benchmark::DoNotOptimize(copies);
     }
@@ -45,8 +47,9 @@ void SetStates(benchmark::State& state) {
     bool light = false;
     for (auto _ : state) {
         light = !light;
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             g_window->Combo().SetItemLight(i, light, false);
+        }
     }
     state.SetItemsProcessed(state.iterations() * count);
 }
@@ -58,8 +61,9 @@ void SetStatesFloor(benchmark::State& state) {
     for (auto _ : state) {
         light = !light;
         for (int i = 0; i < count; ++i) {
-            for (auto& copy : copies)
+            for (auto& copy : copies) {
                 copy[i].light = light;
+            }
         }
     }
     state.SetItemsProcessed(state.iterations() * count);
@@ -71,8 +75,9 @@ void SetChecks(benchmark::State& state) {
     bool check = false;
     for (auto _ : state) {
         check = !check;
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             g_window->CheckCombo().SetItemCheck(i, check);
+        }
     }
     state.SetItemsProcessed(state.iterations() * count);
 }
@@ -84,8 +89,9 @@ void SetChecksFloor(benchmark::State& state) {
     for (auto _ : state) {
         check = !check;
         for (int i = 0; i < count; ++i) {
-            for (auto& copy : copies)
+            for (auto& copy : copies) {
                 copy[i] = check;
+            }
         }
         benchmark::DoNotOptimize(copies);
     }
@@ -96,8 +102,9 @@ void Open(benchmark::State& state) {
     g_window->Fill(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         g_window->Combo().DropDownList();
-        if (!g_window->Combo().IsDroppedDown())
+        if (!g_window->Combo().IsDroppedDown()) {
             state.SkipWithError("no list is open");
+        }
         CMFCPopupMenu::CloseAll();
     }
 }
@@ -126,10 +133,12 @@ void PaintRows(benchmark::State& state) {
     const DrawCallCounter counter;
     paint();
     const long texts = counter.Calls().texts;
-    if (texts < kShownRows - 2 || texts > kShownRows + 2)
+    if (texts < kShownRows - 2 || texts > kShownRows + 2) {
         state.SkipWithError("the list does not paint as many rows as it shows");
-    for (auto _ : state)
+    }
+    for (auto _ : state) {
         paint();
+    }
     state.counters["texts"] = static_cast<double>(texts);
     CMFCPopupMenu::CloseAll();
 }

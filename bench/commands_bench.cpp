@@ -24,8 +24,9 @@ const std::vector<std::wstring>& Keywords() {
 
 void FillRegistry() {
     int id = 41000;
-    for (const std::wstring& keyword : Keywords())
+    for (const std::wstring& keyword : Keywords()) {
         CMenuIdMgr::Ins()->Add(keyword, id++, L"name", L"command", L"tooltip", L"parameter", L"help.swf");
+    }
 }
 
 void RegistryAdd(benchmark::State& state) {
@@ -83,8 +84,9 @@ template <class Map>
 void LookUpFloor(benchmark::State& state) {
     Map map;
     int id = 41000;
-    for (const std::wstring& keyword : Keywords())
+    for (const std::wstring& keyword : Keywords()) {
         map[keyword] = id++;
+    }
     std::recursive_mutex mutex;
     std::size_t at = 0;
     for (auto _ : state) {
@@ -102,10 +104,12 @@ protected:
 
 void Dispatch(benchmark::State& state) {
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
-    while (dispatcher->getReactors().size() < kReactors)
+    while (dispatcher->getReactors().size() < kReactors) {
         dispatcher->addReactor(boost::make_shared<CRefusingReactor>());
-    for (auto _ : state)
+    }
+    for (auto _ : state) {
         benchmark::DoNotOptimize(dispatcher->MenuClick(41000));
+    }
 }
 
 struct Handler {
@@ -123,13 +127,15 @@ __attribute__((noipa)) std::unique_ptr<Handler> MakeHandler() { return std::make
 void DispatchFloor(benchmark::State& state) {
     std::recursive_mutex mutex;
     std::vector<std::unique_ptr<Handler>> handlers;
-    for (int i = 0; i < kReactors; ++i)
+    for (int i = 0; i < kReactors; ++i) {
         handlers.push_back(MakeHandler());
+    }
     for (auto _ : state) {
         const std::lock_guard<std::recursive_mutex> lock(mutex);
         bool isHandled = false;
-        for (const auto& handler : handlers)
+        for (const auto& handler : handlers) {
             isHandled = isHandled || handler->Click(41000);
+        }
         benchmark::DoNotOptimize(isHandled);
     }
 }

@@ -26,8 +26,9 @@ void Load(benchmark::State& state) {
     const std::wstring file = L"cfg\\" + Scenario().AddRibbonFile(static_cast<std::size_t>(state.range(0)), kIconFiles);
     for (auto _ : state) {
         CAddRibbonBar builder;
-        if (!builder.Load(file, &g_frame->m_ribbon, 1))
+        if (!builder.Load(file, &g_frame->m_ribbon, 1)) {
             state.SkipWithError("the file could not be loaded");
+        }
         state.PauseTiming();
         g_frame->m_ribbon.RemoveAllCategories();
         CMenuIdMgr::Destroy();
@@ -39,15 +40,18 @@ void Load(benchmark::State& state) {
 void LoadFloor(benchmark::State& state) {
     Scenario().AddRibbonFile(100, kIconFiles);
     const std::wstring root = Scenario().Path().wstring() + L"\\pic\\modle\\";
-    for (auto _ : state)
-        for (const int side : {16, 32})
+    for (auto _ : state) {
+        for (const int side : {16, 32}) {
             for (std::size_t i = 0; i < kIconFiles; ++i) {
                 const std::wstring path = root + std::to_wstring(side) + L"\\icon" + std::to_wstring(i) + L".ico";
                 const HANDLE icon = ::LoadImage(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE);
-                if (!icon)
+                if (!icon) {
                     state.SkipWithError("an icon could not be loaded");
+                }
                 ::DestroyIcon(static_cast<HICON>(icon));
             }
+        }
+    }
 }
 
 class CLoadApp : public CBenchApp<CBenchFrame> {

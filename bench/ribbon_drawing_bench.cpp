@@ -39,8 +39,9 @@ class CPaintedFrame : public CBenchFrame {
 public:
     bool Make() override {
         ForgetPaints();
-        if (!CBenchFrame::Make())
+        if (!CBenchFrame::Make()) {
             return false;
+        }
         AddCategory(L"One");
         AddCategory(L"Two");
         m_ribbon.SetActiveCategory(m_ribbon.GetCategory(0));
@@ -60,8 +61,9 @@ protected:
     /// The frame may be wider than the screen.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         const LRESULT result = CFrameWndEx::WindowProc(message, wParam, lParam);
-        if (message == WM_GETMINMAXINFO)
+        if (message == WM_GETMINMAXINFO) {
             reinterpret_cast<MINMAXINFO*>(lParam)->ptMaxTrackSize = {4 * kWidth, 4 * kWidth};
+        }
         return result;
     }
 
@@ -140,12 +142,14 @@ DrawCalls CallsOf(const Action& action) {
     constexpr int runs = 4;
     DrawCalls calls{};
     for (int i = 0; i < runs; ++i) {
-        if (action.prepare)
+        if (action.prepare) {
             action.prepare();
+        }
         const DrawCallCounter counter;
         action.run();
-        if (i < runs / 2) // what happens every time, not what happens the first time
+        if (i < runs / 2) { // what happens every time, not what happens the first time
             continue;
+        }
         calls.imageLoads += counter.Calls().imageLoads;
         calls.icons += counter.Calls().icons;
         calls.texts += counter.Calls().texts;
@@ -184,9 +188,10 @@ void RunFloor(benchmark::State& state, const Action& action) {
             const int side = i % 2 == 0 ? 32 : 16;
             const CString file = IconPath(side, static_cast<int>(i / 2));
             const auto icon = static_cast<HICON>(::LoadImageW(nullptr, file, IMAGE_ICON, side, side, LR_LOADFROMFILE));
-            if (side == 16 && i / 2 < calls.icons)
+            if (side == 16 && i / 2 < calls.icons) {
                 ::DrawIconEx(memory.GetSafeHdc(), 16 * static_cast<int>(i / 2 % 90), 20, icon, side, side, 0, nullptr,
                              DI_NORMAL);
+            }
             ::DestroyIcon(icon);
         }
         for (long i = 0; i < calls.texts; ++i) {

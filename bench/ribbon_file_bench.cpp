@@ -24,8 +24,9 @@ void ReadFile(benchmark::State& state) {
     const std::wstring path = FileOf(state).wstring();
     for (auto _ : state) {
         RibbonRecords rows;
-        if (!LoadRibbonFile(path, rows, DroppedDiagnostics()))
+        if (!LoadRibbonFile(path, rows, DroppedDiagnostics())) {
             state.SkipWithError("the file could not be read");
+        }
         benchmark::DoNotOptimize(rows.top.data());
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
@@ -35,8 +36,9 @@ void ReadFileFloor(benchmark::State& state) {
     const std::filesystem::path path = FileOf(state);
     for (auto _ : state) {
         pugi::xml_document document;
-        if (!document.load_file(path.c_str()))
+        if (!document.load_file(path.c_str())) {
             state.SkipWithError("the file could not be read");
+        }
         benchmark::DoNotOptimize(document.document_element().internal_object());
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));

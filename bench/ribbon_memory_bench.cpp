@@ -65,8 +65,9 @@ protected:
         const double empty = WorkingSetInMegabytes();
         const GuiObjects objectsBefore = CountGuiObjects();
         CAddRibbonBar builder;
-        if (!builder.Load(file, &frame.m_ribbon, 1))
+        if (!builder.Load(file, &frame.m_ribbon, 1)) {
             return;
+        }
         frame.Settle();
         const double taken = WorkingSetInMegabytes() - empty;
         const long objects = CountGuiObjects().gdi - objectsBefore.gdi;

@@ -45,8 +45,9 @@ void CMFCPopupMenuBarEx::OnLButtonUp(UINT flags, CPoint point) {
     const HWND window = m_hWnd;
     if (m_notifyChild && row >= 0 && zone >= 0) {
         const bool isDone = m_notifyChild->NotifyChangeData(row, zone, ordinaryClick);
-        if (!::IsWindow(window))
+        if (!::IsWindow(window)) {
             return;
+        }
         if (isDone) {
             InvalidateRow(row);
             return;
@@ -61,8 +62,9 @@ void CMFCPopupMenuBarEx::OnLButtonDblClk(UINT flags, CPoint point) {
     const HWND window = m_hWnd;
     if (m_notifyChild && zone >= 0) {
         const bool isDone = m_notifyChild->NotifyChangeData(HitTest(point), zone, exclusiveClick);
-        if (!::IsWindow(window))
+        if (!::IsWindow(window)) {
             return;
+        }
         if (isDone) {
             Invalidate();
             return;
@@ -86,11 +88,13 @@ void CMFCCheckDropDown::OnParentComboDestroyed() {
 void CMFCCheckDropDown::OnSize(UINT type, int cx, int cy) {
     CMFCDropDownListBox::OnSize(type, cx, cy);
     // The height in which the list opens, or which it takes for another item, is no wish of the user's.
-    if (!IsShown() || IsInLayout())
+    if (!IsShown() || IsInLayout()) {
         return;
+    }
     CMFCRibbonBaseElement* const combo = GetParentRibbonElement();
-    if (auto* const check = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, combo))
+    if (auto* const check = DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, combo)) {
         check->SetStaticDropDownHeight(cy);
-    else if (auto* const multi = DYNAMIC_DOWNCAST(CMFCRibbonMultiCombo, combo))
+    } else if (auto* const multi = DYNAMIC_DOWNCAST(CMFCRibbonMultiCombo, combo)) {
         multi->SetStaticDropDownHeight(cy);
+    }
 }

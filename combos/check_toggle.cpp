@@ -8,10 +8,11 @@ std::vector<CheckChange> ToggleExclusive(int index, bool old, int itemCount) {
     const CheckNotice others = old ? CheckNotice::CheckedWithOthers : CheckNotice::UncheckedWithOthers;
     std::vector<CheckChange> changes;
     for (int i = 0; i < itemCount; ++i) {
-        if (i == index)
+        if (i == index) {
             changes.push_back({i, !old, false, CheckNotice::Unchecked});
-        else
+        } else {
             changes.push_back({i, old, true, others});
+        }
     }
     return changes;
 }

@@ -16,8 +16,9 @@ constexpr int mostCharacters = 400; // wider than any screen
 CString InOneLine(CString text) {
     text.Truncate(std::min(text.GetLength(), mostCharacters));
     for (int i = 0; i < text.GetLength(); ++i) {
-        if (text[i] < L' ')
+        if (text[i] < L' ') {
             text.SetAt(i, L' ');
+        }
     }
     return text;
 }
@@ -26,8 +27,9 @@ CString InOneLine(CString text) {
 
 HWND HostOf(const CMFCRibbonBaseElement& combo) {
     const CMFCRibbonBar* const bar = combo.GetTopLevelRibbonBar();
-    if (!bar || !bar->GetSafeHwnd())
+    if (!bar || !bar->GetSafeHwnd()) {
         return nullptr;
+    }
     const CWnd* const owner = bar->GetOwner();
     const HWND window = owner ? owner->GetSafeHwnd() : nullptr;
     return ::IsWindow(window) ? window : nullptr;
@@ -38,8 +40,9 @@ LRESULT TellHost(HWND host, UINT message, const CString& text, LPARAM lParam) {
 }
 
 void SelectRow(CMFCRibbonComboBox& combo, int index) {
-    if (index >= 0)
+    if (index >= 0) {
         combo.SelectItem(index);
+    }
 }
 
 CString TextOf(const CMFCRibbonComboBox& combo, int index) {
@@ -52,8 +55,9 @@ CString DisplayedTextOf(const CMFCRibbonComboBox& combo, int index) { return Dis
 
 void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const marks::Rect& place) {
     CRect rect = ToRect(place);
-    if (rect.IsRectEmpty())
+    if (rect.IsRectEmpty()) {
         return;
+    }
     const int mode = dc.SetBkMode(TRANSPARENT);
     dc.DrawText(InOneLine(DisplayedTextOf(combo, index)), &rect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     dc.SetBkMode(mode);
@@ -75,8 +79,9 @@ std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, c
 }
 
 void CoolPanelOf(const CMFCRibbonComboBox& combo) {
-    if (CMFCRibbonPanel* const panel = combo.GetParentPanel())
+    if (CMFCRibbonPanel* const panel = combo.GetParentPanel()) {
         panel->Highlight(FALSE, CPoint(-1, -1));
+    }
 }
 
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth) {
@@ -89,8 +94,9 @@ void ShowMarkChange(CMFCRibbonComboBox& combo, int index) {
 }
 
 void TellMarkChange(CMFCRibbonComboBox& combo, int index) {
-    if (index < 0 || index != combo.GetACCCurrentRow())
+    if (index < 0 || index != combo.GetACCCurrentRow()) {
         return;
+    }
     combo.NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
     combo.NotifyAccessibility(EVENT_OBJECT_DESCRIPTIONCHANGE); // the words stand there
 }

@@ -20,12 +20,14 @@ template <class Combo>
 std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
     std::vector<Combo*> found;
     CMFCRibbonBar* const bar = combo.GetTopLevelRibbonBar();
-    if (!bar)
+    if (!bar) {
         return found;
+    }
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
     bar->GetElementsByID(combo.GetID(), elements);
-    for (INT_PTR i = 0; i < elements.GetSize(); ++i)
+    for (INT_PTR i = 0; i < elements.GetSize(); ++i) {
         found.push_back(DYNAMIC_DOWNCAST(Combo, elements[i]));
+    }
     return found;
 }
 
@@ -57,19 +59,22 @@ struct MarkedComboState {
     static void RemoveAll(Combo& combo) {
         const std::weak_ptr<State> life = State::Of(combo);
         combo.RemoveAllItems(); // closes an open list, of which the host hears
-        if (!life.expired())
+        if (!life.expired()) {
             ChangeCopies(combo, [](Combo& copy) { copy.RemoveAll(); });
+        }
     }
     /// Takes over all that a copy of `src` has; without states when that is of another class.
     static void CopyFrom(Combo& combo, const CMFCRibbonBaseElement& src) {
         const std::weak_ptr<State> life = State::Of(combo);
         const auto* const source = DYNAMIC_DOWNCAST(Combo, &src);
         const bool isOther = source && source != &combo;
-        if (isOther)
+        if (isOther) {
             State::Of(combo)->TakeOver(*State::Of(*source));
+        }
         combo.CMFCRibbonComboBox::CopyFrom(src); // closes an open list, of which the host hears
-        if (!life.expired() && isOther)
+        if (!life.expired() && isOther) {
             TakeStaticHeight(combo);
+        }
     }
 
     // ---- the height that the lists of a class share
@@ -79,8 +84,9 @@ struct MarkedComboState {
         TakeStaticHeight(combo);
     }
     static void SetStaticHeight(Combo& combo, int height) {
-        if (!State::Of(combo)->usesStaticHeight)
+        if (!State::Of(combo)->usesStaticHeight) {
             return;
+        }
         Combo::m_nStaticDropDownHeight = height;
         combo.SetDropDownHeight(height);
     }
@@ -98,8 +104,9 @@ private:
     }
     static void TakeStaticHeight(Combo& combo) {
         if constexpr (requires { Combo::m_nStaticDropDownHeight; }) {
-            if (State::Of(combo)->usesStaticHeight)
+            if (State::Of(combo)->usesStaticHeight) {
                 combo.SetDropDownHeight(Combo::m_nStaticDropDownHeight);
+            }
         }
     }
 };

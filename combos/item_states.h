@@ -9,16 +9,18 @@ class ItemStates {
 public:
     /// False, and nothing changed, when the index is not that of an item.
     bool Set(int index, int itemCount, const State& state) {
-        if (!IsItem(index, itemCount))
+        if (!IsItem(index, itemCount)) {
             return false;
+        }
         m_states[index] = state;
         return true;
     }
     /// Changes a part of the state; a position without one starts with an empty one. False as for Set.
     template <class Change>
     bool Modify(int index, int itemCount, Change change) {
-        if (!IsItem(index, itemCount))
+        if (!IsItem(index, itemCount)) {
             return false;
+        }
         change(m_states[index]);
         return true;
     }
@@ -28,8 +30,9 @@ public:
     /// False, and `state` untouched, when the position has none; whether there is an item plays no part.
     bool Get(int index, State& state) const {
         const auto found = m_states.find(index);
-        if (found == m_states.end())
+        if (found == m_states.end()) {
             return false;
+        }
         state = found->second;
         return true;
     }

@@ -22,14 +22,16 @@ HBITMAP BitmapOf(int side, LightState state) {
     info.bmiHeader.biBitCount = 32;
     void* bits = nullptr;
     const HBITMAP bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    if (bitmap)
+    if (bitmap) {
         std::ranges::copy(DrawLightPicture(side, state), static_cast<std::uint32_t*>(bits));
+    }
     return bitmap;
 }
 
 void Fill(CImageList& list, int side) {
-    if (!list.Create(side, side, ILC_COLOR32, 2, 0))
+    if (!list.Create(side, side, ILC_COLOR32, 2, 0)) {
         return;
+    }
     for (const LightState state : {LightState::On, LightState::Off}) {
         const HBITMAP bitmap = BitmapOf(side, state);
         ::ImageList_Add(list.GetSafeHandle(), bitmap, nullptr);
@@ -55,8 +57,9 @@ public:
         CImageList& shared = CQkMfc::Ins()->m_imageList;
         const int side = MarkSizes::Current().icon;
         // The icons may have become larger since.
-        if (side != m_side && AreIn(shared))
+        if (side != m_side && AreIn(shared)) {
             shared.DeleteImageList();
+        }
         if (!shared.GetSafeHandle()) {
             Fill(shared, side);
             m_side = side;
@@ -70,8 +73,9 @@ public:
     }
     CImageList& OfSize(int side) {
         CImageList& list = m_bySize[side];
-        if (!list.GetSafeHandle())
+        if (!list.GetSafeHandle()) {
             Fill(list, side);
+        }
         return list;
     }
 
@@ -93,8 +97,9 @@ void DrawLightScaled(CDC& dc, const marks::Rect& place, LightState state) {
         DrawLight(dc, place, state);
         return;
     }
-    if (place.IsEmpty())
+    if (place.IsEmpty()) {
         return;
+    }
     OwnPictures& own = OwnPictures::Ins();
     CImageList& shared = own.SharedList();
     if (own.AreIn(shared)) {
@@ -103,8 +108,9 @@ void DrawLightScaled(CDC& dc, const marks::Rect& place, LightState state) {
     }
     // The image list itself does not stretch.
     const HICON icon = ::ImageList_GetIcon(shared.GetSafeHandle(), IndexOf(state), ILD_TRANSPARENT);
-    if (!icon)
+    if (!icon) {
         return;
+    }
     const fx::PictureScope scope(dc, CRect(place.left, place.top, place.right, place.bottom));
     ::DrawIconEx(dc.GetSafeHdc(), scope.Corner().x, scope.Corner().y, icon, place.Width(), place.Height(), 0, nullptr,
                  DI_NORMAL);

@@ -59,8 +59,9 @@ struct Shape {
     /// Pixels from the glass's edge, negative inside.
     double FromGlass(double x, double y) const {
         const double fromBall = std::hypot(x - centerX, y - glassY) - radius;
-        if (y < neckTop || y > socketTop)
+        if (y < neckTop || y > socketTop) {
             return y > socketTop ? std::max(fromBall, y - socketTop) : fromBall;
+        }
         const double part = (y - neckTop) / std::max(0.001, socketTop - neckTop);
         const double wide = std::sqrt(std::max(0.0, radius * radius - (neckTop - glassY) * (neckTop - glassY)));
         const double half = wide + (socketHalf - wide) * part * (2 - part);
@@ -71,8 +72,9 @@ struct Shape {
         const double round = std::min(socketHalf, (socketBottom - socketTop) * 0.5);
         const double outX = std::abs(x - centerX) - (socketHalf - round);
         const double outY = y - (socketBottom - round);
-        if (outX > 0 && outY > 0)
+        if (outX > 0 && outY > 0) {
             return std::hypot(outX, outY) - round;
+        }
         return std::max({std::abs(x - centerX) - socketHalf, y - socketBottom, socketTop - y});
     }
 
@@ -94,8 +96,9 @@ struct Sample {
 };
 
 Sample GlassAt(const Shape& shape, const Tones& tones, double x, double y, double depth) {
-    if (depth < shape.outline)
+    if (depth < shape.outline) {
         return {tones.outline, 1};
+    }
     // Light comes from the upper left.
     const double fromShine =
         std::hypot(x - (shape.centerX - shape.radius * 0.3), y - (shape.glassY - shape.radius * 0.35)) / shape.radius;
@@ -113,11 +116,13 @@ Sample SocketAt(const Shape& shape, const Tones& tones, double x, double y, doub
 
 Sample SampleAt(const Shape& shape, const Tones& tones, double x, double y) {
     const double fromGlass = shape.FromGlass(x, y);
-    if (fromGlass <= 0)
+    if (fromGlass <= 0) {
         return GlassAt(shape, tones, x, y, -fromGlass);
+    }
     const double fromSocket = shape.FromSocket(x, y);
-    if (fromSocket <= 0)
+    if (fromSocket <= 0) {
         return SocketAt(shape, tones, x, y, -fromSocket);
+    }
     // The glow ends at the picture's side.
     const double reach = shape.size / 2.0 - shape.radius;
     const double fromBall = std::hypot(x - shape.centerX, y - shape.glassY) - shape.radius;
@@ -141,8 +146,9 @@ std::uint32_t PixelAt(const Shape& shape, const Tones& tones, int column, int ro
         }
     }
     const std::uint32_t alpha = Byte(255 * sum.alpha / (samples * samples));
-    if (alpha == 0)
+    if (alpha == 0) {
         return 0;
+    }
     return alpha << 24 | Byte(sum.color.red / sum.alpha) << 16 | Byte(sum.color.green / sum.alpha) << 8 |
            Byte(sum.color.blue / sum.alpha);
 }
@@ -151,14 +157,16 @@ std::uint32_t PixelAt(const Shape& shape, const Tones& tones, int column, int ro
 
 std::vector<std::uint32_t> DrawLightPicture(int side, LightState state) {
     std::vector<std::uint32_t> pixels;
-    if (side < 1)
+    if (side < 1) {
         return pixels;
+    }
     const Shape shape(side);
     const Tones& tones = state == LightState::On ? onTones : offTones;
     pixels.reserve(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
     for (int row = 0; row < side; ++row) {
-        for (int column = 0; column < side; ++column)
+        for (int column = 0; column < side; ++column) {
             pixels.push_back(PixelAt(shape, tones, column, row));
+        }
     }
     return pixels;
 }

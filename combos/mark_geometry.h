@@ -32,13 +32,15 @@ int Scaled(int length, double scale);
 /// for every row. -1 outside of all of them.
 template <class Zone>
 int ZoneAt(const std::vector<Zone>& zones, int x, int y, int rowHeight) {
-    if (rowHeight <= 0)
+    if (rowHeight <= 0) {
         return -1;
+    }
     const int yInRow = y % rowHeight;
     for (std::size_t i = 0; i < zones.size(); ++i) {
         const Zone& zone = zones[i];
-        if (x >= zone.left && x < zone.right && yInRow >= zone.top && yInRow < zone.bottom)
+        if (x >= zone.left && x < zone.right && yInRow >= zone.top && yInRow < zone.bottom) {
             return static_cast<int>(i);
+        }
     }
     return -1;
 }

@@ -22,16 +22,18 @@ double MarkScale() {
 
 void ScaleCheckBoxOnce() {
     MarkSizes& sizes = MarkSizes::Current();
-    if (sizes.isCheckBoxScaled || MarkScale() <= 1.0)
+    if (sizes.isCheckBoxScaled || MarkScale() <= 1.0) {
         return;
+    }
     sizes.checkBox = marks::Scaled(sizes.checkBox, MarkScale());
     sizes.isCheckBoxScaled = true;
 }
 
 void EnlargeIconOnce() {
     MarkSizes& sizes = MarkSizes::Current();
-    if (!std::exchange(sizes.isIconFixed, true) && MarkScale() > 1.0)
+    if (!std::exchange(sizes.isIconFixed, true) && MarkScale() > 1.0) {
         sizes.icon = enlargedIcon;
+    }
 }
 
 int ScaledIconSize() { return marks::Scaled(MarkSizes::Current().icon, MarkScale()); }

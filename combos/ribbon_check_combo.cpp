@@ -82,8 +82,9 @@ INT_PTR CMFCRibbonCheckComb::AddItem(LPCTSTR text, DWORD_PTR data) {
 void CMFCRibbonCheckComb::RemoveAll() { State::RemoveAll(*this); }
 
 bool CMFCRibbonCheckComb::SetItemCheck(int index, bool check) {
-    if (!m_state->rows.Set(index, CountOf(*this), check))
+    if (!m_state->rows.Set(index, CountOf(*this), check)) {
         return false;
+    }
     State::ChangeCopies(*this, [index, check](CMFCRibbonCheckComb& copy) { copy.SetItemCheck(index, check); });
     return true;
 }
@@ -103,8 +104,9 @@ void CMFCRibbonCheckComb::UserStaticDropDownHeight(bool use) { State::UseStaticH
 void CMFCRibbonCheckComb::SetStaticDropDownHeight(int height) { State::SetStaticHeight(*this, height); }
 
 void CMFCRibbonCheckComb::DropDownList() {
-    if (!BeginDropDown())
+    if (!BeginDropDown()) {
         return;
+    }
     State::PrepareToDrop(*this);
     OpenDropDown(m_rect.Width());
 }
@@ -118,8 +120,9 @@ std::unique_ptr<CMFCDropDownListBox> CMFCRibbonCheckComb::MakeDropDownList() {
 
 bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusive) {
     const HWND host = HostOf(*this);
-    if (!host)
+    if (!host) {
         return false;
+    }
     const bool old = m_state->rows.GetOrEmpty(index);
     if (!exclusive) {
         const CheckChange change = ToggleOne(index, old);
@@ -132,13 +135,16 @@ bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusi
     const std::weak_ptr<State> life = m_state;
     for (const CheckChange& change : ToggleExclusive(index, old, CountOf(*this))) {
         // The host may have taken items away since.
-        if (!SetItemCheck(change.index, change.check))
+        if (!SetItemCheck(change.index, change.check)) {
             break;
-        if (!change.isTold)
+        }
+        if (!change.isTold) {
             continue;
+        }
         TellHost(host, WM_COMBO_CHECK_CHANGED, TextOf(*this, change.index), static_cast<LPARAM>(change.notice));
-        if (life.expired())
+        if (life.expired()) {
             return true;
+        }
     }
     State::ShowChangeOfAll(*this);
     return true;
@@ -147,8 +153,9 @@ bool CMFCRibbonCheckComb::NotifyChangeData(int index, int /*zone*/, bool exclusi
 BOOL CMFCRibbonCheckComb::OnToggleDropListItem(int index) { return NotifyChangeData(index, boxZone, false); }
 
 void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return;
+    }
     const HWND host = HostOf(*this);
     const CRect edit = GetEditRect();
     const marks::Rect zone = marks::CheckFaceZone(FromRect(edit), MarkSizes::Current().checkBox);
@@ -190,16 +197,19 @@ CString CMFCRibbonCheckComb::GetShownItemText(int index) const { return Displaye
 
 BOOL CMFCRibbonCheckComb::SetACCData(CWnd* parent, CAccessibilityData& data) {
     const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0)
+    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0) {
         AddWords(data, m_state->WordsFor(row));
+    }
     return isDescribed;
 }
 
 BOOL CMFCRibbonCheckComb::SetACCRowData(int row, CAccessibilityData& data) {
-    if (!CMFCRibbonComboBox::SetACCRowData(row, data))
+    if (!CMFCRibbonComboBox::SetACCRowData(row, data)) {
         return FALSE;
-    if (m_state->rows.GetOrEmpty(row))
+    }
+    if (m_state->rows.GetOrEmpty(row)) {
         data.m_nState |= STATE_SYSTEM_CHECKED;
+    }
     AddWords(data, m_state->WordsFor(row));
     return TRUE;
 }

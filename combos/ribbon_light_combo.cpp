@@ -42,10 +42,12 @@ INT_PTR CMFCRibbonVesMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
 void CMFCRibbonVesMultiCombo::RemoveAll() { State::RemoveAll(*this); }
 
 bool CMFCRibbonVesMultiCombo::SetItemLight(int index, bool light, bool redraw) {
-    if (!m_state->rows.Set(index, CountOf(*this), light))
+    if (!m_state->rows.Set(index, CountOf(*this), light)) {
         return false;
-    if (redraw)
+    }
+    if (redraw) {
         ShowMarkChange(*this, index);
+    }
     State::ChangeCopies(*this, [=](CMFCRibbonVesMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
     return true;
 }
@@ -67,8 +69,9 @@ std::wstring CMFCRibbonVesMultiCombo::findTypeKeyNameByIndex(int index) const { 
 // ---- the list
 
 void CMFCRibbonVesMultiCombo::DropDownList() {
-    if (!BeginDropDown())
+    if (!BeginDropDown()) {
         return;
+    }
     State::PrepareToDrop(*this);
     OpenDropDown(m_rect.Width());
 }
@@ -81,16 +84,18 @@ std::unique_ptr<CMFCDropDownListBox> CMFCRibbonVesMultiCombo::MakeDropDownList()
 
 bool CMFCRibbonVesMultiCombo::NotifyChangeData(int index, int zone, bool /*exclusive*/) {
     const HWND host = HostOf(*this);
-    if (!host || zone != lightZone)
+    if (!host || zone != lightZone) {
         return false;
+    }
     const bool light = !m_state->rows.GetOrEmpty(index);
     const bool isHeard = index == GetACCCurrentRow(); // of the light, before the item is selected
     SetItemLight(index, light, true);
     SelectRow(*this, index);
-    if (isHeard)
+    if (isHeard) {
         RedrawItem(index);
-    else
+    } else {
         ShowMarkChange(*this, index);
+    }
     TellHost(host, WM_VESCOMBO_LIGHT_CHANGED, TextOf(*this, index), light ? 1 : 0);
     return true;
 }
@@ -98,8 +103,9 @@ bool CMFCRibbonVesMultiCombo::NotifyChangeData(int index, int zone, bool /*exclu
 BOOL CMFCRibbonVesMultiCombo::OnToggleDropListItem(int index) { return NotifyChangeData(index, lightZone, false); }
 
 void CMFCRibbonVesMultiCombo::OnLButtonDown(CPoint point) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return;
+    }
     const HWND host = HostOf(*this);
     const CRect edit = GetEditRect();
     const marks::LightRow place = marks::PlaceLightRow(FromRect(edit), MarkSizes::Current().icon);
@@ -135,14 +141,16 @@ CString CMFCRibbonVesMultiCombo::GetShownItemText(int index) const { return Disp
 
 BOOL CMFCRibbonVesMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
     const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0)
+    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0) {
         AddWords(data, m_state->WordsFor(row));
+    }
     return isDescribed;
 }
 
 BOOL CMFCRibbonVesMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
-    if (!CMFCRibbonComboBox::SetACCRowData(row, data))
+    if (!CMFCRibbonComboBox::SetACCRowData(row, data)) {
         return FALSE;
+    }
     AddWords(data, m_state->WordsFor(row));
     return TRUE;
 }

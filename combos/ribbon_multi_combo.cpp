@@ -67,10 +67,12 @@ INT_PTR CMFCRibbonMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
 void CMFCRibbonMultiCombo::RemoveAll() { State::RemoveAll(*this); }
 
 bool CMFCRibbonMultiCombo::SetItemClr(int index, const COLORREF& clr, bool redraw) {
-    if (!m_state->rows.Modify(index, CountOf(*this), [clr](rowInfo& info) { info.clr = clr; }))
+    if (!m_state->rows.Modify(index, CountOf(*this), [clr](rowInfo& info) { info.clr = clr; })) {
         return false;
-    if (redraw)
+    }
+    if (redraw) {
         ShowMarkChange(*this, index);
+    }
     State::ChangeCopies(*this, [=](CMFCRibbonMultiCombo& copy) { copy.SetItemClr(index, clr, redraw); });
     return true;
 }
@@ -81,17 +83,20 @@ bool CMFCRibbonMultiCombo::SetItemClr(const wchar_t* text, const COLORREF& clr, 
 
 bool CMFCRibbonMultiCombo::GetItemClr(int index, COLORREF& clr) const {
     rowInfo info;
-    if (!m_state->rows.Get(index, info))
+    if (!m_state->rows.Get(index, info)) {
         return false;
+    }
     clr = info.clr;
     return true;
 }
 
 bool CMFCRibbonMultiCombo::SetItemLight(int index, bool light, bool redraw) {
-    if (!m_state->rows.Modify(index, CountOf(*this), [light](rowInfo& info) { info.light = light; }))
+    if (!m_state->rows.Modify(index, CountOf(*this), [light](rowInfo& info) { info.light = light; })) {
         return false;
-    if (redraw)
+    }
+    if (redraw) {
         ShowMarkChange(*this, index);
+    }
     State::ChangeCopies(*this, [=](CMFCRibbonMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
     return true;
 }
@@ -102,8 +107,9 @@ bool CMFCRibbonMultiCombo::SetItemLight(const wchar_t* text, bool light, bool re
 
 bool CMFCRibbonMultiCombo::GetItemLight(int index, bool& light) const {
     rowInfo info;
-    if (!m_state->rows.Get(index, info))
+    if (!m_state->rows.Get(index, info)) {
         return false;
+    }
     light = info.light;
     return true;
 }
@@ -138,8 +144,9 @@ void CMFCRibbonMultiCombo::UserStaticDropDownHeight(bool use) { State::UseStatic
 void CMFCRibbonMultiCombo::SetStaticDropDownHeight(int height) { State::SetStaticHeight(*this, height); }
 
 void CMFCRibbonMultiCombo::DropDownList() {
-    if (!BeginDropDown())
+    if (!BeginDropDown()) {
         return;
+    }
     State::PrepareToDrop(*this);
     OpenDropDown(m_rect.Width());
 }
@@ -155,14 +162,16 @@ bool CMFCRibbonMultiCombo::AskForLight(HWND host, const CString& text, int index
     const std::weak_ptr<State> life = m_state;
     const bool wanted = !m_state->rows.GetOrEmpty(index).light;
     const bool isAllowed = TellHost(host, WM_COMBO_LIGHT_CHANGED, text, wanted ? 1 : 0) != 0;
-    if (life.expired())
+    if (life.expired()) {
         return false;
+    }
     // This element's light only, in whatever colour the host has given it meanwhile.
     const bool isChanged =
         isAllowed && m_state->rows.Modify(index, CountOf(*this), [wanted](rowInfo& info) { info.light = wanted; });
     RedrawItem(index);
-    if (isChanged)
+    if (isChanged) {
         TellMarkChange(*this, index);
+    }
     return true;
 }
 
@@ -173,8 +182,9 @@ void CMFCRibbonMultiCombo::AskForColor(HWND host, int index) const {
 
 bool CMFCRibbonMultiCombo::NotifyChangeData(int index, int zone, bool /*exclusive*/) {
     const HWND host = HostOf(*this);
-    if (!host)
+    if (!host) {
         return false;
+    }
     switch (zone) {
     case swatchZone:
         SelectRow(*this, index);
@@ -190,8 +200,9 @@ bool CMFCRibbonMultiCombo::NotifyChangeData(int index, int zone, bool /*exclusiv
         SelectRow(*this, index);
         const std::weak_ptr<State> life = m_state;
         TellHost(host, WM_COMBO_ITEM_ACTION, TextOf(*this, index), 1);
-        if (!life.expired())
+        if (!life.expired()) {
             Redraw();
+        }
         return true;
     }
     default:
@@ -201,31 +212,35 @@ bool CMFCRibbonMultiCombo::NotifyChangeData(int index, int zone, bool /*exclusiv
 
 // As a click on the light; with Shift as one on the swatch, which chooses the row.
 BOOL CMFCRibbonMultiCombo::OnToggleDropListItem(int index) {
-    if (::GetKeyState(VK_SHIFT) >= 0)
+    if (::GetKeyState(VK_SHIFT) >= 0) {
         return NotifyChangeData(index, lightZone, false);
+    }
     const std::weak_ptr<State> life = m_state;
     if (!NotifyChangeData(index, swatchZone, false)) {
         ClosePopupMenu();
-        if (!life.expired())
+        if (!life.expired()) {
             OnSelectItem(index);
+        }
     }
     return TRUE;
 }
 
 void CMFCRibbonMultiCombo::OnLButtonDown(CPoint point) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return;
+    }
     const HWND host = HostOf(*this);
     const CRect edit = GetEditRect();
     const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(edit), ScaledIconSize());
-    if (HasEditBox() || !host || !edit.PtInRect(point))
+    if (HasEditBox() || !host || !edit.PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
-    else if (ToRect(place.light).PtInRect(point))
+    } else if (ToRect(place.light).PtInRect(point)) {
         AskForLight(host, GetEditText(), GetCurSel());
-    else if (ToRect(place.swatch).PtInRect(point))
+    } else if (ToRect(place.swatch).PtInRect(point)) {
         AskForColor(host, GetCurSel());
-    else
+    } else {
         CMFCRibbonComboBox::OnLButtonDown(point);
+    }
 }
 
 // ---- drawing
@@ -251,14 +266,16 @@ CString CMFCRibbonMultiCombo::GetShownItemText(int index) const { return Display
 
 BOOL CMFCRibbonMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
     const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0)
+    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0) {
         AddWords(data, m_state->WordsFor(row));
+    }
     return isDescribed;
 }
 
 BOOL CMFCRibbonMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
-    if (!CMFCRibbonComboBox::SetACCRowData(row, data))
+    if (!CMFCRibbonComboBox::SetACCRowData(row, data)) {
         return FALSE;
+    }
     AddWords(data, m_state->WordsFor(row));
     return TRUE;
 }

@@ -37,12 +37,14 @@ private:
 /// looked for when `self` is itself a copy being changed. An operation may be the end of any element.
 template <class Element, class FlagOf, class FindCopies, class Operation>
 void SynchroniseCopies(Element& self, FlagOf flagOf, FindCopies findCopies, Operation operation) {
-    if (flagOf(self).IsSet())
+    if (flagOf(self).IsSet()) {
         return;
+    }
     std::vector<std::pair<Element*, std::weak_ptr<bool>>> copies;
     for (Element* copy : findCopies()) {
-        if (copy != nullptr && copy != &self)
+        if (copy != nullptr && copy != &self) {
             copies.emplace_back(copy, flagOf(*copy).Watch());
+        }
     }
     for (const auto& [copy, flag] : copies) {
         if (std::shared_ptr<bool> isSet = flag.lock()) {

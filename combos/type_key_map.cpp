@@ -1,13 +1,15 @@
 #include "combos/type_key_map.h"
 
 void TypeKeyMap::Set(const std::map<std::wstring, int>& indexes) {
-    if (&indexes == &m_indexes)
+    if (&indexes == &m_indexes) {
         return;
+    }
     m_indexes = indexes;
     m_keys.clear();
     // In key order, so that the first key of an index stays.
-    for (const auto& [key, index] : m_indexes)
+    for (const auto& [key, index] : m_indexes) {
         m_keys.try_emplace(index, key);
+    }
 }
 
 int TypeKeyMap::FindIndex(const std::wstring& key) const {

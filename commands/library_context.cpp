@@ -34,8 +34,9 @@ std::wstring RecordedMediaFolder() {
         afxGlobalData.bIsWow6432Node ? L"Software\\Wow6432Node\\HALVORN\\Tessaly\\" : L"Software\\HALVORN\\Tessaly\\";
     CKey key;
     std::wstring folder;
-    if (key.Open(HKEY_LOCAL_MACHINE, keyPath))
+    if (key.Open(HKEY_LOCAL_MACHINE, keyPath)) {
         key.GetStringValue(L"FlashPath", folder);
+    }
     return MediaFolderOf(folder);
 }
 

@@ -28,8 +28,9 @@ bool CMenuEvtHandleMgr::AskInOrder(Question question) const {
     xrecursive_mutex::scoped_lock lock(m_mutex);
     // By index and with the length read again each time: a reactor may append another one.
     for (std::size_t i = 0; i < m_reactors.size(); ++i) {
-        if (question(*m_reactors[i]))
+        if (question(*m_reactors[i])) {
             return true;
+        }
     }
     return false;
 }

@@ -9,8 +9,9 @@ namespace {
 template <class Map>
 bool CopyValue(const Map& map, const typename Map::key_type& key, typename Map::mapped_type& value) {
     const auto found = map.find(key);
-    if (found == map.end())
+    if (found == map.end()) {
         return false;
+    }
     value = found->second;
     return true;
 }
@@ -18,8 +19,9 @@ bool CopyValue(const Map& map, const typename Map::key_type& key, typename Map::
 } // namespace
 
 CMenuIdMgr* CMenuIdMgr::Ins() {
-    if (!s_pMenuMgr)
+    if (!s_pMenuMgr) {
         s_pMenuMgr = new CMenuIdMgr;
+    }
     xrecursive_mutex::scoped_lock lock(m_mutex);
     return s_pMenuMgr;
 }
@@ -32,8 +34,9 @@ void CMenuIdMgr::Destroy() {
 
 void CMenuIdMgr::Add(const std::wstring& keyword, int id, const std::wstring& name, const std::wstring& cmd,
                      const std::wstring& toolTip, const std::wstring& param, const std::wstring& helpFile) {
-    if (keyword.empty())
+    if (keyword.empty()) {
         return;
+    }
     xrecursive_mutex::scoped_lock lock(m_mutex);
     m_idByKeyword[keyword] = id;
     m_nameByKeyword[keyword] = name;
@@ -71,18 +74,21 @@ bool CMenuIdMgr::GetHelpFile(const int& id, std::wstring& helpFile) const {
 
 void CMenuIdMgr::SetHelpFile(int id, const std::wstring& helpFile) {
     const auto found = m_recordById.find(id);
-    if (found != m_recordById.end() && found->second.helpFile.empty())
+    if (found != m_recordById.end() && found->second.helpFile.empty()) {
         found->second.helpFile = helpFile;
+    }
 }
 
 bool CMenuIdMgr::GetFilledText(int id, std::wstring MenuIdRecord::*field, std::wstring& text) const {
     xrecursive_mutex::scoped_lock lock(m_mutex);
     const auto found = m_recordById.find(id);
-    if (found == m_recordById.end())
+    if (found == m_recordById.end()) {
         return false;
+    }
     const std::wstring& stored = found->second.*field;
-    if (stored.empty())
+    if (stored.empty()) {
         return false;
+    }
     text = stored;
     return true;
 }

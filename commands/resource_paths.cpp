@@ -8,9 +8,11 @@ std::wstring IconFileBelow(const std::wstring& appDirectory, const std::wstring&
 
 std::wstring MediaFolderOf(const std::wstring& recordedFolder) {
     std::wstring folder = recordedFolder;
-    if (folder.size() >= 2 && folder.back() != L'\\')
+    if (folder.size() >= 2 && folder.back() != L'\\') {
         folder += L'\\';
-    if (!folder.empty())
+    }
+    if (!folder.empty()) {
         folder += L"Media\\";
+    }
     return folder;
 }

@@ -29,22 +29,26 @@ FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics());
 
 CAddRibbonBar::CAddRibbonBar() {
     std::wstring directory;
-    if (m_sAppPath.IsEmpty() && FileOp::GetAppPath(directory))
+    if (m_sAppPath.IsEmpty() && FileOp::GetAppPath(directory)) {
         m_sAppPath = wstring2CString(directory);
+    }
 }
 
 bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show) {
-    if (path.empty())
+    if (path.empty()) {
         return false;
+    }
     // The caller may have passed m_cfgPath itself.
     const std::wstring newPath = path; // NOLINT(performance-unnecessary-copy-initialization)
     m_cfgPath.clear();
     m_cmdList.clear();
-    if (!bar)
+    if (!bar) {
         return false;
+    }
     std::wstring directory;
-    if (!FileOp::GetAppPath(directory))
+    if (!FileOp::GetAppPath(directory)) {
         return false;
+    }
     const std::wstring fullPath = directory + newPath;
     RibbonRecords rows;
     if (!LoadRibbonFile(fullPath, rows, DroppedDiagnostics())) {
@@ -54,36 +58,41 @@ bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show)
 
     m_cfgPath = newPath;
     const int countBefore = bar->GetCategoryCount();
-    for (const RibbonRecord& row : rows.top)
+    for (const RibbonRecord& row : rows.top) {
         AddRow(row, *bar);
+    }
     const int countAfter = bar->GetCategoryCount();
     if (countAfter > countBefore) {
         m_firstAddedCategory = countBefore;
         m_lastAddedCategory = countAfter - 1;
     }
-    if (show == 0)
+    if (show == 0) {
         HideAddedCategories(*bar);
-    else
+    } else {
         ShowQuickAccessCommands(*bar);
+    }
     return true;
 }
 
 void CAddRibbonBar::AddRow(const RibbonRecord& row, CMFCRibbonBar& bar) {
     switch (KindOfRow(row.info.keyword)) {
     case RibbonRowKind::QuickAccess:
-        for (const RibbonRecord& item : row.children)
+        for (const RibbonRecord& item : row.children) {
             m_qaKeywords.emplace_back(item.info.keyword);
+        }
         break;
     case RibbonRowKind::StatusButtons: {
         std::vector<_RibbonInfo> buttons;
-        for (const RibbonRecord& button : row.children)
+        for (const RibbonRecord& button : row.children) {
             buttons.push_back(ToRibbonInfo(button.info));
+        }
         m_smStatusExBtns[m_cfgPath] = {std::wstring(row.info.keyword), std::move(buttons)};
         break;
     }
     case RibbonRowKind::Categories:
-        for (const RibbonRecord& category : row.children)
+        for (const RibbonRecord& category : row.children) {
             AddCategory(category, bar);
+        }
         break;
     }
 }
@@ -96,32 +105,39 @@ void CAddRibbonBar::AddCategory(const RibbonRecord& category, CMFCRibbonBar& bar
         bar.AddCategory(info.name.c_str(), 0, 0, CSize(16, 16), CSize(32, 32), -1, extended);
     if (extended) {
         const int id = ObtainCommandId(info, HelpOffer::No);
-        if (auto* const addedExtended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, added))
+        if (auto* const addedExtended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, added)) {
             addedExtended->SetID(static_cast<UINT>(id));
+        }
     }
-    if (!added)
+    if (!added) {
         return;
+    }
     for (const RibbonRecord& panel : category.children) {
         m_cmdList.emplace_back(panel.info.cmd);
         CMFCRibbonPanel* const addedPanel = added->AddPanel(panel.info.name.data());
-        if (!addedPanel)
+        if (!addedPanel) {
             continue;
-        for (const RibbonRecord& element : panel.children)
+        }
+        for (const RibbonRecord& element : panel.children) {
             AddElement(element, *addedPanel);
+        }
     }
 }
 
 void CAddRibbonBar::HideAddedCategories(CMFCRibbonBar& bar) const {
-    if (m_firstAddedCategory < 0)
+    if (m_firstAddedCategory < 0) {
         return;
-    for (int index = m_firstAddedCategory; index <= m_lastAddedCategory; ++index)
+    }
+    for (int index = m_firstAddedCategory; index <= m_lastAddedCategory; ++index) {
         bar.ShowCategory(index, FALSE);
+    }
 }
 
 void CAddRibbonBar::ShowQuickAccessCommands(CMFCRibbonBar& bar) const {
     std::vector<unsigned int> ids;
-    if (GetQAToolBar(ids) == 0)
+    if (GetQAToolBar(ids) == 0) {
         return;
+    }
     CList<UINT, UINT> commands;
     vector2List(ids, commands);
     bar.SetQuickAccessCommands(commands, TRUE);
@@ -132,21 +148,24 @@ bool CAddRibbonBar::GetRowInfo(const CXmlNodeWrapper& node, _RibbonInfo& info) c
 }
 
 void CAddRibbonBar::AddList(const CXmlNodeWrapper& node, CMFCRibbonPanel* panel) {
-    if (panel)
+    if (panel) {
         AddElement(ReadRibbonElement(node, Unreported()).top.front(), *panel);
+    }
 }
 
 void CAddRibbonBar::AddElement(const RibbonRecord& element, CMFCRibbonPanel& panel) {
     const RibbonInfo info = ToRibbonInfo(element.info);
     m_cmdList.push_back(info.cmd);
     const auto id = static_cast<unsigned int>(ObtainCommandId(info, HelpOffer::Yes));
-    if (info.groupBefore)
+    if (info.groupBefore) {
         panel.AddSeparator();
+    }
     CMFCRibbonBaseElement* const created =
         element.children.empty() ? CreateACtrl(id, info, this) : CreateWithSubItems(info, element.children, id);
     // The panel owns the element from here on.
-    if (created)
+    if (created) {
         panel.Add(created);
+    }
 }
 
 CMFCRibbonBaseElement* CAddRibbonBar::CreateWithSubItems(const RibbonInfo& element,
@@ -170,13 +189,15 @@ CMFCRibbonBaseElement* CAddRibbonBar::CreateWithSubItems(const RibbonInfo& eleme
         const auto subId = static_cast<unsigned int>(ObtainCommandId(info, HelpOffer::Yes));
         CMFCRibbonBaseElement* const created = CreateACtrl(subId, info, this);
         // Button and group own what is added to them.
-        if (created && button)
+        if (created && button) {
             button->AddSubItem(created, -1);
-        else if (created)
+        } else if (created) {
             group->AddButton(created);
+        }
     }
-    if (button)
+    if (button) {
         return button;
+    }
     return group;
 }
 
@@ -187,20 +208,23 @@ CMFCRibbonBaseElement* CAddRibbonBar::CreateACtrl(unsigned int id, const _Ribbon
 
 CMFCRibbonUNIcoButton* CAddRibbonBar::CreateBtnFromKey(CMFCRibbonBar* bar, const std::wstring& keyword, int, int& id,
                                                        int keepLargePath) {
-    if (!bar)
+    if (!bar) {
         return nullptr;
+    }
     const CMenuIdMgr& registry = *CMenuIdMgr::Ins();
     int registeredId = 0;
     std::wstring name;
     std::wstring toolTip;
     if (!registry.GetMenuId(keyword, registeredId) || !registry.GetMenuName(keyword, name) ||
-        !registry.GetToolTip(registeredId, toolTip))
+        !registry.GetToolTip(registeredId, toolTip)) {
         return nullptr;
+    }
     id = registeredId;
     const auto* const found =
         DYNAMIC_DOWNCAST(CMFCRibbonUNIcoButton, bar->FindByID(static_cast<UINT>(id), TRUE, FALSE));
-    if (!found)
+    if (!found) {
         return nullptr;
+    }
     auto* const button = new CMFCRibbonUNIcoButton(static_cast<UINT>(id), name.c_str(), found->GetIconPath(TRUE), FALSE,
                                                    found->GetIconPath(FALSE), FALSE, FALSE, keepLargePath);
     button->SetToolTipText(toolTip.c_str());
@@ -219,13 +243,15 @@ int CAddRibbonBar::GetQAToolBar(std::vector<unsigned int>& ids) const {
     const CMenuIdMgr& registry = *CMenuIdMgr::Ins();
     for (const std::wstring& keyword : m_qaKeywords) {
         int id = 0;
-        if (registry.GetMenuId(keyword, id))
+        if (registry.GetMenuId(keyword, id)) {
             ids.push_back(static_cast<unsigned int>(id));
+        }
     }
     return static_cast<int>(ids.size());
 }
 
 void CAddRibbonBar::vector2List(const std::vector<unsigned int>& ids, CList<UINT, UINT>& list) {
-    for (const unsigned int id : ids)
+    for (const unsigned int id : ids) {
         list.AddTail(id);
+    }
 }

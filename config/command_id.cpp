@@ -6,8 +6,9 @@ int ObtainCommandId(const RibbonInfo& info, HelpOffer offer) {
     CMenuIdMgr& registry = *CMenuIdMgr::Ins();
     int id = 0;
     if (registry.GetMenuId(info.keyword, id)) {
-        if (offer == HelpOffer::Yes && !info.help.empty())
+        if (offer == HelpOffer::Yes && !info.help.empty()) {
             registry.SetHelpFile(id, info.help);
+        }
         return id;
     }
     id = static_cast<int>(CMenuIdMgr::s_AddBeginID++);

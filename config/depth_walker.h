@@ -10,16 +10,18 @@
 template <class Visit>
 void WalkBelow(varnhold::XmlCursor root, Visit visit) {
     varnhold::XmlCursor& at = root;
-    if (!at.ToFirstChild())
+    if (!at.ToFirstChild()) {
         return;
+    }
     for (std::size_t depth = 1;;) {
         if (visit(at, depth) && at.ToFirstChild()) {
             ++depth;
             continue;
         }
         while (!at.ToNextSibling()) {
-            if (--depth == 0)
+            if (--depth == 0) {
                 return;
+            }
             at.ToParent();
         }
     }

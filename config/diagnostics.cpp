@@ -16,11 +16,13 @@ DiagnosticsSink& DroppedDiagnostics() {
 }
 
 void FileDiagnostics::Warn(varnhold::TextPosition position, std::string_view code, std::wstring text) const {
-    if (IsListening())
+    if (IsListening()) {
         m_sink.Report({m_file, position, DiagnosticSeverity::Warning, code, std::move(text)});
+    }
 }
 
 void FileDiagnostics::Fail(varnhold::TextPosition position, std::string_view code, std::wstring text) const {
-    if (IsListening())
+    if (IsListening()) {
         m_sink.Report({m_file, position, DiagnosticSeverity::Error, code, std::move(text)});
+    }
 }

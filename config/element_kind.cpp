@@ -24,8 +24,9 @@ constexpr KindName kindNames[] = {
 
 ElementKind KindOfElement(std::wstring_view type) noexcept {
     for (const KindName& name : kindNames) {
-        if (EqualsIgnoringCase(type, name.type))
+        if (EqualsIgnoringCase(type, name.type)) {
             return name.kind;
+        }
     }
     return ElementKind::Unknown;
 }

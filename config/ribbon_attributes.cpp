@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::wstring_view c_helpExtension = L".swf";
+constexpr std::wstring_view kHelpExtension = L".swf";
 
 /// One attribute on its way into the record.
 struct Attribute {
@@ -29,8 +29,9 @@ struct Attribute {
     varnhold::TextPosition Position() const { return element.GetAttributePosition(written); }
     std::string_view Value() const { return written.value; }
     void Warn(std::string_view code, std::wstring text) const {
-        if (reading.diagnostics.IsListening())
+        if (reading.diagnostics.IsListening()) {
             reading.diagnostics.Warn(Position(), code, std::move(text));
+        }
     }
 };
 
@@ -50,21 +51,24 @@ bool TakeKeyword(const Attribute& attribute) {
 
 template <std::wstring_view RibbonTexts::*field, int number>
 bool TakeTranslation(const Attribute& attribute) {
-    if (attribute.keyword.empty())
+    if (attribute.keyword.empty()) {
         attribute.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
-    if (const std::wstring* text = attribute.reading.translations.Find(attribute.keyword, number))
+    }
+    if (const std::wstring* text = attribute.reading.translations.Find(attribute.keyword, number)) {
         attribute.info.*field = attribute.reading.arena.Join(*text, {});
-    else if (CTranslationSection::ShowsMissingKey(number))
+    } else if (CTranslationSection::ShowsMissingKey(number)) {
         attribute.info.*field = attribute.info.keyword;
-    else
+    } else {
         attribute.info.*field = L"";
+    }
     return true;
 }
 
 /// The whole text, without blanks; a sign may stand before the digits.
 bool ToNumber(std::string_view text, std::int32_t& number) {
-    if (text.size() > 1 && text.front() == '+' && text[1] != '-')
+    if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
         text.remove_prefix(1);
+    }
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
     return error == std::errc() && stop == end;
@@ -75,10 +79,11 @@ bool TakeNumber(const Attribute& attribute) {
     std::int32_t number = 0;
     if (!ToNumber(attribute.Value(), number)) {
         const FileDiagnostics& diagnostics = attribute.reading.diagnostics;
-        if (diagnostics.IsListening())
+        if (diagnostics.IsListening()) {
             diagnostics.Fail(attribute.Position(), "not-a-number",
                              L"\"" + string2wstring(attribute.Value()) +
                                  L"\" is not a decimal number of 32 bits; the attributes after it are not read");
+        }
         return false;
     }
     attribute.info.*field = number;
@@ -87,25 +92,28 @@ bool TakeNumber(const Attribute& attribute) {
 
 bool TakeGroupBefore(const Attribute& attribute) {
     attribute.info.groupBefore = EqualsIgnoringCase(attribute.Value(), "Y");
-    if (attribute.info.groupBefore && !attribute.isLast)
+    if (attribute.info.groupBefore && !attribute.isLast) {
         attribute.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
+    }
     return true;
 }
 
 bool TakeCateTab(const Attribute& attribute) {
     const std::string_view value = attribute.Value();
-    if (EqualsIgnoringCase(value, "Y"))
+    if (EqualsIgnoringCase(value, "Y")) {
         attribute.info.cateTab = true;
-    else if (EqualsIgnoringCase(value, "N"))
+    } else if (EqualsIgnoringCase(value, "N")) {
         attribute.info.cateTab = false;
-    else
+    } else {
         attribute.Warn("not-yes-or-no", L"\"" + string2wstring(value) + L"\" is neither Y nor N");
+    }
     return true;
 }
 
 bool TakeAcceptF1(const Attribute& attribute) {
-    if (EqualsIgnoringCase(attribute.Value(), "N"))
+    if (EqualsIgnoringCase(attribute.Value(), "N")) {
         attribute.info.acceptF1 = false;
+    }
     return true;
 }
 
@@ -128,10 +136,10 @@ struct KnownAttribute {
     Taker take;
 };
 
-constexpr std::size_t c_letterSlots = 32;
+constexpr std::size_t kLetterSlots = 32;
 
 /// Where a name's first letter, in either case, has its slot. Other characters share slots with letters.
-constexpr std::size_t SlotOf(char letter) { return static_cast<unsigned char>(letter) % c_letterSlots; }
+constexpr std::size_t SlotOf(char letter) { return static_cast<unsigned char>(letter) % kLetterSlots; }
 
 // Those of one first letter stand together, the more frequent ones first.
 constexpr KnownAttribute attributes[] = {
@@ -159,25 +167,27 @@ struct Span {
 };
 
 /// The attributes of each first letter.
-constexpr std::array<Span, c_letterSlots> MakeSpans() {
-    std::array<Span, c_letterSlots> spans{};
+constexpr std::array<Span, kLetterSlots> MakeSpans() {
+    std::array<Span, kLetterSlots> spans{};
     for (std::size_t i = 0; i < std::size(attributes); ++i) {
         Span& span = spans[SlotOf(attributes[i].name.front())];
-        if (span.end == 0)
+        if (span.end == 0) {
             span.begin = static_cast<std::uint8_t>(i);
+        }
         span.end = static_cast<std::uint8_t>(i + 1);
     }
     return spans;
 }
-constexpr std::array<Span, c_letterSlots> c_spans = MakeSpans();
+constexpr std::array<Span, kLetterSlots> kSpans = MakeSpans();
 
 const KnownAttribute* FindAttribute(std::string_view name) {
-    const Span span = c_spans[name.empty() ? 0 : SlotOf(name.front())];
+    const Span span = kSpans[name.empty() ? 0 : SlotOf(name.front())];
     for (std::size_t i = span.begin; i < span.end; ++i) {
         const std::string_view known = attributes[i].name;
         // Nearly every name is written as it stands here.
-        if (known.size() == name.size() && (known == name || EqualsIgnoringCase(known, name)))
+        if (known.size() == name.size() && (known == name || EqualsIgnoringCase(known, name))) {
             return &attributes[i];
+        }
     }
     return nullptr;
 }
@@ -191,29 +201,32 @@ bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDia
     texts.cmd = info.cmd;
     texts.param = info.param;
     varnhold::XmlCursor element(node);
-    const bool complete = ReadNewRibbonInfo(element, texts, {CTranslationSection(c_ribbonSection), arena, diagnostics});
+    const bool complete = ReadNewRibbonInfo(element, texts, {CTranslationSection(kRibbonSection), arena, diagnostics});
     Assign(info, texts);
     return complete;
 }
 
 bool ReadNewRibbonInfo(varnhold::XmlCursor& element, RibbonTexts& info, const RibbonReading& reading) {
     const std::span<const varnhold::XmlAttributeView> read = element.ReadAttributes();
-    if (read.empty())
+    if (read.empty()) {
         return false;
+    }
     std::string_view keyword;
     for (std::size_t i = 0; i < read.size(); ++i) {
         const Attribute attribute{element, read[i], i + 1 == read.size(), info, reading, keyword};
         // Every attribute takes it back, so GROUPBEFORE counts only where it is the last one.
         info.groupBefore = false;
         if (const KnownAttribute* known = FindAttribute(read[i].name)) {
-            if (!known->take(attribute))
+            if (!known->take(attribute)) {
                 return false;
+            }
         } else if (reading.diagnostics.IsListening()) {
             attribute.Warn("unknown-attribute",
                            L"\"" + string2wstring(read[i].name) + L"\" is not an attribute of a ribbon file");
         }
     }
-    if (info.help.empty() && info.acceptF1)
-        info.help = reading.arena.Join(info.name, c_helpExtension);
+    if (info.help.empty() && info.acceptF1) {
+        info.help = reading.arena.Join(info.name, kHelpExtension);
+    }
     return true;
 }

@@ -7,7 +7,7 @@ class CTranslationSection;
 class CXmlNodeWrapper;
 
 /// The section of the translation tables with the texts of the ribbon files.
-inline constexpr char c_ribbonSection[] = "RibbonBarCfg";
+inline constexpr char kRibbonSection[] = "RibbonBarCfg";
 
 /// Reads the attributes of one element of a ribbon file into a record, which is reset first but for `picDisPath`, `cmd`
 /// and `param`: those stay where the element does not set them. Attributes are taken in document order; translations
@@ -17,7 +17,7 @@ bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDia
 
 /// What the many elements of one file are read with.
 struct RibbonReading {
-    /// The texts of c_ribbonSection.
+    /// The texts of kRibbonSection.
     const CTranslationSection& translations;
     /// Where the texts of the records go.
     TextArena& arena;

@@ -40,8 +40,9 @@ CMFCRibbonBaseElement* CreateButton(unsigned int id, const RibbonInfo& info, F1H
         button = new CMFCRibbonUNIcoButton(id, info.name.c_str(), GetIconPathStr(info.picPath, largeIconSize), FALSE,
                                            smallIcon, TRUE, FALSE, FALSE);
     }
-    if (hint == F1Hint::Yes && info.acceptF1)
+    if (hint == F1Hint::Yes && info.acceptF1) {
         button->SetDescription(CAddRibbonBar::m_strHelpF1);
+    }
     button->SetToolTipText(info.tooltip.c_str());
     return button;
 }
@@ -68,8 +69,9 @@ CMFCRibbonBaseElement* CreateEdit(unsigned int id, const RibbonInfo& info, F1Hin
 template <class Combo>
 CMFCRibbonBaseElement* CreateCombo(unsigned int id, const RibbonInfo& info, F1Hint) {
     auto* const combo = new Combo(id, FALSE, -1, nullptr, -1);
-    if constexpr (requires { combo->UserStaticDropDownHeight(true); })
+    if constexpr (requires { combo->UserStaticDropDownHeight(true); }) {
         combo->UserStaticDropDownHeight(true);
+    }
     return WithTexts(combo, info);
 }
 
@@ -93,8 +95,9 @@ constexpr KindCreator creators[] = {
 CMFCRibbonBaseElement* CreateRibbonElement(unsigned int id, const RibbonInfo& info, F1Hint hint) {
     const ElementKind kind = KindOfElement(info.type);
     for (const KindCreator& creator : creators) {
-        if (creator.kind == kind)
+        if (creator.kind == kind) {
             return creator.create(id, info, hint);
+        }
     }
     return nullptr;
 }

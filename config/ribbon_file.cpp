@@ -47,18 +47,22 @@ private:
         Level& level = m_levels[depth - 1];
         RibbonRecord& record = level.parent->children[level.next];
         // Panels and sub-items are read into the record that was read before them.
-        if (depth == PanelDepth || depth == SubItemDepth)
+        if (depth == PanelDepth || depth == SubItemDepth) {
             CarryOver(level.next == 0 ? level.parent->info : level.parent->children[level.next - 1].info, record.info);
+        }
         ++level.next;
         ReadInfo(element, record.info);
 
-        if (depth == RowDepth)
+        if (depth == RowDepth) {
             m_rowKind = KindOfRow(record.info.keyword);
+        }
         const bool goesDeeper = depth < LastDepth();
-        if (m_diagnostics.IsListening())
+        if (m_diagnostics.IsListening()) {
             ReportOn(element, record.info, depth, goesDeeper);
-        if (goesDeeper)
+        }
+        if (goesDeeper) {
             OpenChildren(element, record, depth);
+        }
         return goesDeeper;
     }
 
@@ -74,28 +78,32 @@ private:
         const bool hasChildren = element.HasChildren();
         const bool hasAttributes = !element.ReadAttributes().empty();
         const varnhold::TextPosition position = element.GetPosition();
-        if (!hasAttributes && depth > RowDepth)
+        if (!hasAttributes && depth > RowDepth) {
             m_diagnostics.Warn(position, "no-attributes", L"an element without attributes describes nothing");
-        else if (info.keyword.empty() && depth > RowDepth && depth != PanelDepth)
+        } else if (info.keyword.empty() && depth > RowDepth && depth != PanelDepth) {
             m_diagnostics.Warn(position, "no-keyword", L"without a keyword the command cannot be registered");
-        if (!goesDeeper && hasChildren)
+        }
+        if (!goesDeeper && hasChildren) {
             m_diagnostics.Warn(position, "too-deep", L"the elements below this one are not read");
-        if (depth < ElementDepth || !hasAttributes)
+        }
+        if (depth < ElementDepth || !hasAttributes) {
             return;
+        }
         const ElementKind kind = KindOfElement(info.type);
-        if (kind == ElementKind::Unknown)
+        if (kind == ElementKind::Unknown) {
             m_diagnostics.Warn(position, "unknown-type",
                                L"\"" + std::wstring(info.type) + L"\" is not a kind of ribbon element");
-        else if (kind == ElementKind::Group && (depth == SubItemDepth || !hasChildren))
+        } else if (kind == ElementKind::Group && (depth == SubItemDepth || !hasChildren)) {
             m_diagnostics.Warn(position, "empty-group",
                                L"a group without elements, or within another one, shows nothing");
-        else if (depth == ElementDepth && hasChildren && !TakesSubItems(kind))
+        } else if (depth == ElementDepth && hasChildren && !TakesSubItems(kind)) {
             m_diagnostics.Warn(position, "takes-no-sub-items",
                                L"only a button or a group may have elements below it; nothing is shown");
+        }
     }
 
     const FileDiagnostics& m_diagnostics;
-    const CTranslationSection m_translations{c_ribbonSection};
+    const CTranslationSection m_translations{kRibbonSection};
     /// By the depth of the parent.
     std::array<Level, SubItemDepth> m_levels{};
     RibbonRowKind m_rowKind = RibbonRowKind::Categories;
@@ -104,10 +112,12 @@ private:
 } // namespace
 
 RibbonRowKind KindOfRow(std::wstring_view keyword) {
-    if (keyword == L"QK_Rbbion_QAToolbar")
+    if (keyword == L"QK_Rbbion_QAToolbar") {
         return RibbonRowKind::QuickAccess;
-    if (keyword == L"StatusEx_btns")
+    }
+    if (keyword == L"StatusEx_btns") {
         return RibbonRowKind::StatusButtons;
+    }
     return RibbonRowKind::Categories;
 }
 

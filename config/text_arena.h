@@ -26,8 +26,9 @@ public:
     std::span<T> MakeArray(std::size_t count) {
         static_assert(std::is_trivially_destructible_v<T>);
         T* const first = static_cast<T*>(Take(count * sizeof(T), alignof(T)));
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             new (first + i) T();
+        }
         return {first, count};
     }
 
@@ -39,8 +40,9 @@ private:
     /// `alignment`: a power of two, no more than that of any scalar.
     void* Take(std::size_t bytes, std::size_t alignment) {
         const std::size_t from = (m_used + alignment - 1) & ~(alignment - 1);
-        if (from > m_size || bytes > m_size - from)
+        if (from > m_size || bytes > m_size - from) {
             return TakeFromNewBlock(bytes);
+        }
         m_used = from + bytes;
         return m_block + from;
     }

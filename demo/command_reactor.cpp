@@ -11,11 +11,13 @@ void CCommandReactor::Serve(const std::wstring& command, Action run, Question is
 const CCommandReactor::Entry* CCommandReactor::Find(unsigned int id, std::wstring& parameter) const {
     const CMenuIdMgr* const registry = CMenuIdMgr::Ins();
     std::wstring command;
-    if (!registry->GetCmd(static_cast<int>(id), command))
+    if (!registry->GetCmd(static_cast<int>(id), command)) {
         return nullptr;
+    }
     const auto found = m_entries.find(command);
-    if (found == m_entries.end())
+    if (found == m_entries.end()) {
         return nullptr;
+    }
     registry->GetCmdParam(static_cast<int>(id), parameter);
     return &found->second;
 }
@@ -23,8 +25,9 @@ const CCommandReactor::Entry* CCommandReactor::Find(unsigned int id, std::wstrin
 bool CCommandReactor::MenuClick(unsigned int id) const {
     std::wstring parameter;
     const Entry* const entry = Find(id, parameter);
-    if (!entry)
+    if (!entry) {
         return false;
+    }
     entry->run(parameter);
     return true;
 }
@@ -32,10 +35,12 @@ bool CCommandReactor::MenuClick(unsigned int id) const {
 bool CCommandReactor::Update(CCmdUI* commandUi) const {
     std::wstring parameter;
     const Entry* const entry = Find(commandUi->m_nID, parameter);
-    if (!entry)
+    if (!entry) {
         return false;
+    }
     commandUi->Enable(!entry->isEnabled || entry->isEnabled(parameter));
-    if (entry->isChecked)
+    if (entry->isChecked) {
         commandUi->SetCheck(entry->isChecked(parameter));
+    }
     return true;
 }

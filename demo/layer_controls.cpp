@@ -34,8 +34,9 @@ std::uint32_t FromColorRef(COLORREF color) {
 
 int IndexOf(const CMFCRibbonPanel& panel, const CMFCRibbonBaseElement* element) {
     int index = panel.GetCount() - 1;
-    while (index >= 0 && panel.GetElement(index) != element)
+    while (index >= 0 && panel.GetElement(index) != element) {
         --index;
+    }
     return index;
 }
 
@@ -43,9 +44,11 @@ int IndexOf(const CMFCRibbonPanel& panel, const CMFCRibbonBaseElement* element) 
 CMFCRibbonPanel* FindPanel(CMFCRibbonBar& ribbon, const CString& name) {
     for (int i = 0; i < ribbon.GetCategoryCount(); ++i) {
         CMFCRibbonCategory& category = *ribbon.GetCategory(i);
-        for (int k = 0; k < category.GetPanelCount(); ++k)
-            if (category.GetPanel(k)->GetName() == name)
+        for (int k = 0; k < category.GetPanelCount(); ++k) {
+            if (category.GetPanel(k)->GetName() == name) {
                 return category.GetPanel(k);
+            }
+        }
     }
     return nullptr;
 }
@@ -53,8 +56,9 @@ CMFCRibbonPanel* FindPanel(CMFCRibbonBar& ribbon, const CString& name) {
 template <class Combo>
 void ShowLight(Combo* combo, int item, bool isLit) {
     bool isShownLit = false;
-    if (combo && (!combo->GetItemLight(item, isShownLit) || isShownLit != isLit))
+    if (combo && (!combo->GetItemLight(item, isShownLit) || isShownLit != isLit)) {
         combo->SetItemLight(item, isLit, true);
+    }
 }
 
 /// A label that is as wide as the longest place, so that the ribbon stands still while the pointer moves.
@@ -83,31 +87,41 @@ void LayerControls::Attach(CMFCRibbonBar& ribbon) {
     m_scale = nullptr;
     m_pointer = nullptr;
     FillCombos();
-    if (CMFCRibbonPanel* const panel = FindPanel(ribbon, NameOf("PanelLayerStyle")))
+    if (CMFCRibbonPanel* const panel = FindPanel(ribbon, NameOf("PanelLayerStyle"))) {
         panel->SetJustifyColumns();
+    }
     MakeSliders(ribbon);
     ShowState();
 }
 
 void LayerControls::FillCombos() {
     for (const char* key : kLayerKeys) {
-        if (m_shown)
+        if (m_shown) {
             m_shown->AddItem(NameOf(key), 0);
-        if (m_styles)
+        }
+        if (m_styles) {
             m_styles->AddItem(NameOf(key), 0);
+        }
     }
-    for (const char* key : kLabelKeys)
-        if (m_labels)
+    for (const char* key : kLabelKeys) {
+        if (m_labels) {
             m_labels->AddItem(NameOf(key), 0);
-    if (m_shown)
+        }
+    }
+    if (m_shown) {
         m_shown->SelectItem(0);
-    if (m_styles)
+    }
+    if (m_styles) {
         m_styles->SelectItem(1);
-    if (m_labels)
+    }
+    if (m_labels) {
         m_labels->SelectItem(0);
-    for (CMFCRibbonComboBox* const combo : std::array<CMFCRibbonComboBox*, 3>{m_shown, m_styles, m_labels})
-        if (combo)
+    }
+    for (CMFCRibbonComboBox* const combo : std::array<CMFCRibbonComboBox*, 3>{m_shown, m_styles, m_labels}) {
+        if (combo) {
             combo->EnableDropDownListResize(TRUE);
+        }
+    }
 }
 
 /// The configured slider gives way to one whose copies move together; the second place is the panel of the pointer.
@@ -131,8 +145,9 @@ void LayerControls::MakeSliders(CMFCRibbonBar& ribbon) {
             second->Add(copy);
         }
     }
-    if (second)
+    if (second) {
         MakePointerLabel(*second);
+    }
 }
 
 void LayerControls::MakePointerLabel(CMFCRibbonPanel& panel) {
@@ -151,41 +166,48 @@ void LayerControls::ShowState() {
         }
         const COLORREF color = ToColorRef(ShownColor(m_state, layer));
         COLORREF shownColor = 0;
-        if (m_styles && (!m_styles->GetItemClr(i, shownColor) || shownColor != color))
+        if (m_styles && (!m_styles->GetItemClr(i, shownColor) || shownColor != color)) {
             m_styles->SetItemClr(i, color, true);
+        }
         ShowLight(m_styles, i, m_state.IsLit(layer));
     }
-    for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i)
+    for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i) {
         ShowLight(m_labels, i, m_state.IsLit(static_cast<MapLabel>(i)));
-    if (m_scale && m_scale->GetPos() != m_state.SliderPosition())
+    }
+    if (m_scale && m_scale->GetPos() != m_state.SliderPosition()) {
         m_scale->SetPosSync(m_state.SliderPosition(), TRUE);
+    }
 }
 
 void LayerControls::ShareLayerLights() {
-    for (int i = 0; m_styles && i < static_cast<int>(MapLayer::Count); ++i)
+    for (int i = 0; m_styles && i < static_cast<int>(MapLayer::Count); ++i) {
         m_styles->SetItemLight(i, m_state.IsLit(static_cast<MapLayer>(i)), true);
+    }
 }
 
 int LayerControls::ScalePosition() const { return m_scale ? m_scale->GetPos() : m_state.SliderPosition(); }
 
 std::optional<MapLayer> LayerControls::ChosenLayer() const {
     const int item = m_styles ? m_styles->GetCurSel() : -1;
-    if (item < 0)
+    if (item < 0) {
         return std::nullopt;
+    }
     return static_cast<MapLayer>(item);
 }
 
 void LayerControls::TakeChecks() {
     for (int i = 0; m_shown && i < static_cast<int>(MapLayer::Count); ++i) {
         bool isChecked = false;
-        if (m_shown->GetItemCheck(i, isChecked))
+        if (m_shown->GetItemCheck(i, isChecked)) {
             m_state.SetShown(static_cast<MapLayer>(i), isChecked);
+        }
     }
 }
 
 bool LayerControls::AskColor(int item, CWnd* owner) {
-    if (item < 0 || item >= static_cast<int>(MapLayer::Count))
+    if (item < 0 || item >= static_cast<int>(MapLayer::Count)) {
         return false;
+    }
     const auto layer = static_cast<MapLayer>(item);
     CHOOSECOLOR dialog = {};
     dialog.lStructSize = sizeof dialog;
@@ -193,8 +215,9 @@ bool LayerControls::AskColor(int item, CWnd* owner) {
     dialog.rgbResult = ToColorRef(ShownColor(m_state, layer));
     dialog.lpCustColors = m_customColors.data();
     dialog.Flags = CC_FULLOPEN | CC_RGBINIT;
-    if (!::ChooseColor(&dialog))
+    if (!::ChooseColor(&dialog)) {
         return false;
+    }
     m_state.SetColor(layer, FromColorRef(dialog.rgbResult));
     return true;
 }
@@ -207,8 +230,9 @@ bool LayerControls::TakeLight(const CString& text, bool lit) {
 void LayerControls::TakeLabelLights() {
     for (int i = 0; m_labels && i < static_cast<int>(MapLabel::Count); ++i) {
         bool isLit = false;
-        if (m_labels->GetItemLight(i, isLit))
+        if (m_labels->GetItemLight(i, isLit)) {
             m_state.SetLit(static_cast<MapLabel>(i), isLit);
+        }
     }
 }
 
@@ -223,8 +247,9 @@ void LayerControls::SwitchPointerFormat() {
 }
 
 void LayerControls::ShowPointerText() {
-    if (!m_pointer)
+    if (!m_pointer) {
         return;
+    }
     m_pointer->SetText(PlaceText(m_pointerPlace, m_hasSeconds).c_str());
     m_pointer->Redraw();
 }

@@ -44,8 +44,9 @@ std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translation
 /// The message with the name in place of its "%s".
 std::wstring WithName(std::wstring message, const std::wstring& name) {
     const std::size_t mark = message.find(L"%s");
-    if (mark != std::wstring::npos)
+    if (mark != std::wstring::npos) {
         message.replace(mark, 2, name);
+    }
     return message;
 }
 
@@ -104,11 +105,13 @@ BOOL CMainFrame::CreateFrame() {
 }
 
 int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
-    if (CFrameWndEx::OnCreate(createStruct) == -1)
+    if (CFrameWndEx::OnCreate(createStruct) == -1) {
         return -1;
+    }
     ApplySkin();
-    if (!m_ribbon.Create(this) || !m_map.Create(this, AFX_IDW_PANE_FIRST))
+    if (!m_ribbon.Create(this) || !m_map.Create(this, AFX_IDW_PANE_FIRST)) {
         return -1;
+    }
     m_ribbon.EnableToolTips(TRUE, TRUE);
     BuildRibbon();
     ApplyTexts();
@@ -134,15 +137,19 @@ void CMainFrame::BuildRibbon() {
     builder.Load(kRibbonFile, &m_ribbon, TRUE);
     m_commandTexts = builder.m_cmdList;
     m_place = FindElement<CMFCRibbonEdit>(m_ribbon, L"PlaceEdit");
-    for (const wchar_t* keyword : kSplitButtons)
-        if (auto* const button = FindElement<CMFCRibbonButton>(m_ribbon, keyword))
+    for (const wchar_t* keyword : kSplitButtons) {
+        if (auto* const button = FindElement<CMFCRibbonButton>(m_ribbon, keyword)) {
             button->SetDefaultCommand();
+        }
+    }
     OfferQuickAccess(builder);
-    if (active)
+    if (active) {
         m_ribbon.SetQuickAccessCommands(chosen);
+    }
     m_controls.Attach(m_ribbon);
-    if (m_ribbon.GetCategoryCount() > 0)
+    if (m_ribbon.GetCategoryCount() > 0) {
         m_ribbon.SetActiveCategory(m_ribbon.GetCategory(std::min(shown, m_ribbon.GetCategoryCount() - 1)));
+    }
     m_ribbon.ForceRecalcLayout();
 }
 
@@ -151,12 +158,14 @@ void CMainFrame::OfferQuickAccess(const CAddRibbonBar& builder) {
     CMFCRibbonQuickAccessToolBarDefaultState offered;
     std::vector<unsigned int> ids;
     builder.GetQAToolBar(ids);
-    for (const unsigned int id : ids)
+    for (const unsigned int id : ids) {
         offered.AddCommand(id, TRUE);
+    }
     for (const wchar_t* const keyword : kOfferedForQuickAccess) {
         int id = 0;
-        if (CMenuIdMgr::Ins()->GetMenuId(keyword, id))
+        if (CMenuIdMgr::Ins()->GetMenuId(keyword, id)) {
             offered.AddCommand(static_cast<UINT>(id), FALSE);
+        }
     }
     m_ribbon.SetQuickAccessDefaultState(offered);
 }
@@ -167,8 +176,9 @@ void CMainFrame::OnConfiguredCommand(UINT id) {
 }
 
 void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
-    if (!CMenuEvtHandleMgr::Ins()->Update(commandUi))
+    if (!CMenuEvtHandleMgr::Ins()->Update(commandUi)) {
         commandUi->ContinueRouting();
+    }
 }
 
 void CMainFrame::ShowState() {
@@ -194,15 +204,17 @@ LRESULT CMainFrame::OnLayerChecked(WPARAM, LPARAM) {
 }
 
 LRESULT CMainFrame::OnLayerColor(WPARAM item, LPARAM) {
-    if (m_controls.AskColor(static_cast<int>(item), this))
+    if (m_controls.AskColor(static_cast<int>(item), this)) {
         TakeChange();
+    }
     return 0;
 }
 
 // The answer decides; the combo shows the light itself afterwards, and then its copies are to show it.
 LRESULT CMainFrame::OnLayerLight(WPARAM text, LPARAM isOn) {
-    if (!m_controls.TakeLight(*reinterpret_cast<const CString*>(text), isOn != 0))
+    if (!m_controls.TakeLight(*reinterpret_cast<const CString*>(text), isOn != 0)) {
         return 0;
+    }
     PostMessage(kLightTakenMessage);
     return 1;
 }
@@ -214,15 +226,18 @@ LRESULT CMainFrame::OnLabelLight(WPARAM, LPARAM) {
 }
 
 LRESULT CMainFrame::OnLabelClicked(WPARAM label, LPARAM) {
-    if (m_controls.IsPointerLabel(reinterpret_cast<const void*>(label)))
+    if (m_controls.IsPointerLabel(reinterpret_cast<const void*>(label))) {
         m_controls.SwitchPointerFormat();
+    }
     return 0;
 }
 
 void CMainFrame::ApplySkin() {
-    for (const Skin& skin : kSkins)
-        if (m_skin == skin.name)
+    for (const Skin& skin : kSkins) {
+        if (m_skin == skin.name) {
             CMFCVisualManagerOffice2007::SetStyle(skin.style);
+        }
+    }
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
 }
 
@@ -236,12 +251,14 @@ void CMainFrame::ApplyTexts() {
 }
 
 void CMainFrame::WriteRecord() {
-    if (m_options.record.empty())
+    if (m_options.record.empty()) {
         return;
+    }
     const MapView& view = m_state.View();
     nlohmann::ordered_json layers = nlohmann::ordered_json::array();
-    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i)
+    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
         layers.push_back(m_state.IsShown(static_cast<MapLayer>(i)));
+    }
     nlohmann::ordered_json styles = nlohmann::ordered_json::array();
     for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
         const auto layer = static_cast<MapLayer>(i);
@@ -250,8 +267,9 @@ void CMainFrame::WriteRecord() {
                           {"locked", m_state.IsLocked(layer)}});
     }
     nlohmann::ordered_json labels = nlohmann::ordered_json::array();
-    for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i)
+    for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i) {
         labels.push_back(m_state.IsLit(static_cast<MapLabel>(i)));
+    }
     nlohmann::ordered_json record = {{"map",
                                       {{"longitude", view.center.longitude},
                                        {"latitude", view.center.latitude},
@@ -273,13 +291,15 @@ void CMainFrame::WriteRecord() {
     record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
     record["quickAccessOnScreen"] = onScreen(m_ribbon.GetQuickAccessToolbarLocation());
     record["tabsOnScreen"] = nlohmann::ordered_json::array();
-    for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i)
+    for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
         record["tabsOnScreen"].push_back(onScreen(m_ribbon.GetCategory(i)->GetTabRect()));
+    }
     record["ribbonMinimized"] = IsRibbonMinimized();
     record["quickAccessBelow"] = IsQuickAccessBelow();
     std::string text = record.dump();
-    if (text == m_recorded)
+    if (text == m_recorded) {
         return;
+    }
     m_recorded = std::move(text);
     WriteJson(record, m_options.record);
 }
@@ -304,8 +324,9 @@ void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_
 void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
 
 void CMainFrame::SwitchLanguage(const std::wstring& code) {
-    if (!CMultiLanguageMgr::SetLanguage(code))
+    if (!CMultiLanguageMgr::SetLanguage(code)) {
         return;
+    }
     TakeResourceLanguage();
     setMessageBoxTitle(ViewerText("ViewerTitle"));
     ApplyTexts();
@@ -350,15 +371,17 @@ bool CMainFrame::IsQuickAccessBelow() const { return !m_ribbon.IsQuickAccessTool
 
 void CMainFrame::CopyPicture() {
     CBitmap picture;
-    if (m_map.MakePicture(picture))
+    if (m_map.MakePicture(picture)) {
         PutPictureOnClipboard(GetSafeHwnd(), picture);
+    }
 }
 
 void CMainFrame::SavePicture() {
     const std::wstring path = AskForPictureFile(GetSafeHwnd(), ViewerText("PictureFilter"));
     CBitmap picture;
-    if (!path.empty() && !(m_map.MakePicture(picture) && WritePng(picture, path)))
+    if (!path.empty() && !(m_map.MakePicture(picture) && WritePng(picture, path))) {
         QKMessageBox(WithName(ViewerText("PictureFailed"), path), QK_MESSAGE_WARNING, GetSafeHwnd());
+    }
 }
 
 void CMainFrame::CopyText(const std::wstring& text) { PutTextOnClipboard(GetSafeHwnd(), text); }

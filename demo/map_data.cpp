@@ -21,8 +21,9 @@ public:
 
     template <class T>
     bool Read(T& value) {
-        if (m_bytes.size() - m_at < sizeof value)
+        if (m_bytes.size() - m_at < sizeof value) {
             return false;
+        }
         std::memcpy(&value, m_bytes.data() + m_at, sizeof value);
         m_at += sizeof value;
         return true;
@@ -38,13 +39,17 @@ private:
 bool ReadRing(Reader& reader, GeoRing& ring) {
     std::uint32_t count = 0;
     float box[4];
-    if (!reader.Read(count))
+    if (!reader.Read(count)) {
         return false;
-    for (float& side : box)
-        if (!reader.Read(side))
+    }
+    for (float& side : box) {
+        if (!reader.Read(side)) {
             return false;
-    if (reader.Left() / (2 * sizeof(float)) < count)
+        }
+    }
+    if (reader.Left() / (2 * sizeof(float)) < count) {
         return false;
+    }
     ring.box = {box[0], box[1], box[2], box[3]};
     ring.points.resize(count);
     for (GeoPoint& point : ring.points) {
@@ -61,11 +66,13 @@ std::vector<GeoRing> ReadRings(const std::filesystem::path& path) {
     Reader reader(path);
     std::uint32_t count = 0;
     std::vector<GeoRing> rings;
-    if (!reader.Read(count))
+    if (!reader.Read(count)) {
         return rings;
+    }
     GeoRing ring;
-    while (count-- > 0 && ReadRing(reader, ring))
+    while (count-- > 0 && ReadRing(reader, ring)) {
         rings.push_back(std::move(ring));
+    }
     return rings;
 }
 
@@ -77,8 +84,9 @@ std::vector<City> ReadCities(const std::filesystem::path& path) {
         std::vector<std::string> fields;
         boost::trim_right(line);
         boost::split(fields, line, [](char character) { return character == '\t'; });
-        if (line.empty() || line[0] == '#' || fields.size() != 5)
+        if (line.empty() || line[0] == '#' || fields.size() != 5) {
             continue;
+        }
         std::istringstream numbers(fields[0] + " " + fields[1] + " " + fields[2]);
         City city;
         if (numbers >> city.place.longitude >> city.place.latitude >> city.rank) {
@@ -102,10 +110,13 @@ MapData MapData::Load(const std::filesystem::path& folder) {
 }
 
 const City* MapData::FindCity(const std::wstring& name) const {
-    if (name.empty())
+    if (name.empty()) {
         return nullptr;
-    for (const City& city : cities)
-        if (boost::istarts_with(city.english, name) || boost::starts_with(city.chinese, name))
+    }
+    for (const City& city : cities) {
+        if (boost::istarts_with(city.english, name) || boost::starts_with(city.chinese, name)) {
             return &city;
+        }
+    }
     return nullptr;
 }

@@ -69,8 +69,9 @@ struct Canvas {
     /// The colour of a layer: its own one in place of the palette's, faint where its light is off.
     Color Ink(MapLayer layer, Color palette) const {
         Color color = palette;
-        if (const auto own = state.Color(layer))
+        if (const auto own = state.Color(layer)) {
             color = Color(static_cast<DWORD>(palette.GetA()) << 24 | *own);
+        }
         return state.IsLit(layer) ? color : Faint(color);
     }
     /// The layer's light alone, for what has no colour of its own.
@@ -93,8 +94,9 @@ void AddRing(const Canvas& canvas, const GeoRing& ring, std::vector<PointF>& poi
     for (const GeoPoint& place : ring.points) {
         const PointF point = canvas.At(place);
         // Points closer than half a pixel add work and no detail.
-        if (points.empty() || std::abs(points.back().X - point.X) + std::abs(points.back().Y - point.Y) > 0.7f)
+        if (points.empty() || std::abs(points.back().X - point.X) + std::abs(points.back().Y - point.Y) > 0.7f) {
             points.push_back(point);
+        }
     }
 }
 
@@ -104,14 +106,17 @@ void DrawRings(const Canvas& canvas, const std::vector<GeoRing>& rings, const Co
     pen.SetLineJoin(Gdiplus::LineJoinRound);
     std::vector<PointF> points;
     for (const GeoRing& ring : rings) {
-        if (!canvas.Sees(ring.box))
+        if (!canvas.Sees(ring.box)) {
             continue;
+        }
         AddRing(canvas, ring, points);
-        if (points.size() < 3)
+        if (points.size() < 3) {
             continue;
+        }
         const INT count = static_cast<INT>(points.size());
-        if (fill)
+        if (fill) {
             canvas.graphics.FillPolygon(&brush, points.data(), count);
+        }
         canvas.graphics.DrawPolygon(&pen, points.data(), count);
     }
 }
@@ -122,8 +127,9 @@ public:
     /// True, and the place is taken, when nothing stands there yet.
     bool Take(const RectF& place) {
         const auto covers = [&place](const RectF& other) { return other.IntersectsWith(place) != FALSE; };
-        if (std::any_of(m_taken.begin(), m_taken.end(), covers))
+        if (std::any_of(m_taken.begin(), m_taken.end(), covers)) {
             return false;
+        }
         m_taken.push_back(place);
         return true;
     }
@@ -157,8 +163,9 @@ void DrawHaloText(const Canvas& canvas, const TextStyle& style, const std::wstri
     const Gdiplus::Font& font = style.font;
     const REAL step = canvas.Scaled(1);
     const INT length = static_cast<INT>(text.size());
-    for (const PointF& offset : {PointF(-step, 0), PointF(step, 0), PointF(0, -step), PointF(0, step)})
+    for (const PointF& offset : {PointF(-step, 0), PointF(step, 0), PointF(0, -step), PointF(0, step)}) {
         canvas.graphics.DrawString(text.c_str(), length, &font, PointF(at.X + offset.X, at.Y + offset.Y), &halo);
+    }
     canvas.graphics.DrawString(text.c_str(), length, &font, at, &ink);
 }
 
@@ -166,8 +173,9 @@ std::wstring DegreeText(int degrees, wchar_t positive, wchar_t negative) {
     wchar_t text[16];
     std::swprintf(text, std::size(text), L"%d\u00b0", std::abs(degrees));
     std::wstring result = text;
-    if (degrees != 0 && std::abs(degrees) != 180)
+    if (degrees != 0 && std::abs(degrees) != 180) {
         result += degrees > 0 ? positive : negative;
+    }
     return result;
 }
 
@@ -194,8 +202,9 @@ void DrawGraticuleNumbers(const Canvas& canvas, const TextStyle& style, TextPlac
     const REAL top = std::max(northWest.Y, REAL(0));
     const REAL left = std::max(northWest.X, REAL(0));
     const auto write = [&](const std::wstring& text, PointF at) {
-        if (places.Take(PlaceOfText(canvas, style.font, text, at)))
+        if (places.Take(PlaceOfText(canvas, style.font, text, at))) {
             DrawHaloText(canvas, style, text, at);
+        }
     };
     for (int longitude = -180; longitude < 180; longitude += spacing) {
         const REAL x = canvas.At({static_cast<double>(longitude), 0}).X;
@@ -204,8 +213,9 @@ void DrawGraticuleNumbers(const Canvas& canvas, const TextStyle& style, TextPlac
     const int first = 90 / spacing * spacing;
     for (int latitude = first; latitude >= -first; latitude -= spacing) {
         const REAL y = canvas.At({0, static_cast<double>(latitude)}).Y;
-        if (y >= top)
+        if (y >= top) {
             write(DegreeText(latitude, L'N', L'S'), PointF(left + canvas.Scaled(2), y));
+        }
     }
 }
 
@@ -218,11 +228,14 @@ template <class Draw>
 void ForEachShownCity(const Canvas& canvas, const std::vector<City>& cities, Draw draw) {
     const int largest = LargestRank(canvas.state.View().pixelsPerDegree, canvas.style.scale);
     // The important ones first: they get the room for their names.
-    for (int rank = 1; rank <= largest; ++rank)
-        for (const City& city : cities)
+    for (int rank = 1; rank <= largest; ++rank) {
+        for (const City& city : cities) {
             if (city.rank == rank &&
-                canvas.Sees({city.place.longitude, city.place.latitude, city.place.longitude, city.place.latitude}))
+                canvas.Sees({city.place.longitude, city.place.latitude, city.place.longitude, city.place.latitude})) {
                 draw(city, canvas.At(city.place), canvas.Scaled(rank == 1 ? 3.5 : 2.5));
+            }
+        }
+    }
 }
 
 void DrawCities(const Canvas& canvas, const std::vector<City>& cities) {
@@ -253,9 +266,11 @@ void DrawCityNames(const Canvas& canvas, const std::vector<City>& cities, const 
 /// The roundest length, 1, 2 or 5 times a power of ten, that is no longer than `limit`.
 double RoundLength(double limit) {
     const double power = std::pow(10, std::floor(std::log10(limit)));
-    for (const double step : {5.0, 2.0})
-        if (step * power <= limit)
+    for (const double step : {5.0, 2.0}) {
+        if (step * power <= limit) {
             return step * power;
+        }
+    }
     return power;
 }
 
@@ -322,8 +337,9 @@ public:
             const DWORD* upper = m_fine + 2 * y * stride;
             const DWORD* lower = upper + stride;
             DWORD* out = pixels.data() + static_cast<std::size_t>(y) * m_width;
-            for (int x = 0; x < m_width; ++x, upper += 2, lower += 2)
+            for (int x = 0; x < m_width; ++x, upper += 2, lower += 2) {
                 out[x] = Average(upper[0], upper[1], lower[0], lower[1]);
+            }
         }
         BITMAPINFO info = {};
         info.bmiHeader.biSize = sizeof info.bmiHeader;
@@ -354,8 +370,9 @@ private:
 } // namespace
 
 std::uint32_t ShownColor(const MapState& state, MapLayer layer) {
-    if (const auto own = state.Color(layer))
+    if (const auto own = state.Color(layer)) {
         return *own;
+    }
     const Colors& colors = kColors[static_cast<std::size_t>(state.Palette())];
     return (colors.*kLayerColors[static_cast<std::size_t>(layer)]).GetValue() & 0xFFFFFF;
 }
@@ -370,8 +387,9 @@ MapPainter::MapPainter(const MapData& data) : m_data(data) {}
 MapPainter::~MapPainter() = default;
 
 bool MapPainter::PaintRelief(Gdiplus::Graphics& graphics, const Gdiplus::RectF& world) {
-    if (!m_relief)
+    if (!m_relief) {
         m_relief = std::make_unique<Relief>(m_data.reliefFile);
+    }
     graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
     graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
     const bool isDrawn = graphics.DrawImage(&m_relief->image, world) == Gdiplus::Ok;
@@ -395,18 +413,21 @@ void MapPainter::PaintShapes(HDC dc, const MapState& state, const MapPaintStyle&
         graphics.FillRectangle(&veil, world);
     }
     graphics.SetSmoothingMode(state.IsSmooth() ? Gdiplus::SmoothingModeAntiAlias : Gdiplus::SmoothingModeNone);
-    if (state.IsShown(MapLayer::Coast))
+    if (state.IsShown(MapLayer::Coast)) {
         DrawRings(canvas, m_data.coast, hasRelief ? nullptr : &canvas.colors.land,
                   canvas.Ink(MapLayer::Coast, canvas.colors.coast), state.LineWidth());
+    }
     if (state.IsShown(MapLayer::Lakes)) {
         const Color water = canvas.Ink(MapLayer::Lakes, canvas.colors.lake);
         DrawRings(canvas, m_data.lakes, &water, canvas.Lit(MapLayer::Lakes, canvas.colors.lakeShore),
                   0.7 * state.LineWidth());
     }
-    if (state.IsShown(MapLayer::Graticule))
+    if (state.IsShown(MapLayer::Graticule)) {
         DrawGraticuleLines(canvas);
-    if (state.IsShown(MapLayer::Cities))
+    }
+    if (state.IsShown(MapLayer::Cities)) {
         DrawCities(canvas, m_data.cities);
+    }
 }
 
 void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& style) {
@@ -418,12 +439,15 @@ void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& 
     const Gdiplus::Font normal(&family, canvas.Scaled(12), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font names(&family, canvas.Scaled(state.NameSize()), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     TextPlaces places;
-    if (state.IsShown(MapLayer::ScaleBar))
+    if (state.IsShown(MapLayer::ScaleBar)) {
         DrawScaleBar(canvas, StyleOf(canvas, normal, MapLayer::ScaleBar, MapLabel::ScaleBarText), places);
-    if (state.IsShown(MapLayer::Graticule))
+    }
+    if (state.IsShown(MapLayer::Graticule)) {
         DrawGraticuleNumbers(canvas, StyleOf(canvas, small, MapLayer::Graticule, MapLabel::GraticuleNumbers), places);
-    if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names))
+    }
+    if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names)) {
         DrawCityNames(canvas, m_data.cities, StyleOf(canvas, names, MapLayer::Names, MapLabel::CityNames), places);
+    }
 }
 
 void MapPainter::Paint(HDC dc, const MapState& state, const MapPaintStyle& style) {

@@ -21,22 +21,28 @@ std::optional<std::vector<double>> ParseNumbers(const std::wstring& text, std::s
     for (;;) {
         wchar_t* end = nullptr;
         const double number = std::wcstod(at, &end);
-        if (end == at || !std::isfinite(number))
+        if (end == at || !std::isfinite(number)) {
             return std::nullopt;
+        }
         numbers.push_back(number);
         const wchar_t* const separator = end;
         at = end;
-        while (*at == L' ')
+        while (*at == L' ') {
             ++at;
-        if (*at == L',')
+        }
+        if (*at == L',') {
             ++at;
-        if (*at == 0 && separator[0] != L',')
+        }
+        if (*at == 0 && separator[0] != L',') {
             break;
-        if (at == separator)
+        }
+        if (at == separator) {
             return std::nullopt;
+        }
     }
-    if (numbers.size() != count)
+    if (numbers.size() != count) {
         return std::nullopt;
+    }
     return numbers;
 }
 
@@ -66,12 +72,14 @@ void MapState::Clamp() {
 void MapState::Remember() {
     Clamp();
     Changed();
-    if (IsSameView(m_history[m_historyPosition], m_view))
+    if (IsSameView(m_history[m_historyPosition], m_view)) {
         return;
+    }
     m_history.resize(m_historyPosition + 1);
     m_history.push_back(m_view);
-    if (m_history.size() > kHistoryLimit)
+    if (m_history.size() > kHistoryLimit) {
         m_history.erase(m_history.begin());
+    }
     m_historyPosition = m_history.size() - 1;
 }
 
@@ -124,8 +132,9 @@ bool MapState::CanStep(int direction) const noexcept {
 }
 
 bool MapState::Step(int direction) {
-    if (!CanStep(direction))
+    if (!CanStep(direction)) {
         return false;
+    }
     m_historyPosition += direction < 0 ? -1 : 1;
     m_view = m_history[m_historyPosition];
     Changed();
@@ -139,8 +148,9 @@ void MapState::AddBookmark() {
 }
 
 bool MapState::StepBookmark(int direction) {
-    if (m_bookmarks.empty())
+    if (m_bookmarks.empty()) {
         return false;
+    }
     const std::size_t step = direction < 0 ? m_bookmarks.size() - 1 : 1;
     m_bookmarkPosition = (m_bookmarkPosition + step) % m_bookmarks.size();
     m_view = m_bookmarks[m_bookmarkPosition];
@@ -157,8 +167,9 @@ void MapState::ClearBookmarks() {
 void MapState::Toggle(MapLayer layer) { SetShown(layer, !IsShown(layer)); }
 
 void MapState::SetShown(MapLayer layer, bool shown) {
-    if (IsShown(layer) == shown)
+    if (IsShown(layer) == shown) {
         return;
+    }
     m_layers[static_cast<int>(layer)] = shown;
     Changed();
 }
@@ -169,8 +180,9 @@ void MapState::SetColor(MapLayer layer, std::uint32_t color) {
 }
 
 bool MapState::SetLit(MapLayer layer, bool lit) {
-    if (IsLocked(layer))
+    if (IsLocked(layer)) {
         return false;
+    }
     m_lit[static_cast<int>(layer)] = lit;
     Changed();
     return true;
@@ -217,8 +229,9 @@ int MapState::SliderPosition() const {
 }
 
 void MapState::SetSliderPosition(int position) {
-    if (position == SliderPosition())
+    if (position == SliderPosition()) {
         return;
+    }
     const double part = std::clamp(position, 0, kSliderMax) / static_cast<double>(kSliderMax);
     SetScale(kMinPixelsPerDegree * std::pow(kMaxPixelsPerDegree / kMinPixelsPerDegree, part));
 }
@@ -243,14 +256,16 @@ MapState MapState::Enlarged(int factor) const {
 
 std::optional<GeoBox> ParseBox(const std::wstring& text) {
     const auto numbers = ParseNumbers(text, 4);
-    if (!numbers)
+    if (!numbers) {
         return std::nullopt;
+    }
     return GeoBox{(*numbers)[0], (*numbers)[1], (*numbers)[2], (*numbers)[3]};
 }
 
 std::optional<std::pair<double, double>> ParsePair(const std::wstring& text) {
     const auto numbers = ParseNumbers(text, 2);
-    if (!numbers)
+    if (!numbers) {
         return std::nullopt;
+    }
     return std::make_pair((*numbers)[0], (*numbers)[1]);
 }

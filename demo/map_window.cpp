@@ -18,8 +18,9 @@ END_MESSAGE_MAP()
 
 BOOL CMapWindow::Create(CWnd* parent, UINT id) {
     const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
-    if (!CWnd::Create(windowClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0), parent, id))
+    if (!CWnd::Create(windowClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0), parent, id)) {
         return FALSE;
+    }
     // West stays on the left, whichever way the reader's language runs.
     ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
     return TRUE;
@@ -28,13 +29,15 @@ BOOL CMapWindow::Create(CWnd* parent, UINT id) {
 void CMapWindow::SetStyle(const MapPaintStyle& style) {
     m_style = style;
     m_drawnVersion = 0;
-    if (GetSafeHwnd())
+    if (GetSafeHwnd()) {
         Invalidate(FALSE);
+    }
 }
 
 void CMapWindow::ShowState() {
-    if (m_shownVersion == m_state.Version() || !GetSafeHwnd())
+    if (m_shownVersion == m_state.Version() || !GetSafeHwnd()) {
         return;
+    }
     m_shownVersion = m_state.Version();
     Invalidate(FALSE);
 }
@@ -47,8 +50,9 @@ void CMapWindow::OnPaint() {
     memory.CreateCompatibleDC(&dc);
     if (m_drawnVersion != m_state.Version() || !m_picture.GetSafeHandle()) {
         BITMAP size = {};
-        if (m_picture.GetSafeHandle())
+        if (m_picture.GetSafeHandle()) {
             m_picture.GetBitmap(&size);
+        }
         if (size.bmWidth != client.Width() || size.bmHeight != client.Height()) {
             m_picture.DeleteObject();
             m_picture.CreateCompatibleBitmap(&dc, std::max(client.Width(), 1), std::max(client.Height(), 1));
@@ -67,8 +71,9 @@ BOOL CMapWindow::MakePicture(CBitmap& picture) {
     CClientDC screen(this);
     CRect client;
     GetClientRect(client);
-    if (client.IsRectEmpty() || !picture.CreateCompatibleBitmap(&screen, client.Width(), client.Height()))
+    if (client.IsRectEmpty() || !picture.CreateCompatibleBitmap(&screen, client.Width(), client.Height())) {
         return FALSE;
+    }
     CDC memory;
     memory.CreateCompatibleDC(&screen);
     CBitmap* const earlier = memory.SelectObject(&picture);
@@ -81,8 +86,9 @@ BOOL CMapWindow::OnEraseBkgnd(CDC*) { return TRUE; }
 
 void CMapWindow::OnSize(UINT type, int width, int height) {
     CWnd::OnSize(type, width, height);
-    if (width > 0 && height > 0)
+    if (width > 0 && height > 0) {
         m_state.SetWindowSize(width, height);
+    }
     Invalidate(FALSE);
 }
 
@@ -94,23 +100,27 @@ void CMapWindow::OnLButtonDown(UINT, CPoint point) {
 }
 
 void CMapWindow::OnMouseMove(UINT, CPoint point) {
-    if (m_pointerListener)
+    if (m_pointerListener) {
         m_pointerListener(m_state.ToPlace(point.x, point.y));
-    if (!m_dragging)
+    }
+    if (!m_dragging) {
         return;
+    }
     m_state.Drag(m_dragFrom.x - point.x, point.y - m_dragFrom.y);
     m_dragFrom = point;
     ShowState();
 }
 
 void CMapWindow::OnLButtonUp(UINT, CPoint) {
-    if (m_dragging)
+    if (m_dragging) {
         ReleaseCapture();
+    }
 }
 
 void CMapWindow::OnCaptureChanged(CWnd*) {
-    if (!m_dragging)
+    if (!m_dragging) {
         return;
+    }
     m_dragging = false;
     m_state.EndDrag();
     ShowState();

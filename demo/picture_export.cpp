@@ -10,12 +10,14 @@ namespace {
 class OpenedClipboard {
 public:
     explicit OpenedClipboard(HWND owner) : m_isOpen(::OpenClipboard(owner) != FALSE) {
-        if (m_isOpen)
+        if (m_isOpen) {
             ::EmptyClipboard();
+        }
     }
     ~OpenedClipboard() {
-        if (m_isOpen)
+        if (m_isOpen) {
             ::CloseClipboard();
+        }
     }
     OpenedClipboard(const OpenedClipboard&) = delete;
     OpenedClipboard& operator=(const OpenedClipboard&) = delete;
@@ -29,8 +31,9 @@ private:
 } // namespace
 
 bool PutPictureOnClipboard(HWND owner, CBitmap& picture) {
-    if (!OpenedClipboard(owner).Put(CF_BITMAP, picture.GetSafeHandle()))
+    if (!OpenedClipboard(owner).Put(CF_BITMAP, picture.GetSafeHandle())) {
         return false;
+    }
     picture.Detach();
     return true;
 }
@@ -38,12 +41,14 @@ bool PutPictureOnClipboard(HWND owner, CBitmap& picture) {
 bool PutTextOnClipboard(HWND owner, const std::wstring& text) {
     const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
     const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes);
-    if (!memory)
+    if (!memory) {
         return false;
+    }
     std::memcpy(::GlobalLock(memory), text.c_str(), bytes);
     ::GlobalUnlock(memory);
-    if (OpenedClipboard(owner).Put(CF_UNICODETEXT, memory))
+    if (OpenedClipboard(owner).Put(CF_UNICODETEXT, memory)) {
         return true;
+    }
     ::GlobalFree(memory);
     return false;
 }

@@ -8,7 +8,8 @@
 template <class Element>
 Element* FindElement(const CMFCRibbonBar& ribbon, const wchar_t* keyword) {
     int id = 0;
-    if (!CMenuIdMgr::Ins()->GetMenuId(keyword, id))
+    if (!CMenuIdMgr::Ins()->GetMenuId(keyword, id)) {
         return nullptr;
+    }
     return DYNAMIC_DOWNCAST(Element, ribbon.FindByID(static_cast<UINT>(id), FALSE, TRUE));
 }

@@ -1,6 +1,6 @@
+#include "command_line.h"
 #include "main_frame.h"
 #include "options.h"
-#include "command_line.h"
 #include "screenshot.h"
 
 #include "varnhold/language.h"
@@ -23,10 +23,12 @@ public:
             return FALSE;
         }
         m_gdiPlus.emplace();
-        if (options->scalePercent > 0)
+        if (options->scalePercent > 0) {
             afxGlobalData.SetRibbonImageScale(options->scalePercent / 100.0);
-        if (!CMultiLanguageMgr::SetLanguage(options->language))
+        }
+        if (!CMultiLanguageMgr::SetLanguage(options->language)) {
             CMultiLanguageMgr::SetLanguage(L"en");
+        }
         TakeResourceLanguage();
         setMessageBoxTitle(CMultiLanguageMgr::translationW("ViewerTitle", -1, "Viewer"));
 
@@ -40,8 +42,9 @@ public:
         frame->ShowWindow(SW_SHOW);
         frame->UpdateWindow();
         frame->WriteRecord();
-        if (options->screenshot.empty())
+        if (options->screenshot.empty()) {
             return TRUE;
+        }
         SettleWindow(frame->GetSafeHwnd());
         m_exitCode = WriteScreenshot(frame->GetSafeHwnd(), options->screenshot) ? 0 : 1;
         frame->DestroyWindow();
@@ -51,8 +54,9 @@ public:
     /// Much of what a user does to the ribbon is no command.
     BOOL OnIdle(LONG count) override {
         const BOOL wantsMore = CWinAppEx::OnIdle(count);
-        if (count == 0 && m_pMainWnd != nullptr)
+        if (count == 0 && m_pMainWnd != nullptr) {
             static_cast<CMainFrame*>(m_pMainWnd)->WriteRecord();
+        }
         return wantsMore;
     }
 

@@ -57,8 +57,9 @@ void GoToPlace(MapState& state, const MapData& data, ViewerHost& host, bool isQu
     } else if (const City* const city = data.FindCity(text)) {
         place = city->place;
     } else {
-        if (!isQuiet)
+        if (!isQuiet) {
             host.TellPlaceUnknown(text);
+        }
         return;
     }
     Visit(state, place);
@@ -91,30 +92,34 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
         L"history", [&state](const std::wstring& direction) { state.Step(Integer(direction)); }, nullptr,
         [&state](const std::wstring& direction) { return state.CanStep(Integer(direction)); });
     reactor->Serve(L"pan", [&state](const std::wstring& parameter) {
-        if (const auto fractions = ParsePair(parameter))
+        if (const auto fractions = ParsePair(parameter)) {
             state.Pan(fractions->first, fractions->second);
+        }
     });
     reactor->Serve(L"region", [&state](const std::wstring& parameter) {
-        if (const auto box = ParseBox(parameter))
+        if (const auto box = ParseBox(parameter)) {
             state.Show(*box);
+        }
     });
     // The field sends its command on losing the focus too: nobody wants a message box for that.
     reactor->Serve(L"place", [&state, &data, &host](const std::wstring& parameter) {
         GoToPlace(state, data, host, parameter == L"field" && !host.IsPlaceConfirmed());
     });
     reactor->Serve(L"visit", [&state](const std::wstring& parameter) {
-        if (const auto pair = ParsePair(parameter))
+        if (const auto pair = ParsePair(parameter)) {
             Visit(state, {pair->second, pair->first});
+        }
     });
     reactor->Serve(
         L"bookmark",
         [&state](const std::wstring& what) {
-            if (what == L"add")
+            if (what == L"add") {
                 state.AddBookmark();
-            else if (what == L"clear")
+            } else if (what == L"clear") {
                 state.ClearBookmarks();
-            else
+            } else {
                 state.StepBookmark(what == L"previous" ? -1 : 1);
+            }
         },
         nullptr, [&state](const std::wstring& what) { return what == L"add" || state.BookmarkCount() > 0; });
     return reactor;
@@ -123,13 +128,15 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
 boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHost& host) {
     auto reactor = boost::make_shared<CCommandReactor>();
     // A choice in a combo of layers only says which layer is meant.
-    for (const wchar_t* const combo : {L"layers", L"layercolors", L"labels"})
+    for (const wchar_t* const combo : {L"layers", L"layercolors", L"labels"}) {
         reactor->Serve(combo, [](const std::wstring&) {});
+    }
     reactor->Serve(
         L"lock",
         [&state, &host](const std::wstring&) {
-            if (const auto layer = host.ChosenLayer())
+            if (const auto layer = host.ChosenLayer()) {
                 state.ToggleLock(*layer);
+            }
         },
         [&state, &host](const std::wstring&) {
             const auto layer = host.ChosenLayer();
@@ -140,8 +147,9 @@ boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHo
         L"layer",
         [&state](const std::wstring& name) {
             const auto row = FindByParameter(kLayers, name);
-            if (row != kLayers.end())
+            if (row != kLayers.end()) {
                 state.Toggle(row->layer);
+            }
         },
         [&state](const std::wstring& name) {
             const auto row = FindByParameter(kLayers, name);
@@ -152,8 +160,9 @@ boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHo
         L"palette",
         [&state](const std::wstring& name) {
             const auto row = FindByParameter(kPalettes, name);
-            if (row != kPalettes.end())
+            if (row != kPalettes.end()) {
                 state.SetPalette(row->palette);
+            }
         },
         [&state](const std::wstring& name) {
             const auto row = FindByParameter(kPalettes, name);
@@ -179,12 +188,13 @@ boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, Viewer
     auto reactor = boost::make_shared<CCommandReactor>();
     reactor->Serve(L"picture", [&state, &host](const std::wstring& what) {
         const GeoPoint center = state.View().center;
-        if (what == L"copy")
+        if (what == L"copy") {
             host.CopyPicture();
-        else if (what == L"save")
+        } else if (what == L"save") {
             host.SavePicture();
-        else
+        } else {
             host.CopyText((boost::wformat(L"%.4f, %.4f") % center.latitude % center.longitude).str());
+        }
     });
     return reactor;
 }
@@ -203,10 +213,11 @@ boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host) {
     reactor->Serve(
         L"ribbon",
         [&host](const std::wstring& what) {
-            if (what == L"below")
+            if (what == L"below") {
                 host.ToggleQuickAccessBelow();
-            else
+            } else {
                 host.ToggleRibbonMinimized();
+            }
         },
         [&host](const std::wstring& what) {
             return what == L"below" ? host.IsQuickAccessBelow() : host.IsRibbonMinimized();

@@ -20,8 +20,9 @@ ULONGLONG Joined(DWORD high, DWORD low) { return (static_cast<ULONGLONG>(high) <
 /// All zero where there is no file.
 FileStamp StampOf(const wchar_t* path) {
     WIN32_FILE_ATTRIBUTE_DATA data;
-    if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &data))
+    if (!::GetFileAttributesExW(path, GetFileExInfoStandard, &data)) {
         return {};
+    }
     return {Joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime),
             Joined(data.nFileSizeHigh, data.nFileSizeLow)};
 }
@@ -29,29 +30,34 @@ FileStamp StampOf(const wchar_t* path) {
 } // namespace
 
 FileIcon::FileIcon(const wchar_t* path, int side) {
-    if (!*path)
+    if (!*path) {
         return;
+    }
     ++s_readCount;
     m_icon = static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, side, side, LR_LOADFROMFILE));
-    if (m_icon)
+    if (m_icon) {
         ++s_aliveCount;
+    }
 }
 
 FileIcon::~FileIcon() {
-    if (!m_icon)
+    if (!m_icon) {
         return;
+    }
     ::DestroyIcon(m_icon);
     --s_aliveCount;
 }
 
 void TryIconFile(const wchar_t* path, int side) {
-    if (!*path)
+    if (!*path) {
         return;
+    }
     static std::map<std::pair<std::wstring, int>, FileStamp> stamps;
     const FileStamp stamp = StampOf(path);
     const auto [tried, isNew] = stamps.try_emplace({path, side}, stamp);
-    if (!isNew && tried->second == stamp)
+    if (!isNew && tried->second == stamp) {
         return;
+    }
     tried->second = stamp;
     const FileIcon trial(path, side);
 }

@@ -24,11 +24,13 @@ CSize UnscaledSize(CMFCRibbonBaseElement::RibbonImageType type) {
 
 CSize ScaledSize(CMFCRibbonBaseElement::RibbonImageType type) {
     const CSize size = UnscaledSize(type);
-    if (!afxGlobalData.IsRibbonImageScaleEnabled())
+    if (!afxGlobalData.IsRibbonImageScaleEnabled()) {
         return size;
+    }
     const double scale = afxGlobalData.GetRibbonImageScale();
-    if (scale == 1.0)
+    if (scale == 1.0) {
         return size;
+    }
     return CSize(static_cast<int>(size.cx * scale + 0.5), static_cast<int>(size.cy * scale + 0.5));
 }
 
@@ -82,18 +84,21 @@ CMFCRibbonUNIcoButton* CMFCRibbonUNIcoButton::GetIconButtonOriginal() const {
 }
 
 CSize CMFCRibbonUNIcoButton::GetImageSize(RibbonImageType type) const {
-    if (const CMFCRibbonUNIcoButton* original = GetIconButtonOriginal())
+    if (const CMFCRibbonUNIcoButton* original = GetIconButtonOriginal()) {
         return original->GetImageSize(type);
-    if (m_largeIconPath.IsEmpty())
+    }
+    if (m_largeIconPath.IsEmpty()) {
         return CMFCRibbonButton::GetImageSize(type);
+    }
     return ScaledSize(type);
 }
 
 void CMFCRibbonUNIcoButton::DrawImage(CDC* dc, RibbonImageType type, CRect rect) {
-    if (CMFCRibbonUNIcoButton* original = GetIconButtonOriginal())
+    if (CMFCRibbonUNIcoButton* original = GetIconButtonOriginal()) {
         DrawThroughOriginal(*original, dc, type, rect);
-    else if (!m_largeIconPath.IsEmpty() && !m_largeAlternatePath.IsEmpty())
+    } else if (!m_largeIconPath.IsEmpty() && !m_largeAlternatePath.IsEmpty()) {
         DrawIconFiles(dc, type, rect);
+    }
 }
 
 void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type,
@@ -116,10 +121,11 @@ void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect r
     }
     const Lent smallHandle(m_hIconSmall, small.Get() ? small.Get() : m_hIconSmall);
     const HICON icon = type == RibbonImageSmall && m_hIconSmall ? m_hIconSmall : m_hIcon;
-    if (m_bIsDisabled)
+    if (m_bIsDisabled) {
         DrawDisabledIcon(dc, icon, UnscaledSize(type), ScaledSize(type), rect.TopLeft());
-    else
+    } else {
         DrawEnabledIcon(dc, icon, ScaledSize(type), rect.TopLeft());
+    }
 }
 
 void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, HICON icon, CSize unscaled, CSize scaled, CPoint corner) const {
@@ -127,8 +133,9 @@ void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, HICON icon, CSize unscaled
     images.SetImageSize(unscaled);
     const int index = images.AddIcon(icon, m_bAlphaBlendIcon);
     CAfxDrawState state;
-    if (index < 0 || !images.PrepareDrawImage(state, scaled))
+    if (index < 0 || !images.PrepareDrawImage(state, scaled)) {
         return;
+    }
     constexpr BOOL isHilite = FALSE;
     constexpr BOOL isDisabled = TRUE;
     images.Draw(dc, corner.x, corner.y, index, isHilite, isDisabled, FALSE, FALSE, FALSE, 255);
@@ -204,14 +211,16 @@ CMFCRibbonSmallButton::CMFCRibbonSmallButton(UINT id, LPCTSTR text, const CStrin
                             alphaBlendIcon, FALSE) {}
 
 BOOL CMFCRibbonSmallButton::HasLargeMode() const {
-    if (m_smallMode)
+    if (m_smallMode) {
         return FALSE;
+    }
     const CSize size = GetImageSize(RibbonImageLarge);
     return size.cx != 0 || size.cy != 0;
 }
 
 void CMFCRibbonSmallButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonUNIcoButton::CopyFrom(src);
-    if (const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonSmallButton, &src))
+    if (const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonSmallButton, &src)) {
         m_smallMode = source->m_smallMode;
+    }
 }

@@ -63,16 +63,18 @@ CString CMFCRibbonLabelEx::GetShownText() const {
 void CMFCRibbonLabelEx::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonLabel::CopyFrom(src);
     const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonLabelEx, &src);
-    if (!source)
+    if (!source) {
         return;
+    }
     m_right = source->m_right;
     m_textColor = source->m_textColor;
     m_leftOffset = source->m_leftOffset;
 }
 
 void CMFCRibbonLabelEx::SetLeftOffset(int offset) {
-    if (std::exchange(m_leftOffset, offset) != offset)
+    if (std::exchange(m_leftOffset, offset) != offset) {
         MarkLayoutDirty();
+    }
 }
 
 // The room is that of the text which will be shown, at its place.
@@ -86,8 +88,9 @@ CSize CMFCRibbonLabelEx::GetRegularSize(CDC* dc) {
 }
 
 void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     CMFCVisualManager* const visual = CMFCVisualManager::GetInstance();
     const KeptText kept(dc, IsMenuMode() ? afxGlobalData.fontBold : afxGlobalData.fontRegular);
     CRect rect = m_rect;
@@ -96,8 +99,9 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
         dc->SetTextColor(visual->OnDrawMenuLabel(dc, rect));
     } else {
         visual->OnDrawRibbonLabel(dc, this, rect);
-        if (IsDisabled())
+        if (IsDisabled()) {
             dc->SetTextColor(afxGlobalData.clrGrayedText);
+        }
     }
     rect.DeflateRect(m_szMargin.cx, 0);
 
@@ -107,8 +111,9 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
         format = DT_WORDBREAK | DT_NOPREFIX;
         rect = CentredLines(dc, text, rect, format);
     }
-    if (m_textColor != noColor)
+    if (m_textColor != noColor) {
         dc->SetTextColor(m_textColor);
+    }
     rect.left += m_leftOffset;
     DrawRibbonText(dc, text, rect, format);
 }
@@ -118,6 +123,7 @@ void CMFCRibbonLabelEx::OnLButtonDown(CPoint point) {
     const CWnd* holder = GetTopLevelRibbonBar();
     const HWND host = OwnerOf(holder ? holder : GetParentWnd());
     CMFCRibbonLabel::OnLButtonDown(point);
-    if (host && ::IsWindow(host))
+    if (host && ::IsWindow(host)) {
         ::SendMessageW(host, WM_RIBBON_LABEL_CLICKED, reinterpret_cast<WPARAM>(this), 0);
+    }
 }

@@ -11,38 +11,44 @@ CMFCRibbonSliderSync::~CMFCRibbonSliderSync() {
     CMFCRibbonSliderSync* const leader = m_leader;
     Unlink();
     const std::vector<CMFCRibbonSliderSync*> followers = std::exchange(m_linked, {});
-    for (CMFCRibbonSliderSync* slider : followers)
+    for (CMFCRibbonSliderSync* slider : followers) {
         slider->m_leader = nullptr;
+    }
     CMFCRibbonSliderSync* heir = m_source;
     for (CMFCRibbonSliderSync* slider : followers) {
-        if (slider->m_source != this)
+        if (slider->m_source != this) {
             continue;
+        }
         slider->SetOriginal(heir);
         heir = heir ? heir : slider;
     }
     CMFCRibbonSliderSync* const next = heir ? heir : leader;
     for (CMFCRibbonSliderSync* slider : followers) {
-        if (next && !slider->m_leader)
+        if (next && !slider->m_leader) {
             next->AddLinkedSlider(slider);
+        }
     }
-    if (leader && heir)
+    if (leader && heir) {
         leader->AddLinkedSlider(heir);
+    }
 }
 
 // ---- the chain
 
 CMFCRibbonSliderSync& CMFCRibbonSliderSync::GetRoot() {
     CMFCRibbonSliderSync* root = this;
-    while (root->m_source)
+    while (root->m_source) {
         root = root->m_source;
+    }
     return *root;
 }
 
 // A source is a leader too, so that this walk meets every link that could close a ring.
 bool CMFCRibbonSliderSync::Follows(const CMFCRibbonSliderSync& slider) const {
     for (const CMFCRibbonSliderSync* one = this; one; one = one->m_leader) {
-        if (one == &slider)
+        if (one == &slider) {
             return true;
+        }
     }
     return false;
 }
@@ -54,24 +60,28 @@ void CMFCRibbonSliderSync::Link(CMFCRibbonSliderSync& slider) {
 }
 
 void CMFCRibbonSliderSync::Unlink() {
-    if (CMFCRibbonSliderSync* const leader = std::exchange(m_leader, nullptr))
+    if (CMFCRibbonSliderSync* const leader = std::exchange(m_leader, nullptr)) {
         std::erase(leader->m_linked, this);
+    }
 }
 
 void CMFCRibbonSliderSync::AddLinkedSlider(CMFCRibbonSliderSync* slider) {
-    if (slider && !slider->m_source && slider->m_leader != this && !Follows(*slider))
+    if (slider && !slider->m_source && slider->m_leader != this && !Follows(*slider)) {
         Link(*slider);
+    }
 }
 
 void CMFCRibbonSliderSync::SetOriginal(CMFCRibbonBaseElement* original) {
     auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonSliderSync, original);
-    if (source && source->Follows(*this))
+    if (source && source->Follows(*this)) {
         return;
+    }
     Unlink();
     m_source = source;
     CMFCRibbonSlider::SetOriginal(original);
-    if (source)
+    if (source) {
         source->Link(*this);
+    }
 }
 
 // ---- the position
@@ -98,11 +108,13 @@ void CMFCRibbonSliderSync::SetPosSync(int pos, int redraw) {
 
 // Sliders of different ranges end at what the links up to the root have in common.
 void CMFCRibbonSliderSync::NotifyCommandSync() {
-    if (!m_source)
+    if (!m_source) {
         SetPosSync(GetPos(), TRUE);
+    }
     CMFCRibbonSliderSync* last = this;
-    for (; last->m_source; last = last->m_source)
+    for (; last->m_source; last = last->m_source) {
         last->m_source->SetPosSync(last->GetPos(), TRUE);
+    }
     last->NotifyCommand();
 }
 
@@ -112,22 +124,25 @@ void CMFCRibbonSliderSync::TakePos(int pos) {
 }
 
 void CMFCRibbonSliderSync::ChangePos(int pos) {
-    if (pos != GetPos())
+    if (pos != GetPos()) {
         TakePos(pos);
+    }
 }
 
 // ---- input
 
 void CMFCRibbonSliderSync::OnMouseMove(CPoint point) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return;
+    }
     const RibbonSliderPart part = GetPartFromPoint(point);
     if (part != m_HotPart) {
         m_HotPart = part;
         Redraw();
     }
-    if (m_PressedPart != RibbonSliderPart::Thumb)
+    if (m_PressedPart != RibbonSliderPart::Thumb) {
         return;
+    }
     ChangePos(GetPosFromPoint(point));
 }
 
@@ -136,23 +151,27 @@ void CMFCRibbonSliderSync::OnLButtonUp(CPoint point) {
     const RibbonSliderPart pressed = std::exchange(m_PressedPart, RibbonSliderPart::None);
     m_bIsPressed = FALSE;
     Redraw();
-    if (IsDisabled() || !m_rect.PtInRect(point) || GetPartFromPoint(point) != pressed)
+    if (IsDisabled() || !m_rect.PtInRect(point) || GetPartFromPoint(point) != pressed) {
         return;
-    if (pressed == RibbonSliderPart::Increase)
+    }
+    if (pressed == RibbonSliderPart::Increase) {
         TakePos(GetPosAfter(GetZoomIncrement()));
-    else if (pressed == RibbonSliderPart::Decrease)
+    } else if (pressed == RibbonSliderPart::Decrease) {
         TakePos(GetPosAfter(-static_cast<long long>(GetZoomIncrement())));
-    else
+    } else {
         TakePos(GetPosFromPoint(point));
+    }
 }
 
 // A held button goes on wherever the pointer is.
 BOOL CMFCRibbonSliderSync::OnAutoRepeat() {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return FALSE;
-    if (m_PressedPart == RibbonSliderPart::Increase)
+    }
+    if (m_PressedPart == RibbonSliderPart::Increase) {
         TakePos(GetPosAfter(GetZoomIncrement()));
-    else if (m_PressedPart == RibbonSliderPart::Decrease)
+    } else if (m_PressedPart == RibbonSliderPart::Decrease) {
         TakePos(GetPosAfter(-static_cast<long long>(GetZoomIncrement())));
+    }
     return TRUE;
 }

@@ -21,8 +21,9 @@ public:
         CWinAppEx::InitInstance();
         auto* const frame = new Frame;
         m_pMainWnd = frame;
-        if (frame->Make())
+        if (frame->Make()) {
             Measure(*frame);
+        }
         frame->DestroyWindow();
         return FALSE;
     }

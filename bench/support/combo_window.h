@@ -16,8 +16,9 @@ public:
 
     bool Make() override {
         CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
-        if (!CBenchFrame::Make())
+        if (!CBenchFrame::Make()) {
             return false;
+        }
         CMFCRibbonPanel* const panel = m_ribbon.AddCategory(L"Home", 0, 0)->AddPanel(L"Panel");
         for (int i = 0; i < copies; ++i) {
             auto* const combo = new CMFCRibbonMultiCombo(700, FALSE, 120);

@@ -24,16 +24,18 @@ int WINAPI CountText(HDC dc, LPCWSTR text, int length, LPRECT rect, UINT format)
 
 template <class Spies, class Function>
 void Put(Spies& spies, HMODULE module, const char* name, Function* function) {
-    if (void** const slot = FindImport(module, name))
+    if (void** const slot = FindImport(module, name)) {
         spies.push_back(std::make_unique<ImportSpy<Function>>(*slot, function));
+    }
 }
 
 } // namespace
 
 DrawCallCounter::DrawCallCounter() {
     g_calls = {};
-    for (const wchar_t* library : {L"bwframework.dll", L"barwright.dll"})
+    for (const wchar_t* library : {L"bwframework.dll", L"barwright.dll"}) {
         Watch(::GetModuleHandleW(library));
+    }
 }
 
 DrawCallCounter::~DrawCallCounter() = default;

@@ -12,8 +12,9 @@ constexpr std::size_t kPanelsInACategory = 10;
 constexpr unsigned kSeed = 41000;
 
 void Put(std::string& bytes, std::uint32_t value, int size) {
-    for (int i = 0; i < size; ++i)
+    for (int i = 0; i < size; ++i) {
         bytes.push_back(static_cast<char>(value >> (8 * i)));
+    }
 }
 
 /// An icon file with one 32-bit picture of the given side in pixels.
@@ -38,10 +39,12 @@ std::string MakeIcon(int side, std::uint32_t color) {
     Put(bytes, static_cast<std::uint32_t>(2 * side), 4);
     Put(bytes, 1, 2);
     Put(bytes, 32, 2);
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 6; ++i) {
         Put(bytes, 0, 4);
-    for (std::uint32_t i = 0; i < pixels; ++i)
+    }
+    for (std::uint32_t i = 0; i < pixels; ++i) {
         Put(bytes, 0xFF000000u | color, 4);
+    }
     bytes.append(maskBytes, 0);
     return bytes;
 }
@@ -61,10 +64,12 @@ std::vector<std::wstring> MakeKeywords(std::size_t count, std::size_t length) {
     std::vector<std::wstring> keywords;
     while (keywords.size() < count) {
         std::wstring keyword(length, L' ');
-        for (wchar_t& letter : keyword)
+        for (wchar_t& letter : keyword) {
             letter = kSigns[sign(random)];
-        if (seen.insert(keyword).second)
+        }
+        if (seen.insert(keyword).second) {
             keywords.push_back(std::move(keyword));
+        }
     }
     return keywords;
 }
@@ -75,18 +80,22 @@ std::string MakeRibbonFile(std::size_t buttons, std::size_t iconFiles) {
     for (std::size_t i = 0; i < buttons; ++i) {
         const std::string n = std::to_string(buttons) + "_" + number(i);
         const std::size_t inCategory = i % (kButtonsInAPanel * kPanelsInACategory);
-        if (inCategory == 0)
+        if (inCategory == 0) {
             text += "    <category KEYWORD=\"Category" + n + "\" NAME=\"\">\n";
-        if (i % kButtonsInAPanel == 0)
+        }
+        if (i % kButtonsInAPanel == 0) {
             text += "      <panel KEYWORD=\"Panel" + n + "\" NAME=\"\">\n";
+        }
         text += "        <item KEYWORD=\"Command" + n + "\" NAME=\"\" TOOLTIP=\"\" TYPE=\"BUTTON\" SIZE=\"" +
                 (i % 4 == 0 ? "32" : "16") + "\" PICPATH=\"pic\\modle\\icon" + number(i % iconFiles) +
                 ".ico\" CMD=\"command\" PARAM=\"" + n + "\"/>\n";
         const bool isLast = i + 1 == buttons;
-        if ((i + 1) % kButtonsInAPanel == 0 || isLast)
+        if ((i + 1) % kButtonsInAPanel == 0 || isLast) {
             text += "      </panel>\n";
-        if ((i + 1) % (kButtonsInAPanel * kPanelsInACategory) == 0 || isLast)
+        }
+        if ((i + 1) % (kButtonsInAPanel * kPanelsInACategory) == 0 || isLast) {
             text += "    </category>\n";
+        }
     }
     return text + "  </row>\n</ribbon>\n";
 }
@@ -105,10 +114,13 @@ ScenarioDirectory::~ScenarioDirectory() {
 std::wstring ScenarioDirectory::AddRibbonFile(std::size_t buttons, std::size_t iconFiles) {
     const std::string name = "ribbon" + std::to_string(buttons) + ".xml";
     WriteFile(m_path / "cfg" / name, MakeRibbonFile(buttons, iconFiles));
-    for (const char* const set : {"modle", "modle_0"})
-        for (const int side : {16, 32})
-            for (std::size_t i = 0; i < iconFiles; ++i)
+    for (const char* const set : {"modle", "modle_0"}) {
+        for (const int side : {16, 32}) {
+            for (std::size_t i = 0; i < iconFiles; ++i) {
                 WriteFile(m_path / "pic" / set / std::to_string(side) / ("icon" + std::to_string(i) + ".ico"),
                           MakeIcon(side, static_cast<std::uint32_t>(i * 0x0B0D11) & 0xFFFFFFu));
+            }
+        }
+    }
     return std::wstring(name.begin(), name.end());
 }

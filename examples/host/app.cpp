@@ -22,8 +22,9 @@ public:
         // The language is an argument of this program. Names and tooltips are translated while the ribbon is loaded,
         // so the tables come first.
         const CString language = m_lpCmdLine;
-        if (language.IsEmpty() || !CMultiLanguageMgr::SetLanguage(language.GetString()))
+        if (language.IsEmpty() || !CMultiLanguageMgr::SetLanguage(language.GetString())) {
             CMultiLanguageMgr::SetLanguage(L"en");
+        }
         setMessageBoxTitle(CMultiLanguageMgr::translationW("Title", -1, "Lamps"));
 
         // Asked in this order. They may be added at any time before the first click.
@@ -33,8 +34,9 @@ public:
 
         auto* const frame = new CMainFrame(board); // deletes itself with its window
         m_pMainWnd = frame;
-        if (!frame->CreateFrame())
+        if (!frame->CreateFrame()) {
             return FALSE;
+        }
         frame->ShowWindow(m_nCmdShow);
         frame->UpdateWindow();
         return TRUE; // FALSE would end the program here

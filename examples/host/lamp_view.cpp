@@ -37,8 +37,9 @@ void CLampView::OnPaint() {
     const int gap = static_cast<int>(kGap * scale);
     CRect lamp(CPoint(gap, gap), CSize(diameter, diameter));
     for (std::size_t i = 0; i < LampBoard::kCount; ++i) {
-        if (!m_board.IsMounted(i))
+        if (!m_board.IsMounted(i)) {
             continue;
+        }
         CBrush brush(m_board.IsLit(i) ? kColors.at(i) : kDark);
         CPen pen(PS_SOLID, 1, kDark);
         CBrush* const earlierBrush = dc.SelectObject(&brush);

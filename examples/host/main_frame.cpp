@@ -41,13 +41,15 @@ BOOL CMainFrame::CreateFrame() {
 }
 
 int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
-    if (CFrameWndEx::OnCreate(createStruct) == -1)
+    if (CFrameWndEx::OnCreate(createStruct) == -1) {
         return -1;
+    }
     // The skin is a choice of the whole program: before the first bar is drawn, or with a repaint of everything.
     CMFCVisualManagerOffice2007::SetStyle(CMFCVisualManagerOffice2007::Office2007_Silver);
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
-    if (!m_ribbon.Create(this) || !m_view.Create(this))
+    if (!m_ribbon.Create(this) || !m_view.Create(this)) {
         return -1;
+    }
     m_ribbon.EnableToolTips(TRUE, TRUE);
     BuildRibbon();
     ShowBoard();
@@ -67,15 +69,17 @@ void CMainFrame::BuildRibbon() {
 CMFCRibbonCheckComb* CMainFrame::FindLampCombo() const {
     // From keyword to id to element: the way to whatever the file describes.
     int id = 0;
-    if (!CMenuIdMgr::Ins()->GetMenuId(L"LampsMounted", id))
+    if (!CMenuIdMgr::Ins()->GetMenuId(L"LampsMounted", id)) {
         return nullptr;
+    }
     return DYNAMIC_DOWNCAST(CMFCRibbonCheckComb, m_ribbon.FindByID(static_cast<UINT>(id), FALSE, TRUE));
 }
 
 void CMainFrame::FillLampCombo() {
     CMFCRibbonCheckComb* const combo = FindLampCombo();
-    if (combo == nullptr)
+    if (combo == nullptr) {
         return;
+    }
     for (std::size_t lamp = 0; lamp < LampBoard::kCount; ++lamp) {
         combo->AddItem(kLampNames.at(lamp));
         combo->SetItemCheck(static_cast<int>(lamp), m_board->IsMounted(lamp));
@@ -90,8 +94,9 @@ void CMainFrame::OnConfiguredCommand(UINT id) {
 
 void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
     // Without a reactor's answer: on to whoever else may know, and enabled when nobody does.
-    if (!CMenuEvtHandleMgr::Ins()->Update(commandUi))
+    if (!CMenuEvtHandleMgr::Ins()->Update(commandUi)) {
         commandUi->ContinueRouting();
+    }
 }
 
 LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
@@ -106,8 +111,9 @@ LRESULT CMainFrame::OnLampMounted(WPARAM, LPARAM) {
     const CMFCRibbonCheckComb* const combo = FindLampCombo();
     for (std::size_t lamp = 0; combo != nullptr && lamp < LampBoard::kCount; ++lamp) {
         bool isMounted = false;
-        if (combo->GetItemCheck(static_cast<int>(lamp), isMounted))
+        if (combo->GetItemCheck(static_cast<int>(lamp), isMounted)) {
             m_board->Mount(lamp, isMounted);
+        }
     }
     ShowBoard();
     return 0;

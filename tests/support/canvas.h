@@ -42,8 +42,9 @@ public:
     HBITMAP Bitmap() const { return m_bitmap; }
     /// Ends the drawing, so that others may use the bitmap.
     void Close() {
-        if (m_oldBitmap)
+        if (m_oldBitmap) {
             ::SelectObject(m_dc.GetSafeHdc(), m_oldBitmap);
+        }
         m_oldBitmap = nullptr;
     }
     CSize Size() const { return m_size; }
@@ -59,8 +60,9 @@ public:
     std::set<std::uint32_t> Colours(const CRect& rect) const {
         std::set<std::uint32_t> colours;
         for (int y = rect.top; y < rect.bottom; ++y) {
-            for (int x = rect.left; x < rect.right; ++x)
+            for (int x = rect.left; x < rect.right; ++x) {
                 colours.insert(At(x, y));
+            }
         }
         return colours;
     }
@@ -70,8 +72,9 @@ public:
         CRect bounds(0, 0, 0, 0);
         for (int y = 0; y < m_size.cy; ++y) {
             for (int x = 0; x < m_size.cx; ++x) {
-                if (At(x, y) == colour)
+                if (At(x, y) == colour) {
                     bounds.UnionRect(bounds, CRect(x, y, x + 1, y + 1));
+                }
             }
         }
         return bounds;
@@ -81,8 +84,9 @@ public:
         CSize extent(0, 0);
         for (int y = 0; y < m_size.cy; ++y) {
             for (int x = 0; x < m_size.cx; ++x) {
-                if (At(x, y) != m_blank)
+                if (At(x, y) != m_blank) {
                     extent = CSize(std::max<int>(extent.cx, x + 1), std::max<int>(extent.cy, y + 1));
+                }
             }
         }
         return extent;

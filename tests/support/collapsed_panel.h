@@ -11,14 +11,17 @@
 inline CMFCRibbonPanel& CollapsePanel(CMFCRibbonCategory& category, int index,
                                       const std::function<void(int width)>& setWidth) {
     CArray<int, int> order;
-    for (int step = 0; step < 3; ++step)
+    for (int step = 0; step < 3; ++step) {
         order.Add(index);
+    }
     category.SetCollapseOrder(order);
     CMFCRibbonPanel& panel = *category.GetPanel(index);
-    for (int width = 900; width > 100 && !panel.IsCollapsed(); width -= 20)
+    for (int width = 900; width > 100 && !panel.IsCollapsed(); width -= 20) {
         setWidth(width);
-    if (!panel.IsCollapsed())
+    }
+    if (!panel.IsCollapsed()) {
         throw std::runtime_error("the panel never collapses");
+    }
     return panel;
 }
 
@@ -27,8 +30,9 @@ inline CMFCRibbonPanel& CollapsePanel(CMFCRibbonCategory& category, int index,
 inline void OpenCollapsedPanel(RibbonHost& host, Pointer& pointer) {
     CMFCRibbonCategory& category = *host.Bar().GetCategory(0);
     CMFCRibbonPanel& other = *category.AddPanel(L"Other");
-    for (UINT i = 0; i < 6; ++i)
+    for (UINT i = 0; i < 6; ++i) {
         other.Add(new CMFCRibbonButton(900 + i, L"A button with a long text"));
+    }
     host.LayOut();
     CMFCRibbonPanel& panel = CollapsePanel(category, 0, [&host](int width) {
         host.Frame().SetWindowPos(nullptr, 0, 0, width, 400, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);

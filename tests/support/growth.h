@@ -28,8 +28,9 @@ inline double MeasureGrowth(int times, const std::function<double()>& small, con
     double bestLarge = 1e9;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         double sum = 0;
-        for (int i = 0; i < times; ++i)
+        for (int i = 0; i < times; ++i) {
             sum += small();
+        }
         bestSmall = std::min(bestSmall, sum);
         bestLarge = std::min(bestLarge, large());
     }

@@ -12,8 +12,9 @@ inline HICON MakeIcon(int side, COLORREF color, const std::function<bool(int x, 
     const DWORD opaque = 0xFF000000u | GetRValue(color) << 16 | GetGValue(color) << 8 | GetBValue(color);
     std::vector<DWORD> pixels;
     for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x)
+        for (int x = 0; x < side; ++x) {
             pixels.push_back(isOpaque(x, y) ? opaque : 0);
+        }
     }
     ICONINFO info{};
     info.fIcon = TRUE;

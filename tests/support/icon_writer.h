@@ -13,8 +13,9 @@ struct IconColours {
 inline std::string MakeIconFile(int side, IconColours colours) {
     std::string bytes;
     const auto put = [&bytes](std::uint32_t value, int count) {
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             bytes += static_cast<char>(value >> (8 * i));
+        }
     };
     const auto unsignedSide = static_cast<std::uint32_t>(side);
     const std::uint32_t maskRowBytes = (unsignedSide + 31) / 32 * 4;
@@ -37,11 +38,13 @@ inline std::string MakeIconFile(int side, IconColours colours) {
     put(unsignedSide * 2, 4); // colours and mask
     put(1, 2);
     put(32, 2);
-    for (int i = 0; i < 6; ++i)
+    for (int i = 0; i < 6; ++i) {
         put(0, 4);
+    }
     for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x)
+        for (int x = 0; x < side; ++x) {
             put(0xFF000000u | (x < side / 2 ? colours.left : colours.right), 4);
+        }
     }
     bytes.append(maskRowBytes * unsignedSide, '\0');
     return bytes;

@@ -12,8 +12,9 @@ namespace {
 class OwnDesktop {
 public:
     OwnDesktop() : m_desktop(::CreateDesktopW(Name().c_str(), nullptr, nullptr, 0, GENERIC_ALL, nullptr)) {
-        if (m_desktop == nullptr || !::SetThreadDesktop(m_desktop))
+        if (m_desktop == nullptr || !::SetThreadDesktop(m_desktop)) {
             throw std::runtime_error("the tests did not get a desktop of their own");
+        }
     }
     OwnDesktop(const OwnDesktop&) = delete;
     OwnDesktop& operator=(const OwnDesktop&) = delete;

@@ -17,8 +17,9 @@ public:
         m_isStarted = Gdiplus::GdiplusStartup(&m_token, &input, nullptr) == Gdiplus::Ok;
     }
     ~ScopedGdiplus() {
-        if (m_isStarted)
+        if (m_isStarted) {
             Gdiplus::GdiplusShutdown(m_token);
+        }
     }
     ScopedGdiplus(const ScopedGdiplus&) = delete;
     ScopedGdiplus& operator=(const ScopedGdiplus&) = delete;

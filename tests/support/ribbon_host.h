@@ -39,8 +39,9 @@ public:
 
     int CountCommands(UINT id) const {
         int count = 0;
-        for (const HostMessage& one : received)
+        for (const HostMessage& one : received) {
             count += one.message == WM_COMMAND && one.wParam == id ? 1 : 0;
+        }
         return count;
     }
 
@@ -48,32 +49,37 @@ public:
     UINT disabledCommand = 0;
 
     BOOL PreTranslateMessage(MSG* message) override {
-        if (message->hwnd == m_hWnd)
+        if (message->hwnd == m_hWnd) {
             m_taken = message->message;
+        }
         return CFrameWndEx::PreTranslateMessage(message);
     }
     BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
-        if (code != CN_UPDATE_COMMAND_UI || extra == nullptr)
+        if (code != CN_UPDATE_COMMAND_UI || extra == nullptr) {
             return CFrameWndEx::OnCmdMsg(id, code, extra, info);
+        }
         static_cast<CCmdUI*>(extra)->Enable(id != disabledCommand);
         return TRUE;
     }
 
     void OnClosePopupMenu(CMFCPopupMenu* popup) override {
         CFrameWndEx::OnClosePopupMenu(popup);
-        if (const auto heard = onPopupClosed)
+        if (const auto heard = onPopupClosed) {
             heard(*popup);
+        }
     }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         const bool isTaken = std::exchange(m_taken, 0u) == message;
         const bool isCommand = message == WM_COMMAND && lParam == 0 && HIWORD(wParam) == 0;
-        if (!isCommand && !listensTo(message))
+        if (!isCommand && !listensTo(message)) {
             return CFrameWndEx::WindowProc(message, wParam, lParam);
+        }
         HostMessage one{message, wParam, lParam, {}, isTaken};
-        if (carriesText(message))
+        if (carriesText(message)) {
             one.text = reinterpret_cast<const CString*>(wParam)->GetString();
+        }
         received.push_back(one);
         // A copy: the answer may destroy the frame.
         const auto answer = onMessage;
@@ -89,8 +95,9 @@ class RibbonHost {
 public:
     RibbonHost() : m_frame(new RibbonHostFrame) {
         if (!m_frame->Create(nullptr, L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(0, 0, 1000, 600)) ||
-            !m_frame->bar.Create(m_frame))
+            !m_frame->bar.Create(m_frame)) {
             throw std::runtime_error("the frame could not be created");
+        }
         m_window = m_frame->GetSafeHwnd();
         m_panel = m_frame->bar.AddCategory(L"Home", 0, 0)->AddPanel(L"Panel");
     }
@@ -103,8 +110,9 @@ public:
 
     bool IsAlive() const { return ::IsWindow(m_window) != FALSE; }
     void Destroy() {
-        if (IsAlive())
+        if (IsAlive()) {
             m_frame->DestroyWindow();
+        }
     }
     RibbonHostFrame& Frame() { return *m_frame; }
     CMFCRibbonBar& Bar() { return m_frame->bar; }

@@ -14,8 +14,9 @@ public:
               work();
               m_hasFinished = true;
           }) {
-        while (!m_hasStarted)
+        while (!m_hasStarted) {
             std::this_thread::yield();
+        }
     }
     ~WatchedThread() { Join(); }
     WatchedThread(const WatchedThread&) = delete;
@@ -24,13 +25,15 @@ public:
     bool HasFinished() const { return m_hasFinished; }
     /// Whether it finishes while the caller looks that often, other threads running between two looks.
     bool FinishesWithin(int looks) const {
-        for (int i = 0; i < looks && !m_hasFinished; ++i)
+        for (int i = 0; i < looks && !m_hasFinished; ++i) {
             std::this_thread::yield();
+        }
         return m_hasFinished;
     }
     void Join() {
-        if (m_thread.joinable())
+        if (m_thread.joinable()) {
             m_thread.join();
+        }
     }
 
 private:

@@ -38,8 +38,9 @@ public:
     /// Builds the bars; false when a file could not be loaded, or when what was asked for is not there.
     bool Build() {
         bool isComplete = !m_options.ribbonFiles.empty();
-        if (!isComplete)
+        if (!isComplete) {
             Complain(L"no ribbon file: " + m_options.directory + L"cfg\\ribbon*.xml");
+        }
         for (const std::wstring& file : m_options.ribbonFiles) {
             CAddRibbonBar builder;
             if (!builder.Load(file, &m_ribbon, TRUE)) {
@@ -57,8 +58,9 @@ public:
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct) {
-        if (CFrameWndEx::OnCreate(createStruct) == -1 || !m_ribbon.Create(this))
+        if (CFrameWndEx::OnCreate(createStruct) == -1 || !m_ribbon.Create(this)) {
             return -1;
+        }
         m_ribbon.EnableToolTips(TRUE, TRUE);
         return 0;
     }
@@ -76,8 +78,9 @@ private:
                 return true;
             }
         }
-        if (m_options.category.empty())
+        if (m_options.category.empty()) {
             return true;
+        }
         Complain(L"no category named " + m_options.category);
         return false;
     }
@@ -110,11 +113,12 @@ public:
         }
         m_options = *options;
         m_gdiPlus = std::make_unique<GdiPlusSession>();
-        if (m_options.IsUnattended())
+        if (m_options.IsUnattended()) {
             m_answer = std::make_unique<ScopedMessageBoxHandler>([](const std::wstring& message, int, HWND) {
                 Complain(message);
                 return IDOK;
             });
+        }
         Prepare();
 
         auto* const frame = new CPreviewFrame(m_options); // destroys itself with its window
@@ -123,12 +127,14 @@ public:
             m_exitCode = kLoadFailed;
             return FALSE;
         }
-        if (!frame->Build())
+        if (!frame->Build()) {
             m_exitCode = kLoadFailed;
+        }
         frame->ShowWindow(SW_SHOW);
         frame->UpdateWindow();
-        if (!m_options.IsUnattended())
+        if (!m_options.IsUnattended()) {
             return TRUE;
+        }
         SettleWindow(frame->GetSafeHwnd());
         WriteOutputs(*frame);
         frame->DestroyWindow();
@@ -150,8 +156,9 @@ private:
             Complain(L"no usable language " + m_options.language);
             m_exitCode = kLoadFailed;
         }
-        if (m_options.scalePercent > 0)
+        if (m_options.scalePercent > 0) {
             afxGlobalData.SetRibbonImageScale(m_options.scalePercent / 100.0);
+        }
         CMFCVisualManagerOffice2007::SetStyle(m_options.skin == L"black"
                                                   ? CMFCVisualManagerOffice2007::Office2007_ObsidianBlack
                                                   : CMFCVisualManagerOffice2007::Office2007_Silver);

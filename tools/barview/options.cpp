@@ -21,8 +21,9 @@ std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
     for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(directory) / L"cfg", error)) {
         const std::wstring name = entry.path().filename().wstring();
         const CString folded = CString(name.c_str()).MakeUpper();
-        if (entry.is_regular_file(error) && folded.Left(6) == L"RIBBON" && folded.Right(4) == L".XML")
+        if (entry.is_regular_file(error) && folded.Left(6) == L"RIBBON" && folded.Right(4) == L".XML") {
             files.push_back(L"cfg\\" + name);
+        }
     }
     std::sort(files.begin(), files.end(), [](const std::wstring& left, const std::wstring& right) {
         return CString(left.c_str()).CompareNoCase(right.c_str()) < 0;
@@ -96,9 +97,11 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
         error = L"no such directory: " + options.directory;
         return std::nullopt;
     }
-    if (options.directory.back() != L'\\' && options.directory.back() != L'/')
+    if (options.directory.back() != L'\\' && options.directory.back() != L'/') {
         options.directory += L'\\';
-    if (options.ribbonFiles.empty())
+    }
+    if (options.ribbonFiles.empty()) {
         options.ribbonFiles = FindRibbonFiles(options.directory);
+    }
     return options;
 }

@@ -10,8 +10,9 @@ std::vector<std::wstring> CommandLineWords() {
     int count = 0;
     LPWSTR* const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
     std::vector<std::wstring> arguments;
-    for (int i = 1; i < count; ++i)
+    for (int i = 1; i < count; ++i) {
         arguments.emplace_back(words[i]);
+    }
     ::LocalFree(words);
     return arguments;
 }
@@ -19,8 +20,9 @@ std::vector<std::wstring> CommandLineWords() {
 bool ParseInteger(const std::wstring& text, int low, int high, int& number) {
     wchar_t* end = nullptr;
     const long value = std::wcstol(text.c_str(), &end, 10);
-    if (text.empty() || *end != 0 || value < low || value > high)
+    if (text.empty() || *end != 0 || value < low || value > high) {
         return false;
+    }
     number = static_cast<int>(value);
     return true;
 }

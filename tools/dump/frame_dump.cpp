@@ -33,8 +33,9 @@ ordered_json DumpRegistry() {
     ordered_json entries = ordered_json::array();
     for (int id = 0; id < end; ++id) {
         std::wstring keyword;
-        if (!registry->GetMenuMark(id, keyword))
+        if (!registry->GetMenuMark(id, keyword)) {
             continue;
+        }
         std::wstring name;
         std::wstring tooltip;
         std::wstring command;
@@ -63,12 +64,14 @@ ordered_json DumpElement(CMFCRibbonBaseElement& element);
 ordered_json DumpChildren(const CMFCRibbonBaseElement& element) {
     ordered_json children = ordered_json::array();
     if (const auto* const group = DYNAMIC_DOWNCAST(CMFCRibbonButtonsGroup, &element)) {
-        for (int i = 0; i < group->GetCount(); ++i)
+        for (int i = 0; i < group->GetCount(); ++i) {
             children.push_back(DumpElement(*group->GetButton(i)));
+        }
     } else if (const auto* const button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element)) {
         const auto& items = button->GetSubItems();
-        for (int i = 0; i < static_cast<int>(items.GetSize()); ++i)
+        for (int i = 0; i < static_cast<int>(items.GetSize()); ++i) {
             children.push_back(DumpElement(*items[i]));
+        }
     }
     return children;
 }
@@ -78,22 +81,25 @@ using State = std::optional<ordered_json>;
 /// What a combo keeps of an item; nothing where it keeps nothing.
 State StateOf(const CMFCRibbonCheckComb& combo, int index) {
     bool check = false;
-    if (!combo.GetItemCheck(index, check))
+    if (!combo.GetItemCheck(index, check)) {
         return std::nullopt;
+    }
     return ordered_json{{"check", check}};
 }
 
 State StateOf(const CMFCRibbonMultiCombo& combo, int index) {
     CMFCRibbonMultiCombo::rowInfo info = {};
-    if (!combo.GetItemInfo(index, info))
+    if (!combo.GetItemInfo(index, info)) {
         return std::nullopt;
+    }
     return ordered_json{{"clr", info.clr}, {"light", info.light}};
 }
 
 State StateOf(const CMFCRibbonVesMultiCombo& combo, int index) {
     bool light = false;
-    if (!combo.GetItemLight(index, light))
+    if (!combo.GetItemLight(index, light)) {
         return std::nullopt;
+    }
     return ordered_json{{"light", light}};
 }
 
@@ -101,13 +107,15 @@ State StateOf(const CMFCRibbonVesMultiCombo& combo, int index) {
 template <class Combo>
 void DumpCombo(ordered_json& result, CMFCRibbonBaseElement& element) {
     auto* const combo = DYNAMIC_DOWNCAST(Combo, &element);
-    if (!combo)
+    if (!combo) {
         return;
+    }
     ordered_json items = ordered_json::array();
     for (int i = 0; i < static_cast<int>(combo->GetCount()); ++i) {
         ordered_json item = {{"text", Utf8(CString(combo->GetItem(i)))}};
-        if (State state = StateOf(*combo, i))
+        if (State state = StateOf(*combo, i)) {
             item["state"] = std::move(*state);
+        }
         items.push_back(std::move(item));
     }
     result["items"] = std::move(items);
@@ -125,8 +133,9 @@ void DumpOwnValues(ordered_json& result, CMFCRibbonBaseElement& element) {
         result["min"] = slider->GetRangeMin();
         result["max"] = slider->GetRangeMax();
     }
-    if (auto* const label = DYNAMIC_DOWNCAST(CMFCRibbonLabelEx, &element))
+    if (auto* const label = DYNAMIC_DOWNCAST(CMFCRibbonLabelEx, &element)) {
         result["right"] = label->IsRight();
+    }
 }
 
 ordered_json DumpElement(CMFCRibbonBaseElement& element) {
@@ -141,23 +150,26 @@ ordered_json DumpElement(CMFCRibbonBaseElement& element) {
                            {"rect", DumpRect(element.GetRect())}};
     DumpOwnValues(result, element);
     ordered_json children = DumpChildren(element);
-    if (!children.empty())
+    if (!children.empty()) {
         result["children"] = std::move(children);
+    }
     return result;
 }
 
 ordered_json DumpCategory(CMFCRibbonCategory& category) {
     ordered_json result = {{"name", Utf8(CString(category.GetName()))}, {"class", ClassName(category)}};
-    if (const auto* const extended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, &category))
+    if (const auto* const extended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, &category)) {
         result["id"] = extended->GetID();
+    }
     result["visible"] = category.IsVisible() != FALSE;
     result["active"] = category.IsActive() != FALSE;
     ordered_json panels = ordered_json::array();
     for (int i = 0; i < category.GetPanelCount(); ++i) {
         CMFCRibbonPanel& panel = *category.GetPanel(i);
         ordered_json elements = ordered_json::array();
-        for (int k = 0; k < panel.GetCount(); ++k)
+        for (int k = 0; k < panel.GetCount(); ++k) {
             elements.push_back(DumpElement(*panel.GetElement(k)));
+        }
         panels.push_back({{"name", Utf8(CString(panel.GetName()))},
                           {"rect", DumpRect(panel.GetRect())},
                           {"elements", std::move(elements)}});
@@ -170,18 +182,21 @@ ordered_json DumpRibbon(const DumpSources& sources) {
     ordered_json categories = ordered_json::array();
     ordered_json quickAccess = ordered_json::array();
     if (sources.ribbon) {
-        for (int i = 0; i < sources.ribbon->GetCategoryCount(); ++i)
+        for (int i = 0; i < sources.ribbon->GetCategoryCount(); ++i) {
             categories.push_back(DumpCategory(*sources.ribbon->GetCategory(i)));
+        }
         CList<UINT, UINT> ids;
         sources.ribbon->GetQuickAccessCommands(ids);
-        for (POSITION at = ids.GetHeadPosition(); at;)
+        for (POSITION at = ids.GetHeadPosition(); at;) {
             quickAccess.push_back(ids.GetNext(at));
+        }
     }
     ordered_json commands = ordered_json::array();
     for (const std::vector<std::wstring>& file : sources.commands) {
         ordered_json list = ordered_json::array();
-        for (const std::wstring& command : file)
+        for (const std::wstring& command : file) {
             list.push_back(Utf8(command));
+        }
         commands.push_back(std::move(list));
     }
     return {{"categories", std::move(categories)},
@@ -191,8 +206,9 @@ ordered_json DumpRibbon(const DumpSources& sources) {
 
 ordered_json DumpRecord(const CAddRibbonBar::_RibbonInfo& record) {
     ordered_json values = ordered_json::array();
-    for (const std::wstring& value : record.valueGroup)
+    for (const std::wstring& value : record.valueGroup) {
         values.push_back(Utf8(value));
+    }
     return {{"groupBefore", record.groupBefore},
             {"name", Utf8(record.name)},
             {"type", Utf8(record.type)},
@@ -214,8 +230,9 @@ ordered_json DumpStatusExtras() {
     ordered_json extras = ordered_json::array();
     for (const auto& [path, row] : CAddRibbonBar::m_smStatusExBtns) {
         ordered_json records = ordered_json::array();
-        for (const CAddRibbonBar::_RibbonInfo& record : row.second)
+        for (const CAddRibbonBar::_RibbonInfo& record : row.second) {
             records.push_back(DumpRecord(record));
+        }
         extras.push_back({{"path", Utf8(path)}, {"row", Utf8(row.first)}, {"records", std::move(records)}});
     }
     return extras;
@@ -245,8 +262,9 @@ bool WriteJson(const ordered_json& json, const std::wstring& path) {
     {
         std::ofstream file(temporary, std::ios::binary);
         file << json.dump(2) << '\n';
-        if (!file.flush())
+        if (!file.flush()) {
             return false;
+        }
     }
     std::error_code error;
     std::filesystem::rename(temporary, target, error);

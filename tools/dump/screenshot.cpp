@@ -17,12 +17,14 @@ bool FindPngEncoder(CLSID& id) {
     Gdiplus::GetImageEncodersSize(&count, &bytes);
     std::vector<BYTE> buffer(bytes);
     auto* const encoders = reinterpret_cast<Gdiplus::ImageCodecInfo*>(buffer.data());
-    if (count == 0 || Gdiplus::GetImageEncoders(count, bytes, encoders) != Gdiplus::Ok)
+    if (count == 0 || Gdiplus::GetImageEncoders(count, bytes, encoders) != Gdiplus::Ok) {
         return false;
+    }
     const auto found = std::find_if(encoders, encoders + count,
                                     [](const auto& codec) { return codec.FormatID == Gdiplus::ImageFormatPNG; });
-    if (found == encoders + count)
+    if (found == encoders + count) {
         return false;
+    }
     id = found->Clsid;
     return true;
 }
@@ -44,8 +46,9 @@ bool WritePng(HBITMAP bitmap, const std::wstring& path) {
 
 bool WriteScreenshot(HWND window, const std::wstring& path) {
     CRect rect;
-    if (!::GetWindowRect(window, rect) || rect.IsRectEmpty())
+    if (!::GetWindowRect(window, rect) || rect.IsRectEmpty()) {
         return false;
+    }
     CBitmap bitmap;
     {
         CWindowDC source(CWnd::FromHandle(window));
@@ -65,9 +68,11 @@ void SettleWindow(HWND window) {
     // Idle work may invalidate and painting may post: a few rounds settle both.
     for (int round = 0; round < 5; ++round) {
         MSG message;
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
-            if (!AfxGetThread()->PumpMessage())
+        while (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE)) {
+            if (!AfxGetThread()->PumpMessage()) {
                 return;
+            }
+        }
         for (LONG count = 0; AfxGetThread()->OnIdle(count); ++count) {
         }
         ::RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);

@@ -1,7 +1,7 @@
 #include "afxframewndex.h"
 
-#include "afxPane.h"
 #include "afxext.h"
+#include "afxPane.h"
 #include "core/scoped_change.h"
 #include "fx/registered_messages.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <windows.h>
 #include <shellapi.h>
+#include <windows.h>
 
 /// What decides where a maximised frame without system caption lies. Rectangles on the screen.
 struct MaximizedSurroundings {

@@ -1,7 +1,7 @@
 #include "afxMDIChildWndEx.h"
 
-#include "afxPane.h"
 #include "afxext.h"
+#include "afxPane.h"
 
 IMPLEMENT_DYNCREATE(CMDIChildWndEx, CMDIChildWnd)
 

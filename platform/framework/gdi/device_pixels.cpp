@@ -38,8 +38,9 @@ void PutCornerAtOrigin(HDC dc, const RECT& rect) {
 void SelectClip(HDC dc, HRGN region) {
     std::vector<std::byte> buffer(GetRegionData(region, 0, nullptr));
     auto* const data = reinterpret_cast<RGNDATA*>(buffer.data());
-    if (GetRegionData(region, static_cast<DWORD>(buffer.size()), data) == 0)
+    if (GetRegionData(region, static_cast<DWORD>(buffer.size()), data) == 0) {
         return;
+    }
     const HRGN pixels = CreateRectRgn(0, 0, 0, 0);
     const HRGN part = CreateRectRgn(0, 0, 0, 0);
     const int beside = IsMirrored(dc) ? 1 : 0;

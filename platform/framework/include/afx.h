@@ -2,13 +2,13 @@
 
 // Root of the framework: objects, run-time classes, strings, exceptions, files, archives, diagnostics.
 
+#include "atltypes.h"
+#include "fx/archive.h"
 #include "fx/base.h"
 #include "fx/diagnostics.h"
-#include "fx/object.h"
-#include "fx/string.h"
-#include "atltypes.h"
+#include "fx/dump_context.h"
 #include "fx/exceptions.h"
 #include "fx/file.h"
-#include "fx/archive.h"
-#include "fx/dump_context.h"
 #include "fx/module_state.h"
+#include "fx/object.h"
+#include "fx/string.h"

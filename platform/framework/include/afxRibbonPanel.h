@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "afxwin.h"
-#include "afxtempl.h"
 #include "afxribbonbutton.h"
+#include "afxtempl.h"
+#include "afxwin.h"
 
 class CMFCRibbonBar;
 class CMFCRibbonCategory;

@@ -2,8 +2,8 @@
 
 /// The common controls.
 #include "afxwin.h"
-#include "fx/image_list.h"
 #include "fx/header_control.h"
+#include "fx/image_list.h"
 #include "fx/list_control.h"
 #include "fx/progress_control.h"
 #include "fx/rich_edit_control.h"

@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "fx/ribbon_colors.h"
 #include "afxRibbonPanel.h"
 #include "afxtoolbarimages.h"
+#include "fx/ribbon_colors.h"
 
 struct RibbonCategoryParts;
 

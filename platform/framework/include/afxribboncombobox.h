@@ -1,7 +1,7 @@
 #pragma once
 
-#include <afxRibbonEdit.h>
 #include <afxpopupmenu.h>
+#include <afxRibbonEdit.h>
 
 #include "fx/popup_rows.h"
 

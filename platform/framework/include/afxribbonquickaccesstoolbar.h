@@ -2,9 +2,9 @@
 
 #include <unordered_map>
 
-#include "afxtempl.h"
 #include "afxribbonbutton.h"
 #include "afxribbonbuttonsgroup.h"
+#include "afxtempl.h"
 
 class CMFCRibbonBar;
 struct RibbonMetrics;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <afxwin.h>
-#include <fx/ribbon_colors.h>
 #include <fx/registered_messages.h>
+#include <fx/ribbon_colors.h>
 #include <uxtheme.h>
 
 class CBasePane;

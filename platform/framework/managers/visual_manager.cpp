@@ -32,14 +32,16 @@ std::vector<HWND> FrameworkWindows() {
 } // namespace
 
 CMFCVisualManager::CMFCVisualManager(BOOL bTemporary) : m_bTemporary(bTemporary) {
-    if (!bTemporary && g_manager == nullptr)
+    if (!bTemporary && g_manager == nullptr) {
         g_manager = this;
+    }
     CMFCVisualManager::OnUpdateSystemColors();
 }
 
 CMFCVisualManager::~CMFCVisualManager() {
-    if (g_manager == this)
+    if (g_manager == this) {
         g_manager = nullptr;
+    }
 }
 
 CMFCVisualManager* CMFCVisualManager::GetInstance() {
@@ -70,22 +72,27 @@ void CMFCVisualManager::SetDefaultManager(CRuntimeClass* pRTI) {
 }
 
 void __stdcall CMFCVisualManager::DestroyInstance(BOOL bAutoDestroyOnly) {
-    if (g_manager == nullptr || (bAutoDestroyOnly && !g_manager->m_bAutoDestroy))
+    if (g_manager == nullptr || (bAutoDestroyOnly && !g_manager->m_bAutoDestroy)) {
         return;
+    }
     // The destructor takes the pointer back.
     delete g_manager;
 }
 
 void CMFCVisualManager::RedrawAll() {
-    for (const HWND window : FrameworkWindows())
-        if (::IsWindow(window))
+    for (const HWND window : FrameworkWindows()) {
+        if (::IsWindow(window)) {
             ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+        }
+    }
 }
 
 void __stdcall CMFCVisualManager::AdjustFrames() {
-    for (const HWND window : FrameworkWindows())
-        if (::IsWindow(window))
+    for (const HWND window : FrameworkWindows()) {
+        if (::IsWindow(window)) {
             ::SendMessageW(window, AFX_WM_CHANGEVISUALMANAGER, 0, 0);
+        }
+    }
 }
 
 void __stdcall CMFCVisualManager::AdjustToolbars() {
@@ -94,8 +101,9 @@ void __stdcall CMFCVisualManager::AdjustToolbars() {
         EnumChildWindows(frame, &Collect, reinterpret_cast<LPARAM>(&bars));
         for (const HWND bar : bars) {
             CWnd* const window = CWnd::FromHandlePermanent(bar);
-            if (window != nullptr && window->IsKindOf(RUNTIME_CLASS(CBasePane)))
+            if (window != nullptr && window->IsKindOf(RUNTIME_CLASS(CBasePane))) {
                 ::SendMessageW(bar, AFX_WM_CHANGEVISUALMANAGER, 0, 0);
+            }
         }
     }
 }

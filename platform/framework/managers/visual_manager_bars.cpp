@@ -46,10 +46,11 @@ void PaintCaptionGlyph(HDC dc, const CRect& rect, UINT hit, bool isAcross, bool 
                                  color, look);
         break;
     case AFX_HTMAXBUTTON:
-        if (isAcross)
+        if (isAcross) {
             visual::PaintArrow(dc, rect, isMaximized ? ArrowDirection::Right : ArrowDirection::Left, color, 0, look);
-        else
+        } else {
             visual::PaintArrow(dc, rect, isMaximized ? ArrowDirection::Down : ArrowDirection::Up, color, 0, look);
+        }
         break;
     case AFX_HTMENU:
         visual::PaintArrow(dc, rect, ArrowDirection::Down, color, 0, look);
@@ -63,8 +64,9 @@ void PaintCaptionGlyph(HDC dc, const CRect& rect, UINT hit, bool isAcross, bool 
 
 void CMFCVisualManager::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
     if (visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
-        visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
+        visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin()))) {
         return;
+    }
     visual::PaintFill(*pDC, rectClient, GetSkin()[FaceSlot::ToolBar], LookOf(GetSkin()));
 }
 
@@ -79,8 +81,9 @@ void CMFCVisualManager::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, B
                            GetSkin()[ColorSlot::MenuSeparator]);
         return;
     }
-    if (!bIsHoriz && visual::PaintMenuSeparator(*pDC, pBar, rect, LookOf(GetSkin())))
+    if (!bIsHoriz && visual::PaintMenuSeparator(*pDC, pBar, rect, LookOf(GetSkin()))) {
         return;
+    }
     visual::PaintEtchedLine(*pDC, rect, bIsHoriz != FALSE, GetSkin()[ColorSlot::SeparatorDark],
                             GetSkin()[ColorSlot::SeparatorLight], LookOf(GetSkin()));
 }
@@ -91,13 +94,15 @@ void CMFCVisualManager::OnDrawPaneBorder(CDC* pDC, CBasePane*, CRect& rect) {
 
 void CMFCVisualManager::OnFillButtonInterior(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state) {
     const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state));
-    if (face != nullptr && m_bEnableToolbarButtonFill)
+    if (face != nullptr && m_bEnableToolbarButtonFill) {
         visual::PaintFill(*pDC, rect, *face, LookOf(GetSkin()));
+    }
 }
 
 void CMFCVisualManager::OnDrawButtonBorder(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state) {
-    if (const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state)))
+    if (const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state))) {
         visual::PaintBorders(*pDC, rect, *face, {}, LookOf(GetSkin()));
+    }
 }
 
 void CMFCVisualManager::OnDrawButtonSeparator(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state,
@@ -126,10 +131,11 @@ void CMFCVisualManager::OnDrawComboDropButton(CDC* pDC, CRect rect, BOOL bDisabl
                                               BOOL bIsHighlighted, CMFCToolBarComboBoxButton*) {
     const visual::Face* const face =
         visual::ButtonFaceFor(GetSkin(), ComboState(bDisabled, bIsDropped, bIsHighlighted));
-    if (face != nullptr)
+    if (face != nullptr) {
         visual::PaintFace(*pDC, rect, *face, {}, LookOf(GetSkin()));
-    else
+    } else {
         visual::PaintFill(*pDC, rect, GetSkin()[FaceSlot::ToolBar], LookOf(GetSkin()));
+    }
     visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down,
                        GetSkin()[bDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], 0, LookOf(GetSkin()));
 }
@@ -156,15 +162,17 @@ void CMFCVisualManager::OnDrawExpandingBox(CDC* pDC, CRect rect, BOOL bIsOpened,
 
 void CMFCVisualManager::OnDrawScrollButtons(CDC* pDC, const CRect& rect, const int, int iImage, BOOL bHilited) {
     visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::BarBackground]);
-    if (bHilited)
+    if (bHilited) {
         visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::ButtonHot], {}, LookOf(GetSkin()));
+    }
     visual::PaintArrow(*pDC, rect, static_cast<visual::ArrowDirection>(std::clamp(iImage, 0, 3)),
                        GetSkin()[ColorSlot::Glyph], 0, LookOf(GetSkin()));
 }
 
 void CMFCVisualManager::OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar*, CRect rectPane, UINT, UINT nStyle) {
-    if (nStyle & SBPS_NOBORDERS)
+    if (nStyle & SBPS_NOBORDERS) {
         return;
+    }
     rectPane.left = rectPane.right - 2 * LookOf(GetSkin()).Line();
     visual::PaintEtchedLine(*pDC, rectPane, true, GetSkin()[ColorSlot::StatusSeparatorDark],
                             GetSkin()[ColorSlot::StatusSeparatorLight], LookOf(GetSkin()));
@@ -177,14 +185,16 @@ COLORREF CMFCVisualManager::OnDrawRibbonStatusBarPane(CDC*, CMFCRibbonStatusBar*
 void CMFCVisualManager::OnDrawStatusBarProgress(CDC* pDC, CMFCStatusBar*, CRect rectProgress, int nProgressTotal,
                                                 int nProgressCurr, COLORREF, COLORREF, COLORREF clrProgressText,
                                                 BOOL bProgressText) {
-    if (nProgressTotal <= 0)
+    if (nProgressTotal <= 0) {
         return;
+    }
     const int part = std::clamp(nProgressCurr, 0, nProgressTotal);
     CRect chunk = rectProgress;
     chunk.right = chunk.left + MulDiv(chunk.Width(), part, nProgressTotal);
     visual::PaintProgress(*pDC, rectProgress, chunk, LookOf(GetSkin()));
-    if (!bProgressText)
+    if (!bProgressText) {
         return;
+    }
     CString text;
     text.Format(L"%d%%", MulDiv(part, 100, nProgressTotal));
     visual::PaintText(*pDC, rectProgress, text, text.GetLength(), DT_CENTER | DT_VCENTER | DT_SINGLELINE,
@@ -196,10 +206,11 @@ void CMFCVisualManager::OnDrawStatusBarSizeBox(CDC* pDC, CMFCStatusBar*, CRect r
 }
 
 COLORREF CMFCVisualManager::OnFillCommandsListBackground(CDC* pDC, CRect rect, BOOL bIsSelected) {
-    if (bIsSelected)
+    if (bIsSelected) {
         visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuItemHot], {}, LookOf(GetSkin()));
-    else
+    } else {
         visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuFill]);
+    }
     return ToColorRef(GetSkin()[bIsSelected ? ColorSlot::MenuTextHot : ColorSlot::MenuText]);
 }
 
@@ -231,8 +242,9 @@ void CMFCVisualManager::OnDrawCaptionButton(CDC* pDC, CMFCCaptionButton* pButton
     const ElementState state{pButton->m_bFocused != FALSE, pButton->m_bPushed != FALSE, false, bDisabled != FALSE,
                              pButton->m_bDroppedDown != FALSE};
     const visual::Face* const face = bDisabled ? nullptr : visual::ButtonFaceFor(GetSkin(), state);
-    if (face != nullptr)
+    if (face != nullptr) {
         visual::PaintFace(*pDC, rect, *face, visual::Corners::All(LookOf(GetSkin()).Px(2)), LookOf(GetSkin()));
+    }
     const visual::Argb plain = GetSkin()[bActive ? ColorSlot::PaneCaptionTextActive : ColorSlot::PaneCaptionText];
     const visual::Argb color = bDisabled         ? visual::WithAlpha(plain, 110)
                                : face != nullptr ? GetSkin()[ColorSlot::Glyph]

@@ -19,8 +19,9 @@ constexpr int kCornerRadius = 7; // of the window's upper corners, at 96 DPI
 CMFCRibbonBar* CaptionRibbon(CWnd* window) {
     for (CWnd* child = window->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT)) {
         CMFCRibbonBar* const bar = DYNAMIC_DOWNCAST(CMFCRibbonBar, child);
-        if (bar != nullptr && bar->IsReplaceFrameCaption() && bar->IsVisible())
+        if (bar != nullptr && bar->IsReplaceFrameCaption() && bar->IsVisible()) {
             return bar;
+        }
     }
     return nullptr;
 }
@@ -57,26 +58,29 @@ void SetBrush(CBrush& brush, COLORREF color) {
 void CMFCVisualManager::OnDrawRibbonCaptionButton(CDC* pDC, CMFCRibbonCaptionButton* pButton) {
     const UINT command = pButton->GetSystemCommand();
     // An MDI child's buttons lie on the row of tabs.
-    if (pButton->GetMDIChild() != nullptr)
+    if (pButton->GetMDIChild() != nullptr) {
         visual::PaintChildButton(*pDC, pButton->GetRect(), GlyphOf(command), visual::StateOf(*pButton),
                                  LookOf(GetSkin()));
-    else
+    } else {
         visual::PaintCaptionButton(*pDC, pButton->GetRect(), GlyphOf(command), visual::StateOf(*pButton),
                                    LookOf(GetSkin()));
+    }
 }
 
 BOOL CMFCVisualManager::OnNcPaint(CWnd* pWnd, const CObList&, CRect) {
     CMFCRibbonBar* const ribbon = CaptionRibbon(pWnd);
-    if (ribbon == nullptr)
+    if (ribbon == nullptr) {
         return FALSE;
+    }
     CRect window, client;
     pWnd->GetWindowRect(&window);
     pWnd->GetClientRect(&client);
     pWnd->ClientToScreen(&client);
     client.OffsetRect(-window.left, -window.top);
     window.OffsetRect(-window.left, -window.top);
-    if (client == window)
+    if (client == window) {
         return TRUE;
+    }
     CWindowDC dc(pWnd);
     dc.ExcludeClipRect(&client);
     const CRect caption = ribbon->GetCaptionRect();
@@ -92,8 +96,9 @@ BOOL CMFCVisualManager::OnNcActivate(CWnd*, BOOL) { return FALSE; }
 void CMFCVisualManager::OnActivateApp(CWnd*, BOOL) {}
 
 BOOL CMFCVisualManager::OnSetWindowRegion(CWnd* pWnd, CSize sizeWindow) {
-    if (LookOf(GetSkin()).Radius() == 0 || CaptionRibbon(pWnd) == nullptr)
+    if (LookOf(GetSkin()).Radius() == 0 || CaptionRibbon(pWnd) == nullptr) {
         return FALSE;
+    }
     // The window owns the region from here.
     return ::SetWindowRgn(pWnd->GetSafeHwnd(), TopRoundedRegion(sizeWindow, afxGlobalData.ScalePixels(kCornerRadius)),
                           TRUE) != 0;

@@ -12,8 +12,9 @@ using visual::ToColorRef;
 
 bool visual::FillRibbonMenu(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
     const auto* menu = dynamic_cast<CMFCRibbonPanelMenuBar*>(bar);
-    if (menu == nullptr)
+    if (menu == nullptr) {
         return false;
+    }
     PaintSolid(dc, rect, look.skin[ColorSlot::MenuFill]);
     const LONG column = rect.left + menu->GetImageColumnWidth();
     PaintSolid(dc, {rect.left, rect.top, column, rect.bottom}, look.skin[ColorSlot::MenuGutter]);
@@ -31,8 +32,9 @@ void CMFCVisualManager::OnDrawMenuShadow(CDC* pDC, const CRect& rectClient, cons
                                          int iMinBrightness, int iMaxBrightness, CBitmap* pBmpSaveBottom,
                                          CBitmap* pBmpSaveRight, BOOL bRTL) {
     const int saved = pDC->SaveDC();
-    if (!rectExclude.IsRectEmpty())
+    if (!rectExclude.IsRectEmpty()) {
         pDC->ExcludeClipRect(rectExclude);
+    }
     CDrawingManager(*pDC).DrawShadow(rectClient, nDepth, iMinBrightness, iMaxBrightness, pBmpSaveBottom, pBmpSaveRight,
                                      static_cast<COLORREF>(-1), !bRTL);
     pDC->RestoreDC(saved);
@@ -40,10 +42,11 @@ void CMFCVisualManager::OnDrawMenuShadow(CDC* pDC, const CRect& rectClient, cons
 
 void CMFCVisualManager::OnDrawMenuCheck(CDC* pDC, CMFCToolBarMenuButton*, CRect rect, BOOL, BOOL bIsRadio) {
     visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuCheck], {}, LookOf(GetSkin()));
-    if (bIsRadio)
+    if (bIsRadio) {
         visual::PaintRadioMark(*pDC, rect, GetSkin()[ColorSlot::CheckMark], LookOf(GetSkin()));
-    else
+    } else {
         visual::PaintCheckMark(*pDC, rect, GetSkin()[ColorSlot::CheckMark], LookOf(GetSkin()));
+    }
 }
 
 void CMFCVisualManager::OnDrawMenuItemButton(CDC* pDC, CMFCToolBarMenuButton*, CRect rectButton, BOOL bHighlight,
@@ -52,8 +55,9 @@ void CMFCVisualManager::OnDrawMenuItemButton(CDC* pDC, CMFCToolBarMenuButton*, C
     line.right = line.left + 2 * LookOf(GetSkin()).Line();
     visual::PaintEtchedLine(*pDC, line, true, GetSkin()[ColorSlot::MenuSeparator], GetSkin()[ColorSlot::MenuFill],
                             LookOf(GetSkin()));
-    if (bHighlight && !bDisabled)
+    if (bHighlight && !bDisabled) {
         visual::PaintBorders(*pDC, rectButton, GetSkin()[FaceSlot::MenuItemHot], {}, LookOf(GetSkin()));
+    }
 }
 
 COLORREF CMFCVisualManager::OnDrawMenuLabel(CDC* pDC, CRect rect) {
@@ -71,9 +75,10 @@ void CMFCVisualManager::OnDrawMenuResizeBar(CDC* pDC, CRect rect, int) {
 void CMFCVisualManager::OnDrawMenuScrollButton(CDC* pDC, CRect rect, BOOL bIsScrollDown, BOOL bIsHighlited,
                                                BOOL bIsPressed, BOOL bIsDisabled) {
     visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::MenuFill]);
-    if ((bIsHighlited || bIsPressed) && !bIsDisabled)
+    if ((bIsHighlited || bIsPressed) && !bIsDisabled) {
         visual::PaintFace(*pDC, rect, GetSkin()[bIsPressed ? FaceSlot::ButtonPressed : FaceSlot::MenuItemHot], {},
                           LookOf(GetSkin()));
+    }
     visual::PaintArrow(*pDC, rect, bIsScrollDown ? visual::ArrowDirection::Down : visual::ArrowDirection::Up,
                        GetSkin()[bIsDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], 0, LookOf(GetSkin()));
 }
@@ -97,8 +102,9 @@ void CMFCVisualManager::OnDrawMenuArrowOnCustomizeList(CDC* pDC, CRect rectComma
 }
 
 void CMFCVisualManager::OnDrawShowAllMenuItems(CDC* pDC, CRect rect, AFX_BUTTON_STATE state) {
-    if (state != ButtonsIsRegular)
+    if (state != ButtonsIsRegular) {
         visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuItemHot], {}, LookOf(GetSkin()));
+    }
     visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down, GetSkin()[ColorSlot::Glyph], 0, LookOf(GetSkin()));
 }
 

@@ -2,9 +2,9 @@
 
 #include "managers/manager_look.h"
 
-#include <afxRibbonPanel.h>
 #include <afxribbonbar.h>
 #include <afxribboncategory.h>
+#include <afxRibbonPanel.h>
 
 #include <array>
 
@@ -26,18 +26,21 @@ visual::Argb TintOf(CMFCVisualManager& manager, AFX_RibbonCategoryColor color) {
 }
 
 COLORREF ButtonTextColor(const visual::Skin& skin, const ElementState& state) {
-    if (state.isDisabled)
+    if (state.isDisabled) {
         return ToColorRef(skin[ColorSlot::RibbonTextDisabled]);
+    }
     const bool isLit = state.isHot || state.isPressed || state.isChecked || state.isDropped;
     return ToColorRef(skin[isLit ? ColorSlot::RibbonTextHot : ColorSlot::RibbonText]);
 }
 
 // A row of a pop-up; the part under the pointer of a row with a command and a menu has a frame of its own.
 COLORREF FillMenuRow(CDC* pDC, CMFCRibbonButton& button, const ElementState& state, const visual::Skin& skin) {
-    if (state.isDisabled)
+    if (state.isDisabled) {
         return ToColorRef(skin[ColorSlot::MenuTextDisabled]);
-    if (!state.isHot && !state.isDropped)
+    }
+    if (!state.isHot && !state.isDropped) {
         return ToColorRef(skin[ColorSlot::MenuText]);
+    }
     const visual::Look look = LookOf(skin);
     const visual::Corners corners = visual::Corners::All(look.Radius());
     const CRect menu = button.GetMenuRect();
@@ -76,14 +79,16 @@ void CMFCVisualManager::OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect
     CWnd* const frame = pBar != nullptr ? pBar->GetTopLevelParent() : nullptr;
     const bool isActive = pBar == nullptr || pBar->IsCaptionActive();
     visual::PaintCaption(*pDC, rect, isActive, LookOf(GetSkin()));
-    if (frame == nullptr)
+    if (frame == nullptr) {
         return;
+    }
     CString title;
     frame->GetWindowText(title);
     // A lone dot says less than nothing.
     const CString least = title.Left(1) + L"...";
-    if (pDC->GetTextExtent(least).cx > rectText.Width() && pDC->GetTextExtent(title).cx > rectText.Width())
+    if (pDC->GetTextExtent(least).cx > rectText.Width() && pDC->GetTextExtent(title).cx > rectText.Width()) {
         return;
+    }
     visual::PaintText(*pDC, rectText, title, title.GetLength(),
                       DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX,
                       GetSkin()[isActive ? ColorSlot::CaptionText : ColorSlot::CaptionTextInactive]);
@@ -102,8 +107,9 @@ COLORREF CMFCVisualManager::OnDrawRibbonCategoryTab(CDC* pDC, CMFCRibbonTab* pTa
     visual::TabState state{bIsActive != FALSE, pTab->IsHighlighted() != FALSE, pTab->IsFocused() != FALSE, 0};
     // An active tab shows the focus by its brightness.
     state.isHot = state.isHot || (state.isFocused && !state.isActive);
-    if (const CMFCRibbonCategory* category = pTab->GetParentCategory())
+    if (const CMFCRibbonCategory* category = pTab->GetParentCategory()) {
         state.tint = TintOf(*this, category->GetTabColor());
+    }
     visual::PaintTab(*pDC, pTab->GetRect(), state, LookOf(GetSkin()));
     return ToColorRef(visual::TabTextColor(state, GetSkin()));
 }
@@ -115,8 +121,9 @@ void CMFCVisualManager::OnDrawRibbonCategory(CDC* pDC, CMFCRibbonCategory* pCate
 
 COLORREF CMFCVisualManager::OnDrawRibbonCategoryCaption(CDC* pDC, CMFCRibbonContextCaption* pContextCaption) {
     const visual::Argb tint = TintOf(*this, pContextCaption->GetColor());
-    if (tint != 0)
+    if (tint != 0) {
         visual::PaintContextCaption(*pDC, pContextCaption->GetRect(), tint, LookOf(GetSkin()));
+    }
     return ToColorRef(GetSkin()[ColorSlot::CaptionText]);
 }
 
@@ -132,8 +139,9 @@ COLORREF CMFCVisualManager::OnDrawRibbonPanel(CDC* pDC, CMFCRibbonPanel* pPanel,
 
 void CMFCVisualManager::OnDrawRibbonPanelCaption(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectCaption) {
     const CString name = pPanel->GetName();
-    if (const CRect launch = pPanel->GetLaunchButton().GetRect(); !launch.IsRectEmpty())
+    if (const CRect launch = pPanel->GetLaunchButton().GetRect(); !launch.IsRectEmpty()) {
         rectCaption.right = launch.left;
+    }
     visual::PaintPanelCaption(*pDC, rectCaption, name, name.GetLength(), pPanel->IsHighlighted() != FALSE,
                               LookOf(GetSkin()));
 }
@@ -160,18 +168,20 @@ void CMFCVisualManager::OnFillRibbonQuickAccessToolBarPopup(CDC* pDC, CMFCRibbon
 
 COLORREF CMFCVisualManager::OnFillRibbonButton(CDC* pDC, CMFCRibbonButton* pButton) {
     const ElementState state = StateOf(*pButton);
-    if (pButton->IsMenuMode())
+    if (pButton->IsMenuMode()) {
         return FillMenuRow(pDC, *pButton, state, GetSkin());
+    }
     visual::PaintButton(*pDC, PartsOf(*pButton), state, LookOf(GetSkin()));
     return ButtonTextColor(GetSkin(), state);
 }
 
 void CMFCVisualManager::OnDrawRibbonButtonBorder(CDC* pDC, CMFCRibbonButton* pButton) {
     // A lit face has its border already; only a button that always shows one still needs it.
-    if (pButton->IsAlwaysDrawBorder() && visual::ButtonFaceFor(GetSkin(), StateOf(*pButton)) == nullptr)
+    if (pButton->IsAlwaysDrawBorder() && visual::ButtonFaceFor(GetSkin(), StateOf(*pButton)) == nullptr) {
         visual::PaintBorders(*pDC, pButton->GetRect(), GetSkin()[FaceSlot::Group],
                              visual::CornersFor(visual::PlaceOf(*pButton), LookOf(GetSkin()).Radius()),
                              LookOf(GetSkin()));
+    }
 }
 
 COLORREF CMFCVisualManager::OnDrawRibbonButtonsGroup(CDC* pDC, CMFCRibbonButtonsGroup*, CRect rectGroup) {

@@ -1,7 +1,7 @@
 #include "afxvisualmanageroffice2007.h"
 
-#include "afxtooltipctrl.h"
 #include "afxpopupmenubar.h"
+#include "afxtooltipctrl.h"
 #include "managers/manager_look.h"
 #include "managers/menu_background.h"
 #include "visual/system_skins.h"
@@ -80,10 +80,11 @@ COLORREF CMFCVisualManagerOffice2003::GetHighlightMenuItemColor() const {
 }
 
 void CMFCVisualManagerOffice2003::OnFillHighlightedArea(CDC* pDC, CRect rect, CBrush* pBrush, CMFCToolBarButton*) {
-    if (pBrush != nullptr)
+    if (pBrush != nullptr) {
         pDC->FillRect(rect, pBrush);
-    else
+    } else {
         visual::PaintFill(*pDC, rect, GetSkin()[FaceSlot::ButtonHot], LookOf(GetSkin()));
+    }
 }
 
 void CMFCVisualManagerOffice2003::OnHighlightQuickCustomizeMenuButton(CDC* pDC, CMFCToolBarMenuButton*, CRect rect) {
@@ -96,10 +97,11 @@ void CMFCVisualManagerOffice2003::OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu*, CRe
 
 void CMFCVisualManagerOffice2003::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz) {
     // Between a menu's items the line is the menu's own.
-    if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr)
+    if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr) {
         CMFCVisualManager::OnDrawSeparator(pDC, pBar, rect, bIsHoriz);
-    else
+    } else {
         PaintSeparator(*pDC, rect, bIsHoriz, visual::GradientSkin());
+    }
 }
 
 void CMFCVisualManagerOffice2003::OnUpdateSystemColors() {
@@ -114,8 +116,9 @@ void CMFCVisualManagerOffice2003::OnUpdateSystemColors() {
 
 void CMFCVisualManagerOffice2003::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
     if (visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
-        visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin())))
+        visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin()))) {
         return;
+    }
     const visual::Argb light = visual::FromColorRef(m_clrToolBarGradientLight);
     const visual::Argb dark = visual::FromColorRef(m_clrToolBarGradientDark);
     visual::Face face = GetSkin()[FaceSlot::ToolBar];
@@ -130,8 +133,9 @@ CMFCVisualManagerOffice2007::CMFCVisualManagerOffice2007() { CMFCVisualManagerOf
 CMFCVisualManagerOffice2007::~CMFCVisualManagerOffice2007() = default;
 
 BOOL __stdcall CMFCVisualManagerOffice2007::SetStyle(Style style, LPCTSTR) {
-    if (style < Office2007_LunaBlue || style > Office2007_Silver)
+    if (style < Office2007_LunaBlue || style > Office2007_Silver) {
         return FALSE;
+    }
     g_style = style;
     return TRUE;
 }
@@ -150,9 +154,12 @@ const visual::Skin& CMFCVisualManagerOffice2007::GetSkin() const {
 }
 
 CMFCRibbonBar* CMFCVisualManagerOffice2007::GetRibbonBar(CWnd* pWnd) const {
-    for (CWnd* child = pWnd->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
-        if (CMFCRibbonBar* const bar = DYNAMIC_DOWNCAST(CMFCRibbonBar, child); bar != nullptr && bar->IsMainRibbonBar())
+    for (CWnd* child = pWnd->GetWindow(GW_CHILD); child != nullptr; child = child->GetWindow(GW_HWNDNEXT)) {
+        if (CMFCRibbonBar* const bar = DYNAMIC_DOWNCAST(CMFCRibbonBar, child);
+            bar != nullptr && bar->IsMainRibbonBar()) {
             return bar;
+        }
+    }
     return nullptr;
 }
 
@@ -162,8 +169,9 @@ BOOL CMFCVisualManagerOffice2007::IsRibbonPresent(CWnd* pWnd) const {
 }
 
 BOOL CMFCVisualManagerOffice2007::GetToolTipInfo(CMFCToolTipInfo& params, UINT) {
-    if (!CanDrawStyle())
+    if (!CanDrawStyle()) {
         return FALSE;
+    }
     SetTooltip(params, GetSkin());
     return TRUE;
 }
@@ -179,10 +187,11 @@ void CMFCVisualManagerOffice2007::OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu*, CRe
 
 void CMFCVisualManagerOffice2007::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz) {
     // Between a menu's items the line is the menu's own.
-    if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr)
+    if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr) {
         CMFCVisualManager::OnDrawSeparator(pDC, pBar, rect, bIsHoriz);
-    else
+    } else {
         PaintSeparator(*pDC, rect, bIsHoriz, GetSkin());
+    }
 }
 
 void CMFCVisualManagerOffice2007::OnUpdateSystemColors() { CMFCVisualManagerOffice2003::OnUpdateSystemColors(); }

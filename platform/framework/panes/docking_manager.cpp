@@ -1,7 +1,7 @@
 #include "afxDockingManager.h"
 
-#include "afxPane.h"
 #include "afxext.h"
+#include "afxPane.h"
 #include "core/scoped_change.h"
 #include "panes/pane_layout.h"
 #include "panes/ribbon_pane.h"

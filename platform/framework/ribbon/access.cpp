@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "afxRibbonEdit.h"
 #include "afxribbonbar.h"
+#include "afxRibbonEdit.h"
 #include "afxribbonslider.h"
 #include "core/framework_text.h"
 #include "ribbon/access_object.h"

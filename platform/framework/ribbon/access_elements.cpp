@@ -1,9 +1,9 @@
 // What each kind of ribbon element tells assistive programs.
+#include <afxribbonbar.h>
+#include <afxribboncheckbox.h>
 #include <afxRibbonEdit.h>
 #include <afxRibbonLabel.h>
-#include <afxribbonbar.h>
 #include <afxribbonpanelmenu.h>
-#include <afxribboncheckbox.h>
 #include <afxribbonslider.h>
 
 #include <oleacc.h>

@@ -5,9 +5,9 @@
 #include "afxtooltipmanager.h"
 #include "afxvisualmanager.h"
 #include "fx/registered_messages.h"
+#include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/drawing_scope.h"
-#include "fx/window_dc.h"
 #include "ribbon/paint_buffer.h"
 
 IMPLEMENT_DYNAMIC(CMFCRibbonBar, CPane)

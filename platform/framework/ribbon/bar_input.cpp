@@ -2,8 +2,8 @@
 // released; the element that loses the capture is told nothing but that it is no longer pressed.
 #include "afxribbonbar.h"
 
-#include "afxRibbonEdit.h"
 #include "afxcmn.h"
+#include "afxRibbonEdit.h"
 #include "fx/registered_messages.h"
 #include "ribbon/bar_parts.h"
 

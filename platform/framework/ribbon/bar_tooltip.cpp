@@ -2,8 +2,8 @@
 #include "afxribbonbar.h"
 
 #include "afxtooltipmanager.h"
-#include "ribbon/bar_parts.h"
 #include "popups/tooltip_width.h"
+#include "ribbon/bar_parts.h"
 
 namespace {
 

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include <afxribbonbar.h>
-#include <afxRibbonPanel.h>
 #include <afxribboncategory.h>
+#include <afxRibbonPanel.h>
 #include <afxribbonpanelmenu.h>
 
 #include "ribbon/drawing_scope.h"
@@ -43,16 +43,20 @@ CMFCRibbonBaseElement::CMFCRibbonBaseElement() : m_rect(0, 0, 0, 0), m_szMargin(
 
 // A pop-up must not show what is no longer there, nor stay open without the element that opened it.
 CMFCRibbonBaseElement::~CMFCRibbonBaseElement() {
-    if (m_pParentMenu != nullptr)
+    if (m_pParentMenu != nullptr) {
         m_pParentMenu->OnElementDestroyed(this);
-    if (auto* menu = dynamic_cast<CMFCPopupMenu*>(m_pPopup))
+    }
+    if (auto* menu = dynamic_cast<CMFCPopupMenu*>(m_pPopup)) {
         menu->OnParentElementDestroyed();
-    if (m_pRibbonBar != nullptr)
+    }
+    if (m_pRibbonBar != nullptr) {
         m_pRibbonBar->OnElementDestroyed(this);
+    }
     CMFCRibbonBaseElement* const original = m_pOriginal;
     CMFCRibbonBaseElement::SetOriginal(nullptr);
-    while (CMFCRibbonBaseElement* const copy = m_pFirstCopy)
+    while (CMFCRibbonBaseElement* const copy = m_pFirstCopy) {
         copy->CMFCRibbonBaseElement::SetOriginal(original != copy ? original : nullptr);
+    }
 }
 
 // ---- identity and texts
@@ -64,8 +68,9 @@ UINT CMFCRibbonBaseElement::GetNotifyID() { return m_nID; }
 void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
     const CString text = lpszText != nullptr ? lpszText : L"";
     const int split = text.Find(L'\n');
-    if (split >= 0)
+    if (split >= 0) {
         m_strKeys = text.Mid(split + 1);
+    }
     const CString shown = split >= 0 ? text.Left(split) : text;
     if (shown == m_strText) {
         CleanUpSizes();
@@ -90,8 +95,9 @@ void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
 void CMFCRibbonBaseElement::SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
     m_strKeys = lpszKeys != nullptr ? lpszKeys : L"";
     m_strMenuKeys = lpszMenuKeys != nullptr ? lpszMenuKeys : L"";
-    if (m_pRibbonBar != nullptr)
+    if (m_pRibbonBar != nullptr) {
         m_pRibbonBar->GetKeyboard().Forget();
+    }
 }
 
 void CMFCRibbonBaseElement::SetToolTipText(LPCTSTR lpszText) {
@@ -111,8 +117,9 @@ CString CMFCRibbonBaseElement::GetDescription() const { return m_strDescription;
 // A tip that is shown now shows the old text at the old place.
 void CMFCRibbonBaseElement::UpdateTooltipInfo() {
     CMFCRibbonBar* bar = GetParentRibbonBar();
-    if (bar != nullptr && m_bIsHighlighted)
+    if (bar != nullptr && m_bIsHighlighted) {
         bar->PopTooltip();
+    }
 }
 
 void CMFCRibbonBaseElement::CopyFrom(const CMFCRibbonBaseElement& src) {
@@ -132,8 +139,9 @@ void CMFCRibbonBaseElement::CopyFrom(const CMFCRibbonBaseElement& src) {
 }
 
 void CMFCRibbonBaseElement::CopyStateFrom(CMFCRibbonBaseElement* pSource) {
-    if (pSource == nullptr || pSource == this)
+    if (pSource == nullptr || pSource == this) {
         return;
+    }
     SetDisabled(pSource->IsDisabled());
     SetChecked(pSource->IsChecked(), pSource->IsRadio());
     SetVisible(pSource->IsVisible());
@@ -141,23 +149,28 @@ void CMFCRibbonBaseElement::CopyStateFrom(CMFCRibbonBaseElement* pSource) {
 }
 
 void CMFCRibbonBaseElement::SetOriginal(CMFCRibbonBaseElement* pOriginal) {
-    if (pOriginal == this)
+    if (pOriginal == this) {
         pOriginal = nullptr;
-    if (m_pOriginal != nullptr)
+    }
+    if (m_pOriginal != nullptr) {
         (m_pPreviousCopy != nullptr ? m_pPreviousCopy->m_pNextCopy : m_pOriginal->m_pFirstCopy) = m_pNextCopy;
-    if (m_pNextCopy != nullptr)
+    }
+    if (m_pNextCopy != nullptr) {
         m_pNextCopy->m_pPreviousCopy = m_pPreviousCopy;
+    }
     m_pOriginal = pOriginal;
     m_pPreviousCopy = nullptr;
     m_pNextCopy = pOriginal != nullptr ? std::exchange(pOriginal->m_pFirstCopy, this) : nullptr;
-    if (m_pNextCopy != nullptr)
+    if (m_pNextCopy != nullptr) {
         m_pNextCopy->m_pPreviousCopy = this;
+    }
 }
 
 std::vector<CMFCRibbonBaseElement*> CMFCRibbonBaseElement::CollectCopies() const {
     std::vector<CMFCRibbonBaseElement*> copies;
-    for (CMFCRibbonBaseElement* copy = m_pFirstCopy; copy != nullptr; copy = copy->m_pNextCopy)
+    for (CMFCRibbonBaseElement* copy = m_pFirstCopy; copy != nullptr; copy = copy->m_pNextCopy) {
         copies.push_back(copy);
+    }
     return copies;
 }
 
@@ -173,8 +186,9 @@ void CMFCRibbonBaseElement::SetParentPanel(CMFCRibbonPanel* pPanel) { m_pParentP
 CMFCRibbonPanel* CMFCRibbonBaseElement::GetParentPanel() const { return m_pParentPanel; }
 
 void CMFCRibbonBaseElement::SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) {
-    if (m_pRibbonBar != nullptr && m_pRibbonBar != pRibbonBar)
+    if (m_pRibbonBar != nullptr && m_pRibbonBar != pRibbonBar) {
         m_pRibbonBar->OnElementDestroyed(this);
+    }
     m_pRibbonBar = pRibbonBar;
 }
 
@@ -182,16 +196,18 @@ CMFCRibbonBar* CMFCRibbonBaseElement::GetParentRibbonBar() const { return m_pRib
 
 // A copy in a pop-up has no bar of its own; its original has.
 CMFCRibbonBar* CMFCRibbonBaseElement::GetTopLevelRibbonBar() const {
-    if (m_pRibbonBar != nullptr || m_pOriginal == nullptr)
+    if (m_pRibbonBar != nullptr || m_pOriginal == nullptr) {
         return m_pRibbonBar;
+    }
     return m_pOriginal->GetTopLevelRibbonBar();
 }
 
 void CMFCRibbonBaseElement::SetParentWnd(CWnd* pParentWnd) { m_pParentWnd = pParentWnd; }
 
 CWnd* CMFCRibbonBaseElement::GetParentWnd() const {
-    if (m_pParentWnd != nullptr)
+    if (m_pParentWnd != nullptr) {
         return m_pParentWnd;
+    }
     return m_pRibbonBar;
 }
 
@@ -200,19 +216,23 @@ CWnd* CMFCRibbonBaseElement::GetParentWnd() const {
 // The category measures the element anew, where it has one; a copy in the quick access toolbar and an element of the
 // tab row are measured with the bar.
 void CMFCRibbonBaseElement::MarkLayoutDirty() {
-    if (m_pParentMenu != nullptr)
+    if (m_pParentMenu != nullptr) {
         m_pParentMenu->MarkLayoutDirty();
-    if (m_pParentCategory != nullptr)
+    }
+    if (m_pParentCategory != nullptr) {
         m_pParentCategory->MarkLayoutDirty();
-    else if (m_pRibbonBar != nullptr)
+    } else if (m_pRibbonBar != nullptr) {
         m_pRibbonBar->MarkLayoutDirty();
+    }
 }
 
 CSize CMFCRibbonBaseElement::GetSize(CDC* pDC) {
-    if (m_bCompactMode && HasCompactMode())
+    if (m_bCompactMode && HasCompactMode()) {
         return GetCompactSize(pDC);
-    if ((m_bCompactMode || m_bIntermediateMode) && HasIntermediateMode())
+    }
+    if ((m_bCompactMode || m_bIntermediateMode) && HasIntermediateMode()) {
         return GetIntermediateSize(pDC);
+    }
     return GetRegularSize(pDC);
 }
 
@@ -235,8 +255,9 @@ BOOL CMFCRibbonBaseElement::CanBeStretchedHorizontally() { return FALSE; }
 void CMFCRibbonBaseElement::StretchHorizontally() {}
 
 BOOL CMFCRibbonBaseElement::StretchToWholeRow(CDC* pDC, int nHeight) {
-    if (!IsWholeRowHeight() || m_rect.IsRectEmpty())
+    if (!IsWholeRowHeight() || m_rect.IsRectEmpty()) {
         return FALSE;
+    }
     m_rect.bottom = m_rect.top + nHeight;
     OnAfterChangeRect(pDC);
     return TRUE;
@@ -280,13 +301,15 @@ BOOL CMFCRibbonBaseElement::OnDrawMenuImage(CDC* /*pDC*/, CRect /*rect*/) { retu
 
 void CMFCRibbonBaseElement::Redraw() {
     CWnd* parent = GetParentWnd();
-    if (parent != nullptr && parent->GetSafeHwnd() != nullptr && !m_rect.IsRectEmpty())
+    if (parent != nullptr && parent->GetSafeHwnd() != nullptr && !m_rect.IsRectEmpty()) {
         parent->InvalidateRect(m_rect);
+    }
 }
 
 void CMFCRibbonBaseElement::SetVisible(BOOL bIsVisible) {
-    if (!m_bIsVisible == !bIsVisible)
+    if (!m_bIsVisible == !bIsVisible) {
         return;
+    }
     m_bIsVisible = bIsVisible;
     OnShow(bIsVisible);
     MarkLayoutDirty();
@@ -300,29 +323,34 @@ BOOL CMFCRibbonBaseElement::IsAutoRepeatMode(int& nDelay) const {
 BOOL CMFCRibbonBaseElement::CanBeAddedToQuickAccessToolBar() const { return IsCommand(m_nID); }
 
 void CMFCRibbonBaseElement::SetHighlighted(BOOL bHighlighted) {
-    if (!m_bIsHighlighted == !bHighlighted)
+    if (!m_bIsHighlighted == !bHighlighted) {
         return;
+    }
     m_bIsHighlighted = bHighlighted;
     OnHighlight(bHighlighted);
     Redraw();
 }
 
 void CMFCRibbonBaseElement::SetFocused(BOOL bFocused) {
-    if (!m_bIsFocused == !bFocused)
+    if (!m_bIsFocused == !bFocused) {
         return;
+    }
     m_bIsFocused = bFocused;
     OnSetFocus(bFocused);
     Redraw();
-    if (bFocused)
+    if (bFocused) {
         NotifyAccessibility(EVENT_OBJECT_FOCUS);
+    }
 }
 
 void CMFCRibbonBaseElement::SetDisabled(BOOL bDisabled) {
-    if (!m_bIsDisabled == !bDisabled)
+    if (!m_bIsDisabled == !bDisabled) {
         return;
+    }
     m_bIsDisabled = bDisabled;
-    if (bDisabled)
+    if (bDisabled) {
         SetPressed(FALSE);
+    }
     OnEnable(!bDisabled);
     Redraw();
     NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
@@ -331,13 +359,15 @@ void CMFCRibbonBaseElement::SetDisabled(BOOL bDisabled) {
 void CMFCRibbonBaseElement::SetPressed(BOOL bPressed) {
     const BOOL changes = !m_bIsPressed != !bPressed;
     m_bIsPressed = bPressed;
-    if (changes)
+    if (changes) {
         NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
+    }
 }
 
 void CMFCRibbonBaseElement::SetChecked(BOOL bChecked, BOOL bIsRadio) {
-    if (!m_bIsChecked == !bChecked && !m_bIsRadio == !bIsRadio)
+    if (!m_bIsChecked == !bChecked && !m_bIsRadio == !bIsRadio) {
         return;
+    }
     m_bIsChecked = bChecked;
     m_bIsRadio = bIsRadio;
     OnCheck(bChecked);
@@ -384,6 +414,7 @@ void CMFCRibbonBaseElement::GetElements(CArray<CMFCRibbonBaseElement*, CMFCRibbo
 
 void CMFCRibbonBaseElement::GetElementsByID(UINT uiCmdID,
                                             CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) {
-    if (m_nID == uiCmdID)
+    if (m_nID == uiCmdID) {
         arElements.Add(this);
+    }
 }

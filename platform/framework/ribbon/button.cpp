@@ -50,10 +50,12 @@ CMFCRibbonButton::~CMFCRibbonButton() {
 
 void CMFCRibbonButton::ReleaseIcons() {
     if (m_bAutoDestroyIcon) {
-        if (m_hIcon != nullptr)
+        if (m_hIcon != nullptr) {
             ::DestroyIcon(m_hIcon);
-        if (m_hIconSmall != nullptr)
+        }
+        if (m_hIconSmall != nullptr) {
             ::DestroyIcon(m_hIconSmall);
+        }
     }
     m_hIcon = nullptr;
     m_hIconSmall = nullptr;
@@ -72,17 +74,20 @@ void CMFCRibbonButton::TakeMenu(HMENU menu, const std::shared_ptr<CMenu>& loaded
     m_bIsDefaultCommand = isDefaultCommand;
     m_bRightAlignMenu = rightAlign;
     OnMenuChanged();
-    for (CMFCRibbonButton* copy : CollectFollowers())
+    for (CMFCRibbonButton* copy : CollectFollowers()) {
         copy->TakeMenu(menu, loaded, isDefaultCommand, rightAlign);
+    }
 }
 
 void CMFCRibbonButton::SetDefaultCommand(BOOL bSet) {
-    if (!m_bIsDefaultCommand == !bSet)
+    if (!m_bIsDefaultCommand == !bSet) {
         return;
+    }
     m_bIsDefaultCommand = bSet;
     OnMenuChanged();
-    for (CMFCRibbonButton* copy : CollectFollowers())
+    for (CMFCRibbonButton* copy : CollectFollowers()) {
         copy->SetDefaultCommand(bSet);
+    }
 }
 
 // The arrow and the split take room.
@@ -122,12 +127,15 @@ CSize CMFCRibbonButton::GetImageSize(RibbonImageType type) const {
         const int side = ribbon::CurrentMetrics().Scaled(isLarge ? 32 : 16);
         return {side, side};
     }
-    if (GetImageIndex(isLarge) < 0)
+    if (GetImageIndex(isLarge) < 0) {
         return {0, 0};
-    if (m_pParentGroup != nullptr && m_pParentGroup->HasImages())
+    }
+    if (m_pParentGroup != nullptr && m_pParentGroup->HasImages()) {
         return isLarge ? CSize(0, 0) : m_pParentGroup->GetImageSize();
-    if (m_pParentCategory != nullptr)
+    }
+    if (m_pParentCategory != nullptr) {
         return m_pParentCategory->GetImageSize(isLarge);
+    }
     const CMFCRibbonBaseElement* original = GetOriginal();
     return original != nullptr ? original->GetImageSize(type) : CSize(0, 0);
 }
@@ -195,17 +203,20 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
     ribbon::ButtonContent content;
     content.image =
         ribbon::FromSize(GetImageSize(bLarge || IsAlwaysLargeImage() ? RibbonImageLarge : RibbonImageSmall));
-    if (HasMenu())
+    if (HasMenu()) {
         content.menu = IsSplit() ? ButtonMenu::Split : ButtonMenu::Whole;
-    if (bLarge)
+    }
+    if (bLarge) {
         content.look = m_bTextAlwaysOnRight ? ButtonLook::LargeOnRight : ButtonLook::Large;
-    else
+    } else {
         content.look = bImageOnly ? ButtonLook::ImageOnly : ButtonLook::Small;
+    }
 
     const std::wstring_view text = View(m_strText);
     content.rightText = ribbon::MeasureText(pDC, text);
-    if (content.look != ButtonLook::Large)
+    if (content.look != ButtonLook::Large) {
         return content;
+    }
 
     const int arrow = HasMenu() ? ribbon::BottomArrowWidth(metrics) : 0;
     const auto measure = [pDC](std::wstring_view part) { return ribbon::MeasureText(pDC, part).width; };
@@ -217,8 +228,9 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
 }
 
 CSize CMFCRibbonButton::MeasureAs(CDC* pDC, BOOL bLarge, BOOL bImageOnly) {
-    if (ShowsMenuRow())
+    if (ShowsMenuRow()) {
         return ribbon::ToSize(ribbon::MeasureMenuRow(CollectMenuRow(pDC), ribbon::CurrentMetrics()));
+    }
     ribbon::TextBreak lines;
     return ribbon::ToSize(
         ribbon::MeasureButton(CollectContent(pDC, bLarge, bImageOnly, lines), ribbon::CurrentMetrics()));
@@ -248,8 +260,9 @@ CString CMFCRibbonButton::GetToolTipText() const { return m_strToolTip.IsEmpty()
 void CMFCRibbonButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonBaseElement::CopyFrom(src);
     const auto* button = dynamic_cast<const CMFCRibbonButton*>(&src);
-    if (button == nullptr || button == this)
+    if (button == nullptr || button == this) {
         return;
+    }
     ReleaseIcons();
     m_bAutoDestroyIcon = button->m_bAutoDestroyIcon;
     m_bAlphaBlendIcon = button->m_bAlphaBlendIcon;

@@ -25,8 +25,9 @@ UINT WithEnd(UINT format, int width, int room) { return format | (width > room ?
 } // namespace
 
 void CMFCRibbonButton::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     if (ShowsMenuRow()) {
         DrawMenuRow(pDC);
         return;
@@ -36,11 +37,13 @@ void CMFCRibbonButton::OnDraw(CDC* pDC) {
     const Face face = CollectFace(pDC);
     CompareWithMeasured(ribbon::ToSize(face.content.rightText));
 
-    if (!face.parts.image.IsEmpty())
+    if (!face.parts.image.IsEmpty()) {
         DrawImage(pDC, GetFaceImageType(), ribbon::ToRect(face.parts.image));
+    }
     DrawFaceText(pDC, face, color);
-    if (!face.parts.arrow.IsEmpty())
+    if (!face.parts.arrow.IsEmpty()) {
         ribbon::DrawMenuArrow(pDC, face.parts.arrow, color);
+    }
     OnDrawBorder(pDC);
 }
 
@@ -51,8 +54,9 @@ COLORREF CMFCRibbonButton::OnFillBackground(CDC* pDC) {
 void CMFCRibbonButton::OnDrawBorder(CDC* pDC) { CMFCVisualManager::GetInstance()->OnDrawRibbonButtonBorder(pDC, this); }
 
 void CMFCRibbonButton::DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText) {
-    if (m_strText.IsEmpty() || face.parts.text.IsEmpty())
+    if (m_strText.IsEmpty() || face.parts.text.IsEmpty()) {
         return;
+    }
     if (face.content.look != ribbon::ButtonLook::Large) {
         const UINT format = WithEnd(kOneLine, face.content.rightText.width, face.parts.text.Width());
         DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.parts.text), format, clrText);
@@ -68,8 +72,9 @@ void CMFCRibbonButton::DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText
                        clrText);
     };
     draw(m_strText.Left(static_cast<int>(face.lines.firstLength)), face.lines.firstWidth, 0, area.top);
-    if (face.content.isArrowAlone)
+    if (face.content.isArrowAlone) {
         return;
+    }
     const int tail = face.parts.arrow.IsEmpty() ? 0 : ribbon::BottomArrowWidth(ribbon::CurrentMetrics());
     draw(m_strText.Mid(static_cast<int>(face.lines.secondStart)), face.lines.secondWidth, tail, area.top + row);
 }
@@ -81,13 +86,15 @@ void CMFCRibbonButton::CompareWithMeasured(CSize sizeDrawn) {
         m_bAsksForLayout = FALSE;
         return;
     }
-    if (m_bAsksForLayout)
+    if (m_bAsksForLayout) {
         return;
+    }
     m_bAsksForLayout = TRUE;
-    if (m_pParentMenu != nullptr)
+    if (m_pParentMenu != nullptr) {
         m_pParentMenu->MarkLayoutDirty();
-    else if (CMFCRibbonBar* const bar = GetParentRibbonBar())
+    } else if (CMFCRibbonBar* const bar = GetParentRibbonBar()) {
         bar->MarkMeasuresDirty();
+    }
 }
 
 CSize CMFCRibbonButton::DrawBottomText(CDC* pDC, BOOL bCalcOnly) {
@@ -104,8 +111,9 @@ CSize CMFCRibbonButton::DrawBottomText(CDC* pDC, BOOL bCalcOnly) {
 
 int CMFCRibbonButton::DrawRibbonText(CDC* pDC, const CString& strText, CRect rectText, UINT uiDTFlags,
                                      COLORREF clrText) {
-    if (clrText == static_cast<COLORREF>(-1))
+    if (clrText == static_cast<COLORREF>(-1)) {
         return pDC->DrawText(strText, rectText, uiDTFlags);
+    }
     const COLORREF old = pDC->SetTextColor(clrText);
     const int height = pDC->DrawText(strText, rectText, uiDTFlags);
     pDC->SetTextColor(old);
@@ -115,18 +123,21 @@ int CMFCRibbonButton::DrawRibbonText(CDC* pDC, const CString& strText, CRect rec
 // ---- image
 
 void CMFCRibbonButton::DrawImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
-    if (rectImage.IsRectEmpty() || DrawIconImage(pDC, type, rectImage) || DrawListImage(pDC, type, rectImage))
+    if (rectImage.IsRectEmpty() || DrawIconImage(pDC, type, rectImage) || DrawListImage(pDC, type, rectImage)) {
         return;
-    if (CMFCRibbonBaseElement* original = GetOriginal())
+    }
+    if (CMFCRibbonBaseElement* original = GetOriginal()) {
         original->DrawImage(pDC, type, rectImage);
+    }
 }
 
 // An icon of a disabled button goes through an image list, which knows how to grey it.
 BOOL CMFCRibbonButton::DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
     const bool isLarge = type == RibbonImageLarge;
     HICON icon = GetIcon(isLarge);
-    if (icon == nullptr)
+    if (icon == nullptr) {
         return FALSE;
+    }
     if (!IsDisabled()) {
         const CWnd* parent = GetParentWnd();
         const bool isMirrored =
@@ -139,8 +150,9 @@ BOOL CMFCRibbonButton::DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectI
     images.SetImageSize(isLarge ? CSize(32, 32) : CSize(16, 16));
     const int index = images.AddIcon(icon, m_bAlphaBlendIcon || afxGlobalData.Is32BitIcons());
     CAfxDrawState state;
-    if (index < 0 || !images.PrepareDrawImage(state, rectImage.Size()))
+    if (index < 0 || !images.PrepareDrawImage(state, rectImage.Size())) {
         return FALSE;
+    }
     const BOOL isDrawn = images.Draw(pDC, rectImage.left, rectImage.top, index, FALSE, TRUE);
     images.EndDrawImage(state);
     return isDrawn;
@@ -149,8 +161,9 @@ BOOL CMFCRibbonButton::DrawIconImage(CDC* pDC, RibbonImageType type, CRect rectI
 BOOL CMFCRibbonButton::DrawListImage(CDC* pDC, RibbonImageType type, CRect rectImage) {
     const bool isLarge = type == RibbonImageLarge;
     const int index = GetImageIndex(isLarge);
-    if (index < 0)
+    if (index < 0) {
         return FALSE;
+    }
     if (m_pParentGroup != nullptr && m_pParentGroup->HasImages() && !isLarge) {
         m_pParentGroup->OnDrawImage(pDC, rectImage, this, index);
         return TRUE;

@@ -45,8 +45,9 @@ Rect Centred(const Rect& rect, Size size) {
 Rect PlaceBottomArrow(const Rect& text, const ButtonContent& content, const FaceMetrics& metrics) {
     const Rect line{text.left, text.top + metrics.textHeight, text.right, text.top + 2 * metrics.textHeight};
     const Size arrow = MenuArrowSize(metrics);
-    if (content.isArrowAlone)
+    if (content.isArrowAlone) {
         return Centred(line, arrow);
+    }
     const int width = std::min(content.secondLineWidth + BottomArrowWidth(metrics), line.Width());
     const int right = line.left + (line.Width() + width) / 2;
     const int top = line.top + (line.Height() - arrow.height) / 2 + metrics.Scaled(1);
@@ -63,8 +64,9 @@ ButtonFace PlaceLarge(const Rect& rect, const ButtonContent& content, const Face
     const int textTop = face.image.bottom + metrics.Scaled(kImageTextBelow);
     face.text = {rect.left + side, textTop, rect.right - side, textTop + 2 * metrics.textHeight};
     face.command = rect;
-    if (!HasMenu(content))
+    if (!HasMenu(content)) {
         return face;
+    }
 
     face.arrow = PlaceBottomArrow(face.text, content, metrics);
     if (content.menu == ButtonMenu::Split) {
@@ -81,8 +83,9 @@ ButtonFace PlaceRow(const Rect& rect, const ButtonContent& content, const FaceMe
     ButtonFace face;
     const int side = metrics.Scaled(kSideMargin);
     Rect command = rect;
-    if (content.menu == ButtonMenu::Split)
+    if (content.menu == ButtonMenu::Split) {
         command.right = std::max(rect.left, rect.right - SplitMenuWidth(metrics));
+    }
 
     Rect inner{command.left + side, command.top, command.right - side, command.bottom};
     if (content.menu == ButtonMenu::Whole) {
@@ -141,8 +144,9 @@ Size MeasureButton(const ButtonContent& content, const FaceMetrics& metrics) {
 }
 
 ButtonFace PlaceButton(const Rect& rect, const ButtonContent& content, const FaceMetrics& metrics) {
-    if (rect.IsEmpty())
+    if (rect.IsEmpty()) {
         return {};
+    }
     return content.look == ButtonLook::Large ? PlaceLarge(rect, content, metrics) : PlaceRow(rect, content, metrics);
 }
 

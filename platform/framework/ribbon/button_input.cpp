@@ -5,22 +5,25 @@
 
 void CMFCRibbonButton::OnMouseMove(CPoint point) {
     const BOOL isMenuHot = IsSplit() && m_rectMenu.PtInRect(point);
-    if (!m_bMenuAreaHighlighted == !isMenuHot)
+    if (!m_bMenuAreaHighlighted == !isMenuHot) {
         return;
+    }
     m_bMenuAreaHighlighted = isMenuHot;
     Redraw();
 }
 
 void CMFCRibbonButton::OnHighlight(BOOL bHighlight) {
-    if (!bHighlight)
+    if (!bHighlight) {
         m_bMenuAreaHighlighted = FALSE;
+    }
 }
 
 // A menu opens on the press, a command is sent on the release. A press that opened a menu is over with it.
 void CMFCRibbonButton::OnLButtonDown(CPoint point) {
     m_bIsPressed = FALSE;
-    if (IsDisabled() || !m_rect.PtInRect(point))
+    if (IsDisabled() || !m_rect.PtInRect(point)) {
         return;
+    }
     if (HasMenu() && (!IsSplit() || m_rectMenu.PtInRect(point))) {
         OnShowPopupMenu();
         return;
@@ -34,25 +37,29 @@ void CMFCRibbonButton::OnLButtonUp(CPoint point) {
     const BOOL wasPressed = m_bIsPressed;
     m_bIsPressed = FALSE;
     Redraw();
-    if (wasPressed && !IsDisabled() && m_rect.PtInRect(point))
+    if (wasPressed && !IsDisabled() && m_rect.PtInRect(point)) {
         OnClick(point);
+    }
 }
 
 // A derived bar hears of the click first, and must leave the button alive; the command's handler need not.
 void CMFCRibbonButton::OnClick(CPoint point) {
-    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr)
+    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr) {
         bar->OnClickButton(this, point);
+    }
     CloseParentMenus();
     NotifyCommand();
 }
 
 BOOL CMFCRibbonButton::OnKey(BOOL bIsMenuKey) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return FALSE;
-    if (HasMenu() && (bIsMenuKey || !IsSplit()))
+    }
+    if (HasMenu() && (bIsMenuKey || !IsSplit())) {
         OnShowPopupMenu();
-    else
+    } else {
         OnClick(m_rect.CenterPoint());
+    }
     return TRUE;
 }
 
@@ -62,8 +69,9 @@ BOOL CMFCRibbonButton::OnProcessKey(UINT nChar) {
     case VK_SPACE:
         return OnKey(FALSE);
     case VK_DOWN:
-        if (!HasMenu() || IsDisabled())
+        if (!HasMenu() || IsDisabled()) {
             return FALSE;
+        }
         OnShowPopupMenu();
         return TRUE;
     default:
@@ -72,8 +80,9 @@ BOOL CMFCRibbonButton::OnProcessKey(UINT nChar) {
 }
 
 void CMFCRibbonButton::ClosePopupMenu() {
-    for (int i = 0; i < m_arSubItems.GetSize(); ++i)
+    for (int i = 0; i < m_arSubItems.GetSize(); ++i) {
         m_arSubItems[i]->ClosePopupMenu();
+    }
     CMFCRibbonBaseElement::ClosePopupMenu();
 }
 
@@ -81,6 +90,7 @@ void CMFCRibbonButton::ClosePopupMenu() {
 void CMFCRibbonButton::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     const BOOL isMenuOnly = HasMenu() && !IsSplit();
     CMFCRibbonBaseElement::OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler && !isMenuOnly);
-    for (int i = 0; i < m_arSubItems.GetSize(); ++i)
+    for (int i = 0; i < m_arSubItems.GetSize(); ++i) {
         m_arSubItems[i]->OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);
+    }
 }

@@ -68,10 +68,12 @@ ribbon::MenuRowContent CMFCRibbonButton::CollectMenuRow(CDC* pDC) const {
     content.text = ribbon::MeasureText(pDC, View(TextOf(m_strText)));
     content.text.height = ribbon::CurrentMetrics().textHeight;
     content.keys = ribbon::MeasureText(pDC, View(KeysOf(m_strText)));
-    if (isLarge && m_bIsAlwaysShowDescription && !m_strDescription.IsEmpty())
+    if (isLarge && m_bIsAlwaysShowDescription && !m_strDescription.IsEmpty()) {
         content.description = ribbon::MeasureText(pDC, View(m_strDescription));
-    if (HasMenu())
+    }
+    if (HasMenu()) {
         content.menu = IsSplit() ? ribbon::ButtonMenu::Split : ribbon::ButtonMenu::Whole;
+    }
     content.imageColumn = m_pParentMenu != nullptr ? m_pParentMenu->GetImageColumnWidth(this) : 0;
     return content;
 }
@@ -89,19 +91,24 @@ void CMFCRibbonButton::DrawMenuRow(CDC* pDC) {
     const ribbon::MenuRowFace face = ribbon::PlaceMenuRow(ribbon::FromRect(m_rect), content, ribbon::CurrentMetrics());
     const COLORREF color = ribbon::TextColor(pDC, OnFillBackground(pDC), IsDisabled());
 
-    if (IsChecked())
+    if (IsChecked()) {
         CMFCVisualManager::GetInstance()->OnDrawRibbonMenuCheckFrame(pDC, this, ribbon::ToRect(face.frame));
+    }
     if (face.image.IsEmpty() || !OnDrawMenuImage(pDC, ribbon::ToRect(face.image))) {
-        if (IsChecked())
+        if (IsChecked()) {
             DrawMark(pDC, ribbon::ToRect(face.frame), IsRadio(), color);
+        }
     }
     DrawRibbonText(pDC, TextOf(m_strText), ribbon::ToRect(face.text), kRowText, color);
-    if (!face.description.IsEmpty())
+    if (!face.description.IsEmpty()) {
         DrawRibbonText(pDC, m_strDescription, ribbon::ToRect(face.description), kRowText, color);
-    if (!face.keys.IsEmpty())
+    }
+    if (!face.keys.IsEmpty()) {
         DrawRibbonText(pDC, KeysOf(m_strText), ribbon::ToRect(face.keys), kRowText, color);
-    if (!face.arrow.IsEmpty())
+    }
+    if (!face.arrow.IsEmpty()) {
         DrawSubmenuArrow(pDC, ribbon::ToRect(face.arrow), color);
+    }
     OnDrawBorder(pDC);
 }
 

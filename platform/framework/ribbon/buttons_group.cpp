@@ -19,21 +19,24 @@ CMFCRibbonButtonsGroup::CMFCRibbonButtonsGroup(CMFCRibbonBaseElement* pButton) :
 CMFCRibbonButtonsGroup::~CMFCRibbonButtonsGroup() { RemoveAll(); }
 
 void CMFCRibbonButtonsGroup::AddButton(CMFCRibbonBaseElement* pButton) {
-    if (pButton == nullptr)
+    if (pButton == nullptr) {
         return;
+    }
     m_arButtons.Add(pButton);
     pButton->SetParentGroup(this);
     pButton->SetParentCategory(m_pParentCategory);
     pButton->SetParentPanel(m_pParentPanel);
     pButton->SetParentWnd(m_pParentWnd);
-    if (m_pRibbonBar != nullptr)
+    if (m_pRibbonBar != nullptr) {
         pButton->SetParentRibbonBar(m_pRibbonBar);
+    }
     pButton->SetCompactMode(TRUE);
 }
 
 void CMFCRibbonButtonsGroup::AddButtons(const CList<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& lstButtons) {
-    for (POSITION position = lstButtons.GetHeadPosition(); position != nullptr;)
+    for (POSITION position = lstButtons.GetHeadPosition(); position != nullptr;) {
         AddButton(lstButtons.GetNext(position));
+    }
 }
 
 CMFCRibbonBaseElement* CMFCRibbonButtonsGroup::GetButton(int i) const {
@@ -41,8 +44,9 @@ CMFCRibbonBaseElement* CMFCRibbonButtonsGroup::GetButton(int i) const {
 }
 
 void CMFCRibbonButtonsGroup::RemoveAll() {
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         delete m_arButtons[i];
+    }
     m_arButtons.RemoveAll();
 }
 
@@ -52,8 +56,9 @@ void CMFCRibbonButtonsGroup::SetImages(CMFCToolBarImages* pImages, CMFCToolBarIm
                                        CMFCToolBarImages* pDisabledImages) {
     const auto copy = [](CMFCToolBarImages* from, CMFCToolBarImages& to) {
         to.Clear();
-        if (from != nullptr)
+        if (from != nullptr) {
             from->CopyTo(to);
+        }
     };
     copy(pImages, m_Images);
     copy(pHotImages, m_HotImages);
@@ -61,8 +66,9 @@ void CMFCRibbonButtonsGroup::SetImages(CMFCToolBarImages* pImages, CMFCToolBarIm
 }
 
 const CSize CMFCRibbonButtonsGroup::GetImageSize() const {
-    if (!HasImages())
+    if (!HasImages()) {
         return m_pParentCategory != nullptr ? m_pParentCategory->GetImageSize(FALSE) : CSize(0, 0);
+    }
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     const CSize size = m_Images.GetImageSize();
     return {metrics.Scaled(size.cx), metrics.Scaled(size.cy)};
@@ -76,8 +82,9 @@ void CMFCRibbonButtonsGroup::OnDrawImage(CDC* pDC, CRect rectImage, CMFCRibbonBa
                                 : isHot && nImageIndex < m_HotImages.GetCount() ? m_HotImages
                                                                                 : m_Images;
     CAfxDrawState state;
-    if (!images.PrepareDrawImage(state, rectImage.Size()))
+    if (!images.PrepareDrawImage(state, rectImage.Size())) {
         return;
+    }
     images.Draw(pDC, rectImage.left, rectImage.top, nImageIndex, FALSE, isDisabled && !hasDisabled);
     images.EndDrawImage(state);
 }
@@ -87,8 +94,9 @@ void CMFCRibbonButtonsGroup::OnDrawImage(CDC* pDC, CRect rectImage, CMFCRibbonBa
 CSize CMFCRibbonButtonsGroup::GetRegularSize(CDC* pDC) {
     CSize size(0, 0);
     for (int i = 0; i < GetCount(); ++i) {
-        if (!m_arButtons[i]->IsVisible())
+        if (!m_arButtons[i]->IsVisible()) {
             continue;
+        }
         // An image list of the group can give a button the small image that it had not when it was added.
         m_arButtons[i]->SetCompactMode(TRUE);
         const CSize button = m_arButtons[i]->GetSize(pDC);
@@ -100,19 +108,22 @@ CSize CMFCRibbonButtonsGroup::GetRegularSize(CDC* pDC) {
 
 void CMFCRibbonButtonsGroup::OnCalcTextSize(CDC* pDC) {
     CMFCRibbonBaseElement::OnCalcTextSize(pDC);
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->OnCalcTextSize(pDC);
+    }
 }
 
 void CMFCRibbonButtonsGroup::CleanUpSizes() {
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->CleanUpSizes();
+    }
 }
 
 void CMFCRibbonButtonsGroup::OnAfterChangeRect(CDC* pDC) {
     CMFCRibbonBaseElement::OnAfterChangeRect(pDC);
-    if (m_pRibbonBar != nullptr)
+    if (m_pRibbonBar != nullptr) {
         m_bShowGroupBorder = m_pRibbonBar->IsShowGroupBorder(this);
+    }
     PlaceButtons(pDC);
 }
 
@@ -134,95 +145,111 @@ void CMFCRibbonButtonsGroup::PlaceButtons(CDC* pDC) {
         }
         button->OnAfterChangeRect(pDC);
     }
-    if (last != nullptr)
+    if (last != nullptr) {
         last->SetLocationInGroup(last->GetLocationInGroup() == RibbonElementFirstInGroup ? RibbonElementSingleInGroup
                                                                                          : RibbonElementLastInGroup);
+    }
 }
 
 void CMFCRibbonButtonsGroup::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawRibbonButtonsGroup(pDC, this, m_rect);
     const COLORREF old = pDC->SetTextColor(ribbon::TextColor(pDC, color, FALSE));
     for (int i = 0; i < GetCount(); ++i) {
-        if (m_arButtons[i]->IsVisible())
+        if (m_arButtons[i]->IsVisible()) {
             m_arButtons[i]->OnDraw(pDC);
+        }
     }
     pDC->SetTextColor(old);
 }
 
 void CMFCRibbonButtonsGroup::OnShow(BOOL bShow) {
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->OnShow(bShow && m_arButtons[i]->IsVisible());
+    }
 }
 
 void CMFCRibbonButtonsGroup::DestroyCtrl() {
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->DestroyCtrl();
+    }
 }
 
 void CMFCRibbonButtonsGroup::OnHighlight(BOOL bHighlight) {
-    for (int i = 0; !bHighlight && i < GetCount(); ++i)
+    for (int i = 0; !bHighlight && i < GetCount(); ++i) {
         m_arButtons[i]->SetHighlighted(FALSE);
+    }
 }
 
 void CMFCRibbonButtonsGroup::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);
+    }
 }
 
 // ---- parents and copies
 
 void CMFCRibbonButtonsGroup::SetParentCategory(CMFCRibbonCategory* pCategory) {
     CMFCRibbonBaseElement::SetParentCategory(pCategory);
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->SetParentCategory(pCategory);
+    }
 }
 
 void CMFCRibbonButtonsGroup::SetParentPanel(CMFCRibbonPanel* pPanel) {
     CMFCRibbonBaseElement::SetParentPanel(pPanel);
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->SetParentPanel(pPanel);
+    }
 }
 
 void CMFCRibbonButtonsGroup::SetParentRibbonBar(CMFCRibbonBar* pRibbonBar) {
     CMFCRibbonBaseElement::SetParentRibbonBar(pRibbonBar);
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->SetParentRibbonBar(pRibbonBar);
+    }
 }
 
 void CMFCRibbonButtonsGroup::SetParentWnd(CWnd* pParentWnd) {
     CMFCRibbonBaseElement::SetParentWnd(pParentWnd);
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->SetParentWnd(pParentWnd);
+    }
 }
 
 void CMFCRibbonButtonsGroup::SetParentMenu(CMFCRibbonPanelMenuBar* pMenuBar) {
     CMFCRibbonBaseElement::SetParentMenu(pMenuBar);
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->SetParentMenu(pMenuBar);
+    }
 }
 
 // Buttons follow when both groups have the same ones.
 void CMFCRibbonButtonsGroup::SetOriginal(CMFCRibbonBaseElement* pOriginal) {
     CMFCRibbonBaseElement::SetOriginal(pOriginal);
     auto* group = dynamic_cast<CMFCRibbonButtonsGroup*>(pOriginal);
-    if (group == nullptr || group->GetCount() != GetCount())
+    if (group == nullptr || group->GetCount() != GetCount()) {
         return;
-    for (int i = 0; i < GetCount(); ++i)
+    }
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->SetOriginal(group->m_arButtons[i]);
+    }
 }
 
 void CMFCRibbonButtonsGroup::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonBaseElement::CopyFrom(src);
     const auto* group = dynamic_cast<const CMFCRibbonButtonsGroup*>(&src);
-    if (group == nullptr || group == this)
+    if (group == nullptr || group == this) {
         return;
+    }
     m_bShowGroupBorder = group->m_bShowGroupBorder;
     const auto copyImages = [](const CMFCToolBarImages& from, CMFCToolBarImages& to) {
         to.Clear();
-        if (from.GetCount() > 0)
+        if (from.GetCount() > 0) {
             const_cast<CMFCToolBarImages&>(from).CopyTo(to); // CopyTo is documented without const; it only reads
+        }
     };
     copyImages(group->m_Images, m_Images);
     copyImages(group->m_HotImages, m_HotImages);
@@ -231,8 +258,9 @@ void CMFCRibbonButtonsGroup::CopyFrom(const CMFCRibbonBaseElement& src) {
     for (int i = 0; i < group->GetCount(); ++i) {
         CMFCRibbonBaseElement* button = group->m_arButtons[i];
         auto* copy = static_cast<CMFCRibbonBaseElement*>(button->GetRuntimeClass()->CreateObject());
-        if (copy == nullptr)
+        if (copy == nullptr) {
             continue;
+        }
         copy->CopyFrom(*button);
         copy->CopyStateFrom(button);
         AddButton(copy);
@@ -243,8 +271,9 @@ void CMFCRibbonButtonsGroup::CopyFrom(const CMFCRibbonBaseElement& src) {
 
 CMFCRibbonBaseElement* CMFCRibbonButtonsGroup::HitTest(CPoint point) {
     for (int i = 0; m_bIsVisible && i < GetCount(); ++i) {
-        if (CMFCRibbonBaseElement* hit = m_arButtons[i]->HitTest(point); hit != nullptr)
+        if (CMFCRibbonBaseElement* hit = m_arButtons[i]->HitTest(point); hit != nullptr) {
             return hit;
+        }
     }
     return CMFCRibbonBaseElement::HitTest(point);
 }
@@ -254,8 +283,9 @@ namespace {
 template <typename Search>
 CMFCRibbonBaseElement* FirstOf(const ElementArray& buttons, Search search) {
     for (int i = 0; i < buttons.GetSize(); ++i) {
-        if (CMFCRibbonBaseElement* found = search(*buttons[i]); found != nullptr)
+        if (CMFCRibbonBaseElement* found = search(*buttons[i]); found != nullptr) {
             return found;
+        }
     }
     return nullptr;
 }
@@ -300,12 +330,14 @@ CMFCRibbonBaseElement* CMFCRibbonButtonsGroup::GetPressed() {
 
 // The buttons, not the group itself: it is no element that a user sees or customises.
 void CMFCRibbonButtonsGroup::GetElements(ElementArray& arElements) {
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->GetElements(arElements);
+    }
 }
 
 void CMFCRibbonButtonsGroup::GetElementsByID(UINT uiCmdID, ElementArray& arElements) {
     CMFCRibbonBaseElement::GetElementsByID(uiCmdID, arElements);
-    for (int i = 0; i < GetCount(); ++i)
+    for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->GetElementsByID(uiCmdID, arElements);
+    }
 }

@@ -11,8 +11,9 @@ CMFCRibbonCheckBox::CMFCRibbonCheckBox(UINT nID, LPCTSTR lpszText) : CMFCRibbonB
 
 // In a menu it is a row with a check mark.
 CSize CMFCRibbonCheckBox::GetRegularSize(CDC* pDC) {
-    if (ShowsMenuRow())
+    if (ShowsMenuRow()) {
         return CMFCRibbonButton::GetRegularSize(pDC);
+    }
     const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     return ribbon::ToSize(ribbon::MeasureCheckBox(text, ribbon::CurrentMetrics()));
 }
@@ -22,8 +23,9 @@ CSize CMFCRibbonCheckBox::GetIntermediateSize(CDC* pDC) { return GetRegularSize(
 CSize CMFCRibbonCheckBox::GetCompactSize(CDC* pDC) { return GetRegularSize(pDC); }
 
 void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     if (ShowsMenuRow()) {
         DrawMenuRow(pDC);
         return;
@@ -33,8 +35,9 @@ void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
     const ribbon::CheckBoxFace face = ribbon::PlaceCheckBox(ribbon::FromRect(m_rect), text, ribbon::CurrentMetrics());
     CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(pDC, ribbon::ToRect(face.box), IsChecked() ? 1 : 0,
                                                        IsHighlighted(), IsPressed(), !IsDisabled());
-    if (!face.text.IsEmpty())
+    if (!face.text.IsEmpty()) {
         DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.text),
                        DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
+    }
 }

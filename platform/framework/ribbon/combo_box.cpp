@@ -27,31 +27,37 @@ CMFCRibbonComboBox::~CMFCRibbonComboBox() {
     m_pPopup = nullptr;
     m_bIsDroppedDown = FALSE;
     m_life.reset();
-    if (list != nullptr)
+    if (list != nullptr) {
         list->OnParentComboDestroyed();
+    }
 }
 
 // ---- items
 
 INT_PTR CMFCRibbonComboBox::AddItem(LPCTSTR lpszItem, DWORD_PTR dwData) {
-    if (lpszItem == nullptr)
+    if (lpszItem == nullptr) {
         return -1;
+    }
     m_items.push_back({lpszItem, dwData});
-    if (CMFCDropDownListBox* list = GetDropDownList(); list != nullptr)
+    if (CMFCDropDownListBox* list = GetDropDownList(); list != nullptr) {
         list->AddString(lpszItem);
+    }
     return GetCount() - 1;
 }
 
 BOOL CMFCRibbonComboBox::DeleteItem(int iIndex) {
-    if (!IsItem(iIndex))
+    if (!IsItem(iIndex)) {
         return FALSE;
+    }
     m_items.erase(m_items.begin() + iIndex);
     const BOOL wasSelected = iIndex == m_nSelected;
-    if (iIndex <= m_nSelected)
+    if (iIndex <= m_nSelected) {
         m_nSelected = wasSelected ? -1 : m_nSelected - 1;
+    }
     // What was typed stays.
-    if (wasSelected && !m_bHasEditBox)
+    if (wasSelected && !m_bHasEditBox) {
         SetEditText(L"");
+    }
     CloseDropDown();
     return TRUE;
 }
@@ -76,8 +82,9 @@ DWORD_PTR CMFCRibbonComboBox::GetItemData(int iIndex) const {
 }
 
 int CMFCRibbonComboBox::FindItem(LPCTSTR lpszText) const {
-    if (lpszText == nullptr)
+    if (lpszText == nullptr) {
         return -1;
+    }
     const auto found =
         std::find_if(m_items.begin(), m_items.end(), [lpszText](const Item& item) { return item.text == lpszText; });
     return found == m_items.end() ? -1 : static_cast<int>(found - m_items.begin());
@@ -92,8 +99,9 @@ int CMFCRibbonComboBox::FindData(DWORD_PTR dwData) const {
 // ---- selection
 
 BOOL CMFCRibbonComboBox::SelectItem(int iIndex) {
-    if (iIndex != -1 && !IsItem(iIndex))
+    if (iIndex != -1 && !IsItem(iIndex)) {
         return FALSE;
+    }
     const CString text = GetItem(iIndex);
     TakeSelection(iIndex, text);
     ShowSelectionInCopies();
@@ -118,33 +126,39 @@ void CMFCRibbonComboBox::TakeSelection(int index, const CString& text) {
     m_nSelected = selected;
     const fx::ScopedChange<BOOL> face(m_bRedrawsFace, TRUE);
     SetEditText(text);
-    if (changes)
+    if (changes) {
         Redraw();
+    }
 }
 
 void CMFCRibbonComboBox::ShowSelectionInCopies() {
     CMFCRibbonBar* bar = GetTopLevelRibbonBar();
-    if (bar == nullptr || m_nID == 0)
+    if (bar == nullptr || m_nID == 0) {
         return;
+    }
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
     bar->GetElementsByID(m_nID, elements);
     for (INT_PTR i = 0; i < elements.GetSize(); ++i) {
         auto* copy = DYNAMIC_DOWNCAST(CMFCRibbonComboBox, elements[i]);
-        if (copy != nullptr && copy != this)
+        if (copy != nullptr && copy != this) {
             copy->TakeSelection(m_nSelected, m_strEdit);
+        }
     }
 }
 
 // Closing the pop-ups around the element tells the host, and the command's handler may do anything.
 void CMFCRibbonComboBox::OnSelectItem(int nItem) {
-    if (!IsItem(nItem) || !SelectItem(nItem))
+    if (!IsItem(nItem) || !SelectItem(nItem)) {
         return;
+    }
     const std::weak_ptr<BOOL> life = m_life;
     LeaveEditWindow();
-    if (!life.expired())
+    if (!life.expired()) {
         CloseParentMenus();
-    if (!life.expired())
+    }
+    if (!life.expired()) {
         NotifyCommand(m_bDelaysCommand);
+    }
 }
 
 // ---- copies and size
@@ -152,8 +166,9 @@ void CMFCRibbonComboBox::OnSelectItem(int nItem) {
 void CMFCRibbonComboBox::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonEdit::CopyFrom(src);
     const auto* combo = dynamic_cast<const CMFCRibbonComboBox*>(&src);
-    if (combo == nullptr || combo == this)
+    if (combo == nullptr || combo == this) {
         return;
+    }
     m_items = combo->m_items;
     m_nSelected = combo->m_nSelected;
     m_nDropDownHeight = combo->m_nDropDownHeight;

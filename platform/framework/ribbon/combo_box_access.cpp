@@ -12,10 +12,12 @@ BOOL CMFCRibbonComboBox::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     const int row = GetACCCurrentRow();
     // Whoever walks through the open list hears where it is. A text field is heard as it stands there.
     const bool isInList = list != nullptr && list->GetCurSel() == row;
-    if (row >= 0 && (isInList || (!m_bHasEditBox && m_strEdit == GetItem(row))))
+    if (row >= 0 && (isInList || (!m_bHasEditBox && m_strEdit == GetItem(row)))) {
         data.m_strValue = GetShownItemText(row);
-    if (!m_bHasEditBox)
+    }
+    if (!m_bHasEditBox) {
         data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Open);
+    }
     return TRUE;
 }
 
@@ -27,8 +29,9 @@ int CMFCRibbonComboBox::GetACCCurrentRow() const {
 
 int CMFCRibbonComboBox::FindShownItem(LPCTSTR lpszText) const {
     for (int row = 0; lpszText != nullptr && row < GetACCRowCount(); ++row) {
-        if (GetShownItemText(row) == lpszText)
+        if (GetShownItemText(row) == lpszText) {
             return row;
+        }
     }
     return -1;
 }
@@ -37,14 +40,16 @@ int CMFCRibbonComboBox::FindShownItem(LPCTSTR lpszText) const {
 BOOL CMFCRibbonComboBox::PutACCValue(LPCTSTR lpszValue) {
     const int own = FindItem(lpszValue);
     const int shown = FindShownItem(lpszValue);
-    if (!m_bHasEditBox)
+    if (!m_bHasEditBox) {
         return OnACCRowDefaultAction(shown >= 0 ? shown : own);
+    }
     return CMFCRibbonEdit::PutACCValue(own < 0 && shown >= 0 ? GetItem(shown) : lpszValue);
 }
 
 BOOL CMFCRibbonComboBox::SetACCRowData(int nRow, CAccessibilityData& data) {
-    if (!IsItem(nRow))
+    if (!IsItem(nRow)) {
         return FALSE;
+    }
     data = {};
     data.m_strName = GetShownItemText(nRow);
     data.m_nRole = ROLE_SYSTEM_LISTITEM;
@@ -57,28 +62,33 @@ BOOL CMFCRibbonComboBox::SetACCRowData(int nRow, CAccessibilityData& data) {
         CRect client;
         bar.GetClientRect(client);
         shown.IntersectRect(client, bar.GetRowRect(nRow));
-        if (!shown.IsRectEmpty())
+        if (!shown.IsRectEmpty()) {
             bar.ClientToScreen(shown);
+        }
         data.m_nState |= STATE_SYSTEM_FOCUSABLE | (nRow == bar.GetHotRow() ? STATE_SYSTEM_FOCUSED : 0);
     }
     data.m_rect = shown;
-    if (shown.IsRectEmpty())
+    if (shown.IsRectEmpty()) {
         data.m_nState |=
             GetDropDownList() != nullptr ? STATE_SYSTEM_OFFSCREEN : STATE_SYSTEM_OFFSCREEN | STATE_SYSTEM_INVISIBLE;
+    }
     return TRUE;
 }
 
 // The program that asks must not wait for what the command does.
 BOOL CMFCRibbonComboBox::OnACCRowDefaultAction(int nRow) {
-    if (!IsItem(nRow) || IsDisabled())
+    if (!IsItem(nRow) || IsDisabled()) {
         return FALSE;
+    }
     const std::weak_ptr<BOOL> life = m_life;
     CloseDropDown();
-    if (life.expired())
+    if (life.expired()) {
         return TRUE;
+    }
     m_bDelaysCommand = TRUE;
     OnSelectItem(nRow);
-    if (!life.expired())
+    if (!life.expired()) {
         m_bDelaysCommand = FALSE;
+    }
     return TRUE;
 }

@@ -6,8 +6,8 @@
 
 #include "core/scoped_change.h"
 #include "fx/dc_scope.h"
-#include "ribbon/element_metrics.h"
 #include "popups/row_text.h"
+#include "ribbon/element_metrics.h"
 
 #include <new>
 
@@ -21,8 +21,9 @@ int CMFCRibbonComboBox::GetDropButtonWidth() const { return afxGlobalData.ScaleP
 // ---- drawing
 
 void CMFCRibbonComboBox::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty() || m_rectCommand.IsRectEmpty())
+    if (m_rect.IsRectEmpty() || m_rectCommand.IsRectEmpty()) {
         return;
+    }
     const ribbon::TextContext context(pDC);
     OnDrawLabelAndImage(pDC);
     CRect box;
@@ -35,8 +36,9 @@ void CMFCRibbonComboBox::OnDraw(CDC* pDC) {
                               selectedText);
     CRect button = m_rectMenu;
     button.DeflateRect(0, 1, 1, 1); // the box's frame goes round it
-    if (!button.IsRectEmpty())
+    if (!button.IsRectEmpty()) {
         manager->OnDrawComboDropButton(pDC, button, IsDisabled(), IsDroppedDown(), IsHighlighted(), nullptr);
+    }
     if (m_pWndEdit == nullptr || !m_pWndEdit->IsWindowVisible()) {
         const fx::DcState state(*pDC);
         CRect inside = m_rectCommand;
@@ -58,8 +60,9 @@ void CMFCRibbonComboBox::OnDrawSelectedItem(CDC* pDC, CRect rectEdit) {
 void CMFCRibbonComboBox::Redraw() {
     CMFCRibbonEdit::Redraw();
     CMFCDropDownListBox* list = GetDropDownList();
-    if (!m_bRedrawsFace && list != nullptr && list->GetMenuBar()->GetSafeHwnd() != nullptr)
+    if (!m_bRedrawsFace && list != nullptr && list->GetMenuBar()->GetSafeHwnd() != nullptr) {
         list->GetMenuBar()->Invalidate();
+    }
 }
 
 // Derived classes hear of every redraw by the virtual function.
@@ -68,8 +71,9 @@ void CMFCRibbonComboBox::RedrawItem(int nIndex) {
         const fx::ScopedChange<BOOL> face(m_bRedrawsFace, TRUE);
         Redraw();
     }
-    if (CMFCDropDownListBox* list = GetDropDownList(); list != nullptr)
+    if (CMFCDropDownListBox* list = GetDropDownList(); list != nullptr) {
         list->GetMenuBar()->InvalidateRow(nIndex);
+    }
 }
 
 // ---- opening
@@ -79,16 +83,19 @@ CMFCDropDownListBox* CMFCRibbonComboBox::GetDropDownList() const {
 }
 
 void CMFCRibbonComboBox::CloseDropDown() {
-    if (GetDropDownList() != nullptr)
+    if (GetDropDownList() != nullptr) {
         ClosePopupMenu();
+    }
 }
 
 BOOL CMFCRibbonComboBox::BeginDropDown() {
     const CWnd* parent = GetParentWnd();
-    if (IsDisabled() || parent == nullptr || parent->GetSafeHwnd() == nullptr)
+    if (IsDisabled() || parent == nullptr || parent->GetSafeHwnd() == nullptr) {
         return FALSE;
-    if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() != nullptr && !m_pWndEdit->IsWindowVisible())
+    }
+    if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() != nullptr && !m_pWndEdit->IsWindowVisible()) {
         return FALSE;
+    }
     CMFCPopupMenu* active = CMFCPopupMenu::GetActiveMenu();
     const BOOL showsElement = active != nullptr && ::IsChild(active->GetSafeHwnd(), parent->GetSafeHwnd());
     if (active != nullptr && !showsElement) {
@@ -101,8 +108,9 @@ BOOL CMFCRibbonComboBox::BeginDropDown() {
 }
 
 void CMFCRibbonComboBox::DropDownList() {
-    if (BeginDropDown())
+    if (BeginDropDown()) {
         OpenDropDown();
+    }
 }
 
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonComboBox::MakeDropDownList() {
@@ -113,8 +121,9 @@ std::unique_ptr<CMFCDropDownListBox> CMFCRibbonComboBox::MakeDropDownList() {
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonComboBox::MakeFilledList() {
     try {
         std::unique_ptr<CMFCDropDownListBox> list = MakeDropDownList();
-        for (std::size_t i = 0; list != nullptr && i < m_items.size(); ++i)
+        for (std::size_t i = 0; list != nullptr && i < m_items.size(); ++i) {
             list->AddString(m_items[i].text);
+        }
         return list;
     } catch (const std::bad_alloc&) {
         return nullptr;
@@ -131,20 +140,23 @@ CPoint CMFCRibbonComboBox::GetDropDownPoint() const {
 
 void CMFCRibbonComboBox::OpenDropDown(int nMinWidth) {
     CMFCDropDownListBox* const pList = MakeFilledList().release();
-    if (pList == nullptr)
+    if (pList == nullptr) {
         return;
+    }
     pList->SetParentRibbonElement(this);
     pList->SetCurSel(m_nSelected);
     pList->SetMaxHeight(GetDropDownHeight());
     pList->SetMinWidth(nMinWidth >= 0 ? nMinWidth : m_rectCommand.Width() + m_rectMenu.Width());
-    if (m_bResizeList)
+    if (m_bResizeList) {
         pList->EnableVertResize(2 * afxGlobalData.GetTextHeight());
+    }
     SetDroppedDown(pList);
     const std::weak_ptr<BOOL> life = m_life;
     if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() != nullptr) {
         m_pWndEdit->SetFocus();
-        if (!life.expired() && m_pWndEdit != nullptr)
+        if (!life.expired() && m_pWndEdit != nullptr) {
             m_pWndEdit->SetSel(0, -1);
+        }
     }
     CWnd* owner = !life.expired() && GetDropDownList() == pList ? GetCommandTarget() : nullptr;
     if (owner == nullptr) {
@@ -159,42 +171,49 @@ void CMFCRibbonComboBox::OpenDropDown(int nMinWidth) {
 
 void CMFCRibbonComboBox::OnAfterChangeRect(CDC* pDC) {
     CMFCRibbonEdit::OnAfterChangeRect(pDC);
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         CloseDropDown();
+    }
 }
 
 void CMFCRibbonComboBox::OnEnable(BOOL bEnable) {
     CMFCRibbonEdit::OnEnable(bEnable);
-    if (!bEnable)
+    if (!bEnable) {
         CloseDropDown();
+    }
 }
 
 void CMFCRibbonComboBox::OnShow(BOOL bShow) {
     CMFCRibbonEdit::OnShow(bShow);
-    if (!bShow)
+    if (!bShow) {
         CloseDropDown();
+    }
 }
 
 void CMFCRibbonComboBox::OnLButtonDown(CPoint point) {
-    if (m_bHasEditBox)
+    if (m_bHasEditBox) {
         CMFCRibbonEdit::OnLButtonDown(point);
-    else if (!IsDisabled() && m_rect.PtInRect(point))
+    } else if (!IsDisabled() && m_rect.PtInRect(point)) {
         DropDownList();
+    }
 }
 
 BOOL CMFCRibbonComboBox::OnKey(BOOL bIsMenuKey) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return FALSE;
-    if (m_bHasEditBox && !bIsMenuKey)
+    }
+    if (m_bHasEditBox && !bIsMenuKey) {
         OnSetFocus(TRUE);
-    else
+    } else {
         DropDownList();
+    }
     return TRUE;
 }
 
 BOOL CMFCRibbonComboBox::OnProcessKey(UINT nChar) {
-    if (m_bHasEditBox)
+    if (m_bHasEditBox) {
         return CMFCRibbonEdit::OnProcessKey(nChar);
+    }
     const BOOL opens = nChar == VK_F4 || nChar == VK_DOWN || nChar == VK_RETURN || nChar == VK_SPACE;
     return opens && OnKey(TRUE);
 }
@@ -202,8 +221,9 @@ BOOL CMFCRibbonComboBox::OnProcessKey(UINT nChar) {
 // Up without Alt leads out of the edit window.
 BOOL CMFCRibbonComboBox::OnEditKey(UINT nChar) {
     const BOOL opens = nChar == VK_F4 || nChar == VK_DOWN || (nChar == VK_UP && ::GetKeyState(VK_MENU) < 0);
-    if (!opens)
+    if (!opens) {
         return CMFCRibbonEdit::OnEditKey(nChar);
+    }
     DropDownList();
     return TRUE;
 }
@@ -213,8 +233,9 @@ void CMFCRibbonComboBox::OnEditChange() {
     const CString before = m_strEdit;
     CMFCRibbonEdit::OnEditChange();
     CMFCDropDownListBox* list = GetDropDownList();
-    if (list == nullptr || m_strEdit == before)
+    if (list == nullptr || m_strEdit == before) {
         return;
+    }
     const std::wstring_view typed(m_strEdit, static_cast<std::size_t>(m_strEdit.GetLength()));
     int row = typed.empty() ? -1 : 0;
     // The text field takes an item by its own text, which may not be the one in the list.
@@ -222,17 +243,20 @@ void CMFCRibbonComboBox::OnEditChange() {
         return toolbar::StartsWith(GetShownItemText(item), typed) ||
                toolbar::StartsWith(m_items[static_cast<std::size_t>(item)].text, typed);
     };
-    while (row >= 0 && row < GetCount() && !begins(row))
+    while (row >= 0 && row < GetCount() && !begins(row)) {
         ++row;
+    }
     list->GetMenuBar()->SetHotRow(row); // beyond the last: none
 }
 
 void CMFCRibbonComboBox::OnEditFocus(BOOL bSet) {
     const std::weak_ptr<BOOL> life = m_life;
-    if (!bSet)
+    if (!bSet) {
         CloseDropDown();
-    if (!life.expired())
+    }
+    if (!life.expired()) {
         CMFCRibbonEdit::OnEditFocus(bSet);
+    }
 }
 
 void CMFCRibbonComboBox::OnTextCommitted() {

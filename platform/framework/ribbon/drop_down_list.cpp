@@ -4,9 +4,9 @@
 #include <afxglobals.h>
 #include <afxribbonbar.h>
 
+#include "popups/row_text.h"
 #include "ribbon/keyboard.h"
 #include "toolbar/menu_row.h"
-#include "popups/row_text.h"
 
 #include <algorithm>
 #include <utility>
@@ -39,24 +39,28 @@ CMFCDropDownListBox::CMFCDropDownListBox(CMFCRibbonComboBox* pParentCombo)
 
 // The window goes first, while there are rows.
 CMFCDropDownListBox::~CMFCDropDownListBox() {
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr) {
         DestroyWindow();
+    }
 }
 
 // ---- rows
 
 int CMFCDropDownListBox::AddString(LPCTSTR lpszItem) {
-    if (lpszItem == nullptr)
+    if (lpszItem == nullptr) {
         return -1;
+    }
     m_rows.emplace_back(lpszItem);
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr) {
         GetMenuBar()->OnRowAdded();
+    }
     return GetCount() - 1;
 }
 
 BOOL CMFCDropDownListBox::GetText(int nIndex, CString& strText) const {
-    if (nIndex < 0 || nIndex >= GetCount())
+    if (nIndex < 0 || nIndex >= GetCount()) {
         return FALSE;
+    }
     strText = m_rows[static_cast<std::size_t>(nIndex)];
     return TRUE;
 }
@@ -64,16 +68,19 @@ BOOL CMFCDropDownListBox::GetText(int nIndex, CString& strText) const {
 void CMFCDropDownListBox::ResetContent() {
     m_rows.clear();
     m_nCurSel = -1;
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr) {
         GetMenuBar()->OnRowsChanged();
+    }
 }
 
 BOOL CMFCDropDownListBox::SetCurSel(int nIndex) {
-    if (nIndex < -1 || nIndex >= GetCount())
+    if (nIndex < -1 || nIndex >= GetCount()) {
         return FALSE;
+    }
     m_nCurSel = nIndex;
-    if (m_hWnd != nullptr)
+    if (m_hWnd != nullptr) {
         GetMenuBar()->SetHotRow(nIndex);
+    }
     return TRUE;
 }
 
@@ -101,18 +108,21 @@ int CMFCDropDownListBox::MeasureText(CDC& dc, int row, const CString& text) {
 int CMFCDropDownListBox::MeasureRows(CDC& dc) {
     std::vector<std::pair<int, CString>> longest;
     longest.reserve(m_rows.size());
-    for (int row = 0; row < GetCount(); ++row)
+    for (int row = 0; row < GetCount(); ++row) {
         longest.emplace_back(row, GetRowText(row));
+    }
     const std::size_t measured = std::min<std::size_t>(longest.size(), kMostMeasured);
     const auto end = longest.begin() + static_cast<std::ptrdiff_t>(measured);
     const auto isLonger = [](const auto& left, const auto& right) {
         return left.second.GetLength() > right.second.GetLength();
     };
-    if (end != longest.end())
+    if (end != longest.end()) {
         std::nth_element(longest.begin(), end, longest.end(), isLonger);
+    }
     int width = 0;
-    for (auto row = longest.begin(); row != end; ++row)
+    for (auto row = longest.begin(); row != end; ++row) {
         width = std::max(width, MeasureText(dc, row->first, row->second));
+    }
     return width;
 }
 
@@ -135,11 +145,13 @@ BOOL CMFCDropDownListBox::PreCreateWindow(CREATESTRUCT& cs) {
 
 BOOL CMFCDropDownListBox::InitMenuBar() {
     CMFCPopupMenuBar* bar = GetMenuBar();
-    if (bar == nullptr)
+    if (bar == nullptr) {
         return FALSE;
+    }
     bar->SetRows(this);
-    if (!CMFCPopupMenu::InitMenuBar())
+    if (!CMFCPopupMenu::InitMenuBar()) {
         return FALSE;
+    }
     bar->SetHotRow(m_nCurSel);
     bar->SetOffset(std::max(0, m_nCurSel - kRowsAboveSelection) * bar->GetRowHeight());
     return TRUE;
@@ -150,22 +162,25 @@ CSize CMFCDropDownListBox::CalcWindowSize(int nMaxHeight) {
     CSize size = CMFCPopupMenu::CalcWindowSize(nMaxHeight);
     const int row = GetMenuBar()->GetRowHeight();
     const int inside = size.cy - 2 * GetBorderSize();
-    if (!IsResizeble() && row > 0 && inside > row)
+    if (!IsResizeble() && row > 0 && inside > row) {
         size.cy -= inside % row;
+    }
     return size;
 }
 
 CWnd* CMFCDropDownListBox::GetParentArea(CRect& rectParentBtn) {
-    if (m_pCombo == nullptr)
+    if (m_pCombo == nullptr) {
         return CMFCPopupMenu::GetParentArea(rectParentBtn);
+    }
     rectParentBtn = m_pCombo->GetRect();
     return m_pCombo->GetParentWnd();
 }
 
 CRect CMFCDropDownListBox::GetAvoidedArea() {
     CWnd* parent = m_pCombo != nullptr ? m_pCombo->GetParentWnd() : nullptr;
-    if (parent == nullptr || m_pCombo->GetCommandRect().IsRectEmpty())
+    if (parent == nullptr || m_pCombo->GetCommandRect().IsRectEmpty()) {
         return CMFCPopupMenu::GetAvoidedArea();
+    }
     CRect area;
     area.UnionRect(m_pCombo->GetCommandRect(), m_pCombo->GetMenuRect());
     parent->ClientToScreen(area);
@@ -180,10 +195,12 @@ void CMFCDropDownListBox::OnParentComboDestroyed() {
 
 void CMFCDropDownListBox::OnClose() {
     const std::weak_ptr<BOOL> life = m_life;
-    if (std::exchange(m_bToldHot, FALSE) && m_pCombo != nullptr)
+    if (std::exchange(m_bToldHot, FALSE) && m_pCombo != nullptr) {
         m_pCombo->NotifyHighlightListItem(-1);
-    if (!life.expired())
+    }
+    if (!life.expired()) {
         CMFCPopupMenu::OnClose();
+    }
 }
 
 // ---- input
@@ -195,8 +212,9 @@ BOOL CMFCDropDownListBox::IsEditFocused() const {
 BOOL CMFCDropDownListBox::OnListKey(UINT nMessage, UINT nChar) {
     const BOOL isKey = nMessage == WM_KEYDOWN || nMessage == WM_SYSKEYDOWN;
     // Alt may be the first half of Alt and an arrow, which closes the list as it opens it.
-    if (isKey && nChar == VK_MENU)
+    if (isKey && nChar == VK_MENU) {
         return TRUE;
+    }
     if (nMessage == WM_SYSKEYDOWN && nChar == VK_F4) {
         CloseAll();
         return TRUE;
@@ -210,8 +228,9 @@ BOOL CMFCDropDownListBox::OnListKey(UINT nMessage, UINT nChar) {
         CMFCRibbonComboBox* combo = m_pCombo;
         const std::weak_ptr<BOOL> life = combo->m_life;
         CloseMenu();
-        if (!life.expired())
+        if (!life.expired()) {
             combo->ProcessKey(nChar);
+        }
         return TRUE;
     }
     return CMFCPopupMenu::OnChainKey(nMessage, nChar);
@@ -222,10 +241,12 @@ BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
     CMFCRibbonComboBox* combo = m_pCombo;
     const std::weak_ptr<BOOL> life = combo != nullptr ? combo->m_life : nullptr;
     const BOOL isUsed = OnListKey(nMessage, nChar);
-    if (life.expired() || combo->IsDroppedDown())
+    if (life.expired() || combo->IsDroppedDown()) {
         return isUsed;
-    if (CMFCRibbonBar* bar = combo->GetTopLevelRibbonBar(); bar != nullptr)
+    }
+    if (CMFCRibbonBar* bar = combo->GetTopLevelRibbonBar(); bar != nullptr) {
         bar->GetKeyboard().LeaveList();
+    }
     return isUsed;
 }
 
@@ -235,8 +256,9 @@ CMFCPopupMenu::ChainInput CMFCDropDownListBox::OnChainMessage(const MSG& message
     const bool switches = message.message == WM_KEYDOWN && message.wParam == VK_SPACE &&
                           (!IsEditFocused() || ::GetKeyState(VK_CONTROL) < 0);
     const bool opensAndCloses = isWithAlt && (message.wParam == VK_UP || message.wParam == VK_DOWN);
-    if ((switches || opensAndCloses) && (message.lParam & kIsRepeated) != 0)
+    if ((switches || opensAndCloses) && (message.lParam & kIsRepeated) != 0) {
         return ChainInput::Used;
+    }
     const bool closesFrame = isWithAlt && message.wParam == VK_F4;
     const ChainInput input = CMFCPopupMenu::OnChainMessage(message);
     return closesFrame ? ChainInput::ForWindow : input;
@@ -246,8 +268,9 @@ BOOL CMFCDropDownListBox::ToggleRow(int row) { return m_pCombo != nullptr && m_p
 
 // While the list opens nothing has become hot that was not selected before.
 void CMFCDropDownListBox::OnChangeHot(int nHot) {
-    if (!IsShown() || m_pCombo == nullptr)
+    if (!IsShown() || m_pCombo == nullptr) {
         return;
+    }
     m_bToldHot = TRUE;
     m_pCombo->NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
     m_pCombo->NotifyHighlightListItem(nHot); // the host may end the list
@@ -257,6 +280,7 @@ void CMFCDropDownListBox::OnChooseItem(UINT nIndex) {
     CMFCRibbonComboBox* combo = m_pCombo;
     const std::weak_ptr<BOOL> life = combo != nullptr ? combo->m_life : nullptr;
     CloseMenu();
-    if (!life.expired())
+    if (!life.expired()) {
         combo->OnSelectItem(static_cast<int>(nIndex));
+    }
 }

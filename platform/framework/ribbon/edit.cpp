@@ -30,8 +30,9 @@ CMFCRibbonEdit::~CMFCRibbonEdit() { CMFCRibbonEdit::DestroyCtrl(); }
 void CMFCRibbonEdit::SetWidth(int nWidth, BOOL bInFloatyMode) { (bInFloatyMode ? m_nWidthFloaty : m_nWidth) = nWidth; }
 
 int CMFCRibbonEdit::GetWidth(BOOL bInFloatyMode) const {
-    if (bInFloatyMode && m_nWidthFloaty > 0)
+    if (bInFloatyMode && m_nWidthFloaty > 0) {
         return m_nWidthFloaty;
+    }
     return m_nWidth > 0 ? m_nWidth : kDefaultWidth;
 }
 
@@ -47,8 +48,9 @@ void CMFCRibbonEdit::SetTextAlign(int nAlign) {
 
 void CMFCRibbonEdit::SetEditText(CString strText) {
     m_strCommitted = strText;
-    if (m_strEdit == strText)
+    if (m_strEdit == strText) {
         return;
+    }
     m_strEdit = strText;
     ShowTextInWindow();
     Redraw();
@@ -58,8 +60,9 @@ void CMFCRibbonEdit::SetEditText(CString strText) {
 void CMFCRibbonEdit::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonButton::CopyFrom(src);
     const auto* edit = dynamic_cast<const CMFCRibbonEdit*>(&src);
-    if (edit == nullptr || edit == this)
+    if (edit == nullptr || edit == this) {
         return;
+    }
     DestroyCtrl();
     m_strEdit = edit->m_strEdit;
     m_strCommitted = edit->m_strCommitted;
@@ -78,8 +81,9 @@ BOOL CMFCRibbonEdit::HasCompactMode() const { return !m_strText.IsEmpty(); }
 ribbon::EditContent CMFCRibbonEdit::CollectContent(CDC* pDC, BOOL bWithLabel) const {
     ribbon::EditContent content;
     content.image = ribbon::FromSize(GetImageSize(RibbonImageSmall));
-    if (bWithLabel)
+    if (bWithLabel) {
         content.label = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
+    }
     content.dropButtonWidth = GetDropButtonWidth();
     content.boxWidth = ribbon::CurrentMetrics().Scaled(GetWidth()) + content.dropButtonWidth;
     return content;
@@ -114,8 +118,9 @@ void CMFCRibbonEdit::OnAfterChangeRect(CDC* pDC) {
 // ---- drawing
 
 void CMFCRibbonEdit::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     const ribbon::TextContext context(pDC);
     const ribbon::EditFace face = CollectLayout(pDC).face;
     OnDrawLabelAndImage(pDC);
@@ -136,18 +141,21 @@ void CMFCRibbonEdit::OnDraw(CDC* pDC) {
 
 void CMFCRibbonEdit::OnDrawLabelAndImage(CDC* pDC) {
     const ribbon::EditFace face = CollectLayout(pDC).face;
-    if (!face.image.IsEmpty())
+    if (!face.image.IsEmpty()) {
         DrawImage(pDC, RibbonImageSmall, ribbon::ToRect(face.image));
-    if (!face.label.IsEmpty())
+    }
+    if (!face.label.IsEmpty()) {
         DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.label),
                        DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
+    }
 }
 
 void CMFCRibbonEdit::Redraw() {
     CMFCRibbonButton::Redraw();
-    if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() != nullptr)
+    if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() != nullptr) {
         m_pWndEdit->Invalidate();
+    }
 }
 
 // ---- state and input
@@ -161,8 +169,9 @@ BOOL CMFCRibbonEdit::HasFocus() const {
 }
 
 void CMFCRibbonEdit::OnEnable(BOOL bEnable) {
-    if (m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr)
+    if (m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr) {
         return;
+    }
     m_pWndEdit->EnableWindow(bEnable);
     UpdateWindowColors();
 }
@@ -175,10 +184,11 @@ void CMFCRibbonEdit::OnHighlight(BOOL bHighlight) {
 
 void CMFCRibbonEdit::OnShow(BOOL bShow) {
     CMFCRibbonButton::OnShow(bShow);
-    if (bShow)
+    if (bShow) {
         PlaceEditWindow();
-    else if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() != nullptr)
+    } else if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() != nullptr) {
         m_pWndEdit->ShowWindow(SW_HIDE);
+    }
 }
 
 void CMFCRibbonEdit::OnRTLChanged(BOOL bIsRTL) {
@@ -189,12 +199,14 @@ void CMFCRibbonEdit::OnRTLChanged(BOOL bIsRTL) {
 void CMFCRibbonEdit::OnMouseMove(CPoint /*point*/) {}
 
 void CMFCRibbonEdit::OnLButtonDown(CPoint point) {
-    if (IsDisabled() || !m_rect.PtInRect(point))
+    if (IsDisabled() || !m_rect.PtInRect(point)) {
         return;
-    if (m_rectMenu.PtInRect(point))
+    }
+    if (m_rectMenu.PtInRect(point)) {
         DropDownList();
-    else
+    } else {
         OnSetFocus(TRUE);
+    }
 }
 
 void CMFCRibbonEdit::OnLButtonUp(CPoint /*point*/) {}
@@ -202,8 +214,9 @@ void CMFCRibbonEdit::OnLButtonUp(CPoint /*point*/) {}
 void CMFCRibbonEdit::DropDownList() {}
 
 BOOL CMFCRibbonEdit::OnKey(BOOL /*bIsMenuKey*/) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return FALSE;
+    }
     OnSetFocus(TRUE);
     return TRUE;
 }
@@ -211,8 +224,9 @@ BOOL CMFCRibbonEdit::OnKey(BOOL /*bIsMenuKey*/) {
 BOOL CMFCRibbonEdit::OnProcessKey(UINT nChar) { return HasFocus() && OnEditKey(nChar); }
 
 void CMFCRibbonEdit::OnSetFocus(BOOL bSet) {
-    if (!bSet || m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr || HasFocus())
+    if (!bSet || m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr || HasFocus()) {
         return;
+    }
     m_pWndEdit->SetFocus();
     m_pWndEdit->SetSel(0, -1);
 }

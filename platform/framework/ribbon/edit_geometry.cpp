@@ -27,8 +27,9 @@ Size MeasureEdit(const EditContent& content, const FaceMetrics& metrics) {
 }
 
 EditFace PlaceEdit(const Rect& rect, const EditContent& content, const FaceMetrics& metrics) {
-    if (rect.IsEmpty())
+    if (rect.IsEmpty()) {
         return {};
+    }
     EditFace face;
     const int boxLeft = std::max(rect.left, rect.right - content.boxWidth);
     const int boxHeight = std::min(rect.Height(), metrics.RowHeight());
@@ -45,8 +46,9 @@ EditFace PlaceEdit(const Rect& rect, const EditContent& content, const FaceMetri
         face.image = LeftCentred(head, content.image);
         head.left = face.image.right + metrics.Scaled(kGap);
     }
-    if (content.label.width > 0 && head.Width() > 0)
+    if (content.label.width > 0 && head.Width() > 0) {
         face.label = LeftCentred(head, {std::min(head.Width(), content.label.width), metrics.textHeight});
+    }
     return face;
 }
 
@@ -56,15 +58,17 @@ Size MeasureCheckBox(Size text, const FaceMetrics& metrics) {
 }
 
 CheckBoxFace PlaceCheckBox(const Rect& rect, Size text, const FaceMetrics& metrics) {
-    if (rect.IsEmpty())
+    if (rect.IsEmpty()) {
         return {};
+    }
     const int side = metrics.Scaled(kSideMargin);
     const Rect inner{rect.left + side, rect.top, std::max(rect.left + side, rect.right - side), rect.bottom};
     CheckBoxFace face;
     face.box = LeftCentred(inner, {metrics.Scaled(kCheckBox), metrics.Scaled(kCheckBox)});
     const Rect tail{face.box.right + metrics.Scaled(kGap), inner.top, inner.right, inner.bottom};
-    if (text.width > 0 && tail.Width() > 0)
+    if (text.width > 0 && tail.Width() > 0) {
         face.text = LeftCentred(tail, {tail.Width(), metrics.textHeight});
+    }
     return face;
 }
 

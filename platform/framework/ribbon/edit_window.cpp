@@ -35,10 +35,12 @@ BOOL CMFCRibbonRichEditCtrl::PreTranslateMessage(MSG* pMsg) {
     // The key may send a command whose handler deletes this window.
     const bool isWithAlt = pMsg->message == WM_SYSKEYDOWN && IsKeyWithAlt(pMsg->wParam);
     const bool isKey = pMsg->message == WM_KEYDOWN || isWithAlt;
-    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); isWithAlt && bar != nullptr)
+    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); isWithAlt && bar != nullptr) {
         bar->GetKeyboard().OnAltIsUsed();
-    if (isKey && pMsg->hwnd == GetSafeHwnd() && m_edit.OnEditKey(static_cast<UINT>(pMsg->wParam)))
+    }
+    if (isKey && pMsg->hwnd == GetSafeHwnd() && m_edit.OnEditKey(static_cast<UINT>(pMsg->wParam))) {
         return TRUE;
+    }
     return CRichEditCtrl::PreTranslateMessage(pMsg);
 }
 
@@ -64,24 +66,27 @@ LRESULT CMFCRibbonRichEditCtrl::OnMouseLeave(WPARAM /*wParam*/, LPARAM /*lParam*
 void CMFCRibbonRichEditCtrl::TellParent(CPoint point) {
     CWnd* parent = GetParent();
     ::MapWindowPoints(m_hWnd, parent->GetSafeHwnd(), &point, 1);
-    if (CMFCRibbonBar* bar = DYNAMIC_DOWNCAST(CMFCRibbonBar, parent))
+    if (CMFCRibbonBar* bar = DYNAMIC_DOWNCAST(CMFCRibbonBar, parent)) {
         bar->OnEditPointer(m_edit, m_bIsHighlighted, point);
-    else if (CMFCRibbonPanelMenuBar* menu = DYNAMIC_DOWNCAST(CMFCRibbonPanelMenuBar, parent))
+    } else if (CMFCRibbonPanelMenuBar* menu = DYNAMIC_DOWNCAST(CMFCRibbonPanelMenuBar, parent)) {
         menu->OnEditPointer(m_edit, m_bIsHighlighted, point);
+    }
 }
 
 void CMFCRibbonRichEditCtrl::OnSetFocus(CWnd* pOldWnd) {
     CRichEditCtrl::OnSetFocus(pOldWnd);
-    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr)
+    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr) {
         bar->GetKeyboard().OnEditFocusCame(pOldWnd->GetSafeHwnd());
+    }
     m_edit.OnEditFocus(TRUE);
 }
 
 // The loss of the focus may send the command, whose handler may delete this window: it comes last.
 void CMFCRibbonRichEditCtrl::OnKillFocus(CWnd* pNewWnd) {
     CRichEditCtrl::OnKillFocus(pNewWnd);
-    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr)
+    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr) {
         bar->GetKeyboard().OnFocusWent(pNewWnd->GetSafeHwnd());
+    }
     m_edit.OnEditFocus(FALSE);
 }
 
@@ -91,8 +96,9 @@ void CMFCRibbonRichEditCtrl::OnChange() { m_edit.OnEditChange(); }
 
 CMFCRibbonRichEditCtrl* CMFCRibbonEdit::CreateEdit(CWnd* pWndParent, DWORD dwEditStyle) {
     auto window = std::make_unique<CMFCRibbonRichEditCtrl>(*this);
-    if (!window->Create(dwEditStyle, m_rectText, pWndParent, m_nID))
+    if (!window->Create(dwEditStyle, m_rectText, pWndParent, m_nID)) {
         return nullptr;
+    }
     ::SendMessageW(window->GetSafeHwnd(), EM_SETTEXTMODE, TM_PLAINTEXT, 0);
     window->SetFont(&afxGlobalData.fontRegular);
     window->SetEventMask(ENM_CHANGE);
@@ -101,10 +107,12 @@ CMFCRibbonRichEditCtrl* CMFCRibbonEdit::CreateEdit(CWnd* pWndParent, DWORD dwEdi
 
 void CMFCRibbonEdit::DestroyCtrl() {
     CMFCRibbonRichEditCtrl* window = std::exchange(m_pWndEdit, nullptr);
-    if (window == nullptr)
+    if (window == nullptr) {
         return;
-    if (window->GetSafeHwnd() != nullptr)
+    }
+    if (window->GetSafeHwnd() != nullptr) {
         window->DestroyWindow();
+    }
     delete window;
 }
 
@@ -116,18 +124,21 @@ BOOL CMFCRibbonEdit::ShouldShowWindow() const {
 
 void CMFCRibbonEdit::PlaceEditWindow() {
     // A window that was destroyed together with its parent is made anew.
-    if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() == nullptr)
+    if (m_pWndEdit != nullptr && m_pWndEdit->GetSafeHwnd() == nullptr) {
         DestroyCtrl();
+    }
     if (!ShouldShowWindow()) {
-        if (m_pWndEdit != nullptr)
+        if (m_pWndEdit != nullptr) {
             m_pWndEdit->ShowWindow(SW_HIDE);
+        }
         return;
     }
     if (m_pWndEdit == nullptr) {
         m_pWndEdit = CreateEdit(GetParentWnd(), WS_CHILD | ES_AUTOHSCROLL | m_nAlign);
         m_nWindowTextHeight = afxGlobalData.GetCharacterHeight();
-        if (m_pWndEdit == nullptr)
+        if (m_pWndEdit == nullptr) {
             return;
+        }
         m_pWndEdit->EnableWindow(!IsDisabled());
         ShowTextInWindow();
     }
@@ -142,8 +153,9 @@ void CMFCRibbonEdit::PlaceEditWindow() {
 }
 
 void CMFCRibbonEdit::ShowTextInWindow() {
-    if (m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr)
+    if (m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr) {
         return;
+    }
     m_bSettingText = TRUE;
     m_pWndEdit->SetWindowText(m_strEdit);
     m_bSettingText = FALSE;
@@ -151,13 +163,15 @@ void CMFCRibbonEdit::ShowTextInWindow() {
 
 // The window fills itself with one colour: what the visual manager paints in the middle of the edit area now.
 void CMFCRibbonEdit::UpdateWindowColors() {
-    if (m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr || m_rectCommand.IsRectEmpty())
+    if (m_pWndEdit == nullptr || m_pWndEdit->GetSafeHwnd() == nullptr || m_rectCommand.IsRectEmpty()) {
         return;
+    }
     const CRect box(0, 0, m_rectCommand.Width(), m_rectCommand.Height());
     CDC memory;
     CBitmap bitmap;
-    if (!memory.CreateCompatibleDC(nullptr) || !bitmap.CreateBitmap(box.Width(), box.Height(), 1, 32, nullptr))
+    if (!memory.CreateCompatibleDC(nullptr) || !bitmap.CreateBitmap(box.Width(), box.Height(), 1, 32, nullptr)) {
         return;
+    }
     CBitmap* old = memory.SelectObject(&bitmap);
     COLORREF text = afxGlobalData.clrWindowText;
     COLORREF selection = afxGlobalData.clrHilite;
@@ -181,33 +195,39 @@ void CMFCRibbonEdit::UpdateWindowColors() {
 // ---- from the window
 
 void CMFCRibbonEdit::OnEditChange() {
-    if (m_bSettingText || m_pWndEdit == nullptr)
+    if (m_bSettingText || m_pWndEdit == nullptr) {
         return;
+    }
     m_pWndEdit->GetWindowText(m_strEdit);
     NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
 }
 
 void CMFCRibbonEdit::OnEditFocus(BOOL bSet) {
-    if (bSet && !m_bIsFocused)
+    if (bSet && !m_bIsFocused) {
         NotifyAccessibility(EVENT_OBJECT_FOCUS);
+    }
     m_bIsFocused = bSet;
     UpdateWindowColors();
     Redraw();
-    if (!bSet)
+    if (!bSet) {
         CommitText();
+    }
 }
 
 // Enter sends the command with whatever text there is; afterwards the host's window has the focus again.
 BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
-    if (nChar != VK_RETURN && nChar != VK_ESCAPE)
+    if (nChar != VK_RETURN && nChar != VK_ESCAPE) {
         return FALSE;
-    if (nChar == VK_ESCAPE)
+    }
+    if (nChar == VK_ESCAPE) {
         RevertText();
+    }
     m_strCommitted = m_strEdit;
     // In a pop-up the first Escape leaves the text, the next one the pop-up.
     CMFCRibbonBar* bar = nChar == VK_ESCAPE && m_pParentMenu != nullptr ? GetTopLevelRibbonBar() : nullptr;
-    if (bar != nullptr && bar->GetKeyboard().TakeFocusBack())
+    if (bar != nullptr && bar->GetKeyboard().TakeFocusBack()) {
         return TRUE;
+    }
     LeaveEditWindow();
     if (nChar == VK_RETURN) {
         CloseParentMenus();
@@ -218,15 +238,18 @@ BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
 }
 
 void CMFCRibbonEdit::LeaveEditWindow() {
-    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr)
+    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr) {
         bar->GetKeyboard().GiveFocusBack();
-    if (CWnd* target = GetCommandTarget(); target != nullptr && HasFocus())
+    }
+    if (CWnd* target = GetCommandTarget(); target != nullptr && HasFocus()) {
         target->SetFocus();
+    }
 }
 
 void CMFCRibbonEdit::CommitText() {
-    if (m_strEdit == m_strCommitted)
+    if (m_strEdit == m_strCommitted) {
         return;
+    }
     m_strCommitted = m_strEdit;
     OnTextCommitted();
     NotifyCommand();

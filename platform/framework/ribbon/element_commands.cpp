@@ -16,8 +16,9 @@ CWnd* OwnerOf(CWnd& window) {
 } // namespace
 
 CWnd* CMFCRibbonBaseElement::GetCommandTarget() const {
-    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr && bar->GetSafeHwnd() != nullptr)
+    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr && bar->GetSafeHwnd() != nullptr) {
         return OwnerOf(*bar);
+    }
     CWnd* parent = GetParentWnd();
     return parent != nullptr && parent->GetSafeHwnd() != nullptr ? OwnerOf(*parent) : nullptr;
 }
@@ -25,13 +26,16 @@ CWnd* CMFCRibbonBaseElement::GetCommandTarget() const {
 // The handler of the command may delete this element: nothing here looks at it after sending.
 BOOL CMFCRibbonBaseElement::NotifyCommand(BOOL bWithDelay) {
     const UINT id = GetNotifyID();
-    if (!IsCommand(id) || IsDisabled())
+    if (!IsCommand(id) || IsDisabled()) {
         return FALSE;
+    }
     CWnd* target = GetCommandTarget();
-    if (target == nullptr || target->GetSafeHwnd() == nullptr)
+    if (target == nullptr || target->GetSafeHwnd() == nullptr) {
         return FALSE;
-    if (bWithDelay)
+    }
+    if (bWithDelay) {
         return ::PostMessageW(target->GetSafeHwnd(), WM_COMMAND, id, 0);
+    }
     ::SendMessageW(target->GetSafeHwnd(), WM_COMMAND, id, 0);
     return TRUE;
 }
@@ -40,13 +44,15 @@ void CMFCRibbonBaseElement::PostMenuCommand(UINT /*uiCmdId*/) {
     const CMFCRibbonPanelMenu* menu = m_pParentMenu != nullptr ? m_pParentMenu->GetMenu() : nullptr;
     const HWND parent = menu != nullptr ? menu->GetSafeHwnd() : nullptr;
     ClosePopupMenu();
-    if (parent != nullptr && ::IsWindow(parent))
+    if (parent != nullptr && ::IsWindow(parent)) {
         ::PostMessageW(parent, WM_CLOSE, 0, 0);
+    }
 }
 
 void CMFCRibbonBaseElement::OnShowPopupMenu() {
-    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr)
+    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr) {
         bar->PopTooltip();
+    }
 }
 
 void CMFCRibbonBaseElement::ClosePopupMenu() {
@@ -59,15 +65,17 @@ void CMFCRibbonBaseElement::ClosePopupMenu() {
         return;
     }
     SetDroppedDown(nullptr);
-    if (menu != nullptr)
+    if (menu != nullptr) {
         menu->CloseMenu();
-    else if (popup != nullptr && popup->GetSafeHwnd() != nullptr)
+    } else if (popup != nullptr && popup->GetSafeHwnd() != nullptr) {
         ::SendMessageW(popup->GetSafeHwnd(), WM_CLOSE, 0, 0);
+    }
 }
 
 void CMFCRibbonBaseElement::CloseParentMenus() {
-    if (m_pParentMenu != nullptr)
+    if (m_pParentMenu != nullptr) {
         CMFCRibbonPanelMenu::DismissAll();
+    }
 }
 
 void CMFCRibbonBaseElement::DestroyCtrl() {}
@@ -98,8 +106,9 @@ void CMFCRibbonBaseElement::OnShow(BOOL /*bShow*/) {}
 void CMFCRibbonBaseElement::OnRTLChanged(BOOL /*bIsRTL*/) {}
 
 void CMFCRibbonBaseElement::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
-    if (pCmdUI == nullptr || !IsCommand(m_nID))
+    if (pCmdUI == nullptr || !IsCommand(m_nID)) {
         return;
+    }
     pCmdUI->m_nID = m_nID;
     pCmdUI->m_pUpdated = this;
     pCmdUI->DoUpdate(pTarget, bDisableIfNoHndler);
@@ -112,23 +121,27 @@ CMFCRibbonCmdUI::CMFCRibbonCmdUI() = default;
 
 void CMFCRibbonCmdUI::Enable(BOOL bOn) {
     m_bEnableChanged = TRUE;
-    if (m_pUpdated != nullptr)
+    if (m_pUpdated != nullptr) {
         m_pUpdated->SetDisabled(!bOn);
+    }
 }
 
 void CMFCRibbonCmdUI::SetCheck(int nCheck) {
-    if (m_pUpdated != nullptr)
+    if (m_pUpdated != nullptr) {
         m_pUpdated->SetChecked(nCheck != 0);
+    }
 }
 
 void CMFCRibbonCmdUI::SetRadio(BOOL bOn) {
-    if (m_pUpdated != nullptr)
+    if (m_pUpdated != nullptr) {
         m_pUpdated->SetChecked(bOn, TRUE);
+    }
 }
 
 void CMFCRibbonCmdUI::SetText(LPCTSTR lpszText) {
-    if (m_pUpdated == nullptr || lpszText == nullptr || CString(lpszText) == m_pUpdated->GetText())
+    if (m_pUpdated == nullptr || lpszText == nullptr || CString(lpszText) == m_pUpdated->GetText()) {
         return;
+    }
     m_pUpdated->SetText(lpszText);
     m_pUpdated->Redraw();
 }

@@ -26,14 +26,17 @@ public:
     /// The context may be null.
     Size Of(CDC* pDC, std::wstring_view text) {
         ForgetOtherFonts();
-        if (const auto known = m_sizes.find(text); known != m_sizes.end())
+        if (const auto known = m_sizes.find(text); known != m_sizes.end()) {
             return known->second;
+        }
         const TextContext context(pDC);
         SIZE size{};
-        if (!::GetTextExtentPoint32W(context.Get(), text.data(), static_cast<int>(text.size()), &size))
+        if (!::GetTextExtentPoint32W(context.Get(), text.data(), static_cast<int>(text.size()), &size)) {
             return {};
-        if (m_sizes.size() >= kMostTexts)
+        }
+        if (m_sizes.size() >= kMostTexts) {
             m_sizes.clear();
+        }
         return m_sizes.emplace(text, Size{static_cast<int>(size.cx), static_cast<int>(size.cy)}).first->second;
     }
 
@@ -43,8 +46,9 @@ private:
     void ForgetOtherFonts() {
         const HGDIOBJ font = afxGlobalData.fontRegular.GetSafeHandle();
         const int height = afxGlobalData.GetCharacterHeight();
-        if (font != m_font || height != m_textHeight)
+        if (font != m_font || height != m_textHeight) {
             m_sizes.clear();
+        }
         m_font = font;
         m_textHeight = height;
     }
@@ -67,18 +71,21 @@ Rect FromRect(const CRect& rect) {
 
 TextContext::TextContext(CDC* pDC) {
     m_hDC = pDC != nullptr ? pDC->GetSafeHdc() : nullptr;
-    if (m_hDC == nullptr)
+    if (m_hDC == nullptr) {
         m_hDC = m_hMeasureDC = ::CreateCompatibleDC(nullptr);
+    }
     m_hOldFont = ::SelectObject(m_hDC, afxGlobalData.fontRegular.GetSafeHandle());
     m_oldMode = ::SetBkMode(m_hDC, TRANSPARENT);
 }
 
 TextContext::~TextContext() {
     ::SetBkMode(m_hDC, m_oldMode);
-    if (m_hOldFont != nullptr)
+    if (m_hOldFont != nullptr) {
         ::SelectObject(m_hDC, m_hOldFont);
-    if (m_hMeasureDC != nullptr)
+    }
+    if (m_hMeasureDC != nullptr) {
         ::DeleteDC(m_hMeasureDC);
+    }
 }
 
 Size MeasureText(CDC* pDC, std::wstring_view text) {
@@ -95,8 +102,9 @@ void DrawMenuArrow(CDC* pDC, const Rect& rect, COLORREF color) {
 }
 
 COLORREF TextColor(CDC* pDC, COLORREF color, BOOL isDisabled) {
-    if (color != static_cast<COLORREF>(-1))
+    if (color != static_cast<COLORREF>(-1)) {
         return color;
+    }
     return isDisabled ? afxGlobalData.clrGrayedText : pDC->GetTextColor();
 }
 

@@ -53,19 +53,22 @@ Distance Measure(const Span& from, const Span& goal) {
 } // namespace
 
 std::optional<std::size_t> FocusNeighbour(const std::vector<RibbonRect>& places, std::size_t from, FocusStep step) {
-    if (from >= places.size())
+    if (from >= places.size()) {
         return std::nullopt;
+    }
     const Span start = Along(places[from], step);
     std::optional<std::size_t> best;
     Distance bestDistance{};
     for (std::size_t place = 0; place < places.size(); ++place) {
-        if (place == from || places[place].IsEmpty())
+        if (place == from || places[place].IsEmpty()) {
             continue;
+        }
         const Span goal = Along(places[place], step);
         // Neighbours may overlap by a border.
         const int tolerance = std::min(start.Length(), goal.Length()) / 2;
-        if (goal.begin < start.end - tolerance || goal.end <= start.end)
+        if (goal.begin < start.end - tolerance || goal.end <= start.end) {
             continue;
+        }
         const Distance distance = Measure(start, goal);
         if (!best || distance < bestDistance) {
             best = place;

@@ -14,8 +14,9 @@ constexpr std::size_t kLongestKey = 3;
 std::wstring Upper(std::wstring_view text) {
     std::wstring result;
     for (const wchar_t character : text) {
-        if (character != L' ')
+        if (character != L' ') {
             result += static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(character)));
+        }
     }
     return result;
 }
@@ -41,8 +42,9 @@ std::wstring PreferredLetters(std::wstring_view text) {
     marked += initials;
     marked += others;
     for (const wchar_t letter : marked) {
-        if (result.find(letter) == std::wstring::npos)
+        if (result.find(letter) == std::wstring::npos) {
             result += letter;
+        }
     }
     return result;
 }
@@ -54,8 +56,9 @@ public:
 
     bool IsFree(const std::wstring& key) const {
         for (std::size_t length = 1; length <= key.size(); ++length) {
-            if (m_taken.contains(key.substr(0, length)))
+            if (m_taken.contains(key.substr(0, length))) {
                 return false;
+            }
         }
         const auto next = m_taken.lower_bound(key);
         return next == m_taken.end() || next->compare(0, key.size(), key) != 0;
@@ -69,16 +72,18 @@ public:
         std::wstring singles = FreeAmong(std::wstring());
         std::array<std::size_t, 26> texts{};
         for (const std::wstring& letters : preferences) {
-            if (!letters.empty())
+            if (!letters.empty()) {
                 ++texts[static_cast<std::size_t>(letters[0] - L'A')];
+            }
         }
         std::stable_sort(singles.begin(), singles.end(), [&texts](wchar_t first, wchar_t second) {
             return texts[static_cast<std::size_t>(first - L'A')] > texts[static_cast<std::size_t>(second - L'A')];
         });
         std::size_t room = singles.size();
         for (const wchar_t letter : kLetters) {
-            if (IsBeginningOfTaken({letter}))
+            if (IsBeginningOfTaken({letter})) {
                 room += FreeAmong({letter}).size();
+            }
         }
         for (std::size_t place = 0; room < count && place < singles.size(); ++place) {
             m_reserved.insert({singles[place]});
@@ -98,12 +103,14 @@ public:
     std::wstring Next() {
         for (; m_length <= kLongestKey; ++m_length, m_place = 0) {
             std::size_t end = 1;
-            for (std::size_t letter = 0; letter < m_length; ++letter)
+            for (std::size_t letter = 0; letter < m_length; ++letter) {
                 end *= kLetters.size();
+            }
             for (; m_place < end; ++m_place) {
                 std::wstring key = KeyAt(m_place, m_length);
-                if (CanTake(key))
+                if (CanTake(key)) {
                     return key;
+                }
             }
         }
         return {};
@@ -118,15 +125,17 @@ private:
     std::wstring FreeAmong(const std::wstring& beginning) const {
         std::wstring result;
         for (const wchar_t letter : kLetters) {
-            if (IsFree(beginning + letter))
+            if (IsFree(beginning + letter)) {
                 result += letter;
+            }
         }
         return result;
     }
     static std::wstring KeyAt(std::size_t place, std::size_t length) {
         std::wstring key(length, L'A');
-        for (auto letter = key.rbegin(); letter != key.rend(); ++letter, place /= kLetters.size())
+        for (auto letter = key.rbegin(); letter != key.rend(); ++letter, place /= kLetters.size()) {
             *letter = kLetters[place % kLetters.size()];
+        }
         return key;
     }
 
@@ -138,19 +147,23 @@ private:
 
 std::wstring ChooseKey(KeySpace& space, const std::wstring& letters) {
     for (const wchar_t letter : letters) {
-        if (space.CanTake({letter}))
+        if (space.CanTake({letter})) {
             return {letter};
+        }
     }
     for (const wchar_t first : letters) {
-        if (!space.IsBeginning({first}))
+        if (!space.IsBeginning({first})) {
             continue;
+        }
         for (const wchar_t second : letters) {
-            if (second != first && space.CanTake({first, second}))
+            if (second != first && space.CanTake({first, second})) {
                 return {first, second};
+            }
         }
         for (const wchar_t second : kLetters) {
-            if (space.CanTake({first, second}))
+            if (space.CanTake({first, second})) {
                 return {first, second};
+            }
         }
     }
     return space.Next();
@@ -164,45 +177,52 @@ std::vector<std::wstring> AssignKeyTips(const std::vector<KeyTipWish>& wishes) {
     KeySpace space;
     for (std::size_t place = 0; place < wishes.size(); ++place) {
         keys[place] = Upper(wishes[place].keys);
-        if (keys[place].empty())
+        if (keys[place].empty()) {
             preferences.push_back(PreferredLetters(wishes[place].text));
-        else
+        } else {
             space.Take(keys[place]);
+        }
     }
     space.MakeRoom(preferences.size(), preferences);
     auto letters = preferences.begin();
     for (std::wstring& key : keys) {
-        if (!key.empty())
+        if (!key.empty()) {
             continue;
+        }
         key = ChooseKey(space, *letters++);
-        if (!key.empty())
+        if (!key.empty()) {
             space.Take(key);
+        }
     }
     return keys;
 }
 
 std::wstring QuickAccessKeyTip(std::size_t place) {
     constexpr std::size_t kDigits = 9;
-    if (place < kDigits)
+    if (place < kDigits) {
         return {static_cast<wchar_t>(L'1' + place)};
+    }
     place -= kDigits;
-    if (place < kDigits)
+    if (place < kDigits) {
         return {L'0', static_cast<wchar_t>(L'9' - place)};
+    }
     place -= kDigits;
     // Z only begins longer keys, so that none is the beginning of another.
     std::wstring key(1, L'0');
-    for (const std::size_t last = kLetters.size() - 1; place >= last; place -= last)
+    for (const std::size_t last = kLetters.size() - 1; place >= last; place -= last) {
         key += L'Z';
+    }
     return key + kLetters[place];
 }
 
 std::wstring WithoutMnemonic(std::wstring_view text) {
     std::wstring result;
     for (std::size_t place = 0; place < text.size(); ++place) {
-        if (text[place] == L'&' && place + 1 < text.size())
+        if (text[place] == L'&' && place + 1 < text.size()) {
             ++place;
-        else if (text[place] == L'&')
+        } else if (text[place] == L'&') {
             break;
+        }
         result += text[place];
     }
     return result;

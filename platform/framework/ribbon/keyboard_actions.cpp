@@ -1,8 +1,8 @@
 // What keys and assistive programs do with an element of a ribbon bar, and the pop-ups and lists that open by it.
 #include <utility>
 
-#include "afxRibbonEdit.h"
 #include "afxribbonbar.h"
+#include "afxRibbonEdit.h"
 #include "afxribbonpanelmenu.h"
 #include "afxribbonslider.h"
 #include "ribbon/keyboard.h"

@@ -5,9 +5,9 @@
 #include <imm.h>
 
 #include "afxDockingManager.h"
-#include "afxRibbonEdit.h"
 #include "afxglobals.h"
 #include "afxribbonbar.h"
+#include "afxRibbonEdit.h"
 #include "afxribbonpanelmenu.h"
 #include "fx/frame.h"
 #include "ribbon/bar_parts.h"

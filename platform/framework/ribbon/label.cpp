@@ -19,8 +19,9 @@ CMFCRibbonLabel::~CMFCRibbonLabel() = default;
 
 void CMFCRibbonLabel::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonButton::CopyFrom(src);
-    if (const auto* label = dynamic_cast<const CMFCRibbonLabel*>(&src); label != nullptr)
+    if (const auto* label = dynamic_cast<const CMFCRibbonLabel*>(&src); label != nullptr) {
         m_bIsMultiLine = label->m_bIsMultiLine;
+    }
 }
 
 // A multi-line label takes the width at which its text fits the panel's rows.
@@ -28,8 +29,9 @@ CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     m_sizeTextRight = ribbon::ToSize(text);
-    if (!m_bIsMultiLine || m_strText.IsEmpty())
+    if (!m_bIsMultiLine || m_strText.IsEmpty()) {
         return {text.width + 2 * m_szMargin.cx, metrics.RowHeight()};
+    }
 
     const ribbon::TextContext context(pDC);
     CDC* dc = CDC::FromHandle(context.Get());
@@ -39,8 +41,9 @@ CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     for (int width = lines.right; width <= text.width; width += step) {
         lines = CRect(0, 0, width, 0);
         dc->DrawText(m_strText, lines, DT_WORDBREAK | DT_NOPREFIX | DT_CALCRECT);
-        if (lines.Height() <= limit && lines.Width() <= width)
+        if (lines.Height() <= limit && lines.Width() <= width) {
             break;
+        }
     }
     return {lines.Width() + 2 * m_szMargin.cx, lines.Height() + 2 * m_szMargin.cy};
 }
@@ -51,8 +54,9 @@ CSize CMFCRibbonLabel::GetCompactSize(CDC* pDC) { return GetRegularSize(pDC); }
 
 // The text has the colour that the container has set, as its background is the container's.
 void CMFCRibbonLabel::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     const ribbon::TextContext context(pDC);
     if (IsMenuMode()) {
         // A heading of the rows below it.

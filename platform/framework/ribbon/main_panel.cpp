@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <vector>
 
-#include "afxRibbonEdit.h"
-#include "afxRibbonLabel.h"
 #include "afxadv.h"
 #include "afxres.h"
+#include "afxRibbonEdit.h"
+#include "afxRibbonLabel.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/element_metrics.h"

@@ -15,22 +15,25 @@ constexpr int kMinimumHeight = 48;
 
 int Widest(const std::vector<Size>& sizes) {
     int width = 0;
-    for (const Size& size : sizes)
+    for (const Size& size : sizes) {
         width = std::max(width, size.width);
+    }
     return width;
 }
 
 int Height(const std::vector<Size>& sizes) {
     int height = 0;
-    for (const Size& size : sizes)
+    for (const Size& size : sizes) {
         height += size.height;
+    }
     return height;
 }
 
 int Width(const std::vector<Size>& sizes, int gap) {
     int width = 0;
-    for (const Size& size : sizes)
+    for (const Size& size : sizes) {
         width += size.width + gap;
+    }
     return width;
 }
 
@@ -55,8 +58,9 @@ std::vector<Rect> ScrollRows(const std::vector<Size>& sizes, const Rect& column,
     const int top =
         column.top + (scrolls ? 0 : ScrollStripHeight(metrics)); // a list that scrolls begins below its own strip
     for (Rect& row : list.rows) {
-        if (!row.IsEmpty())
+        if (!row.IsEmpty()) {
             row = {column.left, top + row.top, column.right, top + row.bottom};
+        }
     }
     return list.rows;
 }
@@ -78,19 +82,22 @@ MainPanelPlaces PlaceMainPanel(const MainPanelContent& content, const FaceMetric
     int rightWidth = content.right.empty() ? 0 : std::max(content.rightWidth, Widest(content.right));
     const int bottomWidth = Width(content.bottom, gap);
     const int inner = std::max(leftWidth + rightWidth, bottomWidth);
-    if (!content.right.empty())
+    if (!content.right.empty()) {
         rightWidth = inner - leftWidth;
+    }
     int rowHeight = 0;
-    for (const Size& size : content.bottom)
+    for (const Size& size : content.bottom) {
         rowHeight = std::max(rowHeight, size.height);
+    }
     const int below = content.bottom.empty() ? side : 2 * gap + rowHeight;
     const int wanted = std::max({Height(content.left), Height(content.right), metrics.Scaled(kMinimumHeight)});
     const int room = content.maxHeight > 0 ? std::max(content.maxHeight - top - below, 1) : wanted;
     const int height = std::min(wanted, room);
     places.frame = {side, top, side + inner, top + height};
     const int leftEnd = places.frame.right - rightWidth;
-    if (rightWidth > 0)
+    if (rightWidth > 0) {
         places.rightFrame = {leftEnd, top, places.frame.right, places.frame.bottom};
+    }
     if (wanted > height) {
         const int strip = ScrollStripHeight(metrics);
         places.scrollUp = {places.frame.left, top, places.frame.right, top + strip};

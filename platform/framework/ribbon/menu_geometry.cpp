@@ -22,8 +22,9 @@ int TextBlockHeight(const MenuRowContent& content) { return content.text.height 
 
 int TotalHeight(std::span<const Size> rows) {
     int height = 0;
-    for (const Size& row : rows)
+    for (const Size& row : rows) {
         height += std::max(row.height, 0);
+    }
     return height;
 }
 
@@ -32,8 +33,9 @@ int RowsThatFit(std::span<const Size> rows, int first, int height) {
     int count = 0;
     for (auto index = static_cast<size_t>(first); index < rows.size(); ++index) {
         height -= rows[index].height;
-        if (height < 0 && count > 0)
+        if (height < 0 && count > 0) {
             break;
+        }
         ++count;
     }
     return count;
@@ -44,8 +46,9 @@ int LastFirstRow(std::span<const Size> rows, int height) {
     auto first = rows.size();
     while (first > 0) {
         height -= rows[first - 1].height;
-        if (height < 0 && first < rows.size())
+        if (height < 0 && first < rows.size()) {
             break;
+        }
         --first;
     }
     return static_cast<int>(std::min(first, rows.empty() ? 0 : rows.size() - 1));
@@ -71,13 +74,15 @@ Size MeasureMenuRow(const MenuRowContent& content, const FaceMetrics& metrics) {
 
 MenuRowFace PlaceMenuRow(const Rect& rect, const MenuRowContent& content, const FaceMetrics& metrics) {
     MenuRowFace face;
-    if (rect.IsEmpty())
+    if (rect.IsEmpty()) {
         return face;
+    }
     const int margin = metrics.Scaled(kImageMargin);
     const int column = std::max(content.imageColumn, content.image.width + 2 * margin);
     const int imageLeft = rect.left + (column - content.image.width) / 2;
-    if (!content.image.IsEmpty())
+    if (!content.image.IsEmpty()) {
         face.image = LeftCentred({imageLeft, rect.top, rect.right, rect.bottom}, content.image);
+    }
     const int side = std::max({content.image.width, content.image.height, metrics.Scaled(16)}) + 2 * (margin / 2);
     face.frame = LeftCentred({rect.left + (column - side) / 2, rect.top, rect.right, rect.bottom}, {side, side});
 
@@ -86,16 +91,18 @@ MenuRowFace PlaceMenuRow(const Rect& rect, const MenuRowContent& content, const 
     const int textRight = rect.right - arrowColumn;
     const int textTop = rect.top + (rect.Height() - TextBlockHeight(content)) / 2;
     face.text = {textLeft, textTop, textRight, textTop + content.text.height};
-    if (content.description.height > 0)
+    if (content.description.height > 0) {
         face.description = {textLeft, face.text.bottom, textRight, face.text.bottom + content.description.height};
+    }
     if (content.keys.width > 0) {
         face.keys = {textRight - content.keys.width, textTop, textRight, textTop + content.keys.height};
         face.text.right = std::max(face.text.left, face.keys.left - margin);
     }
 
     face.command = rect;
-    if (content.menu == ButtonMenu::None)
+    if (content.menu == ButtonMenu::None) {
         return face;
+    }
     face.arrow = {rect.right - arrowColumn, rect.top, rect.right, rect.bottom};
     if (content.menu == ButtonMenu::Split) {
         face.menu = face.arrow;
@@ -114,8 +121,9 @@ MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, 
     MenuList list;
     list.rows.resize(rows.size());
     int width = minWidth;
-    for (const Size& row : rows)
+    for (const Size& row : rows) {
         width = std::max(width, row.width);
+    }
     const int total = TotalHeight(rows);
     int y = 0;
     if (total <= maxHeight || rows.empty()) {
@@ -147,14 +155,17 @@ MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, 
 }
 
 int FirstRowThatShows(std::span<const Size> rows, int row, int maxHeight, int firstRow, const FaceMetrics& metrics) {
-    if (row < 0 || static_cast<size_t>(row) >= rows.size() || TotalHeight(rows) <= maxHeight)
+    if (row < 0 || static_cast<size_t>(row) >= rows.size() || TotalHeight(rows) <= maxHeight) {
         return firstRow;
-    if (row < firstRow)
+    }
+    if (row < firstRow) {
         return row;
+    }
     const int room = RoomForRows(maxHeight, metrics);
     int first = firstRow;
-    while (first < row && row >= first + RowsThatFit(rows, first, room))
+    while (first < row && row >= first + RowsThatFit(rows, first, room)) {
         ++first;
+    }
     return first;
 }
 
@@ -177,8 +188,9 @@ std::vector<Rect> PlaceLines(std::span<const Size> elements, int width, int gap)
     };
     for (size_t index = 0; index < elements.size(); ++index) {
         const Size& size = elements[index];
-        if (x > 0 && x + gap + size.width > width)
+        if (x > 0 && x + gap + size.width > width) {
             endLine(index);
+        }
         x += x > 0 ? gap : 0;
         places[index] = {x, y, x + size.width, y + size.height};
         x += size.width;
@@ -194,13 +206,16 @@ Rect PlacePopup(const Rect& area, Size size, PopupSide side, const Rect& workAre
     if (side == PopupSide::Beside) {
         x = area.right;
         y = area.top;
-        if (x + size.width > workArea.right && area.left - size.width >= workArea.left)
+        if (x + size.width > workArea.right && area.left - size.width >= workArea.left) {
             x = area.left - size.width;
+        }
     } else {
-        if (side == PopupSide::BelowAtRight)
+        if (side == PopupSide::BelowAtRight) {
             x = area.right - size.width;
-        if (y + size.height > workArea.bottom && area.top - size.height >= workArea.top)
+        }
+        if (y + size.height > workArea.bottom && area.top - size.height >= workArea.top) {
             y = area.top - size.height;
+        }
     }
     x = std::max(std::min(x, workArea.right - size.width), workArea.left);
     y = std::max(std::min(y, workArea.bottom - size.height), workArea.top);

@@ -23,8 +23,9 @@ struct KeptBitmap {
     KeptBitmap& operator=(const KeptBitmap&) = delete;
 
     void Drop() {
-        if (handle != nullptr)
+        if (handle != nullptr) {
             ::DeleteObject(handle);
+        }
         handle = nullptr;
     }
     /// The bitmap if it is large enough, else nothing.

@@ -1,5 +1,5 @@
-#include "afxRibbonPanel.h"
 #include "afxribbonbutton.h"
+#include "afxRibbonPanel.h"
 #include "fx/registered_messages.h"
 
 #include <memory>

@@ -5,10 +5,10 @@
 
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
+#include "popups/menu_watch.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/keyboard.h"
 #include "ribbon/menu_geometry.h"
-#include "popups/menu_watch.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonPanelMenu, CMFCPopupMenu)
 

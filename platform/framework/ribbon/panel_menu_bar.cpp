@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "afxRibbonMainPanel.h"
-#include "afxRibbonLabel.h"
 #include "afxribbonbar.h"
+#include "afxRibbonLabel.h"
+#include "afxRibbonMainPanel.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/panel_menu_parts.h"
 

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <utility>
 
+#include "afxribbonbar.h"
+#include "afxribbonbutton.h"
 #include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
 #include "afxRibbonMainPanel.h"
-#include "afxribbonbar.h"
-#include "afxribbonbutton.h"
 #include "fx/registered_messages.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/panel_menu_parts.h"

@@ -1,12 +1,12 @@
 // Layout and drawing of what a ribbon pop-up shows.
 #include "afxribbonpanelmenu.h"
 
-#include "afxRibbonEdit.h"
-#include "afxRibbonLabel.h"
-#include "afxRibbonMainPanel.h"
 #include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "afxribbonbuttonsgroup.h"
+#include "afxRibbonEdit.h"
+#include "afxRibbonLabel.h"
+#include "afxRibbonMainPanel.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"

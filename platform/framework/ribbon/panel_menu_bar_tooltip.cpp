@@ -2,9 +2,9 @@
 #include "afxribbonpanelmenu.h"
 
 #include "afxtooltipmanager.h"
+#include "popups/tooltip_width.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/panel_menu_parts.h"
-#include "popups/tooltip_width.h"
 
 namespace {
 

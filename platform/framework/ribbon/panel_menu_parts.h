@@ -3,8 +3,8 @@
 #include <memory>
 #include <vector>
 
-#include "afxRibbonPanel.h"
 #include "afxribboncategory.h"
+#include "afxRibbonPanel.h"
 #include "afxribbonpanelmenu.h"
 #include "fx/wheel_rest.h"
 #include "ribbon/access.h"

@@ -17,26 +17,30 @@ CMFCRibbonSeparator::CMFCRibbonSeparator(BOOL bIsHoriz) : m_bIsHoriz(bIsHoriz) {
 
 void CMFCRibbonSeparator::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonBaseElement::CopyFrom(src);
-    if (const auto* separator = dynamic_cast<const CMFCRibbonSeparator*>(&src); separator != nullptr)
+    if (const auto* separator = dynamic_cast<const CMFCRibbonSeparator*>(&src); separator != nullptr) {
         m_bIsHoriz = separator->m_bIsHoriz;
+    }
 }
 
 CSize CMFCRibbonSeparator::GetRegularSize(CDC* /*pDC*/) {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    if (IsMenuMode())
+    if (IsMenuMode()) {
         return {0, ribbon::MenuSeparatorHeight(metrics)};
+    }
     const int thickness = metrics.Scaled(kThickness);
     return m_bIsHoriz ? CSize(thickness, thickness) : CSize(thickness, metrics.RowHeight());
 }
 
 void CMFCRibbonSeparator::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     CMFCVisualManager* visual = CMFCVisualManager::GetInstance();
-    if (IsMenuMode())
+    if (IsMenuMode()) {
         visual->OnDrawSeparator(pDC, m_pParentMenu, m_rect, FALSE);
-    else if (IsQATMode())
+    } else if (IsQATMode()) {
         visual->OnDrawRibbonQuickAccessToolBarSeparator(pDC, this, m_rect);
-    else
+    } else {
         visual->OnDrawSeparator(pDC, GetTopLevelRibbonBar(), m_rect, !m_bIsHoriz);
+    }
 }

@@ -26,8 +26,9 @@ ribbon::SliderFace FaceOf(const CMFCRibbonSlider& slider) {
 UINT KeyInWindow(UINT key, const CWnd* window) {
     const bool isMirrored =
         window != nullptr && window->GetSafeHwnd() != nullptr && (window->GetExStyle() & WS_EX_LAYOUTRTL) != 0;
-    if (isMirrored && key == VK_LEFT)
+    if (isMirrored && key == VK_LEFT) {
         return VK_RIGHT;
+    }
     return isMirrored && key == VK_RIGHT ? VK_LEFT : key;
 }
 
@@ -41,10 +42,12 @@ CMFCRibbonSlider::CMFCRibbonSlider(UINT nID, int nWidth) : m_nWidth(nWidth) { m_
 
 void CMFCRibbonSlider::SetPos(int nPos, BOOL bRedraw) {
     const int former = std::exchange(m_nPos, std::clamp(nPos, m_nMin, m_nMax));
-    if (bRedraw)
+    if (bRedraw) {
         Redraw();
-    if (m_nPos != former)
+    }
+    if (m_nPos != former) {
         NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
+    }
 }
 
 void CMFCRibbonSlider::SetRange(int nMin, int nMax) {
@@ -64,8 +67,9 @@ CSize CMFCRibbonSlider::GetRegularSize(CDC* /*pDC*/) {
 void CMFCRibbonSlider::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonBaseElement::CopyFrom(src);
     const auto* slider = dynamic_cast<const CMFCRibbonSlider*>(&src);
-    if (slider == nullptr)
+    if (slider == nullptr) {
         return;
+    }
     m_nWidth = slider->m_nWidth;
     m_nMin = slider->m_nMin;
     m_nMax = slider->m_nMax;
@@ -75,8 +79,9 @@ void CMFCRibbonSlider::CopyFrom(const CMFCRibbonBaseElement& src) {
 }
 
 void CMFCRibbonSlider::OnDraw(CDC* pDC) {
-    if (m_rect.IsRectEmpty())
+    if (m_rect.IsRectEmpty()) {
         return;
+    }
     CMFCVisualManager* visual = CMFCVisualManager::GetInstance();
     const ribbon::SliderFace face = FaceOf(*this);
     // With the keyboard it is the thumb that moves.
@@ -122,27 +127,31 @@ long long CMFCRibbonSlider::GetPageStep() const {
 // The handler of the command may delete this slider; the notification comes last.
 void CMFCRibbonSlider::ChangePos(int nPos) {
     const int pos = std::clamp(nPos, m_nMin, m_nMax);
-    if (pos == m_nPos)
+    if (pos == m_nPos) {
         return;
+    }
     SetPos(pos);
     NotifyCommand();
 }
 
 void CMFCRibbonSlider::OnMouseMove(CPoint point) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return;
+    }
     const RibbonSliderPart part = GetPartFromPoint(point);
     if (part != m_HotPart) {
         m_HotPart = part;
         Redraw();
     }
-    if (m_PressedPart == RibbonSliderPart::Thumb)
+    if (m_PressedPart == RibbonSliderPart::Thumb) {
         ChangePos(GetPosFromPoint(point));
+    }
 }
 
 void CMFCRibbonSlider::OnLButtonDown(CPoint point) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return;
+    }
     m_PressedPart = m_HotPart = GetPartFromPoint(point);
     m_bIsPressed = m_PressedPart != RibbonSliderPart::None;
     m_bHasRepeated = FALSE;
@@ -154,8 +163,9 @@ void CMFCRibbonSlider::OnLButtonUp(CPoint point) {
     const BOOL hasRepeated = std::exchange(m_bHasRepeated, FALSE);
     m_bIsPressed = FALSE;
     Redraw();
-    if (IsDisabled() || GetPartFromPoint(point) != pressed)
+    if (IsDisabled() || GetPartFromPoint(point) != pressed) {
         return;
+    }
     switch (pressed) {
     case RibbonSliderPart::Increase:
         ChangePos(hasRepeated ? m_nPos : GetPosAfter(m_nZoomIncrement));
@@ -178,10 +188,12 @@ BOOL CMFCRibbonSlider::IsAutoRepeatMode(int& nDelay) const {
 }
 
 BOOL CMFCRibbonSlider::OnAutoRepeat() {
-    if (IsDisabled() || !IsZoomButton(m_PressedPart))
+    if (IsDisabled() || !IsZoomButton(m_PressedPart)) {
         return FALSE;
-    if (m_HotPart != m_PressedPart)
+    }
+    if (m_HotPart != m_PressedPart) {
         return TRUE; // the pointer has left the button and may come back
+    }
     m_bHasRepeated = TRUE;
     const long long step = m_nZoomIncrement;
     ChangePos(GetPosAfter(m_PressedPart == RibbonSliderPart::Increase ? step : -step));
@@ -191,18 +203,21 @@ BOOL CMFCRibbonSlider::OnAutoRepeat() {
 // A press can end without a release, when the parent window loses the capture.
 void CMFCRibbonSlider::SetPressed(BOOL bPressed) {
     CMFCRibbonBaseElement::SetPressed(bPressed);
-    if (!bPressed)
+    if (!bPressed) {
         m_PressedPart = RibbonSliderPart::None;
+    }
 }
 
 void CMFCRibbonSlider::OnHighlight(BOOL bHighlight) {
-    if (!bHighlight)
+    if (!bHighlight) {
         m_HotPart = RibbonSliderPart::None;
+    }
 }
 
 BOOL CMFCRibbonSlider::OnProcessKey(UINT nChar) {
-    if (IsDisabled())
+    if (IsDisabled()) {
         return FALSE;
+    }
     switch (KeyInWindow(nChar, GetParentWnd())) {
     case VK_LEFT:
     case VK_DOWN:

@@ -15,8 +15,9 @@ Size ThumbSize(const FaceMetrics& metrics) { return {metrics.Scaled(kThumb.width
 
 Rect ChannelOf(const Rect& rect, bool hasButtons, const FaceMetrics& metrics) {
     int side = metrics.Scaled(kSideMargin);
-    if (hasButtons)
+    if (hasButtons) {
         side += metrics.Scaled(kButton) + metrics.Scaled(kButtonGap);
+    }
     return {rect.left + side, rect.top, std::max(rect.left + side, rect.right - side), rect.bottom};
 }
 
@@ -28,14 +29,16 @@ int TravelOf(const Rect& channel, const FaceMetrics& metrics) {
 
 Size MeasureSlider(int channelWidth, bool hasButtons, const FaceMetrics& metrics) {
     int width = metrics.Scaled(channelWidth) + 2 * metrics.Scaled(kSideMargin);
-    if (hasButtons)
+    if (hasButtons) {
         width += 2 * (metrics.Scaled(kButton) + metrics.Scaled(kButtonGap));
+    }
     return {width, metrics.RowHeight()};
 }
 
 SliderFace PlaceSlider(const Rect& rect, const SliderState& state, const FaceMetrics& metrics) {
-    if (rect.IsEmpty())
+    if (rect.IsEmpty()) {
         return {};
+    }
     SliderFace face;
     face.channel = ChannelOf(rect, state.hasButtons, metrics);
     if (state.hasButtons) {
@@ -52,20 +55,24 @@ SliderFace PlaceSlider(const Rect& rect, const SliderState& state, const FaceMet
 }
 
 RibbonSliderPart SliderPartAt(const SliderFace& face, Point point) {
-    if (face.decrease.Contains(point))
+    if (face.decrease.Contains(point)) {
         return RibbonSliderPart::Decrease;
-    if (face.increase.Contains(point))
+    }
+    if (face.increase.Contains(point)) {
         return RibbonSliderPart::Increase;
-    if (face.thumb.Contains(point))
+    }
+    if (face.thumb.Contains(point)) {
         return RibbonSliderPart::Thumb;
+    }
     return face.channel.Contains(point) ? RibbonSliderPart::Channel : RibbonSliderPart::None;
 }
 
 int SliderPositionAt(const Rect& rect, const SliderState& state, const FaceMetrics& metrics, int x) {
     const Rect channel = ChannelOf(rect, state.hasButtons, metrics);
     const int travel = TravelOf(channel, metrics);
-    if (travel == 0)
+    if (travel == 0) {
         return state.position;
+    }
     const int offset = std::clamp(x - channel.left - ThumbSize(metrics).width / 2, 0, travel);
     const double range = static_cast<double>(state.maximum) - state.minimum;
     return static_cast<int>(state.minimum + std::llround(range * offset / travel));

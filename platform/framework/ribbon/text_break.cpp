@@ -45,46 +45,55 @@ bool LeavesOneAlone(std::wstring_view text, std::wstring_view first, std::wstrin
 bool IsIn(std::wstring_view set, wchar_t character) { return set.find(character) != std::wstring_view::npos; }
 
 std::wstring_view TrimRight(std::wstring_view text) {
-    while (!text.empty() && IsSpace(text.back()))
+    while (!text.empty() && IsSpace(text.back())) {
         text.remove_suffix(1);
+    }
     return text;
 }
 
 size_t SkipSpaces(std::wstring_view text, size_t index) {
-    while (index < text.size() && IsSpace(text[index]))
+    while (index < text.size() && IsSpace(text[index])) {
         ++index;
+    }
     return index;
 }
 
 } // namespace
 
 bool CanBreakBefore(std::wstring_view text, size_t index) {
-    if (index == 0 || index >= text.size())
+    if (index == 0 || index >= text.size()) {
         return false;
+    }
     const wchar_t before = text[index - 1];
     const wchar_t after = text[index];
-    if (IsSpace(after))
+    if (IsSpace(after)) {
         return false;
-    if (IsSpace(before))
+    }
+    if (IsSpace(before)) {
         return true;
-    if (IsIn(kNeverFirst, after) || IsIn(kNeverLast, before))
+    }
+    if (IsIn(kNeverFirst, after) || IsIn(kNeverLast, before)) {
         return false;
+    }
     return IsUnspaced(before) || IsUnspaced(after) || IsIn(kBreakAfter, before);
 }
 
 TextBreak BreakInTwo(std::wstring_view text, const TextMeasure& measure, int singleLineWidth, int secondLineExtra) {
     TextBreak best{text.size(), text.size(), measure(text), 0};
-    if (best.firstWidth <= singleLineWidth)
+    if (best.firstWidth <= singleLineWidth) {
         return best;
+    }
 
     int bestWidth = std::numeric_limits<int>::max();
     for (size_t index = text.size(); index-- > 1;) {
-        if (!CanBreakBefore(text, index))
+        if (!CanBreakBefore(text, index)) {
             continue;
+        }
         const std::wstring_view first = TrimRight(text.substr(0, index));
         const size_t secondStart = SkipSpaces(text, index);
-        if (first.empty() || secondStart == text.size() || LeavesOneAlone(text, first, text.substr(secondStart)))
+        if (first.empty() || secondStart == text.size() || LeavesOneAlone(text, first, text.substr(secondStart))) {
             continue;
+        }
         const TextBreak candidate{first.size(), secondStart, measure(first), measure(text.substr(secondStart))};
         const int width = std::max(candidate.firstWidth, candidate.secondWidth + secondLineExtra);
         if (width < bestWidth) {

@@ -1,9 +1,9 @@
 // How a menu's item looks, in a menu and in a toolbar.
 #include "afxtoolbarmenubutton.h"
 
-#include "afxMDIFrameWndEx.h"
 #include "afxframewndex.h"
 #include "afxglobals.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxpopupmenu.h"
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"

@@ -1,9 +1,9 @@
 // The life of a pop-up menu: creation, the chain, the end.
 #include "afxpopupmenu.h"
 
-#include "afxMDIFrameWndEx.h"
 #include "afxbaseribbonelement.h"
 #include "afxframewndex.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxvisualmanager.h"
 #include "popups/menu_watch.h"
 #include "toolbar/popup_parts.h"

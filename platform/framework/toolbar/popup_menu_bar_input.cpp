@@ -2,9 +2,9 @@
 #include "afxpopupmenubar.h"
 
 #include "afxpopupmenu.h"
+#include "popups/wheel_rows.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
-#include "popups/wheel_rows.h"
 
 #include <algorithm>
 #include <cwctype>

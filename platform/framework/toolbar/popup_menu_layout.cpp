@@ -5,9 +5,9 @@
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
+#include "popups/popup_place.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_parts.h"
-#include "popups/popup_place.h"
 
 #include <algorithm>
 

@@ -5,8 +5,8 @@
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
-#include "toolbar/menu_row.h"
 #include "popups/row_text.h"
+#include "toolbar/menu_row.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,9 +1,9 @@
 // Mouse, commands and their state, tooltips.
 #include "afxtoolbar.h"
 
-#include "afxMDIFrameWndEx.h"
 #include "afxext.h"
 #include "afxframewndex.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxtoolbarmenubutton.h"
 #include "toolbar/metrics.h"
 

@@ -31,18 +31,22 @@ void Blend(HDC target, POINT corner, HDC source, SIZE size) {
 
 Canvas::Canvas(HDC dc, const RECT& bounds, const Recipe& recipe) : m_dc(dc), m_bounds(bounds), m_recipe(recipe) {
     const int width = bounds.right - bounds.left, height = bounds.bottom - bounds.top;
-    if (width <= 0 || height <= 0 || !RectVisible(dc, &bounds))
+    if (width <= 0 || height <= 0 || !RectVisible(dc, &bounds)) {
         return;
+    }
     // A kept picture would have the wrong direction half of the time.
-    if (gdi::IsMirrored(dc))
+    if (gdi::IsMirrored(dc)) {
         m_recipe = Recipe();
-    if (!m_recipe.IsEmpty() && PictureCache::Instance().Draw(dc, bounds, m_recipe))
+    }
+    if (!m_recipe.IsEmpty() && PictureCache::Instance().Draw(dc, bounds, m_recipe)) {
         return;
+    }
     m_memory = CreateCompatibleDC(dc);
     std::uint32_t* bits = nullptr;
     m_bitmap = MakeBitmap32(width, height, &bits);
-    if (m_memory == nullptr || m_bitmap == nullptr)
+    if (m_memory == nullptr || m_bitmap == nullptr) {
         return;
+    }
     m_previous = SelectObject(m_memory, m_bitmap);
     m_view = {bits, width, height};
 }
@@ -64,14 +68,17 @@ Canvas::~Canvas() {
             Blend(m_dc, {m_bounds.left, m_bounds.top}, m_memory, size);
         }
     }
-    if (m_previous != nullptr)
+    if (m_previous != nullptr) {
         SelectObject(m_memory, m_previous);
-    if (m_view.bits != nullptr && !m_recipe.IsEmpty())
+    }
+    if (m_view.bits != nullptr && !m_recipe.IsEmpty()) {
         PictureCache::Instance().Put(m_recipe, m_bitmap, m_view);
-    else if (m_bitmap != nullptr)
+    } else if (m_bitmap != nullptr) {
         DeleteObject(m_bitmap);
-    if (m_memory != nullptr)
+    }
+    if (m_memory != nullptr) {
         DeleteDC(m_memory);
+    }
 }
 
 } // namespace visual

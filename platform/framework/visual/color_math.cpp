@@ -21,24 +21,29 @@ Extremes Split(COLORREF color) {
 /// 0 to 6, counted from red.
 double HueOf(const Extremes& c) {
     const double range = c.high - c.low;
-    if (range == 0)
+    if (range == 0) {
         return 0;
+    }
     double hue = 4 + (c.red - c.green) / range;
-    if (c.high == c.red)
+    if (c.high == c.red) {
         hue = (c.green - c.blue) / range;
-    else if (c.high == c.green)
+    } else if (c.high == c.green) {
         hue = 2 + (c.blue - c.red) / range;
+    }
     return hue < 0 ? hue + 6 : hue;
 }
 
 double Channel(double low, double high, double hue) {
     hue -= std::floor(hue);
-    if (hue * 6 < 1)
+    if (hue * 6 < 1) {
         return low + (high - low) * hue * 6;
-    if (hue * 2 < 1)
+    }
+    if (hue * 2 < 1) {
         return high;
-    if (hue * 3 < 2)
+    }
+    if (hue * 3 < 2) {
         return low + (high - low) * (2.0 / 3 - hue) * 6;
+    }
     return low;
 }
 

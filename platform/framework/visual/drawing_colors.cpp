@@ -22,8 +22,9 @@ COLORREF __stdcall CDrawingManager::PixelAlpha(COLORREF srcPixel, COLORREF dstPi
 
 COLORREF __stdcall CDrawingManager::SmartMixColors(COLORREF color1, COLORREF color2, double dblLumRatio, int k1,
                                                    int k2) {
-    if (k1 + k2 <= 0)
+    if (k1 + k2 <= 0) {
         return color1;
+    }
     const auto mixed = [&](int first, int second) { return static_cast<BYTE>((first * k1 + second * k2) / (k1 + k2)); };
     visual::Hsl color =
         visual::ToHsl(RGB(mixed(GetRValue(color1), GetRValue(color2)), mixed(GetGValue(color1), GetGValue(color2)),
@@ -43,10 +44,12 @@ COLORREF __stdcall CDrawingManager::HSVtoRGB(double H, double S, double V) { ret
 
 double __stdcall CDrawingManager::HuetoRGB(double m1, double m2, double h) {
     h += h < 0 ? 1.0 : h > 1 ? -1.0 : 0.0;
-    if (6 * h < 1)
+    if (6 * h < 1) {
         return m1 + (m2 - m1) * h * 6;
-    if (2 * h < 1)
+    }
+    if (2 * h < 1) {
         return m2;
+    }
     return 3 * h < 2 ? m1 + (m2 - m1) * (2.0 / 3 - h) * 6 : m1;
 }
 
@@ -69,8 +72,9 @@ void __stdcall CDrawingManager::RGBtoHSV(COLORREF rgb, double* H, double* S, dou
 }
 
 void __stdcall CDrawingManager::SetPixel(COLORREF* pBits, int cx, int cy, int x, int y, COLORREF color) {
-    if (x >= 0 && x < cx && y >= 0 && y < cy)
+    if (x >= 0 && x < cx && y >= 0 && y < cy) {
         pBits[static_cast<size_t>(y) * cx + x] = RGB(GetBValue(color), GetGValue(color), GetRValue(color));
+    }
 }
 
 void __stdcall CDrawingManager::SetAlphaPixel(COLORREF* pBits, CRect rect, int x, int y, int percent, int iShadowSize,

@@ -34,13 +34,16 @@ BOOL AFX_GLOBAL_DATA::Resume() {
 
 void AFX_GLOBAL_DATA::CleanUp() {
     for (CBrush* brush :
-         {&brBtnFace, &brHilite, &brLight, &brBlack, &brActiveCaption, &brInactiveCaption, &brWindow, &brBarFace})
+         {&brBtnFace, &brHilite, &brLight, &brBlack, &brActiveCaption, &brInactiveCaption, &brWindow, &brBarFace}) {
         brush->DeleteObject();
-    for (CPen* pen : {&penHilite, &penBarFace, &penBarShadow})
+    }
+    for (CPen* pen : {&penHilite, &penBarFace, &penBarShadow}) {
         pen->DeleteObject();
+    }
     for (CFont* font : {&fontRegular, &fontTooltip, &fontBold, &fontDefaultGUIBold, &fontUnderline, &fontVert,
-                        &fontVertCaption, &fontSmall})
+                        &fontVertCaption, &fontSmall}) {
         font->DeleteObject();
+    }
 }
 
 void AFX_GLOBAL_DATA::OnSettingChange() {
@@ -59,8 +62,9 @@ void AFX_GLOBAL_DATA::ReadHighContrast() {
     contrast.cbSize = sizeof(contrast);
     m_bIsBlackHighContrast = m_bIsWhiteHighContrast = FALSE;
     if (!SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) ||
-        (contrast.dwFlags & HCF_HIGHCONTRASTON) == 0)
+        (contrast.dwFlags & HCF_HIGHCONTRASTON) == 0) {
         return;
+    }
     const COLORREF face = GetSysColor(COLOR_3DFACE);
     const BOOL isDark = GetRValue(face) + GetGValue(face) + GetBValue(face) < 3 * 128;
     m_bIsBlackHighContrast = isDark;
@@ -104,8 +108,9 @@ void AFX_GLOBAL_DATA::UpdateSysColors() {
         {&AFX_GLOBAL_DATA::clrInactiveBorder, COLOR_INACTIVEBORDER},
         {&AFX_GLOBAL_DATA::clrPrompt, COLOR_WINDOWTEXT},
     };
-    for (const auto& row : table)
+    for (const auto& row : table) {
         this->*row.color = GetSysColor(row.index);
+    }
 
     const HDC screen = GetDC(nullptr);
     m_nBitsPerPixel = GetDeviceCaps(screen, BITSPIXEL) * GetDeviceCaps(screen, PLANES);
@@ -134,8 +139,9 @@ CString AFX_GLOBAL_DATA::RegisterWindowClass(LPCTSTR lpszClassNamePrefix) {
     CString name;
     name.Format(L"%s:%p", lpszClassNamePrefix, static_cast<void*>(instance));
     WNDCLASSW known{};
-    if (GetClassInfoW(instance, name, &known))
+    if (GetClassInfoW(instance, name, &known)) {
         return name;
+    }
     WNDCLASSW fresh{};
     fresh.style = CS_DBLCLKS;
     fresh.lpfnWndProc = DefWindowProcW;
@@ -152,11 +158,13 @@ BOOL AFX_GLOBAL_DATA::SetLayeredAttrib(HWND hwnd, COLORREF crKey, BYTE bAlpha, D
 
 BOOL AFX_GLOBAL_DATA::DrawParentBackground(CWnd* pWnd, CDC* pDC, LPRECT lpRect) {
     const HWND window = pWnd->GetSafeHwnd(), parent = ::GetParent(window);
-    if (parent == nullptr)
+    if (parent == nullptr) {
         return FALSE;
+    }
     const int saved = ::SaveDC(*pDC);
-    if (lpRect != nullptr)
+    if (lpRect != nullptr) {
         ::IntersectClipRect(*pDC, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
+    }
     POINT origin{};
     MapWindowPoints(window, parent, &origin, 1);
     OffsetViewportOrgEx(*pDC, -origin.x, -origin.y, nullptr);
@@ -171,8 +179,9 @@ int AFX_GLOBAL_DATA::GetShellAutohideBars() {
         APPBARDATA bar{};
         bar.cbSize = sizeof(bar);
         bar.uEdge = edge;
-        if (SHAppBarMessage(ABM_GETAUTOHIDEBAR, &bar) != 0)
+        if (SHAppBarMessage(ABM_GETAUTOHIDEBAR, &bar) != 0) {
             edges |= 1 << edge;
+        }
     }
     return edges;
 }
@@ -180,12 +189,14 @@ int AFX_GLOBAL_DATA::GetShellAutohideBars() {
 BOOL AFX_GLOBAL_DATA::ExcludeTag(CString& strBuffer, LPCTSTR lpszTag, CString& strTag, BOOL bIsCharsList) {
     const CString opening = CString(L"<") + lpszTag + L">", closing = CString(L"</") + lpszTag + L">";
     const int from = strBuffer.Find(opening);
-    if (from < 0)
+    if (from < 0) {
         return FALSE;
+    }
     const int contents = from + opening.GetLength();
     const int to = strBuffer.Find(closing, contents);
-    if (to < 0)
+    if (to < 0) {
         return FALSE;
+    }
     strTag = strBuffer.Mid(contents, to - contents);
     if (bIsCharsList) {
         strTag.Replace(L"\\t", L"\t");
@@ -202,8 +213,9 @@ void AFX_GLOBAL_DATA::EnableRibbonImageScale(BOOL bEnable) {
 }
 
 BOOL AFX_GLOBAL_DATA::SetRibbonImageScale(double dblScale) {
-    if (dblScale != 0.0 && !(dblScale >= 1.0 && dblScale <= 4.0))
+    if (dblScale != 0.0 && !(dblScale >= 1.0 && dblScale <= 4.0)) {
         return FALSE;
+    }
     m_dblScaleSetByHost = dblScale;
     UpdateFonts();
     return TRUE;
@@ -212,8 +224,9 @@ BOOL AFX_GLOBAL_DATA::SetRibbonImageScale(double dblScale) {
 int AFX_GLOBAL_DATA::ScalePixels(int n) const { return static_cast<int>(std::lround(n * GetRibbonImageScale())); }
 
 double AFX_GLOBAL_DATA::ScreenScale() const {
-    if (m_nScreenDpi != 0)
+    if (m_nScreenDpi != 0) {
         return std::clamp(m_nScreenDpi / 96.0, 1.0, 4.0);
+    }
     const HDC screen = GetDC(nullptr);
     const double scale = GetDeviceCaps(screen, LOGPIXELSX) / 96.0;
     ReleaseDC(nullptr, screen);

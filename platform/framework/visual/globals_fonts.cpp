@@ -27,9 +27,11 @@ const wchar_t* InterfaceFont(HDC dc, const wchar_t* fallback) {
     static constexpr const wchar_t* western[] = {L"Segoe UI", L"Microsoft YaHei UI", L"Tahoma"};
     static constexpr const wchar_t* chinese[] = {L"Microsoft YaHei UI", L"Segoe UI", L"Tahoma"};
     const bool isChinese = PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_CHINESE;
-    for (const wchar_t* name : isChinese ? chinese : western)
-        if (FontExists(dc, name))
+    for (const wchar_t* name : isChinese ? chinese : western) {
+        if (FontExists(dc, name)) {
             return name;
+        }
+    }
     return fallback;
 }
 
@@ -41,8 +43,9 @@ bool IsSame(const LOGFONTW& left, const LOGFONTW& right) {
 /// Leaves a font alone that is so already: controls may show it.
 void Recreate(CFont& font, const LOGFONTW& description) {
     LOGFONTW present{};
-    if (font.GetSafeHandle() && font.GetLogFont(&present) && IsSame(present, description))
+    if (font.GetSafeHandle() && font.GetLogFont(&present) && IsSame(present, description)) {
         return;
+    }
     font.DeleteObject();
     font.CreateFontIndirect(&description);
 }
@@ -64,8 +67,9 @@ int WithLeading(int characterHeight) { return characterHeight + (3 * characterHe
 BOOL AFX_GLOBAL_DATA::GetNonClientMetrics(NONCLIENTMETRICS& info) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof(metrics);
-    if (!SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0))
+    if (!SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0)) {
         return FALSE;
+    }
     info = metrics;
     return TRUE;
 }
@@ -73,8 +77,9 @@ BOOL AFX_GLOBAL_DATA::GetNonClientMetrics(NONCLIENTMETRICS& info) {
 void AFX_GLOBAL_DATA::UpdateFonts() {
     m_dblRibbonImageScale = m_dblScaleSetByHost != 0.0 ? m_dblScaleSetByHost : ScreenScale();
     NONCLIENTMETRICSW metrics{};
-    if (GetNonClientMetrics(metrics))
+    if (GetNonClientMetrics(metrics)) {
         CreateFonts(metrics);
+    }
     UpdateTextHeights();
 }
 
@@ -82,8 +87,9 @@ void AFX_GLOBAL_DATA::CreateFonts(const NONCLIENTMETRICS& metrics) {
     LOGFONTW font = metrics.lfMenuFont;
     const HDC screen = GetDC(nullptr);
     const double systemScale = GetDeviceCaps(screen, LOGPIXELSY) / 96.0;
-    if (!m_bUseSystemFont)
+    if (!m_bUseSystemFont) {
         std::wcsncpy(font.lfFaceName, InterfaceFont(screen, metrics.lfMenuFont.lfFaceName), LF_FACESIZE - 1);
+    }
     ReleaseDC(nullptr, screen);
     font.lfHeight = -visual::FontPixels(metrics.lfMenuFont.lfHeight, systemScale, GetRibbonImageScale());
     font.lfWidth = 0;
@@ -127,8 +133,9 @@ int AFX_GLOBAL_DATA::GetTextHeight(BOOL bHorz) { return bHorz ? m_nTextHeightHor
 
 BOOL AFX_GLOBAL_DATA::SetMenuFont(LPLOGFONT lpLogFont, BOOL bHorz) {
     const HFONT made = lpLogFont != nullptr ? CreateFontIndirectW(lpLogFont) : nullptr;
-    if (made == nullptr)
+    if (made == nullptr) {
         return FALSE;
+    }
     CFont& font = bHorz ? fontRegular : fontVert;
     font.DeleteObject();
     font.Attach(made);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cstring>
-#include <objidl.h>
 #include <gdiplus.h>
+#include <objidl.h>
 #include <shlwapi.h>
 
 namespace visual {
@@ -22,19 +22,23 @@ bool StartGdiPlus() {
 
 Picture Decode(Gdiplus::Bitmap& source) {
     const int width = static_cast<int>(source.GetWidth()), height = static_cast<int>(source.GetHeight());
-    if (source.GetLastStatus() != Gdiplus::Ok || width <= 0 || height <= 0)
+    if (source.GetLastStatus() != Gdiplus::Ok || width <= 0 || height <= 0) {
         return {};
+    }
     Gdiplus::BitmapData data;
     const Gdiplus::Rect whole(0, 0, width, height);
-    if (source.LockBits(&whole, Gdiplus::ImageLockModeRead, PixelFormat32bppPARGB, &data) != Gdiplus::Ok)
+    if (source.LockBits(&whole, Gdiplus::ImageLockModeRead, PixelFormat32bppPARGB, &data) != Gdiplus::Ok) {
         return {};
+    }
     Picture picture;
     std::uint32_t* bits = nullptr;
     picture.bitmap = MakeBitmap32(width, height, &bits);
-    if (picture.bitmap != nullptr)
-        for (int y = 0; y < height; ++y)
+    if (picture.bitmap != nullptr) {
+        for (int y = 0; y < height; ++y) {
             std::copy_n(reinterpret_cast<const std::uint32_t*>(static_cast<const BYTE*>(data.Scan0) + y * data.Stride),
                         width, bits + static_cast<std::size_t>(y) * width);
+        }
+    }
     source.UnlockBits(&data);
     picture.hasAlpha = Gdiplus::IsAlphaPixelFormat(source.GetPixelFormat());
     return picture;
@@ -42,12 +46,14 @@ Picture Decode(Gdiplus::Bitmap& source) {
 
 /// Any bitmap as 32-bit rows, alpha as it stands.
 HBITMAP CopyRows(HBITMAP bitmap, std::uint32_t** bits, BITMAP& info) {
-    if (GetObjectW(bitmap, sizeof(info), &info) == 0)
+    if (GetObjectW(bitmap, sizeof(info), &info) == 0) {
         return nullptr;
+    }
     info.bmHeight = std::abs(info.bmHeight);
     const HBITMAP copy = MakeBitmap32(info.bmWidth, info.bmHeight, bits);
-    if (copy == nullptr)
+    if (copy == nullptr) {
         return nullptr;
+    }
     BITMAPINFO format{};
     format.bmiHeader = {sizeof(format.bmiHeader), info.bmWidth, -info.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     const HDC screen = GetDC(nullptr);
@@ -65,18 +71,22 @@ void MakeOpaque(const PixelView& view) {
 
 PixelView ViewOf(HBITMAP bitmap) {
     BITMAP info{};
-    if (bitmap == nullptr || GetObjectW(bitmap, sizeof(info), &info) == 0 || info.bmBits == nullptr)
+    if (bitmap == nullptr || GetObjectW(bitmap, sizeof(info), &info) == 0 || info.bmBits == nullptr) {
         return {};
+    }
     GdiFlush();
     return {static_cast<std::uint32_t*>(info.bmBits), info.bmWidth, info.bmHeight};
 }
 
 void CopyPixels(const PixelView& source, const RECT& from, const PixelView& target, int left) {
     const int width = from.right - from.left, height = from.bottom - from.top;
-    for (int y = 0; y < std::min(height, target.height); ++y)
-        for (int x = 0; x < width && left + x < target.width; ++x)
-            if (from.left + x < source.width && from.top + y < source.height)
+    for (int y = 0; y < std::min(height, target.height); ++y) {
+        for (int x = 0; x < width && left + x < target.width; ++x) {
+            if (from.left + x < source.width && from.top + y < source.height) {
                 target.At(left + x, y) = source.At(from.left + x, from.top + y);
+            }
+        }
+    }
 }
 
 std::vector<BYTE> BitmapFileFrom(const PixelView& view) {
@@ -95,8 +105,9 @@ std::vector<BYTE> BitmapFileFrom(const PixelView& view) {
     info.biBitCount = 32;
     std::memcpy(file.data(), &header, sizeof(header));
     std::memcpy(file.data() + sizeof(header), &info, sizeof(info));
-    for (int y = 0; y < view.height; ++y)
+    for (int y = 0; y < view.height; ++y) {
         std::memcpy(file.data() + headerSize + rowSize * (view.height - 1 - y), &view.At(0, y), rowSize);
+    }
     return file;
 }
 
@@ -110,14 +121,16 @@ Picture PictureFromBitmap(HBITMAP bitmap, bool isMultiplied) {
     BITMAP info{};
     std::uint32_t* bits = nullptr;
     Picture picture{CopyRows(bitmap, &bits, info), false};
-    if (picture.bitmap == nullptr)
+    if (picture.bitmap == nullptr) {
         return {};
+    }
     const PixelView view{bits, info.bmWidth, info.bmHeight};
     picture.hasAlpha = info.bmBitsPixel == 32 && HasAlpha(view);
-    if (picture.hasAlpha)
+    if (picture.hasAlpha) {
         PreMultiply(view, isMultiplied);
-    else
+    } else {
         MakeOpaque(view);
+    }
     return picture;
 }
 
@@ -129,8 +142,9 @@ Picture PictureFromFile(const wchar_t* path) {
         DeleteObject(bitmap);
         return picture;
     }
-    if (!StartGdiPlus())
+    if (!StartGdiPlus()) {
         return {};
+    }
     Gdiplus::Bitmap source(path);
     return Decode(source);
 }
@@ -140,8 +154,9 @@ Picture PictureFromResource(HINSTANCE module, const wchar_t* name) {
         const HGLOBAL loaded = LoadResource(module, found);
         IStream* stream =
             SHCreateMemStream(static_cast<const BYTE*>(LockResource(loaded)), SizeofResource(module, found));
-        if (stream == nullptr)
+        if (stream == nullptr) {
             return {};
+        }
         Picture picture;
         {
             Gdiplus::Bitmap source(stream);
@@ -151,8 +166,9 @@ Picture PictureFromResource(HINSTANCE module, const wchar_t* name) {
         return picture;
     }
     const auto bitmap = static_cast<HBITMAP>(LoadImageW(module, name, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
-    if (bitmap == nullptr)
+    if (bitmap == nullptr) {
         return {};
+    }
     const Picture picture = PictureFromBitmap(bitmap, true);
     DeleteObject(bitmap);
     return picture;
@@ -160,8 +176,9 @@ Picture PictureFromResource(HINSTANCE module, const wchar_t* name) {
 
 Picture PictureFromIcon(HICON icon, SIZE size) {
     ICONINFO info{};
-    if (!GetIconInfo(icon, &info))
+    if (!GetIconInfo(icon, &info)) {
         return {};
+    }
     Picture picture;
     BITMAP colorInfo{}, maskInfo{};
     std::uint32_t *colorBits = nullptr, *maskBits = nullptr;
@@ -174,19 +191,24 @@ Picture PictureFromIcon(HICON icon, SIZE size) {
         PixelView source{colorBits + (info.hbmColor != nullptr ? 0 : static_cast<std::size_t>(width) * height), width,
                          height};
         const bool hasAlpha = info.hbmColor != nullptr && colorInfo.bmBitsPixel == 32 && HasAlpha(source);
-        if (hasAlpha)
+        if (hasAlpha) {
             PreMultiply(source, false);
-        else
-            for (int i = 0; i < width * height; ++i)
+        } else {
+            for (int i = 0; i < width * height; ++i) {
                 source.bits[i] = (maskBits[i] & 0xFFFFFF) != 0 ? 0 : source.bits[i] | 0xFF000000;
+            }
+        }
         std::uint32_t* bits = nullptr;
         picture = {MakeBitmap32(size.cx, size.cy, &bits), true};
-        if (picture.bitmap != nullptr)
+        if (picture.bitmap != nullptr) {
             Resample(source, {bits, size.cx, size.cy});
+        }
     }
-    for (const HBITMAP bitmap : {color, mask, info.hbmColor, info.hbmMask})
-        if (bitmap != nullptr)
+    for (const HBITMAP bitmap : {color, mask, info.hbmColor, info.hbmMask}) {
+        if (bitmap != nullptr) {
             DeleteObject(bitmap);
+        }
+    }
     return picture;
 }
 

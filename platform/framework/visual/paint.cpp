@@ -28,20 +28,25 @@ void FillPart(const Canvas& canvas, LONG left, LONG top, LONG right, LONG bottom
 } // namespace
 
 const Face* ButtonFaceFor(const Skin& skin, const ElementState& state) {
-    if (state.isDisabled)
+    if (state.isDisabled) {
         return state.isChecked ? &skin[FaceSlot::Group] : nullptr;
-    if (state.isPressed || state.isDropped)
+    }
+    if (state.isPressed || state.isDropped) {
         return &skin[FaceSlot::ButtonPressed];
-    if (state.isChecked)
+    }
+    if (state.isChecked) {
         return &skin[state.isHot ? FaceSlot::ButtonCheckedHot : FaceSlot::ButtonChecked];
+    }
     return state.isHot ? &skin[FaceSlot::ButtonHot] : nullptr;
 }
 
 const Face& KnobFaceFor(const Skin& skin, const ElementState& state) {
-    if (state.isDisabled)
+    if (state.isDisabled) {
         return skin[FaceSlot::CheckBoxDisabled];
-    if (state.isPressed)
+    }
+    if (state.isPressed) {
         return skin[FaceSlot::KnobPressed];
+    }
     return skin[state.isHot ? FaceSlot::KnobHot : FaceSlot::Knob];
 }
 
@@ -61,20 +66,23 @@ Corners CornersFor(GroupPlace place, int radius) {
 
 void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look) {
     const Canvas canvas(dc, rect, Recipe("face", face, corners, look.skin.split, look.Line()));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const IntRect whole = canvas.Local(rect);
     const int line = look.Line();
-    if (HasFill(face))
+    if (HasFill(face)) {
         FillRounded(canvas.View(), whole, corners, StopsOf(face, look.skin));
+    }
     StrokeRounded(canvas.View(), whole.Deflated(line), corners.Deflated(line), face.inner, line);
     StrokeRounded(canvas.View(), whole, corners, face.outer, line);
 }
 
 void PaintFill(HDC dc, const RECT& rect, const Face& face, const Look& look) {
     const Canvas canvas(dc, rect, Recipe("fill", face, look.skin.split));
-    if (!canvas.IsEmpty())
+    if (!canvas.IsEmpty()) {
         FillRounded(canvas.View(), canvas.Local(rect), {}, StopsOf(face, look.skin));
+    }
 }
 
 void PaintBorders(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look) {
@@ -92,8 +100,9 @@ void PaintSolid(HDC dc, const RECT& rect, Argb color) {
         return;
     }
     const Canvas canvas(dc, rect);
-    if (!canvas.IsEmpty())
+    if (!canvas.IsEmpty()) {
         FillPart(canvas, rect.left, rect.top, rect.right, rect.bottom, color);
+    }
 }
 
 void PaintFrame(HDC dc, const RECT& rect, Argb color, int thickness) {
@@ -123,8 +132,9 @@ void PaintArrow(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, 
     const LONG middleX = (rect.left + rect.right) / 2, middleY = (rect.top + rect.bottom) / 2;
     const RECT bounds{middleX - half - 2, middleY - half - 2, middleX + half + 3, middleY + half + 3};
     const Canvas canvas(dc, bounds, Recipe("arrow", direction, color, light, depth));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     // Rows of whole pixels give a sharp triangle at any scale.
     const auto drawAt = [&](LONG offset, Argb rowColor) {
         for (int i = 0; i < depth; ++i) {
@@ -132,24 +142,27 @@ void PaintArrow(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, 
             const bool isUpright = direction == ArrowDirection::Up || direction == ArrowDirection::Down;
             const bool isForward = direction == ArrowDirection::Down || direction == ArrowDirection::Right;
             const LONG step = (isForward ? i : depth - 1 - i) - depth / 2;
-            if (isUpright)
+            if (isUpright) {
                 FillPart(canvas, middleX - reach, middleY + step + offset, middleX + reach + 1,
                          middleY + step + offset + 1, rowColor);
-            else
+            } else {
                 FillPart(canvas, middleX + step, middleY - reach + offset, middleX + step + 1,
                          middleY + reach + 1 + offset, rowColor);
+            }
         }
     };
-    if (AlphaOf(light) != 0)
+    if (AlphaOf(light) != 0) {
         drawAt(1, light);
+    }
     drawAt(0, color);
 }
 
 void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look&) {
     const RECT square = Square(rect);
     const Canvas canvas(dc, square, Recipe("check mark", color));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     // Corner points of a tick on a square of side 1, clockwise from the outer left.
     static constexpr std::array<PointF, 6> shape{
         {{0.18, 0.50}, {0.30, 0.40}, {0.42, 0.56}, {0.70, 0.20}, {0.82, 0.28}, {0.43, 0.80}}};
@@ -166,8 +179,9 @@ void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look&) {
 void PaintRadioMark(HDC dc, const RECT& rect, Argb color, const Look&) {
     const RECT square = Square(rect);
     const Canvas canvas(dc, square, Recipe("radio mark", color));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const int inset = std::max<int>((square.right - square.left) * 3 / 10, 1);
     FillEllipse(canvas.View(), canvas.Local(square).Deflated(inset), {color, color, color, color, 50});
 }
@@ -177,8 +191,9 @@ void PaintSign(HDC dc, const RECT& rect, bool isPlus, Argb color, const Look& lo
     const int half = look.Px(4);
     const LONG left = (rect.left + rect.right - thickness) / 2, top = (rect.top + rect.bottom - thickness) / 2;
     PaintSolid(dc, {left - half + 1, top, left + thickness + half - 1, top + thickness}, color);
-    if (isPlus)
+    if (isPlus) {
         PaintSolid(dc, {left, top - half + 1, left + thickness, top + thickness + half - 1}, color);
+    }
 }
 
 void PaintWindowGlyph(HDC dc, const RECT& rect, WindowGlyph glyph, Argb color, const Look& look) {
@@ -188,8 +203,9 @@ void PaintWindowGlyph(HDC dc, const RECT& rect, WindowGlyph glyph, Argb color, c
     switch (glyph) {
     case WindowGlyph::Close: {
         const Canvas canvas(dc, box);
-        if (canvas.IsEmpty())
+        if (canvas.IsEmpty()) {
             return;
+        }
         const double side = box.right - box.left, width = 1.3 * look.scale;
         const std::array<PointF, 4> falling{{{0, width}, {width, 0}, {side, side - width}, {side - width, side}}};
         const std::array<PointF, 4> rising{{{side - width, 0}, {side, width}, {width, side}, {0, side - width}}};
@@ -218,8 +234,9 @@ void PaintWindowGlyph(HDC dc, const RECT& rect, WindowGlyph glyph, Argb color, c
 void PaintGripper(HDC dc, const RECT& rect, bool isUpright, const Look& look) {
     const int dot = look.Px(2), step = look.Px(4), margin = look.Px(3);
     const Canvas canvas(dc, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const LONG middleX = (rect.left + rect.right - dot) / 2, middleY = (rect.top + rect.bottom - dot) / 2;
     const LONG from = (isUpright ? rect.top : rect.left) + margin;
     const LONG to = (isUpright ? rect.bottom : rect.right) - margin - dot;
@@ -233,24 +250,28 @@ void PaintGripper(HDC dc, const RECT& rect, bool isUpright, const Look& look) {
 void PaintSizeBox(HDC dc, const RECT& rect, const Look& look) {
     const int dot = look.Px(2), step = look.Px(4);
     const Canvas canvas(dc, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
-    for (int row = 0; row < 3; ++row)
+    }
+    for (int row = 0; row < 3; ++row) {
         for (int column = 0; column <= row; ++column) {
             const LONG x = rect.right - look.Px(3) - dot - column * step;
             const LONG y = rect.bottom - look.Px(3) - dot - (2 - row) * step;
             FillPart(canvas, x + 1, y + 1, x + dot + 1, y + dot + 1, look.skin[ColorSlot::StatusSeparatorLight]);
             FillPart(canvas, x, y, x + dot, y + dot, look.skin[ColorSlot::StatusSeparatorDark]);
         }
+    }
 }
 
 namespace {
 
 const Face& BoxFaceFor(const Skin& skin, const ElementState& state) {
-    if (state.isDisabled)
+    if (state.isDisabled) {
         return skin[FaceSlot::CheckBoxDisabled];
-    if (state.isPressed)
+    }
+    if (state.isPressed) {
         return skin[FaceSlot::CheckBoxPressed];
+    }
     return skin[state.isHot ? FaceSlot::CheckBoxHot : FaceSlot::CheckBox];
 }
 
@@ -274,13 +295,15 @@ void PaintRadioButton(HDC dc, const RECT& rect, const ElementState& state, const
     const Face& face = BoxFaceFor(look.skin, state);
     {
         const Canvas canvas(dc, box);
-        if (canvas.IsEmpty())
+        if (canvas.IsEmpty()) {
             return;
+        }
         FillEllipse(canvas.View(), canvas.Local(box), StopsOf(face, look.skin));
         StrokeEllipse(canvas.View(), canvas.Local(box), face.outer, look.Line());
     }
-    if (state.isChecked)
+    if (state.isChecked) {
         PaintRadioMark(dc, box, look.skin[state.isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::CheckMark], look);
+    }
 }
 
 void PaintText(HDC dc, const RECT& rect, const wchar_t* text, int length, UINT flags, Argb color) {

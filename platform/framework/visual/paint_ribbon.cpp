@@ -13,18 +13,21 @@ FourStops StopsOf(const Face& face, int split) { return {face.top1, face.top2, f
 constexpr int g_categorySplit = 18;
 
 Face Tinted(Face face, Argb tint) {
-    if (AlphaOf(tint) == 0)
+    if (AlphaOf(tint) == 0) {
         return face;
-    for (Argb* color : {&face.top1, &face.top2, &face.bottom1, &face.bottom2})
+    }
+    for (Argb* color : {&face.top1, &face.top2, &face.bottom1, &face.bottom2}) {
         *color = WithAlpha(Mix(*color, tint, 1, 3), AlphaOf(*color));
+    }
     face.outer = Mix(face.outer, tint, 1, 2);
     return face;
 }
 
 void PaintDisc(HDC dc, const RECT& rect, const Face& face, const Look& look) {
     const Canvas canvas(dc, rect, Recipe("disc", face, look.Line()));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const IntRect whole = canvas.Local(rect);
     FillEllipse(canvas.View(), whole, StopsOf(face, 50));
     StrokeEllipse(canvas.View(), whole.Deflated(look.Line()), WithAlpha(face.inner, AlphaOf(face.inner) / 2),
@@ -42,44 +45,51 @@ bool IsNearlySquare(const RECT& rect) {
 void PaintRibbonBackground(HDC dc, const RECT& rect, const Look& look) {
     const Argb top = look.skin[ColorSlot::RibbonTop], bottom = look.skin[ColorSlot::RibbonBottom];
     const Canvas canvas(dc, rect, Recipe("ribbon background", top, bottom));
-    if (!canvas.IsEmpty())
+    if (!canvas.IsEmpty()) {
         FillRounded(canvas.View(), canvas.Local(rect), {}, {top, bottom, top, bottom, 100});
+    }
 }
 
 Argb TabTextColor(const TabState& state, const Skin& skin) {
-    if (state.isActive)
+    if (state.isActive) {
         return skin[ColorSlot::TabTextActive];
+    }
     return skin[state.isHot ? ColorSlot::TabTextHot : ColorSlot::TabText];
 }
 
 void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look) {
-    if (!state.isActive && !state.isHot && AlphaOf(state.tint) == 0)
+    if (!state.isActive && !state.isHot && AlphaOf(state.tint) == 0) {
         return;
+    }
     const int line = look.Line(), radius = look.Radius();
     const bool isBright = state.isHot || state.isFocused;
     Face face =
         look.skin[state.isActive ? (isBright ? FaceSlot::TabActiveHot : FaceSlot::TabActive) : FaceSlot::TabHot];
     face = Tinted(face, state.tint);
-    if (!state.isActive && !state.isHot)
+    if (!state.isActive && !state.isHot) {
         face.outer = face.inner = 0;
+    }
 
     const Canvas canvas(
         dc, rect,
         Recipe("tab", face, state.isActive, state.isHot, look.skin.split, line, radius, look.skin[ColorSlot::TabGlow]));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     // The sides run on below the rectangle, so that the tab has no lower line. A hot tab stands clear of the category.
     IntRect body = canvas.Local(rect);
     body.bottom += state.isActive ? radius + 2 * line : 0;
     const Corners corners = state.isActive ? Corners::All(radius) : Corners::Top(radius);
     IntRect fill = canvas.Local(rect);
     FillRounded(canvas.View(), fill, Corners::Top(radius), StopsOf(face, look.skin.split));
-    if (!state.isActive && state.isHot)
+    if (!state.isActive && state.isHot) {
         FillGlow(canvas.View(), fill.Deflated(line), {},
                  {(fill.left + fill.right) / 2.0, static_cast<double>(fill.bottom)}, fill.Width() * 0.62,
                  fill.Height() * 0.75, look.skin[ColorSlot::TabGlow]);
-    if (!state.isActive)
+    }
+    if (!state.isActive) {
         body.bottom += line;
+    }
     StrokeRounded(canvas.View(), body.Deflated(line), corners.Deflated(line), face.inner, line);
     StrokeRounded(canvas.View(), body, corners, face.outer, line);
 }
@@ -91,8 +101,9 @@ void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const 
     const Canvas canvas(dc, rect,
                         Recipe("category", face, line, look.Radius(), hasGap ? gapLeft - rect.left : 0,
                                hasGap ? gapRight - rect.left : 0));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const IntRect whole = canvas.Local(rect);
     const Corners corners = Corners::All(look.Radius());
     FillRounded(canvas.View(), whole, corners, StopsOf(face, g_categorySplit));
@@ -113,8 +124,9 @@ void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const
     const Canvas canvas(
         dc, rect,
         Recipe("panel", face, strip, line, radius, look.skin.split, hasStrip, hasStrip ? caption.top - rect.top : 0));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const IntRect whole = canvas.Local(rect);
     const Corners corners = Corners::All(radius);
     // A light line outside right and below gives the frame its depth; the frame itself is one line smaller.
@@ -141,8 +153,9 @@ void PaintPanelCaption(HDC dc, const RECT& caption, const wchar_t* text, int len
 
 void PaintLaunchButton(HDC dc, const RECT& rect, const ElementState& state, bool isPanelHot, const Look& look) {
     const Face* face = ButtonFaceFor(look.skin, state);
-    if (face != nullptr)
+    if (face != nullptr) {
         PaintFace(dc, rect, *face, Corners::All(std::min(look.Radius(), look.Px(2))), look);
+    }
     const Argb caption = look.skin[isPanelHot ? ColorSlot::PanelCaptionTextHot : ColorSlot::PanelCaptionText];
     const Argb color = state.isDisabled  ? WithAlpha(caption, 110)
                        : face != nullptr ? look.skin[ColorSlot::Glyph]
@@ -151,8 +164,9 @@ void PaintLaunchButton(HDC dc, const RECT& rect, const ElementState& state, bool
     const LONG left = (rect.left + rect.right - side) / 2, top = (rect.top + rect.bottom - side) / 2;
     const RECT box{left, top, left + side, top + side};
     const Canvas canvas(dc, box, Recipe("launch button", color, side, corner, head, line));
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const IntRect local = canvas.Local(box);
     const auto fill = [&](int x, int y, int width, int height) {
         FillRounded(canvas.View(), {local.left + x, local.top + y, local.left + x + width, local.top + y + height}, {},
@@ -161,10 +175,12 @@ void PaintLaunchButton(HDC dc, const RECT& rect, const ElementState& state, bool
     fill(0, 0, corner, line);
     fill(0, line, line, corner - line);
     // Rows of whole pixels give a sharp arrow at any scale; its shaft ends where the head begins.
-    for (int row = 0; row < head; ++row)
+    for (int row = 0; row < head; ++row) {
         fill(side - 1 - row, side - head + row, row + 1, 1);
-    for (int step = 2 * line; step < side - (head + 1) / 2; ++step)
+    }
+    for (int step = 2 * line; step < side - (head + 1) / 2; ++step) {
         fill(step, step, line, line);
+    }
 }
 
 void PaintDefaultPane(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
@@ -178,8 +194,9 @@ void PaintButton(HDC dc, const ButtonParts& parts, const ElementState& state, co
     const Face* face = ButtonFaceFor(look.skin, state);
     const Corners corners = CornersFor(parts.place, look.Radius());
     const bool isSplit = !IsRectEmpty(&parts.menu) && !IsRectEmpty(&parts.command);
-    if (face == nullptr)
+    if (face == nullptr) {
         return;
+    }
     if (!isSplit || state.isDisabled || (!parts.isCommandHot && !parts.isMenuHot)) {
         PaintFace(dc, parts.rect, *face, corners, look);
         return;
@@ -220,8 +237,9 @@ void PaintSliderChannel(HDC dc, const RECT& rect, const Look& look) {
 
 void PaintSliderThumb(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
     const Canvas canvas(dc, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     // A plate with a pointed lower end.
     const Face& face = KnobFaceFor(look.skin, state);
     const double width = rect.right - rect.left, height = rect.bottom - rect.top;
@@ -259,8 +277,9 @@ void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state,
         return;
     }
     const Canvas canvas(dc, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     // A glass ball: dark rim, light ring, and a bright spot of light below.
     const int line = look.Line();
     const IntRect whole = canvas.Local(rect).Deflated(line);
@@ -275,8 +294,9 @@ void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state,
 
 void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look) {
     const Canvas canvas(dc, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const Face& face = look.skin[isActive ? FaceSlot::CaptionActive : FaceSlot::CaptionInactive];
     IntRect whole = canvas.Local(rect);
     FillRounded(canvas.View(), whole, {}, StopsOf(face, look.skin.split));
@@ -285,16 +305,18 @@ void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look) {
 }
 
 void PaintCaptionButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look) {
-    if (state.isPressed || state.isHot)
+    if (state.isPressed || state.isHot) {
         PaintFace(dc, rect, look.skin[state.isPressed ? FaceSlot::CaptionButtonPressed : FaceSlot::CaptionButtonHot],
                   Corners::All(look.Radius()), look);
+    }
     PaintWindowGlyph(dc, rect, glyph,
                      look.skin[state.isDisabled ? ColorSlot::CaptionTextInactive : ColorSlot::CaptionGlyph], look);
 }
 
 void PaintChildButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look) {
-    if (const Face* face = ButtonFaceFor(look.skin, state))
+    if (const Face* face = ButtonFaceFor(look.skin, state)) {
         PaintFace(dc, rect, *face, Corners::All(look.Radius()), look);
+    }
     const bool isLit = state.isHot || state.isPressed;
     const Argb plain = look.skin[ColorSlot::TabText];
     PaintWindowGlyph(dc, rect, glyph,
@@ -320,8 +342,9 @@ void PaintFrameBorder(HDC dc, const RECT& window, const RECT& client, int captio
     const RECT head{window.left, window.top, window.right, headBottom};
     PaintSolid(dc, {head.left + 2 * line, headBottom - 2 * line, head.right - 2 * line, headBottom}, caption.top1);
     const Canvas canvas(dc, head);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     IntRect whole = canvas.Local(head);
     FillRounded(canvas.View(), {whole.left, whole.top, whole.right, static_cast<int>(client.top - head.top)}, {},
                 {caption.top1, caption.top1, caption.top1, caption.top1, 50});
@@ -341,8 +364,9 @@ void PaintCategoryScroll(HDC dc, const RECT& rect, bool isLeft, const ElementSta
 
 void PaintContextCaption(HDC dc, const RECT& rect, Argb tint, const Look& look) {
     const Canvas canvas(dc, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const IntRect whole = canvas.Local(rect);
     const int line = look.Line();
     FillRounded(canvas.View(), whole, {},
@@ -363,8 +387,9 @@ void PaintProgress(HDC dc, const RECT& rect, const RECT& chunk, const Look& look
     PaintFace(dc, rect, look.skin[FaceSlot::ProgressTrack], Corners::All(look.Radius()), look);
     RECT inside = rect, filled;
     InflateRect(&inside, -look.Line(), -look.Line());
-    if (!IntersectRect(&filled, &inside, &chunk))
+    if (!IntersectRect(&filled, &inside, &chunk)) {
         return;
+    }
     Face face = look.skin[FaceSlot::ProgressChunk];
     face.outer = 0;
     PaintFace(dc, filled, face, Corners::All(std::max(look.Radius() - look.Line(), 0)), look);
@@ -373,16 +398,18 @@ void PaintProgress(HDC dc, const RECT& rect, const RECT& chunk, const Look& look
 
 void PaintMainPanelFrame(HDC dc, const RECT& rect, const RECT& content, const Look& look) {
     PaintFace(dc, rect, look.skin[FaceSlot::MainPanelFrame], Corners::All(look.Radius()), look);
-    if (IsRectEmpty(&content))
+    if (IsRectEmpty(&content)) {
         return;
+    }
     PaintSolid(dc, content, look.skin[ColorSlot::MenuFill]);
     PaintFrame(dc, content, look.skin[ColorSlot::MenuBorder], look.Line());
 }
 
 void PaintStatusBar(HDC dc, const RECT& rect, const Look& look) {
     const Canvas canvas(dc, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const Face& face = look.skin[FaceSlot::StatusBar];
     const IntRect whole = canvas.Local(rect);
     const int line = look.Line();

@@ -21,8 +21,9 @@ std::string PictureCache::NameOf(const Recipe& recipe, int width, int height) {
 bool PictureCache::Draw(HDC dc, const RECT& rect, const Recipe& recipe) {
     const int width = rect.right - rect.left, height = rect.bottom - rect.top;
     const auto found = m_byName.find(NameOf(recipe, width, height));
-    if (found == m_byName.end() || (m_memory == nullptr && (m_memory = CreateCompatibleDC(nullptr)) == nullptr))
+    if (found == m_byName.end() || (m_memory == nullptr && (m_memory = CreateCompatibleDC(nullptr)) == nullptr)) {
         return false;
+    }
     m_pictures.splice(m_pictures.begin(), m_pictures, found->second);
     const Picture& picture = *found->second;
     const HGDIOBJ previous = SelectObject(m_memory, picture.bitmap);
@@ -43,8 +44,9 @@ void PictureCache::Put(const Recipe& recipe, HBITMAP bitmap, const PixelView& vi
         DeleteObject(bitmap);
         return;
     }
-    while (!m_pictures.empty() && (m_pictures.size() >= kMostPictures || m_pixels + pixels.size() > kMostPixels))
+    while (!m_pictures.empty() && (m_pictures.size() >= kMostPictures || m_pixels + pixels.size() > kMostPixels)) {
         DropLast();
+    }
     const bool isOpaque = std::ranges::all_of(pixels, [](std::uint32_t pixel) { return AlphaOf(pixel) == 255; });
     m_pictures.push_front({std::move(name), bitmap, pixels.size(), isOpaque});
     m_byName.emplace(m_pictures.front().name, m_pictures.begin());
@@ -60,10 +62,12 @@ void PictureCache::DropLast() {
 }
 
 void PictureCache::Clear() {
-    while (!m_pictures.empty())
+    while (!m_pictures.empty()) {
         DropLast();
-    if (m_memory != nullptr)
+    }
+    if (m_memory != nullptr) {
         DeleteDC(m_memory);
+    }
     m_memory = nullptr;
 }
 

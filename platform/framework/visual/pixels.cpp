@@ -16,8 +16,9 @@ unsigned Scale255(unsigned value, unsigned by) {
 
 Argb StopAt(const FourStops& stops, int row, int height) {
     const int split = height * stops.splitPercent / 100;
-    if (row < split)
+    if (row < split) {
         return Mix(stops.top1, stops.top2, row, std::max(split - 1, 1));
+    }
     return Mix(stops.bottom1, stops.bottom2, row - split, std::max(height - split - 1, 1));
 }
 
@@ -33,8 +34,9 @@ unsigned CornerCoverage(double centreX, double centreY, int radius, int x, int y
 
 double EllipseCoverage(const IntRect& rect, int x, int y, double inset) {
     const double radiusX = rect.Width() / 2.0 - inset, radiusY = rect.Height() / 2.0 - inset;
-    if (radiusX <= 0 || radiusY <= 0)
+    if (radiusX <= 0 || radiusY <= 0) {
         return 0;
+    }
     const double dx = (x + 0.5 - (rect.left + rect.right) / 2.0) / radiusX;
     const double dy = (y + 0.5 - (rect.top + rect.bottom) / 2.0) / radiusY;
     // Distance from the edge in pixels, near enough for a smooth edge on ellipses that are nearly round.
@@ -44,10 +46,12 @@ double EllipseCoverage(const IntRect& rect, int x, int y, double inset) {
 } // namespace
 
 Argb Mix(Argb from, Argb to, int part, int whole) {
-    if (whole <= 0 || part <= 0)
+    if (whole <= 0 || part <= 0) {
         return from;
-    if (part >= whole)
+    }
+    if (part >= whole) {
         return to;
+    }
     const auto channel = [&](unsigned a, unsigned b) {
         return static_cast<unsigned>((static_cast<int>(a) * (whole - part) + static_cast<int>(b) * part + whole / 2) /
                                      whole);
@@ -62,24 +66,27 @@ Corners Corners::Deflated(int by) const {
 }
 
 unsigned CoverageAt(const IntRect& rect, const Corners& corners, int x, int y) {
-    if (x < rect.left || x >= rect.right || y < rect.top || y >= rect.bottom)
+    if (x < rect.left || x >= rect.right || y < rect.top || y >= rect.bottom) {
         return 0;
+    }
     const bool isTop = y - rect.top < rect.Height() / 2;
     const bool isLeft = x - rect.left < rect.Width() / 2;
     const int radius =
         isTop ? (isLeft ? corners.topLeft : corners.topRight) : (isLeft ? corners.bottomLeft : corners.bottomRight);
     const int fromSide = isLeft ? x - rect.left : rect.right - 1 - x;
     const int fromEdge = isTop ? y - rect.top : rect.bottom - 1 - y;
-    if (fromSide >= radius || fromEdge >= radius)
+    if (fromSide >= radius || fromEdge >= radius) {
         return 255;
+    }
     return CornerCoverage(isLeft ? rect.left + radius : rect.right - radius,
                           isTop ? rect.top + radius : rect.bottom - radius, radius, x, y);
 }
 
 void BlendPixel(std::uint32_t& target, Argb source, unsigned coverage) {
     const unsigned alpha = Scale255(AlphaOf(source), coverage);
-    if (alpha == 0)
+    if (alpha == 0) {
         return;
+    }
     const unsigned rest = 255 - alpha;
     const auto channel = [&](unsigned from, unsigned to) { return Scale255(from, alpha) + Scale255(to, rest); };
     target = MakeArgb(std::min(alpha + Scale255(AlphaOf(target), rest), 255u),
@@ -94,22 +101,25 @@ void FillRounded(const PixelView& view, const IntRect& rect, const Corners& corn
     const int radiusBottom = std::max(corners.bottomLeft, corners.bottomRight);
     for (int y = clip.top; y < clip.bottom; ++y) {
         const Argb color = StopAt(stops, y - rect.top, rect.Height());
-        if (AlphaOf(color) == 0)
+        if (AlphaOf(color) == 0) {
             continue;
+        }
         const bool isStraight = y - rect.top >= radiusTop && rect.bottom - 1 - y >= radiusBottom;
         std::uint32_t* row = &view.At(0, y);
         if (isStraight && AlphaOf(color) == 255) {
             std::fill(row + clip.left, row + clip.right, color);
             continue;
         }
-        for (int x = clip.left; x < clip.right; ++x)
+        for (int x = clip.left; x < clip.right; ++x) {
             BlendPixel(row[x], color, isStraight ? 255 : CoverageAt(rect, corners, x, y));
+        }
     }
 }
 
 void StrokeRounded(const PixelView& view, const IntRect& rect, const Corners& corners, Argb color, int thickness) {
-    if (AlphaOf(color) == 0)
+    if (AlphaOf(color) == 0) {
         return;
+    }
     const IntRect clip = Clipped(rect, view);
     const IntRect inside = rect.Deflated(thickness);
     const Corners insideCorners = corners.Deflated(thickness);
@@ -126,22 +136,25 @@ void StrokeRounded(const PixelView& view, const IntRect& rect, const Corners& co
             }
             const unsigned outside = CoverageAt(rect, corners, x, y);
             const unsigned hole = CoverageAt(inside, insideCorners, x, y);
-            if (outside > hole)
+            if (outside > hole) {
                 BlendPixel(row[x], color, outside - hole);
+            }
         }
     }
 }
 
 void FillGlow(const PixelView& view, const IntRect& rect, const Corners& corners, PointF centre, double radiusX,
               double radiusY, Argb color) {
-    if (radiusX <= 0 || radiusY <= 0)
+    if (radiusX <= 0 || radiusY <= 0) {
         return;
+    }
     const IntRect clip = Clipped(rect, view);
     for (int y = clip.top; y < clip.bottom; ++y) {
         for (int x = clip.left; x < clip.right; ++x) {
             const double distance = std::hypot((x + 0.5 - centre.x) / radiusX, (y + 0.5 - centre.y) / radiusY);
-            if (distance >= 1.0)
+            if (distance >= 1.0) {
                 continue;
+            }
             const double light = 1.0 - distance * distance;
             const auto strength = static_cast<unsigned>(light * light * CoverageAt(rect, corners, x, y));
             BlendPixel(view.At(x, y), color, strength);
@@ -167,21 +180,25 @@ void FillPolygon(const PixelView& view, std::span<const PointF> points, Argb col
             crossings.clear();
             for (std::size_t i = 0; i < points.size(); ++i) {
                 const PointF &a = points[i], &b = points[(i + 1) % points.size()];
-                if ((a.y <= line) != (b.y <= line))
+                if ((a.y <= line) != (b.y <= line)) {
                     crossings.push_back(a.x + (line - a.y) * (b.x - a.x) / (b.y - a.y));
+                }
             }
             std::ranges::sort(crossings);
             for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
                 const int from = static_cast<int>(std::ceil(crossings[i] * samples - 0.5));
                 const int to = static_cast<int>(std::ceil(crossings[i + 1] * samples - 0.5));
-                for (int s = std::max(from, 0); s < std::min(to, view.width * samples); ++s)
+                for (int s = std::max(from, 0); s < std::min(to, view.width * samples); ++s) {
                     ++hits[static_cast<std::size_t>(s / samples)];
+                }
             }
         }
-        for (int x = 0; x < view.width; ++x)
-            if (hits[static_cast<std::size_t>(x)] > 0)
+        for (int x = 0; x < view.width; ++x) {
+            if (hits[static_cast<std::size_t>(x)] > 0) {
                 BlendPixel(view.At(x, y), color,
                            static_cast<unsigned>(hits[static_cast<std::size_t>(x)] * 255 / (samples * samples)));
+            }
+        }
     }
 }
 
@@ -189,25 +206,29 @@ void FillEllipse(const PixelView& view, const IntRect& rect, const FourStops& st
     const IntRect clip = Clipped(rect, view);
     for (int y = clip.top; y < clip.bottom; ++y) {
         const Argb color = StopAt(stops, y - rect.top, rect.Height());
-        for (int x = clip.left; x < clip.right; ++x)
+        for (int x = clip.left; x < clip.right; ++x) {
             BlendPixel(view.At(x, y), color, static_cast<unsigned>(EllipseCoverage(rect, x, y, 0) * 255 + 0.5));
+        }
     }
 }
 
 void StrokeEllipse(const PixelView& view, const IntRect& rect, Argb color, double thickness) {
     const IntRect clip = Clipped(rect, view);
-    for (int y = clip.top; y < clip.bottom; ++y)
+    for (int y = clip.top; y < clip.bottom; ++y) {
         for (int x = clip.left; x < clip.right; ++x) {
             const double ring = EllipseCoverage(rect, x, y, 0) - EllipseCoverage(rect, x, y, thickness);
-            if (ring > 0)
+            if (ring > 0) {
                 BlendPixel(view.At(x, y), color, static_cast<unsigned>(ring * 255 + 0.5));
+            }
         }
+    }
 }
 
 std::uint32_t DisabledPixel(std::uint32_t pixel) {
     const unsigned alpha = AlphaOf(pixel);
-    if (alpha == 0)
+    if (alpha == 0) {
         return 0;
+    }
     const unsigned luma = (RedOf(pixel) * 77 + GreenOf(pixel) * 151 + BlueOf(pixel) * 28) >> 8;
     // Half the contrast around a light grey, so that dark images stay readable and bright ones do not vanish.
     const unsigned grey = std::min(luma / 2 + Scale255(96, alpha), alpha);
@@ -216,8 +237,9 @@ std::uint32_t DisabledPixel(std::uint32_t pixel) {
 }
 
 void Resample(const PixelView& source, const PixelView& target) {
-    if (source.width <= 0 || source.height <= 0)
+    if (source.width <= 0 || source.height <= 0) {
         return;
+    }
     const double stepX = static_cast<double>(source.width) / target.width;
     const double stepY = static_cast<double>(source.height) / target.height;
     // Each target pixel is the mean of the source area below it; when enlarging, the area is one source pixel wide.
@@ -233,34 +255,39 @@ void Resample(const PixelView& source, const PixelView& target) {
                 for (int sx = static_cast<int>(std::floor(middleX - reachX)); sx < middleX + reachX; ++sx) {
                     const double weight =
                         weightY * (std::min(sx + 1.0, middleX + reachX) - std::max<double>(sx, middleX - reachX));
-                    if (weight <= 0)
+                    if (weight <= 0) {
                         continue;
+                    }
                     const std::uint32_t pixel =
                         source.At(std::clamp(sx, 0, source.width - 1), std::clamp(sy, 0, source.height - 1));
-                    for (int i = 0; i < 4; ++i)
+                    for (int i = 0; i < 4; ++i) {
                         sum[static_cast<std::size_t>(i)] += weight * (pixel >> (8 * i) & 0xFF);
+                    }
                     weights += weight;
                 }
             }
             std::uint32_t pixel = 0;
-            for (int i = 0; i < 4; ++i)
+            for (int i = 0; i < 4; ++i) {
                 pixel |= static_cast<std::uint32_t>(sum[static_cast<std::size_t>(i)] / weights + 0.5) << (8 * i);
+            }
             target.At(x, y) = pixel;
         }
     }
 }
 
 void MirrorRows(const PixelView& view) {
-    for (int y = 0; y < view.height; ++y)
+    for (int y = 0; y < view.height; ++y) {
         std::reverse(&view.At(0, y), &view.At(0, y) + view.width);
+    }
 }
 
 void PreMultiply(const PixelView& view, bool onlyIfNeeded) {
     const std::span pixels(view.bits, static_cast<std::size_t>(view.width) * view.height);
     if (onlyIfNeeded && std::ranges::all_of(pixels, [](std::uint32_t pixel) {
             return std::max({RedOf(pixel), GreenOf(pixel), BlueOf(pixel)}) <= AlphaOf(pixel);
-        }))
+        })) {
         return;
+    }
     for (std::uint32_t& pixel : pixels) {
         const unsigned alpha = AlphaOf(pixel);
         pixel = MakeArgb(alpha, Scale255(RedOf(pixel), alpha), Scale255(GreenOf(pixel), alpha),

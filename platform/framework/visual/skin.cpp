@@ -8,10 +8,12 @@ Skin MakeStyleSkin(std::size_t style) {
     Skin skin;
     skin.radius = 3;
     skin.split = 40;
-    for (const FaceRow& row : g_faceRows)
+    for (const FaceRow& row : g_faceRows) {
         skin[row.slot] = row.styles[style];
-    for (const ColorRow& row : g_colorRows)
+    }
+    for (const ColorRow& row : g_colorRows) {
         skin[row.slot] = row.styles[style];
+    }
     return skin;
 }
 

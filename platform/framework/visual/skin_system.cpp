@@ -31,16 +31,18 @@ void SetFaces(Skin& skin, const SystemColors& c) {
     const Argb pale = Mix(c.face, c.window, 1, 2);
     for (const FaceSlot slot : {FaceSlot::RibbonCategory, FaceSlot::RibbonPanel, FaceSlot::DefaultPane, FaceSlot::Group,
                                 FaceSlot::CategoryScroll, FaceSlot::AppButton, FaceSlot::Knob, FaceSlot::StatusBar,
-                                FaceSlot::ToolBar, FaceSlot::MainPanelFrame, FaceSlot::DocumentTab})
+                                FaceSlot::ToolBar, FaceSlot::MainPanelFrame, FaceSlot::DocumentTab}) {
         skin[slot] = Flat(c.shadow, c.face);
+    }
     skin[FaceSlot::RibbonPanelHot] = skin[FaceSlot::ButtonPale] = skin[FaceSlot::KeyTip] = Flat(c.shadow, pale);
     skin[FaceSlot::PanelCaption] = Flat(0, Mix(c.face, c.shadow, 1, 5));
     skin[FaceSlot::PanelCaptionHot] = Flat(0, Mix(c.face, c.shadow, 1, 8));
     skin[FaceSlot::TabHot] = Flat(c.shadow, pale);
     skin[FaceSlot::TabActive] = skin[FaceSlot::TabActiveHot] = Flat(c.shadow, c.face);
     skin[FaceSlot::DocumentTabActive] = Flat(c.shadow, c.window);
-    for (const FaceSlot slot : {FaceSlot::Edit, FaceSlot::EditHot, FaceSlot::CheckBox, FaceSlot::ProgressTrack})
+    for (const FaceSlot slot : {FaceSlot::Edit, FaceSlot::EditHot, FaceSlot::CheckBox, FaceSlot::ProgressTrack}) {
         skin[slot] = Flat(c.shadow, c.window);
+    }
     skin[FaceSlot::EditHot].outer = c.selection;
     skin[FaceSlot::EditDisabled] = skin[FaceSlot::CheckBoxDisabled] = Flat(c.shadow, c.face);
     skin[FaceSlot::CaptionActive] = skin[FaceSlot::PaneCaptionActive] = Flat(c.shadow, c.caption);
@@ -49,23 +51,28 @@ void SetFaces(Skin& skin, const SystemColors& c) {
 }
 
 void SetColors(Skin& skin, const SystemColors& c) {
-    for (std::size_t i = 0; i < g_colorCount; ++i)
+    for (std::size_t i = 0; i < g_colorCount; ++i) {
         skin[static_cast<ColorSlot>(i)] = c.text;
+    }
     for (const ColorSlot slot : {ColorSlot::RibbonTop, ColorSlot::RibbonBottom, ColorSlot::BarBackground,
-                                 ColorSlot::DividerFill, ColorSlot::PopupFill, ColorSlot::MenuGutter})
+                                 ColorSlot::DividerFill, ColorSlot::PopupFill, ColorSlot::MenuGutter}) {
         skin[slot] = c.face;
+    }
     for (const ColorSlot slot : {ColorSlot::SeparatorDark, ColorSlot::MenuGutterLine, ColorSlot::MenuBorder,
                                  ColorSlot::MenuSeparator, ColorSlot::StatusSeparatorDark, ColorSlot::GripperDark,
-                                 ColorSlot::SliderTrackDark, ColorSlot::PaneBorder, ColorSlot::FrameBorder})
+                                 ColorSlot::SliderTrackDark, ColorSlot::PaneBorder, ColorSlot::FrameBorder}) {
         skin[slot] = c.shadow;
+    }
     for (const ColorSlot slot :
          {ColorSlot::SeparatorLight, ColorSlot::StatusSeparatorLight, ColorSlot::GripperLight, ColorSlot::GlyphLight,
-          ColorSlot::SliderTrackLight, ColorSlot::FrameBorderInner, ColorSlot::TabGlow})
+          ColorSlot::SliderTrackLight, ColorSlot::FrameBorderInner, ColorSlot::TabGlow}) {
         skin[slot] = c.hilite;
+    }
     for (const ColorSlot slot :
          {ColorSlot::RibbonTextDisabled, ColorSlot::MenuTextDisabled, ColorSlot::StatusTextDisabled,
-          ColorSlot::ToolbarTextDisabled, ColorSlot::EditTextDisabled, ColorSlot::GlyphDisabled})
+          ColorSlot::ToolbarTextDisabled, ColorSlot::EditTextDisabled, ColorSlot::GlyphDisabled}) {
         skin[slot] = c.greyText;
+    }
     skin[ColorSlot::TabGlow] = WithAlpha(c.hilite, 1);
     skin[ColorSlot::MenuFill] = skin[ColorSlot::MenuLabelFill] = c.menu;
     skin[ColorSlot::MenuText] = skin[ColorSlot::MenuTextHot] = skin[ColorSlot::MenuLabelText] = c.menuText;
@@ -106,11 +113,13 @@ Skin MakeGradientSkin(const SystemColors& colors, Argb base) {
     const Argb light = Mix(base, 0xFFFFFFFF, 8, 10), dark = Mix(base, 0xFFFFFFFF, 5, 10);
     for (const FaceSlot slot : {FaceSlot::ToolBar, FaceSlot::StatusBar, FaceSlot::RibbonCategory, FaceSlot::DefaultPane,
                                 FaceSlot::PaneCaption, FaceSlot::DocumentTab, FaceSlot::MainPanelFrame,
-                                FaceSlot::CaptionActive, FaceSlot::Group})
+                                FaceSlot::CaptionActive, FaceSlot::Group}) {
         skin[slot] = Shaded(Mix(base, 0xFFFFFFFF, 2, 10), light, dark);
+    }
     for (const ColorSlot slot : {ColorSlot::RibbonTop, ColorSlot::RibbonBottom, ColorSlot::BarBackground,
-                                 ColorSlot::DividerFill, ColorSlot::MenuGutter})
+                                 ColorSlot::DividerFill, ColorSlot::MenuGutter}) {
         skin[slot] = Mix(base, 0xFFFFFFFF, 6, 10);
+    }
     skin[ColorSlot::SeparatorDark] = skin[ColorSlot::GripperDark] = Mix(base, 0xFFFFFFFF, 2, 10);
     skin[FaceSlot::TabActive] = skin[FaceSlot::TabActiveHot] = Shaded(Mix(base, 0xFFFFFFFF, 2, 10), 0xFFFFFFFF, light);
     skin[ColorSlot::CaptionText] = colors.text;

@@ -34,8 +34,9 @@ void CMFCToolBarImages::Clear() {
 }
 
 void CMFCToolBarImages::SetWell(HBITMAP hbmp) {
-    if (m_hbmImageWell != nullptr && m_hbmImageWell != hbmp)
+    if (m_hbmImageWell != nullptr && m_hbmImageWell != hbmp) {
         ::DeleteObject(m_hbmImageWell);
+    }
     m_hbmImageWell = hbmp;
 }
 
@@ -49,16 +50,21 @@ CRect CMFCToolBarImages::GetSourceRect(int nIndex) const {
 
 BOOL CMFCToolBarImages::Append(HBITMAP hbmp, BOOL bHasAlpha) {
     const PixelView added = ViewOf(hbmp);
-    if (added.bits == nullptr)
+    if (added.bits == nullptr) {
         return FALSE;
+    }
     // A list with alpha keeps it; pixels of the transparent colour become clear when lists of both kinds meet.
     const bool isMixed = m_hbmImageWell != nullptr && (m_nBitsPerPixel == 32) != (bHasAlpha != FALSE);
-    if (isMixed && bHasAlpha)
+    if (isMixed && bHasAlpha) {
         ConvertTo32Bits();
-    if (isMixed && !bHasAlpha)
-        for (int i = 0; i < added.width * added.height; ++i)
-            if (visual::ToColorRef(added.bits[i]) == m_clrTransparent)
+    }
+    if (isMixed && !bHasAlpha) {
+        for (int i = 0; i < added.width * added.height; ++i) {
+            if (visual::ToColorRef(added.bits[i]) == m_clrTransparent) {
                 added.bits[i] = 0;
+            }
+        }
+    }
 
     const PixelView present = ViewOf(m_hbmImageWell);
     const int kept = m_iCount * m_sizeImage.cx, width = kept + added.width;
@@ -70,8 +76,9 @@ BOOL CMFCToolBarImages::Append(HBITMAP hbmp, BOOL bHasAlpha) {
         CopyPixels(present, CRect(0, 0, kept, present.height), target, 0);
         CopyPixels(added, CRect(0, 0, added.width, added.height), target, kept);
         SetWell(joined);
-        if (m_nBitsPerPixel != 32)
+        if (m_nBitsPerPixel != 32) {
             m_nBitsPerPixel = bHasAlpha ? 32 : 24;
+        }
         UpdateCount();
     }
     ::DeleteObject(hbmp);
@@ -80,8 +87,9 @@ BOOL CMFCToolBarImages::Append(HBITMAP hbmp, BOOL bHasAlpha) {
 
 int CMFCToolBarImages::AddIcon(HICON hIcon, BOOL bAlphaBlend) {
     Picture picture = visual::PictureFromIcon(hIcon, m_sizeImage);
-    if (picture.bitmap == nullptr)
+    if (picture.bitmap == nullptr) {
         return -1;
+    }
     if (!bAlphaBlend) {
         // Without blending a pixel is there or not.
         const PixelView view = ViewOf(picture.bitmap);
@@ -106,12 +114,14 @@ int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL) {
 }
 
 int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) {
-    if (nIndex < 0 || nIndex >= imageList.m_iCount || imageList.m_sizeImage != m_sizeImage)
+    if (nIndex < 0 || nIndex >= imageList.m_iCount || imageList.m_sizeImage != m_sizeImage) {
         return -1;
+    }
     std::uint32_t* bits = nullptr;
     const HBITMAP one = visual::MakeBitmap32(m_sizeImage.cx, m_sizeImage.cy, &bits);
-    if (one == nullptr)
+    if (one == nullptr) {
         return -1;
+    }
     CopyPixels(ViewOf(imageList.m_hbmImageWell), imageList.GetSourceRect(nIndex),
                {bits, m_sizeImage.cx, m_sizeImage.cy}, 0);
     return Append(one, imageList.m_nBitsPerPixel == 32) ? m_iCount - 1 : -1;
@@ -119,11 +129,13 @@ int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) 
 
 BOOL CMFCToolBarImages::Load(UINT uiResID, HINSTANCE hinstRes, BOOL bAdd) {
     int offset = 0;
-    if (bAdd && m_mapOffsets.Lookup(uiResID, offset))
+    if (bAdd && m_mapOffsets.Lookup(uiResID, offset)) {
         return TRUE;
+    }
     const int before = bAdd ? m_iCount : 0;
-    if (!LoadStr(MAKEINTRESOURCE(uiResID), hinstRes, bAdd))
+    if (!LoadStr(MAKEINTRESOURCE(uiResID), hinstRes, bAdd)) {
         return FALSE;
+    }
     m_mapOffsets.SetAt(uiResID, before);
     return TRUE;
 }
@@ -134,23 +146,28 @@ BOOL CMFCToolBarImages::LoadStr(LPCTSTR lpszResourceName, HINSTANCE hinstRes, BO
         hinstRes = AfxFindResourceHandle(lpszResourceName, isPng ? L"PNG" : RT_BITMAP);
     }
     const Picture picture = visual::PictureFromResource(hinstRes, lpszResourceName);
-    if (picture.bitmap == nullptr)
+    if (picture.bitmap == nullptr) {
         return FALSE;
-    if (!bAdd)
+    }
+    if (!bAdd) {
         Clear();
+    }
     m_bReadOnly = TRUE;
     return Append(picture.bitmap, picture.hasAlpha);
 }
 
 BOOL CMFCToolBarImages::Load(LPCTSTR lpszBmpFileName, DWORD nMaxFileSize) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (!GetFileAttributesExW(lpszBmpFileName, GetFileExInfoStandard, &data))
+    if (!GetFileAttributesExW(lpszBmpFileName, GetFileExInfoStandard, &data)) {
         return FALSE;
-    if (nMaxFileSize != 0 && (data.nFileSizeHigh != 0 || data.nFileSizeLow > nMaxFileSize))
+    }
+    if (nMaxFileSize != 0 && (data.nFileSizeHigh != 0 || data.nFileSizeLow > nMaxFileSize)) {
         return FALSE;
+    }
     const Picture picture = visual::PictureFromFile(lpszBmpFileName);
-    if (picture.bitmap == nullptr)
+    if (picture.bitmap == nullptr) {
         return FALSE;
+    }
     Clear();
     m_strFile = lpszBmpFileName;
     m_bUserImagesList = TRUE;
@@ -159,8 +176,9 @@ BOOL CMFCToolBarImages::Load(LPCTSTR lpszBmpFileName, DWORD nMaxFileSize) {
 }
 
 BOOL CMFCToolBarImages::CopyTo(CMFCToolBarImages& imageList) {
-    if (&imageList == this)
+    if (&imageList == this) {
         return FALSE;
+    }
     imageList.Clear();
     imageList.m_sizeImage = m_sizeImage;
     imageList.m_sizeImageDest = m_sizeImageDest;
@@ -173,8 +191,9 @@ BOOL CMFCToolBarImages::CopyTo(CMFCToolBarImages& imageList) {
         const PixelView source = ViewOf(m_hbmImageWell);
         std::uint32_t* bits = nullptr;
         const HBITMAP copy = visual::MakeBitmap32(source.width, source.height, &bits);
-        if (copy == nullptr)
+        if (copy == nullptr) {
             return FALSE;
+        }
         std::copy_n(source.bits, static_cast<std::size_t>(source.width) * source.height, bits);
         imageList.SetWell(copy);
     }
@@ -192,8 +211,9 @@ BOOL CMFCToolBarImages::CopyTo(CMFCToolBarImages& imageList) {
 }
 
 BOOL CMFCToolBarImages::DeleteImage(int iImage) {
-    if (iImage < 0 || iImage >= m_iCount)
+    if (iImage < 0 || iImage >= m_iCount) {
         return FALSE;
+    }
     const PixelView source = ViewOf(m_hbmImageWell);
     const int step = m_sizeImage.cx, width = (m_iCount - 1) * step;
     if (width == 0) {
@@ -203,8 +223,9 @@ BOOL CMFCToolBarImages::DeleteImage(int iImage) {
     }
     std::uint32_t* bits = nullptr;
     const HBITMAP rest = visual::MakeBitmap32(width, source.height, &bits);
-    if (rest == nullptr)
+    if (rest == nullptr) {
         return FALSE;
+    }
     const PixelView target{bits, width, source.height};
     CopyPixels(source, CRect(0, 0, iImage * step, source.height), target, 0);
     CopyPixels(source, CRect((iImage + 1) * step, 0, m_iCount * step, source.height), target, iImage * step);
@@ -215,8 +236,9 @@ BOOL CMFCToolBarImages::DeleteImage(int iImage) {
 
 void CMFCToolBarImages::SetImageSize(SIZE sizeImage, BOOL bUpdateCount) {
     m_sizeImage = sizeImage;
-    if (bUpdateCount)
+    if (bUpdateCount) {
         UpdateCount();
+    }
 }
 
 SIZE CMFCToolBarImages::GetImageSize(BOOL bDest) const {
@@ -239,8 +261,9 @@ int CMFCToolBarImages::GetResourceOffset(UINT uiResId) const {
 }
 
 HICON CMFCToolBarImages::ExtractIcon(int nIndex) {
-    if (nIndex < 0 || nIndex >= m_iCount)
+    if (nIndex < 0 || nIndex >= m_iCount) {
         return nullptr;
+    }
     std::uint32_t* bits = nullptr;
     ICONINFO info{};
     info.fIcon = TRUE;
@@ -270,20 +293,24 @@ HICON CMFCToolBarImages::ExtractIcon(int nIndex) {
 }
 
 BOOL CMFCToolBarImages::ConvertTo32Bits(COLORREF clrTransparent) {
-    if (m_hbmImageWell == nullptr || m_nBitsPerPixel == 32)
+    if (m_hbmImageWell == nullptr || m_nBitsPerPixel == 32) {
         return FALSE;
+    }
     const COLORREF clear = clrTransparent == static_cast<COLORREF>(-1) ? m_clrTransparent : clrTransparent;
     const PixelView view = ViewOf(m_hbmImageWell);
-    for (int i = 0; i < view.width * view.height; ++i)
-        if (visual::ToColorRef(view.bits[i]) == clear)
+    for (int i = 0; i < view.width * view.height; ++i) {
+        if (visual::ToColorRef(view.bits[i]) == clear) {
             view.bits[i] = 0;
+        }
+    }
     m_nBitsPerPixel = 32;
     return TRUE;
 }
 
 BOOL CMFCToolBarImages::GrayImages(int nGrayImageLuminancePercentage) {
-    if (m_hbmImageWell == nullptr || nGrayImageLuminancePercentage < 0)
+    if (m_hbmImageWell == nullptr || nGrayImageLuminancePercentage < 0) {
         return FALSE;
+    }
     ConvertTo32Bits();
     const PixelView view = ViewOf(m_hbmImageWell);
     for (int i = 0; i < view.width * view.height; ++i) {
@@ -300,34 +327,41 @@ BOOL CMFCToolBarImages::GrayImages(int nGrayImageLuminancePercentage) {
 
 BOOL CMFCToolBarImages::Mirror() {
     const PixelView view = ViewOf(m_hbmImageWell);
-    if (view.bits == nullptr)
+    if (view.bits == nullptr) {
         return FALSE;
-    for (int image = 0; image < m_iCount; ++image)
-        for (int y = 0; y < view.height; ++y)
+    }
+    for (int image = 0; image < m_iCount; ++image) {
+        for (int y = 0; y < view.height; ++y) {
             std::reverse(&view.At(image * m_sizeImage.cx, y), &view.At(image * m_sizeImage.cx, y) + m_sizeImage.cx);
+        }
+    }
     return TRUE;
 }
 
 BOOL CMFCToolBarImages::MirrorVert() {
     const PixelView view = ViewOf(m_hbmImageWell);
-    if (view.bits == nullptr)
+    if (view.bits == nullptr) {
         return FALSE;
+    }
     const int height = std::min<int>(m_sizeImage.cy, view.height);
-    for (int y = 0; y < height / 2; ++y)
+    for (int y = 0; y < height / 2; ++y) {
         std::swap_ranges(&view.At(0, y), &view.At(0, y) + view.width, &view.At(0, height - 1 - y));
+    }
     return TRUE;
 }
 
 BOOL CMFCToolBarImages::SmoothResize(double dblImageScale) {
-    if (m_hbmImageWell == nullptr || dblImageScale <= 0 || dblImageScale == 1.0)
+    if (m_hbmImageWell == nullptr || dblImageScale <= 0 || dblImageScale == 1.0) {
         return FALSE;
+    }
     ConvertTo32Bits();
     const CSize size(static_cast<int>(std::lround(m_sizeImage.cx * dblImageScale)),
                      static_cast<int>(std::lround(m_sizeImage.cy * dblImageScale)));
     std::uint32_t* bits = nullptr;
     const HBITMAP resized = visual::MakeBitmap32(size.cx * m_iCount, size.cy, &bits);
-    if (resized == nullptr)
+    if (resized == nullptr) {
         return FALSE;
+    }
     const PixelView source = ViewOf(m_hbmImageWell), target{bits, static_cast<int>(size.cx) * m_iCount, size.cy};
     std::vector<std::uint32_t> from(static_cast<std::size_t>(m_sizeImage.cx) * m_sizeImage.cy);
     std::vector<std::uint32_t> to(static_cast<std::size_t>(size.cx) * size.cy);

@@ -15,20 +15,24 @@ namespace {
 constexpr UINT LookHilite = 1, LookDisabled = 2, LookIndeterminate = 4, LookShadow = 8, LookFaded = 16;
 
 void CopyImage(const PixelView& source, const CRect& from, const PixelView& target, bool hasAlpha, COLORREF clear) {
-    for (int y = 0; y < target.height; ++y)
+    for (int y = 0; y < target.height; ++y) {
         for (int x = 0; x < target.width; ++x) {
             const int sourceX = from.left + x, sourceY = from.top + y;
-            if (sourceX >= source.width || sourceY >= source.height || sourceX < 0 || sourceY < 0)
+            if (sourceX >= source.width || sourceY >= source.height || sourceX < 0 || sourceY < 0) {
                 continue;
+            }
             const std::uint32_t pixel = source.At(sourceX, sourceY);
             target.At(x, y) = !hasAlpha && visual::ToColorRef(pixel) == clear ? 0 : pixel;
         }
+    }
 }
 
 void ForEachPixel(const PixelView& view, auto change) {
-    for (int y = 0; y < view.height; ++y)
-        for (int x = 0; x < view.width; ++x)
+    for (int y = 0; y < view.height; ++y) {
+        for (int x = 0; x < view.width; ++x) {
             view.At(x, y) = change(view.At(x, y), x, y);
+        }
+    }
 }
 
 std::uint32_t Lightened(std::uint32_t pixel, unsigned percent) {
@@ -39,16 +43,21 @@ std::uint32_t Lightened(std::uint32_t pixel, unsigned percent) {
 }
 
 void ApplyLook(const PixelView& view, UINT look, int lightPercentage) {
-    if (look & LookDisabled)
+    if (look & LookDisabled) {
         ForEachPixel(view, [](std::uint32_t pixel, int, int) { return visual::DisabledPixel(pixel); });
-    if (look & LookShadow)
+    }
+    if (look & LookShadow) {
         ForEachPixel(view, [](std::uint32_t pixel, int, int) { return visual::AlphaOf(pixel) / 3 << 24; });
-    if ((look & LookHilite) && lightPercentage < 0)
+    }
+    if ((look & LookHilite) && lightPercentage < 0) {
         ForEachPixel(view, [](std::uint32_t pixel, int, int) { return Lightened(pixel, 110); });
-    if (lightPercentage >= 0)
+    }
+    if (lightPercentage >= 0) {
         ForEachPixel(view, [&](std::uint32_t pixel, int, int) { return Lightened(pixel, lightPercentage); });
-    if (look & LookIndeterminate)
+    }
+    if (look & LookIndeterminate) {
         ForEachPixel(view, [](std::uint32_t pixel, int x, int y) { return (x + y) % 2 != 0 ? pixel : 0; });
+    }
 }
 
 } // namespace
@@ -56,8 +65,9 @@ void ApplyLook(const PixelView& view, UINT look, int lightPercentage) {
 CAfxDrawState::~CAfxDrawState() = default;
 
 BOOL CMFCToolBarImages::PrepareDrawImage(CAfxDrawState& ds, CSize sizeImageDest, BOOL bFadeInactive) {
-    if (m_hbmImageWell == nullptr || m_iCount == 0)
+    if (m_hbmImageWell == nullptr || m_iCount == 0) {
         return FALSE;
+    }
     ds.m_pImages = this;
     ds.m_sizeDestBefore = m_sizeImageDest;
     ds.m_bFadeBefore = m_bFadeInactive;
@@ -67,8 +77,9 @@ BOOL CMFCToolBarImages::PrepareDrawImage(CAfxDrawState& ds, CSize sizeImageDest,
 }
 
 void CMFCToolBarImages::EndDrawImage(CAfxDrawState& ds) {
-    if (ds.m_pImages != this)
+    if (ds.m_pImages != this) {
         return;
+    }
     m_sizeImageDest = ds.m_sizeDestBefore;
     m_bFadeInactive = ds.m_bFadeBefore;
     ds.m_pImages = nullptr;
@@ -76,8 +87,9 @@ void CMFCToolBarImages::EndDrawImage(CAfxDrawState& ds) {
 
 BOOL CMFCToolBarImages::Draw(CDC* pDC, int x, int y, int iImageIndex, BOOL bHilite, BOOL bDisabled, BOOL bIndeterminate,
                              BOOL bShadow, BOOL bInactive, BYTE alphaSrc) {
-    if (iImageIndex < 0 || iImageIndex >= m_iCount)
+    if (iImageIndex < 0 || iImageIndex >= m_iCount) {
         return FALSE;
+    }
     const CSize size = m_sizeImageDest == CSize(0, 0) ? m_sizeImage : m_sizeImageDest;
     UINT look = 0;
     look |= bHilite ? LookHilite : 0;
@@ -90,8 +102,9 @@ BOOL CMFCToolBarImages::Draw(CDC* pDC, int x, int y, int iImageIndex, BOOL bHili
 
 BOOL CMFCToolBarImages::DrawEx(CDC* pDC, CRect rect, int iImageIndex, ImageAlignHorz horzAlign,
                                ImageAlignVert vertAlign, CRect rectSrc, BYTE alphaSrc) {
-    if (iImageIndex < 0 || iImageIndex >= m_iCount)
+    if (iImageIndex < 0 || iImageIndex >= m_iCount) {
         return FALSE;
+    }
     CRect source = rectSrc.IsRectEmpty() ? CRect(CPoint(0, 0), m_sizeImage) : rectSrc;
     const CSize size = source.Size();
     source.OffsetRect(GetSourceRect(iImageIndex).TopLeft());
@@ -110,13 +123,15 @@ BOOL CMFCToolBarImages::DrawEx(CDC* pDC, CRect rect, int iImageIndex, ImageAlign
 }
 
 BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, UINT nLook, BYTE alphaSrc) {
-    if (rectDest.IsRectEmpty() || rectSrc.IsRectEmpty())
+    if (rectDest.IsRectEmpty() || rectSrc.IsRectEmpty()) {
         return FALSE;
+    }
     const PixelView well = visual::ViewOf(m_hbmImageWell);
     std::uint32_t *bits = nullptr, *scaledBits = nullptr;
     HBITMAP image = visual::MakeBitmap32(rectSrc.Width(), rectSrc.Height(), &bits);
-    if (image == nullptr)
+    if (image == nullptr) {
         return FALSE;
+    }
     PixelView view{bits, rectSrc.Width(), rectSrc.Height()};
     CopyImage(well, rectSrc, view, m_nBitsPerPixel == 32, m_clrTransparent);
     if (rectDest.Size() != rectSrc.Size()) {
@@ -131,16 +146,19 @@ BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect&
         image = scaled;
         view = target;
     }
-    if (m_bIsRTL)
+    if (m_bIsRTL) {
         visual::MirrorRows(view);
+    }
     const int light = m_bAlwaysLight ? std::max(m_nLightPercentage, 130) : m_nLightPercentage;
     ApplyLook(view, nLook, light);
 
     int alpha = alphaSrc;
-    if (nLook & LookFaded)
+    if (nLook & LookFaded) {
         alpha = alpha * m_nFadedImageAlpha / 255;
-    if (nLook & LookDisabled) // the usual setting, 127, is the look that DisabledPixel makes
+    }
+    if (nLook & LookDisabled) { // the usual setting, 127, is the look that DisabledPixel makes
         alpha = std::min(alpha * m_nDisabledImageAlpha / 127, 255);
+    }
     const HDC memory = ::CreateCompatibleDC(*pDC);
     const HGDIOBJ previous = ::SelectObject(memory, image);
     const BLENDFUNCTION over{AC_SRC_OVER, 0, static_cast<BYTE>(alpha), AC_SRC_ALPHA};
@@ -159,8 +177,9 @@ BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect&
 
 void CMFCToolBarImages::FillDitheredRect(CDC* pDC, const CRect& rect) {
     const visual::Canvas canvas(*pDC, rect);
-    if (canvas.IsEmpty())
+    if (canvas.IsEmpty()) {
         return;
+    }
     const visual::Argb light = visual::FromColorRef(afxGlobalData.clrBtnHilite);
     const visual::Argb face = visual::FromColorRef(afxGlobalData.clrBtnFace);
     ForEachPixel(canvas.View(), [&](std::uint32_t, int x, int y) { return (x + y) % 2 != 0 ? light : face; });

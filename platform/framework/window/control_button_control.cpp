@@ -62,8 +62,9 @@ BOOL CButton::GetSplitInfo(PBUTTON_SPLITINFO pInfo) const { return Send<BOOL>(*t
 BOOL CButton::GetSplitSize(LPSIZE pSize) const {
     BUTTON_SPLITINFO info{};
     info.mask = BCSIF_SIZE;
-    if (!GetSplitInfo(&info))
+    if (!GetSplitInfo(&info)) {
         return FALSE;
+    }
     *pSize = info.size;
     return TRUE;
 }

@@ -128,8 +128,9 @@ void CEdit::SetSel(DWORD dwSelection, BOOL bNoScroll) {
 
 void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll) {
     Send(*this, EM_SETSEL, nStartChar, nEndChar);
-    if (!bNoScroll)
+    if (!bNoScroll) {
         Send(*this, EM_SCROLLCARET);
+    }
 }
 
 void CEdit::SetTabStops() { Send(*this, EM_SETTABSTOPS); }

@@ -1,9 +1,9 @@
 #include "fx/list_control.h"
 
-#include "window/control_message.h"
-#include "fx/header_control.h"
 #include "fx/edit_control.h"
+#include "fx/header_control.h"
 #include "fx/tool_tip_control.h"
+#include "window/control_message.h"
 
 using namespace control;
 
@@ -69,8 +69,9 @@ BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const { return Send<BOOL>
 BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount) {
     if (iCount == -1) {
         CHeaderCtrl* header = GetHeaderCtrl();
-        if (!header)
+        if (!header) {
             return FALSE;
+        }
         iCount = header->GetItemCount();
     }
     return Send<BOOL>(*this, LVM_GETCOLUMNORDERARRAY, iCount, piArray);
@@ -184,8 +185,9 @@ int CListCtrl::GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) c
 CString CListCtrl::GetItemText(int nItem, int nSubItem) const {
     for (int size = 256;; size *= 2) {
         std::vector<wchar_t> text(static_cast<size_t>(size));
-        if (GetItemText(nItem, nSubItem, text.data(), size) < size - 1)
+        if (GetItemText(nItem, nSubItem, text.data(), size) < size - 1) {
             return CString(text.data());
+        }
     }
 }
 
@@ -253,8 +255,9 @@ int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const {
     LVHITTESTINFO info{};
     info.pt = pt;
     const int item = HitTest(&info);
-    if (pFlags)
+    if (pFlags) {
         *pFlags = info.flags;
+    }
     return item;
 }
 

@@ -29,8 +29,9 @@ BOOL CScrollBar::GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask) {
 
 int CScrollBar::GetScrollLimit() {
     SCROLLINFO info{};
-    if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE))
+    if (!GetScrollInfo(&info, SIF_RANGE | SIF_PAGE)) {
         return 0;
+    }
     return info.nPage > 0 ? info.nMax - static_cast<int>(info.nPage) + 1 : info.nMax;
 }
 

@@ -33,8 +33,9 @@ CString CStatusBarCtrl::GetText(int nPane, int* pType) const {
 
 int CStatusBarCtrl::GetTextLength(int nPane, int* pType) const {
     const auto answer = Send<DWORD>(*this, SB_GETTEXTLENGTH, nPane);
-    if (pType)
+    if (pType) {
         *pType = HIWORD(answer);
+    }
     return LOWORD(answer);
 }
 
@@ -46,8 +47,9 @@ BOOL CStatusBarCtrl::GetBorders(int* pBorders) const { return Send<BOOL>(*this, 
 
 BOOL CStatusBarCtrl::GetBorders(int& nHorz, int& nVert, int& nSpacing) const {
     int borders[3] = {};
-    if (!GetBorders(borders))
+    if (!GetBorders(borders)) {
         return FALSE;
+    }
     nHorz = borders[0];
     nVert = borders[1];
     nSpacing = borders[2];

@@ -1,7 +1,7 @@
 #include "fx/tab_control.h"
 
-#include "window/control_message.h"
 #include "fx/tool_tip_control.h"
+#include "window/control_message.h"
 
 using namespace control;
 

@@ -1,8 +1,8 @@
 #include "fx/tree_control.h"
 
-#include "window/control_message.h"
 #include "fx/edit_control.h"
 #include "fx/tool_tip_control.h"
+#include "window/control_message.h"
 
 using namespace control;
 
@@ -93,8 +93,9 @@ BOOL CTreeCtrl::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) 
     TVITEM item{};
     item.hItem = hItem;
     item.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-    if (!GetItem(&item))
+    if (!GetItem(&item)) {
         return FALSE;
+    }
     nImage = item.iImage;
     nSelectedImage = item.iSelectedImage;
     return TRUE;
@@ -131,8 +132,9 @@ CString CTreeCtrl::GetItemText(HTREEITEM hItem) const {
         item.pszText = text.data();
         item.cchTextMax = static_cast<int>(size);
         GetItem(&item);
-        if (wcslen(item.pszText) + 1 < size)
+        if (wcslen(item.pszText) + 1 < size) {
             return CString(item.pszText);
+        }
     }
 }
 
@@ -182,8 +184,9 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const {
     TVHITTESTINFO info{};
     info.pt = pt;
     const HTREEITEM item = HitTest(&info);
-    if (pFlags)
+    if (pFlags) {
         *pFlags = info.flags;
+    }
     return item;
 }
 

@@ -1,5 +1,6 @@
 #include "fx/thread.h"
 
+#include "afxmsg_.h"
 #include "afxpriv.h"
 #include "fx/app.h"
 #include "fx/exceptions.h"
@@ -8,7 +9,6 @@
 #include "popups/menu_watch.h"
 #include "window/message_map.h"
 #include "window/thread_state.h"
-#include "afxmsg_.h"
 
 #include <process.h>
 

@@ -1,7 +1,7 @@
 // Loops that run until a window says that it is done.
 #include "afxpriv.h"
-#include "fx/app.h"
 #include "core/scoped_change.h"
+#include "fx/app.h"
 #include "window/thread_state.h"
 
 namespace {

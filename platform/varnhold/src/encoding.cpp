@@ -19,7 +19,7 @@ struct EncodingName {
     const char* name; // lower case
     Encoding encoding;
 };
-constexpr EncodingName c_encodingNames[] = {
+constexpr EncodingName kEncodingNames[] = {
     {"utf-8", Encoding::Utf8},
     {"utf8", Encoding::Utf8},
     {"utf-16", Encoding::Utf16},
@@ -42,45 +42,53 @@ constexpr EncodingName c_encodingNames[] = {
     {"gb18030", Encoding::Gb18030},
 };
 
-constexpr std::string_view c_blanks = " \t\r\n";
+constexpr std::string_view kBlanks = " \t\r\n";
 
-bool IsBlank(char c) { return c_blanks.find(c) != std::string_view::npos; }
+bool IsBlank(char c) { return kBlanks.find(c) != std::string_view::npos; }
 
 /// The value of `encoding` in the XML declaration at the start of `text`. False when the declaration is malformed;
 /// empty when there is no declaration or it names none.
 bool ReadDeclaredEncoding(std::string_view text, std::string& name) {
     name.clear();
-    if (!text.starts_with("<?xml") || text.size() < 6 || !IsBlank(text[5]))
+    if (!text.starts_with("<?xml") || text.size() < 6 || !IsBlank(text[5])) {
         return true;
+    }
     const std::size_t end = text.find("?>");
-    if (end == std::string_view::npos)
+    if (end == std::string_view::npos) {
         return false;
+    }
     text = text.substr(5, end - 5);
     while (true) {
-        const std::size_t start = text.find_first_not_of(c_blanks);
-        if (start == std::string_view::npos)
+        const std::size_t start = text.find_first_not_of(kBlanks);
+        if (start == std::string_view::npos) {
             return true;
+        }
         const std::size_t equals = text.find('=', start);
-        if (equals == std::string_view::npos)
+        if (equals == std::string_view::npos) {
             return false;
+        }
         std::string_view key = text.substr(start, equals - start);
-        key = key.substr(0, key.find_last_not_of(c_blanks) + 1);
-        const std::size_t quote = text.find_first_not_of(c_blanks, equals + 1);
-        if (quote == std::string_view::npos || (text[quote] != '"' && text[quote] != '\''))
+        key = key.substr(0, key.find_last_not_of(kBlanks) + 1);
+        const std::size_t quote = text.find_first_not_of(kBlanks, equals + 1);
+        if (quote == std::string_view::npos || (text[quote] != '"' && text[quote] != '\'')) {
             return false;
+        }
         const std::size_t closing = text.find(text[quote], quote + 1);
-        if (closing == std::string_view::npos)
+        if (closing == std::string_view::npos) {
             return false;
-        if (key == "encoding")
+        }
+        if (key == "encoding") {
             name = text.substr(quote + 1, closing - quote - 1);
+        }
         text.remove_prefix(closing + 1);
     }
 }
 
 std::string Lower(std::string text) {
     for (char& c : text) {
-        if (c >= 'A' && c <= 'Z')
+        if (c >= 'A' && c <= 'Z') {
             c = static_cast<char>(c - 'A' + 'a');
+        }
     }
     return text;
 }
@@ -105,8 +113,9 @@ std::string Utf16ToUtf8(std::string_view bytes, Encoding order) {
         }
         AppendUtf8(text, c);
     }
-    if (at < bytes.size())
-        AppendUtf8(text, c_replacement);
+    if (at < bytes.size()) {
+        AppendUtf8(text, kReplacement);
+    }
     return text;
 }
 
@@ -116,16 +125,18 @@ std::string RepairUtf8(std::string bytes) {
     const std::string_view view = bytes;
     while ((at += CountAscii(view, at)) < view.size()) {
         const std::size_t start = at;
-        if (NextFromUtf8(view, at) == c_replacement && view.substr(start, at - start) != "\xEF\xBF\xBD") {
+        if (NextFromUtf8(view, at) == kReplacement && view.substr(start, at - start) != "\xEF\xBF\xBD") {
             at = start;
             break;
         }
     }
-    if (at == view.size())
+    if (at == view.size()) {
         return bytes;
+    }
     std::string text(view.substr(0, at));
-    while (at < view.size())
+    while (at < view.size()) {
         AppendUtf8(text, NextFromUtf8(view, at));
+    }
     return text;
 }
 
@@ -134,7 +145,7 @@ std::string SingleBytesToUtf8(std::string_view bytes, unsigned char last) {
     text.reserve(bytes.size());
     for (const char byte : bytes) {
         const auto c = static_cast<unsigned char>(byte);
-        AppendUtf8(text, c <= last ? c : c_replacement);
+        AppendUtf8(text, c <= last ? c : kReplacement);
     }
     return text;
 }
@@ -162,23 +173,23 @@ struct Signature {
 };
 using namespace std::string_view_literals;
 // Byte order marks, then the way "<" and "<?" look in UTF-16 without one.
-constexpr Signature c_signatures[] = {
+constexpr Signature kSignatures[] = {
     {"\xEF\xBB\xBF"sv, Encoding::Utf8, 3},       {"\xFF\xFE"sv, Encoding::Utf16LittleEndian, 2},
     {"\xFE\xFF"sv, Encoding::Utf16BigEndian, 2}, {"<\0"sv, Encoding::Utf16LittleEndian, 0},
     {"\0<"sv, Encoding::Utf16BigEndian, 0},
 };
-constexpr std::string_view c_utf32Marks[] = {"\xFF\xFE\0\0"sv, "\0\0\xFE\xFF"sv, "<\0\0\0"sv, "\0\0\0<"sv};
+constexpr std::string_view kUtf32Marks[] = {"\xFF\xFE\0\0"sv, "\0\0\xFE\xFF"sv, "<\0\0\0"sv, "\0\0\0<"sv};
 
 } // namespace
 
 bool DecodeXml(std::string bytes, std::string& utf8, std::wstring& reason) {
-    for (const std::string_view mark : c_utf32Marks) {
+    for (const std::string_view mark : kUtf32Marks) {
         if (bytes.starts_with(mark)) {
             reason = L"the encoding UTF-32 is not supported";
             return false;
         }
     }
-    for (const Signature& signature : c_signatures) {
+    for (const Signature& signature : kSignatures) {
         if (bytes.starts_with(signature.bytes)) {
             bytes.erase(0, signature.markLength);
             utf8 = Decode(std::move(bytes), signature.encoding);
@@ -194,9 +205,9 @@ bool DecodeXml(std::string bytes, std::string& utf8, std::wstring& reason) {
         utf8 = Decode(std::move(bytes), Encoding::Utf8);
         return true;
     }
-    const auto* known = std::find_if(std::begin(c_encodingNames), std::end(c_encodingNames),
+    const auto* known = std::find_if(std::begin(kEncodingNames), std::end(kEncodingNames),
                                      [lower = Lower(name)](const EncodingName& entry) { return lower == entry.name; });
-    if (known == std::end(c_encodingNames)) {
+    if (known == std::end(kEncodingNames)) {
         reason = L"the encoding \"" + string2wstring(name) + L"\" is not known";
         return false;
     }

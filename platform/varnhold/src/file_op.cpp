@@ -18,10 +18,12 @@ AppPath& GetState() {
 }
 
 FileOp::AppPathProvider MakeProvider(std::wstring path) {
-    if (path.empty())
+    if (path.empty()) {
         return {};
-    if (path.back() != L'/' && path.back() != varnhold::c_separator)
-        path += varnhold::c_separator;
+    }
+    if (path.back() != L'/' && path.back() != varnhold::kSeparator) {
+        path += varnhold::kSeparator;
+    }
     return [path = std::move(path)](std::wstring& answer) {
         answer = path;
         return true;

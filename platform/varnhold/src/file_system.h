@@ -10,10 +10,10 @@ namespace varnhold {
 // Paths as the system takes them: wide (and prefixed where they are long) on Windows, bytes elsewhere.
 #ifdef _WIN32
 typedef std::wstring NativePath;
-constexpr wchar_t c_separator = L'\\';
+constexpr wchar_t kSeparator = L'\\';
 #else
 typedef std::string NativePath;
-constexpr wchar_t c_separator = L'/';
+constexpr wchar_t kSeparator = L'/';
 #endif
 
 NativePath ToNativePath(const std::wstring& path);

@@ -14,8 +14,9 @@ class FileHandle {
 public:
     explicit FileHandle(HANDLE handle) : m_handle(handle) {}
     ~FileHandle() {
-        if (IsOpen())
+        if (IsOpen()) {
             CloseHandle(m_handle);
+        }
     }
     FileHandle(const FileHandle&) = delete;
     FileHandle& operator=(const FileHandle&) = delete;
@@ -30,12 +31,13 @@ std::wstring DescribeError(DWORD error) {
     wchar_t text[512];
     DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0, text,
                                   static_cast<DWORD>(std::size(text)), nullptr);
-    while (length > 0 && (text[length - 1] <= L' ' || text[length - 1] == L'.'))
+    while (length > 0 && (text[length - 1] <= L' ' || text[length - 1] == L'.')) {
         --length;
+    }
     return length > 0 ? std::wstring(text, length) : L"system error " + std::to_wstring(error);
 }
 
-constexpr std::size_t c_longestRead = std::size_t(1) << 30;
+constexpr std::size_t kLongestRead = std::size_t(1) << 30;
 
 bool IsFolder(const NativePath& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
@@ -48,12 +50,14 @@ std::wstring MakeFullPath(const std::wstring& path) {
     std::wstring full(MAX_PATH, L'\0');
     while (true) {
         const DWORD length = GetFullPathNameW(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
-        if (length == 0)
+        if (length == 0) {
             return path;
+        }
         const bool fits = length < full.size();
         full.resize(length);
-        if (fits)
+        if (fits) {
             return full;
+        }
     }
 }
 
@@ -62,19 +66,22 @@ std::wstring MakeFullPath(const std::wstring& path) {
 NativePath ToNativePath(const std::wstring& path) {
     // Room is left for a file name behind a folder, as the system itself does for folders.
     constexpr std::size_t longest = MAX_PATH - 12;
-    if (path.size() < longest || path.starts_with(L"\\\\?\\") || Contains(path, L'\0'))
+    if (path.size() < longest || path.starts_with(L"\\\\?\\") || Contains(path, L'\0')) {
         return path;
+    }
     const std::wstring full = MakeFullPath(path);
-    if (full.starts_with(L"\\\\"))
+    if (full.starts_with(L"\\\\")) {
         return L"\\\\?\\UNC\\" + full.substr(2);
+    }
     return L"\\\\?\\" + full;
 }
 
 NativePath ToNativePath(std::string_view utf8Path) { return ToNativePath(string2wstring(utf8Path)); }
 
 FileContent ReadWholeFile(const NativePath& path, std::size_t maxSize) {
-    if (Contains(path, L'\0'))
+    if (Contains(path, L'\0')) {
         return {false, {}, L"the path holds a NUL character"};
+    }
     const FileHandle file(CreateFileW(path.c_str(), GENERIC_READ,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
                                       FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
@@ -82,27 +89,33 @@ FileContent ReadWholeFile(const NativePath& path, std::size_t maxSize) {
         const DWORD error = GetLastError();
         return {false, {}, IsFolder(path) ? L"this is not a file" : DescribeError(error)};
     }
-    if (GetFileType(file.Get()) != FILE_TYPE_DISK)
+    if (GetFileType(file.Get()) != FILE_TYPE_DISK) {
         return {false, {}, L"this is not a file"};
+    }
     LARGE_INTEGER size;
-    if (!GetFileSizeEx(file.Get(), &size))
+    if (!GetFileSizeEx(file.Get(), &size)) {
         return {false, {}, DescribeError(GetLastError())};
+    }
     // One byte more than the file should have: where it stays unused, the end was reached in one read.
     std::string content(std::min(static_cast<std::size_t>(size.QuadPart), maxSize) + 1, '\0');
     std::size_t length = 0;
     while (true) {
         const std::size_t room = content.size() - length;
-        const DWORD asked = static_cast<DWORD>(std::min(room, c_longestRead));
+        const DWORD asked = static_cast<DWORD>(std::min(room, kLongestRead));
         DWORD count = 0;
-        if (!ReadFile(file.Get(), content.data() + length, asked, &count, nullptr))
+        if (!ReadFile(file.Get(), content.data() + length, asked, &count, nullptr)) {
             return {false, {}, DescribeError(GetLastError())};
+        }
         length += count;
-        if (length > maxSize)
+        if (length > maxSize) {
             return {false, {}, L"the file is longer than " + std::to_wstring(maxSize) + L" bytes"};
-        if (count < asked)
+        }
+        if (count < asked) {
             break;
-        if (length == content.size())
+        }
+        if (length == content.size()) {
             content.resize(std::min(2 * length, maxSize + 1));
+        }
     }
     content.resize(length);
     return {true, std::move(content), {}};
@@ -117,13 +130,15 @@ std::vector<std::wstring> ListFolder(const std::wstring& path, EntryKind kind) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW entry;
     const HANDLE search = FindFirstFileW(ToNativePath(path + L"\\*").c_str(), &entry);
-    if (search == INVALID_HANDLE_VALUE)
+    if (search == INVALID_HANDLE_VALUE) {
         return names;
+    }
     do {
         const std::wstring name = entry.cFileName;
         const bool folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (folder == (kind == EntryKind::Folders) && name != L"." && name != L"..")
+        if (folder == (kind == EntryKind::Folders) && name != L"." && name != L"..") {
             names.push_back(name);
+        }
     } while (FindNextFileW(search, &entry));
     FindClose(search);
     std::sort(names.begin(), names.end());
@@ -133,12 +148,15 @@ std::vector<std::wstring> ListFolder(const std::wstring& path, EntryKind kind) {
 bool GetProgramFolder(std::wstring& path) {
     std::wstring program(MAX_PATH, L'\0');
     DWORD length = 0;
-    while ((length = GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()))) == program.size())
+    while ((length = GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size()))) ==
+           program.size()) {
         program.resize(program.size() * 2);
+    }
     program.resize(length);
     const std::size_t separator = program.find_last_of(L"\\/");
-    if (separator == std::wstring::npos)
+    if (separator == std::wstring::npos) {
         return false;
+    }
     path = program.substr(0, separator + 1);
     return true;
 }

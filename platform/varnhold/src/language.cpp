@@ -41,31 +41,35 @@ CMultiLanguageMgr::ProblemSink GetSink() {
 }
 
 void Report(const std::wstring& problem) {
-    if (const CMultiLanguageMgr::ProblemSink sink = GetSink())
+    if (const CMultiLanguageMgr::ProblemSink sink = GetSink()) {
         sink(problem);
+    }
 }
 
-constexpr int c_tooltipNumber = 0;
+constexpr int kTooltipNumber = 0;
 
 /// Null where there is no entry.
 const std::wstring* FindText(const LanguageTables& tables, std::string_view section, std::string_view keyword,
                              int number) {
-    if (number < c_tooltipNumber)
+    if (number < kTooltipNumber) {
         return tables.Find(section, keyword);
-    const std::string suffix = number == c_tooltipNumber ? ".tooltip" : '.' + std::to_string(number);
+    }
+    const std::string suffix = number == kTooltipNumber ? ".tooltip" : '.' + std::to_string(number);
     std::array<char, 128> room;
-    if (keyword.size() + suffix.size() > room.size())
+    if (keyword.size() + suffix.size() > room.size()) {
         return tables.Find(section, std::string(keyword) + suffix);
+    }
     const auto end = std::copy(suffix.begin(), suffix.end(), std::copy(keyword.begin(), keyword.end(), room.begin()));
     return tables.Find(section, {room.begin(), end});
 }
 
 /// The text of a missing entry, for which there is no function to ask.
 void TakeDefault(std::string_view keyword, int number, std::wstring& text) {
-    if (CTranslationSection::ShowsMissingKey(number))
+    if (CTranslationSection::ShowsMissingKey(number)) {
         string2wstring(keyword, text);
-    else
+    } else {
         text.clear();
+    }
 }
 
 wchar_t Lower(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
@@ -83,10 +87,11 @@ bool IsTableName(const std::wstring& name) {
 
 /// False when the installation directory is unknown.
 bool GetLanguageFolder(std::wstring& path) {
-    if (!FileOp::GetAppPath(path))
+    if (!FileOp::GetAppPath(path)) {
         return false;
+    }
     path += L"lang";
-    path += varnhold::c_separator;
+    path += varnhold::kSeparator;
     return true;
 }
 
@@ -108,7 +113,7 @@ std::shared_ptr<const LanguageTables> ReadTables(std::wstring& code) {
     const std::vector<std::wstring> folders = varnhold::ListFolder(folder, EntryKind::Folders);
     const auto found = std::find_if(folders.begin(), folders.end(),
                                     [&](const std::wstring& name) { return EqualsIgnoringCase(name, code); });
-    const std::wstring path = folder + (found == folders.end() ? code : *found) + varnhold::c_separator;
+    const std::wstring path = folder + (found == folders.end() ? code : *found) + varnhold::kSeparator;
     const std::vector<std::wstring> names = found == folders.end() ? std::vector<std::wstring>() : ListTables(path);
     if (names.empty()) {
         Report(path + L": there are no tables of this language");
@@ -118,8 +123,9 @@ std::shared_ptr<const LanguageTables> ReadTables(std::wstring& code) {
     const auto tables = std::make_shared<LanguageTables>();
     const CMultiLanguageMgr::ProblemSink sink = GetSink();
     bool complete = true;
-    for (const std::wstring& name : names)
+    for (const std::wstring& name : names) {
         complete = tables->AddFile(path + name, code, sink) && complete;
+    }
     return complete ? tables : nullptr;
 }
 
@@ -127,20 +133,23 @@ void TellListeners() {
     std::vector<int> numbers;
     {
         const std::lock_guard<std::mutex> lock(GetState().mutex);
-        for (const auto& entry : GetState().listeners)
+        for (const auto& entry : GetState().listeners) {
             numbers.push_back(entry.first);
+        }
     }
     for (const int number : numbers) {
         CMultiLanguageMgr::ChangeListener listener;
         {
             const std::lock_guard<std::mutex> lock(GetState().mutex);
             for (const auto& entry : GetState().listeners) {
-                if (entry.first == number)
+                if (entry.first == number) {
                     listener = entry.second;
+                }
             }
         }
-        if (listener)
+        if (listener) {
             listener();
+        }
     }
 }
 
@@ -157,11 +166,13 @@ std::wstring CMultiLanguageMgr::translation(const wchar_t* text, const std::stri
 std::wstring CMultiLanguageMgr::translationW(const std::string& keyword, int number, const std::string& section,
                                              const Fallback& fallback) {
     if (const std::shared_ptr<const LanguageTables> tables = GetTables()) {
-        if (const std::wstring* text = FindText(*tables, section, keyword, number))
+        if (const std::wstring* text = FindText(*tables, section, keyword, number)) {
             return *text;
+        }
     }
-    if (fallback)
+    if (fallback) {
         return fallback(keyword, number, section);
+    }
     std::wstring text;
     TakeDefault(keyword, number, text);
     return text;
@@ -172,10 +183,11 @@ CTranslationSection::CTranslationSection(std::string_view section) : m_tables(Ge
 CTranslationSection::~CTranslationSection() = default;
 
 void CTranslationSection::Translate(std::string_view keyword, int number, std::wstring& text) const {
-    if (const std::wstring* found = Find(keyword, number))
+    if (const std::wstring* found = Find(keyword, number)) {
         text = *found;
-    else
+    } else {
         TakeDefault(keyword, number, text);
+    }
 }
 
 const std::wstring* CTranslationSection::Find(std::string_view keyword, int number) const {
@@ -187,8 +199,9 @@ bool CMultiLanguageMgr::SetLanguage(const std::wstring& code) {
     std::shared_ptr<const LanguageTables> tables;
     if (!code.empty()) {
         tables = ReadTables(language);
-        if (!tables)
+        if (!tables) {
             return false;
+        }
     }
     {
         const std::lock_guard<std::mutex> lock(GetState().mutex);
@@ -208,11 +221,13 @@ std::wstring CMultiLanguageMgr::GetLanguage() {
 std::vector<std::wstring> CMultiLanguageMgr::Languages() {
     std::vector<std::wstring> codes;
     std::wstring folder;
-    if (!GetLanguageFolder(folder))
+    if (!GetLanguageFolder(folder)) {
         return codes;
+    }
     for (std::wstring& code : varnhold::ListFolder(folder, EntryKind::Folders)) {
-        if (!ListTables(folder + code).empty())
+        if (!ListTables(folder + code).empty()) {
             codes.push_back(std::move(code));
+        }
     }
     return codes;
 }

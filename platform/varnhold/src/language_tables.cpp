@@ -36,10 +36,11 @@ std::string FoldLineBreaks(std::string_view text) {
         const std::size_t end = std::min(text.find_first_not_of(blanks, run), text.size());
         folded += text.substr(at, run - at);
         const std::string_view blank = text.substr(run, end - run);
-        if (blank.find('\n') == std::string_view::npos)
+        if (blank.find('\n') == std::string_view::npos) {
             folded += blank;
-        else if (run > 0 && end < text.size())
+        } else if (run > 0 && end < text.size()) {
             folded += ' ';
+        }
         at = end;
     }
     return folded;
@@ -47,8 +48,9 @@ std::string FoldLineBreaks(std::string_view text) {
 
 /// The element after `node` in document order that is not inside it, without leaving `top`.
 pugi::xml_node NextAfter(pugi::xml_node node, const pugi::xml_node& top) {
-    while (node != top && !node.next_sibling())
+    while (node != top && !node.next_sibling()) {
         node = node.parent();
+    }
     return node == top ? pugi::xml_node() : node.next_sibling();
 }
 
@@ -60,10 +62,11 @@ std::string ReadContent(const pugi::xml_node& content, bool preserve) {
     while (node) {
         const std::string_view name = LocalName(node);
         const bool span = node.type() == pugi::node_element && (name == "pc" || name == "mrk");
-        if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata)
+        if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) {
             text += node.value();
-        else if (name == "cp")
+        } else if (name == "cp") {
             AppendUtf8(text, static_cast<char32_t>(std::strtoul(node.attribute("hex").value(), nullptr, 16)));
+        }
         node = span && node.first_child() ? node.first_child() : NextAfter(node, content);
     }
     return preserve ? text : FoldLineBreaks(text);
@@ -89,8 +92,9 @@ private:
     void ReadFile(const pugi::xml_node& file, bool preserve);
     void ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTables::Section& section);
     void Report(const std::wstring& what, TextPosition position) const {
-        if (m_sink)
+        if (m_sink) {
             m_sink(FormatProblem(m_path, position, what));
+        }
     }
     void Report(const std::wstring& what, const pugi::xml_node& node) const { Report(what, m_tree->GetPosition(node)); }
 
@@ -101,7 +105,7 @@ private:
 };
 
 bool XliffReader::Read(const std::wstring& language) {
-    FileContent content = ReadWholeFile(ToNativePath(m_path), CXmlDocumentWrapper::c_maxSize);
+    FileContent content = ReadWholeFile(ToNativePath(m_path), CXmlDocumentWrapper::kMaxSize);
     if (!content.read) {
         Report(content.reason, TextPosition());
         return false;
@@ -118,13 +122,15 @@ bool XliffReader::Read(const std::wstring& language) {
         return false;
     }
     const pugi::xml_attribute target = root.attribute("trgLang");
-    if (target && !SameCode(target.value(), wstring2String(language)))
+    if (target && !SameCode(target.value(), wstring2String(language))) {
         Report(L"trgLang is \"" + string2wstring(target.value()) + L"\", but the folder is \"" + language + L"\"",
                root);
+    }
     const bool preserve = PreservesBlanks(root, false);
     for (const pugi::xml_node& child : root) {
-        if (LocalName(child) == "file")
+        if (LocalName(child) == "file") {
             ReadFile(child, PreservesBlanks(child, preserve));
+        }
     }
     return true;
 }
@@ -147,10 +153,11 @@ void XliffReader::ReadFile(const pugi::xml_node& file, bool preserve) {
         const pugi::xml_node node = std::exchange(next, next.next_sibling());
         const bool nodeBlanks = PreservesBlanks(node, blanks);
         const std::string_view name = LocalName(node);
-        if (name == "group")
+        if (name == "group") {
             open.emplace_back(node.first_child(), nodeBlanks);
-        else if (name == "unit")
+        } else if (name == "unit") {
             ReadUnit(node, nodeBlanks, section);
+        }
     }
 }
 
@@ -164,8 +171,9 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTa
     std::vector<std::pair<int, std::string>> parts; // by the place that the translation asks for
     for (const pugi::xml_node& part : unit) {
         const std::string_view kind = LocalName(part);
-        if (kind != "segment" && kind != "ignorable")
+        if (kind != "segment" && kind != "ignorable") {
             continue;
+        }
         const bool blanks = PreservesBlanks(part, preserve);
         int place = static_cast<int>(parts.size()) + 1;
         std::string source;
@@ -187,10 +195,12 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTa
     }
     std::stable_sort(parts.begin(), parts.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     std::string text;
-    for (const auto& part : parts)
+    for (const auto& part : parts) {
         text += part.second;
-    if (!section.insert_or_assign(key, string2wstring(text)).second)
+    }
+    if (!section.insert_or_assign(key, string2wstring(text)).second) {
         Report(L"the unit \"" + string2wstring(key) + L"\" was there before; the later one counts", unit);
+    }
 }
 
 bool LanguageTables::AddFile(const std::wstring& path, const std::wstring& language, const ProblemSink& sink) {
@@ -199,8 +209,9 @@ bool LanguageTables::AddFile(const std::wstring& path, const std::wstring& langu
 
 const std::wstring* LanguageTables::Find(std::string_view section, std::string_view key) const {
     const auto texts = m_sections.find(section);
-    if (texts == m_sections.end())
+    if (texts == m_sections.end()) {
         return nullptr;
+    }
     const auto text = texts->second.find(key);
     return text == texts->second.end() ? nullptr : &text->second;
 }

@@ -19,7 +19,7 @@ struct BoxStyle {
     int status;
     UINT style;
 };
-constexpr BoxStyle c_styles[] = {
+constexpr BoxStyle kStyles[] = {
     {QK_MESSAGE_INFORMATION, MB_OK | MB_ICONINFORMATION},
     {QK_MESSAGE_QUESTION, MB_YESNO | MB_ICONQUESTION},
     {QK_MESSAGE_WARNING, MB_OK | MB_ICONWARNING},
@@ -27,11 +27,12 @@ constexpr BoxStyle c_styles[] = {
 };
 
 UINT GetBoxStyle(int status) {
-    for (const BoxStyle& entry : c_styles) {
-        if (entry.status == status)
+    for (const BoxStyle& entry : kStyles) {
+        if (entry.status == status) {
             return entry.style;
+        }
     }
-    return c_styles[0].style;
+    return kStyles[0].style;
 }
 
 std::wstring GetProgramName() {
@@ -46,8 +47,9 @@ std::wstring GetProgramName() {
 
 int QKMessageBox(const std::wstring& message, int status, HWND owner) {
     // A copy: the handler may install another one while it runs.
-    if (const MessageBoxHandler handler = GetState().handler)
+    if (const MessageBoxHandler handler = GetState().handler) {
         return handler(message, status, owner);
+    }
     // Without an owner the box still keeps the thread's other windows from being used meanwhile.
     const UINT modality = owner ? MB_APPLMODAL : MB_TASKMODAL;
     return MessageBoxW(owner, message.c_str(), getMessageBoxTitle().c_str(), GetBoxStyle(status) | modality);

@@ -18,41 +18,51 @@ struct LeadByte {
 };
 
 LeadByte ReadLeadByte(unsigned char lead) {
-    if (lead >= 0xC2 && lead <= 0xDF)
+    if (lead >= 0xC2 && lead <= 0xDF) {
         return {1};
-    if (lead == 0xE0)
+    }
+    if (lead == 0xE0) {
         return {2, 0xA0, 0xBF};
-    if (lead == 0xED)
+    }
+    if (lead == 0xED) {
         return {2, 0x80, 0x9F};
-    if (lead >= 0xE1 && lead <= 0xEF)
+    }
+    if (lead >= 0xE1 && lead <= 0xEF) {
         return {2};
-    if (lead == 0xF0)
+    }
+    if (lead == 0xF0) {
         return {3, 0x90, 0xBF};
-    if (lead == 0xF4)
+    }
+    if (lead == 0xF4) {
         return {3, 0x80, 0x8F};
-    if (lead >= 0xF1 && lead <= 0xF3)
+    }
+    if (lead >= 0xF1 && lead <= 0xF3) {
         return {3};
+    }
     return {0};
 }
 
 // Lengths that the compiler turns into a few vector instructions.
-constexpr std::size_t c_blockLength = 64;
-constexpr std::size_t c_longStep = 16;
-constexpr std::size_t c_shortStep = 4;
+constexpr std::size_t kBlockLength = 64;
+constexpr std::size_t kLongStep = 16;
+constexpr std::size_t kShortStep = 4;
 
 bool IsAscii(const char* text, std::size_t length) {
     unsigned char bits = 0;
-    for (std::size_t i = 0; i < length; ++i)
+    for (std::size_t i = 0; i < length; ++i) {
         bits |= static_cast<unsigned char>(text[i]);
+    }
     return bits < 0x80;
 }
 
 template <std::size_t length>
 bool WidenStep(const char* text, wchar_t* letters) {
-    if (!IsAscii(text, length))
+    if (!IsAscii(text, length)) {
         return false;
-    for (std::size_t i = 0; i < length; ++i)
+    }
+    for (std::size_t i = 0; i < length; ++i) {
         letters[i] = static_cast<wchar_t>(static_cast<unsigned char>(text[i]));
+    }
     return true;
 }
 
@@ -60,57 +70,68 @@ bool WidenStep(const char* text, wchar_t* letters) {
 
 std::size_t CountAscii(std::string_view text, std::size_t at) {
     const std::size_t start = at;
-    for (; at + c_blockLength <= text.size() && IsAscii(text.data() + at, c_blockLength); at += c_blockLength) {
+    for (; at + kBlockLength <= text.size() && IsAscii(text.data() + at, kBlockLength); at += kBlockLength) {
     }
-    while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80)
+    while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80) {
         ++at;
+    }
     return at - start;
 }
 
 std::size_t FindNul(std::string_view text) {
     std::size_t at = 0;
-    for (; at + c_blockLength <= text.size(); at += c_blockLength) {
+    for (; at + kBlockLength <= text.size(); at += kBlockLength) {
         unsigned char least = 0xFF;
-        for (std::size_t i = 0; i < c_blockLength; ++i)
+        for (std::size_t i = 0; i < kBlockLength; ++i) {
             least = std::min(least, static_cast<unsigned char>(text[at + i]));
-        if (least == 0)
+        }
+        if (least == 0) {
             break;
+        }
     }
-    while (at < text.size() && text[at] != '\0')
+    while (at < text.size() && text[at] != '\0') {
         ++at;
+    }
     return at;
 }
 
 std::size_t WidenAscii(std::string_view text, wchar_t* letters) {
     const std::size_t size = text.size();
     std::size_t at = 0;
-    for (; at + c_longStep <= size; at += c_longStep) {
-        if (!WidenStep<c_longStep>(text.data() + at, letters + at))
+    for (; at + kLongStep <= size; at += kLongStep) {
+        if (!WidenStep<kLongStep>(text.data() + at, letters + at)) {
             break;
+        }
     }
-    for (; at + c_shortStep <= size; at += c_shortStep) {
-        if (!WidenStep<c_shortStep>(text.data() + at, letters + at))
+    for (; at + kShortStep <= size; at += kShortStep) {
+        if (!WidenStep<kShortStep>(text.data() + at, letters + at)) {
             break;
+        }
     }
-    for (; at < size && static_cast<unsigned char>(text[at]) < 0x80; ++at)
+    for (; at < size && static_cast<unsigned char>(text[at]) < 0x80; ++at) {
         letters[at] = static_cast<wchar_t>(text[at]);
+    }
     return at;
 }
 
 char32_t NextFromUtf8(std::string_view text, std::size_t& at) {
     const auto lead = static_cast<unsigned char>(text[at++]);
-    if (lead < 0x80)
+    if (lead < 0x80) {
         return lead;
+    }
     LeadByte rule = ReadLeadByte(lead);
-    if (rule.following == 0)
-        return c_replacement;
+    if (rule.following == 0) {
+        return kReplacement;
+    }
     char32_t c = lead & (0x3F >> rule.following);
     for (int i = 0; i < rule.following; ++i) {
-        if (at == text.size())
-            return c_replacement;
+        if (at == text.size()) {
+            return kReplacement;
+        }
         const auto byte = static_cast<unsigned char>(text[at]);
-        if (byte < rule.low || byte > rule.high)
-            return c_replacement;
+        if (byte < rule.low || byte > rule.high) {
+            return kReplacement;
+        }
         c = c << 6 | (byte & 0x3F);
         rule.low = 0x80;
         rule.high = 0xBF;
@@ -120,8 +141,9 @@ char32_t NextFromUtf8(std::string_view text, std::size_t& at) {
 }
 
 void AppendUtf8(std::string& text, char32_t c) {
-    if (!IsScalarValue(c))
-        c = c_replacement;
+    if (!IsScalarValue(c)) {
+        c = kReplacement;
+    }
     if (c < 0x80) {
         text += static_cast<char>(c);
     } else if (c < 0x800) {
@@ -140,8 +162,9 @@ void AppendUtf8(std::string& text, char32_t c) {
 }
 
 wchar_t* PutWide(wchar_t* at, char32_t c) {
-    if (!IsScalarValue(c))
-        c = c_replacement;
+    if (!IsScalarValue(c)) {
+        c = kReplacement;
+    }
     if (sizeof(wchar_t) == 2 && c >= 0x10000) {
         *at++ = static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
         *at++ = static_cast<wchar_t>(0xDC00 + (c & 0x3FF));
@@ -154,8 +177,9 @@ wchar_t* PutWide(wchar_t* at, char32_t c) {
 } // namespace varnhold
 
 std::string wstring2String(std::wstring_view text) {
-    if (std::all_of(text.begin(), text.end(), [](wchar_t c) { return static_cast<std::uint32_t>(c) < 0x80; }))
+    if (std::all_of(text.begin(), text.end(), [](wchar_t c) { return static_cast<std::uint32_t>(c) < 0x80; })) {
         return std::string(text.begin(), text.end());
+    }
     std::string result;
     result.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -184,10 +208,11 @@ void string2wstring(std::string_view text, std::wstring& wide) {
         // One heap block at most: nearly every text is short.
         wchar_t letters[shortLength];
         const std::size_t length = string2wstring(text, letters);
-        if (length <= wide.capacity())
+        if (length <= wide.capacity()) {
             wide.assign(letters, length);
-        else
+        } else {
             wide = std::wstring(letters, length); // a block of the right size, not of twice the old one
+        }
         return;
     }
     wide.resize(text.size());
@@ -197,7 +222,8 @@ void string2wstring(std::string_view text, std::wstring& wide) {
 std::size_t string2wstring(std::string_view text, wchar_t* letters) {
     std::size_t at = varnhold::WidenAscii(text, letters);
     wchar_t* end = letters + at;
-    while (at < text.size())
+    while (at < text.size()) {
         end = varnhold::PutWide(end, varnhold::NextFromUtf8(text, at));
+    }
     return static_cast<std::size_t>(end - letters);
 }

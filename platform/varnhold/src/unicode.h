@@ -6,7 +6,7 @@
 
 namespace varnhold {
 
-constexpr char32_t c_replacement = 0xFFFD;
+constexpr char32_t kReplacement = 0xFFFD;
 
 /// True for a code point that a text may hold: not above U+10FFFF and not a surrogate.
 constexpr bool IsScalarValue(char32_t c) { return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF); }

@@ -21,8 +21,9 @@ std::size_t CXmlNodeWrapper::GetChildCount() const noexcept {
 }
 
 CXmlNodeWrapper CXmlNodeWrapper::GetChild(std::size_t index) const {
-    if (index >= GetChildCount())
+    if (index >= GetChildCount()) {
         return {};
+    }
     return {m_tree, m_tree->GetElement(m_element).firstChild + static_cast<std::uint32_t>(index)};
 }
 
@@ -31,20 +32,23 @@ std::size_t CXmlNodeWrapper::GetAttributeCount() const noexcept {
 }
 
 std::string_view CXmlNodeWrapper::GetAttributeNameUtf8(std::size_t index) const noexcept {
-    if (index >= GetAttributeCount())
+    if (index >= GetAttributeCount()) {
         return {};
+    }
     return m_tree->GetAttribute(m_tree->GetElement(m_element), index).name();
 }
 
 std::string_view CXmlNodeWrapper::GetAttributeValueUtf8(std::size_t index) const noexcept {
-    if (index >= GetAttributeCount())
+    if (index >= GetAttributeCount()) {
         return {};
+    }
     return m_tree->GetAttribute(m_tree->GetElement(m_element), index).value();
 }
 
 varnhold::XmlAttributeView CXmlNodeWrapper::GetAttributeUtf8(std::size_t index) const noexcept {
-    if (index >= GetAttributeCount())
+    if (index >= GetAttributeCount()) {
         return {};
+    }
     const pugi::xml_attribute attribute = m_tree->GetAttribute(m_tree->GetElement(m_element), index);
     return {attribute.name(), attribute.value()};
 }
@@ -62,8 +66,9 @@ TextPosition CXmlNodeWrapper::GetPosition() const {
 }
 
 TextPosition CXmlNodeWrapper::GetAttributePosition(std::size_t index) const {
-    if (index >= GetAttributeCount())
+    if (index >= GetAttributeCount()) {
         return {};
+    }
     return m_tree->GetPosition(m_tree->GetAttribute(m_tree->GetElement(m_element), index));
 }
 
@@ -73,13 +78,13 @@ CXmlDocumentWrapper::CXmlDocumentWrapper(CXmlDocumentWrapper&&) noexcept = defau
 CXmlDocumentWrapper& CXmlDocumentWrapper::operator=(CXmlDocumentWrapper&&) noexcept = default;
 
 bool CXmlDocumentWrapper::Load(const std::wstring& path) {
-    return Take(path, varnhold::ReadWholeFile(varnhold::ToNativePath(path), c_maxSize));
+    return Take(path, varnhold::ReadWholeFile(varnhold::ToNativePath(path), kMaxSize));
 }
 
 bool CXmlDocumentWrapper::Load(const wchar_t* path) { return Load(std::wstring(path ? path : L"")); }
 
 bool CXmlDocumentWrapper::Load(const std::string& path) {
-    return Take(string2wstring(path), varnhold::ReadWholeFile(varnhold::ToNativePath(path), c_maxSize));
+    return Take(string2wstring(path), varnhold::ReadWholeFile(varnhold::ToNativePath(path), kMaxSize));
 }
 
 bool CXmlDocumentWrapper::Load(const char* path) { return Load(std::string(path ? path : "")); }
@@ -89,8 +94,9 @@ bool CXmlDocumentWrapper::LoadFromMemory(std::string_view bytes, const std::wstr
 }
 
 CXmlNodeWrapper CXmlDocumentWrapper::GetDocumentElement() const {
-    if (!m_tree)
+    if (!m_tree) {
         return {};
+    }
     m_tree->LayOut();
     return {m_tree, 0};
 }
@@ -98,8 +104,9 @@ CXmlNodeWrapper CXmlDocumentWrapper::GetDocumentElement() const {
 bool CXmlDocumentWrapper::Take(const std::wstring& name, std::string bytes) {
     varnhold::XmlFailure failure;
     std::shared_ptr<const XmlTree> tree = XmlTree::Parse(std::move(bytes), varnhold::BlankText::Drop, failure);
-    if (!tree)
+    if (!tree) {
         return Fail(name, failure.reason, failure.position);
+    }
     m_tree = std::move(tree);
     m_errorText.clear();
     m_errorReason.clear();

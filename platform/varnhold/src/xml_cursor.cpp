@@ -6,26 +6,30 @@ namespace varnhold {
 namespace {
 
 pugi::xml_node ElementFrom(pugi::xml_node node) {
-    while (node && node.type() != pugi::node_element)
+    while (node && node.type() != pugi::node_element) {
         node = node.next_sibling();
+    }
     return node;
 }
 
 } // namespace
 
 XmlCursor::XmlCursor(const CXmlDocumentWrapper& document) : m_tree(document.m_tree) {
-    if (m_tree)
+    if (m_tree) {
         m_element = m_tree->GetRoot().internal_object();
+    }
 }
 
 XmlCursor::XmlCursor(const CXmlNodeWrapper& element) : m_tree(element.m_tree) {
-    if (m_tree)
+    if (m_tree) {
         m_element = m_tree->GetElement(element.m_element).node.internal_object();
+    }
 }
 
 bool XmlCursor::MoveTo(pugi::xml_node_struct* element) noexcept {
-    if (element)
+    if (element) {
         m_element = element;
+    }
     return element != nullptr;
 }
 
@@ -48,8 +52,9 @@ bool XmlCursor::HasChildren() const noexcept { return !ElementFrom(pugi::xml_nod
 
 std::size_t XmlCursor::CountChildren() const noexcept {
     std::size_t count = 0;
-    for (pugi::xml_node child = pugi::xml_node(m_element).first_child(); child; child = child.next_sibling())
+    for (pugi::xml_node child = pugi::xml_node(m_element).first_child(); child; child = child.next_sibling()) {
         count += child.type() == pugi::node_element ? 1 : 0;
+    }
     return count;
 }
 

@@ -9,15 +9,16 @@ namespace varnhold {
 
 namespace {
 
-constexpr std::size_t c_none = std::string_view::npos;
-constexpr std::string_view c_referenceStart = "&#";
-constexpr std::string_view c_documentTypeStart = "<!DOCTYPE";
+constexpr std::size_t kNone = std::string_view::npos;
+constexpr std::string_view kReferenceStart = "&#";
+constexpr std::string_view kDocumentTypeStart = "<!DOCTYPE";
 
 /// The digit's value; `base` or more for anything else.
 unsigned ToDigit(char c) {
     constexpr unsigned noDigit = 16;
-    if (c >= '0' && c <= '9')
+    if (c >= '0' && c <= '9') {
         return static_cast<unsigned>(c - '0');
+    }
     const char lower = static_cast<char>(c | 0x20);
     return lower >= 'a' && lower <= 'f' ? static_cast<unsigned>(lower - 'a') + 10 : noDigit;
 }
@@ -25,29 +26,31 @@ unsigned ToDigit(char c) {
 /// Whether what begins at `at` with "&#" is a whole reference, and to no character.
 bool RefersToNoCharacter(std::string_view text, std::size_t at) {
     constexpr unsigned tooLarge = 0x110000;
-    at += c_referenceStart.size();
+    at += kReferenceStart.size();
     const bool isHexadecimal = at < text.size() && text[at] == 'x';
     const unsigned base = isHexadecimal ? 16 : 10;
     at += isHexadecimal ? 1 : 0;
     const std::size_t digits = at;
     unsigned value = 0;
-    for (; at < text.size() && ToDigit(text[at]) < base; ++at)
+    for (; at < text.size() && ToDigit(text[at]) < base; ++at) {
         value = std::min(value * base + ToDigit(text[at]), tooLarge);
+    }
     const bool isWhole = at > digits && at < text.size() && text[at] == ';';
     return isWhole && (value == 0 || !IsScalarValue(value));
 }
 
 std::size_t FindCandidate(std::string_view text, std::size_t from) {
-    std::size_t at = text.find(c_referenceStart, from);
-    while (at != c_none && !RefersToNoCharacter(text, at))
-        at = text.find(c_referenceStart, at + 1);
+    std::size_t at = text.find(kReferenceStart, from);
+    while (at != kNone && !RefersToNoCharacter(text, at)) {
+        at = text.find(kReferenceStart, at + 1);
+    }
     return at;
 }
 
 /// Behind the next `end`; the text's length when there is none.
 std::size_t SkipPast(std::string_view text, std::string_view end, std::size_t from) {
     const std::size_t found = text.find(end, from);
-    return found == c_none ? text.size() : found + end.size();
+    return found == kNone ? text.size() : found + end.size();
 }
 
 struct Section {
@@ -55,14 +58,14 @@ struct Section {
     std::string_view end;
 };
 /// Markup in which a reference is not replaced.
-constexpr Section c_sections[] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
+constexpr Section kSections[] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
 
 /// Behind the comment, section or instruction that begins at `at`; `at` when none does.
 std::size_t SkipSection(std::string_view text, std::size_t at) {
-    const auto* const found = std::find_if(std::begin(c_sections), std::end(c_sections), [&](const Section& section) {
+    const auto* const found = std::find_if(std::begin(kSections), std::end(kSections), [&](const Section& section) {
         return text.substr(at).starts_with(section.start);
     });
-    return found == std::end(c_sections) ? at : SkipPast(text, found->end, at + found->start.size());
+    return found == std::end(kSections) ? at : SkipPast(text, found->end, at + found->start.size());
 }
 
 /// Behind the ">" that closes the "<" at `at`. Quoted texts count as one, and so does markup within a document type.
@@ -82,17 +85,19 @@ std::size_t SkipMarkup(std::string_view text, std::size_t at) {
         }
         depth += c == '<' ? 1 : 0;
         ++at;
-        if (c == '>' && --depth == 0)
+        if (c == '>' && --depth == 0) {
             break;
+        }
     }
     return at;
 }
 
 /// Behind the piece of the document that begins at `at`, where no reference is replaced; `at` where one may be.
 std::size_t SkipUnreplaced(std::string_view text, std::size_t at) {
-    if (text[at] != '<')
+    if (text[at] != '<') {
         return at;
-    return text.substr(at).starts_with(c_documentTypeStart) ? SkipMarkup(text, at) : SkipSection(text, at);
+    }
+    return text.substr(at).starts_with(kDocumentTypeStart) ? SkipMarkup(text, at) : SkipSection(text, at);
 }
 
 } // namespace
@@ -100,21 +105,24 @@ std::size_t SkipUnreplaced(std::string_view text, std::size_t at) {
 std::size_t FindReferenceToNoCharacter(std::string_view document) {
     // Nearly no document has one, and then nothing else is looked at.
     std::size_t candidate = FindCandidate(document, 0);
-    for (std::size_t at = 0; candidate != c_none && at <= candidate;) {
+    for (std::size_t at = 0; candidate != kNone && at <= candidate;) {
         if (const std::size_t behind = SkipUnreplaced(document, at); behind != at) {
             at = behind;
         } else if (document[at] == '<') {
             // A tag: its values are replaced, and what looks like markup in them is none.
             at = SkipMarkup(document, at);
-            if (candidate < at)
+            if (candidate < at) {
                 return candidate;
+            }
         } else {
             at = std::min(document.find('<', at), document.size());
-            if (candidate < at)
+            if (candidate < at) {
                 return candidate;
+            }
         }
-        if (candidate < at)
+        if (candidate < at) {
             candidate = FindCandidate(document, at);
+        }
     }
     return candidate;
 }

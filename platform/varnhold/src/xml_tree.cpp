@@ -15,24 +15,24 @@ namespace varnhold {
 
 namespace {
 
-constexpr std::size_t c_blockSize = 1024;
+constexpr std::size_t kBlockSize = 1024;
 
 // Source bytes of a small element and of a small attribute: what the tables of a document are made ready for.
-constexpr std::size_t c_bytesPerElement = 64;
-constexpr std::size_t c_bytesPerAttribute = 16;
-constexpr std::size_t c_mostReadyElements = 65536;
+constexpr std::size_t kBytesPerElement = 64;
+constexpr std::size_t kBytesPerAttribute = 16;
+constexpr std::size_t kMostReadyElements = 65536;
 
 /// How deep elements can be nested in so many bytes: "<a></a>" around others, "<a/>" innermost.
 constexpr std::size_t GetMostLevels(std::size_t bytes) { return (bytes + 3) / 7; }
 
 // Texts are searched for their ends by words, which may reach behind the buffer's last NUL.
-constexpr std::size_t c_padding = sizeof(std::uint64_t);
+constexpr std::size_t kPadding = sizeof(std::uint64_t);
 
 struct StatusText {
     pugi::xml_parse_status status;
     const wchar_t* text;
 };
-constexpr StatusText c_statusTexts[] = {
+constexpr StatusText kStatusTexts[] = {
     {pugi::status_out_of_memory, L"there is not enough memory"},
     {pugi::status_internal_error, L"the parser failed"},
     {pugi::status_unrecognized_tag, L"this is no tag"},
@@ -49,9 +49,9 @@ constexpr StatusText c_statusTexts[] = {
 };
 
 const wchar_t* DescribeStatus(pugi::xml_parse_status status) {
-    const auto* found = std::find_if(std::begin(c_statusTexts), std::end(c_statusTexts),
+    const auto* found = std::find_if(std::begin(kStatusTexts), std::end(kStatusTexts),
                                      [status](const StatusText& entry) { return entry.status == status; });
-    return found == std::end(c_statusTexts) ? L"the document is not well-formed" : found->text;
+    return found == std::end(kStatusTexts) ? L"the document is not well-formed" : found->text;
 }
 
 bool IsText(const pugi::xml_node& node) {
@@ -70,16 +70,17 @@ std::shared_ptr<const XmlTree> XmlTree::Parse(std::string bytes, BlankText blank
         failure = {L"the document is empty", {}};
         return nullptr;
     }
-    if (bytes.size() > CXmlDocumentWrapper::c_maxSize) {
-        failure = {L"the document is longer than " + std::to_wstring(CXmlDocumentWrapper::c_maxSize) + L" bytes", {}};
+    if (bytes.size() > CXmlDocumentWrapper::kMaxSize) {
+        failure = {L"the document is longer than " + std::to_wstring(CXmlDocumentWrapper::kMaxSize) + L" bytes", {}};
         return nullptr;
     }
     if (!DecodeXml(std::move(bytes), tree->m_text, failure.reason)) {
         failure.position = {1, 1};
         return nullptr;
     }
-    if (!tree->ParseText(blanks, failure))
+    if (!tree->ParseText(blanks, failure)) {
         return nullptr;
+    }
     return tree;
 }
 
@@ -89,13 +90,14 @@ bool XmlTree::ParseText(BlankText blanks, XmlFailure& failure) {
         failure = {L"there is a NUL character", GetPosition(nul)};
         return false;
     }
-    m_buffer = std::make_unique_for_overwrite<char[]>(m_text.size() + 1 + c_padding);
+    m_buffer = std::make_unique_for_overwrite<char[]>(m_text.size() + 1 + kPadding);
     std::memcpy(m_buffer.get(), m_text.data(), m_text.size());
-    std::memset(m_buffer.get() + m_text.size(), 0, 1 + c_padding);
+    std::memset(m_buffer.get() + m_text.size(), 0, 1 + kPadding);
     // As a fragment, so that texts beside the document element are seen (and refused) instead of skipped.
     unsigned options = pugi::parse_default | pugi::parse_fragment;
-    if (blanks == BlankText::Keep)
+    if (blanks == BlankText::Keep) {
         options |= pugi::parse_ws_pcdata;
+    }
     const pugi::xml_parse_result result =
         m_document.load_buffer_inplace(m_buffer.get(), m_text.size() + 1, options, pugi::encoding_utf8);
     if (!result) {
@@ -113,27 +115,30 @@ bool XmlTree::CheckTopLevel(XmlFailure& failure) {
                        GetPosition(m_text.find_first_not_of(" \t\r\n", std::min(offset, m_text.size())))};
             return false;
         }
-        if (node.type() != pugi::node_element)
+        if (node.type() != pugi::node_element) {
             continue;
+        }
         if (m_root) {
             failure = {L"there is a second document element", GetPosition(node)};
             return false;
         }
         m_root = node;
     }
-    if (!m_root)
+    if (!m_root) {
         failure = {L"there is no document element", GetPosition(m_text.size())};
+    }
     return !m_root.empty();
 }
 
 bool XmlTree::CheckDepth(XmlFailure& failure) const {
-    if (GetMostLevels(m_text.size()) <= CXmlDocumentWrapper::c_maxDepth)
+    if (GetMostLevels(m_text.size()) <= CXmlDocumentWrapper::kMaxDepth) {
         return true;
+    }
     std::size_t depth = 1;
     pugi::xml_node node = m_root;
     while (true) {
-        if (node.type() == pugi::node_element && depth > CXmlDocumentWrapper::c_maxDepth) {
-            failure = {L"elements are nested deeper than " + std::to_wstring(CXmlDocumentWrapper::c_maxDepth),
+        if (node.type() == pugi::node_element && depth > CXmlDocumentWrapper::kMaxDepth) {
+            failure = {L"elements are nested deeper than " + std::to_wstring(CXmlDocumentWrapper::kMaxDepth),
                        GetPosition(node)};
             return false;
         }
@@ -146,16 +151,18 @@ bool XmlTree::CheckDepth(XmlFailure& failure) const {
             node = node.parent();
             --depth;
         }
-        if (node == m_root)
+        if (node == m_root) {
             return true;
+        }
         node = node.next_sibling();
     }
 }
 
 bool XmlTree::CheckReferences(XmlFailure& failure) const {
     const std::size_t reference = FindReferenceToNoCharacter(m_text);
-    if (reference == std::string_view::npos)
+    if (reference == std::string_view::npos) {
         return true;
+    }
     failure = {L"a character reference stands for no character", GetPosition(reference)};
     return false;
 }
@@ -165,38 +172,42 @@ void XmlTree::LayOut() const {
 }
 
 void XmlTree::LayOutElements() const {
-    const std::size_t readyBytes = std::min(m_text.size(), c_mostReadyElements * c_bytesPerElement);
-    m_elements.reserve(readyBytes / c_bytesPerElement + 1);
-    m_attributes.reserve(readyBytes / c_bytesPerAttribute);
+    const std::size_t readyBytes = std::min(m_text.size(), kMostReadyElements * kBytesPerElement);
+    m_elements.reserve(readyBytes / kBytesPerElement + 1);
+    m_attributes.reserve(readyBytes / kBytesPerAttribute);
     m_elements.push_back({m_root});
     for (std::size_t i = 0; i < m_elements.size(); ++i) {
         const pugi::xml_node node = m_elements[i].node;
         const auto firstChild = static_cast<std::uint32_t>(m_elements.size());
         for (const pugi::xml_node& child : node) {
-            if (child.type() == pugi::node_element)
+            if (child.type() == pugi::node_element) {
                 m_elements.push_back({child});
+            }
         }
         Element& element = m_elements[i];
         element.firstChild = firstChild;
         element.childCount = static_cast<std::uint32_t>(m_elements.size()) - firstChild;
         element.firstAttribute = static_cast<std::uint32_t>(m_attributes.size());
-        for (const pugi::xml_attribute& attribute : node.attributes())
+        for (const pugi::xml_attribute& attribute : node.attributes()) {
             m_attributes.push_back(attribute);
+        }
         element.attributeCount = static_cast<std::uint32_t>(m_attributes.size()) - element.firstAttribute;
     }
 }
 
 std::size_t XmlTree::LengthOf(const char* text) const {
     const char* const begin = m_buffer.get();
-    if (std::less<>()(text, begin) || !std::less<>()(text, begin + m_text.size() + 1))
+    if (std::less<>()(text, begin) || !std::less<>()(text, begin + m_text.size() + 1)) {
         return std::strlen(text); // the parser's own empty text
+    }
     constexpr std::uint64_t ones = 0x0101010101010101, highBits = 0x8080808080808080;
     for (std::size_t length = 0;; length += sizeof(std::uint64_t)) {
         std::uint64_t word = 0;
         std::memcpy(&word, text + length, sizeof word);
         // The lowest bit that is left belongs to the first NUL.
-        if (const std::uint64_t nuls = (word - ones) & ~word & highBits)
+        if (const std::uint64_t nuls = (word - ones) & ~word & highBits) {
             return length + static_cast<std::size_t>(std::countr_zero(nuls)) / 8;
+        }
     }
 }
 
@@ -204,21 +215,24 @@ void XmlTree::IndexLines() const {
     m_lineStarts.push_back(0);
     std::size_t characters = 0;
     for (std::size_t i = 0; i < m_text.size(); ++i) {
-        if (i % c_blockSize == 0)
+        if (i % kBlockSize == 0) {
             m_characterCounts.push_back(characters);
+        }
         characters += StartsCharacter(m_text[i]) ? 1 : 0;
         const bool endsLine = m_text[i] == '\n' || (m_text[i] == '\r' && m_text[i + 1] != '\n');
-        if (endsLine)
+        if (endsLine) {
             m_lineStarts.push_back(i + 1);
+        }
     }
-    if (m_text.size() % c_blockSize == 0)
+    if (m_text.size() % kBlockSize == 0) {
         m_characterCounts.push_back(characters);
+    }
 }
 
 std::size_t XmlTree::CountCharacters(std::size_t end) const {
-    const std::size_t block = end / c_blockSize;
+    const std::size_t block = end / kBlockSize;
     const auto begin = m_text.begin();
-    const auto counted = std::count_if(begin + static_cast<std::ptrdiff_t>(block * c_blockSize),
+    const auto counted = std::count_if(begin + static_cast<std::ptrdiff_t>(block * kBlockSize),
                                        begin + static_cast<std::ptrdiff_t>(end), StartsCharacter);
     return m_characterCounts[block] + static_cast<std::size_t>(counted);
 }
@@ -245,8 +259,9 @@ TextPosition XmlTree::GetPositionOfName(const char* name) const {
 
 std::wstring FormatProblem(const std::wstring& file, TextPosition position, const std::wstring& text) {
     std::wstring problem = file;
-    if (position.line > 0)
+    if (position.line > 0) {
         problem += L':' + std::to_wstring(position.line) + L':' + std::to_wstring(position.column);
+    }
     return problem + L": " + text;
 }
 

@@ -48,14 +48,17 @@ const ordered_json& SelectedItem(const ordered_json& combo) {
 
 /// A combo's marks in words; nothing for what has none.
 std::wstring WordsOf(const ordered_json& element) {
-    if (!IsCombo(element))
+    if (!IsCombo(element)) {
         return {};
+    }
     const ordered_json& state = SelectedItem(element)["state"];
-    if (state.contains("check"))
+    if (state.contains("check")) {
         return state["check"].get<bool>() ? L"checked" : L"not checked";
+    }
     std::wstring light = state["light"].get<bool>() ? L"light on" : L"light off";
-    if (!state.contains("clr"))
+    if (!state.contains("clr")) {
         return light;
+    }
     const auto color = state["clr"].get<COLORREF>();
     CString words;
     words.Format(L"%s, colour #%02X%02X%02X", light.c_str(), GetRValue(color), GetGValue(color), GetBValue(color));
@@ -82,8 +85,9 @@ protected:
     static UINT IdOf(const wchar_t* keyword) {
         for (UINT id = commands::firstHandled + 2000; id <= commands::lastHandled; ++id) {
             std::wstring mark;
-            if (CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(id), mark) && mark == keyword)
+            if (CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(id), mark) && mark == keyword) {
                 return id;
+            }
         }
         throw std::runtime_error("no command has the keyword");
     }
@@ -105,10 +109,12 @@ protected:
     }
 
     std::wstring ValueOf(const ordered_json& element) {
-        if (IsCombo(element))
+        if (IsCombo(element)) {
             return TextIn(SelectedItem(element), "text");
-        if (element.contains("pos"))
+        }
+        if (element.contains("pos")) {
             return std::to_wstring(element["pos"].get<int>());
+        }
         const auto* edit = dynamic_cast<const CMFCRibbonEdit*>(ElementOf(element));
         return edit != nullptr ? static_cast<LPCTSTR>(edit->GetEditText()) : L"";
     }
@@ -117,8 +123,9 @@ protected:
     std::wstring KeysTo(const ordered_json& element) {
         const CMFCRibbonBaseElement* found = ElementOf(element);
         const CString keys = found != nullptr ? found->GetKeyTipText(FALSE) : CString();
-        if (keys.IsEmpty())
+        if (keys.IsEmpty()) {
             return {};
+        }
         const CString tab = Bar().GetActiveCategory()->GetTab().GetKeyTipText(FALSE);
         return std::wstring(L"Alt, ") + static_cast<LPCTSTR>(tab) + L", " + static_cast<LPCTSTR>(keys);
     }
@@ -150,12 +157,14 @@ protected:
         EXPECT_EQ(object.Value(), ValueOf(element));
         EXPECT_EQ(object.Keys(), KeysTo(element));
         m_withKeys += object.Keys().empty() ? 0 : 1;
-        if (!IsGroup(element))
+        if (!IsGroup(element)) {
             return;
+        }
         const auto& members = element["children"];
         ASSERT_EQ(object.ChildCount(), static_cast<long>(members.size()));
-        for (std::size_t place = 0; place < members.size(); ++place)
+        for (std::size_t place = 0; place < members.size(); ++place) {
             ExpectIs(object.ChildAt(static_cast<LONG>(place) + 1), members[place]);
+        }
     }
 
     /// The open menu's rows are the sub-items.
@@ -208,8 +217,9 @@ TEST_F(DemoAccessTest, TheTreeIsTheDumpElementByElement) {
             EXPECT_EQ(grouping.Name(), TextIn(panels[place], "name"));
             const auto& elements = panels[place]["elements"];
             ASSERT_EQ(grouping.ChildCount(), static_cast<long>(elements.size()));
-            for (std::size_t element = 0; element < elements.size(); ++element)
+            for (std::size_t element = 0; element < elements.size(); ++element) {
                 ExpectIs(grouping.ChildAt(static_cast<LONG>(element) + 1), elements[element]);
+            }
         }
     }
     EXPECT_GT(m_compared, 50);
@@ -226,8 +236,9 @@ TEST_F(DemoAccessTest, TheRowsOfEveryMenuAreTheSubItemsOfTheDump) {
         const ordered_json before = Panels();
         for (std::size_t panel = 0; panel < before.size(); ++panel) {
             for (std::size_t place = 0; place < before[panel]["elements"].size(); ++place) {
-                if (!HasMenu(before[panel]["elements"][place]))
+                if (!HasMenu(before[panel]["elements"][place])) {
                     continue;
+                }
                 ++menus;
                 ElementOf(before[panel]["elements"][place])->OnShowPopupMenu();
                 PumpPending();

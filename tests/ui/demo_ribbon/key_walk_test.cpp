@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <deque>
 
-#include "afxRibbonEdit.h"
 #include "afxpopupmenu.h"
 #include "afxribboncombobox.h"
+#include "afxRibbonEdit.h"
 
 namespace {
 
@@ -25,8 +25,9 @@ protected:
     bool IsAnythingOpen() { return AreTipsShown() || CMFCPopupMenu::GetActiveMenu() != nullptr; }
 
     void LeaveAll() {
-        for (int step = 0; step < 10 && (IsAnythingOpen() || Bar().GetFocused() != nullptr); ++step)
+        for (int step = 0; step < 10 && (IsAnythingOpen() || Bar().GetFocused() != nullptr); ++step) {
             Press(VK_ESCAPE);
+        }
         ASSERT_FALSE(IsAnythingOpen());
     }
 
@@ -34,19 +35,22 @@ protected:
     /// is used as one would: a row is chosen by Enter, a text is sent by it, a slider moves by an arrow.
     void Follow(const KeyPath& path) {
         Press(VK_MENU);
-        for (const std::wstring& keys : path)
+        for (const std::wstring& keys : path) {
             Type(keys.c_str());
-        if (AreTipsShown())
+        }
+        if (AreTipsShown()) {
             return;
+        }
         if (DYNAMIC_DOWNCAST(CMFCDropDownListBox, CMFCPopupMenu::GetActiveMenu()) != nullptr) {
             Press({VK_DOWN, VK_RETURN});
             return;
         }
         CMFCRibbonBaseElement* const focused = Bar().GetFocused();
-        if (DYNAMIC_DOWNCAST(CMFCRibbonEdit, focused) != nullptr)
+        if (DYNAMIC_DOWNCAST(CMFCRibbonEdit, focused) != nullptr) {
             Press({'7', VK_RETURN});
-        else if (m_frame->commands.empty())
+        } else if (m_frame->commands.empty()) {
             Press(VK_RIGHT); // a slider, in the bar or in the pop-up of a collapsed panel
+        }
     }
 };
 

@@ -20,12 +20,14 @@ public:
         std::wstring line = L"\"" + folder + EXAMPLE_HOST + L"\" " + language;
         STARTUPINFOW start = {};
         start.cb = sizeof(start);
-        if (::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &m_process))
+        if (::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &m_process)) {
             FindFrame();
+        }
     }
     ~ExampleHost() {
-        if (m_process.hProcess == nullptr)
+        if (m_process.hProcess == nullptr) {
             return;
+        }
         ::TerminateProcess(m_process.hProcess, 99);
         ::CloseHandle(m_process.hThread);
         ::CloseHandle(m_process.hProcess);
@@ -56,8 +58,9 @@ public:
         const std::wstring before = Title();
         RECT client = {};
         ::GetClientRect(Ribbon(), &client);
-        for (LONG x = 4; x < client.right / 4 && Title() == before; x += 8)
+        for (LONG x = 4; x < client.right / 4 && Title() == before; x += 8) {
             Click({x, client.bottom * 3 / 5});
+        }
         return Title();
     }
 
@@ -65,8 +68,9 @@ public:
     DWORD Close() const {
         ::PostMessageW(m_frame, WM_CLOSE, 0, 0);
         DWORD code = STILL_ACTIVE;
-        if (::WaitForSingleObject(m_process.hProcess, kLongestStart) == WAIT_OBJECT_0)
+        if (::WaitForSingleObject(m_process.hProcess, kLongestStart) == WAIT_OBJECT_0) {
             ::GetExitCodeProcess(m_process.hProcess, &code);
+        }
         return code;
     }
 
@@ -80,8 +84,9 @@ private:
         auto* const search = reinterpret_cast<Search*>(parameter);
         DWORD process = 0;
         ::GetWindowThreadProcessId(window, &process);
-        if (process == search->process && ::IsWindowVisible(window) && ::GetDlgItem(window, kRibbonBar) != nullptr)
+        if (process == search->process && ::IsWindowVisible(window) && ::GetDlgItem(window, kRibbonBar) != nullptr) {
             search->found = window;
+        }
         return search->found == nullptr;
     }
 

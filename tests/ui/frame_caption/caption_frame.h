@@ -1,10 +1,10 @@
 #pragma once
 
-#include "afxMDIChildWndEx.h"
-#include "afxMDIFrameWndEx.h"
 #include "afxcontrolbars.h"
 #include "afxframewndex.h"
 #include "afxglobals.h"
+#include "afxMDIChildWndEx.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxribbonbar.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/pointer.h"

@@ -1,5 +1,5 @@
-#include "tests/ui/frame_caption/caption_frame.h"
 #include "frames/maximized_place.h"
+#include "tests/ui/frame_caption/caption_frame.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include "frame_fixture.h"
 
+#include "afxframewndex.h"
 #include "afxMDIFrameWndEx.h"
 #include "afxPane.h"
-#include "afxframewndex.h"
 #include "afxvisualmanager.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "frame_fixture.h"
 
-#include "afxMDIFrameWndEx.h"
 #include "afxframewndex.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxribbonbar.h"
 
 namespace {

@@ -89,8 +89,9 @@ TEST_F(IconButton, NoHandleIsKeptAfterConstructionOrDrawing) {
 TEST_F(IconButton, FileThatWasTriedIsNotReadAgainUntilItChanges) {
     const auto first = MakeButton();
     const std::size_t before = FileIcon::GetReadCount();
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         MakeButton();
+    }
     EXPECT_EQ(FileIcon::GetReadCount(), before);
     m_directory.Write("pic/modle/large.ico", MakeIconFile(32, {blue, blue}) + "longer than before");
     MakeButton();

@@ -92,8 +92,9 @@ protected:
     static void ExpectLoadsReleased() {
         std::vector<HANDLE> loaded;
         for (const Loaded& load : g_loaded) {
-            if (load.icon)
+            if (load.icon) {
                 loaded.push_back(load.icon);
+            }
         }
         std::sort(loaded.begin(), loaded.end());
         std::vector<HANDLE> released = g_released;
@@ -241,8 +242,9 @@ TEST_F(IconCalls, WhatDrawsNothingLoadsNothing) {
     unlinked.CopyFrom(CMFCRibbonUNIcoButton(1, L"", m_large, FALSE, m_small));
     CMFCRibbonUNIcoButton smallOnly(1, L"", CString(), FALSE, m_small);
     Forget();
-    for (CMFCRibbonUNIcoButton* button : {&unlinked, &smallOnly})
+    for (CMFCRibbonUNIcoButton* button : {&unlinked, &smallOnly}) {
         button->DrawImage(m_canvas.Dc(), Large, CRect(10, 20, 64, 64));
+    }
     EXPECT_TRUE(g_loaded.empty());
     EXPECT_TRUE(g_drawn.empty());
 }

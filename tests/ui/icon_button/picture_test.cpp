@@ -99,8 +99,9 @@ protected:
         images.EndDrawImage(state);
         ColourDrawn(button, type);
         for (int y = 0; y < 64; ++y) {
-            for (int x = 0; x < 64; ++x)
+            for (int x = 0; x < 64; ++x) {
                 ASSERT_EQ(m_canvas.At(x, y), m_expected.At(x, y)) << x << ", " << y << " side " << side;
+            }
         }
     }
     Canvas m_expected;
@@ -119,8 +120,9 @@ TEST_F(DisabledPicture, IsThatOfAnImageListInItsDisabledStyle) {
 TEST_F(DisabledPicture, IsThatOfAnImageListInAMirroredContextToo) {
     m_canvas.Dc()->SetLayout(LAYOUT_RTL);
     m_expected.Dc()->SetLayout(LAYOUT_RTL);
-    for (const auto type : {Small, Large})
+    for (const auto type : {Small, Large}) {
         ExpectDisabledAsInAnImageList(type, FALSE);
+    }
     EXPECT_EQ(m_canvas.At(20, 30), Canvas::background) << "the large picture begins 10 pixels from the right edge";
     EXPECT_NE(m_canvas.At(53, 30), Canvas::background);
 }

@@ -134,8 +134,9 @@ TEST_F(CopyOfAMenuButton, OpensAndPaintsWhatItsOriginalStillHas) {
     m_button->RemoveAllSubItems();
     ChurnMemory();
     m_canvas.Clear();
-    if (CMFCRibbonPanelMenu::GetDeepest() != nullptr)
+    if (CMFCRibbonPanelMenu::GetDeepest() != nullptr) {
         PopupBar().DoPaint(m_canvas.Dc());
+    }
     PumpPending();
     EXPECT_EQ(Copy().GetSubItems().GetSize(), 0);
 }

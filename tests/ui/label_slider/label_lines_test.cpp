@@ -37,8 +37,9 @@ protected:
         CRect drawn(side, side, 0, 0);
         for (int y = 0; y < side; ++y) {
             for (int x = 0; x < side; ++x) {
-                if (m_canvas.At(x, y) != red)
+                if (m_canvas.At(x, y) != red) {
                     continue;
+                }
                 drawn = CRect(std::min<LONG>(drawn.left, x), std::min<LONG>(drawn.top, y),
                               std::max<LONG>(drawn.right, x + 1), std::max<LONG>(drawn.bottom, y + 1));
             }

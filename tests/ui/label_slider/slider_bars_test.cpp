@@ -57,8 +57,9 @@ TEST_F(SliderBars, WhereTheRootIsInNoBarAllMoveAndNobodyIsTold) {
     ClickCopyAt(30);
     for (const CMFCRibbonSliderSync* const slider :
          {static_cast<const CMFCRibbonSliderSync*>(&loose), static_cast<const CMFCRibbonSliderSync*>(m_root),
-          static_cast<const CMFCRibbonSliderSync*>(m_copy)})
+          static_cast<const CMFCRibbonSliderSync*>(m_copy)}) {
         EXPECT_EQ(slider->GetPos(), 30);
+    }
     EXPECT_TRUE(m_first.Frame().received.empty());
     EXPECT_TRUE(m_second.Frame().received.empty());
 }
@@ -88,16 +89,18 @@ TEST_F(SliderBars, ASubItemsCopyOnTheQuickAccessToolbarMovesWithTheSubItem) {
     m_first.Bar().GetElementsByID(buttonId, elements);
     CMFCRibbonSliderSync* copy = nullptr;
     for (INT_PTR i = 0; i < elements.GetSize(); ++i) {
-        if (elements[i]->IsQATMode())
+        if (elements[i]->IsQATMode()) {
             copy =
                 DYNAMIC_DOWNCAST(CMFCRibbonSliderSync, dynamic_cast<CMFCRibbonButton&>(*elements[i]).GetSubItems()[0]);
+        }
     }
     ASSERT_NE(copy, nullptr);
     EXPECT_EQ(copy->GetOriginal(), item);
     copy->SetPosSync(12, TRUE);
     for (const CMFCRibbonSliderSync* const slider :
-         {item, static_cast<CMFCRibbonSliderSync*>(m_root), static_cast<CMFCRibbonSliderSync*>(m_copy)})
+         {item, static_cast<CMFCRibbonSliderSync*>(m_root), static_cast<CMFCRibbonSliderSync*>(m_copy)}) {
         EXPECT_EQ(slider->GetPos(), 12);
+    }
     m_copy->SetPosSync(13, TRUE);
     EXPECT_EQ(copy->GetPos(), 13);
     EXPECT_EQ(TipOf(*copy), L"13");

@@ -94,8 +94,9 @@ TEST_F(SliderChain, ASliderIsLinkedOnceAndNeverToItself) {
 
 TEST_F(SliderChain, NeverBecomesARing) {
     MakeChain();
-    for (CMFCRibbonSliderSync* below : {&m_root, &m_first, &m_second})
+    for (CMFCRibbonSliderSync* below : {&m_root, &m_first, &m_second}) {
         m_root.SetOriginal(below);
+    }
     EXPECT_EQ(m_root.GetOriginal(), nullptr);
     for (CMFCRibbonSliderSync* below : {&m_first, &m_second}) {
         m_first.SetOriginal(below);

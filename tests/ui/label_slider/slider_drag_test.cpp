@@ -50,8 +50,9 @@ TEST(SliderDrag, TheRealPointerDragsEveryCopyAlong) {
     EXPECT_EQ(copy.GetPos(), root.GetPos());
     EXPECT_GT(root.GetPos(), 9);
     ASSERT_GE(told.size(), 5u);
-    for (size_t i = 0; i + 1 < told.size(); ++i)
+    for (size_t i = 0; i + 1 < told.size(); ++i) {
         EXPECT_LE(told[i + 1] - told[i], 1) << "no position is left out";
+    }
 }
 
 } // namespace

@@ -23,8 +23,9 @@ public:
     CPoint CenterOf(RibbonSliderPart part) const {
         const CPoint middle = m_rect.CenterPoint();
         for (int x = m_rect.left; x < m_rect.right; ++x) {
-            if (GetPartFromPoint({x, middle.y}) == part && GetPartFromPoint({x + 4, middle.y}) == part)
+            if (GetPartFromPoint({x, middle.y}) == part && GetPartFromPoint({x + 4, middle.y}) == part) {
                 return {x + 2, middle.y};
+            }
         }
         ADD_FAILURE() << "no such part";
         return {};
@@ -33,8 +34,9 @@ public:
     CPoint PointOf(int pos) const {
         const CPoint middle = m_rect.CenterPoint();
         for (int x = m_rect.left; x < m_rect.right; ++x) {
-            if (GetPosFromPoint({x, middle.y}) == pos)
+            if (GetPosFromPoint({x, middle.y}) == pos) {
                 return {x, middle.y};
+            }
         }
         ADD_FAILURE() << "no point shows " << pos;
         return {};

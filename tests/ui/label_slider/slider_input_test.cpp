@@ -20,8 +20,9 @@ TEST_F(SliderInput, ARedrawIsPassedOnToTheRootAndEveryCopy) {
     EXPECT_FALSE(::GetUpdateRect(m_host.BarWindow(), nullptr, FALSE));
     EXPECT_EQ(third.GetPos(), 20);
     m_copy->SetPosSync(30, TRUE);
-    for (const OpenSlider* slider : {m_root, m_copy, &third})
+    for (const OpenSlider* slider : {m_root, m_copy, &third}) {
         EXPECT_TRUE(isDrawnAnew(*slider));
+    }
 }
 
 TEST_F(SliderInput, AHostsNoticeFromTheMiddleOfAChainReachesAllAndIsTheRootsCommand) {

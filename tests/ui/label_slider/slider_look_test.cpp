@@ -63,8 +63,9 @@ protected:
     static bool IsSame(const Canvas& one, const Canvas& other, const CRect& place) {
         for (int y = place.top; y < place.bottom; ++y) {
             for (int x = place.left; x < place.right; ++x) {
-                if (one.At(x, y) != other.At(x, y))
+                if (one.At(x, y) != other.At(x, y)) {
                     return false;
+                }
             }
         }
         return true;
@@ -77,8 +78,9 @@ protected:
         CRect drawn(place.right, place.bottom, place.left, place.top);
         for (int y = place.top; y < place.bottom; ++y) {
             for (int x = place.left; x < place.right; ++x) {
-                if (canvas.At(x, y) == Canvas::background)
+                if (canvas.At(x, y) == Canvas::background) {
                     continue;
+                }
                 drawn = CRect(std::min<LONG>(drawn.left, x), std::min<LONG>(drawn.top, y),
                               std::max<LONG>(drawn.right, x + 1), std::max<LONG>(drawn.bottom, y + 1));
             }
@@ -113,8 +115,9 @@ TEST_P(SliderLook, APartUnderThePointerIsHotAndAPressedOnePressed) {
         m_slider.OnMouseMove(Part(part).CenterPoint());
         const auto hot = Draw();
         EXPECT_FALSE(IsSame(*hot, *cold, Part(part))) << static_cast<int>(part);
-        for (const RibbonSliderPart other : allParts)
+        for (const RibbonSliderPart other : allParts) {
             EXPECT_TRUE(other == part || IsSame(*hot, *cold, Part(other))) << static_cast<int>(other);
+        }
         m_slider.Press(Part(part).CenterPoint());
         EXPECT_FALSE(IsSame(*Draw(), *hot, Part(part))) << static_cast<int>(part);
         m_slider.OnLButtonUp(CPoint(0, 0)); // beside it: nothing is done
@@ -136,8 +139,9 @@ TEST_P(SliderLook, ADisabledSliderShowsNoPartHot) {
 TEST_P(SliderLook, ThumbAndButtonsAreAsLargeAsTheScaleMakesThem) {
     const auto drawn = Draw();
     std::vector<CSize> sizes;
-    for (const RibbonSliderPart part : allParts)
+    for (const RibbonSliderPart part : allParts) {
         sizes.push_back(DrawnIn(*drawn, Part(part)));
+    }
     ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.0));
     m_slider.SetRect(CRect(10, 10, 190, 34));
     const auto plain = Draw();

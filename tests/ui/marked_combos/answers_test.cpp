@@ -52,8 +52,9 @@ TEST_F(Answers, ALightThatIsAllowedForAnotherItemAtTheSamePlaceIsStoredThere) {
     auto& combo = Add<CMFCRibbonMultiCombo>();
     AllowAfter([&] {
         combo.RemoveAll();
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             combo.AddItem(L"other");
+        }
     });
     combo.NotifyChangeData(2, 1, false);
     EXPECT_EQ(LightsOf(combo), "??1") << "states belong to positions";
@@ -109,8 +110,9 @@ TEST_F(Answers, TheHostThatIsAskedForALightSeesTheItemSelectedAndTheOldLight) {
 TEST_F(Answers, TheHostOfAnActionSeesTheRecordAndTheSelectionAlready) {
     auto& twin = Add<CMFCRibbonMultiCombo>(comboId, 0);
     auto& combo = Add<CMFCRibbonMultiCombo>();
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         twin.CMFCRibbonComboBox::AddItem(someItems[i]);
+    }
     std::string seen;
     AllowAfter([&] { seen += LightsOf(combo) + ' ' + std::to_string(combo.GetCurSel()); });
     combo.NotifyChangeData(1, 2, false);
@@ -144,8 +146,9 @@ TEST_F(Answers, AnExclusiveCallDrawsEveryRowOfAnOpenListAnewAndTheFace) {
     CRgn region;
     region.CreateRectRgn(0, 0, 0, 0);
     ::GetUpdateRgn(rows.GetSafeHwnd(), static_cast<HRGN>(region.GetSafeHandle()), FALSE);
-    for (int row = 0; row < 3; ++row)
+    for (int row = 0; row < 3; ++row) {
         EXPECT_TRUE(region.RectInRegion(rows.GetRowRect(row))) << row;
+    }
 }
 
 TEST_F(Answers, ARefusedLightsRowIsDrawnAnewAlsoWhenNoClickAskedForIt) {

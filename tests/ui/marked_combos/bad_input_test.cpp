@@ -92,8 +92,9 @@ TEST_F(BadInput, ATextThatOccursTwiceIsTheFirstItems) {
     auto& multi = Add<CMFCRibbonMultiCombo>();
     auto& light = Add<CMFCRibbonVesMultiCombo>(comboId + 1);
     for (CMFCRibbonComboBox* const combo :
-         {static_cast<CMFCRibbonComboBox*>(&multi), static_cast<CMFCRibbonComboBox*>(&light)})
+         {static_cast<CMFCRibbonComboBox*>(&multi), static_cast<CMFCRibbonComboBox*>(&light)}) {
         combo->AddItem(L"two");
+    }
     EXPECT_TRUE(multi.SetItemLight(L"two", true, true));
     EXPECT_TRUE(light.SetItemLight(L"two", true, true));
     EXPECT_EQ(LightsOf(multi), "?1??");

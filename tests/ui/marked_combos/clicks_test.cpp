@@ -23,8 +23,9 @@ protected:
         Rows()->ValidateRect(nullptr);
         deed();
         CRect rect(0, 0, 0, 0);
-        if (Rows())
+        if (Rows()) {
             ::GetUpdateRect(Rows()->GetSafeHwnd(), &rect, FALSE);
+        }
         return rect;
     }
     /// Higher than its rows.
@@ -115,8 +116,9 @@ TEST_F(ListClicks, WithoutANotifyChildAPressInAZoneIsLikeAnyOther) {
 
 TEST_F(ListClicks, ADoubleClickBelowTheLastRowUnchecksAll) {
     auto& combo = Add<CMFCRibbonCheckComb>();
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         combo.SetItemCheck(i, i != 1);
+    }
     combo.SelectItem(1);
     Open(combo);
     EnlargeList();
@@ -132,8 +134,9 @@ TEST_F(ListClicks, ADoubleClickBelowTheLastRowUnchecksAll) {
 TEST_F(ListClicks, ADoubleClickOnABoxOfAScrolledListSetsAllToTheOppositeOfThatOne) {
     auto& combo = Add<CMFCRibbonCheckComb>(comboId, 0);
     constexpr int count = 300;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         combo.AddItem(std::to_wstring(i).c_str());
+    }
     combo.SetItemCheck(210, true);
     Open(combo);
     const auto allAre = [&](bool wanted) {
@@ -218,8 +221,9 @@ TEST_F(ListClicks, TheFacesCheckColumnReachesFromItsTopToItsBottom) {
     auto& combo = Add<CMFCRibbonCheckComb>();
     combo.SelectItem(1);
     const CRect edit = combo.GetEditRect();
-    for (const LONG y : {edit.top, edit.bottom - 1})
+    for (const LONG y : {edit.top, edit.bottom - 1}) {
         m_pointer.Click(m_host.BarWindow(), CPoint(edit.left + 8, y));
+    }
     EXPECT_EQ(TakeTold(), (Told{"sent CHECK 'two' 1", "sent CHECK 'two' 0"}));
     EXPECT_EQ(Rows(), nullptr);
 }
@@ -252,16 +256,19 @@ TEST_F(ListClicks, AnExclusiveClickChangesEveryCopyAndIsToldOnce) {
     auto& quick = AddToQuickAccess<CMFCRibbonCheckComb>();
     auto& twin = Add<CMFCRibbonCheckComb>(comboId, 0);
     combo.SetItemCheck(1, true);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         twin.CMFCRibbonComboBox::AddItem(someItems[i]);
+    }
     EXPECT_TRUE(quick.NotifyChangeData(1, 0, true));
-    for (const CMFCRibbonCheckComb* const one : {&combo, &quick, &twin})
+    for (const CMFCRibbonCheckComb* const one : {&combo, &quick, &twin}) {
         EXPECT_EQ(ChecksOf(*one), "101");
+    }
     EXPECT_EQ(TakeTold(), (Told{"sent CHECK 'one' 3", "sent CHECK 'three' 3"}));
     Open(combo);
     DoubleClickRow(0, 8);
-    for (const CMFCRibbonCheckComb* const one : {&combo, &quick, &twin})
+    for (const CMFCRibbonCheckComb* const one : {&combo, &quick, &twin}) {
         EXPECT_EQ(ChecksOf(*one), "000") << "the box was checked";
+    }
 }
 
 } // namespace

@@ -78,8 +78,9 @@ protected:
     template <class Combo>
     Combo& Add(UINT id = comboId, int itemCount = 3) {
         Combo& combo = m_host.Add(std::make_unique<Combo>(id, FALSE, 120, L"Label", -1));
-        for (int i = 0; i < itemCount; ++i)
+        for (int i = 0; i < itemCount; ++i) {
             combo.AddItem(someItems[i]);
+        }
         m_host.LayOut();
         return combo;
     }
@@ -93,8 +94,9 @@ protected:
         CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
         m_host.Bar().GetElementsByID(id, elements);
         for (INT_PTR i = 0; i < elements.GetSize(); ++i) {
-            if (elements[i]->IsQATMode())
+            if (elements[i]->IsQATMode()) {
                 return dynamic_cast<Combo&>(*elements[i]);
+            }
         }
         throw std::runtime_error("the quick access toolbar has no such combo");
     }
@@ -103,8 +105,9 @@ protected:
     Told TakeTold() {
         PumpPending();
         Told told;
-        for (const HostMessage& one : m_host.Frame().received)
+        for (const HostMessage& one : m_host.Frame().received) {
             told.push_back(Describe(one));
+        }
         m_host.Frame().received.clear();
         return told;
     }
@@ -122,17 +125,20 @@ protected:
         const CPoint arrow = combo.GetMenuRect().CenterPoint();
         m_pointer.Click(combo.GetParentWnd()->GetSafeHwnd(), arrow);
         PumpPending();
-        if (!Rows())
+        if (!Rows()) {
             throw std::runtime_error("no list is open");
+        }
         return *Rows();
     }
     void ClickRow(int row, int x, int yInRow = 6) {
-        if (CMFCPopupMenuBarEx* const rows = Rows())
+        if (CMFCPopupMenuBarEx* const rows = Rows()) {
             m_pointer.Click(rows->GetSafeHwnd(), CPoint(x, rows->GetRowRect(row).top + yInRow));
+        }
     }
     void DoubleClickRow(int row, int x, int yInRow = 6) {
-        if (CMFCPopupMenuBarEx* const rows = Rows())
+        if (CMFCPopupMenuBarEx* const rows = Rows()) {
             m_pointer.DoubleClick(rows->GetSafeHwnd(), CPoint(x, rows->GetRowRect(row).top + yInRow));
+        }
     }
     void ClickFace(CMFCRibbonComboBox& combo, int x) {
         const CRect edit = combo.GetEditRect();
@@ -140,8 +146,9 @@ protected:
         PumpPending();
     }
     static void Key(UINT key) {
-        if (CMFCPopupMenu* const active = CMFCPopupMenu::GetActiveMenu())
+        if (CMFCPopupMenu* const active = CMFCPopupMenu::GetActiveMenu()) {
             active->OnChainKey(WM_KEYDOWN, key);
+        }
     }
     static std::string ChecksOf(const CMFCRibbonCheckComb& combo) {
         std::string checks;

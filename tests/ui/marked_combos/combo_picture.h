@@ -20,8 +20,9 @@ public:
         m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
         m_pixels = static_cast<std::uint32_t*>(bits);
         std::fill_n(m_pixels, size.cx * size.cy, background);
-        if (draw)
+        if (draw) {
             Draw(CPoint(0, 0), draw);
+        }
     }
     ~ComboPicture() { ::DeleteObject(m_bitmap); }
     ComboPicture(const ComboPicture&) = delete;
@@ -44,8 +45,9 @@ public:
         CRect changed(m_size.cx, m_size.cy, 0, 0);
         for (int y = 0; y < m_size.cy; ++y) {
             for (int x = 0; x < m_size.cx; ++x) {
-                if (At(x, y) == other.At(x, y))
+                if (At(x, y) == other.At(x, y)) {
                     continue;
+                }
                 changed.left = std::min<LONG>(changed.left, x);
                 changed.top = std::min<LONG>(changed.top, y);
                 changed.right = std::max<LONG>(changed.right, x + 1);

@@ -40,8 +40,9 @@ protected:
         m_quick = &AddToQuickAccess<CMFCRibbonMultiCombo>();
         m_twin = &Add<CMFCRibbonMultiCombo>(comboId, 0);
         ASSERT_NE(m_panel, m_quick);
-        for (const wchar_t* const text : {L"one", L"two", L"three"})
+        for (const wchar_t* const text : {L"one", L"two", L"three"}) {
             m_panel->AddItem(text);
+        }
     }
     std::vector<CMFCRibbonMultiCombo*> All() const { return {m_panel, m_quick, m_twin}; }
 
@@ -73,8 +74,9 @@ TEST_F(Copies, TheQuickAccessToolbarsCopyHasSelectionHeightAndSettings) {
 
 TEST_F(Copies, TheQuickAccessToolbarsCopyOfAComboWithTheStaticHeightDropsInThat) {
     auto& combo = Add<CMFCRibbonCheckComb>(comboId + 1, 0);
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         combo.AddItem(L"item");
+    }
     combo.UserStaticDropDownHeight(true);
     combo.SetStaticDropDownHeight(250);
     auto& quick = AddToQuickAccess<CMFCRibbonCheckComb>(comboId + 1);
@@ -111,8 +113,9 @@ TEST_F(Copies, ALightSetOnAnyOneIsSetOnAll) {
     int index = 0;
     for (CMFCRibbonMultiCombo* const one : All()) {
         one->SetItemLight(index++, true, false);
-        for (const CMFCRibbonMultiCombo* const other : All())
+        for (const CMFCRibbonMultiCombo* const other : All()) {
             EXPECT_EQ(LightsOf(*other), LightsOf(*m_panel));
+        }
     }
     EXPECT_EQ(LightsOf(*m_panel), "111");
     m_quick->SetItemLight(L"two", false, true);
@@ -121,8 +124,9 @@ TEST_F(Copies, ALightSetOnAnyOneIsSetOnAll) {
 
 TEST_F(Copies, ItemsAddedToOneAreAddedToAllAndSoIsTheEndOfAll) {
     m_panel->RemoveAll();
-    for (const CMFCRibbonMultiCombo* const one : All())
+    for (const CMFCRibbonMultiCombo* const one : All()) {
         EXPECT_EQ(one->GetCount(), 0);
+    }
     m_quick->AddItem(L"new", 42);
     m_twin->AddItem(L"newer", 43);
     for (const CMFCRibbonMultiCombo* const one : All()) {
@@ -183,11 +187,13 @@ TEST_F(RibbonCombos, EachCopysOperationRunsOnce) {
         one->redraws = 0;
     }
     quick.SetItemClr(0, RGB(1, 2, 3), true);
-    for (const CountingCombo* const one : {&panel, &quick, &twin})
+    for (const CountingCombo* const one : {&panel, &quick, &twin}) {
         EXPECT_EQ(one->redraws, 1);
+    }
     twin.SetItemLight(0, true, false);
-    for (const CountingCombo* const one : {&panel, &quick, &twin})
+    for (const CountingCombo* const one : {&panel, &quick, &twin}) {
         EXPECT_EQ(one->redraws, 1) << "none was asked for";
+    }
     panel.SetItemInfo(0, RGB(4, 5, 6), true, false);
     EXPECT_EQ(panel.redraws, 1);
 }

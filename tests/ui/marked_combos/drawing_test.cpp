@@ -202,8 +202,9 @@ TEST_F(ComboDrawing, TheTextOfARowBeginsThreePixelsBehindTheMarks) {
         int first = -1;
         for (int x = 0; x < empty.right && first < 0; ++x) {
             for (int y = 0; y < height && first < 0; ++y) {
-                if (list.At(x, y) != list.At(x, y + height))
+                if (list.At(x, y) != list.At(x, y + height)) {
                     first = x;
+                }
             }
         }
         EXPECT_GE(first, one.textLeft);
@@ -251,8 +252,9 @@ TEST_F(ComboDrawing, ARowHasNoLineTowardsTheNext) {
     Rows()->SetHotRow(-1);
     const ComboPicture list = List();
     const CRect row = Rows()->GetRowRect(0);
-    for (int y = row.top; y < row.bottom + 1; ++y)
+    for (int y = row.top; y < row.bottom + 1; ++y) {
         EXPECT_EQ(list.At(60, y), 0xFFFFFFu) << y;
+    }
 }
 
 TEST_F(ComboDrawing, TextsAreTranslatedWhenTheyAreDrawnAndToldAsTheyWereGiven) {
@@ -266,8 +268,9 @@ TEST_F(ComboDrawing, TextsAreTranslatedWhenTheyAreDrawnAndToldAsTheyWereGiven) {
                           {Add<CMFCRibbonMultiCombo>(comboId + 1, 0), 25, "sent LIGHT 'two' 1"},
                           {Add<CMFCRibbonVesMultiCombo>(comboId + 2, 0), 8, "sent LIGHT-ONLY 'two' 1"}};
     for (const auto& [combo, markAt, told] : cases) {
-        for (const wchar_t* const text : {L"two", L"<two>"})
+        for (const wchar_t* const text : {L"two", L"<two>"}) {
             combo.AddItem(text);
+        }
         combo.SelectItem(1);
         const ComboPicture wanted = Face(combo);
         combo.SelectItem(0);
@@ -280,8 +283,9 @@ TEST_F(ComboDrawing, TextsAreTranslatedWhenTheyAreDrawnAndToldAsTheyWereGiven) {
         const ComboPicture list = List();
         const CRect first = Rows()->GetRowRect(0);
         for (int y = first.top; y < first.bottom; ++y) {
-            for (int x = 0; x < first.right; ++x)
+            for (int x = 0; x < first.right; ++x) {
                 ASSERT_EQ(list.At(x, y), list.At(x, y + first.Height())) << "both rows read alike";
+            }
         }
         ClickRow(0, markAt);
         EXPECT_EQ(TakeTold(), Told{told});
@@ -342,8 +346,9 @@ TEST_F(ComboDrawing, AMirroredWindowShowsTheMarksAtTheRight) {
     });
     const CRect edit = InFace(combo, combo.GetEditRect());
     const int middle = (edit.top + edit.bottom) / 2;
-    for (const int x : {3, 4, 9, 14, 15})
+    for (const int x : {3, 4, 9, 14, 15}) {
         EXPECT_EQ(mirrored.At(width - 1 - (edit.left + x), middle), plain.At(edit.left + x, middle)) << x;
+    }
 }
 
 TEST_F(ComboDrawing, AListBelowAMirroredBarEndsAtTheEditAreasVisibleEdge) {
@@ -364,8 +369,9 @@ TEST_F(ComboDrawing, AListBelowAMirroredBarEndsAtTheEditAreasVisibleEdge) {
 TEST_F(ComboDrawing, OutrageousItemsAreDrawnInOneLine) {
     auto& combo = Add<CMFCRibbonMultiCombo>(comboId, 0);
     const CString longText(L'W', 100000);
-    for (const wchar_t* const text : {longText.GetString(), L"two\r\nlines", L"two  lines"})
+    for (const wchar_t* const text : {longText.GetString(), L"two\r\nlines", L"two  lines"}) {
         combo.AddItem(text);
+    }
     combo.SelectItem(0);
     Face(combo);
     combo.SelectItem(1);
@@ -393,8 +399,9 @@ protected:
     template <class Combo>
     void Prepare(Combo& combo) {
         for (const wchar_t* const text : {L"Coastlines", L"Depth contours", L"Shipping lanes",
-                                          L"Weather, every six hours", L"\x6D77\x56FE", L"A & B"})
+                                          L"Weather, every six hours", L"\x6D77\x56FE", L"A & B"}) {
             combo.AddItem(text);
+        }
         combo.SelectItem(1);
         m_host.LayOut();
     }
@@ -454,8 +461,9 @@ TEST_P(ComboGallery, FacesAndListsCanBeRead) {
     sheet.Save(std::wstring(L"combos-") + GetParam().name + L".png");
     int swatches = 0;
     for (int y = 0; y < sheet.Size().cy; ++y) {
-        for (int x = 0; x < sheet.Size().cx; ++x)
+        for (int x = 0; x < sheet.Size().cx; ++x) {
             swatches += sheet.At(x, y) == ToPixel(colors[1]) ? 1 : 0;
+        }
     }
     EXPECT_GE(swatches, 5 * 9 * 9) << "four faces and a row show the second colour";
 }

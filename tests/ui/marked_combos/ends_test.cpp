@@ -114,8 +114,9 @@ TYPED_TEST(Ends, MouseMessagesThatAreUnderWayFindNoListAnyMore) {
     auto& combo = this->AddKind();
     const HWND rows = this->Open(combo).GetSafeHwnd();
     const LPARAM onMark = MAKELPARAM(8, 8);
-    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK})
+    for (const UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK}) {
         ::PostMessageW(rows, message, 0, onMark);
+    }
     this->Remove(combo);
     this->ExpectQuietEnd();
 }
@@ -184,8 +185,9 @@ TYPED_TEST(Ends, AClickThatReachesTheRowsAfterTheComboHasGoneDoesNothing) {
     const HWND rows = this->Open(combo).GetSafeHwnd();
     this->WhenItCloses([&] {
         this->Remove(combo);
-        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK})
+        for (const UINT message : {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK}) {
             ::SendMessageW(rows, message, 0, MAKELPARAM(8, 8));
+        }
     });
     CMFCPopupMenu::CloseAll();
     EXPECT_EQ(this->m_deeds, 1);
@@ -198,8 +200,9 @@ TYPED_TEST(Ends, TheHostMayRemoveTheComboWhenNoRowIsHotAnyMore) {
     this->Key(VK_DOWN);
     this->m_host.Frame().listensTo = [](UINT message) { return message == AFX_WM_HIGHLIGHT_RIBBON_LIST_ITEM; };
     this->m_host.Frame().onMessage = [&](const HostMessage& one) {
-        if (static_cast<int>(one.wParam) == -1 && this->m_deeds++ == 0)
+        if (static_cast<int>(one.wParam) == -1 && this->m_deeds++ == 0) {
             this->Remove(combo);
+        }
         return 0;
     };
     combo.RemoveAll();

@@ -60,8 +60,9 @@ TYPED_TEST(Faces, EveryMarkTakesClicksToItsEdgesAndTheListOpensBeyondThem) {
             }
             for (const CPoint outside : {CPoint(mark.left - 1, mark.top), CPoint(mark.right, mark.top),
                                          CPoint(mark.left, mark.top - 1), CPoint(mark.left, mark.bottom)}) {
-                if (!combo.GetEditRect().PtInRect(outside))
+                if (!combo.GetEditRect().PtInRect(outside)) {
                     continue; // of the check column, which is as high as the edit area
+                }
                 EXPECT_EQ(this->ToldAt(combo, outside), Told{});
                 EXPECT_TRUE(this->wasOpened);
             }
@@ -87,12 +88,14 @@ TYPED_TEST(Faces, WithAnEditBoxNoClickIsTheMarks) {
     combo.AddItem(L"one");
     combo.SelectItem(0);
     this->Answer(allowed);
-    for (const CRect& mark : this->MarksOf(combo))
+    for (const CRect& mark : this->MarksOf(combo)) {
         EXPECT_EQ(this->ToldAt(combo, mark.CenterPoint()), Told{});
-    if constexpr (TestFixture::isCheck)
+    }
+    if constexpr (TestFixture::isCheck) {
         EXPECT_EQ(this->ChecksOf(combo), "?");
-    else
+    } else {
         EXPECT_EQ(this->LightsOf(combo), "?");
+    }
 }
 
 TYPED_TEST(Faces, TheTextThatIsToldIsTheOneThatTheFaceShows) {

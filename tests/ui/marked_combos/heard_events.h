@@ -31,8 +31,9 @@ public:
 
 private:
     static void CALLBACK OnEvent(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG child, DWORD, DWORD) {
-        if (window == s_window && object == OBJID_CLIENT && child != CHILDID_SELF)
+        if (window == s_window && object == OBJID_CLIENT && child != CHILDID_SELF) {
             s_events.push_back(event);
+        }
     }
 
     static inline HWND s_window = nullptr;

@@ -20,8 +20,9 @@ protected:
         return comma == std::wstring::npos ? words : words.substr(comma + 2);
     }
     static void Type(const wchar_t* text) {
-        for (; *text; ++text)
+        for (; *text; ++text) {
             CMFCPopupMenu::GetActiveMenu()->OnChainKey(WM_CHAR, *text);
+        }
     }
     static bool MustDraw(int row) {
         CRect waiting;
@@ -91,8 +92,9 @@ TYPED_TEST(EveryMarkedCombo, TheOpenListIsAsWideAsTheLongestTextThatIsSeen) {
         return client.Width();
     };
     const int alone = width();
-    for (int i = 0; i < 400; ++i)
+    for (int i = 0; i < 400; ++i) {
         this->m_combo.AddItem(L"iiiiiii");
+    }
     EXPECT_EQ(width(), alone);
 }
 
@@ -100,8 +102,9 @@ TEST_F(HeardCombos, ATextFieldIsHeardAsItStandsThere) {
     const TranslatedInstallation installation;
     ASSERT_TRUE(installation.Translate("one two three", "Common"));
     auto& combo = m_host.Add(std::make_unique<CMFCRibbonCheckComb>(comboId, TRUE, 120, L"Label", -1));
-    for (const wchar_t* item : {L"one", L"two", L"three"})
+    for (const wchar_t* item : {L"one", L"two", L"three"}) {
         combo.AddItem(item);
+    }
     m_host.LayOut();
     combo.SelectItem(1);
     EXPECT_EQ(FaceOf(combo).m_strValue, L"two");

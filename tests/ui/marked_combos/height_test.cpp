@@ -87,8 +87,9 @@ void ResizeOpenList(int height) {
 
 int HeightOfOpenList() {
     CRect rect(0, 0, 0, 0);
-    if (CMFCPopupMenu* const list = CMFCPopupMenu::GetActiveMenu())
+    if (CMFCPopupMenu* const list = CMFCPopupMenu::GetActiveMenu()) {
         list->GetWindowRect(&rect);
+    }
     return rect.Height();
 }
 
@@ -97,8 +98,9 @@ TYPED_TEST(StaticHeight, AUsersResizeOfOneListIsTheNextHeightOfAllThatUseIt) {
     auto& second = this->template Add<TypeParam>(comboId + 1, 0);
     auto& alone = this->template Add<TypeParam>(comboId + 2, 0);
     for (TypeParam* const combo : {&first, &second, &alone}) {
-        for (int i = 0; i < 200; ++i)
+        for (int i = 0; i < 200; ++i) {
             combo->AddItem(L"item");
+        }
         combo->EnableDropDownListResize(TRUE);
         combo->SetDropDownHeight(200);
     }
@@ -130,8 +132,9 @@ TYPED_TEST(StaticHeight, AUsersResizeOfOneListIsTheNextHeightOfAllThatUseIt) {
 
 TYPED_TEST(StaticHeight, IsSetByADragOfTheListsGrip) {
     auto& combo = this->template Add<TypeParam>(comboId, 0);
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         combo.AddItem(L"item");
+    }
     combo.EnableDropDownListResize(TRUE);
     combo.UserStaticDropDownHeight(true);
     combo.SetStaticDropDownHeight(300);
@@ -152,8 +155,9 @@ TYPED_TEST(StaticHeight, IsSetByADragOfTheListsGrip) {
 
 TYPED_TEST(StaticHeight, IsSetByADragOfTheGripOfAListThatOpensUpwards) {
     auto& combo = this->template Add<TypeParam>(comboId, 0);
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         combo.AddItem(L"item");
+    }
     combo.EnableDropDownListResize(TRUE);
     combo.UserStaticDropDownHeight(true);
     combo.SetStaticDropDownHeight(300);
@@ -184,8 +188,9 @@ TYPED_TEST(StaticHeight, AnItemAddedToTheOpenListIsNoResize) {
     combo.UserStaticDropDownHeight(true);
     this->Open(combo);
     const int before = HeightOfOpenList();
-    for (int i = 0; i < 5; ++i)
+    for (int i = 0; i < 5; ++i) {
         combo.AddItem(L"more");
+    }
     EXPECT_GT(HeightOfOpenList(), before) << "the list takes the items up";
     EXPECT_EQ(TypeParam::m_nStaticDropDownHeight, 560);
     EXPECT_EQ(combo.GetDropDownHeight(), 560);
@@ -195,8 +200,9 @@ TYPED_TEST(StaticHeight, AnItemAddedToTheOpenListIsNoResize) {
 
 TEST_F(RibbonCombos, ALightOnlyListKeepsItsHeightToItself) {
     auto& combo = Add<CMFCRibbonVesMultiCombo>(comboId, 0);
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         combo.AddItem(L"item");
+    }
     combo.EnableDropDownListResize(TRUE);
     combo.SetDropDownHeight(200);
     Open(combo);

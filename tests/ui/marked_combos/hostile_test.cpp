@@ -85,12 +85,13 @@ const Trigger triggers[] = {
 };
 
 void ClearAll(CMFCRibbonComboBox& combo) {
-    if (auto* const check = dynamic_cast<CMFCRibbonCheckComb*>(&combo))
+    if (auto* const check = dynamic_cast<CMFCRibbonCheckComb*>(&combo)) {
         check->RemoveAll();
-    else if (auto* const multi = dynamic_cast<CMFCRibbonMultiCombo*>(&combo))
+    } else if (auto* const multi = dynamic_cast<CMFCRibbonMultiCombo*>(&combo)) {
         multi->RemoveAll();
-    else
+    } else {
         dynamic_cast<CMFCRibbonVesMultiCombo&>(combo).RemoveAll();
+    }
 }
 
 const Deed deeds[] = {
@@ -104,8 +105,9 @@ const Deed deeds[] = {
     {"ClearsTheItems", [](Scene& scene) { ClearAll(*scene.combo); }},
     {"AddsItems",
      [](Scene& scene) {
-         for (int i = 0; i < 50; ++i)
+         for (int i = 0; i < 50; ++i) {
              scene.combo->AddItem(L"more");
+         }
      }},
     {"ClosesTheList", [](Scene&) { CMFCPopupMenu::CloseAll(); }},
     {"OpensTheList", [](Scene& scene) { scene.combo->DropDownList(); }},
@@ -114,8 +116,9 @@ const Deed deeds[] = {
     {"EntersTheDispatcher", [](Scene&) { CMenuEvtHandleMgr::Ins()->MenuClick(41000); }},
     {"ClicksAgain",
      [](Scene& scene) {
-         if (scene.deeds < 4)
+         if (scene.deeds < 4) {
              scene.Notify(0, true);
+         }
      }},
     {"PumpsMessages", [](Scene&) { PumpPending(); }},
 };
@@ -132,8 +135,9 @@ std::vector<Case> AllCases() {
     std::vector<Case> cases;
     for (const Kind kind : {Kind::Check, Kind::Multi, Kind::LightOnly}) {
         for (const Trigger& trigger : triggers) {
-            for (const Deed& deed : deeds)
+            for (const Deed& deed : deeds) {
                 cases.push_back({kind, &trigger, &deed});
+            }
         }
     }
     return cases;
@@ -157,16 +161,18 @@ protected:
         LeaveForeground();
         Pointer pointer;
         Scene scene{host, pointer, &MakeCombo(host, one.kind)};
-        for (const wchar_t* const item : someItems)
+        for (const wchar_t* const item : someItems) {
             scene.combo->AddItem(item);
+        }
         scene.combo->SelectItem(1);
         host.LayOut();
         host.Frame().carriesText = CarriesText;
         host.Frame().listensTo = [](UINT message) { return std::ranges::count(ComboMessages(), message) != 0; };
         host.Frame().onMessage = [&](const HostMessage&) {
             ++scene.deeds;
-            if (scene.IsAlive())
+            if (scene.IsAlive()) {
                 one.deed->run(scene);
+            }
             return 1;
         };
         one.trigger->run(scene);
@@ -186,8 +192,9 @@ TEST_P(HostileHost, EveryMessageMayBeTheEndOfEverything) {
     constexpr char letters[] = {'C', 'M', 'L'};
     const char letter = letters[static_cast<int>(GetParam())];
     for (const Case& one : AllCases()) {
-        if (one.kind != GetParam())
+        if (one.kind != GetParam()) {
             continue;
+        }
         SCOPED_TRACE(std::string(one.trigger->name) + ": the host " + one.deed->name);
         const CountedFaults faults;
         EXPECT_EQ(RunCase(one) > 0, std::string_view(one.trigger->tells).find(letter) != std::string_view::npos);

@@ -57,8 +57,9 @@ TEST_F(MarkKeys, ShiftAndSpaceDoWhatAClickOnTheHotRowsSwatchDoes) {
     Key(VK_DOWN);
     bool wasOpen = true;
     m_host.Frame().onMessage = [&](const HostMessage& one) {
-        if (one.message == WM_COMBO_COLOR_PICK)
+        if (one.message == WM_COMBO_COLOR_PICK) {
             wasOpen = Rows() != nullptr;
+        }
         return 0;
     };
     ShiftSpace();
@@ -100,10 +101,11 @@ TYPED_TEST(EveryKey, EnterChoosesTheHotRowClosesTheListAndSwitchesNothing) {
     EXPECT_EQ(this->Rows(), nullptr);
     EXPECT_EQ(combo.GetCurSel(), 2);
     EXPECT_EQ(this->TakeTold(), Told{"sent COMMAND 700"});
-    if constexpr (std::is_same_v<TypeParam, CMFCRibbonCheckComb>)
+    if constexpr (std::is_same_v<TypeParam, CMFCRibbonCheckComb>) {
         EXPECT_EQ(this->ChecksOf(combo), "???");
-    else
+    } else {
         EXPECT_EQ(this->LightsOf(combo), "???");
+    }
 }
 
 TYPED_TEST(EveryKey, EscapeClosesTheListAndLeavesSelectionAndMarksAlone) {
@@ -122,10 +124,11 @@ TYPED_TEST(EveryKey, EscapeClosesTheListAndLeavesSelectionAndMarksAlone) {
     EXPECT_EQ(this->Rows(), nullptr);
     EXPECT_EQ(this->TakeTold(), Told{});
     EXPECT_EQ(combo.GetCurSel(), 1) << "the row whose mark was switched, not the hot one";
-    if constexpr (std::is_same_v<TypeParam, CMFCRibbonCheckComb>)
+    if constexpr (std::is_same_v<TypeParam, CMFCRibbonCheckComb>) {
         EXPECT_EQ(this->ChecksOf(combo), "?1?") << "what was switched stays so";
-    else
+    } else {
         EXPECT_EQ(this->LightsOf(combo), "?1?") << "what was switched stays so";
+    }
 }
 
 TEST_F(MarkKeys, WithoutAHotRowNoKeyAsksForAColour) {
@@ -142,8 +145,9 @@ TEST_F(MarkKeys, TheComboMayGoInTheCommandThatShiftAndSpaceSend) {
     combo.SelectItem(1);
     Open(combo);
     m_host.Frame().onMessage = [&](const HostMessage& one) {
-        if (one.message == WM_COMMAND)
+        if (one.message == WM_COMMAND) {
             m_host.Bar().RemoveAllCategories();
+        }
         return 0;
     };
     ShiftSpace();

@@ -39,10 +39,11 @@ protected:
     static ComboPicture Drawn(LightState state, int side, bool isScaled = true) {
         return ComboPicture(CSize(40, 40), [=](CDC& dc) {
             const marks::Rect place{4, 4, 4 + side, 4 + side};
-            if (isScaled)
+            if (isScaled) {
                 DrawLightScaled(dc, place, state);
-            else
+            } else {
                 DrawLight(dc, place, state);
+            }
         });
     }
     static ComboPicture Empty() { return ComboPicture(CSize(40, 40)); }
@@ -157,14 +158,16 @@ TEST_F(LightImages, DrawingLeavesNothingBehind) {
     ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(2.0));
     Drawn(LightState::On, 26);
     EXPECT_TRUE(LeavesNothingBehind([] {
-        for (int i = 0; i < 10; ++i)
+        for (int i = 0; i < 10; ++i) {
             Drawn(LightState::On, 26);
+        }
     }));
     List().DeleteImageList();
     FillAsHost(13, {red, blue});
     EXPECT_TRUE(LeavesNothingBehind([] {
-        for (int i = 0; i < 10; ++i)
+        for (int i = 0; i < 10; ++i) {
             Drawn(LightState::Off, 26);
+        }
     }));
 }
 

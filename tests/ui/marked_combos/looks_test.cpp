@@ -38,8 +38,9 @@ protected:
     static bool IsSame(const ComboPicture& one, const ComboPicture& other, const CRect& place) {
         for (int y = place.top; y < place.bottom; ++y) {
             for (int x = place.left; x < place.right; ++x) {
-                if (one.At(x, y) != other.At(x, y))
+                if (one.At(x, y) != other.At(x, y)) {
                     return false;
+                }
             }
         }
         return true;
@@ -60,12 +61,13 @@ protected:
         Combo& combo = Add<Combo>(comboId, 0);
         combo.AddItem(blocks);
         combo.SelectItem(0);
-        if constexpr (hasSwatch)
+        if constexpr (hasSwatch) {
             combo.SetItemInfo(0, orange, true, false);
-        else if constexpr (hasBox)
+        } else if constexpr (hasBox) {
             combo.SetItemCheck(0, true);
-        else
+        } else {
             combo.SetItemLight(0, true, false);
+        }
         return combo;
     }
     /// A square on the face within the first mark, where nothing of the background shines through.
@@ -177,9 +179,10 @@ TEST_F(ComboLooks, AnItemWithoutARecordShowsTheOffImageOnFaceAndInRow) {
             const LONG top = (&one.combo == &multi) ? middle - 7 : area.top + (area.Height() - 13) / 2;
             const ComboPicture wanted = off(6);
             for (int y = 0; y < 13; ++y) {
-                for (int x = 0; x < 13; ++x)
+                for (int x = 0; x < 13; ++x) {
                     ASSERT_EQ(picture->At(static_cast<int>(area.left) + one.left + x, top + y), wanted.At(x, y))
                         << one.left << ": " << x << ' ' << y;
+                }
             }
         }
         CMFCPopupMenu::CloseAll();
@@ -255,8 +258,9 @@ TEST_F(MirroredList, ShowsTheMarksAtTheRight) {
     const CRect row = Rows()->GetRowRect(1);
     const int middle = row.CenterPoint().y;
     EXPECT_EQ(plain.At(8, middle), ToPixel(orange));
-    for (int x = 0; x < 18; ++x)
+    for (int x = 0; x < 18; ++x) {
         EXPECT_EQ(mirrored.At(ListSize().cx - 1 - x, middle), plain.At(x, middle)) << x;
+    }
     mirrored.Save(L"combo-list-mirrored.png");
 }
 

@@ -10,8 +10,9 @@ class ManyItems : public RibbonCombos {
 protected:
     Combo& AddFilled(UINT id, int count) {
         Combo& combo = Add<Combo>(id, 0);
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count; ++i) {
             combo.AddItem(std::to_wstring(i).c_str());
+        }
         return combo;
     }
     double OpenSeconds(Combo& combo) {

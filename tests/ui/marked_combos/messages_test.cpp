@@ -178,10 +178,12 @@ TEST_F(RibbonCombos, OtherZonesAreNotHandled) {
     auto& light = Add<CMFCRibbonVesMultiCombo>(comboId + 1);
     multi.SelectItem(0);
     light.SelectItem(0);
-    for (const int zone : {3, 4, -1, INT_MAX, INT_MIN})
+    for (const int zone : {3, 4, -1, INT_MAX, INT_MIN}) {
         EXPECT_FALSE(multi.NotifyChangeData(1, zone, ordinary)) << zone;
-    for (const int zone : {1, 2, 3, -1, INT_MAX})
+    }
+    for (const int zone : {1, 2, 3, -1, INT_MAX}) {
         EXPECT_FALSE(light.NotifyChangeData(1, zone, ordinary)) << zone;
+    }
     EXPECT_EQ(multi.GetCurSel(), 0);
     EXPECT_EQ(light.GetCurSel(), 0);
     EXPECT_EQ(TakeTold(), Told{});
@@ -267,8 +269,9 @@ TEST_F(RibbonCombos, ADoubleClickOnAnUncheckedBoxChecksAll) {
 
 TEST_F(RibbonCombos, ADoubleClickOnACheckedBoxUnchecksAll) {
     auto& combo = Add<CMFCRibbonCheckComb>();
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         combo.SetItemCheck(i, true);
+    }
     Open(combo);
     DoubleClickRow(0, 8);
     EXPECT_EQ(ChecksOf(combo), "000");
@@ -301,8 +304,9 @@ TEST_F(RibbonCombos, ASwatchClickClosesTheListAndThenTheHostIsAsked) {
     Open(combo);
     bool wasOpen = true;
     m_host.Frame().onMessage = [&](const HostMessage& one) {
-        if (one.message == WM_COMBO_COLOR_PICK)
+        if (one.message == WM_COMBO_COLOR_PICK) {
             wasOpen = Rows() != nullptr;
+        }
         return 0;
     };
     ClickRow(1, 5);
@@ -355,8 +359,9 @@ TEST_F(RibbonCombos, InTheLightOnlyListTheLeftZoneSwitchesAndTheRightOneChooses)
 
 TEST_F(RibbonCombos, InALongListEveryRowsZoneIsHitAlsoWhenItIsScrolled) {
     auto& combo = Add<CMFCRibbonCheckComb>(comboId, 0);
-    for (int i = 0; i < 500; ++i)
+    for (int i = 0; i < 500; ++i) {
         combo.AddItem(L"item");
+    }
     Open(combo);
     Rows()->SetHotRow(321);
     PumpPending();
@@ -475,8 +480,9 @@ TEST_F(RibbonCombos, ADisabledFaceTakesNoClick) {
           static_cast<CMFCRibbonComboBox*>(&light)}) {
         combo->SelectItem(0);
         combo->SetDisabled(TRUE);
-        for (const int x : {8, 25, 80})
+        for (const int x : {8, 25, 80}) {
             combo->OnLButtonDown(CPoint(combo->GetEditRect().left + x, combo->GetEditRect().CenterPoint().y));
+        }
         combo->DropDownList();
         EXPECT_EQ(Rows(), nullptr);
     }

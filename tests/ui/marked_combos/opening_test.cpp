@@ -19,8 +19,9 @@ public:
 
 protected:
     std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override {
-        if (!hasMemory)
+        if (!hasMemory) {
             throw std::bad_alloc();
+        }
         return hasList ? Combo::MakeDropDownList() : nullptr;
     }
 };
@@ -148,8 +149,9 @@ TYPED_TEST(Opening, TheListIsTheCombosAndItsOwnersAndShowsItsItemsInLines) {
 
 TYPED_TEST(Opening, AListThatMayBeResizedTakesNoLessThanTwoLines) {
     TypeParam& combo = this->template Add<TypeParam>(comboId, 0);
-    for (int i = 0; i < 50; ++i)
+    for (int i = 0; i < 50; ++i) {
         combo.AddItem(L"item");
+    }
     combo.SetDropDownHeight(200);
     combo.EnableDropDownListResize(TRUE);
     this->Open(combo);

@@ -50,8 +50,9 @@ TEST_F(CollapsedPanel, ASwatchClickClosesBothBeforeTheHostIsAsked) {
     Open(*m_multi);
     bool wasOpen = true;
     m_host.Frame().onMessage = [&](const HostMessage& one) {
-        if (one.message == WM_COMBO_COLOR_PICK)
+        if (one.message == WM_COMBO_COLOR_PICK) {
             wasOpen = Rows() != nullptr || IsPanelOpen();
+        }
         return 0;
     };
     ClickRow(0, 5);

@@ -34,8 +34,9 @@ public:
     /// The smallest rectangle that differs from the other row.
     CRect DifferenceTo(const DrawnRow& other) const {
         CRect changed = m_picture.DifferenceTo(other.m_picture);
-        if (!changed.IsRectEmpty())
+        if (!changed.IsRectEmpty()) {
             changed.OffsetRect(0, -top);
+        }
         return changed;
     }
 
@@ -62,8 +63,9 @@ TEST_F(ComboRows, ARowOfTwentyPixelsHasItsSwatchFromThreeToSixteenAndItsLightFro
     EXPECT_LE(light.bottom, 16);
     const ComboPicture own(CSize(13, 13), [](CDC& dc) { DrawLight(dc, {0, 0, 13, 13}, LightState::On); });
     for (int y = 0; y < 13; ++y) {
-        for (int x = 0; x < 13; ++x)
+        for (int x = 0; x < 13; ++x) {
             ASSERT_EQ(on.At(19 + x, 3 + y), own.At(x, y)) << x << ' ' << y;
+        }
     }
 }
 

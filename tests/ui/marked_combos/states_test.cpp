@@ -23,8 +23,9 @@ bool GetMark(const CMFCRibbonVesMultiCombo& combo, int index, bool& value) { ret
 
 TYPED_TEST(EveryCombo, AddItemAnswersOneForEveryItem) {
     TypeParam combo(comboId, FALSE);
-    for (int i = 0; i < 10; ++i)
+    for (int i = 0; i < 10; ++i) {
         EXPECT_EQ(combo.AddItem(L"item"), 1) << i;
+    }
     EXPECT_EQ(combo.GetCount(), 10);
 }
 
@@ -43,8 +44,9 @@ TYPED_TEST(EveryCombo, ANewItemHasItsTextAndDataAndNoState) {
 TYPED_TEST(EveryCombo, ASetterNeedsAnItem) {
     TypeParam combo(comboId, FALSE);
     EXPECT_FALSE(SetMark(combo, 0, true)) << "no items";
-    for (const wchar_t* const item : someItems)
+    for (const wchar_t* const item : someItems) {
         combo.AddItem(item);
+    }
     EXPECT_TRUE(SetMark(combo, 0, true));
     EXPECT_TRUE(SetMark(combo, 3, true));
     for (const int index : {-1, 4, 5, INT_MAX, INT_MIN}) {
@@ -56,8 +58,9 @@ TYPED_TEST(EveryCombo, ASetterNeedsAnItem) {
 
 TYPED_TEST(EveryCombo, AGetterOfAPositionThatWasNeverSetLeavesTheVariableAlone) {
     TypeParam combo(comboId, FALSE);
-    for (const wchar_t* const item : someItems)
+    for (const wchar_t* const item : someItems) {
         combo.AddItem(item);
+    }
     SetMark(combo, 1, false);
     for (const int index : {-1, 0, 2, 4, INT_MAX}) {
         for (const bool before : {false, true}) {
@@ -73,8 +76,9 @@ TYPED_TEST(EveryCombo, AGetterOfAPositionThatWasNeverSetLeavesTheVariableAlone) 
 
 TYPED_TEST(EveryCombo, StatesOutliveTheItems) {
     TypeParam combo(comboId, FALSE);
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         combo.AddItem(someItems[i]);
+    }
     SetMark(combo, 1, true);
     SetMark(combo, 2, false);
     combo.RemoveAll();
@@ -82,8 +86,9 @@ TYPED_TEST(EveryCombo, StatesOutliveTheItems) {
     bool value = false;
     EXPECT_TRUE(GetMark(combo, 1, value)) << "read without a look at the items";
     EXPECT_FALSE(SetMark(combo, 1, false)) << "but not set without one";
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         combo.AddItem(L"another");
+    }
     EXPECT_TRUE(GetMark(combo, 1, value));
     EXPECT_TRUE(value);
     EXPECT_TRUE(GetMark(combo, 2, value));
@@ -93,8 +98,9 @@ TYPED_TEST(EveryCombo, StatesOutliveTheItems) {
 
 TYPED_TEST(EveryCombo, StatesDoNotMoveWithTheItems) {
     TypeParam combo(comboId, FALSE);
-    for (const wchar_t* const item : someItems)
+    for (const wchar_t* const item : someItems) {
         combo.AddItem(item);
+    }
     SetMark(combo, 2, true);
     combo.DeleteItem(0);
     bool value = false;
@@ -132,8 +138,9 @@ TYPED_TEST(EveryCombo, ANewMapOfTypeKeysReplacesTheOldOne) {
 
 TYPED_TEST(EveryCombo, ACopyTakesItemsStatesAndTypeKeys) {
     TypeParam combo(comboId, FALSE, 90, L"Label");
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 3; ++i) {
         combo.AddItem(someItems[i], 10 + static_cast<DWORD_PTR>(i));
+    }
     SetMark(combo, 1, true);
     combo.setTypeKeyName2Index({{L"k", 1}});
     combo.SelectItem(2);
@@ -188,8 +195,10 @@ TYPED_TEST(EveryCombo, IsMadeByItsNameAndIsBothAComboAndAReceiverOfClicks) {
 TYPED_TEST(EveryCombo, OutrageousTextsAreItemsLikeAnyOther) {
     TypeParam& combo = this->template Add<TypeParam>(comboId, 0);
     const CString longText(L'x', 100000);
-    for (const wchar_t* const text : {L"", longText.GetString(), L"two\nlines", L"two\nlines", L"tab\there", L"a & b"})
+    for (const wchar_t* const text :
+         {L"", longText.GetString(), L"two\nlines", L"two\nlines", L"tab\there", L"a & b"}) {
         EXPECT_EQ(combo.AddItem(text), 1);
+    }
     EXPECT_EQ(combo.AddItem(nullptr), 1);
     EXPECT_EQ(combo.GetCount(), 6) << "null is no text";
     EXPECT_EQ(CString(combo.GetItem(1)).GetLength(), 100000);

@@ -31,12 +31,15 @@ protected:
         const CRect work = MonitorWork();
         const CRect edit = EditOnScreen(combo);
         CSize by(0, 0);
-        if (GetParam().edge == Edge::Left)
+        if (GetParam().edge == Edge::Left) {
             by.cx = work.left - edit.right + 10;
-        if (GetParam().edge == Edge::Right || GetParam().edge == Edge::BottomRight)
+        }
+        if (GetParam().edge == Edge::Right || GetParam().edge == Edge::BottomRight) {
             by.cx = work.right - edit.left - 10;
-        if (GetParam().edge == Edge::Bottom || GetParam().edge == Edge::BottomRight)
+        }
+        if (GetParam().edge == Edge::Bottom || GetParam().edge == Edge::BottomRight) {
             by.cy = work.bottom - edit.bottom - 5;
+        }
         CRect frame;
         m_host.Frame().GetWindowRect(&frame);
         m_host.Frame().SetWindowPos(nullptr, frame.left + by.cx, frame.top + by.cy, 0, 0,
@@ -47,8 +50,9 @@ protected:
 
 TEST_P(WorkArea, AListStaysInsideWhereItsComboDoesNot) {
     auto& combo = Add<CMFCRibbonMultiCombo>(comboId, 0);
-    for (int i = 0; i < 60; ++i)
+    for (int i = 0; i < 60; ++i) {
         combo.AddItem(L"An item whose text is longer than the combo is wide");
+    }
     if (GetParam().isMirrored) {
         m_host.Bar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
         m_host.LayOut();

@@ -111,8 +111,9 @@ TEST_P(ZoneEdges, ALightOnlyCombosZonesKeepTheIconsSizeWhateverTheScale) {
         if (icon + 4 < rowHeight) {
             EXPECT_EQ(ToldByClick(combo, 1, 3, icon + 4), chosen) << "below";
         }
-        for (const int x : {icon + 6, 2 * icon + 5})
+        for (const int x : {icon + 6, 2 * icon + 5}) {
             EXPECT_EQ(ToldByClick(combo, 1, x, 6), chosen) << "the second zone switches nothing";
+        }
     }
     EXPECT_EQ(LightsOf(combo), "?0?") << "eight clicks";
 }

@@ -78,8 +78,9 @@ TEST_F(PopupMenuSizeTest, SmallTurnsOfTheWheelAddUpToWhatOneLargeTurnScrolls) {
     EXPECT_GT(offset, 0);
     turn(40);
     ASSERT_EQ(bar.GetOffset(), 0);
-    for (int part = 0; part < 40; ++part)
+    for (int part = 0; part < 40; ++part) {
         turn(-1);
+    }
     EXPECT_EQ(bar.GetOffset(), offset);
 }
 

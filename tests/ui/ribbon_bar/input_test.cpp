@@ -44,12 +44,14 @@ TEST_F(RibbonBarTest, ANotchInManySmallTurnsMovesOneCategory) {
         Bar().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(delta)), MAKELPARAM(point.x, point.y));
         return Bar().GetCategoryIndex(Bar().GetActiveCategory());
     };
-    for (const int delta : {-30, -30, -30})
+    for (const int delta : {-30, -30, -30}) {
         EXPECT_EQ(turn(delta), 0);
+    }
     EXPECT_EQ(turn(-30), 1);
     EXPECT_EQ(m_frame->categoryChanges, 1);
-    for (const int delta : {-30, -30, -30, 30, 30, 30})
+    for (const int delta : {-30, -30, -30, 30, 30, 30}) {
         EXPECT_EQ(turn(delta), 1) << "the other way starts anew";
+    }
     EXPECT_EQ(turn(30), 0);
     EXPECT_EQ(turn(-90), 0);
     m_pointer.MoveTo(Bar(), CenterOf(commands::paste));

@@ -4,9 +4,9 @@
 
 #include <numeric>
 
+#include "afxribboncheckbox.h"
 #include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
-#include "afxribboncheckbox.h"
 #include "afxribbonslider.h"
 #include "fx/registered_messages.h"
 #include "tests/support/collapsed_panel.h"

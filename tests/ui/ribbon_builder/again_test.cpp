@@ -25,8 +25,9 @@ protected:
     }
     std::string Visible() const {
         std::string visible;
-        for (int i = 0; i < m_bar.GetCategoryCount(); ++i)
+        for (int i = 0; i < m_bar.GetCategoryCount(); ++i) {
             visible += m_bar.GetCategory(i)->IsVisible() ? '1' : '0';
+        }
         return visible;
     }
     std::vector<UINT> Ids(const std::vector<const wchar_t*>& keywords) const {

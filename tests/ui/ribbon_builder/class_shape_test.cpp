@@ -160,8 +160,9 @@ TEST(HostInterface, EveryClassThatTheFrameworkMakesIsKnownByItsName) {
     EXPECT_STREQ(RUNTIME_CLASS(LightOnly)->m_lpszClassName, "CMFCRibbonVesMultiCombo");
     for (const char* name : {"CMFCRibbonUNIcoButton", "CMFCRibbonSmallButton", "CMFCRibbonCategoryEx",
                              "CMFCRibbonCheckComb", "CMFCRibbonMultiCombo", "CMFCRibbonVesMultiCombo",
-                             "CMFCCheckDropDown", "CMFCPopupMenuBarEx", "CMFCRibbonLabelEx", "CMFCRibbonSliderSync"})
+                             "CMFCCheckDropDown", "CMFCPopupMenuBarEx", "CMFCRibbonLabelEx", "CMFCRibbonSliderSync"}) {
         EXPECT_NE(CRuntimeClass::FromName(name), nullptr) << name;
+    }
 }
 
 } // namespace

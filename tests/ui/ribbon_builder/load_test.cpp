@@ -94,8 +94,9 @@ TEST_F(RibbonBuilder, RefusedFileShowsTheMessageAndLosesNothing) {
     const std::string whole = "<ribbon>" + twoCategories + "</ribbon>";
     std::vector<std::string> refused = {"", "<ribbon>", std::string("<ribbon>\0</ribbon>", 18),
                                         "<?xml version='1.0' encoding='no-such'?><ribbon/>"};
-    for (std::size_t length = 0; length < whole.size(); length += 50)
+    for (std::size_t length = 0; length < whole.size(); length += 50) {
         refused.push_back(whole.substr(0, length));
+    }
     for (const std::string& bytes : refused) {
         directory.Write("refused.xml", bytes);
         EXPECT_FALSE(m_builder.Load(L"refused.xml", &m_bar, 0)) << bytes;
@@ -336,9 +337,10 @@ TEST_F(RibbonBuilder, FiveThousandButtonsAreBuilt) {
     for (int c = 0; c < 50; ++c) {
         const std::string category = std::to_string(c);
         rows += "<c KEYWORD='C" + category + "'><p KEYWORD='P'>";
-        for (int e = 0; e < 100; ++e)
+        for (int e = 0; e < 100; ++e) {
             rows +=
                 "<e KEYWORD='K" + category + "_" + std::to_string(e) + "' TYPE='BUTTON' PICPATH='pic\\missing.ico'/>";
+        }
         rows += "</p></c>";
     }
     ASSERT_TRUE(Load(rows + "</r>"));

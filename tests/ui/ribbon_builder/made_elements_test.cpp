@@ -120,8 +120,9 @@ TEST_F(RibbonBuilder, F1HintIsGivenToButtonsWhoseOwnerAndRecordWantIt) {
 
 TEST_F(RibbonBuilder, F1HintIsForButtonsOnly) {
     for (const wchar_t* type :
-         {L"slider", L"label", L"edit", L"qkRibbonCheckComb", L"qkRibbonMultiComb", L"qkRibbonMultiComb2"})
+         {L"slider", L"label", L"edit", L"qkRibbonCheckComb", L"qkRibbonMultiComb", L"qkRibbonMultiComb2"}) {
         EXPECT_EQ(Make(InfoOf(type), &m_builder)->GetDescription(), L"") << type;
+    }
 }
 
 TEST_F(RibbonBuilder, SliderIsAsWideAsConfiguredOrFifty) {
@@ -173,8 +174,9 @@ std::unique_ptr<Combo> MakeCombo(const wchar_t* type) {
     std::unique_ptr<CMFCRibbonBaseElement> made = Make(info);
     auto* const combo = DYNAMIC_DOWNCAST(Combo, made.get());
     EXPECT_NE(combo, nullptr);
-    if (combo)
+    if (combo) {
         static_cast<void>(made.release());
+    }
     return std::unique_ptr<Combo>(combo);
 }
 
@@ -213,8 +215,9 @@ TEST_F(RibbonBuilder, ALightOnlyComboKeepsItsDropDownHeight) {
 }
 
 TEST_F(RibbonBuilder, UnknownTypesMakeNothing) {
-    for (const wchar_t* type : {L"", L"lamp", L"GROUP", L"BUTTON ", L"buttons", L"qkRibbonMultiComb3", L"CheckComb"})
+    for (const wchar_t* type : {L"", L"lamp", L"GROUP", L"BUTTON ", L"buttons", L"qkRibbonMultiComb3", L"CheckComb"}) {
         EXPECT_EQ(Make(InfoOf(type)), nullptr) << type;
+    }
 }
 
 } // namespace

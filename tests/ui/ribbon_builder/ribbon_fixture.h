@@ -8,11 +8,11 @@
 #include "tests/support/translation_tables.h"
 #include "tests/support/ui_test.h"
 
-#include <afxRibbonEdit.h>
-#include <afxRibbonLabel.h>
 #include <afxframewndex.h>
 #include <afxribbonbar.h>
 #include <afxribbonbuttonsgroup.h>
+#include <afxRibbonEdit.h>
+#include <afxRibbonLabel.h>
 #include <afxribbonslider.h>
 
 #include <varnhold/message_box.h>
@@ -46,8 +46,9 @@ protected:
         m_firstId = static_cast<int>(CMenuIdMgr::s_AddBeginID);
     }
     void TearDown() override {
-        if (m_frame.GetSafeHwnd())
+        if (m_frame.GetSafeHwnd()) {
             m_frame.DestroyWindow();
+        }
     }
 
     /// Writes the file below the installation directory and loads it. `rows` stands below the document element.
@@ -77,13 +78,15 @@ protected:
         for (int c = 0; c < m_bar.GetCategoryCount(); ++c) {
             CMFCRibbonCategory* const category = m_bar.GetCategory(c);
             out += L"[" + std::wstring(category->GetName());
-            if (const auto* extended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, category))
+            if (const auto* extended = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, category)) {
                 out += L" " + IdText(extended->GetID());
+            }
             for (int p = 0; p < category->GetPanelCount(); ++p) {
                 CMFCRibbonPanel* const panel = category->GetPanel(p);
                 out += L" (" + std::wstring(panel->GetName());
-                for (int e = 0; e < panel->GetCount(); ++e)
+                for (int e = 0; e < panel->GetCount(); ++e) {
                     out += L" " + Describe(panel->GetElement(e));
+                }
                 out += L")";
             }
             out += L"]";
@@ -95,23 +98,28 @@ protected:
     std::wstring Describe(CMFCRibbonBaseElement* element) const {
         const std::string name = element->GetRuntimeClass()->m_lpszClassName;
         std::wstring out(name.begin() + static_cast<int>(name.starts_with("CMFCRibbon") ? 10 : 0), name.end());
-        if (element->IsSeparator())
+        if (element->IsSeparator()) {
             return out;
+        }
         std::wstring keyword;
-        if (CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(element->GetID()), keyword))
+        if (CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(element->GetID()), keyword)) {
             out += L" " + keyword + L" " + IdText(element->GetID());
+        }
         if (auto* const group = DYNAMIC_DOWNCAST(CMFCRibbonButtonsGroup, element)) {
             out += L"{";
-            for (int i = 0; i < group->GetCount(); ++i)
+            for (int i = 0; i < group->GetCount(); ++i) {
                 out += (i ? L", " : L"") + Describe(group->GetButton(i));
+            }
             return out + L"}";
         }
         auto* const button = DYNAMIC_DOWNCAST(CMFCRibbonButton, element);
-        if (!button || button->GetSubItems().GetSize() == 0)
+        if (!button || button->GetSubItems().GetSize() == 0) {
             return out;
+        }
         out += L"{";
-        for (INT_PTR i = 0; i < button->GetSubItems().GetSize(); ++i)
+        for (INT_PTR i = 0; i < button->GetSubItems().GetSize(); ++i) {
             out += (i ? L", " : L"") + Describe(button->GetSubItems()[i]);
+        }
         return out + L"}";
     }
 
@@ -119,16 +127,18 @@ protected:
     std::wstring HelpOf(const std::wstring& keyword) const {
         int id = 0;
         std::wstring help;
-        if (CMenuIdMgr::Ins()->GetMenuId(keyword, id))
+        if (CMenuIdMgr::Ins()->GetMenuId(keyword, id)) {
             CMenuIdMgr::Ins()->GetHelpFile(id, help);
+        }
         return help;
     }
     std::vector<UINT> QuickAccessIds() {
         CommandList commands;
         m_bar.GetQuickAccessCommands(commands);
         std::vector<UINT> ids = commands.Ids();
-        for (UINT& id : ids)
+        for (UINT& id : ids) {
             id -= static_cast<UINT>(m_firstId);
+        }
         return ids;
     }
 

@@ -44,8 +44,9 @@ protected:
     }
     void LoadTwelveButtons() {
         std::string elements;
-        for (int index = 0; index < 12; ++index)
+        for (int index = 0; index < 12; ++index) {
             elements += "<e KEYWORD='" + std::to_string(index) + "' TYPE='BUTTON' PICPATH='pic\\modle\\a.ico'/>";
+        }
         ASSERT_TRUE(Load(Panel(elements)));
         m_frame.RecalcLayout();
     }
@@ -53,8 +54,9 @@ protected:
         CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
         m_bar.GetElementsByID(Element(0)->GetID(), elements);
         for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
-            if (elements[index]->IsQATMode())
+            if (elements[index]->IsQATMode()) {
                 return elements[index];
+            }
         }
         return nullptr;
     }
@@ -67,8 +69,9 @@ protected:
         int count = 0;
         const CRect rect = element.GetRect();
         for (int y = rect.top; y < rect.bottom; ++y) {
-            for (int x = rect.left; x < rect.right; ++x)
+            for (int x = rect.left; x < rect.right; ++x) {
                 count += canvas.At(x, y) == colour ? 1 : 0;
+            }
         }
         return count;
     }
@@ -161,14 +164,17 @@ std::string ManyButtons(int count) {
     std::string rows = "<r>";
     for (int index = 0; index < count; ++index) {
         const std::string number = std::to_string(index);
-        if (index % 100 == 0)
+        if (index % 100 == 0) {
             rows += (index > 0 ? "</c>" : "") + ("<c KEYWORD='C" + number) + "'>";
-        if (index % 10 == 0)
+        }
+        if (index % 10 == 0) {
             rows += "<p KEYWORD='P" + number + "'>";
+        }
         rows += "<e KEYWORD='K" + number + "' TYPE='BUTTON' PICPATH='pic\\modle\\" + std::to_string(index % 20) +
                 ".ico' SIZE='" + (index % 4 == 0 ? "32" : "16") + "'/>";
-        if (index % 10 == 9)
+        if (index % 10 == 9) {
             rows += "</p>";
+        }
     }
     return rows + "</c></r>";
 }

@@ -61,8 +61,9 @@ TEST_F(RibbonDrawing, ThePointerFromPanelToPanelRepaintsThoseTwoPanels) {
     m_log = {};
     MoveTo(Button(3, 0));
     EXPECT_EQ(m_log.draws, 2 * buttonsInAPanel);
-    for (int button = 0; button < buttonsInAPanel; ++button)
+    for (int button = 0; button < buttonsInAPanel; ++button) {
         EXPECT_FALSE(m_log.places.contains(&Button(1, button)) || m_log.places.contains(&Button(2, button)));
+    }
 }
 
 TEST_F(RibbonDrawing, ThePointerAtRestRepaintsNothing) {
@@ -82,13 +83,15 @@ TEST_F(RibbonDrawing, EveryPixelBelongsToTheElementThatWasDrawnThere) {
             for (int x = area.left; x < area.right; ++x) {
                 const CMFCRibbonBaseElement* drawn = nullptr;
                 for (const auto& [element, rect] : m_log.places) {
-                    if (rect.PtInRect(CPoint(x, y)))
+                    if (rect.PtInRect(CPoint(x, y))) {
                         drawn = element;
+                    }
                 }
                 CMFCRibbonBaseElement* hit = Bar().HitTest(CPoint(x, y), TRUE);
                 // A collapsed panel's button stands for the panel and is no probe.
-                if (dynamic_cast<ProbeButton*>(hit) == nullptr)
+                if (dynamic_cast<ProbeButton*>(hit) == nullptr) {
                     hit = nullptr;
+                }
                 ASSERT_EQ(hit, drawn) << "width " << width << " at " << x << ", " << y;
             }
         }

@@ -16,8 +16,9 @@ struct DrawnText {
 };
 
 inline std::ostream& operator<<(std::ostream& out, const DrawnText& text) {
-    for (const wchar_t letter : text.text)
+    for (const wchar_t letter : text.text) {
         out << (letter < 128 ? static_cast<char>(letter) : '?');
+    }
     return out << " at " << text.place.left << ',' << text.place.top << '-' << text.place.right << ','
                << text.place.bottom << " within " << text.shown.left << ',' << text.shown.top << '-' << text.shown.right
                << ',' << text.shown.bottom;
@@ -50,18 +51,20 @@ inline std::vector<DrawnText> TextsDrawnBy(const std::function<void(CDC&)>& draw
             ::RestoreDC(dc, saved);
             const UINT align = ::GetTextAlign(dc);
             POINT at{call->emrtext.ptlReference.x, call->emrtext.ptlReference.y};
-            if ((align & TA_CENTER) == TA_CENTER)
+            if ((align & TA_CENTER) == TA_CENTER) {
                 at.x -= size.cx / 2;
-            else if ((align & TA_RIGHT) == TA_RIGHT)
+            } else if ((align & TA_RIGHT) == TA_RIGHT) {
                 at.x -= size.cx;
+            }
             text.place = CRect(CPoint(at), CSize(size));
             text.shown = text.place;
             if ((call->emrtext.fOptions & ETO_CLIPPED) != 0) {
                 const RECTL& clip = call->emrtext.rcl;
                 text.shown = CRect(clip.left, clip.top, clip.right, clip.bottom);
             }
-            if (!text.text.empty())
+            if (!text.text.empty()) {
                 reinterpret_cast<std::vector<DrawnText>*>(result)->push_back(std::move(text));
+            }
         }
         ::PlayEnhMetaFileRecord(dc, table, entry, static_cast<UINT>(handles));
         return 1;

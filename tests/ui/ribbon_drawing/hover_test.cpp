@@ -21,8 +21,9 @@ protected:
         PumpPending();
     }
     void Turn(CWnd& window) const {
-        if (GetParam() == Direction::RightToLeft)
+        if (GetParam() == Direction::RightToLeft) {
             window.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+        }
         window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     }
     ProbeButton* MakeButton() { return new ProbeButton(m_log, m_nextId++, L"Button"); }
@@ -66,8 +67,9 @@ TEST_P(RibbonHover, FromButtonToButtonOfThePanelDrawsThoseTwoAndNothingMore) {
 TEST_P(RibbonHover, FromRowToRowOfAPopUpDrawsThoseTwoAndNothingMore) {
     auto* opener = new CMFCRibbonButton(kFirst - 1, L"Opener");
     std::vector<CMFCRibbonBaseElement*> rows;
-    for (int index = 0; index < kButtons; ++index)
+    for (int index = 0; index < kButtons; ++index) {
         opener->AddSubItem(static_cast<CMFCRibbonBaseElement*>(rows.emplace_back(MakeButton())));
+    }
     Bar().GetCategory(0)->GetPanel(0)->Add(opener);
     Bar().RecalcLayout();
     opener->OnShowPopupMenu();

@@ -1,6 +1,6 @@
 // Texts are looked up at every paint: after a language switch a repaint shows the new ones, and nothing runs over.
-#include "tests/support/temporary_directory.h"
 #include "tests/support/icon_writer.h"
+#include "tests/support/temporary_directory.h"
 #include "tests/support/translation_tables.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
@@ -43,8 +43,9 @@ protected:
     void PaintOnce() { Bar().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
     std::vector<CRect> Places() const {
         std::vector<CRect> places;
-        for (int index = 0; index < m_panel->GetCount(); ++index)
+        for (int index = 0; index < m_panel->GetCount(); ++index) {
             places.push_back(m_panel->GetElement(index)->GetRect());
+        }
         return places;
     }
 
@@ -70,8 +71,9 @@ TEST_F(LanguageSwitch, ARepaintChangesNoPixelOutsideOfTheElements) {
     for (int y = 0; y < client.Height(); ++y) {
         for (int x = 0; x < client.Width(); ++x) {
             const auto pixel = static_cast<size_t>(y) * static_cast<size_t>(client.Width()) + static_cast<size_t>(x);
-            if (before[pixel] == after[pixel])
+            if (before[pixel] == after[pixel]) {
                 continue;
+            }
             bool isInside = false;
             for (size_t index = 0; index < places.size(); ++index) {
                 isInside = isInside || places[index].PtInRect(CPoint(x, y));
@@ -80,8 +82,9 @@ TEST_F(LanguageSwitch, ARepaintChangesNoPixelOutsideOfTheElements) {
             ASSERT_TRUE(isInside) << x << ", " << y;
         }
     }
-    for (const int count : changed)
+    for (const int count : changed) {
         EXPECT_GT(count, 0) << "the new text did not show";
+    }
 }
 
 TEST_F(LanguageSwitch, TheTextsGetTheirRoomWithTheNextPaint) {

@@ -14,8 +14,9 @@ struct Places {
     std::vector<bool> collapsed;
     bool operator==(const Places&) const = default;
     friend std::ostream& operator<<(std::ostream& out, const Places& places) {
-        for (const CRect& rect : places.rects)
+        for (const CRect& rect : places.rects) {
             out << rect.left << ',' << rect.top << '-' << rect.right << ',' << rect.bottom << ' ';
+        }
         return out;
     }
 };
@@ -32,8 +33,9 @@ protected:
         for (const CMFCRibbonPanel* panel : Panels()) {
             places.rects.push_back(panel->GetRect());
             places.collapsed.push_back(panel->IsCollapsed() != FALSE && !panel->GetRect().IsRectEmpty());
-            for (const CMFCRibbonBaseElement* element : ElementsOf(*panel))
+            for (const CMFCRibbonBaseElement* element : ElementsOf(*panel)) {
                 places.rects.push_back(element->GetRect());
+            }
         }
         return places;
     }
@@ -42,8 +44,9 @@ protected:
         std::erase_if(rects, [](const CRect& rect) { return rect.IsRectEmpty(); });
         for (std::size_t one = 0; one < rects.size(); ++one) {
             ASSERT_TRUE(CRect(area & rects[one]) == rects[one]) << "outside";
-            for (std::size_t other = one + 1; other < rects.size(); ++other)
+            for (std::size_t other = one + 1; other < rects.size(); ++other) {
                 ASSERT_TRUE(CRect(rects[one] & rects[other]).IsRectEmpty()) << one << " over " << other;
+            }
         }
     }
     void ExpectInOrder() const {
@@ -53,8 +56,9 @@ protected:
             CRect content = panel->GetRect();
             content.bottom = panel->GetCaptionRect().top;
             std::vector<CRect> elements;
-            for (const CMFCRibbonBaseElement* element : ElementsOf(*panel))
+            for (const CMFCRibbonBaseElement* element : ElementsOf(*panel)) {
                 elements.push_back(element->GetRect());
+            }
             ASSERT_NO_FATAL_FAILURE(ExpectApartAndInside(elements, content));
         }
         rects.push_back(m_category->ScrollLeftRect());
@@ -76,8 +80,9 @@ protected:
     void ExpectVisibleOnesToHavePlaces() const {
         CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
         m_category->GetVisibleElements(elements);
-        for (INT_PTR index = 0; index < elements.GetSize(); ++index)
+        for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
             ASSERT_FALSE(elements[index]->GetRect().IsRectEmpty()) << CString(elements[index]->GetText()).GetString();
+        }
     }
     void CheckEveryWidth(int step) {
         std::vector<int> narrower(Panels().size(), 0);
@@ -89,8 +94,9 @@ protected:
             ASSERT_NO_FATAL_FAILURE(ExpectReachable());
             ASSERT_NO_FATAL_FAILURE(ExpectVisibleOnesToHavePlaces());
             const std::vector<int> widths = PanelWidths();
-            for (std::size_t panel = 0; panel < widths.size(); ++panel)
+            for (std::size_t panel = 0; panel < widths.size(); ++panel) {
                 ASSERT_GE(widths[panel], narrower[panel]) << panel;
+            }
             narrower = widths;
         }
     }
@@ -101,8 +107,9 @@ protected:
     }
     std::vector<int> PanelWidths() const {
         std::vector<int> widths;
-        for (const CMFCRibbonPanel* panel : Panels())
+        for (const CMFCRibbonPanel* panel : Panels()) {
             widths.push_back(panel->GetRect().Width());
+        }
         return widths;
     }
 };
@@ -119,14 +126,17 @@ TEST_P(RibbonLayout, AWidthGivesTheSamePlacesWhicheverWayItWasReached) {
         SetWidth(width);
         ASSERT_EQ(CurrentPlaces(), upwards[static_cast<std::size_t>(width - kNarrowest)]) << width;
     };
-    for (int width = kWidest; width >= kNarrowest; --width)
+    for (int width = kWidest; width >= kNarrowest; --width) {
         ASSERT_NO_FATAL_FAILURE(expectSame(width));
+    }
     std::mt19937 random(GetParam());
-    for (int jump = 0; jump < 500; ++jump)
+    for (int jump = 0; jump < 500; ++jump) {
         ASSERT_NO_FATAL_FAILURE(expectSame(kNarrowest + static_cast<int>(random() % (kWidest - kNarrowest + 1))));
+    }
     std::set<std::vector<bool>> states;
-    for (const Places& places : upwards)
+    for (const Places& places : upwards) {
         states.insert(places.collapsed);
+    }
     EXPECT_GT(states.size(), 2u) << "the widths did not change much";
 }
 
@@ -183,8 +193,9 @@ TEST_P(RibbonLayout, TheRowOfTabsAndTheQuickAccessToolbarAreHitWhereTheyAreDrawn
     for (const int width : {1000, 420}) {
         SetWidth(width);
         std::map<const CMFCRibbonBaseElement*, CRect> places;
-        for (int index = 0; index < Bar().GetCategoryCount(); ++index)
+        for (int index = 0; index < Bar().GetCategoryCount(); ++index) {
             places[&Bar().GetCategory(index)->GetTab()] = Bar().GetCategory(index)->GetTabRect();
+        }
         const int bottom = m_category->GetRect().top;
         for (int y = 0; y < bottom; ++y) {
             for (int x = 0; x < width; ++x) {
@@ -202,8 +213,9 @@ TEST_P(RibbonLayout, TheRowOfTabsAndTheQuickAccessToolbarAreHitWhereTheyAreDrawn
 
 TEST_P(RibbonLayout, AScrolledCategoryDependsOnTheWidthAloneUntilEverythingFits) {
     // Panels enough to scroll at several widths.
-    for (int more = 0; more < 12; ++more)
+    for (int more = 0; more < 12; ++more) {
         m_category->AddPanel(L"Another")->Add(new Probe<CMFCRibbonLabel>(m_log, L"A label that takes some room"));
+    }
     Bar().RecalcLayout();
     const auto scrolls = [this] {
         return !m_category->ScrollLeftRect().IsRectEmpty() || !m_category->ScrollRightRect().IsRectEmpty();

@@ -34,9 +34,10 @@ protected:
         const CString large = file(32), small = file(16);
         CMFCRibbonCategory* category = Bar().AddCategory(L"Icons", 0, 0);
         CMFCRibbonPanel* panel = category->AddPanel(L"Panel");
-        for (UINT i = 0; i < 2; ++i)
+        for (UINT i = 0; i < 2; ++i) {
             panel->Add(new CMFCRibbonUNIcoButton(i == 0 ? commands::noHandler : commands::firstHandled + 2000 + i,
                                                  L"Button", large, FALSE, small, TRUE, FALSE, FALSE));
+        }
         Bar().SetActiveCategory(category);
         Bar().RecalcLayout();
         Bar().SendMessage(WM_IDLEUPDATECMDUI, TRUE);

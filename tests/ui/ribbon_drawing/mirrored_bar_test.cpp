@@ -33,8 +33,9 @@ protected:
             Bar().GetCategory(category)->SetName(L"");
             for (int panel = 0; panel < Bar().GetCategory(category)->GetPanelCount(); ++panel) {
                 CMFCRibbonPanel& shown = *Bar().GetCategory(category)->GetPanel(panel);
-                for (int index = 0; index < shown.GetCount(); ++index)
+                for (int index = 0; index < shown.GetCount(); ++index) {
                     shown.GetElement(index)->SetText(L"");
+                }
             }
         }
     }
@@ -66,13 +67,15 @@ TEST_P(MirroredBar, EveryPixelButThoseOfTextsIsTheMirrorImages) {
     const CSize size = straight->Size();
     for (int y = 0; y < captions; ++y) {
         for (int x = 0; x < size.cx; ++x) {
-            if (straight->At(x, y) != mirrored->At(size.cx - 1 - x, y))
+            if (straight->At(x, y) != mirrored->At(size.cx - 1 - x, y)) {
                 wrong[ElementAt(CPoint(x, y))] |= CRect(x, y, x + 1, y + 1);
+            }
         }
     }
-    for (const auto& [element, rect] : wrong)
+    for (const auto& [element, rect] : wrong) {
         ADD_FAILURE() << element << ": " << rect.left << ", " << rect.top << " to " << rect.right << ", "
                       << rect.bottom;
+    }
 }
 
 // Where pictures are stretched to whole multiples of half their size they stay their own mirror images.

@@ -35,9 +35,11 @@ public:
     std::vector<int> RedColumns(int row) const {
         ::GdiFlush();
         std::vector<int> columns;
-        for (int x = 0; x < kWidth; ++x)
-            if ((m_bits[row * kWidth + x] & 0xFFFFFF) == 0xFF0000)
+        for (int x = 0; x < kWidth; ++x) {
+            if ((m_bits[row * kWidth + x] & 0xFFFFFF) == 0xFF0000) {
                 columns.push_back(x);
+            }
+        }
         return columns;
     }
 
@@ -72,8 +74,9 @@ TEST(MirroredCanvas, PictureIsTurnedRound) {
     {
         const visual::Canvas canvas(drawn.Dc(), kPlace);
         ASSERT_FALSE(canvas.IsEmpty());
-        for (int y = 0; y < canvas.View().height; ++y)
+        for (int y = 0; y < canvas.View().height; ++y) {
             canvas.View().bits[y * canvas.View().width] = kMarked; // the first column
+        }
     }
     EXPECT_EQ(drawn.RedColumns(5), std::vector<int>{kWidth - 1 - static_cast<int>(kPlace.left)});
 }

@@ -11,8 +11,9 @@ class NarrowBar : public RandomRibbon, public testing::WithParamInterface<int> {
 protected:
     NarrowBar() : RandomRibbon(GetParam() / 100.0) {
         Bar().SetApplicationButton(&m_application, CSize(44, 24));
-        for (const LPCTSTR name : {L"One", L"Another", L"The third", L"The last"})
+        for (const LPCTSTR name : {L"One", L"Another", L"The third", L"The last"}) {
             Bar().AddCategory(name, 0, 0);
+        }
         Fill(static_cast<unsigned>(GetParam()));
         m_category->AddPanel(CString(L'w', 40))->Add(new CMFCRibbonButton(commands::paste, L"Button"));
         m_category->AddPanel(L"Wide content")->Add(new CMFCRibbonEdit(commands::size, 500));
@@ -36,8 +37,9 @@ protected:
         do {
             for (CMFCRibbonPanel* panel : Panels()) {
                 const bool isHit = panel->IsCollapsed() ? IsHit(panel->GetDefaultButton()) : AllAreHit(*panel);
-                if (IsInsideBar(panel->GetRect()) && isHit)
+                if (IsInsideBar(panel->GetRect()) && isHit) {
                     found.insert(panel);
+                }
             }
         } while (m_category->OnScrollHorz(FALSE));
         return found;
@@ -51,12 +53,14 @@ protected:
     int TabsInReach() {
         std::set<int> found;
         const int count = Bar().GetCategoryCount();
-        for (int turn = 0; turn < count; ++turn)
+        for (int turn = 0; turn < count; ++turn) {
             Bar().ScrollTabs(TRUE);
+        }
         for (int turn = 0; turn < count; ++turn) {
             for (int index = 0; index < count; ++index) {
-                if (IsHit(Bar().GetCategory(index)->GetTab()))
+                if (IsHit(Bar().GetCategory(index)->GetTab())) {
                     found.insert(index);
+                }
             }
             Bar().ScrollTabs(FALSE);
         }
@@ -80,14 +84,16 @@ TEST_P(NarrowBar, EveryTabAndEveryPanelCanBeReached) {
 TEST_P(NarrowBar, AScrolledRowOfTabsDependsOnTheWidthAloneUntilEverythingFits) {
     const auto places = [this] {
         std::vector<CRect> rects;
-        for (int index = 0; index < Bar().GetCategoryCount(); ++index)
+        for (int index = 0; index < Bar().GetCategoryCount(); ++index) {
             rects.push_back(Bar().GetCategory(index)->GetTabRect());
+        }
         return rects;
     };
     SetWidth(kNarrowest);
     const auto fresh = places();
-    for (int turn = 0; turn < Bar().GetCategoryCount(); ++turn)
+    for (int turn = 0; turn < Bar().GetCategoryCount(); ++turn) {
         Bar().ScrollTabs(FALSE);
+    }
     const auto scrolled = places();
     const bool doesScroll = scrolled != fresh;
     EXPECT_EQ(doesScroll, GetParam() > 100) << "at the larger scales the tabs have no room";

@@ -31,8 +31,9 @@ public:
         m_dc.CreateCompatibleDC(nullptr);
         m_bitmap = visual::MakeBitmap32(kWidth, kHeight, &bits);
         m_previous = ::SelectObject(m_dc, m_bitmap);
-        if (direction == Direction::RightToLeft)
+        if (direction == Direction::RightToLeft) {
             ::SetLayout(m_dc, LAYOUT_RTL);
+        }
     }
     ~Target() {
         ::SelectObject(m_dc, m_previous);
@@ -109,8 +110,9 @@ TEST_P(ClippedPaintBuffer, WhatLiesBetweenTwoFarPlacesCanBeLeftOut) {
     RibbonPaintBuffer buffer(target.Dc(), CRect(10, 5, 230, 120), shown);
     CDC& dc = buffer.GetDC();
     for (const CRect& place : {left, right}) {
-        for (int x = place.left; x < place.right; ++x)
+        for (int x = place.left; x < place.right; ++x) {
             EXPECT_TRUE(dc.RectVisible(CRect(x, place.top, x + 1, place.bottom))) << x;
+        }
         EXPECT_FALSE(dc.RectVisible(CRect(place.left - 9, place.top, place.left - 1, place.bottom)));
         EXPECT_FALSE(dc.RectVisible(CRect(place.right + 1, place.top, place.right + 9, place.bottom)));
         EXPECT_FALSE(dc.RectVisible(CRect(place.left, place.bottom, place.right, place.bottom + 9)));

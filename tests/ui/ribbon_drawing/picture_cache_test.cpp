@@ -58,8 +58,9 @@ protected:
     }
     static void Fill(HDC dc, const RECT& rect, const Recipe& recipe, std::uint32_t color) {
         const visual::Canvas canvas(dc, rect, recipe);
-        if (!canvas.IsEmpty())
+        if (!canvas.IsEmpty()) {
             std::fill_n(canvas.View().bits, canvas.View().width * canvas.View().height, color);
+        }
     }
     static constexpr RECT place{4, 4, 60, 40};
     const visual::Skin& m_skin = visual::StyleSkin(0);
@@ -115,11 +116,13 @@ TEST_F(KeptPictures, APictureWithoutARecipeIsNotKept) {
 
 TEST_F(KeptPictures, TheirNumberAndTheirPixelsAreLimited) {
     const Target target;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         Fill(target.Dc(), {0, 0, 4, 4}, Recipe("small", i), 0xFF111111);
+    }
     EXPECT_EQ(PictureCache::Instance().Count(), PictureCache::kMostPictures);
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 20; ++i) {
         Fill(target.Dc(), {0, 0, 1000, 1000}, Recipe("large", i), 0xFF111111);
+    }
     EXPECT_LE(PictureCache::Instance().Count(), PictureCache::kMostPixels / 1000000);
     Fill(target.Dc(), {0, 0, 4000, 4000}, Recipe("too large"), 0xFF111111);
     EXPECT_LE(PictureCache::Instance().Count(), PictureCache::kMostPixels / 1000000);

@@ -1,16 +1,17 @@
 #include "tests/ui/ribbon_drawing/random_ribbon.h"
 
+#include <afxribboncheckbox.h>
 #include <afxRibbonEdit.h>
 #include <afxRibbonLabel.h>
-#include <afxribboncheckbox.h>
 #include <afxribbonslider.h>
 
 IMPLEMENT_DYNCREATE(OpenCategory, CMFCRibbonCategory)
 
 RandomRibbon::RandomRibbon(double scale, Direction direction) {
     afxGlobalData.SetRibbonImageScale(scale);
-    if (direction == Direction::RightToLeft)
+    if (direction == Direction::RightToLeft) {
         Bar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    }
     Bar().ForceRecalcLayout();
 }
 
@@ -26,8 +27,9 @@ void RandomRibbon::Fill(unsigned seed) {
         panel->SetJustifyColumns(m_random() % 2 == 0);
         for (unsigned elements = 1 + m_random() % 8; elements > 0; --elements) {
             panel->Add(MakeElement());
-            if (m_random() % 6 == 0)
+            if (m_random() % 6 == 0) {
                 panel->AddSeparator();
+            }
         }
     }
     Bar().SetActiveCategory(m_category);
@@ -42,15 +44,17 @@ void RandomRibbon::SetWidth(int width) {
 
 std::vector<CMFCRibbonPanel*> RandomRibbon::Panels() const {
     std::vector<CMFCRibbonPanel*> panels;
-    for (int index = 0; index < m_category->GetPanelCount(); ++index)
+    for (int index = 0; index < m_category->GetPanelCount(); ++index) {
         panels.push_back(m_category->GetPanel(index));
+    }
     return panels;
 }
 
 std::vector<CMFCRibbonBaseElement*> RandomRibbon::ElementsOf(const CMFCRibbonPanel& panel) {
     std::vector<CMFCRibbonBaseElement*> elements;
-    for (int index = 0; index < panel.GetCount(); ++index)
+    for (int index = 0; index < panel.GetCount(); ++index) {
         elements.push_back(panel.GetElement(index));
+    }
     return elements;
 }
 
@@ -70,8 +74,9 @@ CMFCRibbonBaseElement* RandomRibbon::MakeElement() {
         return new Probe<CMFCRibbonCheckBox>(m_log, m_nextId++, Word(12));
     case 7: {
         auto* const group = new CMFCRibbonButtonsGroup;
-        for (unsigned buttons = 1 + m_random() % 5; buttons > 0; --buttons)
+        for (unsigned buttons = 1 + m_random() % 5; buttons > 0; --buttons) {
             group->AddButton(MakeButton(L"", true));
+        }
         return group;
     }
     case 8: {

@@ -62,8 +62,9 @@ protected:
         std::vector<Stretch> runs;
         for (int i = 0; i < count; ++i, start += step) {
             const std::uint32_t color = picture.At(start.x, start.y);
-            if (runs.empty() || runs.back().color != color)
+            if (runs.empty() || runs.back().color != color) {
                 runs.push_back({color, 0});
+            }
             ++runs.back().length;
         }
         return runs;
@@ -74,8 +75,9 @@ protected:
         const std::vector<Stretch> runs =
             RunsOf(picture, outermost - CSize(inwards, 0), CSize(inwards, 0), 1 + 2 * Line() + 2);
         std::ostringstream seen;
-        for (const Stretch& run : runs)
+        for (const Stretch& run : runs) {
             seen << std::hex << run.color << std::dec << " x " << run.length << ", ";
+        }
         ASSERT_EQ(runs.size(), 4u) << seen.str() << "at " << outermost.x << ", " << outermost.y;
         EXPECT_EQ(runs[0].length, 1);
         EXPECT_EQ(runs[1].length, Line());
@@ -86,9 +88,10 @@ protected:
 
 void ExpectApart(const std::vector<CRect>& rects, const char* what, int width) {
     for (std::size_t one = 0; one < rects.size(); ++one) {
-        for (std::size_t other = one + 1; other < rects.size(); ++other)
+        for (std::size_t other = one + 1; other < rects.size(); ++other) {
             EXPECT_TRUE(CRect(rects[one] & rects[other]).IsRectEmpty())
                 << what << ' ' << one << " and " << other << " in " << width;
+        }
     }
 }
 
@@ -98,8 +101,9 @@ TEST_P(RibbonScale, ElementsLieApartAndInsideTheirPanels) {
         RunIdle();
         const CRect bar(CPoint(0, 0), BarSize());
         std::vector<CRect> outer;
-        for (int index = 0; index < Bar().GetCategoryCount(); ++index)
+        for (int index = 0; index < Bar().GetCategoryCount(); ++index) {
             outer.push_back(Bar().GetCategory(index)->GetTabRect());
+        }
         for (int index = 0; index < Shown().GetPanelCount(); ++index) {
             CMFCRibbonPanel& panel = *Shown().GetPanel(index);
             outer.push_back(panel.GetRect());
@@ -112,8 +116,9 @@ TEST_P(RibbonScale, ElementsLieApartAndInsideTheirPanels) {
             }
             ExpectApart(inner, "elements", width);
         }
-        for (const CRect& rect : outer)
+        for (const CRect& rect : outer) {
             EXPECT_EQ(CRect(rect & bar), rect) << width;
+        }
         ExpectApart(outer, "tabs and panels", width);
     }
 }
@@ -140,8 +145,9 @@ TEST_P(RibbonScale, NoTextIsCutOffOrLiesOverAnother) {
 TEST_P(RibbonScale, AWideBarShowsEveryTextInFull) {
     const auto words = [this] {
         std::wstring all; // where lines break is the scale's business
-        for (const DrawnText& text : Texts())
+        for (const DrawnText& text : Texts()) {
             all += text.text;
+        }
         std::erase(all, L' ');
         return all;
     };
@@ -175,8 +181,9 @@ TEST_P(RibbonScale, AHotButtonsFrameIsCrispOnBothSidesAndNothingIsOutsideOfIt) {
         CRect changed(0, 0, 0, 0);
         for (int y = 0; y < hot->Size().cy; ++y) {
             for (int x = 0; x < hot->Size().cx; ++x) {
-                if (hot->At(x, y) != before->At(x, y))
+                if (hot->At(x, y) != before->At(x, y)) {
                     changed |= CRect(x, y, x + 1, y + 1);
+                }
             }
         }
         EXPECT_EQ(changed, rect) << id;

@@ -1,7 +1,7 @@
-#include <afxRibbonLabel.h>
 #include <afxribbonbutton.h>
 #include <afxribbonbuttonsgroup.h>
 #include <afxribboncheckbox.h>
+#include <afxRibbonLabel.h>
 #include <afxribbonslider.h>
 
 #include <memory>
@@ -224,8 +224,9 @@ TEST_F(Commands, ADragSendsTheCommandAtEachNewPosition) {
     slider.OnLButtonDown(thumb);
     std::vector<int> positions;
     window.onCommand = [&] { positions.push_back(slider.GetPos()); };
-    for (int x = 1; x <= 4; ++x)
+    for (int x = 1; x <= 4; ++x) {
         slider.OnMouseMove({thumb.x + x, thumb.y});
+    }
     slider.OnMouseMove({thumb.x + 4, thumb.y});
     slider.OnLButtonUp({thumb.x + 4, thumb.y});
     EXPECT_EQ(positions, (std::vector<int>{1, 2, 3, 4}));

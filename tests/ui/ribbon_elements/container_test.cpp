@@ -1,7 +1,7 @@
 // Sub-items, groups, texts and searches.
-#include <afxRibbonLabel.h>
 #include <afxribbonbutton.h>
 #include <afxribbonbuttonsgroup.h>
+#include <afxRibbonLabel.h>
 #include <afxribbonslider.h>
 
 #include <memory>

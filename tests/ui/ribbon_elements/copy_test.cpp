@@ -1,8 +1,8 @@
-#include <afxRibbonEdit.h>
-#include <afxRibbonLabel.h>
 #include <afxribbonbutton.h>
 #include <afxribbonbuttonsgroup.h>
 #include <afxribboncheckbox.h>
+#include <afxRibbonEdit.h>
+#include <afxRibbonLabel.h>
 #include <afxribbonslider.h>
 
 #include <memory>

@@ -18,8 +18,9 @@ protected:
     }
     CString WindowText() {
         CString text;
-        if (edit->GetEditWnd() != nullptr)
+        if (edit->GetEditWnd() != nullptr) {
             edit->GetEditWnd()->GetWindowText(text);
+        }
         return text;
     }
     CRect WindowRect() {

@@ -19,8 +19,9 @@ protected:
         // Notifications of a child's own (high word) are no commands.
         if (message == WM_COMMAND && HIWORD(wParam) == 0) {
             commands.push_back(LOWORD(wParam));
-            if (onCommand)
+            if (onCommand) {
                 onCommand();
+            }
             return 0;
         }
         return TestWindow::WindowProc(message, wParam, lParam);
@@ -65,9 +66,11 @@ public:
     template <typename Question>
     int Count(const CRect& rect, Question question) {
         int count = 0;
-        for (int y = rect.top; y < rect.bottom; ++y)
-            for (int x = rect.left; x < rect.right; ++x)
+        for (int y = rect.top; y < rect.bottom; ++y) {
+            for (int x = rect.left; x < rect.right; ++x) {
                 count += question(At(x, y)) ? 1 : 0;
+            }
+        }
         return count;
     }
     int CountColor(const CRect& rect, COLORREF color) {
@@ -92,8 +95,9 @@ public:
         DWORD* bits = nullptr;
         HBITMAP pixels =
             ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&bits), nullptr, 0);
-        for (int i = 0; i < side * side; ++i)
+        for (int i = 0; i < side * side; ++i) {
             bits[i] = 0xFF000000u | (GetRValue(color) << 16) | (GetGValue(color) << 8) | GetBValue(color);
+        }
         const std::vector<BYTE> maskBits(static_cast<size_t>((side + 15) / 16 * 2 * side), 0);
         HBITMAP mask = ::CreateBitmap(side, side, 1, 1, maskBits.data());
         ICONINFO icon{TRUE, 0, 0, mask, pixels};
@@ -102,8 +106,9 @@ public:
         ::DeleteObject(pixels);
     }
     ~SolidIcon() {
-        if (m_icon != nullptr)
+        if (m_icon != nullptr) {
             ::DestroyIcon(m_icon);
+        }
     }
     SolidIcon(const SolidIcon&) = delete;
     SolidIcon& operator=(const SolidIcon&) = delete;

@@ -1,12 +1,12 @@
 // Draws every ribbon element in every state into a bitmap file, for people to look at.
 //   ribbon_element_sheet OUT.bmp [PERCENT]
-#include <afxRibbonEdit.h>
-#include <afxRibbonLabel.h>
 #include <afxcontrolbars.h>
 #include <afxglobals.h>
 #include <afxribbonbutton.h>
 #include <afxribbonbuttonsgroup.h>
 #include <afxribboncheckbox.h>
+#include <afxRibbonEdit.h>
+#include <afxRibbonLabel.h>
 #include <afxribbonslider.h>
 #include <afxvisualmanageroffice2007.h>
 
@@ -34,20 +34,24 @@ enum class Menu { None, Whole, Split };
 
 Element Button(const wchar_t* text, int mode, Menu menu) {
     auto button = std::make_unique<CMFCRibbonButton>(1, text, Icon());
-    if (mode > 0)
+    if (mode > 0) {
         button->SetIntermediateMode();
-    if (mode > 1)
+    }
+    if (mode > 1) {
         button->SetCompactMode();
-    if (menu != Menu::None)
+    }
+    if (menu != Menu::None) {
         button->AddSubItem(new CMFCRibbonButton(2, L"Sub"));
+    }
     button->SetDefaultCommand(menu == Menu::Split);
     return button;
 }
 
 Element Group() {
     auto group = std::make_unique<CMFCRibbonButtonsGroup>();
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         group->AddButton(new CMFCRibbonButton(static_cast<UINT>(10 + i), L"", Icon()));
+    }
     return group;
 }
 
@@ -144,8 +148,9 @@ CSize DrawSheet(CDC* pDC) {
             element->SetRect(CRect(CPoint(x, y), element->GetSize(pDC)));
             element->OnAfterChangeRect(pDC);
             state.apply(*element);
-            if (pDC != nullptr)
+            if (pDC != nullptr) {
                 element->OnDraw(pDC);
+            }
             x = element->GetRect().right + gap;
         }
         right = std::max(right, x);
@@ -156,8 +161,9 @@ CSize DrawSheet(CDC* pDC) {
 
 bool SaveBitmap(const wchar_t* path, const BITMAPINFOHEADER& header, const void* bits) {
     FILE* file = _wfopen(path, L"wb");
-    if (file == nullptr)
+    if (file == nullptr) {
         return false;
+    }
     const DWORD bytes = static_cast<DWORD>(header.biWidth) * 4u * static_cast<DWORD>(-header.biHeight);
     BITMAPFILEHEADER head{};
     head.bfType = 0x4D42;
@@ -171,14 +177,17 @@ bool SaveBitmap(const wchar_t* path, const BITMAPINFOHEADER& header, const void*
 } // namespace
 
 int wmain(int count, wchar_t** arguments) {
-    if (count < 2)
+    if (count < 2) {
         return 2;
+    }
     CWinApp application;
-    if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOW))
+    if (!AfxWinInit(::GetModuleHandleW(nullptr), nullptr, ::GetCommandLineW(), SW_SHOW)) {
         return 1;
+    }
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
-    if (count > 2)
+    if (count > 2) {
         afxGlobalData.SetRibbonImageScale(_wtoi(arguments[2]) / 100.0);
+    }
 
     const CSize size = DrawSheet(nullptr);
     const BITMAPINFOHEADER header{sizeof(BITMAPINFOHEADER), size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};

@@ -1,8 +1,8 @@
-#include <afxRibbonEdit.h>
-#include <afxRibbonLabel.h>
 #include <afxribbonbutton.h>
 #include <afxribbonbuttonsgroup.h>
 #include <afxribboncheckbox.h>
+#include <afxRibbonEdit.h>
+#include <afxRibbonLabel.h>
 #include <afxribbonslider.h>
 
 #include "element_fixture.h"
@@ -64,10 +64,12 @@ TEST(ElementText, OfAnyNumberOfElementsHasItsOwnWidth) {
         return CMFCRibbonLabel(CString(L'i', number % 50) + CString(L'W', number / 50)).GetRegularSize(nullptr).cx;
     };
     std::vector<LONG> widths;
-    for (int number = 0; number < 3000; ++number)
+    for (int number = 0; number < 3000; ++number) {
         widths.push_back(widthOf(number));
-    for (int number = 2999; number >= 0; --number)
+    }
+    for (int number = 2999; number >= 0; --number) {
         ASSERT_EQ(widthOf(number), widths[static_cast<std::size_t>(number)]) << number;
+    }
     EXPECT_GT(widths[49], widths[48]);
     EXPECT_GT(widths[2950], widths[2900]);
 }

@@ -1,9 +1,9 @@
 // What is drawn where: pixels of a memory bitmap at named places.
-#include <afxRibbonEdit.h>
-#include <afxRibbonLabel.h>
 #include <afxribbonbutton.h>
 #include <afxribbonbuttonsgroup.h>
 #include <afxribboncheckbox.h>
+#include <afxRibbonEdit.h>
+#include <afxRibbonLabel.h>
 #include <afxribbonslider.h>
 
 #include "element_fixture.h"

@@ -37,8 +37,9 @@ TEST_F(FocusWalkTest, AStepToAnotherTabTakesTheFocusFromTheFormerOne) {
     EXPECT_FALSE(Bar().GetCategory(0)->GetTab().IsFocused());
     EXPECT_TRUE(Bar().GetCategory(1)->GetTab().IsFocused());
     Press({VK_DOWN, VK_ESCAPE, VK_ESCAPE, VK_ESCAPE});
-    for (int index = 0; index < Bar().GetCategoryCount(); ++index)
+    for (int index = 0; index < Bar().GetCategoryCount(); ++index) {
         EXPECT_FALSE(Bar().GetCategory(index)->GetTab().IsFocused()) << index;
+    }
     EXPECT_EQ(FocusedText(), L"");
 }
 

@@ -4,9 +4,9 @@
 #include <random>
 #include <set>
 
+#include <afxribboncheckbox.h>
 #include <afxRibbonEdit.h>
 #include <afxRibbonLabel.h>
-#include <afxribboncheckbox.h>
 #include <afxribbonslider.h>
 
 #include "tests/ui/ribbon_popup/popup_fixture.h"

@@ -115,16 +115,20 @@ TEST_P(TooltipFrame, OneLineRunsRoundAllFourSides) {
         const COLORREF line = m_tooltip.GetParams().m_clrBorder;
         const int width = picture.Width(), height = picture.Height();
         const CPoint middles[] = {{0, height / 2}, {width - 1, height / 2}, {width / 2, 0}, {width / 2, height - 1}};
-        for (const CPoint& at : middles)
+        for (const CPoint& at : middles) {
             EXPECT_TRUE(picture.IsShown(at.x, at.y)) << at.x << ' ' << at.y << " is cut off";
+        }
         int wrong = 0;
-        for (int y = 0; y < height; ++y)
-            for (int x = 0; x < width; ++x)
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
                 wrong += picture.IsEdge(x, y) && picture.At(x, y) != line ? 1 : 0;
+            }
+        }
         EXPECT_EQ(wrong, 0) << "pixels of the edge are not of the line";
         const CPoint inner[] = {{1, height / 2}, {width - 2, height / 2}, {width / 2, 1}, {width / 2, height - 2}};
-        for (const CPoint& at : inner)
+        for (const CPoint& at : inner) {
             EXPECT_NE(picture.At(at.x, at.y), line) << at.x << ' ' << at.y << ": a second line";
+        }
     }
 }
 
@@ -132,10 +136,12 @@ TEST_P(TooltipFrame, TheTextIsAsFarFromTheRightAsFromTheLeft) {
     Show(L"");
     const Picture picture(m_tooltip);
     int last = picture.Width() - 1, lowest = picture.Height() - 1;
-    while (last > 0 && !picture.IsShown(last, picture.Height() / 2))
+    while (last > 0 && !picture.IsShown(last, picture.Height() / 2)) {
         --last;
-    while (lowest > 0 && !picture.IsShown(picture.Width() / 2, lowest))
+    }
+    while (lowest > 0 && !picture.IsShown(picture.Width() / 2, lowest)) {
         --lowest;
+    }
     int left = picture.Width(), right = picture.Width(), top = picture.Height(), bottom = picture.Height();
     for (int y = 3; y < picture.Height() - 3; ++y) {
         for (int x = 3; x < picture.Width() - 3; ++x) {
@@ -167,9 +173,11 @@ TEST(TooltipSquareFrame, OneLineRunsRoundAllFourSides) {
     tooltip.SetWindowPos(&CWnd::wndTop, 40, 40, 90, 30, SWP_NOACTIVATE | SWP_SHOWWINDOW);
     tooltip.UpdateWindow();
     const Picture picture(tooltip);
-    for (int y = 0; y < picture.Height(); ++y)
-        for (int x = 0; x < picture.Width(); ++x)
+    for (int y = 0; y < picture.Height(); ++y) {
+        for (int x = 0; x < picture.Width(); ++x) {
             ASSERT_EQ(picture.At(x, y), picture.IsEdge(x, y) ? look.m_clrBorder : look.m_clrFill) << x << ' ' << y;
+        }
+    }
     tooltip.DestroyWindow();
 }
 

@@ -1,21 +1,21 @@
 // frame_gallery DIR [PERCENT [WIDTH [rtl|minimized|below]...]]: writes frame-STYLE-PERCENT-WIDTH[-WORD]....png of a
 // frame with everything that a ribbon can show in each style, for people to look at. below: the quick access toolbar.
-#include "afxMDIChildWndEx.h"
-#include "afxMDIFrameWndEx.h"
-#include "afxRibbonEdit.h"
-#include "afxRibbonLabel.h"
 #include "afxcontrolbars.h"
 #include "afxglobals.h"
+#include "afxMDIChildWndEx.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxribbonbar.h"
 #include "afxribboncheckbox.h"
+#include "afxRibbonEdit.h"
+#include "afxRibbonLabel.h"
 #include "afxribbonslider.h"
 #include "afxvisualmanageroffice2007.h"
+#include "fx/window_dc.h"
 #include "tests/support/command_list.h"
 #include "tests/support/icon_handle.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/png_file.h"
 #include "tests/support/ui_test.h"
-#include "fx/window_dc.h"
 
 #include <algorithm>
 #include <cstdio>

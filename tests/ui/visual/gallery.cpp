@@ -37,16 +37,19 @@ int wmain(int count, wchar_t** arguments) {
         return 2;
     }
     const ScopedGdiplus gdiplus;
-    if (!gdiplus.IsStarted())
+    if (!gdiplus.IsStarted()) {
         return 1;
+    }
     const wchar_t* styles[] = {L"blue", L"black", L"aqua", L"silver"};
     int failures = 0;
-    for (std::size_t style = 0; style < visual::g_styleCount; ++style)
+    for (std::size_t style = 0; style < visual::g_styleCount; ++style) {
         for (const int percent : {100, 150, 200}) {
             const std::wstring path =
                 std::wstring(arguments[1]) + L"\\" + styles[style] + L"-" + std::to_wstring(percent) + L".png";
-            if (!WriteSheet(path, style, percent))
+            if (!WriteSheet(path, style, percent)) {
                 ++failures;
+            }
         }
+    }
     return failures == 0 ? 0 : 1;
 }

@@ -58,8 +58,9 @@ private:
                       TabTextColor(tab.state, m_look.skin));
             x += 82;
         }
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             PaintApplicationButton(m_dc, At(660 + 52 * i, 4, 46, 46), {i == 1, i == 2, false, false, false}, m_look);
+        }
         PaintApplicationButton(m_dc, At(820, 31, 54, 24), {}, m_look);
         PaintContextCaption(m_dc, At(884, 30, 90, 25), 0xFF4884D6, m_look);
     }
@@ -76,8 +77,9 @@ private:
         Group(At(238, 64, 120, 22));
         Edits();
         Slider();
-        for (int i = 0; i < 3; ++i)
+        for (int i = 0; i < 3; ++i) {
             PaintDefaultPane(m_dc, At(680 + 66 * i, 58, 60, 88), {i == 1, i == 2, false, false, false}, m_look);
+        }
         for (int i = 0; i < 3; ++i) {
             PaintCategoryScroll(m_dc, At(890 + 30 * i, 60, 14, 84), true, {i == 1, i == 2, false, false, false},
                                 m_look);
@@ -110,8 +112,9 @@ private:
             parts.rect = {rect.left + step * i, rect.top, i == 3 ? rect.right : rect.left + step * (i + 1),
                           rect.bottom};
             parts.place = places[i];
-            if (i != 1)
+            if (i != 1) {
                 PaintButton(m_dc, parts, states[i], m_look);
+            }
         }
     }
 
@@ -149,7 +152,7 @@ private:
                                        {false, false, true, true}};
         const wchar_t* names[] = {L"normal", L"hot", L"pressed", L"checked", L"hot+chk", L"disabled", L"dis+chk"};
         PaintCategory(m_dc, At(2, 156, 560, 110), 0, 0, m_look);
-        for (int row = 0; row < 3; ++row)
+        for (int row = 0; row < 3; ++row) {
             for (int i = 0; i < 7; ++i) {
                 ButtonParts parts;
                 parts.rect = At(10 + 78 * i, 164 + 30 * row, 72, 24);
@@ -162,11 +165,13 @@ private:
                 PaintButton(m_dc, parts, states[i], m_look);
                 Text(row > 0 ? parts.command : parts.rect, names[i],
                      states[i].isDisabled ? ColorSlot::RibbonTextDisabled : ColorSlot::RibbonText);
-                if (row > 0)
+                if (row > 0) {
                     PaintArrow(m_dc, parts.menu, ArrowDirection::Down,
                                m_look.skin[states[i].isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph],
                                m_look.skin[ColorSlot::GlyphLight], m_look);
+                }
             }
+        }
     }
 
     void Controls() const {
@@ -213,9 +218,10 @@ private:
         PaintFace(m_dc, At(294, 358, 20, 20), m_look.skin[FaceSlot::MenuCheck], {}, m_look);
         PaintCheckMark(m_dc, At(294, 358, 20, 20), m_look.skin[ColorSlot::CheckMark], m_look);
         const wchar_t* items[] = {L"Open 打开", L"Highlighted", L"Checked", L"Disabled"};
-        for (int i = 0; i < 4; ++i)
+        for (int i = 0; i < 4; ++i) {
             Text(At(324, 309 + 25 * i, 180, 22), items[i], i == 3 ? ColorSlot::MenuTextDisabled : ColorSlot::MenuText,
                  DT_LEFT | DT_VCENTER);
+        }
         PaintSolid(m_dc, At(320, 410, 198, 1), m_look.skin[ColorSlot::MenuSeparator]);
         PaintMainPanelFrame(m_dc, At(580, 290, 400, 170), At(588, 306, 384, 124), m_look);
     }

@@ -14,9 +14,11 @@ inline HBITMAP Strip(std::initializer_list<std::uint32_t> colors) {
     const HBITMAP bitmap = CDrawingManager::CreateBitmap_32(CSize(width, 4), &memory);
     int image = 0;
     for (const std::uint32_t color : colors) {
-        for (int y = 0; y < 4; ++y)
-            for (int x = 0; x < 4; ++x)
+        for (int y = 0; y < 4; ++y) {
+            for (int x = 0; x < 4; ++x) {
                 static_cast<std::uint32_t*>(memory)[y * width + image * 4 + x] = color;
+            }
+        }
         ++image;
     }
     return bitmap;

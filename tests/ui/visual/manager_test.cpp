@@ -95,12 +95,14 @@ TEST_F(VisualManager, ThereIsOneAndItIsMadeAnewAfterItsEnd) {
 CSize DrawnColumnsAndRows(CDC& dc, int side, COLORREF ground) {
     std::set<int> columns;
     std::set<int> rows;
-    for (int y = 0; y < side; ++y)
-        for (int x = 0; x < side; ++x)
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
             if (dc.GetPixel(x, y) != ground) {
                 columns.insert(x);
                 rows.insert(y);
             }
+        }
+    }
     return {static_cast<int>(columns.size()), static_cast<int>(rows.size())};
 }
 

@@ -30,8 +30,9 @@ TEST(CheckToggle, AnExclusiveClickOnAnUncheckedItemChecksItAlone) {
 TEST(CheckToggle, WithoutItemsNothingChanges) { EXPECT_TRUE(ToggleExclusive(0, true, 0).empty()); }
 
 TEST(CheckToggle, AClickOnNoItemChangesTheOthersOnly) {
-    for (const CheckChange& change : ToggleExclusive(-1, true, 4))
+    for (const CheckChange& change : ToggleExclusive(-1, true, 4)) {
         EXPECT_TRUE(change.check && change.isTold);
+    }
 }
 
 TEST(CheckToggle, TheNoticesHaveTheNumbersThatHostsKnow) {

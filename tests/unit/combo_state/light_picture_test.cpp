@@ -24,8 +24,9 @@ Pixel At(const std::vector<std::uint32_t>& picture, int side, int x, int y) {
 constexpr int sides[] = {13, 16, 20, 24, 26, 28, 32};
 
 TEST(LightPicture, HasAsManyPixelsAsAsked) {
-    for (const int side : {1, 2, 7, 13, 16, 64})
+    for (const int side : {1, 2, 7, 13, 16, 64}) {
         EXPECT_EQ(DrawLightPicture(side, LightState::On).size(), static_cast<std::size_t>(side * side));
+    }
     EXPECT_TRUE(DrawLightPicture(0, LightState::On).empty());
     EXPECT_TRUE(DrawLightPicture(-5, LightState::Off).empty());
 }
@@ -72,9 +73,10 @@ TEST(LightPicture, ItsOutlineIsTheSameOnBothSides) {
         for (const LightState state : {LightState::On, LightState::Off}) {
             const std::vector<std::uint32_t> picture = DrawLightPicture(side, state);
             for (int y = 0; y < side; ++y) {
-                for (int x = 0; x < side / 2; ++x)
+                for (int x = 0; x < side / 2; ++x) {
                     EXPECT_EQ(At(picture, side, x, y).alpha, At(picture, side, side - 1 - x, y).alpha)
                         << side << ": " << x << ' ' << y;
+                }
             }
         }
     }

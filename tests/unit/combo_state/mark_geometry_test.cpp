@@ -27,8 +27,9 @@ TEST(MarkScale, RoundsToTheNearestPixelAndNeverMakesSmaller) {
         {15, 0.5, 15}, {15, 1.0, 15}, {15, 1.25, 19}, {15, 1.5, 23}, {15, 2.0, 30},  {13, 1.25, 16}, {13, 1.5, 20},
         {13, 2.0, 26}, {16, 1.0, 16}, {16, 1.25, 20}, {16, 1.5, 24}, {16, 1.75, 28}, {16, 2.0, 32},  {0, 2.0, 0},
     };
-    for (const Case& one : cases)
+    for (const Case& one : cases) {
         EXPECT_EQ(marks::Scaled(one.length, one.scale), one.expected) << one.length << " at " << one.scale;
+    }
 }
 
 TEST(CheckRow, TheBoxStandsOnePixelFromTheLeftInTheMiddleOfTheRowAndTheTextThreeBehindIt) {
@@ -154,8 +155,9 @@ TEST(LightZones, AreTheLightBelowItsFourthPixelAndASquareBesideItFromTheTop) {
 
 TEST(ZoneAt, TheCheckColumnIsHitFromTheFirstPixelToOneBehindTheBox) {
     const std::vector<Rect> zones{marks::CheckZone(15, 22)};
-    for (int x = -3; x < 40; ++x)
+    for (int x = -3; x < 40; ++x) {
         EXPECT_EQ(marks::ZoneAt(zones, x, 10, 15), x >= 1 && x <= 16 ? 0 : -1) << x;
+    }
 }
 
 TEST(ZoneAt, ZonesOfTheFirstRowCountForEveryRow) {

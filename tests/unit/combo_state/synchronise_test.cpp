@@ -20,8 +20,9 @@ struct Element {
 
     bool Set(int index, bool state) {
         ++calls;
-        if (!states.Set(index, 3, state))
+        if (!states.Set(index, 3, state)) {
             return false;
+        }
         SynchroniseCopies(
             *this, [](Element& one) -> SynchronisedFlag& { return one.flag; },
             [this] {
@@ -36,8 +37,9 @@ struct Element {
 class Synchronise : public testing::Test {
 protected:
     Synchronise() {
-        for (Element* element : {&m_first, &m_second, &m_third})
+        for (Element* element : {&m_first, &m_second, &m_third}) {
             element->all = &m_all;
+        }
     }
     Element m_first;
     Element m_second;
@@ -47,8 +49,9 @@ protected:
 
 TEST_F(Synchronise, EachCopyIsChangedOnceWhicheverOneWasSet) {
     for (Element* changed : {&m_first, &m_second, &m_third}) {
-        for (Element* element : {&m_first, &m_second, &m_third})
+        for (Element* element : {&m_first, &m_second, &m_third}) {
             element->calls = element->searches = 0;
+        }
         changed->Set(1, true);
         for (Element* element : {&m_first, &m_second, &m_third}) {
             EXPECT_EQ(element->calls, 1);

@@ -86,14 +86,16 @@ TEST(TypeKeys, LongKeysWithLineBreaksAreKeysLikeOthers) {
 /// The time for asking all of so many keys for index and key.
 double LookAll(int count) {
     Map map;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         map[std::to_wstring(i)] = i;
+    }
     TypeKeyMap keys;
     keys.Set(map);
     return MeasureSeconds([&] {
         for (const auto& [key, index] : map) {
-            if (keys.FindIndex(key) != index || keys.FindKey(index) != key)
+            if (keys.FindIndex(key) != index || keys.FindKey(index) != key) {
                 ADD_FAILURE() << "wrong answer";
+            }
         }
     });
 }

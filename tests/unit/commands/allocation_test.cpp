@@ -17,10 +17,12 @@ namespace {
 thread_local int t_allocationsUntilFailure = -1;
 
 void* Allocate(std::size_t size) {
-    if (t_allocationsUntilFailure >= 0 && t_allocationsUntilFailure-- == 0)
+    if (t_allocationsUntilFailure >= 0 && t_allocationsUntilFailure-- == 0) {
         throw std::bad_alloc();
-    if (void* const memory = std::malloc(size == 0 ? 1 : size))
+    }
+    if (void* const memory = std::malloc(size == 0 ? 1 : size)) {
         return memory;
+    }
     throw std::bad_alloc();
 }
 
@@ -55,8 +57,9 @@ int FailAtEveryAllocation(const std::function<void()>& prepare, const std::funct
         t_allocationsUntilFailure = noFailure;
         // Hangs where a lock was left behind.
         std::thread(takeLockAndLeave).join();
-        if (!failed)
+        if (!failed) {
             return failures;
+        }
     }
     return tooMany;
 }

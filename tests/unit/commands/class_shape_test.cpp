@@ -90,8 +90,9 @@ std::ptrdiff_t SlotOf(Member member) {
         std::ptrdiff_t adjustment;
     };
     const auto representation = std::bit_cast<Representation>(member);
-    if (representation.offsetPlusOne % 2 == 0)
+    if (representation.offsetPlusOne % 2 == 0) {
         return -1;
+    }
     return representation.offsetPlusOne / static_cast<std::ptrdiff_t>(sizeof(void*));
 }
 

@@ -49,8 +49,9 @@ int main() {
     g_layCtrlBmp.push_back(bitmap);
     const auto* const ofTheLibrary = reinterpret_cast<const std::vector<CBitmap*>*>(
         ::GetProcAddress(::GetModuleHandleW(L"barwright.dll"), "g_layCtrlBmp"));
-    if (ofTheLibrary != nullptr && ofTheLibrary->size() == 1 && ofTheLibrary->front() == bitmap)
+    if (ofTheLibrary != nullptr && ofTheLibrary->size() == 1 && ofTheLibrary->front() == bitmap) {
         Write("bitmap seen by the library\n");
+    }
 
     // The dispatcher first, so that it outlives the context.
     CMenuEvtHandleMgr::Ins()->addReactor(boost::make_shared<LastingReactor>());

@@ -33,8 +33,9 @@ TEST(LibraryContext, HelpFileNameKeepsANulCharacter) {
 
 TEST(LibraryContext, IconPathStandsBelowTheInstallationDirectoryOfTheFirstCall) {
     static bool asked = false;
-    if (asked)
+    if (asked) {
         GTEST_SKIP() << "the directory is taken once in a process; run this test alone";
+    }
     asked = true;
     {
         const ScopedAppPath first(L"C:\\first\\");
@@ -61,8 +62,9 @@ protected:
     /// What the library answers is found once in a process; ctest gives each of these tests one of its own.
     void SetUp() override {
         static bool asked = false;
-        if (asked)
+        if (asked) {
             GTEST_SKIP() << "the folder is looked up once in a process; run this test alone";
+        }
         asked = true;
     }
 
@@ -75,8 +77,9 @@ protected:
                   ERROR_SUCCESS);
     }
     static void Remove() {
-        for (const wchar_t* key : {plainKey, redirectedKey})
+        for (const wchar_t* key : {plainKey, redirectedKey}) {
             ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, key);
+        }
     }
 
     static void ExpectFolder(const wchar_t* recorded, const wchar_t* expected) {

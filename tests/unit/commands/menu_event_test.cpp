@@ -39,8 +39,9 @@ protected:
 
 private:
     bool Take(const std::string& what) const {
-        if (!m_journal)
+        if (!m_journal) {
             return false;
+        }
         *m_journal += m_name + " " + what + ";";
         return instead ? instead() : answer;
     }
@@ -53,8 +54,9 @@ private:
 class CommandDispatch : public testing::Test {
 protected:
     ~CommandDispatch() override {
-        for (const auto& reactor : m_added)
+        for (const auto& reactor : m_added) {
             reactor->Silence();
+        }
     }
 
     boost::shared_ptr<ScriptedReactor> Make(const std::string& name, bool answer = false) {
@@ -70,8 +72,9 @@ protected:
     }
     void SilenceAllBut(const boost::shared_ptr<ScriptedReactor>& kept) {
         for (const auto& reactor : m_added) {
-            if (reactor != kept)
+            if (reactor != kept) {
                 reactor->Silence();
+            }
         }
     }
     static CMenuEvtHandleMgr& Dispatcher() { return *CMenuEvtHandleMgr::Ins(); }
@@ -192,8 +195,9 @@ TEST_F(CommandDispatch, ReactorAddedDuringADispatchIsAskedInTheSameDispatch) {
         m_journal.clear();
         first->instead = [this] {
             // Enough to make the list move in memory while the first reactor is running.
-            for (int i = 0; i < 50; ++i)
+            for (int i = 0; i < 50; ++i) {
                 Add("n");
+            }
             Add("last", true);
             return false;
         };
@@ -207,8 +211,9 @@ TEST_F(CommandDispatch, ReactorAddedDuringADispatchIsAskedInTheSameDispatch) {
 TEST_F(CommandDispatch, ReactorMayDispatchAgain) {
     const auto first = Add("A");
     first->instead = [again = false]() mutable {
-        if (again)
+        if (again) {
             return false;
+        }
         again = true;
         return Dispatcher().DisableMain();
     };
@@ -242,12 +247,14 @@ TEST_F(CommandDispatch, ThreadsNeverDispatchAtOnce) {
     std::vector<std::thread> threads;
     for (int t = 0; t < threadCount; ++t) {
         threads.emplace_back([] {
-            for (int i = 0; i < perThread; ++i)
+            for (int i = 0; i < perThread; ++i) {
                 Dispatcher().MenuClick(static_cast<unsigned int>(i));
+            }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(asked, threadCount * perThread);
 }
 

@@ -82,8 +82,9 @@ TEST_F(CommandRegistry, EmptyKeywordEntersNothing) {
     std::wstring text = L"before";
     EXPECT_FALSE(Registry().GetMenuMark(41000, text));
     EXPECT_FALSE(Registry().GetMenuName(L"", text));
-    for (const Query& query : textQueries)
+    for (const Query& query : textQueries) {
         EXPECT_FALSE(query.ask(Registry(), 41000, text)) << query.what;
+    }
     int id = 5;
     EXPECT_FALSE(Registry().GetMenuId(L"", id));
     EXPECT_EQ(text, L"before");
@@ -137,8 +138,9 @@ TEST_F(CommandRegistry, UnknownKeysLeaveTheOutputAsItWas) {
     EXPECT_FALSE(Registry().GetMenuId(L"other", id));
     EXPECT_FALSE(Registry().GetMenuName(L"other", text));
     EXPECT_FALSE(Registry().GetMenuMark(41001, text));
-    for (const Query& query : textQueries)
+    for (const Query& query : textQueries) {
         EXPECT_FALSE(query.ask(Registry(), 41001, text)) << query.what;
+    }
     EXPECT_EQ(text, L"before");
     EXPECT_EQ(id, 5);
 }
@@ -194,8 +196,9 @@ TEST_F(CommandRegistry, EmptyArgumentsOverwriteStoredTexts) {
     Registry().Add(L"K", 41000, L"name", L"cmd", L"tip", L"param", L"help");
     AddNamed(L"K", 41000);
     std::wstring text = L"before";
-    for (const Query& query : textQueries)
+    for (const Query& query : textQueries) {
         EXPECT_FALSE(query.ask(Registry(), 41000, text)) << query.what;
+    }
     EXPECT_EQ(text, L"before");
 }
 
@@ -266,8 +269,9 @@ TEST_F(CommandRegistry, DestroyForgetsEveryEntryAndKeepsTheCounter) {
     EXPECT_EQ(MarkOf(41006), L"(none)");
     std::wstring text = L"before";
     EXPECT_FALSE(Registry().GetMenuName(L"K", text));
-    for (const Query& query : textQueries)
+    for (const Query& query : textQueries) {
         EXPECT_FALSE(query.ask(Registry(), 41006, text)) << query.what;
+    }
     EXPECT_EQ(text, L"before");
     EXPECT_EQ(CMenuIdMgr::s_AddBeginID, 41007u);
 }
@@ -365,8 +369,9 @@ TEST_F(CommandRegistry, InsMakesTheInstanceBeforeItTakesTheLock) {
     {
         xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
         first.emplace([] { CMenuIdMgr::Ins(); });
-        for (int i = 0; i < patiently && !InstanceSeenWithoutTheLock(); ++i)
+        for (int i = 0; i < patiently && !InstanceSeenWithoutTheLock(); ++i) {
             std::this_thread::yield();
+        }
         EXPECT_NE(InstanceSeenWithoutTheLock(), nullptr);
         EXPECT_FALSE(first->HasFinished());
     }
@@ -390,19 +395,23 @@ TEST_F(CommandRegistry, ThreadsMayAddAndAskAtOnce) {
                 const int other = 41000 + ((t + 1) % threadCount) * perThread + i;
                 std::wstring mark;
                 std::wstring tip;
-                if (registry->GetMenuMark(other, mark) && (!registry->GetToolTip(other, tip) || tip != mark))
+                if (registry->GetMenuMark(other, mark) && (!registry->GetToolTip(other, tip) || tip != mark)) {
                     ++wrong;
+                }
                 int found = 0;
-                if (!registry->GetMenuId(keyword, found) || found != id)
+                if (!registry->GetMenuId(keyword, found) || found != id) {
                     ++wrong;
+                }
             }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(wrong, 0);
-    for (int id = 41000; id < 41000 + threadCount * perThread; ++id)
+    for (int id = 41000; id < 41000 + threadCount * perThread; ++id) {
         ASSERT_EQ(IdOf(L"K" + std::to_wstring(id)), id);
+    }
 }
 
 } // namespace

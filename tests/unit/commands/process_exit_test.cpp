@@ -23,8 +23,9 @@ std::wstring ProgramBesideThisOne(const wchar_t* name) {
 std::string ReadToTheEnd(HANDLE pipe) {
     std::string text;
     char bytes[256];
-    for (DWORD count = 0; ::ReadFile(pipe, bytes, sizeof(bytes), &count, nullptr) && count > 0;)
+    for (DWORD count = 0; ::ReadFile(pipe, bytes, sizeof(bytes), &count, nullptr) && count > 0;) {
         text.append(bytes, count);
+    }
     return text;
 }
 

@@ -149,8 +149,9 @@ TEST(ParseNumbers, TakesWholeTextsOnly) {
     EXPECT_TRUE(ParseBox(L"73,15,146,54"));
     EXPECT_DOUBLE_EQ(ParseBox(L"-12, 34,42 ,71.5")->north, 71.5);
     EXPECT_TRUE(ParsePair(L"31.2 121.5"));
-    for (const wchar_t* text : {L"", L"1", L"1,2,3", L"a,b", L"1,2x", L"1,2,", L"1;2"})
+    for (const wchar_t* text : {L"", L"1", L"1,2,3", L"a,b", L"1,2x", L"1,2,", L"1;2"}) {
         EXPECT_FALSE(ParsePair(text)) << text;
+    }
 }
 
 TEST(MapState, LockedLayerKeepsItsLight) {

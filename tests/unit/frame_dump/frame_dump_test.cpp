@@ -18,8 +18,9 @@ protected:
     static std::vector<int> RegisteredIds() {
         std::vector<int> ids;
         const ordered_json dump = DumpFrame({});
-        for (const ordered_json& entry : dump["registry"])
+        for (const ordered_json& entry : dump["registry"]) {
             ids.push_back(entry["id"]);
+        }
         return ids;
     }
 };
@@ -41,8 +42,9 @@ TEST_F(FrameDump, WithoutBarsEveryListIsEmpty) {
 }
 
 TEST_F(FrameDump, CommandsOfTheHostAreListedUnderAnyIdOfAMessage) {
-    for (const int id : {0xFFFF, 41000, 500, 0})
+    for (const int id : {0xFFFF, 41000, 500, 0}) {
         CMenuIdMgr::Ins()->Add(L"K" + std::to_wstring(id), id, L"name", L"cmd", L"tip", L"param", L"help");
+    }
     EXPECT_EQ(RegisteredIds(), (std::vector<int>{0, 500, 41000, 0xFFFF}));
     const ordered_json expected = {{"id", 500},    {"keyword", "K500"}, {"name", "name"}, {"tooltip", "tip"},
                                    {"cmd", "cmd"}, {"param", "param"},  {"help", "help"}};
@@ -51,8 +53,9 @@ TEST_F(FrameDump, CommandsOfTheHostAreListedUnderAnyIdOfAMessage) {
 
 TEST_F(FrameDump, CounterMayHaveGoneBeyondTheIdsOfMessages) {
     const ScopedValue counter(CMenuIdMgr::s_AddBeginID, 70001u);
-    for (const int id : {70001, 70000, 65536})
+    for (const int id : {70001, 70000, 65536}) {
         CMenuIdMgr::Ins()->Add(L"K" + std::to_wstring(id), id, L"", L"", L"", L"", L"");
+    }
     EXPECT_EQ(RegisteredIds(), (std::vector<int>{65536, 70000}));
     EXPECT_EQ(DumpFrame({})["nextCommandId"], 70001);
 }

@@ -33,8 +33,9 @@ protected:
     template <class Combo>
     Combo& AddCombo() {
         Combo& combo = Add(std::make_unique<Combo>(elementId, FALSE, 120, L"Label"));
-        for (const wchar_t* const text : {L"one", L"\x5730\x56FE", L"three"})
+        for (const wchar_t* const text : {L"one", L"\x5730\x56FE", L"three"}) {
             combo.AddItem(text);
+        }
         return combo;
     }
     ordered_json Dumped() {
@@ -44,8 +45,9 @@ protected:
     ordered_json DumpedOwn() {
         ordered_json own = Dumped();
         for (const char* const key :
-             {"class", "id", "text", "tooltip", "description", "visible", "enabled", "large", "rect"})
+             {"class", "id", "text", "tooltip", "description", "visible", "enabled", "large", "rect"}) {
             EXPECT_EQ(own.erase(key), 1u) << key;
+        }
         return own;
     }
 
@@ -99,8 +101,9 @@ TEST_F(OwnValues, AnEmptyComboHasAnEmptyListOfItems) {
 
 TEST_F(OwnValues, TheDropDownHeightIsTheOneThatAUserGaveTheList) {
     auto& combo = AddCombo<CMFCRibbonCheckComb>();
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         combo.AddItem(L"item");
+    }
     combo.UserStaticDropDownHeight(true);
     EXPECT_EQ(Dumped()["dropDownHeight"], 560);
     combo.EnableDropDownListResize(TRUE);

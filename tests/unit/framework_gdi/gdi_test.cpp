@@ -59,8 +59,9 @@ protected:
         const DWORD layout = ::SetLayout(*m_dc, 0);
         std::vector<COLORREF> pixels;
         for (int y = 0; y < g_height; ++y) {
-            for (int x = 0; x < g_width; ++x)
+            for (int x = 0; x < g_width; ++x) {
                 pixels.push_back(m_dc->GetPixel(x, y));
+            }
         }
         ::SetLayout(*m_dc, layout);
         return pixels;
@@ -74,8 +75,9 @@ protected:
                     : pixel == red   ? 'r'
                     : pixel == green ? 'g'
                                      : static_cast<char>('A' + pixel % 26);
-            if ((i + 1) % g_width == 0)
+            if ((i + 1) % g_width == 0) {
                 text += '\n';
+            }
         }
         return text;
     }
@@ -285,8 +287,9 @@ TEST_F(MirroredCanvas, EachRectangleThroughTheBufferEqualsTheSameDrawingAtOnce) 
         });
         std::vector<COLORREF> expected = empty;
         for (int y = rect.top; y < rect.bottom; ++y) {
-            for (int x = g_width - rect.right; x < g_width - rect.left; ++x)
+            for (int x = g_width - rect.right; x < g_width - rect.left; ++x) {
                 expected[y * g_width + x] = atOnce[y * g_width + x];
+            }
         }
         EXPECT_EQ(Rows(buffered), Rows(expected))
             << rect.left << ' ' << rect.top << ' ' << rect.right << ' ' << rect.bottom;
@@ -331,10 +334,11 @@ TEST_F(MirroredCanvas, APictureLiesWhereItsRectangleIsFilled) {
         const auto draw = [&](bool isPicture) {
             return Rows(Pixels([&](CDC& dc) {
                 ::SetLayout(dc, layout);
-                if (isPicture)
+                if (isPicture) {
                     EXPECT_TRUE(list.Draw(&dc, 0, place.TopLeft(), ILD_NORMAL));
-                else
+                } else {
                     dc.FillSolidRect(place, red);
+                }
             }));
         };
         EXPECT_EQ(draw(true), draw(false)) << layout;

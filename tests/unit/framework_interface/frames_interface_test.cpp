@@ -1,10 +1,10 @@
 #include "interface.h"
 
-#include "afxMDIChildWndEx.h"
-#include "afxMDIFrameWndEx.h"
 #include "afxdialogex.h"
 #include "afxext.h"
 #include "afxframewndex.h"
+#include "afxMDIChildWndEx.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxwin.h"
 
 INTERFACE_OF(CDialog) {

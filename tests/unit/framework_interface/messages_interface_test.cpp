@@ -92,8 +92,9 @@ END_MESSAGE_MAP()
 /// Different entries of the map, up to its end.
 std::size_t CountEntries(const AFX_MSGMAP_ENTRY* entry) {
     std::set<std::tuple<UINT, UINT, UINT>> seen;
-    for (; entry->pfnInvoke != nullptr; ++entry)
+    for (; entry->pfnInvoke != nullptr; ++entry) {
         EXPECT_TRUE(seen.emplace(entry->nMessage, entry->nCode, entry->nID).second) << entry->nMessage;
+    }
     return seen.size();
 }
 

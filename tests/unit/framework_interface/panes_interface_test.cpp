@@ -1,9 +1,9 @@
 #include "interface.h"
 
-#include "afxDockingManager.h"
-#include "afxPane.h"
 #include "afxbasepane.h"
 #include "afxcaptionbutton.h"
+#include "afxDockingManager.h"
+#include "afxPane.h"
 #include "afxrecentDockSiteInfo.h"
 
 INTERFACE_OF(CBasePane) {

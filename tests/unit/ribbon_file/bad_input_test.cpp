@@ -47,14 +47,16 @@ protected:
 TEST_F(BadRibbonFile, MalformedXmlIsRefusedAndTheEarlierRowsStay) {
     for (const char* xml :
          {"", " ", "text", "<", "<d", "<d>", "<d></e>", "<d><r></d></r>", "<d a></d>", "<d a=1/>", "<d a='1></d>",
-          "<d/><d/>", "<d/>text", "<!-- <d/>", "<?xml version='1.0'?>", "<d><![CDATA[</d>"})
+          "<d/><d/>", "<d/>text", "<!-- <d/>", "<?xml version='1.0'?>", "<d><![CDATA[</d>"}) {
         ExpectRefused(xml, xml);
+    }
 }
 
 TEST_F(BadRibbonFile, FileCutAtEvery50thByteIsRefused) {
     const std::size_t end = goodFile.rfind("</ribbon>") + std::string("</ribbon>").size();
-    for (std::size_t length = 0; length < end; length += 50)
+    for (std::size_t length = 0; length < end; length += 50) {
         ExpectRefused(goodFile.substr(0, length), "cut at " + std::to_string(length));
+    }
     EXPECT_TRUE(Load(goodFile.substr(0, end)));
 }
 
@@ -104,10 +106,12 @@ TEST_F(BadRibbonFile, NulBytesAreRefused) {
 TEST_F(BadRibbonFile, TenMegabytesOfNestingAreRefused) {
     constexpr std::size_t levels = 10 * 1024 * 1024 / 7;
     std::string bytes;
-    for (std::size_t i = 0; i < levels; ++i)
+    for (std::size_t i = 0; i < levels; ++i) {
         bytes += "<a>";
-    for (std::size_t i = 0; i < levels; ++i)
+    }
+    for (std::size_t i = 0; i < levels; ++i) {
         bytes += "</a>";
+    }
     ExpectRefused(bytes, "closed nesting");
     ExpectRefused(bytes.substr(0, levels * 3), "open nesting");
 }
@@ -115,22 +119,26 @@ TEST_F(BadRibbonFile, TenMegabytesOfNestingAreRefused) {
 TEST_F(BadRibbonFile, DeepNestingThatTheParserTakesIsReadToTheFifthLevel) {
     constexpr std::size_t levels = 90000;
     std::string bytes;
-    for (std::size_t i = 0; i < levels; ++i)
+    for (std::size_t i = 0; i < levels; ++i) {
         bytes += "<a>";
-    for (std::size_t i = 0; i < levels; ++i)
+    }
+    for (std::size_t i = 0; i < levels; ++i) {
         bytes += "</a>";
+    }
     ASSERT_TRUE(Load(bytes));
     std::span<const RibbonRecord> records = m_rows.top;
     std::size_t depth = 0;
-    for (; !records.empty(); records = records.front().children)
+    for (; !records.empty(); records = records.front().children) {
         ++depth;
+    }
     EXPECT_EQ(depth, 5u);
 }
 
 TEST_F(BadRibbonFile, FiftyThousandElementsAreRead) {
     std::string bytes = "<d><r><c><p>";
-    for (int i = 0; i < 50000; ++i)
+    for (int i = 0; i < 50000; ++i) {
         bytes += "<e KEYWORD='K" + std::to_string(i) + "' TYPE='BUTTON' SIZE='16'/>";
+    }
     ASSERT_TRUE(Load(bytes + "</p></c></r></d>"));
     const std::span<const RibbonRecord> elements = m_rows.top[0].children[0].children[0].children;
     ASSERT_EQ(elements.size(), 50000u);

@@ -50,8 +50,9 @@ protected:
 TEST(RibbonInfoRecord, NewRecordIsEmpty) {
     const RibbonInfo info;
     for (const std::wstring& text : {info.name, info.type, info.tooltip, info.keyword, info.picPath, info.picDisPath,
-                                     info.cmd, info.param, info.help})
+                                     info.cmd, info.param, info.help}) {
         EXPECT_EQ(text, L"");
+    }
     EXPECT_TRUE(info.valueGroup.empty());
     EXPECT_EQ(info.size, 0);
     EXPECT_EQ(info.width, 0);
@@ -195,8 +196,9 @@ TEST_F(RibbonElementAttributes, GroupBeforeCountsOnlyAsTheLastAttribute) {
 
 TEST_F(RibbonElementAttributes, GroupBeforeIsTrueForYesOnly) {
     EXPECT_TRUE(InfoOf(R"(GROUPBEFORE="Y")").groupBefore);
-    for (const char* value : {"N", "", "YES", " Y", "1", "true"})
+    for (const char* value : {"N", "", "YES", " Y", "1", "true"}) {
         EXPECT_FALSE(InfoOf("GROUPBEFORE='" + std::string(value) + "'").groupBefore) << value;
+    }
 }
 
 struct NumberCase {

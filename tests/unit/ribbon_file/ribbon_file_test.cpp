@@ -79,8 +79,9 @@ TEST(RibbonFileWalk, RowKindsAreComparedWithLetterCase) {
     EXPECT_EQ(KindOfRow(L"QK_Rbbion_QAToolbar"), RibbonRowKind::QuickAccess);
     EXPECT_EQ(KindOfRow(L"StatusEx_btns"), RibbonRowKind::StatusButtons);
     for (const wchar_t* keyword : {L"", L"QK_Ribbon_QAToolbar", L"qk_rbbion_qatoolbar", L"StatusEx_Btns",
-                                   L"statusex_btns", L"QK_Rbbion_QAToolbar "})
+                                   L"statusex_btns", L"QK_Rbbion_QAToolbar "}) {
         EXPECT_EQ(KindOfRow(keyword), RibbonRowKind::Categories) << keyword;
+    }
 }
 
 TEST(RibbonFileWalk, QuickAccessAndStatusRowsHaveOneLevel) {
@@ -228,8 +229,9 @@ TEST(RibbonFileDiagnostics, EveryProblemIsReportedWithItsPlace) {
 TEST(RibbonFileDiagnostics, ManyUnknownAttributesOfOneElementAreReportedInLinearTime) {
     const auto measure = [](std::size_t count) {
         std::string xml = "<d><r KEYWORD='r'";
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             xml += " x=''";
+        }
         xml += "/></d>";
         CXmlDocumentWrapper document;
         EXPECT_TRUE(document.LoadFromMemory(xml));

@@ -103,8 +103,9 @@ TEST(ElementKinds, TypesAreKnownInAnyLetterCase) {
     EXPECT_EQ(KindOfElement(L"QKRIBBONCHECKCOMB"), ElementKind::CheckCombo);
     EXPECT_EQ(KindOfElement(L"qkribbonmulticomb"), ElementKind::MultiCombo);
     EXPECT_EQ(KindOfElement(L"qkRibbonMultiComb2"), ElementKind::LightCombo);
-    for (const wchar_t* type : {L"", L"BUTTONS", L" BUTTON", L"qkRibbonMultiComb3"})
+    for (const wchar_t* type : {L"", L"BUTTONS", L" BUTTON", L"qkRibbonMultiComb3"}) {
         EXPECT_EQ(KindOfElement(type), ElementKind::Unknown) << type;
+    }
 }
 
 TEST(LetterCase, TextsOfDifferentLengthDiffer) {
@@ -130,10 +131,12 @@ TEST(DepthWalker, GoesBelowAnElementOnlyWhereTheVisitorSaysSo) {
 TEST(DepthWalker, DepthIsNotLimitedByTheStack) {
     std::string xml;
     constexpr int levels = 99999;
-    for (int i = 0; i < levels; ++i)
+    for (int i = 0; i < levels; ++i) {
         xml += "<a>";
-    for (int i = 0; i < levels; ++i)
+    }
+    for (int i = 0; i < levels; ++i) {
         xml += "</a>";
+    }
     CXmlDocumentWrapper document;
     ASSERT_TRUE(document.LoadFromMemory(xml));
     std::size_t deepest = 0;

@@ -12,8 +12,9 @@ namespace {
 TEST(TextArena, TextsStayWhereTheyAreAndEndInNul) {
     TextArena arena;
     std::vector<std::wstring_view> texts;
-    for (std::size_t length = 0; length < 3000; ++length)
+    for (std::size_t length = 0; length < 3000; ++length) {
         texts.push_back(arena.Widen(std::string(length, static_cast<char>('a' + length % 26))));
+    }
     for (std::size_t length = 0; length < texts.size(); ++length) {
         EXPECT_EQ(texts[length], std::wstring(length, static_cast<wchar_t>(L'a' + length % 26)));
         EXPECT_EQ(texts[length].data()[length], L'\0');
@@ -42,8 +43,9 @@ TEST(TextArena, ArraysAreAlignedAndEmpty) {
         const std::span<RibbonRecord> records = arena.MakeArray<RibbonRecord>(count);
         ASSERT_EQ(records.size(), count);
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(records.data()) % alignof(RibbonRecord), 0u);
-        for (const RibbonRecord& record : records)
+        for (const RibbonRecord& record : records) {
             ASSERT_TRUE(record.info.keyword.empty() && record.children.empty() && record.info.acceptF1);
+        }
     }
 }
 

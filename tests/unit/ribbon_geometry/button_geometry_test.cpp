@@ -93,10 +93,11 @@ TEST_P(ButtonScales, PartsOfAMeasuredButtonLieInsideItAndApart) {
             EXPECT_TRUE(IsInside(face.image, rect));
             EXPECT_TRUE(IsInside(face.text, rect));
             EXPECT_GE(face.text.Width(), text);
-            if (content.look == ButtonLook::Large)
+            if (content.look == ButtonLook::Large) {
                 EXPECT_LE(face.image.bottom, face.text.top);
-            else
+            } else {
                 EXPECT_LE(face.image.right, face.text.left);
+            }
             EXPECT_EQ(face.arrow.IsEmpty(), menu == ButtonMenu::None);
             EXPECT_TRUE(menu == ButtonMenu::None || IsInside(face.arrow, rect));
         }
@@ -151,8 +152,9 @@ TEST(ButtonFace, TheArrowStandsBelowAOneLineTextAndBehindATwoLineText) {
 
 TEST(ButtonFace, AnEmptyRectangleHasNoParts) {
     const ButtonFace face = PlaceButton({10, 10, 10, 30}, Small(1.0, 50, ButtonMenu::Split), At(1.0));
-    for (const Rect& part : {face.image, face.text, face.arrow, face.command, face.menu})
+    for (const Rect& part : {face.image, face.text, face.arrow, face.command, face.menu}) {
         EXPECT_TRUE(part.IsEmpty());
+    }
 }
 
 } // namespace

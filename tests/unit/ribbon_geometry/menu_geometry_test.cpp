@@ -68,24 +68,27 @@ TEST(MenuList, ALongListShowsEveryRowFromSomePosition) {
     std::mt19937 random(5);
     for (const FaceMetrics& metrics : kMetrics) {
         std::vector<Size> rows;
-        for (int i = 0; i < 60; ++i)
+        for (int i = 0; i < 60; ++i) {
             rows.push_back({100, 5 + static_cast<int>(random() % 40)});
+        }
         std::vector<bool> seen(rows.size(), false);
         for (int first = 0; first < 60; ++first) {
             const MenuList list = PlaceMenuList(rows, 0, 300, first, metrics);
             EXPECT_LE(list.size.height, 300);
             EXPECT_EQ(list.canScrollUp, list.firstRow > 0);
             for (std::size_t row = 0; row < rows.size(); ++row) {
-                if (list.rows[row].IsEmpty())
+                if (list.rows[row].IsEmpty()) {
                     continue;
+                }
                 seen[row] = true;
                 EXPECT_GE(list.rows[row].top, list.scrollUp.bottom);
                 EXPECT_LE(list.rows[row].bottom, list.scrollDown.top);
             }
             EXPECT_EQ(list.canScrollDown, list.rows.back().IsEmpty());
         }
-        for (const bool wasSeen : seen)
+        for (const bool wasSeen : seen) {
             EXPECT_TRUE(wasSeen);
+        }
     }
 }
 
@@ -132,8 +135,9 @@ TEST(MainPanelPlaces, PartsLieInTheFrameAndButtonsBelowIt) {
         content.bottom = {{70, 22}, {50, 22}};
         content.rightWidth = 200;
         const MainPanelPlaces places = PlaceMainPanel(content, metrics);
-        for (const Rect& rect : {places.left[0], places.left[1], places.right[0], places.rightFrame})
+        for (const Rect& rect : {places.left[0], places.left[1], places.right[0], places.rightFrame}) {
             EXPECT_TRUE(IsInside(rect, places.frame));
+        }
         EXPECT_LE(places.left[1].right, places.rightFrame.left);
         EXPECT_GE(places.rightFrame.Width(), 200);
         EXPECT_GE(places.bottom[0].top, places.frame.bottom);

@@ -14,8 +14,9 @@ using ribbon::TextBreak;
 // A font whose ideographs are 12 pixels wide, spaces 3 and everything else 6.
 int Width(std::wstring_view text) {
     int width = 0;
-    for (const wchar_t character : text)
+    for (const wchar_t character : text) {
         width += character >= L'\x2E80' ? 12 : character == L' ' ? 3 : 6;
+    }
     return width;
 }
 

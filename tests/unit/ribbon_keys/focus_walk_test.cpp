@@ -56,8 +56,9 @@ std::vector<RibbonRect> ShownElements(const std::vector<RibbonPanelLadder>& ladd
     std::vector<RibbonRect> rects;
     for (std::size_t panel = 0; panel < ladders.size(); ++panel) {
         const RibbonRect place = category.panels[panel].rect;
-        if (place.IsEmpty())
+        if (place.IsEmpty()) {
             continue;
+        }
         const RibbonPanelArrangement inside = ladders[panel].Arrange(category.panels[panel].stepCount);
         if (inside.collapsed) {
             rects.push_back(place);
@@ -66,15 +67,17 @@ std::vector<RibbonRect> ShownElements(const std::vector<RibbonPanelLadder>& ladd
         for (std::size_t element = 0; element < inside.elements.size(); ++element) {
             const RibbonRect rect = inside.elements[element].rect.Moved(place.left, place.top);
             const RibbonElementFlow flow = shapes[panel].elements[element].flow;
-            if (rect.IsEmpty() || flow == RibbonElementFlow::WholeHeight)
+            if (rect.IsEmpty() || flow == RibbonElementFlow::WholeHeight) {
                 continue; // separators take no focus
+            }
             if (flow != RibbonElementFlow::Row) {
                 rects.push_back(rect);
                 continue;
             }
             // A group is walked inside, button by button.
-            for (int left = rect.left; left < rect.right; left += 22)
+            for (int left = rect.left; left < rect.right; left += 22) {
                 rects.push_back({left, rect.top, std::min(left + 22, rect.right), rect.bottom});
+            }
         }
     }
     return rects;
@@ -114,8 +117,9 @@ TEST(FocusWalk, ReachesEveryElementOfAnyCategoryFromAnyOther) {
         for (int width = 300; width <= 2400; width += 170) {
             const std::vector<RibbonRect> rects =
                 ShownElements(ladders, shapes, ArrangeCategory(ladders, metrics, width));
-            if (rects.empty())
+            if (rects.empty()) {
                 continue;
+            }
             elements += rects.size();
             ASSERT_EQ(CountReached(rects, 0), rects.size()) << "seed " << seed << " width " << width;
             const std::size_t other = random() % rects.size();

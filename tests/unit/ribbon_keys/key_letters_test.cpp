@@ -15,8 +15,9 @@ namespace {
 
 std::vector<KeyTipWish> Texts(std::initializer_list<const wchar_t*> texts) {
     std::vector<KeyTipWish> wishes;
-    for (const wchar_t* text : texts)
+    for (const wchar_t* text : texts) {
         wishes.push_back({L"", text});
+    }
     return wishes;
 }
 
@@ -25,10 +26,12 @@ std::wstring FirstClash(const std::vector<std::wstring>& keys) {
     std::vector<std::wstring> sorted = keys;
     std::sort(sorted.begin(), sorted.end());
     for (std::size_t place = 0; place < sorted.size(); ++place) {
-        if (sorted[place].empty())
+        if (sorted[place].empty()) {
             return L"an empty key";
-        if (place > 0 && sorted[place].compare(0, sorted[place - 1].size(), sorted[place - 1]) == 0)
+        }
+        if (place > 0 && sorted[place].compare(0, sorted[place - 1].size(), sorted[place - 1]) == 0) {
             return sorted[place - 1] + L" begins " + sorted[place];
+        }
     }
     return {};
 }
@@ -36,8 +39,9 @@ std::wstring FirstClash(const std::vector<std::wstring>& keys) {
 std::wstring RandomText(std::mt19937& random) {
     static constexpr std::wstring_view characters = L"aaabcdeeefghiijklmnooprstuvwxyz  &\x5730\x56FE\x00E4 0";
     std::wstring text;
-    for (std::size_t length = random() % 12; length > 0; --length)
+    for (std::size_t length = random() % 12; length > 0; --length) {
         text += characters[random() % characters.size()];
+    }
     return text;
 }
 
@@ -80,8 +84,9 @@ TEST(KeyLetters, AreUniqueAndNoneBeginsAnother) {
     std::mt19937 random(7);
     for (const std::size_t count : {1u, 5u, 26u, 27u, 40u, 200u, 676u, 677u, 900u, 3000u}) {
         std::vector<KeyTipWish> wishes;
-        for (std::size_t place = 0; place < count; ++place)
+        for (std::size_t place = 0; place < count; ++place) {
             wishes.push_back({L"", RandomText(random)});
+        }
         EXPECT_EQ(FirstClash(AssignKeyTips(wishes)), L"") << count;
     }
 }
@@ -96,8 +101,9 @@ TEST(KeyLetters, AreUniqueBesideGivenOnes) {
             // Given keys of the same length are no prefixes of each other.
             const std::wstring key{static_cast<wchar_t>(L'A' + random() % 26),
                                    static_cast<wchar_t>(L'A' + random() % 5)};
-            if (random() % 3 == 0 && given.insert(key).second)
+            if (random() % 3 == 0 && given.insert(key).second) {
                 wish.keys = key;
+            }
             wishes.push_back(wish);
         }
         const std::vector<std::wstring> keys = AssignKeyTips(wishes);
@@ -113,8 +119,9 @@ TEST(KeyLetters, AreUniqueBesideGivenOnes) {
 TEST(KeyLetters, DependOnTheWishesAlone) {
     std::mt19937 random(13);
     std::vector<KeyTipWish> wishes;
-    for (int place = 0; place < 300; ++place)
+    for (int place = 0; place < 300; ++place) {
         wishes.push_back({L"", RandomText(random)});
+    }
     EXPECT_EQ(AssignKeyTips(wishes), AssignKeyTips(wishes));
     // What is appended takes nothing from those before it while the alphabet is enough.
     std::vector<KeyTipWish> few(wishes.begin(), wishes.begin() + 10);
@@ -127,8 +134,9 @@ TEST(KeyLetters, DependOnTheWishesAlone) {
 
 TEST(KeyLetters, GivenKeysThatTakeEverythingLeaveTheRestEmpty) {
     std::vector<KeyTipWish> wishes;
-    for (wchar_t letter = L'A'; letter <= L'Z'; ++letter)
+    for (wchar_t letter = L'A'; letter <= L'Z'; ++letter) {
         wishes.push_back({std::wstring(1, letter), L""});
+    }
     wishes.push_back({L"", L"Last"});
     EXPECT_EQ(AssignKeyTips(wishes).back(), L"");
 }
@@ -143,8 +151,9 @@ TEST(QuickAccessKeys, CountUpThenDownBehindAZero) {
 
 TEST(QuickAccessKeys, AreUniqueAndNoneBeginsAnother) {
     std::vector<std::wstring> keys;
-    for (std::size_t place = 0; place < 200; ++place)
+    for (std::size_t place = 0; place < 200; ++place) {
         keys.push_back(ribbon::QuickAccessKeyTip(place));
+    }
     EXPECT_EQ(FirstClash(keys), L"");
 }
 

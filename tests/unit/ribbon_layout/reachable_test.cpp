@@ -10,8 +10,9 @@ std::vector<RibbonPanelLadder> AnyPanels(unsigned seed, const RibbonMetrics& met
     std::mt19937 random(seed);
     const int count = std::uniform_int_distribution(1, 14)(random);
     std::vector<RibbonPanelLadder> panels;
-    for (int index = 0; index < count; ++index)
+    for (int index = 0; index < count; ++index) {
         panels.emplace_back(shapes::AnyPanel(random, metrics), metrics);
+    }
     return panels;
 }
 
@@ -21,11 +22,13 @@ std::set<size_t> PanelsInReach(const std::vector<RibbonPanelLadder>& panels, con
     for (int first = 0;; ++first) {
         const RibbonCategoryArrangement arrangement = ArrangeCategory(panels, metrics, width, {}, first);
         for (size_t panel = 0; panel < panels.size(); ++panel) {
-            if (!arrangement.panels[panel].rect.IsEmpty())
+            if (!arrangement.panels[panel].rect.IsEmpty()) {
                 seen.insert(panel);
+            }
         }
-        if (!arrangement.canScrollRight || arrangement.scrollRight.IsEmpty() || arrangement.firstPanel < first)
+        if (!arrangement.canScrollRight || arrangement.scrollRight.IsEmpty() || arrangement.firstPanel < first) {
             return seen;
+        }
     }
 }
 
@@ -33,8 +36,9 @@ TEST(RibbonCategoryLayout, AtEveryWidthEveryPanelCanBeReached) {
     for (unsigned seed = 1; seed <= 12; ++seed) {
         const RibbonMetrics metrics = RibbonMetrics::FromFont(13 + seed % 8, 1.0 + (seed % 4) * 0.25);
         const auto panels = AnyPanels(seed, metrics);
-        for (int width = 300; width <= 3840; ++width)
+        for (int width = 300; width <= 3840; ++width) {
             ASSERT_EQ(PanelsInReach(panels, metrics, width).size(), panels.size()) << "seed " << seed << " " << width;
+        }
     }
 }
 

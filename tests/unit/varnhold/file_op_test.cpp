@@ -9,9 +9,9 @@
 namespace {
 
 #ifdef _WIN32
-const std::wstring c_closing = L"\\";
+const std::wstring kClosing = L"\\";
 #else
-const std::wstring c_closing = L"/";
+const std::wstring kClosing = L"/";
 #endif
 
 std::wstring GetAppPath() {
@@ -21,7 +21,7 @@ std::wstring GetAppPath() {
 
 TEST(FileOpAppPath, IsTheFolderOfTheProgramUnlessSet) {
     const std::wstring path = GetAppPath();
-    EXPECT_TRUE(path.ends_with(c_closing));
+    EXPECT_TRUE(path.ends_with(kClosing));
 #ifdef _WIN32
     EXPECT_TRUE(FileOp::FileExist(path + L"varnhold_tests.exe"));
 #else
@@ -32,9 +32,9 @@ TEST(FileOpAppPath, IsTheFolderOfTheProgramUnlessSet) {
 TEST(FileOpAppPath, GetsItsClosingSeparatorOnce) {
     const std::wstring program = GetAppPath();
     FileOp::SetAppPath(L"somewhere");
-    EXPECT_EQ(GetAppPath(), L"somewhere" + c_closing);
-    FileOp::SetAppPath(L"somewhere" + c_closing);
-    EXPECT_EQ(GetAppPath(), L"somewhere" + c_closing);
+    EXPECT_EQ(GetAppPath(), L"somewhere" + kClosing);
+    FileOp::SetAppPath(L"somewhere" + kClosing);
+    EXPECT_EQ(GetAppPath(), L"somewhere" + kClosing);
     FileOp::SetAppPath(L"somewhere/");
     EXPECT_EQ(GetAppPath(), L"somewhere/");
     FileOp::SetAppPath(L"");
@@ -54,9 +54,9 @@ TEST(FileOpAppPath, ScopedPathsNestAndComeBack) {
         const ScopedAppPath outer(L"outer");
         {
             const ScopedAppPath inner(L"inner");
-            EXPECT_EQ(GetAppPath(), L"inner" + c_closing);
+            EXPECT_EQ(GetAppPath(), L"inner" + kClosing);
         }
-        EXPECT_EQ(GetAppPath(), L"outer" + c_closing);
+        EXPECT_EQ(GetAppPath(), L"outer" + kClosing);
     }
     EXPECT_EQ(GetAppPath(), program);
 }

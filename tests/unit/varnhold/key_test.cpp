@@ -8,18 +8,18 @@
 
 namespace {
 
-const wchar_t* const c_path = L"Software\\VarnholdTests";
+const wchar_t* const kPath = L"Software\\VarnholdTests";
 
 /// A key of the test's own below HKEY_CURRENT_USER.
 class Key : public ::testing::Test {
 protected:
     Key() {
-        RegDeleteTreeW(HKEY_CURRENT_USER, c_path);
-        RegCreateKeyExW(HKEY_CURRENT_USER, c_path, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &m_key, nullptr);
+        RegDeleteTreeW(HKEY_CURRENT_USER, kPath);
+        RegCreateKeyExW(HKEY_CURRENT_USER, kPath, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &m_key, nullptr);
     }
     ~Key() override {
         RegCloseKey(m_key);
-        RegDeleteTreeW(HKEY_CURRENT_USER, c_path);
+        RegDeleteTreeW(HKEY_CURRENT_USER, kPath);
     }
 
     void Write(const wchar_t* name, DWORD type, const std::wstring& text, DWORD extraBytes = 0) {
@@ -31,7 +31,7 @@ protected:
     static std::wstring Read(const wchar_t* name) {
         CKey key;
         std::wstring value = L"untouched";
-        EXPECT_TRUE(key.Open(HKEY_CURRENT_USER, c_path));
+        EXPECT_TRUE(key.Open(HKEY_CURRENT_USER, kPath));
         return key.GetStringValue(name, value) ? value : L"<" + value + L">";
     }
 
@@ -41,9 +41,9 @@ protected:
 TEST_F(Key, OpensWithAndWithoutClosingBackslash) {
     CKey key;
     EXPECT_FALSE(key.IsOpen());
-    EXPECT_TRUE(key.Open(HKEY_CURRENT_USER, c_path));
+    EXPECT_TRUE(key.Open(HKEY_CURRENT_USER, kPath));
     EXPECT_TRUE(key.IsOpen());
-    EXPECT_TRUE(key.Open(HKEY_CURRENT_USER, std::wstring(c_path) + L"\\"));
+    EXPECT_TRUE(key.Open(HKEY_CURRENT_USER, std::wstring(kPath) + L"\\"));
     EXPECT_FALSE(key.Open(HKEY_CURRENT_USER, L"Software\\VarnholdTests\\Missing"));
     EXPECT_FALSE(key.IsOpen());
 }
@@ -98,7 +98,7 @@ TEST_F(Key, OtherTypesMissingValuesAndClosedKeysLeaveTheArgumentAlone) {
 TEST_F(Key, MovesAndClosesOnce) {
     Write(L"plain", REG_SZ, L"text");
     CKey first;
-    ASSERT_TRUE(first.Open(HKEY_CURRENT_USER, c_path));
+    ASSERT_TRUE(first.Open(HKEY_CURRENT_USER, kPath));
     CKey second(std::move(first));
     EXPECT_TRUE(second.IsOpen());
     CKey third;

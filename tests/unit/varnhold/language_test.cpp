@@ -202,8 +202,9 @@ TEST_F(Language, ASectionAnswersLikeTheServiceAndKeepsTheLanguageItWasMadeIn) {
     LoadUnits(Unit("Map", "the map") + Unit("Map.tooltip", "shows the map") + Unit("Map.2", "two"));
     const CTranslationSection section("S");
     for (const char* key : {"Map", "Missing", ""}) {
-        for (const int number : {-1, 0, 1, 2})
+        for (const int number : {-1, 0, 1, 2}) {
             EXPECT_EQ(text(section, key, number), Text(key, number)) << key << " " << number;
+        }
     }
     EXPECT_EQ(text(section, "Map", 0), "shows the map");
     EXPECT_EQ(text(CTranslationSection("T"), "Map", -1), "Map");
@@ -243,8 +244,9 @@ TEST_F(Language, ABrokenOrMissingLanguageLeavesTheEarlierOneInForce) {
     ASSERT_TRUE(CMultiLanguageMgr::SetLanguage(L"en"));
     int calls = 0;
     const int listener = CMultiLanguageMgr::AddChangeListener([&] { ++calls; });
-    for (const wchar_t* code : {L"half", L"foreign", L"none", L"missing", L"..", L"en/../en", L"."})
+    for (const wchar_t* code : {L"half", L"foreign", L"none", L"missing", L"..", L"en/../en", L"."}) {
         EXPECT_FALSE(CMultiLanguageMgr::SetLanguage(code));
+    }
     CMultiLanguageMgr::RemoveChangeListener(listener);
     EXPECT_EQ(calls, 0);
     EXPECT_EQ(CMultiLanguageMgr::GetLanguage(), L"en");
@@ -341,16 +343,19 @@ TEST_F(Language, LookupsDuringASwitchSeeOneLanguageOrTheOther) {
         readers.emplace_back([&] {
             while (!done) {
                 const std::string text = Text("k");
-                if (text != "one" && text != "deux")
+                if (text != "one" && text != "deux") {
                     ++wrong;
+                }
             }
         });
     }
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         EXPECT_TRUE(CMultiLanguageMgr::SetLanguage(i % 2 ? L"en" : L"fr"));
+    }
     done = true;
-    for (std::thread& reader : readers)
+    for (std::thread& reader : readers) {
         reader.join();
+    }
     EXPECT_EQ(wrong, 0);
 }
 

@@ -19,8 +19,9 @@ TEST(RecursiveMutex, IsTakenAgainByItsHolderAndRefusedToOthersUntilReleased) {
         bool got = false;
         std::thread([&] {
             got = mutex.try_lock();
-            if (got)
+            if (got) {
                 mutex.unlock();
+            }
         }).join();
         return got;
     };

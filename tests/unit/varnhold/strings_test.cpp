@@ -13,7 +13,7 @@ struct Pair {
     std::wstring wide;
 };
 
-const Pair c_pairs[] = {
+const Pair kPairs[] = {
     {"", L""},
     {"plain", L"plain"},
     {"a\0b"s, L"a\0b"s},
@@ -45,7 +45,7 @@ TEST(Strings, EveryLengthWithEveryPlaceOfALongLetterIsConverted) {
 }
 
 TEST(Strings, ConvertsValidTextBothWaysWithoutLoss) {
-    for (const Pair& pair : c_pairs) {
+    for (const Pair& pair : kPairs) {
         EXPECT_EQ(string2wstring(pair.narrow), pair.wide) << pair.narrow;
         EXPECT_EQ(wstring2String(pair.wide), pair.narrow) << pair.narrow;
     }
@@ -53,8 +53,9 @@ TEST(Strings, ConvertsValidTextBothWaysWithoutLoss) {
 
 TEST(Strings, EveryCodePointSurvivesTheRoundTrip) {
     for (char32_t c = 0; c <= 0x10FFFF; ++c) {
-        if (c >= 0xD800 && c <= 0xDFFF)
+        if (c >= 0xD800 && c <= 0xDFFF) {
             continue;
+        }
         std::wstring wide;
         if (sizeof(wchar_t) == 2 && c > 0xFFFF) {
             wide += static_cast<wchar_t>(0xD800 | (c - 0x10000) >> 10);
@@ -92,8 +93,9 @@ TEST(Strings, BrokenUtf8BecomesOneReplacementForEachBrokenPiece) {
         {"\xE5\xE5\x9B\xBE", L"\xFFFD\x56FE"}, // cut short before a whole one
         {"\xC3", L"\xFFFD"},
     };
-    for (const Pair& pair : pairs)
+    for (const Pair& pair : pairs) {
         EXPECT_EQ(string2wstring(pair.narrow), pair.wide) << ::testing::PrintToString(pair.narrow);
+    }
 }
 
 TEST(Strings, TheFirstWideCharacterMayStandAnywhere) {

@@ -30,8 +30,9 @@ std::string Utf16(std::u16string_view text, bool bigEndian) {
 /// The value of the first attribute of the document element, or the error in angle brackets.
 std::wstring Read(std::string_view bytes) {
     CXmlDocumentWrapper document;
-    if (!document.LoadFromMemory(bytes))
+    if (!document.LoadFromMemory(bytes)) {
         return L"<" + document.GetErrorReason() + L">";
+    }
     return document.GetDocumentElement().GetAttributeValue(0);
 }
 
@@ -39,38 +40,38 @@ std::string Declared(std::string_view encoding, std::string_view value) {
     return "<?xml version=\"1.0\" encoding=\"" + std::string(encoding) + "\"?>\n<r n=\"" + std::string(value) + "\"/>";
 }
 
-const std::wstring c_map = L"\x5730\x56FE"; // "map" in Chinese
+const std::wstring kMap = L"\x5730\x56FE"; // "map" in Chinese
 
 TEST(XmlEncoding, WithoutMarkAndDeclarationTheFileIsUtf8) {
-    EXPECT_EQ(Read("<r n='\xE5\x9C\xB0\xE5\x9B\xBE'/>"), c_map);
-    EXPECT_EQ(Read("<?xml version='1.0'?><r n='\xE5\x9C\xB0\xE5\x9B\xBE'/>"), c_map);
+    EXPECT_EQ(Read("<r n='\xE5\x9C\xB0\xE5\x9B\xBE'/>"), kMap);
+    EXPECT_EQ(Read("<?xml version='1.0'?><r n='\xE5\x9C\xB0\xE5\x9B\xBE'/>"), kMap);
 }
 
 TEST(XmlEncoding, ByteOrderMarksAreKnown) {
-    EXPECT_EQ(Read("\xEF\xBB\xBF<r n='\xE5\x9C\xB0\xE5\x9B\xBE'/>"), c_map);
-    EXPECT_EQ(Read("\xFF\xFE" + Utf16(u"<r n='\u5730\u56FE'/>", false)), c_map);
-    EXPECT_EQ(Read("\xFE\xFF" + Utf16(u"<r n='\u5730\u56FE'/>", true)), c_map);
+    EXPECT_EQ(Read("\xEF\xBB\xBF<r n='\xE5\x9C\xB0\xE5\x9B\xBE'/>"), kMap);
+    EXPECT_EQ(Read("\xFF\xFE" + Utf16(u"<r n='\u5730\u56FE'/>", false)), kMap);
+    EXPECT_EQ(Read("\xFE\xFF" + Utf16(u"<r n='\u5730\u56FE'/>", true)), kMap);
 }
 
 TEST(XmlEncoding, AByteOrderMarkOutweighsTheDeclaration) {
-    EXPECT_EQ(Read("\xEF\xBB\xBF" + Declared("GBK", "\xE5\x9C\xB0\xE5\x9B\xBE")), c_map);
-    EXPECT_EQ(Read("\xFF\xFE" + Utf16(u"<?xml version='1.0' encoding='UTF-8'?><r n='\u5730\u56FE'/>", false)), c_map);
+    EXPECT_EQ(Read("\xEF\xBB\xBF" + Declared("GBK", "\xE5\x9C\xB0\xE5\x9B\xBE")), kMap);
+    EXPECT_EQ(Read("\xFF\xFE" + Utf16(u"<?xml version='1.0' encoding='UTF-8'?><r n='\u5730\u56FE'/>", false)), kMap);
 }
 
 TEST(XmlEncoding, Utf16IsKnownWithoutAMark) {
     const std::u16string text = u"<?xml version='1.0' encoding='UTF-16'?><r n='\u5730\u56FE'/>";
-    EXPECT_EQ(Read(Utf16(text, false)), c_map);
-    EXPECT_EQ(Read(Utf16(text, true)), c_map);
+    EXPECT_EQ(Read(Utf16(text, false)), kMap);
+    EXPECT_EQ(Read(Utf16(text, true)), kMap);
 }
 
 TEST(XmlEncoding, DeclaredByteOrdersOfUtf16AreKnown) {
     const std::u16string little = u"<?xml version='1.0' encoding='utf-16le'?><r n='\u5730\u56FE'/>";
     const std::u16string big = u"<?xml version='1.0' encoding='utf-16be'?><r n='\u5730\u56FE'/>";
-    EXPECT_EQ(Read(Utf16(little, false)), c_map);
-    EXPECT_EQ(Read(Utf16(big, true)), c_map);
+    EXPECT_EQ(Read(Utf16(little, false)), kMap);
+    EXPECT_EQ(Read(Utf16(big, true)), kMap);
     // The bytes tell the truth, whatever the declaration says.
-    EXPECT_EQ(Read(Utf16(big, false)), c_map);
-    EXPECT_EQ(Read(Utf16(little, true)), c_map);
+    EXPECT_EQ(Read(Utf16(big, false)), kMap);
+    EXPECT_EQ(Read(Utf16(little, true)), kMap);
 }
 
 TEST(XmlEncoding, Utf16ReachesBeyondTheBasicPlane) {
@@ -93,14 +94,18 @@ TEST(XmlEncoding, AHalfUnitAtTheEndOfUtf16IsNotSwallowed) {
 
 TEST(XmlEncoding, TheDeclaredEncodingIsHonoured) {
     for (const char* name : {"GBK", "gbk", "GB2312", "gb2312", "gb_2312-80", "GB_2312-80", "EUC-CN", "euc-cn",
-                             "GB18030", "cp936", "MS936", "ms936", "windows-936"})
-        EXPECT_EQ(Read(Declared(name, "\xB5\xD8\xCD\xBC")), c_map) << name;
-    for (const char* name : {"utf-8", "utf8", "UTF8"})
-        EXPECT_EQ(Read(Declared(name, "\xE5\x9C\xB0\xE5\x9B\xBE")), c_map) << name;
-    for (const char* name : {"ISO-8859-1", "iso_8859-1", "ISO_8859-1", "latin1", "l1", "L1"})
+                             "GB18030", "cp936", "MS936", "ms936", "windows-936"}) {
+        EXPECT_EQ(Read(Declared(name, "\xB5\xD8\xCD\xBC")), kMap) << name;
+    }
+    for (const char* name : {"utf-8", "utf8", "UTF8"}) {
+        EXPECT_EQ(Read(Declared(name, "\xE5\x9C\xB0\xE5\x9B\xBE")), kMap) << name;
+    }
+    for (const char* name : {"ISO-8859-1", "iso_8859-1", "ISO_8859-1", "latin1", "l1", "L1"}) {
         EXPECT_EQ(Read(Declared(name, "\xE4\xFF\x80")), L"\xE4\xFF\x80") << name;
-    for (const char* name : {"US-ASCII", "ascii"})
+    }
+    for (const char* name : {"US-ASCII", "ascii"}) {
         EXPECT_EQ(Read(Declared(name, "a\xE4")), L"a\xFFFD") << name;
+    }
 }
 
 TEST(XmlEncoding, TheDeclarationMayBeWrittenInAnyOfItsForms) {
@@ -115,9 +120,10 @@ TEST(XmlEncoding, AnUnknownEncodingIsAnErrorThatNamesIt) {
 }
 
 TEST(XmlEncoding, ADeclarationThatCannotBeTrueIsAnError) {
-    for (const char* name : {"UTF-16", "utf16", "utf-16le", "UTF-16LE", "utf-16be"})
+    for (const char* name : {"UTF-16", "utf16", "utf-16le", "UTF-16LE", "utf-16be"}) {
         EXPECT_EQ(Read(Declared(name, "x")),
                   L"<the declaration says " + string2wstring(name) + L", but the bytes are not UTF-16>");
+    }
     EXPECT_EQ(Read("\xFF\xFE\0\0<\0\0\0"s), L"<the encoding UTF-32 is not supported>");
     EXPECT_EQ(Read("\0\0\xFE\xFF\0\0\0<"s), L"<the encoding UTF-32 is not supported>");
 }
@@ -185,8 +191,9 @@ TEST(XmlEncoding, EveryGbkCharacterIsTheOneThatTheSystemKnows) {
             const bool privateUse = expected >= 0xE000 && expected <= 0xF8FF;
             // The system's older table differs in these two by one of two look-alikes.
             const bool lookAlike = (lead == 0xA1 && trail == 0xA4) || (lead == 0xA1 && trail == 0xAA);
-            if (expected == 0 || privateUse || lookAlike)
+            if (expected == 0 || privateUse || lookAlike) {
                 continue;
+            }
             const std::string value{static_cast<char>(lead), static_cast<char>(trail)};
             const std::wstring read = Read(Declared("GBK", value));
             ASSERT_EQ(read.size(), 1u) << std::hex << lead << ' ' << trail;

@@ -20,10 +20,12 @@ using namespace std::string_literals;
 
 std::string Nest(std::size_t depth, bool closed) {
     std::string text;
-    for (std::size_t i = 0; i < depth; ++i)
+    for (std::size_t i = 0; i < depth; ++i) {
         text += "<a>";
-    for (std::size_t i = 0; closed && i < depth; ++i)
+    }
+    for (std::size_t i = 0; closed && i < depth; ++i) {
         text += "</a>";
+    }
     return text;
 }
 
@@ -37,17 +39,18 @@ TEST(XmlHostile, TenThousandLevelsCanBeRead) {
     ASSERT_TRUE(document.LoadFromMemory(Nest(10000, true)));
     CXmlNodeWrapper node = document.GetDocumentElement();
     std::size_t depth = 0;
-    for (; !node.IsNull(); node = node.GetChild(0))
+    for (; !node.IsNull(); node = node.GetChild(0)) {
         ++depth;
+    }
     EXPECT_EQ(depth, 10000u);
 }
 
 TEST(XmlHostile, TheDepthLimitIsExact) {
-    EXPECT_EQ(Reason(Nest(CXmlDocumentWrapper::c_maxDepth, true)), "loaded");
+    EXPECT_EQ(Reason(Nest(CXmlDocumentWrapper::kMaxDepth, true)), "loaded");
     CXmlDocumentWrapper document;
-    EXPECT_FALSE(document.LoadFromMemory(Nest(CXmlDocumentWrapper::c_maxDepth + 1, true)));
+    EXPECT_FALSE(document.LoadFromMemory(Nest(CXmlDocumentWrapper::kMaxDepth + 1, true)));
     EXPECT_EQ(document.GetErrorReason(), L"elements are nested deeper than 100000");
-    EXPECT_EQ(document.GetErrorColumn(), 3 * CXmlDocumentWrapper::c_maxDepth + 1);
+    EXPECT_EQ(document.GetErrorColumn(), 3 * CXmlDocumentWrapper::kMaxDepth + 1);
 }
 
 TEST(XmlHostile, TheDepthLimitIsExactForTheShortestDocument) {
@@ -55,8 +58,8 @@ TEST(XmlHostile, TheDepthLimitIsExactForTheShortestDocument) {
         std::string text = Nest(depth, true);
         return text.replace(text.find("<a></a>"), 7, "<a/>");
     };
-    EXPECT_EQ(Reason(nest(CXmlDocumentWrapper::c_maxDepth)), "loaded");
-    EXPECT_EQ(Reason(nest(CXmlDocumentWrapper::c_maxDepth + 1)), "elements are nested deeper than 100000");
+    EXPECT_EQ(Reason(nest(CXmlDocumentWrapper::kMaxDepth)), "loaded");
+    EXPECT_EQ(Reason(nest(CXmlDocumentWrapper::kMaxDepth + 1)), "elements are nested deeper than 100000");
 }
 
 TEST(XmlHostile, TenMegabytesOfNestingAreRefusedSoon) {
@@ -80,16 +83,18 @@ double GrowthForFourTimes(std::size_t size, const std::function<double(std::size
 TEST(XmlHostile, ChildrenByIndexTakeLinearTime) {
     const double growth = GrowthForFourTimes(12500, [](std::size_t count) {
         std::string text = "<r>";
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             text += "<e n='1'/>";
+        }
         CXmlDocumentWrapper document;
         EXPECT_TRUE(document.LoadFromMemory(text + "</r>"));
         const CXmlNodeWrapper root = document.GetDocumentElement();
         EXPECT_EQ(root.GetChildCount(), count);
         return MeasureSeconds([&] {
             std::size_t sum = 0;
-            for (std::size_t i = 0; i < root.GetChildCount(); ++i)
+            for (std::size_t i = 0; i < root.GetChildCount(); ++i) {
                 sum += root.GetChild(i).GetAttributeValue(0).size() + root.GetChild(i).GetPosition().line;
+            }
             EXPECT_EQ(sum, 2 * count);
         });
     });
@@ -99,15 +104,17 @@ TEST(XmlHostile, ChildrenByIndexTakeLinearTime) {
 TEST(XmlHostile, AttributesByIndexTakeLinearTime) {
     const double growth = GrowthForFourTimes(12500, [](std::size_t count) {
         std::string text = "<r";
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             text += " a='v'";
+        }
         CXmlDocumentWrapper document;
         EXPECT_TRUE(document.LoadFromMemory(text + "/>"));
         const CXmlNodeWrapper root = document.GetDocumentElement();
         EXPECT_EQ(root.GetAttributeCount(), count);
         return MeasureSeconds([&] {
-            for (std::size_t i = 0; i < root.GetAttributeCount(); ++i)
+            for (std::size_t i = 0; i < root.GetAttributeCount(); ++i) {
                 ASSERT_EQ(root.GetAttributeName(i), L"a");
+            }
         });
     });
     EXPECT_LT(growth, 9.0);
@@ -159,10 +166,11 @@ TEST(XmlHostile, AnyByteMayBeWrong) {
             std::string broken = sample;
             broken[i] = wrong;
             CXmlDocumentWrapper document;
-            if (!document.LoadFromMemory(broken))
+            if (!document.LoadFromMemory(broken)) {
                 EXPECT_FALSE(document.GetErrorText().empty()) << i;
-            else
+            } else {
                 EXPECT_FALSE(document.GetDocumentElement().IsNull()) << i;
+            }
         }
     }
 }
@@ -194,8 +202,9 @@ TEST(XmlHostile, NothingOutsideTheFileIsRead) {
 
 TEST(XmlHostile, DeepDocumentTypesDoNotOverflowTheStack) {
     std::string text = "<!DOCTYPE r [";
-    for (int i = 0; i < 500000; ++i)
+    for (int i = 0; i < 500000; ++i) {
         text += "<!A ";
+    }
     EXPECT_EQ(Reason(text), "the document type definition is malformed or not closed");
 }
 
@@ -256,23 +265,26 @@ TEST(XmlHostile, ReferencesToNoCharacterAreRefusedWithTheirPlace) {
 
 TEST(XmlHostile, MarkupInAValueHidesNoReference) {
     for (const char* text : {"<r a='<!-- &#0; -->'/>", "<r a='<![CDATA[ &#0; ]]>'/>", "<r a='<?x &#0; ?>'/>",
-                             "<r a='<!--' b='&#0;' c='-->'/>", "<r a=\"'\" b='&#0;'/>", "<r a='/>'>&#0;</r>"})
+                             "<r a='<!--' b='&#0;' c='-->'/>", "<r a=\"'\" b='&#0;'/>", "<r a='/>'>&#0;</r>"}) {
         EXPECT_EQ(Reason(text), "a character reference stands for no character") << text;
+    }
 }
 
 TEST(XmlHostile, WhatIsNotReplacedMayLookLikeAReferenceToNoCharacter) {
     for (const char* text :
          {"<r><!-- &#0; --></r>", "<!-- &#0; --><r/>", "<r><![CDATA[&#0;<a b='>]]></r>", "<?x &#0;?><r/>",
           "<r><?x ' &#0;?></r>", "<!DOCTYPE r [<!ENTITY a '&#0;'><!ENTITY b \">&#0;\"><!-- '>&#0; -->]><r/>",
-          "<r a='&#1'>&#x<!--&#0;--></r>", "<?x?><!DOCTYPE r SYSTEM '>&#0;'><r><!--'--><?y \"?></r><!--&#0;-->"})
+          "<r a='&#1'>&#x<!--&#0;--></r>", "<?x?><!DOCTYPE r SYSTEM '>&#0;'><r><!--'--><?y \"?></r><!--&#0;-->"}) {
         EXPECT_EQ(Reason(text), "loaded") << text;
+    }
 }
 
 TEST(XmlHostile, HiddenReferencesAreFoundInLinearTime) {
     const double growth = GrowthForFourTimes(20000, [](std::size_t count) {
         std::string text = "<r>";
-        for (std::size_t i = 0; i < count; ++i)
+        for (std::size_t i = 0; i < count; ++i) {
             text += "<!--&#0;--><a b='&#65;'/>";
+        }
         text += "</r>";
         return MeasureSeconds([&] { EXPECT_EQ(Reason(text), "loaded"); });
     });

@@ -129,8 +129,9 @@ TEST(Xml, PositionsCountLinesAndCharactersFromOne) {
 
 TEST(Xml, PositionsHoldFarIntoALongLine) {
     std::string text = "<r>";
-    for (int i = 0; i < 3000; ++i)
+    for (int i = 0; i < 3000; ++i) {
         text += "<\xE5\x9C\xB0/>"; // four characters in six bytes
+    }
     text += "</r>";
     const CXmlDocumentWrapper document = Parse(text);
     const CXmlNodeWrapper root = document.GetDocumentElement();
@@ -240,23 +241,26 @@ TEST(Xml, APathWithANulIsNotCutThere) {
 
 TEST(Xml, ManyThreadsMayReadOneDocument) {
     std::string text = "<r>";
-    for (int i = 0; i < 500; ++i)
+    for (int i = 0; i < 500; ++i) {
         text += "<e n='" + std::to_string(i) + "'/>";
+    }
     const CXmlDocumentWrapper document = Parse(text + "</r>");
     std::vector<std::thread> threads;
     std::vector<int> good(4);
     for (int& count : good) {
         threads.emplace_back([&document, &count] {
             const CXmlNodeWrapper root = document.GetDocumentElement();
-            for (std::size_t i = 0; i < root.GetChildCount(); ++i)
+            for (std::size_t i = 0; i < root.GetChildCount(); ++i) {
                 count += root.GetChild(i).GetAttributeValue(0) == std::to_wstring(i) &&
                                  root.GetChild(i).GetPosition().column > 3
                              ? 1
                              : 0;
+            }
         });
     }
-    for (std::thread& thread : threads)
+    for (std::thread& thread : threads) {
         thread.join();
+    }
     EXPECT_EQ(good, std::vector<int>(4, 500));
 }
 

@@ -36,8 +36,9 @@ TEST_F(Pixels, RoundCornersAreClearOutsideAndSmoothOnTheEdge) {
     EXPECT_EQ(AlphaOf(m_view.At(2, 2)), 0u);
     EXPECT_EQ(AlphaOf(m_view.At(10, 2)), 255u);
     bool hasEdge = false;
-    for (int x = 2; x < 8; ++x)
+    for (int x = 2; x < 8; ++x) {
         hasEdge |= AlphaOf(m_view.At(x, 3)) > 0 && AlphaOf(m_view.At(x, 3)) < 255;
+    }
     EXPECT_TRUE(hasEdge);
 }
 
@@ -113,8 +114,9 @@ TEST(Disabled, IsGreyAndKeepsClearPixelsClear) {
 TEST(Resampling, KeepsAPlainColourAndHalvesAChequer) {
     std::vector<std::uint32_t> plain(16, 0xFF336699), larger(36);
     Resample({plain.data(), 4, 4}, {larger.data(), 6, 6});
-    for (const std::uint32_t pixel : larger)
+    for (const std::uint32_t pixel : larger) {
         EXPECT_EQ(pixel, 0xFF336699u);
+    }
     std::vector<std::uint32_t> chequer{0xFF000000, 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000}, one(1);
     Resample({chequer.data(), 2, 2}, {one.data(), 1, 1});
     EXPECT_NEAR(RedOf(one[0]), 128, 1);

@@ -23,18 +23,22 @@ double Contrast(Argb a, Argb b) {
 }
 
 TEST(SkinTable, HoldsEverySlotOnceInOrder) {
-    for (std::size_t i = 0; i < g_faceCount; ++i)
+    for (std::size_t i = 0; i < g_faceCount; ++i) {
         EXPECT_EQ(static_cast<std::size_t>(g_faceRows[i].slot), i) << NameOf(g_faceRows[i].slot);
-    for (std::size_t i = 0; i < g_colorCount; ++i)
+    }
+    for (std::size_t i = 0; i < g_colorCount; ++i) {
         EXPECT_EQ(static_cast<std::size_t>(g_colorRows[i].slot), i) << NameOf(g_colorRows[i].slot);
+    }
 }
 
 TEST(SkinTable, FillsEverySlotInEveryStyle) {
     for (std::size_t style = 0; style < g_styleCount; ++style) {
-        for (const FaceRow& row : g_faceRows)
+        for (const FaceRow& row : g_faceRows) {
             EXPECT_NE(row.styles[style], Face{}) << NameOf(row.slot) << " of style " << style;
-        for (const ColorRow& row : g_colorRows)
+        }
+        for (const ColorRow& row : g_colorRows) {
             EXPECT_NE(AlphaOf(row.styles[style]), 0u) << NameOf(row.slot) << " of style " << style;
+        }
     }
 }
 
@@ -59,8 +63,9 @@ TEST(SkinTable, TextCanBeReadOnItsGround) {
                      {ColorSlot::TooltipText, skin[FaceSlot::Tooltip].bottom1},
                      {ColorSlot::PaneCaptionText, skin[FaceSlot::PaneCaption].bottom1},
                      {ColorSlot::DocumentTabText, skin[FaceSlot::DocumentTab].bottom1}};
-        for (const auto& pair : pairs)
+        for (const auto& pair : pairs) {
             EXPECT_GE(Contrast(skin[pair.text], pair.ground), 4.0) << NameOf(pair.text) << " of style " << style;
+        }
     }
 }
 
@@ -69,8 +74,9 @@ TEST(SkinTable, TheTitleOfAnInactiveFrameCanBeReadOnAllOfItsCaption) {
     for (std::size_t style = 0; style < g_styleCount; ++style) {
         const Skin& skin = StyleSkin(style);
         const Face& caption = skin[FaceSlot::CaptionInactive];
-        for (const Argb ground : {caption.top1, caption.top2, caption.bottom1, caption.bottom2})
+        for (const Argb ground : {caption.top1, caption.top2, caption.bottom1, caption.bottom2}) {
             EXPECT_GE(Contrast(skin[ColorSlot::CaptionTextInactive], ground), 3.0) << "style " << style;
+        }
         EXPECT_LT(Contrast(skin[ColorSlot::CaptionTextInactive], caption.bottom1),
                   Contrast(skin[ColorSlot::CaptionText], skin[FaceSlot::CaptionActive].bottom1));
     }
@@ -94,8 +100,9 @@ TEST(SystemSkin, TheTitleOfAnInactiveFrameHasTheSystemsColourForIt) {
     SystemColors colors{};
     colors.text = colors.inactiveCaption = 0xFF102030;
     colors.inactiveCaptionText = 0xFFE0E0E0;
-    for (const Skin& skin : {MakeSystemSkin(colors), MakeBlendedSkin(colors), MakeGradientSkin(colors, 0xFF3060A0)})
+    for (const Skin& skin : {MakeSystemSkin(colors), MakeBlendedSkin(colors), MakeGradientSkin(colors, 0xFF3060A0)}) {
         EXPECT_GE(Contrast(skin[ColorSlot::CaptionTextInactive], skin[FaceSlot::CaptionInactive].bottom1), 3.0);
+    }
 }
 
 } // namespace

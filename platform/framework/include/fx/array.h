@@ -154,10 +154,10 @@ public:
 
 private:
     INT_PTR Checked(INT_PTR index) const {
-        if (index < 0 || index >= m_size) [[unlikely]] {
-            AfxThrowInvalidArgException();
+        if (index < 0 || index >= m_size) {
+            [[unlikely]] { AfxThrowInvalidArgException(); }
+            return index;
         }
-        return index;
     }
     INT_PTR GrownCapacity(INT_PTR needed) const {
         const INT_PTR step = m_growBy > 0 ? m_growBy : std::max<INT_PTR>(4, m_size / 2);

@@ -2,8 +2,8 @@
 
 // What every framework header needs: Windows itself and the decorations that the documented declarations carry.
 
-#include <windows.h>
 #include <tchar.h>
+#include <windows.h>
 
 #include "framework_api.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fx/wnd.h"
 #include "fx/image_list.h"
+#include "fx/wnd.h"
 
 /// A push button, check box, radio button, group box or owner-drawn button. Every member is one message or call of the
 /// control; results are the control's own.

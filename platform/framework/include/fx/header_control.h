@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fx/wnd.h"
 #include "fx/image_list.h"
+#include "fx/wnd.h"
 
 #include <commctrl.h>
 

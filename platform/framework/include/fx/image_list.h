@@ -2,8 +2,8 @@
 
 // CImageList: images of one size in one handle.
 
-#include "fx/dc.h"
 #include "fx/archive.h"
+#include "fx/dc.h"
 
 /// Owns its handle after Create or Attach and destroys it; a temporary one from FromHandle does not. Sizes are pixels,
 /// unscaled. Icons and bitmaps that are added stay the caller's.

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "fx/wnd.h"
 #include "fx/cmdui.h"
-#include "fx/thread.h"
 #include "fx/menu.h"
+#include "fx/thread.h"
+#include "fx/wnd.h"
 
 #include <bit>
 #include <type_traits>

@@ -10,8 +10,9 @@ public:
     /// The steps that this turn (WM_MOUSEWHEEL's) completes, with its sign. What is left waits for the next turn; a
     /// turn the other way starts anew.
     int Add(int turn, int stepsPerNotch = 1) {
-        if ((turn < 0) != (m_rest < 0))
+        if ((turn < 0) != (m_rest < 0)) {
             m_rest = 0;
+        }
         m_rest += turn * stepsPerNotch;
         const int steps = m_rest / WHEEL_DELTA;
         m_rest -= steps * WHEEL_DELTA;

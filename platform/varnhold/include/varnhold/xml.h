@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <string>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -81,15 +81,15 @@ private:
 ///
 /// Refused, with an error: tags, attributes, comments, sections or instructions that are malformed, not closed or
 /// crossed, a NUL character, a character reference that stands for none (0, a surrogate, above 10FFFF), more or less
-/// than one document element, text beside it, elements nested deeper than c_maxDepth, sources longer than c_maxSize
+/// than one document element, text beside it, elements nested deeper than kMaxDepth, sources longer than kMaxSize
 /// bytes, anything but a plain file.
 ///
 /// A document type definition is skipped and nothing outside the file is ever read: only the five predefined entities
 /// and character references are replaced, any other reference stays in the text as it was written.
 class VARNHOLD_API CXmlDocumentWrapper {
 public:
-    static constexpr std::size_t c_maxDepth = 100000;
-    static constexpr std::size_t c_maxSize = std::size_t(256) << 20;
+    static constexpr std::size_t kMaxDepth = 100000;
+    static constexpr std::size_t kMaxSize = std::size_t(256) << 20;
 
     CXmlDocumentWrapper();
     ~CXmlDocumentWrapper();
