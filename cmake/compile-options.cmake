@@ -37,9 +37,8 @@ target_compile_features(barwright_usage INTERFACE cxx_std_20)
 # For our own sources alone, so that bought ones and a host's keep their own warnings: link it PRIVATE.
 add_library(barwright_options INTERFACE)
 target_link_libraries(barwright_options INTERFACE barwright_usage)
-# GCC 12 sees an overlap in every literal + std::string, and bounds overstepped where a string becomes one character,
-# which it reports for headers that come precompiled.
-target_compile_options(barwright_options INTERFACE -Wall -Wextra -Werror -Wno-unknown-pragmas -Wno-restrict -Wno-array-bounds -Wno-stringop-overflow -fpch-preprocess)
+# GCC 12 sees an overlap in every literal + std::string.
+target_compile_options(barwright_options INTERFACE -Wall -Wextra -Werror -Wno-unknown-pragmas -Wno-restrict -fpch-preprocess)
 if(WIN32)
   # Message-map entries name handlers without qualification and reach protected base handlers.
   # Windows structures are read through more than one type everywhere (NMHDR and its extensions, RECT as two POINTs).
