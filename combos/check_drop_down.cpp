@@ -4,6 +4,8 @@
 #include "ribbon_check_combo.h"
 #include "ribbon_multi_combo.h"
 
+#include <fx/window_guard.h>
+
 IMPLEMENT_DYNCREATE(CMFCPopupMenuBarEx, CMFCPopupMenuBar)
 IMPLEMENT_DYNCREATE(CMFCCheckDropDown, CMFCDropDownListBox)
 
@@ -42,10 +44,10 @@ void CMFCPopupMenuBarEx::OnLButtonDown(UINT flags, CPoint point) {
 void CMFCPopupMenuBarEx::OnLButtonUp(UINT flags, CPoint point) {
     const int row = HitTest(point);
     const int zone = ZoneAt(point);
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     if (m_notifyChild && row >= 0 && zone >= 0) {
         const bool isDone = m_notifyChild->NotifyChangeData(row, zone, ordinaryClick);
-        if (!::IsWindow(window)) {
+        if (guard.IsGone()) {
             return;
         }
         if (isDone) {
@@ -59,10 +61,10 @@ void CMFCPopupMenuBarEx::OnLButtonUp(UINT flags, CPoint point) {
 // The row is not looked at: a double click in the column below the last row counts, too.
 void CMFCPopupMenuBarEx::OnLButtonDblClk(UINT flags, CPoint point) {
     const int zone = ZoneAt(point);
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     if (m_notifyChild && zone >= 0) {
         const bool isDone = m_notifyChild->NotifyChangeData(HitTest(point), zone, exclusiveClick);
-        if (!::IsWindow(window)) {
+        if (guard.IsGone()) {
             return;
         }
         if (isDone) {

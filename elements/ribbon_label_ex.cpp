@@ -5,6 +5,7 @@
 #include <afxglobals.h>
 #include <afxribbonbar.h>
 #include <afxvisualmanager.h>
+#include <fx/window_guard.h>
 
 #include <varnhold/language.h>
 
@@ -121,9 +122,9 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
 // The host may delete this label: the message comes last.
 void CMFCRibbonLabelEx::OnLButtonDown(CPoint point) {
     const CWnd* holder = GetTopLevelRibbonBar();
-    const HWND host = OwnerOf(holder ? holder : GetParentWnd());
+    const fx::WindowGuard host(OwnerOf(holder ? holder : GetParentWnd()));
     CMFCRibbonLabel::OnLButtonDown(point);
-    if (host && ::IsWindow(host)) {
-        ::SendMessageW(host, WM_RIBBON_LABEL_CLICKED, reinterpret_cast<WPARAM>(this), 0);
+    if (host.IsAlive()) {
+        ::SendMessageW(host.Handle(), WM_RIBBON_LABEL_CLICKED, reinterpret_cast<WPARAM>(this), 0);
     }
 }

@@ -9,6 +9,7 @@
 #include "afxvisualmanager.h"
 #include "frames/frame_border.h"
 #include "frames/maximized_place.h"
+#include "fx/window_guard.h"
 
 namespace {
 
@@ -255,9 +256,10 @@ void CFrameImpl::ShowSystemMenu(CPoint point) {
         ::EnableMenuItem(menu, item.command, MF_BYCOMMAND | (item.isEnabled ? MF_ENABLED : MF_GRAYED));
     }
     ::SetMenuDefaultItem(menu, SC_CLOSE, FALSE);
+    const fx::WindowGuard guard(window);
     const BOOL command = CMenu::FromHandle(menu)->TrackPopupMenu(TPM_RETURNCMD | TPM_LEFTALIGN | TPM_RIGHTBUTTON,
                                                                  point.x, point.y, m_frame);
-    if (command != 0 && ::IsWindow(window)) {
+    if (command != 0 && guard.IsAlive()) {
         ::PostMessageW(window, WM_SYSCOMMAND, static_cast<WPARAM>(command), 0);
     }
 }

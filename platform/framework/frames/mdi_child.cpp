@@ -1,6 +1,7 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "fx/window_guard.h"
 
 IMPLEMENT_DYNCREATE(CMDIChildWnd, CFrameWnd)
 
@@ -134,9 +135,9 @@ BOOL CMDIChildWnd::DestroyWindow() {
         return FALSE;
     }
     // Only the client may destroy a child: it activates the next one and puts the menu right.
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     MDIDestroy();
-    return !::IsWindow(window);
+    return guard.IsGone();
 }
 
 BOOL CMDIChildWnd::PreTranslateMessage(MSG* pMsg) {

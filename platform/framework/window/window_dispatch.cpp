@@ -4,6 +4,7 @@
 #include "fx/cmdui.h"
 #include "fx/exceptions.h"
 #include "fx/message_shapes.h"
+#include "fx/window_guard.h"
 #include "window/message_map.h"
 #include "window/thread_state.h"
 
@@ -239,13 +240,13 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
 
 void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm) {
     for (HWND child = ::GetTopWindow(hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        const fx::WindowGuard guard(child);
         if (!bOnlyPerm) {
             ::SendMessage(child, message, wParam, lParam);
         } else if (FromHandlePermanent(child) != nullptr) {
             AfxWndProc(child, message, wParam, lParam);
         }
-        // The handler may have destroyed it.
-        if (!::IsWindow(child)) {
+        if (guard.IsGone()) {
             break;
         }
         if (bDeep && ::GetTopWindow(child) != nullptr) {
