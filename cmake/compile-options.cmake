@@ -20,7 +20,10 @@ if(CCACHE_PROGRAM)
   if(NOT DEFINED ENV{CCACHE_DIR})
     execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/cache-folder ccache OUTPUT_VARIABLE ccache_folder
                     OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-    set(ccache_folder CCACHE_DIR=${ccache_folder} CCACHE_MAXSIZE=5G)
+    set(ccache_folder CCACHE_DIR=${ccache_folder})
+    # Precompiled headers are large: read once for their checksum, not for every source.
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env ${ccache_folder} ${CCACHE_PROGRAM} -o max_size=5G -o inode_cache=true
+                    OUTPUT_QUIET)
   endif()
   set(ccache_launcher ${CMAKE_COMMAND} -E env ${ccache_folder} CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
       CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
