@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <vector>
+
+/// One picture of an icon file, measured by its own header: what the file's directory says of it may be wrong and ends
+/// at 256. Sizes are pixels, `offset` and `byteCount` where its bytes stand in the file.
+struct IconPicture {
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+    std::uint32_t offset = 0;
+    std::uint32_t byteCount = 0;
+};
+
+/// Fills `bytes` from `offset` of a file and returns how many there were, fewer at its end.
+using IconFileReader = std::function<std::size_t(std::uint64_t offset, std::span<std::uint8_t> bytes)>;
+
+/// The pictures of an icon file in the order of its directory, looked up without decoding any. A picture whose header
+/// is missing or makes no sense is left out. No value: there is no directory of an icon file, or one that claims more
+/// than kMostIconPictures.
+std::optional<std::vector<IconPicture>> ReadIconHeaders(const IconFileReader& read);
+
+/// A file that holds a picture with a longer side is not loaded: decoding a large one takes seconds, at every paint.
+inline constexpr std::uint32_t kLongestIconSide = 1024;
+inline constexpr std::size_t kMostIconPictures = 256;
+
+/// Whether the file's pictures may be decoded: there is one, and none is larger than kLongestIconSide.
+bool MayDecode(const std::optional<std::vector<IconPicture>>& pictures);

@@ -1,0 +1,145 @@
+// What an icon file says of its pictures, looked up without decoding them.
+#include "elements/icon_header.h"
+#include "tests/support/icon_file_bytes.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+namespace {
+
+IconFileReader ReaderOf(const std::string& bytes) {
+    return [&bytes](std::uint64_t offset, std::span<std::uint8_t> wanted) -> std::size_t {
+        if (offset >= bytes.size()) {
+            return 0;
+        }
+        const std::size_t count = std::min<std::size_t>(wanted.size(), bytes.size() - offset);
+        std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(offset), count, wanted.begin());
+        return count;
+    };
+}
+
+std::optional<std::vector<IconPicture>> HeadersOf(const std::string& bytes) { return ReadIconHeaders(ReaderOf(bytes)); }
+
+bool MayDecodeBytes(const std::string& bytes) { return MayDecode(HeadersOf(bytes)); }
+
+TEST(IconHeader, PicturesAreListedInTheOrderOfTheDirectory) {
+    const auto pictures =
+        HeadersOf(MakeIconDirectory({BitmapHeader(16, 16), BitmapHeader(32, 48), PngHeader(256, 200)}));
+    ASSERT_TRUE(pictures);
+    ASSERT_EQ(pictures->size(), 3u);
+    EXPECT_EQ(pictures->at(0).width, 16u);
+    EXPECT_EQ(pictures->at(0).height, 16u) << "the rows of the mask are not the picture's";
+    EXPECT_EQ(pictures->at(1).width, 32u);
+    EXPECT_EQ(pictures->at(1).height, 48u);
+    EXPECT_EQ(pictures->at(2).width, 256u);
+    EXPECT_EQ(pictures->at(2).height, 200u);
+}
+
+TEST(IconHeader, PictureStandsWhereTheDirectorySays) {
+    const auto pictures = HeadersOf(MakeIconDirectory({BitmapHeader(16, 16), PngHeader(64, 64)}));
+    ASSERT_TRUE(pictures);
+    EXPECT_EQ(pictures->at(0).offset, 6u + 2 * 16);
+    EXPECT_EQ(pictures->at(0).byteCount, BitmapHeader(16, 16).size());
+    EXPECT_EQ(pictures->at(1).offset, 6u + 2 * 16 + BitmapHeader(16, 16).size());
+    EXPECT_EQ(pictures->at(1).byteCount, PngHeader(64, 64).size());
+}
+
+TEST(IconHeader, RowsThatGoDownwardsAreCountedAsWell) {
+    const auto pictures = HeadersOf(MakeIconDirectory({BitmapHeader(16, -16)}));
+    ASSERT_TRUE(pictures);
+    EXPECT_EQ(pictures->at(0).height, 16u);
+}
+
+TEST(IconHeader, OldestBitmapHeaderHasSizesOfSixteenBits) {
+    const auto pictures = HeadersOf(MakeIconDirectory({CoreBitmapHeader(16, 24)}));
+    ASSERT_TRUE(pictures);
+    EXPECT_EQ(pictures->at(0).width, 16u);
+    EXPECT_EQ(pictures->at(0).height, 24u);
+}
+
+TEST(IconHeader, SizeIsThatOfThePictureNotOfTheDirectory) {
+    std::string bytes = MakeIconDirectory({PngHeader(20000, 20000)});
+    bytes[6] = 16;
+    bytes[7] = 16;
+    EXPECT_FALSE(MayDecodeBytes(bytes));
+}
+
+TEST(IconHeader, SideOf1024PixelsMayBeDecodedAndOneMoreMayNot) {
+    for (const auto header : {&PngHeader, &BitmapHeader}) {
+        EXPECT_TRUE(MayDecodeBytes(MakeIconDirectory({header(1024, 1024)})));
+        EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({header(1025, 1)})));
+        EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({header(1, 1025)})));
+    }
+    EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({CoreBitmapHeader(1025, 16)})));
+}
+
+TEST(IconHeader, OneLargePictureKeepsTheWholeFileFromDecoding) {
+    EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({BitmapHeader(16, 16), PngHeader(4000, 4000)})));
+}
+
+TEST(IconHeader, LargestNumbersAreLarge) {
+    EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({PngHeader(INT32_MIN, 16)})));
+    EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({PngHeader(-1, -1)})));
+    EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({BitmapHeader(INT32_MIN, 16)})));
+    EXPECT_FALSE(MayDecodeBytes(MakeIconDirectory({BitmapHeader(INT32_MAX, 16)})));
+}
+
+TEST(IconHeader, WhatIsNoIconFileHasNoDirectory) {
+    EXPECT_FALSE(HeadersOf(""));
+    EXPECT_FALSE(HeadersOf(std::string("\0\0\1\0", 4)));
+    EXPECT_FALSE(HeadersOf("BM is a bitmap"));
+    EXPECT_FALSE(HeadersOf("RIFF....ACON"));
+    EXPECT_FALSE(HeadersOf(PngHeader(16, 16)));
+}
+
+TEST(IconHeader, CursorFileHasTheSameDirectory) {
+    std::string bytes = MakeIconDirectory({BitmapHeader(16, 16)});
+    bytes[2] = 2;
+    EXPECT_TRUE(MayDecodeBytes(bytes));
+}
+
+TEST(IconHeader, EmptyDirectoryHasNothingToDecode) {
+    const std::string bytes = MakeIconDirectory({});
+    ASSERT_TRUE(HeadersOf(bytes));
+    EXPECT_TRUE(HeadersOf(bytes)->empty());
+    EXPECT_FALSE(MayDecodeBytes(bytes));
+}
+
+TEST(IconHeader, PictureWithoutItsHeaderIsLeftOut) {
+    std::string bytes = MakeIconDirectory({BitmapHeader(16, 16), BitmapHeader(32, 32)});
+    bytes.resize(bytes.size() - BitmapHeader(32, 32).size() + 20);
+    const auto pictures = HeadersOf(bytes);
+    ASSERT_TRUE(pictures);
+    ASSERT_EQ(pictures->size(), 1u);
+    EXPECT_EQ(pictures->front().width, 16u);
+}
+
+TEST(IconHeader, PictureWithoutASizeIsLeftOut) {
+    const auto pictures = HeadersOf(MakeIconDirectory({BitmapHeader(0, 16), PngHeader(16, 0), BitmapHeader(24, 24)}));
+    ASSERT_TRUE(pictures);
+    ASSERT_EQ(pictures->size(), 1u);
+    EXPECT_EQ(pictures->front().width, 24u);
+}
+
+TEST(IconHeader, DirectoryOfMorePicturesThanAnyoneDrawsIsRefused) {
+    std::string bytes = MakeIconDirectory({BitmapHeader(16, 16)});
+    bytes[4] = 0;
+    bytes[5] = 1; // 256, all but one of them beyond the end
+    EXPECT_TRUE(HeadersOf(bytes));
+    bytes[4] = 1;
+    EXPECT_FALSE(HeadersOf(bytes));
+}
+
+TEST(IconHeader, EveryShorterFileIsReadWithoutHarm) {
+    const std::string whole = MakeIconDirectory({BitmapHeader(16, 16), PngHeader(64, 64), CoreBitmapHeader(8, 8)});
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        const std::string bytes = whole.substr(0, length);
+        const auto pictures = HeadersOf(bytes);
+        EXPECT_EQ(pictures.has_value(), length >= 6) << length;
+        EXPECT_LE(pictures ? pictures->size() : 0, 3u);
+    }
+}
+
+} // namespace
