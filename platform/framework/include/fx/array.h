@@ -155,9 +155,9 @@ public:
 private:
     INT_PTR Checked(INT_PTR index) const {
         if (index < 0 || index >= m_size) {
-            [[unlikely]] { AfxThrowInvalidArgException(); }
-            return index;
+            AfxThrowInvalidArgException();
         }
+        return index;
     }
     INT_PTR GrownCapacity(INT_PTR needed) const {
         const INT_PTR step = m_growBy > 0 ? m_growBy : std::max<INT_PTR>(4, m_size / 2);

@@ -141,9 +141,9 @@ private:
     static POSITION ToPosition(Node* node) { return reinterpret_cast<POSITION>(node); }
     static Node* Checked(Node* node) {
         if (node == nullptr) {
-            [[unlikely]] { AfxThrowInvalidArgException(); }
-            return node;
+            AfxThrowInvalidArgException();
         }
+        return node;
     }
     static Node* ToNode(POSITION position) { return Checked(reinterpret_cast<Node*>(position)); }
     static TYPE& Step(POSITION& position, Node* Node::*direction) {
