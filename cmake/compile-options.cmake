@@ -21,8 +21,10 @@ if(CCACHE_PROGRAM)
     execute_process(COMMAND ${PROJECT_SOURCE_DIR}/scripts/cache-folder ccache OUTPUT_VARIABLE ccache_folder
                     OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     set(ccache_folder CCACHE_DIR=${ccache_folder})
-    # Precompiled headers are large: read once for their checksum, not for every source.
+    # Precompiled headers are large: read once for their checksum, not for every source; what is not known is compiled at
+    # once, without being preprocessed first.
     execute_process(COMMAND ${CMAKE_COMMAND} -E env ${ccache_folder} ${CCACHE_PROGRAM} -o max_size=5G -o inode_cache=true
+                            -o depend_mode=true
                     OUTPUT_QUIET)
   endif()
   set(ccache_launcher ${CMAKE_COMMAND} -E env ${ccache_folder} CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}
