@@ -1,7 +1,7 @@
 # Bar, categories, panels, quick access toolbar and their layout.
 target_sources(framework PRIVATE
   bar.cpp bar_arrange.cpp bar_caption.cpp bar_categories.cpp bar_elements.cpp bar_input.cpp bar_keyboard.cpp
-  bar_layout.cpp bar_menus.cpp bar_quick_access.cpp bar_tooltip.cpp caption_button.cpp category.cpp category_layout.cpp
-  element_key_tips.cpp focus_walk.cpp key_letters.cpp key_tip.cpp keyboard.cpp keyboard_actions.cpp keyboard_walk.cpp
-  paint_buffer.cpp launch_button.cpp panel.cpp panel_elements.cpp panel_layout.cpp press.cpp quick_access.cpp bar.rc)
+  bar_menus.cpp bar_quick_access.cpp bar_tooltip.cpp caption_button.cpp category.cpp
+  element_key_tips.cpp key_tip.cpp keyboard.cpp keyboard_actions.cpp keyboard_walk.cpp
+  paint_buffer.cpp launch_button.cpp panel.cpp panel_elements.cpp press.cpp quick_access.cpp bar.rc)
 target_link_libraries(framework PRIVATE imm32)

@@ -3,7 +3,6 @@ target_sources(framework PRIVATE
   base_element.cpp
   button.cpp
   button_draw.cpp
-  button_geometry.cpp
   button_input.cpp
   button_menu_row.cpp
   button_popup.cpp
@@ -14,7 +13,6 @@ target_sources(framework PRIVATE
   combo_box_face.cpp
   drop_down_list.cpp
   edit.cpp
-  edit_geometry.cpp
   edit_tool.cpp
   edit_window.cpp
   element_commands.cpp
@@ -23,7 +21,5 @@ target_sources(framework PRIVATE
   panel_changes.cpp
   separator.cpp
   slider.cpp
-  slider_geometry.cpp
   sub_items.cpp
-  text_break.cpp
 )
