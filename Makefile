@@ -24,7 +24,7 @@ build: setup
 	@scripts/build native
 
 demo: setup
-	@scripts/build windows-release
+	@scripts/build windows-release demo
 	@scripts/run-demo
 
 test: setup
