@@ -76,7 +76,7 @@ public:
     virtual CMFCRibbonPanel* GetParentPanel() const;
     virtual void SetParentRibbonBar(CMFCRibbonBar* pRibbonBar);
     CMFCRibbonBar* GetParentRibbonBar() const;
-    CMFCRibbonBar* GetTopLevelRibbonBar() const;
+    virtual CMFCRibbonBar* GetTopLevelRibbonBar() const;
     virtual void SetParentWnd(CWnd* pParentWnd);
     virtual CWnd* GetParentWnd() const;
     // The pop-up that shows the element now, null while its own container does.
@@ -225,7 +225,7 @@ public:
     void SetDisabled(BOOL bDisabled);
     void SetChecked(BOOL bChecked, BOOL bIsRadio = FALSE);
     // The pop-up that the element has dropped down, null when it closes; not owned.
-    void SetDroppedDown(CWnd* pPopup);
+    virtual void SetDroppedDown(CWnd* pPopup);
     CWnd* GetPopup() const { return m_pPopup; }
     void SetLocationInGroup(RibbonElementLocation location) { m_Location = location; }
     void SetShowGroupBorder(BOOL bShow) { m_bShowGroupBorder = bShow; }

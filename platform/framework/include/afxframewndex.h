@@ -43,10 +43,10 @@ public:
     UINT GetDefaultResId() const { return m_Impl.m_defaultResourceId; }
     void SetMenuBar(CMFCMenuBar* bar) { m_Impl.SetMenuBar(bar); }
 
-    virtual BOOL OnShowPopupMenu(CMFCPopupMenu* pMenu);
-    virtual void OnClosePopupMenu(CMFCPopupMenu* pMenuPopup);
-    virtual BOOL OnDrawMenuImage(CDC* pDC, const CMFCToolBarMenuButton* pMenuButton, const CRect& rectImage);
-    virtual BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* pButton, CString& strTTText);
+    BOOL OnShowPopupMenu(CMFCPopupMenu* pMenu) override;
+    void OnClosePopupMenu(CMFCPopupMenu* pMenuPopup) override;
+    BOOL OnDrawMenuImage(CDC* pDC, const CMFCToolBarMenuButton* pMenuButton, const CRect& rectImage) override;
+    BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* pButton, CString& strTTText) override;
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;

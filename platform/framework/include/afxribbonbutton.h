@@ -133,7 +133,7 @@ protected:
     ribbon::MenuRowContent CollectMenuRow(CDC* pDC) const;
     void DrawMenuRow(CDC* pDC);
     void PlaceMenuRowParts(CDC* pDC);
-    RibbonImageType GetFaceImageType() const;
+    virtual RibbonImageType GetFaceImageType() const;
     void DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText);
     // Asks for a new layout when the text that is drawn, in one line, is not the one that was measured.
     void CompareWithMeasured(CSize sizeDrawn);

@@ -221,7 +221,7 @@ private:
     int GetRowCount() const override { return GetCount(); }
     CString GetRowText(int row) const override;
     int MeasureRows(CDC& dc) override;
-    int MeasureRow(CDC& dc, int row) override { return MeasureText(dc, row, GetRowText(row)); }
+    int MeasureRow(CDC& dc, int row) override;
     int MeasureText(CDC& dc, int row, const CString& text);
     BOOL DrawRow(CDC& dc, int row, CMFCToolBarMenuButton& button, BOOL isHot) override;
     void ChooseRow(int row) override { OnChooseItem(static_cast<UINT>(row)); }

@@ -126,6 +126,8 @@ int CMFCDropDownListBox::MeasureRows(CDC& dc) {
     return width;
 }
 
+int CMFCDropDownListBox::MeasureRow(CDC& dc, int row) { return MeasureText(dc, row, GetRowText(row)); }
+
 BOOL CMFCDropDownListBox::DrawRow(CDC& dc, int row, CMFCToolBarMenuButton& button, BOOL isHot) {
     return m_pCombo != nullptr && m_pCombo->OnDrawDropListItem(&dc, row, &button, isHot);
 }

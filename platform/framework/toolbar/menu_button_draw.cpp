@@ -1,9 +1,7 @@
 // How a menu's item looks, in a menu and in a toolbar.
 #include "afxtoolbarmenubutton.h"
 
-#include "afxframewndex.h"
 #include "afxglobals.h"
-#include "afxMDIFrameWndEx.h"
 #include "afxpopupmenu.h"
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
@@ -53,11 +51,7 @@ void DrawArrow(CDC& dc, const CRect& rect, bool isToTheRight, COLORREF color) {
 /// The host's drawing of the image. TRUE: done.
 BOOL DrawByFrame(CDC* dc, const CMFCToolBarMenuButton& button, const CRect& rect) {
     CFrameWnd* frame = button.GetParentWnd() ? button.GetParentWnd()->GetTopLevelFrame() : nullptr;
-    if (auto* single = DYNAMIC_DOWNCAST(CFrameWndEx, frame)) {
-        return single->OnDrawMenuImage(dc, &button, rect);
-    }
-    auto* multiple = DYNAMIC_DOWNCAST(CMDIFrameWndEx, frame);
-    return multiple && multiple->OnDrawMenuImage(dc, &button, rect);
+    return frame && frame->OnDrawMenuImage(dc, &button, rect);
 }
 
 } // namespace

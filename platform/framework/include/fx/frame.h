@@ -10,6 +10,9 @@
 class CControlBar;
 class CDockingManager;
 class CDocument;
+class CMFCPopupMenu;
+class CMFCToolBarButton;
+class CMFCToolBarMenuButton;
 class CView;
 struct CCreateContext;
 
@@ -113,6 +116,14 @@ public:
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     /// NULL unless the frame docks panes.
     virtual CDockingManager* FindDockingManager() { return NULL; }
+    /// What menus and toolbars ask the frame that they belong to; only the extended frames have answers.
+    /// FALSE: the menu is not shown.
+    virtual BOOL OnShowPopupMenu(CMFCPopupMenu*) { return TRUE; }
+    virtual void OnClosePopupMenu(CMFCPopupMenu*) {}
+    /// TRUE: the image is drawn.
+    virtual BOOL OnDrawMenuImage(CDC*, const CMFCToolBarMenuButton*, const CRect&) { return FALSE; }
+    /// TRUE: the text is the button's tooltip.
+    virtual BOOL GetToolbarButtonToolTipText(CMFCToolBarButton*, CString&) { return FALSE; }
 
     BOOL m_bAutoMenuEnable = TRUE; ///< items without a handler are disabled when their menu opens
     HACCEL m_hAccelTable = NULL;   ///< current table, NULL when none; replace it with ReplaceAccelTable
