@@ -4,6 +4,7 @@
 
 namespace {
 
+using toolbar::NoRoom;
 using toolbar::PopupPlacement;
 using toolbar::PopupRequest;
 
@@ -51,12 +52,13 @@ PopupPlacement toolbar::PlacePopup(const PopupRequest& request) {
         const int above = hasAvoid ? static_cast<int>(request.avoid.top) : y;
         const int roomAbove = above - work.top;
         const int roomBelow = work.bottom - y;
-        if (roomAbove >= size.cy || roomAbove > roomBelow) {
+        const bool isCut = hasAvoid && request.noRoom == NoRoom::Cut;
+        if (roomAbove >= size.cy || (roomAbove > roomBelow && (isCut || !hasAvoid))) {
             result.direction = CMFCPopupMenu::DROP_DIRECTION_TOP;
             // A menu at a point may cover the point; one that was dropped down never covers what dropped it.
-            size.cy = hasAvoid ? std::min<int>(size.cy, roomAbove) : size.cy;
+            size.cy = isCut ? std::min<int>(size.cy, roomAbove) : size.cy;
             y = above - size.cy;
-        } else if (hasAvoid) {
+        } else if (isCut) {
             size.cy = std::min<int>(size.cy, roomBelow);
         }
     }

@@ -8,6 +8,7 @@
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
+#include "popups/popup_place.h"
 #include "popups/tooltip_layout.h"
 #include "popups/tooltip_shape.h"
 #include "popups/tooltip_text.h"
@@ -24,17 +25,6 @@ struct Margins {
 };
 constexpr Margins g_squareMargins = {4, 2};
 constexpr Margins g_roundedMargins = {6, 4};
-
-CRect WorkAreaAt(CPoint point) {
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    if (::GetMonitorInfo(::MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &info)) {
-        return info.rcWork;
-    }
-    CRect area(0, 0, 0, 0);
-    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
-}
 
 } // namespace
 
@@ -91,13 +81,14 @@ BOOL CMFCToolTipCtrl::PlaceForShow(CPoint ptScreen, CSize size) {
     const bool isFixed = ptScreen != g_nowhere;
     const CPoint wanted = isFixed ? ptScreen : CPoint(cursor.x, cursor.y + ::GetSystemMetrics(SM_CYCURSOR) * 2 / 3);
     int avoidTop = static_cast<int>(cursor.y) - 1;
-    const CMFCRibbonBar* bar = m_pRibbonButton != nullptr ? m_pRibbonButton->GetTopLevelRibbonBar() : nullptr;
+    const CWnd* bar = m_pRibbonButton != nullptr ? m_pRibbonButton->GetTopLevelRibbonBar() : nullptr;
     if (bar != nullptr && bar->GetSafeHwnd() != nullptr) {
         CRect area;
         bar->GetWindowRect(area);
         avoidTop = static_cast<int>(area.top);
     }
-    const CPoint corner = tooltip::KeepInside(wanted, size, WorkAreaAt(wanted), avoidTop);
+    const CPoint corner =
+        tooltip::KeepInside(wanted, size, toolbar::WorkAreaAround(CRect(wanted, CSize(0, 0))), avoidTop);
     m_bMovedForShow = TRUE;
     m_rectShow = CRect(corner, size);
     // The frame again, too: with the looks the system's border may have come or gone.

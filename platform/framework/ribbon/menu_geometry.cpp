@@ -200,26 +200,4 @@ std::vector<Rect> PlaceLines(std::span<const Size> elements, int width, int gap)
     return places;
 }
 
-Rect PlacePopup(const Rect& area, Size size, PopupSide side, const Rect& workArea) {
-    int x = area.left;
-    int y = area.bottom;
-    if (side == PopupSide::Beside) {
-        x = area.right;
-        y = area.top;
-        if (x + size.width > workArea.right && area.left - size.width >= workArea.left) {
-            x = area.left - size.width;
-        }
-    } else {
-        if (side == PopupSide::BelowAtRight) {
-            x = area.right - size.width;
-        }
-        if (y + size.height > workArea.bottom && area.top - size.height >= workArea.top) {
-            y = area.top - size.height;
-        }
-    }
-    x = std::max(std::min(x, workArea.right - size.width), workArea.left);
-    y = std::max(std::min(y, workArea.bottom - size.height), workArea.top);
-    return {x, y, x + size.width, y + size.height};
-}
-
 } // namespace ribbon

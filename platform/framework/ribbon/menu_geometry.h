@@ -64,9 +64,4 @@ int FirstRowThatShows(std::span<const Size> rows, int row, int maxHeight, int fi
 // Elements side by side that go on in a new line where the width ends. Lines are as high as their highest element.
 std::vector<Rect> PlaceLines(std::span<const Size> elements, int width, int gap);
 
-// Where a pop-up of this size opens beside an area of the screen: below it, at its left or right edge, else above it;
-// or, as a submenu, at its right, else at its left. Never outside the work area, unless it is larger.
-enum class PopupSide { Below, BelowAtRight, Beside };
-Rect PlacePopup(const Rect& area, Size size, PopupSide side, const Rect& workArea);
-
 } // namespace ribbon

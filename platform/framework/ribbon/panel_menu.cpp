@@ -6,9 +6,9 @@
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
 #include "popups/menu_watch.h"
+#include "popups/popup_place.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/keyboard.h"
-#include "ribbon/menu_geometry.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonPanelMenu, CMFCPopupMenu)
 
@@ -37,31 +37,21 @@ CMFCRibbonPanelMenu* NearestRibbonMenu(CMFCPopupMenu* menu) {
     return static_cast<CMFCRibbonPanelMenu*>(menu);
 }
 
-ribbon::PopupSide ToSide(CMFCRibbonPanelMenu::Side side) {
+/// Of a pop-up's window around the bar, for a room on the screen.
+CSize SizeIn(CMFCRibbonPanelMenuBar& bar, int border, CSize room) {
+    const CSize content = bar.CalcContentSize(CSize(room.cx - 2 * border, room.cy - 2 * border));
+    return CSize(content.cx + 2 * border, content.cy + 2 * border);
+}
+
+CPoint WantedCorner(const CRect& area, CMFCRibbonPanelMenu::Side side) {
     switch (side) {
     case CMFCRibbonPanelMenu::Side::BelowAtRight:
-        return ribbon::PopupSide::BelowAtRight;
+        return area.BottomRight();
     case CMFCRibbonPanelMenu::Side::Beside:
-        return ribbon::PopupSide::Beside;
+        return CPoint(area.right, area.top);
     default:
-        return ribbon::PopupSide::Below;
+        return CPoint(area.left, area.bottom);
     }
-}
-
-CMFCPopupMenu::DROP_DIRECTION DirectionOf(const CRect& place, const CRect& area, CMFCRibbonPanelMenu::Side side) {
-    if (side == CMFCRibbonPanelMenu::Side::Beside) {
-        return place.left < area.left ? CMFCPopupMenu::DROP_DIRECTION_LEFT : CMFCPopupMenu::DROP_DIRECTION_RIGHT;
-    }
-    return place.top < area.top ? CMFCPopupMenu::DROP_DIRECTION_TOP : CMFCPopupMenu::DROP_DIRECTION_BOTTOM;
-}
-
-CRect WorkAreaAround(const CRect& area) {
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof(monitor);
-    if (::GetMonitorInfo(::MonitorFromRect(area, MONITOR_DEFAULTTONEAREST), &monitor)) {
-        return monitor.rcWork;
-    }
-    return {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
 }
 
 } // namespace
@@ -116,9 +106,9 @@ BOOL CMFCRibbonPanelMenu::InitMenuBar() {
 }
 
 void CMFCRibbonPanelMenu::OnOpened() {
-    if (CFrameWnd* frame = GetCommandFrame()) {
-        m_wndRibbonBar.UpdateElements(frame, frame->m_bAutoMenuEnable);
-    }
+    // What belongs to a dialog hands the question on to the dialog, which disables nothing.
+    CFrameWnd* frame = GetCommandFrame();
+    m_wndRibbonBar.UpdateElements(frame != nullptr ? frame : this, frame != nullptr && frame->m_bAutoMenuEnable);
 }
 
 // Opened by the keyboard it takes the next letters; without key tips it shows where the keyboard is.
@@ -152,13 +142,21 @@ int CMFCRibbonPanelMenu::GetBorderSize() const {
 }
 
 void CMFCRibbonPanelMenu::Place() {
-    const CRect work = WorkAreaAround(m_area);
-    const int border = GetBorderSize();
-    const CSize content = m_wndRibbonBar.CalcContentSize({work.Width() - 2 * border, work.Height() - 2 * border});
-    const ribbon::Size size{static_cast<int>(content.cx) + 2 * border, static_cast<int>(content.cy) + 2 * border};
-    const CRect place =
-        ribbon::ToRect(ribbon::PlacePopup(ribbon::FromRect(m_area), size, ToSide(m_side), ribbon::FromRect(work)));
-    m_DropDirection = DirectionOf(place, m_area, m_side);
+    toolbar::PopupRequest request;
+    request.workArea = toolbar::WorkAreaAround(m_area);
+    request.avoid = m_area;
+    request.wanted = WantedCorner(m_area, m_side);
+    request.isRightAligned = m_side == Side::BelowAtRight;
+    // Rows scroll where there is too little room; panels and buttons have one height only.
+    request.noRoom = m_wndRibbonBar.GetLook() == RibbonPopupLook::Menu ? toolbar::NoRoom::Cut : toolbar::NoRoom::Cover;
+    request.size = SizeIn(m_wndRibbonBar, GetBorderSize(), request.workArea.Size());
+    toolbar::PopupPlacement placement = toolbar::PlacePopup(request);
+    if (placement.rect.Height() < request.size.cy) {
+        request.size = SizeIn(m_wndRibbonBar, GetBorderSize(), CSize(request.workArea.Width(), placement.rect.Height()));
+        placement = toolbar::PlacePopup(request);
+    }
+    m_DropDirection = placement.direction;
+    const CRect& place = placement.rect;
     SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(),
                  SWP_NOZORDER | SWP_NOOWNERZORDER | SWP_NOACTIVATE);
 }

@@ -71,6 +71,40 @@ TEST_P(PopupPlaceTest, APopupOpensWhereThereIsRoom) {
 
 INSTANTIATE_TEST_SUITE_P(All, PopupPlaceTest, ::testing::ValuesIn(cases));
 
+TEST(PopupRoomTest, WhatCannotScrollKeepsItsSizeAndCoversWhatOpenedIt) {
+    PopupRequest request;
+    request.wanted = CPoint(100, 300);
+    request.avoid = CRect(100, 200, 140, 300);
+    request.size = CSize(80, 500);
+    request.workArea = work;
+    EXPECT_EQ(PlacePopup(request).rect, CRect(100, 300, 180, 600)) << "cut to the room below";
+    request.noRoom = toolbar::NoRoom::Cover;
+    EXPECT_EQ(PlacePopup(request).rect, CRect(100, 100, 180, 600));
+    request.size = CSize(80, 200);
+    EXPECT_EQ(PlacePopup(request).rect, CRect(100, 300, 180, 500)) << "where there is room both are the same";
+}
+
+TEST(PopupRoomTest, APopupOfAnyOpenerLiesInTheWorkArea) {
+    for (const toolbar::NoRoom noRoom : {toolbar::NoRoom::Cut, toolbar::NoRoom::Cover}) {
+        for (int x = -50; x < 850; x += 30) {
+            for (int y = -50; y < 650; y += 30) {
+                PopupRequest request;
+                request.workArea = work;
+                request.avoid = CRect(x, y, x + 40, y + 20);
+                request.size = CSize(300, 400);
+                request.noRoom = noRoom;
+                for (const CPoint corner : {CPoint(x, y + 20), CPoint(x + 40, y)}) {
+                    request.wanted = corner;
+                    const CRect rect = PlacePopup(request).rect;
+                    CRect inside;
+                    inside.IntersectRect(rect, work);
+                    EXPECT_EQ(inside, rect) << x << ' ' << y;
+                }
+            }
+        }
+    }
+}
+
 TEST(MenuRowTest, TheColumnsOfARowLieBesideEachOther) {
     toolbar::MenuRowMetrics metrics;
     metrics.gutter = 24;

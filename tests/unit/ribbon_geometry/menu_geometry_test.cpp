@@ -111,22 +111,6 @@ TEST(Lines, GoOnInTheNextOneWhereTheWidthEnds) {
     EXPECT_EQ(places[2], (Rect{0, 20, 40, 40}));
 }
 
-TEST(Popup, StaysInTheWorkAreaAndBesideItsOpenerWhereThereIsRoom) {
-    const Rect work{0, 0, 800, 600};
-    EXPECT_EQ(PlacePopup({100, 50, 150, 70}, {200, 100}, PopupSide::Below, work), (Rect{100, 70, 300, 170}));
-    EXPECT_EQ(PlacePopup({300, 50, 350, 70}, {200, 100}, PopupSide::BelowAtRight, work), (Rect{150, 70, 350, 170}));
-    EXPECT_EQ(PlacePopup({100, 550, 150, 570}, {200, 100}, PopupSide::Below, work), (Rect{100, 450, 300, 550}));
-    EXPECT_EQ(PlacePopup({100, 50, 150, 70}, {200, 100}, PopupSide::Beside, work), (Rect{150, 50, 350, 150}));
-    EXPECT_EQ(PlacePopup({600, 50, 700, 70}, {200, 100}, PopupSide::Beside, work), (Rect{400, 50, 600, 150}));
-    for (const PopupSide side : {PopupSide::Below, PopupSide::BelowAtRight, PopupSide::Beside}) {
-        for (int x = -50; x < 850; x += 30) {
-            for (int y = -50; y < 650; y += 30) {
-                EXPECT_TRUE(IsInside(PlacePopup({x, y, x + 40, y + 20}, {300, 400}, side, work), work));
-            }
-        }
-    }
-}
-
 TEST(MainPanelPlaces, PartsLieInTheFrameAndButtonsBelowIt) {
     for (const FaceMetrics& metrics : kMetrics) {
         MainPanelContent content;
