@@ -50,11 +50,11 @@ public:
     /// Closes every open pop-up.
     static void CloseAll();
     /// The innermost open pop-up; NULL when none is open.
-    static CMFCPopupMenu* GetActiveMenu() { return m_pActivePopupMenu; }
+    static CMFCPopupMenu* GetActiveMenu();
     static BOOL __stdcall ActivatePopupMenu(CFrameWnd* pTopFrame, CMFCPopupMenu* pPopupMenu);
     void SetAutoDestroy(BOOL bAutoDestroy = TRUE) { m_bAutoDestroy = bAutoDestroy; }
     HMENU GetHMenu() { return m_hMenu; }
-    BOOL IsShown() const { return m_bShown; }
+    BOOL IsShown() const { return m_life == Life::Shown; }
 
     // The chain and what opened it
     CMFCPopupMenu* GetParentPopupMenu() const { return m_pParentPopup; }
@@ -110,7 +110,7 @@ public:
     BOOL IsResizeble() const { return m_bIsResizeable; }
     BOOL HasBeenResized() const { return m_bHasBeenResized; }
     /// It is giving itself another size (RecalcLayout): the WM_SIZE that it hears now is nobody's wish.
-    BOOL IsInLayout() const { return m_bInLayout; }
+    BOOL IsInLayout() const { return m_isInLayout; }
     MENUAREA_TYPE CheckArea(const CPoint& ptScreen) const;
 
     // Looks and rules
@@ -153,7 +153,7 @@ public:
     /// The same, where it is a frame; NULL otherwise.
     CFrameWnd* GetOwnerFrame() const;
     /// It has left the chain or is on its way out.
-    BOOL IsClosing() const { return m_bClosing; }
+    BOOL IsClosing() const { return m_life >= Life::Closing; }
     /// The window is the one that the pop-up was opened for, or gets its commands.
     BOOL IsOpenedFor(HWND window) const { return window && (window == m_hParentWnd || window == m_hMessageWnd); }
     /// Width of the border on each side (pixels).
@@ -219,6 +219,16 @@ protected:
 
 private:
     struct Parts;
+    /// In this order; a step may be left out, none comes back.
+    enum class Life {
+        New,        ///< before Create has made the window
+        Open,       ///< a link of the chain, not on the screen yet
+        Shown,      ///< on the screen
+        Closing,    ///< what was opened from it closes
+        OutOfChain, ///< its parent is the active one again
+        Notified    ///< the frame knows of its end
+    };
+    bool IsOver() const { return m_life >= Life::Closing; }
     void FindParents(CWnd* pWndParent, BOOL bOwnMessage);
     void ShowAnimated();
     void ScrollBy(int nPixels);
@@ -226,6 +236,8 @@ private:
     void DragResize(CPoint point);
     void TellOpened();
 
+    Life m_life = Life::New;
+    bool m_hasBeenShown = false; ///< some time in its life
     HMENU m_hMenu = NULL;
     CMFCToolBarMenuButton* m_pParentBtn = NULL;
     CMFCRibbonBaseElement* m_pParentRibbonElement = NULL;
@@ -242,7 +254,6 @@ private:
     int m_nMinWidth = 0;
     CSize m_sizeMinResize{0, 0};
     BOOL m_bAutoDestroy = TRUE;
-    BOOL m_bShown = FALSE;
     BOOL m_bLocked = FALSE;
     BOOL m_bRightAlign = FALSE;
     BOOL m_bScrollable = FALSE;
@@ -251,12 +262,8 @@ private:
     BOOL m_bVertResizeOnly = FALSE;
     BOOL m_bHasBeenResized = FALSE;
     BOOL m_bOpenedByKey = FALSE;
-    BOOL m_bClosing = FALSE;
-    BOOL m_bHasLeft = FALSE;
-    BOOL m_bToldClosed = FALSE;
-    BOOL m_bInLayout = FALSE;
+    bool m_isInLayout = false;
 
-    static CMFCPopupMenu* m_pActivePopupMenu;
     static BOOL m_bForceMenuFocus;
     static BOOL m_bForceShadow;
     static BOOL m_bSendMenuSelectMsg;

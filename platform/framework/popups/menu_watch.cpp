@@ -1,10 +1,21 @@
 #include "popups/menu_watch.h"
 
 #include "afxpopupmenu.h"
+#include "afxpriv.h"
+
+#include <vector>
 
 namespace {
 
 HHOOK g_hook = nullptr;
+CMFCPopupMenu* g_active = nullptr;
+
+CMFCPopupMenu* RootOf(CMFCPopupMenu* menu) {
+    while (menu && menu->GetParentPopupMenu()) {
+        menu = menu->GetParentPopupMenu();
+    }
+    return menu;
+}
 
 bool IsButtonDown(UINT message) {
     switch (message) {
@@ -44,19 +55,18 @@ bool IsOnParentArea(CMFCPopupMenu* root, const MSG& message) {
 }
 
 BOOL OnOutsideClick(CMFCPopupMenu* active, const MSG& message) {
-    CMFCPopupMenu* root = active->GetRootPopupMenu();
+    CMFCPopupMenu* root = RootOf(active);
     const bool isOnOpener = IsOnParentArea(root, message);
     if (isOnOpener && root->IsClosedByOpener(message)) {
         return FALSE;
     }
     const bool isSwallowed = isOnOpener || !active->DefaultMouseClickOnClose();
-    CMFCPopupMenu::CloseAll();
+    toolbar::CloseAllPopups();
     return isSwallowed;
 }
 
 bool IsOwnerOfChain(HWND window) {
-    CMFCPopupMenu* active = CMFCPopupMenu::GetActiveMenu();
-    const HWND root = active ? active->GetRootPopupMenu()->GetSafeHwnd() : nullptr;
+    const HWND root = RootOf(g_active)->GetSafeHwnd();
     return root && ::GetWindow(root, GW_OWNER) == window;
 }
 
@@ -83,21 +93,37 @@ bool EndsChain(const CWPSTRUCT& sent) {
 
 /// Pop-ups that belong to a window which is being destroyed must not outlive it.
 void CloseOrphans(HWND destroyed) {
-    for (CMFCPopupMenu* menu = CMFCPopupMenu::GetActiveMenu(); menu; menu = menu->GetParentPopupMenu()) {
+    for (CMFCPopupMenu* menu = g_active; menu; menu = menu->GetParentPopupMenu()) {
         if (menu->IsOpenedFor(destroyed)) {
-            menu->CloseMenu();
+            toolbar::ClosePopup(*menu);
             return;
         }
     }
 }
 
+/// Items and elements of the open pop-ups are brought up to date, as the main loop does when it has nothing else to do.
+void UpdateOpenPopups() {
+    std::vector<HWND> windows;
+    for (const CMFCPopupMenu* menu = g_active; menu; menu = menu->GetParentPopupMenu()) {
+        windows.push_back(menu->m_hWnd);
+    }
+    for (const HWND window : windows) {
+        if (::IsWindow(window)) {
+            ::SendMessageW(window, WM_IDLEUPDATECMDUI, TRUE, 0);
+            CWnd::SendMessageToDescendants(window, WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
+        }
+    }
+}
+
 LRESULT CALLBACK OnSentMessage(int code, WPARAM wParam, LPARAM lParam) {
-    if (code == HC_ACTION && CMFCPopupMenu::GetActiveMenu()) {
+    if (code == HC_ACTION && g_active) {
         const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
         if (sent.message == WM_DESTROY) {
             CloseOrphans(sent.hwnd);
+        } else if (sent.message == WM_KICKIDLE && sent.lParam == 0) {
+            UpdateOpenPopups(); // a modal loop, where the thread's own idle time does not come
         } else if (EndsChain(sent)) {
-            CMFCPopupMenu::CloseAll();
+            toolbar::CloseAllPopups();
         }
     }
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
@@ -105,17 +131,37 @@ LRESULT CALLBACK OnSentMessage(int code, WPARAM wParam, LPARAM lParam) {
 
 } // namespace
 
-void toolbar::WatchPopups(bool areOpen) {
-    if (areOpen && !g_hook) {
+CMFCPopupMenu* toolbar::ActivePopup() { return g_active; }
+
+void toolbar::SetActivePopup(CMFCPopupMenu* active) {
+    g_active = active;
+    if (active && !g_hook) {
         g_hook = ::SetWindowsHookExW(WH_CALLWNDPROC, OnSentMessage, nullptr, ::GetCurrentThreadId());
-    } else if (!areOpen && g_hook) {
+    } else if (!active && g_hook) {
         ::UnhookWindowsHookEx(g_hook);
         g_hook = nullptr;
     }
 }
 
+void toolbar::ClosePopup(const CMFCPopupMenu& popup) {
+    if (popup.m_hWnd && !popup.IsClosing()) {
+        ::SendMessageW(popup.m_hWnd, WM_CLOSE, 0, 0);
+    }
+}
+
+void toolbar::CloseAllPopups() {
+    while (g_active) {
+        const CMFCPopupMenu* root = RootOf(g_active);
+        ClosePopup(*root);
+        // One that does not close itself now (it is closing already, or refuses) ends the loop.
+        if (RootOf(g_active) == root) {
+            return;
+        }
+    }
+}
+
 bool toolbar::IsInOpenPopups(HWND window) {
-    for (CMFCPopupMenu* menu = CMFCPopupMenu::GetActiveMenu(); window && menu; menu = menu->GetParentPopupMenu()) {
+    for (CMFCPopupMenu* menu = g_active; window && menu; menu = menu->GetParentPopupMenu()) {
         if (menu->m_hWnd == window || ::IsChild(menu->m_hWnd, window)) {
             return true;
         }
@@ -124,7 +170,7 @@ bool toolbar::IsInOpenPopups(HWND window) {
 }
 
 BOOL toolbar::FilterMenuMessage(MSG* message) {
-    CMFCPopupMenu* active = CMFCPopupMenu::GetActiveMenu();
+    CMFCPopupMenu* const active = g_active;
     if (!active || ::GetWindowThreadProcessId(active->m_hWnd, nullptr) != ::GetCurrentThreadId()) {
         return FALSE;
     }

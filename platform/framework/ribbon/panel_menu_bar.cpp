@@ -322,7 +322,7 @@ CMFCRibbonBaseElement* CMFCRibbonPanelMenuBar::GetHighlighted() const { return m
 void CMFCRibbonPanelMenuBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     CMFCRibbonPanelMenu* menu = GetMenu();
     CFrameWnd* frame = menu != nullptr ? menu->GetCommandFrame() : nullptr;
-    UpdateElements(frame != nullptr ? frame : pTarget, bDisableIfNoHndler);
+    UpdateElements(frame != nullptr ? frame : pTarget, bDisableIfNoHndler && frame != nullptr);
 }
 
 // An update handler of the host's may take elements away.

@@ -2,8 +2,7 @@
 #include "afxpopupmenu.h"
 
 #include "afxbaseribbonelement.h"
-#include "afxframewndex.h"
-#include "afxMDIFrameWndEx.h"
+#include "afxext.h"
 #include "afxvisualmanager.h"
 #include "popups/menu_watch.h"
 #include "toolbar/popup_parts.h"
@@ -28,7 +27,6 @@ ON_WM_SETCURSOR()
 ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
-CMFCPopupMenu* CMFCPopupMenu::m_pActivePopupMenu = nullptr;
 BOOL CMFCPopupMenu::m_bForceMenuFocus = TRUE;
 BOOL CMFCPopupMenu::m_bForceShadow = FALSE;
 BOOL CMFCPopupMenu::m_bSendMenuSelectMsg = TRUE;
@@ -79,9 +77,8 @@ BOOL CMFCPopupMenu::Create(CWnd* pWndParent, int x, int y, HMENU hMenu, BOOL bLo
     }
     const HWND window = m_hWnd;
     TellOpened();
-    auto* single = DYNAMIC_DOWNCAST(CFrameWndEx, GetOwnerFrame());
-    auto* multiple = DYNAMIC_DOWNCAST(CMDIFrameWndEx, GetOwnerFrame());
-    const BOOL isAllowed = single ? single->OnShowPopupMenu(this) : multiple ? multiple->OnShowPopupMenu(this) : TRUE;
+    CFrameWnd* frame = GetOwnerFrame();
+    const BOOL isAllowed = !frame || frame->OnShowPopupMenu(this);
     // The host may have closed the menu, or does not want it.
     if (!::IsWindow(window)) {
         return FALSE;
@@ -90,16 +87,16 @@ BOOL CMFCPopupMenu::Create(CWnd* pWndParent, int x, int y, HMENU hMenu, BOOL bLo
         CMiniFrameWnd::DestroyWindow();
         return FALSE;
     }
-    if (!m_bClosing) {
+    if (!IsOver()) {
         OnOpened();
     }
-    if (!::IsWindow(window) || m_bClosing) {
+    if (!::IsWindow(window) || IsOver()) {
         return FALSE;
     }
     Place();
     PlaceBar();
     ShowAnimated();
-    return ::IsWindow(window) && !m_bClosing;
+    return ::IsWindow(window) && !IsOver();
 }
 
 int CMFCPopupMenu::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -137,7 +134,7 @@ void CMFCPopupMenu::FindParents(CWnd* pWndParent, BOOL bOwnMessage) {
             m_pParentPopup = DYNAMIC_DOWNCAST(CMFCPopupMenu, CWnd::FromHandlePermanent(window));
         }
     }
-    if (m_pParentPopup == this || (m_pParentPopup && m_pParentPopup->m_bClosing)) {
+    if (m_pParentPopup == this || (m_pParentPopup && m_pParentPopup->IsOver())) {
         m_pParentPopup = nullptr;
     }
     m_hParentWnd = pWndParent ? pWndParent->GetSafeHwnd() : opener->GetSafeHwnd();
@@ -181,15 +178,15 @@ void CMFCPopupMenu::TellOpened() {
     if (m_pParentPopup) {
         m_pParentPopup->m_pChildPopup = this;
     }
-    m_pActivePopupMenu = this;
-    toolbar::WatchPopups(true);
+    m_life = Life::Open;
+    toolbar::SetActivePopup(this);
     if (m_pParentRibbonElement) {
         m_pParentRibbonElement->SetDroppedDown(this);
     }
 }
 
 BOOL CMFCPopupMenu::LeaveChain() {
-    m_bClosing = TRUE;
+    m_life = std::max(m_life, Life::Closing);
     if (m_pChildPopup) {
         const HWND window = m_hWnd;
         m_pChildPopup->CloseMenu();
@@ -197,47 +194,41 @@ BOOL CMFCPopupMenu::LeaveChain() {
             return FALSE;
         }
     }
-    if (std::exchange(m_bHasLeft, TRUE)) {
+    if (m_life >= Life::OutOfChain) {
         return TRUE;
     }
+    m_life = Life::OutOfChain;
     if (m_pParentPopup && m_pParentPopup->m_pChildPopup == this) {
         m_pParentPopup->m_pChildPopup = nullptr;
     }
-    if (m_pActivePopupMenu == this) {
-        m_pActivePopupMenu = m_pParentPopup;
-    }
-    if (!m_pActivePopupMenu) {
-        toolbar::WatchPopups(false);
+    if (toolbar::ActivePopup() == this) {
+        toolbar::SetActivePopup(m_pParentPopup);
     }
     return TRUE;
 }
 
 void CMFCPopupMenu::HideWindow() {
     m_parts->shadow.Hide();
-    m_bShown = FALSE;
     ShowWindow(SW_HIDE);
 }
 
 // The host may end this, by ending the window that it belongs to.
 void CMFCPopupMenu::TellClosed() {
-    if (std::exchange(m_bToldClosed, TRUE)) {
+    if (std::exchange(m_life, Life::Notified) == Life::Notified) {
         return;
     }
     const HWND window = m_hWnd;
     const bool tellsSelection =
         m_bSendMenuSelectMsg && !GetMenuBar()->IsRibbonPanel() && !GetMenuBar()->IsDropDownListMode();
-    if (tellsSelection && !m_pParentPopup && m_bShown && m_hMessageWnd) {
+    if (tellsSelection && !m_pParentPopup && m_hasBeenShown && m_hMessageWnd) {
         // As the system says that its menus are closed.
         ::SendMessageW(m_hMessageWnd, WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
     }
     if (!::IsWindow(window)) {
         return;
     }
-    CFrameWnd* frame = GetOwnerFrame();
-    if (auto* single = DYNAMIC_DOWNCAST(CFrameWndEx, frame)) {
-        single->OnClosePopupMenu(this);
-    } else if (auto* multiple = DYNAMIC_DOWNCAST(CMDIFrameWndEx, frame)) {
-        multiple->OnClosePopupMenu(this);
+    if (CFrameWnd* frame = GetOwnerFrame()) {
+        frame->OnClosePopupMenu(this);
     }
 }
 
@@ -276,7 +267,7 @@ void CMFCPopupMenu::PostNcDestroy() { CMiniFrameWnd::PostNcDestroy(); }
 void CMFCPopupMenu::OnClose() { CMiniFrameWnd::DestroyWindow(); }
 
 void CMFCPopupMenu::CloseMenu(BOOL bSetFocusToBar) {
-    if (!m_hWnd || m_bClosing) {
+    if (!m_hWnd || IsOver()) {
         return;
     }
     CMFCToolBar* bar = bSetFocusToBar ? GetParentToolBar() : nullptr;
@@ -289,30 +280,22 @@ void CMFCPopupMenu::CloseMenu(BOOL bSetFocusToBar) {
     }
 }
 
-void CMFCPopupMenu::CloseAll() {
-    while (m_pActivePopupMenu) {
-        CMFCPopupMenu* root = m_pActivePopupMenu->GetRootPopupMenu();
-        root->CloseMenu();
-        // One that does not close itself now (it is closing already, or refuses) ends the loop.
-        if (m_pActivePopupMenu && m_pActivePopupMenu->GetRootPopupMenu() == root) {
-            return;
-        }
-    }
-}
+CMFCPopupMenu* CMFCPopupMenu::GetActiveMenu() { return toolbar::ActivePopup(); }
+
+void CMFCPopupMenu::CloseAll() { toolbar::CloseAllPopups(); }
 
 BOOL __stdcall CMFCPopupMenu::ActivatePopupMenu(CFrameWnd* pTopFrame, CMFCPopupMenu* pPopupMenu) {
-    if (pPopupMenu == m_pActivePopupMenu) {
+    if (pPopupMenu == toolbar::ActivePopup()) {
         return pPopupMenu != nullptr;
     }
-    for (CMFCPopupMenu* menu = m_pActivePopupMenu; menu; menu = menu->m_pParentPopup) {
+    for (CMFCPopupMenu* menu = toolbar::ActivePopup(); menu; menu = menu->m_pParentPopup) {
         if (menu == pPopupMenu) {
             menu->m_pChildPopup->CloseMenu();
             return TRUE;
         }
     }
     CloseAll();
-    auto* single = DYNAMIC_DOWNCAST(CFrameWndEx, pTopFrame);
-    return !single || !pPopupMenu || single->OnShowPopupMenu(pPopupMenu);
+    return !pTopFrame || !pPopupMenu || pTopFrame->OnShowPopupMenu(pPopupMenu);
 }
 
 CMFCPopupMenu* CMFCPopupMenu::GetRootPopupMenu() {

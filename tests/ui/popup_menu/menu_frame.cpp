@@ -1,5 +1,16 @@
 #include "tests/ui/popup_menu/menu_frame.h"
 
+namespace {
+
+/// Once: what the host does may come back here, and may be the end of the frame.
+void DoOnce(std::function<void()>& what) {
+    if (const auto doIt = std::exchange(what, nullptr)) {
+        doIt();
+    }
+}
+
+} // namespace
+
 BEGIN_MESSAGE_MAP(MenuFrame, CFrameWndEx)
 ON_COMMAND_RANGE(2000, 2999, OnMenuCommand)
 ON_UPDATE_COMMAND_UI_RANGE(2000, 2999, OnUpdateMenuCommand)
@@ -11,21 +22,26 @@ void MenuFrame::OnMenuCommand(UINT id) { commands.push_back(id); }
 void MenuFrame::OnUpdateMenuCommand(CCmdUI* state) {
     state->Enable(state->m_nID != menu_ids::close);
     state->SetCheck(state->m_nID == menu_ids::checked ? 1 : 0);
+    DoOnce(onUpdate);
 }
 
 void MenuFrame::OnMenuSelect(UINT item, UINT flags, HMENU menu) {
     hotItems.push_back(item);
     CFrameWndEx::OnMenuSelect(item, flags, menu);
+    DoOnce(onSelect);
 }
 
 BOOL MenuFrame::OnShowPopupMenu(CMFCPopupMenu* menu) {
     ++shown;
-    return CFrameWndEx::OnShowPopupMenu(menu) && allowsMenus;
+    const BOOL isShown = CFrameWndEx::OnShowPopupMenu(menu) && allowsMenus;
+    DoOnce(onShow);
+    return isShown;
 }
 
 void MenuFrame::OnClosePopupMenu(CMFCPopupMenu* menu) {
     ++closed;
     CFrameWndEx::OnClosePopupMenu(menu);
+    DoOnce(onClose);
 }
 
 PopupMenuTest::PopupMenuTest() : m_frame(new MenuFrame) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "afxcontrolbars.h"
@@ -23,6 +24,7 @@ public:
     int shown = 0;
     int closed = 0;
     bool allowsMenus = true;
+    std::function<void()> onUpdate, onSelect, onShow, onClose; ///< what else the host does
 
     BOOL OnShowPopupMenu(CMFCPopupMenu* menu) override;
     void OnClosePopupMenu(CMFCPopupMenu* menu) override;
