@@ -3,6 +3,7 @@
 
 #include "afxcommandmanager.h"
 #include "afxpopupmenu.h"
+#include "fx/window_guard.h"
 #include "toolbar/menu_items.h"
 #include "toolbar/metrics.h"
 
@@ -156,8 +157,8 @@ BOOL CMFCToolBarMenuButton::OpenPopupMenu(CWnd* pWnd) {
         return FALSE;
     }
     const bool isInMenu = GetMenuBar() != nullptr;
-    const auto* bar = DYNAMIC_DOWNCAST(CMFCToolBar, m_pWndParent);
-    const bool isBelow = !isInMenu && (!bar || bar->IsHorizontal());
+    const auto* toolBar = DYNAMIC_DOWNCAST(CMFCToolBar, m_pWndParent);
+    const bool isBelow = !isInMenu && (!toolBar || toolBar->IsHorizontal());
     CPoint corner(isBelow ? m_rect.left : m_rect.right, isBelow ? m_rect.bottom : m_rect.top);
     m_pWndParent->ClientToScreen(&corner);
     if (isInMenu) {
@@ -171,8 +172,15 @@ BOOL CMFCToolBarMenuButton::OpenPopupMenu(CWnd* pWnd) {
     if (receiver) {
         menu->SetMessageWnd(receiver);
     }
+    const fx::WindowGuard bar(m_pWndParent);
+    const BOOL isOpen = menu->Create(m_pWndParent, corner.x, corner.y, CreateMenu(), IsLocked());
+    // The frame that hears of it may take the button away, and the bar too.
+    auto* holder = bar.IsAlive() ? DYNAMIC_DOWNCAST(CMFCToolBar, CWnd::FromHandlePermanent(bar.Handle())) : nullptr;
+    if (bar.IsGone() || (holder && holder->ButtonToIndex(this) < 0)) {
+        return FALSE;
+    }
     // A pop-up that could not be shown is gone, and has cleared m_pPopupMenu if its window had come to life.
-    if (!menu->Create(m_pWndParent, corner.x, corner.y, CreateMenu(), IsLocked())) {
+    if (!isOpen) {
         m_pPopupMenu = nullptr;
         return FALSE;
     }

@@ -2,6 +2,7 @@
 #include "afxpopupmenubar.h"
 
 #include "afxpopupmenu.h"
+#include "fx/window_guard.h"
 #include "popups/wheel_rows.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
@@ -75,7 +76,11 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point) {
     if (hit == m_iHighlighted) {
         return;
     }
+    const fx::WindowGuard guard(this);
     SetHighlighted(IsSelectable(button) ? hit : -1);
+    if (guard.IsGone() || GetButton(hit) != button) {
+        return; // the host is told what is hot
+    }
     if (open && open != button) {
         CloseDelayedSubMenu();
     }
@@ -148,8 +153,18 @@ BOOL CMFCPopupMenuBar::OpenSubMenu(int iIndex, BOOL bSelectFirst) {
     }
     KillTimer(openTimer);
     m_pDelayedPopupMenuButton = nullptr;
+    // The host is told what is hot, and the frame what opens. Where the menu or the item is gone, there is nothing more
+    // to do with it.
+    const fx::WindowGuard guard(this);
     SetHighlighted(iIndex);
-    if (!button->IsDroppedDown() && !button->OpenPopupMenu()) {
+    if (guard.IsGone() || GetButton(iIndex) != button) {
+        return TRUE;
+    }
+    const BOOL isOpen = button->IsDroppedDown() || button->OpenPopupMenu();
+    if (guard.IsGone() || GetButton(iIndex) != button) {
+        return TRUE;
+    }
+    if (!isOpen) {
         return FALSE;
     }
     if (bSelectFirst && button->GetPopupMenu()) {
@@ -168,8 +183,11 @@ void CMFCPopupMenuBar::OnLButtonDown(UINT, CPoint point) {
     if (!IsSelectable(GetButton(hit))) {
         return;
     }
+    const fx::WindowGuard guard(this);
     SetHighlighted(hit);
-    OpenSubMenu(hit, FALSE);
+    if (guard.IsAlive()) {
+        OpenSubMenu(hit, FALSE);
+    }
 }
 
 void CMFCPopupMenuBar::OnLButtonUp(UINT, CPoint point) {
@@ -326,9 +344,13 @@ BOOL CMFCPopupMenuBar::OnKey(UINT nChar) {
     }
     const auto select = [this](int index) {
         if (index >= 0) {
+            const fx::WindowGuard guard(this);
             CMFCToolBarMenuButton* open = GetDroppedDownMenu();
             if (open && ButtonToIndex(open) != index) {
                 open->OnCancelMode();
+            }
+            if (guard.IsGone()) {
+                return; // the frame heard that the pop-up has closed
             }
             MakeVisible(index);
             SetHighlighted(index);
@@ -406,8 +428,9 @@ BOOL CMFCPopupMenuBar::TranslateChar(UINT nChar) {
     }
     const int index = next >= 0 ? next : first;
     MakeVisible(index);
+    const fx::WindowGuard guard(this);
     SetHighlighted(index);
-    if (found == 1 && !m_bDropDownListMode && !OpenSubMenu(index, TRUE)) {
+    if (guard.IsAlive() && found == 1 && !m_bDropDownListMode && !OpenSubMenu(index, TRUE)) {
         ChooseItem(index);
     }
     return TRUE;

@@ -3,6 +3,7 @@
 
 #include "afxcommandmanager.h"
 #include "afxpopupmenubar.h"
+#include "fx/window_guard.h"
 #include "toolbar/default_images.h"
 
 #include <algorithm>
@@ -108,6 +109,8 @@ void CMFCToolBar::DropSeparatorsAround(int iIndex) {
 void CMFCToolBar::RemoveAllButtons() {
     m_iHighlighted = -1;
     m_iButtonCapture = -1;
+    const bool hasWindow = m_hWnd != nullptr;
+    const fx::WindowGuard guard(this);
     while (!m_Buttons.IsEmpty()) {
         std::unique_ptr<CMFCToolBarButton> button(static_cast<CMFCToolBarButton*>(m_Buttons.RemoveHead()));
         if (m_pLastCommandButton == button.get()) {
@@ -115,6 +118,9 @@ void CMFCToolBar::RemoveAllButtons() {
         }
         if (m_hWnd) {
             button->OnChangeParentWnd(nullptr);
+        }
+        if (hasWindow && guard.IsGone()) {
+            return; // whoever heard that the button's menu has closed has destroyed the bar
         }
     }
 }

@@ -2,9 +2,8 @@
 #include "afxtoolbar.h"
 
 #include "afxext.h"
-#include "afxframewndex.h"
-#include "afxMDIFrameWndEx.h"
 #include "afxtoolbarmenubutton.h"
+#include "fx/window_guard.h"
 #include "toolbar/metrics.h"
 
 #include <cwctype>
@@ -28,11 +27,13 @@ public:
     }
     void SetRadio(BOOL bOn) override {
         SetCheck(bOn ? 1 : 0);
-        Button()->SetRadio();
+        if (CMFCToolBarButton* button = Button()) {
+            button->SetRadio();
+        }
     }
     void SetText(LPCTSTR lpszText) override {
-        CMFCToolBarButton* button = Button();
-        if (button->m_strText != lpszText) {
+        CMFCToolBarButton* button = Button(); // null when the handler has taken it away
+        if (button && button->m_strText != lpszText) {
             button->m_strText = lpszText;
             if (button->IsDrawText()) {
                 Bar()->AdjustLayout();
@@ -54,6 +55,8 @@ private:
 void CMFCToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     ToolBarCmdUI state;
     state.m_pOther = this;
+    const bool hasWindow = m_hWnd != nullptr;
+    const fx::WindowGuard guard(this);
     for (state.m_nIndex = 0; state.m_nIndex < static_cast<UINT>(GetCount()); ++state.m_nIndex) {
         state.m_nIndexMax = static_cast<UINT>(GetCount());
         const CMFCToolBarButton* button = GetButton(static_cast<int>(state.m_nIndex));
@@ -62,11 +65,14 @@ void CMFCToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
             continue;
         }
         state.m_nID = button->m_nID;
+        const auto* menuButton = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, button);
+        const BOOL hasMenu = menuButton && !menuButton->GetCommands().IsEmpty();
         // The bar's own handlers first: one of a derived bar decides.
         if (!CWnd::OnCmdMsg(state.m_nID, CN_UPDATE_COMMAND_UI, &state, nullptr)) {
-            const auto* menuButton = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, button);
-            const BOOL hasMenu = menuButton && !menuButton->GetCommands().IsEmpty();
             state.DoUpdate(pTarget, bDisableIfNoHndler && !hasMenu);
+        }
+        if (hasWindow && guard.IsGone()) {
+            return; // a handler has closed the menu, or destroyed the bar
         }
     }
     UpdateDialogControls(pTarget, bDisableIfNoHndler);
@@ -287,14 +293,8 @@ BOOL CMFCToolBar::OnUserToolTip(CMFCToolBarButton* pButton, CString& strTTText) 
         return TRUE;
     }
     CFrameWnd* frame = GetTopLevelFrame();
-    if (auto* single = DYNAMIC_DOWNCAST(CFrameWndEx, frame)) {
-        if (single->GetToolbarButtonToolTipText(pButton, strTTText)) {
-            return TRUE;
-        }
-    } else if (auto* multiple = DYNAMIC_DOWNCAST(CMDIFrameWndEx, frame)) {
-        if (multiple->GetToolbarButtonToolTipText(pButton, strTTText)) {
-            return TRUE;
-        }
+    if (frame && frame->GetToolbarButtonToolTipText(pButton, strTTText)) {
+        return TRUE;
     }
     const int tabulator = pButton->m_strText.Find(L'\t');
     strTTText = toolbar::WithoutPrefix(tabulator >= 0 ? pButton->m_strText.Left(tabulator) : pButton->m_strText);
