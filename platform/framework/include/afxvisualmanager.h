@@ -314,7 +314,7 @@ protected:
     BOOL m_bAutoDestroy = FALSE;
     BOOL m_bTemporary = FALSE;
     BOOL m_bMenuFlatLook = FALSE;
-    int m_nMenuShadowDepth = 5;
+    int m_nMenuShadowDepth = 12; ///< at 96 DPI
     BOOL m_bShadowHighlightedImage = FALSE;
     BOOL m_bEmbossDisabledImage = TRUE;
     BOOL m_bFadeInactiveImage = FALSE;

@@ -2,6 +2,7 @@
 
 #include "afxdrawmanager.h"
 #include "managers/manager_look.h"
+#include "visual/soft_shadow.h"
 
 #include <afxribbonpanelmenu.h>
 
@@ -9,6 +10,15 @@ using visual::ColorSlot;
 using visual::FaceSlot;
 using visual::LookOf;
 using visual::ToColorRef;
+
+namespace {
+
+bool IsDark(visual::Argb colour) {
+    constexpr unsigned half = 128 * 3;
+    return visual::RedOf(colour) + visual::GreenOf(colour) + visual::BlueOf(colour) < half;
+}
+
+} // namespace
 
 bool visual::FillRibbonMenu(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
     const auto* menu = dynamic_cast<CMFCRibbonPanelMenuBar*>(bar);
@@ -35,8 +45,15 @@ void CMFCVisualManager::OnDrawMenuShadow(CDC* pDC, const CRect& rectClient, cons
     if (!rectExclude.IsRectEmpty()) {
         pDC->ExcludeClipRect(rectExclude);
     }
-    CDrawingManager(*pDC).DrawShadow(rectClient, nDepth, iMinBrightness, iMaxBrightness, pBmpSaveBottom, pBmpSaveRight,
-                                     static_cast<COLORREF>(-1), !bRTL);
+    if (pBmpSaveBottom || pBmpSaveRight) {
+        // Whoever keeps what lies below it means the shadow of two strips.
+        CDrawingManager(*pDC).DrawShadow(rectClient, nDepth, iMinBrightness, iMaxBrightness, pBmpSaveBottom,
+                                         pBmpSaveRight, static_cast<COLORREF>(-1), !bRTL);
+    } else {
+        // On dark ground the same shade is hardly seen.
+        const int darkness = (iMinBrightness - iMaxBrightness) * (IsDark(GetSkin()[ColorSlot::MenuFill]) ? 2 : 1);
+        visual::PaintSoftShadow(*pDC, rectClient, nDepth, darkness);
+    }
     pDC->RestoreDC(saved);
 }
 

@@ -4,6 +4,12 @@
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
+#include "visual/canvas.h"
+
+#include <dwmapi.h>
+
+#include <algorithm>
+#include <utility>
 
 using toolbar::MenuShadow;
 
@@ -14,63 +20,227 @@ ON_WM_NCHITTEST()
 ON_WM_MOUSEACTIVATE()
 END_MESSAGE_MAP()
 
-void MenuShadow::Show(HWND menu, const CRect& rectMenu, int nDepth) {
-    Hide();
-    if (nDepth <= 0 || rectMenu.IsRectEmpty() || !afxGlobalData.Is32BitIcons() || afxGlobalData.IsHighContrastMode()) {
+namespace {
+
+/// Darkest at the menu's lower edge; a dark skin's manager doubles it.
+constexpr int g_lightest = 100, g_darkest = 80; // per cent of brightness
+
+/// A 32-bit picture with a context to draw on.
+class Picture {
+public:
+    explicit Picture(CSize size) : m_dc(::CreateCompatibleDC(nullptr)) {
+        m_bitmap = visual::MakeBitmap32(static_cast<int>(size.cx), static_cast<int>(size.cy), &m_pixels);
+        m_before = ::SelectObject(m_dc, m_bitmap);
+    }
+    ~Picture() {
+        ::DeleteObject(Detach());
+        ::DeleteDC(m_dc);
+    }
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    bool IsValid() const { return m_dc != nullptr && m_pixels != nullptr; }
+    HDC Dc() const { return m_dc; }
+    std::uint32_t* Pixels() const { return m_pixels; }
+    /// The bitmap, the caller's from here.
+    HBITMAP Detach() {
+        ::SelectObject(m_dc, m_before);
+        m_pixels = nullptr;
+        return std::exchange(m_bitmap, nullptr);
+    }
+
+private:
+    HDC m_dc;
+    HBITMAP m_bitmap = nullptr;
+    HGDIOBJ m_before = nullptr;
+    std::uint32_t* m_pixels = nullptr;
+};
+
+bool IsTooltip(HWND window) {
+    wchar_t name[64] = {};
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return ::lstrcmpiW(name, TOOLTIPS_CLASSW) == 0;
+}
+
+/// A window of this thread whose picture belongs under a shadow. A tooltip goes before the menu does.
+bool IsBelowShadows(HWND window, const CRect& area) {
+    CRect rect, common;
+    return ::GetWindowThreadProcessId(window, nullptr) == ::GetCurrentThreadId() && ::IsWindowVisible(window) &&
+           !::IsIconic(window) && ::GetWindowRect(window, rect) && common.IntersectRect(rect, area) &&
+           !IsTooltip(window);
+}
+
+void CopyWindow(HDC target, HWND window, const CRect& area) {
+    CRect rect;
+    ::GetWindowRect(window, rect);
+    const HDC source = ::GetWindowDC(window);
+    ::SetLayout(source, 0); // a mirrored window's picture as it stands on the screen
+    ::BitBlt(target, static_cast<int>(rect.left - area.left), static_cast<int>(rect.top - area.top), rect.Width(),
+             rect.Height(), source, 0, 0, SRCCOPY);
+    ::ReleaseDC(window, source);
+}
+
+std::uint32_t Darker(std::uint32_t pixel, unsigned darkness) {
+    return visual::Mix(pixel | 0xFF000000u, 0xFF000000u, static_cast<int>(darkness), 255);
+}
+
+} // namespace
+
+MenuShadow::MenuShadow() = default;
+
+MenuShadow::~MenuShadow() { DestroyWindow(); }
+
+bool MenuShadow::CopiesWindows() {
+    BOOL isComposed = FALSE;
+    return FAILED(::DwmIsCompositionEnabled(&isComposed)) || !isComposed;
+}
+
+bool MenuShadow::MakeWindow(HWND menu) {
+    if (m_hWnd) {
+        return true;
+    }
+    const LPCTSTR className = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
+    const DWORD layer = CopiesWindows() ? 0 : WS_EX_LAYERED;
+    return CreateEx(layer | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT, className, nullptr,
+                    WS_POPUP | WS_DISABLED, 0, 0, 0, 0, ::GetWindow(menu, GW_OWNER), nullptr) != FALSE;
+}
+
+void MenuShadow::Show(HWND menu, const CRect& rectMenu, int depth) {
+    const bool isPossible =
+        depth > 0 && !rectMenu.IsRectEmpty() && afxGlobalData.Is32BitIcons() && !afxGlobalData.IsHighContrastMode();
+    if (!isPossible || !MakeWindow(menu)) {
+        Hide();
         return;
     }
-    m_depth = nDepth;
-    m_rectMenu = rectMenu;
-    m_rect = CRect(rectMenu.left, rectMenu.top, rectMenu.right + nDepth, rectMenu.bottom + nDepth);
-    Capture();
-    if (!m_hWnd) {
-        const LPCTSTR className = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
-        if (!CreateEx(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT, className, nullptr,
-                      WS_POPUP | WS_DISABLED, m_rect.left, m_rect.top, 0, 0, ::GetWindow(menu, GW_OWNER), nullptr)) {
-            return;
-        }
+    m_rect = rectMenu;
+    m_rect.InflateRect(depth, depth);
+    MeasureDarkness(rectMenu, depth);
+    if (GetExStyle() & WS_EX_LAYERED) {
+        ShowLayer();
+    } else {
+        ShowCopy(menu, rectMenu);
     }
-    // Only the two strips are there: the rest would cover what the pop-up shows while it appears.
-    CRgn strips, side;
-    strips.CreateRectRgn(nDepth, rectMenu.Height(), m_rect.Width(), m_rect.Height());
-    side.CreateRectRgn(rectMenu.Width(), nDepth, m_rect.Width(), m_rect.Height());
-    strips.CombineRgn(&strips, &side, RGN_OR);
-    SetWindowRgn(static_cast<HRGN>(strips.Detach()), FALSE);
     ::SetWindowPos(m_hWnd, menu, m_rect.left, m_rect.top, m_rect.Width(), m_rect.Height(),
                    SWP_NOACTIVATE | SWP_SHOWWINDOW | SWP_NOOWNERZORDER);
+    UpdateWindow();
+}
+
+void MenuShadow::ShowLayer() {
+    const Picture picture(m_rect.Size());
+    if (!picture.IsValid()) {
+        return;
+    }
+    for (std::size_t at = 0; at < m_darkness.size(); ++at) {
+        picture.Pixels()[at] = static_cast<std::uint32_t>(m_darkness[at]) << 24;
+    }
+    POINT corner = m_rect.TopLeft();
+    POINT origin = {0, 0};
+    SIZE size = m_rect.Size();
+    BLENDFUNCTION over{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    ::UpdateLayeredWindow(m_hWnd, nullptr, &corner, &size, picture.Dc(), &origin, 0, &over, ULW_ALPHA);
+}
+
+void MenuShadow::ShowCopy(HWND menu, const CRect& rectMenu) {
+    Picture picture(m_rect.Size());
+    if (!picture.IsValid()) {
+        return;
+    }
+    CopyWindowsBelow(menu, picture.Pixels(), picture.Dc());
+    for (std::size_t at = 0; at < m_darkness.size(); ++at) {
+        if (m_darkness[at] > 0) {
+            picture.Pixels()[at] = Darker(picture.Pixels()[at], m_darkness[at]);
+        }
+    }
+    m_copy.DeleteObject();
+    m_copy.Attach(picture.Detach());
+    // The menu's own place stays free: the menu may be transparent while it appears.
+    CRgn around, inside;
+    around.CreateRectRgn(0, 0, m_rect.Width(), m_rect.Height());
+    const CRect menuPlace = rectMenu - m_rect.TopLeft();
+    inside.CreateRectRgnIndirect(menuPlace);
+    around.CombineRgn(&around, &inside, RGN_DIFF);
+    SetWindowRgn(static_cast<HRGN>(around.Detach()), FALSE);
+    Invalidate();
 }
 
 void MenuShadow::Hide() {
     if (m_hWnd) {
         ShowWindow(SW_HIDE);
     }
-    m_picture.DeleteObject();
+    m_copy.DeleteObject();
+    m_darkness.clear();
     m_rect.SetRectEmpty();
 }
 
-void MenuShadow::Capture() {
-    CWindowDC screen(nullptr);
-    CDC memory;
-    if (!memory.CreateCompatibleDC(&screen) ||
-        !m_picture.CreateCompatibleBitmap(&screen, m_rect.Width(), m_rect.Height())) {
+/// What the visual manager's shadow takes from white.
+void MenuShadow::MeasureDarkness(const CRect& rectMenu, int depth) {
+    m_darkness.assign(static_cast<std::size_t>(m_rect.Width()) * static_cast<std::size_t>(m_rect.Height()), 0);
+    const Picture white(m_rect.Size());
+    if (!white.IsValid()) {
         return;
     }
-    const fx::DcSelection selected(memory, &m_picture);
-    memory.BitBlt(0, 0, m_rect.Width(), m_rect.Height(), &screen, m_rect.left, m_rect.top, SRCCOPY);
-    constexpr int lightest = 100, darkest = 60; // per cent of brightness, outer edge and inner
-    const CRect menu(CPoint(0, 0), m_rectMenu.Size());
-    CMFCVisualManager::GetInstance()->OnDrawMenuShadow(&memory, menu, CRect(0, 0, 0, 0), m_depth, lightest, darkest,
+    std::fill_n(white.Pixels(), m_darkness.size(), 0xFFFFFFFFu);
+    CRect menu = rectMenu;
+    menu.OffsetRect(-m_rect.left, -m_rect.top);
+    CDC dc;
+    dc.Attach(white.Dc());
+    CMFCVisualManager::GetInstance()->OnDrawMenuShadow(&dc, menu, CRect(0, 0, 0, 0), depth, g_lightest, g_darkest,
                                                        nullptr, nullptr, FALSE);
+    dc.Detach();
+    ::GdiFlush();
+    for (std::size_t at = 0; at < m_darkness.size(); ++at) {
+        const std::uint32_t pixel = white.Pixels()[at];
+        const unsigned lightest = std::max({visual::RedOf(pixel), visual::GreenOf(pixel), visual::BlueOf(pixel)});
+        const CPoint place(static_cast<int>(at) % m_rect.Width(), static_cast<int>(at) / m_rect.Width());
+        m_darkness[at] = static_cast<std::uint8_t>(menu.PtInRect(place) ? 0 : 255 - lightest);
+    }
+}
+
+// Other programs' windows as they are on the screen, ours from the lowest to the one below the menu.
+void MenuShadow::CopyWindowsBelow(HWND menu, std::uint32_t* pixels, HDC picture) const {
+    const HDC screen = ::GetDC(nullptr);
+    ::BitBlt(picture, 0, 0, m_rect.Width(), m_rect.Height(), screen, m_rect.left, m_rect.top, SRCCOPY);
+    ::ReleaseDC(nullptr, screen);
+    std::vector<HWND> below;
+    for (HWND window = ::GetWindow(menu, GW_HWNDNEXT); window; window = ::GetWindow(window, GW_HWNDNEXT)) {
+        if (window != m_hWnd && IsBelowShadows(window, m_rect)) {
+            below.push_back(window);
+        }
+    }
+    for (auto window = below.rbegin(); window != below.rend(); ++window) {
+        if (const auto* shadow = dynamic_cast<const MenuShadow*>(CWnd::FromHandlePermanent(*window))) {
+            ::GdiFlush();
+            shadow->Darken(pixels, m_rect);
+        } else if ((::GetWindowLongW(*window, GWL_EXSTYLE) & WS_EX_LAYERED) == 0) {
+            CopyWindow(picture, *window, m_rect);
+        }
+    }
+    ::GdiFlush();
+}
+
+/// Where this shadow lies in the area (screen), over a picture of it.
+void MenuShadow::Darken(std::uint32_t* pixels, const CRect& area) const {
+    CRect common;
+    if (m_darkness.empty() || !common.IntersectRect(m_rect, area)) {
+        return;
+    }
+    for (int y = common.top; y < common.bottom; ++y) {
+        for (int x = common.left; x < common.right; ++x) {
+            std::uint32_t& pixel = pixels[(y - area.top) * area.Width() + x - area.left];
+            const auto at = static_cast<std::size_t>((y - m_rect.top) * m_rect.Width() + x - m_rect.left);
+            pixel = Darker(pixel, m_darkness[at]);
+        }
+    }
 }
 
 void MenuShadow::OnPaint() {
     CPaintDC dc(this);
-    if (!m_picture.GetSafeHandle()) {
+    if (!m_copy.GetSafeHandle()) {
         return;
     }
     CDC memory;
     memory.CreateCompatibleDC(&dc);
-    const fx::DcSelection selected(memory, &m_picture);
+    const fx::DcSelection selected(memory, &m_copy);
     dc.BitBlt(0, 0, m_rect.Width(), m_rect.Height(), &memory, 0, 0, SRCCOPY);
 }
 

@@ -20,13 +20,6 @@ constexpr UINT_PTR scrollTimer = 0xF101;
 constexpr UINT scrollInterval = 60; // milliseconds
 constexpr int screenMargin = 0;
 
-CRect WorkArea(CPoint point) {
-    MONITORINFO info = {};
-    info.cbSize = sizeof(info);
-    ::GetMonitorInfoW(::MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &info);
-    return info.rcWork;
-}
-
 } // namespace
 
 int CMFCPopupMenu::GetBorderSize() const {
@@ -36,7 +29,7 @@ int CMFCPopupMenu::GetBorderSize() const {
 
 void CMFCPopupMenu::EnableScrolling(BOOL bEnable) {
     m_bScrollable = bEnable;
-    if (m_bShown) {
+    if (IsShown()) {
         RecalcLayout();
     }
 }
@@ -86,7 +79,7 @@ void CMFCPopupMenu::Place() {
     }
     toolbar::PopupRequest request;
     request.wanted = m_ptWanted;
-    request.workArea = WorkArea(m_ptWanted);
+    request.workArea = toolbar::WorkAreaAround(CRect(m_ptWanted, CSize(0, 0)));
     request.avoid = GetAvoidedArea();
     request.isRightAligned = m_bRightAlign != FALSE;
     request.size = CalcWindowSize(request.workArea.Height() - screenMargin);
@@ -165,17 +158,17 @@ void CMFCPopupMenu::UpdateScrollRange(int nHeight) {
 CRect CMFCPopupMenu::GetBarRect() const { return m_rectBar; }
 
 void CMFCPopupMenu::RecalcLayout(BOOL) {
-    if (!m_hWnd || m_bClosing || m_bInLayout) {
+    if (!m_hWnd || IsOver() || m_isInLayout) {
         return;
     }
     CRect before, after;
     GetWindowRect(&before);
-    m_bInLayout = TRUE;
+    m_isInLayout = true;
     Place();
     PlaceBar();
-    m_bInLayout = FALSE;
+    m_isInLayout = false;
     GetWindowRect(&after);
-    if (m_bShown) {
+    if (IsShown()) {
         if (before != after) {
             UpdateShadow();
         }
@@ -186,7 +179,7 @@ void CMFCPopupMenu::RecalcLayout(BOOL) {
 void CMFCPopupMenu::OnSize(UINT nType, int cx, int cy) {
     // A frame's own layout of control bars has no place here.
     CWnd::OnSize(nType, cx, cy);
-    if (!m_bInLayout) {
+    if (!m_isInLayout) {
         PlaceBar();
         Invalidate();
     }
@@ -196,7 +189,7 @@ void CMFCPopupMenu::OnSize(UINT nType, int cx, int cy) {
 void CMFCPopupMenu::OnWindowPosChanged(WINDOWPOS* lpwndpos) {
     CMiniFrameWnd::OnWindowPosChanged(lpwndpos);
     const UINT unchanged = SWP_NOMOVE | SWP_NOSIZE;
-    if (!m_bInLayout && !m_parts->isResizing && (lpwndpos->flags & unchanged) != unchanged) {
+    if (!m_isInLayout && !m_parts->isResizing && (lpwndpos->flags & unchanged) != unchanged) {
         UpdateShadow();
     }
 }
@@ -220,32 +213,31 @@ CMFCPopupMenu::MENUAREA_TYPE CMFCPopupMenu::CheckArea(const CPoint& ptScreen) co
 }
 
 void CMFCPopupMenu::UpdateShadow(LPRECT) {
-    const int depth = Scaled(CMFCVisualManager::GetInstance()->GetMenuShadowDepth());
-    if (!m_bShown || !m_hWnd || !::IsWindowVisible(m_hWnd)) {
+    const HWND window = m_hWnd;
+    if (!IsShown() || !window || !::IsWindowVisible(window)) {
         return;
     }
-    CRect window;
-    GetWindowRect(&window);
-    // What lies below is taken from the screen: it must be drawn by then.
-    m_parts->shadow.Hide();
-    if (const HWND owner = ::GetWindow(m_hWnd, GW_OWNER)) {
-        ::RedrawWindow(owner, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const HWND owner = ::GetWindow(window, GW_OWNER);
+    if (owner && toolbar::MenuShadow::CopiesWindows()) {
+        ::RedrawWindow(owner, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); // and whoever paints may end this
     }
-    m_parts->shadow.Show(m_hWnd, window, depth);
+    if (::IsWindow(window)) {
+        CRect rect;
+        ::GetWindowRect(window, rect);
+        m_parts->shadow.Show(window, rect, Scaled(CMFCVisualManager::GetInstance()->GetMenuShadowDepth()));
+    }
 }
 
 void CMFCPopupMenu::UpdateAllShadows(LPRECT lprectScreen) {
-    for (CMFCPopupMenu* menu = m_pActivePopupMenu; menu; menu = menu->m_pParentPopup) {
+    for (CMFCPopupMenu* menu = GetActiveMenu(); menu; menu = menu->m_pParentPopup) {
         menu->UpdateShadow(lprectScreen);
     }
 }
 
 void CMFCPopupMenu::ShowAnimated() {
-    CRect window;
-    GetWindowRect(&window);
     const HWND handle = m_hWnd;
-    m_parts->shadow.Show(m_hWnd, window, Scaled(CMFCVisualManager::GetInstance()->GetMenuShadowDepth()));
-    m_bShown = TRUE;
+    m_life = Life::Shown;
+    m_hasBeenShown = true;
     const ANIMATION_TYPE animation = GetAnimationType();
     if (animation != NO_ANIMATION && m_nAnimationSpeed > 0) {
         const bool isUpwards = m_DropDirection == DROP_DIRECTION_TOP;
@@ -257,6 +249,9 @@ void CMFCPopupMenu::ShowAnimated() {
     }
     ::SetWindowPos(handle, HWND_TOP, 0, 0, 0, 0, SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
     ::UpdateWindow(handle);
+    if (::IsWindow(handle)) {
+        UpdateShadow();
+    }
     if (::IsWindow(handle) && m_bOpenedByKey) {
         GetMenuBar()->SelectFirstItem();
     }
@@ -372,7 +367,7 @@ void CMFCPopupMenu::DragResize(CPoint point) {
     const bool isOnTop = m_DropDirection == DROP_DIRECTION_TOP;
     CRect window;
     GetWindowRect(&window);
-    const CRect work = WorkArea(window.TopLeft());
+    const CRect work = toolbar::WorkAreaAround(CRect(window.TopLeft(), CSize(0, 0)));
     const int moved = isOnTop ? parts.resizeStart.y - screen.y : screen.y - parts.resizeStart.y;
     const int room = isOnTop ? window.bottom - work.top : work.bottom - window.top;
     const int tallest = static_cast<int>(CalcWindowSize(std::max(room, 1)).cy);
