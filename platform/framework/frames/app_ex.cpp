@@ -3,6 +3,7 @@
 #include "afxcontextmenumanager.h"
 #include "afxkeyboardmanager.h"
 #include "afxtooltipmanager.h"
+#include "fx/state_store.h"
 
 #include <new>
 
@@ -26,23 +27,57 @@ std::vector<BYTE> StoreObject(CObject& object) {
     return bytes;
 }
 
+/// The sections of the application as bars see them.
+class SectionStore final : public fx::StateStore {
+public:
+    explicit SectionStore(CWinAppEx& application) : m_application(application) {}
+    int ReadInt(LPCTSTR section, LPCTSTR entry, int missing) override {
+        return m_application.GetSectionInt(section, entry, missing);
+    }
+    BOOL WriteInt(LPCTSTR section, LPCTSTR entry, int value) override {
+        return m_application.WriteSectionInt(section, entry, value);
+    }
+    BOOL HasObject(LPCTSTR section, LPCTSTR entry) override {
+        LPBYTE data = nullptr;
+        UINT size = 0;
+        const BOOL exists = m_application.GetSectionBinary(section, entry, &data, &size);
+        const std::unique_ptr<BYTE[]> bytes(data);
+        return exists;
+    }
+    BOOL ReadObject(LPCTSTR section, LPCTSTR entry, CObject& object) override {
+        return m_application.GetSectionObject(section, entry, object);
+    }
+    BOOL WriteObject(LPCTSTR section, LPCTSTR entry, CObject& object) override {
+        return m_application.WriteSectionObject(section, entry, object);
+    }
+    BOOL DeleteSection(LPCTSTR section) override {
+        return m_application.CleanState(m_application.GetRegSectionPath(section));
+    }
+
+private:
+    CWinAppEx& m_application;
+};
+
 } // namespace
 
 struct CWinAppEx::Managers {
+    explicit Managers(CWinAppEx& application) : store(application) {}
+
+    SectionStore store;
     std::unique_ptr<CKeyboardManager> keyboard;
     std::unique_ptr<CTooltipManager> toolTip;
     std::unique_ptr<CContextMenuManager> contextMenus;
 };
 
 CWinAppEx::CWinAppEx(BOOL bResourceSmartUpdate)
-    : m_bResourceSmartUpdate(bResourceSmartUpdate), m_managers(std::make_unique<Managers>()) {
+    : m_bResourceSmartUpdate(bResourceSmartUpdate), m_managers(std::make_unique<Managers>(*this)) {
     SetRegistryBase();
 }
 
 CWinAppEx::~CWinAppEx() = default;
 
 int CWinAppEx::ExitInstance() {
-    m_managers = std::make_unique<Managers>();
+    m_managers = std::make_unique<Managers>(*this);
     return CWinApp::ExitInstance();
 }
 
@@ -173,6 +208,8 @@ BOOL CWinAppEx::InitContextMenuManager() {
     m_managers->contextMenus = std::make_unique<CContextMenuManager>();
     return TRUE;
 }
+
+fx::StateStore* CWinAppEx::GetStateStore() { return &m_managers->store; }
 
 CKeyboardManager* CWinAppEx::GetKeyboardManager() {
     InitKeyboardManager();

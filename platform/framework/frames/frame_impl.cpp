@@ -3,7 +3,6 @@
 #include "afxbasepane.h"
 #include "afxpopupmenu.h"
 #include "afxribbonbar.h"
-#include "panes/ribbon_pane.h"
 #include "ribbon/keyboard.h"
 
 #include <windowsx.h>
@@ -14,8 +13,9 @@ CMFCRibbonBar* CFrameImpl::RibbonBar() {
     CObList panes;
     m_dockingManager.GetPaneList(panes);
     for (POSITION position = panes.GetHeadPosition(); position;) {
-        if (CMFCRibbonBar* ribbon = RibbonPane(static_cast<CBasePane*>(panes.GetNext(position)))) {
-            return ribbon;
+        auto* const pane = static_cast<CBasePane*>(panes.GetNext(position));
+        if (pane->IsFrameRibbon()) {
+            return DYNAMIC_DOWNCAST(CMFCRibbonBar, pane);
         }
     }
     return nullptr;

@@ -187,8 +187,7 @@ void CMDIChildWnd::OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeac
     }
     if (bActivate) {
         OnUpdateFrameMenu(nullptr);
-    } else if (!pActivateWnd && frame->m_hMenuDefault) {
-        const HMENU menu = frame->m_hMenuDefault;
+    } else if (const HMENU menu = frame->m_hMenuDefault; !pActivateWnd && menu) {
         frame->MDISetMenu(CMenu::FromHandle(menu), CMenu::FromHandle(frame->GetWindowMenuPopup(menu)));
     }
     frame->DelayUpdateTitle();

@@ -1,6 +1,7 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "fx/window_guard.h"
 
 IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
 
@@ -86,14 +87,13 @@ LRESULT CMDIFrameWnd::DefWindowProc(UINT nMsg, WPARAM wParam, LPARAM lParam) {
 
 BOOL CMDIFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
     if (CMDIChildWnd* child = MDIGetActive()) {
-        CFrameWnd* frame = child;
-        const HWND window = frame->m_hWnd;
-        frame->m_leavesApplicationOut = true;
+        const fx::WindowGuard guard(child);
+        LeaveApplicationOut(*child, TRUE);
         const BOOL isHandled = child->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
         // Whoever was asked may have destroyed the child; one that did not pass the command on has not used the flag
         // up.
-        if (CWnd::FromHandlePermanent(window) == frame) {
-            frame->m_leavesApplicationOut = false;
+        if (guard.IsAlive()) {
+            LeaveApplicationOut(*child, FALSE);
         }
         if (isHandled) {
             return TRUE;

@@ -57,6 +57,8 @@ public:
     virtual BOOL IsHorizontal() const { return (m_dwStyle & CBRS_ORIENT_VERT) == 0; }
     virtual BOOL IsDocked() const { return m_bIsDocked; }
     virtual BOOL IsFloating() const { return FALSE; }
+    /// The frame's ribbon: it lies above every other pane, comes first on F6's way and takes the focus itself.
+    virtual BOOL IsFrameRibbon() const { return FALSE; }
     virtual BOOL IsTabbed() const { return FALSE; }
     virtual BOOL IsMDITabbed() const { return FALSE; }
     virtual BOOL IsAutoHideMode() const { return FALSE; }

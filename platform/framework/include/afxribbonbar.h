@@ -109,6 +109,8 @@ public:
     BOOL CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle = 0, DWORD dwStyle = WS_CHILD | WS_VISIBLE | CBRS_TOP,
                   UINT nID = AFX_IDW_RIBBON_BAR);
 
+    BOOL IsFrameRibbon() const override { return TRUE; }
+
     // Categories. Positions count all categories, shown or not.
     CMFCRibbonCategory* AddCategory(LPCTSTR lpszName, UINT uiSmallImagesResID, UINT uiLargeImagesResID,
                                     CSize sizeSmallImage = CSize(16, 16), CSize sizeLargeImage = CSize(32, 32),

@@ -43,6 +43,7 @@ public:
     BOOL WriteSectionString(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
     BOOL WriteSectionBinary(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
     BOOL WriteSectionObject(LPCTSTR lpszSubSection, LPCTSTR lpszEntry, CObject& obj);
+    fx::StateStore* GetStateStore() override;
     BOOL IsStateExists(LPCTSTR lpszSectionName);
     /// Deletes the section's settings.
     virtual BOOL CleanState(LPCTSTR lpszSectionName = NULL);

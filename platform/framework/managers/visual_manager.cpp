@@ -4,6 +4,7 @@
 
 #include "afxglobals.h"
 #include "visual/canvas.h"
+#include "visual/manager_instance.h"
 #include "visual/system_skins.h"
 
 #include <algorithm>
@@ -13,13 +14,20 @@ IMPLEMENT_DYNCREATE(CMFCVisualManager, CMFCBaseVisualManager)
 
 namespace {
 
-CMFCVisualManager* g_manager = nullptr;
-CRuntimeClass* g_managerClass = nullptr;
+CRuntimeClass* g_managerClass = nullptr; ///< as the host chose; null: the default
 
 BOOL CALLBACK Collect(HWND window, LPARAM list) {
     reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
     return TRUE;
 }
+
+CMFCVisualManager* MakeManager() {
+    CRuntimeClass* const wanted = g_managerClass != nullptr ? g_managerClass : RUNTIME_CLASS(CMFCVisualManager);
+    return DYNAMIC_DOWNCAST(CMFCVisualManager, wanted->CreateObject());
+}
+
+// As the library is loaded, before there is anything to draw.
+[[maybe_unused]] const bool g_isMakerSet = (visual::SetManagerMaker(&MakeManager), true);
 
 /// Top-level windows of this thread that the framework knows: its frames, floating panes and pop-ups.
 std::vector<HWND> FrameworkWindows() {
@@ -32,29 +40,16 @@ std::vector<HWND> FrameworkWindows() {
 } // namespace
 
 CMFCVisualManager::CMFCVisualManager(BOOL bTemporary) : m_bTemporary(bTemporary) {
-    if (!bTemporary && g_manager == nullptr) {
-        g_manager = this;
+    if (!bTemporary && visual::StandingManager() == nullptr) {
+        visual::SetStandingManager(this);
     }
     CMFCVisualManager::OnUpdateSystemColors();
 }
 
 CMFCVisualManager::~CMFCVisualManager() {
-    if (g_manager == this) {
-        g_manager = nullptr;
+    if (visual::StandingManager() == this) {
+        visual::SetStandingManager(nullptr);
     }
-}
-
-CMFCVisualManager* CMFCVisualManager::GetInstance() {
-    if (g_manager == nullptr) {
-        CRuntimeClass* const wanted = g_managerClass != nullptr ? g_managerClass : RUNTIME_CLASS(CMFCVisualManager);
-        auto* const made = DYNAMIC_DOWNCAST(CMFCVisualManager, wanted->CreateObject());
-        if (made != nullptr) {
-            made->m_bAutoDestroy = TRUE;
-            g_manager = made;
-            made->OnUpdateSystemColors();
-        }
-    }
-    return g_manager;
 }
 
 void CMFCVisualManager::SetDefaultManager(CRuntimeClass* pRTI) {
@@ -72,11 +67,12 @@ void CMFCVisualManager::SetDefaultManager(CRuntimeClass* pRTI) {
 }
 
 void __stdcall CMFCVisualManager::DestroyInstance(BOOL bAutoDestroyOnly) {
-    if (g_manager == nullptr || (bAutoDestroyOnly && !g_manager->m_bAutoDestroy)) {
+    CMFCVisualManager* const manager = visual::StandingManager();
+    if (manager == nullptr || (bAutoDestroyOnly && !manager->m_bAutoDestroy)) {
         return;
     }
     // The destructor takes the pointer back.
-    delete g_manager;
+    delete manager;
 }
 
 void CMFCVisualManager::RedrawAll() {
@@ -114,18 +110,3 @@ void CMFCVisualManager::OnUpdateSystemColors() {
     UpdateSystemColors();
     visual::UpdateSystemSkins();
 }
-
-BOOL CMFCVisualManager::IsAutoDestroy() const { return m_bAutoDestroy; }
-void CMFCVisualManager::SetMenuFlatLook(BOOL bMenuFlatLook) { m_bMenuFlatLook = bMenuFlatLook; }
-BOOL CMFCVisualManager::IsMenuFlatLook() const { return m_bMenuFlatLook; }
-void CMFCVisualManager::SetMenuShadowDepth(int nDepth) { m_nMenuShadowDepth = std::max(nDepth, 0); }
-int CMFCVisualManager::GetMenuShadowDepth() const { return m_nMenuShadowDepth; }
-void CMFCVisualManager::SetShadowHighlightedImage(BOOL bShadow) { m_bShadowHighlightedImage = bShadow; }
-BOOL CMFCVisualManager::IsShadowHighlightedImage() const { return m_bShadowHighlightedImage; }
-void CMFCVisualManager::SetEmbossDisabledImage(BOOL bEmboss) { m_bEmbossDisabledImage = bEmboss; }
-BOOL CMFCVisualManager::IsEmbossDisabledImage() const { return m_bEmbossDisabledImage; }
-void CMFCVisualManager::SetFadeInactiveImage(BOOL bFade) { m_bFadeInactiveImage = bFade; }
-BOOL CMFCVisualManager::IsFadeInactiveImage() const { return m_bFadeInactiveImage; }
-void CMFCVisualManager::EnableToolbarButtonFill(BOOL bEnable) { m_bEnableToolbarButtonFill = bEnable; }
-BOOL CMFCVisualManager::IsToolbarButtonFillEnabled() const { return m_bEnableToolbarButtonFill; }
-BOOL CMFCVisualManager::IsFrameMenuCheckedItems() const { return m_bFrameMenuCheckedItems; }

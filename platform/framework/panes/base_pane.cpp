@@ -4,7 +4,7 @@
 #include "afxPane.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
-#include "panes/bar_place.h"
+#include "window/bar_place.h"
 
 #include <utility>
 
@@ -233,7 +233,7 @@ void CBasePane::CopyState(CBasePane* pOrgBar) {
 }
 
 LRESULT CBasePane::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM) {
-    CFrameWnd* const target = IsVisible() ? panes::CommandTargetOf(*this) : nullptr;
+    CFrameWnd* const target = IsVisible() ? frame_bars::CommandTargetOf(*this) : nullptr;
     if (target != nullptr) {
         OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
     }
@@ -250,7 +250,7 @@ LRESULT CBasePane::OnSizeParent(WPARAM, LPARAM lParam) {
         return 0;
     }
     auto& place = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
-    panes::TakePlaceInFrame(*this, GetCurrentAlignment(), CalcFixedLayout(place.bStretch, IsHorizontal()), place);
+    frame_bars::TakePlaceInFrame(*this, GetCurrentAlignment(), CalcFixedLayout(place.bStretch, IsHorizontal()), place);
     return 0;
 }
 

@@ -4,7 +4,6 @@
 #include "afxPane.h"
 #include "core/scoped_change.h"
 #include "panes/pane_layout.h"
-#include "panes/ribbon_pane.h"
 
 #include <algorithm>
 #include <utility>
@@ -33,7 +32,7 @@ panes::PaneRequest RequestOf(CBasePane& pane) {
     const auto* row = DYNAMIC_DOWNCAST(CPane, &pane);
     const bool isAlone = !pane.IsDocked() || (row && row->GetExclusiveRowMode());
     const CSize size = pane.CalcFixedLayout(isAlone, pane.IsHorizontal());
-    return {panes::SideOfAlignment(pane.GetCurrentAlignment()), size, isAlone};
+    return {frame_bars::SideOfAlignment(pane.GetCurrentAlignment()), size, isAlone};
 }
 
 /// Moves a child window (frame's client pixels) unless it lies there already; a needless move would repaint it.
@@ -220,7 +219,7 @@ std::vector<CBasePane*> CDockingManager::PanesToPlace() const {
     // The ribbon stands in for caption and menu: nothing goes above it. Bars that keep to an edge lie outside the rows
     // of docked ones.
     std::stable_sort(panes.begin(), panes.end(), [](const CBasePane* first, const CBasePane* second) {
-        const auto rank = [](const CBasePane* pane) { return IsRibbonPane(pane) ? 0 : pane->IsDocked() ? 2 : 1; };
+        const auto rank = [](const CBasePane* pane) { return pane->IsFrameRibbon() ? 0 : pane->IsDocked() ? 2 : 1; };
         return rank(first) < rank(second);
     });
     return panes;

@@ -2,7 +2,6 @@
 #include "afxDockingManager.h"
 
 #include "afxbasepane.h"
-#include "panes/ribbon_pane.h"
 
 namespace {
 
@@ -16,7 +15,7 @@ HWND FocusIn(CBasePane& pane) {
     if (!CanTakeFocus(window)) {
         return nullptr;
     }
-    if (IsRibbonPane(&pane)) {
+    if (pane.IsFrameRibbon()) {
         return window;
     }
     // Without any tab stop the system answers some window all the same.
@@ -54,7 +53,7 @@ HWND CDockingManager::FindNextFocus(HWND hFrom, BOOL bForward) {
     for (const bool isRibbonWanted : {true, false}) {
         for (POSITION position = m_lstControlBars.GetHeadPosition(); position != nullptr;) {
             auto& pane = *static_cast<CBasePane*>(m_lstControlBars.GetNext(position));
-            const HWND stop = IsRibbonPane(&pane) == isRibbonWanted ? FocusIn(pane) : nullptr;
+            const HWND stop = (pane.IsFrameRibbon() != FALSE) == isRibbonWanted ? FocusIn(pane) : nullptr;
             if (stop == nullptr) {
                 continue;
             }

@@ -1,14 +1,10 @@
 #include "panes/pane_layout.h"
 
-#include "fx/bar_styles.h"
-
 #include <algorithm>
 
 namespace panes {
 
 namespace {
-
-bool IsHorizontal(Side side) { return side == Side::Top || side == Side::Bottom; }
 
 LONG Along(const SIZE& size, Side side) { return IsHorizontal(side) ? size.cx : size.cy; }
 
@@ -58,27 +54,6 @@ void PlaceRow(const std::vector<size_t>& row, const std::vector<PaneRequest>& re
 
 } // namespace
 
-RECT TakeStrip(RECT& area, Side side, LONG thickness) {
-    const LONG room = IsHorizontal(side) ? area.bottom - area.top : area.right - area.left;
-    thickness = std::clamp(thickness, 0L, std::max(room, 0L));
-    RECT strip = area;
-    switch (side) {
-    case Side::Top:
-        strip.bottom = area.top += thickness;
-        break;
-    case Side::Bottom:
-        strip.top = area.bottom -= thickness;
-        break;
-    case Side::Left:
-        strip.right = area.left += thickness;
-        break;
-    case Side::Right:
-        strip.left = area.right -= thickness;
-        break;
-    }
-    return strip;
-}
-
 PaneLayout LayOutPanes(const RECT& area, const std::vector<PaneRequest>& requests) {
     PaneLayout layout{std::vector<RECT>(requests.size()), area};
     layout.rest.right = std::max(area.left, area.right);
@@ -89,19 +64,6 @@ PaneLayout LayOutPanes(const RECT& area, const std::vector<PaneRequest>& request
         }
     }
     return layout;
-}
-
-Side SideOfAlignment(DWORD alignment) {
-    switch (alignment & CBRS_ALIGN_ANY) {
-    case CBRS_ALIGN_BOTTOM:
-        return Side::Bottom;
-    case CBRS_ALIGN_LEFT:
-        return Side::Left;
-    case CBRS_ALIGN_RIGHT:
-        return Side::Right;
-    default:
-        return Side::Top;
-    }
 }
 
 } // namespace panes

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <windows.h>
+#include "window/bar_strip.h"
 
 #include <vector>
 
 /// The places of a frame's panes as a pure function of their wishes. All values are pixels of one co-ordinate system.
 namespace panes {
 
-enum class Side { Top, Bottom, Left, Right };
+using frame_bars::Side;
 
 struct PaneRequest {
     Side side;
@@ -23,11 +23,5 @@ struct PaneLayout {
 /// Requests of one side stand from the frame's edge inwards. Top and bottom take the whole width, left and right what
 /// is left between them. Panes that share stand side by side while they fit; the last of a row fills it up.
 PaneLayout LayOutPanes(const RECT& area, const std::vector<PaneRequest>& requests);
-
-/// Takes a strip of `thickness` off one side of `area` and answers it; less when there is no room.
-RECT TakeStrip(RECT& area, Side side, LONG thickness);
-
-/// The side of a CBRS_ALIGN_ bit; top when there is none.
-Side SideOfAlignment(DWORD alignment);
 
 } // namespace panes

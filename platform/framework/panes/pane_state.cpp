@@ -1,6 +1,7 @@
 #include "afxPane.h"
 
-#include "afxwinappex.h"
+#include "fx/app.h"
+#include "fx/state_store.h"
 
 // Where panes keep their state: one section per pane below the application's base section.
 
@@ -19,17 +20,20 @@ CString SectionOf(const CBasePane& pane, LPCTSTR profile, int index, UINT id, LP
     return section;
 }
 
-CWinAppEx* Application() { return DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); }
+fx::StateStore* Store() {
+    CWinApp* const application = AfxGetApp();
+    return application != nullptr ? application->GetStateStore() : nullptr;
+}
 
 } // namespace
 
 BOOL CBasePane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    CWinAppEx* application = Application();
-    if (!application) {
+    fx::StateStore* const store = Store();
+    if (!store) {
         return FALSE;
     }
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"BasePane");
-    const int isVisible = application->GetSectionInt(section, L"IsVisible", -1);
+    const int isVisible = store->ReadInt(section, L"IsVisible", -1);
     if (isVisible == -1) {
         return FALSE;
     }
@@ -38,18 +42,18 @@ BOOL CBasePane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
 }
 
 BOOL CBasePane::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    CWinAppEx* application = Application();
+    fx::StateStore* const store = Store();
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"BasePane");
-    return application && application->WriteSectionInt(section, L"IsVisible", GetRecentVisibleState());
+    return store && store->WriteInt(section, L"IsVisible", GetRecentVisibleState());
 }
 
 BOOL CPane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    CWinAppEx* application = Application();
-    if (!application) {
+    fx::StateStore* const store = Store();
+    if (!store) {
         return FALSE;
     }
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"Pane");
-    const DWORD alignment = static_cast<DWORD>(application->GetSectionInt(section, L"RecentAlignment", 0));
+    const DWORD alignment = static_cast<DWORD>(store->ReadInt(section, L"RecentAlignment", 0));
     // Only sides that the host still allows are taken back.
     if ((alignment & m_dwEnabledAlignment) != 0) {
         SetPaneAlignment(alignment);
@@ -58,9 +62,8 @@ BOOL CPane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
 }
 
 BOOL CPane::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    CWinAppEx* application = Application();
+    fx::StateStore* const store = Store();
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"Pane");
-    return application &&
-           application->WriteSectionInt(section, L"RecentAlignment", static_cast<int>(GetCurrentAlignment())) &&
+    return store && store->WriteInt(section, L"RecentAlignment", static_cast<int>(GetCurrentAlignment())) &&
            CBasePane::SaveState(lpszProfileName, nIndex, uiID);
 }

@@ -4,6 +4,7 @@
 #include "afxpriv.h"
 
 #include <vector>
+#include "window/input_filter.h"
 
 namespace {
 
@@ -193,3 +194,6 @@ BOOL toolbar::FilterMenuMessage(MSG* message) {
         return IsButtonDown(message->message) && !IsInOpenPopups(message->hwnd) && OnOutsideClick(active, *message);
     }
 }
+
+// As the library is loaded, before a message is pumped.
+[[maybe_unused]] static const bool g_isFilterSet = (fx::AddInputFilter(&toolbar::FilterMenuMessage), true);

@@ -3,7 +3,7 @@
 
 #include "afxdrawmanager.h"
 #include "afxglobals.h"
-#include "afxribbonbutton.h"
+#include "popups/tooltip_element.h"
 #include "popups/tooltip_shape.h"
 #include "popups/tooltip_text.h"
 
@@ -96,21 +96,16 @@ void CMFCToolTipCtrl::SetFixedWidth(int nWidthRegular, int nWidthLargeImage) {
 }
 
 CSize CMFCToolTipCtrl::GetIconSize() {
-    if (m_pRibbonButton == nullptr) {
-        return CSize(0, 0);
-    }
-    const bool isLarge = m_pRibbonButton->IsLargeImage() != FALSE;
-    return m_pRibbonButton->GetImageSize(isLarge ? CMFCRibbonBaseElement::RibbonImageLarge
-                                                 : CMFCRibbonBaseElement::RibbonImageSmall);
+    const tooltip::ElementPicture* const picture = tooltip::GetElementPicture();
+    return m_pRibbonButton != nullptr && picture != nullptr ? picture->SizeOf(*m_pRibbonButton) : CSize(0, 0);
 }
 
 BOOL CMFCToolTipCtrl::OnDrawIcon(CDC* pDC, CRect rectImage) {
-    if (m_pRibbonButton == nullptr || rectImage.IsRectEmpty()) {
+    const tooltip::ElementPicture* const picture = tooltip::GetElementPicture();
+    if (m_pRibbonButton == nullptr || picture == nullptr || rectImage.IsRectEmpty()) {
         return FALSE;
     }
-    const bool isLarge = m_pRibbonButton->IsLargeImage() != FALSE;
-    m_pRibbonButton->DrawImage(
-        pDC, isLarge ? CMFCRibbonBaseElement::RibbonImageLarge : CMFCRibbonBaseElement::RibbonImageSmall, rectImage);
+    picture->Draw(*m_pRibbonButton, *pDC, rectImage);
     return TRUE;
 }
 

@@ -6,7 +6,7 @@
 
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
-#include "fx/mdi.h"
+#include "fx/frame.h"
 #include "ribbon/bar_parts.h"
 
 namespace {
@@ -187,14 +187,14 @@ void CMFCRibbonBar::SetMaximizeMode(BOOL bMax, CWnd* pWnd) {
 }
 
 void CMFCRibbonBar::UpdateMaximizeMode() {
-    const auto* frame = DYNAMIC_DOWNCAST(CMDIFrameWnd, GetParent());
-    if (frame == nullptr || frame->m_hWndMDIClient == nullptr) {
+    auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, GetParent());
+    if (frame == nullptr || frame->GetMDIClient() == nullptr) {
         return;
     }
-    BOOL isMaximized = FALSE;
-    CMDIChildWnd* child = frame->MDIGetActive(&isMaximized);
+    CFrameWnd* const active = frame->GetActiveFrame();
+    CFrameWnd* const child = active != frame ? active : nullptr;
     SetActiveMDIChild(child);
-    SetMaximizeMode(child != nullptr && isMaximized, child);
+    SetMaximizeMode(child != nullptr && child->IsZoomed(), child);
 }
 
 // ---- tabs that have no room

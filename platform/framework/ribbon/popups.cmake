@@ -2,4 +2,4 @@
 target_sources(framework PRIVATE
   main_panel.cpp menu_items.cpp panel_menu.cpp panel_menu_bar.cpp
   panel_menu_bar_input.cpp panel_menu_bar_layout.cpp panel_menu_bar_tooltip.cpp
-  quick_access_more.cpp)
+  quick_access_more.cpp tooltip_element.cpp)

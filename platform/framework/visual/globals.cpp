@@ -157,7 +157,7 @@ BOOL AFX_GLOBAL_DATA::SetLayeredAttrib(HWND hwnd, COLORREF crKey, BYTE bAlpha, D
 }
 
 BOOL AFX_GLOBAL_DATA::DrawParentBackground(CWnd* pWnd, CDC* pDC, LPRECT lpRect) {
-    const HWND window = pWnd->GetSafeHwnd(), parent = ::GetParent(window);
+    const HWND window = pWnd != nullptr ? pWnd->m_hWnd : nullptr, parent = ::GetParent(window);
     if (parent == nullptr) {
         return FALSE;
     }

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <memory>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -201,8 +203,11 @@ BOOL CMFCToolBarImages::CopyImageToClipboard(int iImage) {
     const PixelView image{rows.data(), m_sizeImage.cx, m_sizeImage.cy};
     visual::CopyPixels(ViewOf(m_hbmImageWell), GetSourceRect(iImage), image, 0);
     const std::vector<BYTE> file = visual::BitmapFileFrom(image);
-    CWnd* const owner = AfxGetMainWnd();
-    if (!::OpenClipboard(owner->GetSafeHwnd())) {
+    // Somebody must own what goes into the clipboard while it is put there.
+    const std::unique_ptr<std::remove_pointer_t<HWND>, decltype(&::DestroyWindow)> owner(
+        ::CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr),
+        &::DestroyWindow);
+    if (!::OpenClipboard(owner.get())) {
         return FALSE;
     }
     ::EmptyClipboard();

@@ -1,7 +1,7 @@
 #include "afxext.h"
 #include "fx/window_dc.h"
 
-#include "panes/bar_place.h"
+#include "window/bar_place.h"
 
 IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 
@@ -120,12 +120,12 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam) {
     }
     auto& place = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
     const bool isHorizontal = (m_dwStyle & CBRS_ORIENT_HORZ) != 0;
-    panes::TakePlaceInFrame(*this, m_dwStyle, CalcFixedLayout(place.bStretch, isHorizontal), place);
+    frame_bars::TakePlaceInFrame(*this, m_dwStyle, CalcFixedLayout(place.bStretch, isHorizontal), place);
     return 0;
 }
 
 LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM) {
-    CFrameWnd* const target = IsVisible() ? panes::CommandTargetOf(*this) : nullptr;
+    CFrameWnd* const target = IsVisible() ? frame_bars::CommandTargetOf(*this) : nullptr;
     if (target != nullptr) {
         OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
     }

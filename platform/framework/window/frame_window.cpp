@@ -201,7 +201,7 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
 }
 
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
-    const bool asksApplication = !std::exchange(m_leavesApplicationOut, false);
+    const bool asksApplication = !std::exchange(m_leavesApplicationOut, FALSE);
     if (m_pViewActive != nullptr && m_pViewActive->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
         return TRUE;
     }

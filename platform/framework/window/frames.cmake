@@ -1,5 +1,7 @@
 # Frames, MDI, dialogs and controls.
 target_sources(framework PRIVATE
+  bar_place.cpp
+  bar_strip.cpp
   control_button_control.cpp
   control_combo_box.cpp
   control_edit_control.cpp
@@ -23,7 +25,6 @@ target_sources(framework PRIVATE
   dialog_ex.cpp
   dialog_window.cpp
   frame_control_bar.cpp
-  frame_default.cpp
   frame_layout.cpp
   frame_messages.cpp
   frame_status_bar.cpp

@@ -6,7 +6,7 @@
 #include "fx/exceptions.h"
 #include "fx/frame.h"
 #include "fx/gdi_objects.h"
-#include "popups/menu_watch.h"
+#include "window/input_filter.h"
 #include "window/message_map.h"
 #include "window/thread_state.h"
 
@@ -190,7 +190,7 @@ BOOL CWinThread::DispatchThreadMessage(MSG* pMsg) {
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
     // Open pop-up menus come before every window.
-    if (toolbar::FilterMenuMessage(pMsg)) {
+    if (fx::FilterInput(pMsg)) {
         return TRUE;
     }
     if (pMsg->hwnd == nullptr && DispatchThreadMessage(pMsg)) {
@@ -296,5 +296,5 @@ BOOL AFXAPI AfxPumpMessage() {
 BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg) {
     CWinThread* thread = AfxGetThread();
     return thread != nullptr ? thread->PreTranslateMessage(pMsg)
-                             : toolbar::FilterMenuMessage(pMsg) || CWnd::WalkPreTranslateTree(nullptr, pMsg);
+                             : fx::FilterInput(pMsg) || CWnd::WalkPreTranslateTree(nullptr, pMsg);
 }

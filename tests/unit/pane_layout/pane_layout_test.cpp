@@ -78,11 +78,11 @@ TEST(PaneLayout, WithoutRoomNothingBecomesNegative) {
 }
 
 TEST(PaneLayout, AlignmentBitsNameTheirSideAndNoBitIsTheTop) {
-    EXPECT_EQ(panes::SideOfAlignment(0x1000), Side::Left);
-    EXPECT_EQ(panes::SideOfAlignment(0x2000), Side::Top);
-    EXPECT_EQ(panes::SideOfAlignment(0x4000), Side::Right);
-    EXPECT_EQ(panes::SideOfAlignment(0x8000), Side::Bottom);
-    EXPECT_EQ(panes::SideOfAlignment(0), Side::Top);
+    EXPECT_EQ(frame_bars::SideOfAlignment(0x1000), Side::Left);
+    EXPECT_EQ(frame_bars::SideOfAlignment(0x2000), Side::Top);
+    EXPECT_EQ(frame_bars::SideOfAlignment(0x4000), Side::Right);
+    EXPECT_EQ(frame_bars::SideOfAlignment(0x8000), Side::Bottom);
+    EXPECT_EQ(frame_bars::SideOfAlignment(0), Side::Top);
 }
 
 } // namespace

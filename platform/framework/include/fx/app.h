@@ -14,6 +14,10 @@ class CDocTemplate;
 class CRecentFileList;
 class CWinApp;
 
+namespace fx {
+class StateStore;
+}
+
 /// How many recent files an application keeps unless it asks for another number.
 #define _AFX_MRU_COUNT 4
 
@@ -93,6 +97,8 @@ public:
     virtual void AddToRecentFileList(LPCTSTR lpszPathName);
     /// Null before LoadStdProfileSettings, and where the application keeps no recent files.
     CRecentFileList* GetRecentFileList() const { return m_recentFiles.get(); }
+    /// Where bars keep their state. Null: this application keeps none.
+    virtual fx::StateStore* GetStateStore() { return nullptr; }
 
     /// Shows AfxMessageBox's box. Goes through fx::RunMessageBox.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);

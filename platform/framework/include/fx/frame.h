@@ -124,6 +124,8 @@ public:
     virtual BOOL OnDrawMenuImage(CDC*, const CMFCToolBarMenuButton*, const CRect&) { return FALSE; }
     /// TRUE: the text is the button's tooltip.
     virtual BOOL GetToolbarButtonToolTipText(CMFCToolBarButton*, CString&) { return FALSE; }
+    /// The system's window around the MDI children. NULL unless this is an MDI frame.
+    virtual HWND GetMDIClient() const { return NULL; }
 
     BOOL m_bAutoMenuEnable = TRUE; ///< items without a handler are disabled when their menu opens
     HACCEL m_hAccelTable = NULL;   ///< current table, NULL when none; replace it with ReplaceAccelTable
@@ -142,6 +144,8 @@ protected:
     virtual HACCEL GetDefaultAccelerator();
     /// Registers (once) a class with the icon of that id; NULL when there is no such icon.
     LPCTSTR GetIconWndClass(DWORD style, UINT resourceId);
+    /// Whether a frame routes the next command past the application, because the caller asks that itself afterwards.
+    static void LeaveApplicationOut(CFrameWnd& frame, BOOL bLeaveOut) { frame.m_leavesApplicationOut = bLeaveOut; }
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
@@ -175,8 +179,6 @@ protected:
     BOOL m_isAccelTableOwned = FALSE;
 
 private:
-    friend class CMDIFrameWnd;
-    friend class CMDIChildWnd;
     BOOL CreateWithMenu(LPCTSTR className, LPCTSTR title, DWORD style, const RECT& rect, CWnd* parent, HMENU menu,
                         DWORD exStyle, CCreateContext* context);
     void UpdateMenuItem(CCmdUI& state, CMenu& menu);
@@ -186,7 +188,7 @@ private:
     std::vector<HWND> m_disabledWindows; ///< by BeginModalState
     bool m_isEnding = false;             ///< the destructor runs
     bool m_isInLayout = false;
-    bool m_leavesApplicationOut = false; ///< for the next command: the MDI frame asks the application itself
+    BOOL m_leavesApplicationOut = FALSE; ///< for the next command
     bool m_isMenuBarShownForKeys = false;
     DWORD m_menuBarState = AFX_MBS_VISIBLE;
     DWORD m_menuBarVisibility = AFX_MBV_KEEPVISIBLE;

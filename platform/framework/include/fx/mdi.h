@@ -41,6 +41,7 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
     void OnUpdateFrameMenu(HMENU hMenuAlt) override;
     void DelayUpdateFrameMenu(HMENU hMenuAlt) override;
+    HWND GetMDIClient() const override { return m_hWndMDIClient; }
 
     HWND m_hWndMDIClient = NULL; ///< a child of the frame
 
@@ -52,6 +53,8 @@ protected:
     afx_msg void OnUpdateMDIWindowCmd(CCmdUI* pCmdUI);
     afx_msg BOOL OnMDIWindowCmd(UINT nID);
     DECLARE_MESSAGE_MAP()
+
+    friend class CMDIChildWnd; // shows the frame's own menu while it has none
 };
 
 /// A child window of an MDI client. Created with new; deletes itself.

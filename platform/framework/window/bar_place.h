@@ -6,7 +6,7 @@
 class CFrameWnd;
 
 /// What a frame's bars have in common, whichever of the two families of bars they belong to.
-namespace panes {
+namespace frame_bars {
 
 /// Whose commands a bar's items follow: the bar's owner when that is a frame, else the frame around it. Null without
 /// one.
@@ -16,4 +16,4 @@ CFrameWnd* CommandTargetOf(const CWnd& bar);
 /// frame collects places, gives it to the bar.
 void TakePlaceInFrame(const CWnd& bar, DWORD style, CSize size, AFX_SIZEPARENTPARAMS& place);
 
-} // namespace panes
+} // namespace frame_bars

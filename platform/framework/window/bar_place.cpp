@@ -1,9 +1,9 @@
-#include "panes/bar_place.h"
+#include "window/bar_place.h"
 
 #include "afxwin.h"
-#include "panes/pane_layout.h"
+#include "window/bar_strip.h"
 
-namespace panes {
+namespace frame_bars {
 
 CFrameWnd* CommandTargetOf(const CWnd& bar) {
     auto* const owner = DYNAMIC_DOWNCAST(CFrameWnd, bar.GetOwner());
@@ -21,4 +21,4 @@ void TakePlaceInFrame(const CWnd& bar, DWORD style, CSize size, AFX_SIZEPARENTPA
     }
 }
 
-} // namespace panes
+} // namespace frame_bars
