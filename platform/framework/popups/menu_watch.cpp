@@ -2,9 +2,9 @@
 
 #include "afxpopupmenu.h"
 #include "afxpriv.h"
+#include "window/input_filter.h"
 
 #include <vector>
-#include "window/input_filter.h"
 
 namespace {
 

@@ -8,14 +8,14 @@ class CMFCPopupMenu;
 class CMFCRibbonBar;
 class CMFCToolBarButton;
 
-/// What CFrameWndEx and CMDIFrameWndEx share: docking manager, special panes, the open popup. Part of the frame.
+/// What fx::BarFrameOf leaves to a class that does not depend on the kind of frame: special panes, the open popup, keys
+/// and caption of the ribbon. Part of the frame.
 class FRAMEWORK_API CFrameImpl {
 public:
-    explicit CFrameImpl(CFrameWnd* frame) : m_frame(frame) {}
+    CFrameImpl(CFrameWnd* frame, CDockingManager& dockingManager) : m_frame(frame), m_dockingManager(dockingManager) {}
     CFrameImpl(const CFrameImpl&) = delete;
     CFrameImpl& operator=(const CFrameImpl&) = delete;
 
-    CDockingManager& DockingManager() { return m_dockingManager; }
     /// Before the frame's first pane is made.
     bool Create();
     /// The first ribbon among the panes, else null.
@@ -84,11 +84,11 @@ private:
     void OnDpiChanged(UINT dpi, const RECT* place);
 
     CFrameWnd* m_frame;
+    CDockingManager& m_dockingManager;
     bool m_replacesCaption = false;
     bool m_hasRegion = false;
     bool m_wasZoomed = false; ///< when its size last changed
     CSize m_regionSize{0, 0}; ///< of the window when its region was set; 0, 0: maximised or none
-    CDockingManager m_dockingManager;
     CMFCMenuBar* m_menuBar = nullptr;
     CMFCPopupMenu* m_activePopup = nullptr;
 };

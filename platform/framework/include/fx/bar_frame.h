@@ -1,0 +1,62 @@
+#pragma once
+
+#include "afxbasepane.h"
+#include "fx/docking_frame.h"
+#include "fx/frame_impl.h"
+
+class CMFCToolBarMenuButton;
+
+namespace fx {
+
+/// What the main frames CFrameWndEx and CMDIFrameWndEx share beyond their panes: ribbon or menu bar, keys and wheel for
+/// it, a caption that the ribbon draws, pop-ups. Like DockingFrameOf a step without a run-time class or a message map.
+template <class Base>
+class BarFrameOf : public DockingFrameOf<Base> {
+public:
+    BarFrameOf();
+    ~BarFrameOf() override;
+
+    BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                   CWnd* pParentWnd = NULL, CCreateContext* pContext = NULL) override;
+
+    virtual BOOL OnShowPanes(BOOL bShow);
+    void EnablePaneMenu(BOOL bEnable, UINT uiCustomizeCmd, const CString& strCustomizeLabel,
+                        UINT uiViewToolbarsMenuEntryID, BOOL bContextMenuShowsToolbarsOnly = FALSE,
+                        BOOL bViewMenuShowsToolbarsOnly = FALSE);
+
+    void RecalcLayout(BOOL bNotify = TRUE) override;
+    void AdjustDockingLayout(HDWP hdwp = NULL) override;
+
+    CMFCRibbonBar* GetRibbonBar();
+    const CMFCMenuBar* GetMenuBar() const;
+    BOOL IsMenuBarAvailable() const;
+    CMFCPopupMenu* GetActivePopup() const;
+    UINT GetDefaultResId() const;
+    void SetMenuBar(CMFCMenuBar* bar);
+
+    BOOL OnShowPopupMenu(CMFCPopupMenu* pMenu) override;
+    void OnClosePopupMenu(CMFCPopupMenu* pMenuPopup) override;
+    BOOL OnDrawMenuImage(CDC* pDC, const CMFCToolBarMenuButton* pMenuButton, const CRect& rectImage) override;
+    BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* pButton, CString& strTTText) override;
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg LRESULT OnChangeVisualManager(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnPaneCheck(UINT nID);
+    afx_msg void OnUpdatePaneMenu(CCmdUI* pCmdUI);
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    /// The panes have their places; what fills the rest may take its own.
+    virtual void OnPanesPlaced();
+
+    CFrameImpl m_Impl{this, this->m_dockManager};
+};
+
+extern template class FRAMEWORK_API BarFrameOf<CFrameWnd>;
+extern template class FRAMEWORK_API BarFrameOf<CMDIFrameWnd>;
+
+} // namespace fx

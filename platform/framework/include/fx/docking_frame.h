@@ -1,0 +1,43 @@
+#pragma once
+
+#include "afxDockingManager.h"
+#include "fx/mdi.h"
+
+class CPane;
+
+namespace fx {
+
+/// What every frame with panes adds to the kind of frame that it is: a docking manager, and the members that hand to
+/// it. Derive from CFrameWndEx, CMDIFrameWndEx or CMDIChildWndEx; this step between them and Base has no run-time class
+/// and no message map of its own. The panes take themselves out of the docking manager when they are destroyed, so each
+/// of the three ends its window in its destructor, before the manager goes.
+///
+/// Every member is defined in the library, the short ones too: users of an instance declared extern emit none.
+template <class Base>
+class DockingFrameOf : public Base {
+public:
+    DockingFrameOf();
+    ~DockingFrameOf() override;
+
+    CDockingManager* GetDockingManager();
+    CDockingManager* FindDockingManager() override;
+    BOOL AddPane(CBasePane* pControlBar, BOOL bTail = TRUE);
+    BOOL InsertPane(CBasePane* pControlBar, CBasePane* pTarget, BOOL bAfter = TRUE);
+    void RemovePaneFromDockManager(CBasePane* pControlBar, BOOL bDestroy, BOOL bAdjustLayout, BOOL bAutoHide,
+                                   CBasePane* pBarReplacement);
+    CBasePane* GetPane(UINT nID);
+    BOOL EnableDocking(DWORD dwDockStyle);
+    void DockPane(CBasePane* pBar, UINT nDockBarID = 0, LPCRECT lpRect = NULL);
+    BOOL DockPaneLeftOf(CPane* pBar, CPane* pLeftOf);
+    void ShowPane(CBasePane* pBar, BOOL bShow, BOOL bDelay, BOOL bActivate);
+    virtual void AdjustDockingLayout(HDWP hdwp = NULL);
+
+protected:
+    CDockingManager m_dockManager;
+};
+
+extern template class FRAMEWORK_API DockingFrameOf<CFrameWnd>;
+extern template class FRAMEWORK_API DockingFrameOf<CMDIFrameWnd>;
+extern template class FRAMEWORK_API DockingFrameOf<CMDIChildWnd>;
+
+} // namespace fx
