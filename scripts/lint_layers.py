@@ -5,17 +5,18 @@ import re
 import subprocess
 import sys
 
-TABLE = "scripts/layers.txt"
+import layer_table
+from layer_table import TABLE
+
 INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]')
 
 
 def read_table():
     allowed, public, rooms, uses, exceptions = {}, [], {}, {}, set()
-    for line in open(TABLE, encoding="utf-8"):
-        line = line.split("#")[0].strip()
-        if not line:
-            continue
+    for line in layer_table.lines():
         words = line.split()
+        if words[0] in ("storeys", "about", "knot"):
+            continue
         if words[0] == "public":
             public = words[1:]
         elif words[0] == "room":
@@ -31,6 +32,7 @@ def read_table():
 
 def main():
     allowed, public, rooms, uses, exceptions = read_table()
+    buildings = layer_table.read_storeys()
     listing = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "*.h", "*.cpp"],
                              check=True, capture_output=True, text=True)
     files = listing.stdout.split()
@@ -72,6 +74,10 @@ def main():
                 bad.append(f"{where}: {layer} may not use {rooms[target]}")
             if target.startswith("include/") and layer in uses and target not in rooms and target != "include/barwright_api.h":
                 bad.append(f"{where}: name the room of this header in {TABLE}")
+            for storeys in buildings:
+                room, target_room = storeys.room_of(path), storeys.room_of(target)
+                if room is not None and target_room is not None and storeys.runs_upward(room, target_room):
+                    bad.append(f"{where}: {room} lies below {target_room}")
 
     bad += [f"circle: {' -> '.join(circle)}" for circle in circles(graph)]
     for line in bad:

@@ -3,9 +3,9 @@
 that no include shows.
 
 usage: lint_links.py BUILD [--edges] [--knots]
-The table's line "storeys FOLDER: A B C ..." names FOLDER's rooms from the ground up. A unit (an object file) may use its own
-room and those below; what it needs from above it asks through virtual functions. A line "knot N" bounds how many units may
-use each other in a circle. --edges prints every edge that runs upward with its symbols, --knots the circles.
+A unit (an object file) may use its own room and those below; what it needs from above it asks through virtual functions.
+No circle of units that use each other spans two rooms or is larger than the table's knot. --edges prints every edge that
+runs upward with its symbols, --knots the circles.
 """
 import collections
 import glob
@@ -14,18 +14,7 @@ import re
 import subprocess
 import sys
 
-TABLE = "scripts/layers.txt"
-
-
-def read_table():
-    storeys, bound = {}, 0
-    for line in open(TABLE, encoding="utf-8"):
-        words = line.split("#")[0].split()
-        if words and words[0] == "storeys":
-            storeys[words[1].rstrip(":")] = words[2:]
-        elif words and words[0] == "knot":
-            bound = int(words[1])
-    return storeys, bound
+import layer_table
 
 
 def units(build, folder, rooms):
@@ -38,7 +27,8 @@ def units(build, folder, rooms):
         # A target in a room's own folder names its sources from there.
         target = os.path.relpath(path.split("CMakeFiles/")[0], f"{build}/{folder}")
         unit = os.path.normpath(os.path.join(target, match[1].replace("__/", "../")))
-        if unit.split("/")[0] in rooms:
+        # A source that has moved leaves its object behind.
+        if unit.split("/")[0] in rooms and os.path.exists(f"{folder}/{unit}"):
             found[unit] = path
     return found
 
@@ -52,6 +42,8 @@ def symbols(path):
         if len(words) < 2:
             continue
         kind, name = words[-2], words[-1]
+        if name.startswith("_ZTI"):
+            continue  # the type record of an exported class lies wherever its header is read, and names its base's
         if kind == "U":
             used.add(name.removeprefix("__imp_"))
         elif kind in "TDBR":
@@ -117,17 +109,16 @@ def demangled(names):
 
 def main():
     build, options = sys.argv[1], sys.argv[2:]
-    storeys, bound = read_table()
     bad = 0
-    for folder, rooms in storeys.items():
-        height = {room: number for number, room in enumerate(rooms)}
-        objects = units(build, folder, height)
+    for storeys in layer_table.read_storeys():
+        folder = storeys.folder
+        objects = units(build, folder, storeys.rooms)
         if not objects:
             print(f"{folder}: no object files below {build}; build it first")
             return 1
         edges = link_edges(objects)
         upward = {edge: names for edge, names in edges.items()
-                  if height[edge[0].split("/")[0]] < height[edge[1].split("/")[0]]}
+                  if storeys.runs_upward(edge[0].split("/")[0], edge[1].split("/")[0])}
         for (start, end), names in sorted(upward.items()):
             shown = demangled(names)
             print(f"{folder}/{start}: calls up into {end}: {shown[0]}" + (f" and {len(shown) - 1} more" if shown[1:] else ""))
@@ -137,7 +128,7 @@ def main():
         circles = knots(objects, edges)
         for knot in circles:
             spread = collections.Counter(unit.split("/")[0] for unit in knot)
-            if len(spread) > 1 or len(knot) > bound:
+            if len(spread) > 1 or len(knot) > storeys.knot:
                 bad += 1
                 print(f"{folder}: a knot of {len(knot)} units: " + ", ".join(f"{room} {count}" for room, count in spread.items()))
             if "--knots" in options:
