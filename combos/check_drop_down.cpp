@@ -4,6 +4,7 @@
 #include "ribbon_check_combo.h"
 #include "ribbon_multi_combo.h"
 
+#include <afxglobals.h>
 #include <fx/window_guard.h>
 
 IMPLEMENT_DYNCREATE(CMFCPopupMenuBarEx, CMFCPopupMenuBar)
@@ -28,7 +29,10 @@ constexpr bool exclusiveClick = true;
 
 // ---- the rows
 
-int CMFCPopupMenuBarEx::ZoneAt(CPoint point) const { return marks::ZoneAt(m_zones, point.x, point.y, GetRowHeight()); }
+// The rows of a list are as high as a line of text. A bar that shows a menu has higher ones, and still the line counts.
+int CMFCPopupMenuBarEx::ZoneAt(CPoint point) const {
+    return marks::ZoneAt(m_zones, point.x, point.y, afxGlobalData.GetTextHeight());
+}
 
 void CMFCPopupMenuBarEx::OnLButtonDown(UINT flags, CPoint point) {
     // Neither tracked nor closed: what a mark does comes with the release.

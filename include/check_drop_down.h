@@ -18,7 +18,8 @@ public:
 
     /// Not owned; null: none.
     void SetNotifyChild(CRibbonNotifyCombox* child) { m_notifyChild = child; }
-    /// In pixels of one row: x as in the bar's client area, y from the row's top. They count for every row.
+    /// In pixels: x as in the bar's client area, y from the top of a row that is as high as a line of text. They count
+    /// anew every such height.
     void SetSpRects(const std::vector<CRect>& zones) { m_zones = zones; }
 
 protected:

@@ -207,7 +207,6 @@ public:
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL InitMenuBar() override;
-    CSize CalcWindowSize(int nMaxHeight) override;
     CRect GetAvoidedArea() override;
     void OnChangeHot(int nHot) override;
     // Closes the list and has the element select the row.

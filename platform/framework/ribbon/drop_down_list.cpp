@@ -159,17 +159,6 @@ BOOL CMFCDropDownListBox::InitMenuBar() {
     return TRUE;
 }
 
-// Whole rows, unless the user decides on the height.
-CSize CMFCDropDownListBox::CalcWindowSize(int nMaxHeight) {
-    CSize size = CMFCPopupMenu::CalcWindowSize(nMaxHeight);
-    const int row = GetMenuBar()->GetRowHeight();
-    const int inside = size.cy - 2 * GetBorderSize();
-    if (!IsResizeble() && row > 0 && inside > row) {
-        size.cy -= inside % row;
-    }
-    return size;
-}
-
 CWnd* CMFCDropDownListBox::GetParentArea(CRect& rectParentBtn) {
     if (m_pCombo == nullptr) {
         return CMFCPopupMenu::GetParentArea(rectParentBtn);

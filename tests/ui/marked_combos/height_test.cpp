@@ -149,8 +149,28 @@ TYPED_TEST(StaticHeight, IsSetByADragOfTheListsGrip) {
     EXPECT_EQ(combo.GetDropDownHeight(), after.Height());
     CMFCPopupMenu::CloseAll();
     this->Open(combo);
-    EXPECT_LE(HeightOfOpenList(), after.Height());
-    EXPECT_GT(HeightOfOpenList(), after.Height() - afxGlobalData.GetTextHeight());
+    EXPECT_EQ(HeightOfOpenList(), after.Height());
+}
+
+TYPED_TEST(StaticHeight, IsTheHeightOfAListThatTheUserMayNotResizeToThePixel) {
+    auto& combo = this->template Add<TypeParam>(comboId, 0);
+    auto& other = this->template Add<TypeParam>(comboId + 1, 0);
+    for (TypeParam* const each : {&combo, &other}) {
+        for (int i = 0; i < 200; ++i) {
+            each->AddItem(L"item");
+        }
+        each->UserStaticDropDownHeight(true);
+    }
+    this->Open(combo);
+    EXPECT_FALSE(CMFCPopupMenu::GetActiveMenu()->IsResizeble());
+    EXPECT_EQ(HeightOfOpenList(), 560);
+    ResizeOpenList(300);
+    CMFCPopupMenu::CloseAll();
+    for (TypeParam* const each : {&combo, &other}) {
+        this->Open(*each);
+        EXPECT_EQ(HeightOfOpenList(), 300);
+        CMFCPopupMenu::CloseAll();
+    }
 }
 
 TYPED_TEST(StaticHeight, IsSetByADragOfTheGripOfAListThatOpensUpwards) {

@@ -200,6 +200,27 @@ TEST_F(RibbonCombos, AListAndItsRowsThatAreMadeByNameHaveNeitherZonesNorANotifyC
     rows.DestroyWindow();
 }
 
+TEST_F(RibbonCombos, TheZonesOfABarThatIsNoListRepeatWithTheHeightOfALineOfText) {
+    CMFCPopupMenuBarEx rows;
+    ASSERT_TRUE(rows.Create(&m_host.Frame(), WS_CHILD, 4711));
+    const int line = afxGlobalData.GetTextHeight();
+    ASSERT_GT(rows.GetRowHeight(), line) << "a menu's rows are higher";
+    struct Notified : CRibbonNotifyCombox {
+        bool NotifyChangeData(int, int zone, bool) override {
+            zones.push_back(zone);
+            return true;
+        }
+        std::vector<int> zones;
+    } child;
+    rows.SetNotifyChild(&child);
+    rows.SetSpRects({CRect(0, 0, 50, 1)});
+    for (const int y : {0, line - 1, line, line + 1, 2 * line, rows.GetRowHeight()}) {
+        rows.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, y));
+    }
+    EXPECT_EQ(child.zones, std::vector<int>(3, 0)) << "at the top of each line";
+    rows.DestroyWindow();
+}
+
 TYPED_TEST(Opening, AListThatIsNotToBeResizedHasNoGrip) {
     TypeParam& combo = this->template Add<TypeParam>();
     this->Open(combo);

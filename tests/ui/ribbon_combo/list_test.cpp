@@ -157,15 +157,25 @@ TEST_F(ComboList, WithoutItemsItHasOneEmptyRowsPlace) {
     EXPECT_TRUE(m_frame->commands.empty());
 }
 
-TEST_F(ComboList, TheHeightIsTheMostThatItTakesInWholeRows) {
+TEST_F(ComboList, TheHeightIsTheMostThatItTakesToThePixel) {
+    for (const int wanted : {100, 101, 117}) {
+        Plain().SetDropDownHeight(wanted);
+        ClickButton(Plain());
+        EXPECT_EQ(ScreenRect(List()).Height(), wanted);
+        CMFCPopupMenu::CloseAll();
+    }
+}
+
+TEST_F(ComboList, ARowThatIsCutAtTheLowerEdgeIsDrawnAndChosen) {
     Plain().SetDropDownHeight(100);
     ClickButton(Plain());
-    const int height = ScreenRect(List()).Height();
-    EXPECT_LE(height, 100);
-    EXPECT_GT(height, 100 - RowHeight());
     CRect client;
     ListBar().GetClientRect(client);
-    EXPECT_EQ(client.Height() % RowHeight(), 0);
+    const int cut = client.Height() / RowHeight();
+    ASSERT_GT(client.Height() % RowHeight(), 2);
+    m_pointer.Click(ListBar().GetSafeHwnd(), CPoint(10, client.bottom - 2));
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Plain().GetCurSel(), cut);
 }
 
 TEST_F(ComboList, FewItemsMakeItLower) {
