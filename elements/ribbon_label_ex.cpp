@@ -101,7 +101,7 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
     } else {
         visual->OnDrawRibbonLabel(dc, this, rect);
         if (IsDisabled()) {
-            dc->SetTextColor(afxGlobalData.clrGrayedText);
+            dc->SetTextColor(visual->GetToolbarDisabledTextColor());
         }
     }
     rect.DeflateRect(m_szMargin.cx, 0);

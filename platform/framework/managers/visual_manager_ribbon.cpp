@@ -299,7 +299,7 @@ COLORREF CMFCVisualManager::GetRibbonHyperlinkTextColor(CMFCRibbonLinkCtrl*) {
 }
 
 COLORREF CMFCVisualManager::GetRibbonQuickAccessToolBarTextColor(BOOL bDisabled) {
-    return ToColorRef(GetSkin()[bDisabled ? ColorSlot::RibbonTextDisabled : ColorSlot::QatText]);
+    return ToColorRef(GetSkin()[bDisabled ? ColorSlot::QatTextDisabled : ColorSlot::QatText]);
 }
 
 COLORREF CMFCVisualManager::GetRibbonStatusBarTextColor(CMFCRibbonStatusBar*) {

@@ -1,6 +1,7 @@
 #include "ribbon/element_metrics.h"
 
 #include <afxglobals.h>
+#include <afxvisualmanager.h>
 
 #include <functional>
 #include <string>
@@ -105,7 +106,7 @@ COLORREF TextColor(CDC* pDC, COLORREF color, BOOL isDisabled) {
     if (color != static_cast<COLORREF>(-1)) {
         return color;
     }
-    return isDisabled ? afxGlobalData.clrGrayedText : pDC->GetTextColor();
+    return isDisabled ? CMFCVisualManager::GetInstance()->GetToolbarDisabledTextColor() : pDC->GetTextColor();
 }
 
 } // namespace ribbon

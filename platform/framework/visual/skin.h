@@ -75,6 +75,7 @@ namespace visual {
     X(CaptionText)                                                                                                     \
     X(CaptionTextInactive)                                                                                             \
     X(QatText)                                                                                                         \
+    X(QatTextDisabled)                                                                                                 \
     X(MenuFill)                                                                                                        \
     X(MenuGutter)                                                                                                      \
     X(MenuGutterLine)                                                                                                  \

@@ -1,3 +1,4 @@
+#include "visual/contrast.h"
 #include "visual/skin.h"
 
 namespace visual {
@@ -50,6 +51,14 @@ void SetFaces(Skin& skin, const SystemColors& c) {
     skin[FaceSlot::Tooltip] = Flat(c.tipText, c.tip);
 }
 
+void SetDisabled(Skin& skin, Argb grey) {
+    for (const ColorSlot slot : {ColorSlot::RibbonTextDisabled, ColorSlot::QatTextDisabled, ColorSlot::MenuTextDisabled,
+                                 ColorSlot::StatusTextDisabled, ColorSlot::ToolbarTextDisabled,
+                                 ColorSlot::EditTextDisabled, ColorSlot::GlyphDisabled}) {
+        skin[slot] = grey;
+    }
+}
+
 void SetColors(Skin& skin, const SystemColors& c) {
     for (std::size_t i = 0; i < g_colorCount; ++i) {
         skin[static_cast<ColorSlot>(i)] = c.text;
@@ -68,11 +77,7 @@ void SetColors(Skin& skin, const SystemColors& c) {
           ColorSlot::SliderTrackLight, ColorSlot::FrameBorderInner, ColorSlot::TabGlow}) {
         skin[slot] = c.hilite;
     }
-    for (const ColorSlot slot :
-         {ColorSlot::RibbonTextDisabled, ColorSlot::MenuTextDisabled, ColorSlot::StatusTextDisabled,
-          ColorSlot::ToolbarTextDisabled, ColorSlot::EditTextDisabled, ColorSlot::GlyphDisabled}) {
-        skin[slot] = c.greyText;
-    }
+    SetDisabled(skin, Readable(c.greyText, c.text, {c.face, c.window, c.menu}));
     skin[ColorSlot::TabGlow] = WithAlpha(c.hilite, 1);
     skin[ColorSlot::MenuFill] = skin[ColorSlot::MenuLabelFill] = c.menu;
     skin[ColorSlot::MenuText] = skin[ColorSlot::MenuTextHot] = skin[ColorSlot::MenuLabelText] = c.menuText;
@@ -121,6 +126,8 @@ Skin MakeGradientSkin(const SystemColors& colors, Argb base) {
         skin[slot] = Mix(base, 0xFFFFFFFF, 6, 10);
     }
     skin[ColorSlot::SeparatorDark] = skin[ColorSlot::GripperDark] = Mix(base, 0xFFFFFFFF, 2, 10);
+    SetDisabled(skin, Readable(colors.greyText, colors.text,
+                               {colors.face, colors.window, colors.menu, light, dark, skin[ColorSlot::RibbonTop]}));
     skin[FaceSlot::TabActive] = skin[FaceSlot::TabActiveHot] = Shaded(Mix(base, 0xFFFFFFFF, 2, 10), 0xFFFFFFFF, light);
     skin[ColorSlot::CaptionText] = colors.text;
     skin.radius = 2;

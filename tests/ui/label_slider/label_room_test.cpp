@@ -3,6 +3,8 @@
 #include "tests/support/canvas.h"
 #include "tests/support/ribbon_host.h"
 
+#include <afxvisualmanager.h>
+
 namespace {
 
 constexpr std::uint32_t pureRed = 0xFF0000;
@@ -90,7 +92,7 @@ TEST_F(LabelRoom, AnOffsetIsAddedToTheWidthSoThatTheTextStaysWhole) {
 }
 
 TEST_F(LabelRoom, ADisabledLabelHasTheColourOfDisabledTexts) {
-    const COLORREF grey = afxGlobalData.clrGrayedText;
+    const COLORREF grey = CMFCVisualManager::GetInstance()->GetToolbarDisabledTextColor();
     const std::uint32_t color = GetRValue(grey) << 16 | GetGValue(grey) << 8 | GetBValue(grey);
     EXPECT_TRUE(BoundsDrawn(*m_label, color).IsRectEmpty());
     m_label->SetDisabled(TRUE);
