@@ -138,6 +138,9 @@ std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, c
 /// selected.
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);
 
+/// To which a panel that lacks room may narrow the edit area, at 96 DPI: the marks, and a word beside them.
+inline constexpr int leastEditWidth = 72;
+
 /// Draws the element, and the item's row in its open list, after its mark has changed; then TellMarkChange.
 void ShowMarkChange(CMFCRibbonComboBox& combo, int index);
 /// Assistive programs are told of a changed mark when it is of the item that the element speaks of.

@@ -182,6 +182,8 @@ BOOL CMFCRibbonCheckComb::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenu
     return TRUE;
 }
 
+int CMFCRibbonCheckComb::GetLeastEditWidth() const { return leastEditWidth; }
+
 int CMFCRibbonCheckComb::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
     return RowWidthOf(*this, *dc, index, static_cast<int>(State::Place(*this, CRect()).text.left));
 }

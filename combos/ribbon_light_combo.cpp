@@ -126,6 +126,8 @@ BOOL CMFCRibbonVesMultiCombo::OnDrawDropListItem(CDC* dc, int index, CMFCToolBar
     return TRUE;
 }
 
+int CMFCRibbonVesMultiCombo::GetLeastEditWidth() const { return leastEditWidth; }
+
 int CMFCRibbonVesMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
     return RowWidthOf(*this, *dc, index, marks::PlaceLightRow({}, MarkSizes::Current().icon).text.left);
 }

@@ -250,6 +250,8 @@ BOOL CMFCRibbonMultiCombo::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMen
     return TRUE;
 }
 
+int CMFCRibbonMultiCombo::GetLeastEditWidth() const { return leastEditWidth; }
+
 int CMFCRibbonMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
     return RowWidthOf(*this, *dc, index,
                       marks::PlaceSwatchRow({0, 0, 0, ScaledIconSize()}, ScaledIconSize()).text.left);

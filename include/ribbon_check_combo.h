@@ -64,6 +64,7 @@ public:
     BOOL SetACCRowData(int row, CAccessibilityData& data) override;
 
 protected:
+    int GetLeastEditWidth() const override;
     std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override;
     void OnDrawSelectedItem(CDC* dc, CRect edit) override;
 

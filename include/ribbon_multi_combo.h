@@ -83,6 +83,7 @@ public:
     BOOL SetACCRowData(int row, CAccessibilityData& data) override;
 
 protected:
+    int GetLeastEditWidth() const override;
     CMFCRibbonMultiCombo();
     std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override;
     void OnDrawSelectedItem(CDC* dc, CRect edit) override;
@@ -133,6 +134,7 @@ public:
     BOOL SetACCRowData(int row, CAccessibilityData& data) override;
 
 protected:
+    int GetLeastEditWidth() const override;
     CMFCRibbonVesMultiCombo();
     std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override;
     void OnDrawSelectedItem(CDC* dc, CRect edit) override;

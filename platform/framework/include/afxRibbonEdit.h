@@ -69,6 +69,7 @@ public:
     CSize GetRegularSize(CDC* pDC) override;
     CSize GetCompactSize(CDC* pDC) override;
     CSize GetIntermediateSize(CDC* pDC) override;
+    int GetNarrowestWidth(CDC* pDC) override;
     BOOL CanBeStretched() override { return FALSE; }
     BOOL HasCompactMode() const override;
     BOOL HasIntermediateMode() const override;
@@ -114,6 +115,8 @@ protected:
     void RevertText();
     // Width of what stands right of the edit area (the drop button of a combo box); scaled.
     virtual int GetDropButtonWidth() const { return 0; }
+    // Width to which a panel that lacks room may narrow the edit area, at 96 DPI; what is narrower stays as it is.
+    virtual int GetLeastEditWidth() const;
     virtual BOOL HasEditWindow() const { return TRUE; }
     BOOL ShouldShowWindow() const;
     void PlaceEditWindow();

@@ -92,6 +92,8 @@ public:
     virtual CSize GetRegularSize(CDC* pDC) = 0;
     virtual CSize GetIntermediateSize(CDC* pDC);
     virtual CSize GetCompactSize(CDC* pDC);
+    /// The least width that the element can do with beside its text, in scaled pixels; 0 when it keeps its width.
+    virtual int GetNarrowestWidth(CDC* pDC);
     virtual CSize GetImageSize(RibbonImageType type) const;
     virtual void OnCalcTextSize(CDC* pDC);
     virtual void CleanUpSizes();

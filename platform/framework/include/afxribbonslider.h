@@ -25,6 +25,7 @@ public:
     int GetWidth() const { return m_nWidth; }
 
     CSize GetRegularSize(CDC* pDC) override;
+    int GetNarrowestWidth(CDC* pDC) override;
     BOOL SetACCData(CWnd* pParent, CAccessibilityData& data) override;
     BOOL PutACCValue(LPCTSTR lpszValue) override;
     void OnDraw(CDC* pDC) override;

@@ -240,6 +240,8 @@ CSize CMFCRibbonBaseElement::GetIntermediateSize(CDC* pDC) { return GetRegularSi
 
 CSize CMFCRibbonBaseElement::GetCompactSize(CDC* pDC) { return GetRegularSize(pDC); }
 
+int CMFCRibbonBaseElement::GetNarrowestWidth(CDC* /*pDC*/) { return 0; }
+
 CSize CMFCRibbonBaseElement::GetImageSize(RibbonImageType /*type*/) const { return {0, 0}; }
 
 void CMFCRibbonBaseElement::OnCalcTextSize(CDC* /*pDC*/) { m_szMargin = CurrentMargin(); }

@@ -73,7 +73,7 @@ void Reduce(Reducer& reducer, size_t panelCount, std::span<const int> collapseOr
             reducer.TakeNextPhase(static_cast<size_t>(panel));
         }
     }
-    for (const Phase phase : {Phase::Intermediate, Phase::Compact}) {
+    for (const Phase phase : {Phase::Intermediate, Phase::Narrow, Phase::Compact}) {
         for (size_t panel = panelCount; panel-- > 0;) {
             reducer.Take(panel, phase);
         }

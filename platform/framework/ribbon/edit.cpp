@@ -7,11 +7,14 @@
 #include "ribbon/edit_geometry.h"
 #include "ribbon/element_metrics.h"
 
+#include <algorithm>
+
 IMPLEMENT_DYNCREATE(CMFCRibbonEdit, CMFCRibbonButton)
 
 namespace {
 constexpr int kDefaultWidth = 108; // of the edit area, at 96 DPI
-}
+constexpr int kLeastWidth = 40;    // the same in a panel that lacks room
+} // namespace
 
 struct CMFCRibbonEdit::Layout {
     ribbon::EditContent content;
@@ -85,7 +88,9 @@ ribbon::EditContent CMFCRibbonEdit::CollectContent(CDC* pDC, BOOL bWithLabel) co
         content.label = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     }
     content.dropButtonWidth = GetDropButtonWidth();
-    content.boxWidth = ribbon::CurrentMetrics().Scaled(GetWidth()) + content.dropButtonWidth;
+    const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
+    content.boxWidth = metrics.Scaled(GetWidth()) + content.dropButtonWidth;
+    content.leastBoxWidth = metrics.Scaled(std::min(GetWidth(), GetLeastEditWidth())) + content.dropButtonWidth;
     return content;
 }
 
@@ -100,6 +105,14 @@ CSize CMFCRibbonEdit::GetRegularSize(CDC* pDC) { return GetIntermediateSize(pDC)
 
 CSize CMFCRibbonEdit::GetIntermediateSize(CDC* pDC) {
     return ribbon::ToSize(ribbon::MeasureEdit(CollectContent(pDC, TRUE), ribbon::CurrentMetrics()));
+}
+
+int CMFCRibbonEdit::GetLeastEditWidth() const { return kLeastWidth; }
+
+int CMFCRibbonEdit::GetNarrowestWidth(CDC* pDC) {
+    ribbon::EditContent content = CollectContent(pDC, TRUE);
+    content.boxWidth = content.leastBoxWidth;
+    return ribbon::MeasureEdit(content, ribbon::CurrentMetrics()).width;
 }
 
 CSize CMFCRibbonEdit::GetCompactSize(CDC* pDC) {

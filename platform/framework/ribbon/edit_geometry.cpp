@@ -11,6 +11,20 @@ constexpr int kCheckBox = 13;
 
 int HeadWidth(Size part, const FaceMetrics& metrics) { return part.width > 0 ? part.width + metrics.Scaled(kGap) : 0; }
 
+// Of everything that stands before the box.
+int HeadWidth(const EditContent& content, const FaceMetrics& metrics) {
+    const int head = HeadWidth(content.image, metrics) + HeadWidth(content.label, metrics);
+    return head > 0 ? metrics.Scaled(kSideMargin) + head : 0;
+}
+
+int BoxWidth(int room, const EditContent& content, const FaceMetrics& metrics) {
+    if (content.leastBoxWidth <= 0) {
+        return content.boxWidth;
+    }
+    const int least = std::min(content.leastBoxWidth, content.boxWidth);
+    return std::clamp(room - HeadWidth(content, metrics), least, content.boxWidth);
+}
+
 Rect TextPlace(const Rect& edit, const FaceMetrics& metrics) {
     const int side = metrics.Scaled(kTextSide);
     const int height = std::min(metrics.textHeight, edit.Height());
@@ -21,9 +35,7 @@ Rect TextPlace(const Rect& edit, const FaceMetrics& metrics) {
 } // namespace
 
 Size MeasureEdit(const EditContent& content, const FaceMetrics& metrics) {
-    const int head = HeadWidth(content.image, metrics) + HeadWidth(content.label, metrics);
-    const int side = head > 0 ? metrics.Scaled(kSideMargin) : 0;
-    return {side + head + content.boxWidth, metrics.RowHeight()};
+    return {HeadWidth(content, metrics) + content.boxWidth, metrics.RowHeight()};
 }
 
 EditFace PlaceEdit(const Rect& rect, const EditContent& content, const FaceMetrics& metrics) {
@@ -31,7 +43,7 @@ EditFace PlaceEdit(const Rect& rect, const EditContent& content, const FaceMetri
         return {};
     }
     EditFace face;
-    const int boxLeft = std::max(rect.left, rect.right - content.boxWidth);
+    const int boxLeft = std::max(rect.left, rect.right - BoxWidth(rect.Width(), content, metrics));
     const int boxHeight = std::min(rect.Height(), metrics.RowHeight());
     face.box = LeftCentred({boxLeft, rect.top, rect.right, rect.bottom}, {rect.right - boxLeft, boxHeight});
     face.edit = face.box;

@@ -11,6 +11,7 @@ struct EditContent {
     Size label;
     int boxWidth = 0;
     int dropButtonWidth = 0; // inside the box, at its right end
+    int leastBoxWidth = 0;   // to which the box narrows before the label is cut; 0: it keeps its width
 };
 
 struct EditFace {
@@ -23,7 +24,8 @@ struct EditFace {
 };
 
 Size MeasureEdit(const EditContent& content, const FaceMetrics& metrics);
-// The box keeps its width at the right end as long as there is room; the label gives way first.
+// The box stands at the right end. Where there is less room than MeasureEdit asks for, it narrows to its least width,
+// then the label gives way, then the box is cut.
 EditFace PlaceEdit(const Rect& rect, const EditContent& content, const FaceMetrics& metrics);
 
 struct CheckBoxFace {

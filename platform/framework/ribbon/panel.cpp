@@ -42,6 +42,7 @@ RibbonElementShape ShapeOf(CMFCRibbonBaseElement& element, CDC* pDC) {
     shape.large = regular;
     shape.intermediate = hasIntermediate ? ToRibbonSize(element.GetIntermediateSize(pDC)) : regular;
     shape.compact = shape.hasCompact ? ToRibbonSize(element.GetCompactSize(pDC)) : shape.intermediate;
+    shape.narrowest = element.GetNarrowestWidth(pDC);
     shape.flow = FlowOf(element, shape.hasLarge, hasIntermediate || shape.hasCompact);
     return shape;
 }

@@ -8,6 +8,8 @@ namespace {
 using Phase = RibbonPanelLadder::Phase;
 
 constexpr size_t noBlock = static_cast<size_t>(-1);
+// Edits and sliders narrow by halves, so that a few missing pixels do not cost them all that they can give.
+constexpr int narrowingStages = 2;
 
 // Rows that a greedy line break of the widths needs.
 int RowsForWidth(const std::vector<int>& widths, int gap, int width) {
@@ -54,6 +56,13 @@ RibbonSize RibbonPanelLadder::SizeOf(size_t index, RibbonElementMode mode) const
     default:
         return element.intermediate;
     }
+}
+
+int RibbonPanelLadder::NarrowedWidth(size_t index, RibbonElementMode mode, int narrowing) const {
+    const RibbonElementShape& element = m_shape.elements[index];
+    const int width = SizeOf(index, mode).width;
+    const int spare = element.narrowest > 0 ? std::max(0, element.intermediate.width - element.narrowest) : 0;
+    return mode == RibbonElementMode::Large ? width : std::max(0, width - spare * narrowing / narrowingStages);
 }
 
 int RibbonPanelLadder::RowsOf(size_t index, RibbonElementMode mode) const {
@@ -151,11 +160,20 @@ size_t RibbonPanelLadder::AddStack(size_t first) {
         rows += needed;
         block.elements.push_back(end);
     }
-    const int width = StackWidth(block, RibbonElementMode::Intermediate);
-    block.levels.push_back({Phase::Intermediate, RibbonElementMode::Intermediate, 1, width});
-    const int compact = StackWidth(block, RibbonElementMode::Compact);
-    if (compact < width) {
-        block.levels.push_back({Phase::Compact, RibbonElementMode::Compact, 1, compact});
+    block.levels.push_back(
+        {Phase::Intermediate, RibbonElementMode::Intermediate, 1, StackWidth(block, RibbonElementMode::Intermediate)});
+    const auto addLevel = [&](Phase phase, RibbonElementMode mode, int narrowing) {
+        const int width = StackWidth(block, mode, narrowing);
+        if (width < block.levels.back().width) {
+            block.levels.push_back({phase, mode, 1, width, narrowing});
+        }
+    };
+    for (int stage = 1; stage <= narrowingStages; ++stage) {
+        addLevel(Phase::Narrow, RibbonElementMode::Intermediate, stage);
+    }
+    // A wide text may have hidden until now that the column can narrow.
+    for (int stage = block.levels.back().narrowing; stage <= narrowingStages; ++stage) {
+        addLevel(Phase::Compact, RibbonElementMode::Compact, stage);
     }
     m_blocks.push_back(std::move(block));
     return end;
@@ -182,10 +200,10 @@ size_t RibbonPanelLadder::AddFlow(size_t first) {
     return end;
 }
 
-int RibbonPanelLadder::StackWidth(const Block& block, RibbonElementMode mode) const {
+int RibbonPanelLadder::StackWidth(const Block& block, RibbonElementMode mode, int narrowing) const {
     int width = 0;
     for (const size_t index : block.elements) {
-        width = std::max(width, SizeOf(index, ModeOf(index, mode)).width);
+        width = std::max(width, NarrowedWidth(index, ModeOf(index, mode), narrowing));
     }
     return width;
 }
@@ -237,7 +255,7 @@ void RibbonPanelLadder::MakeSteps() {
     m_fullWidth = PanelWidth(content);
 
     std::vector<size_t> level(m_blocks.size(), 0);
-    for (const Phase phase : {Phase::Intermediate, Phase::Compact}) {
+    for (const Phase phase : {Phase::Intermediate, Phase::Narrow, Phase::Compact}) {
         for (size_t position = m_blocks.size(); position-- > 0;) {
             const Block& block = m_blocks[position];
             while (level[position] + 1 < block.levels.size() && block.levels[level[position] + 1].phase == phase) {
@@ -303,7 +321,7 @@ void RibbonPanelLadder::PlaceBlock(const Block& block, size_t level, int x,
     } else if (block.kind == Block::Kind::Flow) {
         PlaceFlow(block, chosen.rows, chosen.width, x, placed);
     } else {
-        PlaceStack(block, chosen.mode, x, placed);
+        PlaceStack(block, chosen, x, placed);
     }
 }
 
@@ -317,9 +335,10 @@ void RibbonPanelLadder::PlaceSideBySide(const Block& block, int x, std::vector<R
     }
 }
 
-void RibbonPanelLadder::PlaceStack(const Block& block, RibbonElementMode mode, int x,
+void RibbonPanelLadder::PlaceStack(const Block& block, const BlockLevel& level, int x,
                                    std::vector<RibbonPlacedElement>& placed) const {
-    const int columnWidth = StackWidth(block, mode);
+    const RibbonElementMode mode = level.mode;
+    const int columnWidth = level.width;
     int rowsUsed = 0;
     for (const size_t index : block.elements) {
         rowsUsed += RowsOf(index, ModeOf(index, mode));
@@ -334,7 +353,9 @@ void RibbonPanelLadder::PlaceStack(const Block& block, RibbonElementMode mode, i
         const int room = RowsOf(index, own) * m_metrics.rowHeight;
         const int height = std::min(size.height, room);
         const int top = y + (room - height) / 2;
-        placed[index] = {{x, top, x + (m_shape.justifyColumns ? columnWidth : size.width), top + height}, own};
+        // What narrows takes no less than the column has.
+        const int width = m_shape.justifyColumns ? columnWidth : std::min(size.width, columnWidth);
+        placed[index] = {{x, top, x + width, top + height}, own};
         y += room;
     }
 }

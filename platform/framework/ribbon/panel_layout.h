@@ -27,6 +27,7 @@ struct RibbonElementShape {
     RibbonSize large;
     RibbonSize intermediate;
     RibbonSize compact;
+    int narrowest = 0; // width that the intermediate size may give way to, like an edit's; 0: none
 };
 
 /// What the layout knows of one panel.
@@ -57,7 +58,7 @@ struct RibbonPanelArrangement {
 /// taken depends on the category; their order does not.
 class RibbonPanelLadder {
 public:
-    enum class Phase { Intermediate, Compact, Collapsed };
+    enum class Phase { Intermediate, Narrow, Compact, Collapsed };
     struct Step {
         Phase phase;
         int width; // of the whole panel after this step
@@ -80,6 +81,7 @@ private:
         RibbonElementMode mode;
         int rows; // of a flow
         int width;
+        int narrowing = 0; // how many of the stages its elements have been narrowed by that can be
     };
     struct Block {
         enum class Kind { Stack, Flow, WholeHeight } kind;
@@ -95,14 +97,15 @@ private:
     void MakeSteps();
     int PanelWidth(int contentWidth) const;
     RibbonRect PlaceLaunchButton(const RibbonRect& caption) const;
-    int StackWidth(const Block& block, RibbonElementMode mode) const;
+    int StackWidth(const Block& block, RibbonElementMode mode, int narrowing = 0) const;
     int FlowWidth(const Block& block, int rows) const;
     void PlaceBlock(const Block& block, size_t level, int x, std::vector<RibbonPlacedElement>& placed) const;
     void PlaceSideBySide(const Block& block, int x, std::vector<RibbonPlacedElement>& placed) const;
-    void PlaceStack(const Block& block, RibbonElementMode mode, int x, std::vector<RibbonPlacedElement>& placed) const;
+    void PlaceStack(const Block& block, const BlockLevel& level, int x, std::vector<RibbonPlacedElement>& placed) const;
     void PlaceFlow(const Block& block, int rows, int width, int x, std::vector<RibbonPlacedElement>& placed) const;
     RibbonElementMode ModeOf(size_t index, RibbonElementMode wanted) const;
     RibbonSize SizeOf(size_t index, RibbonElementMode mode) const;
+    int NarrowedWidth(size_t index, RibbonElementMode mode, int narrowing) const;
     int RowsOf(size_t index, RibbonElementMode mode) const;
 
     RibbonPanelShape m_shape;
@@ -128,9 +131,9 @@ struct RibbonCategoryArrangement {
     RibbonRect scrollRight;
 };
 
-/// Fits the panels into width: first larger elements become intermediate, panel by panel from the right, then
-/// compact, then panels collapse, the one that gives up most first, so that none is collapsed that there is room for;
-/// what does not fit even then scrolls by whole panels, from firstPanel on.
+/// Fits the panels into width: first larger elements become intermediate, panel by panel from the right, then edits
+/// and sliders narrow, then elements become compact, then panels collapse, the one that gives up most first, so that
+/// none is collapsed that there is room for; what does not fit even then scrolls by whole panels, from firstPanel on.
 /// collapseOrder names panels that give up a whole phase before the others; it may name a panel several times.
 RibbonCategoryArrangement ArrangeCategory(std::span<const RibbonPanelLadder> panels, const RibbonMetrics& metrics,
                                           int width, std::span<const int> collapseOrder = {}, int firstPanel = 0);

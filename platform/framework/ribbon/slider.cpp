@@ -13,6 +13,7 @@ IMPLEMENT_DYNCREATE(CMFCRibbonSlider, CMFCRibbonBaseElement)
 namespace {
 
 constexpr int kRepeatDelay = 100; // milliseconds
+constexpr int kLeastWidth = 48;   // of the channel, at 96 DPI, in a panel that lacks room
 
 ribbon::SliderState StateOf(const CMFCRibbonSlider& slider) {
     return {slider.GetRangeMin(), slider.GetRangeMax(), slider.GetPos(), slider.HasZoomButtons() != FALSE};
@@ -62,6 +63,11 @@ void CMFCRibbonSlider::SetZoomButtons(BOOL bSet) {
 
 CSize CMFCRibbonSlider::GetRegularSize(CDC* /*pDC*/) {
     return ribbon::ToSize(ribbon::MeasureSlider(m_nWidth, m_bZoomButtons != FALSE, ribbon::CurrentMetrics()));
+}
+
+int CMFCRibbonSlider::GetNarrowestWidth(CDC* /*pDC*/) {
+    const int channel = std::min(m_nWidth, kLeastWidth);
+    return ribbon::MeasureSlider(channel, m_bZoomButtons != FALSE, ribbon::CurrentMetrics()).width;
 }
 
 void CMFCRibbonSlider::CopyFrom(const CMFCRibbonBaseElement& src) {

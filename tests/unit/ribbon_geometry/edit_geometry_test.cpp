@@ -42,6 +42,28 @@ TEST(EditFace, TheLabelGivesWayBeforeTheBox) {
     EXPECT_EQ(PlaceEdit({0, 0, 50, 22}, content, At(1.0)).box.Width(), 50);
 }
 
+TEST(EditFace, ABoxThatMayNarrowGivesWayBeforeTheLabelDownToItsLeastWidth) {
+    EditContent content{{}, {60, 15}, 80, 14};
+    content.leastBoxWidth = 54;
+    const int full = MeasureEdit(content, At(1.0)).width;
+    for (const int lacking : {0, 1, 26}) {
+        const EditFace face = PlaceEdit({0, 0, full - lacking, 22}, content, At(1.0));
+        EXPECT_EQ(face.label, (Rect{4, 3, 64, 18})) << lacking;
+        EXPECT_EQ(face.box.Width(), 80 - lacking);
+        EXPECT_EQ(face.dropButton.Width(), 14);
+    }
+    const EditFace cut = PlaceEdit({0, 0, full - 30, 22}, content, At(1.0));
+    EXPECT_EQ(cut.box.Width(), 54);
+    EXPECT_EQ(cut.label.Width(), 56);
+    EXPECT_EQ(PlaceEdit({0, 0, full + 40, 22}, content, At(1.0)).box.Width(), 80) << "it grows no wider either";
+}
+
+TEST(EditFace, ABoxIsNeverNarrowedBelowWhatItHas) {
+    EditContent content{{}, {}, 30, 0};
+    content.leastBoxWidth = 60;
+    EXPECT_EQ(PlaceEdit({0, 0, 100, 22}, content, At(1.0)).box.Width(), 30);
+}
+
 TEST(EditFace, TheBoxKeepsItsHeightInATallerRectangle) {
     const EditFace face = PlaceEdit({0, 0, 80, 66}, {{}, {}, 80, 0}, At(1.0));
     EXPECT_EQ(face.box, (Rect{0, 22, 80, 44}));

@@ -82,6 +82,68 @@ TEST(RibbonPanelLayout, GroupsTakeTwoRowsAndThreeWhenNarrow) {
     EXPECT_LT(narrow.width, wide.width);
 }
 
+TEST(RibbonPanelLayout, AnEditNarrowsBeforeTheLabelsGo) {
+    const RibbonElementShape edit = shapes::Elastic(30, 100, 40, g_metrics);
+    const RibbonElementShape slider = shapes::Elastic(0, 120, 48, g_metrics);
+    const RibbonPanelLadder ladder(Panel({edit, slider, shapes::SmallButton(30, g_metrics)}), g_metrics);
+    std::vector<Phase> phases;
+    for (const auto& step : ladder.Steps()) {
+        phases.push_back(step.phase);
+    }
+    EXPECT_THAT(phases, testing::ElementsAre(Phase::Narrow, Phase::Narrow, Phase::Compact, Phase::Collapsed));
+    EXPECT_EQ(ladder.Arrange(0).elements[0].rect.Width(), 130);
+    EXPECT_EQ(ladder.Arrange(0).elements[1].rect.Width(), 120);
+    const auto half = ladder.Arrange(1);
+    EXPECT_EQ(half.elements[0].rect.Width(), 100);
+    EXPECT_EQ(half.elements[1].rect.Width(), 100) << "no narrower than the column";
+    const auto narrow = ladder.Arrange(2);
+    EXPECT_THAT(Modes(narrow), Each(RibbonElementMode::Intermediate)) << "with their labels";
+    EXPECT_EQ(narrow.elements[0].rect.Width(), 70);
+    EXPECT_EQ(narrow.elements[1].rect.Width(), 70);
+    const auto compact = ladder.Arrange(3);
+    EXPECT_EQ(compact.elements[0].mode, RibbonElementMode::Compact);
+    EXPECT_EQ(compact.elements[0].rect.Width(), 48) << "narrow it stays, as wide as the slider now";
+}
+
+TEST(RibbonPanelLayout, AnEditBelowAWideTextNarrowsWhenTheTextHasGone) {
+    const RibbonElementShape edit = shapes::Elastic(0, 100, 40, g_metrics);
+    const RibbonPanelLadder ladder(Panel({shapes::SmallButton(140, g_metrics), edit}), g_metrics);
+    EXPECT_EQ(ladder.Steps().front().phase, Phase::Compact) << "narrowing it before would gain nothing";
+    EXPECT_EQ(ladder.Arrange(1).elements[1].rect.Width(), 100);
+    EXPECT_EQ(ladder.Arrange(2).elements[1].rect.Width(), 70);
+    EXPECT_EQ(ladder.Arrange(3).elements[1].rect.Width(), 40);
+}
+
+TEST(RibbonPanelLayout, AnElementThatKeepsItsWidthNeverNarrows) {
+    const RibbonPanelLadder ladder(Panel({shapes::Edit(130, g_metrics)}), g_metrics);
+    ASSERT_EQ(ladder.Steps().size(), 1u);
+    EXPECT_EQ(ladder.Steps()[0].phase, Phase::Collapsed);
+}
+
+TEST(RibbonPanelLayout, NothingNarrowsBelowItsLeastWidthOrWhileThereIsRoom) {
+    std::mt19937 random(2711);
+    for (int round = 0; round < 300; ++round) {
+        const RibbonPanelShape shape = shapes::AnyPanel(random, g_metrics);
+        const RibbonPanelLadder ladder(shape, g_metrics);
+        for (int step = 0; step <= static_cast<int>(ladder.Steps().size()); ++step) {
+            const auto arrangement = ladder.Arrange(step);
+            for (size_t index = 0; index < shape.elements.size() && !arrangement.collapsed; ++index) {
+                const RibbonElementShape& element = shape.elements[index];
+                if (element.narrowest == 0 || shape.justifyColumns) {
+                    continue;
+                }
+                const auto& placed = arrangement.elements[index];
+                const bool isCompact = placed.mode == RibbonElementMode::Compact;
+                const int full = isCompact ? element.compact.width : element.intermediate.width;
+                const int spare = std::max(0, element.intermediate.width - element.narrowest);
+                ASSERT_GE(placed.rect.Width(), full - spare);
+                ASSERT_LE(placed.rect.Width(), full);
+                ASSERT_TRUE(step > 0 || placed.rect.Width() == full);
+            }
+        }
+    }
+}
+
 TEST(RibbonPanelLayout, StackedButtonsStandALineApartAtEveryScale) {
     for (const auto& [percent, textHeight] :
          {std::pair{100, 13}, {125, 16}, {150, 20}, {150, 18}, {175, 23}, {200, 26}}) {

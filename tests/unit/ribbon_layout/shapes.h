@@ -28,6 +28,15 @@ inline RibbonElementShape Edit(int width, const RibbonMetrics& m) {
     return shape;
 }
 
+/// An edit or a slider that may narrow, with a label that it may lose.
+inline RibbonElementShape Elastic(int label, int box, int leastBox, const RibbonMetrics& m) {
+    RibbonElementShape shape = Edit(label + box, m);
+    shape.hasCompact = label > 0;
+    shape.compact = {box, m.rowHeight - 2};
+    shape.narrowest = label + leastBox;
+    return shape;
+}
+
 inline RibbonElementShape Group(int width, const RibbonMetrics& m) {
     RibbonElementShape shape = Edit(width, m);
     shape.flow = RibbonElementFlow::Row;
@@ -49,7 +58,7 @@ inline RibbonElementShape Hidden() {
 
 inline RibbonElementShape Any(std::mt19937& random, const RibbonMetrics& m) {
     const int width = std::uniform_int_distribution(20, 140)(random);
-    switch (std::uniform_int_distribution(0, 9)(random)) {
+    switch (std::uniform_int_distribution(0, 11)(random)) {
     case 0:
     case 1:
     case 2:
@@ -64,6 +73,10 @@ inline RibbonElementShape Any(std::mt19937& random, const RibbonMetrics& m) {
         return Edit(width, m);
     case 8:
         return Separator(m);
+    case 9:
+        return Elastic(0, width + 20, 40, m);
+    case 10:
+        return Elastic(30, width + 20, std::uniform_int_distribution(10, 160)(random), m);
     default:
         return Hidden();
     }
