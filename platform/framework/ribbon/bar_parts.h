@@ -18,9 +18,11 @@ inline RibbonRect ToRibbonRect(const CRect& rect) {
             static_cast<int>(rect.bottom)};
 }
 
-/// Answers TTN_NEEDTEXT with an element's tip. The text is lent: it stays where it is while the tip shows.
+/// Answers TTN_NEEDTEXT with an element's tip. A tooltip that has descriptions gets the element's name, with the keys
+/// of its command, as the title and the tip below it; one that has none gets the tip alone. `lent` takes the text and
+/// stays where it is while the tooltip shows.
 void FillRibbonTooltip(CToolTipCtrl& control, NMHDR& request, CMFCRibbonBaseElement& element, bool showsDescription,
-                       const CString& text);
+                       CString& lent);
 
 /// Selects the ribbon's regular font for its lifetime.
 class RibbonFontScope {

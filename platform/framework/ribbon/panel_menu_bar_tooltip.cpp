@@ -86,7 +86,6 @@ BOOL CMFCRibbonPanelMenuBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pR
     if (text.IsEmpty() || (IsMenuMode() && !saysMore)) {
         return TRUE;
     }
-    m_parts->tooltipText = text;
     FillRibbonTooltip(*m_parts->tooltip, *pNMH, *hot, showsDescription, m_parts->tooltipText);
     return TRUE;
 }

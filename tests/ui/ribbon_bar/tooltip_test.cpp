@@ -1,4 +1,5 @@
 #include "afxglobals.h"
+#include "afxtooltipmanager.h"
 #include "tests/support/scoped_value.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
@@ -14,6 +15,17 @@ protected:
         Bar().SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&info));
         return info.lpszText != nullptr ? CString(info.lpszText) : CString();
     }
+    /// What stands below the text.
+    static CString DescriptionOf(CToolTipCtrl* tooltip) {
+        class Opened : public CMFCToolTipCtrl {
+        public:
+            static const CString& DescriptionOf(const CMFCToolTipCtrl& control) {
+                return control.*(&Opened::m_strDescription);
+            }
+        };
+        const auto* own = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, tooltip);
+        return own != nullptr ? Opened::DescriptionOf(*own) : CString(L"none");
+    }
 };
 
 TEST_F(RibbonTooltipTest, TheTooltipIsTheElementsTipOrItsText) {
@@ -22,6 +34,55 @@ TEST_F(RibbonTooltipTest, TheTooltipIsTheElementsTipOrItsText) {
     Element(commands::cut).SetToolTipText(L"Cuts the selection");
     EXPECT_STREQ(TipTextAt(CenterOf(commands::cut)), L"Cuts the selection");
     EXPECT_STREQ(TipTextAt(CPoint(900, 5)), L"");
+}
+
+/// With tooltips that have descriptions, whatever the visual manager says.
+class DescribedTooltip : public RibbonTooltipTest {
+protected:
+    DescribedTooltip() { CTooltipManager().SetTooltipParams(AFX_TOOLTIP_TYPE_RIBBON, RUNTIME_CLASS(CMFCToolTipCtrl)); }
+    ~DescribedTooltip() override { CTooltipManager().SetTooltipParams(AFX_TOOLTIP_TYPE_RIBBON, nullptr); }
+
+    void SetUp() override {
+        RibbonTooltipTest::SetUp();
+        Bar().EnableToolTips(TRUE);
+    }
+    CString Description() { return DescriptionOf(Bar().GetToolTipCtrl()); }
+};
+
+TEST_F(DescribedTooltip, TheNameIsTheTitleAndTheTipStandsBelow) {
+    Element(commands::cut).SetToolTipText(L"Cuts the selection");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::cut)), L"Cut");
+    EXPECT_STREQ(Description(), L"Cuts the selection");
+}
+
+TEST_F(DescribedTooltip, WhatElseThereIsToSayStandsBelowTheTip) {
+    Element(commands::cut).SetToolTipText(L"Cuts the selection");
+    Element(commands::cut).SetDescription(L"Press F1 for more");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::cut)), L"Cut");
+    EXPECT_STREQ(Description(), L"Cuts the selection\nPress F1 for more");
+}
+
+TEST_F(DescribedTooltip, WithoutATipTheNameStandsAlone) {
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::paste)), L"Paste");
+    EXPECT_STREQ(Description(), L"");
+}
+
+TEST_F(DescribedTooltip, TheKeysOfTheCommandStandBehindTheName) {
+    ACCEL keys{FCONTROL | FVIRTKEY, 'X', static_cast<WORD>(commands::cut)};
+    CFrameWnd* const frame = DYNAMIC_DOWNCAST(CFrameWnd, Bar().GetTopLevelFrame());
+    ASSERT_NE(frame, nullptr);
+    frame->ReplaceAccelTable(::CreateAcceleratorTableW(&keys, 1));
+    Element(commands::cut).SetToolTipText(L"Cuts the selection");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::cut)), L"Cut (Ctrl+X)");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::paste)), L"Paste");
+    frame->ReplaceAccelTable(nullptr);
+}
+
+TEST_F(DescribedTooltip, WithoutDescriptionsTheTipStandsAlone) {
+    Bar().EnableToolTips(TRUE, FALSE);
+    Element(commands::cut).SetToolTipText(L"Cuts the selection");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::cut)), L"Cuts the selection");
+    EXPECT_STREQ(Description(), L"");
 }
 
 TEST_F(RibbonTooltipTest, WithoutTooltipsThereIsNoControl) {
