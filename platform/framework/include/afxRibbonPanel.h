@@ -155,11 +155,23 @@ public:
     virtual void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
     virtual void OnShow(BOOL bShow);
 
-protected:
-    friend class CMFCRibbonCategory;
-    friend class CMFCRibbonBar;
-    friend class CMFCRibbonPanelMenuBar;
+    // Extension points of this framework: category and pop-ups use them.
+    void CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON icon);
+    /// It may outlive its category: nothing in it knows category and bar from now on.
+    void LeaveCategory(CDC* pDC);
+    /// The elements, then the launch button when there is one.
+    std::vector<CMFCRibbonBaseElement*> CollectParts() const;
+    /// Sizes of all elements in every mode, for the layout.
+    RibbonPanelShape Measure(CDC* pDC, const RibbonMetrics& metrics);
+    /// Places panel, caption and elements as the layout found; the panel's top left corner is at origin.
+    void Place(CDC* pDC, const RibbonPanelArrangement& arrangement, CPoint origin, const RibbonMetrics& metrics);
+    void Hide(CDC* pDC);
+    /// The pop-up that shows the elements; NULL when none does.
+    void SetParentMenuBar(CMFCRibbonPanelMenuBar* pMenuBar) { m_pParentMenuBar = pMenuBar; }
+    /// What a pop-up shows of a panel has the panel's own launch button.
+    virtual CMFCRibbonLaunchButton& LaunchButton() { return m_btnLaunch; }
 
+protected:
     CString m_strName;
     CString m_strKeys;
     CRect m_rect;
@@ -178,17 +190,8 @@ protected:
     DWORD_PTR m_dwData = 0;
 
 private:
-    void CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON icon);
     void Adopt(CMFCRibbonBaseElement* element);
-    std::vector<CMFCRibbonBaseElement*> CollectParts() const;
-    /// Sizes of all elements in every mode, for the layout.
-    RibbonPanelShape Measure(CDC* pDC, const RibbonMetrics& metrics);
-    /// Places panel, caption and elements as the layout found; the panel's top left corner is at origin.
-    void Place(CDC* pDC, const RibbonPanelArrangement& arrangement, CPoint origin, const RibbonMetrics& metrics);
-    void Hide(CDC* pDC);
-    /// A pop-up shows the elements now.
-    /// What a pop-up shows of a panel has the panel's own launch button.
-    virtual CMFCRibbonLaunchButton& LaunchButton() { return m_btnLaunch; }
+    void DeleteElements();
     const CMFCRibbonLaunchButton& LaunchButton() const { return const_cast<CMFCRibbonPanel*>(this)->LaunchButton(); }
     virtual bool IsLent() const { return m_pParentMenuBar != nullptr; }
     void MarkLayoutDirty();

@@ -18,13 +18,14 @@ class CMFCRibbonCategory;
 class CMFCRibbonKeyTip;
 class CMFCRibbonPanel;
 class CMFCRibbonPanelMenuBar;
+class RibbonBarHost;
+class RibbonElementHost;
 
 // What a panel, a group, a quick access toolbar or a status bar shows: the base of every ribbon element. An element has
 // no window of its own; it draws itself into and takes mouse input from its parent window, in whose client
 // co-ordinates (scaled pixels) its rectangle and all points are. Its container owns it.
 class FRAMEWORK_API CMFCRibbonBaseElement : public CObject {
     DECLARE_DYNAMIC(CMFCRibbonBaseElement)
-    friend class CMFCRibbonPanelMenuBar;
 
 public:
     enum RibbonElementLocation {
@@ -82,6 +83,12 @@ public:
     // The pop-up that shows the element now, null while its own container does.
     virtual void SetParentMenu(CMFCRibbonPanelMenuBar* pMenuBar) { m_pParentMenu = pMenuBar; }
     CMFCRibbonPanelMenuBar* GetParentMenu() const { return m_pParentMenu; }
+    // The window set by SetParentWnd, null when there is none.
+    CWnd* GetOwnParentWnd() const { return m_pParentWnd; }
+    // What shows the element: the pop-up, else its bar; null when there is none. And the bar, its original's where it
+    // has none itself.
+    RibbonElementHost* GetHost() const;
+    RibbonBarHost* GetBarHost() const;
     void SetParentGroup(CMFCRibbonButtonsGroup* pGroup) { m_pParentGroup = pGroup; }
     CMFCRibbonButtonsGroup* GetParentGroup() const { return m_pParentGroup; }
 
@@ -194,6 +201,8 @@ public:
     BOOL NotifyCommand(BOOL bWithDelay = FALSE);
     // Closes what the element has open and, later, the pop-up that it lies in. The id plays no part.
     void PostMenuCommand(UINT uiCmdId);
+    // The window that receives the element's commands and its other messages to the host; null when there is none.
+    CWnd* GetCommandTarget() const;
     // Tells the window that receives the commands that the list of this element has a row hot, -1 for none.
     virtual void NotifyHighlightListItem(int nIndex);
     virtual void OnShowPopupMenu();
@@ -240,8 +249,6 @@ protected:
     virtual void OnSetFocus(BOOL bSet);
     // The element's size or visibility has changed: whatever holds it lays itself out before it is next drawn.
     void MarkLayoutDirty();
-    // The window that receives the element's commands and its other messages to the host; null when there is none.
-    CWnd* GetCommandTarget() const;
     // Closes the pop-ups that show the element, before its command is sent.
     void CloseParentMenus();
     // The elements whose original this one is.

@@ -8,6 +8,7 @@
 #include "afxribboncategory.h"
 #include "afxribbonquickaccesstoolbar.h"
 #include "fx/accessibility_data.h"
+#include "fx/ribbon_host.h"
 
 class CMFCRibbonMainPanel;
 class CMFCToolTipCtrl;
@@ -47,10 +48,14 @@ private:
 /// The caption above the tabs of a context category.
 class FRAMEWORK_API CMFCRibbonContextCaption : public CMFCRibbonButton {
     DECLARE_DYNCREATE(CMFCRibbonContextCaption)
-    friend class CMFCRibbonBar;
 
 public:
     CMFCRibbonContextCaption();
+    void SetContext(UINT uiContextID, AFX_RibbonCategoryColor color) {
+        m_uiContextID = uiContextID;
+        m_Color = color;
+    }
+    void SetRightTabX(int nRightTabX) { m_nRightTabX = nRightTabX; }
     BOOL CanBeAddedToQuickAccessToolBar() const override { return FALSE; }
     AFX_RibbonCategoryColor GetColor() const { return m_Color; }
     int GetRightTabX() const { return m_nRightTabX; }
@@ -77,6 +82,7 @@ public:
     CMFCRibbonCaptionButton(UINT uiSysCmd, HWND hwndMDIChild);
 
     HWND GetMDIChild() const { return m_hwndMDIChild; }
+    UINT GetCommand() const { return m_uiSysCmd; }
     /// What a click does now: SC_RESTORE instead of SC_MAXIMIZE for a maximised window.
     UINT GetSystemCommand() const;
 
@@ -89,7 +95,6 @@ protected:
     void OnClick(CPoint point) override;
 
 private:
-    friend class CMFCRibbonBar;
     HWND TargetWindow() const;
 
     UINT m_uiSysCmd = 0;
@@ -98,7 +103,7 @@ private:
 
 /// The ribbon bar of a frame: tabs, categories of panels, quick access toolbar, application button. It docks to the
 /// frame's top and owns its categories. All rectangles and points are client pixels of the bar, already scaled.
-class FRAMEWORK_API CMFCRibbonBar : public CPane {
+class FRAMEWORK_API CMFCRibbonBar : public CPane, public RibbonBarHost, public RibbonPointerTarget {
     DECLARE_DYNAMIC(CMFCRibbonBar)
 
 public:
@@ -240,16 +245,27 @@ public:
     RibbonAccess& GetAccess();
     /// An element leaves the bar, or goes: key tips and assistive programs forget it.
     void ForgetElement(CMFCRibbonBaseElement& element);
-    void NotifyElementEvent(DWORD event, CMFCRibbonBaseElement& element);
-    const struct RibbonMetrics& GetMetrics() const;
+    void NotifyElementEvent(DWORD event, CMFCRibbonBaseElement& element) override;
+    const RibbonMetrics& GetMetrics() const override;
     /// What the bar shows has changed: it lays itself out before it is next drawn, hit-tested or updated.
-    void MarkLayoutDirty();
+    void MarkLayoutDirty() override;
     /// Texts are shown that were measured otherwise: everything is measured anew before the next paint. While the bar
     /// draws as well.
-    void MarkMeasuresDirty();
+    void MarkMeasuresDirty() override;
     /// Lays out now if something changed since the last time.
     void EnsureLayout();
-    void OnElementDestroyed(CMFCRibbonBaseElement* pElement);
+    void OnElementDestroyed(CMFCRibbonBaseElement* pElement) override;
+    void HideTip() override;
+    void OnEditPointer(CMFCRibbonEdit& edit, BOOL bInside, CPoint point) override;
+    RibbonElementKeys& GetElementKeys() override;
+    bool IsMinimized() const override;
+    bool HasWindows7Look() const override;
+    RibbonTips GetTips() const override;
+    void OnTabPressed(CMFCRibbonTab& tab) override;
+    void OpenCategory(CMFCRibbonTab& tab) override;
+    void OnPanelGoing(CMFCRibbonPanel& panel) override;
+    void TellPressed(CMFCRibbonBaseElement& element, CPoint point) override;
+    void OnHotChanged(CMFCRibbonBaseElement* pHot) override;
     /// What a point of the bar is for its frame: HTCAPTION, HTSYSMENU (the icon), else HTCLIENT.
     LRESULT HitTestCaption(CPoint point);
     /// The row that stands for the frame's caption; empty when the frame keeps its own.
@@ -261,7 +277,13 @@ public:
     /// Title, activation or size of the frame have changed.
     void RedrawCaption();
     /// The tab row scrolls by one tab while the tabs have no room.
-    void ScrollTabs(BOOL bLeft);
+    void ScrollTabs(BOOL bLeft) override;
+    /// Tells the owner that the user chose another category.
+    void NotifyCategoryChanged();
+    /// Fills in, for each id in it, the element that the quick access toolbar copies; one walk for all.
+    void FindQuickAccessOriginals(std::unordered_map<UINT, CMFCRibbonBaseElement*>& originals) const;
+    /// What the bar's own helpers work on.
+    RibbonBarParts& GetParts() const { return *m_parts; }
     /// Paints the whole bar into the device context, as on the screen.
     void DoPaint(CDC* pDC) override;
 
@@ -298,14 +320,7 @@ protected:
     CAccessibilityData m_AccData;
 
 private:
-    friend class CMFCRibbonCategory;
-    friend class CMFCRibbonContextCaption;
-    friend class CMFCRibbonQuickAccessMoreButton;
-    friend class CMFCRibbonQuickAccessToolBar;
-    friend class CMFCRibbonRichEditCtrl;
-    friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
-    friend class RibbonAccess;
 
     void UpdateMetrics();
     bool IsFrameTooSmall();
@@ -319,14 +334,10 @@ private:
     void UpdateMaximizeMode();
     CMFCRibbonBaseElement* HitTestCaptionElements(CPoint point);
     void AskFrameForRoom();
-    /// Tells the owner that the user chose another category.
-    void NotifyCategoryChanged();
     void SetActiveWithoutCheck(CMFCRibbonCategory* category);
     CMFCRibbonCategory* FirstVisibleCategory() const;
     /// The first of all elements that fits, in the order of FindByID, without those of the quick access toolbar.
     CMFCRibbonBaseElement* FindElement(const std::function<bool(CMFCRibbonBaseElement&)>& fits) const;
-    /// Fills in, for each id in it, the element that the quick access toolbar copies; one walk for all.
-    void FindQuickAccessOriginals(std::unordered_map<UINT, CMFCRibbonBaseElement*>& originals) const;
     CMFCRibbonBaseElement* FindQuickAccessOriginal(UINT uiCmdID) const;
     /// What is copied when the user adds the element: a copy stands for its original. NULL: nothing.
     CMFCRibbonBaseElement* GetQuickAccessSource(CMFCRibbonBaseElement* pElement) const;
@@ -336,13 +347,14 @@ private:
     void ForgetQuickAccessOriginal(const CMFCRibbonBaseElement& element);
     void ToggleQuickAccessCommand(UINT uiCmdID);
     void AddPlaceOfQuickAccess(class RibbonMenu& menu);
-    void SetHot(CMFCRibbonBaseElement* element, CPoint point);
-    void Press(CMFCRibbonBaseElement* element, CPoint point);
+    /// Asks the frame to show its own dialog. FALSE: it has none.
+    BOOL AskFrameToCustomize();
+    void PressAt(CPoint point);
+    void LightPanelAt(CPoint point);
     void CancelPress();
-    /// Asks for WM_MOUSELEAVE, unless it is on its way already.
-    void TrackLeave();
-    /// The pointer is in the edit window of an element, or has left it; the point is one of the bar's.
-    void OnEditPointer(class CMFCRibbonEdit& edit, BOOL bInside, CPoint point);
+    /// What is under way in the bar ends, while all that it looks at is still there. Host code may run.
+    void EndInput();
+    void EndUseOf(const CMFCRibbonCategory& category);
     void PlaceTooltip();
 
     std::unique_ptr<RibbonBarParts> m_parts;

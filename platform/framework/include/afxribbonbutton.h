@@ -34,7 +34,9 @@ public:
     // From now on this copy, and each copy in its menu, has the menu and the sub-items that its original is given.
     void FollowOriginal();
 
-    // A menu instead of sub-items; the handle stays the caller's.
+    // The items of a menu, submenus included, become sub-items behind those that there are, in place of those of a
+    // former menu; null takes them away. The handle stays the caller's: before they open the host may change the menu
+    // (WM_INITMENUPOPUP), and a changed one makes its items anew.
     void SetMenu(HMENU hMenu, BOOL bIsDefaultCommand = FALSE, BOOL bRightAlign = FALSE);
     // A menu resource, its popup when it has just one; the button keeps it. Unknown ids leave the button without.
     void SetMenu(UINT uiMenuResID, BOOL bIsDefaultCommand = FALSE, BOOL bRightAlign = FALSE);
@@ -146,6 +148,11 @@ protected:
     void OnSubItemsChanged(BOOL hadMenu);
     void TakeMenu(HMENU menu, const std::shared_ptr<CMenu>& loaded, BOOL isDefaultCommand, BOOL rightAlign);
     void OnMenuChanged();
+    // The items as the menu is now: their states, or new ones when the menu has changed.
+    void RefreshMenuItems();
+    void MakeMenuItems();
+    // Large only where there is a large image, or no small one either.
+    RibbonImageType GetImageTypeFor(BOOL bLarge) const;
     std::vector<CMFCRibbonButton*> CollectFollowers() const;
 
     HICON m_hIcon = nullptr;
@@ -160,6 +167,7 @@ protected:
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> m_arSubItems;
     HMENU m_hMenu = nullptr;
     std::shared_ptr<CMenu> m_pLoadedMenu; // from the resources, shared by the button's copies
+    CString m_strMenuContent;             // of the menu whose items are among the sub-items
     BOOL m_bIsDefaultCommand = FALSE;
     BOOL m_bAsksForLayout = FALSE; // the text is not the one that was measured
     BOOL m_bRightAlignMenu = FALSE;

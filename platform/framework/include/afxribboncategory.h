@@ -5,6 +5,7 @@
 #include "afxRibbonPanel.h"
 #include "afxtoolbarimages.h"
 #include "fx/ribbon_colors.h"
+#include "fx/ribbon_host.h"
 
 struct RibbonCategoryParts;
 
@@ -27,8 +28,9 @@ public:
     /// The row has no room for the whole text; drawing ends it with dots and the tooltip shows it.
     BOOL IsTruncated() const { return m_bIsTrancated; }
 
+    void SetTruncated(BOOL bIsTruncated) { m_bIsTrancated = bIsTruncated; }
+
 protected:
-    friend class CMFCRibbonBar;
     BOOL m_bIsTrancated = FALSE;
 };
 
@@ -54,7 +56,7 @@ private:
 
 /// A page of the ribbon bar: a tab and a row of panels. Made by CMFCRibbonBar::AddCategory, owned by its bar; owns its
 /// panels. Rectangles are in the bar's client pixels, empty while the category is not active.
-class FRAMEWORK_API CMFCRibbonCategory : public CObject {
+class FRAMEWORK_API CMFCRibbonCategory : public CObject, public RibbonSection {
     DECLARE_DYNCREATE(CMFCRibbonCategory)
 
 protected:
@@ -142,12 +144,23 @@ public:
     virtual BOOL OnKey(UINT nChar);
     virtual void OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
 
+    // Extension points of this framework: what shows the category uses them.
+    CMFCRibbonTab& GetTabElement() { return m_Tab; }
+    CRibbonCategoryScroll& GetScrollLeft() { return m_ScrollLeft; }
+    CRibbonCategoryScroll& GetScrollRight() { return m_ScrollRight; }
+    /// The pop-up that shows the category; NULL when the bar does.
+    void SetParentMenuBar(CMFCRibbonPanelMenuBar* pMenuBar) { m_pParentMenuBar = pMenuBar; }
+    void SetRect(const CRect& rect) { m_rect = rect; }
+    void HideElements(CDC* pDC);
+    /// The panels are measured anew with the next layout.
+    void MarkLayoutDirty() override;
+    void ForgetMeasures();
+    CSize GetElementImageSize(BOOL bIsLargeImage) const override;
+
 protected:
+    // The bar makes categories, and shows and hides them.
     friend class CMFCRibbonBar;
-    friend class CMFCRibbonPanelMenuBar;
-    friend class CMFCRibbonTab;
     friend class RibbonKeyboard;
-    friend class RibbonAccess;
 
     virtual void SetActive(BOOL bIsActive = TRUE);
     void CommonInit(CMFCRibbonBar* pParentRibbonBar = NULL, LPCTSTR lpszName = NULL, UINT uiSmallImagesResID = 0,
@@ -173,11 +186,7 @@ protected:
     DWORD_PTR m_dwData = 0;
 
 private:
-    friend class CMFCRibbonBaseElement;
-    friend class CMFCRibbonPanel;
-    void MarkLayoutDirty();
     void LoadImages();
-    void HideElements(CDC* pDC);
 
     std::unique_ptr<RibbonCategoryParts> m_parts;
 };

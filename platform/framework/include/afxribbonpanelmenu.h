@@ -5,6 +5,7 @@
 
 #include "afxpopupmenu.h"
 #include "afxtempl.h"
+#include "fx/ribbon_host.h"
 
 class CMFCRibbonBar;
 class CMFCRibbonBaseElement;
@@ -29,7 +30,9 @@ enum class RibbonPopupLook {
 /// What a ribbon pop-up shows. The elements are not its own: they are lent to it while it is open, with its window as
 /// their parent window, and go back to their container, unchanged, when it closes. Points and rectangles are client
 /// pixels of this window. Part of its pop-up.
-class FRAMEWORK_API CMFCRibbonPanelMenuBar : public CMFCPopupMenuBar {
+class FRAMEWORK_API CMFCRibbonPanelMenuBar : public CMFCPopupMenuBar,
+                                             public RibbonPopupHost,
+                                             public RibbonPointerTarget {
     DECLARE_DYNCREATE(CMFCRibbonPanelMenuBar)
 
 public:
@@ -66,11 +69,11 @@ public:
 
     // For the rows.
     /// pButton: NULL for the widest row.
-    int GetImageColumnWidth(const CMFCRibbonButton* pButton = NULL) const;
-    BOOL HasLargeRows(const CMFCRibbonButton* pButton) const;
+    int GetImageColumnWidth(const CMFCRibbonButton* pButton = NULL) const override;
+    BOOL HasLargeRows(const CMFCRibbonButton* pButton) const override;
 
     /// The element under the pointer or chosen by the keyboard.
-    CMFCRibbonBaseElement* GetHighlighted() const;
+    CMFCRibbonBaseElement* GetHighlighted() const override;
     void Highlight(CMFCRibbonBaseElement* pElement);
     void HighlightFirst();
     /// A key's virtual code. FALSE: the key has no meaning here.
@@ -96,14 +99,21 @@ public:
     RibbonPopupLook GetLook() const;
     /// The bar takes ownership; before it is shown.
     void AddOwnElement(std::unique_ptr<CMFCRibbonBaseElement> element);
-    void MarkLayoutDirty();
+    void MarkLayoutDirty() override;
     void EnsureLayout();
     RibbonAccess& GetAccess();
-    void NotifyElementEvent(DWORD event, CMFCRibbonBaseElement& element);
+    void NotifyElementEvent(DWORD event, CMFCRibbonBaseElement& element) override;
     /// Lays out for a screen area and answers the size that it takes.
     CSize CalcContentSize(CSize room);
     void GiveBack();
-    void OnElementDestroyed(CMFCRibbonBaseElement* pElement);
+    void OnElementDestroyed(CMFCRibbonBaseElement* pElement) override;
+    void HideTip() override;
+    void OnEditPointer(CMFCRibbonEdit& edit, BOOL bInside, CPoint point) override;
+    HWND GetPopupWindow() const override;
+    void OnPanelDestroyed(CMFCRibbonPanel* pPanel) override;
+    void OnCategoryDestroyed() override;
+    void TellPressed(CMFCRibbonBaseElement& element, CPoint point) override;
+    void OnHotChanged(CMFCRibbonBaseElement* pHot) override;
     void UpdateElements(CFrameWnd* pTarget, BOOL bDisableIfNoHndler);
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -114,7 +124,6 @@ public:
 
 protected:
     friend class CMFCRibbonPanelMenu;
-    friend class CMFCRibbonRichEditCtrl;
     BOOL CreateBar(CWnd* pParent);
     void SetOpener(const CMFCRibbonBaseElement& opener);
     void Lend();
@@ -148,14 +157,16 @@ private:
     CSize ArrangeMainPanel(CDC* pDC, CSize room);
     void PlaceElement(CDC* pDC, CMFCRibbonBaseElement& element, const CRect& rect);
     void DrawElements(CDC* pDC);
-    void SetHot(CMFCRibbonBaseElement* pElement);
     void OpenHot();
+    /// TRUE: a strip that scrolls is there.
+    BOOL ScrollFromStrip(CPoint point);
+    void LightStripAt(CPoint point);
+    RibbonTips GetBarTips() const;
     void CreateTooltip();
     void PlaceTooltip();
     void PopTooltip();
     void CancelPress();
-    /// The pointer is in the edit window of an element, or has left it; the point is one of this window's.
-    void OnEditPointer(class CMFCRibbonEdit& edit, BOOL bInside, CPoint point);
+    CMFCRibbonBaseElement* GetElementUnder(CPoint point);
     void ReleaseOver(CPoint point);
     void CollectStops(ElementArray& stops) const;
     BOOL OfferKey(UINT nChar);
@@ -167,10 +178,6 @@ private:
     void Activate(CMFCRibbonBaseElement* pElement, Choice choice);
 
     static void GiveBackElement(const RibbonLoan& loan, const RibbonPanelMenuParts& parts);
-    void OnPanelDestroyed(CMFCRibbonPanel* pPanel);
-    void OnCategoryDestroyed();
-    friend class CMFCRibbonPanel;
-    friend class CMFCRibbonCategory;
 
     // Shared with functions that run host code: what they look at afterwards outlives this object.
     std::shared_ptr<RibbonPanelMenuParts> m_parts;
@@ -216,6 +223,10 @@ public:
     /// The ribbon pop-up opened last; NULL when none is open.
     static CMFCRibbonPanelMenu* GetDeepest();
     static BOOL IsAnyOpen() { return GetDeepest() != NULL; }
+    /// One that elements of the bar opened, or that belongs to the bar, is open, whatever its kind.
+    static BOOL IsAnyOpenOf(const CMFCRibbonBar& bar);
+    /// The one that shows the category, or was opened from it, which none before it was; NULL when none.
+    static CMFCRibbonPanelMenu* GetOutermostOf(const CMFCRibbonCategory& category);
     /// The ribbon pop-up that it was opened from; NULL when none.
     CMFCRibbonPanelMenu* GetParentMenu() const;
     CMFCRibbonBaseElement* GetOpener() const { return GetParentRibbonElement(); }

@@ -7,7 +7,6 @@
 #include "afxribbonbar.h"
 #include "afxRibbonEdit.h"
 #include "afxribbonslider.h"
-#include "core/framework_text.h"
 #include "ribbon/access_object.h"
 #include "ribbon/access_texts.h"
 #include "ribbon/bar_parts.h"
@@ -21,8 +20,6 @@ using Kind = Node::Kind;
 constexpr LONG kFirstId = 0x10000;
 
 } // namespace
-
-CString RibbonAccessText(RibbonAccessTextId id) { return FrameworkText(static_cast<UINT>(id)); }
 
 RibbonAccess::RibbonAccess(CWnd& window) : m_window(window), m_nextId(kFirstId) {}
 
@@ -119,9 +116,9 @@ void RibbonAccess::AppendButtons(const CMFCRibbonButtonsGroup& group, std::vecto
     }
 }
 
-RibbonBarParts& RibbonAccess::PartsOf(CMFCRibbonBar& bar) { return *bar.m_parts; }
+RibbonBarParts& RibbonAccess::PartsOf(CMFCRibbonBar& bar) { return bar.GetParts(); }
 
-CMFCRibbonBaseElement* RibbonAccess::TabOf(CMFCRibbonCategory& category) { return &category.m_Tab; }
+CMFCRibbonBaseElement* RibbonAccess::TabOf(CMFCRibbonCategory& category) { return &category.GetTabElement(); }
 
 std::vector<Node> RibbonAccess::ChildrenOf(const Node& node) const {
     std::vector<Node> nodes;
@@ -131,8 +128,8 @@ std::vector<Node> RibbonAccess::ChildrenOf(const Node& node) const {
         for (int place = 0; place < category.GetPanelCount(); ++place) {
             nodes.push_back({Kind::Panel, &category.GetPanel(place)->GetDefaultButton()});
         }
-        for (CMFCRibbonBaseElement* scroll : {static_cast<CMFCRibbonBaseElement*>(&category.m_ScrollLeft),
-                                              static_cast<CMFCRibbonBaseElement*>(&category.m_ScrollRight)}) {
+        for (CMFCRibbonBaseElement* scroll : {static_cast<CMFCRibbonBaseElement*>(&category.GetScrollLeft()),
+                                              static_cast<CMFCRibbonBaseElement*>(&category.GetScrollRight())}) {
             if (!scroll->GetRect().IsRectEmpty()) {
                 nodes.push_back(ElementNode(scroll));
             }

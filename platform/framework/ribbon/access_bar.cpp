@@ -125,3 +125,40 @@ bool RibbonBarAccess::TakeFocus(const Node& node) {
 }
 
 void RibbonBarAccess::Invoke(CMFCRibbonBaseElement& element) { m_bar.GetKeyboard().Invoke(element); }
+
+// ---- the bar
+
+RibbonAccess& CMFCRibbonBar::GetAccess() { return *m_parts->access; }
+
+LRESULT CMFCRibbonBar::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return static_cast<LONG>(lParam) == OBJID_CLIENT ? m_parts->access->OnGetObject(wParam) : Default();
+}
+
+LRESULT CMFCRibbonBar::OnAccessAction(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    m_parts->access->RunPendingAction();
+    return 0;
+}
+
+BOOL CMFCRibbonBar::OnSetAccData(long lVal) {
+    EnsureLayout();
+    const std::vector<RibbonAccessNode> children = m_parts->access->ChildrenOf({});
+    if (lVal < 0 || lVal > static_cast<long>(children.size())) {
+        return FALSE;
+    }
+    m_parts->access->Describe(lVal == 0 ? RibbonAccessNode{} : children[static_cast<std::size_t>(lVal) - 1], m_AccData);
+    return TRUE;
+}
+
+void CMFCRibbonBar::NotifyElementEvent(DWORD event, CMFCRibbonBaseElement& element) {
+    if (m_parts != nullptr) {
+        m_parts->access->Notify(event, element);
+    }
+}
+
+void CMFCRibbonBar::ForgetElement(CMFCRibbonBaseElement& element) {
+    if (m_parts != nullptr) {
+        m_parts->keyboard->OnElementDestroyed(element);
+        m_parts->access->Forget(element);
+        ForgetQuickAccessOriginal(element);
+    }
+}

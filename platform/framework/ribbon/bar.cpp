@@ -1,5 +1,7 @@
 #include "afxribbonbar.h"
 
+#include <utility>
+
 #include "afxglobals.h"
 #include "afxribbonpanelmenu.h"
 #include "afxtooltipmanager.h"
@@ -37,17 +39,8 @@ ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedTipText)
 ON_REGISTERED_MESSAGE(AFX_WM_UPDATETOOLTIPS, OnUpdateToolTips)
 END_MESSAGE_MAP()
 
-RibbonFontScope::RibbonFontScope(CDC& dc)
-    : m_dc(dc.GetSafeHdc()), m_previous(::SelectObject(m_dc, afxGlobalData.fontRegular.GetSafeHandle())) {}
-
-RibbonFontScope::~RibbonFontScope() {
-    if (m_previous != nullptr) {
-        ::SelectObject(m_dc, m_previous);
-    }
-}
-
 CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
-    : m_rectCaption(0, 0, 0, 0), m_parts(std::make_unique<RibbonBarParts>()) {
+    : m_rectCaption(0, 0, 0, 0), m_parts(std::make_unique<RibbonBarParts>(*this)) {
     m_parts->keyboard = std::make_unique<RibbonKeyboard>(*this);
     m_parts->access = std::make_unique<RibbonBarAccess>(*this);
     m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
@@ -114,11 +107,9 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
     if (m_parts == nullptr) {
         return;
     }
-    m_parts->press.Forget(pElement);
-    for (CMFCRibbonBaseElement** holder : {&m_parts->hot, &m_parts->menuSubject}) {
-        if (*holder == pElement) {
-            *holder = nullptr;
-        }
+    m_parts->pointer.Forget(pElement);
+    if (m_parts->menuSubject == pElement) {
+        m_parts->menuSubject = nullptr;
     }
     if (m_parts->applicationButton == pElement) {
         m_parts->applicationButton = nullptr;
@@ -172,7 +163,7 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
     }
     for (const auto& category : m_parts->categories) {
         if (category->IsVisible()) {
-            draw(category->m_Tab);
+            draw(category->GetTabElement());
         }
     }
     for (const auto& element : m_parts->tabElements) {
@@ -195,6 +186,10 @@ void CMFCRibbonBar::DoPaint(CDC* pDC) {
 
 // ---- what the bar is
 
+bool CMFCRibbonBar::IsMinimized() const { return m_parts->minimized; }
+
+RibbonElementKeys& CMFCRibbonBar::GetElementKeys() { return *m_parts->keyboard; }
+
 DWORD CMFCRibbonBar::GetHideFlags() const {
     return (m_parts->minimized ? AFX_RIBBONBAR_HIDE_ELEMENTS : 0) |
            (m_parts->hiddenForSize ? AFX_RIBBONBAR_HIDE_ALL : 0);
@@ -208,6 +203,8 @@ BOOL CMFCRibbonBar::IsReplaceFrameCaption() const { return m_parts->replacesCapt
 
 // The caption row is drawn by the visual manager, never left to the system's glass.
 BOOL CMFCRibbonBar::IsTransparentCaption() const { return FALSE; }
+
+bool CMFCRibbonBar::HasWindows7Look() const { return m_parts->windows7Look; }
 
 BOOL CMFCRibbonBar::IsWindows7Look() const { return m_parts->windows7Look; }
 
@@ -251,8 +248,10 @@ void CMFCRibbonBar::AddToTabs(CMFCRibbonBaseElement* pElement) {
     MarkLayoutDirty();
 }
 
+// Whoever hears of an element's end may walk through those that are there.
 void CMFCRibbonBar::RemoveAllFromTabs() {
-    m_parts->tabElements.clear();
+    EndInput();
+    const auto gone = std::exchange(m_parts->tabElements, {});
     MarkLayoutDirty();
 }
 

@@ -72,7 +72,7 @@ void CMFCRibbonBar::EnsureLayout() {
 
 void CMFCRibbonBar::MarkMeasuresDirty() {
     for (const auto& category : m_parts->categories) {
-        category->m_parts->measured = false;
+        category->ForgetMeasures();
     }
     m_parts->layoutDirty = true;
     if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
@@ -82,7 +82,7 @@ void CMFCRibbonBar::MarkMeasuresDirty() {
 
 void CMFCRibbonBar::RecalcLayout() {
     for (const auto& category : m_parts->categories) {
-        category->m_parts->measured = false;
+        category->ForgetMeasures();
     }
     CompleteDefaultQuickAccess();
     MarkLayoutDirty();
@@ -155,7 +155,7 @@ void CMFCRibbonBar::UpdateMetrics() {
     }
     m_parts->metrics = metrics;
     for (const auto& category : m_parts->categories) {
-        category->m_parts->measured = false;
+        category->ForgetMeasures();
     }
 }
 
@@ -196,7 +196,7 @@ void CMFCRibbonBar::MeasureTabs(CDC* pDC) {
     for (const auto& category : m_parts->categories) {
         if (IsTabShown(*category)) {
             tabsOfContext[category->GetContextID()].push_back(widths.size());
-            widths.push_back(category->m_Tab.GetRegularSize(pDC).cx);
+            widths.push_back(category->GetTabElement().GetRegularSize(pDC).cx);
         }
     }
     for (const auto& context : m_parts->contexts) {
@@ -228,11 +228,11 @@ void CMFCRibbonBar::Arrange(CDC* pDC) {
     size_t tab = 0;
     for (const auto& category : m_parts->categories) {
         if (!IsTabShown(*category)) {
-            PlaceElement(category->m_Tab, pDC, {});
+            PlaceElement(category->GetTabElement(), pDC, {});
             continue;
         }
-        category->m_Tab.m_bIsTrancated = places.tabs[tab].Width() < m_parts->shape.tabWidths[tab];
-        PlaceElement(category->m_Tab, pDC, places.tabs[tab]);
+        category->GetTabElement().SetTruncated(places.tabs[tab].Width() < m_parts->shape.tabWidths[tab]);
+        PlaceElement(category->GetTabElement(), pDC, places.tabs[tab]);
         ++tab;
     }
     ArrangeContextCaptions();
@@ -272,7 +272,7 @@ void CMFCRibbonBar::ArrangeContextCaptions() {
         }
         rect.left = std::max<LONG>(rect.left, left);
         rect.right = std::min<LONG>(rect.right, right);
-        context.caption->m_nRightTabX = rect.IsRectEmpty() ? -1 : rect.right;
+        context.caption->SetRightTabX(rect.IsRectEmpty() ? -1 : rect.right);
         context.caption->SetRect(rect.IsRectEmpty() ? CRect(0, 0, 0, 0) : rect);
     }
 }

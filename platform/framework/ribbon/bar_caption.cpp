@@ -60,9 +60,9 @@ void CMFCRibbonBar::MeasureCaption() {
     }
     shape.captionButtons = 0;
     for (const auto& button : buttons) {
-        const bool isShown = m_parts->replacesCaption && HasButton(button->m_uiSysCmd, style);
+        const bool isShown = m_parts->replacesCaption && HasButton(button->GetCommand(), style);
         button->SetVisible(isShown);
-        button->SetDisabled(!IsButtonEnabled(button->m_uiSysCmd, style, frame));
+        button->SetDisabled(!IsButtonEnabled(button->GetCommand(), style, frame));
         shape.captionButtons += isShown ? 1 : 0;
     }
     shape.childButtons = static_cast<int>(m_parts->childButtons.size());
@@ -170,7 +170,7 @@ void CMFCRibbonBar::SetMaximizeMode(BOOL bMax, CWnd* pWnd) {
     if (child == former) {
         return;
     }
-    buttons.clear();
+    const auto gone = std::exchange(buttons, {});
     if (child != nullptr) {
         const auto style = static_cast<DWORD>(::GetWindowLongPtrW(child, GWL_STYLE));
         for (const UINT command : kWindowCommands) {

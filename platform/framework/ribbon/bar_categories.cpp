@@ -7,6 +7,8 @@
 #include <utility>
 
 #include "afxribbonpanelmenu.h"
+#include "afxvisualmanager.h"
+#include "fx/window_guard.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/element_walk.h"
 
@@ -57,8 +59,7 @@ CMFCRibbonCategory* CMFCRibbonBar::AddContextCategory(LPCTSTR lpszName, LPCTSTR 
         auto caption = std::make_unique<CMFCRibbonContextCaption>();
         caption->SetParentRibbonBar(this);
         caption->SetText(lpszContextName);
-        caption->m_Color = clrContext;
-        caption->m_uiContextID = uiContextID;
+        caption->SetContext(uiContextID, clrContext);
         m_parts->contexts.push_back({uiContextID, CString(lpszContextName), std::move(caption)});
     }
     return category;
@@ -71,7 +72,10 @@ CMFCRibbonMainPanel* CMFCRibbonBar::AddMainCategory(LPCTSTR lpszName, UINT uiSma
     category->CommonInit(this, lpszName, uiSmallImagesResID, uiLargeImagesResID, sizeSmallImage, sizeLargeImage);
     auto* panel =
         static_cast<CMFCRibbonMainPanel*>(category->AddPanel(lpszName, nullptr, RUNTIME_CLASS(CMFCRibbonMainPanel)));
-    m_parts->mainCategory = std::move(category);
+    if (m_parts->mainCategory != nullptr) {
+        EndInput();
+    }
+    const std::unique_ptr<CMFCRibbonCategory> former = std::exchange(m_parts->mainCategory, std::move(category));
     return panel;
 }
 
@@ -115,10 +119,17 @@ BOOL CMFCRibbonBar::GetContextName(UINT uiContextID, CString& strName) const {
     return FALSE;
 }
 
+// What shows the category ends while bar and category are whole, and the category is out of the list before it goes:
+// whoever hears of its end, or of that of one of its elements, may walk through the categories that are there.
 BOOL CMFCRibbonBar::RemoveCategory(int nIndex) {
     CMFCRibbonCategory* category = GetCategory(nIndex);
     if (category == nullptr) {
         return FALSE;
+    }
+    EndUseOf(*category);
+    const int place = GetCategoryIndex(category);
+    if (place < 0) {
+        return TRUE; // host code that ran meanwhile has removed it
     }
     m_parts->hotPanel = nullptr;
     if (m_parts->active == category) {
@@ -127,7 +138,10 @@ BOOL CMFCRibbonBar::RemoveCategory(int nIndex) {
     if (m_parts->activeBeforeContext == category) {
         m_parts->activeBeforeContext = nullptr;
     }
-    m_parts->categories.erase(m_parts->categories.begin() + nIndex);
+    {
+        const std::unique_ptr<CMFCRibbonCategory> gone = std::move(m_parts->categories[static_cast<size_t>(place)]);
+        m_parts->categories.erase(m_parts->categories.begin() + place);
+    }
     if (m_parts->active == nullptr) {
         SetActiveWithoutCheck(FirstVisibleCategory());
     }
@@ -136,16 +150,50 @@ BOOL CMFCRibbonBar::RemoveCategory(int nIndex) {
 }
 
 void CMFCRibbonBar::RemoveAllCategories() {
+    EndInput();
     m_parts->hotPanel = nullptr;
     m_parts->active = nullptr;
     m_parts->activeBeforeContext = nullptr;
     m_parts->quickAccess.RemoveAll();
-    m_parts->categories.clear();
-    m_parts->contexts.clear();
+    {
+        const auto contexts = std::exchange(m_parts->contexts, {});
+        const auto categories = std::exchange(m_parts->categories, {});
+    }
     if (!m_parts->quickAccessChosen) {
         ApplyDefaultQuickAccess();
     }
     MarkLayoutDirty();
+}
+
+void CMFCRibbonBar::EndInput() {
+    if (GetSafeHwnd() == nullptr) {
+        return;
+    }
+    if (CMFCRibbonPanelMenu::IsAnyOpenOf(*this)) {
+        CMFCRibbonPanelMenu::DismissAll();
+    }
+    m_parts->keyboard->Deactivate(RibbonKeyboard::Focus::GiveBack);
+    CancelPress();
+    PopTooltip();
+}
+
+// Others may go on: a menu of the host's, the key tips of the tabs.
+void CMFCRibbonBar::EndUseOf(const CMFCRibbonCategory& category) {
+    if (&category == m_parts->active) {
+        EndInput();
+    } else if (CMFCRibbonPanelMenu* menu = CMFCRibbonPanelMenu::GetOutermostOf(category)) {
+        menu->Dismiss();
+    }
+}
+
+void CMFCRibbonBar::OnPanelGoing(CMFCRibbonPanel& panel) {
+    if (m_parts == nullptr) {
+        return;
+    }
+    m_parts->hotPanel = nullptr;
+    if (panel.GetParentCategory() == m_parts->active || panel.GetParentMenuBar() != nullptr) {
+        EndInput();
+    }
 }
 
 void CMFCRibbonBar::ShowCategory(int nIndex, BOOL bShow) {
@@ -186,8 +234,10 @@ void CMFCRibbonBar::SetActiveWithoutCheck(CMFCRibbonCategory* category) {
         }
         CancelPress();
         m_parts->hotPanel = nullptr;
-        if (m_parts->hot != nullptr && m_parts->hot->GetParentPanel() != nullptr) {
-            std::exchange(m_parts->hot, nullptr)->SetHighlighted(FALSE);
+        CMFCRibbonBaseElement* hot = m_parts->pointer.GetHot();
+        if (hot != nullptr && hot->GetParentPanel() != nullptr) {
+            m_parts->pointer.ForgetHot();
+            hot->SetHighlighted(FALSE);
         }
         m_parts->active->SetActive(FALSE);
     }
@@ -199,6 +249,44 @@ void CMFCRibbonBar::SetActiveWithoutCheck(CMFCRibbonCategory* category) {
         category->SetActive(TRUE);
     }
     MarkLayoutDirty();
+}
+
+void CMFCRibbonBar::OnTabPressed(CMFCRibbonTab& tab) {
+    CMFCRibbonCategory* category = tab.GetParentCategory();
+    if (category == nullptr) {
+        return;
+    }
+    if (m_parts->minimized && tab.IsDroppedDown()) {
+        tab.ClosePopupMenu();
+        return;
+    }
+    const bool changes = !category->IsActive();
+    if (changes && !SetActiveCategory(category)) {
+        return;
+    }
+    const fx::WindowGuard guard(this);
+    if (m_parts->minimized) {
+        tab.OnShowPopupMenu();
+    }
+    // The host may do anything; it comes last.
+    if (changes && guard.IsAlive()) {
+        NotifyCategoryChanged();
+    }
+}
+
+// The panels of a minimised bar, below its tabs.
+void CMFCRibbonBar::OpenCategory(CMFCRibbonTab& tab) {
+    CMFCRibbonCategory* category = tab.GetParentCategory();
+    if (category == nullptr || category->GetParentMenuBar() != nullptr) {
+        return;
+    }
+    CRect row;
+    GetClientRect(row);
+    row.top = row.bottom = tab.GetRect().bottom;
+    const int border = CMFCVisualManager::GetInstance()->GetRibbonPopupBorderSize(nullptr);
+    const CSize size(row.Width() - 2 * border, GetMetrics().CategoryHeight());
+    auto* menu = new CMFCRibbonPanelMenu(category, size);
+    menu->OpenAt(this, row, CMFCRibbonPanelMenu::Side::Below, &tab);
 }
 
 CMFCRibbonCategory* CMFCRibbonBar::FirstVisibleCategory() const {
@@ -353,7 +441,7 @@ CMFCRibbonBaseElement* CMFCRibbonBar::HitTest(CPoint point, BOOL bCheckActiveCat
         }
     }
     for (const auto& category : m_parts->categories) {
-        if (CMFCRibbonBaseElement* hit = category->m_Tab.HitTest(point)) {
+        if (CMFCRibbonBaseElement* hit = category->GetTabElement().HitTest(point)) {
             return hit;
         }
     }

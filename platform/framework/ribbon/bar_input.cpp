@@ -11,8 +11,6 @@ namespace {
 
 const CPoint kNowhere(-1, -1);
 
-bool TakesInput(const CMFCRibbonBaseElement& element) { return !element.IsDisabled() && !element.IsSeparator(); }
-
 CPoint CursorPosition() {
     CPoint position = kNowhere;
     ::GetCursorPos(&position);
@@ -24,41 +22,40 @@ CPoint CursorPosition() {
 void CMFCRibbonBar::OnLButtonDown(UINT nFlags, CPoint point) {
     CPane::OnLButtonDown(nFlags, point);
     PopTooltip();
-    CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
-    if (hit != nullptr && TakesInput(*hit)) {
-        Press(hit, point);
-    }
+    PressAt(point);
 }
 
 void CMFCRibbonBar::OnLButtonDblClk(UINT nFlags, CPoint point) {
     CPane::OnLButtonDblClk(nFlags, point);
-    CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
-    if (hit == nullptr || !TakesInput(*hit)) {
-        return;
-    }
-    if (DYNAMIC_DOWNCAST(CMFCRibbonTab, hit) != nullptr) {
+    const CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
+    if (DYNAMIC_DOWNCAST(CMFCRibbonTab, hit) != nullptr && RibbonPointer::TakesInput(*hit)) {
         ToggleMimimizeState();
-        return;
+    } else {
+        PressAt(point);
     }
-    Press(hit, point);
 }
 
-void CMFCRibbonBar::Press(CMFCRibbonBaseElement* element, CPoint point) {
-    SetHot(element, point);
-    m_parts->press.Start(*this, *element, [this, element, point] {
-        const bool inCategory = m_parts->active != nullptr && element->GetParentPanel() != nullptr;
-        if (inCategory) {
-            m_parts->active->OnLButtonDown(point);
-        } else {
-            element->OnLButtonDown(point);
-        }
-    });
+void CMFCRibbonBar::PressAt(CPoint point) {
+    CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
+    if (hit != nullptr && RibbonPointer::TakesInput(*hit)) {
+        LightPanelAt(point);
+        m_parts->pointer.SetHot(hit);
+        m_parts->pointer.Press(*hit, point);
+    }
+}
+
+void CMFCRibbonBar::TellPressed(CMFCRibbonBaseElement& element, CPoint point) {
+    if (m_parts->active != nullptr && element.GetParentPanel() != nullptr) {
+        m_parts->active->OnLButtonDown(point);
+    } else {
+        element.OnLButtonDown(point);
+    }
 }
 
 void CMFCRibbonBar::OnLButtonUp(UINT nFlags, CPoint point) {
     CPane::OnLButtonUp(nFlags, point);
     const CPoint before = CursorPosition();
-    if (m_parts->press.Release(point) != RibbonPress::Released::Element) {
+    if (m_parts->pointer.Release(point) != RibbonPointer::Released::Element) {
         return;
     }
     // The command may have taken its time, in a dialog for example: the pointer is where the cursor has gone since.
@@ -69,94 +66,68 @@ void CMFCRibbonBar::OnLButtonUp(UINT nFlags, CPoint point) {
         ScreenToClient(&place);
     }
     const bool isAway = now != before && ::WindowFromPoint(now) != m_hWnd;
-    SetHot(isAway ? nullptr : HitTest(place, TRUE), isAway ? kNowhere : place);
+    LightPanelAt(isAway ? kNowhere : place);
+    m_parts->pointer.SetHot(isAway ? nullptr : HitTest(place, TRUE));
     if (!isAway) {
-        TrackLeave(); // a dialog has used up the former request
-    }
-}
-
-void CMFCRibbonBar::TrackLeave() {
-    if (!m_parts->tracksLeave) {
-        TRACKMOUSEEVENT track{sizeof(track), TME_LEAVE, m_hWnd, 0};
-        m_parts->tracksLeave = ::TrackMouseEvent(&track) != FALSE;
+        m_parts->pointer.TrackLeave(); // a dialog has used up the former request
     }
 }
 
 void CMFCRibbonBar::OnMouseMove(UINT nFlags, CPoint point) {
     CPane::OnMouseMove(nFlags, point);
-    TrackLeave();
+    m_parts->pointer.TrackLeave();
     CMFCRibbonBaseElement* hit = HitTest(point, TRUE);
-    if (CMFCRibbonBaseElement* pressed = m_parts->press.GetElement()) {
-        SetHot(hit == pressed ? hit : nullptr, point);
-        pressed->OnMouseMove(point);
-        return;
-    }
-    SetHot(hit, point);
-    if (m_parts->hot != nullptr) {
-        m_parts->hot->OnMouseMove(point);
-    }
+    LightPanelAt(point);
+    m_parts->pointer.Move(hit, point);
 }
 
 void CMFCRibbonBar::OnMouseLeave() {
     CPane::OnMouseLeave();
-    m_parts->tracksLeave = false;
     m_parts->wheel.Reset();
-    if (!m_parts->press.IsActive() && !IsPointerInEdit(m_parts->hot)) {
-        SetHot(nullptr, kNowhere);
+    m_parts->pointer.Leave();
+    if (!m_parts->pointer.IsPressed() && m_parts->pointer.GetHot() == nullptr) {
+        LightPanelAt(kNowhere);
     }
 }
 
 void CMFCRibbonBar::OnEditPointer(CMFCRibbonEdit& edit, BOOL bInside, CPoint point) {
-    if (m_parts->press.IsActive()) {
-        return;
+    RibbonPointer& pointer = m_parts->pointer;
+    const bool leaves = !bInside && pointer.GetHot() == &edit && !pointer.TracksLeave();
+    if (!pointer.IsPressed() && (bInside || leaves)) {
+        LightPanelAt(bInside ? point : kNowhere);
     }
-    if (bInside) {
-        SetHot(&edit, point);
-    } else if (m_parts->hot == &edit && !m_parts->tracksLeave) {
-        SetHot(nullptr, kNowhere);
-    }
+    pointer.OnEdit(edit, bInside != FALSE);
 }
 
 // The panel and the element under the pointer change their look; nothing else is drawn again.
-void CMFCRibbonBar::SetHot(CMFCRibbonBaseElement* element, CPoint point) {
-    if (element != nullptr && element->IsSeparator()) {
-        element = nullptr;
-    }
+void CMFCRibbonBar::LightPanelAt(CPoint point) {
     if (m_parts->ShownCategory() != nullptr) {
         m_parts->hotPanel = m_parts->active->HighlightPanel(m_parts->hotPanel, point);
     }
-    if (m_parts->hot == element) {
-        return;
-    }
-    if (m_parts->hot != nullptr) {
-        m_parts->hot->SetHighlighted(FALSE);
-    }
-    m_parts->hot = element;
-    if (element != nullptr) {
-        element->SetHighlighted(TRUE);
-    }
-    PlaceTooltip();
 }
 
-void CMFCRibbonBar::CancelPress() { m_parts->press.Cancel(); }
+void CMFCRibbonBar::OnHotChanged(CMFCRibbonBaseElement* /*pHot*/) { PlaceTooltip(); }
+
+void CMFCRibbonBar::CancelPress() { m_parts->pointer.Cancel(); }
 
 void CMFCRibbonBar::OnCancelMode() {
     CPane::OnCancelMode();
     CancelPress();
-    SetHot(nullptr, kNowhere);
+    LightPanelAt(kNowhere);
+    m_parts->pointer.SetHot(nullptr);
 }
 
 void CMFCRibbonBar::OnCaptureChanged(CWnd* pWnd) {
     CPane::OnCaptureChanged(pWnd);
-    if (pWnd != this && m_parts->press.IsActive()) {
-        CancelPress();
-        SetHot(nullptr, kNowhere);
+    if (pWnd != this && m_parts->pointer.OnCaptureLost()) {
+        LightPanelAt(kNowhere);
+        m_parts->pointer.SetHot(nullptr);
     }
 }
 
 void CMFCRibbonBar::OnTimer(UINT_PTR nIDEvent) {
-    if (nIDEvent == RibbonPress::kTimer) {
-        m_parts->press.OnTimer(m_hWnd);
+    if (nIDEvent == RibbonPointer::kTimer) {
+        m_parts->pointer.OnTimer();
     } else {
         CPane::OnTimer(nIDEvent);
     }
@@ -168,7 +139,7 @@ BOOL CMFCRibbonBar::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
     ScreenToClient(&client);
     CRect area;
     GetClientRect(area);
-    if (!area.PtInRect(client) || m_parts->active == nullptr || m_parts->press.IsActive() || m_parts->minimized ||
+    if (!area.PtInRect(client) || m_parts->active == nullptr || m_parts->pointer.IsPressed() || m_parts->minimized ||
         GetDroppedDown() != nullptr) {
         return CPane::OnMouseWheel(nFlags, zDelta, pt);
     }
@@ -204,7 +175,7 @@ BOOL CMFCRibbonBar::PreTranslateMessage(MSG* pMsg) {
     if (isMouse && m_pToolTip != nullptr && hasTool) {
         m_pToolTip->RelayEvent(pMsg);
     }
-    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && m_parts->press.IsActive()) {
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE && m_parts->pointer.IsPressed()) {
         CancelPress();
         return TRUE;
     }

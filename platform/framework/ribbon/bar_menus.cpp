@@ -2,10 +2,7 @@
 
 #include "afxRibbonLabel.h"
 #include "afxribbonpanelmenu.h"
-#include "core/framework_text.h"
 #include "ribbon/menu_items.h"
-
-CString RibbonText(RibbonTextId id) { return FrameworkText(static_cast<UINT>(id)); }
 
 namespace {
 

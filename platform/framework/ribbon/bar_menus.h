@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "afxribbonbutton.h"
+#include "core/framework_text.h"
 
 /// Texts of the bar's own menus and tips; string resources of the framework.
 enum class RibbonTextId : UINT {
@@ -15,13 +16,14 @@ enum class RibbonTextId : UINT {
     QuickAccessAbove = 17100,
     Minimize = 17101,
     QuickAccessMore = 17102,
+    CustomizeDialog = 17103,
     WindowMinimize = 17120,
     WindowMaximize = 17121,
     WindowRestore = 17122,
     WindowClose = 17123,
 };
 
-CString RibbonText(RibbonTextId id);
+inline CString RibbonText(RibbonTextId id) { return FrameworkText(static_cast<UINT>(id)); }
 
 /// A pop-up menu whose items carry what they do. Lives until Track.
 class RibbonMenu {

@@ -8,34 +8,16 @@
 #include "ribbon/access.h"
 #include "ribbon/bar_layout.h"
 #include "ribbon/edit_tool.h"
+#include "ribbon/font_scope.h"
 #include "ribbon/keyboard.h"
 #include "ribbon/panel_layout.h"
-#include "ribbon/press.h"
+#include "ribbon/pointer.h"
 
 inline CRect ToCRect(const RibbonRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 inline RibbonRect ToRibbonRect(const CRect& rect) {
     return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
             static_cast<int>(rect.bottom)};
 }
-
-/// Answers TTN_NEEDTEXT with an element's tip. A tooltip that has descriptions gets the element's name, with the keys
-/// of its command, as the title and the tip below it; one that has none gets the tip alone. `lent` takes the text and
-/// stays where it is while the tooltip shows.
-void FillRibbonTooltip(CToolTipCtrl& control, NMHDR& request, CMFCRibbonBaseElement& element, bool showsDescription,
-                       CString& lent);
-
-/// Selects the ribbon's regular font for its lifetime.
-class RibbonFontScope {
-public:
-    explicit RibbonFontScope(CDC& dc);
-    ~RibbonFontScope();
-    RibbonFontScope(const RibbonFontScope&) = delete;
-    RibbonFontScope& operator=(const RibbonFontScope&) = delete;
-
-private:
-    HDC m_dc;
-    HGDIOBJ m_previous;
-};
 
 struct RibbonCategoryParts {
     std::vector<std::unique_ptr<CMFCRibbonPanel>> panels;
@@ -52,6 +34,8 @@ struct RibbonCategoryParts {
 
 /// What a ribbon bar consists of and what it knows of the pointer.
 struct RibbonBarParts {
+    explicit RibbonBarParts(CMFCRibbonBar& bar) : pointer(bar, bar) {}
+
     RibbonMetrics metrics = RibbonMetrics::FromFont(13, 1.0);
     RibbonBarShape shape;
     RibbonBarArrangement arrangement;
@@ -82,11 +66,9 @@ struct RibbonBarParts {
     CMFCRibbonQuickAccessToolBar quickAccess;
 
     // Nothing here outlives the element: each tells the bar when it goes.
-    CMFCRibbonBaseElement* hot = nullptr;
-    RibbonPress press;
+    RibbonPointer pointer;
     CMFCRibbonBaseElement* menuSubject = nullptr; // whose context menu is open
     CMFCRibbonPanel* hotPanel = nullptr;
-    bool tracksLeave = false;
     fx::WheelRest wheel;
 
     CMFCRibbonCategory* active = nullptr;

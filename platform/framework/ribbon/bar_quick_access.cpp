@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <unordered_map>
 
+#include "fx/registered_messages.h"
+#include "fx/window_guard.h"
 #include "ribbon/bar_menus.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/element_walk.h"
@@ -196,6 +198,12 @@ BOOL CMFCRibbonBar::OnShowRibbonQATMenu(CWnd* pWnd, int x, int y, CMFCRibbonBase
     return menu.Track(CPoint(x, y), pWnd, pHit);
 }
 
+// A frame may have a dialog of its own for it; without one the toolbar's menu offers the commands.
+BOOL CMFCRibbonBar::AskFrameToCustomize() {
+    CFrameWnd* frame = GetTopLevelFrame();
+    return frame != nullptr && frame->SendMessage(AFX_WM_ON_RIBBON_CUSTOMIZE, 0, reinterpret_cast<LPARAM>(this)) != 0;
+}
+
 // The element may go while the menu is open; nothing is done with it then.
 BOOL CMFCRibbonBar::OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) {
     RibbonMenu menu;
@@ -215,6 +223,12 @@ BOOL CMFCRibbonBar::OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbon
             MarkLayoutDirty();
         });
     }
+    menu.AddCommand(RibbonText(RibbonTextId::CustomizeDialog), [this, x, y] {
+        const fx::WindowGuard guard(this);
+        if (!AskFrameToCustomize() && guard.IsAlive()) {
+            OnShowRibbonQATMenu(this, x, y, nullptr);
+        }
+    });
     menu.AddSeparator();
     AddPlaceOfQuickAccess(menu);
     return menu.Track(CPoint(x, y), pWnd);

@@ -1,10 +1,10 @@
 // Tooltips of a ribbon bar: one tool that follows the element under the pointer.
 #include "afxribbonbar.h"
 
-#include "afxkeyboardmanager.h"
 #include "afxtooltipmanager.h"
 #include "popups/tooltip_width.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/element_tip.h"
 
 namespace {
 
@@ -52,13 +52,21 @@ void CMFCRibbonBar::PopTooltip() {
     }
 }
 
+void CMFCRibbonBar::HideTip() { PopTooltip(); }
+
+RibbonTips CMFCRibbonBar::GetTips() const {
+    return {m_parts->tooltips, m_parts->tooltipDescriptions, m_parts->tooltipWidthRegular,
+            m_parts->tooltipWidthLargeImage};
+}
+
 void CMFCRibbonBar::PlaceTooltip() {
     if (m_pToolTip == nullptr || m_pToolTip->GetSafeHwnd() == nullptr) {
         return;
     }
-    const CRect rect = m_parts->hot != nullptr ? m_parts->hot->GetRect() : CRect(0, 0, 0, 0);
+    CMFCRibbonBaseElement* hot = m_parts->pointer.GetHot();
+    const CRect rect = hot != nullptr ? hot->GetRect() : CRect(0, 0, 0, 0);
     m_pToolTip->SetToolRect(this, kTool, rect);
-    m_parts->editTool.Follow(*m_pToolTip, *this, m_parts->hot);
+    m_parts->editTool.Follow(*m_pToolTip, *this, hot);
     m_pToolTip->Pop();
     CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_pToolTip);
     if (tooltip == nullptr) {
@@ -66,10 +74,10 @@ void CMFCRibbonBar::PlaceTooltip() {
     }
     tooltip->SetHotRibbonButton(nullptr);
     CPoint location(-1, -1);
-    if (m_parts->hot != nullptr && m_parts->hot->IsShowTooltipOnBottom() && !m_parts->arrangement.category.IsEmpty()) {
+    if (hot != nullptr && hot->IsShowTooltipOnBottom() && !m_parts->arrangement.category.IsEmpty()) {
         // Below the bar, so that it hides no other element.
-        location = CPoint(rect.left, m_parts->hot->GetParentPanel() != nullptr ? m_parts->arrangement.height
-                                                                               : static_cast<int>(rect.bottom));
+        location = CPoint(rect.left, hot->GetParentPanel() != nullptr ? m_parts->arrangement.height
+                                                                      : static_cast<int>(rect.bottom));
         ClientToScreen(&location);
     }
     tooltip->SetLocation(location);
@@ -84,7 +92,7 @@ BOOL CMFCRibbonBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) {
         return FALSE;
     }
     // The tool lies on the element under the pointer.
-    CMFCRibbonBaseElement* hit = m_parts->hot;
+    CMFCRibbonBaseElement* hit = m_parts->pointer.GetHot();
     if (hit == nullptr) {
         return TRUE;
     }
@@ -94,58 +102,6 @@ BOOL CMFCRibbonBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) {
     }
     FillRibbonTooltip(*m_pToolTip, *pNMH, *hit, m_parts->tooltipDescriptions, m_parts->tooltipText);
     return TRUE;
-}
-
-namespace {
-
-struct TipTexts {
-    CString title;
-    CString description;
-};
-
-/// "Open (Ctrl+O)". A text from a menu may carry its keys behind a tab.
-CString WithKeys(const CString& name, const CMFCRibbonBaseElement& element) {
-    const int tab = name.Find(L'\t');
-    CString keys = tab < 0 ? CString() : name.Mid(tab + 1);
-    const CMFCRibbonBar* bar = element.GetTopLevelRibbonBar();
-    CFrameWnd* frame = bar != nullptr && bar->GetSafeHwnd() != nullptr
-                           ? DYNAMIC_DOWNCAST(CFrameWnd, bar->GetTopLevelFrame())
-                           : nullptr;
-    if (keys.IsEmpty() && frame != nullptr && element.GetID() != 0) {
-        CKeyboardManager::FindDefaultAccelerator(element.GetID(), keys, frame, TRUE);
-    }
-    const CString shown = tab < 0 ? name : name.Left(tab);
-    return keys.IsEmpty() ? shown : shown + L" (" + keys + L")";
-}
-
-/// The tip says more than the name: the name is the title then, and what else there is to say stands below.
-TipTexts TextsOf(const CMFCRibbonBaseElement& element) {
-    const CString name = element.GetShownText();
-    const CString tip = element.GetToolTipText();
-    TipTexts texts{WithKeys(name, element), element.GetDescription()};
-    if (name.IsEmpty() || !element.IsKindOf(RUNTIME_CLASS(CMFCRibbonButton))) {
-        texts.title = tip;
-    } else if (tip != name && texts.description.IsEmpty()) {
-        texts.description = tip;
-    } else if (tip != name && texts.description != tip) {
-        texts.description = tip + L"\n" + texts.description;
-    }
-    return texts;
-}
-
-} // namespace
-
-void FillRibbonTooltip(CToolTipCtrl& control, NMHDR& request, CMFCRibbonBaseElement& element, bool showsDescription,
-                       CString& lent) {
-    lent = element.GetToolTipText();
-    if (CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, &control)) {
-        CMFCRibbonButton* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element);
-        tooltip->SetHotRibbonButton(button != nullptr && button->IsDrawTooltipImage() ? button : nullptr);
-        const TipTexts texts = showsDescription ? TextsOf(element) : TipTexts{lent, CString()};
-        lent = texts.title;
-        tooltip->SetDescription(texts.description);
-    }
-    reinterpret_cast<NMTTDISPINFO&>(request).lpszText = const_cast<LPTSTR>(static_cast<LPCTSTR>(lent));
 }
 
 LRESULT CMFCRibbonBar::OnUpdateToolTips(WPARAM wp, LPARAM /*lp*/) {

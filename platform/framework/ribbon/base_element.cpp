@@ -10,7 +10,6 @@
 
 #include "ribbon/drawing_scope.h"
 #include "ribbon/element_metrics.h"
-#include "ribbon/keyboard.h"
 
 IMPLEMENT_DYNAMIC(CMFCRibbonBaseElement, CObject)
 
@@ -84,7 +83,7 @@ void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
     m_strText = shown;
     CleanUpSizes();
     if (isMeasured && MeasureModes(*this) == former) {
-        m_pRibbonBar->GetKeyboard().Forget();
+        m_pRibbonBar->GetElementKeys().Forget();
         Redraw();
     } else {
         MarkLayoutDirty();
@@ -96,7 +95,7 @@ void CMFCRibbonBaseElement::SetKeys(LPCTSTR lpszKeys, LPCTSTR lpszMenuKeys) {
     m_strKeys = lpszKeys != nullptr ? lpszKeys : L"";
     m_strMenuKeys = lpszMenuKeys != nullptr ? lpszMenuKeys : L"";
     if (m_pRibbonBar != nullptr) {
-        m_pRibbonBar->GetKeyboard().Forget();
+        m_pRibbonBar->GetElementKeys().Forget();
     }
 }
 
@@ -116,9 +115,8 @@ CString CMFCRibbonBaseElement::GetDescription() const { return m_strDescription;
 
 // A tip that is shown now shows the old text at the old place.
 void CMFCRibbonBaseElement::UpdateTooltipInfo() {
-    CMFCRibbonBar* bar = GetParentRibbonBar();
-    if (bar != nullptr && m_bIsHighlighted) {
-        bar->PopTooltip();
+    if (m_pRibbonBar != nullptr && m_bIsHighlighted) {
+        m_pRibbonBar->HideTip();
     }
 }
 
@@ -201,6 +199,12 @@ CMFCRibbonBar* CMFCRibbonBaseElement::GetTopLevelRibbonBar() const {
     }
     return m_pOriginal->GetTopLevelRibbonBar();
 }
+
+RibbonElementHost* CMFCRibbonBaseElement::GetHost() const {
+    return m_pParentMenu != nullptr ? static_cast<RibbonElementHost*>(m_pParentMenu) : m_pRibbonBar;
+}
+
+RibbonBarHost* CMFCRibbonBaseElement::GetBarHost() const { return GetTopLevelRibbonBar(); }
 
 void CMFCRibbonBaseElement::SetParentWnd(CWnd* pParentWnd) { m_pParentWnd = pParentWnd; }
 

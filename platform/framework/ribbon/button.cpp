@@ -63,22 +63,6 @@ void CMFCRibbonButton::ReleaseIcons() {
 
 // ---- menu
 
-void CMFCRibbonButton::SetMenu(HMENU hMenu, BOOL bIsDefaultCommand, BOOL bRightAlign) {
-    TakeMenu(hMenu, nullptr, bIsDefaultCommand, bRightAlign);
-}
-
-void CMFCRibbonButton::TakeMenu(HMENU menu, const std::shared_ptr<CMenu>& loaded, BOOL isDefaultCommand,
-                                BOOL rightAlign) {
-    m_hMenu = menu;
-    m_pLoadedMenu = loaded;
-    m_bIsDefaultCommand = isDefaultCommand;
-    m_bRightAlignMenu = rightAlign;
-    OnMenuChanged();
-    for (CMFCRibbonButton* copy : CollectFollowers()) {
-        copy->TakeMenu(menu, loaded, isDefaultCommand, rightAlign);
-    }
-}
-
 void CMFCRibbonButton::SetDefaultCommand(BOOL bSet) {
     if (!m_bIsDefaultCommand == !bSet) {
         return;
@@ -134,7 +118,7 @@ CSize CMFCRibbonButton::GetImageSize(RibbonImageType type) const {
         return isLarge ? CSize(0, 0) : m_pParentGroup->GetImageSize();
     }
     if (m_pParentCategory != nullptr) {
-        return m_pParentCategory->GetImageSize(isLarge);
+        return m_pParentCategory->GetElementImageSize(isLarge);
     }
     const CMFCRibbonBaseElement* original = GetOriginal();
     return original != nullptr ? original->GetImageSize(type) : CSize(0, 0);
@@ -161,7 +145,13 @@ BOOL CMFCRibbonButton::IsWholeRowHeight() const { return ShowsLargeFace(); }
 BOOL CMFCRibbonButton::ShowsLargeFace() const { return IsLargeMode() && !IsMenuMode() && HasLargeMode(); }
 
 CMFCRibbonBaseElement::RibbonImageType CMFCRibbonButton::GetFaceImageType() const {
-    return ShowsLargeFace() || IsAlwaysLargeImage() ? RibbonImageLarge : RibbonImageSmall;
+    return GetImageTypeFor(ShowsLargeFace() || IsAlwaysLargeImage());
+}
+
+// A button that has just a small image shows it even where large ones are asked for.
+CMFCRibbonBaseElement::RibbonImageType CMFCRibbonButton::GetImageTypeFor(BOOL bLarge) const {
+    const bool isLarge = bLarge && (GetImageSize(RibbonImageLarge).cx != 0 || GetImageSize(RibbonImageSmall).cx == 0);
+    return isLarge ? RibbonImageLarge : RibbonImageSmall;
 }
 
 int CMFCRibbonButton::GetTextRowHeight() const { return ribbon::CurrentMetrics().textHeight; }
@@ -201,8 +191,7 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
     using ribbon::ButtonMenu;
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     ribbon::ButtonContent content;
-    content.image =
-        ribbon::FromSize(GetImageSize(bLarge || IsAlwaysLargeImage() ? RibbonImageLarge : RibbonImageSmall));
+    content.image = ribbon::FromSize(GetImageSize(GetImageTypeFor(bLarge || IsAlwaysLargeImage())));
     if (HasMenu()) {
         content.menu = IsSplit() ? ButtonMenu::Split : ButtonMenu::Whole;
     }
@@ -277,6 +266,7 @@ void CMFCRibbonButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     m_nLargeImageIndex = button->m_nLargeImageIndex;
     m_bIsAlwaysLargeImage = button->m_bIsAlwaysLargeImage;
     m_hMenu = button->m_hMenu;
+    m_strMenuContent = button->m_strMenuContent;
     m_pLoadedMenu = button->m_pLoadedMenu;
     m_bIsDefaultCommand = button->m_bIsDefaultCommand;
     m_bRightAlignMenu = button->m_bRightAlignMenu;

@@ -92,7 +92,7 @@ void CMFCRibbonButton::CompareWithMeasured(CSize sizeDrawn) {
     m_bAsksForLayout = TRUE;
     if (m_pParentMenu != nullptr) {
         m_pParentMenu->MarkLayoutDirty();
-    } else if (CMFCRibbonBar* const bar = GetParentRibbonBar()) {
+    } else if (RibbonBarHost* const bar = GetParentRibbonBar()) {
         bar->MarkMeasuresDirty();
     }
 }

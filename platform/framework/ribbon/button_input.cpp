@@ -1,7 +1,9 @@
 // Input, popup and command update of a ribbon button.
 #include <afxribbonbutton.h>
 
+#include "ribbon/access_texts.h"
 #include <afxribbonbar.h>
+#include <oleacc.h>
 
 void CMFCRibbonButton::OnMouseMove(CPoint point) {
     const BOOL isMenuHot = IsSplit() && m_rectMenu.PtInRect(point);
@@ -93,4 +95,14 @@ void CMFCRibbonButton::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget
     for (int i = 0; i < m_arSubItems.GetSize(); ++i) {
         m_arSubItems[i]->OnUpdateCmdUI(pCmdUI, pTarget, bDisableIfNoHndler);
     }
+}
+
+// ---- for assistive programs
+
+BOOL CMFCRibbonButton::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonBaseElement::SetACCData(pParent, data);
+    const BOOL opens = HasMenu() && !IsSplit();
+    data.m_nRole = IsSplit() ? ROLE_SYSTEM_SPLITBUTTON : opens ? ROLE_SYSTEM_BUTTONMENU : ROLE_SYSTEM_PUSHBUTTON;
+    data.m_strDefaultAction = RibbonAccessText(opens ? RibbonAccessTextId::Open : RibbonAccessTextId::Press);
+    return TRUE;
 }

@@ -64,7 +64,7 @@ void DrawSubmenuArrow(CDC* pDC, const CRect& rect, COLORREF color) {
 ribbon::MenuRowContent CMFCRibbonButton::CollectMenuRow(CDC* pDC) const {
     ribbon::MenuRowContent content;
     const BOOL isLarge = m_pParentMenu != nullptr ? m_pParentMenu->HasLargeRows(this) : IsAlwaysLargeImage();
-    content.image = ribbon::FromSize(GetImageSize(isLarge ? RibbonImageLarge : RibbonImageSmall));
+    content.image = ribbon::FromSize(GetImageSize(GetImageTypeFor(isLarge)));
     content.text = ribbon::MeasureText(pDC, View(TextOf(m_strText)));
     content.text.height = ribbon::CurrentMetrics().textHeight;
     content.keys = ribbon::MeasureText(pDC, View(KeysOf(m_strText)));

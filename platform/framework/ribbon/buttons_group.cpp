@@ -5,6 +5,7 @@
 #include <afxvisualmanager.h>
 
 #include "ribbon/element_metrics.h"
+#include <oleacc.h>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonButtonsGroup, CMFCRibbonBaseElement)
 
@@ -44,10 +45,13 @@ CMFCRibbonBaseElement* CMFCRibbonButtonsGroup::GetButton(int i) const {
 }
 
 void CMFCRibbonButtonsGroup::RemoveAll() {
-    for (int i = 0; i < GetCount(); ++i) {
-        delete m_arButtons[i];
-    }
+    // Out of the list before they go: whoever hears of their end may walk through those that are there.
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> gone;
+    gone.Copy(m_arButtons);
     m_arButtons.RemoveAll();
+    for (INT_PTR index = 0; index < gone.GetSize(); ++index) {
+        delete gone[index];
+    }
 }
 
 // ---- images
@@ -67,7 +71,7 @@ void CMFCRibbonButtonsGroup::SetImages(CMFCToolBarImages* pImages, CMFCToolBarIm
 
 const CSize CMFCRibbonButtonsGroup::GetImageSize() const {
     if (!HasImages()) {
-        return m_pParentCategory != nullptr ? m_pParentCategory->GetImageSize(FALSE) : CSize(0, 0);
+        return m_pParentCategory != nullptr ? m_pParentCategory->GetElementImageSize(FALSE) : CSize(0, 0);
     }
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     const CSize size = m_Images.GetImageSize();
@@ -340,4 +344,12 @@ void CMFCRibbonButtonsGroup::GetElementsByID(UINT uiCmdID, ElementArray& arEleme
     for (int i = 0; i < GetCount(); ++i) {
         m_arButtons[i]->GetElementsByID(uiCmdID, arElements);
     }
+}
+
+// ---- for assistive programs
+
+BOOL CMFCRibbonButtonsGroup::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonBaseElement::SetACCData(pParent, data);
+    data.m_nRole = ROLE_SYSTEM_TOOLBAR;
+    return TRUE;
 }

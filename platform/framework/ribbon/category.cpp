@@ -75,6 +75,8 @@ CSize CMFCRibbonCategory::GetImageSize(BOOL bIsLargeImage) const {
     return {afxGlobalData.ScalePixels(nominal.cx), afxGlobalData.ScalePixels(nominal.cy)};
 }
 
+CSize CMFCRibbonCategory::GetElementImageSize(BOOL bIsLargeImage) const { return GetImageSize(bIsLargeImage); }
+
 int CMFCRibbonCategory::GetImageCount(BOOL bIsLargeImage) const {
     return (bIsLargeImage ? m_LargeImages : m_SmallImages).GetCount();
 }
@@ -147,28 +149,26 @@ CMFCRibbonPanel* CMFCRibbonCategory::FindPanelWithElem(const CMFCRibbonBaseEleme
     return nullptr;
 }
 
+// Out of the list before it goes: whoever hears of its end may walk through the panels that are there.
 BOOL CMFCRibbonCategory::RemovePanel(int nIndex, BOOL bDelete) {
-    if (GetPanel(nIndex) == nullptr) {
+    CMFCRibbonPanel* panel = GetPanel(nIndex);
+    if (panel == nullptr) {
         return FALSE;
     }
-    if (m_pParentRibbonBar != nullptr && m_pParentRibbonBar->m_parts != nullptr) {
-        m_pParentRibbonBar->m_parts->hotPanel = nullptr;
+    if (RibbonBarHost* bar = m_pParentRibbonBar) {
+        bar->OnPanelGoing(*panel);
     }
-    const auto position = m_parts->panels.begin() + nIndex;
+    const int place = GetPanelIndex(panel);
+    if (place < 0) {
+        return TRUE; // host code that ran meanwhile has removed it
+    }
+    std::unique_ptr<CMFCRibbonPanel> gone = std::move(m_parts->panels[static_cast<size_t>(place)]);
+    m_parts->panels.erase(m_parts->panels.begin() + place);
     if (!bDelete) {
         CClientDC dc(m_pParentRibbonBar);
-        CMFCRibbonPanel& panel = **position;
-        panel.Hide(&dc);
-        // Nothing in it knows category and bar from now on: it may outlive them.
-        for (CMFCRibbonBaseElement* element : panel.CollectParts()) {
-            element->SetParentCategory(nullptr);
-        }
-        panel.m_btnDefault.SetParentCategory(nullptr);
-        panel.m_btnLaunch.SetParentCategory(nullptr);
-        panel.m_pParent = nullptr;
-        static_cast<void>(position->release()); // the caller owns it from here
+        gone->LeaveCategory(&dc);
+        static_cast<void>(gone.release()); // the caller owns it from here
     }
-    m_parts->panels.erase(position);
     MarkLayoutDirty();
     return TRUE;
 }
@@ -181,11 +181,13 @@ void CMFCRibbonCategory::AddHidden(CMFCRibbonBaseElement* pElem) {
 }
 
 void CMFCRibbonCategory::MarkLayoutDirty() {
-    m_parts->measured = false;
+    ForgetMeasures();
     if (m_pParentRibbonBar != nullptr) {
         m_pParentRibbonBar->MarkLayoutDirty();
     }
 }
+
+void CMFCRibbonCategory::ForgetMeasures() { m_parts->measured = false; }
 
 void CMFCRibbonCategory::SetName(LPCTSTR lpszName) {
     m_strName = lpszName;
@@ -200,136 +202,7 @@ void CMFCRibbonCategory::SetTabColor(AFX_RibbonCategoryColor color) {
 }
 
 BOOL CMFCRibbonCategory::IsWindows7Look() const {
-    return m_pParentRibbonBar != nullptr && m_pParentRibbonBar->IsWindows7Look();
-}
-
-// ---- searches
-
-CMFCRibbonBaseElement* CMFCRibbonCategory::FindByID(UINT uiCmdID, BOOL bVisibleOnly) const {
-    for (const auto& panel : m_parts->panels) {
-        for (CMFCRibbonBaseElement* part : panel->CollectParts()) {
-            if (CMFCRibbonBaseElement* found = ribbon::FindByID(*part, uiCmdID, bVisibleOnly)) {
-                return found;
-            }
-        }
-    }
-    if (!bVisibleOnly) {
-        for (const auto& element : m_parts->hidden) {
-            if (CMFCRibbonBaseElement* found = element->FindByID(uiCmdID)) {
-                return found;
-            }
-        }
-    }
-    return nullptr;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonCategory::FindByData(DWORD_PTR dwData, BOOL bVisibleOnly) const {
-    for (const auto& panel : m_parts->panels) {
-        for (int index = 0; index < panel->GetCount(); ++index) {
-            if (CMFCRibbonBaseElement* found = ribbon::FindByData(*panel->GetElement(index), dwData, bVisibleOnly)) {
-                return found;
-            }
-        }
-    }
-    if (!bVisibleOnly) {
-        for (const auto& element : m_parts->hidden) {
-            if (CMFCRibbonBaseElement* found = element->FindByData(dwData)) {
-                return found;
-            }
-        }
-    }
-    return nullptr;
-}
-
-void CMFCRibbonCategory::GetElements(ElementArray& arElements) {
-    arElements.RemoveAll();
-    for (const auto& panel : m_parts->panels) {
-        panel->GetElements(arElements);
-    }
-    for (const auto& element : m_parts->hidden) {
-        element->GetElements(arElements);
-    }
-}
-
-void CMFCRibbonCategory::GetElementsByID(UINT uiCmdID, ElementArray& arElements) {
-    for (const auto& panel : m_parts->panels) {
-        panel->GetElementsByID(uiCmdID, arElements);
-    }
-    for (const auto& element : m_parts->hidden) {
-        element->GetElementsByID(uiCmdID, arElements);
-    }
-}
-
-void CMFCRibbonCategory::GetVisibleElements(ElementArray& arElements) {
-    if (!m_ScrollLeft.GetRect().IsRectEmpty()) {
-        arElements.Add(&m_ScrollLeft);
-    }
-    for (const auto& panel : m_parts->panels) {
-        if (!panel->GetRect().IsRectEmpty()) {
-            panel->GetVisibleElements(arElements);
-        }
-    }
-    if (!m_ScrollRight.GetRect().IsRectEmpty()) {
-        arElements.Add(&m_ScrollRight);
-    }
-}
-
-void CMFCRibbonCategory::GetItemIDsList(CList<UINT, UINT>& lstItems, BOOL bHiddenOnly) const {
-    if (!bHiddenOnly) {
-        for (const auto& panel : m_parts->panels) {
-            panel->GetItemIDsList(lstItems);
-        }
-    }
-    for (const auto& element : m_parts->hidden) {
-        if (element->GetID() != 0) {
-            lstItems.AddTail(element->GetID());
-        }
-    }
-}
-
-CMFCRibbonBaseElement* CMFCRibbonCategory::GetFirstVisibleElement() const {
-    ElementArray elements;
-    const_cast<CMFCRibbonCategory*>(this)->GetVisibleElements(elements);
-    return elements.IsEmpty() ? nullptr : elements[0];
-}
-
-CMFCRibbonBaseElement* CMFCRibbonCategory::GetLastVisibleElement() const {
-    ElementArray elements;
-    const_cast<CMFCRibbonCategory*>(this)->GetVisibleElements(elements);
-    return elements.IsEmpty() ? nullptr : elements[elements.GetUpperBound()];
-}
-
-CMFCRibbonBaseElement* CMFCRibbonCategory::GetDroppedDown() {
-    for (const auto& panel : m_parts->panels) {
-        if (CMFCRibbonBaseElement* dropped = panel->GetDroppedDown()) {
-            return dropped;
-        }
-    }
-    return nullptr;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonCategory::GetFocused() {
-    if (m_Tab.IsFocused()) {
-        return &m_Tab;
-    }
-    for (const auto& panel : m_parts->panels) {
-        if (CMFCRibbonBaseElement* focused = panel->GetFocused()) {
-            return focused;
-        }
-    }
-    return nullptr;
-}
-
-CMFCRibbonBaseElement* CMFCRibbonCategory::GetHighlighted() {
-    if (m_Tab.IsHighlighted()) {
-        return &m_Tab;
-    }
-    for (const auto& panel : m_parts->panels) {
-        if (CMFCRibbonBaseElement* highlighted = panel->GetHighlighted()) {
-            return highlighted;
-        }
-    }
-    return nullptr;
+    return m_pParentRibbonBar != nullptr && m_pParentRibbonBar->HasWindows7Look();
 }
 
 // ---- pointer

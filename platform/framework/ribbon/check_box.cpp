@@ -2,8 +2,10 @@
 
 #include <afxvisualmanager.h>
 
+#include "ribbon/access_texts.h"
 #include "ribbon/edit_geometry.h"
 #include "ribbon/element_metrics.h"
+#include <oleacc.h>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonCheckBox, CMFCRibbonButton)
 
@@ -40,4 +42,13 @@ void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
                        DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
     }
+}
+
+// ---- for assistive programs
+
+BOOL CMFCRibbonCheckBox::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonButton::SetACCData(pParent, data);
+    data.m_nRole = ROLE_SYSTEM_CHECKBUTTON;
+    data.m_strDefaultAction = RibbonAccessText(IsChecked() ? RibbonAccessTextId::Uncheck : RibbonAccessTextId::Check);
+    return TRUE;
 }

@@ -235,8 +235,8 @@ BOOL CMFCDropDownListBox::OnChainKey(UINT nMessage, UINT nChar) {
     if (life.expired() || combo->IsDroppedDown()) {
         return isUsed;
     }
-    if (CMFCRibbonBar* bar = combo->GetTopLevelRibbonBar(); bar != nullptr) {
-        bar->GetKeyboard().LeaveList();
+    if (RibbonBarHost* bar = combo->GetBarHost()) {
+        bar->GetElementKeys().LeaveList();
     }
     return isUsed;
 }

@@ -1,6 +1,7 @@
 #include "ribbon/edit_tool.h"
 
 #include "afxRibbonEdit.h"
+#include "afxtooltipctrl.h"
 
 namespace {
 

@@ -9,8 +9,9 @@
 
 #include <memory>
 
+#include "ribbon/access_texts.h"
 #include "ribbon/element_metrics.h"
-#include "ribbon/keyboard.h"
+#include <oleacc.h>
 
 IMPLEMENT_DYNAMIC(CMFCRibbonRichEditCtrl, CRichEditCtrl)
 
@@ -35,8 +36,8 @@ BOOL CMFCRibbonRichEditCtrl::PreTranslateMessage(MSG* pMsg) {
     // The key may send a command whose handler deletes this window.
     const bool isWithAlt = pMsg->message == WM_SYSKEYDOWN && IsKeyWithAlt(pMsg->wParam);
     const bool isKey = pMsg->message == WM_KEYDOWN || isWithAlt;
-    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); isWithAlt && bar != nullptr) {
-        bar->GetKeyboard().OnAltIsUsed();
+    if (RibbonBarHost* bar = m_edit.GetBarHost(); isWithAlt && bar != nullptr) {
+        bar->GetElementKeys().OnAltIsUsed();
     }
     if (isKey && pMsg->hwnd == GetSafeHwnd() && m_edit.OnEditKey(static_cast<UINT>(pMsg->wParam))) {
         return TRUE;
@@ -66,17 +67,15 @@ LRESULT CMFCRibbonRichEditCtrl::OnMouseLeave(WPARAM /*wParam*/, LPARAM /*lParam*
 void CMFCRibbonRichEditCtrl::TellParent(CPoint point) {
     CWnd* parent = GetParent();
     ::MapWindowPoints(m_hWnd, parent->GetSafeHwnd(), &point, 1);
-    if (CMFCRibbonBar* bar = DYNAMIC_DOWNCAST(CMFCRibbonBar, parent)) {
-        bar->OnEditPointer(m_edit, m_bIsHighlighted, point);
-    } else if (CMFCRibbonPanelMenuBar* menu = DYNAMIC_DOWNCAST(CMFCRibbonPanelMenuBar, parent)) {
-        menu->OnEditPointer(m_edit, m_bIsHighlighted, point);
+    if (auto* host = dynamic_cast<RibbonElementHost*>(parent)) {
+        host->OnEditPointer(m_edit, m_bIsHighlighted, point);
     }
 }
 
 void CMFCRibbonRichEditCtrl::OnSetFocus(CWnd* pOldWnd) {
     CRichEditCtrl::OnSetFocus(pOldWnd);
-    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr) {
-        bar->GetKeyboard().OnEditFocusCame(pOldWnd->GetSafeHwnd());
+    if (RibbonBarHost* bar = m_edit.GetBarHost()) {
+        bar->GetElementKeys().OnEditFocusCame(pOldWnd->GetSafeHwnd());
     }
     m_edit.OnEditFocus(TRUE);
 }
@@ -84,8 +83,8 @@ void CMFCRibbonRichEditCtrl::OnSetFocus(CWnd* pOldWnd) {
 // The loss of the focus may send the command, whose handler may delete this window: it comes last.
 void CMFCRibbonRichEditCtrl::OnKillFocus(CWnd* pNewWnd) {
     CRichEditCtrl::OnKillFocus(pNewWnd);
-    if (CMFCRibbonBar* bar = m_edit.GetTopLevelRibbonBar(); bar != nullptr) {
-        bar->GetKeyboard().OnFocusWent(pNewWnd->GetSafeHwnd());
+    if (RibbonBarHost* bar = m_edit.GetBarHost()) {
+        bar->GetElementKeys().OnFocusWent(pNewWnd->GetSafeHwnd());
     }
     m_edit.OnEditFocus(FALSE);
 }
@@ -224,8 +223,8 @@ BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
     }
     m_strCommitted = m_strEdit;
     // In a pop-up the first Escape leaves the text, the next one the pop-up.
-    CMFCRibbonBar* bar = nChar == VK_ESCAPE && m_pParentMenu != nullptr ? GetTopLevelRibbonBar() : nullptr;
-    if (bar != nullptr && bar->GetKeyboard().TakeFocusBack()) {
+    RibbonBarHost* bar = nChar == VK_ESCAPE && m_pParentMenu != nullptr ? GetBarHost() : nullptr;
+    if (bar != nullptr && bar->GetElementKeys().TakeFocusBack()) {
         return TRUE;
     }
     LeaveEditWindow();
@@ -238,8 +237,8 @@ BOOL CMFCRibbonEdit::OnEditKey(UINT nChar) {
 }
 
 void CMFCRibbonEdit::LeaveEditWindow() {
-    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr) {
-        bar->GetKeyboard().GiveFocusBack();
+    if (RibbonBarHost* bar = GetBarHost()) {
+        bar->GetElementKeys().GiveFocusBack();
     }
     if (CWnd* target = GetCommandTarget(); target != nullptr && HasFocus()) {
         target->SetFocus();
@@ -258,4 +257,27 @@ void CMFCRibbonEdit::CommitText() {
 void CMFCRibbonEdit::RevertText() {
     m_strEdit = m_strCommitted;
     ShowTextInWindow();
+}
+
+// ---- for assistive programs
+
+BOOL CMFCRibbonEdit::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonButton::SetACCData(pParent, data);
+    data.m_nRole = GetDropButtonWidth() > 0 ? ROLE_SYSTEM_COMBOBOX : ROLE_SYSTEM_TEXT;
+    data.m_strValue = m_strEdit;
+    data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Edit);
+    return TRUE;
+}
+
+// As if the text had been typed and left: the command follows.
+BOOL CMFCRibbonEdit::PutACCValue(LPCTSTR lpszValue) {
+    if (IsDisabled()) {
+        return FALSE;
+    }
+    m_strEdit = lpszValue;
+    ShowTextInWindow();
+    Redraw();
+    NotifyAccessibility(EVENT_OBJECT_VALUECHANGE);
+    CommitText();
+    return TRUE;
 }

@@ -4,6 +4,8 @@
 #include <afxribbonbar.h>
 #include <afxribbonpanelmenu.h>
 
+#include "fx/registered_messages.h"
+
 namespace {
 
 bool IsCommand(UINT id) { return id != 0 && id != static_cast<UINT>(-1); }
@@ -41,8 +43,7 @@ BOOL CMFCRibbonBaseElement::NotifyCommand(BOOL bWithDelay) {
 }
 
 void CMFCRibbonBaseElement::PostMenuCommand(UINT /*uiCmdId*/) {
-    const CMFCRibbonPanelMenu* menu = m_pParentMenu != nullptr ? m_pParentMenu->GetMenu() : nullptr;
-    const HWND parent = menu != nullptr ? menu->GetSafeHwnd() : nullptr;
+    const HWND parent = m_pParentMenu != nullptr ? m_pParentMenu->GetPopupWindow() : nullptr;
     ClosePopupMenu();
     if (parent != nullptr && ::IsWindow(parent)) {
         ::PostMessageW(parent, WM_CLOSE, 0, 0);
@@ -50,8 +51,8 @@ void CMFCRibbonBaseElement::PostMenuCommand(UINT /*uiCmdId*/) {
 }
 
 void CMFCRibbonBaseElement::OnShowPopupMenu() {
-    if (CMFCRibbonBar* bar = GetTopLevelRibbonBar(); bar != nullptr) {
-        bar->PopTooltip();
+    if (RibbonBarHost* bar = GetBarHost()) {
+        bar->HideTip();
     }
 }
 
@@ -74,7 +75,21 @@ void CMFCRibbonBaseElement::ClosePopupMenu() {
 
 void CMFCRibbonBaseElement::CloseParentMenus() {
     if (m_pParentMenu != nullptr) {
-        CMFCRibbonPanelMenu::DismissAll();
+        RibbonPopups::Get().DismissAll();
+    }
+}
+
+void CMFCRibbonBaseElement::NotifyHighlightListItem(int nIndex) {
+    // The handler may delete this element: nothing here looks at it after sending.
+    if (const CWnd* const target = GetCommandTarget(); target->GetSafeHwnd() != nullptr) {
+        ::SendMessage(target->m_hWnd, AFX_WM_HIGHLIGHT_RIBBON_LIST_ITEM, static_cast<WPARAM>(nIndex),
+                      reinterpret_cast<LPARAM>(this));
+    }
+}
+
+void CMFCRibbonBaseElement::NotifyAccessibility(DWORD dwEvent) {
+    if (RibbonElementHost* host = GetHost()) {
+        host->NotifyElementEvent(dwEvent, *this);
     }
 }
 

@@ -49,9 +49,9 @@ void CMFCRibbonButtonsGroup::AddToKeyList(CArray<CMFCRibbonKeyTip*, CMFCRibbonKe
 }
 
 CString CMFCRibbonBaseElement::GetKeyTipText(BOOL bIsMenu) const {
-    CMFCRibbonBar* bar = GetTopLevelRibbonBar();
+    RibbonBarHost* bar = GetBarHost();
     const CString given = bIsMenu ? m_strMenuKeys : m_strKeys;
-    return bar != nullptr ? bar->GetKeyboard().KeysOf(*this, bIsMenu != FALSE, given) : given;
+    return bar != nullptr ? bar->GetElementKeys().KeysOf(*this, bIsMenu != FALSE, given) : given;
 }
 
 CSize CMFCRibbonBaseElement::GetKeyTipSize(CDC* pDC) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "afxribbonkeytip.h"
+#include "fx/ribbon_host.h"
 #include "ribbon/focus_walk.h"
 
 class CMFCRibbonBar;
@@ -18,7 +19,7 @@ class CMFCRibbonTab;
 /// A ribbon bar's keyboard: the levels of key tips, and the focus that arrows move. Owned by its bar. While it is
 /// active the bar's window has the system's focus, or the edit window of an element has; when it ends the focus returns
 /// to where it was. A command may destroy bar and keyboard: what sends one comes last.
-class RibbonKeyboard {
+class RibbonKeyboard final : public RibbonElementKeys {
 public:
     enum class Focus { GiveBack, Leave };
 
@@ -27,13 +28,13 @@ public:
     RibbonKeyboard(const RibbonKeyboard&) = delete;
     RibbonKeyboard& operator=(const RibbonKeyboard&) = delete;
 
-    bool IsActive() const { return m_isActive; }
+    bool IsActive() const override { return m_isActive; }
     bool AreTipsEnabled() const { return m_areTipsEnabled; }
     void EnableTips(bool enable);
     /// Key tips are shown.
     bool AreTipsShown() const { return m_areTipsShown; }
     /// Number of the level whose tips are shown, from 0; -1 while none are.
-    int GetLevel() const;
+    int GetLevel() const override;
     CObject* GetCurrent() const;
     CObject* GetParent() const;
 
@@ -46,9 +47,9 @@ public:
     void Deactivate(Focus focus);
     /// Takes the focus from an edit that is left for what surrounds it. False, and nothing happens, while the keyboard
     /// is not active.
-    bool TakeFocusBack();
+    bool TakeFocusBack() override;
     /// Ends the keyboard, and returns the focus even when only an edit had it.
-    void GiveFocusBack();
+    void GiveFocusBack() override;
 
     // Messages; true: done.
     bool OnSysKeyDown(UINT key, LPARAM flags);
@@ -56,33 +57,33 @@ public:
     /// Another key went down while Alt was held.
     void OnOtherKey() { m_isAltPending = false; }
     /// The same, and the key was taken: the release of Alt must not open the window's menu.
-    void OnAltIsUsed() {
+    void OnAltIsUsed() override {
         m_isAltPending = false;
         m_swallowedUp = VK_MENU;
     }
     /// A key while the keyboard is active.
-    bool OnKeyDown(const MSG& message);
+    bool OnKeyDown(const MSG& message) override;
     /// A letter of a key tip, in any case; starts with the bar's level when none is shown.
     bool OnCharacter(wchar_t character);
     void OnMouseButton(HWND window);
     /// The focus comes to the bar or an edit window in it.
     void OnFocusCame(HWND former);
     /// An edit that was clicked has the keyboard as well: Tab and arrows lead on from it.
-    void OnEditFocusCame(HWND former);
-    void OnFocusWent(HWND next);
+    void OnEditFocusCame(HWND former) override;
+    void OnFocusWent(HWND next) override;
 
     /// A pop-up of the bar opens. When keys opened it the elements take the next letters, and show them when the
     /// letters of a tip did; their rectangles are client pixels of their parent window. Nothing happens otherwise.
-    void EnterPopup(CWnd& popup, CObject* object, const std::vector<CMFCRibbonBaseElement*>& elements);
+    void EnterPopup(CWnd& popup, CObject* object, const std::vector<CMFCRibbonBaseElement*>& elements) override;
     /// The pop-up closes. goesBack: without a choice, so that the level below is shown again.
-    void LeavePopup(const CWnd& popup, bool goesBack);
+    void LeavePopup(const CWnd& popup, bool goesBack) override;
     /// A key has closed the list of an element without a choice: the tips whose letters opened it are shown again.
-    void LeaveList();
+    void LeaveList() override;
 
     /// The letters of the element's tip: `given`, or what its level's texts give; empty when it is in no level.
-    CString KeysOf(const CMFCRibbonBaseElement& element, bool isMenu, const CString& given);
+    CString KeysOf(const CMFCRibbonBaseElement& element, bool isMenu, const CString& given) override;
     /// Texts, keys or elements have changed.
-    void Forget() { m_known.clear(); }
+    void Forget() override { m_known.clear(); }
     void OnElementDestroyed(const CMFCRibbonBaseElement& element);
     void OnLayoutChanged();
     void SetFocusTo(CMFCRibbonBaseElement* element);

@@ -4,6 +4,7 @@
 #include <afxvisualmanager.h>
 
 #include "ribbon/element_metrics.h"
+#include <oleacc.h>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonLabel, CMFCRibbonButton)
 
@@ -91,3 +92,12 @@ int CMFCRibbonLabel::DrawRibbonText(CDC* pDC, const CString& strText, CRect rect
 void CMFCRibbonLabel::OnLButtonUp(CPoint /*point*/) { m_bIsPressed = FALSE; }
 
 void CMFCRibbonLabel::OnClick(CPoint /*point*/) {}
+
+// ---- for assistive programs
+
+BOOL CMFCRibbonLabel::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonButton::SetACCData(pParent, data);
+    data.m_nRole = ROLE_SYSTEM_STATICTEXT;
+    data.m_strDefaultAction.Empty();
+    return TRUE;
+}

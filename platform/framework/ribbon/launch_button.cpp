@@ -18,7 +18,7 @@ constexpr int kImageSide = 16; // of a copy without an image of its own, at 96 D
 CMFCRibbonLaunchButton::CMFCRibbonLaunchButton() = default;
 
 CSize CMFCRibbonLaunchButton::GetRegularSize(CDC* pDC) {
-    const CMFCRibbonBar* bar = GetParentRibbonBar();
+    const RibbonBarHost* bar = GetParentRibbonBar();
     if (!IsInCaption() || bar == nullptr) {
         return CMFCRibbonButton::GetRegularSize(pDC);
     }
@@ -59,7 +59,7 @@ void CMFCRibbonPanel::EnableLaunchButton(UINT uiCmdID, int nIconIndex, LPCTSTR l
     m_btnLaunch.SetText(m_strName);
     m_btnLaunch.SetKeys(lpszKeys);
     MarkLayoutDirty();
-    if (CMFCRibbonPanelMenuBar* popup = m_btnLaunch.GetParentMenu()) {
+    if (RibbonPopupHost* popup = m_btnLaunch.GetParentMenu()) {
         popup->MarkLayoutDirty();
     }
 }

@@ -62,8 +62,16 @@ CMFCRibbonPanel::~CMFCRibbonPanel() {
     if (m_pParentMenuBar != nullptr) {
         m_pParentMenuBar->OnPanelDestroyed(this);
     }
-    for (INT_PTR index = 0; index < m_arElements.GetSize(); ++index) {
-        delete m_arElements[index];
+    DeleteElements();
+}
+
+// Out of the list before they go: whoever hears of their end may walk through those that are there.
+void CMFCRibbonPanel::DeleteElements() {
+    ElementArray elements;
+    elements.Copy(m_arElements);
+    m_arElements.RemoveAll();
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        delete elements[index];
     }
 }
 
@@ -76,6 +84,16 @@ void CMFCRibbonPanel::CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON
     m_btnDefault.SetParentCategory(parent);
     m_btnLaunch.SetParentPanel(this);
     m_btnLaunch.SetParentCategory(parent);
+}
+
+void CMFCRibbonPanel::LeaveCategory(CDC* pDC) {
+    Hide(pDC);
+    for (CMFCRibbonBaseElement* element : CollectParts()) {
+        element->SetParentCategory(nullptr);
+    }
+    m_btnDefault.SetParentCategory(nullptr);
+    m_btnLaunch.SetParentCategory(nullptr);
+    m_pParent = nullptr;
 }
 
 void CMFCRibbonPanel::MarkLayoutDirty() {
@@ -150,12 +168,7 @@ BOOL CMFCRibbonPanel::Remove(int nIndex, BOOL bDelete) {
 }
 
 void CMFCRibbonPanel::RemoveAll() {
-    ElementArray elements;
-    elements.Copy(m_arElements);
-    m_arElements.RemoveAll();
-    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
-        delete elements[index];
-    }
+    DeleteElements();
     MarkLayoutDirty();
 }
 
@@ -196,8 +209,7 @@ int CMFCRibbonPanel::GetIndex(CMFCRibbonBaseElement* pElem) const {
 
 CMFCRibbonPanelMenu* CMFCRibbonPanel::ShowPopup(CMFCRibbonDefaultPanelButton* pButton) {
     CMFCRibbonBaseElement* opener = pButton != nullptr ? pButton : &m_btnDefault;
-    auto* menu = new CMFCRibbonPanelMenu(this);
-    return menu->OpenFor(opener, CMFCRibbonPanelMenu::Side::Below) ? menu : nullptr;
+    return RibbonPopups::Get().OpenPanel(*this, *opener);
 }
 
 void CMFCRibbonPanel::SetKeys(LPCTSTR lpszKeys) {

@@ -1,21 +1,9 @@
 #include "afxribbonbutton.h"
 #include "afxRibbonPanel.h"
-#include "fx/registered_messages.h"
 
 #include <memory>
 
 // Elements that are changed after their panel was filled.
-
-void CMFCRibbonButton::SetMenu(UINT uiMenuResID, BOOL bIsDefaultCommand, BOOL bRightAlign) {
-    auto menu = std::make_shared<CMenu>();
-    HMENU shown = nullptr;
-    if (menu->LoadMenu(uiMenuResID)) {
-        // A menu of the resources is a bar; what opens is the popup in it.
-        const CMenu* const popup = menu->GetMenuItemCount() == 1 ? menu->GetSubMenu(0) : nullptr;
-        shown = popup != nullptr ? popup->m_hMenu : menu->m_hMenu;
-    }
-    TakeMenu(shown, shown != nullptr ? menu : nullptr, bIsDefaultCommand, bRightAlign);
-}
 
 CMFCRibbonBaseElement* CMFCRibbonPanel::SetElementRTC(int nIndex, CRuntimeClass* pRTC) {
     CMFCRibbonBaseElement* const former = GetElement(nIndex);
@@ -70,12 +58,4 @@ BOOL CMFCRibbonPanel::SetElementMenu(UINT uiCmdID, UINT uiMenuResID, BOOL bIsDef
     button->SetMenu(uiMenuResID, bIsDefautCommand, bRightAlign);
     MarkLayoutDirty();
     return button->HasMenu();
-}
-
-void CMFCRibbonBaseElement::NotifyHighlightListItem(int nIndex) {
-    // The handler may delete this element: nothing here looks at it after sending.
-    if (const CWnd* const target = GetCommandTarget(); target->GetSafeHwnd() != nullptr) {
-        ::SendMessage(target->m_hWnd, AFX_WM_HIGHLIGHT_RIBBON_LIST_ITEM, static_cast<WPARAM>(nIndex),
-                      reinterpret_cast<LPARAM>(this));
-    }
 }

@@ -8,7 +8,7 @@
 #include "popups/menu_watch.h"
 #include "popups/popup_place.h"
 #include "ribbon/element_metrics.h"
-#include "ribbon/keyboard.h"
+#include "ribbon/menu_geometry.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonPanelMenu, CMFCPopupMenu)
 
@@ -85,7 +85,7 @@ BOOL CMFCRibbonPanelMenu::OpenAt(CWnd* pParent, const CRect& area, Side side, CM
     const CMFCRibbonPanelMenu* parentMenu = parentBar != nullptr ? parentBar->GetMenu() : nullptr;
     m_bar = pElement != nullptr     ? pElement->GetTopLevelRibbonBar()
             : parentMenu != nullptr ? parentMenu->m_bar
-                                    : DYNAMIC_DOWNCAST(CMFCRibbonBar, pParent);
+                                    : static_cast<CMFCRibbonBar*>(dynamic_cast<RibbonBarHost*>(pParent));
     SetParentRibbonElement(pElement);
     if (!Create(pParent, m_area.left, m_area.bottom, nullptr)) {
         return FALSE; // it has deleted itself, or will
@@ -113,7 +113,7 @@ void CMFCRibbonPanelMenu::OnOpened() {
 
 // Opened by the keyboard it takes the next letters; without key tips it shows where the keyboard is.
 void CMFCRibbonPanelMenu::EnterKeyboard() {
-    if (m_bar == nullptr || !m_bar->GetKeyboard().IsActive()) {
+    if (m_bar == nullptr || !m_bar->GetElementKeys().IsActive()) {
         return;
     }
     CObject* object = GetOpener();
@@ -123,15 +123,15 @@ void CMFCRibbonPanelMenu::EnterKeyboard() {
     ElementArray shown;
     m_wndRibbonBar.GetElements(shown);
     std::vector<CMFCRibbonBaseElement*> elements(shown.GetData(), shown.GetData() + shown.GetSize());
-    m_bar->GetKeyboard().EnterPopup(m_wndRibbonBar, object, elements);
-    if (m_bar->GetKeyboardNavigationLevel() < 0) {
+    m_bar->GetElementKeys().EnterPopup(m_wndRibbonBar, object, elements);
+    if (m_bar->GetElementKeys().GetLevel() < 0) {
         m_wndRibbonBar.HighlightFirst();
     }
 }
 
 void CMFCRibbonPanelMenu::LeaveKeyboard() {
     if (CMFCRibbonBar* bar = std::exchange(m_bar, nullptr)) {
-        bar->GetKeyboard().LeavePopup(m_wndRibbonBar, m_goesBack);
+        bar->GetElementKeys().LeavePopup(m_wndRibbonBar, m_goesBack);
     }
 }
 
@@ -312,8 +312,8 @@ CMFCPopupMenu::ChainInput CMFCRibbonPanelMenu::OnKeyMessage(const MSG& message) 
         }
         return ChainInput::Used;
     }
-    if (m_bar != nullptr && m_bar->GetKeyboard().IsActive() && message.message == WM_KEYDOWN &&
-        m_bar->GetKeyboard().OnKeyDown(message)) {
+    if (m_bar != nullptr && m_bar->GetElementKeys().IsActive() && message.message == WM_KEYDOWN &&
+        m_bar->GetElementKeys().OnKeyDown(message)) {
         return ChainInput::Used;
     }
     if (key == VK_F10) {

@@ -11,7 +11,7 @@
 
 IMPLEMENT_DYNCREATE(CMFCRibbonPanelMenuBar, CMFCPopupMenuBar)
 
-CMFCRibbonPanelMenuBar::CMFCRibbonPanelMenuBar() : m_parts(std::make_shared<RibbonPanelMenuParts>()) {}
+CMFCRibbonPanelMenuBar::CMFCRibbonPanelMenuBar() : m_parts(std::make_shared<RibbonPanelMenuParts>(*this)) {}
 
 CMFCRibbonPanelMenuBar::CMFCRibbonPanelMenuBar(CMFCRibbonPanel* pPanel) : CMFCRibbonPanelMenuBar() {
     m_parts->mainPanel = DYNAMIC_DOWNCAST(CMFCRibbonMainPanel, pPanel);
@@ -64,7 +64,7 @@ void CMFCRibbonPanelMenuBar::AddOwnElement(std::unique_ptr<CMFCRibbonBaseElement
 
 void CMFCRibbonPanelMenuBar::LendElement(CMFCRibbonBaseElement* pElement) {
     m_parts->loans.push_back({pElement, pElement->IsCompactMode(), pElement->IsIntermediateMode(),
-                              pElement->IsMenuMode(), pElement->m_pParentWnd, pElement->GetParentMenu(),
+                              pElement->IsMenuMode(), pElement->GetOwnParentWnd(), pElement->GetParentMenu(),
                               pElement->GetRect()});
     // A window of the element's belongs to its former parent window.
     pElement->DestroyCtrl();
@@ -95,9 +95,9 @@ void CMFCRibbonPanelMenuBar::Lend() {
             LendElement(&panel.GetLaunchButton());
             LendElement(&panel.GetDefaultButton());
         }
-        LendElement(&category.m_ScrollLeft);
-        LendElement(&category.m_ScrollRight);
-        category.m_pParentMenuBar = this;
+        LendElement(&category.GetScrollLeft());
+        LendElement(&category.GetScrollRight());
+        category.SetParentMenuBar(this);
         return;
     }
     CMFCRibbonCategory* category = nullptr;
@@ -106,7 +106,7 @@ void CMFCRibbonPanelMenuBar::Lend() {
         if (m_parts->mainPanel != nullptr) {
             m_parts->mainPanel->UpdateRecentFiles();
         }
-        m_parts->source->m_pParentMenuBar = this;
+        m_parts->source->SetParentMenuBar(this);
         for (int position = 0; position < m_parts->source->GetCount(); ++position) {
             m_parts->shown.push_back(m_parts->source->GetElement(position));
         }
@@ -136,8 +136,8 @@ void CMFCRibbonPanelMenuBar::GiveBack() {
         m_parts->access->Disconnect();
     }
     const std::shared_ptr<RibbonPanelMenuParts> parts = m_parts;
-    parts->hot = nullptr;
-    parts->press.ForgetReleased();
+    parts->pointer.ForgetHot();
+    parts->pointer.ForgetReleased();
     // An edit that loses its window sends its command, whose handler may delete anything.
     while (!parts->loans.empty()) {
         const RibbonLoan loan = parts->loans.back();
@@ -151,11 +151,11 @@ void CMFCRibbonPanelMenuBar::GiveBack() {
         parts->panel->ForgetAll();
     }
     if (parts->source != nullptr) {
-        parts->source->m_pParentMenuBar = nullptr;
+        parts->source->SetParentMenuBar(nullptr);
     }
     if (CMFCRibbonCategory* category = std::exchange(parts->category, nullptr)) {
-        category->m_pParentMenuBar = nullptr;
-        category->m_rect = CRect(0, 0, 0, 0);
+        category->SetParentMenuBar(nullptr);
+        category->SetRect(CRect(0, 0, 0, 0));
         category->HideElements(nullptr);
         category->MarkLayoutDirty();
     }
@@ -187,14 +187,12 @@ void CMFCRibbonPanelMenuBar::GiveBackElement(const RibbonLoan& loan, const Ribbo
 }
 
 void CMFCRibbonPanelMenuBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
-    m_parts->press.Forget(pElement);
+    m_parts->pointer.Forget(pElement);
     if (m_parts->access != nullptr) {
         m_parts->access->Forget(*pElement);
     }
-    for (CMFCRibbonBaseElement** holder : {&m_parts->hot, &m_parts->returning}) {
-        if (*holder == pElement) {
-            *holder = nullptr;
-        }
+    if (m_parts->returning == pElement) {
+        m_parts->returning = nullptr;
     }
     std::erase_if(m_parts->loans, [pElement](const RibbonLoan& loan) { return loan.element == pElement; });
     std::erase(m_parts->shown, pElement);
@@ -315,7 +313,12 @@ void CMFCRibbonPanelMenuBar::GetElements(ElementArray& arElements) const {
 
 const std::vector<CMFCRibbonBaseElement*>& CMFCRibbonPanelMenuBar::GetShown() const { return m_parts->shown; }
 
-CMFCRibbonBaseElement* CMFCRibbonPanelMenuBar::GetHighlighted() const { return m_parts->hot; }
+CMFCRibbonBaseElement* CMFCRibbonPanelMenuBar::GetHighlighted() const { return m_parts->pointer.GetHot(); }
+
+HWND CMFCRibbonPanelMenuBar::GetPopupWindow() const {
+    const CMFCRibbonPanelMenu* menu = GetMenu();
+    return menu != nullptr ? menu->GetSafeHwnd() : nullptr;
+}
 
 // ---- command updates
 

@@ -174,7 +174,7 @@ CSize CMFCRibbonPanelMenuBar::ArrangePanel(CDC* pDC, CSize room) {
 }
 
 CSize CMFCRibbonPanelMenuBar::ArrangeCategory(CDC* pDC) {
-    m_parts->category->m_rect = CRect(CPoint(0, 0), m_parts->categorySize);
+    m_parts->category->SetRect(CRect(CPoint(0, 0), m_parts->categorySize));
     m_parts->category->RecalcLayout(pDC);
     return m_parts->categorySize;
 }

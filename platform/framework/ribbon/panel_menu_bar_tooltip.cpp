@@ -3,7 +3,8 @@
 
 #include "afxtooltipmanager.h"
 #include "popups/tooltip_width.h"
-#include "ribbon/bar_parts.h"
+#include "ribbon/edit_tool.h"
+#include "ribbon/element_tip.h"
 #include "ribbon/panel_menu_parts.h"
 
 namespace {
@@ -17,20 +18,28 @@ CMFCRibbonBar* CMFCRibbonPanelMenuBar::GetRibbonBar() const {
     return menu != nullptr ? menu->GetRibbonBar() : nullptr;
 }
 
+// Outside of a bar as in a bar that nobody has changed.
+RibbonTips CMFCRibbonPanelMenuBar::GetBarTips() const {
+    const RibbonBarHost* bar = GetRibbonBar();
+    return bar != nullptr ? bar->GetTips() : RibbonTips();
+}
+
+void CMFCRibbonPanelMenuBar::HideTip() { PopTooltip(); }
+
 CToolTipCtrl* CMFCRibbonPanelMenuBar::GetToolTipCtrl() const { return m_parts->tooltip; }
 
 // Made when the pointer first comes to an element: many pop-ups never need one.
 void CMFCRibbonPanelMenuBar::CreateTooltip() {
-    const CMFCRibbonBar* bar = GetRibbonBar();
-    if (m_parts->tooltip != nullptr || (bar != nullptr && !bar->IsToolTipEnabled()) ||
+    const RibbonTips tips = GetBarTips();
+    if (m_parts->tooltip != nullptr || !tips.areShown ||
         !CTooltipManager::CreateToolTip(m_parts->tooltip, this, AFX_TOOLTIP_TYPE_RIBBON)) {
         return;
     }
     m_parts->tooltip->SetMaxTipWidth(tooltip::WidestText());
     m_parts->tooltip->AddTool(this, LPSTR_TEXTCALLBACK, CRect(0, 0, 0, 0), kTool);
     CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_parts->tooltip);
-    if (tooltip != nullptr && bar != nullptr) {
-        tooltip->SetFixedWidth(bar->GetTooltipFixedWidthRegular(), bar->GetTooltipFixedWidthLargeImage());
+    if (tooltip != nullptr && GetRibbonBar() != nullptr) {
+        tooltip->SetFixedWidth(tips.widthRegular, tips.widthLargeImage);
     }
 }
 
@@ -41,8 +50,8 @@ void CMFCRibbonPanelMenuBar::PopTooltip() {
 }
 
 void CMFCRibbonPanelMenuBar::PlaceTooltip() {
-    CMFCRibbonBaseElement* hot = m_parts->hot;
-    if (hot != nullptr && (m_parts->tracksLeave || IsPointerInEdit(hot))) {
+    CMFCRibbonBaseElement* hot = m_parts->pointer.GetHot();
+    if (hot != nullptr && (m_parts->pointer.TracksLeave() || IsPointerInEdit(hot))) {
         CreateTooltip();
     }
     if (m_parts->tooltip == nullptr || m_parts->tooltip->GetSafeHwnd() == nullptr) {
@@ -71,7 +80,7 @@ void CMFCRibbonPanelMenuBar::PlaceTooltip() {
 // A row shows its text itself: only what says more is a tip.
 BOOL CMFCRibbonPanelMenuBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) {
     *pResult = 0;
-    CMFCRibbonBaseElement* hot = m_parts->hot;
+    CMFCRibbonBaseElement* hot = m_parts->pointer.GetHot();
     const CMFCRibbonPanelMenu* menu = GetMenu();
     if (m_parts->tooltip == nullptr || pNMH->hwndFrom != m_parts->tooltip->GetSafeHwnd()) {
         return FALSE;
@@ -79,8 +88,7 @@ BOOL CMFCRibbonPanelMenuBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pR
     if (hot == nullptr || menu == nullptr || menu->GetChildPopupMenu() != nullptr) {
         return TRUE;
     }
-    const CMFCRibbonBar* bar = GetRibbonBar();
-    const bool showsDescription = bar == nullptr || bar->IsToolTipDescrEnabled();
+    const bool showsDescription = GetBarTips().haveDescriptions;
     const CString text = hot->GetToolTipText();
     const bool saysMore = text != hot->GetShownText() || (showsDescription && !hot->GetDescription().IsEmpty());
     if (text.IsEmpty() || (IsMenuMode() && !saysMore)) {

@@ -10,7 +10,7 @@
 #include "ribbon/access.h"
 #include "ribbon/edit_tool.h"
 #include "ribbon/menu_geometry.h"
-#include "ribbon/press.h"
+#include "ribbon/pointer.h"
 
 /// A panel of elements that are another's: it forgets them before it goes.
 class LentPanel : public CMFCRibbonPanel {
@@ -67,6 +67,8 @@ struct RibbonLoan {
 
 /// What a ribbon pop-up shows and what it knows of the pointer.
 struct RibbonPanelMenuParts {
+    explicit RibbonPanelMenuParts(CMFCRibbonPanelMenuBar& bar) : pointer(bar, bar) {}
+
     RibbonPopupLook look = RibbonPopupLook::Menu;
     CMFCRibbonPanel* source = nullptr; // whose elements are shown
     CMFCRibbonCategory* category = nullptr;
@@ -88,12 +90,10 @@ struct RibbonPanelMenuParts {
     std::vector<ribbon::Size> rows;
     int imageColumn = 0;
 
-    CMFCRibbonBaseElement* hot = nullptr;
-    RibbonPress press;
+    RibbonPointer pointer;
     CMFCRibbonBaseElement* returning = nullptr; // goes back to its container now
     CPoint lastMove{-1, -1};
     int scrollHot = 0; // -1 up, 1 down
-    bool tracksLeave = false;
     fx::WheelRest wheel;
 
     std::unique_ptr<RibbonAccess> access; // null until an assistive program asks

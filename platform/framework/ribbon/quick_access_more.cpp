@@ -39,7 +39,7 @@ void CMFCRibbonQuickAccessMoreButton::OnShowPopupMenu() {
     }
     CMFCRibbonBaseElement::OnShowPopupMenu();
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> hidden;
-    bar->m_parts->quickAccess.GetHiddenElements(hidden);
+    bar->GetParts().quickAccess.GetHiddenElements(hidden);
     if (!hidden.IsEmpty()) {
         auto* menu = new CMFCRibbonPanelMenu(hidden, TRUE);
         menu->OpenFor(this, CMFCRibbonPanelMenu::Side::Below);

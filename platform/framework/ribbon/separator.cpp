@@ -6,6 +6,7 @@
 
 #include "ribbon/element_metrics.h"
 #include "ribbon/menu_geometry.h"
+#include <oleacc.h>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonSeparator, CMFCRibbonBaseElement)
 
@@ -43,4 +44,12 @@ void CMFCRibbonSeparator::OnDraw(CDC* pDC) {
     } else {
         visual->OnDrawSeparator(pDC, GetTopLevelRibbonBar(), m_rect, !m_bIsHoriz);
     }
+}
+
+// ---- for assistive programs
+
+BOOL CMFCRibbonSeparator::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonBaseElement::SetACCData(pParent, data);
+    data.m_nRole = ROLE_SYSTEM_SEPARATOR;
+    return TRUE;
 }

@@ -7,6 +7,7 @@
 
 #include "ribbon/element_metrics.h"
 #include "ribbon/slider_geometry.h"
+#include <oleacc.h>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonSlider, CMFCRibbonBaseElement)
 
@@ -248,4 +249,23 @@ BOOL CMFCRibbonSlider::OnProcessKey(UINT nChar) {
     default:
         return FALSE;
     }
+}
+
+// ---- for assistive programs
+
+BOOL CMFCRibbonSlider::SetACCData(CWnd* pParent, CAccessibilityData& data) {
+    CMFCRibbonBaseElement::SetACCData(pParent, data);
+    data.m_nRole = ROLE_SYSTEM_SLIDER;
+    data.m_strValue.Format(L"%d", m_nPos);
+    return TRUE;
+}
+
+BOOL CMFCRibbonSlider::PutACCValue(LPCTSTR lpszValue) {
+    LPTSTR end = nullptr;
+    const long position = lpszValue != nullptr ? wcstol(lpszValue, &end, 10) : 0;
+    if (IsDisabled() || end == lpszValue || end == nullptr || *end != L'\0') {
+        return FALSE;
+    }
+    ChangePos(static_cast<int>(std::clamp<long>(position, m_nMin, m_nMax)));
+    return TRUE;
 }

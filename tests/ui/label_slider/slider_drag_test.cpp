@@ -55,4 +55,51 @@ TEST(SliderDrag, TheRealPointerDragsEveryCopyAlong) {
     }
 }
 
+/// A button of a slider that the real pointer holds.
+class HeldButton : public testing::Test {
+protected:
+    HeldButton() {
+        auto made = std::make_unique<OpenSlider>(500u, 300);
+        made->SetZoomButtons();
+        made->SetRange(0, 100);
+        made->SetZoomIncrement(1);
+        m_slider = &m_host.Add(std::move(made));
+        ::SystemParametersInfo(SPI_GETKEYBOARDDELAY, 0, &m_former, 0);
+        ::SystemParametersInfo(SPI_SETKEYBOARDDELAY, 1, nullptr, 0); // about half a second
+        ::SetForegroundWindow(m_host.Frame().GetSafeHwnd());
+    }
+    ~HeldButton() override { ::SystemParametersInfo(SPI_SETKEYBOARDDELAY, static_cast<UINT>(m_former), nullptr, 0); }
+
+    /// Position of the slider after the button was held that long.
+    int PositionAfter(DWORD milliseconds) {
+        m_slider->SetPos(0);
+        CPoint at(m_slider->GetRect().right - 6, m_slider->GetRect().CenterPoint().y);
+        m_host.Bar().ClientToScreen(&at);
+        SendMouse(at, 0);
+        SendMouse(at, MOUSEEVENTF_LEFTDOWN);
+        EXPECT_TRUE(PumpUntil([&] { return ::GetCapture() == m_host.BarWindow(); }));
+        const DWORD begin = ::GetTickCount();
+        PumpUntil([&] { return ::GetTickCount() - begin >= milliseconds; });
+        SendMouse(at, MOUSEEVENTF_LEFTUP);
+        EXPECT_TRUE(PumpUntil([&] { return ::GetCapture() != m_host.BarWindow(); }));
+        PumpPending();
+        return m_slider->GetPos();
+    }
+
+    RibbonHost m_host;
+    OpenSlider* m_slider = nullptr;
+    int m_former = 1;
+};
+
+TEST_F(HeldButton, StepsOnceForAClickHoweverSlow) {
+    EXPECT_EQ(PositionAfter(120), 1);
+    EXPECT_EQ(PositionAfter(300), 1);
+}
+
+TEST_F(HeldButton, RepeatsQuicklyOnceItIsHeldAsLongAsAKey) {
+    const int position = PositionAfter(1200);
+    EXPECT_GE(position, 3);
+    EXPECT_LE(position, 9) << "half a second, then ten a second";
+}
+
 } // namespace

@@ -20,6 +20,7 @@ ON_WM_GETMINMAXINFO()
 ON_COMMAND_RANGE(commands::firstHandled, commands::lastHandled, OnRibbonCommand)
 ON_UPDATE_COMMAND_UI_RANGE(commands::firstHandled, commands::lastHandled, OnUpdateRibbonCommand)
 ON_REGISTERED_MESSAGE(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, OnCategoryChanged)
+ON_REGISTERED_MESSAGE(AFX_WM_ON_RIBBON_CUSTOMIZE, OnCustomize)
 END_MESSAGE_MAP()
 
 int RibbonFrame::OnCreate(LPCREATESTRUCT create) {
@@ -79,6 +80,11 @@ LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {
     EXPECT_EQ(reinterpret_cast<CMFCRibbonBar*>(lParam), &bar);
     ++categoryChanges;
     return 0;
+}
+
+LRESULT RibbonFrame::OnCustomize(WPARAM, LPARAM lParam) {
+    customizedBar = reinterpret_cast<CMFCRibbonBar*>(lParam);
+    return customizes ? 1 : 0;
 }
 
 RibbonBarTest::RibbonBarTest(Activation activation) : m_frame(new RibbonFrame) {

@@ -58,6 +58,8 @@ public:
     int popupsClosed = 0;
     bool allowsPopups = true;
     bool handlesRecentFiles = false;
+    bool customizes = false; // with a dialog of its own
+    CMFCRibbonBar* customizedBar = nullptr;
 
     BOOL OnShowPopupMenu(CMFCPopupMenu* menu) override;
     void OnClosePopupMenu(CMFCPopupMenu* menu) override;
@@ -70,6 +72,7 @@ protected:
     /// Lets the frame be wider than the screen.
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* limits);
     afx_msg LRESULT OnCategoryChanged(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnCustomize(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 };
 

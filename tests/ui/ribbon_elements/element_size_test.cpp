@@ -36,6 +36,26 @@ TEST_P(Scales, SmallButtonsHaveTheHeightOfARow) {
     EXPECT_GT(button.GetIntermediateSize(nullptr).cx, button.GetCompactSize(nullptr).cx);
 }
 
+TEST_P(Scales, AlwaysLargeShowsTheSmallImageWhereThereIsNoLargeOne) {
+    class OnlySmall : public CMFCRibbonButton {
+    public:
+        using CMFCRibbonButton::CMFCRibbonButton;
+        CSize GetImageSize(RibbonImageType type) const override {
+            const int side = type == RibbonImageSmall ? afxGlobalData.ScalePixels(16) : 0;
+            return {side, side};
+        }
+    };
+    OnlySmall button(1, L"Page Setup");
+    const CSize with = button.GetIntermediateSize(nullptr);
+    button.SetAlwaysLargeImage();
+    EXPECT_EQ(button.GetIntermediateSize(nullptr), with) << "there is room for the image still";
+    EXPECT_FALSE(button.IsLargeImage());
+    const SolidIcon icon(32, RGB(200, 0, 0));
+    CMFCRibbonButton both(1, L"Page Setup", icon.Get());
+    both.SetAlwaysLargeImage();
+    EXPECT_TRUE(both.IsLargeImage());
+}
+
 TEST_P(Scales, OtherElementsHaveTheHeightOfARow) {
     CMFCRibbonEdit edit(1, 80);
     CMFCRibbonSlider slider(2, 100);

@@ -82,6 +82,22 @@ TEST_F(QuickAccessPopup, TheContextMenuAddsAnElementAndRemovesItsCopy) {
     EXPECT_THAT(QuickAccessCommands(), IsEmpty());
 }
 
+TEST_F(QuickAccessPopup, TheFrameIsAskedBeforeTheUserCustomises) {
+    SetQuickAccessDefault({commands::paste});
+    const auto choose = [this] {
+        Bar().OnShowRibbonContextMenu(&Bar(), 50, 50, nullptr);
+        Click(Row(L"Customize Quick Access Toolbar..."));
+    };
+    choose();
+    EXPECT_EQ(m_frame->customizedBar, &Bar());
+    ASSERT_EQ(OpenCount(), 1) << "the frame has no dialog of its own: the toolbar's menu offers the commands";
+    EXPECT_TRUE(Row(L"Paste").IsChecked());
+    CMFCRibbonPanelMenu::DismissAll();
+    m_frame->customizes = true;
+    choose();
+    EXPECT_EQ(OpenCount(), 0);
+}
+
 TEST_F(QuickAccessPopup, ASubItemIsToggledThoughItsButtonsCopyIsThere) {
     SetQuickAccessDefault({kShapes}, {kLine});
     Click(CustomizeButton());

@@ -150,17 +150,35 @@ TEST_F(SubItems, AListLongerThanTheScreenScrollsToItsLastRow) {
     EXPECT_THAT(m_frame->commands, ElementsAre(2199u));
 }
 
-TEST_F(SubItems, AMenuHandleIsShownInPlaceOfSubItems) {
-    CMenu menu;
-    menu.CreatePopupMenu();
-    menu.AppendMenu(MF_STRING, kLine, L"&One\tCtrl+1");
-    menu.AppendMenu(MF_SEPARATOR);
-    CMenu inner;
-    inner.CreatePopupMenu();
-    inner.AppendMenu(MF_STRING, kCircle, L"Inner");
-    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(inner.Detach()), L"&More");
-    menu.AppendMenu(MF_STRING, kOff, L"Off");
-    Shapes().SetMenu(menu.GetSafeHmenu());
+/// A button that has a menu of three items: two commands, between them a submenu of one.
+class MenuOfAHandle : public RibbonPopupTest {
+protected:
+    MenuOfAHandle() {
+        m_menu.CreatePopupMenu();
+        m_menu.AppendMenu(MF_STRING, kLine, L"&One\tCtrl+1");
+        m_menu.AppendMenu(MF_SEPARATOR);
+        CMenu inner;
+        inner.CreatePopupMenu();
+        inner.AppendMenu(MF_STRING, kCircle, L"Inner");
+        m_menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(inner.Detach()), L"&More");
+        m_menu.AppendMenu(MF_STRING, kOff, L"Off");
+        Shapes().RemoveAllSubItems();
+        Shapes().SetMenu(m_menu.GetSafeHmenu());
+    }
+    std::vector<UINT> ShownIds() {
+        CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> rows;
+        PopupBar().GetElements(rows);
+        std::vector<UINT> ids;
+        for (INT_PTR index = 0; index < rows.GetSize(); ++index) {
+            ids.push_back(rows[index]->IsSeparator() ? 0 : rows[index]->GetID());
+        }
+        return ids;
+    }
+
+    CMenu m_menu;
+};
+
+TEST_F(MenuOfAHandle, MakesSubItemsWithTextsKeysAndSubmenus) {
     Click(Shapes());
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> rows;
     PopupBar().GetElements(rows);
@@ -170,8 +188,70 @@ TEST_F(SubItems, AMenuHandleIsShownInPlaceOfSubItems) {
     EXPECT_TRUE(rows[1]->IsSeparator());
     EXPECT_TRUE(rows[2]->HasMenu());
     EXPECT_TRUE(rows[3]->IsDisabled());
+    EXPECT_EQ(Shapes().GetSubItems()[0], rows[0]);
     Click(*rows[0]);
     EXPECT_THAT(m_frame->commands, ElementsAre(kLine));
+}
+
+TEST_F(MenuOfAHandle, TakesSubItemsBesideItsOwn) {
+    EXPECT_EQ(Shapes().GetSubItems().GetSize(), 4);
+    EXPECT_EQ(Shapes().FindSubItemIndexByID(kOff), 3);
+    EXPECT_NE(Bar().FindByID(kCircle, FALSE), nullptr) << "those of its submenu too";
+    Shapes().AddSubItem(new CMFCRibbonButton(kStar, L"Star"), 1);
+    Shapes().AddSubItem(new CMFCRibbonButton(kSquare, L"Square"));
+    Click(Shapes());
+    EXPECT_THAT(ShownIds(), ElementsAre(kLine, kStar, 0u, 0u, kOff, kSquare));
+    Click(*Shapes().GetSubItems()[1]);
+    EXPECT_THAT(m_frame->commands, ElementsAre(kStar));
+}
+
+TEST_F(MenuOfAHandle, LeavesOutWhatWasRemovedFromIt) {
+    EXPECT_TRUE(Shapes().RemoveSubItem(0));
+    Click(Shapes());
+    EXPECT_THAT(ShownIds(), ElementsAre(0u, 0u, kOff));
+    CMFCRibbonPanelMenu::DismissAll();
+    Click(Shapes());
+    EXPECT_EQ(ShownIds().size(), 3u) << "not only once";
+}
+
+TEST_F(MenuOfAHandle, ShowsWhatTheHostHasMadeOfItMeanwhile) {
+    Shapes().AddSubItem(new CMFCRibbonButton(kSquare, L"Square"));
+    m_menu.CheckMenuItem(kLine, MF_BYCOMMAND | MF_CHECKED);
+    Shapes().OnShowPopupMenu();
+    EXPECT_THAT(ShownIds(), ElementsAre(kLine, 0u, 0u, kOff, kSquare));
+    CMFCRibbonPanelMenu::DismissAll();
+    m_menu.AppendMenu(MF_STRING, kStar, L"Star");
+    Click(Shapes());
+    EXPECT_THAT(ShownIds(), ElementsAre(kLine, 0u, 0u, kOff, kStar, kSquare)) << "the host's own stays behind them";
+}
+
+TEST_F(MenuOfAHandle, GoesWithItsItemsAndLeavesThoseOfTheHost) {
+    Shapes().AddSubItem(new CMFCRibbonButton(kSquare, L"Square"));
+    Shapes().SetMenu(static_cast<HMENU>(nullptr));
+    ASSERT_EQ(Shapes().GetSubItems().GetSize(), 1);
+    EXPECT_EQ(Shapes().GetSubItems()[0]->GetID(), kSquare);
+    Shapes().RemoveSubItem(0);
+    EXPECT_FALSE(Shapes().HasMenu());
+}
+
+TEST_F(MenuOfAHandle, ComesToACopyOnTheQuickAccessToolbarWithAllChanges) {
+    Bar().SetQuickAccessCommands(CommandList{kShapes});
+    auto* copy = DYNAMIC_DOWNCAST(CMFCRibbonButton, Bar().HitTest(Bar().GetQATCommandsLocation().CenterPoint()));
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->GetSubItems().GetSize(), 4);
+    m_menu.AppendMenu(MF_STRING, kStar, L"Star");
+    Shapes().RemoveSubItem(0);
+    EXPECT_EQ(copy->GetSubItems().GetSize(), 3);
+    Click(*copy);
+    EXPECT_THAT(ShownIds(), ElementsAre(kLine, 0u, 0u, kOff, kStar)) << "the menu has changed: all of it is new";
+    EXPECT_EQ(Shapes().GetSubItems().GetSize(), 5);
+}
+
+TEST_F(SubItems, WhatIsNoMenuHasNoItems) {
+    Shapes().RemoveAllSubItems();
+    Shapes().SetMenu(reinterpret_cast<HMENU>(0x1234));
+    Click(Shapes());
+    EXPECT_TRUE(Shapes().GetSubItems().IsEmpty());
 }
 
 class SplitButton : public RibbonPopupTest {};
