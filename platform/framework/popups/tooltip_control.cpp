@@ -3,7 +3,7 @@
 
 #include "afxdrawmanager.h"
 #include "afxglobals.h"
-#include "popups/tooltip_element.h"
+#include "afxribbonbutton.h"
 #include "popups/tooltip_shape.h"
 #include "popups/tooltip_text.h"
 
@@ -96,16 +96,21 @@ void CMFCToolTipCtrl::SetFixedWidth(int nWidthRegular, int nWidthLargeImage) {
 }
 
 CSize CMFCToolTipCtrl::GetIconSize() {
-    const tooltip::ElementPicture* const picture = tooltip::GetElementPicture();
-    return m_pRibbonButton != nullptr && picture != nullptr ? picture->SizeOf(*m_pRibbonButton) : CSize(0, 0);
+    if (m_pRibbonButton == nullptr) {
+        return CSize(0, 0);
+    }
+    const bool isLarge = m_pRibbonButton->IsLargeImage() != FALSE;
+    return m_pRibbonButton->GetImageSize(isLarge ? CMFCRibbonBaseElement::RibbonImageLarge
+                                                 : CMFCRibbonBaseElement::RibbonImageSmall);
 }
 
 BOOL CMFCToolTipCtrl::OnDrawIcon(CDC* pDC, CRect rectImage) {
-    const tooltip::ElementPicture* const picture = tooltip::GetElementPicture();
-    if (m_pRibbonButton == nullptr || picture == nullptr || rectImage.IsRectEmpty()) {
+    if (m_pRibbonButton == nullptr || rectImage.IsRectEmpty()) {
         return FALSE;
     }
-    picture->Draw(*m_pRibbonButton, *pDC, rectImage);
+    const bool isLarge = m_pRibbonButton->IsLargeImage() != FALSE;
+    m_pRibbonButton->DrawImage(
+        pDC, isLarge ? CMFCRibbonBaseElement::RibbonImageLarge : CMFCRibbonBaseElement::RibbonImageSmall, rectImage);
     return TRUE;
 }
 

@@ -3,11 +3,12 @@
 
 #include "afxglobals.h"
 #include "afxmsg_.h"
+#include "afxribbonbar.h"
+#include "afxribbonbutton.h"
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
 #include "popups/popup_place.h"
-#include "popups/tooltip_element.h"
 #include "popups/tooltip_layout.h"
 #include "popups/tooltip_shape.h"
 #include "popups/tooltip_text.h"
@@ -80,9 +81,11 @@ BOOL CMFCToolTipCtrl::PlaceForShow(CPoint ptScreen, CSize size) {
     const bool isFixed = ptScreen != g_nowhere;
     const CPoint wanted = isFixed ? ptScreen : CPoint(cursor.x, cursor.y + ::GetSystemMetrics(SM_CYCURSOR) * 2 / 3);
     int avoidTop = static_cast<int>(cursor.y) - 1;
-    const tooltip::ElementPicture* const picture = tooltip::GetElementPicture();
-    if (m_pRibbonButton != nullptr && picture != nullptr) {
-        avoidTop = picture->TopOfBar(*m_pRibbonButton, avoidTop);
+    const CWnd* bar = m_pRibbonButton != nullptr ? m_pRibbonButton->GetTopLevelRibbonBar() : nullptr;
+    if (bar != nullptr && bar->GetSafeHwnd() != nullptr) {
+        CRect area;
+        bar->GetWindowRect(area);
+        avoidTop = static_cast<int>(area.top);
     }
     const CPoint corner =
         tooltip::KeepInside(wanted, size, toolbar::WorkAreaAround(CRect(wanted, CSize(0, 0))), avoidTop);
