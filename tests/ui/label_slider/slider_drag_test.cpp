@@ -79,7 +79,7 @@ protected:
         SendMouse(at, MOUSEEVENTF_LEFTDOWN);
         EXPECT_TRUE(PumpUntil([&] { return ::GetCapture() == m_host.BarWindow(); }));
         const DWORD begin = ::GetTickCount();
-        PumpUntil([&] { return ::GetTickCount() - begin >= milliseconds; });
+        EXPECT_TRUE(PumpUntil([&] { return ::GetTickCount() - begin >= milliseconds; }));
         SendMouse(at, MOUSEEVENTF_LEFTUP);
         EXPECT_TRUE(PumpUntil([&] { return ::GetCapture() != m_host.BarWindow(); }));
         PumpPending();

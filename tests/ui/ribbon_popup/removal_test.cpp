@@ -16,6 +16,7 @@ class BuriedCategory : public CMFCRibbonCategory {
     DECLARE_DYNCREATE(BuriedCategory)
 
 public:
+    static void* operator new(std::size_t size) { return ::operator new(size); }
     static void operator delete(void* memory, std::size_t size) { std::memset(memory, 0xDD, size); }
 };
 
@@ -23,12 +24,14 @@ class BuriedPanel : public CMFCRibbonPanel {
     DECLARE_DYNCREATE(BuriedPanel)
 
 public:
+    static void* operator new(std::size_t size) { return ::operator new(size); }
     static void operator delete(void* memory, std::size_t size) { std::memset(memory, 0xDD, size); }
 };
 
 class BuriedButton : public CMFCRibbonButton {
 public:
     using CMFCRibbonButton::CMFCRibbonButton;
+    static void* operator new(std::size_t size) { return ::operator new(size); }
     static void operator delete(void* memory, std::size_t size) { std::memset(memory, 0xDD, size); }
 };
 
