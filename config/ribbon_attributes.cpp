@@ -10,24 +10,48 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <cstring>
 #include <iterator>
 
 namespace {
 
-constexpr std::wstring_view kHelpExtension = L".swf";
+constexpr std::wstring_view kHelpExtension = L".swf"; // stands for the help of a command without a name, too
+
+/// Equal, letter case included. Names and most values are short: calling for a comparison costs more than making it.
+inline bool AreSame(std::string_view a, std::string_view b) {
+    using Word = std::uint64_t;
+    const auto differ = [&](std::size_t at, auto word) {
+        auto other = word;
+        std::memcpy(&word, a.data() + at, sizeof word);
+        std::memcpy(&other, b.data() + at, sizeof other);
+        return word != other;
+    };
+    const std::size_t size = a.size();
+    if (size != b.size() || size > 2 * sizeof(Word)) {
+        return a == b;
+    }
+    if (size >= sizeof(Word)) { // two words that may overlap
+        return !differ(0, Word()) && !differ(size - sizeof(Word), Word());
+    }
+    if (size >= sizeof(std::uint32_t)) {
+        return !differ(0, std::uint32_t()) && !differ(size - sizeof(std::uint32_t), std::uint32_t());
+    }
+    return std::equal(a.begin(), a.end(), b.begin());
+}
 
 /// One attribute on its way into the record.
 struct Attribute {
     const varnhold::XmlCursor& element;
-    const varnhold::XmlAttributeView& written;
-    bool isLast;
     RibbonTexts& info;
     const RibbonReading& reading;
+    const varnhold::XmlAttributeView* written; // the next of the same element takes its place
+    const varnhold::XmlAttributeView* last;
     /// The keyword read so far, as it stands in the file: translations are looked up under it.
-    std::string_view& keyword;
+    std::string_view keyword;
 
-    varnhold::TextPosition Position() const { return element.GetAttributePosition(written); }
-    std::string_view Value() const { return written.value; }
+    varnhold::TextPosition Position() const { return element.GetAttributePosition(*written); }
+    std::string_view Value() const { return written->value; }
+    bool IsLast() const { return written == last; }
     void Warn(std::string_view code, std::wstring text) const {
         if (reading.diagnostics.IsListening()) {
             reading.diagnostics.Warn(Position(), code, std::move(text));
@@ -36,21 +60,26 @@ struct Attribute {
 };
 
 /// False: the rest of the element must not be read.
-using Taker = bool (*)(const Attribute& attribute);
+using Taker = bool (*)(Attribute& attribute);
 
-template <std::wstring_view RibbonTexts::*field>
-bool TakeText(const Attribute& attribute) {
-    attribute.info.*field = attribute.reading.arena.Widen(attribute.Value());
+template <std::wstring_view RibbonTexts::*field, LastText LastTexts::*lastField>
+bool TakeText(Attribute& attribute) {
+    LastText& last = attribute.reading.last.*lastField;
+    if (!AreSame(attribute.Value(), last.read)) {
+        last = {attribute.Value(), attribute.reading.arena.Widen(attribute.Value())};
+    }
+    attribute.info.*field = last.text;
     return true;
 }
 
-bool TakeKeyword(const Attribute& attribute) {
+bool TakeKeyword(Attribute& attribute) {
     attribute.keyword = attribute.Value();
-    return TakeText<&RibbonTexts::keyword>(attribute);
+    attribute.info.keyword = attribute.reading.arena.Widen(attribute.Value());
+    return true;
 }
 
 template <std::wstring_view RibbonTexts::*field, int number>
-bool TakeTranslation(const Attribute& attribute) {
+bool TakeTranslation(Attribute& attribute) {
     if (attribute.keyword.empty()) {
         attribute.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
     }
@@ -59,7 +88,7 @@ bool TakeTranslation(const Attribute& attribute) {
     } else if (CTranslationSection::ShowsMissingKey(number)) {
         attribute.info.*field = attribute.info.keyword;
     } else {
-        attribute.info.*field = L"";
+        attribute.info.*field = kNoText;
     }
     return true;
 }
@@ -75,7 +104,7 @@ bool ToNumber(std::string_view text, std::int32_t& number) {
 }
 
 template <std::int32_t RibbonTexts::*field>
-bool TakeNumber(const Attribute& attribute) {
+bool TakeNumber(Attribute& attribute) {
     std::int32_t number = 0;
     if (!ToNumber(attribute.Value(), number)) {
         const FileDiagnostics& diagnostics = attribute.reading.diagnostics;
@@ -90,15 +119,15 @@ bool TakeNumber(const Attribute& attribute) {
     return true;
 }
 
-bool TakeGroupBefore(const Attribute& attribute) {
+bool TakeGroupBefore(Attribute& attribute) {
     attribute.info.groupBefore = EqualsIgnoringCase(attribute.Value(), "Y");
-    if (attribute.info.groupBefore && !attribute.isLast) {
+    if (attribute.info.groupBefore && !attribute.IsLast()) {
         attribute.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
     }
     return true;
 }
 
-bool TakeCateTab(const Attribute& attribute) {
+bool TakeCateTab(Attribute& attribute) {
     const std::string_view value = attribute.Value();
     if (EqualsIgnoringCase(value, "Y")) {
         attribute.info.cateTab = true;
@@ -110,14 +139,14 @@ bool TakeCateTab(const Attribute& attribute) {
     return true;
 }
 
-bool TakeAcceptF1(const Attribute& attribute) {
+bool TakeAcceptF1(Attribute& attribute) {
     if (EqualsIgnoringCase(attribute.Value(), "N")) {
         attribute.info.acceptF1 = false;
     }
     return true;
 }
 
-bool TakeValueGroup(const Attribute& attribute) {
+bool TakeValueGroup(Attribute& attribute) {
     TextArena& arena = attribute.reading.arena;
     std::string_view rest = attribute.Value();
     const auto commas = static_cast<std::size_t>(std::count(rest.begin(), rest.end(), ','));
@@ -136,72 +165,67 @@ struct KnownAttribute {
     Taker take;
 };
 
-constexpr std::size_t kLetterSlots = 32;
-
-/// Where a name's first letter, in either case, has its slot. Other characters share slots with letters.
-constexpr std::size_t SlotOf(char letter) { return static_cast<unsigned char>(letter) % kLetterSlots; }
-
-// Those of one first letter stand together, the more frequent ones first.
 constexpr KnownAttribute attributes[] = {
     {"KEYWORD", TakeKeyword},
     {"IDKEY", TakeKeyword},
     {"NAME", TakeTranslation<&RibbonTexts::name, -1>},
-    {"TYPE", TakeText<&RibbonTexts::type>},
+    {"TYPE", TakeText<&RibbonTexts::type, &LastTexts::type>},
     {"TOOLTIP", TakeTranslation<&RibbonTexts::tooltip, 0>},
-    {"PICPATH", TakeText<&RibbonTexts::picPath>},
-    {"PARAM", TakeText<&RibbonTexts::param>},
-    {"PICDisPATH", TakeText<&RibbonTexts::picDisPath>},
+    {"PICPATH", TakeText<&RibbonTexts::picPath, &LastTexts::picPath>},
+    {"PARAM", TakeText<&RibbonTexts::param, &LastTexts::param>},
+    {"PICDisPATH", TakeText<&RibbonTexts::picDisPath, &LastTexts::picDisPath>},
     {"SIZE", TakeNumber<&RibbonTexts::size>},
     {"GROUPBEFORE", TakeGroupBefore},
     {"VALUEGROUP", TakeValueGroup},
     {"WIDTH", TakeNumber<&RibbonTexts::width>},
-    {"CMD", TakeText<&RibbonTexts::cmd>},
+    {"CMD", TakeText<&RibbonTexts::cmd, &LastTexts::cmd>},
     {"CateTab", TakeCateTab},
-    {"help", TakeText<&RibbonTexts::help>},
+    {"help", TakeText<&RibbonTexts::help, &LastTexts::help>},
     {"AcceptF1", TakeAcceptF1},
 };
 
-struct Span {
-    std::uint8_t begin = 0;
-    std::uint8_t end = 0;
-};
+constexpr std::size_t kLetters = 32;
+constexpr std::size_t kLengths = 16;
 
-/// The attributes of each first letter.
-constexpr std::array<Span, kLetterSlots> MakeSpans() {
-    std::array<Span, kLetterSlots> spans{};
-    for (std::size_t i = 0; i < std::size(attributes); ++i) {
-        Span& span = spans[SlotOf(attributes[i].name.front())];
-        if (span.end == 0) {
-            span.begin = static_cast<std::uint8_t>(i);
-        }
-        span.end = static_cast<std::uint8_t>(i + 1);
-    }
-    return spans;
+/// No two known names begin with the same letter, in either case, and are of the same length: that gives each a slot.
+/// Other names share slots with them.
+constexpr std::size_t SlotOf(std::string_view name) {
+    return name.empty() ? 0 : (static_cast<unsigned char>(name.front()) % kLetters) * kLengths + name.size() % kLengths;
 }
-constexpr std::array<Span, kLetterSlots> kSpans = MakeSpans();
+
+/// One more than the place of the slot's attribute; 0 for none.
+constexpr std::array<std::uint8_t, kLetters * kLengths> MakeSlots() {
+    std::array<std::uint8_t, kLetters * kLengths> slots{};
+    for (std::size_t i = 0; i < std::size(attributes); ++i) {
+        std::uint8_t& slot = slots[SlotOf(attributes[i].name)];
+        slot = slot == 0 ? static_cast<std::uint8_t>(i + 1) : throw "two names with one slot";
+    }
+    return slots;
+}
+constexpr std::array<std::uint8_t, kLetters* kLengths> kSlots = MakeSlots();
 
 const KnownAttribute* FindAttribute(std::string_view name) {
-    const Span span = kSpans[name.empty() ? 0 : SlotOf(name.front())];
-    for (std::size_t i = span.begin; i < span.end; ++i) {
-        const std::string_view known = attributes[i].name;
-        // Nearly every name is written as it stands here.
-        if (known.size() == name.size() && (known == name || EqualsIgnoringCase(known, name))) {
-            return &attributes[i];
-        }
+    const std::uint8_t slot = kSlots[SlotOf(name)];
+    if (slot == 0) {
+        return nullptr;
     }
-    return nullptr;
+    const KnownAttribute& known = attributes[slot - 1];
+    // Nearly every name is written as it stands here.
+    return AreSame(known.name, name) || EqualsIgnoringCase(known.name, name) ? &known : nullptr;
 }
 
 } // namespace
 
 bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDiagnostics& diagnostics) {
     TextArena arena;
+    LastTexts last;
     RibbonTexts texts;
     texts.picDisPath = info.picDisPath;
     texts.cmd = info.cmd;
     texts.param = info.param;
     varnhold::XmlCursor element(node);
-    const bool complete = ReadNewRibbonInfo(element, texts, {CTranslationSection(kRibbonSection), arena, diagnostics});
+    const bool complete =
+        ReadNewRibbonInfo(element, texts, {CTranslationSection(kRibbonSection), arena, last, diagnostics});
     Assign(info, texts);
     return complete;
 }
@@ -211,22 +235,22 @@ bool ReadNewRibbonInfo(varnhold::XmlCursor& element, RibbonTexts& info, const Ri
     if (read.empty()) {
         return false;
     }
-    std::string_view keyword;
-    for (std::size_t i = 0; i < read.size(); ++i) {
-        const Attribute attribute{element, read[i], i + 1 == read.size(), info, reading, keyword};
+    Attribute attribute{element, info, reading, &read.front(), &read.back(), {}};
+    for (const varnhold::XmlAttributeView& written : read) {
+        attribute.written = &written;
         // Every attribute takes it back, so GROUPBEFORE counts only where it is the last one.
         info.groupBefore = false;
-        if (const KnownAttribute* known = FindAttribute(read[i].name)) {
+        if (const KnownAttribute* known = FindAttribute(written.name)) {
             if (!known->take(attribute)) {
                 return false;
             }
         } else if (reading.diagnostics.IsListening()) {
             attribute.Warn("unknown-attribute",
-                           L"\"" + string2wstring(read[i].name) + L"\" is not an attribute of a ribbon file");
+                           L"\"" + string2wstring(written.name) + L"\" is not an attribute of a ribbon file");
         }
     }
     if (info.help.empty() && info.acceptF1) {
-        info.help = reading.arena.Join(info.name, kHelpExtension);
+        info.help = info.name.empty() ? kHelpExtension : reading.arena.Join(info.name, kHelpExtension);
     }
     return true;
 }

@@ -15,12 +15,28 @@ inline constexpr char kRibbonSection[] = "RibbonBarCfg";
 /// a number: then nothing after it is read.
 bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDiagnostics& diagnostics);
 
+/// The values that were read last, as they stand in the file and as texts in the arena: neighbours often say the same,
+/// and then share one text.
+struct LastText {
+    std::string_view read;
+    std::wstring_view text = kNoText;
+};
+struct LastTexts {
+    LastText type;
+    LastText picPath;
+    LastText picDisPath;
+    LastText cmd;
+    LastText param;
+    LastText help;
+};
+
 /// What the many elements of one file are read with.
 struct RibbonReading {
     /// The texts of kRibbonSection.
     const CTranslationSection& translations;
     /// Where the texts of the records go.
     TextArena& arena;
+    LastTexts& last;
     const FileDiagnostics& diagnostics;
 };
 

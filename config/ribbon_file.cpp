@@ -26,7 +26,7 @@ public:
     }
 
     bool ReadInfo(varnhold::XmlCursor& element, RibbonTexts& info) {
-        return ReadNewRibbonInfo(element, info, {m_translations, m_records.arena, m_diagnostics});
+        return ReadNewRibbonInfo(element, info, {m_translations, m_records.arena, m_last, m_diagnostics});
     }
 
     RibbonRecords m_records;
@@ -104,6 +104,7 @@ private:
 
     const FileDiagnostics& m_diagnostics;
     const CTranslationSection m_translations{kRibbonSection};
+    LastTexts m_last;
     /// By the depth of the parent.
     std::array<Level, SubItemDepth> m_levels{};
     RibbonRowKind m_rowKind = RibbonRowKind::Categories;

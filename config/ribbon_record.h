@@ -3,6 +3,9 @@
 #include "config/text_arena.h"
 #include "ribbon_info.h"
 
+/// Empty, with a NUL behind it as every text has. Its length is written down: counting it costs a call each time.
+inline constexpr std::wstring_view kNoText(L"", 0);
+
 /// A RibbonInfo whose texts lie in an arena: a file has thousands of them. Each text has a NUL behind it.
 struct RibbonTexts {
     bool groupBefore = false;
@@ -10,15 +13,15 @@ struct RibbonTexts {
     bool cateTab = false;
     std::int32_t size = 0;
     std::int32_t width = 0;
-    std::wstring_view name = L"";
-    std::wstring_view type = L"";
-    std::wstring_view tooltip = L"";
-    std::wstring_view keyword = L"";
-    std::wstring_view picPath = L"";
-    std::wstring_view picDisPath = L"";
-    std::wstring_view cmd = L"";
-    std::wstring_view param = L"";
-    std::wstring_view help = L"";
+    std::wstring_view name = kNoText;
+    std::wstring_view type = kNoText;
+    std::wstring_view tooltip = kNoText;
+    std::wstring_view keyword = kNoText;
+    std::wstring_view picPath = kNoText;
+    std::wstring_view picDisPath = kNoText;
+    std::wstring_view cmd = kNoText;
+    std::wstring_view param = kNoText;
+    std::wstring_view help = kNoText;
     std::span<const std::wstring_view> valueGroup;
 };
 

@@ -26,9 +26,8 @@ public:
     std::span<T> MakeArray(std::size_t count) {
         static_assert(std::is_trivially_destructible_v<T>);
         T* const first = static_cast<T*>(Take(count * sizeof(T), alignof(T)));
-        for (std::size_t i = 0; i < count; ++i) {
-            new (first + i) T();
-        }
+        static constexpr T kNew{}; // copying it takes fewer steps than making each
+        std::uninitialized_fill_n(first, count, kNew);
         return {first, count};
     }
 

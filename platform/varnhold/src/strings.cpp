@@ -2,8 +2,11 @@
 
 #include "src/unicode.h"
 
+#include <emmintrin.h>
+
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 namespace varnhold {
 
@@ -42,35 +45,57 @@ LeadByte ReadLeadByte(unsigned char lead) {
     return {0};
 }
 
-// Lengths that the compiler turns into a few vector instructions.
-constexpr std::size_t kBlockLength = 64;
-constexpr std::size_t kLongStep = 16;
-constexpr std::size_t kShortStep = 4;
+// Bytes are looked at in words, a block of them at once.
+constexpr std::size_t kWordLength = sizeof(std::uint64_t);
+constexpr std::size_t kBlockLength = 8 * kWordLength;
+constexpr std::uint64_t kOnes = 0x0101010101010101;
+constexpr std::uint64_t kHighBits = 0x8080808080808080;
 
-bool IsAscii(const char* text, std::size_t length) {
-    unsigned char bits = 0;
-    for (std::size_t i = 0; i < length; ++i) {
-        bits |= static_cast<unsigned char>(text[i]);
-    }
-    return bits < 0x80;
+std::uint64_t ReadWord(const char* text) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, text, sizeof word);
+    return word;
 }
 
-template <std::size_t length>
-bool WidenStep(const char* text, wchar_t* letters) {
-    if (!IsAscii(text, length)) {
-        return false;
+bool IsAsciiBlock(const char* text) {
+    std::uint64_t bits = 0;
+#pragma GCC unroll 8
+    for (std::size_t i = 0; i < kBlockLength; i += kWordLength) {
+        bits |= ReadWord(text + i);
     }
-    for (std::size_t i = 0; i < length; ++i) {
-        letters[i] = static_cast<wchar_t>(static_cast<unsigned char>(text[i]));
+    return (bits & kHighBits) == 0;
+}
+
+/// False for a block without a NUL; true for one with a NUL, and for some with bytes above 7F.
+bool MayHoldNul(const char* text) {
+    std::uint64_t bits = 0;
+#pragma GCC unroll 8
+    for (std::size_t i = 0; i < kBlockLength; i += kWordLength) {
+        bits |= ReadWord(text + i) - kOnes;
     }
-    return true;
+    return (bits & kHighBits) != 0;
+}
+
+/// Widens the bytes of a word, and says whether all were ASCII.
+bool WidenWord(const char* text, wchar_t* letters) {
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i word = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(text));
+    const __m128i wide = _mm_unpacklo_epi8(word, zero);
+    auto* const to = reinterpret_cast<__m128i*>(letters);
+    if constexpr (sizeof(wchar_t) == 2) {
+        _mm_storeu_si128(to, wide);
+    } else {
+        _mm_storeu_si128(to, _mm_unpacklo_epi16(wide, zero));
+        _mm_storeu_si128(to + 1, _mm_unpackhi_epi16(wide, zero));
+    }
+    return (ReadWord(text) & kHighBits) == 0;
 }
 
 } // namespace
 
 std::size_t CountAscii(std::string_view text, std::size_t at) {
     const std::size_t start = at;
-    for (; at + kBlockLength <= text.size() && IsAscii(text.data() + at, kBlockLength); at += kBlockLength) {
+    for (; at + kBlockLength <= text.size() && IsAsciiBlock(text.data() + at); at += kBlockLength) {
     }
     while (at < text.size() && static_cast<unsigned char>(text[at]) < 0x80) {
         ++at;
@@ -80,17 +105,18 @@ std::size_t CountAscii(std::string_view text, std::size_t at) {
 
 std::size_t FindNul(std::string_view text) {
     std::size_t at = 0;
-    for (; at + kBlockLength <= text.size(); at += kBlockLength) {
-        unsigned char least = 0xFF;
-        for (std::size_t i = 0; i < kBlockLength; ++i) {
-            least = std::min(least, static_cast<unsigned char>(text[at + i]));
+    while (at < text.size()) {
+        const std::size_t left = text.size() - at;
+        if (left >= kBlockLength && !MayHoldNul(text.data() + at)) {
+            at += kBlockLength;
+            continue;
         }
-        if (least == 0) {
-            break;
+        const std::size_t length = std::min(left, kBlockLength);
+        const std::size_t nul = text.substr(at, length).find('\0');
+        if (nul != std::string_view::npos) {
+            return at + nul;
         }
-    }
-    while (at < text.size() && text[at] != '\0') {
-        ++at;
+        at += length;
     }
     return at;
 }
@@ -98,15 +124,13 @@ std::size_t FindNul(std::string_view text) {
 std::size_t WidenAscii(std::string_view text, wchar_t* letters) {
     const std::size_t size = text.size();
     std::size_t at = 0;
-    for (; at + kLongStep <= size; at += kLongStep) {
-        if (!WidenStep<kLongStep>(text.data() + at, letters + at)) {
-            break;
-        }
+    while (at + kWordLength <= size && WidenWord(text.data() + at, letters + at)) {
+        at += kWordLength;
     }
-    for (; at + kShortStep <= size; at += kShortStep) {
-        if (!WidenStep<kShortStep>(text.data() + at, letters + at)) {
-            break;
-        }
+    // The last word overlaps the one before it.
+    const bool isWordLeft = at > 0 && at + kWordLength > size;
+    if (isWordLeft && WidenWord(text.data() + size - kWordLength, letters + size - kWordLength)) {
+        return size;
     }
     for (; at < size && static_cast<unsigned char>(text[at]) < 0x80; ++at) {
         letters[at] = static_cast<wchar_t>(text[at]);
@@ -221,6 +245,9 @@ void string2wstring(std::string_view text, std::wstring& wide) {
 
 std::size_t string2wstring(std::string_view text, wchar_t* letters) {
     std::size_t at = varnhold::WidenAscii(text, letters);
+    if (at == text.size()) {
+        return at;
+    }
     wchar_t* end = letters + at;
     while (at < text.size()) {
         end = varnhold::PutWide(end, varnhold::NextFromUtf8(text, at));

@@ -60,11 +60,20 @@ std::size_t XmlCursor::CountChildren() const noexcept {
 
 std::span<const XmlAttributeView> XmlCursor::ReadAttributes() {
     m_attributes.clear();
-    for (pugi::xml_attribute attribute = pugi::xml_node(m_element).first_attribute(); attribute;
-         attribute = attribute.next_attribute()) {
-        const char* const name = attribute.name();
+    if (!m_tree) {
+        return m_attributes;
+    }
+    const XmlTree& tree = *m_tree;
+    pugi::xml_attribute attribute = pugi::xml_node(m_element).first_attribute();
+    const char* name = attribute.name();
+    while (*name != '\0') { // behind the last one
         const char* const value = attribute.value();
-        m_attributes.push_back({{name, m_tree->LengthOf(name)}, {value, m_tree->LengthOf(value)}});
+        attribute = attribute.next_attribute();
+        const char* const nextName = attribute.name();
+        const bool isLast = *nextName == '\0';
+        m_attributes.push_back({{name, tree.LengthOf(name, value)},
+                                {value, isLast ? tree.LengthOf(value) : tree.LengthOf(value, nextName)}});
+        name = nextName;
     }
     return m_attributes;
 }

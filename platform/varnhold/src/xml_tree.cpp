@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -196,9 +195,8 @@ void XmlTree::LayOutElements() const {
 }
 
 std::size_t XmlTree::LengthOf(const char* text) const {
-    const char* const begin = m_buffer.get();
-    if (std::less<>()(text, begin) || !std::less<>()(text, begin + m_text.size() + 1)) {
-        return std::strlen(text); // the parser's own empty text
+    if (!Holds(text)) {
+        return std::strlen(text);
     }
     constexpr std::uint64_t ones = 0x0101010101010101, highBits = 0x8080808080808080;
     for (std::size_t length = 0;; length += sizeof(std::uint64_t)) {

@@ -5,6 +5,7 @@
 #include <pugixml.hpp>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -50,6 +51,13 @@ public:
 
     /// The length of a name or a value that the parser left in this document.
     std::size_t LengthOf(const char* text) const;
+    /// The same for a name before its value, or for a value before the next name: `next`; both in the buffer. Between
+    /// them stand two characters, nearly always, of which the parser made the first a NUL; where they are more, or
+    /// where references in a value made it shorter, something else stands there.
+    std::size_t LengthOf(const char* text, const char* next) const {
+        const bool isUsual = next - text >= 2 && next[-2] == '\0';
+        return isUsual ? static_cast<std::size_t>(next - text) - 2 : LengthOf(text);
+    }
 
     /// Where the element's "<" stands, or the first letter of the attribute's name.
     TextPosition GetPosition(const pugi::xml_node& element) const;
@@ -60,6 +68,11 @@ public:
 private:
     XmlTree() = default;
 
+    /// Whether the text lies in the buffer, and is not the parser's own empty text.
+    bool Holds(const char* text) const {
+        const char* const begin = m_buffer.get();
+        return !std::less<>()(text, begin) && std::less<>()(text, begin + m_text.size() + 1);
+    }
     bool ParseText(BlankText blanks, XmlFailure& failure);
     bool CheckTopLevel(XmlFailure& failure);
     bool CheckDepth(XmlFailure& failure) const;

@@ -72,7 +72,8 @@ TEST(XmlCursor, AttributesOfEveryLengthAreWhole) {
 }
 
 TEST(XmlCursor, AttributesAreThoseOfTheNode) {
-    const CXmlDocumentWrapper document = Loaded("<d a='&lt;&amp;&#x56FE;' b='x\ty' b='2'\n c=''/>");
+    const CXmlDocumentWrapper document =
+        Loaded("<d a='&lt;&amp;&#x56FE;' b='x\ty' b='2'\n c='' d = '4' e= '&gt;5' f ='6'/>");
     const CXmlNodeWrapper node = document.GetDocumentElement();
     XmlCursor cursor(document);
     const auto attributes = cursor.ReadAttributes();
