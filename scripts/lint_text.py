@@ -1,5 +1,7 @@
 #!/usr/bin/python3
-"""Every tracked text file is UTF-8 without a byte order mark, has LF line ends and ends with one."""
+"""Every tracked text file is UTF-8 without a byte order mark, has LF line ends and ends with one. In C++ the statements
+below if, else, for, while and do stand in braces: the formatter puts each such word at the beginning of its line."""
+import re
 import subprocess
 import sys
 
@@ -23,6 +25,26 @@ def problems(path):
     for number, line in enumerate(data.split(b"\n"), 1):
         if line.endswith((b" ", b"\t")) and not path.endswith(".md"):
             yield f"white space at the end of line {number}"
+    if path.endswith((".h", ".cpp")):
+        yield from unbraced(data.decode().split("\n"))
+
+
+HEAD = re.compile(r"\s*(?:\} )?(?:else if|if|for|while) (?:constexpr )?(?=\()|\s*(?:\} )?(?:else|do)\b(?! if)")
+TEXT = re.compile(r"'(?:[^'\\]|\\.)'|\"(?:[^\"\\]|\\.)*\"|//.*")
+
+
+def unbraced(lines):
+    is_raw = False
+    for number, line in enumerate(lines, 1):
+        is_raw = ('R"' in line or is_raw) and not re.search(r'\)\w*"', line)
+        if is_raw or not HEAD.match(line) or line.lstrip().startswith("} while"):
+            continue
+        code, at = TEXT.sub("", line), number
+        while code.count("(") > code.count(")") and at < len(lines):
+            code += TEXT.sub("", lines[at])
+            at += 1
+        if not code.rstrip().endswith(("{", "{}", "\\")):
+            yield f"no brace after line {number}"
 
 
 def main():
