@@ -9,7 +9,8 @@
 class FileIcon {
 public:
     FileIcon() = default;
-    /// The file at `side` x `side` pixels; empty for an empty path and for what is not a loadable icon.
+    /// The file at `side` x `side` pixels; empty for an empty path, for one that LeavesInstallation and for what is not
+    /// a loadable icon, as a file with a picture beyond kLongestIconSide is not.
     FileIcon(const wchar_t* path, int side);
     FileIcon(FileIcon&& other) noexcept : m_icon(std::exchange(other.m_icon, nullptr)) {}
     FileIcon& operator=(FileIcon&& other) noexcept {
@@ -31,6 +32,10 @@ private:
 
     HICON m_icon = nullptr;
 };
+
+/// Whether a path that is written below the installation directory leads out of it ("C:\app\pic\..\..\a.ico"). No file
+/// is read or looked for there: configured paths stay inside. A host's own path, which starts elsewhere, never does.
+bool LeavesInstallation(const wchar_t* path);
 
 /// Loads an icon file once as a test and releases it. A file that was tried and has not changed since is not read
 /// again, so that thousands of buttons with the same few pictures cost one look at the file's time stamp each.

@@ -40,6 +40,12 @@ CString AlternateOf(const CString& path) {
     return alternate;
 }
 
+/// The chosen file, unless the primary path leaves the installation: its alternate would too, and no longer show it
+/// where "modle" is a part of the installation directory.
+FileIcon LoadedIcon(const CString& primaryPath, const CString& chosenPath, int side) {
+    return LeavesInstallation(primaryPath) ? FileIcon() : FileIcon(chosenPath, side);
+}
+
 /// Puts another value in a variable's place and the old one back at the end of the scope.
 template <class T>
 class Lent {
@@ -110,8 +116,8 @@ void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original,
 
 void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect) {
     const bool alternate = s_skinStyle == L"0";
-    const FileIcon large(alternate ? m_largeAlternatePath : m_largeIconPath, largeSide);
-    const FileIcon small(alternate ? m_smallAlternatePath : m_smallIconPath, smallSide);
+    const FileIcon large = LoadedIcon(m_largeIconPath, alternate ? m_largeAlternatePath : m_largeIconPath, largeSide);
+    const FileIcon small = LoadedIcon(m_smallIconPath, alternate ? m_smallAlternatePath : m_smallIconPath, smallSide);
     // The handles are the element's own for the time of this draw only.
     const Lent largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);
     if (!m_hIcon) {

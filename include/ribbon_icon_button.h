@@ -11,8 +11,9 @@
 /// "modle" replaced by "modle_0". Its text is a translation key (section "Common"), looked up
 /// whenever the button is measured, placed or drawn.
 ///
-/// A path that names no icon is skipped; without the large icon the button draws from its image indexes. Sizes are
-/// pixels at 96 DPI, drawn at the ribbon's image scale.
+/// A path that names no icon is skipped, as is a file with a picture of more than 1,024 pixels a side, and a path below
+/// the installation directory that leads out of it (..); without the large icon the button draws from its image
+/// indexes. Sizes are pixels at 96 DPI, drawn at the ribbon's image scale.
 class BARWRIGHT_API CMFCRibbonUNIcoButton : public CMFCRibbonButton {
     DECLARE_DYNCREATE(CMFCRibbonUNIcoButton)
 
