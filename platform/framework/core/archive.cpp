@@ -1,5 +1,7 @@
 #include "fx/archive.h"
 
+#include "core/scoped_change.h"
+
 #include <algorithm>
 #include <climits>
 #include <unordered_map>
@@ -25,6 +27,7 @@ struct CArchive::Objects {
     std::vector<const void*> loaded{nullptr};
     std::unordered_map<const CRuntimeClass*, UINT> schemas;
     DWORD next = 1;
+    int ownedDepth = 0; ///< calls of ReadOwnedObject that run
 };
 
 CArchive::CArchive(CFile* pFile, UINT nMode, int nBufSize, void* lpBuf)
@@ -356,12 +359,53 @@ CObject* CArchive::ReadObject(const CRuntimeClass* pClass) {
     if (object == nullptr) {
         AfxThrowMemoryException();
     }
+    const std::size_t place = m_objects->loaded.size();
     MapObject(object.get());
     const UINT before = m_objectSchema;
     m_objectSchema = schema;
-    object->Serialize(*this);
+    try {
+        object->Serialize(*this);
+    } catch (...) {
+        m_objects->loaded[place] = nullptr; // whoever goes on reading must not be given it
+        throw;
+    }
     m_objectSchema = before;
     return object.release();
+}
+
+CObject* fx::ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass) {
+    CArchive::Objects& objects = *ar.m_objects;
+    if (objects.ownedDepth >= kDeepestOwnedObject) {
+        ar.Fail(CArchiveException::badIndex);
+    }
+    const ScopedChange deeper(objects.ownedDepth, objects.ownedDepth + 1);
+    const std::size_t before = objects.loaded.size();
+    CObject* const object = ar.ReadObject(pClass);
+    if (objects.loaded.size() == before) {
+        ar.Fail(CArchiveException::badIndex);
+    }
+    return object;
+}
+
+void fx::RequireElements(CArchive& ar, ULONGLONG count) {
+    if (ar.m_file == nullptr) {
+        ar.Fail(CArchiveException::endOfFile);
+    }
+    ULONGLONG left = static_cast<ULONGLONG>(ar.m_limit - ar.m_place);
+    if (count <= left) {
+        return;
+    }
+    try {
+        const ULONGLONG length = ar.m_file->GetLength();
+        const ULONGLONG place = ar.m_file->GetPosition();
+        left += length > place ? length - place : 0;
+    } catch (CFileException* withoutLength) {
+        withoutLength->Delete();
+        return;
+    }
+    if (count > left) {
+        ar.Fail(CArchiveException::endOfFile);
+    }
 }
 
 void CArchive::SerializeClass(const CRuntimeClass* pClassRef) {

@@ -7,7 +7,21 @@
 
 #include <memory>
 
+class CArchive;
 class CDocument;
+
+namespace fx {
+
+/// For lists that own what they read: like CArchive::ReadObject, but null and an object that the archive has given
+/// before throw badIndex, and so do lists within lists deeper than any that a person makes (kDeepestOwnedObject).
+FRAMEWORK_API CObject* ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass);
+constexpr int kDeepestOwnedObject = 32;
+
+/// Throws endOfFile when the archive has less than a byte left for each of `count` elements: a damaged count must not
+/// become an allocation. An archive on a file without a length is not checked.
+FRAMEWORK_API void RequireElements(CArchive& ar, ULONGLONG count);
+
+} // namespace fx
 
 /// One direction for its whole life. The file must outlive it. Errors throw CArchiveException or CFileException.
 class FRAMEWORK_API CArchive {
@@ -104,6 +118,8 @@ public:
     CDocument* m_pDocument = nullptr;
 
 private:
+    friend CObject* fx::ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass);
+    friend void fx::RequireElements(CArchive& ar, ULONGLONG count);
     struct Objects;
 
     template <typename T>
