@@ -5,6 +5,7 @@
 #include "afxtoolbarimages.h"
 
 class CMFCToolBarMenuButton;
+class CToolTipCtrl;
 
 /// A bar of buttons with images, separators and menus. It owns its buttons. Images come from lists that all toolbars
 /// and menus of the process share; a locked button takes its own toolbar's. Commands go to the bar's owner as
@@ -124,7 +125,8 @@ public:
     BOOL IsLocked() const { return m_bLocked; }
     virtual BOOL LoadBitmap(UINT uiResID, UINT uiColdResID = 0, UINT uiMenuResID = 0, BOOL bLocked = FALSE,
                             UINT uiDisabledResID = 0, UINT uiMenuDisabledResID = 0);
-    /// Buttons from a resource of type "TOOLBAR", images from the bitmap with the same id.
+    /// Buttons from a resource of type "TOOLBAR", images from the bitmap with the same id. The hot bitmap shows on the
+    /// button under the pointer, the cold one on the others.
     virtual BOOL LoadToolBar(UINT uiResID, UINT uiColdResID = 0, UINT uiMenuResID = 0, BOOL bLocked = FALSE,
                              UINT uiDisabledResID = 0, UINT uiMenuDisabledResID = 0, UINT uiHotResID = 0);
     UINT GetResourceID() const { return m_uiOriginalResID; }
@@ -231,6 +233,7 @@ protected:
     afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
     afx_msg LRESULT OnSetButtonSize(WPARAM, LPARAM);
     afx_msg BOOL OnNeedTipText(UINT id, NMHDR* pNMH, LRESULT* pResult);
+    afx_msg LRESULT OnUpdateToolTips(WPARAM wp, LPARAM lp);
     DECLARE_MESSAGE_MAP()
 
     /// Lets the button be hot (-1: none) and tells OnChangeHot.
@@ -240,6 +243,15 @@ protected:
     void MeasureButtons(CDC* pDC, BOOL bHorz);
     CSize PlaceButtons(int nWidth, BOOL bHorz, BOOL bMove);
     void DropSeparatorsAround(int iIndex);
+    /// The tooltip of the kind and look that the tooltip manager has for toolbars.
+    void CreateToolBarTooltip();
+    /// Loads a bitmap of the images' other looks so that each has the index of its image: where an earlier bar had no
+    /// such bitmap, its images stand in.
+    BOOL LoadBeside(CMFCToolBarImages& others, UINT uiResID);
+    /// Lets the tooltip's one tool lie on the button under the point; `this` is not told of it.
+    void PlaceTooltip(CPoint point);
+    /// The buttons of an archive in place of the bar's. Throws, and changes nothing, when they are damaged.
+    void ReadButtons(CArchive& ar);
     void AttachButton(CMFCToolBarButton* pButton, int iIndex);
     CMFCToolBarImages* GetButtonImages(const CMFCToolBarButton& button) const;
 
@@ -262,10 +274,14 @@ protected:
     BOOL m_bMenuMode = FALSE; ///< a pop-up menu's bar
     BOOL m_bTracked = FALSE;  ///< WM_MOUSELEAVE is on order
     CPoint m_ptLastMouse{-1, -1};
-    CString m_strToolTip; ///< kept while a tooltip shows it
+    CString m_strToolTip;            ///< kept while a tooltip shows it
+    CToolTipCtrl* m_pToolTip = NULL; ///< the tooltip manager's; a menu's bar has none
+    int m_iTooltipButton = -1;       ///< index of the button that the tooltip's tool lies on
+    CMFCToolBarImages m_HotImagesLocked;
 
     static CMFCToolBarImages m_ColdImages, m_DisabledImages, m_MenuImages, m_DisabledMenuImages;
     static CMFCToolBarImages m_LargeImages, m_LargeColdImages, m_LargeDisabledImages;
+    static CMFCToolBarImages m_HotImages;
     static CMFCToolBarImages* m_pUserImages;
     static CSize m_sizeButton, m_sizeImage, m_sizeMenuButton, m_sizeMenuImage;
     static COLORREF m_clrTextHot;

@@ -88,6 +88,7 @@ protected:
     int GetTextWidth() const;
 
     friend class CTooltipManager;
+    friend class CMFCToolBar;
 
     CMFCToolTipInfo m_Params;
     CString m_strDescription;

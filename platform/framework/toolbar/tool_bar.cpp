@@ -2,6 +2,7 @@
 #include "afxtoolbar.h"
 
 #include "afxtoolbarmenubutton.h"
+#include "afxtooltipmanager.h"
 #include "afxvisualmanager.h"
 #include "toolbar/metrics.h"
 
@@ -25,6 +26,7 @@ ON_WM_CAPTURECHANGED()
 ON_WM_SYSCOLORCHANGE()
 ON_WM_SETTINGCHANGE()
 ON_NOTIFY_EX(TTN_NEEDTEXTW, 0, &CMFCToolBar::OnNeedTipText)
+ON_REGISTERED_MESSAGE(AFX_WM_UPDATETOOLTIPS, &CMFCToolBar::OnUpdateToolTips)
 END_MESSAGE_MAP()
 
 CSize CMFCToolBar::m_sizeButton(23, 22);
@@ -80,7 +82,7 @@ int CMFCToolBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     }
     if (!m_bMenuMode) {
         AllToolBars().AddTail(this);
-        EnableToolTips(TRUE);
+        CreateToolBarTooltip();
     }
     for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
         static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position))->OnChangeParentWnd(this);
@@ -89,6 +91,7 @@ int CMFCToolBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 }
 
 void CMFCToolBar::OnDestroy() {
+    CTooltipManager::DeleteToolTip(m_pToolTip);
     if (POSITION position = AllToolBars().Find(this)) {
         AllToolBars().RemoveAt(position);
     }

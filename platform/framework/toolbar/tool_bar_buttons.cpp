@@ -11,6 +11,9 @@
 
 namespace {
 
+/// A point that no button lies at: the tooltip lets go of the button that it was shown for.
+const CPoint kNoButton(-1, -1);
+
 bool IsSeparator(const CMFCToolBarButton* button) { return button && (button->m_nStyle & TBBS_SEPARATOR) != 0; }
 
 std::unique_ptr<CMFCToolBarButton> MakeCopy(const CMFCToolBarButton& button) {
@@ -74,6 +77,7 @@ BOOL CMFCToolBar::RemoveButton(int iIndex) {
     if (!position) {
         return FALSE;
     }
+    PlaceTooltip(kNoButton);
     std::unique_ptr<CMFCToolBarButton> button(static_cast<CMFCToolBarButton*>(m_Buttons.GetAt(position)));
     m_Buttons.RemoveAt(position);
     if (m_pLastCommandButton == button.get()) {
@@ -107,6 +111,7 @@ void CMFCToolBar::DropSeparatorsAround(int iIndex) {
 }
 
 void CMFCToolBar::RemoveAllButtons() {
+    PlaceTooltip(kNoButton);
     m_iHighlighted = -1;
     m_iButtonCapture = -1;
     const bool hasWindow = m_hWnd != nullptr;
@@ -126,6 +131,7 @@ void CMFCToolBar::RemoveAllButtons() {
 }
 
 int CMFCToolBar::ReplaceButton(UINT uiCmd, const CMFCToolBarButton& button, BOOL bAll) {
+    PlaceTooltip(kNoButton);
     int replaced = 0;
     for (int i = CommandToIndex(uiCmd); i >= 0; i = CommandToIndex(uiCmd, i + 1)) {
         std::unique_ptr<CMFCToolBarButton> copy = MakeCopy(button);

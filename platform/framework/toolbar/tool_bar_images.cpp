@@ -3,8 +3,10 @@
 
 #include "afxcommandmanager.h"
 #include "toolbar/default_images.h"
+#include "toolbar/tool_bar_resource.h"
 
 #include <map>
+#include <optional>
 
 CMFCToolBarImages CMFCToolBar::m_Images;
 CMFCToolBarImages CMFCToolBar::m_ColdImages;
@@ -14,6 +16,7 @@ CMFCToolBarImages CMFCToolBar::m_DisabledMenuImages;
 CMFCToolBarImages CMFCToolBar::m_LargeImages;
 CMFCToolBarImages CMFCToolBar::m_LargeColdImages;
 CMFCToolBarImages CMFCToolBar::m_LargeDisabledImages;
+CMFCToolBarImages CMFCToolBar::m_HotImages;
 CMFCToolBarImages* CMFCToolBar::m_pUserImages = nullptr;
 
 namespace {
@@ -23,13 +26,16 @@ std::map<UINT, int>& DefaultImages() {
     return images;
 }
 
-/// What a "TOOLBAR" resource holds in front of its commands.
-struct ToolBarResource {
-    WORD version;
-    WORD width;
-    WORD height;
-    WORD count;
-};
+/// The "TOOLBAR" resource; no value where it is missing or damaged.
+std::optional<toolbar::ToolBarResource> FindToolBarResource(UINT id) {
+    const LPCTSTR name = MAKEINTRESOURCE(id);
+    const LPCTSTR type = MAKEINTRESOURCE(241); // RT_TOOLBAR
+    const HINSTANCE module = AfxFindResourceHandle(name, type);
+    const HRSRC found = ::FindResourceW(module, name, type);
+    const HGLOBAL loaded = found ? ::LoadResource(module, found) : nullptr;
+    const auto* bytes = static_cast<const std::uint8_t*>(loaded ? ::LockResource(loaded) : nullptr);
+    return bytes ? toolbar::ReadToolBarResource({bytes, ::SizeofResource(module, found)}) : std::nullopt;
+}
 
 } // namespace
 
@@ -50,14 +56,14 @@ BOOL CMFCToolBar::SetUserImages(CMFCToolBarImages* pUserImages) {
 
 void CMFCToolBar::CleanUpImages() {
     for (CMFCToolBarImages* images : {&m_Images, &m_ColdImages, &m_DisabledImages, &m_MenuImages, &m_DisabledMenuImages,
-                                      &m_LargeImages, &m_LargeColdImages, &m_LargeDisabledImages}) {
+                                      &m_LargeImages, &m_LargeColdImages, &m_LargeDisabledImages, &m_HotImages}) {
         images->Clear();
     }
 }
 
 void CMFCToolBar::CleanUpLockedImages() {
     for (CMFCToolBarImages* images :
-         {&m_ImagesLocked, &m_ColdImagesLocked, &m_DisabledImagesLocked, &m_MenuImagesLocked}) {
+         {&m_ImagesLocked, &m_ColdImagesLocked, &m_DisabledImagesLocked, &m_MenuImagesLocked, &m_HotImagesLocked}) {
         images->Clear();
     }
 }
@@ -69,8 +75,9 @@ void __stdcall CMFCToolBar::ResetAllImages() {
 }
 
 void CMFCToolBar::UpdateImagesColor() {
-    for (CMFCToolBarImages* images : {&m_Images, &m_ColdImages, &m_DisabledImages, &m_MenuImages, &m_DisabledMenuImages,
-                                      &m_ImagesLocked, &m_ColdImagesLocked, &m_DisabledImagesLocked}) {
+    for (CMFCToolBarImages* images :
+         {&m_Images, &m_ColdImages, &m_DisabledImages, &m_MenuImages, &m_DisabledMenuImages, &m_ImagesLocked,
+          &m_ColdImagesLocked, &m_DisabledImagesLocked, &m_HotImages, &m_HotImagesLocked}) {
         if (images->GetCount() > 0) {
             images->OnSysColorChange();
         }
@@ -111,16 +118,19 @@ CMFCToolBarImages* CMFCToolBar::GetButtonImages(const CMFCToolBarButton& button)
 
 CMFCToolBarImages* CMFCToolBar::GetImageList(const CMFCToolBarButton& button, BOOL bHot) const {
     CMFCToolBarImages* images = GetButtonImages(button);
-    if (images == &m_Images) {
-        const bool isDisabled = (button.m_nStyle & TBBS_DISABLED) != 0;
-        if (isDisabled && HasImage(m_DisabledImages, button.GetImage())) {
-            return &m_DisabledImages;
-        }
-        if (!bHot && HasImage(m_ColdImages, button.GetImage())) {
-            return &m_ColdImages;
-        }
+    auto* self = const_cast<CMFCToolBar*>(this);
+    const bool isLocked = images == &m_ImagesLocked;
+    if (images != &m_Images && !isLocked) {
+        return images;
     }
-    return images;
+    CMFCToolBarImages& disabled = isLocked ? self->m_DisabledImagesLocked : m_DisabledImages;
+    CMFCToolBarImages& hot = isLocked ? self->m_HotImagesLocked : m_HotImages;
+    CMFCToolBarImages& cold = isLocked ? self->m_ColdImagesLocked : m_ColdImages;
+    if ((button.m_nStyle & TBBS_DISABLED) != 0 && HasImage(disabled, button.GetImage())) {
+        return &disabled;
+    }
+    CMFCToolBarImages& byPointer = bHot ? hot : cold;
+    return HasImage(byPointer, button.GetImage()) ? &byPointer : images;
 }
 
 BOOL CMFCToolBar::LoadBitmap(UINT uiResID, UINT uiColdResID, UINT uiMenuResID, BOOL bLocked, UINT uiDisabledResID,
@@ -144,32 +154,36 @@ BOOL CMFCToolBar::LoadBitmap(UINT uiResID, UINT uiColdResID, UINT uiMenuResID, B
                   {uiMenuResID, bLocked ? m_MenuImagesLocked : m_MenuImages},
                   {uiMenuDisabledResID, m_DisabledMenuImages}};
     for (const auto& other : others) {
-        if (other.resource == 0 || other.images.GetResourceOffset(other.resource) >= 0) {
-            continue;
-        }
-        if (other.images.GetCount() == 0) {
-            other.images.SetImageSize(size);
-        }
-        if (!other.images.Load(other.resource, nullptr, TRUE)) {
+        if (other.resource != 0 && !LoadBeside(other.images, other.resource)) {
             return FALSE;
         }
     }
     return TRUE;
 }
 
+BOOL CMFCToolBar::LoadBeside(CMFCToolBarImages& others, UINT uiResID) {
+    if (others.GetResourceOffset(uiResID) >= 0) {
+        return TRUE;
+    }
+    const CMFCToolBarImages& images = m_bLocked ? m_ImagesLocked : m_Images;
+    if (others.GetCount() == 0) {
+        others.SetImageSize(images.GetImageSize());
+    }
+    while (others.GetCount() < m_iImagesOffset) {
+        if (others.AddImage(images, others.GetCount()) < 0) {
+            return FALSE;
+        }
+    }
+    return others.Load(uiResID, nullptr, TRUE);
+}
+
 BOOL CMFCToolBar::LoadToolBar(UINT uiResID, UINT uiColdResID, UINT uiMenuResID, BOOL bLocked, UINT uiDisabledResID,
-                              UINT uiMenuDisabledResID, UINT) {
-    const LPCTSTR name = MAKEINTRESOURCE(uiResID);
-    const LPCTSTR type = MAKEINTRESOURCE(241); // RT_TOOLBAR
-    const HINSTANCE module = AfxFindResourceHandle(name, type);
-    const HRSRC found = ::FindResourceW(module, name, type);
-    const HGLOBAL loaded = found ? ::LoadResource(module, found) : nullptr;
-    const auto* head = static_cast<const ToolBarResource*>(loaded ? ::LockResource(loaded) : nullptr);
-    const DWORD size = found ? ::SizeofResource(module, found) : 0;
-    if (!head || size < sizeof(*head) || head->version != 1 || size < sizeof(*head) + head->count * sizeof(WORD)) {
+                              UINT uiMenuDisabledResID, UINT uiHotResID) {
+    const std::optional<toolbar::ToolBarResource> resource = FindToolBarResource(uiResID);
+    if (!resource) {
         return FALSE;
     }
-    const CSize image(head->width, head->height);
+    const CSize image(resource->imageWidth, resource->imageHeight);
     const CSize button(image.cx + 7, image.cy + 6);
     if (bLocked) {
         SetLockedSizes(button, image);
@@ -179,9 +193,10 @@ BOOL CMFCToolBar::LoadToolBar(UINT uiResID, UINT uiColdResID, UINT uiMenuResID, 
     if (!LoadBitmap(uiResID, uiColdResID, uiMenuResID, bLocked, uiDisabledResID, uiMenuDisabledResID)) {
         return FALSE;
     }
-    const auto* commands = reinterpret_cast<const WORD*>(head + 1);
-    const std::vector<UINT> ids(commands, commands + head->count);
-    if (!SetButtons(ids.data(), static_cast<int>(ids.size()))) {
+    if (uiHotResID != 0 && !LoadBeside(bLocked ? m_HotImagesLocked : m_HotImages, uiHotResID)) {
+        return FALSE;
+    }
+    if (!SetButtons(resource->commands.data(), static_cast<int>(resource->commands.size()))) {
         return FALSE;
     }
     m_uiOriginalResID = uiResID;

@@ -5,6 +5,7 @@
 #include "afxtoolbarmenubutton.h"
 #include "fx/window_guard.h"
 #include "toolbar/metrics.h"
+#include "window/command_id.h"
 
 #include <cwctype>
 
@@ -135,7 +136,7 @@ CWnd* CMFCToolBar::GetCommandTarget() const {
 BOOL CMFCToolBar::ProcessCommand(CMFCToolBarButton* pButton) {
     const UINT id = pButton ? pButton->m_nID : 0;
     CWnd* target = GetCommandTarget();
-    if (!IsPressable(pButton) || id == 0 || id == static_cast<UINT>(-1) || !target) {
+    if (!IsPressable(pButton) || !fx::IsSendableCommand(id) || !target) {
         return FALSE;
     }
     m_pLastCommandButton = pButton;
@@ -269,51 +270,4 @@ BOOL CMFCToolBar::TranslateChar(UINT nChar) {
         return TRUE;
     }
     return FALSE;
-}
-
-BOOL CMFCToolBar::PreTranslateMessage(MSG* pMsg) { return CMFCBaseToolBar::PreTranslateMessage(pMsg); }
-
-INT_PTR CMFCToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
-    const int hit = m_bShowTooltips ? const_cast<CMFCToolBar*>(this)->HitTest(point) : -1;
-    const CMFCToolBarButton* button = GetButton(hit);
-    if (!button) {
-        return -1;
-    }
-    if (pTI) {
-        pTI->hwnd = m_hWnd;
-        pTI->uId = static_cast<UINT_PTR>(hit) + 1;
-        pTI->rect = button->Rect();
-        pTI->lpszText = LPSTR_TEXTCALLBACK;
-    }
-    return hit + 1;
-}
-
-BOOL CMFCToolBar::OnUserToolTip(CMFCToolBarButton* pButton, CString& strTTText) const {
-    if (pButton->OnGetCustomToolTipText(strTTText)) {
-        return TRUE;
-    }
-    CFrameWnd* frame = GetTopLevelFrame();
-    if (frame && frame->GetToolbarButtonToolTipText(pButton, strTTText)) {
-        return TRUE;
-    }
-    const int tabulator = pButton->m_strText.Find(L'\t');
-    strTTText = toolbar::WithoutPrefix(tabulator >= 0 ? pButton->m_strText.Left(tabulator) : pButton->m_strText);
-    CString resource;
-    if (strTTText.IsEmpty() && pButton->m_nID != 0 && resource.LoadString(pButton->m_nID)) {
-        const int lineEnd = resource.Find(L'\n');
-        strTTText = lineEnd >= 0 ? resource.Mid(lineEnd + 1) : resource;
-    }
-    return !strTTText.IsEmpty();
-}
-
-BOOL CMFCToolBar::OnNeedTipText(UINT, NMHDR* pNMH, LRESULT* pResult) {
-    auto* need = reinterpret_cast<NMTTDISPINFOW*>(pNMH);
-    CMFCToolBarButton* button = GetButton(static_cast<int>(pNMH->idFrom) - 1);
-    m_strToolTip.Empty();
-    if (!button || !OnUserToolTip(button, m_strToolTip)) {
-        return FALSE;
-    }
-    need->lpszText = const_cast<LPTSTR>(static_cast<LPCTSTR>(m_strToolTip));
-    *pResult = 0;
-    return TRUE;
 }

@@ -12,6 +12,7 @@
 class TestBar : public CMFCToolBar {
 public:
     using CMFCToolBar::DoPaint;
+    using CMFCToolBar::m_pToolTip;
     using CMFCToolBar::OnUserToolTip;
 };
 

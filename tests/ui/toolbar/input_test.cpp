@@ -86,6 +86,12 @@ TEST_F(ToolBarTest, AMnemonicPressesItsButton) {
     EXPECT_FALSE(Bar().TranslateChar(L'x'));
 }
 
+TEST_F(ToolBarTest, ACommandThatNoMessageCanCarryIsNotSentAsAnother) {
+    const int index = Bar().InsertButton(CMFCToolBarButton(0x10000 + 3001, 0, L"Beyond"));
+    EXPECT_FALSE(Bar().ProcessCommand(Bar().GetButton(index)));
+    EXPECT_TRUE(m_frame->commands.empty());
+}
+
 TEST_F(ToolBarTest, TheTooltipIsTheTextWithoutMnemonic) {
     CString text;
     EXPECT_TRUE(Bar().OnUserToolTip(Bar().GetButton(1), text));
