@@ -8,6 +8,7 @@
 #include "toolbar/metrics.h"
 
 #include <memory>
+#include <vector>
 
 IMPLEMENT_SERIAL(CMFCToolBarMenuButton, CMFCToolBarButton, VERSIONABLE_SCHEMA | 1)
 
@@ -83,11 +84,16 @@ BOOL CMFCToolBarMenuButton::CompareWith(const CMFCToolBarButton& other) const {
 void CMFCToolBarMenuButton::Serialize(CArchive& ar) {
     CMFCToolBarButton::Serialize(ar);
     if (ar.IsLoading()) {
-        ClearCommands();
         int count = 0;
         ar >> m_bIsRadio >> m_bDrawDownArrow >> count;
+        fx::RequireElements(ar, static_cast<ULONGLONG>(count));
+        std::vector<std::unique_ptr<CObject>> commands;
         for (int i = 0; i < count; ++i) {
-            m_listCommands.AddTail(ar.ReadObject(RUNTIME_CLASS(CMFCToolBarMenuButton)));
+            commands.emplace_back(fx::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarMenuButton)));
+        }
+        ClearCommands();
+        for (auto& command : commands) {
+            m_listCommands.AddTail(command.release());
         }
         return;
     }

@@ -4,6 +4,7 @@
 #include "afxwinappex.h"
 
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -24,17 +25,20 @@ CString SectionOf(const CWnd& bar, LPCTSTR profile, int index, UINT id) {
 
 constexpr LPCTSTR buttonsEntry = L"Buttons";
 
+bool HasButtonsEntry(CWinAppEx& application, const CString& section) {
+    LPBYTE data = nullptr;
+    UINT size = 0;
+    const BOOL exists = application.GetSectionBinary(section, buttonsEntry, &data, &size);
+    const std::unique_ptr<BYTE[]> bytes(data);
+    return exists != FALSE;
+}
+
 } // namespace
 
 void CMFCToolBar::Serialize(CArchive& ar) {
     CMFCBaseToolBar::Serialize(ar);
     if (ar.IsLoading()) {
-        int count = 0;
-        ar >> count;
-        RemoveAllButtons();
-        for (int i = 0; i < count; ++i) {
-            InsertButton(static_cast<CMFCToolBarButton*>(ar.ReadObject(RUNTIME_CLASS(CMFCToolBarButton))));
-        }
+        ReadButtons(ar);
         return;
     }
     CObList stored;
@@ -47,6 +51,28 @@ void CMFCToolBar::Serialize(CArchive& ar) {
     ar << static_cast<int>(stored.GetCount());
     for (POSITION position = stored.GetHeadPosition(); position;) {
         ar.WriteObject(stored.GetNext(position));
+    }
+    ar << static_cast<int>(stored.GetCount());
+}
+
+// The number stands behind the buttons as well: one that is damaged would leave the last of them away.
+void CMFCToolBar::ReadButtons(CArchive& ar) {
+    int count = 0;
+    ar >> count;
+    fx::RequireElements(ar, static_cast<ULONGLONG>(count)); // below zero: more than there can be
+    std::vector<std::unique_ptr<CMFCToolBarButton>> buttons;
+    for (int i = 0; i < count; ++i) {
+        buttons.emplace_back(
+            static_cast<CMFCToolBarButton*>(fx::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarButton))));
+    }
+    int countAgain = 0;
+    ar >> countAgain;
+    if (countAgain != count) {
+        AfxThrowArchiveException(CArchiveException::badIndex);
+    }
+    RemoveAllButtons();
+    for (auto& button : buttons) {
+        InsertButton(button.release());
     }
 }
 
@@ -62,8 +88,11 @@ BOOL CMFCToolBar::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
 BOOL CMFCToolBar::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
     CWinAppEx* application = Application();
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID);
-    const BOOL hasButtons =
-        application && !m_bFromConfig && application->GetSectionObject(section, buttonsEntry, *this);
+    const bool mayHaveButtons = application && !m_bFromConfig && HasButtonsEntry(*application, section);
+    const BOOL hasButtons = mayHaveButtons && application->GetSectionObject(section, buttonsEntry, *this);
+    if (mayHaveButtons && !hasButtons) {
+        return FALSE; // damaged: the bar stays as the program made it, its place too
+    }
     const BOOL hasPlace = CMFCBaseToolBar::LoadState(lpszProfileName, nIndex, uiID);
     if (hasButtons && m_hWnd) {
         AdjustLayout();
