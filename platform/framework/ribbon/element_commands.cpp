@@ -5,10 +5,9 @@
 #include <afxribbonpanelmenu.h>
 
 #include "fx/registered_messages.h"
+#include "window/command_id.h"
 
 namespace {
-
-bool IsCommand(UINT id) { return id != 0 && id != static_cast<UINT>(-1); }
 
 CWnd* OwnerOf(CWnd& window) {
     CWnd* owner = window.GetOwner();
@@ -28,7 +27,7 @@ CWnd* CMFCRibbonBaseElement::GetCommandTarget() const {
 // The handler of the command may delete this element: nothing here looks at it after sending.
 BOOL CMFCRibbonBaseElement::NotifyCommand(BOOL bWithDelay) {
     const UINT id = GetNotifyID();
-    if (!IsCommand(id) || IsDisabled()) {
+    if (!fx::IsSendableCommand(id) || IsDisabled()) {
         return FALSE;
     }
     CWnd* target = GetCommandTarget();
@@ -121,7 +120,7 @@ void CMFCRibbonBaseElement::OnShow(BOOL /*bShow*/) {}
 void CMFCRibbonBaseElement::OnRTLChanged(BOOL /*bIsRTL*/) {}
 
 void CMFCRibbonBaseElement::OnUpdateCmdUI(CMFCRibbonCmdUI* pCmdUI, CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
-    if (pCmdUI == nullptr || !IsCommand(m_nID)) {
+    if (pCmdUI == nullptr || m_nID == 0 || m_nID == static_cast<UINT>(-1)) {
         return;
     }
     pCmdUI->m_nID = m_nID;

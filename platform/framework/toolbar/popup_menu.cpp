@@ -6,6 +6,7 @@
 #include "afxvisualmanager.h"
 #include "popups/menu_watch.h"
 #include "toolbar/popup_parts.h"
+#include "window/command_id.h"
 
 IMPLEMENT_DYNCREATE(CMFCPopupMenu, CMiniFrameWnd)
 
@@ -328,7 +329,7 @@ CWnd* CMFCPopupMenu::GetMessageWnd() const {
 }
 
 BOOL CMFCPopupMenu::PostCommand(UINT uiCommandID) {
-    return uiCommandID != 0 && uiCommandID != static_cast<UINT>(-1) && ::IsWindow(m_hMessageWnd) &&
+    return fx::IsSendableCommand(uiCommandID) && ::IsWindow(m_hMessageWnd) &&
            ::PostMessageW(m_hMessageWnd, WM_COMMAND, uiCommandID, 0);
 }
 

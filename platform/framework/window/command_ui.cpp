@@ -2,6 +2,8 @@
 
 #include "fx/menu.h"
 #include "fx/wnd.h"
+#include "window/command_id.h"
+#include "window/menu_items.h"
 
 namespace {
 
@@ -86,6 +88,10 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
         return TRUE;
     }
     m_bEnableChanged = FALSE;
+    if (!fx::IsSendableCommand(m_nID)) {
+        Enable(FALSE);
+        return TRUE;
+    }
     const BOOL updated = pTarget->OnCmdMsg(m_nID, CN_UPDATE_COMMAND_UI, this, nullptr);
     if (bDisableIfNoHndler && !m_bEnableChanged) {
         AFX_CMDHANDLERINFO info = {};
@@ -99,7 +105,7 @@ namespace fx {
 void UpdateMenuItems(CMenu* popup, CCmdTarget* target, BOOL disableIfNoHandler) {
     CCmdUI item;
     item.m_pMenu = popup;
-    item.m_nIndexMax = popup->GetMenuItemCount();
+    item.m_nIndexMax = fx::ItemCountOf(*popup);
     for (item.m_nIndex = 0; item.m_nIndex < item.m_nIndexMax; ++item.m_nIndex) {
         if (!IsPlainItem(popup->m_hMenu, item.m_nIndex)) {
             continue;
@@ -107,8 +113,7 @@ void UpdateMenuItems(CMenu* popup, CCmdTarget* target, BOOL disableIfNoHandler) 
         item.m_nID = popup->GetMenuItemID(static_cast<int>(item.m_nIndex));
         item.DoUpdate(target, disableIfNoHandler);
         // A handler may put items in before its own (a recent-file list does) or take some out.
-        const UINT count = popup->GetMenuItemCount();
-        item.m_nIndexMax = count;
+        item.m_nIndexMax = fx::ItemCountOf(*popup);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "window/menu_items.h"
 
 #include <algorithm>
 #include <utility>
@@ -97,14 +98,14 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu) {
     CCmdUI state;
     state.m_pMenu = pMenu;
     if (CMenu* bar = GetMenu()) {
-        const UINT count = bar->GetMenuItemCount();
+        const UINT count = fx::ItemCountOf(*bar);
         for (UINT index = 0; index < count; ++index) {
             if (::GetSubMenu(bar->m_hMenu, static_cast<int>(index)) == pMenu->m_hMenu) {
                 state.m_pParentMenu = bar;
             }
         }
     }
-    state.m_nIndexMax = pMenu->GetMenuItemCount();
+    state.m_nIndexMax = fx::ItemCountOf(*pMenu);
     for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
         UpdateMenuItem(state, *pMenu);
     }
@@ -130,7 +131,7 @@ void CFrameWnd::UpdateMenuItem(CCmdUI& state, CMenu& menu) {
         state.DoUpdate(this, m_bAutoMenuEnable && state.m_nID < firstSystemCommand);
     }
     // The handler may have put items in or taken some out: go on behind those that it put in for this command.
-    const UINT count = menu.GetMenuItemCount();
+    const UINT count = fx::ItemCountOf(menu);
     if (count < state.m_nIndexMax) {
         state.m_nIndex -= std::min(state.m_nIndexMax - count, state.m_nIndex + 1);
     }

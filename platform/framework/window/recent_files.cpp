@@ -1,6 +1,8 @@
 // Recent files: the list, its menu items, and what the application does with it.
 #include "afxadv.h"
 
+#include "window/menu_items.h"
+
 #include <algorithm>
 
 namespace {
@@ -135,7 +137,7 @@ void CRecentFileList::UpdateMenu(CCmdUI* pCmdUI) {
     }
     // The update goes on behind the last of them.
     pCmdUI->m_nIndex = position - 1;
-    pCmdUI->m_nIndexMax = menu->GetMenuItemCount();
+    pCmdUI->m_nIndexMax = fx::ItemCountOf(*menu);
     pCmdUI->m_bEnableChanged = TRUE;
 }
 

@@ -24,6 +24,14 @@ TEST_F(PopupMenuCommandTest, ItemsAreUpToDateWhenTheMenuOpens) {
     EXPECT_NE(styleOf(L"C&hecked") & TBBS_CHECKED, 0u);
 }
 
+TEST_F(PopupMenuCommandTest, ACommandThatNoMessageCanCarryIsNotSentAsAnother) {
+    CMFCPopupMenu* menu = Open();
+    EXPECT_FALSE(menu->PostCommand(0x10000 + menu_ids::open));
+    EXPECT_TRUE(menu->PostCommand(menu_ids::open));
+    PumpPending();
+    EXPECT_EQ(m_frame->commands, std::vector<UINT>{menu_ids::open});
+}
+
 TEST_F(PopupMenuCommandTest, ADisabledItemIsNotChosen) {
     CMFCPopupMenu* menu = Open();
     ClickItem(menu, L"&Close");

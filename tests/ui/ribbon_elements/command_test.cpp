@@ -50,6 +50,20 @@ TEST_F(Commands, AReleaseOutsideOrWithoutAPressSendsNothing) {
     EXPECT_FALSE(button.IsPressed());
 }
 
+TEST_F(Commands, OneThatNoMessageCanCarryIsNotSentAsAnother) {
+    CMFCRibbonButton button(0x10000 + kId, L"Beyond");
+    Shown(button);
+    for (const BOOL delay : {FALSE, TRUE}) {
+        EXPECT_FALSE(button.NotifyCommand(delay));
+    }
+    PumpPending();
+    EXPECT_TRUE(window.commands.empty());
+    CMFCRibbonButton last(0xFFFE, L"Last");
+    Shown(last);
+    EXPECT_TRUE(last.NotifyCommand(FALSE));
+    EXPECT_EQ(window.commands, std::vector<UINT>{0xFFFE});
+}
+
 TEST_F(Commands, DisabledElementsSendNothing) {
     CMFCRibbonButton button(kId, L"Open");
     CMFCRibbonSlider slider(kId);
