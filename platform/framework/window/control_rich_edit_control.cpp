@@ -16,7 +16,7 @@ BOOL CRichEditCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UI
 }
 
 BOOL CRichEditCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    static const HMODULE library = ::LoadLibraryW(L"msftedit.dll");
+    static const HMODULE library = ::LoadLibraryExW(L"msftedit.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     return library && CWnd::CreateEx(dwExStyle, MSFTEDIT_CLASS, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
