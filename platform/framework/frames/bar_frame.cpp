@@ -73,8 +73,10 @@ BOOL BarFrameOf<Base>::OnShowPanes(BOOL bShow) {
 }
 
 template <class Base>
-void BarFrameOf<Base>::EnablePaneMenu(BOOL bEnable, UINT uiCustomizeCmd, const CString& strCustomizeLabel, UINT,
-                                      BOOL bContextMenuShowsToolbarsOnly, BOOL) {
+void BarFrameOf<Base>::EnablePaneMenu(BOOL bEnable, UINT uiCustomizeCmd, const CString& strCustomizeLabel,
+                                      UINT uiViewToolbarsMenuEntryID, BOOL bContextMenuShowsToolbarsOnly,
+                                      BOOL bViewMenuShowsToolbarsOnly) {
+    m_Impl.SetPaneEntry(bEnable ? uiViewToolbarsMenuEntryID : 0, bViewMenuShowsToolbarsOnly != FALSE);
     this->m_dockManager.EnablePaneContextMenu(bEnable, uiCustomizeCmd, strCustomizeLabel,
                                               bContextMenuShowsToolbarsOnly);
 }

@@ -3,6 +3,7 @@
 #include "afxbasepane.h"
 #include "afxpopupmenu.h"
 #include "afxribbonbar.h"
+#include "frames/pane_entry.h"
 #include "ribbon/keyboard.h"
 
 #include <windowsx.h>
@@ -118,7 +119,19 @@ BOOL CFrameImpl::MoveFocusToNextPane(BOOL forward) {
     return TRUE;
 }
 
-void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) { m_activePopup = popup; }
+void CFrameImpl::SetPaneEntry(UINT entry, bool showsToolbarsOnly) {
+    m_paneEntry = entry;
+    m_paneEntryShowsToolbarsOnly = showsToolbarsOnly;
+}
+
+void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) {
+    m_activePopup = popup;
+    if (m_paneEntry != 0 && popup != nullptr) {
+        CObList panes;
+        m_dockingManager.GetPaneList(panes);
+        ShowPanesInMenu(*popup, m_paneEntry, panes, m_paneEntryShowsToolbarsOnly);
+    }
+}
 
 void CFrameImpl::OnClosePopupMenu(CMFCPopupMenu* popup) {
     if (m_activePopup == popup) {

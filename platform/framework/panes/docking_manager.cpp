@@ -4,6 +4,7 @@
 #include "afxPane.h"
 #include "core/scoped_change.h"
 #include "panes/pane_layout.h"
+#include "panes/pane_menu.h"
 
 #include <algorithm>
 #include <utility>
@@ -300,21 +301,14 @@ void CDockingManager::OnPaneContextMenu(CPoint point) {
     if (!m_hasPaneMenu || !m_pParentWnd) {
         return;
     }
-    std::vector<CPane*> offered;
+    const std::vector<CPane*> offered = PanesForMenu(m_lstControlBars, m_paneMenuOfToolbarsOnly);
     CMenu menu;
     menu.CreatePopupMenu();
-    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
-        auto* pane = DYNAMIC_DOWNCAST(CPane, m_lstControlBars.GetNext(position));
-        if (!pane || !pane->AllowShowOnPaneMenu() || (m_paneMenuOfToolbarsOnly && pane->IsResizable())) {
-            continue;
-        }
+    UINT number = 0;
+    for (const CPane* pane : offered) {
         CString name;
         pane->GetPaneName(name);
-        if (name.IsEmpty()) {
-            continue;
-        }
-        offered.push_back(pane);
-        menu.AppendMenu(MF_STRING | (pane->IsVisible() ? MF_CHECKED : MF_UNCHECKED), offered.size(), name);
+        menu.AppendMenu(MF_STRING | (pane->IsVisible() ? MF_CHECKED : MF_UNCHECKED), ++number, name);
     }
     const UINT customize = static_cast<UINT>(offered.size()) + 1;
     if (m_customizeCommand) {

@@ -48,6 +48,8 @@ public:
     /// Another look may shape the window differently: lays out and redraws everything.
     void OnChangeVisualManager();
 
+    /// A menu that opens shows the panes in place of its item `entry`; 0: of none.
+    void SetPaneEntry(UINT entry, bool showsToolbarsOnly);
     void OnShowPopupMenu(CMFCPopupMenu* popup);
     void OnClosePopupMenu(CMFCPopupMenu* popup);
     CMFCPopupMenu* ActivePopup() const { return m_activePopup; }
@@ -91,4 +93,6 @@ private:
     CSize m_regionSize{0, 0}; ///< of the window when its region was set; 0, 0: maximised or none
     CMFCMenuBar* m_menuBar = nullptr;
     CMFCPopupMenu* m_activePopup = nullptr;
+    UINT m_paneEntry = 0;
+    bool m_paneEntryShowsToolbarsOnly = false;
 };

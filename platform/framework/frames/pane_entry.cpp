@@ -1,0 +1,64 @@
+#include "frames/pane_entry.h"
+
+#include "afxpopupmenu.h"
+#include "panes/pane_menu.h"
+
+namespace {
+
+/// Shows and hides a pane; no command is sent.
+class PaneItem : public CMFCToolBarMenuButton {
+    DECLARE_DYNCREATE(PaneItem)
+
+public:
+    PaneItem() = default;
+    PaneItem(const CPane& pane, LPCTSTR name)
+        : CMFCToolBarMenuButton(static_cast<UINT>(-1), nullptr, -1, name), m_pane(pane.GetSafeHwnd()) {
+        m_nStyle |= pane.IsVisible() ? TBBS_CHECKED : 0;
+    }
+
+    void CopyFrom(const CMFCToolBarButton& src) override {
+        CMFCToolBarMenuButton::CopyFrom(src);
+        m_pane = static_cast<const PaneItem&>(src).m_pane;
+    }
+
+    BOOL OnClickMenuItem() override {
+        const HWND window = m_pane;
+        CMFCPopupMenu::CloseAll(); // this item is gone
+        if (CPane* const pane = DYNAMIC_DOWNCAST(CPane, CWnd::FromHandlePermanent(window))) {
+            pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
+        }
+        return TRUE;
+    }
+
+private:
+    HWND m_pane = nullptr; ///< may be destroyed while the menu is open
+};
+
+IMPLEMENT_DYNCREATE(PaneItem, CMFCToolBarMenuButton)
+
+int IndexOf(CMFCPopupMenu& menu, UINT entry) {
+    for (int index = 0; index < menu.GetMenuItemCount(); ++index) {
+        const CMFCToolBarMenuButton* const item = menu.GetMenuItem(index);
+        if (item != nullptr && item->m_nID == entry) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+} // namespace
+
+void ShowPanesInMenu(CMFCPopupMenu& menu, UINT entry, const CObList& panes, bool showsToolbarsOnly) {
+    const int place = entry != 0 ? IndexOf(menu, entry) : -1;
+    const std::vector<CPane*> offered = PanesForMenu(panes, showsToolbarsOnly);
+    if (place < 0 || offered.empty()) {
+        return;
+    }
+    int next = place + 1;
+    for (const CPane* pane : offered) {
+        CString name;
+        pane->GetPaneName(name);
+        menu.InsertItem(PaneItem(*pane, name), next++);
+    }
+    menu.RemoveItem(place);
+}
