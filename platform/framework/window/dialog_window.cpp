@@ -26,6 +26,26 @@ bool TakesKeys(CWnd* window) {
            ::IsWindowEnabled(::GetAncestor(window->m_hWnd, GA_ROOT));
 }
 
+/// Whether the dialog's place is left open: position 0, 0 and no style that says where.
+bool HasNoPlace(const DLGTEMPLATE& dialogTemplate) {
+    // Of the form with more fields: version 1, signature, help id, extended style, style, count, position, size.
+    struct ExtendedHead {
+        WORD version;
+        WORD signature;
+        DWORD helpId;
+        DWORD extendedStyle;
+        DWORD style;
+        WORD count;
+        short x;
+        short y;
+    };
+    const auto& extended = reinterpret_cast<const ExtendedHead&>(dialogTemplate);
+    const bool isExtended = extended.version == 1 && extended.signature == 0xFFFF;
+    const DWORD style = isExtended ? extended.style : dialogTemplate.style;
+    const CPoint place(isExtended ? extended.x : dialogTemplate.x, isExtended ? extended.y : dialogTemplate.y);
+    return place == CPoint(0, 0) && !(style & (WS_CHILD | DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE));
+}
+
 } // namespace
 
 CDialog::CDialog() = default;
@@ -76,6 +96,7 @@ bool CDialog::CreateFromResource(LPCTSTR name, CWnd* parent) {
 
 bool CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance) {
     m_hasEnded = false;
+    m_hasNoPlace = dialogTemplate && HasNoPlace(*dialogTemplate);
     bool hasAttached = false;
     HWND window = nullptr;
     {
@@ -167,7 +188,19 @@ void CDialog::EndDialog(int nResult) {
     }
 }
 
-LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) { return OnInitDialog(); }
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+    // The handler may destroy dialog and object.
+    const HWND window = m_hWnd;
+    const bool mayCentre = m_hasNoPlace;
+    CRect before;
+    ::GetWindowRect(window, &before);
+    const BOOL result = OnInitDialog();
+    CRect after;
+    if (mayCentre && ::GetWindowRect(window, &after) && after.TopLeft() == before.TopLeft()) {
+        CenterWindow();
+    }
+    return result;
+}
 
 BOOL CDialog::OnInitDialog() {
     if (!UpdateData(FALSE)) {

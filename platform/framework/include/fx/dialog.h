@@ -37,7 +37,9 @@ public:
     /// Dialog units to pixels.
     void MapDialogRect(LPRECT lpRect) const;
 
-    /// TRUE lets the system put the focus on the first control. The default fills the controls (UpdateData).
+    /// TRUE lets the system put the focus on the first control. The default fills the controls (UpdateData). A pop-up
+    /// dialog whose template has neither a place nor a style that says one is centred on its owner afterwards, unless
+    /// it was moved meanwhile.
     virtual BOOL OnInitDialog();
     virtual void OnSetFont(CFont* pFont);
 
@@ -69,4 +71,5 @@ private:
     HGLOBAL m_memoryHandle = nullptr;          ///< the same, to be locked
     bool m_isModal = false;                    ///< DoModal has not returned
     bool m_hasEnded = false;                   ///< EndDialog was called
+    bool m_hasNoPlace = false;                 ///< the template says no place
 };
