@@ -29,13 +29,28 @@ std::wstring InstallationDirectory() {
     return directory;
 }
 
+constexpr const wchar_t* kInstallerKey = L"Software\\HALVORN\\Tessaly\\";
+constexpr const wchar_t* kRedirectedInstallerKey = L"Software\\Wow6432Node\\HALVORN\\Tessaly\\";
+constexpr const wchar_t* kFolderValue = L"FlashPath";
+
+bool HasRecord(const wchar_t* keyPath) {
+    return ::RegGetValueW(HKEY_LOCAL_MACHINE, keyPath, kFolderValue, RRF_RT_ANY, nullptr, nullptr, nullptr) ==
+           ERROR_SUCCESS;
+}
+
+/// A system that the framework's data names new keeps what a 32-bit installer writes apart: that counts where there is
+/// no record of our own kind.
+const wchar_t* KeyOfInstaller() {
+    const bool isRedirected =
+        afxGlobalData.bIsWindows7 && !HasRecord(kInstallerKey) && HasRecord(kRedirectedInstallerKey);
+    return isRedirected ? kRedirectedInstallerKey : kInstallerKey;
+}
+
 std::wstring RecordedMediaFolder() {
-    const wchar_t* const keyPath =
-        afxGlobalData.bIsWow6432Node ? L"Software\\Wow6432Node\\HALVORN\\Tessaly\\" : L"Software\\HALVORN\\Tessaly\\";
     CKey key;
     std::wstring folder;
-    if (key.Open(HKEY_LOCAL_MACHINE, keyPath)) {
-        key.GetStringValue(L"FlashPath", folder);
+    if (key.Open(HKEY_LOCAL_MACHINE, KeyOfInstaller())) {
+        key.GetStringValue(kFolderValue, folder);
     }
     return MediaFolderOf(folder);
 }

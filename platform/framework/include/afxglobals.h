@@ -89,9 +89,6 @@ struct FRAMEWORK_API AFX_GLOBAL_DATA {
     int m_nBitsPerPixel = 32;
     BOOL m_bIsBlackHighContrast = FALSE, m_bIsWhiteHighContrast = FALSE;
     BOOL bIsOSAlphaBlendingSupport = TRUE, bIsWindows7 = FALSE, bIsRemoteSession = FALSE;
-    /// TRUE when a 64-bit process reads what a 32-bit installer wrote: keys lie below Software\Wow6432Node. Only the
-    /// host knows its installer, so it sets this at start-up; nothing else ever changes it.
-    BOOL bIsWow6432Node = FALSE;
     BOOL m_bUseSystemFont = FALSE, m_bUseBuiltIn32BitIcons = TRUE;
     BOOL m_bMenuAnimation = FALSE, m_bMenuFadeEffect = FALSE;
     int m_nMaxToolTipWidth =

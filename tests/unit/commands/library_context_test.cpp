@@ -91,7 +91,6 @@ protected:
 
 private:
     HANDLE m_turn;
-    const ScopedValue<BOOL> m_plain{afxGlobalData.bIsWow6432Node, FALSE};
 };
 
 TEST_F(MediaFolder, GetsABackslashWhereItIsMissing) { ExpectFolder(L"C:\\video", L"C:\\video\\Media\\"); }
@@ -108,28 +107,31 @@ TEST_F(MediaFolder, MissingKeyGivesEmptyTextAndFalse) {
     EXPECT_EQ(folder, L"");
 }
 
-TEST_F(MediaFolder, IsReadFromTheRedirectedKeyWhereTheFrameworkSaysThatThereIsOne) {
-    Record(L"C:\\plain", plainKey);
+TEST_F(MediaFolder, Of32BitInstallerIsFoundWhereThereIsNoOtherRecord) {
     Record(L"C:\\redirected", redirectedKey);
-    const ScopedValue<BOOL> redirected(afxGlobalData.bIsWow6432Node, TRUE);
     CString folder;
     EXPECT_TRUE(GetHaveMedias_Brevant(folder));
     EXPECT_EQ(folder, L"C:\\redirected\\Media\\");
 }
 
-TEST(LibraryContext, WhetherThereIsARedirectedKeyIsForTheHostToSay) {
-    EXPECT_FALSE(afxGlobalData.bIsWow6432Node);
-    const ScopedValue<BOOL> redirected(afxGlobalData.bIsWow6432Node, TRUE);
-    afxGlobalData.OnSettingChange();
-    EXPECT_TRUE(afxGlobalData.bIsWow6432Node);
-}
-
-TEST_F(MediaFolder, IsReadFromThePlainKeyElsewhere) {
+TEST_F(MediaFolder, IsReadFromThePlainKeyWhereBothHoldOne) {
     Record(L"C:\\plain", plainKey);
     Record(L"C:\\redirected", redirectedKey);
     CString folder;
     EXPECT_TRUE(GetHaveMedias_Brevant(folder));
     EXPECT_EQ(folder, L"C:\\plain\\Media\\");
+}
+
+TEST_F(MediaFolder, EmptyRecordInThePlainKeyIsTheRecord) {
+    Record(L"C:\\redirected", redirectedKey);
+    ExpectFolder(L"", L"");
+}
+
+TEST_F(MediaFolder, OfTheRedirectedKeyIsNotLookedForWhereTheHostSaysThatTheSystemHasNone) {
+    Record(L"C:\\redirected", redirectedKey);
+    const ScopedValue<BOOL> oldSystem(afxGlobalData.bIsWindows7, FALSE);
+    CString folder;
+    EXPECT_FALSE(GetHaveMedias_Brevant(folder));
 }
 
 TEST_F(MediaFolder, ValueThatIsNoTextGivesEmptyTextAndFalse) {
