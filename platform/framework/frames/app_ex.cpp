@@ -226,6 +226,10 @@ CContextMenuManager* CWinAppEx::GetContextMenuManager() {
     return m_managers->contextMenus.get();
 }
 
+BOOL CWinAppEx::ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd) {
+    return GetContextMenuManager()->ShowPopupMenu(uiMenuResId, point.x, point.y, pWnd);
+}
+
 BOOL CWinAppEx::OnViewDoubleClick(CWnd*, int) { return FALSE; }
 BOOL CWinAppEx::OnWorkspaceIdle(CWnd*) { return FALSE; }
 

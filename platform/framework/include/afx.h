@@ -1,4 +1,6 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFX_H__
 
 // Root of the framework: objects, run-time classes, strings, exceptions, files, archives, diagnostics.
 

@@ -1,4 +1,6 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXCMN_H__
 
 /// The common controls.
 #include "afxwin.h"

@@ -1,4 +1,6 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXCOLL_H__
 
 // The collections of fixed types. Collections of pointers never delete what is pointed at.
 

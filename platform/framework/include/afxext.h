@@ -1,4 +1,6 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXEXT_H__
 
 #include "afxcmn.h"
 #include "afxwin.h"

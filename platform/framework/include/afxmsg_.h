@@ -1,4 +1,6 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXMSG_H__
 
 // Message map macros: what a handler's entry looks like and which signature each message's handler has. A handler with
 // another signature does not compile.

@@ -1,4 +1,6 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXPRIV_H__
 
 // Messages of the framework to its own windows. Tools and derived bars handle or send them.
 #include <windows.h>

@@ -1,6 +1,16 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXRES_H__
 
 // Standard ids and styles, for sources and resource scripts alike: definitions only.
+#ifdef RC_INVOKED
+#include <winresrc.h>
+#endif
+
+// Controls that nobody asks for.
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif
 
 // Styles of a pane or bar. Alignment and style share one word.
 #define CBRS_ALIGN_LEFT 0x1000L
@@ -76,6 +86,18 @@
 #define ID_FILE_MRU_FILE2 0xE111
 #define ID_FILE_MRU_FILE3 0xE112
 #define ID_FILE_MRU_FILE4 0xE113
+#define ID_FILE_MRU_FILE5 0xE114
+#define ID_FILE_MRU_FILE6 0xE115
+#define ID_FILE_MRU_FILE7 0xE116
+#define ID_FILE_MRU_FILE8 0xE117
+#define ID_FILE_MRU_FILE9 0xE118
+#define ID_FILE_MRU_FILE10 0xE119
+#define ID_FILE_MRU_FILE11 0xE11A
+#define ID_FILE_MRU_FILE12 0xE11B
+#define ID_FILE_MRU_FILE13 0xE11C
+#define ID_FILE_MRU_FILE14 0xE11D
+#define ID_FILE_MRU_FILE15 0xE11E
+#define ID_FILE_MRU_FILE16 0xE11F
 #define ID_FILE_MRU_LAST 0xE11F
 #define ID_EDIT_CLEAR 0xE120
 #define ID_EDIT_CLEAR_ALL 0xE121
@@ -112,18 +134,51 @@
 #define ID_INDICATOR_SCRL 0xE703
 #define ID_INDICATOR_OVR 0xE704
 #define ID_INDICATOR_REC 0xE705
+#define ID_INDICATOR_KANA 0xE706
 #define ID_VIEW_TOOLBAR 0xE800
 #define ID_VIEW_STATUS_BAR 0xE801
 
 // Texts.
 #define AFX_IDS_APP_TITLE 0xE000
 #define AFX_IDS_IDLEMESSAGE 0xE001
+#define AFX_IDS_HELPMODEMESSAGE 0xE002
+// What the system's commands do: 0xEF00 and the sixteenth part of a command's distance from SC_SIZE.
+#define AFX_IDS_SCFIRST 0xEF00
+#define AFX_IDS_SCSIZE 0xEF00
+#define AFX_IDS_SCMOVE 0xEF01
+#define AFX_IDS_SCMINIMIZE 0xEF02
+#define AFX_IDS_SCMAXIMIZE 0xEF03
+#define AFX_IDS_SCNEXTWINDOW 0xEF04
+#define AFX_IDS_SCPREVWINDOW 0xEF05
+#define AFX_IDS_SCCLOSE 0xEF06
+#define AFX_IDS_SCRESTORE 0xEF12
+#define AFX_IDS_SCTASKLIST 0xEF13
+#define AFX_IDS_MDICHILD 0xEF1F
+#define AFX_IDS_DESKACCESSORY 0xEFDA
+#define AFX_IDS_OPENFILE 0xF000
+#define AFX_IDS_SAVEFILE 0xF001
+#define AFX_IDS_ALLFILTER 0xF002
+#define AFX_IDS_UNTITLED 0xF003
+#define AFX_IDS_SAVEFILECOPY 0xF004
+#define AFX_IDS_PREVIEW_CLOSE 0xF005
+#define AFX_IDS_UNNAMED_FILE 0xF006
+#define AFX_IDP_INVALID_FILENAME 0xF100
+#define AFX_IDP_FAILED_TO_OPEN_DOC 0xF101
+#define AFX_IDP_FAILED_TO_SAVE_DOC 0xF102
+#define AFX_IDP_ASK_TO_SAVE 0xF103
+#define AFX_IDP_FAILED_TO_CREATE_DOC 0xF104
+#define AFX_IDP_FILE_TOO_LARGE 0xF105
+#define AFX_IDP_FAILED_TO_START_PRINT 0xF106
+#define AFX_IDP_FAILED_TO_LAUNCH_HELP 0xF107
+#define AFX_IDP_INTERNAL_FAILURE 0xF108
+#define AFX_IDP_COMMAND_FAILURE 0xF109
 #define AFX_IDP_PARSE_INT 0xF110
 #define AFX_IDP_PARSE_REAL 0xF111
 #define AFX_IDP_PARSE_INT_RANGE 0xF112
 #define AFX_IDP_PARSE_REAL_RANGE 0xF113
 #define AFX_IDP_PARSE_STRING_SIZE 0xF114
 #define AFX_IDP_PARSE_RADIO_BUTTON 0xF115
+#define AFX_IDP_PARSE_DATETIME 0xF116
 #define AFX_IDP_PARSE_UINT 0xF117
 
 // The first MDI child's id; the system counts up from it.

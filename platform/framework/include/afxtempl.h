@@ -1,4 +1,6 @@
 #pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXTEMPL_H__
 
 // The collection templates.
 

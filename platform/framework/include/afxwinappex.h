@@ -56,6 +56,10 @@ public:
     CTooltipManager* GetTooltipManager();
     CContextMenuManager* GetContextMenuManager();
 
+    /// Shows a menu resource at a screen point by GetContextMenuManager; its commands go to pWnd's frame. FALSE when
+    /// the menu is missing.
+    virtual BOOL ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd);
+
     virtual BOOL OnViewDoubleClick(CWnd* pWnd, int iViewId);
     virtual BOOL OnWorkspaceIdle(CWnd*);
     BOOL IsResourceSmartUpdate() const { return m_bResourceSmartUpdate; }

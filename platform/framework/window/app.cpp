@@ -11,6 +11,7 @@
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
+ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
 ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
 END_MESSAGE_MAP()
 
@@ -211,6 +212,27 @@ void CWinApp::WinHelp(DWORD_PTR dwData, UINT nCmd) {
     }
 }
 
+void CWinApp::OnHelp() {
+    const CWnd* const main = AfxGetMainWnd();
+    HWND window = ::GetActiveWindow();
+    if (window == nullptr) {
+        window = main->GetSafeHwnd();
+    }
+    // A child's parent, a pop-up's owner.
+    for (; window != nullptr; window = ::GetParent(window)) {
+        if (::SendMessage(window, WM_COMMANDHELP, 0, 0) != 0) {
+            return;
+        }
+    }
+    if (main->GetSafeHwnd() != nullptr) {
+        ::SendMessage(main->m_hWnd, WM_COMMAND, ID_DEFAULT_HELP, 0);
+    }
+}
+
+void CWinApp::OnHelpIndex() { WinHelp(0, HELP_INDEX); }
+void CWinApp::OnHelpFinder() { WinHelp(0, HELP_FINDER); }
+void CWinApp::OnHelpUsing() { WinHelp(0, HELP_HELPONHELP); }
+
 void CWinApp::OnAppExit() {
     if (m_pMainWnd != nullptr) {
         // The same way as the system menu: the window may refuse.
@@ -269,4 +291,5 @@ void AFXAPI AfxWinTerm() {
     fx::CurrentThread().messageFilter.reset();
     CWnd::DeleteTempMap();
     CMenu::DeleteTempMap();
+    fx::EndOle(fx::CurrentThread());
 }

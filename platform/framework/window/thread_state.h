@@ -35,9 +35,13 @@ struct ThreadState {
     HWND exchanging = nullptr;   ///< whose controls UpdateData fills or reads: what they notify meanwhile is no user's
     HMENU trackedMenu = nullptr; ///< the popup menu that is open by RunPopupMenu
     ToolTipState toolTip;
+    bool hasOle = false; ///< AfxOleInit readied it
 };
 
 ThreadState& CurrentThread();
+
+/// Undoes AfxOleInit, at the end of the thread's program.
+void EndOle(ThreadState& thread);
 
 /// At idle: the temporary objects of the calling thread that no running handler holds, of windows, menus and GDI.
 void DeleteReleasedTemporaries();

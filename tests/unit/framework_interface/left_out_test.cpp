@@ -66,7 +66,7 @@ LEFT_OUT("dialog data in the resources, whose format is not documented", CWnd, E
 
 LEFT_OUT("help is the host's matter", CWnd, HtmlHelp, OnHelp, OnHelpFinder, OnHelpIndex, OnHelpUsing)
 LEFT_OUT("help is the host's matter", CWinApp, EnableHtmlHelp, GetHelpMode, HtmlHelp, SetHelpMode, m_eHelpType,
-         OnContextHelp, OnHelp, OnHelpFinder, OnHelpIndex, OnHelpUsing)
+         OnContextHelp)
 LEFT_OUT("help is the host's matter", CWinAppEx, OnAppContextHelp)
 LEFT_OUT("help is the host's matter", CFrameWnd, OnContextHelp)
 LEFT_OUT("help is the host's matter", CFrameWndEx, OnContextHelp)
@@ -172,7 +172,7 @@ LEFT_OUT("docking of the plain control bars", CFrameWnd, DockControlBar, EnableD
 LEFT_OUT("docking of the plain control bars", CControlBar, DrawGripper, EnableDocking)
 
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CWinAppEx, EnableTearOffMenus, EnableUserTools,
-         ShowPopupMenu, GetMouseManager, GetShellManager, GetUserToolsManager, InitMouseManager, InitShellManager)
+         GetMouseManager, GetShellManager, GetUserToolsManager, InitMouseManager, InitShellManager)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CFrameWndEx, GetTearOffBars, OnDrawMenuLogo,
          OnShowCustomizePane, OnTearOffMenu, OnToolbarContextMenu, OnToolbarCreateNew, OnToolbarDelete,
          SetupToolbarMenu)

@@ -110,6 +110,10 @@ INTERFACE_OF(CWinApp) {
 
 PROTECTED_INTERFACE_OF(CWinApp) {
     MEMBER(void, LoadStdProfileSettings, (UINT));
+    MEMBER(void, OnHelp, ());
+    MEMBER(void, OnHelpFinder, ());
+    MEMBER(void, OnHelpIndex, ());
+    MEMBER(void, OnHelpUsing, ());
     MEMBER(void, SetAppID, (LPCTSTR));
     MEMBER(void, SetRegistryKey, (LPCTSTR));
     MEMBER(void, SetRegistryKey, (UINT));
@@ -165,6 +169,7 @@ INTERFACE_OF(CWinAppEx) {
     MEMBER(BOOL, IsStateExists, (LPCTSTR));
     VIRTUAL(BOOL, OnViewDoubleClick, (CWnd*, int));
     VIRTUAL(BOOL, OnWorkspaceIdle, (CWnd*));
+    VIRTUAL(BOOL, ShowPopupMenu, (UINT, const CPoint&, CWnd*));
     MEMBER(LPCTSTR, SetRegistryBase, (LPCTSTR));
     CALL(SetRegistryBase);
     MEMBER(BOOL, WriteBinary, (LPCTSTR, LPBYTE, UINT));

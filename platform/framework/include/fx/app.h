@@ -125,7 +125,16 @@ protected:
     /// them.
     void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
     afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
+    /// Asks the main window to close. In the map of every application for ID_APP_EXIT.
     afx_msg void OnAppExit();
+    // Help commands, for maps of derived classes (ON_COMMAND(ID_HELP, &CMyApp::OnHelp)).
+    /// Offers WM_COMMANDHELP to the active window, then to its parents and owners; where none answers TRUE, the main
+    /// window gets the command ID_DEFAULT_HELP.
+    afx_msg void OnHelp();
+    // The index, the finder, help on help: by WinHelp.
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
     DECLARE_MESSAGE_MAP()
 
 private:
