@@ -1,6 +1,13 @@
 # What knows no window system: geometry, tables, pixels. Compiled once, for the DLL and for the tests, which run on this
 # machine too.
+if(WIN32)
+  set(letters core/letters_windows.cpp)
+else()
+  set(letters core/letters_posix.cpp)
+endif()
 add_library(framework_portable OBJECT EXCLUDE_FROM_ALL
+  ${letters}
+  core/mnemonic.cpp
   ribbon/bar_layout.cpp
   ribbon/button_geometry.cpp
   ribbon/category_layout.cpp

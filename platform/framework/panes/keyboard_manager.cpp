@@ -1,7 +1,8 @@
 #include "afxkeyboardmanager.h"
 
+#include "core/letters.h"
+
 #include <algorithm>
-#include <cwctype>
 #include <vector>
 
 bool CKeyboardManager::s_isShowAll = false;
@@ -48,7 +49,7 @@ CString NameOfKey(WORD key) {
         return name;
     }
     if (const UINT character = ::MapVirtualKeyW(key, MAPVK_VK_TO_CHAR) & 0x7FFF) {
-        name = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(character)));
+        name = fx::UpperCase(static_cast<wchar_t>(character));
     }
     return name;
 }
@@ -134,11 +135,12 @@ BOOL CKeyboardManager::IsKeyHandled(WORD nKey, BYTE fVirt, CFrameWnd* pWndFrame,
 }
 
 BOOL CKeyboardManager::IsKeyPrintable(const UINT nChar) {
+    constexpr UINT kDelete = 0x7F;
     const UINT character = ::MapVirtualKeyW(nChar, MAPVK_VK_TO_CHAR) & 0x7FFF;
-    return character >= L' ' && std::iswprint(static_cast<wint_t>(character));
+    return character >= L' ' && character != kDelete;
 }
 
-UINT CKeyboardManager::TranslateCharToUpper(const UINT nChar) { return std::towupper(static_cast<wint_t>(nChar)); }
+UINT CKeyboardManager::TranslateCharToUpper(const UINT nChar) { return fx::UpperCase(static_cast<wchar_t>(nChar)); }
 
 void CKeyboardManager::ShowAllAccelerators(BOOL bShowAll, LPCTSTR lpszDelimiter) {
     s_isShowAll = bShowAll != FALSE;

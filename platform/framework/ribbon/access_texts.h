@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-#include "ribbon/key_letters.h"
+#include "core/mnemonic.h"
 
 /// Texts for assistive programs; string resources of the framework.
 enum class RibbonAccessTextId : UINT {
@@ -23,5 +23,5 @@ enum class RibbonAccessTextId : UINT {
 CString RibbonAccessText(RibbonAccessTextId id);
 
 inline CString WithoutMnemonic(const CString& text) {
-    return ribbon::WithoutMnemonic({text, static_cast<std::size_t>(text.GetLength())}).c_str();
+    return fx::WithoutMnemonic({text, static_cast<std::size_t>(text.GetLength())}).c_str();
 }

@@ -1,9 +1,11 @@
 #include "ribbon/key_letters.h"
 
 #include <algorithm>
-#include <array>
-#include <cwctype>
+#include <map>
 #include <set>
+
+#include "core/letters.h"
+#include "core/mnemonic.h"
 
 namespace ribbon {
 namespace {
@@ -11,37 +13,32 @@ namespace {
 constexpr std::wstring_view kLetters = L"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr std::size_t kLongestKey = 3;
 
-std::wstring Upper(std::wstring_view text) {
-    std::wstring result;
-    for (const wchar_t character : text) {
-        if (character != L' ') {
-            result += static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(character)));
-        }
-    }
-    return result;
+std::wstring KeysAsGiven(std::wstring_view keys) {
+    std::wstring capitals = fx::UpperCase(keys);
+    std::erase(capitals, L' ');
+    return capitals;
 }
 
-bool IsLetter(wchar_t character) { return character >= L'A' && character <= L'Z'; }
+// Every keyboard layout writes these.
+bool IsLatin(wchar_t capital) { return capital >= L'A' && capital <= L'Z'; }
 
-/// The letters of a text by preference: the one behind '&', the first of each word, the rest; each once.
+/// The letters of a text by preference: the one behind '&' in any script, then the Latin ones, the first of each word
+/// before the rest; each once.
 std::wstring PreferredLetters(std::wstring_view text) {
-    std::wstring marked;
-    std::wstring initials;
+    std::wstring letters;
     std::wstring others;
+    if (const wchar_t marked = fx::MnemonicOf(text); fx::IsLetter(marked)) {
+        letters += marked;
+    }
     bool startsWord = true;
-    for (std::size_t place = 0; place < text.size(); ++place) {
-        const auto capital = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(text[place])));
-        if (!IsLetter(capital)) {
-            startsWord = startsWord || std::iswalnum(static_cast<std::wint_t>(text[place])) == 0;
-            continue;
+    for (const wchar_t capital : fx::UpperCase(fx::WithoutMnemonic(text))) {
+        if (IsLatin(capital)) {
+            (startsWord ? letters : others) += capital;
         }
-        (place > 0 && text[place - 1] == L'&' ? marked : startsWord ? initials : others) += capital;
-        startsWord = false;
+        startsWord = !fx::IsLetterOrDigit(capital);
     }
     std::wstring result;
-    marked += initials;
-    marked += others;
-    for (const wchar_t letter : marked) {
+    for (const wchar_t letter : letters + others) {
         if (result.find(letter) == std::wstring::npos) {
             result += letter;
         }
@@ -70,15 +67,14 @@ public:
     /// the last pairs.
     void MakeRoom(std::size_t count, const std::vector<std::wstring>& preferences) {
         std::wstring singles = FreeAmong(std::wstring());
-        std::array<std::size_t, 26> texts{};
+        std::map<wchar_t, std::size_t> texts;
         for (const std::wstring& letters : preferences) {
             if (!letters.empty()) {
-                ++texts[static_cast<std::size_t>(letters[0] - L'A')];
+                ++texts[letters[0]];
             }
         }
-        std::stable_sort(singles.begin(), singles.end(), [&texts](wchar_t first, wchar_t second) {
-            return texts[static_cast<std::size_t>(first - L'A')] > texts[static_cast<std::size_t>(second - L'A')];
-        });
+        std::stable_sort(singles.begin(), singles.end(),
+                         [&texts](wchar_t first, wchar_t second) { return texts[first] > texts[second]; });
         std::size_t room = singles.size();
         for (const wchar_t letter : kLetters) {
             if (IsBeginningOfTaken({letter})) {
@@ -176,7 +172,7 @@ std::vector<std::wstring> AssignKeyTips(const std::vector<KeyTipWish>& wishes) {
     std::vector<std::wstring> preferences;
     KeySpace space;
     for (std::size_t place = 0; place < wishes.size(); ++place) {
-        keys[place] = Upper(wishes[place].keys);
+        keys[place] = KeysAsGiven(wishes[place].keys);
         if (keys[place].empty()) {
             preferences.push_back(PreferredLetters(wishes[place].text));
         } else {
@@ -213,19 +209,6 @@ std::wstring QuickAccessKeyTip(std::size_t place) {
         key += L'Z';
     }
     return key + kLetters[place];
-}
-
-std::wstring WithoutMnemonic(std::wstring_view text) {
-    std::wstring result;
-    for (std::size_t place = 0; place < text.size(); ++place) {
-        if (text[place] == L'&' && place + 1 < text.size()) {
-            ++place;
-        } else if (text[place] == L'&') {
-            break;
-        }
-        result += text[place];
-    }
-    return result;
 }
 
 } // namespace ribbon

@@ -21,7 +21,4 @@ std::vector<std::wstring> AssignKeyTips(const std::vector<KeyTipWish>& wishes);
 /// Key of the command at a place (from 0) in the quick access toolbar: 1 to 9, then 09 down to 01, then 0A and so on.
 std::wstring QuickAccessKeyTip(std::size_t place);
 
-/// Without the marks of a mnemonic: "&Save && close" gives "Save & close".
-std::wstring WithoutMnemonic(std::wstring_view text);
-
 } // namespace ribbon

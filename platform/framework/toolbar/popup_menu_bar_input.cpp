@@ -2,13 +2,13 @@
 #include "afxpopupmenubar.h"
 
 #include "afxpopupmenu.h"
+#include "core/letters.h"
 #include "fx/window_guard.h"
 #include "popups/wheel_rows.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
 
 #include <algorithm>
-#include <cwctype>
 
 namespace {
 
@@ -405,7 +405,7 @@ BOOL CMFCPopupMenuBar::TranslateChar(UINT nChar) {
     if (m_rows) {
         return OnRowChar(nChar);
     }
-    const wchar_t wanted = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(nChar)));
+    const wchar_t wanted = fx::UpperCase(static_cast<wchar_t>(nChar));
     int first = -1, next = -1, found = 0;
     for (int i = 0; i < GetCount(); ++i) {
         const CMFCToolBarButton* button = GetButton(i);
@@ -414,7 +414,7 @@ BOOL CMFCPopupMenuBar::TranslateChar(UINT nChar) {
         }
         wchar_t mnemonic = m_bDropDownListMode ? 0 : toolbar::MnemonicOf(button->m_strText);
         if (mnemonic == 0 && !button->m_strText.IsEmpty()) {
-            mnemonic = static_cast<wchar_t>(std::towupper(button->m_strText[0]));
+            mnemonic = fx::UpperCase(button->m_strText[0]);
         }
         if (mnemonic != wanted) {
             continue;

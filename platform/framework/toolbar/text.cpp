@@ -1,27 +1,12 @@
+#include "core/mnemonic.h"
 #include "toolbar/metrics.h"
 
-#include <cwctype>
+namespace {
 
-CString toolbar::WithoutPrefix(const CString& text) {
-    CString shown;
-    for (int i = 0; i < text.GetLength(); ++i) {
-        if (text[i] == L'&' && ++i >= text.GetLength()) {
-            break;
-        }
-        shown += text[i];
-    }
-    return shown;
-}
+std::wstring_view View(const CString& text) { return {text, static_cast<std::size_t>(text.GetLength())}; }
 
-wchar_t toolbar::MnemonicOf(const CString& text) {
-    for (int i = 0; i + 1 < text.GetLength(); ++i) {
-        if (text[i] != L'&') {
-            continue;
-        }
-        ++i;
-        if (text[i] != L'&') {
-            return static_cast<wchar_t>(std::towupper(text[i]));
-        }
-    }
-    return 0;
-}
+} // namespace
+
+CString toolbar::WithoutPrefix(const CString& text) { return fx::WithoutMnemonic(View(text)).c_str(); }
+
+wchar_t toolbar::MnemonicOf(const CString& text) { return fx::MnemonicOf(View(text)); }

@@ -3,11 +3,10 @@
 
 #include "afxext.h"
 #include "afxtoolbarmenubutton.h"
+#include "core/letters.h"
 #include "fx/window_guard.h"
 #include "toolbar/metrics.h"
 #include "window/command_id.h"
-
-#include <cwctype>
 
 namespace {
 
@@ -258,7 +257,7 @@ void CMFCToolBar::OnCaptureChanged(CWnd*) {
 }
 
 BOOL CMFCToolBar::TranslateChar(UINT nChar) {
-    const wchar_t wanted = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(nChar)));
+    const wchar_t wanted = fx::UpperCase(static_cast<wchar_t>(nChar));
     for (int i = 0; i < GetCount(); ++i) {
         CMFCToolBarButton* button = GetButton(i);
         if (!IsPressable(button) || toolbar::MnemonicOf(button->m_strText) != wanted) {

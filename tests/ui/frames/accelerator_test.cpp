@@ -115,6 +115,13 @@ TEST_F(AcceleratorTest, AllKeysOfACommandAreNamedOnDemand) {
     EXPECT_STREQ(text, L"Ctrl+Shift+Del, Alt+X");
 }
 
+TEST_F(AcceleratorTest, CharactersHaveTheirCapitalsInEveryScript) {
+    EXPECT_EQ(CKeyboardManager::TranslateCharToUpper(L'q'), static_cast<UINT>(L'Q'));
+    EXPECT_EQ(CKeyboardManager::TranslateCharToUpper(0x00F6), 0x00D6U);
+    EXPECT_EQ(CKeyboardManager::TranslateCharToUpper(0x0444), 0x0424U);
+    EXPECT_EQ(CKeyboardManager::TranslateCharToUpper(0x03C9), 0x03A9U);
+}
+
 TEST_F(AcceleratorTest, AKeyIsHandledOnlyWithExactlyItsModifiers) {
     EXPECT_TRUE(CKeyboardManager::IsKeyHandled('S', FVIRTKEY | FCONTROL, &frame, TRUE));
     EXPECT_FALSE(CKeyboardManager::IsKeyHandled('S', FVIRTKEY, &frame, TRUE));

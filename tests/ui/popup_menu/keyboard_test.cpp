@@ -70,6 +70,35 @@ TEST_F(PopupMenuKeyTest, AMnemonicChoosesAtOnceAndOpensSubmenus) {
     EXPECT_EQ(Active(), nullptr);
 }
 
+TEST_F(PopupMenuKeyTest, AMnemonicOfAnyScriptIsFoundInAnyCase) {
+    struct Marked {
+        LPCTSTR text;
+        LPCTSTR typed;
+    };
+    // German, Russian, Greek; the last has no mark: its first letter counts.
+    constexpr Marked kMarked[] = {{L"&\x00D6"
+                                   L"ffnen",
+                                   L"\x00F6"},
+                                  {L"&\x0444\x0430\x0439\x043B", L"\x0424"},
+                                  {L"\x0388&\x03BE\x03BF\x03B4\x03BF\x03C2", L"\x03BE"},
+                                  {L"\x00E9"
+                                   L"diter",
+                                   L"\x00C9"}};
+    for (const Marked& marked : kMarked) {
+        SCOPED_TRACE(static_cast<int>(marked.typed[0]));
+        CMenu items;
+        items.CreatePopupMenu();
+        items.AppendMenu(MF_STRING, menu_ids::first, L"First");
+        items.AppendMenu(MF_STRING, menu_ids::open, marked.text);
+        m_frame->commands.clear();
+        ASSERT_TRUE((new CMFCPopupMenu)->Create(m_frame, 200, 200, items.Detach()));
+        m_keys.Type(marked.typed);
+        PumpPending();
+        EXPECT_EQ(m_frame->commands, std::vector<UINT>{menu_ids::open});
+        CMFCPopupMenu::CloseAll();
+    }
+}
+
 TEST_F(PopupMenuKeyTest, AnUnknownCharacterDoesNothingAndReachesNobody) {
     CEdit edit;
     edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), m_frame, 7);

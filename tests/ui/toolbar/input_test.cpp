@@ -92,6 +92,21 @@ TEST_F(ToolBarTest, ACommandThatNoMessageCanCarryIsNotSentAsAnother) {
     EXPECT_TRUE(m_frame->commands.empty());
 }
 
+TEST_F(ToolBarTest, AMnemonicOfAnyScriptPressesItsButton) {
+    for (const LPCTSTR text : {L"&\x00D6"
+                               L"ffnen",
+                               L"&\x0424\x0430\x0439\x043B", L"&\x03A9\x03BC\x03AD"}) {
+        m_frame->commands.clear();
+        Bar().SetButtonText(1, text);
+        const wchar_t capital = text[1];
+        EXPECT_TRUE(Bar().TranslateChar(capital));
+        wchar_t small[2] = {capital, 0};
+        ::CharLowerW(small);
+        EXPECT_TRUE(Bar().TranslateChar(small[0]));
+        EXPECT_EQ(m_frame->commands, (std::vector<UINT>{3002, 3002})) << static_cast<int>(capital);
+    }
+}
+
 TEST_F(ToolBarTest, TheTooltipIsTheTextWithoutMnemonic) {
     CString text;
     EXPECT_TRUE(Bar().OnUserToolTip(Bar().GetButton(1), text));

@@ -157,10 +157,35 @@ TEST(QuickAccessKeys, AreUniqueAndNoneBeginsAnother) {
     EXPECT_EQ(FirstClash(keys), L"");
 }
 
-TEST(Mnemonics, AreTakenOutOfATextOnceAndDoubledOnesStay) {
-    EXPECT_EQ(ribbon::WithoutMnemonic(L"&Save && close"), L"Save & close");
-    EXPECT_EQ(ribbon::WithoutMnemonic(L"plain"), L"plain");
-    EXPECT_EQ(ribbon::WithoutMnemonic(L"end&"), L"end");
+TEST(KeyLetters, PreferTheMarkedLetterOfAnyScript) {
+    EXPECT_THAT(AssignKeyTips(Texts({L"&\x00D6"
+                                     L"ffnen",
+                                     L"&\x0424\x0430\x0439\x043B", L"\x0395&\x03BE\x03BF\x03B4\x03BF\x03C2",
+                                     L"&\x0161"
+                                     L"ablona"})),
+                ElementsAre(L"\x00D6", L"\x0424", L"\x039E", L"\x0160"));
+}
+
+TEST(KeyLetters, TakeNoUnmarkedLetterThatSomeKeyboardsLack) {
+    EXPECT_THAT(AssignKeyTips(Texts({L"\x00D6"
+                                     L"ffnen",
+                                     L"\x0424\x0430\x0439\x043B"})),
+                ElementsAre(L"F", L"A"));
+}
+
+TEST(KeyLetters, TakeNoMarkedIdeograph) {
+    EXPECT_THAT(AssignKeyTips(Texts({L"&\x5730\x56FE", L"\x6587\x4EF6(&F)"})), ElementsAre(L"A", L"F"));
+}
+
+TEST(KeyLetters, ALetterWithAMarkDoesNotEndAWord) {
+    EXPECT_THAT(AssignKeyTips(Texts({L"\x00DC"
+                                     L"ber Export",
+                                     L"Beta"})),
+                ElementsAre(L"E", L"B"));
+}
+
+TEST(KeyLetters, GivenKeysAreCapitalsInEveryScript) {
+    EXPECT_THAT(AssignKeyTips({{L"\x0444\x044F", L""}, {L"\x00F6", L""}}), ElementsAre(L"\x0424\x042F", L"\x00D6"));
 }
 
 } // namespace
