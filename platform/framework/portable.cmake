@@ -14,6 +14,7 @@ add_library(framework_portable OBJECT EXCLUDE_FROM_ALL
   ribbon/edit_geometry.cpp
   ribbon/focus_walk.cpp
   ribbon/key_letters.cpp
+  ribbon/keyboard_table.cpp
   ribbon/main_panel_geometry.cpp
   ribbon/menu_geometry.cpp
   ribbon/panel_layout.cpp

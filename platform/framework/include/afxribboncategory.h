@@ -113,6 +113,9 @@ public:
     CRect GetRect() const { return m_rect; }
     CRect GetTabRect() const { return m_Tab.GetRect(); }
     const CMFCRibbonTab& GetTab() const { return m_Tab; }
+    CMFCRibbonTab& GetTab() { return m_Tab; }
+    /// Panels lie out of view on that side, and a button scrolls to them.
+    BOOL HasScrollButton(BOOL bLeft) const { return !(bLeft ? m_ScrollLeft : m_ScrollRight).GetRect().IsRectEmpty(); }
     /// Height of panels with their captions; the same for every category of the bar.
     int GetMaxHeight(CDC* pDC);
     int GetTextTopLine() const;
@@ -160,7 +163,6 @@ public:
 protected:
     // The bar makes categories, and shows and hides them.
     friend class CMFCRibbonBar;
-    friend class RibbonKeyboard;
 
     virtual void SetActive(BOOL bIsActive = TRUE);
     void CommonInit(CMFCRibbonBar* pParentRibbonBar = NULL, LPCTSTR lpszName = NULL, UINT uiSmallImagesResID = 0,

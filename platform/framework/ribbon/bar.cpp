@@ -41,7 +41,7 @@ END_MESSAGE_MAP()
 
 CMFCRibbonBar::CMFCRibbonBar(BOOL bReplaceFrameCaption)
     : m_rectCaption(0, 0, 0, 0), m_parts(std::make_unique<RibbonBarParts>(*this)) {
-    m_parts->keyboard = std::make_unique<RibbonKeyboard>(*this);
+    m_parts->keyboard = std::make_unique<RibbonKeyboard>(*this, *m_parts);
     m_parts->access = std::make_unique<RibbonBarAccess>(*this);
     m_parts->replacesCaption = bReplaceFrameCaption != FALSE;
     m_parts->quickAccess.SetParentRibbonBar(this);

@@ -1,38 +1,36 @@
 #pragma once
 
-#include <map>
-#include <memory>
-#include <string>
-#include <utility>
+#include <functional>
 #include <vector>
 
-#include "afxribbonkeytip.h"
 #include "fx/ribbon_host.h"
-#include "ribbon/focus_walk.h"
+#include "ribbon/focus_stops.h"
+#include "ribbon/key_tip_levels.h"
+#include "ribbon/keyboard_table.h"
 
 class CMFCRibbonBar;
 class CMFCRibbonBaseElement;
-class CMFCRibbonCategory;
-class CMFCRibbonPanel;
 class CMFCRibbonTab;
+struct RibbonBarParts;
 
-/// A ribbon bar's keyboard: the levels of key tips, and the focus that arrows move. Owned by its bar. While it is
-/// active the bar's window has the system's focus, or the edit window of an element has; when it ends the focus returns
-/// to where it was. A command may destroy bar and keyboard: what sends one comes last.
+/// A ribbon bar's keyboard: the levels of key tips, and the focus that arrows move. What a key does stands in
+/// keyboard_table; this class finds out the situation and carries the step out. Owned by its bar. While it is active
+/// the bar's window has the system's focus, or the edit window of an element has; when it ends the focus returns to
+/// where it was. A command may destroy bar and keyboard: what sends one comes last.
 class RibbonKeyboard final : public RibbonElementKeys {
 public:
     enum class Focus { GiveBack, Leave };
 
-    explicit RibbonKeyboard(CMFCRibbonBar& bar);
+    RibbonKeyboard(CMFCRibbonBar& bar, RibbonBarParts& parts);
     ~RibbonKeyboard();
     RibbonKeyboard(const RibbonKeyboard&) = delete;
     RibbonKeyboard& operator=(const RibbonKeyboard&) = delete;
 
-    bool IsActive() const override { return m_isActive; }
+    bool IsActive() const override { return ribbon::IsActive(m_state); }
     bool AreTipsEnabled() const { return m_areTipsEnabled; }
     void EnableTips(bool enable);
     /// Key tips are shown.
-    bool AreTipsShown() const { return m_areTipsShown; }
+    bool AreTipsShown() const { return ribbon::AreTipsShown(m_state); }
     /// Number of the level whose tips are shown, from 0; -1 while none are.
     int GetLevel() const override;
     CObject* GetCurrent() const;
@@ -55,12 +53,9 @@ public:
     bool OnSysKeyDown(UINT key, LPARAM flags);
     bool OnSysKeyUp(UINT key);
     /// Another key went down while Alt was held.
-    void OnOtherKey() { m_isAltPending = false; }
+    void OnOtherKey() { ForgetAltAlone(); }
     /// The same, and the key was taken: the release of Alt must not open the window's menu.
-    void OnAltIsUsed() override {
-        m_isAltPending = false;
-        m_swallowedUp = VK_MENU;
-    }
+    void OnAltIsUsed() override { m_awaited = ribbon::AwaitedRelease::AltTaken; }
     /// A key while the keyboard is active.
     bool OnKeyDown(const MSG& message) override;
     /// A letter of a key tip, in any case; starts with the bar's level when none is shown.
@@ -81,11 +76,13 @@ public:
     void LeaveList() override;
 
     /// The letters of the element's tip: `given`, or what its level's texts give; empty when it is in no level.
-    CString KeysOf(const CMFCRibbonBaseElement& element, bool isMenu, const CString& given) override;
+    CString KeysOf(const CMFCRibbonBaseElement& element, bool isMenu, const CString& given) override {
+        return m_levels.KeysOf(element, isMenu, given);
+    }
     /// Texts, keys or elements have changed.
-    void Forget() override { m_known.clear(); }
+    void Forget() override { m_levels.Forget(); }
     void OnElementDestroyed(const CMFCRibbonBaseElement& element);
-    void OnLayoutChanged();
+    void OnLayoutChanged() { ShowMatchingTips(); }
     void SetFocusTo(CMFCRibbonBaseElement* element);
     /// Does what Enter on the element does, wherever the focus is. Nothing follows it: a command may end the bar.
     void Invoke(CMFCRibbonBaseElement& element);
@@ -93,69 +90,62 @@ public:
     void DrawFocus(CDC& dc) const;
 
 private:
-    using Tips = std::vector<std::unique_ptr<CMFCRibbonKeyTip>>;
-    using Elements = std::vector<CMFCRibbonBaseElement*>;
-    struct Level {
-        CObject* object;                     // the bar, a category, a panel or a pop-up
-        CWnd* window;                        // that shows the elements
-        const CMFCRibbonBaseElement* anchor; // the object goes when this element goes; may be null
-        Tips tips;
-    };
+    using Elements = RibbonFocusStops::Elements;
 
-    // Levels.
-    Level MakeLevel(CObject* object) const;
-    void CollectBar(Tips& tips) const;
-    static void CollectCategory(CMFCRibbonCategory& category, Tips& tips);
-    static void Append(CMFCRibbonBaseElement& element, Tips& tips);
-    static void AppendLaunchButton(CMFCRibbonPanel& panel, Tips& tips);
-    static void Assign(Tips& tips, std::size_t first);
-    void PushLevel(CObject* object);
-    void PopLevel();
-    void ShowMatchingTips();
-    bool IsPopupOnTop() const;
-    bool IsReachable(const CMFCRibbonKeyTip& tip) const;
-    bool TypeKey(UINT key);
-    bool Type(wchar_t character);
-    void GoBack();
+    // Keys.
+    bool OnInput(ribbon::KeyInput input, UINT key, const ribbon::KeySituation& situation);
+    bool Do(ribbon::KeyAction action, UINT key);
+    void Take(ribbon::KeyAction action, UINT key);
+    ribbon::KeySituation Situation() const;
+    ribbon::KeySituation AltSituation(LPARAM flags) const;
+    ribbon::KeyPlace PlaceOf(HWND window) const;
     bool CanStart() const;
+    bool CanOpen() const;
+    void ForgetAltAlone();
+    void Handle(ribbon::KeyEvent event) { m_state = ribbon::After(m_state, event); }
+    void ShowMatchingTips();
+    void Start();
+    void StepBack();
+    bool Type(wchar_t capital);
+    bool TypeWithAlt(UINT key);
+    void TypeKey(UINT key);
 
     // What keys do.
     void Execute(CMFCRibbonBaseElement& element, bool isMenu);
+    void ExecuteFocused();
     void ExecuteTab(CMFCRibbonTab& tab);
+    void SendCommand(CMFCRibbonBaseElement& element, bool isMenu);
+    void DropDownFocused();
     void OpenMenu(CMFCRibbonBaseElement& element, bool isMenu);
-    bool HandKeyToFocused(UINT key);
+    bool OfferToFocused(UINT key);
     void TakeFocusTo(CMFCRibbonBaseElement& element);
-    bool OnArrow(UINT key);
+    void MoveByArrow(UINT key);
+    void MoveFrom(CMFCRibbonBaseElement& focused, ribbon::FocusStep step);
+    bool MoveFromTab(CMFCRibbonTab& tab, ribbon::FocusStep step);
     bool MoveAmongTabs(CMFCRibbonTab& tab, int step);
     bool MoveInCategory(CMFCRibbonBaseElement& from, ribbon::FocusStep step);
-    bool MoveAnywhere(const CMFCRibbonBaseElement& from, ribbon::FocusStep step);
+    bool ScrollOn(CMFCRibbonBaseElement& from, ribbon::FocusStep step);
+    void MoveAnywhere(const CMFCRibbonBaseElement& from, ribbon::FocusStep step);
     void MoveInOrder(bool forward);
     void MoveToEnd(bool last);
     void EnterCategory(CMFCRibbonTab& tab);
     void GoToNextPane(bool forward);
     void ChooseTab(CMFCRibbonTab& tab);
-    bool OnKeyInEdit(UINT key);
 
-    // Where the focus can stand.
-    Elements CaptionStops() const;
-    Elements Tabs() const;
-    Elements TabRowStops() const;
-    Elements CategoryStops() const;
-    CMFCRibbonTab* ActiveTab() const;
     bool HoldsFocus() const;
+    bool IsEditing() const;
     void ReturnFocus();
+    /// Runs what may destroy anything. The element, or null when it, the bar or the keyboard's activity is gone: then
+    /// the caller touches nothing any more.
+    CMFCRibbonBaseElement* SurvivorOf(CMFCRibbonBaseElement& element, const std::function<void()>& act);
 
     CMFCRibbonBar& m_bar;
-    std::vector<Level> m_levels;
-    std::wstring m_typed;
+    RibbonFocusStops m_stops;
+    RibbonKeyTipLevels m_levels;
     bool m_areTipsEnabled = true;
-    bool m_areTipsShown = false;
-    bool m_isActive = false;
-    bool m_isInList = false; // that letters opened; the tips wait for its end
-    bool m_isMovingFocus = false;
-    bool m_isAltPending = false; // Alt went down and nothing happened since
-    UINT m_swallowedUp = 0;      // key whose release belongs to a press that was taken
+    ribbon::KeyState m_state = ribbon::KeyState::Idle;
+    ribbon::AwaitedRelease m_awaited = ribbon::AwaitedRelease::Nothing;
+    bool m_isMovingFocus = false; // by itself: the messages about it say nothing new
     HWND m_formerFocus = nullptr;
     CMFCRibbonBaseElement* m_target = nullptr; // that a key acts on now; null when it is gone
-    std::map<std::pair<const CMFCRibbonBaseElement*, bool>, CString> m_known;
 };

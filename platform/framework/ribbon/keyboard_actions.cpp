@@ -1,10 +1,11 @@
-// What keys and assistive programs do with an element of a ribbon bar, and the pop-ups and lists that open by it.
+// What keys and assistive programs do with an element of a ribbon bar.
 #include <utility>
 
 #include "afxribbonbar.h"
 #include "afxRibbonEdit.h"
 #include "afxribbonpanelmenu.h"
 #include "afxribbonslider.h"
+#include "fx/window_guard.h"
 #include "ribbon/keyboard.h"
 
 namespace {
@@ -15,32 +16,51 @@ bool TakesFocus(CMFCRibbonBaseElement& element) {
     return (edit != nullptr && edit->TakesTyping()) || element.IsKindOf(RUNTIME_CLASS(CMFCRibbonSlider));
 }
 
+bool OpensMenu(CMFCRibbonBaseElement& element, bool isMenu) {
+    const auto* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element);
+    return button != nullptr && button->HasDropDown() && (isMenu || !button->IsDefaultCommand());
+}
+
 } // namespace
 
-// A command comes after the focus has returned, as if it had been clicked.
+CMFCRibbonBaseElement* RibbonKeyboard::SurvivorOf(CMFCRibbonBaseElement& element, const std::function<void()>& act) {
+    const fx::WindowGuard guard(&m_bar);
+    m_target = &element;
+    act();
+    if (guard.IsGone()) {
+        return nullptr;
+    }
+    CMFCRibbonBaseElement* survivor = std::exchange(m_target, nullptr);
+    return IsActive() ? survivor : nullptr;
+}
+
+void RibbonKeyboard::ExecuteFocused() {
+    if (CMFCRibbonBaseElement* focused = m_bar.GetFocused()) {
+        Execute(*focused, false);
+    }
+}
+
 void RibbonKeyboard::Execute(CMFCRibbonBaseElement& element, bool isMenu) {
     if (element.IsDisabled()) {
         ::MessageBeep(MB_OK);
-        return;
-    }
-    if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, &element)) {
+    } else if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, &element)) {
         ExecuteTab(*tab);
-        return;
-    }
-    const auto* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element);
-    if (TakesFocus(element)) {
+    } else if (TakesFocus(element)) {
         HideTips();
         TakeFocusTo(element);
-        return;
-    }
-    if (button != nullptr && button->HasDropDown() && (isMenu || !button->IsDefaultCommand())) {
+    } else if (OpensMenu(element, isMenu)) {
         OpenMenu(element, isMenu);
-        return;
+    } else {
+        SendCommand(element, isMenu);
     }
-    const HWND window = m_bar.GetSafeHwnd();
+}
+
+// After the focus has returned, as if the element had been clicked.
+void RibbonKeyboard::SendCommand(CMFCRibbonBaseElement& element, bool isMenu) {
+    const fx::WindowGuard guard(&m_bar);
     m_target = &element;
     Deactivate(Focus::GiveBack);
-    if (!::IsWindow(window)) {
+    if (guard.IsGone()) {
         return;
     }
     if (CMFCRibbonBaseElement* target = std::exchange(m_target, nullptr)) {
@@ -66,7 +86,7 @@ void RibbonKeyboard::Invoke(CMFCRibbonBaseElement& element) {
     } else if (TakesFocus(element)) {
         Activate();
         TakeFocusTo(element);
-    } else if (m_isActive) {
+    } else if (IsActive()) {
         Execute(element, false);
     } else if (!element.IsDisabled()) {
         element.OnKey(FALSE);
@@ -75,97 +95,65 @@ void RibbonKeyboard::Invoke(CMFCRibbonBaseElement& element) {
 
 // With tips the next letters are those of the category; without, its first element gets the focus.
 void RibbonKeyboard::ExecuteTab(CMFCRibbonTab& tab) {
-    if (!m_areTipsShown) {
+    if (!AreTipsShown()) {
         EnterCategory(tab);
         return;
     }
-    const HWND window = m_bar.GetSafeHwnd();
-    m_target = &tab;
-    ChooseTab(tab);
-    if (!::IsWindow(window) || !m_isActive || m_target == nullptr) {
+    if (SurvivorOf(tab, [this, &tab] { ChooseTab(tab); }) == nullptr) {
         return;
     }
-    m_target = nullptr;
     SetFocusTo(&tab);
     m_bar.EnsureLayout();
     CMFCRibbonCategory* category = tab.GetParentCategory();
-    if (category->GetRect().IsRectEmpty()) {
-        // Minimised: a press shows the panels, in a pop-up that brings a level of its own.
-        m_target = &tab;
-        tab.OnLButtonDown(tab.GetRect().CenterPoint());
-        if (!::IsWindow(window) || !m_isActive || std::exchange(m_target, nullptr) == nullptr) {
-            return;
-        }
+    // Minimised: a press shows the panels, in a pop-up that brings a level of its own.
+    if (category->GetRect().IsRectEmpty() &&
+        SurvivorOf(tab, [&tab] { tab.OnLButtonDown(tab.GetRect().CenterPoint()); }) == nullptr) {
+        return;
     }
-    if (!IsPopupOnTop()) {
-        PushLevel(category);
+    if (m_levels.GetPopup() == nullptr) {
+        m_levels.Push(category);
     }
     ShowMatchingTips();
+}
+
+void RibbonKeyboard::DropDownFocused() {
+    CMFCRibbonBaseElement* focused = m_bar.GetFocused();
+    if (focused != nullptr && focused->HasDropDown()) {
+        HideTips();
+        OpenMenu(*focused, true);
+    }
 }
 
 // A menu that runs its own loop is over when the call returns; a pop-up has brought its level; a list has dropped down.
 void RibbonKeyboard::OpenMenu(CMFCRibbonBaseElement& element, bool isMenu) {
-    const HWND window = m_bar.GetSafeHwnd();
-    for (const Level& level : m_levels) {
-        for (const auto& tip : level.tips) {
-            tip->Hide();
-        }
-    }
-    const std::size_t depth = m_levels.size();
+    const fx::WindowGuard guard(&m_bar);
+    const std::size_t levels = m_levels.GetCount();
+    m_levels.Hide();
     m_target = &element;
     element.OnKey(isMenu);
-    if (!::IsWindow(window) || !m_isActive) {
+    if (guard.IsGone() || !IsActive()) {
         return;
     }
     const CMFCRibbonBaseElement* target = std::exchange(m_target, nullptr);
     const bool isOpen = target != nullptr && target->IsDroppedDown();
-    if (isOpen && m_levels.size() == depth && m_areTipsShown) {
+    if (isOpen && m_levels.GetCount() == levels && AreTipsShown()) {
         HideTips();
-        m_isInList = true;
-    } else if (!IsPopupOnTop() && !isOpen) {
+        Handle(ribbon::KeyEvent::ListOpened);
+    } else if (m_levels.GetPopup() == nullptr && !isOpen) {
         Deactivate(Focus::GiveBack);
     }
 }
 
-// ---- pop-ups
-
-void RibbonKeyboard::EnterPopup(CWnd& popup, CObject* object, const std::vector<CMFCRibbonBaseElement*>& elements) {
-    if (!m_isActive) {
-        return;
+// The category is asked first; what is in none is asked itself. A handler may end the bar: then the key is taken.
+bool RibbonKeyboard::OfferToFocused(UINT key) {
+    CMFCRibbonBaseElement* focused = m_bar.GetFocused();
+    if (focused == nullptr) {
+        return false;
     }
-    Level level{object, &popup, nullptr, {}};
-    for (CMFCRibbonBaseElement* element : elements) {
-        Append(*element, level.tips);
-    }
-    Assign(level.tips, 0);
-    if (!m_levels.empty()) {
-        for (const auto& tip : m_levels.back().tips) {
-            tip->Hide();
-        }
-    }
-    m_typed.clear();
-    m_levels.push_back(std::move(level));
-    ShowMatchingTips();
-}
-
-void RibbonKeyboard::LeavePopup(const CWnd& popup, bool goesBack) {
-    for (std::size_t place = 0; place < m_levels.size(); ++place) {
-        if (m_levels[place].window != &popup) {
-            continue;
-        }
-        m_levels.resize(place);
-        m_typed.clear();
-        if (goesBack) {
-            ShowMatchingTips();
-        } else {
-            Deactivate(Focus::GiveBack);
-        }
-        return;
-    }
-}
-
-void RibbonKeyboard::LeaveList() {
-    if (std::exchange(m_isInList, false) && m_isActive) {
-        ShowTips();
-    }
+    const fx::WindowGuard guard(&m_bar);
+    CMFCRibbonCategory* category = focused->GetParentPanel() != nullptr ? m_bar.GetActiveCategory() : nullptr;
+    const bool isUsed = category != nullptr
+                            ? category->OnKey(key) != FALSE
+                            : !focused->IsKindOf(RUNTIME_CLASS(CMFCRibbonButton)) && focused->ProcessKey(key);
+    return isUsed || guard.IsGone();
 }

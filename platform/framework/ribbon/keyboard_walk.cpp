@@ -1,327 +1,77 @@
-// The focus in a ribbon bar: where it can stand, how keys move it, and what they do with the element that has it.
+// How keys move the focus of a ribbon bar.
 #include <algorithm>
-#include <utility>
-
-#include <imm.h>
 
 #include "afxDockingManager.h"
-#include "afxglobals.h"
 #include "afxribbonbar.h"
-#include "afxRibbonEdit.h"
-#include "afxribbonpanelmenu.h"
 #include "fx/frame.h"
-#include "ribbon/bar_parts.h"
+#include "fx/window_guard.h"
 #include "ribbon/keyboard.h"
+
+using ribbon::FocusStep;
 
 namespace {
 
-using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
-using Elements = std::vector<CMFCRibbonBaseElement*>;
-
-bool CanStand(CMFCRibbonBaseElement& element) {
-    return element.IsVisible() && element.IsTabStop() && !element.IsSeparator() && !element.GetRect().IsRectEmpty();
-}
-
-void AppendStops(const ElementArray& elements, Elements& stops) {
-    for (INT_PTR place = 0; place < elements.GetSize(); ++place) {
-        if (CanStand(*elements[place])) {
-            stops.push_back(elements[place]);
-        }
-    }
-}
-
-void Join(Elements& to, const Elements& from) { to.insert(to.end(), from.begin(), from.end()); }
-
-bool Contains(const Elements& elements, const CMFCRibbonBaseElement* element) {
-    return std::find(elements.begin(), elements.end(), element) != elements.end();
-}
-
-ribbon::FocusStep StepOf(UINT key) {
+FocusStep StepOf(UINT key) {
     switch (key) {
     case VK_LEFT:
-        return ribbon::FocusStep::Left;
+        return FocusStep::Left;
     case VK_RIGHT:
-        return ribbon::FocusStep::Right;
+        return FocusStep::Right;
     case VK_UP:
-        return ribbon::FocusStep::Up;
+        return FocusStep::Up;
     default:
-        return ribbon::FocusStep::Down;
+        return FocusStep::Down;
     }
 }
 
-CMFCRibbonBaseElement* NeighbourOf(const Elements& stops, const CMFCRibbonBaseElement& from, ribbon::FocusStep step) {
-    std::vector<RibbonRect> places;
-    std::size_t start = stops.size();
-    for (std::size_t place = 0; place < stops.size(); ++place) {
-        const CRect rect = stops[place]->GetRect();
-        places.push_back({static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-                          static_cast<int>(rect.bottom)});
-        start = stops[place] == &from ? place : start;
-    }
-    const auto next = ribbon::FocusNeighbour(places, start, step);
-    return next ? stops[*next] : nullptr;
-}
-
-bool CanTakeFocus(HWND window) { return ::IsWindow(window) && ::IsWindowVisible(window) && ::IsWindowEnabled(window); }
+bool IsAcross(FocusStep step) { return step == FocusStep::Left || step == FocusStep::Right; }
 
 } // namespace
 
-// ---- the system's focus
+// ---- arrows
 
-bool RibbonKeyboard::HoldsFocus() const {
-    const HWND focus = ::GetFocus();
-    return focus != nullptr && (focus == m_bar.GetSafeHwnd() || ::IsChild(m_bar.GetSafeHwnd(), focus));
-}
-
-// On its way from a pop-up back to the bar the focus passes through the frame, which is activated.
-void RibbonKeyboard::OnFocusCame(HWND former) {
-    const bool isOwn = former == m_bar.GetSafeHwnd() || ::IsChild(m_bar.GetSafeHwnd(), former);
-    if (former != nullptr && !isOwn && !m_isMovingFocus) {
-        m_formerFocus = former;
-    }
-}
-
-void RibbonKeyboard::OnEditFocusCame(HWND former) {
-    OnFocusCame(former);
-    m_isActive = m_isActive || HoldsFocus();
-}
-
-bool RibbonKeyboard::TakeFocusBack() {
-    if (!m_isActive) {
-        return false;
-    }
-    const HWND window = m_bar.GetSafeHwnd();
-    m_isMovingFocus = true;
-    m_bar.SetFocus();
-    if (::IsWindow(window)) {
-        m_isMovingFocus = false;
-    }
-    return true;
-}
-
-void RibbonKeyboard::GiveFocusBack() {
-    Deactivate(Focus::Leave);
-    ReturnFocus();
-}
-
-void RibbonKeyboard::OnFocusWent(HWND next) {
-    const bool stays = next != nullptr && (next == m_bar.GetSafeHwnd() || ::IsChild(m_bar.GetSafeHwnd(), next));
-    const HWND popup = IsPopupOnTop() ? m_levels.back().window->GetSafeHwnd() : nullptr;
-    const bool goesToPopup = next != nullptr && popup != nullptr && (next == popup || ::IsChild(popup, next));
-    if (m_isActive && !m_isMovingFocus && !stays && !goesToPopup) {
-        Deactivate(Focus::Leave);
-    }
-}
-
-void RibbonKeyboard::Activate() {
-    if (m_isActive || m_bar.GetSafeHwnd() == nullptr) {
-        return;
-    }
-    m_bar.EnsureLayout();
-    m_bar.PopTooltip();
-    m_isActive = true;
-    // Letters are for the tips, not for an input method.
-    ::ImmAssociateContext(m_bar.GetSafeHwnd(), nullptr);
-    if (::GetFocus() != m_bar.GetSafeHwnd()) {
-        // The system tells the former focus to the window that gets it; an edit in the bar is none to return to.
-        m_bar.SetFocus();
-    }
-    SetFocusTo(ActiveTab());
-}
-
-void RibbonKeyboard::Deactivate(Focus focus) {
-    if (!m_isActive) {
-        return;
-    }
-    m_isActive = false;
-    m_isInList = false;
-    m_areTipsShown = false;
-    m_typed.clear();
-    m_levels.clear();
+void RibbonKeyboard::MoveByArrow(UINT key) {
     if (CMFCRibbonBaseElement* focused = m_bar.GetFocused()) {
-        focused->SetFocused(FALSE);
-    }
-    m_bar.Invalidate(FALSE);
-    if (focus == Focus::GiveBack) {
-        ReturnFocus();
+        MoveFrom(*focused, StepOf(key));
+    } else {
+        SetFocusTo(m_stops.ActiveTab());
     }
 }
 
-// The loss of the focus may send an edit's command, which may end the bar.
-void RibbonKeyboard::ReturnFocus() {
-    if (!HoldsFocus() && !CMFCRibbonPanelMenu::IsPopupWindow(::GetFocus())) {
+void RibbonKeyboard::MoveFrom(CMFCRibbonBaseElement& focused, FocusStep step) {
+    auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, &focused);
+    if (tab != nullptr && MoveFromTab(*tab, step)) {
         return;
     }
-    const HWND former = std::exchange(m_formerFocus, nullptr);
-    const CWnd* frame = m_bar.GetTopLevelFrame();
-    if (CanTakeFocus(former) && frame != nullptr && ::GetAncestor(former, GA_ROOT) == frame->GetSafeHwnd()) {
-        ::SetFocus(former);
-    } else if (frame != nullptr) {
-        ::SetFocus(frame->GetSafeHwnd());
-    }
-}
-
-void RibbonKeyboard::SetFocusTo(CMFCRibbonBaseElement* element) {
-    CMFCRibbonBaseElement* former = m_bar.GetFocused();
-    if (element == nullptr || former == element) {
-        return;
-    }
-    const HWND window = m_bar.GetSafeHwnd();
-    m_target = element;
-    m_isMovingFocus = true;
-    if (former != nullptr) {
-        former->SetFocused(FALSE);
-    }
-    if (::GetFocus() != window) {
-        m_bar.SetFocus();
-    }
-    if (!::IsWindow(window)) {
-        return;
-    }
-    if (CMFCRibbonBaseElement* target = std::exchange(m_target, nullptr)) {
-        target->SetFocused(TRUE);
-    }
-    m_isMovingFocus = false;
-    m_bar.Invalidate(FALSE);
-}
-
-void RibbonKeyboard::DrawFocus(CDC& dc) const {
-    CMFCRibbonBaseElement* focused = m_isActive && !m_areTipsShown ? m_bar.GetFocused() : nullptr;
-    const auto* edit = DYNAMIC_DOWNCAST(CMFCRibbonEdit, focused);
-    if (focused == nullptr || focused->GetRect().IsRectEmpty() || (edit != nullptr && edit->TakesTyping())) {
-        return;
-    }
-    CRect rect = focused->GetRect();
-    const int inset = afxGlobalData.ScalePixels(2);
-    rect.DeflateRect(inset, inset);
-    const COLORREF text = dc.SetTextColor(RGB(0, 0, 0));
-    const COLORREF background = dc.SetBkColor(RGB(255, 255, 255));
-    dc.DrawFocusRect(rect);
-    dc.SetBkColor(background);
-    dc.SetTextColor(text);
-}
-
-// ---- stops
-
-RibbonKeyboard::Elements RibbonKeyboard::CaptionStops() const {
-    RibbonBarParts& parts = *m_bar.m_parts;
-    Elements stops;
-    if (parts.applicationButton != nullptr && CanStand(*parts.applicationButton)) {
-        stops.push_back(parts.applicationButton);
-    }
-    ElementArray commands;
-    parts.quickAccess.GetElements(commands);
-    AppendStops(commands, stops);
-    for (CMFCRibbonBaseElement* button :
-         {&parts.quickAccess.GetMoreButton(), &parts.quickAccess.GetCustomizeButton()}) {
-        if (CanStand(*button) && !Contains(stops, button)) {
-            stops.push_back(button);
+    if (tab == nullptr && RibbonFocusStops::Contains(m_stops.Category(), &focused)) {
+        if (MoveInCategory(focused, step)) {
+            return;
+        }
+        if (step == FocusStep::Up) {
+            SetFocusTo(m_stops.ActiveTab());
+            return;
         }
     }
-    return stops;
+    MoveAnywhere(focused, step);
 }
 
-RibbonKeyboard::Elements RibbonKeyboard::Tabs() const {
-    Elements tabs;
-    for (const auto& category : m_bar.m_parts->categories) {
-        if (category->IsVisible() && !category->m_Tab.GetRect().IsRectEmpty()) {
-            tabs.push_back(&category->m_Tab);
-        }
-    }
-    return tabs;
-}
-
-RibbonKeyboard::Elements RibbonKeyboard::TabRowStops() const {
-    Elements stops;
-    for (const auto& element : m_bar.m_parts->tabElements) {
-        ElementArray elements;
-        element->GetElements(elements);
-        AppendStops(elements, stops);
-    }
-    return stops;
-}
-
-// The scroll buttons are none: the walk scrolls by itself.
-RibbonKeyboard::Elements RibbonKeyboard::CategoryStops() const {
-    Elements stops;
-    CMFCRibbonCategory* active = m_bar.GetActiveCategory();
-    if (active == nullptr) {
-        return stops;
-    }
-    ElementArray elements;
-    active->GetVisibleElements(elements);
-    AppendStops(elements, stops);
-    std::erase_if(stops, [](CMFCRibbonBaseElement* element) {
-        return element->IsKindOf(RUNTIME_CLASS(CRibbonCategoryScroll)) != FALSE;
-    });
-    return stops;
-}
-
-CMFCRibbonTab* RibbonKeyboard::ActiveTab() const {
-    CMFCRibbonCategory* active = m_bar.GetActiveCategory();
-    return active != nullptr ? &active->m_Tab : nullptr;
-}
-
-// ---- moves
-
-// The category is asked first; what is in none is asked itself. A handler may end the bar.
-bool RibbonKeyboard::HandKeyToFocused(UINT key) {
-    CMFCRibbonBaseElement* focused = m_bar.GetFocused();
-    if (focused == nullptr) {
-        return false;
-    }
-    if (CMFCRibbonCategory* category = focused->GetParentPanel() != nullptr ? m_bar.GetActiveCategory() : nullptr) {
-        return category->OnKey(key);
-    }
-    return !focused->IsKindOf(RUNTIME_CLASS(CMFCRibbonButton)) && focused->ProcessKey(key);
-}
-
-bool RibbonKeyboard::OnArrow(UINT key) {
-    CMFCRibbonBaseElement* focused = m_bar.GetFocused();
-    if (focused == nullptr) {
-        SetFocusTo(ActiveTab());
+bool RibbonKeyboard::MoveFromTab(CMFCRibbonTab& tab, FocusStep step) {
+    if (step == FocusStep::Down) {
+        EnterCategory(tab);
         return true;
     }
-    const ribbon::FocusStep step = StepOf(key);
-    const bool isAcross = key == VK_LEFT || key == VK_RIGHT;
-    if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, focused)) {
-        if (isAcross && MoveAmongTabs(*tab, key == VK_LEFT ? -1 : 1)) {
-            return true;
-        }
-        if (key == VK_DOWN) {
-            EnterCategory(*tab);
-            return true;
-        }
-    } else if (Contains(CategoryStops(), focused)) {
-        if (MoveInCategory(*focused, step)) {
-            return true;
-        }
-        if (key == VK_UP) {
-            SetFocusTo(ActiveTab());
-            return true;
-        }
-    }
-    if (!MoveAnywhere(*focused, step) && key == VK_DOWN && Contains(CaptionStops(), focused)) {
-        const CMFCRibbonTab* tab = ActiveTab();
-        if (tab != nullptr && tab->GetRect().top >= focused->GetRect().bottom) {
-            SetFocusTo(ActiveTab());
-        }
-    }
-    return true;
+    return IsAcross(step) && MoveAmongTabs(tab, step == FocusStep::Left ? -1 : 1);
 }
 
 bool RibbonKeyboard::MoveAmongTabs(CMFCRibbonTab& tab, int step) {
-    const Elements tabs = Tabs();
+    const Elements tabs = m_stops.Tabs();
     const auto place = std::find(tabs.begin(), tabs.end(), &tab) - tabs.begin() + step;
     if (place < 0 || place >= static_cast<std::ptrdiff_t>(tabs.size())) {
         return false;
     }
     auto& next = static_cast<CMFCRibbonTab&>(*tabs[static_cast<std::size_t>(place)]);
-    const HWND window = m_bar.GetSafeHwnd();
-    m_target = &next;
-    ChooseTab(next);
-    if (::IsWindow(window) && m_isActive) {
-        SetFocusTo(std::exchange(m_target, nullptr));
+    if (CMFCRibbonBaseElement* chosen = SurvivorOf(next, [this, &next] { ChooseTab(next); })) {
+        SetFocusTo(chosen);
     }
     return true;
 }
@@ -337,36 +87,39 @@ void RibbonKeyboard::ChooseTab(CMFCRibbonTab& tab) {
 }
 
 void RibbonKeyboard::EnterCategory(CMFCRibbonTab& tab) {
-    const Elements stops = CategoryStops();
+    const Elements stops = m_stops.Category();
     if (!stops.empty()) {
         SetFocusTo(stops.front());
         return;
     }
     // Minimised: the tab shows its panels as a press on it does.
-    const HWND window = m_bar.GetSafeHwnd();
+    const fx::WindowGuard guard(&m_bar);
     tab.OnLButtonDown(tab.GetRect().CenterPoint());
-    if (::IsWindow(window) && !IsPopupOnTop()) {
-        if (const Elements shown = CategoryStops(); !shown.empty()) {
-            SetFocusTo(shown.front());
-        }
+    if (guard.IsGone() || m_levels.GetPopup() != nullptr) {
+        return;
+    }
+    if (const Elements shown = m_stops.Category(); !shown.empty()) {
+        SetFocusTo(shown.front());
     }
 }
 
-// Across the end of what is in view the category scrolls on.
-bool RibbonKeyboard::MoveInCategory(CMFCRibbonBaseElement& from, ribbon::FocusStep step) {
-    if (CMFCRibbonBaseElement* next = NeighbourOf(CategoryStops(), from, step)) {
+bool RibbonKeyboard::MoveInCategory(CMFCRibbonBaseElement& from, FocusStep step) {
+    if (CMFCRibbonBaseElement* next = RibbonFocusStops::NeighbourOf(m_stops.Category(), from, step)) {
         SetFocusTo(next);
         return true;
     }
+    return IsAcross(step) && ScrollOn(from, step);
+}
+
+// Across the end of what is in view the category scrolls on.
+bool RibbonKeyboard::ScrollOn(CMFCRibbonBaseElement& from, FocusStep step) {
     CMFCRibbonCategory& category = *m_bar.GetActiveCategory();
-    const bool goesLeft = step == ribbon::FocusStep::Left;
-    const CRibbonCategoryScroll& scroll = goesLeft ? category.m_ScrollLeft : category.m_ScrollRight;
-    const bool isAcross = goesLeft || step == ribbon::FocusStep::Right;
-    if (!isAcross || scroll.GetRect().IsRectEmpty() || !category.OnScrollHorz(goesLeft)) {
+    const BOOL goesLeft = step == FocusStep::Left;
+    if (!category.HasScrollButton(goesLeft) || !category.OnScrollHorz(goesLeft)) {
         return false;
     }
-    const Elements stops = CategoryStops();
-    CMFCRibbonBaseElement* next = NeighbourOf(stops, from, step);
+    const Elements stops = m_stops.Category();
+    CMFCRibbonBaseElement* next = RibbonFocusStops::NeighbourOf(stops, from, step);
     if (next == nullptr && !stops.empty()) {
         next = goesLeft ? stops.front() : stops.back();
     }
@@ -374,29 +127,26 @@ bool RibbonKeyboard::MoveInCategory(CMFCRibbonBaseElement& from, ribbon::FocusSt
     return true;
 }
 
-bool RibbonKeyboard::MoveAnywhere(const CMFCRibbonBaseElement& from, ribbon::FocusStep step) {
-    Elements stops = CaptionStops();
-    if (CMFCRibbonTab* tab = ActiveTab()) {
-        stops.push_back(tab);
+// Below the caption lie the tabs, also where none lies straight below.
+void RibbonKeyboard::MoveAnywhere(const CMFCRibbonBaseElement& from, FocusStep step) {
+    const Elements stops = m_stops.InOrder();
+    if (RibbonFocusStops::Contains(stops, &from)) {
+        if (CMFCRibbonBaseElement* next = RibbonFocusStops::NeighbourOf(stops, from, step)) {
+            SetFocusTo(next);
+            return;
+        }
     }
-    Join(stops, TabRowStops());
-    Join(stops, CategoryStops());
-    if (!Contains(stops, &from)) {
-        return false;
+    CMFCRibbonTab* tab = m_stops.ActiveTab();
+    if (step == FocusStep::Down && tab != nullptr && RibbonFocusStops::Contains(m_stops.Caption(), &from) &&
+        tab->GetRect().top >= from.GetRect().bottom) {
+        SetFocusTo(tab);
     }
-    CMFCRibbonBaseElement* next = NeighbourOf(stops, from, step);
-    SetFocusTo(next);
-    return next != nullptr;
 }
 
-// The tabs are one stop: Tab goes through the bar, arrows go through the tabs.
+// ---- Tab, Home, End and F6
+
 void RibbonKeyboard::MoveInOrder(bool forward) {
-    Elements stops = CaptionStops();
-    if (CMFCRibbonTab* tab = ActiveTab()) {
-        stops.push_back(tab);
-    }
-    Join(stops, CategoryStops());
-    Join(stops, TabRowStops());
+    const Elements stops = m_stops.InOrder();
     if (stops.empty()) {
         return;
     }
@@ -408,26 +158,18 @@ void RibbonKeyboard::MoveInOrder(bool forward) {
 
 void RibbonKeyboard::MoveToEnd(bool last) {
     CMFCRibbonBaseElement* focused = m_bar.GetFocused();
-    if (focused == nullptr) {
+    const Elements stops = focused != nullptr ? m_stops.RowOf(*focused) : Elements();
+    if (stops.empty()) {
         return;
     }
-    for (const Elements& stops : {CategoryStops(), Tabs(), CaptionStops(), TabRowStops()}) {
-        if (!Contains(stops, focused)) {
-            continue;
+    CMFCRibbonBaseElement* end = last ? stops.back() : stops.front();
+    if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, end)) {
+        end = SurvivorOf(*tab, [this, tab] { ChooseTab(*tab); });
+        if (end == nullptr) {
+            return;
         }
-        CMFCRibbonBaseElement* end = last ? stops.back() : stops.front();
-        if (auto* tab = DYNAMIC_DOWNCAST(CMFCRibbonTab, end)) {
-            const HWND window = m_bar.GetSafeHwnd();
-            m_target = tab;
-            ChooseTab(*tab);
-            if (!::IsWindow(window) || !m_isActive) {
-                return;
-            }
-            end = std::exchange(m_target, nullptr);
-        }
-        SetFocusTo(end);
-        return;
     }
+    SetFocusTo(end);
 }
 
 // The next of the frame's panes, or the document; without panes what had the focus before.
