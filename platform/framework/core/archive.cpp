@@ -373,7 +373,7 @@ CObject* CArchive::ReadObject(const CRuntimeClass* pClass) {
     return object.release();
 }
 
-CObject* fx::ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass) {
+CObject* fx::ArchiveChecks::ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass) {
     CArchive::Objects& objects = *ar.m_objects;
     if (objects.ownedDepth >= kDeepestOwnedObject) {
         ar.Fail(CArchiveException::badIndex);
@@ -387,7 +387,7 @@ CObject* fx::ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass) {
     return object;
 }
 
-void fx::RequireElements(CArchive& ar, ULONGLONG count) {
+void fx::ArchiveChecks::RequireElements(CArchive& ar, ULONGLONG count) {
     if (ar.m_file == nullptr) {
         ar.Fail(CArchiveException::endOfFile);
     }

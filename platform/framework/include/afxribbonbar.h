@@ -266,8 +266,6 @@ public:
     void OnPanelGoing(CMFCRibbonPanel& panel) override;
     void TellPressed(CMFCRibbonBaseElement& element, CPoint point) override;
     void OnHotChanged(CMFCRibbonBaseElement* pHot) override;
-    /// Tells the owner that the user chose another category.
-    void NotifyCategoryChanged();
     /// What a point of the bar is for its frame: HTCAPTION, HTSYSMENU (the icon), else HTCLIENT.
     LRESULT HitTestCaption(CPoint point);
     /// The row that stands for the frame's caption; empty when the frame keeps its own.

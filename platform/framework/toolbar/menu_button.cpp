@@ -86,10 +86,10 @@ void CMFCToolBarMenuButton::Serialize(CArchive& ar) {
     if (ar.IsLoading()) {
         int count = 0;
         ar >> m_bIsRadio >> m_bDrawDownArrow >> count;
-        fx::RequireElements(ar, static_cast<ULONGLONG>(count));
+        fx::ArchiveChecks::RequireElements(ar, static_cast<ULONGLONG>(count));
         std::vector<std::unique_ptr<CObject>> commands;
         for (int i = 0; i < count; ++i) {
-            commands.emplace_back(fx::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarMenuButton)));
+            commands.emplace_back(fx::ArchiveChecks::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarMenuButton)));
         }
         ClearCommands();
         for (auto& command : commands) {

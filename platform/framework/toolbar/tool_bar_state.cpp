@@ -59,11 +59,11 @@ void CMFCToolBar::Serialize(CArchive& ar) {
 void CMFCToolBar::ReadButtons(CArchive& ar) {
     int count = 0;
     ar >> count;
-    fx::RequireElements(ar, static_cast<ULONGLONG>(count)); // below zero: more than there can be
+    fx::ArchiveChecks::RequireElements(ar, static_cast<ULONGLONG>(count)); // below zero: more than there can be
     std::vector<std::unique_ptr<CMFCToolBarButton>> buttons;
     for (int i = 0; i < count; ++i) {
         buttons.emplace_back(
-            static_cast<CMFCToolBarButton*>(fx::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarButton))));
+            static_cast<CMFCToolBarButton*>(fx::ArchiveChecks::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarButton))));
     }
     int countAgain = 0;
     ar >> countAgain;

@@ -12,14 +12,17 @@ class CDocument;
 
 namespace fx {
 
-/// For lists that own what they read: like CArchive::ReadObject, but null and an object that the archive has given
-/// before throw badIndex, and so do lists within lists deeper than any that a person makes (kDeepestOwnedObject).
-FRAMEWORK_API CObject* ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass);
 constexpr int kDeepestOwnedObject = 32;
 
-/// Throws endOfFile when the archive has less than a byte left for each of `count` elements: a damaged count must not
-/// become an allocation. An archive on a file without a length is not checked.
-FRAMEWORK_API void RequireElements(CArchive& ar, ULONGLONG count);
+/// What collections ask of an archive that may be damaged.
+struct FRAMEWORK_API ArchiveChecks {
+    /// For lists that own what they read: like CArchive::ReadObject, but null and an object that the archive has given
+    /// before throw badIndex, and so do lists within lists deeper than any that a person makes (kDeepestOwnedObject).
+    static CObject* ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass);
+    /// Throws endOfFile when the archive has less than a byte left for each of `count` elements: a damaged count must
+    /// not become an allocation. An archive on a file without a length is not checked.
+    static void RequireElements(CArchive& ar, ULONGLONG count);
+};
 
 } // namespace fx
 
@@ -118,8 +121,7 @@ public:
     CDocument* m_pDocument = nullptr;
 
 private:
-    friend CObject* fx::ReadOwnedObject(CArchive& ar, const CRuntimeClass* pClass);
-    friend void fx::RequireElements(CArchive& ar, ULONGLONG count);
+    friend struct fx::ArchiveChecks;
     struct Objects;
 
     template <typename T>

@@ -135,7 +135,7 @@ public:
         } else {
             ULONGLONG count = 0;
             ar >> count;
-            fx::RequireElements(ar, count);
+            fx::ArchiveChecks::RequireElements(ar, count);
             SetSize(static_cast<INT_PTR>(count));
         }
         SerializeElements<TYPE>(ar, m_data, m_size);

@@ -112,7 +112,7 @@ public:
         }
         ULONGLONG count = 0;
         ar >> count;
-        fx::RequireElements(ar, count);
+        fx::ArchiveChecks::RequireElements(ar, count);
         for (; count > 0; --count) {
             TYPE element{};
             SerializeElements<TYPE>(ar, &element, 1);

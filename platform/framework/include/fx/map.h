@@ -115,7 +115,7 @@ public:
         }
         ULONGLONG count = 0;
         ar >> count;
-        fx::RequireElements(ar, count);
+        fx::ArchiveChecks::RequireElements(ar, count);
         for (; count > 0; --count) {
             KEY key{};
             SerializeElements<KEY>(ar, &key, 1);
