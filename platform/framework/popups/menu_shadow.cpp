@@ -70,6 +70,16 @@ bool IsBelowShadows(HWND window, const CRect& area) {
            !IsTooltip(window);
 }
 
+bool IsLayered(HWND window) { return (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_LAYERED) != 0; }
+
+/// Nothing below it is seen in the area.
+bool Covers(HWND window, const CRect& area) {
+    CRect rect, common;
+    ::GetWindowRect(window, rect);
+    const bool isShadow = dynamic_cast<const MenuShadow*>(CWnd::FromHandlePermanent(window)) != nullptr;
+    return !isShadow && !IsLayered(window) && common.IntersectRect(rect, area) && common == area;
+}
+
 void CopyWindow(HDC target, HWND window, const CRect& area) {
     CRect rect;
     ::GetWindowRect(window, rect);
@@ -78,6 +88,12 @@ void CopyWindow(HDC target, HWND window, const CRect& area) {
     ::BitBlt(target, static_cast<int>(rect.left - area.left), static_cast<int>(rect.top - area.top), rect.Width(),
              rect.Height(), source, 0, 0, SRCCOPY);
     ::ReleaseDC(window, source);
+}
+
+/// A place along a side as a shorter side has it: both ends are the same, the middle repeats.
+int Folded(int at, int length, int foldedLength) {
+    const int end = foldedLength / 2;
+    return at < end ? at : at >= length - end ? at - length + foldedLength : end;
 }
 
 std::uint32_t Darker(std::uint32_t pixel, unsigned darkness) {
@@ -172,46 +188,59 @@ void MenuShadow::Hide() {
     m_rect.SetRectEmpty();
 }
 
-/// What the visual manager's shadow takes from white.
+/// What the visual manager's shadow takes from white. A long side is like a short one with more of its middle: the
+/// shadow of a small menu is drawn, whatever the size of this one.
 void MenuShadow::MeasureDarkness(const CRect& rectMenu, int depth) {
-    m_darkness.assign(static_cast<std::size_t>(m_rect.Width()) * static_cast<std::size_t>(m_rect.Height()), 0);
-    const Picture white(m_rect.Size());
+    const CSize size = m_rect.Size();
+    m_darkness.assign(static_cast<std::size_t>(size.cx) * static_cast<std::size_t>(size.cy), 0);
+    const int longest = 6 * depth + 1;
+    const CSize small(std::min<int>(size.cx, longest), std::min<int>(size.cy, longest));
+    const Picture white(small);
     if (!white.IsValid()) {
         return;
     }
-    std::fill_n(white.Pixels(), m_darkness.size(), 0xFFFFFFFFu);
-    CRect menu = rectMenu;
-    menu.OffsetRect(-m_rect.left, -m_rect.top);
+    std::fill_n(white.Pixels(), small.cx * small.cy, 0xFFFFFFFFu);
+    CRect smallMenu(CPoint(0, 0), small);
+    smallMenu.DeflateRect(depth, depth);
     CDC dc;
     dc.Attach(white.Dc());
-    CMFCVisualManager::GetInstance()->OnDrawMenuShadow(&dc, menu, CRect(0, 0, 0, 0), depth, g_lightest, g_darkest,
+    CMFCVisualManager::GetInstance()->OnDrawMenuShadow(&dc, smallMenu, CRect(0, 0, 0, 0), depth, g_lightest, g_darkest,
                                                        nullptr, nullptr, FALSE);
     dc.Detach();
     ::GdiFlush();
-    for (std::size_t at = 0; at < m_darkness.size(); ++at) {
-        const std::uint32_t pixel = white.Pixels()[at];
-        const unsigned lightest = std::max({visual::RedOf(pixel), visual::GreenOf(pixel), visual::BlueOf(pixel)});
-        const CPoint place(static_cast<int>(at) % m_rect.Width(), static_cast<int>(at) / m_rect.Width());
-        m_darkness[at] = static_cast<std::uint8_t>(menu.PtInRect(place) ? 0 : 255 - lightest);
+    const CRect menu = rectMenu - m_rect.TopLeft();
+    for (int y = 0; y < size.cy; ++y) {
+        const std::uint32_t* const row = white.Pixels() + Folded(y, size.cy, small.cy) * small.cx;
+        for (int x = 0; x < size.cx; ++x) {
+            const std::uint32_t pixel = row[Folded(x, size.cx, small.cx)];
+            const unsigned lightest = std::max({visual::RedOf(pixel), visual::GreenOf(pixel), visual::BlueOf(pixel)});
+            const auto at = static_cast<std::size_t>(y * size.cx + x);
+            m_darkness[at] = static_cast<std::uint8_t>(menu.PtInRect(CPoint(x, y)) ? 0 : 255 - lightest);
+        }
     }
 }
 
-// Other programs' windows as they are on the screen, ours from the lowest to the one below the menu.
+// Ours from the lowest to the one below the menu; where they leave a gap, other programs' as they are on the screen.
 void MenuShadow::CopyWindowsBelow(HWND menu, std::uint32_t* pixels, HDC picture) const {
-    const HDC screen = ::GetDC(nullptr);
-    ::BitBlt(picture, 0, 0, m_rect.Width(), m_rect.Height(), screen, m_rect.left, m_rect.top, SRCCOPY);
-    ::ReleaseDC(nullptr, screen);
     std::vector<HWND> below;
-    for (HWND window = ::GetWindow(menu, GW_HWNDNEXT); window; window = ::GetWindow(window, GW_HWNDNEXT)) {
+    bool isCovered = false;
+    for (HWND window = ::GetWindow(menu, GW_HWNDNEXT); window && !isCovered;
+         window = ::GetWindow(window, GW_HWNDNEXT)) {
         if (window != m_hWnd && IsBelowShadows(window, m_rect)) {
             below.push_back(window);
+            isCovered = Covers(window, m_rect);
         }
+    }
+    if (!isCovered) {
+        const HDC screen = ::GetDC(nullptr);
+        ::BitBlt(picture, 0, 0, m_rect.Width(), m_rect.Height(), screen, m_rect.left, m_rect.top, SRCCOPY);
+        ::ReleaseDC(nullptr, screen);
     }
     for (auto window = below.rbegin(); window != below.rend(); ++window) {
         if (const auto* shadow = dynamic_cast<const MenuShadow*>(CWnd::FromHandlePermanent(*window))) {
             ::GdiFlush();
             shadow->Darken(pixels, m_rect);
-        } else if ((::GetWindowLongW(*window, GWL_EXSTYLE) & WS_EX_LAYERED) == 0) {
+        } else if (!IsLayered(*window)) {
             CopyWindow(picture, *window, m_rect);
         }
     }
