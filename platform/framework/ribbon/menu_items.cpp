@@ -73,7 +73,7 @@ CString TakeMnemonic(const CString& text, CString& key) {
 }
 
 void AskHostForMenu(CWnd* target, HMENU menu) {
-    if (target != nullptr && target->GetSafeHwnd() != nullptr) {
+    if (target != nullptr && target->GetSafeHwnd() != nullptr && ::IsMenu(menu)) {
         ::SendMessageW(target->GetSafeHwnd(), WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu), 0);
     }
 }
