@@ -1,14 +1,18 @@
 // A toolbar's buttons in the user's settings.
 #include "afxtoolbar.h"
 
-#include "afxwinappex.h"
+#include "fx/app.h"
+#include "fx/state_store.h"
 
 #include <memory>
 #include <vector>
 
 namespace {
 
-CWinAppEx* Application() { return DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp()); }
+fx::StateStore* Store() {
+    CWinApp* const application = AfxGetApp();
+    return application != nullptr ? application->GetStateStore() : nullptr;
+}
 
 CString SectionOf(const CWnd& bar, LPCTSTR profile, int index, UINT id) {
     if (index == -1) {
@@ -24,14 +28,6 @@ CString SectionOf(const CWnd& bar, LPCTSTR profile, int index, UINT id) {
 }
 
 constexpr LPCTSTR buttonsEntry = L"Buttons";
-
-bool HasButtonsEntry(CWinAppEx& application, const CString& section) {
-    LPBYTE data = nullptr;
-    UINT size = 0;
-    const BOOL exists = application.GetSectionBinary(section, buttonsEntry, &data, &size);
-    const std::unique_ptr<BYTE[]> bytes(data);
-    return exists != FALSE;
-}
 
 } // namespace
 
@@ -77,19 +73,19 @@ void CMFCToolBar::ReadButtons(CArchive& ar) {
 }
 
 BOOL CMFCToolBar::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    CWinAppEx* application = Application();
+    fx::StateStore* const store = Store();
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID);
-    if (!application || (!m_bFromConfig && !application->WriteSectionObject(section, buttonsEntry, *this))) {
+    if (!store || (!m_bFromConfig && !store->WriteObject(section, buttonsEntry, *this))) {
         return FALSE;
     }
     return CMFCBaseToolBar::SaveState(lpszProfileName, nIndex, uiID);
 }
 
 BOOL CMFCToolBar::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    CWinAppEx* application = Application();
+    fx::StateStore* const store = Store();
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID);
-    const bool mayHaveButtons = application && !m_bFromConfig && HasButtonsEntry(*application, section);
-    const BOOL hasButtons = mayHaveButtons && application->GetSectionObject(section, buttonsEntry, *this);
+    const bool mayHaveButtons = store && !m_bFromConfig && store->HasObject(section, buttonsEntry);
+    const BOOL hasButtons = mayHaveButtons && store->ReadObject(section, buttonsEntry, *this);
     if (mayHaveButtons && !hasButtons) {
         return FALSE; // damaged: the bar stays as the program made it, its place too
     }
@@ -101,7 +97,6 @@ BOOL CMFCToolBar::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
 }
 
 BOOL CMFCToolBar::RemoveStateFromRegistry(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    CWinAppEx* application = Application();
-    return application &&
-           application->CleanState(application->GetRegSectionPath(SectionOf(*this, lpszProfileName, nIndex, uiID)));
+    fx::StateStore* const store = Store();
+    return store && store->DeleteSection(SectionOf(*this, lpszProfileName, nIndex, uiID));
 }
