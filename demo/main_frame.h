@@ -25,6 +25,8 @@ public:
     BOOL CreateFrame();
     /// Writes what is shown to the file of the option --record, if there is one and it says something else so far.
     void WriteRecord();
+    /// Waits until the map is drawn, for pictures of the window.
+    void FinishMap() { m_map.Finish(); }
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);

@@ -1,8 +1,59 @@
 #include "map_window.h"
 
+#include "map_stand_in.h"
+
 #include <cmath>
 
-CMapWindow::CMapWindow(MapState& state, const MapData& data) : m_state(state), m_painter(data) {}
+namespace {
+
+constexpr UINT kPictureFinishedMessage = WM_APP + 1;
+
+/// A device context in memory with a bitmap in it.
+class BitmapDc {
+public:
+    BitmapDc(HDC model, HBITMAP bitmap) : m_dc(::CreateCompatibleDC(model)), m_earlier(::SelectObject(m_dc, bitmap)) {}
+    ~BitmapDc() {
+        ::SelectObject(m_dc, m_earlier);
+        ::DeleteDC(m_dc);
+    }
+    BitmapDc(const BitmapDc&) = delete;
+    BitmapDc& operator=(const BitmapDc&) = delete;
+
+    HDC Get() const { return m_dc; }
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_earlier;
+};
+
+COLORREF AroundTheMap(const MapState& state) {
+    const std::uint32_t color = ShownColor(state, MapLayer::Relief);
+    return RGB(color >> 16 & 0xFF, color >> 8 & 0xFF, color & 0xFF);
+}
+
+/// Everything of the window but the target, so that no pixel is drawn twice.
+void FillAround(CDC& dc, const CRect& client, const PixelBox& target, COLORREF color) {
+    const CRect covered(target.left, target.top, target.right, target.bottom);
+    const int saved = dc.SaveDC();
+    if (!covered.IsRectEmpty()) {
+        dc.ExcludeClipRect(covered);
+    }
+    dc.FillSolidRect(client, color);
+    dc.RestoreDC(saved);
+}
+
+void DrawStandIn(CDC& dc, const MapStandIn& plan, HBITMAP picture) {
+    const BitmapDc memory(dc.GetSafeHdc(), picture);
+    const PixelBox& from = plan.source;
+    const PixelBox& to = plan.target;
+    dc.SetStretchBltMode(COLORONCOLOR);
+    ::StretchBlt(dc.GetSafeHdc(), to.left, to.top, to.right - to.left, to.bottom - to.top, memory.Get(), from.left,
+                 from.top, from.right - from.left, from.bottom - from.top, SRCCOPY);
+}
+
+} // namespace
+
+CMapWindow::CMapWindow(MapState& state, const MapData& data) : m_state(state), m_data(data) {}
 
 BEGIN_MESSAGE_MAP(CMapWindow, CWnd)
 ON_WM_PAINT()
@@ -14,6 +65,7 @@ ON_WM_LBUTTONDBLCLK()
 ON_WM_MOUSEMOVE()
 ON_WM_MOUSEWHEEL()
 ON_WM_CAPTURECHANGED()
+ON_MESSAGE(kPictureFinishedMessage, OnPictureFinished)
 END_MESSAGE_MAP()
 
 BOOL CMapWindow::Create(CWnd* parent, UINT id) {
@@ -23,63 +75,73 @@ BOOL CMapWindow::Create(CWnd* parent, UINT id) {
     }
     // West stays on the left, whichever way the reader's language runs.
     ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
+    const HWND window = GetSafeHwnd();
+    m_drawer = std::make_unique<MapDrawer>(m_data, [window] { ::PostMessageW(window, kPictureFinishedMessage, 0, 0); });
     return TRUE;
 }
 
-void CMapWindow::SetStyle(const MapPaintStyle& style) {
-    m_style = style;
-    m_drawnVersion = 0;
+void CMapWindow::OrderPicture() {
+    m_shownVersion = m_state.Version();
+    if (m_drawer) {
+        m_drawer->Order(m_state, m_style, ++m_order);
+    }
     if (GetSafeHwnd()) {
         Invalidate(FALSE);
     }
 }
 
-void CMapWindow::ShowState() {
-    if (m_shownVersion == m_state.Version() || !GetSafeHwnd()) {
-        return;
+void CMapWindow::TakePicture() {
+    if (auto drawn = m_drawer->Take(); drawn && drawn->bitmap) {
+        m_drawn = std::move(drawn);
     }
-    m_shownVersion = m_state.Version();
+}
+
+LRESULT CMapWindow::OnPictureFinished(WPARAM, LPARAM) {
+    TakePicture();
     Invalidate(FALSE);
+    return 0;
+}
+
+void CMapWindow::Finish() {
+    m_drawer->Wait();
+    TakePicture();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+void CMapWindow::SetStyle(const MapPaintStyle& style) {
+    m_style = style;
+    OrderPicture();
+}
+
+void CMapWindow::ShowState() {
+    if (m_shownVersion != m_state.Version() && GetSafeHwnd()) {
+        OrderPicture();
+    }
 }
 
 void CMapWindow::OnPaint() {
     CPaintDC dc(this);
     CRect client;
     GetClientRect(client);
-    CDC memory;
-    memory.CreateCompatibleDC(&dc);
-    if (m_drawnVersion != m_state.Version() || !m_picture.GetSafeHandle()) {
-        BITMAP size = {};
-        if (m_picture.GetSafeHandle()) {
-            m_picture.GetBitmap(&size);
-        }
-        if (size.bmWidth != client.Width() || size.bmHeight != client.Height()) {
-            m_picture.DeleteObject();
-            m_picture.CreateCompatibleBitmap(&dc, std::max(client.Width(), 1), std::max(client.Height(), 1));
-        }
-        CBitmap* const earlier = memory.SelectObject(&m_picture);
-        m_painter.Paint(memory.GetSafeHdc(), m_state, m_style);
-        memory.SelectObject(earlier);
-        m_drawnVersion = m_state.Version();
+    const MapStandIn plan = m_drawn ? PlanStandIn(m_drawn->state, m_state) : MapStandIn{};
+    FillAround(dc, client, plan.target, AroundTheMap(m_state));
+    if (!plan.source.IsEmpty()) {
+        DrawStandIn(dc, plan, m_drawn->bitmap);
     }
-    CBitmap* const earlier = memory.SelectObject(&m_picture);
-    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
-    memory.SelectObject(earlier);
 }
 
 BOOL CMapWindow::MakePicture(CBitmap& picture) {
+    Finish();
     CClientDC screen(this);
     CRect client;
     GetClientRect(client);
-    if (client.IsRectEmpty() || !picture.CreateCompatibleBitmap(&screen, client.Width(), client.Height())) {
+    if (!IsFinished() || client.IsRectEmpty() ||
+        !picture.CreateCompatibleBitmap(&screen, client.Width(), client.Height())) {
         return FALSE;
     }
-    CDC memory;
-    memory.CreateCompatibleDC(&screen);
-    CBitmap* const earlier = memory.SelectObject(&picture);
-    m_painter.Paint(memory.GetSafeHdc(), m_state, m_style);
-    memory.SelectObject(earlier);
-    return TRUE;
+    const BitmapDc source(screen.GetSafeHdc(), m_drawn->bitmap);
+    const BitmapDc target(screen.GetSafeHdc(), static_cast<HBITMAP>(picture.GetSafeHandle()));
+    return ::BitBlt(target.Get(), 0, 0, client.Width(), client.Height(), source.Get(), 0, 0, SRCCOPY);
 }
 
 BOOL CMapWindow::OnEraseBkgnd(CDC*) { return TRUE; }
@@ -88,8 +150,10 @@ void CMapWindow::OnSize(UINT type, int width, int height) {
     CWnd::OnSize(type, width, height);
     if (width > 0 && height > 0) {
         m_state.SetWindowSize(width, height);
+        OrderPicture();
+        // Now: until it is painted, new area shows whatever the screen had there.
+        UpdateWindow();
     }
-    Invalidate(FALSE);
 }
 
 void CMapWindow::OnLButtonDown(UINT, CPoint point) {

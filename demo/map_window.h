@@ -3,13 +3,18 @@
 #include <afxwin.h>
 
 #include "map_data.h"
+#include "map_drawer.h"
 #include "map_painter.h"
 #include "map_state.h"
 
 #include <functional>
+#include <memory>
 
 /// The window that shows the map. Drags with the left button, zooms with the wheel and by double click. State and data
 /// are the owner's and outlive the window.
+///
+/// It never waits for a drawing: what changes is shown at once with the last finished picture, shifted or scaled to the
+/// new view, on the colour that lies around the map; the sharp picture follows when its thread has drawn it.
 class CMapWindow : public CWnd {
 public:
     CMapWindow(MapState& state, const MapData& data);
@@ -18,11 +23,15 @@ public:
 
     /// How texts and lines are drawn from now on; repaints.
     void SetStyle(const MapPaintStyle& style);
-    /// Repaints when the state has changed since the last painting.
+    /// Shows the state if it has changed since it was last shown.
     void ShowState();
+    /// Whether the window has the sharp picture of the present state.
+    bool IsFinished() const { return m_drawn && m_drawn->order == m_order; }
+    /// Waits for the sharp picture of the present state and shows it; for those who photograph the window.
+    void Finish();
     /// Is told of the place under the pointer whenever it moves.
     void SetPointerListener(std::function<void(GeoPoint)> listener) { m_pointerListener = std::move(listener); }
-    /// Draws the map as it is shown now into a new bitmap. FALSE when there is no room for one.
+    /// Copies the sharp picture of the map into a new bitmap. FALSE when there is no room for one.
     BOOL MakePicture(CBitmap& picture);
 
 protected:
@@ -35,18 +44,23 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* window);
+    afx_msg LRESULT OnPictureFinished(WPARAM, LPARAM);
     DECLARE_MESSAGE_MAP()
 
 private:
     void ZoomAt(CPoint client, double factor);
 
+    void OrderPicture();
+    void TakePicture();
+
     MapState& m_state;
-    MapPainter m_painter;
+    const MapData& m_data;
     MapPaintStyle m_style;
-    CBitmap m_picture; ///< The map as last drawn; paint messages without a change only copy it.
-    unsigned m_drawnVersion = 0;
+    std::unique_ptr<DrawnMap> m_drawn; ///< The last finished picture, perhaps of an earlier state.
+    unsigned m_order = 0;              ///< The last order that the drawer was given.
     unsigned m_shownVersion = 0;
     bool m_dragging = false;
     CPoint m_dragFrom;
     std::function<void(GeoPoint)> m_pointerListener;
+    std::unique_ptr<MapDrawer> m_drawer; ///< Made with the window.
 };

@@ -41,11 +41,15 @@ public:
         }
         frame->ShowWindow(SW_SHOW);
         frame->UpdateWindow();
+        if (!options->record.empty()) {
+            frame->FinishMap(); // a record says what is to be seen
+        }
         frame->WriteRecord();
         if (options->screenshot.empty()) {
             return TRUE;
         }
         SettleWindow(frame->GetSafeHwnd());
+        frame->FinishMap();
         m_exitCode = WriteScreenshot(frame->GetSafeHwnd(), options->screenshot) ? 0 : 1;
         frame->DestroyWindow();
         return FALSE;
