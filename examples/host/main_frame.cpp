@@ -63,6 +63,7 @@ void CMainFrame::BuildRibbon() {
     // host goes on without a ribbon.
     builder.Load(L"cfg\\ribbon.xml", &m_ribbon, TRUE);
     FillLampCombo();
+    m_ribbon.OnUpdateCmdUI(this, TRUE); // the layout paints at once: not without the commands' states
     m_ribbon.ForceRecalcLayout();
 }
 
