@@ -284,7 +284,6 @@ LEFT_OUT("the wheel of mice before the system knew wheels", CWnd, OnRegisteredMo
 
 LEFT_OUT("the menu bar that is a pane", CFrameWndEx, OnMenuButtonToolHitTest, OnSetMenu)
 LEFT_OUT("the menu bar that is a pane", CMDIFrameWndEx, OnMenuButtonToolHitTest)
-LEFT_OUT("the menu bar that is a pane", CMDIChildWndEx, GetToolbarButtonToolTipText)
 
 LEFT_OUT("the background of the MDI client is the system's", CMDIFrameWndEx, OnEraseMDIClientBackground)
 
