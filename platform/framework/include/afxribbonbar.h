@@ -320,7 +320,6 @@ protected:
     CAccessibilityData m_AccData;
 
 private:
-
     void UpdateMetrics();
     bool IsFrameTooSmall();
     void Measure(CDC* pDC);

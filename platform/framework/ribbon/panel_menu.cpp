@@ -152,7 +152,8 @@ void CMFCRibbonPanelMenu::Place() {
     request.size = SizeIn(m_wndRibbonBar, GetBorderSize(), request.workArea.Size());
     toolbar::PopupPlacement placement = toolbar::PlacePopup(request);
     if (placement.rect.Height() < request.size.cy) {
-        request.size = SizeIn(m_wndRibbonBar, GetBorderSize(), CSize(request.workArea.Width(), placement.rect.Height()));
+        request.size =
+            SizeIn(m_wndRibbonBar, GetBorderSize(), CSize(request.workArea.Width(), placement.rect.Height()));
         placement = toolbar::PlacePopup(request);
     }
     m_DropDirection = placement.direction;
