@@ -137,8 +137,10 @@ void RibbonKeyboard::OpenMenu(CMFCRibbonBaseElement& element, bool isMenu) {
     const CMFCRibbonBaseElement* target = std::exchange(m_target, nullptr);
     const bool isOpen = target != nullptr && target->IsDroppedDown();
     if (isOpen && m_levels.GetCount() == levels && AreTipsShown()) {
-        HideTips();
+        // Not by HideTips, after which nobody would know that they come back.
         Handle(ribbon::KeyEvent::ListOpened);
+        m_levels.ForgetTyped();
+        m_bar.Invalidate(FALSE);
     } else if (m_levels.GetPopup() == nullptr && !isOpen) {
         Deactivate(Focus::GiveBack);
     }
