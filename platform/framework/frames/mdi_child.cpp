@@ -160,7 +160,7 @@ CWnd* CMDIChildWnd::GetMessageBar() {
 
 void CMDIChildWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
     CMDIFrameWnd* frame = GetMDIFrame();
-    if (!frame) {
+    if (!frame || frame->GetMenuBarState() == AFX_MBS_HIDDEN) {
         return;
     }
     HMENU menu = hMenuAlt ? hMenuAlt : m_hMenuShared;
@@ -187,7 +187,8 @@ void CMDIChildWnd::OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeac
     }
     if (bActivate) {
         OnUpdateFrameMenu(nullptr);
-    } else if (const HMENU menu = frame->m_hMenuDefault; !pActivateWnd && menu) {
+    } else if (const HMENU menu = frame->m_hMenuDefault;
+               !pActivateWnd && menu && frame->GetMenuBarState() != AFX_MBS_HIDDEN) {
         frame->MDISetMenu(CMenu::FromHandle(menu), CMenu::FromHandle(frame->GetWindowMenuPopup(menu)));
     }
     frame->DelayUpdateTitle();

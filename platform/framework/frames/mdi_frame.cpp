@@ -24,7 +24,9 @@ BOOL CMDIFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pPare
         return FALSE;
     }
     // The frame keeps its menu when a maximised child brings its own.
-    m_hMenuDefault = ::GetMenu(m_hWnd);
+    if (!m_hMenuDefault) {
+        m_hMenuDefault = ::GetMenu(m_hWnd);
+    }
     return TRUE;
 }
 
@@ -129,7 +131,7 @@ void CMDIFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
         return;
     }
     const HMENU menu = hMenuAlt ? hMenuAlt : m_hMenuDefault;
-    if (menu) {
+    if (menu && GetMenuBarState() != AFX_MBS_HIDDEN) {
         MDISetMenu(CMenu::FromHandle(menu), CMenu::FromHandle(GetWindowMenuPopup(menu)));
     }
 }

@@ -73,6 +73,11 @@ BOOL CMFCRibbonBar::CreateEx(CWnd* pParentWnd, DWORD dwCtrlStyle, DWORD dwStyle,
         return FALSE;
     }
     SetPaneAlignment(CBRS_ALIGN_TOP);
+    // The ribbon stands for the menu that the frame's resource may have: Alt is for key tips. A host may show it again.
+    CFrameWnd* frame = DYNAMIC_DOWNCAST(CFrameWnd, pParentWnd);
+    if (frame != nullptr && (frame->GetStyle() & WS_CHILD) == 0) {
+        frame->SetMenuBarState(AFX_MBS_HIDDEN);
+    }
     return TRUE;
 }
 

@@ -82,7 +82,9 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
                         menu, 0, pContext)) {
         return FALSE;
     }
-    m_hMenuDefault = ::GetMenu(m_hWnd);
+    if (!m_hMenuDefault) { // else a ribbon bar has hidden it already
+        m_hMenuDefault = ::GetMenu(m_hWnd);
+    }
     LoadAccelTable(resource);
     if (!pContext) {
         SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);

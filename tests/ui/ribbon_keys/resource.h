@@ -1,0 +1,3 @@
+#pragma once
+
+#define IDR_FRAME_MENU 6100
