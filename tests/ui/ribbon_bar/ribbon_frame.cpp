@@ -74,6 +74,7 @@ BOOL RibbonFrame::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* i
 void RibbonFrame::OnGetMinMaxInfo(MINMAXINFO* limits) {
     CFrameWndEx::OnGetMinMaxInfo(limits);
     limits->ptMaxTrackSize = {10000, 10000};
+    limits->ptMinTrackSize = {1, 1}; // the system's follows its caption font
 }
 
 LRESULT RibbonFrame::OnCategoryChanged(WPARAM, LPARAM lParam) {

@@ -22,10 +22,12 @@ protected:
         return combo;
     }
     static int FirstShown() { return ListBar().HitTest(CPoint(5, 0)); }
+    /// The last row that is seen whole.
     static int LastShown() {
         CRect client;
         ListBar().GetClientRect(client);
-        return ListBar().HitTest(CPoint(5, client.bottom - 1));
+        const int row = ListBar().GetRowHeight();
+        return ListBar().HitTest(CPoint(5, client.Height() / row * row - 1));
     }
     void FocusOn(CMFCRibbonComboBox& combo) {
         m_pointer.Click(combo.GetEditWnd()->GetSafeHwnd(), CPoint(3, 3));

