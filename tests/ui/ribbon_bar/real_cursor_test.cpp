@@ -144,7 +144,7 @@ protected:
 
 TEST_F(EditTipTest, TheEditWindowShowsTheTipOfItsElement) {
     ASSERT_EQ(CWnd::WindowFromPoint(InEdit()), Edit().GetEditWnd());
-    ASSERT_TRUE(ShowsTipAt(InEdit(), L"Size of the text"));
+    ASSERT_TRUE(ShowsTipAt(InEdit(), Edit().GetText()));
     CRect bar, tip;
     Bar().GetWindowRect(bar);
     Tip().GetWindowRect(tip);
@@ -155,9 +155,9 @@ TEST_F(EditTipTest, TheEditWindowShowsTheTipOfItsElement) {
 }
 
 TEST_F(EditTipTest, TheEditAndItsNeighboursShowTheirOwnTipsInTurn) {
-    EXPECT_TRUE(ShowsTipAt(InEdit(), L"Size of the text"));
+    EXPECT_TRUE(ShowsTipAt(InEdit(), Edit().GetText()));
     EXPECT_TRUE(ShowsTipAt(OnScreen(commands::paste), L"Paste"));
-    EXPECT_TRUE(ShowsTipAt(InEdit(), L"Size of the text")) << "again";
+    EXPECT_TRUE(ShowsTipAt(InEdit(), Edit().GetText())) << "again";
 }
 
 TEST_F(EditTipTest, TheEditAndItsPanelAreLitWhileThePointerIsInTheEditWindow) {
