@@ -9,7 +9,7 @@ JOBS ?= $(shell nproc)
 help:
 	@echo "make demo   build the demo application and show it (or write build/demo.png where there is no display)"
 	@echo "make test   build everything and run every test (test-native, test-windows, test-e2e: a part of them)"
-	@echo "make lint   formatting, static analysis, layers, headers, exports, spelling"
+	@echo "make lint   formatting, layers, link edges, headers, exports, spelling; scripts/lint tidy is the static analysis"
 	@echo "make bench  measure, each figure beside its floor"
 	@echo "make build  build only; the programs lie in $(BIN)"
 

@@ -89,6 +89,7 @@ void CMFCToolBarMenuButton::Serialize(CArchive& ar) {
         fx::ArchiveChecks::RequireElements(ar, static_cast<ULONGLONG>(count));
         std::vector<std::unique_ptr<CObject>> commands;
         for (int i = 0; i < count; ++i) {
+            // The count may be a damaged one. NOLINTNEXTLINE(performance-inefficient-vector-operation)
             commands.emplace_back(fx::ArchiveChecks::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarMenuButton)));
         }
         ClearCommands();

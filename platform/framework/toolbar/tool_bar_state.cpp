@@ -58,6 +58,8 @@ void CMFCToolBar::ReadButtons(CArchive& ar) {
     fx::ArchiveChecks::RequireElements(ar, static_cast<ULONGLONG>(count)); // below zero: more than there can be
     std::vector<std::unique_ptr<CMFCToolBarButton>> buttons;
     for (int i = 0; i < count; ++i) {
+        // No room is made beforehand: the count may be a damaged one.
+        // NOLINTNEXTLINE(performance-inefficient-vector-operation)
         buttons.emplace_back(
             static_cast<CMFCToolBarButton*>(fx::ArchiveChecks::ReadOwnedObject(ar, RUNTIME_CLASS(CMFCToolBarButton))));
     }
