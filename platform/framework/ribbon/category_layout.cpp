@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <optional>
 
 namespace {
 
@@ -40,14 +41,23 @@ public:
         return next < steps.size() && steps[next].phase == Phase::Collapsed ? Width(panel) - steps[next].width : 0;
     }
 
+    // Narrowing is no phase of its own to a host that orders them: what follows goes with it.
     void TakeNextPhase(size_t panel) {
-        const auto& steps = m_panels[panel].Steps();
-        if (static_cast<size_t>(m_taken[panel]) < steps.size()) {
-            Take(panel, steps[static_cast<size_t>(m_taken[panel])].phase);
+        if (NextPhase(panel) == Phase::Narrow) {
+            Take(panel, Phase::Narrow);
+        }
+        if (const auto next = NextPhase(panel)) {
+            Take(panel, *next);
         }
     }
 
 private:
+    std::optional<Phase> NextPhase(size_t panel) const {
+        const auto& steps = m_panels[panel].Steps();
+        const auto next = static_cast<size_t>(m_taken[panel]);
+        return next < steps.size() ? std::optional(steps[next].phase) : std::nullopt;
+    }
+
     std::span<const RibbonPanelLadder> m_panels;
     std::vector<int> m_taken;
     int m_total;

@@ -134,6 +134,7 @@ struct RibbonCategoryArrangement {
 /// Fits the panels into width: first larger elements become intermediate, panel by panel from the right, then edits
 /// and sliders narrow, then elements become compact, then panels collapse, the one that gives up most first, so that
 /// none is collapsed that there is room for; what does not fit even then scrolls by whole panels, from firstPanel on.
-/// collapseOrder names panels that give up a whole phase before the others; it may name a panel several times.
+/// collapseOrder names panels that give up a whole phase before the others, narrowing with the one after it; it may
+/// name a panel several times.
 RibbonCategoryArrangement ArrangeCategory(std::span<const RibbonPanelLadder> panels, const RibbonMetrics& metrics,
                                           int width, std::span<const int> collapseOrder = {}, int firstPanel = 0);
