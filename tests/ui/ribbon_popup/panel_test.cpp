@@ -50,6 +50,10 @@ TEST_F(CollapsedPanel, ItsColumnsAreJustifiedAndCentredAsInTheRibbon) {
     panel.RemoveAll();
     panel.Add(new CMFCRibbonEdit(kLine, 300, L"Short"));
     panel.Add(new CMFCRibbonEdit(kStar, 300, L"A longer label"));
+    panel.AddSeparator();
+    for (UINT i = 0; i < 9; ++i) { // what does not narrow as edits do: the panel would never collapse
+        panel.Add(new CMFCRibbonButton(950 + i, L"Button"));
+    }
     const auto places = [&panel] {
         const CRect first = panel.GetElement(0)->GetRect();
         return std::pair{first.Width() - panel.GetElement(1)->GetRect().Width(), first.top};
