@@ -1,7 +1,8 @@
 #pragma once
 
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h>
 
 /// What decides where a maximised frame without system caption lies. Rectangles on the screen.
 struct MaximizedSurroundings {
