@@ -79,12 +79,16 @@ private:
     std::array<std::uint8_t, 512> m_start;
 };
 
-/// Whether the headers of an existing file forbid to decode it.
-bool IsKeptFromDecoding(const wchar_t* path) {
+/// What the headers of a file say of its pictures, nothing of one that cannot be opened. No value when they forbid to
+/// decode it.
+std::optional<std::vector<IconPicture>> PicturesToDecode(const wchar_t* path) {
     InputFile file(path);
-    return file.IsOpen() && !MayDecode(ReadIconHeaders([&file](std::uint64_t offset, std::span<std::uint8_t> bytes) {
-               return file.Read(offset, bytes);
-           }));
+    if (!file.IsOpen()) {
+        return std::vector<IconPicture>();
+    }
+    auto pictures = ReadIconHeaders(
+        [&file](std::uint64_t offset, std::span<std::uint8_t> bytes) { return file.Read(offset, bytes); });
+    return MayDecode(pictures) ? std::move(pictures) : std::nullopt;
 }
 
 /// The path as the system walks it: absolute, without "." and "..". Empty for what is no path.
@@ -118,15 +122,17 @@ bool LeavesInstallation(const wchar_t* path) {
     return !StartsWith(WalkedPath(path), WalkedPath(directory.c_str()));
 }
 
-FileIcon::FileIcon(const wchar_t* path, int side) {
+FileIcon::FileIcon(const wchar_t* path, int usualSide, int drawnSide) {
     if (!*path || LeavesInstallation(path)) {
         return;
     }
     ++s_readCount;
-    if (IsKeptFromDecoding(path)) {
+    const auto pictures = PicturesToDecode(path);
+    if (!pictures) {
         return;
     }
-    m_icon = static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, side, side, LR_LOADFROMFILE));
+    m_side = SideToLoad(*pictures, usualSide, drawnSide);
+    m_icon = static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, m_side, m_side, LR_LOADFROMFILE));
     if (m_icon) {
         ++s_aliveCount;
     }
@@ -151,5 +157,5 @@ void TryIconFile(const wchar_t* path, int side) {
         return;
     }
     tried->second = stamp;
-    const FileIcon trial(path, side);
+    const FileIcon trial(path, side, side);
 }

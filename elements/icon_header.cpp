@@ -97,3 +97,19 @@ bool MayDecode(const std::optional<std::vector<IconPicture>>& pictures) {
                return picture.width <= kLongestIconSide && picture.height <= kLongestIconSide;
            });
 }
+
+int SideToLoad(const std::vector<IconPicture>& pictures, int usual, int drawn) {
+    if (drawn == usual) {
+        return usual;
+    }
+    int fitting = 0;
+    int largest = usual;
+    for (const IconPicture& picture : pictures) {
+        const int side = static_cast<int>(std::max(picture.width, picture.height));
+        if (side >= drawn && (fitting == 0 || side < fitting)) {
+            fitting = side;
+        }
+        largest = std::max(largest, side);
+    }
+    return fitting != 0 ? fitting : largest;
+}

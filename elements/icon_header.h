@@ -30,3 +30,8 @@ inline constexpr std::size_t kMostIconPictures = 256;
 
 /// Whether the file's pictures may be decoded: there is one, and none is larger than kLongestIconSide.
 bool MayDecode(const std::optional<std::vector<IconPicture>>& pictures);
+
+/// The side, in pixels, at which to load a file for a picture that is drawn `drawn` pixels wide: that of its smallest
+/// picture that need not be enlarged, otherwise of its largest. On a display of 100 %, where the picture is drawn
+/// `usual` pixels wide, and for a file that has nothing larger it is `usual`.
+int SideToLoad(const std::vector<IconPicture>& pictures, int usual, int drawn);

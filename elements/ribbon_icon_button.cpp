@@ -7,6 +7,8 @@
 #include <fx/dc_scope.h>
 #include <varnhold/language.h>
 
+#include <algorithm>
+
 IMPLEMENT_DYNCREATE(CMFCRibbonUNIcoButton, CMFCRibbonButton)
 
 CString CMFCRibbonUNIcoButton::s_skinStyle;
@@ -42,8 +44,8 @@ CString AlternateOf(const CString& path) {
 
 /// The chosen file, unless the primary path leaves the installation: its alternate would too, and no longer show it
 /// where "modle" is a part of the installation directory.
-FileIcon LoadedIcon(const CString& primaryPath, const CString& chosenPath, int side) {
-    return LeavesInstallation(primaryPath) ? FileIcon() : FileIcon(chosenPath, side);
+FileIcon LoadedIcon(const CString& primaryPath, const CString& chosenPath, int usualSide, int drawnSide) {
+    return LeavesInstallation(primaryPath) ? FileIcon() : FileIcon(chosenPath, usualSide, drawnSide);
 }
 
 /// Puts another value in a variable's place and the old one back at the end of the scope.
@@ -116,8 +118,16 @@ void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original,
 
 void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect) {
     const bool alternate = s_skinStyle == L"0";
-    const FileIcon large = LoadedIcon(m_largeIconPath, alternate ? m_largeAlternatePath : m_largeIconPath, largeSide);
-    const FileIcon small = LoadedIcon(m_smallIconPath, alternate ? m_smallAlternatePath : m_smallIconPath, smallSide);
+    const CSize unscaled = UnscaledSize(type);
+    const CSize scaled = ScaledSize(type);
+    const auto drawnSide = [&](bool isDrawn, int usualSide) {
+        return isDrawn && scaled != unscaled ? static_cast<int>(scaled.cx) : usualSide;
+    };
+    // The large file stands in for a small one that is missing.
+    const FileIcon large = LoadedIcon(m_largeIconPath, alternate ? m_largeAlternatePath : m_largeIconPath, largeSide,
+                                      drawnSide(true, largeSide));
+    const FileIcon small = LoadedIcon(m_smallIconPath, alternate ? m_smallAlternatePath : m_smallIconPath, smallSide,
+                                      drawnSide(type == RibbonImageSmall, smallSide));
     // The handles are the element's own for the time of this draw only.
     const Lent largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);
     if (!m_hIcon) {
@@ -128,15 +138,18 @@ void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect r
     const Lent smallHandle(m_hIconSmall, small.Get() ? small.Get() : m_hIconSmall);
     const HICON icon = type == RibbonImageSmall && m_hIconSmall ? m_hIconSmall : m_hIcon;
     if (m_bIsDisabled) {
-        DrawDisabledIcon(dc, icon, UnscaledSize(type), ScaledSize(type), rect.TopLeft());
+        // In the pixels that were loaded: enlarged before it is drawn, it would be blurred.
+        const int loaded = icon == large.Get() ? large.GetSide() : icon == small.Get() ? small.GetSide() : 0;
+        const int side = std::clamp<int>(loaded, unscaled.cx, std::max(unscaled.cx, scaled.cx));
+        DrawDisabledIcon(dc, icon, CSize(side, side), scaled, rect.TopLeft());
     } else {
-        DrawEnabledIcon(dc, icon, ScaledSize(type), rect.TopLeft());
+        DrawEnabledIcon(dc, icon, scaled, rect.TopLeft());
     }
 }
 
-void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, HICON icon, CSize unscaled, CSize scaled, CPoint corner) const {
+void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, HICON icon, CSize listed, CSize scaled, CPoint corner) const {
     CMFCToolBarImages images;
-    images.SetImageSize(unscaled);
+    images.SetImageSize(listed);
     const int index = images.AddIcon(icon, m_bAlphaBlendIcon);
     CAfxDrawState state;
     if (index < 0 || !images.PrepareDrawImage(state, scaled)) {

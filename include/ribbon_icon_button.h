@@ -73,7 +73,8 @@ private:
     CMFCRibbonUNIcoButton* GetIconButtonOriginal() const;
     void DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type, CRect rect);
     void DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect);
-    void DrawDisabledIcon(CDC* dc, HICON icon, CSize unscaled, CSize scaled, CPoint corner) const;
+    /// `listed`: the size of the picture that is made grey, then drawn `scaled`.
+    void DrawDisabledIcon(CDC* dc, HICON icon, CSize listed, CSize scaled, CPoint corner) const;
     void DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, CPoint corner) const;
 
     static CString s_skinStyle;

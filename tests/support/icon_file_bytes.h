@@ -36,15 +36,17 @@ inline std::string PngHeader(std::int32_t width, std::int32_t height) {
            BigEndian(static_cast<std::uint32_t>(height)) + std::string("\x08\x06\0\0\0", 5);
 }
 
-/// An icon file of these pictures. Its directory says 0 of every size.
-inline std::string MakeIconDirectory(const std::vector<std::string>& pictures) {
+/// An icon file of these pictures. Its directory says these sides of them, 0 where there is none.
+inline std::string MakeIconDirectory(const std::vector<std::string>& pictures, const std::vector<int>& sides = {}) {
     std::string directory =
         LittleEndian(0, 2) + LittleEndian(1, 2) + LittleEndian(static_cast<std::uint32_t>(pictures.size()), 2);
     std::string behind;
-    for (const std::string& picture : pictures) {
+    for (std::size_t index = 0; index < pictures.size(); ++index) {
+        const std::string& picture = pictures[index];
         const std::size_t offset = 6 + pictures.size() * 16 + behind.size();
-        directory += std::string(4, '\0') + LittleEndian(1, 2) + LittleEndian(32, 2) +
-                     LittleEndian(static_cast<std::uint32_t>(picture.size()), 4) +
+        const auto side = static_cast<std::uint32_t>(index < sides.size() ? sides[index] : 0);
+        directory += LittleEndian(side, 1) + LittleEndian(side, 1) + std::string(2, '\0') + LittleEndian(1, 2) +
+                     LittleEndian(32, 2) + LittleEndian(static_cast<std::uint32_t>(picture.size()), 4) +
                      LittleEndian(static_cast<std::uint32_t>(offset), 4);
         behind += picture;
     }

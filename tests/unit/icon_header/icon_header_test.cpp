@@ -142,4 +142,38 @@ TEST(IconHeader, EveryShorterFileIsReadWithoutHarm) {
     }
 }
 
+// ---- which picture is drawn
+
+std::vector<IconPicture> Pictures(std::initializer_list<std::uint32_t> sides) {
+    std::vector<IconPicture> pictures;
+    for (const std::uint32_t side : sides) {
+        pictures.push_back({side, side, 0, 0});
+    }
+    return pictures;
+}
+
+TEST(IconSide, TheSmallestPictureThatNeedNotBeEnlargedIsDrawn) {
+    const auto pictures = Pictures({64, 16, 32, 20, 48, 24});
+    EXPECT_EQ(SideToLoad(pictures, 16, 20), 20);
+    EXPECT_EQ(SideToLoad(pictures, 16, 28), 32) << "made smaller, not larger";
+    EXPECT_EQ(SideToLoad(pictures, 32, 48), 48);
+    EXPECT_EQ(SideToLoad(pictures, 32, 64), 64);
+    EXPECT_EQ(SideToLoad(pictures, 32, 24), 24) << "a large file that is drawn small";
+}
+
+TEST(IconSide, TheLargestPictureIsEnlargedWhereNoneIsLargeEnough) {
+    EXPECT_EQ(SideToLoad(Pictures({16, 40, 32}), 32, 64), 40);
+}
+
+TEST(IconSide, AFileWithNothingLargerIsLoadedInItsUsualSize) {
+    EXPECT_EQ(SideToLoad(Pictures({32}), 32, 64), 32);
+    EXPECT_EQ(SideToLoad(Pictures({16}), 32, 64), 32);
+    EXPECT_EQ(SideToLoad({}, 32, 64), 32);
+}
+
+TEST(IconSide, OnAnOrdinaryDisplayItIsTheUsualSizeWhateverTheFileHolds) {
+    EXPECT_EQ(SideToLoad(Pictures({48, 64}), 32, 32), 32);
+    EXPECT_EQ(SideToLoad(Pictures({24}), 16, 16), 16);
+}
+
 } // namespace
