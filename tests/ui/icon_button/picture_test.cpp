@@ -39,7 +39,7 @@ TEST_F(IconButton, LargeFileThatIsMissingDrawsNothingWithoutImageIndexes) {
 }
 
 TEST_F(IconButton, WithoutPathsNothingIsDrawnEvenWithIcons) {
-    const FileIcon icon(m_large, 32);
+    const FileIcon icon(m_large, 32, 32);
     ASSERT_NE(icon.Get(), nullptr);
     CMFCRibbonUNIcoButton withIcon(1, L"", icon.Get());
     EXPECT_EQ(ExtentDrawn(withIcon, Large), CSize(0, 0));
@@ -88,7 +88,7 @@ protected:
         CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small, FALSE, blends);
         button.SetDisabled(TRUE);
         const int side = type == Large ? 32 : 16;
-        const FileIcon icon(type == Large ? m_large : m_small, side);
+        const FileIcon icon(type == Large ? m_large : m_small, side, side);
         CMFCToolBarImages images;
         images.SetImageSize(CSize(side, side));
         ASSERT_EQ(images.AddIcon(icon.Get(), blends), 0);
