@@ -26,16 +26,33 @@ endif()
 # Known to barwright_host wherever it is called.
 set_property(GLOBAL PROPERTY BARWRIGHT_RUNTIME_FILES "${runtime_files}")
 
-# barwright_host(NAME [FOLDERS ...]): the program NAME is a host. It is linked with the library and the entry of a program
+# barwright_skin_pictures(NAME FOLDER): the program NAME finds the skins' pictures in FOLDER/pic/skin.
+function(barwright_skin_pictures name folder)
+  get_target_property(pictures skin_art PICTURES)
+  get_target_property(rendered skin_art STAMP)
+  set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${name}_skins.stamp)
+  add_custom_command(OUTPUT ${stamp}
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${pictures} ${folder}/pic/skin
+    COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+    DEPENDS skin_art ${rendered} VERBATIM)
+  add_custom_target(${name}_skins DEPENDS ${stamp})
+  add_dependencies(${name} ${name}_skins)
+endfunction()
+
+# barwright_host(NAME [SKINS] [FOLDERS ...]): the program NAME is a host. It is linked with the library and the entry of a program
 # with a global application object, and finds the DLLs beside it after each build. FOLDERS (cfg lang pic) are its
 # installation files, given from the current source folder; they are copied beside it, too, whenever one of their files changes.
+# SKINS: so are the pictures of the black and the silver skin.
 function(barwright_host name)
-  cmake_parse_arguments(ARG "" "" "FOLDERS" ${ARGN})
+  cmake_parse_arguments(ARG "SKINS" "" "FOLDERS" ${ARGN})
   get_property(runtime_files GLOBAL PROPERTY BARWRIGHT_RUNTIME_FILES)
   target_link_libraries(${name} PRIVATE barwright framework_main)
   add_custom_command(TARGET ${name} POST_BUILD
     COMMAND ${CMAKE_COMMAND} -E copy_if_different $<TARGET_RUNTIME_DLLS:${name}> ${runtime_files} $<TARGET_FILE_DIR:${name}>
     COMMAND_EXPAND_LISTS VERBATIM)
+  if(ARG_SKINS)
+    barwright_skin_pictures(${name} $<TARGET_FILE_DIR:${name}>)
+  endif()
   if(NOT ARG_FOLDERS)
     return()
   endif()
