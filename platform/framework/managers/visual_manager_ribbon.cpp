@@ -1,6 +1,7 @@
 #include "afxvisualmanager.h"
 
 #include "managers/manager_look.h"
+#include "ribbon/shown_text.h"
 
 #include <afxribbonbar.h>
 #include <afxribboncategory.h>
@@ -138,7 +139,7 @@ COLORREF CMFCVisualManager::OnDrawRibbonPanel(CDC* pDC, CMFCRibbonPanel* pPanel,
 }
 
 void CMFCVisualManager::OnDrawRibbonPanelCaption(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectCaption) {
-    const CString name = pPanel->GetName();
+    const CString name = ribbon::PlainText(pPanel->GetName());
     if (const CRect launch = pPanel->GetLaunchButton().GetRect(); !launch.IsRectEmpty()) {
         rectCaption.right = launch.left;
     }

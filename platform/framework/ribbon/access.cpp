@@ -220,10 +220,10 @@ void RibbonAccess::Describe(const Node& node, CAccessibilityData& data) const {
         return;
     }
     if (node.kind == Kind::Category) {
-        data.m_strName = WithoutMnemonic(CategoryOf(node).GetName());
+        data.m_strName = ribbon::PlainText(CategoryOf(node).GetName());
         data.m_nRole = ROLE_SYSTEM_PROPERTYPAGE;
     } else if (node.kind == Kind::Panel) {
-        data.m_strName = WithoutMnemonic(PanelOf(node).GetName());
+        data.m_strName = ribbon::PlainText(PanelOf(node).GetName());
         data.m_nRole = ROLE_SYSTEM_GROUPING;
     }
     data.m_rect = RectOf(node);

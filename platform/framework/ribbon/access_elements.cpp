@@ -52,8 +52,8 @@ LONG StateOf(const CMFCRibbonBaseElement& element) {
 
 BOOL CMFCRibbonBaseElement::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     data = {};
-    const CString text = GetShownText();
-    data.m_strName = WithoutMnemonic(text.IsEmpty() ? GetToolTipText() : text);
+    const CString text = ribbon::PlainTextOf(*this);
+    data.m_strName = text.IsEmpty() ? GetToolTipText() : text;
     data.m_strDescription = GetDescription();
     if (IsTabStop()) {
         data.m_strKeys = KeysOf(*this);

@@ -27,10 +27,10 @@ LONG RoleOf(RibbonPopupLook look) {
 /// What opened the pop-up names it, unless what it shows has a name.
 CString NameOf(const CMFCRibbonPanelMenuBar& popup) {
     if (const CMFCRibbonCategory* category = popup.GetCategory()) {
-        return WithoutMnemonic(category->GetName());
+        return ribbon::PlainText(category->GetName());
     }
     if (popup.GetLook() == RibbonPopupLook::Panel && popup.GetPanel() != nullptr) {
-        return WithoutMnemonic(popup.GetPanel()->GetName());
+        return ribbon::PlainText(popup.GetPanel()->GetName());
     }
     const CMFCRibbonPanelMenu* menu = popup.GetMenu();
     CMFCRibbonBaseElement* opener = menu != nullptr ? menu->GetOpener() : nullptr;

@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-#include "core/mnemonic.h"
+#include "ribbon/shown_text.h"
 
 /// Texts for assistive programs; string resources of the framework.
 enum class RibbonAccessTextId : UINT {
@@ -21,7 +21,3 @@ enum class RibbonAccessTextId : UINT {
 };
 
 CString RibbonAccessText(RibbonAccessTextId id);
-
-inline CString WithoutMnemonic(const CString& text) {
-    return fx::WithoutMnemonic({text, static_cast<std::size_t>(text.GetLength())}).c_str();
-}

@@ -60,7 +60,7 @@ CMFCRibbonCategory* CMFCRibbonBar::AddContextCategory(LPCTSTR lpszName, LPCTSTR 
         caption->SetParentRibbonBar(this);
         caption->SetText(lpszContextName);
         caption->SetContext(uiContextID, clrContext);
-        m_parts->contexts.push_back({uiContextID, CString(lpszContextName), std::move(caption)});
+        m_parts->contexts.push_back({uiContextID, caption->GetText(), std::move(caption)});
     }
     return category;
 }

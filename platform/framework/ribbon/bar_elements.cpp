@@ -5,6 +5,7 @@
 #include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
 #include "ribbon/font_scope.h"
+#include "ribbon/shown_text.h"
 
 // ---- application button
 
@@ -65,7 +66,7 @@ void CMFCRibbonApplicationButton::OnDraw(CDC* pDC) {
     if (m_Image.GetCount() > 0 || GetIcon(TRUE) != nullptr) {
         DrawImage(pDC, RibbonImageLarge, m_rect);
     } else {
-        DrawCenteredText(*pDC, m_strText, m_rect, static_cast<COLORREF>(-1));
+        DrawCenteredText(*pDC, ribbon::PlainText(m_strText), m_rect, static_cast<COLORREF>(-1));
     }
 }
 
@@ -77,7 +78,7 @@ CMFCRibbonContextCaption::CMFCRibbonContextCaption() = default;
 
 void CMFCRibbonContextCaption::OnDraw(CDC* pDC) {
     const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawRibbonCategoryCaption(pDC, this);
-    DrawCenteredText(*pDC, m_strText, m_rect, color);
+    DrawCenteredText(*pDC, ribbon::PlainText(m_strText), m_rect, color);
 }
 
 void CMFCRibbonContextCaption::OnClick(CPoint /*point*/) {

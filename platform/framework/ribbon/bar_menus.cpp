@@ -27,9 +27,8 @@ private:
 } // namespace
 
 CMFCRibbonButton& RibbonMenu::Append(const CString& text, Action action) {
-    CString key;
-    auto item = std::make_unique<ActionButton>(TakeMnemonic(text, key), std::move(action));
-    item->SetKeys(nullptr, key);
+    auto item = std::make_unique<ActionButton>(text, std::move(action));
+    item->SetKeys(nullptr, MnemonicOf(text));
     CMFCRibbonButton& added = *item;
     m_items.push_back(std::move(item));
     return added;

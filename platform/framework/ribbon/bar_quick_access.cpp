@@ -9,14 +9,16 @@
 #include "ribbon/bar_menus.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/element_walk.h"
+#include "ribbon/shown_text.h"
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 
 namespace {
 
+// As the text of a row: only a text of the element itself has a mark.
 CString NameOf(const CMFCRibbonBaseElement& element) {
     const CString text = element.GetShownText();
-    return text.IsEmpty() ? element.GetToolTipText() : text;
+    return text.IsEmpty() ? ribbon::MarkedText(element.GetToolTipText()) : text;
 }
 
 } // namespace

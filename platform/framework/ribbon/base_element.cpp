@@ -10,6 +10,7 @@
 
 #include "ribbon/drawing_scope.h"
 #include "ribbon/element_metrics.h"
+#include "ribbon/shown_text.h"
 
 IMPLEMENT_DYNAMIC(CMFCRibbonBaseElement, CObject)
 
@@ -65,13 +66,11 @@ void CMFCRibbonBaseElement::SetID(UINT nID) { m_nID = nID; }
 UINT CMFCRibbonBaseElement::GetNotifyID() { return m_nID; }
 
 void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
-    const CString text = lpszText != nullptr ? lpszText : L"";
-    const int split = text.Find(L'\n');
-    if (split >= 0) {
-        m_strKeys = text.Mid(split + 1);
+    const ribbon::NameAndKeys given = ribbon::SplitKeys(lpszText);
+    if (given.hasKeys) {
+        m_strKeys = given.keys;
     }
-    const CString shown = split >= 0 ? text.Left(split) : text;
-    if (shown == m_strText) {
+    if (given.name == m_strText) {
         CleanUpSizes();
         return;
     }
@@ -80,7 +79,7 @@ void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
     const bool isPlaced = m_pRibbonBar != nullptr && m_pParentMenu == nullptr && !m_rect.IsRectEmpty();
     const bool isMeasured = isPlaced && !DrawingScope::IsActive();
     const ModeSizes former = isMeasured ? MeasureModes(*this) : ModeSizes();
-    m_strText = shown;
+    m_strText = given.name;
     CleanUpSizes();
     if (isMeasured && MeasureModes(*this) == former) {
         m_pRibbonBar->GetElementKeys().Forget();

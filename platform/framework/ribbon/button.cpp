@@ -6,6 +6,7 @@
 #include "ribbon/button_face.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/menu_geometry.h"
+#include "ribbon/shown_text.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonButton, CMFCRibbonBaseElement)
 
@@ -160,7 +161,8 @@ BOOL CMFCRibbonButton::IsSingleLineText() const {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     const int limit = ribbon::LargeSingleLineWidth(metrics, ribbon::FromSize(GetImageSize(RibbonImageLarge)));
     const auto measure = [](std::wstring_view text) { return ribbon::MeasureText(nullptr, text).width; };
-    return !ribbon::BreakInTwo(View(m_strText), measure, limit, 0).HasSecondLine(View(m_strText));
+    const CString text = ribbon::PlainText(m_strText);
+    return !ribbon::BreakInTwo(View(text), measure, limit, 0).HasSecondLine(View(text));
 }
 
 void CMFCRibbonButton::CleanUpSizes() {
@@ -170,7 +172,7 @@ void CMFCRibbonButton::CleanUpSizes() {
 
 void CMFCRibbonButton::OnCalcTextSize(CDC* pDC) {
     CMFCRibbonBaseElement::OnCalcTextSize(pDC);
-    m_sizeTextRight = ribbon::ToSize(ribbon::MeasureText(pDC, View(m_strText)));
+    m_sizeTextRight = ribbon::ToSize(ribbon::MeasureText(pDC, View(ribbon::PlainText(m_strText))));
     m_sizeTextBottom = HasLargeMode() ? DrawBottomText(pDC, TRUE) : CSize(0, 0);
 }
 
@@ -201,7 +203,8 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
         content.look = bImageOnly ? ButtonLook::ImageOnly : ButtonLook::Small;
     }
 
-    const std::wstring_view text = View(m_strText);
+    const CString plain = ribbon::PlainText(m_strText);
+    const std::wstring_view text = View(plain);
     content.rightText = ribbon::MeasureText(pDC, text);
     if (content.look != ButtonLook::Large) {
         return content;
@@ -244,7 +247,9 @@ void CMFCRibbonButton::OnAfterChangeRect(CDC* pDC) {
 
 // ---- texts
 
-CString CMFCRibbonButton::GetToolTipText() const { return m_strToolTip.IsEmpty() ? GetShownText() : m_strToolTip; }
+CString CMFCRibbonButton::GetToolTipText() const {
+    return m_strToolTip.IsEmpty() ? ribbon::PlainTextOf(*this) : m_strToolTip;
+}
 
 void CMFCRibbonButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonBaseElement::CopyFrom(src);

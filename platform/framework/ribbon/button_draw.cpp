@@ -12,6 +12,7 @@
 #include "fx/dc_scope.h"
 #include "ribbon/button_face.h"
 #include "ribbon/element_metrics.h"
+#include "ribbon/shown_text.h"
 
 namespace {
 
@@ -57,26 +58,27 @@ void CMFCRibbonButton::DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText
     if (m_strText.IsEmpty() || face.parts.text.IsEmpty()) {
         return;
     }
+    const CString text = ribbon::PlainText(m_strText);
     if (face.content.look != ribbon::ButtonLook::Large) {
         const UINT format = WithEnd(kOneLine, face.content.rightText.width, face.parts.text.Width());
-        DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.parts.text), format, clrText);
+        DrawRibbonText(pDC, text, ribbon::ToRect(face.parts.text), format, clrText);
         return;
     }
     const int row = ribbon::CurrentMetrics().textHeight;
     const ribbon::Rect& area = face.parts.text;
     const int center = (area.left + area.right) / 2;
-    const auto draw = [&](const CString& text, int width, int tail, int top) {
+    const auto draw = [&](const CString& line, int width, int tail, int top) {
         const int shown = std::clamp(area.Width() - tail, 0, width);
         const int left = center - (shown + tail) / 2;
-        DrawRibbonText(pDC, text, CRect(left, top, left + shown, top + row), WithEnd(kBottomLine, width, shown),
+        DrawRibbonText(pDC, line, CRect(left, top, left + shown, top + row), WithEnd(kBottomLine, width, shown),
                        clrText);
     };
-    draw(m_strText.Left(static_cast<int>(face.lines.firstLength)), face.lines.firstWidth, 0, area.top);
+    draw(text.Left(static_cast<int>(face.lines.firstLength)), face.lines.firstWidth, 0, area.top);
     if (face.content.isArrowAlone) {
         return;
     }
     const int tail = face.parts.arrow.IsEmpty() ? 0 : ribbon::BottomArrowWidth(ribbon::CurrentMetrics());
-    draw(m_strText.Mid(static_cast<int>(face.lines.secondStart)), face.lines.secondWidth, tail, area.top + row);
+    draw(text.Mid(static_cast<int>(face.lines.secondStart)), face.lines.secondWidth, tail, area.top + row);
 }
 
 // A derived class shows a translation, and the language has changed. One that always draws another text than it

@@ -7,6 +7,7 @@
 
 #include "ribbon/element_metrics.h"
 #include "ribbon/menu_geometry.h"
+#include "ribbon/shown_text.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ std::wstring_view View(const CString& text) {
 // A text from a menu carries its short-cut behind a tab.
 CString TextOf(const CString& text) {
     const int tab = text.Find(L'\t');
-    return tab < 0 ? text : text.Left(tab);
+    return ribbon::PlainText(tab < 0 ? text : text.Left(tab));
 }
 
 CString KeysOf(const CString& text) {

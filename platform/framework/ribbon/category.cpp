@@ -9,10 +9,24 @@
 #include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/element_walk.h"
+#include "ribbon/shown_text.h"
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 
 IMPLEMENT_DYNCREATE(CMFCRibbonCategory, CObject)
+
+namespace {
+
+// The name; the letters behind it become those of the tab's key tip.
+CString TakeKeys(LPCTSTR given, CMFCRibbonTab& tab) {
+    const ribbon::NameAndKeys parts = ribbon::SplitKeys(given);
+    if (parts.hasKeys) {
+        tab.SetKeys(parts.keys);
+    }
+    return parts.name;
+}
+
+} // namespace
 
 CMFCRibbonCategory::CMFCRibbonCategory() : m_rect(0, 0, 0, 0), m_parts(std::make_unique<RibbonCategoryParts>()) {}
 
@@ -31,7 +45,7 @@ CMFCRibbonCategory::~CMFCRibbonCategory() {
 void CMFCRibbonCategory::CommonInit(CMFCRibbonBar* pParentRibbonBar, LPCTSTR lpszName, UINT uiSmallImagesResID,
                                     UINT uiLargeImagesResID, CSize sizeSmallImage, CSize sizeLargeImage) {
     m_pParentRibbonBar = pParentRibbonBar;
-    m_strName = lpszName;
+    m_strName = TakeKeys(lpszName, m_Tab);
     m_parts->smallImagesId = uiSmallImagesResID;
     m_parts->largeImagesId = uiLargeImagesResID;
     m_sizeSmallImage = sizeSmallImage;
@@ -190,7 +204,7 @@ void CMFCRibbonCategory::MarkLayoutDirty() {
 void CMFCRibbonCategory::ForgetMeasures() { m_parts->measured = false; }
 
 void CMFCRibbonCategory::SetName(LPCTSTR lpszName) {
-    m_strName = lpszName;
+    m_strName = TakeKeys(lpszName, m_Tab);
     MarkLayoutDirty();
 }
 

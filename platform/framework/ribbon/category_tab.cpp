@@ -9,6 +9,7 @@
 #include "ribbon/access_texts.h"
 #include "ribbon/font_scope.h"
 #include "ribbon/metrics.h"
+#include "ribbon/shown_text.h"
 
 // ---- tab
 
@@ -24,12 +25,13 @@ CSize CMFCRibbonTab::GetRegularSize(CDC* pDC) {
     }
     const RibbonMetrics& metrics = bar->GetMetrics();
     RibbonFontScope font(*pDC);
-    const CSize text = pDC->GetTextExtent(CString(category->GetName()));
+    const CSize text = pDC->GetTextExtent(ribbon::PlainText(category->GetName()));
     return {text.cx + 2 * metrics.tabPaddingX, metrics.tabHeight};
 }
 
 CString CMFCRibbonTab::GetToolTipText() const {
-    return m_bIsTrancated && GetParentCategory() != nullptr ? CString(GetParentCategory()->GetName()) : CString();
+    return m_bIsTrancated && GetParentCategory() != nullptr ? ribbon::PlainText(GetParentCategory()->GetName())
+                                                            : CString();
 }
 
 BOOL CMFCRibbonTab::IsSelected() const { return GetParentCategory() != nullptr && GetParentCategory()->IsActive(); }
@@ -48,7 +50,7 @@ void CMFCRibbonTab::OnDraw(CDC* pDC) {
     if (m_bIsTrancated) {
         text.DeflateRect(afxGlobalData.ScalePixels(2), 0);
     }
-    DrawCenteredText(*pDC, category->GetName(), text, color);
+    DrawCenteredText(*pDC, ribbon::PlainText(category->GetName()), text, color);
 }
 
 void CMFCRibbonTab::OnLButtonDown(CPoint /*point*/) {
@@ -87,7 +89,7 @@ void CRibbonCategoryScroll::OnClick(CPoint /*point*/) {
 
 BOOL CMFCRibbonTab::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     CMFCRibbonBaseElement::SetACCData(pParent, data);
-    data.m_strName = GetParentCategory() != nullptr ? WithoutMnemonic(GetParentCategory()->GetName()) : CString();
+    data.m_strName = GetParentCategory() != nullptr ? ribbon::PlainText(GetParentCategory()->GetName()) : CString();
     data.m_nRole = ROLE_SYSTEM_PAGETAB;
     data.m_nState |= STATE_SYSTEM_SELECTABLE | (IsSelected() ? STATE_SYSTEM_SELECTED : 0);
     data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Switch);

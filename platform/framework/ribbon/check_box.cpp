@@ -5,7 +5,16 @@
 #include "ribbon/access_texts.h"
 #include "ribbon/edit_geometry.h"
 #include "ribbon/element_metrics.h"
+#include "ribbon/shown_text.h"
 #include <oleacc.h>
+
+namespace {
+
+ribbon::Size MeasureLabel(CDC* pDC, const CString& text) {
+    return ribbon::MeasureText(pDC, {text, static_cast<std::size_t>(text.GetLength())});
+}
+
+} // namespace
 
 IMPLEMENT_DYNCREATE(CMFCRibbonCheckBox, CMFCRibbonButton)
 
@@ -16,7 +25,7 @@ CSize CMFCRibbonCheckBox::GetRegularSize(CDC* pDC) {
     if (ShowsMenuRow()) {
         return CMFCRibbonButton::GetRegularSize(pDC);
     }
-    const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
+    const ribbon::Size text = MeasureLabel(pDC, ribbon::PlainText(m_strText));
     return ribbon::ToSize(ribbon::MeasureCheckBox(text, ribbon::CurrentMetrics()));
 }
 
@@ -33,12 +42,12 @@ void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
         return;
     }
     const ribbon::TextContext context(pDC);
-    const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
+    const ribbon::Size text = MeasureLabel(pDC, ribbon::PlainText(m_strText));
     const ribbon::CheckBoxFace face = ribbon::PlaceCheckBox(ribbon::FromRect(m_rect), text, ribbon::CurrentMetrics());
     CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(pDC, ribbon::ToRect(face.box), IsChecked() ? 1 : 0,
                                                        IsHighlighted(), IsPressed(), !IsDisabled());
     if (!face.text.IsEmpty()) {
-        DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.text),
+        DrawRibbonText(pDC, ribbon::PlainText(m_strText), ribbon::ToRect(face.text),
                        DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
     }

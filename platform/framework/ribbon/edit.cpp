@@ -6,6 +6,7 @@
 
 #include "ribbon/edit_geometry.h"
 #include "ribbon/element_metrics.h"
+#include "ribbon/shown_text.h"
 
 #include <algorithm>
 
@@ -85,7 +86,8 @@ ribbon::EditContent CMFCRibbonEdit::CollectContent(CDC* pDC, BOOL bWithLabel) co
     ribbon::EditContent content;
     content.image = ribbon::FromSize(GetImageSize(RibbonImageSmall));
     if (bWithLabel) {
-        content.label = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
+        const CString label = ribbon::PlainText(m_strText);
+        content.label = ribbon::MeasureText(pDC, {label, static_cast<std::size_t>(label.GetLength())});
     }
     content.dropButtonWidth = GetDropButtonWidth();
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
@@ -158,7 +160,7 @@ void CMFCRibbonEdit::OnDrawLabelAndImage(CDC* pDC) {
         DrawImage(pDC, RibbonImageSmall, ribbon::ToRect(face.image));
     }
     if (!face.label.IsEmpty()) {
-        DrawRibbonText(pDC, m_strText, ribbon::ToRect(face.label),
+        DrawRibbonText(pDC, ribbon::PlainText(m_strText), ribbon::ToRect(face.label),
                        DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
     }

@@ -4,6 +4,7 @@
 #include "afxkeyboardmanager.h"
 #include "afxribbonbar.h"
 #include "afxtooltipctrl.h"
+#include "ribbon/shown_text.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ CString WithKeys(const CString& name, const CMFCRibbonBaseElement& element) {
 
 /// The tip says more than the name: the name is the title then, and what else there is to say stands below.
 TipTexts TextsOf(const CMFCRibbonBaseElement& element) {
-    const CString name = element.GetShownText();
+    const CString name = ribbon::PlainTextOf(element);
     const CString tip = element.GetToolTipText();
     TipTexts texts{WithKeys(name, element), element.GetDescription()};
     if (name.IsEmpty() || !element.IsKindOf(RUNTIME_CLASS(CMFCRibbonButton))) {

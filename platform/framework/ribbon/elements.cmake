@@ -20,6 +20,7 @@ target_sources(framework PRIVATE
   label.cpp
   panel_changes.cpp
   separator.cpp
+  shown_text.cpp
   slider.cpp
   sub_items.cpp
 )

@@ -13,6 +13,7 @@
 #include "ribbon/element_metrics.h"
 #include "ribbon/main_panel_geometry.h"
 #include "ribbon/menu_geometry.h"
+#include "ribbon/shown_text.h"
 
 struct RibbonMainPanelParts {
     enum class Place { Left, Right, Bottom };
@@ -109,7 +110,7 @@ void CMFCRibbonMainPanel::UpdateRecentFiles() {
         row->SetVisible(isThere);
         if (isThere) {
             CString text;
-            text.Format(L"%d %s", index + 1, static_cast<LPCTSTR>(name));
+            text.Format(L"%d %s", index + 1, static_cast<LPCTSTR>(ribbon::MarkedText(name)));
             row->SetText(text);
             row->SetToolTipText((*files)[index]);
             text.Format(L"%d", (index + 1) % 10);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/mnemonic.h"
 #include "fx/menu.h"
 
 namespace {
@@ -38,12 +39,10 @@ std::unique_ptr<CMFCRibbonBaseElement> MakeItem(const CMenu& menu, int position)
     }
     CMenu* submenu = menu.GetSubMenu(position);
     CString text;
-    CString key;
     menu.GetMenuString(static_cast<UINT>(position), text, MF_BYPOSITION);
-    text = TakeMnemonic(text, key);
     const UINT id = submenu != nullptr ? 0 : menu.GetMenuItemID(position);
     auto item = std::make_unique<MenuItem>(id, text);
-    item->SetKeys(nullptr, key);
+    item->SetKeys(nullptr, MnemonicOf(text));
     if (submenu != nullptr) {
         for (auto& inner : MakeMenuItems(submenu->GetSafeHmenu())) {
             item->AddSubItem(inner.release()); // the item owns it from here
@@ -58,18 +57,9 @@ std::unique_ptr<CMFCRibbonBaseElement> MakeItem(const CMenu& menu, int position)
 
 } // namespace
 
-CString TakeMnemonic(const CString& text, CString& key) {
-    CString plain;
-    for (int index = 0; index < text.GetLength(); ++index) {
-        if (text[index] == L'&' && index + 1 < text.GetLength()) {
-            ++index;
-            if (text[index] != L'&' && key.IsEmpty()) {
-                key = CString(text[index]);
-            }
-        }
-        plain += text[index];
-    }
-    return plain;
+CString MnemonicOf(const CString& text) {
+    const wchar_t letter = fx::MnemonicOf({text, static_cast<std::size_t>(text.GetLength())});
+    return letter != 0 ? CString(letter) : CString();
 }
 
 void AskHostForMenu(CWnd* target, HMENU menu) {

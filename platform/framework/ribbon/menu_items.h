@@ -5,8 +5,8 @@
 
 #include "afxribbonbutton.h"
 
-/// The text without the marks of mnemonics; the marked letter becomes the key, where none is set yet.
-CString TakeMnemonic(const CString& text, CString& key);
+/// The marked letter of a text as a capital; empty when none is marked.
+CString MnemonicOf(const CString& text);
 
 /// Gives the host the chance to fill the menu and to set the states of its items, as before any menu opens.
 void AskHostForMenu(CWnd* target, HMENU menu);

@@ -5,6 +5,7 @@
 #include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/shown_text.h"
 
 #include <memory>
 
@@ -77,8 +78,12 @@ void CMFCRibbonPanel::DeleteElements() {
 
 void CMFCRibbonPanel::CommonInit(CMFCRibbonCategory* parent, LPCTSTR name, HICON icon) {
     m_pParent = parent;
-    m_strName = name;
-    m_btnDefault.SetText(name);
+    const ribbon::NameAndKeys given = ribbon::SplitKeys(name);
+    m_strName = given.name;
+    m_btnDefault.SetText(given.name);
+    if (given.hasKeys) {
+        SetKeys(given.keys);
+    }
     m_btnDefault.SetPanelIcon(icon);
     m_btnDefault.SetParentPanel(this);
     m_btnDefault.SetParentCategory(parent);
@@ -238,7 +243,7 @@ RibbonPanelShape CMFCRibbonPanel::Measure(CDC* pDC, const RibbonMetrics& /*metri
         shape.elements.push_back(ShapeOf(*m_arElements[index], pDC));
     }
     RibbonFontScope font(*pDC);
-    shape.captionWidth = pDC->GetTextExtent(m_strName).cx;
+    shape.captionWidth = pDC->GetTextExtent(ribbon::PlainText(m_strName)).cx;
     shape.hasLaunchButton = HasLaunchButton() && LaunchButton().IsVisible();
     m_btnDefault.OnCalcTextSize(pDC);
     shape.collapsedWidth = m_btnDefault.GetRegularSize(pDC).cx;

@@ -6,18 +6,16 @@
 #include "afxribbonbutton.h"
 #include "afxRibbonLabel.h"
 #include "afxRibbonMainPanel.h"
+#include "core/letters.h"
 #include "fx/window_guard.h"
 #include "ribbon/element_metrics.h"
+#include "ribbon/menu_items.h"
 #include "ribbon/panel_menu_parts.h"
+#include "ribbon/shown_text.h"
 
 namespace {
 
 bool IsHeading(CMFCRibbonBaseElement& element) { return DYNAMIC_DOWNCAST(CMFCRibbonLabel, &element) != nullptr; }
-
-wchar_t Upper(wchar_t letter) {
-    return static_cast<wchar_t>(reinterpret_cast<UINT_PTR>(
-        ::CharUpperW(reinterpret_cast<LPWSTR>(static_cast<UINT_PTR>(static_cast<unsigned short>(letter))))));
-}
 
 } // namespace
 
@@ -249,7 +247,7 @@ void CMFCRibbonPanelMenuBar::ShowRowOf(CMFCRibbonBaseElement* pElement) {
     }
 }
 
-BOOL CMFCRibbonPanelMenuBar::TranslateChar(UINT nChar) { return OnLetter(Upper(static_cast<wchar_t>(nChar))); }
+BOOL CMFCRibbonPanelMenuBar::TranslateChar(UINT nChar) { return OnLetter(fx::UpperCase(static_cast<wchar_t>(nChar))); }
 
 // A key tip that fits acts at once; a first letter that several texts share walks through them.
 BOOL CMFCRibbonPanelMenuBar::OnLetter(UINT nUpperChar) {
@@ -262,14 +260,17 @@ BOOL CMFCRibbonPanelMenuBar::OnLetter(UINT nUpperChar) {
         if (RibbonPointer::TakesInput(element) && element.OnMenuKey(nUpperChar)) {
             return TRUE;
         }
-        const CString keys = *element.GetMenuKeys() != 0 ? element.GetMenuKeys() : element.GetKeys();
-        if (keys.GetLength() == 1 && Upper(keys[0]) == letter) {
+        CString keys = *element.GetMenuKeys() != 0 ? element.GetMenuKeys() : element.GetKeys();
+        if (keys.IsEmpty()) {
+            keys = MnemonicOf(element.GetShownText());
+        }
+        if (keys.GetLength() == 1 && fx::UpperCase(keys[0]) == letter) {
             Highlight(&element);
             Activate(&element, Choice::Command);
             return TRUE;
         }
-        const CString text = element.GetShownText();
-        if (keys.IsEmpty() && !text.IsEmpty() && Upper(text[0]) == letter) {
+        const CString text = ribbon::PlainTextOf(element);
+        if (keys.IsEmpty() && !text.IsEmpty() && fx::UpperCase(text[0]) == letter) {
             byText.push_back(&element);
         }
     }

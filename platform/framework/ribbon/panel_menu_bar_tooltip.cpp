@@ -6,6 +6,7 @@
 #include "ribbon/edit_tool.h"
 #include "ribbon/element_tip.h"
 #include "ribbon/panel_menu_parts.h"
+#include "ribbon/shown_text.h"
 
 namespace {
 
@@ -90,7 +91,7 @@ BOOL CMFCRibbonPanelMenuBar::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pR
     }
     const bool showsDescription = GetBarTips().haveDescriptions;
     const CString text = hot->GetToolTipText();
-    const bool saysMore = text != hot->GetShownText() || (showsDescription && !hot->GetDescription().IsEmpty());
+    const bool saysMore = text != ribbon::PlainTextOf(*hot) || (showsDescription && !hot->GetDescription().IsEmpty());
     if (text.IsEmpty() || (IsMenuMode() && !saysMore)) {
         return TRUE;
     }

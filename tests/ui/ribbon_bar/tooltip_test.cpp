@@ -67,6 +67,12 @@ TEST_F(DescribedTooltip, WithoutATipTheNameStandsAlone) {
     EXPECT_STREQ(Description(), L"");
 }
 
+TEST_F(DescribedTooltip, TheMarkOfAMnemonicIsNoPartOfTheName) {
+    Element(commands::cut).SetText(L"C&ut");
+    EXPECT_STREQ(TipTextAt(CenterOf(commands::cut)), L"Cut");
+    EXPECT_STREQ(Description(), L"") << "the name is not repeated";
+}
+
 TEST_F(DescribedTooltip, TheKeysOfTheCommandStandBehindTheName) {
     ACCEL keys{FCONTROL | FVIRTKEY, 'X', static_cast<WORD>(commands::cut)};
     CFrameWnd* const frame = DYNAMIC_DOWNCAST(CFrameWnd, Bar().GetTopLevelFrame());

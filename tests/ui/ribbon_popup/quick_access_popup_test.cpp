@@ -1,6 +1,7 @@
 // Pop-ups of the quick access toolbar and context menus.
 #include <gmock/gmock.h>
 
+#include "tests/ui/ribbon_drawing/drawn_texts.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -25,15 +26,25 @@ protected:
         throw std::runtime_error("no customize button");
     }
     CMFCRibbonBaseElement* MoreButton() { return FindInQuickAccess(RUNTIME_CLASS(CMFCRibbonQuickAccessMoreButton)); }
+    /// The row that shows a text.
     CMFCRibbonBaseElement& Row(LPCTSTR text) {
         ElementArray rows;
         PopupBar().GetElements(rows);
         for (INT_PTR index = 0; index < rows.GetSize(); ++index) {
-            if (CString(rows[index]->GetText()) == text) {
+            if (WithoutMarks(rows[index]->GetText()) == text) {
                 return *rows[index];
             }
         }
         throw std::runtime_error("no such row");
+    }
+
+private:
+    static CString WithoutMarks(CString text) {
+        constexpr LPCTSTR kDoubled = L"\x01";
+        text.Replace(L"&&", kDoubled);
+        text.Remove(L'&');
+        text.Replace(kDoubled, L"&");
+        return text;
     }
 };
 
@@ -50,6 +61,22 @@ TEST_F(QuickAccessPopup, TheCustomizeMenuChecksWhatIsShownAndTogglesIt) {
     Click(Row(L"Paste"));
     EXPECT_THAT(QuickAccessCommands(), ElementsAre(commands::cut));
     EXPECT_THAT(m_frame->commands, IsEmpty()) << "customising sends no command";
+}
+
+TEST_F(QuickAccessPopup, TheCustomizeMenuDrawsTextsWithoutMarksAndTipsAsTheyAre) {
+    SetQuickAccessDefault({commands::paste, commands::cut});
+    Element(commands::paste).SetText(L"&Paste");
+    Element(commands::cut).SetText(L"");
+    Element(commands::cut).SetToolTipText(L"Cut & drop");
+    Click(CustomizeButton());
+    std::vector<std::wstring> drawn;
+    for (const DrawnText& text : TextsDrawnBy([this](CDC& dc) {
+             Row(L"Paste").OnDraw(&dc);
+             Row(L"Cut & drop").OnDraw(&dc);
+         })) {
+        drawn.push_back(text.text);
+    }
+    EXPECT_THAT(drawn, ElementsAre(L"Paste", L"Cut & drop"));
 }
 
 TEST_F(QuickAccessPopup, TheCustomizeMenuMovesTheToolbarBelowTheRibbonAndBack) {

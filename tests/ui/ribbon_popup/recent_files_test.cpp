@@ -83,6 +83,13 @@ TEST_F(RecentFilesMenu, ARowSendsTheCommandOfItsFile) {
                 ElementsAre(static_cast<UINT>(ID_FILE_MRU_FILE2), static_cast<UINT>(ID_FILE_MRU_FILE1)));
 }
 
+TEST_F(RecentFilesMenu, AnAmpersandInAFilesNameIsShown) {
+    AfxGetApp()->AddToRecentFileList(L"C:\\maps\\R&D.map");
+    Click(m_button);
+    EXPECT_STREQ(Row(0).GetText(), L"1 C:\\maps\\R&&D.map") << "marked, so that it is drawn as it is";
+    EXPECT_EQ(Row(0).GetToolTipText(), L"C:\\maps\\R&D.map");
+}
+
 TEST_F(RecentFilesMenu, WithoutAListOfFilesThereIsOnlyTheHeading) {
     Load(0);
     Click(m_button);

@@ -1,6 +1,7 @@
 // Pop-ups of buttons: sub-items, menus by handle, split buttons.
 #include <gmock/gmock.h>
 
+#include "tests/ui/ribbon_drawing/drawn_texts.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
 namespace {
@@ -183,7 +184,7 @@ TEST_F(MenuOfAHandle, MakesSubItemsWithTextsKeysAndSubmenus) {
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> rows;
     PopupBar().GetElements(rows);
     ASSERT_EQ(rows.GetSize(), 4);
-    EXPECT_STREQ(rows[0]->GetText(), L"One\tCtrl+1");
+    EXPECT_STREQ(rows[0]->GetText(), L"&One\tCtrl+1");
     EXPECT_STREQ(rows[0]->GetMenuKeys(), L"O");
     EXPECT_TRUE(rows[1]->IsSeparator());
     EXPECT_TRUE(rows[2]->HasMenu());
@@ -252,6 +253,20 @@ TEST_F(SubItems, WhatIsNoMenuHasNoItems) {
     Shapes().SetMenu(reinterpret_cast<HMENU>(0x1234));
     Click(Shapes());
     EXPECT_TRUE(Shapes().GetSubItems().IsEmpty());
+}
+
+TEST_F(SubItems, MarksOfMnemonicsAreNotDrawn) {
+    SubItem(0).SetText(L"Groups && Subitems");
+    SubItem(1).SetText(L"E&xit\tAlt+F4");
+    Click(Shapes());
+    std::vector<std::wstring> drawn;
+    for (const DrawnText& text : TextsDrawnBy([this](CDC& dc) {
+             SubItem(0).OnDraw(&dc);
+             SubItem(1).OnDraw(&dc);
+         })) {
+        drawn.push_back(text.text);
+    }
+    EXPECT_THAT(drawn, ElementsAre(L"Groups & Subitems", L"Exit", L"Alt+F4"));
 }
 
 class SplitButton : public RibbonPopupTest {};
