@@ -1,0 +1,92 @@
+#include "config/menu_file.h"
+
+#include "config/depth_walker.h"
+#include "config/menu_attributes.h"
+#include "config/ribbon_attributes.h"
+
+#include <varnhold/language.h>
+
+namespace {
+
+/// Reads elements into one record, whose memory serves for all of them.
+class MenuElementReader {
+public:
+    MenuElementReader(MenuFileVisitor& visitor, const FileDiagnostics& diagnostics)
+        : m_visitor(visitor), m_diagnostics(diagnostics) {}
+
+    void ReadBranch(varnhold::XmlCursor& element) {
+        if (element.HasChildren()) {
+            WalkBelow(element,
+                      [this](varnhold::XmlCursor& child, std::size_t depth) { return Read(child, depth - 1); });
+        } else {
+            ReadItem(element, 0);
+        }
+        m_visitor.LeaveBranch();
+    }
+
+private:
+    /// Whether the element's children are to be read.
+    bool Read(varnhold::XmlCursor& element, std::size_t level) {
+        if (!element.HasChildren()) {
+            ReadItem(element, level);
+            return false;
+        }
+        ReadInfo(element);
+        m_visitor.VisitPopup(m_info, level);
+        return true;
+    }
+
+    bool ReadInfo(varnhold::XmlCursor& element) {
+        m_info.bSeparator = false;
+        for (std::wstring* const text :
+             {&m_info.strName, &m_info.strKeyword, &m_info.strShortKey, &m_info.strHotKey, &m_info.strText,
+              &m_info.strCmd, &m_info.strToolTip, &m_info.strPicPath, &m_info.strParam}) {
+            text->clear();
+        }
+        if (ReadMenuInfo(element, m_info, m_translations, m_diagnostics)) {
+            return true;
+        }
+        if (m_diagnostics.IsListening()) {
+            m_diagnostics.Warn(element.GetPosition(), "no-attributes",
+                               L"an element without attributes describes nothing");
+        }
+        return false;
+    }
+
+    void ReadItem(varnhold::XmlCursor& element, std::size_t level) {
+        if (!ReadInfo(element)) {
+            return;
+        }
+        if (m_diagnostics.IsListening() && !m_info.bSeparator && m_info.strKeyword.empty()) {
+            m_diagnostics.Warn(element.GetPosition(), "no-keyword", L"an item without a keyword is not shown");
+        }
+        m_visitor.VisitItem(m_info, level);
+    }
+
+    MenuFileVisitor& m_visitor;
+    const FileDiagnostics& m_diagnostics;
+    const CTranslationSection m_translations{kRibbonSection};
+    MenuInfo m_info;
+};
+
+} // namespace
+
+void ReadMenuBranch(varnhold::XmlCursor element, MenuFileVisitor& visitor, const FileDiagnostics& diagnostics) {
+    MenuElementReader(visitor, diagnostics).ReadBranch(element);
+}
+
+bool LoadMenuFile(const std::wstring& fullPath, MenuFileVisitor& visitor, DiagnosticsSink& sink) {
+    const FileDiagnostics diagnostics(fullPath, sink);
+    CXmlDocumentWrapper document;
+    if (!document.Load(fullPath)) {
+        diagnostics.Fail({document.GetErrorLine(), document.GetErrorColumn()}, "unreadable-file",
+                         document.GetErrorReason());
+        return false;
+    }
+    MenuElementReader reader(visitor, diagnostics);
+    varnhold::XmlCursor branch(document);
+    for (bool found = branch.ToFirstChild(); found; found = branch.ToNextSibling()) {
+        reader.ReadBranch(branch);
+    }
+    return true;
+}
