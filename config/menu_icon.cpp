@@ -16,7 +16,7 @@ void GiveCommandIcon(unsigned int id, const std::wstring& picPath) {
     if (picPath.empty() || GetCmdMgr()->GetCmdImage(id, FALSE) != -1) {
         return;
     }
-    const FileIcon icon(GetIconPathStr(picPath, kIconSide), kIconSide);
+    const FileIcon icon(GetIconPathStr(picPath, kIconSide), kIconSide, kIconSide);
     const int image = icon.Get() ? CMFCToolBar::GetImages()->AddIcon(icon.Get(), FALSE) : -1;
     GetCmdMgr()->SetCmdImage(id, image, FALSE);
 }
