@@ -53,8 +53,8 @@ CString Displayed(const wchar_t* word) { return CMultiLanguageMgr::translation(w
 
 CString DisplayedTextOf(const CMFCRibbonComboBox& combo, int index) { return Displayed(TextOf(combo, index)); }
 
-void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const marks::Rect& place) {
-    CRect rect = ToRect(place);
+void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const fx::Rect& place) {
+    CRect rect = fx::ToRect(place);
     if (rect.IsRectEmpty()) {
         return;
     }
@@ -63,17 +63,10 @@ void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const marks
     dc.SetBkMode(mode);
 }
 
-CRect ToRect(const marks::Rect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
-
-marks::Rect FromRect(const CRect& rect) {
-    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-            static_cast<int>(rect.bottom)};
-}
-
-std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones) {
+std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<fx::Rect>& zones) {
     auto list = std::make_unique<CMFCCheckDropDown>(&combo);
     std::vector<CRect> rects(zones.size());
-    std::ranges::transform(zones, rects.begin(), ToRect);
+    std::ranges::transform(zones, rects.begin(), fx::ToRect);
     list->SetSpRects(rects);
     return list;
 }

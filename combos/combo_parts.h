@@ -7,6 +7,7 @@
 
 #include <afxribbonbar.h>
 #include <afxribboncombobox.h>
+#include <fx/to_rect.h>
 
 #include <memory>
 #include <vector>
@@ -127,13 +128,10 @@ CString TextOf(const CMFCRibbonComboBox& combo, int index);
 /// As people read it.
 CString DisplayedTextOf(const CMFCRibbonComboBox& combo, int index);
 /// The item's text, in the colours of the device context.
-void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const marks::Rect& place);
-
-CRect ToRect(const marks::Rect& rect);
-marks::Rect FromRect(const CRect& rect);
+void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const fx::Rect& place);
 
 /// The list that a combo with marks drops; empty, and not opened yet.
-std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<marks::Rect>& zones);
+std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, const std::vector<fx::Rect>& zones);
 /// The width that the item's row needs in the list: `marksWidth` and the text as people read it. The list's font is
 /// selected.
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);

@@ -88,11 +88,11 @@ private:
 
 } // namespace
 
-void DrawLight(CDC& dc, const marks::Rect& place, LightState state) {
+void DrawLight(CDC& dc, const fx::Rect& place, LightState state) {
     OwnPictures::Ins().SharedList().Draw(&dc, IndexOf(state), CPoint(place.left, place.top), ILD_TRANSPARENT);
 }
 
-void DrawLightScaled(CDC& dc, const marks::Rect& place, LightState state) {
+void DrawLightScaled(CDC& dc, const fx::Rect& place, LightState state) {
     if (MarkScale() <= 1.0) {
         DrawLight(dc, place, state);
         return;

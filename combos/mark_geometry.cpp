@@ -17,8 +17,6 @@ int Above(int middle, int size) { return static_cast<int>(middle - size * 0.5); 
 
 } // namespace
 
-int Scaled(int length, double scale) { return scale > 1.0 ? static_cast<int>(length * scale + 0.5) : length; }
-
 CheckRow PlaceCheckRow(const Rect& row, int boxSize) {
     CheckRow placed;
     const int left = row.left + boxLeft;
@@ -41,7 +39,7 @@ SwatchRow PlaceSwatchRow(const Rect& row, int iconSize) {
     const int left = row.left + squareLeft;
     SwatchRow placed;
     placed.swatch = {left, top, left + side, bottom};
-    placed.light = placed.swatch.MovedRight(side + gap);
+    placed.light = placed.swatch.Moved(side + gap, 0);
     placed.text = {placed.light.right + gap, row.top, row.right, row.bottom};
     return placed;
 }
@@ -51,7 +49,7 @@ std::vector<Rect> SwatchZones(int editHeight, int iconSize) {
     const int bottom = std::min(top + iconSize, editHeight);
     const int side = bottom - top;
     const Rect swatch{squareLeft, top, squareLeft + side, bottom};
-    return {swatch, swatch.MovedRight(side + gap)};
+    return {swatch, swatch.Moved(side + gap, 0)};
 }
 
 LightRow PlaceLightRow(const Rect& row, int iconSize) {

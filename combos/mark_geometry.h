@@ -1,5 +1,7 @@
 #pragma once
 
+#include <fx/geometry.h>
+
 #include <vector>
 
 /// Where the marks of a combo's item stand: in a row of the drop list, on the combo's face, and as the zones in which a
@@ -7,26 +9,10 @@
 /// the list's rows differ in height.
 namespace marks {
 
-/// Right and bottom are outside.
-struct Rect {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    int Width() const { return right - left; }
-    int Height() const { return bottom - top; }
-    bool IsEmpty() const { return right <= left || bottom <= top; }
-    bool Contains(int x, int y) const { return x >= left && x < right && y >= top && y < bottom; }
-    Rect MovedRight(int by) const { return {left + by, top, right + by, bottom}; }
-    friend bool operator==(const Rect&, const Rect&) = default;
-};
+using fx::Rect;
 
 /// Between one mark and the next, and between the last one and the text.
 inline constexpr int gap = 3;
-
-/// A length at a scale; scales up to 1.0 leave it as it is.
-int Scaled(int length, double scale);
 
 /// The zone under a point of a list whose rows are `rowHeight` high: the zones are those of the first row and count
 /// for every row. -1 outside of all of them.

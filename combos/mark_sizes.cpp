@@ -1,8 +1,7 @@
 #include "combos/mark_sizes.h"
 
-#include "combos/mark_geometry.h"
-
 #include <afxglobals.h>
+#include <fx/geometry.h>
 
 #include <algorithm>
 #include <utility>
@@ -25,7 +24,7 @@ void ScaleCheckBoxOnce() {
     if (sizes.isCheckBoxScaled || MarkScale() <= 1.0) {
         return;
     }
-    sizes.checkBox = marks::Scaled(sizes.checkBox, MarkScale());
+    sizes.checkBox = fx::Scaled(sizes.checkBox, MarkScale());
     sizes.isCheckBoxScaled = true;
 }
 
@@ -36,4 +35,4 @@ void EnlargeIconOnce() {
     }
 }
 
-int ScaledIconSize() { return marks::Scaled(MarkSizes::Current().icon, MarkScale()); }
+int ScaledIconSize() { return fx::Scaled(MarkSizes::Current().icon, MarkScale()); }

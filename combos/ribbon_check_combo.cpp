@@ -31,12 +31,12 @@ struct CMFCRibbonCheckComb::State : MarkedComboState<CMFCRibbonCheckComb, State,
     /// Within the margins of a row, or of the face's edit area.
     static marks::CheckRow Place(const CMFCRibbonCheckComb& combo, CRect row) {
         row.DeflateRect(combo.m_szMargin);
-        return marks::PlaceCheckRow(FromRect(row), MarkSizes::Current().checkBox);
+        return marks::PlaceCheckRow(fx::FromRect(row), MarkSizes::Current().checkBox);
     }
     static void DrawItem(const CMFCRibbonCheckComb& combo, CDC& dc, int index, const CRect& row) {
         const marks::CheckRow place = Place(combo, row);
         const bool isChecked = combo.m_state->rows.GetOrEmpty(index);
-        CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(&dc, ToRect(place.box), isChecked ? 1 : 0, FALSE, FALSE,
+        CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(&dc, fx::ToRect(place.box), isChecked ? 1 : 0, FALSE, FALSE,
                                                            !combo.IsDisabled());
         DrawTextOf(combo, dc, index,
                    {place.text.left, static_cast<int>(row.top), place.text.right, static_cast<int>(row.bottom)});
@@ -158,8 +158,8 @@ void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
     }
     const HWND host = HostOf(*this);
     const CRect edit = GetEditRect();
-    const marks::Rect zone = marks::CheckFaceZone(FromRect(edit), MarkSizes::Current().checkBox);
-    if (HasEditBox() || !host || !edit.PtInRect(point) || !ToRect(zone).PtInRect(point)) {
+    const fx::Rect zone = marks::CheckFaceZone(fx::FromRect(edit), MarkSizes::Current().checkBox);
+    if (HasEditBox() || !host || !edit.PtInRect(point) || !fx::ToRect(zone).PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
         return;
     }

@@ -16,7 +16,7 @@ constexpr int lightZone = 0;
 struct CMFCRibbonVesMultiCombo::State : MarkedComboState<CMFCRibbonVesMultiCombo, State, bool> {
     static const std::shared_ptr<State>& Of(const CMFCRibbonVesMultiCombo& combo) { return combo.m_state; }
     void DrawItem(const CMFCRibbonVesMultiCombo& combo, CDC& dc, int index, const CRect& row) const {
-        const marks::LightRow place = marks::PlaceLightRow(FromRect(row), MarkSizes::Current().icon);
+        const marks::LightRow place = marks::PlaceLightRow(fx::FromRect(row), MarkSizes::Current().icon);
         DrawLight(dc, place.light, rows.GetOrEmpty(index) ? LightState::On : LightState::Off);
         DrawTextOf(combo, dc, index, place.text);
     }
@@ -108,8 +108,8 @@ void CMFCRibbonVesMultiCombo::OnLButtonDown(CPoint point) {
     }
     const HWND host = HostOf(*this);
     const CRect edit = GetEditRect();
-    const marks::LightRow place = marks::PlaceLightRow(FromRect(edit), MarkSizes::Current().icon);
-    if (HasEditBox() || !host || !edit.PtInRect(point) || !ToRect(place.light).PtInRect(point)) {
+    const marks::LightRow place = marks::PlaceLightRow(fx::FromRect(edit), MarkSizes::Current().icon);
+    if (HasEditBox() || !host || !edit.PtInRect(point) || !fx::ToRect(place.light).PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
         return;
     }

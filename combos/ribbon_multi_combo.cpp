@@ -27,8 +27,8 @@ struct CMFCRibbonMultiCombo::State : MarkedComboState<CMFCRibbonMultiCombo, Stat
     static const std::shared_ptr<State>& Of(const CMFCRibbonMultiCombo& combo) { return combo.m_state; }
     void DrawItem(const CMFCRibbonMultiCombo& combo, CDC& dc, int index, const CRect& row) const {
         const rowInfo info = rows.GetOrEmpty(index);
-        const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(row), ScaledIconSize());
-        const CRect swatch = ToRect(place.swatch);
+        const marks::SwatchRow place = marks::PlaceSwatchRow(fx::FromRect(row), ScaledIconSize());
+        const CRect swatch = fx::ToRect(place.swatch);
         if (!swatch.IsRectEmpty()) {
             CBrush brush(info.clr);
             dc.FillRect(swatch, &brush);
@@ -231,12 +231,12 @@ void CMFCRibbonMultiCombo::OnLButtonDown(CPoint point) {
     }
     const HWND host = HostOf(*this);
     const CRect edit = GetEditRect();
-    const marks::SwatchRow place = marks::PlaceSwatchRow(FromRect(edit), ScaledIconSize());
+    const marks::SwatchRow place = marks::PlaceSwatchRow(fx::FromRect(edit), ScaledIconSize());
     if (HasEditBox() || !host || !edit.PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
-    } else if (ToRect(place.light).PtInRect(point)) {
+    } else if (fx::ToRect(place.light).PtInRect(point)) {
         AskForLight(host, GetEditText(), GetCurSel());
-    } else if (ToRect(place.swatch).PtInRect(point)) {
+    } else if (fx::ToRect(place.swatch).PtInRect(point)) {
         AskForColor(host, GetCurSel());
     } else {
         CMFCRibbonComboBox::OnLButtonDown(point);

@@ -32,7 +32,7 @@ COLORREF AroundTheMap(const MapState& state) {
 }
 
 /// Everything of the window but the target, so that no pixel is drawn twice.
-void FillAround(CDC& dc, const CRect& client, const PixelBox& target, COLORREF color) {
+void FillAround(CDC& dc, const CRect& client, const fx::Rect& target, COLORREF color) {
     const CRect covered(target.left, target.top, target.right, target.bottom);
     const int saved = dc.SaveDC();
     if (!covered.IsRectEmpty()) {
@@ -44,8 +44,8 @@ void FillAround(CDC& dc, const CRect& client, const PixelBox& target, COLORREF c
 
 void DrawStandIn(CDC& dc, const MapStandIn& plan, HBITMAP picture) {
     const BitmapDc memory(dc.GetSafeHdc(), picture);
-    const PixelBox& from = plan.source;
-    const PixelBox& to = plan.target;
+    const fx::Rect& from = plan.source;
+    const fx::Rect& to = plan.target;
     dc.SetStretchBltMode(COLORONCOLOR);
     ::StretchBlt(dc.GetSafeHdc(), to.left, to.top, to.right - to.left, to.bottom - to.top, memory.Get(), from.left,
                  from.top, from.right - from.left, from.bottom - from.top, SRCCOPY);

@@ -5,6 +5,7 @@
 #include <afxglobals.h>
 #include <afxtoolbarimages.h>
 #include <fx/dc_scope.h>
+#include <fx/geometry.h>
 #include <varnhold/language.h>
 
 #include <algorithm>
@@ -33,7 +34,7 @@ CSize ScaledSize(CMFCRibbonBaseElement::RibbonImageType type) {
     if (scale == 1.0) {
         return size;
     }
-    return CSize(static_cast<int>(size.cx * scale + 0.5), static_cast<int>(size.cy * scale + 0.5));
+    return CSize(fx::Scaled(size.cx, scale), fx::Scaled(size.cy, scale));
 }
 
 CString AlternateOf(const CString& path) {

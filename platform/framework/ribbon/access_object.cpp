@@ -5,17 +5,13 @@
 #include <optional>
 
 #include "afxribbonbar.h"
+#include "fx/to_rect.h"
 #include "ribbon/focus_walk.h"
 #include "ribbon/keyboard.h"
 
 namespace {
 
 using Kind = RibbonAccessNode::Kind;
-
-RibbonRect ToRibbonRect(const CRect& rect) {
-    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-            static_cast<int>(rect.bottom)};
-}
 
 std::optional<ribbon::FocusStep> StepOf(long direction) {
     switch (direction) {
@@ -277,10 +273,10 @@ HRESULT RibbonAccessible::NavigateTo(const std::vector<RibbonAccessNode>& siblin
     const auto place = static_cast<std::size_t>(std::find(siblings.begin(), siblings.end(), from) - siblings.begin());
     std::optional<std::size_t> next;
     if (const auto step = StepOf(direction)) {
-        std::vector<RibbonRect> rects;
+        std::vector<fx::Rect> rects;
         rects.reserve(siblings.size());
         for (const RibbonAccessNode& sibling : siblings) {
-            rects.push_back(ToRibbonRect(m_tree->RectOf(sibling)));
+            rects.push_back(fx::FromRect(m_tree->RectOf(sibling)));
         }
         next = ribbon::FocusNeighbour(rects, place, *step);
     } else if (direction == NAVDIR_NEXT) {

@@ -17,8 +17,8 @@ constexpr int kMostMinFrameWidth = 250;
 
 bool IsTabShown(const CMFCRibbonCategory& category) { return category.IsVisible() != FALSE; }
 
-void PlaceElement(CMFCRibbonBaseElement& element, CDC* pDC, const RibbonRect& rect) {
-    element.SetRect(ToCRect(rect));
+void PlaceElement(CMFCRibbonBaseElement& element, CDC* pDC, const fx::Rect& rect) {
+    element.SetRect(fx::ToRect(rect));
     element.OnAfterChangeRect(pDC);
 }
 
@@ -216,14 +216,14 @@ void CMFCRibbonBar::MeasureTabs(CDC* pDC) {
 void CMFCRibbonBar::Arrange(CDC* pDC) {
     m_parts->arrangement = ArrangeBar(m_parts->shape, m_parts->metrics);
     const RibbonBarArrangement& places = m_parts->arrangement;
-    m_rectCaption = ToCRect(places.caption);
+    m_rectCaption = fx::ToRect(places.caption);
     if (m_parts->applicationButton != nullptr) {
         PlaceElement(*m_parts->applicationButton, pDC, places.applicationButton);
     }
     PlaceElement(m_parts->quickAccess, pDC, places.quickAccess);
     for (size_t index = 0; index < m_parts->tabElements.size(); ++index) {
         const bool shown = m_parts->tabElements[index]->IsVisible() != FALSE;
-        PlaceElement(*m_parts->tabElements[index], pDC, shown ? places.tabElements[index] : RibbonRect{});
+        PlaceElement(*m_parts->tabElements[index], pDC, shown ? places.tabElements[index] : fx::Rect{});
     }
     size_t tab = 0;
     for (const auto& category : m_parts->categories) {
@@ -244,7 +244,7 @@ void CMFCRibbonBar::Arrange(CDC* pDC) {
         m_parts->shape.firstTab = 0;
     }
     if (CMFCRibbonCategory* shown = m_parts->ShownCategory()) {
-        shown->m_rect = ToCRect(places.category);
+        shown->m_rect = fx::ToRect(places.category);
         if (shown->m_parts->measured) {
             shown->ReposPanels(pDC);
         } else {

@@ -71,18 +71,18 @@ void CMFCRibbonBar::MeasureCaption() {
 
 void CMFCRibbonBar::ArrangeCaptionButtons(CDC* pDC) {
     const RibbonBarArrangement& places = m_parts->arrangement;
-    const auto place = [pDC](CMFCRibbonBaseElement& element, const RibbonRect& rect) {
-        element.SetRect(ToCRect(rect));
+    const auto place = [pDC](CMFCRibbonBaseElement& element, const fx::Rect& rect) {
+        element.SetRect(fx::ToRect(rect));
         element.OnAfterChangeRect(pDC);
     };
     size_t shown = 0;
     for (const auto& button : m_parts->captionButtons) {
         const bool hasPlace = button->IsVisible() && shown < places.captionButtons.size();
-        place(*button, hasPlace ? places.captionButtons[shown++] : RibbonRect{});
+        place(*button, hasPlace ? places.captionButtons[shown++] : fx::Rect{});
     }
     for (size_t index = 0; index < m_parts->childButtons.size(); ++index) {
         place(*m_parts->childButtons[index],
-              index < places.childButtons.size() ? places.childButtons[index] : RibbonRect{});
+              index < places.childButtons.size() ? places.childButtons[index] : fx::Rect{});
     }
 }
 
@@ -115,7 +115,7 @@ LRESULT CMFCRibbonBar::HitTestCaption(CPoint point) {
     return GetCaptionIconRect().PtInRect(point) ? HTSYSMENU : HTCAPTION;
 }
 
-CRect CMFCRibbonBar::GetCaptionIconRect() const { return ToCRect(m_parts->arrangement.captionIcon); }
+CRect CMFCRibbonBar::GetCaptionIconRect() const { return fx::ToRect(m_parts->arrangement.captionIcon); }
 
 // The frame behind the bar moves, opens its system menu and so on: what the system does with a caption.
 LRESULT CMFCRibbonBar::OnNcHitTest(CPoint point) {
@@ -142,11 +142,11 @@ void CMFCRibbonBar::DrawCaption(CDC* pDC) {
     if (m_rectCaption.IsRectEmpty() || !pDC->RectVisible(m_rectCaption)) {
         return;
     }
-    CRect text = ToCRect(m_parts->arrangement.captionText);
+    CRect text = fx::ToRect(m_parts->arrangement.captionText);
     for (const auto& context : m_parts->contexts) {
         const CRect taken = context.caption->GetRect();
         if (!taken.IsRectEmpty()) {
-            text = ToCRect(WiderFreePart(ToRibbonRect(text), ToRibbonRect(taken)));
+            text = fx::ToRect(WiderFreePart(fx::FromRect(text), fx::FromRect(taken)));
         }
     }
     text.DeflateRect(m_parts->metrics.quickAccessGap, 0);

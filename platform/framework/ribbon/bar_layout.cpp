@@ -20,8 +20,8 @@ int CommonLimit(std::vector<int> widths, int available) {
 }
 
 // Rectangles of equal size from the right end of a row to the left; those that have no room stay empty.
-std::vector<RibbonRect> ArrangeFromRight(int count, RibbonSize size, const RibbonRect& row) {
-    std::vector<RibbonRect> result(static_cast<size_t>(std::max(count, 0)));
+std::vector<fx::Rect> ArrangeFromRight(int count, fx::Size size, const fx::Rect& row) {
+    std::vector<fx::Rect> result(static_cast<size_t>(std::max(count, 0)));
     int right = row.right;
     for (size_t index = result.size(); index-- > 0 && right - size.width >= row.left;) {
         result[index] = {right - size.width, row.top, right, row.top + size.height};
@@ -30,8 +30,8 @@ std::vector<RibbonRect> ArrangeFromRight(int count, RibbonSize size, const Ribbo
     return result;
 }
 
-int LeftOf(const std::vector<RibbonRect>& rects, int otherwise) {
-    for (const RibbonRect& rect : rects) {
+int LeftOf(const std::vector<fx::Rect>& rects, int otherwise) {
+    for (const fx::Rect& rect : rects) {
         if (!rect.IsEmpty()) {
             return rect.left;
         }
@@ -112,11 +112,11 @@ void ArrangeTabs(const RibbonBarShape& shape, const RibbonMetrics& metrics, int 
 // The row above the tabs: application button, icon, quick access toolbar, title, buttons of the frame.
 void ArrangeCaption(const RibbonBarShape& shape, const RibbonMetrics& metrics, int left, RibbonBarArrangement& result) {
     const int width = std::max(shape.width, 0);
-    const RibbonRect row{0, 0, width, metrics.captionHeight};
+    const fx::Rect row{0, 0, width, metrics.captionHeight};
     int right = width;
     if (shape.replacesCaption) {
         result.caption = row;
-        const RibbonRect room{left, row.top, row.right, row.bottom};
+        const fx::Rect room{left, row.top, row.right, row.bottom};
         result.captionButtons =
             ArrangeFromRight(shape.captionButtons, {metrics.captionButtonWidth, metrics.captionButtonHeight}, room);
         right = LeftOf(result.captionButtons, width);
@@ -153,12 +153,12 @@ std::vector<int> ShortenWidths(const std::vector<int>& widths, int available, in
     return result;
 }
 
-RibbonRect WiderFreePart(const RibbonRect& area, const RibbonRect& taken) {
+fx::Rect WiderFreePart(const fx::Rect& area, const fx::Rect& taken) {
     if (!area.Overlaps(taken)) {
         return area;
     }
-    const RibbonRect before{area.left, area.top, std::max(taken.left, area.left), area.bottom};
-    const RibbonRect behind{std::min(taken.right, area.right), area.top, area.right, area.bottom};
+    const fx::Rect before{area.left, area.top, std::max(taken.left, area.left), area.bottom};
+    const fx::Rect behind{std::min(taken.right, area.right), area.top, area.right, area.bottom};
     return before.Width() > behind.Width() ? before : behind;
 }
 
@@ -194,8 +194,8 @@ RibbonBarArrangement ArrangeBar(const RibbonBarShape& shape, const RibbonMetrics
         y += metrics.captionHeight;
     }
     result.tabRow = {0, y, width, y + metrics.tabHeight};
-    const RibbonRect childRow{left, y + (metrics.tabHeight - metrics.childButtonSide) / 2,
-                              width - metrics.categoryMarginX, result.tabRow.bottom};
+    const fx::Rect childRow{left, y + (metrics.tabHeight - metrics.childButtonSide) / 2,
+                            width - metrics.categoryMarginX, result.tabRow.bottom};
     result.childButtons =
         ArrangeFromRight(shape.childButtons, {metrics.childButtonSide, metrics.childButtonSide}, childRow);
     const int tabsRight = LeftOf(result.childButtons, width) - metrics.categoryMarginX;

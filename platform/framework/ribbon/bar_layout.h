@@ -12,7 +12,7 @@ struct RibbonBarShape {
     bool quickAccessOnTop = true;      // else below the category
     bool minimized = false;            // tabs only
     int quickAccessWidth = 0;          // of all its commands; 0: no quick access toolbar
-    RibbonSize applicationButton;      // 0: none
+    fx::Size applicationButton;        // 0: none
     bool tabsOnlyButton = false;       // the application button is as high as the tabs, not as both rows
     std::vector<int> tabWidths;        // full width of each shown tab
     std::vector<int> tabElementWidths; // elements at the right end of the tab row
@@ -26,20 +26,20 @@ struct RibbonBarShape {
 /// Where the parts of the bar lie, in client pixels. Empty rectangles are not shown.
 struct RibbonBarArrangement {
     int height = 0;
-    RibbonRect caption; // the row above the tabs, when it stands for the frame's caption
-    RibbonRect captionText;
-    RibbonRect captionIcon;
-    std::vector<RibbonRect> captionButtons; // from left to right
-    std::vector<RibbonRect> childButtons;
-    RibbonRect applicationButton;
-    RibbonRect quickAccess;
-    RibbonRect tabRow;
-    std::vector<RibbonRect> tabs;
-    RibbonRect tabScrollLeft; // empty unless the tabs can scroll there
-    RibbonRect tabScrollRight;
+    fx::Rect caption; // the row above the tabs, when it stands for the frame's caption
+    fx::Rect captionText;
+    fx::Rect captionIcon;
+    std::vector<fx::Rect> captionButtons; // from left to right
+    std::vector<fx::Rect> childButtons;
+    fx::Rect applicationButton;
+    fx::Rect quickAccess;
+    fx::Rect tabRow;
+    std::vector<fx::Rect> tabs;
+    fx::Rect tabScrollLeft; // empty unless the tabs can scroll there
+    fx::Rect tabScrollRight;
     int firstTab = 0; // as asked for, or what is possible
-    std::vector<RibbonRect> tabElements;
-    RibbonRect category;
+    std::vector<fx::Rect> tabElements;
+    fx::Rect category;
     int tabReduction = 0; // how much of their full width the tabs lost, in percent
 };
 
@@ -49,4 +49,4 @@ RibbonBarArrangement ArrangeBar(const RibbonBarShape& shape, const RibbonMetrics
 std::vector<int> ShortenWidths(const std::vector<int>& widths, int available, int minimum);
 
 /// The wider of the parts of area that lie left and right of the taken part; all of it when nothing is taken.
-RibbonRect WiderFreePart(const RibbonRect& area, const RibbonRect& taken);
+fx::Rect WiderFreePart(const fx::Rect& area, const fx::Rect& taken);

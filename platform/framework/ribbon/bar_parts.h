@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "afxribbonbar.h"
+#include "fx/to_rect.h"
 #include "fx/wheel_rest.h"
 #include "ribbon/access.h"
 #include "ribbon/bar_layout.h"
@@ -12,12 +13,6 @@
 #include "ribbon/keyboard.h"
 #include "ribbon/panel_layout.h"
 #include "ribbon/pointer.h"
-
-inline CRect ToCRect(const RibbonRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
-inline RibbonRect ToRibbonRect(const CRect& rect) {
-    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-            static_cast<int>(rect.bottom)};
-}
 
 struct RibbonCategoryParts {
     std::vector<std::unique_ptr<CMFCRibbonPanel>> panels;

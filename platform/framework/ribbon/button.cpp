@@ -159,7 +159,7 @@ int CMFCRibbonButton::GetTextRowHeight() const { return ribbon::CurrentMetrics()
 
 BOOL CMFCRibbonButton::IsSingleLineText() const {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    const int limit = ribbon::LargeSingleLineWidth(metrics, ribbon::FromSize(GetImageSize(RibbonImageLarge)));
+    const int limit = ribbon::LargeSingleLineWidth(metrics, fx::FromSize(GetImageSize(RibbonImageLarge)));
     const auto measure = [](std::wstring_view text) { return ribbon::MeasureText(nullptr, text).width; };
     const CString text = ribbon::PlainText(m_strText);
     return !ribbon::BreakInTwo(View(text), measure, limit, 0).HasSecondLine(View(text));
@@ -172,7 +172,7 @@ void CMFCRibbonButton::CleanUpSizes() {
 
 void CMFCRibbonButton::OnCalcTextSize(CDC* pDC) {
     CMFCRibbonBaseElement::OnCalcTextSize(pDC);
-    m_sizeTextRight = ribbon::ToSize(ribbon::MeasureText(pDC, View(ribbon::PlainText(m_strText))));
+    m_sizeTextRight = fx::ToSize(ribbon::MeasureText(pDC, View(ribbon::PlainText(m_strText))));
     m_sizeTextBottom = HasLargeMode() ? DrawBottomText(pDC, TRUE) : CSize(0, 0);
 }
 
@@ -183,7 +183,7 @@ CMFCRibbonButton::Face CMFCRibbonButton::CollectFace(CDC* pDC) const {
     Face face;
     const BOOL isLarge = ShowsLargeFace();
     face.content = CollectContent(pDC, isLarge, m_bCompactMode && HasCompactMode() && !IsMenuMode(), face.lines);
-    face.parts = ribbon::PlaceButton(ribbon::FromRect(m_rect), face.content, ribbon::CurrentMetrics());
+    face.parts = ribbon::PlaceButton(fx::FromRect(m_rect), face.content, ribbon::CurrentMetrics());
     return face;
 }
 
@@ -193,7 +193,7 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
     using ribbon::ButtonMenu;
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     ribbon::ButtonContent content;
-    content.image = ribbon::FromSize(GetImageSize(GetImageTypeFor(bLarge || IsAlwaysLargeImage())));
+    content.image = fx::FromSize(GetImageSize(GetImageTypeFor(bLarge || IsAlwaysLargeImage())));
     if (HasMenu()) {
         content.menu = IsSplit() ? ButtonMenu::Split : ButtonMenu::Whole;
     }
@@ -221,11 +221,10 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
 
 CSize CMFCRibbonButton::MeasureAs(CDC* pDC, BOOL bLarge, BOOL bImageOnly) {
     if (ShowsMenuRow()) {
-        return ribbon::ToSize(ribbon::MeasureMenuRow(CollectMenuRow(pDC), ribbon::CurrentMetrics()));
+        return fx::ToSize(ribbon::MeasureMenuRow(CollectMenuRow(pDC), ribbon::CurrentMetrics()));
     }
     ribbon::TextBreak lines;
-    return ribbon::ToSize(
-        ribbon::MeasureButton(CollectContent(pDC, bLarge, bImageOnly, lines), ribbon::CurrentMetrics()));
+    return fx::ToSize(ribbon::MeasureButton(CollectContent(pDC, bLarge, bImageOnly, lines), ribbon::CurrentMetrics()));
 }
 
 CSize CMFCRibbonButton::GetRegularSize(CDC* pDC) { return MeasureAs(pDC, HasLargeMode() && !IsMenuMode(), FALSE); }
@@ -241,8 +240,8 @@ void CMFCRibbonButton::OnAfterChangeRect(CDC* pDC) {
         return;
     }
     const Face face = CollectFace(pDC);
-    m_rectCommand = ribbon::ToRect(face.parts.command);
-    m_rectMenu = ribbon::ToRect(face.parts.menu);
+    m_rectCommand = fx::ToRect(face.parts.command);
+    m_rectMenu = fx::ToRect(face.parts.menu);
 }
 
 // ---- texts

@@ -36,10 +36,10 @@ void CMFCRibbonButton::OnDraw(CDC* pDC) {
     const ribbon::TextContext context(pDC);
     const COLORREF color = ribbon::TextColor(pDC, OnFillBackground(pDC), IsDisabled());
     const Face face = CollectFace(pDC);
-    CompareWithMeasured(ribbon::ToSize(face.content.rightText));
+    CompareWithMeasured(fx::ToSize(face.content.rightText));
 
     if (!face.parts.image.IsEmpty()) {
-        DrawImage(pDC, GetFaceImageType(), ribbon::ToRect(face.parts.image));
+        DrawImage(pDC, GetFaceImageType(), fx::ToRect(face.parts.image));
     }
     DrawFaceText(pDC, face, color);
     if (!face.parts.arrow.IsEmpty()) {
@@ -61,11 +61,11 @@ void CMFCRibbonButton::DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText
     const CString text = ribbon::PlainText(m_strText);
     if (face.content.look != ribbon::ButtonLook::Large) {
         const UINT format = WithEnd(kOneLine, face.content.rightText.width, face.parts.text.Width());
-        DrawRibbonText(pDC, text, ribbon::ToRect(face.parts.text), format, clrText);
+        DrawRibbonText(pDC, text, fx::ToRect(face.parts.text), format, clrText);
         return;
     }
     const int row = ribbon::CurrentMetrics().textHeight;
-    const ribbon::Rect& area = face.parts.text;
+    const fx::Rect& area = face.parts.text;
     const int center = (area.left + area.right) / 2;
     const auto draw = [&](const CString& line, int width, int tail, int top) {
         const int shown = std::clamp(area.Width() - tail, 0, width);
@@ -105,7 +105,7 @@ CSize CMFCRibbonButton::DrawBottomText(CDC* pDC, BOOL bCalcOnly) {
     face.content = CollectContent(pDC, TRUE, FALSE, face.lines);
     const int rows = face.content.isArrowAlone && !HasMenu() ? 1 : 2;
     if (!bCalcOnly && pDC != nullptr) {
-        face.parts = ribbon::PlaceButton(ribbon::FromRect(m_rect), face.content, ribbon::CurrentMetrics());
+        face.parts = ribbon::PlaceButton(fx::FromRect(m_rect), face.content, ribbon::CurrentMetrics());
         DrawFaceText(pDC, face, static_cast<COLORREF>(-1));
     }
     return {face.content.bottomTextWidth, rows * ribbon::CurrentMetrics().textHeight};

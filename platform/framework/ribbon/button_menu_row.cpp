@@ -65,7 +65,7 @@ void DrawSubmenuArrow(CDC* pDC, const CRect& rect, COLORREF color) {
 ribbon::MenuRowContent CMFCRibbonButton::CollectMenuRow(CDC* pDC) const {
     ribbon::MenuRowContent content;
     const BOOL isLarge = m_pParentMenu != nullptr ? m_pParentMenu->HasLargeRows(this) : IsAlwaysLargeImage();
-    content.image = ribbon::FromSize(GetImageSize(GetImageTypeFor(isLarge)));
+    content.image = fx::FromSize(GetImageSize(GetImageTypeFor(isLarge)));
     content.text = ribbon::MeasureText(pDC, View(TextOf(m_strText)));
     content.text.height = ribbon::CurrentMetrics().textHeight;
     content.keys = ribbon::MeasureText(pDC, View(KeysOf(m_strText)));
@@ -81,34 +81,34 @@ ribbon::MenuRowContent CMFCRibbonButton::CollectMenuRow(CDC* pDC) const {
 
 void CMFCRibbonButton::PlaceMenuRowParts(CDC* pDC) {
     const ribbon::MenuRowFace face =
-        ribbon::PlaceMenuRow(ribbon::FromRect(m_rect), CollectMenuRow(pDC), ribbon::CurrentMetrics());
-    m_rectCommand = ribbon::ToRect(face.command);
-    m_rectMenu = ribbon::ToRect(face.menu);
+        ribbon::PlaceMenuRow(fx::FromRect(m_rect), CollectMenuRow(pDC), ribbon::CurrentMetrics());
+    m_rectCommand = fx::ToRect(face.command);
+    m_rectMenu = fx::ToRect(face.menu);
 }
 
 void CMFCRibbonButton::DrawMenuRow(CDC* pDC) {
     const ribbon::TextContext context(pDC);
     const ribbon::MenuRowContent content = CollectMenuRow(pDC);
-    const ribbon::MenuRowFace face = ribbon::PlaceMenuRow(ribbon::FromRect(m_rect), content, ribbon::CurrentMetrics());
+    const ribbon::MenuRowFace face = ribbon::PlaceMenuRow(fx::FromRect(m_rect), content, ribbon::CurrentMetrics());
     const COLORREF color = ribbon::TextColor(pDC, OnFillBackground(pDC), IsDisabled());
 
     if (IsChecked()) {
-        CMFCVisualManager::GetInstance()->OnDrawRibbonMenuCheckFrame(pDC, this, ribbon::ToRect(face.frame));
+        CMFCVisualManager::GetInstance()->OnDrawRibbonMenuCheckFrame(pDC, this, fx::ToRect(face.frame));
     }
-    if (face.image.IsEmpty() || !OnDrawMenuImage(pDC, ribbon::ToRect(face.image))) {
+    if (face.image.IsEmpty() || !OnDrawMenuImage(pDC, fx::ToRect(face.image))) {
         if (IsChecked()) {
-            DrawMark(pDC, ribbon::ToRect(face.frame), IsRadio(), color);
+            DrawMark(pDC, fx::ToRect(face.frame), IsRadio(), color);
         }
     }
-    DrawRibbonText(pDC, TextOf(m_strText), ribbon::ToRect(face.text), kRowText, color);
+    DrawRibbonText(pDC, TextOf(m_strText), fx::ToRect(face.text), kRowText, color);
     if (!face.description.IsEmpty()) {
-        DrawRibbonText(pDC, m_strDescription, ribbon::ToRect(face.description), kRowText, color);
+        DrawRibbonText(pDC, m_strDescription, fx::ToRect(face.description), kRowText, color);
     }
     if (!face.keys.IsEmpty()) {
-        DrawRibbonText(pDC, KeysOf(m_strText), ribbon::ToRect(face.keys), kRowText, color);
+        DrawRibbonText(pDC, KeysOf(m_strText), fx::ToRect(face.keys), kRowText, color);
     }
     if (!face.arrow.IsEmpty()) {
-        DrawSubmenuArrow(pDC, ribbon::ToRect(face.arrow), color);
+        DrawSubmenuArrow(pDC, fx::ToRect(face.arrow), color);
     }
     OnDrawBorder(pDC);
 }

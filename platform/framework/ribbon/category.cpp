@@ -352,8 +352,8 @@ void CMFCRibbonCategory::ReposPanels(CDC* pDC) {
     if (!places.scrolls) {
         m_parts->wantedFirstPanel = 0;
     }
-    const auto placeScroll = [this, pDC](CRibbonCategoryScroll& button, const RibbonRect& rect) {
-        button.SetRect(rect.IsEmpty() ? CRect(0, 0, 0, 0) : ToCRect(rect) + m_rect.TopLeft());
+    const auto placeScroll = [this, pDC](CRibbonCategoryScroll& button, const fx::Rect& rect) {
+        button.SetRect(rect.IsEmpty() ? CRect(0, 0, 0, 0) : fx::ToRect(rect) + m_rect.TopLeft());
         button.OnAfterChangeRect(pDC);
     };
     placeScroll(m_ScrollLeft, places.scrollLeft);

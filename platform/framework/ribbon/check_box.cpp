@@ -10,7 +10,7 @@
 
 namespace {
 
-ribbon::Size MeasureLabel(CDC* pDC, const CString& text) {
+fx::Size MeasureLabel(CDC* pDC, const CString& text) {
     return ribbon::MeasureText(pDC, {text, static_cast<std::size_t>(text.GetLength())});
 }
 
@@ -25,8 +25,8 @@ CSize CMFCRibbonCheckBox::GetRegularSize(CDC* pDC) {
     if (ShowsMenuRow()) {
         return CMFCRibbonButton::GetRegularSize(pDC);
     }
-    const ribbon::Size text = MeasureLabel(pDC, ribbon::PlainText(m_strText));
-    return ribbon::ToSize(ribbon::MeasureCheckBox(text, ribbon::CurrentMetrics()));
+    const fx::Size text = MeasureLabel(pDC, ribbon::PlainText(m_strText));
+    return fx::ToSize(ribbon::MeasureCheckBox(text, ribbon::CurrentMetrics()));
 }
 
 CSize CMFCRibbonCheckBox::GetIntermediateSize(CDC* pDC) { return GetRegularSize(pDC); }
@@ -42,12 +42,12 @@ void CMFCRibbonCheckBox::OnDraw(CDC* pDC) {
         return;
     }
     const ribbon::TextContext context(pDC);
-    const ribbon::Size text = MeasureLabel(pDC, ribbon::PlainText(m_strText));
-    const ribbon::CheckBoxFace face = ribbon::PlaceCheckBox(ribbon::FromRect(m_rect), text, ribbon::CurrentMetrics());
-    CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(pDC, ribbon::ToRect(face.box), IsChecked() ? 1 : 0,
-                                                       IsHighlighted(), IsPressed(), !IsDisabled());
+    const fx::Size text = MeasureLabel(pDC, ribbon::PlainText(m_strText));
+    const ribbon::CheckBoxFace face = ribbon::PlaceCheckBox(fx::FromRect(m_rect), text, ribbon::CurrentMetrics());
+    CMFCVisualManager::GetInstance()->OnDrawCheckBoxEx(pDC, fx::ToRect(face.box), IsChecked() ? 1 : 0, IsHighlighted(),
+                                                       IsPressed(), !IsDisabled());
     if (!face.text.IsEmpty()) {
-        DrawRibbonText(pDC, ribbon::PlainText(m_strText), ribbon::ToRect(face.text),
+        DrawRibbonText(pDC, ribbon::PlainText(m_strText), fx::ToRect(face.text),
                        DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
     }

@@ -84,7 +84,7 @@ BOOL CMFCRibbonEdit::HasCompactMode() const { return !m_strText.IsEmpty(); }
 
 ribbon::EditContent CMFCRibbonEdit::CollectContent(CDC* pDC, BOOL bWithLabel) const {
     ribbon::EditContent content;
-    content.image = ribbon::FromSize(GetImageSize(RibbonImageSmall));
+    content.image = fx::FromSize(GetImageSize(RibbonImageSmall));
     if (bWithLabel) {
         const CString label = ribbon::PlainText(m_strText);
         content.label = ribbon::MeasureText(pDC, {label, static_cast<std::size_t>(label.GetLength())});
@@ -99,14 +99,14 @@ ribbon::EditContent CMFCRibbonEdit::CollectContent(CDC* pDC, BOOL bWithLabel) co
 CMFCRibbonEdit::Layout CMFCRibbonEdit::CollectLayout(CDC* pDC) const {
     Layout layout;
     layout.content = CollectContent(pDC, !m_bCompactMode);
-    layout.face = ribbon::PlaceEdit(ribbon::FromRect(m_rect), layout.content, ribbon::CurrentMetrics());
+    layout.face = ribbon::PlaceEdit(fx::FromRect(m_rect), layout.content, ribbon::CurrentMetrics());
     return layout;
 }
 
 CSize CMFCRibbonEdit::GetRegularSize(CDC* pDC) { return GetIntermediateSize(pDC); }
 
 CSize CMFCRibbonEdit::GetIntermediateSize(CDC* pDC) {
-    return ribbon::ToSize(ribbon::MeasureEdit(CollectContent(pDC, TRUE), ribbon::CurrentMetrics()));
+    return fx::ToSize(ribbon::MeasureEdit(CollectContent(pDC, TRUE), ribbon::CurrentMetrics()));
 }
 
 int CMFCRibbonEdit::GetLeastEditWidth() const { return kLeastWidth; }
@@ -118,15 +118,15 @@ int CMFCRibbonEdit::GetNarrowestWidth(CDC* pDC) {
 }
 
 CSize CMFCRibbonEdit::GetCompactSize(CDC* pDC) {
-    return ribbon::ToSize(ribbon::MeasureEdit(CollectContent(pDC, FALSE), ribbon::CurrentMetrics()));
+    return fx::ToSize(ribbon::MeasureEdit(CollectContent(pDC, FALSE), ribbon::CurrentMetrics()));
 }
 
 void CMFCRibbonEdit::OnAfterChangeRect(CDC* pDC) {
     CMFCRibbonBaseElement::OnAfterChangeRect(pDC);
     const ribbon::EditFace face = CollectLayout(pDC).face;
-    m_rectCommand = ribbon::ToRect(face.edit);
-    m_rectMenu = ribbon::ToRect(face.dropButton);
-    m_rectText = ribbon::ToRect(face.text);
+    m_rectCommand = fx::ToRect(face.edit);
+    m_rectMenu = fx::ToRect(face.dropButton);
+    m_rectText = fx::ToRect(face.text);
     PlaceEditWindow();
 }
 
@@ -143,13 +143,12 @@ void CMFCRibbonEdit::OnDraw(CDC* pDC) {
     COLORREF text = afxGlobalData.clrWindowText;
     COLORREF selection = afxGlobalData.clrHilite;
     COLORREF selectedText = afxGlobalData.clrTextHilite;
-    CMFCVisualManager::GetInstance()->OnFillRibbonEdit(pDC, m_pWndEdit, ribbon::ToRect(face.box), IsHighlighted(),
-                                                       FALSE, IsDisabled(), text, selection, selectedText);
+    CMFCVisualManager::GetInstance()->OnFillRibbonEdit(pDC, m_pWndEdit, fx::ToRect(face.box), IsHighlighted(), FALSE,
+                                                       IsDisabled(), text, selection, selectedText);
     const BOOL isWindowShown = m_pWndEdit != nullptr && m_pWndEdit->IsWindowVisible();
     if (!isWindowShown && !face.text.IsEmpty()) {
         const UINT align = m_nAlign == ES_CENTER ? DT_CENTER : m_nAlign == ES_RIGHT ? DT_RIGHT : DT_LEFT;
-        DrawRibbonText(pDC, m_strEdit, ribbon::ToRect(face.text), DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | align,
-                       text);
+        DrawRibbonText(pDC, m_strEdit, fx::ToRect(face.text), DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | align, text);
     }
     OnDrawBorder(pDC);
 }
@@ -157,10 +156,10 @@ void CMFCRibbonEdit::OnDraw(CDC* pDC) {
 void CMFCRibbonEdit::OnDrawLabelAndImage(CDC* pDC) {
     const ribbon::EditFace face = CollectLayout(pDC).face;
     if (!face.image.IsEmpty()) {
-        DrawImage(pDC, RibbonImageSmall, ribbon::ToRect(face.image));
+        DrawImage(pDC, RibbonImageSmall, fx::ToRect(face.image));
     }
     if (!face.label.IsEmpty()) {
-        DrawRibbonText(pDC, ribbon::PlainText(m_strText), ribbon::ToRect(face.label),
+        DrawRibbonText(pDC, ribbon::PlainText(m_strText), fx::ToRect(face.label),
                        DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP,
                        ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
     }

@@ -14,7 +14,7 @@ constexpr int kPaddingX = 4;
 constexpr int kPaddingY = 1;
 
 // A tip never lies outside of the work area of its element's monitor; client pixels of the window.
-RibbonRect WorkAreaIn(CWnd& window, const CRect& element) {
+fx::Rect WorkAreaIn(CWnd& window, const CRect& element) {
     CRect screen = element;
     window.ClientToScreen(screen);
     MONITORINFO monitor{};
@@ -24,7 +24,7 @@ RibbonRect WorkAreaIn(CWnd& window, const CRect& element) {
     }
     CRect area(monitor.rcWork);
     window.ScreenToClient(area);
-    return ToRibbonRect(area);
+    return fx::FromRect(area);
 }
 
 } // namespace
@@ -72,9 +72,9 @@ CRect CMFCRibbonBaseElement::GetKeyTipRect(CDC* pDC, BOOL /*bIsMenu*/) {
     if (m_rect.IsRectEmpty() || tip.cx == 0 || parent == nullptr) {
         return {0, 0, 0, 0};
     }
-    return ToCRect(ribbon::PlaceKeyTip(ToRibbonRect(m_rect), {static_cast<int>(tip.cx), static_cast<int>(tip.cy)},
-                                       static_cast<int>(GetImageSize(RibbonImageSmall).cx),
-                                       WorkAreaIn(*parent, m_rect)));
+    return fx::ToRect(ribbon::PlaceKeyTip(fx::FromRect(m_rect), {static_cast<int>(tip.cx), static_cast<int>(tip.cy)},
+                                          static_cast<int>(GetImageSize(RibbonImageSmall).cx),
+                                          WorkAreaIn(*parent, m_rect)));
 }
 
 CRect CMFCRibbonButton::GetKeyTipRect(CDC* pDC, BOOL bIsMenu) {
@@ -85,8 +85,8 @@ CRect CMFCRibbonButton::GetKeyTipRect(CDC* pDC, BOOL bIsMenu) {
     if (area.IsRectEmpty() || tip.cx == 0 || parent == nullptr) {
         return CMFCRibbonBaseElement::GetKeyTipRect(pDC, bIsMenu);
     }
-    return ToCRect(ribbon::PlaceKeyTip(ToRibbonRect(area), {static_cast<int>(tip.cx), static_cast<int>(tip.cy)}, 0,
-                                       WorkAreaIn(*parent, m_rect)));
+    return fx::ToRect(ribbon::PlaceKeyTip(fx::FromRect(area), {static_cast<int>(tip.cx), static_cast<int>(tip.cy)}, 0,
+                                          WorkAreaIn(*parent, m_rect)));
 }
 
 void CMFCRibbonBaseElement::OnDrawKeyTip(CDC* pDC, const CRect& rect, BOOL bIsMenu) {

@@ -63,13 +63,6 @@ private:
 
 FaceMetrics CurrentMetrics() { return {afxGlobalData.GetRibbonImageScale(), afxGlobalData.GetCharacterHeight()}; }
 
-CRect ToRect(const Rect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
-
-Rect FromRect(const CRect& rect) {
-    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-            static_cast<int>(rect.bottom)};
-}
-
 TextContext::TextContext(CDC* pDC) {
     m_hDC = pDC != nullptr ? pDC->GetSafeHdc() : nullptr;
     if (m_hDC == nullptr) {

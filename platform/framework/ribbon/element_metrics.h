@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "fx/to_rect.h"
 #include "ribbon/face_types.h"
 
 // The bridge between the geometry of ribbon elements and the window system: measures, rectangles, fonts.
@@ -11,11 +12,6 @@ namespace ribbon {
 
 // Metrics at the current ribbon image scale and font.
 FaceMetrics CurrentMetrics();
-
-CRect ToRect(const Rect& rect);
-Rect FromRect(const CRect& rect);
-inline CSize ToSize(Size size) { return {size.width, size.height}; }
-inline Size FromSize(const CSize& size) { return {size.cx, size.cy}; }
 
 // Selects the ribbon's regular font and transparent text for its lifetime. A null context is replaced by one for
 // measuring.

@@ -12,7 +12,7 @@ struct FaceMetrics {
     double scale = 1.0;
     int textHeight = 15;
 
-    int Scaled(int length) const { return static_cast<int>(length * scale + 0.5); }
+    int Scaled(int length) const { return fx::Scaled(length, scale); }
     // Height of a row of small buttons, edits, check boxes and sliders.
     int RowHeight() const { return std::max(Scaled(16), textHeight) + 2 * Scaled(3); }
 };

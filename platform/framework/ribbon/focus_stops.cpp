@@ -32,10 +32,10 @@ bool RibbonFocusStops::Contains(const Elements& stops, const CMFCRibbonBaseEleme
 
 CMFCRibbonBaseElement* RibbonFocusStops::NeighbourOf(const Elements& stops, const CMFCRibbonBaseElement& from,
                                                      ribbon::FocusStep step) {
-    std::vector<RibbonRect> places;
+    std::vector<fx::Rect> places;
     std::size_t start = stops.size();
     for (std::size_t place = 0; place < stops.size(); ++place) {
-        places.push_back(ToRibbonRect(stops[place]->GetRect()));
+        places.push_back(fx::FromRect(stops[place]->GetRect()));
         start = stops[place] == &from ? place : start;
     }
     const auto next = ribbon::FocusNeighbour(places, start, step);

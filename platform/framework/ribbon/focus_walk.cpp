@@ -18,7 +18,7 @@ struct Span {
     int SideCentre() const { return (sideBegin + sideEnd) / 2; }
 };
 
-Span Along(const RibbonRect& rect, FocusStep step) {
+Span Along(const fx::Rect& rect, FocusStep step) {
     switch (step) {
     case FocusStep::Left:
         return {-rect.right, -rect.left, rect.top, rect.bottom};
@@ -52,7 +52,7 @@ Distance Measure(const Span& from, const Span& goal) {
 
 } // namespace
 
-std::optional<std::size_t> FocusNeighbour(const std::vector<RibbonRect>& places, std::size_t from, FocusStep step) {
+std::optional<std::size_t> FocusNeighbour(const std::vector<fx::Rect>& places, std::size_t from, FocusStep step) {
     if (from >= places.size()) {
         return std::nullopt;
     }
@@ -78,10 +78,10 @@ std::optional<std::size_t> FocusNeighbour(const std::vector<RibbonRect>& places,
     return best;
 }
 
-RibbonRect PlaceKeyTip(const RibbonRect& element, RibbonSize tip, int imageWidth, const RibbonRect& bounds) {
+fx::Rect PlaceKeyTip(const fx::Rect& element, fx::Size tip, int imageWidth, const fx::Rect& bounds) {
     const bool isRow = imageWidth > 0 && element.Width() > 2 * imageWidth && element.Height() < 2 * imageWidth;
     const int middle = isRow ? element.left + imageWidth : (element.left + element.right) / 2;
-    RibbonRect rect{middle - tip.width / 2, element.bottom - tip.height / 2, 0, 0};
+    fx::Rect rect{middle - tip.width / 2, element.bottom - tip.height / 2, 0, 0};
     if (!bounds.IsEmpty()) {
         rect.left = std::max(bounds.left, std::min(rect.left, bounds.right - tip.width));
         rect.top = std::max(bounds.top, std::min(rect.top, bounds.bottom - tip.height));

@@ -28,8 +28,8 @@ void CMFCRibbonLabel::CopyFrom(const CMFCRibbonBaseElement& src) {
 // A multi-line label takes the width at which its text fits the panel's rows.
 CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    const ribbon::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
-    m_sizeTextRight = ribbon::ToSize(text);
+    const fx::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
+    m_sizeTextRight = fx::ToSize(text);
     if (!m_bIsMultiLine || m_strText.IsEmpty()) {
         return {text.width + 2 * m_szMargin.cx, metrics.RowHeight()};
     }
@@ -85,7 +85,7 @@ void CMFCRibbonLabel::OnDraw(CDC* pDC) {
 int CMFCRibbonLabel::DrawRibbonText(CDC* pDC, const CString& strText, CRect rectText, UINT uiDTFlags,
                                     COLORREF clrText) {
     const auto length = static_cast<size_t>(strText.GetLength());
-    CompareWithMeasured(ribbon::ToSize(ribbon::MeasureText(pDC, {strText.GetString(), length})));
+    CompareWithMeasured(fx::ToSize(ribbon::MeasureText(pDC, {strText.GetString(), length})));
     return CMFCRibbonButton::DrawRibbonText(pDC, strText, rectText, uiDTFlags, clrText);
 }
 

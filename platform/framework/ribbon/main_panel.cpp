@@ -129,7 +129,7 @@ void CMFCRibbonMainPanel::AddToBottom(CMFCRibbonMainPanelButton* pElem) {
 }
 
 CRect CMFCRibbonMainPanel::GetCommandsFrame() const {
-    return m_pParentMenuBar != nullptr ? ribbon::ToRect(m_parts->places.frame) : CRect(0, 0, 0, 0);
+    return m_pParentMenuBar != nullptr ? fx::ToRect(m_parts->places.frame) : CRect(0, 0, 0, 0);
 }
 
 int CMFCRibbonMainPanel::GetImageColumnWidth(const CMFCRibbonButton* pButton) const {
@@ -193,7 +193,7 @@ CSize CMFCRibbonMainPanel::ArrangeRows(CDC* pDC, int nMaxHeight, int nFirstRow) 
         element.OnCalcTextSize(pDC);
         const CSize size = element.IsVisible() ? element.GetSize(pDC) : CSize(0, 0);
         auto& list = place == Place::Right ? content.right : place == Place::Bottom ? content.bottom : content.left;
-        list.push_back(ribbon::FromSize(size));
+        list.push_back(fx::FromSize(size));
     }
     m_parts->places = ribbon::PlaceMainPanel(content, ribbon::CurrentMetrics());
     const ribbon::MainPanelPlaces& places = m_parts->places;
@@ -203,9 +203,9 @@ CSize CMFCRibbonMainPanel::ArrangeRows(CDC* pDC, int nMaxHeight, int nFirstRow) 
     for (int index = 0; index < GetCount(); ++index) {
         CMFCRibbonBaseElement& element = *GetElement(index);
         const Place place = m_parts->PlaceOf(&element);
-        CRect rect = ribbon::ToRect(place == Place::Right    ? places.right[right++]
-                                    : place == Place::Bottom ? places.bottom[bottom++]
-                                                             : places.left[left++]);
+        CRect rect = fx::ToRect(place == Place::Right    ? places.right[right++]
+                                : place == Place::Bottom ? places.bottom[bottom++]
+                                                         : places.left[left++]);
         if (rect.IsRectEmpty()) {
             rect = CRect(0, 0, 0, 0);
         }
@@ -213,14 +213,14 @@ CSize CMFCRibbonMainPanel::ArrangeRows(CDC* pDC, int nMaxHeight, int nFirstRow) 
         element.OnAfterChangeRect(pDC);
         element.OnShow(!rect.IsRectEmpty());
     }
-    return ribbon::ToSize(places.size);
+    return fx::ToSize(places.size);
 }
 
 void CMFCRibbonMainPanel::DrawBackground(CDC* pDC, CRect rect) {
     CMFCVisualManager* manager = CMFCVisualManager::GetInstance();
     manager->OnDrawRibbonMainPanelFrame(pDC, this, rect);
-    manager->OnFillRibbonMenuFrame(pDC, this, ribbon::ToRect(m_parts->places.frame));
+    manager->OnFillRibbonMenuFrame(pDC, this, fx::ToRect(m_parts->places.frame));
     if (!m_parts->places.rightFrame.IsEmpty()) {
-        manager->OnDrawRibbonRecentFilesFrame(pDC, this, ribbon::ToRect(m_parts->places.rightFrame));
+        manager->OnDrawRibbonRecentFilesFrame(pDC, this, fx::ToRect(m_parts->places.rightFrame));
     }
 }

@@ -45,7 +45,7 @@ struct RibbonMetrics {
     int CategoryHeight() const { return PanelHeight() + 2 * categoryMarginY; }
 
     /// A length at 96 DPI in this scale.
-    int Scaled(int length) const { return static_cast<int>(length * scale + 0.5); }
+    int Scaled(int length) const { return fx::Scaled(length, scale); }
 
     /// textHeight: of the ribbon's font, already scaled. scale: 1.0 at 96 DPI.
     static RibbonMetrics FromFont(int textHeight, double scale) {

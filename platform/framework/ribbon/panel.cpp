@@ -15,8 +15,6 @@ IMPLEMENT_DYNCREATE(CMFCRibbonPanel, CObject)
 
 namespace {
 
-RibbonSize ToRibbonSize(const CSize& size) { return {static_cast<int>(size.cx), static_cast<int>(size.cy)}; }
-
 RibbonElementFlow FlowOf(CMFCRibbonBaseElement& element, bool hasLarge, bool hasSmaller) {
     if (hasLarge) {
         return hasSmaller ? RibbonElementFlow::Column : RibbonElementFlow::WholeHeight;
@@ -39,10 +37,10 @@ RibbonElementShape ShapeOf(CMFCRibbonBaseElement& element, CDC* pDC) {
     shape.hasCompact = element.HasCompactMode() != FALSE;
     const bool hasIntermediate = element.HasIntermediateMode() != FALSE;
     shape.hasIntermediate = hasIntermediate || !shape.hasLarge;
-    const RibbonSize regular = ToRibbonSize(element.GetRegularSize(pDC));
+    const fx::Size regular = fx::FromSize(element.GetRegularSize(pDC));
     shape.large = regular;
-    shape.intermediate = hasIntermediate ? ToRibbonSize(element.GetIntermediateSize(pDC)) : regular;
-    shape.compact = shape.hasCompact ? ToRibbonSize(element.GetCompactSize(pDC)) : shape.intermediate;
+    shape.intermediate = hasIntermediate ? fx::FromSize(element.GetIntermediateSize(pDC)) : regular;
+    shape.compact = shape.hasCompact ? fx::FromSize(element.GetCompactSize(pDC)) : shape.intermediate;
     shape.narrowest = element.GetNarrowestWidth(pDC);
     shape.flow = FlowOf(element, shape.hasLarge, hasIntermediate || shape.hasCompact);
     return shape;
@@ -257,12 +255,12 @@ void CMFCRibbonPanel::Place(CDC* pDC, const RibbonPanelArrangement& arrangement,
     const CRect none(0, 0, 0, 0);
     m_bCollapsed = arrangement.collapsed;
     m_rect = CRect(origin, CSize(arrangement.width, arrangement.height));
-    m_rectCaption = m_bCollapsed ? none : ToCRect(arrangement.caption) + origin;
+    m_rectCaption = m_bCollapsed ? none : fx::ToRect(arrangement.caption) + origin;
     m_btnDefault.SetRect(m_bCollapsed ? m_rect : none);
     m_btnDefault.OnAfterChangeRect(pDC);
     if (!IsLent()) {
-        const RibbonRect& launch = arrangement.launchButton;
-        LaunchButton().SetRect(m_bCollapsed || launch.IsEmpty() ? none : ToCRect(launch) + origin);
+        const fx::Rect& launch = arrangement.launchButton;
+        LaunchButton().SetRect(m_bCollapsed || launch.IsEmpty() ? none : fx::ToRect(launch) + origin);
         LaunchButton().OnAfterChangeRect(pDC);
     }
     // What a pop-up shows has its place there.
@@ -270,7 +268,7 @@ void CMFCRibbonPanel::Place(CDC* pDC, const RibbonPanelArrangement& arrangement,
         CMFCRibbonBaseElement& element = *m_arElements[index];
         const RibbonPlacedElement& place = arrangement.elements[static_cast<size_t>(index)];
         SetMode(element, place.mode);
-        element.SetRect(place.rect.IsEmpty() ? none : ToCRect(place.rect) + origin);
+        element.SetRect(place.rect.IsEmpty() ? none : fx::ToRect(place.rect) + origin);
         element.OnAfterChangeRect(pDC);
         element.OnShow(!place.rect.IsEmpty());
     }

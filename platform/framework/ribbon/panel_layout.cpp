@@ -46,7 +46,7 @@ RibbonElementMode RibbonPanelLadder::ModeOf(size_t index, RibbonElementMode want
                                                           : RibbonElementMode::Compact;
 }
 
-RibbonSize RibbonPanelLadder::SizeOf(size_t index, RibbonElementMode mode) const {
+fx::Size RibbonPanelLadder::SizeOf(size_t index, RibbonElementMode mode) const {
     const RibbonElementShape& element = m_shape.elements[index];
     switch (mode) {
     case RibbonElementMode::Large:
@@ -236,7 +236,7 @@ int RibbonPanelLadder::PanelWidth(int contentWidth) const {
 }
 
 // As far from the caption's end as from its lower edge, one line of the frame apart.
-RibbonRect RibbonPanelLadder::PlaceLaunchButton(const RibbonRect& caption) const {
+fx::Rect RibbonPanelLadder::PlaceLaunchButton(const fx::Rect& caption) const {
     if (!m_shape.hasLaunchButton) {
         return {};
     }
@@ -349,7 +349,7 @@ void RibbonPanelLadder::PlaceStack(const Block& block, const BlockLevel& level, 
     }
     for (const size_t index : block.elements) {
         const RibbonElementMode own = ModeOf(index, mode);
-        const RibbonSize size = SizeOf(index, own);
+        const fx::Size size = SizeOf(index, own);
         const int room = RowsOf(index, own) * m_metrics.rowHeight;
         const int height = std::min(size.height, room);
         const int top = y + (room - height) / 2;

@@ -24,9 +24,9 @@ struct RibbonElementShape {
     bool hasLarge = false;
     bool hasIntermediate = true;
     bool hasCompact = false;
-    RibbonSize large;
-    RibbonSize intermediate;
-    RibbonSize compact;
+    fx::Size large;
+    fx::Size intermediate;
+    fx::Size compact;
     int narrowest = 0; // width that the intermediate size may give way to, like an edit's; 0: none
 };
 
@@ -41,7 +41,7 @@ struct RibbonPanelShape {
 };
 
 struct RibbonPlacedElement {
-    RibbonRect rect; // in the panel, whose top left corner is 0, 0; empty: not shown
+    fx::Rect rect; // in the panel, whose top left corner is 0, 0; empty: not shown
     RibbonElementMode mode = RibbonElementMode::Intermediate;
 };
 
@@ -49,8 +49,8 @@ struct RibbonPanelArrangement {
     int width = 0;
     int height = 0;
     bool collapsed = false;
-    RibbonRect caption;                        // empty when collapsed
-    RibbonRect launchButton;                   // at the caption's end; empty when there is none
+    fx::Rect caption;                          // empty when collapsed
+    fx::Rect launchButton;                     // at the caption's end; empty when there is none
     std::vector<RibbonPlacedElement> elements; // one for each element of the shape
 };
 
@@ -96,7 +96,7 @@ private:
     void AddWholeHeight(size_t index);
     void MakeSteps();
     int PanelWidth(int contentWidth) const;
-    RibbonRect PlaceLaunchButton(const RibbonRect& caption) const;
+    fx::Rect PlaceLaunchButton(const fx::Rect& caption) const;
     int StackWidth(const Block& block, RibbonElementMode mode, int narrowing = 0) const;
     int FlowWidth(const Block& block, int rows) const;
     void PlaceBlock(const Block& block, size_t level, int x, std::vector<RibbonPlacedElement>& placed) const;
@@ -104,7 +104,7 @@ private:
     void PlaceStack(const Block& block, const BlockLevel& level, int x, std::vector<RibbonPlacedElement>& placed) const;
     void PlaceFlow(const Block& block, int rows, int width, int x, std::vector<RibbonPlacedElement>& placed) const;
     RibbonElementMode ModeOf(size_t index, RibbonElementMode wanted) const;
-    RibbonSize SizeOf(size_t index, RibbonElementMode mode) const;
+    fx::Size SizeOf(size_t index, RibbonElementMode mode) const;
     int NarrowedWidth(size_t index, RibbonElementMode mode, int narrowing) const;
     int RowsOf(size_t index, RibbonElementMode mode) const;
 
@@ -119,7 +119,7 @@ private:
 /// Where the panels of a category lie. Rectangles start at 0, 0, the top left corner of the category.
 struct RibbonCategoryArrangement {
     struct Panel {
-        RibbonRect rect; // empty: scrolled out of view
+        fx::Rect rect; // empty: scrolled out of view
         int stepCount = 0;
     };
     std::vector<Panel> panels;
@@ -127,8 +127,8 @@ struct RibbonCategoryArrangement {
     int firstPanel = 0; // the leftmost panel in view; it has a place however wide it is
     bool canScrollLeft = false;
     bool canScrollRight = false;
-    RibbonRect scrollLeft; // empty unless it can scroll there
-    RibbonRect scrollRight;
+    fx::Rect scrollLeft; // empty unless it can scroll there
+    fx::Rect scrollRight;
 };
 
 /// Fits the panels into width: first larger elements become intermediate, panel by panel from the right, then edits

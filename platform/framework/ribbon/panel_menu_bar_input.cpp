@@ -48,7 +48,7 @@ UINT HoverDelay() {
 
 // The rows by which the strip at the point scrolls: -1 up, 1 down, 0 beside both.
 int StripAt(const ribbon::MenuList& list, CPoint point) {
-    const ribbon::Point at{static_cast<int>(point.x), static_cast<int>(point.y)};
+    const fx::Point at{static_cast<int>(point.x), static_cast<int>(point.y)};
     return list.scrollUp.Contains(at) ? -1 : list.scrollDown.Contains(at) ? 1 : 0;
 }
 

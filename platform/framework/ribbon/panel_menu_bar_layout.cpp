@@ -110,7 +110,7 @@ CSize CMFCRibbonPanelMenuBar::ArrangeMenu(CDC* pDC, CSize room) {
             continue;
         }
         element->OnCalcTextSize(pDC);
-        ribbon::Size size = ribbon::FromSize(element->GetRegularSize(pDC));
+        fx::Size size = fx::FromSize(element->GetRegularSize(pDC));
         if (StandsInTextColumn(*element)) {
             size.width += m_parts->imageColumn + metrics.Scaled(8);
             size.height += metrics.Scaled(4);
@@ -120,7 +120,7 @@ CSize CMFCRibbonPanelMenuBar::ArrangeMenu(CDC* pDC, CSize room) {
     m_parts->list = ribbon::PlaceMenuList(m_parts->rows, metrics.Scaled(80), room.cy, m_parts->list.firstRow, metrics);
     for (size_t index = 0; index < m_parts->shown.size(); ++index) {
         CMFCRibbonBaseElement& element = *m_parts->shown[index];
-        CRect rect = ribbon::ToRect(m_parts->list.rows[index]);
+        CRect rect = fx::ToRect(m_parts->list.rows[index]);
         if (rect.IsRectEmpty()) {
             PlaceElement(pDC, element, CRect(0, 0, 0, 0));
             continue;
@@ -132,20 +132,20 @@ CSize CMFCRibbonPanelMenuBar::ArrangeMenu(CDC* pDC, CSize room) {
         }
         PlaceElement(pDC, element, rect);
     }
-    return ribbon::ToSize(m_parts->list.size);
+    return fx::ToSize(m_parts->list.size);
 }
 
 CSize CMFCRibbonPanelMenuBar::ArrangeLines(CDC* pDC, CSize room) {
-    std::vector<ribbon::Size> sizes;
+    std::vector<fx::Size> sizes;
     for (CMFCRibbonBaseElement* element : m_parts->shown) {
         element->OnCalcTextSize(pDC);
-        sizes.push_back(ribbon::FromSize(element->IsVisible() ? element->GetSize(pDC) : CSize(0, 0)));
+        sizes.push_back(fx::FromSize(element->IsVisible() ? element->GetSize(pDC) : CSize(0, 0)));
     }
     const int margin = ribbon::CurrentMetrics().Scaled(2);
     CRect all(0, 0, 0, 0);
-    const std::vector<ribbon::Rect> places = ribbon::PlaceLines(sizes, room.cx - 2 * margin, 0);
+    const std::vector<fx::Rect> places = ribbon::PlaceLines(sizes, room.cx - 2 * margin, 0);
     for (size_t index = 0; index < places.size(); ++index) {
-        CRect rect = ribbon::ToRect(places[index]);
+        CRect rect = fx::ToRect(places[index]);
         rect.OffsetRect(margin, margin);
         PlaceElement(pDC, *m_parts->shown[index], rect);
         all.UnionRect(all, rect);
@@ -232,9 +232,9 @@ void CMFCRibbonPanelMenuBar::DoPaint(CDC* pDC) {
     }
     const ribbon::MenuList& list = m_parts->list;
     if (!list.scrollDown.IsEmpty()) {
-        manager->OnDrawMenuScrollButton(pDC, ribbon::ToRect(list.scrollUp), FALSE, m_parts->scrollHot < 0, FALSE,
+        manager->OnDrawMenuScrollButton(pDC, fx::ToRect(list.scrollUp), FALSE, m_parts->scrollHot < 0, FALSE,
                                         !list.canScrollUp);
-        manager->OnDrawMenuScrollButton(pDC, ribbon::ToRect(list.scrollDown), TRUE, m_parts->scrollHot > 0, FALSE,
+        manager->OnDrawMenuScrollButton(pDC, fx::ToRect(list.scrollDown), TRUE, m_parts->scrollHot > 0, FALSE,
                                         !list.canScrollDown);
     }
     pDC->SetTextColor(previousColor);

@@ -87,7 +87,7 @@ struct RibbonPanelMenuParts {
     CSize room{0, 0};
     CSize size{0, 0};
     ribbon::MenuList list;
-    std::vector<ribbon::Size> rows;
+    std::vector<fx::Size> rows;
     int imageColumn = 0;
 
     RibbonPointer pointer;

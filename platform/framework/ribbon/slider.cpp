@@ -21,7 +21,7 @@ ribbon::SliderState StateOf(const CMFCRibbonSlider& slider) {
 }
 
 ribbon::SliderFace FaceOf(const CMFCRibbonSlider& slider) {
-    return ribbon::PlaceSlider(ribbon::FromRect(slider.GetRect()), StateOf(slider), ribbon::CurrentMetrics());
+    return ribbon::PlaceSlider(fx::FromRect(slider.GetRect()), StateOf(slider), ribbon::CurrentMetrics());
 }
 
 // In a mirrored window the low end is at the right.
@@ -63,7 +63,7 @@ void CMFCRibbonSlider::SetZoomButtons(BOOL bSet) {
 }
 
 CSize CMFCRibbonSlider::GetRegularSize(CDC* /*pDC*/) {
-    return ribbon::ToSize(ribbon::MeasureSlider(m_nWidth, m_bZoomButtons != FALSE, ribbon::CurrentMetrics()));
+    return fx::ToSize(ribbon::MeasureSlider(m_nWidth, m_bZoomButtons != FALSE, ribbon::CurrentMetrics()));
 }
 
 int CMFCRibbonSlider::GetNarrowestWidth(CDC* /*pDC*/) {
@@ -97,15 +97,15 @@ void CMFCRibbonSlider::OnDraw(CDC* pDC) {
     const auto isHot = [this, hot](RibbonSliderPart part) { return !IsDisabled() && hot == part; };
     const auto isPressed = [this](RibbonSliderPart part) { return !IsDisabled() && m_PressedPart == part; };
     if (m_bZoomButtons) {
-        const auto draw = [&](RibbonSliderPart part, const ribbon::Rect& rect) {
-            visual->OnDrawRibbonSliderZoomButton(pDC, this, ribbon::ToRect(rect), part == RibbonSliderPart::Decrease,
+        const auto draw = [&](RibbonSliderPart part, const fx::Rect& rect) {
+            visual->OnDrawRibbonSliderZoomButton(pDC, this, fx::ToRect(rect), part == RibbonSliderPart::Decrease,
                                                  isHot(part), isPressed(part), IsDisabled());
         };
         draw(RibbonSliderPart::Decrease, face.decrease);
         draw(RibbonSliderPart::Increase, face.increase);
     }
-    visual->OnDrawRibbonSliderChannel(pDC, this, ribbon::ToRect(face.channel));
-    visual->OnDrawRibbonSliderThumb(pDC, this, ribbon::ToRect(face.thumb), isHot(RibbonSliderPart::Thumb),
+    visual->OnDrawRibbonSliderChannel(pDC, this, fx::ToRect(face.channel));
+    visual->OnDrawRibbonSliderThumb(pDC, this, fx::ToRect(face.thumb), isHot(RibbonSliderPart::Thumb),
                                     isPressed(RibbonSliderPart::Thumb), IsDisabled());
 }
 
@@ -116,10 +116,10 @@ RibbonSliderPart CMFCRibbonSlider::GetPartFromPoint(CPoint point) const {
 }
 
 int CMFCRibbonSlider::GetPosFromPoint(CPoint point) const {
-    return ribbon::SliderPositionAt(ribbon::FromRect(m_rect), StateOf(*this), ribbon::CurrentMetrics(), point.x);
+    return ribbon::SliderPositionAt(fx::FromRect(m_rect), StateOf(*this), ribbon::CurrentMetrics(), point.x);
 }
 
-CRect CMFCRibbonSlider::GetThumbRect() const { return ribbon::ToRect(FaceOf(*this).thumb); }
+CRect CMFCRibbonSlider::GetThumbRect() const { return fx::ToRect(FaceOf(*this).thumb); }
 
 // Steps may be as large as the range of int.
 int CMFCRibbonSlider::GetPosAfter(long long nStep) const {

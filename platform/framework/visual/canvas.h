@@ -27,7 +27,7 @@ public:
     const PixelView& View() const { return m_view; }
     bool IsEmpty() const { return m_view.bits == nullptr; }
     /// Co-ordinates of the device context to those of the view.
-    IntRect Local(const RECT& rect) const {
+    fx::Rect Local(const RECT& rect) const {
         return {static_cast<int>(rect.left - m_bounds.left), static_cast<int>(rect.top - m_bounds.top),
                 static_cast<int>(rect.right - m_bounds.left), static_cast<int>(rect.bottom - m_bounds.top)};
     }

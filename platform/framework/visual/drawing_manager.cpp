@@ -111,8 +111,7 @@ void CDrawingManager::FillGradient(CRect rect, COLORREF colorStart, COLORREF col
     for (int i = 0; i < length; ++i) {
         const visual::Argb color = visual::Mix(FromColorRef(colorStart), FromColorRef(colorFinish), i - flatStart,
                                                std::max(length - flatStart - flatEnd - 1, 1));
-        const visual::IntRect stripe =
-            bHorz ? visual::IntRect{0, i, rect.Width(), i + 1} : visual::IntRect{i, 0, i + 1, rect.Height()};
+        const fx::Rect stripe = bHorz ? fx::Rect{0, i, rect.Width(), i + 1} : fx::Rect{i, 0, i + 1, rect.Height()};
         visual::FillRounded(canvas.View(), stripe, {}, {color, color, color, color, 50});
     }
 }

@@ -1,5 +1,7 @@
 #include "afxglobals.h"
 
+#include "fx/geometry.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -221,7 +223,7 @@ BOOL AFX_GLOBAL_DATA::SetRibbonImageScale(double dblScale) {
     return TRUE;
 }
 
-int AFX_GLOBAL_DATA::ScalePixels(int n) const { return static_cast<int>(std::lround(n * GetRibbonImageScale())); }
+int AFX_GLOBAL_DATA::ScalePixels(int n) const { return fx::Scaled(n, GetRibbonImageScale()); }
 
 double AFX_GLOBAL_DATA::ScreenScale() const {
     if (m_nScreenDpi != 0) {

@@ -69,7 +69,7 @@ void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corner
     if (canvas.IsEmpty()) {
         return;
     }
-    const IntRect whole = canvas.Local(rect);
+    const fx::Rect whole = canvas.Local(rect);
     const int line = look.Line();
     if (HasFill(face)) {
         FillRounded(canvas.View(), whole, corners, StopsOf(face, look.skin));

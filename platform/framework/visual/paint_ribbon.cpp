@@ -28,7 +28,7 @@ void PaintDisc(HDC dc, const RECT& rect, const Face& face, const Look& look) {
     if (canvas.IsEmpty()) {
         return;
     }
-    const IntRect whole = canvas.Local(rect);
+    const fx::Rect whole = canvas.Local(rect);
     FillEllipse(canvas.View(), whole, StopsOf(face, 50));
     StrokeEllipse(canvas.View(), whole.Deflated(look.Line()), WithAlpha(face.inner, AlphaOf(face.inner) / 2),
                   look.Line());
@@ -77,10 +77,10 @@ void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look)
         return;
     }
     // The sides run on below the rectangle, so that the tab has no lower line. A hot tab stands clear of the category.
-    IntRect body = canvas.Local(rect);
+    fx::Rect body = canvas.Local(rect);
     body.bottom += state.isActive ? radius + 2 * line : 0;
     const Corners corners = state.isActive ? Corners::All(radius) : Corners::Top(radius);
-    IntRect fill = canvas.Local(rect);
+    fx::Rect fill = canvas.Local(rect);
     FillRounded(canvas.View(), fill, Corners::Top(radius), StopsOf(face, look.skin.split));
     if (!state.isActive && state.isHot) {
         FillGlow(canvas.View(), fill.Deflated(line), {},
@@ -104,14 +104,14 @@ void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const 
     if (canvas.IsEmpty()) {
         return;
     }
-    const IntRect whole = canvas.Local(rect);
+    const fx::Rect whole = canvas.Local(rect);
     const Corners corners = Corners::All(look.Radius());
     FillRounded(canvas.View(), whole, corners, StopsOf(face, g_categorySplit));
     StrokeRounded(canvas.View(), whole.Deflated(line), corners.Deflated(line), face.inner, line);
     StrokeRounded(canvas.View(), whole, corners, face.outer, line);
     if (gapLeft + line < gapRight - line) {
         RECT gap{gapLeft + line, rect.top, gapRight - line, rect.top + 2 * line};
-        const IntRect hole = canvas.Local(gap);
+        const fx::Rect hole = canvas.Local(gap);
         FillRounded(canvas.View(), hole, {}, {face.top1, face.top1, face.top1, face.top1, 50});
     }
 }
@@ -127,15 +127,15 @@ void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const
     if (canvas.IsEmpty()) {
         return;
     }
-    const IntRect whole = canvas.Local(rect);
+    const fx::Rect whole = canvas.Local(rect);
     const Corners corners = Corners::All(radius);
     // A light line outside right and below gives the frame its depth; the frame itself is one line smaller.
-    const IntRect frame{whole.left, whole.top, whole.right - line, whole.bottom - line};
+    const fx::Rect frame{whole.left, whole.top, whole.right - line, whole.bottom - line};
     StrokeRounded(canvas.View(), {whole.left + line, whole.top + line, whole.right, whole.bottom}, corners, face.inner,
                   line);
     FillRounded(canvas.View(), frame, corners, StopsOf(face, look.skin.split));
     if (hasStrip) {
-        IntRect area = canvas.Local(caption);
+        fx::Rect area = canvas.Local(caption);
         area = {frame.left, std::max(area.top, frame.top), frame.right, frame.bottom};
         FillRounded(canvas.View(), area, Corners::Bottom(radius), StopsOf(strip, 50));
     }
@@ -167,7 +167,7 @@ void PaintLaunchButton(HDC dc, const RECT& rect, const ElementState& state, bool
     if (canvas.IsEmpty()) {
         return;
     }
-    const IntRect local = canvas.Local(box);
+    const fx::Rect local = canvas.Local(box);
     const auto fill = [&](int x, int y, int width, int height) {
         FillRounded(canvas.View(), {local.left + x, local.top + y, local.left + x + width, local.top + y + height}, {},
                     {color, color, color, color, 50});
@@ -282,7 +282,7 @@ void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state,
     }
     // A glass ball: dark rim, light ring, and a bright spot of light below.
     const int line = look.Line();
-    const IntRect whole = canvas.Local(rect).Deflated(line);
+    const fx::Rect whole = canvas.Local(rect).Deflated(line);
     const double side = whole.Width();
     StrokeEllipse(canvas.View(), canvas.Local(rect), WithAlpha(face.outer, 90), line * 2);
     FillEllipse(canvas.View(), whole, {face.top1, face.top2, face.bottom1, face.bottom2, 46});
@@ -298,9 +298,9 @@ void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look) {
         return;
     }
     const Face& face = look.skin[isActive ? FaceSlot::CaptionActive : FaceSlot::CaptionInactive];
-    IntRect whole = canvas.Local(rect);
+    fx::Rect whole = canvas.Local(rect);
     FillRounded(canvas.View(), whole, {}, StopsOf(face, look.skin.split));
-    const IntRect light{whole.left, whole.top, whole.right, whole.top + look.Line()};
+    const fx::Rect light{whole.left, whole.top, whole.right, whole.top + look.Line()};
     FillRounded(canvas.View(), light, {}, {face.inner, face.inner, face.inner, face.inner, 50});
 }
 
@@ -345,7 +345,7 @@ void PaintFrameBorder(HDC dc, const RECT& window, const RECT& client, int captio
     if (canvas.IsEmpty()) {
         return;
     }
-    IntRect whole = canvas.Local(head);
+    fx::Rect whole = canvas.Local(head);
     FillRounded(canvas.View(), {whole.left, whole.top, whole.right, static_cast<int>(client.top - head.top)}, {},
                 {caption.top1, caption.top1, caption.top1, caption.top1, 50});
     whole.bottom += state.cornerRadius + 2 * line;
@@ -367,7 +367,7 @@ void PaintContextCaption(HDC dc, const RECT& rect, Argb tint, const Look& look) 
     if (canvas.IsEmpty()) {
         return;
     }
-    const IntRect whole = canvas.Local(rect);
+    const fx::Rect whole = canvas.Local(rect);
     const int line = look.Line();
     FillRounded(canvas.View(), whole, {},
                 {WithAlpha(tint, 30), WithAlpha(tint, 90), WithAlpha(tint, 90), WithAlpha(tint, 170), 40});
@@ -411,7 +411,7 @@ void PaintStatusBar(HDC dc, const RECT& rect, const Look& look) {
         return;
     }
     const Face& face = look.skin[FaceSlot::StatusBar];
-    const IntRect whole = canvas.Local(rect);
+    const fx::Rect whole = canvas.Local(rect);
     const int line = look.Line();
     FillRounded(canvas.View(), whole, {}, StopsOf(face, look.skin.split));
     FillRounded(canvas.View(), {whole.left, whole.top, whole.right, whole.top + line}, {},

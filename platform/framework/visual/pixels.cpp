@@ -22,7 +22,7 @@ Argb StopAt(const FourStops& stops, int row, int height) {
     return Mix(stops.bottom1, stops.bottom2, row - split, std::max(height - split - 1, 1));
 }
 
-IntRect Clipped(const IntRect& rect, const PixelView& view) {
+fx::Rect Clipped(const fx::Rect& rect, const PixelView& view) {
     return {std::max(rect.left, 0), std::max(rect.top, 0), std::min(rect.right, view.width),
             std::min(rect.bottom, view.height)};
 }
@@ -32,7 +32,7 @@ unsigned CornerCoverage(double centreX, double centreY, int radius, int x, int y
     return static_cast<unsigned>(std::clamp(radius - distance + 0.5, 0.0, 1.0) * 255.0 + 0.5);
 }
 
-double EllipseCoverage(const IntRect& rect, int x, int y, double inset) {
+double EllipseCoverage(const fx::Rect& rect, int x, int y, double inset) {
     const double radiusX = rect.Width() / 2.0 - inset, radiusY = rect.Height() / 2.0 - inset;
     if (radiusX <= 0 || radiusY <= 0) {
         return 0;
@@ -65,7 +65,7 @@ Corners Corners::Deflated(int by) const {
             std::max(bottomLeft - by, 0)};
 }
 
-unsigned CoverageAt(const IntRect& rect, const Corners& corners, int x, int y) {
+unsigned CoverageAt(const fx::Rect& rect, const Corners& corners, int x, int y) {
     if (x < rect.left || x >= rect.right || y < rect.top || y >= rect.bottom) {
         return 0;
     }
@@ -95,8 +95,8 @@ void BlendPixel(std::uint32_t& target, Argb source, unsigned coverage) {
                       std::min(channel(BlueOf(source), BlueOf(target)), 255u));
 }
 
-void FillRounded(const PixelView& view, const IntRect& rect, const Corners& corners, const FourStops& stops) {
-    const IntRect clip = Clipped(rect, view);
+void FillRounded(const PixelView& view, const fx::Rect& rect, const Corners& corners, const FourStops& stops) {
+    const fx::Rect clip = Clipped(rect, view);
     const int radiusTop = std::max(corners.topLeft, corners.topRight);
     const int radiusBottom = std::max(corners.bottomLeft, corners.bottomRight);
     for (int y = clip.top; y < clip.bottom; ++y) {
@@ -116,12 +116,12 @@ void FillRounded(const PixelView& view, const IntRect& rect, const Corners& corn
     }
 }
 
-void StrokeRounded(const PixelView& view, const IntRect& rect, const Corners& corners, Argb color, int thickness) {
+void StrokeRounded(const PixelView& view, const fx::Rect& rect, const Corners& corners, Argb color, int thickness) {
     if (AlphaOf(color) == 0) {
         return;
     }
-    const IntRect clip = Clipped(rect, view);
-    const IntRect inside = rect.Deflated(thickness);
+    const fx::Rect clip = Clipped(rect, view);
+    const fx::Rect inside = rect.Deflated(thickness);
     const Corners insideCorners = corners.Deflated(thickness);
     const auto isPlainRow = [&](int y) {
         return y - rect.top >= thickness + std::max(corners.topLeft, corners.topRight) &&
@@ -143,12 +143,12 @@ void StrokeRounded(const PixelView& view, const IntRect& rect, const Corners& co
     }
 }
 
-void FillGlow(const PixelView& view, const IntRect& rect, const Corners& corners, PointF centre, double radiusX,
+void FillGlow(const PixelView& view, const fx::Rect& rect, const Corners& corners, PointF centre, double radiusX,
               double radiusY, Argb color) {
     if (radiusX <= 0 || radiusY <= 0) {
         return;
     }
-    const IntRect clip = Clipped(rect, view);
+    const fx::Rect clip = Clipped(rect, view);
     for (int y = clip.top; y < clip.bottom; ++y) {
         for (int x = clip.left; x < clip.right; ++x) {
             const double distance = std::hypot((x + 0.5 - centre.x) / radiusX, (y + 0.5 - centre.y) / radiusY);
@@ -202,8 +202,8 @@ void FillPolygon(const PixelView& view, std::span<const PointF> points, Argb col
     }
 }
 
-void FillEllipse(const PixelView& view, const IntRect& rect, const FourStops& stops) {
-    const IntRect clip = Clipped(rect, view);
+void FillEllipse(const PixelView& view, const fx::Rect& rect, const FourStops& stops) {
+    const fx::Rect clip = Clipped(rect, view);
     for (int y = clip.top; y < clip.bottom; ++y) {
         const Argb color = StopAt(stops, y - rect.top, rect.Height());
         for (int x = clip.left; x < clip.right; ++x) {
@@ -212,8 +212,8 @@ void FillEllipse(const PixelView& view, const IntRect& rect, const FourStops& st
     }
 }
 
-void StrokeEllipse(const PixelView& view, const IntRect& rect, Argb color, double thickness) {
-    const IntRect clip = Clipped(rect, view);
+void StrokeEllipse(const PixelView& view, const fx::Rect& rect, Argb color, double thickness) {
+    const fx::Rect clip = Clipped(rect, view);
     for (int y = clip.top; y < clip.bottom; ++y) {
         for (int x = clip.left; x < clip.right; ++x) {
             const double ring = EllipseCoverage(rect, x, y, 0) - EllipseCoverage(rect, x, y, thickness);

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <span>
 
+#include "fx/geometry.h"
+
 // Drawing on rows of 32-bit pixels with smooth edges. Knows no window system, so that it is tested on any machine.
 namespace visual {
 
@@ -31,16 +33,6 @@ struct PixelView {
     std::uint32_t& At(int x, int y) const { return bits[static_cast<std::size_t>(y) * width + x]; }
 };
 
-struct IntRect {
-    int left = 0, top = 0, right = 0, bottom = 0;
-
-    int Width() const { return right - left; }
-    int Height() const { return bottom - top; }
-    bool IsEmpty() const { return right <= left || bottom <= top; }
-    IntRect Deflated(int by) const { return {left + by, top + by, right - by, bottom - by}; }
-    friend bool operator==(const IntRect&, const IntRect&) = default;
-};
-
 /// Radii in pixels; 0 is a square corner.
 struct Corners {
     int topLeft = 0, topRight = 0, bottomRight = 0, bottomLeft = 0;
@@ -64,22 +56,22 @@ struct PointF {
 };
 
 /// Share of the pixel (x, y) that lies in the rounded rectangle, 0 to 255.
-unsigned CoverageAt(const IntRect& rect, const Corners& corners, int x, int y);
+unsigned CoverageAt(const fx::Rect& rect, const Corners& corners, int x, int y);
 
 /// source drawn over target at coverage 0 to 255.
 void BlendPixel(std::uint32_t& target, Argb source, unsigned coverage = 255);
 
-void FillRounded(const PixelView& view, const IntRect& rect, const Corners& corners, const FourStops& stops);
+void FillRounded(const PixelView& view, const fx::Rect& rect, const Corners& corners, const FourStops& stops);
 /// The outermost thickness pixels of the rounded rectangle.
-void StrokeRounded(const PixelView& view, const IntRect& rect, const Corners& corners, Argb color, int thickness);
+void StrokeRounded(const PixelView& view, const fx::Rect& rect, const Corners& corners, Argb color, int thickness);
 /// A spot of light that fades out towards the ellipse around centre, kept inside the rounded rectangle.
-void FillGlow(const PixelView& view, const IntRect& rect, const Corners& corners, PointF centre, double radiusX,
+void FillGlow(const PixelView& view, const fx::Rect& rect, const Corners& corners, PointF centre, double radiusX,
               double radiusY, Argb color);
 /// Any polygon, edges smooth.
 void FillPolygon(const PixelView& view, std::span<const PointF> points, Argb color);
 /// A ring or, thickness 0, a disc inside the rectangle, vertical gradient.
-void FillEllipse(const PixelView& view, const IntRect& rect, const FourStops& stops);
-void StrokeEllipse(const PixelView& view, const IntRect& rect, Argb color, double thickness);
+void FillEllipse(const PixelView& view, const fx::Rect& rect, const FourStops& stops);
+void StrokeEllipse(const PixelView& view, const fx::Rect& rect, Argb color, double thickness);
 
 /// Grey of the same lightness with less contrast, drawn towards middle light; keeps alpha. Multiplied pixels.
 std::uint32_t DisabledPixel(std::uint32_t pixel);

@@ -40,7 +40,7 @@ void PaintSoftShadow(HDC dc, const RECT& object, int depth, int percent) {
             }
             const double strength = SoftShadowStrength({x, y}, object, depth);
             const auto alpha = static_cast<unsigned>(std::lround(strength * std::clamp(percent, 0, 100) * 2.55));
-            const IntRect at = canvas.Local(RECT{x, y, x + 1, y + 1});
+            const fx::Rect at = canvas.Local(RECT{x, y, x + 1, y + 1});
             canvas.View().At(at.left, at.top) = WithAlpha(0, alpha);
         }
     }

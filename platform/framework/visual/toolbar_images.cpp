@@ -1,5 +1,6 @@
 #include "afxtoolbarimages.h"
 
+#include "fx/geometry.h"
 #include "visual/image_source.h"
 
 #include <algorithm>
@@ -355,8 +356,7 @@ BOOL CMFCToolBarImages::SmoothResize(double dblImageScale) {
         return FALSE;
     }
     ConvertTo32Bits();
-    const CSize size(static_cast<int>(std::lround(m_sizeImage.cx * dblImageScale)),
-                     static_cast<int>(std::lround(m_sizeImage.cy * dblImageScale)));
+    const CSize size(fx::Scaled(m_sizeImage.cx, dblImageScale), fx::Scaled(m_sizeImage.cy, dblImageScale));
     std::uint32_t* bits = nullptr;
     const HBITMAP resized = visual::MakeBitmap32(size.cx * m_iCount, size.cy, &bits);
     if (resized == nullptr) {

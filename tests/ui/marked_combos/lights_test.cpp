@@ -38,7 +38,7 @@ protected:
     /// 40 x 40, the light at 4, 4.
     static ComboPicture Drawn(LightState state, int side, bool isScaled = true) {
         return ComboPicture(CSize(40, 40), [=](CDC& dc) {
-            const marks::Rect place{4, 4, 4 + side, 4 + side};
+            const fx::Rect place{4, 4, 4 + side, 4 + side};
             if (isScaled) {
                 DrawLightScaled(dc, place, state);
             } else {

@@ -5,32 +5,17 @@
 #include <climits>
 #include <ostream>
 
-namespace marks {
+namespace fx {
 
 std::ostream& operator<<(std::ostream& out, const Rect& rect) {
     return out << '[' << rect.left << ' ' << rect.top << ' ' << rect.right << ' ' << rect.bottom << ']';
 }
 
-} // namespace marks
+} // namespace fx
 
 namespace {
 
-using marks::Rect;
-
-TEST(MarkScale, RoundsToTheNearestPixelAndNeverMakesSmaller) {
-    struct Case {
-        int length;
-        double scale;
-        int expected;
-    };
-    const Case cases[] = {
-        {15, 0.5, 15}, {15, 1.0, 15}, {15, 1.25, 19}, {15, 1.5, 23}, {15, 2.0, 30},  {13, 1.25, 16}, {13, 1.5, 20},
-        {13, 2.0, 26}, {16, 1.0, 16}, {16, 1.25, 20}, {16, 1.5, 24}, {16, 1.75, 28}, {16, 2.0, 32},  {0, 2.0, 0},
-    };
-    for (const Case& one : cases) {
-        EXPECT_EQ(marks::Scaled(one.length, one.scale), one.expected) << one.length << " at " << one.scale;
-    }
-}
+using fx::Rect;
 
 TEST(CheckRow, TheBoxStandsOnePixelFromTheLeftInTheMiddleOfTheRowAndTheTextThreeBehindIt) {
     struct Case {

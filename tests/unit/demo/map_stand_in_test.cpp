@@ -16,8 +16,8 @@ MapState StateOf(int width, int height, double pixelsPerDegree) {
 TEST(MapStandIn, PictureOfTheSameViewStandsWhereItIs) {
     const MapState state = StateOf(800, 400, 10);
     const MapStandIn plan = PlanStandIn(state, state);
-    EXPECT_EQ(plan.source, (PixelBox{0, 0, 800, 400}));
-    EXPECT_EQ(plan.target, (PixelBox{0, 0, 800, 400}));
+    EXPECT_EQ(plan.source, (fx::Rect{0, 0, 800, 400}));
+    EXPECT_EQ(plan.target, (fx::Rect{0, 0, 800, 400}));
 }
 
 TEST(MapStandIn, DraggedMapIsThePictureShifted) {
@@ -25,8 +25,8 @@ TEST(MapStandIn, DraggedMapIsThePictureShifted) {
     MapState shown = drawn;
     shown.Drag(30, -20); // the view goes east and south, the picture west and north
     const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (PixelBox{30, 20, 800, 400}));
-    EXPECT_EQ(plan.target, (PixelBox{0, 0, 770, 380}));
+    EXPECT_EQ(plan.source, (fx::Rect{30, 20, 800, 400}));
+    EXPECT_EQ(plan.target, (fx::Rect{0, 0, 770, 380}));
 }
 
 TEST(MapStandIn, ZoomedMapIsTheMiddleOfThePictureEnlarged) {
@@ -34,8 +34,8 @@ TEST(MapStandIn, ZoomedMapIsTheMiddleOfThePictureEnlarged) {
     MapState shown = drawn;
     shown.Zoom(2);
     const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (PixelBox{200, 100, 600, 300}));
-    EXPECT_EQ(plan.target, (PixelBox{0, 0, 800, 400}));
+    EXPECT_EQ(plan.source, (fx::Rect{200, 100, 600, 300}));
+    EXPECT_EQ(plan.target, (fx::Rect{0, 0, 800, 400}));
 }
 
 TEST(MapStandIn, MapZoomedOutLeavesRoomAroundThePicture) {
@@ -43,8 +43,8 @@ TEST(MapStandIn, MapZoomedOutLeavesRoomAroundThePicture) {
     MapState shown = drawn;
     shown.Zoom(0.5);
     const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (PixelBox{0, 0, 800, 400}));
-    EXPECT_EQ(plan.target, (PixelBox{200, 100, 600, 300}));
+    EXPECT_EQ(plan.source, (fx::Rect{0, 0, 800, 400}));
+    EXPECT_EQ(plan.target, (fx::Rect{200, 100, 600, 300}));
 }
 
 TEST(MapStandIn, PictureStaysInTheMiddleOfALargerWindow) {
@@ -52,8 +52,8 @@ TEST(MapStandIn, PictureStaysInTheMiddleOfALargerWindow) {
     MapState shown = drawn;
     shown.SetWindowSize(1000, 500);
     const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (PixelBox{0, 0, 800, 400}));
-    EXPECT_EQ(plan.target, (PixelBox{100, 50, 900, 450}));
+    EXPECT_EQ(plan.source, (fx::Rect{0, 0, 800, 400}));
+    EXPECT_EQ(plan.target, (fx::Rect{100, 50, 900, 450}));
 }
 
 TEST(MapStandIn, WholePixelsOfThePictureCoverTheWindowUpToItsEdges) {

@@ -14,8 +14,8 @@ namespace {
 constexpr FocusStep kSteps[] = {FocusStep::Left, FocusStep::Right, FocusStep::Up, FocusStep::Down};
 
 /// A large button, a column of three small ones, a column of two wider ones.
-const std::vector<RibbonRect> g_panel{{0, 0, 40, 60},   {42, 0, 80, 20},  {42, 20, 80, 40},
-                                      {42, 40, 80, 60}, {82, 0, 140, 20}, {82, 20, 140, 40}};
+const std::vector<fx::Rect> g_panel{{0, 0, 40, 60},   {42, 0, 80, 20},  {42, 20, 80, 40},
+                                    {42, 40, 80, 60}, {82, 0, 140, 20}, {82, 20, 140, 40}};
 
 TEST(FocusWalk, GoesToWhatLiesBeside) {
     EXPECT_EQ(FocusNeighbour(g_panel, 0, FocusStep::Right), 2u) << "beside the middle of the large one";
@@ -39,23 +39,23 @@ TEST(FocusWalk, EndsAtTheEnds) {
 }
 
 TEST(FocusWalk, LeavesOutWhatIsNotShown) {
-    std::vector<RibbonRect> panel = g_panel;
+    std::vector<fx::Rect> panel = g_panel;
     panel[2] = {};
     EXPECT_EQ(FocusNeighbour(panel, 1, FocusStep::Down), 3u);
 }
 
 TEST(FocusWalk, BordersThatOverlapDoNotHideANeighbour) {
-    const std::vector<RibbonRect> row{{0, 0, 23, 20}, {22, 0, 45, 20}, {44, 0, 67, 20}};
+    const std::vector<fx::Rect> row{{0, 0, 23, 20}, {22, 0, 45, 20}, {44, 0, 67, 20}};
     EXPECT_EQ(FocusNeighbour(row, 0, FocusStep::Right), 1u);
     EXPECT_EQ(FocusNeighbour(row, 2, FocusStep::Left), 1u);
 }
 
-std::vector<RibbonRect> ShownElements(const std::vector<RibbonPanelLadder>& ladders,
-                                      const std::vector<RibbonPanelShape>& shapes,
-                                      const RibbonCategoryArrangement& category) {
-    std::vector<RibbonRect> rects;
+std::vector<fx::Rect> ShownElements(const std::vector<RibbonPanelLadder>& ladders,
+                                    const std::vector<RibbonPanelShape>& shapes,
+                                    const RibbonCategoryArrangement& category) {
+    std::vector<fx::Rect> rects;
     for (std::size_t panel = 0; panel < ladders.size(); ++panel) {
-        const RibbonRect place = category.panels[panel].rect;
+        const fx::Rect place = category.panels[panel].rect;
         if (place.IsEmpty()) {
             continue;
         }
@@ -65,7 +65,7 @@ std::vector<RibbonRect> ShownElements(const std::vector<RibbonPanelLadder>& ladd
             continue;
         }
         for (std::size_t element = 0; element < inside.elements.size(); ++element) {
-            const RibbonRect rect = inside.elements[element].rect.Moved(place.left, place.top);
+            const fx::Rect rect = inside.elements[element].rect.Moved(place.left, place.top);
             const RibbonElementFlow flow = shapes[panel].elements[element].flow;
             if (rect.IsEmpty() || flow == RibbonElementFlow::WholeHeight) {
                 continue; // separators take no focus
@@ -83,7 +83,7 @@ std::vector<RibbonRect> ShownElements(const std::vector<RibbonPanelLadder>& ladd
     return rects;
 }
 
-std::size_t CountReached(const std::vector<RibbonRect>& rects, std::size_t start) {
+std::size_t CountReached(const std::vector<fx::Rect>& rects, std::size_t start) {
     std::vector<bool> isReached(rects.size());
     std::deque<std::size_t> open{start};
     isReached[start] = true;
@@ -115,7 +115,7 @@ TEST(FocusWalk, ReachesEveryElementOfAnyCategoryFromAnyOther) {
             ladders.emplace_back(shapes.back(), metrics);
         }
         for (int width = 300; width <= 2400; width += 170) {
-            const std::vector<RibbonRect> rects =
+            const std::vector<fx::Rect> rects =
                 ShownElements(ladders, shapes, ArrangeCategory(ladders, metrics, width));
             if (rects.empty()) {
                 continue;
@@ -130,13 +130,13 @@ TEST(FocusWalk, ReachesEveryElementOfAnyCategoryFromAnyOther) {
 }
 
 TEST(KeyTipPlace, LiesBelowTheMiddleAndInARowBelowTheImage) {
-    EXPECT_EQ(ribbon::PlaceKeyTip({0, 0, 40, 60}, {14, 16}, 32, {}), (RibbonRect{13, 52, 27, 68}));
-    EXPECT_EQ(ribbon::PlaceKeyTip({100, 0, 180, 22}, {14, 16}, 16, {}), (RibbonRect{109, 14, 123, 30}));
+    EXPECT_EQ(ribbon::PlaceKeyTip({0, 0, 40, 60}, {14, 16}, 32, {}), (fx::Rect{13, 52, 27, 68}));
+    EXPECT_EQ(ribbon::PlaceKeyTip({100, 0, 180, 22}, {14, 16}, 16, {}), (fx::Rect{109, 14, 123, 30}));
 }
 
 TEST(KeyTipPlace, StaysInsideTheBounds) {
-    const RibbonRect bounds{0, 0, 100, 100};
-    EXPECT_EQ(ribbon::PlaceKeyTip({0, 90, 4, 100}, {14, 16}, 0, bounds), (RibbonRect{0, 84, 14, 100}));
+    const fx::Rect bounds{0, 0, 100, 100};
+    EXPECT_EQ(ribbon::PlaceKeyTip({0, 90, 4, 100}, {14, 16}, 0, bounds), (fx::Rect{0, 84, 14, 100}));
 }
 
 } // namespace

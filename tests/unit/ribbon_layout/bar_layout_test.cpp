@@ -44,7 +44,7 @@ TEST(RibbonBarLayout, AReplacedCaptionKeepsItsRowWithoutQuickAccess) {
     RibbonBarShape shape = Shape(800);
     shape.replacesCaption = true;
     const auto bar = ArrangeBar(shape, g_metrics);
-    EXPECT_EQ(bar.caption, (RibbonRect{0, 0, 800, g_metrics.captionHeight}));
+    EXPECT_EQ(bar.caption, (fx::Rect{0, 0, 800, g_metrics.captionHeight}));
     EXPECT_EQ(bar.tabRow.top, g_metrics.captionHeight);
 }
 
@@ -53,7 +53,7 @@ TEST(RibbonBarLayout, ApplicationButtonSpansTheRowsAboveTheCategory) {
     shape.replacesCaption = true;
     shape.applicationButton = {45, 45};
     const auto bar = ArrangeBar(shape, g_metrics);
-    EXPECT_EQ(bar.applicationButton, (RibbonRect{0, 0, 45, bar.tabRow.bottom}));
+    EXPECT_EQ(bar.applicationButton, (fx::Rect{0, 0, 45, bar.tabRow.bottom}));
     EXPECT_GT(bar.tabs[0].left, 45);
 }
 
@@ -97,13 +97,13 @@ TEST(RibbonBarLayout, AtEveryWidthThePartsStayApartAndInside) {
             }
             for (shape.width = 0; shape.width <= 2000; ++shape.width) {
                 const auto bar = ArrangeBar(shape, g_metrics);
-                std::vector<RibbonRect> rects{bar.applicationButton, bar.quickAccess,   bar.category,
-                                              bar.captionIcon,       bar.tabScrollLeft, bar.tabScrollRight};
+                std::vector<fx::Rect> rects{bar.applicationButton, bar.quickAccess,   bar.category,
+                                            bar.captionIcon,       bar.tabScrollLeft, bar.tabScrollRight};
                 rects.insert(rects.end(), bar.captionButtons.begin(), bar.captionButtons.end());
                 rects.insert(rects.end(), bar.childButtons.begin(), bar.childButtons.end());
                 rects.insert(rects.end(), bar.tabs.begin(), bar.tabs.end());
                 rects.insert(rects.end(), bar.tabElements.begin(), bar.tabElements.end());
-                const RibbonRect whole{0, 0, shape.width, bar.height};
+                const fx::Rect whole{0, 0, shape.width, bar.height};
                 for (size_t one = 0; one < rects.size(); ++one) {
                     ASSERT_TRUE(rects[one].IsEmpty() || whole.Contains(rects[one])) << shape.width << ' ' << one;
                     for (size_t other = one + 1; other < rects.size(); ++other) {
@@ -157,7 +157,7 @@ TEST(RibbonBarLayout, AChildsButtonsTakeTheirRoomFromTheTabs) {
     RibbonBarShape shape = CaptionShape(800);
     shape.childButtons = 3;
     const auto bar = ArrangeBar(shape, g_metrics);
-    for (const RibbonRect& button : bar.childButtons) {
+    for (const fx::Rect& button : bar.childButtons) {
         EXPECT_TRUE(bar.tabRow.Contains(button));
     }
     shape.width = 240 + 4 * g_metrics.tabGap + 3 * g_metrics.childButtonSide;
@@ -226,13 +226,13 @@ TEST(RibbonBarLayout, ARectangularApplicationButtonLiesInTheRowOfTabs) {
     shape.applicationButton = {60, 45};
     shape.tabsOnlyButton = true;
     const auto bar = ArrangeBar(shape, g_metrics);
-    EXPECT_EQ(bar.applicationButton, (RibbonRect{0, bar.tabRow.top, 60, bar.tabRow.bottom}));
+    EXPECT_EQ(bar.applicationButton, (fx::Rect{0, bar.tabRow.top, 60, bar.tabRow.bottom}));
 }
 
 TEST(RibbonBarLayout, TheTitleTakesTheWiderPartBesideContextCaptions) {
-    const RibbonRect row{100, 0, 500, 26};
-    EXPECT_EQ(WiderFreePart(row, {150, 0, 200, 26}), (RibbonRect{200, 0, 500, 26}));
-    EXPECT_EQ(WiderFreePart(row, {400, 0, 480, 26}), (RibbonRect{100, 0, 400, 26}));
+    const fx::Rect row{100, 0, 500, 26};
+    EXPECT_EQ(WiderFreePart(row, {150, 0, 200, 26}), (fx::Rect{200, 0, 500, 26}));
+    EXPECT_EQ(WiderFreePart(row, {400, 0, 480, 26}), (fx::Rect{100, 0, 400, 26}));
     EXPECT_EQ(WiderFreePart(row, {}), row);
     EXPECT_TRUE(WiderFreePart(row, {50, 0, 600, 26}).IsEmpty());
 }

@@ -36,8 +36,8 @@ void ExpectSame(const RibbonCategoryArrangement& one, const RibbonCategoryArrang
 }
 
 void ExpectApartAndInside(const RibbonCategoryArrangement& arrangement, const RibbonMetrics& metrics, int width) {
-    const RibbonRect bar{0, 0, width, metrics.CategoryHeight()};
-    std::vector<RibbonRect> rects{arrangement.scrollLeft, arrangement.scrollRight};
+    const fx::Rect bar{0, 0, width, metrics.CategoryHeight()};
+    std::vector<fx::Rect> rects{arrangement.scrollLeft, arrangement.scrollRight};
     for (const auto& panel : arrangement.panels) {
         rects.push_back(panel.rect);
     }
@@ -74,7 +74,7 @@ TEST(RibbonCategoryLayout, ElementsOfShownPanelsLieInsideTheirPanels) {
         for (int width = 300; width <= 2000; width += 37) {
             const auto arrangement = ArrangeCategory(ladders, g_metrics, width);
             for (size_t panel = 0; panel < ladders.size(); ++panel) {
-                const RibbonRect& rect = arrangement.panels[panel].rect;
+                const fx::Rect& rect = arrangement.panels[panel].rect;
                 const auto inner = ladders[panel].Arrange(arrangement.panels[panel].stepCount, rect.Width());
                 ASSERT_TRUE(rect.IsEmpty() || rect.Width() == inner.width);
                 for (const auto& element : inner.elements) {

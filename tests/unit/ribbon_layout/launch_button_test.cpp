@@ -23,7 +23,7 @@ protected:
 
 TEST_P(LaunchButtonLayout, TheButtonIsASquareInsideTheCaptionAtItsEnd) {
     const auto place = Ladder(40, true).Arrange(0);
-    const RibbonRect& button = place.launchButton;
+    const fx::Rect& button = place.launchButton;
     ASSERT_FALSE(button.IsEmpty());
     EXPECT_EQ(button.Width(), button.Height());
     EXPECT_EQ(button.right, place.caption.right - m_metrics.launchButtonMargin);

@@ -25,7 +25,7 @@ std::vector<RibbonElementMode> Modes(const RibbonPanelArrangement& arrangement) 
     return modes;
 }
 
-RibbonRect ContentRect(const RibbonPanelArrangement& arrangement) {
+fx::Rect ContentRect(const RibbonPanelArrangement& arrangement) {
     return {0, 0, arrangement.width, arrangement.caption.top};
 }
 
@@ -206,7 +206,7 @@ TEST(RibbonPanelLayout, EveryStepOfAnyPanelIsNarrowerAndKeepsItsElementsApartAnd
             previous = arrangement.width;
             ASSERT_EQ(arrangement.elements.size(), shape.elements.size());
             for (size_t one = 0; one < arrangement.elements.size(); ++one) {
-                const RibbonRect& rect = arrangement.elements[one].rect;
+                const fx::Rect& rect = arrangement.elements[one].rect;
                 const bool shown = !arrangement.collapsed && shape.elements[one].flow != RibbonElementFlow::Hidden;
                 ASSERT_EQ(!rect.IsEmpty(), shown) << one;
                 if (!shown) {

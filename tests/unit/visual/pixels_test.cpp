@@ -12,7 +12,7 @@ class Pixels : public testing::Test {
 protected:
     std::vector<std::uint32_t> m_bits = std::vector<std::uint32_t>(20 * 20);
     PixelView m_view{m_bits.data(), 20, 20};
-    const IntRect m_rect{2, 2, 18, 18};
+    const fx::Rect m_rect{2, 2, 18, 18};
 };
 
 constexpr FourStops Plain(Argb color) { return {color, color, color, color, 50}; }
