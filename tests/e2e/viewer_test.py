@@ -255,6 +255,11 @@ class LayerCombos(unittest.TestCase):
             self.assertEqual(label["rect"], [left, top, right, bottom], "the label is as wide as before")
 
 
+def area_of(left, top, right, bottom):
+    """The rectangle as ImageMagick's geometry."""
+    return f"{right - left}x{bottom - top}+{left}+{top}"
+
+
 def height(record):
     return record["ribbonOnScreen"][3] - record["ribbonOnScreen"][1]
 
@@ -311,6 +316,28 @@ class RibbonOnTheScreen(unittest.TestCase):
             after = viewer.wait_for(lambda record: not record["quickAccessBelow"])
             self.assertEqual(after["quickAccessOnScreen"], before["quickAccessOnScreen"])
             self.assertEqual(height(after), height(before))
+
+    def test_the_command_looks_on_while_the_quick_access_toolbar_is_below(self):
+        with self.open() as viewer, tempfile.TemporaryDirectory() as folder:
+            left, top, right, bottom = viewer.place_of("QuickAccessBelow")
+            face = area_of(left, top, right, bottom)
+            tab = area_of(*viewer.record["tabsOnScreen"][0])
+            off = viewer.picture(os.path.join(folder, "off.png"))
+            now = os.path.join(folder, "now.png")
+
+            def switch(is_below):
+                viewer.click_command("QuickAccessBelow")
+                viewer.wait_for(lambda record: record["quickAccessBelow"] == is_below)
+                # Where the pointer is, a button is lit, on or off: the tab instead of this one.
+                viewer.hover(*viewer.tab_middle(0))
+                viewer.wait_until(lambda: changed_pixels(off, viewer.picture(now), tab) > 0, "the tab is lit")
+
+            switch(True)
+            most = (right - left) * (bottom - top) / 2
+            viewer.wait_until(lambda: changed_pixels(off, viewer.picture(now), face) > most, "it looks on")
+            self.assertEqual(viewer.place_of("QuickAccessBelow"), (left, top, right, bottom))
+            switch(False)
+            viewer.wait_until(lambda: changed_pixels(off, viewer.picture(now), face) == 0, "it looks as before")
 
 
 class CustomizedQuickAccess(unittest.TestCase):
