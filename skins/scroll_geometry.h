@@ -22,6 +22,8 @@ struct Box {
 struct Extent {
     int width = 0;
     int height = 0;
+
+    bool operator==(const Extent&) const = default;
 };
 
 enum class Direction { Vertical, Horizontal };

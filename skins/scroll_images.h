@@ -1,0 +1,34 @@
+#pragma once
+
+#include "skins/scroll_geometry.h"
+#include "skins/skin_picture.h"
+
+#include <array>
+#include <memory>
+#include <string>
+
+/// The images of a scroll bar: taken from their files with the skin, fitted to the thumb with its length, and then
+/// copied at every draw.
+class ScrollImages {
+public:
+    enum Which { FirstArrow, SecondArrow, Thumb, PressedThumb, Count };
+
+    /// Reads those that have changed.
+    void Take(const std::array<std::wstring, Count>& paths);
+    /// In its own size in the middle of the box.
+    void DrawCentered(HDC dc, Which which, const scroll::Box& box);
+    /// A thumb that fills the box: a longer image gives its ends and as much of the middle as is needed, a shorter one
+    /// is stretched. Nothing for a box without any room.
+    void DrawThumb(HDC dc, Which which, scroll::Direction direction, const scroll::Box& box);
+
+private:
+    /// An image that was made as large as the thumb.
+    struct Fitted {
+        scroll::Direction direction = scroll::Direction::Vertical;
+        scroll::Extent size;
+        std::unique_ptr<Gdiplus::Bitmap> bitmap;
+    };
+
+    std::array<SkinPicture, Count> m_pictures;
+    std::array<Fitted, Count> m_fitted;
+};

@@ -1,0 +1,133 @@
+#include "skins/skin_picture.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <shlwapi.h>
+#include <vector>
+
+namespace {
+
+/// More bytes than a picture of the longest side can need when it is packed at all.
+constexpr std::uintmax_t kLargestFile = 32U << 20;
+
+/// GDI+ stays started: it must not be shut down while the process unloads its DLLs.
+bool StartGdiPlus() {
+    static const bool isStarted = [] {
+        ULONG_PTR token = 0;
+        const Gdiplus::GdiplusStartupInput input;
+        return Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok;
+    }();
+    return isStarted;
+}
+
+std::vector<BYTE> ReadBytes(const std::wstring& path) {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (error || size == 0 || size > kLargestFile) {
+        return {};
+    }
+    std::vector<BYTE> bytes(static_cast<std::size_t>(size));
+    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(file.gcount()));
+    return bytes;
+}
+
+UINT BigEndian(const BYTE* bytes) {
+    return static_cast<UINT>(bytes[0]) << 24 | bytes[1] << 16 | bytes[2] << 8 | bytes[3];
+}
+
+/// A PNG says its size in the first bytes; a decoder asked for that many pixels takes them before it finds none.
+bool ClaimsTooMuch(const std::vector<BYTE>& bytes) {
+    constexpr std::array<BYTE, 8> signature = {0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A};
+    constexpr std::size_t width = 16, height = 20, end = 24;
+    if (bytes.size() < end || !std::equal(signature.begin(), signature.end(), bytes.begin())) {
+        return false;
+    }
+    return BigEndian(&bytes[width]) > SkinPicture::kLongestSide ||
+           BigEndian(&bytes[height]) > SkinPicture::kLongestSide;
+}
+
+/// A bitmap of its own with the pixels, ready to be blended, and the resolution of another.
+std::unique_ptr<Gdiplus::Bitmap> CopyPixels(Gdiplus::Bitmap& source) {
+    const INT width = static_cast<INT>(source.GetWidth()), height = static_cast<INT>(source.GetHeight());
+    auto copy = std::make_unique<Gdiplus::Bitmap>(width, height, PixelFormat32bppPARGB);
+    const Gdiplus::Rect whole(0, 0, width, height);
+    Gdiplus::BitmapData from, to;
+    if (copy->GetLastStatus() != Gdiplus::Ok ||
+        source.LockBits(&whole, Gdiplus::ImageLockModeRead, PixelFormat32bppPARGB, &from) != Gdiplus::Ok) {
+        return nullptr;
+    }
+    const bool isLocked =
+        copy->LockBits(&whole, Gdiplus::ImageLockModeWrite, PixelFormat32bppPARGB, &to) == Gdiplus::Ok;
+    for (INT y = 0; isLocked && y < height; ++y) {
+        std::copy_n(static_cast<const BYTE*>(from.Scan0) + static_cast<std::ptrdiff_t>(y) * from.Stride,
+                    static_cast<std::size_t>(width) * sizeof(std::uint32_t),
+                    static_cast<BYTE*>(to.Scan0) + static_cast<std::ptrdiff_t>(y) * to.Stride);
+    }
+    source.UnlockBits(&from);
+    if (!isLocked) {
+        return nullptr;
+    }
+    copy->UnlockBits(&to);
+    copy->SetResolution(source.GetHorizontalResolution(), source.GetVerticalResolution());
+    return copy;
+}
+
+std::unique_ptr<Gdiplus::Bitmap> Decode(const std::wstring& path) {
+    const std::vector<BYTE> bytes = ReadBytes(path);
+    if (bytes.empty() || ClaimsTooMuch(bytes) || !StartGdiPlus()) {
+        return nullptr;
+    }
+    IStream* const stream = ::SHCreateMemStream(bytes.data(), static_cast<UINT>(bytes.size()));
+    if (!stream) {
+        return nullptr;
+    }
+    std::unique_ptr<Gdiplus::Bitmap> picture;
+    {
+        Gdiplus::Bitmap source(stream);
+        if (source.GetLastStatus() == Gdiplus::Ok && source.GetWidth() > 0 && source.GetHeight() > 0 &&
+            std::max(source.GetWidth(), source.GetHeight()) <= SkinPicture::kLongestSide) {
+            picture = CopyPixels(source);
+        }
+    }
+    stream->Release();
+    return picture;
+}
+
+} // namespace
+
+std::size_t SkinPicture::s_decodeCount = 0;
+
+SkinPicture::Stamp SkinPicture::StampOf(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data = {};
+    if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) ||
+        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return {};
+    }
+    return {data.ftLastWriteTime, data.nFileSizeHigh, data.nFileSizeLow, true};
+}
+
+bool SkinPicture::IsSame(const Stamp& one, const Stamp& other) {
+    return one.isFile == other.isFile && one.sizeHigh == other.sizeHigh && one.sizeLow == other.sizeLow &&
+           ::CompareFileTime(&one.written, &other.written) == 0;
+}
+
+bool SkinPicture::Take(const std::wstring& path) {
+    const Stamp stamp = StampOf(path);
+    if (m_isTaken && path == m_path && IsSame(stamp, m_stamp)) {
+        return false;
+    }
+    m_path = path;
+    m_stamp = stamp;
+    m_isTaken = true;
+    m_bitmap.reset();
+    if (stamp.isFile) {
+        ++s_decodeCount;
+        m_bitmap = Decode(path);
+    }
+    return true;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <objidl.h>
+
+#include <gdiplus.h>
+
+#include <memory>
+#include <string>
+
+/// A picture file as GDI+ draws it, decoded when it is taken and not when it is drawn. Holds no file open.
+class SkinPicture {
+public:
+    /// A picture with a longer side is not loaded: it would take gigabytes, and no bar is so long.
+    static constexpr UINT kLongestSide = 4096;
+
+    /// Takes the file. Nothing is read when it was the one before and has not changed since. True when it was read, or
+    /// could not be and is gone: what was made of the earlier picture is out of date.
+    bool Take(const std::wstring& path);
+
+    /// Null for a file that is no loadable picture. The object's.
+    Gdiplus::Bitmap* Get() const { return m_bitmap.get(); }
+
+    /// Files that were decoded in the whole process, for tests.
+    static std::size_t GetDecodeCount() { return s_decodeCount; }
+
+private:
+    struct Stamp {
+        FILETIME written = {};
+        DWORD sizeHigh = 0;
+        DWORD sizeLow = 0;
+        bool isFile = false;
+    };
+    static Stamp StampOf(const std::wstring& path);
+    static bool IsSame(const Stamp& one, const Stamp& other);
+
+    // User-interface thread only.
+    static std::size_t s_decodeCount;
+
+    std::wstring m_path;
+    Stamp m_stamp;
+    bool m_isTaken = false;
+    std::unique_ptr<Gdiplus::Bitmap> m_bitmap;
+};
