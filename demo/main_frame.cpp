@@ -285,7 +285,7 @@ void CMainFrame::WriteRecord() {
                                      {"language", wstring2String(CMultiLanguageMgr::GetLanguage())},
                                      {"skin", wstring2String(m_skin)},
                                      {"iconStyle", wstring2String(m_iconStyle)},
-                                     {"frame", DumpFrame({&m_ribbon, {m_commandTexts}, L""})}};
+                                     {"frame", DumpFrame({.ribbon = &m_ribbon, .commands = {m_commandTexts}})}};
     CRect ribbon;
     m_ribbon.GetWindowRect(ribbon);
     const auto onScreen = [&ribbon](CRect rect) {

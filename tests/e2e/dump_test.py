@@ -100,6 +100,40 @@ class DumpOfTheDemo(unittest.TestCase):
                 self.assertEqual(element["rect"], [0, 0, 0, 0])
 
 
+class DumpOfAMenu(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+        os.mkdir(os.path.join(self.folder, "cfg"))
+        self.write("cfg/ribbon.xml", "<ribbon><row><category KEYWORD='Tab' NAME=''><panel KEYWORD='P' NAME=''>"
+                   "<element KEYWORD='Open' NAME='' TYPE='BUTTON'/></panel></category></row></ribbon>")
+
+    def write(self, name, text):
+        with open(os.path.join(self.folder, name), "w", encoding="utf-8") as file:
+            file.write(text)
+
+    def test_commands_are_shared_with_the_ribbon_and_shortcuts_are_listed(self):
+        self.write("cfg/menu.xml", "<menu><g><p KEYWORD='File' MENUNAME='' SHORTKEY='F'><i KEYWORD='Open' MENUNAME=''/>"
+                   "<i MENUNAME='SEPARATOR'/><i KEYWORD='Save' MENUNAME='' HOTKEY='Ctrl+S' CMD='save'/></p></g></menu>")
+        result, got = dump(self.folder)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        button = got["ribbon"]["categories"][0]["panels"][0]["elements"][0]
+        save = got["registry"][-1]
+        self.assertEqual((save["keyword"], save["cmd"]), ("Save", "save"))
+        self.assertEqual(got["menu"], [{"text": "File(&F)", "popup": [{"id": button["id"], "text": "Open"}, {"separator": True},
+                                                                      {"id": save["id"], "text": "Save"}]}])
+        self.assertEqual(got["accelerators"], [{"virt": 9, "key": 0x53, "cmd": save["id"]}])
+        self.assertEqual(got["nextCommandId"], save["id"] + 2)
+
+    def test_a_menu_that_cannot_be_loaded_gives_1_and_a_line_that_says_why(self):
+        self.write("cfg/menu.xml", "<menu><i KEYWORD='A' HOTKEY='Ctrl+'/></menu>")
+        result, got = dump(self.folder)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("not loaded: cfg\\menu.xml: a shortcut names no key", result.stderr)
+        self.assertEqual(got["menu"], [])
+
+
 class ExitCodes(unittest.TestCase):
     def test_a_file_that_cannot_be_loaded_gives_1_and_a_line_that_names_it(self):
         with tempfile.TemporaryDirectory() as folder:

@@ -4,6 +4,7 @@
 
 #include "add_ribbon_bar.h"
 #include "command_line.h"
+#include "dyn_menu_creater.h"
 #include "frame_dump.h"
 #include "screenshot.h"
 
@@ -14,6 +15,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <stdexcept>
 
 namespace {
 
@@ -49,12 +51,19 @@ public:
             }
             m_commands.push_back(builder.m_cmdList);
         }
+        isComplete = BuildMenus() && isComplete;
         isComplete = ShowCategory() && isComplete;
         m_ribbon.ForceRecalcLayout();
         return isComplete;
     }
 
-    DumpSources Sources() { return {&m_ribbon, m_commands, L""}; }
+    DumpSources Sources() {
+        DumpSources sources{&m_ribbon, m_commands, {}, m_hAccelTable, L""};
+        for (const auto& creater : m_menus) {
+            sources.menus.push_back(creater->GetMenu());
+        }
+        return sources;
+    }
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct) {
@@ -69,6 +78,26 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// False when a file could not be loaded.
+    bool BuildMenus() {
+        bool isComplete = true;
+        for (const std::wstring& file : m_options.menuFiles) {
+            auto creater = std::make_unique<CDynMenuCreater>();
+            try {
+                if (!creater->Load(file)) {
+                    Complain(L"not loaded: " + file);
+                    isComplete = false;
+                }
+            } catch (const std::out_of_range&) {
+                Complain(L"not loaded: " + file + L": a shortcut names no key");
+                isComplete = false;
+            }
+            creater->SetAppAccelTable();
+            m_menus.push_back(std::move(creater));
+        }
+        return isComplete;
+    }
+
     /// False when there is no category of the name that was asked for.
     bool ShowCategory() {
         for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
@@ -88,6 +117,7 @@ private:
     const BarviewOptions& m_options;
     CMFCRibbonBar m_ribbon;
     std::vector<std::vector<std::wstring>> m_commands;
+    std::vector<std::unique_ptr<CDynMenuCreater>> m_menus;
 };
 
 BEGIN_MESSAGE_MAP(CPreviewFrame, CFrameWndEx)

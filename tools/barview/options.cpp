@@ -13,15 +13,15 @@ namespace {
 
 constexpr int kLargest = 16384;
 
-/// cfg\ribbon*.xml of the directory in name order, as paths relative to it. Letter case says nothing, as in the file
-/// system.
-std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
+/// cfg\KIND*.xml of the directory in name order, as paths relative to it. Letter case says nothing, as in the file
+/// system; `kind` is in capitals.
+std::vector<std::wstring> FindFiles(const std::wstring& directory, const CString& kind) {
     std::vector<std::wstring> files;
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(directory) / L"cfg", error)) {
         const std::wstring name = entry.path().filename().wstring();
         const CString folded = CString(name.c_str()).MakeUpper();
-        if (entry.is_regular_file(error) && folded.Left(6) == L"RIBBON" && folded.Right(4) == L".XML") {
+        if (entry.is_regular_file(error) && folded.Left(kind.GetLength()) == kind && folded.Right(4) == L".XML") {
             files.push_back(L"cfg\\" + name);
         }
     }
@@ -34,11 +34,12 @@ std::vector<std::wstring> FindRibbonFiles(const std::wstring& directory) {
 } // namespace
 
 const wchar_t* BarviewUsage() {
-    return L"usage: barview DIR [--ribbon FILE]... [--lang LANG] [--skin black|silver] [--size WxH]\n"
+    return L"usage: barview DIR [--ribbon FILE]... [--menu FILE] [--lang LANG] [--skin black|silver] [--size WxH]\n"
            L"               [--scale PERCENT] [--category NAME] [--screenshot OUT.png] [--dump OUT.json]\n"
-           L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon it "
-           L"takes\n"
-           L"cfg\\ribbon*.xml in name order. With --screenshot or --dump it leaves when they are written.\n"
+           L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon or "
+           L"--menu\n"
+           L"it takes cfg\\ribbon*.xml or cfg\\menu*.xml in name order. With --screenshot or --dump it leaves when "
+           L"they are written.\n"
            L"Exit code: 0, 1 when a file could not be loaded or written, when there is no ribbon file, or no category "
            L"of\n"
            L"that name, 2 on wrong usage.\n";
@@ -57,6 +58,11 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
         {L"--ribbon",
          [&](const std::wstring& file) {
              options.ribbonFiles.push_back(file);
+             return !file.empty();
+         }},
+        {L"--menu",
+         [&](const std::wstring& file) {
+             options.menuFiles = {file};
              return !file.empty();
          }},
         {L"--lang", text(options.language)},
@@ -101,7 +107,10 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
         options.directory += L'\\';
     }
     if (options.ribbonFiles.empty()) {
-        options.ribbonFiles = FindRibbonFiles(options.directory);
+        options.ribbonFiles = FindFiles(options.directory, L"RIBBON");
+    }
+    if (options.menuFiles.empty()) {
+        options.menuFiles = FindFiles(options.directory, L"MENU");
     }
     return options;
 }

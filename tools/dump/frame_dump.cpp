@@ -204,6 +204,63 @@ ordered_json DumpRibbon(const DumpSources& sources) {
             {"commands", std::move(commands)}};
 }
 
+/// Popups inside popups are listed without recursion: a file may nest them deeper than the stack reaches.
+ordered_json DumpMenu(HMENU menu) {
+    struct Level {
+        HMENU menu;
+        int next;
+        ordered_json items;
+    };
+    std::vector<Level> levels{{menu, 0, ordered_json::array()}};
+    for (;;) {
+        Level& level = levels.back();
+        if (level.next == ::GetMenuItemCount(level.menu)) {
+            ordered_json items = std::move(level.items);
+            levels.pop_back();
+            if (levels.empty()) {
+                return items;
+            }
+            levels.back().items.back()["popup"] = std::move(items);
+            continue;
+        }
+        const int item = level.next++;
+        const HMENU popup = ::GetSubMenu(level.menu, item);
+        CString text;
+        CMenu::FromHandle(level.menu)->GetMenuString(static_cast<UINT>(item), text, MF_BYPOSITION);
+        if (popup) {
+            level.items.push_back({{"text", Utf8(text)}});
+            levels.push_back({popup, 0, ordered_json::array()});
+        } else if (::GetMenuState(level.menu, static_cast<UINT>(item), MF_BYPOSITION) & MF_SEPARATOR) {
+            level.items.push_back({{"separator", true}});
+        } else {
+            level.items.push_back({{"id", ::GetMenuItemID(level.menu, item)}, {"text", Utf8(text)}});
+        }
+    }
+}
+
+ordered_json DumpMenus(const DumpSources& sources) {
+    ordered_json items = ordered_json::array();
+    for (const CMenu* const menu : sources.menus) {
+        for (ordered_json& item : DumpMenu(menu->GetSafeHmenu())) {
+            items.push_back(std::move(item));
+        }
+    }
+    return items;
+}
+
+ordered_json DumpAccelerators(HACCEL table) {
+    ordered_json accelerators = ordered_json::array();
+    std::vector<ACCEL> entries(table ? static_cast<std::size_t>(::CopyAcceleratorTableW(table, nullptr, 0)) : 0);
+    const int count = table ? ::CopyAcceleratorTableW(table, entries.data(), static_cast<int>(entries.size())) : 0;
+    entries.resize(static_cast<std::size_t>(count));
+    for (const ACCEL& entry : entries) {
+        // The system marks the last entry of a table with a flag of its own.
+        constexpr int kFlags = FVIRTKEY | FNOINVERT | FSHIFT | FCONTROL | FALT;
+        accelerators.push_back({{"virt", entry.fVirt & kFlags}, {"key", entry.key}, {"cmd", entry.cmd}});
+    }
+    return accelerators;
+}
+
 ordered_json DumpRecord(const CAddRibbonBar::_RibbonInfo& record) {
     ordered_json values = ordered_json::array();
     for (const std::wstring& value : record.valueGroup) {
@@ -244,8 +301,8 @@ ordered_json DumpFrame(const DumpSources& sources) {
     return {{"nextCommandId", CMenuIdMgr::s_AddBeginID},
             {"registry", DumpRegistry()},
             {"ribbon", DumpRibbon(sources)},
-            {"menu", ordered_json::array()},
-            {"accelerators", ordered_json::array()},
+            {"menu", DumpMenus(sources)},
+            {"accelerators", DumpAccelerators(sources.accelerators)},
             {"toolbars", ordered_json::array()},
             {"statusExtras", DumpStatusExtras()},
             {"status",

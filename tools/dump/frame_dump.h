@@ -1,17 +1,23 @@
 #pragma once
 
+#include <windows.h>
+
 #include <nlohmann/json.hpp>
 
 #include <string>
 #include <vector>
 
+class CMenu;
 class CMFCRibbonBar;
 
 /// What a dump is made from; bars that are not there give empty lists.
 struct DumpSources {
     CMFCRibbonBar* ribbon = nullptr;
-    std::vector<std::vector<std::wstring>> commands; ///< m_cmdList of every ribbon builder, one list for each file.
-    std::wstring application;                        ///< The application whose status extras are shown.
+    std::vector<std::vector<std::wstring>> commands =
+        {};                               ///< m_cmdList of every ribbon builder, one list for each file.
+    std::vector<const CMenu*> menus = {}; ///< Of every menu builder, in the order of the files.
+    HACCEL accelerators = nullptr;        ///< Of the frame.
+    std::wstring application = {};        ///< The application whose status extras are shown.
 };
 
 /// The bars as JSON: what was built, by whom it is known, where it lies. Of the registry, the commands whose ids fit

@@ -38,7 +38,7 @@ TEST_F(FrameDump, WithoutBarsEveryListIsEmpty) {
         {"toolbars", ordered_json::array()},
         {"statusExtras", ordered_json::array()},
         {"status", {{"app", "application"}, {"elements", ordered_json::array()}, {"extended", ordered_json::array()}}}};
-    EXPECT_EQ(DumpFrame({nullptr, {}, L"application"}).dump(), expected.dump());
+    EXPECT_EQ(DumpFrame({.application = L"application"}).dump(), expected.dump());
 }
 
 TEST_F(FrameDump, CommandsOfTheHostAreListedUnderAnyIdOfAMessage) {
@@ -83,6 +83,48 @@ TEST_F(FrameDump, StatusRecordsShowEveryFieldUnderItsOwnName) {
     EXPECT_EQ(got[0]["records"][0].dump(), expected.dump());
     EXPECT_EQ(got[1]["path"], "cfg\\b.xml");
     EXPECT_TRUE(got[1]["records"].empty());
+}
+
+TEST_F(FrameDump, MenuIsListedWithPopupsAndSeparators) {
+    CMenu menu;
+    CMenu popup;
+    ASSERT_TRUE(menu.CreateMenu() && popup.CreatePopupMenu());
+    menu.AppendMenu(MF_STRING, 41000, L"&Open");
+    menu.AppendMenu(MF_SEPARATOR);
+    popup.AppendMenu(MF_STRING, 41001, L"保存");
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.Detach()), L"More");
+    const ordered_json expected =
+        ordered_json::array({{{"id", 41000}, {"text", "&Open"}},
+                             {{"separator", true}},
+                             {{"text", "More"}, {"popup", ordered_json::array({{{"id", 41001}, {"text", "保存"}}})}}});
+    EXPECT_EQ(DumpFrame({.menus = {&menu}})["menu"].dump(), expected.dump());
+}
+
+TEST_F(FrameDump, MenusNestAsDeepAsAFileMay) {
+    constexpr int kDepth = 5000;
+    CMenu menu;
+    ASSERT_TRUE(menu.CreateMenu());
+    HMENU innermost = menu.m_hMenu;
+    for (int depth = 0; depth < kDepth; ++depth) {
+        const HMENU popup = ::CreatePopupMenu();
+        ::AppendMenuW(innermost, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), L"P");
+        innermost = popup;
+    }
+    const ordered_json dump = DumpFrame({.menus = {&menu}});
+    const ordered_json* items = &dump["menu"];
+    for (int depth = 0; depth < kDepth; ++depth) {
+        items = &(*items)[0]["popup"];
+    }
+    EXPECT_TRUE(items->empty());
+}
+
+TEST_F(FrameDump, AcceleratorsAreListedInTheOrderOfTheTable) {
+    ACCEL entries[] = {{FVIRTKEY | FCONTROL, 'S', 41000}, {0, 'q', 41001}};
+    const HACCEL table = ::CreateAcceleratorTableW(entries, 2);
+    const ordered_json expected = ordered_json::array(
+        {{{"virt", 9}, {"key", 0x53}, {"cmd", 41000}}, {{"virt", 0}, {"key", 0x71}, {"cmd", 41001}}});
+    EXPECT_EQ(DumpFrame({.accelerators = table})["accelerators"].dump(), expected.dump());
+    ::DestroyAcceleratorTable(table);
 }
 
 } // namespace

@@ -39,7 +39,7 @@ protected:
         return combo;
     }
     ordered_json Dumped() {
-        return DumpFrame({&m_host.Bar(), {}, {}})["ribbon"]["categories"][0]["panels"][0]["elements"][0];
+        return DumpFrame({.ribbon = &m_host.Bar()})["ribbon"]["categories"][0]["panels"][0]["elements"][0];
     }
     /// The values that not every element has.
     ordered_json DumpedOwn() {
