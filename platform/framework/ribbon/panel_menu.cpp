@@ -5,6 +5,7 @@
 
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
+#include "fx/window_guard.h"
 #include "popups/menu_watch.h"
 #include "popups/popup_place.h"
 #include "ribbon/element_metrics.h"
@@ -201,28 +202,28 @@ void CMFCRibbonPanelMenu::Dismiss() {
     if (std::exchange(m_isDismissed, true)) {
         return;
     }
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     if (!LeaveChain()) {
         return;
     }
     LeaveKeyboard();
-    if (!::IsWindow(window)) {
+    if (guard.IsGone()) {
         return;
     }
     // An edit with the focus sends its text now, and the handler may do anything.
-    if (const HWND focus = ::GetFocus(); focus != nullptr && ::IsChild(window, focus)) {
+    if (const HWND focus = ::GetFocus(); focus != nullptr && ::IsChild(m_hWnd, focus)) {
         GiveFocusToOwner();
-        if (!::IsWindow(window)) {
+        if (guard.IsGone()) {
             return;
         }
     }
     ForgetParents();
     m_wndRibbonBar.GiveBack();
-    if (!::IsWindow(window)) {
+    if (guard.IsGone()) {
         return;
     }
     HideWindow();
-    ::PostMessageW(window, WM_CLOSE, 0, 0);
+    ::PostMessageW(guard.Handle(), WM_CLOSE, 0, 0);
     TellClosed();
 }
 
@@ -306,9 +307,9 @@ CMFCPopupMenu::ChainInput CMFCRibbonPanelMenu::OnKeyMessage(const MSG& message) 
         if (key != VK_TAB) {
             return ChainInput::ForWindow;
         }
-        const HWND window = m_hWnd;
+        const fx::WindowGuard guard(this);
         GiveFocusToOwner();
-        if (::IsWindow(window) && !IsClosing()) {
+        if (guard.IsAlive() && !IsClosing()) {
             m_wndRibbonBar.OnKey(key);
         }
         return ChainInput::Used;

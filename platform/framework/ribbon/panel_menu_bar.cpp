@@ -6,6 +6,7 @@
 #include "afxribbonbar.h"
 #include "afxRibbonLabel.h"
 #include "afxRibbonMainPanel.h"
+#include "fx/window_guard.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/panel_menu_parts.h"
 
@@ -335,7 +336,7 @@ void CMFCRibbonPanelMenuBar::UpdateElements(CFrameWnd* pTarget, BOOL bDisableIfN
     }
     CMFCRibbonCmdUI update;
     update.m_pOther = this;
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     std::vector<CMFCRibbonBaseElement*> elements;
     for (const RibbonLoan& loan : m_parts->loans) {
         elements.push_back(loan.element);
@@ -346,7 +347,7 @@ void CMFCRibbonPanelMenuBar::UpdateElements(CFrameWnd* pTarget, BOOL bDisableIfN
         if (isStillLent) {
             element->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
         }
-        if (window != nullptr && !::IsWindow(window)) {
+        if (guard.IsGone()) {
             return;
         }
     }
