@@ -1,17 +1,15 @@
 #include "elements/icon_file.h"
 
-#include "elements/icon_header.h"
+#include "elements/icon_loading.h"
 
+#include <fx/paint_round.h>
 #include <varnhold/file_op.h>
 
-#include <algorithm>
 #include <array>
-#include <cstring>
+#include <cwchar>
 #include <map>
 #include <string>
-
-std::size_t FileIcon::s_readCount = 0;
-std::size_t FileIcon::s_aliveCount = 0;
+#include <tuple>
 
 namespace {
 
@@ -32,63 +30,6 @@ FileStamp StampOf(const wchar_t* path) {
     }
     return {Joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime),
             Joined(data.nFileSizeHigh, data.nFileSizeLow)};
-}
-
-/// A file that is open for reading, or none.
-class InputFile {
-public:
-    explicit InputFile(const wchar_t* path)
-        : m_handle(::CreateFileW(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)) {}
-    ~InputFile() {
-        if (IsOpen()) {
-            ::CloseHandle(m_handle);
-        }
-    }
-    InputFile(const InputFile&) = delete;
-    InputFile& operator=(const InputFile&) = delete;
-
-    bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
-
-    /// An IconFileReader. The first bytes are read once, as most icon files have all headers there.
-    std::size_t Read(std::uint64_t offset, std::span<std::uint8_t> bytes) {
-        if (!m_isStartRead) {
-            m_isStartRead = true;
-            m_startLength = ReadFromFile(0, m_start);
-        }
-        if (offset + bytes.size() > m_startLength) {
-            return ReadFromFile(offset, bytes);
-        }
-        std::memcpy(bytes.data(), m_start.data() + offset, bytes.size());
-        return bytes.size();
-    }
-
-private:
-    std::size_t ReadFromFile(std::uint64_t offset, std::span<std::uint8_t> bytes) const {
-        OVERLAPPED place{};
-        place.Offset = static_cast<DWORD>(offset);
-        place.OffsetHigh = static_cast<DWORD>(offset >> 32);
-        DWORD count = 0;
-        const BOOL done = ::ReadFile(m_handle, bytes.data(), static_cast<DWORD>(bytes.size()), &count, &place);
-        return done ? count : 0;
-    }
-
-    HANDLE m_handle;
-    bool m_isStartRead = false;
-    std::size_t m_startLength = 0;
-    std::array<std::uint8_t, 512> m_start;
-};
-
-/// What the headers of a file say of its pictures, nothing of one that cannot be opened. No value when they forbid to
-/// decode it.
-std::optional<std::vector<IconPicture>> PicturesToDecode(const wchar_t* path) {
-    InputFile file(path);
-    if (!file.IsOpen()) {
-        return std::vector<IconPicture>();
-    }
-    auto pictures = ReadIconHeaders(
-        [&file](std::uint64_t offset, std::span<std::uint8_t> bytes) { return file.Read(offset, bytes); });
-    return MayDecode(pictures) ? std::move(pictures) : std::nullopt;
 }
 
 /// The path as the system walks it: absolute, without "." and "..". Empty for what is no path.
@@ -122,29 +63,55 @@ bool LeavesInstallation(const wchar_t* path) {
     return !StartsWith(WalkedPath(path), WalkedPath(directory.c_str()));
 }
 
+namespace {
+
+using SharedIcon = std::shared_ptr<const LoadedIcon>;
+
+SharedIcon Load(const wchar_t* path, int usualSide, int drawnSide) {
+    return LeavesInstallation(path) ? nullptr : LoadIconFile(path, usualSide, drawnSide);
+}
+
+/// What one painting has loaded. User-interface thread only, like every ribbon element.
+class IconsOfThisPaint {
+public:
+    static SharedIcon Find(const wchar_t* path, int usualSide, int drawnSide) {
+        auto& icons = Icons();
+        if (icons.empty()) {
+            fx::CallAtPaintEnd([] { Icons().clear(); });
+        } else if (icons.size() >= kMostShared) {
+            icons.clear();
+        }
+        const auto [place, isNew] = icons.try_emplace({path, usualSide, drawnSide});
+        if (isNew) {
+            place->second = Load(path, usualSide, drawnSide);
+        }
+        return place->second;
+    }
+
+private:
+    using Key = std::tuple<std::wstring, int, int>;
+
+    static std::map<Key, SharedIcon>& Icons() {
+        static std::map<Key, SharedIcon> icons;
+        return icons;
+    }
+    // Each takes three of the 10,000 objects that the system gives a process.
+    static constexpr std::size_t kMostShared = 500;
+};
+
+} // namespace
+
 FileIcon::FileIcon(const wchar_t* path, int usualSide, int drawnSide) {
-    if (!*path || LeavesInstallation(path)) {
-        return;
-    }
-    ++s_readCount;
-    const auto pictures = PicturesToDecode(path);
-    if (!pictures) {
-        return;
-    }
-    m_side = SideToLoad(*pictures, usualSide, drawnSide);
-    m_icon = static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, m_side, m_side, LR_LOADFROMFILE));
-    if (m_icon) {
-        ++s_aliveCount;
+    if (*path) {
+        m_loaded =
+            fx::IsPainting() ? IconsOfThisPaint::Find(path, usualSide, drawnSide) : Load(path, usualSide, drawnSide);
     }
 }
 
-FileIcon::~FileIcon() {
-    if (!m_icon) {
-        return;
-    }
-    ::DestroyIcon(m_icon);
-    --s_aliveCount;
-}
+HICON FileIcon::Get() const { return m_loaded ? m_loaded->icon : nullptr; }
+int FileIcon::GetSide() const { return m_loaded ? m_loaded->side : 0; }
+std::size_t FileIcon::GetReadCount() { return LoadedIcon::s_readCount; }
+std::size_t FileIcon::GetAliveCount() { return LoadedIcon::s_aliveCount; }
 
 void TryIconFile(const wchar_t* path, int side) {
     if (!*path || LeavesInstallation(path)) {

@@ -3,9 +3,14 @@
 #include <windows.h>
 
 #include <cstddef>
-#include <utility>
+#include <memory>
 
-/// Owns an icon that was loaded from a file; may be empty.
+struct LoadedIcon;
+
+/// An icon that was loaded from a file; may be empty. The file is read anew for each, with one exception: whatever is
+/// drawn from a file while one window paints (fx::IsPainting) shares one icon, which is destroyed when that painting
+/// ends. So a file that was changed, removed or put back shows at the very next paint, whatever its size and time stamp
+/// say, and no icon is alive between two paints.
 class FileIcon {
 public:
     FileIcon() = default;
@@ -13,29 +18,18 @@ public:
     /// the file that fits it best (see SideToLoad); empty for an empty path, for one that LeavesInstallation and for
     /// what is not a loadable icon, as a file with a picture beyond kLongestIconSide is not.
     FileIcon(const wchar_t* path, int usualSide, int drawnSide);
-    FileIcon(FileIcon&& other) noexcept : m_icon(std::exchange(other.m_icon, nullptr)), m_side(other.m_side) {}
-    FileIcon& operator=(FileIcon&& other) noexcept {
-        std::swap(m_icon, other.m_icon);
-        std::swap(m_side, other.m_side);
-        return *this;
-    }
-    ~FileIcon();
 
-    HICON Get() const { return m_icon; }
+    /// Valid for as long as this object lives, which is not longer than the draw.
+    HICON Get() const;
     /// The side at which it was loaded.
-    int GetSide() const { return m_side; }
+    int GetSide() const;
 
     /// Files that were read, successfully or not, and icons that are loaded now, in the whole process.
-    static std::size_t GetReadCount() { return s_readCount; }
-    static std::size_t GetAliveCount() { return s_aliveCount; }
+    static std::size_t GetReadCount();
+    static std::size_t GetAliveCount();
 
 private:
-    // User-interface thread only, like every ribbon element.
-    static std::size_t s_readCount;
-    static std::size_t s_aliveCount;
-
-    HICON m_icon = nullptr;
-    int m_side = 0;
+    std::shared_ptr<const LoadedIcon> m_loaded;
 };
 
 /// Whether a path that is written below the installation directory leads out of it ("C:\app\pic\..\..\a.ico"). No file

@@ -13,6 +13,9 @@ constexpr std::size_t kPictureHeaderBytes = 24;
 constexpr std::uint16_t kIconType = 1;
 constexpr std::uint16_t kCursorType = 2;
 
+/// The usual bitmap header.
+constexpr std::size_t kBitmapHeaderBytes = 40;
+
 /// What the oldest bitmap header takes; its sizes are of 16 bits.
 constexpr std::uint32_t kCoreHeaderBytes = 12;
 
@@ -53,42 +56,117 @@ Extent ExtentOfBitmap(Bytes header) {
     return {Magnitude(Little32(header, 4)), Magnitude(Little32(header, 8)) / 2};
 }
 
-Extent ExtentOf(Bytes header) {
-    const bool isPng = std::equal(kPngSignature.begin(), kPngSignature.end(), header.begin());
-    return isPng ? ExtentOfPng(header) : ExtentOfBitmap(header);
-}
+bool IsPng(Bytes header) { return std::equal(kPngSignature.begin(), kPngSignature.end(), header.begin()); }
+
+Extent ExtentOf(Bytes header) { return IsPng(header) ? ExtentOfPng(header) : ExtentOfBitmap(header); }
+
+/// One line of a file's directory.
+struct Entry {
+    std::uint8_t width; // 0 says 256
+    std::uint8_t height;
+    PictureBytes bytes;
+};
 
 template <std::size_t count>
 bool ReadWhole(const IconFileReader& read, std::uint64_t offset, std::array<std::uint8_t, count>& bytes) {
     return read(offset, bytes) == count;
 }
 
+struct Directory {
+    std::uint16_t type;
+    std::size_t count;
+};
+
+/// No value: not a directory of an icon file, or one of too many pictures.
+std::optional<Directory> ReadDirectory(const IconFileReader& read) {
+    std::array<std::uint8_t, kDirectoryHeaderBytes> bytes;
+    if (!ReadWhole(read, 0, bytes)) {
+        return std::nullopt;
+    }
+    const Directory directory{Little16(bytes, 2), Little16(bytes, 4)};
+    if (Little16(bytes, 0) != 0 || (directory.type != kIconType && directory.type != kCursorType) ||
+        directory.count > kMostIconPictures) {
+        return std::nullopt;
+    }
+    return directory;
+}
+
+std::optional<Entry> ReadEntry(const IconFileReader& read, std::size_t index) {
+    std::array<std::uint8_t, kEntryBytes> entry;
+    if (!ReadWhole(read, kDirectoryHeaderBytes + index * kEntryBytes, entry)) {
+        return std::nullopt;
+    }
+    return Entry{entry[0], entry[1], {Little32(entry, 12), Little32(entry, 8)}};
+}
+
+/// What a bitmap of that side takes with its header and the mask behind it, whose rows are whole 32 bits.
+std::uint64_t PlainBitmapBytes(std::uint64_t side) {
+    return kBitmapHeaderBytes + side * side * 4 + (side + 31) / 32 * 4 * side;
+}
+
+/// Whether a picture of so many bytes that begins so is one of that side that needs no conversion.
+bool IsPlain(const std::array<std::uint8_t, kBitmapHeaderBytes>& header, std::uint32_t byteCount, std::uint32_t side) {
+    const Extent extent = ExtentOf(header);
+    if (extent.width != side || extent.height != side || byteCount > kMostPlainBytes) {
+        return false;
+    }
+    if (IsPng(header)) {
+        return true;
+    }
+    constexpr std::uint32_t uncompressed = 0;
+    const bool goesUpwards = (Little32(header, 8) & 0x80000000u) == 0;
+    return Little32(header, 0) == kBitmapHeaderBytes && goesUpwards && Little16(header, 12) == 1 &&
+           Little16(header, 14) == 32 && Little32(header, 16) == uncompressed && byteCount >= PlainBitmapBytes(side);
+}
+
 } // namespace
 
 std::optional<std::vector<IconPicture>> ReadIconHeaders(const IconFileReader& read) {
-    std::array<std::uint8_t, kDirectoryHeaderBytes> directory;
-    if (!ReadWhole(read, 0, directory)) {
-        return std::nullopt;
-    }
-    const std::uint16_t type = Little16(directory, 2);
-    const std::size_t count = Little16(directory, 4);
-    if (Little16(directory, 0) != 0 || (type != kIconType && type != kCursorType) || count > kMostIconPictures) {
+    const auto directory = ReadDirectory(read);
+    if (!directory) {
         return std::nullopt;
     }
     std::vector<IconPicture> pictures;
-    for (std::size_t i = 0; i < count; ++i) {
-        std::array<std::uint8_t, kEntryBytes> entry;
+    for (std::size_t i = 0; i < directory->count; ++i) {
+        const auto entry = ReadEntry(read, i);
         std::array<std::uint8_t, kPictureHeaderBytes> header;
-        if (!ReadWhole(read, kDirectoryHeaderBytes + i * kEntryBytes, entry) ||
-            !ReadWhole(read, Little32(entry, 12), header)) {
+        if (!entry || !ReadWhole(read, entry->bytes.offset, header)) {
             continue;
         }
         const Extent extent = ExtentOf(header);
         if (extent.width != 0 && extent.height != 0) {
-            pictures.push_back({extent.width, extent.height, Little32(entry, 12), Little32(entry, 8)});
+            pictures.push_back(
+                {extent.width, extent.height, static_cast<std::uint32_t>(entry->bytes.offset), entry->bytes.count});
         }
     }
     return pictures;
+}
+
+std::optional<PictureBytes> FindPlainPicture(const IconFileReader& read, int side) {
+    const auto directory = ReadDirectory(read);
+    if (!directory || directory->type != kIconType || side <= 0 || side > 256) {
+        return std::nullopt;
+    }
+    std::optional<PictureBytes> found;
+    for (std::size_t i = 0; i < directory->count; ++i) {
+        const auto entry = ReadEntry(read, i);
+        if (!entry) {
+            return std::nullopt;
+        }
+        const auto listed = static_cast<std::uint8_t>(side);
+        if (entry->width == listed && entry->height == listed) {
+            if (found) {
+                return std::nullopt;
+            }
+            found = entry->bytes;
+        }
+    }
+    std::array<std::uint8_t, kBitmapHeaderBytes> header;
+    if (!found || !ReadWhole(read, found->offset, header) ||
+        !IsPlain(header, found->count, static_cast<std::uint32_t>(side))) {
+        return std::nullopt;
+    }
+    return found;
 }
 
 bool MayDecode(const std::optional<std::vector<IconPicture>>& pictures) {

@@ -35,3 +35,17 @@ bool MayDecode(const std::optional<std::vector<IconPicture>>& pictures);
 /// picture that need not be enlarged, otherwise of its largest. On a display of 100 %, where the picture is drawn
 /// `usual` pixels wide, and for a file that has nothing larger it is `usual`.
 int SideToLoad(const std::vector<IconPicture>& pictures, int usual, int drawn);
+
+/// Where the bytes of one picture stand in an icon file.
+struct PictureBytes {
+    std::uint64_t offset = 0;
+    std::uint32_t count = 0;
+};
+
+/// A file that leaves no choice: exactly one of its pictures has `side` x `side` pixels, in 32 bits or as a PNG file,
+/// its header agrees with the directory and the directory leaves room for all of it. Whoever is given these bytes draws
+/// what the system draws from the file. No value: let the system choose, convert, resize or refuse.
+std::optional<PictureBytes> FindPlainPicture(const IconFileReader& read, int side);
+
+/// A plain picture is not longer; what claims to be is left to the system.
+inline constexpr std::uint32_t kMostPlainBytes = 1 << 20;

@@ -45,8 +45,9 @@ CString AlternateOf(const CString& path) {
 
 /// The chosen file, unless the primary path leaves the installation: its alternate would too, and no longer show it
 /// where "modle" is a part of the installation directory.
-FileIcon LoadedIcon(const CString& primaryPath, const CString& chosenPath, int usualSide, int drawnSide) {
-    return LeavesInstallation(primaryPath) ? FileIcon() : FileIcon(chosenPath, usualSide, drawnSide);
+FileIcon ChosenIcon(const CString& primaryPath, const CString& chosenPath, int usualSide, int drawnSide) {
+    const bool isLeaving = primaryPath != chosenPath && LeavesInstallation(primaryPath);
+    return isLeaving ? FileIcon() : FileIcon(chosenPath, usualSide, drawnSide);
 }
 
 /// Puts another value in a variable's place and the old one back at the end of the scope.
@@ -125,9 +126,9 @@ void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect r
         return isDrawn && scaled != unscaled ? static_cast<int>(scaled.cx) : usualSide;
     };
     // The large file stands in for a small one that is missing.
-    const FileIcon large = LoadedIcon(m_largeIconPath, alternate ? m_largeAlternatePath : m_largeIconPath, largeSide,
+    const FileIcon large = ChosenIcon(m_largeIconPath, alternate ? m_largeAlternatePath : m_largeIconPath, largeSide,
                                       drawnSide(true, largeSide));
-    const FileIcon small = LoadedIcon(m_smallIconPath, alternate ? m_smallAlternatePath : m_smallIconPath, smallSide,
+    const FileIcon small = ChosenIcon(m_smallIconPath, alternate ? m_smallAlternatePath : m_smallIconPath, smallSide,
                                       drawnSide(type == RibbonImageSmall, smallSide));
     // The handles are the element's own for the time of this draw only.
     const Lent largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);

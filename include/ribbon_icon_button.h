@@ -6,7 +6,7 @@
 
 #include <string>
 
-/// A ribbon button whose pictures are icon files, read at every draw and released afterwards. It has up to two files,
+/// A ribbon button whose pictures are icon files, read at every paint and released afterwards. It has up to two files,
 /// large (32 x 32) and small (16 x 16), each with an alternate that the skin style "0" selects: the path with every
 /// "modle" replaced by "modle_0". Its text is a translation key (section "Common"), looked up
 /// whenever the button is measured, placed or drawn.

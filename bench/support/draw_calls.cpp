@@ -6,11 +6,6 @@ namespace {
 
 DrawCalls g_calls;
 
-HANDLE WINAPI CountLoad(HINSTANCE instance, LPCWSTR name, UINT type, int width, int height, UINT flags) {
-    ++g_calls.imageLoads;
-    return ::LoadImageW(instance, name, type, width, height, flags);
-}
-
 BOOL WINAPI CountIcon(HDC dc, int x, int y, HICON icon, int width, int height, UINT step, HBRUSH brush, UINT flags) {
     ++g_calls.icons;
     return ::DrawIconEx(dc, x, y, icon, width, height, step, brush, flags);
@@ -43,7 +38,6 @@ DrawCallCounter::~DrawCallCounter() = default;
 const DrawCalls& DrawCallCounter::Calls() const { return g_calls; }
 
 void DrawCallCounter::Watch(HMODULE module) {
-    Put(m_loads, module, "LoadImageW", &CountLoad);
     Put(m_icons, module, "DrawIconEx", &CountIcon);
     Put(m_texts, module, "DrawTextW", &CountText);
 }

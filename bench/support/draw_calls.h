@@ -7,7 +7,6 @@
 
 /// The calls that nobody can do without who draws buttons from icon files.
 struct DrawCalls {
-    long imageLoads = 0;
     long icons = 0;
     long texts = 0;
 };
@@ -25,7 +24,6 @@ public:
 private:
     void Watch(HMODULE module);
 
-    std::vector<std::unique_ptr<ImportSpy<decltype(::LoadImageW)>>> m_loads;
     std::vector<std::unique_ptr<ImportSpy<decltype(::DrawIconEx)>>> m_icons;
     std::vector<std::unique_ptr<ImportSpy<decltype(::DrawTextW)>>> m_texts;
 };

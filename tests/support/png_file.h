@@ -31,10 +31,11 @@ private:
     bool m_isStarted = false;
 };
 
+inline constexpr CLSID kPngEncoder{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
+
 /// Writes the bitmap, which must not be selected into a context that still draws, as a PNG. GDI+ must have been
 /// started.
 inline bool WritePng(HBITMAP bitmap, const std::wstring& path) {
     Gdiplus::Bitmap picture(bitmap, nullptr);
-    const CLSID png{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
-    return picture.Save(path.c_str(), &png, nullptr) == Gdiplus::Ok;
+    return picture.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
 }

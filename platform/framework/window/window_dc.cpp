@@ -3,6 +3,7 @@
 #include "fx/exceptions.h"
 #include "fx/image_list.h"
 #include "fx/wnd.h"
+#include "window/paint_round.h"
 
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
@@ -24,8 +25,12 @@ CClientDC::~CClientDC() { ::ReleaseDC(m_hWnd, Detach()); }
 CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(SafeWindow(pWnd)) { Require(Attach(::GetWindowDC(m_hWnd))); }
 CWindowDC::~CWindowDC() { ::ReleaseDC(m_hWnd, Detach()); }
 
-CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(SafeWindow(pWnd)) { Require(Attach(::BeginPaint(m_hWnd, &m_ps))); }
+CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(SafeWindow(pWnd)) {
+    Require(Attach(::BeginPaint(m_hWnd, &m_ps)));
+    BeginPaintRound();
+}
 CPaintDC::~CPaintDC() {
+    EndPaintRound();
     ::EndPaint(m_hWnd, &m_ps);
     Detach();
 }

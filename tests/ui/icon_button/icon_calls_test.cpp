@@ -1,4 +1,5 @@
-// What the icon-file button asks of the system: which files it loads at which size, what it releases, how it draws.
+// What the icon-file button asks of the system: which files it opens, which icons it makes of them at which size, what
+// it releases, how it draws.
 
 #include "elements/icon_file.h"
 #include "ribbon_icon_button.h"
@@ -14,6 +15,8 @@
 
 extern "C" {
 extern void* __imp_DrawIconEx;
+extern void* __imp_CreateFileW;
+extern void* __imp_CreateIconFromResourceEx;
 extern void* __imp_LoadImageW;
 extern void* __imp_DestroyIcon;
 }
@@ -29,18 +32,20 @@ struct Drawn {
     UINT flags;
 };
 
+/// An icon that was made from a file's bytes or, with a path, by the system from the file.
 struct Loaded {
     std::wstring path;
-    UINT type;
     int width;
     int height;
-    UINT flags;
     HANDLE icon;
 };
 
 std::vector<Drawn> g_drawn;
+std::vector<std::wstring> g_opened;
 std::vector<Loaded> g_loaded;
 std::vector<HANDLE> g_released;
+decltype(&::CreateFileW) g_createFile = nullptr;
+decltype(&::CreateIconFromResourceEx) g_createIcon = nullptr;
 decltype(&::LoadImageW) g_loadImage = nullptr;
 decltype(&::DestroyIcon) g_destroyIcon = nullptr;
 
@@ -49,9 +54,23 @@ BOOL WINAPI KeepDrawn(HDC, int x, int y, HICON icon, int width, int height, UINT
     return TRUE;
 }
 
+HANDLE WINAPI KeepOpened(LPCWSTR name, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security, DWORD disposition,
+                         DWORD flags, HANDLE like) {
+    g_opened.emplace_back(name);
+    return g_createFile(name, access, sharing, security, disposition, flags, like);
+}
+
+HICON WINAPI KeepMade(PBYTE bytes, DWORD count, BOOL isIcon, DWORD version, int width, int height, UINT flags) {
+    const HICON icon = g_createIcon(bytes, count, isIcon, version, width, height, flags);
+    g_loaded.push_back({{}, width, height, icon});
+    return icon;
+}
+
 HANDLE WINAPI KeepLoaded(HINSTANCE instance, LPCWSTR name, UINT type, int width, int height, UINT flags) {
+    EXPECT_EQ(type, static_cast<UINT>(IMAGE_ICON));
+    EXPECT_EQ(flags, static_cast<UINT>(LR_LOADFROMFILE));
     const HANDLE icon = g_loadImage(instance, name, type, width, height, flags);
-    g_loaded.push_back({name, type, width, height, flags, icon});
+    g_loaded.push_back({name, width, height, icon});
     return icon;
 }
 
@@ -63,6 +82,8 @@ BOOL WINAPI KeepReleased(HICON icon) {
 class IconCalls : public testing::Test {
 protected:
     IconCalls() {
+        g_createFile = m_opens.GetOriginal();
+        g_createIcon = m_makes.GetOriginal();
         g_loadImage = m_loads.GetOriginal();
         g_destroyIcon = m_releases.GetOriginal();
         m_large = m_directory.Write("modle/large.ico", MakeIconFile(32, {0xFF0000, 0xFF0000})).c_str();
@@ -78,6 +99,7 @@ protected:
 
     static void Forget() {
         g_drawn.clear();
+        g_opened.clear();
         g_loaded.clear();
         g_released.clear();
     }
@@ -102,10 +124,13 @@ protected:
         EXPECT_EQ(loaded, released);
     }
 
+    using Paths = std::vector<std::wstring>;
     static constexpr auto Large = CMFCRibbonBaseElement::RibbonImageLarge;
     static constexpr auto Small = CMFCRibbonBaseElement::RibbonImageSmall;
 
     const ImportSpy<decltype(::DrawIconEx)> m_draws{__imp_DrawIconEx, &KeepDrawn};
+    const ImportSpy<decltype(::CreateFileW)> m_opens{__imp_CreateFileW, &KeepOpened};
+    const ImportSpy<decltype(::CreateIconFromResourceEx)> m_makes{__imp_CreateIconFromResourceEx, &KeepMade};
     const ImportSpy<decltype(::LoadImageW)> m_loads{__imp_LoadImageW, &KeepLoaded};
     const ImportSpy<decltype(::DestroyIcon)> m_releases{__imp_DestroyIcon, &KeepReleased};
     TemporaryDirectory m_directory;
@@ -167,25 +192,33 @@ TEST_F(IconCalls, EachDrawLoadsBothFilesInTheirSizesAndReleasesThem) {
     CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
     for (const auto type : {Large, Small}) {
         Draw(button, type);
+        EXPECT_EQ(g_opened, (Paths{m_large.GetString(), m_small.GetString()}));
         ASSERT_EQ(g_loaded.size(), 2u);
-        EXPECT_EQ(g_loaded[0].path, m_large.GetString());
         EXPECT_EQ(CSize(g_loaded[0].width, g_loaded[0].height), CSize(32, 32));
-        EXPECT_EQ(g_loaded[1].path, m_small.GetString());
         EXPECT_EQ(CSize(g_loaded[1].width, g_loaded[1].height), CSize(16, 16));
         for (const Loaded& load : g_loaded) {
-            EXPECT_EQ(load.type, static_cast<UINT>(IMAGE_ICON));
-            EXPECT_EQ(load.flags, static_cast<UINT>(LR_LOADFROMFILE));
             EXPECT_NE(load.icon, nullptr);
         }
         ExpectLoadsReleased();
     }
 }
 
+TEST_F(IconCalls, AFileThatHasToBeConvertedOrResizedIsLoadedByTheSystem) {
+    const CString other = m_directory.Write("other.ico", MakeIconFile(48, {0xFF0000, 0xFF0000})).c_str();
+    CMFCRibbonUNIcoButton button(1, L"", other);
+    Draw(button, Large);
+    ASSERT_EQ(g_loaded.size(), 1u);
+    EXPECT_EQ(g_loaded[0].path, other.GetString());
+    EXPECT_EQ(CSize(g_loaded[0].width, g_loaded[0].height), CSize(32, 32));
+    EXPECT_NE(g_loaded[0].icon, nullptr);
+    ExpectLoadsReleased();
+}
+
 TEST_F(IconCalls, EmptyPathIsNotLoaded) {
     CMFCRibbonUNIcoButton button(1, L"", m_large);
     Draw(button, Small);
-    ASSERT_EQ(g_loaded.size(), 1u);
-    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+    EXPECT_EQ(g_opened, (Paths{m_large.GetString()}));
+    EXPECT_EQ(g_loaded.size(), 1u);
     ExpectLoadsReleased();
 }
 
@@ -193,7 +226,8 @@ TEST_F(IconCalls, MissingAlternateFileIsSkippedAndTheOtherIsReleased) {
     CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
     CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
     EXPECT_EQ(Draw(button, Small).icon, g_loaded.at(0).icon) << "there is no small alternate file";
-    EXPECT_EQ(g_loaded.at(1).icon, nullptr);
+    EXPECT_EQ(g_opened.size(), 2u);
+    EXPECT_EQ(g_loaded.size(), 1u);
     ExpectLoadsReleased();
 }
 
@@ -208,22 +242,18 @@ TEST_F(IconCalls, SmallIconIsReleasedWhereTheLargeOneCannotBeLoaded) {
 
 TEST_F(IconCalls, ConstructorTriesNoEmptyPath) {
     const CMFCRibbonUNIcoButton large(1, L"", m_large);
-    ASSERT_EQ(g_loaded.size(), 1u);
-    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
+    EXPECT_EQ(g_opened, (Paths{m_large.GetString()}));
     const CMFCRibbonUNIcoButton small(1, L"", CString(), FALSE, m_small);
-    ASSERT_EQ(g_loaded.size(), 2u);
-    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+    EXPECT_EQ(g_opened, (Paths{m_large.GetString(), m_small.GetString()}));
     const CMFCRibbonUNIcoButton neither(1, L"", CString());
-    EXPECT_EQ(g_loaded.size(), 2u);
+    EXPECT_EQ(g_opened.size(), 2u);
     ExpectLoadsReleased();
 }
 
 TEST_F(IconCalls, ConstructorTriesNoAlternate) {
     CMFCRibbonUNIcoButton::SetSkinStyle(L"0");
     const CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
-    ASSERT_EQ(g_loaded.size(), 2u);
-    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
-    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+    EXPECT_EQ(g_opened, (Paths{m_large.GetString(), m_small.GetString()}));
 }
 
 TEST_F(IconCalls, LinkedCopyLoadsTheFilesOfItsOriginalOnceAndReleasesThem) {
@@ -231,9 +261,8 @@ TEST_F(IconCalls, LinkedCopyLoadsTheFilesOfItsOriginalOnceAndReleasesThem) {
     CMFCRibbonUNIcoButton copy(2, L"", m_small, FALSE, m_large);
     copy.SetOriginal(&original);
     Draw(copy, Large);
-    ASSERT_EQ(g_loaded.size(), 2u);
-    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
-    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
+    EXPECT_EQ(g_opened, (Paths{m_large.GetString(), m_small.GetString()}));
+    EXPECT_EQ(g_loaded.size(), 2u);
     ExpectLoadsReleased();
 }
 
@@ -245,16 +274,16 @@ TEST_F(IconCalls, WhatDrawsNothingLoadsNothing) {
     for (CMFCRibbonUNIcoButton* button : {&unlinked, &smallOnly}) {
         button->DrawImage(m_canvas.Dc(), Large, CRect(10, 20, 64, 64));
     }
+    EXPECT_TRUE(g_opened.empty());
     EXPECT_TRUE(g_loaded.empty());
     EXPECT_TRUE(g_drawn.empty());
 }
 
 TEST_F(IconCalls, ConstructorTriesEachFileInItsSizeAndReleasesIt) {
     const CMFCRibbonUNIcoButton button(1, L"", m_large, FALSE, m_small);
+    EXPECT_EQ(g_opened, (Paths{m_large.GetString(), m_small.GetString()}));
     ASSERT_EQ(g_loaded.size(), 2u);
-    EXPECT_EQ(g_loaded[0].path, m_large.GetString());
     EXPECT_EQ(g_loaded[0].width, 32);
-    EXPECT_EQ(g_loaded[1].path, m_small.GetString());
     EXPECT_EQ(g_loaded[1].width, 16);
     ExpectLoadsReleased();
 }

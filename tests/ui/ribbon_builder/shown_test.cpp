@@ -42,10 +42,15 @@ protected:
         ASSERT_TRUE(Load(oneButton));
         m_frame.RecalcLayout();
     }
+    /// Each with files of its own.
     void LoadTwelveButtons() {
         std::string elements;
         for (int index = 0; index < 12; ++index) {
-            elements += "<e KEYWORD='" + std::to_string(index) + "' TYPE='BUTTON' PICPATH='pic\\modle\\a.ico'/>";
+            const std::string number = std::to_string(index);
+            for (const int side : {32, 16}) {
+                WriteIcon(L"pic\\modle\\" + std::to_wstring(index) + L".ico", side, red);
+            }
+            elements += "<e KEYWORD='" + number + "' TYPE='BUTTON' PICPATH='pic\\modle\\" + number + ".ico'/>";
         }
         ASSERT_TRUE(Load(Panel(elements)));
         m_frame.RecalcLayout();

@@ -176,4 +176,70 @@ TEST(IconSide, OnAnOrdinaryDisplayItIsTheUsualSizeWhateverTheFileHolds) {
     EXPECT_EQ(SideToLoad(Pictures({24}), 16, 16), 16);
 }
 
+// ---- which picture needs nothing of the system
+
+std::string WholePicture(int side) {
+    return BitmapHeader(side, side) +
+           std::string(std::size_t(side) * std::size_t(side) * 4 + std::size_t(side) * 4, 'p');
+}
+
+std::optional<PictureBytes> PlainOf(const std::string& bytes, int side) {
+    return FindPlainPicture(ReaderOf(bytes), side);
+}
+
+TEST(PlainPicture, IsTheOnlyOneOfItsSize) {
+    const std::string file = MakeIconDirectory({WholePicture(16), WholePicture(32)}, {16, 32});
+    const auto found = PlainOf(file, 32);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(file.substr(static_cast<std::size_t>(found->offset), found->count), WholePicture(32));
+    EXPECT_TRUE(PlainOf(file, 16));
+    EXPECT_FALSE(PlainOf(file, 24));
+    EXPECT_FALSE(PlainOf(MakeIconDirectory({WholePicture(32), WholePicture(32)}, {32, 32}), 32));
+}
+
+TEST(PlainPicture, IsWhatTheDirectoryAndItsOwnHeaderAgreeUpon) {
+    EXPECT_FALSE(PlainOf(MakeIconDirectory({WholePicture(32)}, {16}), 16));
+    EXPECT_FALSE(PlainOf(MakeIconDirectory({WholePicture(32)}, {16}), 32));
+    EXPECT_TRUE(PlainOf(MakeIconDirectory({PngHeader(256, 256) + std::string(40, 'p')}, {0}), 256));
+    EXPECT_FALSE(PlainOf(MakeIconDirectory({PngHeader(256, 128) + std::string(40, 'p')}, {0}), 256));
+}
+
+TEST(PlainPicture, NeedsNoConversion) {
+    const auto changed = [](std::size_t place, char value) {
+        std::string picture = WholePicture(32);
+        picture[place] = value;
+        return MakeIconDirectory({picture}, {32});
+    };
+    EXPECT_FALSE(PlainOf(changed(0, 12), 32)) << "an older header";
+    EXPECT_FALSE(PlainOf(changed(12, 2), 32)) << "planes";
+    EXPECT_FALSE(PlainOf(changed(14, 24), 32)) << "bits";
+    EXPECT_FALSE(PlainOf(changed(16, 3), 32)) << "masks of colours";
+    std::string downwards = WholePicture(32);
+    downwards.replace(8, 4, LittleEndian(0u - 64u, 4));
+    EXPECT_FALSE(PlainOf(MakeIconDirectory({downwards}, {32}), 32));
+    std::string cursor = MakeIconDirectory({WholePicture(32)}, {32});
+    cursor[2] = 2;
+    EXPECT_FALSE(PlainOf(cursor, 32));
+}
+
+TEST(PlainPicture, IsNoShorterThanItsColoursAndItsMaskAndNoLongerThanTheLimit) {
+    std::string file = MakeIconDirectory({WholePicture(32)}, {32});
+    const auto withCount = [&file](std::uint32_t count) {
+        return std::string(file).replace(14, 4, LittleEndian(count, 4));
+    };
+    constexpr std::uint32_t whole = 40 + 32 * 32 * 4 + 32 * 4;
+    EXPECT_TRUE(PlainOf(withCount(whole), 32));
+    EXPECT_FALSE(PlainOf(withCount(whole - 1), 32));
+    EXPECT_TRUE(PlainOf(withCount(kMostPlainBytes), 32));
+    EXPECT_FALSE(PlainOf(withCount(kMostPlainBytes + 1), 32));
+}
+
+TEST(PlainPicture, IsLookedForInEveryShorterFileWithoutHarm) {
+    const std::string file = MakeIconDirectory({PngHeader(16, 16) + "behind", WholePicture(32)}, {16, 32});
+    for (std::size_t length = 0; length < file.size(); length += 3) {
+        const auto found = PlainOf(file.substr(0, length), 32);
+        EXPECT_EQ(found.has_value(), length >= 6 + 2 * 16 + PngHeader(16, 16).size() + 6 + 40) << length;
+    }
+}
+
 } // namespace
