@@ -6,6 +6,7 @@
 #include "afxglobals.h"
 #include "fx/window_dc.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/shown_text.h"
 
 namespace {
 
@@ -201,7 +202,8 @@ void CMFCRibbonBar::MeasureTabs(CDC* pDC) {
     }
     for (const auto& context : m_parts->contexts) {
         const std::vector<size_t>& tabs = tabsOfContext[context.id];
-        int missing = static_cast<int>(pDC->GetTextExtent(context.name).cx) + 2 * m_parts->metrics.tabPaddingX;
+        const int caption = pDC->GetTextExtent(ribbon::PlainText(context.name)).cx;
+        int missing = caption + 2 * m_parts->metrics.tabPaddingX;
         for (const size_t tab : tabs) {
             missing -= widths[tab] + m_parts->metrics.tabGap;
         }

@@ -75,6 +75,15 @@ TEST_F(RibbonMnemonics, TakeNoRoom) {
     EXPECT_EQ(markedTab->GetTabRect().Width(), plainTab->GetTabRect().Width());
 }
 
+TEST_F(RibbonMnemonics, TakeNoRoomInTheCaptionOfAContext) {
+    CMFCRibbonCategory* marked = Bar().AddContextCategory(L"A", L"&Name of a context", 7, AFX_CategoryColor_Red, 0, 0);
+    CMFCRibbonCategory* plain = Bar().AddContextCategory(L"A", L"Name of a context", 8, AFX_CategoryColor_Red, 0, 0);
+    Bar().ShowContextCategories(7);
+    Bar().ShowContextCategories(8);
+    Bar().RecalcLayout();
+    EXPECT_EQ(marked->GetTabRect().Width(), plain->GetTabRect().Width());
+}
+
 TEST_F(RibbonMnemonics, OfALabelAreItsText) {
     CMFCRibbonCategory* category = Bar().AddCategory(L"Own", 0, 0);
     category->AddPanel(L"Panel")->Add(new CMFCRibbonLabel(L"A & B && C"));
