@@ -25,24 +25,28 @@ SVG = "{http://www.w3.org/2000/svg}"
 
 @dataclass(frozen=True)
 class Grid:
-    """Where a drawing of `units` units lies in a picture of `size` pixels. Strokes and hairlines: widths in pixels."""
+    """Where a drawing of `units` units lies in a picture of `size` pixels. Strokes and hairlines: widths in pixels. `half` is
+    added before a place is cut to a whole pixel: with less than a half, two and a half pixels are two."""
 
     units: int
     size: int
     weight: float
     hairline: int = 1
+    half: float = 0.5
 
     def edge(self, unit):
         """The pixel edge of a whole unit; the far half mirrors the near one, so that what is even stays even."""
+        if unit * 2 == self.units:
+            return self.size / 2
         if unit > self.units / 2:
             return self.size - self.edge(self.units - unit)
-        return int(unit * self.size / self.units + 0.5)
+        return int(unit * self.size / self.units + self.half)
 
     def stroke_start(self, unit):
         """The first pixel of a stroke that covers the unit."""
         if unit > (self.units - 1) / 2:
             return self.size - self.weight - self.stroke_start(self.units - 1 - unit)
-        return int(unit * self.size / self.units + 0.5)
+        return int(unit * self.size / self.units + self.half)
 
     def fill(self, value):
         return between(self.edge, value)
@@ -143,6 +147,40 @@ def fitted_outline(element, kind, grid):
     return fit_path(element.get("d"), fit, grid)
 
 
+def split_path(text):
+    """A path's segments along rows and columns of pixels, and the others, as two path texts."""
+    here, start = (0.0, 0.0), (0.0, 0.0)
+    ends = {True: None, False: None}
+    parts = {True: [], False: []}
+    for letter, numbers in read_path(text):
+        if letter == "M":
+            here = start = tuple(numbers)
+            continue
+        there = {"Z": start, "H": (numbers[0], here[1]) if numbers else None,
+                 "V": (here[0], numbers[0]) if numbers else None}.get(letter) or tuple(numbers[-2:])
+        is_straight = letter in "LHVZ" and (there[0] == here[0] or there[1] == here[1])
+        if there != here:
+            if ends[is_straight] != here:
+                parts[is_straight].append(f"M{here[0]:g} {here[1]:g}")
+            kept = letter if letter in "CQA" else "L"
+            parts[is_straight].append(kept + " ".join(f"{number:g}" for number in (numbers if kept != "L" else there)))
+            ends[is_straight] = there
+        here = there
+    return "".join(parts[True]), "".join(parts[False])
+
+
+def stroke_text(outline, width, cap, colour):
+    if not outline:
+        return ""
+    ink, alpha = colour
+    return (f'<path d="{outline}" fill="none" stroke="{ink}" stroke-opacity="{alpha}" stroke-width="{width:g}" '
+            f'stroke-linecap="{cap}" stroke-linejoin="round"/>')
+
+
+# A slanting stroke one pixel wide covers no pixel wholly and looks thinner than an upright one; this makes up for it.
+SLANT_STRENGTH = 1.3
+
+
 def fitted_element(element, grid, colours):
     """One element as SVG text in pixels, or "" when the table has no colour for its tone."""
     kind, *tones = element.get("class").split()
@@ -153,11 +191,14 @@ def fitted_element(element, grid, colours):
     ink, alpha = colour
     if kind == "fill":
         return f'<path d="{outline}" fill="{ink}" fill-opacity="{alpha}"/>'
-    width = {"frame": grid.hairline, "heavy": 2 * grid.weight}.get(kind, grid.weight)
+    if kind == "frame":
+        return stroke_text(outline, grid.hairline, "butt", colour)
+    width = grid.weight * (2 if kind == "heavy" else 1)
+    if width != 1:
+        return stroke_text(outline, width, "round", colour)
+    straight, slanting = split_path(outline)
     # Round ends of a stroke one pixel wide would be two grey pixels.
-    cap = "square" if width == 1 else "round"
-    return (f'<path d="{outline}" fill="none" stroke="{ink}" stroke-opacity="{alpha}" stroke-width="{width}" '
-            f'stroke-linecap="{cap}" stroke-linejoin="{"miter" if kind == "frame" else "round"}"/>')
+    return stroke_text(slanting, SLANT_STRENGTH, "round", colour) + stroke_text(straight, 1, "square", colour)
 
 
 class Drawing:

@@ -1,5 +1,6 @@
 """Writes icon files: one picture in several sizes."""
 import io
+import os
 import struct
 
 COMPRESSED_FROM = 256  # the system reads larger pictures as PNG only
@@ -30,3 +31,14 @@ def icon_bytes(images):
         out += struct.pack("<BBBBHHII", image.width % 256, image.height % 256, 0, 0, 1, 32, len(body), offset)
         offset += len(body)
     return out + b"".join(bodies)
+
+
+def write_changed(path, data):
+    """Only what changed, so that nothing is built again for a picture that stayed."""
+    os.makedirs(os.path.dirname(path), exist_ok=True)
+    if os.path.exists(path):
+        with open(path, "rb") as file:
+            if file.read() == data:
+                return
+    with open(path, "wb") as file:
+        file.write(data)
