@@ -106,7 +106,7 @@ class IconPixels(unittest.TestCase):
         for size, larger in ((16, 20), (20, 24), (24, 32), (28, 32), (40, 48), (48, 56)):
             drawn = [sharpness(icon(path_of("modle", "16", name), size)) for name in names()]
             scaled = [sharpness(icon(path_of("modle", "16", name), larger).resize((size, size), Image.BICUBIC)) for name in names()]
-            self.assertGreater(sum(drawn), 1.5 * sum(scaled), size)
+            self.assertGreater(sum(drawn), 1.35 * sum(scaled), size)
 
 
 class IconContrast(unittest.TestCase):
