@@ -7,7 +7,7 @@
 namespace {
 
 using TextExchange = void(AFXAPI*)(CDataExchange*, int, CString&);
-constexpr TextExchange kTextExchange = &DDX_Text;
+const TextExchange kTextExchange = &DDX_Text;
 
 } // namespace
 
