@@ -14,6 +14,28 @@
 
 using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 
+namespace {
+
+/// Closes what shows the active category, or was opened from it. The host hears of that and may do anything: false when
+/// the bar has gone, or the category that is to follow.
+bool ClosePopupsOfActive(CMFCRibbonBar& bar, CMFCRibbonCategory* next) {
+    const RibbonBarParts& parts = bar.GetParts();
+    const bool isInPopup = parts.ShownCategory() == nullptr;
+    CMFCRibbonBaseElement* dropped = isInPopup ? nullptr : parts.active->GetDroppedDown();
+    if (!isInPopup && dropped == nullptr) {
+        return true;
+    }
+    const fx::WindowGuard guard(&bar);
+    if (isInPopup) {
+        CMFCRibbonPanelMenu::DismissAll();
+    } else {
+        dropped->ClosePopupMenu();
+    }
+    return guard.IsAlive() && (next == nullptr || bar.GetCategoryIndex(next) >= 0);
+}
+
+} // namespace
+
 CMFCRibbonCategory* CMFCRibbonBar::AddCategory(LPCTSTR lpszName, UINT uiSmallImagesResID, UINT uiLargeImagesResID,
                                                CSize sizeSmallImage, CSize sizeLargeImage, int nInsertAt,
                                                CRuntimeClass* pRTI) {
@@ -202,6 +224,8 @@ void CMFCRibbonBar::ShowCategory(int nIndex, BOOL bShow) {
         return;
     }
     category->m_bIsVisible = bShow;
+    MarkLayoutDirty();
+    // Last: the host may do anything when pop-ups close.
     if (!bShow && m_parts->active == category) {
         CMFCRibbonCategory* former = m_parts->activeBeforeContext;
         const bool goesBack = category->GetContextID() != 0 && former != nullptr && former->IsVisible();
@@ -209,7 +233,6 @@ void CMFCRibbonBar::ShowCategory(int nIndex, BOOL bShow) {
     } else if (bShow && m_parts->active == nullptr) {
         SetActiveWithoutCheck(category);
     }
-    MarkLayoutDirty();
 }
 
 BOOL CMFCRibbonBar::SetActiveCategory(CMFCRibbonCategory* pCategory, BOOL bForceRestore) {
@@ -225,13 +248,11 @@ BOOL CMFCRibbonBar::SetActiveCategory(CMFCRibbonCategory* pCategory, BOOL bForce
 }
 
 void CMFCRibbonBar::SetActiveWithoutCheck(CMFCRibbonCategory* category) {
-    if (m_parts->active == category) {
+    const bool closes = m_parts->active != category && m_parts->active != nullptr;
+    if ((closes && !ClosePopupsOfActive(*this, category)) || m_parts->active == category) {
         return;
     }
     if (m_parts->active != nullptr) {
-        if (m_parts->ShownCategory() == nullptr) {
-            CMFCRibbonPanelMenu::DismissAll();
-        }
         CancelPress();
         m_parts->hotPanel = nullptr;
         CMFCRibbonBaseElement* hot = m_parts->pointer.GetHot();

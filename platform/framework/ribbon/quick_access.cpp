@@ -33,7 +33,7 @@ void CMFCRibbonQuickAccessToolBarDefaultState::RemoveAll() {
 IMPLEMENT_DYNCREATE(CMFCRibbonQuickAccessCustomizeButton, CMFCRibbonButton)
 
 CString CMFCRibbonQuickAccessCustomizeButton::GetToolTipText() const {
-    return RibbonText(RibbonTextId::QuickAccessCustomize);
+    return m_strToolTip.IsEmpty() ? RibbonText(RibbonTextId::QuickAccessCustomize) : m_strToolTip;
 }
 
 CSize CMFCRibbonQuickAccessCustomizeButton::GetCompactSize(CDC* /*pDC*/) {

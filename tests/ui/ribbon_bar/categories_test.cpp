@@ -185,4 +185,53 @@ TEST_F(RibbonBarTest, APanelsElementsAreAddedReplacedAndRemoved) {
     PumpPending();
 }
 
+// ---- pop-ups of the category that is left
+
+class LeftCategory : public RibbonBarTest {
+protected:
+    /// A panel of the active category, in its pop-up.
+    LeftCategory() {
+        CMFCRibbonPanel& panel = Collapse(1);
+        m_pointer.Click(Bar(), panel.GetDefaultButton().GetRect().CenterPoint());
+    }
+    CMFCRibbonCategory* Home() { return Bar().GetCategory(0); }
+    CMFCRibbonCategory* View() { return Bar().GetCategory(1); }
+};
+
+TEST_F(LeftCategory, ThePopUpOfItsPanelClosesWhenAnotherBecomesActive) {
+    ASSERT_NE(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    EXPECT_TRUE(Bar().SetActiveCategory(View()));
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    EXPECT_EQ(Bar().GetActiveCategory(), View());
+}
+
+TEST_F(LeftCategory, ThePopUpOfItsPanelClosesWhenItIsHidden) {
+    ASSERT_NE(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    Bar().ShowCategory(0, FALSE);
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    EXPECT_EQ(Bar().GetActiveCategory(), View());
+}
+
+TEST_F(LeftCategory, ItsPopUpStaysWhileTheCategoryStays) {
+    ASSERT_NE(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    EXPECT_TRUE(Bar().SetActiveCategory(Home()));
+    EXPECT_NE(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    CMFCPopupMenu::CloseAll();
+}
+
+TEST_F(LeftCategory, AFrameThatIsDestroyedWhenThePopUpClosesIsNotTouched) {
+    ASSERT_NE(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    m_frame->onPopupClosed = [this] { m_frame->DestroyWindow(); };
+    Bar().ShowCategory(0, FALSE);
+    EXPECT_FALSE(::IsWindow(m_window));
+}
+
+TEST_F(LeftCategory, ACategoryThatIsRemovedWhenThePopUpClosesDoesNotBecomeActive) {
+    ASSERT_NE(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    m_frame->onPopupClosed = [this] { Bar().RemoveCategory(1); };
+    Bar().SetActiveCategory(View());
+    EXPECT_EQ(Bar().GetCategoryCount(), 1);
+    EXPECT_EQ(Bar().GetActiveCategory(), Home());
+}
+
 } // namespace

@@ -3,6 +3,7 @@
 #include <afxres.h>
 
 #include <numeric>
+#include <utility>
 
 #include "afxribboncheckbox.h"
 #include "afxRibbonEdit.h"
@@ -58,6 +59,9 @@ BOOL RibbonFrame::OnShowPopupMenu(CMFCPopupMenu* menu) {
 void RibbonFrame::OnClosePopupMenu(CMFCPopupMenu* menu) {
     ++popupsClosed;
     CFrameWndEx::OnClosePopupMenu(menu);
+    if (const auto heard = std::exchange(onPopupClosed, nullptr)) {
+        heard();
+    }
 }
 
 BOOL RibbonFrame::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) {

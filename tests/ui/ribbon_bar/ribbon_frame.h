@@ -56,6 +56,7 @@ public:
     std::function<void()> onUpdate;
     int popupsShown = 0;
     int popupsClosed = 0;
+    std::function<void()> onPopupClosed; // once; may end the frame
     bool allowsPopups = true;
     bool handlesRecentFiles = false;
     bool customizes = false; // with a dialog of its own

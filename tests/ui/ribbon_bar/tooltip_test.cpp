@@ -126,4 +126,16 @@ TEST_F(RibbonTooltipTest, TheQuickAccessMenuButtonHasTheFrameworksText) {
                  L"Customize Quick Access Toolbar");
 }
 
+TEST_F(RibbonTooltipTest, TheQuickAccessMenuButtonTakesAnotherText) {
+    Bar().SetQuickAccessCommands(CommandList{commands::cut});
+    const CRect all = Bar().GetQuickAccessToolbarLocation();
+    const CPoint onButton((Bar().GetQATCommandsLocation().right + all.right) / 2, all.CenterPoint().y);
+    CMFCRibbonBaseElement* const button = Bar().HitTest(onButton);
+    ASSERT_NE(button, nullptr);
+    button->SetToolTipText(L"Another");
+    EXPECT_STREQ(TipTextAt(onButton), L"Another");
+    button->SetToolTipText(L"");
+    EXPECT_STREQ(TipTextAt(onButton), L"Customize Quick Access Toolbar");
+}
+
 } // namespace
