@@ -8,3 +8,15 @@ END_MESSAGE_MAP()
 CMFCRibbonBar2::CMFCRibbonBar2(int nReplaceFrameCaption) : CMFCRibbonBar(nReplaceFrameCaption ? TRUE : FALSE) {}
 
 CMFCRibbonBar2::~CMFCRibbonBar2() = default;
+
+void CMFCRibbonBar2::ChangeSkinColor(int nStyle, BOOL bFlag) {
+    m_nSkinStyle = nStyle;
+    m_bSkinFlag = bFlag;
+    if (GetSafeHwnd() != nullptr) {
+        Invalidate();
+    }
+}
+
+BOOL CMFCRibbonBar2::OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) {
+    return m_bContextMenu ? CMFCRibbonBar::OnShowRibbonContextMenu(pWnd, x, y, pHit) : FALSE;
+}

@@ -28,6 +28,36 @@ TEST(RibbonBase, BarSaysItsOwnClass) {
     EXPECT_TRUE(bar.IsKindOf(RUNTIME_CLASS(CMFCRibbonBar)));
 }
 
+TEST(RibbonBase, BarKeepsWhatASkinAndAContextMenuAreAskedFor) {
+    CMFCRibbonBar2 bar;
+    EXPECT_TRUE(bar.IsContextMenuEnabled());
+    EXPECT_EQ(bar.GetSkinStyle(), 0);
+    EXPECT_FALSE(bar.GetSkinFlag());
+    EXPECT_EQ(bar.GetTextColor(), static_cast<COLORREF>(-1));
+    bar.EnableContextMenu(FALSE);
+    bar.SetTextColor(RGB(1, 2, 3));
+    EXPECT_FALSE(bar.IsContextMenuEnabled());
+    EXPECT_EQ(bar.GetTextColor(), RGB(1, 2, 3));
+}
+
+TEST(RibbonBase, BarTakesAnySkinNumberAndItsFlag) {
+    CMFCRibbonBar2 bar;
+    const CMFCVisualManager* const before = CMFCVisualManager::GetInstance();
+    for (const int style : {1, 7, -1, 0}) {
+        bar.ChangeSkinColor(style, style > 0 ? TRUE : FALSE);
+        EXPECT_EQ(bar.GetSkinStyle(), style);
+        EXPECT_EQ(bar.GetSkinFlag(), style > 0 ? TRUE : FALSE);
+    }
+    EXPECT_EQ(CMFCVisualManager::GetInstance(), before) << "the skin's manager is a derived bar's to bring";
+    CMFCVisualManager::DestroyInstance();
+}
+
+TEST(RibbonBase, BarWithItsContextMenuOffShowsNone) {
+    CMFCRibbonBar2 bar;
+    bar.EnableContextMenu(FALSE);
+    EXPECT_FALSE(bar.OnShowRibbonContextMenu(&bar, 0, 0, nullptr));
+}
+
 TEST(RibbonBase, VisualManagerIsKnownAndMadeByItsName) {
     const CRuntimeClass* const manager = RUNTIME_CLASS(CMFCVisualManagerOffice20072);
     EXPECT_EQ(CRuntimeClass::FromName("CMFCVisualManagerOffice20072"), manager);
