@@ -20,7 +20,6 @@ add_library(framework_portable OBJECT EXCLUDE_FROM_ALL
   ribbon/panel_layout.cpp
   ribbon/slider_geometry.cpp
   ribbon/text_break.cpp
-  visual/contrast.cpp
   visual/pixels.cpp
   visual/skin.cpp
   visual/skin_system.cpp

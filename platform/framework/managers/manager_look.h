@@ -12,6 +12,11 @@ namespace visual {
 
 inline Look LookOf(const Skin& skin) { return {skin, afxGlobalData.GetRibbonImageScale()}; }
 
+/// Of what has square corners in skins that are not flat.
+inline Corners PlateCorners(const Skin& skin, const Look& look) {
+    return skin.isFlat ? Corners::All(look.Radius()) : Corners{};
+}
+
 inline ElementState StateOf(const CMFCRibbonBaseElement& element) {
     // What has the keyboard's focus looks like what is under the pointer.
     return {element.IsHighlighted() != FALSE || element.IsFocused() != FALSE, element.IsPressed() != FALSE,

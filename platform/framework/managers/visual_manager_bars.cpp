@@ -129,15 +129,19 @@ void CMFCVisualManager::OnDrawComboBorder(CDC* pDC, CRect rect, BOOL bDisabled, 
 
 void CMFCVisualManager::OnDrawComboDropButton(CDC* pDC, CRect rect, BOOL bDisabled, BOOL bIsDropped,
                                               BOOL bIsHighlighted, CMFCToolBarComboBoxButton*) {
-    const visual::Face* const face =
-        visual::ButtonFaceFor(GetSkin(), ComboState(bDisabled, bIsDropped, bIsHighlighted));
-    if (face != nullptr) {
-        visual::PaintFace(*pDC, rect, *face, {}, LookOf(GetSkin()));
+    const ElementState state = ComboState(bDisabled, bIsDropped, bIsHighlighted);
+    const visual::Skin& skin = GetSkin();
+    const bool isLit = !state.isDisabled && (state.isHot || state.isDropped);
+    if (isLit) {
+        visual::PaintFace(*pDC, rect, skin[state.isDropped ? FaceSlot::DropButtonPressed : FaceSlot::DropButtonHot],
+                          visual::PlateCorners(skin, LookOf(skin)), LookOf(skin));
     } else {
-        visual::PaintFill(*pDC, rect, GetSkin()[FaceSlot::ToolBar], LookOf(GetSkin()));
+        visual::PaintFill(*pDC, rect, skin[FaceSlot::DropButton], LookOf(skin));
     }
-    visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down,
-                       GetSkin()[bDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], 0, LookOf(GetSkin()));
+    const visual::Argb arrow = skin[state.isDisabled ? ColorSlot::DropArrowDisabled
+                                    : isLit          ? ColorSlot::DropArrowHot
+                                                     : ColorSlot::DropArrow];
+    visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down, arrow, 0, LookOf(skin));
 }
 
 void CMFCVisualManager::OnDrawEditBorder(CDC* pDC, CRect rect, BOOL bDisabled, BOOL bIsHighlighted,
@@ -246,9 +250,12 @@ void CMFCVisualManager::OnDrawCaptionButton(CDC* pDC, CMFCCaptionButton* pButton
         visual::PaintFace(*pDC, rect, *face, visual::Corners::All(LookOf(GetSkin()).Px(2)), LookOf(GetSkin()));
     }
     const visual::Argb plain = GetSkin()[bActive ? ColorSlot::PaneCaptionTextActive : ColorSlot::PaneCaptionText];
-    const visual::Argb color = bDisabled         ? visual::WithAlpha(plain, 110)
-                               : face != nullptr ? GetSkin()[ColorSlot::Glyph]
-                                                 : plain;
+    const visual::Argb color =
+        bDisabled ? visual::WithAlpha(plain, 110)
+        : face != nullptr
+            ? GetSkin()[state.isPressed || state.isDropped ? ColorSlot::PaneGlyphPressed : ColorSlot::PaneGlyphHot]
+        : bActive ? plain
+                  : GetSkin()[ColorSlot::PaneGlyph];
     PaintCaptionGlyph(*pDC, rect, pButton->GetHit(), bHorz != FALSE, bMaximized != FALSE, color, LookOf(GetSkin()));
 }
 
@@ -283,14 +290,18 @@ void CMFCVisualManager::OnFillTab(CDC* pDC, CRect rectFill, CBrush*, int, BOOL b
 }
 
 void CMFCVisualManager::OnEraseTabsArea(CDC* pDC, CRect rect, const CMFCBaseTabCtrl*) {
-    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::BarBackground]);
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::TabsArea]);
+    if (GetSkin().isFlat) {
+        visual::PaintSolid(*pDC, {rect.left, rect.bottom - LookOf(GetSkin()).Line(), rect.right, rect.bottom},
+                           GetSkin()[ColorSlot::TabsAreaLine]);
+    }
 }
 
 void CMFCVisualManager::OnEraseTabsButton(CDC* pDC, CRect rect, CMFCButton*, CMFCBaseTabCtrl*) {
-    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::BarBackground]);
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::TabsButton]);
 }
 
 BOOL CMFCVisualManager::OnEraseTabsFrame(CDC* pDC, CRect rect, const CMFCBaseTabCtrl*) {
-    visual::PaintSolid(*pDC, rect, GetSkin()[FaceSlot::DocumentTabActive].bottom2);
+    visual::PaintSolid(*pDC, rect, GetSkin()[ColorSlot::TabsFrame]);
     return TRUE;
 }

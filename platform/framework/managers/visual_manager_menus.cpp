@@ -57,8 +57,9 @@ void CMFCVisualManager::OnDrawMenuShadow(CDC* pDC, const CRect& rectClient, cons
     pDC->RestoreDC(saved);
 }
 
-void CMFCVisualManager::OnDrawMenuCheck(CDC* pDC, CMFCToolBarMenuButton*, CRect rect, BOOL, BOOL bIsRadio) {
-    visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuCheck], {}, LookOf(GetSkin()));
+void CMFCVisualManager::OnDrawMenuCheck(CDC* pDC, CMFCToolBarMenuButton*, CRect rect, BOOL bHighlight, BOOL bIsRadio) {
+    visual::PaintFace(*pDC, rect, GetSkin()[bHighlight ? FaceSlot::MenuCheckHot : FaceSlot::MenuCheck],
+                      visual::PlateCorners(GetSkin(), LookOf(GetSkin())), LookOf(GetSkin()));
     if (bIsRadio) {
         visual::PaintRadioMark(*pDC, rect, GetSkin()[ColorSlot::CheckMark], LookOf(GetSkin()));
     } else {

@@ -6,6 +6,7 @@
 #include <afxribbonbar.h>
 #include <afxribboncategory.h>
 #include <afxRibbonPanel.h>
+#include <afxribbonslider.h>
 
 #include <array>
 
@@ -100,7 +101,7 @@ void CMFCVisualManager::OnDrawRibbonApplicationButton(CDC* pDC, CMFCRibbonButton
 }
 
 COLORREF CMFCVisualManager::OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar*, CRect rectTab) {
-    visual::PaintRibbonBackground(*pDC, rectTab, LookOf(GetSkin()));
+    visual::PaintTabRow(*pDC, rectTab, LookOf(GetSkin()));
     return ToColorRef(GetSkin()[ColorSlot::TabText]);
 }
 
@@ -135,7 +136,7 @@ void CMFCVisualManager::OnDrawRibbonCategoryScroll(CDC* pDC, CRibbonCategoryScro
 
 COLORREF CMFCVisualManager::OnDrawRibbonPanel(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectPanel, CRect rectCaption) {
     visual::PaintPanel(*pDC, rectPanel, rectCaption, pPanel != nullptr && pPanel->IsHighlighted(), LookOf(GetSkin()));
-    return ToColorRef(GetSkin()[ColorSlot::RibbonText]);
+    return ToColorRef(GetSkin()[ColorSlot::PanelElementText]);
 }
 
 void CMFCVisualManager::OnDrawRibbonPanelCaption(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectCaption) {
@@ -203,8 +204,13 @@ void CMFCVisualManager::OnDrawRibbonDefaultPaneButtonContext(CDC* pDC, CMFCRibbo
 
 void CMFCVisualManager::OnDrawRibbonDefaultPaneButtonIndicator(CDC* pDC, CMFCRibbonButton* pButton, CRect rect, BOOL,
                                                                BOOL) {
+    const bool isDisabled = pButton->IsDisabled() != FALSE;
+    if (visual::PaintPlate(*pDC, rect, isDisabled ? GetSkin().arrowDisabledPlate : GetSkin().arrowPlate,
+                           visual::PlatePlace::Alone, LookOf(GetSkin()))) {
+        return;
+    }
     visual::PaintArrow(*pDC, rect, visual::ArrowDirection::Down,
-                       GetSkin()[pButton->IsDisabled() ? ColorSlot::GlyphDisabled : ColorSlot::Glyph],
+                       GetSkin()[isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph],
                        GetSkin()[ColorSlot::GlyphLight], LookOf(GetSkin()));
 }
 
@@ -241,8 +247,13 @@ void CMFCVisualManager::OnDrawRibbonProgressBar(CDC* pDC, CMFCRibbonProgressBar*
     visual::PaintProgress(*pDC, rectProgress, rectChunk, LookOf(GetSkin()));
 }
 
-void CMFCVisualManager::OnDrawRibbonSliderChannel(CDC* pDC, CMFCRibbonSlider*, CRect rect) {
-    visual::PaintSliderChannel(*pDC, rect, LookOf(GetSkin()));
+void CMFCVisualManager::OnDrawRibbonSliderChannel(CDC* pDC, CMFCRibbonSlider* pSlider, CRect rect) {
+    LONG filledTo = rect.left;
+    if (pSlider != nullptr && pSlider->GetRangeMax() > pSlider->GetRangeMin()) {
+        filledTo += ::MulDiv(rect.Width(), pSlider->GetPos() - pSlider->GetRangeMin(),
+                             pSlider->GetRangeMax() - pSlider->GetRangeMin());
+    }
+    visual::PaintSliderChannel(*pDC, rect, filledTo, pSlider != nullptr && pSlider->IsDisabled(), LookOf(GetSkin()));
 }
 
 void CMFCVisualManager::OnDrawRibbonSliderThumb(CDC* pDC, CMFCRibbonSlider*, CRect rect, BOOL bIsHighlighted,
@@ -267,8 +278,10 @@ void CMFCVisualManager::OnDrawRibbonGalleryBorder(CDC* pDC, CMFCRibbonGallery*, 
     visual::PaintFrame(*pDC, rectBorder, GetSkin()[FaceSlot::Edit].outer, LookOf(GetSkin()).Line());
 }
 
-void CMFCVisualManager::OnDrawRibbonMenuCheckFrame(CDC* pDC, CMFCRibbonButton*, CRect rect) {
-    visual::PaintFace(*pDC, rect, GetSkin()[FaceSlot::MenuCheck], {}, LookOf(GetSkin()));
+void CMFCVisualManager::OnDrawRibbonMenuCheckFrame(CDC* pDC, CMFCRibbonButton* pButton, CRect rect) {
+    const bool isHot = pButton != nullptr && StateOf(*pButton).isHot;
+    visual::PaintFace(*pDC, rect, GetSkin()[isHot ? FaceSlot::MenuCheckHot : FaceSlot::MenuCheck],
+                      visual::PlateCorners(GetSkin(), LookOf(GetSkin())), LookOf(GetSkin()));
 }
 
 void CMFCVisualManager::OnDrawRibbonMainPanelFrame(CDC* pDC, CMFCRibbonMainPanel*, CRect rect) {

@@ -92,7 +92,7 @@ void CMFCVisualManagerOffice2003::OnHighlightQuickCustomizeMenuButton(CDC* pDC, 
 }
 
 void CMFCVisualManagerOffice2003::OnDrawMenuBorder(CDC* pDC, CMFCPopupMenu*, CRect rect) {
-    PaintMenuBorder(*pDC, rect, visual::GradientSkin());
+    PaintMenuBorder(*pDC, rect, GetSkin());
 }
 
 void CMFCVisualManagerOffice2003::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, BOOL bIsHoriz) {
@@ -100,7 +100,7 @@ void CMFCVisualManagerOffice2003::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRe
     if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr) {
         CMFCVisualManager::OnDrawSeparator(pDC, pBar, rect, bIsHoriz);
     } else {
-        PaintSeparator(*pDC, rect, bIsHoriz, visual::GradientSkin());
+        PaintSeparator(*pDC, rect, bIsHoriz, GetSkin());
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace visual {
 
@@ -64,7 +65,33 @@ Corners CornersFor(GroupPlace place, int radius) {
     return Corners::All(radius);
 }
 
-void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look) {
+namespace {
+
+const Plate* PlateFor(const RECT& rect, std::uint32_t plate, PlatePlace place, const Look& look) {
+    return plate != 0 && look.skin.plates != nullptr
+               ? look.skin.plates->FindPlate(plate, place, rect.bottom - rect.top, look.scale)
+               : nullptr;
+}
+
+RECT PlaceOf(const Plate& plate, const RECT& rect) {
+    if (!plate.isCentred) {
+        return rect;
+    }
+    const LONG left = (rect.left + rect.right - plate.width) / 2, top = (rect.top + rect.bottom - plate.height) / 2;
+    return {left, top, left + plate.width, top + plate.height};
+}
+
+void DrawPlate(HDC dc, const RECT& rect, const Plate& plate) {
+    const RECT place = PlaceOf(plate, rect);
+    const Canvas canvas(dc, place, Recipe("plate", plate.name));
+    if (!canvas.IsEmpty()) {
+        const std::span pixels(plate.pixels, static_cast<std::size_t>(plate.width) * plate.height);
+        FillSlices(canvas.View(), canvas.Local(place), pixels, plate.width,
+                   {plate.left, plate.top, plate.right, plate.bottom});
+    }
+}
+
+void PaintColors(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look) {
     const Canvas canvas(dc, rect, Recipe("face", face, corners, look.skin.split, look.Line()));
     if (canvas.IsEmpty()) {
         return;
@@ -78,14 +105,45 @@ void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corner
     StrokeRounded(canvas.View(), whole, corners, face.outer, line);
 }
 
+} // namespace
+
+bool PaintPlate(HDC dc, const RECT& rect, std::uint32_t plate, PlatePlace place, const Look& look) {
+    const Plate* const found = PlateFor(rect, plate, place, look);
+    if (found == nullptr) {
+        return false;
+    }
+    DrawPlate(dc, rect, *found);
+    return true;
+}
+
+void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look, PlatePlace place) {
+    const Plate* const plate = PlateFor(rect, face.plate, place, look);
+    if (plate == nullptr || plate->isOverFace) {
+        PaintColors(dc, rect, face, corners, look);
+    }
+    if (plate != nullptr) {
+        DrawPlate(dc, rect, *plate);
+    }
+}
+
 void PaintFill(HDC dc, const RECT& rect, const Face& face, const Look& look) {
-    const Canvas canvas(dc, rect, Recipe("fill", face, look.skin.split));
-    if (!canvas.IsEmpty()) {
-        FillRounded(canvas.View(), canvas.Local(rect), {}, StopsOf(face, look.skin));
+    const Plate* const plate = PlateFor(rect, face.plate, PlatePlace::Alone, look);
+    if (plate == nullptr || plate->isOverFace) {
+        const Canvas canvas(dc, rect, Recipe("fill", face, look.skin.split));
+        if (!canvas.IsEmpty()) {
+            FillRounded(canvas.View(), canvas.Local(rect), {}, StopsOf(face, look.skin));
+        }
+    }
+    if (plate != nullptr) {
+        DrawPlate(dc, rect, *plate);
     }
 }
 
 void PaintBorders(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look) {
+    // A picture has its border in it, and who draws the border alone has filled the face before.
+    if (PlateFor(rect, face.plate, PlatePlace::Alone, look) != nullptr) {
+        return;
+    }
     Face frame;
     frame.outer = face.outer;
     frame.inner = face.inner;
@@ -93,6 +151,9 @@ void PaintBorders(HDC dc, const RECT& rect, const Face& face, const Corners& cor
 }
 
 void PaintSolid(HDC dc, const RECT& rect, Argb color) {
+    if (AlphaOf(color) == 0) {
+        return;
+    }
     if (AlphaOf(color) == 255) {
         const COLORREF previous = SetBkColor(dc, ToColorRef(color));
         gdi::FillGround(dc, rect);
@@ -127,7 +188,49 @@ void PaintEtchedLine(HDC dc, const RECT& rect, bool isUpright, Argb dark, Argb l
     PaintSolid(dc, {rect.left, y + line, rect.right, y + 2 * line}, light);
 }
 
+namespace {
+
+/// Two strokes that meet in a point: the arrow of flat skins.
+void PaintChevron(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, const Look& look) {
+    const int reach = look.Px(4), depth = look.Px(2) + look.Line();
+    const LONG middleX = (rect.left + rect.right) / 2, middleY = (rect.top + rect.bottom) / 2;
+    const RECT box{middleX - reach - 1, middleY - reach - 1, middleX + reach + 2, middleY + reach + 2};
+    const Canvas canvas(dc, box, Recipe("chevron", direction, color, reach, depth));
+    if (canvas.IsEmpty()) {
+        return;
+    }
+    // Along the arrow's way and across it, from the middle; turned into x and y by the direction.
+    const double half = (box.right - box.left) / 2.0, width = 1.5 * look.scale, tip = depth / 2.0 + width / 2;
+    const std::array<PointF, 6> shape{{{-half + 1, tip - depth - width},
+                                       {0, tip - width},
+                                       {half - 1, tip - depth - width},
+                                       {half - 1, tip - depth},
+                                       {0, tip},
+                                       {-half + 1, tip - depth}}};
+    std::array<PointF, shape.size()> points;
+    std::ranges::transform(shape, points.begin(), [&](PointF point) {
+        switch (direction) {
+        case ArrowDirection::Up:
+            return PointF{half + point.x, half - point.y};
+        case ArrowDirection::Left:
+            return PointF{half - point.y, half + point.x};
+        case ArrowDirection::Right:
+            return PointF{half + point.y, half + point.x};
+        case ArrowDirection::Down:
+            break;
+        }
+        return PointF{half + point.x, half + point.y};
+    });
+    FillPolygon(canvas.View(), points, color);
+}
+
+} // namespace
+
 void PaintArrow(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, Argb light, const Look& look) {
+    if (look.skin.isFlat) {
+        PaintChevron(dc, rect, direction, color, look);
+        return;
+    }
     const int depth = look.Px(3), half = depth;
     const LONG middleX = (rect.left + rect.right) / 2, middleY = (rect.top + rect.bottom) / 2;
     const RECT bounds{middleX - half - 2, middleY - half - 2, middleX + half + 3, middleY + half + 3};
@@ -214,14 +317,27 @@ void PaintWindowGlyph(HDC dc, const RECT& rect, WindowGlyph glyph, Argb color, c
         return;
     }
     case WindowGlyph::Minimize:
+        if (look.skin.isFlat) {
+            PaintSolid(dc, {box.left, middleY, box.right, middleY + line}, color);
+            return;
+        }
         PaintSolid(dc, {box.left, box.bottom - 2 * line, box.right, box.bottom}, color);
         return;
     case WindowGlyph::Maximize:
         PaintFrame(dc, box, color, line);
-        PaintSolid(dc, {box.left, box.top, box.right, box.top + 2 * line}, color);
+        if (!look.skin.isFlat) {
+            PaintSolid(dc, {box.left, box.top, box.right, box.top + 2 * line}, color);
+        }
         return;
     case WindowGlyph::Restore: {
         const int step = look.Px(2);
+        if (look.skin.isFlat) {
+            // The window behind shows above and at the right of the one in front.
+            PaintSolid(dc, {box.left + step, box.top, box.right, box.top + line}, color);
+            PaintSolid(dc, {box.right - line, box.top + line, box.right, box.bottom - step}, color);
+            PaintFrame(dc, {box.left, box.top + step, box.right - step, box.bottom}, color, line);
+            return;
+        }
         PaintFrame(dc, {box.left + step, box.top, box.right, box.bottom - step}, color, line);
         const RECT front{box.left, box.top + step, box.right - step, box.bottom};
         PaintFrame(dc, front, color, line);
@@ -280,7 +396,7 @@ const Face& BoxFaceFor(const Skin& skin, const ElementState& state) {
 void PaintCheckBox(HDC dc, const RECT& rect, const ElementState& state, bool isMixed, const Look& look) {
     const RECT box = Square(rect);
     const Face& face = BoxFaceFor(look.skin, state);
-    PaintFace(dc, box, face, {}, look);
+    PaintFace(dc, box, face, look.skin.isFlat ? Corners::All(look.Px(3)) : Corners{}, look);
     const Argb mark = look.skin[state.isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::CheckMark];
     if (isMixed) {
         const int inset = (box.right - box.left) * 3 / 10;

@@ -35,7 +35,11 @@ const Face& KnobFaceFor(const Skin& skin, const ElementState& state);
 
 Corners CornersFor(GroupPlace place, int radius);
 
-void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look);
+/// The face's picture where the skin has it, its colours otherwise.
+void PaintFace(HDC dc, const RECT& rect, const Face& face, const Corners& corners, const Look& look,
+               PlatePlace place = PlatePlace::Alone);
+/// The skin's picture of that number alone. false, and nothing drawn, when there is none.
+bool PaintPlate(HDC dc, const RECT& rect, std::uint32_t plate, PlatePlace place, const Look& look);
 /// The same without either border.
 void PaintFill(HDC dc, const RECT& rect, const Face& face, const Look& look);
 /// Lines of the outer and the inner border only.

@@ -50,6 +50,11 @@ void PaintRibbonBackground(HDC dc, const RECT& rect, const Look& look) {
     }
 }
 
+void PaintTabRow(HDC dc, const RECT& rect, const Look& look) {
+    PaintRibbonBackground(dc, rect, look);
+    PaintPlate(dc, rect, look.skin.tabRowPlate, PlatePlace::Alone, look);
+}
+
 Argb TabTextColor(const TabState& state, const Skin& skin) {
     if (state.isActive) {
         return skin[ColorSlot::TabTextActive];
@@ -70,6 +75,10 @@ void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look)
         face.outer = face.inner = 0;
     }
 
+    if (look.skin.isFlat) {
+        PaintFace(dc, rect, face, Corners::Top(radius), look);
+        return;
+    }
     const Canvas canvas(
         dc, rect,
         Recipe("tab", face, state.isActive, state.isHot, look.skin.split, line, radius, look.skin[ColorSlot::TabGlow]));
@@ -97,6 +106,11 @@ void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look)
 void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const Look& look) {
     const Face& face = look.skin[FaceSlot::RibbonCategory];
     const int line = look.Line();
+    if (look.skin.isFlat) {
+        PaintFace(dc, rect, {0, 0, face.top1, face.top2, face.bottom1, face.bottom2, face.plate}, {}, look);
+        PaintSolid(dc, {rect.left, rect.bottom - line, rect.right, rect.bottom}, face.outer);
+        return;
+    }
     const bool hasGap = gapLeft < gapRight;
     const Canvas canvas(dc, rect,
                         Recipe("category", face, line, look.Radius(), hasGap ? gapLeft - rect.left : 0,
@@ -121,6 +135,14 @@ void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const
     const Face& strip = look.skin[isHot ? FaceSlot::PanelCaptionHot : FaceSlot::PanelCaption];
     const bool hasStrip = !IsRectEmpty(&caption);
     const int line = look.Line(), radius = look.Radius();
+    if (look.skin.isFlat) {
+        // Between panels lies one line, darker than the ground or lighter: the skin has both beside each other.
+        const int margin = look.Px(4);
+        const LONG right = rect.right;
+        PaintSolid(dc, {right - 2 * line, rect.top + margin, right - line, rect.bottom - margin}, face.outer);
+        PaintSolid(dc, {right - line, rect.top + margin, right, rect.bottom - margin}, face.inner);
+        return;
+    }
     const Canvas canvas(
         dc, rect,
         Recipe("panel", face, strip, line, radius, look.skin.split, hasStrip, hasStrip ? caption.top - rect.top : 0));
@@ -190,11 +212,38 @@ void PaintDefaultPane(HDC dc, const RECT& rect, const ElementState& state, const
     PaintFace(dc, rect, look.skin[slot], Corners::All(look.Radius()), look);
 }
 
+namespace {
+
+/// Plates that stand beside each other; of a split button each half has its own.
+void PaintFlatButton(HDC dc, const ButtonParts& parts, const ElementState& state, const Face& face, const Look& look) {
+    const Corners corners = Corners::All(look.Radius());
+    const bool isSplit = !IsRectEmpty(&parts.menu) && !IsRectEmpty(&parts.command);
+    if (isSplit && !state.isDisabled && (parts.isCommandHot || parts.isMenuHot)) {
+        const Face& under = look.skin[state.isChecked ? FaceSlot::ButtonChecked : FaceSlot::ButtonPale];
+        PaintFace(dc, parts.rect, under, corners, look);
+        const RECT& lit = parts.isMenuHot ? parts.menu : parts.command;
+        const Face& over =
+            state.isPressed || state.isDropped ? look.skin[FaceSlot::ButtonPressed] : look.skin[FaceSlot::ButtonHot];
+        PaintFace(dc, lit, over, corners, look, PlatePlace::Joined);
+        return;
+    }
+    const PlatePlace place = parts.isOnStatusBar                ? PlatePlace::StatusBar
+                             : parts.place != GroupPlace::Alone ? PlatePlace::Joined
+                                                                : PlatePlace::Alone;
+    PaintFace(dc, parts.rect, face, corners, look, place);
+}
+
+} // namespace
+
 void PaintButton(HDC dc, const ButtonParts& parts, const ElementState& state, const Look& look) {
     const Face* face = ButtonFaceFor(look.skin, state);
     const Corners corners = CornersFor(parts.place, look.Radius());
     const bool isSplit = !IsRectEmpty(&parts.menu) && !IsRectEmpty(&parts.command);
     if (face == nullptr) {
+        return;
+    }
+    if (look.skin.isFlat) {
+        PaintFlatButton(dc, parts, state, *face, look);
         return;
     }
     if (!isSplit || state.isDisabled || (!parts.isCommandHot && !parts.isMenuHot)) {
@@ -223,10 +272,31 @@ void PaintEdit(HDC dc, const RECT& rect, const ElementState& state, const Look& 
     const FaceSlot slot = state.isDisabled                                    ? FaceSlot::EditDisabled
                           : state.isHot || state.isDropped || state.isPressed ? FaceSlot::EditHot
                                                                               : FaceSlot::Edit;
-    PaintFace(dc, rect, look.skin[slot], {}, look);
+    PaintFace(dc, rect, look.skin[slot], look.skin.isFlat ? Corners::All(look.Radius()) : Corners{}, look);
 }
 
-void PaintSliderChannel(HDC dc, const RECT& rect, const Look& look) {
+namespace {
+
+/// A round bar, filled from the left end on.
+void PaintFlatChannel(HDC dc, const RECT& rect, LONG filledTo, bool isDisabled, const Look& look) {
+    const int thickness = look.Px(4);
+    const LONG top = (rect.top + rect.bottom - thickness) / 2;
+    const RECT bar{rect.left, top, rect.right, top + thickness};
+    const Argb track = look.skin[ColorSlot::SliderTrackDark];
+    const Argb fill = look.skin[isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Accent];
+    const Corners corners = Corners::All(thickness / 2);
+    PaintFace(dc, bar, {0, 0, track, track, track, track}, corners, look);
+    const RECT filled{bar.left, bar.top, std::min(filledTo, bar.right), bar.bottom};
+    PaintFace(dc, filled, {0, 0, fill, fill, fill, fill}, corners, look);
+}
+
+} // namespace
+
+void PaintSliderChannel(HDC dc, const RECT& rect, LONG filledTo, bool isDisabled, const Look& look) {
+    if (look.skin.isFlat) {
+        PaintFlatChannel(dc, rect, filledTo, isDisabled, look);
+        return;
+    }
     RECT area = rect;
     const LONG extra = (rect.bottom - rect.top - 2 * look.Line()) / 2;
     area.top += std::max<LONG>(extra, 0);
@@ -236,6 +306,12 @@ void PaintSliderChannel(HDC dc, const RECT& rect, const Look& look) {
 }
 
 void PaintSliderThumb(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
+    if (look.skin.isFlat) {
+        const int side = look.Px(14);
+        const LONG left = (rect.left + rect.right - side) / 2, top = (rect.top + rect.bottom - side) / 2;
+        PaintDisc(dc, {left, top, left + side, top + side}, KnobFaceFor(look.skin, state), look);
+        return;
+    }
     const Canvas canvas(dc, rect);
     if (canvas.IsEmpty()) {
         return;
@@ -264,7 +340,11 @@ void PaintZoomButton(HDC dc, const RECT& rect, bool isPlus, const ElementState& 
     const LONG side = std::min(rect.right - rect.left, rect.bottom - rect.top);
     const LONG left = (rect.left + rect.right - side) / 2, top = (rect.top + rect.bottom - side) / 2;
     const RECT disc{left, top, left + side, top + side};
-    PaintDisc(dc, disc, KnobFaceFor(look.skin, state), look);
+    if (!look.skin.isFlat) {
+        PaintDisc(dc, disc, KnobFaceFor(look.skin, state), look);
+    } else if (const Face* const face = ButtonFaceFor(look.skin, state)) {
+        PaintFace(dc, disc, *face, Corners::All(look.Radius()), look);
+    }
     PaintSign(dc, disc, isPlus, look.skin[state.isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], look);
 }
 
@@ -272,8 +352,8 @@ void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state,
     const Face& face = look.skin[state.isPressed || state.isDropped ? FaceSlot::AppButtonPressed
                                  : state.isHot                      ? FaceSlot::AppButtonHot
                                                                     : FaceSlot::AppButton];
-    if (!IsNearlySquare(rect)) {
-        PaintFace(dc, rect, face, Corners::Top(look.Radius()), look);
+    if (look.skin.isFlat || !IsNearlySquare(rect)) {
+        PaintFace(dc, rect, face, look.skin.isFlat ? Corners::All(look.Radius()) : Corners::Top(look.Radius()), look);
         return;
     }
     const Canvas canvas(dc, rect);
@@ -293,11 +373,14 @@ void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state,
 }
 
 void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look) {
+    const Face& face = look.skin[isActive ? FaceSlot::CaptionActive : FaceSlot::CaptionInactive];
+    if (PaintPlate(dc, rect, face.plate, PlatePlace::Alone, look)) {
+        return;
+    }
     const Canvas canvas(dc, rect);
     if (canvas.IsEmpty()) {
         return;
     }
-    const Face& face = look.skin[isActive ? FaceSlot::CaptionActive : FaceSlot::CaptionInactive];
     fx::Rect whole = canvas.Local(rect);
     FillRounded(canvas.View(), whole, {}, StopsOf(face, look.skin.split));
     const fx::Rect light{whole.left, whole.top, whole.right, whole.top + look.Line()};
@@ -369,6 +452,13 @@ void PaintContextCaption(HDC dc, const RECT& rect, Argb tint, const Look& look) 
     }
     const fx::Rect whole = canvas.Local(rect);
     const int line = look.Line();
+    if (look.skin.isFlat) {
+        const Argb wash = WithAlpha(tint, 40);
+        FillRounded(canvas.View(), whole, {}, {wash, wash, wash, wash, 50});
+        FillRounded(canvas.View(), {whole.left, whole.top, whole.right, whole.top + 2 * line}, {},
+                    {tint, tint, tint, tint, 50});
+        return;
+    }
     FillRounded(canvas.View(), whole, {},
                 {WithAlpha(tint, 30), WithAlpha(tint, 90), WithAlpha(tint, 90), WithAlpha(tint, 170), 40});
     const FourStops side{WithAlpha(tint, 0), WithAlpha(tint, 230), WithAlpha(tint, 230), WithAlpha(tint, 230), 60};
@@ -406,11 +496,15 @@ void PaintMainPanelFrame(HDC dc, const RECT& rect, const RECT& content, const Lo
 }
 
 void PaintStatusBar(HDC dc, const RECT& rect, const Look& look) {
+    const Face& face = look.skin[FaceSlot::StatusBar];
+    if (PaintPlate(dc, rect, face.plate, PlatePlace::StatusBar, look)) {
+        PaintSolid(dc, {rect.left, rect.top, rect.right, rect.top + look.Line()}, face.outer);
+        return;
+    }
     const Canvas canvas(dc, rect);
     if (canvas.IsEmpty()) {
         return;
     }
-    const Face& face = look.skin[FaceSlot::StatusBar];
     const fx::Rect whole = canvas.Local(rect);
     const int line = look.Line();
     FillRounded(canvas.View(), whole, {}, StopsOf(face, look.skin.split));

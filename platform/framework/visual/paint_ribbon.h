@@ -15,6 +15,8 @@ struct TabState {
 
 /// Row of tabs and whatever of the bar nothing else covers.
 void PaintRibbonBackground(HDC dc, const RECT& rect, const Look& look);
+/// The same with the skin's picture of the row of tabs over it.
+void PaintTabRow(HDC dc, const RECT& rect, const Look& look);
 /// Corner radius of the tabs and of the category below them.
 void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look);
 Argb TabTextColor(const TabState& state, const Skin& skin);
@@ -36,13 +38,15 @@ struct ButtonParts {
     bool isCommandHot = false;
     bool isMenuHot = false;
     GroupPlace place = GroupPlace::Alone;
+    bool isOnStatusBar = false;
 };
 void PaintButton(HDC dc, const ButtonParts& parts, const ElementState& state, const Look& look);
 void PaintGroup(HDC dc, const RECT& rect, const Look& look);
 
 void PaintEdit(HDC dc, const RECT& rect, const ElementState& state, const Look& look);
 
-void PaintSliderChannel(HDC dc, const RECT& rect, const Look& look);
+/// filledTo: the channel is filled from its left end to here, where the skin shows that.
+void PaintSliderChannel(HDC dc, const RECT& rect, LONG filledTo, bool isDisabled, const Look& look);
 void PaintSliderThumb(HDC dc, const RECT& rect, const ElementState& state, const Look& look);
 void PaintZoomButton(HDC dc, const RECT& rect, bool isPlus, const ElementState& state, const Look& look);
 

@@ -45,21 +45,6 @@ double EllipseCoverage(const fx::Rect& rect, int x, int y, double inset) {
 
 } // namespace
 
-Argb Mix(Argb from, Argb to, int part, int whole) {
-    if (whole <= 0 || part <= 0) {
-        return from;
-    }
-    if (part >= whole) {
-        return to;
-    }
-    const auto channel = [&](unsigned a, unsigned b) {
-        return static_cast<unsigned>((static_cast<int>(a) * (whole - part) + static_cast<int>(b) * part + whole / 2) /
-                                     whole);
-    };
-    return MakeArgb(channel(AlphaOf(from), AlphaOf(to)), channel(RedOf(from), RedOf(to)),
-                    channel(GreenOf(from), GreenOf(to)), channel(BlueOf(from), BlueOf(to)));
-}
-
 Corners Corners::Deflated(int by) const {
     return {std::max(topLeft - by, 0), std::max(topRight - by, 0), std::max(bottomRight - by, 0),
             std::max(bottomLeft - by, 0)};
@@ -298,6 +283,51 @@ void PreMultiply(const PixelView& view, bool onlyIfNeeded) {
 bool HasAlpha(const PixelView& view) {
     const std::span pixels(view.bits, static_cast<std::size_t>(view.width) * view.height);
     return std::ranges::any_of(pixels, [](std::uint32_t pixel) { return AlphaOf(pixel) != 0; });
+}
+
+namespace {
+
+/// Which column (or row) of a stretched picture shows at a place of the target. The margins at both ends come as they
+/// are, of narrow targets their outer parts.
+int SliceSource(int at, int target, int source, int first, int last) {
+    if (first + last > target) {
+        first = target * first / std::max(first + last, 1);
+        last = target - first;
+    }
+    if (at < first) {
+        return at;
+    }
+    if (at >= target - last) {
+        return source - (target - at);
+    }
+    const int middle = std::max(source - first - last, 1);
+    return first + (at - first) * middle / std::max(target - first - last, 1);
+}
+
+void BlendMultiplied(std::uint32_t& target, std::uint32_t source) {
+    const unsigned rest = 255 - AlphaOf(source);
+    const auto channel = [rest](unsigned over, unsigned below) { return over + (below * rest + 127) / 255; };
+    target = MakeArgb(channel(AlphaOf(source), AlphaOf(target)), channel(RedOf(source), RedOf(target)),
+                      channel(GreenOf(source), GreenOf(target)), channel(BlueOf(source), BlueOf(target)));
+}
+
+} // namespace
+
+void FillSlices(const PixelView& view, const fx::Rect& rect, std::span<const std::uint32_t> picture, int width,
+                const SliceMargins& margins) {
+    if (width <= 0 || picture.size() < static_cast<std::size_t>(width)) {
+        return;
+    }
+    const int height = static_cast<int>(picture.size()) / width;
+    const fx::Rect inside{std::max(rect.left, 0), std::max(rect.top, 0), std::min(rect.right, view.width),
+                         std::min(rect.bottom, view.height)};
+    for (int y = inside.top; y < inside.bottom; ++y) {
+        const int row = SliceSource(y - rect.top, rect.Height(), height, margins.top, margins.bottom);
+        for (int x = inside.left; x < inside.right; ++x) {
+            const int column = SliceSource(x - rect.left, rect.Width(), width, margins.left, margins.right);
+            BlendMultiplied(view.At(x, y), picture[static_cast<std::size_t>(row) * width + column]);
+        }
+    }
 }
 
 } // namespace visual

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fx/argb.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -8,21 +10,6 @@
 
 // Drawing on rows of 32-bit pixels with smooth edges. Knows no window system, so that it is tested on any machine.
 namespace visual {
-
-/// 0xAARRGGBB, colour not multiplied by alpha.
-using Argb = std::uint32_t;
-
-constexpr Argb WithAlpha(Argb color, unsigned alpha) { return (color & 0xFFFFFFu) | (alpha << 24); }
-constexpr unsigned AlphaOf(Argb color) { return color >> 24; }
-constexpr unsigned RedOf(Argb color) { return color >> 16 & 0xFF; }
-constexpr unsigned GreenOf(Argb color) { return color >> 8 & 0xFF; }
-constexpr unsigned BlueOf(Argb color) { return color & 0xFF; }
-constexpr Argb MakeArgb(unsigned alpha, unsigned red, unsigned green, unsigned blue) {
-    return alpha << 24 | red << 16 | green << 8 | blue;
-}
-
-/// The colour at part/whole of the way from one to the other, channel by channel, alpha too.
-Argb Mix(Argb from, Argb to, int part, int whole);
 
 /// Pixels multiplied by alpha, row 0 on top. Does not own them.
 struct PixelView {
@@ -72,6 +59,14 @@ void FillPolygon(const PixelView& view, std::span<const PointF> points, Argb col
 /// A ring or, thickness 0, a disc inside the rectangle, vertical gradient.
 void FillEllipse(const PixelView& view, const fx::Rect& rect, const FourStops& stops);
 void StrokeEllipse(const PixelView& view, const fx::Rect& rect, Argb color, double thickness);
+
+/// The picture stretched over the rectangle; the margins, in pixels, keep their size. Both multiplied pixels; a
+/// rectangle smaller than two margins gets the outermost part of each.
+struct SliceMargins {
+    int left = 0, top = 0, right = 0, bottom = 0;
+};
+void FillSlices(const PixelView& view, const fx::Rect& rect, std::span<const std::uint32_t> picture, int width,
+                const SliceMargins& margins);
 
 /// Grey of the same lightness with less contrast, drawn towards middle light; keeps alpha. Multiplied pixels.
 std::uint32_t DisabledPixel(std::uint32_t pixel);

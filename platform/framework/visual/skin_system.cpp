@@ -1,4 +1,3 @@
-#include "visual/contrast.h"
 #include "visual/skin.h"
 
 namespace visual {
@@ -19,20 +18,22 @@ struct Highlights {
 void SetHighlights(Skin& skin, const Highlights& h) {
     skin[FaceSlot::ButtonHot] = skin[FaceSlot::MenuItemHot] = skin[FaceSlot::KnobHot] = Flat(h.border, h.hot);
     skin[FaceSlot::ButtonPressed] = skin[FaceSlot::KnobPressed] = Flat(h.border, h.pressed);
-    skin[FaceSlot::ButtonChecked] = skin[FaceSlot::MenuCheck] = Flat(h.border, h.checked);
+    skin[FaceSlot::ButtonChecked] = skin[FaceSlot::MenuCheck] = skin[FaceSlot::MenuCheckHot] =
+        Flat(h.border, h.checked);
     skin[FaceSlot::ButtonCheckedHot] = Flat(h.border, h.checkedHot);
     skin[FaceSlot::AppButtonHot] = skin[FaceSlot::CheckBoxHot] = skin[FaceSlot::CaptionButtonHot] =
-        skin[FaceSlot::DefaultPaneHot] = Flat(h.border, h.hot);
+        skin[FaceSlot::DefaultPaneHot] = skin[FaceSlot::DropButtonHot] = Flat(h.border, h.hot);
     skin[FaceSlot::AppButtonPressed] = skin[FaceSlot::CheckBoxPressed] = skin[FaceSlot::CaptionButtonPressed] =
-        skin[FaceSlot::DefaultPanePressed] = Flat(h.border, h.pressed);
+        skin[FaceSlot::DefaultPanePressed] = skin[FaceSlot::DropButtonPressed] = Flat(h.border, h.pressed);
     skin[FaceSlot::ProgressChunk] = Flat(0, h.border);
 }
 
 void SetFaces(Skin& skin, const SystemColors& c) {
     const Argb pale = Mix(c.face, c.window, 1, 2);
-    for (const FaceSlot slot : {FaceSlot::RibbonCategory, FaceSlot::RibbonPanel, FaceSlot::DefaultPane, FaceSlot::Group,
-                                FaceSlot::CategoryScroll, FaceSlot::AppButton, FaceSlot::Knob, FaceSlot::StatusBar,
-                                FaceSlot::ToolBar, FaceSlot::MainPanelFrame, FaceSlot::DocumentTab}) {
+    for (const FaceSlot slot :
+         {FaceSlot::RibbonCategory, FaceSlot::RibbonPanel, FaceSlot::DefaultPane, FaceSlot::Group,
+          FaceSlot::CategoryScroll, FaceSlot::AppButton, FaceSlot::Knob, FaceSlot::StatusBar, FaceSlot::ToolBar,
+          FaceSlot::MainPanelFrame, FaceSlot::DocumentTab, FaceSlot::DropButton}) {
         skin[slot] = Flat(c.shadow, c.face);
     }
     skin[FaceSlot::RibbonPanelHot] = skin[FaceSlot::ButtonPale] = skin[FaceSlot::KeyTip] = Flat(c.shadow, pale);
@@ -54,7 +55,7 @@ void SetFaces(Skin& skin, const SystemColors& c) {
 void SetDisabled(Skin& skin, Argb grey) {
     for (const ColorSlot slot : {ColorSlot::RibbonTextDisabled, ColorSlot::QatTextDisabled, ColorSlot::MenuTextDisabled,
                                  ColorSlot::StatusTextDisabled, ColorSlot::ToolbarTextDisabled,
-                                 ColorSlot::EditTextDisabled, ColorSlot::GlyphDisabled}) {
+                                 ColorSlot::EditTextDisabled, ColorSlot::GlyphDisabled, ColorSlot::DropArrowDisabled}) {
         skin[slot] = grey;
     }
 }
@@ -63,13 +64,15 @@ void SetColors(Skin& skin, const SystemColors& c) {
     for (std::size_t i = 0; i < g_colorCount; ++i) {
         skin[static_cast<ColorSlot>(i)] = c.text;
     }
-    for (const ColorSlot slot : {ColorSlot::RibbonTop, ColorSlot::RibbonBottom, ColorSlot::BarBackground,
-                                 ColorSlot::DividerFill, ColorSlot::PopupFill, ColorSlot::MenuGutter}) {
+    for (const ColorSlot slot :
+         {ColorSlot::RibbonTop, ColorSlot::RibbonBottom, ColorSlot::BarBackground, ColorSlot::DividerFill,
+          ColorSlot::PopupFill, ColorSlot::MenuGutter, ColorSlot::TabsArea, ColorSlot::TabsButton}) {
         skin[slot] = c.face;
     }
-    for (const ColorSlot slot : {ColorSlot::SeparatorDark, ColorSlot::MenuGutterLine, ColorSlot::MenuBorder,
-                                 ColorSlot::MenuSeparator, ColorSlot::StatusSeparatorDark, ColorSlot::GripperDark,
-                                 ColorSlot::SliderTrackDark, ColorSlot::PaneBorder, ColorSlot::FrameBorder}) {
+    for (const ColorSlot slot :
+         {ColorSlot::SeparatorDark, ColorSlot::MenuGutterLine, ColorSlot::MenuBorder, ColorSlot::MenuSeparator,
+          ColorSlot::StatusSeparatorDark, ColorSlot::GripperDark, ColorSlot::SliderTrackDark, ColorSlot::PaneBorder,
+          ColorSlot::FrameBorder, ColorSlot::TabsAreaLine}) {
         skin[slot] = c.shadow;
     }
     for (const ColorSlot slot :
@@ -84,10 +87,11 @@ void SetColors(Skin& skin, const SystemColors& c) {
     skin[ColorSlot::CaptionText] = skin[ColorSlot::PaneCaptionTextActive] = c.captionText;
     skin[ColorSlot::CaptionTextInactive] = c.inactiveCaptionText;
     skin[ColorSlot::EditText] = c.windowText;
-    skin[ColorSlot::EditSelection] = c.selection;
+    skin[ColorSlot::EditSelection] = skin[ColorSlot::Accent] = c.selection;
     skin[ColorSlot::EditSelectionText] = c.selectionText;
     skin[ColorSlot::Hyperlink] = c.hotLink;
     skin[ColorSlot::TooltipText] = c.tipText;
+    skin[ColorSlot::TabsFrame] = c.window;
     skin[ColorSlot::MdiBackground] = c.workspace;
 }
 
@@ -118,11 +122,12 @@ Skin MakeGradientSkin(const SystemColors& colors, Argb base) {
     const Argb light = Mix(base, 0xFFFFFFFF, 8, 10), dark = Mix(base, 0xFFFFFFFF, 5, 10);
     for (const FaceSlot slot : {FaceSlot::ToolBar, FaceSlot::StatusBar, FaceSlot::RibbonCategory, FaceSlot::DefaultPane,
                                 FaceSlot::PaneCaption, FaceSlot::DocumentTab, FaceSlot::MainPanelFrame,
-                                FaceSlot::CaptionActive, FaceSlot::Group}) {
+                                FaceSlot::CaptionActive, FaceSlot::Group, FaceSlot::DropButton}) {
         skin[slot] = Shaded(Mix(base, 0xFFFFFFFF, 2, 10), light, dark);
     }
-    for (const ColorSlot slot : {ColorSlot::RibbonTop, ColorSlot::RibbonBottom, ColorSlot::BarBackground,
-                                 ColorSlot::DividerFill, ColorSlot::MenuGutter}) {
+    for (const ColorSlot slot :
+         {ColorSlot::RibbonTop, ColorSlot::RibbonBottom, ColorSlot::BarBackground, ColorSlot::DividerFill,
+          ColorSlot::MenuGutter, ColorSlot::TabsArea, ColorSlot::TabsButton}) {
         skin[slot] = Mix(base, 0xFFFFFFFF, 6, 10);
     }
     skin[ColorSlot::SeparatorDark] = skin[ColorSlot::GripperDark] = Mix(base, 0xFFFFFFFF, 2, 10);

@@ -1,4 +1,3 @@
-#include "visual/contrast.h"
 #include "visual/skin_table.h"
 
 #include <gtest/gtest.h>
@@ -9,12 +8,6 @@
 using namespace visual;
 
 namespace {
-
-/// The colour of a face where another one lies below it.
-Argb Over(Argb color, Argb below) {
-    const int alpha = static_cast<int>(AlphaOf(color));
-    return WithAlpha(Mix(below, WithAlpha(color, 255), alpha, 255), 255);
-}
 
 /// All colours that the face has, over those of the category where it lets them through.
 std::vector<Argb> GroundsOf(const Skin& skin, FaceSlot slot) {
