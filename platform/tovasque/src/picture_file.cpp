@@ -1,0 +1,134 @@
+#include "src/picture_file.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <gdiplus.h>
+#include <memory>
+#include <shlwapi.h>
+
+namespace tovasque {
+
+namespace {
+
+constexpr std::size_t kMostBytes = std::size_t(4) << 20; // far beyond any picture of the permitted size
+constexpr std::array<unsigned char, 8> kSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+constexpr std::size_t kWidthAt = 16, kHeightAt = 20, kHeaderEnd = 33;
+constexpr std::size_t kEndChunk = 12; // length, name and checksum of the chunk that closes a file
+
+/// GDI+ stays started: it must not be shut down while the process unloads its DLLs.
+bool StartGdiPlus() {
+    static const bool isStarted = [] {
+        ULONG_PTR token = 0;
+        const Gdiplus::GdiplusStartupInput input;
+        return Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok;
+    }();
+    return isStarted;
+}
+
+struct FileCloser {
+    void operator()(HANDLE file) const { ::CloseHandle(file); }
+};
+
+struct StreamReleaser {
+    void operator()(IStream* stream) const { stream->Release(); }
+};
+
+std::vector<unsigned char> ReadBytes(const std::wstring& path) {
+    const HANDLE opened = ::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) {
+        return {};
+    }
+    const std::unique_ptr<void, FileCloser> file(opened);
+    LARGE_INTEGER size{};
+    if (!::GetFileSizeEx(file.get(), &size) || size.QuadPart <= 0 ||
+        static_cast<std::uint64_t>(size.QuadPart) > kMostBytes) {
+        return {};
+    }
+    std::vector<unsigned char> bytes(static_cast<std::size_t>(size.QuadPart));
+    DWORD read = 0;
+    if (!::ReadFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr) ||
+        read != bytes.size()) {
+        return {};
+    }
+    return bytes;
+}
+
+std::uint32_t BigEndian(const std::vector<unsigned char>& bytes, std::size_t at) {
+    return std::uint32_t(bytes[at]) << 24 | std::uint32_t(bytes[at + 1]) << 16 | std::uint32_t(bytes[at + 2]) << 8 |
+           bytes[at + 3];
+}
+
+Pixels Decode(Gdiplus::Bitmap& source) {
+    const int width = static_cast<int>(source.GetWidth()), height = static_cast<int>(source.GetHeight());
+    Gdiplus::BitmapData data;
+    const Gdiplus::Rect whole(0, 0, width, height);
+    if (source.GetLastStatus() != Gdiplus::Ok || width <= 0 || height <= 0 ||
+        source.LockBits(&whole, Gdiplus::ImageLockModeRead, PixelFormat32bppPARGB, &data) != Gdiplus::Ok) {
+        return {};
+    }
+    Pixels pixels{{}, width, height};
+    pixels.bits.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        std::memcpy(pixels.bits.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width),
+                    static_cast<const BYTE*>(data.Scan0) + static_cast<std::ptrdiff_t>(y) * data.Stride,
+                    static_cast<std::size_t>(width) * sizeof(std::uint32_t));
+    }
+    source.UnlockBits(&data);
+    return pixels;
+}
+
+} // namespace
+
+bool ReadPngSize(const std::vector<unsigned char>& file, int& width, int& height) {
+    if (file.size() < kHeaderEnd + kEndChunk || !std::equal(kSignature.begin(), kSignature.end(), file.begin()) ||
+        std::memcmp(file.data() + file.size() - kEndChunk + 4, "IEND", 4) != 0) {
+        return false;
+    }
+    const std::uint32_t across = BigEndian(file, kWidthAt), down = BigEndian(file, kHeightAt);
+    if (across == 0 || down == 0 || across > kMostPixelsASide || down > kMostPixelsASide) {
+        return false;
+    }
+    width = static_cast<int>(across);
+    height = static_cast<int>(down);
+    return true;
+}
+
+Pixels ReadPngFile(const std::wstring& path) {
+    const std::vector<unsigned char> bytes = ReadBytes(path);
+    int width = 0, height = 0;
+    if (!ReadPngSize(bytes, width, height) || !StartGdiPlus()) {
+        return {};
+    }
+    const std::unique_ptr<IStream, StreamReleaser> stream(
+        ::SHCreateMemStream(bytes.data(), static_cast<UINT>(bytes.size())));
+    if (stream == nullptr) {
+        return {};
+    }
+    Gdiplus::Bitmap source(stream.get());
+    Pixels pixels = Decode(source);
+    return pixels.width == width && pixels.height == height ? pixels : Pixels{};
+}
+
+Pixels Scaled(const Pixels& picture, int width, int height) {
+    if (picture.IsEmpty() || width <= 0 || height <= 0 || !StartGdiPlus()) {
+        return {};
+    }
+    std::vector<std::uint32_t> bits = picture.bits; // GDI+ wants them writable
+    Gdiplus::Bitmap source(picture.width, picture.height, picture.width * 4, PixelFormat32bppPARGB,
+                           reinterpret_cast<BYTE*>(bits.data()));
+    Gdiplus::Bitmap target(width, height, PixelFormat32bppPARGB);
+    Gdiplus::Graphics graphics(&target);
+    graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
+    graphics.SetPixelOffsetMode(Gdiplus::PixelOffsetModeHalf);
+    Gdiplus::ImageAttributes edges;
+    edges.SetWrapMode(Gdiplus::WrapModeTileFlipXY);
+    graphics.DrawImage(&source, Gdiplus::Rect(0, 0, width, height), 0, 0, picture.width, picture.height,
+                       Gdiplus::UnitPixel, &edges);
+    return Decode(target);
+}
+
+} // namespace tovasque
