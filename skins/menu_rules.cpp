@@ -1,0 +1,60 @@
+#include "skins/menu_rules.h"
+
+#include <algorithm>
+
+namespace skins {
+
+namespace {
+constexpr int kNearEdge = 50; // a gap narrower than this is closed
+constexpr int kLessAbove = 3, kLessBelow = 4;
+constexpr int kShortening = 5; // one part of so many at each end
+} // namespace
+
+CRect MenuSeparatorRect(const MenuSeparatorPlace& place) {
+    CRect line = place.rect;
+    if (!place.hasImageColumn) {
+        line.left = 0;
+    } else if (place.isInPopup) {
+        line.left += 3 * place.imageMargin + 2 * place.imageWidth + 2;
+    } else {
+        line.left += place.imageWidth + place.imageMargin + 1;
+    }
+    if (place.clientRight - line.right < kNearEdge) {
+        line.right = place.clientRight;
+    }
+    line.top += kLessAbove;
+    line.bottom -= kLessBelow;
+    return line;
+}
+
+CRect ToolBarSeparatorRect(const CRect& rect, BOOL horizontal) {
+    CRect line = rect;
+    if (horizontal) {
+        line.DeflateRect(0, rect.Height() / kShortening);
+    } else {
+        line.DeflateRect(rect.Width() / kShortening, 0);
+    }
+    return line;
+}
+
+CRect RibbonSeparatorRect(const CRect& rect, int width) {
+    CRect area = rect;
+    area.left = std::min<LONG>(area.left, area.right - width);
+    return area;
+}
+
+COLORREF FlatToolBarColor(CMFCVisualManagerOffice2007::Style style, COLORREF color) {
+    switch (style) {
+    case CMFCVisualManagerOffice2007::Office2007_ObsidianBlack:
+        return RGB(168, 176, 186);
+    case CMFCVisualManagerOffice2007::Office2007_Aqua:
+        return RGB(159, 158, 185);
+    case CMFCVisualManagerOffice2007::Office2007_Silver:
+        return RGB(192, 192, 192);
+    case CMFCVisualManagerOffice2007::Office2007_LunaBlue:
+        break;
+    }
+    return color;
+}
+
+} // namespace skins

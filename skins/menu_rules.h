@@ -1,0 +1,30 @@
+#pragma once
+
+#include <afxvisualmanageroffice2007.h>
+
+// The dark skin's rules of menus and bars, as pure functions. Pixels.
+namespace skins {
+
+/// What a row of a pop-up menu is measured by.
+struct MenuSeparatorPlace {
+    CRect rect;          ///< of the separator as it was laid out
+    int clientRight = 0; ///< of the bar
+    int imageWidth = 0;  ///< of an image in the menu
+    int imageMargin = 0; ///< the manager's, on each side of it
+    bool hasImageColumn = true;
+    bool isInPopup = true; ///< the bar lies in a pop-up menu in its ordinary state
+};
+
+/// The line between a menu's rows: it begins behind the column of images and goes to the bar's edge when that is near.
+CRect MenuSeparatorRect(const MenuSeparatorPlace& place);
+
+/// Where the separator of a toolbar is drawn: shortened by a fifth at each end, across (upright) or along the bar.
+CRect ToolBarSeparatorRect(const CRect& rect, BOOL horizontal);
+
+/// At least as wide as the separator, to the left.
+CRect RibbonSeparatorRect(const CRect& rect, int width);
+
+/// The first fill colour of toolbars that lie flat; `color` where the style keeps its own.
+COLORREF FlatToolBarColor(CMFCVisualManagerOffice2007::Style style, COLORREF color);
+
+} // namespace skins
