@@ -11,6 +11,7 @@
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "screenshot.h"
+#include "skin_visual_managers.h"
 
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"
@@ -34,10 +35,12 @@ constexpr wchar_t kRibbonFile[] = L"cfg\\ribbon.xml";
 
 struct Skin {
     const wchar_t* name;
-    CMFCVisualManagerOffice2007::Style style;
+    CRuntimeClass* (*manager)();
+    const wchar_t* iconStyle; ///< "0": light icons for dark ground
 };
-constexpr std::array<Skin, 2> kSkins = {{{L"silver", CMFCVisualManagerOffice2007::Office2007_Silver},
-                                         {L"black", CMFCVisualManagerOffice2007::Office2007_ObsidianBlack}}};
+constexpr std::array<Skin, 2> kSkins = {
+    {{L"silver", [] { return RUNTIME_CLASS(CQKVisualManagerOffice2007Silver); }, L"1"},
+     {L"black", [] { return RUNTIME_CLASS(CQKVisualManagerOffice2007Black); }, L"0"}}};
 
 std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "Viewer"); }
 
@@ -238,10 +241,11 @@ LRESULT CMainFrame::OnLabelClicked(WPARAM label, LPARAM) {
 void CMainFrame::ApplySkin() {
     for (const Skin& skin : kSkins) {
         if (m_skin == skin.name) {
-            CMFCVisualManagerOffice2007::SetStyle(skin.style);
+            m_iconStyle = skin.iconStyle;
+            CMFCRibbonUNIcoButton::SetSkinStyle(skin.iconStyle);
+            CMFCVisualManager::SetDefaultManager(skin.manager());
         }
     }
-    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
 }
 
 void CMainFrame::ApplyTexts() {

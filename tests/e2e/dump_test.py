@@ -14,7 +14,7 @@ from configuration import Expectation
 from viewer import ROOT
 
 BIN_DIR = ""
-DUMP_KEYS = ["nextCommandId", "registry", "ribbon", "menu", "accelerators", "toolbars", "statusExtras", "status"]
+DUMP_KEYS = ["nextCommandId", "registry", "ribbon", "menu", "accelerators", "toolbars", "skin", "statusExtras", "status"]
 
 
 def barview(*arguments):

@@ -125,6 +125,10 @@ class DumpOfTwoFiles(OwnInstallation):
         got = self.dump("--size", "900x300")
         # A button without a tooltip of its own shows its text.
         separator = button("CMFCRibbonSeparator", 0, "", large=True)
+        skin = got.pop("skin")
+        self.assertEqual(skin["manager"], "CQKVisualManagerOffice2007Silver")
+        self.assertEqual(len(skin["colours"]), 38)
+        self.assertEqual(len(skin["images"]), 16)
         self.assertEqual(without_places(got), {
             "nextCommandId": 41003,
             "registry": [

@@ -6,7 +6,9 @@
 #include "command_line.h"
 #include "dyn_menu_creater.h"
 #include "frame_dump.h"
+#include "ribbon_icon_button.h"
 #include "screenshot.h"
+#include "skin_visual_managers.h"
 
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"
@@ -189,10 +191,10 @@ private:
         if (m_options.scalePercent > 0) {
             afxGlobalData.SetRibbonImageScale(m_options.scalePercent / 100.0);
         }
-        CMFCVisualManagerOffice2007::SetStyle(m_options.skin == L"black"
-                                                  ? CMFCVisualManagerOffice2007::Office2007_ObsidianBlack
-                                                  : CMFCVisualManagerOffice2007::Office2007_Silver);
-        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+        const bool isBlack = m_options.skin == L"black";
+        CMFCRibbonUNIcoButton::SetSkinStyle(isBlack ? L"0" : L"1"); // light icons on dark ground
+        CMFCVisualManager::SetDefaultManager(isBlack ? RUNTIME_CLASS(CQKVisualManagerOffice2007Black)
+                                                     : RUNTIME_CLASS(CQKVisualManagerOffice2007Silver));
     }
 
     void WriteOutputs(CPreviewFrame& frame) {

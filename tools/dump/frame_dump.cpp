@@ -9,6 +9,7 @@
 #include "ribbon_label_ex.h"
 #include "ribbon_multi_combo.h"
 
+#include "tovasque/visual_manager_office2007_2.h"
 #include "varnhold/strings.h"
 
 #include <algorithm>
@@ -261,6 +262,23 @@ ordered_json DumpAccelerators(HACCEL table) {
     return accelerators;
 }
 
+// A manager without getters and pictures of its own shows its class alone.
+ordered_json DumpSkin() {
+    CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
+    ordered_json colours = ordered_json::object(), images = ordered_json::array();
+    if (auto* const skin = DYNAMIC_DOWNCAST(CMFCVisualManagerOffice20072, manager)) {
+        for (const tovasque::SkinColor& color : skin->GetSkinColors()) {
+            colours[color.getter] = {GetRValue(color.value), GetGValue(color.value), GetBValue(color.value)};
+        }
+        for (const CString& image : skin->GetSkinImages()) {
+            images.push_back(Utf8(image));
+        }
+    }
+    return {{"manager", manager->GetRuntimeClass()->m_lpszClassName},
+            {"colours", std::move(colours)},
+            {"images", std::move(images)}};
+}
+
 ordered_json DumpRecord(const CAddRibbonBar::_RibbonInfo& record) {
     ordered_json values = ordered_json::array();
     for (const std::wstring& value : record.valueGroup) {
@@ -304,6 +322,7 @@ ordered_json DumpFrame(const DumpSources& sources) {
             {"menu", DumpMenus(sources)},
             {"accelerators", DumpAccelerators(sources.accelerators)},
             {"toolbars", ordered_json::array()},
+            {"skin", DumpSkin()},
             {"statusExtras", DumpStatusExtras()},
             {"status",
              {{"app", Utf8(sources.application)},

@@ -2,6 +2,7 @@
 
 #include "add_ribbon_bar.h"
 #include "menu_id_mgr.h"
+#include "skin_visual_managers.h"
 #include "tests/support/scoped_value.h"
 
 #include <gtest/gtest.h>
@@ -36,9 +37,22 @@ TEST_F(FrameDump, WithoutBarsEveryListIsEmpty) {
         {"menu", ordered_json::array()},
         {"accelerators", ordered_json::array()},
         {"toolbars", ordered_json::array()},
+        {"skin",
+         {{"manager", "CMFCVisualManager"}, {"colours", ordered_json::object()}, {"images", ordered_json::array()}}},
         {"statusExtras", ordered_json::array()},
         {"status", {{"app", "application"}, {"elements", ordered_json::array()}, {"extended", ordered_json::array()}}}};
     EXPECT_EQ(DumpFrame({.application = L"application"}).dump(), expected.dump());
+}
+
+TEST_F(FrameDump, ASkinShowsItsManagerEveryGetterAndItsPictures) {
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CQKVisualManagerOffice2007Silver));
+    const ordered_json skin = DumpFrame({})["skin"];
+    CMFCVisualManager::SetDefaultManager(nullptr);
+    EXPECT_EQ(skin["manager"], "CQKVisualManagerOffice2007Silver");
+    EXPECT_EQ(skin["colours"].size(), 38u);
+    EXPECT_EQ(skin["colours"]["GetPanelTextColor"].dump(), "[34,41,69]");
+    EXPECT_EQ(skin["images"].size(), 16u);
+    EXPECT_EQ(skin["images"][7], "pic\\skin\\silver\\paneldown16.png");
 }
 
 TEST_F(FrameDump, CommandsOfTheHostAreListedUnderAnyIdOfAMessage) {
