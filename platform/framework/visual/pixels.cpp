@@ -320,7 +320,7 @@ void FillSlices(const PixelView& view, const fx::Rect& rect, std::span<const std
     }
     const int height = static_cast<int>(picture.size()) / width;
     const fx::Rect inside{std::max(rect.left, 0), std::max(rect.top, 0), std::min(rect.right, view.width),
-                         std::min(rect.bottom, view.height)};
+                          std::min(rect.bottom, view.height)};
     for (int y = inside.top; y < inside.bottom; ++y) {
         const int row = SliceSource(y - rect.top, rect.Height(), height, margins.top, margins.bottom);
         for (int x = inside.left; x < inside.right; ++x) {
