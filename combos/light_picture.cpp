@@ -14,30 +14,15 @@ struct Color {
     double blue = 0;
 };
 
-Color Mix(const Color& from, const Color& to, double part) {
-    const double p = std::clamp(part, 0.0, 1.0);
-    return {from.red + (to.red - from.red) * p, from.green + (to.green - from.green) * p,
-            from.blue + (to.blue - from.blue) * p};
-}
-
-/// The colours of one state.
+/// The colours of one state: flat, as the icons beside it are. Outline and socket can be seen on the light grounds of
+/// lists in both skins.
 struct Tones {
-    Color shine;   // where the glass mirrors
-    Color middle;  // of the glass
-    Color edge;    // of the glass, inside of its outline
-    Color outline; // of the glass
-    Color socket;
-    Color socketShine;
-    Color socketEdge;
-    Color glow;
-    double glowAlpha = 0;
+    Color glass;
+    Color outline; // of the glass, and the socket
 };
 
-constexpr Tones onTones{{255, 255, 240}, {255, 236, 130}, {255, 190, 40}, {206, 122, 0}, {150, 142, 130},
-                        {206, 200, 190}, {98, 88, 74},    {255, 200, 60}, 0.55};
-constexpr Tones offTones{{252, 253, 255}, {224, 227, 232}, {190, 195, 203},
-                         {124, 130, 140}, {150, 153, 158}, {206, 209, 213},
-                         {96, 100, 106},  {0, 0, 0},       0};
+constexpr Tones onTones{{255, 206, 70}, {122, 80, 0}};
+constexpr Tones offTones{{232, 234, 238}, {80, 86, 96}};
 
 /// The shape for one size, in pixels. Straight edges lie between pixels, so that they are sharp in every size.
 struct Shape {
@@ -49,11 +34,12 @@ struct Shape {
         socketHalf = (width + (side - width) % 2) / 2.0;
         socketBottom = side - std::floor(side * 0.04);
         socketTop = socketBottom - std::max(1.0, std::round(side * 0.27));
-        radius = side * 0.335;
-        glassY = std::max(radius + side * 0.085, socketTop * 0.53);
+        radius = side * 0.37;
+        glassY = std::max(radius + side * 0.05, socketTop * 0.53);
         // The glass narrows from its lower part to the socket.
         neckTop = glassY + radius * 0.62;
-        thread = std::max(2.0, std::round(side * 0.27 / 2.0));
+        gap = std::max(1.0, std::floor(side / 24.0));
+        gapTop = std::max(1.0, std::round((socketBottom - socketTop - gap) / 2.0));
     }
 
     /// Pixels from the glass's edge, negative inside.
@@ -87,7 +73,8 @@ struct Shape {
     double socketHalf = 0;
     double socketTop = 0;
     double socketBottom = 0;
-    double thread = 0; // from one thread of the socket to the next
+    double gapTop = 0; // from the socket's top to the gap between its threads
+    double gap = 0;    // height of the gap
 };
 
 struct Sample {
@@ -95,39 +82,17 @@ struct Sample {
     double alpha = 0;
 };
 
-Sample GlassAt(const Shape& shape, const Tones& tones, double x, double y, double depth) {
-    if (depth < shape.outline) {
-        return {tones.outline, 1};
-    }
-    // Light comes from the upper left.
-    const double fromShine =
-        std::hypot(x - (shape.centerX - shape.radius * 0.3), y - (shape.glassY - shape.radius * 0.35)) / shape.radius;
-    const Color inner = Mix(tones.shine, tones.middle, fromShine / 0.62);
-    return {Mix(inner, tones.edge, (fromShine - 0.62) / 0.75), 1};
-}
-
-Sample SocketAt(const Shape& shape, const Tones& tones, double x, double y, double depth) {
-    const double across = (x - (shape.centerX - shape.socketHalf)) / (2 * shape.socketHalf);
-    const bool isThread = std::fmod(y - shape.socketTop, shape.thread) < 1.0;
-    const Color metal = across < 0.35 ? Mix(tones.socket, tones.socketShine, across / 0.35)
-                                      : Mix(tones.socketShine, tones.socketEdge, (across - 0.35) / 0.65);
-    return {isThread || depth < shape.outline * 0.35 ? Mix(metal, tones.socketEdge, 0.75) : metal, 1};
-}
-
 Sample SampleAt(const Shape& shape, const Tones& tones, double x, double y) {
     const double fromGlass = shape.FromGlass(x, y);
     if (fromGlass <= 0) {
-        return GlassAt(shape, tones, x, y, -fromGlass);
+        return {-fromGlass < shape.outline ? tones.outline : tones.glass, 1};
     }
-    const double fromSocket = shape.FromSocket(x, y);
-    if (fromSocket <= 0) {
-        return SocketAt(shape, tones, x, y, -fromSocket);
+    if (shape.FromSocket(x, y) <= 0) {
+        // A line of ground between the threads.
+        const bool isGap = y - shape.socketTop >= shape.gapTop && y - shape.socketTop < shape.gapTop + shape.gap;
+        return {tones.outline, isGap ? 0.0 : 1.0};
     }
-    // The glow ends at the picture's side.
-    const double reach = shape.size / 2.0 - shape.radius;
-    const double fromBall = std::hypot(x - shape.centerX, y - shape.glassY) - shape.radius;
-    const double left = std::clamp(1 - fromBall / reach, 0.0, 1.0);
-    return {tones.glow, tones.glowAlpha * left * left};
+    return {};
 }
 
 std::uint32_t Byte(double value) { return static_cast<std::uint32_t>(std::clamp(value, 0.0, 255.0) + 0.5); }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 
 namespace {
@@ -45,14 +46,41 @@ TEST(LightPicture, IsWarmWhenOnAndGreyWhenOff) {
     }
 }
 
-TEST(LightPicture, GlowsRoundTheGlassWhenOnOnly) {
+TEST(LightPicture, IsFlatWithNothingRoundTheGlass) {
     for (const int side : sides) {
-        const int row = side * 2 / 5;
-        const Pixel on = At(DrawLightPicture(side, LightState::On), side, 1, row);
-        EXPECT_GT(on.alpha, 0) << side;
-        EXPECT_LT(on.alpha, 255) << side;
-        EXPECT_GT(on.red, on.blue + 100) << side;
-        EXPECT_EQ(At(DrawLightPicture(side, LightState::Off), side, 1, row).alpha, 0) << side;
+        for (const LightState state : {LightState::On, LightState::Off}) {
+            const std::vector<std::uint32_t> picture = DrawLightPicture(side, state);
+            EXPECT_EQ(At(picture, side, 0, side * 2 / 5).alpha, 0) << side;
+            const std::uint32_t glass = picture[static_cast<std::size_t>(side / 3 * side + side / 2)];
+            int alike = 0;
+            for (const std::uint32_t pixel : picture) {
+                alike += pixel == glass ? 1 : 0;
+            }
+            // A glass of one colour is a fifth of the square even where the outline is thick.
+            EXPECT_GT(alike, side * side / 7) << side;
+        }
+    }
+}
+
+double Luminance(const Pixel& pixel) {
+    const auto linear = [](int value) {
+        const double share = value / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(pixel.red) + 0.7152 * linear(pixel.green) + 0.0722 * linear(pixel.blue);
+}
+
+TEST(LightPicture, ItsOutlineHasThreeToOneOnTheGroundsOfLists) {
+    const Pixel grounds[] = {{255, 167, 170, 180}, {255, 242, 242, 246}, {255, 255, 255, 255}};
+    for (const LightState state : {LightState::On, LightState::Off}) {
+        constexpr int side = 32;
+        const std::vector<std::uint32_t> picture = DrawLightPicture(side, state);
+        // The socket's upper part is of the outline's colour.
+        const Pixel outline = At(picture, side, side / 2, side * 23 / 32);
+        ASSERT_EQ(outline.alpha, 255);
+        for (const Pixel& ground : grounds) {
+            EXPECT_GE((Luminance(ground) + 0.05) / (Luminance(outline) + 0.05), 3.0);
+        }
     }
 }
 
