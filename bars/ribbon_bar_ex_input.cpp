@@ -157,6 +157,7 @@ BOOL CMFCRibbonBarEx::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) 
         return TRUE;
     }
     m_tipText = tip;
+    RestoreTooltipColors();
     if (auto* const tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, control); tooltip != nullptr) {
         auto* const button = DYNAMIC_DOWNCAST(CMFCRibbonButton, element);
         tooltip->SetHotRibbonButton(button != nullptr && button->IsDrawTooltipImage() ? button : nullptr);

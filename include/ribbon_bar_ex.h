@@ -53,6 +53,10 @@ public:
     /// Nonzero: and it must be enabled.
     CMFCRibbonBaseElement* GetCursonOn(int mustBeEnabled);
 
+    /// Brings a skin into force in the whole program: 1 is silver, any other number black. The flag is kept with the
+    /// skin's visual manager, for the host. Windows are drawn again at once, so the host may end the bar meanwhile.
+    void ChangeSkinColor(int nStyle, BOOL bFlag) override;
+
     /// Shows the host's menu (setHMenu) at a point of the screen and returns when it has closed. What was chosen is
     /// posted to the main window as a command, 0 when nothing was. Then the element, where the menu was raised on one
     /// of the bar, gives notice of its own command. Always FALSE. The host may end the bar meanwhile.
@@ -75,6 +79,8 @@ private:
 
     void RememberActiveCategory();
     void ShowQuickAccess(const std::wstring& path);
+    /// The black skin's tooltips, after something else has changed their colours.
+    void RestoreTooltipColors() const;
     CString TipOf(CMFCRibbonBaseElement& element) const;
 
     std::wstring m_strCurPath;

@@ -2,6 +2,8 @@
 
 #include "tests/support/command_list.h"
 
+#include <fx/registered_messages.h>
+
 #include <stdexcept>
 #include <utility>
 
@@ -32,6 +34,10 @@ LRESULT ExtendedBarFrame::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == kAction) {
         const auto action = std::exchange(onAction, nullptr);
         action();
+        return 0;
+    }
+    if (message == AFX_WM_CHANGEVISUALMANAGER && onManagerChanged) {
+        std::exchange(onManagerChanged, nullptr)();
         return 0;
     }
     if (message != WM_COMMAND) {

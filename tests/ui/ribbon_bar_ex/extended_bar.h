@@ -59,7 +59,8 @@ public:
     std::vector<SentCommand> commands;
     std::function<void(const SentCommand&)> onCommand; ///< After it was noted; may destroy the frame.
     std::function<void()> onAction;                    ///< Run by kAction.
-    std::function<void()> onPopupClosed;               ///< May destroy the frame.
+    std::function<void()> onPopupClosed;               ///< Once; may destroy the frame.
+    std::function<void()> onManagerChanged;            ///< Once; may destroy the frame.
 
     /// Posted, to have something done while a menu is open.
     static constexpr UINT kAction = WM_APP + 77;
