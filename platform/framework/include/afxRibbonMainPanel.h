@@ -29,7 +29,6 @@ public:
 /// by CMFCRibbonBar::AddMainCategory; shown by the application button. Owns its elements.
 class FRAMEWORK_API CMFCRibbonMainPanel : public CMFCRibbonPanel {
     DECLARE_DYNCREATE(CMFCRibbonMainPanel)
-    friend class CMFCRibbonBar;
 
 public:
     CMFCRibbonMainPanel();

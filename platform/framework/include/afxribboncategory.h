@@ -154,6 +154,17 @@ public:
     /// The pop-up that shows the category; NULL when the bar does.
     void SetParentMenuBar(CMFCRibbonPanelMenuBar* pMenuBar) { m_pParentMenuBar = pMenuBar; }
     void SetRect(const CRect& rect) { m_rect = rect; }
+    /// What AddCategory was given, for an object that was created dynamically. Once, before anything else.
+    void CommonInit(CMFCRibbonBar* pParentRibbonBar = NULL, LPCTSTR lpszName = NULL, UINT uiSmallImagesResID = 0,
+                    UINT uiLargeImagesResID = 0, CSize sizeSmallImage = CSize(16, 16),
+                    CSize sizeLargeImage = CSize(32, 32));
+    /// The bar's part of activating, showing and placing: hosts call the bar's functions, which see to the rest.
+    virtual void SetActive(BOOL bIsActive = TRUE);
+    void SetVisible(BOOL bIsVisible) { m_bIsVisible = bIsVisible; }
+    /// 0: a category of no context.
+    void SetContextID(UINT uiContextID) { m_uiContextID = uiContextID; }
+    /// Panels are measured only where something has changed since the last time.
+    void PlaceAt(const CRect& rect, CDC* pDC);
     void HideElements(CDC* pDC);
     /// The panels are measured anew with the next layout.
     void MarkLayoutDirty() override;
@@ -161,14 +172,6 @@ public:
     CSize GetElementImageSize(BOOL bIsLargeImage) const override;
 
 protected:
-    // The bar makes categories, and shows and hides them.
-    friend class CMFCRibbonBar;
-
-    virtual void SetActive(BOOL bIsActive = TRUE);
-    void CommonInit(CMFCRibbonBar* pParentRibbonBar = NULL, LPCTSTR lpszName = NULL, UINT uiSmallImagesResID = 0,
-                    UINT uiLargeImagesResID = 0, CSize sizeSmallImage = CSize(16, 16),
-                    CSize sizeLargeImage = CSize(32, 32));
-
     CString m_strName;
     CRect m_rect;
     CMFCRibbonTab m_Tab;

@@ -11,9 +11,6 @@ struct RibbonMetrics;
 
 /// The commands of the quick access toolbar's menu and which of them are shown until the user changes the toolbar.
 class FRAMEWORK_API CMFCRibbonQuickAccessToolBarDefaultState {
-    friend class CMFCRibbonQuickAccessToolBar;
-    friend class CMFCRibbonBar;
-
 public:
     CMFCRibbonQuickAccessToolBarDefaultState();
 
@@ -21,6 +18,12 @@ public:
     void AddCommand(UINT uiCmd, BOOL bIsVisible = TRUE);
     void CopyFrom(const CMFCRibbonQuickAccessToolBarDefaultState& src);
     void RemoveAll();
+
+    // For the bar.
+    /// In the order of the menu.
+    const CArray<UINT, UINT>& GetCommands() const { return m_arCommands; }
+    /// Those that are shown, behind what the list has.
+    void GetVisibleCommands(CList<UINT, UINT>& lstCommands) const;
 
 private:
     CArray<UINT, UINT> m_arCommands;
@@ -63,7 +66,6 @@ public:
 /// Copies are made from the bar's elements and linked to them by their original.
 class FRAMEWORK_API CMFCRibbonQuickAccessToolBar : public CMFCRibbonButtonsGroup {
     DECLARE_DYNCREATE(CMFCRibbonQuickAccessToolBar)
-    friend class CMFCRibbonBar;
 
 public:
     CMFCRibbonQuickAccessToolBar();
@@ -101,15 +103,16 @@ public:
     void GetHiddenElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) const;
     CMFCRibbonBaseElement* GetDroppedDown() override;
 
-private:
+    // For the bar, which looks for the originals.
     using Originals = std::unordered_map<UINT, CMFCRibbonBaseElement*>; // by id; null: none was found
-
     void SetCommands(const CList<UINT, UINT>& commands, const Originals& originals);
+    /// An element of the bar goes: its copy goes with it. TRUE: it had one.
+    BOOL OnOriginalDestroyed(const CMFCRibbonBaseElement* original);
+
+private:
     CMFCRibbonBaseElement* MakeCopy(CMFCRibbonBaseElement& source) const;
     void Append(CMFCRibbonBaseElement* copy, const CMFCRibbonBaseElement* source);
     void DeleteAt(int position);
-    /// An element of the bar goes: its copy goes with it. TRUE: it had one.
-    BOOL OnOriginalDestroyed(const CMFCRibbonBaseElement* original);
 
     CRect m_rectCommands;
     CMFCRibbonQuickAccessCustomizeButton m_btnCustomize;

@@ -171,7 +171,7 @@ void CMFCRibbonBar::Measure(CDC* pDC) {
     MeasureCaption();
     shape.quickAccessOnTop = m_parts->quickAccessOnTop;
     shape.quickAccessWidth = 0;
-    if (!m_parts->quickAccess.IsEmpty() || m_parts->quickAccessDefault.m_arCommands.GetSize() > 0) {
+    if (!m_parts->quickAccess.IsEmpty() || !m_parts->quickAccessDefault.GetCommands().IsEmpty()) {
         shape.quickAccessWidth = m_parts->quickAccess.GetRegularSize(pDC).cx;
     }
     shape.applicationButton = {};
@@ -246,12 +246,7 @@ void CMFCRibbonBar::Arrange(CDC* pDC) {
         m_parts->shape.firstTab = 0;
     }
     if (CMFCRibbonCategory* shown = m_parts->ShownCategory()) {
-        shown->m_rect = fx::ToRect(places.category);
-        if (shown->m_parts->measured) {
-            shown->ReposPanels(pDC);
-        } else {
-            shown->RecalcLayout(pDC);
-        }
+        shown->PlaceAt(fx::ToRect(places.category), pDC);
     }
 }
 

@@ -70,8 +70,8 @@ CMFCRibbonCategory* CMFCRibbonBar::AddContextCategory(LPCTSTR lpszName, LPCTSTR 
     if (category == nullptr) {
         return nullptr;
     }
-    category->m_uiContextID = uiContextID;
-    category->m_bIsVisible = FALSE;
+    category->SetContextID(uiContextID);
+    category->SetVisible(FALSE);
     category->SetTabColor(clrContext);
     if (m_parts->active == category) {
         SetActiveWithoutCheck(former);
@@ -220,10 +220,10 @@ void CMFCRibbonBar::OnPanelGoing(CMFCRibbonPanel& panel) {
 
 void CMFCRibbonBar::ShowCategory(int nIndex, BOOL bShow) {
     CMFCRibbonCategory* category = GetCategory(nIndex);
-    if (category == nullptr || !category->m_bIsVisible == !bShow) {
+    if (category == nullptr || !category->IsVisible() == !bShow) {
         return;
     }
-    category->m_bIsVisible = bShow;
+    category->SetVisible(bShow);
     MarkLayoutDirty();
     // Last: the host may do anything when pop-ups close.
     if (!bShow && m_parts->active == category) {

@@ -45,14 +45,11 @@ void CMFCRibbonBar::SetQuickAccessDefaultState(const CMFCRibbonQuickAccessToolBa
 }
 
 void CMFCRibbonBar::ApplyDefaultQuickAccess() {
-    const CMFCRibbonQuickAccessToolBarDefaultState& state = m_parts->quickAccessDefault;
     CList<UINT, UINT> visible;
+    m_parts->quickAccessDefault.GetVisibleCommands(visible);
     std::unordered_map<UINT, CMFCRibbonBaseElement*> originals;
-    for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
-        if (state.m_arVisibleState[index]) {
-            visible.AddTail(state.m_arCommands[index]);
-            originals.emplace(state.m_arCommands[index], nullptr);
-        }
+    for (POSITION position = visible.GetHeadPosition(); position != nullptr;) {
+        originals.emplace(visible.GetNext(position), nullptr);
     }
     FindQuickAccessOriginals(originals);
     m_parts->quickAccess.SetCommands(visible, originals);
@@ -179,16 +176,16 @@ void CMFCRibbonBar::AddPlaceOfQuickAccess(RibbonMenu& menu) {
 
 // The commands of the default state, those in the toolbar checked; then where the toolbar lies.
 BOOL CMFCRibbonBar::OnShowRibbonQATMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) {
-    const CMFCRibbonQuickAccessToolBarDefaultState& state = m_parts->quickAccessDefault;
+    const CArray<UINT, UINT>& commands = m_parts->quickAccessDefault.GetCommands();
     RibbonMenu menu;
     menu.AddHeading(RibbonText(RibbonTextId::QuickAccessCustomize));
     std::unordered_map<UINT, CMFCRibbonBaseElement*> originals;
-    for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
-        originals.emplace(state.m_arCommands[index], nullptr);
+    for (INT_PTR index = 0; index < commands.GetSize(); ++index) {
+        originals.emplace(commands[index], nullptr);
     }
     FindQuickAccessOriginals(originals);
-    for (INT_PTR index = 0; index < state.m_arCommands.GetSize(); ++index) {
-        const UINT id = state.m_arCommands[index];
+    for (INT_PTR index = 0; index < commands.GetSize(); ++index) {
+        const UINT id = commands[index];
         const auto original = originals.find(id);
         if (original != originals.end() && original->second != nullptr) {
             menu.AddCheck(NameOf(*original->second), m_parts->quickAccess.FindCopyByID(id) != nullptr,

@@ -369,6 +369,15 @@ void CMFCRibbonCategory::ReposPanels(CDC* pDC) {
     }
 }
 
+void CMFCRibbonCategory::PlaceAt(const CRect& rect, CDC* pDC) {
+    m_rect = rect;
+    if (m_parts->measured) {
+        ReposPanels(pDC);
+    } else {
+        RecalcLayout(pDC);
+    }
+}
+
 void CMFCRibbonCategory::HideElements(CDC* pDC) {
     for (const auto& panel : m_parts->panels) {
         panel->Hide(pDC);

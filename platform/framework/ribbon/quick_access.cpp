@@ -28,6 +28,14 @@ void CMFCRibbonQuickAccessToolBarDefaultState::RemoveAll() {
     m_arVisibleState.RemoveAll();
 }
 
+void CMFCRibbonQuickAccessToolBarDefaultState::GetVisibleCommands(CList<UINT, UINT>& lstCommands) const {
+    for (INT_PTR index = 0; index < m_arCommands.GetSize(); ++index) {
+        if (m_arVisibleState[index]) {
+            lstCommands.AddTail(m_arCommands[index]);
+        }
+    }
+}
+
 // ---- the button that opens the menu
 
 IMPLEMENT_DYNCREATE(CMFCRibbonQuickAccessCustomizeButton, CMFCRibbonButton)
