@@ -5,6 +5,8 @@
 #include "skins/scroll_images.h"
 #include "skins/scroll_timers.h"
 
+#include <fx/to_rect.h>
+
 namespace {
 
 constexpr UINT_PTR kRepeatTimer = 1;
@@ -21,10 +23,6 @@ ScrollTimers* g_timers = nullptr;
 scroll::Direction DirectionOf(bool isVertical) {
     return isVertical ? scroll::Direction::Vertical : scroll::Direction::Horizontal;
 }
-
-scroll::Extent ExtentOf(const CRect& rect) { return {rect.Width(), rect.Height()}; }
-
-CRect ToRect(const scroll::Box& box) { return CRect(box.left, box.top, box.right, box.bottom); }
 
 LONG& Along(bool isVertical, CPoint& point) { return isVertical ? point.y : point.x; }
 
@@ -67,7 +65,7 @@ void CScrollBarBase::InitThumb() {
         return;
     }
     m_client = client;
-    m_isVertical = scroll::DirectionOf(ExtentOf(client)) == scroll::Direction::Vertical;
+    m_isVertical = scroll::DirectionOf(fx::FromSize(client.Size())) == scroll::Direction::Vertical;
     UpdateSkin(m_skin);
     UpdatePosition();
     DrawTrack();
@@ -89,16 +87,16 @@ void CScrollBarBase::OnMouseWheelScroll() {
 bool CScrollBarBase::CanScroll() { return m_totalLength > 0 && GetBaseScrollLimit() > 0; }
 
 void CScrollBarBase::PlaceParts() {
-    const scroll::Parts parts = scroll::Arrange(DirectionOf(m_isVertical), ExtentOf(m_client), m_arrowSize);
-    m_firstArrow = ToRect(parts.firstArrow);
-    m_secondArrow = ToRect(parts.secondArrow);
-    m_track = ToRect(parts.track);
+    const scroll::Parts parts = scroll::Arrange(DirectionOf(m_isVertical), fx::FromSize(m_client.Size()), m_arrowSize);
+    m_firstArrow = fx::ToRect(parts.firstArrow);
+    m_secondArrow = fx::ToRect(parts.secondArrow);
+    m_track = fx::ToRect(parts.track);
 }
 
 int CScrollBarBase::TrackLength() const { return m_isVertical ? m_track.Height() : m_track.Width(); }
 
 int CScrollBarBase::ThumbLength() const {
-    const int length = scroll::LengthAlong(DirectionOf(m_isVertical), ExtentOf(m_client));
+    const int length = scroll::LengthAlong(DirectionOf(m_isVertical), fx::FromSize(m_client.Size()));
     return scroll::ThumbLength(length, m_arrowSize, m_totalLength);
 }
 
@@ -107,7 +105,7 @@ void CScrollBarBase::PlaceThumb() {
     const LONG start = m_isVertical ? m_track.top : m_track.left;
     const LONG end = m_isVertical ? m_track.bottom : m_track.right;
     m_thumbPosition = scroll::KeepInTrack(m_thumbPosition, length, start, end);
-    m_thumb = ToRect(scroll::ThumbBox(DirectionOf(m_isVertical), m_thumbPosition, length, m_arrowSize));
+    m_thumb = fx::ToRect(scroll::ThumbBox(DirectionOf(m_isVertical), m_thumbPosition, length, m_arrowSize));
 }
 
 void CScrollBarBase::UpdatePosition() {

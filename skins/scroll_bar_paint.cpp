@@ -3,9 +3,9 @@
 
 #include "skins/scroll_images.h"
 
-namespace {
+#include <fx/to_rect.h>
 
-scroll::Box ToBox(const CRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
+namespace {
 
 /// A part of the bar in memory, with the part's own top left corner at the origin; copied to the bar at the end.
 class PartDc {
@@ -89,7 +89,8 @@ void CScrollBarBase::DrawTrack(CDC& dc) {
     CRect thumb = m_thumb;
     thumb.OffsetRect(m_isVertical ? CPoint(0, -m_track.top) : CPoint(-m_track.left, 0));
     m_images->DrawThumb(track.Get().GetSafeHdc(), m_hover == 2 ? ScrollImages::PressedThumb : ScrollImages::Thumb,
-                        m_isVertical ? scroll::Direction::Vertical : scroll::Direction::Horizontal, ToBox(thumb));
+                        m_isVertical ? scroll::Direction::Vertical : scroll::Direction::Horizontal,
+                        fx::FromRect(thumb));
 }
 
 void CScrollBarBase::DrawArrows(CDC& dc) {
@@ -113,5 +114,6 @@ void CScrollBarBase::DrawArrow(CDC& dc, const CRect& rect, Image image) {
         ground.DeflateRect(1, 1);
     }
     arrow.Get().FillSolidRect(ground, m_bkColor);
-    m_images->DrawCentered(arrow.Get().GetSafeHdc(), static_cast<ScrollImages::Which>(image), ToBox(arrow.Area()));
+    m_images->DrawCentered(arrow.Get().GetSafeHdc(), static_cast<ScrollImages::Which>(image),
+                           fx::FromRect(arrow.Area()));
 }

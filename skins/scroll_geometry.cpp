@@ -14,10 +14,6 @@ constexpr int kShortThumb = 20;
 /// What a drag lacks to be the next step and is given.
 constexpr double kRounding = 0.4;
 
-constexpr Box ShiftedBy(const Box& box, int x, int y) {
-    return {box.left + x, box.top + y, box.right + x, box.bottom + y};
-}
-
 int ToInt(double value) {
     constexpr double lowest = std::numeric_limits<int>::min() / 2;
     constexpr double highest = std::numeric_limits<int>::max() / 2;
@@ -46,10 +42,10 @@ Parts Arrange(Direction direction, Extent client, int arrowSize) {
     const Box first = {0, 0, w, w};
     if (direction == Direction::Vertical) {
         const int end = client.height - w;
-        return {ShiftedBy(first, 1, 0), ShiftedBy({0, end, w, client.height}, 1, 0), ShiftedBy({0, w, w, end}, 1, 0)};
+        return {first.Moved(1, 0), Box{0, end, w, client.height}.Moved(1, 0), Box{0, w, w, end}.Moved(1, 0)};
     }
     const int end = client.width - w;
-    return {ShiftedBy(first, 0, 1), ShiftedBy({end, 0, client.width, w}, 0, 1), ShiftedBy({w, 0, end, w}, 0, 1)};
+    return {first.Moved(0, 1), Box{end, 0, client.width, w}.Moved(0, 1), Box{w, 0, end, w}.Moved(0, 1)};
 }
 
 int ThumbLength(int clientLength, int arrowSize, int totalLength) {

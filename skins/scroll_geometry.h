@@ -1,30 +1,15 @@
 #pragma once
 
+#include <fx/geometry.h>
+
 #include <vector>
 
 /// Where the parts of a scroll bar lie and how far its thumb has gone. Pure functions of sizes, pixels of the bar's
 /// client area; every size may be negative or absurd, as a window may be.
 namespace scroll {
 
-struct Box {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    int Width() const { return right - left; }
-    int Height() const { return bottom - top; }
-    bool IsEmpty() const { return right <= left || bottom <= top; }
-    bool Contains(int x, int y) const { return x >= left && x < right && y >= top && y < bottom; }
-    bool operator==(const Box&) const = default;
-};
-
-struct Extent {
-    int width = 0;
-    int height = 0;
-
-    bool operator==(const Extent&) const = default;
-};
+using Box = fx::Rect;
+using Extent = fx::Size;
 
 enum class Direction { Vertical, Horizontal };
 

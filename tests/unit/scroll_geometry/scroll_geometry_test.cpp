@@ -6,13 +6,13 @@
 #include <climits>
 #include <ostream>
 
-namespace scroll {
+namespace fx {
 
-std::ostream& operator<<(std::ostream& out, const Box& box) {
+static std::ostream& operator<<(std::ostream& out, const Rect& box) {
     return out << '(' << box.left << ", " << box.top << ", " << box.right << ", " << box.bottom << ')';
 }
 
-} // namespace scroll
+} // namespace fx
 
 namespace {
 
