@@ -71,6 +71,9 @@ void PaintTab(HDC dc, const RECT& rect, const TabState& state, const Look& look)
     Face face =
         look.skin[state.isActive ? (isBright ? FaceSlot::TabActiveHot : FaceSlot::TabActive) : FaceSlot::TabHot];
     face = Tinted(face, state.tint);
+    if (AlphaOf(state.tint) != 0) {
+        face.plate = 0; // a picture knows nothing of a context's colour
+    }
     if (!state.isActive && !state.isHot) {
         face.outer = face.inner = 0;
     }

@@ -15,7 +15,7 @@ namespace {
 // lie below it, whether it is drawn at its own size.
 constexpr std::array<SkinImageUse, kSkinImages> kUses = {{
     {SkinImage::Main, 3, 6, 6, 6, 6, false, false},                // application button: rest, hot, pressed
-    {SkinImage::Tab, 3, 6, 6, 6, 2, true, false},                  // category tab: hot, active, active and hot
+    {SkinImage::Tab, 3, 6, 6, 6, 2, false, false},                 // category tab: hot, active, active and hot
     {SkinImage::ButtonHilight, 2, 6, 6, 6, 6, false, false},       // button of two rows or more: hot, pressed
     {SkinImage::ButtonChecked, 2, 6, 6, 6, 6, false, false},       // the same, checked: rest, hot
     {SkinImage::NarrowButtonHilight, 2, 6, 6, 6, 6, false, false}, // button of one row: hot, pressed
