@@ -231,7 +231,12 @@ private:
     bool IsOver() const { return m_life >= Life::Closing; }
     void FindParents(CWnd* pWndParent, BOOL bOwnMessage);
     void ShowAnimated();
+    void ScrollTo(int nOffset);
     void ScrollBy(int nPixels);
+    /// What was opened from a row closes, as the row moves away. Up: less than 0.
+    void ScrollRows(int nRows);
+    void InvalidateStrips();
+    void LightStripAt(CPoint point);
     void UpdateScrollRange(int nHeight);
     void DragResize(CPoint point);
     void TellOpened();

@@ -4,12 +4,15 @@
 #include "afxtoolbarmenubutton.h"
 #include "fx/wheel_rest.h"
 
+#include <cstdint>
 #include <memory>
 
 class CMFCPopupMenu;
 
 namespace toolbar {
 class PopupRows;
+class RowStack;
+enum class RowStep : std::uint8_t;
 struct MenuRowMetrics;
 struct RowGeometry;
 } // namespace toolbar
@@ -130,8 +133,8 @@ protected:
     void OnFillBackground(CDC* pDC) override;
     /// The item at the index is chosen, by mouse or key; `this` may be gone afterwards.
     virtual void ChooseItem(int iIndex);
-    /// Next item to make hot from iFrom in direction nStep; -1 when no item can be.
-    int FindSelectable(int iFrom, int nStep) const;
+    /// The item that a step of the keyboard leads to; -1 when no item can be hot.
+    int FindSelectable(toolbar::RowStep step) const;
     virtual void MakeVisible(int iIndex);
     /// The space bar on a list's hot row. TRUE: it was used; the list stays open and draws the row anew, if it is still
     /// there. FALSE: it is a character like any other.
@@ -153,14 +156,18 @@ protected:
 private:
     struct Rows;
     toolbar::RowGeometry GetRowGeometry() const;
+    /// The buttons as rows; asked anew each time, for they change.
+    toolbar::RowStack GetStack() const;
+    /// The offset that shows the row wholly, by the shortest way, and the one that lies so many rows on.
+    int GetOffsetToShow(int nRow) const;
+    int GetOffsetAfter(int nRows) const;
+    void StepTo(int nIndex);
     CSize CalcRows();
     void LayOutAddedRows();
     void PaintRows(CDC* pDC);
     void PaintRow(CDC* pDC, int nRow);
     BOOL OnRowKey(UINT nChar);
     BOOL OnRowChar(UINT nChar);
-    BOOL OnRowWheel(short zDelta);
-    int GetRowsPerNotch() const;
     BOOL ToggleHotRow();
     void ChooseRow(int nRow);
     std::unique_ptr<Rows> m_rows; ///< of a list; NULL: there are buttons

@@ -171,7 +171,6 @@ private:
     void CollectStops(ElementArray& stops) const;
     BOOL OfferKey(UINT nChar);
     BOOL MoveHot(UINT nChar);
-    BOOL Step(int direction);
     BOOL StepTowards(UINT nChar);
     void ShowRowOf(CMFCRibbonBaseElement* pElement);
     enum class Choice { Command, Menu };

@@ -29,6 +29,11 @@ struct RowGeometry {
     int Snap(int wanted, int listHeight) const {
         return std::clamp((wanted + height / 2) / height * height, 0, LowestOffset(listHeight));
     }
+    /// The offset so many rows on; up: less than 0.
+    int OffsetAfter(int rows, int listHeight) const {
+        const int lowest = LowestOffset(listHeight);
+        return std::clamp(offset / height + std::clamp(rows, -count, count), 0, lowest / height) * height;
+    }
     /// The offset that shows the row wholly and is nearest to the present one.
     int OffsetToShow(int row, int listHeight) const {
         const int last = offset / height + RowsPerPage(listHeight) - 1;

@@ -26,6 +26,19 @@ void Join(Elements& to, const Elements& from) { to.insert(to.end(), from.begin()
 
 } // namespace
 
+ribbon::FocusStep RibbonFocusStops::StepOf(UINT key) {
+    switch (key) {
+    case VK_LEFT:
+        return ribbon::FocusStep::Left;
+    case VK_RIGHT:
+        return ribbon::FocusStep::Right;
+    case VK_UP:
+        return ribbon::FocusStep::Up;
+    default:
+        return ribbon::FocusStep::Down;
+    }
+}
+
 bool RibbonFocusStops::Contains(const Elements& stops, const CMFCRibbonBaseElement* element) {
     return std::find(stops.begin(), stops.end(), element) != stops.end();
 }

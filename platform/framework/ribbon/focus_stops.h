@@ -31,6 +31,8 @@ public:
     /// The stops among which the element stands; empty when it is none.
     Elements RowOf(const CMFCRibbonBaseElement& element) const;
 
+    /// Of an arrow key.
+    static ribbon::FocusStep StepOf(UINT key);
     static bool Contains(const Elements& stops, const CMFCRibbonBaseElement* element);
     /// The stop that an arrow leads to; null when there is none in that direction.
     static CMFCRibbonBaseElement* NeighbourOf(const Elements& stops, const CMFCRibbonBaseElement& from,

@@ -11,19 +11,6 @@ using ribbon::FocusStep;
 
 namespace {
 
-FocusStep StepOf(UINT key) {
-    switch (key) {
-    case VK_LEFT:
-        return FocusStep::Left;
-    case VK_RIGHT:
-        return FocusStep::Right;
-    case VK_UP:
-        return FocusStep::Up;
-    default:
-        return FocusStep::Down;
-    }
-}
-
 bool IsAcross(FocusStep step) { return step == FocusStep::Left || step == FocusStep::Right; }
 
 } // namespace
@@ -32,7 +19,7 @@ bool IsAcross(FocusStep step) { return step == FocusStep::Left || step == FocusS
 
 void RibbonKeyboard::MoveByArrow(UINT key) {
     if (CMFCRibbonBaseElement* focused = m_bar.GetFocused()) {
-        MoveFrom(*focused, StepOf(key));
+        MoveFrom(*focused, RibbonFocusStops::StepOf(key));
     } else {
         SetFocusTo(m_stops.ActiveTab());
     }

@@ -1,6 +1,10 @@
 #include "ribbon/menu_geometry.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "popups/row_stack.h"
+#include "popups/scroll_strips.h"
 
 namespace ribbon {
 namespace {
@@ -12,7 +16,6 @@ constexpr int kRightMargin = 10;
 constexpr int kKeysGap = 24;
 constexpr int kArrowColumn = 18;
 constexpr int kSeparatorSpace = 3; // above and below the line
-constexpr int kScrollHeight = 12;
 
 int ArrowColumn(const MenuRowContent& content, const FaceMetrics& metrics) {
     return content.menu == ButtonMenu::None ? metrics.Scaled(kRightMargin) : metrics.Scaled(kArrowColumn);
@@ -20,41 +23,13 @@ int ArrowColumn(const MenuRowContent& content, const FaceMetrics& metrics) {
 
 int TextBlockHeight(const MenuRowContent& content) { return content.text.height + content.description.height; }
 
-int TotalHeight(std::span<const Size> rows) {
-    int height = 0;
-    for (const Size& row : rows) {
-        height += std::max(row.height, 0);
-    }
-    return height;
+toolbar::RowStack StackOf(std::span<const Size> rows) {
+    std::vector<int> heights(rows.size());
+    std::ranges::transform(rows, heights.begin(), &Size::height);
+    return toolbar::RowStack(std::move(heights));
 }
 
-// Rows from first on that fit; at least one.
-int RowsThatFit(std::span<const Size> rows, int first, int height) {
-    int count = 0;
-    for (auto index = static_cast<size_t>(first); index < rows.size(); ++index) {
-        height -= rows[index].height;
-        if (height < 0 && count > 0) {
-            break;
-        }
-        ++count;
-    }
-    return count;
-}
-
-// The first row of the last page.
-int LastFirstRow(std::span<const Size> rows, int height) {
-    auto first = rows.size();
-    while (first > 0) {
-        height -= rows[first - 1].height;
-        if (height < 0 && first < rows.size()) {
-            break;
-        }
-        --first;
-    }
-    return static_cast<int>(std::min(first, rows.empty() ? 0 : rows.size() - 1));
-}
-
-int RoomForRows(int maxHeight, const FaceMetrics& metrics) { return maxHeight - 2 * metrics.Scaled(kScrollHeight); }
+int RoomForRows(int maxHeight, const FaceMetrics& metrics) { return maxHeight - 2 * ScrollStripHeight(metrics); }
 
 } // namespace
 
@@ -114,7 +89,7 @@ MenuRowFace PlaceMenuRow(const Rect& rect, const MenuRowContent& content, const 
     return face;
 }
 
-int ScrollStripHeight(const FaceMetrics& metrics) { return metrics.Scaled(kScrollHeight); }
+int ScrollStripHeight(const FaceMetrics& metrics) { return metrics.Scaled(toolbar::ScrollStrips::kHeight); }
 
 MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, int firstRow,
                        const FaceMetrics& metrics) {
@@ -124,29 +99,26 @@ MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, 
     for (const Size& row : rows) {
         width = std::max(width, row.width);
     }
-    const int total = TotalHeight(rows);
-    int y = 0;
-    if (total <= maxHeight || rows.empty()) {
-        for (size_t index = 0; index < rows.size(); ++index) {
-            list.rows[index] = {0, y, width, y + std::max(rows[index].height, 0)};
-            y += std::max(rows[index].height, 0);
+    const toolbar::RowStack stack = StackOf(rows);
+    const auto place = [&](int from, int end, int top) {
+        for (int row = from; row < end; ++row) {
+            list.rows[static_cast<size_t>(row)] = {0, top + stack.TopOf(row), width, top + stack.TopOf(row + 1)};
         }
-        list.size = {width, total};
+    };
+    if (stack.ContentHeight() <= maxHeight || rows.empty()) {
+        place(0, static_cast<int>(rows.size()), 0);
+        list.size = {width, stack.ContentHeight()};
         return list;
     }
     const int room = RoomForRows(maxHeight, metrics);
-    const int scrollHeight = metrics.Scaled(kScrollHeight);
-    list.firstRow = std::clamp(firstRow, 0, LastFirstRow(rows, room));
+    const int scrollHeight = ScrollStripHeight(metrics);
+    list.firstRow = std::clamp(firstRow, 0, stack.LastFirst(room));
     list.scrollUp = {0, 0, width, scrollHeight};
-    y = scrollHeight;
-    const int count = RowsThatFit(rows, list.firstRow, room);
-    for (int row = list.firstRow; row < list.firstRow + count; ++row) {
-        const int height = rows[static_cast<size_t>(row)].height;
-        list.rows[static_cast<size_t>(row)] = {0, y, width, y + height};
-        y += height;
-    }
+    const int count = stack.FitFrom(list.firstRow, room);
+    const int top = scrollHeight - stack.TopOf(list.firstRow);
+    place(list.firstRow, list.firstRow + count, top);
     // The list keeps its height while it scrolls, whatever rows are in view.
-    const int bottom = std::max(y, maxHeight - scrollHeight);
+    const int bottom = std::max(top + stack.TopOf(list.firstRow + count), maxHeight - scrollHeight);
     list.scrollDown = {0, bottom, width, bottom + scrollHeight};
     list.canScrollUp = list.firstRow > 0;
     list.canScrollDown = list.firstRow + count < static_cast<int>(rows.size());
@@ -155,18 +127,9 @@ MenuList PlaceMenuList(std::span<const Size> rows, int minWidth, int maxHeight, 
 }
 
 int FirstRowThatShows(std::span<const Size> rows, int row, int maxHeight, int firstRow, const FaceMetrics& metrics) {
-    if (row < 0 || static_cast<size_t>(row) >= rows.size() || TotalHeight(rows) <= maxHeight) {
-        return firstRow;
-    }
-    if (row < firstRow) {
-        return row;
-    }
-    const int room = RoomForRows(maxHeight, metrics);
-    int first = firstRow;
-    while (first < row && row >= first + RowsThatFit(rows, first, room)) {
-        ++first;
-    }
-    return first;
+    const toolbar::RowStack stack = StackOf(rows);
+    return stack.ContentHeight() <= maxHeight ? firstRow
+                                              : stack.FirstToShow(row, firstRow, RoomForRows(maxHeight, metrics));
 }
 
 std::vector<Rect> PlaceLines(std::span<const Size> elements, int width, int gap) {

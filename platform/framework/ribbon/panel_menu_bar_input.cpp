@@ -10,7 +10,10 @@
 #include "afxRibbonEdit.h"
 #include "afxRibbonLabel.h"
 #include "fx/registered_messages.h"
+#include "fx/to_rect.h"
 #include "fx/window_guard.h"
+#include "popups/user_settings.h"
+#include "ribbon/element_metrics.h"
 #include "ribbon/panel_menu_parts.h"
 
 BEGIN_MESSAGE_MAP(CMFCRibbonPanelMenuBar, CMFCPopupMenuBar)
@@ -38,19 +41,6 @@ namespace {
 
 constexpr UINT_PTR kHoverTimer = 1;
 constexpr UINT_PTR kScrollTimer = 2;
-constexpr UINT kScrollDelay = 100;
-
-UINT HoverDelay() {
-    DWORD delay = 400;
-    ::SystemParametersInfo(SPI_GETMENUSHOWDELAY, 0, &delay, 0);
-    return std::max<UINT>(delay, 1);
-}
-
-// The rows by which the strip at the point scrolls: -1 up, 1 down, 0 beside both.
-int StripAt(const ribbon::MenuList& list, CPoint point) {
-    const fx::Point at{static_cast<int>(point.x), static_cast<int>(point.y)};
-    return list.scrollUp.Contains(at) ? -1 : list.scrollDown.Contains(at) ? 1 : 0;
-}
 
 } // namespace
 
@@ -126,7 +116,7 @@ void CMFCRibbonPanelMenuBar::OnMouseMove(UINT nFlags, CPoint point) {
         LightStripAt(point);
     }
     if (opens) {
-        SetTimer(kHoverTimer, HoverDelay(), nullptr);
+        SetTimer(kHoverTimer, toolbar::MenuDelay(), nullptr);
     }
     pointer.Move(hit, point);
 }
@@ -136,7 +126,7 @@ void CMFCRibbonPanelMenuBar::OnMouseLeave() {
     CPane::OnMouseLeave();
     m_parts->wheel.Reset();
     m_parts->lastMove = CPoint(-1, -1);
-    m_parts->scrollHot = 0;
+    m_parts->strips.Unlight();
     KillTimer(kScrollTimer);
     KillTimer(kHoverTimer);
     CMFCRibbonBaseElement* dropped = nullptr;
@@ -170,7 +160,10 @@ BOOL CMFCRibbonPanelMenuBar::OnMouseWheel(UINT /*nFlags*/, short zDelta, CPoint 
 }
 
 BOOL CMFCRibbonPanelMenuBar::OnWheel(short zDelta) {
-    const int rows = m_parts->wheel.Add(zDelta);
+    CRect client;
+    GetClientRect(&client);
+    const int rowsPerNotch = toolbar::WheelRows(client.Height() / ribbon::CurrentMetrics().RowHeight());
+    const int rows = m_parts->wheel.Add(zDelta, rowsPerNotch);
     return rows != 0 && Scroll(-rows);
 }
 
@@ -198,9 +191,7 @@ void CMFCRibbonPanelMenuBar::OnTimer(UINT_PTR nIDEvent) {
         OpenHot();
         break;
     case kScrollTimer:
-        if (m_parts->scrollHot == 0 || !Scroll(m_parts->scrollHot)) {
-            KillTimer(kScrollTimer);
-        }
+        Scroll(m_parts->strips.Rows());
         break;
     case RibbonPointer::kTimer:
         m_parts->pointer.OnTimer();
@@ -237,7 +228,7 @@ void CMFCRibbonPanelMenuBar::OnHotChanged(CMFCRibbonBaseElement* pHot) {
 // ---- strips that scroll
 
 BOOL CMFCRibbonPanelMenuBar::ScrollFromStrip(CPoint point) {
-    const int rows = StripAt(m_parts->list, point);
+    const int rows = m_parts->strips.RowsAt(fx::FromPoint(point));
     if (rows != 0) {
         Scroll(rows);
     }
@@ -245,13 +236,12 @@ BOOL CMFCRibbonPanelMenuBar::ScrollFromStrip(CPoint point) {
 }
 
 void CMFCRibbonPanelMenuBar::LightStripAt(CPoint point) {
-    const int rows = StripAt(m_parts->list, point);
-    if (std::exchange(m_parts->scrollHot, rows) == rows) {
+    if (!m_parts->strips.Light(fx::FromPoint(point))) {
         return;
     }
     Invalidate(FALSE);
-    if (rows != 0) {
-        SetTimer(kScrollTimer, kScrollDelay, nullptr);
+    if (m_parts->strips.Rows() != 0) {
+        SetTimer(kScrollTimer, toolbar::ScrollStrips::kInterval, nullptr);
     } else {
         KillTimer(kScrollTimer);
     }

@@ -8,7 +8,10 @@
 #include "afxRibbonMainPanel.h"
 #include "core/letters.h"
 #include "fx/window_guard.h"
+#include "popups/row_keys.h"
+#include "popups/row_letters.h"
 #include "ribbon/element_metrics.h"
+#include "ribbon/focus_stops.h"
 #include "ribbon/menu_items.h"
 #include "ribbon/panel_menu_parts.h"
 #include "ribbon/shown_text.h"
@@ -16,6 +19,27 @@
 namespace {
 
 bool IsHeading(CMFCRibbonBaseElement& element) { return DYNAMIC_DOWNCAST(CMFCRibbonLabel, &element) != nullptr; }
+
+int IndexOf(const CMFCRibbonPanelMenuBar::ElementArray& stops, const CMFCRibbonBaseElement* element) {
+    for (INT_PTR index = 0; index < stops.GetSize(); ++index) {
+        if (stops[index] == element) {
+            return static_cast<int>(index);
+        }
+    }
+    return -1;
+}
+
+toolbar::RowLetters LettersOf(CMFCRibbonBaseElement& element) {
+    CString keys = *element.GetMenuKeys() != 0 ? element.GetMenuKeys() : element.GetKeys();
+    if (keys.IsEmpty()) {
+        keys = MnemonicOf(element.GetShownText());
+    }
+    if (!keys.IsEmpty()) {
+        return {keys.GetLength() == 1 ? fx::UpperCase(keys[0]) : L'\0', L'\0'};
+    }
+    const CString text = ribbon::PlainTextOf(element);
+    return {L'\0', text.IsEmpty() ? L'\0' : fx::UpperCase(text[0])};
+}
 
 } // namespace
 
@@ -147,78 +171,37 @@ BOOL CMFCRibbonPanelMenuBar::MoveHot(UINT nChar) {
     if (stops.IsEmpty()) {
         return FALSE;
     }
-    switch (nChar) {
-    case VK_HOME:
-        Highlight(stops[0]);
-        return TRUE;
-    case VK_END:
-        Highlight(stops[stops.GetUpperBound()]);
-        return TRUE;
-    case VK_TAB:
-        return Step(::GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
-    case VK_UP:
-    case VK_DOWN:
-        // Arrows that look for the nearest place would not find rows that are scrolled out of view.
-        if (m_parts->look == RibbonPopupLook::Menu || !m_parts->list.scrollDown.IsEmpty()) {
-            return Step(nChar == VK_UP ? -1 : 1);
-        }
+    // Arrows that look for the nearest place would not find rows that are scrolled out of view.
+    const bool isList = m_parts->look == RibbonPopupLook::Menu || m_parts->strips.AreShown();
+    if (!isList && (nChar == VK_UP || nChar == VK_DOWN)) {
         return StepTowards(nChar);
-    case VK_LEFT:
-    case VK_RIGHT:
+    }
+    if (nChar == VK_LEFT || nChar == VK_RIGHT) {
         return m_parts->look == RibbonPopupLook::Menu ? TRUE : StepTowards(nChar);
-    default:
+    }
+    const auto step = toolbar::RowStepOf(nChar);
+    if (!step || toolbar::IsPage(*step)) {
         return FALSE;
     }
-}
-
-BOOL CMFCRibbonPanelMenuBar::Step(int direction) {
-    ElementArray stops;
-    CollectStops(stops);
-    const INT_PTR count = stops.GetSize();
-    if (count == 0) {
-        return FALSE;
-    }
-    INT_PTR at = direction > 0 ? -1 : count;
-    for (INT_PTR index = 0; index < count; ++index) {
-        if (stops[index] == m_parts->pointer.GetHot()) {
-            at = index;
-        }
-    }
-    Highlight(stops[(at + direction + count) % count]);
+    const int count = static_cast<int>(stops.GetSize());
+    const int row =
+        toolbar::WalkRows({count, IndexOf(stops, m_parts->pointer.GetHot())}, *step, [](int) { return true; });
+    Highlight(stops[row]);
     return TRUE;
 }
 
-// The nearest stop on that side; sideways distance counts double.
+// The stop beside it, where there is one.
 BOOL CMFCRibbonPanelMenuBar::StepTowards(UINT nChar) {
-    if (m_parts->pointer.GetHot() == nullptr) {
+    CMFCRibbonBaseElement* hot = m_parts->pointer.GetHot();
+    ElementArray stops;
+    CollectStops(stops);
+    if (IndexOf(stops, hot) < 0) {
         HighlightFirst();
         return TRUE;
     }
-    ElementArray stops;
-    CollectStops(stops);
-    const CRect from = m_parts->pointer.GetHot()->GetRect();
-    CMFCRibbonBaseElement* best = nullptr;
-    int bestDistance = 0;
-    for (INT_PTR index = 0; index < stops.GetSize(); ++index) {
-        const CRect to = stops[index]->GetRect();
-        if (stops[index] == m_parts->pointer.GetHot() || to.IsRectEmpty()) {
-            continue;
-        }
-        const bool isVertical = nChar == VK_UP || nChar == VK_DOWN;
-        const int along = nChar == VK_DOWN    ? to.top - from.bottom
-                          : nChar == VK_UP    ? from.top - to.bottom
-                          : nChar == VK_RIGHT ? to.left - from.right
-                                              : from.left - to.right;
-        const int across = isVertical ? std::abs(to.CenterPoint().x - from.CenterPoint().x)
-                                      : std::abs(to.CenterPoint().y - from.CenterPoint().y);
-        const int distance = along + 2 * across;
-        if (along >= -1 && (best == nullptr || distance < bestDistance)) {
-            best = stops[index];
-            bestDistance = distance;
-        }
-    }
-    if (best != nullptr) {
-        Highlight(best);
+    const RibbonFocusStops::Elements places(stops.GetData(), stops.GetData() + stops.GetSize());
+    if (CMFCRibbonBaseElement* next = RibbonFocusStops::NeighbourOf(places, *hot, RibbonFocusStops::StepOf(nChar))) {
+        Highlight(next);
     }
     return TRUE;
 }
@@ -249,39 +232,27 @@ void CMFCRibbonPanelMenuBar::ShowRowOf(CMFCRibbonBaseElement* pElement) {
 
 BOOL CMFCRibbonPanelMenuBar::TranslateChar(UINT nChar) { return OnLetter(fx::UpperCase(static_cast<wchar_t>(nChar))); }
 
-// A key tip that fits acts at once; a first letter that several texts share walks through them.
+// What the element makes of the letter itself goes first.
 BOOL CMFCRibbonPanelMenuBar::OnLetter(UINT nUpperChar) {
     ElementArray stops;
     CollectStops(stops);
-    const auto letter = static_cast<wchar_t>(nUpperChar);
-    std::vector<CMFCRibbonBaseElement*> byText;
+    std::vector<toolbar::RowLetters> rows;
     for (INT_PTR index = 0; index < stops.GetSize(); ++index) {
         CMFCRibbonBaseElement& element = *stops[index];
         if (RibbonPointer::TakesInput(element) && element.OnMenuKey(nUpperChar)) {
             return TRUE;
         }
-        CString keys = *element.GetMenuKeys() != 0 ? element.GetMenuKeys() : element.GetKeys();
-        if (keys.IsEmpty()) {
-            keys = MnemonicOf(element.GetShownText());
-        }
-        if (keys.GetLength() == 1 && fx::UpperCase(keys[0]) == letter) {
-            Highlight(&element);
-            Activate(&element, Choice::Command);
-            return TRUE;
-        }
-        const CString text = ribbon::PlainTextOf(element);
-        if (keys.IsEmpty() && !text.IsEmpty() && fx::UpperCase(text[0]) == letter) {
-            byText.push_back(&element);
-        }
+        rows.push_back(LettersOf(element));
     }
-    if (byText.empty()) {
+    const toolbar::LetterGoal goal =
+        toolbar::FindByLetter(rows, static_cast<wchar_t>(nUpperChar), IndexOf(stops, m_parts->pointer.GetHot()));
+    if (goal.row < 0) {
         return FALSE;
     }
-    const auto at = std::find(byText.begin(), byText.end(), m_parts->pointer.GetHot());
-    CMFCRibbonBaseElement* next = at == byText.end() || at + 1 == byText.end() ? byText.front() : *(at + 1);
-    Highlight(next);
-    if (byText.size() == 1) {
-        Activate(next, Choice::Command);
+    CMFCRibbonBaseElement* element = stops[goal.row];
+    Highlight(element);
+    if (goal.isOnlyOne) {
+        Activate(element, Choice::Command);
     }
     return TRUE;
 }

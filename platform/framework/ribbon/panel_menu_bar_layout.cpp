@@ -9,6 +9,7 @@
 #include "afxRibbonMainPanel.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
+#include "popups/strip_draw.h"
 #include "ribbon/bar_parts.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/paint_buffer.h"
@@ -82,6 +83,7 @@ CSize CMFCRibbonPanelMenuBar::CalcContentSize(CSize room) {
             break;
         }
     }
+    m_parts->strips.Place(m_parts->list.scrollUp, m_parts->list.scrollDown);
     m_parts->layoutDirty = false;
     m_parts->isLayingOut = false;
     return m_parts->size;
@@ -230,13 +232,7 @@ void CMFCRibbonPanelMenuBar::DoPaint(CDC* pDC) {
         DrawElements(pDC);
         break;
     }
-    const ribbon::MenuList& list = m_parts->list;
-    if (!list.scrollDown.IsEmpty()) {
-        manager->OnDrawMenuScrollButton(pDC, fx::ToRect(list.scrollUp), FALSE, m_parts->scrollHot < 0, FALSE,
-                                        !list.canScrollUp);
-        manager->OnDrawMenuScrollButton(pDC, fx::ToRect(list.scrollDown), TRUE, m_parts->scrollHot > 0, FALSE,
-                                        !list.canScrollDown);
-    }
+    toolbar::DrawStrips(*pDC, m_parts->strips, {m_parts->list.canScrollUp, m_parts->list.canScrollDown});
     pDC->SetTextColor(previousColor);
     pDC->SetBkMode(previousMode);
 }

@@ -7,6 +7,7 @@
 #include "afxRibbonPanel.h"
 #include "afxribbonpanelmenu.h"
 #include "fx/wheel_rest.h"
+#include "popups/scroll_strips.h"
 #include "ribbon/access.h"
 #include "ribbon/edit_tool.h"
 #include "ribbon/menu_geometry.h"
@@ -93,7 +94,7 @@ struct RibbonPanelMenuParts {
     RibbonPointer pointer;
     CMFCRibbonBaseElement* returning = nullptr; // goes back to its container now
     CPoint lastMove{-1, -1};
-    int scrollHot = 0; // -1 up, 1 down
+    toolbar::ScrollStrips strips;
     fx::WheelRest wheel;
 
     std::unique_ptr<RibbonAccess> access; // null until an assistive program asks

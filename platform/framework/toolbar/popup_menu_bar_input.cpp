@@ -4,7 +4,10 @@
 #include "afxpopupmenu.h"
 #include "core/letters.h"
 #include "fx/window_guard.h"
-#include "popups/wheel_rows.h"
+#include "popups/row_keys.h"
+#include "popups/row_letters.h"
+#include "popups/row_stack.h"
+#include "popups/user_settings.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
 
@@ -14,14 +17,14 @@ namespace {
 
 constexpr UINT_PTR openTimer = 0xF111, closeTimer = 0xF112;
 
-UINT HoverDelay() {
-    DWORD delay = 0;
-    return ::SystemParametersInfoW(SPI_GETMENUSHOWDELAY, 0, &delay, 0) ? std::clamp<UINT>(delay, 10, 2000) : 400;
-}
-
 bool IsSelectable(const CMFCToolBarButton* button) {
     return button && !(button->m_nStyle & (TBBS_SEPARATOR | TBBS_DISABLED)) && !button->IsHidden() &&
            button->IsVisible();
+}
+
+toolbar::RowLetters LettersOf(const CString& text) {
+    const wchar_t mnemonic = toolbar::MnemonicOf(text);
+    return {mnemonic, mnemonic == 0 && !text.IsEmpty() ? fx::UpperCase(text[0]) : L'\0'};
 }
 
 } // namespace
@@ -109,13 +112,13 @@ void CMFCPopupMenuBar::OnMouseLeave() {
 
 void CMFCPopupMenuBar::StartPopupMenuTimer(CMFCToolBarMenuButton* pMenuButton, int nDelayFactor) {
     m_pDelayedPopupMenuButton = pMenuButton;
-    SetTimer(openTimer, HoverDelay() * static_cast<UINT>(std::max(1, nDelayFactor)), nullptr);
+    SetTimer(openTimer, toolbar::MenuDelay() * static_cast<UINT>(std::max(1, nDelayFactor)), nullptr);
 }
 
 void CMFCPopupMenuBar::CloseDelayedSubMenu() {
     m_pDelayedClosePopupMenuButton = GetDroppedDownMenu();
     if (m_pDelayedClosePopupMenuButton) {
-        SetTimer(closeTimer, HoverDelay(), nullptr);
+        SetTimer(closeTimer, toolbar::MenuDelay(), nullptr);
     }
 }
 
@@ -270,21 +273,14 @@ void CMFCPopupMenuBar::OnChangeHot(int iHot) {
                         reinterpret_cast<LPARAM>(popup->GetHMenu()));
 }
 
-int CMFCPopupMenuBar::FindSelectable(int iFrom, int nStep) const {
-    const int count = GetCount();
-    int index = iFrom < 0 ? (nStep > 0 ? -1 : count) : iFrom;
-    for (int tried = 0; tried < count; ++tried) {
-        index = (index + nStep + count) % count;
-        if (IsSelectable(GetButton(index))) {
-            return index;
-        }
-    }
-    return -1;
+int CMFCPopupMenuBar::FindSelectable(toolbar::RowStep step) const {
+    return toolbar::WalkRows({GetCount(), m_iHighlighted}, step,
+                             [this](int index) { return IsSelectable(GetButton(index)); });
 }
 
 void CMFCPopupMenuBar::SelectFirstItem() {
     if (m_iHighlighted < 0 && !m_rows) {
-        const int first = FindSelectable(-1, 1);
+        const int first = FindSelectable(toolbar::RowStep::First);
         MakeVisible(first);
         SetHighlighted(first);
     }
@@ -297,28 +293,29 @@ void CMFCPopupMenuBar::MakeVisible(int iIndex) {
     if (rect.IsRectEmpty() || !popup || !popup->IsScrollable()) {
         return;
     }
-    CRect client;
-    GetClientRect(&client);
-    if (m_rows) {
-        popup->ScrollBy(GetRowGeometry().OffsetToShow(iIndex, client.Height()) - m_iOffset);
-        return;
-    }
-    if (rect.top < client.top) {
-        popup->ScrollBy(rect.top - client.top);
-    } else if (rect.bottom > client.bottom) {
-        popup->ScrollBy(rect.bottom - client.bottom);
-    }
+    popup->ScrollTo(GetOffsetToShow(iIndex));
 }
 
-int CMFCPopupMenuBar::GetRowsPerNotch() const {
-    constexpr UINT usual = 3;
-    UINT lines = 0;
-    if (!::SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0)) {
-        lines = usual;
+toolbar::RowStack CMFCPopupMenuBar::GetStack() const {
+    std::vector<int> heights;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
+        heights.push_back(static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position))->Rect().Height());
     }
+    return toolbar::RowStack(std::move(heights));
+}
+
+int CMFCPopupMenuBar::GetOffsetToShow(int nRow) const {
     CRect client;
     GetClientRect(&client);
-    return toolbar::WheelRowsPerNotch(lines, client.Height() / std::max(1, GetRowHeight()));
+    return m_rows ? GetRowGeometry().OffsetToShow(nRow, client.Height())
+                  : GetStack().OffsetToShow(nRow, m_iOffset, client.Height());
+}
+
+int CMFCPopupMenuBar::GetOffsetAfter(int nRows) const {
+    CRect client;
+    GetClientRect(&client);
+    return m_rows ? GetRowGeometry().OffsetAfter(nRows, client.Height())
+                  : GetStack().OffsetAfter(m_iOffset, nRows, client.Height());
 }
 
 BOOL CMFCPopupMenuBar::OnWheel(short zDelta) {
@@ -326,12 +323,32 @@ BOOL CMFCPopupMenuBar::OnWheel(short zDelta) {
     if (!popup || !popup->IsScrollable()) {
         return FALSE;
     }
-    if (m_rows) {
-        return OnRowWheel(zDelta);
-    }
+    CRect client;
+    GetClientRect(&client);
+    const int rowHeight = std::max(1, GetRowHeight());
+    const int rowsPerNotch = toolbar::WheelRows(client.Height() / rowHeight);
     const int before = m_iOffset;
-    popup->ScrollBy(-m_wheel.Add(zDelta, GetRowsPerNotch() * GetRowHeight()));
+    // A list moves by whole rows, a menu follows small turns.
+    popup->ScrollBy(m_rows ? -m_wheel.Add(zDelta, rowsPerNotch) * rowHeight
+                           : -m_wheel.Add(zDelta, rowsPerNotch * rowHeight));
     return m_iOffset != before;
+}
+
+// What was opened from another item closes.
+void CMFCPopupMenuBar::StepTo(int nIndex) {
+    if (nIndex < 0) {
+        return;
+    }
+    const fx::WindowGuard guard(this);
+    CMFCToolBarMenuButton* open = GetDroppedDownMenu();
+    if (open && ButtonToIndex(open) != nIndex) {
+        open->OnCancelMode();
+    }
+    if (guard.IsGone()) {
+        return; // the frame heard that the pop-up has closed
+    }
+    MakeVisible(nIndex);
+    SetHighlighted(nIndex);
 }
 
 BOOL CMFCPopupMenuBar::OnKey(UINT nChar) {
@@ -342,36 +359,11 @@ BOOL CMFCPopupMenuBar::OnKey(UINT nChar) {
     if (m_rows) {
         return OnRowKey(nChar);
     }
-    const auto select = [this](int index) {
-        if (index >= 0) {
-            const fx::WindowGuard guard(this);
-            CMFCToolBarMenuButton* open = GetDroppedDownMenu();
-            if (open && ButtonToIndex(open) != index) {
-                open->OnCancelMode();
-            }
-            if (guard.IsGone()) {
-                return; // the frame heard that the pop-up has closed
-            }
-            MakeVisible(index);
-            SetHighlighted(index);
-        }
-    };
+    if (const auto step = toolbar::RowStepOf(nChar); step && !toolbar::IsPage(*step)) {
+        StepTo(FindSelectable(*step));
+        return TRUE;
+    }
     switch (nChar) {
-    case VK_DOWN:
-        select(FindSelectable(m_iHighlighted, 1));
-        return TRUE;
-    case VK_UP:
-        select(FindSelectable(m_iHighlighted, -1));
-        return TRUE;
-    case VK_TAB:
-        select(FindSelectable(m_iHighlighted, ::GetKeyState(VK_SHIFT) < 0 ? -1 : 1));
-        return TRUE;
-    case VK_HOME:
-        select(FindSelectable(-1, 1));
-        return TRUE;
-    case VK_END:
-        select(FindSelectable(-1, -1));
-        return TRUE;
     case VK_RIGHT:
         if (m_iHighlighted < 0 || !OpenSubMenu(m_iHighlighted, TRUE)) {
             if (CMFCToolBar* bar = popup->GetRootPopupMenu()->GetParentToolBar()) {
@@ -400,38 +392,26 @@ BOOL CMFCPopupMenuBar::OnKey(UINT nChar) {
     }
 }
 
-// One item with the mnemonic is chosen; among several the next becomes hot. Without mnemonics the first letter counts.
+// The only item with the mnemonic is chosen; among several the next becomes hot.
 BOOL CMFCPopupMenuBar::TranslateChar(UINT nChar) {
     if (m_rows) {
         return OnRowChar(nChar);
     }
-    const wchar_t wanted = fx::UpperCase(static_cast<wchar_t>(nChar));
-    int first = -1, next = -1, found = 0;
-    for (int i = 0; i < GetCount(); ++i) {
-        const CMFCToolBarButton* button = GetButton(i);
-        if (!IsSelectable(button)) {
-            continue;
-        }
-        wchar_t mnemonic = m_bDropDownListMode ? 0 : toolbar::MnemonicOf(button->m_strText);
-        if (mnemonic == 0 && !button->m_strText.IsEmpty()) {
-            mnemonic = fx::UpperCase(button->m_strText[0]);
-        }
-        if (mnemonic != wanted) {
-            continue;
-        }
-        ++found;
-        first = first < 0 ? i : first;
-        next = next < 0 && i > m_iHighlighted ? i : next;
+    std::vector<toolbar::RowLetters> rows;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
+        const auto* button = static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position));
+        rows.push_back(IsSelectable(button) ? LettersOf(button->m_strText) : toolbar::RowLetters());
     }
-    if (found == 0) {
+    const toolbar::LetterGoal goal =
+        toolbar::FindByLetter(rows, fx::UpperCase(static_cast<wchar_t>(nChar)), m_iHighlighted);
+    if (goal.row < 0) {
         return FALSE;
     }
-    const int index = next >= 0 ? next : first;
-    MakeVisible(index);
+    MakeVisible(goal.row);
     const fx::WindowGuard guard(this);
-    SetHighlighted(index);
-    if (guard.IsAlive() && found == 1 && !m_bDropDownListMode && !OpenSubMenu(index, TRUE)) {
-        ChooseItem(index);
+    SetHighlighted(goal.row);
+    if (guard.IsAlive() && goal.isOnlyOne && !OpenSubMenu(goal.row, TRUE)) {
+        ChooseItem(goal.row);
     }
     return TRUE;
 }

@@ -1,11 +1,13 @@
-// A pop-up's size and place, scrolling and resizing.
+// A pop-up's size and place, and how the user resizes it.
 #include "afxpopupmenu.h"
 
 #include "afxglobals.h"
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
+#include "fx/to_rect.h"
 #include "fx/window_dc.h"
 #include "popups/popup_place.h"
+#include "popups/strip_draw.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_parts.h"
 
@@ -15,9 +17,7 @@ using toolbar::Scaled;
 
 namespace {
 
-constexpr int scrollArrowHeight = 12, resizeBarHeight = 9, scrollStep = 10;
-constexpr UINT_PTR scrollTimer = 0xF101;
-constexpr UINT scrollInterval = 60; // milliseconds
+constexpr int resizeBarHeight = 9;
 constexpr int screenMargin = 0;
 
 } // namespace
@@ -110,15 +110,13 @@ void CMFCPopupMenu::PlaceBar() {
     const int content = bar->CalcSize(TRUE).cy;
     const bool overflows = content > inside.Height();
     m_bScrollable = overflows;
-    parts.upArrow.SetRectEmpty();
-    parts.downArrow.SetRectEmpty();
+    CRect up(0, 0, 0, 0), down(0, 0, 0, 0);
     if (overflows && !m_bScrollBar) {
-        parts.upArrow = parts.downArrow = inside;
-        parts.upArrow.bottom = inside.top + Scaled(scrollArrowHeight);
-        parts.downArrow.top = inside.bottom - Scaled(scrollArrowHeight);
-        inside.top = parts.upArrow.bottom;
-        inside.bottom = parts.downArrow.top;
+        up = down = inside;
+        up.bottom = inside.top += Scaled(toolbar::ScrollStrips::kHeight);
+        down.top = inside.bottom -= Scaled(toolbar::ScrollStrips::kHeight);
     }
+    parts.strips.Place(fx::FromRect(up), fx::FromRect(down));
     const int lowest = bar->GetLowestOffset(inside.Height());
     if (overflows && m_bScrollBar) {
         const int width = ::GetSystemMetrics(SM_CXVSCROLL);
@@ -136,23 +134,6 @@ void CMFCPopupMenu::PlaceBar() {
     ::SetWindowPos(bar->m_hWnd, nullptr, inside.left, inside.top, inside.Width(), inside.Height(),
                    SWP_NOACTIVATE | SWP_NOZORDER);
     bar->SetOffset(std::clamp(bar->GetOffset(), 0, lowest));
-}
-
-// Of a bar of that height.
-void CMFCPopupMenu::UpdateScrollRange(int nHeight) {
-    CMFCPopupMenuBar* bar = GetMenuBar();
-    Parts& parts = *m_parts;
-    if (!parts.scrollBar.GetSafeHwnd()) {
-        InvalidateRect(parts.downArrow);
-        return;
-    }
-    SCROLLINFO info = {};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL;
-    info.nMax = std::max(0, bar->GetContentHeight() - 1);
-    info.nPage = static_cast<UINT>(bar->GetPageHeight(nHeight));
-    info.nPos = std::min(bar->GetOffset(), bar->GetLowestOffset(nHeight));
-    parts.scrollBar.SetScrollInfo(&info);
 }
 
 CRect CMFCPopupMenu::GetBarRect() const { return m_rectBar; }
@@ -257,53 +238,6 @@ void CMFCPopupMenu::ShowAnimated() {
     }
 }
 
-void CMFCPopupMenu::ScrollBy(int nPixels) {
-    CMFCPopupMenuBar* bar = GetMenuBar();
-    const int lowest = bar->GetLowestOffset(m_rectBar.Height());
-    const int offset = std::clamp(bar->GetOffset() + nPixels, 0, lowest);
-    if (offset == bar->GetOffset()) {
-        return;
-    }
-    bar->SetOffset(offset);
-    if (m_parts->scrollBar.GetSafeHwnd()) {
-        m_parts->scrollBar.SetScrollPos(offset);
-    }
-    InvalidateRect(m_parts->upArrow);
-    InvalidateRect(m_parts->downArrow);
-}
-
-void CMFCPopupMenu::OnVScroll(UINT nSBCode, UINT, CScrollBar* pScrollBar) {
-    if (!pScrollBar) {
-        return;
-    }
-    SCROLLINFO info = {};
-    info.cbSize = sizeof(info);
-    pScrollBar->GetScrollInfo(&info, SIF_ALL);
-    const int line = std::max(1, GetMenuBar()->GetRowHeight());
-    const int page = std::max(line, GetMenuBar()->GetPageHeight(m_rectBar.Height()));
-    const int offset = GetMenuBar()->GetOffset();
-    switch (nSBCode) {
-    case SB_LINEUP:
-        return ScrollBy(-line);
-    case SB_LINEDOWN:
-        return ScrollBy(line);
-    case SB_PAGEUP:
-        return ScrollBy(-page);
-    case SB_PAGEDOWN:
-        return ScrollBy(page);
-    case SB_TOP:
-        return ScrollBy(-offset);
-    case SB_BOTTOM:
-        return ScrollBy(info.nMax);
-    case SB_THUMBPOSITION:
-    case SB_THUMBTRACK:
-        // Whole rows, so that none is cut at the top.
-        return ScrollBy(info.nTrackPos / line * line - offset);
-    default:
-        return;
-    }
-}
-
 void CMFCPopupMenu::OnMouseMove(UINT nFlags, CPoint point) {
     CMiniFrameWnd::OnMouseMove(nFlags, point);
     Parts& parts = *m_parts;
@@ -311,35 +245,7 @@ void CMFCPopupMenu::OnMouseMove(UINT nFlags, CPoint point) {
         DragResize(point);
         return;
     }
-    const int hot = parts.upArrow.PtInRect(point) ? -1 : parts.downArrow.PtInRect(point) ? 1 : 0;
-    if (hot != parts.hotArrow) {
-        parts.hotArrow = hot;
-        InvalidateRect(parts.upArrow);
-        InvalidateRect(parts.downArrow);
-    }
-    if (hot != 0) {
-        SetTimer(scrollTimer, scrollInterval, nullptr);
-    }
-}
-
-void CMFCPopupMenu::OnTimer(UINT_PTR nIDEvent) {
-    if (nIDEvent != scrollTimer) {
-        CMiniFrameWnd::OnTimer(nIDEvent);
-        return;
-    }
-    CPoint cursor;
-    ::GetCursorPos(&cursor);
-    ScreenToClient(&cursor);
-    Parts& parts = *m_parts;
-    const CRect& strip = parts.hotArrow < 0 ? parts.upArrow : parts.downArrow;
-    if (parts.hotArrow == 0 || !strip.PtInRect(cursor)) {
-        parts.hotArrow = 0;
-        KillTimer(scrollTimer);
-        InvalidateRect(parts.upArrow);
-        InvalidateRect(parts.downArrow);
-        return;
-    }
-    ScrollBy(parts.hotArrow * Scaled(scrollStep));
+    LightStripAt(point);
 }
 
 void CMFCPopupMenu::OnLButtonDown(UINT, CPoint point) {
@@ -353,10 +259,8 @@ void CMFCPopupMenu::OnLButtonDown(UINT, CPoint point) {
         parts.resizeFrom = window.Size();
         parts.shadow.Hide();
         SetCapture();
-    } else if (parts.upArrow.PtInRect(point)) {
-        ScrollBy(-std::max(1, GetMenuBar()->GetRowHeight()));
-    } else if (parts.downArrow.PtInRect(point)) {
-        ScrollBy(std::max(1, GetMenuBar()->GetRowHeight()));
+    } else {
+        ScrollRows(parts.strips.RowsAt(fx::FromPoint(point)));
     }
 }
 
@@ -430,12 +334,8 @@ void CMFCPopupMenu::DrawFrame(CDC* pDC) {
     manager->OnFillBarBackground(pDC, GetMenuBar(), client, client);
     const Parts& parts = *m_parts;
     CMFCPopupMenuBar* bar = GetMenuBar();
-    if (!parts.upArrow.IsRectEmpty()) {
-        const bool isAtTop = bar->GetOffset() <= 0;
-        const bool isAtBottom = bar->GetOffset() + m_rectBar.Height() >= bar->GetContentHeight();
-        manager->OnDrawMenuScrollButton(pDC, parts.upArrow, FALSE, parts.hotArrow < 0, FALSE, isAtTop);
-        manager->OnDrawMenuScrollButton(pDC, parts.downArrow, TRUE, parts.hotArrow > 0, FALSE, isAtBottom);
-    }
+    toolbar::DrawStrips(*pDC, parts.strips,
+                        {bar->GetOffset() > 0, bar->GetOffset() + m_rectBar.Height() < bar->GetContentHeight()});
     if (!parts.resizeBar.IsRectEmpty()) {
         manager->OnDrawMenuResizeBar(pDC, parts.resizeBar, m_bVertResizeOnly ? 1 : 0);
     }

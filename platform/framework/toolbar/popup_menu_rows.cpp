@@ -5,11 +5,30 @@
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
+#include "popups/row_keys.h"
 #include "popups/row_text.h"
 #include "toolbar/menu_row.h"
 
 #include <algorithm>
 #include <utility>
+
+namespace {
+
+// As in every list: left and right go to the neighbours too, and Tab leaves.
+std::optional<toolbar::RowStep> ListStepOf(UINT key) {
+    switch (key) {
+    case VK_RIGHT:
+        return toolbar::RowStep::Next;
+    case VK_LEFT:
+        return toolbar::RowStep::Previous;
+    case VK_TAB:
+        return std::nullopt;
+    default:
+        return toolbar::RowStepOf(key);
+    }
+}
+
+} // namespace
 
 void CMFCPopupMenuBar::SetRows(toolbar::PopupRows* pRows) {
     m_rows.reset();
@@ -213,43 +232,24 @@ void CMFCPopupMenuBar::ChooseRow(int nRow) {
 
 BOOL CMFCPopupMenuBar::OnToggleRow(int nRow) { return m_rows && m_rows->source->ToggleRow(nRow); }
 
-BOOL CMFCPopupMenuBar::OnRowWheel(short zDelta) {
-    const int before = m_iOffset;
-    GetParentPopup()->ScrollBy(-m_wheel.Add(zDelta, GetRowsPerNotch()) * GetRowGeometry().height);
-    return m_iOffset != before;
-}
-
 // An edit field above the list keeps the keys that move within its text.
 BOOL CMFCPopupMenuBar::OnRowKey(UINT nChar) {
     CMFCPopupMenu* popup = GetParentPopup();
     const BOOL isEditing = popup->IsEditFocused();
     CRect client;
     GetClientRect(&client);
-    const toolbar::RowGeometry rows = GetRowGeometry();
-    const int page = std::max(1, rows.RowsPerPage(client.Height()) - 1);
-    const int last = rows.count - 1;
-    const auto moveTo = [&](int row) {
-        SetHotRow(last < 0 ? -1 : std::clamp(row, 0, last));
+    if (const auto step = ListStepOf(nChar)) {
+        const bool isInText =
+            step == toolbar::RowStep::First || step == toolbar::RowStep::Last || nChar == VK_LEFT || nChar == VK_RIGHT;
+        if (isEditing && isInText) {
+            return FALSE;
+        }
+        const int page = std::max(1, GetRowGeometry().RowsPerPage(client.Height()) - 1);
+        SetHotRow(toolbar::WalkRows({GetRowCount(), m_iHighlighted, toolbar::RowEnds::Stop, page}, *step,
+                                    [](int) { return true; }));
         return TRUE;
-    };
-    const auto moveBy = [&](int distance) { return moveTo(m_iHighlighted < 0 ? 0 : m_iHighlighted + distance); };
+    }
     switch (nChar) {
-    case VK_DOWN:
-        return moveBy(1);
-    case VK_UP:
-        return moveBy(-1);
-    case VK_NEXT:
-        return moveBy(page);
-    case VK_PRIOR:
-        return moveBy(-page);
-    case VK_HOME:
-        return !isEditing && moveTo(0);
-    case VK_END:
-        return !isEditing && moveTo(last);
-    case VK_RIGHT:
-        return !isEditing && moveBy(1);
-    case VK_LEFT:
-        return !isEditing && moveBy(-1);
     case VK_ESCAPE:
         popup->m_bEscClose = TRUE;
         popup->CloseMenu();

@@ -70,6 +70,14 @@ TEST_F(PopupMenuKeyTest, AMnemonicChoosesAtOnceAndOpensSubmenus) {
     EXPECT_EQ(Active(), nullptr);
 }
 
+TEST_F(PopupMenuKeyTest, AMnemonicGoesBeforeTheFirstLetterOfAnotherItem) {
+    CMFCPopupMenu* menu = Open();
+    menu->InsertItem(CMFCToolBarMenuButton(7002, nullptr, -1, L"Other"), 0);
+    Keys(m_window).Type(L"o");
+    PumpPending();
+    EXPECT_EQ(m_frame->commands, std::vector<UINT>{menu_ids::open});
+}
+
 TEST_F(PopupMenuKeyTest, AMnemonicOfAnyScriptIsFoundInAnyCase) {
     struct Marked {
         LPCTSTR text;

@@ -84,6 +84,88 @@ TEST_F(PopupMenuSizeTest, SmallTurnsOfTheWheelAddUpToWhatOneLargeTurnScrolls) {
     EXPECT_EQ(bar.GetOffset(), offset);
 }
 
+/// A menu that has no room for all of its items, with strips that scroll it.
+class PopupMenuStripTest : public PopupMenuTest {
+protected:
+    PopupMenuStripTest() {
+        m_menu->SetMaxHeight(100);
+        EXPECT_TRUE(m_menu->Create(m_frame, 200, 200, MakeMenu()));
+    }
+    CMFCPopupMenuBar& Bar() { return *m_menu->GetMenuBar(); }
+    void PressStripBelow() {
+        CRect client;
+        m_menu->GetClientRect(client);
+        m_pointer.Click(m_menu->m_hWnd, CPoint(client.Width() / 2, client.bottom - m_menu->GetBorderSize() - 3));
+    }
+    void PressStripAbove() {
+        CRect client;
+        m_menu->GetClientRect(client);
+        m_pointer.Click(m_menu->m_hWnd, CPoint(client.Width() / 2, m_menu->GetBorderSize() + 3));
+    }
+    int TopOf(int index) {
+        CRect row;
+        Bar().GetItemRect(index, row);
+        return row.top;
+    }
+
+    CMFCPopupMenu* m_menu = new CMFCPopupMenu;
+};
+
+TEST_F(PopupMenuStripTest, AClickScrollsByAnItemThatBeginsAtTheUpperEdgeThen) {
+    PressStripBelow();
+    EXPECT_EQ(TopOf(1), 0) << "the separator";
+    PressStripBelow();
+    EXPECT_EQ(TopOf(2), 0);
+    PressStripAbove();
+    EXPECT_EQ(TopOf(1), 0);
+    PressStripAbove();
+    PressStripAbove();
+    EXPECT_EQ(Bar().GetOffset(), 0);
+}
+
+TEST_F(PopupMenuStripTest, WhileThePointerRestsItScrollsItemByItemUntilThePointerLeaves) {
+    constexpr UINT_PTR timer = 0xF101;
+    CRect client;
+    m_menu->GetClientRect(client);
+    CPoint strip(client.Width() / 2, client.bottom - m_menu->GetBorderSize() - 3);
+    m_menu->ClientToScreen(&strip);
+    ASSERT_TRUE(::SetCursorPos(strip.x, strip.y));
+    m_pointer.MoveTo(strip);
+    EXPECT_EQ(Bar().GetOffset(), 0) << "not at once";
+    for (const int top : {1, 2}) {
+        m_menu->SendMessage(WM_TIMER, timer);
+        EXPECT_EQ(TopOf(top), 0);
+    }
+    ::SetCursorPos(0, 0);
+    m_menu->SendMessage(WM_TIMER, timer);
+    EXPECT_EQ(TopOf(2), 0);
+}
+
+TEST_F(PopupMenuStripTest, ThePopUpOfAnItemClosesWhenTheItemMovesAway) {
+    CMFCPopupMenu* child = OpenChild(m_menu, L"&Recent");
+    ASSERT_NE(child, nullptr);
+    ASSERT_EQ(Active(), child);
+    PressStripBelow();
+    EXPECT_EQ(Active(), m_menu);
+    EXPECT_GT(Bar().GetOffset(), 0);
+}
+
+TEST_F(PopupMenuStripTest, AtTheEndNothingMovesAndNothingCloses) {
+    ASSERT_EQ(Bar().GetOffset(), 0);
+    CMFCPopupMenu* child = OpenChild(m_menu, L"&Recent");
+    PressStripAbove();
+    EXPECT_EQ(Active(), child);
+}
+
+TEST_F(PopupMenuStripTest, AFrameThatDestroysTheMenuWhenAPopUpClosesIsSurvived) {
+    OpenChild(m_menu, L"&Recent");
+    const HWND window = m_menu->m_hWnd;
+    m_frame->onClose = [window] { ::DestroyWindow(window); };
+    PressStripBelow();
+    m_frame->onClose = nullptr;
+    EXPECT_FALSE(::IsWindow(window));
+}
+
 TEST_F(PopupMenuSizeTest, AScrollBarReplacesTheArrows) {
     auto* menu = new CMFCPopupMenu;
     menu->SetMaxHeight(80);

@@ -92,6 +92,17 @@ TEST_F(PopupKeys, ALetterThatSeveralRowsShareWalksThroughThem) {
     EXPECT_THAT(m_frame->commands, IsEmpty());
 }
 
+TEST_F(PopupKeys, AKeyThatSeveralRowsShareWalksThroughThem) {
+    SubItem(0).SetKeys(L"", L"X");
+    SubItem(1).SetKeys(L"", L"X");
+    Click(Shapes());
+    Keys(m_window).Type(L"x");
+    EXPECT_EQ(Hot(), &SubItem(0));
+    Keys(m_window).Type(L"x");
+    EXPECT_EQ(Hot(), &SubItem(1));
+    EXPECT_THAT(m_frame->commands, IsEmpty());
+}
+
 TEST_F(PopupKeys, AltClosesEverything) {
     Click(Shapes());
     PopupBar().Highlight(&SubItem(3));

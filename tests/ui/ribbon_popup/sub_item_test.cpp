@@ -151,6 +151,25 @@ TEST_F(SubItems, AListLongerThanTheScreenScrollsToItsLastRow) {
     EXPECT_THAT(m_frame->commands, ElementsAre(2199u));
 }
 
+TEST_F(SubItems, TheWheelScrollsAsManyRowsAsTheUserHasSet) {
+    for (UINT index = 0; index < 200; ++index) {
+        Shapes().AddSubItem(new CMFCRibbonButton(2000 + index, L"Row"));
+    }
+    Click(Shapes());
+    UINT lines = 0;
+    ASSERT_TRUE(::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0));
+    ASSERT_GT(lines, 1u);
+    const auto isShown = [this](UINT row) {
+        return !Shapes().GetSubItems()[static_cast<INT_PTR>(row)]->GetRect().IsRectEmpty();
+    };
+    ASSERT_TRUE(isShown(0));
+    EXPECT_TRUE(PopupBar().OnWheel(-WHEEL_DELTA));
+    EXPECT_FALSE(isShown(lines - 1));
+    EXPECT_TRUE(isShown(lines));
+    EXPECT_TRUE(PopupBar().OnWheel(WHEEL_DELTA));
+    EXPECT_TRUE(isShown(0));
+}
+
 /// A button that has a menu of three items: two commands, between them a submenu of one.
 class MenuOfAHandle : public RibbonPopupTest {
 protected:

@@ -62,6 +62,15 @@ TEST(RowGeometryTest, ARowIsShownByTheShortestWay) {
     EXPECT_EQ(rows.OffsetToShow(50, 5), 750) << "a list lower than a row shows its beginning";
 }
 
+TEST(RowGeometryTest, AStepGoesByWholeRowsAndEndsAtTheEnds) {
+    const RowGeometry rows{10, 15, 30};
+    EXPECT_EQ(rows.OffsetAfter(1, 45), 45);
+    EXPECT_EQ(rows.OffsetAfter(-1, 45), 15);
+    EXPECT_EQ(rows.OffsetAfter(INT_MAX, 45), 105);
+    EXPECT_EQ(rows.OffsetAfter(INT_MIN, 45), 0);
+    EXPECT_EQ((RowGeometry{0, 15, 0}.OffsetAfter(1, 45)), 0);
+}
+
 TEST(RowGeometryTest, TheRowsBetweenTwoHeightsAreThoseOfWhichSomethingIsSeen) {
     const RowGeometry rows{100, 15, 30};
     EXPECT_EQ(RowsBetween(rows, 0, 15).first, 2);
