@@ -67,8 +67,11 @@ UINT CMFCRibbonBaseElement::GetNotifyID() { return m_nID; }
 
 void CMFCRibbonBaseElement::SetText(LPCTSTR lpszText) {
     const ribbon::NameAndKeys given = ribbon::SplitKeys(lpszText);
-    if (given.hasKeys) {
+    if (given.hasKeys && given.keys != m_strKeys) {
         m_strKeys = given.keys;
+        if (m_pRibbonBar != nullptr) {
+            m_pRibbonBar->GetElementKeys().Forget();
+        }
     }
     if (given.name == m_strText) {
         CleanUpSizes();

@@ -65,6 +65,14 @@ TEST_F(KeyMnemonicTest, NamesBringTheirKeys) {
     EXPECT_STREQ(panel->GetDefaultButton().GetKeyTipText(FALSE), L"ZZ");
 }
 
+TEST_F(KeyMnemonicTest, TheSameTextWithOtherKeysHasAnotherTip) {
+    CMFCRibbonBaseElement& cut = Element(commands::cut);
+    const CString former = cut.GetKeyTipText(FALSE);
+    ASSERT_NE(former, L"ZZ");
+    cut.SetText(CString(cut.GetText()) + L"\nzz");
+    EXPECT_EQ(cut.GetKeyTipText(FALSE), L"ZZ");
+}
+
 TEST_F(KeyMnemonicTest, AMarkedLetterCallsARowOfAMenu) {
     auto* button = new CMFCRibbonButton(commands::firstHandled + 60, L"&Menu");
     for (UINT place = 0; place < std::size(kMarked); ++place) {
