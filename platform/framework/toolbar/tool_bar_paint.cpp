@@ -26,15 +26,14 @@ void CMFCToolBar::DoPaint(CDC* pDC) {
     GetClientRect(&client);
     CRect clip;
     pDC->GetClipBox(&clip);
-    CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
-    manager->OnFillBarBackground(pDC, this, client, clip);
-    OnFillBackground(pDC);
+    CMFCVisualManager::GetInstance()->OnFillBarBackground(pDC, this, client, clip);
+    OnFillBackground(pDC); // a derived bar's, which may exchange the manager
     const BOOL isHorizontal = IsHorizontal();
     if (GetPaneStyle() & CBRS_GRIPPER) {
         CRect gripper = client;
         (isHorizontal ? gripper.right : gripper.bottom) =
             (isHorizontal ? gripper.left : gripper.top) + Scaled(toolbar::SeparatorSize);
-        manager->OnDrawBarGripper(pDC, gripper, isHorizontal, this);
+        CMFCVisualManager::GetInstance()->OnDrawBarGripper(pDC, gripper, isHorizontal, this);
     }
     CFont* const former = SelectToolBarFont(pDC, isHorizontal);
     int index = 0;
