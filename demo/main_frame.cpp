@@ -153,9 +153,7 @@ void CMainFrame::BuildRibbon() {
     if (m_ribbon.GetCategoryCount() > 0) {
         m_ribbon.SetActiveCategory(m_ribbon.GetCategory(std::min(shown, m_ribbon.GetCategoryCount() - 1)));
     }
-    // With their commands' states before they are first painted: the layout paints at once.
-    m_controls.ShowState();
-    m_ribbon.OnUpdateCmdUI(this, TRUE);
+    m_controls.ShowState(); // first: the layout paints at once
     m_ribbon.ForceRecalcLayout();
 }
 

@@ -63,7 +63,6 @@ void CMainFrame::BuildRibbon() {
     // host goes on without a ribbon.
     builder.Load(L"cfg\\ribbon.xml", &m_ribbon, TRUE);
     FillLampCombo();
-    m_ribbon.OnUpdateCmdUI(this, TRUE); // the layout paints at once: not without the commands' states
     m_ribbon.ForceRecalcLayout();
 }
 

@@ -1,5 +1,6 @@
 #include "afxribbonbar.h"
 
+#include <optional>
 #include <utility>
 
 #include "afxglobals.h"
@@ -8,7 +9,7 @@
 #include "afxvisualmanager.h"
 #include "fx/registered_messages.h"
 #include "fx/window_dc.h"
-#include "ribbon/bar_parts.h"
+#include "ribbon/asking_for_states.h"
 #include "ribbon/drawing_scope.h"
 #include "ribbon/paint_buffer.h"
 
@@ -126,6 +127,16 @@ void CMFCRibbonBar::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
 
 void CMFCRibbonBar::OnPaint() {
     EnsureLayout();
+    // What has come since the last idle time must not be seen enabled and unchecked first.
+    std::optional<AskingForStates> asking;
+    if (m_parts->states == RibbonBarParts::States::Unknown) {
+        asking.emplace(*this, *m_parts);
+        SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+        if (asking->IsBarGone()) {
+            return;
+        }
+        EnsureLayout();
+    }
     RibbonWindowPaint paint(*this);
     DoPaint(&paint.GetDC());
 }

@@ -31,6 +31,9 @@ void CMFCRibbonBar::MarkLayoutDirty() {
         return;
     }
     m_parts->layoutDirty = true;
+    if (m_parts->states == RibbonBarParts::States::Known) {
+        m_parts->states = RibbonBarParts::States::Unknown;
+    }
     m_parts->keyboard->Forget();
     if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
         Invalidate(FALSE);

@@ -5,7 +5,7 @@
 #include "afxcmn.h"
 #include "afxRibbonEdit.h"
 #include "fx/registered_messages.h"
-#include "ribbon/bar_parts.h"
+#include "ribbon/asking_for_states.h"
 
 namespace {
 
@@ -188,6 +188,7 @@ void CMFCRibbonBar::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
 }
 
 void CMFCRibbonBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    const AskingForStates asking(*this, *m_parts);
     UpdateMaximizeMode();
     EnsureLayout();
     CMFCRibbonCmdUI update;

@@ -35,6 +35,8 @@ struct RibbonBarParts {
     RibbonBarShape shape;
     RibbonBarArrangement arrangement;
     bool layoutDirty = true;
+    enum class States { Unknown, Asking, Known };
+    States states = States::Unknown; // of the commands of what is shown
     bool isLayingOut = false;
     bool isDrawing = false;
     bool isAskingForRoom = false;
