@@ -3,7 +3,7 @@ import io
 import os
 import struct
 
-COMPRESSED_FROM = 256  # the system reads larger pictures as PNG only
+LARGE = 256  # from here on the system reads PNG only
 
 
 def bitmap_bytes(image):
@@ -22,9 +22,9 @@ def png_bytes(image):
     return out.getvalue()
 
 
-def icon_bytes(images):
-    """The file's bytes, the pictures in the order given."""
-    bodies = [png_bytes(image) if image.width >= COMPRESSED_FROM else bitmap_bytes(image) for image in images]
+def icon_bytes(images, packed=False):
+    """The file's bytes, the pictures in the order given. Packed: all as PNG, which resource compilers do not take."""
+    bodies = [png_bytes(image) if packed or image.width >= LARGE else bitmap_bytes(image) for image in images]
     out = struct.pack("<HHH", 0, 1, len(images))
     offset = len(out) + 16 * len(images)
     for image, body in zip(images, bodies):
