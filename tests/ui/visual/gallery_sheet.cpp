@@ -134,7 +134,7 @@ private:
             const ElementState state{i == 1, i == 2, false, i == 3, false};
             const int y = 62 + 16 * i;
             PaintZoomButton(m_dc, At(462, y, 15, 15), false, state, m_look);
-            PaintSliderChannel(m_dc, At(482, y, 100, 15), m_look);
+            PaintSliderChannel(m_dc, At(482, y, 100, 15), At(520 + 10 * i, y, 0, 0).left, state.isDisabled, m_look);
             PaintSliderThumb(m_dc, At(515 + 10 * i, y, 10, 15), state, m_look);
             PaintZoomButton(m_dc, At(588, y, 15, 15), true, state, m_look);
         }
@@ -232,7 +232,7 @@ private:
         PaintEtchedLine(m_dc, At(310, 540, 6, 16), true, m_look.skin[ColorSlot::StatusSeparatorDark],
                         m_look.skin[ColorSlot::StatusSeparatorLight], m_look);
         PaintZoomButton(m_dc, At(800, 540, 16, 16), false, {}, m_look);
-        PaintSliderChannel(m_dc, At(820, 540, 110, 16), m_look);
+        PaintSliderChannel(m_dc, At(820, 540, 110, 16), At(875, 540, 0, 0).left, false, m_look);
         PaintSliderThumb(m_dc, At(870, 540, 11, 16), {}, m_look);
         PaintZoomButton(m_dc, At(936, 540, 16, 16), true, {}, m_look);
         PaintSizeBox(m_dc, At(984, 544, 16, 16), m_look);
