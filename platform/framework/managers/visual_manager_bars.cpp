@@ -135,7 +135,8 @@ void CMFCVisualManager::OnDrawComboDropButton(CDC* pDC, CRect rect, BOOL bDisabl
     if (isLit) {
         visual::PaintFace(*pDC, rect, skin[state.isDropped ? FaceSlot::DropButtonPressed : FaceSlot::DropButtonHot],
                           visual::PlateCorners(skin, LookOf(skin)), LookOf(skin));
-    } else {
+    } else if (!skin.isFlat || skin[FaceSlot::DropButton].top1 != skin[FaceSlot::Edit].top1) {
+        // Of a field in the same colour the round corners stay.
         visual::PaintFill(*pDC, rect, skin[FaceSlot::DropButton], LookOf(skin));
     }
     const visual::Argb arrow = skin[state.isDisabled ? ColorSlot::DropArrowDisabled

@@ -6,6 +6,7 @@
 #include <afxribbonbar.h>
 #include <afxribboncategory.h>
 #include <afxRibbonPanel.h>
+#include <afxribbonquickaccesstoolbar.h>
 #include <afxribbonslider.h>
 
 #include <array>
@@ -186,8 +187,12 @@ void CMFCVisualManager::OnDrawRibbonButtonBorder(CDC* pDC, CMFCRibbonButton* pBu
     }
 }
 
-COLORREF CMFCVisualManager::OnDrawRibbonButtonsGroup(CDC* pDC, CMFCRibbonButtonsGroup*, CRect rectGroup) {
-    visual::PaintGroup(*pDC, rectGroup, LookOf(GetSkin()));
+COLORREF CMFCVisualManager::OnDrawRibbonButtonsGroup(CDC* pDC, CMFCRibbonButtonsGroup* pGroup, CRect rectGroup) {
+    // A flat skin has no frame around what stands alone in its row.
+    const bool isQuickAccess = pGroup != nullptr && pGroup->IsKindOf(RUNTIME_CLASS(CMFCRibbonQuickAccessToolBar));
+    if (!GetSkin().isFlat || !isQuickAccess) {
+        visual::PaintGroup(*pDC, rectGroup, LookOf(GetSkin()));
+    }
     return static_cast<COLORREF>(-1);
 }
 

@@ -309,7 +309,7 @@ void PaintWindowGlyph(HDC dc, const RECT& rect, WindowGlyph glyph, Argb color, c
         if (canvas.IsEmpty()) {
             return;
         }
-        const double side = box.right - box.left, width = 1.3 * look.scale;
+        const double side = box.right - box.left, width = (look.skin.isFlat ? 0.8 : 1.3) * look.scale;
         const std::array<PointF, 4> falling{{{0, width}, {width, 0}, {side, side - width}, {side - width, side}}};
         const std::array<PointF, 4> rising{{{side - width, 0}, {side, width}, {width, side}, {0, side - width}}};
         FillPolygon(canvas.View(), falling, color);
