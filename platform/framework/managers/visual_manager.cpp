@@ -1,6 +1,7 @@
 #include "afxvisualmanager.h"
 
 #include <afxbasepane.h>
+#include <afxRibbonEdit.h>
 
 #include "afxglobals.h"
 #include "visual/canvas.h"
@@ -99,6 +100,10 @@ void __stdcall CMFCVisualManager::AdjustToolbars() {
             CWnd* const window = CWnd::FromHandlePermanent(bar);
             if (window != nullptr && window->IsKindOf(RUNTIME_CLASS(CBasePane))) {
                 ::SendMessageW(bar, AFX_WM_CHANGEVISUALMANAGER, 0, 0);
+            } else if (const auto* const field = DYNAMIC_DOWNCAST(CMFCRibbonRichEditCtrl, window)) {
+                // It keeps the colours that it was given.
+                CMFCRibbonEdit& edit = field->GetOwnerRibbonEdit();
+                edit.OnHighlight(edit.IsHighlighted());
             }
         }
     }

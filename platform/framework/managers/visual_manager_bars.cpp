@@ -9,6 +9,7 @@
 #include <afxribbonpanelmenu.h>
 
 #include <algorithm>
+#include <utility>
 
 using visual::ColorSlot;
 using visual::ElementState;
@@ -132,12 +133,18 @@ void CMFCVisualManager::OnDrawComboDropButton(CDC* pDC, CRect rect, BOOL bDisabl
     const ElementState state = ComboState(bDisabled, bIsDropped, bIsHighlighted);
     const visual::Skin& skin = GetSkin();
     const bool isLit = !state.isDisabled && (state.isHot || state.isDropped);
+    visual::Face face = skin[!isLit            ? FaceSlot::DropButton
+                             : state.isDropped ? FaceSlot::DropButtonPressed
+                                               : FaceSlot::DropButtonHot];
+    const std::uint32_t arrowPlate = std::exchange(face.plate, 0);
     if (isLit) {
-        visual::PaintFace(*pDC, rect, skin[state.isDropped ? FaceSlot::DropButtonPressed : FaceSlot::DropButtonHot],
-                          visual::PlateCorners(skin, LookOf(skin)), LookOf(skin));
-    } else if (!skin.isFlat || skin[FaceSlot::DropButton].top1 != skin[FaceSlot::Edit].top1) {
+        visual::PaintFace(*pDC, rect, face, visual::PlateCorners(skin, LookOf(skin)), LookOf(skin));
+    } else if (!skin.isFlat || face.top1 != skin[FaceSlot::Edit].top1) {
         // Of a field in the same colour the round corners stay.
-        visual::PaintFill(*pDC, rect, skin[FaceSlot::DropButton], LookOf(skin));
+        visual::PaintFill(*pDC, rect, face, LookOf(skin));
+    }
+    if (!state.isDisabled && visual::PaintPlate(*pDC, rect, arrowPlate, visual::PlatePlace::Alone, LookOf(skin))) {
+        return;
     }
     const visual::Argb arrow = skin[state.isDisabled ? ColorSlot::DropArrowDisabled
                                     : isLit          ? ColorSlot::DropArrowHot

@@ -32,6 +32,15 @@ struct FileCloser {
     void operator()(HANDLE file) const { ::CloseHandle(file); }
 };
 
+struct IconPartsDeleter {
+    ICONINFO info;
+    void operator()(void* icon) const {
+        ::DeleteObject(info.hbmColor);
+        ::DeleteObject(info.hbmMask);
+        ::DestroyIcon(static_cast<HICON>(icon));
+    }
+};
+
 struct StreamReleaser {
     void operator()(IStream* stream) const { stream->Release(); }
 };
@@ -111,6 +120,39 @@ Pixels ReadPngFile(const std::wstring& path) {
     Gdiplus::Bitmap source(stream.get());
     Pixels pixels = Decode(source);
     return pixels.width == width && pixels.height == height ? pixels : Pixels{};
+}
+
+Pixels ReadIconShape(const std::wstring& path, int side, std::uint32_t color) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) ||
+        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 || data.nFileSizeHigh != 0 ||
+        data.nFileSizeLow > kMostBytes || !StartGdiPlus()) {
+        return {};
+    }
+    const auto icon = static_cast<HICON>(::LoadImageW(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE));
+    ICONINFO info{};
+    if (icon == nullptr || !::GetIconInfo(icon, &info)) {
+        return {};
+    }
+    const std::unique_ptr<void, IconPartsDeleter> owned(icon, {info});
+    // The rows as they are: GDI+ gives up the transparency of a bitmap that it takes from a handle.
+    Pixels shape{std::vector<std::uint32_t>(static_cast<std::size_t>(side) * static_cast<std::size_t>(side)), side,
+                 side};
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof(format.bmiHeader), side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    const HDC screen = ::GetDC(nullptr);
+    const int rows =
+        ::GetDIBits(screen, info.hbmColor, 0, static_cast<UINT>(side), shape.bits.data(), &format, DIB_RGB_COLORS);
+    ::ReleaseDC(nullptr, screen);
+    if (rows != side) {
+        return {};
+    }
+    for (std::uint32_t& pixel : shape.bits) {
+        const std::uint32_t alpha = pixel >> 24;
+        const auto part = [alpha, color](int shift) { return ((color >> shift & 0xFF) * alpha + 127) / 255 << shift; };
+        pixel = alpha << 24 | part(16) | part(8) | part(0);
+    }
+    return shape;
 }
 
 Pixels Scaled(const Pixels& picture, int width, int height) {

@@ -24,6 +24,9 @@ bool ReadPngSize(const std::vector<unsigned char>& file, int& width, int& height
 /// Reads and decodes a PNG file of that path. Empty when it is missing, a folder, cut off or too large.
 Pixels ReadPngFile(const std::wstring& path);
 
+/// Reads an icon file at that size and paints its shape in one colour, 0xFFRRGGBB. Empty when there is no such icon.
+Pixels ReadIconShape(const std::wstring& path, int side, std::uint32_t color);
+
 /// Drawn anew at another size, smoothed.
 Pixels Scaled(const Pixels& picture, int width, int height);
 

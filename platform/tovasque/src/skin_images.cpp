@@ -85,6 +85,8 @@ constexpr std::array<PlateUse, static_cast<std::size_t>(PlateNumber::Count) - 1>
     Same(PlateNumber::CaptionInactive, SkinImage::CaptionGround, 1),
     Same(PlateNumber::TabRow, SkinImage::TabArea, 0),
     Same(PlateNumber::StatusGround, SkinImage::StatusGround, 0),
+    Same(PlateNumber::DropArrow, SkinImage::DropArrow, 0),
+    Same(PlateNumber::DropArrowHot, SkinImage::DropArrow, 1),
 }};
 
 constexpr bool ArePlatesInOrder() {
@@ -114,7 +116,27 @@ std::wstring FileFor(const std::wstring& path, int percent) {
     return path.substr(0, dot) + L'.' + std::to_wstring(percent) + path.substr(dot);
 }
 
+constexpr int kIconSide = 16; // of the drop-down arrow's icon at 100 %
+
 int Scaled(int pixels, int percent) { return (pixels * percent + 50) / 100; }
+
+/// One plate for each frame of the picture, which must stay where it is as long as they are used.
+void SetFrames(const Pixels& pixels, const SkinImageUse& use, int percent, std::array<visual::Plate, 3>& frames) {
+    const int width = pixels.width, height = pixels.height / use.frames;
+    for (int i = 0; i < use.frames && !pixels.IsEmpty(); ++i) {
+        visual::Plate& plate = frames[static_cast<std::size_t>(i)];
+        plate.pixels = pixels.bits.data() + static_cast<std::ptrdiff_t>(i) * width * height;
+        plate.width = width;
+        plate.height = height;
+        plate.left = std::min(Scaled(use.left, percent), width / 2);
+        plate.right = std::min(Scaled(use.right, percent), width / 2);
+        plate.top = std::min(Scaled(use.top, percent), height / 2);
+        plate.bottom = std::min(Scaled(use.bottom, percent), height / 2);
+        plate.name = NextPlateName();
+        plate.isOverFace = use.isOverFace;
+        plate.isCentred = use.isCentred;
+    }
+}
 
 } // namespace
 
@@ -139,9 +161,31 @@ const SkinPictures::Loaded& SkinPictures::Load(SkinImage image, double scale) co
     const int percent = static_cast<int>(std::lround(scale * 100));
     const auto [entry, isNew] = m_loaded.try_emplace({image, percent});
     if (isNew) {
-        entry->second = Read(image, percent);
+        entry->second = image == SkinImage::DropArrow ? ReadArrow(percent) : Read(image, percent);
     }
     return entry->second;
+}
+
+SkinPictures::Loaded SkinPictures::ReadArrow(int percent) const {
+    std::wstring directory;
+    if (m_dropDownIcon.IsEmpty() || !FileOp::GetAppPath(directory)) {
+        return {};
+    }
+    const std::wstring path = directory + static_cast<LPCTSTR>(m_dropDownIcon);
+    const int side = Scaled(kIconSide, percent);
+    Loaded loaded;
+    for (const visual::Argb color : m_arrowColors) {
+        const Pixels shape = ReadIconShape(path, side, color);
+        if (shape.IsEmpty()) {
+            return {};
+        }
+        loaded.pixels.bits.insert(loaded.pixels.bits.end(), shape.bits.begin(), shape.bits.end());
+    }
+    loaded.pixels.width = side;
+    loaded.pixels.height = side * static_cast<int>(m_arrowColors.size());
+    SetFrames(loaded.pixels, {SkinImage::DropArrow, static_cast<int>(m_arrowColors.size()), 0, 0, 0, 0, false, true},
+              percent, loaded.frames);
+    return loaded;
 }
 
 SkinPictures::Loaded SkinPictures::Read(SkinImage image, int percent) const {
@@ -174,20 +218,7 @@ SkinPictures::Loaded SkinPictures::Read(SkinImage image, int percent) const {
         loaded.pixels =
             Scaled(loaded.pixels, std::max(MulDiv(loaded.pixels.width, percent, filePercent), 1), frame * use.frames);
     }
-    const int width = loaded.pixels.width, height = loaded.pixels.height / use.frames;
-    for (int i = 0; i < use.frames && !loaded.pixels.IsEmpty(); ++i) {
-        visual::Plate& plate = loaded.frames[static_cast<std::size_t>(i)];
-        plate.pixels = loaded.pixels.bits.data() + static_cast<std::ptrdiff_t>(i) * width * height;
-        plate.width = width;
-        plate.height = height;
-        plate.left = std::min(Scaled(use.left, percent), width / 2);
-        plate.right = std::min(Scaled(use.right, percent), width / 2);
-        plate.top = std::min(Scaled(use.top, percent), height / 2);
-        plate.bottom = std::min(Scaled(use.bottom, percent), height / 2);
-        plate.name = NextPlateName();
-        plate.isOverFace = use.isOverFace;
-        plate.isCentred = use.isCentred;
-    }
+    SetFrames(loaded.pixels, use, percent, loaded.frames);
     return loaded;
 }
 

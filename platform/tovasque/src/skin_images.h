@@ -29,7 +29,8 @@ enum class SkinImage {
     TabArea,
     StatusButton,
     StatusButtonChecked,
-    StatusGround
+    StatusGround,
+    DropArrow ///< no picture of its own: from the icon of drop-down arrows
 };
 
 /// How a picture is stretched; pixels at 100 %.
@@ -47,10 +48,15 @@ const SkinImageUse& UseOf(SkinImage image);
 /// The pictures of one skin, read when first asked for and kept.
 class SkinPictures final : public visual::PlateSource {
 public:
-    explicit SkinPictures(const std::array<CString, kSkinImages>& paths) : m_paths(paths) {}
+    /// Both are the manager's.
+    SkinPictures(const std::array<CString, kSkinImages>& paths, const CString& dropDownIcon)
+        : m_paths(paths), m_dropDownIcon(dropDownIcon) {}
     ~SkinPictures() = default;
     SkinPictures(const SkinPictures&) = delete;
     SkinPictures& operator=(const SkinPictures&) = delete;
+
+    /// The icon of drop-down arrows is painted in these, at rest and on a lit button.
+    void SetArrowColors(visual::Argb rest, visual::Argb lit) { m_arrowColors = {rest, lit}; }
 
     const visual::Plate* FindPlate(std::uint32_t number, visual::PlatePlace place, int height,
                                    double scale) const override;
@@ -63,8 +69,11 @@ private:
     };
     const Loaded& Load(SkinImage image, double scale) const;
     Loaded Read(SkinImage image, int percent) const;
+    Loaded ReadArrow(int percent) const;
 
-    const std::array<CString, kSkinImages>& m_paths;              ///< the manager's
+    const std::array<CString, kSkinImages>& m_paths; ///< the manager's
+    const CString& m_dropDownIcon;
+    std::array<visual::Argb, 2> m_arrowColors{};
     mutable std::map<std::pair<SkinImage, int>, Loaded> m_loaded; ///< by picture and percent
 };
 

@@ -21,7 +21,8 @@ using visual::WithAlpha;
 
 constexpr double kTextContrast = 4.5;
 constexpr double kSignContrast = 3.0;
-constexpr double kPlateContrast = 7.0; // of texts on plates: enough that the plate stays calm
+constexpr double kPlateContrast = 7.0;                 // of texts on plates: enough that the plate stays calm
+constexpr unsigned kHotPlate = 20, kPressedPlate = 41; // how far a picture covers its ground, of 255
 constexpr Argb kBlack = 0xFF000000, kWhite = 0xFFFFFFFF;
 
 Face Flat(Argb outer, Argb fill, PlateNumber plate = PlateNumber::None) {
@@ -120,7 +121,8 @@ void SetRibbon(Skin& skin, const Palette& p, const Shared& s) {
     skin[FaceSlot::CaptionButtonPressed] = Flat(0, WithAlpha(s.titleText, 48));
     skin[ColorSlot::CaptionText] = skin[ColorSlot::CaptionGlyph] = skin[ColorSlot::QatText] = s.titleText;
     skin[ColorSlot::CaptionTextInactive] =
-        Readable(Mix(s.title, s.titleText, 1, 2), s.titleText, {s.title}, kTextContrast);
+        Readable(Mix(s.title, s.titleText, 1, 2), s.titleText, {s.title, Mix(s.title, p.GetRibbonTabBgColor, 1, 8)},
+                 kTextContrast);
     skin[ColorSlot::QatTextDisabled] = Disabled(s.titleText, {s.title});
     skin[ColorSlot::FrameBorder] = p.GetRibbonTabBgColor;
 }
@@ -153,9 +155,10 @@ void SetFields(Skin& skin, const Palette& p, const Shared& s) {
     skin[ColorSlot::EditTextDisabled] = Disabled(s.text, {disabledField});
     skin[ColorSlot::EditSelection] = s.accent;
     skin[ColorSlot::EditSelectionText] = BlackOrWhiteOn(s.accent);
-    skin[FaceSlot::DropButton] = Flat(0, p.GetDropDownBtnColor);
-    skin[FaceSlot::DropButtonHot] = Flat(0, p.GetDropDownBtnHilightClr);
-    skin[FaceSlot::DropButtonPressed] = Flat(0, Mix(p.GetDropDownBtnHilightClr, kBlack, 1, 5));
+    skin[FaceSlot::DropButton] = Flat(0, p.GetDropDownBtnColor, PlateNumber::DropArrow);
+    skin[FaceSlot::DropButtonHot] = Flat(0, p.GetDropDownBtnHilightClr, PlateNumber::DropArrowHot);
+    skin[FaceSlot::DropButtonPressed] =
+        Flat(0, Mix(p.GetDropDownBtnHilightClr, kBlack, 1, 5), PlateNumber::DropArrowHot);
     skin[ColorSlot::DropArrow] = BlackOrWhiteOn(p.GetDropDownBtnColor);
     skin[ColorSlot::DropArrowHot] = BlackOrWhiteOn(p.GetDropDownBtnHilightClr);
     skin[ColorSlot::DropArrowDisabled] = Disabled(BlackOrWhiteOn(p.GetDropDownBtnColor), {p.GetDropDownBtnColor});
@@ -177,7 +180,8 @@ void SetFields(Skin& skin, const Palette& p, const Shared& s) {
 void SetBars(Skin& skin, const Palette& p, const Shared& s) {
     skin[FaceSlot::ToolBar] = Flat(0, s.bar);
     skin[ColorSlot::BarBackground] = skin[ColorSlot::DividerFill] = s.bar;
-    skin[ColorSlot::ToolbarText] = skin[ColorSlot::ToolbarTextHot] = s.barText;
+    skin[ColorSlot::ToolbarText] = s.barText;
+    skin[ColorSlot::ToolbarTextHot] = s.text;
     skin[ColorSlot::ToolbarTextDisabled] = Disabled(s.barText, {s.bar, s.ground, s.popup});
     skin[ColorSlot::GripperDark] = Sign(Mix(s.bar, s.barText, 2, 5), {s.bar});
     skin[FaceSlot::StatusBar] = Flat(p.GetStatusBarIntervalColor, s.bar, PlateNumber::StatusGround);
@@ -194,9 +198,11 @@ void SetBars(Skin& skin, const Palette& p, const Shared& s) {
         Readable(captionText, BlackOrWhiteOn(activeCaption), {activeCaption}, kTextContrast);
     skin[ColorSlot::PaneGlyph] = Sign(p.GetPanelBtnClrNormal, {caption});
     const Argb hotCaption = Over(skin[FaceSlot::ButtonHot].top1, caption);
-    skin[ColorSlot::PaneGlyphHot] = Sign(p.GetPanelBtnClrHilighted, {hotCaption, activeCaption});
+    skin[ColorSlot::PaneGlyphHot] = Sign(
+        p.GetPanelBtnClrHilighted, {caption, hotCaption, Over(WithAlpha(s.text, kHotPlate), caption), activeCaption});
     skin[ColorSlot::PaneGlyphPressed] =
-        Sign(p.GetPanelBtnClrPressed, {Over(skin[FaceSlot::ButtonPressed].top1, caption)});
+        Sign(p.GetPanelBtnClrPressed, {caption, Over(WithAlpha(s.text, kPressedPlate), caption),
+                                       Over(skin[FaceSlot::ButtonPressed].top1, caption)});
     skin[ColorSlot::PaneBorder] = p.GetPanelOuterBorderColor;
     skin[ColorSlot::MdiBackground] = p.GetEraseTabAreaColor;
 

@@ -28,6 +28,8 @@ enum class PlateNumber : std::uint32_t {
     CaptionInactive,
     TabRow,
     StatusGround,
+    DropArrow, // from the icon of drop-down arrows, these two
+    DropArrowHot,
     Count
 };
 

@@ -23,10 +23,7 @@ COLORREF ToColorRef(visual::Argb color) {
     return RGB(visual::RedOf(color), visual::GreenOf(color), visual::BlueOf(color));
 }
 
-CMFCPopupMenuBar* DropListOf(CWnd* window) {
-    auto* const bar = DYNAMIC_DOWNCAST(CMFCPopupMenuBar, window);
-    return bar != nullptr && bar->IsDropDownListMode() ? bar : nullptr;
-}
+CMFCPopupMenuBar* MenuOf(CWnd* window) { return DYNAMIC_DOWNCAST(CMFCPopupMenuBar, window); }
 
 } // namespace
 
@@ -39,8 +36,9 @@ const visual::Skin& SkinTable::Get() {
         TOVASQUE_SKIN_GETTERS(TOVASQUE_READ)
 #undef TOVASQUE_READ
         palette.accent = m_manager.GetBaseStyle() == 0 ? kDeepBlue : kLightBlue;
-        m_pictures.emplace(m_manager.GetSkinImages());
+        m_pictures.emplace(m_manager.GetSkinImages(), m_manager.GetDropDownIconPath());
         m_skin = MakeFlatSkin(palette);
+        m_pictures->SetArrowColors((*m_skin)[visual::ColorSlot::DropArrow], (*m_skin)[visual::ColorSlot::DropArrowHot]);
         m_skin->plates = m_manager.IsImageMode() ? &*m_pictures : nullptr;
     }
     return *m_skin;
@@ -134,7 +132,7 @@ void CMFCVisualManagerOffice20072::OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* 
 
 void CMFCVisualManagerOffice20072::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect rectClip,
                                                        BOOL bNCArea) {
-    if (CMFCPopupMenuBar* const list = DropListOf(pBar); list != nullptr && CanDrawStyle() && IsLightDropList(list)) {
+    if (CMFCPopupMenuBar* const list = MenuOf(pBar); list != nullptr && CanDrawStyle() && IsLightDropList(list)) {
         pDC->FillSolidRect(rectClient, GetRibbonEditBgColor());
         return;
     }
@@ -151,7 +149,7 @@ void CMFCVisualManagerOffice20072::OnFillBarBackground(CDC* pDC, CBasePane* pBar
 
 void CMFCVisualManagerOffice20072::OnHighlightMenuItem(CDC* pDC, CMFCToolBarMenuButton* pButton, CRect rect,
                                                        COLORREF& clrText) {
-    CMFCPopupMenuBar* const list = pButton != nullptr ? DropListOf(pButton->GetParentWnd()) : nullptr;
+    CMFCPopupMenuBar* const list = pButton != nullptr ? MenuOf(pButton->GetParentWnd()) : nullptr;
     if (list == nullptr || !CanDrawStyle() || !IsLightDropList(list)) {
         CMFCVisualManagerOffice2007::OnHighlightMenuItem(pDC, pButton, rect, clrText);
         return;
