@@ -215,8 +215,11 @@ std::uint32_t DisabledPixel(std::uint32_t pixel) {
         return 0;
     }
     const unsigned luma = (RedOf(pixel) * 77 + GreenOf(pixel) * 151 + BlueOf(pixel) * 28) >> 8;
-    // Half the contrast around a light grey, so that dark images stay readable and bright ones do not vanish.
-    const unsigned grey = std::min(luma / 2 + Scale255(96, alpha), alpha);
+    // What is dark becomes one dark grey and what is light one light grey, so that an icon of two tones has one left.
+    // Both have 3:1 on the grounds of a dark and of a light skin.
+    const unsigned third = Scale255(96, alpha);
+    const unsigned rise = luma > third ? std::min(luma - third, third) : 0;
+    const unsigned grey = std::min(Scale255(88, alpha) + luma / 16 + rise, alpha);
     const unsigned kept = alpha * 3 / 4;
     return MakeArgb(kept, grey * 3 / 4, grey * 3 / 4, grey * 3 / 4);
 }

@@ -86,26 +86,10 @@ BOOL CMFCToolBarImages::Append(HBITMAP hbmp, BOOL bHasAlpha) {
     return joined != nullptr;
 }
 
-int CMFCToolBarImages::AddIcon(HICON hIcon, BOOL bAlphaBlend) {
-    Picture picture = visual::PictureFromIcon(hIcon, m_sizeImage);
-    if (picture.bitmap == nullptr) {
-        return -1;
-    }
-    if (!bAlphaBlend) {
-        // Without blending a pixel is there or not.
-        const PixelView view = ViewOf(picture.bitmap);
-        for (int i = 0; i < view.width * view.height; ++i) {
-            const unsigned alpha = visual::AlphaOf(view.bits[i]);
-            const auto whole = [alpha](unsigned channel) {
-                return std::min(channel * 255 / std::max(alpha, 1u), 255u);
-            };
-            view.bits[i] = alpha < 128 ? 0
-                                       : visual::MakeArgb(255, whole(visual::RedOf(view.bits[i])),
-                                                          whole(visual::GreenOf(view.bits[i])),
-                                                          whole(visual::BlueOf(view.bits[i])));
-        }
-    }
-    return Append(picture.bitmap, TRUE) ? m_iCount - 1 : -1;
+// Soft edges are kept whether blending is asked for or not: cut to whole pixels, slanting lines of an icon are jagged.
+int CMFCToolBarImages::AddIcon(HICON hIcon, BOOL /*bAlphaBlend*/) {
+    const Picture picture = visual::PictureFromIcon(hIcon, m_sizeImage);
+    return picture.bitmap != nullptr && Append(picture.bitmap, TRUE) ? m_iCount - 1 : -1;
 }
 
 int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL) {

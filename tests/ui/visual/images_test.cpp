@@ -1,6 +1,26 @@
 #include "images_fixture.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
 namespace {
+
+/// An icon of one colour with alpha; the caller destroys it.
+HICON MakeTranslucentIcon(int side, std::uint32_t argb) {
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    const HBITMAP color = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    std::fill_n(static_cast<std::uint32_t*>(bits), side * side, argb);
+    const std::vector<BYTE> clear(static_cast<std::size_t>(side) * 2);
+    const HBITMAP mask = ::CreateBitmap(side, side, 1, 1, clear.data());
+    ICONINFO parts{TRUE, 0, 0, mask, color};
+    const HICON icon = ::CreateIconIndirect(&parts);
+    ::DeleteObject(mask);
+    ::DeleteObject(color);
+    return icon;
+}
 
 TEST_F(Images, CountsAndDrawsByIndex) {
     EXPECT_EQ(m_images.GetCount(), 3);
@@ -111,6 +131,19 @@ TEST_F(Images, IconsAreAddedAtTheListsSize) {
     m_images.DrawEx(&m_dc, CRect(0, 0, 4, 4), 3);
     EXPECT_EQ(m_dc.GetPixel(2, 2), RGB(0, 0xC0, 0));
     EXPECT_EQ(m_images.AddIcon(nullptr), -1);
+}
+
+TEST_F(Images, AnIconsSoftEdgesAreKeptWithoutBlendingToo) {
+    for (const BOOL blends : {FALSE, TRUE}) {
+        const HICON icon = MakeTranslucentIcon(4, 0x80000000);
+        CMFCToolBarImages images;
+        images.SetImageSize(CSize(4, 4));
+        EXPECT_EQ(images.AddIcon(icon, blends), 0);
+        ::DestroyIcon(icon);
+        m_dc.FillSolidRect(0, 0, 4, 4, RGB(255, 255, 255));
+        images.DrawEx(&m_dc, CRect(0, 0, 4, 4), 0);
+        EXPECT_NEAR(GetRValue(m_dc.GetPixel(2, 2)), 127, 2) << blends;
+    }
 }
 
 TEST_F(Images, MirroringRightToLeftTurnsEachImage) {

@@ -111,6 +111,40 @@ TEST(Disabled, IsGreyAndKeepsClearPixelsClear) {
     EXPECT_LT(contrast, 160);
 }
 
+/// A disabled pixel on an opaque ground.
+std::uint32_t OnGround(std::uint32_t pixel, std::uint32_t ground) {
+    const std::uint32_t grey = DisabledPixel(pixel);
+    const auto channel = [&](unsigned above, unsigned below) { return above + below * (255 - AlphaOf(grey)) / 255; };
+    return MakeArgb(255, channel(RedOf(grey), RedOf(ground)), channel(GreenOf(grey), GreenOf(ground)),
+                    channel(BlueOf(grey), BlueOf(ground)));
+}
+
+struct IconsOnGrounds {
+    std::vector<std::uint32_t> tones;
+    std::vector<std::uint32_t> grounds;
+};
+
+TEST(Disabled, IconsOfBothSkinsHaveThreeToOneInNearlyOneTone) {
+    const IconsOnGrounds skins[] = {{{0xFF2B3038, 0xFF1C64C8}, {0xFFFFFFFF, 0xFFFAFAFA, 0xFFE9EEEE, 0xFFEBF0F4}},
+                                    {{0xFFECEFF5, 0xFFA2CAFF}, {0xFF3C4049, 0xFF4A4D59, 0xFF4B505C, 0xFF434752}}};
+    for (const IconsOnGrounds& skin : skins) {
+        for (const std::uint32_t tone : skin.tones) {
+            for (const std::uint32_t ground : skin.grounds) {
+                EXPECT_GE(Contrast(OnGround(tone, ground), ground), 3.0) << std::hex << tone << " on " << ground;
+            }
+        }
+        EXPECT_NEAR(RedOf(DisabledPixel(skin.tones[0])), RedOf(DisabledPixel(skin.tones[1])), 8);
+    }
+}
+
+TEST(Disabled, ASoftEdgeIsTheSameGreyWithLessOfIt) {
+    // White and black at half strength, multiplied.
+    for (const auto& [whole, half] : {std::pair{0xFFFFFFFFu, 0x80808080u}, std::pair{0xFF000000u, 0x80000000u}}) {
+        EXPECT_NEAR(AlphaOf(DisabledPixel(half)) * 2, AlphaOf(DisabledPixel(whole)), 4);
+        EXPECT_NEAR(RedOf(DisabledPixel(half)) * 2, RedOf(DisabledPixel(whole)), 4);
+    }
+}
+
 TEST(Resampling, KeepsAPlainColourAndHalvesAChequer) {
     std::vector<std::uint32_t> plain(16, 0xFF336699), larger(36);
     Resample({plain.data(), 4, 4}, {larger.data(), 6, 6});
