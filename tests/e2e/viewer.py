@@ -5,6 +5,8 @@ import subprocess
 import tempfile
 import time
 
+from PIL import ImageGrab
+
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 DEADLINE = 40
 
@@ -20,7 +22,8 @@ class Viewer:
 
     def __enter__(self):
         read_end, write_end = os.pipe()
-        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-noreset"],
+        # White where no window is: what is black is a window's.
+        self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-noreset", "-wr"],
                                         pass_fds=[write_end], stderr=subprocess.DEVNULL)
         os.close(write_end)
         # The number may come in pieces; the line end closes it.
@@ -163,6 +166,40 @@ class Viewer:
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self._environment,
                                capture_output=True, text=True)
         return found.stdout.split()
+
+    def wheel(self, x, y, steps):
+        """Turns the wheel over a point: away from the person for positive steps."""
+        self._xdotool("mousemove", x, y, "sleep", 0.2, "click", "--repeat", abs(steps), "--delay", 5, 4 if steps > 0 else 5)
+
+    def move(self, x, y):
+        self._xdotool("mousemove", x, y)
+
+    def press(self, x, y):
+        self._xdotool("mousemove", x, y, "sleep", 0.2, "mousedown", 1)
+
+    def look(self):
+        """What the screen shows now, quickly."""
+        return ImageGrab.grab(xdisplay=self._environment["DISPLAY"]).convert("RGB")
+
+    def look_until(self, condition, seconds=DEADLINE):
+        """Looks in a row until one meets the condition; each that differs from the one before it."""
+        looks = []
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            look = self.look()
+            if not looks or look.tobytes() != looks[-1].tobytes():
+                looks.append(look)
+            if condition(look):
+                return looks
+        raise AssertionError(f"not seen within {seconds} s")
+
+    def settled_look(self):
+        """What the screen shows when it has stopped changing."""
+        before, now = None, self.look()
+        while before is None or before.tobytes() != now.tobytes():
+            time.sleep(0.4)
+            before, now = now, self.look()
+        return now
 
     def picture(self, path):
         subprocess.run(["import", "-window", "root", path], env=self._environment, check=True)

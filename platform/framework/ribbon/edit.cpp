@@ -5,6 +5,7 @@
 #include <afxvisualmanager.h>
 
 #include "ribbon/edit_geometry.h"
+#include "ribbon/edit_unseen.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/shown_text.h"
 
@@ -151,6 +152,9 @@ void CMFCRibbonEdit::OnDraw(CDC* pDC) {
         DrawRibbonText(pDC, m_strEdit, fx::ToRect(face.text), DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | align, text);
     }
     OnDrawBorder(pDC);
+    if (isWindowShown && TakeUnseen(*m_pWndEdit)) {
+        m_pWndEdit->Invalidate();
+    }
 }
 
 void CMFCRibbonEdit::OnDrawLabelAndImage(CDC* pDC) {

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "ribbon/access_texts.h"
+#include "ribbon/edit_unseen.h"
 #include "ribbon/element_metrics.h"
 #include <oleacc.h>
 
@@ -146,9 +147,16 @@ void CMFCRibbonEdit::PlaceEditWindow() {
         m_nWindowTextHeight = afxGlobalData.GetCharacterHeight();
         m_pWndEdit->SetFont(&afxGlobalData.fontRegular);
     }
+    const bool wasShown = (m_pWndEdit->GetStyle() & WS_VISIBLE) != 0;
+    if (!wasShown) {
+        UpdateWindowColors(); // before: new colours are painted
+        MarkUnseen(*m_pWndEdit);
+    }
     m_pWndEdit->SetWindowPos(nullptr, m_rectText.left, m_rectText.top, m_rectText.Width(), m_rectText.Height(),
-                             SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
-    UpdateWindowColors();
+                             SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW | (wasShown ? 0u : SWP_NOREDRAW));
+    if (wasShown) {
+        UpdateWindowColors();
+    }
 }
 
 void CMFCRibbonEdit::ShowTextInWindow() {

@@ -82,6 +82,19 @@ TEST_F(Edits, TheWindowHidesWithTheElement) {
     EXPECT_TRUE(edit->GetEditWnd()->IsWindowVisible());
 }
 
+TEST_F(Edits, TheWindowIsNotPaintedBeforeTheElementIsDrawnThere) {
+    Show(*edit);
+    CWnd& field = *edit->GetEditWnd();
+    EXPECT_TRUE(field.IsWindowVisible());
+    EXPECT_FALSE(field.GetUpdateRect(nullptr)) << "on the screen is what was there before, and stays";
+    Canvas canvas(200, 100);
+    edit->OnDraw(&canvas);
+    EXPECT_TRUE(field.GetUpdateRect(nullptr));
+    field.UpdateWindow();
+    edit->OnDraw(&canvas);
+    EXPECT_FALSE(field.GetUpdateRect(nullptr)) << "only once";
+}
+
 TEST_F(Edits, SetTextReachesTheWindowAndSendsNothing) {
     Show(*edit);
     edit->SetEditText(L"new");
