@@ -111,6 +111,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     if (CFrameWndEx::OnCreate(createStruct) == -1) {
         return -1;
     }
+    ShowIcon();
     ApplySkin();
     if (!m_ribbon.Create(this) || !m_map.Create(this, AFX_IDW_PANE_FIRST)) {
         return -1;
@@ -120,6 +121,15 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     ApplyTexts();
     m_map.SetPointerListener([this](GeoPoint place) { m_controls.ShowPointer(place); });
     return 0;
+}
+
+// The window class has the icon for the display's own scale only.
+void CMainFrame::ShowIcon() {
+    constexpr int usualSide = 16;
+    const int side = static_cast<int>(usualSide * afxGlobalData.GetRibbonImageScale() + 0.5);
+    m_icon.reset(static_cast<HICON>(::LoadImageW(AfxGetInstanceHandle(), MAKEINTRESOURCEW(IDR_MAINFRAME), IMAGE_ICON,
+                                                 side, side, LR_DEFAULTCOLOR)));
+    SetIcon(m_icon.get(), FALSE);
 }
 
 void CMainFrame::OnSetFocus(CWnd*) { m_map.SetFocus(); }

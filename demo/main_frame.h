@@ -9,6 +9,9 @@
 #include "options.h"
 #include "viewer_commands.h"
 
+#include <memory>
+#include <type_traits>
+
 class CAddRibbonBar;
 
 /// From now on the thread's resources, the framework's own texts among them, are those of the language in force.
@@ -72,6 +75,12 @@ private:
     void SavePicture() override;
     void CopyText(const std::wstring& text) override;
 
+    void ShowIcon();
+
+    struct IconDestroyer {
+        void operator()(HICON icon) const { ::DestroyIcon(icon); }
+    };
+    std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> m_icon; ///< The window's small one.
     DemoOptions m_options;
     MapData m_data;
     MapState m_state;
