@@ -173,6 +173,15 @@ class DumpOfTwoFiles(OwnInstallation):
                 self.assertEqual(right > left and bottom > top, category["name"] == name)
 
 
+    def test_a_path_shows_the_categories_and_the_quick_access_of_its_file(self):
+        for path, shown, quick in (("ribbon-a", "The map", [41002]), ("Ribbon-B", "No command", [])):
+            got = self.dump("--path", path)
+            for category in got["ribbon"]["categories"]:
+                self.assertEqual(category["visible"], category["name"] == shown)
+                self.assertEqual(category["active"], category["name"] == shown)
+            self.assertEqual(got["ribbon"]["quickAccess"], quick)
+
+
 class ExitCode1(OwnInstallation):
     def check(self, line, *arguments, built=("The map", "No command")):
         result, got = self.preview(*arguments)
@@ -182,6 +191,12 @@ class ExitCode1(OwnInstallation):
 
     def test_a_category_that_is_not_there(self):
         self.check("no category named Nowhere", "--lang", "en", "--category", "Nowhere")
+
+    def test_a_path_that_is_not_there(self):
+        self.check("no path named nowhere", "--lang", "en", "--path", "nowhere")
+
+    def test_a_category_that_the_path_does_not_show(self):
+        self.check("no category named The map", "--lang", "en", "--path", "Ribbon-B", "--category", "The map")
 
     def test_a_language_that_is_not_there_or_is_broken(self):
         self.check("no usable language fr", "--lang", "fr")

@@ -6,6 +6,7 @@
 #include "command_line.h"
 #include "dyn_menu_creater.h"
 #include "frame_dump.h"
+#include "ribbon_bar_ex.h"
 #include "ribbon_icon_button.h"
 #include "screenshot.h"
 #include "skin_visual_managers.h"
@@ -16,6 +17,7 @@
 #include "varnhold/strings.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 
@@ -51,9 +53,11 @@ public:
                 Complain(L"not loaded: " + file);
                 isComplete = false;
             }
+            DeclarePath(file, builder);
             m_commands.push_back(builder.m_cmdList);
         }
         isComplete = BuildMenus() && isComplete;
+        isComplete = ShowPath() && isComplete;
         isComplete = ShowCategory() && isComplete;
         m_ribbon.ForceRecalcLayout();
         return isComplete;
@@ -80,6 +84,26 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// What a host would declare: the categories that the file added and its quick access commands.
+    void DeclarePath(const std::wstring& file, const CAddRibbonBar& builder) {
+        int first = -1, last = -1;
+        if (builder.GetAddIndex(first, last) <= 0) {
+            return;
+        }
+        std::vector<unsigned int> commands;
+        builder.GetQAToolBar(commands);
+        m_ribbon.setPath(std::filesystem::path(file).stem().wstring(), first, last, {commands.begin(), commands.end()});
+    }
+
+    /// False when there is no path of the name that was asked for.
+    bool ShowPath() {
+        if (m_options.path.empty() || m_ribbon.ShowPath(m_options.path)) {
+            return true;
+        }
+        Complain(L"no path named " + m_options.path);
+        return false;
+    }
+
     /// False when a file could not be loaded.
     bool BuildMenus() {
         bool isComplete = true;
@@ -104,7 +128,10 @@ private:
     bool ShowCategory() {
         for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
             CMFCRibbonCategory* const category = m_ribbon.GetCategory(i);
-            if (m_options.category.empty() ? i == 0 : m_options.category == category->GetName()) {
+            // A path has made a category of its own active.
+            const bool isFirst = i == 0 && m_options.path.empty();
+            const bool isNamed = category->IsVisible() && m_options.category == category->GetName();
+            if (m_options.category.empty() ? isFirst : isNamed) {
                 m_ribbon.SetActiveCategory(category);
                 return true;
             }
@@ -117,7 +144,7 @@ private:
     }
 
     const BarviewOptions& m_options;
-    CMFCRibbonBar m_ribbon;
+    CMFCRibbonBarEx m_ribbon;
     std::vector<std::vector<std::wstring>> m_commands;
     std::vector<std::unique_ptr<CDynMenuCreater>> m_menus;
 };

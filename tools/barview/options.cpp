@@ -35,14 +35,17 @@ std::vector<std::wstring> FindFiles(const std::wstring& directory, const CString
 
 const wchar_t* BarviewUsage() {
     return L"usage: barview DIR [--ribbon FILE]... [--menu FILE] [--lang LANG] [--skin black|silver] [--size WxH]\n"
-           L"               [--scale PERCENT] [--category NAME] [--screenshot OUT.png] [--dump OUT.json]\n"
+           L"               [--scale PERCENT] [--category NAME] [--path NAME] [--screenshot OUT.png] [--dump "
+           L"OUT.json]\n"
            L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon or "
            L"--menu\n"
            L"it takes cfg\\ribbon*.xml or cfg\\menu*.xml in name order. With --screenshot or --dump it leaves when "
            L"they are written.\n"
            L"Exit code: 0, 1 when a file could not be loaded or written, when there is no ribbon file, or no category "
-           L"of\n"
-           L"that name, 2 on wrong usage.\n";
+           L"or\n"
+           L"path of that name, 2 on wrong usage. The categories of each ribbon file are a path, named as the file is "
+           L"without\n"
+           L"its extension.\n";
 }
 
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
@@ -75,6 +78,7 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
          [&](const std::wstring& value) { return ParseSize(value, kLargest, options.width, options.height); }},
         {L"--scale", [&](const std::wstring& value) { return ParseInteger(value, 50, 400, options.scalePercent); }},
         {L"--category", text(options.category)},
+        {L"--path", text(options.path)},
         {L"--screenshot", text(options.screenshot)},
         {L"--dump", text(options.dump)},
     };

@@ -15,6 +15,7 @@ struct BarviewOptions {
     int height = 300;
     int scalePercent = 0;  ///< 0: as the screen says.
     std::wstring category; ///< Name of the category to show; empty: the first.
+    std::wstring path;     ///< Of the working mode to show; empty: all categories.
     std::wstring screenshot;
     std::wstring dump;
 

@@ -2,6 +2,7 @@
 
 #include "check_drop_down.h"
 #include "skins/menu_rules.h"
+#include "tests/support/scoped_value.h"
 
 #include <afxpopupmenu.h>
 #include <afxribbonbar.h>
@@ -108,9 +109,8 @@ TEST_F(SkinRules, AMenuThatHangsFromNothingHasABorderOfTwoPixelsInTheMenusOwnCol
     EXPECT_EQ(canvas.At(37, 27), Canvas::background);
 }
 
-TEST_F(SkinRules, WithoutPicturesTheMenusBorderIsThePlatformsOlderOne) {
-    auto& skin = Use<OpenBlackSkin>();
-    skin.SetImageMode(FALSE);
+/// The border is what the platform's older manager draws.
+void ExpectOlderBorder(OpenBlackSkin& skin) {
     CMFCPopupMenu menu;
     Canvas got(CSize(40, 30)), want(CSize(40, 30));
     skin.OnDrawMenuBorder(got.Dc(), &menu, CRect(0, 0, 40, 30));
@@ -118,6 +118,38 @@ TEST_F(SkinRules, WithoutPicturesTheMenusBorderIsThePlatformsOlderOne) {
     EXPECT_EQ(got.At(0, 0), want.At(0, 0));
     EXPECT_EQ(got.Colours(), want.Colours());
     EXPECT_NE(got.At(0, 0), Pixel(kMenuBorder));
+}
+
+TEST_F(SkinRules, WithoutPicturesTheMenusBorderIsThePlatformsOlderOne) {
+    auto& skin = Use<OpenBlackSkin>();
+    skin.SetImageMode(FALSE);
+    ExpectOlderBorder(skin);
+}
+
+TEST_F(SkinRules, InHighContrastTheMenusBorderIsThePlatformsOlderOne) {
+    auto& skin = Use<OpenBlackSkin>();
+    {
+        const ScopedValue black(afxGlobalData.m_bIsBlackHighContrast, TRUE);
+        ExpectOlderBorder(skin);
+    }
+    const ScopedValue white(afxGlobalData.m_bIsWhiteHighContrast, TRUE);
+    ExpectOlderBorder(skin);
+}
+
+TEST_F(SkinRules, OnADisplayOfFewColoursTheMenusBorderIsThePlatformsOlderOne) {
+    auto& skin = Use<OpenBlackSkin>();
+    const ScopedValue bits(afxGlobalData.m_nBitsPerPixel, 8);
+    ExpectOlderBorder(skin);
+}
+
+TEST_F(SkinRules, InHighContrastTheSystemsColoursAreDrawn) {
+    auto& skin = Use<OpenBlackSkin>();
+    const ScopedValue black(afxGlobalData.m_bIsBlackHighContrast, TRUE);
+    Canvas canvas;
+    skin.OnDrawRibbonTabsFrame(canvas.Dc(), nullptr, CRect(0, 0, 40, 40));
+    EXPECT_NE(canvas.At(20, 20), Pixel(RGB(50, 52, 62)));
+    CMFCToolTipInfo info;
+    EXPECT_FALSE(CMFCVisualManager::GetInstance()->GetToolTipInfo(info));
 }
 
 TEST_F(SkinRules, TheSilverSkinsMenuBorderIsThePlatforms) {
