@@ -174,7 +174,7 @@ class DumpOfTwoFiles(OwnInstallation):
 
 
     def test_a_path_shows_the_categories_and_the_quick_access_of_its_file(self):
-        for path, shown, quick in (("ribbon-a", "The map", [41002]), ("Ribbon-B", "No command", [])):
+        for path, shown, quick in (("ribbon-a", "The map", []), ("Ribbon-B", "No command", [41002])):
             got = self.dump("--path", path)
             for category in got["ribbon"]["categories"]:
                 self.assertEqual(category["visible"], category["name"] == shown)
