@@ -68,8 +68,8 @@ struct SliceMargins {
 void FillSlices(const PixelView& view, const fx::Rect& rect, std::span<const std::uint32_t> picture, int width,
                 const SliceMargins& margins);
 
-/// A dark grey for what is dark, a light one for what is light, with less contrast than before and a quarter of the ground
-/// showing through. Multiplied pixels.
+/// A dark grey for what is dark, a light one for what is light, with less contrast than before and a quarter of the
+/// ground showing through. Multiplied pixels.
 std::uint32_t DisabledPixel(std::uint32_t pixel);
 /// Resampled with averaging (smaller) or bilinear (larger); multiplied pixels. Views must not overlap.
 void Resample(const PixelView& source, const PixelView& target);
