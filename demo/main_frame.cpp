@@ -3,21 +3,27 @@
 #include "add_ribbon_bar.h"
 #include "frame_dump.h"
 #include "host_messages.h"
+#include "library_context.h"
 #include "menu_event.h"
 #include "menu_id_mgr.h"
 #include "picture_export.h"
 #include "resource.h"
+#include "ribbon_category_ex.h"
 #include "ribbon_check_combo.h"
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "screenshot.h"
-#include "skin_visual_managers.h"
+#include "system_skin.h"
+#include "tooltip_ctrl_ex.h"
 
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"
 #include "varnhold/message_box.h"
 #include "varnhold/strings.h"
 
+#include <shellapi.h>
+
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -29,18 +35,19 @@ constexpr UINT kLightTakenMessage = WM_APP + 2;
 /// Buttons with sub-items that also do something of their own.
 constexpr std::array<const wchar_t*, 5> kSplitButtons = {L"ZoomOriginal", L"PlaceCities", L"BookmarkGo", L"LineWidth",
                                                          L"NameSize"};
-/// Beside those that the configuration puts there.
-constexpr std::array<const wchar_t*, 3> kOfferedForQuickAccess = {L"BookmarkAdd", L"PictureCopy", L"LayersShown"};
+/// The framework's text at which an extended bar says that the button changes the skin.
+constexpr UINT kSkinButtonText = 17096;
+constexpr wchar_t kLightSkinIcon[] = L"pic\\skin\\icon\\modle_0\\skin.ico";
 constexpr wchar_t kRibbonFile[] = L"cfg\\ribbon.xml";
 
 struct Skin {
     const wchar_t* name;
-    CRuntimeClass* (*manager)();
+    int style;                ///< As the ribbon numbers them.
     const wchar_t* iconStyle; ///< "0": light icons for dark ground
+    const wchar_t* icons;     ///< The folder of those that can be seen on it
 };
 constexpr std::array<Skin, 2> kSkins = {
-    {{L"silver", [] { return RUNTIME_CLASS(CQKVisualManagerOffice2007Silver); }, L"1"},
-     {L"black", [] { return RUNTIME_CLASS(CQKVisualManagerOffice2007Black); }, L"0"}}};
+    {{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\"}, {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\"}}};
 
 std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "Viewer"); }
 
@@ -74,8 +81,10 @@ IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
 ON_WM_CREATE()
 ON_WM_SETFOCUS()
+ON_WM_HELPINFO()
 ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
+ON_REGISTERED_MESSAGE(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, OnCategoryChanged)
 ON_MESSAGE(kRebuildRibbonMessage, OnRebuildRibbon)
 ON_MESSAGE(kLightTakenMessage, OnLightTaken)
 ON_MESSAGE(WM_COMBO_CHECK_CHANGED, OnLayerChecked)
@@ -90,13 +99,16 @@ CMainFrame::CMainFrame(const DemoOptions& options)
       m_data(MapData::Load(std::filesystem::path(InstallationDirectory()) / L"data")),
       m_map(m_state, m_data),
       m_ribbon(TRUE),
+      m_modes(m_ribbon),
       m_controls(m_state),
-      m_skin(options.skin) {
+      m_skin(options.skin.empty() ? PreferredSkin() : options.skin) {
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
     dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));
     dispatcher->addReactor(MakeLayerReactor(m_state, *this));
     dispatcher->addReactor(MakePictureReactor(m_state, *this));
+    dispatcher->addReactor(MakeModeReactor(m_state, *this));
     dispatcher->addReactor(MakeSettingsReactor(*this));
+    m_state.SetMode(WorkingModes::ModeOf(options.mode));
 }
 
 BOOL CMainFrame::CreateFrame() {
@@ -113,6 +125,9 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     }
     ShowIcon();
     ApplySkin();
+    CMFCToolTipInfo tooltips;
+    tooltips.m_bVislManagerTheme = TRUE;
+    CTooltipManager().SetTooltipParams(AFX_TOOLTIP_TYPE_RIBBON, RUNTIME_CLASS(CToolTipCtrlEx), &tooltips);
     if (!m_ribbon.Create(this) || !m_map.Create(this, AFX_IDW_PANE_FIRST)) {
         return -1;
     }
@@ -132,21 +147,34 @@ void CMainFrame::ShowIcon() {
     SetIcon(m_icon.get(), FALSE);
 }
 
+// F1: the video of the command under the pointer, where there is one.
+BOOL CMainFrame::OnHelpInfo(HELPINFO*) {
+    const CMFCRibbonBaseElement* const element = m_ribbon.GetCursonOn(FALSE);
+    const std::wstring video = element != nullptr ? HelpHint::FileOf(element->GetID()) : std::wstring();
+    if (video.empty()) {
+        TellKeyboard();
+    } else {
+        ::ShellExecuteW(GetSafeHwnd(), nullptr, video.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    }
+    return TRUE;
+}
+
 void CMainFrame::OnSetFocus(CWnd*) { m_map.SetFocus(); }
 
 void CMainFrame::BuildRibbon() {
     m_place = nullptr;
     CMFCRibbonCategory* const active = m_ribbon.GetActiveCategory();
     const int shown = active ? m_ribbon.GetCategoryIndex(active) : m_options.category;
-    CList<UINT, UINT> chosen; // for quick access, perhaps by the user
-    m_ribbon.GetQuickAccessCommands(chosen);
+    m_modes.KeepQuickAccess();
     m_ribbon.RemoveAllCategories();
+    m_skinButton = nullptr;
+    m_ribbon.RemoveAllFromTabs();
 
     // The first one that is made so fits the check boxes of all to the scale.
     const CMFCRibbonCheckComb scalesTheBoxes;
 
     CAddRibbonBar builder;
-    builder.SetCreateF1Tip(false); // no videos come with the viewer
+    builder.SetCreateF1Tip(HelpHint::HasVideos());
     builder.Load(kRibbonFile, &m_ribbon, TRUE);
     m_commandTexts = builder.m_cmdList;
     m_place = FindElement<CMFCRibbonEdit>(m_ribbon, L"PlaceEdit");
@@ -155,36 +183,34 @@ void CMainFrame::BuildRibbon() {
             button->SetDefaultCommand();
         }
     }
-    OfferQuickAccess(builder);
-    if (active) {
-        m_ribbon.SetQuickAccessCommands(chosen);
-    }
+    AddSkinButton();
+    m_modes.Attach(builder, m_state.Mode(), shown);
+    m_ribbon.setHMenu(m_contextMenu.Build());
     m_controls.Attach(m_ribbon);
-    if (m_ribbon.GetCategoryCount() > 0) {
-        m_ribbon.SetActiveCategory(m_ribbon.GetCategory(std::min(shown, m_ribbon.GetCategoryCount() - 1)));
-    }
     m_controls.ShowState(); // first: the layout paints at once
     m_ribbon.ForceRecalcLayout();
+    m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
 }
 
-/// What the customise menu of the quick access toolbar lists, and what it goes back to.
-void CMainFrame::OfferQuickAccess(const CAddRibbonBar& builder) {
-    CMFCRibbonQuickAccessToolBarDefaultState offered;
-    std::vector<unsigned int> ids;
-    builder.GetQAToolBar(ids);
-    for (const unsigned int id : ids) {
-        offered.AddCommand(id, TRUE);
+/// Right of the tabs, on every page. The bar knows it by its tooltip, which is the framework's for another button. The
+/// row of tabs is dark in both skins, so the icon is light in both.
+void CMainFrame::AddSkinButton() {
+    int id = 0;
+    if (!CMenuIdMgr::Ins()->GetMenuId(L"SkinSwitch", id)) {
+        return;
     }
-    for (const wchar_t* const keyword : kOfferedForQuickAccess) {
-        int id = 0;
-        if (CMenuIdMgr::Ins()->GetMenuId(keyword, id)) {
-            offered.AddCommand(static_cast<UINT>(id), FALSE);
-        }
-    }
-    m_ribbon.SetQuickAccessDefaultState(offered);
+    CString tip;
+    tip.LoadString(kSkinButtonText);
+    m_skinButton = new CMFCRibbonUNIcoButton(static_cast<UINT>(id), L"", GetIconPathStr(kLightSkinIcon, 32), FALSE,
+                                             GetIconPathStr(kLightSkinIcon, 16), TRUE);
+    m_skinButton->SetToolTipText(tip);
+    m_ribbon.AddToTabs(m_skinButton);
 }
 
 void CMainFrame::OnConfiguredCommand(UINT id) {
+    if (m_ribbon.IsInContextMenu()) {
+        return;
+    }
     CMenuEvtHandleMgr::Ins()->MenuClick(id);
     TakeChange();
 }
@@ -251,7 +277,8 @@ void CMainFrame::ApplySkin() {
         if (m_skin == skin.name) {
             m_iconStyle = skin.iconStyle;
             CMFCRibbonUNIcoButton::SetSkinStyle(skin.iconStyle);
-            CMFCVisualManager::SetDefaultManager(skin.manager());
+            m_ribbon.ChangeSkinColor(skin.style, TRUE);
+            m_helpHint.TakeIcons(skin.icons);
         }
     }
 }
@@ -285,6 +312,10 @@ void CMainFrame::WriteRecord() {
     for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i) {
         labels.push_back(m_state.IsLit(static_cast<MapLabel>(i)));
     }
+    nlohmann::ordered_json marks = nlohmann::ordered_json::array();
+    for (const GeoPoint& mark : m_state.Marks()) {
+        marks.push_back({mark.longitude, mark.latitude});
+    }
     nlohmann::ordered_json record = {{"map",
                                       {{"longitude", view.center.longitude},
                                        {"latitude", view.center.latitude},
@@ -292,9 +323,12 @@ void CMainFrame::WriteRecord() {
                                        {"layers", std::move(layers)},
                                        {"layerStyles", std::move(styles)},
                                        {"labelsLit", std::move(labels)},
+                                       {"marks", std::move(marks)},
+                                       {"page", m_state.Page() == PageShape::Portrait ? "portrait" : "landscape"},
                                        {"palette", static_cast<int>(m_state.Palette())},
                                        {"finished", m_map.IsFinished()}}},
                                      {"language", wstring2String(CMultiLanguageMgr::GetLanguage())},
+                                     {"mode", wstring2String(WorkingModes::NameOf(m_state.Mode()))},
                                      {"skin", wstring2String(m_skin)},
                                      {"iconStyle", wstring2String(m_iconStyle)},
                                      {"frame", DumpFrame({.ribbon = &m_ribbon, .commands = {m_commandTexts}})}};
@@ -310,6 +344,11 @@ void CMainFrame::WriteRecord() {
     for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
         record["tabsOnScreen"].push_back(onScreen(m_ribbon.GetCategory(i)->GetTabRect()));
     }
+    CRect skinButton(0, 0, 0, 0);
+    if (m_skinButton != nullptr) {
+        skinButton = m_skinButton->GetRect();
+    }
+    record["skinButtonOnScreen"] = onScreen(skinButton);
     record["ribbonMinimized"] = IsRibbonMinimized();
     record["quickAccessBelow"] = IsQuickAccessBelow();
     std::string text = record.dump();
@@ -350,6 +389,21 @@ void CMainFrame::SwitchLanguage(const std::wstring& code) {
     PostMessage(kRebuildRibbonMessage);
 }
 
+// The file's categories for the modes are commands: a click on their tab has come as one. By the keyboard or the wheel
+// their page has come to the front instead.
+LRESULT CMainFrame::OnCategoryChanged(WPARAM, LPARAM) {
+    const auto* const category = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, m_ribbon.GetActiveCategory());
+    if (category != nullptr) {
+        PostMessage(WM_COMMAND, category->GetID());
+    }
+    return 0;
+}
+
+void CMainFrame::ShowMode(MapMode mode) {
+    m_modes.Show(mode);
+    m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
+}
+
 LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
     BuildRibbon();
     WriteRecord();
@@ -359,9 +413,9 @@ LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
 bool CMainFrame::IsLanguage(const std::wstring& code) const { return CMultiLanguageMgr::GetLanguage() == code; }
 
 void CMainFrame::SwitchSkin(const std::wstring& name) {
-    m_skin = name;
+    const auto isOther = [this](const Skin& skin) { return m_skin != skin.name; };
+    m_skin = name == L"switch" ? std::find_if(kSkins.begin(), kSkins.end(), isOther)->name : name;
     ApplySkin();
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 bool CMainFrame::IsSkin(const std::wstring& name) const { return m_skin == name; }
@@ -392,12 +446,35 @@ void CMainFrame::CopyPicture() {
     }
 }
 
-void CMainFrame::SavePicture() {
+void CMainFrame::SavePicture(CBitmap& picture, bool isMade) {
     const std::wstring path = AskForPictureFile(GetSafeHwnd(), ViewerText("PictureFilter"));
-    CBitmap picture;
-    if (!path.empty() && !(m_map.MakePicture(picture) && WritePng(picture, path))) {
+    if (!path.empty() && !(isMade && WritePng(picture, path))) {
         QKMessageBox(WithName(ViewerText("PictureFailed"), path), QK_MESSAGE_WARNING, GetSafeHwnd());
     }
+}
+
+void CMainFrame::SavePicture() {
+    CBitmap picture;
+    const bool isMade = m_map.MakePicture(picture) != FALSE;
+    SavePicture(picture, isMade);
+}
+
+bool CMainFrame::MakePage(CBitmap& picture) {
+    CBitmap whole;
+    return m_map.MakePicture(whole) && CutPicture(whole, m_state.PageBox(), picture);
+}
+
+void CMainFrame::CopyPage() {
+    CBitmap page;
+    if (MakePage(page)) {
+        PutPictureOnClipboard(GetSafeHwnd(), page);
+    }
+}
+
+void CMainFrame::SavePage() {
+    CBitmap page;
+    const bool isMade = MakePage(page);
+    SavePicture(page, isMade);
 }
 
 void CMainFrame::CopyText(const std::wstring& text) { PutTextOnClipboard(GetSafeHwnd(), text); }

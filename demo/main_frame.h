@@ -2,17 +2,22 @@
 
 #include <afxcontrolbars.h>
 
+#include "help_hint.h"
+#include "host_menu.h"
 #include "layer_controls.h"
 #include "map_data.h"
 #include "map_state.h"
 #include "map_window.h"
 #include "options.h"
 #include "viewer_commands.h"
+#include "viewer_ribbon.h"
+#include "working_modes.h"
 
 #include <memory>
 #include <type_traits>
 
 class CAddRibbonBar;
+class CMFCRibbonUNIcoButton;
 
 /// From now on the thread's resources, the framework's own texts among them, are those of the language in force.
 void TakeResourceLanguage();
@@ -33,9 +38,11 @@ public:
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
+    afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg void OnSetFocus(CWnd* earlier);
     afx_msg void OnConfiguredCommand(UINT id);
     afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
+    afx_msg LRESULT OnCategoryChanged(WPARAM, LPARAM);
     afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);
     afx_msg LRESULT OnLightTaken(WPARAM, LPARAM);
     afx_msg LRESULT OnLayerChecked(WPARAM, LPARAM);
@@ -47,11 +54,14 @@ protected:
 
 private:
     void BuildRibbon();
-    void OfferQuickAccess(const CAddRibbonBar& builder);
+    void AddSkinButton();
     void ShowState();
     /// After a change that came by a message.
     void TakeChange();
     void ApplySkin();
+    void SavePicture(CBitmap& picture, bool isMade);
+    /// What of the map goes on the page.
+    bool MakePage(CBitmap& picture);
     void ApplyTexts();
 
     int ScaleSliderPosition() const override;
@@ -63,6 +73,9 @@ private:
     void TellKeyboard() override;
     void SwitchLanguage(const std::wstring& code) override;
     bool IsLanguage(const std::wstring& code) const override;
+    void ShowMode(MapMode mode) override;
+    void CopyPage() override;
+    void SavePage() override;
     void SwitchSkin(const std::wstring& name) override;
     bool IsSkin(const std::wstring& name) const override;
     void SwitchIconStyle(const std::wstring& style) override;
@@ -85,10 +98,14 @@ private:
     MapData m_data;
     MapState m_state;
     CMapWindow m_map;
-    CMFCRibbonBar m_ribbon;
+    CViewerRibbon m_ribbon;
+    WorkingModes m_modes;
+    HostMenu m_contextMenu;
+    HelpHint m_helpHint;
     LayerControls m_controls;
     bool m_tellsPlace = false;
-    CMFCRibbonEdit* m_place = nullptr; ///< The ribbon's; null when the configuration has none.
+    CMFCRibbonUNIcoButton* m_skinButton = nullptr; ///< The ribbon's, beside the tabs; null when there is none.
+    CMFCRibbonEdit* m_place = nullptr;             ///< The ribbon's; null when the configuration has none.
     std::wstring m_skin;
     std::wstring m_iconStyle;
     std::vector<std::wstring> m_commandTexts; ///< As the builder met them, for the record.

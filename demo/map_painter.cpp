@@ -1,5 +1,7 @@
 #include "map_painter.h"
 
+#include "mode_overlay.h"
+
 #include <algorithm>
 
 #include <gdiplus.h>
@@ -448,6 +450,7 @@ void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& 
     if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names)) {
         DrawCityNames(canvas, m_data.cities, StyleOf(canvas, names, MapLayer::Names, MapLabel::CityNames), places);
     }
+    DrawModeOverlay(graphics, state, style);
 }
 
 void MapPainter::Paint(HDC dc, const MapState& state, const MapPaintStyle& style) {

@@ -3,12 +3,17 @@
 #include <algorithm>
 #include <cmath>
 #include <cwchar>
+#include <utility>
 
 namespace {
 
 constexpr double kWorldWidth = 360;
 constexpr double kWorldHeight = 180;
 constexpr std::size_t kHistoryLimit = 100;
+/// An A4 sheet in millimetres, and the margin around it as a part of the window.
+constexpr double kSheetShort = 210;
+constexpr double kSheetLong = 297;
+constexpr double kPageMargin = 0.04;
 
 bool IsSameView(const MapView& a, const MapView& b) {
     return a.center.longitude == b.center.longitude && a.center.latitude == b.center.latitude &&
@@ -244,6 +249,50 @@ void MapState::ToWindow(GeoPoint place, double& x, double& y) const {
 GeoPoint MapState::ToPlace(double x, double y) const {
     return {m_view.center.longitude + (x - m_width / 2.0) / m_view.pixelsPerDegree,
             m_view.center.latitude - (y - m_height / 2.0) / m_view.pixelsPerDegree};
+}
+
+void MapState::SetMode(MapMode mode) {
+    if (std::exchange(m_mode, mode) != mode) {
+        Changed();
+    }
+}
+
+void MapState::AddMark() {
+    m_marks.push_back(m_view.center);
+    Changed();
+}
+
+void MapState::RemoveLastMark() {
+    if (!m_marks.empty()) {
+        m_marks.pop_back();
+        Changed();
+    }
+}
+
+void MapState::ClearMarks() {
+    if (!m_marks.empty()) {
+        m_marks.clear();
+        Changed();
+    }
+}
+
+void MapState::SetPage(PageShape page) {
+    if (std::exchange(m_page, page) != page) {
+        Changed();
+    }
+}
+
+WindowBox MapState::PageBox() const {
+    const bool isPortrait = m_page == PageShape::Portrait;
+    const double sheetWidth = isPortrait ? kSheetShort : kSheetLong;
+    const double sheetHeight = isPortrait ? kSheetLong : kSheetShort;
+    const double room = 1 - 2 * kPageMargin;
+    const double scale = std::min(m_width * room / sheetWidth, m_height * room / sheetHeight);
+    const int width = static_cast<int>(sheetWidth * scale);
+    const int height = static_cast<int>(sheetHeight * scale);
+    const int left = (m_width - width) / 2;
+    const int top = (m_height - height) / 2;
+    return {left, top, left + width, top + height};
 }
 
 MapState MapState::Enlarged(int factor) const {

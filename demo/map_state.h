@@ -29,6 +29,17 @@ enum class MapLayer { Relief, Coast, Lakes, Graticule, Cities, Names, ScaleBar, 
 /// The texts written on the map.
 enum class MapLabel { GraticuleNumbers, CityNames, ScaleBarText, Count };
 enum class MapPalette { Natural, Night, Plain };
+/// What the user is doing with the map: looking at it, setting marks on it, choosing what part goes on a page.
+enum class MapMode { Browse, Edit, Print };
+enum class PageShape { Portrait, Landscape };
+
+/// A rectangle of the window in pixels.
+struct WindowBox {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
 
 /// Everything that the map window shows, as plain data: view, history, layers, palette, bookmarks. Knows no window; the
 /// window says its size in pixels and repaints when Version() has changed.
@@ -103,6 +114,19 @@ public:
     int NameSize() const noexcept { return m_nameSize; }
     void SetNameSize(int pixels);
 
+    MapMode Mode() const noexcept { return m_mode; }
+    void SetMode(MapMode mode);
+    /// Places that the user has marked, in the order in which they were set.
+    const std::vector<GeoPoint>& Marks() const noexcept { return m_marks; }
+    /// Marks the middle of what is seen.
+    void AddMark();
+    void RemoveLastMark();
+    void ClearMarks();
+    PageShape Page() const noexcept { return m_page; }
+    void SetPage(PageShape page);
+    /// What of the window goes on the page: an A4 sheet as large as fits, with a margin around.
+    WindowBox PageBox() const;
+
     int SliderPosition() const;
     void SetSliderPosition(int position);
 
@@ -139,6 +163,9 @@ private:
     bool m_smooth = true;
     int m_lineWidth = 1;
     int m_nameSize = 12;
+    MapMode m_mode = MapMode::Browse;
+    std::vector<GeoPoint> m_marks;
+    PageShape m_page = PageShape::Landscape;
     unsigned m_version = 1;
 };
 

@@ -27,6 +27,11 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
              options.skin = v;
              return v == L"black" || v == L"silver";
          }},
+        {L"--mode",
+         [&](const std::wstring& v) {
+             options.mode = v;
+             return v == L"browse" || v == L"edit" || v == L"print";
+         }},
         {L"--screenshot", text(options.screenshot)},
         {L"--record", text(options.record)},
         {L"--direction",

@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include "map_state.h"
+
 #include <string>
 
 /// Puts the picture on the clipboard, which then owns the bitmap. False, and the picture stays the caller's, when the
@@ -12,3 +14,5 @@ bool PutTextOnClipboard(HWND owner, const std::wstring& text);
 /// Asks for the file that a PNG picture is written to; empty when the user thinks better of it. `filterName` names the
 /// kind of file in the user's language.
 std::wstring AskForPictureFile(HWND owner, const std::wstring& filterName);
+/// Copies a part of the picture into a new bitmap. False when there is no room for one, or the part is empty.
+bool CutPicture(CBitmap& picture, const WindowBox& part, CBitmap& cut);

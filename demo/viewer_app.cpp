@@ -23,6 +23,7 @@ public:
             return FALSE;
         }
         m_gdiPlus.emplace();
+        InitContextMenuManager(); // the ribbon's right click asks it
         if (options->scalePercent > 0) {
             afxGlobalData.SetRibbonImageScale(options->scalePercent / 100.0);
         }

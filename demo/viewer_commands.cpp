@@ -2,6 +2,7 @@
 
 #include "map_data.h"
 #include "map_state.h"
+#include "working_modes.h"
 
 #include <boost/format.hpp>
 #include <boost/make_shared.hpp>
@@ -63,6 +64,18 @@ void GoToPlace(MapState& state, const MapData& data, ViewerHost& host, bool isQu
         return;
     }
     Visit(state, place);
+}
+
+/// "latitude, longitude", as the field of places reads it.
+std::wstring TextOf(GeoPoint place) { return (boost::wformat(L"%.4f, %.4f") % place.latitude % place.longitude).str(); }
+
+/// One place a line.
+std::wstring TextOf(const std::vector<GeoPoint>& places) {
+    std::wstring text;
+    for (const GeoPoint& place : places) {
+        text += TextOf(place) + L"\r\n";
+    }
+    return text;
 }
 
 /// A command whose parameter is a number: it sets that value, and is checked while the value is the set one. Without a
@@ -187,15 +200,54 @@ boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHo
 boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, ViewerHost& host) {
     auto reactor = boost::make_shared<CCommandReactor>();
     reactor->Serve(L"picture", [&state, &host](const std::wstring& what) {
-        const GeoPoint center = state.View().center;
         if (what == L"copy") {
             host.CopyPicture();
         } else if (what == L"save") {
             host.SavePicture();
         } else {
-            host.CopyText((boost::wformat(L"%.4f, %.4f") % center.latitude % center.longitude).str());
+            host.CopyText(TextOf(state.View().center));
         }
     });
+    return reactor;
+}
+
+boost::shared_ptr<CMenuReactor> MakeModeReactor(MapState& state, ViewerHost& host) {
+    auto reactor = boost::make_shared<CCommandReactor>();
+    reactor->Serve(
+        L"mode",
+        [&state, &host](const std::wstring& name) {
+            state.SetMode(WorkingModes::ModeOf(name));
+            host.ShowMode(state.Mode());
+        },
+        [&state](const std::wstring& name) { return state.Mode() == WorkingModes::ModeOf(name); });
+    reactor->Serve(
+        L"mark",
+        [&state, &host](const std::wstring& what) {
+            if (what == L"add") {
+                state.AddMark();
+            } else if (what == L"undo") {
+                state.RemoveLastMark();
+            } else if (what == L"clear") {
+                state.ClearMarks();
+            } else {
+                host.CopyText(TextOf(state.Marks()));
+            }
+        },
+        nullptr, [&state](const std::wstring& what) { return what == L"add" || !state.Marks().empty(); });
+    reactor->Serve(
+        L"page",
+        [&state, &host](const std::wstring& what) {
+            if (what == L"copy") {
+                host.CopyPage();
+            } else if (what == L"save") {
+                host.SavePage();
+            } else {
+                state.SetPage(what == L"portrait" ? PageShape::Portrait : PageShape::Landscape);
+            }
+        },
+        [&state](const std::wstring& what) {
+            return what == (state.Page() == PageShape::Portrait ? L"portrait" : L"landscape");
+        });
     return reactor;
 }
 

@@ -25,6 +25,8 @@ public:
     virtual void TellKeyboard() = 0;
     virtual void SwitchLanguage(const std::wstring& code) = 0;
     virtual bool IsLanguage(const std::wstring& code) const = 0;
+    /// Shows the pages of the mode.
+    virtual void ShowMode(MapMode mode) = 0;
     virtual void SwitchSkin(const std::wstring& name) = 0;
     virtual bool IsSkin(const std::wstring& name) const = 0;
     virtual void SwitchIconStyle(const std::wstring& style) = 0;
@@ -36,6 +38,9 @@ public:
     /// A picture of the map as it is on the screen: to the clipboard, or to a file that the user names.
     virtual void CopyPicture() = 0;
     virtual void SavePicture() = 0;
+    /// The same of what goes on the page.
+    virtual void CopyPage() = 0;
+    virtual void SavePage() = 0;
     /// Puts a text on the clipboard.
     virtual void CopyText(const std::wstring& text) = 0;
 };
@@ -46,5 +51,7 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
 boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHost& host);
 /// Pictures and co-ordinates for other programs.
 boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, ViewerHost& host);
+/// Working modes, marks and the page.
+boost::shared_ptr<CMenuReactor> MakeModeReactor(MapState& state, ViewerHost& host);
 /// Language, skin, icon style, ribbon and help.
 boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host);

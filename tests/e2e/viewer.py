@@ -14,7 +14,9 @@ DEADLINE = 40
 class Viewer:
     """One run of the demo. `bin_dir` holds demo.exe; use it as a context."""
 
-    def __init__(self, bin_dir, *arguments):
+    def __init__(self, bin_dir, *arguments, registry=()):
+        """`registry`: what the system's registry program is told before, as lists of words."""
+        self._registry = registry
         self._bin = bin_dir
         self._arguments = arguments
         self._folder = tempfile.TemporaryDirectory()
@@ -34,6 +36,10 @@ class Viewer:
         # A prefix of its own: Wine's desktop belongs to one display at a time.
         self._environment = dict(os.environ, DISPLAY=":" + display,
                                  BARWRIGHT_WINEPREFIX=os.path.join(ROOT, "build", "wine-e2e"))
+        for words in self._registry:
+            subprocess.run([os.path.join(ROOT, "scripts", "wine-run"),
+                            os.path.join(self._environment["BARWRIGHT_WINEPREFIX"], "drive_c", "windows", "system32", "reg.exe"), *words],
+                           env=self._environment, check=True, stdout=subprocess.DEVNULL)
         self._program = subprocess.Popen(
             [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, "demo.exe"), "--size", "1280x800",
              "--record", self._record_file, *map(str, self._arguments)], env=self._environment)
@@ -130,6 +136,10 @@ class Viewer:
     def hover(self, x, y):
         # Two moves: the first one may only bring the pointer into the window.
         self._xdotool("mousemove", x - 2, y, "sleep", 0.1, "mousemove", x, y)
+
+    def right_click_command(self, keyword):
+        self.hover_command(keyword)
+        self._xdotool("sleep", 0.1, "click", 3, "sleep", 0.3)
 
     def press_command(self, keyword):
         self.hover_command(keyword)

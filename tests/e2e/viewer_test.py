@@ -64,6 +64,153 @@ class ClickOnARibbonButton(unittest.TestCase):
             viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "Map")
 
 
+class WorkingModes(unittest.TestCase):
+    """Categories in the file's order: map, layers, settings, edit, print, back to browsing."""
+
+    SHOWN = {"browse": [True, True, True, True, True, False], "edit": [False, False, False, True, True, True],
+             "print": [False, False, False, False, True, True]}
+    TABS = {"edit": 3, "print": 4, "browse": 5}
+
+    def open(self, *arguments):
+        return Viewer(BIN_DIR, "--lang", "en", "--skin", "silver", *arguments)
+
+    def wait_for_mode(self, viewer, mode):
+        """Shown are the mode's categories, and its commands know it."""
+        def is_shown(record):
+            categories = record["frame"]["ribbon"]["categories"]
+            return record["mode"] == mode and [category["visible"] for category in categories] == self.SHOWN[mode]
+        viewer.wait_for(is_shown)
+
+    def active(self, viewer):
+        return [category["active"] for category in viewer.record["frame"]["ribbon"]["categories"]].index(True)
+
+    def quick_access(self, viewer):
+        keywords = {entry["id"]: entry["keyword"] for entry in viewer.record["frame"]["registry"]}
+        return [keywords[identity] for identity in viewer.record["frame"]["ribbon"]["quickAccess"]]
+
+    def click_tab(self, viewer, mode):
+        viewer.click(*viewer.tab_middle(self.TABS[mode]))
+        self.wait_for_mode(viewer, mode)
+
+    def test_a_click_on_a_modes_tab_switches_to_it(self):
+        with self.open() as viewer:
+            self.click_tab(viewer, "edit")
+            self.assertEqual(self.active(viewer), 3)
+            self.click_tab(viewer, "print")
+            self.assertEqual(self.active(viewer), 4)
+
+    def test_the_commands_switch_from_mode_to_mode(self):
+        with self.open("--mode", "edit") as viewer:
+            for command, mode in (("ModePrint", "print"), ("ModeEdit", "edit"), ("ModeBrowse", "browse")):
+                viewer.click_command(command)
+                self.wait_for_mode(viewer, mode)
+
+    def test_the_tab_that_leads_back_shows_the_page_that_was_left(self):
+        with self.open("--category", "1") as viewer:
+            self.click_tab(viewer, "edit")
+            self.click_tab(viewer, "browse")
+            self.assertEqual(self.active(viewer), 1)
+
+    def test_every_mode_has_its_own_quick_access_toolbar_and_keeps_the_users(self):
+        with self.open() as viewer:
+            browse = self.quick_access(viewer)
+            self.assertEqual(browse, ["ZoomIn", "ZoomOut", "ZoomWorld", "ZoomPrevious", "ZoomNext"])
+            viewer.open_quick_access_menu()
+            viewer.key("Down", "Return")  # the first command of the list goes
+            viewer.wait_for(lambda record: len(record["frame"]["ribbon"]["quickAccess"]) == 4)
+            self.click_tab(viewer, "edit")
+            self.assertEqual(self.quick_access(viewer), ["MarkAdd", "MarkUndo", "ZoomIn", "ZoomOut"])
+            self.click_tab(viewer, "browse")
+            self.assertEqual(self.quick_access(viewer), browse[1:])
+
+    def test_a_mode_survives_a_language_switch(self):
+        with self.open("--category", "2") as viewer:
+            viewer.click_command("LanguageChinese")
+            viewer.wait_for(lambda record: record["language"] == "zh-CN")
+            self.click_tab(viewer, "print")
+            self.assertEqual(self.quick_access(viewer), ["PageSave", "PageCopy", "ZoomIn", "ZoomOut"])
+
+    def see_the_map_change(self, viewer, change):
+        with tempfile.TemporaryDirectory() as folder:
+            before = viewer.picture(os.path.join(folder, "before.png"))
+            change()
+            viewer.wait_until(lambda: changed_pixels(before, viewer.picture(os.path.join(folder, "after.png")),
+                                                     MAP_AREA) > SOME_PIXELS // 2, "the map looks different")
+
+    def test_a_mark_is_set_and_removed_on_the_map(self):
+        with self.open("--mode", "edit") as viewer:
+            viewer.wait_for(lambda record: record["map"]["finished"])
+
+            def add():
+                viewer.click_command("MarkAdd")
+                viewer.wait_for(lambda record: len(record["map"]["marks"]) == 1)
+
+            def remove():
+                viewer.click_command("MarkUndo")
+                viewer.wait_for(lambda record: not record["map"]["marks"])
+            self.see_the_map_change(viewer, add)
+            self.assertEqual(viewer.record["map"]["marks"], [[viewer.record["map"]["longitude"], viewer.record["map"]["latitude"]]])
+            self.see_the_map_change(viewer, remove)
+
+    def test_the_page_turns_round_on_the_map(self):
+        with self.open("--mode", "print") as viewer:
+            viewer.wait_for(lambda record: record["map"]["finished"])
+            self.assertEqual(viewer.record["map"]["page"], "landscape")
+
+            def turn():
+                viewer.click_command("PagePortrait")
+                viewer.wait_for(lambda record: record["map"]["page"] == "portrait")
+            self.see_the_map_change(viewer, turn)
+
+    def test_the_menu_of_a_right_click_switches_and_leaves_the_button_under_it_alone(self):
+        with self.open() as viewer:
+            scale = viewer.record["map"]["pixelsPerDegree"]
+            viewer.right_click_command("ZoomIn")
+            viewer.key("Down", "Down", "Return")  # browse, edit
+            self.wait_for_mode(viewer, "edit")
+            self.assertEqual(viewer.record["map"]["pixelsPerDegree"], scale)
+
+
+class SkinsOfTheViewer(unittest.TestCase):
+    PREFERENCE = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize"
+
+    def test_the_button_beside_the_tabs_changes_the_skin_and_back(self):
+        with Viewer(BIN_DIR, "--skin", "silver") as viewer:
+            left, top, right, bottom = viewer.record["skinButtonOnScreen"]
+            for skin, manager in (("black", "CQKVisualManagerOffice2007Black"), ("silver", "CQKVisualManagerOffice2007Silver")):
+                viewer.click((left + right) // 2, (top + bottom) // 2)
+                record = viewer.wait_for(lambda record: record["skin"] == skin)
+                self.assertEqual(record["frame"]["skin"]["manager"], manager)
+
+    def test_a_switch_shows_what_a_fresh_start_in_that_skin_shows(self):
+        with tempfile.TemporaryDirectory() as folder:
+            fresh, switched = (os.path.join(folder, name) for name in ("fresh.png", "switched.png"))
+
+            def settle(viewer, path):
+                viewer.hover(640, 600)
+                viewer.wait_for(lambda record: record["map"]["finished"])
+                last = b""
+                while True:
+                    viewer.picture(path)
+                    with open(path, "rb") as file:
+                        now = file.read()
+                    if now == last:
+                        return
+                    last = now
+            with Viewer(BIN_DIR, "--skin", "black", "--category", "2") as viewer:
+                settle(viewer, fresh)
+            with Viewer(BIN_DIR, "--skin", "silver", "--category", "2") as viewer:
+                viewer.click_command("SkinBlack")
+                viewer.wait_for(lambda record: record["skin"] == "black")
+                settle(viewer, switched)
+            self.assertEqual(changed_pixels(fresh, switched, "1280x800+0+0"), 0)
+
+    def test_it_starts_in_the_skin_that_the_system_prefers(self):
+        for value, skin in (("0", "black"), ("1", "silver")):
+            with Viewer(BIN_DIR, registry=[["add", self.PREFERENCE, "/v", "AppsUseLightTheme", "/t", "REG_DWORD", "/d", value, "/f"]]) as viewer:
+                self.assertEqual(viewer.record["skin"], skin)
+
+
 class PlaceField(unittest.TestCase):
     def test_enter_goes_to_a_known_place_and_tells_of_an_unknown_one_once(self):
         with Viewer(BIN_DIR, "--lang", "en") as viewer:

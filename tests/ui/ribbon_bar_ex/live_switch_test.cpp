@@ -207,11 +207,16 @@ void OpenQuickAccessMenu(WholeFrame& frame, Pointer& /*pointer*/) {
     frame.bar.OnShowRibbonQATMenu(&frame.bar, rect.left + 100, rect.top + 40, nullptr);
 }
 
-constexpr Use kUses[] = {{"AtRest", DoNothing},         {"OpenMenu", OpenMenu},
-                         {"DroppedList", DropList},     {"CollapsedPanel", OpenPanel},
-                         {"MinimizedRibbon", Minimize}, {"PageOfMinimizedRibbon", OpenPage},
-                         {"MaximizedFrame", Maximize},  {"KeyTips", ShowTips},
-                         {"QuickAccessBelow", GoBelow}, {"QuickAccessMenu", OpenQuickAccessMenu}};
+constexpr Use kOpenUses[] = {{"OpenMenu", OpenMenu},
+                             {"DroppedList", DropList},
+                             {"CollapsedPanel", OpenPanel},
+                             {"PageOfMinimizedRibbon", OpenPage},
+                             {"MaximizedFrame", Maximize}};
+constexpr Use kOtherUses[] = {{"AtRest", DoNothing},
+                              {"MinimizedRibbon", Minimize},
+                              {"KeyTips", ShowTips},
+                              {"QuickAccessBelow", GoBelow},
+                              {"QuickAccessMenu", OpenQuickAccessMenu}};
 
 class LiveSwitch : public testing::TestWithParam<Use> {
 protected:

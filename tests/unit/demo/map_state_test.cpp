@@ -194,3 +194,74 @@ TEST(MapState, LightsOfTextsAreApartFromThoseOfLayers) {
     EXPECT_TRUE(state.IsLit(MapLabel::GraticuleNumbers));
     EXPECT_TRUE(state.IsLit(MapLayer::Names));
 }
+TEST(MapMarks, AMarkStandsInTheMiddleOfWhatIsSeen) {
+    MapState state;
+    state.SetWindowSize(800, 600);
+    state.CenterOn({10, 20});
+    const unsigned before = state.Version();
+    state.AddMark();
+    ASSERT_EQ(state.Marks().size(), 1u);
+    EXPECT_EQ(state.Marks()[0].longitude, 10);
+    EXPECT_EQ(state.Marks()[0].latitude, 20);
+    EXPECT_NE(state.Version(), before);
+}
+
+TEST(MapMarks, TheLastOneGoesFirst) {
+    MapState state;
+    state.SetWindowSize(800, 600);
+    state.CenterOn({1, 1});
+    state.AddMark();
+    state.CenterOn({2, 2});
+    state.AddMark();
+    state.RemoveLastMark();
+    ASSERT_EQ(state.Marks().size(), 1u);
+    EXPECT_EQ(state.Marks()[0].longitude, 1);
+    state.ClearMarks();
+    EXPECT_TRUE(state.Marks().empty());
+}
+
+TEST(MapMarks, WithoutMarksNothingIsRemovedAndNothingShows) {
+    MapState state;
+    const unsigned before = state.Version();
+    state.RemoveLastMark();
+    state.ClearMarks();
+    EXPECT_EQ(state.Version(), before);
+}
+
+TEST(MapModes, OnlyAnotherModeOrPageIsAChange) {
+    MapState state;
+    EXPECT_EQ(state.Mode(), MapMode::Browse);
+    const unsigned before = state.Version();
+    state.SetMode(MapMode::Browse);
+    state.SetPage(state.Page());
+    EXPECT_EQ(state.Version(), before);
+    state.SetMode(MapMode::Print);
+    state.SetPage(PageShape::Portrait);
+    EXPECT_EQ(state.Version(), before + 2);
+}
+
+TEST(MapPage, TheSheetIsAsLargeAsTheWindowAllowsAndStandsInTheMiddle) {
+    for (const PageShape shape : {PageShape::Portrait, PageShape::Landscape}) {
+        for (const auto& [width, height] : {std::pair{1200, 600}, std::pair{300, 900}, std::pair{37, 41}}) {
+            MapState state;
+            state.SetWindowSize(width, height);
+            state.SetPage(shape);
+            const WindowBox page = state.PageBox();
+            const int right = width - page.right;
+            const int bottom = height - page.bottom;
+            EXPECT_NEAR(page.left, right, 1);
+            EXPECT_NEAR(page.top, bottom, 1);
+            EXPECT_GT(page.left, 0);
+            EXPECT_GT(page.top, 0);
+            const double ratio = static_cast<double>(page.right - page.left) / (page.bottom - page.top);
+            EXPECT_NEAR(ratio, shape == PageShape::Portrait ? 210.0 / 297 : 297.0 / 210, 0.08);
+            EXPECT_TRUE(page.left <= width * 0.04 + 1 || page.top <= height * 0.04 + 1) << "it could be larger";
+        }
+    }
+}
+
+TEST(MapPage, AWindowWithoutRoomHasAnEmptyPage) {
+    const WindowBox page = MapState().PageBox();
+    EXPECT_EQ(page.right - page.left, 0);
+    EXPECT_EQ(page.bottom - page.top, 0);
+}
