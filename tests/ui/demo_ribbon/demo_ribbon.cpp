@@ -64,7 +64,9 @@ void LoadDemoRibbon(CMFCRibbonBar& bar) {
     PumpPending();
 }
 
-nlohmann::ordered_json DumpCategories(CMFCRibbonBar& bar) { return DumpFrame({.ribbon = &bar})["ribbon"]["categories"]; }
+nlohmann::ordered_json DumpCategories(CMFCRibbonBar& bar) {
+    return DumpFrame({.ribbon = &bar})["ribbon"]["categories"];
+}
 
 std::set<UINT> CommandsOf(const nlohmann::ordered_json& categories) {
     std::set<UINT> ids;
