@@ -2,6 +2,8 @@
 
 #include "afxpopupmenubar.h"
 
+#include <algorithm>
+
 bool visual::PaintMenuBackground(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
     const auto* menu = DYNAMIC_DOWNCAST(CMFCPopupMenuBar, bar);
     if (menu == nullptr) {
@@ -18,10 +20,14 @@ bool visual::PaintMenuBackground(HDC dc, CBasePane* bar, const RECT& rect, const
 }
 
 bool visual::PaintMenuSeparator(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
-    if (DYNAMIC_DOWNCAST(CMFCPopupMenuBar, bar) == nullptr) {
+    const auto* menu = DYNAMIC_DOWNCAST(CMFCPopupMenuBar, bar);
+    if (menu == nullptr) {
         return false;
     }
+    // The line runs beside the column of images.
+    const int gutter = menu->GetGutterWidth();
+    const LONG left = gutter > 0 ? std::max<LONG>(rect.left, gutter + look.Px(2)) : rect.left;
     const LONG middle = (rect.top + rect.bottom - look.Line()) / 2;
-    PaintSolid(dc, {rect.left, middle, rect.right, middle + look.Line()}, look.skin[ColorSlot::MenuSeparator]);
+    PaintSolid(dc, {left, middle, rect.right, middle + look.Line()}, look.skin[ColorSlot::MenuSeparator]);
     return true;
 }

@@ -26,6 +26,17 @@ ElementState StateFrom(CMFCVisualManager::AFX_BUTTON_STATE state) {
     return result;
 }
 
+/// The framework's toolbars call a checked button a pressed one; flat skins tell the two apart.
+ElementState StateOfButton(const CMFCToolBarButton* button, CMFCVisualManager::AFX_BUTTON_STATE state,
+                           const visual::Skin& skin) {
+    ElementState result = StateFrom(state);
+    if (skin.isFlat && button != nullptr && (button->m_nStyle & (TBBS_CHECKED | TBBS_PRESSED)) == TBBS_CHECKED) {
+        result.isPressed = false;
+        result.isChecked = true;
+    }
+    return result;
+}
+
 ElementState ComboState(BOOL disabled, BOOL dropped, BOOL highlighted) {
     return {highlighted != FALSE, false, false, disabled != FALSE, dropped != FALSE};
 }
@@ -93,15 +104,22 @@ void CMFCVisualManager::OnDrawPaneBorder(CDC* pDC, CBasePane*, CRect& rect) {
     visual::PaintFrame(*pDC, rect, GetSkin()[ColorSlot::PaneBorder], 1);
 }
 
-void CMFCVisualManager::OnFillButtonInterior(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state) {
-    const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state));
-    if (face != nullptr && m_bEnableToolbarButtonFill) {
+void CMFCVisualManager::OnFillButtonInterior(CDC* pDC, CMFCToolBarButton* pButton, CRect rect, AFX_BUTTON_STATE state) {
+    const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateOfButton(pButton, state, GetSkin()));
+    if (face == nullptr || !m_bEnableToolbarButtonFill) {
+        return;
+    }
+    if (GetSkin().isFlat) {
+        // With its border: the corners are round.
+        visual::PaintFace(*pDC, rect, *face, visual::PlateCorners(GetSkin(), LookOf(GetSkin())), LookOf(GetSkin()));
+    } else {
         visual::PaintFill(*pDC, rect, *face, LookOf(GetSkin()));
     }
 }
 
 void CMFCVisualManager::OnDrawButtonBorder(CDC* pDC, CMFCToolBarButton*, CRect rect, AFX_BUTTON_STATE state) {
-    if (const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state))) {
+    const visual::Face* const face = visual::ButtonFaceFor(GetSkin(), StateFrom(state));
+    if (face != nullptr && !GetSkin().isFlat) {
         visual::PaintBorders(*pDC, rect, *face, {}, LookOf(GetSkin()));
     }
 }

@@ -207,11 +207,9 @@ void CMFCPopupMenuBar::DoPaint(CDC* pDC) {
     }
 }
 
-// The line runs beside the column of images.
+// Where in its row the line begins is the visual manager's to say.
 void CMFCPopupMenuBar::DrawSeparator(CDC* pDC, const CRect& rect, BOOL) {
-    CRect line = rect;
-    line.left += GetGutterWidth() > 0 ? GetGutterWidth() + Scaled(2) : 0;
-    CMFCVisualManager::GetInstance()->OnDrawSeparator(pDC, this, line, FALSE);
+    CMFCVisualManager::GetInstance()->OnDrawSeparator(pDC, this, rect, FALSE);
 }
 
 CWnd* CMFCPopupMenuBar::GetCommandTarget() const {
