@@ -11,6 +11,16 @@ public:
         return Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) && m_ribbon.Create(this);
     }
     CMFCRibbonBar m_ribbon;
+
+protected:
+    /// All commands are enabled.
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        if (code == CN_UPDATE_COMMAND_UI) {
+            static_cast<CCmdUI*>(extra)->Enable(TRUE);
+            return TRUE;
+        }
+        return CFrameWndEx::OnCmdMsg(id, code, extra, info);
+    }
 };
 
 /// Makes the window, measures with it and ends.
