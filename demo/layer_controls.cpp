@@ -80,6 +80,14 @@ private:
 
 } // namespace
 
+std::vector<std::wstring> LayerControls::LayerNames() {
+    std::vector<std::wstring> names;
+    for (const char* key : kLayerKeys) {
+        names.emplace_back(NameOf(key).GetString());
+    }
+    return names;
+}
+
 void LayerControls::Attach(CMFCRibbonBar& ribbon) {
     m_shown = FindElement<CMFCRibbonCheckComb>(ribbon, L"LayersShown");
     m_styles = FindElement<CMFCRibbonMultiCombo>(ribbon, L"LayerColors");

@@ -5,6 +5,8 @@
 #include "map_state.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 class CMFCRibbonCheckComb;
 class CMFCRibbonMultiCombo;
@@ -18,6 +20,9 @@ class CMFCRibbonSliderSync;
 class LayerControls {
 public:
     explicit LayerControls(MapState& state) : m_state(state) {}
+
+    /// What the layers are called in the language in force, in their order.
+    static std::vector<std::wstring> LayerNames();
 
     void Attach(CMFCRibbonBar& ribbon);
     /// Brings the controls to the state's values.

@@ -51,6 +51,13 @@ constexpr std::array<Skin, 2> kSkins = {
 
 std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "Viewer"); }
 
+/// What the list beside the map is called, and what is in it.
+LayerRowTexts ListTexts() {
+    const auto text = [](const char* key) { return CMultiLanguageMgr::translationW(key, -1, "RibbonBarCfg"); };
+    return {text("CatLayers"), text("PlaceCities"), LayerControls::LayerNames(),
+            CMultiLanguageMgr::GetLanguage() == L"zh-CN"};
+}
+
 /// The message with the name in place of its "%s".
 std::wstring WithName(std::wstring message, const std::wstring& name) {
     const std::size_t mark = message.find(L"%s");
@@ -98,6 +105,7 @@ CMainFrame::CMainFrame(const DemoOptions& options)
     : m_options(options),
       m_data(MapData::Load(std::filesystem::path(InstallationDirectory()) / L"data")),
       m_map(m_state, m_data),
+      m_pane(m_state, m_data, m_map),
       m_ribbon(TRUE),
       m_modes(m_ribbon),
       m_controls(m_state),
@@ -128,12 +136,13 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     CMFCToolTipInfo tooltips;
     tooltips.m_bVislManagerTheme = TRUE;
     CTooltipManager().SetTooltipParams(AFX_TOOLTIP_TYPE_RIBBON, RUNTIME_CLASS(CToolTipCtrlEx), &tooltips);
-    if (!m_ribbon.Create(this) || !m_map.Create(this, AFX_IDW_PANE_FIRST)) {
+    if (!m_ribbon.Create(this) || !m_pane.Create(this, AFX_IDW_PANE_FIRST)) {
         return -1;
     }
     m_ribbon.EnableToolTips(TRUE, TRUE);
     BuildRibbon();
     ApplyTexts();
+    m_pane.SetChangeListener([this] { TakeChange(); });
     m_map.SetPointerListener([this](GeoPoint place) { m_controls.ShowPointer(place); });
     return 0;
 }
@@ -223,7 +232,7 @@ void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
 
 void CMainFrame::ShowState() {
     m_controls.ShowState();
-    m_map.ShowState();
+    m_pane.ShowState();
 }
 
 void CMainFrame::TakeChange() {
@@ -279,6 +288,7 @@ void CMainFrame::ApplySkin() {
             CMFCRibbonUNIcoButton::SetSkinStyle(skin.iconStyle);
             m_ribbon.ChangeSkinColor(skin.style, TRUE);
             m_helpHint.TakeIcons(skin.icons);
+            m_pane.SetSkin(static_cast<UINT>(skin.style));
         }
     }
 }
@@ -290,6 +300,7 @@ void CMainFrame::ApplyTexts() {
     style.chineseNames = CMultiLanguageMgr::GetLanguage() == L"zh-CN";
     style.kilometres = ViewerText("Kilometres");
     m_map.SetStyle(style);
+    m_pane.SetTexts(ListTexts());
 }
 
 void CMainFrame::WriteRecord() {

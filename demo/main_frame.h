@@ -6,6 +6,7 @@
 #include "host_menu.h"
 #include "layer_controls.h"
 #include "map_data.h"
+#include "map_pane.h"
 #include "map_state.h"
 #include "map_window.h"
 #include "options.h"
@@ -98,6 +99,7 @@ private:
     MapData m_data;
     MapState m_state;
     CMapWindow m_map;
+    CMapPane m_pane;
     CViewerRibbon m_ribbon;
     WorkingModes m_modes;
     HostMenu m_contextMenu;

@@ -88,6 +88,9 @@ void CMapWindow::OrderPicture() {
     if (GetSafeHwnd()) {
         Invalidate(FALSE);
     }
+    if (m_viewListener) {
+        m_viewListener();
+    }
 }
 
 void CMapWindow::TakePicture() {

@@ -31,6 +31,8 @@ public:
     void Finish();
     /// Is told of the place under the pointer whenever it moves.
     void SetPointerListener(std::function<void(GeoPoint)> listener) { m_pointerListener = std::move(listener); }
+    /// Is called whenever the view or the window's size has become another one.
+    void SetViewListener(std::function<void()> listener) { m_viewListener = std::move(listener); }
     /// Copies the sharp picture of the map into a new bitmap. FALSE when there is no room for one.
     BOOL MakePicture(CBitmap& picture);
 
@@ -62,5 +64,6 @@ private:
     bool m_dragging = false;
     CPoint m_dragFrom;
     std::function<void(GeoPoint)> m_pointerListener;
+    std::function<void()> m_viewListener;
     std::unique_ptr<MapDrawer> m_drawer; ///< Made with the window.
 };

@@ -61,7 +61,8 @@ public:
     void SetSilverSideColor(COLORREF color);
 
     // Image files of the bar's present direction; below the installation directory unless said otherwise. The thumb's
-    // two images (at rest, and under the pointer), and the arrows. An image that cannot be loaded is left out.
+    // two images (at rest, and under the pointer), and the arrows. An image that cannot be loaded is left out. On a
+    // display of 125, 150 or 200 % NAME.150.png and so on is taken instead of NAME.png where it lies beside it.
     CString GetBlackNormalPath() const;
     void SetBlackNormalPath(const CString& path);
     CString GetBlackClickPath() const;

@@ -3,6 +3,7 @@
 
 #include "skins/scroll_images.h"
 
+#include <afxglobals.h>
 #include <varnhold/file_op.h>
 #include <varnhold/message_box.h>
 #include <varnhold/strings_mfc.h>
@@ -30,6 +31,23 @@ constexpr const wchar_t* kPaths[2][2][kImagesOfDirection] = {
 std::wstring Joined(const std::wstring& directory, const CString& path) {
     const bool isOpen = !directory.empty() && directory.back() != L'\\' && directory.back() != L'/';
     return directory + (isOpen ? L"\\" : L"") + CString2wstring(path);
+}
+
+constexpr std::array<int, 3> kFilePercents = {200, 150, 125}; // the largest first
+
+/// The file for the display's scale: beside NAME.png, which is for 100 %, there may be a NAME.150.png.
+std::wstring FileForScale(const std::wstring& path) {
+    const int percent = static_cast<int>(afxGlobalData.GetRibbonImageScale() * 100 + 0.5);
+    const std::size_t dot = path.rfind(L'.');
+    for (const int larger : kFilePercents) {
+        if (larger <= percent && dot != std::wstring::npos) {
+            const std::wstring file = path.substr(0, dot) + L'.' + std::to_wstring(larger) + path.substr(dot);
+            if (FileOp::FileExist(file)) {
+                return file;
+            }
+        }
+    }
+    return path;
 }
 
 } // namespace
@@ -66,8 +84,9 @@ void CScrollBarBase::UpdateSkin(UINT skin) {
     m_sideColor = isSilver ? m_silverSideColor : m_blackSideColor;
     std::array<std::wstring, ScrollImages::Count> files;
     for (int image = 0; image < ImageCount; ++image) {
-        files[image] = Joined(directory, Path(static_cast<Skin>(skin), static_cast<Image>(image)));
-        m_currentPaths[image] = wstring2CString(files[image]);
+        const std::wstring path = Joined(directory, Path(static_cast<Skin>(skin), static_cast<Image>(image)));
+        m_currentPaths[image] = wstring2CString(path);
+        files[image] = FileForScale(path);
     }
     m_images->Take(files);
     if (GetSafeHwnd()) {

@@ -4,6 +4,10 @@
 #include "tests/support/gui_objects.h"
 #include "tests/ui/scroll_bar/bar_fixture.h"
 
+#include <afxglobals.h>
+
+#include <utility>
+
 namespace {
 
 constexpr COLORREF kGround = RGB(75, 80, 90);
@@ -167,6 +171,24 @@ TEST_F(ScrollBarDrawing, ImagesAreDecodedOncePerSkinNotPerPaint) {
     EXPECT_EQ(SkinPicture::GetDecodeCount(), before) << "unchanged files are not read again";
     m_bar.SetSkin(1);
     EXPECT_EQ(SkinPicture::GetDecodeCount(), before + 4);
+}
+
+TEST_F(ScrollBarDrawing, OnALargerDisplayTheFileForItsScaleIsTakenWhereThereIsOne) {
+    WriteSkinPicture(m_folder, "pic/skin/black/upArrow.150.png", CSize(9, 6), [](int, int) { return RGB(1, 150, 1); });
+    WriteSkinPicture(m_folder, "pic/skin/black/upArrow.200.png", CSize(12, 8), [](int, int) { return RGB(1, 200, 1); });
+    Open();
+    for (const auto& [scale, green] : {std::pair(1.5, 150), std::pair(1.75, 150), std::pair(2.0, 200)}) {
+        afxGlobalData.SetRibbonImageScale(scale);
+        m_bar.SetSkin(0);
+        m_bar.UpdateWindow();
+        EXPECT_EQ(Shown(m_bar).At(9, 9), RGB(1, green, 1)) << scale;
+        EXPECT_EQ(Shown(m_bar).At(9, 190), ArrowColour(0, Down)) << "which has none";
+    }
+    afxGlobalData.SetRibbonImageScale(1);
+    m_bar.SetSkin(0);
+    m_bar.UpdateWindow();
+    EXPECT_EQ(Shown(m_bar).At(9, 9), ArrowColour(0, Up));
+    afxGlobalData.SetRibbonImageScale(0);
 }
 
 TEST_F(ScrollBarDrawing, AReplacedFileShowsWhenTheSkinIsTakenAgain) {

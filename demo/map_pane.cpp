@@ -1,0 +1,105 @@
+#include "map_pane.h"
+
+#include <afxglobals.h>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+enum ChildId : UINT { MapId = 1, ListId, DownId, AcrossId };
+
+constexpr int kListWidth = 190; // at 96 DPI
+constexpr int kNarrowest = 3;   // the list takes no more than this part of the width
+constexpr UINT kSilver = 1;
+
+/// By skin: black, silver.
+constexpr std::array<ViewerColors, 2> kColors = {{
+    {RGB(60, 64, 73), RGB(241, 243, 249), RGB(190, 196, 210), RGB(44, 47, 55), RGB(110, 168, 254)},
+    {RGB(250, 250, 250), RGB(17, 17, 17), RGB(90, 96, 106), RGB(197, 197, 197), RGB(28, 100, 200)},
+}};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMapPane, CWnd)
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+CMapPane::CMapPane(MapState& state, const MapData& data, CMapWindow& map)
+    : m_map(map),
+      m_list(state, data, [this] { TakeChange(); }),
+      m_down(state, MapAxis::Down, [this] { TakeChange(); }),
+      m_across(state, MapAxis::Across, [this] { TakeChange(); }) {}
+
+BOOL CMapPane::Create(CWnd* parent, UINT id) {
+    const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
+    if (!CWnd::Create(windowClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN,
+                      CRect(0, 0, 0, 0), parent, id) ||
+        !m_map.Create(this, MapId) || !m_list.Create(this, ListId) || !m_down.Create(this, DownId) ||
+        !m_across.Create(this, AcrossId)) {
+        return FALSE;
+    }
+    m_map.SetViewListener([this] {
+        m_down.ShowState();
+        m_across.ShowState();
+    });
+    return TRUE;
+}
+
+void CMapPane::SetSkin(UINT skin) {
+    m_colors = kColors[skin == kSilver ? 1 : 0];
+    m_list.SetSkin(skin, m_colors);
+    for (CMapScrollBar* const bar : {&m_down, &m_across}) {
+        bar->SetSkin(skin);
+    }
+    m_corner = skin == kSilver ? m_down.GetSilverBkColor() : m_down.GetBlackBkColor();
+    if (GetSafeHwnd()) {
+        Invalidate(FALSE);
+    }
+}
+
+void CMapPane::ShowState() {
+    m_map.ShowState();
+    m_list.ShowState();
+}
+
+void CMapPane::TakeChange() {
+    ShowState();
+    if (m_listener) {
+        m_listener();
+    }
+}
+
+void CMapPane::OnSize(UINT type, int width, int height) {
+    CWnd::OnSize(type, width, height);
+    if (width <= 0 || height <= 0) {
+        return;
+    }
+    const int breadth = m_down.GetScrollWidth();
+    const int list = std::min(afxGlobalData.ScalePixels(kListWidth), width / kNarrowest);
+    const int line = afxGlobalData.ScalePixels(1);
+    const CRect map(list + line, 0, std::max(width - breadth, list + line), std::max(height - breadth, 0));
+    m_list.MoveWindow(0, 0, list, height);
+    m_map.MoveWindow(map);
+    m_down.MoveWindow(map.right, 0, breadth, map.bottom);
+    m_across.MoveWindow(map.left, map.bottom, map.Width(), breadth);
+    m_down.InitThumb();
+    m_across.InitThumb();
+    Invalidate(FALSE);
+}
+
+BOOL CMapPane::OnEraseBkgnd(CDC* /*dc*/) { return TRUE; }
+
+// The line beside the list, and the corner between the bars.
+void CMapPane::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(client);
+    dc.FillSolidRect(client, m_corner);
+    CRect list;
+    m_list.GetWindowRect(list);
+    CRect line(list.Width(), 0, list.Width() + afxGlobalData.ScalePixels(1), client.bottom);
+    dc.FillSolidRect(line, m_colors.line);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "layer_list.h"
+#include "map_window.h"
+#include "viewer_scroll_bar.h"
+
+/// What the frame shows below its ribbon: the list of layers and cities, the map, and the map's two scroll bars. State,
+/// data and map window are the owner's.
+class CMapPane : public CWnd {
+public:
+    CMapPane(MapState& state, const MapData& data, CMapWindow& map);
+
+    /// Makes the map's window, too.
+    BOOL Create(CWnd* parent, UINT id);
+
+    void SetTexts(const LayerRowTexts& texts) { m_list.SetTexts(texts); }
+    /// 0 black, 1 silver.
+    void SetSkin(UINT skin);
+    /// Shows the state in all parts that show another one.
+    void ShowState();
+    /// Is called after the list or a scroll bar has changed the state.
+    void SetChangeListener(std::function<void()> listener) { m_listener = std::move(listener); }
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSize(UINT type, int width, int height);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void TakeChange();
+
+    CMapWindow& m_map;
+    CLayerList m_list;
+    CMapScrollBar m_down;
+    CMapScrollBar m_across;
+    ViewerColors m_colors = {};
+    COLORREF m_corner = 0;
+    std::function<void()> m_listener;
+};

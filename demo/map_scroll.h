@@ -1,0 +1,23 @@
+#pragma once
+
+#include "map_state.h"
+
+enum class MapAxis { Across, Down };
+
+/// The whole map as something that is scrolled along one axis.
+struct MapScroll {
+    /// Pixels of a step.
+    static constexpr int kStep = 12;
+
+    int length = 0;   ///< Of the map, pixels.
+    int limit = 0;    ///< Steps from one end to the other; 0 where all of it is seen.
+    int position = 0; ///< Steps from the west or the north, 0 to limit, wherever the view is.
+
+    friend bool operator==(const MapScroll&, const MapScroll&) = default;
+};
+
+MapScroll ScrollOf(const MapState& state, MapAxis axis);
+
+/// Moves the view by steps, towards the west or the north where they are negative, no farther than the map goes. Makes
+/// no entry in the history: EndDrag does.
+void ScrollBy(MapState& state, MapAxis axis, int steps);
