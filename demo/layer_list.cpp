@@ -121,6 +121,7 @@ void CLayerList::ShowFirst(int row) {
         return;
     }
     m_first = std::clamp(row, 0, GetLastFirstRow());
+    m_bar.ShowWindow(GetLastFirstRow() > 0 ? SW_SHOWNA : SW_HIDE);
     m_bar.ShowState();
     Invalidate(FALSE);
 }
@@ -172,7 +173,6 @@ void CLayerList::OnSize(UINT type, int width, int height) {
     }
     const int breadth = m_bar.GetScrollWidth();
     m_bar.MoveWindow(width - breadth, 0, breadth, height);
-    m_bar.ShowWindow(GetLastFirstRow() > 0 ? SW_SHOW : SW_HIDE);
     m_bar.InitThumb();
     ShowFirst(m_first);
 }
@@ -265,12 +265,22 @@ void CLayerList::DrawRow(CDC& dc, int row) {
         DrawTick(dc, CRect(CPoint(text.left, top), CSize(size, size)), m_state.IsShown(layer));
         const int swatch = Scaled(kSwatchSize);
         const CPoint corner(text.right - swatch, rect.top + (rect.Height() - swatch) / 2);
-        FillPlate(dc, CRect(corner, CSize(swatch + 1, swatch + 1)), ToColorRef(ShownColor(m_state, layer)), 255);
+        DrawSwatch(dc, CRect(corner, CSize(swatch, swatch)), ToColorRef(ShownColor(m_state, layer)));
         text.left += size + Scaled(kTickGap);
         text.right = corner.x - Scaled(kTickGap);
     }
     dc.SetTextColor(shown.IsChoosable() ? m_colors.text : m_colors.secondary);
     dc.DrawText(shown.text.c_str(), text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+}
+
+void CLayerList::DrawSwatch(CDC& dc, const CRect& rect, COLORREF color) {
+    Gdiplus::Graphics graphics(dc.GetSafeHdc());
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    const Gdiplus::Rect circle(rect.left, rect.top, rect.Width(), rect.Height());
+    const Gdiplus::SolidBrush brush(ToGdiPlus(color));
+    graphics.FillEllipse(&brush, circle);
+    const Gdiplus::Pen pen(ToGdiPlus(m_colors.secondary), static_cast<float>(Scaled(1)));
+    graphics.DrawEllipse(&pen, circle);
 }
 
 void CLayerList::DrawTick(CDC& dc, const CRect& box, bool isTicked) {

@@ -75,6 +75,7 @@ private:
     void MoveTo(int row);
     void ShowFirst(int row);
     void DrawRow(CDC& dc, int row);
+    void DrawSwatch(CDC& dc, const CRect& rect, COLORREF color);
     void DrawTick(CDC& dc, const CRect& box, bool isTicked);
 
     MapState& m_state;

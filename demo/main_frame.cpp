@@ -360,6 +360,14 @@ void CMainFrame::WriteRecord() {
         skinButton = m_skinButton->GetRect();
     }
     record["skinButtonOnScreen"] = onScreen(skinButton);
+    const auto part = [this](CMapPane::Part which) {
+        const CRect rect = m_pane.PlaceOf(which);
+        return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
+    };
+    record["paneOnScreen"] = {{"list", part(CMapPane::Part::List)},
+                              {"map", part(CMapPane::Part::Map)},
+                              {"down", part(CMapPane::Part::Down)},
+                              {"across", part(CMapPane::Part::Across)}};
     record["ribbonMinimized"] = IsRibbonMinimized();
     record["quickAccessBelow"] = IsQuickAccessBelow();
     std::string text = record.dump();

@@ -65,6 +65,13 @@ void CMapPane::ShowState() {
     m_list.ShowState();
 }
 
+CRect CMapPane::PlaceOf(Part part) const {
+    const std::array<const CWnd*, 4> windows = {&m_list, &m_map, &m_down, &m_across};
+    CRect place;
+    windows[static_cast<std::size_t>(part)]->GetWindowRect(place);
+    return place;
+}
+
 void CMapPane::TakeChange() {
     ShowState();
     if (m_listener) {

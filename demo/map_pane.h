@@ -18,6 +18,9 @@ public:
     void SetSkin(UINT skin);
     /// Shows the state in all parts that show another one.
     void ShowState();
+    /// Where a part is on the screen.
+    enum class Part { List, Map, Down, Across };
+    CRect PlaceOf(Part part) const;
     /// Is called after the list or a scroll bar has changed the state.
     void SetChangeListener(std::function<void()> listener) { m_listener = std::move(listener); }
 

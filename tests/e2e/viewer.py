@@ -145,6 +145,16 @@ class Viewer:
         self.hover_command(keyword)
         self._xdotool("sleep", 0.1, "mousedown", 1)
 
+    def press(self, x, y):
+        self._xdotool("mousemove", x, y, "sleep", 0.1, "mousedown", 1)
+
+    def drag(self, x, y, to_x, to_y):
+        """In steps, as a hand does."""
+        self.press(x, y)
+        for step in range(1, 6):
+            self._xdotool("mousemove", x + (to_x - x) * step // 5, y + (to_y - y) * step // 5, "sleep", 0.05)
+        self.release()
+
     def release(self):
         self._xdotool("mouseup", 1)
 
