@@ -94,7 +94,8 @@ void CMapPane::OnSize(UINT type, int width, int height) {
     m_across.MoveWindow(map.left, map.bottom, map.Width(), breadth);
     m_down.InitThumb();
     m_across.InitThumb();
-    Invalidate(FALSE);
+    // Now: until it is painted, new area shows whatever the screen had there.
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 BOOL CMapPane::OnEraseBkgnd(CDC* /*dc*/) { return TRUE; }
