@@ -32,6 +32,9 @@ std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
     return found;
 }
 
+/// Adds an item's state, in words, to what assistive programs are told.
+void AddWords(CAccessibilityData& data, const CString& words);
+
 /// The panel that shows the combo is no longer hot: the open list is.
 void CoolPanelOf(const CMFCRibbonComboBox& combo);
 
@@ -97,6 +100,23 @@ struct MarkedComboState {
         TakeStaticHeight(combo);
     }
 
+    // ---- what assistive programs are told; State has `WordsFor(index)`
+
+    static BOOL Describe(Combo& combo, CWnd* parent, CAccessibilityData& data) {
+        const BOOL isDescribed = combo.CMFCRibbonComboBox::SetACCData(parent, data);
+        if (const int row = combo.GetACCCurrentRow(); isDescribed && row >= 0) {
+            AddWords(data, State::Of(combo)->WordsFor(row));
+        }
+        return isDescribed;
+    }
+    static BOOL DescribeRow(Combo& combo, int row, CAccessibilityData& data) {
+        if (!combo.CMFCRibbonComboBox::SetACCRowData(row, data)) {
+            return FALSE;
+        }
+        AddWords(data, State::Of(combo)->WordsFor(row));
+        return TRUE;
+    }
+
 private:
     void TakeOver(const MarkedComboState& source) {
         rows = source.rows;
@@ -143,7 +163,5 @@ inline constexpr int leastEditWidth = 72;
 void ShowMarkChange(CMFCRibbonComboBox& combo, int index);
 /// Assistive programs are told of a changed mark when it is of the item that the element speaks of.
 void TellMarkChange(CMFCRibbonComboBox& combo, int index);
-/// Adds an item's state, in words, to what assistive programs are told.
-void AddWords(CAccessibilityData& data, const CString& words);
 /// A word as people read it.
 CString Displayed(const wchar_t* word);

@@ -198,20 +198,13 @@ void CMFCRibbonCheckComb::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 CString CMFCRibbonCheckComb::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
 
 BOOL CMFCRibbonCheckComb::SetACCData(CWnd* parent, CAccessibilityData& data) {
-    const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0) {
-        AddWords(data, m_state->WordsFor(row));
-    }
-    return isDescribed;
+    return State::Describe(*this, parent, data);
 }
 
 BOOL CMFCRibbonCheckComb::SetACCRowData(int row, CAccessibilityData& data) {
-    if (!CMFCRibbonComboBox::SetACCRowData(row, data)) {
-        return FALSE;
-    }
-    if (m_state->rows.GetOrEmpty(row)) {
+    const BOOL isDescribed = State::DescribeRow(*this, row, data);
+    if (isDescribed && m_state->rows.GetOrEmpty(row)) {
         data.m_nState |= STATE_SYSTEM_CHECKED;
     }
-    AddWords(data, m_state->WordsFor(row));
-    return TRUE;
+    return isDescribed;
 }

@@ -142,17 +142,9 @@ void CMFCRibbonVesMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 CString CMFCRibbonVesMultiCombo::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
 
 BOOL CMFCRibbonVesMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
-    const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0) {
-        AddWords(data, m_state->WordsFor(row));
-    }
-    return isDescribed;
+    return State::Describe(*this, parent, data);
 }
 
 BOOL CMFCRibbonVesMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
-    if (!CMFCRibbonComboBox::SetACCRowData(row, data)) {
-        return FALSE;
-    }
-    AddWords(data, m_state->WordsFor(row));
-    return TRUE;
+    return State::DescribeRow(*this, row, data);
 }

@@ -267,17 +267,9 @@ void CMFCRibbonMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 CString CMFCRibbonMultiCombo::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
 
 BOOL CMFCRibbonMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
-    const BOOL isDescribed = CMFCRibbonComboBox::SetACCData(parent, data);
-    if (const int row = GetACCCurrentRow(); isDescribed && row >= 0) {
-        AddWords(data, m_state->WordsFor(row));
-    }
-    return isDescribed;
+    return State::Describe(*this, parent, data);
 }
 
 BOOL CMFCRibbonMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
-    if (!CMFCRibbonComboBox::SetACCRowData(row, data)) {
-        return FALSE;
-    }
-    AddWords(data, m_state->WordsFor(row));
-    return TRUE;
+    return State::DescribeRow(*this, row, data);
 }

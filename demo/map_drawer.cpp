@@ -1,16 +1,13 @@
 #include "map_drawer.h"
 
+#include "bitmap_info.h"
+
 #include <utility>
 
 namespace {
 
 HBITMAP MakeBitmap(int width, int height) {
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    const BITMAPINFO info = TopDownPixels(width, height);
     void* bits = nullptr;
     return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
 }

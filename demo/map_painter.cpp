@@ -1,5 +1,6 @@
 #include "map_painter.h"
 
+#include "bitmap_info.h"
 #include "mode_overlay.h"
 
 #include <algorithm>
@@ -309,12 +310,7 @@ void DrawScaleBar(const Canvas& canvas, const TextStyle& style, TextPlaces& plac
 class FineSurface {
 public:
     FineSurface(int width, int height) : m_width(width), m_height(height), m_dc(::CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = 2 * width;
-        info.bmiHeader.biHeight = -2 * height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
+        const BITMAPINFO info = TopDownPixels(2 * width, 2 * height);
         void* bits = nullptr;
         m_bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
         m_fine = static_cast<DWORD*>(bits);
@@ -343,12 +339,7 @@ public:
                 out[x] = Average(upper[0], upper[1], lower[0], lower[1]);
             }
         }
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof info.bmiHeader;
-        info.bmiHeader.biWidth = m_width;
-        info.bmiHeader.biHeight = -m_height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
+        const BITMAPINFO info = TopDownPixels(m_width, m_height);
         ::SetDIBitsToDevice(target, 0, 0, m_width, m_height, 0, 0, 0, m_height, pixels.data(), &info, DIB_RGB_COLORS);
     }
 

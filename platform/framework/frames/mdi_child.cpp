@@ -2,6 +2,7 @@
 
 #include "afxext.h"
 #include "fx/window_guard.h"
+#include "window/frame_title.h"
 
 IMPLEMENT_DYNCREATE(CMDIChildWnd, CFrameWnd)
 
@@ -73,13 +74,9 @@ BOOL CMDIChildWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD d
 
 BOOL CMDIChildWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
     m_nIDHelp = nIDResource;
-    CString text;
-    CString title;
-    if (text.LoadString(nIDResource)) {
-        AfxExtractSubString(title, text, 0);
-    }
     auto* parent = DYNAMIC_DOWNCAST(CMDIFrameWnd, pParentWnd);
-    return Create(GetIconWndClass(dwDefaultStyle, nIDResource), title, dwDefaultStyle, rectDefault, parent, pContext);
+    return Create(GetIconWndClass(dwDefaultStyle, nIDResource), fx::FrameTitleOf(nIDResource), dwDefaultStyle,
+                  rectDefault, parent, pContext);
 }
 
 BOOL CMDIChildWnd::PreCreateWindow(CREATESTRUCT& cs) {

@@ -1,6 +1,7 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "window/frame_title.h"
 
 #include <utility>
 
@@ -69,17 +70,12 @@ BOOL CFrameWnd::CreateWithMenu(LPCTSTR className, LPCTSTR title, DWORD style, co
 
 BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
     m_nIDHelp = nIDResource;
-    CString text;
-    CString title;
-    if (text.LoadString(nIDResource)) {
-        AfxExtractSubString(title, text, 0);
-    }
     const LPCTSTR resource = MAKEINTRESOURCE(nIDResource);
     const HINSTANCE menuModule = AfxFindResourceHandle(resource, RT_MENU);
     const bool hasMenu = ::FindResourceW(menuModule, resource, RT_MENU) != nullptr;
     const HMENU menu = hasMenu ? ::LoadMenuW(menuModule, resource) : nullptr;
-    if (!CreateWithMenu(GetIconWndClass(dwDefaultStyle, nIDResource), title, dwDefaultStyle, rectDefault, pParentWnd,
-                        menu, 0, pContext)) {
+    if (!CreateWithMenu(GetIconWndClass(dwDefaultStyle, nIDResource), fx::FrameTitleOf(nIDResource), dwDefaultStyle,
+                        rectDefault, pParentWnd, menu, 0, pContext)) {
         return FALSE;
     }
     if (!m_hMenuDefault) { // else a ribbon bar has hidden it already

@@ -13,47 +13,40 @@ MapState StateOf(int width, int height, double pixelsPerDegree) {
 
 } // namespace
 
-TEST(MapStandIn, PictureOfTheSameViewStandsWhereItIs) {
-    const MapState state = StateOf(800, 400, 10);
-    const MapStandIn plan = PlanStandIn(state, state);
-    EXPECT_EQ(plan.source, (fx::Rect{0, 0, 800, 400}));
-    EXPECT_EQ(plan.target, (fx::Rect{0, 0, 800, 400}));
-}
-
-TEST(MapStandIn, DraggedMapIsThePictureShifted) {
-    const MapState drawn = StateOf(800, 400, 10);
-    MapState shown = drawn;
-    shown.Drag(30, -20); // the view goes east and south, the picture west and north
-    const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (fx::Rect{30, 20, 800, 400}));
-    EXPECT_EQ(plan.target, (fx::Rect{0, 0, 770, 380}));
-}
-
-TEST(MapStandIn, ZoomedMapIsTheMiddleOfThePictureEnlarged) {
-    const MapState drawn = StateOf(800, 400, 10);
-    MapState shown = drawn;
-    shown.Zoom(2);
-    const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (fx::Rect{200, 100, 600, 300}));
-    EXPECT_EQ(plan.target, (fx::Rect{0, 0, 800, 400}));
-}
-
-TEST(MapStandIn, MapZoomedOutLeavesRoomAroundThePicture) {
-    const MapState drawn = StateOf(800, 400, 10);
-    MapState shown = drawn;
-    shown.Zoom(0.5);
-    const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (fx::Rect{0, 0, 800, 400}));
-    EXPECT_EQ(plan.target, (fx::Rect{200, 100, 600, 300}));
-}
-
-TEST(MapStandIn, PictureStaysInTheMiddleOfALargerWindow) {
-    const MapState drawn = StateOf(800, 400, 10);
-    MapState shown = drawn;
-    shown.SetWindowSize(1000, 500);
-    const MapStandIn plan = PlanStandIn(drawn, shown);
-    EXPECT_EQ(plan.source, (fx::Rect{0, 0, 800, 400}));
-    EXPECT_EQ(plan.target, (fx::Rect{100, 50, 900, 450}));
+TEST(MapStandIn, ThePictureStandsWhereTheNewViewShowsIt) {
+    struct Case {
+        const char* what;
+        void (*change)(MapState& shown);
+        fx::Rect source;
+        fx::Rect target;
+    };
+    const Case cases[] = {
+        {"the same view: where it is", [](MapState&) {}, {0, 0, 800, 400}, {0, 0, 800, 400}},
+        {"dragged: shifted, for the view goes east and south and the picture west and north",
+         [](MapState& shown) { shown.Drag(30, -20); },
+         {30, 20, 800, 400},
+         {0, 0, 770, 380}},
+        {"zoomed: the middle of it, enlarged",
+         [](MapState& shown) { shown.Zoom(2); },
+         {200, 100, 600, 300},
+         {0, 0, 800, 400}},
+        {"zoomed out: with room around it",
+         [](MapState& shown) { shown.Zoom(0.5); },
+         {0, 0, 800, 400},
+         {200, 100, 600, 300}},
+        {"a larger window: in its middle",
+         [](MapState& shown) { shown.SetWindowSize(1000, 500); },
+         {0, 0, 800, 400},
+         {100, 50, 900, 450}},
+    };
+    for (const Case& one : cases) {
+        const MapState drawn = StateOf(800, 400, 10);
+        MapState shown = drawn;
+        one.change(shown);
+        const MapStandIn plan = PlanStandIn(drawn, shown);
+        EXPECT_EQ(plan.source, one.source) << one.what;
+        EXPECT_EQ(plan.target, one.target) << one.what;
+    }
 }
 
 TEST(MapStandIn, WholePixelsOfThePictureCoverTheWindowUpToItsEdges) {
