@@ -1,6 +1,6 @@
 #include "config/element_kind.h"
 
-#include "config/text_case.h"
+#include "varnhold/letter_case.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ constexpr KindName kindNames[] = {
 
 ElementKind KindOfElement(std::wstring_view type) noexcept {
     for (const KindName& name : kindNames) {
-        if (EqualsIgnoringCase(type, name.type)) {
+        if (varnhold::EqualsIgnoringCase(type, name.type)) {
             return name.kind;
         }
     }

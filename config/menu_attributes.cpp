@@ -1,7 +1,7 @@
 #include "config/menu_attributes.h"
 
 #include "config/shortcut_text.h"
-#include "config/text_case.h"
+#include "varnhold/letter_case.h"
 
 #include <varnhold/language.h>
 #include <varnhold/strings.h>
@@ -53,7 +53,7 @@ bool TakeTranslation(Attribute& attribute) {
 }
 
 bool TakeMenuName(Attribute& attribute) {
-    if (EqualsIgnoringCase(attribute.Value(), kSeparatorName)) {
+    if (varnhold::EqualsIgnoringCase(attribute.Value(), kSeparatorName)) {
         attribute.info.bSeparator = true;
         return false;
     }
@@ -93,7 +93,7 @@ constexpr KnownAttribute kAttributes[] = {
 
 Taker TakerOf(std::string_view name) {
     for (const KnownAttribute& known : kAttributes) {
-        if (EqualsIgnoringCase(known.name, name)) {
+        if (varnhold::EqualsIgnoringCase(known.name, name)) {
             return known.take;
         }
     }

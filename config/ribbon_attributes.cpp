@@ -1,6 +1,6 @@
 #include "config/ribbon_attributes.h"
 
-#include "config/text_case.h"
+#include "varnhold/letter_case.h"
 
 #include <varnhold/language.h>
 #include <varnhold/strings.h>
@@ -120,7 +120,7 @@ bool TakeNumber(Attribute& attribute) {
 }
 
 bool TakeGroupBefore(Attribute& attribute) {
-    attribute.info.groupBefore = EqualsIgnoringCase(attribute.Value(), "Y");
+    attribute.info.groupBefore = varnhold::EqualsIgnoringCase(attribute.Value(), "Y");
     if (attribute.info.groupBefore && !attribute.IsLast()) {
         attribute.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
     }
@@ -129,9 +129,9 @@ bool TakeGroupBefore(Attribute& attribute) {
 
 bool TakeCateTab(Attribute& attribute) {
     const std::string_view value = attribute.Value();
-    if (EqualsIgnoringCase(value, "Y")) {
+    if (varnhold::EqualsIgnoringCase(value, "Y")) {
         attribute.info.cateTab = true;
-    } else if (EqualsIgnoringCase(value, "N")) {
+    } else if (varnhold::EqualsIgnoringCase(value, "N")) {
         attribute.info.cateTab = false;
     } else {
         attribute.Warn("not-yes-or-no", L"\"" + string2wstring(value) + L"\" is neither Y nor N");
@@ -140,7 +140,7 @@ bool TakeCateTab(Attribute& attribute) {
 }
 
 bool TakeAcceptF1(Attribute& attribute) {
-    if (EqualsIgnoringCase(attribute.Value(), "N")) {
+    if (varnhold::EqualsIgnoringCase(attribute.Value(), "N")) {
         attribute.info.acceptF1 = false;
     }
     return true;
@@ -211,7 +211,7 @@ const KnownAttribute* FindAttribute(std::string_view name) {
     }
     const KnownAttribute& known = attributes[slot - 1];
     // Nearly every name is written as it stands here.
-    return AreSame(known.name, name) || EqualsIgnoringCase(known.name, name) ? &known : nullptr;
+    return AreSame(known.name, name) || varnhold::EqualsIgnoringCase(known.name, name) ? &known : nullptr;
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "config/shortcut_text.h"
 
-#include "config/text_case.h"
+#include "varnhold/letter_case.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -21,7 +21,7 @@ constexpr Modifier kModifiers[] = {
 /// 0 for a piece that is no modifier.
 std::uint8_t FlagOf(std::wstring_view piece) {
     for (const Modifier& modifier : kModifiers) {
-        if (EqualsIgnoringCase(piece, modifier.name)) {
+        if (varnhold::EqualsIgnoringCase(piece, modifier.name)) {
             return modifier.flag;
         }
     }

@@ -2,6 +2,7 @@
 
 #include "src/gb18030.h"
 #include "src/unicode.h"
+#include "varnhold/letter_case.h"
 #include "varnhold/strings.h"
 
 #include <algorithm>
@@ -82,15 +83,6 @@ bool ReadDeclaredEncoding(std::string_view text, std::string& name) {
         }
         text.remove_prefix(closing + 1);
     }
-}
-
-std::string Lower(std::string text) {
-    for (char& c : text) {
-        if (c >= 'A' && c <= 'Z') {
-            c = static_cast<char>(c - 'A' + 'a');
-        }
-    }
-    return text;
 }
 
 std::string Utf16ToUtf8(std::string_view bytes, Encoding order) {
@@ -205,8 +197,9 @@ bool DecodeXml(std::string bytes, std::string& utf8, std::wstring& reason) {
         utf8 = Decode(std::move(bytes), Encoding::Utf8);
         return true;
     }
-    const auto* known = std::find_if(std::begin(kEncodingNames), std::end(kEncodingNames),
-                                     [lower = Lower(name)](const EncodingName& entry) { return lower == entry.name; });
+    const auto* known =
+        std::find_if(std::begin(kEncodingNames), std::end(kEncodingNames),
+                     [&name](const EncodingName& entry) { return varnhold::EqualsIgnoringCase(name, entry.name); });
     if (known == std::end(kEncodingNames)) {
         reason = L"the encoding \"" + string2wstring(name) + L"\" is not known";
         return false;

@@ -3,6 +3,7 @@
 #include "src/file_system.h"
 #include "src/language_tables.h"
 #include "varnhold/file_op.h"
+#include "varnhold/letter_case.h"
 #include "varnhold/strings.h"
 
 #include <algorithm>
@@ -72,17 +73,10 @@ void TakeDefault(std::string_view keyword, int number, std::wstring& text) {
     }
 }
 
-wchar_t Lower(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
-
-bool EqualsIgnoringCase(std::wstring_view left, std::wstring_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](wchar_t a, wchar_t b) { return Lower(a) == Lower(b); });
-}
-
 bool IsTableName(const std::wstring& name) {
     constexpr std::wstring_view extension = L".xlf";
     return name.size() > extension.size() &&
-           EqualsIgnoringCase(std::wstring_view(name).substr(name.size() - extension.size()), extension);
+           varnhold::EqualsIgnoringCase(std::wstring_view(name).substr(name.size() - extension.size()), extension);
 }
 
 /// False when the installation directory is unknown.
@@ -112,7 +106,7 @@ std::shared_ptr<const LanguageTables> ReadTables(std::wstring& code) {
     // Looked up among the folders that are there: a code never becomes part of a path by itself.
     const std::vector<std::wstring> folders = varnhold::ListFolder(folder, EntryKind::Folders);
     const auto found = std::find_if(folders.begin(), folders.end(),
-                                    [&](const std::wstring& name) { return EqualsIgnoringCase(name, code); });
+                                    [&](const std::wstring& name) { return varnhold::EqualsIgnoringCase(name, code); });
     const std::wstring path = folder + (found == folders.end() ? code : *found) + varnhold::kSeparator;
     const std::vector<std::wstring> names = found == folders.end() ? std::vector<std::wstring>() : ListTables(path);
     if (names.empty()) {

@@ -3,6 +3,7 @@
 #include "src/file_system.h"
 #include "src/unicode.h"
 #include "src/xml_tree.h"
+#include "varnhold/letter_case.h"
 #include "varnhold/strings.h"
 
 #include <algorithm>
@@ -72,12 +73,6 @@ std::string ReadContent(const pugi::xml_node& content, bool preserve) {
     return preserve ? text : FoldLineBreaks(text);
 }
 
-bool SameCode(std::string_view left, std::string_view right) {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [lower](char a, char b) { return lower(a) == lower(b); });
-}
-
 } // namespace
 
 /// Reads one file into the tables.
@@ -122,7 +117,7 @@ bool XliffReader::Read(const std::wstring& language) {
         return false;
     }
     const pugi::xml_attribute target = root.attribute("trgLang");
-    if (target && !SameCode(target.value(), wstring2String(language))) {
+    if (target && !varnhold::EqualsIgnoringCase(target.value(), wstring2String(language))) {
         Report(L"trgLang is \"" + string2wstring(target.value()) + L"\", but the folder is \"" + language + L"\"",
                root);
     }

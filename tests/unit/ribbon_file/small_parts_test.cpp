@@ -1,8 +1,8 @@
 #include "config/command_id.h"
 #include "config/depth_walker.h"
 #include "config/element_kind.h"
-#include "config/text_case.h"
 #include "menu_id_mgr.h"
+#include "varnhold/letter_case.h"
 
 #include <gtest/gtest.h>
 
@@ -109,12 +109,12 @@ TEST(ElementKinds, TypesAreKnownInAnyLetterCase) {
 }
 
 TEST(LetterCase, TextsOfDifferentLengthDiffer) {
-    EXPECT_TRUE(EqualsIgnoringCase(L"", L""));
-    EXPECT_TRUE(EqualsIgnoringCase(L"aZ", L"Az"));
-    EXPECT_FALSE(EqualsIgnoringCase(L"a", L"ab"));
-    EXPECT_FALSE(EqualsIgnoringCase(L"ab", L"a"));
-    EXPECT_FALSE(EqualsIgnoringCase(L"[", L"{"));
-    EXPECT_FALSE(EqualsIgnoringCase(L"@", L"`"));
+    EXPECT_TRUE(varnhold::EqualsIgnoringCase(L"", L""));
+    EXPECT_TRUE(varnhold::EqualsIgnoringCase(L"aZ", L"Az"));
+    EXPECT_FALSE(varnhold::EqualsIgnoringCase(L"a", L"ab"));
+    EXPECT_FALSE(varnhold::EqualsIgnoringCase(L"ab", L"a"));
+    EXPECT_FALSE(varnhold::EqualsIgnoringCase(L"[", L"{"));
+    EXPECT_FALSE(varnhold::EqualsIgnoringCase(L"@", L"`"));
 }
 
 TEST(DepthWalker, GoesBelowAnElementOnlyWhereTheVisitorSaysSo) {
