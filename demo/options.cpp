@@ -1,9 +1,6 @@
 #include "options.h"
 
-#include "command_line.h"
-
-#include <functional>
-#include <map>
+#include "option_table.h"
 
 namespace {
 
@@ -13,46 +10,19 @@ constexpr int kLargest = 100000;
 
 std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
     DemoOptions options;
-    typedef std::function<bool(const std::wstring&)> Setter;
-    const auto text = [](std::wstring& target) {
-        return Setter([&target](const std::wstring& v) {
-            target = v;
-            return true;
-        });
-    };
-    const std::map<std::wstring, Setter> setters = {
-        {L"--lang", text(options.language)},
-        {L"--skin",
-         [&](const std::wstring& v) {
-             options.skin = v;
-             return v == L"black" || v == L"silver";
-         }},
-        {L"--mode",
-         [&](const std::wstring& v) {
-             options.mode = v;
-             return v == L"browse" || v == L"edit" || v == L"print";
-         }},
-        {L"--screenshot", text(options.screenshot)},
-        {L"--record", text(options.record)},
-        {L"--direction",
-         [&](const std::wstring& v) {
-             options.isRightToLeft = v == L"rtl";
-             return v == L"rtl" || v == L"ltr";
-         }},
-        {L"--size", [&](const std::wstring& v) { return ParseSize(v, kLargest, options.width, options.height); }},
-        {L"--scale", [&](const std::wstring& v) { return ParseInteger(v, 0, kLargest, options.scalePercent); }},
-        {L"--category", [&](const std::wstring& v) { return ParseInteger(v, 0, kLargest, options.category); }},
-    };
-    for (std::size_t i = 0; i < arguments.size(); i += 2) {
-        const auto setter = setters.find(arguments[i]);
-        if (setter == setters.end()) {
-            error = L"unknown option " + arguments[i];
-            return std::nullopt;
-        }
-        if (i + 1 == arguments.size() || !setter->second(arguments[i + 1])) {
-            error = arguments[i] + L" needs a proper value";
-            return std::nullopt;
-        }
-    }
-    return options;
+    std::wstring direction;
+    std::vector<std::wstring> words;
+    const bool isUnderstood = OptionTable()
+                                  .AddText(L"--lang", options.language)
+                                  .AddChoice(L"--skin", {L"black", L"silver"}, options.skin)
+                                  .AddChoice(L"--mode", {L"browse", L"edit", L"print"}, options.mode)
+                                  .AddText(L"--screenshot", options.screenshot)
+                                  .AddText(L"--record", options.record)
+                                  .AddChoice(L"--direction", {L"ltr", L"rtl"}, direction)
+                                  .AddSize(L"--size", kLargest, options.width, options.height)
+                                  .AddNumber(L"--scale", 0, kLargest, options.scalePercent)
+                                  .AddNumber(L"--category", 0, kLargest, options.category)
+                                  .Read(arguments, 0, words, error);
+    options.isRightToLeft = direction == L"rtl";
+    return isUnderstood ? std::optional(options) : std::nullopt;
 }

@@ -1,17 +1,17 @@
 #include "options.h"
 
-#include "command_line.h"
+#include "option_table.h"
 
 #include <afxwin.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <functional>
-#include <map>
 
 namespace {
 
 constexpr int kLargest = 16384;
+constexpr int kLowestScale = 50; // percent
+constexpr int kHighestScale = 400;
 
 /// cfg\KIND*.xml of the directory in name order, as paths relative to it. Letter case says nothing, as in the file
 /// system; `kind` is in capitals.
@@ -50,54 +50,27 @@ const wchar_t* BarviewUsage() {
 
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
     BarviewOptions options;
-    typedef std::function<bool(const std::wstring&)> Setter;
-    const auto text = [](std::wstring& target) {
-        return Setter([&target](const std::wstring& value) {
-            target = value;
-            return !value.empty();
-        });
-    };
-    const std::map<std::wstring, Setter> setters = {
-        {L"--ribbon",
-         [&](const std::wstring& file) {
-             options.ribbonFiles.push_back(file);
-             return !file.empty();
-         }},
-        {L"--menu",
-         [&](const std::wstring& file) {
-             options.menuFiles = {file};
-             return !file.empty();
-         }},
-        {L"--lang", text(options.language)},
-        {L"--skin",
-         [&](const std::wstring& name) {
-             options.skin = name;
-             return name == L"black" || name == L"silver";
-         }},
-        {L"--size",
-         [&](const std::wstring& value) { return ParseSize(value, kLargest, options.width, options.height); }},
-        {L"--scale", [&](const std::wstring& value) { return ParseInteger(value, 50, 400, options.scalePercent); }},
-        {L"--category", text(options.category)},
-        {L"--path", text(options.path)},
-        {L"--screenshot", text(options.screenshot)},
-        {L"--dump", text(options.dump)},
-    };
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::wstring& argument = arguments[i];
-        const auto setter = setters.find(argument);
-        if (setter == setters.end()) {
-            if (argument.starts_with(L"-") || !options.directory.empty()) {
-                error = L"not understood: " + argument;
-                return std::nullopt;
-            }
-            options.directory = argument;
-            continue;
-        }
-        if (++i == arguments.size() || !setter->second(arguments[i])) {
-            error = argument + L" needs a proper value";
-            return std::nullopt;
-        }
+    std::vector<std::wstring> directories;
+    const bool isUnderstood = OptionTable()
+                                  .AddTexts(L"--ribbon", options.ribbonFiles)
+                                  .Add(L"--menu",
+                                       [&options](const std::wstring& file) {
+                                           options.menuFiles = {file};
+                                           return !file.empty();
+                                       })
+                                  .AddText(L"--lang", options.language)
+                                  .AddChoice(L"--skin", {L"black", L"silver"}, options.skin)
+                                  .AddSize(L"--size", kLargest, options.width, options.height)
+                                  .AddNumber(L"--scale", kLowestScale, kHighestScale, options.scalePercent)
+                                  .AddText(L"--category", options.category)
+                                  .AddText(L"--path", options.path)
+                                  .AddText(L"--screenshot", options.screenshot)
+                                  .AddText(L"--dump", options.dump)
+                                  .Read(arguments, 1, directories, error);
+    if (!isUnderstood) {
+        return std::nullopt;
     }
+    options.directory = directories.empty() ? L"" : directories.front();
     if (options.directory.empty()) {
         error = L"the installation directory is missing";
         return std::nullopt;
