@@ -6,6 +6,7 @@
 #include <afxtoolbarimages.h>
 #include <fx/dc_scope.h>
 #include <fx/geometry.h>
+#include <fx/scoped_change.h>
 #include <varnhold/language.h>
 
 #include <algorithm>
@@ -49,20 +50,6 @@ FileIcon ChosenIcon(const CString& primaryPath, const CString& chosenPath, int u
     const bool isLeaving = primaryPath != chosenPath && LeavesInstallation(primaryPath);
     return isLeaving ? FileIcon() : FileIcon(chosenPath, usualSide, drawnSide);
 }
-
-/// Puts another value in a variable's place and the old one back at the end of the scope.
-template <class T>
-class Lent {
-public:
-    Lent(T& place, const T& value) : m_place(place), m_kept(place) { m_place = value; }
-    ~Lent() { m_place = m_kept; }
-    Lent(const Lent&) = delete;
-    Lent& operator=(const Lent&) = delete;
-
-private:
-    T& m_place;
-    const T m_kept;
-};
 
 } // namespace
 
@@ -113,8 +100,8 @@ void CMFCRibbonUNIcoButton::DrawImage(CDC* dc, RibbonImageType type, CRect rect)
 
 void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type,
                                                 CRect rect) {
-    const Lent disabled(original.m_bIsDisabled, m_bIsDisabled);
-    const Lent place(original.m_rect, m_rect);
+    const fx::ScopedChange disabled(original.m_bIsDisabled, m_bIsDisabled);
+    const fx::ScopedChange place(original.m_rect, m_rect);
     original.DrawImage(dc, type, rect);
 }
 
@@ -131,13 +118,13 @@ void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect r
     const FileIcon small = ChosenIcon(m_smallIconPath, alternate ? m_smallAlternatePath : m_smallIconPath, smallSide,
                                       drawnSide(type == RibbonImageSmall, smallSide));
     // The handles are the element's own for the time of this draw only.
-    const Lent largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);
+    const fx::ScopedChange largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);
     if (!m_hIcon) {
-        const Lent noSmallHandle(m_hIconSmall, static_cast<HICON>(nullptr));
+        const fx::ScopedChange noSmallHandle(m_hIconSmall, static_cast<HICON>(nullptr));
         CMFCRibbonButton::DrawImage(dc, type, rect);
         return;
     }
-    const Lent smallHandle(m_hIconSmall, small.Get() ? small.Get() : m_hIconSmall);
+    const fx::ScopedChange smallHandle(m_hIconSmall, small.Get() ? small.Get() : m_hIconSmall);
     const HICON icon = type == RibbonImageSmall && m_hIconSmall ? m_hIconSmall : m_hIcon;
     if (m_bIsDisabled) {
         // In the pixels that were loaded: enlarged before it is drawn, it would be blurred.
@@ -177,32 +164,32 @@ CString CMFCRibbonUNIcoButton::GetShownText() const {
 
 // The member, not SetText: that would take a part of the text for key tips.
 void CMFCRibbonUNIcoButton::OnDraw(CDC* dc) {
-    const Lent displayed(m_strText, GetShownText());
+    const fx::ScopedChange displayed(m_strText, GetShownText());
     CMFCRibbonButton::OnDraw(dc);
 }
 
 void CMFCRibbonUNIcoButton::OnAfterChangeRect(CDC* dc) {
-    const Lent displayed(m_strText, GetShownText());
+    const fx::ScopedChange displayed(m_strText, GetShownText());
     CMFCRibbonButton::OnAfterChangeRect(dc);
 }
 
 void CMFCRibbonUNIcoButton::OnCalcTextSize(CDC* dc) {
-    const Lent displayed(m_strText, GetShownText());
+    const fx::ScopedChange displayed(m_strText, GetShownText());
     CMFCRibbonButton::OnCalcTextSize(dc);
 }
 
 CSize CMFCRibbonUNIcoButton::GetRegularSize(CDC* dc) {
-    const Lent displayed(m_strText, GetShownText());
+    const fx::ScopedChange displayed(m_strText, GetShownText());
     return CMFCRibbonButton::GetRegularSize(dc);
 }
 
 CSize CMFCRibbonUNIcoButton::GetIntermediateSize(CDC* dc) {
-    const Lent displayed(m_strText, GetShownText());
+    const fx::ScopedChange displayed(m_strText, GetShownText());
     return CMFCRibbonButton::GetIntermediateSize(dc);
 }
 
 CSize CMFCRibbonUNIcoButton::GetCompactSize(CDC* dc) {
-    const Lent displayed(m_strText, GetShownText());
+    const fx::ScopedChange displayed(m_strText, GetShownText());
     return CMFCRibbonButton::GetCompactSize(dc);
 }
 

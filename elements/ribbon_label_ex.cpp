@@ -5,6 +5,7 @@
 #include <afxglobals.h>
 #include <afxribbonbar.h>
 #include <afxvisualmanager.h>
+#include <fx/dc_scope.h>
 #include <fx/window_guard.h>
 
 #include <varnhold/language.h>
@@ -19,26 +20,6 @@ namespace {
 constexpr COLORREF noColor = 0xFFFFFFFF;
 /// The line below a label in a menu stays free, in pixels.
 constexpr int menuBottomMargin = 2;
-
-/// Font, colour and background mode of a device context, given back at the end of the scope.
-class KeptText {
-public:
-    KeptText(CDC* dc, CFont& font)
-        : m_dc(dc), m_font(dc->SelectObject(&font)), m_color(dc->GetTextColor()), m_mode(dc->SetBkMode(TRANSPARENT)) {}
-    ~KeptText() {
-        m_dc->SetBkMode(m_mode);
-        m_dc->SetTextColor(m_color);
-        m_dc->SelectObject(m_font);
-    }
-    KeptText(const KeptText&) = delete;
-    KeptText& operator=(const KeptText&) = delete;
-
-private:
-    CDC* m_dc;
-    CFont* m_font;
-    COLORREF m_color;
-    int m_mode;
-};
 
 /// Centres the lines of a text that may be broken: the rectangle narrowed at top and bottom alike.
 CRect CentredLines(CDC* dc, const CString& text, CRect rect, UINT format) {
@@ -93,7 +74,8 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
         return;
     }
     CMFCVisualManager* const visual = CMFCVisualManager::GetInstance();
-    const KeptText kept(dc, IsMenuMode() ? afxGlobalData.fontBold : afxGlobalData.fontRegular);
+    const fx::DcSelection font(*dc, IsMenuMode() ? afxGlobalData.fontBold : afxGlobalData.fontRegular);
+    const fx::TextColour colour(*dc, dc->GetTextColor());
     CRect rect = m_rect;
     if (IsMenuMode()) {
         rect.bottom -= menuBottomMargin;

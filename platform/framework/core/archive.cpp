@@ -1,6 +1,6 @@
 #include "fx/archive.h"
 
-#include "core/scoped_change.h"
+#include "fx/scoped_change.h"
 
 #include <algorithm>
 #include <climits>

@@ -1,6 +1,6 @@
 #include "fx/bar_frame.h"
 
-#include "core/scoped_change.h"
+#include "fx/scoped_change.h"
 
 namespace fx {
 

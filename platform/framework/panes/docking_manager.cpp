@@ -2,7 +2,7 @@
 
 #include "afxext.h"
 #include "afxPane.h"
-#include "core/scoped_change.h"
+#include "fx/scoped_change.h"
 #include "panes/pane_layout.h"
 #include "panes/pane_menu.h"
 

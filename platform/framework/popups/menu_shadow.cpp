@@ -269,7 +269,7 @@ void MenuShadow::OnPaint() {
     }
     CDC memory;
     memory.CreateCompatibleDC(&dc);
-    const fx::DcSelection selected(memory, &m_copy);
+    const fx::DcSelection selected(memory, m_copy);
     dc.BitBlt(0, 0, m_rect.Width(), m_rect.Height(), &memory, 0, 0, SRCCOPY);
 }
 

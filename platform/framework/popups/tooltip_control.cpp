@@ -4,6 +4,7 @@
 #include "afxdrawmanager.h"
 #include "afxglobals.h"
 #include "afxribbonbutton.h"
+#include "fx/dc_scope.h"
 #include "popups/tooltip_shape.h"
 #include "popups/tooltip_text.h"
 
@@ -15,27 +16,6 @@ constexpr COLORREF g_none = static_cast<COLORREF>(-1);
 /// From top to bottom.
 constexpr int g_usualAngle = 270;
 constexpr int g_largestRegularImage = 32;
-
-/// A font that is selected while this lives.
-class FontScope {
-public:
-    FontScope(CDC* dc, const CFont& font) : m_dc(dc->GetSafeHdc()) {
-        if (font.GetSafeHandle() != nullptr) {
-            m_previous = ::SelectObject(m_dc, font.GetSafeHandle());
-        }
-    }
-    ~FontScope() {
-        if (m_previous != nullptr) {
-            ::SelectObject(m_dc, m_previous);
-        }
-    }
-    FontScope(const FontScope&) = delete;
-    FontScope& operator=(const FontScope&) = delete;
-
-private:
-    HDC m_dc;
-    HGDIOBJ m_previous = nullptr;
-};
 
 /// Text wrapped to the width, drawn with the selected font and text colour, or only measured.
 CSize DrawWrapped(CDC* dc, const CString& text, CRect rect, int width, BOOL isMeasureOnly) {
@@ -126,7 +106,7 @@ int CMFCToolTipCtrl::GetTextWidth() const {
 }
 
 CSize CMFCToolTipCtrl::OnDrawLabel(CDC* pDC, CRect rect, BOOL bCalcOnly) {
-    const FontScope font(pDC, m_Params.m_bBoldLabel ? afxGlobalData.fontBold : afxGlobalData.fontTooltip);
+    const fx::DcSelection font(*pDC, m_Params.m_bBoldLabel ? afxGlobalData.fontBold : afxGlobalData.fontTooltip);
     // A label alone may be wider than a description: as wide as the tooltip may be.
     const int widest = GetSafeHwnd() != nullptr ? GetMaxTipWidth() : -1;
     const int width = IsDescriptionShown() ? GetTextWidth() : widest > 0 ? widest : ::GetSystemMetrics(SM_CXSCREEN) / 2;
@@ -137,7 +117,7 @@ CSize CMFCToolTipCtrl::OnDrawDescription(CDC* pDC, CRect rect, BOOL bCalcOnly) {
     if (!IsDescriptionShown()) {
         return CSize(0, 0);
     }
-    const FontScope font(pDC, afxGlobalData.fontTooltip);
+    const fx::DcSelection font(*pDC, afxGlobalData.fontTooltip);
     return DrawWrapped(pDC, m_strDescription, rect, GetTextWidth(), bCalcOnly);
 }
 

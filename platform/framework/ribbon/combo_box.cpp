@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/scoped_change.h"
+#include "fx/scoped_change.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonComboBox, CMFCRibbonEdit)
 

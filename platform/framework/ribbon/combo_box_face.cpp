@@ -4,8 +4,8 @@
 #include <afxglobals.h>
 #include <afxvisualmanager.h>
 
-#include "core/scoped_change.h"
 #include "fx/dc_scope.h"
+#include "fx/scoped_change.h"
 #include "popups/row_text.h"
 #include "ribbon/element_metrics.h"
 

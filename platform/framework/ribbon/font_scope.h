@@ -2,17 +2,12 @@
 
 #include <afxwin.h>
 
+#include "fx/dc_scope.h"
+
 /// Selects the ribbon's regular font for its lifetime.
-class RibbonFontScope {
+class RibbonFontScope : public fx::DcSelection {
 public:
     explicit RibbonFontScope(CDC& dc);
-    ~RibbonFontScope();
-    RibbonFontScope(const RibbonFontScope&) = delete;
-    RibbonFontScope& operator=(const RibbonFontScope&) = delete;
-
-private:
-    HDC m_dc;
-    HGDIOBJ m_previous;
 };
 
 /// One line in the middle of the rectangle, ended with dots where it is too long. color: -1 for the bar's.

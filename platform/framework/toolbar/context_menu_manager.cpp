@@ -2,7 +2,7 @@
 
 #include "afxpopupmenu.h"
 #include "core/handler_depth.h"
-#include "core/scoped_change.h"
+#include "fx/scoped_change.h"
 
 CContextMenuManager* afxContextMenuManager = nullptr;
 

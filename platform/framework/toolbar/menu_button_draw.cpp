@@ -81,14 +81,11 @@ SIZE CMFCToolBarMenuButton::OnCalculateSize(CDC* pDC, const CSize& sizeDefault, 
     }
     const ItemText text = SplitText(m_strText);
     const bool isDefault = m_nID != 0 && m_nID == menu->GetDefaultMenuId();
-    CFont* const former = isDefault ? pDC->SelectObject(&afxGlobalData.fontBold) : nullptr;
+    const fx::DcSelection font(*pDC, isDefault ? afxGlobalData.fontBold.GetSafeHandle() : nullptr);
     const UINT prefix = menu->IsDropDownListMode() ? DT_NOPREFIX : 0;
     m_sizeText = CSize(TextWidth(*pDC, text.label, prefix), afxGlobalData.GetCharacterHeight());
     if (!text.accelerator.IsEmpty()) {
         m_sizeText.cx += Scaled(acceleratorGap) + TextWidth(*pDC, text.accelerator, DT_NOPREFIX);
-    }
-    if (former) {
-        pDC->SelectObject(former);
     }
     return CSize(toolbar::MenuRowWidth(m_sizeText.cx, menu->GetRowMetrics()), menu->GetRowHeight());
 }
@@ -174,7 +171,7 @@ void CMFCToolBarMenuButton::DrawMenuItem(CDC* pDC, const CRect& rect, CMFCToolBa
         DrawMenuItemImage(pDC, row.image, pImages, isHot, bGrayDisabled);
     }
     const bool isDefault = m_nID != 0 && m_nID == menu.GetDefaultMenuId();
-    CFont* const former = isDefault ? pDC->SelectObject(&afxGlobalData.fontBold) : nullptr;
+    const fx::DcSelection font(*pDC, isDefault ? afxGlobalData.fontBold.GetSafeHandle() : nullptr);
     {
         const fx::TextColour colour(*pDC, color);
         const ItemText text = SplitText(m_strText);
@@ -184,9 +181,6 @@ void CMFCToolBarMenuButton::DrawMenuItem(CDC* pDC, const CRect& rect, CMFCToolBa
         if (!text.accelerator.IsEmpty()) {
             pDC->DrawText(text.accelerator, label, DT_SINGLELINE | DT_VCENTER | DT_RIGHT | DT_NOPREFIX);
         }
-    }
-    if (former) {
-        pDC->SelectObject(former);
     }
     if (HasPopup()) {
         DrawArrow(*pDC, row.arrow, true, color);

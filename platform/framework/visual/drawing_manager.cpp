@@ -1,5 +1,6 @@
 #include "afxdrawmanager.h"
 
+#include "fx/dc_scope.h"
 #include "gdi/device_pixels.h"
 #include "visual/canvas.h"
 
@@ -305,10 +306,9 @@ void CDrawingManager::DrawRect(const CRect& rect, COLORREF clrFill, COLORREF clr
 
 void CDrawingManager::DrawLine(int x1, int y1, int x2, int y2, COLORREF clrLine) {
     CPen pen(PS_SOLID, 1, clrLine);
-    CPen* previous = m_dc.SelectObject(&pen);
+    const fx::DcSelection selected(m_dc, pen);
     m_dc.MoveTo(x1, y1);
     m_dc.LineTo(x2, y2);
-    m_dc.SelectObject(previous);
 }
 
 HBITMAP __stdcall CDrawingManager::CreateBitmap_32(const CSize& size, void** pBits) {

@@ -1,5 +1,6 @@
 #include "afxglobals.h"
 
+#include "fx/dc_scope.h"
 #include "visual/text_size.h"
 
 #include <cstddef>
@@ -51,10 +52,9 @@ void Recreate(CFont& font, const LOGFONTW& description) {
 }
 
 int TextHeight(HDC dc, const CFont& font) {
-    const HGDIOBJ previous = SelectObject(dc, font);
+    const fx::DcSelection selected(dc, font);
     TEXTMETRICW metrics{};
     GetTextMetricsW(dc, &metrics);
-    SelectObject(dc, previous);
     return metrics.tmHeight;
 }
 

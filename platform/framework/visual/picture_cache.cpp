@@ -1,5 +1,7 @@
 #include "visual/picture_cache.h"
 
+#include "fx/dc_scope.h"
+
 #include <algorithm>
 #include <span>
 #include <utility>
@@ -26,14 +28,13 @@ bool PictureCache::Draw(HDC dc, const RECT& rect, const Recipe& recipe) {
     }
     m_pictures.splice(m_pictures.begin(), m_pictures, found->second);
     const Picture& picture = *found->second;
-    const HGDIOBJ previous = SelectObject(m_memory, picture.bitmap);
+    const fx::DcSelection selected(m_memory, picture.bitmap);
     if (picture.isOpaque) {
         BitBlt(dc, rect.left, rect.top, width, height, m_memory, 0, 0, SRCCOPY);
     } else {
         const BLENDFUNCTION over{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
         AlphaBlend(dc, rect.left, rect.top, width, height, m_memory, 0, 0, width, height, over);
     }
-    SelectObject(m_memory, previous);
     return true;
 }
 

@@ -1,7 +1,7 @@
 #include "afxwin.h"
 
 #include "afxext.h"
-#include "core/scoped_change.h"
+#include "fx/scoped_change.h"
 
 #include <utility>
 

@@ -1,4 +1,5 @@
 #include "afxext.h"
+#include "fx/dc_scope.h"
 #include "fx/window_dc.h"
 
 #include "window/control_message.h"
@@ -61,8 +62,7 @@ BOOL CStatusBar::SetIndicators(const UINT* lpIDArray, int nIDCount) {
     m_panes.assign(static_cast<size_t>(nIDCount), Pane());
     m_nCount = nIDCount;
     CClientDC dc(this);
-    const auto font = Send<HFONT>(*this, WM_GETFONT);
-    const HGDIOBJ former = font ? ::SelectObject(dc.m_hDC, font) : nullptr;
+    const fx::DcSelection font(dc, Send<HFONT>(*this, WM_GETFONT));
     BOOL areAllFound = TRUE;
     for (int index = 0; index < nIDCount; ++index) {
         Pane& pane = m_panes[static_cast<size_t>(index)];
@@ -82,9 +82,6 @@ BOOL CStatusBar::SetIndicators(const UINT* lpIDArray, int nIDCount) {
     }
     if (!m_panes.empty() && m_panes.front().id == ID_SEPARATOR) {
         m_panes.front().style = SBPS_STRETCH | SBPS_NOBORDERS;
-    }
-    if (former) {
-        ::SelectObject(dc.m_hDC, former);
     }
     PlacePanes();
     for (int index = 0; index < nIDCount; ++index) {
@@ -201,13 +198,9 @@ void CStatusBar::OnSize(UINT nType, int cx, int cy) {
 
 CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
     CClientDC dc(this);
-    const auto font = Send<HFONT>(*this, WM_GETFONT);
-    const HGDIOBJ former = font ? ::SelectObject(dc.m_hDC, font) : nullptr;
+    const fx::DcSelection font(dc, Send<HFONT>(*this, WM_GETFONT));
     TEXTMETRIC metrics{};
     ::GetTextMetricsW(dc.m_hDC, &metrics);
-    if (former) {
-        ::SelectObject(dc.m_hDC, former);
-    }
     int borders[3] = {};
     Send(*this, SB_GETBORDERS, 0, borders);
     CSize size = CControlBar::CalcFixedLayout(bStretch, bHorz);

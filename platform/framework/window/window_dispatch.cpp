@@ -1,9 +1,9 @@
 // The way of a message: window procedure, maps, commands and notifications, reflection, default.
-#include "core/scoped_change.h"
 #include "fx/app.h"
 #include "fx/cmdui.h"
 #include "fx/exceptions.h"
 #include "fx/message_shapes.h"
+#include "fx/scoped_change.h"
 #include "fx/window_guard.h"
 #include "window/message_map.h"
 #include "window/thread_state.h"

@@ -1,9 +1,9 @@
 // Scrolling, dialog items and the exchange of their contents.
-#include "core/scoped_change.h"
 #include "fx/app.h"
 #include "fx/data_exchange.h"
 #include "fx/exceptions.h"
 #include "fx/gdi_objects.h"
+#include "fx/scoped_change.h"
 #include "fx/wnd.h"
 #include "window/thread_state.h"
 

@@ -1,7 +1,7 @@
 // Loops that run until a window says that it is done.
 #include "afxpriv.h"
-#include "core/scoped_change.h"
 #include "fx/app.h"
+#include "fx/scoped_change.h"
 #include "window/thread_state.h"
 
 namespace {

@@ -7,8 +7,8 @@
 #include "tests/support/counted_faults.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ribbon_host.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/translation_tables.h"
+#include <fx/scoped_change.h>
 
 #include <afxvisualmanager.h>
 
@@ -334,7 +334,7 @@ TEST_F(LabelClick, AHostMayRemoveTheLabelInTheAnswer) {
 }
 
 TEST_F(LabelClick, WithoutABarNobodyIsTold) {
-    const ScopedValue<CWnd*> mainWindow{AfxGetApp()->m_pMainWnd, &m_host.Frame()};
+    const fx::ScopedChange<CWnd*> mainWindow{AfxGetApp()->m_pMainWnd, &m_host.Frame()};
     CWnd neverMade;
     CMFCRibbonLabelEx loose(L"text");
     loose.SetRect(CRect(0, 0, 50, 20));

@@ -8,7 +8,7 @@
 #include "ribbon_multi_combo.h"
 #include "tests/support/pointer.h"
 #include "tests/support/ribbon_host.h"
-#include "tests/support/scoped_value.h"
+#include <fx/scoped_change.h>
 
 #include <gmock/gmock.h>
 
@@ -170,9 +170,9 @@ protected:
 
     // The image scale is the screen's until it is set.
     const bool m_isScaled = afxGlobalData.SetRibbonImageScale(1.0) != FALSE;
-    ScopedValue<MarkSizes> m_sizes{MarkSizes::Current(), MarkSizes()};
-    ScopedValue<int> m_checkHeight{CMFCRibbonCheckComb::m_nStaticDropDownHeight, 560};
-    ScopedValue<int> m_multiHeight{CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 560};
+    fx::ScopedChange<MarkSizes> m_sizes{MarkSizes::Current(), MarkSizes()};
+    fx::ScopedChange<int> m_checkHeight{CMFCRibbonCheckComb::m_nStaticDropDownHeight, 560};
+    fx::ScopedChange<int> m_multiHeight{CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 560};
     RibbonHost m_host;
     Pointer m_pointer;
 };

@@ -65,7 +65,7 @@ protected:
         }
     }
 
-    ScopedValue<MarkSizes> m_sizes{MarkSizes::Current(), MarkSizes()};
+    fx::ScopedChange<MarkSizes> m_sizes{MarkSizes::Current(), MarkSizes()};
 };
 
 TEST_F(LightImages, TheSharedListIsEmptyUntilALightIsDrawn) {

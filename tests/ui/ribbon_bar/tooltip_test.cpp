@@ -1,7 +1,7 @@
 #include "afxglobals.h"
 #include "afxtooltipmanager.h"
-#include "tests/support/scoped_value.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
+#include <fx/scoped_change.h>
 
 namespace {
 
@@ -103,7 +103,7 @@ TEST_F(RibbonTooltipTest, WithoutTooltipsThereIsNoControl) {
 
 TEST_F(RibbonTooltipTest, TheHostSaysHowWideTheTextMayGet) {
     EXPECT_EQ(Bar().GetToolTipCtrl()->GetMaxTipWidth(), afxGlobalData.ScalePixels(640));
-    const ScopedValue<int> widest(afxGlobalData.m_nMaxToolTipWidth, 120);
+    const fx::ScopedChange<int> widest(afxGlobalData.m_nMaxToolTipWidth, 120);
     Bar().EnableToolTips(TRUE);
     EXPECT_EQ(Bar().GetToolTipCtrl()->GetMaxTipWidth(), 120);
 }

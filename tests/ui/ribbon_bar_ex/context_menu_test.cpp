@@ -102,7 +102,7 @@ TEST_F(RibbonContextMenu, WithTheSwitchOffThereIsNoMenu) {
 }
 
 TEST_F(RibbonContextMenu, WithoutAManagerThereIsNoMenu) {
-    const ScopedValue none(afxContextMenuManager, nullptr);
+    const fx::ScopedChange none(afxContextMenuManager, nullptr);
     EXPECT_FALSE(Show(&Button(0, 1)));
     PumpPending();
     EXPECT_TRUE(m_frame->commands.empty());
@@ -136,8 +136,8 @@ TEST_F(RibbonContextMenu, ANumberThatNeverWasAMenuIsNone) {
 }
 
 TEST_F(RibbonContextMenu, WithoutAMainWindowThereIsNoMenu) {
-    const ScopedValue none(AfxGetApp()->m_pMainWnd, nullptr);
-    const ScopedValue threads(AfxGetThread()->m_pMainWnd, nullptr);
+    const fx::ScopedChange none(AfxGetApp()->m_pMainWnd, nullptr);
+    const fx::ScopedChange threads(AfxGetThread()->m_pMainWnd, nullptr);
     EXPECT_FALSE(Show(&Button(0, 1)));
     EXPECT_TRUE(Button(0, 1).hooks.empty());
 }

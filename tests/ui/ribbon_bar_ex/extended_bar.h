@@ -4,8 +4,8 @@
 #include "ribbon_category_ex.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/pointer.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+#include <fx/scoped_change.h>
 
 #include <afxcontrolbars.h>
 #include <afxribbonpanelmenu.h>
@@ -111,5 +111,5 @@ protected:
     Pointer m_pointer;
 
 private:
-    std::optional<ScopedValue<CWnd*>> m_mainWindow;
+    std::optional<fx::ScopedChange<CWnd*>> m_mainWindow;
 };

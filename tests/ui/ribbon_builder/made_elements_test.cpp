@@ -2,10 +2,10 @@
 #include "library_context.h"
 #include "ribbon_check_combo.h"
 #include "ribbon_multi_combo.h"
-#include "tests/support/scoped_value.h"
 #include "tests/ui/icon_button/button_flags.h"
 #include "tests/ui/ribbon_builder/drawn_icons.h"
 #include "tests/ui/ribbon_builder/ribbon_fixture.h"
+#include <fx/scoped_change.h>
 
 namespace {
 
@@ -191,8 +191,8 @@ void ExpectBuiltCombo(CMFCRibbonComboBox& combo) {
 }
 
 TEST_F(RibbonBuilder, ACheckComboAndAMultiComboDropInTheirClassesStaticHeight) {
-    const ScopedValue checkHeight(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 321);
-    const ScopedValue multiHeight(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 123);
+    const fx::ScopedChange checkHeight(CMFCRibbonCheckComb::m_nStaticDropDownHeight, 321);
+    const fx::ScopedChange multiHeight(CMFCRibbonMultiCombo::m_nStaticDropDownHeight, 123);
     const auto check = MakeCombo<CMFCRibbonCheckComb>(L"qkRibbonCheckComb");
     ASSERT_NE(check, nullptr);
     ExpectBuiltCombo(*check);

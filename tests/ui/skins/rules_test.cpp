@@ -2,12 +2,12 @@
 
 #include "check_drop_down.h"
 #include "skins/menu_rules.h"
-#include "tests/support/scoped_value.h"
 
 #include <afxpopupmenu.h>
 #include <afxribbonbar.h>
 #include <afxtoolbar.h>
 #include <afxtoolbarmenubutton.h>
+#include <fx/scoped_change.h>
 
 namespace {
 
@@ -129,22 +129,22 @@ TEST_F(SkinRules, WithoutPicturesTheMenusBorderIsThePlatformsOlderOne) {
 TEST_F(SkinRules, InHighContrastTheMenusBorderIsThePlatformsOlderOne) {
     auto& skin = Use<OpenBlackSkin>();
     {
-        const ScopedValue black(afxGlobalData.m_bIsBlackHighContrast, TRUE);
+        const fx::ScopedChange black(afxGlobalData.m_bIsBlackHighContrast, TRUE);
         ExpectOlderBorder(skin);
     }
-    const ScopedValue white(afxGlobalData.m_bIsWhiteHighContrast, TRUE);
+    const fx::ScopedChange white(afxGlobalData.m_bIsWhiteHighContrast, TRUE);
     ExpectOlderBorder(skin);
 }
 
 TEST_F(SkinRules, OnADisplayOfFewColoursTheMenusBorderIsThePlatformsOlderOne) {
     auto& skin = Use<OpenBlackSkin>();
-    const ScopedValue bits(afxGlobalData.m_nBitsPerPixel, 8);
+    const fx::ScopedChange bits(afxGlobalData.m_nBitsPerPixel, 8);
     ExpectOlderBorder(skin);
 }
 
 TEST_F(SkinRules, InHighContrastTheSystemsColoursAreDrawn) {
     auto& skin = Use<OpenBlackSkin>();
-    const ScopedValue black(afxGlobalData.m_bIsBlackHighContrast, TRUE);
+    const fx::ScopedChange black(afxGlobalData.m_bIsBlackHighContrast, TRUE);
     Canvas canvas;
     skin.OnDrawRibbonTabsFrame(canvas.Dc(), nullptr, CRect(0, 0, 40, 40));
     EXPECT_NE(canvas.At(20, 20), Pixel(RGB(50, 52, 62)));

@@ -1,5 +1,5 @@
-#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+#include <fx/scoped_change.h>
 
 #include "afxglobals.h"
 #include "afxtooltipctrl.h"
@@ -137,7 +137,7 @@ TEST(Tooltip, ChineseWithoutSpacesIsWrappedToo) {
 
 TEST(Tooltip, TheHostsWidestWidthWrapsTheTextOfEveryKind) {
     TestWindow window;
-    const ScopedValue<int> widest(afxGlobalData.m_nMaxToolTipWidth, 90);
+    const fx::ScopedChange<int> widest(afxGlobalData.m_nMaxToolTipWidth, 90);
     for (const UINT type : {AFX_TOOLTIP_TYPE_TOOLBAR, AFX_TOOLTIP_TYPE_RIBBON, AFX_TOOLTIP_TYPE_DOCKBAR}) {
         CToolTipCtrl* tooltip = nullptr;
         ASSERT_TRUE(CTooltipManager::CreateToolTip(tooltip, &window, type));

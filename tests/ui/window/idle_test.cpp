@@ -1,7 +1,7 @@
 #include "afxpriv.h"
 #include "tests/support/message_pump.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+#include <fx/scoped_change.h>
 
 namespace {
 
@@ -38,7 +38,7 @@ protected:
     IdleCounter m_main;
     IdleCounter m_bar;
     IdleCounter m_button;
-    ScopedValue<CWnd*> m_mainWindow{AfxGetApp()->m_pMainWnd, &m_main};
+    fx::ScopedChange<CWnd*> m_mainWindow{AfxGetApp()->m_pMainWnd, &m_main};
 };
 
 TEST_F(Idle, TheMainWindowAndAllItsDescendantsUpdateTheirItems) {

@@ -1,6 +1,6 @@
 #include "tests/support/keys.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+#include <fx/scoped_change.h>
 
 namespace {
 
@@ -49,7 +49,7 @@ protected:
     Translator m_leaf{L"leaf"};
     Translator m_popup{L"popup"};
     Translator m_stranger{L"stranger"};
-    ScopedValue<CWnd*> m_mainWindow{AfxGetApp()->m_pMainWnd, &m_main};
+    fx::ScopedChange<CWnd*> m_mainWindow{AfxGetApp()->m_pMainWnd, &m_main};
 };
 
 TEST_F(PreTranslate, TheWalkGoesFromTheTargetUpToTheMainWindow) {

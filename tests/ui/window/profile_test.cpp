@@ -1,6 +1,6 @@
 #include "afxwinappex.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+#include <fx/scoped_change.h>
 
 #include <filesystem>
 
@@ -67,8 +67,8 @@ protected:
     const std::wstring m_file =
         (std::filesystem::temp_directory_path() / (L"barwright-" + std::to_wstring(::GetCurrentProcessId()) + L".ini"))
             .wstring();
-    ScopedValue<LPCTSTR> m_noRegistry{App()->m_pszRegistryKey, nullptr};
-    ScopedValue<LPCTSTR> m_profile{App()->m_pszProfileName, m_file.c_str()};
+    fx::ScopedChange<LPCTSTR> m_noRegistry{App()->m_pszRegistryKey, nullptr};
+    fx::ScopedChange<LPCTSTR> m_profile{App()->m_pszProfileName, m_file.c_str()};
 };
 
 TEST_F(IniProfile, TextsOfAnyLengthComeBackWhole) {

@@ -2,8 +2,8 @@
 #include "tests/support/keys.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/pointer.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+#include <fx/scoped_change.h>
 
 namespace {
 
@@ -75,7 +75,7 @@ TEST(Support, PumpUntilGivesUpWhenNothingComes) {
 TEST(Support, AScopedValueComesBack) {
     int value = 1;
     {
-        ScopedValue<int> other(value, 2);
+        fx::ScopedChange<int> other(value, 2);
         EXPECT_EQ(value, 2);
     }
     EXPECT_EQ(value, 1);

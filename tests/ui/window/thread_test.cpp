@@ -1,6 +1,6 @@
 #include "tests/support/message_pump.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/ui_test.h"
+#include <fx/scoped_change.h>
 
 #include <atomic>
 
@@ -75,7 +75,7 @@ TEST(Threads, AWorkerGetsItsParameterAndItsOwnThreadObject) {
 }
 
 TEST(Threads, DestroyingTheMainWindowEndsTheLoop) {
-    ScopedValue<CWnd*> keep(AfxGetApp()->m_pMainWnd, nullptr);
+    fx::ScopedChange<CWnd*> keep(AfxGetApp()->m_pMainWnd, nullptr);
     TestWindow window;
     AfxGetApp()->m_pMainWnd = &window;
     EXPECT_EQ(AfxGetMainWnd(), &window);
@@ -89,7 +89,7 @@ TEST(Threads, AnApplicationWithoutAWindowEndsAtOnce) { EXPECT_EQ(AfxGetApp()->Ru
 
 TEST(Threads, TheQuitCodeIsTheProgramsResult) {
     TestWindow window;
-    ScopedValue<CWnd*> main(AfxGetApp()->m_pMainWnd, &window);
+    fx::ScopedChange<CWnd*> main(AfxGetApp()->m_pMainWnd, &window);
     ::PostQuitMessage(23);
     EXPECT_EQ(AfxGetApp()->Run(), 23);
 }

@@ -1,6 +1,6 @@
 #include "library_context.h"
 #include "menu_id_mgr.h"
-#include "tests/support/scoped_value.h"
+#include <fx/scoped_change.h>
 
 #include <afxglobals.h>
 #include <gtest/gtest.h>
@@ -129,7 +129,7 @@ TEST_F(MediaFolder, EmptyRecordInThePlainKeyIsTheRecord) {
 
 TEST_F(MediaFolder, OfTheRedirectedKeyIsNotLookedForWhereTheHostSaysThatTheSystemHasNone) {
     Record(L"C:\\redirected", redirectedKey);
-    const ScopedValue<BOOL> oldSystem(afxGlobalData.bIsWindows7, FALSE);
+    const fx::ScopedChange<BOOL> oldSystem(afxGlobalData.bIsWindows7, FALSE);
     CString folder;
     EXPECT_FALSE(GetHaveMedias_Brevant(folder));
 }

@@ -3,7 +3,7 @@
 #include "add_ribbon_bar.h"
 #include "menu_id_mgr.h"
 #include "skin_visual_managers.h"
-#include "tests/support/scoped_value.h"
+#include <fx/scoped_change.h>
 
 #include <gtest/gtest.h>
 
@@ -66,7 +66,7 @@ TEST_F(FrameDump, CommandsOfTheHostAreListedUnderAnyIdOfAMessage) {
 }
 
 TEST_F(FrameDump, CounterMayHaveGoneBeyondTheIdsOfMessages) {
-    const ScopedValue counter(CMenuIdMgr::s_AddBeginID, 70001u);
+    const fx::ScopedChange counter(CMenuIdMgr::s_AddBeginID, 70001u);
     for (const int id : {70001, 70000, 65536}) {
         CMenuIdMgr::Ins()->Add(L"K" + std::to_wstring(id), id, L"", L"", L"", L"", L"");
     }
@@ -78,9 +78,10 @@ TEST_F(FrameDump, StatusRecordsShowEveryFieldUnderItsOwnName) {
     const CAddRibbonBar::_RibbonInfo record{true, L"name", L"type", L"tip",  L"key", L"pic", L"dis",
                                             16,   L"cmd",  L"par",  L"help", false,  true,   {L"a", L"", L"\x5730"},
                                             50};
-    const ScopedValue extras(CAddRibbonBar::m_smStatusExBtns, decltype(CAddRibbonBar::m_smStatusExBtns){
-                                                                  {L"cfg\\b.xml", {L"StatusEx_btns", {}}},
-                                                                  {L"cfg\\a.xml", {L"StatusEx_btns", {record, {}}}}});
+    const fx::ScopedChange extras(
+        CAddRibbonBar::m_smStatusExBtns,
+        decltype(CAddRibbonBar::m_smStatusExBtns){{L"cfg\\b.xml", {L"StatusEx_btns", {}}},
+                                                  {L"cfg\\a.xml", {L"StatusEx_btns", {record, {}}}}});
     const ordered_json got = DumpFrame({})["statusExtras"];
     ASSERT_EQ(got.size(), 2u);
     EXPECT_EQ(got[0]["path"], "cfg\\a.xml");

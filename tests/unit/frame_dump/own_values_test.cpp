@@ -7,7 +7,7 @@
 #include "ribbon_multi_combo.h"
 #include "ribbon_slider_sync.h"
 #include "tests/support/ribbon_host.h"
-#include "tests/support/scoped_value.h"
+#include <fx/scoped_change.h>
 
 #include <afxribbonbuttonsgroup.h>
 
@@ -51,7 +51,7 @@ protected:
         return own;
     }
 
-    ScopedValue<int> m_checkHeight{CMFCRibbonCheckComb::m_nStaticDropDownHeight, 560};
+    fx::ScopedChange<int> m_checkHeight{CMFCRibbonCheckComb::m_nStaticDropDownHeight, 560};
     RibbonHost m_host;
 };
 

@@ -226,7 +226,7 @@ TEST_F(Canvas, ScopesPutBackWhatTheyChanged) {
     CPen pen(PS_SOLID, 1, red);
     const HGDIOBJ before = ::GetCurrentObject(*m_dc, OBJ_PEN);
     {
-        const fx::DcSelection selection(*m_dc, &pen);
+        const fx::DcSelection selection(*m_dc, pen);
         EXPECT_EQ(::GetCurrentObject(*m_dc, OBJ_PEN), pen.m_hObject);
     }
     EXPECT_EQ(::GetCurrentObject(*m_dc, OBJ_PEN), before);
@@ -326,7 +326,7 @@ TEST_F(MirroredCanvas, APictureLiesWhereItsRectangleIsFilled) {
     CBitmap bitmap;
     bitmap.CreateCompatibleBitmap(m_dc.get(), 4, 4);
     {
-        const fx::DcSelection selection(source, &bitmap);
+        const fx::DcSelection selection(source, bitmap);
         source.FillSolidRect(0, 0, 4, 4, red);
     }
     list.Add(&bitmap, static_cast<CBitmap*>(nullptr));
@@ -398,7 +398,7 @@ TEST_F(Canvas, BlendAndTransparency) {
     CBitmap bitmap;
     bitmap.CreateCompatibleBitmap(m_dc.get(), 4, 4);
     {
-        const fx::DcSelection selection(source, &bitmap);
+        const fx::DcSelection selection(source, bitmap);
         source.FillSolidRect(0, 0, 4, 4, red);
         source.FillSolidRect(0, 0, 1, 4, green);
         m_dc->FillSolidRect(CRect(0, 0, 40, 30), blue);

@@ -6,25 +6,25 @@
 
 namespace fx {
 
-/// One object selected into a context, the one before selected back.
-template <class Object>
+/// One object selected into a context, the one before selected back. Handles, not wrappers: the framework may delete a
+/// temporary wrapper before the scope ends.
 class DcSelection {
 public:
-    DcSelection(CDC& dc, Object* object) : m_dc(dc), m_before(dc.SelectObject(object)) {}
+    /// object: null selects nothing.
+    DcSelection(HDC dc, HGDIOBJ object)
+        : m_dc(dc), m_before(object != nullptr ? ::SelectObject(dc, object) : nullptr) {}
     ~DcSelection() {
         if (m_before != nullptr) {
-            m_dc.SelectObject(m_before);
+            ::SelectObject(m_dc, m_before);
         }
     }
     DcSelection(const DcSelection&) = delete;
     DcSelection& operator=(const DcSelection&) = delete;
 
 private:
-    CDC& m_dc;
-    Object* m_before;
+    HDC m_dc;
+    HGDIOBJ m_before;
 };
-template <class Object>
-DcSelection(CDC&, Object*) -> DcSelection<Object>;
 
 /// Everything that SaveDC keeps: selected objects, colours, modes, clipping, co-ordinates.
 class DcState {
