@@ -14,7 +14,6 @@ from PIL import ImageChops
 from viewer import Viewer
 
 BIN_DIR = ""
-WHITE = (255, 255, 255)
 
 
 def keep(look, name):
@@ -86,19 +85,6 @@ class MapWhileItChanges(unittest.TestCase):
         viewer.wait_for(lambda record: record["map"]["finished"])
         look = viewer.settled_look()
         self.assertLess(longest_black(look, self.below_the_ribbon(viewer, look)), self.ALLOWED)
-
-    def test_no_area_is_black_while_the_window_grows(self):
-        with Viewer(BIN_DIR, "--lang", "en", "--size", "900x600") as viewer:
-            self.begin(viewer)
-            viewer.press(898, 598)
-            looks = []
-            for step in range(1, 25):
-                viewer.move(898 + 18 * step, 598 + 11 * step)
-                looks.append(viewer.look())
-            viewer.release()
-            looks += viewer.look_until(lambda look: look.getpixel((1250, 800)) != WHITE)
-            looks.append(viewer.settled_look())
-            self.expect_no_black(viewer, looks)
 
     def test_no_area_is_black_while_the_wheel_zooms_out_and_in(self):
         with Viewer(BIN_DIR, "--lang", "en") as viewer:

@@ -188,12 +188,6 @@ class Viewer:
         """Turns the wheel over a point: away from the person for positive steps."""
         self._xdotool("mousemove", x, y, "sleep", 0.2, "click", "--repeat", abs(steps), "--delay", 5, 4 if steps > 0 else 5)
 
-    def move(self, x, y):
-        self._xdotool("mousemove", x, y)
-
-    def press(self, x, y):
-        self._xdotool("mousemove", x, y, "sleep", 0.2, "mousedown", 1)
-
     def look(self):
         """What the screen shows now, quickly."""
         return ImageGrab.grab(xdisplay=self._environment["DISPLAY"]).convert("RGB")
