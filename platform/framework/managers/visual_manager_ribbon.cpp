@@ -6,6 +6,7 @@
 #include <afxribbonbar.h>
 #include <afxribboncategory.h>
 #include <afxRibbonPanel.h>
+#include <afxribbonpanelmenu.h>
 #include <afxribbonquickaccesstoolbar.h>
 #include <afxribbonslider.h>
 
@@ -55,6 +56,18 @@ COLORREF FillMenuRow(CDC* pDC, CMFCRibbonButton& button, const ElementState& sta
         visual::PaintFace(*pDC, menu, skin[FaceSlot::MenuItemHot], corners, look);
     }
     return ToColorRef(skin[ColorSlot::MenuTextHot]);
+}
+
+/// The panel is the last one of a pop-up, whose own edge follows: no line is needed behind it.
+bool EndsItsPopup(CMFCRibbonPanel& panel, const CRect& rect) {
+    constexpr int kNear = 8; // pixels at 96 DPI
+    const CMFCRibbonPanelMenuBar* const bar = panel.GetParentMenuBar();
+    if (bar == nullptr) {
+        return false;
+    }
+    CRect client;
+    bar->GetClientRect(&client);
+    return client.right - rect.right < afxGlobalData.ScalePixels(kNear);
 }
 
 visual::ButtonParts PartsOf(CMFCRibbonButton& button) {
@@ -136,6 +149,9 @@ void CMFCVisualManager::OnDrawRibbonCategoryScroll(CDC* pDC, CRibbonCategoryScro
 }
 
 COLORREF CMFCVisualManager::OnDrawRibbonPanel(CDC* pDC, CMFCRibbonPanel* pPanel, CRect rectPanel, CRect rectCaption) {
+    if (GetSkin().isFlat && pPanel != nullptr && EndsItsPopup(*pPanel, rectPanel)) {
+        return ToColorRef(GetSkin()[ColorSlot::PanelElementText]);
+    }
     visual::PaintPanel(*pDC, rectPanel, rectCaption, pPanel != nullptr && pPanel->IsHighlighted(), LookOf(GetSkin()));
     return ToColorRef(GetSkin()[ColorSlot::PanelElementText]);
 }
@@ -221,9 +237,11 @@ void CMFCVisualManager::OnDrawRibbonDefaultPaneButtonIndicator(CDC* pDC, CMFCRib
 
 void CMFCVisualManager::OnDrawDefaultRibbonImage(CDC* pDC, CRect rectImage, BOOL bIsDisabled, BOOL bIsPressed,
                                                  BOOL bIsHighlighted) {
-    visual::PaintFace(*pDC, rectImage,
-                      visual::KnobFaceFor(GetSkin(), StateFrom(bIsHighlighted, bIsPressed, bIsDisabled)),
-                      visual::Corners::All(LookOf(GetSkin()).Radius()), LookOf(GetSkin()));
+    // A flat skin's knobs are filled; what stands in this frame is a picture.
+    const visual::Face& face = GetSkin().isFlat
+                                   ? GetSkin()[FaceSlot::CategoryScroll]
+                                   : visual::KnobFaceFor(GetSkin(), StateFrom(bIsHighlighted, bIsPressed, bIsDisabled));
+    visual::PaintFace(*pDC, rectImage, face, visual::Corners::All(LookOf(GetSkin()).Radius()), LookOf(GetSkin()));
 }
 
 void CMFCVisualManager::OnFillRibbonEdit(CDC* pDC, CMFCRibbonRichEditCtrl*, CRect rect, BOOL bIsHighlighted,

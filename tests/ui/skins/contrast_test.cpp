@@ -92,6 +92,8 @@ private:
             Text(std::string("panel's caption on ") + on, ColorSlot::PanelCaptionText, below);
             Text(std::string("link on ") + on, ColorSlot::Hyperlink, below);
             Sign(std::string("arrow on ") + on, ColorSlot::Glyph, below);
+            Sign(std::string("picture of a collapsed panel on ") + on, ColorSlot::Glyph,
+                 Over(m_skin[FaceSlot::CategoryScroll].top1, below));
             Sign(std::string("disabled text on ") + on, ColorSlot::RibbonTextDisabled, below);
             Sign(std::string("disabled sign on ") + on, ColorSlot::GlyphDisabled, below);
             Sign(std::string("slider's track on ") + on, ColorSlot::SliderTrackDark, below);
