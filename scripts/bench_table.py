@@ -17,6 +17,8 @@ RATIO_BARS = {
     ("dispatch to 10 reactors", ""): 1.5,
     ("file into records", ""): 3.0,
     ("full repaint", "each icon file"): 1.25,
+    ("scroll-bar drag frame", ""): 1.25,
+    ("tooltip show", ""): 1.25,
 }
 # Microseconds, on a machine where loading one icon file takes 140.
 TIME_BARS = {
