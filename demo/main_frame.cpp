@@ -156,8 +156,11 @@ void CMainFrame::ShowIcon() {
     SetIcon(m_icon.get(), FALSE);
 }
 
-// F1: the video of the command under the pointer, where there is one.
+// F1: the video of the command under the pointer, where there is one. With Ctrl it minimises the ribbon.
 BOOL CMainFrame::OnHelpInfo(HELPINFO*) {
+    if (::GetKeyState(VK_CONTROL) < 0) {
+        return FALSE;
+    }
     const CMFCRibbonBaseElement* const element = m_ribbon.GetCursonOn(FALSE);
     const std::wstring video = element != nullptr ? HelpHint::FileOf(element->GetID()) : std::wstring();
     if (video.empty()) {

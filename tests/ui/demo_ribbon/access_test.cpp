@@ -98,8 +98,17 @@ protected:
 
     /// Where the values come from that no dump has: of the element with the id in the shown category, if it has one.
     CMFCRibbonBaseElement* ElementOf(const ordered_json& element) {
-        const UINT id = element["id"].get<UINT>();
-        return id != 0 ? Bar().FindByID(id, FALSE, TRUE) : nullptr;
+        CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> found;
+        if (const UINT id = element["id"].get<UINT>(); id != 0) {
+            Bar().GetElementsByID(id, found);
+        }
+        // A command may have elements in several categories.
+        for (INT_PTR index = 0; index < found.GetSize(); ++index) {
+            if (found[index]->GetParentCategory() == Bar().GetActiveCategory() && !found[index]->IsQATMode()) {
+                return found[index];
+            }
+        }
+        return found.IsEmpty() ? nullptr : found[0];
     }
 
     static CRect OnScreen(const ordered_json& rect, const CWnd& window) {
