@@ -37,7 +37,8 @@ public:
     ~CMFCToolBarImages() override;
 
     // Filling. Functions that add return the index of the new image, -1 on failure.
-    /// The icon stays the caller's. bAlphaBlend keeps its alpha in a 32-bit list.
+    /// The icon stays the caller's. Its alpha is kept, whatever bAlphaBlend says: a cut-out edge is never the better
+    /// one.
     int AddIcon(HICON hIcon, BOOL bAlphaBlend = FALSE);
     int AddImage(HBITMAP hbmp, BOOL bSetBitPerPixel = FALSE);
     int AddImage(const CMFCToolBarImages& imageList, int nIndex);
