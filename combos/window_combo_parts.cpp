@@ -1,0 +1,107 @@
+#include "combos/window_combo_parts.h"
+
+#include <fx/dc_scope.h>
+#include <fx/to_rect.h>
+#include <fx/window_dc.h>
+
+#include <algorithm>
+
+namespace window_combo {
+namespace {
+
+constexpr int textMargin = 4;
+
+CString FaceName(Face face) { return face == Face::SimSun ? L"\u5b8b\u4f53" : L"Arial"; }
+
+void CreateRowFont(CFont& font, Face face) {
+    constexpr int height = 15;
+    constexpr int weight = 300;
+    constexpr DWORD pitchAndFamily = 32;
+    font.CreateFont(height, 0, 0, 0, weight, FALSE, FALSE, 0, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                    DEFAULT_QUALITY, pitchAndFamily, FaceName(face));
+}
+
+struct RowColors {
+    int text;
+    int ground;
+};
+
+RowColors ColorsOf(const DRAWITEMSTRUCT& item, bool isEnabled) {
+    if (item.itemState & ODS_SELECTED) {
+        return {COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT};
+    }
+    return isEnabled ? RowColors{COLOR_WINDOWTEXT, COLOR_WINDOW} : RowColors{COLOR_GRAYTEXT, COLOR_BTNFACE};
+}
+
+} // namespace
+
+void DrawRow(const CComboBox& combo, const DRAWITEMSTRUCT& item, const marks::Rect& row, Face face,
+             MarkPainter paintMarks) {
+    CDC* const dc = item.hDC ? CDC::FromHandle(item.hDC) : nullptr;
+    if (!dc) {
+        return;
+    }
+    CFont font;
+    CreateRowFont(font, face);
+    const fx::DcState state(*dc);
+    dc->SelectObject(&font);
+    const RowColors colors = ColorsOf(item, ::IsWindowEnabled(combo.m_hWnd) != FALSE);
+    const CRect ground = fx::ToRect(row);
+    ::FillRect(dc->GetSafeHdc(), ground, ::GetSysColorBrush(colors.ground));
+    const auto index = static_cast<int>(item.itemID);
+    if (index >= 0) {
+        CRect text = ground;
+        text.left = paintMarks(combo, *dc, item, row);
+        dc->SetTextColor(::GetSysColor(colors.text));
+        dc->SetBkMode(TRANSPARENT);
+        dc->DrawText(L" " + TextOf(combo, index), text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+    }
+    if ((item.itemState & ODS_FOCUS) && item.itemAction != ODA_SELECT) {
+        dc->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
+        dc->DrawFocusRect(ground);
+    }
+}
+
+CString TextOf(const CComboBox& combo, int index) {
+    CString text;
+    if (index >= 0 && index < combo.GetCount()) {
+        combo.GetLBText(index, text);
+    }
+    return text;
+}
+
+HWND HostOf(const CComboBox& combo) {
+    const CWnd* const owner = combo.GetSafeHwnd() ? combo.GetOwner() : nullptr;
+    return owner ? owner->GetSafeHwnd() : nullptr;
+}
+
+void TellParent(const CComboBox& combo, UINT code) {
+    const HWND parent = ::GetParent(combo.m_hWnd);
+    if (parent) {
+        ::SendMessageW(parent, WM_COMMAND, MAKEWPARAM(combo.GetDlgCtrlID(), code),
+                       reinterpret_cast<LPARAM>(combo.m_hWnd));
+    }
+}
+
+void FitDroppedWidth(CComboBox& combo, int marksWidth) {
+    CClientDC dc(&combo);
+    CFont font;
+    CreateRowFont(font, Face::Arial);
+    const fx::DcSelection selected(dc, &font);
+    int width = 0;
+    for (int i = 0; i < combo.GetCount(); ++i) {
+        width = std::max(width, static_cast<int>(dc.GetTextExtent(L" " + TextOf(combo, i)).cx));
+    }
+    const int wanted = marksWidth + width + textMargin + ::GetSystemMetrics(SM_CXVSCROLL);
+    CRect window;
+    combo.GetWindowRect(&window);
+    combo.SetDroppedWidth(static_cast<UINT>(std::max<int>(wanted, window.Width())));
+}
+
+marks::Rect FaceRow(const CComboBox& combo) {
+    COMBOBOXINFO info{};
+    return combo.GetComboBoxInfo(&info) ? fx::FromRect(info.rcItem) : marks::Rect{};
+}
+
+} // namespace window_combo
