@@ -193,11 +193,13 @@ void CMFCToolBar::OnLButtonDown(UINT nFlags, CPoint point) {
     if (!IsPressable(button)) {
         return;
     }
-    const HWND window = m_hWnd;
-    if (button->OnClick(this, TRUE)) {
-        if (::IsWindow(window)) {
-            InvalidateButton(hit);
-        }
+    const fx::WindowGuard guard(this);
+    const BOOL isDone = button->OnClick(this, TRUE);
+    if (guard.IsGone() || GetButton(hit) != button) {
+        return; // whoever heard of the click has taken the bar or the button away
+    }
+    if (isDone) {
+        InvalidateButton(hit);
         return;
     }
     m_iButtonCapture = hit;

@@ -146,6 +146,9 @@ void CMFCToolBar::AdjustLocations() {
     CClientDC dc(this);
     MeasureButtons(&dc, isHorizontal);
     PlaceButtons(0, isHorizontal, TRUE);
+    for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
+        static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position))->OnSize(SIZE_RESTORED);
+    }
 }
 
 void CMFCToolBar::AdjustLayout() {

@@ -1,0 +1,340 @@
+// The window of a combo box on a toolbar: place, drawing, input.
+#include "afxtoolbarcomboboxbutton.h"
+
+#include "afxtoolbar.h"
+#include "afxvisualmanager.h"
+#include "fx/window_guard.h"
+#include "toolbar/metrics.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <utility>
+
+using toolbar::Scaled;
+
+IMPLEMENT_SERIAL(CMFCToolBarComboBoxButton, CMFCToolBarButton, VERSIONABLE_SCHEMA | 1)
+
+namespace {
+
+constexpr int defaultWidth = 150;
+constexpr int defaultDropDownHeight = 150;
+/// Between the combo and the button's edges.
+constexpr int sideMargin = 2;
+
+bool g_isFlat = true;
+bool g_isCentered = true;
+
+// ---- what the combo box says to the toolbar, its parent
+
+CMFCToolBarComboBoxButton* ButtonWith(const CMFCToolBar& bar, HWND combo) {
+    for (POSITION position = bar.GetAllButtons().GetHeadPosition(); position;) {
+        const auto* const object = bar.GetAllButtons().GetNext(position);
+        auto* const button = DYNAMIC_DOWNCAST(CMFCToolBarComboBoxButton, const_cast<CObject*>(object));
+        if (button && button->GetHwnd() == combo) {
+            return button;
+        }
+    }
+    return nullptr;
+}
+
+/// The notification goes to the button and to the bar's owner, and a choice as the command as well.
+void RouteNotification(CMFCToolBar& bar, HWND combo, WPARAM wParam) {
+    const fx::WindowGuard guard(&bar);
+    CMFCToolBarComboBoxButton* const button = ButtonWith(bar, combo);
+    const BOOL isChoice = button && button->NotifyCommand(HIWORD(wParam));
+    const CWnd* const target = bar.GetRouteCommandsViaFrame() ? bar.GetTopLevelFrame() : bar.GetOwner();
+    if (target) {
+        ::SendMessageW(target->m_hWnd, WM_COMMAND, wParam, reinterpret_cast<LPARAM>(combo));
+    }
+    if (isChoice && guard.IsAlive()) {
+        bar.ProcessCommand(ButtonWith(bar, combo));
+    }
+    if (guard.IsAlive()) {
+        bar.InvalidateButton(bar.ButtonToIndex(ButtonWith(bar, combo)));
+    }
+}
+
+/// Stands before the window of a toolbar with combo boxes, once for each of them; `id` is the combo's window.
+LRESULT CALLBACK BarProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                         DWORD_PTR /*data*/) noexcept {
+    const auto combo = reinterpret_cast<HWND>(id);
+    const bool isFromCombo = reinterpret_cast<HWND>(lParam) == combo;
+    if (message == WM_NCDESTROY) {
+        ::RemoveWindowSubclass(window, &BarProc, id);
+    } else if (message == WM_COMMAND && isFromCombo) {
+        const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam); // the combo box itself, and the bar
+        if (CMFCToolBar* const bar = CMFCToolBar::FromHandlePermanent(window); bar && ::IsWindow(combo)) {
+            RouteNotification(*bar, combo, wParam);
+        }
+        return result;
+    } else if ((message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX) && isFromCombo) {
+        const CMFCToolBar* const bar = CMFCToolBar::FromHandlePermanent(window);
+        CMFCToolBarComboBoxButton* const button = bar ? ButtonWith(*bar, combo) : nullptr;
+        if (button) {
+            const UINT kind = message - WM_CTLCOLORMSGBOX;
+            return reinterpret_cast<LRESULT>(button->OnCtlColor(CDC::FromHandle(reinterpret_cast<HDC>(wParam)), kind));
+        }
+    }
+    return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+bool HasComboFocus(const CComboBox& combo) {
+    const HWND focus = ::GetFocus();
+    return focus && (focus == combo.m_hWnd || ::IsChild(combo.m_hWnd, focus));
+}
+
+} // namespace
+
+CMFCToolBarComboBoxButton::CMFCToolBarComboBoxButton() = default;
+
+CMFCToolBarComboBoxButton::CMFCToolBarComboBoxButton(UINT uiID, int iImage, DWORD dwStyle, int iWidth)
+    : CMFCToolBarButton(uiID, iImage), m_dwStyle(dwStyle), m_iWidth(iWidth) {}
+
+CMFCToolBarComboBoxButton::~CMFCToolBarComboBoxButton() { CloseCombo(); }
+
+void CMFCToolBarComboBoxButton::SetFlatMode(BOOL bFlat) { g_isFlat = bFlat != FALSE; }
+BOOL CMFCToolBarComboBoxButton::IsFlatMode() { return g_isFlat; }
+void CMFCToolBarComboBoxButton::SetCenterVert(BOOL bCenterVert) { g_isCentered = bCenterVert != FALSE; }
+BOOL CMFCToolBarComboBoxButton::IsCenterVert() { return g_isCentered; }
+
+// ---- the window
+
+CComboBox* CMFCToolBarComboBoxButton::CreateCombo(CWnd* pWndParent, const CRect& rect) {
+    auto combo = std::make_unique<CComboBox>();
+    return combo->Create(m_dwStyle | WS_CHILD | WS_VSCROLL | CBS_AUTOHSCROLL, rect, pWndParent, m_nID) ? combo.release()
+                                                                                                       : nullptr;
+}
+
+void CMFCToolBarComboBoxButton::OnChangeParentWnd(CWnd* pWndParent) {
+    const bool isSame = m_pWndCombo && pWndParent && ::GetParent(m_pWndCombo->m_hWnd) == pWndParent->GetSafeHwnd();
+    CMFCToolBarButton::OnChangeParentWnd(pWndParent);
+    if (isSame) {
+        return;
+    }
+    CloseCombo();
+    if (pWndParent && pWndParent->GetSafeHwnd()) {
+        MakeCombo(*pWndParent);
+    }
+}
+
+void CMFCToolBarComboBoxButton::MakeCombo(CWnd& parent) {
+    const int dropHeight = Scaled(m_nDropDownHeight > 0 ? m_nDropDownHeight : defaultDropDownHeight);
+    CRect rect = m_rect;
+    rect.right = rect.left + Scaled(m_iWidth > 0 ? m_iWidth : defaultWidth);
+    rect.bottom = rect.top + dropHeight;
+    m_pWndCombo.reset(CreateCombo(&parent, rect));
+    if (!m_pWndCombo) {
+        return;
+    }
+    ::SetWindowSubclass(parent.GetSafeHwnd(), &BarProc, reinterpret_cast<UINT_PTR>(m_pWndCombo->m_hWnd), 0);
+    m_rectPlaced.SetRectEmpty();
+    m_pWndCombo->SetFont(&afxGlobalData.fontRegular);
+    FillCombo();
+    EnableWindow(!IsDisabledState());
+}
+
+void CMFCToolBarComboBoxButton::CloseCombo() {
+    m_pWndEdit.reset();
+    // The window sends messages while it goes, which must find the button without it.
+    const std::unique_ptr<CComboBox> combo = std::move(m_pWndCombo);
+    if (combo && combo->GetSafeHwnd()) {
+        ::RemoveWindowSubclass(::GetParent(combo->m_hWnd), &BarProc, reinterpret_cast<UINT_PTR>(combo->m_hWnd));
+        combo->DestroyWindow();
+    }
+}
+
+void CMFCToolBarComboBoxButton::FillCombo() {
+    if (!m_pWndCombo) {
+        return;
+    }
+    m_pWndCombo->ResetContent();
+    for (const Item& item : m_items) {
+        m_pWndCombo->SetItemData(m_pWndCombo->AddString(item.text), item.data);
+    }
+    ShowSelection();
+}
+
+CEdit* CMFCToolBarComboBoxButton::GetEditCtrl() {
+    if (m_pWndEdit || !m_pWndCombo || (m_pWndCombo->GetStyle() & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST) {
+        return m_pWndEdit.get();
+    }
+    COMBOBOXINFO info{};
+    if (m_pWndCombo->GetComboBoxInfo(&info) && info.hwndItem && info.hwndItem != m_pWndCombo->m_hWnd) {
+        auto edit = std::make_unique<CEdit>();
+        if (edit->SubclassWindow(info.hwndItem)) {
+            m_pWndEdit = std::move(edit);
+        }
+    }
+    return m_pWndEdit.get();
+}
+
+HWND CMFCToolBarComboBoxButton::GetHwnd() { return m_pWndCombo ? m_pWndCombo->GetSafeHwnd() : nullptr; }
+
+BOOL CMFCToolBarComboBoxButton::HasFocus() const {
+    return m_pWndCombo && m_pWndCombo->GetSafeHwnd() && HasComboFocus(*m_pWndCombo);
+}
+
+BOOL CMFCToolBarComboBoxButton::IsOwnerOf(HWND hwnd) {
+    const HWND combo = GetHwnd();
+    return combo && hwnd && (combo == hwnd || ::IsChild(combo, hwnd));
+}
+
+BOOL CMFCToolBarComboBoxButton::IsWindowVisible() { return GetHwnd() && ::IsWindowVisible(GetHwnd()); }
+
+BOOL CMFCToolBarComboBoxButton::IsDroppedDown() const {
+    return m_pWndCombo && m_pWndCombo->GetSafeHwnd() && m_pWndCombo->GetDroppedState();
+}
+
+void CMFCToolBarComboBoxButton::EnableWindow(BOOL bEnable) {
+    if (GetHwnd() && (::IsWindowEnabled(GetHwnd()) != FALSE) != (bEnable != FALSE)) {
+        m_pWndCombo->EnableWindow(bEnable);
+    }
+}
+
+void CMFCToolBarComboBoxButton::SetStyle(UINT nStyle) {
+    CMFCToolBarButton::SetStyle(nStyle);
+    EnableWindow(!(nStyle & TBBS_DISABLED));
+}
+
+void CMFCToolBarComboBoxButton::SetDropDownHeight(int nHeight) {
+    m_nDropDownHeight = nHeight;
+    m_rectPlaced.SetRectEmpty();
+    PlaceCombo();
+}
+
+void CMFCToolBarComboBoxButton::OnGlobalFontsChanged() {
+    if (GetHwnd()) {
+        m_pWndCombo->SetFont(&afxGlobalData.fontRegular);
+        m_rectPlaced.SetRectEmpty();
+    }
+}
+
+// ---- place
+
+SIZE CMFCToolBarComboBoxButton::OnCalculateSize(CDC* pDC, const CSize& sizeDefault, BOOL bHorz) {
+    m_bHorz = bHorz;
+    if (!ShowsCombo()) {
+        ShowCombo();
+        return CMFCToolBarButton::OnCalculateSize(pDC, sizeDefault, bHorz);
+    }
+    m_sizeText = CSize(0, 0);
+    if (!m_bVisible || m_bIsHidden) {
+        return CSize(0, 0);
+    }
+    CRect window;
+    m_pWndCombo->GetWindowRect(&window);
+    return CSize(Scaled(m_iWidth > 0 ? m_iWidth : defaultWidth) + 2 * Scaled(sideMargin),
+                 std::max<int>(sizeDefault.cy, window.Height()));
+}
+
+// Of the closed combo, in the toolbar.
+CRect CMFCToolBarComboBoxButton::GetComboRect() const {
+    CRect window;
+    m_pWndCombo->GetWindowRect(&window);
+    const int height = window.Height();
+    const int top = g_isCentered ? m_rect.top + std::max(0, (m_rect.Height() - height) / 2) : m_rect.top;
+    return CRect(m_rect.left + Scaled(sideMargin), top, m_rect.right - Scaled(sideMargin), top + height);
+}
+
+void CMFCToolBarComboBoxButton::PlaceCombo() {
+    if (!GetHwnd()) {
+        return;
+    }
+    ShowCombo();
+    if (!m_bHorz || m_rectPlaced == m_rect) {
+        return;
+    }
+    m_rectPlaced = m_rect;
+    const CRect place = GetComboRect();
+    // A combo box takes its height from its font; the given one is that of the open list.
+    const int dropHeight = Scaled(m_nDropDownHeight > 0 ? m_nDropDownHeight : defaultDropDownHeight);
+    m_pWndCombo->SetWindowPos(nullptr, place.left, place.top, place.Width(), dropHeight, SWP_NOZORDER | SWP_NOACTIVATE);
+    COMBOBOXINFO info{};
+    const CRect item = m_pWndCombo->GetComboBoxInfo(&info) ? CRect(info.rcItem) : CRect(0, 0, 0, 0);
+    // Border and drop button are the toolbar's to draw and to be pressed on.
+    m_pWndCombo->SetWindowRgn(g_isFlat && !item.IsRectEmpty() ? ::CreateRectRgnIndirect(item) : nullptr, TRUE);
+}
+
+void CMFCToolBarComboBoxButton::ShowCombo() {
+    if (!GetHwnd()) {
+        return;
+    }
+    const bool isWanted = m_bHorz && !m_bIsHidden && m_bVisible;
+    if (isWanted != ((m_pWndCombo->GetStyle() & WS_VISIBLE) != 0)) {
+        m_pWndCombo->ShowWindow(isWanted ? SW_SHOWNOACTIVATE : SW_HIDE);
+    }
+}
+
+void CMFCToolBarComboBoxButton::OnMove() { PlaceCombo(); }
+void CMFCToolBarComboBoxButton::OnSize(int) { PlaceCombo(); }
+void CMFCToolBarComboBoxButton::OnShow(BOOL) { ShowCombo(); }
+
+// ---- drawing
+
+void CMFCToolBarComboBoxButton::OnDraw(CDC* pDC, const CRect& rect, CMFCToolBarImages* pImages, BOOL bHorz,
+                                       BOOL bCustomizeMode, BOOL bHighlight, BOOL bDrawBorder,
+                                       BOOL bGrayDisabledButtons) {
+    if (!ShowsCombo() || !bHorz) {
+        CMFCToolBarButton::OnDraw(pDC, rect, pImages, bHorz, bCustomizeMode, bHighlight, bDrawBorder,
+                                  bGrayDisabledButtons);
+        return;
+    }
+    if (!g_isFlat) {
+        return;
+    }
+    const BOOL isDisabled = IsDisabledState();
+    const BOOL isDropped = IsDroppedDown();
+    const BOOL isHot = !isDisabled && (bHighlight || HasFocus());
+    const CRect border = GetComboRect();
+    pDC->FillSolidRect(border, ::GetSysColor(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW));
+    CRect drop = border;
+    drop.DeflateRect(1, 1);
+    drop.left = std::max<LONG>(drop.left, drop.right - ::GetSystemMetrics(SM_CXVSCROLL));
+    CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
+    manager->OnDrawComboDropButton(pDC, drop, isDisabled, isDropped, isHot, this);
+    manager->OnDrawComboBorder(pDC, border, isDisabled, isDropped, isHot, this);
+}
+
+HBRUSH CMFCToolBarComboBoxButton::OnCtlColor(CDC* pDC, UINT) {
+    const bool isDisabled = IsDisabledState();
+    pDC->SetTextColor(::GetSysColor(isDisabled ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
+    pDC->SetBkColor(::GetSysColor(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW));
+    return ::GetSysColorBrush(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW);
+}
+
+// ---- input
+
+BOOL CMFCToolBarComboBoxButton::OnClick(CWnd*, BOOL) {
+    if (!ShowsCombo() || !g_isFlat || IsDisabledState()) {
+        return FALSE;
+    }
+    m_pWndCombo->SetFocus();
+    if (!ShowsCombo()) {
+        return TRUE; // whoever heard of the focus has taken the bar away
+    }
+    m_pWndCombo->ShowDropDown(!m_pWndCombo->GetDroppedState());
+    return TRUE;
+}
+
+BOOL CMFCToolBarComboBoxButton::NotifyCommand(int iNotifyCode) {
+    if (!GetHwnd()) {
+        return FALSE;
+    }
+    if (iNotifyCode == CBN_EDITCHANGE) {
+        m_pWndCombo->GetWindowText(m_strEdit);
+        m_iSelIndex = FindItem(m_strEdit);
+        return FALSE;
+    }
+    if (iNotifyCode != CBN_SELENDOK) {
+        return FALSE;
+    }
+    const int selected = m_pWndCombo->GetCurSel();
+    if (selected < 0) {
+        return FALSE;
+    }
+    m_iSelIndex = selected;
+    m_pWndCombo->GetLBText(selected, m_strEdit);
+    SelectItemAll(m_nID, m_strEdit.GetString());
+    return TRUE;
+}
