@@ -1,12 +1,11 @@
 #include "layer_list.h"
 
 #include "map_painter.h"
+#include "soft_shapes.h"
 
 #include <afxglobals.h>
 
 #include <algorithm>
-
-#include <gdiplus.h>
 
 namespace {
 
@@ -19,35 +18,49 @@ constexpr int kSwatchSize = 10;
 constexpr int kPlateMargin = 4;
 constexpr int kCorner = 4;
 constexpr int kWheelRows = 3;
-constexpr int kHotStrength = 20; // of 255: the text's colour over the ground
-constexpr int kMarkStrength = 41;
+constexpr double kHotStrength = 0.08; // of the text's colour over the ground
+constexpr double kMarkStrength = 0.22;
 constexpr UINT kBarId = 1;
 
 int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
-Gdiplus::Color ToGdiPlus(COLORREF color, BYTE alpha = 255) {
-    return {alpha, GetRValue(color), GetGValue(color), GetBValue(color)};
+std::uint32_t ToRgb(COLORREF color) {
+    return static_cast<std::uint32_t>(GetRValue(color)) << 16 | GetGValue(color) << 8 | GetBValue(color);
 }
 
-COLORREF ToColorRef(std::uint32_t rgb) { return RGB(rgb >> 16 & 0xFF, rgb >> 8 & 0xFF, rgb & 0xFF); }
-
-void AddRounded(Gdiplus::GraphicsPath& path, const CRect& rect, int corner) {
-    const int diameter = 2 * corner;
-    const int right = rect.right - diameter - 1, bottom = rect.bottom - diameter - 1;
-    path.AddArc(static_cast<INT>(rect.left), static_cast<INT>(rect.top), diameter, diameter, 180, 90);
-    path.AddArc(right, static_cast<INT>(rect.top), diameter, diameter, 270, 90);
-    path.AddArc(right, bottom, diameter, diameter, 0, 90);
-    path.AddArc(static_cast<INT>(rect.left), bottom, diameter, diameter, 90, 90);
-    path.CloseFigure();
+/// 32 bits a pixel, to be drawn into by hand as well. The caller's.
+HBITMAP MakeOpenBitmap(CSize size, soft::Pixels& pixels) {
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    const HBITMAP bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    pixels = {static_cast<std::uint32_t*>(bits), static_cast<int>(size.cx), static_cast<int>(size.cy)};
+    return bitmap;
 }
 
-void FillPlate(CDC& dc, const CRect& rect, COLORREF color, BYTE alpha) {
-    Gdiplus::Graphics graphics(dc.GetSafeHdc());
-    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    Gdiplus::GraphicsPath path;
-    AddRounded(path, rect, Scaled(kCorner));
-    const Gdiplus::SolidBrush brush(ToGdiPlus(color, alpha));
-    graphics.FillPath(&brush, &path);
+soft::Box ToBox(const CRect& rect) {
+    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
+            static_cast<double>(rect.bottom)};
+}
+
+void DrawSwatch(const soft::Pixels& pixels, CRect rect, std::uint32_t color, std::uint32_t rim) {
+    soft::FillRounded(pixels, ToBox(rect), rect.Width() / 2.0, rim);
+    rect.DeflateRect(Scaled(1), Scaled(1));
+    soft::FillRounded(pixels, ToBox(rect), rect.Width() / 2.0, color);
+}
+
+void DrawTick(const soft::Pixels& pixels, CRect box, bool isTicked, const ViewerColors& colors) {
+    soft::FillRounded(pixels, ToBox(box), Scaled(3), ToRgb(isTicked ? colors.accent : colors.secondary));
+    if (!isTicked) {
+        box.DeflateRect(Scaled(1), Scaled(1));
+        soft::FillRounded(pixels, ToBox(box), Scaled(2), ToRgb(colors.ground));
+        return;
+    }
+    const double unit = static_cast<double>(box.Width()) / kTickSize;
+    const auto x = [&](double units) { return box.left + units * unit; };
+    const auto y = [&](double units) { return box.top + units * unit; };
+    soft::DrawLine(pixels, x(3.5), y(7.25), x(6), y(9.75), 1.6 * unit, ToRgb(colors.ground));
+    soft::DrawLine(pixels, x(6), y(9.75), x(10.5), y(4.5), 1.6 * unit, ToRgb(colors.ground));
 }
 
 } // namespace
@@ -227,80 +240,63 @@ void CLayerList::OnPaint() {
     CPaintDC paint(this);
     CRect client;
     GetClientRect(client);
+    soft::Pixels pixels;
     CDC memory;
     CBitmap bitmap;
-    if (!memory.CreateCompatibleDC(&paint) || !bitmap.CreateCompatibleBitmap(&paint, client.Width(), client.Height())) {
+    if (!memory.CreateCompatibleDC(&paint) || !bitmap.Attach(MakeOpenBitmap(client.Size(), pixels))) {
         return;
     }
     CBitmap* const earlier = memory.SelectObject(&bitmap);
     CFont* const font = memory.SelectObject(&afxGlobalData.fontRegular);
     memory.SetBkMode(TRANSPARENT);
     memory.FillSolidRect(client, m_colors.ground);
+    ::GdiFlush();
     const int end = std::min(static_cast<int>(m_rows.size()), m_first + ShownCount() + 1);
     for (int row = m_first; row < end; ++row) {
-        DrawRow(memory, row);
+        DrawMarks(pixels, row);
+    }
+    for (int row = m_first; row < end; ++row) {
+        DrawText(memory, row);
     }
     paint.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
     memory.SelectObject(font);
     memory.SelectObject(earlier);
 }
 
-void CLayerList::DrawRow(CDC& dc, int row) {
-    const LayerRow& shown = m_rows[row];
+CRect CLayerList::TickRect(int row) const {
     const CRect rect = RowRect(row);
-    CRect plate = rect;
+    const int size = Scaled(kTickSize);
+    return CRect(CPoint(rect.left + Scaled(kIndent), rect.top + (rect.Height() - size) / 2), CSize(size, size));
+}
+
+CRect CLayerList::SwatchRect(int row) const {
+    const CRect rect = RowRect(row);
+    const int size = Scaled(kSwatchSize);
+    const CPoint corner(rect.right - Scaled(kIndent) - size, rect.top + (rect.Height() - size) / 2);
+    return CRect(corner, CSize(size, size));
+}
+
+void CLayerList::DrawMarks(const soft::Pixels& pixels, int row) {
+    CRect plate = RowRect(row);
     plate.DeflateRect(Scaled(kPlateMargin), Scaled(1));
     if (row == m_mark && GetFocus() == this) {
-        FillPlate(dc, plate, m_colors.accent, kMarkStrength);
+        soft::FillRounded(pixels, ToBox(plate), Scaled(kCorner), ToRgb(m_colors.accent), kMarkStrength);
     } else if (row == m_hot) {
-        FillPlate(dc, plate, m_colors.text, kHotStrength);
+        soft::FillRounded(pixels, ToBox(plate), Scaled(kCorner), ToRgb(m_colors.text), kHotStrength);
     }
-    CRect text = rect;
-    text.left += Scaled(kIndent);
-    text.right -= Scaled(kIndent);
-    if (shown.kind == LayerRow::Kind::Layer) {
-        const auto layer = static_cast<MapLayer>(shown.index);
-        const int size = Scaled(kTickSize);
-        const int top = static_cast<int>(rect.top) + (rect.Height() - size) / 2;
-        DrawTick(dc, CRect(CPoint(text.left, top), CSize(size, size)), m_state.IsShown(layer));
-        const int swatch = Scaled(kSwatchSize);
-        const CPoint corner(text.right - swatch, rect.top + (rect.Height() - swatch) / 2);
-        DrawSwatch(dc, CRect(corner, CSize(swatch, swatch)), ToColorRef(ShownColor(m_state, layer)));
-        text.left += size + Scaled(kTickGap);
-        text.right = corner.x - Scaled(kTickGap);
+    if (m_rows[row].kind == LayerRow::Kind::Layer) {
+        const auto layer = static_cast<MapLayer>(m_rows[row].index);
+        DrawTick(pixels, TickRect(row), m_state.IsShown(layer), m_colors);
+        DrawSwatch(pixels, SwatchRect(row), ShownColor(m_state, layer), ToRgb(m_colors.secondary));
     }
+}
+
+void CLayerList::DrawText(CDC& dc, int row) {
+    const LayerRow& shown = m_rows[row];
+    CRect text = RowRect(row);
+    const bool hasMarks = shown.kind == LayerRow::Kind::Layer;
+    text.left = hasMarks ? TickRect(row).right + Scaled(kTickGap) : text.left + Scaled(kIndent);
+    text.right = hasMarks ? SwatchRect(row).left - Scaled(kTickGap) : text.right - Scaled(kIndent);
     dc.SetTextColor(shown.IsChoosable() ? m_colors.text : m_colors.secondary);
     dc.DrawText(shown.text.c_str(), text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
-}
-
-void CLayerList::DrawSwatch(CDC& dc, const CRect& rect, COLORREF color) {
-    Gdiplus::Graphics graphics(dc.GetSafeHdc());
-    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    const Gdiplus::Rect circle(rect.left, rect.top, rect.Width(), rect.Height());
-    const Gdiplus::SolidBrush brush(ToGdiPlus(color));
-    graphics.FillEllipse(&brush, circle);
-    const Gdiplus::Pen pen(ToGdiPlus(m_colors.secondary), static_cast<float>(Scaled(1)));
-    graphics.DrawEllipse(&pen, circle);
-}
-
-void CLayerList::DrawTick(CDC& dc, const CRect& box, bool isTicked) {
-    Gdiplus::Graphics graphics(dc.GetSafeHdc());
-    graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-    Gdiplus::GraphicsPath frame;
-    AddRounded(frame, box, Scaled(3));
-    const auto width = static_cast<float>(Scaled(1));
-    if (!isTicked) {
-        const Gdiplus::Pen pen(ToGdiPlus(m_colors.secondary), width);
-        graphics.DrawPath(&pen, &frame);
-        return;
-    }
-    const Gdiplus::SolidBrush brush(ToGdiPlus(m_colors.accent));
-    graphics.FillPath(&brush, &frame);
-    const float unit = static_cast<float>(box.Width()) / kTickSize;
-    const Gdiplus::PointF corner(static_cast<float>(box.left), static_cast<float>(box.top));
-    const Gdiplus::PointF points[] = {{corner.X + 3 * unit, corner.Y + 7 * unit},
-                                      {corner.X + 5.75F * unit, corner.Y + 9.75F * unit},
-                                      {corner.X + 10.5F * unit, corner.Y + 4.25F * unit}};
-    const Gdiplus::Pen pen(ToGdiPlus(m_colors.ground), 1.5F * unit);
-    graphics.DrawLines(&pen, points, 3);
 }

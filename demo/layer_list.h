@@ -2,6 +2,7 @@
 
 #include "layer_rows.h"
 #include "map_state.h"
+#include "soft_shapes.h"
 #include "viewer_scroll_bar.h"
 
 #include <afxwin.h>
@@ -74,9 +75,10 @@ private:
     void Choose(int row);
     void MoveTo(int row);
     void ShowFirst(int row);
-    void DrawRow(CDC& dc, int row);
-    void DrawSwatch(CDC& dc, const CRect& rect, COLORREF color);
-    void DrawTick(CDC& dc, const CRect& box, bool isTicked);
+    CRect TickRect(int row) const;
+    CRect SwatchRect(int row) const;
+    void DrawMarks(const soft::Pixels& pixels, int row);
+    void DrawText(CDC& dc, int row);
 
     MapState& m_state;
     const MapData& m_data;
