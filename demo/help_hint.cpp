@@ -3,13 +3,18 @@
 #include "library_context.h"
 #include "tooltip_ctrl_ex.h"
 
-#include <filesystem>
 #include <utility>
 
 namespace {
 
 constexpr int kLargeSide = 32;
 constexpr int kSmallSide = 16;
+
+/// Whether there is a folder (FILE_ATTRIBUTE_DIRECTORY) or a file (0) of the name.
+bool Has(const CString& path, DWORD kind) {
+    const DWORD attributes = ::GetFileAttributesW(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == kind;
+}
 
 HICON LoadHint(const std::wstring& folder, int side) {
     const CString path = GetIconPathStr(folder + L"help.ico", side);
@@ -32,9 +37,8 @@ HelpHint::~HelpHint() {
 }
 
 bool HelpHint::HasVideos() {
-    CString folder;
-    std::error_code ignored;
-    return GetHaveMedias_Brevant(folder) && std::filesystem::is_directory(std::wstring(folder.GetString()), ignored);
+    CString folder; // closed by a backslash, with which the standard library finds no folder
+    return GetHaveMedias_Brevant(folder) && Has(folder, FILE_ATTRIBUTE_DIRECTORY);
 }
 
 std::wstring HelpHint::FileOf(UINT id) {
@@ -43,9 +47,8 @@ std::wstring HelpHint::FileOf(UINT id) {
     if (name.IsEmpty() || !GetHaveMedias_Brevant(folder)) {
         return {};
     }
-    const std::wstring file = (folder + name).GetString();
-    std::error_code ignored;
-    return std::filesystem::is_regular_file(file, ignored) ? file : std::wstring();
+    const CString file = folder + name;
+    return Has(file, 0) ? std::wstring(file.GetString()) : std::wstring();
 }
 
 void HelpHint::TakeIcons(const wchar_t* folder) {

@@ -37,7 +37,7 @@ constexpr std::array<const wchar_t*, 5> kSplitButtons = {L"ZoomOriginal", L"Plac
                                                          L"NameSize"};
 /// The framework's text at which an extended bar says that the button changes the skin.
 constexpr UINT kSkinButtonText = 17096;
-constexpr wchar_t kLightSkinIcon[] = L"pic\\skin\\icon\\modle_0\\skin.ico";
+constexpr wchar_t kSkinIcon[] = L"pic\\skin\\icon\\modle\\skin.ico";
 constexpr wchar_t kRibbonFile[] = L"cfg\\ribbon.xml";
 
 struct Skin {
@@ -48,6 +48,25 @@ struct Skin {
 };
 constexpr std::array<Skin, 2> kSkins = {
     {{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\"}, {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\"}}};
+
+/// On the row of tabs, which is dark in both skins: its icon is the light one in both.
+class SkinButton : public CMFCRibbonUNIcoButton {
+public:
+    /// `style` is that of all other buttons, and outlives this one.
+    SkinButton(UINT id, const std::wstring& style)
+        : CMFCRibbonUNIcoButton(id, L"", GetIconPathStr(kSkinIcon, 32), FALSE, GetIconPathStr(kSkinIcon, 16), TRUE),
+          m_style(style) {}
+
+    void DrawImage(CDC* dc, RibbonImageType type, CRect rect) override {
+        SetSkinStyle(L"0");
+        CMFCRibbonUNIcoButton::DrawImage(dc, type, rect);
+        SetSkinStyle(m_style.c_str());
+    }
+    BOOL IsDrawTooltipImage() const override { return FALSE; } // the tooltip is light in one of them
+
+private:
+    const std::wstring& m_style;
+};
 
 std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "Viewer"); }
 
@@ -187,6 +206,7 @@ void CMainFrame::BuildRibbon() {
 
     CAddRibbonBar builder;
     builder.SetCreateF1Tip(HelpHint::HasVideos());
+    CAddRibbonBar::m_strHelpF1 = ViewerText("HelpF1").c_str();
     builder.Load(kRibbonFile, &m_ribbon, TRUE);
     m_commandTexts = builder.m_cmdList;
     m_place = FindElement<CMFCRibbonEdit>(m_ribbon, L"PlaceEdit");
@@ -204,8 +224,7 @@ void CMainFrame::BuildRibbon() {
     m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
 }
 
-/// Right of the tabs, on every page. The bar knows it by its tooltip, which is the framework's for another button. The
-/// row of tabs is dark in both skins, so the icon is light in both.
+/// Right of the tabs, on every page. The bar knows it by its tooltip, which is the framework's for another button.
 void CMainFrame::AddSkinButton() {
     int id = 0;
     if (!CMenuIdMgr::Ins()->GetMenuId(L"SkinSwitch", id)) {
@@ -213,8 +232,7 @@ void CMainFrame::AddSkinButton() {
     }
     CString tip;
     tip.LoadString(kSkinButtonText);
-    m_skinButton = new CMFCRibbonUNIcoButton(static_cast<UINT>(id), L"", GetIconPathStr(kLightSkinIcon, 32), FALSE,
-                                             GetIconPathStr(kLightSkinIcon, 16), TRUE);
+    m_skinButton = new SkinButton(static_cast<UINT>(id), m_iconStyle);
     m_skinButton->SetToolTipText(tip);
     m_ribbon.AddToTabs(m_skinButton);
 }

@@ -9,6 +9,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 from viewer import ROOT, Viewer
@@ -210,6 +211,39 @@ class SkinsOfTheViewer(unittest.TestCase):
         for value, skin in (("0", "black"), ("1", "silver")):
             with Viewer(BIN_DIR, registry=[["add", self.PREFERENCE, "/v", "AppsUseLightTheme", "/t", "REG_DWORD", "/d", value, "/f"]]) as viewer:
                 self.assertEqual(viewer.record["skin"], skin)
+
+
+class HelpVideos(unittest.TestCase):
+    RECORD = r"HKLM\Software\HALVORN\Tessaly"
+    HINT = "F1 shows a video of this command"
+
+    def descriptions(self, viewer):
+        return {element["description"] for element in viewer.elements() if element["id"] == viewer.id_of("ZoomIn")}
+
+    def test_commands_hint_at_their_video_where_the_installation_has_a_folder_of_them(self):
+        with tempfile.TemporaryDirectory() as folder:
+            os.mkdir(os.path.join(folder, "Media"))
+            with open(os.path.join(folder, "Media", "Zoom in.swf"), "wb"):
+                pass
+            place = "Z:" + folder.replace("/", "\\")
+            with Viewer(BIN_DIR, "--lang", "en", registry=[["add", self.RECORD, "/v", "FlashPath", "/d", place, "/f"]]) as viewer:
+                self.assertEqual(self.descriptions(viewer), {self.HINT})
+                heights = {}
+                for keyword in ("ZoomIn", "ZoomOut"):  # with a file, and without
+                    viewer.hover(640, 700)
+                    before = viewer.picture(os.path.join(folder, "before.png"))
+                    viewer.hover_command(keyword)
+                    shown = os.path.join(folder, "shown.png")
+                    area = "300x90+0+%d" % (viewer.record["ribbonOnScreen"][3] + 45)  # below a tip of one part
+                    end = time.monotonic() + 5
+                    while time.monotonic() < end:
+                        viewer.picture(shown)
+                        time.sleep(0.2)
+                    heights[keyword] = changed_pixels(before, shown, area)
+                self.assertGreater(heights["ZoomIn"], MANY_PIXELS // 20)
+                self.assertEqual(heights["ZoomOut"], 0)
+        with Viewer(BIN_DIR, "--lang", "en", registry=[["delete", self.RECORD, "/v", "FlashPath", "/f"]]) as viewer:
+            self.assertEqual(self.descriptions(viewer), {""})
 
 
 class PlaceField(unittest.TestCase):
