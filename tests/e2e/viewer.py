@@ -145,6 +145,9 @@ class Viewer:
         self.hover_command(keyword)
         self._xdotool("sleep", 0.1, "mousedown", 1)
 
+    def press(self, x, y):
+        self._xdotool("mousemove", x, y, "sleep", 0.1, "mousedown", 1)
+
     def drag(self, x, y, to_x, to_y):
         """In steps, as a hand does."""
         self.press(x, y)
