@@ -1,5 +1,6 @@
 #include "tests/ui/skins/skin_fixture.h"
 
+#include "tests/support/icon_writer.h"
 #include "tests/support/png_file.h"
 #include "tests/support/temporary_directory.h"
 
@@ -9,6 +10,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <set>
 
 namespace {
 
@@ -167,6 +169,37 @@ TEST_F(SkinPictureFiles, ButtonsTakeTheirPictureByHeightAndPlace) {
         }
         std::filesystem::remove(path);
     }
+}
+
+// ---- the icon of drop-down arrows
+
+constexpr char kArrowFile[] = "pic/skin/icon/16/down.ico";
+
+/// The colours that a drop-down button at rest shows.
+std::set<std::uint32_t> ArrowColours() {
+    auto& skin = static_cast<CMFCVisualManagerOffice20072&>(*CMFCVisualManager::GetInstance());
+    Canvas canvas(CSize(24, 24), Pixel(RGB(167, 170, 180)));
+    skin.OnDrawComboDropButton(canvas.Dc(), CRect(0, 0, 24, 24), FALSE, FALSE, FALSE, nullptr);
+    return canvas.Colours();
+}
+
+TEST_F(SkinPictureFiles, ADropDownArrowIsTheSkinsIconInAColourThatIsSeen) {
+    // All of its 16 x 16 pixels are opaque and green.
+    m_directory.Write(kArrowFile, MakeIconFile(16, {0x00FF00, 0x00FF00}));
+    Use<OpenBlackSkin>();
+    EXPECT_EQ(ArrowColours(), (std::set<std::uint32_t>{Pixel(RGB(167, 170, 180)), 0}));
+}
+
+TEST_F(SkinPictureFiles, WithoutItsIconADropDownArrowIsDrawnAllTheSame) {
+    Use<OpenBlackSkin>();
+    EXPECT_GT(ArrowColours().size(), 1u);
+    m_directory.Write(kArrowFile, "no icon");
+    Use<OpenBlackSkin>();
+    EXPECT_GT(ArrowColours().size(), 1u);
+    std::filesystem::remove(m_directory.Path() / kArrowFile);
+    std::filesystem::create_directories(m_directory.Path() / kArrowFile);
+    Use<OpenBlackSkin>();
+    EXPECT_GT(ArrowColours().size(), 1u);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 using namespace visual;
@@ -163,6 +164,65 @@ TEST(PreMultiplying, IsDoneOnceOnly) {
     EXPECT_EQ(pixel, 0x80800000u);
     PreMultiply(view, true);
     EXPECT_EQ(pixel, 0x80800000u);
+}
+
+/// A picture of 6 x 6 pixels, each with a colour of its own.
+std::vector<std::uint32_t> NumberedPicture() {
+    std::vector<std::uint32_t> picture(36);
+    for (std::size_t i = 0; i < picture.size(); ++i) {
+        picture[i] = 0xFF000000 | static_cast<std::uint32_t>(i + 1);
+    }
+    return picture;
+}
+
+/// What a target of that size shows of it; the margins are 2 on each side.
+std::vector<std::uint32_t> Sliced(int width, int height) {
+    std::vector<std::uint32_t> target(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    FillSlices({target.data(), width, height}, {0, 0, width, height}, NumberedPicture(), 6, {2, 2, 2, 2});
+    return target;
+}
+
+TEST(Slices, APictureOfTheSameSizeIsDrawnAsItIs) { EXPECT_EQ(Sliced(6, 6), NumberedPicture()); }
+
+TEST(Slices, CornersKeepTheirSizeInALargerTarget) {
+    const std::vector<std::uint32_t> picture = NumberedPicture(), target = Sliced(20, 10);
+    for (const auto& [x, y, sourceX, sourceY] :
+         {std::array{0, 0, 0, 0}, {1, 1, 1, 1}, {19, 0, 5, 0}, {18, 8, 4, 4}, {0, 9, 0, 5}, {19, 9, 5, 5}}) {
+        EXPECT_EQ(target[static_cast<std::size_t>(y * 20 + x)],
+                  picture[static_cast<std::size_t>(sourceY * 6 + sourceX)])
+            << x << ", " << y;
+    }
+}
+
+TEST(Slices, TheMiddleIsStretched) {
+    const std::vector<std::uint32_t> picture = NumberedPicture(), target = Sliced(20, 6);
+    for (int x = 2; x < 18; ++x) {
+        EXPECT_EQ(target[static_cast<std::size_t>(x)], picture[x < 10 ? 2 : 3]) << x;
+    }
+}
+
+TEST(Slices, ATargetWithoutRoomForTwoMarginsGetsTheOutermostPartOfEach) {
+    const std::vector<std::uint32_t> picture = NumberedPicture(), target = Sliced(2, 6);
+    EXPECT_EQ(target[0], picture[0]);
+    EXPECT_EQ(target[1], picture[5]);
+    EXPECT_EQ(Sliced(1, 1).size(), 1u);
+}
+
+TEST(Slices, APictureIsLaidOverWhatIsThere) {
+    std::vector<std::uint32_t> target(1, 0xFF000000 | 0x0000FF);
+    const std::vector<std::uint32_t> half(1, 0x80800000); // red, multiplied by its alpha
+    FillSlices({target.data(), 1, 1}, {0, 0, 1, 1}, half, 1, {});
+    EXPECT_EQ(AlphaOf(target[0]), 255u);
+    EXPECT_EQ(RedOf(target[0]), 0x80u);
+    EXPECT_NEAR(BlueOf(target[0]), 0x7F, 1);
+}
+
+TEST(Slices, NothingIsDrawnOutsideOfTheTargetOrWithoutAPicture) {
+    std::vector<std::uint32_t> target(4, 7);
+    FillSlices({target.data(), 2, 2}, {-3, -3, 40, 40}, {}, 0, {2, 2, 2, 2});
+    EXPECT_EQ(target, std::vector<std::uint32_t>(4, 7));
+    FillSlices({target.data(), 2, 2}, {-3, -3, 40, 40}, NumberedPicture(), 6, {2, 2, 2, 2});
+    EXPECT_NE(target[0], 7u);
 }
 
 } // namespace
