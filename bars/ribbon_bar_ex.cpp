@@ -58,12 +58,11 @@ bool CMFCRibbonBarEx::ShowPath(const std::wstring& name, const std::set<std::wst
     }
     // The host hears of pop-ups that close on the way, and may declare paths, rebuild or end the bar: copies, from
     // here.
-    const std::wstring path = name;
     const auto [first, last, remembered] = found->second;
     const fx::WindowGuard guard(this);
     const bool hasWindow = GetSafeHwnd() != nullptr;
     int active = remembered;
-    m_strCurPath = path;
+    m_strCurPath = name;
     for (int index = 0; index < GetCategoryCount(); ++index) {
         const bool isShown = first <= index && index <= last;
         ShowCategory(index, isShown ? TRUE : FALSE);
@@ -84,7 +83,7 @@ bool CMFCRibbonBarEx::ShowPath(const std::wstring& name, const std::set<std::wst
             return true;
         }
     }
-    ShowQuickAccess(path);
+    ShowQuickAccess(m_strCurPath);
     return true;
 }
 
