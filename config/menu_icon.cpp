@@ -1,6 +1,5 @@
 #include "config/menu_icon.h"
 
-#include "elements/icon_file.h"
 #include "library_context.h"
 
 #include <afxcommandmanager.h>
@@ -12,11 +11,18 @@ constexpr int kIconSide = 16; // pixels at 96 DPI, the folder's name
 
 } // namespace
 
-void GiveCommandIcon(unsigned int id, const std::wstring& picPath) {
-    if (picPath.empty() || GetCmdMgr()->GetCmdImage(id, FALSE) != -1) {
-        return;
+FileIcon LoadCommandIcon(const std::wstring& picPath) {
+    return picPath.empty() ? FileIcon() : FileIcon(GetIconPathStr(picPath, kIconSide), kIconSide, kIconSide);
+}
+
+void GiveCommandIcon(unsigned int id, HICON icon) {
+    if (GetCmdMgr()->GetCmdImage(id, FALSE) == -1) {
+        GetCmdMgr()->SetCmdImage(id, icon ? CMFCToolBar::GetImages()->AddIcon(icon, FALSE) : -1, FALSE);
     }
-    const FileIcon icon(GetIconPathStr(picPath, kIconSide), kIconSide, kIconSide);
-    const int image = icon.Get() ? CMFCToolBar::GetImages()->AddIcon(icon.Get(), FALSE) : -1;
-    GetCmdMgr()->SetCmdImage(id, image, FALSE);
+}
+
+void GiveCommandIcon(unsigned int id, const std::wstring& picPath) {
+    if (!picPath.empty() && GetCmdMgr()->GetCmdImage(id, FALSE) == -1) {
+        GiveCommandIcon(id, LoadCommandIcon(picPath).Get());
+    }
 }

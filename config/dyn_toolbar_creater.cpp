@@ -1,0 +1,272 @@
+#include "dyn_toolbar_creater.h"
+
+#include "config/menu_icon.h"
+#include "config/toolbar_file.h"
+#include "menu_id_mgr.h"
+#include "toolbar_combos.h"
+#include "toolbar_ex.h"
+
+#include <afxcommandmanager.h>
+#include <varnhold/file_op.h>
+
+#include <memory>
+
+std::uint32_t CDynToolBarCreater::s_ToolbarIndex = 45000;
+
+namespace {
+
+constexpr SIZE kButtonSize{23, 22};
+constexpr SIZE kImageSize{16, 16};
+constexpr DWORD kBarStyle = WS_CHILD | WS_VISIBLE | CBRS_GRIPPER | CBRS_TOP;
+
+/// The icons of configured buttons, which index it. The framework may show it as the user's images until the end.
+CMFCToolBarImages& UserImages() {
+    static CMFCToolBarImages images;
+    if (images.GetCount() == 0) {
+        images.SetImageSize(kImageSize);
+    }
+    return images;
+}
+
+/// A toolbar that a file describes: it deletes itself together with its window.
+class ConfiguredToolBar : public CMFCToolBarEx {
+public:
+    /// Null when the window cannot be made.
+    static CMFCToolBar* Create(CWnd& parent, UINT id) {
+        auto bar = std::make_unique<ConfiguredToolBar>();
+        if (!bar->CreateEx(&parent, TBSTYLE_FLAT, kBarStyle, CRect(1, 1, 1, 1), id)) {
+            return nullptr;
+        }
+        bar->m_isOwnedByWindow = true;
+        return bar.release();
+    }
+
+protected:
+    void PostNcDestroy() override {
+        CMFCToolBarEx::PostNcDestroy();
+        if (m_isOwnedByWindow) {
+            delete this;
+        }
+    }
+
+private:
+    bool m_isOwnedByWindow = false;
+};
+
+/// The command of a button, which takes the icon for menus and toolbars where it was registered before.
+UINT ObtainCommand(const ToolBarInfo& info, HICON icon) {
+    CMenuIdMgr& registry = *CMenuIdMgr::Ins();
+    int id = 0;
+    bool isRegistered = false;
+    {
+        xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
+        isRegistered = registry.GetMenuId(info.strKeyword, id);
+    }
+    if (isRegistered) {
+        GiveCommandIcon(static_cast<UINT>(id), icon);
+        return static_cast<UINT>(id);
+    }
+    id = static_cast<int>(CMenuIdMgr::s_AddBeginID++);
+    registry.Add(info.strKeyword, id, info.strPrompt, {}, info.strToolTip, {}, {});
+    return static_cast<UINT>(id);
+}
+
+/// The image is one of the user's.
+template <class Button>
+void InsertCombo(CMFCToolBar& bar, UINT id, int image) {
+    Button button(id, -1);
+    button.m_bUserButton = TRUE;
+    button.SetImage(image);
+    bar.InsertButton(button);
+}
+
+void InsertItem(CMFCToolBar& bar, const ToolBarInfo& info, UINT id, int image) {
+    switch (ToolBarItemKindOf(info.strType)) {
+    case ToolBarItemKind::Button:
+        bar.InsertButton(CMFCToolBarButton(id, image, info.strPrompt.c_str(), TRUE, FALSE));
+        break;
+    case ToolBarItemKind::CheckCombo:
+        InsertCombo<CMFCCheckCombo>(bar, id, image);
+        break;
+    case ToolBarItemKind::MultiCombo:
+        InsertCombo<CMFCMultiCombo>(bar, id, image);
+        break;
+    case ToolBarItemKind::MultiCombo2:
+        InsertCombo<CMFCMultiCombo2>(bar, id, image);
+        break;
+    case ToolBarItemKind::Separator:
+    case ToolBarItemKind::Unknown:
+        break;
+    }
+}
+
+void AddItem(CMFCToolBar& bar, const ToolBarInfo& info) {
+    if (ToolBarItemKindOf(info.strType) == ToolBarItemKind::Separator) {
+        bar.InsertSeparator();
+        return;
+    }
+    const FileIcon icon = LoadCommandIcon(info.strPicPath);
+    const int image = icon.Get() ? UserImages().AddIcon(icon.Get(), FALSE) : -1;
+    InsertItem(bar, info, ObtainCommand(info, icon.Get()), image);
+}
+
+FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics()); }
+
+CMDIFrameWndEx* FrameOr(CMDIFrameWndEx* frame) {
+    return frame ? frame : DYNAMIC_DOWNCAST(CMDIFrameWndEx, AfxGetMainWnd());
+}
+
+} // namespace
+
+/// Makes the bars while a file is read.
+class CDynToolBarCreater::Building : public ToolBarFileVisitor {
+public:
+    Building(CDynToolBarCreater& creater, CWnd& parent) : m_creater(creater), m_parent(parent) {}
+
+    void VisitGroup(const ToolBarInfo& info) override { m_group = info.strKeyword; }
+
+    bool VisitToolBar(const ToolBarInfo& info) override {
+        m_bar = ConfiguredToolBar::Create(m_parent, s_ToolbarIndex++);
+        if (!m_bar) {
+            return false;
+        }
+        m_bar->m_bFromConfig = TRUE;
+        m_bar->SetWindowText(info.strPrompt.c_str());
+        m_creater.m_groups[m_group].emplace_back(m_bar, info.strPrompt);
+        return true;
+    }
+
+    void VisitButton(const ToolBarInfo& info) override { AddItem(*m_bar, info); }
+
+private:
+    CDynToolBarCreater& m_creater;
+    CWnd& m_parent;
+    std::wstring m_group;
+    CMFCToolBar* m_bar = nullptr;
+};
+
+CDynToolBarCreater::CDynToolBarCreater() = default;
+CDynToolBarCreater::CDynToolBarCreater(const CDynToolBarCreater&) = default;
+CDynToolBarCreater& CDynToolBarCreater::operator=(const CDynToolBarCreater&) = default;
+CDynToolBarCreater::~CDynToolBarCreater() = default;
+
+bool CDynToolBarCreater::Load(std::wstring path, CWnd* parent) {
+    std::wstring directory;
+    if (path.empty() || !FileOp::GetAppPath(directory) || !parent) {
+        return false;
+    }
+    const std::wstring fullPath = directory + path;
+    if (!CMFCToolBar::GetUserImages()) {
+        CMFCToolBar::SetSizes(kButtonSize, kImageSize);
+    }
+    Building building(*this, *parent);
+    if (!LoadToolBarFile(fullPath, building, DroppedDiagnostics())) {
+        return false;
+    }
+    if (!CMFCToolBar::GetUserImages() && UserImages().GetCount() > 0) {
+        CMFCToolBar::SetUserImages(&UserImages());
+    }
+    return !m_groups.empty();
+}
+
+void CDynToolBarCreater::ReadBarInfo(const CXmlNodeWrapper& node, ToolBarInfo& info) {
+    varnhold::XmlCursor element(node);
+    ReadToolBarInfo(element, info, Unreported());
+}
+
+void CDynToolBarCreater::AddChildBar(const CXmlNodeWrapper& node, CMFCToolBar* bar) {
+    std::wstring directory;
+    if (!bar || !FileOp::GetAppPath(directory)) {
+        return;
+    }
+    for (std::size_t i = 0; i < node.GetChildCount(); ++i) {
+        ToolBarInfo info;
+        ReadBarInfo(node.GetChild(i), info);
+        AddItem(*bar, info);
+    }
+}
+
+CMFCToolBar* CDynToolBarCreater::GetToolBar(const std::wstring& group, const CString& title) const {
+    const auto found = m_groups.find(group);
+    if (found == m_groups.end()) {
+        return nullptr;
+    }
+    for (const auto& [bar, name] : found->second) {
+        CString text;
+        bar->GetWindowText(text);
+        if (text.CompareNoCase(title) == 0) {
+            return bar;
+        }
+    }
+    return nullptr;
+}
+
+std::list<CMFCToolBar*> CDynToolBarCreater::GetAllToolBar() const {
+    std::list<CMFCToolBar*> all;
+    for (const auto& [group, bars] : m_groups) {
+        for (const auto& [bar, name] : bars) {
+            all.push_back(bar);
+        }
+    }
+    return all;
+}
+
+bool CDynToolBarCreater::AddCustomBar(const std::wstring& group, CMFCToolBar* bar, const std::wstring& name) {
+    if (!bar) {
+        return false;
+    }
+    bar->m_bFromConfig = TRUE;
+    const auto found = m_groups.find(group);
+    if (found == m_groups.end()) {
+        return false;
+    }
+    CString text;
+    bar->GetWindowText(text);
+    found->second.emplace_back(bar, name.empty() ? std::wstring(text) : name);
+    return true;
+}
+
+namespace {
+
+void ShowBar(CMFCToolBar& bar, bool show, CMDIFrameWndEx& frame) {
+    if (((bar.GetStyle() & WS_VISIBLE) != 0) != show) {
+        frame.ShowPane(&bar, show, TRUE, FALSE);
+    }
+}
+
+} // namespace
+
+void CDynToolBarCreater::ShowBars(int show, CMDIFrameWndEx* frame) const {
+    if (CMDIFrameWndEx* const target = FrameOr(frame)) {
+        for (CMFCToolBar* const bar : GetAllToolBar()) {
+            ShowBar(*bar, show != 0, *target);
+        }
+    }
+}
+
+void CDynToolBarCreater::ShowBars(const std::wstring& group, int show, CMDIFrameWndEx* frame) const {
+    CMDIFrameWndEx* const target = FrameOr(frame);
+    const auto found = m_groups.find(group);
+    if (!target || found == m_groups.end()) {
+        return;
+    }
+    for (const auto& [bar, name] : found->second) {
+        ShowBar(*bar, show != 0, *target);
+    }
+}
+
+void CDynToolBarCreater::DockPane(CMDIFrameWndEx* frame) const {
+    if (CMDIFrameWndEx* const target = FrameOr(frame)) {
+        for (CMFCToolBar* const bar : GetAllToolBar()) {
+            target->DockPane(bar);
+        }
+    }
+}
+
+void CDynToolBarCreater::EnableDocking(std::uint32_t alignment, CMDIFrameWndEx* frame) const {
+    if (FrameOr(frame)) {
+        for (CMFCToolBar* const bar : GetAllToolBar()) {
+            bar->EnableDocking(alignment);
+        }
+    }
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "config/diagnostics.h"
+#include "toolbar_info.h"
+
+/// What a button's TYPE makes. The words are compared without regard to letter case.
+enum class ToolBarItemKind { Unknown, Separator, Button, CheckCombo, MultiCombo, MultiCombo2 };
+
+ToolBarItemKind ToolBarItemKindOf(const std::wstring& type);
+
+/// Takes the elements of a toolbar file in document order. Records are good until the call returns.
+class ToolBarFileVisitor {
+public:
+    virtual ~ToolBarFileVisitor() = default;
+    virtual void VisitGroup(const ToolBarInfo& info) = 0;
+    /// Whether the toolbar's buttons are to be read.
+    virtual bool VisitToolBar(const ToolBarInfo& info) = 0;
+    virtual void VisitButton(const ToolBarInfo& info) = 0;
+};
+
+/// Reads an element's attributes in place of what the record holds.
+void ReadToolBarInfo(varnhold::XmlCursor& element, ToolBarInfo& info, const FileDiagnostics& diagnostics);
+
+/// The children of a toolbar element.
+void ReadToolBarButtons(varnhold::XmlCursor toolBar, ToolBarFileVisitor& visitor, const FileDiagnostics& diagnostics);
+
+/// Reads a whole file. False when it cannot be loaded; nothing was visited then.
+bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, DiagnosticsSink& sink);
