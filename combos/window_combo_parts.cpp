@@ -88,7 +88,7 @@ void FitDroppedWidth(CComboBox& combo, int marksWidth) {
     CClientDC dc(&combo);
     CFont font;
     CreateRowFont(font, Face::Arial);
-    const fx::DcSelection selected(dc, &font);
+    const fx::DcSelection selected(dc.GetSafeHdc(), font.GetSafeHandle());
     int width = 0;
     for (int i = 0; i < combo.GetCount(); ++i) {
         width = std::max(width, static_cast<int>(dc.GetTextExtent(L" " + TextOf(combo, i)).cx));

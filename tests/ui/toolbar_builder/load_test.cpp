@@ -5,13 +5,13 @@
 #include "menu_id_mgr.h"
 #include "tests/support/icon_writer.h"
 #include "tests/support/message_pump.h"
-#include "tests/support/scoped_value.h"
 #include "tests/support/translation_tables.h"
 #include "tests/support/ui_test.h"
 #include "toolbar_combos.h"
 #include "toolbar_ex.h"
 
 #include <afxcommandmanager.h>
+#include <fx/scoped_change.h>
 #include <varnhold/strings.h>
 
 #include <filesystem>
@@ -143,7 +143,7 @@ TEST_F(ToolBarBuilder, ABarWithoutChildrenIsCreatedTitledAndGrouped) {
 
 TEST_F(ToolBarBuilder, WindowIdsCountUpFromTheSharedNumber) {
     EXPECT_GE(CDynToolBarCreater::s_ToolbarIndex, 45000u);
-    const ScopedValue index(CDynToolBarCreater::s_ToolbarIndex, 45100u);
+    const fx::ScopedChange index(CDynToolBarCreater::s_ToolbarIndex, 45100u);
     ASSERT_TRUE(Load("<g KEYWORD='G'><b PROMPT='1'/><b PROMPT='2'/></g>"));
     EXPECT_EQ(creater.GetToolBar(L"G", L"1")->GetDlgCtrlID(), 45100);
     EXPECT_EQ(creater.GetToolBar(L"G", L"2")->GetDlgCtrlID(), 45101);
@@ -245,13 +245,13 @@ TEST_F(ToolBarBuilder, ANullFrameIsTheMainWindowWhenThatIsOne) {
     const auto isShown = [this] { return (First().GetStyle() & WS_VISIBLE) != 0; };
     {
         TestWindow other;
-        const ScopedValue main(AfxGetThread()->m_pMainWnd, static_cast<CWnd*>(&other));
+        const fx::ScopedChange main(AfxGetThread()->m_pMainWnd, static_cast<CWnd*>(&other));
         creater.ShowBars(0, nullptr);
         creater.DockPane(nullptr);
         creater.EnableDocking(CBRS_ALIGN_ANY, nullptr);
         EXPECT_TRUE(isShown());
     }
-    const ScopedValue main(AfxGetThread()->m_pMainWnd, static_cast<CWnd*>(&frame));
+    const fx::ScopedChange main(AfxGetThread()->m_pMainWnd, static_cast<CWnd*>(&frame));
     creater.ShowBars(0, nullptr);
     PumpPending();
     EXPECT_FALSE(isShown());
