@@ -16,7 +16,7 @@ namespace {
 constexpr int kBreadth = 20, kLength = 700, kArrow = 18;
 constexpr int kSteps = 300, kTotalLength = 4000;
 
-/// Goes to and fro between two positions.
+/// Goes between two positions and back.
 class CBenchBar : public CScrollBarBase {
 public:
     int GetBaseScrollPos() override { return m_position; }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 
 /// Shapes with smooth edges, drawn into the pixels of a bitmap (0xRRGGBB, rows from the top).

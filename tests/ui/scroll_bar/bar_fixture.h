@@ -10,6 +10,7 @@
 
 #include <varnhold/file_op.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <map>
