@@ -203,9 +203,17 @@ CMFCToolBar* CDynToolBarCreater::GetToolBar(const std::wstring& group, const CSt
 
 std::list<CMFCToolBar*> CDynToolBarCreater::GetAllToolBar() const {
     std::list<CMFCToolBar*> all;
+    for (const auto& [group, bar] : GetGroupedToolBars()) {
+        all.push_back(bar);
+    }
+    return all;
+}
+
+std::list<std::pair<std::wstring, CMFCToolBar*>> CDynToolBarCreater::GetGroupedToolBars() const {
+    std::list<std::pair<std::wstring, CMFCToolBar*>> all;
     for (const auto& [group, bars] : m_groups) {
         for (const auto& [bar, name] : bars) {
-            all.push_back(bar);
+            all.emplace_back(group, bar);
         }
     }
     return all;

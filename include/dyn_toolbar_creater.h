@@ -39,6 +39,8 @@ public:
     CMFCToolBar* GetToolBar(const std::wstring& group, const CString& title) const;
     /// Groups in the order of their names, bars in the order of their creation.
     std::list<CMFCToolBar*> GetAllToolBar() const;
+    /// The same, each with the name of its group.
+    std::list<std::pair<std::wstring, CMFCToolBar*>> GetGroupedToolBars() const;
     /// Puts a bar of the host's, which stays its own, into a group that exists; without a name it is known by its
     /// window text. False for a null bar and an unknown group. A bar is configured from then on, in either case: its
     /// buttons are not kept with the user's settings.

@@ -5,6 +5,7 @@
 #include "add_ribbon_bar.h"
 #include "command_line.h"
 #include "dyn_menu_creater.h"
+#include "dyn_toolbar_creater.h"
 #include "frame_dump.h"
 #include "ribbon_bar_ex.h"
 #include "ribbon_icon_button.h"
@@ -57,6 +58,7 @@ public:
             m_commands.push_back(builder.m_cmdList);
         }
         isComplete = BuildMenus() && isComplete;
+        isComplete = BuildToolBars() && isComplete;
         isComplete = ShowPath() && isComplete;
         isComplete = ShowCategory() && isComplete;
         m_ribbon.ForceRecalcLayout();
@@ -67,6 +69,9 @@ public:
         DumpSources sources{&m_ribbon, m_commands, {}, m_hAccelTable, L""};
         for (const auto& creater : m_menus) {
             sources.menus.push_back(creater->GetMenu());
+        }
+        for (const auto& [group, bar] : m_toolBars.GetGroupedToolBars()) {
+            sources.toolBars.emplace_back(group, bar);
         }
         return sources;
     }
@@ -124,6 +129,24 @@ private:
         return isComplete;
     }
 
+    /// False when a file could not be loaded, or holds no toolbar.
+    bool BuildToolBars() {
+        bool isComplete = true;
+        EnableDocking(CBRS_ALIGN_ANY);
+        for (const std::wstring& file : m_options.toolBarFiles) {
+            const std::size_t before = m_toolBars.GetAllToolBar().size();
+            if (!m_toolBars.Load(file, this) || m_toolBars.GetAllToolBar().size() == before) {
+                Complain(L"not loaded: " + file);
+                isComplete = false;
+            }
+        }
+        for (CMFCToolBar* const bar : m_toolBars.GetAllToolBar()) {
+            bar->EnableDocking(CBRS_ALIGN_ANY);
+            DockPane(bar);
+        }
+        return isComplete;
+    }
+
     /// False when there is no category of the name that was asked for.
     bool ShowCategory() {
         for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
@@ -147,6 +170,7 @@ private:
     CMFCRibbonBarEx m_ribbon;
     std::vector<std::vector<std::wstring>> m_commands;
     std::vector<std::unique_ptr<CDynMenuCreater>> m_menus;
+    CDynToolBarCreater m_toolBars;
 };
 
 BEGIN_MESSAGE_MAP(CPreviewFrame, CFrameWndEx)

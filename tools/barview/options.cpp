@@ -34,12 +34,14 @@ std::vector<std::wstring> FindFiles(const std::wstring& directory, const CString
 } // namespace
 
 const wchar_t* BarviewUsage() {
-    return L"usage: barview DIR [--ribbon FILE]... [--menu FILE] [--lang LANG] [--skin black|silver] [--size WxH]\n"
+    return L"usage: barview DIR [--ribbon FILE]... [--menu FILE] [--toolbars FILE] [--lang LANG]\n"
+           L"               [--skin black|silver] [--size WxH]\n"
            L"               [--scale PERCENT] [--category NAME] [--path NAME] [--screenshot OUT.png] [--dump "
            L"OUT.json]\n"
-           L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon or "
+           L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon, "
            L"--menu\n"
-           L"it takes cfg\\ribbon*.xml or cfg\\menu*.xml in name order. With --screenshot or --dump it leaves when "
+           L"or --toolbars it takes cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml in name order. With "
+           L"--screenshot or --dump it leaves when "
            L"they are written.\n"
            L"Exit code: 0, 1 when a file could not be loaded or written, when there is no ribbon file, or no category "
            L"or\n"
@@ -56,6 +58,11 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
                                   .Add(L"--menu",
                                        [&options](const std::wstring& file) {
                                            options.menuFiles = {file};
+                                           return !file.empty();
+                                       })
+                                  .Add(L"--toolbars",
+                                       [&options](const std::wstring& file) {
+                                           options.toolBarFiles = {file};
                                            return !file.empty();
                                        })
                                   .AddText(L"--lang", options.language)
@@ -88,6 +95,9 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
     }
     if (options.menuFiles.empty()) {
         options.menuFiles = FindFiles(options.directory, L"MENU");
+    }
+    if (options.toolBarFiles.empty()) {
+        options.toolBarFiles = FindFiles(options.directory, L"TOOLBAR");
     }
     return options;
 }

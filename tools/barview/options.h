@@ -6,9 +6,10 @@
 
 /// What the preview was asked for.
 struct BarviewOptions {
-    std::wstring directory;                ///< Installation directory, with its closing backslash.
-    std::vector<std::wstring> ribbonFiles; ///< Relative to the directory, as the builders get them.
-    std::vector<std::wstring> menuFiles;   ///< Likewise.
+    std::wstring directory;                 ///< Installation directory, with its closing backslash.
+    std::vector<std::wstring> ribbonFiles;  ///< Relative to the directory, as the builders get them.
+    std::vector<std::wstring> menuFiles;    ///< Likewise.
+    std::vector<std::wstring> toolBarFiles; ///< Likewise.
     std::wstring language;
     std::wstring skin = L"silver";
     int width = 1280; ///< Client size of the frame in screen pixels.

@@ -249,6 +249,34 @@ ordered_json DumpMenus(const DumpSources& sources) {
     return items;
 }
 
+ordered_json DumpToolBarButton(const CMFCToolBarButton& button) {
+    if (button.m_nStyle & TBBS_SEPARATOR) {
+        return {{"separator", true}};
+    }
+    return {{"class", button.GetRuntimeClass()->m_lpszClassName},
+            {"id", button.m_nID},
+            {"text", Utf8(button.m_strText)},
+            {"image", button.GetImage()}};
+}
+
+ordered_json DumpToolBars(const DumpSources& sources) {
+    ordered_json bars = ordered_json::array();
+    for (const auto& [group, bar] : sources.toolBars) {
+        ordered_json buttons = ordered_json::array();
+        for (int i = 0; i < bar->GetCount(); ++i) {
+            buttons.push_back(DumpToolBarButton(*bar->GetButton(i)));
+        }
+        CString title;
+        bar->GetWindowText(title);
+        bars.push_back({{"group", Utf8(group)},
+                        {"title", Utf8(title)},
+                        {"controlId", bar->GetDlgCtrlID()},
+                        {"visible", (bar->GetStyle() & WS_VISIBLE) != 0},
+                        {"buttons", std::move(buttons)}});
+    }
+    return bars;
+}
+
 ordered_json DumpAccelerators(HACCEL table) {
     ordered_json accelerators = ordered_json::array();
     std::vector<ACCEL> entries(table ? static_cast<std::size_t>(::CopyAcceleratorTableW(table, nullptr, 0)) : 0);
@@ -321,7 +349,7 @@ ordered_json DumpFrame(const DumpSources& sources) {
             {"ribbon", DumpRibbon(sources)},
             {"menu", DumpMenus(sources)},
             {"accelerators", DumpAccelerators(sources.accelerators)},
-            {"toolbars", ordered_json::array()},
+            {"toolbars", DumpToolBars(sources)},
             {"skin", DumpSkin()},
             {"statusExtras", DumpStatusExtras()},
             {"status",

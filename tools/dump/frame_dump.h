@@ -5,10 +5,12 @@
 #include <nlohmann/json.hpp>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 class CMenu;
 class CMFCRibbonBar;
+class CMFCToolBar;
 
 /// What a dump is made from; bars that are not there give empty lists.
 struct DumpSources {
@@ -18,6 +20,8 @@ struct DumpSources {
     std::vector<const CMenu*> menus = {}; ///< Of every menu builder, in the order of the files.
     HACCEL accelerators = nullptr;        ///< Of the frame.
     std::wstring application = {};        ///< The application whose status extras are shown.
+    /// Of every group of toolbars, which it names, in the order of the groups.
+    std::vector<std::pair<std::wstring, const CMFCToolBar*>> toolBars = {};
 };
 
 /// The bars as JSON: what was built, by whom it is known, where it lies. Of the registry, the commands whose ids fit

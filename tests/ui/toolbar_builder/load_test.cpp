@@ -173,6 +173,11 @@ TEST_F(ToolBarBuilder, AllBarsComeByGroupNameAndThenByCreation) {
         order += title;
     }
     EXPECT_EQ(order, L"2314");
+    std::wstring groups;
+    for (const auto& [group, bar] : creater.GetGroupedToolBars()) {
+        groups += group;
+    }
+    EXPECT_EQ(groups, L"AAZZ");
 }
 
 TEST_F(ToolBarBuilder, FailsSilentlyWithoutPathParentFileOrBars) {

@@ -3,6 +3,7 @@
 #include "add_ribbon_bar.h"
 #include "menu_id_mgr.h"
 #include "skin_visual_managers.h"
+#include "tests/support/ui_test.h"
 #include <fx/scoped_change.h>
 
 #include <gtest/gtest.h>
@@ -141,6 +142,26 @@ TEST_F(FrameDump, AcceleratorsAreListedInTheOrderOfTheTable) {
         {{{"virt", 9}, {"key", 0x53}, {"cmd", 41000}}, {{"virt", 0}, {"key", 0x71}, {"cmd", 41001}}});
     EXPECT_EQ(DumpFrame({.accelerators = table})["accelerators"].dump(), expected.dump());
     ::DestroyAcceleratorTable(table);
+}
+
+TEST_F(FrameDump, ToolbarsAreListedWithGroupTitleIdAndButtons) {
+    TestWindow parent;
+    CMFCToolBar bar;
+    ASSERT_TRUE(bar.Create(&parent, WS_CHILD | CBRS_TOP, 45007));
+    bar.SetWindowText(L"Drawing");
+    bar.InsertButton(CMFCToolBarButton(41000, 2, L"Line", TRUE));
+    bar.InsertSeparator();
+    bar.InsertButton(CMFCToolBarButton(41001, -1, L""));
+    const ordered_json expected = {{{"group", "edit"},
+                                    {"title", "Drawing"},
+                                    {"controlId", 45007},
+                                    {"visible", false},
+                                    {"buttons",
+                                     {{{"class", "CMFCToolBarButton"}, {"id", 41000}, {"text", "Line"}, {"image", 2}},
+                                      {{"separator", true}},
+                                      {{"class", "CMFCToolBarButton"}, {"id", 41001}, {"text", ""}, {"image", -1}}}}}};
+    EXPECT_EQ(DumpFrame({.toolBars = {{L"edit", &bar}}})["toolbars"].dump(), expected.dump());
+    bar.DestroyWindow();
 }
 
 } // namespace
