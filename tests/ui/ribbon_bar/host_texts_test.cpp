@@ -39,8 +39,8 @@ TEST_F(HostTextTest, TheProgramsTextComesBeforeTheFrameworks) {
 TEST_F(HostTextTest, TextsThatTheProgramDoesNotHaveAreTheFrameworks) {
     SetQuickAccessDefault({commands::cut});
     const std::set<std::wstring> texts = MenuTexts();
-    EXPECT_TRUE(texts.contains(L"Minimize the Ribbon")) << "it stands in the same block of the table";
-    EXPECT_TRUE(texts.contains(L"Show Quick Access Toolbar Below the Ribbon"));
+    EXPECT_TRUE(texts.contains(L"Mi&nimize the Ribbon")) << "it stands in the same block of the table";
+    EXPECT_TRUE(texts.contains(L"&Show Quick Access Toolbar Below the Ribbon"));
 }
 
 TEST_F(HostTextTest, TheNamesForAssistiveProgramsAreTheProgramsToo) {
