@@ -1,5 +1,7 @@
 #pragma once
 
+#include <windows.h>
+
 #include <vector>
 
 #include "ribbon/focus_walk.h"

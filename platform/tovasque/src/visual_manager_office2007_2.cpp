@@ -130,6 +130,19 @@ void CMFCVisualManagerOffice20072::OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* 
     CMFCVisualManagerOffice2007::OnDrawRibbonCaption(pDC, pBar, rect, rectText);
 }
 
+COLORREF CMFCVisualManagerOffice20072::OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar* pWndRibbonBar, CRect rectTab) {
+    const COLORREF text = CMFCVisualManagerOffice2007::OnDrawRibbonTabsFrame(pDC, pWndRibbonBar, rectTab);
+    const CMFCRibbonCategory* const active = pWndRibbonBar != nullptr ? pWndRibbonBar->GetActiveCategory() : nullptr;
+    if (CanDrawStyle() && active != nullptr && pWndRibbonBar->GetCaptionRect().IsRectEmpty() &&
+        pWndRibbonBar->IsQuickAccessToolbarOnTop() && !pWndRibbonBar->GetQuickAccessToolbarLocation().IsRectEmpty()) {
+        rectTab.bottom = std::min(rectTab.bottom, active->GetTabRect().top);
+        if (rectTab.top < rectTab.bottom) {
+            pDC->FillSolidRect(rectTab, GetTitleBgColor());
+        }
+    }
+    return text;
+}
+
 void CMFCVisualManagerOffice20072::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect rectClip,
                                                        BOOL bNCArea) {
     if (CMFCPopupMenuBar* const list = MenuOf(pBar); list != nullptr && CanDrawStyle() && IsLightDropList(list)) {

@@ -4,6 +4,7 @@
 
 #include "tests/support/canvas.h"
 
+#include <afxglobals.h>
 #include <fx/skin_table.h>
 #include <gtest/gtest.h>
 

@@ -55,6 +55,8 @@ public:
 
     void OnUpdateSystemColors() override;
     void OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect rect, CRect rectText) override;
+    /// A quick access toolbar above the tabs of a bar that is no caption lies on the title's ground, as in one that is.
+    COLORREF OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar* pWndRibbonBar, CRect rectTab) override;
     void OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect rectClip,
                              BOOL bNCArea = FALSE) override;
     void OnHighlightMenuItem(CDC* pDC, CMFCToolBarMenuButton* pButton, CRect rect, COLORREF& clrText) override;
