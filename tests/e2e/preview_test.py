@@ -10,7 +10,7 @@ import sys
 import tempfile
 import unittest
 
-from viewer import ROOT
+from wine_session import ROOT, alone_in_prefix
 
 BIN_DIR = ""
 F1_HINT = "按F1键获得此功能视频"
@@ -64,15 +64,15 @@ def make_installation(folder):
 
 
 def run(program, *arguments, display=None):
-    environment = dict(os.environ)
-    words = [os.path.join(ROOT, "scripts", "wine-run")]
-    if display:
+    wine_run = os.path.join(ROOT, "scripts", "wine-run")
+    words = [os.path.join(BIN_DIR, program), *arguments]
+    if not display:
+        return subprocess.run([wine_run, "--null", *words], capture_output=True, text=True)
+    with alone_in_prefix() as prefix:
         # A display and a prefix of its own, as the demo's clicks have them.
+        environment = dict(os.environ, BARWRIGHT_WINEPREFIX=prefix)
         environment.pop("DISPLAY", None)
-        environment["BARWRIGHT_WINEPREFIX"] = os.path.join(ROOT, "build", "wine-e2e")
-    else:
-        words.append("--null")
-    return subprocess.run([*words, os.path.join(BIN_DIR, program), *arguments], capture_output=True, text=True, env=environment)
+        return subprocess.run([wine_run, *words], capture_output=True, text=True, env=environment)
 
 
 def picture_facts(path):

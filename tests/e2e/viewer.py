@@ -7,7 +7,8 @@ import time
 
 from PIL import ImageGrab
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+from wine_session import ROOT, alone_in_prefix
+
 DEADLINE = 40
 
 
@@ -23,6 +24,21 @@ class Viewer:
         self._record_file = os.path.join(self._folder.name, "record.json")
 
     def __enter__(self):
+        self._session = alone_in_prefix()
+        prefix = self._session.__enter__()
+        try:
+            self._start(prefix)
+        except BaseException:
+            self._session.__exit__(None, None, None)
+            raise
+        try:
+            self.begin()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def _start(self, prefix):
         read_end, write_end = os.pipe()
         # White where no window is: what is black is a window's.
         self._server = subprocess.Popen(["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x900x24", "-nolisten", "tcp", "-noreset", "-wr"],
@@ -35,7 +51,7 @@ class Viewer:
             raise RuntimeError("Xvfb did not start")
         # A prefix of its own: Wine's desktop belongs to one display at a time.
         self._environment = dict(os.environ, DISPLAY=":" + display,
-                                 BARWRIGHT_WINEPREFIX=os.path.join(ROOT, "build", "wine-e2e"))
+                                 BARWRIGHT_WINEPREFIX=prefix)
         for words in self._registry:
             subprocess.run([os.path.join(ROOT, "scripts", "wine-run"),
                             os.path.join(self._environment["BARWRIGHT_WINEPREFIX"], "drive_c", "windows", "system32", "reg.exe"), *words],
@@ -43,12 +59,6 @@ class Viewer:
         self._program = subprocess.Popen(
             [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, "demo.exe"), "--size", "1280x800",
              "--record", self._record_file, *map(str, self._arguments)], env=self._environment)
-        try:
-            self.begin()
-        except BaseException:
-            self.__exit__()
-            raise
-        return self
 
     def begin(self):
         """What has to happen before the viewer can be used."""
@@ -68,6 +78,7 @@ class Viewer:
         self._server.terminate()
         self._server.wait()
         self._folder.cleanup()
+        self._session.__exit__(None, None, None)
 
     def wait_for(self, condition):
         """The first record that meets the condition; fails when none does in time."""

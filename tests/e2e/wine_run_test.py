@@ -13,12 +13,15 @@ import threading
 import time
 import unittest
 
-from viewer import ROOT
+from wine_session import PREFIX, ROOT, alone_in_prefix
 
 WINE_RUN = os.path.join(ROOT, "scripts", "wine-run")
-PREFIX = os.path.join(ROOT, "build", "wine-e2e")
 DEADLINE = 60
 BIN_DIR = ""
+
+
+def setUpModule():
+    unittest.enterModuleContext(alone_in_prefix())
 
 
 def environment(**changes):
