@@ -20,13 +20,6 @@ CString CAddRibbonBar::m_strHelpF1 = L"按F1键获得此功能视频";
 std::map<std::wstring, std::pair<std::wstring, std::vector<CAddRibbonBar::_RibbonInfo>>>
     CAddRibbonBar::m_smStatusExBtns;
 
-namespace {
-
-/// The library's reading of a single element: whatever is wrong with it is not reported.
-FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics()); }
-
-} // namespace
-
 CAddRibbonBar::CAddRibbonBar() {
     std::wstring directory;
     if (m_sAppPath.IsEmpty() && FileOp::GetAppPath(directory)) {

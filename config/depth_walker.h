@@ -26,3 +26,12 @@ void WalkBelow(varnhold::XmlCursor root, Visit visit) {
         }
     }
 }
+
+/// Calls `visit(child)` at each child of the element, in document order; it may
+/// read from the cursor, but not move it.
+template <class Visit>
+void ForEachChild(varnhold::XmlCursor element, Visit visit) {
+    for (bool found = element.ToFirstChild(); found; found = element.ToNextSibling()) {
+        visit(element);
+    }
+}

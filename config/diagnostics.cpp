@@ -15,6 +15,8 @@ DiagnosticsSink& DroppedDiagnostics() {
     return sink;
 }
 
+FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics()); }
+
 void FileDiagnostics::Warn(varnhold::TextPosition position, std::string_view code, std::wstring text) const {
     if (IsListening()) {
         m_sink.Report({m_file, position, DiagnosticSeverity::Warning, code, std::move(text)});

@@ -42,3 +42,6 @@ private:
     std::wstring m_file;
     DiagnosticsSink& m_sink;
 };
+
+/// For the library's reading of a single element: whatever is wrong with it is not reported.
+FileDiagnostics Unreported();

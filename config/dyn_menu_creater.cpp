@@ -25,8 +25,6 @@ namespace {
 /// The item with this keyword stands for the list of recent files.
 constexpr std::wstring_view kRecentFilesKeyword = L"QK_DEF_ZJWJ";
 
-FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics()); }
-
 /// The caller owns the array.
 ACCEL* NewAccelerators(std::size_t count) {
     auto* const entries = new (std::nothrow) ACCEL[count];

@@ -57,12 +57,7 @@ private:
 UINT ObtainCommand(const ToolBarInfo& info, HICON icon) {
     CMenuIdMgr& registry = *CMenuIdMgr::Ins();
     int id = 0;
-    bool isRegistered = false;
-    {
-        xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex);
-        isRegistered = registry.GetMenuId(info.strKeyword, id);
-    }
-    if (isRegistered) {
+    if (registry.GetMenuId(info.strKeyword, id)) {
         GiveCommandIcon(static_cast<UINT>(id), icon);
         return static_cast<UINT>(id);
     }
@@ -80,8 +75,8 @@ void InsertCombo(CMFCToolBar& bar, UINT id, int image) {
     bar.InsertButton(button);
 }
 
-void InsertItem(CMFCToolBar& bar, const ToolBarInfo& info, UINT id, int image) {
-    switch (ToolBarItemKindOf(info.strType)) {
+void InsertItem(CMFCToolBar& bar, ToolBarItemKind kind, const ToolBarInfo& info, UINT id, int image) {
+    switch (kind) {
     case ToolBarItemKind::Button:
         bar.InsertButton(CMFCToolBarButton(id, image, info.strPrompt.c_str(), TRUE, FALSE));
         break;
@@ -101,16 +96,15 @@ void InsertItem(CMFCToolBar& bar, const ToolBarInfo& info, UINT id, int image) {
 }
 
 void AddItem(CMFCToolBar& bar, const ToolBarInfo& info) {
-    if (ToolBarItemKindOf(info.strType) == ToolBarItemKind::Separator) {
+    const ToolBarItemKind kind = ToolBarItemKindOf(info.strType);
+    if (kind == ToolBarItemKind::Separator) {
         bar.InsertSeparator();
         return;
     }
     const FileIcon icon = LoadCommandIcon(info.strPicPath);
     const int image = icon.Get() ? UserImages().AddIcon(icon.Get(), FALSE) : -1;
-    InsertItem(bar, info, ObtainCommand(info, icon.Get()), image);
+    InsertItem(bar, kind, info, ObtainCommand(info, icon.Get()), image);
 }
-
-FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics()); }
 
 CMDIFrameWndEx* FrameOr(CMDIFrameWndEx* frame) {
     return frame ? frame : DYNAMIC_DOWNCAST(CMDIFrameWndEx, AfxGetMainWnd());
@@ -179,11 +173,7 @@ void CDynToolBarCreater::AddChildBar(const CXmlNodeWrapper& node, CMFCToolBar* b
     if (!bar || !FileOp::GetAppPath(directory)) {
         return;
     }
-    for (std::size_t i = 0; i < node.GetChildCount(); ++i) {
-        ToolBarInfo info;
-        ReadBarInfo(node.GetChild(i), info);
-        AddItem(*bar, info);
-    }
+    ReadToolBarButtons(varnhold::XmlCursor(node), Unreported(), [&](const ToolBarInfo& info) { AddItem(*bar, info); });
 }
 
 CMFCToolBar* CDynToolBarCreater::GetToolBar(const std::wstring& group, const CString& title) const {

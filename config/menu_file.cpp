@@ -1,6 +1,7 @@
 #include "config/menu_file.h"
 
 #include "config/depth_walker.h"
+#include "config/load_document.h"
 #include "config/menu_attributes.h"
 #include "config/ribbon_attributes.h"
 
@@ -78,15 +79,10 @@ void ReadMenuBranch(varnhold::XmlCursor element, MenuFileVisitor& visitor, const
 bool LoadMenuFile(const std::wstring& fullPath, MenuFileVisitor& visitor, DiagnosticsSink& sink) {
     const FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
-    if (!document.Load(fullPath)) {
-        diagnostics.Fail({document.GetErrorLine(), document.GetErrorColumn()}, "unreadable-file",
-                         document.GetErrorReason());
+    if (!LoadDocument(fullPath, diagnostics, document)) {
         return false;
     }
     MenuElementReader reader(visitor, diagnostics);
-    varnhold::XmlCursor branch(document);
-    for (bool found = branch.ToFirstChild(); found; found = branch.ToNextSibling()) {
-        reader.ReadBranch(branch);
-    }
+    ForEachChild(varnhold::XmlCursor(document), [&](varnhold::XmlCursor& branch) { reader.ReadBranch(branch); });
     return true;
 }

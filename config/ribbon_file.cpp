@@ -2,6 +2,7 @@
 
 #include "config/depth_walker.h"
 #include "config/element_kind.h"
+#include "config/load_document.h"
 #include "config/ribbon_attributes.h"
 
 #include <varnhold/language.h>
@@ -143,9 +144,7 @@ RibbonRecords ReadRibbonElement(const CXmlNodeWrapper& element, const FileDiagno
 bool LoadRibbonFile(const std::wstring& fullPath, RibbonRecords& rows, DiagnosticsSink& sink) {
     const FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
-    if (!document.Load(fullPath)) {
-        diagnostics.Fail({document.GetErrorLine(), document.GetErrorColumn()}, "unreadable-file",
-                         document.GetErrorReason());
+    if (!LoadDocument(fullPath, diagnostics, document)) {
         return false;
     }
     rows = ReadRibbonRows(varnhold::XmlCursor(document), diagnostics);

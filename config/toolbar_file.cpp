@@ -1,5 +1,8 @@
 #include "config/toolbar_file.h"
 
+#include "config/depth_walker.h"
+#include "config/load_document.h"
+
 #include <varnhold/letter_case.h>
 #include <varnhold/strings.h>
 
@@ -53,14 +56,6 @@ void WarnAboutButton(varnhold::XmlCursor& element, const ToolBarInfo& info, cons
     }
 }
 
-/// Calls `read` at each child.
-template <class Read>
-void ForEachChild(varnhold::XmlCursor element, Read read) {
-    for (bool found = element.ToFirstChild(); found; found = element.ToNextSibling()) {
-        read(element);
-    }
-}
-
 void ReadGroup(varnhold::XmlCursor& group, ToolBarFileVisitor& visitor, const FileDiagnostics& diagnostics) {
     ToolBarInfo info;
     ReadToolBarInfo(group, info, diagnostics);
@@ -68,7 +63,7 @@ void ReadGroup(varnhold::XmlCursor& group, ToolBarFileVisitor& visitor, const Fi
     ForEachChild(group, [&](varnhold::XmlCursor& toolBar) {
         ReadToolBarInfo(toolBar, info, diagnostics);
         if (visitor.VisitToolBar(info)) {
-            ReadToolBarButtons(toolBar, visitor, diagnostics);
+            ReadToolBarButtons(toolBar, diagnostics, [&](const ToolBarInfo& button) { visitor.VisitButton(button); });
         }
     });
 }
@@ -96,21 +91,20 @@ void ReadToolBarInfo(varnhold::XmlCursor& element, ToolBarInfo& info, const File
     }
 }
 
-void ReadToolBarButtons(varnhold::XmlCursor toolBar, ToolBarFileVisitor& visitor, const FileDiagnostics& diagnostics) {
+void ReadToolBarButtons(const varnhold::XmlCursor& toolBar, const FileDiagnostics& diagnostics,
+                        const std::function<void(const ToolBarInfo&)>& take) {
     ToolBarInfo info;
     ForEachChild(toolBar, [&](varnhold::XmlCursor& button) {
         ReadToolBarInfo(button, info, diagnostics);
         WarnAboutButton(button, info, diagnostics);
-        visitor.VisitButton(info);
+        take(info);
     });
 }
 
 bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, DiagnosticsSink& sink) {
     const FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
-    if (!document.Load(fullPath)) {
-        diagnostics.Fail({document.GetErrorLine(), document.GetErrorColumn()}, "unreadable-file",
-                         document.GetErrorReason());
+    if (!LoadDocument(fullPath, diagnostics, document)) {
         return false;
     }
     ForEachChild(varnhold::XmlCursor(document),

@@ -3,6 +3,8 @@
 #include "config/diagnostics.h"
 #include "toolbar_info.h"
 
+#include <functional>
+
 /// What a button's TYPE makes. The words are compared without regard to letter case.
 enum class ToolBarItemKind { Unknown, Separator, Button, CheckCombo, MultiCombo, MultiCombo2 };
 
@@ -21,8 +23,9 @@ public:
 /// Reads an element's attributes in place of what the record holds.
 void ReadToolBarInfo(varnhold::XmlCursor& element, ToolBarInfo& info, const FileDiagnostics& diagnostics);
 
-/// The children of a toolbar element.
-void ReadToolBarButtons(varnhold::XmlCursor toolBar, ToolBarFileVisitor& visitor, const FileDiagnostics& diagnostics);
+/// Hands the children of a toolbar element to `take`. The record is good until the call returns.
+void ReadToolBarButtons(const varnhold::XmlCursor& toolBar, const FileDiagnostics& diagnostics,
+                        const std::function<void(const ToolBarInfo&)>& take);
 
 /// Reads a whole file. False when it cannot be loaded; nothing was visited then.
 bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, DiagnosticsSink& sink);
