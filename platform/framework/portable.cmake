@@ -8,6 +8,8 @@ endif()
 add_library(framework_portable OBJECT EXCLUDE_FROM_ALL
   ${letters}
   core/mnemonic.cpp
+  panes/dock_rows.cpp
+  panes/row_layout.cpp
   popups/row_letters.cpp
   popups/row_stack.cpp
   ribbon/bar_layout.cpp
