@@ -5,6 +5,7 @@
 #include "combos/window_combo_parts.h"
 #include "host_messages.h"
 
+#include <fx/dc_scope.h>
 #include <fx/window_dc.h>
 #include <fx/window_guard.h>
 
@@ -42,13 +43,10 @@ constexpr int leastLeft = 6;
 /// Height and leading of the combo's own font, from which drawing and clicks take the width of the check box.
 int MarkWidth(const CComboBox& combo) {
     CClientDC dc(const_cast<CComboBox*>(&combo));
-    CFont* const font = combo.GetFont();
-    CFont* const before = font ? dc.SelectObject(font) : nullptr;
+    const CFont* const font = combo.GetFont();
+    const fx::DcSelection selected(dc, font ? font->m_hObject : nullptr);
     TEXTMETRIC metrics{};
     dc.GetTextMetrics(&metrics);
-    if (before) {
-        dc.SelectObject(before);
-    }
     return static_cast<int>(metrics.tmHeight + metrics.tmExternalLeading);
 }
 

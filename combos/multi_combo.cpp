@@ -52,12 +52,8 @@ int FindColor(const Colors& colors, int index, COLORREF& color) {
     return 1;
 }
 
-item_bits::Data DataOf(const CComboBox& combo, int index) {
-    return static_cast<item_bits::Data>(combo.GetItemData(index));
-}
-
 LightState LightOf(const CComboBox& combo, int index) {
-    return item_bits::IsLightOn(DataOf(combo, index)) ? LightState::On : LightState::Off;
+    return item_bits::IsLightOn(window_combo::DataOf(combo, index)) ? LightState::On : LightState::Off;
 }
 
 int PaintSwatchAndLight(const CComboBox& combo, CDC& dc, const DRAWITEMSTRUCT& item, const marks::Rect& row) {
@@ -115,7 +111,7 @@ void CMultiCombo::OnLButtonDown(UINT flags, CPoint point) {
     const marks::SwatchRow place = marks::PlaceSwatchRow(window_combo::FaceRow(*this), window_combo::swatchSize);
     if (point.x >= place.light.left) {
         TellHost(host, WM_COMBO_LIGHT_CHANGED, window_combo::TextOf(*this, selected),
-                 item_bits::IsLightOn(DataOf(*this, selected)) ? 0 : 1);
+                 item_bits::IsLightOn(window_combo::DataOf(*this, selected)) ? 0 : 1);
         return;
     }
     COLORREF color = 0;
@@ -175,8 +171,8 @@ void CVesMultiCombo::OnLButtonDown(UINT flags, CPoint point) {
     if (selected < 0) {
         return;
     }
-    const bool isOn = !item_bits::IsLightOn(DataOf(*this, selected));
-    SetItemData(selected, item_bits::WithLight(DataOf(*this, selected), isOn));
+    const bool isOn = !item_bits::IsLightOn(window_combo::DataOf(*this, selected));
+    SetItemData(selected, item_bits::WithLight(window_combo::DataOf(*this, selected), isOn));
     Invalidate();
     TellHost(window_combo::HostOf(*this), WM_VESCOMBO_LIGHT_CHANGED, window_combo::TextOf(*this, selected),
              isOn ? 1 : 0);

@@ -1,6 +1,7 @@
 #include "toolbar_combos.h"
 
 #include "combos/item_bits.h"
+#include "combos/window_combo_parts.h"
 #include "window_combos.h"
 
 #include <memory>
@@ -44,17 +45,13 @@ int IndexOf(const CComboBox* combo, const wchar_t* text) {
 
 bool HasItem(const CComboBox* combo, int index) { return combo && index >= 0 && index < combo->GetCount(); }
 
-item_bits::Data DataOf(const CComboBox& combo, int index) {
-    return static_cast<item_bits::Data>(combo.GetItemData(index));
-}
-
 using BitsWith = item_bits::Data (*)(item_bits::Data, bool);
 
 void ChangeBits(CComboBox* combo, int index, BitsWith change, bool value, bool redraw) {
     if (!HasItem(combo, index)) {
         return;
     }
-    const item_bits::Data before = DataOf(*combo, index);
+    const item_bits::Data before = window_combo::DataOf(*combo, index);
     if (const item_bits::Data after = change(before, value); after != before) {
         combo->SetItemData(index, after);
     }
@@ -140,7 +137,7 @@ void CMFCMultiCombo::SetLightOn(const wchar_t* text, bool on, bool redraw) {
 
 bool CMFCMultiCombo::GetLightOn(int index) const {
     const auto* const combo = HostedIn<CMultiCombo>(*this);
-    return HasItem(combo, index) && item_bits::IsLightOn(DataOf(*combo, index));
+    return HasItem(combo, index) && item_bits::IsLightOn(window_combo::DataOf(*combo, index));
 }
 
 bool CMFCMultiCombo::GetLightOn(const wchar_t* text) const { return GetLightOn(IndexOf(GetComboBox(), text)); }
@@ -155,7 +152,7 @@ void CMFCMultiCombo::SetItemLock(const wchar_t* text, bool lock, bool redraw) {
 
 bool CMFCMultiCombo::GetItemLock(int index) const {
     const auto* const combo = HostedIn<CMultiCombo>(*this);
-    return HasItem(combo, index) && item_bits::IsLocked(DataOf(*combo, index));
+    return HasItem(combo, index) && item_bits::IsLocked(window_combo::DataOf(*combo, index));
 }
 
 bool CMFCMultiCombo::GetItemLock(const wchar_t* text) const { return GetItemLock(IndexOf(GetComboBox(), text)); }
@@ -190,7 +187,7 @@ void CMFCMultiCombo2::SetLightOn(const wchar_t* text, bool on, bool redraw) {
 
 bool CMFCMultiCombo2::GetLightOn(int index) const {
     const auto* const combo = HostedIn<CVesMultiCombo>(*this);
-    return HasItem(combo, index) && item_bits::IsLightOn(DataOf(*combo, index));
+    return HasItem(combo, index) && item_bits::IsLightOn(window_combo::DataOf(*combo, index));
 }
 
 bool CMFCMultiCombo2::GetLightOn(const wchar_t* text) const { return GetLightOn(IndexOf(GetComboBox(), text)); }

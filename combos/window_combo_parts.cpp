@@ -71,6 +71,10 @@ CString TextOf(const CComboBox& combo, int index) {
     return text;
 }
 
+item_bits::Data DataOf(const CComboBox& combo, int index) {
+    return static_cast<item_bits::Data>(combo.GetItemData(index));
+}
+
 HWND HostOf(const CComboBox& combo) {
     const CWnd* const owner = combo.GetSafeHwnd() ? combo.GetOwner() : nullptr;
     return owner ? owner->GetSafeHwnd() : nullptr;

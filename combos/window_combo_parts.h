@@ -1,5 +1,6 @@
 #pragma once
 
+#include "combos/item_bits.h"
 #include "combos/mark_geometry.h"
 
 #include <afxwin.h>
@@ -26,6 +27,9 @@ void DrawRow(const CComboBox& combo, const DRAWITEMSTRUCT& item, const marks::Re
 
 /// Empty for an index without an item.
 CString TextOf(const CComboBox& combo, int index);
+
+/// State bits of an existing item.
+item_bits::Data DataOf(const CComboBox& combo, int index);
 
 /// The window that gets the combo's messages: its owner, else its parent; null when there is none.
 HWND HostOf(const CComboBox& combo);

@@ -4,6 +4,7 @@
 #include "skins/scroll_images.h"
 
 #include <afxglobals.h>
+#include <tovasque/skin_files.h>
 #include <varnhold/file_op.h>
 #include <varnhold/message_box.h>
 #include <varnhold/strings_mfc.h>
@@ -33,16 +34,12 @@ std::wstring Joined(const std::wstring& directory, const CString& path) {
     return directory + (isOpen ? L"\\" : L"") + CString2wstring(path);
 }
 
-constexpr std::array<int, 3> kFilePercents = {200, 150, 125}; // the largest first
-
-/// The file for the display's scale: beside NAME.png, which is for 100 %, there may be a NAME.150.png.
+/// The largest file that is there and not beyond the display's scale.
 std::wstring FileForScale(const std::wstring& path) {
     const int percent = static_cast<int>(afxGlobalData.GetRibbonImageScale() * 100 + 0.5);
-    const std::size_t dot = path.rfind(L'.');
-    for (const int larger : kFilePercents) {
-        if (larger <= percent && dot != std::wstring::npos) {
-            const std::wstring file = path.substr(0, dot) + L'.' + std::to_wstring(larger) + path.substr(dot);
-            if (FileOp::FileExist(file)) {
+    for (const int larger : tovasque::kFilePercents) {
+        if (larger <= percent) {
+            if (const std::wstring file = tovasque::FileForPercent(path, larger); FileOp::FileExist(file)) {
                 return file;
             }
         }

@@ -1,7 +1,9 @@
 #include "skins/skin_picture.h"
 
+#include <fx/gdi_plus.h>
+#include <tovasque/skin_files.h>
+
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
@@ -12,16 +14,6 @@ namespace {
 
 /// More bytes than a picture of the longest side can need when it is packed at all.
 constexpr std::uintmax_t kLargestFile = 32U << 20;
-
-/// GDI+ stays started: it must not be shut down while the process unloads its DLLs.
-bool StartGdiPlus() {
-    static const bool isStarted = [] {
-        ULONG_PTR token = 0;
-        const Gdiplus::GdiplusStartupInput input;
-        return Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok;
-    }();
-    return isStarted;
-}
 
 std::vector<BYTE> ReadBytes(const std::wstring& path) {
     std::error_code error;
@@ -36,19 +28,9 @@ std::vector<BYTE> ReadBytes(const std::wstring& path) {
     return bytes;
 }
 
-UINT BigEndian(const BYTE* bytes) {
-    return static_cast<UINT>(bytes[0]) << 24 | bytes[1] << 16 | bytes[2] << 8 | bytes[3];
-}
-
-/// A PNG says its size in the first bytes; a decoder asked for that many pixels takes them before it finds none.
 bool ClaimsTooMuch(const std::vector<BYTE>& bytes) {
-    constexpr std::array<BYTE, 8> signature = {0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A};
-    constexpr std::size_t width = 16, height = 20, end = 24;
-    if (bytes.size() < end || !std::equal(signature.begin(), signature.end(), bytes.begin())) {
-        return false;
-    }
-    return BigEndian(&bytes[width]) > SkinPicture::kLongestSide ||
-           BigEndian(&bytes[height]) > SkinPicture::kLongestSide;
+    const std::optional<tovasque::PngSize> claimed = tovasque::ClaimedPngSize(bytes);
+    return claimed && std::max(claimed->width, claimed->height) > SkinPicture::kLongestSide;
 }
 
 /// A bitmap of its own with the pixels, ready to be blended, and the resolution of another.
@@ -79,7 +61,7 @@ std::unique_ptr<Gdiplus::Bitmap> CopyPixels(Gdiplus::Bitmap& source) {
 
 std::unique_ptr<Gdiplus::Bitmap> Decode(const std::wstring& path) {
     const std::vector<BYTE> bytes = ReadBytes(path);
-    if (bytes.empty() || ClaimsTooMuch(bytes) || !StartGdiPlus()) {
+    if (bytes.empty() || ClaimsTooMuch(bytes) || !fx::StartGdiPlus()) {
         return nullptr;
     }
     IStream* const stream = ::SHCreateMemStream(bytes.data(), static_cast<UINT>(bytes.size()));

@@ -1,24 +1,14 @@
 #include "visual/image_source.h"
 
+#include <fx/gdi_plus.h>
+
 #include <algorithm>
 #include <cstring>
-#include <gdiplus.h>
-#include <objidl.h>
 #include <shlwapi.h>
 
 namespace visual {
 
 namespace {
-
-/// GDI+ stays started: it must not be shut down while the process unloads its DLLs.
-bool StartGdiPlus() {
-    static const bool isStarted = [] {
-        ULONG_PTR token = 0;
-        const Gdiplus::GdiplusStartupInput input;
-        return Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok;
-    }();
-    return isStarted;
-}
 
 Picture Decode(Gdiplus::Bitmap& source) {
     const int width = static_cast<int>(source.GetWidth()), height = static_cast<int>(source.GetHeight());
@@ -142,7 +132,7 @@ Picture PictureFromFile(const wchar_t* path) {
         DeleteObject(bitmap);
         return picture;
     }
-    if (!StartGdiPlus()) {
+    if (!fx::StartGdiPlus()) {
         return {};
     }
     Gdiplus::Bitmap source(path);
@@ -150,7 +140,7 @@ Picture PictureFromFile(const wchar_t* path) {
 }
 
 Picture PictureFromResource(HINSTANCE module, const wchar_t* name) {
-    if (const HRSRC found = FindResourceW(module, name, L"PNG"); found != nullptr && StartGdiPlus()) {
+    if (const HRSRC found = FindResourceW(module, name, L"PNG"); found != nullptr && fx::StartGdiPlus()) {
         const HGLOBAL loaded = LoadResource(module, found);
         IStream* stream =
             SHCreateMemStream(static_cast<const BYTE*>(LockResource(loaded)), SizeofResource(module, found));

@@ -1,11 +1,10 @@
 #include "src/picture_file.h"
 
-#include <windows.h>
+#include "tovasque/skin_files.h"
 
-#include <algorithm>
-#include <array>
+#include <fx/gdi_plus.h>
+
 #include <cstring>
-#include <gdiplus.h>
 #include <memory>
 #include <shlwapi.h>
 
@@ -14,19 +13,8 @@ namespace tovasque {
 namespace {
 
 constexpr std::size_t kMostBytes = std::size_t(4) << 20; // far beyond any picture of the permitted size
-constexpr std::array<unsigned char, 8> kSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-constexpr std::size_t kWidthAt = 16, kHeightAt = 20, kHeaderEnd = 33;
+constexpr std::size_t kHeaderEnd = 33;
 constexpr std::size_t kEndChunk = 12; // length, name and checksum of the chunk that closes a file
-
-/// GDI+ stays started: it must not be shut down while the process unloads its DLLs.
-bool StartGdiPlus() {
-    static const bool isStarted = [] {
-        ULONG_PTR token = 0;
-        const Gdiplus::GdiplusStartupInput input;
-        return Gdiplus::GdiplusStartup(&token, &input, nullptr) == Gdiplus::Ok;
-    }();
-    return isStarted;
-}
 
 struct FileCloser {
     void operator()(HANDLE file) const { ::CloseHandle(file); }
@@ -66,11 +54,6 @@ std::vector<unsigned char> ReadBytes(const std::wstring& path) {
     return bytes;
 }
 
-std::uint32_t BigEndian(const std::vector<unsigned char>& bytes, std::size_t at) {
-    return std::uint32_t(bytes[at]) << 24 | std::uint32_t(bytes[at + 1]) << 16 | std::uint32_t(bytes[at + 2]) << 8 |
-           bytes[at + 3];
-}
-
 Pixels Decode(Gdiplus::Bitmap& source) {
     const int width = static_cast<int>(source.GetWidth()), height = static_cast<int>(source.GetHeight());
     Gdiplus::BitmapData data;
@@ -93,23 +76,24 @@ Pixels Decode(Gdiplus::Bitmap& source) {
 } // namespace
 
 bool ReadPngSize(const std::vector<unsigned char>& file, int& width, int& height) {
-    if (file.size() < kHeaderEnd + kEndChunk || !std::equal(kSignature.begin(), kSignature.end(), file.begin()) ||
+    const std::optional<PngSize> claimed = ClaimedPngSize(file);
+    if (!claimed || file.size() < kHeaderEnd + kEndChunk ||
         std::memcmp(file.data() + file.size() - kEndChunk + 4, "IEND", 4) != 0) {
         return false;
     }
-    const std::uint32_t across = BigEndian(file, kWidthAt), down = BigEndian(file, kHeightAt);
-    if (across == 0 || down == 0 || across > kMostPixelsASide || down > kMostPixelsASide) {
+    if (claimed->width == 0 || claimed->height == 0 || claimed->width > kMostPixelsASide ||
+        claimed->height > kMostPixelsASide) {
         return false;
     }
-    width = static_cast<int>(across);
-    height = static_cast<int>(down);
+    width = static_cast<int>(claimed->width);
+    height = static_cast<int>(claimed->height);
     return true;
 }
 
 Pixels ReadPngFile(const std::wstring& path) {
     const std::vector<unsigned char> bytes = ReadBytes(path);
     int width = 0, height = 0;
-    if (!ReadPngSize(bytes, width, height) || !StartGdiPlus()) {
+    if (!ReadPngSize(bytes, width, height) || !fx::StartGdiPlus()) {
         return {};
     }
     const std::unique_ptr<IStream, StreamReleaser> stream(
@@ -126,7 +110,7 @@ Pixels ReadIconShape(const std::wstring& path, int side, std::uint32_t color) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
     if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) ||
         (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 || data.nFileSizeHigh != 0 ||
-        data.nFileSizeLow > kMostBytes || !StartGdiPlus()) {
+        data.nFileSizeLow > kMostBytes || !fx::StartGdiPlus()) {
         return {};
     }
     const auto icon = static_cast<HICON>(::LoadImageW(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE));
@@ -156,7 +140,7 @@ Pixels ReadIconShape(const std::wstring& path, int side, std::uint32_t color) {
 }
 
 Pixels Scaled(const Pixels& picture, int width, int height) {
-    if (picture.IsEmpty() || width <= 0 || height <= 0 || !StartGdiPlus()) {
+    if (picture.IsEmpty() || width <= 0 || height <= 0 || !fx::StartGdiPlus()) {
         return {};
     }
     std::vector<std::uint32_t> bits = picture.bits; // GDI+ wants them writable

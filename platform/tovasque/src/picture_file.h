@@ -15,7 +15,7 @@ struct Pixels {
 };
 
 /// No skin picture is larger than this, width or height.
-constexpr int kMostPixelsASide = 1024;
+constexpr unsigned kMostPixelsASide = 1024;
 
 /// What a whole PNG file says its size is; false for any other bytes, for a file that is cut off and for pictures
 /// larger than kMostPixelsASide. Nothing is decoded.

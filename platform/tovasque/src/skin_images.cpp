@@ -1,6 +1,7 @@
 #include "src/skin_images.h"
 
 #include "src/skin_plates.h"
+#include "tovasque/skin_files.h"
 #include "varnhold/file_op.h"
 
 #include <algorithm>
@@ -99,21 +100,11 @@ constexpr bool ArePlatesInOrder() {
 }
 static_assert(ArePlatesInOrder(), "one row for each plate, in the order of their numbers");
 
-constexpr int kTwoRows = 40;                                  // pixels at 100 %: what is higher has more than one row
-constexpr std::array<int, 3> kFilePercents = {200, 150, 125}; // files beside the one for 100 %, the largest first
+constexpr int kTwoRows = 40; // pixels at 100 %: what is higher has more than one row
 
 std::uint32_t NextPlateName() {
     static std::atomic<std::uint32_t> last = 0;
     return ++last;
-}
-
-/// NAME.png for 100 %, NAME.150.png for 150 %.
-std::wstring FileFor(const std::wstring& path, int percent) {
-    const std::size_t dot = path.rfind(L'.');
-    if (percent == 100 || dot == std::wstring::npos) {
-        return path;
-    }
-    return path.substr(0, dot) + L'.' + std::to_wstring(percent) + path.substr(dot);
 }
 
 constexpr int kIconSide = 16; // of the drop-down arrow's icon at 100 %
@@ -197,7 +188,7 @@ SkinPictures::Loaded SkinPictures::Read(SkinImage image, int percent) const {
     const std::wstring path = directory + static_cast<LPCTSTR>(relative);
     const SkinImageUse& use = UseOf(image);
     const auto read = [&](int filePercent) {
-        Pixels pixels = ReadPngFile(FileFor(path, filePercent));
+        Pixels pixels = ReadPngFile(FileForPercent(path, filePercent));
         return pixels.height % use.frames == 0 ? pixels : Pixels{};
     };
     int filePercent = 100;
