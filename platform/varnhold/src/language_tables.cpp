@@ -3,6 +3,7 @@
 #include "src/file_system.h"
 #include "src/unicode.h"
 #include "src/xml_tree.h"
+#include "varnhold/language_files.h"
 #include "varnhold/letter_case.h"
 #include "varnhold/strings.h"
 
@@ -75,52 +76,71 @@ std::string ReadContent(const pugi::xml_node& content, bool preserve) {
 
 } // namespace
 
-/// Reads one file into the tables.
+/// Reads one file.
 class XliffReader {
 public:
-    XliffReader(LanguageTables& tables, const std::wstring& path, const LanguageTables::ProblemSink& sink)
-        : m_tables(tables), m_path(path), m_sink(sink) {}
+    XliffReader(const std::wstring& path, TranslationFileVisitor& visitor) : m_path(path), m_visitor(visitor) {}
 
     bool Read(const std::wstring& language);
 
 private:
+    void CheckLanguages(const pugi::xml_node& root, const std::wstring& language) const;
     void ReadFile(const pugi::xml_node& file, bool preserve);
-    void ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTables::Section& section);
-    void Report(const std::wstring& what, TextPosition position) const {
-        if (m_sink) {
-            m_sink(FormatProblem(m_path, position, what));
-        }
+    void ReadUnit(const pugi::xml_node& unit, bool preserve, const char* section);
+    void Report(TranslationProblem problem, const std::wstring& what, const pugi::xml_node& node) const {
+        m_visitor.VisitProblem(problem, m_tree->GetPosition(node), what);
     }
-    void Report(const std::wstring& what, const pugi::xml_node& node) const { Report(what, m_tree->GetPosition(node)); }
 
-    LanguageTables& m_tables;
     const std::wstring& m_path;
-    const LanguageTables::ProblemSink& m_sink;
+    TranslationFileVisitor& m_visitor;
     std::shared_ptr<const XmlTree> m_tree;
 };
+
+namespace {
+
+class NodePlace : public TextPlace {
+public:
+    NodePlace(const XmlTree& tree, const pugi::xml_node& node) : m_tree(tree), m_node(node) {}
+    TextPosition GetPosition() const override { return m_tree.GetPosition(m_node); }
+
+private:
+    const XmlTree& m_tree;
+    const pugi::xml_node& m_node;
+};
+
+TranslationProblem ProblemOf(XmlError error) {
+    switch (error) {
+    case XmlError::Empty:
+        return TranslationProblem::Empty;
+    case XmlError::Encoding:
+        return TranslationProblem::Encoding;
+    case XmlError::Syntax:
+        return TranslationProblem::Syntax;
+    default:
+        return TranslationProblem::Unreadable;
+    }
+}
+
+} // namespace
 
 bool XliffReader::Read(const std::wstring& language) {
     FileContent content = ReadWholeFile(ToNativePath(m_path), CXmlDocumentWrapper::kMaxSize);
     if (!content.read) {
-        Report(content.reason, TextPosition());
+        m_visitor.VisitProblem(TranslationProblem::Unreadable, TextPosition(), content.reason);
         return false;
     }
     XmlFailure failure;
     m_tree = XmlTree::Parse(std::move(content.bytes), BlankText::Keep, failure);
     if (!m_tree) {
-        Report(failure.reason, failure.position);
+        m_visitor.VisitProblem(ProblemOf(failure.error), failure.position, failure.reason);
         return false;
     }
     const pugi::xml_node root = m_tree->GetRoot();
     if (LocalName(root) != "xliff" || !std::string_view(root.attribute("version").value()).starts_with("2.")) {
-        Report(L"this is no XLIFF 2 file", root);
+        Report(TranslationProblem::NotXliff, L"this is no XLIFF 2 file", root);
         return false;
     }
-    const pugi::xml_attribute target = root.attribute("trgLang");
-    if (target && !varnhold::EqualsIgnoringCase(target.value(), wstring2String(language))) {
-        Report(L"trgLang is \"" + string2wstring(target.value()) + L"\", but the folder is \"" + language + L"\"",
-               root);
-    }
+    CheckLanguages(root, language);
     const bool preserve = PreservesBlanks(root, false);
     for (const pugi::xml_node& child : root) {
         if (LocalName(child) == "file") {
@@ -130,13 +150,24 @@ bool XliffReader::Read(const std::wstring& language) {
     return true;
 }
 
+void XliffReader::CheckLanguages(const pugi::xml_node& root, const std::wstring& language) const {
+    const std::string folder = wstring2String(language);
+    const pugi::xml_attribute target = root.attribute("trgLang");
+    if (target && !varnhold::EqualsIgnoringCase(target.value(), folder)) {
+        Report(TranslationProblem::OtherLanguage,
+               L"trgLang is \"" + string2wstring(target.value()) + L"\", but the folder is \"" + language + L"\"",
+               root);
+    }
+    const pugi::xml_attribute source = root.attribute("srcLang");
+    m_visitor.VisitSourceLanguage(source && !varnhold::EqualsIgnoringCase(source.value(), folder));
+}
+
 void XliffReader::ReadFile(const pugi::xml_node& file, bool preserve) {
     const char* id = file.attribute("id").value();
     if (!*id) {
-        Report(L"a file without an id belongs to no section; it is skipped", file);
+        Report(TranslationProblem::FileWithoutId, L"a file without an id belongs to no section; it is skipped", file);
         return;
     }
-    LanguageTables::Section& section = m_tables.m_sections[id];
     // Groups may nest: they say how an editor shows the units, not what the keys are.
     std::vector<std::pair<pugi::xml_node, bool>> open{{file.first_child(), preserve}};
     while (!open.empty()) {
@@ -151,18 +182,20 @@ void XliffReader::ReadFile(const pugi::xml_node& file, bool preserve) {
         if (name == "group") {
             open.emplace_back(node.first_child(), nodeBlanks);
         } else if (name == "unit") {
-            ReadUnit(node, nodeBlanks, section);
+            ReadUnit(node, nodeBlanks, id);
         }
     }
 }
 
-void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTables::Section& section) {
+void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, const char* section) {
     const pugi::xml_attribute name = unit.attribute("name");
-    const std::string key = *name.value() ? name.value() : unit.attribute("id").value();
-    if (key.empty()) {
-        Report(L"a unit has neither a name nor an id; it is skipped", unit);
+    TranslationUnit read;
+    read.key = *name.value() ? name.value() : unit.attribute("id").value();
+    if (read.key.empty()) {
+        Report(TranslationProblem::UnitWithoutKey, L"a unit has neither a name nor an id; it is skipped", unit);
         return;
     }
+    read.isTranslated = true;
     std::vector<std::pair<int, std::string>> parts; // by the place that the translation asks for
     for (const pugi::xml_node& part : unit) {
         const std::string_view kind = LocalName(part);
@@ -182,10 +215,12 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTa
                 place = text.attribute("order").as_int(place);
             }
         }
+        read.isTranslated = read.isTranslated && (!target.empty() || source.empty() || kind == "ignorable");
         parts.emplace_back(place, target.empty() ? source : target);
     }
     if (parts.empty()) {
-        Report(L"the unit \"" + string2wstring(key) + L"\" has no segment; it is skipped", unit);
+        Report(TranslationProblem::UnitWithoutSegment,
+               L"the unit \"" + string2wstring(read.key) + L"\" has no segment; it is skipped", unit);
         return;
     }
     std::stable_sort(parts.begin(), parts.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
@@ -193,13 +228,50 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, LanguageTa
     for (const auto& part : parts) {
         text += part.second;
     }
-    if (!section.insert_or_assign(key, string2wstring(text)).second) {
-        Report(L"the unit \"" + string2wstring(key) + L"\" was there before; the later one counts", unit);
-    }
+    read.text = string2wstring(text);
+    read.section = section;
+    m_visitor.VisitUnit(read, NodePlace(*m_tree, unit));
 }
 
+bool ReadTranslationFile(const std::wstring& path, const std::wstring& language, TranslationFileVisitor& visitor) {
+    return XliffReader(path, visitor).Read(language);
+}
+
+/// Puts the texts of a file into the tables and tells what is wrong as lines of text.
+class TableFiller : public TranslationFileVisitor {
+public:
+    TableFiller(LanguageTables& tables, const std::wstring& path, const LanguageTables::ProblemSink& sink)
+        : m_tables(tables), m_path(path), m_sink(sink) {}
+
+    void VisitUnit(const TranslationUnit& unit, const TextPlace& place) override {
+        auto section = m_tables.m_sections.find(unit.section);
+        if (section == m_tables.m_sections.end()) {
+            section = m_tables.m_sections.try_emplace(std::string(unit.section)).first;
+        }
+        if (!section->second.insert_or_assign(unit.key, unit.text).second) {
+            Report(place.GetPosition(),
+                   L"the unit \"" + string2wstring(unit.key) + L"\" was there before; the later one counts");
+        }
+    }
+    void VisitProblem(TranslationProblem /*problem*/, TextPosition position, const std::wstring& text) override {
+        Report(position, text);
+    }
+
+private:
+    void Report(TextPosition position, const std::wstring& what) const {
+        if (m_sink) {
+            m_sink(FormatProblem(m_path, position, what));
+        }
+    }
+
+    LanguageTables& m_tables;
+    const std::wstring& m_path;
+    const LanguageTables::ProblemSink& m_sink;
+};
+
 bool LanguageTables::AddFile(const std::wstring& path, const std::wstring& language, const ProblemSink& sink) {
-    return XliffReader(*this, path, sink).Read(language);
+    TableFiller filler(*this, path, sink);
+    return ReadTranslationFile(path, language, filler);
 }
 
 const std::wstring* LanguageTables::Find(std::string_view section, std::string_view key) const {

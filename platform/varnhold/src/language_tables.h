@@ -29,7 +29,7 @@ private:
     };
     typedef std::unordered_map<std::string, std::wstring, Hash, std::equal_to<>> Section;
 
-    friend class XliffReader;
+    friend class TableFiller;
     std::unordered_map<std::string, Section, Hash, std::equal_to<>> m_sections;
 };
 

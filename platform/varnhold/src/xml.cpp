@@ -1,5 +1,6 @@
 #include "varnhold/xml.h"
 
+#include "src/encoding.h"
 #include "src/file_system.h"
 #include "src/xml_tree.h"
 #include "varnhold/strings.h"
@@ -101,24 +102,38 @@ CXmlNodeWrapper CXmlDocumentWrapper::GetDocumentElement() const {
     return {m_tree, 0};
 }
 
+std::vector<varnhold::XmlOddity> CXmlDocumentWrapper::FindOddities() const {
+    return m_tree ? m_tree->FindOddities() : std::vector<varnhold::XmlOddity>();
+}
+
+bool varnhold::ReadXmlText(const std::wstring& path, std::string& text) {
+    FileContent content = ReadWholeFile(ToNativePath(path), CXmlDocumentWrapper::kMaxSize);
+    std::wstring reason;
+    return content.read && DecodeXml(std::move(content.bytes), text, reason);
+}
+
 bool CXmlDocumentWrapper::Take(const std::wstring& name, std::string bytes) {
     varnhold::XmlFailure failure;
     std::shared_ptr<const XmlTree> tree = XmlTree::Parse(std::move(bytes), varnhold::BlankText::Drop, failure);
     if (!tree) {
-        return Fail(name, failure.reason, failure.position);
+        return Fail(name, failure.error, failure.reason, failure.position);
     }
     m_tree = std::move(tree);
     m_errorText.clear();
     m_errorReason.clear();
     m_errorPosition = {};
+    m_error = varnhold::XmlError::None;
     return true;
 }
 
 bool CXmlDocumentWrapper::Take(const std::wstring& name, varnhold::FileContent content) {
-    return content.read ? Take(name, std::move(content.bytes)) : Fail(name, content.reason, {});
+    return content.read ? Take(name, std::move(content.bytes))
+                        : Fail(name, varnhold::XmlError::Unreadable, content.reason, {});
 }
 
-bool CXmlDocumentWrapper::Fail(const std::wstring& name, const std::wstring& reason, TextPosition position) {
+bool CXmlDocumentWrapper::Fail(const std::wstring& name, varnhold::XmlError error, const std::wstring& reason,
+                               TextPosition position) {
+    m_error = error;
     m_errorText = varnhold::FormatProblem(name, position, reason);
     m_errorReason = reason;
     m_errorPosition = position;

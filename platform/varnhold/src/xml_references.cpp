@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::string_view kReferenceStart = "&#";
+constexpr std::string_view kPredefined[] = {"&amp;", "&lt;", "&gt;", "&quot;", "&apos;"};
 constexpr std::string_view kDocumentTypeStart = "<!DOCTYPE";
 
 /// The digit's value; `base` or more for anything else.
@@ -45,6 +46,22 @@ std::size_t FindCandidate(std::string_view text, std::size_t from) {
         at = text.find(kReferenceStart, at + 1);
     }
     return at;
+}
+
+/// Whether a predefined entity or a whole character reference begins at `at`.
+bool IsKnownReference(std::string_view text, std::size_t at) {
+    const std::string_view rest = text.substr(at);
+    if (!rest.starts_with(kReferenceStart)) {
+        return std::any_of(std::begin(kPredefined), std::end(kPredefined),
+                           [rest](std::string_view entity) { return rest.starts_with(entity); });
+    }
+    const bool isHexadecimal = rest.substr(kReferenceStart.size()).starts_with('x');
+    const std::size_t digits = kReferenceStart.size() + (isHexadecimal ? 1 : 0);
+    std::size_t end = digits;
+    while (end < rest.size() && ToDigit(rest[end]) < (isHexadecimal ? 16u : 10u)) {
+        ++end;
+    }
+    return end > digits && end < rest.size() && rest[end] == ';';
 }
 
 /// Behind the next `end`; the text's length when there is none.
@@ -101,6 +118,25 @@ std::size_t SkipUnreplaced(std::string_view text, std::size_t at) {
 }
 
 } // namespace
+
+std::vector<std::size_t> FindUnknownReferences(std::string_view document) {
+    std::vector<std::size_t> found;
+    std::size_t candidate = document.find('&');
+    for (std::size_t at = 0; candidate != kNone;) {
+        if (const std::size_t behind = SkipUnreplaced(document, at); behind != at) {
+            at = behind;
+            candidate = candidate < at ? document.find('&', at) : candidate;
+            continue;
+        }
+        at = document[at] == '<' ? SkipMarkup(document, at) : std::min(document.find('<', at), document.size());
+        for (; candidate < at; candidate = document.find('&', candidate + 1)) {
+            if (!IsKnownReference(document, candidate)) {
+                found.push_back(candidate);
+            }
+        }
+    }
+    return found;
+}
 
 std::size_t FindReferenceToNoCharacter(std::string_view document) {
     // Nearly no document has one, and then nothing else is looked at.

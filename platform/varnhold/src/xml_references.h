@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace varnhold {
 
@@ -9,5 +10,9 @@ namespace varnhold {
 /// character: 0, a surrogate or a value above 10FFFF. npos when there is none. The document is UTF-8 and well-formed;
 /// what looks like a reference in a comment, a CDATA section, a processing instruction or the document type is none.
 std::size_t FindReferenceToNoCharacter(std::string_view document);
+
+/// Where the "&" stand that begin neither one of the five predefined entities nor a character reference, in the same
+/// places of the same kind of document.
+std::vector<std::size_t> FindUnknownReferences(std::string_view document);
 
 } // namespace varnhold

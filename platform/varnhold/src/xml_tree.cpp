@@ -66,14 +66,17 @@ bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 std::shared_ptr<const XmlTree> XmlTree::Parse(std::string bytes, BlankText blanks, XmlFailure& failure) {
     std::shared_ptr<XmlTree> tree(new XmlTree);
     if (bytes.empty()) {
-        failure = {L"the document is empty", {}};
+        failure = {XmlError::Empty, L"the document is empty", {}};
         return nullptr;
     }
     if (bytes.size() > CXmlDocumentWrapper::kMaxSize) {
-        failure = {L"the document is longer than " + std::to_wstring(CXmlDocumentWrapper::kMaxSize) + L" bytes", {}};
+        failure = {XmlError::Unreadable,
+                   L"the document is longer than " + std::to_wstring(CXmlDocumentWrapper::kMaxSize) + L" bytes",
+                   {}};
         return nullptr;
     }
     if (!DecodeXml(std::move(bytes), tree->m_text, failure.reason)) {
+        failure.error = XmlError::Encoding;
         failure.position = {1, 1};
         return nullptr;
     }
@@ -86,21 +89,22 @@ std::shared_ptr<const XmlTree> XmlTree::Parse(std::string bytes, BlankText blank
 bool XmlTree::ParseText(BlankText blanks, XmlFailure& failure) {
     const std::size_t nul = FindNul(m_text);
     if (nul != m_text.size()) {
-        failure = {L"there is a NUL character", GetPosition(nul)};
+        failure = {XmlError::Syntax, L"there is a NUL character", GetPosition(nul)};
         return false;
     }
     m_buffer = std::make_unique_for_overwrite<char[]>(m_text.size() + 1 + kPadding);
     std::memcpy(m_buffer.get(), m_text.data(), m_text.size());
     std::memset(m_buffer.get() + m_text.size(), 0, 1 + kPadding);
     // As a fragment, so that texts beside the document element are seen (and refused) instead of skipped.
-    unsigned options = pugi::parse_default | pugi::parse_fragment;
+    unsigned options = pugi::parse_default | pugi::parse_fragment | pugi::parse_doctype;
     if (blanks == BlankText::Keep) {
         options |= pugi::parse_ws_pcdata;
     }
     const pugi::xml_parse_result result =
         m_document.load_buffer_inplace(m_buffer.get(), m_text.size() + 1, options, pugi::encoding_utf8);
     if (!result) {
-        failure = {DescribeStatus(result.status), GetPosition(static_cast<std::size_t>(result.offset))};
+        failure = {XmlError::Syntax, DescribeStatus(result.status),
+                   GetPosition(static_cast<std::size_t>(result.offset))};
         return false;
     }
     return CheckTopLevel(failure) && CheckDepth(failure) && CheckReferences(failure);
@@ -110,7 +114,7 @@ bool XmlTree::CheckTopLevel(XmlFailure& failure) {
     for (const pugi::xml_node& node : m_document) {
         if (IsText(node)) {
             const std::size_t offset = static_cast<std::size_t>(node.value() - m_buffer.get());
-            failure = {L"there is text outside the document element",
+            failure = {XmlError::Syntax, L"there is text outside the document element",
                        GetPosition(m_text.find_first_not_of(" \t\r\n", std::min(offset, m_text.size())))};
             return false;
         }
@@ -118,13 +122,13 @@ bool XmlTree::CheckTopLevel(XmlFailure& failure) {
             continue;
         }
         if (m_root) {
-            failure = {L"there is a second document element", GetPosition(node)};
+            failure = {XmlError::Syntax, L"there is a second document element", GetPosition(node)};
             return false;
         }
         m_root = node;
     }
     if (!m_root) {
-        failure = {L"there is no document element", GetPosition(m_text.size())};
+        failure = {XmlError::Empty, L"there is no document element", GetPosition(m_text.size())};
     }
     return !m_root.empty();
 }
@@ -137,7 +141,8 @@ bool XmlTree::CheckDepth(XmlFailure& failure) const {
     pugi::xml_node node = m_root;
     while (true) {
         if (node.type() == pugi::node_element && depth > CXmlDocumentWrapper::kMaxDepth) {
-            failure = {L"elements are nested deeper than " + std::to_wstring(CXmlDocumentWrapper::kMaxDepth),
+            failure = {XmlError::Syntax,
+                       L"elements are nested deeper than " + std::to_wstring(CXmlDocumentWrapper::kMaxDepth),
                        GetPosition(node)};
             return false;
         }
@@ -162,8 +167,51 @@ bool XmlTree::CheckReferences(XmlFailure& failure) const {
     if (reference == std::string_view::npos) {
         return true;
     }
-    failure = {L"a character reference stands for no character", GetPosition(reference)};
+    failure = {XmlError::Syntax, L"a character reference stands for no character", GetPosition(reference)};
     return false;
+}
+
+std::vector<XmlOddity> XmlTree::FindOddities() const {
+    constexpr std::string_view documentType = "<!DOCTYPE";
+    constexpr std::string_view broken = "\xEF\xBF\xBD";
+    std::vector<XmlOddity> oddities;
+    for (const pugi::xml_node& node : m_document) {
+        if (node.type() == pugi::node_doctype) {
+            const auto behind = static_cast<std::size_t>(node.value() - m_buffer.get());
+            oddities.push_back({XmlOddityKind::DocumentType, GetPosition(m_text.rfind(documentType, behind))});
+        }
+    }
+    if (const std::size_t at = m_text.find(broken); at != std::string::npos) {
+        oddities.push_back({XmlOddityKind::BrokenCharacter, GetPosition(at)});
+    }
+    AddLooseTexts(oddities);
+    for (const std::size_t at : FindUnknownReferences(m_text)) {
+        oddities.push_back({XmlOddityKind::UnknownReference, GetPosition(at)});
+    }
+    return oddities;
+}
+
+void XmlTree::AddLooseTexts(std::vector<XmlOddity>& oddities) const {
+    pugi::xml_node node = m_root;
+    while (true) {
+        if (IsText(node)) {
+            // Blanks before the text were kept with it.
+            const auto offset = static_cast<std::size_t>(node.value() - m_buffer.get());
+            const std::size_t start = m_text.find_first_not_of(" \t\r\n", offset);
+            oddities.push_back({XmlOddityKind::LooseText, GetPosition(start)});
+        }
+        if (const pugi::xml_node child = node.first_child()) {
+            node = child;
+            continue;
+        }
+        while (node != m_root && !node.next_sibling()) {
+            node = node.parent();
+        }
+        if (node == m_root) {
+            return;
+        }
+        node = node.next_sibling();
+    }
 }
 
 void XmlTree::LayOut() const {

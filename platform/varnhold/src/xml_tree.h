@@ -17,6 +17,7 @@ namespace varnhold {
 enum class BlankText { Drop, Keep };
 
 struct XmlFailure {
+    XmlError error = XmlError::None;
     std::wstring reason;
     TextPosition position;
 };
@@ -49,6 +50,9 @@ public:
 
     pugi::xml_node GetRoot() const { return m_root; }
 
+    /// See CXmlDocumentWrapper.
+    std::vector<XmlOddity> FindOddities() const;
+
     /// The length of a name or a value that the parser left in this document.
     std::size_t LengthOf(const char* text) const;
     /// The same for a name before its value, or for a value before the next name: `next`; both in the buffer. Between
@@ -80,6 +84,7 @@ private:
     void LayOutElements() const;
     void IndexLines() const;
     TextPosition GetPosition(std::size_t offset) const;
+    void AddLooseTexts(std::vector<XmlOddity>& oddities) const;
     std::size_t CountCharacters(std::size_t end) const;
 
     std::string m_text; // UTF-8, as it stands in the file

@@ -25,6 +25,21 @@ struct TextPosition {
     std::size_t column = 0;
 };
 
+/// Why a document was refused.
+enum class XmlError { None, Unreadable, Empty, Encoding, Syntax };
+
+/// Something in a document that was read which the reader passed over without an error.
+enum class XmlOddityKind {
+    DocumentType,     ///< is skipped, with the entities that it declares
+    BrokenCharacter,  ///< bytes that the encoding does not have; each became U+FFFD
+    LooseText,        ///< text between tags, which is no attribute
+    UnknownReference, ///< a "&" that begins neither a predefined entity nor a character reference; it stays as it is
+};
+struct XmlOddity {
+    XmlOddityKind kind = XmlOddityKind::LooseText;
+    TextPosition position;
+};
+
 /// Name and value of an attribute, UTF-8.
 struct XmlAttributeView {
     std::string_view name;
@@ -118,10 +133,16 @@ public:
     const std::wstring& GetErrorReason() const noexcept { return m_errorReason; }
     std::size_t GetErrorLine() const noexcept { return m_errorPosition.line; }
     std::size_t GetErrorColumn() const noexcept { return m_errorPosition.column; }
+    varnhold::XmlError GetError() const noexcept { return m_error; }
+
+    /// What the document holds beside elements and attributes that its writer may have meant otherwise, kind by kind;
+    /// of broken characters the first alone. Takes time in proportion to the document.
+    std::vector<varnhold::XmlOddity> FindOddities() const;
 
 private:
     friend class varnhold::XmlCursor;
-    bool Fail(const std::wstring& name, const std::wstring& reason, varnhold::TextPosition position);
+    bool Fail(const std::wstring& name, varnhold::XmlError error, const std::wstring& reason,
+              varnhold::TextPosition position);
     bool Take(const std::wstring& name, std::string bytes);
     bool Take(const std::wstring& name, varnhold::FileContent content);
 
@@ -129,9 +150,14 @@ private:
     std::wstring m_errorText;
     std::wstring m_errorReason;
     varnhold::TextPosition m_errorPosition;
+    varnhold::XmlError m_error = varnhold::XmlError::None;
 };
 
 namespace varnhold {
+
+/// The text of a file as a document is read from it: UTF-8, whatever its encoding, without a byte order mark. False,
+/// with `text` untouched, when the file cannot be read or its encoding is not known.
+VARNHOLD_API bool ReadXmlText(const std::wstring& path, std::string& text);
 
 /// A place among the elements of a document that moves from one to the next: the fastest way to read a document from
 /// its first element to its last. It keeps the document alive. A cursor over nothing (of a null node, or of a document

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "varnhold/xml.h"
+
+#include <string>
+#include <string_view>
+
+namespace varnhold {
+
+/// One text of a translation table, as CMultiLanguageMgr takes it.
+struct TranslationUnit {
+    std::string_view section;
+    std::string key;
+    std::wstring text;
+    /// Whether every segment that has a source has a target, too.
+    bool isTranslated = false;
+};
+
+/// Says where something stands that was read just now; working it out takes time.
+class TextPlace {
+public:
+    virtual ~TextPlace() = default;
+    virtual TextPosition GetPosition() const = 0;
+};
+
+/// What is wrong with a table. The first four keep the whole file from being read.
+enum class TranslationProblem {
+    Unreadable,
+    Empty,
+    Encoding,
+    Syntax,
+    NotXliff,
+    OtherLanguage, ///< the file says that it is of another language than its folder; it is read all the same
+    FileWithoutId,
+    UnitWithoutKey,
+    UnitWithoutSegment,
+};
+
+/// Takes what stands in a table, in document order. Good until the call returns.
+class TranslationFileVisitor {
+public:
+    virtual ~TranslationFileVisitor() = default;
+    virtual void VisitUnit(const TranslationUnit& unit, const TextPlace& place) = 0;
+    virtual void VisitProblem(TranslationProblem problem, TextPosition position, const std::wstring& text) = 0;
+    /// Whether the table names a source language, and it is another one than the folder's.
+    virtual void VisitSourceLanguage(bool /*isForeign*/) {}
+};
+
+/// Reads one XLIFF 2 file of a language (its folder's name). False when it cannot be read or is no such file.
+VARNHOLD_API bool ReadTranslationFile(const std::wstring& path, const std::wstring& language,
+                                      TranslationFileVisitor& visitor);
+
+} // namespace varnhold
