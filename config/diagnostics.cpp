@@ -1,5 +1,7 @@
 #include "config/diagnostics.h"
 
+#include "config/diagnostic_codes.h"
+
 namespace {
 
 class DroppingSink : public DiagnosticsSink {
@@ -17,14 +19,9 @@ DiagnosticsSink& DroppedDiagnostics() {
 
 FileDiagnostics Unreported() { return FileDiagnostics({}, DroppedDiagnostics()); }
 
-void FileDiagnostics::Warn(varnhold::TextPosition position, std::string_view code, std::wstring text) const {
+void FileDiagnostics::Report(std::string_view code, varnhold::TextPosition position, std::wstring text,
+                             std::wstring fix, std::vector<RelatedPlace> related) const {
     if (IsListening()) {
-        m_sink.Report({m_file, position, DiagnosticSeverity::Warning, code, std::move(text)});
-    }
-}
-
-void FileDiagnostics::Fail(varnhold::TextPosition position, std::string_view code, std::wstring text) const {
-    if (IsListening()) {
-        m_sink.Report({m_file, position, DiagnosticSeverity::Error, code, std::move(text)});
+        m_sink.Report({m_file, position, SeverityOf(code), code, std::move(text), std::move(fix), std::move(related)});
     }
 }

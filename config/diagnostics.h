@@ -4,17 +4,30 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
-enum class DiagnosticSeverity { Warning, Error };
+struct MetElement;
 
-/// Something in a configuration file that a reader skipped or that has no effect.
+enum class DiagnosticSeverity { Note, Warning, Error };
+
+/// Another place that has to do with a problem.
+struct RelatedPlace {
+    std::wstring file;
+    varnhold::TextPosition position;
+    std::wstring text;
+};
+
+/// Something in a configuration file that a reader skipped, that has no effect or another one than it seems to have.
 struct Diagnostic {
     std::wstring file;
     varnhold::TextPosition position;
     DiagnosticSeverity severity = DiagnosticSeverity::Warning;
-    /// Stands for the kind of problem, in words joined by hyphens; does not change between versions.
+    /// One of DiagnosticCodes(): stands for the kind of problem and does not change between versions.
     std::string_view code;
     std::wstring text;
+    /// How to mend it, in plain words; may be empty.
+    std::wstring fix;
+    std::vector<RelatedPlace> related;
 };
 
 /// Takes what the readers report.
@@ -24,6 +37,8 @@ public:
     /// False: Report would drop everything, so readers need not look for problems.
     virtual bool IsListening() const noexcept { return true; }
     virtual void Report(const Diagnostic& diagnostic) = 0;
+    /// An element of a file, after what is wrong with it by itself was reported. Good until the call returns.
+    virtual void Meet(const std::wstring& /*file*/, const MetElement& /*element*/) {}
 };
 
 /// The library's own sink: it drops everything.
@@ -32,15 +47,20 @@ DiagnosticsSink& DroppedDiagnostics();
 /// A sink together with the file that is being read.
 class FileDiagnostics {
 public:
-    FileDiagnostics(std::wstring file, DiagnosticsSink& sink) : m_file(std::move(file)), m_sink(sink) {}
+    FileDiagnostics(std::wstring file, DiagnosticsSink& sink)
+        : m_file(std::move(file)), m_sink(sink), m_isListening(sink.IsListening()) {}
 
-    bool IsListening() const noexcept { return m_sink.IsListening(); }
-    void Warn(varnhold::TextPosition position, std::string_view code, std::wstring text) const;
-    void Fail(varnhold::TextPosition position, std::string_view code, std::wstring text) const;
+    bool IsListening() const noexcept { return m_isListening; }
+    const std::wstring& File() const noexcept { return m_file; }
+    /// The severity is the code's own.
+    void Report(std::string_view code, varnhold::TextPosition position, std::wstring text, std::wstring fix = {},
+                std::vector<RelatedPlace> related = {}) const;
+    void Meet(const MetElement& element) const { m_sink.Meet(m_file, element); }
 
 private:
     std::wstring m_file;
     DiagnosticsSink& m_sink;
+    bool m_isListening;
 };
 
 /// For the library's reading of a single element: whatever is wrong with it is not reported.

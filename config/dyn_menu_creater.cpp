@@ -2,6 +2,7 @@
 
 #include "config/accelerators.h"
 #include "config/menu_attributes.h"
+#include "config/menu_diagnosis.h"
 #include "config/menu_file.h"
 #include "config/menu_handles.h"
 #include "config/menu_icon.h"
@@ -21,9 +22,6 @@ static_assert(ShortcutVirtualKey == FVIRTKEY && ShortcutShift == FSHIFT && Short
 static_assert(sizeof(ACCEL) == 6);
 
 namespace {
-
-/// The item with this keyword stands for the list of recent files.
-constexpr std::wstring_view kRecentFilesKeyword = L"QK_DEF_ZJWJ";
 
 /// The caller owns the array.
 ACCEL* NewAccelerators(std::size_t count) {

@@ -165,7 +165,7 @@ bool CDynToolBarCreater::Load(std::wstring path, CWnd* parent) {
 
 void CDynToolBarCreater::ReadBarInfo(const CXmlNodeWrapper& node, ToolBarInfo& info) {
     varnhold::XmlCursor element(node);
-    ReadToolBarInfo(element, info, Unreported());
+    ReadToolBarInfo(element, info);
 }
 
 void CDynToolBarCreater::AddChildBar(const CXmlNodeWrapper& node, CMFCToolBar* bar) {
@@ -173,7 +173,7 @@ void CDynToolBarCreater::AddChildBar(const CXmlNodeWrapper& node, CMFCToolBar* b
     if (!bar || !FileOp::GetAppPath(directory)) {
         return;
     }
-    ReadToolBarButtons(varnhold::XmlCursor(node), Unreported(), [&](const ToolBarInfo& info) { AddItem(*bar, info); });
+    ReadToolBarButtons(varnhold::XmlCursor(node), [&](const ToolBarInfo& info) { AddItem(*bar, info); });
 }
 
 CMFCToolBar* CDynToolBarCreater::GetToolBar(const std::wstring& group, const CString& title) const {

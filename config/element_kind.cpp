@@ -30,3 +30,11 @@ ElementKind KindOfElement(std::wstring_view type) noexcept {
     }
     return ElementKind::Unknown;
 }
+
+std::vector<std::wstring> ElementTypes() {
+    std::vector<std::wstring> types;
+    for (const KindName& name : kindNames) {
+        types.emplace_back(name.type);
+    }
+    return types;
+}

@@ -1,10 +1,78 @@
 #include "config/load_document.h"
 
-bool LoadDocument(const std::wstring& fullPath, const FileDiagnostics& diagnostics, CXmlDocumentWrapper& document) {
-    if (document.Load(fullPath)) {
-        return true;
+#include "config/suggestion.h"
+
+#include <varnhold/file_op.h>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+using varnhold::TextPosition;
+using varnhold::XmlError;
+using varnhold::XmlOddity;
+using varnhold::XmlOddityKind;
+
+std::string_view CodeOf(XmlError error, const std::wstring& fullPath) {
+    switch (error) {
+    case XmlError::Empty:
+        return "empty-file";
+    case XmlError::Encoding:
+        return "xml-encoding";
+    case XmlError::Syntax:
+        return "xml-syntax";
+    default:
+        return FileOp::FileExist(fullPath) ? "unreadable-file" : "missing-file";
     }
-    diagnostics.Fail({document.GetErrorLine(), document.GetErrorColumn()}, "unreadable-file",
-                     document.GetErrorReason());
-    return false;
+}
+
+struct OddityText {
+    XmlOddityKind kind;
+    std::string_view code;
+    const wchar_t* text;
+    const wchar_t* fix;
+};
+constexpr OddityText kOddities[] = {
+    {XmlOddityKind::DocumentType, "xml-doctype", L"the document type definition is skipped, with its entities",
+     L"remove it"},
+    {XmlOddityKind::BrokenCharacter, "xml-encoding",
+     L"from here on there are bytes that the file's encoding does not have",
+     L"save the file in the encoding that its first line names, best UTF-8"},
+    {XmlOddityKind::LooseText, "stray-text", L"this text belongs to no element and is skipped",
+     L"is a \"<\" missing? otherwise make it a comment"},
+    {XmlOddityKind::UnknownReference, "xml-reference", L"\"&\" begins no reference that is known; it stays as it is",
+     L"write &amp; for the sign itself"},
+};
+
+void ReportOddities(const CXmlDocumentWrapper& document, const FileDiagnostics& diagnostics) {
+    for (const XmlOddity& oddity : document.FindOddities()) {
+        const auto* const found = std::ranges::find(kOddities, oddity.kind, &OddityText::kind);
+        diagnostics.Report(found->code, oddity.position, found->text, found->fix);
+    }
+    const varnhold::XmlCursor root(document);
+    if (!root.HasChildren()) {
+        diagnostics.Report("empty-file", root.GetPosition(),
+                           L"there is no element in the document element; nothing is built");
+    }
+}
+
+/// Where no place is known it is the beginning of the file.
+TextPosition PlaceOf(const CXmlDocumentWrapper& document) {
+    return {std::max<std::size_t>(1, document.GetErrorLine()), std::max<std::size_t>(1, document.GetErrorColumn())};
+}
+
+} // namespace
+
+bool LoadDocument(const std::wstring& fullPath, const FileDiagnostics& diagnostics, CXmlDocumentWrapper& document) {
+    const bool isLoaded = document.Load(fullPath);
+    if (!diagnostics.IsListening()) {
+        return isLoaded;
+    }
+    if (isLoaded) {
+        ReportOddities(document, diagnostics);
+    } else {
+        diagnostics.Report(CodeOf(document.GetError(), fullPath), PlaceOf(document), document.GetErrorReason());
+    }
+    return isLoaded;
 }

@@ -2,6 +2,6 @@
 
 #include "config/diagnostics.h"
 
-/// Loads the file that the diagnostics name. False, reported as "unreadable-file", when it cannot be read or is
-/// refused.
+/// Loads the file that the diagnostics name and reports what is odd in it beside its elements. False, reported too,
+/// when it cannot be read or is refused.
 bool LoadDocument(const std::wstring& fullPath, const FileDiagnostics& diagnostics, CXmlDocumentWrapper& document);

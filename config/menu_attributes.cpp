@@ -1,12 +1,13 @@
 #include "config/menu_attributes.h"
 
-#include "config/shortcut_text.h"
+#include "config/shortcut_fault.h"
 #include "varnhold/letter_case.h"
 
 #include <varnhold/language.h>
 #include <varnhold/strings.h>
 
-#include <stdexcept>
+#include <array>
+#include <iterator>
 
 namespace {
 
@@ -22,10 +23,8 @@ struct Attribute {
     std::string_view keyword;
 
     std::string_view Value() const { return written->value; }
-    void Warn(std::string_view code, std::wstring text) const {
-        if (diagnostics.IsListening()) {
-            diagnostics.Warn(element.GetAttributePosition(*written), code, std::move(text));
-        }
+    void Report(std::string_view code, const std::wstring& text, const std::wstring& fix) const {
+        diagnostics.Report(code, element.GetAttributePosition(*written), text, fix);
     }
 };
 
@@ -45,9 +44,6 @@ bool TakeKeyword(Attribute& attribute) {
 
 template <std::wstring MenuInfo::*field, int number>
 bool TakeTranslation(Attribute& attribute) {
-    if (attribute.keyword.empty()) {
-        attribute.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
-    }
     attribute.translations.Translate(attribute.keyword, number, attribute.info.*field);
     return true;
 }
@@ -63,13 +59,8 @@ bool TakeMenuName(Attribute& attribute) {
 bool TakeHotKey(Attribute& attribute) {
     TakeText<&MenuInfo::strHotKey>(attribute);
     if (attribute.diagnostics.IsListening() && !attribute.Value().empty()) {
-        try {
-            if (ReadShortcutText(attribute.info.strHotKey).character == 0) {
-                attribute.Warn("shortcut-without-key", L"the shortcut names no key and is left out");
-            }
-        } catch (const std::out_of_range&) {
-            attribute.Warn("shortcut-without-key",
-                           L"nothing stands where the shortcut's key belongs; loading ends here");
+        if (const ShortcutFault fault = FindShortcutFault(attribute.info.strHotKey); !fault.text.empty()) {
+            attribute.Report("shortcut-syntax", fault.text, fault.fix);
         }
     }
     return true;
@@ -77,18 +68,19 @@ bool TakeHotKey(Attribute& attribute) {
 
 struct KnownAttribute {
     std::string_view name;
+    AttributeUse use;
     Taker take;
 };
 
 constexpr KnownAttribute kAttributes[] = {
-    {"KEYWORD", TakeKeyword},
-    {"MENUNAME", TakeMenuName},
-    {"SHORTKEY", TakeText<&MenuInfo::strShortKey>},
-    {"HOTKEY", TakeHotKey},
-    {"TOOLTIP", TakeTranslation<&MenuInfo::strToolTip, 0>},
-    {"CMD", TakeText<&MenuInfo::strCmd>},
-    {"Param", TakeText<&MenuInfo::strParam>},
-    {"PicPath", TakeText<&MenuInfo::strPicPath>},
+    {"KEYWORD", AttributeUse::Keyword, TakeKeyword},
+    {"MENUNAME", AttributeUse::Name, TakeMenuName},
+    {"SHORTKEY", AttributeUse::ShortKey, TakeText<&MenuInfo::strShortKey>},
+    {"HOTKEY", AttributeUse::HotKey, TakeHotKey},
+    {"TOOLTIP", AttributeUse::ToolTip, TakeTranslation<&MenuInfo::strToolTip, 0>},
+    {"CMD", AttributeUse::Command, TakeText<&MenuInfo::strCmd>},
+    {"Param", AttributeUse::Parameter, TakeText<&MenuInfo::strParam>},
+    {"PicPath", AttributeUse::Icon, TakeText<&MenuInfo::strPicPath>},
 };
 
 Taker TakerOf(std::string_view name) {
@@ -100,7 +92,18 @@ Taker TakerOf(std::string_view name) {
     return nullptr;
 }
 
+constexpr std::array<AttributeRule, std::size(kAttributes)> MakeRules() {
+    std::array<AttributeRule, std::size(kAttributes)> rules{};
+    for (std::size_t i = 0; i < std::size(kAttributes); ++i) {
+        rules[i] = {kAttributes[i].name, kAttributes[i].use};
+    }
+    return rules;
+}
+constexpr std::array<AttributeRule, std::size(kAttributes)> kRules = MakeRules();
+
 } // namespace
+
+std::span<const AttributeRule> MenuAttributeRules() { return kRules; }
 
 bool ReadMenuInfo(varnhold::XmlCursor& element, MenuInfo& info, const CTranslationSection& translations,
                   const FileDiagnostics& diagnostics) {
@@ -113,12 +116,7 @@ bool ReadMenuInfo(varnhold::XmlCursor& element, MenuInfo& info, const CTranslati
     for (const varnhold::XmlAttributeView& written : read) {
         attribute.written = &written;
         const Taker take = TakerOf(written.name);
-        if (!take) {
-            if (diagnostics.IsListening()) {
-                attribute.Warn("unknown-attribute",
-                               L"\"" + string2wstring(written.name) + L"\" is not an attribute of a menu file");
-            }
-        } else if (!take(attribute)) {
+        if (take && !take(attribute)) {
             return true;
         }
     }

@@ -3,6 +3,7 @@
 #include "config/depth_walker.h"
 #include "config/load_document.h"
 #include "config/menu_attributes.h"
+#include "config/menu_diagnosis.h"
 #include "config/ribbon_attributes.h"
 
 #include <varnhold/language.h>
@@ -13,10 +14,13 @@ namespace {
 class MenuElementReader {
 public:
     MenuElementReader(MenuFileVisitor& visitor, const FileDiagnostics& diagnostics)
-        : m_visitor(visitor), m_diagnostics(diagnostics) {}
+        : m_visitor(visitor), m_diagnostics(diagnostics), m_diagnosis(diagnostics) {}
 
     void ReadBranch(varnhold::XmlCursor& element) {
         if (element.HasChildren()) {
+            if (m_diagnostics.IsListening()) {
+                m_diagnosis.MeetGroup(element);
+            }
             WalkBelow(element,
                       [this](varnhold::XmlCursor& child, std::size_t depth) { return Read(child, depth - 1); });
         } else {
@@ -33,6 +37,9 @@ private:
             return false;
         }
         ReadInfo(element);
+        if (m_diagnostics.IsListening()) {
+            m_diagnosis.MeetPopup(element, level);
+        }
         m_visitor.VisitPopup(m_info, level);
         return true;
     }
@@ -44,28 +51,22 @@ private:
               &m_info.strCmd, &m_info.strToolTip, &m_info.strPicPath, &m_info.strParam}) {
             text->clear();
         }
-        if (ReadMenuInfo(element, m_info, m_translations, m_diagnostics)) {
-            return true;
-        }
-        if (m_diagnostics.IsListening()) {
-            m_diagnostics.Warn(element.GetPosition(), "no-attributes",
-                               L"an element without attributes describes nothing");
-        }
-        return false;
+        return ReadMenuInfo(element, m_info, m_translations, m_diagnostics);
     }
 
     void ReadItem(varnhold::XmlCursor& element, std::size_t level) {
-        if (!ReadInfo(element)) {
-            return;
+        const bool isRead = ReadInfo(element);
+        if (m_diagnostics.IsListening()) {
+            m_diagnosis.MeetItem(element, level, m_info.bSeparator);
         }
-        if (m_diagnostics.IsListening() && !m_info.bSeparator && m_info.strKeyword.empty()) {
-            m_diagnostics.Warn(element.GetPosition(), "no-keyword", L"an item without a keyword is not shown");
+        if (isRead) {
+            m_visitor.VisitItem(m_info, level);
         }
-        m_visitor.VisitItem(m_info, level);
     }
 
     MenuFileVisitor& m_visitor;
     const FileDiagnostics& m_diagnostics;
+    const MenuDiagnosis m_diagnosis;
     const CTranslationSection m_translations{kRibbonSection};
     MenuInfo m_info;
 };

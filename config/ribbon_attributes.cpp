@@ -52,9 +52,14 @@ struct Attribute {
     varnhold::TextPosition Position() const { return element.GetAttributePosition(*written); }
     std::string_view Value() const { return written->value; }
     bool IsLast() const { return written == last; }
-    void Warn(std::string_view code, std::wstring text) const {
-        if (reading.diagnostics.IsListening()) {
-            reading.diagnostics.Warn(Position(), code, std::move(text));
+    bool IsWatched() const { return reading.diagnostics.IsListening(); }
+    void Report(std::string_view code, const std::wstring& text, const std::wstring& fix) const {
+        reading.diagnostics.Report(code, Position(), text, fix);
+    }
+    /// For what is neither Y nor N; an attribute without a value says nothing.
+    void CheckFlag(bool isYes, bool isNo) const {
+        if (!isYes && !isNo && !Value().empty() && IsWatched()) {
+            Report("bad-flag", L"\"" + string2wstring(Value()) + L"\" is neither Y nor N", L"write Y or N");
         }
     }
 };
@@ -80,9 +85,6 @@ bool TakeKeyword(Attribute& attribute) {
 
 template <std::wstring_view RibbonTexts::*field, int number>
 bool TakeTranslation(Attribute& attribute) {
-    if (attribute.keyword.empty()) {
-        attribute.Warn("text-before-keyword", L"the text is looked up under the keyword, which must stand before it");
-    }
     if (const std::wstring* text = attribute.reading.translations.Find(attribute.keyword, number)) {
         attribute.info.*field = attribute.reading.arena.Join(*text, {});
     } else if (CTranslationSection::ShowsMissingKey(number)) {
@@ -107,11 +109,11 @@ template <std::int32_t RibbonTexts::*field>
 bool TakeNumber(Attribute& attribute) {
     std::int32_t number = 0;
     if (!ToNumber(attribute.Value(), number)) {
-        const FileDiagnostics& diagnostics = attribute.reading.diagnostics;
-        if (diagnostics.IsListening()) {
-            diagnostics.Fail(attribute.Position(), "not-a-number",
+        if (attribute.IsWatched()) {
+            attribute.Report("bad-number",
                              L"\"" + string2wstring(attribute.Value()) +
-                                 L"\" is not a decimal number of 32 bits; the attributes after it are not read");
+                                 L"\" is not a whole decimal number; the attributes after it are not read",
+                             L"write digits alone");
         }
         return false;
     }
@@ -119,30 +121,36 @@ bool TakeNumber(Attribute& attribute) {
     return true;
 }
 
+bool IsYes(std::string_view value) { return varnhold::EqualsIgnoringCase(value, "Y"); }
+bool IsNo(std::string_view value) { return varnhold::EqualsIgnoringCase(value, "N"); }
+
 bool TakeGroupBefore(Attribute& attribute) {
-    attribute.info.groupBefore = varnhold::EqualsIgnoringCase(attribute.Value(), "Y");
-    if (attribute.info.groupBefore && !attribute.IsLast()) {
-        attribute.Warn("group-before-not-last", L"GROUPBEFORE has an effect only as the last attribute");
+    const bool isYes = IsYes(attribute.Value());
+    attribute.info.groupBefore = isYes;
+    attribute.CheckFlag(isYes, IsNo(attribute.Value()));
+    if (isYes && !attribute.IsLast() && attribute.IsWatched()) {
+        attribute.Report("attribute-order", L"GROUPBEFORE has an effect only as the last attribute",
+                         L"put it behind the others");
     }
     return true;
 }
 
 bool TakeCateTab(Attribute& attribute) {
-    const std::string_view value = attribute.Value();
-    if (varnhold::EqualsIgnoringCase(value, "Y")) {
-        attribute.info.cateTab = true;
-    } else if (varnhold::EqualsIgnoringCase(value, "N")) {
-        attribute.info.cateTab = false;
-    } else {
-        attribute.Warn("not-yes-or-no", L"\"" + string2wstring(value) + L"\" is neither Y nor N");
+    const bool isYes = IsYes(attribute.Value());
+    const bool isNo = IsNo(attribute.Value());
+    if (isYes || isNo) {
+        attribute.info.cateTab = isYes;
     }
+    attribute.CheckFlag(isYes, isNo);
     return true;
 }
 
 bool TakeAcceptF1(Attribute& attribute) {
-    if (varnhold::EqualsIgnoringCase(attribute.Value(), "N")) {
+    const bool isNo = IsNo(attribute.Value());
+    if (isNo) {
         attribute.info.acceptF1 = false;
     }
+    attribute.CheckFlag(IsYes(attribute.Value()), isNo);
     return true;
 }
 
@@ -162,26 +170,27 @@ bool TakeValueGroup(Attribute& attribute) {
 
 struct KnownAttribute {
     std::string_view name;
+    AttributeUse use;
     Taker take;
 };
 
 constexpr KnownAttribute attributes[] = {
-    {"KEYWORD", TakeKeyword},
-    {"IDKEY", TakeKeyword},
-    {"NAME", TakeTranslation<&RibbonTexts::name, -1>},
-    {"TYPE", TakeText<&RibbonTexts::type, &LastTexts::type>},
-    {"TOOLTIP", TakeTranslation<&RibbonTexts::tooltip, 0>},
-    {"PICPATH", TakeText<&RibbonTexts::picPath, &LastTexts::picPath>},
-    {"PARAM", TakeText<&RibbonTexts::param, &LastTexts::param>},
-    {"PICDisPATH", TakeText<&RibbonTexts::picDisPath, &LastTexts::picDisPath>},
-    {"SIZE", TakeNumber<&RibbonTexts::size>},
-    {"GROUPBEFORE", TakeGroupBefore},
-    {"VALUEGROUP", TakeValueGroup},
-    {"WIDTH", TakeNumber<&RibbonTexts::width>},
-    {"CMD", TakeText<&RibbonTexts::cmd, &LastTexts::cmd>},
-    {"CateTab", TakeCateTab},
-    {"help", TakeText<&RibbonTexts::help, &LastTexts::help>},
-    {"AcceptF1", TakeAcceptF1},
+    {"KEYWORD", AttributeUse::Keyword, TakeKeyword},
+    {"IDKEY", AttributeUse::Keyword, TakeKeyword},
+    {"NAME", AttributeUse::Name, TakeTranslation<&RibbonTexts::name, -1>},
+    {"TYPE", AttributeUse::Type, TakeText<&RibbonTexts::type, &LastTexts::type>},
+    {"TOOLTIP", AttributeUse::ToolTip, TakeTranslation<&RibbonTexts::tooltip, 0>},
+    {"PICPATH", AttributeUse::Icon, TakeText<&RibbonTexts::picPath, &LastTexts::picPath>},
+    {"PARAM", AttributeUse::Parameter, TakeText<&RibbonTexts::param, &LastTexts::param>},
+    {"PICDisPATH", AttributeUse::DisabledIcon, TakeText<&RibbonTexts::picDisPath, &LastTexts::picDisPath>},
+    {"SIZE", AttributeUse::Size, TakeNumber<&RibbonTexts::size>},
+    {"GROUPBEFORE", AttributeUse::GroupBefore, TakeGroupBefore},
+    {"VALUEGROUP", AttributeUse::ValueGroup, TakeValueGroup},
+    {"WIDTH", AttributeUse::Width, TakeNumber<&RibbonTexts::width>},
+    {"CMD", AttributeUse::Command, TakeText<&RibbonTexts::cmd, &LastTexts::cmd>},
+    {"CateTab", AttributeUse::CateTab, TakeCateTab},
+    {"help", AttributeUse::Help, TakeText<&RibbonTexts::help, &LastTexts::help>},
+    {"AcceptF1", AttributeUse::AcceptF1, TakeAcceptF1},
 };
 
 constexpr std::size_t kLetters = 32;
@@ -214,7 +223,18 @@ const KnownAttribute* FindAttribute(std::string_view name) {
     return AreSame(known.name, name) || varnhold::EqualsIgnoringCase(known.name, name) ? &known : nullptr;
 }
 
+constexpr std::array<AttributeRule, std::size(attributes)> MakeRules() {
+    std::array<AttributeRule, std::size(attributes)> rules{};
+    for (std::size_t i = 0; i < std::size(attributes); ++i) {
+        rules[i] = {attributes[i].name, attributes[i].use};
+    }
+    return rules;
+}
+constexpr std::array<AttributeRule, std::size(attributes)> kRules = MakeRules();
+
 } // namespace
+
+std::span<const AttributeRule> RibbonAttributeRules() { return kRules; }
 
 bool ReadRibbonInfo(const CXmlNodeWrapper& node, RibbonInfo& info, const FileDiagnostics& diagnostics) {
     TextArena arena;
@@ -244,9 +264,6 @@ bool ReadNewRibbonInfo(varnhold::XmlCursor& element, RibbonTexts& info, const Ri
             if (!known->take(attribute)) {
                 return false;
             }
-        } else if (reading.diagnostics.IsListening()) {
-            attribute.Warn("unknown-attribute",
-                           L"\"" + string2wstring(written.name) + L"\" is not an attribute of a ribbon file");
         }
     }
     if (info.help.empty() && info.acceptF1) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/diagnostics.h"
+#include "config/met_element.h"
 #include "config/ribbon_record.h"
 
 class CTranslationSection;
@@ -8,6 +9,9 @@ class CXmlNodeWrapper;
 
 /// The section of the translation tables with the texts of the ribbon files.
 inline constexpr char kRibbonSection[] = "RibbonBarCfg";
+
+/// The attributes that a ribbon file has.
+std::span<const AttributeRule> RibbonAttributeRules();
 
 /// Reads the attributes of one element of a ribbon file into a record, which is reset first but for `picDisPath`, `cmd`
 /// and `param`: those stay where the element does not set them. Attributes are taken in document order; translations

@@ -1,7 +1,6 @@
 #include "config/ribbon_file.h"
 
 #include "config/depth_walker.h"
-#include "config/element_kind.h"
 #include "config/load_document.h"
 #include "config/ribbon_attributes.h"
 
@@ -16,7 +15,7 @@ enum Depth : std::size_t { RowDepth = 1, CategoryDepth, PanelDepth, ElementDepth
 /// Builds the records while a walk goes over the elements: keeps the place of the next record at each depth.
 class RecordReader {
 public:
-    explicit RecordReader(const FileDiagnostics& diagnostics) : m_diagnostics(diagnostics) {}
+    explicit RecordReader(const FileDiagnostics& diagnostics) : m_diagnostics(diagnostics), m_diagnosis(diagnostics) {}
 
     /// `root`: its record takes what lies below `element`, which is at depth `depthOfRoot`.
     void ReadBelow(const varnhold::XmlCursor& element, RibbonRecord& root, std::size_t depthOfRoot) {
@@ -59,7 +58,7 @@ private:
         }
         const bool goesDeeper = depth < LastDepth();
         if (m_diagnostics.IsListening()) {
-            ReportOn(element, record.info, depth, goesDeeper);
+            m_diagnosis.Meet(element, record.info, depth, m_rowKind);
         }
         if (goesDeeper) {
             OpenChildren(element, record, depth);
@@ -75,35 +74,8 @@ private:
 
     std::size_t LastDepth() const { return m_rowKind == RibbonRowKind::Categories ? SubItemDepth : CategoryDepth; }
 
-    void ReportOn(varnhold::XmlCursor& element, const RibbonTexts& info, std::size_t depth, bool goesDeeper) const {
-        const bool hasChildren = element.HasChildren();
-        const bool hasAttributes = !element.ReadAttributes().empty();
-        const varnhold::TextPosition position = element.GetPosition();
-        if (!hasAttributes && depth > RowDepth) {
-            m_diagnostics.Warn(position, "no-attributes", L"an element without attributes describes nothing");
-        } else if (info.keyword.empty() && depth > RowDepth && depth != PanelDepth) {
-            m_diagnostics.Warn(position, "no-keyword", L"without a keyword the command cannot be registered");
-        }
-        if (!goesDeeper && hasChildren) {
-            m_diagnostics.Warn(position, "too-deep", L"the elements below this one are not read");
-        }
-        if (depth < ElementDepth || !hasAttributes) {
-            return;
-        }
-        const ElementKind kind = KindOfElement(info.type);
-        if (kind == ElementKind::Unknown) {
-            m_diagnostics.Warn(position, "unknown-type",
-                               L"\"" + std::wstring(info.type) + L"\" is not a kind of ribbon element");
-        } else if (kind == ElementKind::Group && (depth == SubItemDepth || !hasChildren)) {
-            m_diagnostics.Warn(position, "empty-group",
-                               L"a group without elements, or within another one, shows nothing");
-        } else if (depth == ElementDepth && hasChildren && !TakesSubItems(kind)) {
-            m_diagnostics.Warn(position, "takes-no-sub-items",
-                               L"only a button or a group may have elements below it; nothing is shown");
-        }
-    }
-
     const FileDiagnostics& m_diagnostics;
+    RibbonDiagnosis m_diagnosis;
     const CTranslationSection m_translations{kRibbonSection};
     LastTexts m_last;
     /// By the depth of the parent.
@@ -114,10 +86,10 @@ private:
 } // namespace
 
 RibbonRowKind KindOfRow(std::wstring_view keyword) {
-    if (keyword == L"QK_Rbbion_QAToolbar") {
+    if (keyword == kQuickAccessRow) {
         return RibbonRowKind::QuickAccess;
     }
-    if (keyword == L"StatusEx_btns") {
+    if (keyword == kStatusRow) {
         return RibbonRowKind::StatusButtons;
     }
     return RibbonRowKind::Categories;

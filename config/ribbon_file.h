@@ -1,15 +1,13 @@
 #pragma once
 
 #include "config/diagnostics.h"
+#include "config/ribbon_diagnosis.h"
 #include "config/ribbon_record.h"
 
 #include <string>
 #include <string_view>
 
 class CXmlNodeWrapper;
-
-/// What the children of a row are.
-enum class RibbonRowKind { Categories, QuickAccess, StatusButtons };
 
 /// By the row's keyword, letter case included; any other keyword makes a row of categories.
 RibbonRowKind KindOfRow(std::wstring_view keyword);

@@ -2,21 +2,37 @@
 
 #include "config/depth_walker.h"
 #include "config/load_document.h"
+#include "config/toolbar_diagnosis.h"
 
 #include <varnhold/letter_case.h>
 #include <varnhold/strings.h>
 
+#include <array>
+#include <iterator>
+
 namespace {
 
 struct KnownAttribute {
-    std::string_view name;
+    AttributeRule rule;
     std::wstring ToolBarInfo::*field;
 };
 
 constexpr KnownAttribute kAttributes[] = {
-    {"TYPE", &ToolBarInfo::strType},       {"PROMPT", &ToolBarInfo::strPrompt},   {"PICPATH", &ToolBarInfo::strPicPath},
-    {"KEYWORD", &ToolBarInfo::strKeyword}, {"TOOLTIP", &ToolBarInfo::strToolTip},
+    {{"TYPE", AttributeUse::Type}, &ToolBarInfo::strType},
+    {{"PROMPT", AttributeUse::Prompt}, &ToolBarInfo::strPrompt},
+    {{"PICPATH", AttributeUse::Icon}, &ToolBarInfo::strPicPath},
+    {{"KEYWORD", AttributeUse::Keyword}, &ToolBarInfo::strKeyword},
+    {{"TOOLTIP", AttributeUse::Hint}, &ToolBarInfo::strToolTip},
 };
+
+constexpr std::array<AttributeRule, std::size(kAttributes)> MakeRules() {
+    std::array<AttributeRule, std::size(kAttributes)> rules{};
+    for (std::size_t i = 0; i < std::size(kAttributes); ++i) {
+        rules[i] = kAttributes[i].rule;
+    }
+    return rules;
+}
+constexpr std::array<AttributeRule, std::size(kAttributes)> kRules = MakeRules();
 
 struct KnownKind {
     std::wstring_view type;
@@ -33,40 +49,50 @@ constexpr KnownKind kKinds[] = {
 
 std::wstring ToolBarInfo::*FieldOf(std::string_view name) {
     for (const KnownAttribute& known : kAttributes) {
-        if (varnhold::EqualsIgnoringCase(known.name, name)) {
+        if (varnhold::EqualsIgnoringCase(known.rule.name, name)) {
             return known.field;
         }
     }
     return nullptr;
 }
 
-void WarnAboutButton(varnhold::XmlCursor& element, const ToolBarInfo& info, const FileDiagnostics& diagnostics) {
-    if (!diagnostics.IsListening()) {
-        return;
-    }
-    const ToolBarItemKind kind = ToolBarItemKindOf(info.strType);
-    if (kind == ToolBarItemKind::Unknown) {
-        diagnostics.Warn(element.GetPosition(), "unknown-type",
-                         L"\"" + info.strType + L"\" is no kind of button: nothing is shown");
-    } else if (kind != ToolBarItemKind::Separator && info.strKeyword.empty()) {
-        diagnostics.Warn(element.GetPosition(), "no-keyword", L"a button without a keyword leads to no command");
-    }
-    if (element.HasChildren()) {
-        diagnostics.Warn(element.GetPosition(), "children-ignored", L"elements inside a button are not read");
-    }
-}
+/// Reads a file's groups and what is in them.
+class ToolBarFileReader {
+public:
+    ToolBarFileReader(ToolBarFileVisitor& visitor, const FileDiagnostics& diagnostics)
+        : m_visitor(visitor), m_isWatched(diagnostics.IsListening()), m_diagnosis(diagnostics) {}
 
-void ReadGroup(varnhold::XmlCursor& group, ToolBarFileVisitor& visitor, const FileDiagnostics& diagnostics) {
-    ToolBarInfo info;
-    ReadToolBarInfo(group, info, diagnostics);
-    visitor.VisitGroup(info);
-    ForEachChild(group, [&](varnhold::XmlCursor& toolBar) {
-        ReadToolBarInfo(toolBar, info, diagnostics);
-        if (visitor.VisitToolBar(info)) {
-            ReadToolBarButtons(toolBar, diagnostics, [&](const ToolBarInfo& button) { visitor.VisitButton(button); });
+    void ReadGroup(varnhold::XmlCursor& group) {
+        if (m_isWatched) {
+            m_diagnosis.MeetGroup(group);
         }
-    });
-}
+        ReadToolBarInfo(group, m_info);
+        m_visitor.VisitGroup(m_info);
+        ForEachChild(group, [this](varnhold::XmlCursor& toolBar) { ReadToolBar(toolBar); });
+    }
+
+private:
+    void ReadToolBar(varnhold::XmlCursor& toolBar) {
+        if (m_isWatched) {
+            m_diagnosis.MeetToolBar(toolBar);
+        }
+        ReadToolBarInfo(toolBar, m_info);
+        if (m_visitor.VisitToolBar(m_info)) {
+            ForEachChild(toolBar, [this](varnhold::XmlCursor& button) {
+                if (m_isWatched) {
+                    m_diagnosis.MeetButton(button);
+                }
+                ReadToolBarInfo(button, m_info);
+                m_visitor.VisitButton(m_info);
+            });
+        }
+    }
+
+    ToolBarFileVisitor& m_visitor;
+    bool m_isWatched;
+    ToolBarDiagnosis m_diagnosis;
+    ToolBarInfo m_info;
+};
 
 } // namespace
 
@@ -79,24 +105,29 @@ ToolBarItemKind ToolBarItemKindOf(const std::wstring& type) {
     return ToolBarItemKind::Unknown;
 }
 
-void ReadToolBarInfo(varnhold::XmlCursor& element, ToolBarInfo& info, const FileDiagnostics& diagnostics) {
+std::vector<std::wstring> ToolBarItemTypes() {
+    std::vector<std::wstring> types;
+    for (const KnownKind& known : kKinds) {
+        types.emplace_back(known.type);
+    }
+    return types;
+}
+
+std::span<const AttributeRule> ToolBarAttributeRules() { return kRules; }
+
+void ReadToolBarInfo(varnhold::XmlCursor& element, ToolBarInfo& info) {
     info = {};
     for (const varnhold::XmlAttributeView& written : element.ReadAttributes()) {
         if (std::wstring ToolBarInfo::*const field = FieldOf(written.name)) {
             string2wstring(written.value, info.*field);
-        } else if (diagnostics.IsListening()) {
-            diagnostics.Warn(element.GetAttributePosition(written), "unknown-attribute",
-                             L"\"" + string2wstring(written.name) + L"\" is not an attribute of a toolbar file");
         }
     }
 }
 
-void ReadToolBarButtons(const varnhold::XmlCursor& toolBar, const FileDiagnostics& diagnostics,
-                        const std::function<void(const ToolBarInfo&)>& take) {
+void ReadToolBarButtons(const varnhold::XmlCursor& toolBar, const std::function<void(const ToolBarInfo&)>& take) {
     ToolBarInfo info;
     ForEachChild(toolBar, [&](varnhold::XmlCursor& button) {
-        ReadToolBarInfo(button, info, diagnostics);
-        WarnAboutButton(button, info, diagnostics);
+        ReadToolBarInfo(button, info);
         take(info);
     });
 }
@@ -107,7 +138,7 @@ bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, 
     if (!LoadDocument(fullPath, diagnostics, document)) {
         return false;
     }
-    ForEachChild(varnhold::XmlCursor(document),
-                 [&](varnhold::XmlCursor& group) { ReadGroup(group, visitor, diagnostics); });
+    ToolBarFileReader reader(visitor, diagnostics);
+    ForEachChild(varnhold::XmlCursor(document), [&](varnhold::XmlCursor& group) { reader.ReadGroup(group); });
     return true;
 }

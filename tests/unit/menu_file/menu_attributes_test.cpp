@@ -66,7 +66,6 @@ TEST_F(MenuAttributes, NameBeforeTheKeywordIsTheTranslationOfAnEmptyOne) {
     EXPECT_EQ(m_info.strName, L"");
     EXPECT_EQ(m_info.strToolTip, L"");
     EXPECT_EQ(m_info.strKeyword, L"K");
-    EXPECT_EQ(m_sink.m_codes, (std::vector<std::string>{"text-before-keyword", "text-before-keyword"}));
 }
 
 TEST_F(MenuAttributes, NameIsTheKeywordAndTheTooltipEmptyWhereThereIsNoTranslation) {
@@ -102,20 +101,32 @@ TEST_F(MenuAttributes, WithoutAMnemonicTheTextIsTheCaption) {
     EXPECT_EQ(m_info.strText, L"<K>");
 }
 
-TEST_F(MenuAttributes, UnknownOnesAreIgnoredAndReported) {
+TEST_F(MenuAttributes, UnknownOnesAreIgnored) {
     ASSERT_TRUE(Read("KEYWORD='K' NAME='x'"));
     EXPECT_EQ(m_info.strText, L"");
-    EXPECT_EQ(m_sink.m_codes, std::vector<std::string>{"unknown-attribute"});
-    EXPECT_EQ(m_sink.m_last.position.line, 1u);
-    EXPECT_EQ(m_sink.m_last.position.column, 19u);
 }
 
-TEST_F(MenuAttributes, ShortcutsWithoutAKeyAreReported) {
-    for (const char* keys : {"Ctrl+", "Ctrl+Shift"}) {
+TEST_F(MenuAttributes, ShortcutsThatAreReadAsSomethingElseAreReported) {
+    for (const char* keys :
+         {"Ctrl+", "Ctrl+Shift", "F5", "Del", "Ctrl", "Ctrl+F5", "Ctrl + S", "Control+S", "Ctrl+S+A"}) {
         m_sink.m_codes.clear();
         ASSERT_TRUE(Read(std::string("KEYWORD='K' HOTKEY='") + keys + "'"));
-        EXPECT_EQ(m_sink.m_codes, std::vector<std::string>{"shortcut-without-key"}) << keys;
+        EXPECT_EQ(m_sink.m_codes, std::vector<std::string>{"shortcut-syntax"}) << keys;
+        EXPECT_EQ(m_sink.m_last.position.column, 19u);
+        EXPECT_FALSE(m_sink.m_last.fix.empty());
     }
+}
+
+TEST_F(MenuAttributes, ShortcutsThatSayWhatTheyAreAreNot) {
+    for (const char* keys : {"", "S", "ctrl+s", "Ctrl+Shift+Alt+1", "Alt+,"}) {
+        ASSERT_TRUE(Read(std::string("KEYWORD='K' HOTKEY='") + keys + "'"));
+        EXPECT_TRUE(m_sink.m_codes.empty()) << keys;
+    }
+}
+
+TEST_F(MenuAttributes, BlanksInAShortcutAreTakenOutOfTheOneThatIsSuggested) {
+    ASSERT_TRUE(Read("KEYWORD='K' HOTKEY='Ctrl + Shift + S'"));
+    EXPECT_EQ(m_sink.m_last.fix, L"write \"Ctrl+Shift+S\"");
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -104,6 +105,48 @@ TEST_F(MenuFile, FieldsOfOneElementDoNotReachTheNext) {
     EXPECT_EQ(info.strName + info.strShortKey + info.strHotKey + info.strText + info.strCmd + info.strToolTip +
                   info.strPicPath + info.strParam,
               L"");
+}
+
+class CodeSink : public DiagnosticsSink {
+public:
+    void Report(const Diagnostic& diagnostic) override {
+        m_codes.push_back(std::string(diagnostic.code) + "@" + std::to_string(diagnostic.position.column));
+    }
+    std::vector<std::string> m_codes;
+};
+
+struct DiagnosticCase {
+    const char* xml;
+    std::vector<std::string> expected;
+};
+
+TEST_F(MenuFile, EveryProblemIsReportedOnceWithItsPlace) {
+    const DiagnosticCase cases[] = {
+        {"<g><p KEYWORD='P' MENUNAME=''><i KEYWORD='A' MENUNAME=''/><i MENUNAME='separator'/></p></g>", {}},
+        {"<i KEYWORD='QK_DEF_ZJWJ'/>", {}},
+        {"<g KEYWORD='G'><i KEYWORD='A' MENUNAME=''/></g>", {}},
+        {"<g KEYWORD='G' MENUNAME='' SHORTKEY='G'><i KEYWORD='A' MENUNAME=''/></g>", {"wrong-depth@16"}},
+        {"<i/>", {"no-attributes@1"}},
+        {"<g><p><i KEYWORD='A' MENUNAME=''/></p></g>", {"no-attributes@4"}},
+        {"<i MENUNAME=''/>", {"missing-keyword@1"}},
+        {"<i KEYWORD='' MENUNAME=''/>", {"missing-keyword@4"}},
+        {"<i KEYWORD='A'/>", {"missing-caption@1"}},
+        {"<g><p KEYWORD='P'><i KEYWORD='A' MENUNAME=''/></p></g>", {"missing-caption@4"}},
+        {"<g><p MENUNAME=''><i KEYWORD='A' MENUNAME=''/></p></g>", {"missing-keyword@4"}},
+        {"<i MENUNAME='' KEYWORD='A'/>", {"attribute-order@4"}},
+        {"<i KEYWORD='A' MENUNAM=''/>", {"unknown-attribute@16"}},
+        {"<i KEYWORD='A' MENUNAME='' menuname=''/>", {"duplicate-attribute@28"}},
+        {"<i KEYWORD='A' MENUNAME='' HOTKEY='F5'/>", {"shortcut-syntax@28"}},
+        {"<g><p KEYWORD='P' MENUNAME='' HOTKEY='Ctrl+P'><i KEYWORD='A' MENUNAME=''/></p></g>", {"lost-shortcut@31"}},
+        {"text<i KEYWORD='A' MENUNAME=''/>", {"stray-text@1"}},
+    };
+    for (const DiagnosticCase& diagnosticCase : cases) {
+        CodeSink sink;
+        Outline outline;
+        const std::string bytes = "<menu>\n" + std::string(diagnosticCase.xml) + "</menu>";
+        ASSERT_TRUE(LoadMenuFile(m_directory.Write("menu.xml", bytes), outline, sink));
+        EXPECT_EQ(sink.m_codes, diagnosticCase.expected) << diagnosticCase.xml;
+    }
 }
 
 } // namespace

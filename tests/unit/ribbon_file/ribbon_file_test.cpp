@@ -190,7 +190,7 @@ class CountingSink : public DiagnosticsSink {
 public:
     void Report(const Diagnostic& diagnostic) override {
         ++m_count;
-        m_lastColumn = diagnostic.position.column;
+        m_lastColumn = std::max(m_lastColumn, diagnostic.position.column);
     }
     std::size_t m_count = 0;
     std::size_t m_lastColumn = 0;
@@ -202,20 +202,76 @@ struct DiagnosticCase {
 };
 
 constexpr DiagnosticCase diagnosticCases[] = {
-    {"<d><r><c KEYWORD='a'/></r></d>", ""},
-    {"<d><r><c KEYWORD='a' colour='red'/></r></d>", "unknown-attribute@1:22 "},
-    {"<d><r><c KEYWORD='a' SIZE='16px'/></r></d>", "not-a-number@1:22 "},
-    {"<d><r><c NAME='' KEYWORD='a'/></r></d>", "text-before-keyword@1:10 "},
-    {"<d>\n<r>\n <c KEYWORD='a' GROUPBEFORE='Y' CMD=''/></r></d>", "group-before-not-last@3:17 "},
-    {"<d><r><c KEYWORD='a' CateTab='maybe'/></r></d>", "not-yes-or-no@1:22 "},
-    {"<d><r><c/></r></d>", "no-attributes@1:7 "},
-    {"<d><r><c CMD='x'/></r></d>", "no-keyword@1:7 "},
-    {"<d><r><c KEYWORD='a'><p KEYWORD='p'><e KEYWORD='e' TYPE='lamp'/></p></c></r></d>", "unknown-type@1:37 "},
-    {"<d><r><c KEYWORD='a'><p KEYWORD='p'><e KEYWORD='e' TYPE='group'/></p></c></r></d>", "empty-group@1:37 "},
-    {"<d><r><c KEYWORD='a'><p KEYWORD='p'><e KEYWORD='e' TYPE='LABEL'><s KEYWORD='s' "
+    // Rows, categories and panels; "p" keeps them from being empty.
+    {"<d><r><c KEYWORD='a' NAME=''><p KEYWORD='p'><e TYPE='group'><s KEYWORD='s' NAME='' "
      "TYPE='button'/></e></p></c></r></d>",
-     "takes-no-sub-items@1:37 "},
-    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a'><p/></c></r></d>", "too-deep@1:31 "},
+     ""},
+    {"<d><r/></d>", "empty-container@1:4 "},
+    {"<d><r><c KEYWORD='a' NAME=''/></r></d>", "empty-container@1:7 "},
+    {"<d><r><c KEYWORD='a' NAME=''><p KEYWORD='p'/></c></r></d>", "empty-container@1:30 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' colour='red'/></r></d>", "unknown-attribute@1:46 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' SIZE='16px'/></r></d>", "bad-number@1:46 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c NAME='' TOOLTIP='' KEYWORD='a'/></r></d>", "attribute-order@1:34 "},
+    {"<d><r KEYWORD='StatusEx_btns'>\n <c KEYWORD='a' GROUPBEFORE='Y' CMD=''/></r></d>", "attribute-order@2:17 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' CMD='' GROUPBEFORE='Y'/></r></d>", ""},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' GROUPBEFORE='N' CMD=''/></r></d>", ""},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' GROUPBEFORE='yes'/></r></d>", "bad-flag@1:46 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' AcceptF1='0'/></r></d>", "bad-flag@1:46 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' AcceptF1='y' GROUPBEFORE=''/></r></d>", ""},
+    {"<d><r><c KEYWORD='a' NAME='' CateTab='maybe'/></r></d>", "bad-flag@1:30 empty-container@1:7 "},
+    {"<d><r><c/></r></d>", "no-attributes@1:7 "},
+    {"<d><r><c NAME=''><p/></c></r></d>", "missing-keyword@1:7 no-attributes@1:18 "},
+    {"<d><r><c KEYWORD='' NAME=''><p NAME=''/></c></r></d>",
+     "missing-keyword@1:10 missing-keyword@1:29 empty-container@1:29 "},
+    {"<d><r><c KEYWORD='a'><p CMD=''/></c></r></d>", "missing-caption@1:7 empty-container@1:22 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a'><p/></c></r></d>", "children-lost@1:31 "},
+    {"<d><r KEYWORD='QK_Rbbion_QAToolbar'><c KEYWORD='a'><p/></c><c CMD=''/></r></d>",
+     "children-lost@1:37 missing-keyword@1:60 "},
+    {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' IDKEY='b' keyword='c'/></r></d>",
+     "duplicate-attribute@1:46 duplicate-attribute@1:56 "},
+    // Levels.
+    {"<d><r TYPE='BUTTON'><c/></r></d>", "wrong-depth@1:7 "},
+    {"<d><r CATETAB='Y'><c/></r></d>", "wrong-depth@1:7 "},
+    {"<d><r><c KEYWORD='StatusEx_btns'><p/></c></r></d>", "wrong-depth@1:10 "},
+    {"<d><r><c KEYWORD='a' NAME=''><p KEYWORD='p' TYPE='BUTTON'><e/></p></c></r></d>", "wrong-depth@1:45 "},
+};
+
+struct PanelCase {
+    const char* elements;
+    /// Columns count from the first element.
+    const char* expected;
+};
+
+constexpr PanelCase panelCases[] = {
+    {"<e KEYWORD='e' NAME='' TYPE='button'/>", ""},
+    {"<e KEYWORD='e' PICPATH='a' TYPE='button'/>", ""},
+    {"<e KEYWORD='e' TYPE='BUTTON'/>", "missing-caption@1:1 "},
+    {"<e KEYWORD='e' TYPE='label'/>", "missing-caption@1:1 "},
+    {"<e KEYWORD='e' TYPE='slider'/>", ""},
+    {"<e KEYWORD='e' NAME='' TYPE='lamp'/>", "unknown-type@1:24 "},
+    {"<e KEYWORD='e' NAME='' TYPE='lamp'><x/></e>", "unknown-type@1:24 "},
+    {"<e KEYWORD='e' NAME=''><x/></e>", "missing-type@1:1 "},
+    {"<e KEYWORD='e' NAME='' TYPE=''/>", "missing-type@1:24 "},
+    {"<e NAME='' TYPE='edit'/>", "missing-keyword@1:1 "},
+    {"<e TYPE='group'/>", "empty-group@1:1 "},
+    {"<e NAME='' TYPE='group'><s KEYWORD='s' NAME='' TYPE='group'/></e>", "missing-keyword@1:1 empty-group@1:25 "},
+    {"<e KEYWORD='e' NAME='' TYPE='LABEL'><s/></e>", "children-lost@1:1 "},
+    {"<e KEYWORD='e' NAME='' TYPE='button'><s KEYWORD='s' NAME='' TYPE='button'><t/></s></e>", "children-lost@1:38 "},
+    {"<e KEYWORD='e' NAME='' TYPE='button' SIZE='24'/>", "odd-size@1:38 "},
+    {"<e KEYWORD='e' NAME='' TYPE='button' SIZE='32'/>", ""},
+    {"<e KEYWORD='e' TYPE='slider' WIDTH='-3'/>", "odd-size@1:30 "},
+    {"<e KEYWORD='e' NAME='' TYPE='button' CATETAB='Y'/>", "wrong-depth@1:38 "},
+    // What is misspelt is not missing besides.
+    {"<e KEYWRD='e' NAME='' TYPE='button'/>", "unknown-attribute@1:4 "},
+    {"<e KEYWORD='e' NAME='' TPYE='button'/>", "unknown-attribute@1:24 "},
+    {"<e KEYWORD='e' NMAE='' TYPE='button'/>", "unknown-attribute@1:16 "},
+    // Nor is what stands behind a bad number.
+    {"<e SIZE='x' KEYWORD='e' NAME='' TYPE='button'/>", "bad-number@1:4 "},
+    // Sub-items that say less than the one before.
+    {"<e KEYWORD='e' NAME='' TYPE='button' CMD='x'><s KEYWORD='s' NAME='' TYPE='button'/></e>", ""},
+    {"<e KEYWORD='e' NAME='' TYPE='button'><s KEYWORD='s' NAME='' TYPE='button' CMD='x' PARAM='y'/>"
+     "<s KEYWORD='t' NAME='' TYPE='button' PARAM=''/><s KEYWORD='u' NAME='' TYPE='button'/></e>",
+     "inherited-value@1:94 inherited-value@1:141 "},
 };
 
 TEST(RibbonFileDiagnostics, EveryProblemIsReportedWithItsPlace) {
@@ -223,6 +279,50 @@ TEST(RibbonFileDiagnostics, EveryProblemIsReportedWithItsPlace) {
         CollectingSink sink;
         ReadRows(diagnosticCase.xml, sink);
         EXPECT_EQ(sink.m_seen, diagnosticCase.expected) << diagnosticCase.xml;
+    }
+}
+
+TEST(RibbonFileDiagnostics, EveryProblemOfAnElementIsReportedOnce) {
+    const std::string before = "<d><r><c KEYWORD='c' NAME=''><p KEYWORD='p'>\n";
+    for (const PanelCase& panelCase : panelCases) {
+        CollectingSink sink;
+        ReadRows(before + panelCase.elements + "</p></c></r></d>", sink);
+        std::string expected = panelCase.expected;
+        for (std::size_t at = expected.find("@1:"); at != std::string::npos; at = expected.find("@1:")) {
+            expected.replace(at, 3, "@2:");
+        }
+        EXPECT_EQ(sink.m_seen, expected) << panelCase.elements;
+    }
+}
+
+TEST(RibbonFileDiagnostics, PanelThatHasTheCommandOfTheOneBeforeIsNoted) {
+    CollectingSink sink;
+    const std::string element = "<e KEYWORD='e' NAME='' TYPE='button'/>";
+    ReadRows("<d><r><c KEYWORD='c' NAME='' CMD='x'>\n<p KEYWORD='p'>" + element + "</p>\n<p KEYWORD='q' CMD='y'>" +
+                 element + "</p>\n<p KEYWORD='r'>" + element + "</p></c>\n<c KEYWORD='d' NAME=''><p KEYWORD='s'>" +
+                 element + "</p></c></r></d>",
+             sink);
+    EXPECT_EQ(sink.m_seen, "inherited-value@4:1 ");
+    EXPECT_EQ(sink.m_last.severity, DiagnosticSeverity::Note);
+}
+
+struct SuggestionCase {
+    const char* element;
+    const wchar_t* fix;
+};
+
+TEST(RibbonFileDiagnostics, MisspeltWordsAreSetRight) {
+    constexpr SuggestionCase cases[] = {
+        {"<e KEYWORD='e' NAME='' TYPE='button' PICPAHT=''/>", L"did you mean \"PICPATH\"?"},
+        {"<e KEYWORD='e' NAME='' TYPE='button' colour=''/>", L""},
+        {"<e KEYWORD='e' NAME='' TYPE='Buton'/>", L"did you mean \"BUTTON\"?"},
+        {"<e KEYWORD='e' NAME='' TYPE='qkRibbonMultiCmb2'/>", L"did you mean \"qkRibbonMultiComb2\"?"},
+    };
+    for (const SuggestionCase& suggestion : cases) {
+        CollectingSink sink;
+        ReadRows(std::string("<d><r><c KEYWORD='c' NAME=''><p KEYWORD='p'>") + suggestion.element + "</p></c></r></d>",
+                 sink);
+        EXPECT_EQ(sink.m_last.fix, suggestion.fix) << suggestion.element;
     }
 }
 
@@ -238,7 +338,7 @@ TEST(RibbonFileDiagnostics, ManyUnknownAttributesOfOneElementAreReportedInLinear
         CountingSink sink;
         const double seconds =
             MeasureSeconds([&] { ReadRibbonRows(varnhold::XmlCursor(document), FileDiagnostics(L"f.xml", sink)); });
-        EXPECT_EQ(sink.m_count, count);
+        EXPECT_EQ(sink.m_count, count + 1); // the row is empty, too
         EXPECT_EQ(sink.m_lastColumn, 18 + 5 * (count - 1) + 1);
         return seconds;
     };
@@ -251,7 +351,7 @@ TEST(RibbonFileDiagnostics, ManyUnknownAttributesOfOneElementAreReportedInLinear
 
 TEST(RibbonFileDiagnostics, ReportNamesTheFile) {
     CollectingSink sink;
-    ReadRows("<d><r><c KEYWORD='a' SIZE='x'/></r></d>", sink);
+    ReadRows("<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a' SIZE='x'/></r></d>", sink);
     EXPECT_EQ(sink.m_last.file, L"f.xml");
     EXPECT_EQ(sink.m_last.severity, DiagnosticSeverity::Error);
     EXPECT_NE(sink.m_last.text, L"");
@@ -271,12 +371,12 @@ TEST(RibbonFileDiagnostics, RecordsAreTheSameWhetherSomebodyListensOrNot) {
     }
 }
 
-TEST(RibbonFileDiagnostics, UnreadableFileIsReportedOnceWithItsPlace) {
+TEST(RibbonFileDiagnostics, FileThatIsNotLoadedIsReportedOnceWithItsPlace) {
     const TemporaryDirectory directory;
     CollectingSink sink;
     RibbonRecords rows;
     EXPECT_FALSE(LoadRibbonFile(directory.Write("f.xml", "<d>\n<r></d>"), rows, sink));
-    EXPECT_TRUE(sink.m_seen.starts_with("unreadable-file@2:")) << sink.m_seen;
+    EXPECT_TRUE(sink.m_seen.starts_with("xml-syntax@2:")) << sink.m_seen;
     EXPECT_EQ(sink.m_seen.find(' '), sink.m_seen.size() - 1);
 }
 

@@ -50,13 +50,15 @@ TEST_F(ToolBarFile, GroupsToolbarsAndButtonsAreThreeLevelsWhateverTheirNames) {
     ASSERT_TRUE(Load("<x><a KEYWORD='G'><b PROMPT='1'><c TYPE='button' KEYWORD='A'/><d TYPE='separate'/></b>"
                      "<b PROMPT='2'/></a><a KEYWORD='H'/></x>"));
     EXPECT_EQ(outline.text, L"[G (1 button:A separate: (2 [H");
-    EXPECT_TRUE(sink.codes.empty());
+    EXPECT_EQ(sink.codes, (std::vector<std::string>{"empty-container@87", "empty-container@106"}));
 }
 
 TEST_F(ToolBarFile, AFourthLevelIsNotRead) {
-    ASSERT_TRUE(Load("<x><a><b><c TYPE='button' KEYWORD='A'><d TYPE='button' KEYWORD='B'/></c></b></a></x>"));
-    EXPECT_EQ(outline.text, L"[ ( button:A");
-    EXPECT_EQ(sink.codes, (std::vector<std::string>{"children-ignored@10"}));
+    ASSERT_TRUE(
+        Load("<x><a KEYWORD='g'><b PROMPT='p'><c TYPE='button' KEYWORD='A'><d TYPE='button' KEYWORD='B'/></c></b>"
+             "</a></x>"));
+    EXPECT_EQ(outline.text, L"[g (p button:A");
+    EXPECT_EQ(sink.codes, (std::vector<std::string>{"children-lost@33"}));
 }
 
 TEST_F(ToolBarFile, TheButtonsOfARefusedToolbarAreNotRead) {
@@ -90,18 +92,36 @@ TEST_F(ToolBarFile, TypesAreComparedInAnyCase) {
     EXPECT_EQ(ToolBarItemKindOf(L""), ToolBarItemKind::Unknown);
 }
 
-TEST_F(ToolBarFile, WhatHasNoEffectIsReported) {
-    ASSERT_TRUE(Load("<x><a><b><c TYPE='slider' KEYWORD='A'/><c TYPE='button'/><c TYPE='separate' WIDTH='1'/></b></a>"
-                     "</x>"));
-    EXPECT_EQ(sink.codes, (std::vector<std::string>{"unknown-type@10", "no-keyword@40", "unknown-attribute@77"}));
+struct DiagnosticCase {
+    const char* xml;
+    std::vector<std::string> expected;
+};
+
+TEST_F(ToolBarFile, EveryProblemIsReportedOnceWithItsPlace) {
+    const DiagnosticCase cases[] = {
+        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='Separate'/></b></a>", {}},
+        {"<a><b><c TYPE='separate'/></b></a>", {"missing-keyword@1", "missing-caption@4"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='slider' KEYWORD='A'/></b></a>", {"unknown-type@33"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c KEYWORD='A'/></b></a>", {"missing-type@30"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='button'/></b></a>", {"missing-keyword@30"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c/></b></a>", {"no-attributes@30"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='separate' WIDTH='1'/></b></a>", {"unknown-attribute@49"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='button' KEYWORD='k' KEYWORD='l'/></b></a>", {"duplicate-attribute@59"}},
+        {"<a KEYWORD='g' TYPE='button'><b><c/></b></a>", {"wrong-depth@16"}},
+        {"<a KEYWORD='g'><b TYPE='button' KEYWORD='k'><c/></b></a>", {"wrong-depth@19"}},
+    };
+    for (const DiagnosticCase& diagnosticCase : cases) {
+        sink.codes.clear();
+        ASSERT_TRUE(Load("<x>\n" + std::string(diagnosticCase.xml) + "</x>"));
+        EXPECT_EQ(sink.codes, diagnosticCase.expected) << diagnosticCase.xml;
+    }
 }
 
 TEST_F(ToolBarFile, AFileThatCannotBeReadVisitsNothing) {
     EXPECT_FALSE(Load("<x><a KEYWORD='G'>"));
     EXPECT_FALSE(LoadToolBarFile(m_directory.Prefix() + L"missing.xml", outline, sink));
     EXPECT_EQ(outline.text, L"");
-    ASSERT_EQ(sink.codes.size(), 2u);
-    EXPECT_EQ(sink.codes[0].substr(0, 15), "unreadable-file");
+    EXPECT_EQ(sink.codes, (std::vector<std::string>{"xml-syntax@18", "missing-file@1"}));
 }
 
 } // namespace

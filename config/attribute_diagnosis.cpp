@@ -1,0 +1,110 @@
+#include "config/attribute_diagnosis.h"
+
+#include "varnhold/letter_case.h"
+
+#include <varnhold/strings.h>
+
+#include <algorithm>
+
+namespace {
+
+class Description {
+public:
+    Description(varnhold::XmlCursor& element, std::span<const AttributeRule> rules, std::wstring_view fileName,
+                const FileDiagnostics& diagnostics)
+        : m_element(element), m_rules(rules), m_fileName(fileName), m_diagnostics(diagnostics) {}
+
+    MetElement Make() {
+        m_met.position = m_element.GetPosition();
+        m_met.hasChildren = m_element.HasChildren();
+        for (const varnhold::XmlAttributeView& written : m_element.ReadAttributes()) {
+            if (const AttributeRule* const rule = FindRule(written.name)) {
+                Take(*rule, written);
+            } else {
+                m_unknown.push_back(written);
+            }
+        }
+        CheckOrder();
+        for (const varnhold::XmlAttributeView& written : m_unknown) {
+            ReportUnknown(written);
+        }
+        return std::move(m_met);
+    }
+
+private:
+    const AttributeRule* FindRule(std::string_view name) const {
+        const auto found = std::ranges::find_if(
+            m_rules, [name](const AttributeRule& rule) { return varnhold::EqualsIgnoringCase(rule.name, name); });
+        return found == m_rules.end() ? nullptr : &*found;
+    }
+
+    void Take(const AttributeRule& rule, const varnhold::XmlAttributeView& written) {
+        const varnhold::TextPosition position = m_element.GetAttributePosition(written);
+        const auto earlier = std::ranges::find(m_met.attributes, rule.use, &MetAttribute::use);
+        if (earlier == m_met.attributes.end()) {
+            m_met.attributes.push_back({rule.use, string2wstring(written.value), position});
+            return;
+        }
+        m_diagnostics.Report("duplicate-attribute", position,
+                             Quoted(string2wstring(written.name)) +
+                                 L" says again what an earlier attribute of the element says; the last one counts",
+                             L"remove one of the two", {{m_diagnostics.File(), earlier->position, L"the earlier one"}});
+        earlier->value = string2wstring(written.value);
+    }
+
+    /// A text that is asked for before the keyword is looked up under none.
+    void CheckOrder() const {
+        const MetAttribute* const keyword = m_met.Find(AttributeUse::Keyword);
+        for (const MetAttribute& attribute : m_met.attributes) {
+            if (!keyword || &attribute == keyword) {
+                return;
+            }
+            if (attribute.use == AttributeUse::Name || attribute.use == AttributeUse::ToolTip) {
+                m_diagnostics.Report("attribute-order", attribute.position,
+                                     L"the text is looked up under the keyword, which stands behind it",
+                                     L"put the keyword first",
+                                     {{m_diagnostics.File(), keyword->position, L"the keyword"}});
+                return;
+            }
+        }
+    }
+
+    void ReportUnknown(const varnhold::XmlAttributeView& written) {
+        const std::wstring name = string2wstring(written.name);
+        std::vector<std::wstring> free;
+        for (const AttributeRule& rule : m_rules) {
+            if (!m_met.Has(rule.use)) {
+                free.push_back(string2wstring(rule.name));
+            }
+        }
+        const varnhold::TextPosition position = m_element.GetAttributePosition(written);
+        const std::wstring meant = ClosestWord(name, free);
+        if (!meant.empty()) {
+            m_met.attributes.push_back(
+                {FindRule(wstring2String(meant))->use, string2wstring(written.value), position, true});
+        }
+        m_diagnostics.Report("unknown-attribute", position,
+                             Quoted(name) + L" is not an attribute of " + std::wstring(m_fileName) + L"; it is ignored",
+                             DidYouMean(meant));
+    }
+
+    varnhold::XmlCursor& m_element;
+    std::span<const AttributeRule> m_rules;
+    std::wstring_view m_fileName;
+    const FileDiagnostics& m_diagnostics;
+    std::vector<varnhold::XmlAttributeView> m_unknown;
+    MetElement m_met;
+};
+
+} // namespace
+
+MetElement DescribeElement(varnhold::XmlCursor& element, std::span<const AttributeRule> rules,
+                           std::wstring_view fileName, const FileDiagnostics& diagnostics) {
+    return Description(element, rules, fileName, diagnostics).Make();
+}
+
+void ReportAt(const FileDiagnostics& diagnostics, const MetElement& element, AttributeUse use, std::string_view code,
+              std::wstring text, std::wstring fix) {
+    const MetAttribute* const attribute = element.Find(use);
+    diagnostics.Report(code, attribute ? attribute->position : element.position, std::move(text), std::move(fix));
+}

@@ -1,0 +1,68 @@
+#include "config/menu_diagnosis.h"
+
+#include "config/menu_attributes.h"
+#include "varnhold/letter_case.h"
+
+MetElement MenuDiagnosis::Describe(varnhold::XmlCursor& element, ElementRole role, std::size_t level) const {
+    MetElement met = DescribeElement(element, MenuAttributeRules(), L"a menu file", m_diagnostics);
+    met.role = role;
+    met.depth = level + 2;
+    return met;
+}
+
+bool MenuDiagnosis::HasAttributes(varnhold::XmlCursor& element, const wchar_t* effect) const {
+    if (!element.ReadAttributes().empty()) {
+        return true;
+    }
+    m_diagnostics.Report("no-attributes", element.GetPosition(), effect);
+    return false;
+}
+
+void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) const {
+    const bool hasName = met.Has(AttributeUse::Name);
+    const std::wstring_view keyword = met.ValueOf(AttributeUse::Keyword);
+    if (keyword.empty() && (hasName || met.role == ElementRole::MenuItem)) {
+        ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword", effect);
+    } else if (!hasName && keyword != kRecentFilesKeyword) {
+        m_diagnostics.Report("missing-caption", met.position, L"without MENUNAME no caption is shown here",
+                             L"add MENUNAME=\"\" behind the keyword");
+    }
+}
+
+void MenuDiagnosis::MeetGroup(varnhold::XmlCursor& element) const {
+    for (const varnhold::XmlAttributeView& written : element.ReadAttributes()) {
+        for (const AttributeRule& rule : MenuAttributeRules()) {
+            const bool isForPopups = rule.use == AttributeUse::Name || rule.use == AttributeUse::ShortKey;
+            if (isForPopups && varnhold::EqualsIgnoringCase(rule.name, written.name)) {
+                m_diagnostics.Report(
+                    "wrong-depth", element.GetAttributePosition(written),
+                    L"what stands directly below the document element is a group: it has no caption, and "
+                    L"what is in it stands in the menu bar",
+                    L"put a group around the popup");
+                return;
+            }
+        }
+    }
+}
+
+void MenuDiagnosis::MeetPopup(varnhold::XmlCursor& element, std::size_t level) const {
+    if (!HasAttributes(element, L"a popup without attributes has no caption")) {
+        return;
+    }
+    const MetElement met = Describe(element, ElementRole::Popup, level);
+    CheckTexts(met, L"without a keyword the popup has no caption");
+    if (const MetAttribute* const shortcut = met.Find(AttributeUse::HotKey)) {
+        m_diagnostics.Report("lost-shortcut", shortcut->position, L"a popup takes no shortcut",
+                             L"give it a letter by SHORTKEY");
+    }
+    m_diagnostics.Meet(met);
+}
+
+void MenuDiagnosis::MeetItem(varnhold::XmlCursor& element, std::size_t level, bool isSeparator) const {
+    if (isSeparator || !HasAttributes(element, L"an item without attributes is left out")) {
+        return;
+    }
+    const MetElement met = Describe(element, ElementRole::MenuItem, level);
+    CheckTexts(met, L"an item without a keyword is not shown");
+    m_diagnostics.Meet(met);
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <varnhold/xml.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What an attribute is for. Names that mean the same have the same use.
+enum class AttributeUse {
+    Keyword,
+    Name,
+    ToolTip,
+    Type,
+    Icon,
+    DisabledIcon,
+    Size,
+    Width,
+    GroupBefore,
+    ValueGroup,
+    Command,
+    Parameter,
+    CateTab,
+    Help,
+    AcceptF1,
+    ShortKey,
+    HotKey,
+    Prompt,
+    /// A tooltip that is shown as it is written.
+    Hint,
+};
+
+/// An attribute that a kind of file has. Letter case does not count.
+struct AttributeRule {
+    std::string_view name;
+    AttributeUse use;
+};
+
+enum class ElementRole {
+    Row,
+    Category,
+    QuickAccessItem,
+    StatusButton,
+    Panel,
+    RibbonElement,
+    SubItem,
+    MenuGroup,
+    Popup,
+    MenuItem,
+    MenuSeparator,
+    ToolBarGroup,
+    ToolBar,
+    ToolBarButton,
+    ToolBarSeparator,
+};
+
+struct MetAttribute {
+    AttributeUse use;
+    std::wstring value;
+    /// Of the name's first letter.
+    varnhold::TextPosition position;
+    /// The name is misspelt, and was reported; this is what was meant by it.
+    bool isMeant = false;
+};
+
+/// An element of a configuration file as it is written: every attribute once, the last where it stands twice.
+struct MetElement {
+    ElementRole role = ElementRole::Row;
+    /// 1 below the document element.
+    std::size_t depth = 1;
+    /// Of its "<".
+    varnhold::TextPosition position;
+    std::vector<MetAttribute> attributes;
+    bool hasChildren = false;
+
+    /// Null when there is none.
+    const MetAttribute* Find(AttributeUse use) const {
+        for (const MetAttribute& attribute : attributes) {
+            if (attribute.use == use) {
+                return &attribute;
+            }
+        }
+        return nullptr;
+    }
+    bool Has(AttributeUse use) const { return Find(use) != nullptr; }
+    /// Empty where there is none.
+    std::wstring_view ValueOf(AttributeUse use) const {
+        const MetAttribute* const found = Find(use);
+        return found ? std::wstring_view(found->value) : std::wstring_view();
+    }
+};

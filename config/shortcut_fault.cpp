@@ -1,0 +1,112 @@
+#include "config/shortcut_fault.h"
+
+#include "config/shortcut_text.h"
+#include "config/suggestion.h"
+#include "varnhold/letter_case.h"
+
+#include <algorithm>
+#include <optional>
+#include <stdexcept>
+#include <vector>
+
+namespace {
+
+constexpr wchar_t kLastTypedSign = L'~';
+
+std::optional<ShortcutText> Read(std::wstring_view shortcut) {
+    try {
+        return ReadShortcutText(shortcut);
+    } catch (const std::out_of_range&) {
+        return std::nullopt;
+    }
+}
+
+std::vector<std::wstring> Pieces(std::wstring_view shortcut) {
+    std::vector<std::wstring> pieces;
+    for (;;) {
+        const std::size_t end = std::min(shortcut.find(L'+'), shortcut.size());
+        pieces.emplace_back(shortcut.substr(0, end));
+        if (end == shortcut.size()) {
+            return pieces;
+        }
+        shortcut.remove_prefix(end + 1);
+    }
+}
+
+std::wstring Trimmed(const std::wstring& text) {
+    constexpr const wchar_t* blanks = L" \t";
+    const std::size_t first = text.find_first_not_of(blanks);
+    return first == std::wstring::npos ? std::wstring() : text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+bool IsModifier(const std::wstring& piece) {
+    const auto read = Read(piece + L"+A");
+    return read && read->flags != ShortcutVirtualKey;
+}
+
+std::wstring WithoutBlanks(std::wstring_view shortcut) {
+    std::wstring text;
+    for (const std::wstring& piece : Pieces(shortcut)) {
+        text += (text.empty() ? L"" : L"+") + Trimmed(piece);
+    }
+    return text;
+}
+
+/// The first piece that is no modifier.
+std::vector<std::wstring>::const_iterator KeyOf(const std::vector<std::wstring>& pieces) {
+    return std::ranges::find_if(pieces, [](const std::wstring& piece) { return !IsModifier(piece); });
+}
+
+} // namespace
+
+ShortcutFault FindShortcutFault(std::wstring_view shortcut) {
+    const auto read = Read(shortcut);
+    if (!read) {
+        return {L"nothing stands where the shortcut's key belongs; the loading of the file ends here",
+                L"write the key, or remove HOTKEY"};
+    }
+    const std::vector<std::wstring> pieces = Pieces(shortcut);
+    const auto key = KeyOf(pieces);
+    const std::wstring readAs = L" is read as the key " + std::wstring(1, read->character);
+    if (pieces.size() == 1 && shortcut.size() > 1) {
+        return {Quoted(shortcut) + L" is read as the character " + std::wstring(1, read->character) +
+                    L": only one letter, digit or sign counts",
+                L"take another shortcut; keys with a name cannot be written here"};
+    }
+    if (read->character == 0 || key == pieces.end()) {
+        return {L"the shortcut names no key and is left out", L"write a key behind the modifiers"};
+    }
+    if (const std::wstring plain = WithoutBlanks(shortcut);
+        plain != shortcut && FindShortcutFault(plain).text.empty()) {
+        return {Quoted(*key) + readAs + L": blanks count", L"write \"" + plain + L"\""};
+    }
+    if (std::next(key) != pieces.end()) {
+        const std::wstring meant = ClosestWord(*key, {L"Ctrl", L"Shift", L"Alt"});
+        return {Quoted(*key) + L" is no modifier, and" + readAs + L"; nothing behind it is read",
+                meant.empty() ? L"the modifiers are Ctrl, Shift and Alt" : DidYouMean(meant)};
+    }
+    if (key->size() > 1) {
+        return {Quoted(*key) + readAs + L": only one letter, digit or sign counts",
+                L"take another shortcut; keys with a name cannot be written here"};
+    }
+    if (read->character > kLastTypedSign) {
+        return {L"not every keyboard has a key for " + std::wstring(1, read->character),
+                L"take a letter, digit or sign of the keyboard"};
+    }
+    return {};
+}
+
+std::wstring CanonicalShortcut(std::wstring_view shortcut) {
+    const auto read = Read(shortcut);
+    if (!read || read->character == 0) {
+        return {};
+    }
+    std::wstring text;
+    for (const auto& [flag, name] :
+         {std::pair(ShortcutControl, L"Ctrl+"), std::pair(ShortcutShift, L"Shift+"), std::pair(ShortcutAlt, L"Alt+")}) {
+        text += read->flags & flag ? name : L"";
+    }
+    const bool isKey = (read->flags & ShortcutVirtualKey) != 0;
+    // A lone letter is typed as it is written; with a modifier it stands for its key.
+    return text + (isKey ? varnhold::LowerAscii(read->character) : read->character);
+}

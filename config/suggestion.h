@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The one of the words that was probably meant by a misspelt one: it takes the fewest changes of letters (one changed,
+/// left out, added, or two swapped), letter case aside, and not more than one for each three letters. Empty when none
+/// is so near, or several are equally.
+std::wstring ClosestWord(std::wstring_view misspelt, const std::vector<std::wstring>& words);
+
+/// The text between quotation marks; only the beginning of a long one.
+std::wstring Quoted(std::wstring_view text);
+
+/// `did you mean "word"?`; empty for an empty word.
+std::wstring DidYouMean(std::wstring_view word);
