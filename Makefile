@@ -4,13 +4,15 @@ RELEASE := build/windows-release
 BIN := $(RELEASE)/bin
 JOBS ?= $(shell nproc)
 
-.PHONY: help setup setup-lint build build-native demo test test-native test-windows test-e2e lint bench clean
+.PHONY: install package help setup setup-lint build build-native demo test test-native test-windows test-e2e lint bench clean
 
 help:
 	@echo "make demo   build the demo application and show it (or write build/demo.png where there is no display)"
 	@echo "make test   build everything and run every test (test-native, test-windows, test-e2e: a part of them)"
 	@echo "make lint   formatting, layers, link edges, headers, exports, spelling; scripts/lint tidy is the static analysis"
 	@echo "make bench  measure, each figure beside its floor"
+	@echo "make install PREFIX=FOLDER   DLLs, import libraries, headers, CMake package, skins, documentation"
+	@echo "make package   the same as a zip file, and one with the debug symbols"
 	@echo "make build  build only; the programs lie in $(BIN)"
 
 setup:
@@ -45,6 +47,15 @@ lint: setup-lint
 
 bench: setup
 	@scripts/run-bench
+
+install: setup
+	@[ -n "$(PREFIX)" ] || { echo "usage: make install PREFIX=FOLDER" >&2; exit 2; }
+	@scripts/build windows-release barwright barview package_files
+	@cmake --install $(RELEASE) --prefix "$(PREFIX)" >build/install.log
+	@echo "installed in $(PREFIX); see $(PREFIX)/share/doc/barwright/README.md"
+
+package: setup
+	@scripts/make-package
 
 clean:
 	rm -rf build

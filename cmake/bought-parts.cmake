@@ -14,7 +14,7 @@ endforeach()
 
 # Boost is headers only; the folder holds nothing but boost/, so that no host header reaches the cross compiler.
 add_library(boost_headers INTERFACE)
-target_include_directories(boost_headers SYSTEM INTERFACE ${BARWRIGHT_BOOST_INCLUDE})
+target_include_directories(boost_headers SYSTEM INTERFACE $<BUILD_INTERFACE:${BARWRIGHT_BOOST_INCLUDE}>)
 
 add_library(pugixml STATIC ${BARWRIGHT_PUGIXML}/pugixml.cpp)
 target_include_directories(pugixml SYSTEM PUBLIC ${BARWRIGHT_PUGIXML})

@@ -51,6 +51,10 @@ if(WIN32)
   target_compile_definitions(barwright_usage INTERFACE UNICODE _UNICODE NOMINMAX WINVER=0x0A00 _WIN32_WINNT=0x0A00
                                                       _WIN32_IE=0x0A00)
   add_compile_options($<$<CONFIG:Debug>:-g1>)
+  option(BARWRIGHT_DEBUG_SYMBOLS "Debug symbols in release builds, too, as packages want them")
+  if(BARWRIGHT_DEBUG_SYMBOLS)
+    add_compile_options(-g)
+  endif()
   # gcc_s, stdc++ and winpthread are shared: exceptions and type information cross our DLLs.
 endif()
 if(BARWRIGHT_SANITIZE)

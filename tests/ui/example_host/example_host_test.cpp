@@ -1,23 +1,34 @@
+#include "barwright_version.h"
+
 #include <gmock/gmock.h>
 
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 namespace {
 
 constexpr int kRibbonBar = 0xE806;
 constexpr DWORD kLongestStart = 60000; // milliseconds
 
+/// The one of this build, unless the environment names another, say one that was built from an installed package.
+std::wstring ProgramPath() {
+    wchar_t path[MAX_PATH * 2] = {};
+    if (::GetEnvironmentVariableW(L"BARWRIGHT_EXAMPLE_HOST", path, MAX_PATH * 2) != 0) {
+        return path;
+    }
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH * 2);
+    std::wstring folder = path;
+    folder.erase(folder.find_last_of(L'\\') + 1);
+    return folder + EXAMPLE_HOST;
+}
+
 /// The example, running; closed by force at the end if it is still there.
 class ExampleHost {
 public:
     explicit ExampleHost(const std::wstring& language) {
-        wchar_t path[MAX_PATH * 2] = {};
-        ::GetModuleFileNameW(nullptr, path, MAX_PATH * 2);
-        std::wstring folder = path;
-        folder.erase(folder.find_last_of(L'\\') + 1);
-        std::wstring line = L"\"" + folder + EXAMPLE_HOST + L"\" " + language;
+        std::wstring line = L"\"" + ProgramPath() + L"\" " + language;
         STARTUPINFOW start = {};
         start.cb = sizeof(start);
         if (::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &m_process)) {
@@ -119,6 +130,28 @@ TEST(ExampleHost, SpeaksTheLanguageThatItIsStartedWith) {
     ASSERT_NE(host.Frame(), nullptr) << "the example shows no frame with a ribbon";
     EXPECT_EQ(host.TitleAfterFirstButton(), L"已点亮： 1");
     EXPECT_EQ(host.Close(), 0u);
+}
+
+/// What the file's version resource says; empty when it has none.
+std::wstring VersionTextOf(const std::wstring& file) {
+    DWORD ignored = 0;
+    std::vector<BYTE> record(::GetFileVersionInfoSizeW(file.c_str(), &ignored));
+    void* text = nullptr;
+    UINT length = 0;
+    if (record.empty() || !::GetFileVersionInfoW(file.c_str(), 0, static_cast<DWORD>(record.size()), record.data()) ||
+        !::VerQueryValueW(record.data(), L"\\StringFileInfo\\040904b0\\ProductVersion", &text, &length)) {
+        return {};
+    }
+    return static_cast<const wchar_t*>(text);
+}
+
+TEST(ExampleHost, HasDllsThatCarryTheVersionOfTheHeader) {
+    std::wstring folder = ProgramPath();
+    folder.erase(folder.find_last_of(L"\\/") + 1);
+    const std::string version = BARWRIGHT_VERSION;
+    for (const wchar_t* dll : {L"barwright.dll", L"bwframework.dll", L"varnhold.dll", L"tovasque.dll"}) {
+        EXPECT_EQ(VersionTextOf(folder + dll), std::wstring(version.begin(), version.end())) << dll;
+    }
 }
 
 } // namespace

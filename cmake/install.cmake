@@ -1,0 +1,63 @@
+# make install and make package: libraries, headers, skins' pictures and a CMake package that a host finds with
+# find_package(Barwright CONFIG). Nothing outside the installed folder is needed but a compiler of the same family.
+include(CMakePackageConfigHelpers)
+
+set(data_folder share/barwright)
+set(package_folder lib/cmake/Barwright)
+set(include_folder include/barwright)
+
+# Each library's headers in a folder of their own, as they are included: <afxwin.h>, <varnhold/xml.h>, <ribbon_bar_ex.h>.
+function(barwright_install_headers target folder)
+  get_target_property(name ${target} NAME)
+  install(DIRECTORY ${folder}/ DESTINATION ${include_folder}/${name} FILES_MATCHING PATTERN "*.h")
+  target_include_directories(${target} SYSTEM INTERFACE $<INSTALL_INTERFACE:${include_folder}/${name}>)
+endfunction()
+barwright_install_headers(barwright ${PROJECT_SOURCE_DIR}/include)
+foreach(library framework varnhold tovasque)
+  barwright_install_headers(${library} ${PROJECT_SOURCE_DIR}/platform/${library}/include)
+endforeach()
+
+# Of Boost what our headers and hosts' reactors include, so that a host needs no Boost of its own.
+set(boost_folder ${PROJECT_BINARY_DIR}/package/boost)
+add_custom_command(OUTPUT ${boost_folder}.stamp
+  COMMAND ${PROJECT_SOURCE_DIR}/scripts/copy-boost ${CMAKE_CXX_COMPILER} ${BARWRIGHT_BOOST_INCLUDE} ${boost_folder}
+  COMMAND ${CMAKE_COMMAND} -E touch ${boost_folder}.stamp
+  DEPENDS ${PROJECT_SOURCE_DIR}/scripts/copy-boost VERBATIM)
+add_custom_target(package_files ALL DEPENDS ${boost_folder}.stamp)
+install(DIRECTORY ${boost_folder}/ DESTINATION ${include_folder}/boost_headers)
+target_include_directories(boost_headers SYSTEM INTERFACE $<INSTALL_INTERFACE:${include_folder}/boost_headers>)
+
+set_target_properties(framework_main PROPERTIES EXPORT_NAME main)
+install(TARGETS barwright framework varnhold tovasque framework_main barwright_usage boost_headers EXPORT BarwrightTargets
+        RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
+install(EXPORT BarwrightTargets NAMESPACE Barwright:: DESTINATION ${package_folder})
+configure_package_config_file(cmake/BarwrightConfig.cmake.in ${PROJECT_BINARY_DIR}/package/BarwrightConfig.cmake
+  INSTALL_DESTINATION ${package_folder} PATH_VARS data_folder)
+# Before 1.0 every second number may ask for a new compilation.
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/package/BarwrightConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/package/BarwrightConfig.cmake ${PROJECT_BINARY_DIR}/package/BarwrightConfigVersion.cmake
+              cmake/host.cmake
+        DESTINATION ${package_folder})
+
+get_property(compiler_dlls GLOBAL PROPERTY BARWRIGHT_RUNTIME_FILES)
+install(FILES ${compiler_dlls} DESTINATION bin)
+get_property(pictures GLOBAL PROPERTY BARWRIGHT_SKIN_PICTURES)
+install(DIRECTORY ${pictures}/ DESTINATION ${data_folder}/pic/skin)
+install(FILES platform/framework/window/entry/win_main.cpp cmake/application.manifest cmake/mingw-w64.cmake
+        DESTINATION ${data_folder})
+install(DIRECTORY examples/host DESTINATION ${data_folder}/examples)
+install(FILES README.md CHANGELOG.md LICENSE DESTINATION share/doc/barwright)
+install(DIRECTORY docs/ DESTINATION share/doc/barwright/docs)
+
+# What the bought parts ask for: their licences go where they go.
+function(barwright_install_licence name)
+  foreach(file ${ARGN})
+    if(EXISTS ${file})
+      install(FILES ${file} DESTINATION share/doc/barwright/licences RENAME ${name}.txt)
+      return()
+    endif()
+  endforeach()
+  message(FATAL_ERROR "the licence of ${name} is not at ${ARGN}")
+endfunction()
+barwright_install_licence(pugixml ${BARWRIGHT_PUGIXML}/../LICENSE.md)
+barwright_install_licence(boost ${BARWRIGHT_BOOST_INCLUDE}/LICENSE_1_0.txt /usr/share/doc/libboost-dev/copyright)
