@@ -23,6 +23,7 @@ add_library(framework_portable OBJECT EXCLUDE_FROM_ALL
   ribbon/menu_geometry.cpp
   ribbon/panel_layout.cpp
   ribbon/slider_geometry.cpp
+  ribbon/status_layout.cpp
   ribbon/text_break.cpp
   visual/pixels.cpp
   visual/skin.cpp

@@ -59,6 +59,8 @@ public:
     virtual BOOL IsFloating() const { return FALSE; }
     /// The frame's ribbon: it lies above every other pane, comes first on F6's way and takes the focus itself.
     virtual BOOL IsFrameRibbon() const { return FALSE; }
+    /// The pane's own window takes the focus and leads it among what it shows, rather than a control in it.
+    virtual BOOL LeadsFocusItself() const { return IsFrameRibbon(); }
     virtual BOOL IsTabbed() const { return FALSE; }
     virtual BOOL IsMDITabbed() const { return FALSE; }
     virtual BOOL IsAutoHideMode() const { return FALSE; }

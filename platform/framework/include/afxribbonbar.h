@@ -253,7 +253,10 @@ public:
     /// draws as well.
     void MarkMeasuresDirty() override;
     /// Lays out now if something changed since the last time.
-    void EnsureLayout();
+    virtual void EnsureLayout();
+    /// The elements that stand on the bar itself, in no category, in their order: those right of the tabs, or those of
+    /// a status bar. What they hold is not among them.
+    virtual void GetBarElements(CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>& arElements) const;
     void OnElementDestroyed(CMFCRibbonBaseElement* pElement) override;
     void HideTip() override;
     void OnEditPointer(CMFCRibbonEdit& edit, BOOL bInside, CPoint point) override;
@@ -319,8 +322,17 @@ protected:
     /// What OnSetAccData described last.
     CAccessibilityData m_AccData;
 
-private:
+    // For derived bars that lay themselves out.
+    /// Takes the metrics of the font and the scale that are in force.
     void UpdateMetrics();
+    /// The height of the bar has changed, or its place: the frame lays out its panes.
+    void AskFrameForRoom();
+    /// After a layout: tooltip and key tips follow their elements.
+    void OnLaidOut();
+    /// What is under way in the bar ends, while all that it looks at is still there. Host code may run.
+    void EndInput();
+
+private:
     bool IsFrameTooSmall();
     void Measure(CDC* pDC);
     void Arrange(CDC* pDC);
@@ -331,7 +343,6 @@ private:
     void ArrangeCaptionButtons(CDC* pDC);
     void UpdateMaximizeMode();
     CMFCRibbonBaseElement* HitTestCaptionElements(CPoint point);
-    void AskFrameForRoom();
     void SetActiveWithoutCheck(CMFCRibbonCategory* category);
     CMFCRibbonCategory* FirstVisibleCategory() const;
     /// The first of all elements that fits, in the order of FindByID, without those of the quick access toolbar.
@@ -350,8 +361,6 @@ private:
     void PressAt(CPoint point);
     void LightPanelAt(CPoint point);
     void CancelPress();
-    /// What is under way in the bar ends, while all that it looks at is still there. Host code may run.
-    void EndInput();
     void EndUseOf(const CMFCRibbonCategory& category);
     void PlaceTooltip();
 

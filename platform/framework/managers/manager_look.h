@@ -39,4 +39,9 @@ inline GroupPlace PlaceOf(const CMFCRibbonBaseElement& element) {
 /// The ground of a ribbon pop-up that lists its elements: plain, with a column for images. false: the bar is none.
 bool FillRibbonMenu(HDC dc, CBasePane* bar, const RECT& rect, const Look& look);
 
+/// A ribbon status bar: what it lies on, and the lines between its elements. false: the bar is none.
+bool IsStatusBar(const CBasePane* bar);
+bool FillStatusBar(HDC dc, CBasePane* bar, const RECT& rect, const Look& look);
+bool PaintStatusSeparator(HDC dc, CBasePane* bar, const RECT& rect, bool isUpright, const Look& look);
+
 } // namespace visual

@@ -75,7 +75,8 @@ void PaintCaptionGlyph(HDC dc, const CRect& rect, UINT hit, bool isAcross, bool 
 } // namespace
 
 void CMFCVisualManager::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
-    if (visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
+    if (visual::FillStatusBar(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
+        visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
         visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin()))) {
         return;
     }
@@ -93,7 +94,8 @@ void CMFCVisualManager::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRect rect, B
                            GetSkin()[ColorSlot::MenuSeparator]);
         return;
     }
-    if (!bIsHoriz && visual::PaintMenuSeparator(*pDC, pBar, rect, LookOf(GetSkin()))) {
+    if ((!bIsHoriz && visual::PaintMenuSeparator(*pDC, pBar, rect, LookOf(GetSkin()))) ||
+        visual::PaintStatusSeparator(*pDC, pBar, rect, bIsHoriz != FALSE, LookOf(GetSkin()))) {
         return;
     }
     visual::PaintEtchedLine(*pDC, rect, bIsHoriz != FALSE, GetSkin()[ColorSlot::SeparatorDark],
@@ -206,10 +208,6 @@ void CMFCVisualManager::OnDrawStatusBarPaneBorder(CDC* pDC, CMFCStatusBar*, CRec
     rectPane.left = rectPane.right - 2 * LookOf(GetSkin()).Line();
     visual::PaintEtchedLine(*pDC, rectPane, true, GetSkin()[ColorSlot::StatusSeparatorDark],
                             GetSkin()[ColorSlot::StatusSeparatorLight], LookOf(GetSkin()));
-}
-
-COLORREF CMFCVisualManager::OnDrawRibbonStatusBarPane(CDC*, CMFCRibbonStatusBar* pBar, CMFCRibbonStatusBarPane*) {
-    return GetRibbonStatusBarTextColor(pBar);
 }
 
 void CMFCVisualManager::OnDrawStatusBarProgress(CDC* pDC, CMFCStatusBar*, CRect rectProgress, int nProgressTotal,

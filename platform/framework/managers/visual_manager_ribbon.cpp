@@ -9,6 +9,8 @@
 #include <afxribbonpanelmenu.h>
 #include <afxribbonquickaccesstoolbar.h>
 #include <afxribbonslider.h>
+#include <afxribbonstatusbar.h>
+#include <afxribbonstatusbarpane.h>
 
 #include <array>
 
@@ -35,6 +37,11 @@ COLORREF ButtonTextColor(const visual::Skin& skin, const ElementState& state) {
     }
     const bool isLit = state.isHot || state.isPressed || state.isChecked || state.isDropped;
     return ToColorRef(skin[isLit ? ColorSlot::RibbonTextHot : ColorSlot::RibbonText]);
+}
+
+// A status bar's plates are thin enough for one colour in every state.
+COLORREF StatusTextColor(const CMFCRibbonBaseElement& element, const visual::Skin& skin) {
+    return ToColorRef(skin[element.IsDisabled() ? ColorSlot::StatusTextDisabled : ColorSlot::StatusText]);
 }
 
 // A row of a pop-up; the part under the pointer of a row with a command and a menu has a frame of its own.
@@ -78,10 +85,30 @@ visual::ButtonParts PartsOf(CMFCRibbonButton& button) {
     parts.isCommandHot = button.IsCommandAreaHighlighted() != FALSE;
     parts.isMenuHot = button.IsMenuAreaHighlighted() != FALSE;
     parts.place = visual::PlaceOf(button);
+    parts.isOnStatusBar = visual::IsStatusBar(button.GetParentRibbonBar());
     return parts;
 }
 
 } // namespace
+
+bool visual::IsStatusBar(const CBasePane* bar) { return DYNAMIC_DOWNCAST(CMFCRibbonStatusBar, bar) != nullptr; }
+
+bool visual::FillStatusBar(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
+    if (!IsStatusBar(bar)) {
+        return false;
+    }
+    PaintStatusBar(dc, rect, look);
+    return true;
+}
+
+bool visual::PaintStatusSeparator(HDC dc, CBasePane* bar, const RECT& rect, bool isUpright, const Look& look) {
+    if (!IsStatusBar(bar)) {
+        return false;
+    }
+    PaintEtchedLine(dc, rect, isUpright, look.skin[ColorSlot::StatusSeparatorDark],
+                    look.skin[ColorSlot::StatusSeparatorLight], look);
+    return true;
+}
 
 COLORREF CMFCVisualManager::RibbonCategoryColorToRGB(AFX_RibbonCategoryColor color) {
     static constexpr std::array<COLORREF, 8> colors{static_cast<COLORREF>(-1), RGB(224, 84, 76),  RGB(240, 146, 54),
@@ -191,7 +218,19 @@ COLORREF CMFCVisualManager::OnFillRibbonButton(CDC* pDC, CMFCRibbonButton* pButt
         return FillMenuRow(pDC, *pButton, state, GetSkin());
     }
     visual::PaintButton(*pDC, PartsOf(*pButton), state, LookOf(GetSkin()));
-    return ButtonTextColor(GetSkin(), state);
+    return visual::IsStatusBar(pButton->GetParentRibbonBar()) ? StatusTextColor(*pButton, GetSkin())
+                                                              : ButtonTextColor(GetSkin(), state);
+}
+
+COLORREF CMFCVisualManager::OnDrawRibbonStatusBarPane(CDC* pDC, CMFCRibbonStatusBar* pBar,
+                                                      CMFCRibbonStatusBarPane* pPane) {
+    if (pPane == nullptr) {
+        return GetRibbonStatusBarTextColor(pBar);
+    }
+    if (!pPane->IsStatic()) {
+        visual::PaintButton(*pDC, PartsOf(*pPane), StateOf(*pPane), LookOf(GetSkin()));
+    }
+    return pPane->IsDisabled() ? StatusTextColor(*pPane, GetSkin()) : GetRibbonStatusBarTextColor(pBar);
 }
 
 void CMFCVisualManager::OnDrawRibbonButtonBorder(CDC* pDC, CMFCRibbonButton* pButton) {

@@ -99,7 +99,7 @@ void CMFCVisualManagerOffice2003::OnDrawSeparator(CDC* pDC, CBasePane* pBar, CRe
     // Between a menu's items the line is the menu's own.
     if (!bIsHoriz && DYNAMIC_DOWNCAST(CMFCPopupMenuBar, pBar) != nullptr) {
         CMFCVisualManager::OnDrawSeparator(pDC, pBar, rect, bIsHoriz);
-    } else {
+    } else if (!visual::PaintStatusSeparator(*pDC, pBar, rect, bIsHoriz != FALSE, LookOf(GetSkin()))) {
         PaintSeparator(*pDC, rect, bIsHoriz, GetSkin());
     }
 }
@@ -115,7 +115,8 @@ void CMFCVisualManagerOffice2003::OnUpdateSystemColors() {
 }
 
 void CMFCVisualManagerOffice2003::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect, BOOL) {
-    if (visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
+    if (visual::FillStatusBar(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
+        visual::FillRibbonMenu(*pDC, pBar, rectClient, LookOf(GetSkin())) ||
         visual::PaintMenuBackground(*pDC, pBar, rectClient, LookOf(GetSkin()))) {
         return;
     }

@@ -108,6 +108,7 @@ public:
     bool TakeFocus(const Node& node) override;
 
 private:
+    void AppendOwn(std::vector<Node>& nodes) const;
     void Invoke(CMFCRibbonBaseElement& element) override;
 
     CMFCRibbonBar& m_bar;

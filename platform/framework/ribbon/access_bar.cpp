@@ -16,11 +16,23 @@ RibbonBarAccess::RibbonBarAccess(CMFCRibbonBar& bar) : RibbonAccess(bar), m_bar(
 
 void RibbonBarAccess::EnsureLayout() const { m_bar.EnsureLayout(); }
 
+void RibbonBarAccess::AppendOwn(std::vector<Node>& nodes) const {
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> own;
+    m_bar.GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        AppendShown(own[index], nodes);
+    }
+}
+
 std::vector<Node> RibbonBarAccess::ChildrenOf(const Node& node) const {
     RibbonBarParts& parts = PartsOf(m_bar);
     std::vector<Node> nodes;
     switch (node.kind) {
     case Kind::Root:
+        if (!m_bar.IsMainRibbonBar()) {
+            AppendOwn(nodes);
+            return nodes;
+        }
         AppendShown(parts.applicationButton, nodes);
         nodes.push_back({Kind::QuickAccess});
         for (const auto& context : parts.contexts) {
@@ -31,9 +43,7 @@ std::vector<Node> RibbonBarAccess::ChildrenOf(const Node& node) const {
                 AppendPlaced(button.get(), nodes);
             }
         }
-        for (const auto& element : parts.tabElements) {
-            AppendShown(element.get(), nodes);
-        }
+        AppendOwn(nodes);
         nodes.push_back({Kind::TabList});
         if (parts.active != nullptr) {
             nodes.push_back({Kind::Category, TabOf(*parts.active)});
@@ -92,8 +102,9 @@ void RibbonBarAccess::Describe(const Node& node, CAccessibilityData& data) const
     RibbonAccess::Describe(node, data);
     switch (node.kind) {
     case Kind::Root:
-        data.m_strName = RibbonAccessText(RibbonAccessTextId::Ribbon);
-        data.m_nRole = ROLE_SYSTEM_TOOLBAR;
+        data.m_strName =
+            RibbonAccessText(m_bar.IsMainRibbonBar() ? RibbonAccessTextId::Ribbon : RibbonAccessTextId::StatusBar);
+        data.m_nRole = m_bar.IsMainRibbonBar() ? ROLE_SYSTEM_TOOLBAR : ROLE_SYSTEM_STATUSBAR;
         data.m_nState |= STATE_SYSTEM_FOCUSABLE;
         break;
     case Kind::QuickAccess:

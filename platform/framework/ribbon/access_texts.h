@@ -18,6 +18,7 @@ enum class RibbonAccessTextId : UINT {
     Alt = 17159,
     ScrollLeft = 17160,
     ScrollRight = 17161,
+    StatusBar = 17162,
 };
 
 CString RibbonAccessText(RibbonAccessTextId id);

@@ -106,6 +106,11 @@ void CMFCRibbonBar::OnDestroy() {
             elements[index]->DestroyCtrl();
         }
     }
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> own;
+    GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        own[index]->DestroyCtrl();
+    }
     CPane::OnDestroy();
 }
 

@@ -67,11 +67,15 @@ void CMFCRibbonBar::EnsureLayout() {
     m_parts->layoutDirty = false;
     m_parts->isLayingOut = false;
     m_parts->laidOutWidth = client.Width();
-    PlaceTooltip();
-    m_parts->keyboard->OnLayoutChanged();
+    OnLaidOut();
     if (client.Height() != m_parts->arrangement.height) {
         AskFrameForRoom();
     }
+}
+
+void CMFCRibbonBar::OnLaidOut() {
+    PlaceTooltip();
+    m_parts->keyboard->OnLayoutChanged();
 }
 
 void CMFCRibbonBar::MarkMeasuresDirty() {

@@ -351,6 +351,12 @@ int CMFCRibbonBar::FindCategoryIndexByData(DWORD dwData) const {
     return -1;
 }
 
+void CMFCRibbonBar::GetBarElements(ElementArray& arElements) const {
+    for (const auto& element : m_parts->tabElements) {
+        arElements.Add(element.get());
+    }
+}
+
 CMFCRibbonBaseElement* CMFCRibbonBar::FindByID(UINT uiCmdID, BOOL bVisibleOnly, BOOL bExcludeQAT) const {
     for (const auto& category : m_parts->categories) {
         if (bVisibleOnly && !category->IsVisible()) {
@@ -360,8 +366,10 @@ CMFCRibbonBaseElement* CMFCRibbonBar::FindByID(UINT uiCmdID, BOOL bVisibleOnly, 
             return found;
         }
     }
-    for (const auto& element : m_parts->tabElements) {
-        if (CMFCRibbonBaseElement* found = ribbon::FindByID(*element, uiCmdID, bVisibleOnly)) {
+    ElementArray own;
+    GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        if (CMFCRibbonBaseElement* found = ribbon::FindByID(*own[index], uiCmdID, bVisibleOnly)) {
             return found;
         }
     }
@@ -387,8 +395,10 @@ CMFCRibbonBaseElement* CMFCRibbonBar::FindByData(DWORD_PTR dwData, BOOL bVisible
             return found;
         }
     }
-    for (const auto& element : m_parts->tabElements) {
-        if (CMFCRibbonBaseElement* found = ribbon::FindByData(*element, dwData, bVisibleOnly)) {
+    ElementArray own;
+    GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        if (CMFCRibbonBaseElement* found = ribbon::FindByData(*own[index], dwData, bVisibleOnly)) {
             return found;
         }
     }
@@ -400,8 +410,10 @@ void CMFCRibbonBar::GetElementsByID(UINT uiCmdID, ElementArray& arButtons) {
     for (const auto& category : m_parts->categories) {
         category->GetElementsByID(uiCmdID, arButtons);
     }
-    for (const auto& element : m_parts->tabElements) {
-        element->GetElementsByID(uiCmdID, arButtons);
+    ElementArray own;
+    GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        own[index]->GetElementsByID(uiCmdID, arButtons);
     }
     if (m_parts->applicationButton != nullptr) {
         m_parts->applicationButton->GetElementsByID(uiCmdID, arButtons);
@@ -435,8 +447,10 @@ CMFCRibbonBaseElement* CMFCRibbonBar::GetDroppedDown() {
     if (m_parts->applicationButton != nullptr && m_parts->applicationButton->IsDroppedDown()) {
         return m_parts->applicationButton;
     }
-    for (const auto& element : m_parts->tabElements) {
-        if (CMFCRibbonBaseElement* dropped = element->GetDroppedDown()) {
+    ElementArray own;
+    GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        if (CMFCRibbonBaseElement* dropped = own[index]->GetDroppedDown()) {
             return dropped;
         }
     }

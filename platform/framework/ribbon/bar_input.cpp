@@ -189,7 +189,9 @@ void CMFCRibbonBar::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
 
 void CMFCRibbonBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
     const AskingForStates asking(*this, *m_parts);
-    UpdateMaximizeMode();
+    if (IsMainRibbonBar()) {
+        UpdateMaximizeMode();
+    }
     EnsureLayout();
     CMFCRibbonCmdUI update;
     update.m_pOther = this;
@@ -197,8 +199,10 @@ void CMFCRibbonBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
         m_parts->applicationButton->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
     }
     m_parts->quickAccess.OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
-    for (const auto& element : m_parts->tabElements) {
-        element->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> own;
+    GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        own[index]->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);
     }
     if (m_parts->active != nullptr && !m_parts->minimized) {
         m_parts->active->OnUpdateCmdUI(&update, pTarget, bDisableIfNoHndler);

@@ -71,8 +71,10 @@ CMFCRibbonBaseElement* CMFCRibbonBar::GetFocused() {
             elements.Add(button.get());
         }
     }
-    for (const auto& element : m_parts->tabElements) {
-        element->GetElements(elements);
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> own;
+    GetBarElements(own);
+    for (INT_PTR index = 0; index < own.GetSize(); ++index) {
+        own[index]->GetElements(elements);
     }
     elements.Add(&m_parts->tabScrollLeft);
     elements.Add(&m_parts->tabScrollRight);

@@ -19,8 +19,11 @@ target_sources(framework PRIVATE
   element_metrics.cpp
   label.cpp
   panel_changes.cpp
+  pane_animation.cpp
+  progress_bar.cpp
   separator.cpp
   shown_text.cpp
   slider.cpp
+  status_bar_pane.cpp
   sub_items.cpp
 )

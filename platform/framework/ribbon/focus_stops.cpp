@@ -84,11 +84,13 @@ Elements RibbonFocusStops::Tabs() const {
 
 Elements RibbonFocusStops::TabRow() const {
     Elements stops;
-    for (const auto& element : m_parts.tabElements) {
-        ElementArray elements;
-        element->GetElements(elements);
-        AppendStops(elements, stops);
+    ElementArray own;
+    m_bar.GetBarElements(own);
+    ElementArray elements;
+    for (INT_PTR place = 0; place < own.GetSize(); ++place) {
+        own[place]->GetElements(elements);
     }
+    AppendStops(elements, stops);
     return stops;
 }
 

@@ -95,8 +95,10 @@ void RibbonKeyTipLevels::CollectBar(Tips& tips) const {
     for (const auto& category : m_parts.categories) {
         Append(category->GetTab(), tips);
     }
-    for (const auto& element : m_parts.tabElements) {
-        Append(*element, tips);
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> own;
+    m_bar.GetBarElements(own);
+    for (INT_PTR place = 0; place < own.GetSize(); ++place) {
+        Append(*own[place], tips);
     }
     Assign(tips, commands);
 }

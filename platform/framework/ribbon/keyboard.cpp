@@ -153,7 +153,11 @@ void RibbonKeyboard::Activate() {
         // The system tells the former focus to the window that gets it; an edit in the bar is none to return to.
         m_bar.SetFocus();
     }
-    SetFocusTo(m_stops.ActiveTab());
+    if (CMFCRibbonTab* tab = m_stops.ActiveTab()) {
+        SetFocusTo(tab);
+    } else if (const Elements stops = m_stops.InOrder(); !stops.empty()) {
+        SetFocusTo(stops.front()); // a bar without tabs
+    }
 }
 
 void RibbonKeyboard::Deactivate(Focus focus) {

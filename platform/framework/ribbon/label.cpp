@@ -1,6 +1,7 @@
 #include <afxRibbonLabel.h>
 
 #include <afxglobals.h>
+#include <afxribbonbar.h>
 #include <afxvisualmanager.h>
 
 #include "ribbon/element_metrics.h"
@@ -11,6 +12,8 @@ IMPLEMENT_DYNCREATE(CMFCRibbonLabel, CMFCRibbonButton)
 namespace {
 // A multi-line label is about so many times as wide as high.
 constexpr int kMultiLineRows = 3;
+// Above and below the text on a status bar, at 96 DPI.
+constexpr int kStatusMarginY = 2;
 } // namespace
 
 CMFCRibbonLabel::CMFCRibbonLabel(LPCTSTR lpszText, BOOL bIsMultiLine)
@@ -31,7 +34,10 @@ CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     const fx::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
     m_sizeTextRight = fx::ToSize(text);
     if (!m_bIsMultiLine || m_strText.IsEmpty()) {
-        return {text.width + 2 * m_szMargin.cx, metrics.RowHeight()};
+        // In a panel's row it is as high as its neighbours; on a status bar its text only stands in the middle.
+        const bool isInRow = m_pRibbonBar == nullptr || m_pRibbonBar->IsMainRibbonBar();
+        const int height = isInRow ? metrics.RowHeight() : metrics.textHeight + 2 * metrics.Scaled(kStatusMarginY);
+        return {text.width + 2 * m_szMargin.cx, height};
     }
 
     const ribbon::TextContext context(pDC);
