@@ -1,0 +1,233 @@
+// The extended status bar: which elements it has for which application.
+#include "ribbon_status_bar_ex.h"
+
+#include "add_ribbon_bar.h"
+#include "bars/status_bar_layout.h"
+#include "library_context.h"
+#include "menu_id_mgr.h"
+#include "ribbon_icon_button.h"
+#include "ribbon_label_ex.h"
+#include "ribbon_slider_sync.h"
+
+#include <fx/dc_scope.h>
+#include <fx/to_rect.h>
+#include <fx/window_dc.h>
+#include <varnhold/letter_case.h>
+
+#include <memory>
+
+IMPLEMENT_DYNCREATE(CMFCRibbonStatusBarEx, CMFCRibbonStatusBar)
+
+BEGIN_MESSAGE_MAP(CMFCRibbonStatusBarEx, CMFCRibbonStatusBar)
+END_MESSAGE_MAP()
+
+namespace {
+
+using Element = CMFCRibbonBaseElement;
+using ElementArray = CArray<Element*, Element*>;
+using Record = CAddRibbonBar::_RibbonInfo;
+
+constexpr wchar_t kSeparator[] = L"Separator";
+constexpr wchar_t kLabel[] = L"label";
+constexpr wchar_t kSlider[] = L"slider";
+constexpr int kIconSide = 16;
+constexpr int kSliderWidth = 50; // of one that names none
+
+bool IsSameName(const wchar_t* one, const wchar_t* other) { return ::lstrcmpiW(one, other) == 0; }
+
+bool IsIconFile(const CString& path) {
+    const auto icon =
+        static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, kIconSide, kIconSide, LR_LOADFROMFILE));
+    return icon != nullptr && ::DestroyIcon(icon);
+}
+
+std::unique_ptr<Element> MakeButton(UINT id, const Record& record) {
+    const CString icon = GetIconPathStr(record.picPath, kIconSide);
+    const wchar_t* const text = IsIconFile(icon) ? L"" : record.name.c_str();
+    auto button = std::make_unique<CMFCRibbonSmallButton>(id, text, icon, FALSE, CString(), FALSE, FALSE);
+    button->SetToolTipText(record.tooltip.c_str());
+    button->SetSmallMode();
+    return button;
+}
+
+std::unique_ptr<Element> WithTexts(std::unique_ptr<Element> element, const Record& record) {
+    element->SetText(record.name.c_str());
+    element->SetToolTipText(record.tooltip.c_str());
+    return element;
+}
+
+std::unique_ptr<Element> MakeElement(UINT id, const Record& record) {
+    if (varnhold::EqualsIgnoringCase(record.type, kLabel)) {
+        auto label = std::make_unique<CMFCRibbonLabelEx>(record.name.c_str());
+        label->SetID(id);
+        return WithTexts(std::move(label), record);
+    }
+    if (varnhold::EqualsIgnoringCase(record.type, kSlider)) {
+        return WithTexts(std::make_unique<CMFCRibbonSliderSync>(id, record.width < 1 ? kSliderWidth : record.width),
+                         record);
+    }
+    return MakeButton(id, record);
+}
+
+/// Null where the class cannot be made by its name.
+std::unique_ptr<Element> CopyOf(Element& source) {
+    std::unique_ptr<CObject> made(source.GetRuntimeClass()->CreateObject());
+    auto* const copy = DYNAMIC_DOWNCAST(CMFCRibbonBaseElement, made.get());
+    if (copy == nullptr) {
+        return nullptr;
+    }
+    static_cast<void>(made.release());
+    std::unique_ptr<Element> result(copy);
+    copy->CopyFrom(source);
+    copy->SetID(source.GetID());
+    copy->CopyStateFrom(&source);
+    auto* const slider = DYNAMIC_DOWNCAST(CMFCRibbonSliderSync, &source);
+    auto* const follower = DYNAMIC_DOWNCAST(CMFCRibbonSliderSync, copy);
+    if (slider != nullptr && follower != nullptr) {
+        slider->AddLinkedSlider(follower);
+    }
+    return result;
+}
+
+status::Item MeasureElement(Element& element, CDC& dc) {
+    element.OnCalcTextSize(&dc);
+    status::Item item;
+    item.size = fx::FromSize(element.GetSize(&dc));
+    item.isVisible = element.IsVisible() != FALSE;
+    item.isSeparator = element.IsSeparator() != FALSE;
+    item.fillsHeight = element.IsWholeRowHeight() != FALSE;
+    const auto* const label = DYNAMIC_DOWNCAST(CMFCRibbonLabelEx, &element);
+    item.isRight = label != nullptr && label->IsRight();
+    return item;
+}
+
+void PlaceElement(Element& element, const fx::Rect& rect, bool isTold, CDC& dc) {
+    element.SetRect(fx::ToRect(rect));
+    if (isTold) {
+        element.OnAfterChangeRect(&dc);
+    }
+}
+
+} // namespace
+
+// The window first: its messages still need the members.
+CMFCRibbonStatusBarEx::~CMFCRibbonStatusBarEx() {
+    if (GetSafeHwnd() != nullptr) {
+        DestroyWindow();
+    }
+}
+
+void CMFCRibbonStatusBarEx::CreateAllExBtns() {
+    std::map<std::wstring, Element*> firstOf; // by keyword
+    for (const auto& [path, application] : CAddRibbonBar::m_smStatusExBtns) {
+        std::vector<Element*>& elements = m_mapAppElements[application.first];
+        for (const Record& record : application.second) {
+            std::unique_ptr<Element> made;
+            int id = 0;
+            if (varnhold::EqualsIgnoringCase(record.keyword, kSeparator)) {
+                made = std::make_unique<CMFCRibbonSeparator>(FALSE);
+            } else if (!CMenuIdMgr::Ins()->GetMenuId(record.keyword, id)) {
+                continue;
+            } else if (const auto first = firstOf.find(record.keyword); first != firstOf.end()) {
+                made = CopyOf(*first->second);
+            } else {
+                made = MakeElement(static_cast<UINT>(id), record);
+                firstOf[record.keyword] = made.get();
+            }
+            if (made == nullptr) {
+                continue;
+            }
+            elements.push_back(made.get());
+            AddExtendedElement(made.release(), L"", TRUE);
+        }
+    }
+}
+
+void CMFCRibbonStatusBarEx::SetExEleApp(const CString& app) {
+    if (app.IsEmpty()) {
+        return;
+    }
+    const auto found = CAddRibbonBar::m_smStatusExBtns.find(std::wstring(app.GetString()));
+    const CString target = found != CAddRibbonBar::m_smStatusExBtns.end() ? found->second.first.c_str() : L"";
+    if (m_strCurApp.IsEmpty() && m_mapAppElements.empty()) {
+        CreateAllExBtns();
+    }
+    if (IsSameName(m_strCurApp, target)) {
+        return;
+    }
+    for (const auto& [name, elements] : m_mapAppElements) {
+        const bool isShown = IsSameName(name.c_str(), target);
+        if (isShown) {
+            m_strCurApp = target;
+        }
+        for (Element* const element : elements) {
+            element->SetVisible(isShown ? TRUE : FALSE);
+        }
+    }
+    if (GetSafeHwnd() != nullptr) {
+        RecalcLayout();
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    }
+}
+
+void CMFCRibbonStatusBarEx::SetEleWidth(int index, int width) {
+    m_mapWidths[index] = width;
+    MarkLayoutDirty();
+}
+
+void CMFCRibbonStatusBarEx::RemoveAllEx() {
+    ElementArray gone;
+    gone.Append(m_arExtendedElements);
+    m_arExtendedElements.RemoveAll();
+    for (auto& [name, elements] : m_mapAppElements) {
+        elements.clear();
+    }
+    for (INT_PTR index = 0; index < gone.GetSize(); ++index) {
+        delete gone[index];
+    }
+    MarkLayoutDirty();
+}
+
+// ---- layout
+
+void CMFCRibbonStatusBarEx::RecalcLayout() {
+    if (GetSafeHwnd() == nullptr) {
+        return;
+    }
+    CClientDC dc(this);
+    const CFont* const own = GetFont();
+    const fx::DcSelection font(dc, own != nullptr ? own->GetSafeHandle() : nullptr);
+    CRect client;
+    GetClientRect(client);
+    status::Shape shape;
+    shape.client = {client.Width(), client.Height()};
+    shape.gripWidth = GetSizeGripWidth();
+    shape.borderHeight = IsBottomFrame() ? ::GetSystemMetrics(SM_CYSIZEFRAME) : 0;
+    shape.showsInformation = IsInformationMode() != FALSE;
+    for (INT_PTR index = 0; index < m_arElements.GetSize(); ++index) {
+        shape.elements.push_back(MeasureElement(*m_arElements[index], dc));
+        shape.elements.back().fixedWidth = m_mapWidths[static_cast<std::int32_t>(index)];
+    }
+    for (INT_PTR index = 0; index < m_arExtendedElements.GetSize(); ++index) {
+        shape.extended.push_back(MeasureElement(*m_arExtendedElements[index], dc));
+    }
+
+    const status::Places places = status::Arrange(shape);
+    m_rectSizeGrip = fx::ToRect(places.sizeGrip);
+    m_rectBottomResize = fx::ToRect(places.bottomResize);
+    m_rectInformation = fx::ToRect(places.information);
+    m_nSpace = shape.showsInformation ? m_nSpace : places.space;
+    for (INT_PTR index = m_arExtendedElements.GetSize(); index-- > 0;) {
+        PlaceElement(*m_arExtendedElements[index], places.extended[static_cast<std::size_t>(index)], true, dc);
+    }
+    for (INT_PTR index = 0; index < m_arElements.GetSize(); ++index) {
+        const auto place = static_cast<std::size_t>(index);
+        PlaceElement(*m_arElements[index], places.elements[place], !places.isSkipped[place], dc);
+    }
+}
+
+CMFCRibbonBaseElement* CMFCRibbonStatusBarEx::HitTest(CPoint point, int bCheckActiveCategory, int bCheckPanelCaption) {
+    return CMFCRibbonStatusBar::HitTest(point, bCheckActiveCategory, bCheckPanelCaption);
+}
+
+void CMFCRibbonStatusBarEx::OnPaneContextMenu(CWnd* /*pWnd*/, CPoint /*point*/) {}

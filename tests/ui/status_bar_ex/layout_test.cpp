@@ -1,0 +1,215 @@
+// The bar gives the pure layout what it measures and hands the places out.
+#include "extended_status.h"
+
+namespace {
+
+class StatusBarExLayout : public ExtendedStatus {
+protected:
+    CRect Client() const {
+        CRect client;
+        bar.GetClientRect(client);
+        return client;
+    }
+};
+
+/// Counts what it is told.
+class ToldButton : public CMFCRibbonButton {
+public:
+    explicit ToldButton(LPCTSTR text) : CMFCRibbonButton(910, text) {}
+    int told = 0;
+    void OnAfterChangeRect(CDC* dc) override {
+        ++told;
+        CMFCRibbonButton::OnAfterChangeRect(dc);
+    }
+};
+
+class ToldSeparator : public CMFCRibbonSeparator {
+public:
+    int told = 0;
+    void OnAfterChangeRect(CDC* dc) override {
+        ++told;
+        CMFCRibbonSeparator::OnAfterChangeRect(dc);
+    }
+};
+
+TEST_F(StatusBarExLayout, AnElementHasItsFixedWidthWhateverItsText) {
+    CMFCRibbonButton* button = nullptr;
+    for (const wchar_t* const text : {L"a", L"b", L"c", L"d"}) {
+        button = &AddMain(text);
+    }
+    bar.SetEleWidth(3, 80);
+    bar.EnsureLayout();
+    EXPECT_EQ(button->GetRect().Width(), 80);
+    button->SetText(L"a text that is much longer than eighty pixels");
+    bar.EnsureLayout();
+    EXPECT_EQ(button->GetRect().Width(), 80);
+}
+
+TEST_F(StatusBarExLayout, AWidthOfZeroRestoresItsOwn) {
+    CMFCRibbonButton* button = nullptr;
+    for (const wchar_t* const text : {L"a", L"b", L"c", L"d"}) {
+        button = &AddMain(text);
+    }
+    bar.EnsureLayout();
+    const int own = button->GetRect().Width();
+    bar.SetEleWidth(3, 80);
+    bar.EnsureLayout();
+    ASSERT_NE(button->GetRect().Width(), own);
+    bar.SetEleWidth(3, 0);
+    bar.EnsureLayout();
+    EXPECT_EQ(button->GetRect().Width(), own);
+}
+
+TEST_F(StatusBarExLayout, AWidthForAnIndexThatHasNoElementHarmsNobody) {
+    CMFCRibbonButton& button = AddMain(L"a");
+    bar.EnsureLayout();
+    const CRect before = button.GetRect();
+    for (const int index : {-1, 7, 1000000}) {
+        bar.SetEleWidth(index, 80);
+    }
+    bar.EnsureLayout();
+    EXPECT_EQ(button.GetRect(), before);
+}
+
+TEST_F(StatusBarExLayout, WithTheSecondElementHiddenTheFirstIsAsWideAsBoth) {
+    CMFCRibbonButton& first = AddMain(L"first");
+    CMFCRibbonButton& second = AddMain(L"the second");
+    bar.EnsureLayout();
+    const int both = first.GetRect().Width() + second.GetRect().Width();
+    second.SetVisible(FALSE);
+    bar.EnsureLayout();
+    EXPECT_EQ(first.GetRect().Width(), both);
+    EXPECT_TRUE(second.GetRect().IsRectEmpty());
+}
+
+TEST_F(StatusBarExLayout, TheSecondElementIs23High) {
+    AddMain(L"first");
+    const CMFCRibbonButton& second = AddMain(L"second");
+    bar.EnsureLayout();
+    EXPECT_EQ(second.GetRect().Height(), 23);
+}
+
+TEST_F(StatusBarExLayout, AHiddenElementFromTheThirdOnKeepsItsPlace) {
+    AddMain(L"a");
+    AddMain(L"b");
+    CMFCRibbonButton& third = AddMain(L"third");
+    const CMFCRibbonButton& fourth = AddMain(L"fourth");
+    bar.EnsureLayout();
+    const CRect before = fourth.GetRect();
+    third.SetVisible(FALSE);
+    bar.EnsureLayout();
+    EXPECT_TRUE(third.GetRect().IsRectEmpty());
+    EXPECT_EQ(fourth.GetRect(), before);
+}
+
+TEST_F(StatusBarExLayout, RightLabelsShareTheRightEndOfTheMainArea) {
+    AddMain(L"a");
+    AddMain(L"b");
+    auto* const one = new CMFCRibbonLabelEx(L"one");
+    auto* const other = new CMFCRibbonLabelEx(L"another one");
+    for (CMFCRibbonLabelEx* const label : {one, other}) {
+        label->SetRight(true);
+        bar.AddElement(label, L"");
+    }
+    bar.EnsureLayout();
+    EXPECT_FALSE(one->GetRect().IsRectEmpty());
+    EXPECT_EQ(one->GetRect().right, other->GetRect().right);
+    EXPECT_EQ(one->GetRect().right, Client().right - bar.GetSizeGripWidth() - 10);
+    EXPECT_EQ(bar.HitTest(one->GetRect().CenterPoint(), FALSE, FALSE), other) << "the last one lies on top";
+}
+
+TEST_F(StatusBarExLayout, SeparatorsFirstTwiceAndLastHaveEmptyRectangles) {
+    AddMain(L"a");
+    AddMain(L"b");
+    CMFCRibbonSeparator* separators[4] = {};
+    for (int index = 0; index < 4; ++index) {
+        separators[index] = new CMFCRibbonSeparator;
+    }
+    bar.AddElement(separators[0], L"");
+    AddMain(L"c");
+    bar.AddElement(separators[1], L"");
+    bar.AddElement(separators[2], L"");
+    AddMain(L"d");
+    bar.AddElement(separators[3], L"");
+    bar.EnsureLayout();
+    EXPECT_TRUE(separators[0]->GetRect().IsRectEmpty());
+    EXPECT_FALSE(separators[1]->GetRect().IsRectEmpty());
+    EXPECT_TRUE(separators[2]->GetRect().IsRectEmpty());
+    EXPECT_TRUE(separators[3]->GetRect().IsRectEmpty());
+}
+
+TEST_F(StatusBarExLayout, ElementsAreToldOfTheirPlacesButSkippedSeparatorsAreNot) {
+    auto* const button = new ToldButton(L"told");
+    auto* const skipped = new ToldSeparator;
+    auto* const extended = new ToldButton(L"extended");
+    bar.AddElement(button, L"");
+    bar.AddElement(skipped, L"");
+    bar.AddExtendedElement(extended, L"");
+    bar.RecalcLayout();
+    EXPECT_GT(button->told, 0);
+    EXPECT_GT(extended->told, 0);
+    EXPECT_EQ(skipped->told, 0);
+}
+
+TEST_F(StatusBarExLayout, InformationHidesTheMainElementsOnly) {
+    const CMFCRibbonButton& main = AddMain(L"main");
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    bar.SetInformation(L"Loading");
+    EXPECT_TRUE(main.GetRect().IsRectEmpty());
+    EXPECT_FALSE(bar.GetExElement(0)->GetRect().IsRectEmpty());
+    EXPECT_EQ(bar.m_rectInformation.right, bar.GetExElement(0)->GetRect().left - 10);
+    bar.SetInformation(nullptr);
+    EXPECT_FALSE(main.GetRect().IsRectEmpty());
+    EXPECT_TRUE(bar.m_rectInformation.IsRectEmpty());
+}
+
+TEST_F(StatusBarExLayout, ABarInAMaximisedFrameHasNoSizeGrip) {
+    EXPECT_FALSE(bar.m_rectSizeGrip.IsRectEmpty());
+    frame.ShowWindow(SW_MAXIMIZE);
+    PumpPending();
+    bar.EnsureLayout();
+    EXPECT_TRUE(bar.m_rectSizeGrip.IsRectEmpty());
+    frame.ShowWindow(SW_RESTORE);
+    PumpPending();
+    bar.EnsureLayout();
+    EXPECT_FALSE(bar.m_rectSizeGrip.IsRectEmpty());
+}
+
+TEST_F(StatusBarExLayout, WithoutASizeGripThereIsNone) {
+    bar.ModifyStyle(SBARS_SIZEGRIP, 0);
+    bar.RecalcLayout();
+    EXPECT_TRUE(bar.m_rectSizeGrip.IsRectEmpty());
+}
+
+TEST_F(StatusBarExLayout, GetSpaceIsWhatIsFreeBehindTheLastElement) {
+    AddMain(L"a");
+    AddMain(L"b");
+    const CMFCRibbonButton& third = AddMain(L"third");
+    bar.EnsureLayout();
+    EXPECT_EQ(bar.GetSpace(), Client().right - bar.GetSizeGripWidth() - 10 - third.GetRect().right);
+}
+
+TEST_F(StatusBarExLayout, ARightClickOpensNoMenu) {
+    auto* const button = new CMFCRibbonButton(900, L"named");
+    bar.AddElement(button, L"Named");
+    bar.EnsureLayout();
+    bar.OnPaneContextMenu(&frame, CPoint(10, 10));
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+}
+
+TEST_F(StatusBarExLayout, AnIndexOutsideOfTheElementsRaisesInTheirArray) {
+    class Reaching : public CMFCRibbonStatusBarEx {
+    public:
+        CMFCRibbonBaseElement* At(INT_PTR index) { return m_arExtendedElements.GetAt(index); }
+    } reaching;
+    try {
+        reaching.At(0);
+        FAIL() << "nothing was raised";
+    } catch (CException* raised) {
+        EXPECT_TRUE(raised->IsKindOf(RUNTIME_CLASS(CInvalidArgException)));
+        raised->Delete();
+    }
+}
+
+} // namespace
