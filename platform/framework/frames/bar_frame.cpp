@@ -1,5 +1,6 @@
 #include "fx/bar_frame.h"
 
+#include "afxmenubar.h"
 #include "fx/scoped_change.h"
 
 namespace fx {
@@ -13,7 +14,14 @@ BarFrameOf<Base>::~BarFrameOf() = default;
 template <class Base>
 BOOL BarFrameOf<Base>::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
     m_Impl.m_defaultResourceId = nIDResource;
-    return Base::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext);
+    if (!Base::LoadFrame(nIDResource, dwDefaultStyle, pParentWnd, pContext)) {
+        return FALSE;
+    }
+    if (CMFCMenuBar* bar = m_Impl.MenuBar(); bar && this->m_hMenuDefault) {
+        bar->SetDefaultMenuResId(nIDResource);
+        bar->OnDefaultMenuLoaded(this->m_hMenuDefault);
+    }
+    return TRUE;
 }
 
 template <class Base>
@@ -97,11 +105,6 @@ BOOL BarFrameOf<Base>::IsMenuBarAvailable() const {
 }
 
 template <class Base>
-void BarFrameOf<Base>::SetMenuBar(CMFCMenuBar* bar) {
-    m_Impl.SetMenuBar(bar);
-}
-
-template <class Base>
 UINT BarFrameOf<Base>::GetDefaultResId() const {
     return m_Impl.m_defaultResourceId;
 }
@@ -134,8 +137,18 @@ BOOL BarFrameOf<Base>::GetToolbarButtonToolTipText(CMFCToolBarButton*, CString&)
 
 template <class Base>
 BOOL BarFrameOf<Base>::PreTranslateMessage(MSG* pMsg) {
-    return m_Impl.HandWheelToRibbon(*pMsg) || m_Impl.HandActiveKeyToRibbon(*pMsg) || Base::PreTranslateMessage(pMsg) ||
-           m_Impl.HandKeyToRibbon(*pMsg);
+    return m_Impl.HandWheelToRibbon(*pMsg) || m_Impl.HandActiveKeyToRibbon(*pMsg) ||
+           m_Impl.HandActiveKeyToMenuBar(*pMsg) || Base::PreTranslateMessage(pMsg) || m_Impl.HandKeyToRibbon(*pMsg) ||
+           m_Impl.HandKeyToMenuBar(*pMsg);
+}
+
+template <class Base>
+BOOL BarFrameOf<Base>::ShowInMenuBar(HMENU hMenu) {
+    CMFCMenuBar* bar = m_Impl.MenuBar();
+    if (bar && hMenu) {
+        bar->CreateFromMenu(hMenu, hMenu == this->m_hMenuDefault);
+    }
+    return bar != nullptr;
 }
 
 template <class Base>

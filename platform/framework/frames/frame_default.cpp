@@ -4,6 +4,7 @@
 
 #include <windowsx.h>
 
+#include "afxmenubar.h"
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
 
@@ -24,6 +25,11 @@ LRESULT CFrameImpl::OnDefault(UINT message, WPARAM wParam, LPARAM lParam, System
         OnSystemChange();
         return result;
     }
+    case WM_ACTIVATE:
+        if (CMFCMenuBar* const bar = LOWORD(wParam) == WA_INACTIVE ? MenuBar() : nullptr) {
+            bar->EndKeyboard();
+        }
+        break;
     case WM_DPICHANGED:
         OnDpiChanged(LOWORD(wParam), reinterpret_cast<const RECT*>(lParam));
         return 0;

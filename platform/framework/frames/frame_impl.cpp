@@ -38,12 +38,16 @@ BOOL CFrameImpl::HandWheelToRibbon(const MSG& message) {
     return TRUE;
 }
 
-CMFCRibbonBar* CFrameImpl::RibbonForKeys(const MSG& message) {
+bool CFrameImpl::IsInputForFrame(const MSG& message) const {
     const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
     const bool isMouse = (message.message > WM_MOUSEMOVE && message.message <= WM_MOUSELAST) ||
                          (message.message > WM_NCMOUSEMOVE && message.message <= WM_NCXBUTTONDBLCLK);
-    if ((!isKey && !isMouse) || !m_frame->IsWindowEnabled() ||
-        ::GetAncestor(message.hwnd, GA_ROOT) != m_frame->GetSafeHwnd()) {
+    return (isKey || isMouse) && m_frame->IsWindowEnabled() &&
+           ::GetAncestor(message.hwnd, GA_ROOT) == m_frame->GetSafeHwnd();
+}
+
+CMFCRibbonBar* CFrameImpl::RibbonForKeys(const MSG& message) {
+    if (!IsInputForFrame(message)) {
         return nullptr;
     }
     CMFCRibbonBar* bar = RibbonBar();

@@ -157,14 +157,14 @@ CWnd* CMDIChildWnd::GetMessageBar() {
 
 void CMDIChildWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
     CMDIFrameWnd* frame = GetMDIFrame();
-    if (!frame || frame->GetMenuBarState() == AFX_MBS_HIDDEN) {
+    if (!frame) {
         return;
     }
     HMENU menu = hMenuAlt ? hMenuAlt : m_hMenuShared;
     if (!menu) {
         menu = frame->m_hMenuDefault;
     }
-    if (menu) {
+    if (!frame->ShowInMenuBar(menu) && menu && frame->GetMenuBarState() != AFX_MBS_HIDDEN) {
         frame->MDISetMenu(CMenu::FromHandle(menu), CMenu::FromHandle(frame->GetWindowMenuPopup(menu)));
     }
 }
@@ -185,7 +185,7 @@ void CMDIChildWnd::OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeac
     if (bActivate) {
         OnUpdateFrameMenu(nullptr);
     } else if (const HMENU menu = frame->m_hMenuDefault;
-               !pActivateWnd && menu && frame->GetMenuBarState() != AFX_MBS_HIDDEN) {
+               !pActivateWnd && !frame->ShowInMenuBar(menu) && menu && frame->GetMenuBarState() != AFX_MBS_HIDDEN) {
         frame->MDISetMenu(CMenu::FromHandle(menu), CMenu::FromHandle(frame->GetWindowMenuPopup(menu)));
     }
     frame->DelayUpdateTitle();

@@ -1,6 +1,7 @@
 #include "afxMDIChildWndEx.h"
 
 #include "afxext.h"
+#include "afxMDIFrameWndEx.h"
 
 IMPLEMENT_DYNCREATE(CMDIChildWndEx, CMDIChildWnd)
 
@@ -26,6 +27,11 @@ void CMDIChildWndEx::RecalcLayout(BOOL bNotify) {
     if (m_hWnd) {
         m_nIdleFlags &= ~(idleLayout | idleNotify);
         m_dockManager.RecalcLayout(bNotify);
+    }
+    // A menu bar shows whether the child is maximised.
+    auto* const frame = DYNAMIC_DOWNCAST(CMDIFrameWndEx, m_hWnd ? GetMDIFrame() : nullptr);
+    if (frame && frame->IsMenuBarAvailable()) {
+        frame->DelayRecalcLayout();
     }
 }
 

@@ -131,7 +131,7 @@ void CMDIFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
         return;
     }
     const HMENU menu = hMenuAlt ? hMenuAlt : m_hMenuDefault;
-    if (menu && GetMenuBarState() != AFX_MBS_HIDDEN) {
+    if (!ShowInMenuBar(menu) && menu && GetMenuBarState() != AFX_MBS_HIDDEN) {
         MDISetMenu(CMenu::FromHandle(menu), CMenu::FromHandle(GetWindowMenuPopup(menu)));
     }
 }

@@ -1,6 +1,7 @@
 #include "afxMDIFrameWndEx.h"
 
 #include "afxext.h"
+#include "afxmenubar.h"
 #include "fx/registered_messages.h"
 
 #include <utility>
@@ -28,7 +29,14 @@ LRESULT CMDIFrameWndEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam
     return BarFrameOf::DefWindowProc(message, wParam, lParam);
 }
 
-void CMDIFrameWndEx::OnPanesPlaced() { AdjustClientArea(); }
+void CMDIFrameWndEx::OnPanesPlaced() {
+    AdjustClientArea();
+    if (CMFCMenuBar* const bar = m_Impl.MenuBar()) {
+        BOOL isMaximized = FALSE;
+        CMDIChildWnd* const child = MDIGetActive(&isMaximized);
+        bar->SetMaximizeMode(isMaximized, isMaximized ? child : nullptr);
+    }
+}
 
 void CMDIFrameWndEx::AdjustClientArea() {
     if (!m_hWndMDIClient) {

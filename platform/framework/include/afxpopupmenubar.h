@@ -65,7 +65,7 @@ public:
     int GetGutterWidth() const;
     toolbar::MenuRowMetrics GetRowMetrics() const;
     /// Mnemonics are underlined: the menu was opened by a key, or the user always wants them.
-    BOOL ShowsMnemonics() const { return m_bShowsMnemonics; }
+    BOOL ShowsMnemonics() const override { return m_bShowsMnemonics; }
 
     // What kind of pop-up this is
     BOOL IsDropDownListMode() const { return m_bDropDownListMode; }

@@ -159,6 +159,8 @@ public:
     virtual void OnChangeHot(int) {}
     /// Closes menus and gives back the highlight.
     virtual void Deactivate();
+    /// Mnemonics in the buttons' texts are underlined.
+    virtual BOOL ShowsMnemonics() const { return FALSE; }
     virtual BOOL NextMenu() { return FALSE; }
     virtual BOOL PrevMenu() { return FALSE; }
     /// A character typed while the bar has the keyboard: the button whose text has it as mnemonic. TRUE: found.
@@ -206,6 +208,8 @@ protected:
     virtual BOOL OnUserToolTip(CMFCToolBarButton* pButton, CString& strTTText) const;
     /// Something else than ProcessCommand happens to a click. TRUE: done.
     virtual BOOL OnSendCommand(const CMFCToolBarButton*) { return FALSE; }
+    /// The menu that the button had opened is gone. bByEscape: the user left it to come back to the bar.
+    virtual void OnMenuClosed(CMFCToolBarMenuButton*, BOOL) {}
     /// A fitting command for the owner: the window that gets WM_COMMAND.
     virtual CWnd* GetCommandTarget() const;
     virtual int CalcMaxButtonHeight();

@@ -135,7 +135,8 @@ protected:
     };
     Content PlaceContent(const CRect& rect, CSize sizeImage, BOOL bHorz) const;
     void DrawButtonText(CDC* pDC, const CRect& rectText, BOOL bHighlight);
-    /// The text as it is shown: without the part behind a tabulator.
+    /// The text without the part behind a tabulator, and as it is shown, without marks of mnemonics.
+    CString GetLabel() const;
     CString GetShownText() const;
     CSize MeasureText(CDC* pDC) const;
     /// Highlighted, pressed or checked, as visual managers ask for it.

@@ -27,4 +27,10 @@ inline int WheelRows(int rowsPerPage) {
     return WheelRowsPerNotch(lines, rowsPerPage);
 }
 
+/// Whether mnemonics are underlined without the keyboard too.
+inline bool AlwaysShowsMnemonics() {
+    BOOL always = FALSE;
+    return ::SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &always, 0) && always;
+}
+
 } // namespace toolbar

@@ -8,10 +8,12 @@
 
 using toolbar::Scaled;
 
-CString CMFCToolBarButton::GetShownText() const {
+CString CMFCToolBarButton::GetLabel() const {
     const int tabulator = m_strText.Find(L'\t');
-    return toolbar::WithoutPrefix(tabulator >= 0 ? m_strText.Left(tabulator) : m_strText);
+    return tabulator >= 0 ? m_strText.Left(tabulator) : m_strText;
 }
+
+CString CMFCToolBarButton::GetShownText() const { return toolbar::WithoutPrefix(GetLabel()); }
 
 CSize CMFCToolBarButton::MeasureText(CDC* pDC) const {
     const CString text = GetShownText();
@@ -109,7 +111,9 @@ void CMFCToolBarButton::DrawButtonText(CDC* pDC, const CRect& rectText, BOOL bHi
     } else {
         flags |= DT_SINGLELINE | DT_VCENTER;
     }
-    pDC->DrawText(GetShownText(), rect, flags);
+    const auto* bar = DYNAMIC_DOWNCAST(CMFCToolBar, m_pWndParent);
+    const bool showsMnemonic = bar && bar->ShowsMnemonics();
+    pDC->DrawText(showsMnemonic ? GetLabel() : GetShownText(), rect, showsMnemonic ? flags & ~DT_NOPREFIX : flags);
     pDC->SetBkMode(modeBefore);
     pDC->SetTextColor(before);
 }

@@ -2,12 +2,14 @@
 #include "afxtoolbarmenubutton.h"
 
 #include "afxcommandmanager.h"
+#include "afxmenubar.h"
 #include "afxpopupmenu.h"
 #include "fx/window_guard.h"
 #include "toolbar/menu_items.h"
 #include "toolbar/metrics.h"
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 IMPLEMENT_SERIAL(CMFCToolBarMenuButton, CMFCToolBarButton, VERSIONABLE_SCHEMA | 1)
@@ -175,6 +177,9 @@ BOOL CMFCToolBarMenuButton::OpenPopupMenu(CWnd* pWnd) {
     }
     m_pPopupMenu = menu;
     menu->SetParentButton(this);
+    if (const auto* menuBar = DYNAMIC_DOWNCAST(CMFCMenuBar, m_pWndParent)) {
+        menu->SetOpenedByKey(menuBar->IsKeyboardActive());
+    }
     CWnd* const receiver = m_pWndMessage ? m_pWndMessage : isInMenu ? nullptr : pWnd;
     if (receiver) {
         menu->SetMessageWnd(receiver);
@@ -199,9 +204,13 @@ BOOL CMFCToolBarMenuButton::OpenPopupMenu(CWnd* pWnd) {
 }
 
 void CMFCToolBarMenuButton::OnPopupClosed() {
-    m_pPopupMenu = nullptr;
-    if (m_pWndParent && m_pWndParent->GetSafeHwnd()) {
-        m_pWndParent->InvalidateRect(m_rect);
+    CMFCPopupMenu* const closed = std::exchange(m_pPopupMenu, nullptr);
+    if (!m_pWndParent || !m_pWndParent->GetSafeHwnd()) {
+        return;
+    }
+    m_pWndParent->InvalidateRect(m_rect);
+    if (auto* bar = DYNAMIC_DOWNCAST(CMFCToolBar, m_pWndParent)) {
+        bar->OnMenuClosed(this, closed && closed->IsEscClose());
     }
 }
 

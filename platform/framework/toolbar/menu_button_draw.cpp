@@ -2,6 +2,7 @@
 #include "afxtoolbarmenubutton.h"
 
 #include "afxglobals.h"
+#include "afxmenubar.h"
 #include "afxpopupmenu.h"
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
@@ -70,6 +71,9 @@ SIZE CMFCToolBarMenuButton::OnCalculateSize(CDC* pDC, const CSize& sizeDefault, 
     const CMFCPopupMenuBar* menu = GetMenuBar();
     if (!menu) {
         CSize size = CMFCToolBarButton::OnCalculateSize(pDC, sizeDefault, bHorz);
+        if (size.cx > 0 && DYNAMIC_DOWNCAST(CMFCMenuBar, m_pWndParent)) {
+            size.cx += 2 * Scaled(toolbar::MenuBarPadding);
+        }
         if (size.cx > 0 && HasPopup() && m_bDrawDownArrow) {
             (bHorz ? size.cx : size.cy) += Scaled(toolbar::ArrowWidth);
         }

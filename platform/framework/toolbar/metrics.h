@@ -14,6 +14,8 @@ constexpr int ButtonTextGap = 4;
 constexpr int ButtonTextMargin = 4;
 /// Width of a separator in a horizontal toolbar, height in a vertical one.
 constexpr int SeparatorSize = 6;
+/// Between the text of a menu bar's button and its sides, beside the margin that every button has.
+constexpr int MenuBarPadding = 4;
 /// The arrow beside a toolbar button that opens a menu.
 constexpr int ArrowWidth = 12;
 

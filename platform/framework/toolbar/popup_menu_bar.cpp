@@ -6,6 +6,7 @@
 #include "afxpopupmenu.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
+#include "popups/user_settings.h"
 #include "toolbar/menu_items.h"
 #include "toolbar/menu_row.h"
 #include "toolbar/metrics.h"
@@ -43,11 +44,10 @@ int CMFCPopupMenuBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return -1;
     }
     const CMFCPopupMenu* popup = GetParentPopup();
-    BOOL always = FALSE;
-    ::SystemParametersInfoW(SPI_GETKEYBOARDCUES, 0, &always, 0);
     const CMFCPopupMenu* before = popup ? popup->GetParentPopupMenu() : nullptr;
     const CMFCPopupMenuBar* bar = before ? const_cast<CMFCPopupMenu*>(before)->GetMenuBar() : nullptr;
-    m_bShowsMnemonics = always || (popup && popup->IsCreatedByKey()) || (bar && bar->ShowsMnemonics());
+    m_bShowsMnemonics =
+        toolbar::AlwaysShowsMnemonics() || (popup && popup->IsCreatedByKey()) || (bar && bar->ShowsMnemonics());
     ::GetCursorPos(&m_ptOpened);
     return 0;
 }

@@ -2,6 +2,7 @@
 #include "afxpopupmenu.h"
 
 #include "afxglobals.h"
+#include "afxmenubar.h"
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/to_rect.h"
@@ -195,7 +196,7 @@ CMFCPopupMenu::MENUAREA_TYPE CMFCPopupMenu::CheckArea(const CPoint& ptScreen) co
 
 void CMFCPopupMenu::UpdateShadow(LPRECT) {
     const HWND window = m_hWnd;
-    if (!IsShown() || !window || !::IsWindowVisible(window)) {
+    if (!CMFCMenuBar::IsMenuShadows() || !IsShown() || !window || !::IsWindowVisible(window)) {
         return;
     }
     const HWND owner = ::GetWindow(window, GW_OWNER);

@@ -172,11 +172,11 @@ void CMFCToolBar::OnMouseMove(UINT nFlags, CPoint point) {
         SetButtonStyle(m_iButtonCapture, (style & ~static_cast<UINT>(TBBS_PRESSED)) | pressed);
         return;
     }
-    SetHighlighted(IsPressable(GetButton(hit)) ? hit : -1);
     if (!m_bTracked) {
         TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, m_hWnd, 0};
         m_bTracked = ::TrackMouseEvent(&track);
     }
+    SetHighlighted(IsPressable(GetButton(hit)) ? hit : -1); // whoever is told may open a menu, and end this
 }
 
 void CMFCToolBar::OnMouseLeave() {

@@ -128,10 +128,10 @@ void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
 }
 
 void CFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
-    if (m_menuBarState == AFX_MBS_HIDDEN) {
+    const HMENU menu = hMenuAlt ? hMenuAlt : m_hMenuDefault;
+    if (ShowInMenuBar(menu) || m_menuBarState == AFX_MBS_HIDDEN) {
         return;
     }
-    const HMENU menu = hMenuAlt ? hMenuAlt : m_hMenuDefault;
     if (menu && ::GetMenu(m_hWnd) != menu) {
         ::SetMenu(m_hWnd, menu);
     }

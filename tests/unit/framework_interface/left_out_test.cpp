@@ -339,9 +339,7 @@ class CMFCRibbonLinkCtrl;
 class CMFCRibbonMiniToolBar;
 class CMFCRibbonProgressBar;
 class CMFCRibbonUndoButton;
-class CMFCMenuBar;
 class CMFCRibbonStatusBar;
-class CMFCToolBarComboBoxButton;
 class CMFCBaseTabCtrl;
 class CDockablePane;
 class CPaneFrameWnd;
@@ -359,8 +357,11 @@ LEFT_OUT_CLASSES("windows of several parts or pages", CSplitterWnd, CPropertyShe
 LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
                  CMFCVisualManagerWindows7)
 LEFT_OUT_CLASSES("helpers of the docking panes", CGlobalUtils)
-LEFT_OUT_CLASSES("bars of the next steps, and combos of toolbars", CMFCMenuBar, CMFCRibbonStatusBar,
-                 CMFCToolBarComboBoxButton)
+LEFT_OUT("customisation and the help combo of a menu bar are not there yet", CMFCMenuBar, EnableHelpCombobox,
+         GetFloatPopupDirection, GetHelpCombobox, HighlightDisabledItems, IsHighlightDisabledItems)
+LEFT_OUT("an edit window of its own, customisation and prompts of a combo box are not there yet",
+         CMFCToolBarComboBoxButton, CreateEdit, GetPrompt, GetItemDataPtrAll)
+LEFT_OUT_CLASSES("bars of the next steps", CMFCRibbonStatusBar)
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
                  CPaneFrameWnd, CPaneDivider)
 LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)

@@ -32,7 +32,6 @@ public:
     BOOL IsMenuBarAvailable() const;
     CMFCPopupMenu* GetActivePopup() const;
     UINT GetDefaultResId() const;
-    void SetMenuBar(CMFCMenuBar* bar);
 
     BOOL OnShowPopupMenu(CMFCPopupMenu* pMenu) override;
     void OnClosePopupMenu(CMFCPopupMenu* pMenuPopup) override;
@@ -40,6 +39,7 @@ public:
     BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* pButton, CString& strTTText) override;
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL ShowInMenuBar(HMENU hMenu) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);

@@ -20,6 +20,10 @@
 /// Window style of a toolbar, with its place and a gripper.
 #define AFX_DEFAULT_TOOLBAR_STYLE (WS_CHILD | WS_VISIBLE | CBRS_TOP | CBRS_GRIPPER | CBRS_HIDE_INPLACE)
 
+/// What CalcLayout and its kin are asked for.
+#define LM_STRETCH 0x01
+#define LM_HORZ 0x02
+
 enum AFX_DOCK_TYPE { DT_UNDEFINED = 0, DT_IMMEDIATE = 1, DT_STANDARD = 2, DT_SMART = 0x80 };
 enum AFX_SMARTDOCK_THEME { AFX_SDT_DEFAULT = 0, AFX_SDT_VS2005, AFX_SDT_VS2008 };
 enum AFX_CS_STATUS { CS_NOTHING, CS_DELAY_DOCK, CS_DOCK_IMMEDIATELY, CS_DELAY_DOCK_TO_TAB };

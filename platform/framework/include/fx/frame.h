@@ -114,6 +114,9 @@ public:
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    /// TRUE: the menu is shown by a bar of the frame's, so that the system's menu stays away. NULL: nothing new to
+    /// show.
+    virtual BOOL ShowInMenuBar(HMENU) { return FALSE; }
     /// NULL unless the frame docks panes.
     virtual CDockingManager* FindDockingManager() { return NULL; }
     /// What menus and toolbars ask the frame that they belong to; only the extended frames have answers.

@@ -20,15 +20,17 @@ public:
     bool Create();
     /// The first ribbon among the panes, else null.
     CMFCRibbonBar* RibbonBar();
-    /// The menu bar tells of itself; null when it goes away.
-    void SetMenuBar(CMFCMenuBar* bar) { m_menuBar = bar; }
-    CMFCMenuBar* MenuBar() const { return m_menuBar; }
+    /// The first menu bar among the panes, else null.
+    CMFCMenuBar* MenuBar() const;
     /// Hands a turn of the wheel above the ribbon to the ribbon, whoever has the focus. TRUE: the message is done.
     BOOL HandWheelToRibbon(const MSG& message);
     /// A key while the ribbon's keyboard is active comes before the accelerators, one that would start it (Alt, F10,
     /// Alt with a letter, Ctrl+F1) after them. A click ends the keyboard. TRUE: the message is done.
     BOOL HandActiveKeyToRibbon(const MSG& message);
     BOOL HandKeyToRibbon(const MSG& message);
+    /// The same for a menu bar that is shown.
+    BOOL HandActiveKeyToMenuBar(const MSG& message);
+    BOOL HandKeyToMenuBar(const MSG& message);
 
     /// F6 and Shift+F6 in the frame or one of its panes: the focus goes on to the next of ribbon, panes and document.
     BOOL MoveFocusToNextPane(BOOL forward);
@@ -60,6 +62,8 @@ public:
 private:
     /// The ribbon, when the message is for the frame and what lies in it: a dialog's keys are its own.
     CMFCRibbonBar* RibbonForKeys(const MSG& message);
+    CMFCMenuBar* MenuBarForKeys(const MSG& message);
+    bool IsInputForFrame(const MSG& message) const;
     int BorderWidth() const;
     void UpdateRegion();
     bool DrawsCaption(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result, SystemProc system);
@@ -91,7 +95,6 @@ private:
     bool m_hasRegion = false;
     bool m_wasZoomed = false; ///< when its size last changed
     CSize m_regionSize{0, 0}; ///< of the window when its region was set; 0, 0: maximised or none
-    CMFCMenuBar* m_menuBar = nullptr;
     CMFCPopupMenu* m_activePopup = nullptr;
     UINT m_paneEntry = 0;
     bool m_paneEntryShowsToolbarsOnly = false;
