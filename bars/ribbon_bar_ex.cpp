@@ -43,6 +43,19 @@ void CMFCRibbonBarEx::setPath(const std::wstring& name, int first, int last, con
 
 bool CMFCRibbonBarEx::havPath(const std::wstring& name) const { return m_mapPathRange.contains(name); }
 
+std::list<std::wstring> CMFCRibbonBarEx::Paths() const {
+    std::list<std::wstring> names;
+    for (const auto& [name, range] : m_mapPathRange) {
+        names.push_back(name);
+    }
+    return names;
+}
+
+std::list<unsigned int> CMFCRibbonBarEx::PathCommands(const std::wstring& name) const {
+    const auto found = m_mapPathQACmds.find(name);
+    return found != m_mapPathQACmds.end() ? found->second : std::list<unsigned int>();
+}
+
 void CMFCRibbonBarEx::RememberActiveCategory() {
     const auto shown = m_mapPathRange.find(m_strCurPath);
     if (shown != m_mapPathRange.end()) {

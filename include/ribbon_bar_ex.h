@@ -30,6 +30,9 @@ public:
     /// show nothing.
     void setPath(const std::wstring& name, int first, int last, const std::list<unsigned int>& commands);
     bool havPath(const std::wstring& name) const;
+    /// The names of all paths, and the commands that one of them has when it is not shown; none for an unknown name.
+    std::list<std::wstring> Paths() const;
+    std::list<unsigned int> PathCommands(const std::wstring& name) const;
     /// The path that is shown; empty until ShowPath first succeeded.
     const std::wstring& Path() const { return m_strCurPath; }
 

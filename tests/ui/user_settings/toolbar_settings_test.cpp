@@ -1,0 +1,131 @@
+// Toolbars that a user hid or showed.
+#include "dyn_toolbar_creater.h"
+#include "menu_id_mgr.h"
+#include "tests/support/message_pump.h"
+#include "tests/support/temporary_directory.h"
+#include "tests/support/translation_tables.h"
+#include "tests/support/ui_test.h"
+#include "user_settings.h"
+
+#include <memory>
+
+namespace {
+
+/// Lives on the stack: its window's end does not delete it.
+class BarsFrame : public CMDIFrameWndEx {
+protected:
+    void PostNcDestroy() override {}
+};
+
+/// One run of a program with toolbars.
+class BarsRun {
+public:
+    BarsRun(TranslatedInstallation& installation, const std::string& groups) {
+        EXPECT_TRUE(m_frame.Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW, CRect(50, 50, 750, 450)));
+        m_frame.ShowWindow(SW_SHOWNOACTIVATE);
+        installation.Directory().Write("toolbar.xml", "<bars>" + groups + "</bars>");
+        EXPECT_TRUE(m_bars.Load(L"toolbar.xml", &m_frame));
+        m_bars.EnableDocking(CBRS_ALIGN_ANY, &m_frame);
+        m_bars.DockPane(&m_frame);
+        PumpPending();
+    }
+    ~BarsRun() {
+        m_frame.DestroyWindow();
+        PumpPending();
+    }
+    BarsRun(const BarsRun&) = delete;
+    BarsRun& operator=(const BarsRun&) = delete;
+
+    /// A letter for each toolbar, "+" when it is shown.
+    std::string Shown() {
+        PumpPending();
+        std::string shown;
+        for (const CMFCToolBar* bar : m_bars.GetAllToolBar()) {
+            shown += (bar->GetStyle() & WS_VISIBLE) != 0 ? '+' : '-';
+        }
+        return shown;
+    }
+    void Show(int index, bool isShown) {
+        auto bars = m_bars.GetAllToolBar();
+        m_frame.ShowPane(*std::next(bars.begin(), index), isShown ? TRUE : FALSE, FALSE, FALSE);
+        PumpPending();
+    }
+
+    BarsFrame m_frame;
+    CDynToolBarCreater m_bars;
+};
+
+constexpr const char* kBars = "<g KEYWORD='G'><b PROMPT='One'><i TYPE='button' KEYWORD='A'/></b>"
+                              "<b PROMPT='Same'><i TYPE='button' KEYWORD='B'/></b>"
+                              "<b PROMPT='Same'><i TYPE='button' KEYWORD='C'/></b></g>";
+
+class ToolBarSettings : public testing::Test {
+protected:
+    ToolBarSettings() { CMenuIdMgr::Destroy(); }
+    ~ToolBarSettings() override {
+        CMenuIdMgr::Destroy();
+        CMFCToolBar::SetUserImages(nullptr);
+    }
+    std::wstring File() const { return (m_directory.Path() / L"bars.xml").wstring(); }
+
+    /// Hides the third bar, one of two with the same title, and keeps that.
+    void HideTheThird() {
+        BarsRun run(m_installation, kBars);
+        CUserSettings settings(File());
+        settings.ApplyTo(run.m_bars, run.m_frame);
+        run.Show(2, false);
+        settings.TakeFrom(run.m_bars);
+        ASSERT_TRUE(settings.Save());
+    }
+
+    TranslatedInstallation m_installation;
+    TemporaryDirectory m_directory;
+};
+
+TEST_F(ToolBarSettings, AHiddenToolbarIsHiddenInTheNextRun) {
+    HideTheThird();
+    BarsRun run(m_installation, kBars);
+    ASSERT_EQ(run.Shown(), "+++");
+    CUserSettings settings(File());
+    settings.Load();
+    settings.ApplyTo(run.m_bars, run.m_frame);
+    EXPECT_EQ(run.Shown(), "++-");
+}
+
+TEST_F(ToolBarSettings, OneThatIsShownAgainStaysShown) {
+    HideTheThird();
+    {
+        BarsRun run(m_installation, kBars);
+        CUserSettings settings(File());
+        settings.Load();
+        settings.ApplyTo(run.m_bars, run.m_frame);
+        run.Show(2, true);
+        settings.TakeFrom(run.m_bars);
+        ASSERT_TRUE(settings.Save());
+    }
+    BarsRun run(m_installation, kBars);
+    CUserSettings settings(File());
+    settings.Load();
+    settings.ApplyTo(run.m_bars, run.m_frame);
+    EXPECT_EQ(run.Shown(), "+++");
+}
+
+TEST_F(ToolBarSettings, AToolbarThatIsGoneIsRememberedForLater) {
+    HideTheThird();
+    {
+        BarsRun run(m_installation, "<g KEYWORD='G'><b PROMPT='Other'/></g>");
+        CUserSettings settings(File());
+        settings.Load();
+        settings.ApplyTo(run.m_bars, run.m_frame);
+        settings.TakeFrom(run.m_bars);
+        EXPECT_EQ(run.Shown(), "+");
+        ASSERT_TRUE(settings.Save());
+    }
+    BarsRun run(m_installation, kBars);
+    CUserSettings settings(File());
+    settings.Load();
+    settings.ApplyTo(run.m_bars, run.m_frame);
+    EXPECT_EQ(run.Shown(), "++-");
+}
+
+} // namespace
