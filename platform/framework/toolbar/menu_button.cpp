@@ -247,4 +247,8 @@ void CMFCToolBarMenuButton::OnChangeParentWnd(CWnd* pWndParent) {
         OnCancelMode();
     }
     CMFCToolBarButton::OnChangeParentWnd(pWndParent);
+    // In a menu bar every button looks alike, whoever made it.
+    if (auto* menuBar = DYNAMIC_DOWNCAST(CMFCMenuBar, pWndParent)) {
+        m_bDrawDownArrow = menuBar->GetForceDownArrows();
+    }
 }

@@ -1,0 +1,99 @@
+// The menu bar with a button at its right edge.
+#include "menubar_ex.h"
+
+#include <memory>
+#include <vector>
+
+int CMfcMenubarEx::s_nRightBtnIndex = -1;
+
+BEGIN_MESSAGE_MAP(CMfcMenubarEx, CMFCMenuBar)
+ON_WM_LBUTTONDOWN()
+ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+namespace {
+
+/// Menus from resources, which bars go on showing until the process ends.
+void Keep(std::unique_ptr<CMenu> menu) {
+    static auto& kept = *new std::vector<std::unique_ptr<CMenu>>;
+    kept.push_back(std::move(menu));
+}
+
+} // namespace
+
+CMfcMenubarEx::CMfcMenubarEx() = default;
+
+CMfcMenubarEx::~CMfcMenubarEx() { DestroyWindow(); }
+
+void CMfcMenubarEx::SetRightHMenu(HMENU menu) {
+    if (menu != nullptr && ::IsMenu(menu)) {
+        m_hRightMenu = menu;
+    }
+}
+
+void CMfcMenubarEx::SetRightHMenu(int resourceId) {
+    const LPCWSTR name = MAKEINTRESOURCEW(resourceId);
+    const HMENU loaded = ::LoadMenuW(AfxFindResourceHandle(name, RT_MENU), name);
+    if (loaded == nullptr) {
+        return;
+    }
+    auto menu = std::make_unique<CMenu>();
+    menu->Attach(loaded);
+    Keep(std::move(menu));
+    SetRightHMenu(loaded);
+}
+
+void CMfcMenubarEx::CreateFromMenu(HMENU menu, BOOL isDefaultMenu, BOOL forceUpdate) {
+    // The first place is never that of the right-hand button beside others.
+    if (s_nRightBtnIndex > 0) {
+        RemoveButton(s_nRightBtnIndex);
+        s_nRightBtnIndex = -1;
+    }
+    CMFCMenuBar::CreateFromMenu(menu, isDefaultMenu, forceUpdate);
+    if (m_hRightMenu != nullptr && ::IsMenu(m_hRightMenu)) {
+        AddRightButton();
+    }
+}
+
+void CMfcMenubarEx::AddRightButton() {
+    CMenu* const menu = CMenu::FromHandle(m_hRightMenu);
+    CString text;
+    menu->GetMenuString(0, text, MF_BYPOSITION);
+    const CMenu* const popup = menu->GetSubMenu(0);
+    ENSURE_ARG(popup != nullptr);
+    const std::unique_ptr<CMFCToolBarMenuButton> button(
+        static_cast<CMFCToolBarMenuButton*>(GetMenuButtonRTC()->CreateObject()));
+    button->CreateFromMenu(popup->m_hMenu);
+    button->m_strText = text;
+    button->m_bText = TRUE;
+    s_nRightBtnIndex = InsertButton(*button); // a copy
+    AdjustLayout();
+    if (GetSafeHwnd() != nullptr) {
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_FRAME);
+    }
+}
+
+void CMfcMenubarEx::AdjustLocations() {
+    CMFCMenuBar::AdjustLocations();
+    CMFCToolBarButton* const button = GetButton(s_nRightBtnIndex);
+    if (button == nullptr || GetSafeHwnd() == nullptr) {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    CRect place = button->Rect();
+    place.OffsetRect(client.right - place.right, 0);
+    button->SetRect(place);
+}
+
+BOOL CMfcMenubarEx::LoadState(LPCTSTR /*profileName*/, int /*index*/, UINT /*id*/) { return FALSE; }
+
+BOOL CMfcMenubarEx::SaveState(LPCTSTR /*profileName*/, int /*index*/, UINT /*id*/) { return FALSE; }
+
+LRESULT CMfcMenubarEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    return CMFCMenuBar::WindowProc(message, wParam, lParam);
+}
+
+void CMfcMenubarEx::OnLButtonDown(UINT flags, CPoint point) { CMFCMenuBar::OnLButtonDown(flags, point); }
+
+void CMfcMenubarEx::OnPaint() { CMFCMenuBar::OnPaint(); }
