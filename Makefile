@@ -4,13 +4,14 @@ RELEASE := build/windows-release
 BIN := $(RELEASE)/bin
 JOBS ?= $(shell nproc)
 
-.PHONY: install package help setup setup-lint build build-native demo test test-native test-windows test-e2e lint bench clean
+.PHONY: install package docs help setup setup-lint build build-native demo test test-native test-windows test-e2e lint bench clean
 
 help:
 	@echo "make demo   build the demo application and show it (or write build/demo.png where there is no display)"
 	@echo "make test   build everything and run every test (test-native, test-windows, test-e2e: a part of them)"
-	@echo "make lint   formatting, layers, link edges, headers, exports, spelling; scripts/lint tidy is the static analysis"
+	@echo "make lint   formatting, layers, link edges, headers, exports, spelling, docs; scripts/lint tidy is the static analysis"
 	@echo "make bench  measure, each figure beside its floor"
+	@echo "make docs   guides and reference as pages that open in a browser (build/docs/index.html)"
 	@echo "make install PREFIX=FOLDER   DLLs, import libraries, headers, CMake package, skins, documentation"
 	@echo "make package   the same as a zip file, and one with the debug symbols"
 	@echo "make build  build only; the programs lie in $(BIN)"
@@ -41,6 +42,9 @@ test-windows: setup
 test-e2e: setup
 	@scripts/build windows-release
 	@ctest --test-dir $(RELEASE) -L e2e --output-on-failure --no-tests=error
+
+docs: setup-lint
+	@scripts/make-docs
 
 lint: setup-lint
 	@scripts/lint

@@ -40,8 +40,8 @@ BARWRIGHT_API CString GetHelpFileName(int id, const CString& spare);
 
 /// The folder of the help videos, closed by a backslash, as the installation recorded it; false and an empty text when
 /// none is known. The record is read on the first call of the process only: the value "FlashPath" of the key
-/// Software\HALVORN\Tessaly of the local machine; where that holds none, of Software\Wow6432Node\HALVORN\Tessaly, where
-/// a 32-bit installer leaves it. A host that wants the first key alone clears afxGlobalData.bIsWindows7 before.
+/// `Software\HALVORN\Tessaly` of the local machine; where that holds none, of `Software\Wow6432Node\HALVORN\Tessaly`,
+/// where a 32-bit installer leaves it. A host that wants the first key alone clears afxGlobalData.bIsWindows7 before.
 BARWRIGHT_API bool GetHaveMedias_Brevant(CString& folder);
 
 /// Bitmaps that the host shares with the controls. The library adds none and deletes none.
