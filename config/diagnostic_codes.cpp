@@ -106,11 +106,6 @@ constexpr DiagnosticCode kCodes[] = {
     {"empty-group", Warning, "A GROUP has no elements, or stands inside another element.", "It is not shown.",
      "Fill it, or remove it.", Panel, "<group KEYWORD=\"Moves\" TYPE=\"GROUP\"/>",
      "<group KEYWORD=\"Moves\" TYPE=\"GROUP\"><item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/></group>"},
-    {"empty-container", Note, "A row, a category, a panel, a toolbar or a group of toolbars has nothing in it.",
-     "It is built, and is empty until the program fills it.", "Fill it, or remove it.", RibbonFile,
-     "<ribbon>\n  <row KEYWORD=\"Main\"><category KEYWORD=\"Map\" NAME=\"\"/></row>\n</ribbon>",
-     "<ribbon>\n  <row KEYWORD=\"Main\"><category KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item "
-     "KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
     {"wrong-depth", Warning,
      "Only the depth says what an element is, and this one has attributes of another depth: a level is missing around "
      "it, or is too many.",
@@ -237,8 +232,6 @@ constexpr DiagnosticCode kCodes[] = {
      "Mend what the message says.", Table,
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\"/>",
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>"},
-    {"long-text", Warning, "A text is wider than its place at 100 %: the text of an edit field than its WIDTH.",
-     "It is cut off.", "Shorten the text or widen the place."},
 };
 
 } // namespace

@@ -186,9 +186,7 @@ void RibbonDiagnosis::CheckInheritance(const MetElement& met) {
 void RibbonDiagnosis::CheckChildren(const MetElement& met) {
     const bool takesChildren =
         met.role == ElementRole::Row || met.role == ElementRole::Category || met.role == ElementRole::Panel;
-    if (takesChildren && !met.hasChildren) {
-        m_diagnostics.Report("empty-container", met.position, L"nothing is in here");
-    } else if (!takesChildren && met.hasChildren) {
+    if (!takesChildren && met.hasChildren) {
         m_diagnostics.Report("children-lost", met.position, L"the elements below this one are not read");
     }
 }

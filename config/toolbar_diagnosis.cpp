@@ -36,12 +36,6 @@ bool ToolBarDiagnosis::CheckDepth(const MetElement& met) const {
     return !type;
 }
 
-void ToolBarDiagnosis::CheckChildren(const MetElement& met) const {
-    if (!met.hasChildren) {
-        m_diagnostics.Report("empty-container", met.position, L"nothing is in here");
-    }
-}
-
 void ToolBarDiagnosis::MeetGroup(varnhold::XmlCursor& element) {
     const MetElement met = Describe(element, ElementRole::ToolBarGroup);
     m_isInGroup = CheckDepth(met);
@@ -52,7 +46,6 @@ void ToolBarDiagnosis::MeetGroup(varnhold::XmlCursor& element) {
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword",
                  L"a group without a keyword has an empty name");
     }
-    CheckChildren(met);
     m_diagnostics.Meet(met);
 }
 
@@ -69,7 +62,6 @@ void ToolBarDiagnosis::MeetToolBar(varnhold::XmlCursor& element) {
         ReportAt(m_diagnostics, met, AttributeUse::Prompt, "missing-caption", L"a toolbar without PROMPT has no title",
                  L"add PROMPT");
     }
-    CheckChildren(met);
     m_diagnostics.Meet(met);
 }
 

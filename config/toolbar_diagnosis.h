@@ -15,7 +15,6 @@ public:
 private:
     MetElement Describe(varnhold::XmlCursor& element, ElementRole role) const;
     bool CheckDepth(const MetElement& met) const;
-    void CheckChildren(const MetElement& met) const;
 
     const FileDiagnostics& m_diagnostics;
     bool m_isInGroup = true;

@@ -1,0 +1,219 @@
+#include "config/check/command_check.h"
+
+#include "config/element_kind.h"
+#include "config/menu_diagnosis.h"
+#include "config/shortcut_fault.h"
+#include "config/suggestion.h"
+#include "varnhold/letter_case.h"
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+/// What the registry knows of a keyword.
+struct Command {
+    const GatheredElement* first = nullptr;
+    std::wstring cmd;
+    std::wstring param;
+    /// Empty when a later element may still give one.
+    std::wstring help;
+    bool isPopup = false;
+};
+
+bool IsNo(std::wstring_view value) { return varnhold::EqualsIgnoringCase(value, L"N"); }
+bool IsYes(std::wstring_view value) { return varnhold::EqualsIgnoringCase(value, L"Y"); }
+
+bool IsRegistered(const MetElement& element) {
+    switch (element.role) {
+    case ElementRole::Category:
+        return !IsYes(element.ValueOf(AttributeUse::CateTab));
+    case ElementRole::RibbonElement:
+    case ElementRole::SubItem:
+    case ElementRole::ToolBarButton:
+    case ElementRole::Popup:
+        return true;
+    case ElementRole::MenuItem:
+        return element.ValueOf(AttributeUse::Keyword) != kRecentFilesKeyword;
+    default:
+        return false;
+    }
+}
+
+bool IsOfRibbon(const MetElement& element) {
+    return element.role == ElementRole::Category || element.role == ElementRole::RibbonElement ||
+           element.role == ElementRole::SubItem;
+}
+
+/// An element that names a command without registering it.
+bool Refers(const MetElement& element) {
+    return element.role == ElementRole::QuickAccessItem || element.role == ElementRole::StatusButton;
+}
+
+class CommandCheck {
+public:
+    CommandCheck(bool isComplete, const std::set<std::wstring>& meant, DiagnosticsSink& sink)
+        : m_isComplete(isComplete), m_meant(meant), m_sink(sink) {}
+
+    void Run(std::span<const GatheredElement> elements) {
+        for (std::size_t i = 0; i < elements.size(); ++i) {
+            Take(elements[i]);
+            const bool endsFile = i + 1 == elements.size() || elements[i + 1].file != elements[i].file;
+            if (endsFile) {
+                CheckReferences(m_quickAccess, "unknown-quick-access",
+                                L"no element of the ribbon files up to this one has this keyword");
+            }
+        }
+        CheckReferences(m_statusButtons, "unknown-status-button", L"no element of any file has this keyword");
+    }
+
+private:
+    void Take(const GatheredElement& gathered) {
+        const MetElement& element = gathered.element;
+        if (Refers(element)) {
+            Refer(gathered);
+            return;
+        }
+        Inherit(element);
+        if (element.role == ElementRole::MenuItem) {
+            CheckShortcut(gathered);
+        }
+        const std::wstring keyword(element.ValueOf(AttributeUse::Keyword));
+        if (keyword.empty() || !IsRegistered(element)) {
+            return;
+        }
+        const auto [found, isNew] = m_commands.try_emplace(keyword);
+        if (isNew) {
+            found->second = MakeCommand(gathered);
+        } else {
+            Compare(found->second, gathered);
+        }
+    }
+
+    void Refer(const GatheredElement& gathered) {
+        const std::wstring_view keyword = gathered.element.ValueOf(AttributeUse::Keyword);
+        const bool isQuickAccess = gathered.element.role == ElementRole::QuickAccessItem;
+        if (!keyword.empty() && (isQuickAccess || !varnhold::EqualsIgnoringCase(keyword, L"Separator"))) {
+            (isQuickAccess ? m_quickAccess : m_statusButtons).push_back(&gathered);
+        }
+    }
+
+    /// Sub-items have CMD and PARAM of what was read before them.
+    void Inherit(const MetElement& element) {
+        const bool isSubItem = element.role == ElementRole::SubItem;
+        for (const auto& [use, value] :
+             {std::pair(AttributeUse::Command, &m_cmd), std::pair(AttributeUse::Parameter, &m_param)}) {
+            const MetAttribute* const own = element.Find(use);
+            if (own || !isSubItem) {
+                *value = own ? own->value : std::wstring();
+            }
+        }
+    }
+
+    Command MakeCommand(const GatheredElement& gathered) const {
+        const MetElement& element = gathered.element;
+        Command command{&gathered, m_cmd, m_param, std::wstring(element.ValueOf(AttributeUse::Help)),
+                        element.role == ElementRole::Popup};
+        const bool hasDefaultHelp = IsOfRibbon(element) && !IsNo(element.ValueOf(AttributeUse::AcceptF1));
+        if (command.help.empty() && hasDefaultHelp) {
+            command.help = L"(the name).swf";
+        }
+        return command;
+    }
+
+    void Compare(Command& command, const GatheredElement& gathered) {
+        const MetElement& element = gathered.element;
+        const bool isPopup = element.role == ElementRole::Popup;
+        if (isPopup || command.isPopup) {
+            if (isPopup != command.isPopup) {
+                Report(gathered, command, L"a popup and a command have one keyword: the command's id is lost");
+            }
+            return;
+        }
+        std::wstring differences;
+        const auto compare = [&](AttributeUse use, const wchar_t* name, const std::wstring& kept) {
+            const std::wstring_view own = element.ValueOf(use);
+            if (!own.empty() && own != kept) {
+                differences += (differences.empty() ? L"" : L", ") + std::wstring(name) + L" " + Quoted(own) +
+                               (kept.empty() ? L" instead of none" : L" instead of " + Quoted(kept));
+            }
+        };
+        compare(AttributeUse::Command, L"CMD", command.cmd);
+        compare(AttributeUse::Parameter, L"PARAM", command.param);
+        if (command.help.empty()) {
+            command.help = element.ValueOf(AttributeUse::Help);
+        }
+        compare(AttributeUse::Help, L"help", command.help);
+        if (!differences.empty()) {
+            Report(gathered, command,
+                   L"this keyword was registered before, and what is different here is lost: " + differences);
+        }
+    }
+
+    void Report(const GatheredElement& gathered, const Command& command, std::wstring text) const {
+        ReportTogether(m_sink, *gathered.file, PlaceOf(gathered.element, AttributeUse::Keyword), "duplicate-keyword",
+                       std::move(text), L"take another keyword for one of them",
+                       {PlaceOf(*command.first, AttributeUse::Keyword, L"registered here")});
+    }
+
+    void CheckShortcut(const GatheredElement& gathered) {
+        const MetElement& element = gathered.element;
+        const MetAttribute* const written = element.Find(AttributeUse::HotKey);
+        if (!written || written->value.empty() || !FindShortcutFault(written->value).text.empty()) {
+            return;
+        }
+        const std::wstring shortcut = CanonicalShortcut(written->value);
+        const auto holder = m_shortcuts.find(shortcut);
+        const std::wstring_view keyword = element.ValueOf(AttributeUse::Keyword);
+        const auto earlier = m_commands.find(std::wstring(keyword));
+        if (keyword != kRecentFilesKeyword && earlier != m_commands.end()) {
+            const bool hasIt =
+                holder != m_shortcuts.end() && holder->second->element.ValueOf(AttributeUse::Keyword) == keyword;
+            if (!hasIt) {
+                ReportTogether(m_sink, *gathered.file, written->position, "lost-shortcut",
+                               L"the keyword was registered before, and then no shortcut is taken from here",
+                               L"give the shortcut where the keyword stands first, or remove it",
+                               {PlaceOf(*earlier->second.first, AttributeUse::Keyword, L"registered here")});
+            }
+        } else if (holder != m_shortcuts.end()) {
+            ReportTogether(m_sink, *gathered.file, written->position, "shortcut-clash",
+                           Quoted(written->value) + L" is the shortcut of an earlier item, which gets it",
+                           L"take another shortcut for one of them",
+                           {PlaceOf(*holder->second, AttributeUse::HotKey, L"the earlier one")});
+        } else {
+            m_shortcuts.emplace(shortcut, &gathered);
+        }
+    }
+
+    void CheckReferences(std::vector<const GatheredElement*>& references, std::string_view code, const wchar_t* text) {
+        for (const GatheredElement* const reference : references) {
+            const std::wstring keyword(reference->element.ValueOf(AttributeUse::Keyword));
+            if (m_isComplete && !m_commands.contains(keyword) && !m_meant.contains(keyword)) {
+                std::vector<std::wstring> known;
+                for (const auto& [name, command] : m_commands) {
+                    known.push_back(name);
+                }
+                ReportTogether(m_sink, *reference->file, PlaceOf(reference->element, AttributeUse::Keyword), code, text,
+                               DidYouMean(ClosestWord(keyword, known)));
+            }
+        }
+        references.clear();
+    }
+
+    bool m_isComplete;
+    const std::set<std::wstring>& m_meant;
+    DiagnosticsSink& m_sink;
+    std::map<std::wstring, Command> m_commands;
+    std::map<std::wstring, const GatheredElement*> m_shortcuts;
+    std::vector<const GatheredElement*> m_quickAccess;
+    std::vector<const GatheredElement*> m_statusButtons;
+    std::wstring m_cmd;
+    std::wstring m_param;
+};
+
+} // namespace
+
+void CheckCommands(std::span<const GatheredElement> elements, bool isComplete, const std::set<std::wstring>& meant,
+                   DiagnosticsSink& sink) {
+    CommandCheck(isComplete, meant, sink).Run(elements);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "config/diagnostics.h"
+
+#include <string>
+#include <vector>
+
+enum class ConfigurationKind { Ribbon, Menu, ToolBars };
+
+/// What is to be checked.
+struct CheckRequest {
+    /// The installation directory, with its closing separator.
+    std::wstring directory;
+    /// Relative to it, in the order in which they are loaded. None: cfg\ribbon*.xml, cfg\menu*.xml and
+    /// cfg\toolbar*.xml, each kind in name order.
+    std::vector<std::wstring> files;
+    /// The one language whose tables count; empty: all that are there.
+    std::wstring language;
+};
+
+/// Reads the files of an installation as the library does and says all that is wrong with them, each fault once. The
+/// findings name files relative to the directory, with "/", and are in the order in which the files are read, each file
+/// from its beginning to its end.
+std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request);

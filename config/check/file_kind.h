@@ -1,0 +1,10 @@
+#pragma once
+
+#include "config/check/configuration_check.h"
+#include "config/check/installation_files.h"
+
+/// cfg\ribbon*.xml, cfg\menu*.xml and cfg\toolbar*.xml, each kind in name order, relative to the directory.
+std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files);
+
+/// By the beginning of the file's name; of any other name, by the attributes in it that only one kind of file has.
+ConfigurationKind KindOfFile(const std::wstring& fullPath);

@@ -1,0 +1,190 @@
+#include "config/check/icon_check.h"
+
+#include "commands/resource_paths.h"
+#include "config/element_kind.h"
+#include "config/suggestion.h"
+#include "elements/icon_header.h"
+
+#include <varnhold/letter_case.h>
+#include <varnhold/strings.h>
+
+#include <algorithm>
+#include <cwchar>
+#include <filesystem>
+#include <fstream>
+#include <map>
+
+namespace {
+
+constexpr int kSmall = 16; // pixels at 96 DPI, the folders' names
+constexpr int kLarge = 32;
+
+std::vector<int> SidesOf(const MetElement& element) {
+    switch (element.role) {
+    case ElementRole::MenuItem:
+    case ElementRole::ToolBarButton:
+        return {kSmall};
+    case ElementRole::RibbonElement:
+    case ElementRole::SubItem:
+        break;
+    default:
+        return {};
+    }
+    if (KindOfElement(element.ValueOf(AttributeUse::Type)) != ElementKind::Button) {
+        return {};
+    }
+    // "16px" was reported, and means 16.
+    const long size = std::wcstol(std::wstring(element.ValueOf(AttributeUse::Size)).c_str(), nullptr, 10);
+    return size == kSmall ? std::vector<int>{kSmall} : std::vector<int>{kSmall, kLarge};
+}
+
+enum class IconState { Fine, NoIcon, TooLarge, TooSmall };
+
+IconFileReader ReaderOf(std::ifstream& stream) {
+    return [&stream](std::uint64_t offset, std::span<std::uint8_t> bytes) -> std::size_t {
+        constexpr std::uint64_t farthest = std::uint64_t(1) << 40;
+        if (offset > farthest) {
+            return 0;
+        }
+        stream.clear();
+        stream.seekg(static_cast<std::streamoff>(offset));
+        stream.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        return static_cast<std::size_t>(std::max<std::streamsize>(0, stream.gcount()));
+    };
+}
+
+IconState StateOf(const std::wstring& path, int side) {
+#ifdef _WIN32
+    const std::filesystem::path native(path);
+#else
+    const std::filesystem::path native(wstring2String(path));
+#endif
+    std::ifstream stream(native, std::ios::binary);
+    const auto pictures = ReadIconHeaders(ReaderOf(stream));
+    if (!pictures || pictures->empty()) {
+        return IconState::NoIcon;
+    }
+    if (!MayDecode(pictures)) {
+        return IconState::TooLarge;
+    }
+    const auto wanted = static_cast<std::uint32_t>(side);
+    const bool isLargeEnough = std::ranges::any_of(*pictures, [wanted](const IconPicture& picture) {
+        return picture.width >= wanted && picture.height >= wanted;
+    });
+    return isLargeEnough ? IconState::Fine : IconState::TooSmall;
+}
+
+class IconCheck {
+public:
+    IconCheck(const InstallationFiles& files, DiagnosticsSink& sink) : m_files(files), m_sink(sink) {}
+
+    void Take(const GatheredElement& gathered) {
+        const MetAttribute* const icon = gathered.element.Find(AttributeUse::Icon);
+        const std::vector<int> sides = SidesOf(gathered.element);
+        if (!icon || icon->value.empty() || sides.empty() || !CheckPath(gathered, *icon)) {
+            return;
+        }
+        std::vector<std::wstring> missing;
+        for (const int side : sides) {
+            const std::wstring path = IconFileBelow({}, icon->value, side);
+            if (m_seen.emplace(path, &gathered).second) {
+                if (const auto found = m_files.Find(path)) {
+                    CheckFile(gathered, *icon, path, StateOf(*found, side), side);
+                } else {
+                    missing.push_back(path);
+                }
+            }
+        }
+        if (!missing.empty()) {
+            ReportMissing(gathered, *icon, missing);
+        }
+    }
+
+private:
+    void Report(const GatheredElement& gathered, const MetAttribute& icon, std::string_view code, std::wstring text,
+                std::wstring fix) const {
+        ReportTogether(m_sink, *gathered.file, icon.position, code, std::move(text), std::move(fix));
+    }
+
+    /// False: no file need be looked for.
+    bool CheckPath(const GatheredElement& gathered, const MetAttribute& icon) const {
+        const std::size_t backslash = icon.value.rfind(L'\\');
+        const std::size_t name = backslash == std::wstring::npos ? 0 : backslash + 1;
+        if (icon.value.find(L'/', name) != std::wstring::npos) {
+            std::wstring mended = icon.value;
+            std::ranges::replace(mended, L'/', L'\\');
+            Report(gathered, icon, "path-separator",
+                   L"only a backslash divides the path: the folder of the size is put before " +
+                       Quoted(icon.value.substr(name)),
+                   L"write " + Quoted(mended));
+            return false;
+        }
+        if (InstallationFiles::LeadsOut(icon.value)) {
+            Report(gathered, icon, "path-separator",
+                   L"the path leads out of the installation directory, where nothing is looked for",
+                   L"put the file below the installation directory");
+            return false;
+        }
+        return true;
+    }
+
+    void CheckFile(const GatheredElement& gathered, const MetAttribute& icon, const std::wstring& path, IconState state,
+                   int side) const {
+        switch (state) {
+        case IconState::Fine:
+            break;
+        case IconState::NoIcon:
+            Report(gathered, icon, "icon-format", Quoted(path) + L" is no icon file, or has no picture",
+                   L"save it as an icon file (.ico)");
+            break;
+        case IconState::TooLarge:
+            Report(gathered, icon, "icon-format",
+                   Quoted(path) + L" has a picture of more than " + std::to_wstring(kLongestIconSide) +
+                       L" pixels a side, and is not loaded",
+                   L"take the picture out of the file");
+            break;
+        case IconState::TooSmall:
+            Report(gathered, icon, "icon-size",
+                   Quoted(path) + L" has no picture of " + std::to_wstring(side) +
+                       L" pixels; a smaller one is enlarged",
+                   L"put a picture of that size into the file");
+            break;
+        }
+    }
+
+    void ReportMissing(const GatheredElement& gathered, const MetAttribute& icon,
+                       const std::vector<std::wstring>& missing) const {
+        std::wstring text;
+        for (const std::wstring& path : missing) {
+            text += (text.empty() ? L"" : L" and ") + Quoted(path);
+        }
+        text += missing.size() == 1 ? L" is not there" : L" are not there";
+        Report(gathered, icon, "missing-icon", std::move(text), Suggestion(icon.value, missing.front()));
+    }
+
+    /// A file of nearly that name beside the one that is missing, as it would be written.
+    std::wstring Suggestion(const std::wstring& written, const std::wstring& missing) const {
+        const std::size_t slash = missing.rfind(L'\\');
+        const std::wstring folder = missing.substr(0, slash);
+        const std::wstring meant = ClosestWord(missing.substr(slash + 1), m_files.FilesIn(folder));
+        if (meant.empty()) {
+            return {};
+        }
+        const std::size_t name = written.rfind(L'\\');
+        return name == std::wstring::npos ? DidYouMean(meant) : DidYouMean(written.substr(0, name + 1) + meant);
+    }
+
+    const InstallationFiles& m_files;
+    DiagnosticsSink& m_sink;
+    /// By the path, the element that named it first.
+    std::map<std::wstring, const GatheredElement*> m_seen;
+};
+
+} // namespace
+
+void CheckIcons(std::span<const GatheredElement> elements, const InstallationFiles& files, DiagnosticsSink& sink) {
+    IconCheck check(files, sink);
+    for (const GatheredElement& gathered : elements) {
+        check.Take(gathered);
+    }
+}

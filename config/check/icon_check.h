@@ -1,0 +1,10 @@
+#pragma once
+
+#include "config/check/gathered_elements.h"
+#include "config/check/installation_files.h"
+
+#include <span>
+
+/// Looks for the icon files that the elements name: missing-icon, icon-format, icon-size, path-separator. A file that
+/// several elements name is reported at the first of them.
+void CheckIcons(std::span<const GatheredElement> elements, const InstallationFiles& files, DiagnosticsSink& sink);

@@ -1,0 +1,113 @@
+#include "config/check/language_texts.h"
+
+#include "config/check/gathered_elements.h"
+#include "config/ribbon_attributes.h"
+#include "config/suggestion.h"
+
+#include <varnhold/language_files.h>
+#include <varnhold/letter_case.h>
+#include <varnhold/strings.h>
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+using varnhold::TextPosition;
+using varnhold::TranslationProblem;
+
+std::string_view CodeOf(TranslationProblem problem) {
+    switch (problem) {
+    case TranslationProblem::Unreadable:
+        return "unreadable-file";
+    case TranslationProblem::Empty:
+        return "empty-file";
+    case TranslationProblem::Encoding:
+        return "xml-encoding";
+    case TranslationProblem::Syntax:
+        return "xml-syntax";
+    default:
+        return "bad-table";
+    }
+}
+
+/// Takes the files of one language.
+class TextReader : public varnhold::TranslationFileVisitor {
+public:
+    TextReader(LanguageTexts& texts, DiagnosticsSink& sink) : m_texts(texts), m_sink(sink) {}
+
+    void Read(const std::wstring& path) {
+        m_file = path;
+        m_isForeign = false;
+        m_texts.isUsable = varnhold::ReadTranslationFile(path, m_texts.code, *this) && m_texts.isUsable;
+    }
+
+    void VisitSourceLanguage(bool isForeign) override { m_isForeign = isForeign; }
+
+    void VisitUnit(const varnhold::TranslationUnit& unit, const varnhold::TextPlace& place) override {
+        const FileDiagnostics diagnostics(m_file, m_sink);
+        const std::wstring key = string2wstring(unit.key);
+        const TextPosition position = place.GetPosition();
+        const auto [earlier, isNew] = m_seen.try_emplace(string2wstring(unit.section) + L'\n' + key,
+                                                         RelatedPlace{m_file, position, L"the earlier one"});
+        if (!isNew) {
+            diagnostics.Report("duplicate-text", position,
+                               L"there is another unit " + Quoted(key) + L" in this section; the later one counts",
+                               L"remove one of the two", {earlier->second});
+        }
+        if (m_isForeign && !unit.isTranslated) {
+            diagnostics.Report("untranslated-text", position, L"the unit " + Quoted(key) + L" has no target",
+                               L"translate it");
+        }
+        if (unit.section == kRibbonSection) {
+            m_texts.commands[key] = {unit.text, m_file, position};
+        }
+    }
+
+    void VisitProblem(TranslationProblem problem, TextPosition position, const std::wstring& text) override {
+        const TextPosition place{std::max<std::size_t>(1, position.line), std::max<std::size_t>(1, position.column)};
+        FileDiagnostics(m_file, m_sink).Report(CodeOf(problem), place, text);
+    }
+
+private:
+    LanguageTexts& m_texts;
+    DiagnosticsSink& m_sink;
+    std::wstring m_file;
+    bool m_isForeign = false;
+    std::map<std::wstring, RelatedPlace> m_seen;
+};
+
+bool IsTable(std::wstring_view name) {
+    constexpr std::wstring_view extension = L".xlf";
+    return name.size() > extension.size() &&
+           varnhold::EqualsIgnoringCase(name.substr(name.size() - extension.size()), extension);
+}
+
+} // namespace
+
+std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const std::wstring& only,
+                                         DiagnosticsSink& sink) {
+    std::vector<LanguageTexts> languages;
+    for (const std::wstring& code : files.FoldersIn(L"lang")) {
+        if (!only.empty() && !varnhold::EqualsIgnoringCase(code, only)) {
+            continue;
+        }
+        LanguageTexts texts{code, true, {}};
+        TextReader reader(texts, sink);
+        bool hasTables = false;
+        for (const std::wstring& name : files.FilesIn(L"lang\\" + code)) {
+            if (IsTable(name)) {
+                hasTables = true;
+                reader.Read(*files.Find(L"lang\\" + code + L'\\' + name));
+            }
+        }
+        if (hasTables) {
+            languages.push_back(std::move(texts));
+        }
+    }
+    if (languages.empty() && !only.empty()) {
+        ReportTogether(sink, files.FullPath(L"lang\\" + only), {1, 1}, "missing-file",
+                       L"there are no tables of the language " + Quoted(only));
+    }
+    return languages;
+}

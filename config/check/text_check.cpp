@@ -1,0 +1,172 @@
+#include "config/check/text_check.h"
+
+#include "config/suggestion.h"
+
+#include <algorithm>
+#include <map>
+
+namespace {
+
+constexpr std::wstring_view kToolTipSuffix = L".tooltip";
+
+/// The keyword that a unit's key belongs to: without what tells the text's number.
+std::wstring KeywordOf(const std::wstring& key) {
+    const std::size_t dot = key.rfind(L'.');
+    if (dot == std::wstring::npos || dot == 0) {
+        return key;
+    }
+    const std::wstring_view suffix = std::wstring_view(key).substr(dot);
+    const bool isNumber = suffix.size() > 1 && suffix.find_first_not_of(L"0123456789", 1) == suffix.npos;
+    return suffix == kToolTipSuffix || isNumber ? key.substr(0, dot) : key;
+}
+
+/// What all elements with one keyword ask for.
+struct Asked {
+    const GatheredElement* first = nullptr;
+    bool name = false;
+    bool toolTip = false;
+};
+
+bool AsksTables(ElementRole role) {
+    switch (role) {
+    case ElementRole::Row:
+    case ElementRole::QuickAccessItem:
+    case ElementRole::ToolBarGroup:
+    case ElementRole::ToolBar:
+    case ElementRole::ToolBarButton:
+    case ElementRole::ToolBarSeparator:
+        return false;
+    default:
+        return true;
+    }
+}
+
+class TextCheck {
+public:
+    TextCheck(std::span<const LanguageTexts> languages, DiagnosticsSink& sink) : m_languages(languages), m_sink(sink) {}
+
+    void Take(const GatheredElement& gathered) {
+        const MetElement& element = gathered.element;
+        const std::wstring keyword(element.ValueOf(AttributeUse::Keyword));
+        if (keyword.empty()) {
+            return;
+        }
+        m_keywords.insert(keyword);
+        const bool name = AsksTables(element.role) && element.Has(AttributeUse::Name);
+        const bool toolTip = AsksTables(element.role) && element.Has(AttributeUse::ToolTip);
+        if (!name && !toolTip) {
+            return;
+        }
+        const auto [asked, isNew] = m_asked.try_emplace(keyword, Asked{&gathered, name, toolTip});
+        if (isNew) {
+            m_inOrder.push_back(keyword);
+        } else {
+            asked->second.name = asked->second.name || name;
+            asked->second.toolTip = asked->second.toolTip || toolTip;
+        }
+    }
+
+    void ReportMissing() {
+        for (const std::wstring& keyword : m_inOrder) {
+            const Asked& asked = m_asked.at(keyword);
+            std::wstring text;
+            for (const LanguageTexts& language : m_languages) {
+                const std::wstring what = MissingIn(language, keyword, asked);
+                if (!what.empty()) {
+                    text += (text.empty() ? L"" : L"; ") + language.code + L" has no " + what;
+                }
+            }
+            if (!text.empty()) {
+                Report(keyword, asked, text);
+            }
+        }
+    }
+
+    /// One finding for all texts of one keyword, in all languages.
+    void ReportUnused() const {
+        std::map<std::wstring, std::vector<const PlacedText*>> unused;
+        std::vector<std::wstring> inOrder;
+        for (const LanguageTexts& language : m_languages) {
+            for (const auto& [key, text] : language.commands) {
+                const std::wstring keyword = KeywordOf(key);
+                if (!m_keywords.contains(keyword) && !m_keywords.contains(key) && !m_meant.contains(keyword)) {
+                    unused[keyword].push_back(&text);
+                }
+            }
+        }
+        for (const auto& [keyword, texts] : unused) {
+            std::vector<RelatedPlace> others;
+            for (std::size_t i = 1; i < texts.size(); ++i) {
+                others.push_back({texts[i]->file, texts[i]->position, L"so is this"});
+            }
+            ReportTogether(m_sink, texts.front()->file, texts.front()->position, "unused-text",
+                           L"no element of the configuration has the keyword " + Quoted(keyword), {},
+                           std::move(others));
+        }
+    }
+
+    const std::set<std::wstring>& Meant() const { return m_meant; }
+
+private:
+    static std::wstring MissingIn(const LanguageTexts& language, const std::wstring& keyword, const Asked& asked) {
+        if (!language.isUsable) {
+            return {};
+        }
+        const bool lacksName = asked.name && !language.commands.contains(keyword);
+        const bool lacksToolTip = asked.toolTip && !language.commands.contains(keyword + std::wstring(kToolTipSuffix));
+        if (lacksName && lacksToolTip) {
+            return L"name and no tooltip";
+        }
+        return lacksName ? L"name" : lacksToolTip ? L"tooltip" : L"";
+    }
+
+    void Report(const std::wstring& keyword, const Asked& asked, const std::wstring& text) {
+        const std::wstring meant = ClosestWord(keyword, UnusedKeywords());
+        if (!meant.empty()) {
+            m_meant.insert(meant);
+        }
+        ReportTogether(m_sink, *asked.first->file, PlaceOf(asked.first->element, AttributeUse::Keyword), "missing-text",
+                       L"for " + Quoted(keyword) + L" " + text,
+                       meant.empty() ? L"add what is missing to section RibbonBarCfg of the tables"
+                                     : DidYouMean(meant));
+    }
+
+    std::vector<std::wstring> UnusedKeywords() {
+        if (!m_unused.empty()) {
+            return m_unused;
+        }
+        std::set<std::wstring> unused;
+        for (const LanguageTexts& language : m_languages) {
+            for (const auto& [key, text] : language.commands) {
+                if (!m_keywords.contains(KeywordOf(key))) {
+                    unused.insert(KeywordOf(key));
+                }
+            }
+        }
+        m_unused.assign(unused.begin(), unused.end());
+        return m_unused;
+    }
+
+    std::span<const LanguageTexts> m_languages;
+    DiagnosticsSink& m_sink;
+    std::set<std::wstring> m_keywords;
+    std::map<std::wstring, Asked> m_asked;
+    std::vector<std::wstring> m_inOrder;
+    std::vector<std::wstring> m_unused;
+    std::set<std::wstring> m_meant;
+};
+
+} // namespace
+
+std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
+                                  bool isComplete, DiagnosticsSink& sink) {
+    TextCheck check(languages, sink);
+    for (const GatheredElement& gathered : elements) {
+        check.Take(gathered);
+    }
+    check.ReportMissing();
+    if (isComplete) {
+        check.ReportUnused();
+    }
+    return check.Meant();
+}

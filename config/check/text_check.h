@@ -1,0 +1,17 @@
+#pragma once
+
+#include "config/check/gathered_elements.h"
+#include "config/check/language_texts.h"
+
+#include <set>
+#include <span>
+#include <string>
+
+/// Checks the texts that the elements ask for against the tables: missing-text, and unused-text where `isComplete` (no
+/// file was left out). Returns the keywords that were probably meant by those without a text.
+std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
+                                  bool isComplete, DiagnosticsSink& sink);
+
+/// Checks the letters of each menu in each language: access-key-clash.
+void CheckAccessKeys(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
+                     DiagnosticsSink& sink);

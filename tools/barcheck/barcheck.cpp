@@ -1,0 +1,83 @@
+#include "config/check/configuration_check.h"
+#include "options.h"
+#include "reports.h"
+
+#include <varnhold/strings.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
+namespace {
+
+enum ExitCode { Clean = 0, HasFindings = 1, WrongUsage = 2 };
+
+void Print(const std::string& text, std::FILE* stream) { std::fwrite(text.data(), 1, text.size(), stream); }
+
+std::string ReportOf(const std::vector<Diagnostic>& findings, const BarcheckOptions& options) {
+    switch (options.format) {
+    case ReportFormat::Json:
+        return JsonReport(findings);
+    case ReportFormat::Sarif:
+        return SarifReport(findings);
+    case ReportFormat::Github:
+        return GithubReport(findings);
+    case ReportFormat::Text:
+        break;
+    }
+    return TextReport(findings, options.directory);
+}
+
+int Check(const BarcheckOptions& options) {
+    const std::vector<Diagnostic> findings = CheckConfiguration({options.directory, options.files, options.language});
+    Print(ReportOf(findings, options), stdout);
+    if (!findings.empty() && options.format == ReportFormat::Text) {
+        std::fflush(stdout);
+        Print("barcheck: " + Summary(findings) + "\n", stderr);
+    }
+    const bool counts = std::ranges::any_of(findings, [&](const Diagnostic& finding) {
+        return options.isStrict || finding.severity != DiagnosticSeverity::Note;
+    });
+    return counts ? HasFindings : Clean;
+}
+
+int Run(const std::vector<std::wstring>& arguments) {
+    std::wstring error;
+    const std::optional<BarcheckOptions> options = ParseBarcheckOptions(arguments, error);
+    if (!options) {
+        Print("barcheck: " + wstring2String(error) + "\n" + BarcheckUsage(), stderr);
+        return WrongUsage;
+    }
+    switch (options->task) {
+    case BarcheckOptions::Task::Help:
+        Print(BarcheckUsage(), stdout);
+        return Clean;
+    case BarcheckOptions::Task::Guide:
+        Print(DiagnosticsGuide(), stdout);
+        return Clean;
+    case BarcheckOptions::Task::Check:
+        break;
+    }
+    return Check(*options);
+}
+
+} // namespace
+
+#ifdef _WIN32
+int wmain(int count, wchar_t** arguments) {
+    ::_setmode(::_fileno(stdout), _O_BINARY); // the same bytes on every system
+    return Run({arguments + 1, arguments + count});
+}
+#else
+int main(int count, char** arguments) {
+    std::vector<std::wstring> wide;
+    for (int i = 1; i < count; ++i) {
+        wide.push_back(string2wstring(arguments[i]));
+    }
+    return Run(wide);
+}
+#endif

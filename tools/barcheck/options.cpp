@@ -1,0 +1,125 @@
+#include "options.h"
+
+#include <varnhold/strings.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+
+namespace {
+
+struct FormatName {
+    std::wstring_view name;
+    ReportFormat format;
+};
+constexpr FormatName kFormats[] = {
+    {L"text", ReportFormat::Text},
+    {L"json", ReportFormat::Json},
+    {L"sarif", ReportFormat::Sarif},
+    {L"github", ReportFormat::Github},
+};
+
+bool SetFormat(BarcheckOptions& options, const std::wstring& value) {
+    const auto* const found = std::ranges::find(kFormats, value, &FormatName::name);
+    if (found == std::end(kFormats)) {
+        return false;
+    }
+    options.format = found->format;
+    return true;
+}
+
+bool SetLanguage(BarcheckOptions& options, const std::wstring& value) {
+    options.language = value;
+    return !value.empty() && value.find_first_of(L"\\/") == std::wstring::npos;
+}
+
+struct Option {
+    std::wstring_view name;
+    bool hasValue;
+    bool (*set)(BarcheckOptions& options, const std::wstring& value);
+};
+
+bool SetStrict(BarcheckOptions& options, const std::wstring& /*value*/) { return options.isStrict = true; }
+
+template <BarcheckOptions::Task task>
+bool SetTask(BarcheckOptions& options, const std::wstring& /*value*/) {
+    options.task = task;
+    return true;
+}
+
+constexpr Option kOptions[] = {
+    {L"--format", true, SetFormat},
+    {L"--lang", true, SetLanguage},
+    {L"--strict", false, SetStrict},
+    {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
+    {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
+};
+
+#ifdef _WIN32
+constexpr wchar_t kSeparator = L'\\';
+std::filesystem::path NativePath(const std::wstring& path) { return path; }
+#else
+constexpr wchar_t kSeparator = L'/';
+std::filesystem::path NativePath(const std::wstring& path) { return wstring2String(path); }
+#endif
+
+bool CheckDirectory(BarcheckOptions& options, std::wstring& error) {
+    std::error_code ignored;
+    if (options.directory.empty()) {
+        error = L"the installation directory is missing";
+        return false;
+    }
+    if (!std::filesystem::is_directory(NativePath(options.directory), ignored)) {
+        error = L"no such directory: " + options.directory;
+        return false;
+    }
+    if (options.directory.back() != kSeparator && options.directory.back() != L'/') {
+        options.directory += kSeparator;
+    }
+    return true;
+}
+
+} // namespace
+
+std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
+    BarcheckOptions options;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::wstring& argument = arguments[i];
+        const auto* const option = std::ranges::find(kOptions, argument, &Option::name);
+        if (option != std::end(kOptions)) {
+            const bool hasValue = !option->hasValue || ++i < arguments.size();
+            if (!hasValue || !option->set(options, option->hasValue ? arguments[i] : argument)) {
+                error = argument + L" needs a proper value";
+                return std::nullopt;
+            }
+        } else if (argument.starts_with(L"-")) {
+            error = L"unknown option " + argument;
+            return std::nullopt;
+        } else if (options.directory.empty()) {
+            options.directory = argument;
+        } else {
+            options.files.push_back(argument);
+        }
+    }
+    if (options.task == BarcheckOptions::Task::Check && !CheckDirectory(options, error)) {
+        return std::nullopt;
+    }
+    return options;
+}
+
+const char* BarcheckUsage() {
+    return "usage: barcheck DIR [FILE...] [--format text|json|sarif|github] [--strict] [--lang LANG]\n"
+           "       barcheck --guide\n"
+           "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
+           "files, the translation tables below lang and the icons that the files name. It reads them as the library\n"
+           "does. Without a FILE (relative to DIR) it takes cfg\\ribbon*.xml, cfg\\menu*.xml and cfg\\toolbar*.xml; of "
+           "a\n"
+           "FILE of another name the attributes say what it is.\n"
+           "  --format  text: FILE:LINE:COLUMN: SEVERITY: TEXT [CODE], the line and a caret below it; json; sarif "
+           "(2.1.0);\n"
+           "            github: commands that mark the places in a pull request\n"
+           "  --strict  notes count as findings\n"
+           "  --lang    only the tables of this language\n"
+           "  --guide   what every code means, as in docs/diagnostics.md\n"
+           "Exit code: 0 nothing but notes, 1 findings, 2 wrong usage.\n";
+}

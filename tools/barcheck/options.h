@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+enum class ReportFormat { Text, Json, Sarif, Github };
+
+/// What the program was asked for.
+struct BarcheckOptions {
+    enum class Task { Check, Guide, Help };
+    Task task = Task::Check;
+    /// Installation directory, with its closing separator.
+    std::wstring directory;
+    /// Relative to the directory; none: those that are there.
+    std::vector<std::wstring> files;
+    ReportFormat format = ReportFormat::Text;
+    /// Notes count as findings.
+    bool isStrict = false;
+    std::wstring language;
+};
+
+/// Nothing, with a line in `error`, on wrong usage.
+std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstring>& arguments, std::wstring& error);
+
+const char* BarcheckUsage();
