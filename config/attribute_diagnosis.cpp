@@ -1,5 +1,6 @@
 #include "config/attribute_diagnosis.h"
 
+#include "config/depth_walker.h"
 #include "varnhold/letter_case.h"
 
 #include <varnhold/strings.h>
@@ -101,6 +102,16 @@ private:
 MetElement DescribeElement(varnhold::XmlCursor& element, std::span<const AttributeRule> rules,
                            std::wstring_view fileName, const FileDiagnostics& diagnostics) {
     return Description(element, rules, fileName, diagnostics).Make();
+}
+
+void PassOverBelow(const varnhold::XmlCursor& element, std::span<const AttributeRule> rules,
+                   const FileDiagnostics& diagnostics) {
+    WalkBelow(element, [&](varnhold::XmlCursor& below, std::size_t /*depth*/) {
+        MetElement met = DescribeElement(below, rules, {}, Unreported());
+        met.isPassedOver = true;
+        diagnostics.Meet(met);
+        return true;
+    });
 }
 
 void ReportAt(const FileDiagnostics& diagnostics, const MetElement& element, AttributeUse use, std::string_view code,

@@ -12,6 +12,10 @@
 MetElement DescribeElement(varnhold::XmlCursor& element, std::span<const AttributeRule> rules,
                            std::wstring_view fileName, const FileDiagnostics& diagnostics);
 
+/// Meets all elements below one that was reported as passed over.
+void PassOverBelow(const varnhold::XmlCursor& element, std::span<const AttributeRule> rules,
+                   const FileDiagnostics& diagnostics);
+
 /// Reports `code` at the attribute when the element has one, otherwise at the element.
 void ReportAt(const FileDiagnostics& diagnostics, const MetElement& element, AttributeUse use, std::string_view code,
               std::wstring text, std::wstring fix = {});

@@ -72,6 +72,9 @@ struct MetElement {
     varnhold::TextPosition position;
     std::vector<MetAttribute> attributes;
     bool hasChildren = false;
+    /// It lies below an element that was reported, and is not what it was meant to be until that one is mended: what is
+    /// said of it here is what is written, and nothing about it was reported. Its role counts for nothing.
+    bool isPassedOver = false;
 
     /// Null when there is none.
     const MetAttribute* Find(AttributeUse use) const {

@@ -51,16 +51,19 @@ void RibbonDiagnosis::Meet(varnhold::XmlCursor& element, const RibbonTexts& info
     met.depth = depth;
     if (element.ReadAttributes().empty() && met.role != ElementRole::Row) {
         m_diagnostics.Report("no-attributes", met.position, L"an element without attributes describes nothing");
-        PassOverBelow(met);
-        return;
+        m_silentBelow = met.depth;
+    } else {
+        Check(met, info);
+        m_diagnostics.Meet(met);
     }
-    Check(met, info);
-    m_diagnostics.Meet(met);
+    if (m_silentBelow != kNowhere) {
+        PassOverBelow(element, RibbonAttributeRules(), m_diagnostics);
+    }
 }
 
 void RibbonDiagnosis::Check(const MetElement& met, const RibbonTexts& info) {
     if (!CheckDepth(met)) {
-        PassOverBelow(met);
+        m_silentBelow = met.depth;
         return;
     }
     CheckKeyword(met);
@@ -124,22 +127,23 @@ void RibbonDiagnosis::CheckKind(const MetElement& met) {
     const ElementKind kind = KindOf(met);
     if (type.empty()) {
         ReportAt(m_diagnostics, met, AttributeUse::Type, "missing-type", L"without a TYPE nothing is shown");
-        PassOverBelow(met);
+        m_silentBelow = met.depth;
     } else if (kind == ElementKind::Unknown) {
         ReportAt(m_diagnostics, met, AttributeUse::Type, "unknown-type",
                  Quoted(type) + L" is no kind of ribbon element; nothing is shown",
                  DidYouMean(ClosestWord(type, ElementTypes())));
-        PassOverBelow(met);
+        m_silentBelow = met.depth;
     } else if (kind == ElementKind::Group && (met.role == ElementRole::SubItem || !met.hasChildren)) {
         m_diagnostics.Report("empty-group", met.position,
                              L"a group without elements, or within another element, shows nothing");
-        PassOverBelow(met);
+        m_silentBelow = met.depth;
     } else if (met.hasChildren && met.role == ElementRole::SubItem) {
         m_diagnostics.Report("children-lost", met.position, L"the elements below a sub-item are not read");
+        m_silentBelow = met.depth;
     } else if (met.hasChildren && !TakesSubItems(kind)) {
         m_diagnostics.Report("children-lost", met.position,
                              L"only a button or a group may have elements below it; this one vanishes with them");
-        PassOverBelow(met);
+        m_silentBelow = met.depth;
     }
 }
 
@@ -188,5 +192,6 @@ void RibbonDiagnosis::CheckChildren(const MetElement& met) {
         met.role == ElementRole::Row || met.role == ElementRole::Category || met.role == ElementRole::Panel;
     if (!takesChildren && met.hasChildren) {
         m_diagnostics.Report("children-lost", met.position, L"the elements below this one are not read");
+        m_silentBelow = met.depth;
     }
 }

@@ -32,7 +32,6 @@ private:
     void CheckSizes(const MetElement& met, const RibbonTexts& info);
     void CheckInheritance(const MetElement& met);
     void CheckChildren(const MetElement& met);
-    void PassOverBelow(const MetElement& met) { m_silentBelow = met.depth; }
 
     static constexpr std::size_t kNowhere = std::numeric_limits<std::size_t>::max();
     /// Which of CMD, PARAM and PICDisPATH a panel or a sub-item before this one has set.

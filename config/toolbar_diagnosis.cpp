@@ -40,6 +40,7 @@ void ToolBarDiagnosis::MeetGroup(varnhold::XmlCursor& element) {
     const MetElement met = Describe(element, ElementRole::ToolBarGroup);
     m_isInGroup = CheckDepth(met);
     if (!m_isInGroup) {
+        PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);
         return;
     }
     if (met.ValueOf(AttributeUse::Keyword).empty()) {
@@ -56,6 +57,7 @@ void ToolBarDiagnosis::MeetToolBar(varnhold::XmlCursor& element) {
     const MetElement met = Describe(element, ElementRole::ToolBar);
     m_isInToolBar = CheckDepth(met);
     if (!m_isInToolBar) {
+        PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);
         return;
     }
     if (met.ValueOf(AttributeUse::Prompt).empty()) {
@@ -91,6 +93,7 @@ void ToolBarDiagnosis::MeetButton(varnhold::XmlCursor& element) const {
     }
     if (met.hasChildren) {
         m_diagnostics.Report("children-lost", met.position, L"elements inside a button are not read");
+        PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);
     }
     m_diagnostics.Meet(met);
 }

@@ -51,7 +51,7 @@ void FindClashes(std::span<const GatheredElement> elements, const LanguageTexts*
     const std::wstring* file = nullptr;
     for (const GatheredElement& gathered : elements) {
         const bool isPopup = gathered.element.role == ElementRole::Popup;
-        if (!isPopup && gathered.element.role != ElementRole::MenuItem) {
+        if (gathered.element.isPassedOver || (!isPopup && gathered.element.role != ElementRole::MenuItem)) {
             continue;
         }
         if (file != gathered.file) {

@@ -70,6 +70,10 @@ public:
 private:
     void Take(const GatheredElement& gathered) {
         const MetElement& element = gathered.element;
+        if (element.isPassedOver) {
+            m_passedOver.insert(std::wstring(element.ValueOf(AttributeUse::Keyword)));
+            return;
+        }
         if (Refers(element)) {
             Refer(gathered);
             return;
@@ -188,7 +192,8 @@ private:
     void CheckReferences(std::vector<const GatheredElement*>& references, std::string_view code, const wchar_t* text) {
         for (const GatheredElement* const reference : references) {
             const std::wstring keyword(reference->element.ValueOf(AttributeUse::Keyword));
-            if (m_isComplete && !m_commands.contains(keyword) && !m_meant.contains(keyword)) {
+            if (m_isComplete && !m_commands.contains(keyword) && !m_meant.contains(keyword) &&
+                !m_passedOver.contains(keyword)) {
                 std::vector<std::wstring> known;
                 for (const auto& [name, command] : m_commands) {
                     known.push_back(name);
@@ -204,6 +209,8 @@ private:
     const std::set<std::wstring>& m_meant;
     DiagnosticsSink& m_sink;
     std::map<std::wstring, Command> m_commands;
+    /// They will be commands when what is around them is mended.
+    std::set<std::wstring> m_passedOver;
     std::map<std::wstring, const GatheredElement*> m_shortcuts;
     std::vector<const GatheredElement*> m_quickAccess;
     std::vector<const GatheredElement*> m_statusButtons;

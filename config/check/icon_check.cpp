@@ -81,7 +81,8 @@ public:
     void Take(const GatheredElement& gathered) {
         const MetAttribute* const icon = gathered.element.Find(AttributeUse::Icon);
         const std::vector<int> sides = SidesOf(gathered.element);
-        if (!icon || icon->value.empty() || sides.empty() || !CheckPath(gathered, *icon)) {
+        if (gathered.element.isPassedOver || !icon || icon->value.empty() || sides.empty() ||
+            !CheckPath(gathered, *icon)) {
             return;
         }
         std::vector<std::wstring> missing;

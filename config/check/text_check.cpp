@@ -3,6 +3,7 @@
 #include "config/suggestion.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 
 namespace {
@@ -52,6 +53,15 @@ public:
             return;
         }
         m_keywords.insert(keyword);
+        if (element.isPassedOver) {
+            m_ofRibbon.insert(keyword);
+            return;
+        }
+        if (element.role == ElementRole::QuickAccessItem || element.role == ElementRole::StatusButton) {
+            m_references.insert(keyword);
+        } else if (element.role == ElementRole::RibbonElement || element.role == ElementRole::SubItem) {
+            m_ofRibbon.insert(keyword);
+        }
         const bool name = AsksTables(element.role) && element.Has(AttributeUse::Name);
         const bool toolTip = AsksTables(element.role) && element.Has(AttributeUse::ToolTip);
         if (!name && !toolTip) {
@@ -85,7 +95,6 @@ public:
     /// One finding for all texts of one keyword, in all languages.
     void ReportUnused() const {
         std::map<std::wstring, std::vector<const PlacedText*>> unused;
-        std::vector<std::wstring> inOrder;
         for (const LanguageTexts& language : m_languages) {
             for (const auto& [key, text] : language.commands) {
                 const std::wstring keyword = KeywordOf(key);
@@ -121,7 +130,7 @@ private:
     }
 
     void Report(const std::wstring& keyword, const Asked& asked, const std::wstring& text) {
-        const std::wstring meant = ClosestWord(keyword, UnusedKeywords());
+        const std::wstring meant = ClosestWord(keyword, DanglingKeywords());
         if (!meant.empty()) {
             m_meant.insert(meant);
         }
@@ -131,20 +140,22 @@ private:
                                      : DidYouMean(meant));
     }
 
-    std::vector<std::wstring> UnusedKeywords() {
-        if (!m_unused.empty()) {
-            return m_unused;
-        }
-        std::set<std::wstring> unused;
-        for (const LanguageTexts& language : m_languages) {
-            for (const auto& [key, text] : language.commands) {
-                if (!m_keywords.contains(KeywordOf(key))) {
-                    unused.insert(KeywordOf(key));
+    /// Keywords that somebody waits for: the tables have texts for them that no element uses, or a quick access item or
+    /// status-bar button refers to them and no element of the ribbon has them.
+    const std::vector<std::wstring>& DanglingKeywords() {
+        if (m_dangling.empty()) {
+            std::set<std::wstring> dangling;
+            for (const LanguageTexts& language : m_languages) {
+                for (const auto& [key, text] : language.commands) {
+                    if (!m_keywords.contains(KeywordOf(key))) {
+                        dangling.insert(KeywordOf(key));
+                    }
                 }
             }
+            std::ranges::set_difference(m_references, m_ofRibbon, std::inserter(dangling, dangling.end()));
+            m_dangling.assign(dangling.begin(), dangling.end());
         }
-        m_unused.assign(unused.begin(), unused.end());
-        return m_unused;
+        return m_dangling;
     }
 
     std::span<const LanguageTexts> m_languages;
@@ -152,7 +163,9 @@ private:
     std::set<std::wstring> m_keywords;
     std::map<std::wstring, Asked> m_asked;
     std::vector<std::wstring> m_inOrder;
-    std::vector<std::wstring> m_unused;
+    std::set<std::wstring> m_references;
+    std::set<std::wstring> m_ofRibbon;
+    std::vector<std::wstring> m_dangling;
     std::set<std::wstring> m_meant;
 };
 

@@ -59,6 +59,14 @@ bool IsText(const pugi::xml_node& node) {
             std::string_view(node.value()).find_first_not_of(" \t\r\n") != std::string_view::npos);
 }
 
+/// The parser stops behind the "</" of an end tag that does not fit.
+std::size_t StartOfTag(std::string_view text, std::size_t offset) {
+    constexpr std::string_view endTag = "</";
+    const bool isInTag = offset >= endTag.size() && offset <= text.size() &&
+                         text.substr(offset - endTag.size(), endTag.size()) == endTag;
+    return isInTag ? offset - endTag.size() : offset;
+}
+
 bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
 
 } // namespace
@@ -104,7 +112,7 @@ bool XmlTree::ParseText(BlankText blanks, XmlFailure& failure) {
         m_document.load_buffer_inplace(m_buffer.get(), m_text.size() + 1, options, pugi::encoding_utf8);
     if (!result) {
         failure = {XmlError::Syntax, DescribeStatus(result.status),
-                   GetPosition(static_cast<std::size_t>(result.offset))};
+                   GetPosition(StartOfTag(m_text, static_cast<std::size_t>(result.offset)))};
         return false;
     }
     return CheckTopLevel(failure) && CheckDepth(failure) && CheckReferences(failure);
