@@ -12,7 +12,7 @@
 #include <cwchar>
 #include <filesystem>
 #include <fstream>
-#include <map>
+#include <set>
 
 namespace {
 
@@ -88,7 +88,7 @@ public:
         std::vector<std::wstring> missing;
         for (const int side : sides) {
             const std::wstring path = IconFileBelow({}, icon->value, side);
-            if (m_seen.emplace(path, &gathered).second) {
+            if (m_seen.insert(FoldedPath(path)).second) {
                 if (const auto found = m_files.Find(path)) {
                     CheckFile(gathered, *icon, path, StateOf(*found, side), side);
                 } else {
@@ -177,8 +177,8 @@ private:
 
     const InstallationFiles& m_files;
     DiagnosticsSink& m_sink;
-    /// By the path, the element that named it first.
-    std::map<std::wstring, const GatheredElement*> m_seen;
+    /// Paths that an element named before.
+    std::set<std::wstring> m_seen;
 };
 
 } // namespace

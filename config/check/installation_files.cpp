@@ -48,6 +48,12 @@ std::vector<std::wstring> Values(const std::map<std::wstring, std::wstring>& nam
 
 } // namespace
 
+std::wstring FoldedPath(std::wstring_view path) {
+    std::wstring folded = Folded(path);
+    std::ranges::replace(folded, L'\\', L'/');
+    return folded;
+}
+
 std::optional<std::vector<std::wstring>> PathParts(std::wstring_view path) {
     std::vector<std::wstring> parts;
     while (!path.empty()) {

@@ -41,5 +41,8 @@ private:
     mutable std::map<std::wstring, Folder> m_folders;
 };
 
+/// Paths of the same file, in small letters and with the same separators.
+std::wstring FoldedPath(std::wstring_view path);
+
 /// What is between the separators, "." left out and ".." resolved. Nothing when it leads out.
 std::optional<std::vector<std::wstring>> PathParts(std::wstring_view path);

@@ -36,7 +36,8 @@ private:
         std::size_t start = 0;
         for (std::size_t at = 0; at < text.size(); ++at) {
             if (text[at] == '\n' || (text[at] == '\r' && text.substr(at + 1, 1) != "\n")) {
-                lines.push_back(text.substr(start, at - start));
+                const bool isPair = text[at] == '\n' && at > start && text[at - 1] == '\r';
+                lines.push_back(text.substr(start, at - start - (isPair ? 1 : 0)));
                 start = at + 1;
             }
         }

@@ -1,0 +1,190 @@
+#include "bench/support/scenario.h"
+#include "checked_installation.h"
+#include "sample_installation.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+namespace {
+
+constexpr const char* kButton = "<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"";
+
+TEST(CheckedConfiguration, ABrokenFileHidesNothingInTheOthersAndHasNoFollowers) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    installation.Write("cfg/ribbon.xml", "<ribbon>");
+    installation.Write("cfg/menu.xml", MenuWith("<item KEYWORD=\"Undo\" MENUNAME=\"\" HOTKEY=\"F5\"/>"));
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:1:8 xml-syntax\ncfg/menu.xml:3:8 missing-text\n"
+                                       "cfg/menu.xml:4:34 shortcut-syntax\n");
+}
+
+TEST(CheckedConfiguration, ABrokenTableIsSaidOnceAndItsLanguageLacksNothing) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    installation.Write("lang/de/a.xlf", "<xliff");
+    EXPECT_EQ(installation.Findings(), "lang/de/a.xlf:1:6 xml-syntax\n");
+}
+
+TEST(CheckedConfiguration, ColumnsCountCharactersInAnyEncoding) {
+    const CheckedInstallation installation;
+    const std::string chinese = "\xE5\x9C\xB0\xE5\x9B\xBE"; // two letters
+    installation.Write("cfg/ribbon.xml",
+                       "\xEF\xBB\xBF<r><r>\r\n\t<c KEYWORD='" + chinese + "' NAME='' colour='1'/></r></r>");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:2:26 unknown-attribute\n");
+    installation.Write("cfg/ribbon.xml",
+                       "<?xml version='1.0' encoding='GBK'?><r><r>\r<c KEYWORD='\xB5\xD8\xCD\xBC' NAME='' "
+                       "colour='1'/></r></r>");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:2:25 unknown-attribute\n");
+}
+
+TEST(CheckedConfiguration, FilesThatAreNamedAreTheOnlyOnes) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    installation.Write("cfg/menu.xml", "<menu>");
+    installation.Write("other/bars.xml", ToolBarWith("<item TYPE=\"buton\" KEYWORD=\"a\"/>"));
+    installation.Write("other/items.xml", MenuWith("<item KEYWORD=\"Undo\" MENUNAME=\"\" HOTKEY=\"F5\"/>"));
+    EXPECT_EQ(installation.Findings({L"cfg\\ribbon.xml"}), "");
+    EXPECT_EQ(installation.Findings({L"CFG/Ribbon.XML"}), "");
+    EXPECT_EQ(installation.Findings({L"other/bars.xml"}), "other/bars.xml:4:7 unknown-type\n");
+    EXPECT_EQ(installation.Findings({L"other\\items.xml"}),
+              "other/items.xml:3:8 missing-text\nother/items.xml:4:34 shortcut-syntax\n");
+    EXPECT_EQ(installation.Findings({L"cfg/none.xml"}), "cfg/none.xml:1:1 missing-file\n");
+}
+
+TEST(CheckedConfiguration, ADirectoryWithoutFilesLacksThem) {
+    const CheckedInstallation installation;
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:1:1 missing-file\n");
+}
+
+TEST(CheckedConfiguration, OneLanguageIsLookedAtAloneWhenItIsAskedFor) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/ribbon.xml", RibbonWith(std::string(kButton) + "/>"));
+    const std::string own = CheckedInstallation::Unit("Map", "Map");
+    installation.WriteTable("en", own + CheckedInstallation::Unit("In", "In"));
+    installation.Write("lang/de/a.xlf", CheckedInstallation::Table(own, "de"));
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:4:4 missing-text\n");
+    EXPECT_EQ(installation.Findings({}, L"EN"), "");
+    EXPECT_EQ(installation.Findings({}, L"de"), "cfg/ribbon.xml:4:4 missing-text\n");
+    EXPECT_EQ(installation.Findings({}, L"fr"), "lang/fr:1:1 missing-file\n");
+}
+
+TEST(CheckedConfiguration, AMissingTextNamesItsLanguagesAndWhatTheyLack) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TOOLTIP=\"\" TYPE=\"BUTTON\"/>"));
+    const std::string own = CheckedInstallation::Unit("Map", "Map");
+    installation.WriteTable("en", own + CheckedInstallation::Unit("In", "In"));
+    installation.Write("lang/de/a.xlf", CheckedInstallation::Table(own, "de"));
+    const std::vector<Diagnostic> findings = installation.Check();
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].text, L"for \"In\" de has no name and no tooltip; en has no tooltip");
+}
+
+TEST(CheckedConfiguration, AMisspeltKeywordIsOneFindingThatNamesTheOneThatWasMeant) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    std::string ribbon = SampleRibbon();
+    const std::string before = "<item KEYWORD=\"ZoomIn\" NAME";
+    ribbon.replace(ribbon.find(before), before.size(), "<item KEYWORD=\"ZomIn\" NAME");
+    installation.Write("cfg/ribbon.xml", ribbon);
+    const std::vector<Diagnostic> findings = installation.Check();
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(findings[0].fix, L"did you mean \"ZoomIn\"?");
+}
+
+TEST(CheckedConfiguration, LettersClashPerLanguageByTheTranslatedText) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"A\" MENUNAME=\"\"/>\n<i KEYWORD=\"B\" MENUNAME=\"\"/>"));
+    const std::string own = CheckedInstallation::Unit("Edit", "Edit");
+    installation.WriteTable("en", own + CheckedInstallation::Unit("A", "&amp;Save") +
+                                      CheckedInstallation::Unit("B", "S&amp;end &amp;&amp; &amp;go"));
+    installation.Write("lang/de/a.xlf",
+                       CheckedInstallation::Table(own + CheckedInstallation::Unit("A", "&amp;Sichern") +
+                                                      CheckedInstallation::Unit("B", "&amp;Senden"),
+                                                  "de"));
+    const std::vector<Diagnostic> findings = installation.Check();
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(CheckedInstallation::Describe(findings[0]), "cfg/menu.xml:5:4 access-key-clash\n");
+    EXPECT_TRUE(findings[0].text.ends_with(L" in de")) << wstring2String(findings[0].text);
+}
+
+TEST(CheckedConfiguration, TheSameLetterInTwoMenusIsNoClash) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/menu.xml",
+                       "<m><g><p KEYWORD='P' MENUNAME='' SHORTKEY='P'><i KEYWORD='A' MENUNAME='' SHORTKEY='P'/>"
+                       "</p><p KEYWORD='Q' MENUNAME='' SHORTKEY='Q'><i KEYWORD='B' MENUNAME='' "
+                       "SHORTKEY='P'/></p></g></m>");
+    EXPECT_EQ(installation.Findings(), "");
+}
+
+TEST(CheckedConfiguration, AnItemMayRepeatTheShortcutOfItsOwnCommand) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"A\" MENUNAME=\"\" HOTKEY=\"Ctrl+A\"/>\n"
+                                                "<i KEYWORD=\"A\" MENUNAME=\"\" HOTKEY=\"ctrl+a\"/>\n"
+                                                "<i KEYWORD=\"A\" MENUNAME=\"\" HOTKEY=\"Ctrl+B\"/>"));
+    EXPECT_EQ(installation.Findings(), "cfg/menu.xml:6:28 lost-shortcut\n");
+}
+
+TEST(CheckedConfiguration, ALoneLetterIsAnotherShortcutThanItsKey) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"A\" MENUNAME=\"\" HOTKEY=\"A\"/>\n"
+                                                "<i KEYWORD=\"B\" MENUNAME=\"\" HOTKEY=\"a\"/>\n"
+                                                "<i KEYWORD=\"C\" MENUNAME=\"\" HOTKEY=\"Shift+A\"/>"));
+    EXPECT_EQ(installation.Findings(), "");
+}
+
+TEST(CheckedConfiguration, HelpIsLostWhereTheFirstElementHasSome) {
+    const CheckedInstallation installation;
+    const std::string second = "/>\n<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" help=\"a.swf\"/>";
+    installation.Write("cfg/ribbon.xml", RibbonWith(kButton + second));
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:5:4 duplicate-keyword\n");
+    installation.Write("cfg/ribbon.xml", RibbonWith(kButton + std::string(" AcceptF1=\"N\"") + second));
+    EXPECT_EQ(installation.Findings(), "");
+    installation.Write("cfg/ribbon.xml", RibbonWith(kButton + std::string(" help=\"a.swf\"") + second));
+    EXPECT_EQ(installation.Findings(), "");
+}
+
+class CheckedIcon : public testing::Test {
+protected:
+    std::string Findings(const std::string& size) const {
+        m_installation.Write("cfg/ribbon.xml",
+                             RibbonWith(kButton + (" SIZE=\"" + size + "\" PICPATH=\"pic\\a.ico\"/>\n") + kButton +
+                                        " PICPATH=\"PIC\\A.ICO\" SIZE=\"" + size + "\"/>"));
+        return m_installation.Findings();
+    }
+    CheckedInstallation m_installation;
+};
+
+TEST_F(CheckedIcon, ALargeButtonNeedsBothFilesAndASmallOneTheFirst) {
+    EXPECT_EQ(Findings("32"), "cfg/ribbon.xml:4:49 missing-icon\n"); // once for all that name the file
+    m_installation.Write("pic/16/A.ico", MakeIconFile(16, {0, 0}));
+    EXPECT_EQ(Findings("16"), "");
+    EXPECT_EQ(m_installation.Check().size(), 0u);
+    EXPECT_NE(Findings("32"), "");
+    m_installation.Write("pic/32/a.ico", MakeIconFile(32, {0, 0}));
+    EXPECT_EQ(Findings("32"), "");
+}
+
+TEST_F(CheckedIcon, WhatCannotBeDrawnIsNoIcon) {
+    const std::string place = "cfg/ribbon.xml:4:49 ";
+    for (const std::string& bytes : {std::string(), std::string("\x89PNG\r\n\x1A\n and more"), MakeIconFile({})}) {
+        m_installation.Write("pic/16/a.ico", bytes);
+        EXPECT_TRUE(Findings("16").starts_with(place + "icon-format\n")) << bytes.size();
+    }
+    m_installation.Write("pic/16/a.ico", MakeIconFile(1025, {0, 0}));
+    EXPECT_TRUE(Findings("16").starts_with(place + "icon-format\n"));
+    m_installation.Write("pic/16/a.ico", MakeIconFile(15, {0, 0}));
+    EXPECT_TRUE(Findings("16").starts_with(place + "icon-size\n"));
+}
+
+TEST(CheckedScenario, TheGeneratedRibbonOfFiveThousandButtonsIsCleanAndCheckedInASecond) {
+    ScenarioDirectory scenario;
+    scenario.AddRibbonFile(5000, 50);
+    const auto start = std::chrono::steady_clock::now();
+    const std::vector<Diagnostic> findings = CheckConfiguration({(scenario.Path() / "").wstring(), {}, {}});
+    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+    EXPECT_EQ(findings.size(), 0u) << CheckedInstallation::Describe(findings.front());
+    EXPECT_LT(time.count(), 1.0);
+}
+
+} // namespace
