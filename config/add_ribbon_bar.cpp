@@ -2,6 +2,7 @@
 
 #include "config/command_id.h"
 #include "config/element_kind.h"
+#include "config/load_watch.h"
 #include "config/missing_file_message.h"
 #include "config/ribbon_attributes.h"
 #include "config/ribbon_element_factory.h"
@@ -44,7 +45,8 @@ bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show)
     }
     const std::wstring fullPath = directory + newPath;
     RibbonRecords rows;
-    if (!LoadRibbonFile(fullPath, rows, DroppedDiagnostics())) {
+    LoadWatch watch;
+    if (!LoadRibbonFile(fullPath, rows, watch.Sink())) {
         ShowMissingFileMessage(fullPath);
         return false;
     }

@@ -1,6 +1,7 @@
 #include "dyn_menu_creater.h"
 
 #include "config/accelerators.h"
+#include "config/load_watch.h"
 #include "config/menu_attributes.h"
 #include "config/menu_diagnosis.h"
 #include "config/menu_file.h"
@@ -173,8 +174,9 @@ bool CDynMenuCreater::Load(std::wstring path) {
     }
     const std::wstring fullPath = directory + m_strPath;
     Building building(*this, m_hMenu);
+    LoadWatch watch;
     try {
-        if (!LoadMenuFile(fullPath, building, DroppedDiagnostics())) {
+        if (!LoadMenuFile(fullPath, building, watch.Sink())) {
             ShowMissingFileMessage(fullPath);
             return false;
         }

@@ -1,5 +1,6 @@
 #include "dyn_toolbar_creater.h"
 
+#include "config/load_watch.h"
 #include "config/menu_icon.h"
 #include "config/toolbar_file.h"
 #include "menu_id_mgr.h"
@@ -154,7 +155,8 @@ bool CDynToolBarCreater::Load(std::wstring path, CWnd* parent) {
         CMFCToolBar::SetSizes(kButtonSize, kImageSize);
     }
     Building building(*this, *parent);
-    if (!LoadToolBarFile(fullPath, building, DroppedDiagnostics())) {
+    LoadWatch watch;
+    if (!LoadToolBarFile(fullPath, building, watch.Sink())) {
         return false;
     }
     if (!CMFCToolBar::GetUserImages() && UserImages().GetCount() > 0) {

@@ -1,6 +1,7 @@
 #include "library_context.h"
 #include "menu_fixture.h"
 #include "tests/support/gui_objects.h"
+#include "tests/support/heard_problems.h"
 #include "tests/support/icon_writer.h"
 
 #include <afxcommandmanager.h>
@@ -250,6 +251,13 @@ TEST_F(MenuIcons, NewCommandGetsNone) {
     const int before = CMFCToolBar::GetImages()->GetCount();
     ASSERT_TRUE(Load("<i KEYWORD='New' PicPath='pic\\menu.ico'/>"));
     EXPECT_EQ(CMFCToolBar::GetImages()->GetCount(), before);
+}
+
+TEST_F(MenuBuilder, ProblemsOfTheFileAreToldToAHostThatListensEvenIfLoadingEndsAtOne) {
+    HeardProblems problems;
+    EXPECT_TRUE(Load("<i KEYWORD='A' MENUNAME='' HOTKEY='F5'/>"));
+    EXPECT_THROW(Load("<i KEYWORD='B' MENUNAME='' HOTKEY='Ctrl+'/>"), std::out_of_range);
+    EXPECT_EQ(problems.text, "1:34 shortcut-syntax\n1:34 shortcut-syntax\n");
 }
 
 } // namespace

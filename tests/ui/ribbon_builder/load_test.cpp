@@ -1,5 +1,6 @@
 #include "tests/ui/ribbon_builder/ribbon_fixture.h"
 
+#include "tests/support/heard_problems.h"
 #include <varnhold/xml.h>
 
 namespace {
@@ -347,6 +348,13 @@ TEST_F(RibbonBuilder, FiveThousandButtonsAreBuilt) {
     EXPECT_EQ(m_bar.GetCategoryCount(), 50);
     EXPECT_EQ(m_bar.GetCategory(49)->GetPanel(0)->GetCount(), 100);
     EXPECT_EQ(TakenIds(), 5050);
+}
+
+TEST_F(RibbonBuilder, ProblemsOfTheFileAreToldToAHostThatListens) {
+    HeardProblems problems;
+    EXPECT_TRUE(Load(Panel("<i KEYWORD='A' NAME='' TYPE='lamp'/>")));
+    EXPECT_EQ(problems.text, "1:81 unknown-type\n");
+    EXPECT_EQ(m_messages.size(), 0u);
 }
 
 } // namespace

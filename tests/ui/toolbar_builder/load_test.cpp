@@ -3,6 +3,7 @@
 
 #include "library_context.h"
 #include "menu_id_mgr.h"
+#include "tests/support/heard_problems.h"
 #include "tests/support/icon_writer.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/translation_tables.h"
@@ -317,6 +318,13 @@ TEST_F(ToolBarBuilder, UsersImagesOfTheHostStay) {
     ASSERT_TRUE(Load("<g KEYWORD='G'><b><i TYPE='button' KEYWORD='A' PICPATH='pic\\bar.ico'/></b></g>"));
     EXPECT_EQ(CMFCToolBar::GetUserImages(), &own);
     CMFCToolBar::SetUserImages(nullptr);
+}
+
+TEST_F(ToolBarBuilder, ProblemsOfTheFileAreToldToAHostThatListens) {
+    HeardProblems problems;
+    EXPECT_TRUE(Load("<g KEYWORD='G'><b PROMPT='P'><i TYPE='buton' KEYWORD='K'/></b></g>"));
+    EXPECT_EQ(problems.text, "1:39 unknown-type\n");
+    EXPECT_EQ(problems.last.fix, L"did you mean \"button\"?");
 }
 
 } // namespace
