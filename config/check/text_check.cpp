@@ -62,6 +62,7 @@ public:
         } else if (element.role == ElementRole::RibbonElement || element.role == ElementRole::SubItem) {
             m_ofRibbon.insert(keyword);
         }
+        m_isCommand[keyword] = m_isCommand[keyword] || element.role != ElementRole::StatusButton;
         const bool name = AsksTables(element.role) && element.Has(AttributeUse::Name);
         const bool toolTip = AsksTables(element.role) && element.Has(AttributeUse::ToolTip);
         if (!name && !toolTip) {
@@ -79,6 +80,9 @@ public:
     void ReportMissing() {
         for (const std::wstring& keyword : m_inOrder) {
             const Asked& asked = m_asked.at(keyword);
+            if (!m_isCommand[keyword]) {
+                continue; // a status-bar button that stands for nothing is not made
+            }
             std::wstring text;
             for (const LanguageTexts& language : m_languages) {
                 const std::wstring what = MissingIn(language, keyword, asked);
@@ -165,6 +169,8 @@ private:
     std::vector<std::wstring> m_inOrder;
     std::set<std::wstring> m_references;
     std::set<std::wstring> m_ofRibbon;
+    /// Whether anything but status-bar buttons has the keyword.
+    std::map<std::wstring, bool> m_isCommand;
     std::vector<std::wstring> m_dangling;
     std::set<std::wstring> m_meant;
 };

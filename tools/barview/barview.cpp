@@ -4,6 +4,7 @@
 
 #include "add_ribbon_bar.h"
 #include "command_line.h"
+#include "configuration_problems.h"
 #include "dyn_menu_creater.h"
 #include "dyn_toolbar_creater.h"
 #include "frame_dump.h"
@@ -17,6 +18,7 @@
 #include "varnhold/message_box.h"
 #include "varnhold/strings.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -186,8 +188,13 @@ class CBarviewApp : public CWinAppEx {
 public:
     BOOL InitInstance() override {
         CWinAppEx::InitInstance();
+        const std::vector<std::wstring> words = CommandLineWords();
+        if (std::ranges::find(words, L"--help") != words.end()) {
+            std::fputs(wstring2String(BarviewUsage()).c_str(), stdout);
+            return FALSE;
+        }
         std::wstring error;
-        std::optional<BarviewOptions> options = ParseBarviewOptions(CommandLineWords(), error);
+        std::optional<BarviewOptions> options = ParseBarviewOptions(words, error);
         if (!options) {
             Complain(error);
             std::fputs(wstring2String(BarviewUsage()).c_str(), stderr);
@@ -235,6 +242,14 @@ private:
     void Prepare() {
         FileOp::SetAppPath(m_options.directory);
         CMultiLanguageMgr::SetProblemSink([](const std::wstring& problem) { Complain(problem); });
+        SetConfigurationProblemSink([this](const ConfigurationProblem& problem) {
+            const std::wstring& directory = m_options.directory;
+            ConfigurationProblem shown = problem;
+            if (shown.file.starts_with(directory)) {
+                shown.file.erase(0, directory.size());
+            }
+            std::fprintf(stderr, "%s\n", wstring2String(FormatConfigurationProblem(shown)).c_str());
+        });
         if (!m_options.language.empty() && !CMultiLanguageMgr::SetLanguage(m_options.language)) {
             Complain(L"no usable language " + m_options.language);
             m_exitCode = kLoadFailed;

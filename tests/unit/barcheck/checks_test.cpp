@@ -92,6 +92,13 @@ TEST(CheckedConfiguration, AMisspeltKeywordIsOneFindingThatNamesTheOneThatWasMea
     EXPECT_EQ(findings[0].fix, L"did you mean \"ZoomIn\"?");
 }
 
+TEST(CheckedConfiguration, AStatusButtonOfNoCommandNeedsNoText) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/ribbon.xml", "<r><r KEYWORD='StatusEx_btns'>\n<i KEYWORD='Nothing' NAME=''/></r></r>");
+    installation.WriteTable("en", "");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:2:4 unknown-status-button\n");
+}
+
 TEST(CheckedConfiguration, LettersClashPerLanguageByTheTranslatedText) {
     const CheckedInstallation installation;
     installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"A\" MENUNAME=\"\"/>\n<i KEYWORD=\"B\" MENUNAME=\"\"/>"));
