@@ -6,6 +6,7 @@
 
 #include <varnhold/strings.h>
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,6 +56,23 @@ public:
 private:
     TemporaryDirectory m_directory;
 };
+
+/// Writes an icon for every path that the message of a missing one quotes.
+inline void WriteMissingIcons(const CheckedInstallation& installation) {
+    for (const Diagnostic& finding : installation.Check()) {
+        if (finding.code != "missing-icon") {
+            continue;
+        }
+        std::string text = wstring2String(finding.text);
+        for (std::size_t open = text.find('"'); open != std::string::npos; open = text.find('"', open)) {
+            const std::size_t close = text.find('"', open + 1);
+            std::string path = text.substr(open + 1, close - open - 1);
+            std::ranges::replace(path, '\\', '/');
+            installation.Write(path, MakeIconFile(32, {0, 0}));
+            open = close + 1;
+        }
+    }
+}
 
 /// A ribbon file whose one panel holds these elements; the first stands in line 4, column 1.
 inline std::string RibbonWith(const std::string& elements) {

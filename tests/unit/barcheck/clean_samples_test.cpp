@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace {
@@ -16,23 +15,6 @@ void Copy(const fs::path& from, const CheckedInstallation& installation) {
     for (const char* folder : {"cfg", "lang", "pic"}) {
         if (fs::exists(from / folder)) {
             fs::copy(from / folder, installation.Directory().Path() / folder, fs::copy_options::recursive);
-        }
-    }
-}
-
-/// Writes an icon for every path that the message of a missing one quotes.
-void WriteMissingIcons(const CheckedInstallation& installation) {
-    for (const Diagnostic& finding : installation.Check()) {
-        if (finding.code != "missing-icon") {
-            continue;
-        }
-        std::string text = wstring2String(finding.text);
-        for (std::size_t open = text.find('"'); open != std::string::npos; open = text.find('"', open)) {
-            const std::size_t close = text.find('"', open + 1);
-            std::string path = text.substr(open + 1, close - open - 1);
-            std::ranges::replace(path, '\\', '/');
-            installation.Write(path, MakeIconFile(32, {0, 0}));
-            open = close + 1;
         }
     }
 }
