@@ -158,8 +158,15 @@ void LayerControls::MakeSliders(CMFCRibbonBar& ribbon) {
     }
 }
 
+/// In the place of the configured label, whose command it takes.
 void LayerControls::MakePointerLabel(CMFCRibbonPanel& panel) {
     m_pointer = new PointerLabel;
+    for (int index = panel.GetCount() - 1; index >= 0; --index) {
+        if (DYNAMIC_DOWNCAST(CMFCRibbonLabel, panel.GetElement(index)) != nullptr) {
+            m_pointer->SetID(panel.GetElement(index)->GetID());
+            panel.Remove(index);
+        }
+    }
     panel.Add(m_pointer);
     ShowPointerText();
 }
@@ -254,10 +261,12 @@ void LayerControls::SwitchPointerFormat() {
     ShowPointerText();
 }
 
+std::wstring LayerControls::PointerText() const { return PlaceText(m_pointerPlace, m_hasSeconds); }
+
 void LayerControls::ShowPointerText() {
     if (!m_pointer) {
         return;
     }
-    m_pointer->SetText(PlaceText(m_pointerPlace, m_hasSeconds).c_str());
+    m_pointer->SetText(PointerText().c_str());
     m_pointer->Redraw();
 }

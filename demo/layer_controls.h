@@ -49,6 +49,10 @@ public:
     /// Degrees with decimals, or degrees, minutes and seconds.
     void SwitchPointerFormat();
     bool IsPointerLabel(const void* label) const { return label == m_pointer; }
+    /// What the pointer's place reads now.
+    std::wstring PointerText() const;
+    /// The slider that all others follow; null when the configuration has none.
+    CMFCRibbonSliderSync* ScaleSlider() const { return m_scale; }
 
 private:
     void FillCombos();

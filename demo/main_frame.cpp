@@ -162,7 +162,11 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     BuildRibbon();
     ApplyTexts();
     m_pane.SetChangeListener([this] { TakeChange(); });
-    m_map.SetPointerListener([this](GeoPoint place) { m_controls.ShowPointer(place); });
+    m_map.SetPointerListener([this](GeoPoint place) {
+        m_controls.ShowPointer(place);
+        m_status->ShowPointer(m_controls.PointerText());
+    });
+    m_map.SetWorkListener([this](bool isAtWork) { m_status->ShowWork(isAtWork); });
     return 0;
 }
 
@@ -197,6 +201,7 @@ void CMainFrame::BuildRibbon() {
     CMFCRibbonCategory* const active = m_ribbon.GetActiveCategory();
     const int shown = active ? m_ribbon.GetCategoryIndex(active) : m_options.category;
     m_modes.KeepQuickAccess();
+    m_status.reset();
     m_ribbon.RemoveAllCategories();
     m_skinButton = nullptr;
     m_ribbon.RemoveAllFromTabs();
@@ -222,6 +227,19 @@ void CMainFrame::BuildRibbon() {
     m_controls.ShowState(); // first: the layout paints at once
     m_ribbon.ForceRecalcLayout();
     m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
+    BuildStatusBar();
+}
+
+void CMainFrame::BuildStatusBar() {
+    CViewerStatusBar::LoadRows(m_ribbon);
+    m_status = std::make_unique<CViewerStatusBar>();
+    if (!m_status->Create(this, m_controls.ScaleSlider())) {
+        return;
+    }
+    m_status->ShowMode(m_state.Mode());
+    m_status->ShowState(m_state);
+    m_status->ShowPointer(m_controls.PointerText());
+    RecalcLayout();
 }
 
 /// Right of the tabs, on every page. The bar knows it by its tooltip, which is the framework's for another button.
@@ -253,6 +271,7 @@ void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
 
 void CMainFrame::ShowState() {
     m_controls.ShowState();
+    m_status->ShowState(m_state);
     m_pane.ShowState();
 }
 
@@ -296,8 +315,10 @@ LRESULT CMainFrame::OnLabelLight(WPARAM, LPARAM) {
 }
 
 LRESULT CMainFrame::OnLabelClicked(WPARAM label, LPARAM) {
-    if (m_controls.IsPointerLabel(reinterpret_cast<const void*>(label))) {
+    const auto* const clicked = reinterpret_cast<const void*>(label);
+    if (m_controls.IsPointerLabel(clicked) || m_status->IsPointerLabel(clicked)) {
         m_controls.SwitchPointerFormat();
+        m_status->ShowPointer(m_controls.PointerText());
     }
     return 0;
 }
@@ -363,7 +384,10 @@ void CMainFrame::WriteRecord() {
                                      {"mode", wstring2String(WorkingModes::NameOf(m_state.Mode()))},
                                      {"skin", wstring2String(m_skin)},
                                      {"iconStyle", wstring2String(m_iconStyle)},
-                                     {"frame", DumpFrame({.ribbon = &m_ribbon, .commands = {m_commandTexts}})}};
+                                     {"frame", DumpFrame({.ribbon = &m_ribbon,
+                                                          .statusBar = m_status.get(),
+                                                          .commands = {m_commandTexts},
+                                                          .application = m_status->Application()})}};
     CRect ribbon;
     m_ribbon.GetWindowRect(ribbon);
     const auto onScreen = [&ribbon](CRect rect) {
@@ -371,6 +395,9 @@ void CMainFrame::WriteRecord() {
         return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
     };
     record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
+    CRect status;
+    m_status->GetWindowRect(status);
+    record["statusOnScreen"] = {status.left, status.top, status.right, status.bottom};
     record["quickAccessOnScreen"] = onScreen(m_ribbon.GetQuickAccessToolbarLocation());
     record["tabsOnScreen"] = nlohmann::ordered_json::array();
     for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
@@ -441,6 +468,7 @@ LRESULT CMainFrame::OnCategoryChanged(WPARAM, LPARAM) {
 
 void CMainFrame::ShowMode(MapMode mode) {
     m_modes.Show(mode);
+    m_status->ShowMode(mode);
     m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
 }
 

@@ -12,6 +12,7 @@
 #include "options.h"
 #include "viewer_commands.h"
 #include "viewer_ribbon.h"
+#include "viewer_status_bar.h"
 #include "working_modes.h"
 
 #include <memory>
@@ -55,6 +56,7 @@ protected:
 
 private:
     void BuildRibbon();
+    void BuildStatusBar();
     void AddSkinButton();
     void ShowState();
     /// After a change that came by a message.
@@ -104,6 +106,7 @@ private:
     WorkingModes m_modes;
     HostMenu m_contextMenu;
     HelpHint m_helpHint;
+    std::unique_ptr<CViewerStatusBar> m_status; ///< Made anew with the ribbon, whose commands it shows.
     LayerControls m_controls;
     bool m_tellsPlace = false;
     CMFCRibbonUNIcoButton* m_skinButton = nullptr; ///< The ribbon's, beside the tabs; null when there is none.

@@ -84,6 +84,7 @@ void CMapWindow::OrderPicture() {
     m_shownVersion = m_state.Version();
     if (m_drawer) {
         m_drawer->Order(m_state, m_style, ++m_order);
+        TellWork(true);
     }
     if (GetSafeHwnd()) {
         Invalidate(FALSE);
@@ -96,6 +97,15 @@ void CMapWindow::OrderPicture() {
 void CMapWindow::TakePicture() {
     if (auto drawn = m_drawer->Take(); drawn && drawn->bitmap) {
         m_drawn = std::move(drawn);
+    }
+    if (IsFinished()) {
+        TellWork(false);
+    }
+}
+
+void CMapWindow::TellWork(bool isAtWork) {
+    if (m_workListener) {
+        m_workListener(isAtWork);
     }
 }
 

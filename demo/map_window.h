@@ -33,6 +33,8 @@ public:
     void SetPointerListener(std::function<void(GeoPoint)> listener) { m_pointerListener = std::move(listener); }
     /// Is called whenever the view or the window's size has become another one.
     void SetViewListener(std::function<void()> listener) { m_viewListener = std::move(listener); }
+    /// Is told when a picture is being drawn, and when the one of the present state is there.
+    void SetWorkListener(std::function<void(bool isAtWork)> listener) { m_workListener = std::move(listener); }
     /// Copies the sharp picture of the map into a new bitmap. FALSE when there is no room for one.
     BOOL MakePicture(CBitmap& picture);
 
@@ -54,6 +56,7 @@ private:
 
     void OrderPicture();
     void TakePicture();
+    void TellWork(bool isAtWork);
 
     MapState& m_state;
     const MapData& m_data;
@@ -65,5 +68,6 @@ private:
     CPoint m_dragFrom;
     std::function<void(GeoPoint)> m_pointerListener;
     std::function<void()> m_viewListener;
+    std::function<void(bool isAtWork)> m_workListener;
     std::unique_ptr<MapDrawer> m_drawer; ///< Made with the window.
 };

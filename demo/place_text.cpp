@@ -2,6 +2,7 @@
 
 #include <boost/format.hpp>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -18,6 +19,19 @@ std::wstring DegreeText(double degrees, const wchar_t* side, bool hasSeconds) {
 }
 
 } // namespace
+
+std::wstring ScaleText(double pixelsPerDegree) {
+    constexpr double metresOfDegree = 111319.5; // along the equator
+    constexpr double metresOfPixel = 0.0254 / 96;
+    constexpr wchar_t thinSpace = L'\u2009';
+    const double ratio = metresOfDegree / (pixelsPerDegree * metresOfPixel);
+    const double step = std::pow(10, std::max(std::floor(std::log10(ratio)) - 2, 0.0));
+    std::wstring digits = std::to_wstring(std::llround(std::round(ratio / step) * step));
+    for (std::size_t place = digits.size(); place > 3;) {
+        digits.insert(place -= 3, 1, thinSpace);
+    }
+    return std::wstring(L"1") + thinSpace + L":" + thinSpace + digits;
+}
 
 std::wstring PlaceText(GeoPoint place, bool hasSeconds) {
     if (std::abs(place.latitude) > 90 || std::abs(place.longitude) > 180) {

@@ -157,6 +157,21 @@ boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHo
         },
         [&host](const std::wstring&) { return host.ChosenLayer().has_value(); });
     reactor->Serve(
+        L"light",
+        [&state, &host](const std::wstring&) {
+            if (const auto layer = host.ChosenLayer()) {
+                state.SetLit(*layer, !state.IsLit(*layer));
+            }
+        },
+        [&state, &host](const std::wstring&) {
+            const auto layer = host.ChosenLayer();
+            return layer && state.IsLit(*layer);
+        },
+        [&state, &host](const std::wstring&) {
+            const auto layer = host.ChosenLayer();
+            return layer && !state.IsLocked(*layer);
+        });
+    reactor->Serve(
         L"layer",
         [&state](const std::wstring& name) {
             const auto row = FindByParameter(kLayers, name);

@@ -8,6 +8,7 @@ namespace {
 constexpr int kNearEdge = 50; // a gap narrower than this is closed
 constexpr int kLessAbove = 3, kLessBelow = 4;
 constexpr int kShortening = 5; // one part of so many at each end
+constexpr int kStatusBeside = 1, kStatusAbove = 5, kStatusBelow = 5, kStatusBelowInFrame = 2;
 } // namespace
 
 CRect MenuSeparatorRect(const MenuSeparatorPlace& place) {
@@ -40,6 +41,13 @@ CRect ToolBarSeparatorRect(const CRect& rect, BOOL horizontal) {
 CRect RibbonSeparatorRect(const CRect& rect, int width) {
     CRect area = rect;
     area.left = std::min<LONG>(area.left, area.right - width);
+    return area;
+}
+
+CRect StatusSeparatorRect(const CRect& rect, BOOL isBottomFrame, int width) {
+    CRect area = rect;
+    area.InflateRect(kStatusBeside, kStatusAbove, kStatusBeside, isBottomFrame ? kStatusBelowInFrame : kStatusBelow);
+    area.left = std::max<LONG>(area.left, area.right - width);
     return area;
 }
 

@@ -24,6 +24,10 @@ CRect ToolBarSeparatorRect(const CRect& rect, BOOL horizontal);
 /// At least as wide as the separator, to the left.
 CRect RibbonSeparatorRect(const CRect& rect, int width);
 
+/// On a status bar: over its edges, further down where the bar does not stand for the frame's border, and in there the
+/// line, `width` wide, at the right end.
+CRect StatusSeparatorRect(const CRect& rect, BOOL isBottomFrame, int width);
+
 /// The first fill colour of toolbars that lie flat; `color` where the style keeps its own.
 COLORREF FlatToolBarColor(CMFCVisualManagerOffice2007::Style style, COLORREF color);
 

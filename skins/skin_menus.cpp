@@ -8,6 +8,7 @@
 #include <afxpopupmenu.h>
 #include <afxribbonbar.h>
 #include <afxribbonpanelmenu.h>
+#include <afxribbonstatusbar.h>
 
 namespace {
 
@@ -63,6 +64,11 @@ void CQKVisualManagerOffice2007Black::OnDrawMenuBorder(CDC* dc, CMFCPopupMenu* m
 void CQKVisualManagerOffice2007Black::OnDrawSeparator(CDC* dc, CBasePane* bar, CRect rect, BOOL horizontal) {
     if (!CanDrawImages() || bar == nullptr) {
         CMFCVisualManagerOffice2007::OnDrawSeparator(dc, bar, rect, horizontal);
+        return;
+    }
+    if (const auto* const status = DYNAMIC_DOWNCAST(CMFCRibbonStatusBar, bar)) {
+        dc->FillSolidRect(skins::StatusSeparatorRect(rect, status->IsBottomFrame(), GetRibbonSeparatorWidth()),
+                          GetStatusBarIntervalColor());
         return;
     }
     if (bar->IsKindOf(RUNTIME_CLASS(CMFCRibbonBar))) {

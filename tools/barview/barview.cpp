@@ -10,6 +10,7 @@
 #include "frame_dump.h"
 #include "ribbon_bar_ex.h"
 #include "ribbon_icon_button.h"
+#include "ribbon_status_bar_ex.h"
 #include "screenshot.h"
 #include "skin_visual_managers.h"
 
@@ -63,12 +64,17 @@ public:
         isComplete = BuildToolBars() && isComplete;
         isComplete = ShowPath() && isComplete;
         isComplete = ShowCategory() && isComplete;
+        isComplete = ShowApplication() && isComplete;
         m_ribbon.ForceRecalcLayout();
         return isComplete;
     }
 
     DumpSources Sources() {
-        DumpSources sources{&m_ribbon, m_commands, {}, m_hAccelTable, L""};
+        DumpSources sources{.ribbon = &m_ribbon,
+                            .statusBar = m_status.GetSafeHwnd() != nullptr ? &m_status : nullptr,
+                            .commands = m_commands,
+                            .accelerators = m_hAccelTable,
+                            .application = m_options.application};
         for (const auto& creater : m_menus) {
             sources.menus.push_back(creater->GetMenu());
         }
@@ -168,8 +174,24 @@ private:
         return false;
     }
 
+    /// False when no ribbon file of that name has a status row.
+    bool ShowApplication() {
+        if (m_options.application.empty()) {
+            return true;
+        }
+        const bool isKnown = CAddRibbonBar::m_smStatusExBtns.contains(m_options.application);
+        if (!isKnown) {
+            Complain(L"no status row in a ribbon file named " + m_options.application);
+        }
+        m_status.Create(this);
+        m_status.SetExEleApp(m_options.application.c_str());
+        RecalcLayout();
+        return isKnown;
+    }
+
     const BarviewOptions& m_options;
     CMFCRibbonBarEx m_ribbon;
+    CMFCRibbonStatusBarEx m_status;
     std::vector<std::vector<std::wstring>> m_commands;
     std::vector<std::unique_ptr<CDynMenuCreater>> m_menus;
     CDynToolBarCreater m_toolBars;

@@ -36,18 +36,19 @@ std::vector<std::wstring> FindFiles(const std::wstring& directory, const CString
 const wchar_t* BarviewUsage() {
     return L"usage: barview DIR [--ribbon FILE]... [--menu FILE] [--toolbars FILE] [--lang LANG]\n"
            L"               [--skin black|silver] [--size WxH]\n"
-           L"               [--scale PERCENT] [--category NAME] [--path NAME] [--screenshot OUT.png] [--dump "
-           L"OUT.json]\n"
+           L"               [--scale PERCENT] [--category NAME] [--path NAME] [--app NAME] [--screenshot OUT.png]\n"
+           L"               [--dump OUT.json]\n"
            L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon, "
            L"--menu\n"
            L"or --toolbars it takes cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml in name order. With "
            L"--screenshot or --dump it leaves when "
            L"they are written.\n"
-           L"Exit code: 0, 1 when a file could not be loaded or written, when there is no ribbon file, or no category "
-           L"or\n"
-           L"path of that name, 2 on wrong usage. The categories of each ribbon file are a path, named as the file is "
+           L"Exit code: 0, 1 when a file could not be loaded or written, when there is no ribbon file, or no "
+           L"category, path\n"
+           L"or status row of that name, 2 on wrong usage. The categories of each ribbon file are a path, named as the "
+           L"file is "
            L"without\n"
-           L"its extension.\n";
+           L"its extension; --app names the ribbon file whose status row is shown in a status bar.\n";
 }
 
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
@@ -71,6 +72,7 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
                                   .AddNumber(L"--scale", kLowestScale, kHighestScale, options.scalePercent)
                                   .AddText(L"--category", options.category)
                                   .AddText(L"--path", options.path)
+                                  .AddText(L"--app", options.application)
                                   .AddText(L"--screenshot", options.screenshot)
                                   .AddText(L"--dump", options.dump)
                                   .Read(arguments, 1, directories, error);

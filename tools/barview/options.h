@@ -14,9 +14,10 @@ struct BarviewOptions {
     std::wstring skin = L"silver";
     int width = 1280; ///< Client size of the frame in screen pixels.
     int height = 300;
-    int scalePercent = 0;  ///< 0: as the screen says.
-    std::wstring category; ///< Name of the category to show; empty: the first.
-    std::wstring path;     ///< Of the working mode to show; empty: all categories.
+    int scalePercent = 0;     ///< 0: as the screen says.
+    std::wstring category;    ///< Name of the category to show; empty: the first.
+    std::wstring application; ///< The ribbon file whose status row is shown; empty: no status bar.
+    std::wstring path;        ///< Of the working mode to show; empty: all categories.
     std::wstring screenshot;
     std::wstring dump;
 

@@ -341,6 +341,20 @@ ordered_json DumpStatusExtras() {
     return extras;
 }
 
+ordered_json DumpStatus(const DumpSources& sources) {
+    ordered_json elements = ordered_json::array();
+    ordered_json extended = ordered_json::array();
+    if (CMFCRibbonStatusBar* const bar = sources.statusBar) {
+        for (int index = 0; index < bar->GetCount(); ++index) {
+            elements.push_back(DumpElement(*bar->GetElement(index)));
+        }
+        for (int index = 0; index < bar->GetExCount(); ++index) {
+            extended.push_back(DumpElement(*bar->GetExElement(index)));
+        }
+    }
+    return {{"app", Utf8(sources.application)}, {"elements", std::move(elements)}, {"extended", std::move(extended)}};
+}
+
 } // namespace
 
 ordered_json DumpFrame(const DumpSources& sources) {
@@ -352,10 +366,7 @@ ordered_json DumpFrame(const DumpSources& sources) {
             {"toolbars", DumpToolBars(sources)},
             {"skin", DumpSkin()},
             {"statusExtras", DumpStatusExtras()},
-            {"status",
-             {{"app", Utf8(sources.application)},
-              {"elements", ordered_json::array()},
-              {"extended", ordered_json::array()}}}};
+            {"status", DumpStatus(sources)}};
 }
 
 bool WriteJson(const ordered_json& json, const std::wstring& path) {

@@ -10,11 +10,13 @@
 
 class CMenu;
 class CMFCRibbonBar;
+class CMFCRibbonStatusBar;
 class CMFCToolBar;
 
 /// What a dump is made from; bars that are not there give empty lists.
 struct DumpSources {
     CMFCRibbonBar* ribbon = nullptr;
+    CMFCRibbonStatusBar* statusBar = nullptr;
     std::vector<std::vector<std::wstring>> commands =
         {};                               ///< m_cmdList of every ribbon builder, one list for each file.
     std::vector<const CMenu*> menus = {}; ///< Of every menu builder, in the order of the files.

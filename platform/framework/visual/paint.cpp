@@ -373,8 +373,8 @@ void PaintSizeBox(HDC dc, const RECT& rect, const Look& look) {
         for (int column = 0; column <= row; ++column) {
             const LONG x = rect.right - look.Px(3) - dot - column * step;
             const LONG y = rect.bottom - look.Px(3) - dot - (2 - row) * step;
-            FillPart(canvas, x + 1, y + 1, x + dot + 1, y + dot + 1, look.skin[ColorSlot::StatusSeparatorLight]);
-            FillPart(canvas, x, y, x + dot, y + dot, look.skin[ColorSlot::StatusSeparatorDark]);
+            FillPart(canvas, x + 1, y + 1, x + dot + 1, y + dot + 1, look.skin[ColorSlot::GripperLight]);
+            FillPart(canvas, x, y, x + dot, y + dot, look.skin[ColorSlot::GripperDark]);
         }
     }
 }

@@ -193,6 +193,12 @@ private:
             Text("lit element of the status bar", ColorSlot::StatusText,
                  Shown(slot, status, PlatePlace::StatusBar, kNarrow));
         }
+        Sign("size grip", ColorSlot::GripperDark, status);
+        Sign("slider's track on the status bar", ColorSlot::SliderTrackDark, status);
+        for (const FaceSlot knob : {FaceSlot::Knob, FaceSlot::KnobHot, FaceSlot::KnobPressed}) {
+            Add("slider's thumb on the status bar", m_skin[knob].top1, status, kSign);
+        }
+        Add("progress on the status bar", m_skin[FaceSlot::ProgressChunk].top1, status, kSign);
         Text("pane's caption", ColorSlot::PaneCaptionText, m_skin[FaceSlot::PaneCaption].top1);
         Text("active pane's caption", ColorSlot::PaneCaptionTextActive, m_skin[FaceSlot::PaneCaptionActive].top1);
         const Argb caption = m_skin[FaceSlot::PaneCaption].top1;

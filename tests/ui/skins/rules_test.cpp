@@ -5,6 +5,7 @@
 
 #include <afxpopupmenu.h>
 #include <afxribbonbar.h>
+#include <afxribbonstatusbar.h>
 #include <afxtoolbar.h>
 #include <afxtoolbarmenubutton.h>
 #include <fx/scoped_change.h>
@@ -14,6 +15,7 @@ namespace {
 constexpr COLORREF kMenuText = RGB(217, 223, 251);
 constexpr COLORREF kMenuBorder = RGB(75, 80, 92);
 constexpr COLORREF kMenuSeparator = RGB(61, 66, 78);
+constexpr COLORREF kBlackStatusLine = RGB(50, 55, 62);
 
 class SkinRules : public SkinTest {
 protected:
@@ -191,6 +193,33 @@ TEST(ToolBarSeparatorRule, IsShorterByAFifthAtEachEnd) {
 TEST(RibbonSeparatorRule, IsWidenedToTheLeftToAtLeastTheSeparator) {
     EXPECT_EQ(skins::RibbonSeparatorRect(CRect(10, 0, 11, 20), 4), CRect(7, 0, 11, 20));
     EXPECT_EQ(skins::RibbonSeparatorRect(CRect(10, 0, 30, 20), 4), CRect(10, 0, 30, 20));
+}
+
+TEST(StatusSeparatorRule, ReachesOverTheBarsEdgesAndKeepsToTheRight) {
+    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), FALSE, 1), CRect(28, -3, 29, 31));
+    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), TRUE, 1), CRect(28, -3, 29, 28));
+    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), FALSE, 4), CRect(25, -3, 29, 31));
+    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 22, 26), FALSE, 10), CRect(19, -3, 23, 31));
+}
+
+TEST_F(SkinRules, SeparatorsOfTheStatusBarAreLinesOverItsHeightInTheirOwnColour) {
+    auto& skin = Use<OpenBlackSkin>();
+    CMFCRibbonStatusBar bar;
+    Canvas canvas(CSize(40, 28));
+    skin.OnDrawSeparator(canvas.Dc(), &bar, CRect(10, 2, 18, 26), TRUE);
+    EXPECT_EQ(canvas.BoundsOf(Pixel(kBlackStatusLine)), CRect(18, 0, 19, 28));
+}
+
+TEST_F(SkinRules, TheSilverSkinsStatusBarHasThePlatformsSeparators) {
+    auto& skin = Use<OpenSilverSkin>();
+    CMFCRibbonStatusBar bar;
+    Canvas got(CSize(20, 28)), want(CSize(20, 28));
+    skin.OnDrawSeparator(got.Dc(), &bar, CRect(5, 2, 13, 26), TRUE);
+    skin.CMFCVisualManagerOffice2007::OnDrawSeparator(want.Dc(), &bar, CRect(5, 2, 13, 26), TRUE);
+    EXPECT_GT(got.Colours().size(), 1u) << "nothing was drawn";
+    for (int x = 0; x < 20; ++x) {
+        EXPECT_EQ(got.At(x, 14), want.At(x, 14)) << x;
+    }
 }
 
 TEST_F(SkinRules, SeparatorsOfMenusAreFilledInTheMenusOwnColour) {

@@ -26,4 +26,12 @@ TEST(PlaceText, BesideTheWorldThereIsNoPlace) {
     }
 }
 
+TEST(ScaleText, HasThreeDigitsInGroups) {
+    constexpr double life = 111319.5 / (0.0254 / 96); // pixels of a degree in its own length
+    EXPECT_EQ(ScaleText(life / 1000), L"1\u2009:\u20091\u2009000");
+    EXPECT_EQ(ScaleText(life / 123456789), L"1\u2009:\u2009123\u2009000\u2009000");
+    EXPECT_EQ(ScaleText(life / 99960), L"1\u2009:\u2009100\u2009000");
+    EXPECT_EQ(ScaleText(life / 25), L"1\u2009:\u200925");
+}
+
 } // namespace
