@@ -9,6 +9,7 @@ add_library(framework_portable OBJECT EXCLUDE_FROM_ALL
   ${letters}
   core/mnemonic.cpp
   panes/dock_rows.cpp
+  panes/dock_state.cpp
   panes/row_layout.cpp
   popups/row_letters.cpp
   popups/row_stack.cpp

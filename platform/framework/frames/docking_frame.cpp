@@ -66,6 +66,26 @@ void DockingFrameOf<Base>::AdjustDockingLayout(HDWP hdwp) {
     m_dockManager.AdjustDockingLayout(hdwp);
 }
 
+template <class Base>
+CBasePane* DockingFrameOf<Base>::PaneFromPoint(CPoint point, int nSensitivity, bool bExactBar,
+                                               CRuntimeClass* pRTCBarType) const {
+    return m_dockManager.PaneFromPoint(point, nSensitivity, bExactBar, pRTCBarType);
+}
+
+template <class Base>
+BOOL DockingFrameOf<Base>::IsPointNearDockSite(CPoint point, DWORD& dwBarAlignment, BOOL& bOuterEdge) const {
+    return m_dockManager.IsPointNearDockSite(point, dwBarAlignment, bOuterEdge);
+}
+
+template <class Base>
+LRESULT DockingFrameOf<Base>::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result = Base::WindowProc(message, wParam, lParam);
+    if (message == WM_IDLEUPDATECMDUI) {
+        m_dockManager.SendMessageToMiniFrames(message, wParam, lParam);
+    }
+    return result;
+}
+
 template class DockingFrameOf<CFrameWnd>;
 template class DockingFrameOf<CMDIFrameWnd>;
 template class DockingFrameOf<CMDIChildWnd>;

@@ -5,17 +5,26 @@
 
 #include <afxcoll.h>
 
+#include <array>
+#include <memory>
 #include <vector>
 
 class CBasePane;
+class CDockSite;
 class CPane;
+class CPaneFrameWnd;
+
+namespace panes {
+class PaneDrag;
+}
 
 /// Owns the order and the layout of one frame's panes. Not the panes themselves: each registers itself when it is
 /// created and takes itself out when it is destroyed. Panes at top and bottom reach over the whole width, those at left
 /// and right share what is left, the window with id AFX_IDW_PANE_FIRST gets the rest.
 class FRAMEWORK_API CDockingManager : public CObject {
 public:
-    CDockingManager() = default;
+    CDockingManager();
+    ~CDockingManager() override;
 
     /// The frame whose client area is laid out; FALSE for null.
     BOOL Create(CFrameWnd* pParentWnd);
@@ -45,6 +54,30 @@ public:
     void DockPane(CBasePane* pBar, UINT nDockBarID = 0, LPCRECT lpRect = NULL);
     BOOL DockPaneLeftOf(CPane* pBarToDock, CPane* pTargetBar);
 
+    // Sides and mini frames
+    /// The site of a side (CBRS_ALIGN_); NULL while there is none.
+    virtual CDockSite* FindDockSite(DWORD dwAlignment, BOOL bOuter);
+    virtual CDockSite* FindDockSiteByPane(CPane* pTargetBar);
+    /// The same, made when it is missing; NULL when its window cannot be made.
+    CDockSite* SiteFor(DWORD dwAlignment);
+    /// The side whose site lies within m_nDockSensitivity of a point of the screen.
+    BOOL IsPointNearDockSite(CPoint point, DWORD& dwBarAlignment, BOOL& bOuterEdge) const;
+    /// Screen rectangle of a side: its site's, or the line where that would begin.
+    CRect GetSiteRect(DWORD dwAlignment) const;
+    virtual BOOL AddMiniFrame(CPaneFrameWnd* pWnd);
+    virtual BOOL RemoveMiniFrame(CPaneFrameWnd* pWnd);
+    /// CPaneFrameWnd, the last that was touched first.
+    const CObList& GetMiniFrames() const { return m_lstMiniFrames; }
+    virtual CPaneFrameWnd* FrameFromPoint(CPoint pt, CPaneFrameWnd* pFrameToExclude, BOOL bFloatMultiOnly) const;
+    BOOL SendMessageToMiniFrames(UINT uMessage, WPARAM wParam = 0, LPARAM lParam = 0);
+    /// The mini frame comes to lie above the others.
+    void BringToFront(CPaneFrameWnd& miniFrame);
+    /// The drag of a pane by its user, with the mouse at a point of the screen; ended by the mouse, Esc or CancelDrag.
+    BOOL StartDrag(CPane& pane, CPoint screen);
+    /// The pane goes back to where it was.
+    void CancelDrag();
+    BOOL IsDragging(const CPane* pane) const;
+
     virtual void RecalcLayout(BOOL bNotify = TRUE);
     virtual void AdjustDockingLayout(HDWP hdwp = NULL);
     BOOL IsInAdjustLayout() const { return m_bIsInAdjustLayout; }
@@ -73,6 +106,8 @@ public:
 
     BOOL HasPaneContextMenu() const { return m_hasPaneMenu; }
 
+    /// Where the panes are docked or float, below the application's base section. FALSE: nothing there, or it is
+    /// damaged; the panes then stay where they are.
     virtual BOOL LoadState(LPCTSTR lpszProfileName = NULL, UINT uiID = (UINT)-1);
     virtual BOOL SaveState(LPCTSTR lpszProfileName = NULL, UINT uiID = (UINT)-1);
 
@@ -80,7 +115,7 @@ public:
     static void SetDockingMode(AFX_DOCK_TYPE dockMode, AFX_SMARTDOCK_THEME theme = AFX_SDT_DEFAULT);
 
     static AFX_DOCK_TYPE m_dockModeGlobal;
-    static int m_nDockSensitivity; ///< pixels
+    static int m_nDockSensitivity; ///< pixels at 96 DPI
 
 protected:
     CObList m_lstControlBars; ///< CBasePane, outermost first, not owned
@@ -88,7 +123,12 @@ protected:
 
 private:
     void PlacePanes(HDWP deferred);
+    HDWP PlaceSites(HDWP deferred, CRect& rest);
+    void PlacePanesOfSites();
+    void LeavePlace(CPane& pane);
     std::vector<CBasePane*> PanesToPlace() const;
+    BOOL LoadPlaces(LPCTSTR profile, UINT id);
+    BOOL SavePlaces(LPCTSTR profile, UINT id);
     HWND DocumentFocus() const;
 
     DWORD m_dwEnabledAlignment = 0;
@@ -104,4 +144,7 @@ private:
     bool m_paneMenuOfToolbarsOnly = false;
     UINT m_customizeCommand = 0;
     CString m_customizeText;
+    std::array<std::unique_ptr<CDockSite>, 4> m_sites; ///< in the order in which they take room
+    CObList m_lstMiniFrames;                           ///< CPaneFrameWnd, not owned
+    std::unique_ptr<panes::PaneDrag> m_drag;
 };

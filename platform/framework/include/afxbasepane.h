@@ -56,7 +56,8 @@ public:
 
     virtual BOOL IsHorizontal() const { return (m_dwStyle & CBRS_ORIENT_VERT) == 0; }
     virtual BOOL IsDocked() const { return m_bIsDocked; }
-    virtual BOOL IsFloating() const { return FALSE; }
+    /// It lies in a mini frame.
+    virtual BOOL IsFloating() const;
     /// The frame's ribbon: it lies above every other pane, comes first on F6's way and takes the focus itself.
     virtual BOOL IsFrameRibbon() const { return FALSE; }
     /// The pane's own window takes the focus and leads it among what it shows, rather than a control in it.
@@ -86,9 +87,17 @@ public:
     /// The frame whose edges the pane keeps to; NULL when the pane is a control of some other window.
     virtual CWnd* GetDockSiteFrameWnd() const { return m_pDockSiteFrame; }
     /// NULL unless the pane lies in a dock site window or in a mini frame.
-    virtual CDockSite* GetParentDockSite() const { return NULL; }
+    virtual CDockSite* GetParentDockSite() const;
     virtual CPaneFrameWnd* GetParentMiniFrame(BOOL bNoAssert = FALSE) const;
-    CDockingPanesRow* GetPaneRow() { return NULL; }
+    /// Good until panes are docked, moved or removed.
+    CDockingPanesRow* GetPaneRow();
+    /// Near which side of its frame a point of the screen lies where panes may be docked; FALSE: near none.
+    BOOL IsPointNearDockSite(CPoint point, DWORD& dwBarAlignment, BOOL& bOuterEdge) const;
+    /// FALSE unless the pane can float.
+    virtual BOOL FloatPane(CRect rectFloat, AFX_DOCK_METHOD dockMethod = DM_UNKNOWN, bool bShow = true);
+    virtual CPaneFrameWnd* CreateDefaultMiniframe(CRect rectInitial);
+    /// The pane is taken out of the mini frame.
+    virtual void OnRemoveFromMiniFrame(CPaneFrameWnd*) {}
     /// Puts the pane into the row of its side; the same as the frame's DockPane when pDockBar is null.
     virtual BOOL DockPane(CBasePane* pDockBar, LPCRECT lpRect, AFX_DOCK_METHOD dockMethod);
     virtual BOOL DockToFrameWindow(DWORD dwAlignment, LPCRECT lpRect = NULL, DWORD dwDockFlags = DT_DOCK_LAST,
@@ -146,4 +155,6 @@ protected:
     CWnd* m_pDockSiteFrame = NULL;
 
     friend class CDockingManager;
+    friend class CDockSite;
+    friend class CPaneFrameWnd;
 };

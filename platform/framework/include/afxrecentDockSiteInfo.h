@@ -5,7 +5,7 @@
 
 class CPane;
 
-/// Remembers where a pane was docked.
+/// Remembers where a pane was docked and where it floated, so that it finds its way back.
 class FRAMEWORK_API CRecentDockSiteInfo : public CObject {
 public:
     explicit CRecentDockSiteInfo(CPane* pBar) : m_pane(pBar) {}
@@ -17,7 +17,13 @@ public:
     CRecentDockSiteInfo& operator=(CRecentDockSiteInfo& src);
     virtual void SetInfo(BOOL bForSlider, CRecentDockSiteInfo& srcInfo);
 
-    CRect m_rectRecentFloatingRect{0, 0, 0, 0}; ///< screen pixels
+    CRect m_rectRecentFloatingRect{0, 0, 0, 0}; ///< screen pixels; empty: it has never floated
+
+    // The framework's own: the side (CBRS_ALIGN_, 0: never docked), row and offset along it in pixels.
+    DWORD m_dwRecentAlignment = 0;
+    int m_nRecentRowID = 0;
+    int m_nRecentRowIndex = 0;
+    int m_nRecentOffset = 0;
 
 private:
     CPane* m_pane;

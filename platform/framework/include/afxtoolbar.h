@@ -83,7 +83,15 @@ public:
     // Layout
     CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
     CSize CalcSize(BOOL bVertDock) override;
+    /// The size of the bar with that width (bVert: height). A floating one breaks its buttons into rows for it and
+    /// answers what they need.
     CSize StretchPane(int nLength, BOOL bVert) override;
+    /// Gripper and the button for the rest.
+    void GetMinSize(CSize& size) const override;
+    /// Where the button lies that opens a menu of the buttons for which a docked bar has no room; empty: all have room.
+    CRect GetOverflowRect() const { return m_rectOverflow; }
+    /// Opens that menu. FALSE: all buttons have room.
+    BOOL OpenOverflowMenu();
     /// Measures and places the buttons, and lets the frame lay the bar out.
     void AdjustLayout() override;
     void AdjustSize();
@@ -92,8 +100,10 @@ public:
     /// Breaks the buttons into rows no wider than nWidth; the number of rows.
     int WrapToolBar(int nWidth, int nHeight = 32767, CDC* pDC = NULL, int nColumnWidth = -1, int nRowHeight = -1);
     void EnableDocking(DWORD dwAlignment) override;
-    BOOL IsFloating() const override { return FALSE; }
+    BOOL IsFloating() const override { return CMFCBaseToolBar::IsFloating(); }
     BOOL CanBeClosed() const override { return CMFCBaseToolBar::CanBeClosed(); }
+    /// While it floats its buttons break into other rows.
+    BOOL CanBeResized() const override { return (GetPaneStyle() & CBRS_SIZE_FIXED) == 0; }
     BOOL CanFocus() const override { return FALSE; }
     void EnableTextLabels(BOOL bEnable = TRUE);
     BOOL AreTextLabels() const { return m_bTextLabels; }
@@ -246,6 +256,11 @@ protected:
     void ClickButton(int iIndex, BOOL bSendCommand);
     void MeasureButtons(CDC* pDC, BOOL bHorz);
     CSize PlaceButtons(int nWidth, BOOL bHorz, BOOL bMove);
+    /// Takes the buttons that go beyond the docked bar's length out of it.
+    void CutOverflow(BOOL bHorz);
+    void DrawOverflow(CDC* pDC, BOOL bHorz);
+    /// The overflow button takes the mouse, or lets it go.
+    BOOL OnOverflowMouse(UINT nMessage, CPoint point);
     void DropSeparatorsAround(int iIndex);
     /// The tooltip of the kind and look that the tooltip manager has for toolbars.
     void CreateToolBarTooltip();
@@ -282,6 +297,9 @@ protected:
     CToolTipCtrl* m_pToolTip = NULL; ///< the tooltip manager's; a menu's bar has none
     int m_iTooltipButton = -1;       ///< index of the button that the tooltip's tool lies on
     CMFCToolBarImages m_HotImagesLocked;
+    CRect m_rectOverflow{0, 0, 0, 0};
+    int m_iFirstOverflow = -1; ///< the first button without room, -1: all have
+    BOOL m_bOverflowHot = FALSE;
 
     static CMFCToolBarImages m_ColdImages, m_DisabledImages, m_MenuImages, m_DisabledMenuImages;
     static CMFCToolBarImages m_LargeImages, m_LargeColdImages, m_LargeDisabledImages;

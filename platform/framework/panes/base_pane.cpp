@@ -1,9 +1,12 @@
 #include "afxbasepane.h"
 
 #include "afxDockingManager.h"
+#include "afxDockSite.h"
 #include "afxPane.h"
+#include "afxPaneFrameWnd.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
+#include "panes/dock_rows.h"
 #include "window/bar_place.h"
 
 #include <utility>
@@ -151,7 +154,30 @@ void CBasePane::EnableGripper(BOOL bEnable) {
 
 HICON CBasePane::GetPaneIcon(BOOL bBigIcon) { return m_hWnd ? GetIcon(bBigIcon) : nullptr; }
 
-CPaneFrameWnd* CBasePane::GetParentMiniFrame(BOOL) const { return nullptr; }
+CDockSite* CBasePane::GetParentDockSite() const {
+    return m_hWnd ? DYNAMIC_DOWNCAST(CDockSite, CWnd::FromHandlePermanent(::GetParent(m_hWnd))) : nullptr;
+}
+
+CPaneFrameWnd* CBasePane::GetParentMiniFrame(BOOL) const {
+    return m_hWnd ? DYNAMIC_DOWNCAST(CPaneFrameWnd, CWnd::FromHandlePermanent(::GetParent(m_hWnd))) : nullptr;
+}
+
+CDockingPanesRow* CBasePane::GetPaneRow() {
+    const CDockSite* const site = GetParentDockSite();
+    auto* const pane = DYNAMIC_DOWNCAST(CPane, this);
+    return site && pane ? site->RowOfPane(pane) : nullptr;
+}
+
+BOOL CBasePane::IsFloating() const { return GetParentMiniFrame(TRUE) != nullptr; }
+
+BOOL CBasePane::FloatPane(CRect, AFX_DOCK_METHOD, bool) { return FALSE; }
+
+CPaneFrameWnd* CBasePane::CreateDefaultMiniframe(CRect) { return nullptr; }
+
+BOOL CBasePane::IsPointNearDockSite(CPoint point, DWORD& dwBarAlignment, BOOL& bOuterEdge) const {
+    const CDockingManager* const manager = FindDockingManager();
+    return manager && manager->IsPointNearDockSite(point, dwBarAlignment, bOuterEdge);
+}
 
 BOOL CBasePane::DockPane(CBasePane*, LPCRECT, AFX_DOCK_METHOD) {
     CDockingManager* manager = FindDockingManager();
@@ -174,8 +200,11 @@ BOOL CBasePane::DockToFrameWindow(DWORD dwAlignment, LPCRECT lpRect, DWORD dwDoc
     if (!DockPane(nullptr, lpRect, lpRect ? DM_RECT : DM_STANDARD)) {
         return FALSE;
     }
+    CDockSite* const site = GetParentDockSite();
     if (pRelativeBar) {
         manager->InsertPane(this, pRelativeBar);
+    } else if (dwDockFlags == DT_DOCK_FIRST && site) {
+        site->DockAt(static_cast<CPane&>(*this), {0, true}, 0);
     } else if (dwDockFlags == DT_DOCK_FIRST) {
         manager->MoveToStartOfSide(this);
     }

@@ -259,4 +259,14 @@ RowPlace DockRows::RowAt(int across) const {
     return {m_rows.size(), true};
 }
 
+RowPlace DockRows::Translated(RowPlace place, const DockRows& before) const {
+    for (std::size_t index = place.row; index < before.m_rows.size(); ++index) {
+        const std::size_t row = RowWithId(before.m_rows[index].id);
+        if (row < m_rows.size()) {
+            return {row, place.isNew || index != place.row};
+        }
+    }
+    return {m_rows.size(), true};
+}
+
 } // namespace panes

@@ -77,6 +77,10 @@ public:
     /// The row at a distance from the outer edge; near a row's edge and beyond all rows a new one.
     RowPlace RowAt(int across) const;
 
+    /// The place that `place` was in rows as they were before, in these rows: rows that are gone are between those
+    /// that are still there.
+    RowPlace Translated(RowPlace place, const DockRows& before) const;
+
 private:
     bool CanTake(const DockRow& row, const DockedPane& pane) const;
     std::size_t InsertRow(std::size_t index);

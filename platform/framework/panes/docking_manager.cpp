@@ -1,10 +1,14 @@
 #include "afxDockingManager.h"
 
+#include "afxDockSite.h"
 #include "afxext.h"
 #include "afxPane.h"
+#include "afxPaneFrameWnd.h"
 #include "fx/scoped_change.h"
+#include "panes/pane_drag.h"
 #include "panes/pane_layout.h"
 #include "panes/pane_menu.h"
+#include "panes/row_place.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,21 +18,6 @@ int CDockingManager::m_nDockSensitivity = 15;
 
 namespace {
 
-DWORD AlignmentOfDockBar(UINT dockBar) {
-    switch (dockBar) {
-    case AFX_IDW_DOCKBAR_TOP:
-        return CBRS_ALIGN_TOP;
-    case AFX_IDW_DOCKBAR_BOTTOM:
-        return CBRS_ALIGN_BOTTOM;
-    case AFX_IDW_DOCKBAR_LEFT:
-        return CBRS_ALIGN_LEFT;
-    case AFX_IDW_DOCKBAR_RIGHT:
-        return CBRS_ALIGN_RIGHT;
-    default:
-        return 0;
-    }
-}
-
 panes::PaneRequest RequestOf(CBasePane& pane) {
     const auto* row = DYNAMIC_DOWNCAST(CPane, &pane);
     const bool isAlone = !pane.IsDocked() || (row && row->GetExclusiveRowMode());
@@ -36,26 +25,11 @@ panes::PaneRequest RequestOf(CBasePane& pane) {
     return {frame_bars::SideOfAlignment(pane.GetCurrentAlignment()), size, isAlone};
 }
 
-/// Moves a child window (frame's client pixels) unless it lies there already; a needless move would repaint it.
-HDWP DeferMove(HDWP deferred, HWND window, const RECT& place) {
-    RECT now;
-    ::GetWindowRect(window, &now);
-    ::MapWindowPoints(nullptr, ::GetParent(window), reinterpret_cast<LPPOINT>(&now), 2);
-    if (::EqualRect(&now, &place)) {
-        return deferred;
-    }
-    const HDWP next = deferred
-                          ? ::DeferWindowPos(deferred, window, nullptr, place.left, place.top, place.right - place.left,
-                                             place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE)
-                          : nullptr;
-    if (!next) {
-        ::SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                       SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-    return next;
-}
-
 } // namespace
+
+CDockingManager::CDockingManager() = default;
+
+CDockingManager::~CDockingManager() = default;
 
 BOOL CDockingManager::Create(CFrameWnd* pParentWnd) {
     m_pParentWnd = pParentWnd;
@@ -113,6 +87,9 @@ void CDockingManager::RemovePaneFromDockManager(CBasePane* pWnd, BOOL bDestroy, 
     if (!position) {
         return;
     }
+    if (auto* const pane = DYNAMIC_DOWNCAST(CPane, pWnd)) {
+        LeavePlace(*pane);
+    }
     if (pBarReplacement && !m_lstControlBars.Find(pBarReplacement)) {
         m_lstControlBars.SetAt(position, pBarReplacement);
     } else {
@@ -165,34 +142,6 @@ CBasePane* CDockingManager::PaneFromPoint(CPoint point, int nSensitivity, bool b
     return nullptr;
 }
 
-BOOL CDockingManager::EnableDocking(DWORD dwStyle) {
-    m_dwEnabledAlignment |= dwStyle & CBRS_ALIGN_ANY;
-    return m_dwEnabledAlignment != 0;
-}
-
-void CDockingManager::DockPane(CBasePane* pBar, UINT nDockBarID, LPCRECT lpRect) {
-    const DWORD alignment = nDockBarID ? AlignmentOfDockBar(nDockBarID) : pBar->GetCurrentAlignment();
-    if ((alignment & pBar->GetEnabledAlignment() & m_dwEnabledAlignment) == 0) {
-        return;
-    }
-    AddPane(pBar);
-    pBar->SetPaneAlignment(alignment);
-    pBar->DockPane(nullptr, lpRect, lpRect ? DM_RECT : DM_STANDARD);
-}
-
-BOOL CDockingManager::DockPaneLeftOf(CPane* pBarToDock, CPane* pTargetBar) {
-    if (!m_lstControlBars.Find(pTargetBar)) {
-        return FALSE;
-    }
-    pBarToDock->SetPaneAlignment(pTargetBar->GetCurrentAlignment());
-    if (!pBarToDock->DockPane(nullptr, nullptr, DM_STANDARD)) {
-        return FALSE;
-    }
-    InsertPane(pBarToDock, pTargetBar, FALSE);
-    AdjustDockingLayout();
-    return TRUE;
-}
-
 void CDockingManager::RecalcLayout(BOOL) { AdjustDockingLayout(); }
 
 void CDockingManager::AdjustDockingLayout(HDWP hdwp) {
@@ -231,9 +180,10 @@ void CDockingManager::PlacePanes(HDWP deferred) {
     m_rectOuter.DeflateRect(m_rectMargins.left, m_rectMargins.top, m_rectMargins.right, m_rectMargins.bottom);
 
     const std::vector<CBasePane*> placed = PanesToPlace();
-    constexpr int clientAndControlBars = 8;
+    constexpr int clientSitesAndControlBars = 12;
     const bool isOwnBatch = deferred == nullptr;
-    HDWP batch = isOwnBatch ? ::BeginDeferWindowPos(static_cast<int>(placed.size()) + clientAndControlBars) : deferred;
+    HDWP batch =
+        isOwnBatch ? ::BeginDeferWindowPos(static_cast<int>(placed.size()) + clientSitesAndControlBars) : deferred;
 
     AFX_SIZEPARENTPARAMS bars{batch, m_rectOuter, {0, 0}, TRUE};
     m_pParentWnd->PlaceControlBars(bars);
@@ -246,15 +196,17 @@ void CDockingManager::PlacePanes(HDWP deferred) {
     }
     const panes::PaneLayout layout = panes::LayOutPanes(bars.rect, requests);
     for (size_t index = 0; index < placed.size(); ++index) {
-        batch = DeferMove(batch, placed[index]->m_hWnd, layout.panes[index]);
+        batch = panes::DeferMove(batch, placed[index]->m_hWnd, layout.panes[index]);
     }
     m_rectClientArea = layout.rest;
+    batch = PlaceSites(batch, m_rectClientArea);
     if (const HWND client = ::GetDlgItem(m_pParentWnd->m_hWnd, AFX_IDW_PANE_FIRST)) {
-        batch = DeferMove(batch, client, layout.rest);
+        batch = panes::DeferMove(batch, client, m_rectClientArea);
     }
     if (isOwnBatch && batch) {
         ::EndDeferWindowPos(batch);
     }
+    PlacePanesOfSites();
 }
 
 void CDockingManager::LockUpdate(BOOL bLock) {
@@ -325,21 +277,4 @@ void CDockingManager::OnPaneContextMenu(CPoint point) {
         CPane* pane = offered[choice - 1];
         pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
     }
-}
-
-BOOL CDockingManager::SaveState(LPCTSTR lpszProfileName, UINT) {
-    BOOL isSaved = TRUE;
-    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
-        isSaved &= static_cast<CBasePane*>(m_lstControlBars.GetNext(position))->SaveState(lpszProfileName);
-    }
-    return isSaved;
-}
-
-BOOL CDockingManager::LoadState(LPCTSTR lpszProfileName, UINT) {
-    BOOL isLoaded = TRUE;
-    for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
-        isLoaded &= static_cast<CBasePane*>(m_lstControlBars.GetNext(position))->LoadState(lpszProfileName);
-    }
-    AdjustDockingLayout();
-    return isLoaded;
 }

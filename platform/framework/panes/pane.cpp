@@ -1,6 +1,10 @@
 #include "afxPane.h"
 
 #include "afxDockingManager.h"
+#include "afxDockSite.h"
+#include "afxglobals.h"
+#include "afxPaneFrameWnd.h"
+#include "afxvisualmanager.h"
 
 #include <algorithm>
 
@@ -8,6 +12,9 @@ IMPLEMENT_DYNCREATE(CPane, CBasePane)
 
 BEGIN_MESSAGE_MAP(CPane, CBasePane)
 ON_WM_SIZE()
+ON_WM_LBUTTONDOWN()
+ON_WM_LBUTTONDBLCLK()
+ON_WM_SETCURSOR()
 END_MESSAGE_MAP()
 
 CPane::CPane() = default;
@@ -81,6 +88,10 @@ void CPane::OnSize(UINT nType, int cx, int cy) {
 }
 
 void CPane::AdjustSizeImmediate(BOOL bRecalcLayout) {
+    if (CPaneFrameWnd* const miniFrame = GetParentMiniFrame(TRUE)) {
+        miniFrame->OnPaneRecalcLayout();
+        return;
+    }
     const CSize size = CalcFixedLayout(FALSE, IsHorizontal());
     SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE, nullptr);
     if (bRecalcLayout) {
@@ -89,27 +100,6 @@ void CPane::AdjustSizeImmediate(BOOL bRecalcLayout) {
 }
 
 void CPane::GetPaneName(CString& strName) const { GetWindowText(strName); }
-
-BOOL CPane::DockPane(CBasePane* pDockBar, LPCRECT lpRect, AFX_DOCK_METHOD dockMethod) {
-    if (!OnBeforeDock(&pDockBar, lpRect, dockMethod) || !CBasePane::DockPane(pDockBar, lpRect, dockMethod)) {
-        return FALSE;
-    }
-    CalcRecentDockedRect();
-    OnAfterDock(pDockBar, lpRect, dockMethod);
-    return TRUE;
-}
-
-void CPane::UndockPane(BOOL bDelay) { CBasePane::UndockPane(bDelay); }
-
-void CPane::CalcRecentDockedRect() {
-    CWnd* frame = GetDockSiteFrameWnd();
-    if (frame && IsDocked()) {
-        CRect window;
-        GetWindowRect(&window);
-        frame->ScreenToClient(&window);
-        m_recentDockInfo.GetRecentDockedRect(FALSE) = window;
-    }
-}
 
 void CPane::CopyState(CPane* pOrgBar) {
     CBasePane::CopyState(pOrgBar);
@@ -128,30 +118,4 @@ BOOL CPane::OnShowControlBarMenu(CPoint point) {
     }
     manager->OnPaneContextMenu(point);
     return TRUE;
-}
-
-BOOL CPane::OnBeforeDock(CBasePane**, LPCRECT, AFX_DOCK_METHOD) { return TRUE; }
-
-void CPane::OnAfterDock(CBasePane*, LPCRECT, AFX_DOCK_METHOD) {}
-
-void CRecentDockSiteInfo::Init() {
-    m_rectRecentFloatingRect.SetRectEmpty();
-    for (CRect& rect : m_dockedRects) {
-        rect.SetRectEmpty();
-    }
-}
-
-CRect& CRecentDockSiteInfo::GetRecentDockedRect(BOOL bForSlider) { return m_dockedRects[bForSlider ? 1 : 0]; }
-
-CRecentDockSiteInfo& CRecentDockSiteInfo::operator=(CRecentDockSiteInfo& src) {
-    if (this != &src) {
-        SetInfo(FALSE, src);
-        SetInfo(TRUE, src);
-        m_rectRecentFloatingRect = src.m_rectRecentFloatingRect;
-    }
-    return *this;
-}
-
-void CRecentDockSiteInfo::SetInfo(BOOL bForSlider, CRecentDockSiteInfo& srcInfo) {
-    GetRecentDockedRect(bForSlider) = srcInfo.GetRecentDockedRect(bForSlider);
 }

@@ -242,7 +242,7 @@ void CMFCToolBarComboBoxButton::PlaceCombo() {
         return;
     }
     ShowCombo();
-    if (!m_bHorz || m_rectPlaced == m_rect) {
+    if (!m_bHorz || m_rect.IsRectEmpty() || m_rectPlaced == m_rect) {
         return;
     }
     m_rectPlaced = m_rect;
@@ -260,7 +260,8 @@ void CMFCToolBarComboBoxButton::ShowCombo() {
     if (!GetHwnd()) {
         return;
     }
-    const bool isWanted = m_bHorz && !m_bIsHidden && m_bVisible;
+    // One for which its bar has no room has no place.
+    const bool isWanted = m_bHorz && !m_bIsHidden && m_bVisible && !m_rect.IsRectEmpty();
     if (isWanted != ((m_pWndCombo->GetStyle() & WS_VISIBLE) != 0)) {
         m_pWndCombo->ShowWindow(isWanted ? SW_SHOWNOACTIVATE : SW_HIDE);
     }

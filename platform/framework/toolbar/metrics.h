@@ -16,6 +16,8 @@ constexpr int ButtonTextMargin = 4;
 constexpr int SeparatorSize = 6;
 /// Between the text of a menu bar's button and its sides, beside the margin that every button has.
 constexpr int MenuBarPadding = 4;
+/// The grip at the beginning of a docked bar.
+constexpr int GripperSize = 7;
 /// The arrow beside a toolbar button that opens a menu.
 constexpr int ArrowWidth = 12;
 

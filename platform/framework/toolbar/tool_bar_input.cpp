@@ -165,6 +165,7 @@ void CMFCToolBar::ClickButton(int iIndex, BOOL bSendCommand) {
 void CMFCToolBar::OnMouseMove(UINT nFlags, CPoint point) {
     CMFCBaseToolBar::OnMouseMove(nFlags, point);
     const int hit = HitTest(point);
+    OnOverflowMouse(WM_MOUSEMOVE, point);
     if (m_iButtonCapture >= 0) {
         // Only the pressed button takes part until it is let go.
         const UINT style = GetButtonStyle(m_iButtonCapture);
@@ -181,6 +182,7 @@ void CMFCToolBar::OnMouseMove(UINT nFlags, CPoint point) {
 
 void CMFCToolBar::OnMouseLeave() {
     m_bTracked = FALSE;
+    OnOverflowMouse(WM_MOUSELEAVE, {0, 0});
     if (m_iButtonCapture < 0) {
         SetHighlighted(-1);
     }
@@ -188,8 +190,14 @@ void CMFCToolBar::OnMouseLeave() {
 
 void CMFCToolBar::OnLButtonDown(UINT nFlags, CPoint point) {
     CMFCBaseToolBar::OnLButtonDown(nFlags, point);
+    if (OnOverflowMouse(WM_LBUTTONDOWN, point)) {
+        return;
+    }
     const int hit = HitTest(point);
     CMFCToolBarButton* button = GetButton(hit);
+    if (!button && IsDocked()) {
+        BeginDrag(point); // by whatever is not a button
+    }
     if (!IsPressable(button)) {
         return;
     }

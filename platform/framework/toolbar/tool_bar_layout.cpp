@@ -2,6 +2,7 @@
 #include "afxtoolbar.h"
 
 #include "afxglobals.h"
+#include "afxPaneFrameWnd.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
 #include "toolbar/metrics.h"
@@ -11,8 +12,6 @@
 using toolbar::Scaled;
 
 namespace {
-
-constexpr int gripperSize = 7;
 
 bool IsSeparator(const CMFCToolBarButton& button) { return (button.m_nStyle & TBBS_SEPARATOR) != 0; }
 
@@ -57,7 +56,8 @@ CSize CMFCToolBar::PlaceButtons(int nWidth, BOOL bHorz, BOOL bMove) {
     const int rowHeight = bHorz ? CalcMaxButtonHeight() : 0;
     CPoint place(0, 0);
     CSize all(0, 0);
-    const int gripper = (GetPaneStyle() & CBRS_GRIPPER) ? Scaled(gripperSize) : 0;
+    const bool hasGripper = (GetPaneStyle() & CBRS_GRIPPER) != 0 && !IsFloating();
+    const int gripper = hasGripper ? Scaled(toolbar::GripperSize) : 0;
     const CPoint start(m_rectBorders.left + (bHorz ? gripper : 0), m_rectBorders.top + (bHorz ? 0 : gripper));
     for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
         auto& button = *static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position));
@@ -105,9 +105,29 @@ CSize CMFCToolBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
 }
 
 CSize CMFCToolBar::StretchPane(int nLength, BOOL bVert) {
-    CSize size = CalcSize(bVert);
-    (bVert ? size.cy : size.cx) = nLength;
-    return size;
+    if (!IsFloating()) {
+        CSize size = CalcSize(bVert);
+        (bVert ? size.cy : size.cx) = nLength;
+        return size;
+    }
+    CClientDC dc(this);
+    MeasureButtons(&dc, TRUE);
+    const int borders = m_rectBorders.left + m_rectBorders.right;
+    if (!bVert) {
+        return PlaceButtons(std::max(1, nLength - borders), TRUE, FALSE);
+    }
+    // The narrowest width at which the rows are no higher than that.
+    int low = 1;
+    int high = std::max(1, static_cast<int>(PlaceButtons(0, TRUE, FALSE).cx));
+    while (low < high) {
+        const int middle = low + (high - low) / 2;
+        if (PlaceButtons(middle, TRUE, FALSE).cy <= nLength) {
+            high = middle;
+        } else {
+            low = middle + 1;
+        }
+    }
+    return PlaceButtons(low, TRUE, FALSE);
 }
 
 int CMFCToolBar::WrapToolBar(int nWidth, int, CDC* pDC, int, int) {
@@ -145,7 +165,11 @@ void CMFCToolBar::AdjustLocations() {
     const BOOL isHorizontal = IsHorizontal();
     CClientDC dc(this);
     MeasureButtons(&dc, isHorizontal);
-    PlaceButtons(0, isHorizontal, TRUE);
+    CRect client;
+    GetClientRect(&client);
+    const int rowWidth = client.Width() - m_rectBorders.left - m_rectBorders.right;
+    PlaceButtons(IsFloating() ? std::max(1, rowWidth) : 0, isHorizontal, TRUE);
+    CutOverflow(isHorizontal);
     for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
         static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position))->OnSize(SIZE_RESTORED);
     }
@@ -164,7 +188,11 @@ void CMFCToolBar::AdjustLayout() {
 }
 
 void CMFCToolBar::AdjustSize() {
-    if (!m_hWnd) {
+    if (!m_hWnd || GetParentDockSite()) {
+        return; // the site gives it its size
+    }
+    if (CPaneFrameWnd* const miniFrame = GetParentMiniFrame(TRUE)) {
+        miniFrame->OnPaneRecalcLayout();
         return;
     }
     const CSize size = CalcFixedLayout(FALSE, IsHorizontal());

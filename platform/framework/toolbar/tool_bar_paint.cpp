@@ -29,7 +29,7 @@ void CMFCToolBar::DoPaint(CDC* pDC) {
     CMFCVisualManager::GetInstance()->OnFillBarBackground(pDC, this, client, clip);
     OnFillBackground(pDC); // a derived bar's, which may exchange the manager
     const BOOL isHorizontal = IsHorizontal();
-    if (GetPaneStyle() & CBRS_GRIPPER) {
+    if ((GetPaneStyle() & CBRS_GRIPPER) && !IsFloating()) {
         CRect gripper = client;
         (isHorizontal ? gripper.right : gripper.bottom) =
             (isHorizontal ? gripper.left : gripper.top) + Scaled(toolbar::SeparatorSize);
@@ -50,6 +50,7 @@ void CMFCToolBar::DoPaint(CDC* pDC) {
         const BOOL isHot = index == m_iHighlighted || button->IsDroppedDown();
         DrawButton(pDC, button, GetImageList(*button, isHot), isHot, m_bGrayDisabledButtons);
     }
+    DrawOverflow(pDC, isHorizontal);
     if (former) {
         pDC->SelectObject(former);
     }

@@ -68,6 +68,12 @@ protected:
         m_width = client_rect.Width();
         m_height = client_rect.Height();
     }
+    CRect PlaceInFrame(const CWnd& window) const {
+        CRect place;
+        window.GetWindowRect(&place);
+        frame.ScreenToClient(&place);
+        return place;
+    }
     Owned<Frame> frame;
     ClientWindow client;
     Strip top;
@@ -182,11 +188,11 @@ TEST_F(DockLayout, DockedPanesShareARow) {
     frame.EnableDocking(CBRS_ALIGN_ANY);
     frame.DockPane(&first);
     frame.DockPane(&second);
-    EXPECT_EQ(PlaceInParent(first), CRect(0, 30, 120, 54));
-    EXPECT_EQ(PlaceInParent(second), CRect(120, 30, m_width, 54));
+    EXPECT_EQ(PlaceInFrame(first), CRect(0, 30, 120, 54));
+    EXPECT_EQ(PlaceInFrame(second), CRect(120, 30, 200, 54));
     EXPECT_TRUE(first.IsDocked());
     frame.DockPaneLeftOf(&second, &first);
-    EXPECT_EQ(PlaceInParent(second), CRect(0, 30, 80, 54));
+    EXPECT_EQ(PlaceInFrame(second), CRect(0, 30, 80, 54));
 }
 
 TEST_F(DockLayout, DockingAtASideThatIsNotAllowedIsRefused) {
@@ -202,7 +208,8 @@ TEST_F(DockLayout, DockingAtASideThatIsNotAllowedIsRefused) {
     frame.DockPane(&pane, AFX_IDW_DOCKBAR_LEFT);
     EXPECT_TRUE(pane.IsDocked());
     EXPECT_FALSE(pane.IsHorizontal());
-    EXPECT_EQ(PlaceInParent(pane), CRect(0, 30, 40, m_height - 20));
+    EXPECT_EQ(PlaceInFrame(pane), CRect(0, 30, 40, 54));
+    EXPECT_EQ(PlaceInParent(client), CRect(40, 30, m_width, m_height - 20));
 }
 
 TEST_F(DockLayout, AllPanesHideAndComeBackTogether) {

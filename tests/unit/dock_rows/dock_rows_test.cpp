@@ -156,6 +156,24 @@ TEST(DockRows, ARowIsFoundByItsDistanceFromTheEdge) {
     }
 }
 
+TEST(DockRows, APlaceInFormerRowsIsFoundInThePresentOnes) {
+    const DockRows before = TwoRows(); // "1 2 | 3"
+    DockRows now = before;
+    now.MoveTo(2, {1, true}, 0, kRoom); // "1 | 2 | 3"
+    const auto translated = [&](std::size_t row, bool isNew) {
+        const panes::RowPlace place = now.Translated({row, isNew}, before);
+        return std::to_string(place.row) + (place.isNew ? " new" : "");
+    };
+    EXPECT_EQ(translated(0, false), "0");
+    EXPECT_EQ(translated(1, false), "2");
+    EXPECT_EQ(translated(1, true), "2 new");
+    EXPECT_EQ(translated(2, true), "3 new");
+    now.Remove(1); // "2 | 3"
+    EXPECT_EQ(translated(0, false), "1 new") << "the row is gone: before the next one";
+    now.Remove(3);
+    EXPECT_EQ(translated(1, false), "1 new");
+}
+
 TEST(DockRows, PanesThatNobodyPutSomewhereFlowIntoTheRowsThatTheyNeed) {
     DockRows rows;
     for (panes::PaneKey key = 1; key <= 3; ++key) {

@@ -137,32 +137,12 @@ LEFT_OUT("a frame over the whole screen", CFrameWndEx, EnableFullScreenMainMenu,
 LEFT_OUT("a frame over the whole screen", CMDIFrameWndEx, EnableFullScreenMainMenu, EnableFullScreenMode, IsFullScreen,
          ShowFullScreen)
 
-LEFT_OUT("panes that float, hide by themselves or are dragged", CFrameWndEx, ActiveItemRecalcLayout, AddDockSite,
-         EnableAutoHidePanes, EnableLoadDockState, IsPointNearDockSite, OnCloseDockingPane, OnCloseMiniFrame,
-         OnMoveMiniFrame, PaneFromPoint, SetDockState)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIFrameWndEx, ActiveItemRecalcLayout, AddDockSite,
-         EnableAutoHidePanes, EnableLoadDockState, IsPointNearDockSite, OnCloseDockingPane, OnCloseMiniFrame,
-         OnMoveMiniFrame, PaneFromPoint)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIChildWndEx, AddDockSite, EnableAutoHidePanes,
-         IsPointNearDockSite, OnMoveMiniFrame, PaneFromPoint)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CBasePane, CreateDefaultMiniframe, DockPaneUsingRTTI,
-         FillWindowRect, FloatPane, GetPaneRect, IsPointNearDockSite, IsTooltipTopmost, OnDrawCaption,
-         OnMovePaneDivider, OnRemoveFromMiniFrame, PaneFromPoint, SetPaneRect, SetRestoredFromRegistry)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CPane, AllocElements, CreateDefaultMiniframe,
-         DockByMouse, DockPaneStandard, FloatPane, GetClientHotSpot, GetHotSpot, GetResizeStep, GetVirtualRect,
-         IsChangeState, IsLeftOf, MoveByAlignment, MovePane, OnProcessDblClk, PrepareToDock, SetActiveInGroup,
-         SetClientHotSpot, SetDockState, SetMiniFrameRTC, SetVirtualRect, StretchPaneDeferWndPos, ToggleAutoHide,
-         UpdateVirtualRect, m_bHandleMinSize, OnAfterFloat, OnBeforeFloat)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CDockingManager, AddDockSite, AddMiniFrame,
-         AdjustPaneFrames, AdjustRectToClientArea, AlignAutoHidePane, AutoHidePane, BringBarsToTop, BuildPanesMenu,
-         CalcExpectedDockedRect, DeterminePaneAndStatus, DisableRestoreDockState, EnableAutoHidePanes,
-         EnableDockSiteMenu, FindDockSite, FindDockSiteByPane, FixupVirtualRects, FrameFromPoint,
-         GetEnabledAutoHideAlignment, GetMiniFrames, GetSmartDockingManager, GetSmartDockingManagerPermanent,
-         GetSmartDockingParams, GetSmartDockingTheme, HideAutoHidePanes, InsertDockSite, IsDockSiteMenu,
-         IsPointNearDockSite, OnActivateFrame, OnClosePopupMenu, OnMoveMiniFrame, ProcessPaneContextMenuCommand,
-         ReleaseEmptyPaneContainers, RemoveMiniFrame, ReplacePane, ResortMiniFramesForZOrder, SendMessageToMiniFrames,
-         SetAutohideZOrder, SetDockState, SetSmartDockingParams, ShowDelayShowMiniFrames, StartSDocking, StopSDocking,
-         m_nTimeOutBeforeDockingBarDock, m_nTimeOutBeforeToolBarDock)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CFrameWndEx, ActiveItemRecalcLayout, AddDockSite, EnableAutoHidePanes, EnableLoadDockState, OnCloseDockingPane, SetDockState)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIFrameWndEx, ActiveItemRecalcLayout, AddDockSite, EnableAutoHidePanes, EnableLoadDockState, OnCloseDockingPane)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIChildWndEx, AddDockSite, EnableAutoHidePanes)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CBasePane, DockPaneUsingRTTI, FillWindowRect, GetPaneRect, IsTooltipTopmost, OnDrawCaption, OnMovePaneDivider, PaneFromPoint, SetPaneRect, SetRestoredFromRegistry)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CPane, AllocElements, DockByMouse, DockPaneStandard, GetHotSpot, GetResizeStep, GetVirtualRect, IsChangeState, MovePane, PrepareToDock, SetActiveInGroup, SetDockState, SetVirtualRect, StretchPaneDeferWndPos, ToggleAutoHide, UpdateVirtualRect, m_bHandleMinSize, OnAfterFloat, OnBeforeFloat)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CDockingManager, AddDockSite, AdjustPaneFrames, AdjustRectToClientArea, AlignAutoHidePane, AutoHidePane, BringBarsToTop, BuildPanesMenu, CalcExpectedDockedRect, DeterminePaneAndStatus, DisableRestoreDockState, EnableAutoHidePanes, EnableDockSiteMenu, FixupVirtualRects, GetEnabledAutoHideAlignment, GetSmartDockingManager, GetSmartDockingManagerPermanent, GetSmartDockingParams, GetSmartDockingTheme, HideAutoHidePanes, InsertDockSite, IsDockSiteMenu, OnActivateFrame, OnClosePopupMenu, OnMoveMiniFrame, ProcessPaneContextMenuCommand, ReleaseEmptyPaneContainers, ReplacePane, ResortMiniFramesForZOrder, SetAutohideZOrder, SetDockState, SetSmartDockingParams, ShowDelayShowMiniFrames, StartSDocking, StopSDocking, m_nTimeOutBeforeDockingBarDock, m_nTimeOutBeforeToolBarDock)
 LEFT_OUT("panes that float, hide by themselves or are dragged", CRecentDockSiteInfo, GetRecentDefaultPaneDivider,
          GetRecentDockedPercent, GetRecentListOfPanes, GetRecentPaneContainer, GetRecentTabContainer, IsRecentLeftPane,
          SaveListOfRecentPanes, StoreDockInfo)

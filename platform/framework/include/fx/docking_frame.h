@@ -31,8 +31,13 @@ public:
     BOOL DockPaneLeftOf(CPane* pBar, CPane* pLeftOf);
     void ShowPane(CBasePane* pBar, BOOL bShow, BOOL bDelay, BOOL bActivate);
     virtual void AdjustDockingLayout(HDWP hdwp = NULL);
+    CBasePane* PaneFromPoint(CPoint point, int nSensitivity, bool bExactBar, CRuntimeClass* pRTCBarType) const;
+    BOOL IsPointNearDockSite(CPoint point, DWORD& dwBarAlignment, BOOL& bOuterEdge) const;
 
 protected:
+    /// The idle updates of what floats are done together with the frame's.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     CDockingManager m_dockManager;
 };
 

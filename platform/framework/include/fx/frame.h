@@ -13,6 +13,7 @@ class CDocument;
 class CMFCPopupMenu;
 class CMFCToolBarButton;
 class CMFCToolBarMenuButton;
+class CPaneFrameWnd;
 class CView;
 struct CCreateContext;
 
@@ -123,6 +124,9 @@ public:
     /// FALSE: the menu is not shown.
     virtual BOOL OnShowPopupMenu(CMFCPopupMenu*) { return TRUE; }
     virtual void OnClosePopupMenu(CMFCPopupMenu*) {}
+    /// The user closes a mini frame, or has moved it. FALSE from the first: it stays open.
+    virtual BOOL OnCloseMiniFrame(CPaneFrameWnd*) { return TRUE; }
+    virtual BOOL OnMoveMiniFrame(CWnd*) { return TRUE; }
     /// TRUE: the image is drawn.
     virtual BOOL OnDrawMenuImage(CDC*, const CMFCToolBarMenuButton*, const CRect&) { return FALSE; }
     /// TRUE: the text is the button's tooltip.

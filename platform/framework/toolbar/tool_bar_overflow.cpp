@@ -1,0 +1,159 @@
+// The button of a docked toolbar that has too little room: it opens a menu of the buttons that are left out.
+#include "afxtoolbar.h"
+
+#include "afxpopupmenu.h"
+#include "afxtoolbarmenubutton.h"
+#include "afxvisualmanager.h"
+#include "fx/dc_scope.h"
+#include "toolbar/metrics.h"
+
+#include <memory>
+#include <utility>
+
+using toolbar::Scaled;
+
+namespace {
+
+// At 96 DPI.
+constexpr int kOverflowSize = 11;
+constexpr int kChevronSize = 2;
+
+/// A click on the button that opened the menu closes it.
+class OverflowMenu : public CMFCPopupMenu {
+public:
+    explicit OverflowMenu(CMFCToolBar& bar) : m_bar(bar.m_hWnd) {}
+
+    CWnd* GetParentArea(CRect& rectParentBtn) override {
+        const auto* const bar = CMFCToolBar::FromHandlePermanent(m_bar);
+        rectParentBtn = bar != nullptr ? bar->GetOverflowRect() : CRect(0, 0, 0, 0);
+        return CMFCToolBar::FromHandlePermanent(m_bar);
+    }
+
+private:
+    HWND m_bar; ///< may be destroyed while the menu is open
+};
+
+/// The button as a row of a menu.
+std::unique_ptr<CMFCToolBarMenuButton> RowFor(const CMFCToolBarButton& button) {
+    if (button.IsKindOf(RUNTIME_CLASS(CMFCToolBarMenuButton))) {
+        std::unique_ptr<CMFCToolBarMenuButton> row(
+            static_cast<CMFCToolBarMenuButton*>(button.GetRuntimeClass()->CreateObject()));
+        row->CopyFrom(button);
+        return row;
+    }
+    const int image = button.IsLocked() ? -1 : button.GetImage();
+    auto row =
+        std::make_unique<CMFCToolBarMenuButton>(button.m_nID, nullptr, image, button.m_strText, button.m_bUserButton);
+    button.ExportToMenuButton(*row);
+    row->m_nStyle = button.m_nStyle & ~static_cast<UINT>(TBBS_PRESSED);
+    return row;
+}
+
+void DrawChevron(CDC& dc, CPoint middle, int size, bool pointsRight) {
+    const int length = 2 * size;
+    for (const int shift : {-size, size}) {
+        for (int step = -size; step <= size; ++step) {
+            const int depth = shift - size / 2 + size - std::abs(step);
+            const CPoint at =
+                pointsRight ? CPoint(middle.x + depth, middle.y + step) : CPoint(middle.x + step, middle.y + depth);
+            dc.MoveTo(at);
+            dc.LineTo(pointsRight ? CPoint(at.x + length / 2, at.y) : CPoint(at.x, at.y + length / 2));
+        }
+    }
+}
+
+} // namespace
+
+void CMFCToolBar::GetMinSize(CSize& size) const {
+    const int gripper = (GetPaneStyle() & CBRS_GRIPPER) != 0 ? toolbar::GripperSize : 0;
+    const int smallest = Scaled(gripper + kOverflowSize);
+    size = CSize(smallest, smallest);
+}
+
+void CMFCToolBar::CutOverflow(BOOL bHorz) {
+    const CRect formerRect = std::exchange(m_rectOverflow, CRect(0, 0, 0, 0));
+    m_iFirstOverflow = -1;
+    CRect client;
+    GetClientRect(&client);
+    const auto endOf = [bHorz](const CRect& rect) { return bHorz ? rect.right : rect.bottom; };
+    LONG end = 0;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position != nullptr;) {
+        end = std::max(end, endOf(static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position))->m_rect));
+    }
+    if (GetParentDockSite() == nullptr || end <= endOf(client)) {
+        return;
+    }
+    m_rectOverflow = client;
+    (bHorz ? m_rectOverflow.left : m_rectOverflow.top) = std::max(0L, endOf(client) - Scaled(kOverflowSize));
+    const LONG room = bHorz ? m_rectOverflow.left : m_rectOverflow.top;
+    int index = 0;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position != nullptr; ++index) {
+        auto& button = *static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position));
+        if (m_iFirstOverflow < 0 && endOf(button.m_rect) > room) {
+            m_iFirstOverflow = index;
+        }
+        if (m_iFirstOverflow >= 0) {
+            button.SetRect(CRect(0, 0, 0, 0));
+        }
+    }
+    if (m_rectOverflow != formerRect) {
+        InvalidateRect(formerRect);
+        InvalidateRect(m_rectOverflow);
+    }
+}
+
+void CMFCToolBar::DrawOverflow(CDC* pDC, BOOL bHorz) {
+    if (m_rectOverflow.IsRectEmpty()) {
+        return;
+    }
+    CMFCToolBarButton face;
+    const auto state = m_bOverflowHot ? CMFCVisualManager::ButtonsIsHighlighted : CMFCVisualManager::ButtonsIsRegular;
+    if (m_bOverflowHot) {
+        CMFCVisualManager::GetInstance()->OnFillButtonInterior(pDC, &face, m_rectOverflow, state);
+        CMFCVisualManager::GetInstance()->OnDrawButtonBorder(pDC, &face, m_rectOverflow, state);
+    }
+    CPen pen(PS_SOLID, 1, CMFCVisualManager::GetInstance()->GetToolbarButtonTextColor(&face, state));
+    const fx::DcSelection selected(pDC->m_hDC, pen.m_hObject);
+    DrawChevron(*pDC, m_rectOverflow.CenterPoint(), Scaled(kChevronSize), bHorz != FALSE);
+}
+
+BOOL CMFCToolBar::OnOverflowMouse(UINT nMessage, CPoint point) {
+    const BOOL isOver = nMessage != WM_MOUSELEAVE && m_rectOverflow.PtInRect(point);
+    if (isOver != m_bOverflowHot) {
+        m_bOverflowHot = isOver;
+        InvalidateRect(m_rectOverflow);
+    }
+    return isOver && nMessage == WM_LBUTTONDOWN && OpenOverflowMenu();
+}
+
+BOOL CMFCToolBar::OpenOverflowMenu() {
+    if (m_rectOverflow.IsRectEmpty()) {
+        return FALSE;
+    }
+    std::vector<std::unique_ptr<CMFCToolBarMenuButton>> rows;
+    int index = 0;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position != nullptr; ++index) {
+        const auto& button = *static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position));
+        if (index >= m_iFirstOverflow && !button.IsHidden() && button.IsVisible()) {
+            const bool isSeparator = (button.m_nStyle & TBBS_SEPARATOR) != 0;
+            rows.push_back(isSeparator ? nullptr : RowFor(button));
+        }
+    }
+    CRect place = m_rectOverflow;
+    ClientToScreen(&place);
+    auto* const menu = new OverflowMenu(*this);
+    if (!menu->Create(this, IsHorizontal() ? place.left : place.right, IsHorizontal() ? place.bottom : place.top,
+                      nullptr)) {
+        return FALSE;
+    }
+    menu->SetMessageWnd(GetCommandTarget());
+    for (const auto& row : rows) {
+        if (row != nullptr) {
+            menu->InsertItem(*row);
+        } else if (menu->GetMenuItemCount() > 0) {
+            menu->InsertSeparator();
+        }
+    }
+    menu->RecalcLayout();
+    return TRUE;
+}
