@@ -1,7 +1,9 @@
 #include "afxwinappex.h"
 
 #include "afxcontextmenumanager.h"
+#include "afxframewndex.h"
 #include "afxkeyboardmanager.h"
+#include "afxMDIFrameWndEx.h"
 #include "afxtooltipmanager.h"
 #include "fx/state_store.h"
 
@@ -228,6 +230,42 @@ CContextMenuManager* CWinAppEx::GetContextMenuManager() {
 
 BOOL CWinAppEx::ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd) {
     return GetContextMenuManager()->ShowPopupMenu(uiMenuResId, point.x, point.y, pWnd);
+}
+
+BOOL CWinAppEx::LoadState(LPCTSTR lpszSectionName, CFrameImpl* pFrameImpl) {
+    if (lpszSectionName != nullptr) {
+        SetRegistryBase(lpszSectionName);
+    }
+    PreLoadState();
+    const BOOL isLoaded = pFrameImpl == nullptr || pFrameImpl->LoadState();
+    LoadCustomState();
+    return isLoaded;
+}
+
+BOOL CWinAppEx::LoadState(CMDIFrameWndEx* pFrame, LPCTSTR lpszSectionName) {
+    return LoadState(lpszSectionName, &pFrame->GetFrameImpl());
+}
+
+BOOL CWinAppEx::LoadState(CFrameWndEx* pFrame, LPCTSTR lpszSectionName) {
+    return LoadState(lpszSectionName, &pFrame->GetFrameImpl());
+}
+
+BOOL CWinAppEx::SaveState(LPCTSTR lpszSectionName, CFrameImpl* pFrameImpl) {
+    if (lpszSectionName != nullptr) {
+        SetRegistryBase(lpszSectionName);
+    }
+    PreSaveState();
+    const BOOL isSaved = pFrameImpl == nullptr || pFrameImpl->SaveState();
+    SaveCustomState();
+    return isSaved;
+}
+
+BOOL CWinAppEx::SaveState(CMDIFrameWndEx* pFrame, LPCTSTR lpszSectionName) {
+    return SaveState(lpszSectionName, &pFrame->GetFrameImpl());
+}
+
+BOOL CWinAppEx::SaveState(CFrameWndEx* pFrame, LPCTSTR lpszSectionName) {
+    return SaveState(lpszSectionName, &pFrame->GetFrameImpl());
 }
 
 BOOL CWinAppEx::OnViewDoubleClick(CWnd*, int) { return FALSE; }

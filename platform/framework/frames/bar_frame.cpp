@@ -105,6 +105,11 @@ BOOL BarFrameOf<Base>::IsMenuBarAvailable() const {
 }
 
 template <class Base>
+CFrameImpl& BarFrameOf<Base>::GetFrameImpl() {
+    return m_Impl;
+}
+
+template <class Base>
 UINT BarFrameOf<Base>::GetDefaultResId() const {
     return m_Impl.m_defaultResourceId;
 }

@@ -73,6 +73,11 @@ CBasePane* DockingFrameOf<Base>::PaneFromPoint(CPoint point, int nSensitivity, b
 }
 
 template <class Base>
+void DockingFrameOf<Base>::EnableLoadDockState(BOOL bEnable) {
+    m_dockManager.DisableRestoreDockState(!bEnable);
+}
+
+template <class Base>
 BOOL DockingFrameOf<Base>::IsPointNearDockSite(CPoint point, DWORD& dwBarAlignment, BOOL& bOuterEdge) const {
     return m_dockManager.IsPointNearDockSite(point, dwBarAlignment, bOuterEdge);
 }

@@ -77,6 +77,8 @@ public:
     void DockAt(CPane& pane, const panes::RowPlace& place, int offset);
     /// Puts a pane back where it was: into the row with that number when it is still there, else into a new one.
     void DockBack(CPane& pane, int rowId, int rowIndex, int offset);
+    /// Behind the last pane of the last row, or in a new row after all.
+    void Append(CPane& pane, bool inNewRow, int offset);
     /// The pane that gets its place before the others of its row; NULL: none.
     void SetMovedPane(const CPane* pane);
     /// The places that panes were pushed to by the moved one become their own.

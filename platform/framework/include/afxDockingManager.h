@@ -16,7 +16,8 @@ class CPaneFrameWnd;
 
 namespace panes {
 class PaneDrag;
-}
+struct SavedPane;
+} // namespace panes
 
 /// Owns the order and the layout of one frame's panes. Not the panes themselves: each registers itself when it is
 /// created and takes itself out when it is destroyed. Panes at top and bottom reach over the whole width, those at left
@@ -111,6 +112,9 @@ public:
     virtual BOOL LoadState(LPCTSTR lpszProfileName = NULL, UINT uiID = (UINT)-1);
     virtual BOOL SaveState(LPCTSTR lpszProfileName = NULL, UINT uiID = (UINT)-1);
 
+    /// LoadState leaves the panes where they are and restores only what they keep themselves.
+    void DisableRestoreDockState(BOOL bDisable = TRUE) { m_isRestoreDisabled = bDisable != FALSE; }
+
     static AFX_DOCK_TYPE GetDockingMode() { return m_dockModeGlobal; }
     static void SetDockingMode(AFX_DOCK_TYPE dockMode, AFX_SMARTDOCK_THEME theme = AFX_SDT_DEFAULT);
 
@@ -129,6 +133,7 @@ private:
     std::vector<CBasePane*> PanesToPlace() const;
     BOOL LoadPlaces(LPCTSTR profile, UINT id);
     BOOL SavePlaces(LPCTSTR profile, UINT id);
+    void TakePlaces(const std::vector<panes::SavedPane>& state);
     HWND DocumentFocus() const;
 
     DWORD m_dwEnabledAlignment = 0;
@@ -141,6 +146,7 @@ private:
     CObList m_hiddenPanes; ///< by ShowPanes(FALSE)
     HWND m_documentFocus = NULL;
     bool m_hasPaneMenu = false;
+    bool m_isRestoreDisabled = false;
     bool m_paneMenuOfToolbarsOnly = false;
     UINT m_customizeCommand = 0;
     CString m_customizeText;

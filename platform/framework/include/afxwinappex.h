@@ -6,6 +6,8 @@
 
 class CContextMenuManager;
 class CFrameImpl;
+class CFrameWndEx;
+class CMDIFrameWndEx;
 class CKeyboardManager;
 class CTooltipManager;
 
@@ -59,6 +61,15 @@ public:
     /// Shows a menu resource at a screen point by GetContextMenuManager; its commands go to pWnd's frame. FALSE when
     /// the menu is missing.
     virtual BOOL ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd);
+
+    /// Where the frame's panes are and what they keep, below lpszSectionName or, without one, the present base section.
+    /// FALSE: nothing was kept, or a part of it is damaged; that part is as the program made it, the rest is restored.
+    BOOL LoadState(CMDIFrameWndEx* pFrame, LPCTSTR lpszSectionName = NULL);
+    BOOL LoadState(CFrameWndEx* pFrame, LPCTSTR lpszSectionName = NULL);
+    virtual BOOL LoadState(LPCTSTR lpszSectionName = NULL, CFrameImpl* pFrameImpl = NULL);
+    virtual BOOL SaveState(LPCTSTR lpszSectionName = NULL, CFrameImpl* pFrameImpl = NULL);
+    BOOL SaveState(CMDIFrameWndEx* pFrame, LPCTSTR lpszSectionName = NULL);
+    BOOL SaveState(CFrameWndEx* pFrame, LPCTSTR lpszSectionName = NULL);
 
     virtual BOOL OnViewDoubleClick(CWnd* pWnd, int iViewId);
     virtual BOOL OnWorkspaceIdle(CWnd*);

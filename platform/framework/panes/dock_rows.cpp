@@ -178,6 +178,13 @@ void DockRows::MoveTo(PaneKey key, RowPlace place, int offset, int room) {
     AddAt(moved, place, room);
 }
 
+void DockRows::Append(const DockedPane& pane, bool inNewRow) {
+    if (inNewRow || m_rows.empty() || !CanTake(m_rows.back(), pane)) {
+        InsertRow(m_rows.size());
+    }
+    m_rows.back().panes.push_back(pane);
+}
+
 void DockRows::Remove(PaneKey key) {
     const std::size_t index = RowOf(key);
     if (index < m_rows.size()) {

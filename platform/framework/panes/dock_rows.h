@@ -65,6 +65,9 @@ public:
     void AddAt(const DockedPane& pane, RowPlace place, int room);
     /// The same for a pane that is in a row already; its own row stays when it lies there alone and nothing changes.
     void MoveTo(PaneKey key, RowPlace place, int offset, int room);
+    /// Behind all panes of the last row, with the offset that it brings; in a new row when that is wanted, or the row
+    /// cannot take it.
+    void Append(const DockedPane& pane, bool inNewRow);
     void Remove(PaneKey key);
     /// Puts the panes that flow into rows anew, in the order in which they stand.
     void Flow(int room);

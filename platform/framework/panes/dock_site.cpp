@@ -139,6 +139,15 @@ void CDockSite::DockBack(CPane& pane, int rowId, int rowIndex, int offset) {
     }
 }
 
+void CDockSite::Append(CPane& pane, bool inNewRow, int offset) {
+    m_rows->Remove(KeyOf(&pane));
+    Adopt(pane);
+    panes::DockedPane described = Describe(pane);
+    described.offset = offset;
+    m_rows->Append(described, inNewRow);
+    UpdateRowObjects();
+}
+
 void CDockSite::RemovePane(CPane* pWnd, AFX_DOCK_METHOD) {
     if (const POSITION position = m_lstControlBars.Find(pWnd)) {
         m_lstControlBars.RemoveAt(position);

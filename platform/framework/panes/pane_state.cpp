@@ -54,8 +54,8 @@ BOOL CPane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
     }
     const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"Pane");
     const DWORD alignment = static_cast<DWORD>(store->ReadInt(section, L"RecentAlignment", 0));
-    // Only sides that the host still allows are taken back.
-    if ((alignment & m_dwEnabledAlignment) != 0) {
+    // Only sides that the host still allows are taken back; where a docked pane lies the docking manager knows.
+    if ((alignment & m_dwEnabledAlignment) != 0 && GetParentDockSite() == nullptr && !IsFloating()) {
         SetPaneAlignment(alignment);
     }
     return CBasePane::LoadState(lpszProfileName, nIndex, uiID);

@@ -156,6 +156,19 @@ TEST(DockRows, ARowIsFoundByItsDistanceFromTheEdge) {
     }
 }
 
+TEST(DockRows, AnAppendedPaneKeepsItsOrderWhateverItsOffset) {
+    DockRows rows;
+    rows.Append(Pane(1, 20, 60), false);
+    rows.Append(Pane(2, 20, 10), false);
+    rows.Append(Pane(3, 20, 10), true);
+    EXPECT_EQ(Shown(rows), "1@60+20 2@80+20 | 3@10+20");
+    DockedPane alone = Pane(4, 20);
+    alone.wantsWholeRow = true;
+    rows.Append(alone, false);
+    rows.Append(Pane(5, 20), false);
+    EXPECT_EQ(Shown(rows), "1@60+20 2@80+20 | 3@10+20 | 4@0+100 | 5@0+20");
+}
+
 TEST(DockRows, APlaceInFormerRowsIsFoundInThePresentOnes) {
     const DockRows before = TwoRows(); // "1 2 | 3"
     DockRows now = before;

@@ -115,6 +115,9 @@ PROTECTED_INTERFACE_OF(CFrameWnd) {
     MEMBER(CBasePane*, GetPane, (UINT));                                                                               \
     MEMBER(BOOL, InsertPane, (CBasePane*, CBasePane*, BOOL));                                                          \
     CALL(InsertPane, CBasePane*, CBasePane*);                                                                          \
+    MEMBER(BOOL, IsPointNearDockSite, (CPoint, DWORD&, BOOL&) const);                                                  \
+    VIRTUAL(BOOL, OnMoveMiniFrame, (CWnd*));                                                                           \
+    MEMBER(CBasePane*, PaneFromPoint, (CPoint, int, bool, CRuntimeClass*) const);                                      \
     VIRTUAL(void, RecalcLayout, (BOOL));                                                                               \
     CALL(RecalcLayout);                                                                                                \
     MEMBER(void, RemovePaneFromDockManager, (CBasePane*, BOOL, BOOL, BOOL, CBasePane*));                               \
@@ -122,6 +125,9 @@ PROTECTED_INTERFACE_OF(CFrameWnd) {
 
 #define MAIN_FRAME_WITH_PANES                                                                                          \
     FRAME_WITH_PANES;                                                                                                  \
+    MEMBER(void, EnableLoadDockState, (BOOL));                                                                         \
+    CALL(EnableLoadDockState);                                                                                         \
+    VIRTUAL(BOOL, OnCloseMiniFrame, (CPaneFrameWnd*));                                                                 \
     MEMBER(void, EnablePaneMenu, (BOOL, UINT, const CString&, UINT, BOOL, BOOL));                                      \
     CALL(EnablePaneMenu, BOOL, UINT, const CString&, UINT);                                                            \
     MEMBER(CMFCPopupMenu*, GetActivePopup, () const);                                                                  \

@@ -137,12 +137,25 @@ LEFT_OUT("a frame over the whole screen", CFrameWndEx, EnableFullScreenMainMenu,
 LEFT_OUT("a frame over the whole screen", CMDIFrameWndEx, EnableFullScreenMainMenu, EnableFullScreenMode, IsFullScreen,
          ShowFullScreen)
 
-LEFT_OUT("panes that float, hide by themselves or are dragged", CFrameWndEx, ActiveItemRecalcLayout, AddDockSite, EnableAutoHidePanes, EnableLoadDockState, OnCloseDockingPane, SetDockState)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIFrameWndEx, ActiveItemRecalcLayout, AddDockSite, EnableAutoHidePanes, EnableLoadDockState, OnCloseDockingPane)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CFrameWndEx, ActiveItemRecalcLayout, AddDockSite,
+         EnableAutoHidePanes, OnCloseDockingPane, SetDockState)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIFrameWndEx, ActiveItemRecalcLayout, AddDockSite,
+         EnableAutoHidePanes, OnCloseDockingPane)
 LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIChildWndEx, AddDockSite, EnableAutoHidePanes)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CBasePane, DockPaneUsingRTTI, FillWindowRect, GetPaneRect, IsTooltipTopmost, OnDrawCaption, OnMovePaneDivider, PaneFromPoint, SetPaneRect, SetRestoredFromRegistry)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CPane, AllocElements, DockByMouse, DockPaneStandard, GetHotSpot, GetResizeStep, GetVirtualRect, IsChangeState, MovePane, PrepareToDock, SetActiveInGroup, SetDockState, SetVirtualRect, StretchPaneDeferWndPos, ToggleAutoHide, UpdateVirtualRect, m_bHandleMinSize, OnAfterFloat, OnBeforeFloat)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CDockingManager, AddDockSite, AdjustPaneFrames, AdjustRectToClientArea, AlignAutoHidePane, AutoHidePane, BringBarsToTop, BuildPanesMenu, CalcExpectedDockedRect, DeterminePaneAndStatus, DisableRestoreDockState, EnableAutoHidePanes, EnableDockSiteMenu, FixupVirtualRects, GetEnabledAutoHideAlignment, GetSmartDockingManager, GetSmartDockingManagerPermanent, GetSmartDockingParams, GetSmartDockingTheme, HideAutoHidePanes, InsertDockSite, IsDockSiteMenu, OnActivateFrame, OnClosePopupMenu, OnMoveMiniFrame, ProcessPaneContextMenuCommand, ReleaseEmptyPaneContainers, ReplacePane, ResortMiniFramesForZOrder, SetAutohideZOrder, SetDockState, SetSmartDockingParams, ShowDelayShowMiniFrames, StartSDocking, StopSDocking, m_nTimeOutBeforeDockingBarDock, m_nTimeOutBeforeToolBarDock)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CBasePane, DockPaneUsingRTTI, FillWindowRect,
+         GetPaneRect, IsTooltipTopmost, OnDrawCaption, OnMovePaneDivider, PaneFromPoint, SetPaneRect,
+         SetRestoredFromRegistry)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CPane, AllocElements, DockByMouse, DockPaneStandard,
+         GetHotSpot, GetResizeStep, GetVirtualRect, IsChangeState, MovePane, PrepareToDock, SetActiveInGroup,
+         SetDockState, SetVirtualRect, StretchPaneDeferWndPos, ToggleAutoHide, UpdateVirtualRect, m_bHandleMinSize)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CDockingManager, AddDockSite, AdjustPaneFrames,
+         AdjustRectToClientArea, AlignAutoHidePane, AutoHidePane, BringBarsToTop, BuildPanesMenu,
+         CalcExpectedDockedRect, DeterminePaneAndStatus, EnableAutoHidePanes, EnableDockSiteMenu, FixupVirtualRects,
+         GetEnabledAutoHideAlignment, GetSmartDockingManager, GetSmartDockingManagerPermanent, GetSmartDockingParams,
+         GetSmartDockingTheme, HideAutoHidePanes, InsertDockSite, IsDockSiteMenu, OnActivateFrame, OnClosePopupMenu,
+         OnMoveMiniFrame, ProcessPaneContextMenuCommand, ReleaseEmptyPaneContainers, ReplacePane,
+         ResortMiniFramesForZOrder, SetAutohideZOrder, SetDockState, SetSmartDockingParams, ShowDelayShowMiniFrames,
+         StartSDocking, StopSDocking, m_nTimeOutBeforeDockingBarDock, m_nTimeOutBeforeToolBarDock)
 LEFT_OUT("panes that float, hide by themselves or are dragged", CRecentDockSiteInfo, GetRecentDefaultPaneDivider,
          GetRecentDockedPercent, GetRecentListOfPanes, GetRecentPaneContainer, GetRecentTabContainer, IsRecentLeftPane,
          SaveListOfRecentPanes, StoreDockInfo)
@@ -199,7 +212,7 @@ LEFT_OUT("state kept between runs", CMFCToolBarButton, SaveBarState)
 LEFT_OUT("state kept between runs", CMFCToolBarMenuButton, SaveBarState)
 LEFT_OUT("state kept between runs", CMFCPopupMenu, SaveState)
 LEFT_OUT("state kept between runs", CContextMenuManager, LoadState, ResetState, SaveState)
-LEFT_OUT("state kept between runs", CWinAppEx, LoadState, SaveState, ReloadWindowPlacement)
+LEFT_OUT("state kept between runs", CWinAppEx, ReloadWindowPlacement)
 LEFT_OUT("state kept between runs", CKeyboardManager, LoadState, ResetAll, SaveState)
 
 LEFT_OUT("looks of controls that the framework does not have", CMFCBaseVisualManager, DrawStatusBarProgress,
@@ -322,7 +335,6 @@ class CMFCRibbonUndoButton;
 class CMFCRibbonStatusBar;
 class CMFCBaseTabCtrl;
 class CDockablePane;
-class CPaneFrameWnd;
 class CPaneDivider;
 class CMenuImages;
 class CMFCRibbonGalleryIcon;
@@ -343,7 +355,7 @@ LEFT_OUT("an edit window of its own, customisation and prompts of a combo box ar
          CMFCToolBarComboBoxButton, CreateEdit, GetPrompt, GetItemDataPtrAll)
 LEFT_OUT_CLASSES("bars of the next steps", CMFCRibbonStatusBar)
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
-                 CPaneFrameWnd, CPaneDivider)
+                 CPaneDivider)
 LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)
 LEFT_OUT_CLASSES("ribbon elements that nobody uses", CMFCRibbonColorButton, CMFCRibbonFontComboBox, CMFCRibbonGallery,
                  CMFCRibbonGalleryIcon, CMFCRibbonGalleryMenuButton, CMFCRibbonLinkCtrl, CMFCRibbonMiniToolBar,

@@ -141,6 +141,14 @@ INTERFACE_OF(CWinAppEx) {
     MEMBER(void, EnableLoadWindowPlacement, (BOOL));
     CALL(EnableLoadWindowPlacement);
     VIRTUAL(int, ExitInstance, ());
+    MEMBER(BOOL, LoadState, (CMDIFrameWndEx*, LPCTSTR));
+    MEMBER(BOOL, LoadState, (CFrameWndEx*, LPCTSTR));
+    VIRTUAL(BOOL, LoadState, (LPCTSTR, CFrameImpl*));
+    CALL(LoadState);
+    VIRTUAL(BOOL, SaveState, (LPCTSTR, CFrameImpl*));
+    CALL(SaveState);
+    MEMBER(BOOL, SaveState, (CMDIFrameWndEx*, LPCTSTR));
+    MEMBER(BOOL, SaveState, (CFrameWndEx*, LPCTSTR));
     MEMBER(BOOL, GetBinary, (LPCTSTR, LPBYTE*, UINT*));
     MEMBER(int, GetDataVersion, () const);
     MEMBER(int, GetDataVersionMajor, () const);

@@ -40,6 +40,7 @@ public:
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL ShowInMenuBar(HMENU hMenu) override;
+    CFrameImpl& GetFrameImpl();
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);

@@ -32,6 +32,8 @@ public:
     void ShowPane(CBasePane* pBar, BOOL bShow, BOOL bDelay, BOOL bActivate);
     virtual void AdjustDockingLayout(HDWP hdwp = NULL);
     CBasePane* PaneFromPoint(CPoint point, int nSensitivity, bool bExactBar, CRuntimeClass* pRTCBarType) const;
+    /// Whether LoadState puts the panes back to where they were. TRUE unless this was called.
+    void EnableLoadDockState(BOOL bEnable = TRUE);
     BOOL IsPointNearDockSite(CPoint point, DWORD& dwBarAlignment, BOOL& bOuterEdge) const;
 
 protected:

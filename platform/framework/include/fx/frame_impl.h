@@ -18,6 +18,9 @@ public:
 
     /// Before the frame's first pane is made.
     bool Create();
+    /// What the frame's panes keep below the application's base section.
+    BOOL LoadState() { return m_dockingManager.LoadState(); }
+    BOOL SaveState() { return m_dockingManager.SaveState(); }
     /// The first ribbon among the panes, else null.
     CMFCRibbonBar* RibbonBar();
     /// The first menu bar among the panes, else null.

@@ -1,0 +1,163 @@
+// Where panes were comes back at the next start; what is damaged leaves the panes where they are.
+#include "tests/ui/docking/docking_fixture.h"
+
+namespace {
+
+constexpr LPCTSTR kBase = L"Docking";
+constexpr LPCTSTR kPlaces = L"DockingManager";
+
+class DockStateTest : public DockingTest {
+protected:
+    DockStateTest() { App().SetRegistryBase(kBase); }
+    ~DockStateTest() override {
+        App().CleanState();
+        App().SetRegistryBase(L"Workspace");
+    }
+    static CWinAppEx& App() { return *static_cast<CWinAppEx*>(AfxGetApp()); }
+
+    void ArrangeForSaving() {
+        Dock(m_panes[0]);
+        DockAt(m_panes[1], AFX_IDW_DOCKBAR_TOP, {250, 2});
+        m_frame->ShowPane(&m_panes[2], TRUE, TRUE, FALSE);
+        m_panes[2].FloatPane(CRect(OnScreen(120, 130), CSize(0, 0)));
+        m_frame->ShowPane(&m_panes[0], FALSE, FALSE, FALSE);
+    }
+    void ArrangeOtherwise() {
+        m_frame->ShowPane(&m_panes[0], TRUE, FALSE, FALSE);
+        Dock(m_panes[0], AFX_IDW_DOCKBAR_LEFT);
+        Dock(m_panes[1], AFX_IDW_DOCKBAR_BOTTOM);
+        Dock(m_panes[2], AFX_IDW_DOCKBAR_BOTTOM);
+    }
+    void ExpectTheOtherArrangement() {
+        EXPECT_EQ(Rows(CBRS_ALIGN_LEFT), "1");
+        EXPECT_EQ(Rows(CBRS_ALIGN_BOTTOM), "2 3");
+        EXPECT_EQ(Rows(CBRS_ALIGN_TOP), "");
+    }
+    /// Replaces what was saved about the places by `change` of it.
+    template <typename Change>
+    static void Damage(Change change) {
+        LPBYTE data = nullptr;
+        UINT size = 0;
+        ASSERT_TRUE(App().GetSectionBinary(kPlaces, L"Places", &data, &size));
+        const std::unique_ptr<BYTE[]> kept(data);
+        std::vector<BYTE> bytes(data, data + size);
+        change(bytes);
+        ASSERT_TRUE(App().WriteSectionBinary(kPlaces, L"Places", bytes.data(), static_cast<UINT>(bytes.size())));
+    }
+};
+
+TEST_F(DockStateTest, RowsOffsetsMiniFramesAndVisibilityComeBack) {
+    ArrangeForSaving();
+    CRect floating;
+    m_panes[2].GetParentMiniFrame()->GetWindowRect(&floating);
+    ASSERT_TRUE(App().SaveState(m_frame));
+    ArrangeOtherwise();
+    EXPECT_TRUE(App().LoadState(m_frame));
+    EXPECT_EQ(Rows(CBRS_ALIGN_TOP), "1 2");
+    EXPECT_EQ(PlaceOf(m_panes[1]), CRect(250, 0, 350, 24));
+    EXPECT_FALSE(m_panes[0].IsVisible());
+    ASSERT_TRUE(m_panes[2].IsFloating());
+    CRect restored;
+    m_panes[2].GetParentMiniFrame()->GetWindowRect(&restored);
+    EXPECT_EQ(restored, floating);
+    EXPECT_EQ(PlaceOf(m_client), CRect(0, 24, 600, 400));
+}
+
+TEST_F(DockStateTest, AFloatingPaneStillKnowsWhereItWasDocked) {
+    Dock(m_panes[0]);
+    Dock(m_panes[1], AFX_IDW_DOCKBAR_RIGHT);
+    ASSERT_TRUE(m_panes[1].FloatPane(CRect(OnScreen(120, 130), CSize(0, 0))));
+    ASSERT_TRUE(App().SaveState(m_frame));
+    m_frame->DockPane(&m_panes[1], AFX_IDW_DOCKBAR_BOTTOM);
+    ASSERT_TRUE(App().LoadState(m_frame));
+    ASSERT_TRUE(m_panes[1].IsFloating());
+    m_panes[1].OnProcessDblClk();
+    EXPECT_EQ(Rows(CBRS_ALIGN_RIGHT), "2");
+}
+
+TEST_F(DockStateTest, ManyRowsComeBackInTheirOrder) {
+    Dock(m_panes[0]);
+    DockAt(m_panes[1], AFX_IDW_DOCKBAR_TOP, {30, 60});
+    DockAt(m_panes[2], AFX_IDW_DOCKBAR_TOP, {70, -5});
+    ASSERT_EQ(Rows(CBRS_ALIGN_TOP), "3 | 1 | 2");
+    ASSERT_TRUE(App().SaveState(m_frame));
+    ArrangeOtherwise();
+    ASSERT_TRUE(App().LoadState(m_frame));
+    EXPECT_EQ(Rows(CBRS_ALIGN_TOP), "3 | 1 | 2");
+}
+
+TEST_F(DockStateTest, WithoutAStateThePanesStay) {
+    ArrangeOtherwise();
+    EXPECT_FALSE(App().LoadState(m_frame));
+    ExpectTheOtherArrangement();
+}
+
+TEST_F(DockStateTest, ADamagedStateLeavesThePanesWhereTheyAre) {
+    ArrangeForSaving();
+    const auto damages = std::vector<std::function<void(std::vector<BYTE>&)>>{
+        [](std::vector<BYTE>& bytes) { bytes.pop_back(); },
+        [](std::vector<BYTE>& bytes) { bytes.resize(3); },
+        [](std::vector<BYTE>& bytes) { bytes[20] = static_cast<BYTE>(bytes[20] ^ 1); },
+        [](std::vector<BYTE>& bytes) { std::fill_n(bytes.begin(), 4, BYTE{0xFF}); },
+    };
+    ArrangeOtherwise();
+    for (const auto& damage : damages) {
+        ASSERT_TRUE(App().SaveState(m_frame));
+        Damage(damage);
+        EXPECT_FALSE(App().LoadState(m_frame));
+        ExpectTheOtherArrangement();
+    }
+}
+
+TEST_F(DockStateTest, ADamagedStateOfThePlacesLosesNothingElse) {
+    ArrangeForSaving();
+    ASSERT_TRUE(App().SaveState(m_frame));
+    ArrangeOtherwise();
+    Damage([](std::vector<BYTE>& bytes) { bytes.pop_back(); });
+    EXPECT_FALSE(App().LoadState(m_frame));
+    EXPECT_FALSE(m_panes[0].IsVisible()) << "which the pane keeps itself";
+}
+
+TEST_F(DockStateTest, AStateOfPanesThatAreGoneOrForbiddenIsTakenAsFarAsItGoes) {
+    ArrangeForSaving();
+    ASSERT_TRUE(App().SaveState(m_frame));
+    ArrangeOtherwise();
+    m_panes[0].DestroyWindow();
+    m_panes[1].EnableDocking(CBRS_ALIGN_BOTTOM);
+    EXPECT_TRUE(App().LoadState(m_frame));
+    EXPECT_EQ(Rows(CBRS_ALIGN_BOTTOM), "2") << "it may not go to the top";
+    EXPECT_TRUE(m_panes[2].IsFloating());
+}
+
+TEST_F(DockStateTest, APaneThatTheStateDoesNotKnowKeepsItsRow) {
+    Dock(m_panes[0]);
+    ASSERT_TRUE(App().SaveState(m_frame));
+    Dock(m_panes[1]);
+    Dock(m_panes[0], AFX_IDW_DOCKBAR_BOTTOM);
+    ASSERT_TRUE(App().LoadState(m_frame));
+    EXPECT_EQ(Rows(CBRS_ALIGN_TOP), "2 | 1");
+}
+
+TEST_F(DockStateTest, AMiniFrameThatWasOnAnotherScreenComesBackOnToThisOne) {
+    ArrangeForSaving();
+    m_panes[2].FloatPane(CRect(CPoint(30000, 20000), CSize(200, 100)));
+    ASSERT_TRUE(App().SaveState(m_frame));
+    ASSERT_TRUE(App().LoadState(m_frame));
+    CRect window;
+    m_panes[2].GetParentMiniFrame()->GetWindowRect(&window);
+    EXPECT_NE(::MonitorFromRect(window, MONITOR_DEFAULTTONULL), nullptr);
+}
+
+TEST_F(DockStateTest, AFrameThatDoesNotWantItLeavesThePanesWhereTheyAre) {
+    ArrangeForSaving();
+    ASSERT_TRUE(App().SaveState(m_frame));
+    ArrangeOtherwise();
+    m_frame->EnableLoadDockState(FALSE);
+    App().LoadState(m_frame);
+    ExpectTheOtherArrangement();
+    m_frame->EnableLoadDockState();
+    App().LoadState(m_frame);
+    EXPECT_EQ(Rows(CBRS_ALIGN_TOP), "1 2");
+}
+
+} // namespace
