@@ -78,7 +78,7 @@ TEST_F(DockStateTest, AFloatingPaneStillKnowsWhereItWasDocked) {
 TEST_F(DockStateTest, ManyRowsComeBackInTheirOrder) {
     Dock(m_panes[0]);
     DockAt(m_panes[1], AFX_IDW_DOCKBAR_TOP, {30, 60});
-    DockAt(m_panes[2], AFX_IDW_DOCKBAR_TOP, {70, -5});
+    DockAt(m_panes[2], AFX_IDW_DOCKBAR_TOP, {70, -12});
     ASSERT_EQ(Rows(CBRS_ALIGN_TOP), "3 | 1 | 2");
     ASSERT_TRUE(App().SaveState(m_frame));
     ArrangeOtherwise();
