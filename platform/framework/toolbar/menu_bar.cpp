@@ -209,6 +209,9 @@ void CMFCMenuBar::AdjustLocations() {
     CRect client;
     GetClientRect(&client);
     if (IsHorizontal() && client.Width() > 0) {
+        // It breaks its buttons into rows where another bar leaves some out.
+        m_rectOverflow.SetRectEmpty();
+        m_iFirstOverflow = -1;
         PlaceButtons(client.Width() - m_rectBorders.left - m_rectBorders.right, TRUE, TRUE);
     }
     PlaceSystemButtons();

@@ -33,7 +33,7 @@ protected:
             m_frame->ShowPane(&pane, Number(3) != 0, Number(2) == 0, FALSE);
             break;
         case 5:
-            Resize(160 + Number(600), 60 + Number(400));
+            Resize(400 + Number(400), 400 + Number(200));
             break;
         case 6:
             pane.OnProcessDblClk();
