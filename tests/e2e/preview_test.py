@@ -46,6 +46,8 @@ FILES = {
   </row>
 </ribbon>
 """,
+    "cfg/status.xml": """<ribbon><row KEYWORD="StatusEx_btns"><element KEYWORD="Large" NAME="" TYPE="label"/>
+<element KEYWORD="Separator"/><element KEYWORD="Small" NAME="" TYPE="SLIDER"/><element KEYWORD="Unknown"/></row></ribbon>""",
     "cfg/other.xml": "<ribbon><row><category KEYWORD='Other' NAME=''/></row></ribbon>",
     "cfg/ribbon.txt": "<ribbon><row><category KEYWORD='Other' NAME=''/></row></ribbon>",
     "lang/en/table.xlf": """<xliff xmlns="urn:oasis:names:tc:xliff:document:2.0" version="2.0" srcLang="en"><file id="RibbonBarCfg">
@@ -193,6 +195,19 @@ class DumpOfTwoFiles(OwnInstallation):
             self.assertEqual(got["ribbon"]["quickAccess"], quick)
 
 
+    def test_an_application_has_the_elements_of_its_status_row_in_a_status_bar(self):
+        files = ("--ribbon", FIRST_FILE, "--ribbon", SECOND_FILE, "--ribbon", r"cfg\status.xml")
+        self.assertEqual(self.dump(*files)["status"], {"app": "", "elements": [], "extended": []})
+        status = self.dump(*files, "--app", r"cfg\status.xml")["status"]
+        self.assertEqual((status["app"], status["elements"]), (r"cfg\status.xml", []))
+        self.assertEqual([(e["class"], e["id"], e["text"]) for e in status["extended"]],
+                         [("CMFCRibbonLabelEx", 41001, "Enlarge"), ("CMFCRibbonSeparator", 0, ""),
+                          ("CMFCRibbonSliderSync", 41002, "Reduce")])
+        edges = [edge for e in status["extended"] for edge in (e["rect"][0], e["rect"][2])]
+        self.assertEqual(edges, sorted(edges))
+        self.assertGreater(edges[0], 0)
+
+
 class ExitCode1(OwnInstallation):
     def check(self, line, *arguments, built=("The map", "No command")):
         result, got = self.preview(*arguments)
@@ -205,6 +220,9 @@ class ExitCode1(OwnInstallation):
 
     def test_a_path_that_is_not_there(self):
         self.check("no path named nowhere", "--lang", "en", "--path", "nowhere")
+
+    def test_an_application_that_is_not_there(self):
+        self.check("no status row in a ribbon file named nowhere", "--lang", "en", "--app", "nowhere")
 
     def test_a_category_that_the_path_does_not_show(self):
         self.check("no category named The map", "--lang", "en", "--path", "Ribbon-B", "--category", "The map")
