@@ -18,7 +18,8 @@ namespace {
 
 /// The command whose name a layer goes by, in the order of MapLayer.
 constexpr std::array<const char*, static_cast<std::size_t>(MapLayer::Count)> kLayerKeys = {
-    "LayerRelief", "LayerCoast", "LayerLakes", "LayerGraticule", "LayerCities", "LayerNames", "LayerScaleBar"};
+    "LayerRelief", "LayerCoast", "LayerLakes",    "LayerGraticule",
+    "LayerCities", "LayerNames", "LayerScaleBar", "LayerOpened"};
 /// The same for the texts on the map, in the order of MapLabel.
 constexpr std::array<const char*, static_cast<std::size_t>(MapLabel::Count)> kLabelKeys = {
     "LayerGraticule", "LayerNames", "LayerScaleBar"};

@@ -2,6 +2,7 @@
 
 #include "add_ribbon_bar.h"
 #include "frame_dump.h"
+#include "geo_json.h"
 #include "host_messages.h"
 #include "library_context.h"
 #include "menu_event.h"
@@ -107,6 +108,7 @@ IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
 ON_WM_CREATE()
 ON_WM_SETFOCUS()
+ON_WM_DROPFILES()
 ON_WM_HELPINFO()
 ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
@@ -133,6 +135,7 @@ CMainFrame::CMainFrame(const DemoOptions& options)
     dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));
     dispatcher->addReactor(MakeLayerReactor(m_state, *this));
     dispatcher->addReactor(MakePictureReactor(m_state, *this));
+    dispatcher->addReactor(MakeFileReactor(m_state, *this));
     dispatcher->addReactor(MakeModeReactor(m_state, *this));
     dispatcher->addReactor(MakeSettingsReactor(*this));
     m_state.SetMode(WorkingModes::ModeOf(options.mode));
@@ -167,6 +170,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
         m_status->ShowPointer(m_controls.PointerText());
     });
     m_map.SetWorkListener([this](bool isAtWork) { m_status->ShowWork(isAtWork); });
+    DragAcceptFiles();
     return 0;
 }
 
@@ -195,6 +199,45 @@ BOOL CMainFrame::OnHelpInfo(HELPINFO*) {
 }
 
 void CMainFrame::OnSetFocus(CWnd*) { m_map.SetFocus(); }
+
+void CMainFrame::OnDropFiles(HDROP drop) {
+    const UINT count = ::DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
+    std::vector<std::wstring> paths;
+    for (UINT i = 0; i < count; ++i) {
+        std::wstring path(::DragQueryFileW(drop, i, nullptr, 0) + 1, L'\0'); // with the NUL that is written
+        path.resize(::DragQueryFileW(drop, i, path.data(), static_cast<UINT>(path.size())));
+        paths.push_back(std::move(path));
+    }
+    ::DragFinish(drop);
+    for (const std::wstring& path : paths) {
+        OpenMapFile(path);
+    }
+    TakeChange();
+}
+
+void CMainFrame::OpenMapFile() {
+    const std::wstring path = AskForMapFile(GetSafeHwnd(), ViewerText("MapFileFilter"));
+    if (!path.empty()) {
+        OpenMapFile(path);
+    }
+}
+
+void CMainFrame::OpenMapFile(const std::wstring& path) {
+    // In the order of GeoJsonError.
+    static constexpr std::array<const char*, 5> kReasons = {"", "MapFileUnreadable", "MapFileSyntax", "MapFileFormat",
+                                                            "MapFileEmpty"};
+    const GeoJsonResult read = ReadGeoJsonFile(path);
+    if (read.features) {
+        m_state.Open(read.features, read.features->box);
+        ShowState();
+        return;
+    }
+    std::wstring message = WithName(ViewerText(kReasons[static_cast<std::size_t>(read.error)]), path);
+    if (const std::size_t mark = message.find(L"%d"); mark != std::wstring::npos) {
+        message.replace(mark, 2, std::to_wstring(read.offset));
+    }
+    QKMessageBox(message, QK_MESSAGE_WARNING, GetSafeHwnd());
+}
 
 void CMainFrame::BuildRibbon() {
     m_place = nullptr;
@@ -377,6 +420,7 @@ void CMainFrame::WriteRecord() {
                                        {"layerStyles", std::move(styles)},
                                        {"labelsLit", std::move(labels)},
                                        {"marks", std::move(marks)},
+                                       {"opened", m_state.Opened().size()},
                                        {"page", m_state.Page() == PageShape::Portrait ? "portrait" : "landscape"},
                                        {"palette", static_cast<int>(m_state.Palette())},
                                        {"finished", m_map.IsFinished()}}},

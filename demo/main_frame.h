@@ -35,6 +35,8 @@ public:
     BOOL CreateFrame();
     /// Writes what is shown to the file of the option --record, if there is one and it says something else so far.
     void WriteRecord();
+    /// Shows what a GeoJSON file holds, or says why it cannot.
+    void OpenMapFile(const std::wstring& path);
     /// Waits until the map is drawn, for pictures of the window.
     void FinishMap() { m_map.Finish(); }
 
@@ -42,6 +44,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg void OnSetFocus(CWnd* earlier);
+    afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnConfiguredCommand(UINT id);
     afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
     afx_msg LRESULT OnCategoryChanged(WPARAM, LPARAM);
@@ -89,6 +92,7 @@ private:
     bool IsQuickAccessBelow() const override;
     void CopyPicture() override;
     void SavePicture() override;
+    void OpenMapFile() override;
     void CopyText(const std::wstring& text) override;
 
     void ShowIcon();

@@ -1,6 +1,7 @@
 #include "map_painter.h"
 
 #include "bitmap_info.h"
+#include "geo_json.h"
 #include "mode_overlay.h"
 
 #include <algorithm>
@@ -29,22 +30,24 @@ struct Colors {
     Color text;
     Color halo;
     Color city;
+    Color opened;
     BYTE reliefVeil; ///< How much of the sea colour lies over the relief picture, 0 to 255.
 };
 
 // One row a palette, in the order of MapPalette.
 const std::array<Colors, 3> kColors = {{
     {Color(0xFFA9C9E4), Color(0xFFF3EFE3), Color(0xFF4C6A86), Color(0xFFA9CBE8), Color(0xFF5B83A8), Color(0x60335577),
-     Color(0xFF1E2A36), Color(0xD8FFFFFF), Color(0xFFC0392B), 0},
+     Color(0xFF1E2A36), Color(0xD8FFFFFF), Color(0xFFC0392B), Color(0xFF8E24AA), 0},
     {Color(0xFF10202F), Color(0xFF22364A), Color(0xFF5F8FB4), Color(0xFF17304A), Color(0xFF467396), Color(0x60A8C6E0),
-     Color(0xFFDDE9F4), Color(0xC0101820), Color(0xFFFFC04D), 168},
+     Color(0xFFDDE9F4), Color(0xC0101820), Color(0xFFFFC04D), Color(0xFFFF8AD8), 168},
     {Color(0xFFFFFFFF), Color(0xFFF5F5F5), Color(0xFF707070), Color(0xFFFFFFFF), Color(0xFFA0A0A0), Color(0x60808080),
-     Color(0xFF202020), Color(0xF0FFFFFF), Color(0xFF404040), 216},
+     Color(0xFF202020), Color(0xF0FFFFFF), Color(0xFF404040), Color(0xFF0A5FB4), 216},
 }};
 
 /// Where a layer's own colour stands in a row of the table.
 constexpr std::array<Color Colors::*, static_cast<std::size_t>(MapLayer::Count)> kLayerColors = {
-    &Colors::sea, &Colors::coast, &Colors::lake, &Colors::graticule, &Colors::city, &Colors::text, &Colors::text};
+    &Colors::sea,  &Colors::coast, &Colors::lake, &Colors::graticule,
+    &Colors::city, &Colors::text,  &Colors::text, &Colors::opened};
 
 constexpr BYTE kUnlitVeil = 216;
 constexpr BYTE kFaintness = 3; // what is unlit keeps a third of its strength
@@ -121,6 +124,46 @@ void DrawRings(const Canvas& canvas, const std::vector<GeoRing>& rings, const Co
             canvas.graphics.FillPolygon(&brush, points.data(), count);
         }
         canvas.graphics.DrawPolygon(&pen, points.data(), count);
+    }
+}
+
+/// What the user opened: areas with a faint fill, lines, places.
+void DrawOpened(const Canvas& canvas) {
+    constexpr int kFill = 4; // a quarter of the strength
+    const Color ink = canvas.Ink(MapLayer::Opened, canvas.colors.opened);
+    Gdiplus::Pen pen(ink, canvas.Scaled(1.5 * canvas.state.LineWidth()));
+    pen.SetLineJoin(Gdiplus::LineJoinRound);
+    Gdiplus::SolidBrush fill(Color(ink.GetA() / kFill, ink.GetR(), ink.GetG(), ink.GetB()));
+    Gdiplus::SolidBrush dot(ink);
+    Gdiplus::SolidBrush rim(canvas.Lit(MapLayer::Opened, canvas.colors.halo));
+    std::vector<PointF> points;
+    for (const auto& features : canvas.state.Opened()) {
+        for (const std::vector<GeoRing>& area : features->areas) {
+            if (!canvas.Sees(area.front().box)) {
+                continue;
+            }
+            Gdiplus::GraphicsPath path(Gdiplus::FillModeAlternate);
+            for (const GeoRing& ring : area) {
+                AddRing(canvas, ring, points);
+                if (points.size() > 2) {
+                    path.AddPolygon(points.data(), static_cast<INT>(points.size()));
+                }
+            }
+            canvas.graphics.FillPath(&fill, &path);
+            canvas.graphics.DrawPath(&pen, &path);
+        }
+        for (const GeoRing& line : features->lines) {
+            AddRing(canvas, line, points);
+            if (canvas.Sees(line.box) && points.size() > 1) {
+                canvas.graphics.DrawLines(&pen, points.data(), static_cast<INT>(points.size()));
+            }
+        }
+        for (const NamedPlace& place : features->places) {
+            const PointF at = canvas.At(place.place);
+            const REAL radius = canvas.Scaled(4), outer = canvas.Scaled(5.2);
+            canvas.graphics.FillEllipse(&rim, RectF(at.X - outer, at.Y - outer, 2 * outer, 2 * outer));
+            canvas.graphics.FillEllipse(&dot, RectF(at.X - radius, at.Y - radius, 2 * radius, 2 * radius));
+        }
     }
 }
 
@@ -251,18 +294,35 @@ void DrawCities(const Canvas& canvas, const std::vector<City>& cities) {
     });
 }
 
+/// Right of the dot, or left of it where that is taken.
+void DrawNameBeside(const Canvas& canvas, const TextStyle& style, const std::wstring& name, PointF at, REAL radius,
+                    TextPlaces& places) {
+    const RectF size = PlaceOfText(canvas, style.font, name, at);
+    const REAL y = at.Y - size.Height / 2;
+    for (const REAL x : {at.X + radius, at.X - radius - size.Width}) {
+        if (places.Take(RectF(x, y, size.Width, size.Height))) {
+            DrawHaloText(canvas, style, name, PointF(x, y));
+            return;
+        }
+    }
+}
+
+void DrawOpenedNames(const Canvas& canvas, const TextStyle& style, TextPlaces& places) {
+    for (const auto& features : canvas.state.Opened()) {
+        for (const NamedPlace& place : features->places) {
+            const GeoPoint& point = place.place;
+            if (!place.name.empty() &&
+                canvas.Sees({point.longitude, point.latitude, point.longitude, point.latitude})) {
+                DrawNameBeside(canvas, style, place.name, canvas.At(point), canvas.Scaled(5), places);
+            }
+        }
+    }
+}
+
 void DrawCityNames(const Canvas& canvas, const std::vector<City>& cities, const TextStyle& style, TextPlaces& places) {
     ForEachShownCity(canvas, cities, [&](const City& city, PointF at, REAL radius) {
         const std::wstring& name = canvas.style.chineseNames ? city.chinese : city.english;
-        const RectF size = PlaceOfText(canvas, style.font, name, at);
-        const REAL y = at.Y - size.Height / 2;
-        // Right of the dot, or left of it where that is taken.
-        for (const REAL x : {at.X + radius, at.X - radius - size.Width}) {
-            if (places.Take(RectF(x, y, size.Width, size.Height))) {
-                DrawHaloText(canvas, style, name, PointF(x, y));
-                return;
-            }
-        }
+        DrawNameBeside(canvas, style, name, at, radius, places);
     });
 }
 
@@ -418,6 +478,9 @@ void MapPainter::PaintShapes(HDC dc, const MapState& state, const MapPaintStyle&
     if (state.IsShown(MapLayer::Graticule)) {
         DrawGraticuleLines(canvas);
     }
+    if (state.IsShown(MapLayer::Opened)) {
+        DrawOpened(canvas);
+    }
     if (state.IsShown(MapLayer::Cities)) {
         DrawCities(canvas, m_data.cities);
     }
@@ -437,6 +500,9 @@ void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& 
     }
     if (state.IsShown(MapLayer::Graticule)) {
         DrawGraticuleNumbers(canvas, StyleOf(canvas, small, MapLayer::Graticule, MapLabel::GraticuleNumbers), places);
+    }
+    if (state.IsShown(MapLayer::Opened)) {
+        DrawOpenedNames(canvas, StyleOf(canvas, names, MapLayer::Opened, MapLabel::CityNames), places);
     }
     if (state.IsShown(MapLayer::Cities) && state.IsShown(MapLayer::Names)) {
         DrawCityNames(canvas, m_data.cities, StyleOf(canvas, names, MapLayer::Names, MapLabel::CityNames), places);

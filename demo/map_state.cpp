@@ -228,6 +228,26 @@ void MapState::SetNameSize(int pixels) {
     Changed();
 }
 
+void MapState::Open(std::shared_ptr<const GeoFeatures> features, const GeoBox& box) {
+    constexpr double around = 0.06; // of the window
+    constexpr double smallest = 2;  // degrees: a lone place is seen with its surroundings
+    m_opened.push_back(std::move(features));
+    SetShown(MapLayer::Opened, true);
+    const double width = std::max(box.east - box.west, smallest), height = std::max(box.north - box.south, smallest);
+    const GeoPoint middle{(box.west + box.east) / 2, (box.south + box.north) / 2};
+    const double half = width * (0.5 + around), halfHeight = height * (0.5 + around);
+    Show(
+        {middle.longitude - half, middle.latitude - halfHeight, middle.longitude + half, middle.latitude + halfHeight});
+    Changed();
+}
+
+void MapState::CloseOpened() {
+    if (!m_opened.empty()) {
+        m_opened.clear();
+        Changed();
+    }
+}
+
 int MapState::SliderPosition() const {
     const double range = std::log(kMaxPixelsPerDegree / kMinPixelsPerDegree);
     return static_cast<int>(std::lround(std::log(m_view.pixelsPerDegree / kMinPixelsPerDegree) / range * kSliderMax));

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+struct GeoFeatures;
 
 /// A place on the globe in degrees; longitude east and latitude north are positive.
 struct GeoPoint {
@@ -25,7 +28,7 @@ struct MapView {
     double pixelsPerDegree = 4;
 };
 
-enum class MapLayer { Relief, Coast, Lakes, Graticule, Cities, Names, ScaleBar, Count };
+enum class MapLayer { Relief, Coast, Lakes, Graticule, Cities, Names, ScaleBar, Opened, Count };
 /// The texts written on the map.
 enum class MapLabel { GraticuleNumbers, CityNames, ScaleBarText, Count };
 enum class MapPalette { Natural, Night, Plain };
@@ -127,6 +130,12 @@ public:
     /// What of the window goes on the page: an A4 sheet as large as fits, with a margin around.
     WindowBox PageBox() const;
 
+    /// What was read from files, in the order in which it was opened.
+    const std::vector<std::shared_ptr<const GeoFeatures>>& Opened() const noexcept { return m_opened; }
+    /// Adds what a file holds, shows its layer, and all of it in the window.
+    void Open(std::shared_ptr<const GeoFeatures> features, const GeoBox& box);
+    void CloseOpened();
+
     int SliderPosition() const;
     void SetSliderPosition(int position);
 
@@ -153,9 +162,9 @@ private:
     std::vector<MapView> m_bookmarks;
     std::size_t m_bookmarkPosition = 0;
     static constexpr int kLayerCount = static_cast<int>(MapLayer::Count);
-    bool m_layers[kLayerCount] = {true, true, true, true, true, true, true};
+    bool m_layers[kLayerCount] = {true, true, true, true, true, true, true, true};
     std::optional<std::uint32_t> m_colors[kLayerCount];
-    bool m_lit[kLayerCount] = {true, true, true, true, true, true, true};
+    bool m_lit[kLayerCount] = {true, true, true, true, true, true, true, true};
     bool m_locked[kLayerCount] = {};
     bool m_labelsLit[static_cast<int>(MapLabel::Count)] = {true, true, true};
     MapPalette m_palette = MapPalette::Natural;
@@ -165,6 +174,7 @@ private:
     int m_nameSize = 12;
     MapMode m_mode = MapMode::Browse;
     std::vector<GeoPoint> m_marks;
+    std::vector<std::shared_ptr<const GeoFeatures>> m_opened;
     PageShape m_page = PageShape::Landscape;
     unsigned m_version = 1;
 };

@@ -16,6 +16,7 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
                                   .AddText(L"--lang", options.language)
                                   .AddChoice(L"--skin", {L"black", L"silver"}, options.skin)
                                   .AddChoice(L"--mode", {L"browse", L"edit", L"print"}, options.mode)
+                                  .AddText(L"--open", options.mapFile)
                                   .AddText(L"--screenshot", options.screenshot)
                                   .AddText(L"--record", options.record)
                                   .AddChoice(L"--direction", {L"ltr", L"rtl"}, direction)

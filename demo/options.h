@@ -14,6 +14,7 @@ struct DemoOptions {
     int scalePercent = 0;       ///< 0: as the screen says.
     int category = -1;          ///< Index of the category shown first; -1: the mode's own.
     bool isRightToLeft = false; ///< Mirrored layout, as for languages that are written so.
+    std::wstring mapFile;       ///< GeoJSON file that is opened at the start; empty: none.
     std::wstring screenshot;    ///< PNG file to write, then leave; empty: stay.
     std::wstring record;        ///< JSON file that is written anew after each change; empty: none.
 };

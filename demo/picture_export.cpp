@@ -68,6 +68,20 @@ std::wstring AskForPictureFile(HWND owner, const std::wstring& filterName) {
     return ::GetSaveFileNameW(&question) ? std::wstring(path.data()) : std::wstring();
 }
 
+std::wstring AskForMapFile(HWND owner, const std::wstring& filterName) {
+    std::wstring filter = filterName + L" (*.geojson, *.json)";
+    filter.append(1, L'\0').append(L"*.geojson;*.json").append(1, L'\0');
+    std::array<wchar_t, 32768> path = {};
+    OPENFILENAMEW question = {};
+    question.lStructSize = sizeof question;
+    question.hwndOwner = owner;
+    question.lpstrFilter = filter.c_str();
+    question.lpstrFile = path.data();
+    question.nMaxFile = static_cast<DWORD>(path.size());
+    question.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    return ::GetOpenFileNameW(&question) ? std::wstring(path.data()) : std::wstring();
+}
+
 bool CutPicture(CBitmap& picture, const WindowBox& part, CBitmap& cut) {
     const int width = part.right - part.left;
     const int height = part.bottom - part.top;

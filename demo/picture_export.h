@@ -14,5 +14,7 @@ bool PutTextOnClipboard(HWND owner, const std::wstring& text);
 /// Asks for the file that a PNG picture is written to; empty when the user thinks better of it. `filterName` names the
 /// kind of file in the user's language.
 std::wstring AskForPictureFile(HWND owner, const std::wstring& filterName);
+/// The file that the user chose to open; empty when the question was cancelled.
+std::wstring AskForMapFile(HWND owner, const std::wstring& filterName);
 /// Copies a part of the picture into a new bitmap. False when there is no room for one, or the part is empty.
 bool CutPicture(CBitmap& picture, const WindowBox& part, CBitmap& cut);

@@ -42,6 +42,9 @@ public:
         }
         frame->ShowWindow(SW_SHOW);
         frame->UpdateWindow();
+        if (!options->mapFile.empty()) {
+            frame->OpenMapFile(options->mapFile);
+        }
         if (!options->record.empty()) {
             frame->FinishMap(); // a record says what is to be seen
         }

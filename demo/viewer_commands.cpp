@@ -17,13 +17,14 @@ struct LayerName {
     const wchar_t* parameter;
     MapLayer layer;
 };
-constexpr std::array<LayerName, 7> kLayers = {{{L"relief", MapLayer::Relief},
+constexpr std::array<LayerName, 8> kLayers = {{{L"relief", MapLayer::Relief},
                                                {L"coast", MapLayer::Coast},
                                                {L"lakes", MapLayer::Lakes},
                                                {L"graticule", MapLayer::Graticule},
                                                {L"cities", MapLayer::Cities},
                                                {L"names", MapLayer::Names},
-                                               {L"scalebar", MapLayer::ScaleBar}}};
+                                               {L"scalebar", MapLayer::ScaleBar},
+                                               {L"opened", MapLayer::Opened}}};
 
 struct PaletteName {
     const wchar_t* parameter;
@@ -183,7 +184,9 @@ boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHo
             const auto row = FindByParameter(kLayers, name);
             return row != kLayers.end() && state.IsShown(row->layer);
         },
-        [&state](const std::wstring& name) { return name != L"names" || state.IsShown(MapLayer::Cities); });
+        [&state](const std::wstring& name) {
+            return name == L"names" ? state.IsShown(MapLayer::Cities) : name != L"opened" || !state.Opened().empty();
+        });
     reactor->Serve(
         L"palette",
         [&state](const std::wstring& name) {
@@ -223,6 +226,21 @@ boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, Viewer
             host.CopyText(TextOf(state.View().center));
         }
     });
+    return reactor;
+}
+
+boost::shared_ptr<CMenuReactor> MakeFileReactor(MapState& state, ViewerHost& host) {
+    auto reactor = boost::make_shared<CCommandReactor>();
+    reactor->Serve(
+        L"file",
+        [&state, &host](const std::wstring& what) {
+            if (what == L"open") {
+                host.OpenMapFile();
+            } else {
+                state.CloseOpened();
+            }
+        },
+        nullptr, [&state](const std::wstring& what) { return what == L"open" || !state.Opened().empty(); });
     return reactor;
 }
 

@@ -41,6 +41,8 @@ public:
     /// The same of what goes on the page.
     virtual void CopyPage() = 0;
     virtual void SavePage() = 0;
+    /// Asks for a file of points, lines and areas, and opens it.
+    virtual void OpenMapFile() = 0;
     /// Puts a text on the clipboard.
     virtual void CopyText(const std::wstring& text) = 0;
 };
@@ -51,6 +53,8 @@ boost::shared_ptr<CMenuReactor> MakeNavigationReactor(MapState& state, const Map
 boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHost& host);
 /// Pictures and co-ordinates for other programs.
 boost::shared_ptr<CMenuReactor> MakePictureReactor(const MapState& state, ViewerHost& host);
+/// The user's own files.
+boost::shared_ptr<CMenuReactor> MakeFileReactor(MapState& state, ViewerHost& host);
 /// Working modes, marks and the page.
 boost::shared_ptr<CMenuReactor> MakeModeReactor(MapState& state, ViewerHost& host);
 /// Language, skin, icon style, ribbon and help.

@@ -13,7 +13,7 @@ from viewer import Viewer
 ARROW = 18
 ROW = 26
 FIRST_LAYER = 1  # below the heading
-LAYERS = 7
+LAYERS = 8
 
 
 class BarsAndList(unittest.TestCase):

@@ -3,6 +3,7 @@
 
 usage: viewer_test.py BIN_DIR [TEST...]
 """
+import json
 import os
 import re
 import shutil
@@ -244,6 +245,52 @@ class HelpVideos(unittest.TestCase):
                 self.assertEqual(heights["ZoomOut"], 0)
         with Viewer(BIN_DIR, "--lang", "en", registry=[["delete", self.RECORD, "/v", "FlashPath", "/f"]]) as viewer:
             self.assertEqual(self.descriptions(viewer), {""})
+
+
+class OpeningViewer(Viewer):
+    """Meets a message over its frame."""
+
+    def begin(self):
+        self.wait_until(lambda: len(self.windows(TITLE)) > 1, "a message is shown")
+        self.key("Return")
+        super().begin()
+
+
+class OwnFiles(unittest.TestCase):
+    PLACES = {"type": "FeatureCollection", "features": [
+        {"type": "Feature", "properties": {"name": "Basel"}, "geometry": {"type": "Point", "coordinates": [7.59, 47.56]}},
+        {"type": "Feature", "properties": {}, "geometry": {"type": "LineString", "coordinates": [[7.6, 47.6], [4.5, 51.9]]}}]}
+
+    def test_a_file_of_places_is_a_layer_that_can_be_hidden_and_closed(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "places.geojson")
+            with open(path, "w", encoding="utf-8") as file:
+                json.dump(self.PLACES, file)
+            with Viewer(BIN_DIR, "--lang", "en", "--category", "1", "--open", path) as viewer:
+                record = viewer.wait_for(lambda record: record["map"]["opened"] == 1)
+                self.assertAlmostEqual(record["map"]["longitude"], 6.05, places=1)
+                self.assertAlmostEqual(record["map"]["latitude"], 49.7, places=0)
+                viewer.wait_for(lambda record: record["map"]["finished"])
+                shown = viewer.picture(os.path.join(folder, "shown.png"))
+                viewer.click_command("LayerOpened")
+                viewer.wait_for(lambda record: not record["map"]["layers"][7])
+                viewer.hover(640, 700)
+                viewer.wait_for(lambda record: record["map"]["finished"])
+                hidden = viewer.picture(os.path.join(folder, "hidden.png"))
+                self.assertGreater(changed_pixels(shown, hidden, "800x450+300+250"), 100)
+                viewer.click_command("FileClose")
+                viewer.wait_for(lambda record: record["map"]["opened"] == 0)
+
+    def test_a_file_that_is_none_gives_a_message_and_the_viewer_goes_on(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "broken.geojson")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write("{")
+            with OpeningViewer(BIN_DIR, "--lang", "en", "--open", path) as viewer:
+                record = viewer.wait_for(lambda record: True)
+                self.assertEqual(record["map"]["opened"], 0)
+                viewer.click_command("ZoomIn")
+                viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 4)
 
 
 class PlaceField(unittest.TestCase):
