@@ -13,7 +13,8 @@ DEADLINE = 40
 
 
 class Viewer:
-    """One run of the demo. `bin_dir` holds demo.exe; use it as a context."""
+    """One run of the demo. `bin_dir` holds the program; use it as a context."""
+    PROGRAM = ("demo.exe", "--size", "1280x800")
 
     def __init__(self, bin_dir, *arguments, registry=()):
         """`registry`: what the system's registry program is told before, as lists of words."""
@@ -57,7 +58,7 @@ class Viewer:
                             os.path.join(self._environment["BARWRIGHT_WINEPREFIX"], "drive_c", "windows", "system32", "reg.exe"), *words],
                            env=self._environment, check=True, stdout=subprocess.DEVNULL)
         self._program = subprocess.Popen(
-            [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, "demo.exe"), "--size", "1280x800",
+            [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, self.PROGRAM[0]), *self.PROGRAM[1:],
              "--record", self._record_file, *map(str, self._arguments)], env=self._environment)
 
     def begin(self):
@@ -96,7 +97,7 @@ class Viewer:
             except (FileNotFoundError, json.JSONDecodeError):
                 pass
             time.sleep(0.05)
-        raise AssertionError(f"no record met the condition in {DEADLINE} s; last one: {record and record['map']}")
+        raise AssertionError(f"no record met the condition in {DEADLINE} s; last one: {record and record.get('map', record)}")
 
     def wait_until(self, condition, what):
         end = time.monotonic() + DEADLINE

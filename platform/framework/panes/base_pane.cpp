@@ -49,7 +49,8 @@ int CBasePane::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1) {
         return -1;
     }
-    m_bRecentVisibleState = (GetStyle() & WS_VISIBLE) != 0;
+    // The window itself becomes visible when it is complete.
+    m_bRecentVisibleState = (lpCreateStruct->style & WS_VISIBLE) != 0;
     auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, CWnd::FromHandlePermanent(::GetParent(m_hWnd)));
     m_bIsDialogControl = frame == nullptr;
     if (frame) {

@@ -171,13 +171,19 @@ BOOL CDockSite::ReplacePane(CPane* pOldBar, CPane* pNewBar) {
 }
 
 BOOL CDockSite::MovePane(CPane* pWnd, UINT, CPoint ptOffset) {
-    panes::DockedPane* const found = m_rows->Find(KeyOf(pWnd));
-    if (found == nullptr) {
+    const panes::PaneKey key = KeyOf(pWnd);
+    const std::size_t row = m_rows->RowOf(key);
+    if (row == m_rows->Rows().size()) {
         return FALSE;
     }
-    const int offset = found->offset + static_cast<int>(IsHorizontal() ? ptOffset.x : ptOffset.y);
-    m_rows->MoveTo(KeyOf(pWnd), {m_rows->RowOf(KeyOf(pWnd)), false}, offset, GetRowLength());
-    m_rows->KeepPlaces(m_rows->RowOf(KeyOf(pWnd)), GetRowLength(), KeyOf(pWnd));
+    // From where it lies, not from where it would lie if the others let it.
+    int offset = m_rows->Find(key)->offset;
+    for (const panes::PlacedPane& placed : m_rows->Place(GetRowLength())[row].panes) {
+        offset = placed.key == key ? placed.span.offset : offset;
+    }
+    offset += static_cast<int>(IsHorizontal() ? ptOffset.x : ptOffset.y);
+    m_rows->MoveTo(key, {row, false}, offset, GetRowLength());
+    m_rows->KeepPlaces(m_rows->RowOf(key), GetRowLength(), key);
     UpdateRowObjects();
     CBasePane::AdjustDockingLayout();
     return TRUE;

@@ -9,7 +9,8 @@ bool CanTakeFocus(HWND window) { return ::IsWindow(window) && ::IsWindowVisible(
 
 bool Holds(HWND window, HWND focus) { return window != nullptr && (window == focus || ::IsChild(window, focus)); }
 
-/// What gets the focus in the pane: the ribbon or a status bar itself, the first tab stop of every other one. Null: nothing does.
+/// What gets the focus in the pane: the ribbon or a status bar itself, the first tab stop of every other one. Null:
+/// nothing does.
 HWND FocusIn(CBasePane& pane) {
     const HWND window = pane.GetSafeHwnd();
     if (!CanTakeFocus(window)) {

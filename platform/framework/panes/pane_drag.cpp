@@ -155,7 +155,7 @@ void PaneDrag::MoveTo(CPoint screen) {
     m_preview->Show(Outline(target));
 }
 
-// The side where the pane lies is asked first: where two meet it does not jump to and fro.
+// The side where the pane lies is asked first: where two meet it does not jump from one to the other.
 CDockSite* PaneDrag::FindSite(CPoint screen) const {
     const DWORD allowed = m_pane->GetEnabledAlignment() & m_manager.GetEnabledAlignment();
     const int reach = afxGlobalData.ScalePixels(CDockingManager::m_nDockSensitivity);

@@ -192,6 +192,15 @@ TEST_F(DockRowsTest, MovingOnePaneMovesItAndThoseThatGiveWay) {
     EXPECT_EQ(m_panes[0].moves, 0);
 }
 
+TEST_F(DockRowsTest, APaneThatWasPushedMovesFromWhereItLies) {
+    DockAt(m_panes[0], AFX_IDW_DOCKBAR_TOP, {100, 2});
+    DockAt(m_panes[1], AFX_IDW_DOCKBAR_TOP, {120, 2});
+    ASSERT_EQ(PlaceOf(m_panes[1]).left, 200);
+    EXPECT_TRUE(m_panes[1].MoveByAlignment(CBRS_ALIGN_TOP, 50));
+    EXPECT_EQ(PlaceOf(m_panes[1]).left, 250);
+    EXPECT_EQ(PlaceOf(m_panes[0]).left, 100);
+}
+
 TEST_F(DockRowsTest, RectangleSidesAreNamedLeftRightTopBottom) {
     const CRect rect(0, 0, 200, 100);
     EXPECT_EQ(CDockSite::RectSideFromPoint(rect, {5, 50}), 1);

@@ -63,6 +63,17 @@ TEST_F(DockStateTest, RowsOffsetsMiniFramesAndVisibilityComeBack) {
     EXPECT_EQ(PlaceOf(m_client), CRect(0, 24, 600, 400));
 }
 
+TEST_F(DockStateTest, APaneThatWasShownFromItsCreationOnComesBackShown) {
+    CPane pane;
+    ASSERT_TRUE(pane.Create(nullptr, WS_CHILD | WS_VISIBLE | CBRS_TOP, CRect(0, 0, 40, 20), m_frame, 9));
+    EXPECT_TRUE(pane.GetRecentVisibleState());
+    pane.EnableDocking(CBRS_ALIGN_ANY);
+    m_frame->DockPane(&pane);
+    ASSERT_TRUE(App().SaveState(m_frame));
+    ASSERT_TRUE(App().LoadState(m_frame));
+    EXPECT_TRUE(pane.IsVisible());
+}
+
 TEST_F(DockStateTest, AFloatingPaneStillKnowsWhereItWasDocked) {
     Dock(m_panes[0]);
     Dock(m_panes[1], AFX_IDW_DOCKBAR_RIGHT);
