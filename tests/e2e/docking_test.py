@@ -38,9 +38,6 @@ class Host(Viewer):
     def move(self, x, y):
         self._xdotool("mousemove", x, y, "sleep", 0.1)
 
-    def resize(self, window, width, height):
-        self._xdotool("windowsize", window, width, height)
-
     def pause(self, seconds):
         self._xdotool("sleep", seconds)
 
@@ -122,9 +119,10 @@ class Docking(unittest.TestCase):
 
     def test_a_narrow_window_shows_the_rest_in_a_menu(self):
         with self.host() as host:
-            window = host.windows("Docking host")[0]
-            host.resize(window, 300, 400)
-            record = host.wait_for(lambda record: record["client"][2] - record["client"][0] <= 300 and
+            left, top, right, bottom = host.record["client"]
+            border = right + 2
+            host.drag(border, (top + bottom) // 2, left + 296, (top + bottom) // 2)
+            record = host.wait_for(lambda record: record["client"][2] - record["client"][0] <= 310 and
                                    any(bar["more"][2] > bar["more"][0] for bar in record["bars"]))
             more = next(bar["more"] for bar in record["bars"] if bar["more"][2] > bar["more"][0])
             host.click((more[0] + more[2]) // 2, (more[1] + more[3]) // 2)
