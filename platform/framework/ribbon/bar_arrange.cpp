@@ -74,7 +74,11 @@ void CMFCRibbonBar::EnsureLayout() {
 }
 
 void CMFCRibbonBar::OnLaidOut() {
-    PlaceTooltip();
+    // A tooltip that is shown goes when its tool is placed; an element that stays where it was keeps it.
+    const CMFCRibbonBaseElement* const hot = m_parts->pointer.GetHot();
+    if (m_parts->tooltipPlace != (hot != nullptr ? hot->GetRect() : CRect(0, 0, 0, 0))) {
+        PlaceTooltip();
+    }
     m_parts->keyboard->OnLayoutChanged();
 }
 

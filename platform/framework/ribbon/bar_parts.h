@@ -52,7 +52,8 @@ struct RibbonBarParts {
     bool tooltipDescriptions = true;
     int tooltipWidthRegular = 0;
     int tooltipWidthLargeImage = 0;
-    CString tooltipText; // lent to the tooltip control while it shows
+    CString tooltipText;            // lent to the tooltip control while it shows
+    CRect tooltipPlace{0, 0, 0, 0}; // of the tool: that of the element under the pointer
     RibbonEditTool editTool;
 
     CMFCRibbonApplicationButton* applicationButton = nullptr; // the host's

@@ -52,7 +52,12 @@ void CMFCRibbonBar::PopTooltip() {
     }
 }
 
-void CMFCRibbonBar::HideTip() { PopTooltip(); }
+// A layout gives every element a place; what has moved is seen at its end.
+void CMFCRibbonBar::HideTip() {
+    if (!m_parts->isLayingOut) {
+        PopTooltip();
+    }
+}
 
 RibbonTips CMFCRibbonBar::GetTips() const {
     return {m_parts->tooltips, m_parts->tooltipDescriptions, m_parts->tooltipWidthRegular,
@@ -66,6 +71,7 @@ void CMFCRibbonBar::PlaceTooltip() {
     CMFCRibbonBaseElement* hot = m_parts->pointer.GetHot();
     const CRect rect = hot != nullptr ? hot->GetRect() : CRect(0, 0, 0, 0);
     m_pToolTip->SetToolRect(this, kTool, rect);
+    m_parts->tooltipPlace = rect;
     m_parts->editTool.Follow(*m_pToolTip, *this, hot);
     m_pToolTip->Pop();
     CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_pToolTip);

@@ -33,6 +33,30 @@ protected:
     MirroredStatusBar() : StatusBarInput(WS_EX_LAYOUTRTL) {}
 };
 
+/// Counts how often it is told to go.
+class CountingTip : public CMFCToolTipCtrl {
+    DECLARE_DYNCREATE(CountingTip)
+
+public:
+    static inline int s_pops = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        s_pops += message == TTM_POP ? 1 : 0;
+        return CMFCToolTipCtrl::WindowProc(message, wParam, lParam);
+    }
+};
+IMPLEMENT_DYNCREATE(CountingTip, CMFCToolTipCtrl)
+
+class StatusBarTip : public StatusBarInput {
+protected:
+    StatusBarTip() {
+        CTooltipManager().SetTooltipParams(AFX_TOOLTIP_TYPE_RIBBON, RUNTIME_CLASS(CountingTip));
+        Bar().EnableToolTips(TRUE);
+    }
+    ~StatusBarTip() override { CTooltipManager().SetTooltipParams(AFX_TOOLTIP_TYPE_RIBBON, nullptr); }
+};
+
 class SilentLabel : public CMFCRibbonLabel {
 public:
     explicit SilentLabel(LPCTSTR text) : CMFCRibbonLabel(text) {}
@@ -212,6 +236,33 @@ TEST_F(StatusBarInput, TheContextMenuListsTheElementsThatHaveALabel) {
     PumpPending();
     EXPECT_TRUE(Bar().GetExElement(0)->IsVisible());
     EXPECT_FALSE(Bar().GetExElement(0)->GetRect().IsRectEmpty());
+}
+
+TEST_F(StatusBarTip, StaysWhileOtherElementsChange) {
+    const CMFCRibbonButton& hot = AddButton(11, L"One");
+    CMFCRibbonButton& other = AddButton(12, L"Two");
+    Pointer pointer;
+    pointer.MoveTo(Bar().GetSafeHwnd(), hot.GetRect().CenterPoint());
+    ASSERT_TRUE(hot.IsHighlighted());
+    ASSERT_NE(DYNAMIC_DOWNCAST(CountingTip, Bar().GetToolTipCtrl()), nullptr);
+    CountingTip::s_pops = 0;
+    const int layouts = Bar().layouts;
+    other.SetText(L"Two and a little more");
+    Bar().EnsureLayout();
+    EXPECT_GT(Bar().layouts, layouts);
+    EXPECT_EQ(CountingTip::s_pops, 0);
+}
+
+TEST_F(StatusBarTip, GoesWhenItsElementMoves) {
+    CMFCRibbonButton& before = AddButton(11, L"One");
+    const CMFCRibbonButton& hot = AddButton(12, L"Two");
+    Pointer pointer;
+    pointer.MoveTo(Bar().GetSafeHwnd(), hot.GetRect().CenterPoint());
+    ASSERT_TRUE(hot.IsHighlighted());
+    CountingTip::s_pops = 0;
+    before.SetText(L"One and a little more");
+    Bar().EnsureLayout();
+    EXPECT_GT(CountingTip::s_pops, 0);
 }
 
 TEST_F(StatusBarInput, WithoutLabelsThereIsNoContextMenu) {

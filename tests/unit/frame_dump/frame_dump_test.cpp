@@ -164,4 +164,18 @@ TEST_F(FrameDump, ToolbarsAreListedWithGroupTitleIdAndButtons) {
     bar.DestroyWindow();
 }
 
+TEST_F(FrameDump, TheStatusBarsElementsStandInTheirAreas) {
+    CMFCRibbonStatusBar bar;
+    bar.AddElement(new CMFCRibbonButton(7, L"main"), L"");
+    bar.AddExtendedElement(new CMFCRibbonButton(8, L"extended"), L"", FALSE);
+    const ordered_json status = DumpFrame({.statusBar = &bar, .application = L"file"})["status"];
+    EXPECT_EQ(status["app"], "file");
+    ASSERT_EQ(status["elements"].size(), 1u);
+    EXPECT_EQ(status["elements"][0]["id"], 7);
+    EXPECT_EQ(status["elements"][0]["visible"], true);
+    ASSERT_EQ(status["extended"].size(), 1u);
+    EXPECT_EQ(status["extended"][0]["text"], "extended");
+    EXPECT_EQ(status["extended"][0]["visible"], false);
+}
+
 } // namespace
