@@ -8,6 +8,7 @@
 #include "toolbar/metrics.h"
 
 #include <algorithm>
+#include <vector>
 
 using toolbar::Scaled;
 
@@ -89,10 +90,23 @@ CSize CMFCToolBar::PlaceButtons(int nWidth, BOOL bHorz, BOOL bMove) {
     return all;
 }
 
+// Only asks: the buttons stay where they are.
 CSize CMFCToolBar::CalcSize(BOOL bVertDock) {
+    std::vector<CRect> places;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
+        places.push_back(static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position))->m_rect);
+    }
     CClientDC dc(m_hWnd ? this : nullptr);
     MeasureButtons(&dc, !bVertDock);
-    return PlaceButtons(0, !bVertDock, FALSE);
+    const CSize size = PlaceButtons(0, !bVertDock, FALSE);
+    if (IsHorizontal() == bVertDock) {
+        MeasureButtons(&dc, IsHorizontal());
+    }
+    std::size_t index = 0;
+    for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
+        static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position))->m_rect = places[index++];
+    }
+    return size;
 }
 
 CSize CMFCToolBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {

@@ -75,8 +75,9 @@ bool WriteSkin(const std::wstring& path, CRuntimeClass* skin, int percent) {
     }
     frame.EnableDocking(CBRS_ALIGN_ANY);
     CWnd view;
-    view.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE | WS_EX_CLIENTEDGE, CRect(0, 0, 5, 5), &frame,
-                AFX_IDW_PANE_FIRST);
+    const HBRUSH ground = ::GetSysColorBrush(COLOR_APPWORKSPACE);
+    view.Create(AfxRegisterWndClass(CS_HREDRAW | CS_VREDRAW, nullptr, ground), nullptr, WS_CHILD | WS_VISIBLE,
+                CRect(0, 0, 5, 5), &frame, AFX_IDW_PANE_FIRST);
     std::array<CMFCToolBar, 6> bars;
     const LPCTSTR names[] = {L"Standard", L"Layers", L"Draw", L"Measure", L"Objects", L"Snap"};
     const int buttons[] = {9, 7, 8, 6, 10, 24};

@@ -166,6 +166,31 @@ TEST_F(ToolBarDockingTest, WhatHasNoRoomIsLeftOutAndAButtonForItAppears) {
     EXPECT_EQ(ShownButtons(), kButtons);
 }
 
+TEST_F(ToolBarDockingTest, ALayoutThatChangesNothingLeavesTheButtonsWhereTheyAre) {
+    Resize(200);
+    const int shown = ShownButtons();
+    const CRect first = ButtonRect(0);
+    m_frame->RecalcLayout();
+    m_bar.CalcFixedLayout(FALSE, FALSE);
+    EXPECT_EQ(ShownButtons(), shown);
+    EXPECT_EQ(ButtonRect(0), first);
+    EXPECT_TRUE(m_bar.GetButton(0)->IsHorizontal());
+    EXPECT_EQ(m_bar.HitTest(CPoint(1, 1)), -1);
+}
+
+TEST_F(ToolBarDockingTest, ABarThatIsAsLongAsItsRowBeforeItIsDockedLeavesItsRestOutToo) {
+    CMFCToolBar bar;
+    bar.Create(m_frame, AFX_DEFAULT_TOOLBAR_STYLE, 78);
+    for (UINT index = 0; index < 100; ++index) {
+        bar.InsertButton(CMFCToolBarButton(kFirstCommand + index, -1, L"Text"));
+    }
+    bar.EnableDocking(CBRS_ALIGN_ANY);
+    m_frame->RecalcLayout();
+    m_frame->DockPane(&bar);
+    EXPECT_EQ(Client(bar).Width(), Client(*m_frame).Width());
+    EXPECT_FALSE(bar.GetOverflowRect().IsRectEmpty());
+}
+
 TEST_F(ToolBarDockingTest, TheMenuOfTheRestHoldsTheButtonsThatWereLeftOutAndSendsTheirCommands) {
     Resize(200);
     const int left = kButtons - ShownButtons();
