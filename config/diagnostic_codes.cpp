@@ -83,7 +83,7 @@ constexpr DiagnosticCode kCodes[] = {
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"unknown-type", Warning, "TYPE is no kind of element that this file may have.",
      "Nothing is shown, and what lies below it vanishes, too.", "Mend the word; letter case does not count.", Panel,
-     "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTON\"/>", "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
+     "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTOM1\"/>", "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"missing-type", Warning, "An element of a ribbon's panel or a button of a toolbar has no TYPE.",
      "Nothing is shown, and what lies below it vanishes, too.", "Say what it is.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\"/>", "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
@@ -187,7 +187,7 @@ constexpr DiagnosticCode kCodes[] = {
      "An icon file is not there. A path a\\b.ico is the files a\\16\\b.ico and a\\32\\b.ico: a large button needs "
      "both, everything else the first.",
      "The place of the icon stays empty.", "Put the file there, or mend the path.", Panel,
-     "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\exampel.ico\"/>",
+     "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\examples.ico\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\example.ico\"/>"},
     {"icon-format", Warning,
      "A file that should be an icon is none, has no picture, or has one of more than 1,024 pixels a side.",

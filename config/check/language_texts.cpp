@@ -94,14 +94,14 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
         }
         LanguageTexts texts{code, true, {}};
         TextReader reader(texts, sink);
-        bool hasTables = false;
+        bool isLanguage = false;
         for (const std::wstring& name : files.FilesIn(L"lang\\" + code)) {
             if (IsTable(name)) {
-                hasTables = true;
+                isLanguage = true;
                 reader.Read(*files.Find(L"lang\\" + code + L'\\' + name));
             }
         }
-        if (hasTables) {
+        if (isLanguage) {
             languages.push_back(std::move(texts));
         }
     }

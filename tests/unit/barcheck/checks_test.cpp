@@ -42,7 +42,7 @@ TEST(CheckedConfiguration, FilesThatAreNamedAreTheOnlyOnes) {
     const CheckedInstallation installation;
     WriteSample(installation);
     installation.Write("cfg/menu.xml", "<menu>");
-    installation.Write("other/bars.xml", ToolBarWith("<item TYPE=\"buton\" KEYWORD=\"a\"/>"));
+    installation.Write("other/bars.xml", ToolBarWith("<item TYPE=\"butttn\" KEYWORD=\"a\"/>"));
     installation.Write("other/items.xml", MenuWith("<item KEYWORD=\"Undo\" MENUNAME=\"\" HOTKEY=\"F5\"/>"));
     EXPECT_EQ(installation.Findings({L"cfg\\ribbon.xml"}), "");
     EXPECT_EQ(installation.Findings({L"CFG/Ribbon.XML"}), "");

@@ -221,8 +221,7 @@ constexpr DiagnosticCase diagnosticCases[] = {
     {"<d><r><c KEYWORD='a' NAME='' CateTab='maybe'/></r></d>", "bad-flag@1:30 "},
     {"<d><r><c/></r></d>", "no-attributes@1:7 "},
     {"<d><r><c NAME=''><p/></c></r></d>", "missing-keyword@1:7 no-attributes@1:18 "},
-    {"<d><r><c KEYWORD='' NAME=''><p NAME=''/></c></r></d>",
-     "missing-keyword@1:10 missing-keyword@1:29 "},
+    {"<d><r><c KEYWORD='' NAME=''><p NAME=''/></c></r></d>", "missing-keyword@1:10 missing-keyword@1:29 "},
     {"<d><r><c KEYWORD='a'><p CMD=''/></c></r></d>", "missing-caption@1:7 "},
     {"<d><r KEYWORD='StatusEx_btns'><c KEYWORD='a'><p/></c></r></d>", "children-lost@1:31 "},
     {"<d><r KEYWORD='QK_Rbbion_QAToolbar'><c KEYWORD='a'><p/></c><c CMD=''/></r></d>",
@@ -263,8 +262,8 @@ constexpr PanelCase panelCases[] = {
     {"<e KEYWORD='e' NAME='' TYPE='button' CATETAB='Y'/>", "wrong-depth@1:38 "},
     // What is misspelt is not missing besides.
     {"<e KEYWRD='e' NAME='' TYPE='button'/>", "unknown-attribute@1:4 "},
-    {"<e KEYWORD='e' NAME='' TPYE='button'/>", "unknown-attribute@1:24 "},
-    {"<e KEYWORD='e' NMAE='' TYPE='button'/>", "unknown-attribute@1:16 "},
+    {"<e KEYWORD='e' NAME='' TYYPE='button'/>", "unknown-attribute@1:24 "},
+    {"<e KEYWORD='e' NNAME='' TYPE='button'/>", "unknown-attribute@1:16 "},
     // Nor is what stands behind a bad number.
     {"<e SIZE='x' KEYWORD='e' NAME='' TYPE='button'/>", "bad-number@1:4 "},
     // Sub-items that say less than the one before.
