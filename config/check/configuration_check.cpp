@@ -79,6 +79,15 @@ void Sort(std::vector<Diagnostic>& findings, const std::vector<FileToRead>& file
 
 } // namespace
 
+bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
+    const std::vector<FileToRead> files = FilesToRead(request, InstallationFiles(request.directory));
+    bool isComplete = !files.empty();
+    for (const FileToRead& file : files) {
+        isComplete = ReadFile(file.fullPath, file.kind, sink) && isComplete;
+    }
+    return isComplete;
+}
+
 std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     const InstallationFiles files(request.directory);
     GatheringSink sink;

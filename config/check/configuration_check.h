@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/check/gathered_elements.h"
 #include "config/diagnostics.h"
 
 #include <string>
@@ -17,6 +18,9 @@ struct CheckRequest {
     /// The one language whose tables count; empty: all that are there.
     std::wstring language;
 };
+
+/// Reads the files alone, into the sink. False when one of them could not be loaded.
+bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink);
 
 /// Reads the files of an installation as the library does and says all that is wrong with them, each fault once. The
 /// findings name files relative to the directory, with "/", and are in the order in which the files are read, each file

@@ -10,17 +10,6 @@ namespace {
 
 constexpr std::wstring_view kToolTipSuffix = L".tooltip";
 
-/// The keyword that a unit's key belongs to: without what tells the text's number.
-std::wstring KeywordOf(const std::wstring& key) {
-    const std::size_t dot = key.rfind(L'.');
-    if (dot == std::wstring::npos || dot == 0) {
-        return key;
-    }
-    const std::wstring_view suffix = std::wstring_view(key).substr(dot);
-    const bool isNumber = suffix.size() > 1 && suffix.find_first_not_of(L"0123456789", 1) == suffix.npos;
-    return suffix == kToolTipSuffix || isNumber ? key.substr(0, dot) : key;
-}
-
 /// What all elements with one keyword ask for.
 struct Asked {
     const GatheredElement* first = nullptr;
@@ -176,6 +165,16 @@ private:
 };
 
 } // namespace
+
+std::wstring KeywordOf(const std::wstring& key) {
+    const std::size_t dot = key.rfind(L'.');
+    if (dot == std::wstring::npos || dot == 0) {
+        return key;
+    }
+    const std::wstring_view suffix = std::wstring_view(key).substr(dot);
+    const bool isNumber = suffix.size() > 1 && suffix.find_first_not_of(L"0123456789", 1) == suffix.npos;
+    return suffix == kToolTipSuffix || isNumber ? key.substr(0, dot) : key;
+}
 
 std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
                                   bool isComplete, DiagnosticsSink& sink) {

@@ -7,6 +7,9 @@
 #include <span>
 #include <string>
 
+/// The keyword that a unit's key belongs to: without what tells the text's number.
+std::wstring KeywordOf(const std::wstring& key);
+
 /// Checks the texts that the elements ask for against the tables: missing-text, and unused-text where `isComplete` (no
 /// file was left out). Returns the keywords that were probably meant by those without a text.
 std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,

@@ -1,4 +1,5 @@
 #include "config/check/configuration_check.h"
+#include "extract.h"
 #include "options.h"
 #include "reports.h"
 
@@ -45,6 +46,13 @@ int Check(const BarcheckOptions& options) {
     return counts ? HasFindings : Clean;
 }
 
+int Extract(const BarcheckOptions& options) {
+    std::wstring message;
+    const bool isWritten = ExtractTexts(options, message);
+    Print((isWritten ? "" : "barcheck: ") + wstring2String(message) + "\n", isWritten ? stdout : stderr);
+    return isWritten ? Clean : HasFindings;
+}
+
 int Run(const std::vector<std::wstring>& arguments) {
     std::wstring error;
     const std::optional<BarcheckOptions> options = ParseBarcheckOptions(arguments, error);
@@ -59,6 +67,8 @@ int Run(const std::vector<std::wstring>& arguments) {
     case BarcheckOptions::Task::Guide:
         Print(DiagnosticsGuide(), stdout);
         return Clean;
+    case BarcheckOptions::Task::Extract:
+        return Extract(*options);
     case BarcheckOptions::Task::Check:
         break;
     }

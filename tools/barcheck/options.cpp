@@ -28,9 +28,20 @@ bool SetFormat(BarcheckOptions& options, const std::wstring& value) {
     return true;
 }
 
+/// A language's code is the name of a folder.
+bool IsCode(const std::wstring& value) {
+    return !value.empty() && value.find_first_of(L"\\/:") == std::wstring::npos && value.front() != L'.';
+}
+
 bool SetLanguage(BarcheckOptions& options, const std::wstring& value) {
     options.language = value;
-    return !value.empty() && value.find_first_of(L"\\/") == std::wstring::npos;
+    return IsCode(value);
+}
+
+bool SetExtract(BarcheckOptions& options, const std::wstring& value) {
+    options.task = BarcheckOptions::Task::Extract;
+    options.extract = value;
+    return IsCode(value);
 }
 
 struct Option {
@@ -50,6 +61,7 @@ bool SetTask(BarcheckOptions& options, const std::wstring& /*value*/) {
 constexpr Option kOptions[] = {
     {L"--format", true, SetFormat},
     {L"--lang", true, SetLanguage},
+    {L"--extract", true, SetExtract},
     {L"--strict", false, SetStrict},
     {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
     {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
@@ -101,7 +113,9 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
             options.files.push_back(argument);
         }
     }
-    if (options.task == BarcheckOptions::Task::Check && !CheckDirectory(options, error)) {
+    const bool needsDirectory =
+        options.task == BarcheckOptions::Task::Check || options.task == BarcheckOptions::Task::Extract;
+    if (needsDirectory && !CheckDirectory(options, error)) {
         return std::nullopt;
     }
     return options;
@@ -109,6 +123,7 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
 
 const char* BarcheckUsage() {
     return "usage: barcheck DIR [FILE...] [--format text|json|sarif|github] [--strict] [--lang LANG]\n"
+           "       barcheck DIR [FILE...] --extract LANG\n"
            "       barcheck --guide\n"
            "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
            "files, the translation tables below lang and the icons that the files name. It reads them as the library\n"
@@ -120,6 +135,9 @@ const char* BarcheckUsage() {
            "            github: commands that mark the places in a pull request\n"
            "  --strict  notes count as findings\n"
            "  --lang    only the tables of this language\n"
+           "  --extract writes the table lang\\LANG, or completes the one that is there, with all texts that the files "
+           "ask\n"
+           "            for and a note where each stands; marks those that no file uses\n"
            "  --guide   what every code means, as in docs/diagnostics.md\n"
-           "Exit code: 0 nothing but notes, 1 findings, 2 wrong usage.\n";
+           "Exit code: 0 nothing but notes, 1 findings, or a table that was not written, 2 wrong usage.\n";
 }

@@ -8,7 +8,7 @@ enum class ReportFormat { Text, Json, Sarif, Github };
 
 /// What the program was asked for.
 struct BarcheckOptions {
-    enum class Task { Check, Guide, Help };
+    enum class Task { Check, Extract, Guide, Help };
     Task task = Task::Check;
     /// Installation directory, with its closing separator.
     std::wstring directory;
@@ -18,6 +18,8 @@ struct BarcheckOptions {
     /// Notes count as findings.
     bool isStrict = false;
     std::wstring language;
+    /// The language whose table is to be written.
+    std::wstring extract;
 };
 
 /// Nothing, with a line in `error`, on wrong usage.

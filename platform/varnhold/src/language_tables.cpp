@@ -79,9 +79,10 @@ std::string ReadContent(const pugi::xml_node& content, bool preserve) {
 /// Reads one file.
 class XliffReader {
 public:
-    XliffReader(const std::wstring& path, TranslationFileVisitor& visitor) : m_path(path), m_visitor(visitor) {}
+    XliffReader(std::wstring path, TranslationFileVisitor& visitor) : m_path(std::move(path)), m_visitor(visitor) {}
 
     bool Read(const std::wstring& language);
+    bool ReadText(std::string text, const std::wstring& language);
 
 private:
     void CheckLanguages(const pugi::xml_node& root, const std::wstring& language) const;
@@ -91,7 +92,7 @@ private:
         m_visitor.VisitProblem(problem, m_tree->GetPosition(node), what);
     }
 
-    const std::wstring& m_path;
+    const std::wstring m_path;
     TranslationFileVisitor& m_visitor;
     std::shared_ptr<const XmlTree> m_tree;
 };
@@ -129,8 +130,12 @@ bool XliffReader::Read(const std::wstring& language) {
         m_visitor.VisitProblem(TranslationProblem::Unreadable, TextPosition(), content.reason);
         return false;
     }
+    return ReadText(std::move(content.bytes), language);
+}
+
+bool XliffReader::ReadText(std::string text, const std::wstring& language) {
     XmlFailure failure;
-    m_tree = XmlTree::Parse(std::move(content.bytes), BlankText::Keep, failure);
+    m_tree = XmlTree::Parse(std::move(text), BlankText::Keep, failure);
     if (!m_tree) {
         m_visitor.VisitProblem(ProblemOf(failure.error), failure.position, failure.reason);
         return false;
@@ -153,7 +158,7 @@ bool XliffReader::Read(const std::wstring& language) {
 void XliffReader::CheckLanguages(const pugi::xml_node& root, const std::wstring& language) const {
     const std::string folder = wstring2String(language);
     const pugi::xml_attribute target = root.attribute("trgLang");
-    if (target && !varnhold::EqualsIgnoringCase(target.value(), folder)) {
+    if (!folder.empty() && target && !varnhold::EqualsIgnoringCase(target.value(), folder)) {
         Report(TranslationProblem::OtherLanguage,
                L"trgLang is \"" + string2wstring(target.value()) + L"\", but the folder is \"" + language + L"\"",
                root);
@@ -231,6 +236,10 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, const char
     read.text = string2wstring(text);
     read.section = section;
     m_visitor.VisitUnit(read, NodePlace(*m_tree, unit));
+}
+
+bool ReadTranslationText(std::string_view text, const std::wstring& language, TranslationFileVisitor& visitor) {
+    return XliffReader({}, visitor).ReadText(std::string(text), language);
 }
 
 bool ReadTranslationFile(const std::wstring& path, const std::wstring& language, TranslationFileVisitor& visitor) {

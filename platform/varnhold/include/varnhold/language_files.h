@@ -50,4 +50,8 @@ public:
 VARNHOLD_API bool ReadTranslationFile(const std::wstring& path, const std::wstring& language,
                                       TranslationFileVisitor& visitor);
 
+/// The same from the text of a file; `language` empty: whichever it says.
+VARNHOLD_API bool ReadTranslationText(std::string_view text, const std::wstring& language,
+                                      TranslationFileVisitor& visitor);
+
 } // namespace varnhold

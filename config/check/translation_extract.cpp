@@ -1,0 +1,266 @@
+#include "config/check/translation_extract.h"
+
+#include "config/check/text_check.h"
+#include "config/ribbon_attributes.h"
+
+#include <varnhold/language_files.h>
+#include <varnhold/strings.h>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+constexpr std::string_view kPlaceNote = "<note category=\"place\">";
+constexpr std::string_view kUnusedNote = "<note category=\"unused\">";
+constexpr std::string_view kNoteEnd = "</note>";
+constexpr std::string_view kUnitEnd = "</unit>";
+constexpr std::string_view kFileEnd = "</file>";
+
+std::string Escaped(std::string_view text) {
+    std::string escaped;
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            escaped += "&amp;";
+            break;
+        case '<':
+            escaped += "&lt;";
+            break;
+        case '>':
+            escaped += "&gt;";
+            break;
+        case '"':
+            escaped += "&quot;";
+            break;
+        default:
+            escaped += c;
+        }
+    }
+    return escaped;
+}
+
+std::string Escaped(const std::wstring& text) { return Escaped(std::string_view(wstring2String(text))); }
+
+/// The units of a table, with the places where they begin.
+class UnitList : public varnhold::TranslationFileVisitor {
+public:
+    struct Unit {
+        std::string section;
+        std::wstring key;
+        std::wstring text;
+        varnhold::TextPosition position;
+    };
+
+    void VisitUnit(const varnhold::TranslationUnit& unit, const varnhold::TextPlace& place) override {
+        units.push_back({std::string(unit.section), string2wstring(unit.key), unit.text, place.GetPosition()});
+    }
+    void VisitProblem(varnhold::TranslationProblem /*problem*/, varnhold::TextPosition /*position*/,
+                      const std::wstring& /*text*/) override {}
+
+    std::vector<Unit> units;
+};
+
+bool ReadUnits(std::string_view table, UnitList& list) { return varnhold::ReadTranslationText(table, {}, list); }
+
+/// Where lines and columns are in a text; they are asked for in their order.
+class OffsetFinder {
+public:
+    explicit OffsetFinder(std::string_view text) : m_text(text) {}
+
+    std::size_t Find(varnhold::TextPosition position) {
+        for (; m_line < position.line && m_start < m_text.size(); ++m_start) {
+            const bool isAlone = m_text[m_start] == '\r' && m_text.substr(m_start + 1, 1) != "\n";
+            m_line += m_text[m_start] == '\n' || isAlone ? 1 : 0;
+        }
+        std::size_t at = m_start;
+        for (std::size_t column = 1; column < position.column && at < m_text.size(); ++column) {
+            do {
+                ++at;
+            } while (at < m_text.size() && (static_cast<unsigned char>(m_text[at]) & 0xC0) == 0x80);
+        }
+        return at;
+    }
+
+private:
+    std::string_view m_text;
+    std::size_t m_line = 1;
+    std::size_t m_start = 0;
+};
+
+/// Behind the ">" of the tag that begins at `at`; npos for a tag that closes itself or does not end.
+std::size_t BehindStartTag(std::string_view text, std::size_t at) {
+    char quote = 0;
+    for (; at < text.size(); ++at) {
+        if (quote != 0) {
+            quote = text[at] == quote ? '\0' : quote;
+        } else if (text[at] == '"' || text[at] == '\'') {
+            quote = text[at];
+        } else if (text[at] == '>') {
+            return text[at - 1] == '/' ? std::string_view::npos : at + 1;
+        }
+    }
+    return std::string_view::npos;
+}
+
+/// Takes the notes of both categories out of a unit, and what is empty without them.
+void RemoveOwnNotes(std::string& unit) {
+    constexpr std::string_view noNotes = "<notes></notes>";
+    for (const std::string_view start : {kPlaceNote, kUnusedNote, noNotes}) {
+        const std::size_t note = unit.find(start);
+        const std::size_t end = start == noNotes ? note : unit.find(kNoteEnd, note);
+        if (note != std::string::npos && end != std::string::npos) {
+            unit.erase(note, end + (start == noNotes ? start.size() : kNoteEnd.size()) - note);
+        }
+    }
+}
+
+void AddNote(std::string& unit, const std::string& note) {
+    constexpr std::string_view notes = "<notes>";
+    const std::size_t inside = BehindStartTag(unit, 0);
+    if (inside == std::string::npos) {
+        return;
+    }
+    const std::size_t next = unit.find_first_not_of(" \t\r\n", inside);
+    if (next != std::string::npos && unit.compare(next, notes.size(), notes) == 0) {
+        unit.insert(next + notes.size(), note);
+    } else {
+        unit.insert(inside, "<notes>" + note + "</notes>");
+    }
+}
+
+std::string NewUnit(const AskedText& asked, const std::wstring& source, std::size_t number) {
+    const std::string key = wstring2String(asked.key);
+    constexpr std::string_view plain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789._-";
+    const bool isPlain = key.find_first_not_of(plain) == std::string::npos;
+    const std::string id = isPlain ? key : "new-" + std::to_string(number);
+    return "    <unit id=\"" + id + "\" name=\"" + Escaped(key) + "\"><notes>" + std::string(kPlaceNote) +
+           Escaped(asked.note) + std::string(kNoteEnd) + "</notes><segment><source>" + Escaped(source) +
+           "</source></segment></unit>\n";
+}
+
+/// Nothing that was in the table may be another one afterwards.
+bool KeepsUnits(const UnitList& before, std::string_view after) {
+    UnitList list;
+    if (!ReadUnits(after, list)) {
+        return false;
+    }
+    std::set<std::tuple<std::string, std::wstring, std::wstring>> present;
+    for (const UnitList::Unit& unit : list.units) {
+        present.emplace(unit.section, unit.key, unit.text);
+    }
+    return std::ranges::all_of(before.units, [&](const UnitList::Unit& unit) {
+        return present.contains({unit.section, unit.key, unit.text});
+    });
+}
+
+/// Writes a table anew, piece by piece.
+class Completing {
+public:
+    Completing(const std::string& table, const UnitList& list, const TableCompletion& completion,
+               CompletionCounts& counts)
+        : m_table(table), m_list(list), m_completion(completion), m_counts(counts) {
+        for (const AskedText& text : completion.asked) {
+            m_asked.emplace(text.key, &text);
+        }
+    }
+
+    std::string Run() {
+        OffsetFinder finder(m_table);
+        std::size_t from = m_table.find("<file id=\"" + std::string(kRibbonSection) + "\"");
+        for (const UnitList::Unit& unit : m_list.units) {
+            if (unit.section == kRibbonSection) {
+                from = finder.Find(unit.position);
+                CopyUpTo(from);
+                CopyUnit(unit);
+            }
+        }
+        AddNew(from);
+        CopyUpTo(m_table.size());
+        return std::move(m_out);
+    }
+
+private:
+    void CopyUpTo(std::size_t end) {
+        m_out.append(m_table, m_copied, end - m_copied);
+        m_copied = end;
+    }
+
+    void CopyUnit(const UnitList::Unit& unit) {
+        const std::size_t end = m_table.find(kUnitEnd, m_copied);
+        if (end == std::string::npos) {
+            return;
+        }
+        const auto asked = m_asked.find(unit.key);
+        const bool isAsked = asked != m_asked.end();
+        const bool isUsed = isAsked || m_completion.keywords.contains(KeywordOf(unit.key));
+        std::string text = m_table.substr(m_copied, end - m_copied);
+        RemoveOwnNotes(text);
+        if (isAsked) {
+            AddNote(text, std::string(kPlaceNote) + Escaped(asked->second->note) + std::string(kNoteEnd));
+        } else if (!isUsed) {
+            AddNote(text, std::string(kUnusedNote) + "no file of the configuration uses it" + std::string(kNoteEnd));
+        }
+        ++(isUsed ? m_counts.kept : m_counts.unused);
+        m_out += text;
+        m_copied = end;
+        m_present.insert(unit.key);
+    }
+
+    /// `from`: where the section's last unit begins, or the section itself; npos when there is none.
+    void AddNew(std::size_t from) {
+        std::string added;
+        for (const AskedText& text : m_completion.asked) {
+            if (!m_present.contains(text.key) && !m_completion.elsewhere.contains(text.key)) {
+                const auto source = m_completion.sources.find(text.key);
+                added +=
+                    NewUnit(text, source == m_completion.sources.end() ? text.key : source->second, ++m_counts.added);
+            }
+        }
+        if (added.empty()) {
+            return;
+        }
+        const std::size_t end = from == std::string::npos ? from : m_table.find(kFileEnd, from);
+        if (end == std::string::npos) {
+            CopyUpTo(std::max(m_copied, m_table.rfind("</xliff>")));
+            m_out += "  <file id=\"" + std::string(kRibbonSection) + "\">\n" + added + "  </file>\n";
+            return;
+        }
+        // In a line of its own, before the one that ends the section.
+        const std::size_t line = m_table.rfind('\n', end) + 1;
+        const bool isAlone = line >= m_copied && m_table.find_first_not_of(" \t", line) == end;
+        CopyUpTo(isAlone ? line : end);
+        m_out += (isAlone ? "" : "\n") + added;
+    }
+
+    const std::string& m_table;
+    const UnitList& m_list;
+    const TableCompletion& m_completion;
+    CompletionCounts& m_counts;
+    std::map<std::wstring, const AskedText*> m_asked;
+    std::set<std::wstring> m_present;
+    std::string m_out;
+    std::size_t m_copied = 0;
+};
+
+} // namespace
+
+bool CompleteTable(std::string& table, const TableCompletion& completion, CompletionCounts& counts) {
+    UnitList list;
+    if (!ReadUnits(table, list)) {
+        return false;
+    }
+    std::string completed = Completing(table, list, completion, counts).Run();
+    if (!KeepsUnits(list, completed)) {
+        return false;
+    }
+    table = std::move(completed);
+    return true;
+}
+
+std::string EmptyTable(const std::wstring& sourceLanguage, const std::wstring& language) {
+    const std::string target = sourceLanguage == language ? "" : " trgLang=\"" + Escaped(language) + "\"";
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\" srcLang=\"" +
+           Escaped(sourceLanguage) + "\"" + target + ">\n  <file id=\"" + kRibbonSection + "\">\n  </file>\n</xliff>\n";
+}

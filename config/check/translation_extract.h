@@ -1,0 +1,45 @@
+#pragma once
+
+#include "config/check/gathered_elements.h"
+
+#include <map>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
+/// A text that the files ask for, and what a translator should know of it.
+struct AskedText {
+    /// The unit's key: the keyword, or "KEYWORD.tooltip".
+    std::wstring key;
+    /// "cfg/ribbon.xml, tab CatMap, panel PanelZoom, large button: two lines".
+    std::wstring note;
+};
+
+/// All texts that the elements ask for, each once, in reading order. Files are named relative to the directory.
+std::vector<AskedText> CollectAskedTexts(std::span<const GatheredElement> elements, const std::wstring& directory);
+
+/// What a table is completed with.
+struct TableCompletion {
+    std::vector<AskedText> asked;
+    /// The source texts of new units, by key; a key without one is its own.
+    std::map<std::wstring, std::wstring> sources;
+    /// Of all elements: a unit of one of them is not unused, even where no element asks for it.
+    std::set<std::wstring> keywords;
+    /// Keys that are in another table of the language.
+    std::set<std::wstring> elsewhere;
+};
+
+struct CompletionCounts {
+    std::size_t added = 0;
+    std::size_t kept = 0;
+    std::size_t unused = 0;
+};
+
+/// Completes section RibbonBarCfg of a translation table (UTF-8): units that the files use get a note of the category
+/// "place" that says where, others one of the category "unused"; both are renewed each time. Units that are missing are
+/// put at the section's end. Nothing else changes. False, with the table as it was, for what is no such table.
+bool CompleteTable(std::string& table, const TableCompletion& completion, CompletionCounts& counts);
+
+/// A table of a language without units.
+std::string EmptyTable(const std::wstring& sourceLanguage, const std::wstring& language);

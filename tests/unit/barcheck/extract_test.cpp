@@ -1,0 +1,109 @@
+#include "checked_installation.h"
+#include "extract.h"
+#include "sample_installation.h"
+
+#include <varnhold/xml.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Extracting : public testing::Test {
+protected:
+    std::string Extract(const std::wstring& language) const {
+        BarcheckOptions options;
+        options.directory = m_installation.Directory().Prefix();
+        options.extract = language;
+        std::wstring message;
+        const bool isWritten = ExtractTexts(options, message);
+        return (isWritten ? "" : "not: ") + wstring2String(message);
+    }
+    std::string Read(const std::string& name) const {
+        std::string text;
+        varnhold::ReadXmlText(m_installation.Directory().Prefix() + string2wstring(name), text);
+        return text;
+    }
+    bool Has(const std::string& name, const std::string& text) const {
+        return Read(name).find(text) != std::string::npos;
+    }
+    CheckedInstallation m_installation;
+};
+
+TEST_F(Extracting, ANewTableHasAllTextsWithTheirPlacesAndTheEnglishSources) {
+    WriteSample(m_installation);
+    EXPECT_EQ(Extract(L"fr"), "lang/fr/commands.xlf: 29 new, 0 kept, 0 unused");
+    const std::string table = Read("lang/fr/commands.xlf");
+    EXPECT_NE(table.find("srcLang=\"en\" trgLang=\"fr\""), std::string::npos);
+    EXPECT_NE(
+        table.find("<unit id=\"Save\" name=\"Save\"><notes><note category=\"place\">cfg/ribbon.xml, tab CatMap, panel "
+                   "PanelFile, small button: one line</note></notes><segment><source>Save</source></segment></unit>"),
+        std::string::npos)
+        << table;
+    EXPECT_NE(table.find("menu MenuFile, item; its tooltip"), std::string::npos);
+    EXPECT_NE(table.find("field: 130 pixels at 100 %; its tooltip"), std::string::npos);
+    for (const Diagnostic& finding : m_installation.Check()) {
+        EXPECT_EQ(finding.code, "untranslated-text");
+    }
+}
+
+TEST_F(Extracting, WhatIsTranslatedStaysAndASecondRunChangesNothing) {
+    WriteSample(m_installation);
+    EXPECT_EQ(Extract(L"DE"), "lang/de/a.xlf: 0 new, 29 kept, 0 unused");
+    EXPECT_TRUE(Has("lang/de/a.xlf", "<target>de Save</target>"));
+    const std::string once = Read("lang/de/a.xlf");
+    Extract(L"de");
+    EXPECT_EQ(Read("lang/de/a.xlf"), once);
+    EXPECT_EQ(m_installation.Findings(), "");
+}
+
+TEST_F(Extracting, WhatNoFileUsesIsMarkedUntilOneDoes) {
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" TYPE=\"slider\"/>"));
+    m_installation.WriteTable("en",
+                              "<unit id=\"Old\"><notes><note>mine</note></notes><segment><source>Old</source></segment>"
+                              "</unit>\n<unit id=\"In\"><segment><source>In</source></segment></unit>");
+    EXPECT_EQ(Extract(L"en"), "lang/en/a.xlf: 1 new, 1 kept, 1 unused");
+    EXPECT_TRUE(Has("lang/en/a.xlf",
+                    "<notes><note category=\"unused\">no file of the configuration uses it</note><note>mine"
+                    "</note></notes>"));
+    EXPECT_TRUE(Has("lang/en/a.xlf", "<unit id=\"In\"><segment>")); // nobody asks for it, but it has an element
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"Old\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    EXPECT_EQ(Extract(L"en"), "lang/en/a.xlf: 0 new, 2 kept, 1 unused");
+    EXPECT_TRUE(Has("lang/en/a.xlf",
+                    "<notes><note category=\"place\">cfg/ribbon.xml, tab Map, panel Views, large button: two "
+                    "lines</note><note>mine</note></notes>"));
+    EXPECT_FALSE(Has("lang/en/a.xlf", "name=\"Old\"><notes><note category=\"unused\""));
+}
+
+TEST_F(Extracting, OtherSectionsFilesAndSignsAreRespected) {
+    m_installation.Write("cfg/ribbon.xml",
+                         RibbonWith("<i KEYWORD=\"a &lt; b\" NAME=\"\" TYPE=\"BUTTON\"/><i KEYWORD=\"In\" NAME=\"\" "
+                                    "TYPE=\"BUTTON\"/>"));
+    m_installation.Write("lang/en/a.xlf",
+                         "<xliff version=\"2.0\" srcLang=\"en\"><file id=\"Common\"><unit id=\"t\"><segment>"
+                         "<source>x</source></segment></unit></file></xliff>");
+    m_installation.Write("lang/en/b.xlf",
+                         "<xliff version=\"2.0\" srcLang=\"en\"><file id=\"RibbonBarCfg\"><unit id=\"In\">"
+                         "<segment><source>In</source></segment></unit></file></xliff>");
+    EXPECT_EQ(Extract(L"en"), "lang/en/b.xlf: 2 new, 1 kept, 0 unused");
+    EXPECT_TRUE(Has("lang/en/b.xlf", "name=\"a &lt; b\""));
+    EXPECT_FALSE(Has("lang/en/a.xlf", "note"));
+    EXPECT_EQ(m_installation.Findings(), "");
+}
+
+TEST_F(Extracting, NothingIsWrittenWhereSomethingCannotBeRead) {
+    WriteSample(m_installation);
+    const std::string before = Read("lang/de/a.xlf");
+    m_installation.Write("cfg/menu.xml", "<menu>");
+    EXPECT_TRUE(Extract(L"de").starts_with("not: a file could not be read"));
+    EXPECT_EQ(Read("lang/de/a.xlf"), before);
+    m_installation.Write("cfg/menu.xml", SampleMenu());
+    m_installation.Write("lang/de/a.xlf", "<xliff>");
+    EXPECT_TRUE(Extract(L"de").starts_with("not: a table of this language is broken"));
+    m_installation.Write("lang/de/a.xlf",
+                         "<?xml version='1.0' encoding='GBK'?><xliff version='2.0' srcLang='en'><file "
+                         "id='RibbonBarCfg'><unit id='In'><segment><source>\xB5\xD8</source></segment></unit>"
+                         "</file></xliff>");
+    EXPECT_EQ(Extract(L"de"), "not: lang/de/a.xlf is not in UTF-8: save it so first");
+}
+
+} // namespace
