@@ -2,6 +2,7 @@
 #include "extract.h"
 #include "options.h"
 #include "reports.h"
+#include "schema.h"
 
 #include <varnhold/strings.h>
 
@@ -69,6 +70,9 @@ int Run(const std::vector<std::wstring>& arguments) {
         return Clean;
     case BarcheckOptions::Task::Extract:
         return Extract(*options);
+    case BarcheckOptions::Task::Schema:
+        Print(SchemaOf(options->schema), stdout);
+        return Clean;
     case BarcheckOptions::Task::Check:
         break;
     }

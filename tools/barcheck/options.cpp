@@ -50,6 +50,26 @@ struct Option {
     bool (*set)(BarcheckOptions& options, const std::wstring& value);
 };
 
+struct KindName {
+    std::wstring_view name;
+    ConfigurationKind kind;
+};
+constexpr KindName kKinds[] = {
+    {L"ribbon", ConfigurationKind::Ribbon},
+    {L"menu", ConfigurationKind::Menu},
+    {L"toolbar", ConfigurationKind::ToolBars},
+};
+
+bool SetSchema(BarcheckOptions& options, const std::wstring& value) {
+    const auto* const found = std::ranges::find(kKinds, value, &KindName::name);
+    if (found == std::end(kKinds)) {
+        return false;
+    }
+    options.task = BarcheckOptions::Task::Schema;
+    options.schema = found->kind;
+    return true;
+}
+
 bool SetStrict(BarcheckOptions& options, const std::wstring& /*value*/) { return options.isStrict = true; }
 
 template <BarcheckOptions::Task task>
@@ -62,6 +82,7 @@ constexpr Option kOptions[] = {
     {L"--format", true, SetFormat},
     {L"--lang", true, SetLanguage},
     {L"--extract", true, SetExtract},
+    {L"--schema", true, SetSchema},
     {L"--strict", false, SetStrict},
     {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
     {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
@@ -124,6 +145,7 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
 const char* BarcheckUsage() {
     return "usage: barcheck DIR [FILE...] [--format text|json|sarif|github] [--strict] [--lang LANG]\n"
            "       barcheck DIR [FILE...] --extract LANG\n"
+           "       barcheck --schema ribbon|menu|toolbar\n"
            "       barcheck --guide\n"
            "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
            "files, the translation tables below lang and the icons that the files name. It reads them as the library\n"
@@ -138,6 +160,7 @@ const char* BarcheckUsage() {
            "  --extract writes the table lang\\LANG, or completes the one that is there, with all texts that the files "
            "ask\n"
            "            for and a note where each stands; marks those that no file uses\n"
+           "  --schema  an XML schema for this kind of file, as in docs/schemas\n"
            "  --guide   what every code means, as in docs/diagnostics.md\n"
            "Exit code: 0 nothing but notes, 1 findings, or a table that was not written, 2 wrong usage.\n";
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "config/check/configuration_check.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -8,7 +10,7 @@ enum class ReportFormat { Text, Json, Sarif, Github };
 
 /// What the program was asked for.
 struct BarcheckOptions {
-    enum class Task { Check, Extract, Guide, Help };
+    enum class Task { Check, Extract, Guide, Schema, Help };
     Task task = Task::Check;
     /// Installation directory, with its closing separator.
     std::wstring directory;
@@ -18,6 +20,8 @@ struct BarcheckOptions {
     /// Notes count as findings.
     bool isStrict = false;
     std::wstring language;
+    /// The kind of file that a schema is wanted for.
+    ConfigurationKind schema = ConfigurationKind::Ribbon;
     /// The language whose table is to be written.
     std::wstring extract;
 };

@@ -27,22 +27,6 @@ std::string TakeMark(std::string& text) {
     return std::to_string(line) + ":" + std::to_string(column);
 }
 
-/// The sample's file with the fault in it; empty when the place is not there once.
-std::string Plant(const PlantedFault& fault) {
-    for (const SampleFile& file : SampleFiles()) {
-        if (file.name != std::string_view(fault.file)) {
-            continue;
-        }
-        std::string text = file.text;
-        const std::size_t at = text.find(fault.before);
-        if (at == std::string::npos || text.find(fault.before, at + 1) != std::string::npos) {
-            return {};
-        }
-        return text.replace(at, std::string_view(fault.before).size(), fault.after);
-    }
-    return {};
-}
-
 TEST(PlantedFault, TheSampleItselfIsClean) {
     const CheckedInstallation installation;
     WriteSample(installation);
@@ -59,7 +43,7 @@ TEST(PlantedFault, EachIsFoundAloneInItsPlace) {
                 installation.Write(file.name, file.text);
             }
         }
-        std::string text = Plant(fault);
+        std::string text = MarkedFault(fault);
         ASSERT_FALSE(text.empty()) << fault.before << " stands not once in " << fault.file;
         const std::string place = TakeMark(text);
         installation.Write(fault.file, text);

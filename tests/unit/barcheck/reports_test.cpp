@@ -100,6 +100,8 @@ TEST(BarcheckOptions, AreReadInAnyOrder) {
     EXPECT_EQ(options->format, ReportFormat::Sarif);
     EXPECT_TRUE(ParseBarcheckOptions({L"--guide"}, error));
     EXPECT_TRUE(ParseBarcheckOptions({L"--help"}, error));
+    EXPECT_EQ(ParseBarcheckOptions({L"--schema", L"menu"}, error)->schema, ConfigurationKind::Menu);
+    EXPECT_EQ(ParseBarcheckOptions({path, L"--extract", L"fr"}, error)->extract, L"fr");
 }
 
 TEST(BarcheckOptions, WrongUsageIsSaid) {
@@ -111,7 +113,7 @@ TEST(BarcheckOptions, WrongUsageIsSaid) {
                                                        {path, L"--format", L"xml"},
                                                        {path, L"--lang", L""},
                                                        {path, L"--lang", L"../x"},
-                                                       {path, L"--stict"}}) {
+                                                       {path, L"--sstrict"}}) {
         std::wstring error;
         EXPECT_FALSE(ParseBarcheckOptions(arguments, error));
         EXPECT_NE(error, L"");

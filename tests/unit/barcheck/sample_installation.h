@@ -1,6 +1,7 @@
 #pragma once
 
 #include "checked_installation.h"
+#include "planted_faults.h"
 
 #include <array>
 
@@ -127,4 +128,27 @@ inline void WriteSample(const CheckedInstallation& installation) {
     for (const char* name : {"open", "save", "zoom", "west", "east", "measure", "find"}) {
         installation.WriteIcon("pic/icon", std::string(name) + ".ico");
     }
+}
+
+/// The sample's file with the fault in it; empty when the place is not there once.
+inline std::string MarkedFault(const PlantedFault& fault) {
+    for (const SampleFile& file : SampleFiles()) {
+        if (file.name != std::string_view(fault.file)) {
+            continue;
+        }
+        std::string text = file.text;
+        const std::size_t at = text.find(fault.before);
+        if (at == std::string::npos || text.find(fault.before, at + 1) != std::string::npos) {
+            return {};
+        }
+        return text.replace(at, std::string_view(fault.before).size(), fault.after);
+    }
+    return {};
+}
+
+/// The same without the mark.
+inline std::string TextWithFault(const PlantedFault& fault) {
+    std::string text = MarkedFault(fault);
+    const std::size_t mark = text.find(kMark);
+    return mark == std::string::npos ? text : text.erase(mark, std::string_view(kMark).size());
 }
