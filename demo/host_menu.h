@@ -2,10 +2,13 @@
 
 #include <windows.h>
 
-/// The menu of right clicks on the ribbon, made of configured commands. Owns the menu.
+/// A menu that is made of configured commands and of no file. Owns the menu.
 class HostMenu {
 public:
-    HostMenu() = default;
+    /// The menu of right clicks on the ribbon, or the one at the right end of the menu bar, which is a popup in a menu.
+    enum class Kind { RightClick, Help };
+
+    explicit HostMenu(Kind kind) : m_kind(kind) {}
     ~HostMenu();
     HostMenu(const HostMenu&) = delete;
     HostMenu& operator=(const HostMenu&) = delete;
@@ -15,5 +18,6 @@ public:
     HMENU Build();
 
 private:
+    Kind m_kind;
     HMENU m_menu = nullptr;
 };

@@ -12,6 +12,7 @@
 
 #include <commdlg.h>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -27,6 +28,22 @@ constexpr int kScaleStep = 5;
 constexpr int kSecondSliderWidth = 100;
 
 CString NameOf(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "RibbonBarCfg").c_str(); }
+
+template <class Keys>
+std::vector<std::wstring> NamesOf(const Keys& keys) {
+    std::vector<std::wstring> names;
+    for (const char* key : keys) {
+        names.emplace_back(NameOf(key).GetString());
+    }
+    return names;
+}
+
+/// -1 when none has this name.
+template <class Keys>
+int IndexOfName(const Keys& keys, const CString& name) {
+    const auto found = std::find_if(keys.begin(), keys.end(), [&](const char* key) { return NameOf(key) == name; });
+    return found == keys.end() ? -1 : static_cast<int>(found - keys.begin());
+}
 
 COLORREF ToColorRef(std::uint32_t rgb) { return RGB(rgb >> 16 & 0xFF, rgb >> 8 & 0xFF, rgb & 0xFF); }
 std::uint32_t FromColorRef(COLORREF color) {
@@ -81,13 +98,8 @@ private:
 
 } // namespace
 
-std::vector<std::wstring> LayerControls::LayerNames() {
-    std::vector<std::wstring> names;
-    for (const char* key : kLayerKeys) {
-        names.emplace_back(NameOf(key).GetString());
-    }
-    return names;
-}
+std::vector<std::wstring> LayerControls::LayerNames() { return NamesOf(kLayerKeys); }
+std::vector<std::wstring> LayerControls::LabelNames() { return NamesOf(kLabelKeys); }
 
 void LayerControls::Attach(CMFCRibbonBar& ribbon) {
     m_shown = FindElement<CMFCRibbonCheckComb>(ribbon, L"LayersShown");
@@ -211,12 +223,15 @@ std::optional<MapLayer> LayerControls::ChosenLayer() const {
     return static_cast<MapLayer>(item);
 }
 
-void LayerControls::TakeChecks() {
-    for (int i = 0; m_shown && i < static_cast<int>(MapLayer::Count); ++i) {
-        bool isChecked = false;
-        if (m_shown->GetItemCheck(i, isChecked)) {
-            m_state.SetShown(static_cast<MapLayer>(i), isChecked);
-        }
+void LayerControls::TakeCheck(const CString& text, bool isChecked) {
+    if (const int item = IndexOfName(kLayerKeys, text); item >= 0) {
+        m_state.SetShown(static_cast<MapLayer>(item), isChecked);
+    }
+}
+
+void LayerControls::Choose(MapLayer layer) {
+    if (m_styles && m_styles->GetCurSel() != static_cast<int>(layer)) {
+        m_styles->SelectItem(static_cast<int>(layer));
     }
 }
 
@@ -239,16 +254,13 @@ bool LayerControls::AskColor(int item, CWnd* owner) {
 }
 
 bool LayerControls::TakeLight(const CString& text, bool lit) {
-    const int item = m_styles ? m_styles->FindItem(text) : -1;
+    const int item = IndexOfName(kLayerKeys, text);
     return item >= 0 && m_state.SetLit(static_cast<MapLayer>(item), lit);
 }
 
-void LayerControls::TakeLabelLights() {
-    for (int i = 0; m_labels && i < static_cast<int>(MapLabel::Count); ++i) {
-        bool isLit = false;
-        if (m_labels->GetItemLight(i, isLit)) {
-            m_state.SetLit(static_cast<MapLabel>(i), isLit);
-        }
+void LayerControls::TakeLabelLight(const CString& text, bool isLit) {
+    if (const int item = IndexOfName(kLabelKeys, text); item >= 0) {
+        m_state.SetLit(static_cast<MapLabel>(item), isLit);
     }
 }
 

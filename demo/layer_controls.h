@@ -23,6 +23,8 @@ public:
 
     /// What the layers are called in the language in force, in their order.
     static std::vector<std::wstring> LayerNames();
+    /// The same for the texts on the map.
+    static std::vector<std::wstring> LabelNames();
 
     void Attach(CMFCRibbonBar& ribbon);
     /// Brings the controls to the state's values.
@@ -35,14 +37,16 @@ public:
     /// The layer that is chosen in the combo of colours.
     std::optional<MapLayer> ChosenLayer() const;
 
-    /// The user ticked one layer or all.
-    void TakeChecks();
+    /// The user ticked the layer of this text, in whichever combo, or took the tick away.
+    void TakeCheck(const CString& text, bool isChecked);
+    /// The user has chosen a layer in another combo of colours.
+    void Choose(MapLayer layer);
     /// Asks for the colour of the combo's item with the system's dialog. True when one was chosen.
     bool AskColor(int item, CWnd* owner);
     /// Whether the layer of this text took the light.
     bool TakeLight(const CString& text, bool lit);
-    /// The user switched the light of a text on the map.
-    void TakeLabelLights();
+    /// The user switched the light of the text on the map that has this name.
+    void TakeLabelLight(const CString& text, bool isLit);
 
     /// The pointer is over this place of the map.
     void ShowPointer(GeoPoint place);

@@ -46,9 +46,10 @@ struct Skin {
     int style;                ///< As the ribbon numbers them.
     const wchar_t* iconStyle; ///< "0": light icons for dark ground
     const wchar_t* icons;     ///< The folder of those that can be seen on it
+    const wchar_t* iconSet;   ///< The end of its name
 };
-constexpr std::array<Skin, 2> kSkins = {
-    {{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\"}, {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\"}}};
+constexpr std::array<Skin, 2> kSkins = {{{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\", L"\\modle\\"},
+                                         {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\", L"\\modle_0\\"}}};
 
 /// On the row of tabs, which is dark in both skins: its icon is the light one in both.
 class SkinButton : public CMFCRibbonUNIcoButton {
@@ -129,6 +130,7 @@ CMainFrame::CMainFrame(const DemoOptions& options)
       m_pane(m_state, m_data, m_map),
       m_ribbon(TRUE),
       m_modes(m_ribbon),
+      m_bars(m_state),
       m_controls(m_state),
       m_skin(options.skin.empty() ? PreferredSkin() : options.skin) {
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
@@ -158,12 +160,16 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     CMFCToolTipInfo tooltips;
     tooltips.m_bVislManagerTheme = TRUE;
     CTooltipManager().SetTooltipParams(AFX_TOOLTIP_TYPE_RIBBON, RUNTIME_CLASS(CToolTipCtrlEx), &tooltips);
-    if (!m_ribbon.Create(this) || !m_pane.Create(this, AFX_IDW_PANE_FIRST)) {
+    if (!m_ribbon.Create(this) || !m_bars.Create(*this) || !m_pane.Create(this, AFX_IDW_PANE_FIRST)) {
         return -1;
     }
     m_ribbon.EnableToolTips(TRUE, TRUE);
+    m_bars.TakeShortcuts();
     BuildRibbon();
     ApplyTexts();
+    if (m_options.showsClassicBars) {
+        ShowClassicBars(true);
+    }
     m_pane.SetChangeListener([this] { TakeChange(); });
     m_map.SetPointerListener([this](GeoPoint place) {
         m_controls.ShowPointer(place);
@@ -266,8 +272,10 @@ void CMainFrame::BuildRibbon() {
     AddSkinButton();
     m_modes.Attach(builder, m_state.Mode(), shown);
     m_ribbon.setHMenu(m_contextMenu.Build());
+    m_bars.Build();
+    TakeBarIcons();
     m_controls.Attach(m_ribbon);
-    m_controls.ShowState(); // first: the layout paints at once
+    ShowState(); // first: the layout paints at once
     m_ribbon.ForceRecalcLayout();
     m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
     BuildStatusBar();
@@ -314,7 +322,10 @@ void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
 
 void CMainFrame::ShowState() {
     m_controls.ShowState();
-    m_status->ShowState(m_state);
+    m_bars.ShowState(m_controls.ChosenLayer());
+    if (m_status) { // it comes behind the ribbon
+        m_status->ShowState(m_state);
+    }
     m_pane.ShowState();
 }
 
@@ -329,8 +340,9 @@ LRESULT CMainFrame::OnLightTaken(WPARAM, LPARAM) {
     return 0;
 }
 
-LRESULT CMainFrame::OnLayerChecked(WPARAM, LPARAM) {
-    m_controls.TakeChecks();
+// Odd: checked, alone (1) or together with the others (3).
+LRESULT CMainFrame::OnLayerChecked(WPARAM text, LPARAM check) {
+    m_controls.TakeCheck(*reinterpret_cast<const CString*>(text), (check & 1) != 0);
     TakeChange();
     return 0;
 }
@@ -351,8 +363,8 @@ LRESULT CMainFrame::OnLayerLight(WPARAM text, LPARAM isOn) {
     return 1;
 }
 
-LRESULT CMainFrame::OnLabelLight(WPARAM, LPARAM) {
-    m_controls.TakeLabelLights();
+LRESULT CMainFrame::OnLabelLight(WPARAM text, LPARAM isOn) {
+    m_controls.TakeLabelLight(*reinterpret_cast<const CString*>(text), isOn != 0);
     TakeChange();
     return 0;
 }
@@ -428,10 +440,14 @@ void CMainFrame::WriteRecord() {
                                      {"mode", wstring2String(WorkingModes::NameOf(m_state.Mode()))},
                                      {"skin", wstring2String(m_skin)},
                                      {"iconStyle", wstring2String(m_iconStyle)},
+                                     {"classicBars", m_bars.IsShown()},
                                      {"frame", DumpFrame({.ribbon = &m_ribbon,
                                                           .statusBar = m_status.get(),
                                                           .commands = {m_commandTexts},
-                                                          .application = m_status->Application()})}};
+                                                          .menus = {m_bars.Menu().GetMenu()},
+                                                          .accelerators = m_hAccelTable,
+                                                          .application = m_status->Application(),
+                                                          .toolBars = m_bars.GroupedToolbars()})}};
     CRect ribbon;
     m_ribbon.GetWindowRect(ribbon);
     const auto onScreen = [&ribbon](CRect rect) {
@@ -528,6 +544,12 @@ void CMainFrame::SwitchSkin(const std::wstring& name) {
     const auto isOther = [this](const Skin& skin) { return m_skin != skin.name; };
     m_skin = name == L"switch" ? std::find_if(kSkins.begin(), kSkins.end(), isOther)->name : name;
     ApplySkin();
+    TakeBarIcons();
+}
+
+void CMainFrame::TakeBarIcons() {
+    const auto isShown = [this](const Skin& skin) { return m_skin == skin.name; };
+    m_bars.TakeIcons(m_ribbon, std::find_if(kSkins.begin(), kSkins.end(), isShown)->iconSet);
 }
 
 bool CMainFrame::IsSkin(const std::wstring& name) const { return m_skin == name; }
@@ -550,6 +572,31 @@ void CMainFrame::ToggleQuickAccessBelow() {
 }
 
 bool CMainFrame::IsQuickAccessBelow() const { return !m_ribbon.IsQuickAccessToolbarOnTop(); }
+
+void CMainFrame::ToggleClassicBars() { ShowClassicBars(!m_bars.IsShown()); }
+
+void CMainFrame::ShowClassicBars(bool isShown) {
+    if (isShown) {
+        m_bars.ShowState(m_controls.ChosenLayer());
+    }
+    m_bars.Show(isShown);
+    ShowPane(&m_ribbon, !isShown, TRUE, FALSE);
+    RecalcLayout();
+}
+
+std::optional<MapLayer> CMainFrame::ChosenLayer() const {
+    return m_bars.IsShown() ? m_bars.ChosenLayer() : m_controls.ChosenLayer();
+}
+
+// Toolbars have their texts from their file, which speaks one language.
+BOOL CMainFrame::GetToolbarButtonToolTipText(CMFCToolBarButton* button, CString& text) {
+    std::wstring keyword;
+    if (!CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(button->m_nID), keyword)) {
+        return FALSE;
+    }
+    text = CMultiLanguageMgr::translation(keyword, "RibbonBarCfg").c_str();
+    return !text.IsEmpty();
+}
 
 void CMainFrame::CopyPicture() {
     CBitmap picture;

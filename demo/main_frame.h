@@ -2,6 +2,7 @@
 
 #include <afxcontrolbars.h>
 
+#include "classic_bars.h"
 #include "help_hint.h"
 #include "host_menu.h"
 #include "layer_controls.h"
@@ -50,21 +51,23 @@ protected:
     afx_msg LRESULT OnCategoryChanged(WPARAM, LPARAM);
     afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);
     afx_msg LRESULT OnLightTaken(WPARAM, LPARAM);
-    afx_msg LRESULT OnLayerChecked(WPARAM, LPARAM);
+    afx_msg LRESULT OnLayerChecked(WPARAM text, LPARAM check);
     afx_msg LRESULT OnLayerColor(WPARAM item, LPARAM);
     afx_msg LRESULT OnLayerLight(WPARAM text, LPARAM isOn);
-    afx_msg LRESULT OnLabelLight(WPARAM, LPARAM);
+    afx_msg LRESULT OnLabelLight(WPARAM text, LPARAM isOn);
     afx_msg LRESULT OnLabelClicked(WPARAM label, LPARAM);
     DECLARE_MESSAGE_MAP()
 
 private:
     void BuildRibbon();
     void BuildStatusBar();
+    void ShowClassicBars(bool isShown);
     void AddSkinButton();
     void ShowState();
     /// After a change that came by a message.
     void TakeChange();
     void ApplySkin();
+    void TakeBarIcons();
     void SavePicture(CBitmap& picture, bool isMade);
     /// What of the map goes on the page.
     bool MakePage(CBitmap& picture);
@@ -72,7 +75,7 @@ private:
 
     int ScaleSliderPosition() const override;
     std::wstring PlaceText() const override;
-    std::optional<MapLayer> ChosenLayer() const override { return m_controls.ChosenLayer(); }
+    std::optional<MapLayer> ChosenLayer() const override;
     bool IsPlaceConfirmed() const override;
     void TellPlaceUnknown(const std::wstring& text) override;
     void TellAbout() override;
@@ -90,6 +93,9 @@ private:
     bool IsRibbonMinimized() const override;
     void ToggleQuickAccessBelow() override;
     bool IsQuickAccessBelow() const override;
+    void ToggleClassicBars() override;
+    bool AreClassicBarsShown() const override { return m_bars.IsShown(); }
+    BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* button, CString& text) override;
     void CopyPicture() override;
     void SavePicture() override;
     void OpenMapFile() override;
@@ -108,7 +114,8 @@ private:
     CMapPane m_pane;
     CViewerRibbon m_ribbon;
     WorkingModes m_modes;
-    HostMenu m_contextMenu;
+    ClassicBars m_bars;
+    HostMenu m_contextMenu{HostMenu::Kind::RightClick};
     HelpHint m_helpHint;
     std::unique_ptr<CViewerStatusBar> m_status; ///< Made anew with the ribbon, whose commands it shows.
     LayerControls m_controls;

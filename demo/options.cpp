@@ -11,6 +11,7 @@ constexpr int kLargest = 100000;
 std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
     DemoOptions options;
     std::wstring direction;
+    std::wstring bars;
     std::vector<std::wstring> words;
     const bool isUnderstood = OptionTable()
                                   .AddText(L"--lang", options.language)
@@ -20,10 +21,12 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
                                   .AddText(L"--screenshot", options.screenshot)
                                   .AddText(L"--record", options.record)
                                   .AddChoice(L"--direction", {L"ltr", L"rtl"}, direction)
+                                  .AddChoice(L"--bars", {L"ribbon", L"classic"}, bars)
                                   .AddSize(L"--size", kLargest, options.width, options.height)
                                   .AddNumber(L"--scale", 0, kLargest, options.scalePercent)
                                   .AddNumber(L"--category", 0, kLargest, options.category)
                                   .Read(arguments, 0, words, error);
     options.isRightToLeft = direction == L"rtl";
+    options.showsClassicBars = bars == L"classic";
     return isUnderstood ? std::optional(options) : std::nullopt;
 }

@@ -300,12 +300,16 @@ boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host) {
         [&host](const std::wstring& what) {
             if (what == L"below") {
                 host.ToggleQuickAccessBelow();
+            } else if (what == L"classic") {
+                host.ToggleClassicBars();
             } else {
                 host.ToggleRibbonMinimized();
             }
         },
         [&host](const std::wstring& what) {
-            return what == L"below" ? host.IsQuickAccessBelow() : host.IsRibbonMinimized();
+            return what == L"below"     ? host.IsQuickAccessBelow()
+                   : what == L"classic" ? host.AreClassicBarsShown()
+                                        : host.IsRibbonMinimized();
         });
     reactor->Serve(L"keyboard", [&host](const std::wstring&) { host.TellKeyboard(); });
     reactor->Serve(L"about", [&host](const std::wstring&) { host.TellAbout(); });

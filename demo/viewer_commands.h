@@ -35,6 +35,9 @@ public:
     virtual bool IsRibbonMinimized() const = 0;
     virtual void ToggleQuickAccessBelow() = 0;
     virtual bool IsQuickAccessBelow() const = 0;
+    /// Menu bar and toolbars in the ribbon's place.
+    virtual void ToggleClassicBars() = 0;
+    virtual bool AreClassicBarsShown() const = 0;
     /// A picture of the map as it is on the screen: to the clipboard, or to a file that the user names.
     virtual void CopyPicture() = 0;
     virtual void SavePicture() = 0;

@@ -100,6 +100,44 @@ std::string MakeRibbonFile(std::size_t buttons, std::size_t iconFiles) {
     return text + "  </row>\n</ribbon>\n";
 }
 
+std::string MakeMenuFile(std::size_t items, std::size_t iconFiles) {
+    constexpr std::size_t kItemsInAPopup = 20, kItemsForAShortcut = 10, kLetters = 26;
+    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<menu>\n  <group>\n";
+    for (std::size_t i = 0; i < items; ++i) {
+        const std::string n = std::to_string(items) + "_" + std::to_string(i);
+        if (i % kItemsInAPopup == 0) {
+            text += "    <popup KEYWORD=\"Popup" + n + "\" MENUNAME=\"\">\n";
+        }
+        text += "      <item KEYWORD=\"Item" + n + "\" MENUNAME=\"\" TOOLTIP=\"\" PicPath=\"pic\\modle\\icon" +
+                std::to_string(i % iconFiles) + ".ico\" CMD=\"command\" Param=\"" + n + "\"";
+        if (i % kItemsForAShortcut == 0) {
+            text += std::string(" HOTKEY=\"Ctrl+") + static_cast<char>('A' + i / kItemsForAShortcut % kLetters) + "\"";
+        }
+        text += "/>\n";
+        if ((i + 1) % kItemsInAPopup == 0 || i + 1 == items) {
+            text += "    </popup>\n";
+        }
+    }
+    return text + "  </group>\n</menu>\n";
+}
+
+std::string MakeToolbarFile(std::size_t buttons, std::size_t iconFiles) {
+    constexpr std::size_t kButtonsInABar = 25;
+    std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<toolbars>\n  <group KEYWORD=\"Group\">\n";
+    for (std::size_t i = 0; i < buttons; ++i) {
+        const std::string n = std::to_string(buttons) + "_" + std::to_string(i);
+        if (i % kButtonsInABar == 0) {
+            text += "    <toolbar PROMPT=\"Bar" + n + "\">\n";
+        }
+        text += "      <button TYPE=\"button\" KEYWORD=\"Button" + n +
+                "\" PROMPT=\"Button\" PICPATH=\"pic\\modle\\icon" + std::to_string(i % iconFiles) + ".ico\"/>\n";
+        if ((i + 1) % kButtonsInABar == 0 || i + 1 == buttons) {
+            text += "    </toolbar>\n";
+        }
+    }
+    return text + "  </group>\n</toolbars>\n";
+}
+
 ScenarioDirectory::ScenarioDirectory() {
     std::random_device device;
     m_path = std::filesystem::temp_directory_path() / ("barwright-bench-" + std::to_string(device()));
@@ -109,6 +147,11 @@ ScenarioDirectory::ScenarioDirectory() {
 ScenarioDirectory::~ScenarioDirectory() {
     std::error_code ignored;
     std::filesystem::remove_all(m_path, ignored);
+}
+
+std::wstring ScenarioDirectory::AddFile(const std::string& name, const std::string& text) {
+    WriteFile(m_path / "cfg" / name, text);
+    return L"cfg\\" + std::wstring(name.begin(), name.end());
 }
 
 std::wstring ScenarioDirectory::AddRibbonFile(std::size_t buttons, std::size_t iconFiles) {

@@ -14,6 +14,11 @@ std::vector<std::wstring> MakeKeywords(std::size_t count, std::size_t length);
 /// turn from `iconFiles` icon files.
 std::string MakeRibbonFile(std::size_t buttons, std::size_t iconFiles);
 
+/// The same of a menu file, 20 items in a popup and a shortcut for each tenth item; of a toolbar file, 25 buttons in a
+/// bar.
+std::string MakeMenuFile(std::size_t items, std::size_t iconFiles);
+std::string MakeToolbarFile(std::size_t buttons, std::size_t iconFiles);
+
 /// A new directory below the temporary one, removed with all it holds at the end.
 class ScenarioDirectory {
 public:
@@ -26,6 +31,8 @@ public:
 
     /// cfg/ribbonBUTTONS.xml and, once, the icon files in 16 and 32 pixels. Returns the file's name below cfg.
     std::wstring AddRibbonFile(std::size_t buttons, std::size_t iconFiles);
+    /// cfg/NAME with the text. Returns the path below the directory.
+    std::wstring AddFile(const std::string& name, const std::string& text);
 
 private:
     std::filesystem::path m_path;

@@ -1,5 +1,6 @@
 #include <afxcontrolbars.h>
 
+#include "batch.h"
 #include "options.h"
 
 #include "add_ribbon_bar.h"
@@ -231,21 +232,14 @@ public:
                 return IDOK;
             });
         }
-        Prepare();
-
-        auto* const frame = new CPreviewFrame(m_options); // destroys itself with its window
-        m_pMainWnd = frame;
-        if (!frame->CreateFrame()) {
-            m_exitCode = kLoadFailed;
+        if (!m_options.batch.empty()) {
+            RunBatch();
             return FALSE;
         }
-        if (!frame->Build()) {
-            m_exitCode = kLoadFailed;
-        }
-        frame->ShowWindow(SW_SHOW);
-        frame->UpdateWindow();
-        if (!m_options.IsUnattended()) {
-            return TRUE;
+        Prepare(m_options.directory);
+        CPreviewFrame* const frame = Build();
+        if (frame == nullptr || !m_options.IsUnattended()) {
+            return frame != nullptr;
         }
         SettleWindow(frame->GetSafeHwnd());
         WriteOutputs(*frame);
@@ -261,8 +255,63 @@ public:
     }
 
 private:
-    void Prepare() {
-        FileOp::SetAppPath(m_options.directory);
+    /// The bars that the options describe; null when there is no window for them. Destroys itself with its window.
+    CPreviewFrame* Build() {
+        auto* const frame = new CPreviewFrame(m_options);
+        m_pMainWnd = frame;
+        if (!frame->CreateFrame()) {
+            m_exitCode = kLoadFailed;
+            return nullptr;
+        }
+        if (!frame->Build()) {
+            m_exitCode = kLoadFailed;
+        }
+        frame->ShowWindow(SW_SHOW);
+        frame->UpdateWindow();
+        return frame;
+    }
+
+    void RunBatch() {
+        std::wstring error;
+        const std::optional<std::vector<BatchEntry>> entries = ReadBatch(m_options.batch, error);
+        if (!entries) {
+            Complain(error);
+            m_exitCode = kWrongUsage;
+            return;
+        }
+        const BarviewOptions given = m_options;
+        for (const BatchEntry& entry : *entries) {
+            m_options = given;
+            RunEntry(entry);
+        }
+    }
+
+    void RunEntry(const BatchEntry& entry) {
+        if (!EnterDirectory(entry.directory)) {
+            Complain(L"no such directory: " + entry.directory);
+            m_exitCode = kLoadFailed;
+            return;
+        }
+        ForgetConfiguration();
+        TakeDirectory(kCurrentDirectory, m_options);
+        Prepare(kCurrentDirectory);
+        CPreviewFrame* const frame = Build();
+        if (frame == nullptr) {
+            return;
+        }
+        SettleWindow(frame->GetSafeHwnd());
+        nlohmann::ordered_json dump = DumpFrame(frame->Sources());
+        NameDirectory(dump, entry.directory);
+        if (!WriteJson(dump, entry.dump)) {
+            Complain(L"not written: " + entry.dump);
+            m_exitCode = kLoadFailed;
+        }
+        m_pMainWnd = nullptr; // its end is not that of the program
+        frame->DestroyWindow();
+    }
+
+    void Prepare(const std::wstring& directory) {
+        FileOp::SetAppPath(directory);
         CMultiLanguageMgr::SetProblemSink([](const std::wstring& problem) { Complain(problem); });
         SetConfigurationProblemSink([this](const ConfigurationProblem& problem) {
             const std::wstring& directory = m_options.directory;

@@ -38,6 +38,7 @@ const wchar_t* BarviewUsage() {
            L"               [--skin black|silver] [--size WxH]\n"
            L"               [--scale PERCENT] [--category NAME] [--path NAME] [--app NAME] [--screenshot OUT.png]\n"
            L"               [--dump OUT.json]\n"
+           L"       barview --batch LIST [--lang LANG] [--skin black|silver] [--size WxH] [--scale PERCENT]\n"
            L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon, "
            L"--menu\n"
            L"or --toolbars it takes cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml in name order. With "
@@ -48,7 +49,8 @@ const wchar_t* BarviewUsage() {
            L"or status row of that name, 2 on wrong usage. The categories of each ribbon file are a path, named as the "
            L"file is "
            L"without\n"
-           L"its extension; --app names the ribbon file whose status row is shown in a status bar.\n";
+           L"its extension; --app names the ribbon file whose status row is shown in a status bar. Each line of LIST\n"
+           L"is a directory, a tab and the file for its dump; each directory is built as if it were the first.\n";
 }
 
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
@@ -75,23 +77,37 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
                                   .AddText(L"--app", options.application)
                                   .AddText(L"--screenshot", options.screenshot)
                                   .AddText(L"--dump", options.dump)
+                                  .AddText(L"--batch", options.batch)
                                   .Read(arguments, 1, directories, error);
     if (!isUnderstood) {
         return std::nullopt;
     }
-    options.directory = directories.empty() ? L"" : directories.front();
-    if (options.directory.empty()) {
+    std::wstring directory = directories.empty() ? L"" : directories.front();
+    if (!options.batch.empty()) {
+        if (directory.empty() && options.screenshot.empty() && options.dump.empty()) {
+            return options;
+        }
+        error = L"--batch takes directories and outputs from its list";
+        return std::nullopt;
+    }
+    if (directory.empty()) {
         error = L"the installation directory is missing";
         return std::nullopt;
     }
     std::error_code ignored;
-    if (!std::filesystem::is_directory(options.directory, ignored)) {
-        error = L"no such directory: " + options.directory;
+    if (!std::filesystem::is_directory(directory, ignored)) {
+        error = L"no such directory: " + directory;
         return std::nullopt;
     }
-    if (options.directory.back() != L'\\' && options.directory.back() != L'/') {
-        options.directory += L'\\';
+    if (directory.back() != L'\\' && directory.back() != L'/') {
+        directory += L'\\';
     }
+    TakeDirectory(directory, options);
+    return options;
+}
+
+void TakeDirectory(const std::wstring& directory, BarviewOptions& options) {
+    options.directory = directory;
     if (options.ribbonFiles.empty()) {
         options.ribbonFiles = FindFiles(options.directory, L"RIBBON");
     }
@@ -101,5 +117,4 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
     if (options.toolBarFiles.empty()) {
         options.toolBarFiles = FindFiles(options.directory, L"TOOLBAR");
     }
-    return options;
 }

@@ -20,10 +20,14 @@ struct BarviewOptions {
     std::wstring path;        ///< Of the working mode to show; empty: all categories.
     std::wstring screenshot;
     std::wstring dump;
+    std::wstring batch; ///< File that lists directories and the files of their dumps; empty: `directory` alone.
 
     /// Nobody watches: leave after the output, and never wait for an answer.
-    bool IsUnattended() const { return !screenshot.empty() || !dump.empty(); }
+    bool IsUnattended() const { return !screenshot.empty() || !dump.empty() || !batch.empty(); }
 };
+
+/// Takes an installation directory, with its closing backslash, and the files in it that were not named.
+void TakeDirectory(const std::wstring& directory, BarviewOptions& options);
 
 /// Nothing, with a line in `error`, on wrong usage.
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error);

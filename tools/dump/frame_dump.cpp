@@ -8,6 +8,8 @@
 #include "ribbon_check_combo.h"
 #include "ribbon_label_ex.h"
 #include "ribbon_multi_combo.h"
+#include "toolbar_combos.h"
+#include "window_combos.h"
 
 #include "tovasque/visual_manager_office2007_2.h"
 #include "varnhold/strings.h"
@@ -249,14 +251,49 @@ ordered_json DumpMenus(const DumpSources& sources) {
     return items;
 }
 
+ordered_json StateOf(const CMFCCheckCombo& combo, int index) { return {{"check", combo.GetCheck(index)}}; }
+
+// The combo box itself keeps the colours, and a position may have none.
+ordered_json StateOf(const CMFCMultiCombo& combo, int index) {
+    ordered_json state = ordered_json::object();
+    COLORREF color = 0;
+    const auto* const box = DYNAMIC_DOWNCAST(CMultiCombo, combo.GetComboBox());
+    if (box && box->GetItemColor(index, color)) {
+        state["clr"] = color;
+    }
+    state["light"] = combo.GetLightOn(index);
+    return state;
+}
+
+ordered_json StateOf(const CMFCMultiCombo2& combo, int index) { return {{"light", combo.GetLightOn(index)}}; }
+
+/// As of the combos of the ribbon.
+template <class Combo>
+void DumpToolBarCombo(ordered_json& result, const CMFCToolBarButton& button) {
+    const auto* const combo = DYNAMIC_DOWNCAST(Combo, &button);
+    if (!combo) {
+        return;
+    }
+    ordered_json items = ordered_json::array();
+    for (int i = 0; i < static_cast<int>(combo->GetCount()); ++i) {
+        items.push_back({{"text", Utf8(CString(combo->GetItem(i)))}, {"state", StateOf(*combo, i)}});
+    }
+    result["items"] = std::move(items);
+    result["selected"] = combo->GetCurSel();
+}
+
 ordered_json DumpToolBarButton(const CMFCToolBarButton& button) {
     if (button.m_nStyle & TBBS_SEPARATOR) {
         return {{"separator", true}};
     }
-    return {{"class", button.GetRuntimeClass()->m_lpszClassName},
-            {"id", button.m_nID},
-            {"text", Utf8(button.m_strText)},
-            {"image", button.GetImage()}};
+    ordered_json result = {{"class", button.GetRuntimeClass()->m_lpszClassName},
+                           {"id", button.m_nID},
+                           {"text", Utf8(button.m_strText)},
+                           {"image", button.GetImage()}};
+    DumpToolBarCombo<CMFCCheckCombo>(result, button);
+    DumpToolBarCombo<CMFCMultiCombo>(result, button);
+    DumpToolBarCombo<CMFCMultiCombo2>(result, button);
+    return result;
 }
 
 ordered_json DumpToolBars(const DumpSources& sources) {

@@ -3,6 +3,7 @@
 
 #include "afxcommandmanager.h"
 #include "afxglobals.h"
+#include "afxkeyboardmanager.h"
 #include "afxpopupmenu.h"
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
@@ -25,6 +26,19 @@ namespace {
 
 constexpr int gutterMargin = 4, rowPadding = 3, textPadding = 3, listTextMargin = 4, textMargin = 8, arrowColumn = 18;
 constexpr int separatorHeight = 5;
+
+CFrameWnd* FrameOf(CWnd* target) {
+    auto* const frame = DYNAMIC_DOWNCAST(CFrameWnd, target);
+    return frame || !target ? frame : target->GetTopLevelFrame();
+}
+
+/// A text that names no keys gets those that call its command.
+CString WithKeys(const CString& text, UINT command, CFrameWnd* frame) {
+    CString keys;
+    const bool isCommand = command != 0 && command != static_cast<UINT>(-1);
+    const bool isFree = isCommand && frame && frame->m_hAccelTable && text.Find(L'\t') < 0;
+    return isFree && CKeyboardManager::FindDefaultAccelerator(command, keys, frame, TRUE) ? text + L"\t" + keys : text;
+}
 
 } // namespace
 
@@ -62,6 +76,7 @@ BOOL CMFCPopupMenuBar::ImportFromMenu(HMENU hMenu, BOOL) {
     }
     RemoveAllButtons();
     m_uiDefMenuCmd = 0;
+    CFrameWnd* const frame = FrameOf(GetCommandTarget());
     const int count = ::GetMenuItemCount(hMenu);
     for (int i = 0; i < count; ++i) {
         toolbar::MenuItem item;
@@ -72,7 +87,8 @@ BOOL CMFCPopupMenuBar::ImportFromMenu(HMENU hMenu, BOOL) {
             InsertSeparator();
             continue;
         }
-        auto button = std::make_unique<CMFCToolBarMenuButton>(item.id, item.submenu, -1, item.text);
+        auto button =
+            std::make_unique<CMFCToolBarMenuButton>(item.id, item.submenu, -1, WithKeys(item.text, item.id, frame));
         button->m_nStyle = item.style;
         button->m_bIsRadio = item.isRadio;
         button->TakeCommandImage();

@@ -4,6 +4,7 @@
 #include "menu_id_mgr.h"
 #include "skin_visual_managers.h"
 #include "tests/support/ui_test.h"
+#include "toolbar_combos.h"
 #include <fx/scoped_change.h>
 
 #include <gtest/gtest.h>
@@ -176,6 +177,40 @@ TEST_F(FrameDump, TheStatusBarsElementsStandInTheirAreas) {
     ASSERT_EQ(status["extended"].size(), 1u);
     EXPECT_EQ(status["extended"][0]["text"], "extended");
     EXPECT_EQ(status["extended"][0]["visible"], false);
+}
+
+TEST_F(FrameDump, CombosOfToolbarsListTheirItemsAsThoseOfTheRibbonDo) {
+    TestWindow parent;
+    CMFCToolBar bar;
+    ASSERT_TRUE(bar.Create(&parent, WS_CHILD | CBRS_TOP, 45008));
+    bar.InsertButton(CMFCCheckCombo(41000, -1));
+    bar.InsertButton(CMFCMultiCombo(41001, -1));
+    bar.InsertButton(CMFCMultiCombo2(41002, -1));
+    for (int i = 0; i < 3; ++i) {
+        auto* const combo = DYNAMIC_DOWNCAST(CMFCToolBarComboBoxButton, bar.GetButton(i));
+        combo->AddItem(L"One");
+        combo->AddItem(L"Two");
+        combo->SelectItem(1, FALSE);
+    }
+    DYNAMIC_DOWNCAST(CMFCCheckCombo, bar.GetButton(0))->SetCheck(1, 1, 0);
+    DYNAMIC_DOWNCAST(CMFCMultiCombo, bar.GetButton(1))->SetItemColor(0, RGB(1, 2, 3), false);
+    DYNAMIC_DOWNCAST(CMFCMultiCombo, bar.GetButton(1))->SetLightOn(1, true, false);
+    DYNAMIC_DOWNCAST(CMFCMultiCombo2, bar.GetButton(2))->SetLightOn(0, true, false);
+    const ordered_json buttons = DumpFrame({.toolBars = {{L"layers", &bar}}})["toolbars"][0]["buttons"];
+    const auto item = [](const char* text, const ordered_json& state) {
+        return ordered_json{{"text", text}, {"state", state}};
+    };
+    EXPECT_EQ(buttons[0]["items"].dump(),
+              ordered_json::array({item("One", {{"check", false}}), item("Two", {{"check", true}})}).dump());
+    EXPECT_EQ(buttons[1]["items"].dump(), ordered_json::array({item("One", {{"clr", RGB(1, 2, 3)}, {"light", false}}),
+                                                               item("Two", {{"light", true}})})
+                                              .dump());
+    EXPECT_EQ(buttons[2]["items"].dump(),
+              ordered_json::array({item("One", {{"light", true}}), item("Two", {{"light", false}})}).dump());
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(buttons[static_cast<std::size_t>(i)]["selected"], 1);
+    }
+    bar.DestroyWindow();
 }
 
 } // namespace

@@ -1,0 +1,203 @@
+#include "classic_bars.h"
+
+#include "layer_controls.h"
+#include "map_painter.h"
+#include "menu_id_mgr.h"
+#include "ribbon_icon_button.h"
+#include "ribbon_lookup.h"
+#include "toolbar_combos.h"
+
+#include "varnhold/language.h"
+#include "varnhold/strings.h"
+
+#include <algorithm>
+#include <memory>
+#include <type_traits>
+
+namespace {
+
+constexpr wchar_t kMenuFile[] = L"cfg\\menu.xml";
+constexpr wchar_t kToolbarFile[] = L"cfg\\toolbar.xml";
+constexpr int kIconSide = 16;
+constexpr std::uint32_t kFirstCommand = 41000;
+
+/// The combo on a toolbar that has the command of this keyword; null when there is none.
+template <class Combo>
+Combo* FindCombo(const wchar_t* keyword) {
+    int id = 0;
+    const bool isKnown = CMenuIdMgr::Ins()->GetMenuId(keyword, id);
+    return isKnown ? DYNAMIC_DOWNCAST(Combo, CMFCToolBarComboBoxButton::GetByCmd(static_cast<UINT>(id))) : nullptr;
+}
+
+CMFCCheckCombo* ShownLayers() { return FindCombo<CMFCCheckCombo>(L"LayersShown"); }
+CMFCMultiCombo* LayerStyles() { return FindCombo<CMFCMultiCombo>(L"LayerColors"); }
+CMFCMultiCombo2* LabelLights() { return FindCombo<CMFCMultiCombo2>(L"LabelLights"); }
+
+void Fill(CMFCToolBarComboBoxButton* combo, const std::vector<std::wstring>& texts, int selected) {
+    if (combo != nullptr) {
+        combo->RemoveAllItems();
+        for (const std::wstring& text : texts) {
+            combo->AddItem(text.c_str());
+        }
+        combo->SelectItem(selected, FALSE);
+    }
+}
+
+COLORREF ToColorRef(std::uint32_t rgb) { return RGB(rgb >> 16 & 0xFF, rgb >> 8 & 0xFF, rgb & 0xFF); }
+
+} // namespace
+
+void ClassicBars::TakeShortcuts() {
+    CDynMenuCreater menu;
+    menu.Load(kMenuFile);
+    menu.SetAppAccelTable();
+}
+
+bool ClassicBars::Create(CFrameWndEx& frame) {
+    m_frame = &frame;
+    if (!m_menuBar.Create(&frame, (AFX_DEFAULT_TOOLBAR_STYLE & ~(WS_VISIBLE | CBRS_GRIPPER)))) {
+        return false;
+    }
+    // All icons of menus and toolbars have this size.
+    CMFCToolBar::SetSizes(CSize(23, 22), CSize(kIconSide, kIconSide));
+    return true;
+}
+
+void ClassicBars::Build() {
+    m_menu.Load(kMenuFile);
+    m_menuBar.SetRightHMenu(m_help.Build());
+    m_menuBar.CreateFromMenu(m_menu.GetMenu()->GetSafeHmenu(), TRUE, TRUE);
+    if (m_toolbars.empty()) {
+        BuildToolbars();
+    }
+    for (const auto& [group, bar] : m_toolbars.GetGroupedToolBars()) {
+        CString key;
+        bar->GetWindowText(key);
+        m_titles.try_emplace(bar, key); // what the file says
+        const std::string title = wstring2String(m_titles[bar].GetString());
+        bar->SetWindowText(CMultiLanguageMgr::translationW(title, -1, "RibbonBarCfg").c_str());
+    }
+    FillCombos();
+}
+
+// They come from the file side by side; hidden until they are wanted.
+void ClassicBars::BuildToolbars() {
+    m_toolbars.Load(kToolbarFile, m_frame);
+    m_frame->EnableDocking(CBRS_ALIGN_ANY);
+    for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        bar->EnableDocking(CBRS_ALIGN_ANY);
+        m_frame->DockPane(bar);
+        m_frame->ShowPane(bar, FALSE, TRUE, FALSE);
+    }
+}
+
+namespace {
+
+struct IconDestroyer {
+    void operator()(HICON icon) const { ::DestroyIcon(icon); }
+};
+
+/// The 16 pixel icon of the command in another set of icons; empty when the ribbon has none for it.
+CString IconFile(CMFCRibbonBar& ribbon, UINT id, const wchar_t* set) {
+    std::wstring keyword;
+    if (!CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(id), keyword)) {
+        return {};
+    }
+    const auto* const button = FindElement<CMFCRibbonUNIcoButton>(ribbon, keyword.c_str());
+    CString file = button != nullptr ? button->GetIconPath(FALSE) : CString();
+    if (file.IsEmpty() && button != nullptr) {
+        file = button->GetIconPath(TRUE);
+    }
+    file.Replace(L"\\32\\", L"\\16\\");
+    file.Replace(L"\\modle\\", set);
+    return file;
+}
+
+/// Fills the list anew: `files` in the order of its indexes. An index without a file has an empty picture.
+void FillIcons(CMFCToolBarImages& images, const std::vector<CString>& files) {
+    images.Clear();
+    images.SetImageSize(CSize(kIconSide, kIconSide));
+    for (const CString& file : files) {
+        const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(
+            static_cast<HICON>(::LoadImageW(nullptr, file, IMAGE_ICON, kIconSide, kIconSide, LR_LOADFROMFILE)));
+        images.AddIcon(icon ? icon.get() : ::LoadIconW(nullptr, IDI_APPLICATION));
+    }
+}
+
+} // namespace
+
+void ClassicBars::TakeIcons(CMFCRibbonBar& ribbon, const wchar_t* set) {
+    std::vector<CString> ofButtons;
+    for (const CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        for (int i = 0; i < bar->GetCount(); ++i) {
+            const CMFCToolBarButton& button = *bar->GetButton(i);
+            const int index = button.GetImage();
+            if (index >= 0) {
+                ofButtons.resize(std::max(ofButtons.size(), static_cast<std::size_t>(index) + 1));
+                ofButtons[static_cast<std::size_t>(index)] = IconFile(ribbon, button.m_nID, set);
+            }
+        }
+    }
+    FillIcons(m_icons, ofButtons);
+    CMFCToolBar::SetUserImages(&m_icons);
+
+    std::vector<CString> ofCommands(static_cast<std::size_t>(CMFCToolBar::GetImages()->GetCount()));
+    for (std::uint32_t id = kFirstCommand; id < CMenuIdMgr::s_AddBeginID; ++id) {
+        const int index = GetCmdMgr()->GetCmdImage(id, FALSE);
+        if (index >= 0 && static_cast<std::size_t>(index) < ofCommands.size()) {
+            ofCommands[static_cast<std::size_t>(index)] = IconFile(ribbon, id, set);
+        }
+    }
+    FillIcons(*CMFCToolBar::GetImages(), ofCommands);
+    for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        bar->Invalidate();
+    }
+}
+
+void ClassicBars::FillCombos() {
+    const std::vector<std::wstring> layers = LayerControls::LayerNames();
+    Fill(ShownLayers(), layers, 0);
+    Fill(LayerStyles(), layers, 1);
+    Fill(LabelLights(), LayerControls::LabelNames(), 0);
+}
+
+void ClassicBars::Show(bool isShown) {
+    m_isShown = isShown;
+    m_frame->ShowPane(&m_menuBar, isShown, TRUE, FALSE);
+    for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        m_frame->ShowPane(bar, isShown, TRUE, FALSE);
+    }
+}
+
+void ClassicBars::ShowState(std::optional<MapLayer> chosen) {
+    CMFCCheckCombo* const shown = ShownLayers();
+    CMFCMultiCombo* const styles = LayerStyles();
+    CMFCMultiCombo2* const labels = LabelLights();
+    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
+        const auto layer = static_cast<MapLayer>(i);
+        if (shown != nullptr) {
+            shown->SetCheck(i, m_state.IsShown(layer) ? 1 : 0, TRUE);
+        }
+        if (styles != nullptr) {
+            styles->SetItemColor(i, ToColorRef(ShownColor(m_state, layer)), true);
+            styles->SetLightOn(i, m_state.IsLit(layer), true);
+        }
+    }
+    for (int i = 0; labels != nullptr && i < static_cast<int>(MapLabel::Count); ++i) {
+        labels->SetLightOn(i, m_state.IsLit(static_cast<MapLabel>(i)), true);
+    }
+    if (styles != nullptr && chosen && !m_isShown) {
+        styles->SelectItem(static_cast<int>(*chosen), FALSE);
+    }
+}
+
+std::optional<MapLayer> ClassicBars::ChosenLayer() const {
+    const CMFCMultiCombo* const styles = LayerStyles();
+    const int item = styles != nullptr ? styles->GetCurSel() : -1;
+    return item < 0 ? std::nullopt : std::optional(static_cast<MapLayer>(item));
+}
+
+std::vector<std::pair<std::wstring, const CMFCToolBar*>> ClassicBars::GroupedToolbars() const {
+    const auto bars = m_toolbars.GetGroupedToolBars();
+    return {bars.begin(), bars.end()};
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <afxcontrolbars.h>
+
+#include "dyn_menu_creater.h"
+#include "dyn_toolbar_creater.h"
+#include "host_menu.h"
+#include "map_state.h"
+#include "menubar_ex.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// The viewer's menu bar and toolbars, which stand in for its ribbon when the user wants them: cfg\menu.xml and
+/// cfg\toolbar.xml. Their combos of layers show the same as the ribbon's. The frame owns the toolbars' windows and
+/// outlives this.
+class ClassicBars {
+public:
+    explicit ClassicBars(const MapState& state) : m_state(state) {}
+
+    /// Before the ribbon is built for the first time: enters the menu's commands with their shortcuts. A menu gives
+    /// shortcuts only to commands that no file before it has.
+    void TakeShortcuts();
+    /// The menu bar, hidden; the first pane of the frame. False: there is none.
+    bool Create(CFrameWndEx& frame);
+    /// Behind the ribbon: the menu, with its icons, and the toolbars, in the language in force.
+    void Build();
+    /// Behind Build and after a change of the skin: gives menus and toolbars the icons that can be seen on it. `set`:
+    /// the folder of those icons beside the configured one; the ribbon's buttons know the files.
+    void TakeIcons(CMFCRibbonBar& ribbon, const wchar_t* set);
+    void Show(bool isShown);
+    bool IsShown() const { return m_isShown; }
+    /// Brings the combos to the state's values. `chosen`: the layer that is chosen in the ribbon.
+    void ShowState(std::optional<MapLayer> chosen);
+    /// The layer that is chosen in the combo of colours.
+    std::optional<MapLayer> ChosenLayer() const;
+
+    CMFCMenuBar& MenuBar() { return m_menuBar; }
+    CDynMenuCreater& Menu() { return m_menu; }
+    /// Every toolbar with the name of its group.
+    std::vector<std::pair<std::wstring, const CMFCToolBar*>> GroupedToolbars() const;
+
+private:
+    void BuildToolbars();
+    void FillCombos();
+
+    const MapState& m_state;
+    CFrameWndEx* m_frame = nullptr;
+    CMfcMenubarEx m_menuBar;
+    CDynMenuCreater m_menu;
+    HostMenu m_help{HostMenu::Kind::Help};
+    CDynToolBarCreater m_toolbars;
+    std::map<CMFCToolBar*, CString> m_titles; ///< As the file has them.
+    CMFCToolBarImages m_icons; ///< Of the toolbars, in place of the library's list; outlives the bars' windows.
+    bool m_isShown = false;
+};
