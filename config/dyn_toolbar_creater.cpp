@@ -10,6 +10,7 @@
 #include <afxcommandmanager.h>
 #include <varnhold/file_op.h>
 
+#include <map>
 #include <memory>
 
 std::uint32_t CDynToolBarCreater::s_ToolbarIndex = 45000;
@@ -96,13 +97,20 @@ void InsertItem(CMFCToolBar& bar, ToolBarItemKind kind, const ToolBarInfo& info,
     }
 }
 
-void AddItem(CMFCToolBar& bar, const ToolBarInfo& info) {
+/// The icons of one load: many buttons may have the same few files.
+using LoadedIcons = std::map<std::wstring, FileIcon>;
+
+void AddItem(CMFCToolBar& bar, const ToolBarInfo& info, LoadedIcons& icons) {
     const ToolBarItemKind kind = ToolBarItemKindOf(info.strType);
     if (kind == ToolBarItemKind::Separator) {
         bar.InsertSeparator();
         return;
     }
-    const FileIcon icon = LoadCommandIcon(info.strPicPath);
+    auto known = icons.find(info.strPicPath);
+    if (known == icons.end()) {
+        known = icons.emplace(info.strPicPath, LoadCommandIcon(info.strPicPath)).first;
+    }
+    const FileIcon& icon = known->second;
     const int image = icon.Get() ? UserImages().AddIcon(icon.Get(), FALSE) : -1;
     InsertItem(bar, kind, info, ObtainCommand(info, icon.Get()), image);
 }
@@ -131,13 +139,14 @@ public:
         return true;
     }
 
-    void VisitButton(const ToolBarInfo& info) override { AddItem(*m_bar, info); }
+    void VisitButton(const ToolBarInfo& info) override { AddItem(*m_bar, info, m_icons); }
 
 private:
     CDynToolBarCreater& m_creater;
     CWnd& m_parent;
     std::wstring m_group;
     CMFCToolBar* m_bar = nullptr;
+    LoadedIcons m_icons;
 };
 
 CDynToolBarCreater::CDynToolBarCreater() = default;
@@ -175,7 +184,8 @@ void CDynToolBarCreater::AddChildBar(const CXmlNodeWrapper& node, CMFCToolBar* b
     if (!bar || !FileOp::GetAppPath(directory)) {
         return;
     }
-    ReadToolBarButtons(varnhold::XmlCursor(node), [&](const ToolBarInfo& info) { AddItem(*bar, info); });
+    LoadedIcons icons;
+    ReadToolBarButtons(varnhold::XmlCursor(node), [&](const ToolBarInfo& info) { AddItem(*bar, info, icons); });
 }
 
 CMFCToolBar* CDynToolBarCreater::GetToolBar(const std::wstring& group, const CString& title) const {
