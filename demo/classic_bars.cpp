@@ -16,6 +16,7 @@
 
 namespace {
 
+constexpr wchar_t kKeysFile[] = L"cfg\\keys.xml";
 constexpr wchar_t kMenuFile[] = L"cfg\\menu.xml";
 constexpr wchar_t kToolbarFile[] = L"cfg\\toolbar.xml";
 constexpr int kIconSide = 16;
@@ -48,9 +49,9 @@ COLORREF ToColorRef(std::uint32_t rgb) { return RGB(rgb >> 16 & 0xFF, rgb >> 8 &
 } // namespace
 
 void ClassicBars::TakeShortcuts() {
-    CDynMenuCreater menu;
-    menu.Load(kMenuFile);
-    menu.SetAppAccelTable();
+    CDynMenuCreater keys;
+    keys.Load(kKeysFile);
+    keys.SetAppAccelTable();
 }
 
 bool ClassicBars::Create(CFrameWndEx& frame) {
@@ -200,4 +201,14 @@ std::optional<MapLayer> ClassicBars::ChosenLayer() const {
 std::vector<std::pair<std::wstring, const CMFCToolBar*>> ClassicBars::GroupedToolbars() const {
     const auto bars = m_toolbars.GetGroupedToolBars();
     return {bars.begin(), bars.end()};
+}
+
+std::vector<CRect> ClassicBars::PlacesOf(const CMFCToolBar& bar) {
+    std::vector<CRect> places;
+    for (int i = 0; bar.IsWindowVisible() && i < bar.GetCount(); ++i) {
+        CRect place = bar.GetButton(i)->Rect();
+        bar.ClientToScreen(&place);
+        places.push_back(place);
+    }
+    return places;
 }

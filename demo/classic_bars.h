@@ -21,8 +21,8 @@ class ClassicBars {
 public:
     explicit ClassicBars(const MapState& state) : m_state(state) {}
 
-    /// Before the ribbon is built for the first time: enters the menu's commands with their shortcuts. A menu gives
-    /// shortcuts only to commands that no file before it has.
+    /// Before the ribbon is built for the first time: enters the commands of cfg\keys.xml with their shortcuts. A menu
+    /// file gives shortcuts only to commands that no file before it has.
     void TakeShortcuts();
     /// The menu bar, hidden; the first pane of the frame. False: there is none.
     bool Create(CFrameWndEx& frame);
@@ -42,6 +42,8 @@ public:
     CDynMenuCreater& Menu() { return m_menu; }
     /// Every toolbar with the name of its group.
     std::vector<std::pair<std::wstring, const CMFCToolBar*>> GroupedToolbars() const;
+    /// Where the buttons of the bar are on the screen; empty while it is hidden.
+    static std::vector<CRect> PlacesOf(const CMFCToolBar& bar);
 
 private:
     void BuildToolbars();

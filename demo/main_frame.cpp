@@ -22,6 +22,7 @@
 #include "varnhold/message_box.h"
 #include "varnhold/strings.h"
 
+#include <afxadv.h>
 #include <shellapi.h>
 
 #include <algorithm>
@@ -112,6 +113,7 @@ ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
 ON_WM_HELPINFO()
 ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
+ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE1 + _AFX_MRU_COUNT - 1, OnRecentFile)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
 ON_REGISTERED_MESSAGE(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, OnCategoryChanged)
 ON_MESSAGE(kRebuildRibbonMessage, OnRebuildRibbon)
@@ -235,6 +237,7 @@ void CMainFrame::OpenMapFile(const std::wstring& path) {
     const GeoJsonResult read = ReadGeoJsonFile(path);
     if (read.features) {
         m_state.Open(read.features, read.features->box);
+        AfxGetApp()->AddToRecentFileList(path.c_str());
         ShowState();
         return;
     }
@@ -312,6 +315,16 @@ void CMainFrame::OnConfiguredCommand(UINT id) {
     }
     CMenuEvtHandleMgr::Ins()->MenuClick(id);
     TakeChange();
+}
+
+// The application keeps the list and shows it where the menu has its place.
+void CMainFrame::OnRecentFile(UINT id) {
+    CRecentFileList* const files = AfxGetApp()->GetRecentFileList();
+    const int index = static_cast<int>(id - ID_FILE_MRU_FILE1);
+    if (files != nullptr && index < files->GetSize()) {
+        OpenMapFile((*files)[index].GetString());
+        TakeChange();
+    }
 }
 
 void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {
@@ -454,6 +467,18 @@ void CMainFrame::WriteRecord() {
         rect.OffsetRect(ribbon.TopLeft());
         return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
     };
+    const auto places = [](const CMFCToolBar& bar) {
+        nlohmann::ordered_json rects = nlohmann::ordered_json::array();
+        for (const CRect& place : ClassicBars::PlacesOf(bar)) {
+            rects.push_back({place.left, place.top, place.right, place.bottom});
+        }
+        return rects;
+    };
+    record["menuBarOnScreen"] = places(m_bars.MenuBar());
+    record["toolbarsOnScreen"] = nlohmann::ordered_json::array();
+    for (const auto& [group, bar] : m_bars.GroupedToolbars()) {
+        record["toolbarsOnScreen"].push_back(places(*bar));
+    }
     record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
     CRect status;
     m_status->GetWindowRect(status);

@@ -47,6 +47,7 @@ protected:
     afx_msg void OnSetFocus(CWnd* earlier);
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnConfiguredCommand(UINT id);
+    afx_msg void OnRecentFile(UINT id);
     afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
     afx_msg LRESULT OnCategoryChanged(WPARAM, LPARAM);
     afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);

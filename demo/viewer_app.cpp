@@ -15,6 +15,8 @@ class CViewerApp : public CWinAppEx {
 public:
     BOOL InitInstance() override {
         CWinAppEx::InitInstance();
+        SetRegistryKey(L"Barwright");
+        LoadStdProfileSettings();
         std::wstring error;
         const std::optional<DemoOptions> options = ParseDemoOptions(CommandLineWords(), error);
         if (!options) {

@@ -66,6 +66,112 @@ class ClickOnARibbonButton(unittest.TestCase):
             viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "Map")
 
 
+class ClassicBars(unittest.TestCase):
+    """Menu bar and toolbars in the ribbon's place, by real keys and the mouse."""
+
+    def open(self, *arguments):
+        return Viewer(BIN_DIR, "--lang", "en", "--bars", "classic", *arguments)
+
+    @staticmethod
+    def scale(record):
+        return record["map"]["pixelsPerDegree"]
+
+    @staticmethod
+    def middle(place):
+        return (place[0] + place[2]) // 2, (place[1] + place[3]) // 2
+
+    def button_of(self, viewer, keyword):
+        """The place of the command's toolbar button."""
+        wanted = viewer.id_of(keyword)
+        for bar, places in zip(viewer.record["frame"]["toolbars"], viewer.record["toolbarsOnScreen"]):
+            for button, place in zip(bar["buttons"], places):
+                if button.get("id") == wanted:
+                    return self.middle(place)
+        raise AssertionError(f"no button {keyword}")
+
+    def items_of(self, record, class_name):
+        return next(button for bar in record["frame"]["toolbars"] for button in bar["buttons"] if button.get("class") == class_name)["items"]
+
+    def test_the_command_shows_them_and_gives_the_ribbon_back(self):
+        with Viewer(BIN_DIR, "--lang", "en") as viewer:
+            self.assertEqual(viewer.record["menuBarOnScreen"], [])
+            viewer.key("ctrl+m")
+            viewer.wait_for(lambda record: record["classicBars"] and len(record["menuBarOnScreen"]) == 5)
+            viewer.key("ctrl+m")
+            viewer.wait_for(lambda record: not record["classicBars"] and record["menuBarOnScreen"] == [])
+
+    def test_a_shortcut_acts_once_in_either_mode(self):
+        with Viewer(BIN_DIR, "--lang", "en") as viewer:
+            for _ in range(2):
+                before = self.scale(viewer.record)
+                viewer.key("ctrl+i")
+                viewer.wait_for(lambda record: self.scale(record) != before)
+                self.assertAlmostEqual(self.scale(viewer.record), 2 * before)
+                viewer.key("ctrl+m")
+                viewer.wait_for(lambda record: record["classicBars"])
+
+    def test_a_toolbar_button_does_what_the_ribbons_does(self):
+        with self.open() as viewer:
+            before = self.scale(viewer.record)
+            viewer.click(*self.button_of(viewer, "ZoomIn"))
+            viewer.wait_for(lambda record: self.scale(record) != before)
+            self.assertAlmostEqual(self.scale(viewer.record), 2 * before)
+
+    def test_the_menu_is_walked_by_keys(self):
+        with self.open() as viewer:
+            before = self.scale(viewer.record)
+            viewer.key("alt+z")
+            viewer.key("o")
+            viewer.wait_for(lambda record: self.scale(record) != before)
+            self.assertAlmostEqual(self.scale(viewer.record), before / 2)
+            viewer.key("F10")
+            viewer.key("Right", "Right", "Down", "Down", "Return")  # the second of the layers
+            viewer.wait_for(lambda record: record["map"]["layers"][1] is False)
+
+    def test_the_menu_is_walked_by_the_mouse(self):
+        with self.open() as viewer:
+            places = viewer.record["menuBarOnScreen"]
+            self.assertEqual(places[4][2], max(place[2] for place in places))
+            self.assertGreater(places[4][2], 1200)  # the help menu at the right edge
+            viewer.click(*self.middle(places[0]))
+            viewer.hover(*self.middle(places[2]))
+            viewer.key("g")  # of the menu that the pointer has opened
+            viewer.wait_for(lambda record: record["map"]["layers"][3] is False)
+
+    def test_combos_of_toolbars_and_ribbon_stay_in_step(self):
+        with self.open() as viewer:
+            self.assertTrue(self.items_of(viewer.record, "CMFCCheckCombo")[0]["state"]["check"])
+            x, y = self.button_of(viewer, "LayersShown")
+            viewer.click(x - 66, y)  # the box of the closed face
+            viewer.wait_for(lambda record: record["map"]["layers"][0] is False)
+            viewer.wait_for(lambda record: self.items_of(record, "CMFCCheckCombo")[0]["state"]["check"] is False)
+            shown = next(e for e in viewer.elements() if e["id"] == viewer.id_of("LayersShown"))
+            self.assertFalse(shown["items"][0]["state"]["check"])
+
+    def test_a_recent_file_opens_from_the_menu(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "place.geojson")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write('{"type": "Point", "coordinates": [10, 20]}')
+            with self.open("--open", path) as viewer:
+                viewer.key("ctrl+w")
+                shown = self.scale(viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] < 10))
+                viewer.key("alt+m")
+                viewer.key("1")  # the first of the recent files has the mnemonic 1
+                viewer.wait_for(lambda record: self.scale(record) > shown)
+
+    def test_a_language_switch_builds_the_menus_in_the_other_language(self):
+        with self.open() as viewer:
+            viewer.key("alt+s")
+            viewer.key("l")
+            viewer.key("Return")
+            viewer.wait_for(lambda record: record["language"] == "zh-CN" and record["frame"]["menu"][0]["text"] == "地图(&M)")
+            self.assertTrue(viewer.record["classicBars"])
+            before = self.scale(viewer.record)
+            viewer.key("ctrl+i")
+            viewer.wait_for(lambda record: self.scale(record) != before)
+
+
 class WorkingModes(unittest.TestCase):
     """Categories in the file's order: map, layers, settings, edit, print, back to browsing."""
 
