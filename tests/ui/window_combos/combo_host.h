@@ -40,7 +40,8 @@ protected:
         return message == WM_COMMAND ? TestWindow::WindowProc(message, wParam, lParam) : answer;
     }
 
-private:
+public:
+    /// What is written down for a message; empty for one that a combo does not send.
     static std::wstring WordsFor(UINT message, WPARAM wParam, LPARAM lParam) {
         const auto text = [wParam] { return std::wstring(*reinterpret_cast<const CString*>(wParam)); };
         const std::wstring value = L" " + std::to_wstring(lParam);
