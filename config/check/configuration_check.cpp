@@ -77,6 +77,13 @@ void Sort(std::vector<Diagnostic>& findings, const std::vector<FileToRead>& file
     std::ranges::stable_sort(findings, [&](const Diagnostic& a, const Diagnostic& b) { return key(a) < key(b); });
 }
 
+/// Whether a keyword may have been meant that nobody knows: its text would seem unused.
+bool LostKeywords(const std::vector<Diagnostic>& findings) {
+    return std::ranges::any_of(findings, [](const Diagnostic& finding) {
+        return finding.code == "missing-keyword" || finding.code == "stray-text";
+    });
+}
+
 } // namespace
 
 bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
@@ -103,8 +110,8 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     }
     const std::vector<LanguageTexts> languages = ReadLanguages(files, request.language, sink);
     // Whoever names files has others, whose keywords are not known here.
-    const std::set<std::wstring> meant =
-        CheckTexts(sink.Elements(), languages, isComplete && request.files.empty(), sink);
+    const bool knowsAllKeywords = isComplete && request.files.empty() && !LostKeywords(sink.Findings());
+    const std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, knowsAllKeywords, sink);
     CheckCommands(sink.Elements(), isComplete, meant, sink);
     CheckAccessKeys(sink.Elements(), languages, sink);
     CheckIcons(sink.Elements(), files, sink);

@@ -99,6 +99,16 @@ TEST(CheckedConfiguration, AStatusButtonOfNoCommandNeedsNoText) {
     EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:2:4 unknown-status-button\n");
 }
 
+TEST(CheckedConfiguration, TheTextOfAKeywordThatWasLostIsNotUnusedBesides) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    std::string ribbon = SampleRibbon();
+    const std::string keyword = "KEYWORD=\"ScaleLabel\" ";
+    ribbon.erase(ribbon.find(keyword), keyword.size());
+    installation.Write("cfg/ribbon.xml", ribbon);
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:26:9 missing-keyword\n");
+}
+
 TEST(CheckedConfiguration, LettersClashPerLanguageByTheTranslatedText) {
     const CheckedInstallation installation;
     installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"A\" MENUNAME=\"\"/>\n<i KEYWORD=\"B\" MENUNAME=\"\"/>"));
