@@ -97,10 +97,28 @@ void InsertItem(CMFCToolBar& bar, ToolBarItemKind kind, const ToolBarInfo& info,
     }
 }
 
-/// The icons of one load: many buttons may have the same few files.
-using LoadedIcons = std::map<std::wstring, FileIcon>;
+/// An icon of one load and its first place in the list; -1: it could not be loaded.
+struct ButtonIcon {
+    FileIcon icon;
+    int image = -1;
+};
+/// Many buttons may have the same few files.
+using ButtonIcons = std::map<std::wstring, ButtonIcon>;
 
-void AddItem(CMFCToolBar& bar, const ToolBarInfo& info, LoadedIcons& icons) {
+/// Every button has a place of its own in the list.
+int AddImage(ButtonIcon& loaded) {
+    if (!loaded.icon.Get()) {
+        return -1;
+    }
+    // A copy of pixels that are there costs less than those of the icon.
+    if (loaded.image >= 0) {
+        return UserImages().AddImage(UserImages(), loaded.image);
+    }
+    loaded.image = UserImages().AddIcon(loaded.icon.Get(), FALSE);
+    return loaded.image;
+}
+
+void AddItem(CMFCToolBar& bar, const ToolBarInfo& info, ButtonIcons& icons) {
     const ToolBarItemKind kind = ToolBarItemKindOf(info.strType);
     if (kind == ToolBarItemKind::Separator) {
         bar.InsertSeparator();
@@ -108,10 +126,10 @@ void AddItem(CMFCToolBar& bar, const ToolBarInfo& info, LoadedIcons& icons) {
     }
     auto known = icons.find(info.strPicPath);
     if (known == icons.end()) {
-        known = icons.emplace(info.strPicPath, LoadCommandIcon(info.strPicPath)).first;
+        known = icons.emplace(info.strPicPath, ButtonIcon{LoadCommandIcon(info.strPicPath), -1}).first;
     }
-    const FileIcon& icon = known->second;
-    const int image = icon.Get() ? UserImages().AddIcon(icon.Get(), FALSE) : -1;
+    const FileIcon& icon = known->second.icon;
+    const int image = AddImage(known->second);
     InsertItem(bar, kind, info, ObtainCommand(info, icon.Get()), image);
 }
 
@@ -146,7 +164,7 @@ private:
     CWnd& m_parent;
     std::wstring m_group;
     CMFCToolBar* m_bar = nullptr;
-    LoadedIcons m_icons;
+    ButtonIcons m_icons;
 };
 
 CDynToolBarCreater::CDynToolBarCreater() = default;
@@ -184,7 +202,7 @@ void CDynToolBarCreater::AddChildBar(const CXmlNodeWrapper& node, CMFCToolBar* b
     if (!bar || !FileOp::GetAppPath(directory)) {
         return;
     }
-    LoadedIcons icons;
+    ButtonIcons icons;
     ReadToolBarButtons(varnhold::XmlCursor(node), [&](const ToolBarInfo& info) { AddItem(*bar, info, icons); });
 }
 
