@@ -164,11 +164,13 @@ std::string MenuSchema() {
 std::string ToolBarSchema() {
     using enum AttributeUse;
     const std::span<const AttributeRule> rules = ToolBarAttributeRules();
-    return Schema("toolbars", ComplexType("toolbars", {{"group", "group"}}, "") +
-                                  ComplexType("group", {{"bar", "bar"}}, Attributes(rules, {Type}, {Keyword})) +
-                                  ComplexType("bar", {{"item", "item"}}, Attributes(rules, {Type}, {Prompt})) +
-                                  ComplexType("item", {}, Attributes(rules, {}, {Type})) +
-                                  TypeWithPattern("type", OneOf(Narrow(ToolBarItemTypes()))) + kIconType);
+    return Schema(
+        "toolbars",
+        ComplexType("toolbars", {{"group", "group"}}, "") +
+            ComplexType("group", {{"toolbar", "toolbar"}, {"bar", "toolbar"}}, Attributes(rules, {Type}, {Keyword})) +
+            ComplexType("toolbar", {{"button", "button"}, {"item", "button"}}, Attributes(rules, {Type}, {Prompt})) +
+            ComplexType("button", {}, Attributes(rules, {}, {Type})) +
+            TypeWithPattern("type", OneOf(Narrow(ToolBarItemTypes()))) + kIconType);
 }
 
 } // namespace
