@@ -201,7 +201,11 @@ TEST(CheckedScenario, TheGeneratedRibbonOfFiveThousandButtonsIsCleanAndCheckedIn
     const std::vector<Diagnostic> findings = CheckConfiguration({(scenario.Path() / "").wstring(), {}, {}});
     const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
     EXPECT_EQ(findings.size(), 0u) << CheckedInstallation::Describe(findings.front());
+#if defined(NDEBUG) && !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     EXPECT_LT(time.count(), 1.0);
+#else
+    EXPECT_LT(time.count(), 60.0); // a slower program, or slower files
+#endif
 }
 
 } // namespace
