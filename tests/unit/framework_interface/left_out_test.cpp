@@ -330,9 +330,7 @@ class CMFCRibbonGallery;
 class CMFCRibbonGalleryMenuButton;
 class CMFCRibbonLinkCtrl;
 class CMFCRibbonMiniToolBar;
-class CMFCRibbonProgressBar;
 class CMFCRibbonUndoButton;
-class CMFCRibbonStatusBar;
 class CMFCBaseTabCtrl;
 class CDockablePane;
 class CPaneDivider;
@@ -353,11 +351,10 @@ LEFT_OUT("customisation and the help combo of a menu bar are not there yet", CMF
          GetFloatPopupDirection, GetHelpCombobox, HighlightDisabledItems, IsHighlightDisabledItems)
 LEFT_OUT("an edit window of its own, customisation and prompts of a combo box are not there yet",
          CMFCToolBarComboBoxButton, CreateEdit, GetPrompt, GetItemDataPtrAll)
-LEFT_OUT_CLASSES("bars of the next steps", CMFCRibbonStatusBar)
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
                  CPaneDivider)
 LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)
 LEFT_OUT_CLASSES("ribbon elements that nobody uses", CMFCRibbonColorButton, CMFCRibbonFontComboBox, CMFCRibbonGallery,
                  CMFCRibbonGalleryIcon, CMFCRibbonGalleryMenuButton, CMFCRibbonLinkCtrl, CMFCRibbonMiniToolBar,
-                 CMFCRibbonProgressBar, CMFCRibbonUndoButton)
+                 CMFCRibbonUndoButton)
 LEFT_OUT_CLASSES("customizing the ribbon in a dialog", CMFCRibbonCustomizeDialog, CMFCRibbonCustomizePropertyPage)
