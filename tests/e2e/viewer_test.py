@@ -736,7 +736,7 @@ class LeavingTheViewer(unittest.TestCase):
                     shutil.copy(path, folder)
                 elif os.path.isdir(path) and name != "cfg" or name.endswith(".dll"):
                     os.symlink(path, os.path.join(folder, name))
-            os.mkdir(os.path.join(folder, "cfg"))
+            shutil.copytree(os.path.join(BIN_DIR, "cfg"), os.path.join(folder, "cfg"))
             with open(os.path.join(folder, "cfg", "ribbon.xml"), "w", encoding="utf-8") as file:
                 file.write("<ribbon><row>")
             with BrokenRibbonViewer(folder, "--lang", "en") as viewer:
