@@ -150,13 +150,15 @@ void CMFCVisualManagerOffice20072::OnFillBarBackground(CDC* pDC, CBasePane* pBar
         return;
     }
     CMFCVisualManagerOffice2007::OnFillBarBackground(pDC, pBar, rectClient, rectClip, bNCArea);
-    // A bar lies flat on its second colour; the first one is the light edge along its top.
+    // A bar lies flat on its second colour; of the first one there is a hint along its top, where bars lie in rows.
     const bool isToolBar = pBar != nullptr && pBar->IsKindOf(RUNTIME_CLASS(CMFCToolBar)) &&
                            !pBar->IsKindOf(RUNTIME_CLASS(CMFCPopupMenuBar));
     if (isToolBar && CanDrawStyle()) {
         pDC->FillSolidRect(rectClient, m_clrToolBarGradientDark);
         rectClient.bottom = rectClient.top + 1;
-        pDC->FillSolidRect(rectClient, m_clrToolBarGradientLight);
+        constexpr int hint = 2; // tenths
+        pDC->FillSolidRect(rectClient, ToColorRef(visual::Mix(Opaque(m_clrToolBarGradientDark),
+                                                              Opaque(m_clrToolBarGradientLight), hint, 10)));
     }
 }
 
