@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+class CMFCRibbonLabel;
+class CMFCRibbonProgressBar;
 class CMFCRibbonSliderSync;
 
 /// The viewer's status bar. At the left it says what the working mode is for, and shows that the map is being drawn;
