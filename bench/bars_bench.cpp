@@ -4,6 +4,7 @@
 #include "dyn_toolbar_creater.h"
 #include "menu_id_mgr.h"
 #include "menubar_ex.h"
+#include "run_benchmarks.h"
 #include "scenario.h"
 
 #include "varnhold/file_op.h"
@@ -169,9 +170,7 @@ protected:
     void Measure(CBenchFrame& frame) override {
         g_frame = &frame;
         FileOp::SetAppPath(Scenario().Path().wstring() + L"\\");
-        int count = __argc;
-        benchmark::Initialize(&count, __argv);
-        benchmark::RunSpecifiedBenchmarks();
+        RunBenchmarks();
     }
 };
 

@@ -2,6 +2,7 @@
 // beside the same work with nothing but strings, maps, and draw calls.
 #include "combo_window.h"
 #include "draw_calls.h"
+#include "run_benchmarks.h"
 
 #include <benchmark/benchmark.h>
 
@@ -192,9 +193,7 @@ class CComboApp : public CBenchApp<ComboWindow> {
 protected:
     void Measure(ComboWindow& window) override {
         g_window = &window;
-        int count = __argc;
-        benchmark::Initialize(&count, __argv);
-        benchmark::RunSpecifiedBenchmarks();
+        RunBenchmarks();
     }
 };
 

@@ -1,4 +1,6 @@
 // The layout of docked toolbars when their frame changes its width, beside the moves of as many plain windows.
+#include "run_benchmarks.h"
+
 #include <afxcontrolbars.h>
 
 #include <benchmark/benchmark.h>
@@ -80,9 +82,7 @@ void DockingLayoutFloor(benchmark::State& state) {
 class DockingBench : public CWinAppEx {
 public:
     BOOL InitInstance() override {
-        int count = __argc;
-        benchmark::Initialize(&count, __argv);
-        benchmark::RunSpecifiedBenchmarks();
+        RunBenchmarks();
         return FALSE;
     }
 };

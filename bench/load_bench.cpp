@@ -2,6 +2,7 @@
 #include "add_ribbon_bar.h"
 #include "bench_frame.h"
 #include "menu_id_mgr.h"
+#include "run_benchmarks.h"
 #include "scenario.h"
 
 #include "varnhold/file_op.h"
@@ -59,9 +60,7 @@ protected:
     void Measure(CBenchFrame& frame) override {
         g_frame = &frame;
         FileOp::SetAppPath(Scenario().Path().wstring() + L"\\");
-        int count = __argc;
-        benchmark::Initialize(&count, __argv);
-        benchmark::RunSpecifiedBenchmarks();
+        RunBenchmarks();
     }
 };
 

@@ -4,6 +4,7 @@
 #include "tooltip_ctrl_ex.h"
 
 #include "bench_frame.h"
+#include "run_benchmarks.h"
 
 #include <afxglobals.h>
 #include <benchmark/benchmark.h>
@@ -251,9 +252,7 @@ protected:
         ULONG_PTR token = 0;
         const Gdiplus::GdiplusStartupInput input;
         Gdiplus::GdiplusStartup(&token, &input, nullptr);
-        int count = __argc;
-        benchmark::Initialize(&count, __argv);
-        benchmark::RunSpecifiedBenchmarks();
+        RunBenchmarks();
         Gdiplus::GdiplusShutdown(token);
     }
 };

@@ -1,5 +1,7 @@
 #include "picture_export.h"
 
+#include <boost/algorithm/string/replace.hpp>
+
 #include <array>
 
 #include <commdlg.h>
@@ -28,6 +30,28 @@ private:
     bool m_isOpen;
 };
 
+struct FileFilter {
+    std::wstring name;
+    std::wstring patterns; // with semicolons between them
+};
+
+/// The path that the user chose in the system's dialog; empty when there is none.
+std::wstring AskForFile(HWND owner, const FileFilter& filter, const wchar_t* extension, DWORD flags,
+                        BOOL(WINAPI* ask)(OPENFILENAMEW*)) {
+    const std::wstring shown = boost::algorithm::replace_all_copy(filter.patterns, L";", L", ");
+    const std::wstring filters = filter.name + L" (" + shown + L")" + L'\0' + filter.patterns + L'\0';
+    std::array<wchar_t, 32768> path = {};
+    OPENFILENAMEW question = {};
+    question.lStructSize = sizeof question;
+    question.hwndOwner = owner;
+    question.lpstrFilter = filters.c_str();
+    question.lpstrFile = path.data();
+    question.nMaxFile = static_cast<DWORD>(path.size());
+    question.lpstrDefExt = extension;
+    question.Flags = flags | OFN_NOCHANGEDIR;
+    return ask(&question) ? std::wstring(path.data()) : std::wstring();
+}
+
 } // namespace
 
 bool PutPictureOnClipboard(HWND owner, CBitmap& picture) {
@@ -54,32 +78,13 @@ bool PutTextOnClipboard(HWND owner, const std::wstring& text) {
 }
 
 std::wstring AskForPictureFile(HWND owner, const std::wstring& filterName) {
-    std::wstring filter = filterName + L" (*.png)";
-    filter.append(1, L'\0').append(L"*.png").append(1, L'\0');
-    std::array<wchar_t, 32768> path = {};
-    OPENFILENAMEW question = {};
-    question.lStructSize = sizeof question;
-    question.hwndOwner = owner;
-    question.lpstrFilter = filter.c_str();
-    question.lpstrFile = path.data();
-    question.nMaxFile = static_cast<DWORD>(path.size());
-    question.lpstrDefExt = L"png";
-    question.Flags = OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST | OFN_NOCHANGEDIR;
-    return ::GetSaveFileNameW(&question) ? std::wstring(path.data()) : std::wstring();
+    return AskForFile(owner, {filterName, L"*.png"}, L"png", OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST,
+                      ::GetSaveFileNameW);
 }
 
 std::wstring AskForMapFile(HWND owner, const std::wstring& filterName) {
-    std::wstring filter = filterName + L" (*.geojson, *.json)";
-    filter.append(1, L'\0').append(L"*.geojson;*.json").append(1, L'\0');
-    std::array<wchar_t, 32768> path = {};
-    OPENFILENAMEW question = {};
-    question.lStructSize = sizeof question;
-    question.hwndOwner = owner;
-    question.lpstrFilter = filter.c_str();
-    question.lpstrFile = path.data();
-    question.nMaxFile = static_cast<DWORD>(path.size());
-    question.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-    return ::GetOpenFileNameW(&question) ? std::wstring(path.data()) : std::wstring();
+    return AskForFile(owner, {filterName, L"*.geojson;*.json"}, nullptr, OFN_FILEMUSTEXIST | OFN_HIDEREADONLY,
+                      ::GetOpenFileNameW);
 }
 
 bool CutPicture(CBitmap& picture, const WindowBox& part, CBitmap& cut) {

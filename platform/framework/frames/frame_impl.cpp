@@ -5,6 +5,7 @@
 #include "afxribbonbar.h"
 #include "frames/pane_entry.h"
 #include "ribbon/keyboard.h"
+#include "window/mouse_messages.h"
 
 #include <windowsx.h>
 
@@ -69,17 +70,10 @@ BOOL CFrameImpl::HandActiveKeyToRibbon(const MSG& message) {
             keyboard.OnOtherKey();
         }
         return keyboard.IsActive() && bar->OnSysKeyDown(m_frame, message.wParam, message.lParam);
-    case WM_LBUTTONDOWN:
-    case WM_RBUTTONDOWN:
-    case WM_MBUTTONDOWN:
-    case WM_XBUTTONDOWN:
-    case WM_NCLBUTTONDOWN:
-    case WM_NCRBUTTONDOWN:
-    case WM_NCMBUTTONDOWN:
-    case WM_NCXBUTTONDOWN:
-        keyboard.OnMouseButton(message.hwnd);
-        return FALSE;
     default:
+        if (fx::IsMouseButtonDown(message.message)) {
+            keyboard.OnMouseButton(message.hwnd);
+        }
         return FALSE;
     }
 }

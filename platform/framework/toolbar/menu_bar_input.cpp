@@ -6,6 +6,7 @@
 #include "fx/window_guard.h"
 #include "popups/user_settings.h"
 #include "toolbar/metrics.h"
+#include "window/mouse_messages.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,22 +24,6 @@ bool IsOnTheWay(const CMFCToolBarButton* button) {
     return button && !(button->m_nStyle & (TBBS_SEPARATOR | TBBS_DISABLED)) && !button->IsHidden() &&
            button->IsVisible() && !DYNAMIC_DOWNCAST(CMFCToolBarMenuButtonsButton, button) &&
            !DYNAMIC_DOWNCAST(CMFCToolBarSystemMenuButton, button);
-}
-
-bool IsMouseButton(UINT message) {
-    switch (message) {
-    case WM_LBUTTONDOWN:
-    case WM_RBUTTONDOWN:
-    case WM_MBUTTONDOWN:
-    case WM_XBUTTONDOWN:
-    case WM_NCLBUTTONDOWN:
-    case WM_NCRBUTTONDOWN:
-    case WM_NCMBUTTONDOWN:
-    case WM_NCXBUTTONDOWN:
-        return true;
-    default:
-        return false;
-    }
 }
 
 bool IsModifier(WPARAM key) { return key == VK_SHIFT || key == VK_CONTROL; }
@@ -251,7 +236,7 @@ BOOL CMFCMenuBar::OnActiveKey(const MSG& message) {
         }
         return TRUE;
     default:
-        if (IsMouseButton(message.message) && message.hwnd != m_hWnd) {
+        if (fx::IsMouseButtonDown(message.message) && message.hwnd != m_hWnd) {
             EndKeyboard();
         }
         return FALSE;
@@ -289,7 +274,7 @@ BOOL CMFCMenuBar::OnFrameKey(const MSG& message) {
     case WM_SYSCHAR:
         return message.wParam != VK_SPACE && CanStartKeyboard() && TranslateChar(static_cast<UINT>(message.wParam));
     default:
-        m_isAltAlone = m_isAltAlone && message.message != WM_KEYDOWN && !IsMouseButton(message.message);
+        m_isAltAlone = m_isAltAlone && message.message != WM_KEYDOWN && !fx::IsMouseButtonDown(message.message);
         return FALSE;
     }
 }
