@@ -67,6 +67,11 @@ std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files) {
     return found;
 }
 
+std::optional<ConfigurationKind> KindNamed(std::wstring_view name) {
+    const auto* const found = std::ranges::find(kKindNames, name, &KindName::start);
+    return found == std::end(kKindNames) ? std::nullopt : std::optional(found->kind);
+}
+
 ConfigurationKind KindOfFile(const std::wstring& fullPath) {
     const std::wstring_view name = std::wstring_view(fullPath).substr(fullPath.find_last_of(L"\\/") + 1);
     for (const KindName& kind : kKindNames) {

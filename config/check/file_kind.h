@@ -3,8 +3,14 @@
 #include "config/check/configuration_check.h"
 #include "config/check/installation_files.h"
 
+#include <optional>
+#include <string_view>
+
 /// cfg\ribbon*.xml, cfg\menu*.xml and cfg\toolbar*.xml, each kind in name order, relative to the directory.
 std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files);
+
+/// The kind of that name, as a file's name begins with it ("ribbon", "menu", "toolbar"); none of another.
+std::optional<ConfigurationKind> KindNamed(std::wstring_view name);
 
 /// By the beginning of the file's name; of any other name, by the attributes in it that only one kind of file has.
 ConfigurationKind KindOfFile(const std::wstring& fullPath);

@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include "config/check/file_kind.h"
+
 #include <varnhold/strings.h>
 
 #include <algorithm>
@@ -50,23 +52,13 @@ struct Option {
     bool (*set)(BarcheckOptions& options, const std::wstring& value);
 };
 
-struct KindName {
-    std::wstring_view name;
-    ConfigurationKind kind;
-};
-constexpr KindName kKinds[] = {
-    {L"ribbon", ConfigurationKind::Ribbon},
-    {L"menu", ConfigurationKind::Menu},
-    {L"toolbar", ConfigurationKind::ToolBars},
-};
-
 bool SetSchema(BarcheckOptions& options, const std::wstring& value) {
-    const auto* const found = std::ranges::find(kKinds, value, &KindName::name);
-    if (found == std::end(kKinds)) {
+    const std::optional<ConfigurationKind> kind = KindNamed(value);
+    if (!kind) {
         return false;
     }
     options.task = BarcheckOptions::Task::Schema;
-    options.schema = found->kind;
+    options.schema = *kind;
     return true;
 }
 
