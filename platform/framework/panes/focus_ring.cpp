@@ -2,10 +2,9 @@
 #include "afxDockingManager.h"
 
 #include "afxbasepane.h"
+#include "window/focus.h"
 
 namespace {
-
-bool CanTakeFocus(HWND window) { return ::IsWindow(window) && ::IsWindowVisible(window) && ::IsWindowEnabled(window); }
 
 bool Holds(HWND window, HWND focus) { return window != nullptr && (window == focus || ::IsChild(window, focus)); }
 
@@ -13,7 +12,7 @@ bool Holds(HWND window, HWND focus) { return window != nullptr && (window == foc
 /// nothing does.
 HWND FocusIn(CBasePane& pane) {
     const HWND window = pane.GetSafeHwnd();
-    if (!CanTakeFocus(window)) {
+    if (!fx::CanTakeFocus(window)) {
         return nullptr;
     }
     if (pane.LeadsFocusItself()) {
@@ -21,7 +20,7 @@ HWND FocusIn(CBasePane& pane) {
     }
     // Without any tab stop the system answers some window all the same.
     const HWND inside = pane.CanFocus() ? ::GetNextDlgTabItem(window, nullptr, FALSE) : nullptr;
-    const bool isStop = CanTakeFocus(inside) && (::GetWindowLongPtr(inside, GWL_STYLE) & WS_TABSTOP) != 0;
+    const bool isStop = fx::CanTakeFocus(inside) && (::GetWindowLongPtr(inside, GWL_STYLE) & WS_TABSTOP) != 0;
     return isStop ? inside : nullptr;
 }
 
@@ -41,7 +40,7 @@ void CDockingManager::RememberDocumentFocus(HWND hWnd) {
 HWND CDockingManager::DocumentFocus() const {
     CFrameWnd* const active = m_pParentWnd->GetActiveFrame();
     const HWND document = active != nullptr ? active->GetSafeHwnd() : m_pParentWnd->GetSafeHwnd();
-    return CanTakeFocus(m_documentFocus) && Holds(document, m_documentFocus) ? m_documentFocus : document;
+    return fx::CanTakeFocus(m_documentFocus) && Holds(document, m_documentFocus) ? m_documentFocus : document;
 }
 
 HWND CDockingManager::FindNextFocus(HWND hFrom, BOOL bForward) {

@@ -10,14 +10,9 @@
 #include "afxRibbonEdit.h"
 #include "afxribbonpanelmenu.h"
 #include "fx/window_guard.h"
+#include "window/focus.h"
 
 using ribbon::KeyEvent;
-
-namespace {
-
-bool CanTakeFocus(HWND window) { return ::IsWindow(window) && ::IsWindowVisible(window) && ::IsWindowEnabled(window); }
-
-} // namespace
 
 RibbonKeyboard::RibbonKeyboard(CMFCRibbonBar& bar, RibbonBarParts& parts)
     : m_bar(bar), m_stops(bar, parts), m_levels(bar, parts) {}
@@ -182,7 +177,7 @@ void RibbonKeyboard::ReturnFocus() {
     }
     const HWND former = std::exchange(m_formerFocus, nullptr);
     const CWnd* frame = m_bar.GetTopLevelFrame();
-    if (CanTakeFocus(former) && frame != nullptr && ::GetAncestor(former, GA_ROOT) == frame->GetSafeHwnd()) {
+    if (fx::CanTakeFocus(former) && frame != nullptr && ::GetAncestor(former, GA_ROOT) == frame->GetSafeHwnd()) {
         ::SetFocus(former);
     } else if (frame != nullptr) {
         ::SetFocus(frame->GetSafeHwnd());

@@ -4,6 +4,7 @@
 #include "afxbaseribbonelement.h"
 #include "afxext.h"
 #include "afxvisualmanager.h"
+#include "fx/window_guard.h"
 #include "popups/menu_watch.h"
 #include "toolbar/popup_parts.h"
 #include "window/command_id.h"
@@ -76,12 +77,12 @@ BOOL CMFCPopupMenu::Create(CWnd* pWndParent, int x, int y, HMENU hMenu, BOOL bLo
                                  CRect(m_ptWanted, CSize(0, 0)), CWnd::FromHandlePermanent(m_hParentWnd))) {
         return FALSE;
     }
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     TellOpened();
     CFrameWnd* frame = GetOwnerFrame();
     const BOOL isAllowed = !frame || frame->OnShowPopupMenu(this);
     // The host may have closed the menu, or does not want it.
-    if (!::IsWindow(window)) {
+    if (guard.IsGone()) {
         return FALSE;
     }
     if (!isAllowed) {
@@ -91,13 +92,13 @@ BOOL CMFCPopupMenu::Create(CWnd* pWndParent, int x, int y, HMENU hMenu, BOOL bLo
     if (!IsOver()) {
         OnOpened();
     }
-    if (!::IsWindow(window) || IsOver()) {
+    if (guard.IsGone() || IsOver()) {
         return FALSE;
     }
     Place();
     PlaceBar();
     ShowAnimated();
-    return ::IsWindow(window) && !IsOver();
+    return guard.IsAlive() && !IsOver();
 }
 
 int CMFCPopupMenu::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -189,9 +190,9 @@ void CMFCPopupMenu::TellOpened() {
 BOOL CMFCPopupMenu::LeaveChain() {
     m_life = std::max(m_life, Life::Closing);
     if (m_pChildPopup) {
-        const HWND window = m_hWnd;
+        const fx::WindowGuard guard(this);
         m_pChildPopup->CloseMenu();
-        if (!::IsWindow(window)) {
+        if (guard.IsGone()) {
             return FALSE;
         }
     }
@@ -218,14 +219,14 @@ void CMFCPopupMenu::TellClosed() {
     if (std::exchange(m_life, Life::Notified) == Life::Notified) {
         return;
     }
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     const bool tellsSelection =
         m_bSendMenuSelectMsg && !GetMenuBar()->IsRibbonPanel() && !GetMenuBar()->IsDropDownListMode();
     if (tellsSelection && !m_pParentPopup && m_hasBeenShown && m_hMessageWnd) {
         // As the system says that its menus are closed.
         ::SendMessageW(m_hMessageWnd, WM_MENUSELECT, MAKEWPARAM(0, 0xFFFF), 0);
     }
-    if (!::IsWindow(window)) {
+    if (guard.IsGone()) {
         return;
     }
     if (CFrameWnd* frame = GetOwnerFrame()) {
@@ -249,9 +250,9 @@ void CMFCPopupMenu::OnDestroy() {
     }
     m_parts->shadow.Hide();
     m_parts->shadow.DestroyWindow();
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     TellClosed();
-    if (!::IsWindow(window)) {
+    if (guard.IsGone()) {
         return;
     }
     ForgetParents();

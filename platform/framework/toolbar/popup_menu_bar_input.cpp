@@ -231,13 +231,13 @@ void CMFCPopupMenuBar::ChooseItem(int iIndex) {
     }
     m_nLastCommandIndex = iIndex;
     const UINT id = button->m_nID;
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     auto* menuButton = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, button);
-    if ((menuButton && menuButton->OnClickMenuItem()) || !::IsWindow(window)) {
+    if ((menuButton && menuButton->OnClickMenuItem()) || guard.IsGone()) {
         return;
     }
     popup->OnChooseItem(id);
-    if (!::IsWindow(window) || OnSendCommand(button)) {
+    if (guard.IsGone() || OnSendCommand(button)) {
         return;
     }
     if (UINT* result = popup->GetRootPopupMenu()->m_pTrackResult) {

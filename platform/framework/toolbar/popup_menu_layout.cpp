@@ -7,6 +7,7 @@
 #include "fx/dc_scope.h"
 #include "fx/to_rect.h"
 #include "fx/window_dc.h"
+#include "fx/window_guard.h"
 #include "popups/popup_place.h"
 #include "popups/strip_draw.h"
 #include "toolbar/metrics.h"
@@ -199,11 +200,12 @@ void CMFCPopupMenu::UpdateShadow(LPRECT) {
     if (!CMFCMenuBar::IsMenuShadows() || !IsShown() || !window || !::IsWindowVisible(window)) {
         return;
     }
+    const fx::WindowGuard guard(this);
     const HWND owner = ::GetWindow(window, GW_OWNER);
     if (owner && toolbar::MenuShadow::CopiesWindows()) {
         ::RedrawWindow(owner, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN); // and whoever paints may end this
     }
-    if (::IsWindow(window)) {
+    if (guard.IsAlive()) {
         CRect rect;
         ::GetWindowRect(window, rect);
         m_parts->shadow.Show(window, rect, Scaled(CMFCVisualManager::GetInstance()->GetMenuShadowDepth()));

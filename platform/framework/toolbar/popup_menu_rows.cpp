@@ -5,6 +5,7 @@
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
+#include "fx/window_guard.h"
 #include "popups/row_keys.h"
 #include "popups/row_text.h"
 #include "toolbar/menu_row.h"
@@ -278,10 +279,10 @@ BOOL CMFCPopupMenuBar::ToggleHotRow() {
     if (m_iHighlighted < 0 || isInWord) {
         return FALSE;
     }
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     const int row = m_iHighlighted;
     const BOOL isUsed = OnToggleRow(row);
-    if (isUsed && ::IsWindow(window)) {
+    if (isUsed && guard.IsAlive()) {
         InvalidateRow(row);
     }
     return isUsed;

@@ -152,13 +152,13 @@ void CMFCToolBar::ClickButton(int iIndex, BOOL bSendCommand) {
     if (button->m_nStyle & TBSTYLE_CHECK) {
         SetButtonStyle(iIndex, button->m_nStyle ^ TBBS_CHECKED);
     }
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     if (button->OnClickUp() || !bSendCommand || OnSendCommand(button)) {
         return;
     }
     ProcessCommand(button);
-    if (::IsWindow(window)) {
-        ::UpdateWindow(window);
+    if (guard.IsAlive()) {
+        UpdateWindow();
     }
 }
 
@@ -239,9 +239,9 @@ void CMFCToolBar::OnLButtonDblClk(UINT nFlags, CPoint point) {
         CMFCBaseToolBar::OnLButtonDblClk(nFlags, point);
         return;
     }
-    const HWND window = m_hWnd;
+    const fx::WindowGuard guard(this);
     button->OnDblClk(this);
-    if (::IsWindow(window)) {
+    if (guard.IsAlive()) {
         // The second click of a fast user.
         OnLButtonDown(nFlags, point);
     }
