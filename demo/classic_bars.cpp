@@ -163,10 +163,33 @@ void ClassicBars::FillCombos() {
 }
 
 void ClassicBars::Show(bool isShown) {
+    m_hidden = HiddenToolbars();
     m_isShown = isShown;
     m_frame->ShowPane(&m_menuBar, isShown, TRUE, FALSE);
-    for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
-        m_frame->ShowPane(bar, isShown, TRUE, FALSE);
+    for (const auto& [bar, title] : m_titles) {
+        const bool isWanted = std::find(m_hidden.begin(), m_hidden.end(), title.GetString()) == m_hidden.end();
+        m_frame->ShowPane(bar, isShown && isWanted, TRUE, FALSE);
+    }
+}
+
+std::vector<std::wstring> ClassicBars::HiddenToolbars() const {
+    if (!m_isShown) {
+        return m_hidden;
+    }
+    std::vector<std::wstring> hidden;
+    for (const auto& [bar, title] : m_titles) {
+        if (!bar->IsVisible()) {
+            hidden.emplace_back(title.GetString());
+        }
+    }
+    return hidden;
+}
+
+void ClassicBars::HideToolbars(const std::vector<std::wstring>& titles) {
+    m_hidden = titles;
+    if (m_isShown) {
+        m_isShown = false; // what is seen now does not count
+        Show(true);
     }
 }
 

@@ -18,6 +18,13 @@
 /// cfg\toolbar.xml. Their combos of layers show the same as the ribbon's. The frame owns the toolbars' windows and
 /// outlives this.
 class ClassicBars {
+    /// A menu bar keeps nothing, and says of itself that nothing was found: then the application could not tell whether
+    /// the places of the toolbars are damaged.
+    class MenuBarWithoutState : public CMfcMenubarEx {
+    public:
+        BOOL LoadState(LPCTSTR, int, UINT) override { return TRUE; }
+    };
+
 public:
     explicit ClassicBars(const MapState& state) : m_state(state) {}
 
@@ -32,6 +39,9 @@ public:
     /// the folder of those icons beside the configured one; the ribbon's buttons know the files.
     void TakeIcons(CMFCRibbonBar& ribbon, const wchar_t* set);
     void Show(bool isShown);
+    /// The toolbars that the user does not want to see among the bars, by the titles in their file; and the other way.
+    std::vector<std::wstring> HiddenToolbars() const;
+    void HideToolbars(const std::vector<std::wstring>& titles);
     bool IsShown() const { return m_isShown; }
     /// Brings the combos to the state's values. `chosen`: the layer that is chosen in the ribbon.
     void ShowState(std::optional<MapLayer> chosen);
@@ -51,11 +61,12 @@ private:
 
     const MapState& m_state;
     CFrameWndEx* m_frame = nullptr;
-    CMfcMenubarEx m_menuBar;
+    MenuBarWithoutState m_menuBar;
     CDynMenuCreater m_menu;
     HostMenu m_help{HostMenu::Kind::Help};
     CDynToolBarCreater m_toolbars;
     std::map<CMFCToolBar*, CString> m_titles; ///< As the file has them.
     CMFCToolBarImages m_icons; ///< Of the toolbars, in place of the library's list; outlives the bars' windows.
+    std::vector<std::wstring> m_hidden; ///< What is hidden even when the bars are shown.
     bool m_isShown = false;
 };

@@ -1,7 +1,6 @@
 #include "main_frame.h"
 
 #include "add_ribbon_bar.h"
-#include "frame_dump.h"
 #include "geo_json.h"
 #include "host_messages.h"
 #include "library_context.h"
@@ -16,6 +15,8 @@
 #include "screenshot.h"
 #include "system_skin.h"
 #include "tooltip_ctrl_ex.h"
+#include "viewer_skins.h"
+#include "viewer_text.h"
 
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"
@@ -32,7 +33,6 @@ namespace {
 
 constexpr UINT kFirstCommand = 41000;
 constexpr UINT kLastCommand = 49999;
-constexpr UINT kRebuildRibbonMessage = WM_APP + 1;
 constexpr UINT kLightTakenMessage = WM_APP + 2;
 /// Buttons with sub-items that also do something of their own.
 constexpr std::array<const wchar_t*, 5> kSplitButtons = {L"ZoomOriginal", L"PlaceCities", L"BookmarkGo", L"LineWidth",
@@ -41,16 +41,6 @@ constexpr std::array<const wchar_t*, 5> kSplitButtons = {L"ZoomOriginal", L"Plac
 constexpr UINT kSkinButtonText = 17096;
 constexpr wchar_t kSkinIcon[] = L"pic\\skin\\icon\\modle\\skin.ico";
 constexpr wchar_t kRibbonFile[] = L"cfg\\ribbon.xml";
-
-struct Skin {
-    const wchar_t* name;
-    int style;                ///< As the ribbon numbers them.
-    const wchar_t* iconStyle; ///< "0": light icons for dark ground
-    const wchar_t* icons;     ///< The folder of those that can be seen on it
-    const wchar_t* iconSet;   ///< The end of its name
-};
-constexpr std::array<Skin, 2> kSkins = {{{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\", L"\\modle\\"},
-                                         {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\", L"\\modle_0\\"}}};
 
 /// On the row of tabs, which is dark in both skins: its icon is the light one in both.
 class SkinButton : public CMFCRibbonUNIcoButton {
@@ -71,22 +61,11 @@ private:
     const std::wstring& m_style;
 };
 
-std::wstring ViewerText(const char* key) { return CMultiLanguageMgr::translationW(key, -1, "Viewer"); }
-
 /// What the list beside the map is called, and what is in it.
 LayerRowTexts ListTexts() {
     const auto text = [](const char* key) { return CMultiLanguageMgr::translationW(key, -1, "RibbonBarCfg"); };
     return {text("CatLayers"), text("PlaceCities"), LayerControls::LayerNames(),
             CMultiLanguageMgr::GetLanguage() == L"zh-CN"};
-}
-
-/// The message with the name in place of its "%s".
-std::wstring WithName(std::wstring message, const std::wstring& name) {
-    const std::size_t mark = message.find(L"%s");
-    if (mark != std::wstring::npos) {
-        message.replace(mark, 2, name);
-    }
-    return message;
 }
 
 std::wstring InstallationDirectory() {
@@ -109,6 +88,8 @@ IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
 ON_WM_CREATE()
+ON_WM_CLOSE()
+ON_WM_ENDSESSION()
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
 ON_WM_HELPINFO()
@@ -116,7 +97,7 @@ ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
 ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE1 + _AFX_MRU_COUNT - 1, OnRecentFile)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
 ON_REGISTERED_MESSAGE(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, OnCategoryChanged)
-ON_MESSAGE(kRebuildRibbonMessage, OnRebuildRibbon)
+ON_MESSAGE(kRebuildMessage, OnRebuildRibbon)
 ON_MESSAGE(kLightTakenMessage, OnLightTaken)
 ON_MESSAGE(WM_COMBO_CHECK_CHANGED, OnLayerChecked)
 ON_MESSAGE(WM_COMBO_COLOR_PICK, OnLayerColor)
@@ -134,7 +115,12 @@ CMainFrame::CMainFrame(const DemoOptions& options)
       m_modes(m_ribbon),
       m_bars(m_state),
       m_controls(m_state),
-      m_skin(options.skin.empty() ? PreferredSkin() : options.skin) {
+      m_memory(options.isFresh            ? L""
+               : options.settings.empty() ? ViewerMemory::OwnFolder()
+                                          : options.settings) {
+    m_memory.Load(m_state);
+    const KeptViewer& kept = m_memory.Viewer();
+    m_skin = !options.skin.empty() ? options.skin : FindViewerSkin(kept.skin) != nullptr ? kept.skin : PreferredSkin();
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
     dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));
     dispatcher->addReactor(MakeLayerReactor(m_state, *this));
@@ -146,7 +132,8 @@ CMainFrame::CMainFrame(const DemoOptions& options)
 }
 
 BOOL CMainFrame::CreateFrame() {
-    const CRect rect(CPoint(0, 0), CSize(m_options.width, m_options.height));
+    StartInLanguage();
+    const CRect rect = StartPlace();
     const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), nullptr,
                                                     AfxGetApp()->LoadIcon(IDR_MAINFRAME));
     return Create(windowClass, ViewerText("ViewerTitle").c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rect, nullptr,
@@ -169,9 +156,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     m_bars.TakeShortcuts();
     BuildRibbon();
     ApplyTexts();
-    if (m_options.showsClassicBars) {
-        ShowClassicBars(true);
-    }
+    RestoreState();
     m_pane.SetChangeListener([this] { TakeChange(); });
     m_map.SetPointerListener([this](GeoPoint place) {
         m_controls.ShowPointer(place);
@@ -392,14 +377,12 @@ LRESULT CMainFrame::OnLabelClicked(WPARAM label, LPARAM) {
 }
 
 void CMainFrame::ApplySkin() {
-    for (const Skin& skin : kSkins) {
-        if (m_skin == skin.name) {
-            m_iconStyle = skin.iconStyle;
-            CMFCRibbonUNIcoButton::SetSkinStyle(skin.iconStyle);
-            m_ribbon.ChangeSkinColor(skin.style, TRUE);
-            m_helpHint.TakeIcons(skin.icons);
-            m_pane.SetSkin(static_cast<UINT>(skin.style));
-        }
+    if (const ViewerSkin* const skin = FindViewerSkin(m_skin)) {
+        m_iconStyle = skin->iconStyle;
+        CMFCRibbonUNIcoButton::SetSkinStyle(skin->iconStyle);
+        m_ribbon.ChangeSkinColor(skin->style, TRUE);
+        m_helpHint.TakeIcons(skin->icons);
+        m_pane.SetSkin(static_cast<UINT>(skin->style));
     }
 }
 
@@ -412,253 +395,3 @@ void CMainFrame::ApplyTexts() {
     m_map.SetStyle(style);
     m_pane.SetTexts(ListTexts());
 }
-
-void CMainFrame::WriteRecord() {
-    if (m_options.record.empty()) {
-        return;
-    }
-    const MapView& view = m_state.View();
-    nlohmann::ordered_json layers = nlohmann::ordered_json::array();
-    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
-        layers.push_back(m_state.IsShown(static_cast<MapLayer>(i)));
-    }
-    nlohmann::ordered_json styles = nlohmann::ordered_json::array();
-    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
-        const auto layer = static_cast<MapLayer>(i);
-        styles.push_back({{"color", ShownColor(m_state, layer)},
-                          {"lit", m_state.IsLit(layer)},
-                          {"locked", m_state.IsLocked(layer)}});
-    }
-    nlohmann::ordered_json labels = nlohmann::ordered_json::array();
-    for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i) {
-        labels.push_back(m_state.IsLit(static_cast<MapLabel>(i)));
-    }
-    nlohmann::ordered_json marks = nlohmann::ordered_json::array();
-    for (const GeoPoint& mark : m_state.Marks()) {
-        marks.push_back({mark.longitude, mark.latitude});
-    }
-    nlohmann::ordered_json record = {{"map",
-                                      {{"longitude", view.center.longitude},
-                                       {"latitude", view.center.latitude},
-                                       {"pixelsPerDegree", view.pixelsPerDegree},
-                                       {"layers", std::move(layers)},
-                                       {"layerStyles", std::move(styles)},
-                                       {"labelsLit", std::move(labels)},
-                                       {"marks", std::move(marks)},
-                                       {"opened", m_state.Opened().size()},
-                                       {"page", m_state.Page() == PageShape::Portrait ? "portrait" : "landscape"},
-                                       {"palette", static_cast<int>(m_state.Palette())},
-                                       {"finished", m_map.IsFinished()}}},
-                                     {"language", wstring2String(CMultiLanguageMgr::GetLanguage())},
-                                     {"mode", wstring2String(WorkingModes::NameOf(m_state.Mode()))},
-                                     {"skin", wstring2String(m_skin)},
-                                     {"iconStyle", wstring2String(m_iconStyle)},
-                                     {"classicBars", m_bars.IsShown()},
-                                     {"frame", DumpFrame({.ribbon = &m_ribbon,
-                                                          .statusBar = m_status.get(),
-                                                          .commands = {m_commandTexts},
-                                                          .menus = {m_bars.Menu().GetMenu()},
-                                                          .accelerators = m_hAccelTable,
-                                                          .application = m_status->Application(),
-                                                          .toolBars = m_bars.GroupedToolbars()})}};
-    CRect ribbon;
-    m_ribbon.GetWindowRect(ribbon);
-    const auto onScreen = [&ribbon](CRect rect) {
-        rect.OffsetRect(ribbon.TopLeft());
-        return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
-    };
-    const auto places = [](const CMFCToolBar& bar) {
-        nlohmann::ordered_json rects = nlohmann::ordered_json::array();
-        for (const CRect& place : ClassicBars::PlacesOf(bar)) {
-            rects.push_back({place.left, place.top, place.right, place.bottom});
-        }
-        return rects;
-    };
-    record["menuBarOnScreen"] = places(m_bars.MenuBar());
-    record["toolbarsOnScreen"] = nlohmann::ordered_json::array();
-    for (const auto& [group, bar] : m_bars.GroupedToolbars()) {
-        record["toolbarsOnScreen"].push_back(places(*bar));
-    }
-    record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
-    CRect status;
-    m_status->GetWindowRect(status);
-    record["statusOnScreen"] = {status.left, status.top, status.right, status.bottom};
-    record["quickAccessOnScreen"] = onScreen(m_ribbon.GetQuickAccessToolbarLocation());
-    record["tabsOnScreen"] = nlohmann::ordered_json::array();
-    for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
-        record["tabsOnScreen"].push_back(onScreen(m_ribbon.GetCategory(i)->GetTabRect()));
-    }
-    CRect skinButton(0, 0, 0, 0);
-    if (m_skinButton != nullptr) {
-        skinButton = m_skinButton->GetRect();
-    }
-    record["skinButtonOnScreen"] = onScreen(skinButton);
-    const auto part = [this](CMapPane::Part which) {
-        const CRect rect = m_pane.PlaceOf(which);
-        return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
-    };
-    record["paneOnScreen"] = {{"list", part(CMapPane::Part::List)},
-                              {"map", part(CMapPane::Part::Map)},
-                              {"down", part(CMapPane::Part::Down)},
-                              {"across", part(CMapPane::Part::Across)}};
-    record["ribbonMinimized"] = IsRibbonMinimized();
-    record["quickAccessBelow"] = IsQuickAccessBelow();
-    std::string text = record.dump();
-    if (text == m_recorded) {
-        return;
-    }
-    m_recorded = std::move(text);
-    WriteJson(record, m_options.record);
-}
-
-int CMainFrame::ScaleSliderPosition() const { return m_controls.ScalePosition(); }
-
-std::wstring CMainFrame::PlaceText() const {
-    return m_place ? std::wstring(m_place->GetEditText().GetString()) : std::wstring();
-}
-
-bool CMainFrame::IsPlaceConfirmed() const { return !m_tellsPlace && ::GetKeyState(VK_RETURN) < 0; }
-
-// The field sends its command once more, as it loses the focus to the box.
-void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
-    m_tellsPlace = true;
-    QKMessageBox(WithName(ViewerText("PlaceUnknown"), text), QK_MESSAGE_WARNING, GetSafeHwnd());
-    m_tellsPlace = false;
-}
-
-void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
-
-void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
-
-void CMainFrame::SwitchLanguage(const std::wstring& code) {
-    if (!CMultiLanguageMgr::SetLanguage(code)) {
-        return;
-    }
-    TakeResourceLanguage();
-    setMessageBoxTitle(ViewerText("ViewerTitle"));
-    ApplyTexts();
-    // The clicked button is still at work: the ribbon is built anew after it has finished.
-    PostMessage(kRebuildRibbonMessage);
-}
-
-// The file's categories for the modes are commands: a click on their tab has come as one. By the keyboard or the wheel
-// their page has come to the front instead.
-LRESULT CMainFrame::OnCategoryChanged(WPARAM, LPARAM) {
-    const auto* const category = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, m_ribbon.GetActiveCategory());
-    if (category != nullptr) {
-        PostMessage(WM_COMMAND, category->GetID());
-    }
-    return 0;
-}
-
-void CMainFrame::ShowMode(MapMode mode) {
-    m_modes.Show(mode);
-    m_status->ShowMode(mode);
-    m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
-}
-
-LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
-    BuildRibbon();
-    WriteRecord();
-    return 0;
-}
-
-bool CMainFrame::IsLanguage(const std::wstring& code) const { return CMultiLanguageMgr::GetLanguage() == code; }
-
-void CMainFrame::SwitchSkin(const std::wstring& name) {
-    const auto isOther = [this](const Skin& skin) { return m_skin != skin.name; };
-    m_skin = name == L"switch" ? std::find_if(kSkins.begin(), kSkins.end(), isOther)->name : name;
-    ApplySkin();
-    TakeBarIcons();
-}
-
-void CMainFrame::TakeBarIcons() {
-    const auto isShown = [this](const Skin& skin) { return m_skin == skin.name; };
-    m_bars.TakeIcons(m_ribbon, std::find_if(kSkins.begin(), kSkins.end(), isShown)->iconSet);
-}
-
-bool CMainFrame::IsSkin(const std::wstring& name) const { return m_skin == name; }
-
-void CMainFrame::SwitchIconStyle(const std::wstring& style) {
-    m_iconStyle = style;
-    CMFCRibbonUNIcoButton::SetSkinStyle(style.c_str());
-    m_ribbon.Invalidate();
-}
-
-bool CMainFrame::IsIconStyle(const std::wstring& style) const { return m_iconStyle == style; }
-
-void CMainFrame::ToggleRibbonMinimized() { m_ribbon.ToggleMimimizeState(); }
-
-bool CMainFrame::IsRibbonMinimized() const { return (m_ribbon.GetHideFlags() & AFX_RIBBONBAR_HIDE_ELEMENTS) != 0; }
-
-void CMainFrame::ToggleQuickAccessBelow() {
-    m_ribbon.SetQuickAccessToolbarOnTop(!m_ribbon.IsQuickAccessToolbarOnTop());
-    RecalcLayout();
-}
-
-bool CMainFrame::IsQuickAccessBelow() const { return !m_ribbon.IsQuickAccessToolbarOnTop(); }
-
-void CMainFrame::ToggleClassicBars() { ShowClassicBars(!m_bars.IsShown()); }
-
-void CMainFrame::ShowClassicBars(bool isShown) {
-    if (isShown) {
-        m_bars.ShowState(m_controls.ChosenLayer());
-    }
-    m_bars.Show(isShown);
-    ShowPane(&m_ribbon, !isShown, TRUE, FALSE);
-    RecalcLayout();
-}
-
-std::optional<MapLayer> CMainFrame::ChosenLayer() const {
-    return m_bars.IsShown() ? m_bars.ChosenLayer() : m_controls.ChosenLayer();
-}
-
-// Toolbars have their texts from their file, which speaks one language.
-BOOL CMainFrame::GetToolbarButtonToolTipText(CMFCToolBarButton* button, CString& text) {
-    std::wstring keyword;
-    if (!CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(button->m_nID), keyword)) {
-        return FALSE;
-    }
-    text = CMultiLanguageMgr::translation(keyword, "RibbonBarCfg").c_str();
-    return !text.IsEmpty();
-}
-
-void CMainFrame::CopyPicture() {
-    CBitmap picture;
-    if (m_map.MakePicture(picture)) {
-        PutPictureOnClipboard(GetSafeHwnd(), picture);
-    }
-}
-
-void CMainFrame::SavePicture(CBitmap& picture, bool isMade) {
-    const std::wstring path = AskForPictureFile(GetSafeHwnd(), ViewerText("PictureFilter"));
-    if (!path.empty() && !(isMade && WritePng(picture, path))) {
-        QKMessageBox(WithName(ViewerText("PictureFailed"), path), QK_MESSAGE_WARNING, GetSafeHwnd());
-    }
-}
-
-void CMainFrame::SavePicture() {
-    CBitmap picture;
-    const bool isMade = m_map.MakePicture(picture) != FALSE;
-    SavePicture(picture, isMade);
-}
-
-bool CMainFrame::MakePage(CBitmap& picture) {
-    CBitmap whole;
-    return m_map.MakePicture(whole) && CutPicture(whole, m_state.PageBox(), picture);
-}
-
-void CMainFrame::CopyPage() {
-    CBitmap page;
-    if (MakePage(page)) {
-        PutPictureOnClipboard(GetSafeHwnd(), page);
-    }
-}
-
-void CMainFrame::SavePage() {
-    CBitmap page;
-    const bool isMade = MakePage(page);
-    SavePicture(page, isMade);
-}
-
-void CMainFrame::CopyText(const std::wstring& text) { PutTextOnClipboard(GetSafeHwnd(), text); }

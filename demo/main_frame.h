@@ -12,6 +12,7 @@
 #include "map_window.h"
 #include "options.h"
 #include "viewer_commands.h"
+#include "viewer_memory.h"
 #include "viewer_ribbon.h"
 #include "viewer_status_bar.h"
 #include "working_modes.h"
@@ -40,9 +41,15 @@ public:
     void OpenMapFile(const std::wstring& path);
     /// Waits until the map is drawn, for pictures of the window.
     void FinishMap() { m_map.Finish(); }
+    /// Shows the window as it was left.
+    void Show();
+    /// Says what could not be kept or found again, if there is anything to say.
+    void TellTroubles();
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
+    afx_msg void OnClose();
+    afx_msg void OnEndSession(BOOL isEnding);
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg void OnSetFocus(CWnd* earlier);
     afx_msg void OnDropFiles(HDROP drop);
@@ -60,6 +67,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    /// Posted to itself: the bars are to be built anew when what is at work now has finished.
+    static constexpr UINT kRebuildMessage = WM_APP + 1;
+
+    // What was kept, and keeping it.
+    void StartInLanguage();
+    CRect StartPlace() const;
+    void RestoreState();
+    void KeepState();
+
     void BuildRibbon();
     void BuildStatusBar();
     void ShowClassicBars(bool isShown);
@@ -120,6 +136,7 @@ private:
     HelpHint m_helpHint;
     std::unique_ptr<CViewerStatusBar> m_status; ///< Made anew with the ribbon, whose commands it shows.
     LayerControls m_controls;
+    ViewerMemory m_memory;
     bool m_tellsPlace = false;
     CMFCRibbonUNIcoButton* m_skinButton = nullptr; ///< The ribbon's, beside the tabs; null when there is none.
     CMFCRibbonEdit* m_place = nullptr;             ///< The ribbon's; null when the configuration has none.

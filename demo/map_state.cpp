@@ -59,12 +59,21 @@ void MapState::SetWindowSize(int width, int height) {
     const bool first = m_width == 1 && m_height == 1;
     m_width = std::max(width, 1);
     m_height = std::max(height, 1);
-    if (first) {
+    if (first && !m_hasFirstView) {
         ShowWorld();
         m_history = {m_view};
         m_historyPosition = 0;
     }
     Clamp();
+    Changed();
+}
+
+void MapState::SetFirstView(const MapView& view) {
+    m_view = view;
+    Clamp();
+    m_hasFirstView = true;
+    m_history = {m_view};
+    m_historyPosition = 0;
     Changed();
 }
 
@@ -166,6 +175,12 @@ bool MapState::StepBookmark(int direction) {
 void MapState::ClearBookmarks() {
     m_bookmarks.clear();
     m_bookmarkPosition = 0;
+    Changed();
+}
+
+void MapState::SetBookmarks(std::vector<MapView> bookmarks) {
+    m_bookmarks = std::move(bookmarks);
+    m_bookmarkPosition = m_bookmarks.empty() ? 0 : m_bookmarks.size() - 1;
     Changed();
 }
 
@@ -294,6 +309,11 @@ void MapState::ClearMarks() {
         m_marks.clear();
         Changed();
     }
+}
+
+void MapState::SetMarks(std::vector<GeoPoint> marks) {
+    m_marks = std::move(marks);
+    Changed();
 }
 
 void MapState::SetPage(PageShape page) {

@@ -65,6 +65,8 @@ public:
     int WindowHeight() const noexcept { return m_height; }
 
     const MapView& View() const noexcept { return m_view; }
+    /// The view that the history begins with, in the place of the whole world.
+    void SetFirstView(const MapView& view);
 
     /// Changes the scale by a factor; the place under the window position (pixels from the middle) stays where it is.
     void Zoom(double factor, double offsetX = 0, double offsetY = 0);
@@ -87,6 +89,8 @@ public:
     bool StepBookmark(int direction);
     void ClearBookmarks();
     std::size_t BookmarkCount() const noexcept { return m_bookmarks.size(); }
+    const std::vector<MapView>& Bookmarks() const noexcept { return m_bookmarks; }
+    void SetBookmarks(std::vector<MapView> bookmarks);
 
     bool IsShown(MapLayer layer) const noexcept { return m_layers[static_cast<int>(layer)]; }
     void Toggle(MapLayer layer);
@@ -125,6 +129,7 @@ public:
     void AddMark();
     void RemoveLastMark();
     void ClearMarks();
+    void SetMarks(std::vector<GeoPoint> marks);
     PageShape Page() const noexcept { return m_page; }
     void SetPage(PageShape page);
     /// What of the window goes on the page: an A4 sheet as large as fits, with a margin around.
@@ -157,6 +162,7 @@ private:
     int m_width = 1;
     int m_height = 1;
     MapView m_view;
+    bool m_hasFirstView = false;
     std::vector<MapView> m_history;
     std::size_t m_historyPosition = 0;
     std::vector<MapView> m_bookmarks;

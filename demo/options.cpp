@@ -12,6 +12,7 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
     DemoOptions options;
     std::wstring direction;
     std::wstring bars;
+    std::wstring memory;
     std::vector<std::wstring> words;
     const bool isUnderstood = OptionTable()
                                   .AddText(L"--lang", options.language)
@@ -22,11 +23,17 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
                                   .AddText(L"--record", options.record)
                                   .AddChoice(L"--direction", {L"ltr", L"rtl"}, direction)
                                   .AddChoice(L"--bars", {L"ribbon", L"classic"}, bars)
+                                  .AddChoice(L"--memory", {L"kept", L"none"}, memory)
+                                  .AddText(L"--settings", options.settings)
                                   .AddSize(L"--size", kLargest, options.width, options.height)
                                   .AddNumber(L"--scale", 0, kLargest, options.scalePercent)
                                   .AddNumber(L"--category", 0, kLargest, options.category)
                                   .Read(arguments, 0, words, error);
     options.isRightToLeft = direction == L"rtl";
-    options.showsClassicBars = bars == L"classic";
+    if (!bars.empty()) {
+        options.showsClassicBars = bars == L"classic";
+    }
+    // Pictures show what their command line says.
+    options.isFresh = memory == L"none" || (!options.screenshot.empty() && options.settings.empty());
     return isUnderstood ? std::optional(options) : std::nullopt;
 }

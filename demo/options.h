@@ -6,18 +6,20 @@
 
 /// What the demo was asked for on its command line.
 struct DemoOptions {
-    std::wstring language = L"zh-CN";
-    std::wstring skin;             ///< Empty: as the system prefers.
+    std::wstring language;         ///< Empty: as at the last time, at first the system's.
+    std::wstring skin;             ///< Empty: as at the last time, at first as the system prefers.
     std::wstring mode = L"browse"; ///< The working mode that is shown first.
-    int width = 1280;              ///< Outer size of the frame in screen pixels.
-    int height = 800;
-    int scalePercent = 0;          ///< 0: as the screen says.
-    int category = -1;             ///< Index of the category shown first; -1: the mode's own.
-    bool showsClassicBars = false; ///< Menu bar and toolbars in the ribbon's place.
-    bool isRightToLeft = false;    ///< Mirrored layout, as for languages that are written so.
-    std::wstring mapFile;          ///< GeoJSON file that is opened at the start; empty: none.
-    std::wstring screenshot;       ///< PNG file to write, then leave; empty: stay.
-    std::wstring record;           ///< JSON file that is written anew after each change; empty: none.
+    int width = 0;                 ///< Outer size of the frame in screen pixels; 0: as at the last time.
+    int height = 0;
+    int scalePercent = 0;                 ///< 0: as the screen says.
+    int category = -1;                    ///< Index of the category shown first; -1: the mode's own.
+    std::optional<bool> showsClassicBars; ///< Menu bar and toolbars in the ribbon's place, or the ribbon.
+    bool isRightToLeft = false;           ///< Mirrored layout, as for languages that are written so.
+    bool isFresh = false;                 ///< As if for the first time: keeps nothing either.
+    std::wstring settings;                ///< The folder of what is kept between two runs; empty: the user's own.
+    std::wstring mapFile;                 ///< GeoJSON file that is opened at the start; empty: none.
+    std::wstring screenshot;              ///< PNG file to write, then leave; empty: stay.
+    std::wstring record;                  ///< JSON file that is written anew after each change; empty: none.
 };
 
 /// Nothing, with a line in `error`, when an argument is unknown or malformed.

@@ -3,8 +3,6 @@
 #include "options.h"
 #include "screenshot.h"
 
-#include "varnhold/language.h"
-#include "varnhold/message_box.h"
 #include "varnhold/strings.h"
 
 #include <cstdio>
@@ -29,12 +27,7 @@ public:
         if (options->scalePercent > 0) {
             afxGlobalData.SetRibbonImageScale(options->scalePercent / 100.0);
         }
-        if (!CMultiLanguageMgr::SetLanguage(options->language)) {
-            CMultiLanguageMgr::SetLanguage(L"en");
-        }
-        TakeResourceLanguage();
-        setMessageBoxTitle(CMultiLanguageMgr::translationW("ViewerTitle", -1, "Viewer"));
-
+        EnableLoadWindowPlacement(FALSE);             // the viewer keeps it with the rest
         auto* const frame = new CMainFrame(*options); // destroys itself with its window
         m_pMainWnd = frame;
         if (!frame->CreateFrame()) {
@@ -42,8 +35,8 @@ public:
             m_exitCode = 1;
             return FALSE;
         }
-        frame->ShowWindow(SW_SHOW);
-        frame->UpdateWindow();
+        frame->Show();
+        frame->TellTroubles();
         if (!options->mapFile.empty()) {
             frame->OpenMapFile(options->mapFile);
         }

@@ -16,11 +16,12 @@ class Viewer:
     """One run of the demo. `bin_dir` holds the program; use it as a context."""
     PROGRAM = ("demo.exe", "--size", "1280x800")
 
-    def __init__(self, bin_dir, *arguments, registry=()):
-        """`registry`: what the system's registry program is told before, as lists of words."""
+    def __init__(self, bin_dir, *arguments, registry=(), memory=("--memory", "none")):
+        """`registry`: what the system's registry program is told before, as lists of words. `memory`: where the program
+        keeps its settings; without a word about it, it keeps none."""
         self._registry = registry
         self._bin = bin_dir
-        self._arguments = arguments
+        self._arguments = (*memory, *arguments) if self.PROGRAM[0] == "demo.exe" else arguments
         self._folder = tempfile.TemporaryDirectory()
         self._record_file = os.path.join(self._folder.name, "record.json")
 

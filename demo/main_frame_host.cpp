@@ -1,0 +1,165 @@
+// What the commands ask of the frame.
+#include "main_frame.h"
+
+#include "menu_id_mgr.h"
+#include "picture_export.h"
+#include "ribbon_category_ex.h"
+#include "ribbon_icon_button.h"
+#include "screenshot.h"
+#include "viewer_skins.h"
+#include "viewer_text.h"
+
+#include "varnhold/language.h"
+#include "varnhold/message_box.h"
+
+#include <algorithm>
+#include <array>
+
+int CMainFrame::ScaleSliderPosition() const { return m_controls.ScalePosition(); }
+
+std::wstring CMainFrame::PlaceText() const {
+    return m_place ? std::wstring(m_place->GetEditText().GetString()) : std::wstring();
+}
+
+bool CMainFrame::IsPlaceConfirmed() const { return !m_tellsPlace && ::GetKeyState(VK_RETURN) < 0; }
+
+// The field sends its command once more, as it loses the focus to the box.
+void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
+    m_tellsPlace = true;
+    QKMessageBox(WithName(ViewerText("PlaceUnknown"), text), QK_MESSAGE_WARNING, GetSafeHwnd());
+    m_tellsPlace = false;
+}
+
+void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+
+void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+
+void CMainFrame::SwitchLanguage(const std::wstring& code) {
+    if (!CMultiLanguageMgr::SetLanguage(code)) {
+        return;
+    }
+    TakeResourceLanguage();
+    setMessageBoxTitle(ViewerText("ViewerTitle"));
+    ApplyTexts();
+    // The clicked button is still at work: the ribbon is built anew after it has finished.
+    PostMessage(kRebuildMessage);
+}
+
+// The file's categories for the modes are commands: a click on their tab has come as one. By the keyboard or the wheel
+// their page has come to the front instead.
+LRESULT CMainFrame::OnCategoryChanged(WPARAM, LPARAM) {
+    const auto* const category = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, m_ribbon.GetActiveCategory());
+    if (category != nullptr) {
+        PostMessage(WM_COMMAND, category->GetID());
+    }
+    return 0;
+}
+
+void CMainFrame::ShowMode(MapMode mode) {
+    m_modes.Show(mode);
+    m_status->ShowMode(mode);
+    m_ribbon.SetQuickAccessMenuTip(ViewerText("QuickAccessMenu").c_str());
+}
+
+LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
+    BuildRibbon();
+    WriteRecord();
+    return 0;
+}
+
+bool CMainFrame::IsLanguage(const std::wstring& code) const { return CMultiLanguageMgr::GetLanguage() == code; }
+
+void CMainFrame::SwitchSkin(const std::wstring& name) {
+    const auto isOther = [this](const ViewerSkin& skin) { return m_skin != skin.name; };
+    m_skin = name == L"switch" ? std::find_if(kViewerSkins.begin(), kViewerSkins.end(), isOther)->name : name;
+    ApplySkin();
+    TakeBarIcons();
+}
+
+void CMainFrame::TakeBarIcons() { m_bars.TakeIcons(m_ribbon, FindViewerSkin(m_skin)->iconSet); }
+
+bool CMainFrame::IsSkin(const std::wstring& name) const { return m_skin == name; }
+
+void CMainFrame::SwitchIconStyle(const std::wstring& style) {
+    m_iconStyle = style;
+    CMFCRibbonUNIcoButton::SetSkinStyle(style.c_str());
+    m_ribbon.Invalidate();
+}
+
+bool CMainFrame::IsIconStyle(const std::wstring& style) const { return m_iconStyle == style; }
+
+void CMainFrame::ToggleRibbonMinimized() { m_ribbon.ToggleMimimizeState(); }
+
+bool CMainFrame::IsRibbonMinimized() const { return (m_ribbon.GetHideFlags() & AFX_RIBBONBAR_HIDE_ELEMENTS) != 0; }
+
+void CMainFrame::ToggleQuickAccessBelow() {
+    m_ribbon.SetQuickAccessToolbarOnTop(!m_ribbon.IsQuickAccessToolbarOnTop());
+    RecalcLayout();
+}
+
+bool CMainFrame::IsQuickAccessBelow() const { return !m_ribbon.IsQuickAccessToolbarOnTop(); }
+
+void CMainFrame::ToggleClassicBars() { ShowClassicBars(!m_bars.IsShown()); }
+
+void CMainFrame::ShowClassicBars(bool isShown) {
+    if (isShown) {
+        m_bars.ShowState(m_controls.ChosenLayer());
+    }
+    m_bars.Show(isShown);
+    ShowPane(&m_ribbon, !isShown, TRUE, FALSE);
+    RecalcLayout();
+}
+
+std::optional<MapLayer> CMainFrame::ChosenLayer() const {
+    return m_bars.IsShown() ? m_bars.ChosenLayer() : m_controls.ChosenLayer();
+}
+
+// Toolbars have their texts from their file, which speaks one language.
+BOOL CMainFrame::GetToolbarButtonToolTipText(CMFCToolBarButton* button, CString& text) {
+    std::wstring keyword;
+    if (!CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(button->m_nID), keyword)) {
+        return FALSE;
+    }
+    text = CMultiLanguageMgr::translation(keyword, "RibbonBarCfg").c_str();
+    return !text.IsEmpty();
+}
+
+void CMainFrame::CopyPicture() {
+    CBitmap picture;
+    if (m_map.MakePicture(picture)) {
+        PutPictureOnClipboard(GetSafeHwnd(), picture);
+    }
+}
+
+void CMainFrame::SavePicture(CBitmap& picture, bool isMade) {
+    const std::wstring path = AskForPictureFile(GetSafeHwnd(), ViewerText("PictureFilter"));
+    if (!path.empty() && !(isMade && WritePng(picture, path))) {
+        QKMessageBox(WithName(ViewerText("PictureFailed"), path), QK_MESSAGE_WARNING, GetSafeHwnd());
+    }
+}
+
+void CMainFrame::SavePicture() {
+    CBitmap picture;
+    const bool isMade = m_map.MakePicture(picture) != FALSE;
+    SavePicture(picture, isMade);
+}
+
+bool CMainFrame::MakePage(CBitmap& picture) {
+    CBitmap whole;
+    return m_map.MakePicture(whole) && CutPicture(whole, m_state.PageBox(), picture);
+}
+
+void CMainFrame::CopyPage() {
+    CBitmap page;
+    if (MakePage(page)) {
+        PutPictureOnClipboard(GetSafeHwnd(), page);
+    }
+}
+
+void CMainFrame::SavePage() {
+    CBitmap page;
+    const bool isMade = MakePage(page);
+    SavePicture(page, isMade);
+}
+
+void CMainFrame::CopyText(const std::wstring& text) { PutTextOnClipboard(GetSafeHwnd(), text); }

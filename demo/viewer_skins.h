@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+/// A look of the viewer.
+struct ViewerSkin {
+    const wchar_t* name;
+    int style;                ///< As the ribbon numbers them.
+    const wchar_t* iconStyle; ///< "0": light icons for dark ground
+    const wchar_t* icons;     ///< The folder of those that can be seen on it
+    const wchar_t* iconSet;   ///< The end of its name
+};
+
+inline constexpr std::array<ViewerSkin, 2> kViewerSkins = {
+    {{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\", L"\\modle\\"},
+     {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\", L"\\modle_0\\"}}};
+
+/// Null for any other name.
+inline const ViewerSkin* FindViewerSkin(const std::wstring& name) {
+    for (const ViewerSkin& skin : kViewerSkins) {
+        if (name == skin.name) {
+            return &skin;
+        }
+    }
+    return nullptr;
+}
