@@ -139,19 +139,26 @@ std::string NewUnit(const AskedText& asked, const std::wstring& source, std::siz
            "</source></segment></unit>\n";
 }
 
-/// Nothing that was in the table may be another one afterwards.
-bool KeepsUnits(const UnitList& before, std::string_view after) {
+/// Nothing that was in the table may be another one afterwards, and what was asked for is there: a table can hold a
+/// comment that looks like the place where units belong.
+bool IsCompleted(const UnitList& before, const TableCompletion& completion, std::string_view after) {
     UnitList list;
     if (!ReadUnits(after, list)) {
         return false;
     }
     std::set<std::tuple<std::string, std::wstring, std::wstring>> present;
+    std::set<std::wstring> keys = completion.elsewhere;
     for (const UnitList::Unit& unit : list.units) {
         present.emplace(unit.section, unit.key, unit.text);
+        if (unit.section == kRibbonSection) {
+            keys.insert(unit.key);
+        }
     }
-    return std::ranges::all_of(before.units, [&](const UnitList::Unit& unit) {
-        return present.contains({unit.section, unit.key, unit.text});
-    });
+    return std::ranges::all_of(before.units,
+                               [&](const UnitList::Unit& unit) {
+                                   return present.contains({unit.section, unit.key, unit.text});
+                               }) &&
+           std::ranges::all_of(completion.asked, [&](const AskedText& text) { return keys.contains(text.key); });
 }
 
 /// Writes a table anew, piece by piece.
@@ -251,7 +258,7 @@ bool CompleteTable(std::string& table, const TableCompletion& completion, Comple
         return false;
     }
     std::string completed = Completing(table, list, completion, counts).Run();
-    if (!KeepsUnits(list, completed)) {
+    if (!IsCompleted(list, completion, completed)) {
         return false;
     }
     table = std::move(completed);

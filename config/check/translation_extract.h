@@ -38,7 +38,8 @@ struct CompletionCounts {
 
 /// Completes section RibbonBarCfg of a translation table (UTF-8): units that the files use get a note of the category
 /// "place" that says where, others one of the category "unused"; both are renewed each time. Units that are missing are
-/// put at the section's end. Nothing else changes. False, with the table as it was, for what is no such table.
+/// put at the section's end. Nothing else changes. False, with the table as it was, for what is no such table
+/// and where the place of the section cannot be told.
 bool CompleteTable(std::string& table, const TableCompletion& completion, CompletionCounts& counts);
 
 /// A table of a language without units.

@@ -5,6 +5,7 @@
 #include "config/check/language_texts.h"
 #include "config/check/translation_extract.h"
 
+#include <varnhold/file_op.h>
 #include <varnhold/letter_case.h>
 #include <varnhold/strings.h>
 #include <varnhold/xml.h>
@@ -80,8 +81,11 @@ bool ExtractTexts(const BarcheckOptions& options, std::wstring& message) {
     const LanguageTexts* const source = SourceOf(languages, options.extract);
     std::wstring path = TableOf(texts);
     std::string table;
-    if (path.empty()) {
-        path = files.FullPath(L"lang\\" + (texts ? texts->code : options.extract) + L"\\commands.xlf");
+    if (path.empty()) { // none of the language's tables has texts of commands yet
+        const std::wstring name = L"lang\\" + (texts ? texts->code : options.extract) + L"\\commands.xlf";
+        path = files.Find(name).value_or(files.FullPath(name));
+    }
+    if (!FileOp::FileExist(path)) {
         table = EmptyTable(source ? source->code : options.extract, options.extract);
     } else {
         const std::string bytes = ReadBytes(path);

@@ -1,4 +1,5 @@
 #include "checked_installation.h"
+#include "config/check/translation_extract.h"
 #include "extract.h"
 #include "sample_installation.h"
 
@@ -88,6 +89,26 @@ TEST_F(Extracting, OtherSectionsFilesAndSignsAreRespected) {
     EXPECT_TRUE(Has("lang/en/b.xlf", "name=\"a &lt; b\""));
     EXPECT_FALSE(Has("lang/en/a.xlf", "note"));
     EXPECT_EQ(m_installation.Findings(), "");
+}
+
+TEST_F(Extracting, ATableOfOtherSectionsKeepsThem) {
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    m_installation.Write("lang/fr/commands.xlf",
+                         "<xliff version=\"2.0\" srcLang=\"en\" trgLang=\"fr\">\n<file id=\"Common\"><unit id=\"t\">"
+                         "<segment><source>x</source><target>y</target></segment></unit></file>\n</xliff>");
+    EXPECT_TRUE(Extract(L"fr").starts_with("lang/fr/commands.xlf: "));
+    EXPECT_TRUE(Has("lang/fr/commands.xlf", "<target>y</target>"));
+    EXPECT_TRUE(Has("lang/fr/commands.xlf", "name=\"In\""));
+}
+
+TEST_F(Extracting, NothingIsWrittenWhereACommentLooksLikeTheSection) {
+    std::string table = "<xliff version=\"2.0\" srcLang=\"en\"><!-- <file id=\"RibbonBarCfg\"> </file> --></xliff>";
+    const std::string before = table;
+    TableCompletion completion;
+    completion.asked = {{L"In", L"cfg/ribbon.xml"}};
+    CompletionCounts counts;
+    EXPECT_FALSE(CompleteTable(table, completion, counts));
+    EXPECT_EQ(table, before);
 }
 
 TEST_F(Extracting, NothingIsWrittenWhereSomethingCannotBeRead) {
