@@ -2,15 +2,17 @@
 MAKEFLAGS += --no-print-directory
 RELEASE := build/windows-release
 BIN := $(RELEASE)/bin
+FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 
-.PHONY: install package docs help setup setup-lint build build-native demo test test-native test-windows test-e2e lint bench clean
+.PHONY: install package docs help setup setup-lint setup-fuzz build build-native demo test test-native test-windows test-e2e lint bench fuzz clean
 
 help:
 	@echo "make demo   build the demo application and show it (or write build/demo.png where there is no display)"
 	@echo "make test   build everything and run every test (test-native, test-windows, test-e2e: a part of them)"
 	@echo "make lint   formatting, layers, link edges, headers, exports, spelling, docs; scripts/lint tidy is the static analysis"
 	@echo "make bench  measure, each figure beside its floor"
+	@echo "make fuzz   inputs that mean nothing for readers, tables, encodings and barcheck (FUZZ_SECONDS=60 for each target)"
 	@echo "make docs   guides and reference as pages that open in a browser (build/docs/index.html)"
 	@echo "make install PREFIX=FOLDER   DLLs, import libraries, headers, CMake package, skins, documentation"
 	@echo "make package   the same as a zip file, and one with the debug symbols"
@@ -21,6 +23,9 @@ setup:
 
 setup-lint:
 	@scripts/setup --lint
+
+setup-fuzz:
+	@scripts/setup --fuzz
 
 build: setup
 	@scripts/build windows-release
@@ -51,6 +56,9 @@ lint: setup-lint
 
 bench: setup
 	@scripts/run-bench
+
+fuzz: setup-fuzz
+	@scripts/fuzz --seconds $(FUZZ_SECONDS)
 
 install: setup
 	@[ -n "$(PREFIX)" ] || { echo "usage: make install PREFIX=FOLDER" >&2; exit 2; }

@@ -42,8 +42,11 @@ target_compile_features(barwright_usage INTERFACE cxx_std_20)
 # For our own sources alone, so that bought ones and a host's keep their own warnings: link it PRIVATE.
 add_library(barwright_options INTERFACE)
 target_link_libraries(barwright_options INTERFACE barwright_usage)
-# GCC 12 sees an overlap in every literal + std::string.
-target_compile_options(barwright_options INTERFACE -Wall -Wextra -Werror -Wno-unknown-pragmas -Wno-restrict -fpch-preprocess)
+target_compile_options(barwright_options INTERFACE -Wall -Wextra -Werror -Wno-unknown-pragmas)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # GCC 12 sees an overlap in every literal + std::string.
+  target_compile_options(barwright_options INTERFACE -Wno-restrict -fpch-preprocess)
+endif()
 if(WIN32)
   # Message-map entries name handlers without qualification and reach protected base handlers.
   # Windows structures are read through more than one type everywhere (NMHDR and its extensions, RECT as two POINTs).
@@ -57,6 +60,7 @@ if(WIN32)
   endif()
   # gcc_s, stdc++ and winpthread are shared: exceptions and type information cross our DLLs.
 endif()
+option(BARWRIGHT_FUZZ "Programs of libFuzzer in place of tests; the compiler is Clang")
 if(BARWRIGHT_SANITIZE)
   # Optimized a little: what the sanitizers add would otherwise take most of the tests' time.
   add_compile_options(-O1 -fsanitize=${BARWRIGHT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

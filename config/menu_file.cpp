@@ -77,13 +77,18 @@ void ReadMenuBranch(varnhold::XmlCursor element, MenuFileVisitor& visitor, const
     MenuElementReader(visitor, diagnostics).ReadBranch(element);
 }
 
+void ReadMenuBranches(const varnhold::XmlCursor& documentElement, MenuFileVisitor& visitor,
+                      const FileDiagnostics& diagnostics) {
+    MenuElementReader reader(visitor, diagnostics);
+    ForEachChild(documentElement, [&](varnhold::XmlCursor& branch) { reader.ReadBranch(branch); });
+}
+
 bool LoadMenuFile(const std::wstring& fullPath, MenuFileVisitor& visitor, DiagnosticsSink& sink) {
     const FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
     if (!LoadDocument(fullPath, diagnostics, document)) {
         return false;
     }
-    MenuElementReader reader(visitor, diagnostics);
-    ForEachChild(varnhold::XmlCursor(document), [&](varnhold::XmlCursor& branch) { reader.ReadBranch(branch); });
+    ReadMenuBranches(varnhold::XmlCursor(document), visitor, diagnostics);
     return true;
 }

@@ -21,5 +21,9 @@ public:
 /// in the top-level menu. An item without attributes is left out; a popup without them has no caption.
 void ReadMenuBranch(varnhold::XmlCursor element, MenuFileVisitor& visitor, const FileDiagnostics& diagnostics);
 
+/// The children of a file's document element.
+void ReadMenuBranches(const varnhold::XmlCursor& documentElement, MenuFileVisitor& visitor,
+                      const FileDiagnostics& diagnostics);
+
 /// Reads a whole file. False when it cannot be loaded; nothing was visited then.
 bool LoadMenuFile(const std::wstring& fullPath, MenuFileVisitor& visitor, DiagnosticsSink& sink);

@@ -132,13 +132,18 @@ void ReadToolBarButtons(const varnhold::XmlCursor& toolBar, const std::function<
     });
 }
 
+void ReadToolBarGroups(const varnhold::XmlCursor& documentElement, ToolBarFileVisitor& visitor,
+                       const FileDiagnostics& diagnostics) {
+    ToolBarFileReader reader(visitor, diagnostics);
+    ForEachChild(documentElement, [&](varnhold::XmlCursor& group) { reader.ReadGroup(group); });
+}
+
 bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, DiagnosticsSink& sink) {
     const FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
     if (!LoadDocument(fullPath, diagnostics, document)) {
         return false;
     }
-    ToolBarFileReader reader(visitor, diagnostics);
-    ForEachChild(varnhold::XmlCursor(document), [&](varnhold::XmlCursor& group) { reader.ReadGroup(group); });
+    ReadToolBarGroups(varnhold::XmlCursor(document), visitor, diagnostics);
     return true;
 }

@@ -35,5 +35,9 @@ void ReadToolBarInfo(varnhold::XmlCursor& element, ToolBarInfo& info);
 /// Hands the children of a toolbar element to `take`. The record is good until the call returns.
 void ReadToolBarButtons(const varnhold::XmlCursor& toolBar, const std::function<void(const ToolBarInfo&)>& take);
 
+/// The groups below a file's document element.
+void ReadToolBarGroups(const varnhold::XmlCursor& documentElement, ToolBarFileVisitor& visitor,
+                       const FileDiagnostics& diagnostics);
+
 /// Reads a whole file. False when it cannot be loaded; nothing was visited then.
 bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, DiagnosticsSink& sink);
