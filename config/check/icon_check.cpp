@@ -189,3 +189,9 @@ void CheckIcons(std::span<const GatheredElement> elements, const InstallationFil
         check.Take(gathered);
     }
 }
+
+bool CanLoadIcon(const InstallationFiles& files, const std::wstring& picPath, int side) {
+    const auto found = files.Find(IconFileBelow({}, picPath, side));
+    const IconState state = found ? StateOf(*found, side) : IconState::NoIcon;
+    return state == IconState::Fine || state == IconState::TooSmall;
+}

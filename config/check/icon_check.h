@@ -8,3 +8,6 @@
 /// Looks for the icon files that the elements name: missing-icon, icon-format, icon-size, path-separator. A file that
 /// several elements name is reported at the first of them.
 void CheckIcons(std::span<const GatheredElement> elements, const InstallationFiles& files, DiagnosticsSink& sink);
+
+/// Whether there is an icon file for the configured path and side (16 or 32 pixels at 96 DPI) that can be decoded.
+bool CanLoadIcon(const InstallationFiles& files, const std::wstring& picPath, int side);

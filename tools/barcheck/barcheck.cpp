@@ -1,5 +1,6 @@
 #include "config/check/configuration_check.h"
 #include "extract.h"
+#include "model.h"
 #include "options.h"
 #include "reports.h"
 #include "schema.h"
@@ -70,6 +71,9 @@ int Run(const std::vector<std::wstring>& arguments) {
         return Clean;
     case BarcheckOptions::Task::Extract:
         return Extract(*options);
+    case BarcheckOptions::Task::Model:
+        Print(ModelOf(options->directory, options->language).dump(2) + "\n", stdout);
+        return Clean;
     case BarcheckOptions::Task::Schema:
         Print(SchemaOf(options->schema), stdout);
         return Clean;

@@ -76,6 +76,7 @@ constexpr Option kOptions[] = {
     {L"--extract", true, SetExtract},
     {L"--schema", true, SetSchema},
     {L"--strict", false, SetStrict},
+    {L"--model", false, SetTask<BarcheckOptions::Task::Model>},
     {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
     {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
 };
@@ -126,8 +127,9 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
             options.files.push_back(argument);
         }
     }
-    const bool needsDirectory =
-        options.task == BarcheckOptions::Task::Check || options.task == BarcheckOptions::Task::Extract;
+    const bool needsDirectory = options.task != BarcheckOptions::Task::Guide &&
+                                options.task != BarcheckOptions::Task::Schema &&
+                                options.task != BarcheckOptions::Task::Help;
     if (needsDirectory && !CheckDirectory(options, error)) {
         return std::nullopt;
     }
@@ -137,6 +139,7 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
 const char* BarcheckUsage() {
     return "usage: barcheck DIR [FILE...] [--format text|json|sarif|github] [--strict] [--lang LANG]\n"
            "       barcheck DIR [FILE...] --extract LANG\n"
+           "       barcheck DIR --model [--lang LANG]\n"
            "       barcheck --schema ribbon|menu|toolbar\n"
            "       barcheck --guide\n"
            "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
@@ -152,6 +155,8 @@ const char* BarcheckUsage() {
            "  --extract writes the table lang\\LANG, or completes the one that is there, with all texts that the files "
            "ask\n"
            "            for and a note where each stands; marks those that no file uses\n"
+           "  --model   what the files build, in the form of barview's dump: commands, elements, menus, shortcuts, "
+           "toolbars\n"
            "  --schema  an XML schema for this kind of file, as in docs/schemas\n"
            "  --guide   what every code means, as in docs/diagnostics.md\n"
            "Exit code: 0 nothing but notes, 1 findings, or a table that was not written, 2 wrong usage.\n";
