@@ -5,6 +5,7 @@
 
 #include "bench_frame.h"
 #include "draw_calls.h"
+#include "ribbon_bar_ex.h"
 #include "ribbon_icon_button.h"
 #include "scenario.h"
 
@@ -38,11 +39,11 @@ CString IconPath(int side, int index) {
 /// As at the start: whatever was kept from earlier paints is dropped.
 void ForgetPaints() { CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007)); }
 
-class CPaintedFrame : public CBenchFrame {
+class CPaintedFrame : public CBenchFrameWith<CMFCRibbonBarEx> {
 public:
     bool Make() override {
         ForgetPaints();
-        if (!CBenchFrame::Make()) {
+        if (!CBenchFrameWith::Make()) {
             return false;
         }
         AddCategory(L"One");
@@ -87,7 +88,7 @@ private:
 
 CPaintedFrame* g_frame = nullptr;
 
-CMFCRibbonBar& Ribbon() { return g_frame->m_ribbon; }
+CMFCRibbonBarEx& Ribbon() { return g_frame->m_ribbon; }
 
 void PaintWhole() { Ribbon().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); }
 
@@ -127,6 +128,11 @@ void HoverAcrossPanels() {
 
 void FirstPaint() { PaintWhole(); }
 
+void SwitchSkin() {
+    Ribbon().ChangeSkinColor(1 - Ribbon().GetSkinStyle(), TRUE);
+    g_frame->RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
 struct Action {
     const char* name;
     void (*run)();
@@ -139,6 +145,8 @@ constexpr Action kActions[] = {
     {"relayout on resize", Resize, nullptr},
     {"hover", Hover, nullptr},
     {"hover across panels", HoverAcrossPanels, nullptr},
+    // The last one: the skins stay in force.
+    {"skin switch", SwitchSkin, nullptr},
 };
 
 DrawCalls CallsOf(const Action& action) {

@@ -3,14 +3,15 @@
 #include <afxcontrolbars.h>
 
 /// The window of a benchmark: a frame of 1600 x 900 pixels with an empty ribbon bar. Deletes itself with its window.
-class CBenchFrame : public CFrameWndEx {
+template <class Ribbon>
+class CBenchFrameWith : public CFrameWndEx {
 public:
-    CBenchFrame() : m_ribbon(FALSE) {}
+    CBenchFrameWith() : m_ribbon(FALSE) {}
     /// Not shown yet. Classes above fill the bar and show the window.
     virtual bool Make() {
         return Create(nullptr, L"bench", WS_OVERLAPPEDWINDOW, CRect(0, 0, 1600, 900)) && m_ribbon.Create(this);
     }
-    CMFCRibbonBar m_ribbon;
+    Ribbon m_ribbon;
 
 protected:
     /// All commands are enabled.
@@ -22,6 +23,8 @@ protected:
         return CFrameWndEx::OnCmdMsg(id, code, extra, info);
     }
 };
+
+using CBenchFrame = CBenchFrameWith<CMFCRibbonBar>;
 
 /// Makes the window, measures with it and ends.
 template <class Frame>
