@@ -138,5 +138,6 @@ void CFrameImpl::OnChangeVisualManager() {
         UpdateRegion();
     }
     m_frame->RecalcLayout();
-    m_frame->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
+    // Not painted yet: the look may get its last settings after this, and would be seen without them.
+    m_frame->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
 }
