@@ -59,6 +59,40 @@ void FreeText(TOOLINFO& tool) {
     tool.lpszText = LPSTR_TEXTCALLBACK;
 }
 
+/// Where the pointer is, in client co-ordinates of the window. Beside a client area messages bring the point on the
+/// screen.
+CPoint PointIn(HWND window, const MSG& message) {
+    CPoint point(static_cast<short>(LOWORD(message.lParam)), static_cast<short>(HIWORD(message.lParam)));
+    ::MapWindowPoints(message.message == WM_MOUSEMOVE ? message.hwnd : nullptr, window, &point, 1);
+    return point;
+}
+
+/// Instead of the tool so far. Frees the tool's text.
+void TakeTool(ToolTipState& state, HWND window, INT_PTR hit, TOOLINFO& tool, bool isTracking) {
+    RemoveTool(state);
+    ::SendMessage(state.control, TTM_ACTIVATE, TRUE, 0);
+    AddTool(state, tool, isTracking);
+    FreeText(tool);
+    state.window = window;
+    state.hit = hit;
+    state.tool = tool;
+    state.isTracking = isTracking;
+}
+
+/// Hands a movement on to the control, which compares window and point of the message with the tool's.
+void Relay(const ToolTipState& state, const MSG& message, CPoint point) {
+    if (state.isTracking) {
+        ::SendMessage(state.control, TTM_TRACKPOSITION, 0, MAKELPARAM(message.pt.x, message.pt.y));
+    }
+    MSG relayed = message;
+    if ((state.tool.uFlags & TTF_IDISHWND) == 0) {
+        relayed.hwnd = state.window;
+        relayed.message = WM_MOUSEMOVE;
+        relayed.lParam = MAKELPARAM(point.x, point.y);
+    }
+    ::SendMessage(state.control, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+}
+
 } // namespace
 
 BOOL CWnd::EnableToolTips(BOOL bEnable) {
@@ -96,14 +130,7 @@ void CWnd::FilterToolTipMessage(MSG* pMsg) {
     if (!IsMouseMove(pMsg->message) || !isOurs) {
         return;
     }
-    CPoint point(pMsg->pt);
-    if (pMsg->message == WM_MOUSEMOVE) {
-        point = CPoint(static_cast<short>(LOWORD(pMsg->lParam)), static_cast<short>(HIWORD(pMsg->lParam)));
-        ::MapWindowPoints(pMsg->hwnd, m_hWnd, &point, 1);
-    } else {
-        point = CPoint(static_cast<short>(LOWORD(pMsg->lParam)), static_cast<short>(HIWORD(pMsg->lParam)));
-        ScreenToClient(&point);
-    }
+    const CPoint point = PointIn(m_hWnd, *pMsg);
     TOOLINFO tool = {};
     tool.cbSize = TTTOOLINFOW_V2_SIZE; // which every version of the controls takes
     tool.hwnd = m_hWnd;
@@ -121,28 +148,11 @@ void CWnd::FilterToolTipMessage(MSG* pMsg) {
         return;
     }
     if (state.hit != hit || state.window != m_hWnd) {
-        RemoveTool(state);
-        ::SendMessage(state.control, TTM_ACTIVATE, TRUE, 0);
-        AddTool(state, tool, m_hasTrackingToolTips);
-        FreeText(tool);
-        state.window = m_hWnd;
-        state.hit = hit;
-        state.tool = tool;
-        state.isTracking = m_hasTrackingToolTips;
+        TakeTool(state, m_hWnd, hit, tool, m_hasTrackingToolTips);
     } else {
         FreeText(tool);
     }
-    if (state.isTracking) {
-        ::SendMessage(state.control, TTM_TRACKPOSITION, 0, MAKELPARAM(pMsg->pt.x, pMsg->pt.y));
-    }
-    // The control compares window and point of the message with the tool's.
-    MSG relayed = *pMsg;
-    if ((state.tool.uFlags & TTF_IDISHWND) == 0) {
-        relayed.hwnd = m_hWnd;
-        relayed.message = WM_MOUSEMOVE;
-        relayed.lParam = MAKELPARAM(point.x, point.y);
-    }
-    ::SendMessage(state.control, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&relayed));
+    Relay(state, *pMsg, point);
 }
 
 INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
