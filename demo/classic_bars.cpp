@@ -1,5 +1,6 @@
 #include "classic_bars.h"
 
+#include "command_index.h"
 #include "layer_controls.h"
 #include "map_painter.h"
 #include "menu_id_mgr.h"
@@ -98,22 +99,6 @@ struct IconDestroyer {
     void operator()(HICON icon) const { ::DestroyIcon(icon); }
 };
 
-/// The 16 pixel icon of the command in another set of icons; empty when the ribbon has none for it.
-CString IconFile(CMFCRibbonBar& ribbon, UINT id, const wchar_t* set) {
-    std::wstring keyword;
-    if (!CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(id), keyword)) {
-        return {};
-    }
-    const auto* const button = FindElement<CMFCRibbonUNIcoButton>(ribbon, keyword.c_str());
-    CString file = button != nullptr ? button->GetIconPath(FALSE) : CString();
-    if (file.IsEmpty() && button != nullptr) {
-        file = button->GetIconPath(TRUE);
-    }
-    file.Replace(L"\\32\\", L"\\16\\");
-    file.Replace(L"\\modle\\", set);
-    return file;
-}
-
 /// Fills the list anew: `files` in the order of its indexes. An index without a file has an empty picture.
 void FillIcons(CMFCToolBarImages& images, const std::vector<CString>& files) {
     images.Clear();
@@ -135,7 +120,7 @@ void ClassicBars::TakeIcons(CMFCRibbonBar& ribbon, const wchar_t* set) {
             const int index = button.GetImage();
             if (index >= 0) {
                 ofButtons.resize(std::max(ofButtons.size(), static_cast<std::size_t>(index) + 1));
-                ofButtons[static_cast<std::size_t>(index)] = IconFile(ribbon, button.m_nID, set);
+                ofButtons[static_cast<std::size_t>(index)] = CommandIconFile(ribbon, button.m_nID, set);
             }
         }
     }
@@ -146,7 +131,7 @@ void ClassicBars::TakeIcons(CMFCRibbonBar& ribbon, const wchar_t* set) {
     for (std::uint32_t id = kFirstCommand; id < CMenuIdMgr::s_AddBeginID; ++id) {
         const int index = GetCmdMgr()->GetCmdImage(id, FALSE);
         if (index >= 0 && static_cast<std::size_t>(index) < ofCommands.size()) {
-            ofCommands[static_cast<std::size_t>(index)] = IconFile(ribbon, id, set);
+            ofCommands[static_cast<std::size_t>(index)] = CommandIconFile(ribbon, id, set);
         }
     }
     FillIcons(*CMFCToolBar::GetImages(), ofCommands);

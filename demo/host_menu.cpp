@@ -15,7 +15,7 @@ using Rows = std::vector<const wchar_t*>;
 /// Keywords of the rows; null: a separator.
 const Rows kRightClick = {L"ModeBrowse",  L"ModeEdit",       L"ModePrint",        nullptr, L"SkinSwitch",  nullptr,
                           L"ClassicBars", L"RibbonMinimize", L"QuickAccessBelow", nullptr, L"KeyboardHelp"};
-const Rows kHelp = {L"KeyboardHelp", nullptr, L"About"};
+const Rows kHelp = {L"CommandSearch", L"KeyboardHelp", nullptr, L"About"};
 constexpr wchar_t kHelpTitle[] = L"PanelHelp";
 
 // The registry keeps the names of the language in which the commands were first read.

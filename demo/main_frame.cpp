@@ -13,6 +13,7 @@
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "screenshot.h"
+#include "search_field.h"
 #include "system_skin.h"
 #include "tooltip_ctrl_ex.h"
 #include "viewer_skins.h"
@@ -89,6 +90,7 @@ IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
 ON_WM_CREATE()
 ON_WM_CLOSE()
+ON_WM_NCACTIVATE()
 ON_WM_ENDSESSION()
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
@@ -240,6 +242,7 @@ void CMainFrame::BuildRibbon() {
     m_modes.KeepQuickAccess();
     m_status.reset();
     m_ribbon.RemoveAllCategories();
+    m_searchField = nullptr;
     m_skinButton = nullptr;
     m_ribbon.RemoveAllFromTabs();
 
@@ -257,6 +260,7 @@ void CMainFrame::BuildRibbon() {
             button->SetDefaultCommand();
         }
     }
+    AddSearchField();
     AddSkinButton();
     m_modes.Attach(builder, m_state.Mode(), shown);
     m_ribbon.setHMenu(m_contextMenu.Build());
@@ -279,6 +283,16 @@ void CMainFrame::BuildStatusBar() {
     m_status->ShowState(m_state);
     m_status->ShowPointer(m_controls.PointerText());
     RecalcLayout();
+}
+
+/// Right of the tabs, on every page, as the next.
+void CMainFrame::AddSearchField() {
+    int id = 0;
+    if (CMenuIdMgr::Ins()->GetMenuId(L"CommandSearch", id)) {
+        m_searchField = new CSearchField(static_cast<UINT>(id), BarText(L"CommandSearch"), m_iconStyle);
+        m_searchField->SetToolTipText(BarText(L"CommandSearch").c_str());
+        m_ribbon.AddToTabs(m_searchField);
+    }
 }
 
 /// Right of the tabs, on every page. The bar knows it by its tooltip, which is the framework's for another button.

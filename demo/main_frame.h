@@ -5,12 +5,14 @@
 #include "classic_bars.h"
 #include "help_hint.h"
 #include "host_menu.h"
+#include "language_names.h"
 #include "layer_controls.h"
 #include "map_data.h"
 #include "map_pane.h"
 #include "map_state.h"
 #include "map_window.h"
 #include "options.h"
+#include "search_window.h"
 #include "viewer_commands.h"
 #include "viewer_memory.h"
 #include "viewer_ribbon.h"
@@ -22,6 +24,7 @@
 
 class CAddRibbonBar;
 class CMFCRibbonUNIcoButton;
+class CSearchField;
 
 /// From now on the thread's resources, the framework's own texts among them, are those of the language in force.
 void TakeResourceLanguage();
@@ -49,6 +52,7 @@ public:
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
     afx_msg void OnClose();
+    afx_msg BOOL OnNcActivate(BOOL isActive);
     afx_msg void OnEndSession(BOOL isEnding);
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg void OnSetFocus(CWnd* earlier);
@@ -79,6 +83,7 @@ private:
     void BuildRibbon();
     void BuildStatusBar();
     void ShowClassicBars(bool isShown);
+    void AddSearchField();
     void AddSkinButton();
     void ShowState();
     /// After a change that came by a message.
@@ -97,6 +102,7 @@ private:
     void TellPlaceUnknown(const std::wstring& text) override;
     void TellAbout() override;
     void TellKeyboard() override;
+    void ShowCommandSearch() override;
     void SwitchLanguage(const std::wstring& code) override;
     bool IsLanguage(const std::wstring& code) const override;
     void ShowMode(MapMode mode) override;
@@ -137,7 +143,10 @@ private:
     std::unique_ptr<CViewerStatusBar> m_status; ///< Made anew with the ribbon, whose commands it shows.
     LayerControls m_controls;
     ViewerMemory m_memory;
+    LanguageNames m_languageNames;
+    CSearchWindow m_search{[this](UINT id) { PostMessage(WM_COMMAND, id); }};
     bool m_tellsPlace = false;
+    CSearchField* m_searchField = nullptr;         ///< As the next.
     CMFCRibbonUNIcoButton* m_skinButton = nullptr; ///< The ribbon's, beside the tabs; null when there is none.
     CMFCRibbonEdit* m_place = nullptr;             ///< The ribbon's; null when the configuration has none.
     std::wstring m_skin;

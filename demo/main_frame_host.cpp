@@ -1,11 +1,13 @@
 // What the commands ask of the frame.
 #include "main_frame.h"
 
+#include "command_index.h"
 #include "menu_id_mgr.h"
 #include "picture_export.h"
 #include "ribbon_category_ex.h"
 #include "ribbon_icon_button.h"
 #include "screenshot.h"
+#include "search_field.h"
 #include "viewer_skins.h"
 #include "viewer_text.h"
 
@@ -33,6 +35,27 @@ void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
 void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
 
 void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+
+void CMainFrame::ShowCommandSearch() {
+    CRect anchor(0, 0, 0, 0);
+    if (m_searchField != nullptr && !m_bars.IsShown()) {
+        anchor = m_searchField->GetRect();
+        m_ribbon.ClientToScreen(&anchor);
+    }
+    CommandPlaces places;
+    places.ribbon = &m_ribbon;
+    places.menu = m_bars.Menu().GetMenu()->GetSafeHmenu();
+    places.prefersMenu = m_bars.IsShown();
+    places.frame = this;
+    places.iconSet = FindViewerSkin(m_skin)->iconSet;
+    places.names = &m_languageNames;
+    m_search.Open(this, anchor, m_pane.Colors(),
+                  {ViewerText("SearchPrompt"), ViewerText("SearchNothing"), ViewerText("SearchUnavailable")},
+                  CollectCommands(places));
+}
+
+// The search is a part of the frame: that stays the active window to the eye.
+BOOL CMainFrame::OnNcActivate(BOOL isActive) { return CFrameWndEx::OnNcActivate(isActive || m_search.IsOpen()); }
 
 void CMainFrame::SwitchLanguage(const std::wstring& code) {
     if (!CMultiLanguageMgr::SetLanguage(code)) {

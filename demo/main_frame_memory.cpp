@@ -65,6 +65,7 @@ void CMainFrame::StartInLanguage() {
     const std::wstring wanted = !m_options.language.empty() ? m_options.language
                                 : !kept.empty()             ? kept
                                                             : SystemLanguage();
+    m_languageNames.Read();
     if (!CMultiLanguageMgr::SetLanguage(ChooseLanguage(wanted, installed))) {
         CMultiLanguageMgr::SetLanguage(L"en");
     }

@@ -3,6 +3,7 @@
 
 #include "frame_dump.h"
 #include "ribbon_icon_button.h"
+#include "search_field.h"
 
 #include "varnhold/language.h"
 #include "varnhold/strings.h"
@@ -87,6 +88,23 @@ void CMainFrame::WriteRecord() {
         skinButton = m_skinButton->GetRect();
     }
     record["skinButtonOnScreen"] = onScreen(skinButton);
+    CRect searchField(0, 0, 0, 0);
+    if (m_searchField != nullptr) {
+        searchField = m_searchField->GetRect();
+    }
+    record["searchFieldOnScreen"] = onScreen(searchField);
+    record["search"] = {{"open", m_search.IsOpen()}, {"marked", m_search.Marked()}};
+    nlohmann::ordered_json found = nlohmann::ordered_json::array();
+    for (const SearchCommand* const command : m_search.Shown()) {
+        const CRect place = m_search.PlaceOf(static_cast<int>(found.size()));
+        found.push_back({{"keyword", wstring2String(command->keyword)},
+                         {"name", wstring2String(command->name)},
+                         {"place", wstring2String(command->place)},
+                         {"keys", wstring2String(command->keys)},
+                         {"enabled", command->isEnabled},
+                         {"onScreen", {place.left, place.top, place.right, place.bottom}}});
+    }
+    record["search"]["found"] = std::move(found);
     const auto part = [this](CMapPane::Part which) {
         const CRect rect = m_pane.PlaceOf(which);
         return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};

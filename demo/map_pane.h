@@ -16,6 +16,7 @@ public:
     void SetTexts(const LayerRowTexts& texts) { m_list.SetTexts(texts); }
     /// 0 black, 1 silver.
     void SetSkin(UINT skin);
+    const ViewerColors& Colors() const { return m_colors; }
     /// Shows the state in all parts that show another one.
     void ShowState();
     /// Where a part is on the screen.

@@ -23,6 +23,8 @@ public:
     virtual void TellPlaceUnknown(const std::wstring& text) = 0;
     virtual void TellAbout() = 0;
     virtual void TellKeyboard() = 0;
+    /// Opens the search of commands.
+    virtual void ShowCommandSearch() = 0;
     virtual void SwitchLanguage(const std::wstring& code) = 0;
     virtual bool IsLanguage(const std::wstring& code) const = 0;
     /// Shows the pages of the mode.

@@ -194,6 +194,9 @@ class Viewer:
     def key(self, *names):
         self._xdotool("key", *names)
 
+    def write(self, text):
+        self._xdotool("type", "--delay", 30, text)
+
     def windows(self, title):
         """Names the shown windows with exactly this title."""
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self._environment,
