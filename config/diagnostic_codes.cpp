@@ -151,6 +151,22 @@ constexpr DiagnosticCode kCodes[] = {
      "<ribbon>\n  <row KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"In\"/></row>\n  <row KEYWORD=\"Main\"><category "
      "KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
      "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
+    {"quick-access-kind", Warning,
+     "The quick access row names an element that is neither a button nor a combo: a slider, a label, an edit or a "
+     "category.",
+     "It is left out of the quick access toolbar.", "Remove it, or give the command a button.", RibbonFile,
+     "<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\"><item KEYWORD=\"In\"/></row>\n  <row KEYWORD=\"Main\"><category "
+     "KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
+     "TYPE=\"label\"/></panel></category></row>\n</ribbon>",
+     "<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\"><item KEYWORD=\"In\"/></row>\n  <row KEYWORD=\"Main\"><category "
+     "KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
+     "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
+    {"similar-keyword", Warning,
+     "A button of a toolbar has a keyword that no ribbon or menu file has, but nearly that of the command with the "
+     "same "
+     "icon.",
+     "It is a command of its own, without CMD: only a program that knows the keyword does something.",
+     "Write the keyword as the command has it."},
     {"shortcut-syntax", Error,
      "HOTKEY is read as something else than it says. Only Ctrl, Shift and Alt, joined by \"+\" without blanks, may "
      "stand before the key, and only the first character of the key counts.",
@@ -176,6 +192,11 @@ constexpr DiagnosticCode kCodes[] = {
      "MENUNAME=\"\"/></popup>\n  </group>\n</menu>",
      "<menu>\n  <group>\n    <popup KEYWORD=\"File\" MENUNAME=\"\" SHORTKEY=\"F\"><item KEYWORD=\"Save\" "
      "MENUNAME=\"\"/></popup>\n  </group>\n</menu>"},
+    {"access-key-syntax", Warning, "SHORTKEY is more than one letter or digit, a blank or \"&\".",
+     "It stands in brackets behind the caption as it is; its first letter opens the item.",
+     "Write one letter; a shortcut such as Ctrl+S belongs into HOTKEY.", Popup,
+     "<item KEYWORD=\"Save\" MENUNAME=\"\" SHORTKEY=\"Ctrl+S\"/>",
+     "<item KEYWORD=\"Save\" MENUNAME=\"\" SHORTKEY=\"S\"/>"},
     {"access-key-clash", Warning,
      "Two items of one menu have the same letter, by SHORTKEY or by \"&\" in the translated text.",
      "The letter chooses between them instead of opening one.", "Give one of them another letter.", Popup,

@@ -1,6 +1,7 @@
 #include "config/menu_diagnosis.h"
 
 #include "config/menu_attributes.h"
+#include "config/suggestion.h"
 #include "varnhold/letter_case.h"
 
 MetElement MenuDiagnosis::Describe(varnhold::XmlCursor& element, ElementRole role, std::size_t level) const {
@@ -29,6 +30,16 @@ void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) con
     }
 }
 
+void MenuDiagnosis::CheckLetter(const MetElement& met) const {
+    const MetAttribute* const letter = met.Find(AttributeUse::ShortKey);
+    if (letter && (letter->value.size() > 1 || letter->value == L" " || letter->value == L"&")) {
+        m_diagnostics.Report("access-key-syntax", letter->position,
+                             L"SHORTKEY is one letter or digit; " + Quoted(letter->value) +
+                                 L" is shown as it is, in brackets behind the caption",
+                             L"write the letter alone; a shortcut belongs into HOTKEY");
+    }
+}
+
 void MenuDiagnosis::MeetGroup(varnhold::XmlCursor& element) const {
     for (const varnhold::XmlAttributeView& written : element.ReadAttributes()) {
         for (const AttributeRule& rule : MenuAttributeRules()) {
@@ -51,6 +62,7 @@ void MenuDiagnosis::MeetPopup(varnhold::XmlCursor& element, std::size_t level) c
     }
     const MetElement met = Describe(element, ElementRole::Popup, level);
     CheckTexts(met, L"without a keyword the popup has no caption");
+    CheckLetter(met);
     if (const MetAttribute* const shortcut = met.Find(AttributeUse::HotKey)) {
         m_diagnostics.Report("lost-shortcut", shortcut->position, L"a popup takes no shortcut",
                              L"give it a letter by SHORTKEY");
@@ -64,5 +76,6 @@ void MenuDiagnosis::MeetItem(varnhold::XmlCursor& element, std::size_t level, bo
     }
     const MetElement met = Describe(element, ElementRole::MenuItem, level);
     CheckTexts(met, L"an item without a keyword is not shown");
+    CheckLetter(met);
     m_diagnostics.Meet(met);
 }

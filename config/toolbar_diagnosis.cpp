@@ -91,6 +91,11 @@ void ToolBarDiagnosis::MeetButton(varnhold::XmlCursor& element) const {
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword",
                  L"a button without a keyword leads to no command");
     }
+    if (kind == ToolBarItemKind::Button && met.ValueOf(AttributeUse::Prompt).empty() &&
+        met.ValueOf(AttributeUse::Icon).empty()) {
+        m_diagnostics.Report("missing-caption", met.position, L"a button without PROMPT and PICPATH is blank",
+                             L"add PICPATH, and PROMPT for its text");
+    }
     if (met.hasChildren) {
         m_diagnostics.Report("children-lost", met.position, L"elements inside a button are not read");
         PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);

@@ -1,5 +1,6 @@
 #include "config/check/command_check.h"
 
+#include "config/check/installation_files.h"
 #include "config/element_kind.h"
 #include "config/menu_diagnosis.h"
 #include "config/shortcut_fault.h"
@@ -45,6 +46,16 @@ bool IsOfRibbon(const MetElement& element) {
            element.role == ElementRole::SubItem;
 }
 
+/// A TYPE that is unknown was reported, and is meant to be one of the others.
+bool MayStandInQuickAccess(const MetElement& element) {
+    if (element.role != ElementRole::RibbonElement && element.role != ElementRole::SubItem) {
+        return false;
+    }
+    const ElementKind kind = KindOfElement(element.ValueOf(AttributeUse::Type));
+    return kind != ElementKind::Slider && kind != ElementKind::Label && kind != ElementKind::Edit &&
+           kind != ElementKind::Group;
+}
+
 /// An element that names a command without registering it.
 bool Refers(const MetElement& element) {
     return element.role == ElementRole::QuickAccessItem || element.role == ElementRole::StatusButton;
@@ -86,11 +97,39 @@ private:
         if (keyword.empty() || !IsRegistered(element)) {
             return;
         }
+        if (MayStandInQuickAccess(element)) {
+            m_forQuickAccess.insert(keyword);
+        }
         const auto [found, isNew] = m_commands.try_emplace(keyword);
         if (isNew) {
             found->second = MakeCommand(gathered);
+            TakeIcon(gathered);
         } else {
             Compare(found->second, gathered);
+        }
+    }
+
+    /// A button of a toolbar has no CMD of its own: with a keyword of its own it is a command that only the program
+    /// knows. One that looks like the command with the same icon was meant to be that.
+    void TakeIcon(const GatheredElement& gathered) {
+        const MetElement& element = gathered.element;
+        const std::wstring keyword(element.ValueOf(AttributeUse::Keyword));
+        const std::wstring icon = FoldedPath(element.ValueOf(AttributeUse::Icon));
+        if (icon.empty()) {
+            return;
+        }
+        std::vector<std::wstring>& known = m_keywordsByIcon[icon];
+        if (element.role != ElementRole::ToolBarButton) {
+            known.push_back(keyword);
+            return;
+        }
+        const std::wstring meant = ClosestWord(keyword, known);
+        if (m_isComplete && !meant.empty() && !m_meant.contains(keyword) && !m_passedOver.contains(keyword)) {
+            ReportTogether(
+                m_sink, *gathered.file, PlaceOf(element, AttributeUse::Keyword), "similar-keyword",
+                L"no element of a ribbon or menu file has this keyword, but one with the same icon has nearly "
+                L"the same: this button is another command, without CMD",
+                DidYouMean(meant), {PlaceOf(*m_commands.at(meant).first, AttributeUse::Keyword, L"this one")});
         }
     }
 
@@ -200,6 +239,13 @@ private:
                 }
                 ReportTogether(m_sink, *reference->file, PlaceOf(reference->element, AttributeUse::Keyword), code, text,
                                DidYouMean(ClosestWord(keyword, known)));
+            } else if (reference->element.role == ElementRole::QuickAccessItem && m_commands.contains(keyword) &&
+                       !m_forQuickAccess.contains(keyword)) {
+                ReportTogether(
+                    m_sink, *reference->file, PlaceOf(reference->element, AttributeUse::Keyword), "quick-access-kind",
+                    L"only buttons and combos of a ribbon can stand in the quick access toolbar; this is left "
+                    L"out",
+                    L"remove it", {PlaceOf(*m_commands.at(keyword).first, AttributeUse::Keyword, L"registered here")});
             }
         }
         references.clear();
@@ -211,6 +257,10 @@ private:
     std::map<std::wstring, Command> m_commands;
     /// They will be commands when what is around them is mended.
     std::set<std::wstring> m_passedOver;
+    /// What is built in a way that can be copied to the quick access toolbar.
+    std::set<std::wstring> m_forQuickAccess;
+    /// Of the commands of ribbon and menu files, by the icon's path in small letters.
+    std::map<std::wstring, std::vector<std::wstring>> m_keywordsByIcon;
     std::map<std::wstring, const GatheredElement*> m_shortcuts;
     std::vector<const GatheredElement*> m_quickAccess;
     std::vector<const GatheredElement*> m_statusButtons;

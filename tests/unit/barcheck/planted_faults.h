@@ -364,4 +364,10 @@ inline constexpr PlantedFault kPlantedFaults[] = {
      "@@<unit id=\"West\"><segment><source>West</source>", "untranslated-text"},
     {"lang/de/a.xlf", "<unit id=\"West\"><segment><source>West</source><target>de West</target>",
      "@@<unit id=\"West\"><segment><source>West</source><target/>", "untranslated-text"},
+    {"cfg/toolbar.xml", "KEYWORD=\"Open\"", "@@KEYWORD=\"Opne\"", "similar-keyword"},
+    {"cfg/toolbar.xml", "<item TYPE=\"separate\"/>", "@@<item TYPE=\"button\" KEYWORD=\"Open\"/>", "missing-caption"},
+    {"cfg/ribbon.xml", "<item KEYWORD=\"ZoomIn\"/>", "<item @@KEYWORD=\"Place\"/>", "quick-access-kind"},
+    {"cfg/ribbon.xml", "<item KEYWORD=\"ZoomIn\"/>", "<item @@KEYWORD=\"ScaleLabel\"/>", "quick-access-kind"},
+    {"cfg/menu.xml", "SHORTKEY=\"F\"", "@@SHORTKEY=\"Alt+F\"", "access-key-syntax"},
+    {"cfg/menu.xml", "SHORTKEY=\"F\"", "@@SHORTKEY=\" \"", "access-key-syntax"},
 };
