@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -55,6 +57,37 @@ int Extract(const BarcheckOptions& options) {
     return isWritten ? Clean : HasFindings;
 }
 
+std::filesystem::path NativePath(const std::wstring& path) {
+#ifdef _WIN32
+    return path;
+#else
+    return wstring2String(path);
+#endif
+}
+
+/// False, with a line on standard error, when the list cannot be read or a model not written.
+bool WriteModels(const BarcheckOptions& options) {
+    std::ifstream list(NativePath(options.list), std::ios::binary);
+    bool isWritten = list.is_open();
+    for (std::string line; isWritten && std::getline(list, line);) {
+        const std::size_t tab = line.find('\t');
+        isWritten = tab != std::string::npos && tab > 0;
+        if (isWritten) {
+            std::wstring directory = string2wstring(line.substr(0, tab));
+            if (directory.back() != L'/' && directory.back() != L'\\') {
+                directory += L'/';
+            }
+            std::ofstream file(NativePath(string2wstring(line.substr(tab + 1))), std::ios::binary);
+            file << ModelOf(directory, options.language).dump(2) << '\n';
+            isWritten = file.flush().good();
+        }
+        if (!isWritten) {
+            Print("barcheck: not written: " + line + "\n", stderr);
+        }
+    }
+    return isWritten;
+}
+
 int Run(const std::vector<std::wstring>& arguments) {
     std::wstring error;
     const std::optional<BarcheckOptions> options = ParseBarcheckOptions(arguments, error);
@@ -77,6 +110,8 @@ int Run(const std::vector<std::wstring>& arguments) {
     case BarcheckOptions::Task::Schema:
         Print(SchemaOf(options->schema), stdout);
         return Clean;
+    case BarcheckOptions::Task::Models:
+        return WriteModels(*options) ? Clean : WrongUsage;
     case BarcheckOptions::Task::Check:
         break;
     }

@@ -46,6 +46,12 @@ bool SetExtract(BarcheckOptions& options, const std::wstring& value) {
     return IsCode(value);
 }
 
+bool SetModels(BarcheckOptions& options, const std::wstring& value) {
+    options.task = BarcheckOptions::Task::Models;
+    options.list = value;
+    return !value.empty();
+}
+
 struct Option {
     std::wstring_view name;
     bool hasValue;
@@ -77,6 +83,7 @@ constexpr Option kOptions[] = {
     {L"--schema", true, SetSchema},
     {L"--strict", false, SetStrict},
     {L"--model", false, SetTask<BarcheckOptions::Task::Model>},
+    {L"--models", true, SetModels},
     {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
     {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
 };
@@ -127,9 +134,9 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
             options.files.push_back(argument);
         }
     }
-    const bool needsDirectory = options.task != BarcheckOptions::Task::Guide &&
-                                options.task != BarcheckOptions::Task::Schema &&
-                                options.task != BarcheckOptions::Task::Help;
+    const bool needsDirectory =
+        options.task != BarcheckOptions::Task::Guide && options.task != BarcheckOptions::Task::Schema &&
+        options.task != BarcheckOptions::Task::Help && options.task != BarcheckOptions::Task::Models;
     if (needsDirectory && !CheckDirectory(options, error)) {
         return std::nullopt;
     }
@@ -140,6 +147,7 @@ const char* BarcheckUsage() {
     return "usage: barcheck DIR [FILE...] [--format text|json|sarif|github] [--strict] [--lang LANG]\n"
            "       barcheck DIR [FILE...] --extract LANG\n"
            "       barcheck DIR --model [--lang LANG]\n"
+           "       barcheck --models LIST [--lang LANG]\n"
            "       barcheck --schema ribbon|menu|toolbar\n"
            "       barcheck --guide\n"
            "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
@@ -157,6 +165,7 @@ const char* BarcheckUsage() {
            "            for and a note where each stands; marks those that no file uses\n"
            "  --model   what the files build, in the form of barview's dump: commands, elements, menus, shortcuts, "
            "toolbars\n"
+           "  --models  the same of many directories: each line of LIST is DIR, a tab, and the file that it goes to\n"
            "  --schema  an XML schema for this kind of file, as in docs/schemas\n"
            "  --guide   what every code means, as in docs/diagnostics.md\n"
            "Exit code: 0 nothing but notes, 1 findings, or a table that was not written, 2 wrong usage.\n";

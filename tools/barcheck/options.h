@@ -10,7 +10,7 @@ enum class ReportFormat { Text, Json, Sarif, Github };
 
 /// What the program was asked for.
 struct BarcheckOptions {
-    enum class Task { Check, Extract, Model, Guide, Schema, Help };
+    enum class Task { Check, Extract, Model, Models, Guide, Schema, Help };
     Task task = Task::Check;
     /// Installation directory, with its closing separator.
     std::wstring directory;
@@ -22,6 +22,8 @@ struct BarcheckOptions {
     std::wstring language;
     /// The kind of file that a schema is wanted for.
     ConfigurationKind schema = ConfigurationKind::Ribbon;
+    /// The file that lists directories and the files of their models.
+    std::wstring list;
     /// The language whose table is to be written.
     std::wstring extract;
 };

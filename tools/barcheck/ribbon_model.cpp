@@ -37,6 +37,33 @@ ordered_json MakeElement(const char* className, std::uint32_t id, std::wstring_v
             {"description", Utf8(description)}};
 }
 
+/// A text without the marks of its letters: of two "&" one is left.
+std::wstring WithoutMarks(std::wstring_view text) {
+    std::wstring plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == L'&' && (++i == text.size())) {
+            break;
+        }
+        plain += text[i];
+    }
+    return plain;
+}
+
+/// Where there is none, the text stands in for it, but not with a slider. A label has none of its own, and calls
+/// nothing by its letters.
+std::wstring ToolTipOf(ElementKind kind, const RibbonTexts& info, std::wstring_view text) {
+    if (kind == ElementKind::Label) {
+        return std::wstring(text);
+    }
+    const bool isOwn = kind == ElementKind::Slider || !info.tooltip.empty();
+    return isOwn ? std::wstring(info.tooltip) : WithoutMarks(text);
+}
+
+bool MayStandInQuickAccess(std::wstring_view type) {
+    const ElementKind kind = KindOfElement(type);
+    return kind != ElementKind::Label && kind != ElementKind::Edit && kind != ElementKind::Slider;
+}
+
 /// Null for a kind that is not built by itself.
 ordered_json MakeControl(const RibbonTexts& info, std::uint32_t id) {
     constexpr int smallButton = 16;
@@ -47,9 +74,10 @@ ordered_json MakeControl(const RibbonTexts& info, std::uint32_t id) {
             continue;
         }
         const bool isSmall = kind == ElementKind::Button && info.size == smallButton;
-        // A label has no tooltip.
-        const std::wstring_view toolTip = kind == ElementKind::Label ? std::wstring_view() : info.tooltip;
-        return MakeElement(isSmall ? "CMFCRibbonSmallButton" : known.className, id, info.name, toolTip, hint);
+        // What stands in an edit is no text of the element.
+        const std::wstring_view text = kind == ElementKind::Edit ? std::wstring_view() : info.name;
+        return MakeElement(isSmall ? "CMFCRibbonSmallButton" : known.className, id, text, ToolTipOf(kind, info, text),
+                           hint);
     }
     return nullptr;
 }
@@ -113,12 +141,16 @@ void RibbonModel::Load(const std::wstring& path, const std::wstring& fullPath) {
 
 void RibbonModel::ShowQuickAccess(const std::vector<std::wstring>& keywords) {
     Json ids = Json::array();
+    bool isAsked = false;
     for (const std::wstring& keyword : keywords) {
         if (const std::uint32_t* const id = m_commands.Find(keyword)) {
-            ids.push_back(*id);
+            isAsked = true;
+            if (m_forQuickAccess.contains(*id)) {
+                ids.push_back(*id);
+            }
         }
     }
-    if (!ids.empty()) {
+    if (isAsked) {
         m_quickAccess = std::move(ids);
     }
 }
@@ -161,10 +193,18 @@ void RibbonModel::AddElement(const RibbonRecord& element, Json& elements) {
     if (element.info.groupBefore && !elements.empty()) {
         elements.push_back(MakeElement("CMFCRibbonSeparator", 0, {}, {}, {}));
     }
-    Json built = element.children.empty() ? MakeControl(element.info, id) : Element(element, id);
+    Json built = element.children.empty() ? Control(element.info, id) : Element(element, id);
     if (!built.is_null()) {
         elements.push_back(std::move(built));
     }
+}
+
+nlohmann::ordered_json RibbonModel::Control(const RibbonTexts& info, std::uint32_t id) {
+    Json control = MakeControl(info, id);
+    if (!control.is_null() && MayStandInQuickAccess(info.type)) {
+        m_forQuickAccess.insert(id);
+    }
+    return control;
 }
 
 nlohmann::ordered_json RibbonModel::Element(const RibbonRecord& element, std::uint32_t id) {
@@ -172,12 +212,12 @@ nlohmann::ordered_json RibbonModel::Element(const RibbonRecord& element, std::ui
     if (kind != ElementKind::Button && kind != ElementKind::Group) {
         return nullptr;
     }
-    Json result = kind == ElementKind::Group ? MakeElement("CMFCRibbonButtonsGroup", 0, {}, {}, {})
-                                             : MakeControl(element.info, id);
+    Json result =
+        kind == ElementKind::Group ? MakeElement("CMFCRibbonButtonsGroup", 0, {}, {}, {}) : Control(element.info, id);
     Json children = Json::array();
     for (const RibbonRecord& subItem : element.children) {
         m_lists.back().push_back(Utf8(subItem.info.cmd));
-        Json built = MakeControl(subItem.info, Obtain(subItem.info, true));
+        Json built = Control(subItem.info, Obtain(subItem.info, true));
         if (!built.is_null()) {
             children.push_back(std::move(built));
         }
