@@ -144,6 +144,20 @@ class MapWhileItChanges(unittest.TestCase):
             self.expect_no_black(viewer, looks)
 
 
+    def test_no_area_is_black_while_the_window_grows(self):
+        with Viewer(BIN_DIR, "--lang", "en", "--size", "900x600") as viewer:
+            self.begin(viewer)
+            viewer.press(898, 598)
+            looks = []
+            for step in range(1, 25):
+                viewer.move(898 + 18 * step, 598 + 11 * step)
+                looks.append(viewer.look())
+            viewer.release()
+            looks += viewer.look_until(lambda look: look.getpixel((1250, 800)) != (255, 255, 255))
+            looks.append(viewer.settled_look())
+            self.expect_no_black(viewer, looks)
+
+
 if __name__ == "__main__":
     BIN_DIR = os.path.abspath(sys.argv.pop(1))
     unittest.main(verbosity=2)

@@ -161,6 +161,9 @@ class Viewer:
     def press(self, x, y):
         self._xdotool("mousemove", x, y, "sleep", 0.1, "mousedown", 1)
 
+    def move(self, x, y):
+        self._xdotool("mousemove", x, y)
+
     def drag(self, x, y, to_x, to_y):
         """In steps, as a hand does."""
         self.press(x, y)

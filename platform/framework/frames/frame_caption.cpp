@@ -156,7 +156,6 @@ void CFrameImpl::OnWindowPosChanging(WINDOWPOS& place) const {
 // The ribbon paints itself anew when its width changes; the buttons in its caption tell whether the frame is maximised.
 void CFrameImpl::OnWindowPosChanged(const WINDOWPOS& place) {
     if ((place.flags & SWP_NOSIZE) == 0 || (place.flags & SWP_FRAMECHANGED) != 0) {
-        UpdateRegion();
         const bool isZoomed = m_frame->IsZoomed() != FALSE;
         if (std::exchange(m_wasZoomed, isZoomed) != isZoomed) {
             RedrawCaption();

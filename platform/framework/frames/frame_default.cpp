@@ -70,6 +70,25 @@ bool CFrameImpl::DrawsCaption(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     }
 }
 
+namespace {
+
+// The layout and the ribbon take their time, and until they paint, area that is new shows what the system had there:
+// black, mostly.
+void FillNewArea(CFrameWnd& frame, const WINDOWPOS& place, CSize former, CMFCRibbonBar* ribbon) {
+    const bool grows = (place.flags & SWP_NOSIZE) == 0 && (place.cx > former.cx || place.cy > former.cy);
+    if (!grows || ribbon == nullptr || frame.IsIconic()) {
+        return;
+    }
+    CRect client;
+    frame.GetClientRect(&client);
+    CDC dc;
+    dc.Attach(::GetDCEx(frame, nullptr, DCX_CACHE | DCX_CLIPCHILDREN | DCX_CLIPSIBLINGS));
+    CMFCVisualManager::GetInstance()->OnFillBarBackground(&dc, ribbon, client, client);
+    ::ReleaseDC(frame, dc.Detach());
+}
+
+} // namespace
+
 LRESULT CFrameImpl::DefaultWithCaption(UINT message, WPARAM wParam, LPARAM lParam, SystemProc system) {
     switch (message) {
     case WM_NCLBUTTONDOWN:
@@ -89,6 +108,12 @@ LRESULT CFrameImpl::DefaultWithCaption(UINT message, WPARAM wParam, LPARAM lPara
     case WM_WINDOWPOSCHANGING:
     case WM_WINDOWPOSCHANGED:
     case WM_SETTEXT: {
+        if (message == WM_WINDOWPOSCHANGED) {
+            // Before the layout: the region of the former size would cut off what it paints.
+            const CSize former = m_regionSize;
+            UpdateRegion();
+            FillNewArea(*m_frame, *reinterpret_cast<const WINDOWPOS*>(lParam), former, RibbonBar());
+        }
         const LRESULT result = system(*m_frame, message, wParam, lParam);
         if (message == WM_GETMINMAXINFO) {
             OnGetMinMaxInfo(*reinterpret_cast<MINMAXINFO*>(lParam));
