@@ -66,17 +66,23 @@ void AddElement(const CMFCRibbonBaseElement& element, const std::wstring& path, 
     }
 }
 
+void AddCategory(CMFCRibbonCategory& category, Places& places) {
+    for (int i = 0; i < category.GetPanelCount(); ++i) {
+        CMFCRibbonPanel* const panel = category.GetPanel(i);
+        const std::wstring path = Joined(category.GetName(), panel->GetName());
+        for (int j = 0; j < panel->GetCount(); ++j) {
+            AddElement(*panel->GetElement(j), path, places);
+        }
+    }
+}
+
 Places PlacesInRibbon(const CMFCRibbonBar& ribbon) {
     Places places;
     for (int index = 0; index < ribbon.GetCategoryCount(); ++index) {
-        CMFCRibbonCategory* const category = ribbon.GetCategory(index);
-        for (int i = 0; i < category->GetPanelCount(); ++i) {
-            CMFCRibbonPanel* const panel = category->GetPanel(i);
-            const std::wstring path = Joined(category->GetName(), panel->GetName());
-            for (int j = 0; j < panel->GetCount(); ++j) {
-                AddElement(*panel->GetElement(j), path, places);
-            }
-        }
+        AddCategory(*ribbon.GetCategory(index), places);
+    }
+    if (ribbon.GetMainCategory() != nullptr) {
+        AddCategory(*ribbon.GetMainCategory(), places);
     }
     return places;
 }

@@ -90,6 +90,7 @@ IMPLEMENT_DYNAMIC(CMainFrame, CFrameWndEx)
 BEGIN_MESSAGE_MAP(CMainFrame, CFrameWndEx)
 ON_WM_CREATE()
 ON_WM_CLOSE()
+ON_WM_DESTROY()
 ON_WM_NCACTIVATE()
 ON_WM_ENDSESSION()
 ON_WM_SETFOCUS()
@@ -155,6 +156,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
         return -1;
     }
     m_ribbon.EnableToolTips(TRUE, TRUE);
+    m_applicationMenu.Attach(m_ribbon);
     m_bars.TakeShortcuts();
     BuildRibbon();
     ApplyTexts();
@@ -260,6 +262,7 @@ void CMainFrame::BuildRibbon() {
             button->SetDefaultCommand();
         }
     }
+    m_applicationMenu.Build();
     AddSearchField();
     AddSkinButton();
     m_modes.Attach(builder, m_state.Mode(), shown);

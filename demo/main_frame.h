@@ -2,6 +2,7 @@
 
 #include <afxcontrolbars.h>
 
+#include "application_menu.h"
 #include "classic_bars.h"
 #include "help_hint.h"
 #include "host_menu.h"
@@ -52,6 +53,7 @@ public:
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
     afx_msg void OnClose();
+    afx_msg void OnDestroy();
     afx_msg BOOL OnNcActivate(BOOL isActive);
     afx_msg void OnEndSession(BOOL isEnding);
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
@@ -103,6 +105,7 @@ private:
     void TellAbout() override;
     void TellKeyboard() override;
     void ShowCommandSearch() override;
+    void Leave() override;
     void SwitchLanguage(const std::wstring& code) override;
     bool IsLanguage(const std::wstring& code) const override;
     void ShowMode(MapMode mode) override;
@@ -136,6 +139,7 @@ private:
     CMapWindow m_map;
     CMapPane m_pane;
     CViewerRibbon m_ribbon;
+    ApplicationMenu m_applicationMenu;
     WorkingModes m_modes;
     ClassicBars m_bars;
     HostMenu m_contextMenu{HostMenu::Kind::RightClick};

@@ -1,6 +1,7 @@
 // What the commands ask of the frame.
 #include "main_frame.h"
 
+#include "about_box.h"
 #include "command_index.h"
 #include "menu_id_mgr.h"
 #include "picture_export.h"
@@ -32,9 +33,11 @@ void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
     m_tellsPlace = false;
 }
 
-void CMainFrame::TellAbout() { QKMessageBox(ViewerText("AboutText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+void CMainFrame::TellAbout() { ShowAboutBox(GetSafeHwnd(), ViewerText("ViewerTitle")); }
 
 void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+
+void CMainFrame::Leave() { PostMessage(WM_CLOSE); }
 
 void CMainFrame::ShowCommandSearch() {
     CRect anchor(0, 0, 0, 0);

@@ -142,6 +142,11 @@ void CMainFrame::OnClose() {
     CFrameWndEx::OnClose();
 }
 
+void CMainFrame::OnDestroy() {
+    m_applicationMenu.Detach();
+    CFrameWndEx::OnDestroy();
+}
+
 void CMainFrame::OnEndSession(BOOL isEnding) {
     if (isEnding) {
         KeepState();

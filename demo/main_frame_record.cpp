@@ -79,6 +79,9 @@ void CMainFrame::WriteRecord() {
     m_status->GetWindowRect(status);
     record["statusOnScreen"] = {status.left, status.top, status.right, status.bottom};
     record["quickAccessOnScreen"] = onScreen(m_ribbon.GetQuickAccessToolbarLocation());
+    if (const CMFCRibbonApplicationButton* const button = m_ribbon.GetApplicationButton()) {
+        record["applicationButtonOnScreen"] = onScreen(button->GetRect());
+    }
     record["tabsOnScreen"] = nlohmann::ordered_json::array();
     for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
         record["tabsOnScreen"].push_back(onScreen(m_ribbon.GetCategory(i)->GetTabRect()));

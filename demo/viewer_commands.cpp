@@ -236,11 +236,13 @@ boost::shared_ptr<CMenuReactor> MakeFileReactor(MapState& state, ViewerHost& hos
         [&state, &host](const std::wstring& what) {
             if (what == L"open") {
                 host.OpenMapFile();
+            } else if (what == L"exit") {
+                host.Leave();
             } else {
                 state.CloseOpened();
             }
         },
-        nullptr, [&state](const std::wstring& what) { return what == L"open" || !state.Opened().empty(); });
+        nullptr, [&state](const std::wstring& what) { return what != L"close" || !state.Opened().empty(); });
     return reactor;
 }
 

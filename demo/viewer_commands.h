@@ -23,6 +23,7 @@ public:
     virtual void TellPlaceUnknown(const std::wstring& text) = 0;
     virtual void TellAbout() = 0;
     virtual void TellKeyboard() = 0;
+    virtual void Leave() = 0;
     /// Opens the search of commands.
     virtual void ShowCommandSearch() = 0;
     virtual void SwitchLanguage(const std::wstring& code) = 0;

@@ -69,6 +69,9 @@ class Viewer:
     def leave(self):
         """Closes the window as a person does and gives the exit code."""
         self.key("alt+F4")
+        return self.wait_for_end()
+
+    def wait_for_end(self):
         return self._program.wait(timeout=DEADLINE)
 
     def __exit__(self, *_):

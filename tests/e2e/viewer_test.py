@@ -172,6 +172,56 @@ class ClassicBars(unittest.TestCase):
             viewer.wait_for(lambda record: self.scale(record) != before)
 
 
+class ApplicationMenu(unittest.TestCase):
+    """The button at the head of the tabs and its menu: open, save, print, settings, about; at the right recent files."""
+
+    def open(self, *arguments):
+        viewer = Viewer(BIN_DIR, "--lang", "en", "--skin", "silver", *arguments)
+        return viewer
+
+    def drop(self, viewer):
+        left, top, right, bottom = viewer.record["applicationButtonOnScreen"]
+        viewer.click((left + right) // 2, (top + bottom) // 2)
+        time.sleep(0.5)
+
+    def test_its_commands_are_those_of_the_ribbon(self):
+        with self.open() as viewer:
+            self.drop(viewer)
+            viewer.key("Down", "Down", "Down", "Return")
+            viewer.wait_for(lambda record: record["mode"] == "print")
+
+    def test_language_and_skin_are_among_its_settings(self):
+        with self.open() as viewer:
+            self.drop(viewer)
+            viewer.key("Down", "Down", "Down", "Down", "Right", "Down", "Right", "Down", "Return")
+            viewer.wait_for(lambda record: record["skin"] == "black")
+
+    def test_after_a_language_switch_it_speaks_the_other_language(self):
+        with self.open() as viewer:
+            self.drop(viewer)
+            viewer.key("Down", "Down", "Down", "Down", "Right", "Right", "Return")
+            viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "地图")
+            self.drop(viewer)
+            viewer.key("Down", "Down", "Down", "Return")
+            viewer.wait_for(lambda record: record["mode"] == "print")
+
+    def test_a_recent_file_opens_from_it_by_keys(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "place.geojson")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write('{"type": "Point", "coordinates": [10, 20]}')
+            with self.open("--open", path) as viewer:
+                viewer.key("ctrl+w")
+                shown = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] < 10)["map"]["pixelsPerDegree"]
+                viewer.key("alt+f", "Down", *["Tab"] * 5, "Return")  # past the commands
+                viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > shown)
+
+    def test_its_exit_leaves(self):
+        with self.open() as viewer:
+            viewer.key("alt+f", "x")
+            self.assertEqual(viewer.wait_for_end(), 0)
+
+
 class WorkingModes(unittest.TestCase):
     """Categories in the file's order: map, layers, settings, edit, print, back to browsing."""
 
