@@ -12,6 +12,25 @@ namespace {
 
 CPoint PointOf(LPARAM lParam) { return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}; }
 
+/// Client area that no window covers gets its ground at once: the frame's own, or the look's where it has none.
+void FillUncovered(CFrameWnd& frame, CMFCRibbonBar* ribbon) {
+    if (ribbon == nullptr || frame.IsIconic()) {
+        return;
+    }
+    CRect client;
+    frame.GetClientRect(&client);
+    CDC dc;
+    dc.Attach(::GetDCEx(frame, nullptr, DCX_CACHE | DCX_CLIPCHILDREN | DCX_CLIPSIBLINGS));
+    if (frame.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())) == 0) {
+        CMFCVisualManager::GetInstance()->OnFillBarBackground(&dc, ribbon, client, client);
+    }
+    ::ReleaseDC(frame, dc.Detach());
+}
+
+bool Grows(const WINDOWPOS& place, CSize former) {
+    return (place.flags & SWP_NOSIZE) == 0 && (place.cx > former.cx || place.cy > former.cy);
+}
+
 } // namespace
 
 LRESULT CFrameImpl::OnDefault(UINT message, WPARAM wParam, LPARAM lParam, SystemProc system) {
@@ -70,25 +89,6 @@ bool CFrameImpl::DrawsCaption(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     }
 }
 
-namespace {
-
-// The layout and the ribbon take their time, and until they paint, area that is new shows what the system had there:
-// black, mostly.
-void FillNewArea(CFrameWnd& frame, const WINDOWPOS& place, CSize former, CMFCRibbonBar* ribbon) {
-    const bool grows = (place.flags & SWP_NOSIZE) == 0 && (place.cx > former.cx || place.cy > former.cy);
-    if (!grows || ribbon == nullptr || frame.IsIconic()) {
-        return;
-    }
-    CRect client;
-    frame.GetClientRect(&client);
-    CDC dc;
-    dc.Attach(::GetDCEx(frame, nullptr, DCX_CACHE | DCX_CLIPCHILDREN | DCX_CLIPSIBLINGS));
-    CMFCVisualManager::GetInstance()->OnFillBarBackground(&dc, ribbon, client, client);
-    ::ReleaseDC(frame, dc.Detach());
-}
-
-} // namespace
-
 LRESULT CFrameImpl::DefaultWithCaption(UINT message, WPARAM wParam, LPARAM lParam, SystemProc system) {
     switch (message) {
     case WM_NCLBUTTONDOWN:
@@ -112,7 +112,11 @@ LRESULT CFrameImpl::DefaultWithCaption(UINT message, WPARAM wParam, LPARAM lPara
             // Before the layout: the region of the former size would cut off what it paints.
             const CSize former = m_regionSize;
             UpdateRegion();
-            FillNewArea(*m_frame, *reinterpret_cast<const WINDOWPOS*>(lParam), former, RibbonBar());
+            // The layout and the ribbon take their time, and until they paint, area that is new shows what the system
+            // had there: black, mostly.
+            if (Grows(*reinterpret_cast<const WINDOWPOS*>(lParam), former)) {
+                FillUncovered(*m_frame, RibbonBar());
+            }
         }
         const LRESULT result = system(*m_frame, message, wParam, lParam);
         if (message == WM_GETMINMAXINFO) {
@@ -161,6 +165,7 @@ void CFrameImpl::OnChangeVisualManager() {
     if (m_replacesCaption) {
         m_regionSize = CSize(-1, -1);
         UpdateRegion();
+        FillUncovered(*m_frame, RibbonBar()); // which nobody paints perhaps
     }
     m_frame->RecalcLayout();
     // Not painted yet: the look may get its last settings after this, and would be seen without them.
