@@ -32,6 +32,7 @@ CString NameOf(const char* key) { return CMultiLanguageMgr::translationW(key, -1
 template <class Keys>
 std::vector<std::wstring> NamesOf(const Keys& keys) {
     std::vector<std::wstring> names;
+    names.reserve(keys.size());
     for (const char* key : keys) {
         names.emplace_back(NameOf(key).GetString());
     }
