@@ -1,12 +1,15 @@
 #include "system_language.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
 constexpr wchar_t kFallback[] = L"en";
 
 std::wstring LanguageAlone(const std::wstring& code) { return code.substr(0, code.find(L'-')); }
+
+constexpr std::array<const wchar_t*, 6> kFromRight = {L"ar", L"fa", L"he", L"ps", L"ur", L"yi"};
 
 } // namespace
 
@@ -25,4 +28,8 @@ std::wstring ChooseLanguage(const std::wstring& wanted, const std::vector<std::w
         found = installed.begin();
     }
     return found == installed.end() ? std::wstring() : *found;
+}
+
+bool IsWrittenFromRight(const std::wstring& code) {
+    return std::find(kFromRight.begin(), kFromRight.end(), LanguageAlone(code)) != kFromRight.end();
 }

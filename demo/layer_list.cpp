@@ -1,7 +1,7 @@
 #include "layer_list.h"
 
 #include "map_painter.h"
-#include "soft_shapes.h"
+#include "soft_canvas.h"
 
 #include <afxglobals.h>
 
@@ -24,43 +24,26 @@ constexpr UINT kBarId = 1;
 
 int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
-std::uint32_t ToRgb(COLORREF color) {
-    return static_cast<std::uint32_t>(GetRValue(color)) << 16 | GetGValue(color) << 8 | GetBValue(color);
-}
+COLORREF ToColorRef(std::uint32_t rgb) { return RGB(rgb >> 16 & 0xFF, rgb >> 8 & 0xFF, rgb & 0xFF); }
 
-/// 32 bits a pixel, to be drawn into by hand as well. The caller's.
-HBITMAP MakeOpenBitmap(CSize size, soft::Pixels& pixels) {
-    BITMAPINFO info = {};
-    info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    const HBITMAP bitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-    pixels = {static_cast<std::uint32_t*>(bits), static_cast<int>(size.cx), static_cast<int>(size.cy)};
-    return bitmap;
-}
-
-soft::Box ToBox(const CRect& rect) {
-    return {static_cast<double>(rect.left), static_cast<double>(rect.top), static_cast<double>(rect.right),
-            static_cast<double>(rect.bottom)};
-}
-
-void DrawSwatch(const soft::Pixels& pixels, CRect rect, std::uint32_t color, std::uint32_t rim) {
-    soft::FillRounded(pixels, ToBox(rect), rect.Width() / 2.0, rim);
+void DrawSwatch(SoftCanvas& canvas, CRect rect, COLORREF color, COLORREF rim) {
+    canvas.FillRounded(rect, rect.Width() / 2, rim);
     rect.DeflateRect(Scaled(1), Scaled(1));
-    soft::FillRounded(pixels, ToBox(rect), rect.Width() / 2.0, color);
+    canvas.FillRounded(rect, rect.Width() / 2, color);
 }
 
-void DrawTick(const soft::Pixels& pixels, CRect box, bool isTicked, const ViewerColors& colors) {
-    soft::FillRounded(pixels, ToBox(box), Scaled(3), ToRgb(isTicked ? colors.accent : colors.secondary));
+void DrawTick(SoftCanvas& canvas, CRect box, bool isTicked, const ViewerColors& colors) {
+    canvas.FillRounded(box, Scaled(3), isTicked ? colors.accent : colors.secondary);
     if (!isTicked) {
         box.DeflateRect(Scaled(1), Scaled(1));
-        soft::FillRounded(pixels, ToBox(box), Scaled(2), ToRgb(colors.ground));
+        canvas.FillRounded(box, Scaled(2), colors.ground);
         return;
     }
     const double unit = static_cast<double>(box.Width()) / kTickSize;
     const auto x = [&](double units) { return box.left + units * unit; };
     const auto y = [&](double units) { return box.top + units * unit; };
-    soft::DrawLine(pixels, x(3.5), y(7.25), x(6), y(9.75), 1.6 * unit, ToRgb(colors.ground));
-    soft::DrawLine(pixels, x(6), y(9.75), x(10.5), y(4.5), 1.6 * unit, ToRgb(colors.ground));
+    canvas.DrawLine(x(3.5), y(7.25), x(6), y(9.75), 1.6 * unit, colors.ground);
+    canvas.DrawLine(x(6), y(9.75), x(10.5), y(4.5), 1.6 * unit, colors.ground);
 }
 
 } // namespace
@@ -240,27 +223,28 @@ void CLayerList::OnPaint() {
     CPaintDC paint(this);
     CRect client;
     GetClientRect(client);
-    soft::Pixels pixels;
-    CDC memory;
-    CBitmap bitmap;
-    if (!memory.CreateCompatibleDC(&paint) || !bitmap.Attach(MakeOpenBitmap(client.Size(), pixels))) {
+    SoftCanvas canvas(paint, client);
+    if (canvas.IsEmpty()) {
         return;
     }
-    CBitmap* const earlier = memory.SelectObject(&bitmap);
-    CFont* const font = memory.SelectObject(&afxGlobalData.fontRegular);
-    memory.SetBkMode(TRANSPARENT);
-    memory.FillSolidRect(client, m_colors.ground);
-    ::GdiFlush();
+    canvas.Fill(CRect(CPoint(0, 0), canvas.Size()), m_colors.ground);
     const int end = std::min(static_cast<int>(m_rows.size()), m_first + ShownCount() + 1);
     for (int row = m_first; row < end; ++row) {
-        DrawMarks(pixels, row);
+        DrawMarks(canvas, row);
     }
     for (int row = m_first; row < end; ++row) {
-        DrawText(memory, row);
+        DrawText(canvas.Dc(), row);
     }
-    paint.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
-    memory.SelectObject(font);
-    memory.SelectObject(earlier);
+}
+
+// The canvas is not: texts and ticks are never drawn the other way round, only their places are.
+CRect CLayerList::Mirrored(CRect rect) const {
+    if (GetExStyle() & WS_EX_LAYOUTRTL) {
+        CRect client;
+        GetClientRect(client);
+        rect = CRect(client.right - rect.right, rect.top, client.right - rect.left, rect.bottom);
+    }
+    return rect;
 }
 
 CRect CLayerList::TickRect(int row) const {
@@ -276,18 +260,18 @@ CRect CLayerList::SwatchRect(int row) const {
     return CRect(corner, CSize(size, size));
 }
 
-void CLayerList::DrawMarks(const soft::Pixels& pixels, int row) {
-    CRect plate = RowRect(row);
+void CLayerList::DrawMarks(SoftCanvas& canvas, int row) {
+    CRect plate = Mirrored(RowRect(row));
     plate.DeflateRect(Scaled(kPlateMargin), Scaled(1));
     if (row == m_mark && GetFocus() == this) {
-        soft::FillRounded(pixels, ToBox(plate), Scaled(kCorner), ToRgb(m_colors.accent), kMarkStrength);
+        canvas.FillRounded(plate, Scaled(kCorner), m_colors.accent, kMarkStrength);
     } else if (row == m_hot) {
-        soft::FillRounded(pixels, ToBox(plate), Scaled(kCorner), ToRgb(m_colors.text), kHotStrength);
+        canvas.FillRounded(plate, Scaled(kCorner), m_colors.text, kHotStrength);
     }
     if (m_rows[row].kind == LayerRow::Kind::Layer) {
         const auto layer = static_cast<MapLayer>(m_rows[row].index);
-        DrawTick(pixels, TickRect(row), m_state.IsShown(layer), m_colors);
-        DrawSwatch(pixels, SwatchRect(row), ShownColor(m_state, layer), ToRgb(m_colors.secondary));
+        DrawTick(canvas, Mirrored(TickRect(row)), m_state.IsShown(layer), m_colors);
+        DrawSwatch(canvas, Mirrored(SwatchRect(row)), ToColorRef(ShownColor(m_state, layer)), m_colors.secondary);
     }
 }
 
@@ -297,6 +281,8 @@ void CLayerList::DrawText(CDC& dc, int row) {
     const bool hasMarks = shown.kind == LayerRow::Kind::Layer;
     text.left = hasMarks ? TickRect(row).right + Scaled(kTickGap) : text.left + Scaled(kIndent);
     text.right = hasMarks ? SwatchRect(row).left - Scaled(kTickGap) : text.right - Scaled(kIndent);
+    text = Mirrored(text);
     dc.SetTextColor(shown.IsChoosable() ? m_colors.text : m_colors.secondary);
-    dc.DrawText(shown.text.c_str(), text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
+    const UINT reading = (GetExStyle() & WS_EX_LAYOUTRTL) != 0 ? DT_RIGHT | DT_RTLREADING : 0;
+    dc.DrawText(shown.text.c_str(), text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX | reading);
 }

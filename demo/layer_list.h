@@ -2,7 +2,6 @@
 
 #include "layer_rows.h"
 #include "map_state.h"
-#include "soft_shapes.h"
 #include "viewer_scroll_bar.h"
 
 #include <afxwin.h>
@@ -11,6 +10,8 @@
 #include <vector>
 
 /// What the viewer's own windows are painted with in a skin.
+class SoftCanvas;
+
 struct ViewerColors {
     COLORREF ground;
     COLORREF text;
@@ -77,7 +78,8 @@ private:
     void ShowFirst(int row);
     CRect TickRect(int row) const;
     CRect SwatchRect(int row) const;
-    void DrawMarks(const soft::Pixels& pixels, int row);
+    CRect Mirrored(CRect rect) const;
+    void DrawMarks(SoftCanvas& canvas, int row);
     void DrawText(CDC& dc, int row);
 
     MapState& m_state;

@@ -13,7 +13,9 @@
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "screenshot.h"
+#include "script_font.h"
 #include "search_field.h"
+#include "system_language.h"
 #include "system_skin.h"
 #include "tooltip_ctrl_ex.h"
 #include "viewer_skins.h"
@@ -78,9 +80,23 @@ std::wstring InstallationDirectory() {
 } // namespace
 
 void TakeResourceLanguage() {
-    const bool isChinese = CMultiLanguageMgr::GetLanguage() == L"zh-CN";
-    const LANGID language =
-        isChinese ? MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED) : MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
+    struct Row {
+        const wchar_t* code;
+        LANGID language;
+    };
+    static constexpr std::array<Row, 2> kRows = {{{L"zh-CN", MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED)},
+                                                  {L"he", MAKELANGID(LANG_HEBREW, SUBLANG_DEFAULT)}}};
+    LANGID language = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
+    for (const Row& row : kRows) {
+        if (CMultiLanguageMgr::GetLanguage() == row.code) {
+            language = row.language;
+        }
+    }
+    if (IsWrittenFromRight(CMultiLanguageMgr::GetLanguage())) {
+        TakeScriptFonts(ViewerText("ViewerTitle"));
+    } else {
+        afxGlobalData.UpdateFonts();
+    }
     ::SetThreadUILanguage(language);
     ::SetThreadLocale(MAKELCID(language, SORT_DEFAULT)); // what Wine goes by
 }
@@ -140,7 +156,7 @@ BOOL CMainFrame::CreateFrame() {
     const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), nullptr,
                                                     AfxGetApp()->LoadIcon(IDR_MAINFRAME));
     return Create(windowClass, ViewerText("ViewerTitle").c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, rect, nullptr,
-                  nullptr, m_options.isRightToLeft ? WS_EX_LAYOUTRTL : 0);
+                  nullptr, IsToBeMirrored() ? WS_EX_LAYOUTRTL : 0);
 }
 
 int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {

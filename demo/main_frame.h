@@ -79,6 +79,9 @@ private:
     // What was kept, and keeping it.
     void StartInLanguage();
     CRect StartPlace() const;
+    bool IsToBeMirrored() const;
+    /// Brings the windows to the direction in which the language in force is written.
+    void Mirror();
     void RestoreState();
     void KeepState();
 

@@ -65,6 +65,7 @@ void CMainFrame::SwitchLanguage(const std::wstring& code) {
         return;
     }
     TakeResourceLanguage();
+    Mirror();
     setMessageBoxTitle(ViewerText("ViewerTitle"));
     ApplyTexts();
     // The clicked button is still at work: the ribbon is built anew after it has finished.

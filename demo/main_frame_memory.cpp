@@ -73,6 +73,31 @@ void CMainFrame::StartInLanguage() {
     setMessageBoxTitle(ViewerText("ViewerTitle"));
 }
 
+bool CMainFrame::IsToBeMirrored() const {
+    return m_options.isRightToLeft.value_or(IsWrittenFromRight(CMultiLanguageMgr::GetLanguage()));
+}
+
+void CMainFrame::Mirror() {
+    const bool isWanted = IsToBeMirrored();
+    if (isWanted == ((GetExStyle() & WS_EX_LAYOUTRTL) != 0)) {
+        return;
+    }
+    m_search.Close();
+    // What is inside of the pane the pane knows: not all of it is mirrored.
+    const auto mirror = [](HWND window, LPARAM pane) -> BOOL {
+        const auto paneWindow = reinterpret_cast<HWND>(pane);
+        if (!::IsChild(paneWindow, window)) {
+            ::SetWindowLongPtrW(window, GWL_EXSTYLE, ::GetWindowLongPtrW(window, GWL_EXSTYLE) ^ WS_EX_LAYOUTRTL);
+        }
+        return TRUE;
+    };
+    ::EnumChildWindows(GetSafeHwnd(), mirror, reinterpret_cast<LPARAM>(m_pane.GetSafeHwnd()));
+    m_pane.Mirror(isWanted);
+    ModifyStyleEx(isWanted ? 0 : WS_EX_LAYOUTRTL, isWanted ? WS_EX_LAYOUTRTL : 0, SWP_FRAMECHANGED);
+    RecalcLayout();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 CRect CMainFrame::StartPlace() const {
     const auto& kept = m_memory.Viewer().window;
     if (m_options.width > 0) {

@@ -60,6 +60,13 @@ void CMapPane::SetSkin(UINT skin) {
     }
 }
 
+void CMapPane::Mirror(bool isMirrored) {
+    m_list.ModifyStyleEx(isMirrored ? 0 : WS_EX_LAYOUTRTL, isMirrored ? WS_EX_LAYOUTRTL : 0);
+    CRect client;
+    GetClientRect(client);
+    OnSize(SIZE_RESTORED, client.Width(), client.Height());
+}
+
 void CMapPane::ShowState() {
     m_map.ShowState();
     m_list.ShowState();

@@ -16,6 +16,8 @@ public:
     void SetTexts(const LayerRowTexts& texts) { m_list.SetTexts(texts); }
     /// 0 black, 1 silver.
     void SetSkin(UINT skin);
+    /// The list beside the map changes sides; the map itself and the scroll bars do not turn round.
+    void Mirror(bool isMirrored);
     const ViewerColors& Colors() const { return m_colors; }
     /// Shows the state in all parts that show another one.
     void ShowState();

@@ -29,7 +29,9 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
                                   .AddNumber(L"--scale", 0, kLargest, options.scalePercent)
                                   .AddNumber(L"--category", 0, kLargest, options.category)
                                   .Read(arguments, 0, words, error);
-    options.isRightToLeft = direction == L"rtl";
+    if (!direction.empty()) {
+        options.isRightToLeft = direction == L"rtl";
+    }
     if (!bars.empty()) {
         options.showsClassicBars = bars == L"classic";
     }

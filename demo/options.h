@@ -14,7 +14,7 @@ struct DemoOptions {
     int scalePercent = 0;                 ///< 0: as the screen says.
     int category = -1;                    ///< Index of the category shown first; -1: the mode's own.
     std::optional<bool> showsClassicBars; ///< Menu bar and toolbars in the ribbon's place, or the ribbon.
-    bool isRightToLeft = false;           ///< Mirrored layout, as for languages that are written so.
+    std::optional<bool> isRightToLeft;    ///< Mirrored layout, whatever the language; nothing: as it is written.
     bool isFresh = false;                 ///< As if for the first time: keeps nothing either.
     std::wstring settings;                ///< The folder of what is kept between two runs; empty: the user's own.
     std::wstring mapFile;                 ///< GeoJSON file that is opened at the start; empty: none.

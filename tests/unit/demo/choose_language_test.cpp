@@ -19,3 +19,11 @@ TEST(ChooseLanguage, TakesEnglishForAllOthersAndWhatThereIsWithoutIt) {
     EXPECT_EQ(ChooseLanguage(L"fr-FR", {L"ar", L"zh-CN"}), L"ar");
     EXPECT_EQ(ChooseLanguage(L"en", {}), L"");
 }
+
+TEST(IsWrittenFromRight, KnowsTheLanguageWhateverTheCountry) {
+    EXPECT_TRUE(IsWrittenFromRight(L"he"));
+    EXPECT_TRUE(IsWrittenFromRight(L"ar-EG"));
+    EXPECT_FALSE(IsWrittenFromRight(L"en"));
+    EXPECT_FALSE(IsWrittenFromRight(L"zh-CN"));
+    EXPECT_FALSE(IsWrittenFromRight(L""));
+}
