@@ -75,6 +75,16 @@ class Expectation:
             self.registry[record["keyword"]] = {"id": taken, **{k: record[k] for k in ("keyword", "name", "tooltip", "cmd", "param", "help")}}
         return taken
 
+    def add_menu(self, menu_file):
+        """A menu behind the ribbon: its items take ids for the keywords that are new."""
+        for item in xml.parse(menu_file).getroot().iter("item"):
+            keyword = item.get("KEYWORD")
+            if keyword and item.get("CMD") and keyword not in self.registry:
+                self.registry[keyword] = {"id": self.next_id, "keyword": keyword, "name": self._texts.get(keyword, keyword),
+                                          "tooltip": self._texts.get(keyword + ".tooltip", ""), "cmd": item.get("CMD"),
+                                          "param": item.get("Param", ""), "help": ""}
+                self.next_id += 1
+
     def _category(self, node):
         record = self._record(node)
         category = {"name": record["name"], "class": "CMFCRibbonCategory", "panels": []}
