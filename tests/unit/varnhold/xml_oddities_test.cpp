@@ -12,7 +12,6 @@
 namespace {
 
 using varnhold::TextPosition;
-using varnhold::XmlOddityKind;
 
 std::string At(TextPosition position) {
     return "@" + std::to_string(position.line) + ":" + std::to_string(position.column) + " ";
