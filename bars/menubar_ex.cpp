@@ -60,7 +60,7 @@ void CMfcMenubarEx::AddRightButton() {
     CString text;
     menu->GetMenuString(0, text, MF_BYPOSITION);
     const CMenu* const popup = menu->GetSubMenu(0);
-    ENSURE_ARG(popup != nullptr);
+    ENSURE(popup != nullptr);
     const std::unique_ptr<CMFCToolBarMenuButton> button(
         static_cast<CMFCToolBarMenuButton*>(GetMenuButtonRTC()->CreateObject()));
     button->CreateFromMenu(popup->m_hMenu);

@@ -27,7 +27,7 @@ std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
     CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
     bar->GetElementsByID(combo.GetID(), elements);
     for (INT_PTR i = 0; i < elements.GetSize(); ++i) {
-        found.push_back(DYNAMIC_DOWNCAST(Combo, elements[i]));
+        found.push_back(dynamic_cast<Combo*>(elements[i]));
     }
     return found;
 }
@@ -70,7 +70,7 @@ struct MarkedComboState {
     /// Takes over all that a copy of `src` has; without states when that is of another class.
     static void CopyFrom(Combo& combo, const CMFCRibbonBaseElement& src) {
         const std::weak_ptr<State> life = State::Of(combo);
-        const auto* const source = DYNAMIC_DOWNCAST(Combo, &src);
+        const auto* const source = dynamic_cast<const Combo*>(&src);
         const bool isOther = source && source != &combo;
         if (isOther) {
             State::Of(combo)->TakeOver(*State::Of(*source));

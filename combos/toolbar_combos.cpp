@@ -16,7 +16,7 @@ namespace {
 /// The button's combo box; null when there is none of that class.
 template <class Combo>
 Combo* HostedIn(const CMFCToolBarComboBoxButton& button) {
-    auto* const combo = DYNAMIC_DOWNCAST(Combo, button.GetComboBox());
+    auto* const combo = dynamic_cast<Combo*>(button.GetComboBox());
     return combo && combo->GetSafeHwnd() ? combo : nullptr;
 }
 
