@@ -109,6 +109,9 @@ private:
     void TellKeyboard() override;
     void ShowCommandSearch() override;
     void Leave() override;
+    void ReloadFiles() override;
+    /// Says which of the files cannot be read now; then nothing is built from them.
+    bool TellBrokenFiles(const std::wstring& language);
     void SwitchLanguage(const std::wstring& code) override;
     bool IsLanguage(const std::wstring& code) const override;
     void ShowMode(MapMode mode) override;

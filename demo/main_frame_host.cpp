@@ -3,6 +3,7 @@
 
 #include "about_box.h"
 #include "command_index.h"
+#include "configuration_files.h"
 #include "menu_id_mgr.h"
 #include "picture_export.h"
 #include "ribbon_category_ex.h"
@@ -14,9 +15,11 @@
 
 #include "varnhold/language.h"
 #include "varnhold/message_box.h"
+#include "varnhold/strings.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 int CMainFrame::ScaleSliderPosition() const { return m_controls.ScalePosition(); }
 
@@ -36,6 +39,31 @@ void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
 void CMainFrame::TellAbout() { ShowAboutBox(GetSafeHwnd(), ViewerText("ViewerTitle")); }
 
 void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
+
+namespace {
+
+std::wstring Lines(const std::vector<std::wstring>& lines) {
+    std::wstring text;
+    for (const std::wstring& line : lines) {
+        text += L"\n" + line;
+    }
+    return text;
+}
+
+} // namespace
+
+bool CMainFrame::TellBrokenFiles(const std::wstring& language) {
+    const std::vector<std::wstring> broken = FindBrokenFiles(language);
+    for (const std::wstring& line : broken) {
+        std::fprintf(stderr, "%s\n", wstring2String(line).c_str());
+    }
+    if (!broken.empty()) {
+        QKMessageBox(WithName(ViewerText("FilesBroken"), Lines(broken)), QK_MESSAGE_WARNING, GetSafeHwnd());
+    }
+    return !broken.empty();
+}
+
+void CMainFrame::ReloadFiles() { SwitchLanguage(CMultiLanguageMgr::GetLanguage()); }
 
 void CMainFrame::Leave() { PostMessage(WM_CLOSE); }
 
@@ -61,7 +89,20 @@ void CMainFrame::ShowCommandSearch() {
 BOOL CMainFrame::OnNcActivate(BOOL isActive) { return CFrameWndEx::OnNcActivate(isActive || m_search.IsOpen()); }
 
 void CMainFrame::SwitchLanguage(const std::wstring& code) {
-    if (!CMultiLanguageMgr::SetLanguage(code)) {
+    if (TellBrokenFiles(code)) {
+        return;
+    }
+    std::vector<std::wstring> problems;
+    CMultiLanguageMgr::ProblemSink earlier;
+    earlier = CMultiLanguageMgr::SetProblemSink([&](const std::wstring& problem) {
+        problems.push_back(problem);
+        earlier(problem);
+    });
+    const bool isRead = CMultiLanguageMgr::SetLanguage(code);
+    CMultiLanguageMgr::SetProblemSink(earlier);
+    if (!isRead) {
+        QKMessageBox(WithName(ViewerText("LanguageBroken"), Lines(problems.empty() ? std::vector{code} : problems)),
+                     QK_MESSAGE_WARNING, GetSafeHwnd());
         return;
     }
     TakeResourceLanguage();

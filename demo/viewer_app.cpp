@@ -1,8 +1,10 @@
 #include "command_line.h"
+#include "configuration_problems.h"
 #include "main_frame.h"
 #include "options.h"
 #include "screenshot.h"
 
+#include "varnhold/language.h"
 #include "varnhold/strings.h"
 
 #include <cstdio>
@@ -22,6 +24,9 @@ public:
             m_exitCode = 2;
             return FALSE;
         }
+        SetConfigurationProblemSink(
+            [](const ConfigurationProblem& problem) { PrintLine(FormatConfigurationProblem(problem)); });
+        CMultiLanguageMgr::SetProblemSink(PrintLine);
         m_gdiPlus.emplace();
         InitContextMenuManager(); // the ribbon's right click asks it
         if (options->scalePercent > 0) {
@@ -70,6 +75,8 @@ public:
     }
 
 private:
+    static void PrintLine(const std::wstring& line) { std::fprintf(stderr, "%s\n", wstring2String(line).c_str()); }
+
     std::optional<GdiPlusSession> m_gdiPlus;
     int m_exitCode = 0;
 };

@@ -313,6 +313,7 @@ boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host) {
                    : what == L"classic" ? host.AreClassicBarsShown()
                                         : host.IsRibbonMinimized();
         });
+    reactor->Serve(L"reload", [&host](const std::wstring&) { host.ReloadFiles(); });
     reactor->Serve(L"search", [&host](const std::wstring&) { host.ShowCommandSearch(); });
     reactor->Serve(L"keyboard", [&host](const std::wstring&) { host.TellKeyboard(); });
     reactor->Serve(L"about", [&host](const std::wstring&) { host.TellAbout(); });

@@ -24,6 +24,8 @@ public:
     virtual void TellAbout() = 0;
     virtual void TellKeyboard() = 0;
     virtual void Leave() = 0;
+    /// Reads texts and bars anew from their files.
+    virtual void ReloadFiles() = 0;
     /// Opens the search of commands.
     virtual void ShowCommandSearch() = 0;
     virtual void SwitchLanguage(const std::wstring& code) = 0;

@@ -24,6 +24,7 @@ class Viewer:
         self._arguments = (*memory, *arguments) if self.PROGRAM[0] == "demo.exe" else arguments
         self._folder = tempfile.TemporaryDirectory()
         self._record_file = os.path.join(self._folder.name, "record.json")
+        self._errors = open(os.path.join(self._folder.name, "errors.txt"), "w+", encoding="utf-8", errors="replace")
 
     def __enter__(self):
         self._session = alone_in_prefix()
@@ -60,7 +61,7 @@ class Viewer:
                            env=self._environment, check=True, stdout=subprocess.DEVNULL)
         self._program = subprocess.Popen(
             [os.path.join(ROOT, "scripts", "wine-run"), os.path.join(self._bin, self.PROGRAM[0]), *self.PROGRAM[1:],
-             "--record", self._record_file, *map(str, self._arguments)], env=self._environment)
+             "--record", self._record_file, *map(str, self._arguments)], env=self._environment, stderr=self._errors)
 
     def begin(self):
         """What has to happen before the viewer can be used."""
@@ -70,6 +71,11 @@ class Viewer:
         """Closes the window as a person does and gives the exit code."""
         self.key("alt+F4")
         return self.wait_for_end()
+
+    def errors(self):
+        """What the program has written to its standard error."""
+        with open(self._errors.name, encoding="utf-8", errors="replace") as file:
+            return file.read()
 
     def wait_for_end(self):
         return self._program.wait(timeout=DEADLINE)
@@ -82,6 +88,7 @@ class Viewer:
         self._program.wait()
         self._server.terminate()
         self._server.wait()
+        self._errors.close()
         self._folder.cleanup()
         self._session.__exit__(None, None, None)
 

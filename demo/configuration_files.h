@@ -1,0 +1,8 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// Why the bars cannot be built in the language from the files as they are now: a line for each that is missing or
+/// broken, "file:line:column: what". Empty: they can.
+std::vector<std::wstring> FindBrokenFiles(const std::wstring& language);

@@ -1,0 +1,104 @@
+#!/usr/bin/python3
+"""Files of the viewer that break or go while it runs.
+
+usage: damage_test.py BIN_DIR [TEST...]
+"""
+import os
+import shutil
+import sys
+import tempfile
+import unittest
+
+from viewer import Viewer
+
+BIN_DIR = ""
+TITLE = "Map viewer"
+
+
+class BrokenFiles(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+        for name in os.listdir(BIN_DIR):
+            path = os.path.join(BIN_DIR, name)
+            if name == "demo.exe":
+                shutil.copy(path, self.folder)
+            elif name in ("cfg", "lang"):
+                shutil.copytree(path, os.path.join(self.folder, name))
+            elif os.path.isdir(path) or name.endswith(".dll"):
+                os.symlink(path, os.path.join(self.folder, name))
+
+    def file(self, *parts):
+        return os.path.join(self.folder, *parts)
+
+    def rewrite(self, path, change):
+        with open(path, encoding="utf-8") as file:
+            text = file.read()
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(change(text))
+        return text
+
+    def read_again(self, viewer, expects_message):
+        """Its keys, and the message that comes where something cannot be read; gives what is shown then."""
+        viewer.key("ctrl+shift+r")
+        if expects_message:
+            viewer.wait_until(lambda: len(viewer.windows(TITLE)) > 1, "a message is shown")
+            viewer.key("Return")
+            viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 1, "the message is gone")
+
+    def names(self, record):
+        ribbon = record["frame"]["ribbon"]
+        return [category["name"] for category in ribbon["categories"]], ribbon["quickAccess"], record["frame"]["menu"]
+
+    def check(self, path, place):
+        """Broken, then missing, then mended with another text."""
+        with Viewer(self.folder, "--lang", "en") as viewer:
+            before = self.names(viewer.record)
+            whole = self.rewrite(path, lambda text: text[:len(text) // 2])
+            self.read_again(viewer, True)
+            os.remove(path)
+            self.read_again(viewer, True)
+            viewer.key("ctrl+i")  # it goes on
+            record = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 5)
+            self.assertEqual(self.names(record), before)
+            self.assertRegex(viewer.errors(), place)
+            with open(path, "w", encoding="utf-8") as file:
+                file.write(whole)
+            self.rewrite(self.file("lang", "en", "viewer.xlf"), lambda text: text.replace("<source>Layers<", "<source>Strata<"))
+            self.read_again(viewer, False)
+            viewer.wait_for(lambda record: self.names(record)[0][1] == "Strata")
+
+    def test_the_ribbons_file(self):
+        self.check(self.file("cfg", "ribbon.xml"), r"ribbon\.xml:\d+:\d+: ")
+
+    def test_the_menus_file(self):
+        self.check(self.file("cfg", "menu.xml"), r"menu\.xml:\d+:\d+: ")
+
+    def test_the_toolbars_file(self):
+        self.check(self.file("cfg", "toolbar.xml"), r"toolbar\.xml:\d+:\d+: ")
+
+    def test_the_file_of_the_language(self):
+        self.check(self.file("lang", "en", "viewer.xlf"), r"viewer\.xlf:\d+:\d+: ")
+
+    def test_a_switch_to_a_broken_language_leaves_the_one_that_is_shown(self):
+        with Viewer(self.folder, "--lang", "en", "--category", "2") as viewer:
+            self.rewrite(self.file("lang", "zh-CN", "viewer.xlf"), lambda text: text[:300])
+            viewer.click_command("LanguageChinese")
+            viewer.wait_until(lambda: len(viewer.windows(TITLE)) > 1, "a message is shown")
+            viewer.key("Return")
+            viewer.key("ctrl+i")
+            record = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 5)
+            self.assertEqual((record["language"], record["frame"]["ribbon"]["categories"][0]["name"]), ("en", "Map"))
+
+    def test_problems_are_printed_with_their_places_and_whole_files_have_none(self):
+        with Viewer(self.folder, "--lang", "en") as viewer:
+            self.assertNotRegex(viewer.errors(), r"\.x(ml|lf):\d")
+        self.rewrite(self.file("cfg", "ribbon.xml"), lambda text: text.replace('TYPE="SLIDER"', 'TYPE="SLYDER"', 1))
+        with Viewer(self.folder, "--lang", "en") as viewer:
+            self.assertRegex(viewer.errors(), r"ribbon\.xml:\d+:\d+: \w+: .*SLYDER")
+
+
+if __name__ == "__main__":
+    BIN_DIR = os.path.abspath(sys.argv.pop(1))
+    unittest.main(verbosity=2)
