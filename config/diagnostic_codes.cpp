@@ -126,9 +126,9 @@ constexpr DiagnosticCode kCodes[] = {
     // Commands.
     {"duplicate-keyword", Warning,
      "Two elements have one keyword, in one file or in two, and the second one sets CMD, PARAM or help to something "
-     "else; or a popup takes the keyword of a command.",
+     "else; or a popup takes the keyword of a command; or a quick access row names a command twice.",
      "The registry keeps what the first one said, in the order ribbon, menu, toolbars: both lead to its command. A "
-     "popup's keyword replaces the command's id by none.",
+     "popup's keyword replaces the command's id by none. The quick access toolbar shows a command once.",
      "Give one of them another keyword, or the same values.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"zoom\"/>\n<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" "
      "CMD=\"open\"/>",

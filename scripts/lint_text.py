@@ -5,7 +5,7 @@ import re
 import subprocess
 import sys
 
-BINARY = (".png", ".ico", ".bmp")
+BINARY = (".png", ".ico", ".bmp", ".corpus")
 
 
 def problems(path):

@@ -137,7 +137,22 @@ private:
         const std::wstring_view keyword = gathered.element.ValueOf(AttributeUse::Keyword);
         const bool isQuickAccess = gathered.element.role == ElementRole::QuickAccessItem;
         if (!keyword.empty() && (isQuickAccess || !varnhold::EqualsIgnoringCase(keyword, L"Separator"))) {
+            if (isQuickAccess) {
+                CheckQuickAccessTwice(gathered);
+            }
             (isQuickAccess ? m_quickAccess : m_statusButtons).push_back(&gathered);
+        }
+    }
+
+    void CheckQuickAccessTwice(const GatheredElement& gathered) const {
+        const std::wstring_view keyword = gathered.element.ValueOf(AttributeUse::Keyword);
+        const auto earlier = std::ranges::find_if(m_quickAccess, [keyword](const GatheredElement* const other) {
+            return other->element.ValueOf(AttributeUse::Keyword) == keyword;
+        });
+        if (earlier != m_quickAccess.end()) {
+            ReportTogether(m_sink, *gathered.file, PlaceOf(gathered.element, AttributeUse::Keyword), "duplicate-keyword",
+                           L"a command stands in the quick access toolbar once", L"remove one of the two",
+                           {PlaceOf(**earlier, AttributeUse::Keyword, L"the earlier one")});
         }
     }
 

@@ -5,6 +5,8 @@
 
 #include <varnhold/strings.h>
 
+#include <algorithm>
+
 namespace {
 
 using nlohmann::ordered_json;
@@ -145,7 +147,8 @@ void RibbonModel::ShowQuickAccess(const std::vector<std::wstring>& keywords) {
     for (const std::wstring& keyword : keywords) {
         if (const std::uint32_t* const id = m_commands.Find(keyword)) {
             isAsked = true;
-            if (m_forQuickAccess.contains(*id)) {
+            // A command stands there once.
+            if (m_forQuickAccess.contains(*id) && std::ranges::find(ids, Json(*id)) == ids.end()) {
                 ids.push_back(*id);
             }
         }

@@ -370,4 +370,6 @@ inline constexpr PlantedFault kPlantedFaults[] = {
     {"cfg/ribbon.xml", "<item KEYWORD=\"ZoomIn\"/>", "<item @@KEYWORD=\"ScaleLabel\"/>", "quick-access-kind"},
     {"cfg/menu.xml", "SHORTKEY=\"F\"", "@@SHORTKEY=\"Alt+F\"", "access-key-syntax"},
     {"cfg/menu.xml", "SHORTKEY=\"F\"", "@@SHORTKEY=\" \"", "access-key-syntax"},
+    {"cfg/ribbon.xml", "<item KEYWORD=\"ZoomIn\"/>", "<item KEYWORD=\"ZoomIn\"/><item @@KEYWORD=\"Open\"/>",
+     "duplicate-keyword"},
 };
