@@ -1,6 +1,7 @@
 #include "dyn_menu_creater.h"
 
 #include "config/accelerators.h"
+#include "config/command_id.h"
 #include "config/load_watch.h"
 #include "config/menu_attributes.h"
 #include "config/menu_diagnosis.h"
@@ -74,6 +75,8 @@ public:
             return;
         }
         const bool isRecentFiles = info.strKeyword == kRecentFilesKeyword;
+        const auto kept = isRecentFiles ? std::nullopt : KeptCommandId(info.strKeyword);
+        const UINT next = kept.value_or(m_creater.m_nCurId);
         if (!isRecentFiles) {
             CMenuIdMgr& registry = *CMenuIdMgr::Ins();
             int id = 0;
@@ -82,14 +85,15 @@ public:
                 GiveCommandIcon(static_cast<UINT>(id), info.strPicPath);
                 return;
             }
-            registry.Add(info.strKeyword, static_cast<int>(m_creater.m_nCurId), info.strName, info.strCmd,
-                         info.strToolTip, info.strParam, {});
+            registry.Add(info.strKeyword, static_cast<int>(next), info.strName, info.strCmd, info.strToolTip,
+                         info.strParam, {});
         }
-        AddShortcut(info.strHotKey);
+        AddShortcut(info.strHotKey, next);
         if (info.strKeyword.empty()) {
             return;
         }
-        AppendItem(menu, isRecentFiles ? ID_FILE_MRU_FILE1 : m_creater.m_nCurId++, info);
+        m_creater.m_nCurId += isRecentFiles || kept ? 0 : 1;
+        AppendItem(menu, isRecentFiles ? ID_FILE_MRU_FILE1 : next, info);
     }
 
     /// Puts the shortcuts behind those that the creater has.
@@ -112,10 +116,10 @@ private:
         ::AppendMenuW(menu, MF_STRING, id, info.strText.c_str());
     }
 
-    void AddShortcut(const std::wstring& text) {
+    void AddShortcut(const std::wstring& text, UINT command) {
         ACCEL shortcut{};
         if (!text.empty() && CreateAccel(text, shortcut)) {
-            shortcut.cmd = static_cast<WORD>(m_creater.m_nCurId);
+            shortcut.cmd = static_cast<WORD>(command);
             m_shortcuts.push_back(shortcut);
         }
     }

@@ -1,5 +1,6 @@
 #include "dyn_toolbar_creater.h"
 
+#include "config/command_id.h"
 #include "config/load_watch.h"
 #include "config/menu_icon.h"
 #include "config/toolbar_file.h"
@@ -63,7 +64,7 @@ UINT ObtainCommand(const ToolBarInfo& info, HICON icon) {
         GiveCommandIcon(static_cast<UINT>(id), icon);
         return static_cast<UINT>(id);
     }
-    id = static_cast<int>(CMenuIdMgr::s_AddBeginID++);
+    id = static_cast<int>(TakeCommandId(info.strKeyword));
     registry.Add(info.strKeyword, id, info.strPrompt, {}, info.strToolTip, {}, {});
     return static_cast<UINT>(id);
 }
