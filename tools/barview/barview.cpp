@@ -2,16 +2,13 @@
 
 #include "batch.h"
 #include "options.h"
+#include "preview_frame.h"
 
-#include "add_ribbon_bar.h"
 #include "command_line.h"
 #include "configuration_problems.h"
-#include "dyn_menu_creater.h"
-#include "dyn_toolbar_creater.h"
+#include "configuration_watch.h"
 #include "frame_dump.h"
-#include "ribbon_bar_ex.h"
 #include "ribbon_icon_button.h"
-#include "ribbon_status_bar_ex.h"
 #include "screenshot.h"
 #include "skin_visual_managers.h"
 
@@ -22,187 +19,12 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <memory>
-#include <stdexcept>
 
 namespace {
 
 constexpr int kLoadFailed = 1;
 constexpr int kWrongUsage = 2;
-
-void Complain(const std::wstring& text) { std::fprintf(stderr, "barview: %s\n", wstring2String(text).c_str()); }
-
-/// The frame around the previewed bars. Every configured command is enabled, because no host is there to say otherwise.
-class CPreviewFrame : public CFrameWndEx {
-public:
-    explicit CPreviewFrame(const BarviewOptions& options) : m_options(options), m_ribbon(FALSE) {}
-
-    BOOL CreateFrame() {
-        CRect rect(CPoint(0, 0), CSize(m_options.width, m_options.height));
-        const DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
-        ::AdjustWindowRectEx(rect, style, FALSE, 0);
-        rect.MoveToXY(0, 0);
-        return Create(nullptr, m_options.directory.c_str(), style, rect);
-    }
-
-    /// Builds the bars; false when a file could not be loaded, or when what was asked for is not there.
-    bool Build() {
-        bool isComplete = !m_options.ribbonFiles.empty();
-        if (!isComplete) {
-            Complain(L"no ribbon file: " + m_options.directory + L"cfg\\ribbon*.xml");
-        }
-        for (const std::wstring& file : m_options.ribbonFiles) {
-            CAddRibbonBar builder;
-            if (!builder.Load(file, &m_ribbon, TRUE)) {
-                Complain(L"not loaded: " + file);
-                isComplete = false;
-            }
-            DeclarePath(file, builder);
-            m_commands.push_back(builder.m_cmdList);
-        }
-        isComplete = BuildMenus() && isComplete;
-        isComplete = BuildToolBars() && isComplete;
-        isComplete = ShowPath() && isComplete;
-        isComplete = ShowCategory() && isComplete;
-        isComplete = ShowApplication() && isComplete;
-        m_ribbon.ForceRecalcLayout();
-        return isComplete;
-    }
-
-    DumpSources Sources() {
-        DumpSources sources{.ribbon = &m_ribbon,
-                            .statusBar = m_status.GetSafeHwnd() != nullptr ? &m_status : nullptr,
-                            .commands = m_commands,
-                            .accelerators = m_hAccelTable,
-                            .application = m_options.application};
-        for (const auto& creater : m_menus) {
-            sources.menus.push_back(creater->GetMenu());
-        }
-        for (const auto& [group, bar] : m_toolBars.GetGroupedToolBars()) {
-            sources.toolBars.emplace_back(group, bar);
-        }
-        return sources;
-    }
-
-protected:
-    afx_msg int OnCreate(LPCREATESTRUCT createStruct) {
-        if (CFrameWndEx::OnCreate(createStruct) == -1 || !m_ribbon.Create(this)) {
-            return -1;
-        }
-        m_ribbon.EnableToolTips(TRUE, TRUE);
-        return 0;
-    }
-    afx_msg void OnCommandOfFile(UINT) {}
-    afx_msg void OnUpdateCommandOfFile(CCmdUI* commandUi) { commandUi->Enable(TRUE); }
-    DECLARE_MESSAGE_MAP()
-
-private:
-    /// What a host would declare: the categories that the file added and its quick access commands.
-    void DeclarePath(const std::wstring& file, const CAddRibbonBar& builder) {
-        int first = -1, last = -1;
-        if (builder.GetAddIndex(first, last) <= 0) {
-            return;
-        }
-        std::vector<unsigned int> commands;
-        builder.GetQAToolBar(commands);
-        m_ribbon.setPath(std::filesystem::path(file).stem().wstring(), first, last, {commands.begin(), commands.end()});
-    }
-
-    /// False when there is no path of the name that was asked for.
-    bool ShowPath() {
-        if (m_options.path.empty() || m_ribbon.ShowPath(m_options.path)) {
-            return true;
-        }
-        Complain(L"no path named " + m_options.path);
-        return false;
-    }
-
-    /// False when a file could not be loaded.
-    bool BuildMenus() {
-        bool isComplete = true;
-        for (const std::wstring& file : m_options.menuFiles) {
-            auto creater = std::make_unique<CDynMenuCreater>();
-            try {
-                if (!creater->Load(file)) {
-                    Complain(L"not loaded: " + file);
-                    isComplete = false;
-                }
-            } catch (const std::out_of_range&) {
-                Complain(L"not loaded: " + file + L": a shortcut names no key");
-                isComplete = false;
-            }
-            creater->SetAppAccelTable();
-            m_menus.push_back(std::move(creater));
-        }
-        return isComplete;
-    }
-
-    /// False when a file could not be loaded, or holds no toolbar.
-    bool BuildToolBars() {
-        bool isComplete = true;
-        EnableDocking(CBRS_ALIGN_ANY);
-        for (const std::wstring& file : m_options.toolBarFiles) {
-            const std::size_t before = m_toolBars.GetAllToolBar().size();
-            if (!m_toolBars.Load(file, this) || m_toolBars.GetAllToolBar().size() == before) {
-                Complain(L"not loaded: " + file);
-                isComplete = false;
-            }
-        }
-        for (CMFCToolBar* const bar : m_toolBars.GetAllToolBar()) {
-            bar->EnableDocking(CBRS_ALIGN_ANY);
-            DockPane(bar);
-        }
-        return isComplete;
-    }
-
-    /// False when there is no category of the name that was asked for.
-    bool ShowCategory() {
-        for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
-            CMFCRibbonCategory* const category = m_ribbon.GetCategory(i);
-            // A path has made a category of its own active.
-            const bool isFirst = i == 0 && m_options.path.empty();
-            const bool isNamed = category->IsVisible() && m_options.category == category->GetName();
-            if (m_options.category.empty() ? isFirst : isNamed) {
-                m_ribbon.SetActiveCategory(category);
-                return true;
-            }
-        }
-        if (m_options.category.empty()) {
-            return true;
-        }
-        Complain(L"no category named " + m_options.category);
-        return false;
-    }
-
-    /// False when no ribbon file of that name has a status row.
-    bool ShowApplication() {
-        if (m_options.application.empty()) {
-            return true;
-        }
-        const bool isKnown = CAddRibbonBar::m_smStatusExBtns.contains(m_options.application);
-        if (!isKnown) {
-            Complain(L"no status row in a ribbon file named " + m_options.application);
-        }
-        m_status.Create(this);
-        m_status.SetExEleApp(m_options.application.c_str());
-        RecalcLayout();
-        return isKnown;
-    }
-
-    const BarviewOptions& m_options;
-    CMFCRibbonBarEx m_ribbon;
-    CMFCRibbonStatusBarEx m_status;
-    std::vector<std::vector<std::wstring>> m_commands;
-    std::vector<std::unique_ptr<CDynMenuCreater>> m_menus;
-    CDynToolBarCreater m_toolBars;
-};
-
-BEGIN_MESSAGE_MAP(CPreviewFrame, CFrameWndEx)
-ON_WM_CREATE()
-ON_COMMAND_RANGE(41000, 57343, OnCommandOfFile)
-ON_UPDATE_COMMAND_UI_RANGE(41000, 57343, OnUpdateCommandOfFile)
-END_MESSAGE_MAP()
 
 } // namespace
 
@@ -226,7 +48,7 @@ public:
         }
         m_options = *options;
         m_gdiPlus = std::make_unique<GdiPlusSession>();
-        if (m_options.IsUnattended()) {
+        if (m_options.IsUnattended() || m_options.isWatching) {
             m_answer = std::make_unique<ScopedMessageBoxHandler>([](const std::wstring& message, int, HWND) {
                 Complain(message);
                 return IDOK;
@@ -238,6 +60,9 @@ public:
         }
         Prepare(m_options.directory);
         CPreviewFrame* const frame = Build();
+        if (frame != nullptr && m_options.isWatching) {
+            return Watch(*frame);
+        }
         if (frame == nullptr || !m_options.IsUnattended()) {
             return frame != nullptr;
         }
@@ -248,6 +73,7 @@ public:
     }
 
     int ExitInstance() override {
+        m_watch.Stop();
         CWinAppEx::ExitInstance();
         m_answer.reset();
         m_gdiPlus.reset();
@@ -269,6 +95,36 @@ private:
         frame->ShowWindow(SW_SHOW);
         frame->UpdateWindow();
         return frame;
+    }
+
+    /// False, which ends the program, when the directory cannot be watched.
+    bool Watch(CPreviewFrame& frame) {
+        SettleWindow(frame.GetSafeHwnd());
+        WriteOutputs(frame);
+        const bool isWatching = m_watch.Start(
+            m_options.directory, [this, &frame](const ConfigurationChange& change) { Take(frame, change); });
+        if (!isWatching) {
+            Complain(L"cannot be watched: " + m_options.directory);
+            m_exitCode = kLoadFailed;
+            frame.DestroyWindow();
+        }
+        return isWatching;
+    }
+
+    void Take(CPreviewFrame& frame, const ConfigurationChange& change) {
+        const bool isBuilt = frame.Rebuild(change);
+        SettleWindow(frame.GetSafeHwnd());
+        WriteOutputs(frame);
+        std::wstring line = isBuilt ? L"built anew:" : L"as before:";
+        for (const std::wstring& file : change.files) {
+            line += L" " + file;
+        }
+        std::fprintf(stdout, "barview: %s\n", wstring2String(line).c_str());
+        std::fflush(stdout);
+        if (m_options.changes > 0 && --m_options.changes == 0) {
+            m_watch.Stop();
+            frame.PostMessage(WM_CLOSE);
+        }
     }
 
     void RunBatch() {
@@ -348,6 +204,7 @@ private:
     BarviewOptions m_options;
     std::unique_ptr<GdiPlusSession> m_gdiPlus;
     std::unique_ptr<ScopedMessageBoxHandler> m_answer;
+    CConfigurationWatch m_watch;
     int m_exitCode = 0;
 };
 

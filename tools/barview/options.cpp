@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int kLargest = 16384;
+constexpr int kMostTimes = 1'000'000;
 constexpr int kLowestScale = 50; // percent
 constexpr int kHighestScale = 400;
 
@@ -37,7 +38,7 @@ const wchar_t* BarviewUsage() {
     return L"usage: barview DIR [--ribbon FILE]... [--menu FILE] [--toolbars FILE] [--lang LANG]\n"
            L"               [--skin black|silver] [--size WxH]\n"
            L"               [--scale PERCENT] [--category NAME] [--path NAME] [--app NAME] [--screenshot OUT.png]\n"
-           L"               [--dump OUT.json]\n"
+           L"               [--dump OUT.json] [--watch [--changes N]]\n"
            L"       barview --batch LIST [--lang LANG] [--skin black|silver] [--size WxH] [--scale PERCENT]\n"
            L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon, "
            L"--menu\n"
@@ -50,7 +51,11 @@ const wchar_t* BarviewUsage() {
            L"file is "
            L"without\n"
            L"its extension; --app names the ribbon file whose status row is shown in a status bar. Each line of LIST\n"
-           L"is a directory, a tab and the file for its dump; each directory is built as if it were the first.\n";
+           L"is a directory, a tab and the file for its dump; each directory is built as if it were the first.\n"
+           L"--watch builds the bars anew whose files below DIR change, and writes --screenshot and --dump again each "
+           L"time;\n"
+           L"a broken file leaves what is shown as it is, and the caption says what is wrong. --changes leaves after N "
+           L"of them.\n";
 }
 
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
@@ -78,6 +83,8 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
                                   .AddText(L"--screenshot", options.screenshot)
                                   .AddText(L"--dump", options.dump)
                                   .AddText(L"--batch", options.batch)
+                                  .AddFlag(L"--watch", options.isWatching)
+                                  .AddNumber(L"--changes", 1, kMostTimes, options.changes)
                                   .Read(arguments, 1, directories, error);
     if (!isUnderstood) {
         return std::nullopt;

@@ -22,8 +22,11 @@ struct BarviewOptions {
     std::wstring dump;
     std::wstring batch; ///< File that lists directories and the files of their dumps; empty: `directory` alone.
 
-    /// Nobody watches: leave after the output, and never wait for an answer.
-    bool IsUnattended() const { return !screenshot.empty() || !dump.empty() || !batch.empty(); }
+    bool isWatching = false; ///< Build the bars anew whose files change, and write the outputs each time.
+    int changes = 0;         ///< Leave after so many changes; 0: when the window is closed.
+
+    /// Nobody answers: leave after the output, and never wait for an answer.
+    bool IsUnattended() const { return !isWatching && (!screenshot.empty() || !dump.empty() || !batch.empty()); }
 };
 
 /// Takes an installation directory, with its closing backslash, and the files in it that were not named.

@@ -24,7 +24,12 @@ bool IsNumber(const std::wstring& text, int low, int high, int& number) {
 } // namespace
 
 OptionTable& OptionTable::Add(const std::wstring& name, Setter setter) {
-    m_options.push_back({name, std::move(setter)});
+    m_options.push_back({name, std::move(setter), true});
+    return *this;
+}
+
+OptionTable& OptionTable::AddFlag(const std::wstring& name, bool& target) {
+    m_options.push_back({name, [&target](const std::wstring&) { return target = true; }, false});
     return *this;
 }
 
@@ -85,7 +90,9 @@ bool OptionTable::Read(const std::vector<std::wstring>& arguments, std::size_t m
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::wstring& argument = arguments[i];
         if (const Option* option = Find(argument)) {
-            if (++i == arguments.size() || !option->setter(arguments[i])) {
+            if (!option->hasValue) {
+                option->setter({});
+            } else if (++i == arguments.size() || !option->setter(arguments[i])) {
                 error = argument + L" needs a proper value";
                 return false;
             }

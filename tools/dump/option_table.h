@@ -11,6 +11,8 @@ public:
     using Setter = std::function<bool(const std::wstring&)>;
 
     OptionTable& Add(const std::wstring& name, Setter setter);
+    /// An option without a value.
+    OptionTable& AddFlag(const std::wstring& name, bool& target);
     /// Any text but none.
     OptionTable& AddText(const std::wstring& name, std::wstring& target);
     /// The same, as often as it is wanted.
@@ -30,6 +32,7 @@ private:
     struct Option {
         std::wstring name;
         Setter setter;
+        bool hasValue = true;
     };
     const Option* Find(const std::wstring& name) const;
 

@@ -13,7 +13,8 @@ protected:
             .AddTexts(L"--file", files)
             .AddChoice(L"--skin", {L"black", L"silver"}, skin)
             .AddNumber(L"--scale", -50, 400, number)
-            .AddSize(L"--size", 1000, width, height);
+            .AddSize(L"--size", 1000, width, height)
+            .AddFlag(L"--watch", isWatched);
     }
     bool Read(const Words& arguments, std::size_t mostWords = 1) {
         words.clear();
@@ -25,7 +26,16 @@ protected:
     Words words, files;
     std::wstring text = L"as it was", skin = L"silver", error;
     int number = 7, width = 640, height = 480;
+    bool isWatched = false;
 };
+
+TEST_F(OptionTableTest, AFlagTakesNoValue) {
+    EXPECT_TRUE(Read({L"--scale", L"3", L"word"}));
+    EXPECT_FALSE(isWatched);
+    EXPECT_TRUE(Read({L"--watch", L"word"}));
+    EXPECT_TRUE(isWatched);
+    EXPECT_EQ(words, (Words{L"word"}));
+}
 
 TEST_F(OptionTableTest, EachOptionTakesTheValueBehindIt) {
     ASSERT_TRUE(Read({L"--text", L"地图", L"--file", L"a", L"--skin", L"black", L"place", L"--file", L"b", L"--scale",

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "options.h"
+
+#include "dyn_menu_creater.h"
+#include "dyn_toolbar_creater.h"
+#include "frame_dump.h"
+#include "ribbon_bar_ex.h"
+#include "ribbon_status_bar_ex.h"
+
+#include <afxcontrolbars.h>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+class CAddRibbonBar;
+struct ConfigurationChange;
+
+/// A line on standard error.
+void Complain(const std::wstring& text);
+
+/// The frame around the previewed bars. Every configured command is enabled, because no host is there to say otherwise.
+class CPreviewFrame : public CFrameWndEx {
+public:
+    /// The options outlive the frame.
+    explicit CPreviewFrame(const BarviewOptions& options) : m_options(options), m_ribbon(FALSE) {}
+
+    BOOL CreateFrame();
+    /// Builds the bars; false when a file could not be loaded, or when what was asked for is not there.
+    bool Build();
+    /// Builds the bars anew whose files have changed. Where one of these files is broken nothing changes, and the
+    /// caption and standard error say what is wrong. True when anything was built.
+    bool Rebuild(const ConfigurationChange& change);
+    /// The same as if every file had changed.
+    bool RebuildAll();
+
+    DumpSources Sources();
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT createStruct);
+    afx_msg void OnCommandOfFile(UINT) {}
+    afx_msg void OnUpdateCommandOfFile(CCmdUI* commandUi) { commandUi->Enable(TRUE); }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    /// The bars of one kind of file, by the commands that came with them.
+    struct Bars {
+        bool isRibbon = false;
+        bool areMenus = false;
+        bool areToolBars = false;
+    };
+
+    /// What a host would declare: the categories that the file added and its quick access commands.
+    void DeclarePath(const std::wstring& file, const CAddRibbonBar& builder);
+    /// False when there is no path of the name that was asked for.
+    bool ShowPath();
+    // False when a file could not be loaded.
+    bool BuildRibbon();
+    bool BuildMenus();
+    /// False when a file could not be loaded, or holds no toolbar.
+    bool BuildToolBars();
+    /// False when there is no category of the name that was asked for.
+    bool ShowCategory();
+    /// False when no ribbon file of that name has a status row.
+    bool ShowApplication();
+
+    bool RebuildBars(const Bars& bars);
+    void RebuildRibbon();
+    void RebuildMenus();
+    void RebuildToolBars();
+    /// What is wrong with the first file that cannot be loaded; empty: nothing.
+    std::wstring FindBroken(const Bars& bars) const;
+    void ShowProblem(const std::wstring& problem);
+
+    const BarviewOptions& m_options;
+    CMFCRibbonBarEx m_ribbon;
+    CMFCRibbonStatusBarEx m_status;
+    std::vector<std::vector<std::wstring>> m_commands;
+    std::vector<std::unique_ptr<CDynMenuCreater>> m_menus;
+    CDynToolBarCreater m_toolBars;
+    // The commands that came with each, to be forgotten when it is built anew.
+    std::set<std::wstring> m_ofRibbon;
+    std::set<std::wstring> m_ofMenus;
+    std::set<std::wstring> m_ofToolBars;
+    std::uint32_t m_firstToolBar = 0;
+};
