@@ -204,9 +204,9 @@ void CMFCRibbonStatusBarEx::RecalcLayout() {
     shape.gripWidth = GetSizeGripWidth();
     shape.borderHeight = IsBottomFrame() ? ::GetSystemMetrics(SM_CYSIZEFRAME) : 0;
     shape.showsInformation = IsInformationMode() != FALSE;
-    for (INT_PTR index = 0; index < m_arElements.GetSize(); ++index) {
-        shape.elements.push_back(MeasureElement(*m_arElements[index], dc));
-        shape.elements.back().fixedWidth = m_mapWidths[static_cast<std::int32_t>(index)];
+    for (int index = 0; index < GetCount(); ++index) {
+        shape.elements.push_back(MeasureElement(*GetElement(index), dc));
+        shape.elements.back().fixedWidth = m_mapWidths[index];
     }
     for (INT_PTR index = 0; index < m_arExtendedElements.GetSize(); ++index) {
         shape.extended.push_back(MeasureElement(*m_arExtendedElements[index], dc));
@@ -220,9 +220,9 @@ void CMFCRibbonStatusBarEx::RecalcLayout() {
     for (INT_PTR index = m_arExtendedElements.GetSize(); index-- > 0;) {
         PlaceElement(*m_arExtendedElements[index], places.extended[static_cast<std::size_t>(index)], true, dc);
     }
-    for (INT_PTR index = 0; index < m_arElements.GetSize(); ++index) {
+    for (int index = 0; index < GetCount(); ++index) {
         const auto place = static_cast<std::size_t>(index);
-        PlaceElement(*m_arElements[index], places.elements[place], !places.isSkipped[place], dc);
+        PlaceElement(*GetElement(index), places.elements[place], !places.isSkipped[place], dc);
     }
 }
 

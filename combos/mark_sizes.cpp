@@ -15,9 +15,7 @@ MarkSizes& MarkSizes::Current() {
     return sizes;
 }
 
-double MarkScale() {
-    return afxGlobalData.IsRibbonImageScaleEnabled() ? std::max(1.0, afxGlobalData.GetRibbonImageScale()) : 1.0;
-}
+double MarkScale() { return std::max(1.0, afxGlobalData.GetRibbonImageScale()); }
 
 void ScaleCheckBoxOnce() {
     MarkSizes& sizes = MarkSizes::Current();

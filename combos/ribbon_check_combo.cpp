@@ -108,11 +108,11 @@ void CMFCRibbonCheckComb::DropDownList() {
         return;
     }
     State::PrepareToDrop(*this);
-    OpenDropDown(m_rect.Width());
+    OpenDropDown(GetRect().Width());
 }
 
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonCheckComb::MakeDropDownList() {
-    const int editBottom = std::max(static_cast<int>(GetEditRect().bottom), afxGlobalData.GetTextHeight());
+    const int editBottom = std::max(static_cast<int>(GetCommandRect().bottom), afxGlobalData.GetTextHeight());
     return MakeMarkedList(*this, {marks::CheckZone(MarkSizes::Current().checkBox, editBottom)});
 }
 
@@ -157,7 +157,7 @@ void CMFCRibbonCheckComb::OnLButtonDown(CPoint point) {
         return;
     }
     const HWND host = HostOf(*this);
-    const CRect edit = GetEditRect();
+    const CRect edit = GetCommandRect();
     const fx::Rect zone = marks::CheckFaceZone(fx::FromRect(edit), MarkSizes::Current().checkBox);
     if (HasEditBox() || !host || !edit.PtInRect(point) || !fx::ToRect(zone).PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
@@ -190,7 +190,7 @@ int CMFCRibbonCheckComb::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/
 
 // The marks stand where a click on them counts.
 void CMFCRibbonCheckComb::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
-    State::DrawItem(*this, *dc, GetCurSel(), GetEditRect());
+    State::DrawItem(*this, *dc, GetCurSel(), GetCommandRect());
 }
 
 // ---- accessibility

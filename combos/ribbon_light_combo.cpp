@@ -73,7 +73,7 @@ void CMFCRibbonVesMultiCombo::DropDownList() {
         return;
     }
     State::PrepareToDrop(*this);
-    OpenDropDown(m_rect.Width());
+    OpenDropDown(GetRect().Width());
 }
 
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonVesMultiCombo::MakeDropDownList() {
@@ -107,7 +107,7 @@ void CMFCRibbonVesMultiCombo::OnLButtonDown(CPoint point) {
         return;
     }
     const HWND host = HostOf(*this);
-    const CRect edit = GetEditRect();
+    const CRect edit = GetCommandRect();
     const marks::LightRow place = marks::PlaceLightRow(fx::FromRect(edit), MarkSizes::Current().icon);
     if (HasEditBox() || !host || !edit.PtInRect(point) || !fx::ToRect(place.light).PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
@@ -134,7 +134,7 @@ int CMFCRibbonVesMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*te
 
 // The marks stand where a click on them counts.
 void CMFCRibbonVesMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
-    m_state->DrawItem(*this, *dc, GetCurSel(), GetEditRect());
+    m_state->DrawItem(*this, *dc, GetCurSel(), GetCommandRect());
 }
 
 // ---- accessibility

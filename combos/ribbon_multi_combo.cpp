@@ -148,11 +148,11 @@ void CMFCRibbonMultiCombo::DropDownList() {
         return;
     }
     State::PrepareToDrop(*this);
-    OpenDropDown(m_rect.Width());
+    OpenDropDown(GetRect().Width());
 }
 
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonMultiCombo::MakeDropDownList() {
-    return MakeMarkedList(*this, marks::SwatchZones(GetEditRect().Height(), ScaledIconSize()));
+    return MakeMarkedList(*this, marks::SwatchZones(GetCommandRect().Height(), ScaledIconSize()));
 }
 
 // ---- clicks. Whatever the host is told may be the combo's end.
@@ -230,7 +230,7 @@ void CMFCRibbonMultiCombo::OnLButtonDown(CPoint point) {
         return;
     }
     const HWND host = HostOf(*this);
-    const CRect edit = GetEditRect();
+    const CRect edit = GetCommandRect();
     const marks::SwatchRow place = marks::PlaceSwatchRow(fx::FromRect(edit), ScaledIconSize());
     if (HasEditBox() || !host || !edit.PtInRect(point)) {
         CMFCRibbonComboBox::OnLButtonDown(point);
@@ -259,7 +259,7 @@ int CMFCRibbonMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*text*
 
 // The marks stand where a click on them counts.
 void CMFCRibbonMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
-    m_state->DrawItem(*this, *dc, GetCurSel(), GetEditRect());
+    m_state->DrawItem(*this, *dc, GetCurSel(), GetCommandRect());
 }
 
 // ---- accessibility

@@ -75,7 +75,7 @@ void StoreColor(Combo* combo, int index, COLORREF color, bool redraw) {
 
 // ---- check boxes
 
-CMFCCheckCombo::CMFCCheckCombo() = default;
+CMFCCheckCombo::CMFCCheckCombo() : CMFCToolBarComboBoxButton(0, -1) {}
 CMFCCheckCombo::CMFCCheckCombo(UINT id, int image, DWORD style, int width)
     : CMFCToolBarComboBoxButton(id, image, style, width) {}
 CMFCCheckCombo::~CMFCCheckCombo() = default;
@@ -117,7 +117,7 @@ BOOL CMFCCheckCombo::OnClick(CWnd* bar, BOOL delay) {
 
 // ---- a swatch and a light
 
-CMFCMultiCombo::CMFCMultiCombo() = default;
+CMFCMultiCombo::CMFCMultiCombo() : CMFCToolBarComboBoxButton(0, -1) {}
 CMFCMultiCombo::CMFCMultiCombo(UINT id, int image, DWORD style, int width)
     : CMFCToolBarComboBoxButton(id, image, style, width) {}
 CMFCMultiCombo::~CMFCMultiCombo() = default;
@@ -167,7 +167,7 @@ void CMFCMultiCombo::SetItemColor(const wchar_t* text, COLORREF color, bool redr
 
 // ---- a light alone
 
-CMFCMultiCombo2::CMFCMultiCombo2() = default;
+CMFCMultiCombo2::CMFCMultiCombo2() : CMFCToolBarComboBoxButton(0, -1) {}
 CMFCMultiCombo2::CMFCMultiCombo2(UINT id, int image, DWORD style, int width)
     : CMFCToolBarComboBoxButton(id, image, style, width) {}
 CMFCMultiCombo2::~CMFCMultiCombo2() = default;
@@ -202,7 +202,7 @@ void CMFCMultiCombo2::SetItemColor(const wchar_t* text, COLORREF color, bool red
 
 // ---- a flag
 
-CMFCToolBarComboBoxButtonEx::CMFCToolBarComboBoxButtonEx() = default;
+CMFCToolBarComboBoxButtonEx::CMFCToolBarComboBoxButtonEx() : CMFCToolBarComboBoxButton(0, -1) {}
 CMFCToolBarComboBoxButtonEx::CMFCToolBarComboBoxButtonEx(UINT id, int image, DWORD style, int width)
     : CMFCToolBarComboBoxButton(id, image, style, width) {}
 CMFCToolBarComboBoxButtonEx::~CMFCToolBarComboBoxButtonEx() = default;

@@ -28,15 +28,27 @@ CSize UnscaledSize(CMFCRibbonBaseElement::RibbonImageType type) {
 
 CSize ScaledSize(CMFCRibbonBaseElement::RibbonImageType type) {
     const CSize size = UnscaledSize(type);
-    if (!afxGlobalData.IsRibbonImageScaleEnabled()) {
-        return size;
-    }
     const double scale = afxGlobalData.GetRibbonImageScale();
     if (scale == 1.0) {
         return size;
     }
     return CSize(fx::Scaled(size.cx, scale), fx::Scaled(size.cy, scale));
 }
+
+/// Lends an element another place for a block.
+class PlaceOf {
+public:
+    PlaceOf(CMFCRibbonBaseElement& element, const CRect& place) : m_element(element), m_before(element.GetRect()) {
+        element.SetRect(place);
+    }
+    ~PlaceOf() { m_element.SetRect(m_before); }
+    PlaceOf(const PlaceOf&) = delete;
+    PlaceOf& operator=(const PlaceOf&) = delete;
+
+private:
+    CMFCRibbonBaseElement& m_element;
+    CRect m_before;
+};
 
 CString AlternateOf(const CString& path) {
     CString alternate = path;
@@ -101,7 +113,7 @@ void CMFCRibbonUNIcoButton::DrawImage(CDC* dc, RibbonImageType type, CRect rect)
 void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type,
                                                 CRect rect) {
     const fx::ScopedChange disabled(original.m_bIsDisabled, m_bIsDisabled);
-    const fx::ScopedChange place(original.m_rect, m_rect);
+    const PlaceOf place(original, GetRect());
     original.DrawImage(dc, type, rect);
 }
 

@@ -70,13 +70,13 @@ CSize CMFCRibbonLabelEx::GetRegularSize(CDC* dc) {
 }
 
 void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
-    if (m_rect.IsRectEmpty()) {
+    if (GetRect().IsRectEmpty()) {
         return;
     }
     CMFCVisualManager* const visual = CMFCVisualManager::GetInstance();
     const fx::DcSelection font(*dc, IsMenuMode() ? afxGlobalData.fontBold : afxGlobalData.fontRegular);
     const fx::TextColour colour(*dc, dc->GetTextColor());
-    CRect rect = m_rect;
+    CRect rect = GetRect();
     if (IsMenuMode()) {
         rect.bottom -= menuBottomMargin;
         dc->SetTextColor(visual->OnDrawMenuLabel(dc, rect));

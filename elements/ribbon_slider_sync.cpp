@@ -1,8 +1,16 @@
 #include "ribbon_slider_sync.h"
 
+#include <algorithm>
 #include <utility>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonSliderSync, CMFCRibbonSlider)
+
+namespace {
+/// So many units further on, inside the range.
+int PosAfter(const CMFCRibbonSlider& slider, long long step) {
+    return static_cast<int>(std::clamp<long long>(slider.GetPos() + step, slider.GetRangeMin(), slider.GetRangeMax()));
+}
+} // namespace
 
 CMFCRibbonSliderSync::CMFCRibbonSliderSync(UINT id, int width) : CMFCRibbonSlider(id, width) {}
 
@@ -151,13 +159,13 @@ void CMFCRibbonSliderSync::OnLButtonUp(CPoint point) {
     const RibbonSliderPart pressed = std::exchange(m_PressedPart, RibbonSliderPart::None);
     m_bIsPressed = FALSE;
     Redraw();
-    if (IsDisabled() || !m_rect.PtInRect(point) || GetPartFromPoint(point) != pressed) {
+    if (IsDisabled() || !GetRect().PtInRect(point) || GetPartFromPoint(point) != pressed) {
         return;
     }
     if (pressed == RibbonSliderPart::Increase) {
-        TakePos(GetPosAfter(GetZoomIncrement()));
+        TakePos(PosAfter(*this, GetZoomIncrement()));
     } else if (pressed == RibbonSliderPart::Decrease) {
-        TakePos(GetPosAfter(-static_cast<long long>(GetZoomIncrement())));
+        TakePos(PosAfter(*this, -static_cast<long long>(GetZoomIncrement())));
     } else {
         TakePos(GetPosFromPoint(point));
     }
@@ -169,9 +177,9 @@ BOOL CMFCRibbonSliderSync::OnAutoRepeat() {
         return FALSE;
     }
     if (m_PressedPart == RibbonSliderPart::Increase) {
-        TakePos(GetPosAfter(GetZoomIncrement()));
+        TakePos(PosAfter(*this, GetZoomIncrement()));
     } else if (m_PressedPart == RibbonSliderPart::Decrease) {
-        TakePos(GetPosAfter(-static_cast<long long>(GetZoomIncrement())));
+        TakePos(PosAfter(*this, -static_cast<long long>(GetZoomIncrement())));
     }
     return TRUE;
 }

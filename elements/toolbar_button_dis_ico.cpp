@@ -36,7 +36,7 @@ void DrawDisabledIcon(CDC* dc, HICON icon, const CRect& place) {
 
 } // namespace
 
-CMFCToolBarButtonDisIco::CMFCToolBarButtonDisIco() = default;
+CMFCToolBarButtonDisIco::CMFCToolBarButtonDisIco() : CMFCToolBarButton(0, -1) {}
 
 CMFCToolBarButtonDisIco::CMFCToolBarButtonDisIco(UINT id, int image, LPCTSTR text, BOOL userButton, BOOL locked)
     : CMFCToolBarButton(id, image, text, userButton, locked) {}
@@ -61,7 +61,7 @@ HICON CMFCToolBarButtonDisIco::GetDisabledIcon(UINT id) {
 
 void CMFCToolBarButtonDisIco::OnDraw(CDC* dc, const CRect& rect, CMFCToolBarImages* images, BOOL horizontal,
                                      BOOL customizeMode, BOOL highlighted, BOOL drawBorder, BOOL grayDisabledButtons) {
-    const HICON icon = IsDisabledState() && images && IsDrawImage() ? GetDisabledIcon(m_nID) : nullptr;
+    const HICON icon = (m_nStyle & TBBS_DISABLED) != 0 && images && IsDrawImage() ? GetDisabledIcon(m_nID) : nullptr;
     if (!icon) {
         CMFCToolBarButton::OnDraw(dc, rect, images, horizontal, customizeMode, highlighted, drawBorder,
                                   grayDisabledButtons);

@@ -39,7 +39,7 @@ protected:
 
 private:
     /// A description that is shown.
-    bool HasHint() const { return m_hasHelp && IsDescriptionShown(); }
+    bool HasHint() const { return m_hasHelp && GetParams().m_bDrawDescription && !m_strDescription.IsEmpty(); }
     hint::Layout GetLayout() const;
     bool IsF1Hint() const;
     bool HelpFileExists() const;

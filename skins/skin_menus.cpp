@@ -88,9 +88,10 @@ void CQKVisualManagerOffice2007Black::OnDrawSeparator(CDC* dc, CBasePane* bar, C
 void CQKVisualManagerOffice2007Black::DrawMenuSeparator(CDC* dc, CMFCPopupMenuBar* bar, const CRect& rect) {
     CRect client;
     bar->GetClientRect(&client);
-    const CRect line = skins::MenuSeparatorRect(
-        {rect, static_cast<int>(client.right), static_cast<int>(bar->GetCurrentMenuImageSize().cx),
-         GetMenuImageMargin(), !bar->m_bDisableSideBarInXPMode, bar->GetParentPopup() != nullptr});
+    const CRect line = skins::MenuSeparatorRect({rect, static_cast<int>(client.right),
+                                                 static_cast<int>(bar->GetCurrentMenuImageSize().cx),
+                                                 GetMenuImageMargin(), !bar->m_bDisableSideBarInXPMode,
+                                                 DYNAMIC_DOWNCAST(CMFCPopupMenu, bar->GetParent()) != nullptr});
     CPen pen(PS_SOLID, 1, m_clrMenuSeparator);
     CPen* const formerPen = dc->SelectObject(&pen);
     CBrush brush(m_clrMenuSeparator);

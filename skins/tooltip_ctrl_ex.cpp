@@ -75,18 +75,18 @@ void CToolTipCtrlEx::OnShow(NMHDR* notification, LRESULT* result) {
     *result = 0;
     m_rectShow.SetRectEmpty();
     UpdateParams();
-    if (m_Params.m_bBalloonTooltip) {
+    if (GetParams().m_bBalloonTooltip) {
         CMFCToolTipCtrl::OnShow(notification, result);
         return;
     }
     m_strLabel = GetLabel();
     m_hasHelp = m_strDescription.IsEmpty() || !m_pRibbonButton || HelpFileExists();
-    m_sizeImage = m_Params.m_bDrawIcon ? GetIconSize() : CSize(0, 0);
-    const auto corners = m_Params.m_bRoundedCorners ? hint::Corners::Rounded : hint::Corners::Square;
+    m_sizeImage = GetParams().m_bDrawIcon ? GetIconSize() : CSize(0, 0);
+    const auto corners = GetParams().m_bRoundedCorners ? hint::Corners::Rounded : hint::Corners::Square;
     const auto help = HasHint() ? hint::Help::With : hint::Help::Without;
     const auto icon = hint::KindOfIcon(static_cast<int>(m_sizeImage.cx), afxGlobalData.GetRibbonImageScale());
     const hint::Margins margins = hint::MarginsOf(corners, help, icon);
-    m_ptMargin = CPoint(afxGlobalData.ScalePixels(margins.x), afxGlobalData.ScalePixels(margins.y));
+    m_ptMargin = CPoint(ScaledForDisplay(margins.x), ScaledForDisplay(margins.y));
 
     CClientDC dc(this);
     const CRect nowhere(0, 0, 0, 0);
@@ -121,9 +121,9 @@ void CToolTipCtrlEx::Place(CSize size, LRESULT& result) {
     SetWindowPos(nullptr, place.corner.x, place.corner.y, size.cx, size.cy,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED | stays);
     // The window owns its region from here.
-    const int corner = afxGlobalData.ScalePixels(kCorner);
-    SetWindowRgn(m_Params.m_bRoundedCorners ? ::CreateRoundRectRgn(0, 0, size.cx + 1, size.cy + 1, corner, corner)
-                                            : nullptr,
+    const int corner = ScaledForDisplay(kCorner);
+    SetWindowRgn(GetParams().m_bRoundedCorners ? ::CreateRoundRectRgn(0, 0, size.cx + 1, size.cy + 1, corner, corner)
+                                               : nullptr,
                  FALSE);
     result = place.isPlaced ? 1 : 0;
 }

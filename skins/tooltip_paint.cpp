@@ -2,6 +2,7 @@
 #include "tooltip_ctrl_ex.h"
 
 #include "skins/tooltip_geometry.h"
+#include "skins/tooltip_screen.h"
 
 #include <afxglobals.h>
 #include <afxtoolbar.h>
@@ -69,14 +70,14 @@ BOOL CToolTipCtrlEx::OnDrawIcon(CDC* dc, CRect rect) {
 }
 
 int CToolTipCtrlEx::DescriptionWidth(CDC& dc, const CString& text) const {
-    const bool isRegularIcon = m_sizeImage.cx <= afxGlobalData.ScalePixels(kLargestRegularIcon);
+    const bool isRegularIcon = m_sizeImage.cx <= ScaledForDisplay(kLargestRegularIcon);
     if (m_nFixedWidthRegular > 0 && isRegularIcon) {
         const int beside = m_sizeImage.cx > 0 ? static_cast<int>(m_sizeImage.cx + m_ptMargin.x) : 0;
-        return std::max(1, afxGlobalData.ScalePixels(m_nFixedWidthRegular) - beside);
+        return std::max(1, ScaledForDisplay(m_nFixedWidthRegular) - beside);
     }
     CRect line(0, 0, 0, 0);
     dc.DrawText(text, line, DT_CALCRECT | DT_NOPREFIX);
-    return std::min(line.Width(), afxGlobalData.ScalePixels(std::max(m_Params.m_nMaxDescrWidth, 1)));
+    return std::min(line.Width(), ScaledForDisplay(std::max(GetParams().m_nMaxDescrWidth, 1)));
 }
 
 CSize CToolTipCtrlEx::OnDrawDescription(CDC* dc, CRect rect, BOOL calcOnly) {
@@ -84,7 +85,7 @@ CSize CToolTipCtrlEx::OnDrawDescription(CDC* dc, CRect rect, BOOL calcOnly) {
         return CSize(0, 0);
     }
     // Bold is for what a tooltip begins with.
-    const bool isBold = m_Params.m_bBoldLabel && m_strLabel.IsEmpty();
+    const bool isBold = GetParams().m_bBoldLabel && m_strLabel.IsEmpty();
     const FontScope font(*dc, isBold ? afxGlobalData.fontBold : afxGlobalData.fontTooltip);
     const bool isReplaced = IsF1Hint() && !m_sStrGlobleDesciption.IsEmpty();
     const CString& text = isReplaced ? m_sStrGlobleDesciption : m_strDescription;
@@ -116,7 +117,7 @@ void CToolTipCtrlEx::DrawBottomIcon(CDC& dc, const CRect& rect) const {
 }
 
 void CToolTipCtrlEx::OnPaint() {
-    if (m_Params.m_bBalloonTooltip) {
+    if (GetParams().m_bBalloonTooltip) {
         CMFCToolTipCtrl::OnPaint();
         return;
     }
@@ -137,7 +138,7 @@ void CToolTipCtrlEx::OnPaint() {
     DrawBottomIcon(dc, fx::ToRect(layout.bottomIcon));
     OnDrawLabel(&dc, fx::ToRect(layout.label), FALSE);
     if (layout.separator) {
-        if (m_Params.m_bDrawSeparator) {
+        if (GetParams().m_bDrawSeparator) {
             OnDrawSeparator(&dc, layout.label.left, static_cast<int>(client.right - m_ptMargin.x), *layout.separator);
         }
         OnDrawDescription(&dc, fx::ToRect(layout.description), FALSE);

@@ -1,12 +1,16 @@
 #include "skins/tooltip_screen.h"
 
+#include <afxglobals.h>
 #include <afxwin.h>
+#include <fx/geometry.h>
 
 namespace {
 
 const TooltipScreen* g_screen = nullptr;
 
 } // namespace
+
+int ScaledForDisplay(int length) { return fx::Scaled(length, afxGlobalData.GetRibbonImageScale()); }
 
 CRect TooltipScreen::WorkAreaAt(CPoint point) const {
     MONITORINFO info = {};

@@ -2,6 +2,9 @@
 
 #include <atltypes.h>
 
+/// A length at 96 DPI in pixels of the ribbon's scale.
+int ScaledForDisplay(int length);
+
 /// What a tooltip asks of the screen to find its place. Tests put monitors of their own in its place.
 class TooltipScreen {
 public:
