@@ -95,6 +95,7 @@ class Watched:
             if self._process.poll() is not None:
                 break
             time.sleep(0.05)
+        self._process.kill()
         raise AssertionError("no dump came: " + "".join(self._process.communicate()))
 
     def finish(self):

@@ -59,15 +59,20 @@ public:
             return FALSE;
         }
         Prepare(m_options.directory);
+        if (m_options.isWatching && !Watch()) {
+            return FALSE;
+        }
         CPreviewFrame* const frame = Build();
-        if (frame != nullptr && m_options.isWatching) {
-            return Watch(*frame);
+        if (frame == nullptr) {
+            return FALSE;
         }
-        if (frame == nullptr || !m_options.IsUnattended()) {
-            return frame != nullptr;
+        if (m_options.isWatching || m_options.IsUnattended()) {
+            SettleWindow(frame->GetSafeHwnd());
+            WriteOutputs(*frame);
         }
-        SettleWindow(frame->GetSafeHwnd());
-        WriteOutputs(*frame);
+        if (!m_options.IsUnattended()) {
+            return TRUE;
+        }
         frame->DestroyWindow();
         return FALSE;
     }
@@ -97,21 +102,19 @@ private:
         return frame;
     }
 
-    /// False, which ends the program, when the directory cannot be watched.
-    bool Watch(CPreviewFrame& frame) {
-        SettleWindow(frame.GetSafeHwnd());
-        WriteOutputs(frame);
-        const bool isWatching = m_watch.Start(
-            m_options.directory, [this, &frame](const ConfigurationChange& change) { Take(frame, change); });
+    /// False when the directory cannot be watched. What is written from here on is seen, also while the bars are built.
+    bool Watch() {
+        const bool isWatching =
+            m_watch.Start(m_options.directory, [this](const ConfigurationChange& change) { Take(change); });
         if (!isWatching) {
             Complain(L"cannot be watched: " + m_options.directory);
             m_exitCode = kLoadFailed;
-            frame.DestroyWindow();
         }
         return isWatching;
     }
 
-    void Take(CPreviewFrame& frame, const ConfigurationChange& change) {
+    void Take(const ConfigurationChange& change) {
+        auto& frame = *static_cast<CPreviewFrame*>(m_pMainWnd);
         const bool isBuilt = frame.Rebuild(change);
         SettleWindow(frame.GetSafeHwnd());
         WriteOutputs(frame);
