@@ -62,7 +62,8 @@ public:
     BOOL IsReadOnly() const { return m_bReadOnly; }
     BOOL IsUserImagesList() const { return m_bUserImagesList; }
     int GetBitsPerPixel() const { return m_nBitsPerPixel; }
-    HBITMAP GetImageWell() const { return m_hbmImageWell; }
+    /// Exactly the images side by side; the list's own, valid until it changes.
+    HBITMAP GetImageWell() const;
     /// NULL: lighter images are made while they are drawn.
     HBITMAP GetImageWellLight() const { return NULL; }
     COLORREF SetTransparentColor(COLORREF clrTransparent);
@@ -150,7 +151,9 @@ protected:
 private:
     /// Joins a strip of images, a top-down 32-bit bitmap that the list takes over; FALSE (and deleted) when it cannot.
     BOOL Append(HBITMAP hbmp, BOOL bHasAlpha);
-    void SetWell(HBITMAP hbmp);
+    void SetWell(HBITMAP hbmp, int nSpare = 0);
+    /// Takes the room for further images away.
+    void TrimWell();
     void UpdateCount();
     CRect GetSourceRect(int nIndex) const;
     BOOL BlendImage(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, UINT nLook, BYTE alphaSrc);
@@ -161,6 +164,7 @@ private:
     CRect m_rectLastDraw = CRect(0, 0, 0, 0);
     CString m_strFile;
     CMap<UINT, UINT, int, int> m_mapOffsets;
+    int m_nSpare = 0; ///< columns of pixels at the right end of the bitmap that no image has
     int m_iCount = 0;
     int m_nBitsPerPixel = 0;
     int m_nLightPercentage = -1;

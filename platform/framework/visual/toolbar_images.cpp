@@ -34,15 +34,34 @@ void CMFCToolBarImages::Clear() {
     m_mappedColors.clear();
 }
 
-void CMFCToolBarImages::SetWell(HBITMAP hbmp) {
+void CMFCToolBarImages::SetWell(HBITMAP hbmp, int nSpare) {
     if (m_hbmImageWell != nullptr && m_hbmImageWell != hbmp) {
         ::DeleteObject(m_hbmImageWell);
     }
     m_hbmImageWell = hbmp;
+    m_nSpare = nSpare;
 }
 
 void CMFCToolBarImages::UpdateCount() {
-    m_iCount = m_sizeImage.cx > 0 ? ViewOf(m_hbmImageWell).width / static_cast<int>(m_sizeImage.cx) : 0;
+    const int width = ViewOf(m_hbmImageWell).width - m_nSpare;
+    m_iCount = m_sizeImage.cx > 0 ? width / static_cast<int>(m_sizeImage.cx) : 0;
+}
+
+void CMFCToolBarImages::TrimWell() {
+    const PixelView source = ViewOf(m_hbmImageWell);
+    std::uint32_t* bits = nullptr;
+    const int width = source.width - m_nSpare;
+    const HBITMAP exact = m_nSpare > 0 ? visual::MakeBitmap32(width, source.height, &bits) : nullptr;
+    if (exact != nullptr) {
+        CopyPixels(source, CRect(0, 0, width, source.height), {bits, width, source.height}, 0);
+        SetWell(exact);
+    }
+}
+
+// Who asks for the bitmap finds the same images in it whether the list has room for more or not.
+HBITMAP CMFCToolBarImages::GetImageWell() const {
+    const_cast<CMFCToolBarImages*>(this)->TrimWell();
+    return m_hbmImageWell;
 }
 
 CRect CMFCToolBarImages::GetSourceRect(int nIndex) const {
@@ -68,15 +87,24 @@ BOOL CMFCToolBarImages::Append(HBITMAP hbmp, BOOL bHasAlpha) {
     }
 
     const PixelView present = ViewOf(m_hbmImageWell);
-    const int kept = m_iCount * m_sizeImage.cx, width = kept + added.width;
+    const int kept = m_iCount * m_sizeImage.cx;
+    const int width = kept + added.width;
+    // A list that grows image by image gets room for as many again: the copies would cost the square of its length.
+    const bool hasRoom = present.height >= added.height && present.width >= width;
+    const int wide = hasRoom ? present.width : m_hbmImageWell != nullptr ? std::max(width, 2 * kept) : width;
     const int height = std::max(present.height, added.height);
-    std::uint32_t* bits = nullptr;
-    const HBITMAP joined = visual::MakeBitmap32(width, height, &bits);
+    std::uint32_t* bits = present.bits;
+    const HBITMAP joined = hasRoom ? m_hbmImageWell : visual::MakeBitmap32(wide, height, &bits);
     if (joined != nullptr) {
-        const PixelView target{bits, width, height};
-        CopyPixels(present, CRect(0, 0, kept, present.height), target, 0);
+        const PixelView target{bits, wide, height};
+        if (!hasRoom) {
+            CopyPixels(present, CRect(0, 0, kept, present.height), target, 0);
+        }
+        for (int y = added.height; hasRoom && y < height; ++y) {
+            std::fill_n(&target.At(kept, y), added.width, 0u); // what was done to all pixels has touched these, too
+        }
         CopyPixels(added, CRect(0, 0, added.width, added.height), target, kept);
-        SetWell(joined);
+        SetWell(joined, wide - width);
         if (m_nBitsPerPixel != 32) {
             m_nBitsPerPixel = bHasAlpha ? 32 : 24;
         }
@@ -180,7 +208,7 @@ BOOL CMFCToolBarImages::CopyTo(CMFCToolBarImages& imageList) {
             return FALSE;
         }
         std::copy_n(source.bits, static_cast<std::size_t>(source.width) * source.height, bits);
-        imageList.SetWell(copy);
+        imageList.SetWell(copy, m_nSpare);
     }
     imageList.m_iCount = m_iCount;
     imageList.m_nBitsPerPixel = m_nBitsPerPixel;
@@ -231,6 +259,7 @@ SIZE CMFCToolBarImages::GetImageSize(BOOL bDest) const {
 }
 
 void CMFCToolBarImages::SetSingleImage() {
+    TrimWell();
     const PixelView view = ViewOf(m_hbmImageWell);
     m_sizeImage = CSize(view.width, view.height);
     m_iCount = view.bits != nullptr ? 1 : 0;
@@ -306,7 +335,6 @@ BOOL CMFCToolBarImages::GrayImages(int nGrayImageLuminancePercentage) {
         const unsigned grey = std::min(luma * percent / 100, visual::AlphaOf(pixel));
         view.bits[i] = visual::MakeArgb(visual::AlphaOf(pixel), grey, grey, grey);
     }
-    SetWell(m_hbmImageWell);
     return TRUE;
 }
 

@@ -157,6 +157,7 @@ BOOL CMFCToolBarImages::Save(LPCTSTR lpszBmpFileName) {
     if (!m_bUserImagesList || m_hbmImageWell == nullptr || name.IsEmpty()) {
         return FALSE;
     }
+    TrimWell();
     const std::vector<BYTE> content = visual::BitmapFileFrom(ViewOf(m_hbmImageWell));
     CFile file;
     if (!file.Open(name, CFile::modeCreate | CFile::modeWrite)) {

@@ -152,4 +152,41 @@ TEST_F(Images, MirroringRightToLeftTurnsEachImage) {
     EXPECT_EQ(m_dc.GetPixel(0, 0), RGB(0xC0, 0, 0));
 }
 
+TEST_F(Images, AListThatGrowsImageByImageKeepsEachAndShowsNoRoomForMore) {
+    CMFCToolBarImages grown;
+    grown.SetImageSize(CSize(4, 4));
+    const auto colorOf = [](int index) { return RGB(index % 200 + 20, 40, 255 - index % 200); };
+    for (int index = 0; index < 100; ++index) {
+        CBitmap bitmap;
+        CClientDC screen(CWnd::GetDesktopWindow());
+        bitmap.CreateCompatibleBitmap(&screen, 4, 4);
+        CDC memory;
+        memory.CreateCompatibleDC(&screen);
+        CBitmap* const before = memory.SelectObject(&bitmap);
+        memory.FillSolidRect(0, 0, 4, 4, colorOf(index));
+        memory.SelectObject(before);
+        ASSERT_EQ(grown.AddImage(bitmap), index);
+    }
+    EXPECT_EQ(grown.GetCount(), 100);
+    CMFCToolBarImages copy;
+    ASSERT_TRUE(grown.CopyTo(copy));
+    BITMAP well{};
+    ::GetObjectW(grown.GetImageWell(), sizeof(well), &well);
+    EXPECT_EQ(well.bmWidth, 400);
+    grown.SetImageSize(CSize(4, 4), TRUE);
+    EXPECT_EQ(grown.GetCount(), 100);
+    copy.SetImageSize(CSize(4, 4), TRUE);
+    EXPECT_EQ(copy.GetCount(), 100);
+    for (const int index : {0, 1, 2, 63, 64, 99}) {
+        for (CMFCToolBarImages* const images : {&grown, &copy}) {
+            m_dc.FillSolidRect(0, 0, 8, 8, RGB(255, 255, 255));
+            images->DrawEx(&m_dc, CRect(0, 0, 4, 4), index);
+            EXPECT_EQ(m_dc.GetPixel(1, 1), colorOf(index)) << index;
+        }
+    }
+    EXPECT_EQ(copy.AddImage(grown, 7), 100) << "the copy has room for more, too";
+    EXPECT_TRUE(copy.DeleteImage(50));
+    EXPECT_EQ(copy.GetCount(), 100);
+}
+
 } // namespace
