@@ -41,6 +41,7 @@
 #include "afxtoolbar.h"
 #include "afxtoolbarbutton.h"
 #include "afxtoolbarcomboboxbutton.h"
+#include "afxtoolbareditboxbutton.h"
 #include "afxtoolbarimages.h"
 #include "afxtoolbarmenubutton.h"
 #include "afxtooltipctrl.h"

@@ -82,7 +82,12 @@ public:
     BOOL RemoveItem(int iIndex);
     void RemoveAllItems();
     void SetDefaultItem(UINT uiCmd);
-    BOOL AreAllCommandsShown() const { return TRUE; }
+    /// A menu of a menu bar may hide what is seldom used (CMFCMenuBar::SetRecentlyUsedMenus), until the user has asked
+    /// for all of it.
+    BOOL HideRarelyUsedCommands() const;
+    BOOL AreAllCommandsShown() const { return !m_bHidesSome; }
+    /// Shows what is hidden; the menus opened from this one from now on hide nothing.
+    void ShowAllCommands();
 
     // Commands
     CWnd* GetMessageWnd() const;
@@ -267,6 +272,8 @@ private:
     BOOL m_bVertResizeOnly = FALSE;
     BOOL m_bHasBeenResized = FALSE;
     BOOL m_bOpenedByKey = FALSE;
+    BOOL m_bHidesSome = FALSE;
+    BOOL m_bAskedForAll = FALSE;
     bool m_isInLayout = false;
 
     static BOOL m_bForceMenuFocus;

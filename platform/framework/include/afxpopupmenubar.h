@@ -131,6 +131,9 @@ protected:
     INT_PTR OnToolHitTest(CPoint, TOOLINFO*) const override { return -1; }
     /// Fills the client area behind the items.
     void OnFillBackground(CDC* pDC) override;
+    /// Hides the items that the menu does not show at once; the last row then shows them.
+    void HideRareItems();
+    void ShowRareItems();
     /// The item at the index is chosen, by mouse or key; `this` may be gone afterwards.
     virtual void ChooseItem(int iIndex);
     /// The item that a step of the keyboard leads to; -1 when no item can be hot.

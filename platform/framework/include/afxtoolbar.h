@@ -4,8 +4,16 @@
 #include "afxtoolbarbutton.h"
 #include "afxtoolbarimages.h"
 
+class CMFCPopupMenu;
 class CMFCToolBarMenuButton;
 class CToolTipCtrl;
+
+namespace toolbar {
+class ButtonDrag;
+} // namespace toolbar
+
+/// What a drop does: DROPEFFECT_NONE, DROPEFFECT_COPY, DROPEFFECT_MOVE of <ole2.h>.
+using DROPEFFECT = DWORD;
 
 /// A bar of buttons with images, separators and menus. It owns its buttons. Images come from lists that all toolbars
 /// and menus of the process share; a locked button takes its own toolbar's. Commands go to the bar's owner as
@@ -180,13 +188,64 @@ public:
     static BOOL IsLastCommandFromButton(CMFCToolBarButton* pButton) { return pButton == m_pLastCommandButton; }
     void SetRouteCommandsViaFrame(BOOL bValue) { m_bRouteCommandsViaFrame = bValue; }
     BOOL GetRouteCommandsViaFrame() { return m_bRouteCommandsViaFrame; }
-    static BOOL IsCustomizeMode() { return FALSE; }
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
     virtual BOOL OnSetDefaultButtonText(CMFCToolBarButton* pButton);
+
+    // Customising. The user moves a button by dragging it with Alt held, copies it with Ctrl and Alt, and removes it by
+    // dropping it beside the toolbars; in the customize mode without Alt, and buttons send no commands then. Locked
+    // bars, menu bars and protected commands (CMFCToolBarButton::SetProtectedCommands) stay as they are. Esc, or the
+    // loss of the mouse, ends a drag without a change.
+    static void EnableQuickCustomization(BOOL bEnable = TRUE);
+    static BOOL IsCustomizeMode();
+    /// FALSE: it was so already.
+    static BOOL __stdcall SetCustomizeMode(BOOL bSet = TRUE);
+    /// A button is being dragged with Alt.
+    static BOOL __stdcall IsAltCustomizeMode();
+    BOOL IsDragButton(const CMFCToolBarButton* pButton) const;
+    /// A dragged button is about to leave the bar. FALSE: it stays.
+    virtual BOOL OnBeforeRemoveButton(CMFCToolBarButton* pButton, DROPEFFECT dropEffect);
+    /// The button at the end of the bar. iCustomizeCmd -1: it is there while buttons have no room, as without this
+    /// call; otherwise always, and its menu ends with that command. bQuickCustomize: the menu lets the user choose
+    /// which buttons the bar shows.
+    void EnableCustomizeButton(BOOL bEnable, int iCustomizeCmd, const CString& strCustomizeText,
+                               BOOL bQuickCustomize = TRUE);
+    void EnableCustomizeButton(BOOL bEnable, int iCustomizeCmd, UINT uiCustomizeTextResId, BOOL bQuickCustomize = TRUE);
+    BOOL IsExistCustomizeButton() { return m_bCustomizeButton; }
+    BOOL IsAddRemoveQuickCustomize() { return m_bCustomizeButton && m_bQuickCustomize; }
+
+    /// Told after the original buttons are back.
     virtual void OnReset() {}
+    /// The buttons as the program gave them; its handler of AFX_WM_RESETTOOLBAR may exchange some. FALSE: CanBeRestored
+    /// says that there are none.
     virtual BOOL RestoreOriginalState();
+    /// RestoreOriginalState of every toolbar that can be restored; none is deleted.
+    static void __stdcall ResetAll();
     void SetOrigButtons(const CObList& lstOrigButtons);
+    /// Copies of the buttons before the user changes any: those of SetButtons, or those of the first change.
     const CObList& GetOrigButtons() const { return m_OrigButtons; }
+    /// The same after AFX_WM_RESETTOOLBAR has exchanged some.
+    const CObList& GetOrigResetButtons() const { return m_OrigResetButtons; }
+
+    // Menus that hide what is seldom used (CMFCMenuBar::SetRecentlyUsedMenus), until the user asks for all of it.
+    /// Basic commands are shown always.
+    static void __stdcall AddBasicCommand(UINT uiCmd);
+    static void __stdcall SetBasicCommands(CList<UINT, UINT>& lstCommands);
+    static const CList<UINT, UINT>& GetBasicCommands();
+    static BOOL IsBasicCommand(UINT uiCmd);
+    /// A choice in a menu counts one.
+    static void __stdcall AddCommandUsage(UINT uiCommand);
+    /// Nothing is hidden before nStartCount choices; from then on what makes up less than nMinUsagePercentage of them.
+    /// FALSE, and nothing changed: the percentage is 100 or more.
+    static BOOL SetCommandUsageOptions(UINT nStartCount, UINT nMinUsagePercentage = 5);
+    static BOOL IsCommandRarelyUsed(UINT uiCmd);
+    /// Commands that the user cannot give: menus do not show them, buttons are disabled.
+    static void SetNonPermittedCommands(CList<UINT, UINT>& lstCommands);
+    static BOOL IsCommandPermitted(UINT uiCmd);
+
+    /// What holds for all toolbars (large images, tooltips, counted commands), below the application's registry
+    /// section.
+    static BOOL LoadParameters(LPCTSTR lpszProfileName = NULL);
+    static BOOL __stdcall SaveParameters(LPCTSTR lpszProfileName = NULL);
 
     // Settings
     /// The buttons as the user left them, below the application's registry section; FALSE when there is nothing.
@@ -195,7 +254,8 @@ public:
     virtual BOOL RemoveStateFromRegistry(LPCTSTR lpszProfileName = NULL, int nIndex = -1, UINT uiID = (UINT)-1);
     void Serialize(CArchive& ar) override;
     virtual BOOL CanBeRestored() const { return m_OrigButtons.GetCount() != 0; }
-    BOOL IsUserDefined() const { return m_uiOriginalResID == 0; }
+    /// The user has made it: neither a resource nor a file describes it.
+    BOOL IsUserDefined() const { return m_uiOriginalResID == 0 && !m_bFromConfig; }
     void SetPermament(BOOL bPermament = TRUE) { m_bPermament = bPermament; }
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -259,6 +319,9 @@ protected:
     /// Takes the buttons that go beyond the docked bar's length out of it.
     void CutOverflow(BOOL bHorz);
     void DrawOverflow(CDC* pDC, BOOL bHorz);
+    /// The button at the end is there always.
+    bool HasCustomizeMenu() const { return m_bCustomizeButton && m_iCustomizeCmd > 0; }
+    void InsertCustomizeRows(CMFCPopupMenu& menu);
     /// The overflow button takes the mouse, or lets it go.
     BOOL OnOverflowMouse(UINT nMessage, CPoint point);
     void DropSeparatorsAround(int iIndex);
@@ -274,7 +337,19 @@ protected:
     void AttachButton(CMFCToolBarButton* pButton, int iIndex);
     CMFCToolBarImages* GetButtonImages(const CMFCToolBarButton& button) const;
 
-    CObList m_OrigButtons; ///< owned copies
+    /// A press begins to drag a button. FALSE: it is an ordinary press.
+    BOOL BeginButtonDrag(CPoint point);
+    /// Where the button in the user's hand would come to lie.
+    void DrawDropMark(CDC* pDC);
+    /// Before the first change by the user.
+    void KeepOriginalButtons();
+    void TellReset();
+
+    CObList m_OrigButtons, m_OrigResetButtons; ///< owned copies
+    BOOL m_bCustomizeButton = FALSE;
+    BOOL m_bQuickCustomize = FALSE;
+    int m_iCustomizeCmd = -1; ///< the command at the end of the menu of the button of the rest
+    CString m_strCustomizeText;
     CMFCToolBarImages m_ImagesLocked, m_ColdImagesLocked, m_DisabledImagesLocked, m_MenuImagesLocked;
     CSize m_sizeButtonLocked{0, 0}, m_sizeImageLocked{0, 0};
     int m_iHighlighted = -1;
@@ -311,6 +386,7 @@ protected:
     static BOOL m_bLargeIcons;
     static const CMFCToolBarButton* m_pLastCommandButton;
 
+    friend class toolbar::ButtonDrag;
     friend class CMFCToolBarButton;
     friend class CMFCToolBarMenuButton;
     friend class CMFCPopupMenu;

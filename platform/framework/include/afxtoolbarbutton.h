@@ -103,6 +103,11 @@ public:
     virtual BOOL OnContextHelp(CWnd*) { return FALSE; }
     /// TRUE: a control inside the button sent the code and its owner has been told.
     virtual BOOL NotifyCommand(int) { return FALSE; }
+    /// A message of the queue for a window inside the button (IsOwnerOf), before it is dispatched. TRUE: it is done.
+    virtual BOOL PreTranslateControlMessage(MSG*) { return FALSE; }
+    /// The user begins to drag it, or drops it on a toolbar, while buttons can be customised. FALSE: he may not.
+    virtual BOOL OnBeforeDrag() const { return TRUE; }
+    virtual BOOL OnBeforeDrop(CMFCToolBar*) { return TRUE; }
 
     // Tooltips
     virtual BOOL OnGetCustomToolTipText(CString&) { return FALSE; }

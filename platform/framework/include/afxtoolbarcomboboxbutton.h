@@ -5,6 +5,32 @@
 #include <memory>
 #include <vector>
 
+class CMFCToolBarComboBoxButton;
+
+/// The edit of a combo box button with a text that can be typed (CBS_DROPDOWN) in the flat mode. It is a child of the
+/// toolbar and lies over the combo box. Enter sends the button's command with what stands in it, Esc gives back what
+/// stood there before and the focus to the frame; Up, Down, Page Up and Page Down choose another item, F4 and Alt with
+/// an arrow open the list. No accelerator of the frame takes what is typed.
+class FRAMEWORK_API CMFCToolBarComboBoxEdit : public CEdit {
+    DECLARE_DYNAMIC(CMFCToolBarComboBoxEdit)
+
+public:
+    /// The combo must outlive the edit.
+    explicit CMFCToolBarComboBoxEdit(CMFCToolBarComboBoxButton& combo);
+    ~CMFCToolBarComboBoxEdit() override;
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    afx_msg void OnChange();
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+    CMFCToolBarComboBoxButton& m_combo;
+};
+
 /// A toolbar button that is a combo box. It keeps the items, so that copies of the button have them too, and gives them
 /// to a combo box of its own that is a child of the toolbar while the bar lies horizontally; in a vertical bar an
 /// ordinary button stands in its place. The buttons with one command in all toolbars select along with each other.
@@ -22,7 +48,7 @@ public:
     ~CMFCToolBarComboBoxButton() override;
 
     // Items
-    /// Appends an item, unless there is one with that text; its index.
+    /// Appends an item; one that has the text already takes the data instead. Its index.
     virtual INT_PTR AddItem(LPCTSTR lpszItem, DWORD_PTR dwData = 0);
     /// Inserts it where Compare says.
     virtual INT_PTR AddSortedItem(LPCTSTR lpszItem, DWORD_PTR dwData = 0);
@@ -53,7 +79,10 @@ public:
     static int GetCountAll(UINT uiCmd);
     static int GetCurSelAll(UINT uiCmd);
     static LPCTSTR GetItemAll(UINT uiCmd, int iIndex = -1);
+    /// CB_ERR when there is no such button.
     static DWORD_PTR GetItemDataAll(UINT uiCmd, int iIndex = -1);
+    /// The same as a pointer: NULL when there is no such button, (void*)-1 when there is no such item.
+    static void* GetItemDataPtrAll(UINT uiCmd, int iIndex = -1);
     static LPCTSTR GetTextAll(UINT uiCmd);
     /// Selects in all of them without a command. FALSE: none could.
     static BOOL SelectItemAll(UINT uiCmd, int iIndex);
@@ -63,8 +92,14 @@ public:
     // The window
     /// NULL while the button lies in no toolbar that has a window, and in a vertical one.
     CComboBox* GetComboBox() const { return m_pWndCombo.get(); }
-    /// NULL for a list without a text that can be edited.
+    /// In the flat mode what CreateEdit made, else the combo box's own; NULL for a list without a text that can be
+    /// edited.
     virtual CEdit* GetEditCtrl();
+    /// Makes the edit of a CBS_DROPDOWN combo as a child of the toolbar; NULL when it cannot: the combo box then shows
+    /// its own. The button takes the object over, and gives it font and place.
+    virtual CMFCToolBarComboBoxEdit* CreateEdit(CWnd* pWndParent, const CRect& rect, DWORD dwEditStyle);
+    /// What stands before the text that a user is to type; empty here.
+    virtual CString GetPrompt() const { return CString(); }
     HWND GetHwnd() override;
     BOOL HasFocus() const override;
     BOOL IsOwnerOf(HWND hwnd) override;
@@ -74,7 +109,7 @@ public:
     void SetDropDownHeight(int nHeight);
     BOOL CanBeStretched() const override { return TRUE; }
     BOOL IsDroppedDown() const override;
-    /// The buttons of menus that a right click in the combo's text shows; only kept.
+    /// The menu resource that a right click in the combo's edit shows (by the context menu manager); 0: none.
     void SetContextMenuID(UINT uiResID) { m_uiMenuResID = uiResID; }
     UINT GetContextMenuID() { return m_uiMenuResID; }
     BOOL IsRibbonButton() const { return m_bIsRibbon; }
@@ -101,6 +136,9 @@ public:
     BOOL OnClickUp() override { return ShowsCombo(); }
     /// TRUE: the user has chosen, which the owner gets as the command.
     BOOL NotifyCommand(int iNotifyCode) override;
+    /// Keys for the combo box's own windows are the edit's, where CreateEdit has made one.
+    BOOL PreTranslateControlMessage(MSG* pMsg) override;
+    BOOL ExportToMenuButton(CMFCToolBarMenuButton& menuButton) const override;
 
 protected:
     /// Makes the combo box as a child of the toolbar; NULL when it cannot. The button takes the object over.
@@ -124,7 +162,22 @@ private:
         DWORD_PTR data;
     };
 
+    friend class CMFCToolBarComboBoxEdit;
+
     void MakeCombo(CWnd& parent);
+    void MakeEdit(CWnd& parent);
+    void PlaceEdit();
+    /// What the user types or does in the edit.
+    void OnEditChange();
+    void OnEditFocus(bool hasFocus, HWND other);
+    /// TRUE: the key was the combo's; the button may be gone.
+    bool OnEditKey(const MSG& message);
+    bool OnEnter();
+    bool OnEscape();
+    void WalkTo(int index);
+    void CloseList();
+    void ShowTextInEdit();
+    void Notify(int code);
     void FillCombo();
     void PlaceCombo();
     void ShowCombo();
@@ -132,9 +185,15 @@ private:
     void CloseCombo();
     CRect GetComboRect() const;
     bool ShowsCombo() const { return m_pWndCombo && m_bHorz; }
+    /// The button, not the combo box, has the edit.
+    bool HasOwnEdit() const { return m_pOwnEdit != nullptr; }
 
     std::vector<Item> m_items;
     std::unique_ptr<CComboBox> m_pWndCombo;
     std::unique_ptr<CEdit> m_pWndEdit;
-    CRect m_rectPlaced{0, 0, 0, 0}; ///< where the window was put last
+    CMFCToolBarComboBoxEdit* m_pOwnEdit = nullptr; ///< m_pWndEdit, when CreateEdit made it
+    CString m_strBefore;                           ///< what stood in the edit when it got the focus
+    CRect m_rectPlaced{0, 0, 0, 0};                ///< where the window was put last
+    bool m_isTyped = false;                        ///< the edit holds what the user typed: it must not be changed now
+    bool m_isQuiet = false;                        ///< what the combo box says now is not the user's choice
 };

@@ -3,10 +3,8 @@
 
 #include "afxtoolbar.h"
 #include "afxvisualmanager.h"
-#include "fx/window_guard.h"
+#include "toolbar/hosted_control.h"
 #include "toolbar/metrics.h"
-
-#include <commctrl.h>
 
 #include <algorithm>
 #include <utility>
@@ -24,60 +22,6 @@ constexpr int sideMargin = 2;
 
 bool g_isFlat = true;
 bool g_isCentered = true;
-
-// ---- what the combo box says to the toolbar, its parent
-
-CMFCToolBarComboBoxButton* ButtonWith(const CMFCToolBar& bar, HWND combo) {
-    for (POSITION position = bar.GetAllButtons().GetHeadPosition(); position;) {
-        const auto* const object = bar.GetAllButtons().GetNext(position);
-        auto* const button = DYNAMIC_DOWNCAST(CMFCToolBarComboBoxButton, const_cast<CObject*>(object));
-        if (button && button->GetHwnd() == combo) {
-            return button;
-        }
-    }
-    return nullptr;
-}
-
-/// The notification goes to the button and to the bar's owner, and a choice as the command as well.
-void RouteNotification(CMFCToolBar& bar, HWND combo, WPARAM wParam) {
-    const fx::WindowGuard guard(&bar);
-    CMFCToolBarComboBoxButton* const button = ButtonWith(bar, combo);
-    const BOOL isChoice = button && button->NotifyCommand(HIWORD(wParam));
-    const CWnd* const target = bar.GetRouteCommandsViaFrame() ? bar.GetTopLevelFrame() : bar.GetOwner();
-    if (target) {
-        ::SendMessageW(target->m_hWnd, WM_COMMAND, wParam, reinterpret_cast<LPARAM>(combo));
-    }
-    if (isChoice && guard.IsAlive()) {
-        bar.ProcessCommand(ButtonWith(bar, combo));
-    }
-    if (guard.IsAlive()) {
-        bar.InvalidateButton(bar.ButtonToIndex(ButtonWith(bar, combo)));
-    }
-}
-
-/// Stands before the window of a toolbar with combo boxes, once for each of them; `id` is the combo's window.
-LRESULT CALLBACK BarProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                         DWORD_PTR /*data*/) noexcept {
-    const auto combo = reinterpret_cast<HWND>(id);
-    const bool isFromCombo = reinterpret_cast<HWND>(lParam) == combo;
-    if (message == WM_NCDESTROY) {
-        ::RemoveWindowSubclass(window, &BarProc, id);
-    } else if (message == WM_COMMAND && isFromCombo) {
-        const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam); // the combo box itself, and the bar
-        if (CMFCToolBar* const bar = CMFCToolBar::FromHandlePermanent(window); bar && ::IsWindow(combo)) {
-            RouteNotification(*bar, combo, wParam);
-        }
-        return result;
-    } else if ((message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX) && isFromCombo) {
-        const CMFCToolBar* const bar = CMFCToolBar::FromHandlePermanent(window);
-        CMFCToolBarComboBoxButton* const button = bar ? ButtonWith(*bar, combo) : nullptr;
-        if (button) {
-            const UINT kind = message - WM_CTLCOLORMSGBOX;
-            return reinterpret_cast<LRESULT>(button->OnCtlColor(CDC::FromHandle(reinterpret_cast<HDC>(wParam)), kind));
-        }
-    }
-    return ::DefSubclassProc(window, message, wParam, lParam);
-}
 
 bool HasComboFocus(const CComboBox& combo) {
     const HWND focus = ::GetFocus();
@@ -127,19 +71,24 @@ void CMFCToolBarComboBoxButton::MakeCombo(CWnd& parent) {
     if (!m_pWndCombo) {
         return;
     }
-    ::SetWindowSubclass(parent.GetSafeHwnd(), &BarProc, reinterpret_cast<UINT_PTR>(m_pWndCombo->m_hWnd), 0);
+    toolbar::HostControl(parent, m_pWndCombo->m_hWnd);
     m_rectPlaced.SetRectEmpty();
     m_pWndCombo->SetFont(&afxGlobalData.fontRegular);
+    MakeEdit(parent);
     FillCombo();
     EnableWindow(!IsDisabledState());
 }
 
 void CMFCToolBarComboBoxButton::CloseCombo() {
-    m_pWndEdit.reset();
-    // The window sends messages while it goes, which must find the button without it.
+    // The windows send messages while they go, which must find the button without them.
+    const std::unique_ptr<CEdit> edit = std::move(m_pWndEdit);
+    if (std::exchange(m_pOwnEdit, nullptr) && edit->GetSafeHwnd()) {
+        toolbar::ReleaseControl(edit->m_hWnd);
+        edit->DestroyWindow();
+    }
     const std::unique_ptr<CComboBox> combo = std::move(m_pWndCombo);
     if (combo && combo->GetSafeHwnd()) {
-        ::RemoveWindowSubclass(::GetParent(combo->m_hWnd), &BarProc, reinterpret_cast<UINT_PTR>(combo->m_hWnd));
+        toolbar::ReleaseControl(combo->m_hWnd);
         combo->DestroyWindow();
     }
 }
@@ -172,12 +121,13 @@ CEdit* CMFCToolBarComboBoxButton::GetEditCtrl() {
 HWND CMFCToolBarComboBoxButton::GetHwnd() { return m_pWndCombo ? m_pWndCombo->GetSafeHwnd() : nullptr; }
 
 BOOL CMFCToolBarComboBoxButton::HasFocus() const {
-    return m_pWndCombo && m_pWndCombo->GetSafeHwnd() && HasComboFocus(*m_pWndCombo);
+    const bool hasEditFocus = m_pOwnEdit && m_pOwnEdit->m_hWnd && ::GetFocus() == m_pOwnEdit->m_hWnd;
+    return hasEditFocus || (m_pWndCombo && m_pWndCombo->GetSafeHwnd() && HasComboFocus(*m_pWndCombo));
 }
 
 BOOL CMFCToolBarComboBoxButton::IsOwnerOf(HWND hwnd) {
     const HWND combo = GetHwnd();
-    return combo && hwnd && (combo == hwnd || ::IsChild(combo, hwnd));
+    return combo && hwnd && (combo == hwnd || ::IsChild(combo, hwnd) || (m_pOwnEdit && m_pOwnEdit->m_hWnd == hwnd));
 }
 
 BOOL CMFCToolBarComboBoxButton::IsWindowVisible() { return GetHwnd() && ::IsWindowVisible(GetHwnd()); }
@@ -189,12 +139,15 @@ BOOL CMFCToolBarComboBoxButton::IsDroppedDown() const {
 void CMFCToolBarComboBoxButton::EnableWindow(BOOL bEnable) {
     if (GetHwnd() && (::IsWindowEnabled(GetHwnd()) != FALSE) != (bEnable != FALSE)) {
         m_pWndCombo->EnableWindow(bEnable);
+        if (m_pOwnEdit && m_pOwnEdit->m_hWnd) {
+            m_pOwnEdit->EnableWindow(bEnable);
+        }
     }
 }
 
 void CMFCToolBarComboBoxButton::SetStyle(UINT nStyle) {
     CMFCToolBarButton::SetStyle(nStyle);
-    EnableWindow(!(nStyle & TBBS_DISABLED));
+    EnableWindow(!(nStyle & TBBS_DISABLED) && !CMFCToolBar::IsCustomizeMode());
 }
 
 void CMFCToolBarComboBoxButton::SetDropDownHeight(int nHeight) {
@@ -206,6 +159,9 @@ void CMFCToolBarComboBoxButton::SetDropDownHeight(int nHeight) {
 void CMFCToolBarComboBoxButton::OnGlobalFontsChanged() {
     if (GetHwnd()) {
         m_pWndCombo->SetFont(&afxGlobalData.fontRegular);
+        if (m_pOwnEdit && m_pOwnEdit->m_hWnd) {
+            m_pOwnEdit->SetFont(&afxGlobalData.fontRegular);
+        }
         m_rectPlaced.SetRectEmpty();
     }
 }
@@ -252,6 +208,12 @@ void CMFCToolBarComboBoxButton::PlaceCombo() {
     m_pWndCombo->SetWindowPos(nullptr, place.left, place.top, place.Width(), dropHeight, SWP_NOZORDER | SWP_NOACTIVATE);
     COMBOBOXINFO info{};
     const CRect item = m_pWndCombo->GetComboBoxInfo(&info) ? CRect(info.rcItem) : CRect(0, 0, 0, 0);
+    if (HasOwnEdit()) {
+        // Nothing of the combo box shows but its list.
+        m_pWndCombo->SetWindowRgn(::CreateRectRgn(0, 0, 0, 0), TRUE);
+        PlaceEdit();
+        return;
+    }
     // Border and drop button are the toolbar's to draw and to be pressed on.
     m_pWndCombo->SetWindowRgn(g_isFlat && !item.IsRectEmpty() ? ::CreateRectRgnIndirect(item) : nullptr, TRUE);
 }
@@ -264,6 +226,9 @@ void CMFCToolBarComboBoxButton::ShowCombo() {
     const bool isWanted = m_bHorz && !m_bIsHidden && m_bVisible && !m_rect.IsRectEmpty();
     if (isWanted != ((m_pWndCombo->GetStyle() & WS_VISIBLE) != 0)) {
         m_pWndCombo->ShowWindow(isWanted ? SW_SHOWNOACTIVATE : SW_HIDE);
+        if (m_pOwnEdit && m_pOwnEdit->m_hWnd) {
+            m_pOwnEdit->ShowWindow(isWanted ? SW_SHOWNOACTIVATE : SW_HIDE);
+        }
     }
 }
 
@@ -310,21 +275,32 @@ BOOL CMFCToolBarComboBoxButton::OnClick(CWnd*, BOOL) {
     if (!ShowsCombo() || !g_isFlat || IsDisabledState()) {
         return FALSE;
     }
-    m_pWndCombo->SetFocus();
+    CWnd* const field = HasOwnEdit() ? static_cast<CWnd*>(m_pOwnEdit) : m_pWndCombo.get();
+    field->SetFocus();
     if (!ShowsCombo()) {
         return TRUE; // whoever heard of the focus has taken the bar away
     }
-    m_pWndCombo->ShowDropDown(!m_pWndCombo->GetDroppedState());
+    if (m_pWndCombo->GetDroppedState() && HasOwnEdit()) {
+        CloseList();
+    } else {
+        m_pWndCombo->ShowDropDown(!m_pWndCombo->GetDroppedState());
+    }
     return TRUE;
 }
 
 BOOL CMFCToolBarComboBoxButton::NotifyCommand(int iNotifyCode) {
-    if (!GetHwnd()) {
+    if (!GetHwnd() || m_isQuiet) {
         return FALSE;
     }
     if (iNotifyCode == CBN_EDITCHANGE) {
-        m_pWndCombo->GetWindowText(m_strEdit);
+        const bool isTypedInOwn = HasOwnEdit() && !HasComboFocus(*m_pWndCombo);
+        (isTypedInOwn ? static_cast<CWnd*>(m_pOwnEdit) : m_pWndCombo.get())->GetWindowText(m_strEdit);
+        ShowTextInEdit();
         m_iSelIndex = FindItem(m_strEdit);
+        return FALSE;
+    }
+    if (iNotifyCode == CBN_CLOSEUP && HasOwnEdit() && HasComboFocus(*m_pWndCombo)) {
+        m_pOwnEdit->SetFocus(); // the combo box has taken it for its list
         return FALSE;
     }
     if (iNotifyCode != CBN_SELENDOK) {
@@ -335,6 +311,7 @@ BOOL CMFCToolBarComboBoxButton::NotifyCommand(int iNotifyCode) {
         return FALSE;
     }
     m_iSelIndex = selected;
+    m_isTyped = false;
     m_pWndCombo->GetLBText(selected, m_strEdit);
     SelectItemAll(m_nID, m_strEdit.GetString());
     return TRUE;

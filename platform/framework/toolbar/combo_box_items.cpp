@@ -9,6 +9,10 @@
 INT_PTR CMFCToolBarComboBoxButton::AddItem(LPCTSTR lpszItem, DWORD_PTR dwData) {
     const CString text = lpszItem ? lpszItem : L"";
     if (const int found = FindItem(text); found >= 0) {
+        m_items[static_cast<std::size_t>(found)].data = dwData;
+        if (m_pWndCombo) {
+            m_pWndCombo->SetItemData(found, dwData);
+        }
         return found;
     }
     m_items.push_back({text, dwData});
@@ -48,6 +52,7 @@ BOOL CMFCToolBarComboBoxButton::DeleteItem(int iIndex) {
     if (m_iSelIndex == iIndex) {
         m_iSelIndex = -1;
         m_strEdit.Empty();
+        ShowTextInEdit();
     } else if (m_iSelIndex > iIndex) {
         --m_iSelIndex;
     }
@@ -69,6 +74,7 @@ void CMFCToolBarComboBoxButton::RemoveAllItems() {
     if (m_pWndCombo) {
         m_pWndCombo->ResetContent();
     }
+    ShowTextInEdit();
 }
 
 int CMFCToolBarComboBoxButton::FindItem(LPCTSTR lpszText) const {
@@ -125,6 +131,7 @@ void CMFCToolBarComboBoxButton::ShowSelection() {
     if (m_iSelIndex < 0 && GetEditCtrl()) {
         m_pWndCombo->SetWindowText(m_strEdit);
     }
+    ShowTextInEdit();
 }
 
 void CMFCToolBarComboBoxButton::CopyFrom(const CMFCToolBarButton& src) {
@@ -227,7 +234,15 @@ LPCTSTR CMFCToolBarComboBoxButton::GetItemAll(UINT uiCmd, int iIndex) {
 
 DWORD_PTR CMFCToolBarComboBoxButton::GetItemDataAll(UINT uiCmd, int iIndex) {
     const CMFCToolBarComboBoxButton* const combo = GetByCmd(uiCmd);
-    return combo ? combo->GetItemData(iIndex) : 0;
+    return combo ? combo->GetItemData(iIndex) : static_cast<DWORD_PTR>(CB_ERR);
+}
+
+void* CMFCToolBarComboBoxButton::GetItemDataPtrAll(UINT uiCmd, int iIndex) {
+    const CMFCToolBarComboBoxButton* const combo = GetByCmd(uiCmd);
+    const bool isMissing = combo && !combo->GetItem(iIndex);
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): what the host gave as data
+    return combo ? reinterpret_cast<void*>(isMissing ? static_cast<DWORD_PTR>(-1) : combo->GetItemData(iIndex))
+                 : nullptr;
 }
 
 LPCTSTR CMFCToolBarComboBoxButton::GetTextAll(UINT uiCmd) {

@@ -18,6 +18,8 @@ constexpr int SeparatorSize = 6;
 constexpr int MenuBarPadding = 4;
 /// The grip at the beginning of a docked bar.
 constexpr int GripperSize = 7;
+/// The button at the end of a docked bar that opens the menu of the rest.
+constexpr int OverflowSize = 11;
 /// The arrow beside a toolbar button that opens a menu.
 constexpr int ArrowWidth = 12;
 

@@ -122,7 +122,13 @@ BOOL CMFCPopupMenu::InitMenuBar() {
     if (m_hMessageWnd) {
         ::SendMessageW(m_hMessageWnd, WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(m_hMenu), 0);
     }
-    return ::IsMenu(m_hMenu) && bar->ImportFromMenu(m_hMenu, TRUE);
+    if (!::IsMenu(m_hMenu) || !bar->ImportFromMenu(m_hMenu, TRUE)) {
+        return FALSE;
+    }
+    if (HideRarelyUsedCommands()) {
+        bar->HideRareItems();
+    }
+    return TRUE;
 }
 
 void CMFCPopupMenu::FindParents(CWnd* pWndParent, BOOL bOwnMessage) {

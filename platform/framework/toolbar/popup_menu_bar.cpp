@@ -87,6 +87,9 @@ BOOL CMFCPopupMenuBar::ImportFromMenu(HMENU hMenu, BOOL) {
             InsertSeparator();
             continue;
         }
+        if (!IsCommandPermitted(item.id)) {
+            continue;
+        }
         auto button =
             std::make_unique<CMFCToolBarMenuButton>(item.id, item.submenu, -1, WithKeys(item.text, item.id, frame));
         button->m_nStyle = item.style;

@@ -10,6 +10,7 @@
 #include "popups/user_settings.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
+#include "window/command_id.h"
 
 #include <algorithm>
 
@@ -231,6 +232,9 @@ void CMFCPopupMenuBar::ChooseItem(int iIndex) {
     }
     m_nLastCommandIndex = iIndex;
     const UINT id = button->m_nID;
+    if (fx::IsSendableCommand(id)) {
+        AddCommandUsage(id);
+    }
     const fx::WindowGuard guard(this);
     auto* menuButton = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, button);
     if ((menuButton && menuButton->OnClickMenuItem()) || guard.IsGone()) {

@@ -59,8 +59,10 @@ CMFCToolBar::CMFCToolBar() = default;
 CMFCToolBar::~CMFCToolBar() {
     DestroyWindow();
     CMFCToolBar::RemoveAllButtons();
-    while (!m_OrigButtons.IsEmpty()) {
-        delete m_OrigButtons.RemoveHead();
+    for (CObList* const list : {&m_OrigButtons, &m_OrigResetButtons}) {
+        while (!list->IsEmpty()) {
+            delete list->RemoveHead();
+        }
     }
 }
 

@@ -181,6 +181,8 @@ BOOL CMFCToolBar::SetButtons(const UINT* lpIDArray, int nIDCount, BOOL bRemapIma
         const int shown = bRemapImages ? image++ : GetDefaultImage(id);
         InsertButton(CMFCToolBarButton(id, shown, nullptr, FALSE, m_bLocked));
     }
+    SetOrigButtons(m_Buttons);
+    TellReset();
     return TRUE;
 }
 
@@ -317,30 +319,4 @@ int CMFCToolBar::GetCommandButtons(UINT uiCmd, CObList& listButtons) {
         }
     }
     return static_cast<int>(listButtons.GetCount());
-}
-
-void CMFCToolBar::SetOrigButtons(const CObList& lstOrigButtons) {
-    while (!m_OrigButtons.IsEmpty()) {
-        delete m_OrigButtons.RemoveHead();
-    }
-    for (POSITION position = lstOrigButtons.GetHeadPosition(); position;) {
-        if (auto copy = MakeCopy(*static_cast<const CMFCToolBarButton*>(lstOrigButtons.GetNext(position)))) {
-            m_OrigButtons.AddTail(copy.release());
-        }
-    }
-}
-
-BOOL CMFCToolBar::RestoreOriginalState() {
-    if (!CanBeRestored()) {
-        return FALSE;
-    }
-    RemoveAllButtons();
-    for (POSITION position = m_OrigButtons.GetHeadPosition(); position;) {
-        InsertButton(*static_cast<const CMFCToolBarButton*>(m_OrigButtons.GetNext(position)));
-    }
-    OnReset();
-    if (m_hWnd) {
-        AdjustLayout();
-    }
-    return TRUE;
 }

@@ -196,10 +196,6 @@ BOOL CMFCToolBar::LoadToolBar(UINT uiResID, UINT uiColdResID, UINT uiMenuResID, 
     if (uiHotResID != 0 && !LoadBeside(bLocked ? m_HotImagesLocked : m_HotImages, uiHotResID)) {
         return FALSE;
     }
-    if (!SetButtons(resource->commands.data(), static_cast<int>(resource->commands.size()))) {
-        return FALSE;
-    }
-    m_uiOriginalResID = uiResID;
-    SetOrigButtons(m_Buttons);
-    return TRUE;
+    m_uiOriginalResID = uiResID; // the handler of AFX_WM_RESETTOOLBAR is told it
+    return SetButtons(resource->commands.data(), static_cast<int>(resource->commands.size()));
 }

@@ -53,6 +53,9 @@ private:
 } // namespace
 
 void CMFCToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
+    if (IsCustomizeMode() && !m_bMenuMode) {
+        return; // the buttons are there to be moved
+    }
     ToolBarCmdUI state;
     state.m_pOther = this;
     const bool hasWindow = m_hWnd != nullptr;
@@ -65,6 +68,10 @@ void CMFCToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
             continue;
         }
         state.m_nID = button->m_nID;
+        if (!IsCommandPermitted(state.m_nID)) {
+            state.Enable(FALSE);
+            continue;
+        }
         const auto* menuButton = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, button);
         const BOOL hasMenu = menuButton && !menuButton->GetCommands().IsEmpty();
         // The bar's own handlers first: one of a derived bar decides.
@@ -135,7 +142,7 @@ CWnd* CMFCToolBar::GetCommandTarget() const {
 BOOL CMFCToolBar::ProcessCommand(CMFCToolBarButton* pButton) {
     const UINT id = pButton ? pButton->m_nID : 0;
     CWnd* target = GetCommandTarget();
-    if (!IsPressable(pButton) || !fx::IsSendableCommand(id) || !target) {
+    if (!IsPressable(pButton) || !fx::IsSendableCommand(id) || !IsCommandPermitted(id) || !target) {
         return FALSE;
     }
     m_pLastCommandButton = pButton;
@@ -190,7 +197,7 @@ void CMFCToolBar::OnMouseLeave() {
 
 void CMFCToolBar::OnLButtonDown(UINT nFlags, CPoint point) {
     CMFCBaseToolBar::OnLButtonDown(nFlags, point);
-    if (OnOverflowMouse(WM_LBUTTONDOWN, point)) {
+    if (BeginButtonDrag(point) || OnOverflowMouse(WM_LBUTTONDOWN, point)) {
         return;
     }
     const int hit = HitTest(point);

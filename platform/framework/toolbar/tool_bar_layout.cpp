@@ -85,8 +85,9 @@ CSize CMFCToolBar::PlaceButtons(int nWidth, BOOL bHorz, BOOL bMove) {
     if (all == CSize(0, 0)) {
         all = CSize(GetColumnWidth(), GetRowHeight());
     }
-    all.cx += m_rectBorders.left + m_rectBorders.right + (bHorz ? gripper : 0);
-    all.cy += m_rectBorders.top + m_rectBorders.bottom + (bHorz ? 0 : gripper);
+    const int ends = gripper + (HasCustomizeMenu() && IsDocked() ? Scaled(toolbar::OverflowSize) : 0);
+    all.cx += m_rectBorders.left + m_rectBorders.right + (bHorz ? ends : 0);
+    all.cy += m_rectBorders.top + m_rectBorders.bottom + (bHorz ? 0 : ends);
     return all;
 }
 

@@ -4,7 +4,8 @@
 #include "afxpopupmenu.h"
 #include "afxtoolbarmenubutton.h"
 #include "afxvisualmanager.h"
-#include "fx/dc_scope.h"
+#include "toolbar/chevron.h"
+#include "toolbar/choose_buttons.h"
 #include "toolbar/metrics.h"
 
 #include <memory>
@@ -15,8 +16,8 @@ using toolbar::Scaled;
 namespace {
 
 // At 96 DPI.
-constexpr int kOverflowSize = 11;
 constexpr int kChevronSize = 2;
+constexpr int kArrowMargin = 4;
 
 /// A click on the button that opened the menu closes it.
 class OverflowMenu : public CMFCPopupMenu {
@@ -49,24 +50,11 @@ std::unique_ptr<CMFCToolBarMenuButton> RowFor(const CMFCToolBarButton& button) {
     return row;
 }
 
-void DrawChevron(CDC& dc, CPoint middle, int size, bool pointsRight) {
-    const int length = 2 * size;
-    for (const int shift : {-size, size}) {
-        for (int step = -size; step <= size; ++step) {
-            const int depth = shift - size / 2 + size - std::abs(step);
-            const CPoint at =
-                pointsRight ? CPoint(middle.x + depth, middle.y + step) : CPoint(middle.x + step, middle.y + depth);
-            dc.MoveTo(at);
-            dc.LineTo(pointsRight ? CPoint(at.x + length / 2, at.y) : CPoint(at.x, at.y + length / 2));
-        }
-    }
-}
-
 } // namespace
 
 void CMFCToolBar::GetMinSize(CSize& size) const {
     const int gripper = (GetPaneStyle() & CBRS_GRIPPER) != 0 ? toolbar::GripperSize : 0;
-    const int smallest = Scaled(gripper + kOverflowSize);
+    const int smallest = Scaled(gripper + toolbar::OverflowSize);
     size = CSize(smallest, smallest);
 }
 
@@ -80,11 +68,12 @@ void CMFCToolBar::CutOverflow(BOOL bHorz) {
     for (POSITION position = m_Buttons.GetHeadPosition(); position != nullptr;) {
         end = std::max(end, endOf(static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position))->m_rect));
     }
-    if (GetParentDockSite() == nullptr || end <= endOf(client)) {
+    const bool isAlwaysThere = HasCustomizeMenu();
+    if (GetParentDockSite() == nullptr || (end <= endOf(client) && !isAlwaysThere)) {
         return;
     }
     m_rectOverflow = client;
-    (bHorz ? m_rectOverflow.left : m_rectOverflow.top) = std::max(0L, endOf(client) - Scaled(kOverflowSize));
+    (bHorz ? m_rectOverflow.left : m_rectOverflow.top) = std::max(0L, endOf(client) - Scaled(toolbar::OverflowSize));
     const LONG room = bHorz ? m_rectOverflow.left : m_rectOverflow.top;
     int index = 0;
     for (POSITION position = m_Buttons.GetHeadPosition(); position != nullptr; ++index) {
@@ -112,9 +101,19 @@ void CMFCToolBar::DrawOverflow(CDC* pDC, BOOL bHorz) {
         CMFCVisualManager::GetInstance()->OnFillButtonInterior(pDC, &face, m_rectOverflow, state);
         CMFCVisualManager::GetInstance()->OnDrawButtonBorder(pDC, &face, m_rectOverflow, state);
     }
-    CPen pen(PS_SOLID, 1, CMFCVisualManager::GetInstance()->GetToolbarButtonTextColor(&face, state));
-    const fx::DcSelection selected(pDC->m_hDC, pen.m_hObject);
-    DrawChevron(*pDC, m_rectOverflow.CenterPoint(), Scaled(kChevronSize), bHorz != FALSE);
+    const COLORREF color = CMFCVisualManager::GetInstance()->GetToolbarButtonTextColor(&face, state);
+    const CPoint middle = m_rectOverflow.CenterPoint();
+    if (m_iFirstOverflow >= 0) {
+        const auto direction = bHorz ? toolbar::ChevronTo::Right : toolbar::ChevronTo::Bottom;
+        toolbar::DrawChevron(*pDC, middle, Scaled(kChevronSize), direction, color);
+    }
+    if (HasCustomizeMenu()) {
+        const int half = Scaled(kChevronSize);
+        const int bottom = bHorz ? m_rectOverflow.bottom - Scaled(kArrowMargin) : middle.y;
+        for (int step = 0; step <= half; ++step) {
+            pDC->FillSolidRect(middle.x - half + step, bottom - half + step, 2 * (half - step) + 1, 1, color);
+        }
+    }
 }
 
 BOOL CMFCToolBar::OnOverflowMouse(UINT nMessage, CPoint point) {
@@ -134,7 +133,7 @@ BOOL CMFCToolBar::OpenOverflowMenu() {
     int index = 0;
     for (POSITION position = m_Buttons.GetHeadPosition(); position != nullptr; ++index) {
         const auto& button = *static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position));
-        if (index >= m_iFirstOverflow && !button.IsHidden() && button.IsVisible()) {
+        if (m_iFirstOverflow >= 0 && index >= m_iFirstOverflow && !button.IsHidden() && button.IsVisible()) {
             const bool isSeparator = (button.m_nStyle & TBBS_SEPARATOR) != 0;
             rows.push_back(isSeparator ? nullptr : RowFor(button));
         }
@@ -154,6 +153,23 @@ BOOL CMFCToolBar::OpenOverflowMenu() {
             menu->InsertSeparator();
         }
     }
+    InsertCustomizeRows(*menu);
     menu->RecalcLayout();
     return TRUE;
+}
+
+void CMFCToolBar::InsertCustomizeRows(CMFCPopupMenu& menu) {
+    if (!m_bCustomizeButton) {
+        return;
+    }
+    if (menu.GetMenuItemCount() > 0) {
+        menu.InsertSeparator();
+    }
+    if (m_bQuickCustomize) {
+        KeepOriginalButtons();
+        menu.InsertItem(*toolbar::MakeChooseButtonsRow(*this));
+    }
+    if (HasCustomizeMenu()) {
+        menu.InsertItem(CMFCToolBarMenuButton(static_cast<UINT>(m_iCustomizeCmd), nullptr, -1, m_strCustomizeText));
+    }
 }

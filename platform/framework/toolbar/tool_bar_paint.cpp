@@ -51,6 +51,7 @@ void CMFCToolBar::DoPaint(CDC* pDC) {
         DrawButton(pDC, button, GetImageList(*button, isHot), isHot, m_bGrayDisabledButtons);
     }
     DrawOverflow(pDC, isHorizontal);
+    DrawDropMark(pDC);
     if (former) {
         pDC->SelectObject(former);
     }

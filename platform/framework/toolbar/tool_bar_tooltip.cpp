@@ -2,6 +2,7 @@
 #include "afxtoolbar.h"
 
 #include "afxtooltipmanager.h"
+#include "toolbar/hosted_control.h"
 #include "toolbar/metrics.h"
 
 namespace {
@@ -17,6 +18,12 @@ BOOL CMFCToolBar::PreTranslateMessage(MSG* pMsg) {
             PlaceTooltip(CPoint(AFX_GET_X_LPARAM(pMsg->lParam), AFX_GET_Y_LPARAM(pMsg->lParam)));
         }
         m_pToolTip->RelayEvent(pMsg);
+    }
+    if (pMsg->hwnd != m_hWnd) {
+        CMFCToolBarButton* const button = toolbar::ButtonWith(*this, pMsg->hwnd);
+        if (button != nullptr && button->PreTranslateControlMessage(pMsg)) {
+            return TRUE;
+        }
     }
     return CMFCBaseToolBar::PreTranslateMessage(pMsg);
 }

@@ -210,7 +210,7 @@ TEST(ComboButtonItems, AreUniqueAndKeepTheirData) {
     EXPECT_EQ(button.AddItem(L"a", 2), 1);
     EXPECT_EQ(button.AddItem(L"b", 3), 0);
     EXPECT_EQ(button.GetCount(), 2);
-    EXPECT_EQ(button.GetItemData(0), 1u);
+    EXPECT_EQ(button.GetItemData(0), 3u) << "the data of the text that was given last";
     EXPECT_EQ(button.FindItem(L"a"), 1);
     EXPECT_EQ(button.FindItem(L"A"), -1);
     EXPECT_EQ(button.GetItem(), nullptr) << "nothing is selected";

@@ -176,24 +176,17 @@ LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonChec
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonEdit, OnDrawOnList)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonSeparator, AddToListBox, OnDrawOnList)
 
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBar, EnableCustomizeButton,
-         EnableQuickCustomization, GetCustomizeButton, IsAddRemoveQuickCustomize, IsAltCustomizeMode, IsDragButton,
-         IsExistCustomizeButton, OnBeforeRemoveButton, SetCustomizeMode)
+LEFT_OUT("the button at the end of a toolbar is drawn by the bar itself", CMFCToolBar, GetCustomizeButton)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBarButton, CreateFromOleData,
-         GetClipboardFormat, OnAddToCustomizePage, OnBeforeDrag, OnBeforeDrop, OnCustomizeMenu, OnDrawOnCustomizeList,
-         PrepareDrag, SetClipboardFormatName)
+         GetClipboardFormat, OnAddToCustomizePage, OnCustomizeMenu, OnDrawOnCustomizeList, PrepareDrag,
+         SetClipboardFormatName)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBarMenuButton, EnableQuickCustomize,
-         IsQuickMode, OnBeforeDrag, OnDrawOnCustomizeList, SetTearOff)
+         IsQuickMode, OnDrawOnCustomizeList, SetTearOff)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCPopupMenu, AlwaysShowEmptyToolsEntry,
          CreateTearOffBar, GetQuickCustomizeType, IsAlwaysShowEmptyToolsEntry, IsCustomizePane, IsQuickCustomize,
          SetQuickCustomizeType, SetQuickMode)
 LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCPopupMenuBar, BuildOrigItems,
          FindDestintationToolBar, LoadFromHash)
-
-LEFT_OUT("menus that hide what is seldom used", CMFCToolBar, AddBasicCommand, AddCommandUsage, GetBasicCommands,
-         IsBasicCommand, IsCommandPermitted, IsCommandRarelyUsed, SetBasicCommands, SetCommandUsageOptions,
-         SetNonPermittedCommands)
-LEFT_OUT("menus that hide what is seldom used", CMFCPopupMenu, HideRarelyUsedCommands, ShowAllCommands)
 
 LEFT_OUT("two toolbars that share a row and its buttons", CMFCToolBar, CanHandleSiblings, GetSiblingToolBar,
          IsOneRowWithSibling, IsSibling, SetOneRowWithSibling, SetSiblingToolBar, SetTwoRowsWithSibling)
@@ -206,14 +199,11 @@ LEFT_OUT("images of toolbars from several resources, or grey while the frame is 
          AddToolBarForImageCollection, AutoGrayInactiveImages, IsAutoGrayInactiveImages, IsResourceChanged,
          LoadBitmapEx, LoadToolBarEx, m_bDontScaleImages, m_dblLargeImageRatio, ResetImages)
 
-LEFT_OUT("state kept between runs", CMFCToolBar, GetOrigResetButtons, LoadLargeIconsState, LoadParameters, ResetAll,
-         SaveParameters)
+LEFT_OUT("state kept between runs: large images are one of the parameters", CMFCToolBar, LoadLargeIconsState)
 LEFT_OUT("state kept between runs", CMFCToolBarButton, SaveBarState)
 LEFT_OUT("state kept between runs", CMFCToolBarMenuButton, SaveBarState)
 LEFT_OUT("state kept between runs", CMFCPopupMenu, SaveState)
 LEFT_OUT("state kept between runs", CContextMenuManager, LoadState, ResetState, SaveState)
-LEFT_OUT("state kept between runs", CWinAppEx, ReloadWindowPlacement)
-LEFT_OUT("state kept between runs", CKeyboardManager, LoadState, ResetAll, SaveState)
 
 LEFT_OUT("looks of controls that the framework does not have", CMFCBaseVisualManager, DrawStatusBarProgress,
          GetStandardWindowsTheme)
@@ -349,8 +339,6 @@ LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualMa
 LEFT_OUT_CLASSES("helpers of the docking panes", CGlobalUtils)
 LEFT_OUT("customisation and the help combo of a menu bar are not there yet", CMFCMenuBar, EnableHelpCombobox,
          GetFloatPopupDirection, GetHelpCombobox, HighlightDisabledItems, IsHighlightDisabledItems)
-LEFT_OUT("an edit window of its own, customisation and prompts of a combo box are not there yet",
-         CMFCToolBarComboBoxButton, CreateEdit, GetPrompt, GetItemDataPtrAll)
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
                  CPaneDivider)
 LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)

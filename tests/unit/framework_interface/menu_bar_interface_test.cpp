@@ -2,6 +2,7 @@
 
 #include "afxmenubar.h"
 #include "afxtoolbarcomboboxbutton.h"
+#include "afxtoolbareditboxbutton.h"
 
 INTERFACE_OF(CMFCMenuBar) {
     BASE(CMFCToolBar);
@@ -83,7 +84,25 @@ INTERFACE_OF(CMFCToolBarComboBoxButton) {
     MEMBER(CComboBox*, GetComboBox, () const);
     MEMBER(INT_PTR, GetCount, () const);
     MEMBER(int, GetCurSel, () const);
+    VIRTUAL(CMFCToolBarComboBoxEdit*, CreateEdit, (CWnd*, const CRect&, DWORD));
     VIRTUAL(CEdit*, GetEditCtrl, ());
+    VIRTUAL(CString, GetPrompt, () const);
+    STATIC(int, GetCountAll, (UINT));
+    STATIC(int, GetCurSelAll, (UINT));
+    STATIC(LPCTSTR, GetItemAll, (UINT, int));
+    CALL(GetItemAll, UINT);
+    STATIC(DWORD_PTR, GetItemDataAll, (UINT, int));
+    CALL(GetItemDataAll, UINT);
+    STATIC(void*, GetItemDataPtrAll, (UINT, int));
+    CALL(GetItemDataPtrAll, UINT);
+    STATIC(LPCTSTR, GetTextAll, (UINT));
+    STATIC(BOOL, IsCenterVert, ());
+    STATIC(void, SetCenterVert, (BOOL));
+    CALL(SetCenterVert);
+    VIRTUAL(BOOL, ExportToMenuButton, (CMFCToolBarMenuButton&) const);
+    MEMBER(UINT, GetContextMenuID, ());
+    MEMBER(void, SetContextMenuID, (UINT));
+    MEMBER(void, SetText, (LPCTSTR));
     MEMBER(LPCTSTR, GetItem, (int) const);
     MEMBER(DWORD_PTR, GetItemData, (int) const);
     MEMBER(LPCTSTR, GetText, () const);
@@ -112,4 +131,44 @@ INTERFACE_OF(CMFCToolBarComboBoxButton) {
     VIRTUAL(void, OnSize, (int));
     VIRTUAL(void, SetStyle, (UINT));
     MEMBER(void, SetText, (LPCTSTR));
+}
+
+INTERFACE_OF(CMFCToolBarComboBoxEdit) {
+    BASE(CEdit);
+    MADE_FROM(CMFCToolBarComboBoxButton&);
+    VIRTUAL(BOOL, PreTranslateMessage, (MSG*));
+}
+
+INTERFACE_OF(CMFCToolBarEditBoxButton) {
+    BASE(CMFCToolBarButton);
+    MADE_FROM(UINT, int);
+    MADE_FROM(UINT, int, DWORD, int);
+    VIRTUAL(BOOL, CanBeStretched, () const);
+    VIRTUAL(void, CopyFrom, (const CMFCToolBarButton&));
+    VIRTUAL(CEdit*, CreateEdit, (CWnd*, const CRect&));
+    STATIC(CMFCToolBarEditBoxButton*, GetByCmd, (UINT));
+    STATIC(CString, GetContentsAll, (UINT));
+    MEMBER(UINT, GetContextMenuID, ());
+    VIRTUAL(void, GetEditBorder, (CRect&));
+    MEMBER(CEdit*, GetEditBox, () const);
+    VIRTUAL(HWND, GetHwnd, ());
+    VIRTUAL(const CRect, GetInvalidateRect, () const);
+    VIRTUAL(BOOL, HaveHotBorder, () const);
+    STATIC(BOOL, IsFlatMode, ());
+    VIRTUAL(BOOL, NotifyCommand, (int));
+    VIRTUAL(void, OnChangeParentWnd, (CWnd*));
+    VIRTUAL(BOOL, OnClick, (CWnd*, BOOL));
+    CALL(OnClick, CWnd*);
+    VIRTUAL(HBRUSH, OnCtlColor, (CDC*, UINT));
+    VIRTUAL(void, OnGlobalFontsChanged, ());
+    VIRTUAL(void, OnMove, ());
+    VIRTUAL(void, OnShow, (BOOL));
+    VIRTUAL(void, OnSize, (int));
+    VIRTUAL(BOOL, OnUpdateToolTip, (CWnd*, int, CToolTipCtrl&, CString&));
+    VIRTUAL(void, SetContents, (const CString&));
+    STATIC(BOOL, SetContentsAll, (UINT, const CString&));
+    MEMBER(void, SetContextMenuID, (UINT));
+    STATIC(void, SetFlatMode, (BOOL));
+    CALL(SetFlatMode);
+    VIRTUAL(void, SetStyle, (UINT));
 }

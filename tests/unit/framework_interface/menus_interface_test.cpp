@@ -6,6 +6,8 @@
 
 INTERFACE_OF(CMFCPopupMenu) {
     BASE(CMiniFrameWnd);
+    MEMBER(BOOL, HideRarelyUsedCommands, () const);
+    MEMBER(void, ShowAllCommands, ());
     STATIC(BOOL, ActivatePopupMenu, (CFrameWnd*, CMFCPopupMenu*));
     MEMBER(BOOL, AreAllCommandsShown, () const);
     MEMBER(CMFCPopupMenu::MENUAREA_TYPE, CheckArea, (const CPoint&) const);

@@ -8,6 +8,35 @@ using CommandList = CList<UINT, UINT>;
 
 INTERFACE_OF(CMFCToolBar) {
     BASE(CMFCBaseToolBar);
+    STATIC(void, AddBasicCommand, (UINT));
+    STATIC(void, AddCommandUsage, (UINT));
+    MEMBER(void, EnableCustomizeButton, (BOOL, int, const CString&, BOOL));
+    CALL(EnableCustomizeButton, BOOL, int, const CString&);
+    MEMBER(void, EnableCustomizeButton, (BOOL, int, UINT, BOOL));
+    CALL(EnableCustomizeButton, BOOL, int, UINT);
+    STATIC(void, EnableQuickCustomization, (BOOL));
+    CALL(EnableQuickCustomization);
+    NAMED(GetBasicCommands);
+    MEMBER(const CObList&, GetOrigResetButtons, () const);
+    MEMBER(BOOL, IsAddRemoveQuickCustomize, ());
+    STATIC(BOOL, IsAltCustomizeMode, ());
+    STATIC(BOOL, IsBasicCommand, (UINT));
+    STATIC(BOOL, IsCommandPermitted, (UINT));
+    STATIC(BOOL, IsCommandRarelyUsed, (UINT));
+    MEMBER(BOOL, IsDragButton, (const CMFCToolBarButton*) const);
+    MEMBER(BOOL, IsExistCustomizeButton, ());
+    STATIC(BOOL, LoadParameters, (LPCTSTR));
+    CALL(LoadParameters);
+    VIRTUAL(BOOL, OnBeforeRemoveButton, (CMFCToolBarButton*, DROPEFFECT));
+    STATIC(void, ResetAll, ());
+    STATIC(BOOL, SaveParameters, (LPCTSTR));
+    CALL(SaveParameters);
+    NAMED(SetBasicCommands);
+    STATIC(BOOL, SetCommandUsageOptions, (UINT, UINT));
+    CALL(SetCommandUsageOptions, UINT);
+    STATIC(BOOL, SetCustomizeMode, (BOOL));
+    CALL(SetCustomizeMode);
+    NAMED(SetNonPermittedCommands);
     MADE_FROM();
     VIRTUAL(void, AdjustLayout, ());
     MEMBER(void, AdjustSize, ());
@@ -161,6 +190,8 @@ PROTECTED_INTERFACE_OF(CMFCToolBar) {
 
 INTERFACE_OF(CMFCToolBarButton) {
     BASE(CObject);
+    VIRTUAL(BOOL, OnBeforeDrag, () const);
+    VIRTUAL(BOOL, OnBeforeDrop, (CMFCToolBar*));
     MADE_FROM(UINT, int, LPCTSTR, BOOL, BOOL);
     MADE_FROM(UINT, int);
     VIRTUAL(BOOL, CanBeDropped, (CMFCToolBar*));

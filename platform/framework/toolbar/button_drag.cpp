@@ -1,0 +1,217 @@
+#include "toolbar/button_drag.h"
+
+#include "afxmenubar.h"
+#include "fx/to_rect.h"
+#include "fx/window_guard.h"
+#include "window/input_filter.h"
+
+#include <cstdlib>
+#include <memory>
+
+#include <ole2.h>
+
+namespace toolbar {
+
+BEGIN_MESSAGE_MAP(ButtonDrag, CWnd)
+ON_WM_MOUSEMOVE()
+ON_WM_LBUTTONUP()
+ON_WM_CAPTURECHANGED()
+END_MESSAGE_MAP()
+
+namespace {
+
+thread_local ButtonDrag* t_current = nullptr;
+
+// Keys go to the window with the focus, which knows nothing of the drag.
+BOOL CancelByEscape(MSG* message) {
+    ButtonDrag* const drag = ButtonDrag::Current();
+    if (drag == nullptr || message->wParam != VK_ESCAPE ||
+        (message->message != WM_KEYDOWN && message->message != WM_SYSKEYDOWN)) {
+        return FALSE;
+    }
+    drag->Cancel();
+    return TRUE;
+}
+
+[[maybe_unused]] const bool g_isFilterAdded = [] {
+    fx::AddInputFilter(&CancelByEscape);
+    return true;
+}();
+
+bool MayBeChanged(const CMFCToolBar& bar) {
+    return bar.IsWindowVisible() && !bar.IsLocked() && !bar.IsKindOf(RUNTIME_CLASS(CMFCMenuBar));
+}
+
+CPoint ToScreen(const CWnd& window, CPoint point) {
+    window.ClientToScreen(&point);
+    return point;
+}
+
+DropPlace PlaceIn(const CMFCToolBar& bar, CPoint screen) {
+    std::vector<fx::Rect> buttons;
+    for (int index = 0; index < bar.GetCount(); ++index) {
+        buttons.push_back(fx::FromRect(bar.GetButton(index)->Rect()));
+    }
+    CPoint point = screen;
+    bar.ScreenToClient(&point);
+    return FindDropPlace(buttons, fx::FromPoint(point), bar.IsHorizontal() != FALSE);
+}
+
+} // namespace
+
+ButtonDrag* ButtonDrag::Current() { return t_current; }
+
+ButtonDrag::ButtonDrag(const CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt)
+    : m_source(bar.m_hWnd), m_button(&button), m_isByAlt(isByAlt), m_start(screen) {}
+
+bool ButtonDrag::Begin(CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt) {
+    const bool isProtected = CMFCToolBarButton::GetProtectedCommands().Find(button.m_nID) != nullptr;
+    if (t_current != nullptr || !MayBeChanged(bar) || isProtected || !button.IsEditable() || !button.OnBeforeDrag()) {
+        return false;
+    }
+    auto drag = std::unique_ptr<ButtonDrag>(new ButtonDrag(bar, button, screen, isByAlt));
+    CWnd* const parent = bar.GetTopLevelFrame();
+    if (parent == nullptr ||
+        !drag->CreateEx(0, AfxRegisterWndClass(0), nullptr, WS_CHILD, CRect(0, 0, 0, 0), parent, 0)) {
+        return false;
+    }
+    t_current = drag.release();
+    t_current->SetCapture();
+    return true;
+}
+
+CMFCToolBarButton* ButtonDrag::Button() const {
+    const CMFCToolBar* const bar = Source();
+    return bar != nullptr ? bar->GetButton(bar->ButtonToIndex(m_button)) : nullptr;
+}
+
+// Those that float lie over the others.
+CMFCToolBar* ButtonDrag::FindTarget(CPoint screen) const {
+    CMFCToolBar* found = nullptr;
+    for (POSITION position = CMFCToolBar::GetAllToolbars().GetHeadPosition(); position != nullptr;) {
+        auto* const bar =
+            const_cast<CMFCToolBar*>(static_cast<const CMFCToolBar*>(CMFCToolBar::GetAllToolbars().GetNext(position)));
+        CRect window;
+        bar->GetWindowRect(&window);
+        if (window.PtInRect(screen) && MayBeChanged(*bar) && (found == nullptr || bar->IsFloating())) {
+            found = bar;
+        }
+    }
+    return found;
+}
+
+fx::Rect ButtonDrag::MarkIn(const CMFCToolBar& bar) const {
+    return m_isUnderWay && bar.m_hWnd == m_target ? m_place.mark : fx::Rect{};
+}
+
+void ButtonDrag::ShowMark(HWND target, const DropPlace& place) {
+    if (m_target == target && m_place.mark == place.mark) {
+        return;
+    }
+    for (const HWND window : {m_target, target}) {
+        if (window != nullptr) {
+            ::InvalidateRect(window, nullptr, FALSE);
+        }
+    }
+    m_target = target;
+    m_place = place;
+}
+
+void ButtonDrag::OnMouseMove(UINT, CPoint point) {
+    if (m_isUnderWay) {
+        MoveTo(ToScreen(*this, point));
+    }
+}
+
+void ButtonDrag::MoveTo(CPoint screen) {
+    const bool isFar = std::abs(screen.x - m_start.x) >= ::GetSystemMetrics(SM_CXDRAG) ||
+                       std::abs(screen.y - m_start.y) >= ::GetSystemMetrics(SM_CYDRAG);
+    m_hasMoved = m_hasMoved || isFar;
+    CMFCToolBarButton* const button = Button();
+    if (button == nullptr) {
+        Cancel();
+        return;
+    }
+    CMFCToolBar* const target = FindTarget(screen);
+    const bool isWelcome = target != nullptr && button->CanBeDropped(target);
+    ShowMark(isWelcome && m_hasMoved ? target->m_hWnd : nullptr, isWelcome ? PlaceIn(*target, screen) : DropPlace{});
+    ::SetCursor(::LoadCursorW(nullptr, isWelcome ? IDC_SIZEALL : IDC_NO));
+}
+
+void ButtonDrag::OnLButtonUp(UINT, CPoint point) {
+    if (m_isUnderWay) {
+        Drop(ToScreen(*this, point));
+    }
+}
+
+void ButtonDrag::OnCaptureChanged(CWnd*) { Cancel(); }
+
+// The window goes when nothing of it is on the way any more.
+void ButtonDrag::End() {
+    m_isUnderWay = false;
+    ShowMark(nullptr, {});
+    t_current = t_current == this ? nullptr : t_current;
+    if (::GetCapture() == m_hWnd) {
+        ::ReleaseCapture();
+    }
+    PostMessage(WM_CLOSE);
+}
+
+void ButtonDrag::Cancel() {
+    if (m_isUnderWay) {
+        End();
+    }
+}
+
+void ButtonDrag::Remove(DROPEFFECT effect) {
+    CMFCToolBar* const source = Source();
+    CMFCToolBarButton* const button = Button();
+    if (button == nullptr || !source->OnBeforeRemoveButton(button, effect)) {
+        return;
+    }
+    if (CMFCToolBar* const bar = Source(); bar != nullptr && Button() != nullptr) {
+        bar->RemoveButton(bar->ButtonToIndex(m_button));
+        bar->AdjustLayout();
+    }
+}
+
+void ButtonDrag::Drop(CPoint screen) {
+    MoveTo(screen);
+    if (!m_isUnderWay) {
+        return;
+    }
+    const bool isCopy = ::GetKeyState(VK_CONTROL) < 0;
+    const DropPlace place = m_place;
+    CMFCToolBar* const target = CMFCToolBar::FromHandlePermanent(m_target);
+    CMFCToolBar* const source = Source();
+    CMFCToolBarButton* const button = Button();
+    End();
+    if (!m_hasMoved || button == nullptr) {
+        return;
+    }
+    if (target == nullptr) {
+        CMFCToolBar* const refusing = FindTarget(screen);
+        if (refusing == nullptr && !isCopy) {
+            source->KeepOriginalButtons();
+            Remove(DROPEFFECT_NONE);
+        }
+        return;
+    }
+    const int index = source->ButtonToIndex(button);
+    const bool staysWhereItIs = !isCopy && source == target && (place.index == index || place.index == index + 1);
+    const fx::WindowGuard guard(target);
+    if (staysWhereItIs || !button->OnBeforeDrop(target) || guard.IsGone() || Button() == nullptr) {
+        return;
+    }
+    source->KeepOriginalButtons();
+    target->KeepOriginalButtons();
+    target->InsertButton(*button, place.index);
+    if (!isCopy) {
+        Remove(DROPEFFECT_MOVE);
+    }
+    if (guard.IsAlive()) {
+        target->AdjustLayout();
+    }
+}
+
+} // namespace toolbar
