@@ -38,6 +38,7 @@
 #include "afxribbonslider.h"
 #include "afxribbonstatusbar.h"
 #include "afxribbonstatusbarpane.h"
+#include "afxstatusbar.h"
 #include "afxtoolbar.h"
 #include "afxtoolbarbutton.h"
 #include "afxtoolbarcomboboxbutton.h"

@@ -11,6 +11,7 @@
 #include <afxribbonslider.h>
 #include <afxribbonstatusbar.h>
 #include <afxribbonstatusbarpane.h>
+#include <afxstatusbar.h>
 
 #include <array>
 
@@ -91,7 +92,9 @@ visual::ButtonParts PartsOf(CMFCRibbonButton& button) {
 
 } // namespace
 
-bool visual::IsStatusBar(const CBasePane* bar) { return DYNAMIC_DOWNCAST(CMFCRibbonStatusBar, bar) != nullptr; }
+bool visual::IsStatusBar(const CBasePane* bar) {
+    return DYNAMIC_DOWNCAST(CMFCRibbonStatusBar, bar) != nullptr || DYNAMIC_DOWNCAST(CMFCStatusBar, bar) != nullptr;
+}
 
 bool visual::FillStatusBar(HDC dc, CBasePane* bar, const RECT& rect, const Look& look) {
     if (!IsStatusBar(bar)) {

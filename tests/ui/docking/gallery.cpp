@@ -52,6 +52,41 @@ void Fill(CMFCToolBar& bar, CFrameWndEx& frame, UINT id, LPCTSTR name, int butto
     bar.EnableDocking(CBRS_ALIGN_ANY);
 }
 
+/// A combo box that takes text, an edit and the button at the end, which is there always.
+void FillWithFields(CMFCToolBar& bar) {
+    CMFCToolBarComboBoxButton combo(9001, 0, CBS_DROPDOWN, 80);
+    combo.AddItem(L"Rivers");
+    combo.AddItem(L"Roads");
+    combo.SelectItem(1, FALSE);
+    bar.InsertButton(combo);
+    CMFCToolBarEditBoxButton edit(9002, 1, ES_AUTOHSCROLL, 70);
+    edit.SetContents(L"1:25000");
+    bar.InsertButton(edit);
+    CMFCToolBarEditBoxButton disabled(9003, 1, ES_AUTOHSCROLL, 50);
+    disabled.SetContents(L"off");
+    disabled.m_nStyle |= TBBS_DISABLED;
+    bar.InsertButton(disabled);
+    bar.EnableCustomizeButton(TRUE, 9004, CString(L"Customize..."));
+}
+
+/// A message, a text with an icon, progress with and without its number, and one that is off.
+void FillStatusBar(CMFCStatusBar& bar) {
+    bar.SetIndicators(nullptr, 5);
+    bar.SetPaneText(0, L"Ready");
+    bar.SetPaneInfo(0, 0, SBPS_STRETCH | SBPS_NOBORDERS, 40);
+    bar.SetPaneText(1, L"Layer 3");
+    const HICON icon =
+        MakeIcon(16, RGB(60, 120, 200), [](int x, int y) { return (x - 8) * (x - 8) + (y - 8) * (y - 8) < 50; });
+    bar.SetPaneIcon(1, icon);
+    ::DestroyIcon(icon);
+    bar.EnablePaneProgressBar(2, 100, TRUE);
+    bar.SetPaneProgress(2, 40);
+    bar.EnablePaneProgressBar(3);
+    bar.SetPaneProgress(3, 75);
+    bar.SetPaneText(4, L"Warning");
+    bar.SetPaneTextColor(4, RGB(200, 30, 30));
+}
+
 bool WriteScreen(const CRect& rect, const std::wstring& path) {
     const HDC screen = ::GetDC(nullptr);
     const HDC memory = ::CreateCompatibleDC(screen);
@@ -69,7 +104,7 @@ bool WriteScreen(const CRect& rect, const std::wstring& path) {
 bool WriteSkin(const std::wstring& path, CRuntimeClass* skin, int percent) {
     CMFCVisualManager::SetDefaultManager(skin);
     GalleryFrame frame;
-    const int width = 560 * percent / 100;
+    const int width = 640 * percent / 100;
     if (!frame.Create(nullptr, L"Docking", WS_OVERLAPPEDWINDOW, CRect(20, 20, 20 + width, 20 + width * 2 / 3))) {
         return false;
     }
@@ -84,6 +119,10 @@ bool WriteSkin(const std::wstring& path, CRuntimeClass* skin, int percent) {
     for (std::size_t index = 0; index < bars.size(); ++index) {
         Fill(bars[index], frame, static_cast<UINT>(11 + index), names[index], buttons[index]);
     }
+    FillWithFields(bars[0]);
+    CMFCStatusBar status;
+    status.Create(&frame);
+    FillStatusBar(status);
     frame.DockPane(bars.data());
     frame.DockPane(&bars[1], AFX_IDW_DOCKBAR_TOP);
     frame.DockPane(&bars[2], AFX_IDW_DOCKBAR_LEFT);

@@ -3,6 +3,7 @@
 #include "afxRibbonProgressBar.h"
 #include "afxribbonstatusbar.h"
 #include "afxribbonstatusbarpane.h"
+#include "afxstatusbar.h"
 
 INTERFACE_OF(CMFCRibbonStatusBar) {
     BASE(CMFCRibbonBar);
@@ -77,3 +78,55 @@ INTERFACE_OF(CMFCRibbonProgressBar) {
     CALL(SetPos, int);
     MEMBER(void, SetRange, (int, int));
 }
+
+INTERFACE_OF(CMFCStatusBar) {
+    BASE(CPane);
+    VIRTUAL(CSize, CalcFixedLayout, (BOOL, BOOL));
+    MEMBER(int, CommandToIndex, (UINT) const);
+    MEMBER(BOOL, Create, (CWnd*, DWORD, UINT));
+    CALL(Create, CWnd*);
+    MEMBER(BOOL, CreateEx, (CWnd*, DWORD, DWORD, UINT));
+    CALL(CreateEx, CWnd*);
+    VIRTUAL(BOOL, DoesAllowDynInsertBefore, () const);
+    MEMBER(void, EnablePaneDoubleClick, (BOOL));
+    CALL(EnablePaneDoubleClick);
+    MEMBER(void, EnablePaneProgressBar, (int, long, BOOL, COLORREF, COLORREF, COLORREF));
+    CALL(EnablePaneProgressBar, int);
+    MEMBER(int, GetCount, () const);
+    MEMBER(BOOL, GetDrawExtendedArea, () const);
+    VIRTUAL(BOOL, GetExtendedArea, (CRect&) const);
+    MEMBER(UINT, GetItemID, (int) const);
+    MEMBER(void, GetItemRect, (int, LPRECT) const);
+    MEMBER(void, GetPaneInfo, (int, UINT&, UINT&, int&) const);
+    MEMBER(long, GetPaneProgress, (int) const);
+    MEMBER(UINT, GetPaneStyle, (int) const);
+    MEMBER(void, GetPaneText, (int, CString&) const);
+    MEMBER(CString, GetPaneText, (int) const);
+    MEMBER(int, GetPaneWidth, (int) const);
+    MEMBER(CString, GetTipText, (int) const);
+    MEMBER(void, InvalidatePaneContent, (int));
+    VIRTUAL(BOOL, PreCreateWindow, (CREATESTRUCT&));
+    MEMBER(void, SetDrawExtendedArea, (BOOL));
+    CALL(SetDrawExtendedArea);
+    MEMBER(BOOL, SetIndicators, (const UINT*, int));
+    MEMBER(void, SetPaneAnimation, (int, HIMAGELIST, UINT, BOOL));
+    CALL(SetPaneAnimation, int, HIMAGELIST);
+    MEMBER(void, SetPaneBackgroundColor, (int, COLORREF, BOOL));
+    CALL(SetPaneBackgroundColor, int);
+    MEMBER(void, SetPaneIcon, (int, HICON, BOOL));
+    CALL(SetPaneIcon, int, HICON);
+    MEMBER(void, SetPaneIcon, (int, HBITMAP, COLORREF, BOOL));
+    CALL(SetPaneIcon, int, HBITMAP);
+    MEMBER(void, SetPaneInfo, (int, UINT, UINT, int));
+    MEMBER(void, SetPaneProgress, (int, long, BOOL));
+    CALL(SetPaneProgress, int, long);
+    MEMBER(void, SetPaneStyle, (int, UINT));
+    VIRTUAL(BOOL, SetPaneText, (int, LPCTSTR, BOOL));
+    CALL(SetPaneText, int, LPCTSTR);
+    MEMBER(void, SetPaneTextColor, (int, COLORREF, BOOL));
+    CALL(SetPaneTextColor, int);
+    MEMBER(void, SetPaneWidth, (int, int));
+    MEMBER(void, SetTipText, (int, LPCTSTR));
+}
+
+PROTECTED_INTERFACE_OF(CMFCStatusBar) { VIRTUAL(void, OnDrawPane, (CDC*, CMFCStatusBarPaneInfo*)); }
