@@ -4,9 +4,11 @@
 #include "afxframewndex.h"
 #include "afxkeyboardmanager.h"
 #include "afxMDIFrameWndEx.h"
+#include "afxtoolbar.h"
 #include "afxtooltipmanager.h"
 #include "fx/state_store.h"
 
+#include <algorithm>
 #include <new>
 
 IMPLEMENT_DYNAMIC(CWinAppEx, CWinApp)
@@ -237,7 +239,11 @@ BOOL CWinAppEx::LoadState(LPCTSTR lpszSectionName, CFrameImpl* pFrameImpl) {
         SetRegistryBase(lpszSectionName);
     }
     PreLoadState();
+    CMFCToolBar::LoadParameters();
     const BOOL isLoaded = pFrameImpl == nullptr || pFrameImpl->LoadState();
+    if (m_bLoadWindowPlacement && pFrameImpl != nullptr) {
+        ReloadWindowPlacement(pFrameImpl->Frame());
+    }
     LoadCustomState();
     return isLoaded;
 }
@@ -255,7 +261,11 @@ BOOL CWinAppEx::SaveState(LPCTSTR lpszSectionName, CFrameImpl* pFrameImpl) {
         SetRegistryBase(lpszSectionName);
     }
     PreSaveState();
-    const BOOL isSaved = pFrameImpl == nullptr || pFrameImpl->SaveState();
+    BOOL isSaved = CMFCToolBar::SaveParameters();
+    if (pFrameImpl != nullptr) {
+        isSaved &= pFrameImpl->SaveState();
+        KeepFramePlacement(*pFrameImpl->Frame());
+    }
     SaveCustomState();
     return isSaved;
 }
@@ -268,8 +278,61 @@ BOOL CWinAppEx::SaveState(CFrameWndEx* pFrame, LPCTSTR lpszSectionName) {
     return SaveState(lpszSectionName, &pFrame->GetFrameImpl());
 }
 
+void CWinAppEx::OnClosingMainFrame(CFrameImpl* pFrameImpl) { SaveState(nullptr, pFrameImpl); }
+
 BOOL CWinAppEx::OnViewDoubleClick(CWnd*, int) { return FALSE; }
 BOOL CWinAppEx::OnWorkspaceIdle(CWnd*) { return FALSE; }
+
+namespace {
+
+/// On the monitor that has most of it, or the nearest one, and no larger than what that leaves free.
+CRect OnAMonitor(CRect place) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    if (!::GetMonitorInfoW(::MonitorFromRect(&place, MONITOR_DEFAULTTONEAREST), &monitor)) {
+        return place;
+    }
+    // Places of top-level windows are told from the corner of the work area.
+    const CRect whole(monitor.rcMonitor);
+    CRect room(monitor.rcWork);
+    room.OffsetRect(whole.TopLeft() - room.TopLeft());
+    const CSize size(std::min(place.Width(), room.Width()), std::min(place.Height(), room.Height()));
+    const CPoint corner(std::clamp<LONG>(place.left, room.left, room.right - size.cx),
+                        std::clamp<LONG>(place.top, room.top, room.bottom - size.cy));
+    return CRect(corner, size);
+}
+
+} // namespace
+
+void CWinAppEx::KeepFramePlacement(const CFrameWnd& frame) {
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof(placement);
+    if (frame.m_hWnd != nullptr && ::GetWindowPlacement(frame.m_hWnd, &placement)) {
+        // Nobody wants to begin with a button in the task bar.
+        const bool wasMaximized = placement.showCmd == SW_SHOWMINIMIZED && (placement.flags & WPF_RESTORETOMAXIMIZED);
+        const bool isMaximized = wasMaximized || placement.showCmd == SW_SHOWMAXIMIZED;
+        StoreWindowPlacement(placement.rcNormalPosition, static_cast<int>(placement.flags),
+                             isMaximized ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
+    }
+}
+
+BOOL CWinAppEx::ReloadWindowPlacement(CFrameWnd* pFrame) {
+    CRect place;
+    int flags = 0;
+    int show = SW_SHOWNORMAL;
+    if (pFrame == nullptr || pFrame->m_hWnd == nullptr || !LoadWindowPlacement(place, flags, show) ||
+        place.Width() <= 0 || place.Height() <= 0) {
+        return FALSE;
+    }
+    const bool isMaximized = show == SW_SHOWMAXIMIZED;
+    const bool isShown = pFrame->IsWindowVisible() != FALSE;
+    m_nCmdShow = isMaximized ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof(placement);
+    placement.showCmd = static_cast<UINT>(isShown ? m_nCmdShow : SW_HIDE);
+    placement.rcNormalPosition = OnAMonitor(place);
+    return ::SetWindowPlacement(pFrame->m_hWnd, &placement);
+}
 
 BOOL CWinAppEx::LoadWindowPlacement(CRect& rectNormalPosition, int& nFlags, int& nShowCmd) {
     const CString section = GetRegSectionPath(WindowPlacementSection);

@@ -1,6 +1,7 @@
 #include "fx/bar_frame.h"
 
 #include "afxmenubar.h"
+#include "afxwinappex.h"
 #include "fx/scoped_change.h"
 
 namespace fx {
@@ -21,6 +22,7 @@ BOOL BarFrameOf<Base>::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* p
         bar->SetDefaultMenuResId(nIDResource);
         bar->OnDefaultMenuLoaded(this->m_hMenuDefault);
     }
+    m_Impl.OnLoadFrame();
     return TRUE;
 }
 
@@ -34,6 +36,24 @@ BOOL BarFrameOf<Base>::PreCreateWindow(CREATESTRUCT& cs) {
 template <class Base>
 int BarFrameOf<Base>::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return m_Impl.Create() ? Base::OnCreate(lpCreateStruct) : -1;
+}
+
+// The state is saved as soon as it is certain that the frame closes, and before anything of it goes.
+template <class Base>
+void BarFrameOf<Base>::OnClose() {
+    auto* const application = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp());
+    if (!application || application->m_pMainWnd != this) {
+        Base::OnClose();
+        return;
+    }
+    if (!application->SaveAllModified()) {
+        return;
+    }
+    if (application->m_pszRegistryKey) {
+        application->OnClosingMainFrame(&m_Impl);
+    }
+    application->HideApplication();
+    this->DestroyWindow();
 }
 
 template <class Base>

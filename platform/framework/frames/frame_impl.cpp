@@ -3,11 +3,19 @@
 #include "afxbasepane.h"
 #include "afxpopupmenu.h"
 #include "afxribbonbar.h"
+#include "afxwinappex.h"
 #include "frames/pane_entry.h"
 #include "ribbon/keyboard.h"
 #include "window/mouse_messages.h"
 
 #include <windowsx.h>
+
+void CFrameImpl::OnLoadFrame() {
+    auto* const application = DYNAMIC_DOWNCAST(CWinAppEx, AfxGetApp());
+    if (application && application->m_pszRegistryKey) {
+        application->LoadState(nullptr, this);
+    }
+}
 
 bool CFrameImpl::Create() { return m_dockingManager.Create(m_frame) != FALSE; }
 

@@ -2,6 +2,8 @@
 
 #include "afxwin.h"
 
+#include <vector>
+
 class CMultiDocTemplate;
 
 /// Holds the application's accelerator tables and answers which key belongs to a command. One object, made by
@@ -26,10 +28,23 @@ public:
     /// All keys of a command instead of the first, with a delimiter ("; " when NULL).
     static void ShowAllAccelerators(BOOL bShowAll = TRUE, LPCTSTR lpszDelimiter = NULL);
     static BOOL IsShowAllAccelerators() { return s_isShowAll; }
+    // Shortcuts that the user has chosen, below the application's registry section. pDefaultFrame NULL: the
+    // application's main frame.
+    /// FALSE: nothing was kept, or it is damaged; the frame's table is as it was.
+    BOOL LoadState(LPCTSTR lpszProfileName = NULL, CFrameWnd* pDefaultFrame = NULL);
+    BOOL SaveState(LPCTSTR lpszProfileName = NULL, CFrameWnd* pDefaultFrame = NULL);
+    /// The tables that frames had before LoadState gave them others.
+    void ResetAll();
+
     /// Forgets cached tables.
     static void CleanUp();
 
 private:
+    struct Original {
+        HWND frame;
+        std::vector<ACCEL> keys;
+    };
+    std::vector<Original> m_originals; ///< of frames whose table LoadState has replaced
     static bool s_isShowAll;
     static CString s_delimiter;
 };

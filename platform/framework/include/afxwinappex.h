@@ -11,6 +11,11 @@ class CMDIFrameWndEx;
 class CKeyboardManager;
 class CTooltipManager;
 
+namespace fx {
+template <class Base>
+class BarFrameOf;
+} // namespace fx
+
 /// An application with the managers of customisable bars and with settings kept in sections of its registry key.
 ///
 /// The managers are made by InitXxxManager or by the first GetXxxManager and die with the application object.
@@ -62,8 +67,11 @@ public:
     /// the menu is missing.
     virtual BOOL ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd);
 
-    /// Where the frame's panes are and what they keep, below lpszSectionName or, without one, the present base section.
-    /// FALSE: nothing was kept, or a part of it is damaged; that part is as the program made it, the rest is restored.
+    /// Where the frame's panes are and what they keep, the frame's place and size, and what holds for all toolbars;
+    /// below lpszSectionName or, without one, the present base section. CFrameWndEx::LoadFrame calls it for its frame,
+    /// and closing the main frame saves, where the application has a registry key. Shortcuts are the host's to keep
+    /// (CKeyboardManager::SaveState): ids of configured commands change from one configuration to the next. FALSE:
+    /// nothing was kept, or a part of it is damaged; that part is as the program made it, the rest is restored.
     BOOL LoadState(CMDIFrameWndEx* pFrame, LPCTSTR lpszSectionName = NULL);
     BOOL LoadState(CFrameWndEx* pFrame, LPCTSTR lpszSectionName = NULL);
     virtual BOOL LoadState(LPCTSTR lpszSectionName = NULL, CFrameImpl* pFrameImpl = NULL);
@@ -86,7 +94,11 @@ protected:
     virtual void LoadCustomState() {}
     virtual void PreSaveState() {}
     virtual void SaveCustomState() {}
-    virtual void OnClosingMainFrame(CFrameImpl*) {}
+    /// The main frame closes; saves its state.
+    virtual void OnClosingMainFrame(CFrameImpl* pFrameImpl);
+    /// Gives the frame its place and size of the last run, on a monitor that exists. One that is not shown yet stays
+    /// hidden, and m_nCmdShow says how it was. FALSE: nothing was kept.
+    virtual BOOL ReloadWindowPlacement(CFrameWnd* pFrame);
     virtual BOOL LoadWindowPlacement(CRect& rectNormalPosition, int& nFlags, int& nShowCmd);
     virtual BOOL StoreWindowPlacement(const CRect& rectNormalPosition, int nFlags, int nShowCmd);
 
@@ -96,6 +108,10 @@ protected:
     CString m_strRegSection;
 
 private:
+    template <class Base>
+    friend class fx::BarFrameOf;
+    void KeepFramePlacement(const CFrameWnd& frame);
+
     struct Managers;
     std::unique_ptr<Managers> m_managers;
 };

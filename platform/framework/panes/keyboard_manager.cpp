@@ -1,6 +1,9 @@
 #include "afxkeyboardmanager.h"
 
 #include "core/letters.h"
+#include "fx/app.h"
+#include "fx/archive.h"
+#include "fx/state_store.h"
 
 #include <algorithm>
 #include <vector>
@@ -21,6 +24,61 @@ std::vector<ACCEL> EntriesOf(CFrameWnd* frame) {
         ::CopyAcceleratorTableW(table, entries.data(), count);
     }
     return entries;
+}
+
+constexpr LPCTSTR kKeysEntry = L"Keys";
+constexpr BYTE kKnownFlags = FVIRTKEY | FNOINVERT | FSHIFT | FCONTROL | FALT;
+
+CString KeyboardSection(LPCTSTR profile) { return CString(profile ? profile : L"") + L"\\Keyboard"; }
+
+fx::StateStore* Store() {
+    CWinApp* const application = AfxGetApp();
+    return application != nullptr ? application->GetStateStore() : nullptr;
+}
+
+/// A table in the settings. Its length stands behind the keys as well: a damaged one is found.
+class KeptKeys : public CObject {
+public:
+    std::vector<ACCEL> keys;
+
+    void Serialize(CArchive& ar) override {
+        auto count = static_cast<DWORD>(keys.size());
+        if (!ar.IsLoading()) {
+            ar << count;
+            for (const ACCEL& key : keys) {
+                ar << key.fVirt << key.key << key.cmd;
+            }
+            ar << count;
+            return;
+        }
+        ar >> count;
+        fx::ArchiveChecks::RequireElements(ar, count);
+        std::vector<ACCEL> read;
+        for (DWORD index = 0; index < count; ++index) {
+            ACCEL key{};
+            ar >> key.fVirt >> key.key >> key.cmd;
+            if ((key.fVirt & ~kKnownFlags) != 0 || key.key == 0 || key.cmd == 0) {
+                AfxThrowArchiveException(CArchiveException::badIndex);
+            }
+            read.push_back(key);
+        }
+        DWORD countAgain = 0;
+        ar >> countAgain;
+        if (countAgain != count) {
+            AfxThrowArchiveException(CArchiveException::badIndex);
+        }
+        keys.swap(read);
+    }
+};
+
+/// Makes the keys the frame's; none: it has no table.
+BOOL GiveKeys(CFrameWnd& frame, std::vector<ACCEL> keys) {
+    const HACCEL table = keys.empty() ? nullptr : ::CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size()));
+    if (!keys.empty() && !table) {
+        return FALSE;
+    }
+    frame.ReplaceAccelTable(table);
+    return TRUE;
 }
 
 struct KeyName {
@@ -106,6 +164,38 @@ BOOL CKeyboardManager::UpdateAccelTable(CMultiDocTemplate* pTemplate, LPACCEL lp
         return FALSE;
     }
     return TRUE;
+}
+
+BOOL CKeyboardManager::SaveState(LPCTSTR lpszProfileName, CFrameWnd* pDefaultFrame) {
+    fx::StateStore* const store = Store();
+    CFrameWnd* const frame = FrameOrMain(pDefaultFrame);
+    KeptKeys kept;
+    kept.keys = EntriesOf(frame);
+    return store && frame && store->WriteObject(KeyboardSection(lpszProfileName), kKeysEntry, kept);
+}
+
+BOOL CKeyboardManager::LoadState(LPCTSTR lpszProfileName, CFrameWnd* pDefaultFrame) {
+    fx::StateStore* const store = Store();
+    CFrameWnd* const frame = FrameOrMain(pDefaultFrame);
+    KeptKeys kept;
+    if (!store || !frame || !store->ReadObject(KeyboardSection(lpszProfileName), kKeysEntry, kept)) {
+        return FALSE;
+    }
+    const HWND window = frame->m_hWnd;
+    const auto isOfFrame = [window](const Original& original) { return original.frame == window; };
+    if (std::ranges::none_of(m_originals, isOfFrame)) {
+        m_originals.push_back({window, EntriesOf(frame)});
+    }
+    return GiveKeys(*frame, kept.keys);
+}
+
+void CKeyboardManager::ResetAll() {
+    for (const Original& original : m_originals) {
+        if (auto* const frame = DYNAMIC_DOWNCAST(CFrameWnd, CWnd::FromHandlePermanent(original.frame))) {
+            GiveKeys(*frame, original.keys);
+        }
+    }
+    m_originals.clear();
 }
 
 BOOL CKeyboardManager::FindDefaultAccelerator(UINT uiCmd, CString& str, CFrameWnd* pWndFrame, BOOL) {

@@ -171,4 +171,143 @@ TEST_F(DockStateTest, AFrameThatDoesNotWantItLeavesThePanesWhereTheyAre) {
     EXPECT_EQ(Rows(CBRS_ALIGN_TOP), "1 2");
 }
 
+// ---- what frames do themselves
+
+/// The main frame of a run of the program, with one toolbar.
+class KeptFrame : public CFrameWndEx {
+public:
+    CMFCToolBar bar;
+
+    void Make() {
+        Create(nullptr, L"Kept", WS_OVERLAPPEDWINDOW, CRect(60, 50, 560, 350));
+        EnableDocking(CBRS_ALIGN_ANY);
+        bar.Create(this, AFX_DEFAULT_TOOLBAR_STYLE, 21);
+        bar.InsertButton(CMFCToolBarButton(3001, -1, L"One"));
+        bar.InsertButton(CMFCToolBarButton(3002, -1, L"Two"));
+        bar.EnableDocking(CBRS_ALIGN_ANY);
+        DockPane(&bar);
+        AfxGetApp()->m_pMainWnd = this;
+    }
+};
+
+class KeptFrameTest : public ::testing::Test {
+protected:
+    KeptFrameTest() { App().SetRegistryBase(L"KeptFrame"); }
+    ~KeptFrameTest() override {
+        if (m_frame != nullptr) {
+            m_frame->DestroyWindow();
+        }
+        AfxGetApp()->m_pMainWnd = nullptr;
+        ForgetTheEnd();
+        App().CleanState();
+        App().SetRegistryBase(L"Workspace");
+    }
+    static CWinAppEx& App() { return *static_cast<CWinAppEx*>(AfxGetApp()); }
+    static void ForgetTheEnd() {
+        MSG message{};
+        while (::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE)) {
+        }
+    }
+    void Start() {
+        m_frame = new KeptFrame;
+        m_frame->Make();
+    }
+    void Close() {
+        m_frame->SendMessage(WM_CLOSE);
+        m_frame = nullptr;
+        ForgetTheEnd();
+    }
+    CRect Place() const {
+        WINDOWPLACEMENT placement{};
+        placement.length = sizeof(placement);
+        ::GetWindowPlacement(m_frame->m_hWnd, &placement);
+        return placement.rcNormalPosition;
+    }
+
+    KeptFrame* m_frame = nullptr;
+};
+
+TEST_F(KeptFrameTest, ClosingTheMainFrameKeepsWhereItsBarsAreAndWhatTheyShow) {
+    Start();
+    m_frame->DockPane(&m_frame->bar, AFX_IDW_DOCKBAR_LEFT);
+    m_frame->bar.GetButton(1)->Show(FALSE);
+    Close();
+    Start();
+    ASSERT_EQ(m_frame->bar.GetCurrentAlignment(), static_cast<DWORD>(CBRS_ALIGN_TOP));
+    EXPECT_TRUE(App().LoadState(m_frame));
+    EXPECT_EQ(m_frame->bar.GetCurrentAlignment(), static_cast<DWORD>(CBRS_ALIGN_LEFT));
+    EXPECT_TRUE(m_frame->bar.GetButton(1)->IsHidden());
+}
+
+TEST_F(KeptFrameTest, ItsPlaceAndSizeComeBackWithoutShowingIt) {
+    Start();
+    m_frame->SetWindowPos(nullptr, 90, 70, 420, 260, SWP_NOZORDER);
+    const CRect before = Place();
+    Close();
+    Start();
+    ASSERT_NE(Place(), before);
+    App().LoadState(m_frame);
+    EXPECT_EQ(Place(), before);
+    EXPECT_FALSE(m_frame->IsWindowVisible());
+    EXPECT_EQ(App().m_nCmdShow, SW_SHOWNORMAL);
+}
+
+TEST_F(KeptFrameTest, OneThatWasMaximizedSaysSoToTheNextStart) {
+    Start();
+    m_frame->ShowWindow(SW_SHOWMAXIMIZED);
+    Close();
+    App().m_nCmdShow = SW_SHOWNORMAL;
+    Start();
+    App().LoadState(m_frame);
+    EXPECT_EQ(App().m_nCmdShow, SW_SHOWMAXIMIZED);
+    EXPECT_FALSE(m_frame->IsWindowVisible());
+    App().m_nCmdShow = SW_SHOWNORMAL;
+}
+
+TEST_F(KeptFrameTest, APlaceOnNoMonitorIsBroughtOntoOne) {
+    Start();
+    Close();
+    RECT distant{90000, 90000, 90400, 90300};
+    ASSERT_TRUE(
+        App().WriteSectionBinary(L"WindowPlacement", L"Rect", reinterpret_cast<LPBYTE>(&distant), sizeof(distant)));
+    Start();
+    App().LoadState(m_frame);
+    CRect shown;
+    m_frame->GetWindowRect(&shown);
+    EXPECT_NE(::MonitorFromRect(&shown, MONITOR_DEFAULTTONULL), nullptr);
+    EXPECT_EQ(shown.Size(), CSize(400, 300));
+}
+
+TEST_F(KeptFrameTest, ADamagedPlaceLeavesTheFrameAndLosesNothingElse) {
+    Start();
+    m_frame->DockPane(&m_frame->bar, AFX_IDW_DOCKBAR_LEFT);
+    Close();
+    BYTE bytes[] = {1, 2, 3};
+    ASSERT_TRUE(App().WriteSectionBinary(L"WindowPlacement", L"Rect", bytes, sizeof(bytes)));
+    Start();
+    const CRect before = Place();
+    App().LoadState(m_frame);
+    EXPECT_EQ(Place(), before);
+    EXPECT_EQ(m_frame->bar.GetCurrentAlignment(), static_cast<DWORD>(CBRS_ALIGN_LEFT));
+}
+
+TEST_F(KeptFrameTest, WithoutTheWishThePlaceIsTheProgramsOwn) {
+    Start();
+    m_frame->SetWindowPos(nullptr, 90, 70, 420, 260, SWP_NOZORDER);
+    Close();
+    Start();
+    const CRect before = Place();
+    App().EnableLoadWindowPlacement(FALSE);
+    App().LoadState(m_frame);
+    App().EnableLoadWindowPlacement();
+    EXPECT_EQ(Place(), before);
+}
+
+TEST_F(KeptFrameTest, AnotherFrameThatClosesKeepsNothing) {
+    Start();
+    AfxGetApp()->m_pMainWnd = nullptr;
+    Close();
+    EXPECT_FALSE(App().IsStateExists(L"DockingManager"));
+}
+
 } // namespace

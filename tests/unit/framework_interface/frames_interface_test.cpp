@@ -152,6 +152,7 @@ INTERFACE_OF(CFrameWndEx) {
     VIRTUAL(void, DelayUpdateFrameMenu, (HMENU));
     MEMBER(CDockingManager*, GetDockingManager, ());
     MEMBER(LRESULT, OnChangeVisualManager, (WPARAM, LPARAM));
+    MEMBER(void, OnClose, ());
     MEMBER(int, OnCreate, (LPCREATESTRUCT));
     MEMBER(void, OnGetMinMaxInfo, (MINMAXINFO FAR*));
     MEMBER(BOOL, OnNcActivate, (BOOL));

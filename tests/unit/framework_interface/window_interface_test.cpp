@@ -197,6 +197,7 @@ PROTECTED_INTERFACE_OF(CWinAppEx) {
     VIRTUAL(void, OnClosingMainFrame, (CFrameImpl*));
     VIRTUAL(void, PreLoadState, ());
     VIRTUAL(void, PreSaveState, ());
+    VIRTUAL(BOOL, ReloadWindowPlacement, (CFrameWnd*));
     VIRTUAL(void, SaveCustomState, ());
     VIRTUAL(BOOL, StoreWindowPlacement, (const CRect&, int, int));
 }
@@ -297,6 +298,11 @@ INTERFACE_OF(CKeyboardManager) {
     STATIC(BOOL, IsKeyHandled, (WORD, BYTE, CFrameWnd*, BOOL));
     STATIC(BOOL, IsKeyPrintable, (const UINT));
     STATIC(BOOL, IsShowAllAccelerators, ());
+    MEMBER(BOOL, LoadState, (LPCTSTR, CFrameWnd*));
+    CALL(LoadState);
+    MEMBER(void, ResetAll, ());
+    MEMBER(BOOL, SaveState, (LPCTSTR, CFrameWnd*));
+    CALL(SaveState);
     STATIC(void, ShowAllAccelerators, (BOOL, LPCTSTR));
     CALL(ShowAllAccelerators);
     STATIC(UINT, TranslateCharToUpper, (const UINT));

@@ -43,6 +43,8 @@ public:
     CFrameImpl& GetFrameImpl();
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    /// CWinAppEx::OnClosingMainFrame is told of the main frame, once it may close.
+    afx_msg void OnClose();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg LRESULT OnChangeVisualManager(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnPaneCheck(UINT nID);

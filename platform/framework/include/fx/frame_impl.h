@@ -21,6 +21,10 @@ public:
     /// What the frame's panes keep below the application's base section.
     BOOL LoadState() { return m_dockingManager.LoadState(); }
     BOOL SaveState() { return m_dockingManager.SaveState(); }
+    /// The frame and its panes are made: the application loads their state (CWinAppEx::LoadState), if it has a registry
+    /// key to keep it below.
+    void OnLoadFrame();
+    CFrameWnd* Frame() const { return m_frame; }
     /// The first ribbon among the panes, else null.
     CMFCRibbonBar* RibbonBar();
     /// The first menu bar among the panes, else null.
