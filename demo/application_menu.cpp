@@ -34,7 +34,7 @@ const std::vector<Row>& Rows() {
     static const std::vector<Row> rows = {
         {L"FileOpen", L"open"},
         {L"PictureSave", L"save"},
-        {L"ModePrint", L"print"},
+        {L"PagePrint", L"print"},
         {L""},
         {L"CatSettings",
          L"settings",

@@ -117,6 +117,7 @@ private:
     void ShowMode(MapMode mode) override;
     void CopyPage() override;
     void SavePage() override;
+    void PrintPage() override;
     void SwitchSkin(const std::wstring& name) override;
     bool IsSkin(const std::wstring& name) const override;
     void SwitchIconStyle(const std::wstring& style) override;

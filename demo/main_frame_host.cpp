@@ -5,6 +5,7 @@
 #include "command_index.h"
 #include "configuration_files.h"
 #include "menu_id_mgr.h"
+#include "page_print.h"
 #include "picture_export.h"
 #include "ribbon_category_ex.h"
 #include "ribbon_icon_button.h"
@@ -230,6 +231,16 @@ void CMainFrame::SavePage() {
     CBitmap page;
     const bool isMade = MakePage(page);
     SavePicture(page, isMade);
+}
+
+void CMainFrame::PrintPage() {
+    CBitmap page;
+    const PrintOutcome outcome = MakePage(page)
+                                     ? PrintPicture(GetSafeHwnd(), page, m_state.Page(), ViewerText("ViewerTitle"))
+                                     : PrintOutcome::Failed;
+    if (outcome == PrintOutcome::Failed) {
+        QKMessageBox(ViewerText("PrintFailed"), QK_MESSAGE_WARNING, GetSafeHwnd());
+    }
 }
 
 void CMainFrame::CopyText(const std::wstring& text) { PutTextOnClipboard(GetSafeHwnd(), text); }

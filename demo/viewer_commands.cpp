@@ -276,6 +276,11 @@ boost::shared_ptr<CMenuReactor> MakeModeReactor(MapState& state, ViewerHost& hos
                 host.CopyPage();
             } else if (what == L"save") {
                 host.SavePage();
+            } else if (what == L"print" && state.Mode() == MapMode::Print) {
+                host.PrintPage();
+            } else if (what == L"print") { // first what will go on the page is shown
+                state.SetMode(MapMode::Print);
+                host.ShowMode(MapMode::Print);
             } else {
                 state.SetPage(what == L"portrait" ? PageShape::Portrait : PageShape::Landscape);
             }

@@ -49,6 +49,7 @@ public:
     /// The same of what goes on the page.
     virtual void CopyPage() = 0;
     virtual void SavePage() = 0;
+    virtual void PrintPage() = 0;
     /// Asks for a file of points, lines and areas, and opens it.
     virtual void OpenMapFile() = 0;
     /// Puts a text on the clipboard.

@@ -1,0 +1,96 @@
+#include "page_print.h"
+
+#include "page_layout.h"
+
+#include <commdlg.h>
+
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+namespace {
+
+constexpr double kMargin = 15; // millimetres
+
+struct DcDestroyer {
+    void operator()(HDC dc) const { ::DeleteDC(dc); }
+};
+using OwnedDc = std::unique_ptr<std::remove_pointer_t<HDC>, DcDestroyer>;
+
+/// The printer's settings as the dialog begins with them: the default ones, on a sheet that lies as the page does.
+void ProposeShape(PRINTDLGW& dialog, PageShape shape) {
+    dialog.Flags = PD_RETURNDEFAULT | PD_NOWARNING;
+    if (!::PrintDlgW(&dialog) || dialog.hDevMode == nullptr) {
+        return; // there is no default printer: the dialog will say so
+    }
+    if (auto* const mode = static_cast<DEVMODEW*>(::GlobalLock(dialog.hDevMode))) {
+        mode->dmFields |= DM_ORIENTATION;
+        mode->dmOrientation = shape == PageShape::Portrait ? DMORIENT_PORTRAIT : DMORIENT_LANDSCAPE;
+        ::GlobalUnlock(dialog.hDevMode);
+    }
+}
+
+PrintSheet SheetOf(HDC printer) {
+    PrintSheet sheet{::GetDeviceCaps(printer, PHYSICALWIDTH),   ::GetDeviceCaps(printer, PHYSICALHEIGHT),
+                     ::GetDeviceCaps(printer, PHYSICALOFFSETX), ::GetDeviceCaps(printer, PHYSICALOFFSETY),
+                     ::GetDeviceCaps(printer, LOGPIXELSX),      ::GetDeviceCaps(printer, LOGPIXELSY)};
+    if (sheet.width <= 0) { // no printer: the whole of it is the sheet
+        sheet.width = ::GetDeviceCaps(printer, HORZRES);
+        sheet.height = ::GetDeviceCaps(printer, VERTRES);
+    }
+    return sheet;
+}
+
+} // namespace
+
+bool DrawOnSheet(HDC printer, CBitmap& picture) {
+    BITMAP description = {};
+    picture.GetBitmap(&description);
+    const WindowBox place = PlaceOnSheet(SheetOf(printer), kMargin, description.bmWidth, description.bmHeight);
+    if (place.right <= place.left) {
+        return false;
+    }
+    // Printers take pixels, not bitmaps of the screen's kind.
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof info.bmiHeader, description.bmWidth, -description.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(description.bmWidth) * description.bmHeight);
+    const CClientDC screen(nullptr);
+    if (::GetDIBits(screen.GetSafeHdc(), static_cast<HBITMAP>(picture.GetSafeHandle()), 0,
+                    static_cast<UINT>(description.bmHeight), pixels.data(), &info, DIB_RGB_COLORS) == 0) {
+        return false;
+    }
+    ::SetStretchBltMode(printer, HALFTONE);
+    ::SetBrushOrgEx(printer, 0, 0, nullptr);
+    return ::StretchDIBits(printer, place.left, place.top, place.right - place.left, place.bottom - place.top, 0, 0,
+                           description.bmWidth, description.bmHeight, pixels.data(), &info, DIB_RGB_COLORS,
+                           SRCCOPY) > 0;
+}
+
+PrintOutcome PrintPicture(HWND owner, CBitmap& picture, PageShape shape, const std::wstring& title) {
+    PRINTDLGW dialog = {};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = owner;
+    ProposeShape(dialog, shape);
+    dialog.Flags = PD_RETURNDC | PD_NOPAGENUMS | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE;
+    const BOOL isChosen = ::PrintDlgW(&dialog);
+    const DWORD error = isChosen ? 0 : ::CommDlgExtendedError();
+    ::GlobalFree(dialog.hDevMode);
+    ::GlobalFree(dialog.hDevNames);
+    if (!isChosen) {
+        const bool isTold = error == PDERR_NODEFAULTPRN; // by the dialog itself
+        return error == 0 || isTold ? PrintOutcome::Cancelled : PrintOutcome::Failed;
+    }
+    const OwnedDc printer(dialog.hDC);
+    DOCINFOW document = {};
+    document.cbSize = sizeof document;
+    document.lpszDocName = title.c_str();
+    if (!printer || ::StartDocW(printer.get(), &document) <= 0) {
+        return PrintOutcome::Failed;
+    }
+    if (::StartPage(printer.get()) > 0 && DrawOnSheet(printer.get(), picture) && ::EndPage(printer.get()) > 0 &&
+        ::EndDoc(printer.get()) > 0) {
+        return PrintOutcome::Printed;
+    }
+    ::AbortDoc(printer.get());
+    return PrintOutcome::Failed;
+}
