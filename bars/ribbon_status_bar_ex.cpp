@@ -9,11 +9,12 @@
 #include "ribbon_label_ex.h"
 #include "ribbon_slider_sync.h"
 
+#include <afxwin.h>
 #include <fx/dc_scope.h>
 #include <fx/to_rect.h>
-#include <fx/window_dc.h>
 #include <varnhold/letter_case.h>
 
+#include <algorithm>
 #include <memory>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonStatusBarEx, CMFCRibbonStatusBar)
@@ -87,6 +88,15 @@ std::unique_ptr<Element> CopyOf(Element& source) {
         slider->AddLinkedSlider(follower);
     }
     return result;
+}
+
+/// 0: there is none, or the frame cannot be dragged now.
+int GripWidthOf(const CWnd& bar, const CRect& client) {
+    const CFrameWnd* const frame = bar.GetParentFrame();
+    if ((bar.GetStyle() & SBARS_SIZEGRIP) == 0 || (frame != nullptr && frame->IsZoomed())) {
+        return 0;
+    }
+    return std::min(::GetSystemMetrics(SM_CXVSCROLL) + 1, client.Height());
 }
 
 status::Item MeasureElement(Element& element, CDC& dc) {
@@ -201,7 +211,7 @@ void CMFCRibbonStatusBarEx::RecalcLayout() {
     GetClientRect(client);
     status::Shape shape;
     shape.client = {client.Width(), client.Height()};
-    shape.gripWidth = GetSizeGripWidth();
+    shape.gripWidth = GripWidthOf(*this, client);
     shape.borderHeight = IsBottomFrame() ? ::GetSystemMetrics(SM_CYSIZEFRAME) : 0;
     shape.showsInformation = IsInformationMode() != FALSE;
     for (int index = 0; index < GetCount(); ++index) {

@@ -5,8 +5,8 @@
 #include "combos/window_combo_parts.h"
 #include "host_messages.h"
 
+#include <afxwin.h>
 #include <fx/dc_scope.h>
-#include <fx/window_dc.h>
 #include <fx/window_guard.h>
 
 #include <commctrl.h>

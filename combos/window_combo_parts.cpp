@@ -1,8 +1,8 @@
 #include "combos/window_combo_parts.h"
 
+#include <afxwin.h>
 #include <fx/dc_scope.h>
 #include <fx/to_rect.h>
-#include <fx/window_dc.h>
 
 #include <algorithm>
 

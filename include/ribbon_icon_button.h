@@ -19,7 +19,7 @@ class BARWRIGHT_API CMFCRibbonUNIcoButton : public CMFCRibbonButton {
 
 public:
     /// Without any path, like the next two: such a button draws no picture.
-    CMFCRibbonUNIcoButton() = default;
+    CMFCRibbonUNIcoButton() : CMFCRibbonButton(0, L"") {}
     CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, int smallImageIndex = -1, int largeImageIndex = -1,
                           BOOL alwaysShowDescription = FALSE);
     /// The icons stay the caller's unless `autoDestroyIcon` is set.

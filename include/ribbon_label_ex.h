@@ -28,7 +28,7 @@ public:
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
 
 protected:
-    CMFCRibbonLabelEx() = default;
+    CMFCRibbonLabelEx() : CMFCRibbonLabel(L"") {}
 
 private:
     bool m_right = false;

@@ -14,7 +14,7 @@ class BARWRIGHT_API CMFCRibbonSliderSync : public CMFCRibbonSlider {
     DECLARE_DYNCREATE(CMFCRibbonSliderSync)
 
 public:
-    CMFCRibbonSliderSync() = default;
+    CMFCRibbonSliderSync() : CMFCRibbonSlider(0) {}
     /// width: of the channel, in pixels at 96 DPI.
     explicit CMFCRibbonSliderSync(UINT id, int width = 100);
     ~CMFCRibbonSliderSync() override;

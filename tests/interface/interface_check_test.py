@@ -62,6 +62,12 @@ class InterfaceCheck(unittest.TestCase):
     def test_a_header_of_the_framework_alone_is_refused(self):
         self.refuses("#include <afxwin.h>\n#include <fx/node_pool.h>\n", "fx/node_pool.h")
 
+    def test_a_header_that_the_list_has_lost_is_refused(self):
+        left_over = os.path.join(lint_interface.GENERATED, "fx", "window_dc.h")
+        with open(left_over, "w", encoding="utf-8") as file:
+            file.write('#include "../interface.h"\n')
+        self.refuses("#include <afxwin.h>\n#include <fx/window_dc.h>\n", "fx/window_dc.h")
+
     def test_an_override_of_what_is_not_virtual_in_the_documentation_is_refused(self):
         self.refuses("#include <afxwin.h>\nclass Window : public CWnd { HWND GetSafeHwnd() const override; };\n", "override")
 
