@@ -1,6 +1,7 @@
 #include <afxcontrolbars.h>
 
 #include "batch.h"
+#include "matrix.h"
 #include "options.h"
 #include "preview_frame.h"
 
@@ -56,6 +57,14 @@ public:
         }
         if (!m_options.batch.empty()) {
             RunBatch();
+            return FALSE;
+        }
+        if (!m_options.matrix.empty()) {
+            const BarviewOptions given = m_options; // those of each combination take their place
+            m_exitCode = WriteMatrix(given, [this](const BarviewOptions& options,
+                                                   const PictureTaker& take) { return ShowTabs(options, take); })
+                             ? m_exitCode
+                             : kLoadFailed;
             return FALSE;
         }
         Prepare(m_options.directory);
@@ -128,6 +137,35 @@ private:
             m_watch.Stop();
             frame.PostMessage(WM_CLOSE);
         }
+    }
+
+    /// Builds the bars of one combination and shows one tab after the other. False when there is no window for them.
+    bool ShowTabs(const BarviewOptions& options, const PictureTaker& take) {
+        ForgetConfiguration();
+        m_options = options;
+        if (!EnterDirectory(options.directory)) {
+            return false;
+        }
+        m_options.directory = kCurrentDirectory;
+        Prepare(kCurrentDirectory);
+        CPreviewFrame* const frame = Build();
+        if (frame == nullptr) {
+            return false;
+        }
+        CMFCRibbonBar& ribbon = *frame->Sources().ribbon;
+        for (int i = 0; i < ribbon.GetCategoryCount(); ++i) {
+            CMFCRibbonCategory* const category = ribbon.GetCategory(i);
+            if (category->IsVisible()) {
+                ribbon.SetActiveCategory(category);
+                ribbon.ForceRecalcLayout();
+                ribbon.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+                SettleWindow(frame->GetSafeHwnd());
+                take(category->GetName(), i, frame->GetSafeHwnd());
+            }
+        }
+        m_pMainWnd = nullptr; // its end is not that of the program
+        frame->DestroyWindow();
+        return true;
     }
 
     void RunBatch() {

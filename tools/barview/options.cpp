@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 
 namespace {
 
@@ -32,6 +33,58 @@ std::vector<std::wstring> FindFiles(const std::wstring& directory, const CString
     return files;
 }
 
+/// What stands between the commas.
+std::vector<std::wstring> Pieces(const std::wstring& text) {
+    std::vector<std::wstring> pieces(1);
+    for (const wchar_t c : text) {
+        if (c == L',') {
+            pieces.emplace_back();
+        } else {
+            pieces.back() += c;
+        }
+    }
+    return pieces;
+}
+
+/// Reads each piece as the table would read it alone, and keeps it in the list.
+template <class Value>
+OptionTable::Setter ListOf(std::vector<Value>& list, const std::function<bool(const std::wstring&, Value&)>& read) {
+    return [&list, read](const std::wstring& text) {
+        list.clear();
+        for (const std::wstring& piece : Pieces(text)) {
+            Value value{};
+            if (!read(piece, value)) {
+                return false;
+            }
+            list.push_back(std::move(value));
+        }
+        return true;
+    };
+}
+
+bool ReadAlone(OptionTable& table, const std::wstring& value) {
+    std::vector<std::wstring> words;
+    std::wstring error;
+    return table.Read({L"--value", value}, 0, words, error);
+}
+
+bool ReadSkin(const std::wstring& text, std::wstring& skin) {
+    OptionTable table;
+    return ReadAlone(table.AddChoice(L"--value", {L"black", L"silver"}, skin), text);
+}
+bool ReadLanguage(const std::wstring& text, std::wstring& language) {
+    language = text;
+    return !text.empty();
+}
+bool ReadScale(const std::wstring& text, int& scale) {
+    OptionTable table;
+    return ReadAlone(table.AddNumber(L"--value", kLowestScale, kHighestScale, scale), text);
+}
+bool ReadSize(const std::wstring& text, std::pair<int, int>& size) {
+    OptionTable table;
+    return ReadAlone(table.AddSize(L"--value", kLargest, size.first, size.second), text);
+}
+
 } // namespace
 
 const wchar_t* BarviewUsage() {
@@ -39,6 +92,9 @@ const wchar_t* BarviewUsage() {
            L"               [--skin black|silver] [--size WxH]\n"
            L"               [--scale PERCENT] [--category NAME] [--path NAME] [--app NAME] [--screenshot OUT.png]\n"
            L"               [--dump OUT.json] [--watch [--changes N]]\n"
+           L"       barview DIR --matrix OUT [--skins S,...] [--langs L,...] [--scales P,...] [--sizes WxH,...] "
+           L"[--against "
+           L"OTHER]\n"
            L"       barview --batch LIST [--lang LANG] [--skin black|silver] [--size WxH] [--scale PERCENT]\n"
            L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon, "
            L"--menu\n"
@@ -52,6 +108,11 @@ const wchar_t* BarviewUsage() {
            L"without\n"
            L"its extension; --app names the ribbon file whose status row is shown in a status bar. Each line of LIST\n"
            L"is a directory, a tab and the file for its dump; each directory is built as if it were the first.\n"
+           L"--matrix writes a picture of every tab in every combination and OUT\\index.html, which shows them side by "
+           L"side.\n"
+           L"Among the languages are pseudo (longer texts with marks, in brackets) and mirrored (from the right to the "
+           L"left).\n"
+           L"--against marks what is different in the installation directory OTHER.\n"
            L"--watch builds the bars anew whose files below DIR change, and writes --screenshot and --dump again each "
            L"time;\n"
            L"a broken file leaves what is shown as it is, and the caption says what is wrong. --changes leaves after N "
@@ -83,6 +144,12 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
                                   .AddText(L"--screenshot", options.screenshot)
                                   .AddText(L"--dump", options.dump)
                                   .AddText(L"--batch", options.batch)
+                                  .AddText(L"--matrix", options.matrix)
+                                  .AddText(L"--against", options.against)
+                                  .Add(L"--skins", ListOf<std::wstring>(options.skins, ReadSkin))
+                                  .Add(L"--langs", ListOf<std::wstring>(options.languages, ReadLanguage))
+                                  .Add(L"--scales", ListOf<int>(options.scales, ReadScale))
+                                  .Add(L"--sizes", ListOf<std::pair<int, int>>(options.sizes, ReadSize))
                                   .AddFlag(L"--watch", options.isWatching)
                                   .AddNumber(L"--changes", 1, kMostTimes, options.changes)
                                   .Read(arguments, 1, directories, error);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// What the preview was asked for.
@@ -20,13 +21,22 @@ struct BarviewOptions {
     std::wstring path;        ///< Of the working mode to show; empty: all categories.
     std::wstring screenshot;
     std::wstring dump;
+    std::wstring matrix;  ///< Folder for pictures of every tab in every combination of the four below.
+    std::wstring against; ///< Another installation directory, to be compared with.
+    std::vector<std::wstring> skins;
+    std::vector<std::wstring> languages; ///< None: all, and the two that are made up.
+    std::vector<int> scales;
+    std::vector<std::pair<int, int>> sizes;
     std::wstring batch; ///< File that lists directories and the files of their dumps; empty: `directory` alone.
 
+    bool isMirrored = false; ///< The window runs from the right to the left.
     bool isWatching = false; ///< Build the bars anew whose files change, and write the outputs each time.
     int changes = 0;         ///< Leave after so many changes; 0: when the window is closed.
 
     /// Nobody answers: leave after the output, and never wait for an answer.
-    bool IsUnattended() const { return !isWatching && (!screenshot.empty() || !dump.empty() || !batch.empty()); }
+    bool IsUnattended() const {
+        return !isWatching && (!screenshot.empty() || !dump.empty() || !batch.empty() || !matrix.empty());
+    }
 };
 
 /// Takes an installation directory, with its closing backslash, and the files in it that were not named.

@@ -26,7 +26,8 @@ BOOL CPreviewFrame::CreateFrame() {
     const DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
     ::AdjustWindowRectEx(rect, style, FALSE, 0);
     rect.MoveToXY(0, 0);
-    return Create(nullptr, m_options.directory.c_str(), style, rect);
+    const DWORD extended = m_options.isMirrored ? WS_EX_LAYOUTRTL : 0;
+    return Create(nullptr, m_options.directory.c_str(), style, rect, nullptr, nullptr, extended);
 }
 
 bool CPreviewFrame::Build() {
