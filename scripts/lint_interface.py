@@ -24,7 +24,6 @@ import sys
 
 # What comes along with the library and has sources of its own.
 ALONG = ["platform/framework/gdi/memory_dc.cpp", "platform/framework/gdi/device_pixels.cpp"]
-FOLDERS = ["commands", "config", "settings", "bars", "combos", "elements", "skins"]
 LIMIT = 99
 GENERATED = "build/interface"
 ROOTS = [GENERATED, "platform/varnhold/include", "platform/tovasque/include", "include", ".", "platform/framework"]
@@ -89,8 +88,13 @@ def remembered(key, command, what, source=None):
     return True
 
 
+def folders():
+    """The library's: those whose uses of each other scripts/layers.txt lists."""
+    return re.findall(r"^use (\w+) ->", text_of("scripts/layers.txt"), re.M)
+
+
 def sources():
-    listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "--", *[f"{f}/*.cpp" for f in FOLDERS]],
+    listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "--", *[f"{f}/*.cpp" for f in folders()]],
                             check=True, capture_output=True, text=True).stdout.split()
     return sorted(path for path in {*listed, *ALONG} if os.path.exists(path))
 
