@@ -123,7 +123,9 @@ private:
             known.push_back(keyword);
             return;
         }
-        const std::wstring meant = ClosestWord(keyword, known);
+        // What many commands share says nothing about one of them.
+        constexpr std::size_t few = 8;
+        const std::wstring meant = known.size() <= few ? ClosestWord(keyword, known) : std::wstring();
         if (m_isComplete && !meant.empty() && !m_meant.contains(keyword) && !m_passedOver.contains(keyword)) {
             ReportTogether(
                 m_sink, *gathered.file, PlaceOf(element, AttributeUse::Keyword), "similar-keyword",
@@ -150,9 +152,9 @@ private:
             return other->element.ValueOf(AttributeUse::Keyword) == keyword;
         });
         if (earlier != m_quickAccess.end()) {
-            ReportTogether(m_sink, *gathered.file, PlaceOf(gathered.element, AttributeUse::Keyword), "duplicate-keyword",
-                           L"a command stands in the quick access toolbar once", L"remove one of the two",
-                           {PlaceOf(**earlier, AttributeUse::Keyword, L"the earlier one")});
+            ReportTogether(m_sink, *gathered.file, PlaceOf(gathered.element, AttributeUse::Keyword),
+                           "duplicate-keyword", L"a command stands in the quick access toolbar once",
+                           L"remove one of the two", {PlaceOf(**earlier, AttributeUse::Keyword, L"the earlier one")});
         }
     }
 

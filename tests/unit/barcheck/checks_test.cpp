@@ -194,6 +194,23 @@ TEST_F(CheckedIcon, WhatCannotBeDrawnIsNoIcon) {
     EXPECT_TRUE(Findings("16").starts_with(place + "icon-size\n"));
 }
 
+TEST(CheckedConfiguration, AnIconThatManyCommandsShareSaysNothingOfAKeywordLikeTheirs) {
+    for (const int commands : {2, 20}) {
+        const CheckedInstallation installation;
+        installation.WriteIcon("pic", "a.ico");
+        std::string elements;
+        for (int i = 0; i < commands; ++i) {
+            elements += "<i KEYWORD=\"Layer" + std::string(1, static_cast<char>('A' + i)) +
+                        "Shown\" NAME=\"\" TYPE=\"BUTTON\" PICPATH=\"pic\\a.ico\"/>\n";
+        }
+        installation.Write("cfg/ribbon.xml", RibbonWith(elements));
+        installation.Write(
+            "cfg/toolbar.xml",
+            ToolBarWith("<i TYPE=\"button\" KEYWORD=\"LayerAShow\" PROMPT=\"x\" PICPATH=\"pic\\a.ico\"/>"));
+        EXPECT_EQ(installation.Findings(), commands == 2 ? "cfg/toolbar.xml:4:18 similar-keyword\n" : "");
+    }
+}
+
 TEST(CheckedScenario, TheGeneratedRibbonOfFiveThousandButtonsIsCleanAndCheckedInASecond) {
     ScenarioDirectory scenario;
     scenario.AddRibbonFile(5000, 50);
