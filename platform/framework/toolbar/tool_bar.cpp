@@ -84,7 +84,6 @@ int CMFCToolBar::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     }
     if (!m_bMenuMode) {
         AllToolBars().AddTail(this);
-        CreateToolBarTooltip();
     }
     for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
         static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position))->OnChangeParentWnd(this);

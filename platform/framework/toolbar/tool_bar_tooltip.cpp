@@ -13,7 +13,11 @@ constexpr UINT_PTR kTool = 1;
 
 BOOL CMFCToolBar::PreTranslateMessage(MSG* pMsg) {
     const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
-    if (isMouse && pMsg->hwnd == m_hWnd && m_pToolTip != nullptr) {
+    const bool isOnBar = isMouse && pMsg->hwnd == m_hWnd && !m_bMenuMode;
+    if (isOnBar && m_pToolTip == nullptr) {
+        CreateToolBarTooltip(); // a window of its own, which most bars of a program never need
+    }
+    if (isOnBar && m_pToolTip != nullptr) {
         if (pMsg->message == WM_MOUSEMOVE) {
             PlaceTooltip(CPoint(AFX_GET_X_LPARAM(pMsg->lParam), AFX_GET_Y_LPARAM(pMsg->lParam)));
         }

@@ -13,6 +13,7 @@ IMPLEMENT_DYNCREATE(OwnTooltip, CMFCToolTipCtrl)
 
 class ToolBarTooltip : public ToolBarTest {
 protected:
+    ToolBarTooltip() { MoveTo(CPoint(0, 0)); } // a bar without a pointer has none
     ~ToolBarTooltip() override { m_manager.SetTooltipParams(AFX_TOOLTIP_TYPE_ALL, nullptr); }
 
     CToolTipCtrl* Tooltip() { return Bar().m_pToolTip; }
