@@ -130,6 +130,14 @@ int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) 
     if (nIndex < 0 || nIndex >= imageList.m_iCount || imageList.m_sizeImage != m_sizeImage) {
         return -1;
     }
+    const PixelView well = ViewOf(m_hbmImageWell);
+    const int kept = m_iCount * m_sizeImage.cx;
+    const bool isAlike = m_nBitsPerPixel == imageList.m_nBitsPerPixel && well.height == m_sizeImage.cy;
+    if (isAlike && well.width >= kept + m_sizeImage.cx) {
+        CopyPixels(ViewOf(imageList.m_hbmImageWell), imageList.GetSourceRect(nIndex), well, kept);
+        m_nSpare = well.width - kept - m_sizeImage.cx;
+        return m_iCount++;
+    }
     std::uint32_t* bits = nullptr;
     const HBITMAP one = visual::MakeBitmap32(m_sizeImage.cx, m_sizeImage.cy, &bits);
     if (one == nullptr) {
