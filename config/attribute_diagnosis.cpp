@@ -6,8 +6,35 @@
 #include <varnhold/strings.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
+
+struct OtherName {
+    std::wstring_view name;
+    AttributeUse use;
+};
+/// What people write who know the attributes of other files.
+constexpr OtherName kOtherNames[] = {
+    {L"NAME", AttributeUse::Name},          {L"TEXT", AttributeUse::Name},          {L"CAPTION", AttributeUse::Name},
+    {L"LABEL", AttributeUse::Name},         {L"ICON", AttributeUse::Icon},          {L"IMAGE", AttributeUse::Icon},
+    {L"PICTURE", AttributeUse::Icon},       {L"PIC", AttributeUse::Icon},           {L"COMMAND", AttributeUse::Command},
+    {L"ACTION", AttributeUse::Command},     {L"ARGUMENT", AttributeUse::Parameter}, {L"SHORTCUT", AttributeUse::HotKey},
+    {L"ACCELERATOR", AttributeUse::HotKey}, {L"HINT", AttributeUse::ToolTip},       {L"ID", AttributeUse::Keyword},
+    {L"KEY", AttributeUse::Keyword},        {L"KIND", AttributeUse::Type},
+};
+
+std::optional<AttributeUse> UseMeantBy(const std::wstring& name) {
+    for (const OtherName& other : kOtherNames) {
+        if (varnhold::EqualsIgnoringCase(other.name, name)) {
+            return other.use;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Of a menu; misspelt it is reported there.
+bool IsSeparatorWord(const std::wstring& text) { return !ClosestWord(text, {L"SEPARATOR"}).empty(); }
 
 class Description {
 public:
@@ -26,6 +53,7 @@ public:
             }
         }
         CheckOrder();
+        CheckIgnoredTexts();
         for (const varnhold::XmlAttributeView& written : m_unknown) {
             ReportUnknown(written);
         }
@@ -70,6 +98,19 @@ private:
         }
     }
 
+    /// Texts come from the tables; what is written here is seen by nobody.
+    void CheckIgnoredTexts() const {
+        for (const MetAttribute& attribute : m_met.attributes) {
+            const bool isAsked = attribute.use == AttributeUse::Name || attribute.use == AttributeUse::ToolTip;
+            if (isAsked && !attribute.value.empty() && !IsSeparatorWord(attribute.value)) {
+                m_diagnostics.Report("ignored-text", attribute.position,
+                                     Quoted(attribute.value) +
+                                         L" is not shown: the text is looked up under the keyword",
+                                     L"put it into the tables below lang, and leave this empty");
+            }
+        }
+    }
+
     void ReportUnknown(const varnhold::XmlAttributeView& written) {
         const std::wstring name = string2wstring(written.name);
         std::vector<std::wstring> free;
@@ -79,7 +120,11 @@ private:
             }
         }
         const varnhold::TextPosition position = m_element.GetAttributePosition(written);
-        const std::wstring meant = ClosestWord(name, free);
+        std::wstring meant = ClosestWord(name, free);
+        if (const auto use = UseMeantBy(name); meant.empty() && use && !m_met.Has(*use)) {
+            const auto rule = std::ranges::find(m_rules, *use, &AttributeRule::use);
+            meant = rule == m_rules.end() ? std::wstring() : string2wstring(rule->name);
+        }
         if (!meant.empty()) {
             m_met.attributes.push_back(
                 {FindRule(wstring2String(meant))->use, string2wstring(written.value), position, true});

@@ -228,6 +228,10 @@ constexpr DiagnosticCode kCodes[] = {
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\example.ico\"/>"},
 
     // Texts.
+    {"ignored-text", Note, "NAME, MENUNAME or TOOLTIP has a text.",
+     "It is not shown: these attributes only ask for the text that the tables have under the keyword.",
+     "Put the text into the tables below lang, and leave the attribute empty.", Panel,
+     "<item KEYWORD=\"In\" NAME=\"Nearer\" TYPE=\"BUTTON\"/>", "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"missing-text", Warning,
      "An element asks for a text (NAME, MENUNAME, TOOLTIP) that a language's tables do not have under its keyword.",
      "The keyword itself is shown for a name, nothing for a tooltip.",

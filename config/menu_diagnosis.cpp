@@ -22,7 +22,12 @@ bool MenuDiagnosis::HasAttributes(varnhold::XmlCursor& element, const wchar_t* e
 void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) const {
     const bool hasName = met.Has(AttributeUse::Name);
     const std::wstring_view keyword = met.ValueOf(AttributeUse::Keyword);
-    if (keyword.empty() && (hasName || met.role == ElementRole::MenuItem)) {
+    const std::wstring meant =
+        keyword.empty() ? ClosestWord(met.ValueOf(AttributeUse::Name), {L"SEPARATOR"}) : std::wstring();
+    if (!meant.empty()) {
+        ReportAt(m_diagnostics, met, AttributeUse::Name, "missing-keyword",
+                 L"this is no separator, and " + std::wstring(effect), DidYouMean(meant));
+    } else if (keyword.empty() && (hasName || met.role == ElementRole::MenuItem)) {
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword", effect);
     } else if (!hasName && keyword != kRecentFilesKeyword) {
         m_diagnostics.Report("missing-caption", met.position, L"without MENUNAME no caption is shown here",

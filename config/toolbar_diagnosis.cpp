@@ -87,12 +87,12 @@ void ToolBarDiagnosis::MeetButton(varnhold::XmlCursor& element) const {
     }
     if (kind == ToolBarItemKind::Separator) {
         met.role = ElementRole::ToolBarSeparator;
-    } else if (met.ValueOf(AttributeUse::Keyword).empty()) {
+    } else if (met.ValueOf(AttributeUse::Keyword).empty() && kind != ToolBarItemKind::Unknown) {
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword",
                  L"a button without a keyword leads to no command");
     }
-    if (kind == ToolBarItemKind::Button && met.ValueOf(AttributeUse::Prompt).empty() &&
-        met.ValueOf(AttributeUse::Icon).empty()) {
+    if (kind == ToolBarItemKind::Button && !met.ValueOf(AttributeUse::Keyword).empty() &&
+        met.ValueOf(AttributeUse::Prompt).empty() && met.ValueOf(AttributeUse::Icon).empty()) {
         m_diagnostics.Report("missing-caption", met.position, L"a button without PROMPT and PICPATH is blank",
                              L"add PICPATH, and PROMPT for its text");
     }

@@ -249,7 +249,7 @@ inline constexpr PlantedFault kPlantedFaults[] = {
     {"cfg/menu.xml", "KEYWORD=\"Print\" MENUNAME=\"\" TOOLTIP=\"\"", "@@TOOLTIP=\"\" KEYWORD=\"Print\" MENUNAME=\"\"",
      "attribute-order"},
     {"cfg/menu.xml", "<item MENUNAME=\"SEPARATOR\"/>", "@@<item/>", "no-attributes"},
-    {"cfg/menu.xml", "<item MENUNAME=\"SEPARATOR\"/>", "@@<item MENUNAME=\"SEPARATTOR\"/>", "missing-keyword"},
+    {"cfg/menu.xml", "<item MENUNAME=\"SEPARATOR\"/>", "<item @@MENUNAME=\"SEPARATTOR\"/>", "missing-keyword"},
     {"cfg/menu.xml", "<item KEYWORD=\"QK_DEF_ZJWJ\"/>", "@@<item SHORTKEY=\"Q\"/>", "missing-keyword"},
     {"cfg/menu.xml", "<item KEYWORD=\"QK_DEF_ZJWJ\"/>", "@@<item KEYWORD=\"QK_DEF_ZJW\"/>", "missing-caption"},
     {"cfg/menu.xml", "<popup KEYWORD=\"MenuRecent\" MENUNAME=\"\" SHORTKEY=\"R\">",
@@ -372,4 +372,7 @@ inline constexpr PlantedFault kPlantedFaults[] = {
     {"cfg/menu.xml", "SHORTKEY=\"F\"", "@@SHORTKEY=\" \"", "access-key-syntax"},
     {"cfg/ribbon.xml", "<item KEYWORD=\"ZoomIn\"/>", "<item KEYWORD=\"ZoomIn\"/><item @@KEYWORD=\"Open\"/>",
      "duplicate-keyword"},
+    {"cfg/ribbon.xml", "KEYWORD=\"PanelZoom\" NAME=\"\"", "KEYWORD=\"PanelZoom\" @@NAME=\"Zoom\"", "ignored-text"},
+    {"cfg/menu.xml", "KEYWORD=\"MenuFile\" MENUNAME=\"\"", "KEYWORD=\"MenuFile\" @@NAME=\"\"", "unknown-attribute"},
+    {"cfg/toolbar.xml", "TYPE=\"separate\"", "@@TYPE=\"separator\"", "unknown-type"},
 };

@@ -47,16 +47,16 @@ protected:
 };
 
 TEST_F(ToolBarFile, GroupsToolbarsAndButtonsAreThreeLevelsWhateverTheirNames) {
-    ASSERT_TRUE(Load("<x><a KEYWORD='G'><b PROMPT='1'><c TYPE='button' KEYWORD='A'/><d TYPE='separate'/></b>"
+    ASSERT_TRUE(Load("<x><a KEYWORD='G'><b PROMPT='1'><c TYPE='button' KEYWORD='A' PROMPT='a'/><d TYPE='separate'/></b>"
                      "<b PROMPT='2'/></a><a KEYWORD='H'/></x>"));
     EXPECT_EQ(outline.text, L"[G (1 button:A separate: (2 [H");
     EXPECT_TRUE(sink.codes.empty());
 }
 
 TEST_F(ToolBarFile, AFourthLevelIsNotRead) {
-    ASSERT_TRUE(
-        Load("<x><a KEYWORD='g'><b PROMPT='p'><c TYPE='button' KEYWORD='A'><d TYPE='button' KEYWORD='B'/></c></b>"
-             "</a></x>"));
+    ASSERT_TRUE(Load(
+        "<x><a KEYWORD='g'><b PROMPT='p'><c TYPE='button' KEYWORD='A' PROMPT='a'><d TYPE='button' KEYWORD='B'/></c></b>"
+        "</a></x>"));
     EXPECT_EQ(outline.text, L"[g (p button:A");
     EXPECT_EQ(sink.codes, (std::vector<std::string>{"children-lost@33"}));
 }
@@ -104,9 +104,11 @@ TEST_F(ToolBarFile, EveryProblemIsReportedOnceWithItsPlace) {
         {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='slider' KEYWORD='A'/></b></a>", {"unknown-type@33"}},
         {"<a KEYWORD='g'><b PROMPT='p'><c KEYWORD='A'/></b></a>", {"missing-type@30"}},
         {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='button'/></b></a>", {"missing-keyword@30"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='button' KEYWORD='k'/></b></a>", {"missing-caption@30"}},
         {"<a KEYWORD='g'><b PROMPT='p'><c/></b></a>", {"no-attributes@30"}},
         {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='separate' WIDTH='1'/></b></a>", {"unknown-attribute@49"}},
-        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='button' KEYWORD='k' KEYWORD='l'/></b></a>", {"duplicate-attribute@59"}},
+        {"<a KEYWORD='g'><b PROMPT='p'><c TYPE='button' KEYWORD='k' KEYWORD='l' PROMPT='a'/></b></a>",
+         {"duplicate-attribute@59"}},
         {"<a KEYWORD='g' TYPE='button'><b><c/></b></a>", {"wrong-depth@16"}},
         {"<a KEYWORD='g'><b TYPE='button' KEYWORD='k'><c/></b></a>", {"wrong-depth@19"}},
     };
