@@ -3,6 +3,7 @@
 #include "main_frame.h"
 #include "options.h"
 #include "screenshot.h"
+#include "watchman.h"
 
 #include "varnhold/language.h"
 #include "varnhold/strings.h"
@@ -50,6 +51,9 @@ public:
         }
         frame->WriteRecord();
         if (options->screenshot.empty()) {
+            if (!options->watch.empty()) {
+                m_watchman.emplace(frame->GetSafeHwnd(), options->watch);
+            }
             return TRUE;
         }
         SettleWindow(frame->GetSafeHwnd());
@@ -69,6 +73,7 @@ public:
     }
 
     int ExitInstance() override {
+        m_watchman.reset();
         CWinAppEx::ExitInstance();
         m_gdiPlus.reset();
         return m_exitCode;
@@ -78,6 +83,7 @@ private:
     static void PrintLine(const std::wstring& line) { std::fprintf(stderr, "%s\n", wstring2String(line).c_str()); }
 
     std::optional<GdiPlusSession> m_gdiPlus;
+    std::optional<Watchman> m_watchman;
     int m_exitCode = 0;
 };
 

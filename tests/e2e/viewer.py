@@ -120,6 +120,17 @@ class Viewer:
     def _xdotool(self, *words):
         subprocess.run(["xdotool", *map(str, words)], env=self._environment, check=True)
 
+    def act(self, *words):
+        """Input in the words of xdotool, whatever comes of it."""
+        self._xdotool(*words)
+
+    @property
+    def record_file(self):
+        return self._record_file
+
+    def has_left(self):
+        return self._program.poll() is not None
+
     def click(self, x, y):
         self._xdotool("mousemove", x, y, "sleep", 0.1, "click", 1)
 
