@@ -79,6 +79,10 @@ public:
         return m_exitCode;
     }
 
+protected:
+    /// The frame keeps its state itself, and a start that is to keep nothing does not.
+    void OnClosingMainFrame(CFrameImpl*) override {}
+
 private:
     static void PrintLine(const std::wstring& line) { std::fprintf(stderr, "%s\n", wstring2String(line).c_str()); }
 
