@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <utility>
 
 /// A small file that outlives damage: it is written as a whole or not at all, and the last one that could be read lies
 /// beside it (NAME.last). One that cannot be read is put aside (NAME.damaged) for whoever wants to look at it.

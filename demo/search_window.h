@@ -65,7 +65,7 @@ private:
     int RowAt(CPoint point) const;
     /// Brings a rectangle to the other side where the window is written from right to left.
     CRect Mirrored(CRect rect) const;
-    void DrawField(class SoftCanvas& canvas);
+    void DrawField(SoftCanvas& canvas);
     void DrawRow(SoftCanvas& canvas, int row);
     void DrawIcon(CDC& dc, const SearchCommand& command, const CRect& place);
     void DrawText(CDC& dc, const std::wstring& text, CRect rect, COLORREF color, bool isAtEnd = false);

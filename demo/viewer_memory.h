@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// What the viewer keeps from one run to the next: a file of its own, viewer.json, beside the one of the bars'
