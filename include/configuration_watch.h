@@ -11,10 +11,10 @@
 
 /// What a file of an installation is for, by its path below the installation directory.
 enum class ConfigurationFileKind {
-    Ribbon,   ///< cfg\ribbon*.xml
-    Menu,     ///< cfg\menu*.xml
-    ToolBars, ///< cfg\toolbar*.xml
-    Texts,    ///< lang\LANGUAGE\*.xlf
+    Ribbon,   ///< cfg/ribbon*.xml
+    Menu,     ///< cfg/menu*.xml
+    ToolBars, ///< cfg/toolbar*.xml
+    Texts,    ///< lang/LANGUAGE/*.xlf
     Icon,     ///< *.ico
     Other,    ///< any other *.xml or *.xlf: a file that the host names otherwise
 };

@@ -85,7 +85,8 @@ public:
           m_stop(::CreateEventW(nullptr, TRUE, FALSE, nullptr)) {}
 
     bool Start() {
-        if (!m_signal.IsDirectory() || !CreateEx(0, AfxRegisterWndClass(0), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr)) {
+        if (!m_signal.IsDirectory() ||
+            !CreateEx(0, AfxRegisterWndClass(0), L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr)) {
             return false;
         }
         // What is written from here on is seen: the system keeps it until it is waited for.
