@@ -34,7 +34,7 @@ const std::vector<Row>& Rows() {
     static const std::vector<Row> rows = {
         {L"FileOpen", L"open"},
         {L"PictureSave", L"save"},
-        {L"PagePrint", L"print"},
+        {L"PagePrint", L"print-page"},
         {L""},
         {L"CatSettings",
          L"settings",
