@@ -413,9 +413,9 @@ void CMainFrame::ApplySkin() {
     if (const ViewerSkin* const skin = FindViewerSkin(m_skin)) {
         m_iconStyle = skin->iconStyle;
         CMFCRibbonUNIcoButton::SetSkinStyle(skin->iconStyle);
-        m_ribbon.ChangeSkinColor(skin->style, TRUE);
         m_helpHint.TakeIcons(skin->icons);
         m_pane.SetSkin(static_cast<UINT>(skin->style));
+        m_ribbon.ChangeSkinColor(skin->style, TRUE); // which paints all that the frame shows
     }
 }
 

@@ -143,8 +143,6 @@ void CMainFrame::SwitchSkin(const std::wstring& name) {
     m_skin = name == L"switch" ? std::find_if(kViewerSkins.begin(), kViewerSkins.end(), isOther)->name : name;
     ApplySkin();
     TakeBarIcons();
-    // All at once: window by window, as the messages come, the frame would be seen half in each skin.
-    RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 
 void CMainFrame::TakeBarIcons() { m_bars.TakeIcons(m_ribbon, FindViewerSkin(m_skin)->iconSet); }

@@ -168,6 +168,7 @@ void CFrameImpl::OnChangeVisualManager() {
         FillUncovered(*m_frame, RibbonBar()); // which nobody paints perhaps
     }
     m_frame->RecalcLayout();
-    // Not painted yet: the look may get its last settings after this, and would be seen without them.
+    // Not painted yet: bars and fields that have not heard of the look would be seen with the colours of the former
+    // one.
     m_frame->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_FRAME | RDW_ERASE);
 }

@@ -79,7 +79,8 @@ void __stdcall CMFCVisualManager::DestroyInstance(BOOL bAutoDestroyOnly) {
 void CMFCVisualManager::RedrawAll() {
     for (const HWND window : FrameworkWindows()) {
         if (::IsWindow(window)) {
-            ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+            ::RedrawWindow(window, nullptr, nullptr,
+                           RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
         }
     }
 }
