@@ -85,7 +85,6 @@ void ApplicationMenu::Button::OnDraw(CDC* dc) {
 
 void ApplicationMenu::Attach(CMFCRibbonBar& ribbon) {
     m_ribbon = &ribbon;
-    ribbon.SetWindows7Look(TRUE, FALSE); // the button is as high as the tabs
 }
 
 void ApplicationMenu::Detach() {

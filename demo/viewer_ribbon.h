@@ -2,7 +2,8 @@
 
 #include "ribbon_bar_ex.h"
 
-/// The viewer's ribbon: an extended bar that says when its own context menu is open.
+/// The viewer's ribbon: an extended bar that says when its own context menu is open, and whose application button is as
+/// high as the tabs in both skins.
 class CViewerRibbon : public CMFCRibbonBarEx {
     DECLARE_DYNAMIC(CViewerRibbon)
 
@@ -17,8 +18,13 @@ public:
     /// the button that changes the skin.
     void SetQuickAccessMenuTip(const CString& text);
 
+    void ChangeSkinColor(int nStyle, BOOL bFlag) override;
     BOOL OnShowRibbonContextMenu(CWnd* window, int x, int y, CMFCRibbonBaseElement* hit) override;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
     bool m_isInContextMenu = false;
+    bool m_isBetweenSkins = false;
 };

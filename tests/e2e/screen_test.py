@@ -56,53 +56,6 @@ class LanguageSwitch(unittest.TestCase):
             self.assertEqual(neither, [], f"of {len(looks)} looks that differ")
 
 
-class SkinSwitch(unittest.TestCase):
-    """The frame is seen in the one skin and in the other one; what is seen of the way is one step at most."""
-    # The pointer's button shows the pointer before and after; its tooltip may come.
-    POINTER_ROOM = 40
-    TIP_ROOM = 80
-    HALVES = 1
-    HEIGHT = 790  # from the ribbon's top to the window's border
-
-    def parts(self, viewer, look):
-        """The title, the tabs, the panels, the list beside the map, the status bar."""
-        left, top, right, bottom = viewer.record["ribbonOnScreen"]
-        tabs_top, tabs_bottom = viewer.record["tabsOnScreen"][0][1], viewer.record["tabsOnScreen"][0][3]
-        status_bottom = top + self.HEIGHT
-        return [look.crop(box) for box in (
-            (left, top, right, tabs_top), (left, tabs_top, right - self.POINTER_ROOM, tabs_bottom),
-            (left, tabs_bottom + 2, right - self.TIP_ROOM, bottom), (left, bottom + 4, left + 160, status_bottom - 40),
-            (left, status_bottom - 24, right - 20, status_bottom))]
-
-    def switch_and_look(self, viewer):
-        _, _, right, _ = viewer.record["ribbonOnScreen"]
-        _, top, _, bottom = viewer.record["tabsOnScreen"][0]
-        viewer.press(right - self.POINTER_ROOM // 2, (top + bottom) // 2)
-        before = viewer.settled_look()
-        viewer.release()
-        end = time.monotonic() + 3
-        looks = viewer.look_until(lambda look: time.monotonic() > end)
-        return before, looks, viewer.settled_look()
-
-    def test_every_part_goes_from_one_skin_to_the_other_in_one_step(self):
-        with Viewer(BIN_DIR, "--lang", "en", "--skin", "silver") as viewer:
-            viewer.wait_for(lambda record: record["map"]["finished"])
-            for skin in ("black", "silver", "black"):
-                before, looks, after = self.switch_and_look(viewer)
-                old, new = self.parts(viewer, before), self.parts(viewer, after)
-                for part, other in zip(old, new):
-                    self.assertIsNotNone(ImageChops.difference(part, other).getbbox(), "each part follows the skin")
-                states = [["old" if part == a else "new" if part == b else "neither" for part, a, b in
-                           zip(self.parts(viewer, look), old, new)] for look in looks]
-                for number, seen in enumerate(states):
-                    if "neither" in seen:
-                        keep(looks[number], f"{skin}-{number}")
-                self.assertNotIn("neither", sum(states, []), states)
-                # Wine shows what was drawn so far when the drawing takes longer than 50 ms.
-                halves = [seen for seen in states if len(set(seen)) > 1]
-                self.assertLessEqual(len(halves), self.HALVES, states)
-
-
 def longest_black(look, box):
     """The longest run of black pixels in a row of the box; every fourth row is looked at."""
     longest = 0

@@ -5,6 +5,7 @@ usage: watch_test.py BIN_DIR [TEST...]
 """
 import json
 import os
+import signal
 import subprocess
 import sys
 import tempfile
@@ -55,7 +56,7 @@ class Watched:
         self._process = subprocess.Popen(
             [os.path.join(ROOT, "scripts", "wine-run"), "--null", os.path.join(BIN_DIR, "barview.exe"), self.root, "--lang", "en",
              "--watch", "--changes", str(changes), "--dump", self._dump, *arguments],
-            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, errors="replace")
+            stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, errors="replace", start_new_session=True)
 
     def __enter__(self):
         self._last = None
@@ -63,10 +64,14 @@ class Watched:
         return self
 
     def __exit__(self, *_):
-        if self._process.poll() is None:
-            self._process.kill()
-        self._process.communicate()
+        self._end()
         self._folder.cleanup()
+
+    def _end(self):
+        """Both outputs. The program goes with its runner, else it would hold them open."""
+        if self._process.poll() is None:
+            os.killpg(self._process.pid, signal.SIGKILL)
+        return self._process.communicate()
 
     def write(self, name, text):
         path = os.path.join(self.root, name)
@@ -95,8 +100,7 @@ class Watched:
             if self._process.poll() is not None:
                 break
             time.sleep(0.05)
-        self._process.kill()
-        raise AssertionError("no dump came: " + "".join(self._process.communicate()))
+        raise AssertionError("no dump came: " + "".join(self._end()))
 
     def finish(self):
         """Standard output and error; the program leaves by itself after its last change."""
