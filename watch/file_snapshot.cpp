@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
+
+#include <windows.h>
 
 namespace fs = std::filesystem;
 
@@ -24,6 +27,17 @@ std::wstring RelativeName(const fs::path& path, const fs::path& directory) {
     return name;
 }
 
+std::uint64_t Joined(DWORD high, DWORD low) { return static_cast<std::uint64_t>(high) << 32 | low; }
+
+std::optional<FileStamp> StampOf(const fs::path& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) {
+        return std::nullopt;
+    }
+    return FileStamp{Joined(data.nFileSizeHigh, data.nFileSizeLow),
+                     Joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
+}
+
 } // namespace
 
 FileSnapshot TakeFileSnapshot(const fs::path& directory) {
@@ -35,11 +49,8 @@ FileSnapshot TakeFileSnapshot(const fs::path& directory) {
         if (!IsWatched(entry->path()) || !entry->is_regular_file(ofFile)) {
             continue;
         }
-        FileStamp stamp;
-        stamp.size = fs::file_size(entry->path(), ofFile);
-        stamp.time = ofFile ? stamp.time : fs::last_write_time(entry->path(), ofFile);
-        if (!ofFile) {
-            snapshot.emplace(RelativeName(entry->path(), directory), stamp);
+        if (const std::optional<FileStamp> stamp = StampOf(entry->path())) {
+            snapshot.emplace(RelativeName(entry->path(), directory), *stamp);
         }
     }
     return snapshot;

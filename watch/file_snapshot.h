@@ -8,8 +8,8 @@
 
 /// How a file was when it was looked at.
 struct FileStamp {
-    std::uintmax_t size = 0;
-    std::filesystem::file_time_type time;
+    std::uint64_t size = 0;
+    std::uint64_t writeTime = 0; ///< the system's, to a tenth of a microsecond: an edit may follow another at once
 
     friend bool operator==(const FileStamp&, const FileStamp&) = default;
 };

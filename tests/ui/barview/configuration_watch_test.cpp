@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <thread>
 
 namespace {
@@ -50,6 +51,14 @@ TEST_F(WatchedDirectory, AFileThatIsWrittenIsTold) {
     Start();
     m_directory.Write("cfg/ribbon.xml", "<ribbon></ribbon>");
     EXPECT_EQ(Wait(1), (Changes{{L"cfg\\ribbon.xml"}}));
+}
+
+TEST_F(WatchedDirectory, AFileThatKeepsItsLengthWithinTheSameSecondIsTold) {
+    Start();
+    for (std::size_t i = 1; i <= 4; ++i) { // a second may end between two of them
+        m_directory.Write("cfg/ribbon.xml", "<ribbon" + std::to_string(i) + "/>");
+        ASSERT_EQ(Wait(i).size(), i);
+    }
 }
 
 TEST_F(WatchedDirectory, ManyStepsOfAnEditorAreOneChange) {
