@@ -83,9 +83,7 @@ void ApplicationMenu::Button::OnDraw(CDC* dc) {
     dc->SelectObject(font);
 }
 
-void ApplicationMenu::Attach(CMFCRibbonBar& ribbon) {
-    m_ribbon = &ribbon;
-}
+void ApplicationMenu::Attach(CMFCRibbonBar& ribbon) { m_ribbon = &ribbon; }
 
 void ApplicationMenu::Detach() {
     if (m_ribbon != nullptr) {
