@@ -16,7 +16,8 @@ constexpr UINT kChangeMessage = WM_APP + 1;
 constexpr DWORD kChanges = FILE_NOTIFY_CHANGE_FILE_NAME | FILE_NOTIFY_CHANGE_DIR_NAME | FILE_NOTIFY_CHANGE_SIZE |
                            FILE_NOTIFY_CHANGE_LAST_WRITE;
 constexpr int kMostQuietTimes = 10;
-constexpr DWORD kLookAgain = 1000; // milliseconds, where the system tells nothing
+/// In milliseconds. Drives of other machines, and some systems, do not tell of everything.
+constexpr DWORD kLookAgain = 1000;
 
 /// A handle of the system, closed at the end.
 class Handle {
@@ -150,9 +151,10 @@ private:
         return false;
     }
 
-    /// Returns when something has happened and nothing more for a while; false when it is time to stop.
+    /// Returns when something has happened and nothing more for a while, or it is time to look again; false when it is
+    /// time to stop.
     bool WaitForChange() {
-        WaitFor(m_isTold ? INFINITE : kLookAgain);
+        WaitFor(kLookAgain);
         for (int times = 0; times < kMostQuietTimes && !m_isStopped && WaitFor(m_quiet);) {
             ++times;
         }
