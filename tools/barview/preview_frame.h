@@ -4,7 +4,6 @@
 
 #include "dyn_menu_creater.h"
 #include "dyn_toolbar_creater.h"
-#include "frame_dump.h"
 #include "ribbon_bar_ex.h"
 #include "ribbon_status_bar_ex.h"
 
@@ -17,6 +16,7 @@
 
 class CAddRibbonBar;
 struct ConfigurationChange;
+struct DumpSources;
 
 /// A line on standard error.
 void Complain(const std::wstring& text);

@@ -2,6 +2,7 @@
 #include "preview_frame.h"
 
 #include "configuration_watch.h"
+#include "frame_dump.h"
 #include "menu_id_mgr.h"
 #include "ribbon_check_combo.h"
 #include "tests/support/gui_objects.h"
