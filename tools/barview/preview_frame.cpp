@@ -1,8 +1,7 @@
 #include "preview_frame.h"
 
-#include "frame_dump.h"
-
 #include "add_ribbon_bar.h"
+#include "frame_dump.h"
 #include "kept_command_ids.h"
 #include "new_keywords.h"
 
