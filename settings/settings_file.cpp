@@ -2,6 +2,7 @@
 
 #include "config/depth_walker.h"
 
+#include <varnhold/markup.h>
 #include <varnhold/strings.h>
 #include <varnhold/xml.h>
 
@@ -22,23 +23,11 @@ constexpr std::string_view kVersion = "1";
 
 std::string Escaped(std::wstring_view text) {
     std::string result;
-    for (const char character : wstring2String(text)) {
-        switch (character) {
-        case '&':
-            result += "&amp;";
-            break;
-        case '<':
-            result += "&lt;";
-            break;
-        case '"':
-            result += "&quot;";
-            break;
-        default:
-            if (const auto code = static_cast<unsigned char>(character); code < 0x20) {
-                result += "&#" + std::to_string(code) + ";";
-            } else {
-                result += character;
-            }
+    for (const char character : varnhold::EscapedMarkup(wstring2String(text))) {
+        if (const auto code = static_cast<unsigned char>(character); code < 0x20) {
+            result += "&#" + std::to_string(code) + ";";
+        } else {
+            result += character;
         }
     }
     return result;

@@ -4,6 +4,7 @@
 #include "config/ribbon_attributes.h"
 
 #include <varnhold/language_files.h>
+#include <varnhold/markup.h>
 #include <varnhold/strings.h>
 
 #include <algorithm>
@@ -17,30 +18,9 @@ constexpr std::string_view kNoteEnd = "</note>";
 constexpr std::string_view kUnitEnd = "</unit>";
 constexpr std::string_view kFileEnd = "</file>";
 
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            escaped += c;
-        }
-    }
-    return escaped;
-}
+using varnhold::EscapedMarkup;
 
-std::string Escaped(const std::wstring& text) { return Escaped(std::string_view(wstring2String(text))); }
+std::string EscapedMarkup(const std::wstring& text) { return EscapedMarkup(wstring2String(text)); }
 
 /// The units of a table, with the places where they begin.
 class UnitList : public varnhold::TranslationFileVisitor {
@@ -134,8 +114,8 @@ std::string NewUnit(const AskedText& asked, const std::wstring& source, std::siz
     constexpr std::string_view plain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789._-";
     const bool isPlain = key.find_first_not_of(plain) == std::string::npos;
     const std::string id = isPlain ? key : "new-" + std::to_string(number);
-    return "    <unit id=\"" + id + "\" name=\"" + Escaped(key) + "\"><notes>" + std::string(kPlaceNote) +
-           Escaped(asked.note) + std::string(kNoteEnd) + "</notes><segment><source>" + Escaped(source) +
+    return "    <unit id=\"" + id + "\" name=\"" + EscapedMarkup(key) + "\"><notes>" + std::string(kPlaceNote) +
+           EscapedMarkup(asked.note) + std::string(kNoteEnd) + "</notes><segment><source>" + EscapedMarkup(source) +
            "</source></segment></unit>\n";
 }
 
@@ -204,7 +184,7 @@ private:
         std::string text = m_table.substr(m_copied, end - m_copied);
         RemoveOwnNotes(text);
         if (isAsked) {
-            AddNote(text, std::string(kPlaceNote) + Escaped(asked->second->note) + std::string(kNoteEnd));
+            AddNote(text, std::string(kPlaceNote) + EscapedMarkup(asked->second->note) + std::string(kNoteEnd));
         } else if (!isUsed) {
             AddNote(text, std::string(kUnusedNote) + "no file of the configuration uses it" + std::string(kNoteEnd));
         }
@@ -266,8 +246,9 @@ bool CompleteTable(std::string& table, const TableCompletion& completion, Comple
 }
 
 std::string EmptyTable(const std::wstring& sourceLanguage, const std::wstring& language) {
-    const std::string target = sourceLanguage == language ? "" : " trgLang=\"" + Escaped(language) + "\"";
+    const std::string target = sourceLanguage == language ? "" : " trgLang=\"" + EscapedMarkup(language) + "\"";
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\" srcLang=\"" +
-           Escaped(sourceLanguage) + "\"" + target + ">\n  <file id=\"" + kRibbonSection + "\">\n  </file>\n</xliff>\n";
+           EscapedMarkup(sourceLanguage) + "\"" + target + ">\n  <file id=\"" + kRibbonSection +
+           "\">\n  </file>\n</xliff>\n";
 }

@@ -1,5 +1,6 @@
 #include "matrix_page.h"
 
+#include <varnhold/markup.h>
 #include <varnhold/strings.h>
 
 #include <algorithm>
@@ -22,26 +23,7 @@ figcaption b { color: #c50; } img { display: block; width: 100%; height: auto; }
 #all:checked ~ main figure:not(.changed) { display: none; }
 )";
 
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        default:
-            escaped += c;
-        }
-    }
-    return escaped;
-}
-std::string Escaped(const std::wstring& text) { return Escaped(std::string_view(wstring2String(text))); }
+std::string Escaped(const std::wstring& text) { return varnhold::EscapedMarkup(wstring2String(text)); }
 
 /// The file as an address: what is no plain letter or digit is written by its number.
 std::string Address(const std::wstring& file) {

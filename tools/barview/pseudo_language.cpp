@@ -2,6 +2,7 @@
 
 #include <varnhold/language_files.h>
 #include <varnhold/letter_case.h>
+#include <varnhold/markup.h>
 #include <varnhold/strings.h>
 
 #include <chrono>
@@ -29,23 +30,16 @@ public:
     std::map<std::string, std::map<std::string, std::wstring>> texts;
 };
 
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text) {
-        escaped += c == '&' ? "&amp;" : c == '<' ? "&lt;" : c == '"' ? "&quot;" : std::string(1, c);
-    }
-    return escaped;
-}
-
 std::string PseudoTable(const AllTexts& all) {
+    using varnhold::EscapedMarkup;
     std::string table = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xliff "
                         "xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\" srcLang=\"en\">\n";
     int number = 0;
     for (const auto& [section, texts] : all.texts) {
-        table += "<file id=\"" + Escaped(section) + "\">\n";
+        table += "<file id=\"" + EscapedMarkup(section) + "\">\n";
         for (const auto& [key, text] : texts) {
-            table += "<unit id=\"u" + std::to_string(++number) + "\" name=\"" + Escaped(key) +
-                     "\"><segment><source xml:space=\"preserve\">" + Escaped(wstring2String(PseudoText(text))) +
+            table += "<unit id=\"u" + std::to_string(++number) + "\" name=\"" + EscapedMarkup(key) +
+                     "\"><segment><source xml:space=\"preserve\">" + EscapedMarkup(wstring2String(PseudoText(text))) +
                      "</source></segment></unit>\n";
         }
         table += "</file>\n";
