@@ -1,6 +1,7 @@
 #include <afxcontrolbars.h>
 
 #include "batch.h"
+#include "forget_icons.h"
 
 #include "add_ribbon_bar.h"
 #include "dyn_toolbar_creater.h"
@@ -57,14 +58,7 @@ void ForgetConfiguration() {
     CMenuIdMgr::s_AddBeginID = kFirstCommand;
     CDynToolBarCreater::s_ToolbarIndex = kFirstToolBar;
     CAddRibbonBar::m_smStatusExBtns.clear();
-    // The library's own list of toolbar images is the framework's as long as it holds any.
-    if (CMFCToolBarImages* const images = CMFCToolBar::GetUserImages()) {
-        images->Clear();
-        CMFCToolBar::SetUserImages(nullptr);
-    }
-    CMFCToolBar::ResetAllImages();
-    CMFCToolBar::SetSizes(CSize(23, 22), CSize(16, 15));
-    GetCmdMgr()->ClearAllCmdImages();
+    ForgetIcons();
 }
 
 bool EnterDirectory(const std::wstring& directory) { return ::SetCurrentDirectoryW(directory.c_str()) != FALSE; }

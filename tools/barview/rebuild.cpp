@@ -1,3 +1,4 @@
+#include "forget_icons.h"
 #include "preview_frame.h"
 #include "ribbon_states.h"
 
@@ -22,17 +23,6 @@ std::wstring ProblemOf(const std::wstring& directory, const std::wstring& file) 
     }
     const std::wstring& text = document.GetErrorText();
     return text.starts_with(directory) ? text.substr(directory.size()) : text;
-}
-
-/// Pictures of commands and buttons are taken from their files again.
-void ForgetIcons() {
-    if (CMFCToolBarImages* const images = CMFCToolBar::GetUserImages()) {
-        images->Clear();
-        CMFCToolBar::SetUserImages(nullptr);
-    }
-    CMFCToolBar::ResetAllImages();
-    CMFCToolBar::SetSizes(CSize(23, 22), CSize(16, 15));
-    GetCmdMgr()->ClearAllCmdImages();
 }
 
 } // namespace
