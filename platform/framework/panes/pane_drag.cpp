@@ -6,48 +6,17 @@
 #include "afxPaneFrameWnd.h"
 #include "panes/drag_preview.h"
 #include "panes/row_place.h"
-#include "window/input_filter.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace panes {
 
-BEGIN_MESSAGE_MAP(PaneDrag, CWnd)
-ON_WM_MOUSEMOVE()
-ON_WM_LBUTTONUP()
-ON_WM_CAPTURECHANGED()
-END_MESSAGE_MAP()
-
 namespace {
 
 constexpr DWORD kAlignments[] = {CBRS_ALIGN_TOP, CBRS_ALIGN_BOTTOM, CBRS_ALIGN_LEFT, CBRS_ALIGN_RIGHT};
 
-thread_local PaneDrag* t_current = nullptr;
-
-// Keys go to the window with the focus, which knows nothing of the drag.
-BOOL CancelByEscape(MSG* message) {
-    PaneDrag* const drag = PaneDrag::Current();
-    if (drag == nullptr || message->message != WM_KEYDOWN || message->wParam != VK_ESCAPE) {
-        return FALSE;
-    }
-    drag->Cancel();
-    return TRUE;
-}
-
-[[maybe_unused]] const bool g_isFilterAdded = [] {
-    fx::AddInputFilter(&CancelByEscape);
-    return true;
-}();
-
-CPoint ToScreen(const CWnd& window, CPoint point) {
-    window.ClientToScreen(&point);
-    return point;
-}
-
 } // namespace
-
-PaneDrag* PaneDrag::Current() { return t_current; }
 
 PaneDrag::PaneDrag(CDockingManager& manager, CPane& pane, CPoint screen)
     : m_manager(manager),
@@ -79,24 +48,17 @@ PaneDrag::~PaneDrag() {
 }
 
 bool PaneDrag::Begin() {
-    if (!CreateEx(0, AfxRegisterWndClass(0), nullptr, WS_CHILD, CRect(0, 0, 0, 0), m_manager.GetDockSiteFrameWnd(),
-                  0)) {
+    if (!TakeMouse(m_manager.GetDockSiteFrameWnd())) {
         m_pane = nullptr;
-        return false;
     }
-    t_current = this;
-    SetCapture();
-    return true;
+    return IsUnderWay();
 }
 
 CPane* PaneDrag::End() {
     CPane* const pane = std::exchange(m_pane, nullptr);
     m_preview.reset();
     if (pane != nullptr) {
-        t_current = t_current == this ? nullptr : t_current;
-        if (::GetCapture() == m_hWnd) {
-            ::ReleaseCapture();
-        }
+        ReleaseMouse();
         for (const SiteBefore& before : m_sitesBefore) {
             before.site->SetMovedPane(nullptr);
         }
@@ -120,20 +82,6 @@ void PaneDrag::Cancel() {
             PutBack();
             m_pane = nullptr;
         }
-    }
-}
-
-void PaneDrag::OnCaptureChanged(CWnd*) { Cancel(); }
-
-void PaneDrag::OnMouseMove(UINT, CPoint point) {
-    if (IsUnderWay()) {
-        MoveTo(ToScreen(*this, point));
-    }
-}
-
-void PaneDrag::OnLButtonUp(UINT, CPoint point) {
-    if (IsUnderWay()) {
-        Finish(ToScreen(*this, point));
     }
 }
 

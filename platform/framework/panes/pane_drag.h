@@ -2,6 +2,7 @@
 
 #include "afxPane.h"
 #include "panes/dock_rows.h"
+#include "window/drag_window.h"
 
 #include <memory>
 #include <vector>
@@ -12,30 +13,25 @@ namespace panes {
 
 class DragPreview;
 
-/// A pane in its user's hand. From the press of the button it has the mouse, on a window of its own that nobody sees:
-/// the pane changes its parent while it is dragged. A pane whose docking mode is immediate moves at once, any other
-/// one when the button is let go, and an outline shows where to. Near a side it docks, unless Ctrl is held; everywhere
-/// else it floats, if it may. Esc, or the loss of the mouse, puts everything back. Screen pixels throughout.
-class PaneDrag : public CWnd {
+/// A pane in its user's hand, from the press of the button on. A pane whose docking mode is immediate moves at once,
+/// any other one when the button is let go, and an outline shows where to. Near a side it docks, unless Ctrl is held;
+/// everywhere else it floats, if it may. Esc, or the loss of the mouse, puts everything back. Screen pixels throughout.
+class PaneDrag : public fx::DragWindow {
 public:
     PaneDrag(CDockingManager& manager, CPane& pane, CPoint screen);
     ~PaneDrag() override;
 
     /// Takes the mouse. False: it could not.
     bool Begin();
-    void Cancel();
-    bool IsUnderWay() const { return m_pane != nullptr; }
+    void Cancel() override;
+    bool IsUnderWay() const override { return m_pane != nullptr; }
     bool IsOf(const CPane* pane) const { return pane != nullptr && m_pane == pane; }
     /// The pane is gone or was taken somewhere else: there is nothing more to do.
     void Forget(const CPane* pane);
-    /// Of this thread; null when nothing is dragged.
-    static PaneDrag* Current();
 
 protected:
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnCaptureChanged(CWnd* pWnd);
-    DECLARE_MESSAGE_MAP()
+    void MoveTo(CPoint screen) override;
+    void Finish(CPoint screen) override;
 
 private:
     /// Where the pane would come to lie.
@@ -46,13 +42,11 @@ private:
         CRect rect{0, 0, 0, 0};
     };
 
-    void MoveTo(CPoint screen);
     Target FindTarget(CPoint screen) const;
     CDockSite* FindSite(CPoint screen) const;
     Target InSite(CDockSite& site, CPoint screen) const;
     CRect Outline(const Target& target) const;
     void Apply(const Target& target);
-    void Finish(CPoint screen);
     void PutBack();
     CPane* End();
 

@@ -3,7 +3,6 @@
 #include "afxmenubar.h"
 #include "fx/to_rect.h"
 #include "fx/window_guard.h"
-#include "window/input_filter.h"
 
 #include <cstdlib>
 #include <memory>
@@ -12,39 +11,10 @@
 
 namespace toolbar {
 
-BEGIN_MESSAGE_MAP(ButtonDrag, CWnd)
-ON_WM_MOUSEMOVE()
-ON_WM_LBUTTONUP()
-ON_WM_CAPTURECHANGED()
-END_MESSAGE_MAP()
-
 namespace {
-
-thread_local ButtonDrag* t_current = nullptr;
-
-// Keys go to the window with the focus, which knows nothing of the drag.
-BOOL CancelByEscape(MSG* message) {
-    ButtonDrag* const drag = ButtonDrag::Current();
-    if (drag == nullptr || message->wParam != VK_ESCAPE ||
-        (message->message != WM_KEYDOWN && message->message != WM_SYSKEYDOWN)) {
-        return FALSE;
-    }
-    drag->Cancel();
-    return TRUE;
-}
-
-[[maybe_unused]] const bool g_isFilterAdded = [] {
-    fx::AddInputFilter(&CancelByEscape);
-    return true;
-}();
 
 bool MayBeChanged(const CMFCToolBar& bar) {
     return bar.IsWindowVisible() && !bar.IsLocked() && !bar.IsKindOf(RUNTIME_CLASS(CMFCMenuBar));
-}
-
-CPoint ToScreen(const CWnd& window, CPoint point) {
-    window.ClientToScreen(&point);
-    return point;
 }
 
 DropPlace PlaceIn(const CMFCToolBar& bar, CPoint screen) {
@@ -59,24 +29,22 @@ DropPlace PlaceIn(const CMFCToolBar& bar, CPoint screen) {
 
 } // namespace
 
-ButtonDrag* ButtonDrag::Current() { return t_current; }
+ButtonDrag* ButtonDrag::Current() { return dynamic_cast<ButtonDrag*>(DragWindow::Current()); }
 
 ButtonDrag::ButtonDrag(const CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt)
     : m_source(bar.m_hWnd), m_button(&button), m_isByAlt(isByAlt), m_start(screen) {}
 
 bool ButtonDrag::Begin(CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt) {
     const bool isProtected = CMFCToolBarButton::GetProtectedCommands().Find(button.m_nID) != nullptr;
-    if (t_current != nullptr || !MayBeChanged(bar) || isProtected || !button.IsEditable() || !button.OnBeforeDrag()) {
+    if (DragWindow::Current() != nullptr || !MayBeChanged(bar) || isProtected || !button.IsEditable() ||
+        !button.OnBeforeDrag()) {
         return false;
     }
     auto drag = std::unique_ptr<ButtonDrag>(new ButtonDrag(bar, button, screen, isByAlt));
-    CWnd* const parent = bar.GetTopLevelFrame();
-    if (parent == nullptr ||
-        !drag->CreateEx(0, AfxRegisterWndClass(0), nullptr, WS_CHILD, CRect(0, 0, 0, 0), parent, 0)) {
+    if (!drag->TakeMouse(bar.GetTopLevelFrame())) {
         return false;
     }
-    t_current = drag.release();
-    t_current->SetCapture();
+    drag.release(); // it is the window's own now
     return true;
 }
 
@@ -117,12 +85,6 @@ void ButtonDrag::ShowMark(HWND target, const DropPlace& place) {
     m_place = place;
 }
 
-void ButtonDrag::OnMouseMove(UINT, CPoint point) {
-    if (m_isUnderWay) {
-        MoveTo(ToScreen(*this, point));
-    }
-}
-
 void ButtonDrag::MoveTo(CPoint screen) {
     const bool isFar = std::abs(screen.x - m_start.x) >= ::GetSystemMetrics(SM_CXDRAG) ||
                        std::abs(screen.y - m_start.y) >= ::GetSystemMetrics(SM_CYDRAG);
@@ -138,22 +100,11 @@ void ButtonDrag::MoveTo(CPoint screen) {
     ::SetCursor(::LoadCursorW(nullptr, isWelcome ? IDC_SIZEALL : IDC_NO));
 }
 
-void ButtonDrag::OnLButtonUp(UINT, CPoint point) {
-    if (m_isUnderWay) {
-        Drop(ToScreen(*this, point));
-    }
-}
-
-void ButtonDrag::OnCaptureChanged(CWnd*) { Cancel(); }
-
 // The window goes when nothing of it is on the way any more.
 void ButtonDrag::End() {
     m_isUnderWay = false;
     ShowMark(nullptr, {});
-    t_current = t_current == this ? nullptr : t_current;
-    if (::GetCapture() == m_hWnd) {
-        ::ReleaseCapture();
-    }
+    ReleaseMouse();
     PostMessage(WM_CLOSE);
 }
 
@@ -175,7 +126,7 @@ void ButtonDrag::Remove(DROPEFFECT effect) {
     }
 }
 
-void ButtonDrag::Drop(CPoint screen) {
+void ButtonDrag::Finish(CPoint screen) {
     MoveTo(screen);
     if (!m_isUnderWay) {
         return;

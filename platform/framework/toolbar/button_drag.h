@@ -3,31 +3,31 @@
 #include "afxtoolbar.h"
 
 #include "toolbar/drop_place.h"
+#include "window/drag_window.h"
 
 namespace toolbar {
 
-/// A toolbar's button in its user's hand. From the press on it has the mouse, on a window of its own that nobody sees
-/// and that deletes itself afterwards. Over a toolbar the gap is marked in which the button would come to lie; beside
-/// all of them it is removed when it is let go. With Ctrl a copy is made. Esc, or the loss of the mouse, ends it.
-class ButtonDrag : public CWnd {
+/// A toolbar's button in its user's hand, from the press on. The window deletes itself afterwards. Over a toolbar the
+/// gap is marked in which the button would come to lie; beside all of them it is removed when it is let go. With Ctrl a
+/// copy is made. Esc, or the loss of the mouse, ends it.
+class ButtonDrag : public fx::DragWindow {
 public:
     /// FALSE: nothing can be dragged there, and nothing has begun.
     static bool Begin(CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt);
     /// Of this thread; null when nothing is dragged.
     static ButtonDrag* Current();
 
-    void Cancel();
+    void Cancel() override;
     bool IsOf(const CMFCToolBarButton* button) const { return m_isUnderWay && button && m_button == button; }
     bool IsByAlt() const { return m_isByAlt; }
     /// The gap in the bar, its client pixels; empty: the button would not come to lie there.
     fx::Rect MarkIn(const CMFCToolBar& bar) const;
 
 protected:
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    bool IsUnderWay() const override { return m_isUnderWay; }
+    void MoveTo(CPoint screen) override;
+    void Finish(CPoint screen) override;
     void PostNcDestroy() override { delete this; }
-    DECLARE_MESSAGE_MAP()
 
 private:
     ButtonDrag(const CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt);
@@ -36,10 +36,8 @@ private:
     CMFCToolBarButton* Button() const;
     CMFCToolBar* Source() const { return CMFCToolBar::FromHandlePermanent(m_source); }
     CMFCToolBar* FindTarget(CPoint screen) const;
-    void MoveTo(CPoint screen);
     void ShowMark(HWND target, const DropPlace& place);
     void End();
-    void Drop(CPoint screen);
     void Remove(DROPEFFECT effect);
 
     HWND m_source;
