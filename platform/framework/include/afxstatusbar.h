@@ -125,6 +125,8 @@ private:
     Pane* Find(int nIndex) const;
     int HitTest(CPoint point) const;
     void PlacePanes();
+    /// A pane that there is shows these images from now on, each for that time (ms; 0: only the first), and owns them.
+    void TakeImages(int nIndex, HIMAGELIST hImages, UINT nFrameTime, BOOL bUpdate);
     void UpdateTooltip();
     void Redraw(int nIndex, BOOL bUpdate);
     bool HasSizeGrip() const;

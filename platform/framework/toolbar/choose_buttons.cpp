@@ -15,6 +15,11 @@ constexpr UINT kResetText = 17202;
 /// The bar may go while its menu is open.
 class BarRow : public CMFCToolBarMenuButton {
 public:
+    BarRow() = default;
+    BarRow(const CMFCToolBar& bar, CString text) : m_bar(bar.m_hWnd) {
+        m_strText = std::move(text);
+        m_bText = TRUE;
+    }
     void CopyFrom(const CMFCToolBarButton& src) override {
         CMFCToolBarMenuButton::CopyFrom(src);
         if (const auto* const other = dynamic_cast<const BarRow*>(&src)) {
@@ -34,10 +39,8 @@ class ToggleRow : public BarRow {
 
 public:
     ToggleRow() = default;
-    ToggleRow(CMFCToolBar& bar, const CMFCToolBarButton& button, CString text) : m_button(&button) {
-        m_bar = bar.m_hWnd;
-        m_strText = std::move(text);
-        m_bText = TRUE;
+    ToggleRow(CMFCToolBar& bar, const CMFCToolBarButton& button, CString text)
+        : BarRow(bar, std::move(text)), m_button(&button) {
         m_nStyle = button.IsHidden() ? TBBS_BUTTON : TBBS_BUTTON | TBBS_CHECKED;
     }
     void CopyFrom(const CMFCToolBarButton& src) override {
@@ -72,11 +75,7 @@ class ResetRow : public BarRow {
 
 public:
     ResetRow() = default;
-    explicit ResetRow(const CMFCToolBar& bar) {
-        m_bar = bar.m_hWnd;
-        m_strText = FrameworkText(kResetText);
-        m_bText = TRUE;
-    }
+    explicit ResetRow(const CMFCToolBar& bar) : BarRow(bar, FrameworkText(kResetText)) {}
     BOOL OnClickMenuItem() override {
         const HWND window = m_bar;
         CMFCPopupMenu::CloseAll(); // with this row
@@ -130,11 +129,7 @@ class ChooseRow : public BarRow {
 
 public:
     ChooseRow() = default;
-    explicit ChooseRow(const CMFCToolBar& bar) {
-        m_bar = bar.m_hWnd;
-        m_strText = FrameworkText(kChooseText);
-        m_bText = TRUE;
-    }
+    explicit ChooseRow(const CMFCToolBar& bar) : BarRow(bar, FrameworkText(kChooseText)) {}
     BOOL IsEmptyMenuAllowed() const override { return TRUE; }
     CMFCPopupMenu* CreatePopupMenu() override { return new ChooseMenu(Bar()); }
 };

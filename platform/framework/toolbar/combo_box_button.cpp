@@ -224,11 +224,9 @@ void CMFCToolBarComboBoxButton::ShowCombo() {
     }
     // One for which its bar has no room has no place.
     const bool isWanted = m_bHorz && !m_bIsHidden && m_bVisible && !m_rect.IsRectEmpty();
-    if (isWanted != ((m_pWndCombo->GetStyle() & WS_VISIBLE) != 0)) {
-        m_pWndCombo->ShowWindow(isWanted ? SW_SHOWNOACTIVATE : SW_HIDE);
-        if (m_pOwnEdit && m_pOwnEdit->m_hWnd) {
-            m_pOwnEdit->ShowWindow(isWanted ? SW_SHOWNOACTIVATE : SW_HIDE);
-        }
+    toolbar::ShowControl(*m_pWndCombo, isWanted);
+    if (m_pOwnEdit && m_pOwnEdit->m_hWnd) {
+        toolbar::ShowControl(*m_pOwnEdit, isWanted);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "afxtoolbar.h"
 #include "fx/archive.h"
+#include "toolbar/buttons_of.h"
 
 #include <algorithm>
 
@@ -184,15 +185,7 @@ void CMFCToolBarComboBoxButton::Serialize(CArchive& ar) {
 namespace {
 
 std::vector<CMFCToolBarComboBoxButton*> CombosOf(UINT command) {
-    CObList buttons;
-    CMFCToolBar::GetCommandButtons(command, buttons);
-    std::vector<CMFCToolBarComboBoxButton*> combos;
-    for (POSITION position = buttons.GetHeadPosition(); position;) {
-        if (auto* const combo = DYNAMIC_DOWNCAST(CMFCToolBarComboBoxButton, buttons.GetNext(position))) {
-            combos.push_back(combo);
-        }
-    }
-    return combos;
+    return toolbar::ButtonsOf<CMFCToolBarComboBoxButton>(command);
 }
 
 /// Selects in every combo the item that `find` answers. FALSE: none had it.

@@ -3,6 +3,7 @@
 
 #include "afxtoolbar.h"
 #include "afxvisualmanager.h"
+#include "toolbar/buttons_of.h"
 #include "toolbar/hosted_control.h"
 #include "toolbar/metrics.h"
 
@@ -24,15 +25,7 @@ constexpr int kTextMargin = 2;
 bool g_isFlat = true;
 
 std::vector<CMFCToolBarEditBoxButton*> EditsOf(UINT command) {
-    CObList buttons;
-    CMFCToolBar::GetCommandButtons(command, buttons);
-    std::vector<CMFCToolBarEditBoxButton*> edits;
-    for (POSITION position = buttons.GetHeadPosition(); position;) {
-        if (auto* const edit = DYNAMIC_DOWNCAST(CMFCToolBarEditBoxButton, buttons.GetNext(position))) {
-            edits.push_back(edit);
-        }
-    }
-    return edits;
+    return toolbar::ButtonsOf<CMFCToolBarEditBoxButton>(command);
 }
 
 /// The edit that a button makes unless the host makes another.
@@ -311,10 +304,9 @@ void CMFCToolBarEditBoxButton::PlaceEdit() {
 }
 
 void CMFCToolBarEditBoxButton::ShowEdit() {
-    // One for which its bar has no room has no place.
-    const bool isWanted = m_bHorz && !m_bIsHidden && m_bVisible && !m_rect.IsRectEmpty();
-    if (GetHwnd() && isWanted != ((m_pWndEdit->GetStyle() & WS_VISIBLE) != 0)) {
-        m_pWndEdit->ShowWindow(isWanted ? SW_SHOWNOACTIVATE : SW_HIDE);
+    if (GetHwnd()) {
+        // One for which its bar has no room has no place.
+        toolbar::ShowControl(*m_pWndEdit, m_bHorz && !m_bIsHidden && m_bVisible && !m_rect.IsRectEmpty());
     }
 }
 

@@ -51,6 +51,12 @@ void ReleaseControl(HWND control) {
     ::RemoveWindowSubclass(::GetParent(control), &BarProc, reinterpret_cast<UINT_PTR>(control));
 }
 
+void ShowControl(CWnd& control, bool isShown) {
+    if (isShown != ((control.GetStyle() & WS_VISIBLE) != 0)) {
+        control.ShowWindow(isShown ? SW_SHOWNOACTIVATE : SW_HIDE);
+    }
+}
+
 CMFCToolBarButton* ButtonWith(const CMFCToolBar& bar, HWND control) {
     for (POSITION position = bar.GetAllButtons().GetHeadPosition(); position;) {
         const auto* const object = static_cast<const CMFCToolBarButton*>(bar.GetAllButtons().GetNext(position));

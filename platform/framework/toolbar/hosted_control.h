@@ -14,6 +14,9 @@ enum class Hears { Button, Control };
 void HostControl(CWnd& bar, HWND control, Hears hears = Hears::Button);
 void ReleaseControl(HWND control);
 
+/// Without giving it the focus; nothing happens to one that is shown, or hidden, already.
+void ShowControl(CWnd& control, bool isShown);
+
 /// The bar's button that the control belongs to; null when there is none any more.
 CMFCToolBarButton* ButtonWith(const CMFCToolBar& bar, HWND control);
 

@@ -25,62 +25,64 @@ void StopAnimation(CWnd& bar, int index) {
     }
 }
 
+HIMAGELIST ImageOf(HICON icon) {
+    ICONINFO info{};
+    if (icon == nullptr || !::GetIconInfo(icon, &info)) {
+        return nullptr;
+    }
+    BITMAP size{};
+    ::GetObjectW(info.hbmColor != nullptr ? info.hbmColor : info.hbmMask, sizeof(size), &size);
+    const int height = info.hbmColor != nullptr ? size.bmHeight : size.bmHeight / 2;
+    const HIMAGELIST images = ::ImageList_Create(size.bmWidth, height, ILC_COLOR32 | ILC_MASK, 1, 0);
+    ::ImageList_ReplaceIcon(images, -1, icon);
+    ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+    return images;
+}
+
+HIMAGELIST ImageOf(HBITMAP bitmap, COLORREF transparent) {
+    BITMAP size{};
+    if (bitmap == nullptr || ::GetObjectW(bitmap, sizeof(size), &size) == 0) {
+        return nullptr;
+    }
+    const HIMAGELIST images = ::ImageList_Create(size.bmWidth, size.bmHeight, ILC_COLOR32 | ILC_MASK, 1, 0);
+    // The list paints over what it is given.
+    const auto copy = static_cast<HBITMAP>(::CopyImage(bitmap, IMAGE_BITMAP, 0, 0, 0));
+    ::ImageList_AddMasked(images, copy, transparent);
+    ::DeleteObject(copy);
+    return images;
+}
+
 } // namespace
 
 // ---- images and progress
 
 void CMFCStatusBar::SetPaneIcon(int nIndex, HICON hIcon, BOOL bUpdate) {
-    Pane* const pane = Find(nIndex);
-    if (pane == nullptr) {
-        return;
+    if (Find(nIndex) != nullptr) {
+        TakeImages(nIndex, ImageOf(hIcon), 0, bUpdate);
     }
-    StopAnimation(*this, nIndex);
-    HIMAGELIST images = nullptr;
-    ICONINFO info{};
-    if (hIcon != nullptr && ::GetIconInfo(hIcon, &info)) {
-        BITMAP size{};
-        ::GetObjectW(info.hbmColor != nullptr ? info.hbmColor : info.hbmMask, sizeof(size), &size);
-        const int height = info.hbmColor != nullptr ? size.bmHeight : size.bmHeight / 2;
-        images = ::ImageList_Create(size.bmWidth, height, ILC_COLOR32 | ILC_MASK, 1, 0);
-        ::ImageList_ReplaceIcon(images, -1, hIcon);
-        ::DeleteObject(info.hbmColor);
-        ::DeleteObject(info.hbmMask);
-    }
-    pane->SetImages(images);
-    PlacePanes();
-    Redraw(nIndex, bUpdate);
 }
 
 void CMFCStatusBar::SetPaneIcon(int nIndex, HBITMAP hBmp, COLORREF clrTransparent, BOOL bUpdate) {
-    Pane* const pane = Find(nIndex);
-    if (pane == nullptr) {
-        return;
+    if (Find(nIndex) != nullptr) {
+        TakeImages(nIndex, ImageOf(hBmp, clrTransparent), 0, bUpdate);
     }
-    StopAnimation(*this, nIndex);
-    HIMAGELIST images = nullptr;
-    BITMAP size{};
-    if (hBmp != nullptr && ::GetObjectW(hBmp, sizeof(size), &size) != 0) {
-        images = ::ImageList_Create(size.bmWidth, size.bmHeight, ILC_COLOR32 | ILC_MASK, 1, 0);
-        // The list paints over what it is given.
-        const auto copy = static_cast<HBITMAP>(::CopyImage(hBmp, IMAGE_BITMAP, 0, 0, 0));
-        ::ImageList_AddMasked(images, copy, clrTransparent);
-        ::DeleteObject(copy);
-    }
-    pane->SetImages(images);
-    PlacePanes();
-    Redraw(nIndex, bUpdate);
 }
 
 void CMFCStatusBar::SetPaneAnimation(int nIndex, HIMAGELIST hImageList, UINT nFrameRate, BOOL bUpdate) {
-    Pane* const pane = Find(nIndex);
-    if (pane == nullptr) {
-        return;
+    if (Find(nIndex) != nullptr) {
+        TakeImages(nIndex, hImageList != nullptr ? ::ImageList_Duplicate(hImageList) : nullptr,
+                   std::max(1U, nFrameRate), bUpdate);
     }
+}
+
+void CMFCStatusBar::TakeImages(int nIndex, HIMAGELIST hImages, UINT nFrameTime, BOOL bUpdate) {
     StopAnimation(*this, nIndex);
-    pane->SetImages(hImageList != nullptr ? ::ImageList_Duplicate(hImageList) : nullptr);
-    if (pane->images != nullptr && m_hWnd != nullptr) {
-        pane->frameTime = std::max(1U, nFrameRate);
-        SetTimer(static_cast<UINT_PTR>(nIndex) + 1, pane->frameTime, nullptr);
+    Pane& pane = *Find(nIndex);
+    pane.SetImages(hImages);
+    if (nFrameTime != 0 && pane.images != nullptr && m_hWnd != nullptr) {
+        pane.frameTime = nFrameTime;
+        SetTimer(static_cast<UINT_PTR>(nIndex) + 1, nFrameTime, nullptr);
     }
     PlacePanes();
     Redraw(nIndex, bUpdate);
