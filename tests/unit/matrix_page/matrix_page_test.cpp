@@ -25,7 +25,7 @@ TEST(MatrixPage, ShowsEachPictureUnderItsTabWithItsCombination) {
     EXPECT_EQ(Count(page, "<section"), 2u);
     EXPECT_EQ(Count(page, "<figure>"), 3u);
     EXPECT_NE(page.find("<title>a &amp; b</title>"), page.npos);
-    EXPECT_NE(page.find("&lt;Tools>"), page.npos);
+    EXPECT_NE(page.find("&lt;Tools&gt;"), page.npos);
     EXPECT_NE(page.find("en, silver, 150 %, 640 × 300"), page.npos);
     EXPECT_LT(page.find("p/3.png"), page.find("p/2.png"));
     EXPECT_NE(page.find("3 pictures."), page.npos);
