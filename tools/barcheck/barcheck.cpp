@@ -1,3 +1,4 @@
+#include "attribute_guide.h"
 #include "config/check/configuration_check.h"
 #include "extract.h"
 #include "model.h"
@@ -101,6 +102,9 @@ int Run(const std::vector<std::wstring>& arguments) {
         return Clean;
     case BarcheckOptions::Task::Guide:
         Print(DiagnosticsGuide(), stdout);
+        return Clean;
+    case BarcheckOptions::Task::Attributes:
+        Print(AttributeReference(), stdout);
         return Clean;
     case BarcheckOptions::Task::Extract:
         return Extract(*options);

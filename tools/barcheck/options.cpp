@@ -85,6 +85,7 @@ constexpr Option kOptions[] = {
     {L"--model", false, SetTask<BarcheckOptions::Task::Model>},
     {L"--models", true, SetModels},
     {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
+    {L"--attributes", false, SetTask<BarcheckOptions::Task::Attributes>},
     {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
 };
 
@@ -135,8 +136,9 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
         }
     }
     const bool needsDirectory =
-        options.task != BarcheckOptions::Task::Guide && options.task != BarcheckOptions::Task::Schema &&
-        options.task != BarcheckOptions::Task::Help && options.task != BarcheckOptions::Task::Models;
+        options.task != BarcheckOptions::Task::Guide && options.task != BarcheckOptions::Task::Attributes &&
+        options.task != BarcheckOptions::Task::Schema && options.task != BarcheckOptions::Task::Help &&
+        options.task != BarcheckOptions::Task::Models;
     if (needsDirectory && !CheckDirectory(options, error)) {
         return std::nullopt;
     }
@@ -149,7 +151,7 @@ const char* BarcheckUsage() {
            "       barcheck DIR --model [--lang LANG]\n"
            "       barcheck --models LIST [--lang LANG]\n"
            "       barcheck --schema ribbon|menu|toolbar\n"
-           "       barcheck --guide\n"
+           "       barcheck --guide | --attributes\n"
            "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
            "files, the translation tables below lang and the icons that the files name. It reads them as the library\n"
            "does. Without a FILE (relative to DIR) it takes cfg\\ribbon*.xml, cfg\\menu*.xml and cfg\\toolbar*.xml; of "
@@ -168,5 +170,6 @@ const char* BarcheckUsage() {
            "  --models  the same of many directories: each line of LIST is DIR, a tab, and the file that it goes to\n"
            "  --schema  an XML schema for this kind of file, as in docs/schemas\n"
            "  --guide   what every code means, as in docs/diagnostics.md\n"
+           "  --attributes  every attribute of the files, as in docs/attributes.md\n"
            "Exit code: 0 nothing but notes, 1 findings, or a table that was not written, 2 wrong usage.\n";
 }

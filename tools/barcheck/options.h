@@ -10,7 +10,7 @@ enum class ReportFormat { Text, Json, Sarif, Github };
 
 /// What the program was asked for.
 struct BarcheckOptions {
-    enum class Task { Check, Extract, Model, Models, Guide, Schema, Help };
+    enum class Task { Check, Extract, Model, Models, Guide, Attributes, Schema, Help };
     Task task = Task::Check;
     /// Installation directory, with its closing separator.
     std::wstring directory;
