@@ -81,7 +81,7 @@ constexpr DiagnosticCode kCodes[] = {
      "It describes nothing: a menu item is left out, a ribbon element is not shown, a panel or popup has no caption.",
      "Describe it, or remove it.", Panel, "<item/>\n<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
-    {"unknown-type", Warning, "TYPE is no kind of element that this file may have.",
+    {"unknown-type", Warning, "TYPE is no kind of element that this file, or the status bar, may have.",
      "Nothing is shown, and what lies below it vanishes, too.", "Mend the word; letter case does not count.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTOM1\"/>", "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"missing-type", Warning, "An element of a ribbon's panel or a button of a toolbar has no TYPE.",
@@ -92,8 +92,9 @@ constexpr DiagnosticCode kCodes[] = {
      "Give it a KEYWORD of its own.", Panel, "<item NAME=\"\" TYPE=\"BUTTON\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"missing-caption", Warning,
-     "Nothing asks for the text that shows the element: a category, a label, a button without an icon, a popup or an "
-     "item of a menu without NAME (MENUNAME), a toolbar without PROMPT.",
+     "Nothing asks for the text that shows the element: a category, a label, a button without an icon, also of the "
+     "status "
+     "bar, a popup or an item of a menu without NAME (MENUNAME), a toolbar without PROMPT.",
      "It is there, but shows nothing.", "Add NAME=\"\" (MENUNAME=\"\" in a menu), or the PROMPT of the toolbar.", Panel,
      "<item KEYWORD=\"In\" TYPE=\"BUTTON\"/>", "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"children-lost", Warning,
@@ -137,7 +138,7 @@ constexpr DiagnosticCode kCodes[] = {
     {"unknown-quick-access", Warning,
      "No element of the ribbon files up to this one has the keyword of a quick access item.", "The item is left out.",
      "Mend the keyword.", RibbonFile,
-     "<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\"><item KEYWORD=\"Inn\"/></row>\n  <row "
+     "<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\"><item KEYWORD=\"Inn\" NAME=\"\"/></row>\n  <row "
      "KEYWORD=\"Main\"><category KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
      "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>",
      "<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\"><item KEYWORD=\"In\"/></row>\n  <row KEYWORD=\"Main\"><category "
@@ -145,10 +146,12 @@ constexpr DiagnosticCode kCodes[] = {
      "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
     {"unknown-status-button", Warning, "No element of any file has the keyword of an extra status-bar button.",
      "The button is left out.", "Mend the keyword; Separator stands for a separator.", RibbonFile,
-     "<ribbon>\n  <row KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"Inn\"/></row>\n  <row KEYWORD=\"Main\"><category "
+     "<ribbon>\n  <row KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"Inn\" NAME=\"\"/></row>\n  <row "
+     "KEYWORD=\"Main\"><category "
      "KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
      "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>",
-     "<ribbon>\n  <row KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"In\"/></row>\n  <row KEYWORD=\"Main\"><category "
+     "<ribbon>\n  <row KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"In\" NAME=\"\"/></row>\n  <row "
+     "KEYWORD=\"Main\"><category "
      "KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
      "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
     {"quick-access-kind", Warning,
@@ -241,6 +244,16 @@ constexpr DiagnosticCode kCodes[] = {
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\" "
      "name=\"In\"><segment><source>Nearer</source></segment></unit>",
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>"},
+    {"long-text", Warning,
+     "A text is wider at 100 % than the field that shows it, or than a window of 1,280 pixels. Widths are estimated, "
+     "and "
+     "only what is clearly wider is said.",
+     "It is cut off, or its panel shows as a button alone.", "Shorten the text, or give the edit a larger WIDTH.",
+     Field,
+     "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\" "
+     "name=\"Place\"><segment><source>Name of a place</source></segment></unit>",
+     "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\" "
+     "name=\"Place\"><segment><source>Place</source></segment></unit>"},
     {"unused-text", Note, "No element of the configuration has the keyword of a unit of section RibbonBarCfg.",
      "Nothing, unless the program asks for it itself.", "Remove it, or mend the key.", Table,
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\" "

@@ -15,6 +15,7 @@ enum class ExampleFrame {
     ToolBarFile,
     ToolBar, ///< buttons of a toolbar
     Table,   ///< units of a translation table
+    Field,   ///< the same, where "Place" is the text of an edit of WIDTH 60
 };
 
 /// One kind of problem: what the guide says of it and what the tests prove. Texts are UTF-8.

@@ -4,6 +4,8 @@
 #include "config/ribbon_attributes.h"
 #include "config/suggestion.h"
 
+#include <varnhold/letter_case.h>
+
 namespace {
 
 constexpr ElementRole RoleOf(std::size_t depth, RibbonRowKind row) {
@@ -24,6 +26,10 @@ ElementKind KindOf(const MetElement& met) { return KindOfElement(met.ValueOf(Att
 
 bool AsksForText(const MetElement& met) { return met.Has(AttributeUse::Name) || met.Has(AttributeUse::ToolTip); }
 
+bool IsStatusSeparator(const MetElement& met) {
+    return varnhold::EqualsIgnoringCase(met.ValueOf(AttributeUse::Keyword), L"Separator");
+}
+
 bool NeedsKeyword(const MetElement& met) {
     switch (met.role) {
     case ElementRole::Row:
@@ -33,6 +39,12 @@ bool NeedsKeyword(const MetElement& met) {
     default:
         return KindOf(met) != ElementKind::Group || AsksForText(met);
     }
+}
+
+/// A number that is 0 as it is written; one that could not be read is none.
+bool IsZero(std::wstring_view digits) {
+    digits.remove_prefix(digits.starts_with(L'-') || digits.starts_with(L'+') ? 1 : 0);
+    return !digits.empty() && digits.find_first_not_of(L'0') == digits.npos;
 }
 
 constexpr AttributeUse kInherited[] = {AttributeUse::Command, AttributeUse::Parameter, AttributeUse::DisabledIcon};
@@ -73,6 +85,10 @@ void RibbonDiagnosis::Check(const MetElement& met, const RibbonTexts& info) {
         CheckKind(met);
         CheckSizes(met, info);
     } else {
+        if (met.role == ElementRole::StatusButton && !IsStatusSeparator(met)) {
+            CheckStatusKind(met);
+            CheckSizes(met, info);
+        }
         CheckChildren(met);
     }
 }
@@ -147,16 +163,28 @@ void RibbonDiagnosis::CheckKind(const MetElement& met) {
     }
 }
 
+void RibbonDiagnosis::CheckStatusKind(const MetElement& met) {
+    const std::wstring_view type = met.ValueOf(AttributeUse::Type);
+    const ElementKind kind = KindOf(met);
+    if (!type.empty() && kind != ElementKind::Button && kind != ElementKind::Label && kind != ElementKind::Slider) {
+        ReportAt(m_diagnostics, met, AttributeUse::Type, "unknown-type",
+                 Quoted(type) + L" is no kind of status-bar button; it is made as a BUTTON",
+                 DidYouMean(ClosestWord(type, {L"BUTTON", L"label", L"SLIDER"})));
+    }
+}
+
 void RibbonDiagnosis::CheckSizes(const MetElement& met, const RibbonTexts& info) {
     constexpr std::int32_t smallSide = 16;
     constexpr std::int32_t largeSide = 32;
     const ElementKind kind = KindOf(met);
     // A number that could not be read was reported, and left 0.
-    if (kind == ElementKind::Button && info.size != 0 && info.size != smallSide && info.size != largeSide) {
+    if (IsInPanel(met) && kind == ElementKind::Button && info.size != 0 && info.size != smallSide &&
+        info.size != largeSide) {
         ReportAt(m_diagnostics, met, AttributeUse::Size, "odd-size",
                  L"a button of SIZE " + std::to_wstring(info.size) + L" is a large one, as with 32", L"write 16 or 32");
     }
-    if ((kind == ElementKind::Slider || kind == ElementKind::Edit) && info.width < 0) {
+    const bool isTooNarrow = info.width < 0 || IsZero(met.ValueOf(AttributeUse::Width));
+    if ((kind == ElementKind::Slider || kind == ElementKind::Edit) && isTooNarrow) {
         ReportAt(m_diagnostics, met, AttributeUse::Width, "odd-size", L"a WIDTH below 1 counts as 50");
     }
 }

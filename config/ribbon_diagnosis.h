@@ -29,6 +29,7 @@ private:
     void CheckKeyword(const MetElement& met);
     void CheckCaption(const MetElement& met);
     void CheckKind(const MetElement& met);
+    void CheckStatusKind(const MetElement& met);
     void CheckSizes(const MetElement& met, const RibbonTexts& info);
     void CheckInheritance(const MetElement& met);
     void CheckChildren(const MetElement& met);

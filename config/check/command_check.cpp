@@ -61,6 +61,13 @@ bool Refers(const MetElement& element) {
     return element.role == ElementRole::QuickAccessItem || element.role == ElementRole::StatusButton;
 }
 
+/// Of a status-bar button: what has no known TYPE is a button.
+bool ShowsNothing(const MetElement& element) {
+    const ElementKind kind = KindOfElement(element.ValueOf(AttributeUse::Type));
+    const bool showsIcon = kind != ElementKind::Label && !element.ValueOf(AttributeUse::Icon).empty();
+    return kind != ElementKind::Slider && !showsIcon && !element.Has(AttributeUse::Name);
+}
+
 class CommandCheck {
 public:
     CommandCheck(bool isComplete, const std::set<std::wstring>& meant, DiagnosticsSink& sink)
@@ -256,16 +263,30 @@ private:
                 }
                 ReportTogether(m_sink, *reference->file, PlaceOf(reference->element, AttributeUse::Keyword), code, text,
                                DidYouMean(ClosestWord(keyword, known)));
-            } else if (reference->element.role == ElementRole::QuickAccessItem && m_commands.contains(keyword) &&
-                       !m_forQuickAccess.contains(keyword)) {
-                ReportTogether(
-                    m_sink, *reference->file, PlaceOf(reference->element, AttributeUse::Keyword), "quick-access-kind",
-                    L"only buttons and combos of a ribbon can stand in the quick access toolbar; this is left "
-                    L"out",
-                    L"remove it", {PlaceOf(*m_commands.at(keyword).first, AttributeUse::Keyword, L"registered here")});
+            } else if (const auto command = m_commands.find(keyword); command != m_commands.end()) {
+                CheckReferred(*reference, command->second);
             }
         }
         references.clear();
+    }
+
+    /// Whether what refers to a command can show it.
+    void CheckReferred(const GatheredElement& reference, const Command& command) const {
+        const MetElement& element = reference.element;
+        const RelatedPlace registered = PlaceOf(*command.first, AttributeUse::Keyword, L"registered here");
+        if (element.role == ElementRole::StatusButton) {
+            if (ShowsNothing(element)) {
+                ReportTogether(m_sink, *reference.file, element.position, "missing-caption",
+                               L"without NAME or PICPATH of its own nothing is shown here: text and icon are not "
+                               L"taken from the command",
+                               L"add NAME=\"\" or PICPATH", {registered});
+            }
+        } else if (!m_forQuickAccess.contains(std::wstring(element.ValueOf(AttributeUse::Keyword)))) {
+            ReportTogether(m_sink, *reference.file, PlaceOf(element, AttributeUse::Keyword), "quick-access-kind",
+                           L"only buttons and combos of a ribbon can stand in the quick access toolbar; this is left "
+                           L"out",
+                           L"remove it", {registered});
+        }
     }
 
     bool m_isComplete;

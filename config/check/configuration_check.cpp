@@ -113,6 +113,7 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     const bool knowsAllKeywords = isComplete && request.files.empty() && !LostKeywords(sink.Findings());
     const std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, knowsAllKeywords, sink);
     CheckCommands(sink.Elements(), isComplete, meant, sink);
+    CheckTextLengths(sink.Elements(), languages, sink);
     CheckAccessKeys(sink.Elements(), languages, sink);
     CheckIcons(sink.Elements(), files, sink);
     std::vector<Diagnostic> findings = std::move(sink.Findings());

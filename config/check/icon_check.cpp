@@ -19,11 +19,20 @@ namespace {
 constexpr int kSmall = 16; // pixels at 96 DPI, the folders' names
 constexpr int kLarge = 32;
 
+/// A label, slider or separator shows no icon; what has no known TYPE is a button.
+bool IsStatusIcon(const MetElement& element) {
+    const ElementKind kind = KindOfElement(element.ValueOf(AttributeUse::Type));
+    return kind != ElementKind::Label && kind != ElementKind::Slider &&
+           !varnhold::EqualsIgnoringCase(element.ValueOf(AttributeUse::Keyword), L"Separator");
+}
+
 std::vector<int> SidesOf(const MetElement& element) {
     switch (element.role) {
     case ElementRole::MenuItem:
     case ElementRole::ToolBarButton:
         return {kSmall};
+    case ElementRole::StatusButton:
+        return IsStatusIcon(element) ? std::vector<int>{kSmall} : std::vector<int>();
     case ElementRole::RibbonElement:
     case ElementRole::SubItem:
         break;

@@ -15,6 +15,10 @@ std::wstring KeywordOf(const std::wstring& key);
 std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
                                   bool isComplete, DiagnosticsSink& sink);
 
+/// Checks how wide the texts are where a file, or any window, sets a limit: long-text.
+void CheckTextLengths(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
+                      DiagnosticsSink& sink);
+
 /// Checks the letters of each menu in each language: access-key-clash.
 void CheckAccessKeys(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
                      DiagnosticsSink& sink);

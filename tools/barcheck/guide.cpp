@@ -8,10 +8,14 @@ struct FrameText {
     std::string_view where;
 };
 constexpr FrameText kFrames[] = {
-    {ExampleFrame::RibbonFile, "A ribbon file"},     {ExampleFrame::Panel, "In a panel of a ribbon file"},
-    {ExampleFrame::MenuFile, "A menu file"},         {ExampleFrame::Popup, "In a popup of a menu file"},
-    {ExampleFrame::ToolBarFile, "A toolbar file"},   {ExampleFrame::ToolBar, "In a toolbar of a toolbar file"},
+    {ExampleFrame::RibbonFile, "A ribbon file"},
+    {ExampleFrame::Panel, "In a panel of a ribbon file"},
+    {ExampleFrame::MenuFile, "A menu file"},
+    {ExampleFrame::Popup, "In a popup of a menu file"},
+    {ExampleFrame::ToolBarFile, "A toolbar file"},
+    {ExampleFrame::ToolBar, "In a toolbar of a toolbar file"},
     {ExampleFrame::Table, "In a translation table"},
+    {ExampleFrame::Field, "In a translation table, where `Place` is the text of an edit of `WIDTH=\"60\"`"},
 };
 
 /// Bytes that are no text show as what they are read as.

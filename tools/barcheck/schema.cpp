@@ -13,6 +13,7 @@
 
 namespace {
 
+constexpr std::string_view kStatusTypes[] = {"BUTTON", "SLIDER", "label"};
 constexpr std::string_view kModifiers[] = {"Ctrl", "Shift", "Alt"};
 
 bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
@@ -43,6 +44,13 @@ std::vector<std::string> Narrow(const std::vector<std::wstring>& words) {
         narrow.push_back(wstring2String(word));
     }
     return narrow;
+}
+
+/// In a row of status-bar buttons, which has fewer kinds.
+std::string WithStatusTypes(std::string attributes) {
+    constexpr std::string_view of = "type=\"type\"";
+    const std::size_t at = attributes.find(of);
+    return at == std::string::npos ? attributes : attributes.replace(at, of.size(), "type=\"statusType\"");
 }
 
 std::string TypeWithPattern(std::string_view name, const std::string& pattern) {
@@ -139,13 +147,14 @@ std::string RibbonSchema() {
         "ribbon",
         ComplexType("ribbon", {{"row", "row"}}, "") +
             ComplexType("row", {{"category", "category"}, {"item", "reference"}}, attributes({Type, CateTab}, {})) +
-            ComplexType("reference", {}, attributes({CateTab}, {Keyword})) +
+            ComplexType("reference", {}, WithStatusTypes(attributes({CateTab}, {Keyword}))) +
             ComplexType("category", {{"panel", "panel"}}, attributes({Type}, {Keyword, Name})) +
             ComplexType("panel", {{"item", "element"}, {"group", "group"}}, attributes({Type, CateTab}, {})) +
             ComplexType("element", {{"item", "subItem"}}, attributes({CateTab}, {Keyword, Type})) +
             ComplexType("group", {{"item", "subItem"}}, attributes({CateTab}, {Type})) +
             ComplexType("subItem", {}, attributes({CateTab}, {Keyword, Type})) +
-            TypeWithPattern("type", OneOf(Narrow(ElementTypes()))) + TypeWithPattern("number", "[+\\-]?[0-9]{1,10}") +
+            TypeWithPattern("type", OneOf(Narrow(ElementTypes()))) +
+            TypeWithPattern("statusType", OneOf(kStatusTypes)) + TypeWithPattern("number", "[+\\-]?[0-9]{1,10}") +
             TypeWithPattern("flag", "[YyNn]?") + kIconType);
 }
 

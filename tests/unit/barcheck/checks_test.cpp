@@ -106,7 +106,7 @@ TEST(CheckedConfiguration, TheTextOfAKeywordThatWasLostIsNotUnusedBesides) {
     const std::string keyword = "KEYWORD=\"ScaleLabel\" ";
     ribbon.erase(ribbon.find(keyword), keyword.size());
     installation.Write("cfg/ribbon.xml", ribbon);
-    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:26:9 missing-keyword\n");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:28:9 missing-keyword\n");
 }
 
 TEST(CheckedConfiguration, LettersClashPerLanguageByTheTranslatedText) {

@@ -38,6 +38,12 @@ void WriteExample(const CheckedInstallation& installation, ExampleFrame frame, c
     case ExampleFrame::Table:
         installation.Write("cfg/ribbon.xml", "<ribbon><row><category KEYWORD=\"In\" NAME=\"\"/></row></ribbon>");
         break;
+    case ExampleFrame::Field:
+        installation.Write(
+            "cfg/ribbon.xml",
+            "<ribbon><row><category KEYWORD=\"In\" NAME=\"\"><panel KEYWORD=\"Inside\"><item "
+            "KEYWORD=\"Place\" NAME=\"\" TYPE=\"edit\" WIDTH=\"60\"/></panel></category></row></ribbon>");
+        break;
     case ExampleFrame::None:
         break;
     }
@@ -52,7 +58,7 @@ void WriteTableOf(const CheckedInstallation& installation, const DiagnosticCode&
 std::string FindingsIn(const DiagnosticCode& code, std::string_view lines) {
     const CheckedInstallation installation;
     WriteExample(installation, code.frame, std::string(lines));
-    if (code.frame == ExampleFrame::Table) {
+    if (code.frame == ExampleFrame::Table || code.frame == ExampleFrame::Field) {
         WriteTableOf(installation, code, lines);
     }
     std::string codes;

@@ -21,6 +21,8 @@ inline std::string SampleRibbon() {
   <row KEYWORD="StatusEx_btns">
     <item KEYWORD="Separator"/>
     <item KEYWORD="Scale" NAME="" TOOLTIP="" TYPE="slider" WIDTH="100"/>
+    <item KEYWORD="Measure" TOOLTIP="" PICPATH="pic\icon\ruler.ico" TYPE="BUTTON"/>
+    <item KEYWORD="Layers" NAME="" TYPE="Label"/>
   </row>
   <row KEYWORD="Main">
     <category KEYWORD="CatMap" NAME="" CATETAB="Y">
@@ -40,6 +42,7 @@ inline std::string SampleRibbon() {
         <item KEYWORD="ScaleLabel" NAME="" TYPE="label"/>
         <item KEYWORD="Scale" TOOLTIP="" TYPE="SLIDER" WIDTH="120" CMD="scale"/>
         <item KEYWORD="Place" TOOLTIP="" TYPE="edit" WIDTH="130" CMD="place" AcceptF1="N"/>
+        <item KEYWORD="Filter" NAME="" TOOLTIP="" TYPE="edit" WIDTH="90" CMD="filter"/>
         <item KEYWORD="Layers" NAME="" TYPE="qkRibbonCheckComb" CMD="layers"/>
       </panel>
     </category>
@@ -96,11 +99,11 @@ inline std::string SampleToolBars() {
 /// In the table of a translated language every unit has a target.
 inline std::string SampleTable(const std::string& language) {
     constexpr const char* keys[] = {
-        "CatMap",    "CatTools",      "East",       "Exit",          "Layers",       "Measure",   "Measure.tooltip",
-        "MenuEdit",  "MenuFile",      "MenuRecent", "Open",          "Open.tooltip", "PanelFile", "PanelTools",
-        "PanelZoom", "Place.tooltip", "Print",      "Print.tooltip", "Redo",         "Save",      "Save.tooltip",
-        "Scale",     "Scale.tooltip", "ScaleLabel", "Undo",          "West",         "ZoomFour",  "ZoomIn",
-        "ZoomTwo",
+        "CatMap",    "CatTools",       "East",      "Exit",          "Layers",     "Measure",       "Measure.tooltip",
+        "Filter",    "Filter.tooltip", "MenuEdit",  "MenuFile",      "MenuRecent", "Open",          "Open.tooltip",
+        "PanelFile", "PanelTools",     "PanelZoom", "Place.tooltip", "Print",      "Print.tooltip", "Redo",
+        "Save",      "Save.tooltip",   "Scale",     "Scale.tooltip", "ScaleLabel", "Undo",          "West",
+        "ZoomFour",  "ZoomIn",         "ZoomTwo",
     };
     const bool isSource = language == "en";
     std::string text = R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -125,7 +128,7 @@ inline void WriteSample(const CheckedInstallation& installation) {
     for (const SampleFile& file : SampleFiles()) {
         installation.Write(file.name, file.text);
     }
-    for (const char* name : {"open", "save", "zoom", "west", "east", "measure", "find"}) {
+    for (const char* name : {"open", "save", "zoom", "west", "east", "measure", "find", "ruler"}) {
         installation.WriteIcon("pic/icon", std::string(name) + ".ico");
     }
 }
