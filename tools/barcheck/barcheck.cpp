@@ -5,6 +5,7 @@
 #include "options.h"
 #include "reports.h"
 #include "schema.h"
+#include "table_schema.h"
 
 #include <varnhold/strings.h>
 
@@ -112,7 +113,7 @@ int Run(const std::vector<std::wstring>& arguments) {
         Print(ModelOf(options->directory, options->language).dump(2) + "\n", stdout);
         return Clean;
     case BarcheckOptions::Task::Schema:
-        Print(SchemaOf(options->schema), stdout);
+        Print(options->schema ? SchemaOf(*options->schema) : std::string(TableSchema()), stdout);
         return Clean;
     case BarcheckOptions::Task::Models:
         return WriteModels(*options) ? Clean : WrongUsage;

@@ -59,13 +59,9 @@ struct Option {
 };
 
 bool SetSchema(BarcheckOptions& options, const std::wstring& value) {
-    const std::optional<ConfigurationKind> kind = KindNamed(value);
-    if (!kind) {
-        return false;
-    }
     options.task = BarcheckOptions::Task::Schema;
-    options.schema = *kind;
-    return true;
+    options.schema = KindNamed(value);
+    return options.schema || value == L"table";
 }
 
 bool SetStrict(BarcheckOptions& options, const std::wstring& /*value*/) { return options.isStrict = true; }
@@ -150,7 +146,7 @@ const char* BarcheckUsage() {
            "       barcheck DIR [FILE...] --extract LANG\n"
            "       barcheck DIR --model [--lang LANG]\n"
            "       barcheck --models LIST [--lang LANG]\n"
-           "       barcheck --schema ribbon|menu|toolbar\n"
+           "       barcheck --schema ribbon|menu|toolbar|table\n"
            "       barcheck --guide | --attributes\n"
            "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
            "files, the translation tables below lang and the icons that the files name. It reads them as the library\n"

@@ -20,8 +20,8 @@ struct BarcheckOptions {
     /// Notes count as findings.
     bool isStrict = false;
     std::wstring language;
-    /// The kind of file that a schema is wanted for.
-    ConfigurationKind schema = ConfigurationKind::Ribbon;
+    /// The kind of file that a schema is wanted for; none: translation tables.
+    std::optional<ConfigurationKind> schema;
     /// The file that lists directories and the files of their models.
     std::wstring list;
     /// The language whose table is to be written.
