@@ -76,7 +76,7 @@ const std::vector<AttributeGuide>& RibbonGuides() {
          "0",
          "50",
          "In pixels at 96 DPI. Less than 1 counts as 50.",
-         {"bad-number", "odd-size"}},
+         {"bad-number", "odd-size", "long-text"}},
         {Command,
          "categories, panels, elements, sub-items",
          kText,

@@ -69,6 +69,7 @@ constexpr WrongValue kWrongValues[] = {
      R"(<item KEYWORD="C" NAME="" TYPE="BUTTON"/></item>)"},
     {kRibbon, Width, "bad-number", R"(<item KEYWORD="A" NAME="" TYPE="edit" WIDTH="wide"/>)"},
     {kRibbon, Width, "odd-size", R"(<item KEYWORD="A" NAME="" TYPE="edit" WIDTH="-1"/>)"},
+    {kRibbon, Width, "long-text", R"(<item KEYWORD="Map" NAME="" TYPE="edit" WIDTH="12"/>)"},
     {kRibbon, Command, "inherited-value",
      R"(<item KEYWORD="A" NAME="" TYPE="BUTTON"><item KEYWORD="B" NAME="" TYPE="BUTTON" CMD="b"/>)"
      R"(<item KEYWORD="C" NAME="" TYPE="BUTTON"/></item>)"},
