@@ -25,6 +25,7 @@ target_sources(framework PRIVATE
   dialog_ex.cpp
   dialog_window.cpp
   frame_control_bar.cpp
+  frame_bar_state.cpp
   frame_layout.cpp
   frame_messages.cpp
   frame_status_bar.cpp

@@ -105,6 +105,10 @@ public:
 
     CControlBar* GetControlBar(UINT nID);
     void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
+    /// Which control bars are shown, in the application's settings. lpszProfileName: how the names of the sections
+    /// begin. Bars of which nothing was kept stay as they are.
+    void LoadBarState(LPCTSTR lpszProfileName);
+    void SaveBarState(LPCTSTR lpszProfileName) const;
     BOOL IsTracking() const { return m_nIDTracking != 0; }
     afx_msg BOOL OnBarCheck(UINT nID);
     afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
