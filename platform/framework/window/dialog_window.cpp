@@ -1,4 +1,5 @@
 #include "afxwin.h"
+#include "window/frame_keys.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
@@ -13,18 +14,6 @@ namespace {
 
 /// Everything goes through the message map; the system only wants to hear that there is a procedure.
 INT_PTR CALLBACK EmptyDialogProc(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
-
-/// Whether the message is a character that the control under the caret types.
-bool IsTextFor(const MSG& message) {
-    return message.message == WM_CHAR &&
-           (::SendMessageW(message.hwnd, WM_GETDLGCODE, message.wParam, 0) & (DLGC_WANTCHARS | DLGC_WANTALLKEYS)) != 0;
-}
-
-/// A frame that a modal dialog has disabled takes none.
-bool TakesKeys(CWnd* window) {
-    return window && window->m_hWnd && window->IsKindOf(RUNTIME_CLASS(CFrameWnd)) &&
-           ::IsWindowEnabled(::GetAncestor(window->m_hWnd, GA_ROOT));
-}
 
 /// Whether the dialog's place is left open: position 0, 0 and no style that says where.
 bool HasNoPlace(const DLGTEMPLATE& dialogTemplate) {
@@ -231,24 +220,10 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
     }
     const bool isKey = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
     const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
-    if (isKey && !IsTextFor(*pMsg) && TranslateFrameKey(pMsg)) {
+    if (isKey && fx::TranslateFrameKey(m_hWnd, *pMsg)) {
         return TRUE;
     }
     return (isKey || isMouse) && IsDialogMessage(pMsg);
-}
-
-// IsDialogMessage uses up every key: the accelerators of the frames above come before it.
-BOOL CDialog::TranslateFrameKey(MSG* message) const {
-    CWnd* const main = AfxGetMainWnd();
-    bool hasAskedMain = false;
-    for (HWND window = ::GetParent(m_hWnd); window; window = ::GetParent(window)) {
-        CWnd* const above = FromHandlePermanent(window);
-        hasAskedMain |= above == main;
-        if (TakesKeys(above) && above->PreTranslateMessage(message)) {
-            return TRUE;
-        }
-    }
-    return !hasAskedMain && TakesKeys(main) && main->PreTranslateMessage(message);
 }
 
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {

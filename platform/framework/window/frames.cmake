@@ -26,11 +26,15 @@ target_sources(framework PRIVATE
   dialog_window.cpp
   frame_control_bar.cpp
   frame_bar_state.cpp
+  frame_keys.cpp
   frame_layout.cpp
   frame_messages.cpp
   frame_status_bar.cpp
   frame_views.cpp
   frame_window.cpp
+  property_page.cpp
+  property_sheet.cpp
+  property_sheet_pages.cpp
   view.cpp
   mini_frame.cpp
 )

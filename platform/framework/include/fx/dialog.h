@@ -64,8 +64,6 @@ private:
     bool CreateFromResource(LPCTSTR name, CWnd* parent);
     bool CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance);
     void CreateAndRunModal(CWnd* owner);
-    /// Offers a key to the enabled frames that own the dialog and to the main window. TRUE: it was an accelerator.
-    BOOL TranslateFrameKey(MSG* message) const;
 
     LPCDLGTEMPLATE m_memoryTemplate = nullptr; ///< for DoModal, not owned
     HGLOBAL m_memoryHandle = nullptr;          ///< the same, to be locked

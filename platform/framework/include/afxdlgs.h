@@ -1,0 +1,8 @@
+#pragma once
+// Programs ask by this name whether the header was included.
+#define __AFXDLGS_H__
+
+/// Property sheets: dialogs of pages with tabs, and wizards.
+#include "afxcmn.h"
+#include "fx/property_page.h"
+#include "fx/property_sheet.h"
