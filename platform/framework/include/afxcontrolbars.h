@@ -1,6 +1,7 @@
 #pragma once
 
 // The extended frames, panes, bars and visual managers.
+#include "afxacceleratorkey.h"
 #include "afxbasepane.h"
 #include "afxbaseribbonelement.h"
 #include "afxbasetoolbar.h"

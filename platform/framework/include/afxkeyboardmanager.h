@@ -33,8 +33,11 @@ public:
     /// FALSE: nothing was kept, or it is damaged; the frame's table is as it was.
     BOOL LoadState(LPCTSTR lpszProfileName = NULL, CFrameWnd* pDefaultFrame = NULL);
     BOOL SaveState(LPCTSTR lpszProfileName = NULL, CFrameWnd* pDefaultFrame = NULL);
-    /// The tables that frames had before LoadState gave them others.
+    /// The tables that frames had before LoadState gave them others, or the user changed them.
     void ResetAll();
+    /// Keeps the frame's table as what ResetAll goes back to, before the user changes a key of it; NULL: the
+    /// application's main frame. One that is kept already stays.
+    void KeepOriginalKeys(CFrameWnd* pFrame = NULL);
 
     /// Forgets cached tables.
     static void CleanUp();
@@ -44,7 +47,7 @@ private:
         HWND frame;
         std::vector<ACCEL> keys;
     };
-    std::vector<Original> m_originals; ///< of frames whose table LoadState has replaced
+    std::vector<Original> m_originals; ///< of frames whose table LoadState or the user has changed
     static bool s_isShowAll;
     static CString s_delimiter;
 };

@@ -1,9 +1,11 @@
 #include "afxkeyboardmanager.h"
 
+#include "afxacceleratorkey.h"
 #include "core/letters.h"
 #include "fx/app.h"
 #include "fx/archive.h"
 #include "fx/state_store.h"
+#include "panes/frame_keys_list.h"
 
 #include <algorithm>
 #include <vector>
@@ -15,16 +17,7 @@ namespace {
 
 CFrameWnd* FrameOrMain(CFrameWnd* frame) { return frame ? frame : DYNAMIC_DOWNCAST(CFrameWnd, AfxGetMainWnd()); }
 
-std::vector<ACCEL> EntriesOf(CFrameWnd* frame) {
-    frame = FrameOrMain(frame);
-    const HACCEL table = frame ? frame->m_hAccelTable : nullptr;
-    const int count = table ? ::CopyAcceleratorTableW(table, nullptr, 0) : 0;
-    std::vector<ACCEL> entries(static_cast<size_t>(count));
-    if (count > 0) {
-        ::CopyAcceleratorTableW(table, entries.data(), count);
-    }
-    return entries;
-}
+std::vector<ACCEL> EntriesOf(CFrameWnd* frame) { return panes::KeysOf(FrameOrMain(frame)); }
 
 constexpr LPCTSTR kKeysEntry = L"Keys";
 constexpr BYTE kKnownFlags = FVIRTKEY | FNOINVERT | FSHIFT | FCONTROL | FALT;
@@ -81,58 +74,6 @@ BOOL GiveKeys(CFrameWnd& frame, std::vector<ACCEL> keys) {
     return TRUE;
 }
 
-struct KeyName {
-    WORD key;
-    LPCTSTR name;
-};
-
-/// Keys whose names the keyboard layout does not tell, or tells too long for a menu.
-constexpr KeyName namedKeys[] = {
-    {VK_BACK, L"Backspace"}, {VK_TAB, L"Tab"},        {VK_RETURN, L"Enter"},   {VK_ESCAPE, L"Esc"},
-    {VK_SPACE, L"Space"},    {VK_PRIOR, L"Page Up"},  {VK_NEXT, L"Page Down"}, {VK_END, L"End"},
-    {VK_HOME, L"Home"},      {VK_LEFT, L"Left"},      {VK_UP, L"Up"},          {VK_RIGHT, L"Right"},
-    {VK_DOWN, L"Down"},      {VK_INSERT, L"Ins"},     {VK_DELETE, L"Del"},     {VK_ADD, L"Num +"},
-    {VK_SUBTRACT, L"Num -"}, {VK_MULTIPLY, L"Num *"}, {VK_DIVIDE, L"Num /"},   {VK_PAUSE, L"Pause"},
-};
-
-CString NameOfKey(WORD key) {
-    const auto* named = std::find_if(std::begin(namedKeys), std::end(namedKeys),
-                                     [key](const KeyName& candidate) { return candidate.key == key; });
-    if (named != std::end(namedKeys)) {
-        return named->name;
-    }
-    CString name;
-    if (key >= VK_F1 && key <= VK_F24) {
-        name.Format(L"F%d", key - VK_F1 + 1);
-        return name;
-    }
-    if (const UINT character = ::MapVirtualKeyW(key, MAPVK_VK_TO_CHAR) & 0x7FFF) {
-        name = fx::UpperCase(static_cast<wchar_t>(character));
-    }
-    return name;
-}
-
-CString TextOf(const ACCEL& entry) {
-    CString text;
-    if (entry.fVirt & FCONTROL) {
-        text += L"Ctrl+";
-    }
-    if (entry.fVirt & FALT) {
-        text += L"Alt+";
-    }
-    if (entry.fVirt & FSHIFT) {
-        text += L"Shift+";
-    }
-    if (entry.fVirt & FVIRTKEY) {
-        return text + NameOfKey(entry.key);
-    }
-    // A table for characters names control characters by their number.
-    if (entry.key < L' ') {
-        return text + L"Ctrl+" + static_cast<wchar_t>(entry.key + L'@');
-    }
-    return text + static_cast<wchar_t>(entry.key);
-}
-
 } // namespace
 
 CKeyboardManager* afxKeyboardManager = nullptr;
@@ -181,12 +122,17 @@ BOOL CKeyboardManager::LoadState(LPCTSTR lpszProfileName, CFrameWnd* pDefaultFra
     if (!store || !frame || !store->ReadObject(KeyboardSection(lpszProfileName), kKeysEntry, kept)) {
         return FALSE;
     }
-    const HWND window = frame->m_hWnd;
+    KeepOriginalKeys(frame);
+    return GiveKeys(*frame, kept.keys);
+}
+
+void CKeyboardManager::KeepOriginalKeys(CFrameWnd* pFrame) {
+    CFrameWnd* const frame = FrameOrMain(pFrame);
+    const HWND window = frame->GetSafeHwnd();
     const auto isOfFrame = [window](const Original& original) { return original.frame == window; };
-    if (std::ranges::none_of(m_originals, isOfFrame)) {
+    if (window != nullptr && std::ranges::none_of(m_originals, isOfFrame)) {
         m_originals.push_back({window, EntriesOf(frame)});
     }
-    return GiveKeys(*frame, kept.keys);
 }
 
 void CKeyboardManager::ResetAll() {
@@ -204,11 +150,9 @@ BOOL CKeyboardManager::FindDefaultAccelerator(UINT uiCmd, CString& str, CFrameWn
         if (entry.cmd != uiCmd) {
             continue;
         }
-        if (!isFound) {
-            str = TextOf(entry);
-        } else {
-            str += s_delimiter + TextOf(entry);
-        }
+        CString key;
+        CMFCAcceleratorKey(const_cast<LPACCEL>(&entry)).Format(key);
+        str = isFound ? str + s_delimiter + key : key;
         isFound = true;
         if (!s_isShowAll) {
             break;
@@ -218,10 +162,9 @@ BOOL CKeyboardManager::FindDefaultAccelerator(UINT uiCmd, CString& str, CFrameWn
 }
 
 BOOL CKeyboardManager::IsKeyHandled(WORD nKey, BYTE fVirt, CFrameWnd* pWndFrame, BOOL) {
-    const auto meaning = [](BYTE flags) { return static_cast<BYTE>(flags & (FVIRTKEY | FSHIFT | FCONTROL | FALT)); };
-    const std::vector<ACCEL> entries = EntriesOf(pWndFrame);
-    return std::any_of(entries.begin(), entries.end(),
-                       [&](const ACCEL& entry) { return entry.key == nKey && meaning(entry.fVirt) == meaning(fVirt); });
+    const ACCEL wanted{fVirt, nKey, 0};
+    return std::ranges::any_of(EntriesOf(pWndFrame),
+                               [&wanted](const ACCEL& entry) { return panes::IsSameKey(entry, wanted); });
 }
 
 BOOL CKeyboardManager::IsKeyPrintable(const UINT nChar) {
