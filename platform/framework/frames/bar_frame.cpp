@@ -177,6 +177,16 @@ BOOL BarFrameOf<Base>::ShowInMenuBar(HMENU hMenu) {
 }
 
 template <class Base>
+LRESULT BarFrameOf<Base>::OnToolbarCreateNew(WPARAM, LPARAM lp) {
+    return reinterpret_cast<LRESULT>(m_Impl.CreateUserToolBar(reinterpret_cast<LPCTSTR>(lp)));
+}
+
+template <class Base>
+LRESULT BarFrameOf<Base>::OnToolbarDelete(WPARAM, LPARAM lp) {
+    return m_Impl.DeleteUserToolBar(reinterpret_cast<const CMFCToolBar*>(lp));
+}
+
+template <class Base>
 BOOL BarFrameOf<Base>::OnPaneCheck(UINT nID) {
     CBasePane* pane = this->GetPane(nID);
     if (!pane) {

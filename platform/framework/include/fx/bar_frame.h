@@ -47,6 +47,11 @@ public:
     afx_msg void OnClose();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg LRESULT OnChangeVisualManager(WPARAM wParam, LPARAM lParam);
+    /// AFX_WM_CREATETOOLBAR: the user wants a toolbar with the name in lp (LPCTSTR). A new CMFCToolBar, docked at the
+    /// top, which the frame owns and keeps in its state; NULL when there are too many.
+    afx_msg LRESULT OnToolbarCreateNew(WPARAM wp, LPARAM lp);
+    /// AFX_WM_DELETETOOLBAR: the user deletes the toolbar lp (CMFCToolBar*). TRUE: it was one of those and is gone.
+    afx_msg LRESULT OnToolbarDelete(WPARAM wp, LPARAM lp);
     afx_msg BOOL OnPaneCheck(UINT nID);
     afx_msg void OnUpdatePaneMenu(CCmdUI* pCmdUI);
 

@@ -3,24 +3,34 @@
 #include "afxDockingManager.h"
 #include "fx/frame.h"
 
+#include <memory>
+#include <vector>
+
 class CMFCMenuBar;
 class CMFCPopupMenu;
 class CMFCRibbonBar;
+class CMFCToolBar;
 class CMFCToolBarButton;
 
 /// What fx::BarFrameOf leaves to a class that does not depend on the kind of frame: special panes, the open popup, keys
 /// and caption of the ribbon. Part of the frame.
 class FRAMEWORK_API CFrameImpl {
 public:
-    CFrameImpl(CFrameWnd* frame, CDockingManager& dockingManager) : m_frame(frame), m_dockingManager(dockingManager) {}
+    CFrameImpl(CFrameWnd* frame, CDockingManager& dockingManager);
+    ~CFrameImpl();
     CFrameImpl(const CFrameImpl&) = delete;
     CFrameImpl& operator=(const CFrameImpl&) = delete;
 
     /// Before the frame's first pane is made.
     bool Create();
-    /// What the frame's panes keep below the application's base section.
-    BOOL LoadState() { return m_dockingManager.LoadState(); }
-    BOOL SaveState() { return m_dockingManager.SaveState(); }
+    /// What the frame's panes keep below the application's base section, and which toolbars the user has made.
+    BOOL LoadState();
+    BOOL SaveState();
+    /// A toolbar that the user makes and names: docked at the top, the frame's own. Null: there are too many, or it
+    /// could not be made.
+    CMFCToolBar* CreateUserToolBar(LPCTSTR name);
+    /// FALSE: it is none of those.
+    BOOL DeleteUserToolBar(const CMFCToolBar* bar);
     /// The frame and its panes are made: the application loads their state (CWinAppEx::LoadState), if it has a registry
     /// key to keep it below.
     void OnLoadFrame();
@@ -96,8 +106,13 @@ private:
     void OnSystemChange(UINT dpi = 0);
     void OnDpiChanged(UINT dpi, const RECT* place);
 
+    CMFCToolBar* MakeUserToolBar(UINT id, LPCTSTR name);
+    BOOL SaveUserToolBars();
+    void LoadUserToolBars();
+
     CFrameWnd* m_frame;
     CDockingManager& m_dockingManager;
+    std::vector<std::unique_ptr<CMFCToolBar>> m_userToolBars;
     bool m_replacesCaption = false;
     bool m_hasRegion = false;
     bool m_wasZoomed = false; ///< when its size last changed
