@@ -27,6 +27,15 @@ public:
                                          BOOL bAutoDestroy = TRUE, BOOL bRightAlign = FALSE);
     /// Modal. The chosen command, 0 when the menu was left; no command is sent. hmenuPopup stays the caller's.
     virtual UINT TrackPopupMenu(HMENU hmenuPopup, int x, int y, CWnd* pWndOwner, BOOL bRightAlign = FALSE);
+    /// The menus as they are now, below the application's registry section: a menu that the program or the user has
+    /// changed is kept with its changes.
+    virtual BOOL SaveState(LPCTSTR lpszProfileName = NULL);
+    /// Menus that were kept take the place of those with the same resource. FALSE: nothing was kept, or it is damaged;
+    /// then all menus stay.
+    virtual BOOL LoadState(LPCTSTR lpszProfileName = NULL);
+    /// All menus from the resources again; the main frame hears AFX_WM_RESETCONTEXTMENU of each (resource id, menu) and
+    /// may change it. FALSE: one of the resources is missing; that menu stays as it is.
+    virtual BOOL ResetState();
     /// A further menu does not close the one that is open.
     void SetDontCloseActiveMenu(BOOL bSet = TRUE) { m_bDontCloseActiveMenu = bSet; }
 

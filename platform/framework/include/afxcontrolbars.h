@@ -46,6 +46,7 @@
 #include "afxtoolbareditboxbutton.h"
 #include "afxtoolbarimages.h"
 #include "afxtoolbarmenubutton.h"
+#include "afxToolBarsCustomizeDialog.h"
 #include "afxtooltipctrl.h"
 #include "afxtooltipmanager.h"
 #include "afxvisualmanager.h"

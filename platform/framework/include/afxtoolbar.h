@@ -10,6 +10,7 @@ class CToolTipCtrl;
 
 namespace toolbar {
 class ButtonDrag;
+class OfferedBars;
 } // namespace toolbar
 
 /// What a drop does: DROPEFFECT_NONE, DROPEFFECT_COPY, DROPEFFECT_MOVE of <ole2.h>.
@@ -162,6 +163,9 @@ public:
     static COLORREF GetHotTextColor();
     static void SetShowTooltips(BOOL bValue) { m_bShowTooltips = bValue; }
     static BOOL GetShowTooltips() { return m_bShowTooltips; }
+    /// The keys of a button's command behind the text of its tooltip.
+    static void SetShowShortcutKeys(BOOL bValue) { m_bShowShortcutKeys = bValue; }
+    static BOOL GetShowShortcutKeys() { return m_bShowShortcutKeys; }
     virtual void OnChangeVisualManager();
     virtual void OnGlobalFontsChanged();
     virtual void OnFillBackground(CDC*) {}
@@ -242,6 +246,9 @@ public:
     static void SetNonPermittedCommands(CList<UINT, UINT>& lstCommands);
     static BOOL IsCommandPermitted(UINT uiCmd);
 
+    /// Large images alone; FALSE when nothing was kept.
+    static BOOL __stdcall LoadLargeIconsState(LPCTSTR lpszProfileName = NULL);
+    static BOOL __stdcall SaveLargeIconsState(LPCTSTR lpszProfileName = NULL);
     /// What holds for all toolbars (large images, tooltips, counted commands), below the application's registry
     /// section.
     static BOOL LoadParameters(LPCTSTR lpszProfileName = NULL);
@@ -383,10 +390,12 @@ protected:
     static CSize m_sizeButton, m_sizeImage, m_sizeMenuButton, m_sizeMenuImage;
     static COLORREF m_clrTextHot;
     static BOOL m_bShowTooltips;
+    static BOOL m_bShowShortcutKeys;
     static BOOL m_bLargeIcons;
     static const CMFCToolBarButton* m_pLastCommandButton;
 
     friend class toolbar::ButtonDrag;
+    friend class toolbar::OfferedBars;
     friend class CMFCToolBarButton;
     friend class CMFCToolBarMenuButton;
     friend class CMFCPopupMenu;

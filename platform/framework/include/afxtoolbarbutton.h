@@ -108,6 +108,11 @@ public:
     /// The user begins to drag it, or drops it on a toolbar, while buttons can be customised. FALSE: he may not.
     virtual BOOL OnBeforeDrag() const { return TRUE; }
     virtual BOOL OnBeforeDrop(CMFCToolBar*) { return TRUE; }
+    /// This copy has become a command that the customize dialog offers.
+    virtual void OnAddToCustomizePage() {}
+    /// Draws itself as a row of that dialog's list of commands, image and text; the width that it took. Text colour and
+    /// background are those of pDC.
+    virtual int OnDrawOnCustomizeList(CDC* pDC, const CRect& rect, BOOL bSelected);
 
     // Tooltips
     virtual BOOL OnGetCustomToolTipText(CString&) { return FALSE; }

@@ -3,9 +3,10 @@
 #include "afxmenubar.h"
 #include "fx/to_rect.h"
 #include "fx/window_guard.h"
+#include "toolbar/button_copy.h"
 
 #include <cstdlib>
-#include <memory>
+#include <utility>
 
 #include <ole2.h>
 
@@ -15,6 +16,13 @@ namespace {
 
 bool MayBeChanged(const CMFCToolBar& bar) {
     return bar.IsWindowVisible() && !bar.IsLocked() && !bar.IsKindOf(RUNTIME_CLASS(CMFCMenuBar));
+}
+
+/// No other window of the program's, a dialog, lies over the bar there.
+bool IsInSight(const CMFCToolBar& bar, CPoint screen) {
+    const HWND top = ::WindowFromPoint(screen);
+    const bool isOurs = top != nullptr && ::GetWindowThreadProcessId(top, nullptr) == ::GetCurrentThreadId();
+    return !isOurs || ::GetAncestor(top, GA_ROOT) == ::GetAncestor(bar.m_hWnd, GA_ROOT);
 }
 
 DropPlace PlaceIn(const CMFCToolBar& bar, CPoint screen) {
@@ -34,6 +42,22 @@ ButtonDrag* ButtonDrag::Current() { return dynamic_cast<ButtonDrag*>(DragWindow:
 ButtonDrag::ButtonDrag(const CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt)
     : m_source(bar.m_hWnd), m_button(&button), m_isByAlt(isByAlt), m_start(screen) {}
 
+ButtonDrag::ButtonDrag(std::unique_ptr<CMFCToolBarButton> command, CPoint screen)
+    : m_command(std::move(command)), m_source(nullptr), m_button(m_command.get()), m_isByAlt(false), m_start(screen) {}
+
+bool ButtonDrag::BeginWithCommand(const CMFCToolBarButton& command, CWnd& frame, CPoint screen) {
+    std::unique_ptr<CMFCToolBarButton> copy = CopyOf(command);
+    if (DragWindow::Current() != nullptr || !copy || !copy->OnBeforeDrag()) {
+        return false;
+    }
+    auto drag = std::unique_ptr<ButtonDrag>(new ButtonDrag(std::move(copy), screen));
+    if (!drag->TakeMouse(&frame)) {
+        return false;
+    }
+    drag.release(); // it is the window's own now
+    return true;
+}
+
 bool ButtonDrag::Begin(CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint screen, bool isByAlt) {
     const bool isProtected = CMFCToolBarButton::GetProtectedCommands().Find(button.m_nID) != nullptr;
     if (DragWindow::Current() != nullptr || !MayBeChanged(bar) || isProtected || !button.IsEditable() ||
@@ -49,6 +73,9 @@ bool ButtonDrag::Begin(CMFCToolBar& bar, const CMFCToolBarButton& button, CPoint
 }
 
 CMFCToolBarButton* ButtonDrag::Button() const {
+    if (m_command) {
+        return m_command.get();
+    }
     const CMFCToolBar* const bar = Source();
     return bar != nullptr ? bar->GetButton(bar->ButtonToIndex(m_button)) : nullptr;
 }
@@ -61,7 +88,8 @@ CMFCToolBar* ButtonDrag::FindTarget(CPoint screen) const {
             const_cast<CMFCToolBar*>(static_cast<const CMFCToolBar*>(CMFCToolBar::GetAllToolbars().GetNext(position)));
         CRect window;
         bar->GetWindowRect(&window);
-        if (window.PtInRect(screen) && MayBeChanged(*bar) && (found == nullptr || bar->IsFloating())) {
+        if (window.PtInRect(screen) && IsInSight(*bar, screen) && MayBeChanged(*bar) &&
+            (found == nullptr || bar->IsFloating())) {
             found = bar;
         }
     }
@@ -131,37 +159,41 @@ void ButtonDrag::Finish(CPoint screen) {
     if (!m_isUnderWay) {
         return;
     }
-    const bool isCopy = ::GetKeyState(VK_CONTROL) < 0;
+    const bool isCopy = m_command || ::GetKeyState(VK_CONTROL) < 0;
     const DropPlace place = m_place;
     CMFCToolBar* const target = CMFCToolBar::FromHandlePermanent(m_target);
+    const bool hasEnd = m_hasMoved && Button() != nullptr;
+    End();
+    if (!hasEnd) {
+        return;
+    }
+    if (target != nullptr) {
+        Drop(*target, place.index, isCopy);
+    } else if (!isCopy && FindTarget(screen) == nullptr) { // else that bar has refused it
+        Source()->KeepOriginalButtons();
+        Remove(DROPEFFECT_NONE);
+    }
+}
+
+void ButtonDrag::Drop(CMFCToolBar& target, int place, bool isCopy) {
     CMFCToolBar* const source = Source();
     CMFCToolBarButton* const button = Button();
-    End();
-    if (!m_hasMoved || button == nullptr) {
+    const int index = source != nullptr ? source->ButtonToIndex(button) : -1;
+    const bool staysWhereItIs = !isCopy && source == &target && (place == index || place == index + 1);
+    const fx::WindowGuard guard(&target);
+    if (staysWhereItIs || !button->OnBeforeDrop(&target) || guard.IsGone() || Button() == nullptr) {
         return;
     }
-    if (target == nullptr) {
-        CMFCToolBar* const refusing = FindTarget(screen);
-        if (refusing == nullptr && !isCopy) {
-            source->KeepOriginalButtons();
-            Remove(DROPEFFECT_NONE);
-        }
-        return;
+    if (CMFCToolBar* const bar = Source()) {
+        bar->KeepOriginalButtons();
     }
-    const int index = source->ButtonToIndex(button);
-    const bool staysWhereItIs = !isCopy && source == target && (place.index == index || place.index == index + 1);
-    const fx::WindowGuard guard(target);
-    if (staysWhereItIs || !button->OnBeforeDrop(target) || guard.IsGone() || Button() == nullptr) {
-        return;
-    }
-    source->KeepOriginalButtons();
-    target->KeepOriginalButtons();
-    target->InsertButton(*button, place.index);
+    target.KeepOriginalButtons();
+    target.InsertButton(*button, place);
     if (!isCopy) {
         Remove(DROPEFFECT_MOVE);
     }
     if (guard.IsAlive()) {
-        target->AdjustLayout();
+        target.AdjustLayout();
     }
 }
 

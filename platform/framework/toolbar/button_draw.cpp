@@ -1,7 +1,9 @@
 #include "afxtoolbarbutton.h"
 
+#include "afxcommandmanager.h"
 #include "afxtoolbar.h"
 #include "afxvisualmanager.h"
+#include "toolbar/choose_buttons.h"
 #include "toolbar/metrics.h"
 
 #include <algorithm>
@@ -136,4 +138,39 @@ void CMFCToolBarButton::OnDraw(CDC* pDC, const CRect& rect, CMFCToolBarImages* p
     if (bDrawBorder && HaveHotBorder()) {
         DrawButtonBorder(pDC, rect, isHot);
     }
+}
+
+namespace {
+
+// In a list of commands, at 96 DPI.
+constexpr int kListRowMargin = 2;
+constexpr int kListTextGap = 6;
+
+/// The list that the image of a button without a toolbar is in, and where; null: it has none.
+CMFCToolBarImages* ImagesOf(const CMFCToolBarButton& button, int& image) {
+    image = button.GetImage();
+    if (image < 0 && !button.m_bUserButton) {
+        image = GetCmdMgr()->GetCmdImage(button.m_nID);
+    }
+    CMFCToolBarImages* const images = button.m_bUserButton ? CMFCToolBar::GetUserImages() : CMFCToolBar::GetImages();
+    const bool hasImage = images != nullptr && !button.IsLocked() && image >= 0 && image < images->GetCount();
+    return hasImage ? images : nullptr;
+}
+
+} // namespace
+
+int CMFCToolBarButton::OnDrawOnCustomizeList(CDC* pDC, const CRect& rect, BOOL) {
+    const CSize size = Scaled(CMFCToolBar::GetMenuImageSize());
+    const int margin = Scaled(kListRowMargin);
+    const CRect place(CPoint(rect.left + margin, rect.top + (rect.Height() - size.cy) / 2), size);
+    int image = -1;
+    if (CMFCToolBarImages* const images = ImagesOf(*this, image)) {
+        images->DrawEx(pDC, place, image, CMFCToolBarImages::ImageAlignHorzStretch,
+                       CMFCToolBarImages::ImageAlignVertStretch);
+    }
+    CRect text = rect;
+    text.left = place.right + Scaled(kListTextGap);
+    const CString readable = toolbar::ReadableText(*this);
+    pDC->DrawText(readable, text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    return std::min<int>(rect.Width(), text.left - rect.left + pDC->GetTextExtent(readable).cx);
 }

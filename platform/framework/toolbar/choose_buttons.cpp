@@ -88,15 +88,6 @@ public:
 
 IMPLEMENT_DYNCREATE(ResetRow, CMFCToolBarMenuButton)
 
-/// What the user reads of a button; empty: nothing.
-CString TextOf(const CMFCToolBarButton& button) {
-    CMFCToolBarMenuButton row;
-    row.m_strText = button.m_strText;
-    button.ExportToMenuButton(row);
-    const int tabulator = row.m_strText.Find(L'\t');
-    return toolbar::WithoutPrefix(tabulator >= 0 ? row.m_strText.Left(tabulator) : row.m_strText);
-}
-
 class ChooseMenu : public CMFCPopupMenu {
 public:
     explicit ChooseMenu(CMFCToolBar* bar) : m_bar(bar) {}
@@ -108,7 +99,7 @@ protected:
         }
         for (int index = 0; m_bar != nullptr && index < m_bar->GetCount(); ++index) {
             const CMFCToolBarButton& button = *m_bar->GetButton(index);
-            const CString text = TextOf(button);
+            const CString text = toolbar::ReadableText(button);
             if ((button.m_nStyle & TBBS_SEPARATOR) == 0 && !text.IsEmpty()) {
                 InsertItem(ToggleRow(*m_bar, button, text));
             }
@@ -137,6 +128,21 @@ public:
 IMPLEMENT_DYNCREATE(ChooseRow, CMFCToolBarMenuButton)
 
 } // namespace
+
+CString toolbar::ReadableText(const CMFCToolBarButton& button) {
+    CMFCToolBarMenuButton row;
+    row.m_strText = button.m_strText;
+    if (row.m_strText.IsEmpty()) {
+        button.ExportToMenuButton(row); // what has a control inside keeps its text there
+    }
+    CString resource;
+    const bool isCommand = button.m_nID != 0 && button.m_nID != static_cast<UINT>(-1);
+    if (row.m_strText.IsEmpty() && isCommand && resource.LoadString(button.m_nID)) {
+        row.m_strText = resource.Mid(resource.Find(L'\n') + 1); // the short one behind the line break
+    }
+    const int tabulator = row.m_strText.Find(L'\t');
+    return WithoutPrefix(tabulator >= 0 ? row.m_strText.Left(tabulator) : row.m_strText);
+}
 
 std::unique_ptr<CMFCToolBarMenuButton> toolbar::MakeChooseButtonsRow(CMFCToolBar& bar) {
     return std::make_unique<ChooseRow>(bar);

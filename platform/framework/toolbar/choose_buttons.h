@@ -12,4 +12,7 @@ namespace toolbar {
 /// The menu stays open while buttons are chosen.
 std::unique_ptr<CMFCToolBarMenuButton> MakeChooseButtonsRow(CMFCToolBar& bar);
 
+/// What the user reads of a button: its text or that of its command, without mnemonics and keys; empty: nothing.
+CString ReadableText(const CMFCToolBarButton& button);
+
 } // namespace toolbar

@@ -57,6 +57,7 @@ void Take(CList<UINT, UINT>& list, CList<UINT, UINT>& given) {
 constexpr LPCTSTR kUsageEntry = L"CommandsUsage";
 constexpr LPCTSTR kTooltipsEntry = L"Tooltips";
 constexpr LPCTSTR kLargeIconsEntry = L"LargeIcons";
+constexpr LPCTSTR kShortcutKeysEntry = L"ShortcutKeys";
 constexpr LPCTSTR kHidesRareEntry = L"RecentlyUsedMenus";
 
 CString ParametersSection(LPCTSTR profile) {
@@ -132,13 +133,32 @@ BOOL CMFCToolBar::IsCommandRarelyUsed(UINT uiCmd) {
 void CMFCToolBar::SetNonPermittedCommands(CList<UINT, UINT>& lstCommands) { Take(Rules().forbidden, lstCommands); }
 BOOL CMFCToolBar::IsCommandPermitted(UINT uiCmd) { return Rules().forbidden.Find(uiCmd) == nullptr; }
 
+BOOL CMFCToolBar::SaveLargeIconsState(LPCTSTR lpszProfileName) {
+    fx::StateStore* const store = Store();
+    return store != nullptr && store->WriteInt(ParametersSection(lpszProfileName), kLargeIconsEntry, m_bLargeIcons);
+}
+
+BOOL CMFCToolBar::LoadLargeIconsState(LPCTSTR lpszProfileName) {
+    constexpr int kMissing = -1;
+    fx::StateStore* const store = Store();
+    const int kept =
+        store != nullptr ? store->ReadInt(ParametersSection(lpszProfileName), kLargeIconsEntry, kMissing) : kMissing;
+    if (kept != TRUE && kept != FALSE) {
+        return FALSE;
+    }
+    if (kept != m_bLargeIcons) {
+        SetLargeIcons(kept);
+    }
+    return TRUE;
+}
+
 BOOL CMFCToolBar::SaveParameters(LPCTSTR lpszProfileName) {
     fx::StateStore* const store = Store();
     const CString section = ParametersSection(lpszProfileName);
     KeptUsage kept;
     kept.usage = Rules().usage;
     return store != nullptr && store->WriteInt(section, kTooltipsEntry, m_bShowTooltips) &&
-           store->WriteInt(section, kLargeIconsEntry, m_bLargeIcons) &&
+           store->WriteInt(section, kShortcutKeysEntry, m_bShowShortcutKeys) && SaveLargeIconsState(lpszProfileName) &&
            store->WriteInt(section, kHidesRareEntry, CMFCMenuBar::IsRecentlyUsedMenus()) &&
            store->WriteObject(section, kUsageEntry, kept);
 }
@@ -152,10 +172,8 @@ BOOL CMFCToolBar::LoadParameters(LPCTSTR lpszProfileName) {
     }
     m_bShowTooltips = store->ReadInt(section, kTooltipsEntry, m_bShowTooltips) != 0;
     CMFCMenuBar::SetRecentlyUsedMenus(store->ReadInt(section, kHidesRareEntry, CMFCMenuBar::IsRecentlyUsedMenus()));
-    const BOOL isLarge = store->ReadInt(section, kLargeIconsEntry, m_bLargeIcons) != 0;
-    if (isLarge != m_bLargeIcons) {
-        SetLargeIcons(isLarge);
-    }
+    m_bShowShortcutKeys = store->ReadInt(section, kShortcutKeysEntry, m_bShowShortcutKeys) != 0;
+    LoadLargeIconsState(lpszProfileName);
     KeptUsage kept;
     if (!store->ReadObject(section, kUsageEntry, kept)) {
         return FALSE;

@@ -35,6 +35,7 @@ CSize CMFCToolBar::m_sizeMenuButton(-1, -1);
 CSize CMFCToolBar::m_sizeMenuImage(-1, -1);
 COLORREF CMFCToolBar::m_clrTextHot = static_cast<COLORREF>(-1);
 BOOL CMFCToolBar::m_bShowTooltips = TRUE;
+BOOL CMFCToolBar::m_bShowShortcutKeys = FALSE;
 BOOL CMFCToolBar::m_bLargeIcons = FALSE;
 const CMFCToolBarButton* CMFCToolBar::m_pLastCommandButton = nullptr;
 

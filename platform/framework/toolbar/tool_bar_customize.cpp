@@ -4,6 +4,7 @@
 #include "fx/registered_messages.h"
 #include "fx/to_rect.h"
 #include "fx/window_guard.h"
+#include "toolbar/button_copy.h"
 #include "toolbar/button_drag.h"
 #include "toolbar/metrics.h"
 
@@ -17,20 +18,12 @@ namespace {
 bool g_isQuickCustomization = false;
 bool g_isCustomizeMode = false;
 
-std::unique_ptr<CMFCToolBarButton> MakeCopy(const CMFCToolBarButton& button) {
-    std::unique_ptr<CMFCToolBarButton> copy(static_cast<CMFCToolBarButton*>(button.GetRuntimeClass()->CreateObject()));
-    if (copy) {
-        copy->CopyFrom(button);
-    }
-    return copy;
-}
-
 void CopyButtons(CObList& copies, const CObList& buttons) {
     while (!copies.IsEmpty()) {
         delete copies.RemoveHead();
     }
     for (POSITION position = buttons.GetHeadPosition(); position;) {
-        if (auto copy = MakeCopy(*static_cast<const CMFCToolBarButton*>(buttons.GetNext(position)))) {
+        if (auto copy = toolbar::CopyOf(*static_cast<const CMFCToolBarButton*>(buttons.GetNext(position)))) {
             copies.AddTail(copy.release());
         }
     }

@@ -1,6 +1,7 @@
 // Tooltips of a toolbar: one tool that follows the button under the pointer.
 #include "afxtoolbar.h"
 
+#include "afxkeyboardmanager.h"
 #include "afxtooltipmanager.h"
 #include "toolbar/hosted_control.h"
 #include "toolbar/metrics.h"
@@ -8,6 +9,15 @@
 namespace {
 
 constexpr UINT_PTR kTool = 1;
+
+/// The keys of the button's command in brackets, if users want to see them.
+CString KeysBehind(const CMFCToolBarButton& button, CFrameWnd* frame) {
+    CString keys;
+    const bool isCommand = button.m_nID != 0 && button.m_nID != static_cast<UINT>(-1);
+    const bool hasKeys = CMFCToolBar::GetShowShortcutKeys() && isCommand &&
+                         CKeyboardManager::FindDefaultAccelerator(button.m_nID, keys, frame, TRUE);
+    return hasKeys ? L" (" + keys + L")" : CString();
+}
 
 } // namespace
 
@@ -106,6 +116,7 @@ BOOL CMFCToolBar::OnNeedTipText(UINT, NMHDR* pNMH, LRESULT* pResult) {
     if (!button || !OnUserToolTip(button, m_strToolTip)) {
         return FALSE;
     }
+    m_strToolTip += KeysBehind(*button, GetTopLevelFrame());
     if (auto* const drawn = isOwn ? DYNAMIC_DOWNCAST(CMFCToolTipCtrl, m_pToolTip) : nullptr) {
         drawn->m_pHotButton = button;
     }

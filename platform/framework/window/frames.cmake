@@ -23,6 +23,7 @@ target_sources(framework PRIVATE
   dialog_data_exchange.cpp
   dialog_data_validation.cpp
   dialog_ex.cpp
+  dialog_template.cpp
   dialog_window.cpp
   frame_control_bar.cpp
   frame_bar_state.cpp

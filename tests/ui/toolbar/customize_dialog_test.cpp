@@ -1,0 +1,734 @@
+// The customize dialog: commands dragged out of its list by the real mouse, toolbars shown and hidden, keys assigned.
+#include "tests/support/real_mouse.h"
+#include "tests/ui/toolbar/bar_frame.h"
+
+#include <functional>
+
+#include <commctrl.h>
+
+namespace {
+
+enum Page : int { kCommandsPage, kToolBarsPage, kKeyboardPage, kOptionsPage };
+
+// The controls of the pages.
+constexpr int kCategories = 1001;
+constexpr int kCommands = 1002;
+constexpr int kBars = 1001;
+constexpr int kReset = 1002;
+constexpr int kResetAll = 1003;
+constexpr int kNew = 1004;
+constexpr int kRename = 1005;
+constexpr int kDelete = 1006;
+constexpr int kTextLabels = 1007;
+constexpr int kKeyCommands = 1002;
+constexpr int kCurrentKeys = 1003;
+constexpr int kNewKey = 1004;
+constexpr int kAssigned = 1005;
+constexpr int kAssign = 1006;
+constexpr int kRemove = 1007;
+constexpr int kResetAllKeys = 1008;
+constexpr int kFirstOption = 1001;
+
+/// What the frame hears of the dialog.
+class FrameWatch {
+public:
+    explicit FrameWatch(const CWnd& frame) : m_window(frame.m_hWnd) {
+        ::SetWindowSubclass(m_window, &FrameWatch::Proc, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    ~FrameWatch() { ::RemoveWindowSubclass(m_window, &FrameWatch::Proc, 1); }
+    FrameWatch(const FrameWatch&) = delete;
+    FrameWatch& operator=(const FrameWatch&) = delete;
+
+    std::vector<WPARAM> modes; ///< of AFX_WM_CUSTOMIZETOOLBAR
+    std::vector<WPARAM> helps; ///< of AFX_WM_CUSTOMIZEHELP
+    int keyResets = 0;
+    std::function<void(UINT message, WPARAM wParam)> hostile;
+
+private:
+    static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
+                                 DWORD_PTR data) {
+        auto* const watch = reinterpret_cast<FrameWatch*>(data);
+        if (message == AFX_WM_CUSTOMIZETOOLBAR) {
+            watch->modes.push_back(wParam);
+        } else if (message == AFX_WM_CUSTOMIZEHELP) {
+            watch->helps.push_back(wParam);
+        } else if (message == AFX_WM_RESETKEYBOARD) {
+            ++watch->keyResets;
+        }
+        if (watch->hostile) {
+            watch->hostile(message, wParam);
+        }
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+
+    HWND m_window;
+};
+
+class CustomizeDialogTest : public ToolBarTest {
+protected:
+    CustomizeDialogTest() : m_watch(*m_frame) {
+        Bar().SetWindowText(L"First");
+        m_second.Create(m_frame, AFX_DEFAULT_TOOLBAR_STYLE, 0x9001);
+        m_second.SetWindowText(L"Second");
+        m_second.InsertButton(CMFCToolBarButton(3011, 3, L"Eleven"));
+        m_second.EnableDocking(CBRS_ALIGN_ANY);
+        m_frame->DockPane(&m_second);
+        ACCEL keys[] = {{FVIRTKEY, VK_F8, 3001}, {FVIRTKEY | FCONTROL, 'J', 3002}};
+        m_frame->ReplaceAccelTable(::CreateAcceleratorTableW(keys, 2));
+        static_cast<CWinAppEx*>(AfxGetApp())->GetKeyboardManager();
+        LayOut();
+        m_second.AdjustLocations();
+    }
+    ~CustomizeDialogTest() override {
+        Close();
+        if (auto* const manager = afxKeyboardManager) {
+            manager->ResetAll();
+        }
+        CMFCToolBar::SetShowTooltips(TRUE);
+        CMFCToolBar::SetShowShortcutKeys(FALSE);
+        CMFCToolBar::SetLargeIcons(FALSE);
+        m_second.DestroyWindow();
+    }
+
+    CMFCToolBarsCustomizeDialog* NewDialog(UINT flags = AFX_CUSTOMIZE_TEXT_LABELS | AFX_CUSTOMIZE_NOHELP) const {
+        auto* const dialog = new CMFCToolBarsCustomizeDialog(m_frame, FALSE, flags);
+        dialog->AddButton(L"Shapes", CMFCToolBarButton(3021, 1, L"&Circle\tCtrl+K"));
+        dialog->AddButton(L"Shapes", CMFCToolBarButton(3022, 2, L"Arrow"));
+        dialog->AddButton(L"Files", CMFCToolBarButton(3023, 3, L"Open"));
+        return dialog;
+    }
+    void Open(UINT flags = AFX_CUSTOMIZE_TEXT_LABELS | AFX_CUSTOMIZE_NOHELP) {
+        m_dialog = NewDialog(flags);
+        m_dialog->EnableUserDefinedToolbars();
+        ASSERT_TRUE(m_dialog->Create());
+        m_dialogWindow = m_dialog->m_hWnd;
+        m_dialog->SetWindowPos(nullptr, 250, 300, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        PumpPending();
+    }
+    void Close() {
+        if (IsOpen()) {
+            ::SendMessageW(m_dialogWindow, WM_CLOSE, 0, 0);
+        }
+        PumpPending();
+    }
+    bool IsOpen() const { return ::IsWindow(m_dialogWindow) != FALSE; }
+    HWND Item(int id) const { return ::GetDlgItem(m_dialog->GetActivePage()->m_hWnd, id); }
+    void GoTo(Page page) {
+        ASSERT_TRUE(m_dialog->SetActivePage(page));
+        PumpPending();
+    }
+    void Click(int id) {
+        ::SendMessageW(::GetParent(Item(id)), WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(Item(id)));
+        PumpPending();
+    }
+    void Select(int list, int row) {
+        ::SendMessageW(Item(list), LB_SETCURSEL, static_cast<WPARAM>(row), 0);
+        ::SendMessageW(::GetParent(Item(list)), WM_COMMAND, MAKEWPARAM(list, LBN_SELCHANGE),
+                       reinterpret_cast<LPARAM>(Item(list)));
+    }
+    std::vector<CString> Rows(int list) const {
+        std::vector<CString> rows;
+        const auto count = static_cast<int>(::SendMessageW(Item(list), LB_GETCOUNT, 0, 0));
+        for (int row = 0; row < count; ++row) {
+            wchar_t text[100] = {};
+            ::SendMessageW(Item(list), LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(text));
+            rows.emplace_back(text);
+        }
+        return rows;
+    }
+    CString Text(int id) const {
+        wchar_t text[100] = {};
+        ::GetWindowTextW(Item(id), text, 100);
+        return text;
+    }
+
+    static CString ContentsOf(const CMFCToolBar& bar) {
+        CString contents;
+        for (int index = 0; index < bar.GetCount(); ++index) {
+            CString part(L"|");
+            if ((bar.GetButtonStyle(index) & TBBS_SEPARATOR) == 0) {
+                part.Format(L"%u", bar.GetItemID(index));
+            }
+            contents += (contents.IsEmpty() ? L"" : L" ") + part;
+        }
+        return contents;
+    }
+    static CPoint OnScreen(const CMFCToolBar& bar, int index, int dx) {
+        CRect rect;
+        bar.GetItemRect(index, rect);
+        bar.ClientToScreen(&rect);
+        return rect.CenterPoint() + CPoint(dx, 0);
+    }
+    CPoint RowOnScreen(int list, int row) const {
+        RECT rect{};
+        ::SendMessageW(Item(list), LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
+        CPoint point(rect.left + 30, (rect.top + rect.bottom) / 2);
+        ::ClientToScreen(Item(list), &point);
+        return point;
+    }
+    static void Mouse(CPoint screen, DWORD flags) {
+        SendMouse(screen, flags);
+        PumpPending();
+    }
+    /// In small steps, as a hand does.
+    static void RealDrag(CPoint from, CPoint to) {
+        Mouse(from, 0);
+        Mouse(from, MOUSEEVENTF_LEFTDOWN);
+        for (int step = 1; step <= 8; ++step) {
+            Mouse(CPoint(from.x + (to.x - from.x) * step / 8, from.y + (to.y - from.y) * step / 8), 0);
+        }
+        Mouse(to, MOUSEEVENTF_LEFTUP);
+    }
+    void RealClick(CPoint at) {
+        Mouse(at, 0);
+        Mouse(at, MOUSEEVENTF_LEFTDOWN);
+        Mouse(at, MOUSEEVENTF_LEFTUP);
+    }
+    std::vector<UINT> TakeCommands() { return std::exchange(m_frame->commands, {}); }
+
+    FrameWatch m_watch;
+    TestBar m_second;
+    CMFCToolBarsCustomizeDialog* m_dialog = nullptr; ///< deletes itself
+    HWND m_dialogWindow = nullptr;
+};
+
+using Commands = std::vector<UINT>;
+
+// ---- the mode
+
+TEST_F(CustomizeDialogTest, TheToolbarsAreInTheCustomizeModeWhileItIsOpen) {
+    Open();
+    EXPECT_TRUE(CMFCToolBar::IsCustomizeMode());
+    EXPECT_EQ(m_watch.modes, (std::vector<WPARAM>{TRUE}));
+    RealClick(OnScreen(Bar(), 0, 0));
+    EXPECT_EQ(TakeCommands(), Commands{}) << "a button is there to be moved";
+    Close();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(CMFCToolBar::IsCustomizeMode());
+    EXPECT_EQ(m_watch.modes, (std::vector<WPARAM>{TRUE, FALSE}));
+    RealClick(OnScreen(Bar(), 0, 0));
+    EXPECT_EQ(TakeCommands(), Commands{3001});
+}
+
+TEST_F(CustomizeDialogTest, EscAndTheCloseButtonEndIt) {
+    Open();
+    Keys(Item(kCommands)).Press(VK_ESCAPE);
+    PumpPending();
+    EXPECT_FALSE(IsOpen());
+    Open();
+    CRect close;
+    ::GetWindowRect(::GetDlgItem(m_dialogWindow, IDCANCEL), &close);
+    RealClick(close.CenterPoint());
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(CMFCToolBar::IsCustomizeMode());
+}
+
+TEST_F(CustomizeDialogTest, ThereIsOneAtATime) {
+    Open();
+    EXPECT_FALSE(NewDialog()->Create());
+    EXPECT_TRUE(CMFCToolBar::IsCustomizeMode()) << "the other goes on";
+    EXPECT_EQ(m_watch.modes.size(), 1u);
+}
+
+TEST_F(CustomizeDialogTest, HelpIsTheFramesWithThePageInFront) {
+    Open(0);
+    GoTo(kOptionsPage);
+    ::SendMessageW(m_dialogWindow, WM_COMMAND, IDHELP, 0);
+    ::SendMessageW(m_dialogWindow, WM_HELP, 0, 0);
+    EXPECT_EQ(m_watch.helps, (std::vector<WPARAM>{kOptionsPage, kOptionsPage}));
+}
+
+// ---- commands
+
+TEST_F(CustomizeDialogTest, CommandsStandBelowTheirCategoriesWithoutMnemonicsAndKeys) {
+    Open();
+    EXPECT_EQ(Rows(kCategories), (std::vector<CString>{L"All Commands", L"Shapes", L"Files"}));
+    EXPECT_EQ(Rows(kCommands), (std::vector<CString>{L"Arrow", L"Circle", L"Open"}));
+    Select(kCategories, 1);
+    EXPECT_EQ(Rows(kCommands), (std::vector<CString>{L"Circle", L"Arrow"}));
+    EXPECT_STREQ(m_dialog->GetCommandName(3021), L"Circle");
+    EXPECT_EQ(m_dialog->GetCommandName(3999), nullptr);
+}
+
+TEST_F(CustomizeDialogTest, ACommandIsDraggedFromTheListBetweenTheButtonsOfABar) {
+    Open();
+    RealDrag(RowOnScreen(kCommands, 1), OnScreen(Bar(), 1, -6));
+    EXPECT_EQ(Contents(), L"3001 3021 3002 | 3003");
+    EXPECT_EQ(Rows(kCommands).size(), 3u) << "the list keeps it";
+    Close();
+    LayOut();
+    RealClick(OnScreen(Bar(), 1, 0));
+    EXPECT_EQ(TakeCommands(), Commands{3021});
+}
+
+TEST_F(CustomizeDialogTest, ACommandThatIsDroppedBesideTheBarsOrOnTheDialogChangesNothing) {
+    Open();
+    RealDrag(RowOnScreen(kCommands, 1), CPoint(20, 20));
+    CRect tabs;
+    m_dialog->GetTabControl()->GetWindowRect(&tabs);
+    RealDrag(RowOnScreen(kCommands, 1), tabs.CenterPoint());
+    EXPECT_EQ(Contents(), L"3001 3002 | 3003");
+    EXPECT_EQ(ContentsOf(m_second), L"3011");
+}
+
+TEST_F(CustomizeDialogTest, WhereTheDialogLiesOverABarThereIsNoBar) {
+    Open();
+    const CPoint over = OnScreen(Bar(), 1, 0);
+    m_dialog->SetWindowPos(nullptr, over.x - 100, over.y - 10, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    PumpPending();
+    RealDrag(RowOnScreen(kCommands, 1), over);
+    EXPECT_EQ(Contents(), L"3001 3002 | 3003");
+}
+
+TEST_F(CustomizeDialogTest, EscEndsTheDragAndLeavesTheDialogOpen) {
+    Open();
+    const CPoint from = RowOnScreen(kCommands, 1);
+    Mouse(from, 0);
+    Mouse(from, MOUSEEVENTF_LEFTDOWN);
+    Mouse(from + CPoint(0, -40), 0);
+    Mouse(OnScreen(Bar(), 1, -6), 0);
+    Keys(Item(kCommands)).Press(VK_ESCAPE);
+    Mouse(OnScreen(Bar(), 1, -6), MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(Contents(), L"3001 3002 | 3003");
+    EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(CustomizeDialogTest, AButtonMovesToAnotherBarWithoutAltAndIsRemovedBesideAllOfThem) {
+    Open();
+    RealDrag(OnScreen(Bar(), 1, 0), OnScreen(m_second, 0, -6));
+    EXPECT_EQ(Contents(), L"3001 | 3003");
+    EXPECT_EQ(ContentsOf(m_second), L"3002 3011");
+    RealDrag(OnScreen(Bar(), 0, 0), CPoint(20, 20));
+    EXPECT_EQ(Contents(), L"3003");
+}
+
+// ---- toolbars
+
+class BarListTest : public CustomizeDialogTest {
+protected:
+    BarListTest() {
+        Open();
+        GoTo(kToolBarsPage);
+    }
+    CListCtrl& List() const { return *static_cast<CListCtrl*>(CWnd::FromHandle(Item(kBars))); }
+    int RowOf(LPCTSTR name) const {
+        LVFINDINFO wanted{};
+        wanted.flags = LVFI_STRING;
+        wanted.psz = name;
+        return List().FindItem(&wanted);
+    }
+    void SelectBar(LPCTSTR name) {
+        List().SetItemState(RowOf(name), LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    }
+    bool IsEnabled(int id) const { return ::IsWindowEnabled(Item(id)) != FALSE; }
+
+    CountingMessageBox m_box{IDYES};
+};
+
+TEST_F(BarListTest, AClickOnItsBoxHidesABarAndAnotherShowsIt) {
+    ASSERT_GE(RowOf(L"Second"), 0);
+    EXPECT_TRUE(List().GetCheck(RowOf(L"Second")));
+    RECT icon{LVIR_BOUNDS, 0, 0, 0};
+    ::SendMessageW(Item(kBars), LVM_GETITEMRECT, static_cast<WPARAM>(RowOf(L"Second")),
+                   reinterpret_cast<LPARAM>(&icon));
+    CPoint box(icon.left + 8, (icon.top + icon.bottom) / 2);
+    ::ClientToScreen(Item(kBars), &box);
+    RealClick(box);
+    EXPECT_FALSE(m_second.IsVisible());
+    EXPECT_FALSE(List().GetCheck(RowOf(L"Second")));
+    List().SetCheck(RowOf(L"Second"), TRUE); // a click so soon would be the second of a double click
+    EXPECT_TRUE(m_second.IsVisible());
+}
+
+TEST_F(BarListTest, ABarThatItsUserMayNotCloseStaysChecked) {
+    m_second.SetPermament();
+    List().SetCheck(RowOf(L"Second"), FALSE);
+    EXPECT_TRUE(m_second.IsVisible());
+    EXPECT_TRUE(List().GetCheck(RowOf(L"Second")));
+}
+
+TEST_F(BarListTest, ResetPutsTheButtonsOfTheSelectedBarBack) {
+    RealDrag(OnScreen(Bar(), 0, 0), CPoint(20, 20));
+    RealDrag(OnScreen(m_second, 0, 0), CPoint(20, 20));
+    ASSERT_EQ(Contents(), L"3002 | 3003");
+    SelectBar(L"Second");
+    SelectBar(L"First");
+    ASSERT_TRUE(IsEnabled(kReset));
+    m_box.Answer(IDNO);
+    Click(kReset);
+    EXPECT_EQ(Contents(), L"3002 | 3003") << "the user has thought better of it";
+    m_box.Answer(IDYES);
+    Click(kReset);
+    EXPECT_EQ(Contents(), L"3001 3002 | 3003");
+    EXPECT_EQ(ContentsOf(m_second), L"");
+    Click(kResetAll);
+    EXPECT_EQ(ContentsOf(m_second), L"3011");
+    EXPECT_EQ(m_box.Count(), 3);
+}
+
+TEST_F(BarListTest, ABarThatNobodyHasChangedCannotBeReset) {
+    SelectBar(L"First");
+    EXPECT_FALSE(IsEnabled(kReset));
+}
+
+/// Answers the box that asks for a name as soon as it is there.
+class NameTyper {
+public:
+    explicit NameTyper(std::wstring name) : m_name(std::move(name)) {
+        s_typer = this;
+        m_timer = ::SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) { s_typer->Type(); });
+    }
+    ~NameTyper() {
+        ::KillTimer(nullptr, m_timer);
+        s_typer = nullptr;
+    }
+    NameTyper(const NameTyper&) = delete;
+    NameTyper& operator=(const NameTyper&) = delete;
+
+private:
+    void Type() {
+        const HWND box = ::GetActiveWindow();
+        const HWND edit = ::GetDlgItem(box, 1001);
+        if (edit == nullptr || ::GetDlgItem(box, IDOK) == nullptr || ::GetWindow(box, GW_OWNER) == nullptr) {
+            return;
+        }
+        ::SetWindowTextW(edit, m_name.c_str());
+        ::SendMessageW(box, WM_COMMAND, m_name.empty() ? IDCANCEL : IDOK, 0);
+    }
+
+    std::wstring m_name;
+    UINT_PTR m_timer = 0;
+    static NameTyper* s_typer;
+};
+
+NameTyper* NameTyper::s_typer = nullptr;
+
+TEST_F(BarListTest, UsersMakeNameAndDeleteToolbarsOfTheirOwn) {
+    const INT_PTR before = CMFCToolBar::GetAllToolbars().GetCount();
+    {
+        const NameTyper typer(L"Mine");
+        Click(kNew);
+    }
+    ASSERT_GE(RowOf(L"Mine"), 0);
+    EXPECT_EQ(CMFCToolBar::GetAllToolbars().GetCount(), before + 1);
+    SelectBar(L"Mine");
+    EXPECT_TRUE(IsEnabled(kRename));
+    {
+        const NameTyper typer(L"Ours");
+        Click(kRename);
+    }
+    EXPECT_LT(RowOf(L"Mine"), 0);
+    ASSERT_GE(RowOf(L"Ours"), 0);
+    SelectBar(L"Ours");
+    Click(kDelete);
+    EXPECT_LT(RowOf(L"Ours"), 0);
+    EXPECT_EQ(CMFCToolBar::GetAllToolbars().GetCount(), before);
+}
+
+TEST_F(BarListTest, ANewToolbarTakesCommandsAndComesBackInTheNextRun) {
+    {
+        const NameTyper typer(L"Mine");
+        Click(kNew);
+    }
+    auto* const mine = reinterpret_cast<CMFCToolBar*>(
+        CMFCToolBar::FromHandlePermanent(reinterpret_cast<HWND>(List().GetItemData(RowOf(L"Mine")))));
+    ASSERT_NE(mine, nullptr);
+    GoTo(kCommandsPage);
+    CRect place;
+    mine->GetWindowRect(&place);
+    RealDrag(RowOnScreen(kCommands, 1), place.CenterPoint());
+    EXPECT_EQ(ContentsOf(*mine), L"3021");
+    ASSERT_TRUE(m_frame->GetFrameImpl().SaveState());
+    const int id = mine->GetDlgCtrlID();
+    Close();
+    ASSERT_TRUE(m_frame->GetFrameImpl().DeleteUserToolBar(mine));
+    // DeleteUserToolBar has taken its buttons out of the settings, as for a user who is tired of it; its name stands
+    // there until the frame's state is saved again.
+    m_frame->GetFrameImpl().LoadState();
+    const auto* const back = DYNAMIC_DOWNCAST(CMFCToolBar, m_frame->GetPane(static_cast<UINT>(id)));
+    ASSERT_NE(back, nullptr);
+    CString name;
+    back->GetPaneName(name);
+    EXPECT_STREQ(name, L"Mine");
+    m_frame->GetFrameImpl().DeleteUserToolBar(back);
+    m_frame->GetFrameImpl().SaveState();
+    auto& application = *static_cast<CWinAppEx*>(AfxGetApp());
+    application.CleanState();
+}
+
+TEST_F(BarListTest, ACancelledNameMakesNothing) {
+    const INT_PTR before = CMFCToolBar::GetAllToolbars().GetCount();
+    const NameTyper typer(L"");
+    Click(kNew);
+    EXPECT_EQ(CMFCToolBar::GetAllToolbars().GetCount(), before);
+}
+
+TEST_F(BarListTest, TextsAreShownBelowTheButtonsOfTheSelectedBar) {
+    SelectBar(L"Second");
+    ::SendMessageW(Item(kTextLabels), BM_SETCHECK, BST_CHECKED, 0);
+    Click(kTextLabels);
+    EXPECT_TRUE(m_second.AreTextLabels());
+    EXPECT_FALSE(Bar().AreTextLabels());
+}
+
+// ---- keys
+
+class KeyPageTest : public CustomizeDialogTest {
+protected:
+    KeyPageTest() {
+        Open();
+        GoTo(kKeyboardPage);
+    }
+    void PressInBox(UINT key) { Keys(Item(kNewKey)).Press(key); }
+    std::vector<UINT> Pressed(UINT key) {
+        m_frame->SetFocus();
+        Keys(m_frame->m_hWnd).Press(key);
+        PumpPending();
+        return TakeCommands();
+    }
+    bool IsEnabled(int id) const { return ::IsWindowEnabled(Item(id)) != FALSE; }
+    /// In the list of all commands by name: Arrow, Circle, Open.
+    static constexpr int kCircleRow = 1;
+
+    CountingMessageBox m_box{IDYES};
+};
+
+TEST_F(KeyPageTest, AKeyThatIsAssignedRunsTheCommandOnce) {
+    Select(kKeyCommands, kCircleRow);
+    EXPECT_FALSE(IsEnabled(kAssign));
+    PressInBox(VK_F9);
+    EXPECT_STREQ(Text(kNewKey), L"F9");
+    EXPECT_STREQ(Text(kAssigned), L"(nothing)");
+    ASSERT_TRUE(IsEnabled(kAssign));
+    EXPECT_EQ(TakeCommands(), Commands{}) << "in the field a key runs nothing";
+    Click(kAssign);
+    EXPECT_EQ(Rows(kCurrentKeys), (std::vector<CString>{L"F9"}));
+    Close();
+    EXPECT_EQ(Pressed(VK_F9), Commands{3021});
+}
+
+TEST_F(KeyPageTest, AKeyLeavesTheCommandThatHadIt) {
+    Select(kKeyCommands, kCircleRow);
+    PressInBox(VK_F8);
+    Click(kAssign);
+    Close();
+    EXPECT_EQ(Pressed(VK_F8), Commands{3021});
+}
+
+TEST_F(KeyPageTest, ARemovedKeyRunsNothingAndResetAllBringsTheProgramsKeysBack) {
+    m_dialog->AddButton(L"Files", CMFCToolBarButton(3001, 0, L"A first"));
+    GoTo(kOptionsPage);
+    GoTo(kKeyboardPage);
+    ::SendMessageW(::GetParent(Item(1001)), WM_COMMAND, MAKEWPARAM(1001, CBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(Item(1001)));
+    Select(kKeyCommands, 0);
+    ASSERT_EQ(Rows(kCurrentKeys), (std::vector<CString>{L"F8"}));
+    EXPECT_FALSE(IsEnabled(kRemove));
+    Select(kCurrentKeys, 0);
+    ASSERT_TRUE(IsEnabled(kRemove));
+    Click(kRemove);
+    EXPECT_EQ(Rows(kCurrentKeys), std::vector<CString>{});
+    EXPECT_EQ(Pressed(VK_F8), Commands{});
+    Click(kResetAllKeys);
+    EXPECT_EQ(m_watch.keyResets, 1);
+    EXPECT_EQ(Rows(kCurrentKeys), (std::vector<CString>{L"F8"}));
+    EXPECT_EQ(Pressed(VK_F8), Commands{3001});
+}
+
+TEST_F(KeyPageTest, AKeyThatTypesACharacterIsNotTaken) {
+    Select(kKeyCommands, kCircleRow);
+    PressInBox('B');
+    EXPECT_FALSE(IsEnabled(kAssign));
+    Keys keys(Item(kNewKey));
+    keys.Hold(VK_CONTROL);
+    keys.Press('B');
+    keys.Let(VK_CONTROL);
+    EXPECT_STREQ(Text(kNewKey), L"Ctrl+B");
+    EXPECT_TRUE(IsEnabled(kAssign));
+}
+
+TEST_F(KeyPageTest, WithoutAManagerOfKeysThereIsNoPageForThem) {
+    Close();
+    CKeyboardManager* const manager = std::exchange(afxKeyboardManager, nullptr);
+    Open();
+    EXPECT_EQ(m_dialog->GetPageCount(), 3);
+    Close();
+    afxKeyboardManager = manager;
+}
+
+// ---- options
+
+TEST_F(CustomizeDialogTest, OptionsHoldForAllToolbarsAtOnce) {
+    Open();
+    GoTo(kOptionsPage);
+    EXPECT_EQ(::SendMessageW(Item(kFirstOption), BM_GETCHECK, 0, 0), BST_CHECKED);
+    ::SendMessageW(Item(kFirstOption), BM_CLICK, 0, 0);
+    EXPECT_FALSE(CMFCToolBar::GetShowTooltips());
+    EXPECT_FALSE(::IsWindowEnabled(Item(kFirstOption + 1))) << "without tooltips there are no keys in them";
+    ::SendMessageW(Item(kFirstOption), BM_CLICK, 0, 0);
+    ::SendMessageW(Item(kFirstOption + 1), BM_CLICK, 0, 0);
+    EXPECT_TRUE(CMFCToolBar::GetShowShortcutKeys());
+    ::SendMessageW(Item(kFirstOption + 2), BM_CLICK, 0, 0);
+    EXPECT_TRUE(CMFCToolBar::IsLargeIcons());
+    EXPECT_FALSE(::GetWindowLongW(Item(kFirstOption + 3), GWL_STYLE) & WS_VISIBLE) << "not asked for";
+}
+
+// ---- hostile handlers
+
+TEST_F(CustomizeDialogTest, ItGoesWithItsFrame) {
+    Open();
+    m_second.DestroyWindow();
+    ::DestroyWindow(m_window);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(CMFCToolBar::IsCustomizeMode());
+}
+
+TEST_F(CustomizeDialogTest, AFrameThatGoesAsItOpensLeavesNothing) {
+    m_second.DestroyWindow();
+    m_watch.hostile = [this](UINT message, WPARAM) {
+        if (message == AFX_WM_CUSTOMIZETOOLBAR) {
+            ::DestroyWindow(m_window);
+        }
+    };
+    EXPECT_FALSE(NewDialog()->Create());
+    EXPECT_FALSE(CMFCToolBar::IsCustomizeMode());
+}
+
+TEST_F(CustomizeDialogTest, AFrameThatGoesWhenItIsAskedForHelpTakesItAlong) {
+    Open(0);
+    m_second.DestroyWindow();
+    m_watch.hostile = [this](UINT message, WPARAM) {
+        if (message == AFX_WM_CUSTOMIZEHELP) {
+            ::DestroyWindow(m_window);
+        }
+    };
+    ::SendMessageW(m_dialogWindow, WM_COMMAND, IDHELP, 0);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(CMFCToolBar::IsCustomizeMode());
+}
+
+TEST_F(CustomizeDialogTest, ABarThatIsGoneMeanwhileIsLeftAlone) {
+    Open();
+    GoTo(kToolBarsPage);
+    m_second.DestroyWindow();
+    CountingMessageBox box(IDYES);
+    auto& list = *static_cast<CListCtrl*>(CWnd::FromHandle(Item(kBars)));
+    for (int row = 0; row < list.GetItemCount(); ++row) {
+        list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+        list.SetCheck(row, FALSE);
+        Click(kReset);
+        Click(kDelete);
+    }
+    EXPECT_TRUE(IsOpen());
+    EXPECT_FALSE(Bar().IsVisible());
+}
+
+TEST_F(CustomizeDialogTest, OneThatIsDeletedEndsTheMode) {
+    Open();
+    delete m_dialog;
+    EXPECT_FALSE(IsOpen());
+    EXPECT_FALSE(CMFCToolBar::IsCustomizeMode());
+}
+
+// ---- the commands that it offers, without a window
+
+class OfferedCommandsTest : public ToolBarTest {
+protected:
+    OfferedCommandsTest() : m_dialog(m_frame) {}
+    std::vector<CString> Categories() {
+        CListBox list;
+        list.Create(WS_CHILD, CRect(0, 0, 100, 100), m_frame, 7);
+        m_dialog.FillCategoriesListBox(list);
+        std::vector<CString> names;
+        for (int row = 0; row < list.GetCount(); ++row) {
+            CString name;
+            list.GetText(row, name);
+            names.push_back(name);
+        }
+        return names;
+    }
+    std::vector<CString> AllCommands() {
+        CListBox list;
+        list.Create(WS_CHILD, CRect(0, 0, 100, 100), m_frame, 7);
+        m_dialog.FillAllCommandsList(list);
+        std::vector<CString> names;
+        for (int row = 0; row < list.GetCount(); ++row) {
+            CString name;
+            list.GetText(row, name);
+            names.push_back(name);
+        }
+        return names;
+    }
+
+    CMFCToolBarsCustomizeDialog m_dialog;
+};
+
+TEST_F(OfferedCommandsTest, AMenusPopupsAreCategoriesAndItsInnerPopupsBelongToThem) {
+    CMenu menu;
+    menu.CreateMenu();
+    CMenu file;
+    file.CreatePopupMenu();
+    file.AppendMenu(MF_STRING, 3101, L"&Open...\tCtrl+O");
+    file.AppendMenu(MF_SEPARATOR);
+    CMenu recent;
+    recent.CreatePopupMenu();
+    recent.AppendMenu(MF_STRING, 3102, L"&Old");
+    recent.AppendMenu(MF_STRING, ID_FILE_MRU_FILE1, L"Recent");
+    file.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(recent.Detach()), L"&More");
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(file.Detach()), L"&File");
+    m_dialog.AddMenuCommands(&menu, FALSE);
+    EXPECT_EQ(Categories(), (std::vector<CString>{L"All Commands", L"File"}));
+    EXPECT_EQ(AllCommands(), (std::vector<CString>{L"Old", L"Open..."})) << "neither separators nor recent files";
+    m_dialog.AddMenuCommands(&menu, TRUE, L"Menus");
+    EXPECT_EQ(AllCommands(), (std::vector<CString>{L"File", L"More", L"Old", L"Open..."})) << "popups too";
+}
+
+TEST_F(OfferedCommandsTest, AToolbarResourceBringsItsButtons) {
+    EXPECT_TRUE(m_dialog.AddToolBar(L"Bar", 101));
+    EXPECT_FALSE(m_dialog.AddToolBar(L"Bar", 9999));
+    EXPECT_EQ(m_dialog.RemoveButton(L"Bar", 3002), 1);
+    EXPECT_EQ(m_dialog.RemoveButton(L"Bar", 3002), -1);
+    EXPECT_EQ(m_dialog.RemoveButton(L"None", 3001), -1);
+}
+
+TEST_F(OfferedCommandsTest, ACommandComesOnceIntoACategoryAndWhereItIsWanted) {
+    m_dialog.AddButton(L"A", CMFCToolBarButton(1, -1, L"One"));
+    m_dialog.AddButton(L"A", CMFCToolBarButton(1, -1, L"One again"));
+    m_dialog.AddButton(L"A", CMFCToolBarButton(2, -1, L"Two"), 0);
+    m_dialog.AddButton(L"B", CMFCToolBarButton(1, -1, L"One elsewhere"));
+    EXPECT_EQ(AllCommands(), (std::vector<CString>{L"One", L"Two"}));
+    EXPECT_EQ(m_dialog.RemoveButton(L"A", 2), 0);
+    EXPECT_EQ(m_dialog.RemoveButton(L"A", 1), 0);
+    EXPECT_STREQ(m_dialog.GetCommandName(1), L"One elsewhere");
+}
+
+TEST_F(OfferedCommandsTest, ABetterButtonTakesTheCommandsPlaceEverywhere) {
+    m_dialog.AddButton(L"A", CMFCToolBarButton(1, -1, L"One"));
+    m_dialog.ReplaceButton(1, CMFCToolBarComboBoxButton(1, -1, CBS_DROPDOWNLIST, 80));
+    m_dialog.ReplaceButton(2, CMFCToolBarButton(2, -1, L"Two"));
+    EXPECT_EQ(AllCommands().size(), 1u);
+}
+
+TEST_F(OfferedCommandsTest, CategoriesAreRenamedAndTheUsersComesLast) {
+    m_dialog.AddButton(L"A", CMFCToolBarButton(1, -1, L"One"));
+    m_dialog.AddButton(L"B", CMFCToolBarButton(2, -1, L"Two"));
+    EXPECT_TRUE(m_dialog.RenameCategory(L"A", L"C"));
+    EXPECT_FALSE(m_dialog.RenameCategory(L"A", L"D")) << "there is none";
+    EXPECT_FALSE(m_dialog.RenameCategory(L"B", L"C")) << "there is one";
+    EXPECT_TRUE(m_dialog.SetUserCategory(L"C"));
+    EXPECT_FALSE(m_dialog.SetUserCategory(L"A"));
+    EXPECT_EQ(Categories(), (std::vector<CString>{L"All Commands", L"B", L"C"}));
+}
+
+TEST_F(OfferedCommandsTest, CommandsThatAreNotPermittedAreNotOffered) {
+    CList<UINT, UINT> forbidden;
+    forbidden.AddTail(5);
+    CMFCToolBar::SetNonPermittedCommands(forbidden);
+    m_dialog.AddButton(L"A", CMFCToolBarButton(5, -1, L"Five"));
+    EXPECT_EQ(AllCommands(), std::vector<CString>{});
+    forbidden.RemoveAll();
+    CMFCToolBar::SetNonPermittedCommands(forbidden);
+}
+
+} // namespace
