@@ -80,6 +80,8 @@ INTERFACE_OF(CFrameWnd) {
     VIRTUAL(BOOL, LoadFrame, (UINT, DWORD, CWnd*, CCreateContext*));
     CALL(LoadFrame, UINT);
     MEMBER(BOOL, OnBarCheck, (UINT));
+    MEMBER(void, LoadBarState, (LPCTSTR));
+    MEMBER(void, SaveBarState, (LPCTSTR) const);
     MEMBER(void, OnUpdateControlBarMenu, (CCmdUI*));
     VIRTUAL(void, RecalcLayout, (BOOL));
     CALL(RecalcLayout);
@@ -150,6 +152,8 @@ INTERFACE_OF(CFrameWndEx) {
     BASE(CFrameWnd);
     MAIN_FRAME_WITH_PANES;
     VIRTUAL(void, DelayUpdateFrameMenu, (HMENU));
+    MEMBER(LRESULT, OnToolbarCreateNew, (WPARAM, LPARAM));
+    MEMBER(LRESULT, OnToolbarDelete, (WPARAM, LPARAM));
     MEMBER(CDockingManager*, GetDockingManager, ());
     MEMBER(LRESULT, OnChangeVisualManager, (WPARAM, LPARAM));
     MEMBER(void, OnClose, ());

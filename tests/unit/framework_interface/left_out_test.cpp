@@ -161,32 +161,30 @@ LEFT_OUT("panes that float, hide by themselves or are dragged", CRecentDockSiteI
          SaveListOfRecentPanes, StoreDockInfo)
 
 LEFT_OUT("docking of the plain control bars", CFrameWnd, DockControlBar, EnableDocking, FloatControlBar, GetDockState,
-         LoadBarState, SaveBarState, SetDockState)
+         SetDockState)
 LEFT_OUT("docking of the plain control bars", CControlBar, DrawGripper, EnableDocking)
 
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CWinAppEx, EnableTearOffMenus, EnableUserTools,
-         GetMouseManager, GetShellManager, GetUserToolsManager, InitMouseManager, InitShellManager)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CFrameWndEx, GetTearOffBars, OnDrawMenuLogo,
-         OnShowCustomizePane, OnTearOffMenu, OnToolbarContextMenu, OnToolbarCreateNew, OnToolbarDelete,
-         SetupToolbarMenu)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMDIFrameWndEx, GetTearOffBars, OnDrawMenuLogo,
-         OnShowCustomizePane, OnTearOffMenu, SetupToolbarMenu)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonBaseElement, AddToListBox, OnDrawOnList)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonCheckBox, OnDrawOnList)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonEdit, OnDrawOnList)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCRibbonSeparator, AddToListBox, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus, user tools", CWinAppEx, EnableTearOffMenus, EnableUserTools, GetMouseManager,
+         GetShellManager, GetUserToolsManager, InitMouseManager, InitShellManager)
+LEFT_OUT("customizing: tear-off menus, user tools", CFrameWndEx, GetTearOffBars, OnDrawMenuLogo, OnShowCustomizePane,
+         OnTearOffMenu, OnToolbarContextMenu, SetupToolbarMenu)
+LEFT_OUT("customizing: tear-off menus, user tools", CMDIFrameWndEx, GetTearOffBars, OnDrawMenuLogo, OnShowCustomizePane,
+         OnTearOffMenu, SetupToolbarMenu)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonBaseElement, AddToListBox, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonCheckBox, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonEdit, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonSeparator, AddToListBox, OnDrawOnList)
 
 LEFT_OUT("the button at the end of a toolbar is drawn by the bar itself", CMFCToolBar, GetCustomizeButton)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBarButton, CreateFromOleData,
-         GetClipboardFormat, OnAddToCustomizePage, OnCustomizeMenu, OnDrawOnCustomizeList, PrepareDrag,
-         SetClipboardFormatName)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCToolBarMenuButton, EnableQuickCustomize,
-         IsQuickMode, OnDrawOnCustomizeList, SetTearOff)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCPopupMenu, AlwaysShowEmptyToolsEntry,
-         CreateTearOffBar, GetQuickCustomizeType, IsAlwaysShowEmptyToolsEntry, IsCustomizePane, IsQuickCustomize,
-         SetQuickCustomizeType, SetQuickMode)
-LEFT_OUT("customizing: tear-off menus, user tools, new toolbars", CMFCPopupMenuBar, BuildOrigItems,
-         FindDestintationToolBar, LoadFromHash)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCToolBarButton, CreateFromOleData, GetClipboardFormat,
+         OnCustomizeMenu, PrepareDrag, SetClipboardFormatName)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCToolBarMenuButton, EnableQuickCustomize, IsQuickMode,
+         SetTearOff)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCPopupMenu, AlwaysShowEmptyToolsEntry, CreateTearOffBar,
+         GetQuickCustomizeType, IsAlwaysShowEmptyToolsEntry, IsCustomizePane, IsQuickCustomize, SetQuickCustomizeType,
+         SetQuickMode)
+LEFT_OUT("customizing: tear-off menus, user tools", CMFCPopupMenuBar, BuildOrigItems, FindDestintationToolBar,
+         LoadFromHash)
 
 LEFT_OUT("two toolbars that share a row and its buttons", CMFCToolBar, CanHandleSiblings, GetSiblingToolBar,
          IsOneRowWithSibling, IsSibling, SetOneRowWithSibling, SetSiblingToolBar, SetTwoRowsWithSibling)
@@ -199,11 +197,9 @@ LEFT_OUT("images of toolbars from several resources, or grey while the frame is 
          AddToolBarForImageCollection, AutoGrayInactiveImages, IsAutoGrayInactiveImages, IsResourceChanged,
          LoadBitmapEx, LoadToolBarEx, m_bDontScaleImages, m_dblLargeImageRatio, ResetImages)
 
-LEFT_OUT("state kept between runs: large images are one of the parameters", CMFCToolBar, LoadLargeIconsState)
 LEFT_OUT("state kept between runs", CMFCToolBarButton, SaveBarState)
 LEFT_OUT("state kept between runs", CMFCToolBarMenuButton, SaveBarState)
 LEFT_OUT("state kept between runs", CMFCPopupMenu, SaveState)
-LEFT_OUT("state kept between runs", CContextMenuManager, LoadState, ResetState, SaveState)
 
 LEFT_OUT("looks of controls that the framework does not have", CMFCBaseVisualManager, DrawStatusBarProgress,
          GetStandardWindowsTheme)
@@ -308,8 +304,7 @@ class CDialogBar;
 class CReBar;
 class CImage;
 class CSplitterWnd;
-class CPropertySheet;
-class CPropertyPage;
+class CUserTool;
 class CMFCVisualManagerVS2005;
 class CMFCVisualManagerWindows;
 class CMFCVisualManagerWindows7;
@@ -333,7 +328,10 @@ LEFT_OUT_CLASSES("documents and their templates", CDocument, CDocTemplate, CMult
 LEFT_OUT_CLASSES("printing and its preview", CPrintInfo)
 LEFT_OUT_CLASSES("older bars, replaced by the panes", CToolBar, CDialogBar, CReBar)
 LEFT_OUT_CLASSES("pictures: the framework keeps them in image lists", CImage)
-LEFT_OUT_CLASSES("windows of several parts or pages", CSplitterWnd, CPropertySheet, CPropertyPage)
+LEFT_OUT_CLASSES("windows of several parts", CSplitterWnd)
+LEFT_OUT_CLASSES("tools of the user's", CUserTool)
+LEFT_OUT("tools of the user's", CMFCToolBarsCustomizeDialog, CheckToolsValidity, EnableTools, OnAfterChangeTool,
+         OnBeforeChangeTool, OnInitToolsPage)
 LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
                  CMFCVisualManagerWindows7)
 LEFT_OUT_CLASSES("helpers of the docking panes", CGlobalUtils)

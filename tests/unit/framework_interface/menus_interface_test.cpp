@@ -116,6 +116,11 @@ INTERFACE_OF(CContextMenuManager) {
     MEMBER(HMENU, GetMenuByName, (LPCTSTR, UINT*) const);
     CALL(GetMenuByName, LPCTSTR);
     MEMBER(void, GetMenuNames, (CStringList&) const);
+    VIRTUAL(BOOL, LoadState, (LPCTSTR));
+    CALL(LoadState);
+    VIRTUAL(BOOL, ResetState, ());
+    VIRTUAL(BOOL, SaveState, (LPCTSTR));
+    CALL(SaveState);
     MEMBER(void, SetDontCloseActiveMenu, (BOOL));
     CALL(SetDontCloseActiveMenu);
     VIRTUAL(BOOL, ShowPopupMenu, (UINT, int, int, CWnd*, BOOL, BOOL));

@@ -104,6 +104,8 @@ INTERFACE_OF(CMFCToolBar) {
     MEMBER(BOOL, GetRouteCommandsViaFrame, ());
     VIRTUAL(int, GetRowHeight, () const);
     STATIC(BOOL, GetShowTooltips, ());
+    STATIC(BOOL, LoadLargeIconsState, (LPCTSTR));
+    CALL(LoadLargeIconsState);
     STATIC(CMFCToolBarImages*, GetUserImages, ());
     VIRTUAL(int, HitTest, (CPoint));
     VIRTUAL(int, InsertButton, (const CMFCToolBarButton&, INT_PTR));
@@ -192,6 +194,8 @@ INTERFACE_OF(CMFCToolBarButton) {
     BASE(CObject);
     VIRTUAL(BOOL, OnBeforeDrag, () const);
     VIRTUAL(BOOL, OnBeforeDrop, (CMFCToolBar*));
+    VIRTUAL(void, OnAddToCustomizePage, ());
+    VIRTUAL(int, OnDrawOnCustomizeList, (CDC*, const CRect&, BOOL));
     MADE_FROM(UINT, int, LPCTSTR, BOOL, BOOL);
     MADE_FROM(UINT, int);
     VIRTUAL(BOOL, CanBeDropped, (CMFCToolBar*));
