@@ -22,9 +22,11 @@ Argb StopAt(const FourStops& stops, int row, int height) {
     return Mix(stops.bottom1, stops.bottom2, row - split, std::max(height - split - 1, 1));
 }
 
+/// Empty, and not turned inside out, where the rectangle lies beside the view or has no extent.
 fx::Rect Clipped(const fx::Rect& rect, const PixelView& view) {
-    return {std::max(rect.left, 0), std::max(rect.top, 0), std::min(rect.right, view.width),
-            std::min(rect.bottom, view.height)};
+    const int left = std::clamp(rect.left, 0, view.width);
+    const int top = std::clamp(rect.top, 0, view.height);
+    return {left, top, std::clamp(rect.right, left, view.width), std::clamp(rect.bottom, top, view.height)};
 }
 
 unsigned CornerCoverage(double centreX, double centreY, int radius, int x, int y) {

@@ -1,4 +1,5 @@
 // A narrow bar at every scale: all tabs and panels can be scrolled to, however long their names are.
+#include "tests/support/canvas.h"
 #include "tests/ui/ribbon_drawing/random_ribbon.h"
 
 #include <set>
@@ -78,6 +79,22 @@ TEST_P(NarrowBar, EveryTabAndEveryPanelCanBeReached) {
         EXPECT_GT(Bar().GetCategoryHeight(), 0);
         EXPECT_EQ(PanelsInReach().size(), Panels().size());
         EXPECT_EQ(TabsInReach(), Bar().GetCategoryCount());
+    }
+}
+
+// A fault in painting fails every test of this program.
+TEST_P(NarrowBar, HoweverNarrowTheBarIsPainted) {
+    for (int width = 1; width < 800; width += width < 60 ? 1 : 37) {
+        SCOPED_TRACE(testing::Message() << "width " << width);
+        SetWidth(width);
+        const CSize size = ClientSize(Bar());
+        if (size.cx <= 0 || size.cy <= 0) {
+            continue;
+        }
+        Canvas picture(size);
+        Bar().DoPaint(picture.Dc());
+        picture.Close();
+        EXPECT_NE(picture.At(0, 0), Canvas::background);
     }
 }
 

@@ -1,6 +1,11 @@
 // The bar gives the pure layout what it measures and hands the places out.
 #include "extended_status.h"
 
+#include "skin_visual_managers.h"
+#include "tests/support/canvas.h"
+
+#include <afxglobals.h>
+
 namespace {
 
 class StatusBarExLayout : public ExtendedStatus {
@@ -210,6 +215,38 @@ TEST_F(StatusBarExLayout, AnIndexOutsideOfTheElementsRaisesInTheirArray) {
         EXPECT_TRUE(raised->IsKindOf(RUNTIME_CLASS(CInvalidArgException)));
         raised->Delete();
     }
+}
+
+TEST_F(StatusBarExLayout, OfAnyWidthAndScaleTheWholeBarIsPainted) {
+    for (const auto* const skin : {RUNTIME_CLASS(CQKVisualManagerOffice2007Black),
+                                   RUNTIME_CLASS(CQKVisualManagerOffice2007Silver), RUNTIME_CLASS(CMFCVisualManager)}) {
+        CMFCVisualManager::SetDefaultManager(const_cast<CRuntimeClass*>(skin));
+        TwoApplications();
+        AddMain(L"Drag the map; turn the wheel to zoom");
+        AddMain(L"37.6941° S  80.0471° E");
+        bar.SetExEleApp(L"one");
+        for (const int percent : {100, 150, 175, 200, 300}) {
+            afxGlobalData.SetRibbonImageScale(percent / 100.0);
+            for (int width = 1; width < 900; width += 13) {
+                SCOPED_TRACE(testing::Message() << skin->m_lpszClassName << ' ' << percent << " % " << width);
+                bar.SetWindowPos(nullptr, 0, 0, width, bar.CalcFixedLayout(FALSE, TRUE).cy, SWP_NOZORDER | SWP_NOMOVE);
+                bar.RecalcLayout();
+                const int before = bar.paints;
+                bar.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+                ASSERT_EQ(bar.paints, before + 1);
+                Canvas picture(Client().Size(), 0x00FF00FF);
+                bar.DoPaint(picture.Dc());
+                picture.Close();
+                for (const CPoint corner : {CPoint(0, 0), CPoint(Client().right - 1, Client().bottom - 1)}) {
+                    ASSERT_NE(picture.At(corner.x, corner.y), 0xFF00FFu);
+                }
+            }
+        }
+        bar.RemoveAll();
+        bar.RemoveAllEx();
+    }
+    CMFCVisualManager::SetDefaultManager(nullptr);
+    afxGlobalData.SetRibbonImageScale(0);
 }
 
 } // namespace

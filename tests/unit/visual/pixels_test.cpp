@@ -32,6 +32,27 @@ TEST_F(Pixels, FillStaysInTheRectangle) {
     EXPECT_EQ(m_view.At(18, 17), 0u);
 }
 
+// Rows of a picture lie one behind the other: what is drawn beside one is drawn into another, or beside all of them.
+TEST_F(Pixels, WhatLiesBesideThePictureOrHasNoExtentDrawsNothing) {
+    constexpr fx::Rect nowhere[] = {{25, 5, 30, 15},  {-9, 5, -2, 15}, {5, 25, 15, 30}, {5, -9, 15, -2},
+                                    {15, 5, 5, 15},   {5, 15, 15, 5},  {19, 5, -3, 15}, {30, 5, -30, 15},
+                                    {25, 30, 22, 27}, {7, 7, 7, 7}};
+    const std::vector<std::uint32_t> picture(9, 0xFFABCDEF);
+    for (const fx::Rect& rect : nowhere) {
+        for (const Corners& corners : {Corners{}, Corners::All(3)}) {
+            FillRounded(m_view, rect, corners, Plain(0xFFFFFFFF));
+            FillRounded(m_view, rect, corners, Plain(0x80FFFFFF));
+            StrokeRounded(m_view, rect, corners, 0xFFFFFFFF, 1);
+            FillGlow(m_view, rect, corners, {10, 10}, 8, 8, 0xFFFFFFFF);
+        }
+        FillEllipse(m_view, rect, Plain(0xFFFFFFFF));
+        StrokeEllipse(m_view, rect, 0xFFFFFFFF, 2);
+        FillSlices(m_view, rect, picture, 3, {1, 1, 1, 1});
+        EXPECT_EQ(m_bits, std::vector<std::uint32_t>(m_bits.size()))
+            << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom;
+    }
+}
+
 TEST_F(Pixels, RoundCornersAreClearOutsideAndSmoothOnTheEdge) {
     FillRounded(m_view, m_rect, Corners::All(5), Plain(0xFFFFFFFF));
     EXPECT_EQ(AlphaOf(m_view.At(2, 2)), 0u);
