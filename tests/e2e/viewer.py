@@ -53,8 +53,8 @@ class Viewer:
         if not display:
             raise RuntimeError("Xvfb did not start")
         # A prefix of its own: Wine's desktop belongs to one display at a time.
-        self._environment = dict(os.environ, DISPLAY=":" + display,
-                                 BARWRIGHT_WINEPREFIX=prefix)
+        # Wine tells of the faults below window procedures that it goes on after; a window is not painted then.
+        self._environment = dict(os.environ, DISPLAY=":" + display, BARWRIGHT_WINEPREFIX=prefix, WINEDEBUG="-all,err+seh")
         for words in self._registry:
             subprocess.run([os.path.join(ROOT, "scripts", "wine-run"),
                             os.path.join(self._environment["BARWRIGHT_WINEPREFIX"], "drive_c", "windows", "system32", "reg.exe"), *words],
@@ -80,7 +80,7 @@ class Viewer:
     def wait_for_end(self):
         return self._program.wait(timeout=DEADLINE)
 
-    def __exit__(self, *_):
+    def __exit__(self, kind=None, *_):
         # The next run would join a server that is still on its way out.
         for option in ("-k", "-w"):
             subprocess.run(["wineserver", option],
@@ -88,9 +88,12 @@ class Viewer:
         self._program.wait()
         self._server.terminate()
         self._server.wait()
+        faults = [line for line in self.errors().splitlines() if "ignoring exception" in line]
         self._errors.close()
         self._folder.cleanup()
         self._session.__exit__(None, None, None)
+        if faults and kind is None:
+            raise AssertionError(f"{len(faults)} faults below window procedures")
 
     def wait_for(self, condition):
         """The first record that meets the condition; fails when none does in time."""

@@ -1,5 +1,6 @@
 #include "tests/support/ui_test.h"
 
+#include "tests/support/fault_watch.h"
 #include "tests/support/message_pump.h"
 
 CountingMessageBox::CountingMessageBox(int answer) : m_answer(answer) {
@@ -23,6 +24,7 @@ CountingPopupMenu::CountingPopupMenu(UINT command) : m_command(command) {
 CountingPopupMenu::~CountingPopupMenu() { fx::SetPopupMenuRunner(std::move(m_before)); }
 
 void UiTestEnvironment::SetUp() {
+    WatchFaults();
     ASSERT_TRUE(AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL));
     ASSERT_NE(AfxGetApp(), nullptr);
 }
