@@ -3,6 +3,8 @@
 #include "afxext.h"
 #include "fx/window_guard.h"
 
+#include <vector>
+
 IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMDIFrameWnd, CFrameWnd)
@@ -138,10 +140,28 @@ void CMDIFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
 
 void CMDIFrameWnd::DelayUpdateFrameMenu(HMENU hMenuAlt) { OnUpdateFrameMenu(hMenuAlt); }
 
+namespace {
+
+// Before the client: not every system's client knows how many children it still had when it goes first.
+void DestroyChildren(HWND client) {
+    std::vector<HWND> children;
+    for (HWND child = ::GetWindow(client, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        children.push_back(child);
+    }
+    for (const HWND child : children) {
+        if (::IsWindow(child)) {
+            ::SendMessageW(client, WM_MDIDESTROY, reinterpret_cast<WPARAM>(child), 0);
+        }
+    }
+}
+
+} // namespace
+
 void CMDIFrameWnd::OnDestroy() {
     if (m_hMenuDefault && m_hWndMDIClient && ::GetMenu(m_hWnd) != m_hMenuDefault) {
         ::SendMessageW(m_hWndMDIClient, WM_MDISETMENU, reinterpret_cast<WPARAM>(m_hMenuDefault), 0);
     }
+    DestroyChildren(m_hWndMDIClient);
     CFrameWnd::OnDestroy();
 }
 
