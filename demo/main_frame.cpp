@@ -178,11 +178,18 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     ApplyTexts();
     RestoreState();
     m_pane.SetChangeListener([this] { TakeChange(); });
+    // The map may be moved and drawn while the bars are made anew.
     m_map.SetPointerListener([this](GeoPoint place) {
         m_controls.ShowPointer(place);
-        m_status->ShowPointer(m_controls.PointerText());
+        if (m_status) {
+            m_status->ShowPointer(m_controls.PointerText());
+        }
     });
-    m_map.SetWorkListener([this](bool isAtWork) { m_status->ShowWork(isAtWork); });
+    m_map.SetWorkListener([this](bool isAtWork) {
+        if (m_status) {
+            m_status->ShowWork(isAtWork);
+        }
+    });
     DragAcceptFiles();
     return 0;
 }
@@ -301,6 +308,7 @@ void CMainFrame::BuildStatusBar() {
     m_status->ShowMode(m_state.Mode());
     m_status->ShowState(m_state);
     m_status->ShowPointer(m_controls.PointerText());
+    m_status->ShowWork(m_map.GetSafeHwnd() != nullptr && !m_map.IsFinished());
     RecalcLayout();
 }
 
