@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -44,6 +45,7 @@ BOOL CMapPane::Create(CWnd* parent, UINT id) {
     m_map.SetViewListener([this] {
         m_down.ShowState();
         m_across.ShowState();
+        UpdateGround();
     });
     return TRUE;
 }
@@ -54,9 +56,10 @@ void CMapPane::SetSkin(UINT skin) {
     for (CMapScrollBar* const bar : {&m_down, &m_across}) {
         bar->SetSkin(skin);
     }
-    m_corner = skin == kSilver ? m_down.GetSilverBkColor() : m_down.GetBlackBkColor();
+    m_barColor = skin == kSilver ? m_down.GetSilverBkColor() : m_down.GetBlackBkColor();
     if (GetSafeHwnd()) {
         Invalidate(FALSE);
+        UpdateGround();
     }
 }
 
@@ -70,6 +73,15 @@ void CMapPane::Mirror(bool isMirrored) {
 void CMapPane::ShowState() {
     m_map.ShowState();
     m_list.ShowState();
+    UpdateGround();
+}
+
+void CMapPane::UpdateGround() {
+    const bool hasBar = ((m_down.GetStyle() | m_across.GetStyle()) & WS_VISIBLE) != 0;
+    const Ground ground{m_map.AroundColor(), hasBar ? m_barColor : m_map.AroundColor()};
+    if (std::exchange(m_ground, ground) != ground) {
+        Invalidate(FALSE);
+    }
 }
 
 CRect CMapPane::PlaceOf(Part part) const {
@@ -107,12 +119,16 @@ void CMapPane::OnSize(UINT type, int width, int height) {
 
 BOOL CMapPane::OnEraseBkgnd(CDC* /*dc*/) { return TRUE; }
 
-// The line beside the list, and the corner between the bars.
+// The line beside the list, the corner between the bars, and the place of a bar that has nothing to scroll: what lies
+// around the map goes on there.
 void CMapPane::OnPaint() {
     CPaintDC dc(this);
     CRect client;
     GetClientRect(client);
-    dc.FillSolidRect(client, m_corner);
+    const int breadth = m_down.GetScrollWidth();
+    dc.FillSolidRect(client, m_ground.aroundMap);
+    dc.FillSolidRect(CRect(client.right - breadth, client.bottom - breadth, client.right, client.bottom),
+                     m_ground.corner);
     CRect list;
     m_list.GetWindowRect(list);
     CRect line(list.Width(), 0, list.Width() + afxGlobalData.ScalePixels(1), client.bottom);

@@ -34,13 +34,21 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    struct Ground {
+        COLORREF aroundMap = 0;
+        COLORREF corner = 0;
+        friend bool operator==(const Ground&, const Ground&) = default;
+    };
+
     void TakeChange();
+    void UpdateGround();
 
     CMapWindow& m_map;
     CLayerList m_list;
     CMapScrollBar m_down;
     CMapScrollBar m_across;
     ViewerColors m_colors = {};
-    COLORREF m_corner = 0;
+    COLORREF m_barColor = 0;
+    Ground m_ground;
     std::function<void()> m_listener;
 };
