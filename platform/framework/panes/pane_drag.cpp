@@ -28,6 +28,8 @@ PaneDrag::PaneDrag(CDockingManager& manager, CPane& pane, CPoint screen)
     CRect window;
     (moved != nullptr ? moved : &pane)->GetWindowRect(&window);
     m_hot = screen - window.TopLeft();
+    const bool isMirrored = (pane.GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    m_hotFromStart = isMirrored ? window.right - screen.x : m_hot.x;
     pane.SetClientHotSpot(m_hot);
     m_floatBefore = moved != nullptr ? window : CRect(0, 0, 0, 0);
     if (m_siteBefore != nullptr) {
@@ -129,7 +131,7 @@ PaneDrag::Target PaneDrag::InSite(CDockSite& site, CPoint screen) const {
     const CPoint acrossAndAlong = site.AcrossAndAlong(screen);
     const CSize size = m_pane->CalcFixedLayout(FALSE, site.IsHorizontal());
     const int length = std::max(1, static_cast<int>(site.IsHorizontal() ? size.cx : size.cy));
-    const int hot = m_siteBefore != nullptr && !m_siteBefore->IsHorizontal() ? m_hot.y : m_hot.x;
+    const int hot = m_siteBefore != nullptr && !m_siteBefore->IsHorizontal() ? m_hot.y : m_hotFromStart;
     Target target;
     target.site = &site;
     // By which edge the user took the pane makes no difference in the rows where it lay. The rows as they were say

@@ -53,7 +53,8 @@ private:
     CDockingManager& m_manager;
     CPane* m_pane;
     CPoint m_start;
-    CPoint m_hot{0, 0}; ///< from the corner of pane or mini frame to the mouse
+    CPoint m_hot{0, 0};     ///< from the corner of pane or mini frame to the mouse
+    int m_hotFromStart = 0; ///< the same from where rows begin: in a mirrored frame at the right
     bool m_isMoving = false;
     bool m_isImmediate;
     std::unique_ptr<DragPreview> m_preview;
