@@ -35,6 +35,7 @@ const std::vector<Row>& Rows() {
         {L"FileOpen", L"open"},
         {L"PictureSave", L"save"},
         {L"PagePrint", L"print-page"},
+        {L"PrintPreview", L"preview"},
         {L""},
         {L"CatSettings",
          L"settings",
@@ -47,6 +48,7 @@ const std::vector<Row>& Rows() {
            {{L"ClassicBars", L"classic-bars"},
             {L"RibbonMinimize", L"ribbon-minimize"},
             {L"QuickAccessBelow", L"quick-access-below"}}}}},
+        {L"Options", L"options"},
         {L"About", L"about"}};
     return rows;
 }
@@ -70,18 +72,6 @@ std::unique_ptr<CMFCRibbonButton> MakeButton(const Row& row) {
 }
 
 } // namespace
-
-void ApplicationMenu::Button::OnDraw(CDC* dc) {
-    CMFCVisualManager::GetInstance()->OnDrawRibbonApplicationButton(dc, this);
-    CRect rect = GetRect();
-    CFont* const font = dc->SelectObject(&afxGlobalData.fontRegular);
-    const COLORREF color = dc->SetTextColor(RGB(255, 255, 255));
-    const int mode = dc->SetBkMode(TRANSPARENT);
-    dc->DrawText(GetText(), rect, DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX);
-    dc->SetBkMode(mode);
-    dc->SetTextColor(color);
-    dc->SelectObject(font);
-}
 
 void ApplicationMenu::Attach(CMFCRibbonBar& ribbon) { m_ribbon = &ribbon; }
 

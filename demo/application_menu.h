@@ -7,12 +7,6 @@
 /// The button at the head of the ribbon's tabs and the menu that it opens: files, printing, options, help, and the
 /// recent files. Its commands are those of the configuration, by keyword; one that is not configured is left out.
 class ApplicationMenu {
-    /// Its face is a strong colour in both skins: the text on it is white.
-    class Button : public CMFCRibbonApplicationButton {
-    public:
-        void OnDraw(CDC* dc) override;
-    };
-
 public:
     /// Once, when the ribbon has its window; the ribbon lives as long as this.
     void Attach(CMFCRibbonBar& ribbon);
@@ -23,5 +17,5 @@ public:
 
 private:
     CMFCRibbonBar* m_ribbon = nullptr;
-    Button m_button;
+    CMFCRibbonApplicationButton m_button;
 };

@@ -193,13 +193,13 @@ class ApplicationMenu(unittest.TestCase):
     def test_language_and_skin_are_among_its_settings(self):
         with self.open() as viewer:
             self.drop(viewer)
-            viewer.key("Down", "Down", "Down", "Down", "Right", "Down", "Right", "Down", "Return")
+            viewer.key(*["Down"] * 5, "Right", "Down", "Right", "Down", "Return")
             viewer.wait_for(lambda record: record["skin"] == "black")
 
     def test_after_a_language_switch_it_speaks_the_other_language(self):
         with self.open() as viewer:
             self.drop(viewer)
-            viewer.key("Down", "Down", "Down", "Down", "Right", "Right", "Return")
+            viewer.key(*["Down"] * 5, "Right", "Right", "Return")
             viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "地图")
             self.drop(viewer)
             viewer.key("Down", "Down", "Down", "Return")
@@ -213,7 +213,18 @@ class ApplicationMenu(unittest.TestCase):
             with self.open("--open", path) as viewer:
                 viewer.key("ctrl+w")
                 shown = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] < 10)["map"]["pixelsPerDegree"]
-                viewer.key("alt+f", "Down", *["Tab"] * 5, "Return")  # past the commands
+                viewer.key("alt+f", "Down", *["Tab"] * 7, "Return")  # past the commands
+                viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > shown)
+
+    def test_a_recent_file_opens_from_it_by_its_number(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "place.geojson")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write('{"type": "Point", "coordinates": [10, 20]}')
+            with self.open("--open", path) as viewer:
+                viewer.key("ctrl+w")
+                shown = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] < 10)["map"]["pixelsPerDegree"]
+                viewer.key("alt+f", "1")
                 viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > shown)
 
     def test_its_exit_leaves(self):

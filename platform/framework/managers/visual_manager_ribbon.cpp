@@ -141,7 +141,13 @@ void CMFCVisualManager::OnDrawRibbonCaption(CDC* pDC, CMFCRibbonBar* pBar, CRect
 }
 
 void CMFCVisualManager::OnDrawRibbonApplicationButton(CDC* pDC, CMFCRibbonButton* pButton) {
-    visual::PaintApplicationButton(*pDC, pButton->GetRect(), StateOf(*pButton), LookOf(GetSkin()));
+    const CRect rect = pButton->GetRect();
+    visual::PaintApplicationButton(*pDC, rect, StateOf(*pButton), LookOf(GetSkin()));
+    // For the text that the button draws over it; the ground may be a picture.
+    const COLORREF ground = pDC->GetPixel(rect.CenterPoint());
+    if (ground != CLR_INVALID) {
+        pDC->SetTextColor(ToColorRef(visual::TextColorOn(visual::FromColorRef(ground), GetSkin())));
+    }
 }
 
 COLORREF CMFCVisualManager::OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbonBar*, CRect rectTab) {

@@ -1,6 +1,7 @@
 // The elements that stand on a ribbon bar alone: application button, captions of contexts.
 #include "afxribbonbar.h"
 
+#include "afxglobals.h"
 #include "afxRibbonMainPanel.h"
 #include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
@@ -62,11 +63,13 @@ void CMFCRibbonApplicationButton::DrawImage(CDC* pDC, RibbonImageType type, CRec
 }
 
 void CMFCRibbonApplicationButton::OnDraw(CDC* pDC) {
+    const COLORREF before = pDC->SetTextColor(afxGlobalData.clrBarText);
     CMFCVisualManager::GetInstance()->OnDrawRibbonApplicationButton(pDC, this);
+    const COLORREF textColor = pDC->SetTextColor(before); // what is read on the manager's face
     if (m_Image.GetCount() > 0 || GetIcon(TRUE) != nullptr) {
         DrawImage(pDC, RibbonImageLarge, m_rect);
     } else {
-        DrawCenteredText(*pDC, ribbon::PlainText(m_strText), m_rect, static_cast<COLORREF>(-1));
+        DrawCenteredText(*pDC, ribbon::PlainText(m_strText), m_rect, textColor);
     }
 }
 

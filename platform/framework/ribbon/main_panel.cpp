@@ -114,7 +114,8 @@ void CMFCRibbonMainPanel::UpdateRecentFiles() {
             row->SetText(text);
             row->SetToolTipText((*files)[index]);
             text.Format(L"%d", (index + 1) % 10);
-            row->SetKeys(nullptr, index < 10 ? static_cast<LPCTSTR>(text) : nullptr);
+            const LPCTSTR keys = index < 10 ? static_cast<LPCTSTR>(text) : nullptr;
+            row->SetKeys(keys, keys); // by a key tip, and where none are shown
         }
     }
 }

@@ -351,6 +351,17 @@ void PaintZoomButton(HDC dc, const RECT& rect, bool isPlus, const ElementState& 
     PaintSign(dc, disc, isPlus, look.skin[state.isDisabled ? ColorSlot::GlyphDisabled : ColorSlot::Glyph], look);
 }
 
+Argb TextColorOn(Argb ground, const Skin& skin) {
+    constexpr double readable = 4.5;
+    const Argb usual = skin[ColorSlot::RibbonText];
+    if (Contrast(usual, ground) >= readable) {
+        return usual;
+    }
+    constexpr Argb white = 0xFFFFFFFF;
+    constexpr Argb black = 0xFF000000;
+    return Contrast(white, ground) >= Contrast(black, ground) ? white : black;
+}
+
 void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {
     const Face& face = look.skin[state.isPressed || state.isDropped ? FaceSlot::AppButtonPressed
                                  : state.isHot                      ? FaceSlot::AppButtonHot

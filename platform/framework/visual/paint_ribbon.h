@@ -51,6 +51,8 @@ void PaintSliderThumb(HDC dc, const RECT& rect, const ElementState& state, const
 void PaintZoomButton(HDC dc, const RECT& rect, bool isPlus, const ElementState& state, const Look& look);
 
 void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state, const Look& look);
+/// Of a text on any ground: the ribbon's where that can be read, else white or black.
+Argb TextColorOn(Argb ground, const Skin& skin);
 void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look);
 void PaintCaptionButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look);
 /// The same for a maximised MDI child, on the row of tabs.

@@ -114,9 +114,34 @@ protected:
         }
     }
 
+    /// The text that a plain application button draws, against its face.
+    template <class Skin>
+    void ExpectReadableApplicationButton() {
+        constexpr double readable = 4.5;
+        auto& skin = Use<Skin>();
+        skin.SetImageMode(FALSE);
+        for (const bool isHot : {false, true}) {
+            PlacedButton button(isHot);
+            Canvas canvas(CSize(80, kSide));
+            canvas.Dc()->SetTextColor(RGB(0, 0, 0));
+            skin.OnDrawRibbonApplicationButton(canvas.Dc(), &button);
+            const visual::Argb text = 0xFF000000u | Pixel(canvas.Dc()->GetTextColor());
+            const visual::Argb face = 0xFF000000u | canvas.At(kSide / 2, kSide / 2);
+            EXPECT_GE(visual::Contrast(text, face), readable) << std::hex << text << " on " << face;
+        }
+    }
+
     CWnd m_frame;
     CMFCPopupMenuBar m_menu;
 };
+
+TEST_F(SkinPaint, TheApplicationButtonsTextCanBeReadInTheBlackSkin) {
+    ExpectReadableApplicationButton<OpenBlackSkin>();
+}
+
+TEST_F(SkinPaint, TheApplicationButtonsTextCanBeReadInTheSilverSkin) {
+    ExpectReadableApplicationButton<OpenSilverSkin>();
+}
 
 TEST_F(SkinPaint, ColoursOfTheBlackSkinAreSeenAtTheirPlaces) { ExpectEveryPlace<OpenBlackSkin>(); }
 
