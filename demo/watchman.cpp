@@ -1,38 +1,93 @@
 #include "watchman.h"
 
+#include <nlohmann/json.hpp>
+
 #include <algorithm>
-#include <chrono>
 #include <filesystem>
-#include <fstream>
 
 namespace {
 
 constexpr UINT kPatience = 10000; // milliseconds that a window may be silent before it is taken for dead
 constexpr DWORD kPause = 100;
+constexpr UINT kNoticed = 300; // a wait as long as this gets a line of its own
 constexpr auto kBetweenLines = std::chrono::seconds(1);
+
+long long Milliseconds(const FILETIME& time) {
+    constexpr long long ticks = 10000; // of 100 ns in a millisecond
+    const ULARGE_INTEGER whole{{time.dwLowDateTime, time.dwHighDateTime}};
+    return static_cast<long long>(whole.QuadPart) / ticks;
+}
+
+template <class Duration>
+long long Milliseconds(Duration duration) {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(duration).count();
+}
 
 } // namespace
 
 Watchman::Watchman(HWND window, const std::wstring& file)
-    : m_window(window), m_file(file), m_thread([this] { Run(); }) {}
+    : m_window(window),
+      m_file(file),
+      m_windowThread(::OpenThread(THREAD_QUERY_INFORMATION, FALSE, ::GetWindowThreadProcessId(window, nullptr))),
+      m_thread([this] { Run(); }) {}
 
 Watchman::~Watchman() {
     m_isLeaving = true;
     m_thread.join();
 }
 
+Watchman::Spent Watchman::SpentSoFar() const {
+    FILETIME created;
+    FILETIME ended;
+    FILETIME kernel;
+    FILETIME user;
+    Spent spent;
+    if (m_windowThread && ::GetThreadTimes(m_windowThread.get(), &created, &ended, &kernel, &user)) {
+        spent.thread = Milliseconds(kernel) + Milliseconds(user);
+    }
+    if (::GetProcessTimes(::GetCurrentProcess(), &created, &ended, &kernel, &user)) {
+        spent.process = Milliseconds(kernel) + Milliseconds(user);
+    }
+    return spent;
+}
+
+void Watchman::TellWait(std::ofstream& lines, const WaitTime& wait, const Spent& before,
+                        const std::vector<LastMessages::Entry>& taken) const {
+    const Spent after = SpentSoFar();
+    nlohmann::ordered_json messages = nlohmann::ordered_json::array();
+    for (const LastMessages::Entry& entry : taken) {
+        messages.push_back({{"at", Milliseconds(entry.when - wait.asked)},
+                            {"message", entry.message},
+                            {"wParam", entry.wParam},
+                            {"class", entry.windowClass.data()}});
+    }
+    const nlohmann::ordered_json line = {{"wait", Milliseconds(wait.answered - wait.asked)},
+                                         {"began", Milliseconds(wait.asked.time_since_epoch())},
+                                         {"ended", Milliseconds(wait.answered.time_since_epoch())},
+                                         {"thread", after.thread - before.thread},
+                                         {"process", after.process - before.process},
+                                         {"messages", std::move(messages)}};
+    lines << line.dump() << std::endl;
+}
+
 void Watchman::Run() {
-    using Clock = std::chrono::steady_clock;
     std::ofstream lines(std::filesystem::path(m_file), std::ios::app);
     long long longest = 0;
     auto last = Clock::now() - kBetweenLines;
     while (!m_isLeaving) {
+        const Spent before = SpentSoFar();
         const auto asked = Clock::now();
         DWORD_PTR answer = 0;
-        ::SendMessageTimeoutW(m_window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience, &answer);
+        std::vector<LastMessages::Entry> messages;
+        if (::SendMessageTimeoutW(m_window, WM_NULL, 0, 0, SMTO_NORMAL, kNoticed, &answer) == 0) {
+            messages = m_messages.Copy(); // before others come that were only waiting, too
+            ::SendMessageTimeoutW(m_window, WM_NULL, 0, 0, SMTO_NORMAL, kPatience - kNoticed, &answer);
+        }
         const auto now = Clock::now();
-        longest =
-            std::max<long long>(longest, std::chrono::duration_cast<std::chrono::milliseconds>(now - asked).count());
+        longest = std::max(longest, Milliseconds(now - asked));
+        if (!messages.empty()) {
+            TellWait(lines, {asked, now}, before, messages);
+        }
         if (now - last >= kBetweenLines) {
             last = now;
             lines << "{\"longest\": " << longest << "}" << std::endl;

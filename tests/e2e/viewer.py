@@ -9,7 +9,8 @@ from PIL import ImageGrab
 
 from wine_session import ROOT, alone_in_prefix
 
-DEADLINE = 40
+# Seconds that anything may take; on a machine that has much else to do, more.
+DEADLINE = int(os.environ.get("BARWRIGHT_E2E_SECONDS", "40"))
 
 
 class Viewer:
@@ -127,9 +128,18 @@ class Viewer:
         """Input in the words of xdotool, whatever comes of it."""
         self._xdotool(*words)
 
+    def try_to_act(self, *words):
+        """The same where the window may have gone meanwhile; False when the input could not be given."""
+        return subprocess.run(["xdotool", *map(str, words)], env=self._environment, stderr=subprocess.DEVNULL).returncode == 0
+
     @property
     def record_file(self):
         return self._record_file
+
+    @property
+    def display_server(self):
+        """Its process."""
+        return self._server.pid
 
     def has_left(self):
         return self._program.poll() is not None

@@ -1,0 +1,52 @@
+#include "last_messages.h"
+
+#include <algorithm>
+
+LastMessages* LastMessages::s_listening = nullptr;
+
+LastMessages::LastMessages()
+    : m_sent(::SetWindowsHookExW(WH_CALLWNDPROC, OnSent, nullptr, ::GetCurrentThreadId())),
+      m_taken(::SetWindowsHookExW(WH_GETMESSAGE, OnTaken, nullptr, ::GetCurrentThreadId())) {
+    s_listening = this;
+}
+
+LastMessages::~LastMessages() { s_listening = nullptr; }
+
+LRESULT CALLBACK LastMessages::OnSent(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HC_ACTION && s_listening != nullptr) {
+        const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        s_listening->Add(sent.hwnd, sent.message, sent.wParam);
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+LRESULT CALLBACK LastMessages::OnTaken(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HC_ACTION && wParam == PM_REMOVE && s_listening != nullptr) {
+        const auto& taken = *reinterpret_cast<const MSG*>(lParam);
+        s_listening->Add(taken.hwnd, taken.message, taken.wParam);
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+void LastMessages::Add(HWND window, UINT message, WPARAM wParam) {
+    if (message == WM_NULL) { // the question of whoever watches
+        return;
+    }
+    const std::scoped_lock lock(m_mutex);
+    Entry& entry = m_entries[m_count++ % m_entries.size()];
+    entry.when = std::chrono::system_clock::now();
+    entry.message = message;
+    entry.wParam = wParam;
+    entry.windowClass = {};
+    ::GetClassNameA(window, entry.windowClass.data(), static_cast<int>(entry.windowClass.size()));
+}
+
+std::vector<LastMessages::Entry> LastMessages::Copy() const {
+    const std::scoped_lock lock(m_mutex);
+    const std::size_t kept = std::min(m_count, m_entries.size());
+    std::vector<Entry> entries;
+    for (std::size_t i = m_count - kept; i < m_count; ++i) {
+        entries.push_back(m_entries[i % m_entries.size()]);
+    }
+    return entries;
+}

@@ -1,0 +1,136 @@
+"""What of a wait is the program's own, and what the machine's, which had no processor for it.
+
+The kernel counts for each thread how long it stood ready and got none (the second figure of its `schedstat`). What the
+program's threads and the two servers that they wait for stood so is taken off a wait. A program that hangs asks for no
+processor: nothing is taken off for it, however much the machine has to do.
+"""
+import bisect
+import os
+import threading
+import time
+
+PERIOD = 0.1  # seconds between two looks
+LOOKS_BETWEEN_COUNTS = 20
+PATIENCE = 9900  # milliseconds: whoever is silent for as long as the viewer's watchman asks is taken for dead
+
+
+class Ledger:
+    """Ready but waiting: per thread, readings (time, seconds so far) in the order of time."""
+
+    def __init__(self):
+        self._times = {}
+        self._sums = {}
+
+    def add(self, thread, when, seconds):
+        self._times.setdefault(thread, []).append(when)
+        self._sums.setdefault(thread, []).append(seconds)
+
+    def starved(self, began, ended):
+        """Seconds between two times (of the same clock); at most what was there, never more: only readings inside count."""
+        total = 0.0
+        for thread, times in self._times.items():
+            first, last = bisect.bisect_left(times, began), bisect.bisect_right(times, ended) - 1
+            if last > first:
+                total += self._sums[thread][last] - self._sums[thread][first]
+        return min(total, ended - began)
+
+
+def own_part(wait, starved):
+    """Of a wait (both in milliseconds) what the program answers for."""
+    return wait if wait >= PATIENCE else max(0, wait - starved)
+
+
+class Thread:
+    """Of a process; its file stays open, because it is read often."""
+
+    def __init__(self, process, number):
+        self._file = os.open(f"/proc/{process}/task/{number}/schedstat", os.O_RDONLY)
+
+    def __del__(self):
+        if hasattr(self, "_file"):
+            os.close(self._file)
+
+    def ready_seconds(self):
+        """How long it stood ready and got no processor, so far; None when it is gone."""
+        try:
+            return int(os.pread(self._file, 100, 0).split()[1]) / 1e9
+        except (OSError, IndexError):
+            return None
+
+
+def threads_of(process):
+    try:
+        return [int(thread) for thread in os.listdir(f"/proc/{process}/task")]
+    except OSError:
+        return []
+
+
+def _read(process, name):
+    try:
+        with open(f"/proc/{process}/{name}", "rb") as file:
+            return file.read()
+    except OSError:
+        return b""
+
+
+def program_of(record_file):
+    """The process of the program that writes this record; None when there is none."""
+    folder = os.path.basename(os.path.dirname(record_file)).encode()
+    found = [int(process) for process in filter(str.isdigit, os.listdir("/proc"))
+             if b"demo.exe" in _read(process, "cmdline").split(b"\0")[0] and folder in _read(process, "cmdline")]
+    return max(found, default=None)  # a shell that starts it comes first
+
+
+def server_of(prefix):
+    """The process of the Wine server of a prefix."""
+    wanted = b"WINEPREFIX=" + prefix.encode()
+    return next((int(process) for process in filter(str.isdigit, os.listdir("/proc"))
+                 if _read(process, "comm").strip() == b"wineserver" and wanted in _read(process, "environ").split(b"\0")), None)
+
+
+class MachineTime:
+    """Reads the ledger of some processes in a thread of its own; use it as a context."""
+
+    def __init__(self, *processes):
+        self._processes = [process for process in processes if process]
+        self._ledger = Ledger()
+        self._ends = threading.Event()
+        self._thread = threading.Thread(target=self._run, daemon=True)
+
+    def __enter__(self):
+        self._thread.start()
+        return self
+
+    def __exit__(self, *_):
+        self._ends.set()
+        self._thread.join()
+
+    def _run(self):
+        threads = {}
+        looks = 0
+        while not self._ends.wait(PERIOD):
+            if looks % LOOKS_BETWEEN_COUNTS == 0:
+                self._count(threads)
+            looks += 1
+            now = time.time()
+            for number, thread in list(threads.items()):
+                seconds = thread.ready_seconds()
+                if seconds is None:
+                    del threads[number]
+                else:
+                    self._ledger.add(number, now, seconds)
+
+    def _count(self, threads):
+        """Threads come and go."""
+        for process in self._processes:
+            for number in threads_of(process):
+                if number not in threads:
+                    try:
+                        threads[number] = Thread(process, number)
+                    except OSError:
+                        pass  # it has gone meanwhile
+
+    def own_part(self, wait):
+        """Of a wait as the viewer's watchman writes it."""
+        starved = self._ledger.starved(wait["began"] / 1000, wait["ended"] / 1000)
+        return own_part(wait["wait"], round(starved * 1000))
