@@ -19,6 +19,8 @@ constexpr int kVersion = 1;
 constexpr int kFarthest = 1000000;
 constexpr std::size_t kMostPlaces = 10000;
 constexpr int kHexDigits = 16;
+constexpr int kLeastScale = 100; // percent
+constexpr int kMostScale = 400;
 constexpr double kEast = 180;
 constexpr double kNorth = 90;
 
@@ -111,6 +113,18 @@ KeptWindow WindowOf(const Json& value) {
     const WindowBox box{IntegerOf(place[0]), IntegerOf(place[1]), IntegerOf(place[2]), IntegerOf(place[3])};
     Require(box.left < box.right && box.top < box.bottom);
     return {box, value.contains("maximized") && FlagOf(value["maximized"])};
+}
+
+std::wstring ModeOf(const Json& value) {
+    const std::wstring name = TextOf(value);
+    Require(name == L"browse" || name == L"edit" || name == L"print");
+    return name;
+}
+
+int ScaleOf(const Json& value) {
+    const int percent = IntegerOf(value);
+    Require(percent >= kLeastScale && percent <= kMostScale);
+    return percent;
 }
 
 // ---- the map
@@ -260,6 +274,12 @@ std::string WriteKept(const KeptViewer& viewer, const MapState& map) {
     if (viewer.iconStyle) {
         json["iconStyle"] = wstring2String(*viewer.iconStyle);
     }
+    if (!viewer.startMode.empty()) {
+        json["startMode"] = wstring2String(viewer.startMode);
+    }
+    if (viewer.scalePercent != 0) {
+        json["scale"] = viewer.scalePercent;
+    }
     Json hidden = Json::array();
     for (const std::wstring& title : viewer.hiddenToolbars) {
         hidden.push_back(wstring2String(title));
@@ -287,6 +307,8 @@ std::optional<std::vector<std::string>> ReadKept(const std::string& text, KeptVi
          {"skin", takeText(viewer.skin)},
          {"iconStyle", [&](const Json& value) { viewer.iconStyle = TextOf(value); }},
          {"window", [&](const Json& value) { viewer.window = WindowOf(value); }},
+         {"startMode", [&](const Json& value) { viewer.startMode = ModeOf(value); }},
+         {"scale", [&](const Json& value) { viewer.scalePercent = ScaleOf(value); }},
          {"classicBars", [&](const Json& value) { viewer.showsClassicBars = FlagOf(value); }},
          {"hiddenToolbars", [&](const Json& value) { viewer.hiddenToolbars = ListOf<std::wstring>(value, TextOf); }},
          {"map", [&](const Json& value) { ReadMap(reader, value, map); }}});

@@ -20,6 +20,8 @@ struct KeptViewer {
     std::optional<std::wstring> iconStyle; ///< Where the user has chosen another one than the skin's.
     std::optional<KeptWindow> window;
     bool showsClassicBars = false;
+    std::wstring startMode;                   ///< The working mode of the next start; empty: browsing.
+    int scalePercent = 0;                     ///< Of texts and icons; 0: as the screen says.
     std::vector<std::wstring> hiddenToolbars; ///< Their titles as their file has them.
 };
 

@@ -139,6 +139,10 @@ CMainFrame::CMainFrame(const DemoOptions& options)
                                           : options.settings) {
     m_memory.Load(m_state);
     const KeptViewer& kept = m_memory.Viewer();
+    if (options.scalePercent == 0 && kept.scalePercent > 0) {
+        constexpr double percent = 100;
+        afxGlobalData.SetRibbonImageScale(kept.scalePercent / percent);
+    }
     m_skin = !options.skin.empty() ? options.skin : FindViewerSkin(kept.skin) != nullptr ? kept.skin : PreferredSkin();
     CMenuEvtHandleMgr* const dispatcher = CMenuEvtHandleMgr::Ins();
     dispatcher->addReactor(MakeNavigationReactor(m_state, m_data, *this));
@@ -147,7 +151,7 @@ CMainFrame::CMainFrame(const DemoOptions& options)
     dispatcher->addReactor(MakeFileReactor(m_state, *this));
     dispatcher->addReactor(MakeModeReactor(m_state, *this));
     dispatcher->addReactor(MakeSettingsReactor(*this));
-    m_state.SetMode(WorkingModes::ModeOf(options.mode));
+    m_state.SetMode(WorkingModes::ModeOf(options.mode.empty() ? kept.startMode : options.mode));
 }
 
 BOOL CMainFrame::CreateFrame() {

@@ -13,6 +13,8 @@
 #include "map_state.h"
 #include "map_window.h"
 #include "options.h"
+#include "options_dialog.h"
+#include "print_pages.h"
 #include "search_window.h"
 #include "viewer_commands.h"
 #include "viewer_memory.h"
@@ -95,9 +97,14 @@ private:
     void TakeChange();
     void ApplySkin();
     void TakeBarIcons();
-    void SavePicture(CBitmap& picture, bool isMade);
-    /// What of the map goes on the page.
-    bool MakePage(CBitmap& picture);
+    void CopyPicture(CBitmap* picture);
+    void SavePicture(CBitmap* picture);
+    void RequestPage(const CMapWindow::PictureTaker& taker);
+    PrintPages PagesWith(CBitmap& page) const;
+    void PrintOn(CWnd& owner, CBitmap* page);
+    DialogLook LookOfDialogs() const;
+    ViewerOptions PresentOptions() const;
+    void TakeBars(ViewerOptions::Bars bars);
     void ApplyTexts();
 
     int ScaleSliderPosition() const override;
@@ -118,6 +125,8 @@ private:
     void CopyPage() override;
     void SavePage() override;
     void PrintPage() override;
+    void PreviewPage() override;
+    void AskOptions() override;
     void SwitchSkin(const std::wstring& name) override;
     bool IsSkin(const std::wstring& name) const override;
     void SwitchIconStyle(const std::wstring& style) override;
@@ -156,6 +165,7 @@ private:
     ViewerMemory m_memory;
     LanguageNames m_languageNames;
     CSearchWindow m_search{[this](UINT id) { PostMessage(WM_COMMAND, id); }};
+    const CDialogWindow* m_dialog = nullptr; ///< The open one, for the record.
     bool m_tellsPlace = false;
     CSearchField* m_searchField = nullptr;         ///< As the next.
     CMFCRibbonUNIcoButton* m_skinButton = nullptr; ///< The ribbon's, beside the tabs; null when there is none.

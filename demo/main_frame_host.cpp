@@ -5,15 +5,21 @@
 #include "command_index.h"
 #include "configuration_files.h"
 #include "menu_id_mgr.h"
+#include "options_dialog.h"
 #include "page_print.h"
 #include "picture_export.h"
+#include "place_text.h"
+#include "print_pages.h"
+#include "print_preview.h"
 #include "ribbon_category_ex.h"
 #include "ribbon_icon_button.h"
 #include "screenshot.h"
 #include "search_field.h"
+#include "system_language.h"
 #include "viewer_skins.h"
 #include "viewer_text.h"
 
+#include "varnhold/file_op.h"
 #include "varnhold/language.h"
 #include "varnhold/message_box.h"
 #include "varnhold/strings.h"
@@ -21,6 +27,22 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+
+namespace {
+
+/// The window is the frame's open one as long as this lives, for the record.
+class OpenDialog {
+public:
+    OpenDialog(const CDialogWindow*& place, const CDialogWindow& dialog) : m_place(place) { m_place = &dialog; }
+    ~OpenDialog() { m_place = nullptr; }
+    OpenDialog(const OpenDialog&) = delete;
+    OpenDialog& operator=(const OpenDialog&) = delete;
+
+private:
+    const CDialogWindow*& m_place;
+};
+
+} // namespace
 
 int CMainFrame::ScaleSliderPosition() const { return m_controls.ScalePosition(); }
 
@@ -194,50 +216,132 @@ BOOL CMainFrame::GetToolbarButtonToolTipText(CMFCToolBarButton* button, CString&
 }
 
 void CMainFrame::CopyPicture() {
-    CBitmap picture;
-    if (m_map.MakePicture(picture)) {
-        PutPictureOnClipboard(GetSafeHwnd(), picture);
+    m_map.RequestPicture([this](CBitmap* picture) { CopyPicture(picture); });
+}
+
+void CMainFrame::CopyPicture(CBitmap* picture) {
+    if (picture != nullptr) {
+        PutPictureOnClipboard(GetSafeHwnd(), *picture);
     }
 }
 
-void CMainFrame::SavePicture(CBitmap& picture, bool isMade) {
+void CMainFrame::SavePicture(CBitmap* picture) {
     const std::wstring path = AskForPictureFile(GetSafeHwnd(), ViewerText("PictureFilter"));
-    if (!path.empty() && !(isMade && WritePng(picture, path))) {
+    if (!path.empty() && !(picture != nullptr && WritePng(*picture, path))) {
         QKMessageBox(WithName(ViewerText("PictureFailed"), path), QK_MESSAGE_WARNING, GetSafeHwnd());
     }
 }
 
 void CMainFrame::SavePicture() {
-    CBitmap picture;
-    const bool isMade = m_map.MakePicture(picture) != FALSE;
-    SavePicture(picture, isMade);
+    m_map.RequestPicture([this](CBitmap* picture) { SavePicture(picture); });
 }
 
-bool CMainFrame::MakePage(CBitmap& picture) {
-    CBitmap whole;
-    return m_map.MakePicture(whole) && CutPicture(whole, m_state.PageBox(), picture);
+/// Of the map what goes on the page now.
+void CMainFrame::RequestPage(const CMapWindow::PictureTaker& taker) {
+    m_map.RequestPicture([box = m_state.PageBox(), taker](CBitmap* whole) {
+        CBitmap page;
+        taker(whole != nullptr && CutPicture(*whole, box, page) ? &page : nullptr);
+    });
 }
 
 void CMainFrame::CopyPage() {
-    CBitmap page;
-    if (MakePage(page)) {
-        PutPictureOnClipboard(GetSafeHwnd(), page);
-    }
+    RequestPage([this](CBitmap* page) { CopyPicture(page); });
 }
 
 void CMainFrame::SavePage() {
-    CBitmap page;
-    const bool isMade = MakePage(page);
-    SavePicture(page, isMade);
+    RequestPage([this](CBitmap* page) { SavePicture(page); });
+}
+
+PrintPages CMainFrame::PagesWith(CBitmap& page) const {
+    std::vector<std::wstring> marks;
+    for (const GeoPoint& mark : m_state.Marks()) {
+        marks.push_back(::PlaceText(mark, false));
+    }
+    return {page,
+            m_state.Page(),
+            std::move(marks),
+            {BarText(L"PanelMarks"), ViewerText("PreviewPages"), IsWrittenFromRight(CMultiLanguageMgr::GetLanguage())}};
+}
+
+void CMainFrame::PrintOn(CWnd& owner, CBitmap* page) {
+    const PrintOutcome outcome = page != nullptr
+                                     ? ::Print(owner.GetSafeHwnd(), PagesWith(*page), ViewerText("ViewerTitle"))
+                                     : PrintOutcome::Failed;
+    if (outcome == PrintOutcome::Failed) {
+        QKMessageBox(ViewerText("PrintFailed"), QK_MESSAGE_WARNING, owner.GetSafeHwnd());
+    }
 }
 
 void CMainFrame::PrintPage() {
-    CBitmap page;
-    const PrintOutcome outcome = MakePage(page)
-                                     ? PrintPicture(GetSafeHwnd(), page, m_state.Page(), ViewerText("ViewerTitle"))
-                                     : PrintOutcome::Failed;
-    if (outcome == PrintOutcome::Failed) {
-        QKMessageBox(ViewerText("PrintFailed"), QK_MESSAGE_WARNING, GetSafeHwnd());
+    RequestPage([this](CBitmap* page) { PrintOn(*this, page); });
+}
+
+DialogLook CMainFrame::LookOfDialogs() const {
+    std::wstring folder;
+    FileOp::GetAppPath(folder);
+    return {m_pane.Colors(), folder + FindViewerSkin(m_skin)->icons};
+}
+
+void CMainFrame::PreviewPage() {
+    RequestPage([this](CBitmap* page) {
+        if (page == nullptr) {
+            QKMessageBox(ViewerText("PrintFailed"), QK_MESSAGE_WARNING, GetSafeHwnd());
+            return;
+        }
+        const PrintPages pages = PagesWith(*page);
+        CPrintPreview preview(LookOfDialogs(), pages, [this, page](CWnd& owner) { PrintOn(owner, page); });
+        const OpenDialog open(m_dialog, preview);
+        preview.Show(*this, BarText(L"PrintPreview"));
+    });
+}
+
+ViewerOptions CMainFrame::PresentOptions() const {
+    const KeptViewer& kept = m_memory.Viewer();
+    return {CMultiLanguageMgr::GetLanguage(),
+            m_skin,
+            kept.scalePercent,
+            kept.startMode.empty() ? WorkingModes::NameOf(MapMode::Browse) : kept.startMode,
+            m_bars.IsShown()      ? ViewerOptions::Bars::MenusAndToolbars
+            : IsRibbonMinimized() ? ViewerOptions::Bars::TabsAlone
+                                  : ViewerOptions::Bars::Ribbon,
+            IsQuickAccessBelow()};
+}
+
+void CMainFrame::AskOptions() {
+    const ViewerOptions before = PresentOptions();
+    std::optional<ViewerOptions> chosen;
+    {
+        COptionsDialog dialog(LookOfDialogs(), before);
+        const OpenDialog open(m_dialog, dialog);
+        chosen = dialog.Ask(*this);
+    }
+    if (!chosen || *chosen == before) {
+        return;
+    }
+    m_memory.Viewer().scalePercent = chosen->scalePercent;
+    m_memory.Viewer().startMode = chosen->startMode;
+    if (chosen->skin != before.skin) {
+        SwitchSkin(chosen->skin);
+    }
+    if (chosen->isQuickAccessBelow != before.isQuickAccessBelow) {
+        ToggleQuickAccessBelow();
+    }
+    if (chosen->bars != before.bars) {
+        TakeBars(chosen->bars);
+    }
+    if (chosen->language != before.language) { // last: the bars are built anew
+        SwitchLanguage(chosen->language);
+    }
+    TakeChange();
+}
+
+void CMainFrame::TakeBars(ViewerOptions::Bars bars) {
+    const bool isClassic = bars == ViewerOptions::Bars::MenusAndToolbars;
+    if (isClassic != m_bars.IsShown()) {
+        ToggleClassicBars();
+    }
+    if (!isClassic && IsRibbonMinimized() != (bars == ViewerOptions::Bars::TabsAlone)) {
+        ToggleRibbonMinimized();
     }
 }
 

@@ -75,6 +75,9 @@ void CMainFrame::WriteRecord() {
         record["toolbarsOnScreen"].push_back(places(*bar));
     }
     record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
+    CRect whole;
+    GetWindowRect(whole);
+    record["frameOnScreen"] = {whole.left, whole.top, whole.right, whole.bottom};
     CRect status;
     m_status->GetWindowRect(status);
     record["statusOnScreen"] = {status.left, status.top, status.right, status.bottom};
@@ -116,6 +119,21 @@ void CMainFrame::WriteRecord() {
                               {"map", part(CMapPane::Part::Map)},
                               {"down", part(CMapPane::Part::Down)},
                               {"across", part(CMapPane::Part::Across)}};
+    if (m_dialog != nullptr) {
+        const CDialogWindow::Description shown = m_dialog->Describe();
+        nlohmann::ordered_json parts = nlohmann::ordered_json::object();
+        for (const CDialogWindow::Part& one : shown.parts) {
+            const CRect& place = one.onScreen;
+            parts[one.name] = {{"text", wstring2String(one.text)},
+                               {"enabled", one.isEnabled},
+                               {"onScreen", {place.left, place.top, place.right, place.bottom}}};
+        }
+        nlohmann::ordered_json values = nlohmann::ordered_json::object();
+        for (const auto& [name, value] : shown.values) {
+            values[name] = value;
+        }
+        record["dialog"] = {{"name", shown.name}, {"parts", std::move(parts)}, {"values", std::move(values)}};
+    }
     record["ribbonMinimized"] = IsRibbonMinimized();
     record["quickAccessBelow"] = IsQuickAccessBelow();
     std::string text = record.dump();

@@ -40,6 +40,7 @@ MapDrawer::~MapDrawer() {
         const std::lock_guard lock(m_mutex);
         m_isLeaving = true;
         m_request.reset();
+        m_keptRequests.clear();
     }
     m_changed.notify_all();
     m_thread.join();
@@ -53,6 +54,19 @@ void MapDrawer::Order(const MapState& state, const MapPaintStyle& style, unsigne
     m_changed.notify_all();
 }
 
+void MapDrawer::OrderKept(const MapState& state, const MapPaintStyle& style, unsigned order) {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_keptRequests.push_back({state, style, order});
+    }
+    m_changed.notify_all();
+}
+
+std::vector<std::unique_ptr<DrawnMap>> MapDrawer::TakeKept() {
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_keptDrawn, {});
+}
+
 std::unique_ptr<DrawnMap> MapDrawer::Take() {
     const std::lock_guard lock(m_mutex);
     return std::move(m_drawn);
@@ -60,18 +74,23 @@ std::unique_ptr<DrawnMap> MapDrawer::Take() {
 
 void MapDrawer::Wait() {
     std::unique_lock lock(m_mutex);
-    m_changed.wait(lock, [this] { return !m_isAtWork && !m_request; });
+    m_changed.wait(lock, [this] { return !m_isAtWork && !HasRequest(); });
 }
 
 void MapDrawer::Run() {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_changed.wait(lock, [this] { return m_isLeaving || m_request; });
+        m_changed.wait(lock, [this] { return m_isLeaving || HasRequest(); });
         if (m_isLeaving) {
             return;
         }
-        const Request request = std::move(*m_request);
-        m_request.reset();
+        const bool isKept = !m_request; // what is to be seen goes first
+        const Request request = isKept ? std::move(m_keptRequests.front()) : std::move(*m_request);
+        if (isKept) {
+            m_keptRequests.pop_front();
+        } else {
+            m_request.reset();
+        }
         m_isAtWork = true;
         lock.unlock();
         auto drawn = std::make_unique<DrawnMap>(request.state, request.order);
@@ -79,7 +98,11 @@ void MapDrawer::Run() {
             DrawInto(drawn->bitmap, m_painter, request.state, request.style);
         }
         lock.lock();
-        m_drawn = std::move(drawn);
+        if (isKept) {
+            m_keptDrawn.push_back(std::move(drawn));
+        } else {
+            m_drawn = std::move(drawn);
+        }
         m_isAtWork = false;
         m_changed.notify_all();
         lock.unlock();

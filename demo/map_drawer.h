@@ -6,11 +6,13 @@
 #include <windows.h>
 
 #include <condition_variable>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <thread>
+#include <vector>
 
 struct MapData;
 
@@ -39,6 +41,10 @@ public:
 
     /// Asks for a picture; an earlier order that nobody has begun is given up. `order` comes back with the picture.
     void Order(const MapState& state, const MapPaintStyle& style, unsigned order);
+    /// Asks for a picture that is drawn whatever is ordered later, one after the other.
+    void OrderKept(const MapState& state, const MapPaintStyle& style, unsigned order);
+    /// Those that are finished and have not been taken yet.
+    std::vector<std::unique_ptr<DrawnMap>> TakeKept();
     /// The newest finished picture that has not been taken yet, or null.
     std::unique_ptr<DrawnMap> Take();
     /// Returns when nothing is ordered or at work any more.
@@ -52,6 +58,7 @@ private:
     };
 
     void Run();
+    bool HasRequest() const { return m_request || !m_keptRequests.empty(); }
 
     MapPainter m_painter; ///< The thread's.
     std::function<void()> m_finished;
@@ -59,6 +66,8 @@ private:
     std::condition_variable m_changed;
     std::optional<Request> m_request;
     std::unique_ptr<DrawnMap> m_drawn;
+    std::deque<Request> m_keptRequests;
+    std::vector<std::unique_ptr<DrawnMap>> m_keptDrawn;
     bool m_isAtWork = false;
     bool m_isLeaving = false;
     std::thread m_thread; ///< Last: it uses all of the above.

@@ -112,6 +112,12 @@ void CMapWindow::TellWork(bool isAtWork) {
 LRESULT CMapWindow::OnPictureFinished(WPARAM, LPARAM) {
     TakePicture();
     Invalidate(FALSE);
+    for (const auto& drawn : m_drawer->TakeKept()) {
+        // A taker may open a window and so come back here.
+        if (const auto taker = m_takers.extract(drawn->order)) {
+            HandOver(drawn->bitmap, drawn->state, taker.mapped());
+        }
+    }
     return 0;
 }
 
@@ -143,18 +149,28 @@ void CMapWindow::OnPaint() {
     }
 }
 
-BOOL CMapWindow::MakePicture(CBitmap& picture) {
-    Finish();
-    CClientDC screen(this);
-    CRect client;
-    GetClientRect(client);
-    if (!IsFinished() || client.IsRectEmpty() ||
-        !picture.CreateCompatibleBitmap(&screen, client.Width(), client.Height())) {
-        return FALSE;
+void CMapWindow::RequestPicture(PictureTaker taker) {
+    if (IsFinished()) {
+        HandOver(m_drawn->bitmap, m_drawn->state, taker);
+        return;
     }
-    const BitmapDc source(screen.GetSafeHdc(), m_drawn->bitmap);
-    const BitmapDc target(screen.GetSafeHdc(), static_cast<HBITMAP>(picture.GetSafeHandle()));
-    return ::BitBlt(target.Get(), 0, 0, client.Width(), client.Height(), source.Get(), 0, 0, SRCCOPY);
+    m_takers[++m_keptOrder] = std::move(taker);
+    m_drawer->OrderKept(m_state, m_style, m_keptOrder);
+}
+
+void CMapWindow::HandOver(HBITMAP drawn, const MapState& state, const PictureTaker& taker) {
+    CClientDC screen(this);
+    CBitmap picture;
+    const int width = state.WindowWidth();
+    const int height = state.WindowHeight();
+    bool isMade =
+        drawn != nullptr && width > 0 && height > 0 && picture.CreateCompatibleBitmap(&screen, width, height) != FALSE;
+    if (isMade) {
+        const BitmapDc source(screen.GetSafeHdc(), drawn);
+        const BitmapDc target(screen.GetSafeHdc(), static_cast<HBITMAP>(picture.GetSafeHandle()));
+        isMade = ::BitBlt(target.Get(), 0, 0, width, height, source.Get(), 0, 0, SRCCOPY) != FALSE;
+    }
+    taker(isMade ? &picture : nullptr);
 }
 
 BOOL CMapWindow::OnEraseBkgnd(CDC*) { return TRUE; }

@@ -8,6 +8,7 @@
 #include "map_state.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 
 /// The window that shows the map. Drags with the left button, zooms with the wheel and by double click. State and data
@@ -37,8 +38,11 @@ public:
     void SetViewListener(std::function<void()> listener) { m_viewListener = std::move(listener); }
     /// Is told when a picture is being drawn, and when the one of the present state is there.
     void SetWorkListener(std::function<void(bool isAtWork)> listener) { m_workListener = std::move(listener); }
-    /// Copies the sharp picture of the map into a new bitmap. FALSE when there is no room for one.
-    BOOL MakePicture(CBitmap& picture);
+    /// Takes a sharp picture of the map; null when there was no room for one.
+    using PictureTaker = std::function<void(CBitmap* picture)>;
+    /// Hands over a picture of the map as it is now: at once where it is drawn, otherwise when it is. Whoever waits for
+    /// it here would keep the whole program waiting.
+    void RequestPicture(PictureTaker taker);
 
 protected:
     afx_msg void OnPaint();
@@ -58,13 +62,16 @@ private:
 
     void OrderPicture();
     void TakePicture();
+    void HandOver(HBITMAP drawn, const MapState& state, const PictureTaker& taker);
     void TellWork(bool isAtWork);
 
     MapState& m_state;
     const MapData& m_data;
     MapPaintStyle m_style;
-    std::unique_ptr<DrawnMap> m_drawn; ///< The last finished picture, perhaps of an earlier state.
-    unsigned m_order = 0;              ///< The last order that the drawer was given.
+    std::unique_ptr<DrawnMap> m_drawn;         ///< The last finished picture, perhaps of an earlier state.
+    unsigned m_order = 0;                      ///< The last order that the drawer was given.
+    std::map<unsigned, PictureTaker> m_takers; ///< Of the pictures that were ordered for them.
+    unsigned m_keptOrder = 0;
     unsigned m_shownVersion = 0;
     bool m_dragging = false;
     CPoint m_dragFrom;

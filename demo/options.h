@@ -6,10 +6,10 @@
 
 /// What the demo was asked for on its command line.
 struct DemoOptions {
-    std::wstring language;         ///< Empty: as at the last time, at first the system's.
-    std::wstring skin;             ///< Empty: as at the last time, at first as the system prefers.
-    std::wstring mode = L"browse"; ///< The working mode that is shown first.
-    int width = 0;                 ///< Outer size of the frame in screen pixels; 0: as at the last time.
+    std::wstring language; ///< Empty: as at the last time, at first the system's.
+    std::wstring skin;     ///< Empty: as at the last time, at first as the system prefers.
+    std::wstring mode;     ///< The working mode that is shown first; empty: the one that the user has chosen.
+    int width = 0;         ///< Outer size of the frame in screen pixels; 0: as at the last time.
     int height = 0;
     int scalePercent = 0;                 ///< 0: as the screen says.
     int category = -1;                    ///< Index of the category shown first; -1: the mode's own.

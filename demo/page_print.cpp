@@ -1,6 +1,6 @@
 #include "page_print.h"
 
-#include "page_layout.h"
+#include "print_pages.h"
 
 #include <commdlg.h>
 
@@ -43,10 +43,12 @@ PrintSheet SheetOf(HDC printer) {
 
 } // namespace
 
-bool DrawOnSheet(HDC printer, CBitmap& picture) {
+bool DrawOnSheet(HDC printer, CBitmap& picture) { return DrawOnSheet(printer, picture, SheetOf(printer)); }
+
+bool DrawOnSheet(HDC printer, CBitmap& picture, const PrintSheet& sheet) {
     BITMAP description = {};
     picture.GetBitmap(&description);
-    const WindowBox place = PlaceOnSheet(SheetOf(printer), kMargin, description.bmWidth, description.bmHeight);
+    const WindowBox place = PlaceOnSheet(sheet, kMargin, description.bmWidth, description.bmHeight);
     if (place.right <= place.left) {
         return false;
     }
@@ -66,12 +68,28 @@ bool DrawOnSheet(HDC printer, CBitmap& picture) {
                            SRCCOPY) > 0;
 }
 
-PrintOutcome PrintPicture(HWND owner, CBitmap& picture, PageShape shape, const std::wstring& title) {
+namespace {
+
+/// The pages that were chosen, one after the other; false: the printer refused one.
+bool PrintAll(HDC printer, const PrintPages& pages, int first, int last) {
+    for (int page = first; page <= last; ++page) {
+        if (::StartPage(printer) <= 0 || !pages.Draw(page, printer, SheetOf(printer)) || ::EndPage(printer) <= 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+PrintOutcome Print(HWND owner, const PrintPages& pages, const std::wstring& title) {
     PRINTDLGW dialog = {};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = owner;
-    ProposeShape(dialog, shape);
-    dialog.Flags = PD_RETURNDC | PD_NOPAGENUMS | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE;
+    ProposeShape(dialog, pages.Shape());
+    dialog.Flags = PD_RETURNDC | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE;
+    dialog.nMinPage = dialog.nFromPage = 1;
+    dialog.nMaxPage = dialog.nToPage = static_cast<WORD>(pages.Count());
     const BOOL isChosen = ::PrintDlgW(&dialog);
     const DWORD error = isChosen ? 0 : ::CommDlgExtendedError();
     ::GlobalFree(dialog.hDevMode);
@@ -87,7 +105,9 @@ PrintOutcome PrintPicture(HWND owner, CBitmap& picture, PageShape shape, const s
     if (!printer || ::StartDocW(printer.get(), &document) <= 0) {
         return PrintOutcome::Failed;
     }
-    if (::StartPage(printer.get()) > 0 && DrawOnSheet(printer.get(), picture) && ::EndPage(printer.get()) > 0 &&
+    const bool isPart = (dialog.Flags & PD_PAGENUMS) != 0;
+    if (PrintAll(printer.get(), pages, isPart ? dialog.nFromPage - 1 : 0,
+                 isPart ? dialog.nToPage - 1 : pages.Count() - 1) &&
         ::EndDoc(printer.get()) > 0) {
         return PrintOutcome::Printed;
     }

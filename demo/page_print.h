@@ -2,16 +2,20 @@
 
 #include <afxwin.h>
 
-#include "map_state.h"
+#include "page_layout.h"
 
 #include <string>
 
+class PrintPages;
+
 enum class PrintOutcome { Printed, Cancelled, Failed };
 
-/// Asks for the printer and its settings with the system's dialog, and prints the picture on one sheet with a margin
-/// around. `title` is what the printer's queue shows.
-PrintOutcome PrintPicture(HWND owner, CBitmap& picture, PageShape shape, const std::wstring& title);
+/// Asks for the printer, its settings and the pages with the system's dialog, and prints. `title` is what the printer's
+/// queue shows.
+PrintOutcome Print(HWND owner, const PrintPages& pages, const std::wstring& title);
 
 /// Draws the picture on the sheet that `printer` stands for, which may be a metafile's or a bitmap's context, too.
 /// False when there is no room, or the device refuses.
 bool DrawOnSheet(HDC printer, CBitmap& picture);
+/// The same on a sheet that is told.
+bool DrawOnSheet(HDC printer, CBitmap& picture, const PrintSheet& sheet);

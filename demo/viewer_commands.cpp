@@ -276,6 +276,8 @@ boost::shared_ptr<CMenuReactor> MakeModeReactor(MapState& state, ViewerHost& hos
                 host.CopyPage();
             } else if (what == L"save") {
                 host.SavePage();
+            } else if (what == L"preview") {
+                host.PreviewPage();
             } else if (what == L"print" && state.Mode() == MapMode::Print) {
                 host.PrintPage();
             } else if (what == L"print") { // first what will go on the page is shown
@@ -319,6 +321,7 @@ boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host) {
                                         : host.IsRibbonMinimized();
         });
     reactor->Serve(L"reload", [&host](const std::wstring&) { host.ReloadFiles(); });
+    reactor->Serve(L"options", [&host](const std::wstring&) { host.AskOptions(); });
     reactor->Serve(L"search", [&host](const std::wstring&) { host.ShowCommandSearch(); });
     reactor->Serve(L"keyboard", [&host](const std::wstring&) { host.TellKeyboard(); });
     reactor->Serve(L"about", [&host](const std::wstring&) { host.TellAbout(); });

@@ -50,6 +50,10 @@ public:
     virtual void CopyPage() = 0;
     virtual void SavePage() = 0;
     virtual void PrintPage() = 0;
+    /// Shows the pages as they will be printed.
+    virtual void PreviewPage() = 0;
+    /// Asks for what the user chooses once for all.
+    virtual void AskOptions() = 0;
     /// Asks for a file of points, lines and areas, and opens it.
     virtual void OpenMapFile() = 0;
     /// Puts a text on the clipboard.

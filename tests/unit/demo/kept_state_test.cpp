@@ -33,6 +33,8 @@ KeptViewer ChangedViewer() {
     viewer.iconStyle = L"";
     viewer.window = KeptWindow{{-1200, 30, 80, 900}, true};
     viewer.showsClassicBars = true;
+    viewer.startMode = L"print";
+    viewer.scalePercent = 150;
     viewer.hiddenToolbars = {L"\u5730\u56FE", L"Map"};
     return viewer;
 }
@@ -87,6 +89,8 @@ TEST(KeptState, AnUnusableEntryIsNamedAndAllOthersAreTaken) {
         {R"("language": "zh-CN")", R"("language": 7)", "language"},
         {R"("skin": "black")", R"("skin": null)", "skin"},
         {R"("classicBars": true)", R"("classicBars": "yes")", "classicBars"},
+        {R"("startMode": "print")", R"("startMode": "dream")", "startMode"},
+        {R"("scale": 150)", R"("scale": 20)", "scale"},
         {"-1200", "1e9", "window"},
         {"-1200", "100", "window"}, // its left side right of its right one
         {R"("hiddenToolbars": [)", R"("hiddenToolbars": [1,)", "hiddenToolbars"},

@@ -1,0 +1,204 @@
+#include "options_dialog.h"
+
+#include "viewer_text.h"
+
+#include "varnhold/language.h"
+
+#include <afxglobals.h>
+
+#include <algorithm>
+
+namespace {
+
+// Pixels at 96 DPI.
+constexpr int kMargin = 16;
+constexpr int kGap = 8;
+constexpr int kListWidth = 200;
+constexpr int kListDepth = 240; // with its lines
+constexpr int kLeastButton = 80;
+
+constexpr UINT kFirstList = 100;
+
+int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
+
+/// A line of a list: the value as the options have it, and its text. Those of the bars are known to their files.
+struct Line {
+    const wchar_t* value;
+    const char* text = nullptr;       ///< Of the viewer.
+    const wchar_t* keyword = nullptr; ///< Or of a command.
+};
+struct Row {
+    const char* name; ///< In the record.
+    const char* label;
+    std::vector<Line> lines;
+    std::wstring (*read)(const ViewerOptions& options);
+    void (*write)(ViewerOptions& options, const std::wstring& value);
+};
+
+template <std::wstring ViewerOptions::*field>
+std::wstring ReadText(const ViewerOptions& options) {
+    return options.*field;
+}
+template <std::wstring ViewerOptions::*field>
+void WriteText(ViewerOptions& options, const std::wstring& value) {
+    options.*field = value;
+}
+
+int ToInteger(const std::wstring& value) { return static_cast<int>(std::wcstol(value.c_str(), nullptr, 10)); }
+
+const std::vector<Row>& Rows() {
+    static const std::vector<Row> rows = {
+        {"language",
+         "OptionLanguage",
+         {{L"zh-CN", nullptr, L"LanguageChinese"},
+          {L"en", nullptr, L"LanguageEnglish"},
+          {L"he", nullptr, L"LanguageHebrew"}},
+         ReadText<&ViewerOptions::language>,
+         WriteText<&ViewerOptions::language>},
+        {"skin",
+         "OptionSkin",
+         {{L"silver", nullptr, L"SkinSilver"}, {L"black", nullptr, L"SkinBlack"}},
+         ReadText<&ViewerOptions::skin>,
+         WriteText<&ViewerOptions::skin>},
+        {"bars",
+         "OptionBars",
+         {{L"0", "BarsRibbon"}, {L"1", "BarsTabsAlone"}, {L"2", nullptr, L"ClassicBars"}},
+         [](const ViewerOptions& options) { return std::to_wstring(static_cast<int>(options.bars)); },
+         [](ViewerOptions& options, const std::wstring& value) {
+             options.bars = static_cast<ViewerOptions::Bars>(ToInteger(value));
+         }},
+        {"quickAccess",
+         "OptionQuickAccess",
+         {{L"0", "QuickAccessAbovePanels"}, {L"1", "QuickAccessBelowPanels"}},
+         [](const ViewerOptions& options) { return std::to_wstring(options.isQuickAccessBelow ? 1 : 0); },
+         [](ViewerOptions& options, const std::wstring& value) { options.isQuickAccessBelow = value == L"1"; }},
+        {"startMode",
+         "OptionStartMode",
+         {{L"browse", nullptr, L"ModeBrowse"}, {L"edit", nullptr, L"ModeEdit"}, {L"print", nullptr, L"ModePrint"}},
+         ReadText<&ViewerOptions::startMode>,
+         WriteText<&ViewerOptions::startMode>},
+        {"scale",
+         "OptionScale",
+         {{L"0", "ScaleOfScreen"}, {L"100"}, {L"125"}, {L"150"}, {L"200"}},
+         [](const ViewerOptions& options) { return std::to_wstring(options.scalePercent); },
+         [](ViewerOptions& options, const std::wstring& value) { options.scalePercent = ToInteger(value); }},
+    };
+    return rows;
+}
+
+std::wstring TextOf(const Line& line) {
+    return line.text != nullptr      ? ViewerText(line.text)
+           : line.keyword != nullptr ? BarText(line.keyword)
+                                     : std::wstring(line.value) + L" %";
+}
+
+} // namespace
+
+COptionsDialog::COptionsDialog(DialogLook look, ViewerOptions options)
+    : CDialogWindow(std::move(look)), m_options(std::move(options)) {}
+
+std::optional<ViewerOptions> COptionsDialog::Ask(CWnd& owner) {
+    constexpr DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+    if (!Make(owner, ViewerText("OptionsTitle"), style, CSize(1, 1)) || !MakeControls()) {
+        return std::nullopt;
+    }
+    const CSize size = Place(false);
+    CRect outer(CPoint(0, 0), size), around;
+    ::AdjustWindowRectEx(outer, style, FALSE, 0);
+    owner.GetWindowRect(around);
+    const CPoint middle = around.CenterPoint();
+    SetWindowPos(nullptr, middle.x - outer.Width() / 2, middle.y - outer.Height() / 2, outer.Width(), outer.Height(),
+                 SWP_NOZORDER);
+    Place(true);
+    ShowChosen();
+    m_lists[0].SetFocus();
+    std::optional<ViewerOptions> answer;
+    // The lists are read before the window goes.
+    if (Run([&] { answer = Chosen(); }) != IDOK) {
+        answer.reset();
+    }
+    return answer;
+}
+
+bool COptionsDialog::MakeControls() {
+    for (std::size_t row = 0; row < kRows; ++row) {
+        if (!AddLabel(m_labels[row], ViewerText(Rows()[row].label)) ||
+            !AddList(m_lists[row], kFirstList + static_cast<UINT>(row))) {
+            return false;
+        }
+        for (const Line& line : Rows()[row].lines) {
+            m_values[row].emplace_back(line.value);
+            m_lists[row].AddString(TextOf(line).c_str());
+        }
+    }
+    SetDefaultButton(IDOK);
+    return AddLabel(m_note, ViewerText("OptionsAtNextStart")) && AddButton(m_take, IDOK, ViewerText("ButtonOk")) &&
+           AddButton(m_cancel, IDCANCEL, ViewerText("ButtonCancel"));
+}
+
+/// The size that all of it needs.
+CSize COptionsDialog::Place(bool isMoving) {
+    CClientDC dc(this);
+    CFont* const before = dc.SelectObject(&afxGlobalData.fontRegular);
+    int labels = 0;
+    for (const Row& row : Rows()) {
+        labels = std::max(labels, static_cast<int>(dc.GetTextExtent(ViewerText(row.label).c_str()).cx));
+    }
+    const int note = static_cast<int>(dc.GetTextExtent(ViewerText("OptionsAtNextStart").c_str()).cx);
+    dc.SelectObject(before);
+    const int margin = Scaled(kMargin), gap = Scaled(kGap), height = RowHeight();
+    const int listLeft = margin + labels + 2 * gap;
+    const int right = std::max(listLeft + Scaled(kListWidth), margin + note);
+    int top = margin;
+    for (std::size_t row = 0; row < kRows; ++row) {
+        if (isMoving) {
+            m_labels[row].MoveWindow(margin, top, labels + gap, height);
+            m_lists[row].MoveWindow(listLeft, top, right - listLeft, Scaled(kListDepth));
+        }
+        top += height + gap;
+    }
+    if (isMoving) {
+        m_note.MoveWindow(margin, top, right - margin, height);
+    }
+    top += height + gap;
+    int buttonRight = right;
+    for (CButton* const button : {&m_cancel, &m_take}) {
+        const int width =
+            std::max(Scaled(kLeastButton), static_cast<int>(ButtonSize(static_cast<UINT>(button->GetDlgCtrlID())).cx));
+        if (isMoving) {
+            button->MoveWindow(buttonRight - width, top, width, height);
+        }
+        buttonRight -= width + gap;
+    }
+    return {right + margin, top + height + margin};
+}
+
+void COptionsDialog::ShowChosen() {
+    for (std::size_t row = 0; row < kRows; ++row) {
+        const auto& values = m_values[row];
+        const auto found = std::find(values.begin(), values.end(), Rows()[row].read(m_options));
+        m_lists[row].SetCurSel(found != values.end() ? static_cast<int>(found - values.begin()) : -1);
+    }
+}
+
+ViewerOptions COptionsDialog::Chosen() const {
+    ViewerOptions chosen = m_options;
+    for (std::size_t row = 0; row < kRows; ++row) {
+        const int line = m_lists[row].GetCurSel();
+        if (line >= 0) { // a value that no line has stays what it was
+            Rows()[row].write(chosen, m_values[row][static_cast<std::size_t>(line)]);
+        }
+    }
+    return chosen;
+}
+
+CDialogWindow::Description COptionsDialog::Describe() const {
+    Description description{"options", {}, {}};
+    for (std::size_t row = 0; row < kRows; ++row) {
+        description.parts.push_back(CDialogWindow::Describe(Rows()[row].name, m_lists[row]));
+        description.values.emplace_back(Rows()[row].name, m_lists[row].GetCurSel());
+    }
+    description.parts.push_back(CDialogWindow::Describe("take", m_take));
+    description.parts.push_back(CDialogWindow::Describe("cancel", m_cancel));
+    return description;
+}

@@ -1,0 +1,176 @@
+#!/usr/bin/python3
+"""The viewer's own windows: options, and the preview of what is printed.
+
+usage: dialogs_test.py BIN_DIR [TEST...]
+"""
+import os
+import sys
+import tempfile
+import unittest
+
+from viewer import Viewer
+
+BIN_DIR = ""
+
+
+class DialogViewer(Viewer):
+    def open_dialog(self, name, *keys):
+        self.key(*keys)
+        self.wait_for(lambda record: record.get("dialog", {}).get("name") == name)
+
+    def values(self):
+        return self.record["dialog"]["values"]
+
+    def click_part(self, name):
+        left, top, right, bottom = self.record["dialog"]["parts"][name]["onScreen"]
+        self.click((left + right) // 2, (top + bottom) // 2)
+
+    def is_enabled(self, name):
+        return self.record["dialog"]["parts"][name]["enabled"]
+
+    def wait_for_value(self, name, value):
+        self.wait_for(lambda record: record.get("dialog", {}).get("values", {}).get(name) == value)
+
+    def wait_for_closed(self):
+        self.wait_for(lambda record: "dialog" not in record)
+
+    def choose(self, name, line):
+        """The line of a list, by the keyboard."""
+        self.click_part(name)
+        self.key("Escape", "Home", *["Down"] * line)
+        self.wait_for_value(name, line)
+
+
+class PrintPreview(unittest.TestCase):
+    def open(self):
+        return DialogViewer(BIN_DIR, "--lang", "en", "--skin", "silver", "--mode", "edit")
+
+    def set_marks(self, viewer, count):
+        for number in range(1, count + 1):
+            viewer.click_command("MarkAdd")
+            viewer.wait_for(lambda record: len(record["map"]["marks"]) == number)
+
+    def test_pages_are_turned_by_buttons_and_keys(self):
+        with self.open() as viewer:
+            self.set_marks(viewer, 2)
+            viewer.open_dialog("preview", "ctrl+shift+v")
+            self.assertEqual((viewer.values()["page"], viewer.values()["pages"]), (0, 2))
+            self.assertFalse(viewer.is_enabled("previous"))
+            viewer.click_part("next")
+            viewer.wait_for_value("page", 1)
+            viewer.wait_for(lambda record: not record["dialog"]["parts"]["next"]["enabled"])
+            viewer.key("Prior")
+            viewer.wait_for_value("page", 0)
+            viewer.key("End")
+            viewer.wait_for_value("page", 1)
+            viewer.click_part("close")
+            viewer.wait_for_closed()
+
+    def test_the_list_of_marks_is_on_the_second_page(self):
+        with self.open() as viewer:
+            self.set_marks(viewer, 1)
+            viewer.open_dialog("preview", "ctrl+shift+v")
+            viewer.key("Next")
+            viewer.wait_for_value("page", 1)
+            left, top, right, bottom = viewer.record["dialog"]["parts"]["sheet"]["onScreen"]
+            sheet = viewer.settled_look().crop((left, top, right, bottom))
+            colors = dict((color, count) for count, color in sheet.getcolors(1 << 20))
+            self.assertGreater(colors[(255, 255, 255)], sheet.width * sheet.height // 3, "a white sheet")
+            self.assertGreater(sum(count for color, count in colors.items() if max(color) < 100), 50, "with letters")
+
+    def test_without_marks_the_map_is_the_only_page(self):
+        with self.open() as viewer:
+            viewer.open_dialog("preview", "ctrl+shift+v")
+            self.assertEqual(viewer.values()["pages"], 1)
+            self.assertFalse(viewer.is_enabled("next"))
+            viewer.key("Escape")
+            viewer.wait_for_closed()
+
+    def test_it_enlarges_by_buttons_keys_and_the_wheel_and_goes_back_to_the_whole_page(self):
+        with self.open() as viewer:
+            viewer.open_dialog("preview", "ctrl+shift+v")
+            whole = viewer.values()["zoom"]
+            self.assertFalse(viewer.is_enabled("whole"))
+            viewer.click_part("larger")
+            larger = viewer.wait_for(lambda record: record["dialog"]["values"]["zoom"] > whole)["dialog"]["values"]["zoom"]
+            viewer.key("plus")
+            viewer.wait_for(lambda record: record["dialog"]["values"]["zoom"] > larger)
+            viewer.wheel(*self.middle_of_sheet(viewer), -3)
+            viewer.wait_for(lambda record: record["dialog"]["values"]["scrollDown"] > 0)
+            viewer.click_part("whole")
+            viewer.wait_for_value("zoom", whole)
+            self.assertEqual(viewer.values()["scrollDown"], 0)
+
+    def middle_of_sheet(self, viewer):
+        left, top, right, bottom = viewer.record["dialog"]["parts"]["sheet"]["onScreen"]
+        return (left + right) // 2, (top + bottom) // 2
+
+    def test_the_application_menu_opens_it(self):
+        with self.open() as viewer:
+            viewer.open_dialog("preview", "alt+f", "Down", "Down", "Down", "Down", "Return")
+
+
+class Options(unittest.TestCase):
+    OPEN = ("alt+f", "Down", "Down", "Down", "Down", "Down", "Down", "Return")
+
+    def open(self, *arguments, **options):
+        return DialogViewer(BIN_DIR, "--lang", "en", "--skin", "silver", *arguments, **options)
+
+    def test_what_is_chosen_is_in_force_and_shown_the_next_time(self):
+        with self.open() as viewer:
+            viewer.open_dialog("options", *self.OPEN)
+            self.assertEqual(viewer.values(), {"language": 1, "skin": 0, "bars": 0, "quickAccess": 0, "startMode": 0, "scale": 0})
+            viewer.choose("skin", 1)
+            viewer.choose("quickAccess", 1)
+            viewer.key("Return")
+            viewer.wait_for(lambda record: record["skin"] == "black" and record["quickAccessBelow"] and "dialog" not in record)
+            viewer.open_dialog("options", *self.OPEN)
+            self.assertEqual((viewer.values()["skin"], viewer.values()["quickAccess"]), (1, 1))
+
+    def test_another_language_speaks_at_once(self):
+        with self.open() as viewer:
+            viewer.open_dialog("options", *self.OPEN)
+            viewer.choose("language", 0)
+            viewer.click_part("take")
+            viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "地图")
+
+    def test_the_bars_above_the_map_are_chosen(self):
+        with self.open() as viewer:
+            for line, check in ((2, lambda record: record["classicBars"]), (1, lambda record: record["ribbonMinimized"])):
+                if line == 2:
+                    viewer.open_dialog("options", *self.OPEN)
+                else:
+                    viewer.open_dialog("options", "alt+s", "o")
+                viewer.choose("bars", line)
+                viewer.key("Return")
+                viewer.wait_for(lambda record: check(record) and "dialog" not in record)
+
+    def test_escape_changes_nothing(self):
+        with self.open() as viewer:
+            viewer.open_dialog("options", *self.OPEN)
+            viewer.choose("skin", 1)
+            viewer.key("Escape")
+            viewer.wait_for_closed()
+            self.assertEqual(viewer.record["skin"], "silver")
+
+    def test_mode_and_scale_of_the_next_start(self):
+        with tempfile.TemporaryDirectory() as folder:
+            memory = ("--settings", os.path.join(folder, "settings"))
+            with self.open(memory=memory) as viewer:
+                height = viewer.record["ribbonOnScreen"][3] - viewer.record["ribbonOnScreen"][1]
+                viewer.open_dialog("options", *self.OPEN)
+                viewer.choose("startMode", 2)
+                viewer.choose("scale", 3)
+                viewer.key("Return")
+                viewer.wait_for_closed()
+                self.assertEqual(viewer.record["mode"], "browse")
+                self.assertEqual(viewer.leave(), 0)
+            with self.open(memory=memory) as viewer:
+                self.assertEqual(viewer.record["mode"], "print")
+                now = viewer.record["ribbonOnScreen"][3] - viewer.record["ribbonOnScreen"][1]
+                self.assertGreater(now, 1.3 * height)
+
+
+if __name__ == "__main__":
+    BIN_DIR = os.path.abspath(sys.argv.pop(1))
+    unittest.main(verbosity=2)
