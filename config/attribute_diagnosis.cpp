@@ -21,8 +21,13 @@ constexpr OtherName kOtherNames[] = {
     {L"PICTURE", AttributeUse::Icon},       {L"PIC", AttributeUse::Icon},           {L"COMMAND", AttributeUse::Command},
     {L"ACTION", AttributeUse::Command},     {L"ARGUMENT", AttributeUse::Parameter}, {L"SHORTCUT", AttributeUse::HotKey},
     {L"ACCELERATOR", AttributeUse::HotKey}, {L"HINT", AttributeUse::ToolTip},       {L"ID", AttributeUse::Keyword},
-    {L"KEY", AttributeUse::Keyword},        {L"KIND", AttributeUse::Type},
+    {L"KEY", AttributeUse::Keyword},        {L"KIND", AttributeUse::Type},          {L"TITLE", AttributeUse::Name},
 };
+
+/// The same in a toolbar file, which has no texts of the tables.
+AttributeUse UseInToolBars(AttributeUse use) {
+    return use == AttributeUse::Name ? AttributeUse::Prompt : use == AttributeUse::ToolTip ? AttributeUse::Hint : use;
+}
 
 std::optional<AttributeUse> UseMeantBy(const std::wstring& name) {
     for (const OtherName& other : kOtherNames) {
@@ -121,10 +126,10 @@ private:
         }
         const varnhold::TextPosition position = m_element.GetAttributePosition(written);
         std::wstring meant = ClosestWord(name, free);
-        if (const auto use = UseMeantBy(name); meant.empty() && use && !m_met.Has(*use)) {
-            const auto rule = std::ranges::find(m_rules, *use, &AttributeRule::use);
-            meant = rule == m_rules.end() ? std::wstring() : string2wstring(rule->name);
+        if (const auto use = UseMeantBy(name); meant.empty() && use) {
+            meant = FreeNameFor(*use);
         }
+        m_met.hasUnknown = m_met.hasUnknown || meant.empty();
         if (!meant.empty()) {
             m_met.attributes.push_back(
                 {FindRule(wstring2String(meant))->use, string2wstring(written.value), position, true});
@@ -132,6 +137,17 @@ private:
         m_diagnostics.Report("unknown-attribute", position,
                              Quoted(name) + L" is not an attribute of " + std::wstring(m_fileName) + L"; it is ignored",
                              DidYouMean(meant));
+    }
+
+    /// The attribute of this file that has the use, where the element has it not yet.
+    std::wstring FreeNameFor(AttributeUse use) const {
+        for (const AttributeUse one : {use, UseInToolBars(use)}) {
+            const auto rule = std::ranges::find(m_rules, one, &AttributeRule::use);
+            if (rule != m_rules.end()) {
+                return m_met.Has(one) ? std::wstring() : string2wstring(rule->name);
+            }
+        }
+        return {};
     }
 
     varnhold::XmlCursor& m_element;

@@ -116,6 +116,11 @@ constexpr DiagnosticCode kCodes[] = {
      "TYPE=\"BUTTON\"/></category></row>\n</ribbon>",
      "<ribbon>\n  <row KEYWORD=\"Main\"><category KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item "
      "KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
+    {"row-keyword", Warning, "The KEYWORD of a row is nearly QK_Rbbion_QAToolbar or StatusEx_btns.",
+     "The row counts as one of categories: what is in it is read as categories without panels.",
+     "Write the keyword exactly so, letter case included.", RibbonFile,
+     "<ribbon>\n  <row KEYWORD=\"StatusEx_Btns\"><item KEYWORD=\"Separator\"/></row>\n</ribbon>",
+     "<ribbon>\n  <row KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"Separator\"/></row>\n</ribbon>"},
     {"inherited-value", Note,
      "A panel or a sub-item does not set CMD, PARAM or PICDisPATH, and the one before it does.",
      "It has the value of the one before it.", "Write the value, or an empty one.", Panel,

@@ -20,18 +20,27 @@ bool MenuDiagnosis::HasAttributes(varnhold::XmlCursor& element, const wchar_t* e
 }
 
 void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) const {
-    const bool hasName = met.Has(AttributeUse::Name);
+    if (met.hasUnknown) {
+        return;
+    }
+    const MetAttribute* const name = met.Find(AttributeUse::Name);
+    const bool hasName = name != nullptr;
     const std::wstring_view keyword = met.ValueOf(AttributeUse::Keyword);
     const std::wstring meant =
         keyword.empty() ? ClosestWord(met.ValueOf(AttributeUse::Name), {L"SEPARATOR"}) : std::wstring();
+    if (!meant.empty() && name->isMeant) {
+        return; // one fault: the attribute's name
+    }
     if (!meant.empty()) {
         ReportAt(m_diagnostics, met, AttributeUse::Name, "missing-keyword",
                  L"this is no separator, and " + std::wstring(effect), DidYouMean(meant));
     } else if (keyword.empty() && (hasName || met.role == ElementRole::MenuItem)) {
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword", effect);
     } else if (!hasName && keyword != kRecentFilesKeyword) {
+        const bool isSeparator = !ClosestWord(keyword, {L"SEPARATOR"}).empty();
         m_diagnostics.Report("missing-caption", met.position, L"without MENUNAME no caption is shown here",
-                             L"add MENUNAME=\"\" behind the keyword");
+                             isSeparator ? L"a separator is MENUNAME=\"SEPARATOR\" without a keyword"
+                                         : L"add MENUNAME=\"\" behind the keyword");
     }
 }
 
@@ -45,16 +54,29 @@ void MenuDiagnosis::CheckLetter(const MetElement& met) const {
     }
 }
 
-void MenuDiagnosis::MeetGroup(varnhold::XmlCursor& element) const {
+void MenuDiagnosis::PassOver(varnhold::XmlCursor& element) const {
+    MetElement met = DescribeElement(element, MenuAttributeRules(), {}, Unreported());
+    met.isPassedOver = true;
+    m_diagnostics.Meet(met);
+    PassOverBelow(element, MenuAttributeRules(), m_diagnostics);
+}
+
+void MenuDiagnosis::MeetGroup(varnhold::XmlCursor& element) {
+    m_isStray = false;
     for (const varnhold::XmlAttributeView& written : element.ReadAttributes()) {
         for (const AttributeRule& rule : MenuAttributeRules()) {
             const bool isForPopups = rule.use == AttributeUse::Name || rule.use == AttributeUse::ShortKey;
             if (isForPopups && varnhold::EqualsIgnoringCase(rule.name, written.name)) {
-                m_diagnostics.Report(
-                    "wrong-depth", element.GetAttributePosition(written),
-                    L"what stands directly below the document element is a group: it has no caption, and "
-                    L"what is in it stands in the menu bar",
-                    L"put a group around the popup");
+                m_isStray = true;
+                if (!m_wasStray) {
+                    m_diagnostics.Report(
+                        "wrong-depth", element.GetAttributePosition(written),
+                        L"what stands directly below the document element is a group: it has no caption, and "
+                        L"what is in it stands in the menu bar",
+                        L"put a group around the popup, and around those beside it");
+                }
+                m_wasStray = true;
+                PassOver(element);
                 return;
             }
         }
@@ -62,7 +84,7 @@ void MenuDiagnosis::MeetGroup(varnhold::XmlCursor& element) const {
 }
 
 void MenuDiagnosis::MeetPopup(varnhold::XmlCursor& element, std::size_t level) const {
-    if (!HasAttributes(element, L"a popup without attributes has no caption")) {
+    if (m_isStray || !HasAttributes(element, L"a popup without attributes has no caption")) {
         return;
     }
     const MetElement met = Describe(element, ElementRole::Popup, level);
@@ -76,7 +98,7 @@ void MenuDiagnosis::MeetPopup(varnhold::XmlCursor& element, std::size_t level) c
 }
 
 void MenuDiagnosis::MeetItem(varnhold::XmlCursor& element, std::size_t level, bool isSeparator) const {
-    if (isSeparator || !HasAttributes(element, L"an item without attributes is left out")) {
+    if (m_isStray || isSeparator || !HasAttributes(element, L"an item without attributes is left out")) {
         return;
     }
     const MetElement met = Describe(element, ElementRole::MenuItem, level);

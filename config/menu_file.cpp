@@ -23,6 +23,7 @@ public:
             }
             WalkBelow(element,
                       [this](varnhold::XmlCursor& child, std::size_t depth) { return Read(child, depth - 1); });
+            m_diagnosis.LeaveGroup();
         } else {
             ReadItem(element, 0);
         }
@@ -66,7 +67,7 @@ private:
 
     MenuFileVisitor& m_visitor;
     const FileDiagnostics& m_diagnostics;
-    const MenuDiagnosis m_diagnosis;
+    MenuDiagnosis m_diagnosis;
     const CTranslationSection m_translations{kRibbonSection};
     MenuInfo m_info;
 };

@@ -72,6 +72,8 @@ struct MetElement {
     varnhold::TextPosition position;
     std::vector<MetAttribute> attributes;
     bool hasChildren = false;
+    /// It has an attribute that no name is near to, which was reported: what is missing may be that.
+    bool hasUnknown = false;
     /// It lies below an element that was reported, and is not what it was meant to be until that one is mended: what is
     /// said of it here is what is written, and nothing about it was reported. Its role counts for nothing.
     bool isPassedOver = false;

@@ -47,6 +47,9 @@ bool IsZero(std::wstring_view digits) {
     return !digits.empty() && digits.find_first_not_of(L'0') == digits.npos;
 }
 
+constexpr const wchar_t* kSeparatorFix =
+    L"a separator is GROUPBEFORE=\"Y\" as the last attribute of the element behind it";
+
 constexpr AttributeUse kInherited[] = {AttributeUse::Command, AttributeUse::Parameter, AttributeUse::DisabledIcon};
 constexpr const wchar_t* kInheritedNames[] = {L"CMD", L"PARAM", L"PICDisPATH"};
 
@@ -58,14 +61,22 @@ void RibbonDiagnosis::Meet(varnhold::XmlCursor& element, const RibbonTexts& info
         return;
     }
     m_silentBelow = kNowhere;
+    if (IsStray(element, depth)) {
+        MetElement stray = DescribeElement(element, RibbonAttributeRules(), {}, Unreported());
+        stray.isPassedOver = true;
+        m_diagnostics.Meet(stray);
+        return;
+    }
     MetElement met = DescribeElement(element, RibbonAttributeRules(), L"a ribbon file", m_diagnostics);
     met.role = RoleOf(depth, row);
     met.depth = depth;
     if (element.ReadAttributes().empty() && met.role != ElementRole::Row) {
-        m_diagnostics.Report("no-attributes", met.position, L"an element without attributes describes nothing");
+        m_diagnostics.Report("no-attributes", met.position, L"an element without attributes describes nothing",
+                             IsInPanel(met) ? kSeparatorFix : L"");
         m_silentBelow = met.depth;
     } else {
         Check(met, info);
+        met.isPassedOver = met.depth == m_strayDepth; // it was reported just now
         m_diagnostics.Meet(met);
     }
     if (m_silentBelow != kNowhere) {
@@ -73,13 +84,43 @@ void RibbonDiagnosis::Meet(varnhold::XmlCursor& element, const RibbonTexts& info
     }
 }
 
+/// Whether the element is of the kind of one beside it that was reported: a level is missing around both, or their row
+/// is of another kind than it says.
+bool RibbonDiagnosis::IsStray(varnhold::XmlCursor& element, std::size_t depth) {
+    if (depth < m_strayDepth) {
+        m_strayDepth = kNowhere;
+    }
+    if (depth != m_strayDepth || element.HasChildren()) {
+        return false;
+    }
+    const MetElement met = DescribeElement(element, RibbonAttributeRules(), {}, Unreported());
+    return met.Has(AttributeUse::Type) || !met.Has(AttributeUse::Name);
+}
+
+/// A row of another keyword has categories; one of nearly those two was meant to have something else.
+bool RibbonDiagnosis::CheckRow(const MetElement& met) {
+    const std::wstring_view keyword = met.ValueOf(AttributeUse::Keyword);
+    if (keyword == kQuickAccessRow || keyword == kStatusRow) {
+        return true;
+    }
+    const std::wstring meant = ClosestWord(keyword, {std::wstring(kQuickAccessRow), std::wstring(kStatusRow)});
+    if (!meant.empty()) {
+        ReportAt(m_diagnostics, met, AttributeUse::Keyword, "row-keyword",
+                 L"a row with the keyword " + Quoted(keyword) + L" has categories", DidYouMean(meant));
+    }
+    return meant.empty();
+}
+
 void RibbonDiagnosis::Check(const MetElement& met, const RibbonTexts& info) {
-    if (!CheckDepth(met)) {
+    if (!CheckDepth(met) || (met.role == ElementRole::Row && !CheckRow(met))) {
         m_silentBelow = met.depth;
         return;
     }
-    CheckKeyword(met);
-    CheckCaption(met);
+    const bool hasKind = !IsInPanel(met) || KindOf(met) != ElementKind::Unknown;
+    if (hasKind && !met.hasUnknown) {
+        CheckKeyword(met);
+        CheckCaption(met);
+    }
     CheckInheritance(met);
     if (IsInPanel(met)) {
         CheckKind(met);
@@ -113,7 +154,9 @@ bool RibbonDiagnosis::CheckDepth(const MetElement& met) {
     if (met.Has(AttributeUse::Type) && isAbovePanels) {
         ReportAt(m_diagnostics, met, AttributeUse::Type, "wrong-depth",
                  L"an element with a TYPE is read as a row, category or panel here and does not show",
-                 L"elements stand four levels below the document element: row, category, panel, element");
+                 L"elements stand four levels below the document element: row, category, panel, element" +
+                     std::wstring(isCategory ? L"; or give the row the KEYWORD StatusEx_btns" : L""));
+        m_strayDepth = met.depth;
         return false;
     }
     return true;
@@ -134,7 +177,12 @@ void RibbonDiagnosis::CheckCaption(const MetElement& met) {
     const bool isBareButton = IsInPanel(met) && kind == ElementKind::Button && met.ValueOf(AttributeUse::Icon).empty();
     const bool isBareLabel = IsInPanel(met) && kind == ElementKind::Label;
     if (met.role == ElementRole::Category || isBareButton || isBareLabel) {
-        m_diagnostics.Report("missing-caption", met.position, L"without NAME nothing is shown here", L"add NAME=\"\"");
+        const bool isChildless = met.role == ElementRole::Category && !met.hasChildren;
+        m_diagnostics.Report("missing-caption", met.position, L"without NAME nothing is shown here",
+                             isChildless
+                                 ? L"add NAME=\"\", or give the row the KEYWORD QK_Rbbion_QAToolbar or StatusEx_btns"
+                                 : L"add NAME=\"\"");
+        m_strayDepth = isChildless ? met.depth : m_strayDepth;
     }
 }
 
@@ -142,12 +190,15 @@ void RibbonDiagnosis::CheckKind(const MetElement& met) {
     const std::wstring_view type = met.ValueOf(AttributeUse::Type);
     const ElementKind kind = KindOf(met);
     if (type.empty()) {
-        ReportAt(m_diagnostics, met, AttributeUse::Type, "missing-type", L"without a TYPE nothing is shown");
+        if (!met.hasUnknown) {
+            ReportAt(m_diagnostics, met, AttributeUse::Type, "missing-type", L"without a TYPE nothing is shown");
+        }
         m_silentBelow = met.depth;
     } else if (kind == ElementKind::Unknown) {
         ReportAt(m_diagnostics, met, AttributeUse::Type, "unknown-type",
                  Quoted(type) + L" is no kind of ribbon element; nothing is shown",
-                 DidYouMean(ClosestWord(type, ElementTypes())));
+                 ClosestWord(type, {L"separator", L"separate"}).empty() ? DidYouMean(ClosestWord(type, ElementTypes()))
+                                                                        : kSeparatorFix);
         m_silentBelow = met.depth;
     } else if (kind == ElementKind::Group && (met.role == ElementRole::SubItem || !met.hasChildren)) {
         m_diagnostics.Report("empty-group", met.position,

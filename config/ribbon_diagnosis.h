@@ -25,6 +25,8 @@ public:
 
 private:
     void Check(const MetElement& met, const RibbonTexts& info);
+    bool IsStray(varnhold::XmlCursor& element, std::size_t depth);
+    bool CheckRow(const MetElement& met);
     bool CheckDepth(const MetElement& met);
     void CheckKeyword(const MetElement& met);
     void CheckCaption(const MetElement& met);
@@ -42,6 +44,8 @@ private:
 
     const FileDiagnostics& m_diagnostics;
     std::size_t m_silentBelow = kNowhere;
+    /// Where elements stand that belong to another depth, as long as their parent lasts: the first was reported.
+    std::size_t m_strayDepth = kNowhere;
     Setters m_panels;
     Setters m_subItems;
 };

@@ -69,6 +69,13 @@ ShortcutFault FindShortcutFault(std::wstring_view shortcut) {
     const auto key = KeyOf(pieces);
     const std::wstring readAs = L" is read as the key " + std::wstring(1, read->character);
     if (pieces.size() == 1 && shortcut.size() > 1) {
+        std::wstring joined(shortcut);
+        std::ranges::replace(joined, L'-', L'+');
+        if (joined != shortcut && FindShortcutFault(joined).text.empty()) {
+            return {Quoted(shortcut) + L" is read as the character " + std::wstring(1, read->character) +
+                        L": \"+\" alone joins keys",
+                    L"write \"" + joined + L"\""};
+        }
         return {Quoted(shortcut) + L" is read as the character " + std::wstring(1, read->character) +
                     L": only one letter, digit or sign counts",
                 L"take another shortcut; keys with a name cannot be written here"};

@@ -25,25 +25,42 @@ MetElement ToolBarDiagnosis::Describe(varnhold::XmlCursor& element, ElementRole 
     return met;
 }
 
-/// Whether the element can be what its depth says.
-bool ToolBarDiagnosis::CheckDepth(const MetElement& met) const {
-    const MetAttribute* const type = met.Find(AttributeUse::Type);
-    if (type) {
-        m_diagnostics.Report("wrong-depth", type->position,
-                             L"an element with a TYPE is read as a group or a toolbar here and does not show",
-                             L"buttons stand three levels below the document element: group, toolbar, button");
+void ToolBarDiagnosis::PassOver(varnhold::XmlCursor& element, MetElement met) const {
+    met.isPassedOver = true;
+    m_diagnostics.Meet(met);
+    PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);
+}
+
+/// Whether the element can be what its depth says: neither a button, which has a TYPE, nor a toolbar in a group's
+/// place. Where a level is missing, that is said of the first element alone.
+bool ToolBarDiagnosis::CheckDepth(varnhold::XmlCursor& element, const MetElement& met, bool& wasStray) const {
+    const bool isToolBar = met.role == ElementRole::ToolBarGroup && met.hasChildren && met.Has(AttributeUse::Prompt) &&
+                           !met.Has(AttributeUse::Keyword);
+    const MetAttribute* const telling = isToolBar ? met.Find(AttributeUse::Prompt) : met.Find(AttributeUse::Type);
+    if (telling == nullptr) {
+        return true;
     }
-    return !type;
+    if (!wasStray) {
+        m_diagnostics.Report(
+            "wrong-depth", telling->position,
+            isToolBar ? L"an element with a PROMPT is read as a group here, which has no title"
+                      : L"an element with a TYPE is read as a group or a toolbar here and does not show",
+            isToolBar ? L"put a group with a KEYWORD around the toolbar"
+                      : L"buttons stand three levels below the document element: group, toolbar, button");
+    }
+    wasStray = true;
+    PassOver(element, met);
+    return false;
 }
 
 void ToolBarDiagnosis::MeetGroup(varnhold::XmlCursor& element) {
+    m_wasStrayToolBar = false;
     const MetElement met = Describe(element, ElementRole::ToolBarGroup);
-    m_isInGroup = CheckDepth(met);
+    m_isInGroup = CheckDepth(element, met, m_wasStrayGroup);
     if (!m_isInGroup) {
-        PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);
         return;
     }
-    if (met.ValueOf(AttributeUse::Keyword).empty()) {
+    if (met.ValueOf(AttributeUse::Keyword).empty() && !met.hasUnknown) {
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword",
                  L"a group without a keyword has an empty name");
     }
@@ -55,12 +72,11 @@ void ToolBarDiagnosis::MeetToolBar(varnhold::XmlCursor& element) {
         return;
     }
     const MetElement met = Describe(element, ElementRole::ToolBar);
-    m_isInToolBar = CheckDepth(met);
+    m_isInToolBar = CheckDepth(element, met, m_wasStrayToolBar);
     if (!m_isInToolBar) {
-        PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);
         return;
     }
-    if (met.ValueOf(AttributeUse::Prompt).empty()) {
+    if (met.ValueOf(AttributeUse::Prompt).empty() && !met.hasUnknown) {
         ReportAt(m_diagnostics, met, AttributeUse::Prompt, "missing-caption", L"a toolbar without PROMPT has no title",
                  L"add PROMPT");
     }
@@ -73,12 +89,15 @@ void ToolBarDiagnosis::MeetButton(varnhold::XmlCursor& element) const {
     }
     MetElement met = Describe(element, ElementRole::ToolBarButton);
     if (element.ReadAttributes().empty()) {
-        m_diagnostics.Report("no-attributes", met.position, L"an element without attributes describes nothing");
+        m_diagnostics.Report("no-attributes", met.position, L"an element without attributes describes nothing",
+                             L"a separator is TYPE=\"separate\"");
         return;
     }
     const std::wstring_view type = met.ValueOf(AttributeUse::Type);
     const ToolBarItemKind kind = ToolBarItemKindOf(std::wstring(type));
-    if (type.empty()) {
+    if (type.empty() && met.hasUnknown) {
+        // One fault: the attribute's name.
+    } else if (type.empty()) {
         ReportAt(m_diagnostics, met, AttributeUse::Type, "missing-type", L"without a TYPE nothing is shown");
     } else if (kind == ToolBarItemKind::Unknown) {
         ReportAt(m_diagnostics, met, AttributeUse::Type, "unknown-type",
@@ -87,11 +106,11 @@ void ToolBarDiagnosis::MeetButton(varnhold::XmlCursor& element) const {
     }
     if (kind == ToolBarItemKind::Separator) {
         met.role = ElementRole::ToolBarSeparator;
-    } else if (met.ValueOf(AttributeUse::Keyword).empty() && kind != ToolBarItemKind::Unknown) {
+    } else if (met.ValueOf(AttributeUse::Keyword).empty() && kind != ToolBarItemKind::Unknown && !met.hasUnknown) {
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword",
                  L"a button without a keyword leads to no command");
     }
-    if (kind == ToolBarItemKind::Button && !met.ValueOf(AttributeUse::Keyword).empty() &&
+    if (kind == ToolBarItemKind::Button && !met.hasUnknown && !met.ValueOf(AttributeUse::Keyword).empty() &&
         met.ValueOf(AttributeUse::Prompt).empty() && met.ValueOf(AttributeUse::Icon).empty()) {
         m_diagnostics.Report("missing-caption", met.position, L"a button without PROMPT and PICPATH is blank",
                              L"add PICPATH, and PROMPT for its text");

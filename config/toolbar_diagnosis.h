@@ -14,9 +14,13 @@ public:
 
 private:
     MetElement Describe(varnhold::XmlCursor& element, ElementRole role) const;
-    bool CheckDepth(const MetElement& met) const;
+    bool CheckDepth(varnhold::XmlCursor& element, const MetElement& met, bool& wasStray) const;
+    void PassOver(varnhold::XmlCursor& element, MetElement met) const;
 
     const FileDiagnostics& m_diagnostics;
     bool m_isInGroup = true;
     bool m_isInToolBar = true;
+    /// What stands a level too high was reported once, of the file's groups and of the group's toolbars.
+    bool m_wasStrayGroup = false;
+    bool m_wasStrayToolBar = false;
 };

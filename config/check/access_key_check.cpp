@@ -7,10 +7,16 @@
 
 namespace {
 
+/// Whether an entity's name follows, as in "&nbsp;": that is no letter but a reference that nobody knows, and reported.
+bool IsUnknownEntity(std::wstring_view behind) {
+    const std::size_t end = behind.find_first_not_of(L"abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    return end != behind.npos && end > 1 && behind[end] == L';';
+}
+
 /// The letter that a menu text marks by "&", in small letters; 0 when it marks none. "&&" is a sign of its own.
 wchar_t MarkedLetter(std::wstring_view text) {
     for (std::size_t at = text.find(L'&'); at != text.npos && at + 1 < text.size(); at = text.find(L'&', at + 2)) {
-        if (text[at + 1] != L'&') {
+        if (text[at + 1] != L'&' && !IsUnknownEntity(text.substr(at + 1))) {
             return varnhold::LowerAscii(text[at + 1]);
         }
     }

@@ -23,12 +23,12 @@ struct Command {
 };
 
 bool IsNo(std::wstring_view value) { return varnhold::EqualsIgnoringCase(value, L"N"); }
-bool IsYes(std::wstring_view value) { return varnhold::EqualsIgnoringCase(value, L"Y"); }
 
 bool IsRegistered(const MetElement& element) {
     switch (element.role) {
     case ElementRole::Category:
-        return !IsYes(element.ValueOf(AttributeUse::CateTab));
+        // A value that is neither was reported, and means one of the two.
+        return element.ValueOf(AttributeUse::CateTab).empty() || IsNo(element.ValueOf(AttributeUse::CateTab));
     case ElementRole::RibbonElement:
     case ElementRole::SubItem:
     case ElementRole::ToolBarButton:
@@ -212,6 +212,7 @@ private:
         }
         compare(AttributeUse::Help, L"help", command.help);
         if (!differences.empty()) {
+            ++m_unclearKeywords;
             Report(gathered, command,
                    L"this keyword was registered before, and what is different here is lost: " + differences);
         }
@@ -256,7 +257,7 @@ private:
         for (const GatheredElement* const reference : references) {
             const std::wstring keyword(reference->element.ValueOf(AttributeUse::Keyword));
             if (m_isComplete && !m_commands.contains(keyword) && !m_meant.contains(keyword) &&
-                !m_passedOver.contains(keyword)) {
+                !m_passedOver.contains(keyword) && !IsExplained(keyword)) {
                 std::vector<std::wstring> known;
                 for (const auto& [name, command] : m_commands) {
                     known.push_back(name);
@@ -289,6 +290,15 @@ private:
         }
     }
 
+    /// Whether an element that has another's keyword, which was reported, may be the one of this keyword.
+    bool IsExplained(const std::wstring& keyword) {
+        if (m_explained.contains(keyword) || m_unclearKeywords == 0) {
+            return m_explained.contains(keyword);
+        }
+        --m_unclearKeywords;
+        return m_explained.insert(keyword).second;
+    }
+
     bool m_isComplete;
     const std::set<std::wstring>& m_meant;
     DiagnosticsSink& m_sink;
@@ -299,6 +309,9 @@ private:
     std::set<std::wstring> m_forQuickAccess;
     /// Of the commands of ribbon and menu files, by the icon's path in small letters.
     std::map<std::wstring, std::vector<std::wstring>> m_keywordsByIcon;
+    /// How many elements have the keyword of another command, and so perhaps not their own.
+    std::size_t m_unclearKeywords = 0;
+    std::set<std::wstring> m_explained;
     std::map<std::wstring, const GatheredElement*> m_shortcuts;
     std::vector<const GatheredElement*> m_quickAccess;
     std::vector<const GatheredElement*> m_statusButtons;

@@ -80,7 +80,9 @@ void Sort(std::vector<Diagnostic>& findings, const std::vector<FileToRead>& file
 /// Whether a keyword may have been meant that nobody knows: its text would seem unused.
 bool LostKeywords(const std::vector<Diagnostic>& findings) {
     return std::ranges::any_of(findings, [](const Diagnostic& finding) {
-        return finding.code == "missing-keyword" || finding.code == "stray-text";
+        const bool isUnclear = finding.code == "unknown-attribute" && finding.fix.empty();
+        return isUnclear || finding.code == "missing-keyword" || finding.code == "stray-text" ||
+               finding.code == "empty-file";
     });
 }
 

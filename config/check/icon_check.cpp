@@ -47,6 +47,11 @@ std::vector<int> SidesOf(const MetElement& element) {
     return size == kSmall ? std::vector<int>{kSmall} : std::vector<int>{kSmall, kLarge};
 }
 
+std::wstring FolderOf(const std::wstring& path) {
+    const std::size_t slash = path.rfind(L'\\');
+    return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
+}
+
 enum class IconState { Fine, NoIcon, TooLarge, TooSmall };
 
 IconFileReader ReaderOf(std::ifstream& stream) {
@@ -106,11 +111,26 @@ public:
             }
         }
         if (!missing.empty()) {
-            ReportMissing(gathered, *icon, missing);
+            m_missing.push_back({&gathered, icon, std::move(missing)});
+        } else {
+            m_folders.insert(icon->value.substr(0, icon->value.rfind(L'\\') + 1));
+        }
+    }
+
+    /// When all are taken: what is missing may lie beside others.
+    void ReportMissing() {
+        for (const Missing& one : m_missing) {
+            ReportMissing(*one.element, *one.icon, one.paths);
         }
     }
 
 private:
+    struct Missing {
+        const GatheredElement* element;
+        const MetAttribute* icon;
+        std::vector<std::wstring> paths;
+    };
+
     void Report(const GatheredElement& gathered, const MetAttribute& icon, std::string_view code, std::wstring text,
                 std::wstring fix) const {
         ReportTogether(m_sink, *gathered.file, icon.position, code, std::move(text), std::move(fix));
@@ -163,31 +183,63 @@ private:
     }
 
     void ReportMissing(const GatheredElement& gathered, const MetAttribute& icon,
-                       const std::vector<std::wstring>& missing) const {
+                       const std::vector<std::wstring>& missing) {
+        const std::wstring folder = FolderOf(missing.front());
+        // Without the folder all icons in it are missing: that is one fault.
+        if (m_files.FilesIn(folder).empty() && !m_missingFolders.insert(FoldedPath(folder)).second) {
+            return;
+        }
         std::wstring text;
         for (const std::wstring& path : missing) {
             text += (text.empty() ? L"" : L" and ") + Quoted(path);
         }
         text += missing.size() == 1 ? L" is not there" : L" are not there";
+        text += m_files.FilesIn(folder).empty() ? L", nor is anything else in that folder" : L"";
         Report(gathered, icon, "missing-icon", std::move(text), Suggestion(icon.value, missing.front()));
     }
 
-    /// A file of nearly that name beside the one that is missing, as it would be written.
+    bool IsThere(const std::wstring& path) const { return m_files.Find(IconFileBelow({}, path, kSmall)).has_value(); }
+
+    /// How the path should be written: a file of nearly that name beside the one that is missing, or what people write
+    /// in its place.
     std::wstring Suggestion(const std::wstring& written, const std::wstring& missing) const {
         const std::size_t slash = missing.rfind(L'\\');
         const std::wstring folder = missing.substr(0, slash);
         const std::wstring meant = ClosestWord(missing.substr(slash + 1), m_files.FilesIn(folder));
-        if (meant.empty()) {
-            return {};
+        const std::size_t name = written.rfind(L'\\') + 1; // npos + 1 is 0
+        if (!meant.empty()) {
+            return DidYouMean(written.substr(0, name) + meant);
         }
-        const std::size_t name = written.rfind(L'\\');
-        return name == std::wstring::npos ? DidYouMean(meant) : DidYouMean(written.substr(0, name + 1) + meant);
+        const std::size_t first = written.find_first_not_of(L' ');
+        const std::wstring trimmed =
+            first == std::wstring::npos ? written : written.substr(first, written.find_last_not_of(L' ') + 1 - first);
+        std::vector<std::wstring> others = {trimmed, written + L".ico", WithoutSizeFolder(written)};
+        for (const std::wstring& known : m_folders) {
+            others.push_back(known + written.substr(name));
+        }
+        const auto found =
+            std::ranges::find_if(others, [this](const std::wstring& path) { return !path.empty() && IsThere(path); });
+        return found == others.end() ? std::wstring() : DidYouMean(*found);
+    }
+
+    /// The size's folder is put in by the program.
+    static std::wstring WithoutSizeFolder(std::wstring path) {
+        for (const std::wstring_view folder : {L"\\16\\", L"\\32\\"}) {
+            if (const std::size_t at = path.rfind(folder); at != std::wstring::npos) {
+                return path.erase(at, folder.size() - 1);
+            }
+        }
+        return {};
     }
 
     const InstallationFiles& m_files;
     DiagnosticsSink& m_sink;
     /// Paths that an element named before.
     std::set<std::wstring> m_seen;
+    /// Of the icons that were found, with the closing backslash.
+    std::set<std::wstring> m_folders;
+    std::set<std::wstring> m_missingFolders;
+    std::vector<Missing> m_missing;
 };
 
 } // namespace
@@ -197,6 +249,7 @@ void CheckIcons(std::span<const GatheredElement> elements, const InstallationFil
     for (const GatheredElement& gathered : elements) {
         check.Take(gathered);
     }
+    check.ReportMissing();
 }
 
 bool CanLoadIcon(const InstallationFiles& files, const std::wstring& picPath, int side) {

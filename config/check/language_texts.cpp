@@ -16,6 +16,8 @@ namespace {
 using varnhold::TextPosition;
 using varnhold::TranslationProblem;
 
+constexpr std::wstring_view kToolTipSuffix = L".tooltip";
+
 std::string_view CodeOf(TranslationProblem problem) {
     switch (problem) {
     case TranslationProblem::Unreadable:
@@ -26,6 +28,8 @@ std::string_view CodeOf(TranslationProblem problem) {
         return "xml-encoding";
     case TranslationProblem::Syntax:
         return "xml-syntax";
+    case TranslationProblem::UnknownReference:
+        return "xml-reference";
     default:
         return "bad-table";
     }
@@ -59,14 +63,30 @@ public:
             diagnostics.Report("untranslated-text", position, L"the unit " + Quoted(key) + L" has no target",
                                L"translate it");
         }
-        if (unit.section == kRibbonSection) {
-            m_texts.commands[key] = {unit.text, m_file, position};
+        if (unit.section != kRibbonSection) {
+            m_texts.otherSections.try_emplace(string2wstring(unit.section), PlacedText{unit.text, m_file, position});
+            return;
+        }
+        m_texts.commands[key] = {unit.text, m_file, position};
+        if (unit.text.empty() && !key.ends_with(kToolTipSuffix)) {
+            diagnostics.Report("bad-table", position, L"the unit " + Quoted(key) + L" has no text",
+                               L"write it into source or target");
         }
     }
 
+    void VisitFaultyUnit(std::string_view section, const std::string& key) override {
+        if (section == kRibbonSection) {
+            m_texts.leftOut.insert(string2wstring(key));
+        }
+    }
+    bool IsThorough() const override { return true; }
+
     void VisitProblem(TranslationProblem problem, TextPosition position, const std::wstring& text) override {
         const TextPosition place{std::max<std::size_t>(1, position.line), std::max<std::size_t>(1, position.column)};
-        FileDiagnostics(m_file, m_sink).Report(CodeOf(problem), place, text);
+        m_texts.hasLostSection = m_texts.hasLostSection || problem == TranslationProblem::FileWithoutId;
+        FileDiagnostics(m_file, m_sink)
+            .Report(CodeOf(problem), place, text,
+                    problem == TranslationProblem::UnknownReference ? L"write &amp; for the sign itself" : L"");
     }
 
 private:
@@ -92,7 +112,8 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
         if (!only.empty() && !varnhold::EqualsIgnoringCase(code, only)) {
             continue;
         }
-        LanguageTexts texts{code, true, {}};
+        LanguageTexts texts;
+        texts.code = code;
         TextReader reader(texts, sink);
         bool isLanguage = false;
         for (const std::wstring& name : files.FilesIn(L"lang\\" + code)) {

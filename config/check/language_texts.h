@@ -4,6 +4,7 @@
 #include "config/diagnostics.h"
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -19,8 +20,14 @@ struct LanguageTexts {
     std::wstring code;
     /// False: one of its tables is broken, and then the language is not used.
     bool isUsable = true;
+    /// A section of it is lost, which was reported: what is missing may be there.
+    bool hasLostSection = false;
     /// Of the section of commands, by key.
     std::map<std::wstring, PlacedText> commands;
+    /// Keys of units that were left out, which was reported.
+    std::set<std::wstring> leftOut;
+    /// The first text of each other section, by the section's name.
+    std::map<std::wstring, PlacedText> otherSections;
 };
 
 /// Reads the tables of all languages, or of `only` one, and reports what is wrong with them by themselves: xml-syntax

@@ -64,7 +64,9 @@ std::optional<Room> RoomOf(const MetElement& element) {
     switch (kind) {
     case ElementKind::Edit:
         if (const std::optional<int> field = FieldWidth(element)) {
-            return Room{std::max(0, *field - 2 * kFieldMargin), L"a field of WIDTH " + std::to_wstring(*field),
+            return Room{std::max(0, *field - 2 * kFieldMargin),
+                        L"a field of WIDTH " + std::to_wstring(*field) + L" has room for " +
+                            std::to_wstring(std::max(0, *field - 2 * kFieldMargin)),
                         AttributeUse::Width};
         }
         return std::nullopt;
@@ -73,7 +75,7 @@ std::optional<Room> RoomOf(const MetElement& element) {
     case ElementKind::Slider:
         return std::nullopt;
     default:
-        return Room{kWindow, L"a window of " + std::to_wstring(kWindow), std::nullopt};
+        return Room{kWindow, L"not even a window of " + std::to_wstring(kWindow) + L" has room for it", std::nullopt};
     }
 }
 
@@ -150,8 +152,8 @@ private:
             return; // two elements of one keyword
         }
         ReportTogether(m_sink, tooLong.text->file, tooLong.text->position, "long-text",
-                       L"this text is about " + std::to_wstring(tooLong.width) + L" pixels wide at 100 %, and " +
-                           room.place + L" has room for " + std::to_wstring(room.width),
+                       L"this text is about " + std::to_wstring(tooLong.width) + L" pixels wide at 100 %; " +
+                           room.place,
                        room.setBy ? L"shorten it, or give the field a larger WIDTH" : L"shorten it",
                        {PlaceOf(gathered, room.setBy.value_or(AttributeUse::Name), L"it stands here")});
     }

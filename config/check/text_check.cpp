@@ -9,6 +9,7 @@
 namespace {
 
 constexpr std::wstring_view kToolTipSuffix = L".tooltip";
+constexpr std::wstring_view kSection = L"RibbonBarCfg";
 
 /// What all elements with one keyword ask for.
 struct Asked {
@@ -42,6 +43,7 @@ public:
             return;
         }
         m_keywords.insert(keyword);
+        m_byFile[gathered.file].insert(keyword);
         if (element.isPassedOver) {
             m_ofRibbon.insert(keyword);
             return;
@@ -67,19 +69,23 @@ public:
     }
 
     void ReportMissing() {
+        FindLostLanguages();
         for (const std::wstring& keyword : m_inOrder) {
             const Asked& asked = m_asked.at(keyword);
             if (!m_isCommand[keyword]) {
                 continue; // a status-bar button that stands for nothing is not made
             }
             std::wstring text;
+            std::vector<const LanguageTexts*> lacking;
             for (const LanguageTexts& language : m_languages) {
-                const std::wstring what = MissingIn(language, keyword, asked);
+                const std::wstring what =
+                    m_lost.contains(language.code) ? std::wstring() : MissingIn(language, keyword, asked);
                 if (!what.empty()) {
                     text += (text.empty() ? L"" : L"; ") + language.code + L" has no " + what;
+                    lacking.push_back(&language);
                 }
             }
-            if (!text.empty()) {
+            if (!text.empty() && !ReportInTable(keyword, lacking, text)) {
                 Report(keyword, asked, text);
             }
         }
@@ -96,6 +102,15 @@ public:
                 }
             }
         }
+        constexpr std::size_t few = 8;
+        if (m_ofRibbon.empty() && unused.size() > few) {
+            const PlacedText& first = *unused.begin()->second.front();
+            ReportTogether(m_sink, first.file, first.position, "unused-text",
+                           L"no element of the configuration has the keywords of " + std::to_wstring(unused.size()) +
+                               L" texts, and no ribbon file has any element",
+                           L"put the ribbon file to the others");
+            return;
+        }
         for (const auto& [keyword, texts] : unused) {
             std::vector<RelatedPlace> others;
             for (std::size_t i = 1; i < texts.size(); ++i) {
@@ -110,12 +125,77 @@ public:
     const std::set<std::wstring>& Meant() const { return m_meant; }
 
 private:
+    /// A language that has none of the texts lacks the section, not each of them.
+    void FindLostLanguages() {
+        constexpr std::size_t few = 3;
+        if (m_inOrder.size() < few) {
+            return;
+        }
+        for (const LanguageTexts& language : m_languages) {
+            const bool hasSome = std::ranges::any_of(m_inOrder, [&](const std::wstring& keyword) {
+                return MissingIn(language, keyword, m_asked.at(keyword)).empty();
+            });
+            if (!hasSome) {
+                m_lost.insert(language.code);
+                ReportLost(language);
+            }
+        }
+    }
+
+    void ReportLost(const LanguageTexts& language) {
+        if (language.hasLostSection) {
+            return; // and this was said
+        }
+        for (const auto& [section, text] : language.otherSections) {
+            if (!ClosestWord(section, {std::wstring(kSection)}).empty()) {
+                ReportTogether(m_sink, text.file, text.position, "bad-table",
+                               L"the section " + Quoted(section) +
+                                   L" of this text is not the one of commands: they have no text in " + language.code,
+                               DidYouMean(std::wstring(kSection)));
+                return;
+            }
+        }
+        const Asked& asked = m_asked.at(m_inOrder.front());
+        ReportTogether(m_sink, *asked.first->file, PlaceOf(asked.first->element, AttributeUse::Keyword), "missing-text",
+                       language.code + L" has none of the texts that are asked for here and below",
+                       L"barcheck DIR --extract " + language.code + L" writes the table");
+    }
+
+    /// Where other languages have the text, and this one has it under nearly that key, the key is wrong.
+    bool ReportInTable(const std::wstring& keyword, const std::vector<const LanguageTexts*>& lacking,
+                       const std::wstring& text) {
+        if (lacking.size() != 1 || m_languages.size() - m_lost.size() < 2) {
+            return false;
+        }
+        std::vector<std::wstring> unused;
+        for (const auto& [key, placed] : lacking.front()->commands) {
+            if (!m_keywords.contains(KeywordOf(key)) && !m_keywords.contains(key)) {
+                unused.push_back(KeywordOf(key));
+            }
+        }
+        const std::wstring written = ClosestWord(keyword, unused);
+        const auto& commands = lacking.front()->commands;
+        const auto found = std::ranges::find_if(
+            commands, [&written](const auto& entry) { return !written.empty() && KeywordOf(entry.first) == written; });
+        if (found == commands.end()) {
+            return false;
+        }
+        m_meant.insert(written);
+        ReportTogether(m_sink, found->second.file, found->second.position, "missing-text",
+                       L"no element has the keyword " + Quoted(written) + L", and for " + Quoted(keyword) + L" " + text,
+                       DidYouMean(keyword));
+        return true;
+    }
+
     static std::wstring MissingIn(const LanguageTexts& language, const std::wstring& keyword, const Asked& asked) {
         if (!language.isUsable) {
             return {};
         }
-        const bool lacksName = asked.name && !language.commands.contains(keyword);
-        const bool lacksToolTip = asked.toolTip && !language.commands.contains(keyword + std::wstring(kToolTipSuffix));
+        const auto lacks = [&language](const std::wstring& key) {
+            return !language.commands.contains(key) && !language.leftOut.contains(key);
+        };
+        const bool lacksName = asked.name && lacks(keyword);
+        const bool lacksToolTip = asked.toolTip && lacks(keyword + std::wstring(kToolTipSuffix));
         if (lacksName && lacksToolTip) {
             return L"name and no tooltip";
         }
@@ -123,7 +203,10 @@ private:
     }
 
     void Report(const std::wstring& keyword, const Asked& asked, const std::wstring& text) {
-        const std::wstring meant = ClosestWord(keyword, DanglingKeywords());
+        std::wstring meant = ClosestWord(keyword, DanglingKeywords());
+        if (meant.empty()) {
+            meant = ClosestWord(keyword, KnownElsewhere(asked.first->file));
+        }
         if (!meant.empty()) {
             m_meant.insert(meant);
         }
@@ -131,6 +214,20 @@ private:
                        L"for " + Quoted(keyword) + L" " + text,
                        meant.empty() ? L"add what is missing to section RibbonBarCfg of the tables"
                                      : DidYouMean(meant));
+    }
+
+    /// Keywords with texts that no element of the file has: those of other files.
+    std::vector<std::wstring> KnownElsewhere(const std::wstring* file) const {
+        std::set<std::wstring> known;
+        for (const LanguageTexts& language : m_languages) {
+            for (const auto& [key, text] : language.commands) {
+                known.insert(KeywordOf(key));
+            }
+        }
+        const std::set<std::wstring>& own = m_byFile.at(file);
+        std::vector<std::wstring> elsewhere;
+        std::ranges::set_difference(known, own, std::back_inserter(elsewhere));
+        return elsewhere;
     }
 
     /// Keywords that somebody waits for: the tables have texts for them that no element uses, or a quick access item or
@@ -154,6 +251,9 @@ private:
     std::span<const LanguageTexts> m_languages;
     DiagnosticsSink& m_sink;
     std::set<std::wstring> m_keywords;
+    std::map<const std::wstring*, std::set<std::wstring>> m_byFile;
+    /// Languages without any of the texts.
+    std::set<std::wstring> m_lost;
     std::map<std::wstring, Asked> m_asked;
     std::vector<std::wstring> m_inOrder;
     std::set<std::wstring> m_references;

@@ -146,6 +146,14 @@ bool XliffReader::ReadText(std::string text, const std::wstring& language) {
         return false;
     }
     CheckLanguages(root, language);
+    if (m_visitor.IsThorough()) {
+        for (const XmlOddity& oddity : m_tree->FindOddities()) {
+            if (oddity.kind == XmlOddityKind::UnknownReference) {
+                m_visitor.VisitProblem(TranslationProblem::UnknownReference, oddity.position,
+                                       L"\"&\" begins no reference that is known; it stays as it is");
+            }
+        }
+    }
     const bool preserve = PreservesBlanks(root, false);
     for (const pugi::xml_node& child : root) {
         if (LocalName(child) == "file") {
@@ -226,6 +234,7 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, const char
     if (parts.empty()) {
         Report(TranslationProblem::UnitWithoutSegment,
                L"the unit \"" + string2wstring(read.key) + L"\" has no segment; it is skipped", unit);
+        m_visitor.VisitFaultyUnit(section, read.key);
         return;
     }
     std::stable_sort(parts.begin(), parts.end(), [](const auto& a, const auto& b) { return a.first < b.first; });

@@ -119,6 +119,28 @@ std::size_t SkipUnreplaced(std::string_view text, std::size_t at) {
 
 } // namespace
 
+std::vector<OpenTag> FindOpenTags(std::string_view document) {
+    std::vector<OpenTag> open;
+    for (std::size_t at = document.find('<'); at < document.size(); at = document.find('<', at)) {
+        const std::size_t start = at;
+        at = SkipUnreplaced(document, start);
+        if (at != start) {
+            continue;
+        }
+        at = SkipMarkup(document, start);
+        const std::string_view tag = document.substr(start, at - start);
+        if (tag.starts_with("</")) {
+            if (!open.empty()) {
+                open.pop_back();
+            }
+        } else if (!tag.ends_with("/>")) {
+            const std::string_view rest = tag.substr(1);
+            open.push_back({rest.substr(0, std::min(rest.find_first_of("/> \t\r\n"), rest.size())), start});
+        }
+    }
+    return open;
+}
+
 std::vector<std::size_t> FindUnknownReferences(std::string_view document) {
     std::vector<std::size_t> found;
     std::size_t candidate = document.find('&');

@@ -15,4 +15,13 @@ std::size_t FindReferenceToNoCharacter(std::string_view document);
 /// places of the same kind of document.
 std::vector<std::size_t> FindUnknownReferences(std::string_view document);
 
+/// An element whose end tag is still to come.
+struct OpenTag {
+    std::string_view name;
+    std::size_t offset; ///< of its "<"
+};
+
+/// The elements that are open at the end of a piece of a document that is well-formed up to there, from the outside in.
+std::vector<OpenTag> FindOpenTags(std::string_view document);
+
 } // namespace varnhold

@@ -3,10 +3,12 @@
 #include "src/encoding.h"
 #include "src/unicode.h"
 #include "src/xml_references.h"
+#include "varnhold/strings.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstring>
+#include <functional>
 #include <iterator>
 #include <utility>
 
@@ -43,8 +45,6 @@ constexpr StatusText kStatusTexts[] = {
     {pugi::status_bad_start_element, L"a start tag is malformed or not closed"},
     {pugi::status_bad_attribute, L"an attribute is malformed or not closed"},
     {pugi::status_bad_end_element, L"an end tag is malformed or not closed"},
-    {pugi::status_end_element_mismatch,
-     L"a start tag and an end tag do not belong together, or one of them is missing"},
 };
 
 const wchar_t* DescribeStatus(pugi::xml_parse_status status) {
@@ -65,6 +65,24 @@ std::size_t StartOfTag(std::string_view text, std::size_t offset) {
     const bool isInTag = offset >= endTag.size() && offset <= text.size() &&
                          text.substr(offset - endTag.size(), endTag.size()) == endTag;
     return isInTag ? offset - endTag.size() : offset;
+}
+
+/// What does not fit at an end tag, or at the text's end: which element is open there, and where it began.
+std::wstring DescribeMismatch(std::string_view text, std::size_t offset,
+                              const std::function<TextPosition(std::size_t)>& positionOf) {
+    const std::vector<OpenTag> open = FindOpenTags(text.substr(0, offset));
+    if (open.empty()) {
+        return L"this end tag ends no element";
+    }
+    const std::wstring began = L"<" + string2wstring(std::string(open.back().name)) + L"> of line " +
+                               std::to_wstring(positionOf(open.back().offset).line);
+    if (!text.substr(offset).starts_with("</")) {
+        return began + L" is not ended";
+    }
+    constexpr std::string_view ends = "> \t\r\n";
+    const std::string_view rest = text.substr(offset + 2);
+    return L"</" + string2wstring(std::string(rest.substr(0, std::min(rest.find_first_of(ends), rest.size())))) +
+           L"> does not end " + began;
 }
 
 bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }
@@ -111,8 +129,12 @@ bool XmlTree::ParseText(BlankText blanks, XmlFailure& failure) {
     const pugi::xml_parse_result result =
         m_document.load_buffer_inplace(m_buffer.get(), m_text.size() + 1, options, pugi::encoding_utf8);
     if (!result) {
-        failure = {XmlError::Syntax, DescribeStatus(result.status),
-                   GetPosition(StartOfTag(m_text, static_cast<std::size_t>(result.offset)))};
+        const std::size_t offset = StartOfTag(m_text, static_cast<std::size_t>(result.offset));
+        failure = {XmlError::Syntax,
+                   result.status == pugi::status_end_element_mismatch
+                       ? DescribeMismatch(m_text, offset, [this](std::size_t at) { return GetPosition(at); })
+                       : std::wstring(DescribeStatus(result.status)),
+                   GetPosition(offset)};
         return false;
     }
     return CheckTopLevel(failure) && CheckDepth(failure) && CheckReferences(failure);

@@ -57,19 +57,25 @@ private:
     TemporaryDirectory m_directory;
 };
 
-/// Writes an icon for every path that the message of a missing one quotes.
+/// Writes an icon for every path that the message of a missing one quotes, until none is missing: of those in a folder
+/// that is not there only the first is told.
 inline void WriteMissingIcons(const CheckedInstallation& installation) {
-    for (const Diagnostic& finding : installation.Check()) {
-        if (finding.code != "missing-icon") {
-            continue;
-        }
-        std::string text = wstring2String(finding.text);
-        for (std::size_t open = text.find('"'); open != std::string::npos; open = text.find('"', open)) {
-            const std::size_t close = text.find('"', open + 1);
-            std::string path = text.substr(open + 1, close - open - 1);
-            std::ranges::replace(path, '\\', '/');
-            installation.Write(path, MakeIconFile(32, {0, 0}));
-            open = close + 1;
+    bool isMissing = true;
+    for (int round = 0; isMissing && round < 9; ++round) {
+        isMissing = false;
+        for (const Diagnostic& finding : installation.Check()) {
+            if (finding.code != "missing-icon") {
+                continue;
+            }
+            isMissing = true;
+            std::string text = wstring2String(finding.text);
+            for (std::size_t open = text.find('"'); open != std::string::npos; open = text.find('"', open)) {
+                const std::size_t close = text.find('"', open + 1);
+                std::string path = text.substr(open + 1, close - open - 1);
+                std::ranges::replace(path, '\\', '/');
+                installation.Write(path, MakeIconFile(32, {0, 0}));
+                open = close + 1;
+            }
         }
     }
 }

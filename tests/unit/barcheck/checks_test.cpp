@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include <chrono>
 
 namespace {
@@ -223,6 +225,70 @@ TEST(CheckedScenario, TheGeneratedRibbonOfFiveThousandButtonsIsCleanAndCheckedIn
 #else
     EXPECT_LT(time.count(), 60.0); // a slower program, or slower files
 #endif
+}
+
+/// What is said of the sample with some lines of a file left out.
+std::string FindingsWithout(const std::string& file, const std::vector<std::string>& lines) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    for (const SampleFile& sample : SampleFiles()) {
+        if (sample.name != file) {
+            continue;
+        }
+        std::string text = sample.text;
+        for (const std::string& line : lines) {
+            for (std::size_t at = text.find(line); at != std::string::npos; at = text.find(line, at)) {
+                text.erase(at, line.size());
+            }
+        }
+        installation.Write(file, text);
+    }
+    return installation.Findings();
+}
+
+TEST(CheckedConfiguration, ALevelThatIsMissingIsSaidOnce) {
+    EXPECT_EQ(FindingsWithout("cfg/menu.xml", {"  <group>\n", "  </group>\n"}), "cfg/menu.xml:3:31 wrong-depth\n");
+    EXPECT_EQ(FindingsWithout("cfg/toolbar.xml", {"  <group KEYWORD=\"Main\">\n", "  </group>\n"}),
+              "cfg/toolbar.xml:3:10 wrong-depth\n");
+    EXPECT_EQ(FindingsWithout("cfg/ribbon.xml", {"KEYWORD=\"StatusEx_btns\""}), "cfg/ribbon.xml:8:5 missing-caption\n");
+}
+
+TEST(CheckedConfiguration, ALanguageWithoutItsTextsIsSaidOnce) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    installation.WriteTable("en", "");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:9:11 missing-text\n");
+    EXPECT_EQ(installation.Check().front().text, L"en has none of the texts that are asked for here and below");
+}
+
+TEST(CheckedConfiguration, AnInstallationWithoutItsRibbonDoesNotNameEveryText) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    std::filesystem::remove(installation.Directory().Path() / "cfg/ribbon.xml");
+    EXPECT_EQ(installation.Findings({}, L"en"), "lang/en/a.xlf:4:5 unused-text\n");
+}
+
+TEST(MissingIcon, AFolderThatIsMissingIsSaidOnce) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    std::filesystem::remove_all(installation.Directory().Path() / "pic/icon/16");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:10:40 missing-icon\n");
+}
+
+TEST(MissingIcon, WhatPeopleWriteInItsPlaceIsRecognised) {
+    for (const char* const written : {"zoom.ico", "pic\\icon\\16\\zoom.ico", "pic\\icon\\zoom", " pic\\icon\\zoom.ico ",
+                                      "C:\\work\\zoom.ico", "pic\\icon\\zom.ico"}) {
+        const CheckedInstallation installation;
+        installation.WriteIcon("pic/icon", "zoom.ico");
+        const auto button = [](const std::string& keyword, const std::string& path) {
+            return "<i KEYWORD='" + keyword + "' NAME='' TYPE='BUTTON' PICPATH='" + path + "'/>\n";
+        };
+        installation.Write("cfg/ribbon.xml", RibbonWith(button("A", written) + button("B", "pic\\icon\\zoom.ico")));
+        const std::vector<Diagnostic> findings = installation.Check();
+        ASSERT_EQ(findings.size(), 1u) << written;
+        EXPECT_EQ(findings[0].code, "missing-icon");
+        EXPECT_EQ(findings[0].fix, L"did you mean \"pic\\icon\\zoom.ico\"?") << written;
+    }
 }
 
 } // namespace

@@ -252,8 +252,7 @@ TEST_F(Language, ABrokenOrMissingLanguageLeavesTheEarlierOneInForce) {
     EXPECT_EQ(CMultiLanguageMgr::GetLanguage(), L"en");
     EXPECT_EQ(Text("k"), "good");
     ASSERT_EQ(m_problems.size(), 7u);
-    EXPECT_EQ(m_problems[0],
-              "b.xlf:1:21: a start tag and an end tag do not belong together, or one of them is missing");
+    EXPECT_EQ(m_problems[0], "b.xlf:1:21: <xliff> of line 1 is not ended");
     EXPECT_EQ(m_problems[1], "a.xlf:1:1: this is no XLIFF 2 file");
     EXPECT_TRUE(m_problems[2].ends_with(": there are no tables of this language"));
 }

@@ -142,8 +142,10 @@ TEST(Xml, PositionsHoldFarIntoALongLine) {
 }
 
 TEST(Xml, ErrorsNameFileLineColumnAndReason) {
-    EXPECT_EQ(Fails("<r>\n  <a></b>\n</r>"),
-              "f.xml:2:6: a start tag and an end tag do not belong together, or one of them is missing");
+    EXPECT_EQ(Fails("<r>\n  <a></b>\n</r>"), "f.xml:2:6: </b> does not end <a> of line 2");
+    EXPECT_EQ(Fails("<r>\n<a x='>'><!-- <c> --><b/>\n</r>"), "f.xml:3:1: </r> does not end <a> of line 2");
+    EXPECT_EQ(Fails("<r>\n<a>\n"), "f.xml:2:4: <a> of line 2 is not ended");
+    EXPECT_EQ(Fails("<r/></r>"), "f.xml:1:5: this end tag ends no element");
     EXPECT_EQ(Fails("<a/>\n\xE5\x9C\xB0 <b/>"), "f.xml:2:1: there is text outside the document element");
     EXPECT_EQ(Fails("<a/>\n <b/>"), "f.xml:2:2: there is a second document element");
     EXPECT_EQ(Fails(""), "f.xml: the document is empty");
