@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace {
 
@@ -29,7 +28,8 @@ ON_WM_SIZE()
 END_MESSAGE_MAP()
 
 CMapPane::CMapPane(MapState& state, const MapData& data, CMapWindow& map)
-    : m_map(map),
+    : m_state(state),
+      m_map(map),
       m_list(state, data, [this] { TakeChange(); }),
       m_down(state, MapAxis::Down, [this] { TakeChange(); }),
       m_across(state, MapAxis::Across, [this] { TakeChange(); }) {}
@@ -45,7 +45,11 @@ BOOL CMapPane::Create(CWnd* parent, UINT id) {
     m_map.SetViewListener([this] {
         m_down.ShowState();
         m_across.ShowState();
-        UpdateGround();
+        CRect client;
+        GetClientRect(client);
+        if (BarsIn(client.Size()) != m_bars) {
+            PlaceParts(client.Size());
+        }
     });
     return TRUE;
 }
@@ -56,10 +60,9 @@ void CMapPane::SetSkin(UINT skin) {
     for (CMapScrollBar* const bar : {&m_down, &m_across}) {
         bar->SetSkin(skin);
     }
-    m_barColor = skin == kSilver ? m_down.GetSilverBkColor() : m_down.GetBlackBkColor();
+    m_corner = skin == kSilver ? m_down.GetSilverBkColor() : m_down.GetBlackBkColor();
     if (GetSafeHwnd()) {
         Invalidate(FALSE);
-        UpdateGround();
     }
 }
 
@@ -73,15 +76,6 @@ void CMapPane::Mirror(bool isMirrored) {
 void CMapPane::ShowState() {
     m_map.ShowState();
     m_list.ShowState();
-    UpdateGround();
-}
-
-void CMapPane::UpdateGround() {
-    const bool hasBar = ((m_down.GetStyle() | m_across.GetStyle()) & WS_VISIBLE) != 0;
-    const Ground ground{m_map.AroundColor(), hasBar ? m_barColor : m_map.AroundColor()};
-    if (std::exchange(m_ground, ground) != ground) {
-        Invalidate(FALSE);
-    }
 }
 
 CRect CMapPane::PlaceOf(Part part) const {
@@ -103,32 +97,44 @@ void CMapPane::OnSize(UINT type, int width, int height) {
     if (width <= 0 || height <= 0) {
         return;
     }
+    PlaceParts(CSize(width, height));
+    // Now: until it is painted, new area shows whatever the screen had there.
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+}
+
+int CMapPane::ListWidth(int width) { return std::min(afxGlobalData.ScalePixels(kListWidth), width / kNarrowest); }
+
+MapBars CMapPane::BarsIn(CSize size) const {
+    const int left = ListWidth(size.cx) + afxGlobalData.ScalePixels(1);
+    return BarsFor(m_state.View(), size.cx - left, size.cy, m_down.GetScrollWidth());
+}
+
+// A map that is seen whole along an axis has the room of that axis's bar.
+void CMapPane::PlaceParts(CSize size) {
+    m_bars = BarsIn(size);
     const int breadth = m_down.GetScrollWidth();
-    const int list = std::min(afxGlobalData.ScalePixels(kListWidth), width / kNarrowest);
-    const int line = afxGlobalData.ScalePixels(1);
-    const CRect map(list + line, 0, std::max(width - breadth, list + line), std::max(height - breadth, 0));
-    m_list.MoveWindow(0, 0, list, height);
+    const int list = ListWidth(size.cx);
+    const int left = list + afxGlobalData.ScalePixels(1);
+    const CRect map(left, 0, std::max<int>(size.cx - (m_bars.down ? breadth : 0), left),
+                    std::max<int>(size.cy - (m_bars.across ? breadth : 0), 0));
+    m_list.MoveWindow(0, 0, list, size.cy);
     m_map.MoveWindow(map);
     m_down.MoveWindow(map.right, 0, breadth, map.bottom);
     m_across.MoveWindow(map.left, map.bottom, map.Width(), breadth);
     m_down.InitThumb();
     m_across.InitThumb();
-    // Now: until it is painted, new area shows whatever the screen had there.
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    m_down.ShowWindow(m_bars.down ? SW_SHOWNA : SW_HIDE);
+    m_across.ShowWindow(m_bars.across ? SW_SHOWNA : SW_HIDE);
 }
 
 BOOL CMapPane::OnEraseBkgnd(CDC* /*dc*/) { return TRUE; }
 
-// The line beside the list, the corner between the bars, and the place of a bar that has nothing to scroll: what lies
-// around the map goes on there.
+// The line beside the list, and the corner between the bars.
 void CMapPane::OnPaint() {
     CPaintDC dc(this);
     CRect client;
     GetClientRect(client);
-    const int breadth = m_down.GetScrollWidth();
-    dc.FillSolidRect(client, m_ground.aroundMap);
-    dc.FillSolidRect(CRect(client.right - breadth, client.bottom - breadth, client.right, client.bottom),
-                     m_ground.corner);
+    dc.FillSolidRect(client, m_corner);
     CRect list;
     m_list.GetWindowRect(list);
     CRect line(list.Width(), 0, list.Width() + afxGlobalData.ScalePixels(1), client.bottom);

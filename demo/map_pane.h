@@ -34,21 +34,19 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    struct Ground {
-        COLORREF aroundMap = 0;
-        COLORREF corner = 0;
-        friend bool operator==(const Ground&, const Ground&) = default;
-    };
-
     void TakeChange();
-    void UpdateGround();
+    /// Of a pane of that width, pixels.
+    static int ListWidth(int width);
+    MapBars BarsIn(CSize size) const;
+    void PlaceParts(CSize size);
 
+    const MapState& m_state;
     CMapWindow& m_map;
     CLayerList m_list;
     CMapScrollBar m_down;
     CMapScrollBar m_across;
+    MapBars m_bars;
     ViewerColors m_colors = {};
-    COLORREF m_barColor = 0;
-    Ground m_ground;
+    COLORREF m_corner = 0;
     std::function<void()> m_listener;
 };

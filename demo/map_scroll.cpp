@@ -33,6 +33,16 @@ MapScroll ScrollOf(const MapState& state, MapAxis axis) {
     return scroll;
 }
 
+MapBars BarsFor(const MapView& view, int width, int height, int breadth) {
+    const double mapWidth = kWorldWidth * view.pixelsPerDegree;
+    const double mapHeight = kWorldHeight * view.pixelsPerDegree;
+    MapBars bars{mapHeight > height, mapWidth > width};
+    // A bar takes room, for which the map may need the other one.
+    bars.across = bars.across || (bars.down && mapWidth > width - breadth);
+    bars.down = bars.down || (bars.across && mapHeight > height - breadth);
+    return bars;
+}
+
 void ScrollBy(MapState& state, MapAxis axis, int steps) {
     const Extent extent = ExtentOf(state, axis);
     const MapScroll scroll = ScrollOf(state, axis);

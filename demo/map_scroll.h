@@ -18,6 +18,18 @@ struct MapScroll {
 
 MapScroll ScrollOf(const MapState& state, MapAxis axis);
 
+/// Which scroll bars the map has.
+struct MapBars {
+    bool down = false;
+    bool across = false;
+
+    friend bool operator==(const MapBars&, const MapBars&) = default;
+};
+
+/// Those that a map of the view's scale needs in a place of that size, of which each bar takes `breadth` from the map.
+/// All in pixels.
+MapBars BarsFor(const MapView& view, int width, int height, int breadth);
+
 /// Moves the view by steps, towards the west or the north where they are negative, no farther than the map goes. Makes
 /// no entry in the history: EndDrag does.
 void ScrollBy(MapState& state, MapAxis axis, int steps);

@@ -26,6 +26,11 @@ private:
     HGDIOBJ m_earlier;
 };
 
+COLORREF AroundTheMap(const MapState& state) {
+    const std::uint32_t color = ShownColor(state, MapLayer::Relief);
+    return RGB(color >> 16 & 0xFF, color >> 8 & 0xFF, color & 0xFF);
+}
+
 /// Everything of the window but the target, so that no pixel is drawn twice.
 void FillAround(CDC& dc, const CRect& client, const fx::Rect& target, COLORREF color) {
     const CRect covered(target.left, target.top, target.right, target.bottom);
@@ -49,11 +54,6 @@ void DrawStandIn(CDC& dc, const MapStandIn& plan, HBITMAP picture) {
 } // namespace
 
 CMapWindow::CMapWindow(MapState& state, const MapData& data) : m_state(state), m_data(data) {}
-
-COLORREF CMapWindow::AroundColor() const {
-    const std::uint32_t color = ShownColor(m_state, MapLayer::Relief);
-    return RGB(color >> 16 & 0xFF, color >> 8 & 0xFF, color & 0xFF);
-}
 
 BEGIN_MESSAGE_MAP(CMapWindow, CWnd)
 ON_WM_PAINT()
@@ -143,7 +143,7 @@ void CMapWindow::OnPaint() {
     CRect client;
     GetClientRect(client);
     const MapStandIn plan = m_drawn ? PlanStandIn(m_drawn->state, m_state) : MapStandIn{};
-    FillAround(dc, client, plan.target, AroundColor());
+    FillAround(dc, client, plan.target, AroundTheMap(m_state));
     if (!plan.source.IsEmpty()) {
         DrawStandIn(dc, plan, m_drawn->bitmap);
     }

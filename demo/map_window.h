@@ -30,8 +30,6 @@ public:
     bool IsFinished() const { return m_drawn && m_drawn->order == m_order; }
     /// Waits for the sharp picture of the present state and shows it; for those who photograph the window.
     void Finish();
-    /// What is seen beyond the ends of the map.
-    COLORREF AroundColor() const;
     /// Is told of the place under the pointer whenever it moves.
     void SetPointerListener(std::function<void(GeoPoint)> listener) { m_pointerListener = std::move(listener); }
     /// Is called whenever the view or the window's size has become another one.

@@ -36,15 +36,6 @@ END_MESSAGE_MAP()
 CMapScrollBar::CMapScrollBar(MapState& state, MapAxis axis, std::function<void()> scrolled)
     : m_state(state), m_axis(axis), m_scrolled(std::move(scrolled)) {}
 
-void CMapScrollBar::ShowState() {
-    const MapScroll scroll = ScrollOf(m_state, m_axis);
-    ShowScroll(scroll);
-    const bool isWanted = scroll.limit > 0;
-    if (isWanted != ((GetStyle() & WS_VISIBLE) != 0)) {
-        ShowWindow(isWanted ? SW_SHOWNA : SW_HIDE);
-    }
-}
-
 void CMapScrollBar::ScrollBaseMove(int steps) {
     ScrollBy(m_state, m_axis, steps);
     m_scrolled();

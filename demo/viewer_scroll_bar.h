@@ -26,8 +26,8 @@ public:
     /// `scrolled` is called after each change of the state.
     CMapScrollBar(MapState& state, MapAxis axis, std::function<void()> scrolled);
 
-    /// The map was moved, zoomed or resized. Hides the bar where there is nothing to scroll.
-    void ShowState();
+    /// The map was moved, zoomed or resized.
+    void ShowState() { ShowScroll(ScrollOf(m_state, m_axis)); }
 
     int GetBaseScrollPos() override { return ScrollOf(m_state, m_axis).position; }
     int GetBaseScrollLimit() override { return ScrollOf(m_state, m_axis).limit; }

@@ -92,6 +92,21 @@ MapData ThreeCities() {
 
 bool IsBefore(const std::wstring& a, const std::wstring& b) { return a < b; }
 
+TEST(MapBars, OnlyAMapThatIsLargerThanItsPlaceHasThem) {
+    const MapView view{{0, 0}, 2}; // 720 x 360 pixels
+    constexpr int breadth = 20;
+    EXPECT_EQ(BarsFor(view, 720, 360, breadth), (MapBars{false, false}));
+    EXPECT_EQ(BarsFor(view, 740, 359, breadth), (MapBars{true, false}));
+    EXPECT_EQ(BarsFor(view, 719, 380, breadth), (MapBars{false, true}));
+    EXPECT_EQ(BarsFor(view, 100, 100, breadth), (MapBars{true, true}));
+}
+
+TEST(MapBars, OneBarTakesTheRoomThatMakesTheOtherOneNecessary) {
+    const MapView view{{0, 0}, 2};
+    EXPECT_EQ(BarsFor(view, 739, 359, 20), (MapBars{true, true}));
+    EXPECT_EQ(BarsFor(view, 719, 379, 20), (MapBars{true, true}));
+}
+
 TEST(LayerRows, AreTheLayersInTheirOrderAndTheCitiesInThatOfTheirNames) {
     const auto rows = MakeLayerRows(ThreeCities(), {L"Layers", L"Cities", {L"Relief", L"Coast"}, false}, IsBefore);
     std::vector<std::wstring> texts;
