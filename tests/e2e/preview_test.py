@@ -131,7 +131,7 @@ def names(dump):
 class DumpOfTwoFiles(OwnInstallation):
     def test_problems_of_the_files_are_told_with_their_places(self):
         result, _ = self.preview("--lang", "en")
-        self.assertIn('cfg\\ribbon-a.xml:5:67: warning: "pic\\16\\a.ico" and "pic\\32\\a.ico" are not there '
+        self.assertIn('cfg\\ribbon-a.xml:5:67: warning: "pic\\16\\a.ico" and "pic\\32\\a.ico" are not there, nor is anything else in that folder '
                       "[missing-icon]", result.stderr)
 
     def test_every_part_is_what_the_files_say(self):
