@@ -5,6 +5,8 @@
 #include "afxribbonbar.h"
 #include "afxwinappex.h"
 #include "frames/pane_entry.h"
+#include "frames/window_list.h"
+#include "fx/mdi.h"
 #include "ribbon/keyboard.h"
 #include "window/mouse_messages.h"
 
@@ -132,6 +134,10 @@ void CFrameImpl::SetPaneEntry(UINT entry, bool showsToolbarsOnly) {
 
 void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) {
     m_activePopup = popup;
+    auto* const mdiFrame = DYNAMIC_DOWNCAST(CMDIFrameWnd, m_frame);
+    if (mdiFrame != nullptr && popup != nullptr) {
+        ListChildWindows(*popup, *mdiFrame);
+    }
     if (m_paneEntry != 0 && popup != nullptr) {
         CObList panes;
         m_dockingManager.GetPaneList(panes);

@@ -121,3 +121,94 @@ TEST_F(MdiMenuBarTest, BuildingAnewKeepsTheButtonsOfTheMaximisedChild) {
     EXPECT_EQ(Bar().GetSystemButtonsCount(), 3);
     EXPECT_EQ(Bar().GetCount(), 5);
 }
+
+// ---- the list of the children in the window menu
+
+class WindowListTest : public MdiMenuBarTest {
+protected:
+    WindowListTest() {
+        const HMENU popup = ::CreatePopupMenu();
+        ::AppendMenuW(popup, MF_STRING, ID_WINDOW_CASCADE, L"Cascade");
+        ::AppendMenuW(m_childMenu, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), L"Window");
+        const HMENU other = ::CreatePopupMenu();
+        ::AppendMenuW(other, MF_STRING, bar_ids::run, L"Run");
+        ::AppendMenuW(m_childMenu, MF_POPUP, reinterpret_cast<UINT_PTR>(other), L"Other");
+    }
+    ~WindowListTest() override { CMFCPopupMenu::CloseAll(); }
+    CMDIChildWndEx* MakeNamed(LPCTSTR name) {
+        CMDIChildWndEx* const child = MakeChild();
+        child->SetWindowText(name);
+        return child;
+    }
+    CMFCPopupMenu* Open(LPCTSTR text) {
+        CMFCPopupMenu::CloseAll();
+        for (int index = 0; index < Bar().GetCount(); ++index) {
+            auto* const button = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, Bar().GetButton(index));
+            if (button != nullptr && button->m_strText == text) {
+                button->OpenPopupMenu();
+            }
+        }
+        return CMFCPopupMenu::GetActiveMenu();
+    }
+    static std::wstring Describe(CMFCPopupMenu* menu) {
+        std::wstring text;
+        for (int index = 0; menu != nullptr && index < menu->GetMenuItemCount(); ++index) {
+            const CMFCToolBarMenuButton* const item = menu->GetMenuItem(index);
+            const bool isChecked = item != nullptr && (item->m_nStyle & TBBS_CHECKED) != 0;
+            text += (text.empty() ? L"" : L" ") + std::wstring(isChecked ? L"*" : L"");
+            text += item == nullptr || item->m_strText.IsEmpty() ? L"|" : item->m_strText.GetString();
+        }
+        return text;
+    }
+    void Choose(CMFCPopupMenu& menu, int row) {
+        CRect rect;
+        menu.GetMenuBar()->GetItemRect(row, rect);
+        Pointer pointer;
+        pointer.Click(menu.GetMenuBar()->m_hWnd, rect.CenterPoint());
+        PumpPending();
+    }
+};
+
+TEST_F(WindowListTest, TheMenuThatArrangesWindowsEndsWithTheChildrenTheActiveOneChecked) {
+    MakeNamed(L"First");
+    MakeNamed(L"Second & last");
+    EXPECT_EQ(Describe(Open(L"Window")), L"Cascade | &1 First *&2 Second && last");
+    EXPECT_EQ(Describe(Open(L"Window")), L"Cascade | &1 First *&2 Second && last") << "once, however often it opens";
+    EXPECT_EQ(Describe(Open(L"Other")), L"Run");
+}
+
+TEST_F(WindowListTest, AChoiceBringsTheChildToTheFrontAndAMinimisedOneBack) {
+    CMDIChildWndEx* const first = MakeNamed(L"First");
+    MakeNamed(L"Second");
+    CMFCPopupMenu* menu = Open(L"Window");
+    ASSERT_NE(menu, nullptr);
+    Choose(*menu, 2);
+    EXPECT_EQ(m_frame->MDIGetActive(), first);
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    first->ShowWindow(SW_MINIMIZE);
+    PumpPending();
+    menu = Open(L"Window");
+    ASSERT_NE(menu, nullptr);
+    Choose(*menu, 2);
+    EXPECT_FALSE(first->IsIconic());
+    EXPECT_EQ(m_frame->MDIGetActive(), first);
+}
+
+TEST_F(WindowListTest, NineAreListedAndTheRestIsNot) {
+    for (int number = 1; number <= 11; ++number) {
+        MakeNamed(L"Child");
+    }
+    CMFCPopupMenu* const menu = Open(L"Window");
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->GetMenuItemCount(), 2 + 9);
+}
+
+TEST_F(WindowListTest, AChildThatIsClosedMeanwhileIsLeftAlone) {
+    CMDIChildWndEx* const first = MakeNamed(L"First");
+    CMDIChildWndEx* const second = MakeNamed(L"Second");
+    CMFCPopupMenu* const menu = Open(L"Window");
+    ASSERT_NE(menu, nullptr);
+    first->MDIDestroy();
+    Choose(*menu, 2);
+    EXPECT_EQ(m_frame->MDIGetActive(), second);
+}
