@@ -129,6 +129,19 @@ IMPLEMENT_DYNCREATE(ChooseRow, CMFCToolBarMenuButton)
 
 } // namespace
 
+CString toolbar::ReadableText(CString text) {
+    const int tabulator = text.Find(L'\t');
+    if (tabulator >= 0) {
+        text.Truncate(tabulator);
+    }
+    constexpr int kLength = 4; // "(&O)"
+    const int bracket = text.Find(L"(&");
+    if (bracket > 0 && bracket + kLength <= text.GetLength() && text[bracket + kLength - 1] == L')') {
+        text.Delete(bracket, kLength);
+    }
+    return WithoutPrefix(text);
+}
+
 CString toolbar::ReadableText(const CMFCToolBarButton& button) {
     CMFCToolBarMenuButton row;
     row.m_strText = button.m_strText;
@@ -140,8 +153,7 @@ CString toolbar::ReadableText(const CMFCToolBarButton& button) {
     if (row.m_strText.IsEmpty() && isCommand && resource.LoadString(button.m_nID)) {
         row.m_strText = resource.Mid(resource.Find(L'\n') + 1); // the short one behind the line break
     }
-    const int tabulator = row.m_strText.Find(L'\t');
-    return WithoutPrefix(tabulator >= 0 ? row.m_strText.Left(tabulator) : row.m_strText);
+    return ReadableText(row.m_strText);
 }
 
 std::unique_ptr<CMFCToolBarMenuButton> toolbar::MakeChooseButtonsRow(CMFCToolBar& bar) {

@@ -1,6 +1,7 @@
 #include "toolbar/command_list.h"
 
 #include "afxtoolbar.h"
+#include "afxvisualmanager.h"
 #include "toolbar/button_drag.h"
 #include "toolbar/choose_buttons.h"
 #include "toolbar/metrics.h"
@@ -23,6 +24,7 @@ bool IsFar(CPoint from, CPoint to) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(CommandList, CListBox)
+ON_WM_ERASEBKGND()
 ON_WM_LBUTTONDOWN()
 ON_WM_MOUSEMOVE()
 ON_WM_LBUTTONUP()
@@ -63,8 +65,8 @@ void CommandList::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     CDC* const dc = CDC::FromHandle(lpDrawItemStruct->hDC);
     const CRect row(lpDrawItemStruct->rcItem);
     const bool isSelected = (lpDrawItemStruct->itemState & ODS_SELECTED) != 0;
-    dc->FillSolidRect(row, ::GetSysColor(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
-    const COLORREF before = dc->SetTextColor(::GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    const COLORREF before =
+        dc->SetTextColor(CMFCVisualManager::GetInstance()->OnFillCommandsListBackground(dc, row, isSelected));
     const int mode = dc->SetBkMode(TRANSPARENT);
     if (command != nullptr) {
         command->OnDrawOnCustomizeList(dc, row, isSelected);
@@ -75,6 +77,14 @@ void CommandList::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     if ((lpDrawItemStruct->itemState & (ODS_FOCUS | noFocus)) == ODS_FOCUS) {
         dc->DrawFocusRect(row);
     }
+}
+
+// Images are made for the ground of menus.
+BOOL CommandList::OnEraseBkgnd(CDC* pDC) {
+    CRect client;
+    GetClientRect(&client);
+    CMFCVisualManager::GetInstance()->OnFillCommandsListBackground(pDC, client);
+    return TRUE;
 }
 
 void CommandList::OnLButtonDown(UINT nFlags, CPoint point) {

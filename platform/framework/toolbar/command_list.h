@@ -21,6 +21,7 @@ public:
 
 protected:
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);

@@ -9,7 +9,6 @@
 #include "toolbar/command_catalog.h"
 #include "toolbar/customize_texts.h"
 #include "toolbar/menu_items.h"
-#include "toolbar/metrics.h"
 
 #include <memory>
 
@@ -60,7 +59,7 @@ void CMFCToolBarsCustomizeDialog::AddMenuCommands(const CMenu* pMenu, BOOL bPopu
         std::vector<Popup> inside;
         toolbar::MenuItem item;
         for (int position = 0; toolbar::ReadMenuItem(popup.menu, position, item); ++position) {
-            const CString name = toolbar::WithoutPrefix(item.text);
+            const CString name = toolbar::ReadableText(item.text);
             if (item.submenu != nullptr) {
                 inside.push_back({item.submenu, popup.category.IsEmpty() ? name : popup.category});
                 if (bPopup && !popup.category.IsEmpty()) {

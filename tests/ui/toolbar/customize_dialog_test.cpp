@@ -684,6 +684,13 @@ TEST_F(OfferedCommandsTest, AMenusPopupsAreCategoriesAndItsInnerPopupsBelongToTh
     EXPECT_EQ(AllCommands(), (std::vector<CString>{L"File", L"More", L"Old", L"Open..."})) << "popups too";
 }
 
+TEST_F(OfferedCommandsTest, AMnemonicInBracketsIsNoPartOfTheName) {
+    m_dialog.AddButton(L"A", CMFCToolBarButton(1, -1, L"Open(&O)...\tCtrl+O"));
+    m_dialog.AddButton(L"A", CMFCToolBarButton(2, -1, L"Go (&to)"));
+    m_dialog.AddButton(L"A", CMFCToolBarButton(3, -1, L"(&X)"));
+    EXPECT_EQ(AllCommands(), (std::vector<CString>{L"(X)", L"Go (to)", L"Open..."}));
+}
+
 TEST_F(OfferedCommandsTest, AToolbarResourceBringsItsButtons) {
     EXPECT_TRUE(m_dialog.AddToolBar(L"Bar", 101));
     EXPECT_FALSE(m_dialog.AddToolBar(L"Bar", 9999));
