@@ -224,7 +224,7 @@ std::vector<XmlOddity> XmlTree::FindOddities() const {
 void XmlTree::AddLooseTexts(std::vector<XmlOddity>& oddities) const {
     pugi::xml_node node = m_root;
     while (true) {
-        if (IsText(node)) {
+        if (IsText(node) && std::string_view(node.value()).find_first_not_of(" \t\r\n") != std::string_view::npos) {
             // Blanks before the text were kept with it.
             const auto offset = static_cast<std::size_t>(node.value() - m_buffer.get());
             const std::size_t start = m_text.find_first_not_of(" \t\r\n", offset);
