@@ -5,6 +5,7 @@ usage: watch_test.py BIN_DIR [TEST...]
 """
 import json
 import os
+import shutil
 import signal
 import subprocess
 import sys
@@ -136,6 +137,36 @@ class Watching(unittest.TestCase):
             self.assertEqual(dump[bars], barview.first[bars], bars)
         self.assertIn(r"built anew: cfg\ribbon.xml", out)
         self.assertNotIn("barview:", err)
+
+    def test_a_new_ribbon_file_is_shown_and_its_removal_too(self):
+        with Watched(2) as barview:
+            barview.write("cfg/ribbon-more.xml", '<ribbon><row KEYWORD="More"><category KEYWORD="Extras" NAME=""/></row></ribbon>')
+            added = barview.next()
+            os.remove(os.path.join(barview.root, "cfg", "ribbon-more.xml"))
+            removed = barview.next()
+            barview.finish()
+        names = [[category["name"] for category in dump["ribbon"]["categories"]] for dump in (barview.first, added, removed)]
+        self.assertEqual(names[0], ["Map", "Tools"])
+        self.assertEqual(sorted(names[1]), ["Extras", "Map", "Tools"])
+        self.assertEqual(names[2], names[0])
+
+    def test_a_file_that_is_removed_before_it_is_written_anew_leaves_what_is_shown(self):
+        with Watched(2) as barview:
+            os.remove(os.path.join(barview.root, "cfg", "ribbon.xml"))
+            self.assertEqual(barview.next()["ribbon"]["categories"], barview.first["ribbon"]["categories"])
+            barview.write("cfg/ribbon.xml", RIBBON.replace('KEYWORD="Tools"', 'KEYWORD="Gauges"'))
+            self.assertEqual([category["name"] for category in barview.next()["ribbon"]["categories"]], ["Map", "Gauges"])
+            barview.finish()
+
+    def test_an_icon_that_a_file_refers_to_before_it_is_there_is_shown_when_it_comes(self):
+        with Watched(2) as barview:
+            barview.edit("cfg/toolbar.xml", "pic\\a.ico", "pic\\b.ico")
+            missing = barview.next()["toolbars"]
+            shutil.copy(os.path.join(barview.root, "pic", "16", "a.ico"), os.path.join(barview.root, "pic", "16", "b.ico"))
+            there = barview.next()["toolbars"]
+            barview.finish()
+        self.assertNotEqual(missing, there)
+        self.assertEqual(there, barview.first["toolbars"])
 
     def test_an_edited_menu_keeps_its_shortcuts(self):
         with Watched(1) as barview:

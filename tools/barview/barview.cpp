@@ -124,6 +124,7 @@ private:
 
     void Take(const ConfigurationChange& change) {
         auto& frame = *static_cast<CPreviewFrame*>(m_pMainWnd);
+        FindUnnamedFiles(m_options); // one may be new, or gone
         const bool isBuilt = frame.Rebuild(change);
         SettleWindow(frame.GetSafeHwnd());
         WriteOutputs(frame);

@@ -182,13 +182,20 @@ std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring
 
 void TakeDirectory(const std::wstring& directory, BarviewOptions& options) {
     options.directory = directory;
-    if (options.ribbonFiles.empty()) {
-        options.ribbonFiles = FindFiles(options.directory, L"RIBBON");
-    }
-    if (options.menuFiles.empty()) {
-        options.menuFiles = FindFiles(options.directory, L"MENU");
-    }
-    if (options.toolBarFiles.empty()) {
-        options.toolBarFiles = FindFiles(options.directory, L"TOOLBAR");
-    }
+    options.isRibbonNamed = !options.ribbonFiles.empty();
+    options.isMenuNamed = !options.menuFiles.empty();
+    options.areToolBarsNamed = !options.toolBarFiles.empty();
+    FindUnnamedFiles(options);
+}
+
+void FindUnnamedFiles(BarviewOptions& options) {
+    const auto find = [&options](bool isNamed, const wchar_t* kind, std::vector<std::wstring>& files) {
+        std::vector<std::wstring> found = isNamed ? std::vector<std::wstring>() : FindFiles(options.directory, kind);
+        if (!found.empty()) {
+            files = std::move(found);
+        }
+    };
+    find(options.isRibbonNamed, L"RIBBON", options.ribbonFiles);
+    find(options.isMenuNamed, L"MENU", options.menuFiles);
+    find(options.areToolBarsNamed, L"TOOLBAR", options.toolBarFiles);
 }

@@ -29,6 +29,11 @@ struct BarviewOptions {
     std::vector<std::pair<int, int>> sizes;
     std::wstring batch; ///< File that lists directories and the files of their dumps; empty: `directory` alone.
 
+    // Which kinds of files the user has named; of the others those count that are there.
+    bool isRibbonNamed = false;
+    bool isMenuNamed = false;
+    bool areToolBarsNamed = false;
+
     bool isMirrored = false; ///< The window runs from the right to the left.
     bool isWatching = false; ///< Build the bars anew whose files change, and write the outputs each time.
     int changes = 0;         ///< Leave after so many changes; 0: when the window is closed.
@@ -41,6 +46,10 @@ struct BarviewOptions {
 
 /// Takes an installation directory, with its closing backslash, and the files in it that were not named.
 void TakeDirectory(const std::wstring& directory, BarviewOptions& options);
+
+/// Looks again which files are there of the kinds that were not named. Where none is left of a kind, those that were
+/// stay: an editor that removes a file before it writes it anew is not finished yet.
+void FindUnnamedFiles(BarviewOptions& options);
 
 /// Nothing, with a line in `error`, on wrong usage.
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error);
