@@ -2,9 +2,29 @@
 
 #include "map_stand_in.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace {
+
+/// What a key does: zooms by a factor, or moves the view by parts of the window.
+struct KeyRow {
+    UINT key;
+    double zoom = 0;
+    double east = 0;
+    double north = 0;
+};
+constexpr double kKeyZoom = 1.25;
+constexpr double kKeyStep = 0.1;
+constexpr std::array<KeyRow, 8> kKeys = {{{VK_ADD, kKeyZoom},
+                                          {VK_OEM_PLUS, kKeyZoom},
+                                          {VK_SUBTRACT, 1 / kKeyZoom},
+                                          {VK_OEM_MINUS, 1 / kKeyZoom},
+                                          {VK_LEFT, 0, -kKeyStep, 0},
+                                          {VK_RIGHT, 0, kKeyStep, 0},
+                                          {VK_UP, 0, 0, kKeyStep},
+                                          {VK_DOWN, 0, 0, -kKeyStep}}};
 
 constexpr UINT kPictureFinishedMessage = WM_APP + 1;
 
@@ -59,6 +79,7 @@ BEGIN_MESSAGE_MAP(CMapWindow, CWnd)
 ON_WM_PAINT()
 ON_WM_ERASEBKGND()
 ON_WM_SIZE()
+ON_WM_KEYDOWN()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK()
@@ -216,6 +237,21 @@ void CMapWindow::OnCaptureChanged(CWnd*) {
     }
     m_dragging = false;
     m_state.EndDrag();
+    ShowState();
+}
+
+void CMapWindow::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    const auto* const row =
+        std::find_if(kKeys.begin(), kKeys.end(), [key](const KeyRow& one) { return one.key == key; });
+    if (row == kKeys.end() || ::GetKeyState(VK_CONTROL) < 0) {
+        CWnd::OnKeyDown(key, repeat, flags);
+        return;
+    }
+    if (row->zoom != 0) {
+        m_state.Zoom(row->zoom);
+    } else {
+        m_state.Pan(row->east, row->north);
+    }
     ShowState();
 }
 

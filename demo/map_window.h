@@ -51,6 +51,7 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg LRESULT OnPictureFinished(WPARAM, LPARAM);
     DECLARE_MESSAGE_MAP()
