@@ -11,33 +11,34 @@ import time
 
 PERIOD = 0.1  # seconds between two looks
 LOOKS_BETWEEN_COUNTS = 20
-PATIENCE = 9900  # milliseconds: whoever is silent for as long as the viewer's watchman asks is taken for dead
 
 
 class Ledger:
-    """Ready but waiting: per thread, readings (time, seconds so far) in the order of time."""
+    """Of looks at some threads one after the other: for how long one of them at least stood ready without a processor."""
 
     def __init__(self):
-        self._times = {}
-        self._sums = {}
+        self._earlier = {}
+        self._times = []
+        self._sums = []
 
-    def add(self, thread, when, seconds):
-        self._times.setdefault(thread, []).append(when)
-        self._sums.setdefault(thread, []).append(seconds)
+    def add(self, when, ready):
+        """`ready`: of each thread how many seconds it stood so since it began. Where several do at one time, the time
+        counts once: of each look the thread that waited longest."""
+        longest = max((seconds - self._earlier.get(thread, seconds) for thread, seconds in ready.items()), default=0)
+        since = when - self._times[-1] if self._times else 0
+        self._earlier = dict(ready)
+        self._times.append(when)
+        self._sums.append((self._sums[-1] if self._sums else 0) + min(longest, since))
 
     def starved(self, began, ended):
-        """Seconds between two times (of the same clock); at most what was there, never more: only readings inside count."""
-        total = 0.0
-        for thread, times in self._times.items():
-            first, last = bisect.bisect_left(times, began), bisect.bisect_right(times, ended) - 1
-            if last > first:
-                total += self._sums[thread][last] - self._sums[thread][first]
-        return min(total, ended - began)
+        """Seconds between two times (of the same clock); only looks inside count."""
+        first, last = bisect.bisect_left(self._times, began), bisect.bisect_right(self._times, ended) - 1
+        return self._sums[last] - self._sums[first] if last > first else 0
 
 
 def own_part(wait, starved):
     """Of a wait (both in milliseconds) what the program answers for."""
-    return wait if wait >= PATIENCE else max(0, wait - starved)
+    return max(0, wait - starved)
 
 
 class Thread:
@@ -112,13 +113,11 @@ class MachineTime:
             if looks % LOOKS_BETWEEN_COUNTS == 0:
                 self._count(threads)
             looks += 1
-            now = time.time()
-            for number, thread in list(threads.items()):
-                seconds = thread.ready_seconds()
-                if seconds is None:
-                    del threads[number]
-                else:
-                    self._ledger.add(number, now, seconds)
+            ready = {number: thread.ready_seconds() for number, thread in threads.items()}
+            gone = [number for number, seconds in ready.items() if seconds is None]
+            for number in gone:
+                del threads[number], ready[number]
+            self._ledger.add(time.time(), ready)
 
     def _count(self, threads):
         """Threads come and go."""

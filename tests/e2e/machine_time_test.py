@@ -13,32 +13,60 @@ from machine_time import Ledger, Thread, own_part
 
 
 class OwnPartOfAWait(unittest.TestCase):
-    def ledger(self, *rows):
+    def ledger(self, *looks):
         ledger = Ledger()
-        for row in rows:
-            ledger.add(*row)
+        for look in looks:
+            ledger.add(*look)
         return ledger
 
     def test_time_without_a_processor_is_not_the_programs(self):
-        ledger = self.ledger((1, 10.0, 3.0), (1, 11.0, 3.9), (1, 12.0, 4.7))
+        ledger = self.ledger((10.0, {1: 3.0}), (11.0, {1: 3.9}), (12.0, {1: 4.7}))
         self.assertAlmostEqual(ledger.starved(10.0, 12.0), 1.7)
         self.assertEqual(own_part(2000, 1700), 300)
 
     def test_a_wait_of_a_program_that_asks_for_no_processor_counts_in_full(self):
-        ledger = self.ledger((1, 10.0, 3.0), (1, 11.0, 3.0), (1, 12.0, 3.0))
+        ledger = self.ledger((10.0, {1: 3.0}), (11.0, {1: 3.0}), (12.0, {1: 3.0}))
         self.assertEqual(ledger.starved(10.0, 12.0), 0)
         self.assertEqual(own_part(2000, 0), 2000)
 
-    def test_readings_before_and_behind_the_wait_do_not_count(self):
-        ledger = self.ledger((1, 9.0, 0.0), (1, 10.1, 3.0), (1, 11.9, 3.5), (1, 13.0, 9.0))
+    def test_looks_before_and_behind_the_wait_do_not_count(self):
+        ledger = self.ledger((9.0, {1: 0.0}), (10.1, {1: 1.0}), (11.9, {1: 1.5}), (13.0, {1: 2.5}))
         self.assertAlmostEqual(ledger.starved(10.0, 12.0), 0.5)
 
-    def test_threads_add_up_to_no_more_than_the_wait(self):
-        ledger = self.ledger((1, 10.0, 0.0), (1, 11.0, 0.9), (2, 10.0, 0.0), (2, 11.0, 0.9))
-        self.assertAlmostEqual(ledger.starved(10.0, 11.0), 1.0)
+    def test_time_in_which_several_threads_waited_counts_once(self):
+        ledger = self.ledger((10.0, {1: 0.0, 2: 0.0}), (11.0, {1: 0.6, 2: 0.4}), (12.0, {1: 0.6, 2: 0.9}))
+        self.assertAlmostEqual(ledger.starved(10.0, 12.0), 1.1)
 
-    def test_whoever_is_silent_for_ten_seconds_hangs_whatever_the_machine_does(self):
-        self.assertEqual(own_part(10000, 9999), 10000)
+    def test_a_thread_that_has_just_been_found_has_waited_for_nothing(self):
+        ledger = self.ledger((10.0, {1: 0.0}), (11.0, {1: 0.0, 2: 0.8}))
+        self.assertEqual(ledger.starved(10.0, 11.0), 0)
+
+    def test_a_thread_that_hangs_counts_in_full_on_a_busy_machine(self):
+        """Two threads that wait for each other: ready for a processor is neither, whatever else runs."""
+        first, second = threading.Lock(), threading.Lock()
+        first.acquire()
+        second.acquire()
+        hanging = threading.Thread(target=first.acquire, daemon=True)
+        hanging.start()
+        busy = [threading.Thread(target=self.work, args=(second,), daemon=True) for _ in range(4)]
+        for thread in busy:
+            thread.start()
+        ledger, watched = Ledger(), Thread(os.getpid(), hanging.native_id)
+        began = time.time()
+        for _ in range(8):
+            ledger.add(time.time(), {1: watched.ready_seconds()})
+            time.sleep(0.1)
+        ended = time.time()
+        second.release()
+        first.release()
+        wait = round((ended - began) * 1000)
+        self.assertGreater(own_part(wait, round(ledger.starved(began, ended) * 1000)), wait - 200)
+
+    @staticmethod
+    def work(until):
+        while not until.acquire(blocking=False):
+            sum(range(1000))
+        until.release()
 
 
 class ReadinessOfAThread(unittest.TestCase):

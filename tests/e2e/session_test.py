@@ -112,13 +112,12 @@ class Session:
         """`check` gets the record afterwards and the one before."""
         before = self._viewer.record
         self.steps += 1
-        with self._test.subTest(f"{self.steps}: {what}"):
-            act()
-            try:
-                record = self._viewer.wait_for(lambda record: check(record, before))
-            except AssertionError as error:
-                raise AssertionError(f"step {self.steps}, {what}: {error}") from None
+        act()
+        try:
+            record = self._viewer.wait_for(lambda record: check(record, before))
             self.check_always(record)
+        except AssertionError as error:
+            raise AssertionError(f"step {self.steps}, {what}: {error}") from None
 
     def check_always(self, record):
         test = self._test
@@ -200,8 +199,8 @@ class WholeSession(unittest.TestCase):
         active = lambda number: lambda now, _: now["frame"]["ribbon"]["categories"][number]["active"]
         step("hide a layer in the list", lambda: viewer.click(*viewer.row(1)), layer(0, False))
         step("show it again", lambda: viewer.click(*viewer.row(1)), layer(0, True))
-        step("a city in the list", lambda: viewer.click(*viewer.row(10)), lambda now, before: scale(now) > scale(before))
-        step("back from there", lambda: viewer.key("ctrl+l"), lambda now, before: scale(now) < scale(before))
+        step("a city in the list", lambda: viewer.click(*viewer.row(10)), lambda now, _: abs(now["map"]["longitude"] + 149.9) < 0.5)
+        step("back from there", lambda: viewer.key("ctrl+l"), lambda now, _: abs(now["map"]["longitude"] + 149.9) > 0.5)
         step("the layers' tab", lambda: viewer.click(*viewer.tab_middle(1)), active(1))
 
         def tick():
