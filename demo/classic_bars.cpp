@@ -80,6 +80,11 @@ void ClassicBars::Build() {
         bar->SetWindowText(CMultiLanguageMgr::translationW(title, -1, "RibbonBarCfg").c_str());
     }
     FillCombos();
+    int customize = 0;
+    if (CMenuIdMgr::Ins()->GetMenuId(L"CustomizeBars", customize)) {
+        m_frame->EnablePaneMenu(TRUE, static_cast<UINT>(customize),
+                                CMultiLanguageMgr::translation(L"CustomizeBars", "RibbonBarCfg").c_str(), 0, TRUE);
+    }
 }
 
 // They come from the file side by side; hidden until they are wanted.

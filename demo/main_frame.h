@@ -136,6 +136,7 @@ private:
     void ToggleQuickAccessBelow() override;
     bool IsQuickAccessBelow() const override;
     void ToggleClassicBars() override;
+    void CustomizeBars() override;
     bool AreClassicBarsShown() const override { return m_bars.IsShown(); }
     BOOL GetToolbarButtonToolTipText(CMFCToolBarButton* button, CString& text) override;
     void CopyPicture() override;

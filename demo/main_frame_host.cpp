@@ -192,6 +192,14 @@ bool CMainFrame::IsQuickAccessBelow() const { return !m_ribbon.IsQuickAccessTool
 
 void CMainFrame::ToggleClassicBars() { ShowClassicBars(!m_bars.IsShown()); }
 
+void CMainFrame::CustomizeBars() {
+    if (!m_bars.IsShown()) {
+        ShowClassicBars(true);
+    }
+    // It deletes itself; a second one does not open. There are no large icons to show.
+    (new CMFCToolBarsCustomizeDialog(this, TRUE, AFX_CUSTOMIZE_NOHELP | AFX_CUSTOMIZE_NO_LARGE_ICONS))->Create();
+}
+
 void CMainFrame::ShowClassicBars(bool isShown) {
     if (isShown) {
         m_bars.ShowState(m_controls.ChosenLayer());

@@ -324,6 +324,7 @@ boost::shared_ptr<CMenuReactor> MakeSettingsReactor(ViewerHost& host) {
     reactor->Serve(L"options", [&host](const std::wstring&) { host.AskOptions(); });
     reactor->Serve(L"search", [&host](const std::wstring&) { host.ShowCommandSearch(); });
     reactor->Serve(L"keyboard", [&host](const std::wstring&) { host.TellKeyboard(); });
+    reactor->Serve(L"customize", [&host](const std::wstring&) { host.CustomizeBars(); });
     reactor->Serve(L"about", [&host](const std::wstring&) { host.TellAbout(); });
     return reactor;
 }

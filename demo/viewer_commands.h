@@ -42,6 +42,8 @@ public:
     virtual bool IsQuickAccessBelow() const = 0;
     /// Menu bar and toolbars in the ribbon's place.
     virtual void ToggleClassicBars() = 0;
+    /// Opens the dialog for toolbars and shortcuts, and shows the bars if they are hidden.
+    virtual void CustomizeBars() = 0;
     virtual bool AreClassicBarsShown() const = 0;
     /// A picture of the map as it is on the screen: to the clipboard, or to a file that the user names.
     virtual void CopyPicture() = 0;
