@@ -238,6 +238,7 @@ class WholeSession(unittest.TestCase):
         step("and back", lambda: viewer.key("ctrl+F1"), lambda now, _: not now["ribbonMinimized"])
         step("minimise by a tab", lambda: viewer.double_click(*viewer.tab_middle(2)), lambda now, _: now["ribbonMinimized"])
         step("and back by it", lambda: viewer.double_click(*viewer.tab_middle(2)), lambda now, _: not now["ribbonMinimized"])
+        viewer.settled_look()  # the ribbon comes back in steps
         own = session.language
         for language in [other for other in LANGUAGES if other != own] + [own]:
             def speaks(now, _, language=language):
