@@ -46,6 +46,48 @@ int IndexOf(CMFCPopupMenu& menu, UINT entry) {
     return -1;
 }
 
+/// The panes to be shown and hidden, and below them the command that changes the bars.
+class PaneMenu : public CMFCPopupMenu {
+public:
+    explicit PaneMenu(const PaneMenuContent& content) : m_content(content) {}
+
+protected:
+    BOOL InitMenuBar() override {
+        if (!CMFCPopupMenu::InitMenuBar()) {
+            return FALSE;
+        }
+        for (const CPane* const pane : m_content.panes) {
+            CString name;
+            pane->GetPaneName(name);
+            InsertItem(PaneItem(*pane, name));
+        }
+        if (m_content.customizeCommand != 0) {
+            if (!m_content.panes.empty()) {
+                InsertSeparator();
+            }
+            InsertItem(CMFCToolBarMenuButton(m_content.customizeCommand, nullptr, -1, m_content.customizeText));
+        }
+        return TRUE;
+    }
+
+private:
+    const PaneMenuContent& m_content; ///< only until the window is there
+};
+
+void ShowMenuOfPanes(CWnd& frame, CPoint point, const PaneMenuContent& content) {
+    if (content.panes.empty() && content.customizeCommand == 0) {
+        return;
+    }
+    CMFCPopupMenu::CloseAll();
+    // The window deletes the object, also where it cannot be made.
+    (new PaneMenu(content))->Create(&frame, point.x, point.y, nullptr);
+}
+
+[[maybe_unused]] const bool g_isShowerSet = [] {
+    SetPaneMenuShower(&ShowMenuOfPanes);
+    return true;
+}();
+
 } // namespace
 
 void ShowPanesInMenu(CMFCPopupMenu& menu, UINT entry, const CObList& panes, bool showsToolbarsOnly) {

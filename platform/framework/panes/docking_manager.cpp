@@ -253,28 +253,6 @@ void CDockingManager::OnPaneContextMenu(CPoint point) {
     if (!m_hasPaneMenu || !m_pParentWnd) {
         return;
     }
-    const std::vector<CPane*> offered = PanesForMenu(m_lstControlBars, m_paneMenuOfToolbarsOnly);
-    CMenu menu;
-    menu.CreatePopupMenu();
-    UINT number = 0;
-    for (const CPane* pane : offered) {
-        CString name;
-        pane->GetPaneName(name);
-        menu.AppendMenu(MF_STRING | (pane->IsVisible() ? MF_CHECKED : MF_UNCHECKED), ++number, name);
-    }
-    const UINT customize = static_cast<UINT>(offered.size()) + 1;
-    if (m_customizeCommand) {
-        if (!offered.empty()) {
-            menu.AppendMenu(MF_SEPARATOR);
-        }
-        menu.AppendMenu(MF_STRING, customize, m_customizeText);
-    }
-    const auto choice =
-        static_cast<UINT>(menu.TrackPopupMenu(TPM_RETURNCMD | TPM_RIGHTBUTTON, point.x, point.y, m_pParentWnd));
-    if (choice == customize && m_customizeCommand) {
-        m_pParentWnd->SendMessage(WM_COMMAND, m_customizeCommand);
-    } else if (choice > 0 && choice <= offered.size()) {
-        CPane* pane = offered[choice - 1];
-        pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
-    }
+    ShowPaneMenu(*m_pParentWnd, point,
+                 {PanesForMenu(m_lstControlBars, m_paneMenuOfToolbarsOnly), m_customizeCommand, m_customizeText});
 }

@@ -1,5 +1,20 @@
 #include "panes/pane_menu.h"
 
+namespace {
+
+// Initialised before any code runs: the rooms above set it while the library is loaded.
+constinit PaneMenuShower g_shower = nullptr;
+
+} // namespace
+
+void SetPaneMenuShower(PaneMenuShower shower) { g_shower = shower; }
+
+void ShowPaneMenu(CWnd& frame, CPoint point, const PaneMenuContent& content) {
+    if (g_shower != nullptr) {
+        g_shower(frame, point, content);
+    }
+}
+
 std::vector<CPane*> PanesForMenu(const CObList& panes, bool showsToolbarsOnly) {
     std::vector<CPane*> offered;
     for (POSITION position = panes.GetHeadPosition(); position;) {
