@@ -111,7 +111,8 @@ MapBars CMapPane::BarsIn(CSize size) const {
 
 // A map that is seen whole along an axis has the room of that axis's bar.
 void CMapPane::PlaceParts(CSize size) {
-    m_bars = BarsIn(size);
+    // The first size is the one that the whole map is made to fit into.
+    m_bars = m_state.WindowWidth() > 1 ? BarsIn(size) : MapBars{};
     const int breadth = m_down.GetScrollWidth();
     const int list = ListWidth(size.cx);
     const int left = list + afxGlobalData.ScalePixels(1);
