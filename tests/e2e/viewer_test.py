@@ -66,9 +66,7 @@ class ClickOnARibbonButton(unittest.TestCase):
             viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "Map")
 
 
-class ClassicBars(unittest.TestCase):
-    """Menu bar and toolbars in the ribbon's place, by real keys and the mouse."""
-
+class WithClassicBars(unittest.TestCase):
     def open(self, *arguments):
         return Viewer(BIN_DIR, "--lang", "en", "--bars", "classic", *arguments)
 
@@ -88,6 +86,10 @@ class ClassicBars(unittest.TestCase):
                 if button.get("id") == wanted:
                     return self.middle(place)
         raise AssertionError(f"no button {keyword}")
+
+
+class ClassicBars(WithClassicBars):
+    """Menu bar and toolbars in the ribbon's place, by real keys and the mouse."""
 
     def items_of(self, record, class_name):
         return next(button for bar in record["frame"]["toolbars"] for button in bar["buttons"] if button.get("class") == class_name)["items"]
@@ -109,6 +111,21 @@ class ClassicBars(unittest.TestCase):
                 self.assertAlmostEqual(self.scale(viewer.record), 2 * before)
                 viewer.key("ctrl+m")
                 viewer.wait_for(lambda record: record["classicBars"])
+
+    def test_a_shortcut_acts_once_with_a_file_open_and_without(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "place.geojson")
+            with open(path, "w", encoding="utf-8") as file:
+                file.write('{"type": "Point", "coordinates": [10, 20]}')
+            for arguments, opened in (((), 0), (("--open", path), 1)):
+                with self.open(*arguments) as viewer:
+                    viewer.wait_for(lambda record: record["map"]["opened"] == opened)
+                    whole = 3  # about; the one place of the file has brought the map as near as it comes
+                    viewer.key("ctrl+w")
+                    before = self.scale(viewer.wait_for(lambda record: abs(self.scale(record) - whole) < 0.3))
+                    viewer.key("ctrl+i")
+                    viewer.wait_for(lambda record: self.scale(record) != before)
+                    self.assertAlmostEqual(self.scale(viewer.record), 2 * before)
 
     def test_a_toolbar_button_does_what_the_ribbons_does(self):
         with self.open() as viewer:
@@ -170,6 +187,46 @@ class ClassicBars(unittest.TestCase):
             before = self.scale(viewer.record)
             viewer.key("ctrl+i")
             viewer.wait_for(lambda record: self.scale(record) != before)
+
+
+class CustomizeDialog(WithClassicBars):
+    """The dialog for toolbars and shortcuts, over the viewer's bars."""
+
+    def open_dialog(self, viewer):
+        viewer.key("alt+s")
+        viewer.key("c")
+        self.wait_for_dialog(viewer)
+
+    @staticmethod
+    def wait_for_dialog(viewer, is_there=True):
+        viewer.wait_until(lambda: bool(viewer.windows("Customize")) == is_there, "the dialog")
+
+    def has_button(self, record, viewer, keyword):
+        wanted = viewer.id_of(keyword)
+        return any(button.get("id") == wanted for bar in record["frame"]["toolbars"] for button in bar["buttons"])
+
+    def test_the_menu_opens_it_and_a_button_is_dragged_off_its_bar(self):
+        with self.open() as viewer:
+            x, y = self.button_of(viewer, "ZoomIn")
+            scale = self.scale(viewer.record)
+            self.open_dialog(viewer)
+            viewer.click(x, y)
+            viewer.drag(x, y, 40, 700)
+            viewer.wait_for(lambda record: not self.has_button(record, viewer, "ZoomIn"))
+            self.assertEqual(self.scale(viewer.record), scale)  # the click was none of the button's
+            # Without a window manager the frame has come to lie over its own dialog.
+            viewer.act("search", "--name", "^Customize$", "windowraise", "%1", "sleep", 0.2, "mousemove", "--window", "%1", 200, 10, "click", 1, "sleep", 0.2)
+            viewer.key("Escape")
+            self.wait_for_dialog(viewer, False)
+            viewer.click(*self.button_of(viewer, "ZoomOut"))
+            viewer.wait_for(lambda record: self.scale(record) == scale / 2)
+
+    def test_a_right_click_on_a_toolbar_leads_to_it(self):
+        with self.open() as viewer:
+            x, y = self.button_of(viewer, "ZoomIn")
+            viewer.act("mousemove", x, y, "sleep", 0.2, "click", 3, "sleep", 0.5)
+            viewer.key("Up", "Return")  # the last one
+            self.wait_for_dialog(viewer)
 
 
 class ApplicationMenu(unittest.TestCase):
