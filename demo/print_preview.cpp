@@ -31,16 +31,17 @@ struct ButtonRow {
     const char* name; ///< In the record.
     const char* text;
     const wchar_t* icon;
+    const wchar_t* mirroredIcon; ///< Where one reads from the right.
     bool beginsGroup;
 };
 /// In the order of ButtonId. The number of the page stands between its two buttons.
-constexpr std::array<ButtonRow, 7> kRows = {{{"print", "PreviewPrint", L"print-page", false},
-                                             {"previous", "PreviewPrevious", L"pan-west", true},
-                                             {"next", "PreviewNext", L"pan-east", false},
-                                             {"larger", "PreviewLarger", L"zoom-in", true},
-                                             {"smaller", "PreviewSmaller", L"zoom-out", false},
-                                             {"whole", "PreviewWhole", L"page-portrait", false},
-                                             {"close", "PreviewClose", L"close", true}}};
+constexpr std::array<ButtonRow, 7> kRows = {{{"print", "PreviewPrint", L"print-page", L"print-page", false},
+                                             {"previous", "PreviewPrevious", L"pan-west", L"pan-east", true},
+                                             {"next", "PreviewNext", L"pan-east", L"pan-west", false},
+                                             {"larger", "PreviewLarger", L"zoom-in", L"zoom-in", true},
+                                             {"smaller", "PreviewSmaller", L"zoom-out", L"zoom-out", false},
+                                             {"whole", "PreviewWhole", L"page-portrait", L"page-portrait", false},
+                                             {"close", "PreviewClose", L"close", L"close", true}}};
 
 struct KeyRow {
     UINT key;
@@ -98,7 +99,9 @@ void CPrintPreview::Show(CWnd& owner, const std::wstring& title) {
 bool CPrintPreview::MakeControls() {
     SetDefaultButton(IdPrint);
     for (std::size_t i = 0; i < kButtons; ++i) {
-        if (!AddButton(m_buttons[i], kFirstButton + static_cast<UINT>(i), ViewerText(kRows[i].text), kRows[i].icon)) {
+        const ButtonRow& row = kRows[i];
+        if (!AddButton(m_buttons[i], kFirstButton + static_cast<UINT>(i), ViewerText(row.text),
+                       IsMirrored() ? row.mirroredIcon : row.icon)) {
             return false;
         }
     }
