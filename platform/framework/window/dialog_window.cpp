@@ -1,4 +1,5 @@
 #include "afxwin.h"
+#include "window/disabled_owner.h"
 #include "window/frame_keys.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -116,37 +117,21 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
 }
 
 INT_PTR CDialog::DoModal() {
-    HWND topWindow = nullptr;
-    CWnd* owner = CWnd::GetSafeOwner(m_pParentWnd, &topWindow);
-    const HWND ownerWindow = owner->GetSafeHwnd();
-    const bool isOwnerDisabled = ownerWindow && ::IsWindowEnabled(ownerWindow);
-    if (isOwnerDisabled) {
-        ::EnableWindow(ownerWindow, FALSE);
-    }
-
+    fx::DisabledOwner owner(m_pParentWnd);
     m_nModalResult = -1;
     m_isModal = true;
     const auto end = [&] {
         if (m_hWnd) {
             SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
         }
-        // The owner is enabled before the dialog goes, else the system would activate another program's window.
-        if (isOwnerDisabled) {
-            ::EnableWindow(ownerWindow, TRUE);
-            if (m_hWnd && ::GetActiveWindow() == m_hWnd) {
-                ::SetActiveWindow(ownerWindow);
-            }
-        }
+        owner.Enable(m_hWnd);
         m_isModal = false;
         DestroyWindow();
-        if (topWindow) {
-            ::EnableWindow(topWindow, TRUE);
-        }
     };
     try {
-        CreateAndRunModal(owner);
+        CreateAndRunModal(owner.Get());
     } catch (...) {
-        end(); // else nobody could use the owner any more
+        end();
         throw;
     }
     end();

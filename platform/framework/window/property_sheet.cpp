@@ -1,5 +1,6 @@
 #include "afxdlgs.h"
 
+#include "window/disabled_owner.h"
 #include "window/frame_keys.h"
 
 #include <algorithm>
@@ -190,35 +191,20 @@ void CPropertySheet::CutButtons() {
 BOOL CPropertySheet::OnInitDialog() { return TRUE; }
 
 INT_PTR CPropertySheet::DoModal() {
-    HWND topWindow = nullptr;
-    CWnd* const owner = CWnd::GetSafeOwner(m_pParentWnd, &topWindow);
-    const HWND ownerWindow = owner->GetSafeHwnd();
-    const bool isOwnerDisabled = ownerWindow && ::IsWindowEnabled(ownerWindow);
-    if (isOwnerDisabled) {
-        ::EnableWindow(ownerWindow, FALSE);
-    }
-    const auto end = [&] {
-        // The owner is enabled before the sheet goes, else the system would activate another program's window.
-        if (isOwnerDisabled) {
-            ::EnableWindow(ownerWindow, TRUE);
-            if (m_hWnd && ::GetActiveWindow() == m_hWnd) {
-                ::SetActiveWindow(ownerWindow);
-            }
-        }
-        m_isModal = false;
-        DestroyWindow();
-        if (topWindow) {
-            ::EnableWindow(topWindow, TRUE);
-        }
-    };
+    fx::DisabledOwner owner(m_pParentWnd);
     m_nModalResult = -1;
     m_isModal = true;
+    const auto end = [&] {
+        owner.Enable(m_hWnd);
+        m_isModal = false;
+        DestroyWindow();
+    };
     try {
-        if (Make(owner, 0, 0)) {
+        if (Make(owner.Get(), 0, 0)) {
             RunModal();
         }
     } catch (...) {
-        end(); // else nobody could use the owner any more
+        end();
         throw;
     }
     end();
