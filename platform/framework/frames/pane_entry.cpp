@@ -1,40 +1,22 @@
 #include "frames/pane_entry.h"
 
 #include "afxpopupmenu.h"
+#include "frames/window_item.h"
 #include "panes/pane_menu.h"
 
 namespace {
 
-/// Shows and hides a pane; no command is sent.
-class PaneItem : public CMFCToolBarMenuButton {
-    DECLARE_DYNCREATE(PaneItem)
-
-public:
-    PaneItem() = default;
-    PaneItem(const CPane& pane, LPCTSTR name)
-        : CMFCToolBarMenuButton(static_cast<UINT>(-1), nullptr, -1, name), m_pane(pane.GetSafeHwnd()) {
-        m_nStyle |= pane.IsVisible() ? TBBS_CHECKED : 0;
+void SwitchPane(HWND window) {
+    if (CPane* const pane = DYNAMIC_DOWNCAST(CPane, CWnd::FromHandlePermanent(window))) {
+        pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
     }
+}
 
-    void CopyFrom(const CMFCToolBarButton& src) override {
-        CMFCToolBarMenuButton::CopyFrom(src);
-        m_pane = static_cast<const PaneItem&>(src).m_pane;
-    }
-
-    BOOL OnClickMenuItem() override {
-        const HWND window = m_pane;
-        CMFCPopupMenu::CloseAll(); // this item is gone
-        if (CPane* const pane = DYNAMIC_DOWNCAST(CPane, CWnd::FromHandlePermanent(window))) {
-            pane->ShowPane(!pane->IsVisible(), FALSE, FALSE);
-        }
-        return TRUE;
-    }
-
-private:
-    HWND m_pane = nullptr; ///< may be destroyed while the menu is open
-};
-
-IMPLEMENT_DYNCREATE(PaneItem, CMFCToolBarMenuButton)
+WindowItem ItemOf(const CPane& pane) {
+    CString name;
+    pane.GetPaneName(name);
+    return {pane.GetSafeHwnd(), &SwitchPane, pane.IsVisible() != FALSE, name};
+}
 
 int IndexOf(CMFCPopupMenu& menu, UINT entry) {
     for (int index = 0; index < menu.GetMenuItemCount(); ++index) {
@@ -57,9 +39,7 @@ protected:
             return FALSE;
         }
         for (const CPane* const pane : m_content.panes) {
-            CString name;
-            pane->GetPaneName(name);
-            InsertItem(PaneItem(*pane, name));
+            InsertItem(ItemOf(*pane));
         }
         if (m_content.customizeCommand != 0) {
             if (!m_content.panes.empty()) {
@@ -78,7 +58,6 @@ void ShowMenuOfPanes(CWnd& frame, CPoint point, const PaneMenuContent& content) 
     if (content.panes.empty() && content.customizeCommand == 0) {
         return;
     }
-    CMFCPopupMenu::CloseAll();
     // The window deletes the object, also where it cannot be made.
     (new PaneMenu(content))->Create(&frame, point.x, point.y, nullptr);
 }
@@ -98,9 +77,7 @@ void ShowPanesInMenu(CMFCPopupMenu& menu, UINT entry, const CObList& panes, bool
     }
     int next = place + 1;
     for (const CPane* pane : offered) {
-        CString name;
-        pane->GetPaneName(name);
-        menu.InsertItem(PaneItem(*pane, name), next++);
+        menu.InsertItem(ItemOf(*pane), next++);
     }
     menu.RemoveItem(place);
 }

@@ -1,6 +1,7 @@
 #include "frames/window_list.h"
 
 #include "afxpopupmenu.h"
+#include "frames/window_item.h"
 #include "fx/mdi.h"
 
 #include <algorithm>
@@ -10,38 +11,15 @@ namespace {
 
 constexpr int kMostChildren = 9; ///< each has a digit as its mnemonic
 
-/// Brings a child to the front; no command is sent.
-class WindowItem : public CMFCToolBarMenuButton {
-    DECLARE_DYNCREATE(WindowItem)
-
-public:
-    WindowItem() = default;
-    WindowItem(HWND child, bool isActive, LPCTSTR text)
-        : CMFCToolBarMenuButton(static_cast<UINT>(-1), nullptr, -1, text), m_child(child) {
-        m_nStyle |= isActive ? TBBS_CHECKED : 0;
+void BringToFront(HWND child) {
+    const HWND client = ::GetParent(child);
+    if (::IsWindow(child) && ::IsIconic(child)) {
+        ::SendMessageW(client, WM_MDIRESTORE, reinterpret_cast<WPARAM>(child), 0);
     }
-    void CopyFrom(const CMFCToolBarButton& src) override {
-        CMFCToolBarMenuButton::CopyFrom(src);
-        m_child = static_cast<const WindowItem&>(src).m_child;
+    if (::IsWindow(child)) {
+        ::SendMessageW(client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(child), 0);
     }
-    BOOL OnClickMenuItem() override {
-        const HWND child = m_child;
-        CMFCPopupMenu::CloseAll(); // this item is gone
-        const HWND client = ::GetParent(child);
-        if (::IsWindow(child) && ::IsIconic(child)) {
-            ::SendMessageW(client, WM_MDIRESTORE, reinterpret_cast<WPARAM>(child), 0);
-        }
-        if (::IsWindow(child)) {
-            ::SendMessageW(client, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(child), 0);
-        }
-        return TRUE;
-    }
-
-private:
-    HWND m_child = nullptr; ///< may be closed while the menu is open
-};
-
-IMPLEMENT_DYNCREATE(WindowItem, CMFCToolBarMenuButton)
+}
 
 bool IsArranging(UINT id) { return id >= ID_WINDOW_NEW && id <= ID_WINDOW_TILE_VERT; }
 bool IsOfSystemsList(UINT id) { return id >= AFX_IDM_FIRST_MDICHILD && id <= AFX_IDM_FIRST_MDICHILD + kMostChildren; }
@@ -105,6 +83,7 @@ void ListChildWindows(CMFCPopupMenu& menu, CMDIFrameWnd& frame) {
             menu.InsertSeparator();
         }
         const HWND child = children[static_cast<std::size_t>(number - 1)];
-        menu.InsertItem(WindowItem(child, active != nullptr && active->m_hWnd == child, ItemText(child, number)));
+        menu.InsertItem(
+            WindowItem(child, &BringToFront, active != nullptr && active->m_hWnd == child, ItemText(child, number)));
     }
 }
