@@ -39,8 +39,8 @@ public:
     /// 0 black, 1 silver; any other number is kept and changes nothing that is seen.
     virtual void SetSkin(UINT skin);
 
-    /// Takes colours and images of the skin, of the files as they are now. Tells the user by a message box when the
-    /// installation directory is unknown, and changes nothing then.
+    /// Takes the colours and the names of the images of the skin. Tells the user by a message box when the installation
+    /// directory is unknown, and changes nothing then.
     void UpdateSkin(UINT skin);
 
     /// How broad a bar is for the arrows that it has: two pixels more than they. Show it anew (InitThumb) afterwards.
@@ -61,8 +61,9 @@ public:
     void SetSilverSideColor(COLORREF color);
 
     // Image files of the bar's present direction; below the installation directory unless said otherwise. The thumb's
-    // two images (at rest, and under the pointer), and the arrows. An image that cannot be loaded is left out. On a
-    // display of 125, 150 or 200 % NAME.150.png and so on is taken instead of NAME.png where it lies beside it.
+    // two images (at rest, and under the pointer), and the arrows. Files are looked at whenever the bar is drawn: one
+    // that has changed is shown as it is now, one that cannot be loaded is left out. On a display of 125, 150 or 200 %
+    // NAME.150.png and so on is taken instead of NAME.png where it lies beside it when the skin is taken.
     CString GetBlackNormalPath() const;
     void SetBlackNormalPath(const CString& path);
     CString GetBlackClickPath() const;

@@ -85,7 +85,7 @@ void CScrollBarBase::UpdateSkin(UINT skin) {
         m_currentPaths[image] = wstring2CString(path);
         files[image] = FileForScale(path);
     }
-    m_images->Take(files);
+    m_images->SetFiles(files);
     if (GetSafeHwnd()) {
         Invalidate(FALSE);
     }

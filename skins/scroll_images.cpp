@@ -43,17 +43,16 @@ std::unique_ptr<Gdiplus::Bitmap> FitThumb(Gdiplus::Bitmap& image, scroll::Direct
 
 } // namespace
 
-void ScrollImages::Take(const std::array<std::wstring, Count>& paths) {
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        if (m_pictures[i].Take(paths[i])) {
-            m_fitted[i] = {};
-        }
+Gdiplus::Bitmap* ScrollImages::Current(Which which) {
+    if (m_pictures[which].Take(m_paths[which])) {
+        m_fitted[which] = {};
     }
+    return m_pictures[which].Get();
 }
 
 void ScrollImages::DrawCentered(HDC dc, Which which, const Box& box) {
-    Gdiplus::Bitmap* const image = m_pictures[which].Get();
-    if (!image || box.IsEmpty()) {
+    Gdiplus::Bitmap* const image = box.IsEmpty() ? nullptr : Current(which);
+    if (!image) {
         return;
     }
     const Extent size = SizeOf(*image);
@@ -62,8 +61,8 @@ void ScrollImages::DrawCentered(HDC dc, Which which, const Box& box) {
 }
 
 void ScrollImages::DrawThumb(HDC dc, Which which, scroll::Direction direction, const Box& box) {
-    Gdiplus::Bitmap* const image = m_pictures[which].Get();
-    if (!image || box.IsEmpty()) {
+    Gdiplus::Bitmap* const image = box.IsEmpty() ? nullptr : Current(which);
+    if (!image) {
         return;
     }
     Fitted& fitted = m_fitted[which];

@@ -7,14 +7,14 @@
 #include <memory>
 #include <string>
 
-/// The images of a scroll bar: taken from their files with the skin, fitted to the thumb with its length, and then
-/// copied at every draw.
+/// The images of a scroll bar as their files are when they are drawn: a file is decoded when it is first drawn and
+/// after every change, and fitted to the thumb once for each length of it.
 class ScrollImages {
 public:
     enum Which { FirstArrow, SecondArrow, Thumb, PressedThumb, Count };
 
-    /// Reads those that have changed.
-    void Take(const std::array<std::wstring, Count>& paths);
+    /// Nothing is read before it is drawn.
+    void SetFiles(const std::array<std::wstring, Count>& paths) { m_paths = paths; }
     /// In its own size in the middle of the box.
     void DrawCentered(HDC dc, Which which, const scroll::Box& box);
     /// A thumb that fills the box: a longer image gives its ends and as much of the middle as is needed, a shorter one
@@ -29,6 +29,10 @@ private:
         std::unique_ptr<Gdiplus::Bitmap> bitmap;
     };
 
+    /// Null for a file that is no loadable picture now.
+    Gdiplus::Bitmap* Current(Which which);
+
+    std::array<std::wstring, Count> m_paths;
     std::array<SkinPicture, Count> m_pictures;
     std::array<Fitted, Count> m_fitted;
 };

@@ -158,18 +158,23 @@ TEST_F(ScrollBarDrawing, AMissingImageIsLeftOut) {
     EXPECT_EQ(shown.At(9, 190), ArrowColour(0, Down)) << "the others are drawn";
 }
 
-TEST_F(ScrollBarDrawing, ImagesAreDecodedOncePerSkinNotPerPaint) {
+TEST_F(ScrollBarDrawing, AnUnchangedImageIsDecodedOnceNotPerPaint) {
     Open();
-    m_bar.SetSkin(0);
-    const std::size_t before = SkinPicture::GetDecodeCount();
-    for (int i = 0; i < 20; ++i) {
+    const auto showAll = [this] {
         m_bar.RedrawWindow();
         Move(m_bar.ThumbMiddle());
         Leave();
+    };
+    showAll();
+    const std::size_t before = SkinPicture::GetDecodeCount();
+    for (int i = 0; i < 20; ++i) {
+        showAll();
     }
     m_bar.SetSkin(0);
-    EXPECT_EQ(SkinPicture::GetDecodeCount(), before) << "unchanged files are not read again";
+    showAll();
+    EXPECT_EQ(SkinPicture::GetDecodeCount(), before);
     m_bar.SetSkin(1);
+    showAll();
     EXPECT_EQ(SkinPicture::GetDecodeCount(), before + 4);
 }
 
@@ -191,12 +196,37 @@ TEST_F(ScrollBarDrawing, OnALargerDisplayTheFileForItsScaleIsTakenWhereThereIsOn
     afxGlobalData.SetRibbonImageScale(0);
 }
 
-TEST_F(ScrollBarDrawing, AReplacedFileShowsWhenTheSkinIsTakenAgain) {
+TEST_F(ScrollBarDrawing, AReplacedADeletedAndARestoredFileEachShowAtTheVeryNextPaint) {
     Open();
-    WriteSkinPicture(m_folder, "pic/skin/black/upArrow.png", CSize(8, 8), [](int, int) { return RGB(9, 8, 7); });
-    m_bar.SetSkin(0);
-    m_bar.UpdateWindow();
-    EXPECT_EQ(Shown(m_bar).At(9, 9), RGB(9, 8, 7));
+    const char* const arrow = "pic/skin/black/upArrow.png";
+    const char* const thumb = "pic/skin/black/verticalNormal.png";
+    const auto replace = [this](const char* name, CSize size, COLORREF colour) {
+        WriteSkinPicture(m_folder, name, size, [colour](int, int) { return colour; });
+    };
+    const auto arrowAndThumb = [this] {
+        m_bar.RedrawWindow();
+        const Shown shown(m_bar);
+        return std::pair(shown.At(9, 9), shown.At(m_bar.ThumbMiddle()));
+    };
+    const auto first = arrowAndThumb();
+    ASSERT_EQ(first.first, ArrowColour(0, Up));
+    replace(arrow, CSize(8, 8), RGB(9, 8, 7));
+    replace(thumb, CSize(18, 61), RGB(6, 5, 4));
+    EXPECT_EQ(arrowAndThumb(), std::pair(RGB(9, 8, 7), RGB(6, 5, 4)));
+    std::filesystem::remove(m_folder.Path() / arrow);
+    std::filesystem::remove(m_folder.Path() / thumb);
+    EXPECT_EQ(arrowAndThumb(), std::pair(kGround, kGround));
+    replace(arrow, kArrowSize, ArrowColour(0, Up));
+    replace(thumb, kThumbSize, first.second);
+    EXPECT_EQ(arrowAndThumb(), first);
+}
+
+TEST_F(ScrollBarDrawing, AReplacedThumbShowsWhenTheTrackAloneIsDrawn) {
+    Open();
+    WriteSkinPicture(m_folder, "pic/skin/black/verticalNormal.png", CSize(18, 61),
+                     [](int, int) { return RGB(6, 5, 4); });
+    m_bar.OnMouseWheelScroll();
+    EXPECT_EQ(Shown(m_bar).At(m_bar.ThumbMiddle()), RGB(6, 5, 4));
 }
 
 TEST_F(ScrollBarDrawing, PaintingAndSkinsLeaveNothingBehind) {
