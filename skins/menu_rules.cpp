@@ -1,13 +1,15 @@
 #include "skins/menu_rules.h"
 
+#include <fx/geometry.h>
+
 #include <algorithm>
 
 namespace skins {
 
 namespace {
-constexpr int kNearEdge = 50; // a gap narrower than this is closed
-constexpr int kLessAbove = 3, kLessBelow = 4;
-constexpr int kShortening = 5; // one part of so many at each end
+constexpr int kNearEdge = 50;                 // a gap narrower than this is closed
+constexpr int kLessAbove = 3, kLessBelow = 4; // at 96 DPI
+constexpr int kShortening = 5;                // one part of so many at each end
 constexpr int kStatusBeside = 1, kStatusAbove = 5, kStatusBelow = 5, kStatusBelowInFrame = 2;
 } // namespace
 
@@ -23,8 +25,8 @@ CRect MenuSeparatorRect(const MenuSeparatorPlace& place) {
     if (place.clientRight - line.right < kNearEdge) {
         line.right = place.clientRight;
     }
-    line.top += kLessAbove;
-    line.bottom -= kLessBelow;
+    line.top += fx::Scaled(kLessAbove, place.scale);
+    line.bottom -= fx::Scaled(kLessBelow, place.scale);
     return line;
 }
 

@@ -13,9 +13,11 @@ struct MenuSeparatorPlace {
     int imageMargin = 0; ///< the manager's, on each side of it
     bool hasImageColumn = true;
     bool isInPopup = true; ///< the bar lies in a pop-up menu in its ordinary state
+    double scale = 1;      ///< of the display, 1 at 96 DPI
 };
 
 /// The line between a menu's rows: it begins behind the column of images and goes to the bar's edge when that is near.
+/// Of a separator as high as the platform's it is a hairline.
 CRect MenuSeparatorRect(const MenuSeparatorPlace& place);
 
 /// Where the separator of a toolbar is drawn: shortened by a fifth at each end, across (upright) or along the bar.

@@ -76,22 +76,20 @@ void CQKVisualManagerOffice2007Black::OnDrawSeparator(CDC* dc, CBasePane* bar, C
         return;
     }
     auto* const menuBar = DYNAMIC_DOWNCAST(CMFCPopupMenuBar, bar);
-    if (menuBar == nullptr) {
-        DrawToolBarSeparator(dc, rect, horizontal);
-    } else if (!horizontal && !menuBar->IsRibbonPanelInRegularMode()) {
+    if (menuBar != nullptr && !horizontal && !menuBar->IsRibbonPanelInRegularMode()) {
         DrawMenuSeparator(dc, menuBar, rect);
     } else {
-        CMFCVisualManagerOffice2007::OnDrawSeparator(dc, bar, rect, horizontal);
+        DrawToolBarSeparator(dc, rect, horizontal);
     }
 }
 
 void CQKVisualManagerOffice2007Black::DrawMenuSeparator(CDC* dc, CMFCPopupMenuBar* bar, const CRect& rect) {
     CRect client;
     bar->GetClientRect(&client);
-    const CRect line = skins::MenuSeparatorRect({rect, static_cast<int>(client.right),
-                                                 static_cast<int>(bar->GetCurrentMenuImageSize().cx),
-                                                 GetMenuImageMargin(), !bar->m_bDisableSideBarInXPMode,
-                                                 DYNAMIC_DOWNCAST(CMFCPopupMenu, bar->GetParent()) != nullptr});
+    const CRect line = skins::MenuSeparatorRect(
+        {rect, static_cast<int>(client.right), static_cast<int>(bar->GetCurrentMenuImageSize().cx),
+         GetMenuImageMargin(), !bar->m_bDisableSideBarInXPMode,
+         DYNAMIC_DOWNCAST(CMFCPopupMenu, bar->GetParent()) != nullptr, afxGlobalData.GetRibbonImageScale()});
     CPen pen(PS_SOLID, 1, m_clrMenuSeparator);
     CPen* const formerPen = dc->SelectObject(&pen);
     CBrush brush(m_clrMenuSeparator);

@@ -15,7 +15,7 @@ constexpr int kTextGap = 6;     // between the image column and the text
 constexpr int kRightMargin = 10;
 constexpr int kKeysGap = 24;
 constexpr int kArrowColumn = 18;
-constexpr int kSeparatorSpace = 3; // above and below the line
+constexpr int kSeparatorHeight = 8; // three above the line, four below
 
 int ArrowColumn(const MenuRowContent& content, const FaceMetrics& metrics) {
     return content.menu == ButtonMenu::None ? metrics.Scaled(kRightMargin) : metrics.Scaled(kArrowColumn);
@@ -35,7 +35,7 @@ int RoomForRows(int maxHeight, const FaceMetrics& metrics) { return maxHeight - 
 
 int MenuImageColumn(int imageSide, const FaceMetrics& metrics) { return imageSide + 2 * metrics.Scaled(kImageMargin); }
 
-int MenuSeparatorHeight(const FaceMetrics& metrics) { return 2 * metrics.Scaled(kSeparatorSpace) + 1; }
+int MenuSeparatorHeight(const FaceMetrics& metrics) { return metrics.Scaled(kSeparatorHeight); }
 
 Size MeasureMenuRow(const MenuRowContent& content, const FaceMetrics& metrics) {
     const int margins = 2 * metrics.Scaled(kImageMargin);

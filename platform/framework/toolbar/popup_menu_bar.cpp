@@ -25,7 +25,7 @@ int CMFCPopupMenuBar::m_nLastCommandIndex = -1;
 namespace {
 
 constexpr int gutterMargin = 4, rowPadding = 3, textPadding = 3, listTextMargin = 4, textMargin = 8, arrowColumn = 18;
-constexpr int separatorHeight = 5;
+constexpr int separatorHeight = 8; // three above the line, four below
 
 CFrameWnd* FrameOf(CWnd* target) {
     auto* const frame = DYNAMIC_DOWNCAST(CFrameWnd, target);
