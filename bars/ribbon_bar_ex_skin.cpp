@@ -37,7 +37,7 @@ CQKVisualManagerOffice2007Black* BlackInUse() {
 
 } // namespace
 
-void CMFCRibbonBarEx::ChangeSkinColor(int nStyle, BOOL bFlag) {
+void CMFCRibbonBarEx::ChangeSkinColor(int nStyle, bool bFlag) {
     const fx::WindowGuard guard(this);
     const bool hasWindow = GetSafeHwnd() != nullptr;
     const bool isSilver = nStyle == kSilverStyle;
@@ -58,7 +58,7 @@ void CMFCRibbonBarEx::ChangeSkinColor(int nStyle, BOOL bFlag) {
     if (!isSilver) {
         SetTooltipColors(skin->GetToolTipInfo());
     }
-    skin->m_bSkinFlag = bFlag;
+    skin->m_bSkinFlag = bFlag ? TRUE : FALSE;
 }
 
 void CMFCRibbonBarEx::RestoreTooltipColors() const {

@@ -129,7 +129,7 @@ void HoverAcrossPanels() {
 void FirstPaint() { PaintWhole(); }
 
 void SwitchSkin() {
-    Ribbon().ChangeSkinColor(1 - Ribbon().GetSkinStyle(), TRUE);
+    Ribbon().ChangeSkinColor(1 - Ribbon().GetSkinStyle(), true);
     g_frame->RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
 }
 

@@ -427,7 +427,7 @@ void CMainFrame::ApplySkin() {
         CMFCRibbonUNIcoButton::SetSkinStyle(skin->iconStyle);
         m_helpHint.TakeIcons(skin->icons);
         m_pane.SetSkin(static_cast<UINT>(skin->style));
-        m_ribbon.ChangeSkinColor(skin->style, TRUE); // which paints all that the frame shows
+        m_ribbon.ChangeSkinColor(skin->style, true); // which paints all that the frame shows
     }
 }
 

@@ -16,7 +16,7 @@ void CViewerRibbon::SetQuickAccessMenuTip(const CString& text) {
 }
 
 // A switch of the skin ends the look that gives the button its height. What is painted on the way would be seen.
-void CViewerRibbon::ChangeSkinColor(int nStyle, BOOL bFlag) {
+void CViewerRibbon::ChangeSkinColor(int nStyle, bool bFlag) {
     {
         const fx::ScopedChange<bool> between(m_isBetweenSkins, true);
         CMFCRibbonBarEx::ChangeSkinColor(nStyle, bFlag);

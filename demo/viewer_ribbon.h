@@ -18,7 +18,7 @@ public:
     /// the button that changes the skin.
     void SetQuickAccessMenuTip(const CString& text);
 
-    void ChangeSkinColor(int nStyle, BOOL bFlag) override;
+    void ChangeSkinColor(int nStyle, bool bFlag) override;
     BOOL OnShowRibbonContextMenu(CWnd* window, int x, int y, CMFCRibbonBaseElement* hit) override;
 
 protected:

@@ -58,7 +58,7 @@ public:
 
     /// Brings a skin into force in the whole program: 1 is silver, any other number black. The flag is kept with the
     /// skin's visual manager, for the host. Windows are drawn again at once, so the host may end the bar meanwhile.
-    void ChangeSkinColor(int nStyle, BOOL bFlag) override;
+    void ChangeSkinColor(int nStyle, bool bFlag) override;
 
     /// Shows the host's menu (setHMenu) at a point of the screen and returns when it has closed. What was chosen is
     /// posted to the main window as a command, 0 when nothing was. Then the element, where the menu was raised on one

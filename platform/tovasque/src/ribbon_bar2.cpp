@@ -9,9 +9,9 @@ CMFCRibbonBar2::CMFCRibbonBar2(int nReplaceFrameCaption) : CMFCRibbonBar(nReplac
 
 CMFCRibbonBar2::~CMFCRibbonBar2() = default;
 
-void CMFCRibbonBar2::ChangeSkinColor(int nStyle, BOOL bFlag) {
+void CMFCRibbonBar2::ChangeSkinColor(int nStyle, bool bFlag) {
     m_nSkinStyle = nStyle;
-    m_bSkinFlag = bFlag;
+    m_bSkinFlag = bFlag ? TRUE : FALSE;
     if (GetSafeHwnd() != nullptr) {
         Invalidate();
     }

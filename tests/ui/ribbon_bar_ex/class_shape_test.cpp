@@ -1,6 +1,8 @@
 // What the class is, and what its base keeps for it.
 #include "tests/ui/ribbon_bar_ex/extended_bar.h"
 
+#include <utility>
+
 namespace {
 
 TEST(ExtendedBarClass, IsKnownByItsNameAndDerivesFromTheRibbonBase) {
@@ -14,6 +16,23 @@ TEST(ExtendedBarClass, TheConstructorsNumberIsTheBasesOwn) {
     EXPECT_TRUE(CMFCRibbonBarEx().IsReplaceFrameCaption());
     EXPECT_TRUE(CMFCRibbonBarEx(1).IsReplaceFrameCaption());
     EXPECT_FALSE(CMFCRibbonBarEx(0).IsReplaceFrameCaption());
+}
+
+/// Overrides what a host may override, with the types that it has there.
+class HostsBar : public CMFCRibbonBarEx {
+public:
+    void ChangeSkinColor(int style, bool flag) override { m_asked = {style, flag}; }
+    BOOL OnShowRibbonContextMenu(CWnd*, int, int, CMFCRibbonBaseElement*) override { return TRUE; }
+    void OnPaneContextMenu(CWnd*, CPoint) override { m_asked = {-1, false}; }
+
+    std::pair<int, bool> m_asked;
+};
+
+TEST(ExtendedBarClass, AHostsBarChangesTheSkinWhereItsBasesAreAskedTo) {
+    HostsBar bar;
+    static_cast<CMFCRibbonBar2&>(bar).ChangeSkinColor(1, true);
+    EXPECT_EQ(bar.m_asked, std::pair(1, true));
+    EXPECT_EQ(bar.GetSkinStyle(), 0) << "and its base was not asked";
 }
 
 TEST(ExtendedBarClass, ANewBarHasNoPathAndNoRange) {

@@ -230,7 +230,7 @@ protected:
     /// A frame made in the skin, in use.
     void Open(int style) {
         // As a host starts: the skin first, then its windows.
-        CMFCRibbonBarEx().ChangeSkinColor(style, TRUE);
+        CMFCRibbonBarEx().ChangeSkinColor(style, true);
         m_frame = new WholeFrame;
         ASSERT_TRUE(m_frame->Make());
         m_window = m_frame->GetSafeHwnd();
@@ -265,13 +265,13 @@ TEST_P(LiveSwitch, EverythingShowsWhatAFrameShowsThatWasMadeInTheSkin) {
         const std::vector<Picture> fresh = PhotographWindows(*m_frame);
         Close();
         Open(style == kSilver ? kBlack : kSilver);
-        m_frame->bar.ChangeSkinColor(style, TRUE);
+        m_frame->bar.ChangeSkinColor(style, true);
         const std::vector<Picture> switched = PhotographWindows(*m_frame);
         EXPECT_TRUE(ShowTheSame(fresh, switched)) << "style " << style;
         // And after a way there and back.
-        m_frame->bar.ChangeSkinColor(style == kSilver ? kBlack : kSilver, TRUE);
+        m_frame->bar.ChangeSkinColor(style == kSilver ? kBlack : kSilver, true);
         PumpPending();
-        m_frame->bar.ChangeSkinColor(style, TRUE);
+        m_frame->bar.ChangeSkinColor(style, true);
         EXPECT_TRUE(ShowTheSame(fresh, PhotographWindows(*m_frame))) << "style " << style;
         Save(fresh, L"fresh" + std::to_wstring(style));
         Save(switched, L"switched" + std::to_wstring(style));
@@ -285,7 +285,7 @@ class ManySwitches : public LiveSwitch {};
 TEST_P(ManySwitches, AThousandSwitchesLeaveNothingBehind) {
     Open(kSilver);
     EXPECT_TRUE(RepeatedLeavesNothingBehind(10, 1000, [this](int round) {
-        m_frame->bar.ChangeSkinColor(round % 2, round % 3 == 0 ? TRUE : FALSE);
+        m_frame->bar.ChangeSkinColor(round % 2, round % 3 == 0);
         if (round % 20 < 2) {
             PumpPending(); // paints
         }

@@ -27,7 +27,7 @@ protected:
 };
 
 TEST_F(SkinSwitch, StyleOneIsSilver) {
-    Bar().ChangeSkinColor(1, TRUE);
+    Bar().ChangeSkinColor(1, true);
     EXPECT_EQ(InUse(), RUNTIME_CLASS(CQKVisualManagerOffice2007Silver));
     EXPECT_TRUE(Skin().m_bIsSkin);
     EXPECT_TRUE(Skin().m_bSkinFlag);
@@ -38,8 +38,8 @@ TEST_F(SkinSwitch, StyleOneIsSilver) {
 
 TEST_F(SkinSwitch, EveryOtherStyleIsBlack) {
     for (const int style : {0, 2, 7, -1, INT_MIN, INT_MAX}) {
-        Bar().ChangeSkinColor(1, FALSE);
-        Bar().ChangeSkinColor(style, FALSE);
+        Bar().ChangeSkinColor(1, false);
+        Bar().ChangeSkinColor(style, false);
         EXPECT_EQ(InUse(), RUNTIME_CLASS(CQKVisualManagerOffice2007Black)) << style;
         EXPECT_TRUE(Skin().m_bIsSkin);
         EXPECT_EQ(Bar().GetTextColor(), 0xFFFFFFu);
@@ -49,9 +49,9 @@ TEST_F(SkinSwitch, EveryOtherStyleIsBlack) {
 
 TEST_F(SkinSwitch, TheFlagIsKeptWithTheSkinsManager) {
     for (const int style : {0, 1}) {
-        for (const BOOL flag : {TRUE, FALSE}) {
+        for (const bool flag : {true, false}) {
             Bar().ChangeSkinColor(style, flag);
-            EXPECT_EQ(Skin().m_bSkinFlag, flag) << style;
+            EXPECT_EQ(Skin().m_bSkinFlag, flag ? TRUE : FALSE) << style;
             EXPECT_TRUE(Skin().m_bIsSkin) << style;
         }
     }
@@ -61,14 +61,14 @@ TEST_F(SkinSwitch, BothSkinsDockSmartlyAndTurnTheWindowsSevenLookOff) {
     for (const int style : {0, 1}) {
         CDockingManager::SetDockingMode(DT_STANDARD);
         Bar().SetWindows7Look(TRUE);
-        Bar().ChangeSkinColor(style, FALSE);
+        Bar().ChangeSkinColor(style, false);
         EXPECT_EQ(CDockingManager::GetDockingMode(), DT_SMART) << style;
         EXPECT_FALSE(Bar().IsWindows7Look()) << style;
     }
 }
 
 TEST_F(SkinSwitch, TheBlackSkinsTooltipsHaveTheirFourColours) {
-    Bar().ChangeSkinColor(0, FALSE);
+    Bar().ChangeSkinColor(0, false);
     const CMFCToolTipInfo& info = Skin().GetToolTipInfo();
     EXPECT_EQ(info.m_clrFill, 0x8D7C74u);
     EXPECT_EQ(info.m_clrFillGradient, 0x8C786Eu);
@@ -79,8 +79,8 @@ TEST_F(SkinSwitch, TheBlackSkinsTooltipsHaveTheirFourColours) {
 TEST_F(SkinSwitch, TheSilverSkinsTooltipsKeepTheirOwnColours) {
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CQKVisualManagerOffice2007Silver));
     const CMFCToolTipInfo own = Skin().GetToolTipInfo();
-    Bar().ChangeSkinColor(0, FALSE);
-    Bar().ChangeSkinColor(1, FALSE);
+    Bar().ChangeSkinColor(0, false);
+    Bar().ChangeSkinColor(1, false);
     const CMFCToolTipInfo& info = Skin().GetToolTipInfo();
     EXPECT_EQ(info.m_clrFill, own.m_clrFill);
     EXPECT_EQ(info.m_clrText, own.m_clrText);
@@ -89,16 +89,16 @@ TEST_F(SkinSwitch, TheSilverSkinsTooltipsKeepTheirOwnColours) {
 
 TEST_F(SkinSwitch, ABarWithoutAWindowSwitchesTheSkinToo) {
     CMFCRibbonBarEx bar;
-    bar.ChangeSkinColor(1, TRUE);
+    bar.ChangeSkinColor(1, true);
     EXPECT_EQ(InUse(), RUNTIME_CLASS(CQKVisualManagerOffice2007Silver));
-    bar.ChangeSkinColor(0, TRUE);
+    bar.ChangeSkinColor(0, true);
     EXPECT_EQ(InUse(), RUNTIME_CLASS(CQKVisualManagerOffice2007Black));
     EXPECT_EQ(bar.GetTextColor(), 0xFFFFFFu);
 }
 
 TEST_F(SkinSwitch, AHostThatEndsItsWindowWhenItHearsOfTheNewManagerMayDoSo) {
     m_frame->onManagerChanged = [this] { m_frame->DestroyWindow(); };
-    Bar().ChangeSkinColor(1, TRUE); // and then touches nothing of the bar
+    Bar().ChangeSkinColor(1, true); // and then touches nothing of the bar
     EXPECT_FALSE(IsAlive());
     EXPECT_EQ(InUse(), RUNTIME_CLASS(CQKVisualManagerOffice2007Silver));
     EXPECT_TRUE(Skin().m_bSkinFlag);
@@ -106,7 +106,7 @@ TEST_F(SkinSwitch, AHostThatEndsItsWindowWhenItHearsOfTheNewManagerMayDoSo) {
 
 TEST_F(SkinSwitch, AHostThatChoosesAnotherManagerMeanwhileKeepsIt) {
     m_frame->onManagerChanged = [] { CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManager)); };
-    Bar().ChangeSkinColor(1, TRUE);
+    Bar().ChangeSkinColor(1, true);
     EXPECT_EQ(InUse(), RUNTIME_CLASS(CMFCVisualManager));
 }
 
@@ -135,7 +135,7 @@ protected:
 };
 
 TEST_F(SkinTooltip, AnotherFourthColourBringsAllFourBack) {
-    Bar().ChangeSkinColor(0, FALSE);
+    Bar().ChangeSkinColor(0, false);
     Spoil(RGB(9, 9, 9));
     Ask();
     const CMFCToolTipInfo& info = Skin().GetToolTipInfo();
@@ -146,7 +146,7 @@ TEST_F(SkinTooltip, AnotherFourthColourBringsAllFourBack) {
 }
 
 TEST_F(SkinTooltip, WithTheFourthColourInPlaceTheOthersStay) {
-    Bar().ChangeSkinColor(0, FALSE);
+    Bar().ChangeSkinColor(0, false);
     Spoil(0xA89997);
     Ask();
     EXPECT_EQ(Skin().GetToolTipInfo().m_clrFill, RGB(1, 2, 3));
@@ -154,7 +154,7 @@ TEST_F(SkinTooltip, WithTheFourthColourInPlaceTheOthersStay) {
 
 TEST_F(SkinTooltip, OfAnotherSkinNumberTheColoursStay) {
     for (const int style : {1, 7}) {
-        Bar().ChangeSkinColor(style, FALSE);
+        Bar().ChangeSkinColor(style, false);
         Spoil(RGB(9, 9, 9));
         Ask();
         EXPECT_EQ(Skin().GetToolTipInfo().m_clrBorder, RGB(9, 9, 9)) << style;
@@ -162,7 +162,7 @@ TEST_F(SkinTooltip, OfAnotherSkinNumberTheColoursStay) {
 }
 
 TEST_F(SkinTooltip, OfAnotherManagerTheColoursStay) {
-    Bar().ChangeSkinColor(0, FALSE);
+    Bar().ChangeSkinColor(0, false);
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CQKVisualManagerOffice2007Silver));
     Spoil(RGB(9, 9, 9));
     Ask();
@@ -170,7 +170,7 @@ TEST_F(SkinTooltip, OfAnotherManagerTheColoursStay) {
 }
 
 TEST_F(SkinTooltip, WithoutATextTheColoursStay) {
-    Bar().ChangeSkinColor(0, FALSE);
+    Bar().ChangeSkinColor(0, false);
     Spoil(RGB(9, 9, 9));
     PutCursor(CPoint(700, 550));
     NMTTDISPINFO info{};

@@ -295,7 +295,7 @@ TEST_F(SkinContrast, RowsOfTheBlackSkinsDropListsCanBeReadWhetherLitOrNot) {
 // The one pair that stays below: the bar's own four colours for tooltips are fixed (3.7:1, where 4.5:1 is wanted).
 TEST_F(SkinContrast, TooltipsHaveTheFixedColoursOfTheBarWhichStayBelow) {
     CMFCRibbonBarEx bar(FALSE);
-    bar.ChangeSkinColor(0, FALSE);
+    bar.ChangeSkinColor(0, false);
     auto* const skin = DYNAMIC_DOWNCAST(CMFCVisualManagerOffice20072, CMFCVisualManager::GetInstance());
     ASSERT_NE(skin, nullptr);
     const CMFCToolTipInfo& info = skin->GetToolTipInfo();

@@ -44,7 +44,7 @@ TEST(RibbonBase, BarTakesAnySkinNumberAndItsFlag) {
     CMFCRibbonBar2 bar;
     const CMFCVisualManager* const before = CMFCVisualManager::GetInstance();
     for (const int style : {1, 7, -1, 0}) {
-        bar.ChangeSkinColor(style, style > 0 ? TRUE : FALSE);
+        bar.ChangeSkinColor(style, style > 0);
         EXPECT_EQ(bar.GetSkinStyle(), style);
         EXPECT_EQ(bar.GetSkinFlag(), style > 0 ? TRUE : FALSE);
     }

@@ -30,7 +30,7 @@ public:
 
     /// Chooses a skin by its number. Any number is taken: this class only keeps it and the flag and draws the bar
     /// again; a derived bar brings the skin's visual manager into force and decides what numbers it knows.
-    virtual void ChangeSkinColor(int nStyle, BOOL bFlag);
+    virtual void ChangeSkinColor(int nStyle, bool bFlag);
 
     BOOL OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) override;
 
