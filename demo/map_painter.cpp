@@ -3,6 +3,7 @@
 #include "bitmap_info.h"
 #include "geo_json.h"
 #include "mode_overlay.h"
+#include "text_places.h"
 
 #include <algorithm>
 
@@ -167,22 +168,7 @@ void DrawOpened(const Canvas& canvas) {
     }
 }
 
-/// Remembers where texts stand, so that none is written over another.
-class TextPlaces {
-public:
-    /// True, and the place is taken, when nothing stands there yet.
-    bool Take(const RectF& place) {
-        const auto covers = [&place](const RectF& other) { return other.IntersectsWith(place) != FALSE; };
-        if (std::any_of(m_taken.begin(), m_taken.end(), covers)) {
-            return false;
-        }
-        m_taken.push_back(place);
-        return true;
-    }
-
-private:
-    std::vector<RectF> m_taken;
-};
+TextBox ToBox(const RectF& place) { return {place.X, place.Y, place.GetRight(), place.GetBottom()}; }
 
 RectF PlaceOfText(const Canvas& canvas, const Gdiplus::Font& font, const std::wstring& text, PointF at) {
     RectF place;
@@ -241,23 +227,31 @@ void DrawGraticuleLines(const Canvas& canvas) {
     }
 }
 
-/// Numbers along the upper and the left edge of what is seen; those without room are left out.
+/// Numbers along the upper and the left edge of what is seen; those without room, on the map or beside each other, are
+/// left out.
 void DrawGraticuleNumbers(const Canvas& canvas, const TextStyle& style, TextPlaces& places) {
     const int spacing = canvas.state.GraticuleSpacing();
     const PointF northWest = canvas.At({-180, 90});
+    const PointF southEast = canvas.At({180, -90});
     const REAL top = std::max(northWest.Y, REAL(0));
     const REAL left = std::max(northWest.X, REAL(0));
     const auto write = [&](const std::wstring& text, PointF at) {
-        if (places.Take(PlaceOfText(canvas, style.font, text, at))) {
+        const RectF place = PlaceOfText(canvas, style.font, text, at);
+        const bool isOnMap = place.GetRight() <= southEast.X && place.GetBottom() <= southEast.Y;
+        if (isOnMap && places.Take(ToBox(place))) {
             DrawHaloText(canvas, style, text, at);
         }
     };
-    for (int longitude = -180; longitude < 180; longitude += spacing) {
+    const RectF longest = PlaceOfText(canvas, style.font, DegreeText(-165, L'E', L'W'), PointF(0, 0));
+    const PointF corner = canvas.At({0, 0});
+    const PointF next = canvas.At({static_cast<double>(spacing), -static_cast<double>(spacing)});
+    const int across = spacing * LinesToANumber(next.X - corner.X, longest.Width);
+    for (int longitude = -180 / across * across; longitude < 180; longitude += across) {
         const REAL x = canvas.At({static_cast<double>(longitude), 0}).X;
         write(DegreeText(longitude, L'E', L'W'), PointF(x + canvas.Scaled(2), top));
     }
-    const int first = 90 / spacing * spacing;
-    for (int latitude = first; latitude >= -first; latitude -= spacing) {
+    const int down = spacing * LinesToANumber(next.Y - corner.Y, longest.Height);
+    for (int latitude = 90 / down * down; latitude >= -90; latitude -= down) {
         const REAL y = canvas.At({0, static_cast<double>(latitude)}).Y;
         if (y >= top) {
             write(DegreeText(latitude, L'N', L'S'), PointF(left + canvas.Scaled(2), y));
@@ -284,6 +278,12 @@ void ForEachShownCity(const Canvas& canvas, const std::vector<City>& cities, Dra
     }
 }
 
+/// Keeps the names away from a mark, but not from its edge, at which they begin.
+void KeepFreeOfTexts(const Canvas& canvas, PointF at, REAL radius, TextPlaces& places) {
+    const REAL reach = radius - canvas.Scaled(0.5);
+    places.KeepFree(ToBox(RectF(at.X - reach, at.Y - reach, 2 * reach, 2 * reach)));
+}
+
 void DrawCities(const Canvas& canvas, const std::vector<City>& cities) {
     Gdiplus::SolidBrush dot(canvas.Ink(MapLayer::Cities, canvas.colors.city));
     Gdiplus::SolidBrush rim(canvas.Lit(MapLayer::Cities, canvas.colors.halo));
@@ -294,14 +294,15 @@ void DrawCities(const Canvas& canvas, const std::vector<City>& cities) {
     });
 }
 
-/// Right of the dot, or left of it where that is taken.
+/// Right of the dot, or at the next side of it where there is room.
 void DrawNameBeside(const Canvas& canvas, const TextStyle& style, const std::wstring& name, PointF at, REAL radius,
                     TextPlaces& places) {
     const RectF size = PlaceOfText(canvas, style.font, name, at);
-    const REAL y = at.Y - size.Height / 2;
-    for (const REAL x : {at.X + radius, at.X - radius - size.Width}) {
-        if (places.Take(RectF(x, y, size.Width, size.Height))) {
-            DrawHaloText(canvas, style, name, PointF(x, y));
+    const REAL beside = at.Y - size.Height / 2, middle = at.X - size.Width / 2;
+    for (const PointF& corner : {PointF(at.X + radius, beside), PointF(at.X - radius - size.Width, beside),
+                                 PointF(middle, at.Y - radius - size.Height), PointF(middle, at.Y + radius)}) {
+        if (places.Take(ToBox(RectF(corner.X, corner.Y, size.Width, size.Height)))) {
+            DrawHaloText(canvas, style, name, corner);
             return;
         }
     }
@@ -363,7 +364,7 @@ void DrawScaleBar(const Canvas& canvas, const TextStyle& style, TextPlaces& plac
     DrawHaloText(canvas, style, text, at);
     const RectF written = PlaceOfText(canvas, style.font, text, at);
     const REAL right = std::max(left + length, written.GetRight());
-    places.Take(RectF(left, at.Y, right - left, bottom - at.Y));
+    places.KeepFree(ToBox(RectF(left, at.Y, right - left, bottom - at.Y)));
 }
 
 /// A picture twice as wide and high as what it is averaged down to: smooth edges wherever the lines are drawn.
@@ -494,12 +495,16 @@ void MapPainter::PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& 
     const Gdiplus::Font small(&family, canvas.Scaled(11), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font normal(&family, canvas.Scaled(12), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font names(&family, canvas.Scaled(state.NameSize()), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
-    TextPlaces places;
+    TextPlaces places(state.WindowWidth(), state.WindowHeight());
     if (state.IsShown(MapLayer::ScaleBar)) {
         DrawScaleBar(canvas, StyleOf(canvas, normal, MapLayer::ScaleBar, MapLabel::ScaleBarText), places);
     }
     if (state.IsShown(MapLayer::Graticule)) {
         DrawGraticuleNumbers(canvas, StyleOf(canvas, small, MapLayer::Graticule, MapLabel::GraticuleNumbers), places);
+    }
+    if (state.IsShown(MapLayer::Cities)) {
+        ForEachShownCity(canvas, m_data.cities,
+                         [&](const City&, PointF at, REAL radius) { KeepFreeOfTexts(canvas, at, radius, places); });
     }
     if (state.IsShown(MapLayer::Opened)) {
         DrawOpenedNames(canvas, StyleOf(canvas, names, MapLayer::Opened, MapLabel::CityNames), places);

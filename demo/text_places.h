@@ -1,0 +1,32 @@
+#pragma once
+
+#include <vector>
+
+/// A part of a picture, in its pixels.
+struct TextBox {
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+};
+
+/// Where texts stand on a picture: none over another, none over what was kept free, and none cut off at the picture's
+/// edge.
+class TextPlaces {
+public:
+    TextPlaces(double width, double height) : m_width(width), m_height(height) {}
+
+    /// No text from here on stands there. The box may lie over anything.
+    void KeepFree(const TextBox& box) { m_taken.push_back(box); }
+    /// True, and the place is taken, when a text may stand there. Boxes may touch.
+    bool Take(const TextBox& box);
+
+private:
+    double m_width;
+    double m_height;
+    std::vector<TextBox> m_taken;
+};
+
+/// Every how many lines of a grid a number stands, so that each has its room and all are equally far apart: 1, 2, 3, 4,
+/// 6 or 12.
+int LinesToANumber(double linesApart, double room);
