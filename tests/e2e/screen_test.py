@@ -56,6 +56,45 @@ class LanguageSwitch(unittest.TestCase):
             self.assertEqual(neither, [], f"of {len(looks)} looks that differ")
 
 
+class SkinSwitch(unittest.TestCase):
+    """Every window of the frame is seen in the skin that was or in the skin that comes, never half painted."""
+
+    def parts(self, viewer, look):
+        """The ribbon but for its field, which is a window of its own, and for the button under the pointer and its tip;
+        the list but for its scroll bar; the status bar."""
+        ribbon = look.crop(viewer.record["ribbonOnScreen"])
+        origin = viewer.record["ribbonOnScreen"][:2] * 2
+        left, top, right, bottom = (edge - at for edge, at in zip(viewer.record["skinButtonOnScreen"], origin))
+        ribbon.paste((0, 0, 0), (left - 60, top - 2, ribbon.width, bottom + 60))
+        field = (edge - at for edge, at in zip(viewer.place_of("PlaceEdit"), origin))
+        ribbon.paste((0, 0, 0), tuple(field))
+        left, top, right, bottom = viewer.record["paneOnScreen"]["list"]
+        return {"ribbon": ribbon, "list": look.crop((left, top, right - 22, bottom)),
+                "status bar": look.crop(viewer.record["statusOnScreen"])}
+
+    def test_no_part_is_seen_half_painted(self):
+        for first, second in (("silver", "black"), ("black", "silver")):
+            with self.subTest(to=second), Viewer(BIN_DIR, "--skin", first, "--lang", "en") as viewer:
+                viewer.wait_for(lambda record: record["map"]["finished"])
+                left, top, right, bottom = viewer.record["skinButtonOnScreen"]
+                viewer.press((left + right) // 2, (top + bottom) // 2)
+                old = self.parts(viewer, viewer.settled_look())
+                viewer.release()
+                end = time.monotonic() + 4
+                looks = viewer.look_until(lambda look: time.monotonic() > end)
+                viewer.wait_for(lambda record: record["skin"] == second)
+                new = self.parts(viewer, viewer.settled_look())
+                for name, before in old.items():
+                    self.assertIsNotNone(ImageChops.difference(before, new[name]).getbbox(), "the new skin is another one")
+                neither = []
+                for number, look in enumerate(looks):
+                    for name, seen in self.parts(viewer, look).items():
+                        if all(ImageChops.difference(seen, end[name]).getbbox() for end in (old, new)):
+                            neither.append((number, name, ImageChops.difference(seen, new[name]).getbbox()))
+                            keep(seen, f"to-{second}-{number}")
+                self.assertEqual(neither, [], f"of {len(looks)} looks that differ")
+
+
 def longest_black(look, box):
     """The longest run of black pixels in a row of the box; every fourth row is looked at."""
     longest = 0
@@ -95,7 +134,6 @@ class MapWhileItChanges(unittest.TestCase):
                 end = time.monotonic() + 2
                 looks += viewer.look_until(lambda look: time.monotonic() > end)
             self.expect_no_black(viewer, looks)
-
 
     def test_no_area_is_black_while_the_window_grows(self):
         with Viewer(BIN_DIR, "--lang", "en", "--size", "900x600") as viewer:
