@@ -159,8 +159,7 @@ BOOL CMFCRibbonBarEx::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) 
     m_tipText = tip;
     RestoreTooltipColors();
     if (auto* const tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, control); tooltip != nullptr) {
-        auto* const button = DYNAMIC_DOWNCAST(CMFCRibbonButton, element);
-        tooltip->SetHotRibbonButton(button != nullptr && button->IsDrawTooltipImage() ? button : nullptr);
+        tooltip->SetHotRibbonButton(DYNAMIC_DOWNCAST(CMFCRibbonButton, element));
         tooltip->SetDescription(IsToolTipDescrEnabled() ? element->GetDescription() : CString());
     }
     reinterpret_cast<NMTTDISPINFO*>(pNMH)->lpszText = const_cast<LPTSTR>(m_tipText.GetString());

@@ -65,7 +65,7 @@ bool CToolTipCtrlEx::HelpFileExists() const {
 
 CSize CToolTipCtrlEx::GetIconSize() {
     if (m_pRibbonButton) {
-        return m_pRibbonButton->IsDrawTooltipImage() ? CMFCToolTipCtrl::GetIconSize() : CSize(0, 0);
+        return CMFCToolTipCtrl::GetIconSize();
     }
     const CMFCToolBarImages* const images = CMFCToolBar::GetImages();
     return m_pHotButton && m_pHotButton->GetImage() >= 0 && images ? CSize(images->GetImageSize(TRUE)) : CSize(0, 0);

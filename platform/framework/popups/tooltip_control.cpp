@@ -76,7 +76,7 @@ void CMFCToolTipCtrl::SetFixedWidth(int nWidthRegular, int nWidthLargeImage) {
 }
 
 CSize CMFCToolTipCtrl::GetIconSize() {
-    if (m_pRibbonButton == nullptr) {
+    if (m_pRibbonButton == nullptr || !m_pRibbonButton->IsDrawTooltipImage()) {
         return CSize(0, 0);
     }
     const bool isLarge = m_pRibbonButton->IsLargeImage() != FALSE;

@@ -49,8 +49,7 @@ void FillRibbonTooltip(CToolTipCtrl& control, NMHDR& request, CMFCRibbonBaseElem
                        CString& lent) {
     lent = element.GetToolTipText();
     if (CMFCToolTipCtrl* tooltip = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, &control)) {
-        CMFCRibbonButton* button = DYNAMIC_DOWNCAST(CMFCRibbonButton, &element);
-        tooltip->SetHotRibbonButton(button != nullptr && button->IsDrawTooltipImage() ? button : nullptr);
+        tooltip->SetHotRibbonButton(DYNAMIC_DOWNCAST(CMFCRibbonButton, &element));
         const TipTexts texts = showsDescription ? TextsOf(element) : TipTexts{lent, CString()};
         lent = texts.title;
         tooltip->SetDescription(texts.description);

@@ -119,6 +119,15 @@ TEST_F(HelpTooltip, AnElementThatShowsNoImageInItsTooltipHasNoIcon) {
     EXPECT_EQ(m_tip.GetIconSize(), CSize(0, 0));
 }
 
+TEST_F(HelpTooltip, AnElementThatShowsNoImageNeedsItsHelpFileToo) {
+    UseButton(std::make_unique<ImagelessButton>(kCommand, L"Open", m_icon32));
+    Show();
+    EXPECT_EQ(DescriptionSize(), CSize(0, 0));
+    AddHelp();
+    Show();
+    EXPECT_GT(DescriptionSize().cx, 0);
+}
+
 TEST_F(HelpTooltip, AnIconFileButtonsIconIsOfItsShownSizeAtScale) {
     EXPECT_EQ(m_tip.GetIconSize(), CSize(32, 32));
     ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));

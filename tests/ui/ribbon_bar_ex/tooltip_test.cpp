@@ -50,6 +50,15 @@ protected:
         const auto* const own = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, Bar().GetToolTipCtrl());
         return own != nullptr ? std::wstring(Opened::Of(*own).GetString()) : L"none";
     }
+    /// Whose image and help the tooltip shows.
+    const CMFCRibbonButton* ElementOfTheTip() {
+        class Opened : public CMFCToolTipCtrl {
+        public:
+            static CMFCRibbonButton* Of(const CMFCToolTipCtrl& control) { return control.*(&Opened::m_pRibbonButton); }
+        };
+        const auto* const own = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, Bar().GetToolTipCtrl());
+        return own != nullptr ? Opened::Of(*own) : nullptr;
+    }
     static void Register(UINT id, const wchar_t* command) {
         CMenuIdMgr::Ins()->Add(L"Key" + std::to_wstring(id), static_cast<int>(id), L"Name", command, L"Tip", L"", L"");
     }
@@ -133,6 +142,26 @@ TEST_F(ExtendedTooltip, WithDescriptionsOffNoneIsPassedOn) {
     Button(0, 1).SetDescription(L"Press F1");
     EXPECT_EQ(Tip(), L"Shows more");
     EXPECT_EQ(Description(), L"");
+}
+
+/// Wants no image in its tooltip.
+class ImagelessButton : public CMFCRibbonButton {
+public:
+    using CMFCRibbonButton::CMFCRibbonButton;
+    BOOL IsDrawTooltipImage() const override { return FALSE; }
+};
+
+// Whether there is help for it, and where the tooltip opens, depends on the element.
+TEST_F(ExtendedTooltip, AnElementThatShowsNoImageIsTheTooltipsAllTheSame) {
+    EXPECT_EQ(Tip(), L"Shows more");
+    EXPECT_EQ(ElementOfTheTip(), &Button(0, 1));
+    auto* const imageless = new ImagelessButton(9100, L"Plain");
+    imageless->SetToolTipText(L"Shows nothing");
+    Bar().GetCategory(0)->GetPanel(0)->Add(imageless);
+    LayOut();
+    PutOn(*imageless);
+    EXPECT_EQ(Tip(), L"Shows nothing");
+    EXPECT_EQ(ElementOfTheTip(), imageless);
 }
 
 TEST_F(ExtendedTooltip, ATooltipOfTheSystemsOwnGetsTheTextAlone) {

@@ -2,6 +2,7 @@
 #include <fx/scoped_change.h>
 
 #include "afxglobals.h"
+#include "afxribbonbutton.h"
 #include "afxtooltipctrl.h"
 #include "afxtooltipmanager.h"
 #include "popups/tooltip_layout.h"
@@ -15,6 +16,7 @@ constexpr UINT_PTR g_tool = 1;
 class ShownTooltip : public CMFCToolTipCtrl {
 public:
     using CMFCToolTipCtrl::CMFCToolTipCtrl;
+    using CMFCToolTipCtrl::GetIconSize;
     using CMFCToolTipCtrl::m_ptMargin;
 };
 
@@ -188,6 +190,26 @@ TEST(Tooltip, IsFilledInTheColourOfItsParameters) {
     CClientDC dc(&stage.tooltip);
     EXPECT_EQ(dc.GetPixel(0, 0), RGB(200, 100, 50));
     EXPECT_EQ(dc.GetPixel(1, 1), RGB(10, 20, 30));
+}
+
+/// Shows its image in the tooltip or not.
+class PicturedButton : public CMFCRibbonButton {
+public:
+    explicit PicturedButton(BOOL isDrawn)
+        : CMFCRibbonButton(1, L"Button", ::LoadIcon(nullptr, IDI_INFORMATION)), m_isDrawn(isDrawn) {}
+    BOOL IsDrawTooltipImage() const override { return m_isDrawn; }
+
+private:
+    BOOL m_isDrawn;
+};
+
+TEST(Tooltip, HasNoIconOfAnElementThatWantsNone) {
+    PicturedButton with(TRUE), without(FALSE);
+    ShownTooltip tooltip;
+    tooltip.SetHotRibbonButton(&with);
+    EXPECT_GT(tooltip.GetIconSize().cx, 0);
+    tooltip.SetHotRibbonButton(&without);
+    EXPECT_EQ(tooltip.GetIconSize(), CSize(0, 0));
 }
 
 } // namespace
