@@ -123,8 +123,9 @@ protected:
     UINT m_skin = Black;
     int m_totalLength = 0;
     int m_hover = 0; ///< 0: no pointer, 1: over the bar, 2: on the thumb, or dragging it.
-    COLORREF m_bkColor = 0;
-    COLORREF m_sideColor = 0;
+    // Of the present skin.
+    COLORREF m_bkColor = RGB(75, 80, 90);
+    COLORREF m_sideColor = RGB(172, 183, 188);
     COLORREF m_silverBkColor = RGB(235, 240, 244);
     COLORREF m_blackBkColor = RGB(75, 80, 90);
     COLORREF m_silverSideColor = RGB(172, 183, 188);

@@ -24,6 +24,8 @@ constexpr std::array<const wchar_t*, 4> kHorizontal = {L"leftArrow", L"rightArro
 
 TEST_F(ScrollBarSkin, IsBlackAtFirst) {
     EXPECT_EQ(m_bar.m_skin, 0U);
+    EXPECT_EQ(m_bar.m_bkColor, RGB(75, 80, 90)) << "before anything was asked for";
+    EXPECT_EQ(m_bar.m_sideColor, RGB(172, 183, 188));
     Open();
     ExpectPaths(L"black", kVertical);
     EXPECT_EQ(m_bar.m_bkColor, RGB(75, 80, 90));
