@@ -129,8 +129,9 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         call.message = message;
         call.wParam = wParam;
         call.lParam = lParam;
-        isHandled =
-            fx::InvokeMessage(GetMessageMap(), this, IsControlColour(message) ? fx::ControlColour : message, call);
+        // A map names the seven questions for a colour as one, or one of them by its own number.
+        isHandled = fx::InvokeMessage(GetMessageMap(), this, message, call) ||
+                    (IsControlColour(message) && fx::InvokeMessage(GetMessageMap(), this, fx::ControlColour, call));
         result = call.result;
     }
     if (isHandled && pResult != nullptr) {

@@ -111,6 +111,21 @@ BEGIN_MESSAGE_MAP(ColouringParent, Parent)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
+/// Names the one question for a colour that it answers by its own number.
+class ButtonColouringParent : public Parent {
+protected:
+    afx_msg LRESULT OnColourOfButton(WPARAM, LPARAM control) {
+        g_log.push_back(L"parent colour of button");
+        EXPECT_EQ(reinterpret_cast<HWND>(control), m_control.m_hWnd);
+        return 7;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ButtonColouringParent, Parent)
+ON_MESSAGE(WM_CTLCOLORBTN, &ButtonColouringParent::OnColourOfButton)
+END_MESSAGE_MAP()
+
 TEST(Reflection, ANotificationThatTheControlHandlesDoesNotReachTheParent) {
     Parent parent;
     EXPECT_EQ(parent.Notify(NM_CLICK), 5);
@@ -156,6 +171,17 @@ TEST(Reflection, TheParentsColourHandlerComesFirst) {
     parent.m_brush = static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH));
     EXPECT_EQ(parent.AskColour(), reinterpret_cast<LRESULT>(parent.m_brush));
     EXPECT_EQ(g_log, Log{L"parent colour"});
+}
+
+TEST(Reflection, AMapMayNameOneQuestionForAColourByItsNumber) {
+    ButtonColouringParent parent;
+    EXPECT_EQ(parent.AskColour(), 7);
+    EXPECT_EQ(g_log, Log{L"parent colour of button"});
+    const HDC dc = ::GetDC(parent.m_hWnd);
+    EXPECT_NE(
+        parent.SendMessage(WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(parent.m_hWnd)), 7)
+        << "another one";
+    ::ReleaseDC(parent.m_hWnd, dc);
 }
 
 TEST(Reflection, AParentWithoutAColourHandlerAsksTheControl) {
