@@ -12,6 +12,7 @@ from viewer import Viewer
 
 LEFT, TOP, RIGHT, BOTTOM, FLOATING = 0x1000, 0x2000, 0x4000, 0x8000, 0
 KEY = r"HKCU\Software\Barwright docking host"
+PLACES = r"\docking_host\Workspace\DockingManager"
 FORGET = (("add", KEY, "/f"), ("delete", KEY, "/f"))  # what is not there cannot be deleted
 
 
@@ -141,6 +142,34 @@ class Docking(unittest.TestCase):
         with Host(BIN_DIR) as host:
             host.wait_for(lambda record: [bar["window"] for bar in record["bars"]] == [bar["window"] for bar in kept])
             self.assertEqual([bar["side"] for bar in host.record["bars"]], [LEFT, FLOATING, TOP])
+
+    def test_maximised_and_restored_the_bars_keep_to_their_edges(self):
+        with self.host() as host:
+            host.take_to(0, *host.point(300, -4))
+            host.wait_for_side(0, BOTTOM)
+            before = host.record
+            left, top, right, _ = before["client"]
+            host.double_click((left + right) // 2, top - 12)
+            record = host.wait_for(lambda record: record["client"][2] - record["client"][0] > 1300 and
+                                   record["bars"][0]["window"][3] == record["client"][3])
+            self.assertEqual([bar["side"] for bar in record["bars"]], [BOTTOM, TOP, TOP])
+            self.assertEqual(record["bars"][0]["window"][0] - record["client"][0], before["bars"][0]["window"][0] - left)
+            self.assertEqual(record["bars"][1]["window"][1], record["client"][1])
+            self.check_apart(host)
+            left, top, right, _ = record["client"]
+            host.double_click((left + right) // 2, top - 12)
+            host.wait_for(lambda record: record == before)
+
+    def test_a_damaged_layout_leaves_the_programs_own(self):
+        with self.host() as host:
+            own = host.record["bars"]
+            host.take_to(0, *host.point(4, 200))
+            host.wait_for_side(0, LEFT)
+            self.assertEqual(host.leave(), 0)
+        damage = ("add", KEY + PLACES, "/v", "Places", "/t", "REG_BINARY", "/d", "0102030405", "/f")
+        with Host(BIN_DIR, registry=(damage,)) as host:
+            host.wait_for(lambda record: [bar["side"] for bar in record["bars"]] == [TOP, TOP, TOP])
+            self.assertEqual(host.record["bars"], own)
 
 
 if __name__ == "__main__":
