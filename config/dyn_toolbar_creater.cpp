@@ -31,29 +31,27 @@ CMFCToolBarImages& UserImages() {
     return images;
 }
 
-/// A toolbar that a file describes: it deletes itself together with its window.
+/// A toolbar that a file describes: it lives as long as its window, and as long as a creater remembers it.
 class ConfiguredToolBar : public CMFCToolBarEx {
 public:
     /// Null when the window cannot be made.
-    static CMFCToolBar* Create(CWnd& parent, UINT id) {
-        auto bar = std::make_unique<ConfiguredToolBar>();
+    static std::shared_ptr<CMFCToolBar> Create(CWnd& parent, UINT id) {
+        auto bar = std::make_shared<ConfiguredToolBar>();
         if (!bar->CreateEx(&parent, TBSTYLE_FLAT, kBarStyle, CRect(1, 1, 1, 1), id)) {
             return nullptr;
         }
-        bar->m_isOwnedByWindow = true;
-        return bar.release();
+        bar->m_self = bar;
+        return bar;
     }
 
 protected:
     void PostNcDestroy() override {
         CMFCToolBarEx::PostNcDestroy();
-        if (m_isOwnedByWindow) {
-            delete this;
-        }
+        const std::shared_ptr<ConfiguredToolBar> last = std::move(m_self);
     }
 
 private:
-    bool m_isOwnedByWindow = false;
+    std::shared_ptr<ConfiguredToolBar> m_self; // while there is a window
 };
 
 /// The command of a button, which takes the icon for menus and toolbars where it was registered before.
@@ -134,6 +132,15 @@ void AddItem(CMFCToolBar& bar, const ToolBarInfo& info, ButtonIcons& icons) {
     InsertItem(bar, kind, info, ObtainCommand(info, icon.Get()), image);
 }
 
+/// Empty without a window.
+CString TitleOf(const CMFCToolBar& bar) {
+    CString text;
+    if (bar.GetSafeHwnd()) {
+        bar.GetWindowText(text);
+    }
+    return text;
+}
+
 CMDIFrameWndEx* FrameOr(CMDIFrameWndEx* frame) {
     return frame ? frame : DYNAMIC_DOWNCAST(CMDIFrameWndEx, AfxGetMainWnd());
 }
@@ -145,16 +152,24 @@ class CDynToolBarCreater::Building : public ToolBarFileVisitor {
 public:
     Building(CDynToolBarCreater& creater, CWnd& parent) : m_creater(creater), m_parent(parent) {}
 
+    void VisitFile() override {
+        if (!CMFCToolBar::GetUserImages()) {
+            CMFCToolBar::SetSizes(kButtonSize, kImageSize);
+        }
+    }
+
     void VisitGroup(const ToolBarInfo& info) override { m_group = info.strKeyword; }
 
     bool VisitToolBar(const ToolBarInfo& info) override {
-        m_bar = ConfiguredToolBar::Create(m_parent, s_ToolbarIndex++);
-        if (!m_bar) {
+        const std::shared_ptr<CMFCToolBar> bar = ConfiguredToolBar::Create(m_parent, s_ToolbarIndex++);
+        if (!bar) {
             return false;
         }
+        m_bar = bar.get();
         m_bar->m_bFromConfig = TRUE;
         m_bar->SetWindowText(info.strPrompt.c_str());
         m_creater.m_groups[m_group].emplace_back(m_bar, info.strPrompt);
+        m_creater.m_made.push_back(bar);
         return true;
     }
 
@@ -178,13 +193,9 @@ bool CDynToolBarCreater::Load(std::wstring path, CWnd* parent) {
     if (path.empty() || !FileOp::GetAppPath(directory) || !parent) {
         return false;
     }
-    const std::wstring fullPath = directory + path;
-    if (!CMFCToolBar::GetUserImages()) {
-        CMFCToolBar::SetSizes(kButtonSize, kImageSize);
-    }
     Building building(*this, *parent);
     LoadWatch watch;
-    if (!LoadToolBarFile(fullPath, building, watch.Sink())) {
+    if (!LoadToolBarFile(directory + path, building, watch.Sink())) {
         return false;
     }
     if (!CMFCToolBar::GetUserImages() && UserImages().GetCount() > 0) {
@@ -213,9 +224,7 @@ CMFCToolBar* CDynToolBarCreater::GetToolBar(const std::wstring& group, const CSt
         return nullptr;
     }
     for (const auto& [bar, name] : found->second) {
-        CString text;
-        bar->GetWindowText(text);
-        if (text.CompareNoCase(title) == 0) {
+        if (bar->GetSafeHwnd() && TitleOf(*bar).CompareNoCase(title) == 0) {
             return bar;
         }
     }
@@ -249,16 +258,14 @@ bool CDynToolBarCreater::AddCustomBar(const std::wstring& group, CMFCToolBar* ba
     if (found == m_groups.end()) {
         return false;
     }
-    CString text;
-    bar->GetWindowText(text);
-    found->second.emplace_back(bar, name.empty() ? std::wstring(text) : name);
+    found->second.emplace_back(bar, name.empty() ? std::wstring(TitleOf(*bar)) : name);
     return true;
 }
 
 namespace {
 
 void ShowBar(CMFCToolBar& bar, bool show, CMDIFrameWndEx& frame) {
-    if (((bar.GetStyle() & WS_VISIBLE) != 0) != show) {
+    if (bar.GetSafeHwnd() && ((bar.GetStyle() & WS_VISIBLE) != 0) != show) {
         frame.ShowPane(&bar, show, TRUE, FALSE);
     }
 }
@@ -287,7 +294,9 @@ void CDynToolBarCreater::ShowBars(const std::wstring& group, int show, CMDIFrame
 void CDynToolBarCreater::DockPane(CMDIFrameWndEx* frame) const {
     if (CMDIFrameWndEx* const target = FrameOr(frame)) {
         for (CMFCToolBar* const bar : GetAllToolBar()) {
-            target->DockPane(bar);
+            if (bar->GetSafeHwnd()) {
+                target->DockPane(bar);
+            }
         }
     }
 }

@@ -144,6 +144,7 @@ bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, 
     if (!LoadDocument(fullPath, diagnostics, document)) {
         return false;
     }
+    visitor.VisitFile();
     ReadToolBarGroups(varnhold::XmlCursor(document), visitor, diagnostics);
     return true;
 }

@@ -23,6 +23,8 @@ std::span<const AttributeRule> ToolBarAttributeRules();
 class ToolBarFileVisitor {
 public:
     virtual ~ToolBarFileVisitor() = default;
+    /// The file could be read; its groups follow.
+    virtual void VisitFile() {}
     virtual void VisitGroup(const ToolBarInfo& info) = 0;
     /// Whether the toolbar's buttons are to be read.
     virtual bool VisitToolBar(const ToolBarInfo& info) = 0;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <list>
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,8 +20,9 @@ class CXmlNodeWrapper;
 /// bars in named groups. The host makes one for its frame, on the user-interface thread, calls Load, EnableDocking and
 /// DockPane, and keeps it as long as the frame.
 ///
-/// A bar that Load makes deletes itself together with its window, which the frame destroys. The creater only remembers
-/// bars: after the frame has gone it must not be asked for them. Copies share the bars.
+/// A bar that Load makes belongs to its window, which the frame destroys, and to the creaters that remember it: it is
+/// deleted when neither is left. Copies share the bars. Bars without a window any more are passed over by all but
+/// GetAllToolBar and GetGroupedToolBars.
 class BARWRIGHT_API CDynToolBarCreater {
 public:
     using ToolBarInfo = ::ToolBarInfo;
@@ -41,9 +43,9 @@ public:
     std::list<CMFCToolBar*> GetAllToolBar() const;
     /// The same, each with the name of its group.
     std::list<std::pair<std::wstring, CMFCToolBar*>> GetGroupedToolBars() const;
-    /// Puts a bar of the host's, which stays its own, into a group that exists; without a name it is known by its
-    /// window text. False for a null bar and an unknown group. A bar is configured from then on, in either case: its
-    /// buttons are not kept with the user's settings.
+    /// Puts a bar of the host's, which stays its own and must outlive the creater, into a group that exists; without a
+    /// name it is known by its window text. False for a null bar and an unknown group. A bar is configured from then
+    /// on, in either case: its buttons are not kept with the user's settings.
     bool AddCustomBar(const std::wstring& group, CMFCToolBar* bar, const std::wstring& name);
     bool empty() const { return m_groups.empty(); }
 
@@ -66,4 +68,5 @@ private:
     static void AddChildBar(const CXmlNodeWrapper& node, CMFCToolBar* bar);
 
     std::map<std::wstring, Bars> m_groups;
+    std::vector<std::shared_ptr<CMFCToolBar>> m_made; // by Load; what hosts have added stays theirs
 };

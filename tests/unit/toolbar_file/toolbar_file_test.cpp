@@ -11,6 +11,7 @@ namespace {
 /// Writes down what is visited: "[G" for a group, "(title" for a toolbar, "type:keyword" for a button.
 class Outline : public ToolBarFileVisitor {
 public:
+    void VisitFile() override { ++files; }
     void VisitGroup(const ToolBarInfo& info) override { Note(L"[" + info.strKeyword); }
     bool VisitToolBar(const ToolBarInfo& info) override {
         Note(L"(" + info.strPrompt);
@@ -21,6 +22,7 @@ public:
         last = info;
     }
 
+    int files = 0;
     std::wstring text;
     ToolBarInfo last;
 
@@ -123,7 +125,14 @@ TEST_F(ToolBarFile, AFileThatCannotBeReadVisitsNothing) {
     EXPECT_FALSE(Load("<x><a KEYWORD='G'>"));
     EXPECT_FALSE(LoadToolBarFile(m_directory.Prefix() + L"missing.xml", outline, sink));
     EXPECT_EQ(outline.text, L"");
+    EXPECT_EQ(outline.files, 0);
     EXPECT_EQ(sink.codes, (std::vector<std::string>{"xml-syntax@18", "missing-file@1"}));
+}
+
+TEST_F(ToolBarFile, AFileThatCanBeReadIsVisitedOnceAlsoWithoutGroups) {
+    ASSERT_TRUE(Load("<x/>"));
+    EXPECT_EQ(outline.files, 1);
+    EXPECT_EQ(outline.text, L"");
 }
 
 } // namespace
