@@ -11,6 +11,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <utility>
 
 IMPLEMENT_DYNCREATE(CCheckComboBox, CComboBox)
@@ -21,7 +22,7 @@ ON_WM_KEYDOWN()
 ON_WM_CHAR()
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONDBLCLK()
-ON_WM_CTLCOLOR()
+ON_MESSAGE(WM_CTLCOLORLISTBOX, &CCheckComboBox::OnCtlColorListBox)
 ON_WM_DESTROY()
 ON_MESSAGE(CB_ADDSTRING, &CCheckComboBox::OnAddString)
 ON_MESSAGE(CB_INSERTSTRING, &CCheckComboBox::OnAddString)
@@ -211,7 +212,16 @@ void CCheckComboBox::OnDestroy() {
 
 // ---- states
 
+// Items that were there before the object (a dialog's template has some), or that the system lists, have none yet.
+void CCheckComboBox::AddMissingStates() {
+    const auto items = static_cast<std::size_t>(m_hWnd ? std::max(0, GetCount()) : 0);
+    if (items > m_checks.size()) {
+        m_checks.resize(items, static_cast<unsigned char>(0));
+    }
+}
+
 int CCheckComboBox::SetCheck(int index, int check, int redraw) {
+    AddMissingStates();
     if (index < 0 || index >= static_cast<int>(m_checks.size())) {
         return 0;
     }
@@ -229,6 +239,7 @@ int CCheckComboBox::GetCheck(int index) const {
 }
 
 void CCheckComboBox::CheckAll(int check) {
+    AddMissingStates();
     for (int i = 0; i < static_cast<int>(m_checks.size()); ++i) {
         SetCheck(i, check, 1);
     }
@@ -241,6 +252,7 @@ void CCheckComboBox::RepaintList() const {
 }
 
 LRESULT CCheckComboBox::OnAddString(WPARAM /*wParam*/, LPARAM /*lParam*/) {
+    AddMissingStates();
     const LRESULT index = Default();
     if (index >= 0 && static_cast<std::size_t>(index) <= m_checks.size()) {
         m_checks.insert(m_checks.begin() + index, static_cast<unsigned char>(0));
@@ -249,6 +261,7 @@ LRESULT CCheckComboBox::OnAddString(WPARAM /*wParam*/, LPARAM /*lParam*/) {
 }
 
 LRESULT CCheckComboBox::OnDeleteString(WPARAM wParam, LPARAM /*lParam*/) {
+    AddMissingStates();
     const fx::WindowGuard guard(this);
     const LRESULT left = Default(); // the parent hears of it
     if (guard.IsAlive() && left != CB_ERR && wParam < m_checks.size()) {
@@ -327,17 +340,13 @@ BOOL CCheckComboBox::OnDropDown() {
     return FALSE; // the parent hears of it too
 }
 
-HBRUSH CCheckComboBox::OnCtlColor(CDC* dc, CWnd* window, UINT kind) {
-    if (kind == CTLCOLOR_LISTBOX && window && window != this) {
-        OnCtlColorListBox(window->GetSafeHwnd());
-    }
-    return CComboBox::OnCtlColor(dc, window, kind);
-}
-
-void CCheckComboBox::OnCtlColorListBox(HWND list) {
-    if (!m_list && List::Subclass(list)) {
+LRESULT CCheckComboBox::OnCtlColorListBox(WPARAM wParam, LPARAM lParam) {
+    const auto list = reinterpret_cast<HWND>(lParam);
+    if (list != m_hWnd && !m_list && List::Subclass(list)) {
         m_list = list;
     }
+    CDC* const dc = CDC::FromHandle(reinterpret_cast<HDC>(wParam));
+    return reinterpret_cast<LRESULT>(CComboBox::OnCtlColor(dc, CWnd::FromHandle(list), CTLCOLOR_LISTBOX));
 }
 
 // ---- drawing

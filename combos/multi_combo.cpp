@@ -16,14 +16,14 @@ IMPLEMENT_DYNCREATE(CVesMultiCombo, CComboBox)
 BEGIN_MESSAGE_MAP(CMultiCombo, CComboBox)
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONDBLCLK()
-ON_WM_CTLCOLOR()
+ON_MESSAGE(WM_CTLCOLORLISTBOX, &CMultiCombo::OnCtlColorListBox)
 ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &CMultiCombo::OnDropdown)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CVesMultiCombo, CComboBox)
 ON_WM_LBUTTONDOWN()
 ON_WM_LBUTTONDBLCLK()
-ON_WM_CTLCOLOR()
+ON_MESSAGE(WM_CTLCOLORLISTBOX, &CVesMultiCombo::OnCtlColorListBox)
 ON_CONTROL_REFLECT_EX(CBN_DROPDOWN, &CVesMultiCombo::OnDropdown)
 END_MESSAGE_MAP()
 
@@ -51,6 +51,18 @@ int FindColor(const Colors& colors, int index, COLORREF& color) {
     color = found->second;
     return 1;
 }
+
+/// Of the face, over its whole height.
+bool IsBetween(const CWnd& combo, int left, int right, CPoint point) {
+    CRect zone;
+    combo.GetClientRect(&zone);
+    zone.left = left;
+    zone.right = right;
+    return zone.PtInRect(point) != FALSE;
+}
+
+/// The list shows the window's ground also where it has no items, whatever the parent paints behind its controls.
+LRESULT WindowGround() { return reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_WINDOW)); }
 
 LightState LightOf(const CComboBox& combo, int index) {
     return item_bits::IsLightOn(window_combo::DataOf(combo, index)) ? LightState::On : LightState::Off;
@@ -98,8 +110,10 @@ void CMultiCombo::DrawItem(LPDRAWITEMSTRUCT item) {
     window_combo::DrawRow(*this, *item, fx::FromRect(item->rcItem), window_combo::Face::Arial, &PaintSwatchAndLight);
 }
 
+bool CMultiCombo::IsInMarkZone(CPoint point) const { return IsBetween(*this, 0, multiZone, point); }
+
 void CMultiCombo::OnLButtonDown(UINT flags, CPoint point) {
-    if (GetDroppedState() || point.x < 0 || point.x >= multiZone) {
+    if (GetDroppedState() || !IsInMarkZone(point)) {
         CComboBox::OnLButtonDown(flags, point);
         return;
     }
@@ -125,7 +139,7 @@ void CMultiCombo::OnLButtonDown(UINT flags, CPoint point) {
 
 // The second click of a fast user.
 void CMultiCombo::OnLButtonDblClk(UINT flags, CPoint point) {
-    if (GetDroppedState() || point.x < 0 || point.x >= multiZone) {
+    if (GetDroppedState() || !IsInMarkZone(point)) {
         CComboBox::OnLButtonDblClk(flags, point);
     } else {
         OnLButtonDown(flags, point);
@@ -138,10 +152,7 @@ BOOL CMultiCombo::OnDropdown() {
     return FALSE; // the parent hears of it too
 }
 
-// The list shows the window's ground also where it has no items, whatever the parent paints behind its controls.
-HBRUSH CMultiCombo::OnCtlColor(CDC* dc, CWnd* window, UINT kind) {
-    return kind == CTLCOLOR_LISTBOX ? ::GetSysColorBrush(COLOR_WINDOW) : CComboBox::OnCtlColor(dc, window, kind);
-}
+LRESULT CMultiCombo::OnCtlColorListBox(WPARAM /*wParam*/, LPARAM /*lParam*/) { return WindowGround(); }
 
 // ---- a light alone
 
@@ -162,8 +173,10 @@ void CVesMultiCombo::DrawItem(LPDRAWITEMSTRUCT item) {
     window_combo::DrawRow(*this, *item, fx::FromRect(item->rcItem), window_combo::Face::SimSun, &PaintLight);
 }
 
+bool CVesMultiCombo::IsInMarkZone(CPoint point) const { return IsBetween(*this, lightZoneLeft, lightZoneRight, point); }
+
 void CVesMultiCombo::OnLButtonDown(UINT flags, CPoint point) {
-    if (GetDroppedState() || point.x < lightZoneLeft || point.x >= lightZoneRight) {
+    if (GetDroppedState() || !IsInMarkZone(point)) {
         CComboBox::OnLButtonDown(flags, point);
         return;
     }
@@ -180,7 +193,7 @@ void CVesMultiCombo::OnLButtonDown(UINT flags, CPoint point) {
 
 // The second click of a fast user.
 void CVesMultiCombo::OnLButtonDblClk(UINT flags, CPoint point) {
-    if (GetDroppedState() || point.x < lightZoneLeft || point.x >= lightZoneRight) {
+    if (GetDroppedState() || !IsInMarkZone(point)) {
         CComboBox::OnLButtonDblClk(flags, point);
     } else {
         OnLButtonDown(flags, point);
@@ -192,6 +205,4 @@ BOOL CVesMultiCombo::OnDropdown() {
     return FALSE; // the parent hears of it too
 }
 
-HBRUSH CVesMultiCombo::OnCtlColor(CDC* dc, CWnd* window, UINT kind) {
-    return kind == CTLCOLOR_LISTBOX ? ::GetSysColorBrush(COLOR_WINDOW) : CComboBox::OnCtlColor(dc, window, kind);
-}
+LRESULT CVesMultiCombo::OnCtlColorListBox(WPARAM /*wParam*/, LPARAM /*lParam*/) { return WindowGround(); }

@@ -60,6 +60,25 @@ void ChangeBits(CComboBox* combo, int index, BitsWith change, bool value, bool r
     }
 }
 
+/// Gives a press on the button, where the pointer is on a mark of the combo's face, to the combo. True: done, and the
+/// button may be gone. An upright bar shows no face.
+template <class Combo>
+bool PressMark(const CMFCToolBarComboBoxButton& button, bool (Combo::*isOnMark)(CPoint) const) {
+    auto* const combo = HostedIn<Combo>(button);
+    const bool isShown = combo && (combo->GetStyle() & WS_VISIBLE) != 0;
+    if (!isShown || !combo->IsWindowEnabled() || combo->GetDroppedState() || button.m_nID == 0) {
+        return false;
+    }
+    CPoint point;
+    ::GetCursorPos(&point);
+    combo->ScreenToClient(&point);
+    if (!(combo->*isOnMark)(point)) {
+        return false;
+    }
+    combo->OnLButtonDown(MK_LBUTTON, point);
+    return true;
+}
+
 template <class Combo>
 void StoreColor(Combo* combo, int index, COLORREF color, bool redraw) {
     if (!combo) {
@@ -102,18 +121,10 @@ bool CMFCCheckCombo::GetCheck(int index) const {
 bool CMFCCheckCombo::GetCheck(const wchar_t* text) const { return GetCheck(IndexOf(GetComboBox(), text)); }
 
 BOOL CMFCCheckCombo::OnClick(CWnd* bar, BOOL delay) {
-    auto* const combo = HostedIn<CCheckComboBox>(*this);
-    if (combo && combo->IsWindowEnabled() && !combo->GetDroppedState() && m_nID != 0) {
-        CPoint point;
-        ::GetCursorPos(&point);
-        combo->ScreenToClient(&point);
-        if (combo->IsInCheckZone(point)) {
-            combo->OnLButtonDown(MK_LBUTTON, point);
-            return FALSE;
-        }
-    }
-    return CMFCToolBarComboBoxButton::OnClick(bar, delay);
+    return PressMark(*this, &CCheckComboBox::IsInCheckZone) ? FALSE : CMFCToolBarComboBoxButton::OnClick(bar, delay);
 }
+
+void CMFCCheckCombo::CopyFrom(const CMFCToolBarButton& src) { CMFCToolBarComboBoxButton::CopyFrom(src); }
 
 // ---- a swatch and a light
 
@@ -165,6 +176,12 @@ void CMFCMultiCombo::SetItemColor(const wchar_t* text, COLORREF color, bool redr
     SetItemColor(IndexOf(GetComboBox(), text), color, redraw);
 }
 
+BOOL CMFCMultiCombo::OnClick(CWnd* bar, BOOL delay) {
+    return PressMark(*this, &CMultiCombo::IsInMarkZone) ? FALSE : CMFCToolBarComboBoxButton::OnClick(bar, delay);
+}
+
+void CMFCMultiCombo::CopyFrom(const CMFCToolBarButton& src) { CMFCToolBarComboBoxButton::CopyFrom(src); }
+
 // ---- a light alone
 
 CMFCMultiCombo2::CMFCMultiCombo2() : CMFCToolBarComboBoxButton(0, -1) {}
@@ -199,6 +216,12 @@ void CMFCMultiCombo2::SetItemColor(int index, COLORREF color, bool redraw) {
 void CMFCMultiCombo2::SetItemColor(const wchar_t* text, COLORREF color, bool redraw) {
     SetItemColor(IndexOf(GetComboBox(), text), color, redraw);
 }
+
+BOOL CMFCMultiCombo2::OnClick(CWnd* bar, BOOL delay) {
+    return PressMark(*this, &CVesMultiCombo::IsInMarkZone) ? FALSE : CMFCToolBarComboBoxButton::OnClick(bar, delay);
+}
+
+void CMFCMultiCombo2::CopyFrom(const CMFCToolBarButton& src) { CMFCToolBarComboBoxButton::CopyFrom(src); }
 
 // ---- a flag
 

@@ -8,7 +8,9 @@
 /// host asks CMFCToolBarComboBoxButton::GetByCmd for the one that is shown. The buttons keep no marks: every operation
 /// reaches the combo box that the button has while its toolbar has a window, and does nothing, or answers false,
 /// without one or with one of another class. An index outside the list is ignored and read as false; a text stands for
-/// the first item with it. User-interface thread only.
+/// the first item with it. OnClick, which the toolbar calls for a press that its own window gets, is a press on the
+/// combo's face: on a mark it does what the combo does there and is FALSE, elsewhere it opens the list and is TRUE.
+/// CopyFrom copies the items and their data, and no marks. User-interface thread only.
 
 /// A check box beside each item.
 class BARWRIGHT_API CMFCCheckCombo : public CMFCToolBarComboBoxButton {
@@ -26,6 +28,7 @@ public:
     bool GetCheck(const wchar_t* text) const;
 
     BOOL OnClick(CWnd* bar, BOOL delay = TRUE) override;
+    void CopyFrom(const CMFCToolBarButton& src) override;
 
 protected:
     CComboBox* CreateCombo(CWnd* bar, const CRect& rect) override;
@@ -53,6 +56,9 @@ public:
     void SetItemColor(int index, COLORREF color, bool redraw);
     void SetItemColor(const wchar_t* text, COLORREF color, bool redraw);
 
+    BOOL OnClick(CWnd* bar, BOOL delay = TRUE) override;
+    void CopyFrom(const CMFCToolBarButton& src) override;
+
 protected:
     CComboBox* CreateCombo(CWnd* bar, const CRect& rect) override;
 };
@@ -73,6 +79,9 @@ public:
     bool GetLightOn(const wchar_t* text) const;
     void SetItemColor(int index, COLORREF color, bool redraw);
     void SetItemColor(const wchar_t* text, COLORREF color, bool redraw);
+
+    BOOL OnClick(CWnd* bar, BOOL delay = TRUE) override;
+    void CopyFrom(const CMFCToolBarButton& src) override;
 
 protected:
     CComboBox* CreateCombo(CWnd* bar, const CRect& rect) override;

@@ -45,7 +45,7 @@ protected:
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* window, UINT kind);
+    afx_msg LRESULT OnCtlColorListBox(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnAddString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetContent(WPARAM wParam, LPARAM lParam);
@@ -56,9 +56,9 @@ private:
     class List;
     friend class List;
 
-    void OnCtlColorListBox(HWND list);
     int CheckZoneWidth() const;
     void RepaintList() const;
+    void AddMissingStates();
     /// False: the combo is gone.
     bool Toggle(int index);
 
@@ -89,11 +89,16 @@ public:
     void DrawItem(LPDRAWITEMSTRUCT item) override;
     void MeasureItem(LPMEASUREITEMSTRUCT item) override;
 
-protected:
+    /// A press on the closed face: on a mark it asks the host, elsewhere the list opens.
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    /// Whether a point of the client area is on the face's marks, which reach over the whole height: the first 46
+    /// pixels.
+    bool IsInMarkZone(CPoint point) const;
+
+protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg BOOL OnDropdown();
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* window, UINT kind);
+    afx_msg LRESULT OnCtlColorListBox(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -119,11 +124,15 @@ public:
     void DrawItem(LPDRAWITEMSTRUCT item) override;
     void MeasureItem(LPMEASUREITEMSTRUCT item) override;
 
-protected:
+    /// A press on the closed face: on the light it switches the selected item, elsewhere the list opens.
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    /// Whether a point of the client area is on the face's light, which reaches over the whole height.
+    bool IsInMarkZone(CPoint point) const;
+
+protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg BOOL OnDropdown();
-    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* window, UINT kind);
+    afx_msg LRESULT OnCtlColorListBox(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:

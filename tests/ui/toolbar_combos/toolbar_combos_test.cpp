@@ -9,7 +9,10 @@
 
 #include <afxframewndex.h>
 
+#include <commctrl.h>
+
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -135,6 +138,48 @@ TEST_F(CheckButton, APressOfTheButtonBesideTheBoxIsNoCommandEither) {
     EXPECT_TRUE(Shown().IsDroppedDown());
 }
 
+TEST_F(CheckButton, APressOfTheButtonBesideTheBoxGivesTheComboTheFocusAndPaintsTheButtonAnew) {
+    CRect window;
+    Combo().GetWindowRect(&window);
+    ::SetCursorPos(window.right - 5, window.CenterPoint().y);
+    bar.RedrawWindow(nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
+    ASSERT_FALSE(::GetUpdateRect(bar.m_hWnd, nullptr, FALSE));
+    EXPECT_TRUE(Shown().OnClick(&bar));
+    EXPECT_EQ(::GetFocus(), Combo().m_hWnd);
+    EXPECT_TRUE(::GetUpdateRect(bar.m_hWnd, nullptr, FALSE));
+}
+
+TEST_F(CheckButton, APressOnTheBoxWhileTheListIsOpenTogglesNothing) {
+    Combo().ShowDropDown(TRUE);
+    CRect window;
+    Combo().GetWindowRect(&window);
+    ::SetCursorPos(window.left + 5, window.CenterPoint().y);
+    Shown().OnClick(&bar);
+    EXPECT_FALSE(Shown().GetCheck(1));
+    EXPECT_EQ(std::ranges::count(frame->heard, L"check green 1"), 0);
+}
+
+TEST_F(CheckButton, AButtonWithoutACommandLeavesItsBoxAlone) {
+    Shown().m_nID = 0;
+    CRect window;
+    Combo().GetWindowRect(&window);
+    ::SetCursorPos(window.left + 5, window.CenterPoint().y);
+    EXPECT_TRUE(Shown().OnClick(&bar));
+    EXPECT_FALSE(Shown().GetCheck(1));
+    EXPECT_TRUE(Shown().IsDroppedDown());
+    Shown().m_nID = command;
+}
+
+TEST_F(CheckButton, WhereCombosAreNotFlatAPressOfTheButtonOpensNothing) {
+    CMFCToolBarComboBoxButton::SetFlatMode(FALSE);
+    CRect window;
+    Combo().GetWindowRect(&window);
+    ::SetCursorPos(window.right - 5, window.CenterPoint().y);
+    EXPECT_FALSE(Shown().OnClick(&bar));
+    EXPECT_FALSE(Shown().IsDroppedDown());
+    CMFCToolBarComboBoxButton::SetFlatMode(TRUE);
+}
+
 TEST_F(CheckButton, ADisabledComboDoesNotReactToAPress) {
     Shown().SetStyle(TBBS_DISABLED);
     CRect window;
@@ -188,6 +233,25 @@ TEST_F(MultiButton, ColoursReachTheHostedCombo) {
     EXPECT_EQ(color, static_cast<COLORREF>(RGB(1, 2, 3)));
     EXPECT_EQ(hosted.GetItemColor(0, color), 1);
     EXPECT_EQ(hosted.GetItemColor(-1, color), 0);
+}
+
+TEST_F(MultiButton, AColourPaintsTheComboAnewWhereARedrawIsAskedFor) {
+    Combo().UpdateWindow();
+    ASSERT_FALSE(::GetUpdateRect(Combo().m_hWnd, nullptr, FALSE));
+    Shown().SetItemColor(1, RGB(1, 2, 3), false);
+    EXPECT_FALSE(::GetUpdateRect(Combo().m_hWnd, nullptr, FALSE));
+    Shown().SetItemColor(1, RGB(1, 2, 3), true);
+    EXPECT_TRUE(::GetUpdateRect(Combo().m_hWnd, nullptr, FALSE));
+}
+
+TEST_F(MultiButton, ALockIsLeftAsItIsWhereItIsSoAlready) {
+    Combo().SetItemData(0, 0xf1);
+    Shown().SetItemLock(0, true, true);
+    EXPECT_EQ(Combo().GetItemData(0), 0xf1u);
+    Combo().SetItemData(1, 0xf6);
+    Shown().SetItemLock(1, false, true);
+    Shown().SetLightOn(1, true, true);
+    EXPECT_EQ(Combo().GetItemData(1), 0xf6u);
 }
 
 TEST_F(MultiButton, IndexesAndTextsOutsideTheListAreIgnored) {
@@ -251,6 +315,51 @@ TEST_F(ForeignButton, AComboOfAnotherClassIsLeftAlone) {
     ASSERT_NE(shown.GetComboBox(), nullptr);
     EXPECT_EQ(shown.SetCheck(0, 1, 1), 0);
     EXPECT_FALSE(shown.GetCheck(0));
+}
+
+/// The system's combo boxes, of which it refuses to make the next one.
+class RefusedCombo {
+public:
+    RefusedCombo() {
+        WNDCLASSW known{};
+        ::GetClassInfoW(nullptr, WC_COMBOBOXW, &known);
+        s_system = known.lpfnWndProc;
+        known.lpfnWndProc = &Proc;
+        known.hInstance = AfxGetInstanceHandle();
+        known.lpszClassName = WC_COMBOBOXW;
+        m_isRegistered = ::RegisterClassW(&known) != 0;
+        s_refuses = true;
+    }
+    ~RefusedCombo() { ::UnregisterClassW(WC_COMBOBOXW, AfxGetInstanceHandle()); }
+    RefusedCombo(const RefusedCombo&) = delete;
+    RefusedCombo& operator=(const RefusedCombo&) = delete;
+    bool HasRefused() const { return m_isRegistered && !s_refuses; }
+
+private:
+    static LRESULT CALLBACK Proc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_NCCREATE && std::exchange(s_refuses, false)) {
+            return FALSE;
+        }
+        return ::CallWindowProcW(s_system, window, message, wParam, lParam);
+    }
+    static inline WNDPROC s_system = nullptr;
+    static inline bool s_refuses = false;
+    bool m_isRegistered = false;
+};
+
+TEST_F(CheckButton, WhereItsOwnComboCannotBeMadeAPlainOneTakesItsPlace) {
+    const RefusedCombo refused;
+    CMFCCheckCombo second(command + 1, -1);
+    second.AddItem(L"red");
+    bar.InsertButton(second);
+    EXPECT_TRUE(refused.HasRefused());
+    auto& shown = *static_cast<CMFCCheckCombo*>(bar.GetButton(1));
+    ASSERT_NE(shown.GetComboBox(), nullptr);
+    EXPECT_EQ(DYNAMIC_DOWNCAST(CCheckComboBox, shown.GetComboBox()), nullptr);
+    EXPECT_EQ(shown.GetComboBox()->GetCount(), 1);
+    EXPECT_EQ(shown.SetCheck(0, 1, 1), 0);
+    EXPECT_FALSE(shown.GetCheck(0));
+    bar.RemoveButton(1); // before the class goes
 }
 
 TEST(ToolbarComboClasses, AreMadeByTheirNames) {

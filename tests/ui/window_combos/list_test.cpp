@@ -87,6 +87,116 @@ TEST_F(OpenList, ADoubleClickOnACheckedBoxUnchecksAll) {
     EXPECT_EQ(Checks(), (std::vector<int>{0, 0, 0, 0, 0}));
 }
 
+TEST_F(OpenList, ADoubleClickOnATextChoosesItOnceAndChecksNothing) {
+    mouse.DoubleClick(list, InRow(list, 3, 80));
+    EXPECT_EQ(combo.GetCurSel(), 3);
+    EXPECT_EQ(Checks(), (std::vector<int>{0, 0, 0, 0, 0}));
+}
+
+TEST_F(OpenList, AReleaseThatNoPressOnATextCameBeforeIsSwallowed) {
+    const POINT text = InRow(list, 3, 80);
+    ::SendMessageW(list, WM_LBUTTONUP, 0, MAKELPARAM(text.x, text.y));
+    EXPECT_TRUE(combo.GetDroppedState());
+    EXPECT_EQ(combo.GetCurSel(), 1);
+    EXPECT_EQ(host.heard, Heard());
+}
+
+TEST_F(OpenList, TheBoxesColumnEndsSixPixelsBehindTheHeightOfTheFont) {
+    TEXTMETRIC metrics{};
+    {
+        CClientDC dc(&combo);
+        dc.GetTextMetrics(&metrics); // of the combo's font, the system's
+    }
+    const auto end = static_cast<int>(metrics.tmHeight + metrics.tmExternalLeading) + 6;
+    mouse.Click(list, InRow(list, 2, end - 1));
+    EXPECT_EQ(combo.GetCheck(2), 1);
+    EXPECT_TRUE(combo.GetDroppedState());
+    mouse.Click(list, InRow(list, 3, end));
+    EXPECT_EQ(combo.GetCheck(3), 0);
+    EXPECT_FALSE(combo.GetDroppedState());
+    EXPECT_EQ(combo.GetCurSel(), 3);
+}
+
+TEST_F(OpenList, ThePressedRowIsPaintedAnew) {
+    ::RedrawWindow(list, nullptr, nullptr, RDW_VALIDATE | RDW_NOERASE);
+    RECT work{};
+    host.onMessage = [&] { // in the first message, before anything has changed
+        if (host.heard.size() == 1) {
+            ::GetUpdateRect(list, &work, FALSE);
+        }
+    };
+    const POINT box = InRow(list, 2, 5);
+    ::SendMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(box.x, box.y));
+    RECT row{};
+    ::SendMessageW(list, LB_GETITEMRECT, 2, reinterpret_cast<LPARAM>(&row));
+    EXPECT_TRUE(::EqualRect(&work, &row)) << work.top << ' ' << work.bottom;
+}
+
+TEST_F(OpenList, ItsWindowIsTakenOnceHoweverOftenItOpens) {
+    combo.ShowDropDown(FALSE);
+    Open();
+    combo.ShowDropDown(FALSE);
+    Open();
+    mouse.Click(list, InRow(list, 2, 5));
+    EXPECT_EQ(combo.GetCheck(2), 1);
+    EXPECT_EQ(host.heard, (Heard{Command(CBN_SELCHANGE), L"check blue 1", Command(0), Command(CBN_SELCHANGE)}));
+}
+
+TEST_F(OpenList, TheComboIsNotTakenForItsOwnList) {
+    CCheckComboBox other;
+    ASSERT_TRUE(other.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, CRect(220, 10, 380, 200), &host, 701));
+    AddColours(other);
+    {
+        CClientDC dc(&other);
+        const auto itself = reinterpret_cast<LPARAM>(other.m_hWnd);
+        EXPECT_NE(other.SendMessage(WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), itself), 0)
+            << "a brush";
+    }
+    other.ShowDropDown(TRUE);
+    const HWND second = ListOf(other);
+    ::RedrawWindow(second, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    mouse.Click(second, InRow(second, 4, 5));
+    EXPECT_EQ(other.GetCheck(4), 1);
+}
+
+TEST_F(OpenList, AParentMayColourIt) {
+    class ColouringHost : public ComboHost {
+    public:
+        int asked = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+            if (message != WM_CTLCOLORLISTBOX) {
+                return ComboHost::WindowProc(message, wParam, lParam);
+            }
+            ++asked;
+            return reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH));
+        }
+    };
+    ColouringHost colouring;
+    CCheckComboBox other;
+    colouring.Place(other);
+    CClientDC dc(&other);
+    const LRESULT brush = other.SendMessage(WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(dc.GetSafeHdc()),
+                                            reinterpret_cast<LPARAM>(ListOf(other)));
+    EXPECT_EQ(colouring.asked, 1);
+    EXPECT_EQ(brush, reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
+}
+
+TEST(LightLists, LieOnTheWindowsGround) {
+    ComboHost host;
+    CMultiCombo multi;
+    host.Place(multi);
+    CVesMultiCombo light;
+    host.Place(light);
+    for (const CComboBox* const combo : {static_cast<CComboBox*>(&multi), static_cast<CComboBox*>(&light)}) {
+        CClientDC dc(const_cast<CComboBox*>(combo));
+        EXPECT_EQ(::SendMessageW(combo->m_hWnd, WM_CTLCOLORLISTBOX, reinterpret_cast<WPARAM>(dc.GetSafeHdc()),
+                                 reinterpret_cast<LPARAM>(ListOf(*combo))),
+                  reinterpret_cast<LRESULT>(::GetSysColorBrush(COLOR_WINDOW)));
+    }
+}
+
 TEST_F(OpenList, TheItemUnderThePointCountsFromTheTopOfAScrolledList) {
     combo.ShowDropDown(FALSE);
     for (int i = 0; i < 60; ++i) {

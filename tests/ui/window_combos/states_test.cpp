@@ -71,6 +71,20 @@ TEST_F(CheckStates, CheckAllSetsEveryItem) {
     EXPECT_EQ(Checks(), (Checks_{0, 0, 0, 0, 0}));
 }
 
+TEST_F(CheckStates, CheckAllInvalidatesTheComboForAChangeOnly) {
+    combo.CheckAll(1);
+    combo.UpdateWindow();
+    ASSERT_FALSE(HasWork(combo));
+    combo.CheckAll(1);
+    EXPECT_FALSE(HasWork(combo));
+    combo.CheckAll(0);
+    RECT work{};
+    RECT client{};
+    ::GetUpdateRect(combo.m_hWnd, &work, FALSE);
+    combo.GetClientRect(&client);
+    EXPECT_TRUE(::EqualRect(&work, &client)) << "the whole combo";
+}
+
 TEST_F(CheckStates, DeletingItemTwoMovesTheStatesOfThreeAndFourDown) {
     combo.SetCheck(2, 1, 0);
     combo.SetCheck(4, 1, 0);
@@ -90,6 +104,16 @@ TEST_F(CheckStates, AnInsertedItemMovesTheStatesBehindIt) {
     EXPECT_EQ(Checks(), (Checks_{0, 0, 1, 0, 0, 0}));
 }
 
+TEST_F(CheckStates, MessagesAndMembersKeepTheStatesAlike) {
+    combo.SetCheck(4, 1, 0);
+    combo.SendMessage(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"grey"));
+    combo.SendMessage(CB_DELETESTRING, 0, 0);
+    EXPECT_EQ(Checks(), (Checks_{0, 0, 0, 1, 0}));
+    combo.SendMessage(CB_RESETCONTENT, 0, 0);
+    combo.SendMessage(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"red"));
+    EXPECT_EQ(Checks(), (Checks_{0}));
+}
+
 TEST_F(CheckStates, EmptyingTheListForgetsTheStates) {
     combo.CheckAll(1);
     combo.ResetContent();
@@ -107,6 +131,26 @@ TEST(SortedCheckStates, AnItemThatSortsInBetweenTakesItsOwnPlace) {
     combo.AddString(L"a");
     EXPECT_EQ(combo.GetCheck(0), 0);
     EXPECT_EQ(combo.GetCheck(1), 1);
+}
+
+TEST(CheckComboOfATemplate, HasAStateForEachItemThatItHadBefore) {
+    ComboHost host;
+    const HWND made =
+        ::CreateWindowExW(0, L"ComboBox", L"", WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 10,
+                          10, 200, 190, host.m_hWnd, nullptr, nullptr, nullptr);
+    for (const wchar_t* text : {L"red", L"green", L"blue", L"white", L"black"}) {
+        ::SendMessageW(made, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+    }
+    CCheckComboBox combo;
+    ASSERT_TRUE(combo.SubclassWindow(made));
+    EXPECT_EQ(combo.GetCheck(4), 0);
+    EXPECT_EQ(combo.SetCheck(4, 1, 1), 0);
+    combo.DeleteString(0);
+    EXPECT_EQ(combo.GetCheck(3), 1);
+    combo.InsertString(0, L"grey");
+    EXPECT_EQ(combo.GetCheck(4), 1);
+    combo.CheckAll(1);
+    EXPECT_EQ(combo.GetCheck(0), 1);
 }
 
 TEST(CheckComboWithoutWindow, HasNoItemsAndNoStates) {
