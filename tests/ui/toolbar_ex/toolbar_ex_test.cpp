@@ -57,6 +57,26 @@ TEST_F(FlatToolBar, ManagerThatComesWhileItPaintsIsLeftAlone) {
     EXPECT_FALSE(CMFCVisualManager::GetInstance()->IsKindOf(RUNTIME_CLASS(CQKVisualManagerOffice2007Black)));
 }
 
+TEST_F(FlatToolBar, PaintingWithinPaintingPutsTheColoursBackAsWell) {
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CQKVisualManagerOffice2007Black));
+    CMFCVisualManager::GetInstance();
+    m_before = OpenManager::Light();
+    m_darkBefore = OpenManager::Dark();
+    int depth = 0;
+    m_bar->m_onFill = [&](CDC*) {
+        if (++depth < 3) {
+            PaintInMemory();
+        }
+        m_within = OpenManager::Light();
+    };
+    PaintInMemory();
+    EXPECT_EQ(depth, 3);
+    EXPECT_EQ(m_within, RGB(168, 176, 186)) << "also after the inner ones";
+    EXPECT_EQ(OpenManager::Light(), m_before);
+    EXPECT_EQ(OpenManager::Dark(), m_darkBefore);
+    m_bar->m_onFill = nullptr;
+}
+
 TEST_F(ToolBarHost, ChangeOfTheManagerTakesTheWindowsShape) {
     m_bar->m_bRoundShape = TRUE;
     m_bar->SetWindowRgn(::CreateRoundRectRgn(0, 0, 50, 20, 6, 6), FALSE);
