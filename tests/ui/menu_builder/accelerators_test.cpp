@@ -79,6 +79,35 @@ TEST_F(MenuShortcuts, AddAppAccelTableOfNothingDoesNothing) {
     EXPECT_EQ(OfFrame(), L"01 70 8;");
 }
 
+TEST_F(MenuShortcuts, SecondLoadBeginsWithWhatTheFirstHasInstalledAndAddsNothingTwice) {
+    GiveFrame({{FVIRTKEY, VK_F1, 8}});
+    const char* const items = "<i KEYWORD='A' HOTKEY='Ctrl+S'/>";
+    ASSERT_TRUE(Load(items));
+    m_creater.SetAppAccelTable();
+    ASSERT_TRUE(Load(items));
+    EXPECT_EQ(OfCreater(), L"01 70 8;09 53 0;");
+    m_creater.SetAppAccelTable();
+    EXPECT_EQ(OfFrame(), L"01 70 8;09 53 0;");
+}
+
+TEST_F(MenuShortcuts, MainWindowThatIsNoFrameHasNoneAndGetsNone) {
+    GiveFrame({{FVIRTKEY, VK_F1, 8}});
+    CWnd window;
+    ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), L"no frame", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
+    AfxGetThread()->m_pMainWnd = &window;
+    ASSERT_TRUE(Load("<i KEYWORD='A' HOTKEY='Ctrl+S'/>"));
+    EXPECT_EQ(OfCreater(), L"09 53 0;");
+    m_creater.SetAppAccelTable();
+    EXPECT_EQ(m_creater.m_pAccel, nullptr) << "given up all the same";
+    ACCEL kept[] = {{kCtrl, 'A', 1}};
+    ACCEL* entries = kept;
+    CDynMenuCreater::AddAppAccelTable(entries, 1);
+    EXPECT_EQ(entries, kept) << "it stays the caller's";
+    AfxGetThread()->m_pMainWnd = &m_frame;
+    EXPECT_EQ(OfFrame(), L"01 70 8;");
+    window.DestroyWindow();
+}
+
 TEST_F(MenuShortcuts, KeyReachesTheCommandOnce) {
     struct Counter : CCmdTarget {
         BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {

@@ -61,6 +61,30 @@ TEST_F(MenuBuilder, PopupIsRegisteredUnderIdZeroWithoutTakingOne) {
     EXPECT_EQ(id, static_cast<int>(m_firstId));
 }
 
+TEST_F(MenuBuilder, ItemWithTheKeywordOfAPopupGetsItsIdZero) {
+    ASSERT_TRUE(Load("<g><p KEYWORD='P' MENUNAME=''><i KEYWORD='A' MENUNAME=''/></p><i KEYWORD='P' MENUNAME=''/></g>"));
+    ASSERT_EQ(::GetMenuItemCount(m_creater.m_hMenu), 2);
+    EXPECT_EQ(::GetMenuItemID(m_creater.m_hMenu, 1), 0u);
+    EXPECT_EQ(m_creater.m_nCurId, m_firstId + 1) << "no id is taken for it";
+}
+
+TEST_F(MenuBuilder, ElementWithChildrenIsAPopupEvenIfItCallsItselfASeparator) {
+    ASSERT_TRUE(
+        Load("<g><p KEYWORD='P' CMD='c' MENUNAME='SEPARATOR' SHORTKEY='x'><i KEYWORD='A' MENUNAME=''/></p></g>"));
+    EXPECT_EQ(Outline(), L"{A#0}");
+    EXPECT_EQ(m_creater.m_vecCmd, (std::vector<std::wstring>{L"c", L""}));
+    int id = -1;
+    ASSERT_TRUE(CMenuIdMgr::Ins()->GetMenuId(L"P", id));
+    EXPECT_EQ(id, 0);
+}
+
+TEST_F(MenuBuilder, SeparatorAddsAnEmptyCommandTextWhateverStandsBeforeItsName) {
+    ASSERT_TRUE(Load("<g><s KEYWORD='S' CMD='c' MENUNAME='SEPARATOR'/><i KEYWORD='A' CMD='a'/></g>"));
+    EXPECT_EQ(m_creater.m_vecCmd, (std::vector<std::wstring>{L"", L"a"}));
+    int id = 0;
+    EXPECT_FALSE(CMenuIdMgr::Ins()->GetMenuId(L"S", id));
+}
+
 TEST_F(MenuBuilder, PopupTakesARegisteredKeywordToIdZero) {
     CMenuIdMgr::Ins()->Add(L"P", 12345, L"n", L"", L"", L"", L"");
     ASSERT_TRUE(Load("<g><p KEYWORD='P' MENUNAME=''><i KEYWORD='A'/></p></g>"));
