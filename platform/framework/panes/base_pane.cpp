@@ -7,6 +7,7 @@
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
 #include "panes/dock_rows.h"
+#include "panes/pane_menu.h"
 #include "window/bar_place.h"
 
 #include <utility>
@@ -306,6 +307,9 @@ void CBasePane::OnContextMenu(CWnd*, CPoint point) {
 }
 
 void CBasePane::OnPaneContextMenu(CWnd* pParentFrame, CPoint point) {
+    if (FilterPaneMenu(*this, point)) {
+        return;
+    }
     auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, pParentFrame);
     if (CDockingManager* manager = frame ? frame->FindDockingManager() : nullptr) {
         manager->OnPaneContextMenu(point);

@@ -4,6 +4,7 @@ namespace {
 
 // Initialised before any code runs: the rooms above set it while the library is loaded.
 constinit PaneMenuShower g_shower = nullptr;
+constinit PaneMenuFilter g_filter = nullptr;
 
 } // namespace
 
@@ -14,6 +15,10 @@ void ShowPaneMenu(CWnd& frame, CPoint point, const PaneMenuContent& content) {
         g_shower(frame, point, content);
     }
 }
+
+void SetPaneMenuFilter(PaneMenuFilter filter) { g_filter = filter; }
+
+bool FilterPaneMenu(CBasePane& pane, CPoint point) { return g_filter != nullptr && g_filter(pane, point); }
 
 std::vector<CPane*> PanesForMenu(const CObList& panes, bool showsToolbarsOnly) {
     std::vector<CPane*> offered;

@@ -19,3 +19,9 @@ struct PaneMenuContent {
 using PaneMenuShower = void (*)(CWnd& frame, CPoint point, const PaneMenuContent& content);
 void SetPaneMenuShower(PaneMenuShower shower);
 void ShowPaneMenu(CWnd& frame, CPoint point, const PaneMenuContent& content);
+
+/// Asked first when the menu of a pane is wanted at a point of the screen. True: it is done, and the pane may be gone.
+/// The room that knows what lies in panes sets it while the library is loaded.
+using PaneMenuFilter = bool (*)(CBasePane& pane, CPoint point);
+void SetPaneMenuFilter(PaneMenuFilter filter);
+bool FilterPaneMenu(CBasePane& pane, CPoint point);

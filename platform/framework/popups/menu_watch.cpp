@@ -2,6 +2,7 @@
 
 #include "afxpopupmenu.h"
 #include "afxpriv.h"
+#include "window/drag_window.h"
 #include "window/input_filter.h"
 
 #include <vector>
@@ -172,6 +173,9 @@ bool toolbar::IsInOpenPopups(HWND window) {
 
 BOOL toolbar::FilterMenuMessage(MSG* message) {
     CMFCPopupMenu* const active = g_active;
+    if (fx::DragWindow::HasMouse()) {
+        return FALSE; // Alt may be held, and Esc ends the drag; menus close at its end
+    }
     if (!active || ::GetWindowThreadProcessId(active->m_hWnd, nullptr) != ::GetCurrentThreadId()) {
         return FALSE;
     }

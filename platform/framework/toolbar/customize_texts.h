@@ -46,6 +46,16 @@ enum CustomizeText : UINT {
     kNewBarTitle,
     kRenameBarTitle,
     kDefaultBarName,
+    kResetButtonText,
+    kCopyImageText,
+    kDeleteButtonText,
+    kShowImageText,
+    kShowTextText,
+    kShowBothText,
+    kStartGroupText,
+    kAppearanceText,
+    kAppearanceTitle,
+    kButtonTextText,
 };
 
 } // namespace toolbar

@@ -167,7 +167,7 @@ void ToolBarsPage::OnResetAll() {
 
 void ToolBarsPage::OnNew() {
     const fx::WindowGuard guard(this);
-    const CString name = AskBarName(*this, kNewBarTitle, FrameworkText(kDefaultBarName));
+    const CString name = AskName(*this, kNewBarTitle, kBarNameText, FrameworkText(kDefaultBarName));
     CFrameWnd* const frame = guard.IsAlive() ? Dialog().Frame() : nullptr;
     if (name.IsEmpty() || frame == nullptr) {
         return;
@@ -185,7 +185,7 @@ void ToolBarsPage::OnRename() {
         return;
     }
     const fx::WindowGuard guard(this);
-    const CString name = AskBarName(*this, kRenameBarTitle, OfferedBars::NameOf(*before));
+    const CString name = AskName(*this, kRenameBarTitle, kBarNameText, OfferedBars::NameOf(*before));
     CMFCToolBar* const bar = guard.IsAlive() ? Selected() : nullptr;
     if (!name.IsEmpty() && bar != nullptr) {
         bar->SetWindowText(name);

@@ -1,5 +1,6 @@
 #include "toolbar/name_box.h"
 
+#include "core/framework_text.h"
 #include "window/dialog_template.h"
 
 namespace toolbar {
@@ -7,10 +8,11 @@ namespace toolbar {
 namespace {
 
 constexpr int kName = 1001;
+constexpr int kLabel = 1002;
 constexpr int kLongestName = 100;
 
 constexpr fx::DialogItem kItems[] = {
-    {-1, kBarNameText, 7, 7, 186, 8},
+    {kLabel, kBarNameText, 7, 7, 186, 8},
     {kName, 0, 7, 17, 186, 13, fx::DialogControl::Edit, ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP},
     {IDOK, kOkText, 89, 38, 50, 14, fx::DialogControl::Button, BS_DEFPUSHBUTTON | WS_TABSTOP},
     {IDCANCEL, kCancelText, 143, 38, 50, 14, fx::DialogControl::Button, BS_PUSHBUTTON | WS_TABSTOP},
@@ -18,8 +20,9 @@ constexpr fx::DialogItem kItems[] = {
 
 class NameBox : public CDialog {
 public:
-    NameBox(CWnd& parent, CustomizeText title, CString name)
-        : m_name(std::move(name)),
+    NameBox(CWnd& parent, CustomizeText title, CustomizeText label, CString name)
+        : m_label(label),
+          m_name(std::move(name)),
           m_template(fx::MakeDialogTemplate(
               {200, 59, DS_MODALFRAME | WS_POPUP | WS_CAPTION | WS_SYSMENU, static_cast<UINT>(title)}, kItems)) {
         InitModalIndirect(fx::TemplateIn(m_template), &parent);
@@ -28,6 +31,7 @@ public:
 
     BOOL OnInitDialog() override {
         CDialog::OnInitDialog();
+        SetDlgItemText(kLabel, FrameworkText(m_label));
         SetDlgItemText(kName, m_name);
         SendDlgItemMessage(kName, EM_LIMITTEXT, kLongestName);
         SendDlgItemMessage(kName, EM_SETSEL, 0, -1);
@@ -45,6 +49,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    CustomizeText m_label;
     CString m_name;
     std::vector<DWORD> m_template;
 };
@@ -55,8 +60,8 @@ END_MESSAGE_MAP()
 
 } // namespace
 
-CString AskBarName(CWnd& parent, CustomizeText title, const CString& proposed) {
-    NameBox box(parent, title, proposed);
+CString AskName(CWnd& parent, CustomizeText title, CustomizeText label, const CString& proposed) {
+    NameBox box(parent, title, label, proposed);
     return box.DoModal() == IDOK ? box.Name() : CString();
 }
 

@@ -6,7 +6,7 @@
 
 namespace toolbar {
 
-/// Asks in a modal dialog for the name of a toolbar; `proposed` is what it begins with. Empty: the user has left it.
-CString AskBarName(CWnd& parent, CustomizeText title, const CString& proposed);
+/// Asks in a modal dialog for a name; `proposed` is what it begins with. Empty: the user has left it.
+CString AskName(CWnd& parent, CustomizeText title, CustomizeText label, const CString& proposed);
 
 } // namespace toolbar

@@ -8,6 +8,8 @@
 #include "popups/row_letters.h"
 #include "popups/row_stack.h"
 #include "popups/user_settings.h"
+#include "toolbar/button_drag.h"
+#include "toolbar/menu_source.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
 #include "window/command_id.h"
@@ -184,6 +186,13 @@ void CMFCPopupMenuBar::OnLButtonDown(UINT, CPoint point) {
         SetHighlighted(hit >= 0 ? hit : m_iHighlighted);
         return;
     }
+    CPoint screen = point;
+    ClientToScreen(&screen);
+    if (IsCustomizeMode() && toolbar::ButtonDrag::BeginWithRow(*this, hit, screen)) {
+        KillTimer(openTimer); // the drag opens menus itself
+        m_pDelayedPopupMenuButton = nullptr;
+        return;
+    }
     if (!IsSelectable(GetButton(hit))) {
         return;
     }
@@ -227,8 +236,8 @@ void CMFCPopupMenuBar::ChooseItem(int iIndex) {
         }
         return;
     }
-    if (OpenSubMenu(iIndex, FALSE)) {
-        return;
+    if (OpenSubMenu(iIndex, FALSE) || (IsCustomizeMode() && toolbar::SourceOf(*popup))) {
+        return; // while it can be changed no item does what it is for
     }
     m_nLastCommandIndex = iIndex;
     const UINT id = button->m_nID;

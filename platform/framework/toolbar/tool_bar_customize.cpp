@@ -1,6 +1,8 @@
 // What users change in a toolbar, and the way back.
 #include "afxtoolbar.h"
 
+#include "afxtoolbarmenubutton.h"
+#include "afxvisualmanager.h"
 #include "fx/registered_messages.h"
 #include "fx/to_rect.h"
 #include "fx/window_guard.h"
@@ -80,12 +82,21 @@ BOOL CMFCToolBar::BeginButtonDrag(CPoint point) {
     if (m_bMenuMode || (!isByAlt && !g_isCustomizeMode)) {
         return FALSE;
     }
-    const CMFCToolBarButton* const button = GetButton(HitTest(point));
+    CMFCToolBarButton* const button = GetButton(HitTest(point));
     CPoint screen = point;
     ClientToScreen(&screen);
-    const bool hasBegun = button && ButtonDrag::Begin(*this, *button, screen, isByAlt);
-    // In the customize mode no button does what it is for; the grip moves the bar as ever.
-    return hasBegun || (g_isCustomizeMode && button);
+    if (button && ButtonDrag::Begin(*this, *button, screen, isByAlt)) {
+        return TRUE;
+    }
+    if (!g_isCustomizeMode || !button) {
+        return FALSE; // the grip moves the bar as ever
+    }
+    // In the customize mode no button does what it is for, but menus open: their items are changed there.
+    auto* const opener = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, button);
+    if (opener && opener->CanBeStored() && !opener->GetCommands().IsEmpty()) {
+        opener->OpenPopupMenu();
+    }
+    return TRUE;
 }
 
 void CMFCToolBar::DrawDropMark(CDC* pDC) {
@@ -94,8 +105,10 @@ void CMFCToolBar::DrawDropMark(CDC* pDC) {
     if (mark.IsRectEmpty()) {
         return;
     }
-    // A capital I in the gap, or one that lies on its side.
-    const COLORREF color = ::GetSysColor(COLOR_WINDOWTEXT);
+    // A capital I in the gap, or one that lies on its side. Menus may be dark.
+    CMFCToolBarMenuButton row;
+    const COLORREF color = m_bMenuMode ? CMFCVisualManager::GetInstance()->GetMenuItemTextColor(&row, FALSE, FALSE)
+                                       : ::GetSysColor(COLOR_WINDOWTEXT);
     const int foot = toolbar::Scaled(3);
     const bool isUpright = mark.Width() == 1;
     CRect beam = mark;

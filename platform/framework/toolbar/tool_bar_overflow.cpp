@@ -6,6 +6,7 @@
 #include "afxvisualmanager.h"
 #include "toolbar/chevron.h"
 #include "toolbar/choose_buttons.h"
+#include "toolbar/menu_source.h"
 #include "toolbar/metrics.h"
 
 #include <memory>
@@ -33,22 +34,6 @@ public:
 private:
     HWND m_bar; ///< may be destroyed while the menu is open
 };
-
-/// The button as a row of a menu.
-std::unique_ptr<CMFCToolBarMenuButton> RowFor(const CMFCToolBarButton& button) {
-    if (button.IsKindOf(RUNTIME_CLASS(CMFCToolBarMenuButton))) {
-        std::unique_ptr<CMFCToolBarMenuButton> row(
-            static_cast<CMFCToolBarMenuButton*>(button.GetRuntimeClass()->CreateObject()));
-        row->CopyFrom(button);
-        return row;
-    }
-    const int image = button.IsLocked() ? -1 : button.GetImage();
-    auto row =
-        std::make_unique<CMFCToolBarMenuButton>(button.m_nID, nullptr, image, button.m_strText, button.m_bUserButton);
-    button.ExportToMenuButton(*row);
-    row->m_nStyle = button.m_nStyle & ~static_cast<UINT>(TBBS_PRESSED);
-    return row;
-}
 
 } // namespace
 
@@ -135,7 +120,7 @@ BOOL CMFCToolBar::OpenOverflowMenu() {
         const auto& button = *static_cast<const CMFCToolBarButton*>(m_Buttons.GetNext(position));
         if (m_iFirstOverflow >= 0 && index >= m_iFirstOverflow && !button.IsHidden() && button.IsVisible()) {
             const bool isSeparator = (button.m_nStyle & TBBS_SEPARATOR) != 0;
-            rows.push_back(isSeparator ? nullptr : RowFor(button));
+            rows.push_back(isSeparator ? nullptr : toolbar::MenuItemFor(button));
         }
     }
     CRect place = m_rectOverflow;

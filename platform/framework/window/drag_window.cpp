@@ -31,6 +31,12 @@ BOOL DragWindow::CancelByEscape(MSG* message) {
     return true;
 }();
 
+DragWindow::~DragWindow() {
+    if (t_current == this) {
+        t_current = nullptr;
+    }
+}
+
 DragWindow* DragWindow::Current() { return t_current; }
 
 bool DragWindow::TakeMouse(CWnd* parent) {

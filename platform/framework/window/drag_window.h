@@ -8,9 +8,15 @@ namespace fx {
 /// is dragged may change its parent, or go. Points are screen pixels.
 class DragWindow : public CWnd {
 public:
+    DragWindow() = default;
+    /// Its window may go with its parent, in the middle of the drag.
+    ~DragWindow() override;
+
     /// Ends without effect: Esc was pressed, or the mouse went to somebody else. The keys go to the window with the
     /// focus, which knows nothing of the drag; they are seen on their way.
     virtual void Cancel() = 0;
+    /// Something is being dragged in this thread.
+    static bool HasMouse() { return Current() != nullptr; }
 
 protected:
     /// False: there is no window, and nothing has begun. One drag at a time in a thread.

@@ -262,6 +262,31 @@ TEST_F(CustomizeDialogTest, ACommandIsDraggedFromTheListBetweenTheButtonsOfABar)
     EXPECT_EQ(TakeCommands(), Commands{3021});
 }
 
+TEST_F(CustomizeDialogTest, ACommandIsDraggedFromTheListIntoAMenuThatOpensUnderIt) {
+    const HMENU popup = ::CreatePopupMenu();
+    ::AppendMenuW(popup, MF_STRING, 3031, L"First");
+    Bar().InsertButton(CMFCToolBarMenuButton(static_cast<UINT>(-1), popup, -1, L"More"));
+    ::DestroyMenu(popup);
+    LayOut();
+    Open();
+    const CPoint from = RowOnScreen(kCommands, 1);
+    Mouse(from, 0);
+    Mouse(from, MOUSEEVENTF_LEFTDOWN);
+    Mouse(from + CPoint(0, -20), 0);
+    Mouse(OnScreen(Bar(), 4, 0), 0);
+    ASSERT_TRUE(PumpUntil([] { return CMFCPopupMenu::GetActiveMenu() != nullptr; }));
+    CMFCPopupMenuBar& menu = *CMFCPopupMenu::GetActiveMenu()->GetMenuBar();
+    const CPoint before = OnScreen(menu, 0, 0) + CSize(0, -5);
+    Mouse(before, 0);
+    Mouse(before, MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    const auto* const more = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, Bar().GetButton(4));
+    ASSERT_NE(more, nullptr);
+    ASSERT_EQ(more->GetCommands().GetCount(), 2);
+    EXPECT_EQ(static_cast<const CMFCToolBarButton*>(more->GetCommands().GetHead())->m_nID, 3021u);
+    EXPECT_TRUE(IsOpen());
+}
+
 TEST_F(CustomizeDialogTest, ACommandThatIsDroppedBesideTheBarsOrOnTheDialogChangesNothing) {
     Open();
     RealDrag(RowOnScreen(kCommands, 1), CPoint(20, 20));
@@ -470,6 +495,21 @@ TEST_F(BarListTest, TextsAreShownBelowTheButtonsOfTheSelectedBar) {
     Click(kTextLabels);
     EXPECT_TRUE(m_second.AreTextLabels());
     EXPECT_FALSE(Bar().AreTextLabels());
+}
+
+TEST_F(CustomizeDialogTest, TheMenuOfAButtonAsksForItsText) {
+    Open();
+    const CPoint button = OnScreen(Bar(), 1, 0);
+    for (const wchar_t* const text : {L"Other", L""}) {
+        Bar().SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Bar().m_hWnd), MAKELPARAM(button.x, button.y));
+        CMFCPopupMenu* const menu = CMFCPopupMenu::GetActiveMenu();
+        ASSERT_NE(menu, nullptr);
+        constexpr int kAppearanceRow = 4;
+        ASSERT_EQ(menu->GetMenuItem(kAppearanceRow)->m_strText, L"&Button Appearance...");
+        const NameTyper typer(text);
+        RealClick(OnScreen(*menu->GetMenuBar(), kAppearanceRow, 0));
+        EXPECT_EQ(Bar().GetButton(1)->m_strText, L"Other") << "an empty name is none";
+    }
 }
 
 // ---- keys
