@@ -9,6 +9,7 @@
 #include "fx/window_guard.h"
 #include "toolbar/command_catalog.h"
 #include "toolbar/customize_page.h"
+#include "toolbar/dark_dialog.h"
 
 IMPLEMENT_DYNAMIC(CMFCToolBarsCustomizeDialog, CPropertySheet)
 
@@ -127,6 +128,7 @@ BOOL CMFCToolBarsCustomizeDialog::OnInitDialog() {
     const BOOL result = CPropertySheet::OnInitDialog();
     PlaceButtons();
     CenterWindow();
+    toolbar::DressDialog(m_hWnd);
     return result;
 }
 

@@ -3,6 +3,7 @@
 #include "core/framework_text.h"
 #include "fx/app.h"
 #include "fx/window_guard.h"
+#include "toolbar/dark_dialog.h"
 
 namespace toolbar {
 
@@ -13,6 +14,12 @@ CustomizePage::CustomizePage(CMFCToolBarsCustomizeDialog& dialog, CustomizeText 
           fx::MakeDialogTemplate({kPageWidth, kPageHeight, WS_CHILD | WS_CAPTION | WS_DISABLED, caption}, items)) {
     m_psp.dwFlags |= PSP_DLGINDIRECT;
     m_psp.pResource = fx::TemplateIn(m_template);
+}
+
+BOOL CustomizePage::OnInitDialog() {
+    const BOOL result = CPropertyPage::OnInitDialog();
+    DressDialog(m_hWnd);
+    return result;
 }
 
 void CustomizePage::EnableItem(int id, bool isEnabled) {

@@ -11,6 +11,8 @@ class CustomizePage : public CPropertyPage {
 public:
     CustomizePage(CMFCToolBarsCustomizeDialog& dialog, CustomizeText caption, std::span<const fx::DialogItem> items);
 
+    BOOL OnInitDialog() override;
+
 protected:
     /// Outlives its pages' windows.
     CMFCToolBarsCustomizeDialog& Dialog() const { return m_dialog; }

@@ -1,6 +1,7 @@
 #include "toolbar/name_box.h"
 
 #include "core/framework_text.h"
+#include "toolbar/dark_dialog.h"
 #include "window/dialog_template.h"
 
 namespace toolbar {
@@ -31,6 +32,7 @@ public:
 
     BOOL OnInitDialog() override {
         CDialog::OnInitDialog();
+        DressDialog(m_hWnd);
         SetDlgItemText(kLabel, FrameworkText(m_label));
         SetDlgItemText(kName, m_name);
         SendDlgItemMessage(kName, EM_LIMITTEXT, kLongestName);

@@ -328,6 +328,103 @@ TEST_F(CustomizeDialogTest, AButtonMovesToAnotherBarWithoutAltAndIsRemovedBeside
     EXPECT_EQ(Contents(), L"3003");
 }
 
+// ---- its look
+
+constexpr COLORREF kDarkGround = RGB(40, 44, 52);
+constexpr COLORREF kLightText = RGB(220, 223, 228);
+
+/// Knows nothing but the ground of the list of commands.
+class DarkManager : public CMFCVisualManager {
+    DECLARE_DYNCREATE(DarkManager)
+
+public:
+    COLORREF OnFillCommandsListBackground(CDC* dc, CRect rect, BOOL) override {
+        dc->FillSolidRect(rect, kDarkGround);
+        return kLightText;
+    }
+};
+IMPLEMENT_DYNCREATE(DarkManager, CMFCVisualManager)
+
+class DialogLookTest : public CustomizeDialogTest {
+protected:
+    ~DialogLookTest() override {
+        Close();
+        CMFCVisualManager::SetDefaultManager(nullptr);
+    }
+    struct Asked {
+        COLORREF ground;
+        COLORREF text;
+    };
+    /// What the window says about a control of its own.
+    static Asked Ask(HWND window, UINT message, HWND control) {
+        const HDC dc = ::GetDC(window);
+        const LRESULT brush =
+            ::SendMessageW(window, message, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(control));
+        LOGBRUSH shape{};
+        ::GetObjectW(reinterpret_cast<HGDIOBJ>(brush), sizeof(shape), &shape);
+        const Asked asked{shape.lbColor, ::GetTextColor(dc)};
+        ::ReleaseDC(window, dc);
+        return asked;
+    }
+    static COLORREF PixelOf(HWND window, int x, int y) {
+        ::UpdateWindow(window);
+        const HDC dc = ::GetDC(window);
+        const COLORREF pixel = ::GetPixel(dc, x, y);
+        ::ReleaseDC(window, dc);
+        return pixel;
+    }
+    HWND Page() const { return m_dialog->GetActivePage()->m_hWnd; }
+};
+
+TEST_F(DialogLookTest, UnderADarkLookGroundTextsAndFieldsAreDark) {
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(DarkManager));
+    Open();
+    for (const UINT message : {WM_CTLCOLORSTATIC, WM_CTLCOLORLISTBOX, WM_CTLCOLOREDIT, WM_CTLCOLORDLG}) {
+        const Asked asked = Ask(Page(), message, Item(kCategories));
+        EXPECT_EQ(asked.ground, kDarkGround) << message;
+        EXPECT_EQ(asked.text, kLightText) << message;
+    }
+    EXPECT_EQ(PixelOf(Page(), 2, 2), kDarkGround);
+    CRect client;
+    m_dialog->GetClientRect(&client);
+    EXPECT_EQ(PixelOf(m_dialogWindow, 2, client.bottom - 2), kDarkGround);
+    GoTo(kToolBarsPage);
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessageW(Item(kBars), LVM_GETBKCOLOR, 0, 0)), kDarkGround);
+    EXPECT_EQ(static_cast<COLORREF>(::SendMessageW(Item(kBars), LVM_GETTEXTCOLOR, 0, 0)), kLightText);
+}
+
+TEST_F(DialogLookTest, UnderADarkLookButtonsAndTabsAreDarkAndWorkAsEver) {
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(DarkManager));
+    Open();
+    GoTo(kToolBarsPage);
+    const COLORREF face = PixelOf(Item(kReset), 3, 3);
+    EXPECT_LT(GetRValue(face), 100) << "dark, too";
+    EXPECT_GT(GetRValue(face), GetRValue(kDarkGround)) << "and raised";
+    ::SendMessageW(Item(kReset), BM_SETSTATE, TRUE, 0);
+    EXPECT_GT(GetRValue(PixelOf(Item(kReset), 3, 3)), GetRValue(face)) << "pressed";
+    ::SendMessageW(Item(kReset), BM_SETSTATE, FALSE, 0);
+    EXPECT_EQ(PixelOf(Item(kReset), 3, 3), face);
+    const HWND tabs = m_dialog->GetTabControl()->m_hWnd;
+    CRect last;
+    m_dialog->GetTabControl()->GetItemRect(kOptionsPage, &last);
+    EXPECT_EQ(PixelOf(tabs, last.right + 5, last.top + 5), kDarkGround);
+    RealClick([&] {
+        CPoint point = last.CenterPoint();
+        ::ClientToScreen(tabs, &point);
+        return point;
+    }());
+    EXPECT_EQ(m_dialog->GetActiveIndex(), kOptionsPage);
+    EXPECT_EQ(PixelOf(tabs, last.left + 3, last.top + 3), face) << "the tab in front";
+}
+
+TEST_F(DialogLookTest, UnderALightLookTheDialogIsTheSystems) {
+    Open();
+    EXPECT_EQ(Ask(Page(), WM_CTLCOLORSTATIC, Item(kCategories)).text, ::GetSysColor(COLOR_WINDOWTEXT));
+    EXPECT_GT(GetRValue(PixelOf(Page(), 2, 2)), 200);
+    GoTo(kToolBarsPage);
+    EXPECT_NE(static_cast<COLORREF>(::SendMessageW(Item(kBars), LVM_GETTEXTCOLOR, 0, 0)), kLightText);
+}
+
 // ---- toolbars
 
 class BarListTest : public CustomizeDialogTest {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <windows.h>
+
+namespace toolbar {
+
+/// Gives a dialog of the framework's, or a page of one, the colours of the current look where that is dark: ground,
+/// texts, fields, push buttons and tabs. Under a light look it stays as the system draws it. When the window and its
+/// controls are there, once; what it needs goes with the windows.
+void DressDialog(HWND dialog);
+
+} // namespace toolbar
