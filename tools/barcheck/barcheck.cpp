@@ -32,7 +32,7 @@ std::string ReportOf(const std::vector<Diagnostic>& findings, const BarcheckOpti
     case ReportFormat::Sarif:
         return SarifReport(findings);
     case ReportFormat::Github:
-        return GithubReport(findings);
+        return GithubReport(findings, options.folder);
     case ReportFormat::Text:
         break;
     }

@@ -25,13 +25,14 @@ std::string CommandOf(DiagnosticSeverity severity) {
 
 } // namespace
 
-std::string GithubReport(const std::vector<Diagnostic>& findings) {
+std::string GithubReport(const std::vector<Diagnostic>& findings, const std::wstring& folder) {
     constexpr std::string_view inText = "%\r\n";
     constexpr std::string_view inProperty = "%\r\n:,";
     std::string report;
     for (const Diagnostic& finding : findings) {
         const std::wstring text = finding.fix.empty() ? finding.text : finding.text + L" (" + finding.fix + L")";
-        report += "::" + CommandOf(finding.severity) + " file=" + Escaped(wstring2String(finding.file), inProperty) +
+        report += "::" + CommandOf(finding.severity) +
+                  " file=" + Escaped(wstring2String(folder + finding.file), inProperty) +
                   ",line=" + std::to_string(finding.position.line) + ",col=" + std::to_string(finding.position.column) +
                   ",title=" + std::string(finding.code) + "::" + Escaped(wstring2String(text), inText) + "\n";
     }

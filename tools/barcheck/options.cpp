@@ -83,15 +83,41 @@ constexpr Option kOptions[] = {
     {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
     {L"--attributes", false, SetTask<BarcheckOptions::Task::Attributes>},
     {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
+    {L"-h", false, SetTask<BarcheckOptions::Task::Help>},
 };
 
 #ifdef _WIN32
 constexpr wchar_t kSeparator = L'\\';
 std::filesystem::path NativePath(const std::wstring& path) { return path; }
+std::wstring WidePath(const std::filesystem::path& path) { return path.native(); }
 #else
 constexpr wchar_t kSeparator = L'/';
 std::filesystem::path NativePath(const std::wstring& path) { return wstring2String(path); }
+std::wstring WidePath(const std::filesystem::path& path) { return string2wstring(path.native()); }
 #endif
+
+/// A file as a shell completes it, absolute or relative to the working directory, becomes relative to the installation
+/// directory that it lies in; any other stays.
+std::wstring RelativeToDirectory(const std::wstring& file, const std::wstring& directory) {
+    std::error_code error;
+    const std::filesystem::path path = NativePath(file);
+    const std::filesystem::path base = NativePath(directory);
+    if (file.empty() || (path.is_relative() && std::filesystem::exists(base / path, error)) ||
+        !std::filesystem::exists(path, error)) {
+        return file;
+    }
+    const std::filesystem::path relative = std::filesystem::proximate(path, base, error);
+    const bool isInside = !error && relative.is_relative() && *relative.begin() != "..";
+    return isInside ? WidePath(relative) : file;
+}
+
+/// See BarcheckOptions.
+std::wstring FolderOf(const std::wstring& directory) {
+    const std::filesystem::path path = NativePath(directory).lexically_normal();
+    std::wstring folder = path.is_absolute() || path.has_root_path() || path == "." ? std::wstring() : WidePath(path);
+    std::ranges::replace(folder, kSeparator, L'/');
+    return folder == L"./" ? std::wstring() : folder;
+}
 
 bool CheckDirectory(BarcheckOptions& options, std::wstring& error) {
     std::error_code ignored;
@@ -138,6 +164,12 @@ std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstri
     if (needsDirectory && !CheckDirectory(options, error)) {
         return std::nullopt;
     }
+    if (needsDirectory) {
+        options.folder = FolderOf(options.directory);
+        for (std::wstring& file : options.files) {
+            file = RelativeToDirectory(file, options.directory);
+        }
+    }
     return options;
 }
 
@@ -152,7 +184,7 @@ const char* BarcheckUsage() {
            "files, the translation tables below lang and the icons that the files name. It reads them as the library\n"
            "does. Without a FILE (relative to DIR) it takes cfg\\ribbon*.xml, cfg\\menu*.xml and cfg\\toolbar*.xml; of "
            "a\n"
-           "FILE of another name the attributes say what it is.\n"
+           "FILE of another name the attributes say what it is; one that ends in .xlf is a translation table.\n"
            "  --format  text: FILE:LINE:COLUMN: SEVERITY: TEXT [CODE], the line and a caret below it; json; sarif "
            "(2.1.0);\n"
            "            github: commands that mark the places in a pull request\n"

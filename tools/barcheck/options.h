@@ -14,6 +14,8 @@ struct BarcheckOptions {
     Task task = Task::Check;
     /// Installation directory, with its closing separator.
     std::wstring directory;
+    /// The same with "/", where it was given relative to the working directory and is another one; otherwise empty.
+    std::wstring folder;
     /// Relative to the directory; none: those that are there.
     std::vector<std::wstring> files;
     ReportFormat format = ReportFormat::Text;

@@ -11,7 +11,8 @@
 std::string TextReport(const std::vector<Diagnostic>& findings, const std::wstring& directory);
 std::string JsonReport(const std::vector<Diagnostic>& findings);
 std::string SarifReport(const std::vector<Diagnostic>& findings);
-std::string GithubReport(const std::vector<Diagnostic>& findings);
+/// `folder`: where the directory lies in the repository, with its closing "/"; empty: at its root.
+std::string GithubReport(const std::vector<Diagnostic>& findings, const std::wstring& folder = {});
 
 /// "1 error, 2 warnings, 0 notes".
 std::string Summary(const std::vector<Diagnostic>& findings);

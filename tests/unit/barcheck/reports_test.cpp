@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <filesystem>
+
 namespace {
 
 using Json = nlohmann::json;
@@ -86,6 +89,49 @@ TEST(BarcheckReport, GithubCommandsAreOneLineEachWithTheirSignsEscaped) {
                                             "::error file=cfg/none.xml,line=1,col=1,title=missing-file::gone\n");
 }
 
+TEST(BarcheckReport, GithubCommandsNameFilesFromWhereTheProgramWasStarted) {
+    const std::vector<Diagnostic> findings = {
+        {L"cfg/a.xml", {3, 4}, DiagnosticSeverity::Error, "missing-file", L"gone", L"", {}}};
+    EXPECT_EQ(GithubReport(findings, L"product/files/"),
+              "::error file=product/files/cfg/a.xml,line=3,col=4,title=missing-file::gone\n");
+}
+
+TEST(BarcheckOptions, ADirectoryBelowTheWorkingDirectoryIsTheFilesFolder) {
+    const TemporaryDirectory directory;
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::create_directories(directory.Path() / "product" / "files");
+    std::filesystem::current_path(directory.Path());
+    std::wstring error;
+    EXPECT_EQ(ParseBarcheckOptions({L"product/files"}, error)->folder, L"product/files/");
+    EXPECT_EQ(ParseBarcheckOptions({L"./product//files/"}, error)->folder, L"product/files/");
+    EXPECT_EQ(ParseBarcheckOptions({L"."}, error)->folder, L"");
+    EXPECT_EQ(ParseBarcheckOptions({L"./"}, error)->folder, L"");
+    EXPECT_EQ(ParseBarcheckOptions({directory.Path().wstring()}, error)->folder, L"");
+    std::filesystem::current_path(before);
+}
+
+TEST(BarcheckOptions, AFileMayBeNamedAsAShellCompletesIt) {
+    const TemporaryDirectory directory;
+    directory.Write("product/cfg/menu.xml", "<menu/>");
+    directory.Write("cfg/menu.xml", "<menu/>");
+    directory.Write("other/menu.xml", "<menu/>");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(directory.Path());
+    std::wstring error;
+    const auto read = [&](const std::wstring& file) {
+        std::wstring name = ParseBarcheckOptions({L"product", file}, error)->files.front();
+        std::ranges::replace(name, L'\\', L'/');
+        return name;
+    };
+    EXPECT_EQ(read(L"cfg/menu.xml"), L"cfg/menu.xml"); // relative to the directory, where that is there
+    EXPECT_EQ(read(L"product/cfg/menu.xml"), L"cfg/menu.xml");
+    EXPECT_EQ(read((directory.Path() / "product" / "cfg" / "menu.xml").wstring()), L"cfg/menu.xml");
+    EXPECT_EQ(read(L"other/menu.xml"), L"other/menu.xml"); // outside
+    EXPECT_EQ(read(L"none.xml"), L"none.xml");
+    EXPECT_EQ(read(L""), L"");
+    std::filesystem::current_path(before);
+}
+
 TEST(BarcheckOptions, AreReadInAnyOrder) {
     const TemporaryDirectory directory;
     std::wstring error;
@@ -100,6 +146,7 @@ TEST(BarcheckOptions, AreReadInAnyOrder) {
     EXPECT_EQ(options->format, ReportFormat::Sarif);
     EXPECT_TRUE(ParseBarcheckOptions({L"--guide"}, error));
     EXPECT_TRUE(ParseBarcheckOptions({L"--help"}, error));
+    EXPECT_EQ(ParseBarcheckOptions({L"-h"}, error)->task, BarcheckOptions::Task::Help);
     EXPECT_EQ(ParseBarcheckOptions({L"--schema", L"menu"}, error)->schema, ConfigurationKind::Menu);
     EXPECT_EQ(ParseBarcheckOptions({path, L"--extract", L"fr"}, error)->extract, L"fr");
 }
