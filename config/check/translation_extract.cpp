@@ -109,14 +109,55 @@ void AddNote(std::string& unit, const std::string& note) {
     }
 }
 
-std::string NewUnit(const AskedText& asked, const std::wstring& source, std::size_t number) {
+/// The values of all attributes of the name "id".
+std::set<std::string> IdsIn(std::string_view table) {
+    constexpr std::string_view name = "id=";
+    constexpr std::string_view blanks = " \t\r\n";
+    std::set<std::string> ids;
+    for (std::size_t at = table.find(name); at != table.npos; at = table.find(name, at + 1)) {
+        const std::size_t start = at + name.size() + 1;
+        if (at > 0 && blanks.find(table[at - 1]) != blanks.npos && start < table.size()) {
+            const std::size_t end = table.find(table[start - 1], start);
+            ids.emplace(table.substr(start, std::min(end, table.size()) - start));
+        }
+    }
+    return ids;
+}
+
+/// Gives new units ids that no other one has.
+class FreeIds {
+public:
+    explicit FreeIds(std::string_view table) : m_taken(IdsIn(table)) {}
+
+    /// The key itself where it may be an id and is free.
+    std::string TakeFor(const std::string& key) {
+        constexpr std::string_view plain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789._-";
+        if (key.find_first_not_of(plain) == std::string::npos && m_taken.insert(key).second) {
+            return key;
+        }
+        std::string id;
+        do {
+            id = "new-" + std::to_string(++m_last);
+        } while (!m_taken.insert(id).second);
+        return id;
+    }
+
+private:
+    std::set<std::string> m_taken;
+    std::size_t m_last = 0;
+};
+
+std::string NewUnit(const AskedText& asked, const std::wstring& source, const std::string& id) {
     const std::string key = wstring2String(asked.key);
-    constexpr std::string_view plain = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789._-";
-    const bool isPlain = key.find_first_not_of(plain) == std::string::npos;
-    const std::string id = isPlain ? key : "new-" + std::to_string(number);
     return "    <unit id=\"" + id + "\" name=\"" + EscapedMarkup(key) + "\"><notes>" + std::string(kPlaceNote) +
            EscapedMarkup(asked.note) + std::string(kNoteEnd) + "</notes><segment><source>" + EscapedMarkup(source) +
-           "</source></segment></unit>\n";
+           "</source></segment></unit>";
+}
+
+/// As the table ends its lines.
+std::string_view LineEndOf(std::string_view table) {
+    const std::size_t end = table.find('\n');
+    return end != table.npos && end > 0 && table[end - 1] == '\r' ? "\r\n" : "\n";
 }
 
 /// Nothing that was in the table may be another one afterwards, and what was asked for is there: a table can hold a
@@ -196,12 +237,16 @@ private:
 
     /// `from`: where the section's last unit begins, or the section itself; npos when there is none.
     void AddNew(std::size_t from) {
+        const std::string lineEnd(LineEndOf(m_table));
+        FreeIds ids(m_table);
         std::string added;
         for (const AskedText& text : m_completion.asked) {
             if (!m_present.contains(text.key) && !m_completion.elsewhere.contains(text.key)) {
                 const auto source = m_completion.sources.find(text.key);
-                added +=
-                    NewUnit(text, source == m_completion.sources.end() ? text.key : source->second, ++m_counts.added);
+                ++m_counts.added;
+                added += NewUnit(text, source == m_completion.sources.end() ? text.key : source->second,
+                                 ids.TakeFor(wstring2String(text.key))) +
+                         lineEnd;
             }
         }
         if (added.empty()) {
@@ -210,14 +255,14 @@ private:
         const std::size_t end = from == std::string::npos ? from : m_table.find(kFileEnd, from);
         if (end == std::string::npos) {
             CopyUpTo(std::max(m_copied, m_table.rfind("</xliff>")));
-            m_out += "  <file id=\"" + std::string(kRibbonSection) + "\">\n" + added + "  </file>\n";
+            m_out += "  <file id=\"" + std::string(kRibbonSection) + "\">" + lineEnd + added + "  </file>" + lineEnd;
             return;
         }
         // In a line of its own, before the one that ends the section.
         const std::size_t line = m_table.rfind('\n', end) + 1;
         const bool isAlone = line >= m_copied && m_table.find_first_not_of(" \t", line) == end;
         CopyUpTo(isAlone ? line : end);
-        m_out += (isAlone ? "" : "\n") + added;
+        m_out += (isAlone ? "" : lineEnd) + added;
     }
 
     const std::string& m_table;

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace {
 
 class Extracting : public testing::Test {
@@ -99,6 +101,38 @@ TEST_F(Extracting, ATableOfOtherSectionsKeepsThem) {
     EXPECT_TRUE(Extract(L"fr").starts_with("lang/fr/commands.xlf: "));
     EXPECT_TRUE(Has("lang/fr/commands.xlf", "<target>y</target>"));
     EXPECT_TRUE(Has("lang/fr/commands.xlf", "name=\"In\""));
+}
+
+TEST_F(Extracting, EveryUnitHasAnIdOfItsOwn) {
+    const auto write = [this](const std::string& keywords) {
+        std::string elements;
+        for (const char keyword : keywords) {
+            elements += "<i KEYWORD=\"for " + std::string(1, keyword) + "\" NAME=\"\" TYPE=\"BUTTON\"/>\n";
+        }
+        m_installation.Write("cfg/ribbon.xml", RibbonWith(elements + "<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    };
+    m_installation.WriteTable("en", "<unit id='In' name='Other'><segment><source>x</source></segment></unit>");
+    write("ab");
+    Extract(L"en");
+    write("abcd"); // their keys are no ids, and some are there already
+    Extract(L"en");
+    for (const char* const id :
+         {"id='In'", "id=\"new-1\"", "id=\"new-2\"", "id=\"new-3\"", "id=\"new-4\"", "id=\"new-5\""}) {
+        const std::string table = Read("lang/en/a.xlf");
+        const std::size_t at = table.find(id);
+        ASSERT_NE(at, std::string::npos) << id << table;
+        EXPECT_EQ(table.find(id, at + 1), std::string::npos) << id << table;
+    }
+}
+
+TEST_F(Extracting, NewUnitsEndTheirLinesAsTheTableDoes) {
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    m_installation.Write("lang/en/a.xlf", "<xliff version=\"2.0\" srcLang=\"en\">\r\n  <file id=\"RibbonBarCfg\">\r\n"
+                                          "  </file>\r\n</xliff>\r\n");
+    EXPECT_EQ(Extract(L"en"), "lang/en/a.xlf: 2 new, 0 kept, 0 unused");
+    const std::string table = Read("lang/en/a.xlf");
+    EXPECT_EQ(std::ranges::count(table, '\n'), 6);
+    EXPECT_EQ(std::ranges::count(table, '\r'), 6);
 }
 
 TEST_F(Extracting, NothingIsWrittenWhereACommentLooksLikeTheSection) {
