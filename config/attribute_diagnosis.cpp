@@ -75,15 +75,21 @@ private:
     void Take(const AttributeRule& rule, const varnhold::XmlAttributeView& written) {
         const varnhold::TextPosition position = m_element.GetAttributePosition(written);
         const auto earlier = std::ranges::find(m_met.attributes, rule.use, &MetAttribute::use);
+        const bool isOdd = m_element.IsOddlyWritten(written);
+        std::wstring value = string2wstring(written.value);
         if (earlier == m_met.attributes.end()) {
-            m_met.attributes.push_back({rule.use, string2wstring(written.value), position});
+            m_met.attributes.push_back({rule.use, std::move(value), position, false, isOdd});
             return;
         }
         m_diagnostics.Report("duplicate-attribute", position,
                              Quoted(string2wstring(written.name)) +
                                  L" says again what an earlier attribute of the element says; the last one counts",
                              L"remove one of the two", {{m_diagnostics.File(), earlier->position, L"the earlier one"}});
-        earlier->value = string2wstring(written.value);
+        earlier->isReported = earlier->isReported || isOdd || earlier->value != value;
+        if (rule.use == AttributeUse::Keyword && earlier->value != value) {
+            m_met.otherKeywords.push_back(earlier->value);
+        }
+        earlier->value = std::move(value);
     }
 
     /// A text that is asked for before the keyword is looked up under none.
@@ -107,7 +113,7 @@ private:
     void CheckIgnoredTexts() const {
         for (const MetAttribute& attribute : m_met.attributes) {
             const bool isAsked = attribute.use == AttributeUse::Name || attribute.use == AttributeUse::ToolTip;
-            if (isAsked && !attribute.value.empty() && !IsSeparatorWord(attribute.value)) {
+            if (isAsked && !attribute.isReported && !attribute.value.empty() && !IsSeparatorWord(attribute.value)) {
                 m_diagnostics.Report("ignored-text", attribute.position,
                                      Quoted(attribute.value) +
                                          L" is not shown: the text is looked up under the keyword",
@@ -178,5 +184,8 @@ void PassOverBelow(const varnhold::XmlCursor& element, std::span<const Attribute
 void ReportAt(const FileDiagnostics& diagnostics, const MetElement& element, AttributeUse use, std::string_view code,
               std::wstring text, std::wstring fix) {
     const MetAttribute* const attribute = element.Find(use);
+    if (attribute && attribute->isReported) {
+        return;
+    }
     diagnostics.Report(code, attribute ? attribute->position : element.position, std::move(text), std::move(fix));
 }

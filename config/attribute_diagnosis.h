@@ -16,6 +16,7 @@ MetElement DescribeElement(varnhold::XmlCursor& element, std::span<const Attribu
 void PassOverBelow(const varnhold::XmlCursor& element, std::span<const AttributeRule> rules,
                    const FileDiagnostics& diagnostics);
 
-/// Reports `code` at the attribute when the element has one, otherwise at the element.
+/// Reports `code` at the attribute when the element has one, otherwise at the element. Of an attribute whose value was
+/// reported nothing more is said.
 void ReportAt(const FileDiagnostics& diagnostics, const MetElement& element, AttributeUse use, std::string_view code,
               std::wstring text, std::wstring fix = {});

@@ -12,7 +12,9 @@ using enum ExampleFrame;
 constexpr DiagnosticCode kCodes[] = {
     // The file as a whole.
     {"xml-syntax", Error, "The file is not well-formed XML.",
-     "The file is not loaded at all: the library says so in a message box, or builds no toolbars.",
+     "The file is not loaded at all: the library says so in a message box, or builds no toolbars. Only a \"<\" in a "
+     "value "
+     "is taken as it is.",
      "Mend the markup at the place that is named, or a little before it: what is missing is noticed late.", RibbonFile,
      "<ribbon>\n  <row KEYWORD=\"Main\"\n</ribbon>",
      "<ribbon>\n  <row KEYWORD=\"Main\"><category KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item "
@@ -270,7 +272,8 @@ constexpr DiagnosticCode kCodes[] = {
      "<unit id=\"a\" name=\"In\"><segment><source>In</source><target>Hinein</target></segment></unit>"},
     {"bad-table", Warning,
      "A translation table, or a unit of it, is not what it should be: no XLIFF 2 file, a trgLang that is not its "
-     "folder, a file element without id, a unit without key or segment.",
+     "folder, a file element without id, a unit without key or segment; or it lies where no table is read, or ends in "
+     ".xliff instead of .xlf.",
      "A file that is no XLIFF 2 keeps the whole language from being used; of the others the faulty part is skipped.",
      "Mend what the message says.", Table,
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\"/>",

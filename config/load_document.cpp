@@ -43,12 +43,14 @@ constexpr OddityText kOddities[] = {
      L"is a \"<\" missing? otherwise make it a comment"},
     {XmlOddityKind::UnknownReference, "xml-reference", L"\"&\" begins no reference that is known; it stays as it is",
      L"write &amp; for the sign itself"},
+    {XmlOddityKind::BareMarkup, "xml-syntax",
+     L"\"<\" stands in a value; here it counts as a sign, elsewhere the file is refused",
+     L"write &lt; for the sign itself, or close the value before it"},
 };
 
 void ReportOddities(const CXmlDocumentWrapper& document, const FileDiagnostics& diagnostics) {
     for (const XmlOddity& oddity : document.FindOddities()) {
-        const auto* const found = std::ranges::find(kOddities, oddity.kind, &OddityText::kind);
-        diagnostics.Report(found->code, oddity.position, found->text, found->fix);
+        ReportOddity(oddity, diagnostics);
     }
     const varnhold::XmlCursor root(document);
     if (!root.HasChildren()) {
@@ -63,6 +65,11 @@ TextPosition PlaceOf(const CXmlDocumentWrapper& document) {
 }
 
 } // namespace
+
+void ReportOddity(const XmlOddity& oddity, const FileDiagnostics& diagnostics) {
+    const auto* const found = std::ranges::find(kOddities, oddity.kind, &OddityText::kind);
+    diagnostics.Report(found->code, oddity.position, found->text, found->fix);
+}
 
 bool LoadDocument(const std::wstring& fullPath, const FileDiagnostics& diagnostics, CXmlDocumentWrapper& document) {
     const bool isLoaded = document.Load(fullPath);

@@ -5,3 +5,6 @@
 /// Loads the file that the diagnostics name and reports what is odd in it beside its elements. False, reported too,
 /// when it cannot be read or is refused.
 bool LoadDocument(const std::wstring& fullPath, const FileDiagnostics& diagnostics, CXmlDocumentWrapper& document);
+
+/// Reports what was found odd in a document: a text between the tags, a reference that is not known and their like.
+void ReportOddity(const varnhold::XmlOddity& oddity, const FileDiagnostics& diagnostics);

@@ -24,7 +24,9 @@ struct Attribute {
 
     std::string_view Value() const { return written->value; }
     void Report(std::string_view code, const std::wstring& text, const std::wstring& fix) const {
-        diagnostics.Report(code, element.GetAttributePosition(*written), text, fix);
+        if (!element.IsOddlyWritten(*written)) { // otherwise it was reported
+            diagnostics.Report(code, element.GetAttributePosition(*written), text, fix);
+        }
     }
 };
 

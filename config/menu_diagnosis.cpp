@@ -47,10 +47,10 @@ void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) con
 void MenuDiagnosis::CheckLetter(const MetElement& met) const {
     const MetAttribute* const letter = met.Find(AttributeUse::ShortKey);
     if (letter && (letter->value.size() > 1 || letter->value == L" " || letter->value == L"&")) {
-        m_diagnostics.Report("access-key-syntax", letter->position,
-                             L"SHORTKEY is one letter or digit; " + Quoted(letter->value) +
-                                 L" is shown as it is, in brackets behind the caption",
-                             L"write the letter alone; a shortcut belongs into HOTKEY");
+        ReportAt(m_diagnostics, met, AttributeUse::ShortKey, "access-key-syntax",
+                 L"SHORTKEY is one letter or digit; " + Quoted(letter->value) +
+                     L" is shown as it is, in brackets behind the caption",
+                 L"write the letter alone; a shortcut belongs into HOTKEY");
     }
 }
 

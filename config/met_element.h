@@ -61,6 +61,9 @@ struct MetAttribute {
     varnhold::TextPosition position;
     /// The name is misspelt, and was reported; this is what was meant by it.
     bool isMeant = false;
+    /// Its value was reported: it stands twice with two values, or holds a reference that is not known or a broken
+    /// character. What follows from such a value is not said besides.
+    bool isReported = false;
 };
 
 /// An element of a configuration file as it is written: every attribute once, the last where it stands twice.
@@ -74,6 +77,8 @@ struct MetElement {
     bool hasChildren = false;
     /// It has an attribute that no name is near to, which was reported: what is missing may be that.
     bool hasUnknown = false;
+    /// Keywords that stood here before another one took their place, which was reported.
+    std::vector<std::wstring> otherKeywords;
     /// It lies below an element that was reported, and is not what it was meant to be until that one is mended: what is
     /// said of it here is what is written, and nothing about it was reported. Its role counts for nothing.
     bool isPassedOver = false;
@@ -88,6 +93,11 @@ struct MetElement {
         return nullptr;
     }
     bool Has(AttributeUse use) const { return Find(use) != nullptr; }
+    /// Whether there is such an attribute, and its value was reported.
+    bool IsReported(AttributeUse use) const {
+        const MetAttribute* const found = Find(use);
+        return found != nullptr && found->isReported;
+    }
     /// Empty where there is none.
     std::wstring_view ValueOf(AttributeUse use) const {
         const MetAttribute* const found = Find(use);

@@ -51,10 +51,17 @@ struct Attribute {
 
     varnhold::TextPosition Position() const { return element.GetAttributePosition(*written); }
     std::string_view Value() const { return written->value; }
-    bool IsLast() const { return written == last; }
+    /// Whether nothing follows but the same attribute again, which is reported as that.
+    bool IsLast() const {
+        return std::all_of(written + 1, last + 1, [this](const varnhold::XmlAttributeView& later) {
+            return varnhold::EqualsIgnoringCase(later.name, written->name);
+        });
+    }
     bool IsWatched() const { return reading.diagnostics.IsListening(); }
     void Report(std::string_view code, const std::wstring& text, const std::wstring& fix) const {
-        reading.diagnostics.Report(code, Position(), text, fix);
+        if (!element.IsOddlyWritten(*written)) { // otherwise it was reported
+            reading.diagnostics.Report(code, Position(), text, fix);
+        }
     }
     /// For what is neither Y nor N; an attribute without a value says nothing.
     void CheckFlag(bool isYes, bool isNo) const {

@@ -56,16 +56,18 @@ void FindClashes(std::span<const GatheredElement> elements, const LanguageTexts*
     std::vector<std::map<wchar_t, const GatheredElement*>> open;
     const std::wstring* file = nullptr;
     for (const GatheredElement& gathered : elements) {
-        const bool isPopup = gathered.element.role == ElementRole::Popup;
-        if (gathered.element.isPassedOver || (!isPopup && gathered.element.role != ElementRole::MenuItem)) {
+        const MetElement& element = gathered.element;
+        const bool isPopup = element.role == ElementRole::Popup;
+        if (element.isPassedOver || (!isPopup && element.role != ElementRole::MenuItem)) {
             continue;
         }
         if (file != gathered.file) {
             open.clear();
             file = gathered.file;
         }
-        open.resize(gathered.element.depth);
-        if (const wchar_t letter = MarkedLetter(ShownText(gathered.element, language))) {
+        open.resize(element.depth);
+        const bool isReported = element.IsReported(AttributeUse::ShortKey) || element.IsReported(AttributeUse::Keyword);
+        if (const wchar_t letter = isReported ? L'\0' : MarkedLetter(ShownText(element, language)); letter != 0) {
             const auto [holder, isNew] = open.back().try_emplace(letter, &gathered);
             if (!isNew) {
                 Clash& clash = clashes[&gathered];

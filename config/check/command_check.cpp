@@ -20,6 +20,8 @@ struct Command {
     /// Empty when a later element may still give one.
     std::wstring help;
     bool isPopup = false;
+    /// What was different in later elements, and the number of the finding about it.
+    std::map<std::wstring, std::size_t> reported = {};
 };
 
 bool IsNo(std::wstring_view value) { return varnhold::EqualsIgnoringCase(value, L"N"); }
@@ -83,13 +85,15 @@ public:
             }
         }
         CheckReferences(m_statusButtons, "unknown-status-button", L"no element of any file has this keyword");
+        ReportDifferences();
     }
 
 private:
     void Take(const GatheredElement& gathered) {
         const MetElement& element = gathered.element;
-        if (element.isPassedOver) {
+        if (element.isPassedOver || element.IsReported(AttributeUse::Keyword)) {
             m_passedOver.insert(std::wstring(element.ValueOf(AttributeUse::Keyword)));
+            m_passedOver.insert(element.otherKeywords.begin(), element.otherKeywords.end());
             return;
         }
         if (Refers(element)) {
@@ -200,7 +204,8 @@ private:
         std::wstring differences;
         const auto compare = [&](AttributeUse use, const wchar_t* name, const std::wstring& kept) {
             const std::wstring_view own = element.ValueOf(use);
-            if (!own.empty() && own != kept) {
+            const bool isClear = !element.IsReported(use) && !command.first->element.IsReported(use);
+            if (isClear && !own.empty() && own != kept) {
                 differences += (differences.empty() ? L"" : L", ") + std::wstring(name) + L" " + Quoted(own) +
                                (kept.empty() ? L" instead of none" : L" instead of " + Quoted(kept));
             }
@@ -213,8 +218,33 @@ private:
         compare(AttributeUse::Help, L"help", command.help);
         if (!differences.empty()) {
             ++m_unclearKeywords;
-            Report(gathered, command,
-                   L"this keyword was registered before, and what is different here is lost: " + differences);
+            ReportDifferent(gathered, command, differences);
+        }
+    }
+
+    /// Where several elements differ from the first in the same way, that one is probably wrong: one fault.
+    void ReportDifferent(const GatheredElement& gathered, Command& command, const std::wstring& differences) {
+        const auto [earlier, isNew] = command.reported.try_emplace(differences, m_different.size());
+        if (isNew) {
+            m_different.push_back({&gathered, &command, differences, {}});
+        } else {
+            m_different[earlier->second].others.push_back(&gathered);
+        }
+    }
+
+    void ReportDifferences() const {
+        for (const Different& one : m_different) {
+            std::vector<RelatedPlace> related = {
+                PlaceOf(*one.command->first, AttributeUse::Keyword, L"registered here")};
+            for (const GatheredElement* const other : one.others) {
+                related.push_back(PlaceOf(*other, AttributeUse::Keyword, L"different in the same way"));
+            }
+            ReportTogether(
+                m_sink, *one.first->file, PlaceOf(one.first->element, AttributeUse::Keyword), "duplicate-keyword",
+                L"this keyword was registered before, and what is different here is lost: " + one.differences,
+                one.others.empty() ? L"take another keyword for one of them"
+                                   : L"mend the first one, or take another keyword for it",
+                std::move(related));
         }
     }
 
@@ -227,7 +257,8 @@ private:
     void CheckShortcut(const GatheredElement& gathered) {
         const MetElement& element = gathered.element;
         const MetAttribute* const written = element.Find(AttributeUse::HotKey);
-        if (!written || written->value.empty() || !FindShortcutFault(written->value).text.empty()) {
+        if (!written || written->isReported || written->value.empty() ||
+            !FindShortcutFault(written->value).text.empty()) {
             return;
         }
         const std::wstring shortcut = CanonicalShortcut(written->value);
@@ -299,10 +330,19 @@ private:
         return m_explained.insert(keyword).second;
     }
 
+    /// Elements that differ from the first one of their keyword in one way.
+    struct Different {
+        const GatheredElement* first;
+        const Command* command;
+        std::wstring differences;
+        std::vector<const GatheredElement*> others;
+    };
+
     bool m_isComplete;
     const std::set<std::wstring>& m_meant;
     DiagnosticsSink& m_sink;
     std::map<std::wstring, Command> m_commands;
+    std::vector<Different> m_different;
     /// They will be commands when what is around them is mended.
     std::set<std::wstring> m_passedOver;
     /// What is built in a way that can be copied to the quick access toolbar.

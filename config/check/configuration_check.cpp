@@ -11,7 +11,9 @@
 #include "config/toolbar_file.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
+#include <set>
 #include <tuple>
 
 namespace {
@@ -51,16 +53,65 @@ struct FileToRead {
     ConfigurationKind kind = ConfigurationKind::Ribbon;
 };
 
-std::vector<FileToRead> FilesToRead(const CheckRequest& request, const InstallationFiles& files) {
-    std::vector<FileToRead> found;
-    const std::vector<std::wstring> names = request.files.empty() ? ConfigurationFiles(files) : request.files;
-    for (const std::wstring& name : names) {
-        const std::wstring path = files.Find(name).value_or(files.FullPath(name));
-        found.push_back({path, KindOfFile(path)});
+/// The full paths of the files that are named, without those that are named twice; of configuration files or of tables.
+std::vector<std::wstring> NamedFiles(const CheckRequest& request, const InstallationFiles& files,
+                                     bool (*isWanted)(std::wstring_view)) {
+    std::vector<std::wstring> paths;
+    for (const std::wstring& name : request.files) {
+        std::wstring path = files.Find(name).value_or(files.FullPath(name));
+        if (isWanted(name) && std::ranges::find(paths, path) == paths.end()) {
+            paths.push_back(std::move(path));
+        }
     }
-    // The order in which a program loads them.
-    std::ranges::stable_sort(found, {}, &FileToRead::kind);
-    return found;
+    return paths;
+}
+
+bool IsConfigurationName(std::wstring_view name) { return !IsTableName(name); }
+
+/// What is to be read, and what is to be spoken of.
+struct Selection {
+    std::vector<FileToRead> files;
+    /// The installation's other configuration files.
+    std::vector<FileToRead> others;
+    /// Empty: all of them.
+    std::vector<std::wstring> tables;
+    bool namesFiles = false;
+};
+
+/// In the order in which a program loads them.
+std::vector<FileToRead> InOrder(const std::vector<std::wstring>& paths) {
+    std::vector<FileToRead> files;
+    for (const std::wstring& path : paths) {
+        files.push_back({path, KindOfFile(path)});
+    }
+    std::ranges::stable_sort(files, {}, &FileToRead::kind);
+    return files;
+}
+
+Selection Select(const CheckRequest& request, const InstallationFiles& files) {
+    std::vector<std::wstring> usual;
+    for (const std::wstring& name : ConfigurationFiles(files)) {
+        usual.push_back(*files.Find(name));
+    }
+    const std::vector<std::wstring> named = NamedFiles(request, files, IsConfigurationName);
+    Selection selection;
+    selection.tables = NamedFiles(request, files, IsTableName);
+    selection.namesFiles = !named.empty();
+    selection.files = InOrder(named.empty() ? usual : named);
+    if (!named.empty()) {
+        std::erase_if(usual,
+                      [&named](const std::wstring& path) { return std::ranges::find(named, path) != named.end(); });
+        selection.others = InOrder(usual);
+    }
+    return selection;
+}
+
+bool ReadFiles(const std::vector<FileToRead>& files, DiagnosticsSink& sink) {
+    bool isComplete = true;
+    for (const FileToRead& file : files) {
+        isComplete = ReadFile(file.fullPath, file.kind, sink) && isComplete;
+    }
+    return isComplete;
 }
 
 /// Each file in the order of its reading, from the beginning to the end.
@@ -77,49 +128,96 @@ void Sort(std::vector<Diagnostic>& findings, const std::vector<FileToRead>& file
     std::ranges::stable_sort(findings, [&](const Diagnostic& a, const Diagnostic& b) { return key(a) < key(b); });
 }
 
-/// Whether a keyword may have been meant that nobody knows: its text would seem unused.
-bool LostKeywords(const std::vector<Diagnostic>& findings) {
-    return std::ranges::any_of(findings, [](const Diagnostic& finding) {
+/// Whether an element lost its keyword, which was reported: nobody knows the one that was meant, so that its text seems
+/// unused and what refers to it leads nowhere.
+bool LostKeywords(GatheringSink& sink) {
+    constexpr std::string_view losing[] = {"missing-keyword", "no-attributes", "stray-text", "empty-file"};
+    const bool isLost = std::ranges::any_of(sink.Findings(), [&losing](const Diagnostic& finding) {
         const bool isUnclear = finding.code == "unknown-attribute" && finding.fix.empty();
-        return isUnclear || finding.code == "missing-keyword" || finding.code == "stray-text" ||
-               finding.code == "empty-file";
+        return isUnclear || std::ranges::find(losing, finding.code) != std::end(losing);
     });
+    return isLost || std::ranges::any_of(sink.Elements(), [](const GatheredElement& gathered) {
+               return gathered.element.IsReported(AttributeUse::Keyword);
+           });
+}
+
+/// The keywords of all elements of the files, which are not reported.
+bool AddKeywordsOf(const std::vector<FileToRead>& files, std::set<std::wstring>& keywords) {
+    class Silent : public GatheringSink {
+    public:
+        void Report(const Diagnostic& /*diagnostic*/) override {}
+    };
+    Silent sink;
+    const bool isComplete = ReadFiles(files, sink);
+    for (const GatheredElement& gathered : sink.Elements()) {
+        const ElementRole role = gathered.element.role;
+        if (role != ElementRole::QuickAccessItem && role != ElementRole::StatusButton) {
+            keywords.emplace(gathered.element.ValueOf(AttributeUse::Keyword));
+        }
+    }
+    return isComplete;
+}
+
+void AddKeywordsWithTexts(const std::vector<LanguageTexts>& languages, std::set<std::wstring>& keywords) {
+    for (const LanguageTexts& language : languages) {
+        for (const auto& [key, text] : language.commands) {
+            keywords.insert(KeywordOf(key));
+        }
+    }
+}
+
+/// Where tables are named, what is said of anything that is not named is dropped; tables that are not there are told.
+void KeepNamed(std::vector<Diagnostic>& findings, const Selection& selection, const InstallationFiles& files) {
+    if (selection.tables.empty()) {
+        return;
+    }
+    std::erase_if(findings, [&selection](const Diagnostic& finding) {
+        const bool isNamed = selection.namesFiles && std::ranges::find(selection.files, finding.file,
+                                                                       &FileToRead::fullPath) != selection.files.end();
+        return !isNamed && std::ranges::find(selection.tables, finding.file) == selection.tables.end();
+    });
+    GatheringSink missing;
+    for (const std::wstring& table : selection.tables) {
+        if (!files.Find(files.RelativeName(table))) {
+            ReportTogether(missing, table, {1, 1}, "missing-file", L"there is no such table");
+        }
+    }
+    std::ranges::move(missing.Findings(), std::back_inserter(findings));
 }
 
 } // namespace
 
 bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
-    const std::vector<FileToRead> files = FilesToRead(request, InstallationFiles(request.directory));
-    bool isComplete = !files.empty();
-    for (const FileToRead& file : files) {
-        isComplete = ReadFile(file.fullPath, file.kind, sink) && isComplete;
-    }
-    return isComplete;
+    const std::vector<FileToRead> files = Select(request, InstallationFiles(request.directory)).files;
+    return ReadFiles(files, sink) && !files.empty();
 }
 
 std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     const InstallationFiles files(request.directory);
     GatheringSink sink;
-    const std::vector<FileToRead> toRead = FilesToRead(request, files);
-    bool isComplete = true;
-    for (const FileToRead& file : toRead) {
-        isComplete = ReadFile(file.fullPath, file.kind, sink) && isComplete;
-    }
-    if (toRead.empty()) {
+    const Selection selection = Select(request, files);
+    bool isComplete = ReadFiles(selection.files, sink);
+    if (selection.files.empty()) {
         ReportTogether(sink, files.FullPath(L"cfg\\ribbon.xml"), {1, 1}, "missing-file",
                        L"there is no cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml");
         isComplete = false;
     }
+    const bool lostKeywords = LostKeywords(sink);
     const std::vector<LanguageTexts> languages = ReadLanguages(files, request.language, sink);
     // Whoever names files has others, whose keywords are not known here.
-    const bool knowsAllKeywords = isComplete && request.files.empty() && !LostKeywords(sink.Findings());
-    const std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, knowsAllKeywords, sink);
+    const bool knowsAllKeywords = isComplete && !selection.namesFiles && !lostKeywords;
+    std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, knowsAllKeywords, sink);
+    isComplete = AddKeywordsOf(selection.others, meant) && isComplete;
+    if (lostKeywords) {
+        AddKeywordsWithTexts(languages, meant);
+    }
     CheckCommands(sink.Elements(), isComplete, meant, sink);
     CheckTextLengths(sink.Elements(), languages, sink);
     CheckAccessKeys(sink.Elements(), languages, sink);
     CheckIcons(sink.Elements(), files, sink);
     std::vector<Diagnostic> findings = std::move(sink.Findings());
-    Sort(findings, toRead);
+    KeepNamed(findings, selection, files);
+    Sort(findings, selection.files);
     for (Diagnostic& finding : findings) {
         finding.file = files.RelativeName(finding.file);
         for (RelatedPlace& place : finding.related) {

@@ -67,6 +67,12 @@ std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files) {
     return found;
 }
 
+bool IsTableName(std::wstring_view name) {
+    constexpr std::wstring_view extension = L".xlf";
+    return name.size() > extension.size() &&
+           varnhold::EqualsIgnoringCase(name.substr(name.size() - extension.size()), extension);
+}
+
 std::optional<ConfigurationKind> KindNamed(std::wstring_view name) {
     const auto* const found = std::ranges::find(kKindNames, name, &KindName::start);
     return found == std::end(kKindNames) ? std::nullopt : std::optional(found->kind);

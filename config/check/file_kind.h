@@ -12,5 +12,8 @@ std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files);
 /// The kind of that name, as a file's name begins with it ("ribbon", "menu", "toolbar"); none of another.
 std::optional<ConfigurationKind> KindNamed(std::wstring_view name);
 
+/// Whether the name is that of a translation table.
+bool IsTableName(std::wstring_view name);
+
 /// By the beginning of the file's name; of any other name, by the attributes in it that only one kind of file has.
 ConfigurationKind KindOfFile(const std::wstring& fullPath);

@@ -95,7 +95,7 @@ public:
     void Take(const GatheredElement& gathered) {
         const MetAttribute* const icon = gathered.element.Find(AttributeUse::Icon);
         const std::vector<int> sides = SidesOf(gathered.element);
-        if (gathered.element.isPassedOver || !icon || icon->value.empty() || sides.empty() ||
+        if (gathered.element.isPassedOver || !icon || icon->isReported || icon->value.empty() || sides.empty() ||
             !CheckPath(gathered, *icon)) {
             return;
         }

@@ -1,6 +1,8 @@
 #include "config/check/language_texts.h"
 
+#include "config/check/file_kind.h"
 #include "config/check/gathered_elements.h"
+#include "config/load_document.h"
 #include "config/ribbon_attributes.h"
 #include "config/suggestion.h"
 
@@ -28,8 +30,6 @@ std::string_view CodeOf(TranslationProblem problem) {
         return "xml-encoding";
     case TranslationProblem::Syntax:
         return "xml-syntax";
-    case TranslationProblem::UnknownReference:
-        return "xml-reference";
     default:
         return "bad-table";
     }
@@ -80,13 +80,15 @@ public:
         }
     }
     bool IsThorough() const override { return true; }
+    void VisitOddity(const varnhold::XmlOddity& oddity) override {
+        ReportOddity(oddity, FileDiagnostics(m_file, m_sink));
+    }
 
     void VisitProblem(TranslationProblem problem, TextPosition position, const std::wstring& text) override {
         const TextPosition place{std::max<std::size_t>(1, position.line), std::max<std::size_t>(1, position.column)};
         m_texts.hasLostSection = m_texts.hasLostSection || problem == TranslationProblem::FileWithoutId;
-        FileDiagnostics(m_file, m_sink)
-            .Report(CodeOf(problem), place, text,
-                    problem == TranslationProblem::UnknownReference ? L"write &amp; for the sign itself" : L"");
+        m_texts.lostUnits += problem == TranslationProblem::UnitWithoutKey ? 1 : 0;
+        FileDiagnostics(m_file, m_sink).Report(CodeOf(problem), place, text);
     }
 
 private:
@@ -97,10 +99,21 @@ private:
     std::map<std::wstring, RelatedPlace> m_seen;
 };
 
-bool IsTable(std::wstring_view name) {
-    constexpr std::wstring_view extension = L".xlf";
-    return name.size() > extension.size() &&
-           varnhold::EqualsIgnoringCase(name.substr(name.size() - extension.size()), extension);
+bool EndsWith(std::wstring_view name, std::wstring_view end) {
+    return name.size() > end.size() && varnhold::EqualsIgnoringCase(name.substr(name.size() - end.size()), end);
+}
+
+/// Files that were meant to be tables, and that nobody reads.
+void ReportUnread(const InstallationFiles& files, const std::wstring& folder, bool isOfLanguage,
+                  DiagnosticsSink& sink) {
+    for (const std::wstring& name : files.FilesIn(folder)) {
+        const bool isOtherName = EndsWith(name, L".xliff");
+        if (isOtherName || (!isOfLanguage && IsTableName(name))) {
+            ReportTogether(sink, *files.Find(folder + L'\\' + name), {1, 1}, "bad-table",
+                           L"this is not read: tables have the extension .xlf and lie in the folder of their language",
+                           isOtherName ? L"give it the extension .xlf" : L"put it into the folder of its language");
+        }
+    }
 }
 
 } // namespace
@@ -108,6 +121,9 @@ bool IsTable(std::wstring_view name) {
 std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const std::wstring& only,
                                          DiagnosticsSink& sink) {
     std::vector<LanguageTexts> languages;
+    if (only.empty()) {
+        ReportUnread(files, L"lang", false, sink);
+    }
     for (const std::wstring& code : files.FoldersIn(L"lang")) {
         if (!only.empty() && !varnhold::EqualsIgnoringCase(code, only)) {
             continue;
@@ -116,8 +132,9 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
         texts.code = code;
         TextReader reader(texts, sink);
         bool isLanguage = false;
+        ReportUnread(files, L"lang\\" + code, true, sink);
         for (const std::wstring& name : files.FilesIn(L"lang\\" + code)) {
-            if (IsTable(name)) {
+            if (IsTableName(name)) {
                 isLanguage = true;
                 reader.Read(*files.Find(L"lang\\" + code + L'\\' + name));
             }

@@ -22,6 +22,8 @@ struct LanguageTexts {
     bool isUsable = true;
     /// A section of it is lost, which was reported: what is missing may be there.
     bool hasLostSection = false;
+    /// How many of its units have no key, which was reported: so many texts may seem missing.
+    std::size_t lostUnits = 0;
     /// Of the section of commands, by key.
     std::map<std::wstring, PlacedText> commands;
     /// Keys of units that were left out, which was reported.

@@ -56,7 +56,9 @@ bool ShowsItsName(ElementRole role) {
 std::optional<Room> RoomOf(const MetElement& element) {
     const MetAttribute* const name = element.Find(AttributeUse::Name);
     const MetAttribute* const keyword = element.Find(AttributeUse::Keyword);
-    if (element.isPassedOver || name == nullptr || name->isMeant || keyword == nullptr || !ShowsItsName(element.role)) {
+    const bool isReported = element.IsReported(AttributeUse::Keyword) || element.IsReported(AttributeUse::Width);
+    if (element.isPassedOver || isReported || name == nullptr || name->isMeant || keyword == nullptr ||
+        !ShowsItsName(element.role)) {
         return std::nullopt;
     }
     const bool isInPanel = element.role == ElementRole::RibbonElement || element.role == ElementRole::SubItem;

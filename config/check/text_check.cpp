@@ -43,9 +43,11 @@ public:
             return;
         }
         m_keywords.insert(keyword);
+        m_keywords.insert(element.otherKeywords.begin(), element.otherKeywords.end());
         m_byFile[gathered.file].insert(keyword);
-        if (element.isPassedOver) {
+        if (element.isPassedOver || element.IsReported(AttributeUse::Keyword)) {
             m_ofRibbon.insert(keyword);
+            m_ofRibbon.insert(element.otherKeywords.begin(), element.otherKeywords.end());
             return;
         }
         if (element.role == ElementRole::QuickAccessItem || element.role == ElementRole::StatusButton) {
@@ -75,19 +77,22 @@ public:
             if (!m_isCommand[keyword]) {
                 continue; // a status-bar button that stands for nothing is not made
             }
-            std::wstring text;
-            std::vector<const LanguageTexts*> lacking;
+            Missing missing{&keyword, &asked, {}, {}, {}};
             for (const LanguageTexts& language : m_languages) {
                 const std::wstring what =
                     m_lost.contains(language.code) ? std::wstring() : MissingIn(language, keyword, asked);
                 if (!what.empty()) {
-                    text += (text.empty() ? L"" : L"; ") + language.code + L" has no " + what;
-                    lacking.push_back(&language);
+                    missing.text += (missing.text.empty() ? L"" : L"; ") + language.code + L" has no " + what;
+                    missing.languages.push_back(&language);
                 }
             }
-            if (!text.empty() && !ReportInTable(keyword, lacking, text)) {
-                Report(keyword, asked, text);
+            if (!missing.text.empty() && !ReportInTable(keyword, missing.languages, missing.text)) {
+                m_missing.push_back(std::move(missing));
             }
+        }
+        FindMeant();
+        for (const Missing& missing : m_missing) {
+            Report(missing);
         }
     }
 
@@ -125,21 +130,80 @@ public:
     const std::set<std::wstring>& Meant() const { return m_meant; }
 
 private:
-    /// A language that has none of the texts lacks the section, not each of them.
+    /// A keyword with texts that some languages do not have.
+    struct Missing {
+        const std::wstring* keyword;
+        const Asked* asked;
+        std::wstring text;
+        std::vector<const LanguageTexts*> languages;
+        /// The keyword that was probably meant.
+        std::wstring meant;
+    };
+
+    /// A language that has none of the texts lacks the section, not each of them. One with units that lost their keys,
+    /// which was reported, may have there what it lacks.
     void FindLostLanguages() {
         constexpr std::size_t few = 3;
-        if (m_inOrder.size() < few) {
-            return;
-        }
         for (const LanguageTexts& language : m_languages) {
-            const bool hasSome = std::ranges::any_of(m_inOrder, [&](const std::wstring& keyword) {
-                return MissingIn(language, keyword, m_asked.at(keyword)).empty();
-            });
-            if (!hasSome) {
+            std::size_t missing = 0;
+            std::size_t texts = 0;
+            for (const std::wstring& keyword : m_inOrder) {
+                const std::size_t count = CountMissing(language, keyword, m_asked.at(keyword));
+                missing += count > 0 ? 1 : 0;
+                texts += count;
+            }
+            if (texts > 0 && texts <= language.lostUnits) {
+                m_lost.insert(language.code);
+            } else if (m_inOrder.size() >= few && missing == m_inOrder.size()) {
                 m_lost.insert(language.code);
                 ReportLost(language);
             }
         }
+    }
+
+    /// What was meant by each keyword without texts; m_meant has them afterwards.
+    void FindMeant() {
+        std::vector<Missing*> strange;
+        for (Missing& missing : m_missing) {
+            missing.meant = ClosestWord(*missing.keyword, DanglingKeywords());
+            if (missing.meant.empty()) {
+                missing.meant = ClosestWord(*missing.keyword, KnownElsewhere(missing.asked->first->file));
+            }
+            if (missing.meant.empty()) {
+                strange.push_back(&missing);
+            } else {
+                m_meant.insert(missing.meant);
+            }
+        }
+        if (strange.size() == 1) {
+            strange.front()->meant = OnlyLeftOver(*strange.front());
+            if (!strange.front()->meant.empty()) {
+                m_meant.insert(strange.front()->meant);
+            }
+        }
+    }
+
+    /// The keyword that no element has, although all languages have the texts for it that this one lacks in all of
+    /// them: it was here before. Empty when there is none, or several.
+    std::wstring OnlyLeftOver(const Missing& missing) {
+        const auto usable = std::ranges::count_if(m_languages, &LanguageTexts::isUsable);
+        if (static_cast<std::size_t>(usable) != missing.languages.size()) {
+            return {};
+        }
+        std::wstring only;
+        for (const std::wstring& keyword : DanglingKeywords()) {
+            const bool fits =
+                !m_meant.contains(keyword) && std::ranges::all_of(m_languages, [&](const LanguageTexts& language) {
+                    const bool hasToolTip = language.commands.contains(keyword + std::wstring(kToolTipSuffix));
+                    return !language.isUsable || (language.commands.contains(keyword) == missing.asked->name &&
+                                                  hasToolTip == missing.asked->toolTip);
+                });
+            if (fits && !only.empty()) {
+                return {};
+            }
+            only = fits ? keyword : only;
+        }
+        return only;
     }
 
     void ReportLost(const LanguageTexts& language) {
@@ -187,33 +251,33 @@ private:
         return true;
     }
 
+    static bool Lacks(const LanguageTexts& language, const std::wstring& key) {
+        return language.isUsable && !language.commands.contains(key) && !language.leftOut.contains(key);
+    }
+    static bool LacksName(const LanguageTexts& language, const std::wstring& keyword, const Asked& asked) {
+        return asked.name && Lacks(language, keyword);
+    }
+    static bool LacksToolTip(const LanguageTexts& language, const std::wstring& keyword, const Asked& asked) {
+        return asked.toolTip && Lacks(language, keyword + std::wstring(kToolTipSuffix));
+    }
+    static std::size_t CountMissing(const LanguageTexts& language, const std::wstring& keyword, const Asked& asked) {
+        return (LacksName(language, keyword, asked) ? 1u : 0u) + (LacksToolTip(language, keyword, asked) ? 1u : 0u);
+    }
     static std::wstring MissingIn(const LanguageTexts& language, const std::wstring& keyword, const Asked& asked) {
-        if (!language.isUsable) {
-            return {};
-        }
-        const auto lacks = [&language](const std::wstring& key) {
-            return !language.commands.contains(key) && !language.leftOut.contains(key);
-        };
-        const bool lacksName = asked.name && lacks(keyword);
-        const bool lacksToolTip = asked.toolTip && lacks(keyword + std::wstring(kToolTipSuffix));
+        const bool lacksName = LacksName(language, keyword, asked);
+        const bool lacksToolTip = LacksToolTip(language, keyword, asked);
         if (lacksName && lacksToolTip) {
             return L"name and no tooltip";
         }
         return lacksName ? L"name" : lacksToolTip ? L"tooltip" : L"";
     }
 
-    void Report(const std::wstring& keyword, const Asked& asked, const std::wstring& text) {
-        std::wstring meant = ClosestWord(keyword, DanglingKeywords());
-        if (meant.empty()) {
-            meant = ClosestWord(keyword, KnownElsewhere(asked.first->file));
-        }
-        if (!meant.empty()) {
-            m_meant.insert(meant);
-        }
-        ReportTogether(m_sink, *asked.first->file, PlaceOf(asked.first->element, AttributeUse::Keyword), "missing-text",
-                       L"for " + Quoted(keyword) + L" " + text,
-                       meant.empty() ? L"add what is missing to section RibbonBarCfg of the tables"
-                                     : DidYouMean(meant));
+    void Report(const Missing& missing) const {
+        const GatheredElement& first = *missing.asked->first;
+        ReportTogether(m_sink, *first.file, PlaceOf(first.element, AttributeUse::Keyword), "missing-text",
+                       L"for " + Quoted(*missing.keyword) + L" " + missing.text,
+                       missing.meant.empty() ? L"add what is missing to section RibbonBarCfg of the tables"
+                                             : DidYouMean(missing.meant));
     }
 
     /// Keywords with texts that no element of the file has: those of other files.
@@ -256,6 +320,7 @@ private:
     std::set<std::wstring> m_lost;
     std::map<std::wstring, Asked> m_asked;
     std::vector<std::wstring> m_inOrder;
+    std::vector<Missing> m_missing;
     std::set<std::wstring> m_references;
     std::set<std::wstring> m_ofRibbon;
     /// Whether anything but status-bar buttons has the keyword.

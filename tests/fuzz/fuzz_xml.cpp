@@ -33,7 +33,7 @@ void DemandSame(const CXmlNodeWrapper& node, varnhold::XmlCursor& cursor) {
 }
 
 /// Elements follow one another in the file, and the attributes of each likewise.
-void DemandPlaces(varnhold::XmlCursor& cursor, varnhold::TextPosition& last) {
+void DemandPlaces(varnhold::XmlCursor& cursor, varnhold::TextPosition& last, bool hasOddities) {
     const auto isBehind = [&last](varnhold::TextPosition place) {
         const bool isLater = place.line > last.line || (place.line == last.line && place.column > last.column);
         last = place;
@@ -42,6 +42,7 @@ void DemandPlaces(varnhold::XmlCursor& cursor, varnhold::TextPosition& last) {
     Demand(isBehind(cursor.GetPosition()));
     for (const varnhold::XmlAttributeView& attribute : cursor.ReadAttributes()) {
         Demand(isBehind(cursor.GetAttributePosition(attribute)));
+        Demand(hasOddities || !cursor.IsOddlyWritten(attribute));
     }
 }
 
@@ -57,7 +58,8 @@ void FuzzXml(std::string_view bytes) {
         Demand(document.GetDocumentElement().IsNull());
         return;
     }
-    for (const varnhold::XmlOddity& oddity : document.FindOddities()) {
+    const std::vector<varnhold::XmlOddity> oddities = document.FindOddities();
+    for (const varnhold::XmlOddity& oddity : oddities) {
         Demand(oddity.position.line >= 1 && oddity.position.column >= 1);
     }
     varnhold::TextPosition last;
@@ -65,7 +67,7 @@ void FuzzXml(std::string_view bytes) {
     constexpr int most = 300; // positions take time
     int count = 0;
     do {
-        DemandPlaces(cursor, last);
+        DemandPlaces(cursor, last, !oddities.empty());
     } while (++count < most && ToNext(cursor));
     const CXmlNodeWrapper root = document.GetDocumentElement();
     varnhold::XmlCursor top(document);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -20,6 +21,12 @@ namespace {
 std::string_view LocalName(const pugi::xml_node& node) {
     const std::string_view name = node.name();
     return name.substr(name.find(':') + 1); // npos + 1 is 0
+}
+
+/// Whether texts may stand in an element: in all but those that arrange the others.
+bool MayHoldText(const pugi::xml_node& element) {
+    constexpr std::string_view arranging[] = {"xliff", "file", "group", "unit", "segment", "ignorable", "notes"};
+    return std::ranges::find(arranging, LocalName(element)) == std::end(arranging);
 }
 
 /// Whether blanks count inside `node`, when they do (or not) around it.
@@ -147,11 +154,8 @@ bool XliffReader::ReadText(std::string text, const std::wstring& language) {
     }
     CheckLanguages(root, language);
     if (m_visitor.IsThorough()) {
-        for (const XmlOddity& oddity : m_tree->FindOddities()) {
-            if (oddity.kind == XmlOddityKind::UnknownReference) {
-                m_visitor.VisitProblem(TranslationProblem::UnknownReference, oddity.position,
-                                       L"\"&\" begins no reference that is known; it stays as it is");
-            }
+        for (const XmlOddity& oddity : m_tree->FindOddities(MayHoldText)) {
+            m_visitor.VisitOddity(oddity);
         }
     }
     const bool preserve = PreservesBlanks(root, false);

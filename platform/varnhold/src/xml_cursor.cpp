@@ -86,4 +86,8 @@ TextPosition XmlCursor::GetAttributePosition(const XmlAttributeView& attribute) 
     return m_tree ? m_tree->GetPositionOfName(attribute.name.data()) : TextPosition();
 }
 
+bool XmlCursor::IsOddlyWritten(const XmlAttributeView& attribute) const {
+    return m_tree && m_tree->IsOddValue(attribute.value.data());
+}
+
 } // namespace varnhold

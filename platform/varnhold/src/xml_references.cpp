@@ -160,6 +160,14 @@ std::vector<std::size_t> FindUnknownReferences(std::string_view document) {
     return found;
 }
 
+bool HasUnknownReference(std::string_view value) {
+    std::size_t at = value.find('&');
+    while (at != kNone && IsKnownReference(value, at)) {
+        at = value.find('&', at + 1);
+    }
+    return at != kNone;
+}
+
 std::size_t FindReferenceToNoCharacter(std::string_view document) {
     // Nearly no document has one, and then nothing else is looked at.
     std::size_t candidate = FindCandidate(document, 0);

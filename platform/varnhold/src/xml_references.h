@@ -15,6 +15,9 @@ std::size_t FindReferenceToNoCharacter(std::string_view document);
 /// places of the same kind of document.
 std::vector<std::size_t> FindUnknownReferences(std::string_view document);
 
+/// The same for one attribute's value as it is written.
+bool HasUnknownReference(std::string_view value);
+
 /// An element whose end tag is still to come.
 struct OpenTag {
     std::string_view name;

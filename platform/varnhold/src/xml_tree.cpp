@@ -26,6 +26,9 @@ constexpr std::size_t kMostReadyElements = 65536;
 /// How deep elements can be nested in so many bytes: "<a></a>" around others, "<a/>" innermost.
 constexpr std::size_t GetMostLevels(std::size_t bytes) { return (bytes + 3) / 7; }
 
+/// What stands for bytes that the encoding does not have.
+constexpr std::string_view kBrokenCharacter = "\xEF\xBF\xBD";
+
 // Texts are searched for their ends by words, which may reach behind the buffer's last NUL.
 constexpr std::size_t kPadding = sizeof(std::uint64_t);
 
@@ -201,9 +204,8 @@ bool XmlTree::CheckReferences(XmlFailure& failure) const {
     return false;
 }
 
-std::vector<XmlOddity> XmlTree::FindOddities() const {
+std::vector<XmlOddity> XmlTree::FindOddities(bool (*mayHoldText)(const pugi::xml_node& element)) const {
     constexpr std::string_view documentType = "<!DOCTYPE";
-    constexpr std::string_view broken = "\xEF\xBF\xBD";
     std::vector<XmlOddity> oddities;
     for (const pugi::xml_node& node : m_document) {
         if (node.type() == pugi::node_doctype) {
@@ -211,37 +213,66 @@ std::vector<XmlOddity> XmlTree::FindOddities() const {
             oddities.push_back({XmlOddityKind::DocumentType, GetPosition(m_text.rfind(documentType, behind))});
         }
     }
-    if (const std::size_t at = m_text.find(broken); at != std::string::npos) {
+    if (const std::size_t at = m_text.find(kBrokenCharacter); at != std::string::npos) {
         oddities.push_back({XmlOddityKind::BrokenCharacter, GetPosition(at)});
     }
-    AddLooseTexts(oddities);
+    AddLooseTexts(oddities, mayHoldText);
     for (const std::size_t at : FindUnknownReferences(m_text)) {
         oddities.push_back({XmlOddityKind::UnknownReference, GetPosition(at)});
     }
+    AddBareMarkup(oddities);
     return oddities;
 }
 
-void XmlTree::AddLooseTexts(std::vector<XmlOddity>& oddities) const {
-    pugi::xml_node node = m_root;
-    while (true) {
-        if (IsText(node) && std::string_view(node.value()).find_first_not_of(" \t\r\n") != std::string_view::npos) {
+pugi::xml_node XmlTree::NextInOrder(pugi::xml_node node) const {
+    if (const pugi::xml_node child = node.first_child()) {
+        return child;
+    }
+    while (node != m_root && !node.next_sibling()) {
+        node = node.parent();
+    }
+    return node == m_root ? pugi::xml_node() : node.next_sibling();
+}
+
+void XmlTree::AddLooseTexts(std::vector<XmlOddity>& oddities,
+                            bool (*mayHoldText)(const pugi::xml_node& element)) const {
+    for (pugi::xml_node node = m_root; node; node = NextInOrder(node)) {
+        if (IsText(node) && std::string_view(node.value()).find_first_not_of(" \t\r\n") != std::string_view::npos &&
+            (mayHoldText == nullptr || !mayHoldText(node.parent()))) {
             // Blanks before the text were kept with it.
             const auto offset = static_cast<std::size_t>(node.value() - m_buffer.get());
             const std::size_t start = m_text.find_first_not_of(" \t\r\n", offset);
             oddities.push_back({XmlOddityKind::LooseText, GetPosition(start)});
         }
-        if (const pugi::xml_node child = node.first_child()) {
-            node = child;
-            continue;
-        }
-        while (node != m_root && !node.next_sibling()) {
-            node = node.parent();
-        }
-        if (node == m_root) {
-            return;
-        }
-        node = node.next_sibling();
     }
+}
+
+void XmlTree::AddBareMarkup(std::vector<XmlOddity>& oddities) const {
+    for (pugi::xml_node node = m_root; node; node = NextInOrder(node)) {
+        for (const pugi::xml_attribute& attribute : node.attributes()) {
+            const std::string_view written = WrittenValue(attribute.value());
+            if (const std::size_t at = written.find('<'); at != std::string_view::npos) {
+                const auto offset = static_cast<std::size_t>(attribute.value() - m_buffer.get());
+                oddities.push_back({XmlOddityKind::BareMarkup, GetPosition(offset + at)});
+            }
+        }
+    }
+}
+
+std::string_view XmlTree::WrittenValue(const char* value) const {
+    if (!Holds(value) || value == m_buffer.get()) {
+        return {};
+    }
+    const auto offset = static_cast<std::size_t>(value - m_buffer.get());
+    const char quotationMark = m_text[offset - 1];
+    const std::string_view rest = std::string_view(m_text).substr(offset);
+    return rest.substr(0, std::min(rest.find(quotationMark), rest.size()));
+}
+
+bool XmlTree::IsOddValue(const char* value) const {
+    const std::string_view written = WrittenValue(value);
+    return written.find('<') != std::string_view::npos || written.find(kBrokenCharacter) != std::string_view::npos ||
+           HasUnknownReference(written);
 }
 
 void XmlTree::LayOut() const {

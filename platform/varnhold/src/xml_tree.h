@@ -50,8 +50,10 @@ public:
 
     pugi::xml_node GetRoot() const { return m_root; }
 
-    /// See CXmlDocumentWrapper.
-    std::vector<XmlOddity> FindOddities() const;
+    /// See CXmlDocumentWrapper. Texts in elements that may hold some are no oddities; null: none may.
+    std::vector<XmlOddity> FindOddities(bool (*mayHoldText)(const pugi::xml_node& element) = nullptr) const;
+    /// Whether one of them stands in an attribute's value that the parser left in this document.
+    bool IsOddValue(const char* value) const;
 
     /// The length of a name or a value that the parser left in this document.
     std::size_t LengthOf(const char* text) const;
@@ -84,7 +86,11 @@ private:
     void LayOutElements() const;
     void IndexLines() const;
     TextPosition GetPosition(std::size_t offset) const;
-    void AddLooseTexts(std::vector<XmlOddity>& oddities) const;
+    void AddLooseTexts(std::vector<XmlOddity>& oddities, bool (*mayHoldText)(const pugi::xml_node& element)) const;
+    void AddBareMarkup(std::vector<XmlOddity>& oddities) const;
+    /// A value as it stands in the file, between its quotation marks.
+    std::string_view WrittenValue(const char* value) const;
+    pugi::xml_node NextInOrder(pugi::xml_node node) const;
     std::size_t CountCharacters(std::size_t end) const;
 
     std::string m_text; // UTF-8, as it stands in the file

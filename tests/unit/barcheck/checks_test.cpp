@@ -163,6 +163,104 @@ TEST(CheckedConfiguration, HelpIsLostWhereTheFirstElementHasSome) {
     EXPECT_EQ(installation.Findings(), "");
 }
 
+TEST(CheckedConfiguration, AFileThatIsNamedTwiceIsReadOnce) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    EXPECT_EQ(installation.Findings({L"cfg/menu.xml", L"cfg\\menu.xml", L"CFG/./Menu.xml"}), "");
+    EXPECT_EQ(installation.Findings({L"cfg/none.xml", L"cfg/none.xml"}), "cfg/none.xml:1:1 missing-file\n");
+}
+
+TEST(CheckedConfiguration, CommandsOfFilesThatAreNotNamedAreKnown) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    installation.Write("cfg/status.xml", "<r><r KEYWORD='StatusEx_btns'>\n<i KEYWORD='ScaleLabel' NAME=''/>"
+                                         "<i KEYWORD='Exit' NAME=''/></r>"
+                                         "<r KEYWORD='QK_Rbbion_QAToolbar'>\n<i KEYWORD='ZoomIn'/></r></r>");
+    EXPECT_EQ(installation.Findings({L"cfg/status.xml"}), "");
+    installation.Write("cfg/status.xml", "<r><r KEYWORD='StatusEx_btns'>\n<i KEYWORD='Nowhere' NAME=''/></r></r>");
+    EXPECT_EQ(installation.Findings({L"cfg/status.xml"}), "cfg/status.xml:2:4 unknown-status-button\n");
+    // Where one of them cannot be read, nobody knows.
+    installation.Write("cfg/ribbon.xml", "<ribbon>");
+    EXPECT_EQ(installation.Findings({L"cfg/status.xml"}), "");
+}
+
+TEST(CheckedConfiguration, TablesThatAreNamedAreSpokenOfAlone) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    const std::string fault = CheckedInstallation::Table("<unit/>");
+    installation.Write("lang/en/b.xlf", fault);
+    installation.Write("lang/de/b.xlf", fault);
+    installation.Write("cfg/menu.xml", MenuWith("<item KEYWORD=\"Undo\" MENUNAME=\"\" HOTKEY=\"F5\"/>"));
+    installation.Write("cfg/toolbar.xml", "<toolbars>");
+    EXPECT_EQ(installation.Findings({L"lang/de/b.xlf"}), "lang/de/b.xlf:3:1 bad-table\n");
+    EXPECT_EQ(installation.Findings({L"lang\\EN\\A.xlf"}), "");
+    EXPECT_EQ(installation.Findings({L"cfg/menu.xml", L"lang/en/b.xlf"}),
+              "cfg/menu.xml:4:34 shortcut-syntax\nlang/en/b.xlf:3:1 bad-table\n");
+    EXPECT_EQ(installation.Findings({L"lang/en/none.xlf"}), "lang/en/none.xlf:1:1 missing-file\n");
+}
+
+TEST(CheckedConfiguration, ATableWhereNobodyReadsItIsTold) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    installation.Write("lang/more.xlf", CheckedInstallation::Table(""));
+    installation.Write("lang/en/more.xliff", CheckedInstallation::Table(""));
+    installation.Write("lang/en/readme.txt", "For translators.");
+    EXPECT_EQ(installation.Findings(), "lang/en/more.xliff:1:1 bad-table\nlang/more.xlf:1:1 bad-table\n");
+}
+
+TEST(CheckedConfiguration, AFaultyValueHasNoFollowersInOtherFiles) {
+    for (const char* const faulty : {"CMD=\"go&now\"", "CMD=\"went\" CMD=\"gone\"", "CMD=\"<go\""}) {
+        const CheckedInstallation installation;
+        installation.Write("cfg/ribbon.xml", RibbonWith(kButton + std::string(" ") + faulty + "/>"));
+        installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"In\" MENUNAME=\"\" CMD=\"go\"/>"));
+        const std::vector<Diagnostic> findings = installation.Check();
+        ASSERT_EQ(findings.size(), 1u) << faulty << '\n' << installation.Findings();
+        EXPECT_EQ(findings[0].file, L"cfg/ribbon.xml");
+    }
+}
+
+TEST(CheckedConfiguration, ElementsThatDifferFromTheFirstInTheSameWayAreOneFinding) {
+    const CheckedInstallation installation;
+    const auto button = [](const std::string& command) { return kButton + (" CMD=\"" + command + "\"/>\n"); };
+    installation.Write("cfg/ribbon.xml", RibbonWith(button("goo") + button("go") + button("go") + button("leave")));
+    installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"In\" MENUNAME=\"\" CMD=\"go\"/>"));
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:5:4 duplicate-keyword\ncfg/ribbon.xml:7:4 duplicate-keyword\n");
+    const std::vector<RelatedPlace> related = installation.Check().front().related;
+    ASSERT_EQ(related.size(), 3u);
+    EXPECT_EQ(related[0].position.line, 4u);
+    EXPECT_EQ(related[1].position.line, 6u);
+    EXPECT_EQ(related[2].file, L"cfg/menu.xml");
+}
+
+TEST(CheckedConfiguration, AKeywordOfNoTextIsTheOneWhoseTextsAreLeftOver) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"Zqwx\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    const std::string map = CheckedInstallation::Unit("Map", "Map");
+    const std::string in = CheckedInstallation::Unit("In", "In");
+    installation.WriteTable("en", map + in);
+    ASSERT_EQ(installation.Check().size(), 1u);
+    EXPECT_EQ(installation.Check().front().fix, L"did you mean \"In\"?");
+    // Texts that fit less, or two that fit, are others.
+    installation.WriteTable("en", map + in + CheckedInstallation::Unit("In.tooltip", "Nearer"));
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:4:4 missing-text\nlang/en/a.xlf:4:1 unused-text\n");
+    installation.WriteTable("en", map + in + CheckedInstallation::Unit("Far", "Far"));
+    EXPECT_EQ(installation.Check().size(), 3u);
+}
+
+TEST(CheckedConfiguration, AnUnknownReferenceToWhatHasNoTextIsToldBesideALostKeyword) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    std::string ribbon = SampleRibbon();
+    const auto replace = [&ribbon](const std::string& before, const std::string& after) {
+        ribbon.replace(ribbon.find(before), before.size(), after);
+    };
+    replace("KEYWORD=\"ScaleLabel\" ", "");
+    replace("<item KEYWORD=\"ZoomIn\"/>", "<item KEYWORD=\"Nowhere\"/>");
+    installation.Write("cfg/ribbon.xml", ribbon);
+    EXPECT_EQ(installation.Findings(),
+              "cfg/ribbon.xml:5:11 unknown-quick-access\ncfg/ribbon.xml:28:9 missing-keyword\n");
+}
+
 class CheckedIcon : public testing::Test {
 protected:
     std::string Findings(const std::string& size) const {

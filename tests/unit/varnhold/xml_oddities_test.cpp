@@ -18,7 +18,7 @@ std::string At(TextPosition position) {
 }
 
 std::string Oddities(std::string_view text) {
-    constexpr const char* names[] = {"doctype", "broken", "text", "reference"};
+    constexpr const char* names[] = {"doctype", "broken", "text", "reference", "markup"};
     CXmlDocumentWrapper document;
     EXPECT_TRUE(document.LoadFromMemory(text)) << text;
     std::string seen;
@@ -52,6 +52,22 @@ TEST(XmlOddities, BrokenBytesAreToldOnceAtTheFirst) {
 TEST(XmlOddities, UnknownReferencesAreToldInValuesAndTextsOnly) {
     EXPECT_EQ(Oddities("<?p & ?><r a='x&nbsp;' b='R&D' c='&#;'><!-- &x; --></r>"),
               "reference@1:16 reference@1:28 reference@1:35 ");
+}
+
+TEST(XmlOddities, MarkupInAValueIsTold) {
+    EXPECT_EQ(Oddities("<?p a='<'?><r a='&lt;' b='x<y<z' c=\"'<'\"><!-- d='<' --><c/></r>"),
+              "markup@1:28 markup@1:38 ");
+}
+
+TEST(XmlOddities, AnAttributeKnowsWhetherItsValueIsOdd) {
+    CXmlDocumentWrapper document;
+    ASSERT_TRUE(document.LoadFromMemory("<r a='&amp;&#65;' b='&x;' c='a<b' d=\"\xFF\" e='' f='&lt;&amp;x;' g='&'/>"));
+    varnhold::XmlCursor cursor(document);
+    std::string odd;
+    for (const varnhold::XmlAttributeView& attribute : cursor.ReadAttributes()) {
+        odd += cursor.IsOddlyWritten(attribute) ? std::string(attribute.name) : "-";
+    }
+    EXPECT_EQ(odd, "-bcd--g");
 }
 
 TEST(XmlOddities, ManyReferencesTakeLinearTime) {
@@ -123,6 +139,23 @@ TEST(TranslationFile, UnitsAreVisitedWithTheirPlaces) {
                      " <unit id='b'><segment><source>x</source></segment></unit></file></xliff>"),
               "foreign S/a=y+@2:1 S/b=x-@3:2 ");
     EXPECT_EQ(SeenIn("<xliff version='2.0' srcLang='de'/>"), "own ");
+}
+
+class ThoroughSeen : public Seen {
+    bool IsThorough() const override { return true; }
+    void VisitOddity(const varnhold::XmlOddity& oddity) override {
+        text += std::to_string(static_cast<int>(oddity.kind)) + At(oddity.position);
+    }
+};
+
+TEST(TranslationFile, OdditiesAreToldToAThoroughVisitor) {
+    TempFolder folder;
+    folder.Write("a.xlf", "<!DOCTYPE xliff>\n<xliff version='2.0' srcLang='de'><file id='S'>loose<unit id='a'>"
+                          "<notes><note>n</note></notes><segment><source>x &y; \xFF</source>stray</segment></unit>"
+                          "</file></xliff>");
+    ThoroughSeen seen;
+    EXPECT_TRUE(varnhold::ReadTranslationFile(folder.GetAppPath() + L"a.xlf", L"de", seen));
+    EXPECT_EQ(seen.text, "own 0@1:1 1@2:118 2@2:48 2@2:128 3@2:114 S/a=x &y; \xEF\xBF\xBD-@2:53 ");
 }
 
 TEST(TranslationFile, ProblemsAreToldByKind) {

@@ -34,7 +34,6 @@ enum class TranslationProblem {
     FileWithoutId,
     UnitWithoutKey,
     UnitWithoutSegment,
-    UnknownReference, ///< an "&" that begins none that is known; it stays as it is
 };
 
 /// Takes what stands in a table, in document order. Good until the call returns.
@@ -45,8 +44,10 @@ public:
     virtual void VisitProblem(TranslationProblem problem, TextPosition position, const std::wstring& text) = 0;
     /// A unit that is left out, after the problem was told.
     virtual void VisitFaultyUnit(std::string_view /*section*/, const std::string& /*key*/) {}
-    /// Whether it wants to hear of unknown references, too: they take time to find.
+    /// Whether it wants to hear of oddities, too: they take time to find.
     virtual bool IsThorough() const { return false; }
+    /// Before the units.
+    virtual void VisitOddity(const XmlOddity& /*oddity*/) {}
     /// Whether the table names a source language, and it is another one than the folder's.
     virtual void VisitSourceLanguage(bool /*isForeign*/) {}
 };

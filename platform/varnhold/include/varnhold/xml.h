@@ -34,6 +34,7 @@ enum class XmlOddityKind {
     BrokenCharacter,  ///< bytes that the encoding does not have; each became U+FFFD
     LooseText,        ///< text between tags, which is no attribute
     UnknownReference, ///< a "&" that begins neither a predefined entity nor a character reference; it stays as it is
+    BareMarkup,       ///< a "<" in an attribute's value; it stays as it is, and other programs refuse the document
 };
 struct XmlOddity {
     XmlOddityKind kind = XmlOddityKind::LooseText;
@@ -185,6 +186,8 @@ public:
     TextPosition GetPosition() const;
     /// Where the name stands of an attribute that ReadAttributes has listed, at this element or at an earlier one.
     TextPosition GetAttributePosition(const XmlAttributeView& attribute) const;
+    /// Whether one of the oddities stands in the value of such an attribute, so that it is not what was meant.
+    bool IsOddlyWritten(const XmlAttributeView& attribute) const;
 
 private:
     bool MoveTo(pugi::xml_node_struct* element) noexcept;
