@@ -1,9 +1,12 @@
 #include "scenario.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <fstream>
+#include <iterator>
 #include <random>
 #include <set>
+#include <string_view>
 
 namespace {
 
@@ -138,6 +141,33 @@ std::string MakeToolbarFile(std::size_t buttons, std::size_t iconFiles) {
     return text + "  </group>\n</toolbars>\n";
 }
 
+std::string MakeTable(const std::vector<std::string>& files, const std::string& language) {
+    constexpr std::string_view keywordStart = "KEYWORD=\"";
+    const bool isSource = language == "en";
+    std::string text =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" "
+        "version=\"2.0\" srcLang=\"en\"" +
+        (isSource ? "" : " trgLang=\"" + language + "\"") + ">\n  <file id=\"RibbonBarCfg\">\n";
+    const auto addUnit = [&](const std::string& key) {
+        text += "    <unit id=\"" + key + "\"><segment><source>Text of " + key + "</source>" +
+                (isSource ? "" : "<target>" + language + " text of " + key + "</target>") + "</segment></unit>\n";
+    };
+    for (const std::string& file : files) {
+        for (std::size_t at = file.find(keywordStart); at != std::string::npos; at = file.find(keywordStart, at)) {
+            at += keywordStart.size();
+            const std::string keyword = file.substr(at, file.find('"', at) - at);
+            const std::string_view rest = std::string_view(file).substr(at, file.find('>', at) - at);
+            if (rest.find("NAME=\"") != rest.npos) {
+                addUnit(keyword);
+            }
+            if (rest.find("TOOLTIP=\"") != rest.npos) {
+                addUnit(keyword + ".tooltip");
+            }
+        }
+    }
+    return text + "  </file>\n</xliff>\n";
+}
+
 ScenarioDirectory::ScenarioDirectory() {
     std::random_device device;
     m_path = std::filesystem::temp_directory_path() / ("barwright-bench-" + std::to_string(device()));
@@ -152,6 +182,21 @@ ScenarioDirectory::~ScenarioDirectory() {
 std::wstring ScenarioDirectory::AddFile(const std::string& name, const std::string& text) {
     WriteFile(m_path / "cfg" / name, text);
     return L"cfg\\" + std::wstring(name.begin(), name.end());
+}
+
+void ScenarioDirectory::AddInstallation(std::size_t commands, std::size_t iconFiles, std::size_t languages) {
+    constexpr std::size_t menuItems = 250; // each tenth has a shortcut, and there are 26 letters
+    const std::size_t buttons = commands / 8;
+    const std::size_t elements = commands - menuItems - buttons;
+    AddRibbonFile(elements, iconFiles);
+    const std::string menu = MakeMenuFile(menuItems, iconFiles);
+    AddFile("menu.xml", menu);
+    AddFile("toolbar.xml", MakeToolbarFile(buttons, iconFiles));
+    constexpr const char* codes[] = {"en", "de", "fr", "zh-CN"};
+    for (std::size_t i = 0; i < std::min(languages, std::size(codes)); ++i) {
+        WriteFile(m_path / "lang" / codes[i] / "commands.xlf",
+                  MakeTable({MakeRibbonFile(elements, iconFiles), menu}, codes[i]));
+    }
 }
 
 std::wstring ScenarioDirectory::AddRibbonFile(std::size_t buttons, std::size_t iconFiles) {

@@ -19,6 +19,10 @@ std::string MakeRibbonFile(std::size_t buttons, std::size_t iconFiles);
 std::string MakeMenuFile(std::size_t items, std::size_t iconFiles);
 std::string MakeToolbarFile(std::size_t buttons, std::size_t iconFiles);
 
+/// A translation table of the language with a text for every name and tooltip that the files ask for. Texts are
+/// translated from English.
+std::string MakeTable(const std::vector<std::string>& files, const std::string& language);
+
 /// A new directory below the temporary one, removed with all it holds at the end.
 class ScenarioDirectory {
 public:
@@ -33,6 +37,9 @@ public:
     std::wstring AddRibbonFile(std::size_t buttons, std::size_t iconFiles);
     /// cfg/NAME with the text. Returns the path below the directory.
     std::wstring AddFile(const std::string& name, const std::string& text);
+    /// A ribbon, a menu and a toolbar file with so many commands together, their icon files, and tables of so many of
+    /// en, de, fr and zh-CN.
+    void AddInstallation(std::size_t commands, std::size_t iconFiles, std::size_t languages);
 
 private:
     std::filesystem::path m_path;
