@@ -64,8 +64,12 @@ void CheckWhole(GatheringSink& gathered) {
     if (const std::wstring language = CMultiLanguageMgr::GetLanguage(); !language.empty()) {
         languages = ReadLanguages(files, language, DroppedDiagnostics()); // the service has told its problems
     }
-    CheckTexts(elements, languages, false, gathered);
-    CheckCommands(elements, true, KnownReferences(elements), gathered);
+    std::set<std::wstring> known = KnownReferences(elements);
+    if (LostKeywords(gathered)) {
+        AddKeywordsWithTexts(languages, known);
+    }
+    known.merge(CheckTexts(elements, languages, false, gathered));
+    CheckCommands(elements, true, known, gathered);
     CheckAccessKeys(elements, languages, gathered);
     CheckIcons(elements, files, gathered);
 }

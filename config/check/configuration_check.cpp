@@ -128,19 +128,6 @@ void Sort(std::vector<Diagnostic>& findings, const std::vector<FileToRead>& file
     std::ranges::stable_sort(findings, [&](const Diagnostic& a, const Diagnostic& b) { return key(a) < key(b); });
 }
 
-/// Whether an element lost its keyword, which was reported: nobody knows the one that was meant, so that its text seems
-/// unused and what refers to it leads nowhere.
-bool LostKeywords(GatheringSink& sink) {
-    constexpr std::string_view losing[] = {"missing-keyword", "no-attributes", "stray-text", "empty-file"};
-    const bool isLost = std::ranges::any_of(sink.Findings(), [&losing](const Diagnostic& finding) {
-        const bool isUnclear = finding.code == "unknown-attribute" && finding.fix.empty();
-        return isUnclear || std::ranges::find(losing, finding.code) != std::end(losing);
-    });
-    return isLost || std::ranges::any_of(sink.Elements(), [](const GatheredElement& gathered) {
-               return gathered.element.IsReported(AttributeUse::Keyword);
-           });
-}
-
 /// The keywords of all elements of the files, which are not reported.
 bool AddKeywordsOf(const std::vector<FileToRead>& files, std::set<std::wstring>& keywords) {
     class Silent : public GatheringSink {
@@ -156,14 +143,6 @@ bool AddKeywordsOf(const std::vector<FileToRead>& files, std::set<std::wstring>&
         }
     }
     return isComplete;
-}
-
-void AddKeywordsWithTexts(const std::vector<LanguageTexts>& languages, std::set<std::wstring>& keywords) {
-    for (const LanguageTexts& language : languages) {
-        for (const auto& [key, text] : language.commands) {
-            keywords.insert(KeywordOf(key));
-        }
-    }
 }
 
 /// Where tables are named, what is said of anything that is not named is dropped; tables that are not there are told.

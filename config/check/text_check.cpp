@@ -353,3 +353,22 @@ std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std
     }
     return check.Meant();
 }
+
+bool LostKeywords(GatheringSink& sink) {
+    constexpr std::string_view losing[] = {"missing-keyword", "no-attributes", "stray-text", "empty-file"};
+    const bool isLost = std::ranges::any_of(sink.Findings(), [&losing](const Diagnostic& finding) {
+        const bool isUnclear = finding.code == "unknown-attribute" && finding.fix.empty();
+        return isUnclear || std::ranges::find(losing, finding.code) != std::end(losing);
+    });
+    return isLost || std::ranges::any_of(sink.Elements(), [](const GatheredElement& gathered) {
+               return gathered.element.IsReported(AttributeUse::Keyword);
+           });
+}
+
+void AddKeywordsWithTexts(std::span<const LanguageTexts> languages, std::set<std::wstring>& keywords) {
+    for (const LanguageTexts& language : languages) {
+        for (const auto& [key, text] : language.commands) {
+            keywords.insert(KeywordOf(key));
+        }
+    }
+}

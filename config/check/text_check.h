@@ -15,6 +15,13 @@ std::wstring KeywordOf(const std::wstring& key);
 std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
                                   bool isComplete, DiagnosticsSink& sink);
 
+/// Whether an element lost its keyword, which was reported: nobody knows the one that was meant, so that its text seems
+/// unused and what refers to it leads nowhere.
+bool LostKeywords(GatheringSink& sink);
+
+/// Those are the ones that may be meant then: adds all keywords that the tables have texts for.
+void AddKeywordsWithTexts(std::span<const LanguageTexts> languages, std::set<std::wstring>& keywords);
+
 /// Checks how wide the texts are where a file, or any window, sets a limit: long-text.
 void CheckTextLengths(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
                       DiagnosticsSink& sink);

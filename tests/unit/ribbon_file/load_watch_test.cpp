@@ -55,6 +55,18 @@ TEST_F(LoadingWatched, ReferencesToCommandsOfEarlierFilesLeadSomewhere) {
     EXPECT_EQ(problems.text, "2:59 unknown-quick-access\n");
 }
 
+TEST_F(LoadingWatched, AKeywordThatIsMisspeltOrLostIsOneProblem) {
+    ASSERT_TRUE(m_installation.Translate("A Save"));
+    HeardProblems problems;
+    const std::string before = "<r KEYWORD='QK_Rbbion_QAToolbar'><i KEYWORD='Save'/></r>"
+                               "<r><c KEYWORD='A' NAME=''><p KEYWORD='P'>\n";
+    Load(before + "<i KEYWORD='Saev' NAME='' TYPE='BUTTON'/></p></c></r>");
+    EXPECT_EQ(problems.text, "3:4 missing-text\n");
+    problems.text.clear();
+    Load(before + "<i NAME='' TYPE='BUTTON'/></p></c></r>");
+    EXPECT_EQ(problems.text, "3:1 missing-keyword\n");
+}
+
 TEST_F(LoadingWatched, AFileThatIsNotLoadedIsTold) {
     HeardProblems problems;
     Load("<r>");
