@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace {
 
@@ -43,7 +44,10 @@ public:
     void Read(const std::wstring& path) {
         m_file = path;
         m_isForeign = false;
+        m_untranslated.clear();
+        m_translated = 0;
         m_texts.isUsable = varnhold::ReadTranslationFile(path, m_texts.code, *this) && m_texts.isUsable;
+        ReportUntranslated();
     }
 
     void VisitSourceLanguage(bool isForeign) override { m_isForeign = isForeign; }
@@ -60,8 +64,9 @@ public:
                                L"remove one of the two", {earlier->second});
         }
         if (m_isForeign && !unit.isTranslated) {
-            diagnostics.Report("untranslated-text", position, L"the unit " + Quoted(key) + L" has no target",
-                               L"translate it");
+            m_untranslated.emplace_back(key, position);
+        } else {
+            ++m_translated;
         }
         if (unit.section != kRibbonSection) {
             m_texts.otherSections.try_emplace(string2wstring(unit.section), PlacedText{unit.text, m_file, position});
@@ -92,10 +97,29 @@ public:
     }
 
 private:
+    /// Where nothing is translated, that is one thing to say.
+    void ReportUntranslated() const {
+        constexpr std::size_t few = 3;
+        const FileDiagnostics diagnostics(m_file, m_sink);
+        if (m_translated == 0 && m_untranslated.size() > few) {
+            diagnostics.Report("untranslated-text", m_untranslated.front().second,
+                               L"none of the " + std::to_wstring(m_untranslated.size()) + L" units has a target",
+                               L"translate them, or let srcLang be the language of the texts");
+            return;
+        }
+        for (const auto& [key, position] : m_untranslated) {
+            diagnostics.Report("untranslated-text", position, L"the unit " + Quoted(key) + L" has no target",
+                               L"translate it");
+        }
+    }
+
     LanguageTexts& m_texts;
     DiagnosticsSink& m_sink;
     std::wstring m_file;
     bool m_isForeign = false;
+    /// Of the file that is read: keys and places.
+    std::vector<std::pair<std::wstring, TextPosition>> m_untranslated;
+    std::size_t m_translated = 0;
     std::map<std::wstring, RelatedPlace> m_seen;
 };
 

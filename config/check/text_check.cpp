@@ -86,7 +86,7 @@ public:
                     missing.languages.push_back(&language);
                 }
             }
-            if (!missing.text.empty() && !ReportInTable(keyword, missing.languages, missing.text)) {
+            if (!missing.text.empty() && !ReportInTable(missing)) {
                 m_missing.push_back(std::move(missing));
             }
         }
@@ -225,29 +225,38 @@ private:
                        L"barcheck DIR --extract " + language.code + L" writes the table");
     }
 
-    /// Where other languages have the text, and this one has it under nearly that key, the key is wrong.
-    bool ReportInTable(const std::wstring& keyword, const std::vector<const LanguageTexts*>& lacking,
-                       const std::wstring& text) {
-        if (lacking.size() != 1 || m_languages.size() - m_lost.size() < 2) {
+    /// Where other languages have the text, or this one has the name to a tooltip, and this one has it under nearly
+    /// that key, the key is wrong.
+    bool ReportInTable(const Missing& missing) {
+        if (missing.languages.size() != 1) {
             return false;
         }
+        const LanguageTexts& language = *missing.languages.front();
+        const std::wstring& keyword = *missing.keyword;
+        const bool isToolTip = !LacksName(language, keyword, *missing.asked);
+        const bool isKnownKeyword = isToolTip && language.commands.contains(keyword);
+        if (!isKnownKeyword && m_languages.size() - m_lost.size() < 2) {
+            return false;
+        }
+        const auto nameOf = [isToolTip](const std::wstring& key) { return isToolTip ? key : KeywordOf(key); };
         std::vector<std::wstring> unused;
-        for (const auto& [key, placed] : lacking.front()->commands) {
+        for (const auto& [key, placed] : language.commands) {
             if (!m_keywords.contains(KeywordOf(key)) && !m_keywords.contains(key)) {
-                unused.push_back(KeywordOf(key));
+                unused.push_back(nameOf(key));
             }
         }
-        const std::wstring written = ClosestWord(keyword, unused);
-        const auto& commands = lacking.front()->commands;
+        const std::wstring wanted = isToolTip ? keyword + std::wstring(kToolTipSuffix) : keyword;
+        const std::wstring written = ClosestWord(wanted, unused);
         const auto found = std::ranges::find_if(
-            commands, [&written](const auto& entry) { return !written.empty() && KeywordOf(entry.first) == written; });
-        if (found == commands.end()) {
+            language.commands, [&](const auto& entry) { return !written.empty() && nameOf(entry.first) == written; });
+        if (found == language.commands.end()) {
             return false;
         }
-        m_meant.insert(written);
+        m_meant.insert(KeywordOf(written));
         ReportTogether(m_sink, found->second.file, found->second.position, "missing-text",
-                       L"no element has the keyword " + Quoted(written) + L", and for " + Quoted(keyword) + L" " + text,
-                       DidYouMean(keyword));
+                       L"no element has the keyword " + Quoted(written) + L", and for " + Quoted(keyword) + L" " +
+                           missing.text,
+                       DidYouMean(wanted));
         return true;
     }
 

@@ -247,6 +247,15 @@ TEST(CheckedConfiguration, AKeywordOfNoTextIsTheOneWhoseTextsAreLeftOver) {
     EXPECT_EQ(installation.Check().size(), 3u);
 }
 
+TEST(CheckedConfiguration, AMisspeltToolTipIsToldInTheTableOfAnyNumberOfLanguages) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TOOLTIP=\"\" TYPE=\"BUTTON\"/>"));
+    installation.WriteTable("en", CheckedInstallation::Unit("Map", "Map") + CheckedInstallation::Unit("In", "In") +
+                                      CheckedInstallation::Unit("In.toltip", "Nearer"));
+    EXPECT_EQ(installation.Findings(), "lang/en/a.xlf:5:1 missing-text\n");
+    EXPECT_EQ(installation.Check().front().fix, L"did you mean \"In.tooltip\"?");
+}
+
 TEST(CheckedConfiguration, AnUnknownReferenceToWhatHasNoTextIsToldBesideALostKeyword) {
     const CheckedInstallation installation;
     WriteSample(installation);

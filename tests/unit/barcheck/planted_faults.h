@@ -488,4 +488,8 @@ inline constexpr PlantedFault kPlantedFaults[] = {
     {"lang/en/a.xlf", "<unit id=\"West\">", "@@West <unit id=\"West\">", "stray-text"},
     {"lang/de/a.xlf", "<unit id=\"West\"><segment>", "<unit id=\"West\"><segment>@@x", "stray-text"},
     {"lang/de/a.xlf", "<unit id=\"West\">", "<unit id=\"West\" note=\"@@<\">", "xml-syntax"},
+    {"lang/de/a.xlf", "<unit id=\"Filter.tooltip\">", "@@<unit id=\"Filter.toltip\">", "missing-text"},
+    {"lang/de/a.xlf", "<unit id=\"Filter.tooltip\">", "@@<unit id=\"Filter.Tooltip\">", "missing-text"},
+    {"lang/en/a.xlf", "srcLang=\"en\">\n  <file id=\"RibbonBarCfg\">\n    ",
+     "srcLang=\"fr\">\n  <file id=\"RibbonBarCfg\">\n    @@", "untranslated-text"},
 };

@@ -104,9 +104,7 @@ TEST_F(ValidatingParser, AcceptsTheCleanSamples) {
         for (const auto& entry : fs::directory_iterator(fs::path(BARWRIGHT_SOURCE) / folder)) {
             const std::string name = entry.path().filename().string();
             const bool isMenu = name.starts_with("menu") || name == "keys.xml";
-            const char* const schema = isMenu                        ? "menu.xsd"
-                                       : name.starts_with("toolbar") ? "toolbar.xsd"
-                                                                     : "ribbon.xsd";
+            const char* const schema = isMenu ? "menu.xsd" : name.starts_with("toolbar") ? "toolbar.xsd" : "ribbon.xsd";
             EXPECT_TRUE(IsValid(kFolder / schema, entry.path())) << entry.path();
         }
     }
