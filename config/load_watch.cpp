@@ -65,10 +65,10 @@ void CheckWhole(GatheringSink& gathered) {
         languages = ReadLanguages(files, language, DroppedDiagnostics()); // the service has told its problems
     }
     std::set<std::wstring> known = KnownReferences(elements);
-    if (LostKeywords(gathered)) {
+    if (CountLostKeywords(gathered) > 0) {
         AddKeywordsWithTexts(languages, known);
     }
-    known.merge(CheckTexts(elements, languages, false, gathered));
+    known.merge(CheckTexts(elements, languages, false, 0, gathered));
     CheckCommands(elements, true, known, gathered);
     CheckAccessKeys(elements, languages, gathered);
     CheckIcons(elements, files, gathered);

@@ -181,13 +181,13 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
                        L"there is no cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml");
         isComplete = false;
     }
-    const bool lostKeywords = LostKeywords(sink);
+    const std::size_t lostKeywords = CountLostKeywords(sink);
     const std::vector<LanguageTexts> languages = ReadLanguages(files, request.language, sink);
     // Whoever names files has others, whose keywords are not known here.
-    const bool knowsAllKeywords = isComplete && !selection.namesFiles && !lostKeywords;
-    std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, knowsAllKeywords, sink);
+    const bool knowsAllKeywords = isComplete && !selection.namesFiles;
+    std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, knowsAllKeywords, lostKeywords, sink);
     isComplete = AddKeywordsOf(selection.others, meant) && isComplete;
-    if (lostKeywords) {
+    if (lostKeywords > 0) {
         AddKeywordsWithTexts(languages, meant);
     }
     CheckCommands(sink.Elements(), isComplete, meant, sink);

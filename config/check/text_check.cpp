@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <map>
 
 namespace {
@@ -96,8 +97,9 @@ public:
         }
     }
 
-    /// One finding for all texts of one keyword, in all languages.
-    void ReportUnused() const {
+    /// One finding for all texts of one keyword, in all languages. So many elements as `lost` have no keyword, which
+    /// was reported: where that explains all keywords that every language has and no element, these are not spoken of.
+    void ReportUnused(std::size_t lost) const {
         std::map<std::wstring, std::vector<const PlacedText*>> unused;
         for (const LanguageTexts& language : m_languages) {
             for (const auto& [key, text] : language.commands) {
@@ -106,6 +108,15 @@ public:
                     unused[keyword].push_back(&text);
                 }
             }
+        }
+        const auto isEverywhere = [this](const auto& entry) {
+            return std::ranges::all_of(m_languages, [&entry](const LanguageTexts& language) {
+                return !language.isUsable || language.commands.contains(entry.first) ||
+                       language.commands.contains(entry.first + std::wstring(kToolTipSuffix));
+            });
+        };
+        if (static_cast<std::size_t>(std::ranges::count_if(unused, isEverywhere)) <= lost) {
+            std::erase_if(unused, isEverywhere);
         }
         constexpr std::size_t few = 8;
         if (m_ofRibbon.empty() && unused.size() > few) {
@@ -351,27 +362,32 @@ std::wstring KeywordOf(const std::wstring& key) {
 }
 
 std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
-                                  bool isComplete, DiagnosticsSink& sink) {
+                                  bool isComplete, std::size_t lostKeywords, DiagnosticsSink& sink) {
     TextCheck check(languages, sink);
     for (const GatheredElement& gathered : elements) {
         check.Take(gathered);
     }
     check.ReportMissing();
     if (isComplete) {
-        check.ReportUnused();
+        check.ReportUnused(lostKeywords);
     }
     return check.Meant();
 }
 
-bool LostKeywords(GatheringSink& sink) {
-    constexpr std::string_view losing[] = {"missing-keyword", "no-attributes", "stray-text", "empty-file"};
-    const bool isLost = std::ranges::any_of(sink.Findings(), [&losing](const Diagnostic& finding) {
+std::size_t CountLostKeywords(GatheringSink& sink) {
+    constexpr std::string_view losing[] = {"missing-keyword", "no-attributes", "stray-text"};
+    std::size_t lost = 0;
+    for (const Diagnostic& finding : sink.Findings()) {
         const bool isUnclear = finding.code == "unknown-attribute" && finding.fix.empty();
-        return isUnclear || std::ranges::find(losing, finding.code) != std::end(losing);
+        lost += isUnclear || std::ranges::find(losing, finding.code) != std::end(losing) ? 1 : 0;
+        if (finding.code == "empty-file") {
+            return std::numeric_limits<std::size_t>::max();
+        }
+    }
+    const auto reported = std::ranges::count_if(sink.Elements(), [](const GatheredElement& gathered) {
+        return gathered.element.IsReported(AttributeUse::Keyword);
     });
-    return isLost || std::ranges::any_of(sink.Elements(), [](const GatheredElement& gathered) {
-               return gathered.element.IsReported(AttributeUse::Keyword);
-           });
+    return lost + static_cast<std::size_t>(reported);
 }
 
 void AddKeywordsWithTexts(std::span<const LanguageTexts> languages, std::set<std::wstring>& keywords) {

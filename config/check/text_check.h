@@ -11,13 +11,14 @@
 std::wstring KeywordOf(const std::wstring& key);
 
 /// Checks the texts that the elements ask for against the tables: missing-text, and unused-text where `isComplete` (no
-/// file was left out). Returns the keywords that were probably meant by those without a text.
+/// file was left out; see CountLostKeywords for the rest). Returns the keywords that were probably meant by those
+/// without a text.
 std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
-                                  bool isComplete, DiagnosticsSink& sink);
+                                  bool isComplete, std::size_t lostKeywords, DiagnosticsSink& sink);
 
-/// Whether an element lost its keyword, which was reported: nobody knows the one that was meant, so that its text seems
-/// unused and what refers to it leads nowhere.
-bool LostKeywords(GatheringSink& sink);
+/// How many elements lost their keywords, which was reported: nobody knows the ones that were meant, so that their
+/// texts seem unused and what refers to them leads nowhere.
+std::size_t CountLostKeywords(GatheringSink& sink);
 
 /// Those are the ones that may be meant then: adds all keywords that the tables have texts for.
 void AddKeywordsWithTexts(std::span<const LanguageTexts> languages, std::set<std::wstring>& keywords);

@@ -111,6 +111,20 @@ TEST(CheckedConfiguration, TheTextOfAKeywordThatWasLostIsNotUnusedBesides) {
     EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:28:9 missing-keyword\n");
 }
 
+TEST(CheckedConfiguration, OtherUnusedTextsAreToldBesideALostKeyword) {
+    const CheckedInstallation installation;
+    installation.Write("cfg/ribbon.xml", RibbonWith("<i NAME=\"\" TYPE=\"BUTTON\"/>"));
+    const std::string own = CheckedInstallation::Unit("Map", "Map");
+    const std::string lost = CheckedInstallation::Unit("In", "In");
+    installation.WriteTable("en", own + lost + CheckedInstallation::Unit("Old", "Old"));
+    installation.Write("lang/de/a.xlf", CheckedInstallation::Table(own + lost, "de"));
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:4:1 missing-keyword\nlang/en/a.xlf:5:1 unused-text\n");
+    // Two that every language has: nobody knows which was lost.
+    installation.Write("lang/de/a.xlf",
+                       CheckedInstallation::Table(own + lost + CheckedInstallation::Unit("Old", "Alt"), "de"));
+    EXPECT_EQ(installation.Check().size(), 3u);
+}
+
 TEST(CheckedConfiguration, LettersClashPerLanguageByTheTranslatedText) {
     const CheckedInstallation installation;
     installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"A\" MENUNAME=\"\"/>\n<i KEYWORD=\"B\" MENUNAME=\"\"/>"));
