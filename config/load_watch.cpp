@@ -68,7 +68,7 @@ void CheckWhole(GatheringSink& gathered) {
     if (CountLostKeywords(gathered) > 0) {
         AddKeywordsWithTexts(languages, known);
     }
-    known.merge(CheckTexts(elements, languages, false, 0, gathered));
+    known.merge(CheckTexts(elements, languages, gathered));
     CheckCommands(elements, true, known, gathered);
     CheckAccessKeys(elements, languages, gathered);
     CheckIcons(elements, files, gathered);

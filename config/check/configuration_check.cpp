@@ -181,16 +181,23 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
                        L"there is no cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml");
         isComplete = false;
     }
-    const std::size_t lostKeywords = CountLostKeywords(sink);
+    std::size_t lostKeywords = CountLostKeywords(sink);
     const std::vector<LanguageTexts> languages = ReadLanguages(files, request.language, sink);
     // Whoever names files has others, whose keywords are not known here.
     const bool knowsAllKeywords = isComplete && !selection.namesFiles;
-    std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, knowsAllKeywords, lostKeywords, sink);
-    isComplete = AddKeywordsOf(selection.others, meant) && isComplete;
+    const std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, sink);
+    std::set<std::wstring> known = meant;
+    isComplete = AddKeywordsOf(selection.others, known) && isComplete;
     if (lostKeywords > 0) {
-        AddKeywordsWithTexts(languages, meant);
+        AddKeywordsWithTexts(languages, known);
     }
-    CheckCommands(sink.Elements(), isComplete, meant, sink);
+    CheckCommands(sink.Elements(), isComplete, known, sink);
+    if (knowsAllKeywords) {
+        // Whoever has another's keyword lacks its own.
+        lostKeywords += static_cast<std::size_t>(
+            std::ranges::count(sink.Findings(), std::string_view("duplicate-keyword"), &Diagnostic::code));
+        CheckUnusedTexts(sink.Elements(), languages, meant, lostKeywords, sink);
+    }
     CheckTextLengths(sink.Elements(), languages, sink);
     CheckAccessKeys(sink.Elements(), languages, sink);
     CheckIcons(sink.Elements(), files, sink);

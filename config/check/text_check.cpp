@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 #include <map>
+#include <utility>
 
 namespace {
 
@@ -35,7 +35,8 @@ bool AsksTables(ElementRole role) {
 
 class TextCheck {
 public:
-    TextCheck(std::span<const LanguageTexts> languages, DiagnosticsSink& sink) : m_languages(languages), m_sink(sink) {}
+    TextCheck(std::span<const LanguageTexts> languages, std::set<std::wstring> meant, DiagnosticsSink& sink)
+        : m_languages(languages), m_sink(sink), m_meant(std::move(meant)) {}
 
     void Take(const GatheredElement& gathered) {
         const MetElement& element = gathered.element;
@@ -97,8 +98,9 @@ public:
         }
     }
 
-    /// One finding for all texts of one keyword, in all languages. So many elements as `lost` have no keyword, which
-    /// was reported: where that explains all keywords that every language has and no element, these are not spoken of.
+    /// One finding for all texts of one keyword, in all languages. So many elements as `lost` do not have their
+    /// keyword, which was reported: where that explains all keywords that every language has and no element, these are
+    /// not spoken of.
     void ReportUnused(std::size_t lost) const {
         std::map<std::wstring, std::vector<const PlacedText*>> unused;
         for (const LanguageTexts& language : m_languages) {
@@ -362,26 +364,33 @@ std::wstring KeywordOf(const std::wstring& key) {
 }
 
 std::set<std::wstring> CheckTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
-                                  bool isComplete, std::size_t lostKeywords, DiagnosticsSink& sink) {
-    TextCheck check(languages, sink);
+                                  DiagnosticsSink& sink) {
+    TextCheck check(languages, {}, sink);
     for (const GatheredElement& gathered : elements) {
         check.Take(gathered);
     }
     check.ReportMissing();
-    if (isComplete) {
-        check.ReportUnused(lostKeywords);
-    }
     return check.Meant();
+}
+
+void CheckUnusedTexts(std::span<const GatheredElement> elements, std::span<const LanguageTexts> languages,
+                      const std::set<std::wstring>& meant, std::size_t lostKeywords, DiagnosticsSink& sink) {
+    TextCheck check(languages, meant, sink);
+    for (const GatheredElement& gathered : elements) {
+        check.Take(gathered);
+    }
+    check.ReportUnused(lostKeywords);
 }
 
 std::size_t CountLostKeywords(GatheringSink& sink) {
     constexpr std::string_view losing[] = {"missing-keyword", "no-attributes", "stray-text"};
+    constexpr std::size_t all = 1'000'000; // there are never so many
     std::size_t lost = 0;
     for (const Diagnostic& finding : sink.Findings()) {
         const bool isUnclear = finding.code == "unknown-attribute" && finding.fix.empty();
         lost += isUnclear || std::ranges::find(losing, finding.code) != std::end(losing) ? 1 : 0;
         if (finding.code == "empty-file") {
-            return std::numeric_limits<std::size_t>::max();
+            return all;
         }
     }
     const auto reported = std::ranges::count_if(sink.Elements(), [](const GatheredElement& gathered) {

@@ -472,6 +472,7 @@ inline constexpr PlantedFault kPlantedFaults[] = {
     {"cfg/ribbon.xml", "<panel KEYWORD=\"PanelTools\" NAME=\"\">", "@@<panel>", "no-attributes"},
     {"cfg/menu.xml", "<item KEYWORD=\"Exit\" MENUNAME=\"\" SHORTKEY=\"X\" HOTKEY=\"Alt+X\" CMD=\"exit\"/>", "@@<item/>",
      "no-attributes"},
+    {"cfg/ribbon.xml", "KEYWORD=\"West\"", "@@KEYWORD=\"Save\"", "duplicate-keyword"},
     // Another keyword altogether: the one whose texts are left over was meant.
     {"cfg/ribbon.xml", "KEYWORD=\"CatTools\"", "@@KEYWORD=\"Zqwx\"", "missing-text"},
     {"cfg/ribbon.xml", "KEYWORD=\"Filter\"", "@@KEYWORD=\"Zqwx\"", "missing-text"},
