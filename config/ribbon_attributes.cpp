@@ -135,7 +135,7 @@ bool TakeGroupBefore(Attribute& attribute) {
     const bool isYes = IsYes(attribute.Value());
     attribute.info.groupBefore = isYes;
     attribute.CheckFlag(isYes, IsNo(attribute.Value()));
-    if (isYes && !attribute.IsLast() && attribute.IsWatched()) {
+    if (isYes && attribute.IsWatched() && !attribute.IsLast()) {
         attribute.Report("attribute-order", L"GROUPBEFORE has an effect only as the last attribute",
                          L"put it behind the others");
     }
