@@ -186,7 +186,11 @@ private:
                        const std::vector<std::wstring>& missing) {
         const std::wstring folder = FolderOf(missing.front());
         // Without the folder all icons in it are missing: that is one fault.
-        if (m_files.FilesIn(folder).empty() && !m_missingFolders.insert(FoldedPath(folder)).second) {
+        bool isNew = false;
+        for (const std::wstring& path : missing) {
+            isNew = TakeMissing(path) || isNew;
+        }
+        if (!isNew) {
             return;
         }
         std::wstring text;
@@ -196,6 +200,15 @@ private:
         text += missing.size() == 1 ? L" is not there" : L" are not there";
         text += m_files.FilesIn(folder).empty() ? L", nor is anything else in that folder" : L"";
         Report(gathered, icon, "missing-icon", std::move(text), Suggestion(icon.value, missing.front()));
+    }
+
+    /// False where the icon's folder has no file at all, or the one around it no folder, and that was taken before.
+    bool TakeMissing(const std::wstring& path) {
+        const std::wstring folder = FolderOf(path);
+        const std::wstring around = FolderOf(folder);
+        const bool isAlone = m_files.FoldersIn(around).empty();
+        return !m_files.FilesIn(folder).empty() ||
+               m_missingFolders.insert(FoldedPath(isAlone ? around : folder)).second;
     }
 
     bool IsThere(const std::wstring& path) const { return m_files.Find(IconFileBelow({}, path, kSmall)).has_value(); }

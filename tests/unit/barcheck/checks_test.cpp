@@ -408,6 +408,13 @@ TEST(MissingIcon, AFolderThatIsMissingIsSaidOnce) {
     EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:10:40 missing-icon\n");
 }
 
+TEST(MissingIcon, AFolderThatIsMissingWithBothSizesIsSaidOnce) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    std::filesystem::remove_all(installation.Directory().Path() / "pic");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:10:40 missing-icon\n");
+}
+
 TEST(MissingIcon, WhatPeopleWriteInItsPlaceIsRecognised) {
     for (const char* const written : {"zoom.ico", "pic\\icon\\16\\zoom.ico", "pic\\icon\\zoom", " pic\\icon\\zoom.ico ",
                                       "C:\\work\\zoom.ico", "pic\\icon\\zom.ico"}) {
