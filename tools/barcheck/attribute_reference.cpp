@@ -18,7 +18,8 @@ constexpr FilePage kFiles[] = {
      "How the levels of the file are read tells [its guide](ribbon-file.md)."},
     {ConfigurationKind::Menu, "The menu file", "How popups and items are read tells [its guide](menu-file.md)."},
     {ConfigurationKind::ToolBars, "The toolbar file",
-     "The document element holds groups, a group toolbars, a toolbar buttons."},
+     "The document element holds groups, a group toolbars, a toolbar buttons: [its guide](toolbar-file.md) tells "
+     "more."},
 };
 
 /// A line of a table: "| a | b |".
