@@ -160,6 +160,12 @@ std::vector<std::size_t> FindUnknownReferences(std::string_view document) {
     return found;
 }
 
+bool NamesEntity(std::string_view document, std::size_t at) {
+    constexpr std::string_view noName = "&;<>\"' \t\r\n";
+    const std::size_t end = document.find_first_of(noName, at + 1);
+    return end != kNone && end > at + 1 && document[end] == ';';
+}
+
 bool HasUnknownReference(std::string_view value) {
     std::size_t at = value.find('&');
     while (at != kNone && IsKnownReference(value, at)) {

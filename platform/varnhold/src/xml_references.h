@@ -15,7 +15,10 @@ std::size_t FindReferenceToNoCharacter(std::string_view document);
 /// places of the same kind of document.
 std::vector<std::size_t> FindUnknownReferences(std::string_view document);
 
-/// The same for one attribute's value as it is written.
+/// Whether the "&" at `at` begins a whole reference to an entity of any name.
+bool NamesEntity(std::string_view document, std::size_t at);
+
+/// Whether an "&" as FindUnknownReferences finds stands in one attribute's value as it is written.
 bool HasUnknownReference(std::string_view value);
 
 /// An element whose end tag is still to come.

@@ -217,8 +217,11 @@ std::vector<XmlOddity> XmlTree::FindOddities(bool (*mayHoldText)(const pugi::xml
         oddities.push_back({XmlOddityKind::BrokenCharacter, GetPosition(at)});
     }
     AddLooseTexts(oddities, mayHoldText);
+    const bool hasEntities = !oddities.empty() && oddities.front().kind == XmlOddityKind::DocumentType;
     for (const std::size_t at : FindUnknownReferences(m_text)) {
-        oddities.push_back({XmlOddityKind::UnknownReference, GetPosition(at)});
+        if (!hasEntities || !NamesEntity(m_text, at)) { // one of its entities: one oddity, the document type
+            oddities.push_back({XmlOddityKind::UnknownReference, GetPosition(at)});
+        }
     }
     AddBareMarkup(oddities);
     return oddities;

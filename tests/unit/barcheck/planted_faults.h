@@ -493,4 +493,8 @@ inline constexpr PlantedFault kPlantedFaults[] = {
     {"lang/de/a.xlf", "<unit id=\"Filter.tooltip\">", "@@<unit id=\"Filter.Tooltip\">", "missing-text"},
     {"lang/en/a.xlf", "srcLang=\"en\">\n  <file id=\"RibbonBarCfg\">\n    ",
      "srcLang=\"fr\">\n  <file id=\"RibbonBarCfg\">\n    @@", "untranslated-text"},
+    {"cfg/ribbon.xml", "<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\">\n    <item KEYWORD=\"Open\"/>",
+     "@@<!DOCTYPE ribbon [<!ENTITY o \"Open\">]>\n<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\">\n    <item "
+     "KEYWORD=\"&o;\"/>",
+     "xml-doctype"},
 };

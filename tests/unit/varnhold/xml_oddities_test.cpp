@@ -54,6 +54,11 @@ TEST(XmlOddities, UnknownReferencesAreToldInValuesAndTextsOnly) {
               "reference@1:16 reference@1:28 reference@1:35 ");
 }
 
+TEST(XmlOddities, ADocumentTypeIsToldWithoutItsEntities) {
+    EXPECT_EQ(Oddities("<!DOCTYPE r [<!ENTITY a 'b'>]>\n<r b='&a;' c='R&D' d='&;'/>"),
+              "doctype@1:1 reference@2:16 reference@2:23 ");
+}
+
 TEST(XmlOddities, MarkupInAValueIsTold) {
     EXPECT_EQ(Oddities("<?p a='<'?><r a='&lt;' b='x<y<z' c=\"'<'\"><!-- d='<' --><c/></r>"),
               "markup@1:28 markup@1:38 ");

@@ -30,11 +30,13 @@ enum class XmlError { None, Unreadable, Empty, Encoding, Syntax };
 
 /// Something in a document that was read which the reader passed over without an error.
 enum class XmlOddityKind {
-    DocumentType,     ///< is skipped, with the entities that it declares
-    BrokenCharacter,  ///< bytes that the encoding does not have; each became U+FFFD
-    LooseText,        ///< text between tags, which is no attribute
-    UnknownReference, ///< a "&" that begins neither a predefined entity nor a character reference; it stays as it is
-    BareMarkup,       ///< a "<" in an attribute's value; it stays as it is, and other programs refuse the document
+    DocumentType,    ///< is skipped, with the entities that it declares
+    BrokenCharacter, ///< bytes that the encoding does not have; each became U+FFFD
+    LooseText,       ///< text between tags, which is no attribute
+    /// A "&" that begins neither a predefined entity nor a character reference; it stays as it is. Of references to
+    /// entities that a document type may have declared that one is told alone.
+    UnknownReference,
+    BareMarkup, ///< a "<" in an attribute's value; it stays as it is, and other programs refuse the document
 };
 struct XmlOddity {
     XmlOddityKind kind = XmlOddityKind::LooseText;
