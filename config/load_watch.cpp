@@ -64,6 +64,7 @@ void CheckWhole(GatheringSink& gathered) {
     if (const std::wstring language = CMultiLanguageMgr::GetLanguage(); !language.empty()) {
         languages = ReadLanguages(files, language, DroppedDiagnostics()); // the service has told its problems
     }
+    JoinShiftedLevels(gathered);
     std::set<std::wstring> known = KnownReferences(elements);
     if (CountLostKeywords(gathered) > 0) {
         AddKeywordsWithTexts(languages, known);

@@ -31,9 +31,34 @@ void ToolBarDiagnosis::PassOver(varnhold::XmlCursor& element, MetElement met) co
     PassOverBelow(element, ToolBarAttributeRules(), m_diagnostics);
 }
 
+/// Whether the element is neither a group nor a toolbar, and has below it what should stand in its place.
+bool ToolBarDiagnosis::IsSurplus(const varnhold::XmlCursor& element, const MetElement& met) {
+    const AttributeUse own = met.role == ElementRole::ToolBarGroup ? AttributeUse::Keyword : AttributeUse::Prompt;
+    if (met.Has(own) || met.hasUnknown || !met.hasChildren) {
+        return false;
+    }
+    varnhold::XmlCursor child = element;
+    child.ToFirstChild();
+    const MetElement below = DescribeElement(child, ToolBarAttributeRules(), {}, Unreported());
+    const bool isToolBar = below.Has(AttributeUse::Prompt);
+    return below.hasChildren && below.Has(own) && !below.Has(AttributeUse::Type) &&
+           isToolBar == (own == AttributeUse::Prompt);
+}
+
 /// Whether the element can be what its depth says: neither a button, which has a TYPE, nor a toolbar in a group's
-/// place. Where a level is missing, that is said of the first element alone.
+/// place, nor something around a group or a toolbar. Where a level is missing, or is too many, that is said of the
+/// first element alone.
 bool ToolBarDiagnosis::CheckDepth(varnhold::XmlCursor& element, const MetElement& met, bool& wasStray) const {
+    if (IsSurplus(element, met)) {
+        if (!wasStray) {
+            m_diagnostics.Report("wrong-depth", met.position,
+                                 L"this is read as what is below it: a level is too many here",
+                                 L"take this element away, and leave what is in it");
+        }
+        wasStray = true;
+        PassOver(element, met);
+        return false;
+    }
     const bool isToolBar = met.role == ElementRole::ToolBarGroup && met.hasChildren && met.Has(AttributeUse::Prompt) &&
                            !met.Has(AttributeUse::Keyword);
     const MetAttribute* const telling = isToolBar ? met.Find(AttributeUse::Prompt) : met.Find(AttributeUse::Type);

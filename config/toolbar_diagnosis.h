@@ -14,6 +14,7 @@ public:
 
 private:
     MetElement Describe(varnhold::XmlCursor& element, ElementRole role) const;
+    static bool IsSurplus(const varnhold::XmlCursor& element, const MetElement& met);
     bool CheckDepth(varnhold::XmlCursor& element, const MetElement& met, bool& wasStray) const;
     void PassOver(varnhold::XmlCursor& element, MetElement met) const;
 

@@ -181,6 +181,7 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
                        L"there is no cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml");
         isComplete = false;
     }
+    JoinShiftedLevels(sink);
     std::size_t lostKeywords = CountLostKeywords(sink);
     const std::vector<LanguageTexts> languages = ReadLanguages(files, request.language, sink);
     // Whoever names files has others, whose keywords are not known here.

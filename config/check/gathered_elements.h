@@ -23,6 +23,8 @@ public:
     }
 
     const std::vector<GatheredElement>& Elements() const { return m_elements; }
+    /// From now on all elements of the file are passed over.
+    void PassOver(const std::wstring& file);
     std::vector<Diagnostic>& Findings() { return m_findings; }
 
 private:
@@ -30,6 +32,10 @@ private:
     std::vector<GatheredElement> m_elements;
     std::vector<Diagnostic> m_findings;
 };
+
+/// A file with many elements at a wrong depth lacks a level, or has one too many: that is one fault. Of what was
+/// reported about how its elements stand the first word about that stays, and its elements are passed over.
+void JoinShiftedLevels(GatheringSink& sink);
 
 /// The same for the problems of several elements together.
 void ReportTogether(DiagnosticsSink& sink, const std::wstring& file, varnhold::TextPosition position,

@@ -389,7 +389,7 @@ std::size_t CountLostKeywords(GatheringSink& sink) {
     for (const Diagnostic& finding : sink.Findings()) {
         const bool isUnclear = finding.code == "unknown-attribute" && finding.fix.empty();
         lost += isUnclear || std::ranges::find(losing, finding.code) != std::end(losing) ? 1 : 0;
-        if (finding.code == "empty-file") {
+        if (finding.code == "empty-file" || finding.code == "wrong-depth") {
             return all;
         }
     }

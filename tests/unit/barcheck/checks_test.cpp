@@ -386,6 +386,44 @@ TEST(CheckedConfiguration, ALevelThatIsMissingIsSaidOnce) {
     EXPECT_EQ(FindingsWithout("cfg/ribbon.xml", {"KEYWORD=\"StatusEx_btns\""}), "cfg/ribbon.xml:8:5 missing-caption\n");
 }
 
+/// What is said of the sample with the levels of a file changed.
+std::string FindingsWith(const std::string& file, const std::vector<std::pair<std::string, std::string>>& changes) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    for (const SampleFile& sample : SampleFiles()) {
+        if (sample.name == file) {
+            std::string text = sample.text;
+            for (const auto& [before, after] : changes) {
+                for (std::size_t at = text.find(before); at != std::string::npos;
+                     at = text.find(before, at + after.size())) {
+                    text.replace(at, before.size(), after);
+                }
+            }
+            installation.Write(file, text);
+        }
+    }
+    return installation.Findings();
+}
+
+TEST(CheckedConfiguration, ALevelThatIsTooManyIsSaidOnce) {
+    EXPECT_EQ(FindingsWith("cfg/ribbon.xml", {{"<ribbon>", "<x><ribbon>"}, {"</ribbon>", "</ribbon></x>"}}),
+              "cfg/ribbon.xml:3:8 wrong-depth\n");
+    EXPECT_EQ(FindingsWith("cfg/toolbar.xml", {{"<toolbars>", "<x><toolbars>"}, {"</toolbars>", "</toolbars></x>"}}),
+              "cfg/toolbar.xml:2:4 wrong-depth\n");
+    EXPECT_EQ(FindingsWith("cfg/toolbar.xml",
+                           {{"<group KEYWORD=\"Main\">", "<group KEYWORD=\"Main\"><x>"}, {"</group>", "</x></group>"}}),
+              "cfg/toolbar.xml:3:25 wrong-depth\n");
+}
+
+TEST(CheckedConfiguration, ALevelThatIsMissingAllOverIsSaidOnce) {
+    // No panels: buttons, groups and their like stand in the categories.
+    EXPECT_EQ(FindingsWith("cfg/ribbon.xml", {{"<panel KEYWORD=\"PanelFile\" NAME=\"\" CMD=\"file\">", ""},
+                                              {"<panel KEYWORD=\"PanelZoom\" NAME=\"\" CMD=\"zoom\">", ""},
+                                              {"<panel KEYWORD=\"PanelTools\" NAME=\"\">", ""},
+                                              {"</panel>", ""}}),
+              "cfg/ribbon.xml:16:49 wrong-depth\n");
+}
+
 TEST(CheckedConfiguration, ALanguageWithoutItsTextsIsSaidOnce) {
     const CheckedInstallation installation;
     WriteSample(installation);
