@@ -7,6 +7,7 @@
 #include <pugixml.hpp>
 
 #include <array>
+#include <cstdint>
 #include <fstream>
 
 namespace {
@@ -41,7 +42,8 @@ bool Parse(const std::filesystem::path& path) {
 /// As much of it as says how large its pictures are.
 bool LookAt(const std::filesystem::path& path) {
     std::array<char, 22> header{};
-    return static_cast<bool>(std::ifstream(path, std::ios::binary).read(header.data(), header.size()));
+    std::ifstream stream(path, std::ios::binary);
+    return static_cast<bool>(stream.read(header.data(), static_cast<std::streamsize>(header.size())));
 }
 
 void CheckFloor(benchmark::State& state) {
