@@ -127,10 +127,11 @@ TEST_F(Extracting, EveryUnitHasAnIdOfItsOwn) {
 
 TEST_F(Extracting, NewUnitsEndTheirLinesAsTheTableDoes) {
     m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"));
-    m_installation.Write("lang/en/a.xlf", "<xliff version=\"2.0\" srcLang=\"en\">\r\n  <file id=\"RibbonBarCfg\">\r\n"
-                                          "  </file>\r\n</xliff>\r\n");
-    EXPECT_EQ(Extract(L"en"), "lang/en/a.xlf: 2 new, 0 kept, 0 unused");
-    const std::string table = Read("lang/en/a.xlf");
+    m_installation.Write("lang/en/commands.xlf",
+                         "<xliff version=\"2.0\" srcLang=\"en\">\r\n  <file id=\"RibbonBarCfg\">\r\n"
+                         "  </file>\r\n</xliff>\r\n");
+    EXPECT_EQ(Extract(L"en"), "lang/en/commands.xlf: 2 new, 0 kept, 0 unused");
+    const std::string table = Read("lang/en/commands.xlf");
     EXPECT_EQ(std::ranges::count(table, '\n'), 6);
     EXPECT_EQ(std::ranges::count(table, '\r'), 6);
 }
