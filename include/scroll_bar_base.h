@@ -61,9 +61,10 @@ public:
     void SetSilverSideColor(COLORREF color);
 
     // Image files of the bar's present direction; below the installation directory unless said otherwise. The thumb's
-    // two images (at rest, and under the pointer), and the arrows. Files are looked at whenever the bar is drawn: one
-    // that has changed is shown as it is now, one that cannot be loaded is left out. On a display of 125, 150 or 200 %
-    // NAME.150.png and so on is taken instead of NAME.png where it lies beside it when the skin is taken.
+    // two images (at rest, and under the pointer), and the arrows. Files are looked at whenever the bar is drawn, but
+    // for a thumb in the hand: one that has changed is shown as it is now, one that cannot be loaded is left out. On a
+    // display of 125, 150 or 200 % NAME.150.png and so on is taken instead of NAME.png where it lies beside it when the
+    // skin is taken.
     CString GetBlackNormalPath() const;
     void SetBlackNormalPath(const CString& path);
     CString GetBlackClickPath() const;

@@ -89,8 +89,8 @@ void CScrollBarBase::DrawTrack(CDC& dc) {
     CRect thumb = m_thumb;
     thumb.OffsetRect(m_isVertical ? CPoint(0, -m_track.top) : CPoint(-m_track.left, 0));
     m_images->DrawThumb(track.Get().GetSafeHdc(), m_hover == 2 ? ScrollImages::PressedThumb : ScrollImages::Thumb,
-                        m_isVertical ? scroll::Direction::Vertical : scroll::Direction::Horizontal,
-                        fx::FromRect(thumb));
+                        m_isVertical ? scroll::Direction::Vertical : scroll::Direction::Horizontal, fx::FromRect(thumb),
+                        m_thumbPressed ? ScrollImages::File::AsBefore : ScrollImages::File::LookedAt);
 }
 
 void CScrollBarBase::DrawArrows(CDC& dc) {

@@ -43,15 +43,23 @@ std::unique_ptr<Gdiplus::Bitmap> FitThumb(Gdiplus::Bitmap& image, scroll::Direct
 
 } // namespace
 
-Gdiplus::Bitmap* ScrollImages::Current(Which which) {
-    if (m_pictures[which].Take(m_paths[which])) {
-        m_fitted[which] = {};
+void ScrollImages::SetFiles(const std::array<std::wstring, Count>& paths) {
+    m_paths = paths;
+    m_isTaken.fill(false);
+}
+
+Gdiplus::Bitmap* ScrollImages::Current(Which which, File file) {
+    if (file == File::LookedAt || !m_isTaken[which]) {
+        m_isTaken[which] = true;
+        if (m_pictures[which].Take(m_paths[which])) {
+            m_fitted[which] = {};
+        }
     }
     return m_pictures[which].Get();
 }
 
 void ScrollImages::DrawCentered(HDC dc, Which which, const Box& box) {
-    Gdiplus::Bitmap* const image = box.IsEmpty() ? nullptr : Current(which);
+    Gdiplus::Bitmap* const image = box.IsEmpty() ? nullptr : Current(which, File::LookedAt);
     if (!image) {
         return;
     }
@@ -60,8 +68,8 @@ void ScrollImages::DrawCentered(HDC dc, Which which, const Box& box) {
     DrawInPixels(graphics, *image, scroll::CenteredIn(box, size), {0, 0, size.width, size.height});
 }
 
-void ScrollImages::DrawThumb(HDC dc, Which which, scroll::Direction direction, const Box& box) {
-    Gdiplus::Bitmap* const image = box.IsEmpty() ? nullptr : Current(which);
+void ScrollImages::DrawThumb(HDC dc, Which which, scroll::Direction direction, const Box& box, File file) {
+    Gdiplus::Bitmap* const image = box.IsEmpty() ? nullptr : Current(which, file);
     if (!image) {
         return;
     }

@@ -221,6 +221,31 @@ TEST_F(ScrollBarDrawing, AReplacedADeletedAndARestoredFileEachShowAtTheVeryNextP
     EXPECT_EQ(arrowAndThumb(), first);
 }
 
+// Drawn for every move of the pointer.
+TEST_F(ScrollBarDrawing, AThumbInTheHandStaysAsItWasUntilItIsReleased) {
+    Open();
+    Move(m_bar.ThumbMiddle());
+    Press(m_bar.ThumbMiddle());
+    const COLORREF before = Shown(m_bar).At(m_bar.ThumbMiddle());
+    WriteSkinPicture(m_folder, "pic/skin/black/verticalClick.png", CSize(18, 61),
+                     [](int, int) { return RGB(6, 5, 4); });
+    m_bar.RedrawWindow();
+    EXPECT_EQ(Shown(m_bar).At(m_bar.ThumbMiddle()), before);
+    Release();
+    m_bar.RedrawWindow();
+    EXPECT_EQ(Shown(m_bar).At(m_bar.ThumbMiddle()), RGB(6, 5, 4));
+}
+
+TEST_F(ScrollBarDrawing, AThumbInTheHandTakesAnotherSkinAtOnce) {
+    Open();
+    Move(m_bar.ThumbMiddle());
+    Press(m_bar.ThumbMiddle());
+    m_bar.SetSkin(1);
+    m_bar.UpdateWindow();
+    EXPECT_EQ(GetGValue(Shown(m_bar).At(m_bar.ThumbMiddle())), 100);
+    Release();
+}
+
 TEST_F(ScrollBarDrawing, AReplacedThumbShowsWhenTheTrackAloneIsDrawn) {
     Open();
     WriteSkinPicture(m_folder, "pic/skin/black/verticalNormal.png", CSize(18, 61),
