@@ -51,6 +51,10 @@ public:
     void Show();
     /// Says what could not be kept or found again, if there is anything to say.
     void TellTroubles();
+    /// Reads all files again, as the command does; icons too.
+    void ShowFilesAnew();
+    /// Why the files are not shown as they are now, in the caption; empty: they are.
+    void ShowProblem(const std::wstring& problem);
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);

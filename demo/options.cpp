@@ -22,6 +22,7 @@ std::optional<DemoOptions> ParseDemoOptions(const std::vector<std::wstring>& arg
                                   .AddText(L"--screenshot", options.screenshot)
                                   .AddText(L"--record", options.record)
                                   .AddText(L"--watch", options.watch)
+                                  .AddFlag(L"--follow", options.followsFiles)
                                   .AddChoice(L"--direction", {L"ltr", L"rtl"}, direction)
                                   .AddChoice(L"--bars", {L"ribbon", L"classic"}, bars)
                                   .AddChoice(L"--memory", {L"kept", L"none"}, memory)

@@ -20,6 +20,7 @@ struct DemoOptions {
     std::wstring mapFile;                 ///< GeoJSON file that is opened at the start; empty: none.
     std::wstring screenshot;              ///< PNG file to write, then leave; empty: stay.
     std::wstring record;                  ///< JSON file that is written anew after each change; empty: none.
+    bool followsFiles = false;            ///< The bars are built anew whenever their files are written.
     std::wstring watch;                   ///< File that lines about the state of the process are added to; empty: none.
 };
 

@@ -1,5 +1,6 @@
 #include "command_line.h"
 #include "configuration_problems.h"
+#include "followed_files.h"
 #include "main_frame.h"
 #include "options.h"
 #include "screenshot.h"
@@ -50,6 +51,11 @@ public:
             frame->FinishMap(); // a record says what is to be seen
         }
         frame->WriteRecord();
+        if (options->followsFiles) {
+            m_followed.emplace(
+                FollowedFiles::Host{[frame] { frame->ShowFilesAnew(); },
+                                    [frame](const std::wstring& problem) { frame->ShowProblem(problem); }});
+        }
         if (options->screenshot.empty()) {
             if (!options->watch.empty()) {
                 m_watchman.emplace(frame->GetSafeHwnd(), options->watch);
@@ -73,6 +79,7 @@ public:
     }
 
     int ExitInstance() override {
+        m_followed.reset();
         m_watchman.reset();
         CWinAppEx::ExitInstance();
         m_gdiPlus.reset();
@@ -88,6 +95,7 @@ private:
 
     std::optional<GdiPlusSession> m_gdiPlus;
     std::optional<Watchman> m_watchman;
+    std::optional<FollowedFiles> m_followed;
     int m_exitCode = 0;
 };
 

@@ -1,0 +1,46 @@
+#include "followed_files.h"
+
+#include "configuration_files.h"
+
+#include "varnhold/file_op.h"
+#include "varnhold/language.h"
+#include "varnhold/strings.h"
+
+#include <afxcontrolbars.h>
+
+#include <cstdio>
+
+namespace {
+
+std::wstring InstallationDirectory() {
+    std::wstring directory;
+    FileOp::GetAppPath(directory);
+    return directory;
+}
+
+void PrintLine(std::FILE* stream, const std::wstring& line) {
+    std::fprintf(stream, "%s\n", wstring2String(line).c_str());
+    std::fflush(stream);
+}
+
+} // namespace
+
+FollowedFiles::FollowedFiles(Host host) : m_host(std::move(host)) {
+    m_watch.Start(InstallationDirectory(), [this](const ConfigurationChange& change) { Take(change); });
+}
+
+void FollowedFiles::Take(const ConfigurationChange& change) const {
+    const std::vector<std::wstring> broken = FindBrokenFiles(CMultiLanguageMgr::GetLanguage());
+    for (const std::wstring& line : broken) {
+        PrintLine(stderr, line);
+    }
+    m_host.showProblem(broken.empty() ? std::wstring() : broken.front());
+    if (broken.empty()) {
+        m_host.rebuild();
+    }
+    std::wstring line = broken.empty() ? L"demo: built anew:" : L"demo: as before:";
+    for (const std::wstring& file : change.files) {
+        line += L" " + file;
+    }
+    PrintLine(stdout, line);
+}
