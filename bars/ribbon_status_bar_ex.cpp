@@ -174,8 +174,8 @@ void CMFCRibbonStatusBarEx::SetExEleApp(const CString& app) {
             element->SetVisible(isShown ? TRUE : FALSE);
         }
     }
+    RecalcLayout();
     if (GetSafeHwnd() != nullptr) {
-        RecalcLayout();
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     }
 }
@@ -189,13 +189,18 @@ void CMFCRibbonStatusBarEx::RemoveAllEx() {
     ElementArray gone;
     gone.Append(m_arExtendedElements);
     m_arExtendedElements.RemoveAll();
-    for (auto& [name, elements] : m_mapAppElements) {
-        elements.clear();
-    }
     for (INT_PTR index = 0; index < gone.GetSize(); ++index) {
         delete gone[index];
     }
     MarkLayoutDirty();
+}
+
+// The bar's own ways to remove elements do not know of applications.
+void CMFCRibbonStatusBarEx::OnElementDestroyed(CMFCRibbonBaseElement* pElement) {
+    for (auto& [name, elements] : m_mapAppElements) {
+        std::erase(elements, pElement);
+    }
+    CMFCRibbonStatusBar::OnElementDestroyed(pElement);
 }
 
 // ---- layout

@@ -50,6 +50,8 @@ public:
                                    int bCheckPanelCaption = FALSE) override;
     /// Does nothing: what the bar shows is the host's.
     void OnPaneContextMenu(CWnd* pWnd, CPoint point) override;
+    /// Elements that the host removes leave their application.
+    void OnElementDestroyed(CMFCRibbonBaseElement* pElement) override;
 
 protected:
     /// Deletes all extended elements. Their applications stay known without any.

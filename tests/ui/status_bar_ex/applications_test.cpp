@@ -89,6 +89,25 @@ TEST_F(SetExEleApp, AnUnknownApplicationAtFirstBuildsTheElementsAndLeavesThemAsT
     EXPECT_EQ(Shown(), "11111");
 }
 
+TEST_F(SetExEleApp, BeforeAnythingWasLoadedItBuildsNothingAndTheNextOneDoes) {
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(bar.GetExCount(), 0);
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(Shown(), "11100");
+}
+
+TEST_F(SetExEleApp, AnApplicationWithoutANameIsTheOneThatIsShownAtFirst) {
+    TwoApplications();
+    CAddRibbonBar::m_smStatusExBtns[L"one"].first = L"";
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(Shown(), "11111") << "no name was shown, and none is asked for";
+    bar.SetExEleApp(L"two");
+    EXPECT_EQ(Shown(), "00011");
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(Shown(), "11100");
+}
+
 TEST_F(SetExEleApp, TheKeyIsComparedWithItsLetterCase) {
     TwoApplications();
     bar.SetExEleApp(L"one");
@@ -102,6 +121,7 @@ TEST_F(SetExEleApp, WorksBeforeTheBarHasAWindow) {
     unborn.SetExEleApp(L"one");
     EXPECT_EQ(unborn.GetExCount(), 5);
     EXPECT_FALSE(unborn.GetExElement(3)->IsVisible());
+    EXPECT_EQ(unborn.layouts, 1);
 }
 
 TEST_F(SetExEleApp, OneWithoutElementsHidesThoseOfTheOthers) {
@@ -112,6 +132,62 @@ TEST_F(SetExEleApp, OneWithoutElementsHidesThoseOfTheOthers) {
     EXPECT_EQ(Shown(), "00000");
     bar.SetExEleApp(L"one");
     EXPECT_EQ(Shown(), "11100");
+}
+
+TEST_F(SetExEleApp, AnElementThatTheHostRemovedIsNoLongerItsApplications) {
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    ASSERT_TRUE(bar.RemoveElement(501));
+    EXPECT_EQ(Shown(), "1100");
+    bar.SetExEleApp(L"two");
+    EXPECT_EQ(Shown(), "0011");
+    ASSERT_TRUE(bar.RemoveElement(502)); // the slider that the other one was copied from
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(Shown(), "100");
+}
+
+TEST_F(SetExEleApp, WhatTheHostPutsInThePlaceOfRemovedElementsIsItsOwn) {
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    bar.RemoveAll();
+    // As many as there were, so that the memory is used again.
+    for (int index = 0; index < 40; ++index) {
+        bar.AddExtendedElement(new CMFCRibbonLabelEx(L"host's"), L"");
+    }
+    bar.SetExEleApp(L"two");
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(Shown(), std::string(40, '1'));
+}
+
+TEST_F(SetExEleApp, AnElementThatTheHostRemovesInTheMiddleOfASwitchHarmsNobody) {
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    bar.onLayout = [this] { bar.RemoveElement(503); };
+    bar.SetExEleApp(L"two");
+    EXPECT_EQ(Shown(), "0001");
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(Shown(), "1110");
+}
+
+TEST_F(SetExEleApp, AKeyInOtherLettersIsAnotherEntry) {
+    Register(L"Place", 501);
+    Register(L"Light", 503);
+    Application(L"app", {Row(L"Place", L"label")}, L"Name");
+    Application(L"APP", {Row(L"Light", L"button")}, L"Other");
+    bar.SetExEleApp(L"app");
+    EXPECT_EQ(Shown(), "01") << "capital letters come first in the order of the keys";
+    bar.SetExEleApp(L"APP");
+    EXPECT_EQ(Shown(), "10");
+}
+
+TEST_F(SetExEleApp, AnEntryThatCameAfterTheElementsWereBuiltHidesAll) {
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    Application(L"late", {Row(L"Place", L"label")});
+    bar.SetExEleApp(L"late");
+    EXPECT_EQ(Shown(), "00000") << "they are built once for a bar";
+    bar.SetExEleApp(L"two");
+    EXPECT_EQ(Shown(), "00011");
 }
 
 } // namespace

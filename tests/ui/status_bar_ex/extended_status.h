@@ -16,8 +16,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// A bar that shows what a derived one works on.
@@ -30,9 +32,13 @@ public:
 
     int layouts = 0;
     int paints = 0;
+    std::function<void()> onLayout; ///< what the host does in the next one
 
     void RecalcLayout() override {
         ++layouts;
+        if (const auto once = std::exchange(onLayout, nullptr)) {
+            once();
+        }
         CMFCRibbonStatusBarEx::RecalcLayout();
     }
     void DoPaint(CDC* dc) override {

@@ -160,6 +160,63 @@ TEST_F(CreateAllExBtns, ACopyIsWhatTheFirstRecordSaysWhateverItsOwnDoes) {
     EXPECT_STREQ(bar.GetExElement(1)->GetText(), L"First");
 }
 
+TEST_F(CreateAllExBtns, ACopiedLabelIsALabelWithTheSameTextAndTooltip) {
+    Register(L"Place", 501);
+    Application(L"one", {Row(L"Place", L"label", L"12 N")});
+    Application(L"two", {Row(L"Place", L"label", L"not this")});
+    bar.CreateAllExBtns();
+    const auto* const copy = ExElement<CMFCRibbonLabelEx>(1);
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->GetOriginal(), bar.GetExElement(0));
+    EXPECT_EQ(copy->GetID(), 501u);
+    EXPECT_STREQ(copy->GetText(), L"12 N");
+    EXPECT_EQ(copy->GetToolTipText(), L"tip of Place");
+}
+
+TEST_F(CreateAllExBtns, KeywordsOfCommandsAreComparedWithTheirLetterCase) {
+    Register(L"Zoom", 502);
+    Register(L"ZOOM", 504);
+    Application(L"one", {Row(L"Zoom", L"slider"), Row(L"ZOOM", L"slider"), Row(L"zoom", L"slider")});
+    bar.CreateAllExBtns();
+    ASSERT_EQ(bar.GetExCount(), 2) << "the third one is not registered";
+    EXPECT_EQ(bar.GetExElement(1)->GetID(), 504u);
+    EXPECT_EQ(bar.GetExElement(1)->GetOriginal(), nullptr) << "another command, no copy";
+}
+
+TEST_F(CreateAllExBtns, ASeparatorIsOneThoughACommandHasItsKeyword) {
+    Register(L"Separator", 505);
+    Application(L"one", {Row(L"Separator", L"label"), Row(L"Separator", L"label")});
+    bar.CreateAllExBtns();
+    ASSERT_EQ(bar.GetExCount(), 2);
+    for (int index = 0; index < 2; ++index) {
+        EXPECT_NE(ExElement<CMFCRibbonSeparator>(index), nullptr);
+        EXPECT_EQ(bar.GetExElement(index)->GetOriginal(), nullptr);
+    }
+}
+
+TEST_F(CreateAllExBtns, ATypeSeparatorIsAButton) {
+    Register(L"Line", 505);
+    Application(L"one", {Row(L"Line", L"Separator")});
+    bar.CreateAllExBtns();
+    ASSERT_EQ(bar.GetExCount(), 1);
+    EXPECT_NE(ExElement<CMFCRibbonSmallButton>(0), nullptr);
+}
+
+TEST_F(CreateAllExBtns, TheElementsStandInNoContextMenuOfTheBars) {
+    TwoApplications();
+    bar.CreateAllExBtns();
+    EXPECT_FALSE(bar.OnShowRibbonContextMenu(&bar, 20, 20, nullptr)) << "nothing has a label there";
+}
+
+TEST_F(CreateAllExBtns, CalledAgainItBuildsAllOnceMoreForTheSameApplications) {
+    TwoApplications();
+    bar.CreateAllExBtns();
+    bar.CreateAllExBtns();
+    EXPECT_EQ(bar.GetExCount(), 10);
+    bar.SetExEleApp(L"two");
+    EXPECT_EQ(Shown(), "0001100011");
+}
+
 TEST_F(CreateAllExBtns, AKeywordTwiceInOneApplicationIsCopiedToo) {
     Register(L"Zoom", 502);
     Application(L"one", {Row(L"Zoom", L"slider"), Row(L"Zoom", L"slider")});

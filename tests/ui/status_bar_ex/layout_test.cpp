@@ -201,6 +201,125 @@ TEST_F(StatusBarExLayout, ARightClickOpensNoMenu) {
     bar.EnsureLayout();
     bar.OnPaneContextMenu(&frame, CPoint(10, 10));
     EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    // By the mouse, over the element, and by the key.
+    CPoint middle = button->GetRect().CenterPoint();
+    bar.ClientToScreen(&middle);
+    for (const CPoint at : {middle, CPoint(-1, -1)}) {
+        bar.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(bar.GetSafeHwnd()), MAKELPARAM(at.x, at.y));
+        PumpPending();
+        EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr) << at.x;
+    }
+}
+
+TEST_F(StatusBarExLayout, AFixedWidthTakesEffectAtTheNextLayoutNotBefore) {
+    CMFCRibbonButton& button = AddMain(L"a");
+    bar.EnsureLayout();
+    const CRect before = button.GetRect();
+    const int layouts = bar.layouts;
+    bar.SetEleWidth(0, before.Width() + 30);
+    EXPECT_EQ(button.GetRect(), before);
+    EXPECT_EQ(bar.layouts, layouts);
+    bar.RecalcLayout();
+    EXPECT_EQ(button.GetRect().Width(), before.Width() + 30);
+}
+
+TEST_F(StatusBarExLayout, AWidthThatIsStoredAgainTakesThePlaceOfTheFirst) {
+    const CMFCRibbonButton& button = AddMain(L"a");
+    for (const int width : {70, 90, 33}) {
+        bar.SetEleWidth(0, width);
+        bar.RecalcLayout();
+        EXPECT_EQ(button.GetRect().Width(), width);
+    }
+}
+
+TEST_F(StatusBarExLayout, AFixedWidthBelongsToTheIndexNotToTheElement) {
+    AddMain(L"a");
+    CMFCRibbonButton& second = AddMain(L"b");
+    second.SetID(901);
+    AddMain(L"c");
+    AddMain(L"d").SetID(902);
+    bar.SetEleWidth(2, 90);
+    ASSERT_TRUE(bar.RemoveElement(901));
+    bar.RecalcLayout();
+    EXPECT_EQ(bar.GetElement(2)->GetID(), 902u);
+    EXPECT_EQ(bar.GetElement(2)->GetRect().Width(), 90);
+    EXPECT_NE(bar.GetElement(1)->GetRect().Width(), 90);
+}
+
+TEST_F(StatusBarExLayout, AFixedWidthOfAnExtendedElementsIndexIsTheMainOnesAlone) {
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    const int own = bar.GetExElement(0)->GetRect().Width();
+    bar.SetEleWidth(0, own + 50);
+    bar.RecalcLayout();
+    EXPECT_EQ(bar.GetExElement(0)->GetRect().Width(), own);
+}
+
+TEST_F(StatusBarExLayout, OnlyAnExtendedLabelKnowsOfTheRight) {
+    AddMain(L"a");
+    AddMain(L"b");
+    auto* const plain = new CMFCRibbonLabel(L"plain");
+    auto* const extended = new CMFCRibbonLabelEx(L"extended");
+    extended->SetRight(true);
+    bar.AddElement(plain, L"");
+    bar.AddElement(extended, L"");
+    bar.EnsureLayout();
+    EXPECT_LT(plain->GetRect().right, extended->GetRect().left);
+    extended->SetRight(false);
+    bar.RecalcLayout();
+    EXPECT_EQ(extended->GetRect().left, plain->GetRect().right);
+}
+
+TEST_F(StatusBarExLayout, AnExtendedSeparatorFillsTheRowAndLeavesFivePixelsAtItsRight) {
+    TwoApplications();
+    bar.SetExEleApp(L"one");
+    const CRect label = bar.GetExElement(0)->GetRect(), line = bar.GetExElement(1)->GetRect(),
+                slider = bar.GetExElement(2)->GetRect();
+    EXPECT_EQ(slider.right, Client().right - bar.GetSizeGripWidth());
+    EXPECT_EQ(line.right, slider.left - 5);
+    EXPECT_EQ(line.top, 2);
+    EXPECT_EQ(line.bottom, Client().bottom - 2);
+    EXPECT_EQ(label.right, line.left);
+}
+
+TEST_F(StatusBarExLayout, ItsOwnLengthsDoNotGrowWithTheScale) {
+    afxGlobalData.SetRibbonImageScale(2);
+    TwoApplications();
+    AddMain(L"first");
+    const CMFCRibbonButton& second = AddMain(L"second");
+    const CMFCRibbonButton& third = AddMain(L"third");
+    bar.SetEleWidth(2, 80);
+    bar.SetExEleApp(L"one");
+    EXPECT_EQ(second.GetRect().Height(), 23);
+    EXPECT_EQ(third.GetRect().Width(), 80);
+    EXPECT_EQ(bar.GetExElement(1)->GetRect().right, bar.GetExElement(2)->GetRect().left - 5);
+    bar.SetInformation(L"text");
+    EXPECT_EQ(bar.m_rectInformation, CRect(0, 2, bar.GetExElement(0)->GetRect().left - 10, Client().bottom - 2));
+    bar.SetInformation(nullptr);
+    afxGlobalData.SetRibbonImageScale(0);
+}
+
+TEST_F(StatusBarExLayout, InInformationModeElementsAreNotToldAndTheExtendedOnesAre) {
+    auto* const main = new ToldButton(L"main");
+    auto* const extended = new ToldButton(L"extended");
+    bar.AddElement(main, L"");
+    bar.AddExtendedElement(extended, L"");
+    bar.RecalcLayout();
+    const int toldMain = main->told, toldExtended = extended->told;
+    bar.SetInformation(L"text");
+    EXPECT_EQ(main->told, toldMain);
+    EXPECT_GT(extended->told, toldExtended);
+}
+
+TEST_F(StatusBarExLayout, ARightLabelOfTheBarsExtendedSideIsPackedLikeAnyOther) {
+    Register(L"Place", 501);
+    Register(L"Light", 503);
+    Application(L"one", {Row(L"Place", L"label"), Row(L"Light", L"button")});
+    bar.SetExEleApp(L"one");
+    const CRect before = bar.GetExElement(0)->GetRect();
+    ExElement<CMFCRibbonLabelEx>(0)->SetRight(true);
+    bar.RecalcLayout();
+    EXPECT_EQ(bar.GetExElement(0)->GetRect(), before);
 }
 
 TEST_F(StatusBarExLayout, AnIndexOutsideOfTheElementsRaisesInTheirArray) {
