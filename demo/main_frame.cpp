@@ -181,6 +181,9 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
     BuildRibbon();
     ApplyTexts();
     RestoreState();
+    RecalcLayout();
+    m_pane.Start();
+    ShowState(); // the map was made to fit
     m_pane.SetChangeListener([this] { TakeChange(); });
     // The map may be moved and drawn while the bars are made anew.
     m_map.SetPointerListener([this](GeoPoint place) {

@@ -47,7 +47,7 @@ BOOL CMapPane::Create(CWnd* parent, UINT id) {
         m_across.ShowState();
         CRect client;
         GetClientRect(client);
-        if (BarsIn(client.Size()) != m_bars) {
+        if (m_isStarted && BarsIn(client.Size()) != m_bars) {
             PlaceParts(client.Size());
         }
     });
@@ -92,9 +92,16 @@ void CMapPane::TakeChange() {
     }
 }
 
+void CMapPane::Start() {
+    m_isStarted = true;
+    CRect client;
+    GetClientRect(client);
+    OnSize(SIZE_RESTORED, client.Width(), client.Height());
+}
+
 void CMapPane::OnSize(UINT type, int width, int height) {
     CWnd::OnSize(type, width, height);
-    if (width <= 0 || height <= 0) {
+    if (!m_isStarted || width <= 0 || height <= 0) {
         return;
     }
     PlaceParts(CSize(width, height));

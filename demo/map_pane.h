@@ -12,6 +12,9 @@ public:
 
     /// Makes the map's window, too.
     BOOL Create(CWnd* parent, UINT id);
+    /// Gives list, map and scroll bars their places, from now on with every size of the pane. For the first time it is
+    /// called when all bars of the frame are there: the whole map is made to fit into the first place that it gets.
+    void Start();
 
     void SetTexts(const LayerRowTexts& texts) { m_list.SetTexts(texts); }
     /// 0 black, 1 silver.
@@ -46,6 +49,7 @@ private:
     CMapScrollBar m_down;
     CMapScrollBar m_across;
     MapBars m_bars;
+    bool m_isStarted = false;
     ViewerColors m_colors = {};
     COLORREF m_corner = 0;
     std::function<void()> m_listener;

@@ -43,6 +43,16 @@ class BarsAndList(unittest.TestCase):
             viewer.wait_for(lambda record: record["paneOnScreen"]["map"] == whole["paneOnScreen"]["map"])
             self.assertEqual(viewer.leave(), 0)
 
+    def test_the_first_start_shows_the_whole_map_without_bars(self):
+        for size in ("1280x720", "1000x560"):
+            with self.subTest(size), Viewer(BIN_DIR, "--lang", "en", "--size", size) as viewer:
+                left, top, right, bottom = self.place(viewer, "map")
+                self.assertEqual(bottom, self.place(viewer, "list")[3])
+                self.assertEqual(right, viewer.record["statusOnScreen"][2])
+                self.assertEqual(bottom, viewer.record["statusOnScreen"][1])
+                self.assertAlmostEqual(viewer.record["map"]["pixelsPerDegree"], min((right - left) / 360, (bottom - top) / 180))
+                self.assertEqual(viewer.leave(), 0)
+
     def test_bars_scroll_the_map_and_the_list_its_rows(self):
         with Viewer(BIN_DIR, "--lang", "en") as viewer:
             with self.subTest("a click in the list ticks a layer"):

@@ -34,6 +34,21 @@ TEST(MapScroll, AMapThatIsSeenWholeHasNothingToScroll) {
     EXPECT_EQ(state.View().center.longitude, 0);
 }
 
+TEST(MapScroll, AMapThatFillsItsWindowToTheLastDigitHasNothingToScrollAndNoBars) {
+    for (int height = 180; height < 1500; ++height) {
+        for (const int width : {2 * height, 2 * height + 31, 2 * height - 1}) {
+            MapState state;
+            state.SetWindowSize(width, height);
+            if (state.View().pixelsPerDegree <= MapState::kMinPixelsPerDegree) {
+                continue; // it does not become any smaller
+            }
+            ASSERT_EQ(ScrollOf(state, MapAxis::Across).limit, 0) << width << " x " << height;
+            ASSERT_EQ(ScrollOf(state, MapAxis::Down).limit, 0) << width << " x " << height;
+            ASSERT_EQ(BarsFor(state.View(), width, height, 20), MapBars()) << width << " x " << height;
+        }
+    }
+}
+
 TEST(MapScroll, AStepToTheEastAndToTheSouthMovesTheViewThere) {
     MapState state = State();
     const MapScroll before = ScrollOf(state, MapAxis::Across);
