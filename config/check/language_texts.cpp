@@ -56,23 +56,24 @@ public:
         const FileDiagnostics diagnostics(m_file, m_sink);
         const std::wstring key = string2wstring(unit.key);
         const TextPosition position = place.GetPosition();
-        const auto [earlier, isNew] = m_seen.try_emplace(string2wstring(unit.section) + L'\n' + key,
-                                                         RelatedPlace{m_file, position, L"the earlier one"});
+        auto& section = unit.section == kRibbonSection ? m_texts.commands : m_otherTexts[std::string(unit.section)];
+        const auto [placed, isNew] = section.try_emplace(key);
         if (!isNew) {
             diagnostics.Report("duplicate-text", position,
                                L"there is another unit " + Quoted(key) + L" in this section; the later one counts",
-                               L"remove one of the two", {earlier->second});
+                               L"remove one of the two",
+                               {{placed->second.file, placed->second.position, L"the earlier one"}});
         }
+        placed->second = {unit.text, m_file, position};
         if (m_isForeign && !unit.isTranslated) {
             m_untranslated.emplace_back(key, position);
         } else {
             ++m_translated;
         }
         if (unit.section != kRibbonSection) {
-            m_texts.otherSections.try_emplace(string2wstring(unit.section), PlacedText{unit.text, m_file, position});
+            m_texts.otherSections.try_emplace(string2wstring(unit.section), placed->second);
             return;
         }
-        m_texts.commands[key] = {unit.text, m_file, position};
         if (unit.text.empty() && !key.ends_with(kToolTipSuffix)) {
             diagnostics.Report("bad-table", position, L"the unit " + Quoted(key) + L" has no text",
                                L"write it into source or target");
@@ -120,7 +121,7 @@ private:
     /// Of the file that is read: keys and places.
     std::vector<std::pair<std::wstring, TextPosition>> m_untranslated;
     std::size_t m_translated = 0;
-    std::map<std::wstring, RelatedPlace> m_seen;
+    std::map<std::string, std::map<std::wstring, PlacedText>> m_otherTexts;
 };
 
 bool EndsWith(std::wstring_view name, std::wstring_view end) {

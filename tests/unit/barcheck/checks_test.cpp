@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-#include <chrono>
+#include <ctime>
 
 namespace {
 
@@ -334,17 +334,18 @@ TEST(CheckedConfiguration, AnIconThatManyCommandsShareSaysNothingOfAKeywordLikeT
     }
 }
 
-/// Checks a generated installation, which is clean, and says how long that took.
+/// Checks a generated installation, which is clean, and says how long that took: of the processor's time, as the
+/// machine may have much else to do.
 void CheckInTime(const ScenarioDirectory& scenario) {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock();
     const std::vector<Diagnostic> findings = CheckConfiguration({(scenario.Path() / "").wstring(), {}, {}});
-    const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+    const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     ASSERT_TRUE(findings.empty()) << CheckedInstallation::Describe(findings.front());
-    testing::Test::RecordProperty("milliseconds", static_cast<int>(time.count() * 1000));
+    testing::Test::RecordProperty("milliseconds", static_cast<int>(seconds * 1000));
 #if defined(NDEBUG) && !defined(_WIN32) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-    EXPECT_LT(time.count(), 1.0);
+    EXPECT_LT(seconds, 1.0);
 #else
-    EXPECT_LT(time.count(), 60.0); // a slower program, or slower files
+    EXPECT_LT(seconds, 60.0); // a slower program, or slower files
 #endif
 }
 
