@@ -40,6 +40,10 @@ TEST_F(ToolBarBuilder, BarsAreDockedShownAndHiddenByGroup) {
     CMFCToolBar& first = *creater.GetToolBar(L"A", L"1");
     CMFCToolBar& second = *creater.GetToolBar(L"B", L"2");
     EXPECT_EQ(first.GetEnabledAlignment(), static_cast<DWORD>(CBRS_ALIGN_ANY));
+    for (const CMFCToolBar* const bar : {&first, &second}) {
+        EXPECT_TRUE(bar->IsDocked());
+        EXPECT_EQ(bar->GetCurrentAlignment(), static_cast<DWORD>(CBRS_ALIGN_TOP));
+    }
     const auto isShown = [](const CMFCToolBar& bar) { return (bar.GetStyle() & WS_VISIBLE) != 0; };
     creater.ShowBars(L"A", FALSE, &frame);
     PumpPending();
@@ -77,6 +81,14 @@ TEST_F(ToolBarBuilder, ANullFrameIsTheMainWindowWhenThatIsOne) {
         creater.ShowBars(0, nullptr);
         creater.DockPane(nullptr);
         creater.EnableDocking(CBRS_ALIGN_ANY, nullptr);
+        EXPECT_TRUE(isShown());
+        EXPECT_FALSE(First().IsDocked());
+        EXPECT_EQ(First().GetEnabledAlignment(), 0u);
+    }
+    {
+        const fx::ScopedChange main(AfxGetThread()->m_pMainWnd, static_cast<CWnd*>(nullptr));
+        creater.ShowBars(0, nullptr);
+        creater.ShowBars(L"A", 0, nullptr);
         EXPECT_TRUE(isShown());
     }
     const fx::ScopedChange main(AfxGetThread()->m_pMainWnd, static_cast<CWnd*>(&frame));
