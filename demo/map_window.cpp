@@ -2,6 +2,8 @@
 
 #include "map_stand_in.h"
 
+#include <fx/window_guard.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -71,6 +73,17 @@ void DrawStandIn(CDC& dc, const MapStandIn& plan, HBITMAP picture) {
                  from.top, from.right - from.left, from.bottom - from.top, SRCCOPY);
 }
 
+/// False when there is no room for the copy.
+bool CopyForScreen(CWnd& window, HBITMAP drawn, CSize size, CBitmap& copy) {
+    CClientDC screen(&window);
+    if (!copy.CreateCompatibleBitmap(&screen, size.cx, size.cy)) {
+        return false;
+    }
+    const BitmapDc source(screen.GetSafeHdc(), drawn);
+    const BitmapDc target(screen.GetSafeHdc(), static_cast<HBITMAP>(copy.GetSafeHandle()));
+    return ::BitBlt(target.Get(), 0, 0, size.cx, size.cy, source.Get(), 0, 0, SRCCOPY) != FALSE;
+}
+
 } // namespace
 
 CMapWindow::CMapWindow(MapState& state, const MapData& data) : m_state(state), m_data(data) {}
@@ -133,10 +146,14 @@ void CMapWindow::TellWork(bool isAtWork) {
 LRESULT CMapWindow::OnPictureFinished(WPARAM, LPARAM) {
     TakePicture();
     Invalidate(FALSE);
+    const fx::WindowGuard guard(this);
     for (const auto& drawn : m_drawer->TakeKept()) {
-        // A taker may open a window and so come back here.
+        // A taker may open a window and so come back here, or end this one.
         if (const auto taker = m_takers.extract(drawn->order)) {
             HandOver(drawn->bitmap, drawn->state, taker.mapped());
+        }
+        if (guard.IsGone()) {
+            break;
         }
     }
     return 0;
@@ -179,19 +196,11 @@ void CMapWindow::RequestPicture(PictureTaker taker) {
     m_drawer->OrderKept(m_state, m_style, m_keptOrder);
 }
 
+// A taker may run for long, or end the window: nothing of the window is held while it does.
 void CMapWindow::HandOver(HBITMAP drawn, const MapState& state, const PictureTaker& taker) {
-    CClientDC screen(this);
     CBitmap picture;
-    const int width = state.WindowWidth();
-    const int height = state.WindowHeight();
-    bool isMade =
-        drawn != nullptr && width > 0 && height > 0 && picture.CreateCompatibleBitmap(&screen, width, height) != FALSE;
-    if (isMade) {
-        const BitmapDc source(screen.GetSafeHdc(), drawn);
-        const BitmapDc target(screen.GetSafeHdc(), static_cast<HBITMAP>(picture.GetSafeHandle()));
-        isMade = ::BitBlt(target.Get(), 0, 0, width, height, source.Get(), 0, 0, SRCCOPY) != FALSE;
-    }
-    taker(isMade ? &picture : nullptr);
+    const CSize size(state.WindowWidth(), state.WindowHeight());
+    taker(drawn != nullptr && CopyForScreen(*this, drawn, size, picture) ? &picture : nullptr);
 }
 
 BOOL CMapWindow::OnEraseBkgnd(CDC*) { return TRUE; }
