@@ -131,6 +131,37 @@ TEST_F(KeptFile, ADamagedFileGivesTheLastGoodOneAndIsKept) {
     EXPECT_EQ(Read(Path(L".damaged")), "<settings VERSION='1'><rib");
 }
 
+TEST_F(KeptFile, AFileThatLostItsBytesGivesTheLastGoodOne) {
+    EXPECT_TRUE(m_file.Save(Minimized(true)));
+    EXPECT_TRUE(m_file.Save(Minimized(false)));
+    const std::string whole = Read(Path());
+    // As a machine leaves it that lost its power, a disk that was full, and another program's hand.
+    const std::string damaged[] = {
+        "",       std::string(whole.size(), '\0'),    whole.substr(0, whole.size() - 3), whole + whole,
+        "PK\3\4", whole + std::string(17U << 20, ' ')};
+    for (const std::string& bytes : damaged) {
+        Write(Path(), bytes);
+        m_settings = Minimized(false);
+        EXPECT_EQ(m_file.Load(m_settings), Source::LastGood) << bytes.size();
+        EXPECT_EQ(m_settings.isMinimized, true);
+        EXPECT_EQ(Read(Path(L".damaged")), bytes);
+    }
+}
+
+TEST_F(KeptFile, EveryBeginningOfAFileIsDamageOrTheWholeOfIt) {
+    KeptSettings before = Everything();
+    EXPECT_TRUE(m_file.Save(before));
+    before.isMinimized = false;
+    EXPECT_TRUE(m_file.Save(before));
+    const std::string whole = Read(Path());
+    for (std::size_t length = 0; length < whole.size(); length += 5) {
+        Write(Path(), whole.substr(0, length));
+        const Source source = m_file.Load(m_settings);
+        ASSERT_EQ(m_settings.isMinimized, source == Source::LastGood) << length;
+        ASSERT_TRUE(source == Source::LastGood || whole.find_first_not_of('\n', length) == std::string::npos) << length;
+    }
+}
+
 TEST_F(KeptFile, ADamagedFileNeverBecomesTheLastGoodOne) {
     EXPECT_TRUE(m_file.Save(Minimized(true)));
     EXPECT_TRUE(m_file.Save(Minimized(true)));
