@@ -1,6 +1,9 @@
 #!/usr/bin/python3
 """Every tracked text file is UTF-8 without a byte order mark, has LF line ends and ends with one. In C++ the statements
-below if, else, for, while and do stand in braces: the formatter puts each such word at the beginning of its line."""
+below if, else, for, while and do stand in braces: the formatter puts each such word at the beginning of its line. In
+Markdown a block of code below the comment "from FILE" stands in that file, line by line, and each source that is named in
+backquotes by its path is there."""
+import os
 import re
 import subprocess
 import sys
@@ -27,6 +30,26 @@ def problems(path):
             yield f"white space at the end of line {number}"
     if path.endswith((".h", ".cpp")):
         yield from unbraced(data.decode().split("\n"))
+    if path.endswith(".md"):
+        yield from misquoted(data.decode())
+
+
+QUOTE = re.compile(r"<!-- from (\S+) -->\n```\w*\n(.*?)```", re.DOTALL)
+SOURCE = re.compile(r"`((?:[a-z_]+/)+\w+\.(?:h|cpp|py|cmake|json|tsv))`")
+
+
+def misquoted(text):
+    for source in sorted(set(SOURCE.findall(text))):
+        # Guides shorten the paths of the framework, whose rooms they have named before.
+        if not any(os.path.exists(os.path.join(root, source)) for root in (".", "platform/framework", "platform/framework/include")):
+            yield f"there is no {source}"
+    for source, block in QUOTE.findall(text):
+        with open(source, encoding="utf-8") as file:
+            lines = iter([line.strip() for line in file])
+        for line in filter(None, map(str.strip, block.split("\n"))):
+            if line not in lines:  # of an iterator: the next lines are looked for behind it
+                yield f"not in {source}, or not there: {line}"
+                break
 
 
 HEAD = re.compile(r"\s*(?:\} )?(?:else if|if|for|while) (?:constexpr )?(?=\()|\s*(?:\} )?(?:else|do)\b(?! if)")
