@@ -11,6 +11,7 @@
 #include <afxcommandmanager.h>
 #include <varnhold/file_op.h>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -247,6 +248,17 @@ std::list<std::pair<std::wstring, CMFCToolBar*>> CDynToolBarCreater::GetGroupedT
         }
     }
     return all;
+}
+
+std::wstring CDynToolBarCreater::GetName(const CMFCToolBar* bar) const {
+    for (const auto& [group, bars] : m_groups) {
+        const auto found =
+            std::find_if(bars.begin(), bars.end(), [bar](const auto& known) { return known.first == bar; });
+        if (found != bars.end()) {
+            return found->second;
+        }
+    }
+    return {};
 }
 
 bool CDynToolBarCreater::AddCustomBar(const std::wstring& group, CMFCToolBar* bar, const std::wstring& name) {

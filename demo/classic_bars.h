@@ -50,6 +50,7 @@ public:
 
     CMFCMenuBar& MenuBar() { return m_menuBar; }
     CDynMenuCreater& Menu() { return m_menu; }
+    const CDynToolBarCreater& Toolbars() const { return m_toolbars; }
     /// Every toolbar with the name of its group.
     std::vector<std::pair<std::wstring, const CMFCToolBar*>> GroupedToolbars() const;
     /// Where the buttons of the bar are on the screen; empty while it is hidden.

@@ -127,8 +127,11 @@ void CMainFrame::RestoreState() {
         bars->ApplyTo(m_ribbon);
         auto* const application = static_cast<CWinAppEx*>(AfxGetApp());
         application->SetRegistryBase(DockingSection(m_options.settings).c_str());
-        if (application->IsStateExists(kDockingPlaces) && !application->LoadState(this)) {
-            m_memory.AddTrouble("ToolbarPlacesLost", L"");
+        if (application->IsStateExists(kDockingPlaces)) {
+            const CNamedToolBars named(m_bars.Toolbars());
+            if (!application->LoadState(this)) {
+                m_memory.AddTrouble("ToolbarPlacesLost", L"");
+            }
         }
         m_bars.HideToolbars(kept.hiddenToolbars);
     }
@@ -158,6 +161,7 @@ void CMainFrame::KeepState() {
     m_modes.KeepQuickAccess();
     bars->TakeFrom(m_ribbon);
     m_memory.Save(m_state);
+    const CNamedToolBars named(m_bars.Toolbars());
     static_cast<CWinAppEx*>(AfxGetApp())->SaveState(this, DockingSection(m_options.settings).c_str());
 }
 

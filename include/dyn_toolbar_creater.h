@@ -43,6 +43,9 @@ public:
     std::list<CMFCToolBar*> GetAllToolBar() const;
     /// The same, each with the name of its group.
     std::list<std::pair<std::wstring, CMFCToolBar*>> GetGroupedToolBars() const;
+    /// What a bar is called in its file, or was called for AddCustomBar, whatever its window's text has become; empty
+    /// for a bar that is not here.
+    std::wstring GetName(const CMFCToolBar* bar) const;
     /// Puts a bar of the host's, which stays its own and must outlive the creater, into a group that exists; without a
     /// name it is known by its window text. False for a null bar and an unknown group. A bar is configured from then
     /// on, in either case: its buttons are not kept with the user's settings.

@@ -65,7 +65,8 @@ public:
     /// does.
     void TakeFrom(CMFCRibbonBarEx& ribbon);
 
-    /// Toolbars are known by their group and their title; the layout follows when the application is idle.
+    /// Toolbars are known by their group and their name (CDynToolBarCreater::GetName); the layout follows when the
+    /// application is idle. Where they are docked is the application's to keep, see CNamedToolBars.
     void ApplyTo(const CDynToolBarCreater& toolbars, CMDIFrameWndEx& frame);
     void TakeFrom(const CDynToolBarCreater& toolbars);
 
@@ -86,3 +87,32 @@ private:
     class Keeper;
     std::unique_ptr<Keeper> m_keeper;
 };
+
+#ifdef _WIN32
+/// Lets the application keep by name where toolbars are docked. CWinAppEx::SaveState and LoadState know a bar by the
+/// number of its window, which the bars of a file get in their order: when a bar comes or goes in the file, those
+/// behind it would change places. While one of these lives, each bar has a number made of its group and its name
+/// instead.
+///
+///     {
+///         const CNamedToolBars named(toolbars);
+///         application->SaveState(frame);           // and the same around LoadState
+///     }
+///
+/// Bars of one group and name are told apart by their order.
+class BARWRIGHT_API CNamedToolBars {
+public:
+    explicit CNamedToolBars(const CDynToolBarCreater& toolbars);
+    /// Gives the bars that are still there their own numbers back.
+    ~CNamedToolBars();
+    CNamedToolBars(const CNamedToolBars&) = delete;
+    CNamedToolBars& operator=(const CNamedToolBars&) = delete;
+
+private:
+    struct Bar {
+        HWND window;
+        LONG_PTR number; ///< its own
+    };
+    std::vector<Bar> m_bars;
+};
+#endif

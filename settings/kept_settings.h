@@ -15,8 +15,8 @@ struct KeptCommands {
 
 struct KeptToolBar {
     std::wstring group;
-    std::wstring title;
-    int number = 0; ///< among the group's bars of that title, from 0
+    std::wstring title; ///< as the toolbar file has it
+    int number = 0;     ///< among the group's bars of that title, from 0
     bool isShown = true;
 };
 

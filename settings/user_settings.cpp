@@ -7,8 +7,6 @@
 #include "settings/settings_file.h"
 #include "settings/shortcut_keys.h"
 
-#include <varnhold/strings_mfc.h>
-
 #include <algorithm>
 #include <limits>
 #include <map>
@@ -96,7 +94,7 @@ class CUserSettings::Keeper {
 public:
     explicit Keeper(std::wstring path) : file(std::move(path)) {}
 
-    /// Group, title and the number among the bars of that title.
+    /// Group, name and the number among the bars of that name.
     using BarName = std::tuple<std::wstring, std::wstring, int>;
 
     static void DropNumbers(KeptSettings& settings) {
@@ -157,10 +155,8 @@ public:
         std::map<std::pair<std::wstring, std::wstring>, int> numbers;
         for (const auto& [group, bar] : toolbars.GetGroupedToolBars()) {
             if (bar->GetSafeHwnd() != nullptr) {
-                CString title;
-                bar->GetWindowText(title);
-                const std::wstring text = CString2wstring(title);
-                visit(*bar, BarName{group, text, numbers[{group, text}]++});
+                const std::wstring name = toolbars.GetName(bar);
+                visit(*bar, BarName{group, name, numbers[{group, name}]++});
             }
         }
     }

@@ -18,9 +18,9 @@ COLORREF GroundOf(const MapState& state) {
 }
 
 COLORREF MiddleOf(CBitmap& picture) {
-    const CClientDC screen(nullptr);
+    CClientDC screen(nullptr);
     CDC dc;
-    dc.CreateCompatibleDC(const_cast<CClientDC*>(&screen));
+    dc.CreateCompatibleDC(&screen);
     CBitmap* const before = dc.SelectObject(&picture);
     const COLORREF color = dc.GetPixel(kWidth / 2 + 3, kHeight / 2 + 3);
     dc.SelectObject(before);

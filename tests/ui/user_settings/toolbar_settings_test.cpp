@@ -92,6 +92,18 @@ TEST_F(ToolBarSettings, AHiddenToolbarIsHiddenInTheNextRun) {
     EXPECT_EQ(run.Shown(), "++-");
 }
 
+TEST_F(ToolBarSettings, OneIsKnownByItsNameInTheFileWhateverItsTitleHasBecome) {
+    HideTheThird();
+    BarsRun run(m_installation, kBars);
+    for (CMFCToolBar* const bar : run.m_bars.GetAllToolBar()) {
+        bar->SetWindowText(L"\u4E00"); // as in another language
+    }
+    CUserSettings settings(File());
+    settings.Load();
+    settings.ApplyTo(run.m_bars, run.m_frame);
+    EXPECT_EQ(run.Shown(), "++-");
+}
+
 TEST_F(ToolBarSettings, OneThatIsShownAgainStaysShown) {
     HideTheThird();
     {
