@@ -1,6 +1,7 @@
 #include "library_context.h"
 
 #include "commands/resource_paths.h"
+#include "commands/shared_texts.h"
 #include "menu_id_mgr.h"
 
 #include <afxglobals.h>
@@ -59,7 +60,8 @@ std::wstring RecordedMediaFolder() {
 
 CString GetIconPathStr(const std::wstring& path, int size) {
     static const std::wstring directory = InstallationDirectory();
-    return wstring2CString(IconFileBelow(directory, path, size));
+    static SharedTexts<std::pair<std::wstring, int>> s_paths;
+    return s_paths.Get({path, size}, [&] { return wstring2CString(IconFileBelow(directory, path, size)); });
 }
 
 CString GetHelpFileName(int id, const CString&) {

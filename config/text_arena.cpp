@@ -6,14 +6,16 @@
 
 namespace {
 
-constexpr std::size_t firstBlockSize = std::size_t(16) << 10;
-constexpr std::size_t largestBlockSize = std::size_t(256) << 10;
+/// Enough for most files.
+constexpr std::size_t kFirstBlockSize = std::size_t(16) << 10;
+/// So large that the heap takes it from the system and gives it back at once: what smaller blocks leave behind would
+/// stay with the process when all records are long gone.
+constexpr std::size_t kFurtherBlockSize = std::size_t(1) << 20;
 
 } // namespace
 
 void* TextArena::TakeFromNewBlock(std::size_t bytes) {
-    const std::size_t next = std::clamp(2 * m_size, firstBlockSize, largestBlockSize);
-    m_size = std::max(bytes, next);
+    m_size = std::max(bytes, m_blocks.empty() ? kFirstBlockSize : kFurtherBlockSize);
     m_blocks.push_back(std::make_unique_for_overwrite<std::byte[]>(m_size));
     m_block = m_blocks.back().get();
     m_used = bytes;

@@ -1,5 +1,6 @@
 #include "ribbon_icon_button.h"
 
+#include "commands/shared_texts.h"
 #include "elements/icon_file.h"
 
 #include <afxglobals.h>
@@ -51,9 +52,12 @@ private:
 };
 
 CString AlternateOf(const CString& path) {
-    CString alternate = path;
-    alternate.Replace(L"modle", L"modle_0");
-    return alternate;
+    static SharedTexts<CString> s_alternates;
+    return s_alternates.Get(path, [&path] {
+        CString alternate = path;
+        alternate.Replace(L"modle", L"modle_0");
+        return alternate;
+    });
 }
 
 /// The chosen file, unless the primary path leaves the installation: its alternate would too, and no longer show it

@@ -46,6 +46,19 @@ TEST(LibraryContext, IconPathStandsBelowTheInstallationDirectoryOfTheFirstCall) 
     EXPECT_EQ(GetIconPathStr(L"down.ico", 16), L"C:\\first\\\\16down.ico");
 }
 
+TEST(LibraryContext, PathsOfTheSameIconShareTheirMemory) {
+    const CString path = GetIconPathStr(L"pic\\shared.ico", 16);
+    EXPECT_EQ(static_cast<LPCTSTR>(GetIconPathStr(L"pic\\shared.ico", 16)), static_cast<LPCTSTR>(path));
+    EXPECT_NE(GetIconPathStr(L"pic\\shared.ico", 32), path);
+    // More than are kept.
+    for (int i = 0; i < 2000; ++i) {
+        const std::wstring name = std::to_wstring(i) + L".ico";
+        EXPECT_EQ(GetIconPathStr(L"pic\\" + name, 16).Right(static_cast<int>(name.size()) + 3),
+                  (L"16\\" + name).c_str());
+    }
+    EXPECT_EQ(GetIconPathStr(L"pic\\shared.ico", 16), path);
+}
+
 /// Puts a value where the installer records the folder of the help videos, and takes it away at the end. The registry
 /// is one for all tests of a machine, so they take turns.
 class MediaFolder : public testing::Test {
