@@ -25,6 +25,8 @@ TIME_BARS = {
     ("Load", "100"): 8_000,
     ("Load", "1000"): 52_000,
     ("Load", "5000"): 260_000,
+    ("LoadMenu", "1000"): 2_000,
+    ("LoadToolbars", "100"): 5_000,
     ("full repaint", ""): 15_000,
     ("tab switch", ""): 15_000,
     ("check of 5000 commands in four languages", ""): 1_000_000,
