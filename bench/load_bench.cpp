@@ -6,11 +6,13 @@
 #include "scenario.h"
 
 #include "varnhold/file_op.h"
+#include "varnhold/xml.h"
 
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -38,20 +40,56 @@ void Load(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
+void TryIcon(const std::wstring& root, std::size_t number, int side, benchmark::State& state) {
+    const std::wstring path =
+        root + L"pic\\modle\\" + std::to_wstring(side) + L"\\icon" + std::to_wstring(number) + L".ico";
+    const HANDLE icon = ::LoadImage(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE);
+    if (!icon) {
+        state.SkipWithError("an icon could not be loaded");
+    }
+    ::DestroyIcon(static_cast<HICON>(icon));
+}
+
 void LoadFloor(benchmark::State& state) {
     Scenario().AddRibbonFile(100, kIconFiles);
-    const std::wstring root = Scenario().Path().wstring() + L"\\pic\\modle\\";
+    const std::wstring root = Scenario().Path().wstring() + L"\\";
     for (auto _ : state) {
         for (const int side : {16, 32}) {
             for (std::size_t i = 0; i < kIconFiles; ++i) {
-                const std::wstring path = root + std::to_wstring(side) + L"\\icon" + std::to_wstring(i) + L".ico";
-                const HANDLE icon = ::LoadImage(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE);
-                if (!icon) {
-                    state.SkipWithError("an icon could not be loaded");
-                }
-                ::DestroyIcon(static_cast<HICON>(icon));
+                TryIcon(root, i, side, state);
             }
         }
+    }
+}
+
+// What no way to load the file can do without: it is parsed, each icon file is tried once, each command has an entry in
+// the registry and an element.
+void LoadOwnFloor(benchmark::State& state) {
+    const auto buttons = static_cast<std::size_t>(state.range(0));
+    const std::wstring file = L"cfg\\" + Scenario().AddRibbonFile(buttons, kIconFiles);
+    const std::wstring root = Scenario().Path().wstring() + L"\\";
+    for (auto _ : state) {
+        CXmlDocumentWrapper document;
+        if (!document.Load(root + file)) {
+            state.SkipWithError("the file could not be parsed");
+        }
+        std::vector<std::unique_ptr<CMFCRibbonButton>> elements;
+        elements.reserve(buttons);
+        for (std::size_t i = 0; i < buttons; ++i) {
+            if (i < kIconFiles) {
+                TryIcon(root, i, 16, state);
+                TryIcon(root, i, 32, state);
+            }
+            const std::wstring number = std::to_wstring(buttons) + L"_" + std::to_wstring(i);
+            const int id = 41000 + static_cast<int>(i);
+            const std::wstring keyword = L"Command" + number;
+            CMenuIdMgr::Ins()->Add(keyword, id, keyword, L"command", L"", number, L"");
+            elements.push_back(std::make_unique<CMFCRibbonButton>(static_cast<UINT>(id), keyword.c_str()));
+        }
+        state.PauseTiming();
+        elements.clear();
+        CMenuIdMgr::Destroy();
+        state.ResumeTiming();
     }
 }
 
@@ -70,3 +108,9 @@ CLoadApp s_app;
 
 BENCHMARK(Load)->Name("Load")->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadFloor)->Name("Load/floor: each icon file loaded once")->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadOwnFloor)
+    ->Name("Load/floor: parse, trial loads, an entry and an element each")
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(5000)
+    ->Unit(benchmark::kMillisecond);
