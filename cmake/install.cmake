@@ -24,6 +24,7 @@ add_custom_command(OUTPUT ${boost_folder}.stamp
   COMMAND ${CMAKE_COMMAND} -E touch ${boost_folder}.stamp
   DEPENDS ${PROJECT_SOURCE_DIR}/scripts/copy-boost VERBATIM)
 add_custom_target(package_files ALL DEPENDS ${boost_folder}.stamp)
+add_dependencies(package_files demo_files) # the viewer's, which is installed as an example
 install(DIRECTORY ${boost_folder}/ DESTINATION ${include_folder}/boost_headers)
 target_include_directories(boost_headers SYSTEM INTERFACE $<INSTALL_INTERFACE:${include_folder}/boost_headers>)
 
@@ -46,6 +47,18 @@ install(DIRECTORY ${pictures}/ DESTINATION ${data_folder}/pic/skin)
 install(FILES platform/framework/window/entry/win_main.cpp cmake/application.manifest cmake/mingw-w64.cmake
         DESTINATION ${data_folder})
 install(DIRECTORY examples/host DESTINATION ${data_folder}/examples)
+
+# The viewer with all that its build makes here from drawings and tables, so that a package's user needs none of our tools.
+set(viewer_folder ${data_folder}/examples/viewer)
+install(FILES examples/viewer/CMakeLists.txt DESTINATION ${viewer_folder})
+install(DIRECTORY demo/ DESTINATION ${viewer_folder} FILES_MATCHING PATTERN "*.cpp" PATTERN "*.h" PATTERN "*.rc"
+        PATTERN cfg EXCLUDE PATTERN data EXCLUDE PATTERN icons EXCLUDE PATTERN lang EXCLUDE)
+install(DIRECTORY tools/dump DESTINATION ${viewer_folder} FILES_MATCHING PATTERN "*.cpp" PATTERN "*.h")
+foreach(folder cfg lang data pic)
+  install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${folder} DESTINATION ${viewer_folder}
+          PATTERN skin/black EXCLUDE PATTERN skin/silver EXCLUDE)
+endforeach()
+install(DIRECTORY ${DEPS_DIR}/json-include/nlohmann/ DESTINATION ${viewer_folder}/json/nlohmann)
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION share/doc/barwright)
 install(DIRECTORY docs/ DESTINATION share/doc/barwright/docs)
 
@@ -61,3 +74,4 @@ function(barwright_install_licence name)
 endfunction()
 barwright_install_licence(pugixml ${BARWRIGHT_PUGIXML}/../LICENSE.md)
 barwright_install_licence(boost ${BARWRIGHT_BOOST_INCLUDE}/LICENSE_1_0.txt /usr/share/doc/libboost-dev/copyright)
+barwright_install_licence(nlohmann-json /usr/share/doc/nlohmann-json3-dev/copyright)
