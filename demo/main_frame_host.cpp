@@ -24,6 +24,8 @@
 #include "varnhold/message_box.h"
 #include "varnhold/strings.h"
 
+#include <fx/window_freeze.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -153,6 +155,7 @@ void CMainFrame::ShowMode(MapMode mode) {
 }
 
 LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
+    const fx::WindowFreeze freeze;
     BuildRibbon();
     WriteRecord();
     return 0;
@@ -161,6 +164,7 @@ LRESULT CMainFrame::OnRebuildRibbon(WPARAM, LPARAM) {
 bool CMainFrame::IsLanguage(const std::wstring& code) const { return CMultiLanguageMgr::GetLanguage() == code; }
 
 void CMainFrame::SwitchSkin(const std::wstring& name) {
+    const fx::WindowFreeze freeze;
     const auto isOther = [this](const ViewerSkin& skin) { return m_skin != skin.name; };
     m_skin = name == L"switch" ? std::find_if(kViewerSkins.begin(), kViewerSkins.end(), isOther)->name : name;
     ApplySkin();

@@ -4,6 +4,7 @@
 #include <afxRibbonEdit.h>
 
 #include "afxglobals.h"
+#include "fx/window_freeze.h"
 #include "visual/canvas.h"
 #include "visual/manager_instance.h"
 #include "visual/system_skins.h"
@@ -58,6 +59,7 @@ void CMFCVisualManager::SetDefaultManager(CRuntimeClass* pRTI) {
         ASSERT(FALSE);
         return;
     }
+    const fx::WindowFreeze freeze;
     g_managerClass = pRTI;
     DestroyInstance();
     afxGlobalData.UpdateSysColors();

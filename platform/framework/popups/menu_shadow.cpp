@@ -5,6 +5,7 @@
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
 #include "visual/canvas.h"
+#include "window/window_picture.h"
 
 #include <dwmapi.h>
 
@@ -83,11 +84,7 @@ bool Covers(HWND window, const CRect& area) {
 void CopyWindow(HDC target, HWND window, const CRect& area) {
     CRect rect;
     ::GetWindowRect(window, rect);
-    const HDC source = ::GetWindowDC(window);
-    ::SetLayout(source, 0); // a mirrored window's picture as it stands on the screen
-    ::BitBlt(target, static_cast<int>(rect.left - area.left), static_cast<int>(rect.top - area.top), rect.Width(),
-             rect.Height(), source, 0, 0, SRCCOPY);
-    ::ReleaseDC(window, source);
+    DrawWindowPicture(target, window, static_cast<int>(rect.left - area.left), static_cast<int>(rect.top - area.top));
 }
 
 /// A place along a side as a shorter side has it: both ends are the same, the middle repeats.

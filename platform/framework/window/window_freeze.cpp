@@ -1,0 +1,123 @@
+#include "fx/window_freeze.h"
+
+#include "afxwin.h"
+#include "fx/dc_scope.h"
+#include "fx/window_dc.h"
+#include "window/window_picture.h"
+
+namespace {
+
+thread_local int t_depth = 0;
+
+BOOL CALLBACK Collect(HWND window, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
+bool IsShownFrame(HWND window) {
+    const LONG style = ::GetWindowLongW(window, GWL_STYLE);
+    return (style & (WS_CAPTION | WS_THICKFRAME)) != 0 && ::IsWindowVisible(window) && !::IsIconic(window) &&
+           ::GetWindow(window, GW_CHILD) != nullptr;
+}
+
+std::vector<HWND> ShownFrames() {
+    std::vector<HWND> windows;
+    ::EnumThreadWindows(::GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [](HWND window) { return !IsShownFrame(window); });
+    return windows;
+}
+
+} // namespace
+
+namespace fx {
+
+/// The picture of one frame over it. The frame owns its window, and takes it along when it is destroyed.
+class WindowFreeze::Cover : public CWnd {
+public:
+    explicit Cover(HWND frame);
+    ~Cover() override;
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC*) { return TRUE; }
+    afx_msg LRESULT OnNcHitTest(CPoint) { return HTTRANSPARENT; }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool TakePicture(CSize size);
+
+    HWND m_frame;
+    CBitmap m_picture;
+};
+
+BEGIN_MESSAGE_MAP(WindowFreeze::Cover, CWnd)
+ON_WM_PAINT()
+ON_WM_ERASEBKGND()
+ON_WM_NCHITTEST()
+END_MESSAGE_MAP()
+
+WindowFreeze::Cover::Cover(HWND frame) : m_frame(frame) {
+    CRect rect;
+    ::GetWindowRect(frame, rect);
+    if (!TakePicture(rect.Size())) {
+        return;
+    }
+    constexpr DWORD through = WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT;
+    if (!CreateEx(through, AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), nullptr, WS_POPUP | WS_DISABLED,
+                  rect.left, rect.top, rect.Width(), rect.Height(), frame, nullptr)) {
+        return;
+    }
+    // Just above the frame: what lies over it, an open pop-up, stays there.
+    const HWND above = ::GetWindow(frame, GW_HWNDPREV);
+    const UINT keep = above == m_hWnd ? SWP_NOZORDER : 0;
+    ::SetWindowPos(m_hWnd, above, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW | keep);
+    UpdateWindow();
+    ::GdiFlush();
+}
+
+WindowFreeze::Cover::~Cover() {
+    if (::IsWindow(m_frame)) {
+        ::RedrawWindow(m_frame, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+    }
+    ::GdiFlush();
+    DestroyWindow();
+}
+
+bool WindowFreeze::Cover::TakePicture(CSize size) {
+    const HDC screen = ::GetDC(nullptr);
+    const bool isMade = m_picture.Attach(::CreateCompatibleBitmap(screen, size.cx, size.cy)) != FALSE;
+    ::ReleaseDC(nullptr, screen);
+    CDC memory;
+    if (!isMade || !memory.CreateCompatibleDC(nullptr)) {
+        return false;
+    }
+    const DcSelection selected(memory, m_picture);
+    DrawWindowPicture(memory, m_frame, 0, 0);
+    return true;
+}
+
+void WindowFreeze::Cover::OnPaint() {
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(client);
+    CDC memory;
+    memory.CreateCompatibleDC(&dc);
+    const DcSelection selected(memory, m_picture);
+    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
+}
+
+WindowFreeze::WindowFreeze() {
+    if (t_depth++ == 0) {
+        for (const HWND frame : ShownFrames()) {
+            m_covers.push_back(std::make_unique<Cover>(frame));
+        }
+    }
+}
+
+WindowFreeze::~WindowFreeze() {
+    --t_depth;
+    m_covers.clear();
+}
+
+} // namespace fx
