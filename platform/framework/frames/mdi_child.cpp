@@ -1,6 +1,7 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "fx/doc_template.h"
 #include "fx/window_guard.h"
 #include "window/frame_title.h"
 
@@ -74,6 +75,14 @@ BOOL CMDIChildWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD d
 
 BOOL CMDIChildWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext) {
     m_nIDHelp = nIDResource;
+    if (pContext != nullptr && pContext->m_pNewDocTemplate != nullptr) {
+        HMENU menu = nullptr;
+        HACCEL keys = nullptr;
+        pContext->m_pNewDocTemplate->GetSharedHandles(menu, keys);
+        if (menu != nullptr || keys != nullptr) {
+            SetHandles(menu, keys);
+        }
+    }
     auto* parent = DYNAMIC_DOWNCAST(CMDIFrameWnd, pParentWnd);
     return Create(GetIconWndClass(dwDefaultStyle, nIDResource), fx::FrameTitleOf(nIDResource), dwDefaultStyle,
                   rectDefault, parent, pContext);
@@ -166,6 +175,18 @@ void CMDIChildWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {
     }
     if (!frame->ShowInMenuBar(menu) && menu && frame->GetMenuBarState() != AFX_MBS_HIDDEN) {
         frame->MDISetMenu(CMenu::FromHandle(menu), CMenu::FromHandle(frame->GetWindowMenuPopup(menu)));
+    }
+}
+
+void CMDIChildWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
+    if (CMDIFrameWnd* const frame = GetMDIFrame()) {
+        frame->OnUpdateFrameTitle(bAddToTitle);
+    }
+    const CString title = DocumentTitle();
+    CString shown;
+    GetWindowText(shown);
+    if ((GetStyle() & FWS_ADDTOTITLE) != 0 && !title.IsEmpty() && title != shown) {
+        SetWindowText(title);
     }
 }
 

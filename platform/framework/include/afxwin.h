@@ -15,6 +15,8 @@
 #include "fx/data_exchange.h"
 #include "fx/dc.h"
 #include "fx/dialog.h"
+#include "fx/doc_template.h"
+#include "fx/document.h"
 #include "fx/frame.h"
 #include "fx/gdi_objects.h"
 #include "fx/mdi.h"

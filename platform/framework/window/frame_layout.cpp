@@ -116,10 +116,15 @@ void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
     CString shown;
     GetWindowText(shown);
     CString title = m_strTitle;
-    CFrameWnd* active = bAddToTitle ? GetActiveFrame() : this;
-    if (active && active != this && !active->GetTitle().IsEmpty()) {
-        title = (GetStyle() & FWS_PREFIXTITLE) ? active->GetTitle() + L" - " + m_strTitle
-                                               : m_strTitle + L" - " + active->GetTitle();
+    CString added;
+    if (CFrameWnd* const active = bAddToTitle ? GetActiveFrame() : nullptr) {
+        added = active->DocumentTitle();
+        if (added.IsEmpty() && active != this) {
+            added = active->GetTitle();
+        }
+    }
+    if (!added.IsEmpty()) {
+        title = (GetStyle() & FWS_PREFIXTITLE) ? added + L" - " + m_strTitle : m_strTitle + L" - " + added;
     }
     // Setting an equal text would flicker.
     if (title != shown) {

@@ -1,6 +1,7 @@
 #include "afxext.h"
 #include "afxpriv.h"
 #include "afxwin.h"
+#include "fx/document.h"
 
 #include <utility>
 
@@ -26,6 +27,23 @@ CWnd* CFrameWnd::CreateView(CCreateContext* pContext, UINT nID) {
 BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext* pContext) {
     const bool wantsView = pContext != nullptr && pContext->m_pNewViewClass != nullptr;
     return !wantsView || CreateView(pContext, AFX_IDW_PANE_FIRST) != nullptr;
+}
+
+CDocument* CFrameWnd::GetActiveDocument() {
+    const CView* const view = GetActiveView();
+    return view != nullptr ? view->GetDocument() : nullptr;
+}
+
+CString CFrameWnd::DocumentTitle() {
+    const CDocument* const document = GetActiveDocument();
+    if (document == nullptr) {
+        return CString();
+    }
+    CString title = document->GetTitle();
+    if (m_windowNumber > 0) {
+        title.AppendFormat(L":%d", m_windowNumber);
+    }
+    return title;
 }
 
 void CFrameWnd::SetActiveView(CView* pViewNew, BOOL bNotify) {
@@ -60,7 +78,11 @@ void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL bMakeVisible) {
     if (!bMakeVisible) {
         return;
     }
-    ActivateFrame();
+    // A program that only prints shows nothing.
+    const CWinApp* const application = AfxGetApp();
+    const bool isHidden =
+        application != nullptr && application->m_pMainWnd == this && application->m_nCmdShow == SW_HIDE;
+    ActivateFrame(isHidden ? SW_HIDE : -1);
     if (view != nullptr) {
         view->OnActivateView(TRUE, view, view);
     }

@@ -1,6 +1,8 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "fx/document.h"
+#include "fx/window_guard.h"
 #include "window/frame_title.h"
 
 #include <utility>
@@ -144,13 +146,43 @@ void CFrameWnd::OnDestroy() {
 }
 
 void CFrameWnd::OnClose() {
-    if (CWinApp* application = AfxGetApp(); application && application->m_pMainWnd == this) {
-        if (!application->SaveAllModified()) {
+    CWinApp* const application = AfxGetApp();
+    const bool isMainFrame = application != nullptr && application->m_pMainWnd == this;
+    const fx::WindowGuard guard(this);
+    CDocument* const document = GetActiveDocument();
+    if (document != nullptr && !document->CanCloseFrame(this)) {
+        return;
+    }
+    if (guard.IsGone()) {
+        return;
+    }
+    if (isMainFrame) {
+        if (document == nullptr && !application->SaveAllModified()) {
             return;
         }
         application->HideApplication();
+        application->CloseAllDocuments(FALSE); // with their frames: this may be one
+    } else {
+        LeaveDocument();
     }
-    DestroyWindow();
+    if (guard.IsAlive()) {
+        DestroyWindow();
+    }
+}
+
+// The last frame of a document closes it.
+void CFrameWnd::LeaveDocument() {
+    CDocument* const document = GetActiveDocument();
+    if (document == nullptr) {
+        return;
+    }
+    for (POSITION place = document->GetFirstViewPosition(); place != nullptr;) {
+        if (document->GetNextView(place)->GetParentFrame() != this) {
+            document->PreCloseFrame(this);
+            return;
+        }
+    }
+    document->OnCloseDocument();
 }
 
 BOOL CFrameWnd::OnQueryEndSession() {

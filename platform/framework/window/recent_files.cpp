@@ -1,6 +1,7 @@
 // Recent files: the list, its menu items, and what the application does with it.
 #include "afxadv.h"
 
+#include "window/file_path.h"
 #include "window/menu_items.h"
 
 #include <algorithm>
@@ -9,20 +10,6 @@ namespace {
 
 constexpr LPCTSTR kSection = L"Recent File List";
 constexpr LPCTSTR kEntryFormat = L"File%d";
-
-CString FullPath(LPCTSTR path) {
-    const DWORD needed = ::GetFullPathNameW(path, 0, nullptr, nullptr);
-    CString full;
-    const DWORD length =
-        needed > 0 ? ::GetFullPathNameW(path, needed, full.GetBuffer(static_cast<int>(needed)), nullptr) : 0;
-    full.ReleaseBuffer(static_cast<int>(length));
-    return length > 0 ? full : CString(path);
-}
-
-CString NameOf(const CString& path) {
-    const int end = std::max(path.ReverseFind(L'\\'), path.ReverseFind(L'/'));
-    return path.Mid(end + 1);
-}
 
 CString WithoutExtension(const CString& name) {
     const int dot = name.ReverseFind(L'.');
@@ -70,7 +57,7 @@ void CRecentFileList::Add(LPCTSTR lpszPathName) {
     if (lpszPathName == nullptr || *lpszPathName == 0 || m_paths.empty()) {
         return;
     }
-    const CString path = FullPath(lpszPathName);
+    const CString path = fx::FullPathOf(lpszPathName);
     auto place = std::find_if(m_paths.begin(), m_paths.end(),
                               [&path](const CString& known) { return known.CompareNoCase(path) == 0; });
     if (place == m_paths.end()) {
@@ -94,7 +81,7 @@ BOOL CRecentFileList::GetDisplayName(CString& strName, int nIndex, LPCTSTR lpszC
         return FALSE;
     }
     const CString& path = m_paths[static_cast<size_t>(nIndex)];
-    const CString name = NameOf(path);
+    const CString name = fx::FileNameOf(path);
     const bool isInCurrent = lpszCurDir != nullptr && path.GetLength() - name.GetLength() == nCurDir &&
                              CString(lpszCurDir, nCurDir).CompareNoCase(path.Left(nCurDir)) == 0;
     strName = isInCurrent ? name : path;
@@ -179,6 +166,20 @@ void CWinApp::AddToRecentFileList(LPCTSTR lpszPathName) {
     if (m_recentFiles) {
         m_recentFiles->Add(lpszPathName);
     }
+}
+
+BOOL CWinApp::OnOpenRecentFile(UINT nID) {
+    const int index = static_cast<int>(nID - ID_FILE_MRU_FILE1);
+    // A host without kinds of documents opens its files itself.
+    if (!m_recentFiles || m_templates.IsEmpty() || index >= m_recentFiles->GetSize() ||
+        (*m_recentFiles)[index].IsEmpty()) {
+        return FALSE;
+    }
+    const CString path = (*m_recentFiles)[index]; // opening moves it
+    if (OpenDocumentFile(path) == nullptr) {
+        m_recentFiles->Remove(index);
+    }
+    return TRUE;
 }
 
 // Without a list the item is an ordinary command.

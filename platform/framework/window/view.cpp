@@ -1,9 +1,12 @@
+#include "afxext.h"
 #include "afxpriv.h"
 #include "afxwin.h"
+#include "fx/document.h"
 
 IMPLEMENT_DYNAMIC(CView, CWnd)
 
 BEGIN_MESSAGE_MAP(CView, CWnd)
+ON_WM_CREATE()
 ON_WM_PAINT()
 ON_WM_DESTROY()
 ON_WM_MOUSEACTIVATE()
@@ -12,7 +15,29 @@ END_MESSAGE_MAP()
 
 CView::CView() = default;
 
-CView::~CView() = default;
+CView::~CView() {
+    if (m_pDocument != nullptr) {
+        m_pDocument->RemoveView(this);
+    }
+}
+
+int CView::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1) {
+        return -1;
+    }
+    const auto* const context = static_cast<const CCreateContext*>(lpCreateStruct->lpCreateParams);
+    if (context != nullptr && context->m_pCurrentDoc != nullptr) {
+        context->m_pCurrentDoc->AddView(this);
+    }
+    return 0;
+}
+
+BOOL CView::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+        return TRUE;
+    }
+    return m_pDocument != nullptr && m_pDocument->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
 
 void CView::OnInitialUpdate() { OnUpdate(nullptr, 0, nullptr); }
 

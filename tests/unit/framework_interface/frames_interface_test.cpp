@@ -59,6 +59,7 @@ INTERFACE_OF(CFrameWnd) {
     MADE_FROM();
     VIRTUAL(void, ActivateFrame, (int));
     CALL(ActivateFrame);
+    VIRTUAL(CDocument*, GetActiveDocument, ());
     VIRTUAL(void, BeginModalState, ());
     VIRTUAL(BOOL, Create, (LPCTSTR, LPCTSTR, DWORD, const RECT&, CWnd*, LPCTSTR, DWORD, CCreateContext*));
     CALL(Create, LPCTSTR, LPCTSTR);

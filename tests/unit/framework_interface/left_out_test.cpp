@@ -87,12 +87,18 @@ LEFT_OUT("thumbnails, progress and buttons in the task bar", CMDIChildWndEx, Can
 LEFT_OUT("thumbnails, progress and buttons in the task bar", AFX_GLOBAL_DATA, GetITaskbarList, GetITaskbarList3,
          ReleaseTaskBarRefs)
 
-LEFT_OUT("documents and their templates", CWinApp, AddDocTemplate, CloseAllDocuments, GetFirstDocTemplatePosition,
-         GetNextDocTemplate, OpenDocumentFile, ProcessShellCommand, OnFileNew, OnFileOpen)
-LEFT_OUT("documents and their templates", CFrameWnd, GetActiveDocument)
-LEFT_OUT("documents and their templates", CMDIFrameWndEx, CreateDocumentWindow, CreateNewWindow)
-LEFT_OUT("documents and their templates", CMDIChildWndEx, GetDocumentName)
-LEFT_OUT("documents and their templates", CView, GetDocument)
+LEFT_OUT("documents in tabs and panes", CMDIFrameWndEx, CreateDocumentWindow, CreateNewWindow)
+LEFT_OUT("documents in tabs and panes", CMDIChildWndEx, GetDocumentName)
+LEFT_OUT("searches, previews and thumbnails of the shell, mail", CDocument, BeginReadChunks, ClearChunkList, FindChunk,
+         GetAdapter, GetThumbnail, InitializeSearchContent, IsSearchAndOrganizeHandler, LoadDocumentFromStream,
+         OnBeforeRichPreviewFontChanged, OnCreatePreviewFrame, OnDrawThumbnail, OnLoadDocumentFromStream,
+         OnPreviewHandlerQueryFocus, OnPreviewHandlerTranslateAccelerator, OnRichPreviewBackColorChanged,
+         OnRichPreviewFontChanged, OnRichPreviewSiteChanged, OnRichPreviewTextColorChanged, OnUnloadHandler,
+         ReadNextChunkValue, RemoveChunk, SetChunkValue, OnFileSendMail, OnUpdateFileSendMail, m_bGetThumbnailMode,
+         m_bPreviewHandlerMode, m_bSearchMode, m_clrRichPreviewBackColor, m_clrRichPreviewTextColor,
+         m_lfRichPreviewFont)
+LEFT_OUT("frames in place in other programs, previews of the shell", CDocTemplate, CreateOleFrame, CreatePreviewFrame,
+         SetContainerInfo, SetPreviewInfo, SetServerInfo)
 
 LEFT_OUT("printing and its preview", CWinApp, CreatePrinterDC, GetPrinterDeviceDefaults, SelectPrinter,
          OnFilePrintSetup)
@@ -294,10 +300,6 @@ LEFT_OUT("what it does is not documented", CMFCToolBarImages, MapToSysColorAlpha
 
 } // namespace
 
-class CDocument;
-class CDocTemplate;
-class CMultiDocTemplate;
-class CSingleDocTemplate;
 class CPrintInfo;
 class CToolBar;
 class CDialogBar;
@@ -324,7 +326,6 @@ class CMFCRibbonGalleryIcon;
 class CMFCRibbonCustomizeDialog;
 class CMFCRibbonCustomizePropertyPage;
 
-LEFT_OUT_CLASSES("documents and their templates", CDocument, CDocTemplate, CMultiDocTemplate, CSingleDocTemplate)
 LEFT_OUT_CLASSES("printing and its preview", CPrintInfo)
 LEFT_OUT_CLASSES("older bars, replaced by the panes", CToolBar, CDialogBar, CReBar)
 LEFT_OUT_CLASSES("pictures: the framework keeps them in image lists", CImage)

@@ -61,9 +61,16 @@ INTERFACE_OF(CWinThread) {
 INTERFACE_OF(CWinApp) {
     BASE(CWinThread);
     MADE_FROM(LPCTSTR);
+    MEMBER(void, AddDocTemplate, (CDocTemplate*));
     VIRTUAL(void, AddToRecentFileList, (LPCTSTR));
+    MEMBER(void, CloseAllDocuments, (BOOL));
     MEMBER(LONG, DelRegTree, (HKEY, const CString&));
     CALL(DelRegTree, HKEY, const CString&);
+    MEMBER(POSITION, GetFirstDocTemplatePosition, () const);
+    MEMBER(CDocTemplate*, GetNextDocTemplate, (POSITION&) const);
+    VIRTUAL(CDocument*, OpenDocumentFile, (LPCTSTR, BOOL));
+    CALL(OpenDocumentFile, LPCTSTR);
+    MEMBER(BOOL, ProcessShellCommand, (CCommandLineInfo&));
     VIRTUAL(int, DoMessageBox, (LPCTSTR, UINT, UINT));
     VIRTUAL(void, DoWaitCursor, (int));
     VIRTUAL(int, ExitInstance, ());
@@ -110,6 +117,8 @@ INTERFACE_OF(CWinApp) {
 
 PROTECTED_INTERFACE_OF(CWinApp) {
     MEMBER(void, LoadStdProfileSettings, (UINT));
+    MEMBER(void, OnFileNew, ());
+    MEMBER(void, OnFileOpen, ());
     MEMBER(void, OnHelp, ());
     MEMBER(void, OnHelpFinder, ());
     MEMBER(void, OnHelpIndex, ());
@@ -314,6 +323,7 @@ INTERFACE_OF(CKeyboardManager) {
 
 INTERFACE_OF(CView) {
     BASE(CWnd);
+    MEMBER(CDocument*, GetDocument, () const);
     VIRTUAL(BOOL, IsSelected, (const CObject*) const);
     VIRTUAL(void, OnInitialUpdate, ());
     VIRTUAL(void, OnPrepareDC, (CDC*, CPrintInfo*));

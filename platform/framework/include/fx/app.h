@@ -4,6 +4,8 @@
 #include "fx/thread.h"
 #include "fx/wnd.h"
 
+#include <afxcoll.h>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -11,6 +13,7 @@
 
 class CCmdUI;
 class CDocTemplate;
+class CDocument;
 class CRecentFileList;
 class CWinApp;
 
@@ -92,7 +95,20 @@ public:
 
     void ParseCommandLine(CCommandLineInfo& rCmdInfo);
     void HideApplication();
+
+    /// A kind of documents, made with new; the application owns it from here.
+    void AddDocTemplate(CDocTemplate* pTemplate);
+    POSITION GetFirstDocTemplatePosition() const { return m_templates.GetHeadPosition(); }
+    CDocTemplate* GetNextDocTemplate(POSITION& pos) const;
+    /// Opens the file as a document of the kind that suits it best; one that is open already comes to the front. NULL
+    /// on failure, of which the user has been told.
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU = TRUE);
+    /// Asks for each changed document whether to save it. FALSE as soon as the user wants to go on.
     virtual BOOL SaveAllModified();
+    /// Without asking.
+    void CloseAllDocuments(BOOL bEndSession);
+    /// What the command line asked for: a new document, a file, printing. FALSE: the program is to end.
+    BOOL ProcessShellCommand(CCommandLineInfo& rCmdInfo);
     /// The path becomes the first of the recent files; nothing happens before LoadStdProfileSettings.
     virtual void AddToRecentFileList(LPCTSTR lpszPathName);
     /// Null before LoadStdProfileSettings, and where the application keeps no recent files.
@@ -125,6 +141,13 @@ protected:
     /// them.
     void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
     afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
+    /// Opens one of the recent files where the application has kinds of documents; one that fails leaves the list.
+    afx_msg BOOL OnOpenRecentFile(UINT nID);
+    // For maps of derived classes: ON_COMMAND(ID_FILE_NEW, &CWinApp::OnFileNew).
+    /// A new document; where there are several kinds with names for that, the user chooses one.
+    afx_msg void OnFileNew();
+    /// Asks for a file and opens it.
+    afx_msg void OnFileOpen();
     /// Asks the main window to close. In the map of every application for ID_APP_EXIT.
     afx_msg void OnAppExit();
     // Help commands, for maps of derived classes (ON_COMMAND(ID_HELP, &CMyApp::OnHelp)).
@@ -142,9 +165,11 @@ private:
     /// Fills the names that the constructor of the derived class left null.
     void SetCurrentHandles(HINSTANCE instance, LPTSTR commandLine, int showCommand);
     LPCTSTR Keep(std::wstring text);
+    void DeleteTemplates();
 
     std::vector<std::unique_ptr<std::wstring>> m_texts; ///< what the m_psz members point to unless the host set them
     std::unique_ptr<CRecentFileList> m_recentFiles;
+    CPtrList m_templates; ///< CDocTemplate, owned
     int m_waitCursorCount = 0;
     HCURSOR m_waitCursorRestore = nullptr;
 };

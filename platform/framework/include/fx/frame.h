@@ -63,6 +63,8 @@ public:
     CWnd* CreateView(CCreateContext* pContext, UINT nID = AFX_IDW_PANE_FIRST);
     /// The view that commands go to first; NULL when there is none.
     CView* GetActiveView() const { return m_pViewActive; }
+    /// That of the active view; NULL when there is none.
+    virtual CDocument* GetActiveDocument();
     /// NULL leaves the frame without an active view. bNotify: the new view is told.
     void SetActiveView(CView* pViewNew, BOOL bNotify = TRUE);
     /// After Create: makes the view with id AFX_IDW_PANE_FIRST active when none is, lets all views update and, with
@@ -91,7 +93,10 @@ public:
 
     CString GetTitle() const { return m_strTitle; }
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
+    /// Shows the frame's title and, with bAddToTitle, that of the active frame's document.
     virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+    /// Among the frames that show its document, from 1; 0 for the only one. The next update of the title shows it.
+    void SetWindowNumber(int number) { m_windowNumber = number; }
     virtual void OnUpdateFrameMenu(HMENU hMenuAlt);
     /// Sets the title at the next idle time.
     void DelayUpdateTitle() { m_nIdleFlags |= idleTitle; }
@@ -157,6 +162,8 @@ protected:
     LPCTSTR GetIconWndClass(DWORD style, UINT resourceId);
     /// Whether a frame routes the next command past the application, because the caller asks that itself afterwards.
     static void LeaveApplicationOut(CFrameWnd& frame, BOOL bLeaveOut) { frame.m_leavesApplicationOut = bLeaveOut; }
+    /// "Plan", or "Plan:2" in one of several frames; empty without a document.
+    CString DocumentTitle();
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
@@ -195,6 +202,9 @@ private:
     void UpdateMenuItem(CCmdUI& state, CMenu& menu);
     void ShowDelayedBars();
 
+    void LeaveDocument();
+
+    int m_windowNumber = 0;
     int m_modalDepth = 0;
     std::vector<HWND> m_disabledWindows; ///< by BeginModalState
     bool m_isEnding = false;             ///< the destructor runs

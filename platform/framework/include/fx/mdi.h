@@ -84,6 +84,8 @@ public:
     CWnd* GetMessageBar() override;
     /// Puts this child's menu (or `hMenuAlt`) into the MDI frame.
     void OnUpdateFrameMenu(HMENU hMenuAlt) override;
+    /// Shows the document's title, here and in the MDI frame.
+    void OnUpdateFrameTitle(BOOL bAddToTitle) override;
     void ActivateFrame(int nCmdShow = -1) override;
 
 protected:

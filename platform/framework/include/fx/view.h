@@ -2,6 +2,7 @@
 
 #include "fx/wnd.h"
 
+class CDocument;
 class CFrameWnd;
 struct CPrintInfo;
 
@@ -15,6 +16,9 @@ class FRAMEWORK_API CView : public CWnd {
 
 public:
     ~CView() override;
+
+    /// NULL for a view without one.
+    CDocument* GetDocument() const { return m_pDocument; }
 
     /// Called once after the view was made, before it is shown; the base updates the whole view.
     virtual void OnInitialUpdate();
@@ -37,6 +41,11 @@ protected:
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PostNcDestroy() override;
+    /// The document comes behind the view, its template behind the document.
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+
+    /// Attaches the view to the document of the frame's creation, if there is one.
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
 
     afx_msg void OnPaint();
     afx_msg void OnDestroy();
@@ -44,6 +53,9 @@ protected:
     afx_msg LRESULT OnInitialUpdateMessage(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
+    CDocument* m_pDocument = NULL; ///< not owned; set by CDocument::AddView
+
 private:
+    friend class CDocument;
     friend class CFrameWnd;
 };
