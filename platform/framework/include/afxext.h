@@ -5,6 +5,7 @@
 #include "afxcmn.h"
 #include "afxwin.h"
 #include "fx/control_bar.h"
+#include "fx/print.h"
 #include "fx/status_bar.h"
 
 class CDocument;

@@ -43,7 +43,17 @@ void CView::OnInitialUpdate() { OnUpdate(nullptr, 0, nullptr); }
 
 BOOL CView::IsSelected(const CObject*) const { return FALSE; }
 
-void CView::OnPrepareDC(CDC*, CPrintInfo*) {}
+void CView::OnPrepareDC(CDC*, CPrintInfo* pInfo) {
+    constexpr UINT kNoLastPage = 0xFFFF;
+    if (pInfo != nullptr && pInfo->m_pPD->m_pd.nMaxPage == kNoLastPage) {
+        pInfo->m_bContinuePrinting = pInfo->m_nCurPage == 1;
+    }
+}
+
+BOOL CView::OnPreparePrinting(CPrintInfo*) { return TRUE; }
+void CView::OnBeginPrinting(CDC*, CPrintInfo*) {}
+void CView::OnPrint(CDC* pDC, CPrintInfo*) { OnDraw(pDC); }
+void CView::OnEndPrinting(CDC*, CPrintInfo*) {}
 
 void CView::OnUpdate(CView*, LPARAM, CObject*) { Invalidate(); }
 

@@ -6,6 +6,8 @@
 #include "tests/support/temporary_directory.h"
 #include "tests/support/ui_test.h"
 
+#include <varnhold/strings.h>
+
 #include "afxadv.h"
 #include "afxext.h"
 #include "afxwin.h"
@@ -62,6 +64,35 @@ public:
         Plan::s_asked.push_back("view");
         return FALSE;
     }
+
+    // Prints to a picture, `m_length` pages long where that is known.
+    BOOL OnPreparePrinting(CPrintInfo* info) override {
+        s_job.push_back("prepare");
+        info->m_pPD->m_pd.hDC = ::CreateCompatibleDC(nullptr);
+        if (m_length > 0) {
+            info->SetMaxPage(m_length);
+        }
+        if (m_from > 0) {
+            info->m_pPD->m_pd.Flags |= PD_PAGENUMS;
+            info->m_pPD->m_pd.nFromPage = m_from;
+            info->m_pPD->m_pd.nToPage = m_to;
+        }
+        m_isDirect = info->m_bDirect;
+        return m_isPrintable;
+    }
+    void OnBeginPrinting(CDC* dc, CPrintInfo*) override {
+        s_job.push_back(dc->IsPrinting() ? "begin" : "on the screen");
+    }
+    void OnPrint(CDC* dc, CPrintInfo* info) override {
+        s_job.push_back("page " + std::to_string(info->m_nCurPage));
+        CView::OnPrint(dc, info);
+    }
+    void OnEndPrinting(CDC*, CPrintInfo*) override { s_job.push_back("end"); }
+
+    static inline std::vector<std::string> s_job;
+    WORD m_length = 0, m_from = 0, m_to = 0;
+    BOOL m_isPrintable = TRUE;
+    BOOL m_isDirect = FALSE;
 
     static inline int s_count = 0;
     int m_updates = 0;

@@ -65,3 +65,20 @@ INTERFACE_OF(CMultiDocTemplate) {
     BASE(CDocTemplate);
     MADE_FROM(UINT, CRuntimeClass*, CRuntimeClass*, CRuntimeClass*);
 }
+
+INTERFACE_OF(CPrintInfo) {
+    MEMBER(UINT, GetFromPage, () const);
+    MEMBER(UINT, GetMaxPage, () const);
+    MEMBER(UINT, GetMinPage, () const);
+    MEMBER(UINT, GetOffsetPage, () const);
+    MEMBER(UINT, GetToPage, () const);
+    MEMBER(void, SetMaxPage, (UINT));
+    MEMBER(void, SetMinPage, (UINT));
+    DATA(BOOL, m_bContinuePrinting);
+    DATA(BOOL, m_bDirect);
+    DATA(BOOL, m_bPreview);
+    DATA(CPrintDialog*, m_pPD);
+    DATA(CRect, m_rectDraw);
+    DATA(CString, m_strPageDesc);
+    DATA(UINT, m_nCurPage);
+}

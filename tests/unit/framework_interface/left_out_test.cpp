@@ -107,8 +107,7 @@ LEFT_OUT("printing and its preview", CFrameWndEx, IsPrintPreview, OnPostPreviewF
          SetPrintPreviewFrame)
 LEFT_OUT("printing and its preview", CMDIFrameWndEx, IsPrintPreview, OnSetPreviewMode, SetPrintPreviewFrame)
 LEFT_OUT("printing and its preview", CMDIChildWndEx, OnSetPreviewMode)
-LEFT_OUT("printing and its preview", CView, DoPreparePrinting, OnBeginPrinting, OnEndPrinting, OnEndPrintPreview,
-         OnPreparePrinting, OnPrint)
+LEFT_OUT("printing and its preview", CView, OnEndPrintPreview)
 LEFT_OUT("printing and its preview", CDockingManager, IsPrintPreviewValid, SetPrintPreviewMode)
 LEFT_OUT("printing and its preview", CMFCRibbonBar, AddPrintPreviewCategory, EnablePrintPreview, IsPrintPreviewEnabled)
 
@@ -300,7 +299,6 @@ LEFT_OUT("what it does is not documented", CMFCToolBarImages, MapToSysColorAlpha
 
 } // namespace
 
-class CPrintInfo;
 class CToolBar;
 class CDialogBar;
 class CReBar;
@@ -326,7 +324,6 @@ class CMFCRibbonGalleryIcon;
 class CMFCRibbonCustomizeDialog;
 class CMFCRibbonCustomizePropertyPage;
 
-LEFT_OUT_CLASSES("printing and its preview", CPrintInfo)
 LEFT_OUT_CLASSES("older bars, replaced by the panes", CToolBar, CDialogBar, CReBar)
 LEFT_OUT_CLASSES("pictures: the framework keeps them in image lists", CImage)
 LEFT_OUT_CLASSES("windows of several parts", CSplitterWnd)

@@ -324,6 +324,7 @@ INTERFACE_OF(CKeyboardManager) {
 INTERFACE_OF(CView) {
     BASE(CWnd);
     MEMBER(CDocument*, GetDocument, () const);
+    MEMBER(BOOL, DoPreparePrinting, (CPrintInfo*));
     VIRTUAL(BOOL, IsSelected, (const CObject*) const);
     VIRTUAL(void, OnInitialUpdate, ());
     VIRTUAL(void, OnPrepareDC, (CDC*, CPrintInfo*));
@@ -331,6 +332,10 @@ INTERFACE_OF(CView) {
 }
 
 PROTECTED_INTERFACE_OF(CView) {
+    VIRTUAL(void, OnBeginPrinting, (CDC*, CPrintInfo*));
+    VIRTUAL(void, OnEndPrinting, (CDC*, CPrintInfo*));
+    VIRTUAL(BOOL, OnPreparePrinting, (CPrintInfo*));
+    VIRTUAL(void, OnPrint, (CDC*, CPrintInfo*));
     VIRTUAL(void, OnActivateFrame, (UINT, CFrameWnd*));
     VIRTUAL(void, OnActivateView, (BOOL, CView*, CView*));
     VIRTUAL(void, OnDraw, (CDC*));

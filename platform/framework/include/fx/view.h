@@ -24,7 +24,11 @@ public:
     virtual void OnInitialUpdate();
     /// FALSE unless overridden.
     virtual BOOL IsSelected(const CObject* pDocItem) const;
-    /// Before every drawing on the screen (pInfo is then NULL); the base does nothing.
+    /// From OnPreparePrinting: asks for the printer and what is to be printed, unless the job is direct. FALSE: nothing
+    /// is to be printed.
+    BOOL DoPreparePrinting(CPrintInfo* pInfo);
+    /// Before every drawing on the screen (pInfo is then NULL) and of a page. The base does nothing for the screen, and
+    /// ends the printing of a document whose length nobody has told behind the first page.
     virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = NULL);
 
 protected:
@@ -38,6 +42,16 @@ protected:
     virtual void OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDeactiveView);
     /// The frame with this active view was activated or deactivated (WA_ values); the base does nothing.
     virtual void OnActivateFrame(UINT nState, CFrameWnd* pFrameWnd);
+
+    // A print job in its order. The length of the document is told in the first or second one (CPrintInfo::SetMaxPage).
+    /// FALSE: no job. The base has nothing to print with: a view that prints calls DoPreparePrinting.
+    virtual BOOL OnPreparePrinting(CPrintInfo* pInfo);
+    virtual void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo);
+    /// A page; the base calls OnDraw.
+    virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    /// The commands ID_FILE_PRINT and, without a dialog, ID_FILE_PRINT_DIRECT, for maps of derived classes.
+    afx_msg void OnFilePrint();
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PostNcDestroy() override;
@@ -56,6 +70,10 @@ protected:
     CDocument* m_pDocument = NULL; ///< not owned; set by CDocument::AddView
 
 private:
+    /// False: something went wrong of which the user knows nothing.
+    bool PrintJob(CDC& dc, CPrintInfo& info);
+    bool PrintPage(CDC& dc, CPrintInfo& info);
+
     friend class CDocument;
     friend class CFrameWnd;
 };
