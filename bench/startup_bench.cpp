@@ -84,15 +84,15 @@ private:
 };
 
 /// What nobody can do without who shows these files.
-void ReadWithoutTheLibrary(const Files& files) {
+void ReadWithoutTheLibrary(const std::wstring& folder, const Files& files) {
     for (const std::wstring* const file : {&files.ribbon, &files.menu, &files.toolbars}) {
         CXmlDocumentWrapper document;
-        CStartFrame::Require(document.Load(FileOp::GetAppPath() + *file));
+        CStartFrame::Require(document.Load(folder + *file));
     }
     for (const int side : {16, 32}) {
         for (std::size_t i = 0; i < kIconFiles; ++i) {
-            const std::wstring path = FileOp::GetAppPath() + L"pic\\modle\\" + std::to_wstring(side) + L"\\icon" +
-                                      std::to_wstring(i) + L".ico";
+            const std::wstring path =
+                folder + L"pic\\modle\\" + std::to_wstring(side) + L"\\icon" + std::to_wstring(i) + L".ico";
             const HANDLE icon = ::LoadImageW(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE);
             CStartFrame::Require(icon != nullptr);
             ::DestroyIcon(static_cast<HICON>(icon));
@@ -160,7 +160,7 @@ private:
             frame->LoadToolbars(files);
             clock.End("toolbars");
         } else {
-            ReadWithoutTheLibrary(files);
+            ReadWithoutTheLibrary(folder, files);
             clock.End("files");
         }
         frame->RecalcLayout();

@@ -122,6 +122,22 @@ public:
     virtual void DoWaitCursor(int nCode);
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
+    // Handlers for maps of derived classes, which name them as the base's: ON_COMMAND(ID_FILE_NEW,
+    // &CWinApp::OnFileNew).
+    /// A new document; where there are several kinds with names for that, the user chooses one.
+    afx_msg void OnFileNew();
+    /// Asks for a file and opens it.
+    afx_msg void OnFileOpen();
+    /// Asks the main window to close. In the map of every application for ID_APP_EXIT.
+    afx_msg void OnAppExit();
+    /// Offers WM_COMMANDHELP to the active window, then to its parents and owners; where none answers TRUE, the main
+    /// window gets the command ID_DEFAULT_HELP.
+    afx_msg void OnHelp();
+    // The index, the finder, help on help: by WinHelp.
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+
     HINSTANCE m_hInstance = nullptr;
     LPTSTR m_lpCmdLine = nullptr;
     int m_nCmdShow = SW_SHOWNORMAL;
@@ -143,21 +159,6 @@ protected:
     afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
     /// Opens one of the recent files where the application has kinds of documents; one that fails leaves the list.
     afx_msg BOOL OnOpenRecentFile(UINT nID);
-    // For maps of derived classes: ON_COMMAND(ID_FILE_NEW, &CWinApp::OnFileNew).
-    /// A new document; where there are several kinds with names for that, the user chooses one.
-    afx_msg void OnFileNew();
-    /// Asks for a file and opens it.
-    afx_msg void OnFileOpen();
-    /// Asks the main window to close. In the map of every application for ID_APP_EXIT.
-    afx_msg void OnAppExit();
-    // Help commands, for maps of derived classes (ON_COMMAND(ID_HELP, &CMyApp::OnHelp)).
-    /// Offers WM_COMMANDHELP to the active window, then to its parents and owners; where none answers TRUE, the main
-    /// window gets the command ID_DEFAULT_HELP.
-    afx_msg void OnHelp();
-    // The index, the finder, help on help: by WinHelp.
-    afx_msg void OnHelpIndex();
-    afx_msg void OnHelpFinder();
-    afx_msg void OnHelpUsing();
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -27,6 +27,8 @@ public:
     /// From OnPreparePrinting: asks for the printer and what is to be printed, unless the job is direct. FALSE: nothing
     /// is to be printed.
     BOOL DoPreparePrinting(CPrintInfo* pInfo);
+    /// The commands ID_FILE_PRINT and, without a dialog, ID_FILE_PRINT_DIRECT, for maps of derived classes.
+    afx_msg void OnFilePrint();
     /// Before every drawing on the screen (pInfo is then NULL) and of a page. The base does nothing for the screen, and
     /// ends the printing of a document whose length nobody has told behind the first page.
     virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = NULL);
@@ -50,8 +52,6 @@ protected:
     /// A page; the base calls OnDraw.
     virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
     virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
-    /// The commands ID_FILE_PRINT and, without a dialog, ID_FILE_PRINT_DIRECT, for maps of derived classes.
-    afx_msg void OnFilePrint();
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PostNcDestroy() override;
