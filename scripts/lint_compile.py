@@ -8,6 +8,7 @@ What passed is remembered in the user's cache (scripts/cache-folder), for every 
 """
 import bisect
 import concurrent.futures
+import functools
 import hashlib
 import json
 import os
@@ -48,16 +49,20 @@ def content_key(path, seen=None):
     return hashlib.sha256("".join(f"{k}{v}" for k, v in sorted(seen.items())).encode()).hexdigest() if top else None
 
 
-def run_all(jobs, settings, folder):
-    """jobs: (path, command, input text or None). Returns the number of failures."""
+def run_all(paths, job_of, settings, folder):
+    """job_of(path): (path, command, input text or None), asked of what was not checked before. Returns the number of
+    failures."""
     os.makedirs(folder, exist_ok=True)
     salt = hashlib.sha256(settings.encode()).hexdigest()
 
+    def stamp_of(path):
+        return os.path.join(folder, hashlib.sha256((salt + path + content_key(path)).encode()).hexdigest())
+
+    jobs = [job_of(path) for path in paths if not os.path.exists(stamp_of(path))]
+
     def run(job):
         path, command, text = job
-        stamp = os.path.join(folder, hashlib.sha256((salt + path + content_key(path)).encode()).hexdigest())
-        if os.path.exists(stamp):
-            return 0
+        stamp = stamp_of(path)
         result = subprocess.run(command, input=text, capture_output=True, text=True)
         if result.returncode == 0:
             open(stamp, "w").close()
@@ -78,15 +83,70 @@ SYSTEM_INCLUDES = [".deps/boost-include", ".deps/json-include", ".deps/pugixml/s
                    "/usr/src/googletest/googlemock/include"]
 
 
+# What most headers begin with, the largest first. A header that includes one of these anyway is read behind its precompiled
+# form, unless it is a part of it: that says the same of the header in a fraction of the time.
+PREFIXES = [("afxcontrolbars.h", "gtest/gtest.h"), ("afxcontrolbars.h",), ("afxwin.h", "gtest/gtest.h"), ("afxwin.h",),
+            ("windows.h",), ("gtest/gtest.h",)]
+
+
+@functools.cache
+def reached(path):
+    """The file, all of ours that it includes, and the names of everything that these include."""
+    found, pending = set(), [path]
+    while pending:
+        name = pending.pop()
+        if name in found:
+            continue
+        found.add(name)
+        if not os.path.isfile(name):
+            continue
+        for written in INCLUDE.findall(open(name, "rb").read()):
+            written = written.decode("utf-8", "replace")
+            places = [os.path.normpath(os.path.join(root, written)) for root in [os.path.dirname(name)] + INCLUDE_ROOTS]
+            pending += [written, *[place for place in places if os.path.isfile(place)][:1]]
+    return frozenset(found)
+
+
+def place_of(name):
+    """Where an include of that name leads among our files; the name itself when nowhere."""
+    places = [os.path.normpath(os.path.join(root, name)) for root in INCLUDE_ROOTS]
+    return next((place for place in places if os.path.isfile(place)), name)
+
+
+def prefix_of(path):
+    for names in PREFIXES:
+        if all(name in reached(path) for name in names) and not any(path in reached(place_of(name)) for name in names):
+            return names
+    return ()
+
+
+def precompiled(names, command):
+    """The header that includes them, with its precompiled form beside it."""
+    text = "".join(f"#include <{name}>\n" for name in names)
+    said = "".join([text, *command, *[content_key(place) for place in map(place_of, names) if os.path.isfile(place)]])
+    header = f"build/lint/prefix/{hashlib.sha256(said.encode()).hexdigest()[:16]}.h"
+    if not os.path.exists(header + ".gch"):
+        os.makedirs(os.path.dirname(header), exist_ok=True)
+        open(header, "w").write(text)
+        subprocess.run([*command, "-x", "c++-header", header, "-o", header + ".gch"], check=True)
+    return header
+
+
 def headers():
     ours = listed("*.h")
     includes = [f"-I{root}" for root in INCLUDE_ROOTS] + sum((["-isystem", folder] for folder in SYSTEM_INCLUDES), [])
     checks = [([CROSS, *WINDOWS_FLAGS], ours), (["g++", *NATIVE_FLAGS], portable(ours))]
     failures = 0
     for compiler, paths in checks:
-        command = [*compiler, *includes, "-fsyntax-only", "-x", "c++", "-"]
-        jobs = [(path, command, f'#include "{path}"\n#include "{path}"\n') for path in paths]
-        failures += run_all(jobs, " ".join(command), os.path.join(CACHE, "headers"))
+        command = [*compiler, *includes]
+        prefixes = {path: prefix_of(path) for path in paths} if compiler[0] == CROSS else {}
+
+        def checked(path):
+            names = prefixes.get(path, ())
+            begin = ["-include", precompiled(names, command)] if names else []
+            return path, [*command, *begin, "-fsyntax-only", "-x", "c++", "-"], f'#include "{path}"\n#include "{path}"\n'
+
+        failures += run_all(paths, checked, " ".join(command), os.path.join(CACHE, "headers"))
     return failures
 
 
