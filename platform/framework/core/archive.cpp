@@ -126,7 +126,9 @@ void CArchive::Flush() {
 void CArchive::Close() {
     if (m_file != nullptr) {
         Flush();
-        m_file->Flush();
+        if (IsStoring()) {
+            m_file->Flush(); // which takes the right to write
+        }
         m_file = nullptr;
     }
 }

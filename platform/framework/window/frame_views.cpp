@@ -65,7 +65,7 @@ void CFrameWnd::SetActiveView(CView* pViewNew, BOOL bNotify) {
     }
 }
 
-void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL bMakeVisible) {
+void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible) {
     CView* view = nullptr;
     if (GetActiveView() == nullptr) {
         view = DYNAMIC_DOWNCAST(CView, GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE));
@@ -75,6 +75,9 @@ void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL bMakeVisible) {
         }
     }
     SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
+    if (pDoc != nullptr) {
+        OnUpdateFrameTitle(TRUE);
+    }
     if (!bMakeVisible) {
         return;
     }

@@ -4,6 +4,8 @@
 #include <fstream>
 #include <sstream>
 
+using namespace std::string_view_literals;
+
 namespace {
 
 std::string BytesOf(const std::wstring& path) {
@@ -95,7 +97,7 @@ TEST_F(DocumentFile, ANewDocumentAsksForANameWithTheKindsExtension) {
     EXPECT_FALSE(prompt.m_isOpening);
     EXPECT_EQ(prompt.m_proposed, L"Plan.plan");
     EXPECT_EQ(prompt.m_extension, L"plan");
-    EXPECT_EQ(prompt.m_filter, std::wstring(L"Plans (*.plan)\0*.plan\0All Files (*.*)\0*.*\0", 44));
+    EXPECT_EQ(prompt.m_filter, std::wstring(L"Plans (*.plan)\0*.plan\0All Files (*.*)\0*.*\0"sv));
     EXPECT_EQ(plan->GetTitle(), L"new.plan");
     EXPECT_FALSE(plan->IsModified());
 }

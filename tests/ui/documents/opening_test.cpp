@@ -1,6 +1,8 @@
 // The application's commands for files.
 #include "plans.h"
 
+using namespace std::string_view_literals;
+
 namespace {
 
 class Opening : public DocumentTest {
@@ -75,7 +77,7 @@ TEST_F(Opening, OpenAsksForAFileOfAnyKind) {
     m_main->SendMessage(WM_COMMAND, ID_FILE_OPEN);
     EXPECT_TRUE(prompt.m_isOpening);
     EXPECT_EQ(prompt.m_filter,
-              std::wstring(L"Plans (*.plan)\0*.plan\0Notes (*.note)\0*.note\0All Files (*.*)\0*.*\0", 66));
+              std::wstring(L"Plans (*.plan)\0*.plan\0Notes (*.note)\0*.note\0All Files (*.*)\0*.*\0"sv));
     EXPECT_EQ(Plan::s_count, 1);
 }
 

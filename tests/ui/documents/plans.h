@@ -182,6 +182,9 @@ protected:
         }
         g_application.m_pMainWnd = nullptr;
         PumpPending();
+        // A main window that goes ends the program; here others follow.
+        MSG quit;
+        ::PeekMessageW(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
         EXPECT_EQ(Plan::s_count, 0);
         EXPECT_EQ(PlanView::s_count, 0);
         EXPECT_EQ(PlanFrame::s_count, 0);

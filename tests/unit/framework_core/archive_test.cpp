@@ -179,6 +179,27 @@ TEST(Archive, WorksOnADiskFileWithASmallBuffer) {
     EXPECT_THROW(CFile(name, CFile::modeRead), CFileException*);
 }
 
+TEST(Archive, AReaderClosesOnAFileThatMayNotBeWritten) {
+    wchar_t folder[MAX_PATH] = {}, path[MAX_PATH] = {};
+    ::GetTempPathW(MAX_PATH, folder);
+    ::GetTempFileNameW(folder, L"ar", 0, path);
+    {
+        CFile file(path, CFile::modeCreate | CFile::modeWrite);
+        CArchive archive(&file, CArchive::store);
+        archive << 42;
+        archive.Close();
+    }
+    {
+        CFile file(path, CFile::modeRead | CFile::shareDenyWrite);
+        CArchive archive(&file, CArchive::load);
+        int number = 0;
+        archive >> number;
+        EXPECT_NO_THROW(archive.Close());
+        EXPECT_EQ(number, 42);
+    }
+    CFile::Remove(path);
+}
+
 TEST(Archive, ClosingAReaderLeavesTheFileBehindWhatWasRead) {
     CMemFile file;
     StoreTo(file, [](CArchive& ar) { ar << 1 << 2; });
