@@ -20,7 +20,7 @@ class CXmlNodeWrapper;
 /// bars in named groups. The host makes one for its frame, on the user-interface thread, calls Load, EnableDocking and
 /// DockPane, and keeps it as long as the frame.
 ///
-/// A bar that Load makes belongs to its window, which the frame destroys, and to the creaters that remember it: it is
+/// A bar that Load makes belongs to its window, which the frame destroys, and to the objects that remember it: it is
 /// deleted when neither is left. Copies share the bars. Bars without a window any more are passed over by all but
 /// GetAllToolBar and GetGroupedToolBars.
 class BARWRIGHT_API CDynToolBarCreater {
