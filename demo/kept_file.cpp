@@ -63,10 +63,19 @@ bool KeptFile::Write(const std::string& text) const {
         fs::remove(fresh, error);
         return false;
     }
-    fs::copy_file(m_path, Beside(".last"), fs::copy_options::overwrite_existing, error);
+    // Renamed, not copied: copy_file does not overwrite on Windows, where the standard library of GCC takes any two files
+    // for the same one.
+    const fs::path lastGood = Beside(".last");
+    const bool isReplaced = fs::exists(m_path, error);
+    if (isReplaced) {
+        fs::rename(m_path, lastGood, error);
+    }
     fs::rename(fresh, m_path, error);
     if (error) {
         std::error_code ignored;
+        if (isReplaced) {
+            fs::rename(lastGood, m_path, ignored);
+        }
         fs::remove(fresh, ignored);
         return false;
     }

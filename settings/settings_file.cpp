@@ -206,7 +206,10 @@ SettingsFile::Source SettingsFile::Load(KeptSettings& settings) const {
         return Source::File;
     }
     if (isThere) {
-        fs::copy_file(file, Beside(m_path, L".damaged"), fs::copy_options::overwrite_existing, error);
+        // Overwriting fails on Windows: there the standard library of GCC takes any two files for the same one.
+        const fs::path damaged = Beside(m_path, L".damaged");
+        fs::remove(damaged, error);
+        fs::copy_file(file, damaged, error);
     }
     if (std::optional<KeptSettings> read = isLastThere ? ReadFile(lastGood) : std::nullopt) {
         settings = std::move(*read);

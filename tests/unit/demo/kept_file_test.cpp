@@ -66,6 +66,14 @@ TEST_F(KeptFileOnDisk, ADamagedFileNeverBecomesTheLastGoodOne) {
     EXPECT_EQ(TextOf("viewer.json.last"), "good 1");
 }
 
+TEST_F(KeptFileOnDisk, EveryWriteRenewsTheLastGoodOne) {
+    for (const char* text : {"good 1", "good 2", "good 3"}) {
+        EXPECT_TRUE(m_file.Write(text));
+    }
+    EXPECT_EQ(TextOf("viewer.json.last"), "good 2");
+    EXPECT_EQ(TextOf("viewer.json"), "good 3");
+}
+
 TEST_F(KeptFileOnDisk, WhereBothAreDamagedItSaysSo) {
     m_file.Write("good 1");
     m_file.Write("good 2");
