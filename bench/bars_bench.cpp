@@ -179,8 +179,21 @@ CBarsApp s_app;
 } // namespace
 
 BENCHMARK(LoadMenu)->Name("LoadMenu")->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
-BENCHMARK(LoadMenuFloor)->Name("LoadMenu/floor")->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadMenuFloor)
+    ->Name("LoadMenu/floor: the file parsed, a menu of the system")
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(5000)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadToolbars)->Name("LoadToolbars")->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
-BENCHMARK(LoadToolbarsFloor)->Name("LoadToolbars/floor")->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadToolbarsFloor)
+    ->Name("LoadToolbars/floor: the file parsed, each icon file once")
+    ->Arg(100)
+    ->Arg(1000)
+    ->Arg(5000)
+    ->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenMenu)->Name("OpenMenu")->Arg(kLongMenu)->Unit(benchmark::kMillisecond);
-BENCHMARK(OpenMenuFloor)->Name("OpenMenu/floor")->Arg(kLongMenu)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenMenuFloor)
+    ->Name("OpenMenu/floor: an empty window, the texts measured")
+    ->Arg(kLongMenu)
+    ->Unit(benchmark::kMillisecond);
