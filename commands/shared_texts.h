@@ -1,6 +1,6 @@
 #pragma once
 
-#include <atlstr.h>
+#include <afxwin.h>
 
 #include <cstddef>
 #include <map>

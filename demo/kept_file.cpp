@@ -63,8 +63,8 @@ bool KeptFile::Write(const std::string& text) const {
         fs::remove(fresh, error);
         return false;
     }
-    // Renamed, not copied: copy_file does not overwrite on Windows, where the standard library of GCC takes any two files
-    // for the same one.
+    // Renamed, not copied: copy_file does not overwrite on Windows, where the standard library of GCC takes any two
+    // files for the same one.
     const fs::path lastGood = Beside(".last");
     const bool isReplaced = fs::exists(m_path, error);
     if (isReplaced) {
