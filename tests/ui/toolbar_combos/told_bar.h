@@ -4,6 +4,7 @@
 #include "toolbar_combos.h"
 
 #include <afxframewndex.h>
+#include <afxtoolbar.h>
 
 #include <utility>
 
