@@ -1,6 +1,6 @@
 #pragma once
 
-#include "map_data.h"
+#include "demo/map_data.h"
 #include "tests/support/message_pump.h"
 #include "tests/support/ui_test.h"
 
