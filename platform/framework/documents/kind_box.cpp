@@ -2,6 +2,7 @@
 
 #include "afxwin.h"
 #include "fx/doc_template.h"
+#include "toolbar/customize_texts.h"
 #include "window/dialog_template.h"
 
 namespace fx {
@@ -9,15 +10,15 @@ namespace fx {
 namespace {
 
 /// Among the framework's texts.
-enum KindText : UINT { kTitle = 17250, kQuestion, kOk, kCancel };
+enum KindText : UINT { kTitle = 17280, kQuestion };
 
 constexpr int kList = 1001;
 
 constexpr DialogItem kItems[] = {
     {-1, kQuestion, 7, 7, 146, 8},
     {kList, 0, 7, 18, 146, 60, DialogControl::ListBox, LBS_NOTIFY | WS_BORDER | WS_VSCROLL | WS_TABSTOP},
-    {IDOK, kOk, 49, 85, 50, 14, DialogControl::Button, BS_DEFPUSHBUTTON | WS_TABSTOP},
-    {IDCANCEL, kCancel, 103, 85, 50, 14, DialogControl::Button, BS_PUSHBUTTON | WS_TABSTOP},
+    {IDOK, toolbar::kOkText, 49, 85, 50, 14, DialogControl::Button, BS_DEFPUSHBUTTON | WS_TABSTOP},
+    {IDCANCEL, toolbar::kCancelText, 103, 85, 50, 14, DialogControl::Button, BS_PUSHBUTTON | WS_TABSTOP},
 };
 
 class KindBox : public CDialog {

@@ -1,5 +1,6 @@
 #include "documents/print_progress.h"
 
+#include "toolbar/customize_texts.h"
 #include "window/dialog_template.h"
 
 namespace fx {
@@ -7,14 +8,14 @@ namespace fx {
 namespace {
 
 /// Among the framework's texts.
-enum ProgressText : UINT { kCancelText = 17253, kTitleText, kPrintingText };
+enum ProgressText : UINT { kTitleText = 17282, kPrintingText };
 
 constexpr int kJob = 1001;
 
 constexpr DialogItem kItems[] = {
     {-1, kPrintingText, 7, 7, 146, 8},
     {kJob, 0, 7, 18, 146, 8},
-    {IDCANCEL, kCancelText, 55, 34, 50, 14, DialogControl::Button, BS_DEFPUSHBUTTON | WS_TABSTOP},
+    {IDCANCEL, toolbar::kCancelText, 55, 34, 50, 14, DialogControl::Button, BS_DEFPUSHBUTTON | WS_TABSTOP},
 };
 
 thread_local bool t_isCancelled = false;

@@ -102,10 +102,13 @@ TEST_F(Opening, TheCommandLinesFileThatIsNotThereEndsTheStart) {
 TEST_F(Opening, WithSeveralKindsTheUserChoosesAndMayLeaveIt) {
     // The dialog is modal: a timer answers it.
     static int s_answer = IDCANCEL;
+    static CString s_title, s_ok;
     const auto answer = [](HWND, UINT, UINT_PTR timer, DWORD) {
         const HWND dialog = ::GetLastActivePopup(::GetActiveWindow());
         if (dialog != nullptr && ::GetDlgItem(dialog, IDOK) != nullptr) {
             ::KillTimer(nullptr, timer);
+            CWnd::FromHandle(dialog)->GetWindowText(s_title);
+            CWnd::FromHandle(dialog)->GetDlgItemText(IDOK, s_ok);
             ::SendMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(s_answer), 0);
         }
     };
@@ -117,6 +120,8 @@ TEST_F(Opening, WithSeveralKindsTheUserChoosesAndMayLeaveIt) {
         ::SetTimer(nullptr, 0, 20, answer);
         m_main->SendMessage(WM_COMMAND, ID_FILE_NEW);
         EXPECT_EQ(Plan::s_count, documents);
+        EXPECT_EQ(s_title, L"New");
+        EXPECT_EQ(s_ok, L"OK");
     }
 }
 
