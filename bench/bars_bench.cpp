@@ -100,7 +100,7 @@ void LoadToolbarsFloor(benchmark::State& state) {
     for (auto _ : state) {
         Parse(file, state);
         for (std::size_t i = 0; i < kIconFiles; ++i) {
-            const std::wstring icon = FullName(L"pic\\modle\\16\\icon" + std::to_wstring(i) + L".ico");
+            const std::wstring icon = ScenarioIcon(FullName(L""), kIconSide, i);
             ::DestroyIcon(static_cast<HICON>(
                 ::LoadImageW(nullptr, icon.c_str(), IMAGE_ICON, kIconSide, kIconSide, LR_LOADFROMFILE)));
         }

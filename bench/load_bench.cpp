@@ -41,8 +41,7 @@ void Load(benchmark::State& state) {
 }
 
 void TryIcon(const std::wstring& root, std::size_t number, int side, benchmark::State& state) {
-    const std::wstring path =
-        root + L"pic\\modle\\" + std::to_wstring(side) + L"\\icon" + std::to_wstring(number) + L".ico";
+    const std::wstring path = ScenarioIcon(root, side, number);
     const HANDLE icon = ::LoadImage(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE);
     if (!icon) {
         state.SkipWithError("an icon could not be loaded");

@@ -31,8 +31,8 @@ ScenarioDirectory& Scenario() {
 
 CString IconPath(int side, int index) {
     static const bool isMade = (Scenario().AddRibbonFile(100, kIconFiles), true);
-    const std::wstring path = Scenario().Path().wstring() + L"\\pic\\modle\\" + std::to_wstring(side) + L"\\icon" +
-                              std::to_wstring(index % static_cast<int>(kIconFiles)) + L".ico";
+    const std::wstring path =
+        ScenarioIcon(Scenario().Path().wstring() + L"\\", side, static_cast<std::size_t>(index) % kIconFiles);
     return isMade ? path.c_str() : L"";
 }
 

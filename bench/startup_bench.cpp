@@ -91,8 +91,7 @@ void ReadWithoutTheLibrary(const std::wstring& folder, const Files& files) {
     }
     for (const int side : {16, 32}) {
         for (std::size_t i = 0; i < kIconFiles; ++i) {
-            const std::wstring path =
-                folder + L"pic\\modle\\" + std::to_wstring(side) + L"\\icon" + std::to_wstring(i) + L".ico";
+            const std::wstring path = ScenarioIcon(folder, side, i);
             const HANDLE icon = ::LoadImageW(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE);
             CStartFrame::Require(icon != nullptr);
             ::DestroyIcon(static_cast<HICON>(icon));

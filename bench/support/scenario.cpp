@@ -168,6 +168,10 @@ std::string MakeTable(const std::vector<std::string>& files, const std::string& 
     return text + "  </file>\n</xliff>\n";
 }
 
+std::wstring ScenarioIcon(const std::wstring& folder, int side, std::size_t number) {
+    return folder + L"pic\\modle\\" + std::to_wstring(side) + L"\\icon" + std::to_wstring(number) + L".ico";
+}
+
 ScenarioDirectory::ScenarioDirectory() {
     std::random_device device;
     m_path = std::filesystem::temp_directory_path() / ("barwright-bench-" + std::to_string(device()));

@@ -23,6 +23,9 @@ std::string MakeToolbarFile(std::size_t buttons, std::size_t iconFiles);
 /// translated from English.
 std::string MakeTable(const std::vector<std::string>& files, const std::string& language);
 
+/// Where AddRibbonFile puts the icon file of that number, in pixels a side; `folder` with its closing separator.
+std::wstring ScenarioIcon(const std::wstring& folder, int side, std::size_t number);
+
 /// A new directory below the temporary one, removed with all it holds at the end.
 class ScenarioDirectory {
 public:
