@@ -15,7 +15,8 @@ void CViewerRibbon::SetQuickAccessMenuTip(const CString& text) {
     }
 }
 
-// A switch of the skin ends the look that gives the button its height. What is painted on the way would be seen.
+// A switch of the skin ends the look that gives the button its height. What is painted on the way would be painted
+// twice.
 void CViewerRibbon::ChangeSkinColor(int nStyle, bool bFlag) {
     {
         const fx::ScopedChange<bool> between(m_isBetweenSkins, true);
