@@ -1,5 +1,7 @@
 #include "fx/file.h"
 
+#include "core/file_path.h"
+
 #include <memory>
 
 IMPLEMENT_DYNAMIC(CFile, CObject)
@@ -48,16 +50,6 @@ DWORD Attributes(UINT flags) {
     return attributes;
 }
 
-CString FullPath(LPCTSTR name) {
-    const DWORD size = ::GetFullPathName(name, 0, nullptr, nullptr);
-    CString path;
-    if (size > 0) {
-        ::GetFullPathName(name, size, path.GetBuffer(static_cast<int>(size)), nullptr);
-        path.ReleaseBuffer();
-    }
-    return path.IsEmpty() ? CString(name) : path;
-}
-
 [[noreturn]] void ThrowLastError(LPCTSTR name) {
     CFileException::ThrowOsError(static_cast<LONG>(::GetLastError()), name);
 }
@@ -83,7 +75,7 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) 
     ENSURE(lpszFileName != nullptr);
     ASSERT(m_hFile == hFileNull);
     SECURITY_ATTRIBUTES security = {sizeof(security), nullptr, (nOpenFlags & modeNoInherit) == 0};
-    m_strFileName = FullPath(lpszFileName);
+    m_strFileName = fx::FullPathOf(lpszFileName);
     m_hFile = ::CreateFile(lpszFileName, Access(nOpenFlags), ShareMode(nOpenFlags), &security, Disposition(nOpenFlags),
                            Attributes(nOpenFlags), nullptr);
     m_bCloseOnDelete = m_hFile != hFileNull;

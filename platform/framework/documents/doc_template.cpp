@@ -2,8 +2,8 @@
 
 #include "afxext.h"
 #include "afxwin.h"
+#include "core/file_path.h"
 #include "fx/document.h"
-#include "window/file_path.h"
 
 #include <memory>
 #include <utility>

@@ -2,10 +2,10 @@
 #include "fx/document.h"
 
 #include "afxwin.h"
+#include "core/file_path.h"
 #include "documents/file_prompt.h"
 #include "fx/archive.h"
 #include "fx/doc_template.h"
-#include "window/file_path.h"
 
 #include <array>
 #include <memory>

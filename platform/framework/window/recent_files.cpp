@@ -1,7 +1,7 @@
 // Recent files: the list, its menu items, and what the application does with it.
 #include "afxadv.h"
 
-#include "window/file_path.h"
+#include "core/file_path.h"
 #include "window/menu_items.h"
 
 #include <algorithm>

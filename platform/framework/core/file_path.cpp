@@ -1,4 +1,4 @@
-#include "window/file_path.h"
+#include "core/file_path.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "afxwin.h"
+#include <atlstr.h>
 
 namespace fx {
 
