@@ -1,7 +1,7 @@
 #include "fx/doc_template.h"
 
 #include "afxwin.h"
-#include "fx/document.h"
+#include "window/document_frame.h"
 
 IMPLEMENT_DYNAMIC(CSingleDocTemplate, CDocTemplate)
 
@@ -43,9 +43,7 @@ CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddT
         return nullptr;
     }
     if (!isNew) {
-        POSITION place = document->GetFirstViewPosition();
-        const CView* const view = document->GetNextView(place);
-        frame = view != nullptr ? view->GetParentFrame() : nullptr;
+        frame = fx::FirstFrameOf(*document);
     }
     if (!FillDocument(*document, lpszPathName, bAddToMRU, isNew)) {
         if (isNew) {

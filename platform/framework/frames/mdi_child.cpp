@@ -183,10 +183,8 @@ void CMDIChildWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
         frame->OnUpdateFrameTitle(bAddToTitle);
     }
     const CString title = DocumentTitle();
-    CString shown;
-    GetWindowText(shown);
-    if ((GetStyle() & FWS_ADDTOTITLE) != 0 && !title.IsEmpty() && title != shown) {
-        SetWindowText(title);
+    if ((GetStyle() & FWS_ADDTOTITLE) != 0 && !title.IsEmpty()) {
+        fx::SetTitle(*this, title);
     }
 }
 

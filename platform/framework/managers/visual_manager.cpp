@@ -8,6 +8,7 @@
 #include "visual/canvas.h"
 #include "visual/manager_instance.h"
 #include "visual/system_skins.h"
+#include "window/thread_windows.h"
 
 #include <algorithm>
 #include <vector>
@@ -17,11 +18,6 @@ IMPLEMENT_DYNCREATE(CMFCVisualManager, CMFCBaseVisualManager)
 namespace {
 
 CRuntimeClass* g_managerClass = nullptr; ///< as the host chose; null: the default
-
-BOOL CALLBACK Collect(HWND window, LPARAM list) {
-    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-    return TRUE;
-}
 
 CMFCVisualManager* MakeManager() {
     CRuntimeClass* const wanted = g_managerClass != nullptr ? g_managerClass : RUNTIME_CLASS(CMFCVisualManager);
@@ -33,8 +29,7 @@ CMFCVisualManager* MakeManager() {
 
 /// Top-level windows of this thread that the framework knows: its frames, floating panes and pop-ups.
 std::vector<HWND> FrameworkWindows() {
-    std::vector<HWND> windows;
-    EnumThreadWindows(GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
+    std::vector<HWND> windows = fx::ThreadWindows();
     std::erase_if(windows, [](HWND window) { return CWnd::FromHandlePermanent(window) == nullptr; });
     return windows;
 }
@@ -97,9 +92,7 @@ void __stdcall CMFCVisualManager::AdjustFrames() {
 
 void __stdcall CMFCVisualManager::AdjustToolbars() {
     for (const HWND frame : FrameworkWindows()) {
-        std::vector<HWND> bars;
-        EnumChildWindows(frame, &Collect, reinterpret_cast<LPARAM>(&bars));
-        for (const HWND bar : bars) {
+        for (const HWND bar : fx::DescendantsOf(frame)) {
             CWnd* const window = CWnd::FromHandlePermanent(bar);
             if (window != nullptr && window->IsKindOf(RUNTIME_CLASS(CBasePane))) {
                 ::SendMessageW(bar, AFX_WM_CHANGEVISUALMANAGER, 0, 0);

@@ -82,14 +82,6 @@ LRESULT Leave(HWND window, SUBCLASSPROC procedure, WPARAM wParam, LPARAM lParam,
     return ::DefSubclassProc(window, WM_NCDESTROY, wParam, lParam);
 }
 
-CString TextOf(HWND window) {
-    CString text;
-    const int length = ::GetWindowTextLengthW(window);
-    ::GetWindowTextW(window, text.GetBuffer(length + 1), length + 1);
-    text.ReleaseBuffer();
-    return text;
-}
-
 bool HidesCue(HWND window, UINT cue) { return (::SendMessageW(window, WM_QUERYUISTATE, 0, 0) & cue) != 0; }
 
 void DrawFocus(CDC& dc, HWND window, CRect rect) {
@@ -116,7 +108,9 @@ void PaintButton(HWND window, CDC& dc, const Look& look) {
     const bool isDefault = (::GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
     dc.FillSolidRect(rect, isPressed ? look.pressedFace : look.face);
     dc.Draw3dRect(rect, isDefault ? look.text : look.border, isDefault ? look.text : look.border);
-    DrawLabel(dc, window, TextOf(window), rect, isEnabled ? look.text : look.dimmedText);
+    CString text;
+    CWnd::FromHandle(window)->GetWindowText(text);
+    DrawLabel(dc, window, text, rect, isEnabled ? look.text : look.dimmedText);
     DrawFocus(dc, window, rect);
 }
 

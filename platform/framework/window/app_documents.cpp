@@ -1,14 +1,12 @@
 // The application's kinds of documents.
 #include "afxwin.h"
 #include "fx/doc_template.h"
-#include "fx/document.h"
+#include "window/document_frame.h"
 
 namespace {
 
 void BringToFront(const CDocument& document) {
-    POSITION place = document.GetFirstViewPosition();
-    const CView* const view = document.GetNextView(place);
-    CFrameWnd* const frame = view != nullptr ? view->GetParentFrame() : nullptr;
+    CFrameWnd* const frame = fx::FirstFrameOf(document);
     if (frame == nullptr) {
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "afxext.h"
 #include "fx/scoped_change.h"
+#include "window/frame_title.h"
 
 #include <utility>
 
@@ -113,8 +114,6 @@ void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
     if ((GetStyle() & FWS_ADDTOTITLE) == 0) {
         return;
     }
-    CString shown;
-    GetWindowText(shown);
     CString title = m_strTitle;
     CString added;
     if (CFrameWnd* const active = bAddToTitle ? GetActiveFrame() : nullptr) {
@@ -126,10 +125,7 @@ void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
     if (!added.IsEmpty()) {
         title = (GetStyle() & FWS_PREFIXTITLE) ? added + L" - " + m_strTitle : m_strTitle + L" - " + added;
     }
-    // Setting an equal text would flicker.
-    if (title != shown) {
-        SetWindowText(title);
-    }
+    fx::SetTitle(*this, title);
 }
 
 void CFrameWnd::OnUpdateFrameMenu(HMENU hMenuAlt) {

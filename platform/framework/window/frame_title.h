@@ -14,4 +14,13 @@ inline CString FrameTitleOf(UINT resourceId) {
     return title;
 }
 
+/// Sets another text only: an equal one would flicker.
+inline void SetTitle(CWnd& window, const CString& title) {
+    CString shown;
+    window.GetWindowText(shown);
+    if (title != shown) {
+        window.SetWindowText(title);
+    }
+}
+
 } // namespace fx

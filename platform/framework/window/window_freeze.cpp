@@ -3,16 +3,12 @@
 #include "afxwin.h"
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
+#include "window/thread_windows.h"
 #include "window/window_picture.h"
 
 namespace {
 
 thread_local int t_depth = 0;
-
-BOOL CALLBACK Collect(HWND window, LPARAM list) {
-    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-    return TRUE;
-}
 
 bool IsShownFrame(HWND window) {
     const LONG style = ::GetWindowLongW(window, GWL_STYLE);
@@ -21,8 +17,7 @@ bool IsShownFrame(HWND window) {
 }
 
 std::vector<HWND> ShownFrames() {
-    std::vector<HWND> windows;
-    ::EnumThreadWindows(::GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
+    std::vector<HWND> windows = fx::ThreadWindows();
     std::erase_if(windows, [](HWND window) { return !IsShownFrame(window); });
     return windows;
 }
