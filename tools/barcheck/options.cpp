@@ -1,12 +1,12 @@
 #include "options.h"
 
 #include "config/check/file_kind.h"
+#include "option_table.h"
 
 #include <varnhold/strings.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <functional>
 
 namespace {
 
@@ -21,70 +21,54 @@ constexpr FormatName kFormats[] = {
     {L"github", ReportFormat::Github},
 };
 
-bool SetFormat(BarcheckOptions& options, const std::wstring& value) {
-    const auto* const found = std::ranges::find(kFormats, value, &FormatName::name);
-    if (found == std::end(kFormats)) {
-        return false;
-    }
-    options.format = found->format;
-    return true;
-}
-
 /// A language's code is the name of a folder.
 bool IsCode(const std::wstring& value) {
     return !value.empty() && value.find_first_of(L"\\/:") == std::wstring::npos && value.front() != L'.';
 }
 
-bool SetLanguage(BarcheckOptions& options, const std::wstring& value) {
-    options.language = value;
-    return IsCode(value);
+OptionTable OptionsOf(BarcheckOptions& options) {
+    using Task = BarcheckOptions::Task;
+    const auto setFormat = [&options](const std::wstring& value) {
+        const auto* const found = std::ranges::find(kFormats, value, &FormatName::name);
+        if (found != std::end(kFormats)) {
+            options.format = found->format;
+        }
+        return found != std::end(kFormats);
+    };
+    const auto setLanguage = [&options](const std::wstring& value) {
+        options.language = value;
+        return IsCode(value);
+    };
+    const auto setExtract = [&options](const std::wstring& value) {
+        options.task = Task::Extract;
+        options.extract = value;
+        return IsCode(value);
+    };
+    const auto setModels = [&options](const std::wstring& value) {
+        options.task = Task::Models;
+        options.list = value;
+        return !value.empty();
+    };
+    const auto setSchema = [&options](const std::wstring& value) {
+        options.task = Task::Schema;
+        options.schema = KindNamed(value);
+        return options.schema || value == L"table";
+    };
+    const auto doTask = [&options](Task task) { return [&options, task] { options.task = task; }; };
+    OptionTable table;
+    table.Add(L"--format", setFormat)
+        .Add(L"--lang", setLanguage)
+        .Add(L"--extract", setExtract)
+        .Add(L"--models", setModels)
+        .Add(L"--schema", setSchema)
+        .AddFlag(L"--strict", options.isStrict)
+        .AddSwitch(L"--model", doTask(Task::Model))
+        .AddSwitch(L"--guide", doTask(Task::Guide))
+        .AddSwitch(L"--attributes", doTask(Task::Attributes))
+        .AddSwitch(L"--help", doTask(Task::Help))
+        .AddSwitch(L"-h", doTask(Task::Help));
+    return table;
 }
-
-bool SetExtract(BarcheckOptions& options, const std::wstring& value) {
-    options.task = BarcheckOptions::Task::Extract;
-    options.extract = value;
-    return IsCode(value);
-}
-
-bool SetModels(BarcheckOptions& options, const std::wstring& value) {
-    options.task = BarcheckOptions::Task::Models;
-    options.list = value;
-    return !value.empty();
-}
-
-struct Option {
-    std::wstring_view name;
-    bool hasValue;
-    bool (*set)(BarcheckOptions& options, const std::wstring& value);
-};
-
-bool SetSchema(BarcheckOptions& options, const std::wstring& value) {
-    options.task = BarcheckOptions::Task::Schema;
-    options.schema = KindNamed(value);
-    return options.schema || value == L"table";
-}
-
-bool SetStrict(BarcheckOptions& options, const std::wstring& /*value*/) { return options.isStrict = true; }
-
-template <BarcheckOptions::Task task>
-bool SetTask(BarcheckOptions& options, const std::wstring& /*value*/) {
-    options.task = task;
-    return true;
-}
-
-constexpr Option kOptions[] = {
-    {L"--format", true, SetFormat},
-    {L"--lang", true, SetLanguage},
-    {L"--extract", true, SetExtract},
-    {L"--schema", true, SetSchema},
-    {L"--strict", false, SetStrict},
-    {L"--model", false, SetTask<BarcheckOptions::Task::Model>},
-    {L"--models", true, SetModels},
-    {L"--guide", false, SetTask<BarcheckOptions::Task::Guide>},
-    {L"--attributes", false, SetTask<BarcheckOptions::Task::Attributes>},
-    {L"--help", false, SetTask<BarcheckOptions::Task::Help>},
-    {L"-h", false, SetTask<BarcheckOptions::Task::Help>},
-};
 
 #ifdef _WIN32
 constexpr wchar_t kSeparator = L'\\';
@@ -139,23 +123,13 @@ bool CheckDirectory(BarcheckOptions& options, std::wstring& error) {
 
 std::optional<BarcheckOptions> ParseBarcheckOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {
     BarcheckOptions options;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::wstring& argument = arguments[i];
-        const auto* const option = std::ranges::find(kOptions, argument, &Option::name);
-        if (option != std::end(kOptions)) {
-            const bool hasValue = !option->hasValue || ++i < arguments.size();
-            if (!hasValue || !option->set(options, option->hasValue ? arguments[i] : argument)) {
-                error = argument + L" needs a proper value";
-                return std::nullopt;
-            }
-        } else if (argument.starts_with(L"-")) {
-            error = L"unknown option " + argument;
-            return std::nullopt;
-        } else if (options.directory.empty()) {
-            options.directory = argument;
-        } else {
-            options.files.push_back(argument);
-        }
+    std::vector<std::wstring> words;
+    if (!OptionsOf(options).Read(arguments, OptionTable::kAnyNumber, words, error)) {
+        return std::nullopt;
+    }
+    if (!words.empty()) {
+        options.directory = words.front();
+        options.files.assign(words.begin() + 1, words.end());
     }
     const bool needsDirectory =
         options.task != BarcheckOptions::Task::Guide && options.task != BarcheckOptions::Task::Attributes &&

@@ -29,7 +29,15 @@ OptionTable& OptionTable::Add(const std::wstring& name, Setter setter) {
 }
 
 OptionTable& OptionTable::AddFlag(const std::wstring& name, bool& target) {
-    m_options.push_back({name, [&target](const std::wstring&) { return target = true; }, false});
+    return AddSwitch(name, [&target] { target = true; });
+}
+
+OptionTable& OptionTable::AddSwitch(const std::wstring& name, std::function<void()> set) {
+    const Setter setter = [set = std::move(set)](const std::wstring&) {
+        set();
+        return true;
+    };
+    m_options.push_back({name, setter, false});
     return *this;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
@@ -13,6 +14,8 @@ public:
     OptionTable& Add(const std::wstring& name, Setter setter);
     /// An option without a value.
     OptionTable& AddFlag(const std::wstring& name, bool& target);
+    /// The same, of which more is made than a mark.
+    OptionTable& AddSwitch(const std::wstring& name, std::function<void()> set);
     /// Any text but none.
     OptionTable& AddText(const std::wstring& name, std::wstring& target);
     /// The same, as often as it is wanted.
@@ -23,6 +26,7 @@ public:
     /// "WxH", each from 1 to `largest`.
     OptionTable& AddSize(const std::wstring& name, int largest, int& width, int& height);
 
+    static constexpr std::size_t kAnyNumber = static_cast<std::size_t>(-1);
     /// What stands beside the options goes into `words`, of which there may be as many as `mostWords`. False, with a
     /// line in `error`, at the first argument that makes no sense.
     bool Read(const std::vector<std::wstring>& arguments, std::size_t mostWords, std::vector<std::wstring>& words,

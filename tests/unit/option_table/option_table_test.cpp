@@ -14,7 +14,8 @@ protected:
             .AddChoice(L"--skin", {L"black", L"silver"}, skin)
             .AddNumber(L"--scale", -50, 400, number)
             .AddSize(L"--size", 1000, width, height)
-            .AddFlag(L"--watch", isWatched);
+            .AddFlag(L"--watch", isWatched)
+            .AddSwitch(L"--more", [this] { ++times; });
     }
     bool Read(const Words& arguments, std::size_t mostWords = 1) {
         words.clear();
@@ -25,7 +26,7 @@ protected:
     OptionTable table;
     Words words, files;
     std::wstring text = L"as it was", skin = L"silver", error;
-    int number = 7, width = 640, height = 480;
+    int number = 7, times = 0, width = 640, height = 480;
     bool isWatched = false;
 };
 
@@ -35,6 +36,17 @@ TEST_F(OptionTableTest, AFlagTakesNoValue) {
     EXPECT_TRUE(Read({L"--watch", L"word"}));
     EXPECT_TRUE(isWatched);
     EXPECT_EQ(words, (Words{L"word"}));
+}
+
+TEST_F(OptionTableTest, ASwitchIsThrownEachTimeItIsNamed) {
+    EXPECT_TRUE(Read({L"--more", L"word", L"--more"}));
+    EXPECT_EQ(times, 2);
+    EXPECT_EQ(words, (Words{L"word"}));
+}
+
+TEST_F(OptionTableTest, AnyNumberOfWordsMayBeAllowed) {
+    EXPECT_TRUE(Read({L"one", L"two", L"--watch", L"three"}, OptionTable::kAnyNumber));
+    EXPECT_EQ(words, (Words{L"one", L"two", L"three"}));
 }
 
 TEST_F(OptionTableTest, EachOptionTakesTheValueBehindIt) {
