@@ -39,7 +39,6 @@ private:
     struct Relief;
 
     void PaintShapes(HDC dc, const MapState& state, const MapPaintStyle& style);
-    void PaintTexts(HDC dc, const MapState& state, const MapPaintStyle& style);
     bool PaintRelief(Gdiplus::Graphics& graphics, const Gdiplus::RectF& world);
 
     const MapData& m_data;
