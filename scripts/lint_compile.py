@@ -17,36 +17,30 @@ import shlex
 import subprocess
 import sys
 
+import includes
+
 ROOT = os.getcwd()
 CROSS = "x86_64-w64-mingw32-g++-posix"
 WINDOWS_FLAGS = ["-std=c++20", "-fms-extensions", "-Wall", "-Wextra", "-Werror", "-Wno-unknown-pragmas", "-DUNICODE", "-D_UNICODE",
                  "-DNOMINMAX", "-DWINVER=0x0A00", "-D_WIN32_WINNT=0x0A00", "-D_WIN32_IE=0x0A00"]
 NATIVE_FLAGS = ["-std=c++20", "-Wall", "-Wextra", "-Werror", "-Wno-unknown-pragmas"]
-INCLUDE_ROOTS = ["platform/framework/include", "platform/varnhold/include", "platform/tovasque/include", "include", ".",
-                 "platform/framework", "platform/varnhold", "platform/tovasque"]
-INCLUDE = re.compile(rb'^\s*#\s*include\s+["<]([^">]+)[">]', re.M)
+INCLUDE_ROOTS = ("platform/framework/include", "platform/varnhold/include", "platform/tovasque/include", "include", ".",
+                 "platform/framework", "platform/varnhold", "platform/tovasque")
 BATCH = 12  # sources that clang-tidy reads in one go, at most about
-_content = {}
 CACHE = subprocess.run(["scripts/cache-folder", "lint"], check=True, capture_output=True, text=True).stdout.strip()
 
 
-def content_key(path, seen=None):
+@functools.cache
+def digest(path):
+    with open(path, "rb") as file:
+        return hashlib.sha256(file.read()).hexdigest()
+
+
+@functools.cache
+def content_key(path):
     """Hash of a file and of all our files that it includes."""
-    top = seen is None
-    seen = {} if top else seen
-    if path in seen:
-        return None
-    data = _content.get(path)
-    if data is None:
-        data = _content[path] = open(path, "rb").read()
-    seen[path] = hashlib.sha256(data).hexdigest()
-    for name in INCLUDE.findall(data):
-        for root in [os.path.dirname(path)] + INCLUDE_ROOTS:
-            candidate = os.path.normpath(os.path.join(root, name.decode("utf-8", "replace")))
-            if os.path.isfile(candidate) and not os.path.isabs(candidate):
-                content_key(candidate, seen)
-                break
-    return hashlib.sha256("".join(f"{k}{v}" for k, v in sorted(seen.items())).encode()).hexdigest() if top else None
+    files = sorted(includes.closure(path, INCLUDE_ROOTS))
+    return hashlib.sha256("".join(name + digest(name) for name in files).encode()).hexdigest()
 
 
 def run_all(paths, job_of, settings, folder):
@@ -92,25 +86,13 @@ PREFIXES = [("afxcontrolbars.h", "gtest/gtest.h"), ("afxcontrolbars.h",), ("afxw
 @functools.cache
 def reached(path):
     """The file, all of ours that it includes, and the names of everything that these include."""
-    found, pending = set(), [path]
-    while pending:
-        name = pending.pop()
-        if name in found:
-            continue
-        found.add(name)
-        if not os.path.isfile(name):
-            continue
-        for written in INCLUDE.findall(open(name, "rb").read()):
-            written = written.decode("utf-8", "replace")
-            places = [os.path.normpath(os.path.join(root, written)) for root in [os.path.dirname(name)] + INCLUDE_ROOTS]
-            pending += [written, *[place for place in places if os.path.isfile(place)][:1]]
-    return frozenset(found)
+    files = includes.closure(path, INCLUDE_ROOTS) if os.path.isfile(path) else {path}
+    return frozenset(files).union(*[includes.written(file) for file in files if os.path.isfile(file)])
 
 
 def place_of(name):
     """Where an include of that name leads among our files; the name itself when nowhere."""
-    places = [os.path.normpath(os.path.join(root, name)) for root in INCLUDE_ROOTS]
-    return next((place for place in places if os.path.isfile(place)), name)
+    return includes.place_of(name, INCLUDE_ROOTS) or name
 
 
 def prefix_of(path):
@@ -134,11 +116,11 @@ def precompiled(names, command):
 
 def headers():
     ours = listed("*.h")
-    includes = [f"-I{root}" for root in INCLUDE_ROOTS] + sum((["-isystem", folder] for folder in SYSTEM_INCLUDES), [])
+    folders = [f"-I{root}" for root in INCLUDE_ROOTS] + sum((["-isystem", folder] for folder in SYSTEM_INCLUDES), [])
     checks = [([CROSS, *WINDOWS_FLAGS], ours), (["g++", *NATIVE_FLAGS], portable(ours))]
     failures = 0
     for compiler, paths in checks:
-        command = [*compiler, *includes]
+        command = [*compiler, *folders]
         prefixes = {path: prefix_of(path) for path in paths} if compiler[0] == CROSS else {}
 
         def checked(path):

@@ -22,6 +22,8 @@ import re
 import subprocess
 import sys
 
+import includes
+
 # What comes along with the library and has sources of its own.
 ALONG = ["platform/framework/gdi/memory_dc.cpp", "platform/framework/gdi/device_pixels.cpp"]
 LIMIT = 100
@@ -35,7 +37,6 @@ BOOST = ["-isystem", ".deps/boost-include"]
 STRICT = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
 # Read once for all sources; what a source includes itself is checked by the build.
 PREFIX = ["algorithm", "functional", "map", "memory", "string", "vector", "interface.h"]
-INCLUDE = re.compile(r'^\s*#\s*include\s+["<]([^">]+)[">]', re.M)
 CACHE = subprocess.run(["scripts/cache-folder", "lint"], check=True, capture_output=True, text=True).stdout.strip()
 
 
@@ -50,21 +51,6 @@ def maker():
     module = importlib.util.module_from_spec(importlib.util.spec_from_loader("make_interface", loader))
     loader.exec_module(module)
     return module
-
-
-def closure(path, roots, seen=None):
-    """The file and all of ours that it includes, found where the compiler would find them."""
-    seen = set() if seen is None else seen
-    if path in seen:
-        return seen
-    seen.add(path)
-    for name in INCLUDE.findall(text_of(path)):
-        for root in [os.path.dirname(path), *roots]:
-            candidate = os.path.normpath(os.path.join(root, name))
-            if os.path.isfile(candidate):
-                closure(candidate, roots, seen)
-                break
-    return seen
 
 
 def digest(paths, *words):
@@ -101,7 +87,7 @@ def sources():
 
 def precompile(header, command):
     """Reads what all sources begin with once, when it has changed."""
-    made, key = header + ".gch", digest(closure(header, ROOTS), *command)
+    made, key = header + ".gch", digest(includes.closure(header, ROOTS), *command)
     if os.path.exists(made) and os.path.exists(f"{made}.{key}"):
         return True
     for name in os.listdir(GENERATED):
@@ -121,7 +107,7 @@ def compile_against_the_interface(paths):
     maker().write(f"{GENERATED}/prefix.h", "".join(f"#include <{name}>\n" for name in PREFIX))
     jobs = []
     for path in paths:
-        read = closure(path, ROOTS)
+        read = includes.closure(path, ROOTS)
         if any(name.startswith(GENERATED) for name in read):
             jobs.append((digest(read, *command), path))
     due = [(key, path) for key, path in jobs if not os.path.exists(os.path.join(CACHE, "interface", key))]
@@ -148,7 +134,7 @@ def compile_strictly():
     roots = ["platform/framework/include", *ROOTS[1:]]
     public = sorted(f"include/{name}" for name in os.listdir("include") if name.endswith(".h"))
     text = "".join(f'#include "{path}"\n' for path in public)
-    read = set().union(*(closure(path, roots) for path in public))
+    read = set().union(*(includes.closure(path, roots) for path in public))
     ours = [f"-I{root}" for root in roots[1:]]
     tail = [*BOOST, "-fsyntax-only", "-x", "c++", "-"]
     commands = [[CROSS, *FLAGS, *STRICT, f"-I{roots[0]}", *ours, *tail],
@@ -173,7 +159,7 @@ def check_names(names, paths, is_update):
     if len(names) > LIMIT:
         print(f"scripts/interface/beyond.inc: {len(names)} names, at most {LIMIT} are allowed: use documented means")
         failures += 1
-    read = set().union(*(closure(path, ROOTS) for path in paths))
+    read = set().union(*(includes.closure(path, ROOTS) for path in paths))
     words = set(re.findall(r"\w+", "\n".join(text_of(path) for path in read if not path.startswith(GENERATED))))
     owners = {name.split("::")[0] for name, _ in names if "::" in name}  # in use by their members
     for name in [name for name, _ in names if name.split("::")[-1] not in words and name not in owners]:
