@@ -276,7 +276,11 @@ void CMFCRibbonBar::RemoveAllFromTabs() {
     MarkLayoutDirty();
 }
 
+// A category that has dropped down from its tab has its elements with it, and would stay above its place in the bar.
 void CMFCRibbonBar::ToggleMimimizeState() {
+    if (m_parts->minimized && CMFCRibbonPanelMenu::IsAnyOpenOf(*this)) {
+        CMFCRibbonPanelMenu::DismissAll();
+    }
     m_parts->minimized = !m_parts->minimized;
     ForceRecalcLayout();
 }

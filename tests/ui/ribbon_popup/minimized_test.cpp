@@ -102,6 +102,17 @@ TEST_F(Minimized, TheCategoryMayGoWhileItIsShown) {
     EXPECT_EQ(OpenCount(), 0);
 }
 
+TEST_F(Minimized, RestoredWhileATabHasDroppedDownItTakesThePanelsBackIntoTheBar) {
+    ClickTab(0);
+    ASSERT_EQ(OpenCount(), 1);
+    Bar().ToggleMimimizeState(); // as the second click of a double click does
+    PumpPending();
+    EXPECT_EQ(OpenCount(), 0);
+    EXPECT_EQ(Bar().HitTest(CenterOf(commands::paste), TRUE), &Element(commands::paste));
+    Click(Element(commands::paste));
+    EXPECT_THAT(m_frame->commands, ElementsAre(commands::paste));
+}
+
 TEST_F(Minimized, RestoredItShowsThePanelsInTheBarAgain) {
     ClickTab(0);
     CMFCRibbonPanelMenu::DismissAll();
