@@ -49,7 +49,10 @@ CRect RibbonSeparatorRect(const CRect& rect, int width) {
 CRect StatusSeparatorRect(const CRect& rect, BOOL isBottomFrame, int width) {
     CRect area = rect;
     area.InflateRect(kStatusBeside, kStatusAbove, kStatusBeside, isBottomFrame ? kStatusBelowInFrame : kStatusBelow);
-    area.left = std::max<LONG>(area.left, area.right - width);
+    // Aligned at the right is a picture as wide as the area; its line stands in its middle.
+    const LONG line = std::clamp<LONG>(width, 0, area.Width());
+    area.left += (area.Width() - line) / 2;
+    area.right = area.left + line;
     return area;
 }
 

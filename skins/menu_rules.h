@@ -27,7 +27,7 @@ CRect ToolBarSeparatorRect(const CRect& rect, BOOL horizontal);
 CRect RibbonSeparatorRect(const CRect& rect, int width);
 
 /// On a status bar: over its edges, further down where the bar does not stand for the frame's border, and in there the
-/// line, `width` wide, at the right end.
+/// line, `width` wide, in the middle.
 CRect StatusSeparatorRect(const CRect& rect, BOOL isBottomFrame, int width);
 
 /// The first fill colour of toolbars that lie flat; `color` where the style keeps its own.

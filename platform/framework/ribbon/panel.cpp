@@ -15,6 +15,8 @@ IMPLEMENT_DYNCREATE(CMFCRibbonPanel, CObject)
 
 namespace {
 
+constexpr int kBehind = 2; // pixels at 96 DPI up to the next panel: a flat skin has its line there
+
 RibbonElementFlow FlowOf(CMFCRibbonBaseElement& element, bool hasLarge, bool hasSmaller) {
     if (hasLarge) {
         return hasSmaller ? RibbonElementFlow::Column : RibbonElementFlow::WholeHeight;
@@ -294,7 +296,9 @@ void CMFCRibbonPanel::Hide(CDC* pDC) {
 }
 
 void CMFCRibbonPanel::DoPaint(CDC* pDC) {
-    if (m_rect.IsRectEmpty() || !pDC->RectVisible(m_rect)) {
+    CRect reach = m_rect;
+    reach.right += afxGlobalData.ScalePixels(kBehind);
+    if (m_rect.IsRectEmpty() || !pDC->RectVisible(reach)) {
         return;
     }
     if (m_bCollapsed) {

@@ -2,7 +2,11 @@
 
 #include <afxribbonbar.h>
 #include <afxribbonpanelmenu.h>
+#include <afxribbonstatusbar.h>
 #include <afxvisualmanager.h>
+
+#include <algorithm>
+#include <climits>
 
 #include "ribbon/element_metrics.h"
 #include "ribbon/menu_geometry.h"
@@ -12,7 +16,36 @@ IMPLEMENT_DYNCREATE(CMFCRibbonSeparator, CMFCRibbonBaseElement)
 
 namespace {
 constexpr int kThickness = 8; // at 96 DPI, with the space on both sides of the line
+
+/// The separator's own place, moved to the middle of what lies between its neighbours: a bar may leave more room on one
+/// side than on the other.
+CRect BetweenNeighbours(const CRect& place, CMFCRibbonStatusBar& bar) {
+    LONG before = LONG_MIN, behind = LONG_MAX;
+    const auto look = [&](const CMFCRibbonBaseElement& element) {
+        const CRect rect = element.GetRect();
+        if (rect.IsRectEmpty()) {
+            return;
+        }
+        before = rect.right <= place.left ? std::max(before, rect.right) : before;
+        behind = rect.left >= place.right ? std::min(behind, rect.left) : behind;
+    };
+    for (int index = 0; index < bar.GetCount(); ++index) {
+        look(*bar.GetElement(index));
+    }
+    for (int index = 0; index < bar.GetExCount(); ++index) {
+        look(*bar.GetExElement(index));
+    }
+    CRect moved = place;
+    // From the first or the last one no way leads to a neighbour; the two areas of the bar are none of each other.
+    if (before != LONG_MIN && behind != LONG_MAX) {
+        const LONG roomBefore = place.left - before, roomBehind = behind - place.right;
+        const bool isBeside = std::max(roomBefore, roomBehind) <= place.Width();
+        moved.OffsetRect(isBeside ? static_cast<int>(roomBehind - roomBefore) / 2 : 0, 0);
+    }
+    return moved;
 }
+
+} // namespace
 
 CMFCRibbonSeparator::CMFCRibbonSeparator(BOOL bIsHoriz) : m_bIsHoriz(bIsHoriz) {}
 
@@ -42,7 +75,10 @@ void CMFCRibbonSeparator::OnDraw(CDC* pDC) {
     } else if (IsQATMode()) {
         visual->OnDrawRibbonQuickAccessToolBarSeparator(pDC, this, m_rect);
     } else {
-        visual->OnDrawSeparator(pDC, GetTopLevelRibbonBar(), m_rect, !m_bIsHoriz);
+        CMFCRibbonBar* const bar = GetTopLevelRibbonBar();
+        auto* const status = DYNAMIC_DOWNCAST(CMFCRibbonStatusBar, bar);
+        const CRect place = status != nullptr ? BetweenNeighbours(m_rect, *status) : m_rect;
+        visual->OnDrawSeparator(pDC, bar, place, !m_bIsHoriz);
     }
 }
 

@@ -139,11 +139,12 @@ void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const
     const bool hasStrip = !IsRectEmpty(&caption);
     const int line = look.Line(), radius = look.Radius();
     if (look.skin.isFlat) {
-        // Between panels lies one line, darker than the ground or lighter: the skin has both beside each other.
+        // Between panels lies one line, darker than the ground or lighter: the skin has both beside each other. They
+        // lie in the gap behind the panel, as far from its elements as from those of the next one.
         const int margin = look.Px(4);
         const LONG right = rect.right;
-        PaintSolid(dc, {right - 2 * line, rect.top + margin, right - line, rect.bottom - margin}, face.outer);
-        PaintSolid(dc, {right - line, rect.top + margin, right, rect.bottom - margin}, face.inner);
+        PaintSolid(dc, {right, rect.top + margin, right + line, rect.bottom - margin}, face.outer);
+        PaintSolid(dc, {right + line, rect.top + margin, right + 2 * line, rect.bottom - margin}, face.inner);
         return;
     }
     const Canvas canvas(

@@ -45,7 +45,7 @@ protected:
             manager.OnFillBarBackground(dc, menu, CRect(0, 0, 80, kSide), CRect(0, 0, 80, kSide));
         };
         const auto panel = [](CMFCVisualManager& manager, CDC* dc) {
-            manager.OnDrawRibbonPanel(dc, nullptr, kWhole, CRect(0, 0, 0, 0));
+            manager.OnDrawRibbonPanel(dc, nullptr, CRect(0, 0, kSide - 2, kSide), CRect(0, 0, 0, 0));
         };
         const auto paneCaption = [](CMFCVisualManager& manager, CDC* dc) {
             manager.OnDrawPaneCaption(dc, nullptr, FALSE, kWhole, CRect(0, 0, 0, 0));

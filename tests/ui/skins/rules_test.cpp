@@ -195,10 +195,10 @@ TEST(RibbonSeparatorRule, IsWidenedToTheLeftToAtLeastTheSeparator) {
     EXPECT_EQ(skins::RibbonSeparatorRect(CRect(10, 0, 30, 20), 4), CRect(10, 0, 30, 20));
 }
 
-TEST(StatusSeparatorRule, ReachesOverTheBarsEdgesAndKeepsToTheRight) {
-    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), FALSE, 1), CRect(28, -3, 29, 31));
-    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), TRUE, 1), CRect(28, -3, 29, 28));
-    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), FALSE, 4), CRect(25, -3, 29, 31));
+TEST(StatusSeparatorRule, ReachesOverTheBarsEdgesWithItsLineInTheMiddle) {
+    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), FALSE, 2), CRect(23, -3, 25, 31));
+    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 28, 26), TRUE, 2), CRect(23, -3, 25, 28));
+    EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 27, 26), FALSE, 1), CRect(23, -3, 24, 31));
     EXPECT_EQ(skins::StatusSeparatorRect(CRect(20, 2, 22, 26), FALSE, 10), CRect(19, -3, 23, 31));
 }
 
@@ -206,8 +206,21 @@ TEST_F(SkinRules, SeparatorsOfTheStatusBarAreLinesOverItsHeightInTheirOwnColour)
     auto& skin = Use<OpenBlackSkin>();
     CMFCRibbonStatusBar bar;
     Canvas canvas(CSize(40, 28));
-    skin.OnDrawSeparator(canvas.Dc(), &bar, CRect(10, 2, 18, 26), TRUE);
-    EXPECT_EQ(canvas.BoundsOf(Pixel(kBlackStatusLine)), CRect(18, 0, 19, 28));
+    skin.OnDrawSeparator(canvas.Dc(), &bar, CRect(10, 2, 17, 26), TRUE);
+    EXPECT_EQ(canvas.BoundsOf(Pixel(kBlackStatusLine)), CRect(13, 0, 14, 28));
+}
+
+TEST_F(SkinRules, TheLineOfAPanelLiesBehindItAsFarFromItsElementsAsFromTheNext) {
+    const CRect panel(4, 2, 30, 60), caption(4, 46, 30, 60);
+    const auto expect = [&](CMFCVisualManager& skin) {
+        Canvas canvas(CSize(40, 64));
+        skin.OnDrawRibbonPanel(canvas.Dc(), nullptr, panel, caption);
+        EXPECT_EQ(canvas.Colours(panel), std::set<std::uint32_t>{Canvas::background}) << "inside of the panel";
+        EXPECT_GT(canvas.Colours(CRect(panel.right, 20, panel.right + 2, 21)).size(), 1U) << "in the gap";
+        EXPECT_EQ(canvas.At(panel.right + 2, 20), Canvas::background) << "at the next panel";
+    };
+    expect(Use<OpenSilverSkin>());
+    expect(Use<OpenBlackSkin>());
 }
 
 TEST_F(SkinRules, TheSilverSkinsStatusBarHasThePlatformsSeparators) {
