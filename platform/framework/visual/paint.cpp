@@ -363,18 +363,38 @@ void PaintGripper(HDC dc, const RECT& rect, bool isUpright, const Look& look) {
     }
 }
 
+namespace {
+
+/// Where the dots of a size box lie, from its lower right corner: in a box that is smaller than the scale asks for they
+/// come closer to each other rather than be cut.
+struct SizeBoxDots {
+    int side, step, margin;
+};
+
+SizeBoxDots DotsOfSizeBox(const RECT& rect, const Look& look) {
+    constexpr int kSteps = 2; // between three dots
+    const int room = static_cast<int>(std::min(rect.right - rect.left, rect.bottom - rect.top));
+    SizeBoxDots dots{look.Px(2), look.Px(4), look.Px(3)};
+    const int least = look.Line();
+    dots.margin = std::clamp(room - dots.side - kSteps * dots.step - least, least, dots.margin);
+    dots.step = std::clamp((room - dots.side - dots.margin - least) / kSteps, dots.side + 1, dots.step);
+    return dots;
+}
+
+} // namespace
+
 void PaintSizeBox(HDC dc, const RECT& rect, const Look& look) {
-    const int dot = look.Px(2), step = look.Px(4);
+    const SizeBoxDots dots = DotsOfSizeBox(rect, look);
     const Canvas canvas(dc, rect);
     if (canvas.IsEmpty()) {
         return;
     }
     for (int row = 0; row < 3; ++row) {
         for (int column = 0; column <= row; ++column) {
-            const LONG x = rect.right - look.Px(3) - dot - column * step;
-            const LONG y = rect.bottom - look.Px(3) - dot - (2 - row) * step;
-            FillPart(canvas, x + 1, y + 1, x + dot + 1, y + dot + 1, look.skin[ColorSlot::GripperLight]);
-            FillPart(canvas, x, y, x + dot, y + dot, look.skin[ColorSlot::GripperDark]);
+            const LONG x = rect.right - dots.margin - dots.side - column * dots.step;
+            const LONG y = rect.bottom - dots.margin - dots.side - (2 - row) * dots.step;
+            FillPart(canvas, x + 1, y + 1, x + dots.side + 1, y + dots.side + 1, look.skin[ColorSlot::GripperLight]);
+            FillPart(canvas, x, y, x + dots.side, y + dots.side, look.skin[ColorSlot::GripperDark]);
         }
     }
 }
