@@ -42,11 +42,9 @@ void CMFCRibbonButton::OnDraw(CDC* pDC) {
         DrawImage(pDC, GetFaceImageType(), fx::ToRect(face.parts.image));
     }
     DrawFaceText(pDC, face, color);
-    if (!face.parts.arrow.IsEmpty() && face.content.look == ribbon::ButtonLook::Large) {
+    if (!face.parts.arrow.IsEmpty()) {
         CMFCVisualManager::GetInstance()->OnDrawRibbonDefaultPaneButtonIndicator(
             pDC, this, fx::ToRect(face.parts.arrow), IsPressed(), IsHighlighted());
-    } else if (!face.parts.arrow.IsEmpty()) {
-        ribbon::DrawMenuArrow(pDC, face.parts.arrow, color);
     }
     OnDrawBorder(pDC);
 }

@@ -8,8 +8,8 @@ constexpr int kSideMargin = 4;
 constexpr int kTopMargin = 3;
 constexpr int kImageTextGap = 4;   // beside
 constexpr int kImageTextBelow = 1; // below
-constexpr int kArrowGap = 4;
-constexpr int kSplitSide = 4; // on both sides of the arrow of a split button
+constexpr int kArrowGap = 6;       // the drawn arrow reaches beyond its place
+constexpr int kSplitSide = 4;      // on both sides of the arrow of a split button
 constexpr int kLargeMinimum = 42;
 
 bool HasMenu(const ButtonContent& content) { return content.menu != ButtonMenu::None; }

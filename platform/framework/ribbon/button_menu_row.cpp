@@ -8,6 +8,10 @@
 #include "ribbon/element_metrics.h"
 #include "ribbon/menu_geometry.h"
 #include "ribbon/shown_text.h"
+#include "visual/paint.h"
+#include "visual/skin.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -28,25 +32,19 @@ CString KeysOf(const CString& text) {
     return tab < 0 ? CString() : text.Mid(tab + 1);
 }
 
-// A check mark or a dot in the middle of the rectangle.
+// A check mark or a dot in the middle of the rectangle, with soft edges at every scale.
 void DrawMark(CDC* pDC, const CRect& rect, BOOL isRadio, COLORREF color) {
+    constexpr int kMarkSide = 14; // at 96 DPI
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    const int unit = std::max(1, metrics.Scaled(1));
-    const CPoint middle = rect.CenterPoint();
-    const COLORREF oldColor = pDC->GetBkColor();
+    const int side = std::min(metrics.Scaled(kMarkSide), static_cast<int>(std::min(rect.Width(), rect.Height())));
+    const CPoint corner(rect.left + (rect.Width() - side) / 2, rect.top + (rect.Height() - side) / 2);
+    const CRect place(corner, CSize(side, side));
+    const visual::Look look{visual::StyleSkin(0), metrics.scale}; // a mark has the colour alone
     if (isRadio) {
-        const int radius = metrics.Scaled(3);
-        for (int y = -radius; y <= radius; ++y) {
-            const int half = radius - std::max(0, std::abs(y) - radius / 2);
-            pDC->FillSolidRect(middle.x - half, middle.y + y, 2 * half + 1, 1, color);
-        }
+        visual::PaintRadioMark(*pDC, place, visual::FromColorRef(color), look);
     } else {
-        for (int step = -3; step <= 4; ++step) {
-            const int low = step < 0 ? step + 3 : 3 - step;
-            pDC->FillSolidRect(middle.x + step * unit, middle.y + (low - 2) * unit, unit, 2 * unit + 1, color);
-        }
+        visual::PaintCheckMark(*pDC, place, visual::FromColorRef(color), look);
     }
-    pDC->SetBkColor(oldColor);
 }
 
 void DrawSubmenuArrow(CDC* pDC, const CRect& rect, COLORREF color) {

@@ -86,15 +86,6 @@ Size MeasureText(CDC* pDC, std::wstring_view text) {
     return text.empty() ? Size{} : TextSizes::Instance().Of(pDC, text);
 }
 
-void DrawMenuArrow(CDC* pDC, const Rect& rect, COLORREF color) {
-    const COLORREF oldColor = pDC->GetBkColor();
-    for (int row = 0; row < rect.Height() && rect.Width() > 2 * row; ++row) {
-        const CRect line(rect.left + row, rect.top + row, rect.right - row, rect.top + row + 1);
-        pDC->FillSolidRect(line, color);
-    }
-    pDC->SetBkColor(oldColor);
-}
-
 COLORREF TextColor(CDC* pDC, COLORREF color, BOOL isDisabled) {
     if (color != static_cast<COLORREF>(-1)) {
         return color;

@@ -35,9 +35,6 @@ private:
 // call of the system.
 Size MeasureText(CDC* pDC, std::wstring_view text);
 
-// A triangle pointing down that fills the rectangle.
-void DrawMenuArrow(CDC* pDC, const Rect& rect, COLORREF color);
-
 // A colour from the visual manager, or what stands for its "default": its colour of disabled text, else the context's
 // own.
 COLORREF TextColor(CDC* pDC, COLORREF color, BOOL isDisabled);

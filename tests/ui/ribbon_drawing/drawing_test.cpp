@@ -121,4 +121,29 @@ TEST_F(RibbonDrawing, ARepaintFromKeptPicturesGivesTheSamePixels) {
     EXPECT_EQ(pixels(), first);
 }
 
+/// Notes for which buttons it is asked to draw the arrow of a menu.
+class ArrowNotingManager : public CMFCVisualManager {
+    DECLARE_DYNCREATE(ArrowNotingManager)
+
+public:
+    static inline std::set<CMFCRibbonButton*> s_buttons;
+    void OnDrawRibbonDefaultPaneButtonIndicator(CDC* /*dc*/, CMFCRibbonButton* button, CRect /*rect*/,
+                                                BOOL /*isSelected*/, BOOL /*isHot*/) override {
+        s_buttons.insert(button);
+    }
+};
+IMPLEMENT_DYNCREATE(ArrowNotingManager, CMFCVisualManager)
+
+TEST_F(RibbonDrawing, TheManagerDrawsTheArrowOfSmallButtonsAsOfLargeOnes) {
+    auto* const small = new CMFCRibbonButton(commands::firstHandled + 2500, L"Small");
+    small->AddSubItem(new CMFCRibbonButton(commands::firstHandled + 2501, L"One"));
+    m_category->GetPanel(0)->Add(small);
+    Bar().RecalcLayout();
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(ArrowNotingManager));
+    ArrowNotingManager::s_buttons.clear();
+    Repaint();
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManager));
+    EXPECT_EQ(ArrowNotingManager::s_buttons, std::set<CMFCRibbonButton*>{small});
+}
+
 } // namespace

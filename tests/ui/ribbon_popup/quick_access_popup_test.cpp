@@ -1,6 +1,7 @@
 // Pop-ups of the quick access toolbar and context menus.
 #include <gmock/gmock.h>
 
+#include "tests/support/canvas.h"
 #include "tests/ui/ribbon_drawing/drawn_texts.h"
 #include "tests/ui/ribbon_popup/popup_fixture.h"
 
@@ -47,6 +48,21 @@ private:
         return text;
     }
 };
+
+TEST_F(QuickAccessPopup, CheckMarksHaveSoftEdges) {
+    SetQuickAccessDefault({commands::paste}, {commands::cut});
+    Click(CustomizeButton());
+    const auto coloursOf = [](CMFCRibbonBaseElement& row) {
+        const CRect rect = row.GetRect();
+        Canvas canvas(CSize(rect.right, rect.bottom));
+        row.OnDraw(canvas.Dc());
+        const CRect middle(rect.left + rect.Height() / 4, rect.top + rect.Height() / 4, rect.left + rect.Height(),
+                           rect.bottom - rect.Height() / 4);
+        return canvas.Colours(middle).size();
+    };
+    constexpr std::size_t kGroundAndMark = 2, kSteps = 4;
+    EXPECT_GT(coloursOf(Row(L"Paste")), coloursOf(Row(L"Cut")) + kGroundAndMark + kSteps);
+}
 
 TEST_F(QuickAccessPopup, TheCustomizeMenuChecksWhatIsShownAndTogglesIt) {
     SetQuickAccessDefault({commands::paste}, {commands::cut});

@@ -74,7 +74,7 @@ TEST(ButtonSize, OfALargeButtonHasAMinimum) {
 TEST(ButtonSize, GrowsByTheMenuArrow) {
     const FaceMetrics metrics = At(1.0);
     const int plain = MeasureButton(Small(1.0, 50), metrics).width;
-    EXPECT_EQ(MeasureButton(Small(1.0, 50, ButtonMenu::Whole), metrics).width, plain + 4 + 5);
+    EXPECT_EQ(MeasureButton(Small(1.0, 50, ButtonMenu::Whole), metrics).width, plain + 6 + 5);
     EXPECT_EQ(MeasureButton(Small(1.0, 50, ButtonMenu::Split), metrics).width, plain + 8 + 5);
 }
 
@@ -146,8 +146,8 @@ TEST(ButtonFace, TheArrowStandsBelowAOneLineTextAndBehindATwoLineText) {
 
     content.isArrowAlone = false;
     content.secondLineWidth = 20;
-    // Text and arrow, 20 + 4 + 5 pixels, are centred together.
-    EXPECT_EQ(PlaceButton(rect, content, At(1.0)).arrow, (Rect{39, 58, 44, 61}));
+    // Text and arrow, 20 + 6 + 5 pixels, are centred together.
+    EXPECT_EQ(PlaceButton(rect, content, At(1.0)).arrow, (Rect{40, 58, 45, 61}));
 }
 
 TEST(ButtonFace, AnEmptyRectangleHasNoParts) {
