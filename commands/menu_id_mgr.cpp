@@ -4,19 +4,25 @@ std::uint32_t CMenuIdMgr::s_AddBeginID = 41000;
 CMenuIdMgr* CMenuIdMgr::s_pMenuMgr = nullptr;
 xrecursive_mutex CMenuIdMgr::m_mutex("CMenuIdMgr::m_mutex");
 
-namespace {
-
-template <class Map>
-bool CopyValue(const Map& map, const typename Map::key_type& key, typename Map::mapped_type& value) {
-    const auto found = map.find(key);
-    if (found == map.end()) {
-        return false;
+void CMenuIdMgr::MenuIdRecord::Set(const Texts& texts) {
+    std::size_t length = 0;
+    for (const std::wstring_view text : texts) {
+        length += text.size();
     }
-    value = found->second;
-    return true;
+    std::wstring joined;
+    joined.reserve(length);
+    for (std::size_t field = 0; field < texts.size(); ++field) {
+        joined += texts[field];
+        m_ends[field] = static_cast<std::uint32_t>(joined.size());
+    }
+    m_texts.swap(joined);
 }
 
-} // namespace
+std::wstring_view CMenuIdMgr::MenuIdRecord::Get(Field field) const {
+    const auto place = static_cast<std::size_t>(field);
+    const std::size_t begin = place == 0 ? 0 : m_ends[place - 1];
+    return std::wstring_view(m_texts).substr(begin, m_ends[place] - begin);
+}
 
 CMenuIdMgr* CMenuIdMgr::Ins() {
     if (!s_pMenuMgr) {
@@ -38,54 +44,63 @@ void CMenuIdMgr::Add(const std::wstring& keyword, int id, const std::wstring& na
         return;
     }
     xrecursive_mutex::scoped_lock lock(m_mutex);
-    m_idByKeyword[keyword] = id;
-    m_nameByKeyword[keyword] = name;
-    m_recordById[id] = {keyword, toolTip, cmd, param, helpFile};
+    KeywordEntry& entry = m_byKeyword[keyword];
+    entry.id = id;
+    entry.name = name;
+    m_recordById[id].Set({keyword, toolTip, cmd, param, helpFile});
 }
 
 bool CMenuIdMgr::GetMenuId(const std::wstring& keyword, int& id) const {
     xrecursive_mutex::scoped_lock lock(m_mutex);
-    return CopyValue(m_idByKeyword, keyword, id);
+    const auto found = m_byKeyword.find(keyword);
+    if (found == m_byKeyword.end()) {
+        return false;
+    }
+    id = found->second.id;
+    return true;
 }
 
 bool CMenuIdMgr::GetMenuName(const std::wstring& keyword, std::wstring& name) const {
     xrecursive_mutex::scoped_lock lock(m_mutex);
-    return CopyValue(m_nameByKeyword, keyword, name);
+    const auto found = m_byKeyword.find(keyword);
+    if (found == m_byKeyword.end()) {
+        return false;
+    }
+    name = found->second.name;
+    return true;
 }
 
 bool CMenuIdMgr::GetMenuMark(const int& id, std::wstring& keyword) const {
     // No record has an empty keyword: Add enters none.
-    return GetFilledText(id, &MenuIdRecord::keyword, keyword);
+    return GetFilledText(id, Field::Keyword, keyword);
 }
 
 bool CMenuIdMgr::GetToolTip(const int& id, std::wstring& toolTip) const {
-    return GetFilledText(id, &MenuIdRecord::toolTip, toolTip);
+    return GetFilledText(id, Field::ToolTip, toolTip);
 }
 
-bool CMenuIdMgr::GetCmd(int id, std::wstring& cmd) const { return GetFilledText(id, &MenuIdRecord::cmd, cmd); }
+bool CMenuIdMgr::GetCmd(int id, std::wstring& cmd) const { return GetFilledText(id, Field::Command, cmd); }
 
-bool CMenuIdMgr::GetCmdParam(int id, std::wstring& param) const {
-    return GetFilledText(id, &MenuIdRecord::param, param);
-}
+bool CMenuIdMgr::GetCmdParam(int id, std::wstring& param) const { return GetFilledText(id, Field::Parameter, param); }
 
 bool CMenuIdMgr::GetHelpFile(const int& id, std::wstring& helpFile) const {
-    return GetFilledText(id, &MenuIdRecord::helpFile, helpFile);
+    return GetFilledText(id, Field::HelpFile, helpFile);
 }
 
 void CMenuIdMgr::SetHelpFile(int id, const std::wstring& helpFile) {
     const auto found = m_recordById.find(id);
-    if (found != m_recordById.end() && found->second.helpFile.empty()) {
-        found->second.helpFile = helpFile;
+    if (found == m_recordById.end() || !found->second.Get(Field::HelpFile).empty()) {
+        return;
     }
+    MenuIdRecord& record = found->second;
+    record.Set({record.Get(Field::Keyword), record.Get(Field::ToolTip), record.Get(Field::Command),
+                record.Get(Field::Parameter), helpFile});
 }
 
-bool CMenuIdMgr::GetFilledText(int id, std::wstring MenuIdRecord::*field, std::wstring& text) const {
+bool CMenuIdMgr::GetFilledText(int id, Field field, std::wstring& text) const {
     xrecursive_mutex::scoped_lock lock(m_mutex);
     const auto found = m_recordById.find(id);
-    if (found == m_recordById.end()) {
-        return false;
-    }
-    const std::wstring& stored = found->second.*field;
+    const std::wstring_view stored = found == m_recordById.end() ? std::wstring_view() : found->second.Get(field);
     if (stored.empty()) {
         return false;
     }

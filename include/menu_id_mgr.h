@@ -4,9 +4,12 @@
 
 #include <varnhold/recursive_mutex.h>
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <map>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 
 /// The process-wide registry of configured commands. Every builder enters its commands here; afterwards a keyword leads
 /// to its command id and name, and an id to its keyword, tooltip, command text, parameter and help file.
@@ -58,20 +61,34 @@ public:
     void SetHelpFile(int id, const std::wstring& helpFile);
 
 private:
-    struct MenuIdRecord {
-        std::wstring keyword;
-        std::wstring toolTip;
-        std::wstring cmd;
-        std::wstring param;
-        std::wstring helpFile;
+    /// What a keyword leads to.
+    struct KeywordEntry {
+        int id = 0;
+        std::wstring name;
+    };
+
+    enum class Field : std::size_t { Keyword, ToolTip, Command, Parameter, HelpFile };
+
+    /// What an id leads to: five texts, in one piece of memory, as there are thousands of them.
+    class MenuIdRecord {
+    public:
+        using Texts = std::array<std::wstring_view, 5>; // by Field
+
+        /// Replaces all of them; they may be its own.
+        void Set(const Texts& texts);
+        std::wstring_view Get(Field field) const;
+
+    private:
+        std::wstring m_texts;                               // one behind the other
+        std::array<std::uint32_t, Texts().size()> m_ends{}; // of each
     };
 
     CMenuIdMgr() = default;
     ~CMenuIdMgr() = default;
 
-    bool GetFilledText(int id, std::wstring MenuIdRecord::*field, std::wstring& text) const;
+    bool GetFilledText(int id, Field field, std::wstring& text) const;
 
-    std::map<std::wstring, int> m_idByKeyword;
-    std::map<std::wstring, std::wstring> m_nameByKeyword;
-    std::map<int, MenuIdRecord> m_recordById;
+    // Nobody goes through them in order.
+    std::unordered_map<std::wstring, KeywordEntry> m_byKeyword;
+    std::unordered_map<int, MenuIdRecord> m_recordById;
 };

@@ -75,7 +75,7 @@ TEST(OutOfMemory, PassesOutOfTheRegistryAndReleasesTheLock) {
     const auto takeLock = [] { const xrecursive_mutex::scoped_lock lock(CMenuIdMgr::m_mutex); };
     const int failures = FailAtEveryAllocation(
         makeAnew, [&] { registry->Add(keyword, 41000, text, text, text, text, text); }, takeLock);
-    // An entry of each of the three tables at the least.
+    // An entry of each of the two tables and a record's texts at the least.
     EXPECT_GE(failures, 3);
     std::wstring mark;
     EXPECT_TRUE(registry->GetMenuMark(41000, mark));

@@ -379,6 +379,23 @@ TEST_F(CommandRegistry, InsMakesTheInstanceBeforeItTakesTheLock) {
     EXPECT_TRUE(first->HasFinished());
 }
 
+TEST_F(CommandRegistry, AHelpFileThatComesLaterLeavesTheOtherTextsAsTheyAre) {
+    CMenuIdMgr* const registry = CMenuIdMgr::Ins();
+    registry->Add(L"Keyword", 41000, L"name", L"command", L"", L"parameter", L"");
+    registry->SetHelpFile(41000, L"help.swf");
+    std::wstring text = L"before";
+    EXPECT_FALSE(registry->GetToolTip(41000, text));
+    EXPECT_EQ(text, L"before");
+    EXPECT_TRUE(registry->GetMenuMark(41000, text));
+    EXPECT_EQ(text, L"Keyword");
+    EXPECT_TRUE(registry->GetCmd(41000, text));
+    EXPECT_EQ(text, L"command");
+    EXPECT_TRUE(registry->GetCmdParam(41000, text));
+    EXPECT_EQ(text, L"parameter");
+    EXPECT_TRUE(registry->GetHelpFile(41000, text));
+    EXPECT_EQ(text, L"help.swf");
+}
+
 TEST_F(CommandRegistry, ThreadsMayAddAndAskAtOnce) {
     constexpr int threadCount = 4;
     constexpr int perThread = 400;
