@@ -60,8 +60,8 @@ std::wstring RecordedMediaFolder() {
 
 CString GetIconPathStr(const std::wstring& path, int size) {
     static const std::wstring directory = InstallationDirectory();
-    static SharedTexts<std::pair<std::wstring, int>> s_paths;
-    return s_paths.Get({path, size}, [&] { return wstring2CString(IconFileBelow(directory, path, size)); });
+    static SharedTexts s_paths;
+    return s_paths.Get(path, size, [&] { return wstring2CString(IconFileBelow(directory, path, size)); });
 }
 
 CString GetHelpFileName(int id, const CString&) {

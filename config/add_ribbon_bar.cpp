@@ -7,6 +7,7 @@
 #include "config/ribbon_attributes.h"
 #include "config/ribbon_element_factory.h"
 #include "config/ribbon_file.h"
+#include "elements/icon_file.h"
 #include "menu_id_mgr.h"
 #include "ribbon_category_ex.h"
 #include "ribbon_icon_button.h"
@@ -51,6 +52,7 @@ bool CAddRibbonBar::Load(const std::wstring& path, CMFCRibbonBar* bar, int show)
         return false;
     }
 
+    const IconTrials trials; // of thousands of buttons with a few hundred files
     m_cfgPath = newPath;
     const int countBefore = bar->GetCategoryCount();
     for (const RibbonRecord& row : rows.top) {

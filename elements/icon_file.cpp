@@ -7,9 +7,13 @@
 
 #include <array>
 #include <cwchar>
+#include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 #include <tuple>
+#include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -113,8 +117,45 @@ int FileIcon::GetSide() const { return m_loaded ? m_loaded->side : 0; }
 std::size_t FileIcon::GetReadCount() { return LoadedIcon::s_readCount; }
 std::size_t FileIcon::GetAliveCount() { return LoadedIcon::s_aliveCount; }
 
+namespace {
+
+struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::wstring_view text) const { return std::hash<std::wstring_view>()(text); }
+};
+using Paths = std::unordered_set<std::wstring, TextHash, std::equal_to<>>;
+
+/// By their side, the files that were tried since the first IconTrials was made.
+std::map<int, Paths>& TriedFiles() {
+    static std::map<int, Paths> s_tried;
+    return s_tried;
+}
+
+} // namespace
+
+int IconTrials::s_depth = 0;
+
+IconTrials::~IconTrials() {
+    if (--s_depth == 0) {
+        TriedFiles().clear();
+    }
+}
+
+bool IconTrials::HasTried(const wchar_t* path, int side) {
+    if (s_depth == 0) {
+        return false;
+    }
+    Paths& paths = TriedFiles()[side];
+    const std::wstring_view asked(path);
+    if (paths.contains(asked)) {
+        return true;
+    }
+    paths.emplace(asked);
+    return false;
+}
+
 void TryIconFile(const wchar_t* path, int side) {
-    if (!*path || LeavesInstallation(path)) {
+    if (!*path || IconTrials::HasTried(path, side) || LeavesInstallation(path)) {
         return;
     }
     static std::map<std::pair<std::wstring, int>, FileStamp> stamps;

@@ -37,5 +37,23 @@ private:
 bool LeavesInstallation(const wchar_t* path);
 
 /// Loads an icon file once as a test and releases it. A file that was tried and has not changed since is not read
-/// again, so that thousands of buttons with the same few pictures cost one look at the file's time stamp each.
+/// again, so that thousands of buttons with the same few pictures cost one look at the file's time stamp each. An empty
+/// path and one that LeavesInstallation are not tried. User-interface thread only.
 void TryIconFile(const wchar_t* path, int side);
+
+/// While one lives, TryIconFile looks at no file twice: whoever makes many buttons at once asks the system for each of
+/// their few files once. The first that is made says for how long, where one lives inside another. User-interface
+/// thread only.
+class IconTrials {
+public:
+    IconTrials() { ++s_depth; }
+    ~IconTrials();
+    IconTrials(const IconTrials&) = delete;
+    IconTrials& operator=(const IconTrials&) = delete;
+
+    /// False when none lives, and for the first call with the path and the side since the first was made.
+    static bool HasTried(const wchar_t* path, int side);
+
+private:
+    static int s_depth;
+};

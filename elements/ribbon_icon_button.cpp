@@ -11,6 +11,7 @@
 #include <varnhold/language.h>
 
 #include <algorithm>
+#include <string_view>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonUNIcoButton, CMFCRibbonButton)
 
@@ -52,8 +53,9 @@ private:
 };
 
 CString AlternateOf(const CString& path) {
-    static SharedTexts<CString> s_alternates;
-    return s_alternates.Get(path, [&path] {
+    static SharedTexts s_alternates;
+    const std::wstring_view text(path.GetString(), static_cast<std::size_t>(path.GetLength()));
+    return s_alternates.Get(text, 0, [&path] {
         CString alternate = path;
         alternate.Replace(L"modle", L"modle_0");
         return alternate;

@@ -100,6 +100,23 @@ TEST_F(IconButton, FileThatWasTriedIsNotReadAgainUntilItChanges) {
     EXPECT_EQ(FileIcon::GetReadCount(), before + 1);
 }
 
+TEST_F(IconButton, FileThatChangesWhileManyButtonsAreMadeIsTriedAgainBehindThem) {
+    MakeButton();
+    const std::size_t before = FileIcon::GetReadCount();
+    {
+        const IconTrials many;
+        {
+            const IconTrials someOfThem;
+            MakeButton();
+        }
+        m_directory.Write("pic/modle/large.ico", MakeIconFile(32, {blue, blue}) + "longer than before");
+        MakeButton();
+        EXPECT_EQ(FileIcon::GetReadCount(), before);
+    }
+    MakeButton();
+    EXPECT_EQ(FileIcon::GetReadCount(), before + 1);
+}
+
 TEST_F(IconButton, MissingFileIsTriedAgainOnceItIsThere) {
     const CString path = m_large + L".later";
     const auto make = [&path] { CMFCRibbonUNIcoButton button(1, L"", path, FALSE, CString()); };

@@ -1,9 +1,27 @@
 #include "tests/ui/ribbon_builder/ribbon_fixture.h"
 
 #include "tests/support/heard_problems.h"
+#include "tests/support/import_spy.h"
 #include <varnhold/xml.h>
 
+#include <set>
+
+extern "C" {
+extern void* __imp_GetFileAttributesExW;
+}
+
 namespace {
+
+/// The icon files that were looked at, in order.
+std::vector<std::wstring> g_looks;
+decltype(&::GetFileAttributesExW) g_look = nullptr;
+
+BOOL WINAPI KeepLook(LPCWSTR name, GET_FILEEX_INFO_LEVELS level, LPVOID information) {
+    if (std::wstring_view(name).ends_with(L".ico")) {
+        g_looks.emplace_back(name);
+    }
+    return g_look(name, level, information);
+}
 
 const std::string twoCategories =
     "<r><c KEYWORD='A' NAME=''><p KEYWORD='PA' NAME=''><e KEYWORD='K1' NAME='' TYPE='BUTTON'/></p></c>"
@@ -20,6 +38,23 @@ TEST_F(RibbonBuilder, NewBuilderHasNothingAdded) {
     EXPECT_EQ(m_builder.m_cfgPath, L"");
     EXPECT_TRUE(m_builder.m_cmdList.empty());
     EXPECT_TRUE(m_builder.GetQAToolBar().empty());
+}
+
+TEST_F(RibbonBuilder, EveryLoadLooksAtAnIconFileOnceHoweverManyButtonsHaveIt) {
+    const ImportSpy<decltype(KeepLook)> spy(__imp_GetFileAttributesExW, &KeepLook);
+    g_look = spy.GetOriginal();
+    std::string buttons;
+    for (int index = 0; index < 30; ++index) {
+        const std::string picture = index % 2 == 0 ? "even" : "odd";
+        buttons += "<e KEYWORD='K" + std::to_string(index) + "' TYPE='BUTTON' PICPATH='" + picture + ".ico'/>";
+    }
+    for (int round = 0; round < 2; ++round) {
+        g_looks.clear();
+        ASSERT_TRUE(Load(Panel(buttons)));
+        ASSERT_EQ(g_looks.size(), 4u) << "in round " << round;
+        const std::set<std::wstring> different(g_looks.begin(), g_looks.end());
+        EXPECT_EQ(different.size(), 4u) << "two pictures at two sizes";
+    }
 }
 
 TEST_F(RibbonBuilder, FirstBuilderKeepsTheInstallationDirectory) {
