@@ -143,6 +143,7 @@ void CMFCRibbonBar::OnPaint() {
         EnsureLayout();
     }
     RibbonWindowPaint paint(*this);
+    m_parts->waitsForPaint = false; // what is invalidated from here on is painted next time
     DoPaint(&paint.GetDC());
 }
 

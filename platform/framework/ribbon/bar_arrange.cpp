@@ -23,6 +23,20 @@ void PlaceElement(CMFCRibbonBaseElement& element, CDC* pDC, const fx::Rect& rect
     element.OnAfterChangeRect(pDC);
 }
 
+/// Has all of the bar painted. Bars are filled element by element, each of which asks for it: the system is told once
+/// until the paint comes, and not at all of a window that nobody sees, which is painted when it is shown.
+void AskForPaint(CMFCRibbonBar& bar, RibbonBarParts& parts) {
+    if (bar.GetSafeHwnd() == nullptr || parts.isLayingOut) {
+        return;
+    }
+    if (!bar.IsWindowVisible()) {
+        parts.waitsForPaint = false;
+    } else if (!parts.waitsForPaint) {
+        bar.Invalidate(FALSE);
+        parts.waitsForPaint = true;
+    }
+}
+
 } // namespace
 
 // An element may show another text while it draws; a layout for each of them would draw without end.
@@ -35,9 +49,7 @@ void CMFCRibbonBar::MarkLayoutDirty() {
         m_parts->states = RibbonBarParts::States::Unknown;
     }
     m_parts->keyboard->Forget();
-    if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
-        Invalidate(FALSE);
-    }
+    AskForPaint(*this, *m_parts);
 }
 
 void CMFCRibbonBar::EnsureLayout() {
@@ -87,9 +99,7 @@ void CMFCRibbonBar::MarkMeasuresDirty() {
         category->ForgetMeasures();
     }
     m_parts->layoutDirty = true;
-    if (GetSafeHwnd() != nullptr && !m_parts->isLayingOut) {
-        Invalidate(FALSE);
-    }
+    AskForPaint(*this, *m_parts);
 }
 
 void CMFCRibbonBar::RecalcLayout() {

@@ -35,6 +35,7 @@ struct RibbonBarParts {
     RibbonBarShape shape;
     RibbonBarArrangement arrangement;
     bool layoutDirty = true;
+    bool waitsForPaint = false; // all of the window was invalidated, and has not been painted since
     enum class States { Unknown, Asking, Known };
     States states = States::Unknown; // of the commands of what is shown
     bool isLayingOut = false;

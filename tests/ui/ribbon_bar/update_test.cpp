@@ -1,6 +1,59 @@
+#include "tests/support/import_spy.h"
+#include "tests/support/module_imports.h"
 #include "tests/ui/ribbon_bar/ribbon_frame.h"
 
 namespace {
+
+int g_invalidated = 0;
+
+BOOL WINAPI CountInvalidation(HWND window, const RECT* rect, BOOL erases) {
+    ++g_invalidated;
+    return ::InvalidateRect(window, rect, erases);
+}
+
+/// Counts what the framework invalidates while it lives.
+class InvalidationCounter {
+public:
+    InvalidationCounter() { g_invalidated = 0; }
+    int Count() const { return g_invalidated; }
+
+private:
+    ImportSpy<decltype(CountInvalidation)> m_spy{*FindImport(::GetModuleHandleW(L"bwframework.dll"), "InvalidateRect"),
+                                                 &CountInvalidation};
+};
+
+void AddTwentyButtons(CMFCRibbonBar& bar) {
+    constexpr UINT first = 1500;
+    for (UINT index = 0; index < 20; ++index) {
+        bar.GetCategory(0)->GetPanel(0)->Add(new CMFCRibbonButton(first + index, L"B"));
+    }
+}
+
+TEST_F(RibbonBarTest, ManyChangesAskForOnePaint) {
+    Bar().UpdateWindow();
+    for (int round = 0; round < 2; ++round) {
+        const InvalidationCounter counter;
+        AddTwentyButtons(Bar());
+        EXPECT_EQ(counter.Count(), 1) << "in round " << round;
+        CRect update;
+        EXPECT_TRUE(Bar().GetUpdateRect(update));
+        Bar().UpdateWindow();
+        EXPECT_FALSE(Bar().GetUpdateRect(update));
+    }
+}
+
+TEST_F(RibbonBarTest, ChangesOfABarThatNobodySeesAskForNoPaintUntilItIsShown) {
+    m_frame->ShowWindow(SW_HIDE);
+    const InvalidationCounter counter;
+    AddTwentyButtons(Bar());
+    EXPECT_EQ(counter.Count(), 0);
+    m_frame->ShowWindow(SW_SHOWNOACTIVATE);
+    CRect update;
+    EXPECT_TRUE(Bar().GetUpdateRect(update));
+    Bar().UpdateWindow();
+    Element(1501).SetText(L"Another text than before");
+    EXPECT_TRUE(Bar().GetUpdateRect(update));
+}
 
 TEST_F(RibbonBarTest, IdleTimeEnablesAndChecksWhatTheHandlersSay) {
     m_frame->disabledCommand = commands::cut;
