@@ -1,6 +1,7 @@
 #include "classic_bars.h"
 
 #include "command_index.h"
+#include "configuration_watch.h"
 #include "layer_controls.h"
 #include "map_painter.h"
 #include "menu_id_mgr.h"
@@ -49,10 +50,45 @@ COLORREF ToColorRef(std::uint32_t rgb) { return RGB(rgb >> 16 & 0xFF, rgb >> 8 &
 
 } // namespace
 
+namespace {
+
+std::vector<ACCEL> ShortcutsOf(const CFrameWnd& frame) {
+    std::vector<ACCEL> shortcuts(static_cast<std::size_t>(::CopyAcceleratorTableW(frame.m_hAccelTable, nullptr, 0)));
+    ::CopyAcceleratorTableW(frame.m_hAccelTable, shortcuts.data(), static_cast<int>(shortcuts.size()));
+    return shortcuts;
+}
+
+void GiveShortcuts(CFrameWnd& frame, std::vector<ACCEL> shortcuts) {
+    ::DestroyAcceleratorTable(frame.m_hAccelTable);
+    frame.m_hAccelTable =
+        shortcuts.empty() ? nullptr : ::CreateAcceleratorTableW(shortcuts.data(), static_cast<int>(shortcuts.size()));
+}
+
+bool AreSame(const ACCEL& a, const ACCEL& b) { return a.cmd == b.cmd && a.key == b.key && a.fVirt == b.fVirt; }
+
+/// Those of the first list that are not in the second one.
+std::vector<ACCEL> Without(std::vector<ACCEL> shortcuts, const std::vector<ACCEL>& others) {
+    std::erase_if(shortcuts, [&others](const ACCEL& one) {
+        return std::ranges::any_of(others, [&one](const ACCEL& other) { return AreSame(one, other); });
+    });
+    return shortcuts;
+}
+
+} // namespace
+
+bool ClassicBars::HasKeys(const ConfigurationChange& change) {
+    return std::ranges::find(change.files, kKeysFile) != change.files.end();
+}
+
 void ClassicBars::TakeShortcuts() {
+    if (!m_shortcuts.empty()) {
+        GiveShortcuts(*m_frame, Without(ShortcutsOf(*m_frame), m_shortcuts));
+    }
+    const std::vector<ACCEL> others = ShortcutsOf(*m_frame);
     CDynMenuCreater keys;
     keys.Load(kKeysFile);
     keys.SetAppAccelTable();
+    m_shortcuts = Without(ShortcutsOf(*m_frame), others);
 }
 
 bool ClassicBars::Create(CFrameWndEx& frame) {
@@ -69,13 +105,10 @@ void ClassicBars::Build() {
     m_menu.Load(kMenuFile);
     m_menuBar.SetRightHMenu(m_help.Build());
     m_menuBar.CreateFromMenu(m_menu.GetMenu()->GetSafeHmenu(), TRUE, TRUE);
-    if (m_toolbars.empty()) {
+    if (m_toolbars.empty() || m_areToolbarsStale) {
         BuildToolbars();
     }
     for (const auto& [group, bar] : m_toolbars.GetGroupedToolBars()) {
-        CString key;
-        bar->GetWindowText(key);
-        m_titles.try_emplace(bar, key); // what the file says
         const std::string title = wstring2String(m_titles[bar].GetString());
         bar->SetWindowText(CMultiLanguageMgr::translationW(title, -1, "RibbonBarCfg").c_str());
     }
@@ -87,14 +120,89 @@ void ClassicBars::Build() {
     }
 }
 
-// They come from the file side by side; hidden until they are wanted.
+// Hidden until they are wanted.
 void ClassicBars::BuildToolbars() {
-    m_toolbars.Load(kToolbarFile, m_frame);
+    m_areToolbarsStale = false;
+    const CDynToolBarCreater earlier = m_toolbars;
+    m_hidden = HiddenToolbars();
+    if (!LoadToolbars()) {
+        m_toolbars = earlier;
+        return;
+    }
     m_frame->EnableDocking(CBRS_ALIGN_ANY);
+    m_titles.clear();
     for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        m_titles[bar] = m_toolbars.GetName(bar).c_str();
         bar->EnableDocking(CBRS_ALIGN_ANY);
-        m_frame->DockPane(bar);
+        m_frame->AddPane(bar);
         m_frame->ShowPane(bar, FALSE, TRUE, FALSE);
+    }
+    if (!earlier.empty()) {
+        PutInPlaceOf(earlier);
+        Remove(earlier);
+        DockNewToolbars();
+    }
+    NumberToolbars();
+    HideToolbars(m_hidden);
+}
+
+/// Into a list of icons that holds no others. False: there are no toolbars in the file.
+bool ClassicBars::LoadToolbars() {
+    if (m_firstToolbar == 0) {
+        m_firstToolbar = CDynToolBarCreater::s_ToolbarIndex;
+    }
+    if (m_configuredIcons != nullptr) {
+        m_configuredIcons->Clear();
+        CMFCToolBar::SetUserImages(nullptr);
+    }
+    m_toolbars = CDynToolBarCreater();
+    const bool isLoaded = m_toolbars.Load(kToolbarFile, m_frame);
+    m_configuredIcons = isLoaded ? CMFCToolBar::GetUserImages() : m_configuredIcons;
+    return isLoaded;
+}
+
+/// Each of the toolbars that is also among the earlier ones goes where that one is.
+void ClassicBars::PutInPlaceOf(const CDynToolBarCreater& earlier) {
+    auto former = earlier.GetGroupedToolBars();
+    for (const auto& [group, bar] : m_toolbars.GetGroupedToolBars()) {
+        const auto found = std::ranges::find_if(former, [&, &group = group, &bar = bar](const auto& one) {
+            return one.first == group && earlier.GetName(one.second) == m_toolbars.GetName(bar);
+        });
+        if (found == former.end()) {
+            continue;
+        }
+        CMFCToolBar& place = *found->second;
+        former.erase(found); // toolbars of one name follow each other
+        if (const CPaneFrameWnd* const miniFrame = place.GetParentMiniFrame()) {
+            CRect rect;
+            miniFrame->GetWindowRect(&rect);
+            bar->FloatPane(rect, DM_UNKNOWN, false);
+        } else {
+            m_frame->DockPaneLeftOf(bar, &place);
+        }
+    }
+}
+
+void ClassicBars::DockNewToolbars() {
+    for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        if (bar->GetParentDockSite() == nullptr && !bar->IsFloating()) {
+            m_frame->DockPane(bar);
+        }
+    }
+}
+
+void ClassicBars::Remove(const CDynToolBarCreater& toolbars) {
+    for (CMFCToolBar* const bar : toolbars.GetAllToolBar()) {
+        m_frame->RemovePaneFromDockManager(bar, FALSE, FALSE, FALSE, nullptr);
+        bar->DestroyWindow();
+    }
+}
+
+/// From the first number on, in their order, as if these had been the first ones.
+void ClassicBars::NumberToolbars() {
+    CDynToolBarCreater::s_ToolbarIndex = m_firstToolbar;
+    for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        bar->SetDlgCtrlID(static_cast<int>(CDynToolBarCreater::s_ToolbarIndex++));
     }
 }
 

@@ -8,11 +8,14 @@
 #include "map_state.h"
 #include "menubar_ex.h"
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
+
+struct ConfigurationChange;
 
 /// The viewer's menu bar and toolbars, which stand in for its ribbon when the user wants them: cfg\menu.xml and
 /// cfg\toolbar.xml. Their combos of layers show the same as the ribbon's. The frame owns the toolbars' windows and
@@ -28,13 +31,21 @@ class ClassicBars {
 public:
     explicit ClassicBars(const MapState& state) : m_state(state) {}
 
-    /// Before the ribbon is built for the first time: enters the commands of cfg\keys.xml with their shortcuts. A menu
-    /// file gives shortcuts only to commands that no file before it has.
+    /// Whether cfg\keys.xml is among the files.
+    static bool HasKeys(const ConfigurationChange& change);
+    /// Before the ribbon is built: enters the commands of cfg\keys.xml with their shortcuts, in place of those that
+    /// were taken before; shortcuts of others stay. A menu file gives shortcuts only to commands that no file before it
+    /// has.
     void TakeShortcuts();
     /// The menu bar, hidden; the first pane of the frame. False: there is none.
     bool Create(CFrameWndEx& frame);
     /// Behind the ribbon: the menu, with its icons, and the toolbars, in the language in force.
     void Build();
+    /// The next Build takes the toolbars from their file again. Those that are still in it, by group and name, come to
+    /// be where they are now; where the file cannot be used all stay.
+    void ForgetToolbars() { m_areToolbarsStale = true; }
+    /// Behind Build, when those that were kept have their places: the others come behind them, side by side.
+    void DockNewToolbars();
     /// Behind Build and after a change of the skin: gives menus and toolbars the icons that can be seen on it. `set`:
     /// the folder of those icons beside the configured one; the ribbon's buttons know the files.
     void TakeIcons(CMFCRibbonBar& ribbon, const wchar_t* set);
@@ -58,6 +69,10 @@ public:
 
 private:
     void BuildToolbars();
+    bool LoadToolbars();
+    void Remove(const CDynToolBarCreater& toolbars);
+    void PutInPlaceOf(const CDynToolBarCreater& earlier);
+    void NumberToolbars();
     void FillCombos();
 
     const MapState& m_state;
@@ -66,7 +81,11 @@ private:
     CDynMenuCreater m_menu;
     HostMenu m_help{HostMenu::Kind::Help};
     CDynToolBarCreater m_toolbars;
-    std::map<CMFCToolBar*, CString> m_titles; ///< As the file has them.
+    bool m_areToolbarsStale = false;
+    std::uint32_t m_firstToolbar = 0;               ///< The number of the first one's window.
+    CMFCToolBarImages* m_configuredIcons = nullptr; ///< The library's list, which m_icons stands in for.
+    std::vector<ACCEL> m_shortcuts;                 ///< Of cfg\keys.xml.
+    std::map<CMFCToolBar*, CString> m_titles;       ///< As the file has them.
     CMFCToolBarImages m_icons; ///< Of the toolbars, in place of the library's list; outlives the bars' windows.
     std::vector<std::wstring> m_hidden; ///< What is hidden even when the bars are shown.
     bool m_isShown = false;

@@ -29,16 +29,18 @@ FollowedFiles::FollowedFiles(Host host) : m_host(std::move(host)) {
     m_watch.Start(InstallationDirectory(), [this](const ConfigurationChange& change) { Take(change); });
 }
 
-void FollowedFiles::Take(const ConfigurationChange& change) const {
+void FollowedFiles::Take(const ConfigurationChange& change) {
+    m_waiting.files.insert(m_waiting.files.end(), change.files.begin(), change.files.end());
     const std::vector<std::wstring> broken = FindBrokenFiles(CMultiLanguageMgr::GetLanguage());
     for (const std::wstring& line : broken) {
         PrintLine(stderr, line);
     }
     m_host.showProblem(broken.empty() ? std::wstring() : broken.front());
-    if (broken.empty()) {
-        m_host.rebuild();
+    const bool isBuilt = broken.empty() && m_host.rebuild(m_waiting);
+    if (isBuilt) {
+        m_waiting.files.clear();
     }
-    std::wstring line = broken.empty() ? L"demo: built anew:" : L"demo: as before:";
+    std::wstring line = isBuilt ? L"demo: built anew:" : L"demo: as before:";
     for (const std::wstring& file : change.files) {
         line += L" " + file;
     }

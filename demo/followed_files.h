@@ -9,10 +9,11 @@
 /// the thread of the windows.
 class FollowedFiles {
 public:
-    /// What builds the bars anew, and what says why they stay as they are: the first of the lines about files that
-    /// cannot be read, or none once they can.
+    /// What builds the bars anew from files that have changed since it was last done, and says whether it could; and
+    /// what says why they stay as they are: the first of the lines about files that cannot be read, or none once they
+    /// can.
     struct Host {
-        std::function<void()> rebuild;
+        std::function<bool(const ConfigurationChange& change)> rebuild;
         std::function<void(const std::wstring& problem)> showProblem;
     };
 
@@ -22,8 +23,9 @@ public:
     bool IsFollowing() const { return m_watch.IsWatching(); }
 
 private:
-    void Take(const ConfigurationChange& change) const;
+    void Take(const ConfigurationChange& change);
 
     Host m_host;
+    ConfigurationChange m_waiting; ///< What is not shown yet, because something was broken.
     CConfigurationWatch m_watch;
 };

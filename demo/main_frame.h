@@ -28,6 +28,7 @@
 class CAddRibbonBar;
 class CMFCRibbonUNIcoButton;
 class CSearchField;
+struct ConfigurationChange;
 
 /// From now on the thread's resources, the framework's own texts among them, are those of the language in force.
 void TakeResourceLanguage();
@@ -51,8 +52,9 @@ public:
     void Show();
     /// Says what could not be kept or found again, if there is anything to say.
     void TellTroubles();
-    /// Reads all files again, as the command does; icons too.
-    void ShowFilesAnew();
+    /// Reads all files again, as the command does; icons too, and toolbars and keys where their files are among those
+    /// that have changed. False: they cannot be read, which was said.
+    bool ShowFilesAnew(const ConfigurationChange& change);
     /// Why the files are not shown as they are now, in the caption; empty: they are.
     void ShowProblem(const std::wstring& problem);
 

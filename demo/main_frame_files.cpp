@@ -1,5 +1,6 @@
 #include "main_frame.h"
 
+#include "configuration_watch.h"
 #include "kept_command_ids.h"
 #include "menu_id_mgr.h"
 #include "viewer_text.h"
@@ -11,7 +12,7 @@
 namespace {
 
 /// As long as it lives, commands are registered as the files have them now, with the ids that they had. Those that no
-/// file registers by then, as those of toolbars, which stay, are afterwards as they were.
+/// file registers by then, as those of toolbars that stay, are afterwards as they were.
 class CommandsAnew {
 public:
     CommandsAnew()
@@ -63,18 +64,25 @@ private:
 
 } // namespace
 
-void CMainFrame::ShowFilesAnew() {
+bool CMainFrame::ShowFilesAnew(const ConfigurationChange& change) {
     ReloadFiles();
     MSG posted{};
     if (!::PeekMessageW(&posted, GetSafeHwnd(), kRebuildMessage, kRebuildMessage, PM_REMOVE)) {
-        return; // the texts could not be read, which was said
+        return false; // the texts could not be read, which was said
     }
     {
         const CommandsAnew anew;
+        if (ClassicBars::HasKeys(change)) {
+            m_bars.TakeShortcuts(); // first, as at the start
+        }
+        if (change.Has(ConfigurationFileKind::ToolBars)) {
+            m_bars.ForgetToolbars();
+        }
         BuildRibbon();
     }
     m_ribbon.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     WriteRecord();
+    return true;
 }
 
 void CMainFrame::ShowProblem(const std::wstring& problem) {

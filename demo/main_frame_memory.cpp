@@ -135,6 +135,7 @@ void CMainFrame::RestoreState() {
         }
         m_bars.HideToolbars(kept.hiddenToolbars);
     }
+    m_bars.DockNewToolbars();
     if (m_options.showsClassicBars.value_or(kept.showsClassicBars)) {
         ShowClassicBars(true);
     } else {

@@ -53,7 +53,7 @@ public:
         frame->WriteRecord();
         if (options->followsFiles) {
             m_followed.emplace(
-                FollowedFiles::Host{[frame] { frame->ShowFilesAnew(); },
+                FollowedFiles::Host{[frame](const ConfigurationChange& change) { return frame->ShowFilesAnew(change); },
                                     [frame](const std::wstring& problem) { frame->ShowProblem(problem); }});
         }
         if (options->screenshot.empty()) {

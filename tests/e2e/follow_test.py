@@ -4,12 +4,11 @@
 usage: follow_test.py BIN_DIR [TEST...]
 """
 import os
-import shutil
 import sys
 import tempfile
 import unittest
 
-from viewer import Viewer
+from viewer import Viewer, copy_installation, edit_file
 
 BIN_DIR = ""
 
@@ -19,24 +18,10 @@ class Following(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = folder.name
-        for name in os.listdir(BIN_DIR):
-            path = os.path.join(BIN_DIR, name)
-            if name == "demo.exe":
-                shutil.copy(path, self.folder)
-            elif name in ("cfg", "lang"):
-                shutil.copytree(path, os.path.join(self.folder, name))
-            elif os.path.isdir(path) or name.endswith(".dll"):
-                os.symlink(path, os.path.join(self.folder, name))
+        copy_installation(BIN_DIR, self.folder)
 
     def edit(self, path, old, new):
-        """As an editor does that writes a file of its own and then gives it the other's name."""
-        path = os.path.join(self.folder, *path.split("/"))
-        with open(path, encoding="utf-8") as file:
-            text = file.read()
-        self.assertIn(old, text)
-        with open(path + "~", "w", encoding="utf-8") as file:
-            file.write(text.replace(old, new))
-        os.replace(path + "~", path)
+        edit_file(self.folder, path, old, new)
 
     @staticmethod
     def names(record):
@@ -67,6 +52,64 @@ class Following(unittest.TestCase):
                                                for entry in record["frame"]["registry"]))
             viewer.click_command("ZoomIn")
             viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] < before)
+
+    @staticmethod
+    def bars(record):
+        return [places[0][:2] for places in record["toolbarsOnScreen"]]
+
+    def test_toolbars_are_as_their_file_is_and_where_they_were(self):
+        with Viewer(self.folder, "--lang", "en", "--bars", "classic", "--follow") as viewer:
+            first = self.bars(viewer.record)
+            left, top, _, bottom = viewer.record["toolbarsOnScreen"][0][0]
+            viewer.drag(left - 5, (top + bottom) // 2, left + 90, bottom + 200)  # by its grip, off into a window of its own
+            viewer.wait_for(lambda record: self.bars(record)[0] != first[0])
+            left, top, _, bottom = viewer.record["toolbarsOnScreen"][1][0]
+            viewer.drag(left - 5, (top + bottom) // 2, left + 300, (top + bottom) // 2)  # along its row
+            viewer.wait_for(lambda record: self.bars(record)[1] != first[1])
+            viewer.hover(700, 600)
+            viewer.settled_look()  # the drag is told of on its way, too
+            moved = self.bars(viewer.wait_for(lambda record: True))
+            # One more stands in front of them, and one of them has a button less.
+            self.edit("cfg/toolbar.xml", '<group KEYWORD="MapBars">',
+                      '<group KEYWORD="MapBars"><toolbar PROMPT="New"><button TYPE="button" KEYWORD="ZoomOut"/></toolbar>')
+            viewer.wait_for(lambda record: len(record["toolbarsOnScreen"]) == 4 and self.bars(record)[1:] == moved)
+            buttons = [len(places) for places in viewer.record["toolbarsOnScreen"]]
+            self.edit("cfg/toolbar.xml", '<button TYPE="button" KEYWORD="PanHome"', '<!-- "" --><x TYPE="separate" KEYWORD=""')
+            self.edit("cfg/toolbar.xml", '<button TYPE="button" KEYWORD="PanWest"', '<button TYPE="" KEYWORD="PanWest"')
+            viewer.wait_for(lambda record: len(record["toolbarsOnScreen"][2]) == buttons[2] - 1 and self.bars(record)[1:] == moved)
+            # They work, and go with their elements.
+            before = viewer.record["map"]["pixelsPerDegree"]
+            left, top, right, bottom = viewer.record["toolbarsOnScreen"][0][0]
+            viewer.click((left + right) // 2, (top + bottom) // 2)
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] < before)
+            self.edit("cfg/toolbar.xml", '<toolbar PROMPT="New"><button TYPE="button" KEYWORD="ZoomOut"/></toolbar>', "")
+            viewer.wait_for(lambda record: len(record["toolbarsOnScreen"]) == 3 and self.bars(record) == moved)
+
+    def test_toolbars_change_while_a_broken_file_stands_beside_them(self):
+        with Viewer(self.folder, "--lang", "en", "--bars", "classic", "--follow") as viewer:
+            count = len(viewer.record["toolbarsOnScreen"][1])
+            self.edit("cfg/menu.xml", "</menu>", "</men>")
+            viewer.wait_until(lambda: viewer.windows(r".*menu\.xml.*"), "the caption says what is broken")
+            self.edit("cfg/toolbar.xml", '<button TYPE="button" KEYWORD="PanWest"', '<button TYPE="" KEYWORD="PanWest"')
+            viewer.wait_until(lambda: viewer.errors().count("menu.xml:") > 1, "the change was seen")
+            self.assertEqual(len(viewer.record["toolbarsOnScreen"][1]), count)
+            self.edit("cfg/menu.xml", "</men>", "</menu>")
+            viewer.wait_for(lambda record: len(record["toolbarsOnScreen"][1]) == count - 1)
+
+    def test_keys_are_as_their_file_is(self):
+        with Viewer(self.folder, "--lang", "en", "--follow") as viewer:
+            def keys(record):
+                return {chr(entry["key"]) for entry in record["frame"]["accelerators"] if entry["cmd"] == zoom_in}
+            zoom_in = viewer.id_of("ZoomIn")
+            count = len(viewer.record["frame"]["accelerators"])
+            self.assertEqual(keys(viewer.record), {"I"})
+            self.edit("cfg/keys.xml", 'HOTKEY="Ctrl+I"', 'HOTKEY="Ctrl+J"')
+            record = viewer.wait_for(lambda record: keys(record) == {"J"})
+            self.assertEqual(len(record["frame"]["accelerators"]), count)
+            before = record["map"]["pixelsPerDegree"]
+            viewer.key("ctrl+i")
+            viewer.key("ctrl+j")
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] == 2 * before)
 
 
 if __name__ == "__main__":

@@ -10,7 +10,7 @@ import sys
 import tempfile
 import unittest
 
-from viewer import ROOT, Viewer
+from viewer import ROOT, Viewer, copy_installation, edit_file
 
 BIN_DIR = ""
 TITLES = ("Map viewer", "地图浏览器")
@@ -20,8 +20,8 @@ class KeptViewer(Viewer):
     """Its window lies where it was left, and it keeps its settings in a folder of the test's."""
     PROGRAM = ("demo.exe",)
 
-    def __init__(self, folder, *arguments, registry=(), message=False):
-        super().__init__(BIN_DIR, *arguments, registry=registry, memory=("--settings", folder))
+    def __init__(self, folder, *arguments, registry=(), message=False, program=None):
+        super().__init__(program or BIN_DIR, *arguments, registry=registry, memory=("--settings", folder))
         self._has_message = message
 
     def begin(self):
@@ -133,6 +133,28 @@ class NextStart(unittest.TestCase):
         self.assertFalse(ribbon["classicBars"])
         self.assertEqual(ribbon["toolbarsOnScreen"], [[] for _ in again["toolbarsOnScreen"]])
         self.assertEqual(self.toolbars(self.run_once("--bars", "classic")), self.toolbars(moved))
+
+    def test_toolbars_stay_where_they_are_when_their_file_gains_or_loses_one(self):
+        def move(viewer):
+            left, top, _, bottom = viewer.record["toolbarsOnScreen"][0][0]
+            viewer.drag(left - 5, (top + bottom) // 2, left + 90, bottom + 200)
+            viewer.wait_for(lambda record: self.toolbars(record)[0] != self.toolbars(first)[0])
+            left, top, _, bottom = viewer.record["toolbarsOnScreen"][1][0]
+            viewer.drag(left - 5, (top + bottom) // 2, left + 300, (top + bottom) // 2)
+            viewer.wait_for(lambda record: self.toolbars(record)[1] != self.toolbars(first)[1])
+            viewer.hover(700, 600)
+        with tempfile.TemporaryDirectory() as program:
+            copy_installation(BIN_DIR, program)
+            first = self.run_once("--lang", "en", "--bars", "classic", program=program)
+            self.run_once(act=move, program=program)
+            moved = self.toolbars(self.run_once(program=program))
+            # A message would stand before the window, and the run would never begin.
+            edit_file(program, "cfg/toolbar.xml", '<group KEYWORD="MapBars">',
+                      '<group KEYWORD="MapBars"><toolbar PROMPT="New"><button TYPE="button" KEYWORD="ZoomOut"/></toolbar>')
+            self.assertEqual(self.toolbars(self.run_once(program=program))[1:], moved)
+            edit_file(program, "cfg/toolbar.xml", '<toolbar PROMPT="New"><button TYPE="button" KEYWORD="ZoomOut"/></toolbar>', "")
+            edit_file(program, "cfg/toolbar.xml", '<group KEYWORD="StyleBars">', '<group KEYWORD="OtherBars">')
+            self.assertEqual(self.toolbars(self.run_once(program=program))[:2], moved[:2])
 
     def test_it_starts_in_the_language_of_the_system(self):
         record = self.run_once()

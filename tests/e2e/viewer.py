@@ -1,6 +1,7 @@
 """Starts the viewer on a virtual display and drives it from outside, as a person would."""
 import json
 import os
+import shutil
 import subprocess
 import tempfile
 import time
@@ -11,6 +12,30 @@ from wine_session import ROOT, alone_in_prefix
 
 # Seconds that anything may take; on a machine that has much else to do, more.
 DEADLINE = int(os.environ.get("BARWRIGHT_E2E_SECONDS", "40"))
+
+
+def copy_installation(bin_dir, folder):
+    """The viewer's program and files of its own, for tests that write in them; the rest leads to BIN_DIR."""
+    for name in os.listdir(bin_dir):
+        path = os.path.join(bin_dir, name)
+        if name == "demo.exe":
+            shutil.copy(path, folder)
+        elif name in ("cfg", "lang"):
+            shutil.copytree(path, os.path.join(folder, name))
+        elif os.path.isdir(path) or name.endswith(".dll"):
+            os.symlink(path, os.path.join(folder, name))
+
+
+def edit_file(folder, path, old, new):
+    """As an editor does that writes a file of its own and then gives it the other's name."""
+    path = os.path.join(folder, *path.split("/"))
+    with open(path, encoding="utf-8") as file:
+        text = file.read()
+    if old not in text:
+        raise AssertionError(f"{path} has no {old!r}")
+    with open(path + "~", "w", encoding="utf-8") as file:
+        file.write(text.replace(old, new))
+    os.replace(path + "~", path)
 
 
 class Viewer:

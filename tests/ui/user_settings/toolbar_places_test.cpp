@@ -133,7 +133,7 @@ TEST_F(ToolBarPlaces, AreThoseOfTheBarsNamesWhateverTheirOrder) {
 TEST_F(ToolBarPlaces, ABarThatIsNewTakesNobodysPlace) {
     MoveAndKeep();
     ProgramRun run(m_installation, Group(BarOf("New") + BarOf("One") + BarOf("Same") + BarOf("Same")));
-    run.Restore();
+    EXPECT_TRUE(run.Restore()) << "nothing of what was kept is lost";
     EXPECT_EQ(run.Sides(), "TLTB");
 }
 
@@ -147,7 +147,7 @@ TEST_F(ToolBarPlaces, ABarThatIsGoneLeavesItsPlaceToNobody) {
 TEST_F(ToolBarPlaces, ABarOfThatNameInAnotherGroupIsAnother) {
     MoveAndKeep();
     ProgramRun run(m_installation, Group(BarOf("One"), "A") + Group(BarOf("One")));
-    run.Restore();
+    EXPECT_TRUE(run.Restore());
     EXPECT_EQ(run.Sides(), "TL");
 }
 
@@ -157,6 +157,15 @@ TEST_F(ToolBarPlaces, AreFoundWhenTheTitleIsShownInAnotherLanguage) {
     run.Bar(1).SetWindowText(L"\u4E00");
     run.Restore();
     EXPECT_EQ(run.Sides(), "TL");
+}
+
+TEST_F(ToolBarPlaces, ThatAreDamagedAreToldOfAlthoughABarIsNew) {
+    MoveAndKeep();
+    std::vector<BYTE> damage = {1, 2, 3, 4, 5};
+    ASSERT_TRUE(
+        App().WriteSectionBinary(L"DockingManager", L"Places", damage.data(), static_cast<UINT>(damage.size())));
+    ProgramRun run(m_installation, Group(BarOf("New") + BarOf("One") + BarOf("Same") + BarOf("Same")));
+    EXPECT_FALSE(run.Restore());
 }
 
 TEST_F(ToolBarPlaces, TheBarsHaveTheirOwnNumbersAfterwards) {
