@@ -6,6 +6,7 @@
 #include <varnhold/strings.h>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace {
@@ -75,8 +76,8 @@ private:
     void Take(const AttributeRule& rule, const varnhold::XmlAttributeView& written) {
         const varnhold::TextPosition position = m_element.GetAttributePosition(written);
         const auto earlier = std::ranges::find(m_met.attributes, rule.use, &MetAttribute::use);
-        const bool isOdd = m_element.IsOddlyWritten(written);
         std::wstring value = string2wstring(written.value);
+        const bool isOdd = m_element.IsOddlyWritten(written) || ReportQuotes(rule, value, position);
         if (earlier == m_met.attributes.end()) {
             m_met.attributes.push_back({rule.use, std::move(value), position, false, isOdd});
             return;
@@ -90,6 +91,22 @@ private:
             m_met.otherKeywords.push_back(earlier->value);
         }
         earlier->value = std::move(value);
+    }
+
+    /// Whether typographic quotation marks stand around a value that is no text for people, which is reported; those
+    /// of numbers, flags and shortcuts are told of as such.
+    bool ReportQuotes(const AttributeRule& rule, const std::wstring& value, varnhold::TextPosition position) const {
+        constexpr AttributeUse looked[] = {AttributeUse::Keyword,   AttributeUse::Type,    AttributeUse::Icon,
+                                           AttributeUse::Command,   AttributeUse::Help,    AttributeUse::DisabledIcon,
+                                           AttributeUse::Parameter, AttributeUse::ShortKey};
+        if (std::ranges::find(looked, rule.use) == std::end(looked) || value.size() < 2 ||
+            !IsTypographicQuote(value.front()) || !IsTypographicQuote(value.back())) {
+            return false;
+        }
+        m_diagnostics.Report("odd-quotes", position,
+                             Quoted(value) + L" has typographic quotation marks, which belong to the value",
+                             L"write \"" + value.substr(1, value.size() - 2) + L"\"");
+        return true;
     }
 
     /// A text that is asked for before the keyword is looked up under none.

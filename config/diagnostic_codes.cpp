@@ -49,6 +49,16 @@ constexpr DiagnosticCode kCodes[] = {
     {"unreadable-file", Error, "The file cannot be read: no permission, no plain file, or longer than 256 MB.",
      "It is not loaded.", "Mend what the message says."},
 
+    {kWrongKind, Error, "A ribbon, menu or toolbar file has the name, or stands in the place, of one of another kind.",
+     "It is read as what it is not: hardly anything is built from it. Nothing else is said of it, and what refers to "
+     "the "
+     "file that should be there is not spoken of.",
+     "Put the right file there. The names of the files begin with ribbon, menu and toolbar.", RibbonFile,
+     "<menu>\n  <group>\n    <popup KEYWORD=\"Edit\" MENUNAME=\"\"><item KEYWORD=\"Undo\" MENUNAME=\"\" "
+     "HOTKEY=\"Ctrl+Z\"/></popup>\n  </group>\n</menu>",
+     "<ribbon>\n  <row KEYWORD=\"Main\"><category KEYWORD=\"Edit\" NAME=\"\"><panel KEYWORD=\"Last\"><item "
+     "KEYWORD=\"Undo\" NAME=\"\" TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
+
     // Attributes.
     {"unknown-attribute", Warning, "No attribute of this kind of file has that name.", "It is ignored.",
      "Mend the name; letter case does not count.", Panel, "<item KEYWORD=\"In\" NAME=\"\" TYP=\"BUTTON\"/>",
@@ -77,6 +87,12 @@ constexpr DiagnosticCode kCodes[] = {
     {"bad-flag", Warning, "GROUPBEFORE, CateTab or AcceptF1 is neither Y nor N.", "It counts as if it were not there.",
      "Write Y or N.", Panel, "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" AcceptF1=\"no\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" AcceptF1=\"N\"/>"},
+
+    {"odd-quotes", Warning, "A value that is no text for people stands between typographic quotation marks.",
+     "They belong to the value: the keyword, command or word is another one.",
+     "Remove them; the straight ones around the value stay.", Panel,
+     "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"\u201Czoom\u201D\"/>",
+     "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"zoom\"/>"},
 
     // Elements.
     {"no-attributes", Warning, "An element has no attributes.",

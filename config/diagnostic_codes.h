@@ -37,6 +37,10 @@ struct DiagnosticCode {
 /// All of them, in the order of the guide.
 std::span<const DiagnosticCode> DiagnosticCodes();
 
+/// The code of a file of one kind in another's place: then nothing else is said of it, and nothing is known of what it
+/// should hold.
+inline constexpr std::string_view kWrongKind = "wrong-kind";
+
 /// Null for a word that is no code.
 const DiagnosticCode* FindDiagnosticCode(std::string_view code);
 

@@ -51,6 +51,8 @@ public:
         : m_file(std::move(file)), m_sink(sink), m_isListening(sink.IsListening()) {}
 
     bool IsListening() const noexcept { return m_isListening; }
+    /// For a file of which everything has been said: from now on the sink hears nothing of it.
+    void StopListening() noexcept { m_isListening = false; }
     const std::wstring& File() const noexcept { return m_file; }
     /// The severity is the code's own.
     void Report(std::string_view code, varnhold::TextPosition position, std::wstring text, std::wstring fix = {},

@@ -1,6 +1,8 @@
 #include "config/load_document.h"
 
+#include "config/diagnostic_codes.h"
 #include "config/suggestion.h"
+#include "config/syntax_hint.h"
 
 #include <varnhold/file_op.h>
 
@@ -59,9 +61,29 @@ void ReportOddities(const CXmlDocumentWrapper& document, const FileDiagnostics& 
     }
 }
 
+void ReportKind(const CXmlDocumentWrapper& document, ConfigurationKind kind, ConfigurationKind other,
+                const FileDiagnostics& diagnostics) {
+    const std::wstring written(NameOf(other));
+    diagnostics.Report(kWrongKind, varnhold::XmlCursor(document).GetPosition(),
+                       L"this is a " + written + L" in the place of a " + std::wstring(NameOf(kind)) +
+                           L": nothing in it is built as it is meant",
+                       L"put the " + std::wstring(NameOf(kind)) + L" here; the name of a " + written +
+                           L" begins with " + Quoted(FileNameStart(other)));
+}
+
 /// Where no place is known it is the beginning of the file.
 TextPosition PlaceOf(const CXmlDocumentWrapper& document) {
     return {std::max<std::size_t>(1, document.GetErrorLine()), std::max<std::size_t>(1, document.GetErrorColumn())};
+}
+
+void ReportError(const CXmlDocumentWrapper& document, const std::wstring& fullPath,
+                 const FileDiagnostics& diagnostics) {
+    SyntaxHint hint{PlaceOf(document), {}};
+    if (document.GetError() == XmlError::Syntax) {
+        hint = HintForSyntax(fullPath, hint.position, document.GetErrorReason());
+    }
+    diagnostics.Report(CodeOf(document.GetError(), fullPath), hint.position,
+                       hint.text.empty() ? document.GetErrorReason() : hint.text, hint.fix);
 }
 
 } // namespace
@@ -71,15 +93,19 @@ void ReportOddity(const XmlOddity& oddity, const FileDiagnostics& diagnostics) {
     diagnostics.Report(found->code, oddity.position, found->text, found->fix);
 }
 
-bool LoadDocument(const std::wstring& fullPath, const FileDiagnostics& diagnostics, CXmlDocumentWrapper& document) {
+bool LoadDocument(const std::wstring& fullPath, ConfigurationKind kind, FileDiagnostics& diagnostics,
+                  CXmlDocumentWrapper& document) {
     const bool isLoaded = document.Load(fullPath);
     if (!diagnostics.IsListening()) {
         return isLoaded;
     }
-    if (isLoaded) {
-        ReportOddities(document, diagnostics);
+    if (!isLoaded) {
+        ReportError(document, fullPath, diagnostics);
+    } else if (const auto other = OtherKindOf(varnhold::XmlCursor(document), kind)) {
+        ReportKind(document, kind, *other, diagnostics);
+        diagnostics.StopListening();
     } else {
-        diagnostics.Report(CodeOf(document.GetError(), fullPath), PlaceOf(document), document.GetErrorReason());
+        ReportOddities(document, diagnostics);
     }
     return isLoaded;
 }

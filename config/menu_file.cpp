@@ -85,9 +85,9 @@ void ReadMenuBranches(const varnhold::XmlCursor& documentElement, MenuFileVisito
 }
 
 bool LoadMenuFile(const std::wstring& fullPath, MenuFileVisitor& visitor, DiagnosticsSink& sink) {
-    const FileDiagnostics diagnostics(fullPath, sink);
+    FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
-    if (!LoadDocument(fullPath, diagnostics, document)) {
+    if (!LoadDocument(fullPath, ConfigurationKind::Menu, diagnostics, document)) {
         return false;
     }
     ReadMenuBranches(varnhold::XmlCursor(document), visitor, diagnostics);

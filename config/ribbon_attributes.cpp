@@ -120,7 +120,7 @@ bool TakeNumber(Attribute& attribute) {
             attribute.Report("bad-number",
                              L"\"" + string2wstring(attribute.Value()) +
                                  L"\" is not a whole decimal number; the attributes after it are not read",
-                             L"write digits alone");
+                             L"write the digits 0 to 9 alone");
         }
         return false;
     }

@@ -114,9 +114,9 @@ RibbonRecords ReadRibbonElement(const CXmlNodeWrapper& element, const FileDiagno
 }
 
 bool LoadRibbonFile(const std::wstring& fullPath, RibbonRecords& rows, DiagnosticsSink& sink) {
-    const FileDiagnostics diagnostics(fullPath, sink);
+    FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
-    if (!LoadDocument(fullPath, diagnostics, document)) {
+    if (!LoadDocument(fullPath, ConfigurationKind::Ribbon, diagnostics, document)) {
         return false;
     }
     rows = ReadRibbonRows(varnhold::XmlCursor(document), diagnostics);

@@ -60,6 +60,10 @@ std::vector<std::wstring>::const_iterator KeyOf(const std::vector<std::wstring>&
 } // namespace
 
 ShortcutFault FindShortcutFault(std::wstring_view shortcut) {
+    if (shortcut.size() > 2 && IsTypographicQuote(shortcut.front()) && IsTypographicQuote(shortcut.back())) {
+        return {Quoted(shortcut) + L" has typographic quotation marks, which belong to the value",
+                L"write \"" + std::wstring(shortcut.substr(1, shortcut.size() - 2)) + L"\""};
+    }
     const auto read = Read(shortcut);
     if (!read) {
         return {L"nothing stands where the shortcut's key belongs; the loading of the file ends here",
@@ -71,6 +75,7 @@ ShortcutFault FindShortcutFault(std::wstring_view shortcut) {
     if (pieces.size() == 1 && shortcut.size() > 1) {
         std::wstring joined(shortcut);
         std::ranges::replace(joined, L'-', L'+');
+        std::ranges::replace(joined, L'\uFF0B', L'+'); // as Chinese and Japanese keyboards write it
         if (joined != shortcut && FindShortcutFault(joined).text.empty()) {
             return {Quoted(shortcut) + L" is read as the character " + std::wstring(1, read->character) +
                         L": \"+\" alone joins keys",

@@ -64,9 +64,56 @@ std::wstring ClosestWord(std::wstring_view misspelt, const std::vector<std::wstr
     return fewest <= most ? closest : std::wstring();
 }
 
+namespace {
+
+/// They look like a blank, or like nothing.
+constexpr std::wstring_view kUnseen = L"\u00A0\u00AD\u200B\u200E\u200F\u2060\uFEFF";
+
+bool IsUnseen(wchar_t c) { return kUnseen.find(c) != kUnseen.npos; }
+bool IsLatin(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
+/// Greek and Cyrillic letters: many look like Latin ones.
+bool IsLikeLatin(wchar_t c) { return c >= 0x370 && c <= 0x52F; }
+bool IsOfWord(wchar_t c) { return IsLatin(c) || IsLikeLatin(c) || (c >= L'0' && c <= L'9') || c == L'_'; }
+
+/// Whether the word that the character belongs to has Latin letters, too.
+bool IsAmongLatin(std::wstring_view text, std::size_t at) {
+    for (std::size_t i = at; i > 0 && IsOfWord(text[i - 1]); --i) {
+        if (IsLatin(text[i - 1])) {
+            return true;
+        }
+    }
+    for (std::size_t i = at + 1; i < text.size() && IsOfWord(text[i]); ++i) {
+        if (IsLatin(text[i])) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::wstring Numbered(wchar_t c) {
+    constexpr std::wstring_view digits = L"0123456789ABCDEF";
+    std::wstring text = L"<U+";
+    for (int shift = 12; shift >= 0; shift -= 4) {
+        text += digits[(static_cast<unsigned>(c) >> static_cast<unsigned>(shift)) & 0xFU];
+    }
+    return text + L">";
+}
+
+} // namespace
+
 std::wstring Quoted(std::wstring_view text) {
     constexpr std::size_t longest = 80;
-    return L'"' + std::wstring(text.substr(0, longest)) + (text.size() > longest ? L"...\"" : L"\"");
+    std::wstring shown = L"\"";
+    for (std::size_t at = 0; at < std::min(text.size(), longest); ++at) {
+        const bool isHidden = IsUnseen(text[at]) || (IsLikeLatin(text[at]) && IsAmongLatin(text, at));
+        shown += isHidden ? Numbered(text[at]) : std::wstring(1, text[at]);
+    }
+    return shown + (text.size() > longest ? L"...\"" : L"\"");
+}
+
+bool IsTypographicQuote(wchar_t c) {
+    constexpr std::wstring_view quotes = L"\u201C\u201D\u201E\u201F\uFF02";
+    return quotes.find(c) != quotes.npos;
 }
 
 std::wstring DidYouMean(std::wstring_view word) {

@@ -139,9 +139,9 @@ void ReadToolBarGroups(const varnhold::XmlCursor& documentElement, ToolBarFileVi
 }
 
 bool LoadToolBarFile(const std::wstring& fullPath, ToolBarFileVisitor& visitor, DiagnosticsSink& sink) {
-    const FileDiagnostics diagnostics(fullPath, sink);
+    FileDiagnostics diagnostics(fullPath, sink);
     CXmlDocumentWrapper document;
-    if (!LoadDocument(fullPath, diagnostics, document)) {
+    if (!LoadDocument(fullPath, ConfigurationKind::ToolBars, diagnostics, document)) {
         return false;
     }
     visitor.VisitFile();

@@ -6,6 +6,7 @@
 #include "config/check/icon_check.h"
 #include "config/check/installation_files.h"
 #include "config/check/text_check.h"
+#include "config/diagnostic_codes.h"
 #include "config/menu_file.h"
 #include "config/ribbon_file.h"
 #include "config/toolbar_file.h"
@@ -106,12 +107,30 @@ Selection Select(const CheckRequest& request, const InstallationFiles& files) {
     return selection;
 }
 
+/// Passes everything on, and hears whether a file is of another kind than it is read as.
+class KindWatch : public DiagnosticsSink {
+public:
+    explicit KindWatch(DiagnosticsSink& sink) : m_sink(sink) {}
+    void Report(const Diagnostic& diagnostic) override {
+        m_hasWrongKind = m_hasWrongKind || diagnostic.code == kWrongKind;
+        m_sink.Report(diagnostic);
+    }
+    void Meet(const std::wstring& file, const MetElement& element) override { m_sink.Meet(file, element); }
+    bool HasWrongKind() const { return m_hasWrongKind; }
+
+private:
+    DiagnosticsSink& m_sink;
+    bool m_hasWrongKind = false;
+};
+
+/// Whether all that the files should hold is known.
 bool ReadFiles(const std::vector<FileToRead>& files, DiagnosticsSink& sink) {
+    KindWatch watch(sink);
     bool isComplete = true;
     for (const FileToRead& file : files) {
-        isComplete = ReadFile(file.fullPath, file.kind, sink) && isComplete;
+        isComplete = ReadFile(file.fullPath, file.kind, watch) && isComplete;
     }
-    return isComplete;
+    return isComplete && !watch.HasWrongKind();
 }
 
 /// Each file in the order of its reading, from the beginning to the end.

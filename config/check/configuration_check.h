@@ -1,12 +1,11 @@
 #pragma once
 
 #include "config/check/gathered_elements.h"
+#include "config/configuration_kind.h"
 #include "config/diagnostics.h"
 
 #include <string>
 #include <vector>
-
-enum class ConfigurationKind { Ribbon, Menu, ToolBars };
 
 /// What is to be checked.
 struct CheckRequest {

@@ -52,6 +52,12 @@ std::wstring FolderOf(const std::wstring& path) {
     return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
 }
 
+bool IsIconName(std::wstring_view name) {
+    constexpr std::wstring_view extension = L".ico";
+    return name.size() >= extension.size() &&
+           varnhold::EqualsIgnoringCase(name.substr(name.size() - extension.size()), extension);
+}
+
 enum class IconState { Fine, NoIcon, TooLarge, TooSmall };
 
 IconFileReader ReaderOf(std::ifstream& stream) {
@@ -213,6 +219,22 @@ private:
 
     bool IsThere(const std::wstring& path) const { return m_files.Find(IconFileBelow({}, path, kSmall)).has_value(); }
 
+    /// The file beside a missing icon that has its name and another format's extension.
+    std::wstring OtherFormatOf(const std::wstring& missing) const {
+        const std::size_t slash = missing.rfind(L'\\');
+        const std::wstring_view name = std::wstring_view(missing).substr(slash + 1);
+        if (!IsIconName(name)) {
+            return {};
+        }
+        const std::wstring_view stem = name.substr(0, name.rfind(L'.') + 1);
+        for (const std::wstring& file : m_files.FilesIn(missing.substr(0, slash))) {
+            if (varnhold::EqualsIgnoringCase(std::wstring_view(file).substr(0, file.rfind(L'.') + 1), stem)) {
+                return file;
+            }
+        }
+        return {};
+    }
+
     /// How the path should be written: a file of nearly that name beside the one that is missing, or what people write
     /// in its place.
     std::wstring Suggestion(const std::wstring& written, const std::wstring& missing) const {
@@ -220,6 +242,15 @@ private:
         const std::wstring folder = missing.substr(0, slash);
         const std::wstring meant = ClosestWord(missing.substr(slash + 1), m_files.FilesIn(folder));
         const std::size_t name = written.rfind(L'\\') + 1; // npos + 1 is 0
+        if (const std::wstring picture = OtherFormatOf(missing); !picture.empty()) {
+            return Quoted(picture) + L" is no icon: save it as an icon file (.ico)";
+        }
+        for (const int side : {kSmall, kLarge}) {
+            if (m_files.Find(IconFileBelow({}, written, side))) {
+                return L"it is there for the other size alone: put the file of this size into folder " +
+                       Quoted(folder.substr(folder.rfind(L'\\') + 1));
+            }
+        }
         if (!meant.empty()) {
             return DidYouMean(written.substr(0, name) + meant);
         }

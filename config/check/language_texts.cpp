@@ -5,6 +5,7 @@
 #include "config/load_document.h"
 #include "config/ribbon_attributes.h"
 #include "config/suggestion.h"
+#include "config/syntax_hint.h"
 
 #include <varnhold/language_files.h>
 #include <varnhold/letter_case.h>
@@ -46,8 +47,22 @@ public:
         m_isForeign = false;
         m_untranslated.clear();
         m_translated = 0;
+        m_duplicates.clear();
+        m_units = 0;
         m_texts.isUsable = varnhold::ReadTranslationFile(path, m_texts.code, *this) && m_texts.isUsable;
+        ReportDuplicates();
         ReportUntranslated();
+    }
+
+    /// When all files are read: a folder of the wrong name is one fault.
+    void ReportOtherLanguages() const {
+        for (const OtherLanguage& one : m_otherLanguages) {
+            FileDiagnostics(one.place.file, m_sink)
+                .Report(CodeOf(TranslationProblem::OtherLanguage), one.place.position, one.place.text,
+                        one.others.empty() ? L"mend trgLang, or put the file into the folder of its language"
+                                           : L"give the folder the name of its language, or mend trgLang in its files",
+                        one.others);
+        }
     }
 
     void VisitSourceLanguage(bool isForeign) override { m_isForeign = isForeign; }
@@ -58,11 +73,9 @@ public:
         const TextPosition position = place.GetPosition();
         auto& section = unit.section == kRibbonSection ? m_texts.commands : m_otherTexts[std::string(unit.section)];
         const auto [placed, isNew] = section.try_emplace(key);
+        ++m_units;
         if (!isNew) {
-            diagnostics.Report("duplicate-text", position,
-                               L"there is another unit " + Quoted(key) + L" in this section; the later one counts",
-                               L"remove one of the two",
-                               {{placed->second.file, placed->second.position, L"the earlier one"}});
+            m_duplicates.push_back({key, position, placed->second.file, placed->second.position});
         }
         placed->second = {unit.text, m_file, position};
         if (m_isForeign && !unit.isTranslated) {
@@ -94,10 +107,61 @@ public:
         const TextPosition place{std::max<std::size_t>(1, position.line), std::max<std::size_t>(1, position.column)};
         m_texts.hasLostSection = m_texts.hasLostSection || problem == TranslationProblem::FileWithoutId;
         m_texts.lostUnits += problem == TranslationProblem::UnitWithoutKey ? 1 : 0;
-        FileDiagnostics(m_file, m_sink).Report(CodeOf(problem), place, text);
+        if (problem == TranslationProblem::OtherLanguage) {
+            TakeOtherLanguage({m_file, place, text});
+            return;
+        }
+        const SyntaxHint hint =
+            problem == TranslationProblem::Syntax ? HintForSyntax(m_file, place, text) : SyntaxHint{place, {}};
+        FileDiagnostics(m_file, m_sink)
+            .Report(CodeOf(problem), hint.position, hint.text.empty() ? text : hint.text, hint.fix);
     }
 
 private:
+    struct Duplicate {
+        std::wstring key;
+        TextPosition position;
+        std::wstring earlierFile;
+        TextPosition earlier;
+    };
+    struct OtherLanguage {
+        RelatedPlace place;
+        std::vector<RelatedPlace> others;
+    };
+
+    void TakeOtherLanguage(const RelatedPlace& place) {
+        for (OtherLanguage& one : m_otherLanguages) {
+            if (one.place.text == place.text) {
+                one.others.push_back({place.file, place.position, L"so is it here"});
+                return;
+            }
+        }
+        m_otherLanguages.push_back({place, {}});
+    }
+
+    /// A file that is a copy of another one is one thing to say.
+    void ReportDuplicates() const {
+        constexpr std::size_t few = 3;
+        const FileDiagnostics diagnostics(m_file, m_sink);
+        const bool areOfOneFile = std::ranges::all_of(m_duplicates, [this](const Duplicate& one) {
+            return one.earlierFile == m_duplicates.front().earlierFile && one.earlierFile != m_file;
+        });
+        if (areOfOneFile && m_duplicates.size() > few && 2 * m_duplicates.size() > m_units) {
+            const Duplicate& first = m_duplicates.front();
+            diagnostics.Report("duplicate-text", first.position,
+                               std::to_wstring(m_duplicates.size()) +
+                                   L" units of this file stand in another one, too: those of this file count",
+                               L"is one of the two files a copy? then remove it",
+                               {{first.earlierFile, first.earlier, L"the first of them there"}});
+            return;
+        }
+        for (const Duplicate& one : m_duplicates) {
+            diagnostics.Report("duplicate-text", one.position,
+                               L"there is another unit " + Quoted(one.key) + L" in this section; the later one counts",
+                               L"remove one of the two", {{one.earlierFile, one.earlier, L"the earlier one"}});
+        }
+    }
+
     /// Where nothing is translated, that is one thing to say.
     void ReportUntranslated() const {
         constexpr std::size_t few = 3;
@@ -121,6 +185,9 @@ private:
     /// Of the file that is read: keys and places.
     std::vector<std::pair<std::wstring, TextPosition>> m_untranslated;
     std::size_t m_translated = 0;
+    std::vector<Duplicate> m_duplicates;
+    std::size_t m_units = 0;
+    std::vector<OtherLanguage> m_otherLanguages;
     std::map<std::string, std::map<std::wstring, PlacedText>> m_otherTexts;
 };
 
@@ -164,6 +231,7 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
                 reader.Read(*files.Find(L"lang\\" + code + L'\\' + name));
             }
         }
+        reader.ReportOtherLanguages();
         if (isLanguage) {
             languages.push_back(std::move(texts));
         }

@@ -1,0 +1,115 @@
+#include "config/syntax_hint.h"
+
+#include <varnhold/strings.h>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <utility>
+
+namespace {
+
+using varnhold::TextPosition;
+
+constexpr std::wstring_view kTypographicQuotes = L"\u201C\u201D\u201E\u201F\u2018\u2019\u201A\u00AB\u00BB\uFF02";
+/// They look like a blank, or like nothing.
+constexpr std::wstring_view kOtherBlanks = L"\u00A0\u2007\u202F\u3000\u200B\u2060\uFEFF";
+
+bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') || c == L'_'; }
+bool IsQuote(wchar_t c) { return c == L'"' || c == L'\''; }
+
+/// Where the text at an offset stands.
+TextPosition PositionOf(std::string_view text, std::size_t offset) {
+    const std::string_view before = text.substr(0, offset);
+    const std::size_t lineStart = before.rfind('\n') + 1; // npos + 1 is 0
+    const auto isStart = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+    return {1 + static_cast<std::size_t>(std::ranges::count(before, '\n')),
+            1 + static_cast<std::size_t>(std::ranges::count_if(before.substr(lineStart), isStart))};
+}
+
+/// A comment that lacks its end goes on to the end of the next one.
+std::optional<SyntaxHint> FindSwallowingComment(std::string_view text, TextPosition noticed) {
+    constexpr std::string_view opening = "<!--";
+    constexpr std::string_view closing = "-->";
+    for (std::size_t at = text.find(opening); at != std::string_view::npos; at = text.find(opening, at)) {
+        const std::size_t start = at + opening.size();
+        const std::size_t end = std::min(text.find(closing, start), text.size());
+        const TextPosition position = PositionOf(text, at);
+        if (position.line > noticed.line) {
+            break;
+        }
+        if (text.substr(start, end - start).find(opening) != std::string_view::npos || end == text.size()) {
+            return SyntaxHint{position, L"does it lack its end, -->?",
+                              L"this comment goes on to the end of the next one, or of the file"};
+        }
+        at = end + closing.size();
+    }
+    return std::nullopt;
+}
+
+/// The line, and 0 where it has no such character.
+struct Place {
+    std::wstring line;
+    std::size_t column;
+
+    wchar_t At(std::size_t index) const { return index >= 1 && index <= line.size() ? line[index - 1] : L'\0'; }
+    wchar_t Here() const { return At(column); }
+    wchar_t Before() const { return At(column - 1); }
+    bool IsPair(bool (*isFirst)(wchar_t), bool (*isSecond)(wchar_t)) const {
+        return (isFirst(Before()) && isSecond(Here())) || (isFirst(At(column - 2)) && isSecond(Before()));
+    }
+    bool Has(std::wstring_view signs) const {
+        return (Here() != 0 && signs.find(Here()) != signs.npos) ||
+               (Before() != 0 && signs.find(Before()) != signs.npos);
+    }
+};
+
+Place PlaceAt(std::string_view text, TextPosition position) {
+    std::size_t start = 0;
+    for (std::size_t line = 1; line < position.line && start < text.size(); ++line) {
+        start = std::min(text.find('\n', start), text.size() - 1) + 1;
+    }
+    const std::string_view line = text.substr(start, text.find('\n', start) - start);
+    return {string2wstring(std::string(line)), position.column};
+}
+
+struct Slip {
+    bool (*isMade)(const Place& place);
+    const wchar_t* fix;
+};
+/// What is wrong is often noticed one character behind.
+constexpr Slip kSlips[] = {
+    {[](const Place& place) { return place.Has(kTypographicQuotes); },
+     L"write the straight quotation mark (\") instead of the typographic one"},
+    {[](const Place& place) { return place.Has(kOtherBlanks); },
+     L"write a common blank: the one that stands here is another character, as word processors put it"},
+    {[](const Place& place) { return place.IsPair([](wchar_t c) { return c == L':'; }, IsQuote); },
+     L"write = between name and value"},
+    {[](const Place& place) { return IsQuote(place.Before()) && IsLetter(place.Here()); },
+     L"put a blank between the attributes, or close the value before where it ends"},
+    {[](const Place& place) { return place.Before() == L'=' && !IsQuote(place.Here()); },
+     L"put the value between quotation marks"},
+    {[](const Place& place) { return IsQuote(place.Here()); },
+     L"is a quotation mark missing, before this place or in the line before?"},
+    {[](const Place& place) { return place.IsPair([](wchar_t c) { return c == L' ' || c == L'\t'; }, IsLetter); },
+     L"an attribute is NAME=\"VALUE\": is the value missing before this place?"},
+};
+
+} // namespace
+
+SyntaxHint HintForSyntax(std::string_view text, TextPosition noticed, std::wstring_view reason) {
+    if (auto comment = FindSwallowingComment(text, noticed)) {
+        return std::move(*comment);
+    }
+    if (reason.find(L"does not end") != reason.npos) {
+        return {noticed, L"is the \"/\" of that tag missing, or an end tag too many?"};
+    }
+    const Place place = PlaceAt(text, noticed);
+    const auto* const slip = std::ranges::find_if(kSlips, [&place](const Slip& one) { return one.isMade(place); });
+    return {noticed, slip == std::end(kSlips) ? std::wstring() : slip->fix};
+}
+
+SyntaxHint HintForSyntax(const std::wstring& fullPath, TextPosition noticed, std::wstring_view reason) {
+    std::string text;
+    return varnhold::ReadXmlText(fullPath, text) ? HintForSyntax(text, noticed, reason) : SyntaxHint{noticed, {}};
+}

@@ -1,0 +1,208 @@
+// Slips of those who write these files for the first time: one finding, where it is mended, and a plain word how.
+#include "checked_installation.h"
+#include "sample_installation.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct PlantedSlip {
+    PlantedFault fault;
+    /// Stands in the text or the fix of the finding.
+    const wchar_t* says;
+};
+
+constexpr wchar_t kStraight[] = L"write the straight quotation mark";
+constexpr wchar_t kMissingQuote[] = L"is a quotation mark missing";
+constexpr wchar_t kTags[] = L"is the \"/\" of that tag missing, or an end tag too many?";
+constexpr wchar_t kCommentEnd[] = L"does it lack its end, -->?";
+constexpr wchar_t kBlank[] = L"write a common blank";
+constexpr wchar_t kZoomIcon[] = L"did you mean \"pic\\icon\\west.ico\"?";
+
+const PlantedSlip kSlips[] = {
+    // Quotation marks.
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD=\"PanelTools NAME=\"@@\"", "xml-syntax"},
+     kMissingQuote},
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD=\"PanelTools' NAME=\"@@\"", "xml-syntax"},
+     kMissingQuote},
+    {{"cfg/ribbon.xml", "CMD=\"measure\"/>", "CMD=@@measure\"/>", "xml-syntax"},
+     L"put the value between quotation marks"},
+    {{"cfg/ribbon.xml", "CMD=\"measure\"/>", "CMD=@@\u201Cmeasure\u201D/>", "xml-syntax"}, kStraight},
+    {{"cfg/menu.xml", "KEYWORD=\"Undo\" MENUNAME=\"\"", "KEYWORD=@@\u201EUndo\u201C MENUNAME=\u201E\u201C",
+      "xml-syntax"},
+     kStraight},
+    {{"cfg/ribbon.xml", "CMD=\"measure\"/>", "@@CMD=\"\u201Cmeasure\u201D\"/>", "odd-quotes"}, L"write \"measure\""},
+    {{"cfg/ribbon.xml", "KEYWORD=\"ScaleLabel\"", "@@KEYWORD=\"\u201CScaleLabel\u201D\"", "odd-quotes"},
+     L"write \"ScaleLabel\""},
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"\u201CCtrl+P\u201D\"", "shortcut-syntax"}, L"write \"Ctrl+P\""},
+    {{"cfg/toolbar.xml", "TYPE=\"separate\"", "@@TYPE=\"\uFF02separate\uFF02\"", "odd-quotes"}, L"write \"separate\""},
+    // Attributes.
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD=\"PanelTools\"@@NAME=\"\"", "xml-syntax"},
+     L"put a blank between the attributes"},
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD:\"@@PanelTools\" NAME=\"\"", "xml-syntax"},
+     L"write = between name and value"},
+    {{"cfg/ribbon.xml", "KEYWORD=\"Measure\" NAME=\"\"", "KEYWORD=\"Measure\" NAME T@@OOLTIP=\"\"", "xml-syntax"},
+     L"is the value missing before this place?"},
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD=\"PanelTools\" @@N\u0410ME=\"\"",
+      "unknown-attribute"},
+     L"\"N<U+0410>ME\""},
+    // Letters that look like others, and what is not seen.
+    {{"cfg/ribbon.xml", "TYPE=\"label\"/>", "@@TYPE=\"l\u0430bel\"/>", "unknown-type"}, L"\"l<U+0430>bel\""},
+    {{"cfg/ribbon.xml", "KEYWORD=\"ScaleLabel\"", "@@KEYWORD=\"S\u0441aleLabel\"", "missing-text"},
+     L"\"S<U+0441>aleLabel\""},
+    {{"cfg/ribbon.xml", "KEYWORD=\"ScaleLabel\"", "@@KEYWORD=\"\uFEFFScaleLabel\"", "missing-text"},
+     L"\"<U+FEFF>ScaleLabel\""},
+    {{"cfg/ribbon.xml", "KEYWORD=\"ScaleLabel\"", "@@KEYWORD=\"Scale\u200BLabel\"", "missing-text"},
+     L"\"Scale<U+200B>Label\""},
+    {{"cfg/ribbon.xml", "KEYWORD=\"ScaleLabel\"", "@@KEYWORD=\"ScaleLabel \"", "missing-text"},
+     L"did you mean \"ScaleLabel\"?"},
+    {{"cfg/ribbon.xml", "    <category KEYWORD=\"CatTools\"", "@@\uFEFF    <category KEYWORD=\"CatTools\"",
+      "stray-text"},
+     L"belongs to no element"},
+    {{"cfg/ribbon.xml", "TYPE=\"label\"/>", "@@TYPE=\"label \"/>", "unknown-type"}, L"did you mean \"label\"?"},
+    // Numbers and shortcuts.
+    {{"cfg/ribbon.xml", "WIDTH=\"130\"", "@@WIDTH=\"130,5\"", "bad-number"}, L"write the digits 0 to 9 alone"},
+    {{"cfg/ribbon.xml", "WIDTH=\"130\"", "@@WIDTH=\"\uFF11\uFF13\uFF10\"", "bad-number"},
+     L"write the digits 0 to 9 alone"},
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"Ctrl\uFF0BP\"", "shortcut-syntax"}, L"write \"Ctrl+P\""},
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"Ctrl +P\"", "shortcut-syntax"}, L"write \"Ctrl+P\""},
+    // Paths.
+    {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"D:\\maps\\pic\\icon\\west.ico\"",
+      "missing-icon"},
+     kZoomIcon},
+    {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"\\\\server\\pic\\west.ico\"", "missing-icon"},
+     kZoomIcon},
+    {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"./pic/icon/west.ico\"", "path-separator"},
+     L"write \".\\pic\\icon\\west.ico\""},
+    {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"pic\\icon\\west.ico \"", "missing-icon"},
+     kZoomIcon},
+    {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"pic\\icon\\west\"", "missing-icon"}, kZoomIcon},
+    // Tags and comments.
+    {{"cfg/ribbon.xml", "TYPE=\"label\"/>", "TYPE=\"label\"/>@@</item>", "xml-syntax"}, kTags},
+    {{"cfg/menu.xml", "CMD=\"exit\"/>\n    </popup>", "CMD=\"exit\">\n    @@</popup>", "xml-syntax"}, kTags},
+    {{"cfg/ribbon.xml", "<row KEYWORD=\"StatusEx_btns\">",
+      "@@<!-- status bar -><row KEYWORD=\"StatusEx_btns\"><!-- x -->", "xml-syntax"},
+     kCommentEnd},
+    {{"cfg/ribbon.xml", "<row KEYWORD=\"StatusEx_btns\">", "@@<!-- status bar <row KEYWORD=\"StatusEx_btns\">",
+      "xml-syntax"},
+     kCommentEnd},
+    {{"cfg/ribbon.xml", "    <category KEYWORD=\"CatTools\"", "@@// tools\n    <category KEYWORD=\"CatTools\"",
+      "stray-text"},
+     L"make it a comment"},
+    {{"cfg/menu.xml", "</menu>\n", "</menu>\n@@<menu></menu>\n", "xml-syntax"}, L"a second document element"},
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD=\"PanelTools\"@@\u00A0NAME=\"\"", "xml-syntax"},
+     kBlank},
+    // Tables.
+    {{"lang/de/a.xlf", "<target>de West</target>", "<target>de West@@</traget>", "xml-syntax"}, kTags},
+    {{"lang/de/a.xlf", "<unit id=\"West\">", "<unit id=@@\u201CWest\u201D>", "xml-syntax"}, kStraight},
+    {{"lang/de/a.xlf", "<unit id=\"West\"><segment><source>West</source><target>de West</target>",
+      "@@<unit id=\"West\"><segment><source>West</source><target></target>", "untranslated-text"},
+     L"has no target"},
+};
+
+std::string PlaceAndCode(const Diagnostic& finding) { return CheckedInstallation::Describe(finding); }
+
+/// Line and column of the mark, in characters.
+std::string PlaceOfMark(const std::string& text) {
+    const std::string before = text.substr(0, text.find(kMark));
+    const std::size_t lineStart = before.rfind('\n') + 1; // npos + 1 is 0
+    const auto isStart = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+    return std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + ":" +
+           std::to_string(
+               1 + std::count_if(before.begin() + static_cast<std::ptrdiff_t>(lineStart), before.end(), isStart));
+}
+
+void ExpectSays(const Diagnostic& finding, const std::wstring& words) {
+    EXPECT_NE((finding.text + L"\n" + finding.fix).find(words), std::wstring::npos)
+        << wstring2String(finding.text + L" / " + finding.fix);
+}
+
+TEST(Slip, IsOneFindingWhereItIsMendedInPlainWords) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    for (const PlantedSlip& slip : kSlips) {
+        const std::string marked = MarkedFault(slip.fault);
+        ASSERT_FALSE(marked.empty()) << slip.fault.before << " stands not once in " << slip.fault.file;
+        installation.Write(slip.fault.file, TextWithFault(slip.fault));
+        const std::vector<Diagnostic> findings = installation.Check();
+        std::string all;
+        for (const Diagnostic& finding : findings) {
+            all += PlaceAndCode(finding);
+        }
+        EXPECT_EQ(all, std::string(slip.fault.file) + ":" + PlaceOfMark(marked) + " " + slip.fault.code + "\n")
+            << slip.fault.after;
+        if (findings.size() == 1) {
+            ExpectSays(findings.front(), slip.says);
+        }
+        for (const SampleFile& sample : SampleFiles()) {
+            if (sample.name == std::string_view(slip.fault.file)) {
+                installation.Write(sample.name, sample.text);
+            }
+        }
+    }
+}
+
+class SlipWithFiles : public testing::Test {
+protected:
+    SlipWithFiles() { WriteSample(m_installation); }
+
+    fs::path Path(const char* name) const { return m_installation.Directory().Path() / name; }
+    void ExpectOne(const std::string& placeAndCode, const std::wstring& words) const {
+        const std::vector<Diagnostic> findings = m_installation.Check();
+        ASSERT_EQ(findings.size(), 1u);
+        EXPECT_EQ(PlaceAndCode(findings.front()), placeAndCode + "\n");
+        ExpectSays(findings.front(), words);
+    }
+
+    const CheckedInstallation m_installation;
+};
+
+TEST_F(SlipWithFiles, ACopyOfATableIsOneFinding) {
+    fs::copy(Path("lang/en/a.xlf"), Path("lang/en/a - Copy.xlf"));
+    ExpectOne("lang/en/a.xlf:4:5 duplicate-text", L"is one of the two files a copy?");
+}
+
+TEST_F(SlipWithFiles, AFolderThatIsNoLanguagesNameIsOneFinding) {
+    m_installation.Write("lang/de/b.xlf", "<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\" "
+                                          "srcLang=\"en\" trgLang=\"de\">\n<file id=\"Other\"/>\n</xliff>\n");
+    ASSERT_EQ(m_installation.Findings(), "");
+    fs::rename(Path("lang/de"), Path("lang/ger"));
+    ExpectOne("lang/ger/a.xlf:2:1 bad-table", L"give the folder the name of its language");
+}
+
+TEST_F(SlipWithFiles, ATableBesideTheFoldersIsSaidWhereItBelongs) {
+    fs::copy(Path("lang/en/a.xlf"), Path("lang/a.xlf"));
+    ExpectOne("lang/a.xlf:1:1 bad-table", L"put it into the folder of its language");
+}
+
+TEST_F(SlipWithFiles, AnIconThatWasSavedAsAPictureIsNamed) {
+    fs::rename(Path("pic/icon/16/west.ico"), Path("pic/icon/16/WEST.PNG"));
+    ExpectOne("cfg/ribbon.xml:25:64 missing-icon", L"\"WEST.PNG\" is no icon: save it as an icon file (.ico)");
+}
+
+TEST_F(SlipWithFiles, AnIconOfTheOtherSizeAloneIsSaidToBeThat) {
+    fs::remove(Path("pic/icon/16/open.ico"));
+    ExpectOne("cfg/ribbon.xml:16:73 missing-icon", L"put the file of this size into folder \"16\"");
+}
+
+TEST_F(SlipWithFiles, AnIconWithoutBytesIsNone) {
+    m_installation.Write("pic/icon/16/west.ico", "");
+    ExpectOne("cfg/ribbon.xml:25:64 icon-format", L"is no icon file, or has no picture");
+}
+
+TEST_F(SlipWithFiles, APictureThatIsCalledAnIconIsNone) {
+    m_installation.Write("pic/icon/16/west.ico", "\x89PNG\r\n\x1a\nIHDR");
+    ExpectOne("cfg/ribbon.xml:25:64 icon-format", L"save it as an icon file (.ico)");
+}
+
+TEST_F(SlipWithFiles, LetterCaseOfNamesIsNone) {
+    fs::rename(Path("pic/icon/16/west.ico"), Path("pic/icon/16/WEST.ICO"));
+    EXPECT_EQ(m_installation.Findings(), "");
+}
+
+} // namespace
