@@ -16,6 +16,8 @@ import random_configuration
 from wine_session import ROOT
 
 BIN_DIR = ""
+# What stands in texts of the language alone.
+TEXTS = {"en": "& co", "de": "übersetzt"}
 
 
 def run(program, *arguments):
@@ -54,20 +56,28 @@ class ModelOfTheFiles(unittest.TestCase):
             directories = [os.path.join(folder, str(seed)) for seed in range(count)]
             for seed, directory in enumerate(directories):
                 random_configuration.write(directory, seed)
-            lists = {}
-            for name, drive in (("dump", ""), ("model", "Z:")):
-                lists[name] = os.path.join(folder, f"{name}.txt")
-                with open(lists[name], "w", encoding="utf-8") as file:
-                    file.writelines(f"{drive}{directory}\t{drive}{directory}/{name}.json\n" for directory in directories)
-            built = run("barview.exe", "--lang", "en", "--batch", lists["dump"])
-            self.assertIn(built.returncode, (0, 1), built.stderr)  # 1: some files are broken
-            result = run("barcheck.exe", "--lang", "en", "--models", lists["model"])
-            self.assertEqual(result.returncode, 0, result.stderr)
-            found = []
-            for directory in directories:
-                model, dump = (read(os.path.join(directory, f"{name}.json")) for name in ("model", "dump"))
-                found += [f"{os.path.basename(directory)}{text}" for text in differences(model, dump)]
+            found, seen = [], set()
+            for language in ("en", "de"):
+                self.build(folder, directories, language)
+                for directory in directories:
+                    model, dump = (read(os.path.join(directory, f"{name}.json")) for name in ("model", "dump"))
+                    found += [f"{os.path.basename(directory)} in {language}{text}" for text in differences(model, dump)]
+                    seen |= {kind for kind in ("registry", "menu", "accelerators", "toolbars", "statusExtras") if model[kind]}
+                    seen |= {f"{language} text" for entry in model["registry"] if TEXTS[language] in entry["name"]}
             self.assertEqual(found[:20], [], f"{len(found)} differences")
+            self.assertEqual(seen, {"registry", "menu", "accelerators", "toolbars", "statusExtras", "en text", "de text"})
+
+    def build(self, folder, directories, language):
+        """Both write what they have to say of each directory into it."""
+        lists = {}
+        for name, drive in (("dump", ""), ("model", "Z:")):
+            lists[name] = os.path.join(folder, f"{name}.txt")
+            with open(lists[name], "w", encoding="utf-8") as file:
+                file.writelines(f"{drive}{directory}\t{drive}{directory}/{name}.json\n" for directory in directories)
+        built = run("barview.exe", "--lang", language, "--batch", lists["dump"])
+        self.assertIn(built.returncode, (0, 1), built.stderr)  # 1: some files are broken
+        result = run("barcheck.exe", "--lang", language, "--models", lists["model"])
+        self.assertEqual(result.returncode, 0, result.stderr)
 
 
 if __name__ == "__main__":

@@ -126,22 +126,37 @@ class Maker:
 
     # --- the rest
 
-    def table(self):
-        units = "".join(f'<unit id="u{number}" name={quoteattr(key)}><segment><source>{key} &amp; co</source></segment></unit>\n'
-                        for number, key in enumerate(dict.fromkeys(self.keyword() + self.random.choice(["", "", ".tooltip"])
-                                                                   for _ in range(30))))
-        return ('<xliff xmlns="urn:oasis:names:tc:xliff:document:2.0" version="2.0" srcLang="en"><file id="RibbonBarCfg">\n'
+    def unit(self, number, key, target):
+        """`target`: whether the table translates; some units do not, or are faulty."""
+        source = f"<source>{key} &amp; co</source>"
+        translated = self.random.choice([f"<target>{key} übersetzt</target>", f"<target>{key} 译</target>", "<target/>", ""]) if target else ""
+        segment = f"<segment>{source}{translated}</segment>" if not self.chance(0.05) else ""
+        name = f" name={quoteattr(key)}" if not self.chance(0.05) else ""
+        return f'<unit id="u{number}"{name}>{segment}</unit>\n'
+
+    def table(self, language="en", count=30):
+        keys = [self.keyword() + self.random.choice(["", "", ".tooltip"]) for _ in range(count)]
+        if not self.chance(0.2):
+            keys = list(dict.fromkeys(keys))  # otherwise some stand twice
+        units = "".join(self.unit(number, key, language != "en") for number, key in enumerate(keys))
+        target = f' trgLang="{language}"' if language != "en" else ""
+        section = "RibbonBarCfg" if not self.chance(0.05) else "Other"
+        return (f'<xliff xmlns="urn:oasis:names:tc:xliff:document:2.0" version="2.0" srcLang="en"{target}><file id="{section}">\n'
                 f"{units}</file></xliff>\n")
 
     def broken(self, text):
         return text[:self.random.randrange(len(text))] if self.chance(0.03) else text
 
     def files(self):
-        files = {"cfg/ribbon.xml": self.broken(self.ribbon()), "lang/en/a.xlf": self.table()}
+        files = {"cfg/ribbon.xml": self.broken(self.ribbon())}
         for name, share, make in (("ribbon-b", 0.3, self.ribbon), ("menu", 0.8, self.menu), ("menu-b", 0.2, self.menu),
                                   ("toolbar", 0.8, self.bars), ("toolbar-b", 0.2, self.bars)):
             if self.chance(share):
                 files[f"cfg/{name}.xml"] = self.broken(make())
+        files["lang/en/a.xlf"] = self.table()
+        files["lang/de/a.xlf"] = self.table("de")
+        if self.chance(0.5):
+            files["lang/de/b.xlf"] = self.table("de", 10)
         return files
 
 
