@@ -3,9 +3,11 @@
 #include "afxglobals.h"
 #include "fx/dc_scope.h"
 #include "visual/image_source.h"
+#include "visual/scratch_picture.h"
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 
 using visual::PixelView;
 
@@ -126,26 +128,21 @@ BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect&
     if (rectDest.IsRectEmpty() || rectSrc.IsRectEmpty()) {
         return FALSE;
     }
-    const PixelView well = visual::ViewOf(m_hbmImageWell);
-    std::uint32_t *bits = nullptr, *scaledBits = nullptr;
-    HBITMAP image = visual::MakeBitmap32(rectSrc.Width(), rectSrc.Height(), &bits);
-    if (image == nullptr) {
+    const visual::ScratchPicture whole(rectSrc.Width(), rectSrc.Height());
+    if (whole.IsEmpty()) {
         return FALSE;
     }
-    PixelView view{bits, rectSrc.Width(), rectSrc.Height()};
-    CopyImage(well, rectSrc, view, m_nBitsPerPixel == 32, m_clrTransparent);
+    CopyImage(visual::ViewOf(m_hbmImageWell), rectSrc, whole.View(), m_nBitsPerPixel == 32, m_clrTransparent);
+    std::optional<visual::ScratchPicture> scaled;
     if (rectDest.Size() != rectSrc.Size()) {
-        const HBITMAP scaled = visual::MakeBitmap32(rectDest.Width(), rectDest.Height(), &scaledBits);
-        if (scaled == nullptr) {
-            ::DeleteObject(image);
+        scaled.emplace(rectDest.Width(), rectDest.Height());
+        if (scaled->IsEmpty()) {
             return FALSE;
         }
-        const PixelView target{scaledBits, rectDest.Width(), rectDest.Height()};
-        visual::Resample(view, target);
-        ::DeleteObject(image);
-        image = scaled;
-        view = target;
+        visual::Resample(whole.View(), scaled->View());
     }
+    const visual::ScratchPicture& image = scaled ? *scaled : whole;
+    const PixelView& view = image.View();
     if (m_bIsRTL) {
         visual::MirrorRows(view);
     }
@@ -159,18 +156,13 @@ BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect&
     if (nLook & LookDisabled) { // the usual setting, 127, is the look that DisabledPixel makes
         alpha = std::min(alpha * m_nDisabledImageAlpha / 127, 255);
     }
-    const HDC memory = ::CreateCompatibleDC(*pDC);
-    const HGDIOBJ previous = ::SelectObject(memory, image);
     const BLENDFUNCTION over{AC_SRC_OVER, 0, static_cast<BYTE>(alpha), AC_SRC_ALPHA};
     BOOL drawn = FALSE;
     {
         const fx::PictureScope place(*pDC, rectDest);
-        drawn = ::AlphaBlend(*pDC, place.Corner().x, place.Corner().y, rectDest.Width(), rectDest.Height(), memory, 0,
-                             0, rectDest.Width(), rectDest.Height(), over);
+        drawn = ::AlphaBlend(*pDC, place.Corner().x, place.Corner().y, rectDest.Width(), rectDest.Height(),
+                             image.Context(), 0, 0, rectDest.Width(), rectDest.Height(), over);
     }
-    ::SelectObject(memory, previous);
-    ::DeleteDC(memory);
-    ::DeleteObject(image);
     m_rectLastDraw = rectDest;
     return drawn;
 }
