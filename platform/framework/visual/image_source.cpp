@@ -164,37 +164,57 @@ Picture PictureFromResource(HINSTANCE module, const wchar_t* name) {
     return picture;
 }
 
+namespace {
+
+/// false: the icon's colours have no alpha.
+bool MultiplyOwnAlpha(const PixelView& source, const ICONINFO& info, const BITMAP& colors) {
+    if (info.hbmColor == nullptr || colors.bmBitsPixel != 32 || !HasAlpha(source)) {
+        return false;
+    }
+    PreMultiply(source, false);
+    return true;
+}
+
+/// What the mask covers is clear, all else opaque. false: there is no mask.
+bool CutByMask(const PixelView& source, const ICONINFO& info) {
+    BITMAP maskInfo{};
+    std::uint32_t* maskBits = nullptr;
+    const HBITMAP mask = CopyRows(info.hbmMask, &maskBits, maskInfo);
+    if (mask == nullptr) {
+        return false;
+    }
+    for (int i = 0; i < source.width * source.height; ++i) {
+        source.bits[i] = (maskBits[i] & 0xFFFFFF) != 0 ? 0 : source.bits[i] | 0xFF000000;
+    }
+    DeleteObject(mask);
+    return true;
+}
+
+} // namespace
+
 Picture PictureFromIcon(HICON icon, SIZE size) {
     ICONINFO info{};
     if (!GetIconInfo(icon, &info)) {
         return {};
     }
     Picture picture;
-    BITMAP colorInfo{}, maskInfo{};
-    std::uint32_t *colorBits = nullptr, *maskBits = nullptr;
-    const HBITMAP mask = CopyRows(info.hbmMask, &maskBits, maskInfo);
+    BITMAP colorInfo{};
+    std::uint32_t* colorBits = nullptr;
     // An icon without colours keeps its picture in the lower half of the mask.
     const HBITMAP color = CopyRows(info.hbmColor != nullptr ? info.hbmColor : info.hbmMask, &colorBits, colorInfo);
-    if (color != nullptr && mask != nullptr) {
-        const int width = colorInfo.bmWidth;
-        const int height = info.hbmColor != nullptr ? colorInfo.bmHeight : colorInfo.bmHeight / 2;
-        PixelView source{colorBits + (info.hbmColor != nullptr ? 0 : static_cast<std::size_t>(width) * height), width,
-                         height};
-        const bool hasAlpha = info.hbmColor != nullptr && colorInfo.bmBitsPixel == 32 && HasAlpha(source);
-        if (hasAlpha) {
-            PreMultiply(source, false);
-        } else {
-            for (int i = 0; i < width * height; ++i) {
-                source.bits[i] = (maskBits[i] & 0xFFFFFF) != 0 ? 0 : source.bits[i] | 0xFF000000;
-            }
-        }
-        std::uint32_t* bits = nullptr;
+    const int width = colorInfo.bmWidth;
+    const int height = info.hbmColor != nullptr ? colorInfo.bmHeight : colorInfo.bmHeight / 2;
+    const std::size_t upperHalf = info.hbmColor != nullptr ? 0 : static_cast<std::size_t>(width) * height;
+    const PixelView source{color != nullptr ? colorBits + upperHalf : nullptr, width, height};
+    const bool isReadable = color != nullptr && (MultiplyOwnAlpha(source, info, colorInfo) || CutByMask(source, info));
+    std::uint32_t* bits = nullptr;
+    if (isReadable) {
         picture = {MakeBitmap32(size.cx, size.cy, &bits), true};
-        if (picture.bitmap != nullptr) {
-            Resample(source, {bits, size.cx, size.cy});
-        }
     }
-    for (const HBITMAP bitmap : {color, mask, info.hbmColor, info.hbmMask}) {
+    if (picture.bitmap != nullptr) {
+        Resample(source, {bits, size.cx, size.cy});
+    }
+    for (const HBITMAP bitmap : {color, info.hbmColor, info.hbmMask}) {
         if (bitmap != nullptr) {
             DeleteObject(bitmap);
         }

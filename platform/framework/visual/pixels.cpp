@@ -230,6 +230,10 @@ void Resample(const PixelView& source, const PixelView& target) {
     if (source.width <= 0 || source.height <= 0) {
         return;
     }
+    if (source.width == target.width && source.height == target.height) {
+        std::copy_n(source.bits, static_cast<std::size_t>(source.width) * source.height, target.bits);
+        return;
+    }
     const double stepX = static_cast<double>(source.width) / target.width;
     const double stepY = static_cast<double>(source.height) / target.height;
     // Each target pixel is the mean of the source area below it; when enlarging, the area is one source pixel wide.
