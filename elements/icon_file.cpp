@@ -99,7 +99,8 @@ private:
         static std::map<Key, SharedIcon> icons;
         return icons;
     }
-    // Each takes three of the 10,000 objects that the system gives a process.
+    // Each takes three of the 10,000 objects that the system gives a process, and one more for each size that it was
+    // listed in.
     static constexpr std::size_t kMostShared = 500;
 };
 
@@ -114,8 +115,12 @@ FileIcon::FileIcon(const wchar_t* path, int usualSide, int drawnSide) {
 
 HICON FileIcon::Get() const { return m_loaded ? m_loaded->icon : nullptr; }
 int FileIcon::GetSide() const { return m_loaded ? m_loaded->side : 0; }
+CMFCToolBarImages* FileIcon::GetList(int listedSide, BOOL isAlphaBlended) const {
+    return m_loaded ? m_loaded->ListOf(listedSide, isAlphaBlended) : nullptr;
+}
 std::size_t FileIcon::GetReadCount() { return LoadedIcon::s_readCount; }
 std::size_t FileIcon::GetAliveCount() { return LoadedIcon::s_aliveCount; }
+std::size_t FileIcon::GetListCount() { return LoadedIcon::s_listCount; }
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <memory>
 
+class CMFCToolBarImages;
 struct LoadedIcon;
 
 /// An icon that was loaded from a file; may be empty. The file is read anew for each, with one exception: whatever is
@@ -23,10 +24,15 @@ public:
     HICON Get() const;
     /// The side at which it was loaded.
     int GetSide() const;
+    /// The icon alone in an image list of so many pixels a side, shared like the icon itself, and valid as long; null
+    /// for none.
+    CMFCToolBarImages* GetList(int listedSide, BOOL isAlphaBlended) const;
 
-    /// Files that were read, successfully or not, and icons that are loaded now, in the whole process.
+    /// Files that were read, successfully or not, icons that are loaded now, and image lists that were made of icons,
+    /// in the whole process.
     static std::size_t GetReadCount();
     static std::size_t GetAliveCount();
+    static std::size_t GetListCount();
 
 private:
     std::shared_ptr<const LoadedIcon> m_loaded;

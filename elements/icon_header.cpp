@@ -119,6 +119,11 @@ bool IsPlain(const std::array<std::uint8_t, kBitmapHeaderBytes>& header, std::ui
            Little16(header, 14) == 32 && Little32(header, 16) == uncompressed && byteCount >= PlainBitmapBytes(side);
 }
 
+bool IsPlainAt(const IconFileReader& read, const PictureBytes& place, std::uint32_t side) {
+    std::array<std::uint8_t, kBitmapHeaderBytes> header;
+    return ReadWhole(read, place.offset, header) && IsPlain(header, place.count, side);
+}
+
 } // namespace
 
 std::optional<std::vector<IconPicture>> ReadIconHeaders(const IconFileReader& read) {
@@ -161,12 +166,24 @@ std::optional<PictureBytes> FindPlainPicture(const IconFileReader& read, int sid
             found = entry->bytes;
         }
     }
-    std::array<std::uint8_t, kBitmapHeaderBytes> header;
-    if (!found || !ReadWhole(read, found->offset, header) ||
-        !IsPlain(header, found->count, static_cast<std::uint32_t>(side))) {
+    if (!found || !IsPlainAt(read, *found, static_cast<std::uint32_t>(side))) {
         return std::nullopt;
     }
     return found;
+}
+
+std::optional<PictureBytes> FindOnlyPlainPicture(const IconFileReader& read) {
+    const auto directory = ReadDirectory(read);
+    if (!directory || directory->type != kIconType || directory->count != 1) {
+        return std::nullopt;
+    }
+    const auto entry = ReadEntry(read, 0);
+    constexpr std::uint32_t sideOfNone = 256;
+    const std::uint32_t side = entry && entry->width != 0 ? entry->width : sideOfNone;
+    if (!entry || entry->width != entry->height || !IsPlainAt(read, entry->bytes, side)) {
+        return std::nullopt;
+    }
+    return entry->bytes;
 }
 
 bool MayDecode(const std::optional<std::vector<IconPicture>>& pictures) {

@@ -47,5 +47,8 @@ struct PictureBytes {
 /// what the system draws from the file. No value: let the system choose, convert, resize or refuse.
 std::optional<PictureBytes> FindPlainPicture(const IconFileReader& read, int side);
 
+/// The same for a file with one picture alone, whatever side it is loaded at: the system has nothing else to resize.
+std::optional<PictureBytes> FindOnlyPlainPicture(const IconFileReader& read);
+
 /// A plain picture is not longer; what claims to be is left to the system.
 inline constexpr std::uint32_t kMostPlainBytes = 1 << 20;

@@ -7,11 +7,26 @@
 
 std::size_t LoadedIcon::s_readCount = 0;
 std::size_t LoadedIcon::s_aliveCount = 0;
+std::size_t LoadedIcon::s_listCount = 0;
 
 LoadedIcon::LoadedIcon(HICON owned, int loadedSide) : icon(owned), side(loadedSide) { ++s_aliveCount; }
 LoadedIcon::~LoadedIcon() {
     ::DestroyIcon(icon);
     --s_aliveCount;
+}
+
+// The system copies an icon's bitmaps for whoever asks what it looks like, which takes longer than to draw it.
+CMFCToolBarImages* LoadedIcon::ListOf(int listedSide, BOOL isAlphaBlended) const {
+    const auto [place, isNew] = m_lists.try_emplace({listedSide, isAlphaBlended != FALSE});
+    if (isNew) {
+        ++s_listCount;
+        auto list = std::make_unique<CMFCToolBarImages>();
+        list->SetImageSize(CSize(listedSide, listedSide));
+        if (list->AddIcon(icon, isAlphaBlended) >= 0) {
+            place->second = std::move(list);
+        }
+    }
+    return place->second.get();
 }
 
 namespace {
@@ -65,10 +80,13 @@ private:
     std::array<std::uint8_t, kStartBytes> m_start;
 };
 
-/// The picture of that side from bytes that were read here: a file is opened once then. Null when the system is to
-/// choose.
+/// The picture of that side, or a file's only one brought to it, from bytes that were read here: a file is opened once
+/// then. Null when the system is to choose.
 HICON PlainIcon(const IconFileReader& read, int side) {
-    const auto place = FindPlainPicture(read, side);
+    auto place = FindPlainPicture(read, side);
+    if (!place) {
+        place = FindOnlyPlainPicture(read);
+    }
     if (!place) {
         return nullptr;
     }

@@ -144,28 +144,32 @@ void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect r
     }
     const fx::ScopedChange smallHandle(m_hIconSmall, small.Get() ? small.Get() : m_hIconSmall);
     const HICON icon = type == RibbonImageSmall && m_hIconSmall ? m_hIconSmall : m_hIcon;
-    if (m_bIsDisabled) {
-        // In the pixels that were loaded: enlarged before it is drawn, it would be blurred.
-        const int loaded = icon == large.Get() ? large.GetSide() : icon == small.Get() ? small.GetSide() : 0;
-        const int side = std::clamp<int>(loaded, unscaled.cx, std::max(unscaled.cx, scaled.cx));
-        DrawDisabledIcon(dc, icon, CSize(side, side), scaled, rect.TopLeft());
-    } else {
+    if (!m_bIsDisabled) {
         DrawEnabledIcon(dc, icon, scaled, rect.TopLeft());
+        return;
     }
+    // In the pixels that were loaded: enlarged before it is drawn, it would be blurred.
+    const FileIcon* const file = icon == large.Get() ? &large : icon == small.Get() ? &small : nullptr;
+    const int side = std::clamp<int>(file ? file->GetSide() : 0, unscaled.cx, std::max(unscaled.cx, scaled.cx));
+    if (file) {
+        DrawDisabledIcon(dc, file->GetList(side, m_bAlphaBlendIcon), scaled, rect.TopLeft());
+        return;
+    }
+    CMFCToolBarImages own;
+    own.SetImageSize(CSize(side, side));
+    own.AddIcon(icon, m_bAlphaBlendIcon);
+    DrawDisabledIcon(dc, &own, scaled, rect.TopLeft());
 }
 
-void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, HICON icon, CSize listed, CSize scaled, CPoint corner) const {
-    CMFCToolBarImages images;
-    images.SetImageSize(listed);
-    const int index = images.AddIcon(icon, m_bAlphaBlendIcon);
+void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, CMFCToolBarImages* list, CSize scaled, CPoint corner) {
     CAfxDrawState state;
-    if (index < 0 || !images.PrepareDrawImage(state, scaled)) {
+    if (!list || !list->PrepareDrawImage(state, scaled)) {
         return;
     }
     constexpr BOOL isHilite = FALSE;
     constexpr BOOL isDisabled = TRUE;
-    images.Draw(dc, corner.x, corner.y, index, isHilite, isDisabled, FALSE, FALSE, FALSE, 255);
-    images.EndDrawImage(state);
+    list->Draw(dc, corner.x, corner.y, 0, isHilite, isDisabled, FALSE, FALSE, FALSE, 255);
+    list->EndDrawImage(state);
 }
 
 void CMFCRibbonUNIcoButton::DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, CPoint corner) const {

@@ -73,8 +73,8 @@ private:
     CMFCRibbonUNIcoButton* GetIconButtonOriginal() const;
     void DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type, CRect rect);
     void DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect);
-    /// `listed`: the size of the picture that is made grey, then drawn `scaled`.
-    void DrawDisabledIcon(CDC* dc, HICON icon, CSize listed, CSize scaled, CPoint corner) const;
+    /// The first image of the list, made grey, then drawn `scaled`; nothing for null or an empty list.
+    static void DrawDisabledIcon(CDC* dc, CMFCToolBarImages* list, CSize scaled, CPoint corner);
     void DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, CPoint corner) const;
 
     static CString s_skinStyle;

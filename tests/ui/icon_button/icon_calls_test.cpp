@@ -203,12 +203,37 @@ TEST_F(IconCalls, EachDrawLoadsBothFilesInTheirSizesAndReleasesThem) {
     }
 }
 
-TEST_F(IconCalls, AFileThatHasToBeConvertedOrResizedIsLoadedByTheSystem) {
-    const CString other = m_directory.Write("other.ico", MakeIconFile(48, {0xFF0000, 0xFF0000})).c_str();
+TEST_F(IconCalls, AFileThatHasToBeConvertedIsLoadedByTheSystem) {
+    std::string picture = MakeIconPicture(32, {0xFF0000, 0xFF0000});
+    picture[14] = 24; // bits
+    const CString other = m_directory.Write("other.ico", MakeIconDirectory({picture}, {32})).c_str();
     CMFCRibbonUNIcoButton button(1, L"", other);
     Draw(button, Large);
     ASSERT_EQ(g_loaded.size(), 1u);
     EXPECT_EQ(g_loaded[0].path, other.GetString());
+    EXPECT_EQ(CSize(g_loaded[0].width, g_loaded[0].height), CSize(32, 32));
+    EXPECT_NE(g_loaded[0].icon, nullptr);
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, WhichOfSeveralPicturesIsResizedIsForTheSystemToSay) {
+    const IconColours colours{0xFF0000, 0xFF0000};
+    const CString other = m_directory.Write("other.ico", MakeIconFile({{24, colours}, {48, colours}})).c_str();
+    CMFCRibbonUNIcoButton button(1, L"", other);
+    Draw(button, Large);
+    ASSERT_EQ(g_loaded.size(), 1u);
+    EXPECT_EQ(g_loaded[0].path, other.GetString());
+    EXPECT_EQ(CSize(g_loaded[0].width, g_loaded[0].height), CSize(32, 32));
+    ExpectLoadsReleased();
+}
+
+TEST_F(IconCalls, TheOnlyPictureOfAFileIsResizedWithoutOpeningTheFileAgain) {
+    const CString other = m_directory.Write("other.ico", MakeIconFile(48, {0xFF0000, 0xFF0000})).c_str();
+    CMFCRibbonUNIcoButton button(1, L"", other);
+    Draw(button, Large);
+    EXPECT_EQ(g_opened, (Paths{other.GetString()}));
+    ASSERT_EQ(g_loaded.size(), 1u);
+    EXPECT_EQ(g_loaded[0].path, L"");
     EXPECT_EQ(CSize(g_loaded[0].width, g_loaded[0].height), CSize(32, 32));
     EXPECT_NE(g_loaded[0].icon, nullptr);
     ExpectLoadsReleased();

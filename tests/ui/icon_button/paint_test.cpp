@@ -84,6 +84,25 @@ TEST_F(IconPaint, ReadsEachFileOnceForAllThatItDraws) {
     EXPECT_EQ(FileIcon::GetReadCount(), before + 4) << "which reads them anew";
 }
 
+TEST_F(IconPaint, DisabledButtonsOfOneFileAreGreyedFromOneList) {
+    const auto first = MakeButton(), second = MakeButton();
+    first->SetDisabled(TRUE);
+    second->SetDisabled(TRUE);
+    const std::uint32_t grey = ColourDrawn(*first, Large);
+    const std::size_t before = FileIcon::GetListCount();
+    m_window.Paint([&] {
+        for (CMFCRibbonUNIcoButton* const button : {first.get(), second.get(), first.get()}) {
+            EXPECT_EQ(ColourDrawn(*button, Large), grey);
+        }
+        EXPECT_EQ(FileIcon::GetListCount(), before + 1);
+        ColourDrawn(*second, Small);
+        EXPECT_EQ(FileIcon::GetListCount(), before + 2) << "each file, and each size, has its own";
+    });
+    WriteIcon("pic/modle/large.ico", 32, blue);
+    EXPECT_NE(Painted(*second), grey) << "the next paint makes them anew";
+    EXPECT_EQ(FileIcon::GetListCount(), before + 3);
+}
+
 TEST_F(IconPaint, AReplacedADeletedAndARestoredFileEachShowAtTheVeryNextPaint) {
     const auto button = MakeButton();
     EXPECT_EQ(Painted(*button), red);

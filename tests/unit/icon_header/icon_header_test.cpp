@@ -234,6 +234,39 @@ TEST(PlainPicture, IsNoShorterThanItsColoursAndItsMaskAndNoLongerThanTheLimit) {
     EXPECT_FALSE(PlainOf(withCount(kMostPlainBytes + 1), 32));
 }
 
+std::optional<PictureBytes> OnlyPlainOf(const std::string& bytes) { return FindOnlyPlainPicture(ReaderOf(bytes)); }
+
+TEST(OnlyPlainPicture, IsOneThatStandsAloneWhateverItsSide) {
+    const std::string file = MakeIconDirectory({WholePicture(24)}, {24});
+    const auto found = OnlyPlainOf(file);
+    ASSERT_TRUE(found);
+    EXPECT_EQ(file.substr(static_cast<std::size_t>(found->offset), found->count), WholePicture(24));
+    EXPECT_TRUE(OnlyPlainOf(MakeIconDirectory({PngHeader(256, 256) + std::string(40, 'p')}, {0})));
+    EXPECT_FALSE(OnlyPlainOf(MakeIconDirectory({WholePicture(16), WholePicture(32)}, {16, 32})));
+    EXPECT_FALSE(OnlyPlainOf(MakeIconDirectory({})));
+}
+
+TEST(OnlyPlainPicture, IsAsPlainAsOneThatNeedsNoResizing) {
+    EXPECT_FALSE(OnlyPlainOf(MakeIconDirectory({WholePicture(32)}, {16}))) << "the directory says another size";
+    EXPECT_FALSE(OnlyPlainOf(MakeIconDirectory({PngHeader(256, 128) + std::string(40, 'p')}, {0})));
+    std::string narrow = MakeIconDirectory({WholePicture(32)}, {32});
+    narrow[6] = 16; // its width in the directory
+    EXPECT_FALSE(OnlyPlainOf(narrow));
+    std::string cursor = MakeIconDirectory({WholePicture(32)}, {32});
+    cursor[2] = 2;
+    EXPECT_FALSE(OnlyPlainOf(cursor));
+    std::string converted = WholePicture(32);
+    converted[14] = 24;
+    EXPECT_FALSE(OnlyPlainOf(MakeIconDirectory({converted}, {32})));
+}
+
+TEST(OnlyPlainPicture, IsLookedForInEveryShorterFileWithoutHarm) {
+    const std::string file = MakeIconDirectory({WholePicture(16)}, {16});
+    for (std::size_t length = 0; length < file.size(); ++length) {
+        EXPECT_EQ(OnlyPlainOf(file.substr(0, length)).has_value(), length >= 6 + 16 + 40) << length;
+    }
+}
+
 TEST(PlainPicture, IsLookedForInEveryShorterFileWithoutHarm) {
     const std::string file = MakeIconDirectory({PngHeader(16, 16) + "behind", WholePicture(32)}, {16, 32});
     for (std::size_t length = 0; length < file.size(); length += 3) {
