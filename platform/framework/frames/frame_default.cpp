@@ -4,7 +4,10 @@
 
 #include <windowsx.h>
 
+#include <vector>
+
 #include "afxmenubar.h"
+#include "afxpriv.h"
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
 
@@ -27,6 +30,22 @@ void FillUncovered(CFrameWnd& frame, CMFCRibbonBar* ribbon) {
     ::ReleaseDC(frame, dc.Detach());
 }
 
+/// Buttons of commands that nobody handles would be seen enabled first, and drawn twice. The ribbon asks for itself
+/// when it is painted. A handler may do anything, to the bars too.
+void AskToolBarsForStates(CDockingManager& manager) {
+    CObList panes;
+    manager.GetPaneList(panes, TRUE, RUNTIME_CLASS(CMFCToolBar));
+    std::vector<HWND> bars;
+    for (POSITION position = panes.GetHeadPosition(); position != nullptr;) {
+        bars.push_back(static_cast<CMFCToolBar*>(panes.GetNext(position))->GetSafeHwnd());
+    }
+    for (const HWND bar : bars) {
+        if (::IsWindow(bar)) {
+            ::SendMessageW(bar, WM_IDLEUPDATECMDUI, TRUE, 0);
+        }
+    }
+}
+
 bool Grows(const WINDOWPOS& place, CSize former) {
     return (place.flags & SWP_NOSIZE) == 0 && (place.cx > former.cx || place.cy > former.cy);
 }
@@ -37,6 +56,11 @@ LRESULT CFrameImpl::OnDefault(UINT message, WPARAM wParam, LPARAM lParam, System
     switch (message) {
     case WM_ERASEBKGND:
         return OnEraseBkgnd(reinterpret_cast<HDC>(wParam), system);
+    case WM_SHOWWINDOW:
+        if (wParam != FALSE) {
+            AskToolBarsForStates(m_dockingManager);
+        }
+        break;
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
     case WM_THEMECHANGED: {

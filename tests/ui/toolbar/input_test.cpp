@@ -35,6 +35,36 @@ TEST_F(ToolBarTest, IdleUpdatesEnableAndCheck) {
     EXPECT_EQ(Bar().GetButtonStyle(0) & TBBS_DISABLED, 0u);
 }
 
+TEST_F(ToolBarTest, StatesAreKnownAsSoonAsTheFrameIsShown) {
+    m_frame->ShowWindow(SW_HIDE);
+    m_frame->disabled = 3001;
+    m_frame->checked = 3003;
+    ASSERT_EQ(Bar().GetButtonStyle(0) & TBBS_DISABLED, 0u);
+    m_frame->ShowWindow(SW_SHOWNOACTIVATE);
+    EXPECT_NE(Bar().GetButtonStyle(0) & TBBS_DISABLED, 0u);
+    EXPECT_NE(Bar().GetButtonStyle(3) & TBBS_CHECKED, 0u);
+}
+
+TEST_F(ToolBarTest, AnAnswerMayEndTheBarWhileTheFrameIsShown) {
+    class BarEndsWhenAsked : public BarFrame {
+    public:
+        BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+            if (code == CN_UPDATE_COMMAND_UI && id == 3001) {
+                bar.DestroyWindow();
+            }
+            return BarFrame::OnCmdMsg(id, code, extra, info);
+        }
+    };
+    auto* const frame = new BarEndsWhenAsked; // deletes itself with its window
+    ASSERT_TRUE(frame->Create(nullptr, L"Bars", WS_OVERLAPPEDWINDOW, CRect(0, 0, 500, 300)));
+    frame->bar.InsertButton(CMFCToolBarButton(3001, 0, L"One"));
+    frame->bar.InsertButton(CMFCToolBarButton(3002, 0, L"Two"));
+    frame->ShowWindow(SW_SHOWNOACTIVATE);
+    EXPECT_EQ(frame->bar.GetSafeHwnd(), nullptr);
+    PumpPending();
+    frame->DestroyWindow();
+}
+
 TEST_F(ToolBarTest, ACommandWithoutAHandlerIsDisabled) {
     const int index = Bar().InsertButton(CMFCToolBarButton(4711, 0));
     RunIdle();
