@@ -90,7 +90,9 @@ void ReportError(const CXmlDocumentWrapper& document, const std::wstring& fullPa
 
 void ReportOddity(const XmlOddity& oddity, const FileDiagnostics& diagnostics) {
     const auto* const found = std::ranges::find(kOddities, oddity.kind, &OddityText::kind);
-    diagnostics.Report(found->code, oddity.position, found->text, found->fix);
+    const bool isUnseen = oddity.kind == XmlOddityKind::LooseText && IsUnseenAt(diagnostics.File(), oddity.position);
+    diagnostics.Report(found->code, oddity.position, found->text,
+                       isUnseen ? L"remove the character that stands here, although nobody sees it" : found->fix);
 }
 
 bool LoadDocument(const std::wstring& fullPath, ConfigurationKind kind, FileDiagnostics& diagnostics,

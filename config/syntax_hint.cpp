@@ -113,3 +113,12 @@ SyntaxHint HintForSyntax(const std::wstring& fullPath, TextPosition noticed, std
     std::string text;
     return varnhold::ReadXmlText(fullPath, text) ? HintForSyntax(text, noticed, reason) : SyntaxHint{noticed, {}};
 }
+
+bool IsUnseenAt(const std::wstring& fullPath, TextPosition position) {
+    std::string text;
+    if (!varnhold::ReadXmlText(fullPath, text)) {
+        return false;
+    }
+    const wchar_t sign = PlaceAt(text, position).Here();
+    return sign != 0 && kOtherBlanks.find(sign) != kOtherBlanks.npos;
+}

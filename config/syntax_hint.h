@@ -18,3 +18,6 @@ struct SyntaxHint {
 SyntaxHint HintForSyntax(std::string_view text, varnhold::TextPosition noticed, std::wstring_view reason);
 /// The same of a file.
 SyntaxHint HintForSyntax(const std::wstring& fullPath, varnhold::TextPosition noticed, std::wstring_view reason);
+
+/// Whether the character there is one that nobody sees, or a blank that is none to XML.
+bool IsUnseenAt(const std::wstring& fullPath, varnhold::TextPosition position);

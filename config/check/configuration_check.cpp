@@ -183,6 +183,19 @@ void KeepNamed(std::vector<Diagnostic>& findings, const Selection& selection, co
     std::ranges::move(missing.Findings(), std::back_inserter(findings));
 }
 
+/// Whether there are files that are not read because of what an editor has put behind their names.
+bool ReportMisnamed(const InstallationFiles& files, DiagnosticsSink& sink) {
+    const std::vector<std::wstring> misnamed = FilesOfOtherEndings(files);
+    for (const std::wstring& path : misnamed) {
+        const std::wstring name = path.substr(path.rfind(L'\\') + 1);
+        ReportTogether(sink, files.FullPath(path), {1, 1}, "missing-file",
+                       L"this is not read: the name of a configuration file ends in .xml",
+                       L"call it " + name.substr(0, name.rfind(L'.')) +
+                           L"; the system hides the ending that an editor puts behind");
+    }
+    return !misnamed.empty();
+}
+
 } // namespace
 
 bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
@@ -195,7 +208,9 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     GatheringSink sink;
     const Selection selection = Select(request, files);
     bool isComplete = ReadFiles(selection.files, sink);
-    if (selection.files.empty()) {
+    const bool areMisnamed = !selection.namesFiles && ReportMisnamed(files, sink);
+    isComplete = isComplete && !areMisnamed;
+    if (selection.files.empty() && !areMisnamed) {
         ReportTogether(sink, files.FullPath(L"cfg\\ribbon.xml"), {1, 1}, "missing-file",
                        L"there is no cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml");
         isComplete = false;

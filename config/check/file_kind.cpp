@@ -12,20 +12,22 @@ constexpr ConfigurationKind kKinds[] = {ConfigurationKind::Ribbon, Configuration
                                         ConfigurationKind::ToolBars};
 constexpr std::wstring_view kExtension = L".xml";
 
+constexpr std::wstring_view kEditorsEnding = L".txt";
+
 bool StartsWith(std::wstring_view name, std::wstring_view start) {
     return varnhold::EqualsIgnoringCase(name.substr(0, start.size()), start);
 }
 
-} // namespace
+bool EndsWith(std::wstring_view name, std::wstring_view end) {
+    return name.size() > end.size() && varnhold::EqualsIgnoringCase(name.substr(name.size() - end.size()), end);
+}
 
-std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files) {
+/// In cfg, by kind and then by name.
+std::vector<std::wstring> FilesThatEndIn(const InstallationFiles& files, std::wstring_view end) {
     std::vector<std::wstring> found;
     for (const ConfigurationKind kind : kKinds) {
         for (const std::wstring& name : files.FilesIn(L"cfg")) {
-            const bool isXml = name.size() > kExtension.size() &&
-                               varnhold::EqualsIgnoringCase(
-                                   std::wstring_view(name).substr(name.size() - kExtension.size()), kExtension);
-            if (isXml && StartsWith(name, FileNameStart(kind))) {
+            if (EndsWith(name, end) && StartsWith(name, FileNameStart(kind))) {
                 found.push_back(L"cfg\\" + name);
             }
         }
@@ -33,11 +35,17 @@ std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files) {
     return found;
 }
 
-bool IsTableName(std::wstring_view name) {
-    constexpr std::wstring_view extension = L".xlf";
-    return name.size() > extension.size() &&
-           varnhold::EqualsIgnoringCase(name.substr(name.size() - extension.size()), extension);
+} // namespace
+
+std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files) {
+    return FilesThatEndIn(files, kExtension);
 }
+
+std::vector<std::wstring> FilesOfOtherEndings(const InstallationFiles& files) {
+    return FilesThatEndIn(files, std::wstring(kExtension) + std::wstring(kEditorsEnding));
+}
+
+bool IsTableName(std::wstring_view name) { return EndsWith(name, L".xlf"); }
 
 std::optional<ConfigurationKind> KindNamed(std::wstring_view name) {
     const auto* const found = std::ranges::find(kKinds, name, FileNameStart);

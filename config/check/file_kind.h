@@ -9,6 +9,9 @@
 /// cfg\ribbon*.xml, cfg\menu*.xml and cfg\toolbar*.xml, each kind in name order, relative to the directory.
 std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files);
 
+/// Files in cfg that would be among those, if an editor had not put its own ending behind their names.
+std::vector<std::wstring> FilesOfOtherEndings(const InstallationFiles& files);
+
 /// The kind of that name, as a file's name begins with it ("ribbon", "menu", "toolbar"); none of another.
 std::optional<ConfigurationKind> KindNamed(std::wstring_view name);
 

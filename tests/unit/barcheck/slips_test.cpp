@@ -63,7 +63,7 @@ const PlantedSlip kSlips[] = {
      L"did you mean \"ScaleLabel\"?"},
     {{"cfg/ribbon.xml", "    <category KEYWORD=\"CatTools\"", "@@\uFEFF    <category KEYWORD=\"CatTools\"",
       "stray-text"},
-     L"belongs to no element"},
+     L"remove the character that stands here, although nobody sees it"},
     {{"cfg/ribbon.xml", "TYPE=\"label\"/>", "@@TYPE=\"label \"/>", "unknown-type"}, L"did you mean \"label\"?"},
     // Numbers and shortcuts.
     {{"cfg/ribbon.xml", "WIDTH=\"130\"", "@@WIDTH=\"130,5\"", "bad-number"}, L"write the digits 0 to 9 alone"},
@@ -198,6 +198,11 @@ TEST_F(SlipWithFiles, AnIconWithoutBytesIsNone) {
 TEST_F(SlipWithFiles, APictureThatIsCalledAnIconIsNone) {
     m_installation.Write("pic/icon/16/west.ico", "\x89PNG\r\n\x1a\nIHDR");
     ExpectOne("cfg/ribbon.xml:25:64 icon-format", L"save it as an icon file (.ico)");
+}
+
+TEST_F(SlipWithFiles, AFileThatAnEditorGaveItsOwnEndingIsOneFinding) {
+    fs::rename(Path("cfg/ribbon.xml"), Path("cfg/ribbon.xml.txt"));
+    ExpectOne("cfg/ribbon.xml.txt:1:1 missing-file", L"call it ribbon.xml");
 }
 
 TEST_F(SlipWithFiles, LetterCaseOfNamesIsNone) {
