@@ -39,10 +39,21 @@ LRESULT Deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam, POINT p
     return AfxPreTranslateMessage(&queued) ? 0 : ::SendMessage(window, message, wParam, lParam);
 }
 
+/// Where the window has a region, it is there only within it. The region runs the way its window does.
+bool IsInShape(HWND window, const RECT& rect, POINT screen) {
+    const HRGN region = ::CreateRectRgn(0, 0, 0, 0);
+    const bool isShaped = ::GetWindowRgn(window, region) != ERROR;
+    const bool isMirrored = (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0;
+    const LONG x = isMirrored ? rect.right - 1 - screen.x : screen.x - rect.left;
+    const bool isInside = !isShaped || ::PtInRegion(region, x, screen.y - rect.top);
+    ::DeleteObject(region);
+    return isInside;
+}
+
 bool IsUnder(HWND window, POINT screen) {
     RECT rect;
     return ::IsWindowVisible(window) && ::IsWindowEnabled(window) && ::GetWindowRect(window, &rect) &&
-           ::PtInRect(&rect, screen);
+           ::PtInRect(&rect, screen) && IsInShape(window, rect, screen);
 }
 
 bool LetsThrough(HWND window, POINT screen) {

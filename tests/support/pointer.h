@@ -27,8 +27,8 @@ public:
     void SendLeave();
 
     POINT Position() const { return m_position; }
-    /// Who would get a message now: the capture, else the deepest enabled window under the point; null when none of
-    /// this thread's windows is there.
+    /// Who would get a message now: the capture, else the deepest enabled window under the point, in whose region the
+    /// point lies; null when none of this thread's windows is there.
     HWND Target() const;
 
 private:

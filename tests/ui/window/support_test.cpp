@@ -52,6 +52,52 @@ TEST(Support, ADoubleClickIsOneForAClassThatWantsThem) {
     EXPECT_EQ(window.m_mouse[3].first, static_cast<UINT>(WM_LBUTTONDBLCLK));
 }
 
+namespace {
+
+/// Takes a hole out of the window, 20 pixels wide and high, 40 from the corner where its co-ordinates begin.
+void CutHole(CWnd& window) {
+    CRect rect;
+    window.GetWindowRect(&rect);
+    CRgn shape;
+    shape.CreateRectRgn(0, 0, rect.Width(), rect.Height());
+    CRgn hole;
+    hole.CreateRectRgn(40, 40, 60, 60);
+    shape.CombineRgn(&shape, &hole, RGN_DIFF);
+    window.SetWindowRgn(static_cast<HRGN>(shape.Detach()), FALSE);
+}
+
+} // namespace
+
+TEST(Support, AClickThroughTheHoleOfAShapedWindowReachesWhatLiesBelow) {
+    Recorder below;
+    Recorder above;
+    CRect rect;
+    below.GetWindowRect(&rect);
+    above.SetWindowPos(&CWnd::wndTop, rect.left, rect.top, rect.Width(), rect.Height(), SWP_NOACTIVATE);
+    CutHole(above);
+    Pointer pointer;
+    pointer.MoveTo(rect.TopLeft() + CSize(50, 50));
+    EXPECT_EQ(pointer.Target(), below.m_hWnd);
+    EXPECT_EQ(below.m_mouse.size(), 1u);
+    pointer.MoveTo(rect.TopLeft() + CSize(65, 50));
+    EXPECT_EQ(pointer.Target(), above.m_hWnd) << "beside the hole";
+}
+
+TEST(Support, TheHoleOfAMirroredWindowIsCountedFromItsRightEdge) {
+    Recorder below;
+    Recorder above;
+    CRect rect;
+    below.GetWindowRect(&rect);
+    above.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    above.SetWindowPos(&CWnd::wndTop, rect.left, rect.top, rect.Width(), rect.Height(), SWP_NOACTIVATE);
+    CutHole(above);
+    Pointer pointer;
+    pointer.MoveTo(CPoint(rect.right - 50, rect.top + 50));
+    EXPECT_EQ(pointer.Target(), below.m_hWnd);
+    pointer.MoveTo(CPoint(rect.left + 50, rect.top + 50));
+    EXPECT_EQ(pointer.Target(), above.m_hWnd);
+}
+
 TEST(Support, TypedTextArrivesCharacterByCharacter) {
     Recorder window;
     Keys(window.m_hWnd).Type(L"Öl 1");
