@@ -2,6 +2,7 @@
 
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
+#include "fx/registered_messages.h"
 #include "toolbar/metrics.h"
 
 #include <algorithm>
@@ -45,7 +46,9 @@ COLORREF Mixed(COLORREF from, COLORREF to, int part) {
                mix(GetBValue(from), GetBValue(to)));
 }
 
-/// What a window is drawn with. Each window has its own, which goes with it.
+using MaybeColors = std::optional<Colors>; ///< nothing: the system draws
+
+/// What a window is drawn with under a dark look.
 struct Look {
     explicit Look(Colors colors)
         : text(colors.text),
@@ -65,21 +68,46 @@ struct Look {
     CBrush groundBrush;
 };
 
-Look& LookOf(DWORD_PTR data) { return *reinterpret_cast<Look*>(data); }
+/// What a window that was dressed keeps, and what goes with it. Under a light look there is nothing in it.
+struct Dress {
+    std::unique_ptr<const Look> look;
+
+    void Take(const MaybeColors& colors) { look = colors ? std::make_unique<const Look>(*colors) : nullptr; }
+};
+
+Dress& DressOf(DWORD_PTR data) { return *reinterpret_cast<Dress*>(data); }
+/// Null: the system draws.
+const Look* LookOf(DWORD_PTR data) { return DressOf(data).look.get(); }
 
 constexpr UINT_PTR kSubclass = 0xD1A;
+/// The window's Dress, to find it again.
+constexpr wchar_t kDressProperty[] = L"Framework.DialogDress";
 
-void Subclass(HWND window, SUBCLASSPROC procedure, Colors colors) {
-    auto look = std::make_unique<Look>(colors);
-    if (::SetWindowSubclass(window, procedure, kSubclass, reinterpret_cast<DWORD_PTR>(look.get()))) {
-        look.release(); // until WM_NCDESTROY
+void Subclass(HWND window, SUBCLASSPROC procedure, const MaybeColors& colors) {
+    if (const HANDLE dressed = ::GetPropW(window, kDressProperty)) {
+        static_cast<Dress*>(dressed)->Take(colors);
+        return;
+    }
+    auto dress = std::make_unique<Dress>();
+    dress->Take(colors);
+    if (::SetWindowSubclass(window, procedure, kSubclass, reinterpret_cast<DWORD_PTR>(dress.get()))) {
+        ::SetPropW(window, kDressProperty, dress.release()); // until WM_NCDESTROY
     }
 }
 
 LRESULT Leave(HWND window, SUBCLASSPROC procedure, WPARAM wParam, LPARAM lParam, DWORD_PTR data) {
     ::RemoveWindowSubclass(window, procedure, kSubclass);
-    const std::unique_ptr<Look> look(&LookOf(data));
+    ::RemovePropW(window, kDressProperty);
+    const std::unique_ptr<Dress> dress(&DressOf(data));
     return ::DefSubclassProc(window, WM_NCDESTROY, wParam, lParam);
+}
+
+CString TextOf(HWND window) {
+    CString text;
+    const int length = ::GetWindowTextLengthW(window);
+    ::GetWindowTextW(window, text.GetBuffer(length + 1), length + 1);
+    text.ReleaseBuffer();
+    return text;
 }
 
 bool HidesCue(HWND window, UINT cue) { return (::SendMessageW(window, WM_QUERYUISTATE, 0, 0) & cue) != 0; }
@@ -108,9 +136,7 @@ void PaintButton(HWND window, CDC& dc, const Look& look) {
     const bool isDefault = (::GetWindowLongW(window, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
     dc.FillSolidRect(rect, isPressed ? look.pressedFace : look.face);
     dc.Draw3dRect(rect, isDefault ? look.text : look.border, isDefault ? look.text : look.border);
-    CString text;
-    CWnd::FromHandle(window)->GetWindowText(text);
-    DrawLabel(dc, window, text, rect, isEnabled ? look.text : look.dimmedText);
+    DrawLabel(dc, window, TextOf(window), rect, isEnabled ? look.text : look.dimmedText);
     DrawFocus(dc, window, rect);
 }
 
@@ -124,12 +150,16 @@ LRESULT CALLBACK ButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     if (message == WM_NCDESTROY) {
         return Leave(window, &ButtonProc, wParam, lParam, data);
     }
+    const Look* const look = LookOf(data);
+    if (look == nullptr) {
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
     if (message == WM_ERASEBKGND) {
         return TRUE;
     }
     if (message == WM_PAINT) {
         CPaintDC dc(CWnd::FromHandle(window));
-        PaintButton(window, dc, LookOf(data));
+        PaintButton(window, dc, *look);
         return 0;
     }
     const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
@@ -179,14 +209,19 @@ void PaintTabs(HWND window, CDC& dc, const Look& look) {
 }
 
 LRESULT CALLBACK TabsProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
-    switch (message) {
-    case WM_NCDESTROY:
+    if (message == WM_NCDESTROY) {
         return Leave(window, &TabsProc, wParam, lParam, data);
+    }
+    const Look* const look = LookOf(data);
+    if (look == nullptr) {
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+    switch (message) {
     case WM_ERASEBKGND:
         return TRUE;
     case WM_PAINT: {
         CPaintDC dc(CWnd::FromHandle(window));
-        PaintTabs(window, dc, LookOf(data));
+        PaintTabs(window, dc, *look);
         return 0;
     }
     case TCM_SETCURSEL:
@@ -206,77 +241,99 @@ LRESULT CALLBACK TabsProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
 
 // ---- the dialog
 
+void Dress(HWND dialog, const MaybeColors& colors);
+
+// Who opens a dialog hears of a new look with the frames; its pages do not.
+void FollowLook(HWND dialog) {
+    Dress(dialog, DarkColors());
+    for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        ::SendMessageW(child, AFX_WM_CHANGEVISUALMANAGER, 0, 0);
+    }
+    ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+LRESULT ColorControl(const Look& look, HDC dc, HWND control) {
+    ::SetTextColor(dc, ::IsWindowEnabled(control) ? look.text : look.dimmedText);
+    ::SetBkColor(dc, look.ground);
+    return reinterpret_cast<LRESULT>(static_cast<HBRUSH>(look.groundBrush));
+}
+
 LRESULT CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
-    const Look& look = LookOf(data);
-    switch (message) {
-    case WM_NCDESTROY:
+    if (message == WM_NCDESTROY) {
         return Leave(window, &DialogProc, wParam, lParam, data);
+    }
+    if (message == AFX_WM_CHANGEVISUALMANAGER) {
+        FollowLook(window);
+    }
+    const Look* const look = LookOf(data);
+    if (look == nullptr) {
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+    switch (message) {
     case WM_ERASEBKGND: {
         RECT client;
         ::GetClientRect(window, &client);
-        ::FillRect(reinterpret_cast<HDC>(wParam), &client, look.groundBrush);
+        ::FillRect(reinterpret_cast<HDC>(wParam), &client, look->groundBrush);
         return TRUE;
     }
     case WM_CTLCOLORDLG:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
     case WM_CTLCOLOREDIT:
-    case WM_CTLCOLORLISTBOX: {
-        const bool isEnabled = ::IsWindowEnabled(reinterpret_cast<HWND>(lParam)) != FALSE;
-        ::SetTextColor(reinterpret_cast<HDC>(wParam), isEnabled ? look.text : look.dimmedText);
-        ::SetBkColor(reinterpret_cast<HDC>(wParam), look.ground);
-        return reinterpret_cast<LRESULT>(static_cast<HBRUSH>(look.groundBrush));
-    }
+    case WM_CTLCOLORLISTBOX:
+        return ColorControl(*look, reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam));
     default:
         return ::DefSubclassProc(window, message, wParam, lParam);
     }
 }
 
-void DressListView(HWND list, Colors colors) {
+void DressListView(HWND list, const MaybeColors& colors) {
+    const COLORREF ground = colors ? colors->ground : ::GetSysColor(COLOR_WINDOW);
+    const COLORREF text = colors ? colors->text : ::GetSysColor(COLOR_WINDOWTEXT);
     constexpr UINT kGrounds[] = {LVM_SETBKCOLOR, LVM_SETTEXTBKCOLOR};
     for (const UINT message : kGrounds) {
-        ::SendMessageW(list, message, 0, static_cast<LPARAM>(colors.ground));
+        ::SendMessageW(list, message, 0, static_cast<LPARAM>(ground));
     }
-    ::SendMessageW(list, LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(colors.text));
+    ::SendMessageW(list, LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(text));
 }
 
-void DressButton(HWND button, Colors colors) {
+void DressButton(HWND button, const MaybeColors& colors) {
     const LONG type = ::GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK;
     if (type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON) {
         Subclass(button, &ButtonProc, colors);
     } else {
-        ::SetWindowTheme(button, L"", L""); // a themed box has a text that nobody can colour
+        // A themed box has a text that nobody can colour.
+        const wchar_t* const theme = colors ? L"" : nullptr;
+        ::SetWindowTheme(button, theme, theme);
     }
 }
 
 struct KnownControl {
     const wchar_t* className;
-    void (*dress)(HWND control, Colors colors);
+    void (*dress)(HWND control, const MaybeColors& colors);
 };
 
 constexpr KnownControl kControls[] = {
     {WC_BUTTONW, DressButton},
     {WC_LISTVIEWW, DressListView},
-    {WC_TABCONTROLW, [](HWND tabs, Colors colors) { Subclass(tabs, &TabsProc, colors); }},
+    {WC_TABCONTROLW, [](HWND tabs, const MaybeColors& colors) { Subclass(tabs, &TabsProc, colors); }},
 };
 
-} // namespace
-
-void DressDialog(HWND dialog) {
-    const std::optional<Colors> colors = DarkColors();
-    if (!colors) {
-        return;
-    }
-    Subclass(dialog, &DialogProc, *colors);
+void Dress(HWND dialog, const MaybeColors& colors) {
+    Subclass(dialog, &DialogProc, colors);
     for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         wchar_t name[64] = {};
         ::GetClassNameW(child, name, static_cast<int>(std::size(name)));
         for (const KnownControl& known : kControls) {
             if (::lstrcmpiW(name, known.className) == 0) {
-                known.dress(child, *colors);
+                known.dress(child, colors);
             }
         }
     }
 }
+
+} // namespace
+
+void DressDialog(HWND dialog) { Dress(dialog, DarkColors()); }
 
 } // namespace toolbar

@@ -6,7 +6,8 @@ namespace toolbar {
 
 /// Gives a dialog of the framework's, or a page of one, the colours of the current look where that is dark: ground,
 /// texts, fields, push buttons and tabs. Under a light look it stays as the system draws it. When the window and its
-/// controls are there, once; what it needs goes with the windows.
+/// controls are there, once; it follows every change of the look from then on (AFX_WM_CHANGEVISUALMANAGER, which a
+/// top-level window hears and hands on to its pages), and what it needs goes with the windows.
 void DressDialog(HWND dialog);
 
 } // namespace toolbar
