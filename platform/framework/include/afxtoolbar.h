@@ -4,6 +4,9 @@
 #include "afxtoolbarbutton.h"
 #include "afxtoolbarimages.h"
 
+#include <memory>
+
+class CMFCCustomizeButton;
 class CMFCPopupMenu;
 class CMFCToolBarMenuButton;
 class CToolTipCtrl;
@@ -196,9 +199,11 @@ public:
     virtual BOOL OnSetDefaultButtonText(CMFCToolBarButton* pButton);
 
     // Customising. The user moves a button by dragging it with Alt held, copies it with Ctrl and Alt, and removes it by
-    // dropping it beside the toolbars; in the customize mode without Alt, and buttons send no commands then. Locked
-    // bars, menu bars and protected commands (CMFCToolBarButton::SetProtectedCommands) stay as they are. Esc, or the
-    // loss of the mouse, ends a drag without a change.
+    // dropping it beside the toolbars; in the customize mode without Alt, and buttons send no commands then. Over a
+    // button with a menu, that of a menu bar too, the menu opens and takes the button among its items; in the customize
+    // mode items are dragged out of open menus as well. A right click there offers a menu for the button. Locked bars,
+    // the buttons of menu bars and protected commands (CMFCToolBarButton::SetProtectedCommands) stay as they are. Esc,
+    // or the loss of the mouse, ends a drag without a change.
     static void EnableQuickCustomization(BOOL bEnable = TRUE);
     static BOOL IsCustomizeMode();
     /// FALSE: it was so already.
@@ -206,7 +211,7 @@ public:
     /// A button is being dragged with Alt.
     static BOOL __stdcall IsAltCustomizeMode();
     BOOL IsDragButton(const CMFCToolBarButton* pButton) const;
-    /// A dragged button is about to leave the bar. FALSE: it stays.
+    /// A dragged button, or an item of one's menu, is about to leave the bar. FALSE: it stays.
     virtual BOOL OnBeforeRemoveButton(CMFCToolBarButton* pButton, DROPEFFECT dropEffect);
     /// The button at the end of the bar. iCustomizeCmd -1: it is there while buttons have no room, as without this
     /// call; otherwise always, and its menu ends with that command. bQuickCustomize: the menu lets the user choose
@@ -215,6 +220,8 @@ public:
                                BOOL bQuickCustomize = TRUE);
     void EnableCustomizeButton(BOOL bEnable, int iCustomizeCmd, UINT uiCustomizeTextResId, BOOL bQuickCustomize = TRUE);
     BOOL IsExistCustomizeButton() { return m_bCustomizeButton; }
+    /// The bar's own, <afxcustomizebutton.h>, until it is disabled; NULL: it has none.
+    CMFCCustomizeButton* GetCustomizeButton() { return m_customizeButton.get(); }
     BOOL IsAddRemoveQuickCustomize() { return m_bCustomizeButton && m_bQuickCustomize; }
 
     /// Told after the original buttons are back.
@@ -354,6 +361,7 @@ protected:
 
     CObList m_OrigButtons, m_OrigResetButtons; ///< owned copies
     BOOL m_bCustomizeButton = FALSE;
+    std::unique_ptr<CMFCCustomizeButton> m_customizeButton; ///< while there is one
     BOOL m_bQuickCustomize = FALSE;
     int m_iCustomizeCmd = -1; ///< the command at the end of the menu of the button of the rest
     CString m_strCustomizeText;

@@ -108,6 +108,9 @@ public:
     /// The user begins to drag it, or drops it on a toolbar, while buttons can be customised. FALSE: he may not.
     virtual BOOL OnBeforeDrag() const { return TRUE; }
     virtual BOOL OnBeforeDrop(CMFCToolBar*) { return TRUE; }
+    /// The user is about to see the menu that the customize mode has for the button, which may change it. Commands that
+    /// it adds go to the frame. TRUE: it has changed something.
+    virtual BOOL OnCustomizeMenu(CMenu*) { return FALSE; }
     /// This copy has become a command that the customize dialog offers.
     virtual void OnAddToCustomizePage() {}
     /// Draws itself as a row of that dialog's list of commands, image and text; the width that it took. Text colour and

@@ -1,6 +1,7 @@
 // A toolbar's window, the sizes that toolbars share, looks.
 #include "afxtoolbar.h"
 
+#include "afxcustomizebutton.h"
 #include "afxtoolbarmenubutton.h"
 #include "afxtooltipmanager.h"
 #include "afxvisualmanager.h"

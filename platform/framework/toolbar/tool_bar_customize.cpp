@@ -1,6 +1,7 @@
 // What users change in a toolbar, and the way back.
 #include "afxtoolbar.h"
 
+#include "afxcustomizebutton.h"
 #include "afxtoolbarmenubutton.h"
 #include "afxvisualmanager.h"
 #include "fx/registered_messages.h"
@@ -129,12 +130,42 @@ void CMFCToolBar::DrawDropMark(CDC* pDC) {
 
 // ---- the button at the end
 
+IMPLEMENT_SERIAL(CMFCCustomizeButton, CMFCToolBarMenuButton, VERSIONABLE_SCHEMA | 1)
+
+CMFCCustomizeButton::CMFCCustomizeButton(UINT uiCustomizeCmdId, const CString& strCustomizeText)
+    : m_uiCustomizeCmdId(uiCustomizeCmdId), m_strCustomizeText(strCustomizeText) {}
+
+void CMFCCustomizeButton::CopyFrom(const CMFCToolBarButton& src) {
+    CMFCToolBarMenuButton::CopyFrom(src);
+    if (const auto* const other = DYNAMIC_DOWNCAST(CMFCCustomizeButton, &src)) {
+        m_uiCustomizeCmdId = other->m_uiCustomizeCmdId;
+        m_strCustomizeText = other->m_strCustomizeText;
+    }
+}
+
+CMFCToolBar* CMFCCustomizeButton::GetParentToolbar() const { return DYNAMIC_DOWNCAST(CMFCToolBar, GetParentWnd()); }
+
+BOOL CMFCCustomizeButton::OpenPopupMenu(CWnd*) {
+    CMFCToolBar* const bar = GetParentToolbar();
+    return bar != nullptr && bar->OpenOverflowMenu();
+}
+
 void CMFCToolBar::EnableCustomizeButton(BOOL bEnable, int iCustomizeCmd, const CString& strCustomizeText,
                                         BOOL bQuickCustomize) {
     m_bCustomizeButton = bEnable;
     m_bQuickCustomize = bQuickCustomize;
     m_iCustomizeCmd = iCustomizeCmd;
     m_strCustomizeText = strCustomizeText;
+    if (!bEnable) {
+        m_customizeButton.reset();
+    } else {
+        if (!m_customizeButton) {
+            m_customizeButton = std::make_unique<CMFCCustomizeButton>();
+            m_customizeButton->OnChangeParentWnd(this);
+        }
+        m_customizeButton->m_uiCustomizeCmdId = static_cast<UINT>(iCustomizeCmd);
+        m_customizeButton->m_strCustomizeText = strCustomizeText;
+    }
     if (m_hWnd) {
         AdjustLayout();
         Invalidate();

@@ -1,6 +1,7 @@
 // Where a toolbar's buttons lie.
 #include "afxtoolbar.h"
 
+#include "afxcustomizebutton.h"
 #include "afxglobals.h"
 #include "afxPaneFrameWnd.h"
 #include "fx/dc_scope.h"
@@ -185,6 +186,9 @@ void CMFCToolBar::AdjustLocations() {
     const int rowWidth = client.Width() - m_rectBorders.left - m_rectBorders.right;
     PlaceButtons(IsFloating() ? std::max(1, rowWidth) : 0, isHorizontal, TRUE);
     CutOverflow(isHorizontal);
+    if (m_customizeButton) {
+        m_customizeButton->SetRect(m_rectOverflow);
+    }
     for (POSITION position = m_Buttons.GetHeadPosition(); position;) {
         static_cast<CMFCToolBarButton*>(m_Buttons.GetNext(position))->OnSize(SIZE_RESTORED);
     }

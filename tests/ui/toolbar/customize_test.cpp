@@ -1,4 +1,5 @@
 // What users change in toolbars: buttons dragged with Alt, chosen in a menu, and the way back.
+#include "afxcustomizebutton.h"
 #include "tests/ui/toolbar/bar_frame.h"
 #include "toolbar/drop_place.h"
 
@@ -328,6 +329,33 @@ TEST_F(CustomizeButtonTest, WithoutACommandItIsThereOnlyWhileButtonsHaveNoRoom) 
     Bar().EnableCustomizeButton(TRUE, -1, CString());
     LayOut();
     EXPECT_TRUE(Bar().GetOverflowRect().IsRectEmpty());
+}
+
+TEST_F(CustomizeButtonTest, TheBarTellsItWithItsPlaceAndItOpensItsMenu) {
+    CMFCCustomizeButton* const button = Bar().GetCustomizeButton();
+    ASSERT_NE(button, nullptr);
+    EXPECT_FALSE(button->Rect().IsRectEmpty());
+    EXPECT_EQ(button->Rect(), Bar().GetOverflowRect());
+    EXPECT_EQ(button->GetParentToolbar(), &Bar());
+    EXPECT_EQ(button->GetCustomizeText(), L"Customize...");
+    EXPECT_EQ(Bar().ButtonToIndex(button), -1) << "it is none of the bar's buttons";
+    ASSERT_TRUE(button->OpenPopupMenu());
+    ASSERT_NE(CMFCPopupMenu::GetActiveMenu(), nullptr);
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu()->GetMenuItem(1)->m_strText, L"Customize...");
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu()->GetMenuItem(1)->m_nID, button->GetCustomizeCmdId());
+    Bar().EnableCustomizeButton(FALSE, -1, CString());
+    EXPECT_EQ(Bar().GetCustomizeButton(), nullptr);
+    EXPECT_FALSE(Bar().IsExistCustomizeButton());
+    EXPECT_EQ(m_second.GetCustomizeButton(), nullptr);
+}
+
+TEST_F(CustomizeButtonTest, WhileItIsNotShownItHasNoPlaceAndOpensNothing) {
+    Bar().EnableCustomizeButton(TRUE, -1, CString());
+    LayOut();
+    CMFCCustomizeButton* const button = Bar().GetCustomizeButton();
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(button->Rect().IsRectEmpty());
+    EXPECT_FALSE(button->OpenPopupMenu());
 }
 
 TEST_F(CustomizeButtonTest, TheChooserChecksWhatIsShownAndHidesAndShowsButtonsWhileItStaysOpen) {

@@ -180,9 +180,8 @@ LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonCheckBox, OnDrawOn
 LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonEdit, OnDrawOnList)
 LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonSeparator, AddToListBox, OnDrawOnList)
 
-LEFT_OUT("the button at the end of a toolbar is drawn by the bar itself", CMFCToolBar, GetCustomizeButton)
 LEFT_OUT("customizing: tear-off menus, user tools", CMFCToolBarButton, CreateFromOleData, GetClipboardFormat,
-         OnCustomizeMenu, PrepareDrag, SetClipboardFormatName)
+         PrepareDrag, SetClipboardFormatName)
 LEFT_OUT("customizing: tear-off menus, user tools", CMFCToolBarMenuButton, EnableQuickCustomize, IsQuickMode,
          SetTearOff)
 LEFT_OUT("customizing: tear-off menus, user tools", CMFCPopupMenu, AlwaysShowEmptyToolsEntry, CreateTearOffBar,
@@ -333,8 +332,8 @@ LEFT_OUT("tools of the user's", CMFCToolBarsCustomizeDialog, CheckToolsValidity,
 LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
                  CMFCVisualManagerWindows7)
 LEFT_OUT_CLASSES("helpers of the docking panes", CGlobalUtils)
-LEFT_OUT("customisation and the help combo of a menu bar are not there yet", CMFCMenuBar, EnableHelpCombobox,
-         GetFloatPopupDirection, GetHelpCombobox, HighlightDisabledItems, IsHighlightDisabledItems)
+LEFT_OUT("the side to which menus of a floating bar open is decided by the room on the screen", CMFCMenuBar,
+         GetFloatPopupDirection)
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
                  CPaneDivider)
 LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)

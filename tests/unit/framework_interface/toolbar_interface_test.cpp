@@ -17,6 +17,7 @@ INTERFACE_OF(CMFCToolBar) {
     STATIC(void, EnableQuickCustomization, (BOOL));
     CALL(EnableQuickCustomization);
     NAMED(GetBasicCommands);
+    MEMBER(CMFCCustomizeButton*, GetCustomizeButton, ());
     MEMBER(const CObList&, GetOrigResetButtons, () const);
     MEMBER(BOOL, IsAddRemoveQuickCustomize, ());
     STATIC(BOOL, IsAltCustomizeMode, ());
@@ -195,6 +196,7 @@ INTERFACE_OF(CMFCToolBarButton) {
     VIRTUAL(BOOL, OnBeforeDrag, () const);
     VIRTUAL(BOOL, OnBeforeDrop, (CMFCToolBar*));
     VIRTUAL(void, OnAddToCustomizePage, ());
+    VIRTUAL(BOOL, OnCustomizeMenu, (CMenu*));
     VIRTUAL(int, OnDrawOnCustomizeList, (CDC*, const CRect&, BOOL));
     MADE_FROM(UINT, int, LPCTSTR, BOOL, BOOL);
     MADE_FROM(UINT, int);
