@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class CMFCToolBarComboBoxButton;
+
 /// A frame's menu as a bar of buttons: each popup of the menu is a button that opens it, each item a button that sends
 /// its command. Made in a frame, it takes the place of the frame's menu. The menu that it is built from stays the
 /// caller's; the bar copies what it says, so that it is built again (CreateFromMenu with bForceUpdate) when the menu
@@ -50,7 +52,18 @@ public:
     void SetMenuButtonRTC(CRuntimeClass* pMenuButtonRTC);
     CRuntimeClass* GetMenuButtonRTC() const { return m_pMenuButtonRTC; }
 
+    // A field at the right end of a horizontal bar in which the user asks for help.
+    /// uiID: the command that the frame gets for Enter in it; 0: the field goes away. lpszPrompt: what stands in it
+    /// while it is empty and inactive. nComboBoxWidth: pixels at 96 DPI.
+    void EnableHelpCombobox(UINT uiID, LPCTSTR lpszPrompt = NULL, int nComboBoxWidth = 150);
+    /// The field, its text what the user has typed; questions for its list are the program's to add. NULL: there is
+    /// none. Valid until the bar is built anew, which keeps its text and its list.
+    CMFCToolBarComboBoxButton* GetHelpCombobox();
+
     // Settings of all menus
+    /// Whether items that cannot be chosen are shown hot below the pointer; they are not at first.
+    static void HighlightDisabledItems(BOOL bHighlight = TRUE);
+    static BOOL IsHighlightDisabledItems();
     /// Both are only kept.
     static void SetRecentlyUsedMenus(BOOL bOn = TRUE);
     static BOOL IsRecentlyUsedMenus();
@@ -137,6 +150,9 @@ private:
     void SwitchTo(int index);
     void OpenMenu(int index);
     void PlaceSystemButtons();
+    void PlaceHelpCombo();
+    /// A copy of the field, which the bar does not have; null: there is none.
+    std::unique_ptr<CMFCToolBarButton> CopyOfHelpCombo();
     CRect GetRoom() const;
 
     HMENU m_hMenu = NULL;

@@ -1,6 +1,7 @@
 // A frame's menu as a bar: what it is built from, sizes, settings.
 #include "afxmenubar.h"
 
+#include "afxcustomizebutton.h"
 #include "afxglobals.h"
 #include "afxpopupmenu.h"
 #include "afxvisualmanager.h"
@@ -32,6 +33,7 @@ struct MenuSettings {
     bool hidesUnused = false;
     bool showsAll = true;
     bool hasShadows = true;
+    bool highlightsDisabled = false;
 };
 MenuSettings g_settings;
 
@@ -104,6 +106,7 @@ void CMFCMenuBar::CreateFromMenu(HMENU hMenu, BOOL bDefaultMenu, BOOL bForceUpda
     const bool hasWindow = m_hWnd != nullptr;
     const fx::WindowGuard guard(this);
     EndKeyboard();
+    std::unique_ptr<CMFCToolBarButton> help = CopyOfHelpCombo();
     RemoveAllButtons();
     if (hasWindow && guard.IsGone()) {
         return; // whoever heard that an open menu has closed has destroyed the bar
@@ -113,6 +116,9 @@ void CMFCMenuBar::CreateFromMenu(HMENU hMenu, BOOL bDefaultMenu, BOOL bForceUpda
         if (std::unique_ptr<CMFCToolBarMenuButton> button = MakeButton(hMenu, i)) {
             InsertButton(button.release());
         }
+    }
+    if (help) {
+        InsertButton(help.release());
     }
     if (const HWND child = std::exchange(m_hMaximizedChild, nullptr); ::IsWindow(child)) {
         SetMaximizeMode(TRUE, CWnd::FromHandle(child), FALSE);
@@ -153,6 +159,8 @@ void CMFCMenuBar::SetShowAllCommands(BOOL bShowAllCommands) { g_settings.showsAl
 BOOL CMFCMenuBar::IsShowAllCommands() { return g_settings.showsAll; }
 void CMFCMenuBar::EnableMenuShadows(BOOL bEnable) { g_settings.hasShadows = bEnable != FALSE; }
 BOOL CMFCMenuBar::IsMenuShadows() { return g_settings.hasShadows; }
+void CMFCMenuBar::HighlightDisabledItems(BOOL bHighlight) { g_settings.highlightsDisabled = bHighlight != FALSE; }
+BOOL CMFCMenuBar::IsHighlightDisabledItems() { return g_settings.highlightsDisabled; }
 BOOL CMFCMenuBar::SetMenuFont(LPLOGFONT lpLogFont, BOOL bHorz) { return afxGlobalData.SetMenuFont(lpLogFont, bHorz); }
 
 const CFont& CMFCMenuBar::GetMenuFont(BOOL bHorz) { return bHorz ? afxGlobalData.fontRegular : afxGlobalData.fontVert; }
@@ -212,13 +220,23 @@ void CMFCMenuBar::AdjustLocations() {
         // It breaks its buttons into rows where another bar leaves some out.
         m_rectOverflow.SetRectEmpty();
         m_iFirstOverflow = -1;
+        if (m_customizeButton) {
+            m_customizeButton->SetRect(m_rectOverflow);
+        }
         PlaceButtons(client.Width() - m_rectBorders.left - m_rectBorders.right, TRUE, TRUE);
     }
     PlaceSystemButtons();
+    PlaceHelpCombo();
 }
 
 BOOL CMFCMenuBar::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
-    return CMFCToolBar::LoadState(lpszProfileName, nIndex, uiID);
+    std::unique_ptr<CMFCToolBarButton> help = CopyOfHelpCombo();
+    const BOOL isLoaded = CMFCToolBar::LoadState(lpszProfileName, nIndex, uiID);
+    if (help && !GetHelpCombobox()) {
+        InsertButton(help.release()); // which settings do not keep
+        AdjustLayout();
+    }
+    return isLoaded;
 }
 
 BOOL CMFCMenuBar::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {

@@ -2,6 +2,7 @@
 #include "afxmenubar.h"
 
 #include "afxpopupmenu.h"
+#include "afxtoolbarcomboboxbutton.h"
 #include "core/letters.h"
 #include "fx/window_guard.h"
 #include "popups/user_settings.h"
@@ -25,6 +26,9 @@ bool IsOnTheWay(const CMFCToolBarButton* button) {
            button->IsVisible() && !DYNAMIC_DOWNCAST(CMFCToolBarMenuButtonsButton, button) &&
            !DYNAMIC_DOWNCAST(CMFCToolBarSystemMenuButton, button);
 }
+
+/// The field for help has the keyboard for itself, and no menu.
+bool IsField(const CMFCToolBarButton* button) { return DYNAMIC_DOWNCAST(CMFCToolBarComboBoxButton, button) != nullptr; }
 
 bool IsModifier(WPARAM key) { return key == VK_SHIFT || key == VK_CONTROL; }
 
@@ -114,7 +118,10 @@ void CMFCMenuBar::SwitchTo(int index) {
 BOOL CMFCMenuBar::StepMenu(int step) {
     int open = -1;
     GetDroppedDownMenu(&open);
-    const int next = FindNext(open >= 0 ? open : m_iHighlighted, step);
+    int next = FindNext(open >= 0 ? open : m_iHighlighted, step);
+    if (IsField(GetButton(next))) {
+        next = FindNext(next, step);
+    }
     if (next < 0) {
         return FALSE;
     }
@@ -128,7 +135,7 @@ BOOL CMFCMenuBar::PrevMenu() { return StepMenu(-1); }
 
 // While a menu is open, the pointer over another button opens that one's.
 void CMFCMenuBar::OnChangeHot(int iHot) {
-    if (m_isSwitching || !IsOnTheWay(GetButton(iHot))) {
+    if (m_isSwitching || !IsOnTheWay(GetButton(iHot)) || IsField(GetButton(iHot))) {
         return;
     }
     int open = -1;
@@ -164,7 +171,15 @@ BOOL CMFCMenuBar::TranslateChar(UINT nChar) {
 // ---- keys from the frame
 
 BOOL CMFCMenuBar::OnWalkKey(UINT key) {
-    const CMFCToolBarButton* button = GetButton(m_iHighlighted);
+    CMFCToolBarButton* const button = GetButton(m_iHighlighted);
+    if (IsField(button) && (key == VK_RETURN || key == VK_DOWN || key == VK_UP)) {
+        CEdit* const edit = static_cast<CMFCToolBarComboBoxButton*>(button)->GetEditCtrl();
+        EndKeyboard();
+        if (edit && edit->GetSafeHwnd()) {
+            edit->SetFocus();
+        }
+        return TRUE;
+    }
     switch (key) {
     case VK_LEFT:
     case VK_RIGHT:
@@ -187,7 +202,7 @@ BOOL CMFCMenuBar::OnWalkKey(UINT key) {
         OpenMenu(m_iHighlighted);
         return TRUE;
     case VK_RETURN:
-        if (IsOnTheWay(button) && !IsPureMenuButton(const_cast<CMFCToolBarButton*>(button))) {
+        if (IsOnTheWay(button) && !IsPureMenuButton(button)) {
             const int chosen = m_iHighlighted;
             EndKeyboard();
             ClickButton(chosen, TRUE);

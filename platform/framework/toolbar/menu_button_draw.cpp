@@ -162,14 +162,14 @@ void CMFCToolBarMenuButton::DrawMenuItem(CDC* pDC, const CRect& rect, CMFCToolBa
     CMFCVisualManager* const manager = CMFCVisualManager::GetInstance();
     const toolbar::MenuRow row = toolbar::LayOutMenuRow(rect, menu.GetRowMetrics());
     const bool isDisabled = IsDisabledState();
-    const bool isHot = bHighlight && !isDisabled;
+    const bool isHot = bHighlight && (!isDisabled || CMFCMenuBar::IsHighlightDisabledItems());
     COLORREF color = manager->GetMenuItemTextColor(this, isHot, isDisabled);
     if (isHot) {
         CRect face = rect;
         face.DeflateRect(1, 0);
         COLORREF hotColor = color;
         manager->OnHighlightMenuItem(pDC, this, face, hotColor);
-        color = manager->GetMenuItemTextColor(this, TRUE, FALSE);
+        color = manager->GetMenuItemTextColor(this, TRUE, isDisabled);
     }
     if (!row.image.IsRectEmpty()) {
         DrawMenuItemImage(pDC, row.image, pImages, isHot, bGrayDisabled);

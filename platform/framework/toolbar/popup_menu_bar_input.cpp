@@ -1,6 +1,7 @@
 // Mouse and keys over a pop-up's items.
 #include "afxpopupmenubar.h"
 
+#include "afxmenubar.h"
 #include "afxpopupmenu.h"
 #include "core/letters.h"
 #include "fx/window_guard.h"
@@ -23,6 +24,12 @@ constexpr UINT_PTR openTimer = 0xF111, closeTimer = 0xF112;
 bool IsSelectable(const CMFCToolBarButton* button) {
     return button && !(button->m_nStyle & (TBBS_SEPARATOR | TBBS_DISABLED)) && !button->IsHidden() &&
            button->IsVisible();
+}
+
+/// One that cannot be chosen may be shown hot all the same.
+bool MayBeHot(const CMFCToolBarButton* button) {
+    return IsSelectable(button) ||
+           (CMFCMenuBar::IsHighlightDisabledItems() && button && (button->m_nStyle & TBBS_SEPARATOR) == 0);
 }
 
 toolbar::RowLetters LettersOf(const CString& text) {
@@ -83,7 +90,7 @@ void CMFCPopupMenuBar::OnMouseMove(UINT, CPoint point) {
         return;
     }
     const fx::WindowGuard guard(this);
-    SetHighlighted(IsSelectable(button) ? hit : -1);
+    SetHighlighted(MayBeHot(button) ? hit : -1);
     if (guard.IsGone() || GetButton(hit) != button) {
         return; // the host is told what is hot
     }

@@ -20,6 +20,8 @@ INTERFACE_OF(CMFCMenuBar) {
     CALL(CreateEx, CWnd*);
     VIRTUAL(void, CreateFromMenu, (HMENU, BOOL, BOOL));
     CALL(CreateFromMenu, HMENU);
+    MEMBER(void, EnableHelpCombobox, (UINT, LPCTSTR, int));
+    CALL(EnableHelpCombobox, UINT);
     STATIC(void, EnableMenuShadows, (BOOL));
     CALL(EnableMenuShadows);
     VIRTUAL(int, GetAvailableExpandSize, () const);
@@ -27,6 +29,10 @@ INTERFACE_OF(CMFCMenuBar) {
     MEMBER(HMENU, GetDefaultMenu, () const);
     MEMBER(UINT, GetDefaultMenuResId, () const);
     MEMBER(BOOL, GetForceDownArrows, ());
+    MEMBER(CMFCToolBarComboBoxButton*, GetHelpCombobox, ());
+    STATIC(void, HighlightDisabledItems, (BOOL));
+    CALL(HighlightDisabledItems);
+    STATIC(BOOL, IsHighlightDisabledItems, ());
     MEMBER(HMENU, GetHMenu, () const);
     STATIC(const CFont&, GetMenuFont, (BOOL));
     CALL(GetMenuFont);
