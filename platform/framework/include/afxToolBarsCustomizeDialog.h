@@ -11,12 +11,16 @@ namespace toolbar {
 class CommandCatalog;
 }
 
-/// What the dialog offers. Animations play nowhere; who asks for them gets none.
+/// What the dialog offers. Animations play nowhere; who asks for them gets none. Captions keep their ampersands with
+/// and without AFX_CUSTOMIZE_MENUAMPERS; AFX_CUSTOMIZE_CONTEXT_HELP gives the caption the button of WS_EX_CONTEXTHELP.
 #define AFX_CUSTOMIZE_MENU_SHADOWS 0x0001
 #define AFX_CUSTOMIZE_TEXT_LABELS 0x0002
 #define AFX_CUSTOMIZE_MENU_ANIMATIONS 0x0004
 #define AFX_CUSTOMIZE_NOHELP 0x0008
 #define AFX_CUSTOMIZE_NO_LARGE_ICONS 0x0010
+#define AFX_CUSTOMIZE_CONTEXT_HELP 0x0020
+#define AFX_CUSTOMIZE_NOTOOLS 0x0040
+#define AFX_CUSTOMIZE_MENUAMPERS 0x0080
 
 /// Lets the user change the toolbars and the keys of a frame: pages for commands, which are dragged from a list into
 /// toolbars, for toolbars, for keys and for options. While it is open the toolbars are in the customize mode
@@ -86,8 +90,8 @@ public:
     BOOL OnInitDialog() override;
     void PostNcDestroy() override;
 
-    /// The user wants to change the image of a button. TRUE: the bitmap has changed. There is no editor of images here:
-    /// a program that has one overrides this.
+    /// The user wants to change the image of a button. TRUE: the bitmap has changed. Shows CMFCImageEditorDialog; a
+    /// program that has an editor of its own overrides this.
     virtual BOOL OnEditToolbarMenuImage(CWnd* pWndParent, CBitmap& bitmap, int nBitsPerPixel);
 
     // The framework's own.
@@ -95,6 +99,8 @@ public:
     /// NULL when the frame is gone.
     CFrameWnd* Frame() const;
     BOOL AskAssignKey(ACCEL& key) { return OnAssignKey(&key); }
+    /// The dialog that is open; NULL: none is.
+    static CMFCToolBarsCustomizeDialog* Current();
 
 protected:
     /// The user has chosen the key for a command; it may be changed. FALSE: it is not assigned.

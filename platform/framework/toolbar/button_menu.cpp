@@ -5,6 +5,7 @@
 #include "fx/window_guard.h"
 #include "panes/pane_menu.h"
 #include "toolbar/button_drag.h"
+#include "toolbar/button_image.h"
 #include "toolbar/choose_buttons.h"
 #include "toolbar/customize_texts.h"
 #include "toolbar/menu_items.h"
@@ -54,6 +55,10 @@ bool IsBehindLine(const Chosen& chosen) {
 }
 bool IsBehindAnother(const Chosen& chosen) { return chosen.index > (IsBehindLine(chosen) ? 1 : 0); }
 
+bool CanEditImage(const Chosen& chosen) {
+    return HasFace(chosen) && HasImage(chosen) && MayEditImage(chosen.button, ImagesOf(chosen));
+}
+
 bool Always(const Chosen&) { return true; }
 bool Never(const Chosen&) { return false; }
 
@@ -79,6 +84,8 @@ void Reset(const Chosen& chosen) {
 }
 
 void CopyImage(const Chosen& chosen) { ImagesOf(chosen)->CopyImageToClipboard(chosen.button.GetImage()); }
+
+void ChangeImage(const Chosen& chosen) { EditImage(chosen.bar, chosen.button, *ImagesOf(chosen)); }
 
 // The bar's host may keep it, or take the bar away.
 void Delete(const Chosen& chosen) {
@@ -130,6 +137,7 @@ struct Entry {
 constexpr Entry kEntries[] = {
     {kResetButtonText, Always, Never, false, Reset},
     {kCopyImageText, HasImage, Never, false, CopyImage},
+    {kEditImageText, CanEditImage, Never, false, ChangeImage},
     {kDeleteButtonText, Always, Never, false, Delete},
     {},
     {kAppearanceText, HasFace, Never, false, AskText},
@@ -170,6 +178,9 @@ protected:
         }
         const auto* const entry = std::ranges::find(kEntries, command, &Entry::text);
         if (entry == std::end(kEntries)) {
+            if (CFrameWnd* const frame = bar->GetTopLevelFrame()) {
+                frame->PostMessage(WM_COMMAND, command); // what the button has put there
+            }
             return;
         }
         ButtonDrag::KeepOriginals(*bar);
@@ -186,15 +197,23 @@ private:
     const CMFCToolBarButton* m_button; ///< only compared until the bar has said that it has it
 };
 
-/// False: the button is not the user's to change. Otherwise the bar may be gone afterwards.
+/// The button may change its menu before it is shown. False: the button is not the user's to change. Otherwise the bar
+/// may be gone afterwards.
 bool ShowButtonMenu(CMFCToolBar& bar, CMFCToolBarButton& button, CPoint screen) {
     const bool isProtected = CMFCToolBarButton::GetProtectedCommands().Find(button.m_nID) != nullptr;
     if (bar.IsLocked() || bar.IsKindOf(RUNTIME_CLASS(CMFCMenuBar)) || isProtected || !button.IsEditable()) {
         return false;
     }
+    CMenu menu;
+    menu.Attach(MakeMenu({bar, button, bar.ButtonToIndex(&button)}));
+    const fx::WindowGuard guard(&bar);
+    button.OnCustomizeMenu(&menu);
+    if (guard.IsGone() || bar.ButtonToIndex(&button) < 0) {
+        return true; // the button has taken itself away
+    }
     auto* const popup = new ButtonMenu(bar, button);
     // The bar gets the commands: a frame would disable those that it does not know.
-    popup->Create(&bar, screen.x, screen.y, MakeMenu({bar, button, bar.ButtonToIndex(&button)}), FALSE, TRUE);
+    popup->Create(&bar, screen.x, screen.y, menu.Detach(), FALSE, TRUE);
     return true;
 }
 

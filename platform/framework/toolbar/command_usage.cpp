@@ -59,6 +59,7 @@ constexpr LPCTSTR kTooltipsEntry = L"Tooltips";
 constexpr LPCTSTR kLargeIconsEntry = L"LargeIcons";
 constexpr LPCTSTR kShortcutKeysEntry = L"ShortcutKeys";
 constexpr LPCTSTR kHidesRareEntry = L"RecentlyUsedMenus";
+constexpr LPCTSTR kShowsAllEntry = L"ShowAllCommands";
 
 CString ParametersSection(LPCTSTR profile) {
     return CString(profile != nullptr ? profile : L"") + L"\\MFCToolBarParameters";
@@ -104,6 +105,9 @@ public:
 };
 
 } // namespace
+
+bool toolbar::HasCommandUsage() { return !Rules().usage.Counts().empty(); }
+void toolbar::ForgetCommandUsage() { Rules().usage = {}; }
 
 void CMFCToolBar::AddBasicCommand(UINT uiCmd) {
     if (!IsBasicCommand(uiCmd)) {
@@ -160,6 +164,7 @@ BOOL CMFCToolBar::SaveParameters(LPCTSTR lpszProfileName) {
     return store != nullptr && store->WriteInt(section, kTooltipsEntry, m_bShowTooltips) &&
            store->WriteInt(section, kShortcutKeysEntry, m_bShowShortcutKeys) && SaveLargeIconsState(lpszProfileName) &&
            store->WriteInt(section, kHidesRareEntry, CMFCMenuBar::IsRecentlyUsedMenus()) &&
+           store->WriteInt(section, kShowsAllEntry, CMFCMenuBar::IsShowAllCommands()) &&
            store->WriteObject(section, kUsageEntry, kept);
 }
 
@@ -172,6 +177,7 @@ BOOL CMFCToolBar::LoadParameters(LPCTSTR lpszProfileName) {
     }
     m_bShowTooltips = store->ReadInt(section, kTooltipsEntry, m_bShowTooltips) != 0;
     CMFCMenuBar::SetRecentlyUsedMenus(store->ReadInt(section, kHidesRareEntry, CMFCMenuBar::IsRecentlyUsedMenus()));
+    CMFCMenuBar::SetShowAllCommands(store->ReadInt(section, kShowsAllEntry, CMFCMenuBar::IsShowAllCommands()));
     m_bShowShortcutKeys = store->ReadInt(section, kShortcutKeysEntry, m_bShowShortcutKeys) != 0;
     LoadLargeIconsState(lpszProfileName);
     KeptUsage kept;

@@ -24,4 +24,8 @@ private:
     std::uint64_t m_total = 0;
 };
 
+/// What was counted in the menus so far, of all commands.
+bool HasCommandUsage();
+void ForgetCommandUsage();
+
 } // namespace toolbar

@@ -1,6 +1,7 @@
 // The window of the customize dialog: its pages, its buttons, what the frame hears.
 #include "afxToolBarsCustomizeDialog.h"
 
+#include "afximageeditordialog.h"
 #include "afxkeyboardmanager.h"
 #include "afxmenubar.h"
 #include "core/framework_text.h"
@@ -38,6 +39,7 @@ private:
 
 /// The dialog that is being made: one whose window goes meanwhile is deleted by who makes it.
 thread_local const CMFCToolBarsCustomizeDialog* t_made = nullptr;
+thread_local CMFCToolBarsCustomizeDialog* t_current = nullptr;
 
 HMENU MenuOf(const CFrameWnd& frame) {
     for (POSITION position = CMFCToolBar::GetAllToolbars().GetHeadPosition(); position != nullptr;) {
@@ -68,6 +70,9 @@ CMFCToolBarsCustomizeDialog::CMFCToolBarsCustomizeDialog(CFrameWnd* pWndParentFr
 CMFCToolBarsCustomizeDialog::~CMFCToolBarsCustomizeDialog() {
     const fx::ScopedChange<const CMFCToolBarsCustomizeDialog*> made(t_made, this); // it is being deleted
     DestroyWindow();
+    if (t_current == this) {
+        t_current = nullptr;
+    }
     if (m_isOpen) {
         CMFCToolBar::SetCustomizeMode(FALSE);
         ::SendMessageW(m_frame, AFX_WM_CUSTOMIZETOOLBAR, FALSE, 0); // nothing where the frame is gone
@@ -120,15 +125,22 @@ BOOL CMFCToolBarsCustomizeDialog::Create() {
     }
     if (!isMade) {
         delete this;
+        return FALSE;
     }
-    return isMade;
+    t_current = this;
+    return TRUE;
 }
+
+CMFCToolBarsCustomizeDialog* CMFCToolBarsCustomizeDialog::Current() { return t_current; }
 
 BOOL CMFCToolBarsCustomizeDialog::OnInitDialog() {
     const BOOL result = CPropertySheet::OnInitDialog();
     PlaceButtons();
     CenterWindow();
     toolbar::DressDialog(m_hWnd);
+    if ((m_uiFlags & AFX_CUSTOMIZE_CONTEXT_HELP) != 0) {
+        ModifyStyleEx(0, WS_EX_CONTEXTHELP, SWP_FRAMECHANGED);
+    }
     return result;
 }
 
@@ -203,5 +215,9 @@ void CMFCToolBarsCustomizeDialog::PostNcDestroy() {
     }
 }
 
-BOOL CMFCToolBarsCustomizeDialog::OnEditToolbarMenuImage(CWnd*, CBitmap&, int) { return FALSE; }
+BOOL CMFCToolBarsCustomizeDialog::OnEditToolbarMenuImage(CWnd* pWndParent, CBitmap& bitmap, int nBitsPerPixel) {
+    CMFCImageEditorDialog editor(&bitmap, pWndParent, nBitsPerPixel);
+    return editor.DoModal() == IDOK;
+}
+
 BOOL CMFCToolBarsCustomizeDialog::OnAssignKey(ACCEL*) { return TRUE; }

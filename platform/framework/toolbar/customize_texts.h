@@ -56,6 +56,19 @@ enum CustomizeText : UINT {
     kAppearanceText,
     kAppearanceTitle,
     kButtonTextText,
+    kEditImageText,
+    kEditImageTitle,
+    kPenText,
+    kFillText,
+    kLineText,
+    kRectangleText,
+    kEllipseText,
+    kPickerText,
+    kEraserText,
+    kUndoText,
+    kPreviewText,
+    kRecentlyUsedText,
+    kResetUsageText,
 };
 
 } // namespace toolbar

@@ -1,7 +1,30 @@
 // The menu of a button while toolbars are customized.
 #include "tests/ui/toolbar/bar_frame.h"
 
+#include <functional>
+
 namespace {
+
+/// Changes the menu that the user gets.
+class OwnButton : public CMFCToolBarButton {
+    DECLARE_SERIAL(OwnButton)
+
+public:
+    OwnButton() = default;
+    explicit OwnButton(UINT id) : CMFCToolBarButton(id, 3, L"Own") {}
+
+    BOOL OnCustomizeMenu(CMenu* menu) override {
+        menu->EnableMenuItem(0, MF_BYPOSITION | MF_GRAYED);
+        menu->AppendMenu(MF_STRING, 3077, L"Own entry");
+        if (s_hostile) {
+            s_hostile();
+        }
+        return TRUE;
+    }
+    static std::function<void()> s_hostile;
+};
+IMPLEMENT_SERIAL(OwnButton, CMFCToolBarButton, 1)
+std::function<void()> OwnButton::s_hostile;
 
 class KeepingBar : public TestBar {
 public:
@@ -13,6 +36,7 @@ class ButtonMenuTest : public ToolBarTest {
 protected:
     ButtonMenuTest() { CMFCToolBar::SetCustomizeMode(); }
     ~ButtonMenuTest() override {
+        OwnButton::s_hostile = nullptr;
         CMFCPopupMenu::CloseAll();
         CMFCToolBar::SetCustomizeMode(FALSE);
     }
@@ -62,8 +86,8 @@ TEST_F(ButtonMenuTest, OffersWhatCanBeDoneWithTheButton) {
     CMFCPopupMenu* const menu = RightClick(Bar(), 1);
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(RowsOf(*menu),
-              (Rows{L"&Reset to Default", L"&Copy Button Image", L"&Delete", L"|", L"&Button Appearance...", L"&Image*",
-                    L"&Text", L"Image &and Text", L"|", L"Start &Group"}));
+              (Rows{L"&Reset to Default", L"&Copy Button Image", L"&Edit Button Image...-", L"&Delete", L"|",
+                    L"&Button Appearance...", L"&Image*", L"&Text", L"Image &and Text", L"|", L"Start &Group"}));
 }
 
 TEST_F(ButtonMenuTest, IsThereInTheCustomizeModeAlone) {
@@ -103,8 +127,8 @@ TEST_F(ButtonMenuTest, WithoutAnImageOnlyTheTextCanBeShown) {
     CMFCPopupMenu* const menu = RightClick(Bar(), 4);
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(RowsOf(*menu),
-              (Rows{L"&Reset to Default", L"&Copy Button Image-", L"&Delete", L"|", L"&Button Appearance...",
-                    L"&Image-", L"&Text*", L"Image &and Text-", L"|", L"Start &Group"}));
+              (Rows{L"&Reset to Default", L"&Copy Button Image-", L"&Edit Button Image...-", L"&Delete", L"|",
+                    L"&Button Appearance...", L"&Image-", L"&Text*", L"Image &and Text-", L"|", L"Start &Group"}));
 }
 
 TEST_F(ButtonMenuTest, AGroupIsBegunAndEndedBeforeTheButton) {
@@ -165,12 +189,34 @@ TEST_F(ButtonMenuTest, TheImageGoesToTheClipboard) {
     EXPECT_TRUE(::IsClipboardFormatAvailable(CF_BITMAP));
 }
 
+TEST_F(ButtonMenuTest, TheButtonMayChangeItsMenuAndCommandsThatItAddsGoToTheFrame) {
+    Bar().InsertButton(OwnButton(3006));
+    LayOut();
+    CMFCPopupMenu* const menu = RightClick(Bar(), 4);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(RowsOf(*menu).front(), L"&Reset to Default-");
+    EXPECT_EQ(RowsOf(*menu).back(), L"Own entry");
+    Choose(4, L"Own entry");
+    EXPECT_EQ(m_frame->commands, std::vector<UINT>{3077});
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr);
+}
+
+TEST_F(ButtonMenuTest, AButtonThatGoesWhileItIsAskedHasNoMenu) {
+    Bar().InsertButton(OwnButton(3006));
+    LayOut();
+    OwnButton::s_hostile = [this] { Bar().RemoveAllButtons(); };
+    EXPECT_EQ(RightClick(Bar(), 4), nullptr);
+    EXPECT_EQ(Bar().GetCount(), 0);
+}
+
 TEST_F(ButtonMenuTest, AButtonThatIsGoneWhenAnEntryIsChosenIsLeftAlone) {
     CMFCPopupMenu* const menu = RightClick(Bar(), 0);
     ASSERT_NE(menu, nullptr);
     Bar().RemoveButton(0);
     CRect rect;
-    menu->GetMenuBar()->GetItemRect(2, rect);
+    constexpr int kDeleteRow = 3;
+    ASSERT_EQ(menu->GetMenuItem(kDeleteRow)->m_strText, L"&Delete");
+    menu->GetMenuBar()->GetItemRect(kDeleteRow, rect);
     m_pointer.Click(menu->GetMenuBar()->m_hWnd, rect.CenterPoint());
     PumpPending();
     EXPECT_EQ(Contents(), L"3002 | 3003");

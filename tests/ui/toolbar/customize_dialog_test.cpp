@@ -417,6 +417,50 @@ TEST_F(DialogLookTest, UnderADarkLookButtonsAndTabsAreDarkAndWorkAsEver) {
     EXPECT_EQ(PixelOf(tabs, last.left + 3, last.top + 3), face) << "the tab in front";
 }
 
+TEST_F(DialogLookTest, AnOpenDialogFollowsTheLookAtOnceOnEveryPageInBothDirections) {
+    Open();
+    std::vector<HWND> pages;
+    for (const int page : {kCommandsPage, kToolBarsPage, kKeyboardPage, kOptionsPage}) {
+        GoTo(static_cast<enum Page>(page));
+        pages.push_back(Page());
+    }
+    GoTo(kToolBarsPage);
+    const HWND tabs = m_dialog->GetTabControl()->m_hWnd;
+    CRect last;
+    m_dialog->GetTabControl()->GetItemRect(kOptionsPage, &last);
+    const COLORREF lightPage = PixelOf(Page(), 2, 2);
+    const COLORREF lightButton = PixelOf(Item(kReset), 5, 5);
+    const COLORREF lightList = PixelOf(Item(kBars), 100, 100);
+    for (int time = 0; time < 2; ++time) {
+        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(DarkManager));
+        EXPECT_EQ(PixelOf(Page(), 2, 2), kDarkGround);
+        EXPECT_EQ(PixelOf(Item(kBars), 100, 100), kDarkGround);
+        EXPECT_LT(GetRValue(PixelOf(Item(kReset), 5, 5)), 100);
+        EXPECT_EQ(PixelOf(tabs, last.right + 5, last.top + 5), kDarkGround);
+        for (const HWND page : pages) {
+            EXPECT_EQ(Ask(page, WM_CTLCOLORSTATIC, ::GetWindow(page, GW_CHILD)).ground, kDarkGround) << page;
+            EXPECT_EQ(Ask(page, WM_CTLCOLORLISTBOX, ::GetWindow(page, GW_CHILD)).text, kLightText) << page;
+        }
+        CMFCVisualManager::SetDefaultManager(nullptr);
+        EXPECT_EQ(PixelOf(Page(), 2, 2), lightPage);
+        EXPECT_EQ(PixelOf(Item(kReset), 5, 5), lightButton);
+        EXPECT_EQ(PixelOf(Item(kBars), 100, 100), lightList);
+        EXPECT_NE(PixelOf(tabs, last.right + 5, last.top + 5), kDarkGround);
+        for (const HWND page : pages) {
+            EXPECT_EQ(Ask(page, WM_CTLCOLORLISTBOX, ::GetWindow(page, GW_CHILD)).text, ::GetSysColor(COLOR_WINDOWTEXT))
+                << page;
+        }
+    }
+}
+
+TEST_F(DialogLookTest, APageThatIsFirstSeenAfterASwitchHasTheNewLook) {
+    Open();
+    CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(DarkManager));
+    GoTo(kKeyboardPage);
+    EXPECT_EQ(PixelOf(Page(), 2, 2), kDarkGround);
+    EXPECT_LT(GetRValue(PixelOf(Item(kResetAllKeys), 5, 5)), 100);
+}
+
 TEST_F(DialogLookTest, UnderALightLookTheDialogIsTheSystems) {
     Open();
     EXPECT_EQ(Ask(Page(), WM_CTLCOLORSTATIC, Item(kCategories)).text, ::GetSysColor(COLOR_WINDOWTEXT));
@@ -601,7 +645,7 @@ TEST_F(CustomizeDialogTest, TheMenuOfAButtonAsksForItsText) {
         Bar().SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Bar().m_hWnd), MAKELPARAM(button.x, button.y));
         CMFCPopupMenu* const menu = CMFCPopupMenu::GetActiveMenu();
         ASSERT_NE(menu, nullptr);
-        constexpr int kAppearanceRow = 4;
+        constexpr int kAppearanceRow = 5;
         ASSERT_EQ(menu->GetMenuItem(kAppearanceRow)->m_strText, L"&Button Appearance...");
         const NameTyper typer(text);
         RealClick(OnScreen(*menu->GetMenuBar(), kAppearanceRow, 0));
@@ -709,6 +753,38 @@ TEST_F(CustomizeDialogTest, OptionsHoldForAllToolbarsAtOnce) {
     ::SendMessageW(Item(kFirstOption + 2), BM_CLICK, 0, 0);
     EXPECT_TRUE(CMFCToolBar::IsLargeIcons());
     EXPECT_FALSE(::GetWindowLongW(Item(kFirstOption + 3), GWL_STYLE) & WS_VISIBLE) << "not asked for";
+}
+
+TEST_F(CustomizeDialogTest, MenusHideWhatIsSeldomUsedWhenTheUserWantsItAndForgetWhatTheyCounted) {
+    constexpr int kRecentlyUsed = kFirstOption + 4;
+    constexpr int kResetUsage = kFirstOption + 5;
+    Open();
+    GoTo(kOptionsPage);
+    EXPECT_EQ(::SendMessageW(Item(kRecentlyUsed), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+    ::SendMessageW(Item(kRecentlyUsed), BM_CLICK, 0, 0);
+    EXPECT_TRUE(CMFCMenuBar::IsRecentlyUsedMenus());
+    EXPECT_FALSE(CMFCMenuBar::IsShowAllCommands());
+    ::SendMessageW(Item(kRecentlyUsed), BM_CLICK, 0, 0);
+    EXPECT_FALSE(CMFCMenuBar::IsRecentlyUsedMenus());
+    EXPECT_TRUE(CMFCMenuBar::IsShowAllCommands());
+    ::SendMessageW(Item(kResetUsage), BM_CLICK, 0, 0); // what other tests have chosen
+    EXPECT_FALSE(::IsWindowEnabled(Item(kResetUsage))) << "nothing is counted";
+    CMFCToolBar::AddCommandUsage(3001);
+    GoTo(kCommandsPage);
+    GoTo(kOptionsPage);
+    EXPECT_TRUE(CMFCToolBar::IsCommandRarelyUsed(3002));
+    ASSERT_TRUE(::IsWindowEnabled(Item(kResetUsage)));
+    ::SendMessageW(Item(kResetUsage), BM_CLICK, 0, 0);
+    EXPECT_FALSE(CMFCToolBar::IsCommandRarelyUsed(3002));
+    EXPECT_FALSE(::IsWindowEnabled(Item(kResetUsage)));
+}
+
+TEST_F(CustomizeDialogTest, HelpForSingleControlsIsThereWhenItIsAskedFor) {
+    Open(AFX_CUSTOMIZE_CONTEXT_HELP);
+    EXPECT_TRUE(::GetWindowLongW(m_dialogWindow, GWL_EXSTYLE) & WS_EX_CONTEXTHELP);
+    Close();
+    Open();
+    EXPECT_FALSE(::GetWindowLongW(m_dialogWindow, GWL_EXSTYLE) & WS_EX_CONTEXTHELP);
 }
 
 // ---- hostile handlers
