@@ -37,6 +37,9 @@ constexpr UINT_PTR kWorkTimer = 20;
 constexpr UINT kTick = 80;   // milliseconds
 constexpr int kPatience = 3; // ticks that a drawing may take before it is worth a word
 constexpr int kProgressSteps = 20;
+constexpr int kProgressWidth = 90;
+constexpr int kProgressHeight = 19; // pixels at any scale, as the second slot of the bar
+constexpr int kUnscaled = 96;
 constexpr int kScaleStep = 5;
 
 const ModeRow& RowOf(MapMode mode) { return kModes[static_cast<std::size_t>(mode)]; }
@@ -72,7 +75,9 @@ BOOL CViewerStatusBar::Create(CWnd* frame, CMFCRibbonSliderSync* scale) {
     AddElement(m_prompt, L"");
     SetEleWidth(kPromptSlot, afxGlobalData.ScalePixels(kPromptWidth));
     // Hidden, it leaves its room to the prompt.
-    m_progress = new CMFCRibbonProgressBar(0);
+    // As high at every scale as the layout's slot, which it stands in the middle of then.
+    m_progress = new CMFCRibbonProgressBar(0, kProgressWidth,
+                                           ::MulDiv(kProgressHeight, kUnscaled, afxGlobalData.ScalePixels(kUnscaled)));
     m_progress->SetRange(0, kProgressSteps);
     m_progress->SetInfiniteMode();
     AddElement(m_progress, L"", FALSE);

@@ -52,6 +52,13 @@ class CommandSearch(unittest.TestCase):
             viewer.key("Return")
             viewer.wait_for(lambda record: not record["map"]["layers"][1])
 
+    def test_the_field_is_whole_where_there_is_room_for_it(self):
+        for scale, width, is_whole in (("100", 720, True), ("150", 1200, True), ("150", 900, False)):
+            with self.subTest(scale=scale, width=width), self.open("--scale", scale, "--size", f"{width}x700") as viewer:
+                left, _, right, _ = viewer.record["searchFieldOnScreen"]
+                self.assertEqual(right - left > 200 * int(scale) / 100, is_whole, right - left)
+                self.assertGreater(left, viewer.record["tabsOnScreen"][-1][2], "beside the tabs")
+
     def test_accents_and_letter_case_do_not_matter(self):
         with self.open() as viewer:
             self.search(viewer, "SAO paulo", ["CitySaoPaulo"])
