@@ -4,55 +4,125 @@
 #include "resource.h"
 #include "viewer_text.h"
 
-#include "varnhold/message_box.h"
+#include <afxglobals.h>
 
-#include <commctrl.h>
 #include <shellapi.h>
+
+#include <algorithm>
 
 namespace {
 
 constexpr wchar_t kVersion[] = L"" BARWRIGHT_VERSION;
-constexpr wchar_t kLinks[] = L"<a href=\"https://www.naturalearthdata.com\">Natural Earth</a>\n"
-                             L"<a href=\"https://www.soest.hawaii.edu/pwessel/gshhg\">GSHHG</a>";
 
-HRESULT CALLBACK OpenLink(HWND window, UINT event, WPARAM, LPARAM link, LONG_PTR) {
-    if (event == TDN_HYPERLINK_CLICKED) {
-        ::ShellExecuteW(window, L"open", reinterpret_cast<const wchar_t*>(link), nullptr, nullptr, SW_SHOWNORMAL);
-    }
-    return S_OK;
-}
+struct Link {
+    const wchar_t* text;
+    const wchar_t* address;
+};
+constexpr std::array<Link, 2> kAddresses = {{{L"Natural Earth", L"https://www.naturalearthdata.com"},
+                                             {L"GSHHG", L"https://www.soest.hawaii.edu/pwessel/gshhg"}}};
 
-using TaskDialogFunction = HRESULT(WINAPI*)(const TASKDIALOGCONFIG*, int*, int*, BOOL*);
+// Pixels at 96 DPI.
+constexpr int kMargin = 20;
+constexpr int kGap = 12;
+constexpr int kIconSide = 48;
+constexpr int kTextWidth = 320;
+constexpr int kLeastButton = 80;
+constexpr UINT kFirstLink = 200;
 
-/// Only the newer of the system's two libraries of controls has it.
-TaskDialogFunction FindTaskDialog() {
-    const HMODULE controls = ::GetModuleHandleW(L"comctl32.dll");
-    return controls != nullptr ? reinterpret_cast<TaskDialogFunction>(
-                                     reinterpret_cast<void*>(::GetProcAddress(controls, "TaskDialogIndirect")))
-                               : nullptr;
+int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
+
+std::wstring TextOf(const CWnd& control) {
+    CString text;
+    control.GetWindowText(text);
+    return text.GetString();
 }
 
 } // namespace
 
-void ShowAboutBox(HWND owner, const std::wstring& title) {
-    const std::wstring name = title + L" " + kVersion;
-    const std::wstring text = ViewerText("AboutText") + L"\n\n" + WithName(ViewerText("AboutLicence"), L"MIT");
-    if (const TaskDialogFunction taskDialog = FindTaskDialog()) {
-        const std::wstring content = text + L"\n\n" + kLinks;
-        TASKDIALOGCONFIG config = {};
-        config.cbSize = sizeof config;
-        config.hwndParent = owner;
-        config.hInstance = ::GetModuleHandleW(nullptr);
-        config.dwFlags = TDF_ENABLE_HYPERLINKS | TDF_ALLOW_DIALOG_CANCELLATION | TDF_POSITION_RELATIVE_TO_WINDOW;
-        config.dwCommonButtons = TDCBF_OK_BUTTON;
-        config.pszWindowTitle = title.c_str();
-        config.pszMainIcon = MAKEINTRESOURCEW(IDR_MAINFRAME);
-        config.pszMainInstruction = name.c_str();
-        config.pszContent = content.c_str();
-        config.pfCallback = OpenLink;
-        if (SUCCEEDED(taskDialog(&config, nullptr, nullptr, nullptr))) {
-            return;
+bool CAboutBox::Show(CWnd& owner, const std::wstring& title) {
+    constexpr DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+    if (!Make(owner, title, style, CSize(1, 1)) || !MakeControls(title)) {
+        return false;
+    }
+    const CSize size = Place(true);
+    CRect outer(CPoint(0, 0), size), around;
+    ::AdjustWindowRectEx(outer, style, FALSE, 0);
+    owner.GetWindowRect(around);
+    const CPoint middle = around.CenterPoint();
+    SetWindowPos(nullptr, middle.x - outer.Width() / 2, middle.y - outer.Height() / 2, outer.Width(), outer.Height(),
+                 SWP_NOZORDER);
+    m_close.SetFocus();
+    Run();
+    return true;
+}
+
+bool CAboutBox::MakeControls(const std::wstring& title) {
+    if (!m_icon.Create(L"", WS_CHILD | WS_VISIBLE | SS_ICON | SS_REALSIZEIMAGE, CRect(0, 0, 0, 0), this) ||
+        !AddLabel(m_name, title + L" " + kVersion) ||
+        !AddLabel(m_text, ViewerText("AboutText") + L"\n\n" + WithName(ViewerText("AboutLicence"), L"MIT"))) {
+        return false;
+    }
+    // Shared: loaded once for all boxes of that size.
+    m_icon.SetIcon(static_cast<HICON>(::LoadImageW(::GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_MAINFRAME),
+                                                   IMAGE_ICON, Scaled(kIconSide), Scaled(kIconSide), LR_SHARED)));
+    m_name.SetFont(&afxGlobalData.fontBold);
+    m_text.ModifyStyle(SS_CENTERIMAGE, 0); // in as many lines as it needs
+    for (std::size_t link = 0; link < kLinks; ++link) {
+        if (!AddLink(m_links[link], kFirstLink + static_cast<UINT>(link), kAddresses[link].text)) {
+            return false;
         }
     }
-    QKMessageBox(name + L"\n\n" + text, QK_MESSAGE_INFORMATION, owner);
+    SetDefaultButton(IDOK);
+    return AddButton(m_close, IDOK, ViewerText("ButtonOk"));
+}
+
+/// The size that all of it needs.
+CSize CAboutBox::Place(bool isMoving) {
+    const int margin = Scaled(kMargin), gap = Scaled(kGap), row = RowHeight();
+    const int left = margin + Scaled(kIconSide) + gap + gap / 2;
+    const int right = left + Scaled(kTextWidth);
+    CRect needed(0, 0, right - left, 0);
+    {
+        CClientDC dc(this);
+        CFont* const before = dc.SelectObject(&afxGlobalData.fontRegular);
+        dc.DrawText(TextOf(m_text).c_str(), needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+        dc.SelectObject(before);
+    }
+    const auto move = [isMoving](CWnd& control, int x, int y, int width, int height) {
+        if (isMoving) {
+            control.MoveWindow(x, y, width, height);
+        }
+    };
+    int top = margin;
+    move(m_icon, margin, top, Scaled(kIconSide), Scaled(kIconSide));
+    move(m_name, left, top, right - left, row);
+    top += row;
+    move(m_text, left, top, right - left, needed.Height());
+    top += needed.Height() + gap;
+    for (CButton& link : m_links) {
+        const int width = static_cast<int>(ButtonSize(static_cast<UINT>(link.GetDlgCtrlID())).cx);
+        move(link, left, top, width, row);
+        top += row;
+    }
+    top += gap;
+    const int width = std::max(Scaled(kLeastButton), static_cast<int>(ButtonSize(IDOK).cx));
+    move(m_close, right - width, top, width, row);
+    return {right + margin, top + row + margin};
+}
+
+BOOL CAboutBox::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const UINT id = LOWORD(wParam);
+    if (HIWORD(wParam) == BN_CLICKED && id >= kFirstLink && id < kFirstLink + kLinks) {
+        ::ShellExecuteW(GetSafeHwnd(), L"open", kAddresses[id - kFirstLink].address, nullptr, nullptr, SW_SHOWNORMAL);
+        return TRUE;
+    }
+    return CDialogWindow::OnCommand(wParam, lParam);
+}
+
+CDialogWindow::Description CAboutBox::Describe() const {
+    return {"about",
+            {CDialogWindow::Describe("name", m_name), CDialogWindow::Describe("text", m_text),
+             CDialogWindow::Describe("naturalEarth", m_links[0]), CDialogWindow::Describe("gshhg", m_links[1]),
+             CDialogWindow::Describe("close", m_close)},
+            {}};
 }

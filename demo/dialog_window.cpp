@@ -127,7 +127,13 @@ bool CDialogWindow::AddLabel(CStatic& label, const std::wstring& text) {
     return true;
 }
 
-bool CDialogWindow::AddList(CComboBox& list, UINT id) {
+bool CDialogWindow::AddLink(CButton& link, UINT id, const std::wstring& text) {
+    m_links.insert(id);
+    return AddButton(link, id, text);
+}
+
+bool CDialogWindow::AddList(CDialogList& list, UINT id) {
+    list.SetColors(m_look.colors);
     constexpr DWORD style =
         WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
     if (!list.Create(style, CRect(0, 0, 0, 0), this, id)) {
@@ -141,7 +147,8 @@ CSize CDialogWindow::ButtonSize(UINT id) const {
     CClientDC dc(nullptr);
     CFont* const before = dc.SelectObject(&afxGlobalData.fontRegular);
     const std::wstring text = TextOf(::GetDlgItem(GetSafeHwnd(), static_cast<int>(id)));
-    int width = static_cast<int>(dc.GetTextExtent(text.c_str()).cx) + 2 * Scaled(kButtonMargin);
+    int width = static_cast<int>(dc.GetTextExtent(text.c_str()).cx);
+    width += m_links.contains(id) ? 0 : 2 * Scaled(kButtonMargin);
     dc.SelectObject(before);
     const auto icon = m_icons.find(id);
     if (icon != m_icons.end() && !icon->second.empty()) {
@@ -179,7 +186,9 @@ void CDialogWindow::OnMeasureItem(int /*id*/, LPMEASUREITEMSTRUCT item) {
 }
 
 void CDialogWindow::OnDrawItem(int /*id*/, LPDRAWITEMSTRUCT item) {
-    if (item->CtlType == ODT_BUTTON) {
+    if (item->CtlType == ODT_BUTTON && m_links.contains(item->CtlID)) {
+        DrawLink(*item);
+    } else if (item->CtlType == ODT_BUTTON) {
         DrawButton(*item);
     } else {
         DrawListItem(*item);
@@ -240,7 +249,29 @@ void CDialogWindow::DrawButton(const DRAWITEMSTRUCT& item) const {
     }
 }
 
+void CDialogWindow::DrawLink(const DRAWITEMSTRUCT& item) const {
+    CDC& target = *CDC::FromHandle(item.hDC);
+    SoftCanvas canvas(target, CRect(item.rcItem));
+    if (canvas.IsEmpty()) {
+        return;
+    }
+    CRect all(CPoint(0, 0), canvas.Size());
+    canvas.Fill(all, m_look.colors.ground);
+    if ((item.itemState & ODS_FOCUS) != 0) {
+        canvas.FillRounded(all, Scaled(kCorner), m_look.colors.accent, kMarkedItem);
+    }
+    CDC& dc = canvas.Dc();
+    CFont* const before = dc.SelectObject(&afxGlobalData.fontUnderline);
+    dc.SetTextColor(m_look.colors.accent);
+    dc.DrawText(TextOf(item.hwndItem).c_str(), all,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | (m_isMirrored ? DT_RIGHT | DT_RTLREADING : DT_LEFT));
+    dc.SelectObject(before);
+}
+
 void CDialogWindow::DrawListItem(const DRAWITEMSTRUCT& item) const {
+    if ((item.itemState & ODS_COMBOBOXEDIT) != 0) {
+        return; // the list itself draws its face
+    }
     CDC& target = *CDC::FromHandle(item.hDC);
     SoftCanvas canvas(target, CRect(item.rcItem));
     if (canvas.IsEmpty()) {
@@ -249,9 +280,8 @@ void CDialogWindow::DrawListItem(const DRAWITEMSTRUCT& item) const {
     const ViewerColors& colors = m_look.colors;
     CRect rect(CPoint(0, 0), canvas.Size());
     canvas.Fill(rect, colors.ground);
-    const bool isInFace = (item.itemState & ODS_COMBOBOXEDIT) != 0;
     if ((item.itemState & ODS_SELECTED) != 0) {
-        canvas.FillRounded(rect, isInFace ? 0 : Scaled(kCorner), isInFace ? colors.accent : colors.text, kMarkedItem);
+        canvas.FillRounded(rect, Scaled(kCorner), colors.text, kMarkedItem);
     }
     if (item.itemID == static_cast<UINT>(-1)) {
         return;

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "dialog_list.h"
 #include "layer_list.h"
 
 #include <afxcontrolbars.h>
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -51,7 +53,9 @@ protected:
     /// The one that Enter means, where the focus is on no other.
     void SetDefaultButton(UINT id) { m_defaultButton = id; }
     bool AddLabel(CStatic& label, const std::wstring& text);
-    bool AddList(CComboBox& list, UINT id);
+    /// A button that looks like the link that it is.
+    bool AddLink(CButton& link, UINT id, const std::wstring& text);
+    bool AddList(CDialogList& list, UINT id);
     /// The width that a button needs for its text and icon, and the height of all.
     CSize ButtonSize(UINT id) const;
     static int RowHeight();
@@ -72,12 +76,14 @@ protected:
 
 private:
     void DrawButton(const DRAWITEMSTRUCT& item) const;
+    void DrawLink(const DRAWITEMSTRUCT& item) const;
     void DrawListItem(const DRAWITEMSTRUCT& item) const;
     void DrawIcon(HDC dc, const std::wstring& name, const CRect& place) const;
 
     DialogLook m_look;
     CBrush m_ground;
     std::map<UINT, std::wstring> m_icons; ///< Of the buttons, by id.
+    std::set<UINT> m_links;               ///< Their ids.
     UINT m_defaultButton = 0;
     bool m_isMirrored = false;
 };

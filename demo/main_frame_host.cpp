@@ -61,7 +61,11 @@ void CMainFrame::TellPlaceUnknown(const std::wstring& text) {
     m_tellsPlace = false;
 }
 
-void CMainFrame::TellAbout() { ShowAboutBox(GetSafeHwnd(), ViewerText("ViewerTitle")); }
+void CMainFrame::TellAbout() {
+    CAboutBox box(LookOfDialogs());
+    const OpenDialog open(m_dialog, box);
+    box.Show(*this, ViewerText("ViewerTitle"));
+}
 
 void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
 

@@ -152,8 +152,10 @@ CSize COptionsDialog::Place(bool isMoving) {
     int top = margin;
     for (std::size_t row = 0; row < kRows; ++row) {
         if (isMoving) {
-            m_labels[row].MoveWindow(margin, top, labels + gap, height);
             m_lists[row].MoveWindow(listLeft, top, right - listLeft, Scaled(kListDepth));
+            CRect face; // the system gives it its height; its text and the label have one base line
+            m_lists[row].GetWindowRect(face);
+            m_labels[row].MoveWindow(margin, top, labels + gap, face.Height());
         }
         top += height + gap;
     }

@@ -42,7 +42,7 @@ private:
     ViewerOptions m_options;
     std::array<std::vector<std::wstring>, kRows> m_values; ///< Behind the lines of the lists.
     std::array<CStatic, kRows> m_labels;
-    std::array<CComboBox, kRows> m_lists;
+    std::array<CDialogList, kRows> m_lists;
     CStatic m_note;
     CButton m_take;
     CButton m_cancel;

@@ -41,6 +41,41 @@ class DialogViewer(Viewer):
         self.wait_for_value(name, line)
 
 
+class Skins(unittest.TestCase):
+    """The viewer's windows are painted in its skin, down to the controls."""
+    BRIGHT = 170  # of 255: brighter than any edge or ground of the dark skin, darker than its texts
+
+    def part(self, viewer, look, name):
+        return look.crop(viewer.record["dialog"]["parts"][name]["onScreen"]).convert("L")
+
+    def test_the_lists_of_the_dark_options_have_no_bright_edge_or_arrow_field(self):
+        with DialogViewer(BIN_DIR, "--lang", "en", "--skin", "black") as viewer:
+            viewer.open_dialog("options", "alt+s", "o")
+            for turn in ("at first", "after the keyboard", "after the mouse"):
+                look = viewer.settled_look()
+                for name in ("language", "skin", "bars", "quickAccess", "startMode", "scale"):
+                    with self.subTest(name, turn=turn):
+                        list_ = self.part(viewer, look, name)
+                        for side in ((0, 0, list_.width, 2), (0, 0, 2, list_.height), (list_.width - 4, 0, list_.width, list_.height),
+                                     (0, list_.height - 2, list_.width, list_.height)):
+                            self.assertLess(list_.crop(side).getextrema()[1], self.BRIGHT, side)
+                if turn == "at first":
+                    viewer.key("Tab", "Down", "Up")
+                else:
+                    viewer.click_part("bars")
+                    viewer.key("Escape")
+
+    def test_the_words_about_the_program_stand_on_the_skins_ground(self):
+        for skin, is_dark in (("black", True), ("silver", False)):
+            with self.subTest(skin), DialogViewer(BIN_DIR, "--lang", "en", "--skin", skin) as viewer:
+                viewer.open_dialog("about", "ctrl+f", *"about", "Return")
+                text = self.part(viewer, viewer.settled_look(), "text")
+                most = max(range(256), key=text.histogram().__getitem__)
+                self.assertEqual(most < 128, is_dark, f"the ground has {most}")
+                viewer.click_part("close")
+                viewer.wait_for_closed()
+
+
 class PrintPreview(unittest.TestCase):
     def open(self):
         return DialogViewer(BIN_DIR, "--lang", "en", "--skin", "silver", "--mode", "edit")
