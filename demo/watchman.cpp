@@ -1,5 +1,7 @@
 #include "watchman.h"
 
+#include "process_objects.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -70,6 +72,16 @@ void Watchman::TellWait(std::ofstream& lines, const WaitTime& wait, const Spent&
     lines << line.dump() << std::endl;
 }
 
+void Watchman::TellHeld(std::ofstream& lines, long long longest) {
+    const ProcessObjects held = CountProcessObjects();
+    const nlohmann::ordered_json line = {{"longest", longest},
+                                         {"gdi", held.gdi},
+                                         {"icons", held.icons},
+                                         {"menus", held.menus},
+                                         {"windows", held.windows}};
+    lines << line.dump() << std::endl;
+}
+
 void Watchman::Run() {
     std::ofstream lines(std::filesystem::path(m_file), std::ios::app);
     long long longest = 0;
@@ -90,7 +102,7 @@ void Watchman::Run() {
         }
         if (now - last >= kBetweenLines) {
             last = now;
-            lines << "{\"longest\": " << longest << "}" << std::endl;
+            TellHeld(lines, longest);
         }
         ::Sleep(kPause);
     }

@@ -14,10 +14,11 @@
 #include <vector>
 
 /// For long tests: asks a window from a thread of its own, again and again, whether it still answers, and adds what it
-/// finds to a file, each as a line of JSON: {"longest": N} whenever a second has passed, the longest wait so far in
-/// milliseconds; and for each wait that a person would notice one with its begin and end (milliseconds since 1970), the
-/// processor time that the window's thread and the whole process spent meanwhile, and the last
-/// messages that its windows had been given when it was noticed.
+/// finds to a file, each as a line of JSON: {"longest": N, ...} whenever a second has passed, the longest wait so
+/// far in milliseconds and how many objects of each kind the process holds from the system; and for each wait that a
+/// person would notice one with its begin and end (milliseconds since 1970), the processor time that the window's
+/// thread and the whole process spent meanwhile, and the last messages that its windows had been given when it was
+/// noticed.
 class Watchman {
 public:
     /// Begins at once, from the window's own thread; the window outlives this.
@@ -44,6 +45,7 @@ private:
     };
 
     void Run();
+    static void TellHeld(std::ofstream& lines, long long longest);
     Spent SpentSoFar() const;
     void TellWait(std::ofstream& lines, const WaitTime& wait, const Spent& before,
                   const std::vector<LastMessages::Entry>& taken) const;
