@@ -1,5 +1,7 @@
 #include "configuration_files.h"
 
+#include "viewer_text.h"
+
 #include "varnhold/file_op.h"
 #include "varnhold/xml.h"
 
@@ -24,6 +26,9 @@ void Check(const std::wstring& path, std::vector<std::wstring>& broken) {
     CXmlDocumentWrapper document;
     if (!document.Load(path)) {
         broken.push_back(document.GetErrorText());
+    } else if (!varnhold::XmlCursor(document).HasChildren()) {
+        // Bars without anything in them are none that somebody meant: a file that is only begun, or not yet written.
+        broken.push_back(path + L": " + ViewerText("FileWithoutElements"));
     }
 }
 

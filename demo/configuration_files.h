@@ -4,5 +4,5 @@
 #include <vector>
 
 /// Why the bars cannot be built in the language from the files as they are now: a line for each that is missing or
-/// broken, "file:line:column: what". Empty: they can.
+/// broken or has nothing in it, "file:line:column: what". Empty: they can.
 std::vector<std::wstring> FindBrokenFiles(const std::wstring& language);

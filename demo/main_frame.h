@@ -42,8 +42,11 @@ public:
     explicit CMainFrame(const DemoOptions& options);
 
     BOOL CreateFrame();
+    /// When a record is written: while a message is at work, so that buttons may not show yet what they can do now, or
+    /// when all messages have been taken.
+    enum class Moment { AtWork, Idle };
     /// Writes what is shown to the file of the option --record, if there is one and it says something else so far.
-    void WriteRecord();
+    void WriteRecord(Moment moment = Moment::AtWork);
     /// Shows what a GeoJSON file holds, or says why it cannot.
     void OpenMapFile(const std::wstring& path);
     /// Waits until the map is drawn, for pictures of the window.
@@ -125,6 +128,7 @@ private:
     void ReloadFiles() override;
     /// Says which of the files cannot be read now; then nothing is built from them.
     bool TellBrokenFiles(const std::wstring& language);
+    void Warn(const std::wstring& message);
     void SwitchLanguage(const std::wstring& code) override;
     bool IsLanguage(const std::wstring& code) const override;
     void ShowMode(MapMode mode) override;
@@ -180,5 +184,6 @@ private:
     std::wstring m_skin;
     std::wstring m_iconStyle;
     std::vector<std::wstring> m_commandTexts; ///< As the builder met them, for the record.
+    std::vector<std::wstring> m_warnings;     ///< That were shown so far, for the record.
     std::string m_recorded;                   ///< What the file of the record says.
 };

@@ -87,9 +87,14 @@ bool CMainFrame::TellBrokenFiles(const std::wstring& language) {
         std::fprintf(stderr, "%s\n", wstring2String(line).c_str());
     }
     if (!broken.empty()) {
-        QKMessageBox(WithName(ViewerText("FilesBroken"), Lines(broken)), QK_MESSAGE_WARNING, GetSafeHwnd());
+        Warn(WithName(ViewerText("FilesBroken"), Lines(broken)));
     }
     return !broken.empty();
+}
+
+void CMainFrame::Warn(const std::wstring& message) {
+    m_warnings.push_back(message);
+    QKMessageBox(message, QK_MESSAGE_WARNING, GetSafeHwnd());
 }
 
 void CMainFrame::ReloadFiles() { SwitchLanguage(CMultiLanguageMgr::GetLanguage()); }
@@ -130,8 +135,7 @@ void CMainFrame::SwitchLanguage(const std::wstring& code) {
     const bool isRead = CMultiLanguageMgr::SetLanguage(code);
     CMultiLanguageMgr::SetProblemSink(earlier);
     if (!isRead) {
-        QKMessageBox(WithName(ViewerText("LanguageBroken"), Lines(problems.empty() ? std::vector{code} : problems)),
-                     QK_MESSAGE_WARNING, GetSafeHwnd());
+        Warn(WithName(ViewerText("LanguageBroken"), Lines(problems.empty() ? std::vector{code} : problems)));
         return;
     }
     TakeResourceLanguage();

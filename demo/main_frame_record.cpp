@@ -8,7 +8,7 @@
 #include "varnhold/language.h"
 #include "varnhold/strings.h"
 
-void CMainFrame::WriteRecord() {
+void CMainFrame::WriteRecord(Moment moment) {
     if (m_options.record.empty()) {
         return;
     }
@@ -134,6 +134,12 @@ void CMainFrame::WriteRecord() {
         }
         record["dialog"] = {{"name", shown.name}, {"parts", std::move(parts)}, {"values", std::move(values)}};
     }
+    record["popupOpen"] = CMFCPopupMenu::GetActiveMenu() != nullptr;
+    record["warnings"] = nlohmann::ordered_json::array();
+    for (const std::wstring& warning : m_warnings) {
+        record["warnings"].push_back(wstring2String(warning));
+    }
+    record["idle"] = moment == Moment::Idle;
     record["ribbonMinimized"] = IsRibbonMinimized();
     record["quickAccessBelow"] = IsQuickAccessBelow();
     std::string text = record.dump();

@@ -73,7 +73,7 @@ public:
     BOOL OnIdle(LONG count) override {
         const BOOL wantsMore = CWinAppEx::OnIdle(count);
         if (count == 0 && m_pMainWnd != nullptr) {
-            static_cast<CMainFrame*>(m_pMainWnd)->WriteRecord();
+            static_cast<CMainFrame*>(m_pMainWnd)->WriteRecord(CMainFrame::Moment::Idle);
         }
         return wantsMore;
     }
