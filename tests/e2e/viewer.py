@@ -50,6 +50,7 @@ class Viewer:
         self._arguments = (*memory, *arguments) if self.PROGRAM[0] == "demo.exe" else arguments
         self._folder = tempfile.TemporaryDirectory()
         self._record_file = os.path.join(self._folder.name, "record.json")
+        self._read = None, None  # which state of the file was read, and what
         self._errors = open(os.path.join(self._folder.name, "errors.txt"), "w+", encoding="utf-8", errors="replace")
 
     def __enter__(self):
@@ -128,16 +129,24 @@ class Viewer:
         while time.monotonic() < end:
             if self._program.poll() is not None:
                 raise AssertionError(f"the viewer left with {self._program.returncode}")
-            try:
-                with open(self._record_file, encoding="utf-8") as file:
-                    record = json.load(file)
-                if condition(record):
-                    self.record = record
-                    return record
-            except (FileNotFoundError, json.JSONDecodeError):
-                pass
+            record = self._read_record()
+            if record is not None and condition(record):
+                self.record = record
+                return record
             time.sleep(0.05)
         raise AssertionError(f"no record met the condition in {DEADLINE} s; last one: {record and record.get('map', record)}")
+
+    def _read_record(self):
+        """None before the first one and while one is written. It is long: one that has been read is not read again."""
+        try:
+            status = os.stat(self._record_file)
+            stamp = (status.st_ino, status.st_mtime_ns, status.st_size)
+            if stamp != self._read[0]:
+                with open(self._record_file, encoding="utf-8") as file:
+                    self._read = stamp, json.load(file)
+            return self._read[1]
+        except (FileNotFoundError, json.JSONDecodeError):
+            return None
 
     def wait_until(self, condition, what):
         end = time.monotonic() + DEADLINE
@@ -153,9 +162,10 @@ class Viewer:
         """Input in the words of xdotool, whatever comes of it."""
         self._xdotool(*words)
 
-    def try_to_act(self, *words):
-        """The same where the window may have gone meanwhile; False when the input could not be given."""
-        return subprocess.run(["xdotool", *map(str, words)], env=self._environment, stderr=subprocess.DEVNULL).returncode == 0
+    @property
+    def environment(self):
+        """What other programs need that use its display."""
+        return self._environment
 
     @property
     def record_file(self):
