@@ -1,6 +1,8 @@
 // Panes that float: their mini frames, how they are shown, closed, moved and resized; toolbars in them.
 #include "tests/ui/docking/docking_fixture.h"
 
+#include "afxglobalutils.h"
+
 namespace {
 
 class MiniFrameTest : public DockingTest {
@@ -32,6 +34,15 @@ TEST_F(MiniFrameTest, AFloatingPaneLiesUnderACaptionInsideABorder) {
     EXPECT_EQ(miniFrame.GetCaptionText(), L"Pane 1");
     EXPECT_EQ(miniFrame.GetPane(), &m_panes[0]);
     EXPECT_EQ(m_panes[0].told, (std::vector<std::string>{"before floating", "floats"}));
+}
+
+TEST_F(MiniFrameTest, TheFrameAndItsMiniFramesHaveOneDockingManager) {
+    CGlobalUtils utilities;
+    CDockingManager* const manager = m_frame->GetDockingManager();
+    EXPECT_EQ(utilities.GetDockingManager(m_frame), manager);
+    EXPECT_EQ(utilities.GetDockingManager(&Float(m_panes[0])), manager);
+    EXPECT_EQ(utilities.GetDockingManager(&m_client), nullptr);
+    EXPECT_EQ(utilities.GetDockingManager(nullptr), nullptr);
 }
 
 TEST_F(MiniFrameTest, TheFrameOwnsTheMiniFrameAndItTakesNoActivation) {

@@ -4,6 +4,7 @@
 
 #include "afxcontrolbars.h"
 #include "afxext.h"
+#include "afxglobalutils.h"
 #include "afxpriv.h"
 #include "afxtempl.h"
 
@@ -307,7 +308,6 @@ class CUserTool;
 class CMFCVisualManagerVS2005;
 class CMFCVisualManagerWindows;
 class CMFCVisualManagerWindows7;
-class CGlobalUtils;
 class CMFCRibbonColorButton;
 class CMFCRibbonFontComboBox;
 class CMFCRibbonGallery;
@@ -331,7 +331,10 @@ LEFT_OUT("tools of the user's", CMFCToolBarsCustomizeDialog, CheckToolsValidity,
          OnBeforeChangeTool, OnInitToolsPage)
 LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
                  CMFCVisualManagerWindows7)
-LEFT_OUT_CLASSES("helpers of the docking panes", CGlobalUtils)
+LEFT_OUT("helpers of the docking panes", CGlobalUtils, AdjustRectToworkArea, CalcExpectedDockedRect, CanBeAttached,
+         CanPaneBeInFloatingMultiPaneFrameWnd, CheckAlignment, CyFromString, DecimalFromString, FlipRect,
+         ForceAdjustLayout, GetOppositeAlignment, GetPaneAndAlignFromPoint, GetWndIcon, SetNewParent, StringFromCy,
+         StringFromDecimal)
 LEFT_OUT("the side to which menus of a floating bar open is decided by the room on the screen", CMFCMenuBar,
          GetFloatPopupDirection)
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,

@@ -5,6 +5,7 @@
 #include "afxDockingManager.h"
 #include "afxDockingPanesRow.h"
 #include "afxDockSite.h"
+#include "afxglobalutils.h"
 #include "afxPane.h"
 #include "afxPaneFrameWnd.h"
 #include "afxrecentDockSiteInfo.h"
@@ -356,3 +357,5 @@ INTERFACE_OF(CPaneFrameWnd) {
 }
 
 PROTECTED_INTERFACE_OF(CPaneFrameWnd) { VIRTUAL(void, OnDrawBorder, (CDC*)); }
+
+INTERFACE_OF(CGlobalUtils) { MEMBER(CDockingManager*, GetDockingManager, (CWnd*)); }
