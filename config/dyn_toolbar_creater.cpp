@@ -9,6 +9,9 @@
 #include "toolbar_ex.h"
 
 #include <afxcommandmanager.h>
+#include <afxDockingManager.h>
+#include <afxglobalutils.h>
+#include <fx/window_guard.h>
 #include <varnhold/file_op.h>
 
 #include <algorithm>
@@ -310,8 +313,34 @@ void CDynToolBarCreater::ShowBars(const std::wstring& group, int show, CMDIFrame
     }
 }
 
+namespace {
+
+/// The frame's bars are laid out once for all that is docked while it lives, not anew for each.
+class DockingTogether {
+public:
+    explicit DockingTogether(CMDIFrameWndEx& frame)
+        : m_guard(&frame), m_manager(CGlobalUtils().GetDockingManager(&frame)) {
+        m_manager->LockUpdate(TRUE);
+    }
+    ~DockingTogether() {
+        if (m_guard.IsAlive()) {
+            m_manager->LockUpdate(FALSE);
+        }
+    }
+    DockingTogether(const DockingTogether&) = delete;
+    DockingTogether& operator=(const DockingTogether&) = delete;
+
+private:
+    fx::WindowGuard m_guard; // whoever hears of a docked bar may end the frame
+    CDockingManager* m_manager;
+};
+
+} // namespace
+
 void CDynToolBarCreater::DockPane(CMDIFrameWndEx* frame) const {
-    if (CMDIFrameWndEx* const target = FrameOr(frame)) {
+    CMDIFrameWndEx* const target = FrameOr(frame);
+    if (target && target->GetSafeHwnd()) {
+        const DockingTogether together(*target);
         for (CMFCToolBar* const bar : GetAllToolBar()) {
             if (bar->GetSafeHwnd()) {
                 target->DockPane(bar);

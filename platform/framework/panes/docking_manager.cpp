@@ -25,6 +25,16 @@ panes::PaneRequest RequestOf(CBasePane& pane) {
     return {frame_bars::SideOfAlignment(pane.GetCurrentAlignment()), size, isAlone};
 }
 
+/// Of panes that were docked before they had their places.
+void RememberDockedPlaces(const CObList& panes) {
+    for (POSITION position = panes.GetHeadPosition(); position;) {
+        auto* const pane = const_cast<CPane*>(DYNAMIC_DOWNCAST(CPane, panes.GetNext(position)));
+        if (pane && pane->IsDocked()) {
+            pane->RememberPlace();
+        }
+    }
+}
+
 } // namespace
 
 CDockingManager::CDockingManager() = default;
@@ -215,6 +225,7 @@ void CDockingManager::LockUpdate(BOOL bLock) {
         m_nLockCount = 0;
         if (std::exchange(m_isLayoutPending, false)) {
             AdjustDockingLayout();
+            RememberDockedPlaces(m_lstControlBars);
         }
     }
 }
