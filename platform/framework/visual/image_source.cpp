@@ -34,21 +34,39 @@ Picture Decode(Gdiplus::Bitmap& source) {
     return picture;
 }
 
-/// Any bitmap as 32-bit rows, alpha as it stands.
+/// The bits of a bitmap that belongs to no memory of ours and is kept as we want it: no context is needed, and for one
+/// the system looks at all its screens. False for any other.
+bool ReadPlainRows(HBITMAP bitmap, const BITMAP& info, std::uint32_t* bits) {
+    constexpr WORD depth = 32;
+    const bool isPlain = info.bmBits == nullptr && info.bmPlanes == 1 && info.bmBitsPixel == depth &&
+                         info.bmWidthBytes == info.bmWidth * static_cast<LONG>(sizeof(std::uint32_t));
+    const LONG size = info.bmWidthBytes * std::abs(info.bmHeight);
+    return isPlain && GetBitmapBits(bitmap, size, bits) == size;
+}
+
+/// Reads any bitmap as 32-bit rows from the top, alpha as it stands. There must be room for them.
+void ReadRows(HBITMAP bitmap, const BITMAP& info, std::uint32_t* bits) {
+    if (ReadPlainRows(bitmap, info, bits)) {
+        return;
+    }
+    const LONG height = std::abs(info.bmHeight);
+    BITMAPINFO format{};
+    format.bmiHeader = {sizeof(format.bmiHeader), info.bmWidth, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    const HDC memory = CreateCompatibleDC(nullptr);
+    GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), bits, &format, DIB_RGB_COLORS);
+    DeleteDC(memory);
+}
+
+/// The same into a new bitmap.
 HBITMAP CopyRows(HBITMAP bitmap, std::uint32_t** bits, BITMAP& info) {
     if (GetObjectW(bitmap, sizeof(info), &info) == 0) {
         return nullptr;
     }
     info.bmHeight = std::abs(info.bmHeight);
     const HBITMAP copy = MakeBitmap32(info.bmWidth, info.bmHeight, bits);
-    if (copy == nullptr) {
-        return nullptr;
+    if (copy != nullptr) {
+        ReadRows(bitmap, info, *bits);
     }
-    BITMAPINFO format{};
-    format.bmiHeader = {sizeof(format.bmiHeader), info.bmWidth, -info.bmHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    const HDC screen = GetDC(nullptr);
-    GetDIBits(screen, bitmap, 0, info.bmHeight, *bits, &format, DIB_RGB_COLORS);
-    ReleaseDC(nullptr, screen);
     return copy;
 }
 
@@ -69,13 +87,12 @@ PixelView ViewOf(HBITMAP bitmap) {
 }
 
 void CopyPixels(const PixelView& source, const RECT& from, const PixelView& target, int left) {
-    const int width = from.right - from.left, height = from.bottom - from.top;
-    for (int y = 0; y < std::min(height, target.height); ++y) {
-        for (int x = 0; x < width && left + x < target.width; ++x) {
-            if (from.left + x < source.width && from.top + y < source.height) {
-                target.At(left + x, y) = source.At(from.left + x, from.top + y);
-            }
-        }
+    const int width = std::min(
+        {static_cast<int>(from.right - from.left), static_cast<int>(source.width - from.left), target.width - left});
+    const int height =
+        std::min({static_cast<int>(from.bottom - from.top), static_cast<int>(source.height - from.top), target.height});
+    for (int y = 0; width > 0 && y < height; ++y) {
+        std::copy_n(&source.At(from.left, from.top + y), width, &target.At(left, y));
     }
 }
 

@@ -134,7 +134,8 @@ int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) 
     const int kept = m_iCount * m_sizeImage.cx;
     const bool isAlike = m_nBitsPerPixel == imageList.m_nBitsPerPixel && well.height == m_sizeImage.cy;
     if (isAlike && well.width >= kept + m_sizeImage.cx) {
-        CopyPixels(ViewOf(imageList.m_hbmImageWell), imageList.GetSourceRect(nIndex), well, kept);
+        const PixelView source = &imageList == this ? well : ViewOf(imageList.m_hbmImageWell);
+        CopyPixels(source, imageList.GetSourceRect(nIndex), well, kept);
         m_nSpare = well.width - kept - m_sizeImage.cx;
         return m_iCount++;
     }

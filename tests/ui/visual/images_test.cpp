@@ -1,6 +1,7 @@
 #include "images_fixture.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -144,6 +145,43 @@ TEST_F(Images, AnIconsSoftEdgesAreKeptWithoutBlendingToo) {
         images.DrawEx(&m_dc, CRect(0, 0, 4, 4), 0);
         EXPECT_NEAR(GetRValue(m_dc.GetPixel(2, 2)), 127, 2) << blends;
     }
+}
+
+/// Of 4 x 4 pixels. Each row of the mask is two bytes; the colours may be null.
+HICON MaskedIcon(const std::vector<BYTE>& mask, const std::uint32_t* colors) {
+    constexpr int side = 4;
+    ICONINFO info{};
+    info.fIcon = TRUE;
+    info.hbmMask = ::CreateBitmap(side, static_cast<int>(mask.size() / 2), 1, 1, mask.data());
+    info.hbmColor = colors != nullptr ? ::CreateBitmap(side, side, 1, 32, colors) : nullptr;
+    const HICON icon = ::CreateIconIndirect(&info);
+    ::DeleteObject(info.hbmMask);
+    if (info.hbmColor != nullptr) {
+        ::DeleteObject(info.hbmColor);
+    }
+    return icon;
+}
+
+TEST_F(Images, AnIconWithoutAlphaIsCutByItsMask) {
+    std::array<std::uint32_t, 16> colors;
+    colors.fill(0x00C00000);
+    const HICON icon = MaskedIcon({0xF0, 0, 0xF0, 0, 0, 0, 0, 0}, colors.data());
+    EXPECT_EQ(m_images.AddIcon(icon), 3);
+    ::DestroyIcon(icon);
+    m_images.DrawEx(&m_dc, CRect(0, 0, 4, 4), 3);
+    EXPECT_EQ(m_dc.GetPixel(1, 1), RGB(255, 255, 255));
+    EXPECT_EQ(m_dc.GetPixel(1, 2), RGB(0xC0, 0, 0));
+}
+
+TEST_F(Images, AnIconWithoutColoursHasItsPictureBelowItsMask) {
+    m_dc.FillSolidRect(0, 0, 4, 4, RGB(0, 255, 0));
+    const HICON icon = MaskedIcon({0xF0, 0, 0xF0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xF0, 0, 0, 0}, nullptr);
+    EXPECT_EQ(m_images.AddIcon(icon), 3);
+    ::DestroyIcon(icon);
+    m_images.DrawEx(&m_dc, CRect(0, 0, 4, 4), 3);
+    EXPECT_EQ(m_dc.GetPixel(1, 1), RGB(0, 255, 0));
+    EXPECT_EQ(m_dc.GetPixel(1, 2), RGB(255, 255, 255));
+    EXPECT_EQ(m_dc.GetPixel(1, 3), RGB(0, 0, 0));
 }
 
 TEST_F(Images, MirroringRightToLeftTurnsEachImage) {
