@@ -47,6 +47,16 @@ class BrokenFiles(unittest.TestCase):
             viewer.key("Return")
             viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 1, "the message is gone")
 
+    def warned(self, viewer, act):
+        """What the message says that comes of it, and the record after it has gone."""
+        count = len(viewer.record["warnings"])
+        act()
+        viewer.wait_until(lambda: len(viewer.windows(TITLE)) > 1, "a message is shown")
+        viewer.key("Return")
+        viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 1, "the message is gone")
+        record = viewer.wait_for(lambda record: len(record["warnings"]) == count + 1 and record["idle"])
+        return record["warnings"][-1], record
+
     def names(self, record):
         ribbon = record["frame"]["ribbon"]
         return [category["name"] for category in ribbon["categories"]], ribbon["quickAccess"], record["frame"]["menu"]
@@ -81,6 +91,15 @@ class BrokenFiles(unittest.TestCase):
     def test_the_file_of_the_language(self):
         self.check(self.file("lang", "en", "viewer.xlf"), r"viewer\.xlf:\d+:\d+: ")
 
+    def test_the_file_of_a_modes_extras(self):
+        path = self.file("cfg", "status-edit.xml")
+        with Viewer(self.folder, "--lang", "en", "--mode", "edit") as viewer:
+            shown = viewer.wait_for(lambda record: record["idle"])["frame"]
+            self.rewrite(path, lambda text: text[:len(text) // 2])
+            words, record = self.warned(viewer, lambda: viewer.key("ctrl+shift+r"))
+            self.assertRegex(words, r"status-edit\.xml:\d+:\d+: ")
+            self.assertEqual(record["frame"], shown)
+
     def test_a_switch_to_a_broken_language_leaves_the_one_that_is_shown(self):
         with Viewer(self.folder, "--lang", "en", "--category", "2") as viewer:
             self.rewrite(self.file("lang", "zh-CN", "viewer.xlf"), lambda text: text[:300])
@@ -90,6 +109,17 @@ class BrokenFiles(unittest.TestCase):
             viewer.key("ctrl+i")
             record = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 5)
             self.assertEqual((record["language"], record["frame"]["ribbon"]["categories"][0]["name"]), ("en", "Map"))
+
+    def test_a_switch_to_a_language_that_is_gone_leaves_the_one_that_is_shown(self):
+        with Viewer(self.folder, "--lang", "en", "--category", "2") as viewer:
+            shown = viewer.wait_for(lambda record: record["idle"])["frame"]["ribbon"]["categories"]
+            shutil.rmtree(self.file("lang", "zh-CN"))
+            words, record = self.warned(viewer, lambda: viewer.click_command("LanguageChinese"))
+            self.assertIn(r"lang\zh-CN\viewer.xlf:", words)
+            self.assertEqual((record["language"], [category["name"] for category in record["frame"]["ribbon"]["categories"]]),
+                             ("en", [category["name"] for category in shown]))
+            viewer.key("ctrl+i")
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 5)
 
     def test_problems_are_printed_with_their_places_and_whole_files_have_none(self):
         with Viewer(self.folder, "--lang", "en") as viewer:
