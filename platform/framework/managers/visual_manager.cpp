@@ -4,6 +4,7 @@
 #include <afxRibbonEdit.h>
 
 #include "afxglobals.h"
+#include "fx/paint_round.h"
 #include "fx/window_freeze.h"
 #include "visual/canvas.h"
 #include "visual/manager_instance.h"
@@ -74,10 +75,11 @@ void __stdcall CMFCVisualManager::DestroyInstance(BOOL bAutoDestroyOnly) {
 }
 
 void CMFCVisualManager::RedrawAll() {
+    // A painting that asks for all to be painted anew would be asked again by it, and so on: it comes after this one.
+    const UINT now = fx::IsPainting() ? 0 : RDW_UPDATENOW;
     for (const HWND window : FrameworkWindows()) {
         if (::IsWindow(window)) {
-            ::RedrawWindow(window, nullptr, nullptr,
-                           RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+            ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | now);
         }
     }
 }

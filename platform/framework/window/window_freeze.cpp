@@ -2,6 +2,7 @@
 
 #include "afxwin.h"
 #include "fx/dc_scope.h"
+#include "fx/paint_round.h"
 #include "fx/window_dc.h"
 #include "window/thread_windows.h"
 #include "window/window_picture.h"
@@ -103,7 +104,7 @@ void WindowFreeze::Cover::OnPaint() {
 }
 
 WindowFreeze::WindowFreeze() {
-    if (t_depth++ == 0) {
+    if (t_depth++ == 0 && !IsPainting()) {
         for (const HWND frame : ShownFrames()) {
             m_covers.push_back(std::make_unique<Cover>(frame));
         }

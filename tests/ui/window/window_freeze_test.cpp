@@ -117,6 +117,13 @@ TEST(WindowFreezing, OneInsideAnotherDoesNothing) {
     EXPECT_EQ(OwnedBy(frame.m_frame).size(), 1u);
 }
 
+TEST(WindowFreezing, OneInTheMiddleOfAPaintingDoesNothing) {
+    Frame frame;
+    const CPaintDC painting(&frame.m_child);
+    const fx::WindowFreeze freeze;
+    EXPECT_TRUE(OwnedBy(frame.m_frame).empty());
+}
+
 TEST(WindowFreezing, PopUpsStayAboveThePicture) {
     Frame frame;
     CWnd popup;

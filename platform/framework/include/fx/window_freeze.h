@@ -14,9 +14,9 @@ namespace fx {
 /// at once. For changes that repaint many windows one after the other, such as another look or another language.
 ///
 /// Frames are the visible top-level windows with children and a caption or a sizing border, floating panes among them;
-/// pop-ups are not. One inside another does nothing. Where the system has no room for a picture, the window is seen
-/// changing. Windows may be moved, hidden and destroyed meanwhile. It belongs to the thread that made it, and is for
-/// fractions of a second: who waits for input in it shows old pictures.
+/// pop-ups are not. One inside another does nothing, nor does one in the middle of a painting. Where the system has no
+/// room for a picture, the window is seen changing. Windows may be moved, hidden and destroyed meanwhile. It belongs to
+/// the thread that made it, and is for fractions of a second: who waits for input in it shows old pictures.
 class FRAMEWORK_API WindowFreeze {
 public:
     WindowFreeze();
