@@ -2,7 +2,6 @@
 
 #include <afxribbonbar.h>
 #include <afxribbonpanelmenu.h>
-#include <afxribbonstatusbar.h>
 #include <afxvisualmanager.h>
 
 #include <algorithm>
@@ -17,23 +16,18 @@ IMPLEMENT_DYNCREATE(CMFCRibbonSeparator, CMFCRibbonBaseElement)
 namespace {
 constexpr int kThickness = 8; // at 96 DPI, with the space on both sides of the line
 
-/// The separator's own place, moved to the middle of what lies between its neighbours: a bar may leave more room on one
-/// side than on the other.
-CRect BetweenNeighbours(const CRect& place, CMFCRibbonStatusBar& bar) {
+/// The separator's own place, moved to the middle of what lies between its neighbours on the bar: one that leaves more
+/// room on one side than on the other is a status bar, in its extended area.
+CRect BetweenNeighbours(const CRect& place, const CMFCRibbonBar& bar) {
+    CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*> elements;
+    bar.GetBarElements(elements);
     LONG before = LONG_MIN, behind = LONG_MAX;
-    const auto look = [&](const CMFCRibbonBaseElement& element) {
-        const CRect rect = element.GetRect();
-        if (rect.IsRectEmpty()) {
-            return;
+    for (INT_PTR index = 0; index < elements.GetSize(); ++index) {
+        const CRect rect = elements[index]->GetRect();
+        if (!rect.IsRectEmpty()) {
+            before = rect.right <= place.left ? std::max(before, rect.right) : before;
+            behind = rect.left >= place.right ? std::min(behind, rect.left) : behind;
         }
-        before = rect.right <= place.left ? std::max(before, rect.right) : before;
-        behind = rect.left >= place.right ? std::min(behind, rect.left) : behind;
-    };
-    for (int index = 0; index < bar.GetCount(); ++index) {
-        look(*bar.GetElement(index));
-    }
-    for (int index = 0; index < bar.GetExCount(); ++index) {
-        look(*bar.GetExElement(index));
     }
     CRect moved = place;
     // From the first or the last one no way leads to a neighbour; the two areas of the bar are none of each other.
@@ -76,8 +70,8 @@ void CMFCRibbonSeparator::OnDraw(CDC* pDC) {
         visual->OnDrawRibbonQuickAccessToolBarSeparator(pDC, this, m_rect);
     } else {
         CMFCRibbonBar* const bar = GetTopLevelRibbonBar();
-        auto* const status = DYNAMIC_DOWNCAST(CMFCRibbonStatusBar, bar);
-        const CRect place = status != nullptr ? BetweenNeighbours(m_rect, *status) : m_rect;
+        const bool isOnBar = bar != nullptr && GetParentPanel() == nullptr;
+        const CRect place = isOnBar ? BetweenNeighbours(m_rect, *bar) : m_rect;
         visual->OnDrawSeparator(pDC, bar, place, !m_bIsHoriz);
     }
 }
