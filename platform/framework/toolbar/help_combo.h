@@ -1,12 +1,12 @@
 #pragma once
 
-#include "afxtoolbarcomboboxbutton.h"
+#include "toolbar/help_field.h"
 
 namespace toolbar {
 
 /// The field of a menu bar in which the user asks for help (CMFCMenuBar::EnableHelpCombobox). The bar places it; in a
 /// vertical one it has no room. It is not among the buttons that users' settings keep.
-class HelpCombo : public CMFCToolBarComboBoxButton {
+class HelpCombo : public CMFCToolBarComboBoxButton, public HelpField {
     DECLARE_SERIAL(HelpCombo)
 
 public:
@@ -25,7 +25,8 @@ public:
     // Its windows move once, when the bar has found its place.
     void OnMove() override {}
     void OnSize(int) override {}
-    void Settle() { CMFCToolBarComboBoxButton::OnMove(); }
+    CMFCToolBarComboBoxButton& Combo() override { return *this; }
+    void Settle() override { CMFCToolBarComboBoxButton::OnMove(); }
 
 private:
     CString m_prompt;

@@ -2,28 +2,26 @@
 #include "afxmenubar.h"
 
 #include "toolbar/button_copy.h"
-#include "toolbar/help_combo.h"
+#include "toolbar/help_field.h"
 
 #include <algorithm>
 
-void CMFCMenuBar::EnableHelpCombobox(UINT uiID, LPCTSTR lpszPrompt, int nComboBoxWidth) {
-    if (const int index = ButtonToIndex(GetHelpCombobox()); index >= 0) {
-        RemoveButton(index);
-    }
-    if (uiID != 0) {
-        // Behind all others, so that the menu's own buttons keep their indexes.
-        InsertButton(new toolbar::HelpCombo(uiID, CString(lpszPrompt), nComboBoxWidth));
-    }
-    AdjustLayout();
-}
+namespace {
 
-CMFCToolBarComboBoxButton* CMFCMenuBar::GetHelpCombobox() {
-    for (int i = 0; i < GetCount(); ++i) {
-        if (auto* const help = DYNAMIC_DOWNCAST(toolbar::HelpCombo, GetButton(i))) {
-            return help->IsHidden() ? nullptr : help;
+toolbar::HelpField* HelpFieldOf(const CMFCMenuBar& bar) {
+    for (int i = 0; i < bar.GetCount(); ++i) {
+        if (auto* const help = dynamic_cast<toolbar::HelpField*>(bar.GetButton(i))) {
+            return help->Combo().IsHidden() ? nullptr : help;
         }
     }
     return nullptr;
+}
+
+} // namespace
+
+CMFCToolBarComboBoxButton* CMFCMenuBar::GetHelpCombobox() {
+    toolbar::HelpField* const help = HelpFieldOf(*this);
+    return help ? &help->Combo() : nullptr;
 }
 
 std::unique_ptr<CMFCToolBarButton> CMFCMenuBar::CopyOfHelpCombo() {
@@ -33,7 +31,7 @@ std::unique_ptr<CMFCToolBarButton> CMFCMenuBar::CopyOfHelpCombo() {
 
 // At the right edge of its row, before the buttons of a maximised child.
 void CMFCMenuBar::PlaceHelpCombo() {
-    auto* const help = static_cast<toolbar::HelpCombo*>(GetHelpCombobox());
+    toolbar::HelpField* const help = HelpFieldOf(*this);
     if (!help) {
         return;
     }
@@ -44,9 +42,10 @@ void CMFCMenuBar::PlaceHelpCombo() {
         for (int i = 0; i < GetSystemButtonsCount(); ++i) {
             right = std::min(right, GetSystemButton(static_cast<UINT>(i), FALSE)->Rect().left);
         }
-        CRect place = help->Rect();
+        CMFCToolBarComboBoxButton& combo = help->Combo();
+        CRect place = combo.Rect();
         place.MoveToX(std::max(place.left, right - place.Width()));
-        help->SetRect(place);
+        combo.SetRect(place);
     }
     help->Settle();
 }

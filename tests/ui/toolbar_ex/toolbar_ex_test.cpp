@@ -51,9 +51,14 @@ TEST_F(FlatToolBar, IsPaintedAsEverUnderAnotherManager) {
 
 TEST_F(FlatToolBar, ManagerThatComesWhileItPaintsIsLeftAlone) {
     CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CQKVisualManagerOffice2007Black));
-    m_bar->m_onFill = [](CDC*) { CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007)); };
+    int fills = 0;
+    m_bar->m_onFill = [&fills](CDC*) {
+        ++fills;
+        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+    };
     PaintInMemory();
     m_bar->m_onFill = nullptr;
+    EXPECT_LE(fills, 4) << "each painting asks for another one";
     EXPECT_FALSE(CMFCVisualManager::GetInstance()->IsKindOf(RUNTIME_CLASS(CQKVisualManagerOffice2007Black)));
 }
 
