@@ -23,7 +23,15 @@ add_custom_command(OUTPUT ${boost_folder}.stamp
   COMMAND ${PROJECT_SOURCE_DIR}/scripts/copy-boost ${CMAKE_CXX_COMPILER} ${BARWRIGHT_BOOST_INCLUDE} ${boost_folder}
   COMMAND ${CMAKE_COMMAND} -E touch ${boost_folder}.stamp
   DEPENDS ${PROJECT_SOURCE_DIR}/scripts/copy-boost VERBATIM)
-add_custom_target(package_files ALL DEPENDS ${boost_folder}.stamp)
+# The guides, whose links into this tree lead to where the package has those files.
+set(guides_folder ${PROJECT_BINARY_DIR}/package/guides)
+file(GLOB_RECURSE guides CONFIGURE_DEPENDS docs/*)
+add_custom_command(OUTPUT ${guides_folder}.stamp
+  COMMAND ${PROJECT_SOURCE_DIR}/scripts/package-docs ${guides_folder}
+  COMMAND ${CMAKE_COMMAND} -E touch ${guides_folder}.stamp
+  DEPENDS ${PROJECT_SOURCE_DIR}/scripts/package-docs ${guides} README.md CHANGELOG.md LICENSE
+  WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} VERBATIM)
+add_custom_target(package_files ALL DEPENDS ${boost_folder}.stamp ${guides_folder}.stamp)
 add_dependencies(package_files demo_files) # the viewer's, which is installed as an example
 install(DIRECTORY ${boost_folder}/ DESTINATION ${include_folder}/boost_headers)
 target_include_directories(boost_headers SYSTEM INTERFACE $<INSTALL_INTERFACE:${include_folder}/boost_headers>)
@@ -59,8 +67,7 @@ foreach(folder cfg lang data pic)
           PATTERN skin/black EXCLUDE PATTERN skin/silver EXCLUDE)
 endforeach()
 install(DIRECTORY ${DEPS_DIR}/json-include/nlohmann/ DESTINATION ${viewer_folder}/json/nlohmann)
-install(FILES README.md CHANGELOG.md LICENSE DESTINATION share/doc/barwright)
-install(DIRECTORY docs/ DESTINATION share/doc/barwright/docs)
+install(DIRECTORY ${guides_folder}/ DESTINATION share/doc/barwright)
 
 # What the bought parts ask for: their licences go where they go.
 function(barwright_install_licence name)

@@ -35,6 +35,7 @@ function(build_example folder flags)
 endfunction()
 
 run("the installation" ${CMAKE_COMMAND} --install ${TREE} --prefix ${prefix})
+run("the check of the guides' links" ${CMAKE_CURRENT_LIST_DIR}/../scripts/package-docs --check ${prefix})
 build_example(host -O2 example_host.exe cfg/ribbon.xml)
 build_example(viewer -O0 viewer.exe cfg/ribbon.xml lang/en lang/zh-CN lang/he data/coast.bin pic/skin/icon)
 
