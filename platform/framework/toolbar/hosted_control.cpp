@@ -57,17 +57,6 @@ void ShowControl(CWnd& control, bool isShown) {
     }
 }
 
-CMFCToolBarButton* ButtonWith(const CMFCToolBar& bar, HWND control) {
-    for (POSITION position = bar.GetAllButtons().GetHeadPosition(); position;) {
-        const auto* const object = static_cast<const CMFCToolBarButton*>(bar.GetAllButtons().GetNext(position));
-        auto* const button = const_cast<CMFCToolBarButton*>(object);
-        if (button->IsOwnerOf(control)) {
-            return button;
-        }
-    }
-    return nullptr;
-}
-
 void RouteNotification(CMFCToolBar& bar, HWND control, WPARAM wParam) {
     const fx::WindowGuard guard(&bar);
     CMFCToolBarButton* const button = ButtonWith(bar, control);

@@ -2,10 +2,10 @@
 #include "afxmenubar.h"
 
 #include "afxpopupmenu.h"
-#include "afxtoolbarcomboboxbutton.h"
 #include "core/letters.h"
 #include "fx/window_guard.h"
 #include "popups/user_settings.h"
+#include "toolbar/help_field.h"
 #include "toolbar/metrics.h"
 #include "window/mouse_messages.h"
 
@@ -28,7 +28,7 @@ bool IsOnTheWay(const CMFCToolBarButton* button) {
 }
 
 /// The field for help has the keyboard for itself, and no menu.
-bool IsField(const CMFCToolBarButton* button) { return DYNAMIC_DOWNCAST(CMFCToolBarComboBoxButton, button) != nullptr; }
+bool IsField(const CMFCToolBarButton* button) { return dynamic_cast<const toolbar::HelpField*>(button) != nullptr; }
 
 bool IsModifier(WPARAM key) { return key == VK_SHIFT || key == VK_CONTROL; }
 
@@ -172,8 +172,9 @@ BOOL CMFCMenuBar::TranslateChar(UINT nChar) {
 
 BOOL CMFCMenuBar::OnWalkKey(UINT key) {
     CMFCToolBarButton* const button = GetButton(m_iHighlighted);
-    if (IsField(button) && (key == VK_RETURN || key == VK_DOWN || key == VK_UP)) {
-        CEdit* const edit = static_cast<CMFCToolBarComboBoxButton*>(button)->GetEditCtrl();
+    auto* const field = dynamic_cast<toolbar::HelpField*>(button);
+    if (field && (key == VK_RETURN || key == VK_DOWN || key == VK_UP)) {
+        CEdit* const edit = field->Combo().GetEditCtrl();
         EndKeyboard();
         if (edit && edit->GetSafeHwnd()) {
             edit->SetFocus();
