@@ -6,6 +6,8 @@
 
 #include <string>
 
+class CMFCToolBarImages;
+
 /// A ribbon button whose pictures are icon files, read at every paint and released afterwards. It has up to two files,
 /// large (32 x 32) and small (16 x 16), each with an alternate that the skin style "0" selects: the path with every
 /// "modle" replaced by "modle_0". Its text is a translation key (section "Common"), looked up
