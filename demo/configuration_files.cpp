@@ -45,8 +45,9 @@ std::vector<std::wstring> FindBrokenFiles(const std::wstring& language) {
         }
     }
     // A language without one of its tables would show keys instead of texts.
+    const std::wstring tables = folder + L"lang\\" + language + L"\\";
     for (const wchar_t* const table : kTables) {
-        Check(folder + L"lang\\" + language + L"\\" + table, broken);
+        Check(tables + table, broken);
     }
     return broken;
 }

@@ -82,6 +82,7 @@ struct Selection {
 /// In the order in which a program loads them.
 std::vector<FileToRead> InOrder(const std::vector<std::wstring>& paths) {
     std::vector<FileToRead> files;
+    files.reserve(paths.size());
     for (const std::wstring& path : paths) {
         files.push_back({path, KindOfFile(path)});
     }

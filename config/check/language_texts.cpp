@@ -195,13 +195,18 @@ bool EndsWith(std::wstring_view name, std::wstring_view end) {
     return name.size() > end.size() && varnhold::EqualsIgnoringCase(name.substr(name.size() - end.size()), end);
 }
 
+std::wstring InLanguageFolder(const std::wstring& code, const std::wstring& name) {
+    return L"lang\\" + code + L'\\' + name;
+}
+
 /// Files that were meant to be tables, and that nobody reads.
 void ReportUnread(const InstallationFiles& files, const std::wstring& folder, bool isOfLanguage,
                   DiagnosticsSink& sink) {
+    const std::wstring start = folder + L'\\';
     for (const std::wstring& name : files.FilesIn(folder)) {
         const bool isOtherName = EndsWith(name, L".xliff");
         if (isOtherName || (!isOfLanguage && IsTableName(name))) {
-            ReportTogether(sink, *files.Find(folder + L'\\' + name), {1, 1}, "bad-table",
+            ReportTogether(sink, *files.Find(start + name), {1, 1}, "bad-table",
                            L"this is not read: tables have the extension .xlf and lie in the folder of their language",
                            isOtherName ? L"give it the extension .xlf" : L"put it into the folder of its language");
         }
@@ -228,7 +233,7 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
         for (const std::wstring& name : files.FilesIn(L"lang\\" + code)) {
             if (IsTableName(name)) {
                 isLanguage = true;
-                reader.Read(*files.Find(L"lang\\" + code + L'\\' + name));
+                reader.Read(*files.Find(InLanguageFolder(code, name)));
             }
         }
         reader.ReportOtherLanguages();
