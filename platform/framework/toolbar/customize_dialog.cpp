@@ -101,7 +101,7 @@ void CMFCToolBarsCustomizeDialog::AddPages(const CList<CRuntimeClass*, CRuntimeC
     for (POSITION position = custom != nullptr ? custom->GetHeadPosition() : nullptr; position != nullptr;) {
         std::unique_ptr<CObject> made(custom->GetNext(position)->CreateObject());
         if (auto* const page = DYNAMIC_DOWNCAST(CPropertyPage, made.get())) {
-            made.release();
+            static_cast<void>(made.release()); // the list's from here on
             m_ownPages.emplace_back(page);
         }
     }
