@@ -44,7 +44,7 @@ bool CAboutBox::Show(CWnd& owner, const std::wstring& title) {
     if (!Make(owner, title, style, CSize(1, 1)) || !MakeControls(title)) {
         return false;
     }
-    const CSize size = Place(true);
+    const CSize size = PlaceControls();
     CRect outer(CPoint(0, 0), size), around;
     ::AdjustWindowRectEx(outer, style, FALSE, 0);
     owner.GetWindowRect(around);
@@ -76,8 +76,7 @@ bool CAboutBox::MakeControls(const std::wstring& title) {
     return AddButton(m_close, IDOK, ViewerText("ButtonOk"));
 }
 
-/// The size that all of it needs.
-CSize CAboutBox::Place(bool isMoving) {
+CSize CAboutBox::PlaceControls() {
     const int margin = Scaled(kMargin), gap = Scaled(kGap), row = RowHeight();
     const int left = margin + Scaled(kIconSide) + gap + gap / 2;
     const int right = left + Scaled(kTextWidth);
@@ -88,25 +87,20 @@ CSize CAboutBox::Place(bool isMoving) {
         dc.DrawText(TextOf(m_text).c_str(), needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
         dc.SelectObject(before);
     }
-    const auto move = [isMoving](CWnd& control, int x, int y, int width, int height) {
-        if (isMoving) {
-            control.MoveWindow(x, y, width, height);
-        }
-    };
     int top = margin;
-    move(m_icon, margin, top, Scaled(kIconSide), Scaled(kIconSide));
-    move(m_name, left, top, right - left, row);
+    m_icon.MoveWindow(margin, top, Scaled(kIconSide), Scaled(kIconSide));
+    m_name.MoveWindow(left, top, right - left, row);
     top += row;
-    move(m_text, left, top, right - left, needed.Height());
+    m_text.MoveWindow(left, top, right - left, needed.Height());
     top += needed.Height() + gap;
     for (CButton& link : m_links) {
         const int width = static_cast<int>(ButtonSize(static_cast<UINT>(link.GetDlgCtrlID())).cx);
-        move(link, left, top, width, row);
+        link.MoveWindow(left, top, width, row);
         top += row;
     }
     top += gap;
     const int width = std::max(Scaled(kLeastButton), static_cast<int>(ButtonSize(IDOK).cx));
-    move(m_close, right - width, top, width, row);
+    m_close.MoveWindow(right - width, top, width, row);
     return {right + margin, top + row + margin};
 }
 

@@ -22,7 +22,9 @@ private:
     static constexpr std::size_t kLinks = 2;
 
     bool MakeControls(const std::wstring& title);
-    CSize Place(bool isMoving);
+    /// Puts all of them in their places, and returns the room that they take with the margins round it, in screen
+    /// pixels.
+    CSize PlaceControls();
 
     CStatic m_icon;
     CStatic m_name;
