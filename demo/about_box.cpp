@@ -44,13 +44,7 @@ bool CAboutBox::Show(CWnd& owner, const std::wstring& title) {
     if (!Make(owner, title, style, CSize(1, 1)) || !MakeControls(title)) {
         return false;
     }
-    const CSize size = PlaceControls();
-    CRect outer(CPoint(0, 0), size), around;
-    ::AdjustWindowRectEx(outer, style, FALSE, 0);
-    owner.GetWindowRect(around);
-    const CPoint middle = around.CenterPoint();
-    SetWindowPos(nullptr, middle.x - outer.Width() / 2, middle.y - outer.Height() / 2, outer.Width(), outer.Height(),
-                 SWP_NOZORDER);
+    FitInside(PlaceControls());
     m_close.SetFocus();
     Run();
     return true;

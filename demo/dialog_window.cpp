@@ -67,6 +67,15 @@ bool CDialogWindow::Make(CWnd& owner, const std::wstring& title, DWORD style, CS
     return true;
 }
 
+void CDialogWindow::FitInside(CSize size) {
+    CRect outer(CPoint(0, 0), size), around;
+    ::AdjustWindowRectEx(outer, GetStyle(), FALSE, 0);
+    GetOwner()->GetWindowRect(around);
+    const CPoint middle = around.CenterPoint();
+    SetWindowPos(nullptr, middle.x - outer.Width() / 2, middle.y - outer.Height() / 2, outer.Width(), outer.Height(),
+                 SWP_NOZORDER);
+}
+
 int CDialogWindow::Run(const std::function<void()>& finish) {
     CWnd* const owner = GetOwner();
     owner->EnableWindow(FALSE);

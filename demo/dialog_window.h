@@ -44,6 +44,9 @@ protected:
 
     /// Hidden, in the middle of the owner; `size` is that of the inside, in pixels. False: there is none.
     bool Make(CWnd& owner, const std::wstring& title, DWORD style, CSize size);
+    /// Gives the inside that size, in pixels, in the middle of the owner: for a window that knows what it needs when
+    /// its controls are made.
+    void FitInside(CSize size);
     /// Shows it and waits: the number that it was ended with by EndModalLoop, IDCANCEL when it was closed. `finish` is
     /// called when it is known and the controls are still there.
     int Run(const std::function<void()>& finish = {});

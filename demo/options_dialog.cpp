@@ -102,13 +102,7 @@ std::optional<ViewerOptions> COptionsDialog::Ask(CWnd& owner) {
     if (!Make(owner, ViewerText("OptionsTitle"), style, CSize(1, 1)) || !MakeControls()) {
         return std::nullopt;
     }
-    const CSize size = Place(false);
-    CRect outer(CPoint(0, 0), size), around;
-    ::AdjustWindowRectEx(outer, style, FALSE, 0);
-    owner.GetWindowRect(around);
-    const CPoint middle = around.CenterPoint();
-    SetWindowPos(nullptr, middle.x - outer.Width() / 2, middle.y - outer.Height() / 2, outer.Width(), outer.Height(),
-                 SWP_NOZORDER);
+    FitInside(Place(false));
     Place(true);
     ShowChosen();
     m_lists[0].SetFocus();
