@@ -18,10 +18,6 @@ bool StartsWith(std::wstring_view name, std::wstring_view start) {
     return varnhold::EqualsIgnoringCase(name.substr(0, start.size()), start);
 }
 
-bool EndsWith(std::wstring_view name, std::wstring_view end) {
-    return name.size() > end.size() && varnhold::EqualsIgnoringCase(name.substr(name.size() - end.size()), end);
-}
-
 /// In cfg, by kind and then by name.
 std::vector<std::wstring> FilesThatEndIn(const InstallationFiles& files, std::wstring_view end) {
     std::vector<std::wstring> found;
@@ -43,6 +39,10 @@ std::vector<std::wstring> ConfigurationFiles(const InstallationFiles& files) {
 
 std::vector<std::wstring> FilesOfOtherEndings(const InstallationFiles& files) {
     return FilesThatEndIn(files, std::wstring(kExtension) + std::wstring(kEditorsEnding));
+}
+
+bool EndsWith(std::wstring_view name, std::wstring_view end) {
+    return name.size() > end.size() && varnhold::EqualsIgnoringCase(name.substr(name.size() - end.size()), end);
 }
 
 bool IsTableName(std::wstring_view name) { return EndsWith(name, L".xlf"); }

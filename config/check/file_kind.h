@@ -15,6 +15,9 @@ std::vector<std::wstring> FilesOfOtherEndings(const InstallationFiles& files);
 /// The kind of that name, as a file's name begins with it ("ribbon", "menu", "toolbar"); none of another.
 std::optional<ConfigurationKind> KindNamed(std::wstring_view name);
 
+/// Whether a file's name has that ending, and something before it. Letter case says nothing, as in the file system.
+bool EndsWith(std::wstring_view name, std::wstring_view end);
+
 /// Whether the name is that of a translation table.
 bool IsTableName(std::wstring_view name);
 

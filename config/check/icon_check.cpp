@@ -1,6 +1,7 @@
 #include "config/check/icon_check.h"
 
 #include "commands/resource_paths.h"
+#include "config/check/file_kind.h"
 #include "config/element_kind.h"
 #include "config/suggestion.h"
 #include "elements/icon_header.h"
@@ -50,12 +51,6 @@ std::vector<int> SidesOf(const MetElement& element) {
 std::wstring FolderOf(const std::wstring& path) {
     const std::size_t slash = path.rfind(L'\\');
     return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
-}
-
-bool IsIconName(std::wstring_view name) {
-    constexpr std::wstring_view extension = L".ico";
-    return name.size() >= extension.size() &&
-           varnhold::EqualsIgnoringCase(name.substr(name.size() - extension.size()), extension);
 }
 
 enum class IconState { Fine, NoIcon, TooLarge, TooSmall };
@@ -223,7 +218,7 @@ private:
     std::wstring OtherFormatOf(const std::wstring& missing) const {
         const std::size_t slash = missing.rfind(L'\\');
         const std::wstring_view name = std::wstring_view(missing).substr(slash + 1);
-        if (!IsIconName(name)) {
+        if (!EndsWith(name, L".ico")) {
             return {};
         }
         const std::wstring_view stem = name.substr(0, name.rfind(L'.') + 1);

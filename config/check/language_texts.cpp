@@ -191,10 +191,6 @@ private:
     std::map<std::string, std::map<std::wstring, PlacedText>> m_otherTexts;
 };
 
-bool EndsWith(std::wstring_view name, std::wstring_view end) {
-    return name.size() > end.size() && varnhold::EqualsIgnoringCase(name.substr(name.size() - end.size()), end);
-}
-
 std::wstring InLanguageFolder(const std::wstring& code, const std::wstring& name) {
     return L"lang\\" + code + L'\\' + name;
 }
