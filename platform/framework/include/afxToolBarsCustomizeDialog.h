@@ -112,7 +112,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    using CPropertySheet::Create;
+    /// A sheet's own way to its window, which this one takes itself. Without default arguments, so that Create() is one.
+    BOOL Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) override;
 
     void AddFrameMenu();
     void AddPages(const CList<CRuntimeClass*, CRuntimeClass*>* custom);

@@ -110,6 +110,10 @@ void CMFCToolBarsCustomizeDialog::AddPages(const CList<CRuntimeClass*, CRuntimeC
     }
 }
 
+BOOL CMFCToolBarsCustomizeDialog::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) {
+    return CPropertySheet::Create(pParentWnd, dwStyle, dwExStyle);
+}
+
 BOOL CMFCToolBarsCustomizeDialog::Create() {
     CFrameWnd* const frame = Frame();
     m_isOpen = frame != nullptr && CMFCToolBar::SetCustomizeMode(TRUE);
