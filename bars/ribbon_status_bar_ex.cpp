@@ -3,6 +3,7 @@
 
 #include "add_ribbon_bar.h"
 #include "bars/status_bar_layout.h"
+#include "elements/icon_file.h"
 #include "library_context.h"
 #include "menu_id_mgr.h"
 #include "ribbon_icon_button.h"
@@ -36,11 +37,8 @@ constexpr int kSliderWidth = 50; // of one that names none
 
 bool IsSameName(const wchar_t* one, const wchar_t* other) { return ::lstrcmpiW(one, other) == 0; }
 
-bool IsIconFile(const CString& path) {
-    const auto icon =
-        static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, kIconSide, kIconSide, LR_LOADFROMFILE));
-    return icon != nullptr && ::DestroyIcon(icon);
-}
+/// Whether the button will have a picture: the file is looked at as the button does when it draws.
+bool IsIconFile(const CString& path) { return FileIcon(path, kIconSide, kIconSide).Get() != nullptr; }
 
 std::unique_ptr<Element> MakeButton(UINT id, const Record& record) {
     const CString icon = GetIconPathStr(record.picPath, kIconSide);

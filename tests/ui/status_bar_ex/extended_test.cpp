@@ -130,6 +130,36 @@ TEST_F(CreateAllExBtns, AButtonWhoseIconCannotBeLoadedHasItsText) {
     EXPECT_STREQ(bar.GetExElement(1)->GetText(), L"Broken");
 }
 
+TEST_F(CreateAllExBtns, AButtonWhoseIconLiesOutsideOfTheInstallationHasItsText) {
+    Register(L"Light", 503);
+    const CString usual = GetIconPathStr(L"", 16);
+    const ScopedAppPath app(std::wstring(usual.Left(usual.GetLength() - 3)) + L"app\\"); // without "\16"
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {{L"app\\pic\\..\\inside.ico", L""},
+                                                               {L"app\\..\\outside.ico", L"Light"},
+                                                               {L"app\\pic\\..\\..\\outside.ico", L"Light"},
+                                                               {L"app\\pic/../../../outside.ico", L"Light"}};
+    for (const auto& [path, text] : cases) {
+        WriteIcon16(path); // a sound one
+        Record record = Row(L"Light", L"button", L"Light");
+        record.picPath = path;
+        Application(L"one", {record});
+        bar.RemoveAllEx();
+        bar.CreateAllExBtns();
+        ASSERT_EQ(bar.GetExCount(), 1);
+        EXPECT_STREQ(bar.GetExElement(0)->GetText(), text) << path;
+    }
+}
+
+TEST_F(CreateAllExBtns, AButtonWhoseIconIsTooLargeHasItsText) {
+    Register(L"Light", 503);
+    WriteIcon16(L"pic\\large.ico", MakeIconFile({{1032, {0xC81E1E, 0xC81E1E}}}));
+    Record record = Row(L"Light", L"button", L"Light");
+    record.picPath = L"pic\\large.ico";
+    Application(L"one", {record});
+    bar.CreateAllExBtns();
+    EXPECT_STREQ(bar.GetExElement(0)->GetText(), L"Light");
+}
+
 TEST_F(CreateAllExBtns, AButtonIsInSmallMode) {
     Register(L"Light", 503);
     Application(L"one", {Row(L"Light", L"button")});
