@@ -21,6 +21,15 @@ constexpr int kContextMenuShown = -11;
 constexpr UINT kCustomizeText = 17096;
 constexpr wchar_t kChangeSkinText[] = L"更改皮肤";
 
+/// Posts a command without notification code and control. WM_COMMAND has 16 bits for it: a larger id would arrive as
+/// another command, so that it is not sent.
+void PostCommand(HWND receiver, UINT id) {
+    constexpr UINT kLargestSent = 0xFFFF;
+    if (id <= kLargestSent) {
+        ::PostMessageW(receiver, WM_COMMAND, MAKEWPARAM(id, 0), 0);
+    }
+}
+
 CPoint CursorOn(const CWnd& window) {
     CPoint point(-1, -1);
     ::GetCursorPos(&point);
@@ -48,7 +57,7 @@ void CMFCRibbonBarEx::OnLButtonDown(UINT nFlags, CPoint point) {
         return;
     }
     const CWnd* const owner = GetOwner(); // the parent where none was set
-    ::PostMessageW(owner->GetSafeHwnd(), WM_COMMAND, MAKEWPARAM(category->GetID(), 0), 0);
+    PostCommand(owner->GetSafeHwnd(), category->GetID());
 }
 
 CMFCRibbonBaseElement* CMFCRibbonBarEx::GetCursonOn(int mustBeEnabled) {
@@ -78,7 +87,7 @@ BOOL CMFCRibbonBarEx::OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibb
     m_menuSubject = pWnd == this ? pHit : nullptr;
     const UINT chosen = afxContextMenuManager->TrackPopupMenu(m_hContextMenu, x, y, mainWindow);
     if (receiver.IsAlive()) {
-        ::PostMessageW(receiver.Handle(), WM_COMMAND, MAKEWPARAM(chosen, 0), 0);
+        PostCommand(receiver.Handle(), chosen);
     }
     // Everything may have gone while the menu was open, and goes perhaps with the command.
     if (bar.IsGone() || m_menuSubject == nullptr) {

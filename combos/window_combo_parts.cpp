@@ -82,7 +82,8 @@ HWND HostOf(const CComboBox& combo) {
 
 void TellParent(const CComboBox& combo, UINT code) {
     const HWND parent = ::GetParent(combo.m_hWnd);
-    if (parent) {
+    constexpr int kLargestSent = 0xFFFF; // a larger id would arrive as another command
+    if (parent && combo.GetDlgCtrlID() <= kLargestSent) {
         ::SendMessageW(parent, WM_COMMAND, MAKEWPARAM(combo.GetDlgCtrlID(), code),
                        reinterpret_cast<LPARAM>(combo.m_hWnd));
     }

@@ -105,6 +105,10 @@ public:
         ACCEL* const entries = NewAccelerators(before + m_shortcuts.size());
         std::copy_n(m_creater.m_pAccel, before, entries);
         std::copy(m_shortcuts.begin(), m_shortcuts.end(), entries + before);
+        for (const std::size_t cut : m_cut) {
+            m_creater.m_cutShortcuts.push_back(static_cast<int>(before + cut));
+        }
+        m_cut.clear();
         delete[] m_creater.m_pAccel;
         m_creater.m_pAccel = entries;
         m_creater.m_nAccelCount += static_cast<int>(m_shortcuts.size());
@@ -120,6 +124,9 @@ private:
         ACCEL shortcut{};
         if (!text.empty() && CreateAccel(text, shortcut)) {
             shortcut.cmd = static_cast<WORD>(command);
+            if (shortcut.cmd != command) {
+                m_cut.push_back(m_shortcuts.size());
+            }
             m_shortcuts.push_back(shortcut);
         }
     }
@@ -132,6 +139,8 @@ private:
     std::vector<HMENU> m_menus;
     std::vector<HMENU> m_lost;
     std::vector<ACCEL> m_shortcuts;
+    /// Of them, those whose command has another's low 16 bits.
+    std::vector<std::size_t> m_cut;
 };
 
 CDynMenuCreater::CDynMenuCreater() = default;
@@ -156,6 +165,7 @@ void CDynMenuCreater::reset() {
     CreateMenu();
     m_nBeginId = m_nCurId = CMenuIdMgr::s_AddBeginID;
     m_nAccelCount = 0;
+    m_cutShortcuts.clear();
     if (const CFrameWnd* const frame = FrameWithAccelerators()) {
         const std::vector<ACCEL> entries = AcceleratorsOf(*frame);
         m_pAccel = NewAccelerators(entries.size());
@@ -247,7 +257,13 @@ void CDynMenuCreater::SetAppAccelTable() {
     if (!TakesAccelerators() || !m_pAccel) {
         return;
     }
-    InstallAccelerators(m_pAccel, m_nAccelCount);
+    std::vector<ACCEL> installed;
+    for (int index = 0; index < m_nAccelCount; ++index) {
+        if (!std::ranges::binary_search(m_cutShortcuts, index)) {
+            installed.push_back(m_pAccel[index]);
+        }
+    }
+    InstallAccelerators(installed.data(), static_cast<int>(installed.size()));
     m_pAccel = nullptr;
 }
 

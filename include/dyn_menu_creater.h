@@ -36,7 +36,8 @@ public:
     static unsigned int GetNextBeginId();
 
     /// Makes the accelerators of the main frame at the time of Load, followed by those of the file, the application's.
-    /// The first of two with the same keys counts. Once for each Load; does nothing without accelerators, or when the
+    /// The first of two with the same keys counts, and one whose command id is above 65,535 is left out: its entry has
+    /// the low 16 bits, which are another command's. Once for each Load; does nothing without accelerators, or when the
     /// application is no CWinAppEx. The entries are not released: what was handed over stays readable for ever.
     void SetAppAccelTable();
 
@@ -79,4 +80,7 @@ private:
     class Building;
 
     void DestroyOwnMenu();
+
+    /// Of m_pAccel, the indexes of entries whose command id had more than 16 bits.
+    std::vector<int> m_cutShortcuts;
 };

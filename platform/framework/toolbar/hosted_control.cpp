@@ -62,7 +62,9 @@ void RouteNotification(CMFCToolBar& bar, HWND control, WPARAM wParam) {
     CMFCToolBarButton* const button = ButtonWith(bar, control);
     const BOOL isCommand = button && button->NotifyCommand(HIWORD(wParam));
     const CWnd* const target = bar.GetRouteCommandsViaFrame() ? bar.GetTopLevelFrame() : bar.GetOwner();
-    if (target) {
+    // Of a larger id the message has the low 16 bits alone, which are another command's.
+    const bool isWhole = static_cast<UINT>(::GetDlgCtrlID(control)) == LOWORD(wParam);
+    if (target && isWhole) {
         ::SendMessageW(target->m_hWnd, WM_COMMAND, wParam, reinterpret_cast<LPARAM>(control));
     }
     if (isCommand && guard.IsAlive()) {

@@ -1,6 +1,7 @@
 #include "menu_fixture.h"
 
 #include <afxkeyboardmanager.h>
+#include <fx/scoped_change.h>
 
 namespace {
 
@@ -47,6 +48,27 @@ TEST_F(MenuShortcuts, SetAppAccelTableInstallsThemOnce) {
     const HACCEL installed = m_frame.m_hAccelTable;
     m_creater.SetAppAccelTable();
     EXPECT_EQ(m_frame.m_hAccelTable, installed);
+}
+
+TEST_F(MenuShortcuts, OneWhoseCommandNoMessageCanCarryIsKeptWithItsLow16BitsButNotInstalled) {
+    GiveFrame({{FVIRTKEY, VK_F1, 8}});
+    m_creater.reset();
+    CMenuIdMgr::s_AddBeginID = 0xFFFF;
+    ASSERT_TRUE(Load("<i KEYWORD='A' HOTKEY='Ctrl+A'/><i KEYWORD='B' HOTKEY='Ctrl+B'/>"));
+    const fx::ScopedChange asTheyAre(m_firstId, 0U); // ids as they are, not relative to the first
+    EXPECT_EQ(OfCreater(), L"01 70 8;09 41 FFFF;09 42 0;");
+    m_creater.SetAppAccelTable();
+    EXPECT_EQ(OfFrame(), L"01 70 8;09 41 FFFF;") << "the key would run the command 0";
+    EXPECT_EQ(m_creater.m_nAccelCount, 3);
+}
+
+TEST_F(MenuShortcuts, NoneOfALoadThatCannotBeCarriedHoldsBackThoseOfTheNext) {
+    CMenuIdMgr::s_AddBeginID = 0x10010;
+    ASSERT_TRUE(Load("<i KEYWORD='A' HOTKEY='Ctrl+A'/>"));
+    CMenuIdMgr::s_AddBeginID = m_firstId;
+    ASSERT_TRUE(Load("<i KEYWORD='B' HOTKEY='Ctrl+B'/>"));
+    m_creater.SetAppAccelTable();
+    EXPECT_EQ(OfFrame(), L"09 42 0;");
 }
 
 TEST_F(MenuShortcuts, WithoutAnyNothingIsInstalled) {

@@ -48,6 +48,13 @@ TEST_F(TabClicks, AnExtendedTabWithoutAnIdPostsZero) {
     EXPECT_EQ(m_frame->commands, (std::vector<SentCommand>{{0, 0, nullptr, true}}));
 }
 
+TEST_F(TabClicks, AnExtendedTabWhoseIdNoMessageCanCarryPostsNothing) {
+    static_cast<CMFCRibbonCategoryEx*>(Bar().GetCategory(2))->SetID(0x10000 + 7003);
+    Press(TabOf(2));
+    PumpPending();
+    EXPECT_TRUE(m_frame->commands.empty()) << "least of all the command of the low 16 bits";
+}
+
 TEST_F(TabClicks, TheOwnerThatWasSetGetsTheCommandInsteadOfTheParent) {
     auto* const other = new ExtendedBarFrame;
     ASSERT_TRUE(other->Create(nullptr, L"Other", WS_OVERLAPPEDWINDOW, CRect(0, 0, 100, 100)));

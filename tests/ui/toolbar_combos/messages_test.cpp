@@ -76,6 +76,22 @@ TEST_P(ToolbarMessages, AClosedCheckCombosMarkTellsCheckAndCommand) {
                                 {&PressBarAtFirstMark, once}});
 }
 
+TEST_P(ToolbarMessages, ACommandWhoseIdNoMessageCanCarryIsNotToldAsAnother) {
+    for (const ComboGesture gesture : {&ClickFirstMark, &PressSpace, &OpenAndChooseByMouse, &OpenAndTick}) {
+        ToldBar made;
+        made.Make<CMFCCheckCombo>(GetParam());
+        ASSERT_FALSE(HasFatalFailure());
+        constexpr UINT kBeyond = 0x10000 + ComboHost::comboId;
+        made.Shown()->m_nID = kBeyond;
+        ::SetWindowLongPtrW(made.Combo().m_hWnd, GWLP_ID, kBeyond);
+        gesture(made.Combo().m_hWnd);
+        PumpPending();
+        for (const std::wstring& words : made.told.heard) {
+            EXPECT_FALSE(words.starts_with(L"command")) << words.c_str();
+        }
+    }
+}
+
 TEST_P(ToolbarMessages, AClosedMultiCombosMarksAskTheFrame) {
     ExpectTold<CMFCMultiCombo>(GetParam(), {{&ClickFirstMark, {L"colour 1 0"}},
                                             {&ClickSecondMark, {L"light green 1"}},
