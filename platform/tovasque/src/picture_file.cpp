@@ -4,9 +4,11 @@
 
 #include <fx/gdi_plus.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <shlwapi.h>
+#include <span>
 
 namespace tovasque {
 
@@ -52,6 +54,28 @@ std::vector<unsigned char> ReadBytes(const std::wstring& path) {
         return {};
     }
     return bytes;
+}
+
+std::uint32_t LittleEndian(std::span<const unsigned char> bytes, std::size_t at, std::size_t count) {
+    std::uint32_t value = 0;
+    for (std::size_t index = 0; index < count && at + index < bytes.size(); ++index) {
+        value |= std::uint32_t{bytes[at + index]} << (8 * index);
+    }
+    return value;
+}
+
+/// Whether a picture of an icon file would take long to decode. Of those that are not packed none fits into kMostBytes.
+bool HasLargePicture(std::span<const unsigned char> icon) {
+    constexpr std::size_t countAt = 4, firstEntry = 6, entryBytes = 16, offsetInEntry = 12;
+    const std::size_t count = LittleEndian(icon, countAt, 2);
+    for (std::size_t entry = 0; entry < count; ++entry) {
+        const std::size_t offset = LittleEndian(icon, firstEntry + entry * entryBytes + offsetInEntry, 4);
+        const auto claimed = ClaimedPngSize(icon.subspan(std::min(offset, icon.size())));
+        if (claimed && (claimed->width > kMostPixelsASide || claimed->height > kMostPixelsASide)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 Pixels Decode(Gdiplus::Bitmap& source) {
@@ -107,10 +131,8 @@ Pixels ReadPngFile(const std::wstring& path) {
 }
 
 Pixels ReadIconShape(const std::wstring& path, int side, std::uint32_t color) {
-    WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) ||
-        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 || data.nFileSizeHigh != 0 ||
-        data.nFileSizeLow > kMostBytes || !fx::StartGdiPlus()) {
+    const std::vector<unsigned char> bytes = ReadBytes(path);
+    if (bytes.empty() || HasLargePicture(bytes) || !fx::StartGdiPlus()) {
         return {};
     }
     const auto icon = static_cast<HICON>(::LoadImageW(nullptr, path.c_str(), IMAGE_ICON, side, side, LR_LOADFROMFILE));

@@ -24,7 +24,8 @@ bool ReadPngSize(const std::vector<unsigned char>& file, int& width, int& height
 /// Reads and decodes a PNG file of that path. Empty when it is missing, a folder, cut off or too large.
 Pixels ReadPngFile(const std::wstring& path);
 
-/// Reads an icon file at that size and paints its shape in one colour, 0xFFRRGGBB. Empty when there is no such icon.
+/// Reads an icon file at that size and paints its shape in one colour, 0xFFRRGGBB. Empty when there is no such icon, or
+/// a picture of the file is larger than kMostPixelsASide.
 Pixels ReadIconShape(const std::wstring& path, int side, std::uint32_t color);
 
 /// Drawn anew at another size, smoothed.

@@ -190,6 +190,15 @@ TEST_F(SkinPictureFiles, ADropDownArrowIsTheSkinsIconInAColourThatIsSeen) {
     EXPECT_EQ(ArrowColours(), (std::set<std::uint32_t>{Pixel(RGB(167, 170, 180)), 0}));
 }
 
+TEST_F(SkinPictureFiles, ADropDownArrowIsNotReadFromAFileWithAPictureThatIsTooLarge) {
+    const std::string sound = MakeIconPicture(16, {0x00FF00, 0x00FF00});
+    for (const auto& [large, isRead] : {std::pair(1024, true), std::pair(1025, false), std::pair(20000, false)}) {
+        m_directory.Write(kArrowFile, MakeIconDirectory({sound, PngHeader(large, large)}, {16, 255}));
+        Use<OpenBlackSkin>();
+        EXPECT_EQ(ArrowColours() == (std::set<std::uint32_t>{Pixel(RGB(167, 170, 180)), 0}), isRead) << large;
+    }
+}
+
 TEST_F(SkinPictureFiles, WithoutItsIconADropDownArrowIsDrawnAllTheSame) {
     Use<OpenBlackSkin>();
     EXPECT_GT(ArrowColours().size(), 1u);
