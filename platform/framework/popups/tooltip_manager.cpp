@@ -80,11 +80,11 @@ BOOL CTooltipManager::CreateToolTip(CToolTipCtrl*& pToolTip, CWnd* pWndParent, U
     } else {
         made = new CToolTipCtrl;
     }
-    DWORD style = TTS_ALWAYSTIP;
+    // The bars give texts without key marks: every "&" is to be shown.
+    DWORD style = TTS_ALWAYSTIP | TTS_NOPREFIX;
     if (CMFCToolTipCtrl* const own = DYNAMIC_DOWNCAST(CMFCToolTipCtrl, made)) {
         own->SetOwnerType(nType);
-        // It takes key marks away itself; the system would take half of each "&&" before.
-        style |= TTS_NOPREFIX | (look.m_bBalloonTooltip ? TTS_BALLOON : 0);
+        style |= look.m_bBalloonTooltip ? TTS_BALLOON : 0;
     }
     if (made == nullptr || !made->Create(pWndParent, style)) {
         delete made;

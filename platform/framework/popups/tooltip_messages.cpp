@@ -51,7 +51,9 @@ void CMFCToolTipCtrl::UpdateParams() {
 CString CMFCToolTipCtrl::GetLabel() {
     std::vector<wchar_t> text(g_longestLabel);
     ::GetWindowTextW(m_hWnd, text.data(), g_longestLabel);
-    return CString(tooltip::WithoutKeyMarks(text.data()).c_str());
+    // Who says that "&" is no mark has given the text as it is to be shown.
+    const bool isLiteral = (GetStyle() & TTS_NOPREFIX) != 0;
+    return isLiteral ? CString(text.data()) : CString(tooltip::WithoutKeyMarks(text.data()).c_str());
 }
 
 void CMFCToolTipCtrl::OnShow(NMHDR* /*pNMHDR*/, LRESULT* pResult) {

@@ -17,6 +17,7 @@ class ShownTooltip : public CMFCToolTipCtrl {
 public:
     using CMFCToolTipCtrl::CMFCToolTipCtrl;
     using CMFCToolTipCtrl::GetIconSize;
+    using CMFCToolTipCtrl::GetLabel;
     using CMFCToolTipCtrl::m_ptMargin;
 };
 
@@ -111,6 +112,26 @@ TEST(Tooltip, IsShownWhereItsOwnerPutsIt) {
     Stage stage;
     EXPECT_EQ(stage.Show(L"Open", L"").TopLeft(), CPoint(60, 60));
     EXPECT_TRUE(stage.tooltip.IsWindowVisible());
+}
+
+TEST(Tooltip, AnAmpersandIsShownWhereItIsNoMark) {
+    Stage literal;
+    literal.Show(L"Cut & paste && go", L"");
+    EXPECT_EQ(literal.tooltip.GetLabel(), L"Cut & paste && go");
+    Stage marked;
+    marked.tooltip.ModifyStyle(TTS_NOPREFIX, 0);
+    marked.Show(L"&Cut && paste", L"");
+    EXPECT_EQ(marked.tooltip.GetLabel(), L"Cut & paste");
+}
+
+TEST(Tooltip, TextsOfBarsAreLiteralInTooltipsOfEveryKind) {
+    TestWindow window;
+    for (const UINT type : {AFX_TOOLTIP_TYPE_TOOLBAR, AFX_TOOLTIP_TYPE_RIBBON, AFX_TOOLTIP_TYPE_DOCKBAR}) {
+        CToolTipCtrl* tooltip = nullptr;
+        ASSERT_TRUE(CTooltipManager::CreateToolTip(tooltip, &window, type));
+        EXPECT_TRUE(tooltip->GetStyle() & TTS_NOPREFIX) << type;
+        CTooltipManager::DeleteToolTip(tooltip);
+    }
 }
 
 TEST(Tooltip, GrowsByItsDescription) {
