@@ -28,17 +28,6 @@ std::wstring Joined(const std::wstring& path, const std::wstring& name) {
     return path.empty() ? name : name.empty() ? path : path + kStep + name;
 }
 
-/// A menu's text without its mnemonic and its keys.
-std::wstring PlainText(std::wstring text) {
-    text.resize(std::min(text.size(), text.find(L'\t')));
-    const std::size_t bracket = text.find(L"(&");
-    if (bracket != std::wstring::npos && bracket + 3 < text.size() && text[bracket + 3] == L')') {
-        text.erase(bracket, 4);
-    }
-    text.erase(std::remove(text.begin(), text.end(), L'&'), text.end());
-    return text;
-}
-
 // ---- the ribbon
 
 bool IsPlainButton(const CMFCRibbonBaseElement& element) {
@@ -62,14 +51,14 @@ void AddElement(const CMFCRibbonBaseElement& element, const std::wstring& path, 
     CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(element.GetID()), keyword);
     const auto& items = static_cast<const CMFCRibbonButton&>(element).GetSubItems();
     for (int i = 0; i < static_cast<int>(items.GetSize()); ++i) {
-        AddElement(*items[i], Joined(path, BarText(keyword)), places);
+        AddElement(*items[i], Joined(path, PlainMenuText(BarText(keyword))), places);
     }
 }
 
 void AddCategory(CMFCRibbonCategory& category, Places& places) {
     for (int i = 0; i < category.GetPanelCount(); ++i) {
         CMFCRibbonPanel* const panel = category.GetPanel(i);
-        const std::wstring path = Joined(category.GetName(), panel->GetName());
+        const std::wstring path = Joined(PlainMenuText(category.GetName()), PlainMenuText(panel->GetName()));
         for (int j = 0; j < panel->GetCount(); ++j) {
             AddElement(*panel->GetElement(j), path, places);
         }
@@ -92,7 +81,7 @@ Places PlacesInRibbon(const CMFCRibbonBar& ribbon) {
 std::wstring ItemText(HMENU menu, int position) {
     std::array<wchar_t, 256> text = {};
     ::GetMenuStringW(menu, static_cast<UINT>(position), text.data(), static_cast<int>(text.size()), MF_BYPOSITION);
-    return PlainText(text.data());
+    return PlainMenuText(text.data());
 }
 
 void AddMenu(HMENU menu, const std::wstring& path, Places& places) {
@@ -149,7 +138,7 @@ std::vector<SearchCommand> CollectCommands(const CommandPlaces& places) {
             continue;
         }
         registry.GetCmdParam(static_cast<int>(id), parameter);
-        command.name = BarText(command.keyword);
+        command.name = PlainMenuText(BarText(command.keyword));
         if (command.name.empty() || !known.emplace(text, parameter).second) {
             continue;
         }

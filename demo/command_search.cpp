@@ -74,6 +74,22 @@ std::optional<Rank> RankOf(const SearchCommand& command, const std::vector<std::
 
 } // namespace
 
+std::wstring PlainMenuText(std::wstring text) {
+    text.resize(std::min(text.size(), text.find(L'\t')));
+    const std::size_t bracket = text.find(L"(&");
+    if (bracket != std::wstring::npos && bracket + 3 < text.size() && text[bracket + 3] == L')') {
+        text.erase(bracket, 4);
+    }
+    std::wstring plain;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        if (text[place] == L'&' && ++place == text.size()) {
+            break;
+        }
+        plain += text[place];
+    }
+    return plain;
+}
+
 std::vector<SearchHit> FindCommands(const std::vector<SearchCommand>& commands, const std::wstring& query,
                                     const SearchFold& fold) {
     const std::vector<std::wstring> words = WordsOf(fold(query));

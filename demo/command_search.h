@@ -23,6 +23,10 @@ struct SearchHit {
     std::wstring otherName; ///< The name in another language by which it was found; empty: by what is shown.
 };
 
+/// A text of a bar as it is read: without the mark of its mnemonic ("&Open", "打开(&O)") and the keys behind a
+/// tabulator; "&&" is one "&".
+std::wstring PlainMenuText(std::wstring text);
+
 /// Brings a text to the form in which texts are compared: letter case and accents taken off.
 using SearchFold = std::function<std::wstring(const std::wstring&)>;
 

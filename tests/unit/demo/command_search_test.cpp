@@ -42,6 +42,19 @@ using Keywords = std::vector<std::wstring>;
 
 } // namespace
 
+TEST(PlainMenuText, HasNeitherMarksNorKeysAndEveryDoubledAmpersandOnce) {
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {{L"&Open...\tCtrl+O", L"Open..."},
+                                                               {L"Save && &close", L"Save & close"},
+                                                               {L"\u6253\u5F00(&O)", L"\u6253\u5F00"},
+                                                               {L"A&&&&B", L"A&&B"},
+                                                               {L"End&", L"End"},
+                                                               {L"(&", L"("},
+                                                               {L"", L""}};
+    for (const auto& [text, plain] : cases) {
+        EXPECT_EQ(PlainMenuText(text), plain);
+    }
+}
+
 TEST(FindCommands, LetterCaseDoesNotMatter) { EXPECT_EQ(Found(L"zOOM iN"), (Keywords{L"ZoomIn", L"ZoomOriginal"})); }
 
 TEST(FindCommands, TheBeginningOfTheNameComesBeforeAWordInItAndThatBeforeTheInside) {
