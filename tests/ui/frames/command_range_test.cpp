@@ -60,13 +60,32 @@ TEST_F(CommandRange, ItemWhoseCommandNoMessageCanCarryIsDisabled) {
     EXPECT_TRUE(menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED);
 }
 
+/// Refuses to close, and counts.
+class StayingFrame : public Owned<CFrameWnd> {
+public:
+    int closes = 0;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_CLOSE) {
+            ++closes;
+            return 0;
+        }
+        return Owned<CFrameWnd>::WindowProc(message, wParam, lParam);
+    }
+};
+
 TEST_F(CommandRange, ExitOfTheApplicationIsEnabledAndClosesTheMainWindow) {
-    const MainWindowScope main(&m_frame);
+    StayingFrame staying;
+    staying.Create(nullptr, L"Frame", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200));
+    const MainWindowScope main(&staying);
     CMenu menu;
     menu.CreatePopupMenu();
     menu.AppendMenu(MF_STRING, ID_APP_EXIT, L"Exit");
     m_frame.SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), MAKELPARAM(0, FALSE));
     EXPECT_FALSE(menu.GetMenuState(0, MF_BYPOSITION) & MF_GRAYED);
+    m_frame.SendMessage(WM_COMMAND, ID_APP_EXIT);
+    EXPECT_EQ(staying.closes, 1);
 }
 
 /// Answers the request for help, or does not.

@@ -1,7 +1,11 @@
 // A toolbar's saved buttons that somebody has damaged: they load whole, or the bar stays as it is and says so.
+#include "afxtoolbarcomboboxbutton.h"
+#include "afxtoolbareditboxbutton.h"
 #include "afxwinappex.h"
+#include "tests/support/canvas.h"
 #include "tests/ui/toolbar/bar_frame.h"
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <random>
@@ -253,6 +257,63 @@ TEST_F(DamagedState, HundredThousandMutationsLoadWholeOrLeaveTheButtons) {
     }
     EXPECT_GT(loaded, 1000);
     EXPECT_GT(refused, 1000);
+}
+
+/// Beside the menu a combo with items and an edit box.
+class DamagedFields : public DamagedState {
+protected:
+    DamagedFields() {
+        CMFCToolBarComboBoxButton combo(3030, 1, CBS_DROPDOWN, 90);
+        for (const LPCTSTR text : {L"First", L"Second", L"Third"}) {
+            combo.AddItem(text);
+        }
+        combo.SelectItem(1, FALSE);
+        Bar().InsertButton(combo);
+        CMFCToolBarEditBoxButton edit(3031, 1, ES_AUTOHSCROLL, 80);
+        edit.SetContents(L"text");
+        Bar().InsertButton(edit);
+    }
+    void Paint() {
+        LayOut();
+        CRect client;
+        Bar().GetClientRect(client);
+        Canvas canvas(CSize(std::clamp<int>(client.Width(), 1, 2000), std::clamp<int>(client.Height(), 1, 200)));
+        Bar().DoPaint(canvas.Dc());
+    }
+};
+
+TEST_F(DamagedFields, EveryTruncatedStateIsRefusedAndTheButtonsStay) {
+    const State whole = Stored();
+    ASSERT_TRUE(Load(whole));
+    const auto before = Buttons();
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(Load(State(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)))) << length;
+        ASSERT_EQ(Buttons(), before) << length;
+    }
+}
+
+TEST_F(DamagedFields, WhateverIsLoadedCanBeLaidOutAndDrawn) {
+    const State whole = Stored();
+    Mutator mutator;
+    int loaded = 0;
+    for (int round = 0; round < 5'000; ++round) {
+        State state = whole;
+        mutator.Mutate(state);
+        if (!Load(state)) {
+            continue;
+        }
+        ++loaded;
+        Paint();
+        ASSERT_TRUE(::IsWindow(Bar().m_hWnd)) << round;
+        ASSERT_TRUE(Load(Stored())) << "round " << round;
+    }
+    EXPECT_GT(loaded, 300);
+    ASSERT_TRUE(Load(whole));
+    Paint();
+    auto* const combo = DYNAMIC_DOWNCAST(CMFCToolBarComboBoxButton, Bar().GetButton(Bar().CommandToIndex(3030)));
+    ASSERT_NE(combo, nullptr);
+    EXPECT_STREQ(combo->GetItem(), L"Second");
+    EXPECT_NE(combo->GetComboBox(), nullptr);
 }
 
 } // namespace
