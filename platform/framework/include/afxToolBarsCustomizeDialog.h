@@ -112,7 +112,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    /// A sheet's own way to its window, which this one takes itself. Without default arguments, so that Create() is one.
+    /// A sheet's own way to its window, which this one takes itself. No default arguments, so that Create() is one.
     BOOL Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle) override;
 
     void AddFrameMenu();
