@@ -72,14 +72,13 @@ Point PointOf(const Request& request) { return request.wanted.value_or(request.p
 Place PlaceOnScreen(const Request& request) {
     const Size size = request.size;
     const Rect& area = request.workArea;
-    // A pointer elsewhere says nothing of a tooltip that its owner puts beside an element.
-    const bool isAtPointer = !request.wanted || (request.ribbon && request.ribbon->Contains(request.pointer));
-    const Point reference = isAtPointer ? request.pointer : *request.wanted;
     const Point below = {request.pointer.x, request.pointer.y + request.pointerHeight};
     Place place = {request.wanted.value_or(below), request.wanted.has_value()};
-    const int lowest = std::max(reference.y + request.pointerHeight, place.corner.y) + size.height;
-    if (lowest > area.bottom) {
-        place.corner.y = (request.ribbon ? request.ribbon->top : reference.y - 1) - size.height;
+    // The pointer says whether there is room, wherever the owner wants the tooltip. Beside a ribbon that place counts,
+    // too: pushed back inside the area the tooltip would lie over the bar.
+    const int top = request.ribbon ? std::max(below.y, place.corner.y) : below.y;
+    if (top + size.height > area.bottom) {
+        place.corner.y = (request.ribbon ? request.ribbon->top : request.pointer.y - 1) - size.height;
         place.isPlaced = true;
     }
     if (place.corner.x + size.width > area.right) {

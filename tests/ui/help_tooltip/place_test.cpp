@@ -59,6 +59,14 @@ TEST_F(HelpPlace, AtTheBottomWithoutAnElementItOpensAboveThePointer) {
     EXPECT_EQ(Window().left, 100);
 }
 
+TEST_F(HelpPlace, AtTheBottomThePointerDecidesWhateverPlaceTheOwnerHasSet) {
+    m_tip.SetHotRibbonButton(nullptr);
+    m_screen.pointer = CPoint(100, m_screen.first.bottom - 5);
+    EXPECT_EQ(ResultFor(CPoint(60, 200)), 1);
+    EXPECT_EQ(Window().left, 60);
+    EXPECT_EQ(Window().bottom, m_screen.pointer.y - 1);
+}
+
 TEST_F(HelpPlace, AtTheRightEdgeItEndsOnePixelBeforeIt) {
     m_tip.SetHotRibbonButton(nullptr);
     m_screen.pointer = CPoint(m_screen.first.right - 5, 300);
@@ -73,6 +81,7 @@ TEST_F(HelpPlace, OnTheSecondMonitorItStaysThere) {
     EXPECT_EQ(ResultFor(kSystems), 1);
     EXPECT_EQ(Window().right, -1);
     EXPECT_EQ(Window().bottom, m_screen.pointer.y - 1);
+    m_screen.pointer.y = 200;
     EXPECT_EQ(ResultFor(CPoint(-1270, 100)), 1);
     EXPECT_EQ(Window().TopLeft(), CPoint(-1270, 100));
 }

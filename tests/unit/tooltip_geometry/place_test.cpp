@@ -120,11 +120,24 @@ TEST(HintPlace, ARibbonAtTheTopIsOpenedBelow) {
     EXPECT_EQ(hint::PlaceOnScreen(request).corner, (Point{480, 140}));
 }
 
-TEST(HintPlace, APointerThatRestsElsewhereDoesNotMoveATooltipThatItsOwnerPlaced) {
-    Request request = At({500, 1039});
-    request.ribbon = Rect{0, 0, 1920, 140};
-    request.wanted = Point{480, 140};
-    EXPECT_EQ(hint::PlaceOnScreen(request).corner, (Point{480, 140}));
+TEST(HintPlace, ThePointersRoomBelowDecidesWhereverTheOwnerWantsTheTooltip) {
+    const int last = kScreen.bottom - kPointerHeight - 60;
+    Request request = At({500, last});
+    request.wanted = Point{40, 300};
+    EXPECT_EQ(hint::PlaceOnScreen(request).corner, (Point{40, 300}));
+    request.pointer.y = last + 1;
+    EXPECT_EQ(hint::PlaceOnScreen(request).corner, (Point{40, last + 1 - 60 - 1}));
+    request.ribbon = Rect{0, 400, 1920, 540};
+    EXPECT_EQ(hint::PlaceOnScreen(request).corner, (Point{40, 340}));
+}
+
+TEST(HintPlace, AnOwnersPlaceBelowTheScreenIsLeftForOneAboveTheRibbon) {
+    Request request = At({500, 885});
+    request.ribbon = Rect{0, 880, 1920, 1020};
+    request.wanted = Point{480, 1020};
+    EXPECT_EQ(hint::PlaceOnScreen(request).corner, (Point{480, 820}));
+    request.ribbon.reset();
+    EXPECT_EQ(hint::PlaceOnScreen(request).corner, (Point{480, 980}));
 }
 
 TEST(HintPlace, OneLargerThanTheMonitorKeepsItsBeginning) {
