@@ -270,7 +270,8 @@ HBRUSH CMFCToolBarComboBoxButton::OnCtlColor(CDC* pDC, UINT) {
 // ---- input
 
 BOOL CMFCToolBarComboBoxButton::OnClick(CWnd*, BOOL) {
-    if (!ShowsCombo() || !g_isFlat || IsDisabledState()) {
+    // Presses on a combo box that the program has disabled come to the bar.
+    if (!ShowsCombo() || !g_isFlat || IsDisabledState() || !m_pWndCombo->IsWindowEnabled()) {
         return FALSE;
     }
     CWnd* const field = HasOwnEdit() ? static_cast<CWnd*>(m_pOwnEdit) : m_pWndCombo.get();

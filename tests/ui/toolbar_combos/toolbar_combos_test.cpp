@@ -190,6 +190,18 @@ TEST_F(CheckButton, ADisabledComboDoesNotReactToAPress) {
     EXPECT_FALSE(Shown().IsDroppedDown());
 }
 
+TEST_F(CheckButton, AComboThatTheProgramHasDisabledOpensNoListWhereAPressComesToTheBar) {
+    Combo().EnableWindow(FALSE);
+    CRect window;
+    Combo().GetWindowRect(&window);
+    for (const int x : {window.left + 5, window.right - 5}) {
+        ::SetCursorPos(x, window.CenterPoint().y);
+        EXPECT_FALSE(Shown().OnClick(&bar)) << x;
+        EXPECT_FALSE(Shown().GetCheck(1)) << x;
+        EXPECT_FALSE(Shown().IsDroppedDown()) << x;
+    }
+}
+
 using MultiButton = OnToolBar<CMFCMultiCombo>;
 
 TEST_F(MultiButton, HostsAMultiCombo) { EXPECT_NE(DYNAMIC_DOWNCAST(CMultiCombo, &Combo()), nullptr); }
