@@ -13,6 +13,16 @@ END_MESSAGE_MAP()
 
 namespace {
 
+/// Moves the buttons of a maximised child, which lie at the bar's right edge, to the left.
+void MoveChildsButtons(const CMFCMenuBar& bar, int distance) {
+    for (int i = 0; i < bar.GetSystemButtonsCount(); ++i) {
+        CMFCToolBarMenuButtonsButton* const button = bar.GetSystemButton(static_cast<UINT>(i), FALSE);
+        CRect place = button->Rect();
+        place.OffsetRect(-distance, 0);
+        button->SetRect(place);
+    }
+}
+
 /// Menus from resources, which bars go on showing until the process ends.
 void Keep(std::unique_ptr<CMenu> menu) {
     static auto& kept = *new std::vector<std::unique_ptr<CMenu>>;
@@ -66,7 +76,9 @@ void CMfcMenubarEx::AddRightButton() {
     button->CreateFromMenu(popup->m_hMenu);
     button->m_strText = text;
     button->m_bText = TRUE;
-    s_nRightBtnIndex = InsertButton(*button); // a copy
+    // Behind the menu's own, whose indexes the buttons of a maximised child do not change by coming and going.
+    const int childsFirst = ButtonToIndex(GetSystemMenu());
+    s_nRightBtnIndex = InsertButton(*button, childsFirst); // a copy
     AdjustLayout();
     if (GetSafeHwnd() != nullptr) {
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_FRAME);
@@ -84,6 +96,9 @@ void CMfcMenubarEx::AdjustLocations() {
     CRect place = button->Rect();
     place.OffsetRect(client.right - place.right, 0);
     button->SetRect(place);
+    if (IsHorizontal()) {
+        MoveChildsButtons(*this, place.Width());
+    }
 }
 
 BOOL CMfcMenubarEx::LoadState(LPCTSTR /*profileName*/, int /*index*/, UINT /*id*/) { return FALSE; }

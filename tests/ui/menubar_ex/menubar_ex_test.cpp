@@ -45,6 +45,11 @@ ON_WM_CREATE()
 ON_COMMAND_RANGE(2000, 2999, OnMenuCommand)
 END_MESSAGE_MAP()
 
+class ChildsFrame : public CMDIFrameWndEx {
+public:
+    Bar bar;
+};
+
 HMENU MenuWith(std::initializer_list<LPCWSTR> popups) {
     const HMENU menu = ::CreateMenu();
     UINT id = 2100;
@@ -293,4 +298,83 @@ TEST_F(MenubarEx, ABarWithoutAWindowMayBeBuilt) {
     bar.SetRightHMenu(m_rightMenu);
     bar.CreateFromMenu(m_menu);
     EXPECT_EQ(bar.GetCount(), 3);
+}
+
+namespace {
+
+/// The bar of an MDI frame with one child, beside whose buttons the right-hand one has to find its place.
+class MenubarExOverAChild : public ::testing::Test {
+protected:
+    MenubarExOverAChild() {
+        CMfcMenubarEx::s_nRightBtnIndex = -1;
+        m_frame->Create(nullptr, L"Menu bar", WS_OVERLAPPEDWINDOW, CRect(80, 60, 680, 460));
+        TheBar().Create(m_frame);
+        m_frame->EnableDocking(CBRS_ALIGN_ANY);
+        m_frame->DockPane(&TheBar());
+        m_frame->ShowWindow(SW_SHOWNOACTIVATE);
+        m_child->Create(nullptr, L"Child", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, CRect(0, 0, 200, 200), m_frame);
+        TheBar().SetRightHMenu(m_rightMenu);
+        Build();
+    }
+    ~MenubarExOverAChild() override {
+        m_frame->DestroyWindow();
+        PumpPending();
+        ::DestroyMenu(m_menu);
+        ::DestroyMenu(m_rightMenu);
+        CMfcMenubarEx::s_nRightBtnIndex = -1;
+    }
+    Bar& TheBar() { return m_frame->bar; }
+    void Build() {
+        TheBar().CreateFromMenu(m_menu, TRUE, TRUE);
+        PumpPending();
+    }
+    void Maximize() {
+        m_child->MDIMaximize();
+        PumpPending();
+    }
+    void Restore() {
+        m_child->MDIRestore();
+        PumpPending();
+    }
+    void ExpectHelpAtTheRightEdge() {
+        const CMFCToolBarButton* const help = TheBar().GetButton(CMfcMenubarEx::s_nRightBtnIndex);
+        ASSERT_NE(help, nullptr);
+        EXPECT_EQ(help->m_strText, L"&Help");
+        CRect client;
+        TheBar().GetClientRect(&client);
+        EXPECT_EQ(help->Rect().right, client.right);
+    }
+
+    ChildsFrame* m_frame = new ChildsFrame;
+    CMDIChildWndEx* m_child = new CMDIChildWndEx;
+    HMENU m_menu = MenuWith({L"&File", L"&Edit"});
+    HMENU m_rightMenu = MenuWith({L"&Help"});
+};
+
+} // namespace
+
+TEST_F(MenubarExOverAChild, TheRightHandButtonAndThoseOfAMaximisedChildLieBesideEachOther) {
+    Maximize();
+    ASSERT_EQ(TheBar().GetSystemButtonsCount(), 3);
+    ExpectHelpAtTheRightEdge();
+    const CRect help = TheBar().GetButton(CMfcMenubarEx::s_nRightBtnIndex)->Rect();
+    for (UINT i = 0; i < 3; ++i) {
+        CMFCToolBarButton* const button = TheBar().GetSystemButton(i, FALSE);
+        EXPECT_LE(button->Rect().right, help.left) << i;
+        EXPECT_GT(button->Rect().left, help.left - 100) << i;
+        EXPECT_EQ(TheBar().HitTest(button->Rect().CenterPoint()), TheBar().ButtonToIndex(button)) << i;
+    }
+}
+
+TEST_F(MenubarExOverAChild, ARebuildOverAMaximisedChildKeepsTheRightHandButtonAtTheRightEdgeWhenTheChildIsRestored) {
+    Maximize();
+    Build();
+    EXPECT_EQ(CMfcMenubarEx::s_nRightBtnIndex, 2);
+    ExpectHelpAtTheRightEdge();
+    Restore();
+    ASSERT_EQ(TheBar().GetSystemButtonsCount(), 0);
+    EXPECT_EQ(TheBar().GetCount(), 3);
+    ExpectHelpAtTheRightEdge();
+    Maximize();
+    ExpectHelpAtTheRightEdge();
 }
