@@ -129,6 +129,7 @@ private:
     /// Says which of the files cannot be read now; then nothing is built from them.
     bool TellBrokenFiles(const std::wstring& language);
     void Warn(const std::wstring& message);
+    void Warn(const std::wstring& message, CWnd& owner);
     void SwitchLanguage(const std::wstring& code) override;
     bool IsLanguage(const std::wstring& code) const override;
     void ShowMode(MapMode mode) override;

@@ -92,9 +92,11 @@ bool CMainFrame::TellBrokenFiles(const std::wstring& language) {
     return !broken.empty();
 }
 
-void CMainFrame::Warn(const std::wstring& message) {
+void CMainFrame::Warn(const std::wstring& message) { Warn(message, *this); }
+
+void CMainFrame::Warn(const std::wstring& message, CWnd& owner) {
     m_warnings.push_back(message);
-    QKMessageBox(message, QK_MESSAGE_WARNING, GetSafeHwnd());
+    QKMessageBox(message, QK_MESSAGE_WARNING, owner.GetSafeHwnd());
 }
 
 void CMainFrame::ReloadFiles() { SwitchLanguage(CMultiLanguageMgr::GetLanguage()); }
@@ -287,8 +289,10 @@ void CMainFrame::PrintOn(CWnd& owner, CBitmap* page) {
     const PrintOutcome outcome = page != nullptr
                                      ? ::Print(owner.GetSafeHwnd(), PagesWith(*page), ViewerText("ViewerTitle"))
                                      : PrintOutcome::Failed;
-    if (outcome == PrintOutcome::Failed) {
-        QKMessageBox(ViewerText("PrintFailed"), QK_MESSAGE_WARNING, owner.GetSafeHwnd());
+    if (outcome == PrintOutcome::NoPrinter) {
+        Warn(ViewerText("NoPrinter"), owner);
+    } else if (outcome == PrintOutcome::Failed) {
+        Warn(ViewerText("PrintFailed"), owner);
     }
 }
 
@@ -305,7 +309,7 @@ DialogLook CMainFrame::LookOfDialogs() const {
 void CMainFrame::PreviewPage() {
     RequestPage([this](CBitmap* page) {
         if (page == nullptr) {
-            QKMessageBox(ViewerText("PrintFailed"), QK_MESSAGE_WARNING, GetSafeHwnd());
+            Warn(ViewerText("PrintFailed"), *this);
             return;
         }
         const PrintPages pages = PagesWith(*page);

@@ -3,6 +3,7 @@
 #include "print_pages.h"
 
 #include <commdlg.h>
+#include <winspool.h>
 
 #include <memory>
 #include <type_traits>
@@ -17,11 +18,21 @@ struct DcDestroyer {
 };
 using OwnedDc = std::unique_ptr<std::remove_pointer_t<HDC>, DcDestroyer>;
 
+/// Of this computer, and those elsewhere that its user is connected with. The names alone: no printer is opened for
+/// them.
+bool HasPrinter() {
+    DWORD needed = 0;
+    DWORD count = 0;
+    const DWORD kinds = PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS;
+    // Without room for an answer it succeeds where there is nothing to answer.
+    return !::EnumPrintersW(kinds, nullptr, 4, nullptr, 0, &needed, &count) || count > 0;
+}
+
 /// The printer's settings as the dialog begins with them: the default ones, on a sheet that lies as the page does.
 void ProposeShape(PRINTDLGW& dialog, PageShape shape) {
     dialog.Flags = PD_RETURNDEFAULT | PD_NOWARNING;
     if (!::PrintDlgW(&dialog) || dialog.hDevMode == nullptr) {
-        return; // there is no default printer: the dialog will say so
+        return; // there is no default printer: the dialog begins with none
     }
     if (auto* const mode = static_cast<DEVMODEW*>(::GlobalLock(dialog.hDevMode))) {
         mode->dmFields |= DM_ORIENTATION;
@@ -83,11 +94,14 @@ bool PrintAll(HDC printer, const PrintPages& pages, int first, int last) {
 } // namespace
 
 PrintOutcome Print(HWND owner, const PrintPages& pages, const std::wstring& title) {
+    if (!HasPrinter()) {
+        return PrintOutcome::NoPrinter;
+    }
     PRINTDLGW dialog = {};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = owner;
     ProposeShape(dialog, pages.Shape());
-    dialog.Flags = PD_RETURNDC | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE;
+    dialog.Flags = PD_RETURNDC | PD_NOSELECTION | PD_USEDEVMODECOPIESANDCOLLATE | PD_NOWARNING;
     dialog.nMinPage = dialog.nFromPage = 1;
     dialog.nMaxPage = dialog.nToPage = static_cast<WORD>(pages.Count());
     const BOOL isChosen = ::PrintDlgW(&dialog);
@@ -95,8 +109,7 @@ PrintOutcome Print(HWND owner, const PrintPages& pages, const std::wstring& titl
     ::GlobalFree(dialog.hDevMode);
     ::GlobalFree(dialog.hDevNames);
     if (!isChosen) {
-        const bool isTold = error == PDERR_NODEFAULTPRN; // by the dialog itself
-        return error == 0 || isTold ? PrintOutcome::Cancelled : PrintOutcome::Failed;
+        return error == 0 ? PrintOutcome::Cancelled : PrintOutcome::Failed;
     }
     const OwnedDc printer(dialog.hDC);
     DOCINFOW document = {};

@@ -8,7 +8,7 @@ import sys
 import tempfile
 import unittest
 
-from viewer import Viewer
+from viewer import Viewer, text_of
 
 BIN_DIR = ""
 
@@ -74,6 +74,48 @@ class Skins(unittest.TestCase):
                 self.assertEqual(most < 128, is_dark, f"the ground has {most}")
                 viewer.click_part("close")
                 viewer.wait_for_closed()
+
+
+class WithoutAPrinter(unittest.TestCase):
+    """A system without any printer, as the tests' one is."""
+
+    def answer(self, viewer, language):
+        """Reads the message that stands above the frame, and gives the record after it has gone."""
+        title = text_of(BIN_DIR, language, "ViewerTitle")
+        count = len(viewer.record["warnings"])
+        viewer.wait_until(lambda: len(viewer.windows(title)) > 1, "a message is shown")
+        viewer.key("Return")
+        record = viewer.wait_for(lambda record: len(record["warnings"]) == count + 1)
+        viewer.wait_until(lambda: len(viewer.windows(title)) == 1, "it was the only one")
+        return record
+
+    def check(self, language):
+        with DialogViewer(BIN_DIR, "--lang", language, "--mode", "print") as viewer:
+            viewer.key("ctrl+p")
+            record = self.answer(viewer, language)
+            self.assertEqual(record["warnings"], [text_of(BIN_DIR, language, "NoPrinter")])
+            viewer.key("ctrl+i")  # it goes on
+            viewer.wait_for(lambda now: now["map"]["pixelsPerDegree"] > record["map"]["pixelsPerDegree"])
+
+    def test_printing_says_so_in_english(self):
+        self.check("en")
+
+    def test_printing_says_so_in_chinese(self):
+        self.check("zh-CN")
+
+    def test_printing_says_so_in_hebrew(self):
+        self.check("he")
+
+    def test_the_preview_says_so_and_stays(self):
+        with DialogViewer(BIN_DIR, "--lang", "en", "--mode", "print") as viewer:
+            viewer.open_dialog("preview", "ctrl+shift+v")
+            viewer.click_part("print")
+            self.assertEqual(self.answer(viewer, "en")["warnings"], [text_of(BIN_DIR, "en", "NoPrinter")])
+            before = viewer.values()["zoom"]
+            viewer.key("plus")
+            viewer.wait_for(lambda record: record["dialog"]["values"]["zoom"] > before)
+            viewer.click_part("close")
+            viewer.wait_for_closed()
 
 
 class PrintPreview(unittest.TestCase):

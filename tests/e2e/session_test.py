@@ -6,11 +6,10 @@ usage: session_test.py BIN_DIR [TEST...]
 There is a test for each combination of language and skin. Steps wait for what they show, never for a time.
 """
 import os
-import re
 import sys
 import unittest
 
-from viewer import Viewer
+from viewer import Viewer, text_of
 
 BIN_DIR = ""
 LANGUAGES = ("en", "zh-CN", "he")
@@ -25,9 +24,7 @@ LEAST_STEPS = 60
 
 def first_tab(language):
     """What the language's table calls the first category."""
-    with open(os.path.join(BIN_DIR, "lang", language, "viewer.xlf"), encoding="utf-8") as file:
-        source, target = re.search(r'name="CatMap"><segment><source>([^<]*)</source>(?:<target>([^<]*)</target>)?', file.read()).groups()
-    return target or source
+    return text_of(BIN_DIR, language, "CatMap")
 
 
 def middle(place):

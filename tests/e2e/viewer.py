@@ -1,6 +1,7 @@
 """Starts the viewer on a virtual display and drives it from outside, as a person would."""
 import json
 import os
+import re
 import shutil
 import subprocess
 import tempfile
@@ -36,6 +37,13 @@ def edit_file(folder, path, old, new):
     with open(path + "~", "w", encoding="utf-8") as file:
         file.write(text.replace(old, new))
     os.replace(path + "~", path)
+
+
+def text_of(folder, language, name):
+    """What the language's table has under a name."""
+    with open(os.path.join(folder, "lang", language, "viewer.xlf"), encoding="utf-8") as file:
+        source, target = re.search(f'name="{name}"><segment><source>([^<]*)</source>(?:<target>([^<]*)</target>)?', file.read()).groups()
+    return target or source
 
 
 class Viewer:

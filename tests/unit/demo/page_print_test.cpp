@@ -1,7 +1,10 @@
 // The page as it reaches a device: a bitmap or a metafile in the printer's place.
 #include "page_print.h"
+#include "print_pages.h"
 
 #include <gtest/gtest.h>
+
+#include <winspool.h>
 
 #include <vector>
 
@@ -87,4 +90,16 @@ TEST(DrawOnSheet, AMetafileHoldsThePictureOnce) {
     ::EnumEnhMetaFile(nullptr, file, count, &pictures, nullptr);
     ::DeleteEnhMetaFile(file);
     EXPECT_EQ(pictures, 1);
+}
+
+TEST(Print, WhereNoPrinterIsSetUpNobodyIsAsked) {
+    DWORD needed = 0;
+    DWORD count = 0;
+    if (!::EnumPrintersW(PRINTER_ENUM_LOCAL | PRINTER_ENUM_CONNECTIONS, nullptr, 4, nullptr, 0, &needed, &count)) {
+        GTEST_SKIP() << "this system has a printer";
+    }
+    CBitmap picture;
+    MakePicture(picture, 30, 20);
+    const PrintPages pages(picture, PageShape::Landscape, {}, {});
+    EXPECT_EQ(Print(nullptr, pages, L"A page"), PrintOutcome::NoPrinter); // a question would never return
 }
