@@ -156,12 +156,12 @@ class Viewer:
         except (FileNotFoundError, json.JSONDecodeError):
             return None
 
-    def wait_until(self, condition, what):
+    def wait_until(self, condition, what, pause=0.1):
         end = time.monotonic() + DEADLINE
         while not condition():
             if time.monotonic() > end:
                 raise AssertionError(f"not within {DEADLINE} s: {what}")
-            time.sleep(0.1)
+            time.sleep(pause)
 
     def _xdotool(self, *words):
         subprocess.run(["xdotool", *map(str, words)], env=self._environment, check=True)
@@ -271,10 +271,19 @@ class Viewer:
         _, top, right, bottom = self.record["quickAccessOnScreen"]
         self.click(right - 5, (top + bottom) // 2)
 
+    def _wait_for_keyboard(self):
+        """Between two windows, as when a message has gone, no one has the keys for a moment."""
+        def is_ours():
+            return subprocess.run(["xdotool", "getwindowfocus", "getwindowpid"], env=self._environment,
+                                  capture_output=True).returncode == 0
+        self.wait_until(is_ours, "a window has the keys", pause=0.02)
+
     def key(self, *names):
+        self._wait_for_keyboard()
         self._xdotool("key", *names)
 
     def write(self, text):
+        self._wait_for_keyboard()
         self._xdotool("type", "--delay", 30, text)
 
     def windows(self, title):
