@@ -29,8 +29,22 @@ FollowedFiles::FollowedFiles(Host host) : m_host(std::move(host)) {
     m_watch.Start(InstallationDirectory(), [this](const ConfigurationChange& change) { Take(change); });
 }
 
+void FollowedFiles::Begin() {
+    m_hasBegun = true;
+    if (!m_waiting.files.empty()) {
+        Show(std::vector<std::wstring>(m_waiting.files)); // what has been shown waits no more
+    }
+}
+
 void FollowedFiles::Take(const ConfigurationChange& change) {
     m_waiting.files.insert(m_waiting.files.end(), change.files.begin(), change.files.end());
+    if (m_hasBegun) {
+        Show(change.files);
+    }
+}
+
+/// `files`: what is told.
+void FollowedFiles::Show(const std::vector<std::wstring>& files) {
     const std::vector<std::wstring> broken = FindBrokenFiles(CMultiLanguageMgr::GetLanguage());
     for (const std::wstring& line : broken) {
         PrintLine(stderr, line);
@@ -41,7 +55,7 @@ void FollowedFiles::Take(const ConfigurationChange& change) {
         m_waiting.files.clear();
     }
     std::wstring line = isBuilt ? L"demo: built anew:" : L"demo: as before:";
-    for (const std::wstring& file : change.files) {
+    for (const std::wstring& file : files) {
         line += L" " + file;
     }
     PrintLine(stdout, line);

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 /// For those who work on the viewer's configuration: shows what they write as soon as they have written it. Lives in
 /// the thread of the windows.
@@ -17,15 +18,20 @@ public:
         std::function<void(const std::wstring& problem)> showProblem;
     };
 
-    /// Begins at once. What was built or not is written to standard output, each file that is broken to standard error.
+    /// Notices from here on what is changed, so that it belongs before the files are read. What was built or not is
+    /// written to standard output, each file that is broken to standard error.
     explicit FollowedFiles(Host host);
+    /// The bars are there: what has been noticed so far is shown, and what comes at once.
+    void Begin();
 
     bool IsFollowing() const { return m_watch.IsWatching(); }
 
 private:
     void Take(const ConfigurationChange& change);
+    void Show(const std::vector<std::wstring>& files);
 
     Host m_host;
+    bool m_hasBegun = false;
     ConfigurationChange m_waiting; ///< What is not shown yet, because something was broken.
     CConfigurationWatch m_watch;
 };

@@ -37,6 +37,11 @@ public:
         EnableLoadWindowPlacement(FALSE);             // the viewer keeps it with the rest
         auto* const frame = new CMainFrame(*options); // destroys itself with its window
         m_pMainWnd = frame;
+        if (options->followsFiles) {
+            m_followed.emplace(
+                FollowedFiles::Host{[frame](const ConfigurationChange& change) { return frame->ShowFilesAnew(change); },
+                                    [frame](const std::wstring& problem) { frame->ShowProblem(problem); }});
+        }
         if (!frame->CreateFrame()) {
             std::fputs("demo: the window could not be made\n", stderr);
             m_exitCode = 1;
@@ -51,10 +56,8 @@ public:
             frame->FinishMap(); // a record says what is to be seen
         }
         frame->WriteRecord();
-        if (options->followsFiles) {
-            m_followed.emplace(
-                FollowedFiles::Host{[frame](const ConfigurationChange& change) { return frame->ShowFilesAnew(change); },
-                                    [frame](const std::wstring& problem) { frame->ShowProblem(problem); }});
+        if (m_followed) {
+            m_followed->Begin();
         }
         if (options->screenshot.empty()) {
             if (!options->watch.empty()) {

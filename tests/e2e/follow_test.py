@@ -13,6 +13,16 @@ from viewer import Viewer, copy_installation, edit_file
 BIN_DIR = ""
 
 
+class ChangedAtTheStart(Viewer):
+    """Meets a message about the ribbon's file before the frame appears; the file is whole when the message goes."""
+
+    def begin(self):
+        self.wait_until(lambda: self.windows("Map viewer"), "a message is shown")
+        edit_file(self._bin, "cfg/ribbon.xml", 'KEYWORD="CatLayers" NAME="', 'KEYWORD="CatLayers" NAME=""')
+        self.key("Return")
+        super().begin()
+
+
 class Following(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
@@ -42,6 +52,11 @@ class Following(unittest.TestCase):
             viewer.wait_until(lambda: not viewer.windows(r".*ribbon\.xml.*"), "the caption is the viewer's again")
             self.assertEqual(len(self.names(record)), len(before))
             self.assertEqual(viewer.id_of("ZoomIn"), identity)
+
+    def test_what_is_mended_before_the_frame_appears_is_shown(self):
+        self.edit("cfg/ribbon.xml", 'KEYWORD="CatLayers" NAME=""', 'KEYWORD="CatLayers" NAME="')
+        with ChangedAtTheStart(self.folder, "--lang", "en", "--follow") as viewer:
+            viewer.wait_for(lambda record: "Layers" in self.names(record))
 
     def test_a_command_does_what_its_file_says_now(self):
         with Viewer(self.folder, "--lang", "en", "--follow") as viewer:
