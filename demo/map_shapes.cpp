@@ -36,21 +36,22 @@ void DrawRings(const MapCanvas& canvas, const std::vector<GeoRing>& rings, const
     Gdiplus::SolidBrush brush(fill ? *fill : Color());
     Gdiplus::Pen pen(line, canvas.Scaled(width));
     pen.SetLineJoin(Gdiplus::LineJoinRound);
+    // All in one path: what a call costs besides its pixels is more than most rings do.
+    Gdiplus::GraphicsPath path(Gdiplus::FillModeWinding);
     std::vector<PointF> points;
     for (const GeoRing& ring : rings) {
         if (!canvas.Sees(ring.box)) {
             continue;
         }
         AddRing(canvas, ring, points);
-        if (points.size() < 3) {
-            continue;
+        if (points.size() > 2) {
+            path.AddPolygon(points.data(), static_cast<INT>(points.size()));
         }
-        const INT count = static_cast<INT>(points.size());
-        if (fill) {
-            canvas.graphics.FillPolygon(&brush, points.data(), count);
-        }
-        canvas.graphics.DrawPolygon(&pen, points.data(), count);
     }
+    if (fill) {
+        canvas.graphics.FillPath(&brush, &path);
+    }
+    canvas.graphics.DrawPath(&pen, &path);
 }
 
 void DrawOpened(const MapCanvas& canvas) {
