@@ -4,21 +4,11 @@
 
 LastMessages* LastMessages::s_listening = nullptr;
 
-LastMessages::LastMessages()
-    : m_sent(::SetWindowsHookExW(WH_CALLWNDPROC, OnSent, nullptr, ::GetCurrentThreadId())),
-      m_taken(::SetWindowsHookExW(WH_GETMESSAGE, OnTaken, nullptr, ::GetCurrentThreadId())) {
+LastMessages::LastMessages() : m_taken(::SetWindowsHookExW(WH_GETMESSAGE, OnTaken, nullptr, ::GetCurrentThreadId())) {
     s_listening = this;
 }
 
 LastMessages::~LastMessages() { s_listening = nullptr; }
-
-LRESULT CALLBACK LastMessages::OnSent(int code, WPARAM wParam, LPARAM lParam) {
-    if (code == HC_ACTION && s_listening != nullptr) {
-        const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-        s_listening->Add(sent.hwnd, sent.message, sent.wParam);
-    }
-    return ::CallNextHookEx(nullptr, code, wParam, lParam);
-}
 
 LRESULT CALLBACK LastMessages::OnTaken(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && wParam == PM_REMOVE && s_listening != nullptr) {

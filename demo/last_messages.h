@@ -10,8 +10,9 @@
 #include <type_traits>
 #include <vector>
 
-/// The last messages that the windows of one thread were sent or took from its queue, for finding out from another
-/// thread what it is busy with. One of them at a time.
+/// The last messages that one thread took from its queue, for finding out from another thread what it is busy with. Not
+/// those that windows send each other: there are many times as many, and listening to them would slow the thread down by
+/// half. One of them at a time.
 class LastMessages {
 public:
     struct Entry {
@@ -36,7 +37,6 @@ private:
     };
     using Hook = std::unique_ptr<std::remove_pointer_t<HHOOK>, HookRemover>;
 
-    static LRESULT CALLBACK OnSent(int code, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK OnTaken(int code, WPARAM wParam, LPARAM lParam);
     void Add(HWND window, UINT message, WPARAM wParam);
 
@@ -45,6 +45,5 @@ private:
     mutable std::mutex m_mutex;
     std::array<Entry, 24> m_entries = {};
     std::size_t m_count = 0; ///< Of all so far; those beyond the array's size have overwritten the first ones.
-    Hook m_sent;
     Hook m_taken;
 };

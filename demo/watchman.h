@@ -17,7 +17,7 @@
 /// finds to a file, each as a line of JSON: {"longest": N, ...} whenever a second has passed, the longest wait so
 /// far in milliseconds and how many objects of each kind the process holds from the system; and for each wait that a
 /// person would notice one with its begin and end (milliseconds since 1970), the processor time that the window's
-/// thread and the whole process spent meanwhile, and the last messages that its windows had been given when it was
+/// thread and the whole process spent meanwhile, and the last messages that it had taken from its queue when it was
 /// noticed.
 class Watchman {
 public:
