@@ -42,21 +42,37 @@ def own_part(wait, starved):
 
 
 class Thread:
-    """Of a process; its file stays open, because it is read often."""
+    """Of a process; its files stay open, because they are read often."""
 
     def __init__(self, process, number):
-        self._file = os.open(f"/proc/{process}/task/{number}/schedstat", os.O_RDONLY)
+        self._files = {}
+        for name in ("schedstat", "stat"):
+            self._files[name] = os.open(f"/proc/{process}/task/{number}/{name}", os.O_RDONLY)
 
     def __del__(self):
-        if hasattr(self, "_file"):
-            os.close(self._file)
+        for file in self._files.values():
+            os.close(file)
+
+    def _figures(self):
+        """In nanoseconds: how long it ran, how long it stood ready and got no processor; None when it is gone."""
+        try:
+            ran, ready, _ = os.pread(self._files["schedstat"], 100, 0).split()
+            return int(ran), int(ready)
+        except (OSError, ValueError):
+            return None
 
     def ready_seconds(self):
         """How long it stood ready and got no processor, so far; None when it is gone."""
+        figures = self._figures()
+        return figures and figures[1] / 1e9
+
+    def sleep(self):
+        """The same from one call to the next while it sleeps without a break; None while it runs or stands ready."""
         try:
-            return int(os.pread(self._file, 100, 0).split()[1]) / 1e9
+            state = os.pread(self._files["stat"], 1000, 0).rsplit(b")", 1)[1].split()[0]
         except (OSError, IndexError):
-            return None
+            return "for ever"
+        return self._figures() if state == b"S" else None
 
 
 def threads_of(process):
@@ -86,7 +102,7 @@ def server_of(prefix):
     """The process of the Wine server of a prefix."""
     wanted = b"WINEPREFIX=" + prefix.encode()
     return next((int(process) for process in filter(str.isdigit, os.listdir("/proc"))
-                 if _read(process, "comm").strip() == b"wineserver" and wanted in _read(process, "environ").split(b"\0")), None)
+                 if _read(process, "comm").startswith(b"wineserver") and wanted in _read(process, "environ").split(b"\0")), None)
 
 
 class MachineTime:

@@ -87,6 +87,31 @@ class ReadinessOfAThread(unittest.TestCase):
         time.sleep(0.1)
         self.assertIsNone(thread.ready_seconds())
 
+    def test_a_sleep_is_another_one_after_the_thread_has_run(self):
+        wakes, answers = threading.Event(), threading.Event()
+
+        def answer():
+            wakes.wait()
+            answers.set()
+            threading.Event().wait(60)
+        other = threading.Thread(target=answer, daemon=True)
+        other.start()
+        thread = Thread(os.getpid(), other.native_id)
+        time.sleep(0.1)
+        first = thread.sleep()
+        self.assertIsNotNone(first)
+        time.sleep(0.1)
+        self.assertEqual(thread.sleep(), first)
+        wakes.set()
+        answers.wait()
+        time.sleep(0.1)
+        second = thread.sleep()
+        self.assertIsNotNone(second)
+        self.assertNotEqual(second, first)
+
+    def test_a_thread_that_runs_does_not_sleep(self):
+        self.assertIsNone(Thread(os.getpid(), threading.get_native_id()).sleep())
+
 
 if __name__ == "__main__":
     if len(sys.argv) > 1 and os.path.isdir(sys.argv[1]):

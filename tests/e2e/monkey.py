@@ -17,7 +17,7 @@ import sys
 import tempfile
 import time
 
-from machine_time import MachineTime, program_of, server_of
+from machine_time import MachineTime, Thread, program_of, server_of
 from viewer import DEADLINE, Viewer
 from wine_session import PREFIX
 
@@ -41,7 +41,7 @@ SHOWN_AT_REST = [("hebrew", "language", "he"), ("chinese", "language", "zh-CN"),
                  ("print", "mode", "print"), ("english", "language", "en"), ("silver", "skin", "silver"), ("browse", "mode", "browse")]
 TRIES_AT_REST = 3
 LONGEST_PAUSE = 0.3  # seconds that an event waits for what the one before it set off; longer than that nobody holds still
-QUIET_LOOKS, BETWEEN_LOOKS = 3, 0.004
+QUIET_LOOKS, BETWEEN_LOOKS = 3, 0.0015
 
 
 def held(value, end):
@@ -64,7 +64,7 @@ class Hands:
 
     def __init__(self, environment, process):
         self._environment = environment
-        self._state = f"/proc/{process}/stat"  # of its first thread, which is the window's
+        self._thread = Thread(process, process)  # its first one, which is the window's
 
     def __enter__(self):
         # Its answers come line by line, and all it says at the end of a line.
@@ -87,17 +87,13 @@ class Hands:
             self._pause()
 
     def _pause(self):
-        end, quiet = time.monotonic() + LONGEST_PAUSE, 0
+        """Until the window's thread has slept through a few looks."""
+        end, quiet, before = time.monotonic() + LONGEST_PAUSE, 0, None
         while quiet < QUIET_LOOKS and time.monotonic() < end:
             time.sleep(BETWEEN_LOOKS)
-            quiet = quiet + 1 if self._is_waiting() else 0
-
-    def _is_waiting(self):
-        try:
-            with open(self._state, encoding="ascii", errors="replace") as file:
-                return file.read().rsplit(")", 1)[1].split()[0] == "S"
-        except OSError:
-            return True  # it is gone
+            now = self._thread.sleep()
+            quiet = quiet + 1 if now is not None and now == before else 0
+            before = now
 
 
 class Place:
@@ -175,13 +171,13 @@ class Monkey:
 
     @staticmethod
     def searched(text):
-        return [REST, ["key", "ctrl+f"], ["type", "--delay", 1, text], ["key", "Return"]]
+        return [REST, ["key", "--delay", 1, "ctrl+f"], ["type", "--delay", 1, text], ["key", "--delay", 1, "Return"]]
 
     def search(self):
         return self.searched(self._random.choice(SEARCHES))
 
     def key(self):
-        return [["key", self._random.choice(KEYS)]]
+        return [["key", "--delay", 1, self._random.choice(KEYS)]]
 
     def rebuild(self):
         return [REST, ["key", "ctrl+shift+r"]]
@@ -299,7 +295,6 @@ class Life:
                 process = program_of(viewer.record_file)
                 with MachineTime(process, server_of(PREFIX), viewer.display_server) as machine, Hands(viewer.environment, process) as hands:
                     monkey = Monkey(viewer, hands, seed)
-                    monkey.rest()
                     self.play(monkey, viewer, events, lambda: Held(process, watch))
                     if viewer.has_left():
                         self.exit_code = viewer.wait_for_end()
