@@ -26,8 +26,9 @@ LONGEST_WAIT = 2000  # milliseconds
 TOLD_WAIT = 1000
 GROWTH = 1.3  # of the memory, besides what caches may take
 CACHES = 16 << 20
-# What the system and its drivers keep on their own account comes and goes by a few.
-MORE_OBJECTS = {"gdi": 60, "icons": 20, "menus": 10, "windows": 6, "threads": 6, "descriptors": 20}
+# What the system and its drivers keep on their own account comes and goes by a few; the viewer's own caches hold up to a
+# hundred pictures, and get their last one late.
+MORE_OBJECTS = {"gdi": 120, "icons": 20, "menus": 10, "windows": 6, "threads": 6, "descriptors": 20}
 MOST_EXITS = 3  # of one run, by the window's own ways out: a random click finds them now and then
 # What leaves the program, or writes into fields of the system's dialogs, is not among them.
 KEYS = ["Up", "Down", "Left", "Right", "Tab", "space", "Escape", "Home", "End", "Prior", "Next", "F6", "F10", "Alt_L", "plus", "minus",
@@ -40,6 +41,7 @@ REST = ["key", "--delay", 1] + ["Escape"] * 5
 SHOWN_AT_REST = [("hebrew", "language", "he"), ("chinese", "language", "zh-CN"), ("black", "skin", "black"), ("edit", "mode", "edit"),
                  ("print", "mode", "print"), ("english", "language", "en"), ("silver", "skin", "silver"), ("browse", "mode", "browse")]
 TRIES_AT_REST = 3
+HEIGHT_OF_A_CAPTION = 40  # a window of no more than that is minimised
 LONGEST_PAUSE = 0.3  # seconds that an event waits for what the one before it set off; longer than that nobody holds still
 QUIET_LOOKS, BETWEEN_LOOKS = 3, 0.0015
 
@@ -112,6 +114,13 @@ class Place:
         self.box = tuple(record["frameOnScreen"])
         self.status = record["statusOnScreen"]
         self.is_mirrored = record["language"] == "he"
+
+    def is_minimised(self):
+        return self.box[3] - self.box[1] <= HEIGHT_OF_A_CAPTION
+
+    def caption(self):
+        left, top, right, _ = self.box
+        return held((left + right) // 2, SCREEN_WIDTH), held(top + 12, SCREEN_HEIGHT)
 
     def grip(self):
         left, _, right, bottom = self.status
@@ -195,9 +204,8 @@ class Monkey:
 
     def maximize(self):
         self._place.read()
-        left, top, right, _ = self._place.box
         self._looks_again = True
-        return [REST, *self.pressed(held((left + right) // 2, SCREEN_WIDTH), held(top + 12, SCREEN_HEIGHT), 1, times=2)]
+        return [REST, *self.pressed(*self._place.caption(), 1, times=2)]
 
     def play(self, events):
         """How many of them went well: fewer when the viewer left."""
@@ -206,7 +214,9 @@ class Monkey:
             if self._looks_again or count % 10 == 0:
                 self._place.read()
                 self._looks_again = False
-            parts = self._random.choices(kinds, shares)[0]()
+            kind = self._random.choices(kinds, shares)[0]
+            # A double click on its caption brings a minimised window back, too; there is nothing else to do with it.
+            parts = self.maximize() if self._place.is_minimised() else kind()
             self.log.append((time.time(), parts))
             self._hands.give(parts)
             if self._viewer.has_left():
@@ -215,6 +225,9 @@ class Monkey:
 
     def rest(self):
         """The state in which growth is measured: nothing is open, and everything has been shown once."""
+        self._place.read()
+        if self._place.is_minimised():
+            self._hands.give(self.maximize())
         for search, name, value in SHOWN_AT_REST:
             if not any(self.shows(search, name, value) for _ in range(TRIES_AT_REST)) and not self._viewer.has_left():
                 print(f"  {name} did not become {value} at rest", flush=True)
