@@ -11,8 +11,8 @@
 #include <vector>
 
 /// The last messages that one thread took from its queue, for finding out from another thread what it is busy with. Not
-/// those that windows send each other: there are many times as many, and listening to them would slow the thread down by
-/// half. One of them at a time.
+/// those that windows send each other: there are many times as many, and listening to them would slow the thread down
+/// by half. One of them at a time.
 class LastMessages {
 public:
     struct Entry {
