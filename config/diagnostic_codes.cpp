@@ -151,10 +151,16 @@ constexpr DiagnosticCode kCodes[] = {
     // Commands.
     {"duplicate-keyword", Warning,
      "Two elements have one keyword, in one file or in two, and the second one sets CMD, PARAM or help to something "
-     "else; or a popup takes the keyword of a command; or a quick access row names a command twice.",
-     "The registry keeps what the first one said, in the order ribbon, menu, toolbars: both lead to its command. A "
-     "popup's keyword replaces the command's id by none. The quick access toolbar shows a command once.",
-     "Give one of them another keyword, or the same values.", Panel,
+     "else; or a popup takes the keyword of a command; or a quick access row names a command twice; or there are two "
+     "categories in a row, panels with NAME in a category or popups in a menu of one keyword, two toolbars of one "
+     "PROMPT "
+     "in a group, or two rows StatusEx_btns in a file.",
+     "The registry keeps what the first one said, in the order keys, ribbon, menu, toolbars: both lead to its command. "
+     "A "
+     "popup's keyword replaces the command's id by none. The quick access toolbar shows a command once. Of two "
+     "categories, panels or popups both show, under one caption; a toolbar's title leads to the first one; of two rows "
+     "of status-bar buttons the first is lost.",
+     "Give one of them another keyword or title, or the same values; or make one of the two.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"zoom\"/>\n<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" "
      "CMD=\"open\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"zoom\"/>\n<item KEYWORD=\"Open\" NAME=\"\" TYPE=\"BUTTON\" "

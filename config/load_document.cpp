@@ -90,9 +90,15 @@ void ReportError(const CXmlDocumentWrapper& document, const std::wstring& fullPa
 
 void ReportOddity(const XmlOddity& oddity, const FileDiagnostics& diagnostics) {
     const auto* const found = std::ranges::find(kOddities, oddity.kind, &OddityText::kind);
-    const bool isUnseen = oddity.kind == XmlOddityKind::LooseText && IsUnseenAt(diagnostics.File(), oddity.position);
-    diagnostics.Report(found->code, oddity.position, found->text,
-                       isUnseen ? L"remove the character that stands here, although nobody sees it" : found->fix);
+    std::wstring fix = found->fix;
+    if (oddity.kind == XmlOddityKind::LooseText) {
+        const std::wstring hint = HintForMergeMark(diagnostics.File(), oddity.position);
+        fix = !hint.empty()                                     ? hint
+              : IsUnseenAt(diagnostics.File(), oddity.position) ? L"remove the character that stands here, although "
+                                                                  L"nobody sees it"
+                                                                : fix;
+    }
+    diagnostics.Report(found->code, oddity.position, found->text, std::move(fix));
 }
 
 bool LoadDocument(const std::wstring& fullPath, ConfigurationKind kind, FileDiagnostics& diagnostics,

@@ -38,7 +38,8 @@ void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) con
         ReportAt(m_diagnostics, met, AttributeUse::Keyword, "missing-keyword", effect);
     } else if (!hasName && keyword != kRecentFilesKeyword) {
         const bool isSeparator = !ClosestWord(keyword, {L"SEPARATOR"}).empty();
-        m_diagnostics.Report("missing-caption", met.position, L"without MENUNAME no caption is shown here",
+        m_diagnostics.Report("missing-caption", met.position,
+                             L"without MENUNAME this has no caption, and its command no name",
                              isSeparator ? L"a separator is MENUNAME=\"SEPARATOR\" without a keyword"
                                          : L"add MENUNAME=\"\" behind the keyword");
     }

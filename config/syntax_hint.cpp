@@ -73,6 +73,14 @@ Place PlaceAt(std::string_view text, TextPosition position) {
     return {string2wstring(std::string(line)), position.column};
 }
 
+/// Whether a tool for versions left the line where two of them differ.
+bool IsMergeMark(std::wstring_view line) {
+    constexpr std::wstring_view marks[] = {L"<<<<<<<", L"=======", L">>>>>>>", L"|||||||"};
+    return std::ranges::any_of(marks, [line](std::wstring_view mark) { return line.starts_with(mark); });
+}
+constexpr const wchar_t* kMergeHint =
+    L"this is the mark of a merge conflict: keep one of the two versions, and remove the marks";
+
 struct Slip {
     bool (*isMade)(const Place& place);
     const wchar_t* fix;
@@ -98,13 +106,16 @@ constexpr Slip kSlips[] = {
 } // namespace
 
 SyntaxHint HintForSyntax(std::string_view text, TextPosition noticed, std::wstring_view reason) {
+    const Place place = PlaceAt(text, noticed);
+    if (IsMergeMark(place.line)) {
+        return {{noticed.line, 1}, kMergeHint};
+    }
     if (auto comment = FindSwallowingComment(text, noticed)) {
         return std::move(*comment);
     }
     if (reason.find(L"does not end") != reason.npos) {
         return {noticed, L"is the \"/\" of that tag missing, or an end tag too many?"};
     }
-    const Place place = PlaceAt(text, noticed);
     const auto* const slip = std::ranges::find_if(kSlips, [&place](const Slip& one) { return one.isMade(place); });
     return {noticed, slip == std::end(kSlips) ? std::wstring() : slip->fix};
 }
@@ -121,4 +132,10 @@ bool IsUnseenAt(const std::wstring& fullPath, TextPosition position) {
     }
     const wchar_t sign = PlaceAt(text, position).Here();
     return sign != 0 && kOtherBlanks.find(sign) != kOtherBlanks.npos;
+}
+
+std::wstring HintForMergeMark(const std::wstring& fullPath, TextPosition position) {
+    std::string text;
+    const bool isMark = varnhold::ReadXmlText(fullPath, text) && IsMergeMark(PlaceAt(text, position).line);
+    return isMark ? kMergeHint : L"";
 }

@@ -21,3 +21,6 @@ SyntaxHint HintForSyntax(const std::wstring& fullPath, varnhold::TextPosition no
 
 /// Whether the character there is one that nobody sees, or a blank that is none to XML.
 bool IsUnseenAt(const std::wstring& fullPath, varnhold::TextPosition position);
+
+/// What to do about a line that a tool for versions left there where two of them differ; empty for any other.
+std::wstring HintForMergeMark(const std::wstring& fullPath, varnhold::TextPosition position);

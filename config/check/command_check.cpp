@@ -20,6 +20,8 @@ struct Command {
     /// Empty when a later element may still give one.
     std::wstring help;
     bool isPopup = false;
+    /// Whether an element of a ribbon has the keyword.
+    bool isOfRibbon = false;
     /// What was different in later elements, and the number of the finding about it.
     std::map<std::wstring, std::size_t> reported = {};
 };
@@ -70,6 +72,14 @@ bool ShowsNothing(const MetElement& element) {
     return kind != ElementKind::Slider && !showsIcon && !element.Has(AttributeUse::Name);
 }
 
+/// What is said of the one element that differs from the first; of the first, where several differ in the same way; and
+/// of those then.
+struct DifferenceTexts {
+    std::wstring ofOne;
+    std::wstring ofFirst;
+    std::wstring ofOthers;
+};
+
 class CommandCheck {
 public:
     CommandCheck(bool isComplete, const std::set<std::wstring>& meant, DiagnosticsSink& sink)
@@ -101,23 +111,26 @@ private:
             return;
         }
         Inherit(element);
-        if (element.role == ElementRole::MenuItem) {
-            CheckShortcut(gathered);
-        }
         const std::wstring keyword(element.ValueOf(AttributeUse::Keyword));
         if (keyword.empty() || !IsRegistered(element)) {
+            CheckShortcut(gathered, nullptr);
             return;
         }
         if (MayStandInQuickAccess(element)) {
             m_forQuickAccess.insert(keyword);
         }
         const auto [found, isNew] = m_commands.try_emplace(keyword);
+        Command& command = found->second;
         if (isNew) {
-            found->second = MakeCommand(gathered);
-            TakeIcon(gathered);
-        } else {
-            Compare(found->second, gathered);
+            command = MakeCommand(gathered);
         }
+        if (isNew || element.role != ElementRole::ToolBarButton) {
+            TakeIcon(gathered);
+        }
+        if (isNew || IsAsRegistered(command, gathered)) {
+            CheckShortcut(gathered, isNew ? nullptr : &command);
+        }
+        command.isOfRibbon = command.isOfRibbon || IsOfRibbon(element);
     }
 
     /// A button of a toolbar has no CMD of its own: with a keyword of its own it is a command that only the program
@@ -129,13 +142,15 @@ private:
         if (icon.empty()) {
             return;
         }
-        std::vector<std::wstring>& known = m_keywordsByIcon[icon];
-        if (element.role != ElementRole::ToolBarButton) {
-            known.push_back(keyword);
-            return;
-        }
         // What many commands share says nothing about one of them.
         constexpr std::size_t few = 8;
+        std::vector<std::wstring>& known = m_keywordsByIcon[icon];
+        if (element.role != ElementRole::ToolBarButton) {
+            if (known.size() <= few && std::ranges::find(known, keyword) == known.end()) {
+                known.push_back(keyword);
+            }
+            return;
+        }
         const std::wstring meant = known.size() <= few ? ClosestWord(keyword, known) : std::wstring();
         if (m_isComplete && !meant.empty() && !m_meant.contains(keyword) && !m_passedOver.contains(keyword)) {
             ReportTogether(
@@ -192,14 +207,18 @@ private:
         return command;
     }
 
-    void Compare(Command& command, const GatheredElement& gathered) {
+    /// Whether the registry keeps of the element what it kept of the first one; otherwise it is reported.
+    bool IsAsRegistered(Command& command, const GatheredElement& gathered) {
         const MetElement& element = gathered.element;
         const bool isPopup = element.role == ElementRole::Popup;
         if (isPopup || command.isPopup) {
-            if (isPopup != command.isPopup) {
-                Report(gathered, command, L"a popup and a command have one keyword: the command's id is lost");
+            const bool isSame = isPopup == command.isPopup;
+            if (!isSame) {
+                ReportDifferent(gathered, command,
+                                {L"a popup and a command have one keyword: the command's id is lost",
+                                 L"this popup has the keyword of a command, whose id is lost", L"the command"});
             }
-            return;
+            return isSame;
         }
         std::wstring differences;
         const auto compare = [&](AttributeUse use, const wchar_t* name, const std::wstring& kept) {
@@ -218,61 +237,65 @@ private:
         compare(AttributeUse::Help, L"help", command.help);
         if (!differences.empty()) {
             ++m_unclearKeywords;
-            ReportDifferent(gathered, command, differences);
+            ReportDifferent(
+                gathered, command,
+                {L"this keyword was registered before, and what is different here is lost: " + differences,
+                 L"this keyword is registered here, and what all later elements have instead is lost: " + differences,
+                 L"different in the same way"});
         }
+        return differences.empty();
     }
 
-    /// Where several elements differ from the first in the same way, that one is probably wrong: one fault.
-    void ReportDifferent(const GatheredElement& gathered, Command& command, const std::wstring& differences) {
-        const auto [earlier, isNew] = command.reported.try_emplace(differences, m_different.size());
+    /// Where several elements differ from the first in the same way, that one is probably wrong: one fault, and its
+    /// place is there.
+    void ReportDifferent(const GatheredElement& gathered, Command& command, DifferenceTexts texts) {
+        const auto [earlier, isNew] = command.reported.try_emplace(texts.ofOne, m_different.size());
         if (isNew) {
-            m_different.push_back({&gathered, &command, differences, {}});
+            m_different.push_back({&command, std::move(texts), {&gathered}});
         } else {
-            m_different[earlier->second].others.push_back(&gathered);
+            m_different[earlier->second].elements.push_back(&gathered);
         }
     }
 
     void ReportDifferences() const {
         for (const Different& one : m_different) {
-            std::vector<RelatedPlace> related = {
-                PlaceOf(*one.command->first, AttributeUse::Keyword, L"registered here")};
-            for (const GatheredElement* const other : one.others) {
-                related.push_back(PlaceOf(*other, AttributeUse::Keyword, L"different in the same way"));
+            const bool isFirstWrong = one.elements.size() > 1;
+            const GatheredElement& wrong = isFirstWrong ? *one.command->first : *one.elements.front();
+            std::vector<RelatedPlace> related;
+            if (isFirstWrong) {
+                for (const GatheredElement* const element : one.elements) {
+                    related.push_back(PlaceOf(*element, AttributeUse::Keyword, one.texts.ofOthers));
+                }
+            } else {
+                related.push_back(PlaceOf(*one.command->first, AttributeUse::Keyword, L"registered here"));
             }
-            ReportTogether(
-                m_sink, *one.first->file, PlaceOf(one.first->element, AttributeUse::Keyword), "duplicate-keyword",
-                L"this keyword was registered before, and what is different here is lost: " + one.differences,
-                one.others.empty() ? L"take another keyword for one of them"
-                                   : L"mend the first one, or take another keyword for it",
-                std::move(related));
+            ReportTogether(m_sink, *wrong.file, PlaceOf(wrong.element, AttributeUse::Keyword), "duplicate-keyword",
+                           isFirstWrong ? one.texts.ofFirst : one.texts.ofOne,
+                           isFirstWrong ? L"mend this one, or take another keyword for it"
+                                        : L"take another keyword for one of them",
+                           std::move(related));
         }
     }
 
-    void Report(const GatheredElement& gathered, const Command& command, std::wstring text) const {
-        ReportTogether(m_sink, *gathered.file, PlaceOf(gathered.element, AttributeUse::Keyword), "duplicate-keyword",
-                       std::move(text), L"take another keyword for one of them",
-                       {PlaceOf(*command.first, AttributeUse::Keyword, L"registered here")});
-    }
-
-    void CheckShortcut(const GatheredElement& gathered) {
+    /// `earlier`: what has the keyword already; null for a new one, or for an item that registers none.
+    void CheckShortcut(const GatheredElement& gathered, const Command* earlier) {
         const MetElement& element = gathered.element;
         const MetAttribute* const written = element.Find(AttributeUse::HotKey);
-        if (!written || written->isReported || written->value.empty() ||
+        if (element.role != ElementRole::MenuItem || !written || written->isReported || written->value.empty() ||
             !FindShortcutFault(written->value).text.empty()) {
             return;
         }
         const std::wstring shortcut = CanonicalShortcut(written->value);
         const auto holder = m_shortcuts.find(shortcut);
         const std::wstring_view keyword = element.ValueOf(AttributeUse::Keyword);
-        const auto earlier = m_commands.find(std::wstring(keyword));
-        if (keyword != kRecentFilesKeyword && earlier != m_commands.end()) {
+        if (earlier) {
             const bool hasIt =
                 holder != m_shortcuts.end() && holder->second->element.ValueOf(AttributeUse::Keyword) == keyword;
             if (!hasIt) {
                 ReportTogether(m_sink, *gathered.file, written->position, "lost-shortcut",
                                L"the keyword was registered before, and then no shortcut is taken from here",
                                L"give the shortcut where the keyword stands first, or remove it",
-                               {PlaceOf(*earlier->second.first, AttributeUse::Keyword, L"registered here")});
+                               {PlaceOf(*earlier->first, AttributeUse::Keyword, L"registered here")});
             }
         } else if (holder != m_shortcuts.end()) {
             ReportTogether(m_sink, *gathered.file, written->position, "shortcut-clash",
@@ -287,17 +310,26 @@ private:
     void CheckReferences(std::vector<const GatheredElement*>& references, std::string_view code, const wchar_t* text) {
         for (const GatheredElement* const reference : references) {
             const std::wstring keyword(reference->element.ValueOf(AttributeUse::Keyword));
-            if (m_isComplete && !m_commands.contains(keyword) && !m_meant.contains(keyword) &&
-                !m_passedOver.contains(keyword) && !IsExplained(keyword)) {
-                std::vector<std::wstring> known;
-                for (const auto& [name, command] : m_commands) {
-                    known.push_back(name);
-                }
-                ReportTogether(m_sink, *reference->file, PlaceOf(reference->element, AttributeUse::Keyword), code, text,
-                               DidYouMean(ClosestWord(keyword, known)));
-            } else if (const auto command = m_commands.find(keyword); command != m_commands.end()) {
+            const auto command = m_commands.find(keyword);
+            const bool isQuickAccess = reference->element.role == ElementRole::QuickAccessItem;
+            const bool isThere = command != m_commands.end() && (!isQuickAccess || command->second.isOfRibbon);
+            if (isThere) {
                 CheckReferred(*reference, command->second);
+                continue;
             }
+            if (!m_isComplete || m_meant.contains(keyword) || m_passedOver.contains(keyword) || IsExplained(keyword)) {
+                continue;
+            }
+            if (command != m_commands.end()) {
+                ReportKind(*reference, command->second);
+                continue;
+            }
+            std::vector<std::wstring> known;
+            for (const auto& [name, one] : m_commands) {
+                known.push_back(name);
+            }
+            ReportTogether(m_sink, *reference->file, PlaceOf(reference->element, AttributeUse::Keyword), code, text,
+                           DidYouMean(ClosestWord(keyword, known)));
         }
         references.clear();
     }
@@ -305,20 +337,23 @@ private:
     /// Whether what refers to a command can show it.
     void CheckReferred(const GatheredElement& reference, const Command& command) const {
         const MetElement& element = reference.element;
-        const RelatedPlace registered = PlaceOf(*command.first, AttributeUse::Keyword, L"registered here");
         if (element.role == ElementRole::StatusButton) {
             if (ShowsNothing(element)) {
                 ReportTogether(m_sink, *reference.file, element.position, "missing-caption",
                                L"without NAME or PICPATH of its own nothing is shown here: text and icon are not "
                                L"taken from the command",
-                               L"add NAME=\"\" or PICPATH", {registered});
+                               L"add NAME=\"\" or PICPATH",
+                               {PlaceOf(*command.first, AttributeUse::Keyword, L"registered here")});
             }
         } else if (!m_forQuickAccess.contains(std::wstring(element.ValueOf(AttributeUse::Keyword)))) {
-            ReportTogether(m_sink, *reference.file, PlaceOf(element, AttributeUse::Keyword), "quick-access-kind",
-                           L"only buttons and combos of a ribbon can stand in the quick access toolbar; this is left "
-                           L"out",
-                           L"remove it", {registered});
+            ReportKind(reference, command);
         }
+    }
+
+    void ReportKind(const GatheredElement& reference, const Command& command) const {
+        ReportTogether(m_sink, *reference.file, PlaceOf(reference.element, AttributeUse::Keyword), "quick-access-kind",
+                       L"only buttons and combos of a ribbon can stand in the quick access toolbar; this is left out",
+                       L"remove it", {PlaceOf(*command.first, AttributeUse::Keyword, L"registered here")});
     }
 
     /// Whether an element that has another's keyword, which was reported, may be the one of this keyword.
@@ -332,10 +367,9 @@ private:
 
     /// Elements that differ from the first one of their keyword in one way.
     struct Different {
-        const GatheredElement* first;
         const Command* command;
-        std::wstring differences;
-        std::vector<const GatheredElement*> others;
+        DifferenceTexts texts;
+        std::vector<const GatheredElement*> elements;
     };
 
     bool m_isComplete;

@@ -6,6 +6,7 @@
 #include "config/check/icon_check.h"
 #include "config/check/installation_files.h"
 #include "config/check/text_check.h"
+#include "config/check/twin_check.h"
 #include "config/diagnostic_codes.h"
 #include "config/menu_file.h"
 #include "config/ribbon_file.h"
@@ -15,7 +16,9 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <span>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -79,14 +82,15 @@ struct Selection {
     bool namesFiles = false;
 };
 
-/// In the order in which a program loads them.
+/// In the order in which a program loads them, except that files of shortcuts, which come first there, are at the end.
 std::vector<FileToRead> InOrder(const std::vector<std::wstring>& paths) {
     std::vector<FileToRead> files;
     files.reserve(paths.size());
     for (const std::wstring& path : paths) {
         files.push_back({path, KindOfFile(path)});
     }
-    std::ranges::stable_sort(files, {}, &FileToRead::kind);
+    std::ranges::stable_sort(
+        files, {}, [](const FileToRead& file) { return std::pair(IsShortcutFile(file.fullPath), file.kind); });
     return files;
 }
 
@@ -184,6 +188,12 @@ void KeepNamed(std::vector<Diagnostic>& findings, const Selection& selection, co
     std::ranges::move(missing.Findings(), std::back_inserter(findings));
 }
 
+/// How many elements of files of shortcuts there are.
+std::size_t PutShortcutsFirst(GatheringSink& sink) {
+    const auto isShown = [](const GatheredElement& gathered) { return !IsShortcutFile(*gathered.file); };
+    return sink.PutFirst(static_cast<std::size_t>(std::ranges::count_if(sink.Elements(), isShown)));
+}
+
 /// Whether there are files that are not read because of what an editor has put behind their names.
 bool ReportMisnamed(const InstallationFiles& files, DiagnosticsSink& sink) {
     const std::vector<std::wstring> misnamed = FilesOfOtherEndings(files);
@@ -222,6 +232,11 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     // Whoever names files has others, whose keywords are not known here.
     const bool knowsAllKeywords = isComplete && !selection.namesFiles;
     const std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, sink);
+    CheckTextLengths(sink.Elements(), languages, sink);
+    CheckTwins(sink);
+    // From here on in the order in which commands are registered. No menu shows what a file of shortcuts has.
+    const std::size_t shortcuts = PutShortcutsFirst(sink);
+    CheckAccessKeys(std::span(sink.Elements()).subspan(shortcuts), languages, sink);
     std::set<std::wstring> known = meant;
     isComplete = AddKeywordsOf(selection.others, known) && isComplete;
     if (lostKeywords > 0) {
@@ -234,8 +249,6 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
             std::ranges::count(sink.Findings(), std::string_view("duplicate-keyword"), &Diagnostic::code));
         CheckUnusedTexts(sink.Elements(), languages, meant, lostKeywords, sink);
     }
-    CheckTextLengths(sink.Elements(), languages, sink);
-    CheckAccessKeys(sink.Elements(), languages, sink);
     CheckIcons(sink.Elements(), files, sink);
     std::vector<Diagnostic> findings = std::move(sink.Findings());
     KeepNamed(findings, selection, files);

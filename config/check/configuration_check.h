@@ -11,9 +11,9 @@
 struct CheckRequest {
     /// The installation directory, with its closing separator.
     std::wstring directory;
-    /// Relative to it, in the order in which they are loaded. None: cfg\ribbon*.xml, cfg\menu*.xml and
-    /// cfg\toolbar*.xml, each kind in name order. Translation tables may be among them: then nothing is said of others,
-    /// and where there is nothing else, nothing of the configuration files either.
+    /// Relative to it, in the order in which they are loaded. None: cfg\ribbon*.xml, cfg\status*.xml, cfg\menu*.xml,
+    /// cfg\toolbar*.xml and cfg\keys*.xml, each in name order. Translation tables may be among them: then nothing is
+    /// said of others, and where there is nothing else, nothing of the configuration files either.
     std::vector<std::wstring> files;
     /// The one language whose tables count; empty: all that are there.
     std::wstring language;

@@ -25,6 +25,10 @@ public:
     const std::vector<GatheredElement>& Elements() const { return m_elements; }
     /// From now on all elements of the file are passed over.
     void PassOver(const std::wstring& file);
+    /// The value of the element's attribute counts as reported.
+    void MarkReported(std::size_t index, AttributeUse use);
+    /// Puts all elements from that one on before the others, and returns how many they are.
+    std::size_t PutFirst(std::size_t from);
     std::vector<Diagnostic>& Findings() { return m_findings; }
 
 private:

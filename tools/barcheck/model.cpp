@@ -22,7 +22,7 @@ nlohmann::ordered_json ModelOf(const std::wstring& directory, const std::wstring
     RibbonModel ribbon(commands);
     MenuModel menus(commands);
     ToolBarModel toolBars(commands, files);
-    for (const std::wstring& name : ConfigurationFiles(files)) {
+    for (const std::wstring& name : ShownFiles(files)) {
         const std::wstring path = *files.Find(name);
         switch (KindOfFile(path)) {
         case ConfigurationKind::Ribbon:

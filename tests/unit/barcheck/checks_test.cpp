@@ -233,17 +233,53 @@ TEST(CheckedConfiguration, AFaultyValueHasNoFollowersInOtherFiles) {
     }
 }
 
-TEST(CheckedConfiguration, ElementsThatDifferFromTheFirstInTheSameWayAreOneFinding) {
+TEST(CheckedConfiguration, ElementsThatDifferFromTheFirstInTheSameWayAreOneFindingThere) {
     const CheckedInstallation installation;
     const auto button = [](const std::string& command) { return kButton + (" CMD=\"" + command + "\"/>\n"); };
     installation.Write("cfg/ribbon.xml", RibbonWith(button("goo") + button("go") + button("go") + button("leave")));
     installation.Write("cfg/menu.xml", MenuWith("<i KEYWORD=\"In\" MENUNAME=\"\" CMD=\"go\"/>"));
-    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:5:4 duplicate-keyword\ncfg/ribbon.xml:7:4 duplicate-keyword\n");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:4:4 duplicate-keyword\ncfg/ribbon.xml:7:4 duplicate-keyword\n");
     const std::vector<RelatedPlace> related = installation.Check().front().related;
     ASSERT_EQ(related.size(), 3u);
-    EXPECT_EQ(related[0].position.line, 4u);
+    EXPECT_EQ(related[0].position.line, 5u);
     EXPECT_EQ(related[1].position.line, 6u);
     EXPECT_EQ(related[2].file, L"cfg/menu.xml");
+}
+
+TEST(CheckedConfiguration, OneNameInTwoPlacesIsNoTwin) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    const auto with = [](std::string text, const std::string& before, const std::string& after) {
+        return text.replace(text.find(before), before.size(), after);
+    };
+    // A tab of two working modes, a panel of two tabs, panels without caption, a popup of two menus, a bar of two
+    // groups.
+    installation.Write("cfg/ribbon.xml",
+                       with(with(with(SampleRibbon(), "<row KEYWORD=\"Main\">",
+                                      "<row KEYWORD=\"Other\"><category KEYWORD=\"CatMap\" NAME=\"\"/></row>\n<row "
+                                      "KEYWORD=\"Main\">"),
+                                 "<panel KEYWORD=\"PanelTools\"",
+                                 "<panel KEYWORD=\"PanelZoom\" NAME=\"\"/><panel KEYWORD=\"PanelTools\""),
+                            "<panel KEYWORD=\"PanelFile\"",
+                            "<panel KEYWORD=\"Space\"/><panel KEYWORD=\"Space\"/><panel KEYWORD=\"PanelFile\""));
+    installation.Write("cfg/menu.xml",
+                       with(SampleMenu(), "<item KEYWORD=\"Undo\"",
+                            "<popup KEYWORD=\"MenuRecent\" MENUNAME=\"\"><item KEYWORD=\"QK_DEF_ZJWJ\"/></popup>\n"
+                            "<item KEYWORD=\"Undo\""));
+    installation.Write("cfg/toolbar.xml", with(SampleToolBars(), "<group KEYWORD=\"Main\">",
+                                               "<group KEYWORD=\"More\"><bar PROMPT=\"Layers\"/></group>\n<group "
+                                               "KEYWORD=\"Main\">"));
+    EXPECT_EQ(installation.Findings(), "");
+}
+
+TEST(CheckedConfiguration, ARowThatIsACopyIsOneFinding) {
+    const CheckedInstallation installation;
+    WriteSample(installation);
+    const std::string ribbon = SampleRibbon();
+    const std::size_t start = ribbon.find("  <row KEYWORD=\"Main\">");
+    const std::string row = ribbon.substr(start, ribbon.find("</ribbon>") - start);
+    installation.Write("cfg/ribbon.xml", ribbon.substr(0, start) + row + row + "</ribbon>\n");
+    EXPECT_EQ(installation.Findings(), "cfg/ribbon.xml:41:8 duplicate-keyword\n");
 }
 
 TEST(CheckedConfiguration, AKeywordOfNoTextIsTheOneWhoseTextsAreLeftOver) {

@@ -497,4 +497,18 @@ inline constexpr PlantedFault kPlantedFaults[] = {
      "@@<!DOCTYPE ribbon [<!ENTITY o \"Open\">]>\n<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\">\n    <item "
      "KEYWORD=\"&o;\"/>",
      "xml-doctype"},
+    // What holds others and stands twice beside each other.
+    {"cfg/ribbon.xml", "<category KEYWORD=\"CatTools\" NAME=\"\">", "<category @@KEYWORD=\"CatMap\" NAME=\"\">",
+     "duplicate-keyword"},
+    {"cfg/ribbon.xml", "<panel KEYWORD=\"PanelTools\" NAME=\"\">",
+     "<panel KEYWORD=\"PanelTools\" NAME=\"\"/><panel @@KEYWORD=\"PanelTools\" NAME=\"\">", "duplicate-keyword"},
+    {"cfg/ribbon.xml", "<row KEYWORD=\"Main\">",
+     "<row @@KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"Open\" NAME=\"\"/></row><row KEYWORD=\"Main\">",
+     "duplicate-keyword"},
+    {"cfg/menu.xml", "<popup KEYWORD=\"MenuEdit\" MENUNAME=\"\" SHORTKEY=\"E\">",
+     "<popup @@KEYWORD=\"MenuFile\" MENUNAME=\"\" SHORTKEY=\"F\">", "duplicate-keyword"},
+    {"cfg/toolbar.xml", "<bar PROMPT=\"Layers\">", "<bar @@PROMPT=\"Standard\">", "duplicate-keyword"},
+    {"cfg/toolbar.xml", "<group KEYWORD=\"Main\">",
+     "<group KEYWORD=\"Main\"><bar PROMPT=\"Layers\"/><bar PROMPT=\"Standard\"/></group>\n<group @@KEYWORD=\"Main\">",
+     "duplicate-keyword"},
 };

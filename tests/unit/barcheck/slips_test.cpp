@@ -22,6 +22,7 @@ constexpr wchar_t kMissingQuote[] = L"is a quotation mark missing";
 constexpr wchar_t kTags[] = L"is the \"/\" of that tag missing, or an end tag too many?";
 constexpr wchar_t kCommentEnd[] = L"does it lack its end, -->?";
 constexpr wchar_t kBlank[] = L"write a common blank";
+constexpr wchar_t kMerge[] = L"this is the mark of a merge conflict";
 constexpr wchar_t kZoomIcon[] = L"did you mean \"pic\\icon\\west.ico\"?";
 
 const PlantedSlip kSlips[] = {
@@ -97,6 +98,12 @@ const PlantedSlip kSlips[] = {
     {{"cfg/menu.xml", "</menu>\n", "</menu>\n@@<menu></menu>\n", "xml-syntax"}, L"a second document element"},
     {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD=\"PanelTools\"@@\u00A0NAME=\"\"", "xml-syntax"},
      kBlank},
+    // What a tool for versions leaves.
+    {{"cfg/ribbon.xml", "  <row KEYWORD=\"Main\">", "@@<<<<<<< HEAD\n  <row KEYWORD=\"Main\">", "xml-syntax"}, kMerge},
+    {{"cfg/menu.xml", "  <group>", "  <group>\n@@=======", "stray-text"}, kMerge},
+    {{"cfg/toolbar.xml", "  <group KEYWORD=\"Main\">", "@@>>>>>>> other\n  <group KEYWORD=\"Main\">", "stray-text"},
+     kMerge},
+    {{"lang/de/a.xlf", "    <unit id=\"West\">", "@@<<<<<<< HEAD\n    <unit id=\"West\">", "xml-syntax"}, kMerge},
     // Tables.
     {{"lang/de/a.xlf", "<target>de West</target>", "<target>de West@@</traget>", "xml-syntax"}, kTags},
     {{"lang/de/a.xlf", "<unit id=\"West\">", "<unit id=@@\u201CWest\u201D>", "xml-syntax"}, kStraight},
