@@ -39,6 +39,11 @@ std::optional<AttributeUse> UseMeantBy(const std::wstring& name) {
     return std::nullopt;
 }
 
+/// XML has them, in any element: xmlns, xml:space and so on.
+bool IsOfXml(std::string_view name) {
+    return name == "xmlns" || name.starts_with("xmlns:") || name.starts_with("xml:");
+}
+
 /// Of a menu; misspelt it is reported there.
 bool IsSeparatorWord(const std::wstring& text) { return !ClosestWord(text, {L"SEPARATOR"}).empty(); }
 
@@ -54,7 +59,7 @@ public:
         for (const varnhold::XmlAttributeView& written : m_element.ReadAttributes()) {
             if (const AttributeRule* const rule = FindRule(written.name)) {
                 Take(*rule, written);
-            } else {
+            } else if (!IsOfXml(written.name)) {
                 m_unknown.push_back(written);
             }
         }

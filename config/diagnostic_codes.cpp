@@ -13,8 +13,7 @@ constexpr DiagnosticCode kCodes[] = {
     // The file as a whole.
     {"xml-syntax", Error, "The file is not well-formed XML.",
      "The file is not loaded at all: the library says so in a message box, or builds no toolbars. Only a \"<\" in a "
-     "value "
-     "is taken as it is.",
+     "value is taken as it is, and a declaration that does not begin the file is passed over.",
      "Mend the markup at the place that is named, or a little before it: what is missing is noticed late.", RibbonFile,
      "<ribbon>\n  <row KEYWORD=\"Main\"\n</ribbon>",
      "<ribbon>\n  <row KEYWORD=\"Main\"><category KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item "
@@ -153,11 +152,9 @@ constexpr DiagnosticCode kCodes[] = {
      "Two elements have one keyword, in one file or in two, and the second one sets CMD, PARAM or help to something "
      "else; or a popup takes the keyword of a command; or a quick access row names a command twice; or there are two "
      "categories in a row, panels with NAME in a category or popups in a menu of one keyword, two toolbars of one "
-     "PROMPT "
-     "in a group, or two rows StatusEx_btns in a file.",
+     "PROMPT in a group, or two rows StatusEx_btns in a file.",
      "The registry keeps what the first one said, in the order keys, ribbon, menu, toolbars: both lead to its command. "
-     "A "
-     "popup's keyword replaces the command's id by none. The quick access toolbar shows a command once. Of two "
+     "A popup's keyword replaces the command's id by none. The quick access toolbar shows a command once. Of two "
      "categories, panels or popups both show, under one caption; a toolbar's title leads to the first one; of two rows "
      "of status-bar buttons the first is lost.",
      "Give one of them another keyword or title, or the same values; or make one of the two.", Panel,
@@ -244,7 +241,8 @@ constexpr DiagnosticCode kCodes[] = {
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\examples.ico\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\example.ico\"/>"},
     {"icon-format", Warning,
-     "A file that should be an icon is none, has no picture, or has one of more than 1,024 pixels a side.",
+     "A file that should be an icon is none, has no picture, ends within one, or has one of more than 1,024 pixels a "
+     "side.",
      "It counts as missing: the place of the icon stays empty.",
      "Save it as an icon file (.ico); another format with that ending is none.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\text.ico\"/>",
@@ -253,7 +251,8 @@ constexpr DiagnosticCode kCodes[] = {
      "A smaller one is enlarged, and looks coarse.", "Put the picture of that size into the file.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\small.ico\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" SIZE=\"16\" PICPATH=\"pic\\example.ico\"/>"},
-    {"path-separator", Warning, "An icon path is divided by \"/\", or leads out of the installation directory.",
+    {"path-separator", Warning,
+     "An icon path is divided by \"/\", is an address, or leads out of the installation directory.",
      "The folder of the size is put before the part behind the last backslash, so no file is found; outside nothing is "
      "looked for.",
      "Write backslashes, and a path below the installation directory.", Panel,
@@ -295,8 +294,9 @@ constexpr DiagnosticCode kCodes[] = {
      "<unit id=\"a\" name=\"In\"><segment><source>In</source><target>Hinein</target></segment></unit>"},
     {"bad-table", Warning,
      "A translation table, or a unit of it, is not what it should be: no XLIFF 2 file, a trgLang that is not its "
-     "folder, a file element without id, a unit without key or segment; or it lies where no table is read, or ends in "
-     ".xliff instead of .xlf.",
+     "folder, a file element without id, a unit without key or segment, a segment with two sources or targets, a text "
+     "with an element that XLIFF 2 does not have there; or it lies where no table is read, or ends in .xliff, .xlif or "
+     ".xlf.txt instead of .xlf.",
      "A file that is no XLIFF 2 keeps the whole language from being used; of the others the faulty part is skipped.",
      "Mend what the message says.", Table,
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\"/>",

@@ -113,7 +113,25 @@ bool LoadDocument(const std::wstring& fullPath, ConfigurationKind kind, FileDiag
         ReportKind(document, kind, *other, diagnostics);
         diagnostics.StopListening();
     } else {
+        ReportLateDeclaration(diagnostics);
         ReportOddities(document, diagnostics);
     }
     return isLoaded;
+}
+
+void ReportLateDeclaration(const FileDiagnostics& diagnostics) {
+    std::string text;
+    if (!varnhold::ReadXmlText(diagnostics.File(), text)) {
+        return;
+    }
+    constexpr std::string_view declaration = "<?xml ";
+    const std::string_view before = std::string_view(text).substr(0, text.find_first_not_of(" \t\r\n"));
+    if (before.empty() || !std::string_view(text).substr(before.size()).starts_with(declaration)) {
+        return;
+    }
+    const std::size_t lineStart = before.rfind('\n') + 1; // npos + 1 is 0
+    diagnostics.Report(
+        "xml-syntax", {1 + static_cast<std::size_t>(std::ranges::count(before, '\n')), 1 + before.size() - lineStart},
+        L"something stands before the declaration: here it is passed over, elsewhere the file is refused",
+        L"let <?xml begin the file, without a blank or a line before it");
 }

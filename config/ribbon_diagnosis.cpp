@@ -209,7 +209,8 @@ void RibbonDiagnosis::CheckKind(const MetElement& met) {
         m_silentBelow = met.depth;
     } else if (met.hasChildren && !TakesSubItems(kind)) {
         m_diagnostics.Report("children-lost", met.position,
-                             L"only a button or a group may have elements below it; this one vanishes with them");
+                             L"only a button or a group may have elements below it; this one vanishes with them",
+                             L"move them beside it, or make it a BUTTON or a GROUP");
         m_silentBelow = met.depth;
     }
 }

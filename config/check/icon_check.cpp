@@ -53,7 +53,7 @@ std::wstring FolderOf(const std::wstring& path) {
     return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
 }
 
-enum class IconState { Fine, NoIcon, TooLarge, TooSmall };
+enum class IconState { Fine, NoIcon, CutOff, TooLarge, TooSmall };
 
 IconFileReader ReaderOf(std::ifstream& stream) {
     return [&stream](std::uint64_t offset, std::span<std::uint8_t> bytes) -> std::size_t {
@@ -78,6 +78,15 @@ IconState StateOf(const std::wstring& path, int side) {
     const auto pictures = ReadIconHeaders(ReaderOf(stream));
     if (!pictures || pictures->empty()) {
         return IconState::NoIcon;
+    }
+    stream.clear();
+    stream.seekg(0, std::ios::end);
+    const auto end = static_cast<std::uint64_t>(std::max<std::streamoff>(0, stream.tellg()));
+    const bool isCutOff = std::ranges::any_of(*pictures, [end](const IconPicture& picture) {
+        return std::uint64_t(picture.offset) + picture.byteCount > end;
+    });
+    if (isCutOff) {
+        return IconState::CutOff;
     }
     if (!MayDecode(pictures)) {
         return IconState::TooLarge;
@@ -139,6 +148,11 @@ private:
 
     /// False: no file need be looked for.
     bool CheckPath(const GatheredElement& gathered, const MetAttribute& icon) const {
+        if (icon.value.find(L"://") != std::wstring::npos) {
+            Report(gathered, icon, "path-separator", L"this is an address, and an icon is a file of the installation",
+                   L"put the file below the installation directory, and write its path from there");
+            return false;
+        }
         const std::size_t backslash = icon.value.rfind(L'\\');
         const std::size_t name = backslash == std::wstring::npos ? 0 : backslash + 1;
         if (icon.value.find(L'/', name) != std::wstring::npos) {
@@ -167,6 +181,10 @@ private:
         case IconState::NoIcon:
             Report(gathered, icon, "icon-format", Quoted(path) + L" is no icon file, or has no picture",
                    L"save it as an icon file (.ico)");
+            break;
+        case IconState::CutOff:
+            Report(gathered, icon, "icon-format", Quoted(path) + L" ends within a picture: it was not written whole",
+                   L"copy or save it again");
             break;
         case IconState::TooLarge:
             Report(gathered, icon, "icon-format",

@@ -37,6 +37,22 @@ std::string_view CodeOf(TranslationProblem problem) {
     }
 }
 
+/// Empty where the text says it all.
+std::wstring FixOf(TranslationProblem problem) {
+    switch (problem) {
+    case TranslationProblem::NotXliff:
+        return L"a table begins with <xliff version=\"2.0\">; barcheck DIR --extract LANG writes one";
+    case TranslationProblem::UnitWithoutSegment:
+        return L"put <segment> around source and target";
+    case TranslationProblem::SecondText:
+        return L"remove one of the two";
+    case TranslationProblem::ForeignInline:
+        return L"write the text without it; marks around a part of a text are <pc>";
+    default:
+        return {};
+    }
+}
+
 /// Takes the files of one language.
 class TextReader : public varnhold::TranslationFileVisitor {
 public:
@@ -49,6 +65,7 @@ public:
         m_translated = 0;
         m_duplicates.clear();
         m_units = 0;
+        ReportLateDeclaration(FileDiagnostics(m_file, m_sink));
         m_texts.isUsable = varnhold::ReadTranslationFile(path, m_texts.code, *this) && m_texts.isUsable;
         ReportDuplicates();
         ReportUntranslated();
@@ -114,7 +131,8 @@ public:
         const SyntaxHint hint =
             problem == TranslationProblem::Syntax ? HintForSyntax(m_file, place, text) : SyntaxHint{place, {}};
         FileDiagnostics(m_file, m_sink)
-            .Report(CodeOf(problem), hint.position, hint.text.empty() ? text : hint.text, hint.fix);
+            .Report(CodeOf(problem), hint.position, hint.text.empty() ? text : hint.text,
+                    hint.fix.empty() ? FixOf(problem) : hint.fix);
     }
 
 private:
@@ -195,18 +213,23 @@ std::wstring InLanguageFolder(const std::wstring& code, const std::wstring& name
     return L"lang\\" + code + L'\\' + name;
 }
 
-/// Files that were meant to be tables, and that nobody reads.
-void ReportUnread(const InstallationFiles& files, const std::wstring& folder, bool isOfLanguage,
+/// Files that were meant to be tables, and that nobody reads. Whether there are any.
+bool ReportUnread(const InstallationFiles& files, const std::wstring& folder, bool isOfLanguage,
                   DiagnosticsSink& sink) {
     const std::wstring start = folder + L'\\';
+    bool areAny = false;
     for (const std::wstring& name : files.FilesIn(folder)) {
-        const bool isOtherName = EndsWith(name, L".xliff");
+        constexpr std::wstring_view others[] = {L".xliff", L".xlif", L".xlff", L".xlf.txt", L".xliff.txt"};
+        const bool isOtherName =
+            std::ranges::any_of(others, [&name](std::wstring_view ending) { return EndsWith(name, ending); });
         if (isOtherName || (!isOfLanguage && IsTableName(name))) {
+            areAny = true;
             ReportTogether(sink, *files.Find(start + name), {1, 1}, "bad-table",
                            L"this is not read: tables have the extension .xlf and lie in the folder of their language",
                            isOtherName ? L"give it the extension .xlf" : L"put it into the folder of its language");
         }
     }
+    return areAny;
 }
 
 } // namespace
@@ -225,7 +248,7 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
         texts.code = code;
         TextReader reader(texts, sink);
         bool isLanguage = false;
-        ReportUnread(files, L"lang\\" + code, true, sink);
+        texts.isUsable = !ReportUnread(files, L"lang\\" + code, true, sink); // its texts may be in those
         for (const std::wstring& name : files.FilesIn(L"lang\\" + code)) {
             if (IsTableName(name)) {
                 isLanguage = true;

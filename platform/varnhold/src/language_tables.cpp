@@ -81,6 +81,14 @@ std::string ReadContent(const pugi::xml_node& content, bool preserve) {
     return preserve ? text : FoldLineBreaks(text);
 }
 
+/// The first element in a text that belongs to none; null when there is none.
+pugi::xml_node FindForeignInline(const pugi::xml_node& content) {
+    static constexpr std::string_view own[] = {"pc", "mrk", "ph", "sc", "ec", "cp", "sm", "em"};
+    return content.find_node([](const pugi::xml_node& node) {
+        return node.type() == pugi::node_element && std::ranges::find(own, LocalName(node)) == std::end(own);
+    });
+}
+
 } // namespace
 
 /// Reads one file.
@@ -95,6 +103,7 @@ private:
     void CheckLanguages(const pugi::xml_node& root, const std::wstring& language) const;
     void ReadFile(const pugi::xml_node& file, bool preserve);
     void ReadUnit(const pugi::xml_node& unit, bool preserve, const char* section);
+    void CheckTexts(const pugi::xml_node& segment, const std::string& key) const;
     void Report(TranslationProblem problem, const std::wstring& what, const pugi::xml_node& node) const {
         m_visitor.VisitProblem(problem, m_tree->GetPosition(node), what);
     }
@@ -219,6 +228,9 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, const char
         if (kind != "segment" && kind != "ignorable") {
             continue;
         }
+        if (m_visitor.IsThorough()) {
+            CheckTexts(part, read.key);
+        }
         const bool blanks = PreservesBlanks(part, preserve);
         int place = static_cast<int>(parts.size()) + 1;
         std::string source;
@@ -249,6 +261,30 @@ void XliffReader::ReadUnit(const pugi::xml_node& unit, bool preserve, const char
     read.text = string2wstring(text);
     read.section = section;
     m_visitor.VisitUnit(read, NodePlace(*m_tree, unit));
+}
+
+void XliffReader::CheckTexts(const pugi::xml_node& segment, const std::string& key) const {
+    for (const std::string_view which : {"source", "target"}) {
+        bool isFirst = true;
+        for (const pugi::xml_node& text : segment) {
+            if (LocalName(text) != which) {
+                continue;
+            }
+            if (!isFirst) {
+                Report(TranslationProblem::SecondText,
+                       L"the unit \"" + string2wstring(key) + L"\" has a second " + string2wstring(std::string(which)) +
+                           L" in one segment; this one counts",
+                       text);
+            }
+            isFirst = false;
+            if (const pugi::xml_node foreign = FindForeignInline(text)) {
+                Report(TranslationProblem::ForeignInline,
+                       L"<" + string2wstring(foreign.name()) +
+                           L"> is no element of a text in XLIFF 2; it is left out, with what is in it",
+                       foreign);
+            }
+        }
+    }
 }
 
 bool ReadTranslationText(std::string_view text, const std::wstring& language, TranslationFileVisitor& visitor) {

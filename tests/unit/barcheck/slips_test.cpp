@@ -22,6 +22,7 @@ constexpr wchar_t kMissingQuote[] = L"is a quotation mark missing";
 constexpr wchar_t kTags[] = L"is the \"/\" of that tag missing, or an end tag too many?";
 constexpr wchar_t kCommentEnd[] = L"does it lack its end, -->?";
 constexpr wchar_t kBlank[] = L"write a common blank";
+constexpr wchar_t kDeclaration[] = L"let <?xml begin the file";
 constexpr wchar_t kMerge[] = L"this is the mark of a merge conflict";
 constexpr wchar_t kZoomIcon[] = L"did you mean \"pic\\icon\\west.ico\"?";
 
@@ -78,12 +79,21 @@ const PlantedSlip kSlips[] = {
      kZoomIcon},
     {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"\\\\server\\pic\\west.ico\"", "missing-icon"},
      kZoomIcon},
+    {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"https://pic/icon/west.ico\"", "path-separator"},
+     L"this is an address"},
     {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"./pic/icon/west.ico\"", "path-separator"},
      L"write \".\\pic\\icon\\west.ico\""},
     {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"pic\\icon\\west.ico \"", "missing-icon"},
      kZoomIcon},
     {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"pic\\icon\\west\"", "missing-icon"}, kZoomIcon},
     // Tags and comments.
+    {{"cfg/ribbon.xml", "<?xml version=", "\n@@<?xml version=", "xml-syntax"}, kDeclaration},
+    {{"cfg/menu.xml", "<?xml version=", "  \t@@<?xml version=", "xml-syntax"}, kDeclaration},
+    {{"cfg/ribbon.xml", "<item KEYWORD=\"ScaleLabel\" NAME=\"\" TYPE=\"label\"/>",
+      "@@<item KEYWORD=\"ScaleLabel\" NAME=\"\" TYPE=\"label\"><item KEYWORD=\"West\" NAME=\"\" "
+      "TYPE=\"BUTTON\"/></item>",
+      "children-lost"},
+     L"move them beside it"},
     {{"cfg/ribbon.xml", "TYPE=\"label\"/>", "TYPE=\"label\"/>@@</item>", "xml-syntax"}, kTags},
     {{"cfg/menu.xml", "CMD=\"exit\"/>\n    </popup>", "CMD=\"exit\">\n    @@</popup>", "xml-syntax"}, kTags},
     {{"cfg/ribbon.xml", "<row KEYWORD=\"StatusEx_btns\">",
@@ -106,6 +116,19 @@ const PlantedSlip kSlips[] = {
     {{"lang/de/a.xlf", "    <unit id=\"West\">", "@@<<<<<<< HEAD\n    <unit id=\"West\">", "xml-syntax"}, kMerge},
     // Tables.
     {{"lang/de/a.xlf", "<target>de West</target>", "<target>de West@@</traget>", "xml-syntax"}, kTags},
+    {{"lang/de/a.xlf", "<target>de West</target>", "<target>de West</target>@@<target>West</target>", "bad-table"},
+     L"has a second target in one segment"},
+    {{"lang/de/a.xlf", "<target>de West</target>", "<target>de @@<b>West</b></target>", "bad-table"},
+     L"<b> is no element of a text"},
+    {{"lang/en/a.xlf", "<source>West</source>", "<source>West@@<br/></source>", "bad-table"},
+     L"write the text without it"},
+    {{"lang/de/a.xlf", "<unit id=\"West\"><segment><source>West</source><target>de West</target></segment>",
+      "@@<unit id=\"West\"><source>West</source><target>de West</target>", "bad-table"},
+     L"put <segment> around"},
+    {{"lang/de/a.xlf", "<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\"",
+      "@@<xliff version=\"1.2\"", "bad-table"},
+     L"a table begins with <xliff version=\"2.0\">"},
+    {{"lang/de/a.xlf", "<?xml version", " @@<?xml version", "xml-syntax"}, kDeclaration},
     {{"lang/de/a.xlf", "<unit id=\"West\">", "<unit id=@@\u201CWest\u201D>", "xml-syntax"}, kStraight},
     {{"lang/de/a.xlf", "<unit id=\"West\"><segment><source>West</source><target>de West</target>",
       "@@<unit id=\"West\"><segment><source>West</source><target></target>", "untranslated-text"},
@@ -190,6 +213,25 @@ TEST_F(SlipWithFiles, ATableBesideTheFoldersIsSaidWhereItBelongs) {
 TEST_F(SlipWithFiles, AnIconThatWasSavedAsAPictureIsNamed) {
     fs::rename(Path("pic/icon/16/west.ico"), Path("pic/icon/16/WEST.PNG"));
     ExpectOne("cfg/ribbon.xml:25:64 missing-icon", L"\"WEST.PNG\" is no icon: save it as an icon file (.ico)");
+}
+
+TEST_F(SlipWithFiles, ATableOfAnotherEndingIsOneFindingAndItsTextsAreNotMissed) {
+    fs::copy(Path("lang/de/a.xlf"), Path("lang/de/b.xlf"));
+    m_installation.Write("lang/de/a.xlf", "<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\" "
+                                          "srcLang=\"en\" trgLang=\"de\">\n<file id=\"Other\"/>\n</xliff>\n");
+    ASSERT_EQ(m_installation.Findings(), "");
+    for (const char* ending : {".xlif", ".xliff", ".xlf.txt"}) {
+        const std::string name = std::string("lang/de/b") + ending;
+        fs::rename(Path("lang/de/b.xlf"), Path(name.c_str()));
+        ExpectOne(name + ":1:1 bad-table", L"give it the extension .xlf");
+        fs::rename(Path(name.c_str()), Path("lang/de/b.xlf"));
+    }
+}
+
+TEST_F(SlipWithFiles, AnIconThatWasNotWrittenToItsEndIsOneFinding) {
+    const std::string whole = MakeIconFile(16, {0xFF0000, 0x00FF00});
+    m_installation.Write("pic/icon/16/west.ico", whole.substr(0, whole.size() - 1));
+    ExpectOne("cfg/ribbon.xml:25:64 icon-format", L"copy or save it again");
 }
 
 TEST_F(SlipWithFiles, AnIconOfTheOtherSizeAloneIsSaidToBeThat) {

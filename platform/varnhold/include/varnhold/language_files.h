@@ -34,6 +34,9 @@ enum class TranslationProblem {
     FileWithoutId,
     UnitWithoutKey,
     UnitWithoutSegment,
+    SecondText,   ///< a segment has two sources or two targets; told to thorough visitors alone, as what follows
+    ForeignInline ///< a source or target holds an element that no text of XLIFF 2 has: it is left out with what is in
+                  ///< it
 };
 
 /// Takes what stands in a table, in document order. Good until the call returns.
