@@ -1,5 +1,6 @@
 #include "config/attribute_diagnosis.h"
 
+#include "config/configuration_kind.h"
 #include "config/depth_walker.h"
 #include "varnhold/letter_case.h"
 
@@ -23,6 +24,7 @@ constexpr OtherName kOtherNames[] = {
     {L"ACTION", AttributeUse::Command},     {L"ARGUMENT", AttributeUse::Parameter}, {L"SHORTCUT", AttributeUse::HotKey},
     {L"ACCELERATOR", AttributeUse::HotKey}, {L"HINT", AttributeUse::ToolTip},       {L"ID", AttributeUse::Keyword},
     {L"KEY", AttributeUse::Keyword},        {L"KIND", AttributeUse::Type},          {L"TITLE", AttributeUse::Name},
+    {L"MENUNAME", AttributeUse::Name},      {L"PROMPT", AttributeUse::Name},
 };
 
 /// The same in a toolbar file, which has no texts of the tables.
@@ -65,8 +67,10 @@ public:
         }
         CheckOrder();
         CheckIgnoredTexts();
-        for (const varnhold::XmlAttributeView& written : m_unknown) {
-            ReportUnknown(written);
+        if (!ReportAsOfOtherKind()) {
+            for (const varnhold::XmlAttributeView& written : m_unknown) {
+                ReportUnknown(written);
+            }
         }
         return std::move(m_met);
     }
@@ -144,7 +148,33 @@ private:
         }
     }
 
-    void ReportUnknown(const varnhold::XmlAttributeView& written) {
+    /// An element that was written for a file of another kind is one fault. Whether it was reported as that.
+    bool ReportAsOfOtherKind() {
+        std::vector<std::string_view> names;
+        std::wstring quoted;
+        for (const varnhold::XmlAttributeView& written : m_unknown) {
+            names.push_back(written.name);
+            quoted += (quoted.empty() ? L"" : L", ") + Quoted(string2wstring(written.name));
+        }
+        const auto kind = KindWithAttributes(names);
+        if (names.size() < 2 || !kind) {
+            return false;
+        }
+        std::wstring meant;
+        for (const varnhold::XmlAttributeView& written : m_unknown) {
+            if (const std::wstring name = TakeMeant(written); !name.empty()) {
+                meant += (meant.empty() ? L"write " : L", ") + name + L" for " + string2wstring(written.name);
+            }
+        }
+        m_diagnostics.Report("unknown-attribute", m_element.GetAttributePosition(m_unknown.front()),
+                             quoted + L" are attributes of a " + std::wstring(NameOf(*kind)) + L", not of " +
+                                 std::wstring(m_fileName) + L"; they are ignored",
+                             meant.empty() ? L"remove them" : meant + L"; remove what is left");
+        return true;
+    }
+
+    /// What was meant by an unknown name, which the element has from now on; empty when nobody knows.
+    std::wstring TakeMeant(const varnhold::XmlAttributeView& written) {
         const std::wstring name = string2wstring(written.name);
         std::vector<std::wstring> free;
         for (const AttributeRule& rule : m_rules) {
@@ -152,19 +182,27 @@ private:
                 free.push_back(string2wstring(rule.name));
             }
         }
-        const varnhold::TextPosition position = m_element.GetAttributePosition(written);
         std::wstring meant = ClosestWord(name, free);
         if (const auto use = UseMeantBy(name); meant.empty() && use) {
             meant = FreeNameFor(*use);
         }
         m_met.hasUnknown = m_met.hasUnknown || meant.empty();
         if (!meant.empty()) {
-            m_met.attributes.push_back(
-                {FindRule(wstring2String(meant))->use, string2wstring(written.value), position, true});
+            m_met.attributes.push_back({FindRule(wstring2String(meant))->use, string2wstring(written.value),
+                                        m_element.GetAttributePosition(written), true});
         }
-        m_diagnostics.Report("unknown-attribute", position,
-                             Quoted(name) + L" is not an attribute of " + std::wstring(m_fileName) + L"; it is ignored",
-                             DidYouMean(meant));
+        return meant;
+    }
+
+    void ReportUnknown(const varnhold::XmlAttributeView& written) {
+        const std::wstring meant = TakeMeant(written);
+        const std::string_view name = written.name;
+        const auto kind = KindWithAttributes({&name, 1});
+        m_diagnostics.Report("unknown-attribute", m_element.GetAttributePosition(written),
+                             Quoted(string2wstring(written.name)) + L" is not an attribute of " +
+                                 std::wstring(m_fileName) + L"; it is ignored",
+                             meant.empty() && kind ? L"it belongs into a " + std::wstring(NameOf(*kind))
+                                                   : DidYouMean(meant));
     }
 
     /// The attribute of this file that has the use, where the element has it not yet.

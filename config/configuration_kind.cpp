@@ -156,3 +156,10 @@ std::optional<ConfigurationKind> OtherKindOf(const varnhold::XmlCursor& document
     }
     return std::nullopt;
 }
+
+std::optional<ConfigurationKind> KindWithAttributes(std::span<const std::string_view> names) {
+    const auto* const found = std::ranges::find_if(kKinds, [names](ConfigurationKind kind) {
+        return std::ranges::all_of(names, [kind](std::string_view name) { return Knows(kind, name); });
+    });
+    return found == kKinds.end() ? std::nullopt : std::optional(*found);
+}

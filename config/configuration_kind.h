@@ -3,6 +3,7 @@
 #include <varnhold/xml.h>
 
 #include <optional>
+#include <span>
 #include <string_view>
 
 /// What a configuration file describes.
@@ -20,3 +21,6 @@ ConfigurationKind KindByAttributes(const varnhold::XmlCursor& documentElement);
 /// attributes of that kind and stand as that kind has them, and nothing speaks for the expected one. A file of the
 /// expected kind with mistakes in it, many alike ones too, is none of those. Elements may have any names.
 std::optional<ConfigurationKind> OtherKindOf(const varnhold::XmlCursor& documentElement, ConfigurationKind expected);
+
+/// A kind that has all attributes of these names; none when no kind has.
+std::optional<ConfigurationKind> KindWithAttributes(std::span<const std::string_view> names);

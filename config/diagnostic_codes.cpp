@@ -182,8 +182,8 @@ constexpr DiagnosticCode kCodes[] = {
      "KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
      "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
     {"quick-access-kind", Warning,
-     "The quick access row names an element that is neither a button nor a combo: a slider, a label, an edit or a "
-     "category.",
+     "The quick access row names an element that is neither a button nor a combo: a slider, a label, an edit, a "
+     "category or a panel.",
      "It is left out of the quick access toolbar.", "Remove it, or give the command a button.", RibbonFile,
      "<ribbon>\n  <row KEYWORD=\"QK_Rbbion_QAToolbar\"><item KEYWORD=\"In\"/></row>\n  <row KEYWORD=\"Main\"><category "
      "KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item KEYWORD=\"In\" NAME=\"\" "
@@ -198,8 +198,8 @@ constexpr DiagnosticCode kCodes[] = {
      "It is a command of its own, without CMD: only a program that knows the keyword does something.",
      "Write the keyword as the command has it."},
     {"shortcut-syntax", Error,
-     "HOTKEY is read as something else than it says. Only Ctrl, Shift and Alt, joined by \"+\" without blanks, may "
-     "stand before the key, and only the first character of the key counts.",
+     "HOTKEY is read as something else than it says. Only Ctrl, Shift and Alt, each once and joined by \"+\" without "
+     "blanks, may stand before the key, and only the first character of the key counts.",
      "F5 is the key of F, Del that of D, \"Ctrl + S\" that of C; Ctrl+Shift names no key and is left out; Ctrl+ ends "
      "the loading of the whole file with an exception.",
      "Write one letter, digit or sign behind the modifiers: Ctrl+Shift+S.", Popup,

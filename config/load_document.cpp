@@ -90,13 +90,10 @@ void ReportError(const CXmlDocumentWrapper& document, const std::wstring& fullPa
 
 void ReportOddity(const XmlOddity& oddity, const FileDiagnostics& diagnostics) {
     const auto* const found = std::ranges::find(kOddities, oddity.kind, &OddityText::kind);
-    std::wstring fix = found->fix;
-    if (oddity.kind == XmlOddityKind::LooseText) {
-        const std::wstring hint = HintForMergeMark(diagnostics.File(), oddity.position);
-        fix = !hint.empty()                                     ? hint
-              : IsUnseenAt(diagnostics.File(), oddity.position) ? L"remove the character that stands here, although "
-                                                                  L"nobody sees it"
-                                                                : fix;
+    std::wstring fix =
+        oddity.kind == XmlOddityKind::LooseText ? HintForLooseText(diagnostics.File(), oddity.position) : L"";
+    if (fix.empty()) {
+        fix = found->fix;
     }
     diagnostics.Report(found->code, oddity.position, found->text, std::move(fix));
 }

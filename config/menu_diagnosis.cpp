@@ -45,13 +45,14 @@ void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) con
     }
 }
 
-void MenuDiagnosis::CheckLetter(const MetElement& met) const {
+void MenuDiagnosis::CheckLetter(MetElement& met) const {
     const MetAttribute* const letter = met.Find(AttributeUse::ShortKey);
     if (letter && (letter->value.size() > 1 || letter->value == L" " || letter->value == L"&")) {
         ReportAt(m_diagnostics, met, AttributeUse::ShortKey, "access-key-syntax",
                  L"SHORTKEY is one letter or digit; " + Quoted(letter->value) +
                      L" is shown as it is, in brackets behind the caption",
                  L"write the letter alone; a shortcut belongs into HOTKEY");
+        met.MarkReported(AttributeUse::ShortKey);
     }
 }
 
@@ -88,7 +89,7 @@ void MenuDiagnosis::MeetPopup(varnhold::XmlCursor& element, std::size_t level) c
     if (m_isStray || !HasAttributes(element, L"a popup without attributes has no caption")) {
         return;
     }
-    const MetElement met = Describe(element, ElementRole::Popup, level);
+    MetElement met = Describe(element, ElementRole::Popup, level);
     CheckTexts(met, L"without a keyword the popup has no caption");
     CheckLetter(met);
     if (const MetAttribute* const shortcut = met.Find(AttributeUse::HotKey)) {
@@ -102,7 +103,7 @@ void MenuDiagnosis::MeetItem(varnhold::XmlCursor& element, std::size_t level, bo
     if (m_isStray || isSeparator || !HasAttributes(element, L"an item without attributes is left out")) {
         return;
     }
-    const MetElement met = Describe(element, ElementRole::MenuItem, level);
+    MetElement met = Describe(element, ElementRole::MenuItem, level);
     CheckTexts(met, L"an item without a keyword is not shown");
     CheckLetter(met);
     m_diagnostics.Meet(met);

@@ -23,7 +23,7 @@ private:
     MetElement Describe(varnhold::XmlCursor& element, ElementRole role, std::size_t level) const;
     bool HasAttributes(varnhold::XmlCursor& element, const wchar_t* effect) const;
     void PassOver(varnhold::XmlCursor& element) const;
-    void CheckLetter(const MetElement& met) const;
+    void CheckLetter(MetElement& met) const;
     void CheckTexts(const MetElement& met, const wchar_t* effect) const;
 
     const FileDiagnostics& m_diagnostics;

@@ -98,6 +98,11 @@ struct MetElement {
         const MetAttribute* const found = Find(use);
         return found != nullptr && found->isReported;
     }
+    void MarkReported(AttributeUse use) {
+        for (MetAttribute& attribute : attributes) {
+            attribute.isReported = attribute.isReported || attribute.use == use;
+        }
+    }
     /// Empty where there is none.
     std::wstring_view ValueOf(AttributeUse use) const {
         const MetAttribute* const found = Find(use);

@@ -52,6 +52,37 @@ std::wstring WithoutBlanks(std::wstring_view shortcut) {
     return text;
 }
 
+struct OtherName {
+    std::wstring_view name;
+    std::wstring_view modifier;
+};
+/// As other systems, and keyboards of other languages, call them.
+constexpr OtherName kOtherNames[] = {
+    {L"Control", L"Ctrl"}, {L"Ctl", L"Ctrl"},   {L"Strg", L"Ctrl"}, {L"Umschalt", L"Shift"},
+    {L"Maj", L"Shift"},    {L"Option", L"Alt"}, {L"Opt", L"Alt"},
+};
+
+/// What the system calls a modifier; empty for any other word.
+std::wstring ModifierMeantBy(const std::wstring& piece) {
+    for (const OtherName& other : kOtherNames) {
+        if (varnhold::EqualsIgnoringCase(other.name, piece)) {
+            return std::wstring(other.modifier);
+        }
+    }
+    return ClosestWord(piece, {L"Ctrl", L"Shift", L"Alt"});
+}
+
+/// The modifier that stands there twice; empty when none does.
+std::wstring TwiceIn(const std::vector<std::wstring>& pieces) {
+    for (auto piece = pieces.begin(); piece != pieces.end(); ++piece) {
+        const auto isSame = [piece](const std::wstring& other) { return varnhold::EqualsIgnoringCase(*piece, other); };
+        if (IsModifier(*piece) && std::find_if(std::next(piece), pieces.end(), isSame) != pieces.end()) {
+            return *piece;
+        }
+    }
+    return {};
+}
+
 /// The first piece that is no modifier.
 std::vector<std::wstring>::const_iterator KeyOf(const std::vector<std::wstring>& pieces) {
     return std::ranges::find_if(pieces, [](const std::wstring& piece) { return !IsModifier(piece); });
@@ -67,7 +98,8 @@ ShortcutFault FindShortcutFault(std::wstring_view shortcut) {
     const auto read = Read(shortcut);
     if (!read) {
         return {L"nothing stands where the shortcut's key belongs; the loading of the file ends here",
-                L"write the key, or remove HOTKEY"};
+                shortcut.ends_with(L"++") ? L"\"+\" cannot be the key: take another one"
+                                          : L"write the key, or remove HOTKEY"};
     }
     const std::vector<std::wstring> pieces = Pieces(shortcut);
     const auto key = KeyOf(pieces);
@@ -93,9 +125,12 @@ ShortcutFault FindShortcutFault(std::wstring_view shortcut) {
         return {Quoted(*key) + readAs + L": blanks count", L"write \"" + plain + L"\""};
     }
     if (std::next(key) != pieces.end()) {
-        const std::wstring meant = ClosestWord(*key, {L"Ctrl", L"Shift", L"Alt"});
+        const std::wstring meant = ModifierMeantBy(*key);
         return {Quoted(*key) + L" is no modifier, and" + readAs + L"; nothing behind it is read",
                 meant.empty() ? L"the modifiers are Ctrl, Shift and Alt" : DidYouMean(meant)};
+    }
+    if (const std::wstring twice = TwiceIn(pieces); !twice.empty()) {
+        return {Quoted(twice) + L" stands there twice, and counts once", L"the modifiers are Ctrl, Shift and Alt"};
     }
     if (key->size() > 1) {
         return {Quoted(*key) + readAs + L": only one letter, digit or sign counts",

@@ -16,6 +16,7 @@ constexpr std::wstring_view kTypographicQuotes = L"\u201C\u201D\u201E\u201F\u201
 constexpr std::wstring_view kOtherBlanks = L"\u00A0\u2007\u202F\u3000\u200B\u2060\uFEFF";
 
 bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') || c == L'_'; }
+bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
 bool IsQuote(wchar_t c) { return c == L'"' || c == L'\''; }
 
 /// Where the text at an offset stands.
@@ -73,6 +74,20 @@ Place PlaceAt(std::string_view text, TextPosition position) {
     return {string2wstring(std::string(line)), position.column};
 }
 
+/// Where the last quotation mark of the line before stands, when that line has an odd number of them: the value that it
+/// opens goes on to the first one of the line that was refused.
+std::optional<TextPosition> FindOpenQuote(std::string_view text, TextPosition noticed) {
+    if (noticed.line < 2) {
+        return std::nullopt;
+    }
+    const std::wstring before = PlaceAt(text, {noticed.line - 1, 1}).line;
+    const std::size_t last = before.rfind(L'"');
+    if (std::ranges::count(before, L'"') % 2 == 0 || !before.substr(0, last).ends_with(L"=")) {
+        return std::nullopt;
+    }
+    return TextPosition{noticed.line - 1, last + 1};
+}
+
 /// Whether a tool for versions left the line where two of them differ.
 bool IsMergeMark(std::wstring_view line) {
     constexpr std::wstring_view marks[] = {L"<<<<<<<", L"=======", L">>>>>>>", L"|||||||"};
@@ -99,6 +114,14 @@ constexpr Slip kSlips[] = {
      L"put the value between quotation marks"},
     {[](const Place& place) { return IsQuote(place.Here()); },
      L"is a quotation mark missing, before this place or in the line before?"},
+    {[](const Place& place) { return place.Here() == L'<' && place.At(place.column + 1) == L'!'; },
+     L"a comment cannot stand within a tag: put it before"},
+    {[](const Place& place) { return IsDigit(place.Here()) && place.Before() == L'<'; },
+     L"the name of an element begins with a letter"},
+    {[](const Place& place) {
+         return (place.Here() == L'>' || place.Here() == L'/') && (IsLetter(place.Before()) || place.Before() == L'/');
+     },
+     L"an attribute is NAME=\"VALUE\": is the value missing before this place?"},
     {[](const Place& place) { return place.IsPair([](wchar_t c) { return c == L' ' || c == L'\t'; }, IsLetter); },
      L"an attribute is NAME=\"VALUE\": is the value missing before this place?"},
 };
@@ -113,8 +136,15 @@ SyntaxHint HintForSyntax(std::string_view text, TextPosition noticed, std::wstri
     if (auto comment = FindSwallowingComment(text, noticed)) {
         return std::move(*comment);
     }
+    if (const auto open = FindOpenQuote(text, noticed)) {
+        return {*open, L"a second quotation mark is missing: the one here closes nothing before the next line",
+                L"the value that begins here does not end in its line"};
+    }
     if (reason.find(L"does not end") != reason.npos) {
         return {noticed, L"is the \"/\" of that tag missing, or an end tag too many?"};
+    }
+    if (reason.find(L"text outside") != reason.npos && noticed.line == 1 && noticed.column == 1) {
+        return {noticed, L"a configuration file begins with \"<\": is this a file of another kind?"};
     }
     const auto* const slip = std::ranges::find_if(kSlips, [&place](const Slip& one) { return one.isMade(place); });
     return {noticed, slip == std::end(kSlips) ? std::wstring() : slip->fix};
@@ -125,17 +155,19 @@ SyntaxHint HintForSyntax(const std::wstring& fullPath, TextPosition noticed, std
     return varnhold::ReadXmlText(fullPath, text) ? HintForSyntax(text, noticed, reason) : SyntaxHint{noticed, {}};
 }
 
-bool IsUnseenAt(const std::wstring& fullPath, TextPosition position) {
+std::wstring HintForLooseText(const std::wstring& fullPath, TextPosition position) {
     std::string text;
     if (!varnhold::ReadXmlText(fullPath, text)) {
-        return false;
+        return {};
     }
-    const wchar_t sign = PlaceAt(text, position).Here();
-    return sign != 0 && kOtherBlanks.find(sign) != kOtherBlanks.npos;
-}
-
-std::wstring HintForMergeMark(const std::wstring& fullPath, TextPosition position) {
-    std::string text;
-    const bool isMark = varnhold::ReadXmlText(fullPath, text) && IsMergeMark(PlaceAt(text, position).line);
-    return isMark ? kMergeHint : L"";
+    const Place place = PlaceAt(text, position);
+    if (IsMergeMark(place.line)) {
+        return kMergeHint;
+    }
+    if (std::wstring_view(place.line).substr(position.column - 1).starts_with(L"-->")) {
+        return L"a comment ends at its first -->: none can stand within another";
+    }
+    return place.Here() != 0 && kOtherBlanks.find(place.Here()) != kOtherBlanks.npos
+               ? L"remove the character that stands here, although nobody sees it"
+               : L"";
 }

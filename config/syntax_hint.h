@@ -19,8 +19,6 @@ SyntaxHint HintForSyntax(std::string_view text, varnhold::TextPosition noticed, 
 /// The same of a file.
 SyntaxHint HintForSyntax(const std::wstring& fullPath, varnhold::TextPosition noticed, std::wstring_view reason);
 
-/// Whether the character there is one that nobody sees, or a blank that is none to XML.
-bool IsUnseenAt(const std::wstring& fullPath, varnhold::TextPosition position);
-
-/// What to do about a line that a tool for versions left there where two of them differ; empty for any other.
-std::wstring HintForMergeMark(const std::wstring& fullPath, varnhold::TextPosition position);
+/// What to do about text that stands between the tags of a file: the mark of a merge conflict, the end of a comment
+/// within another one, a character that nobody sees. Empty for any other.
+std::wstring HintForLooseText(const std::wstring& fullPath, varnhold::TextPosition position);

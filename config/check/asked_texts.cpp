@@ -1,5 +1,6 @@
 #include "config/check/translation_extract.h"
 
+#include "config/check/file_kind.h"
 #include "config/element_kind.h"
 
 #include <algorithm>
@@ -44,6 +45,9 @@ public:
             return L"status bar";
         case ElementRole::Popup:
         case ElementRole::MenuItem:
+            if (IsShortcutFile(*m_file)) {
+                return L"name of a command with a shortcut, in no menu";
+            }
             return (m_path.empty() ? L"menu bar" : L"menu " + m_path) +
                    (element.role == ElementRole::Popup ? std::wstring(L", popup") : std::wstring(L", item"));
         default:

@@ -26,6 +26,8 @@ struct Command {
     std::map<std::wstring, std::size_t> reported = {};
 };
 
+constexpr std::wstring_view kStatusSeparator = L"Separator";
+
 bool IsNo(std::wstring_view value) { return varnhold::EqualsIgnoringCase(value, L"N"); }
 
 bool IsRegistered(const MetElement& element) {
@@ -112,6 +114,9 @@ private:
         }
         Inherit(element);
         const std::wstring keyword(element.ValueOf(AttributeUse::Keyword));
+        if (element.role == ElementRole::Category || element.role == ElementRole::Panel) {
+            m_containers.try_emplace(keyword, &gathered);
+        }
         if (keyword.empty() || !IsRegistered(element)) {
             CheckShortcut(gathered, nullptr);
             return;
@@ -164,7 +169,7 @@ private:
     void Refer(const GatheredElement& gathered) {
         const std::wstring_view keyword = gathered.element.ValueOf(AttributeUse::Keyword);
         const bool isQuickAccess = gathered.element.role == ElementRole::QuickAccessItem;
-        if (!keyword.empty() && (isQuickAccess || !varnhold::EqualsIgnoringCase(keyword, L"Separator"))) {
+        if (!keyword.empty() && (isQuickAccess || !varnhold::EqualsIgnoringCase(keyword, kStatusSeparator))) {
             if (isQuickAccess) {
                 CheckQuickAccessTwice(gathered);
             }
@@ -320,11 +325,19 @@ private:
             if (!m_isComplete || m_meant.contains(keyword) || m_passedOver.contains(keyword) || IsExplained(keyword)) {
                 continue;
             }
+            const auto container = m_containers.find(keyword);
             if (command != m_commands.end()) {
-                ReportKind(*reference, command->second);
+                ReportKind(*reference, *command->second.first);
+                continue;
+            }
+            if (isQuickAccess && container != m_containers.end()) {
+                ReportKind(*reference, *container->second);
                 continue;
             }
             std::vector<std::wstring> known;
+            if (!isQuickAccess) {
+                known.emplace_back(kStatusSeparator);
+            }
             for (const auto& [name, one] : m_commands) {
                 known.push_back(name);
             }
@@ -346,14 +359,14 @@ private:
                                {PlaceOf(*command.first, AttributeUse::Keyword, L"registered here")});
             }
         } else if (!m_forQuickAccess.contains(std::wstring(element.ValueOf(AttributeUse::Keyword)))) {
-            ReportKind(reference, command);
+            ReportKind(reference, *command.first);
         }
     }
 
-    void ReportKind(const GatheredElement& reference, const Command& command) const {
+    void ReportKind(const GatheredElement& reference, const GatheredElement& shown) const {
         ReportTogether(m_sink, *reference.file, PlaceOf(reference.element, AttributeUse::Keyword), "quick-access-kind",
                        L"only buttons and combos of a ribbon can stand in the quick access toolbar; this is left out",
-                       L"remove it", {PlaceOf(*command.first, AttributeUse::Keyword, L"registered here")});
+                       L"remove it", {PlaceOf(shown, AttributeUse::Keyword, L"this has the keyword")});
     }
 
     /// Whether an element that has another's keyword, which was reported, may be the one of this keyword.
@@ -377,6 +390,8 @@ private:
     DiagnosticsSink& m_sink;
     std::map<std::wstring, Command> m_commands;
     std::vector<Different> m_different;
+    /// Categories and panels, which may be no commands.
+    std::map<std::wstring, const GatheredElement*> m_containers;
     /// They will be commands when what is around them is mended.
     std::set<std::wstring> m_passedOver;
     /// What is built in a way that can be copied to the quick access toolbar.

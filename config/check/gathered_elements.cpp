@@ -10,11 +10,7 @@ void GatheringSink::PassOver(const std::wstring& file) {
     }
 }
 
-void GatheringSink::MarkReported(std::size_t index, AttributeUse use) {
-    for (MetAttribute& attribute : m_elements[index].element.attributes) {
-        attribute.isReported = attribute.isReported || attribute.use == use;
-    }
-}
+void GatheringSink::MarkReported(std::size_t index, AttributeUse use) { m_elements[index].element.MarkReported(use); }
 
 std::size_t GatheringSink::PutFirst(std::size_t from) {
     std::rotate(m_elements.begin(), m_elements.begin() + static_cast<std::ptrdiff_t>(from), m_elements.end());

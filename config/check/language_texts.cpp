@@ -92,6 +92,7 @@ public:
         const auto [placed, isNew] = section.try_emplace(key);
         ++m_units;
         if (!isNew) {
+            m_texts.lostUnits += unit.section == kRibbonSection ? 1 : 0; // it may have another one's key
             m_duplicates.push_back({key, position, placed->second.file, placed->second.position});
         }
         placed->second = {unit.text, m_file, position};

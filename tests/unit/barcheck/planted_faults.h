@@ -227,7 +227,7 @@ inline constexpr PlantedFault kPlantedFaults[] = {
      "<item KEYWORD=\"ScaleLabel\" NAME=\"\" TYPE=\"label\"/><item @@KEYWORD=\"Brand new\" NAME=\"\" TYPE=\"label\"/>",
      "missing-text"},
     {"cfg/menu.xml", "</menu>", "@@</men>", "xml-syntax"},
-    {"cfg/menu.xml", "CMD=\"print\"/>\n      <item MENUNAME=\"", "CMD=\"print/>\n      <item MENUNAME=\"@@",
+    {"cfg/menu.xml", "CMD=\"print\"/>\n      <item MENUNAME=\"", "CMD=@@\"print/>\n      <item MENUNAME=\"",
      "xml-syntax"},
     {"cfg/menu.xml", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>", "@@<?xml version=\"1.0\" encoding=\"utf8x\"?>",
      "xml-encoding"},

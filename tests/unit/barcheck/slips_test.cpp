@@ -68,6 +68,36 @@ const PlantedSlip kSlips[] = {
      L"remove the character that stands here, although nobody sees it"},
     {{"cfg/ribbon.xml", "TYPE=\"label\"/>", "@@TYPE=\"label \"/>", "unknown-type"}, L"did you mean \"label\"?"},
     // Numbers and shortcuts.
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"Strg+P\"", "shortcut-syntax"}, L"did you mean \"Ctrl\"?"},
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"control+P\"", "shortcut-syntax"}, L"did you mean \"Ctrl\"?"},
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"Umschalt+P\"", "shortcut-syntax"}, L"did you mean \"Shift\"?"},
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"Ctrl+ctrl+P\"", "shortcut-syntax"}, L"stands there twice"},
+    {{"cfg/menu.xml", "HOTKEY=\"Ctrl+P\"", "@@HOTKEY=\"Ctrl++\"", "shortcut-syntax"}, L"\"+\" cannot be the key"},
+    {{"cfg/menu.xml", "SHORTKEY=\"P\" HOTKEY", "@@SHORTKEY=\"O+P\" HOTKEY", "access-key-syntax"},
+     L"write the letter alone"},
+    // Pasted from a file of another kind.
+    {{"cfg/ribbon.xml", "<item KEYWORD=\"ScaleLabel\"",
+      "<item KEYWORD=\"Open\" @@MENUNAME=\"\" SHORTKEY=\"O\" PicPath=\"pic\\icon\\open.ico\"/>\n<item "
+      "KEYWORD=\"ScaleLabel\"",
+      "unknown-attribute"},
+     L"write NAME for MENUNAME"},
+    {{"cfg/toolbar.xml", "<item TYPE=\"separate\"/>",
+      "<item KEYWORD=\"Save\" @@NAME=\"\" TOOLTIP=\"\" TYPE=\"BUTTON\" SIZE=\"16\" CMD=\"save\"/>",
+      "unknown-attribute"},
+     L"are attributes of a ribbon file, not of a toolbar file"},
+    {{"cfg/menu.xml", "<item MENUNAME=\"SEPARATOR\"/>",
+      "<item @@TYPE=\"button\" KEYWORD=\"Save\" PROMPT=\"Save\" PICPATH=\"pic\\icon\\save.ico\"/>",
+      "unknown-attribute"},
+     L"write MENUNAME for PROMPT"},
+    {{"cfg/ribbon.xml", "CMD=\"measure\"/>", "@@HOTKEY=\"Ctrl+M\" CMD=\"measure\"/>", "unknown-attribute"},
+     L"it belongs into a menu file"},
+    // What refers to commands.
+    {{"cfg/ribbon.xml", "<item KEYWORD=\"ZoomIn\"/>", "<item @@KEYWORD=\"CatMap\"/>", "quick-access-kind"},
+     L"only buttons and combos"},
+    {{"cfg/ribbon.xml", "<item KEYWORD=\"ZoomIn\"/>", "<item @@KEYWORD=\"PanelZoom\"/>", "quick-access-kind"},
+     L"only buttons and combos"},
+    {{"cfg/ribbon.xml", "<item KEYWORD=\"Separator\"/>", "<item @@KEYWORD=\"Separatr\"/>", "unknown-status-button"},
+     L"did you mean \"Separator\"?"},
     {{"cfg/ribbon.xml", "WIDTH=\"130\"", "@@WIDTH=\"130,5\"", "bad-number"}, L"write the digits 0 to 9 alone"},
     {{"cfg/ribbon.xml", "WIDTH=\"130\"", "@@WIDTH=\"\uFF11\uFF13\uFF10\"", "bad-number"},
      L"write the digits 0 to 9 alone"},
@@ -87,6 +117,18 @@ const PlantedSlip kSlips[] = {
      kZoomIcon},
     {{"cfg/ribbon.xml", "PICPATH=\"pic\\icon\\west.ico\"", "@@PICPATH=\"pic\\icon\\west\"", "missing-icon"}, kZoomIcon},
     // Tags and comments.
+    {{"cfg/menu.xml", "PicPath=\"pic\\icon\\open.ico\"/>", "PicPath=@@\"pic\\icon\\open.ico/>", "xml-syntax"},
+     L"a second quotation mark is missing"},
+    {{"cfg/ribbon.xml", "CMD=\"measure\"/>", "CMD/@@>", "xml-syntax"}, L"is the value missing before this place?"},
+    {{"cfg/ribbon.xml", "KEYWORD=\"ScaleLabel\"", "@@<!-- x --> KEYWORD=\"ScaleLabel\"", "xml-syntax"},
+     L"a comment cannot stand within a tag"},
+    {{"cfg/ribbon.xml", "  <row KEYWORD=\"Main\">", "  <!-- a <!-- b --> @@-->\n  <row KEYWORD=\"Main\">",
+      "stray-text"},
+     L"none can stand within another"},
+    {{"cfg/ribbon.xml", "<group KEYWORD=\"Moves\"", "<@@1group KEYWORD=\"Moves\"", "xml-syntax"},
+     L"the name of an element begins with a letter"},
+    {{"cfg/menu.xml", "<?xml version", "@@{ \"menu\": [] }<?xml version", "xml-syntax"},
+     L"is this a file of another kind?"},
     {{"cfg/ribbon.xml", "<?xml version=", "\n@@<?xml version=", "xml-syntax"}, kDeclaration},
     {{"cfg/menu.xml", "<?xml version=", "  \t@@<?xml version=", "xml-syntax"}, kDeclaration},
     {{"cfg/ribbon.xml", "<item KEYWORD=\"ScaleLabel\" NAME=\"\" TYPE=\"label\"/>",
@@ -232,6 +274,16 @@ TEST_F(SlipWithFiles, AnIconThatWasNotWrittenToItsEndIsOneFinding) {
     const std::string whole = MakeIconFile(16, {0xFF0000, 0x00FF00});
     m_installation.Write("pic/icon/16/west.ico", whole.substr(0, whole.size() - 1));
     ExpectOne("cfg/ribbon.xml:25:64 icon-format", L"copy or save it again");
+}
+
+TEST_F(SlipWithFiles, ACopiedKeyIsOneFindingInEachTable) {
+    for (const char* language : {"en", "de"}) {
+        std::string table = SampleTable(language);
+        const std::string key = "<unit id=\"West\">";
+        table.replace(table.find(key), key.size(), "<unit id=\"Undo\">");
+        m_installation.Write("lang/" + std::string(language) + "/a.xlf", table);
+    }
+    EXPECT_EQ(m_installation.Findings(), "lang/de/a.xlf:31:5 duplicate-text\nlang/en/a.xlf:31:5 duplicate-text\n");
 }
 
 TEST_F(SlipWithFiles, AnIconOfTheOtherSizeAloneIsSaidToBeThat) {
