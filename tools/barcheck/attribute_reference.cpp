@@ -12,14 +12,21 @@ struct FilePage {
     ConfigurationKind kind;
     std::string_view title;
     std::string_view guide;
+    std::string_view picture; ///< of what the viewer's file becomes
 };
 constexpr FilePage kFiles[] = {
     {ConfigurationKind::Ribbon, "The ribbon file",
-     "How the levels of the file are read tells [its guide](ribbon-file.md)."},
-    {ConfigurationKind::Menu, "The menu file", "How popups and items are read tells [its guide](menu-file.md)."},
+     "How the levels of the file are read tells [its guide](ribbon-file.md).",
+     "![What the map viewer's ribbon file becomes: a category with panels, buttons, a slider and an edit]"
+     "(pictures/ribbon-file.png)"},
+    {ConfigurationKind::Menu, "The menu file", "How popups and items are read tells [its guide](menu-file.md).",
+     "![What the map viewer's menu file becomes: popups along a menu bar, one of them open]"
+     "(pictures/menu-file.png)"},
     {ConfigurationKind::ToolBars, "The toolbar file",
      "The document element holds groups, a group toolbars, a toolbar buttons: [its guide](toolbar-file.md) tells "
-     "more."},
+     "more.",
+     "![What the map viewer's toolbar file becomes: toolbars with buttons, separators and combos]"
+     "(pictures/toolbar-file.png)"},
 };
 
 /// A line of a table: "| a | b |".
@@ -74,7 +81,8 @@ std::string TypesOf(ConfigurationKind kind) {
 
 std::string FileReference(const FilePage& file) {
     std::string text = "## " + std::string(file.title) + "\n\n" + std::string(file.guide) + "\n\n" +
-                       Line({"attribute", "on", "value", "without it"}) + "|---|---|---|---|\n";
+                       std::string(file.picture) + "\n\n" + Line({"attribute", "on", "value", "without it"}) +
+                       "|---|---|---|---|\n";
     for (const AttributeGuide& guide : AttributeGuides(file.kind)) {
         text += Line({NamesOf(file.kind, guide.use), guide.elements, guide.type, guide.missing});
     }

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace {
 
@@ -31,6 +33,41 @@ TEST(CleanSample, NothingIsSaidOfTheExampleHostsFiles) {
     const CheckedInstallation installation;
     Copy(kSource / "examples" / "host", installation);
     EXPECT_EQ(installation.Findings(), "");
+}
+
+std::string Contents(const fs::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// Puts a text behind the first line that ends so.
+void WriteBehind(const CheckedInstallation& installation, const std::string& name, const std::string& line,
+                 const std::string& added) {
+    std::string text = Contents(installation.Directory().Path() / name);
+    const std::size_t place = text.find(line);
+    ASSERT_NE(place, std::string::npos) << line;
+    installation.Write(name, text.insert(place + line.size(), "\n" + added));
+}
+
+TEST(CleanSample, OfTheFirstButtonOfTheGuideOnlyTheTextsOfOtherLanguagesAreMissed) {
+    std::vector<std::string> pieces;
+    const std::string guide = Contents(kSource / "docs" / "first-button.md"), begin = "```xml\n";
+    for (std::size_t at = guide.find(begin); at != std::string::npos; at = guide.find(begin, at)) {
+        at += begin.size();
+        pieces.push_back(guide.substr(at, guide.find("```", at) - at));
+    }
+    ASSERT_EQ(pieces.size(), 2u);
+    const CheckedInstallation installation;
+    Copy(kSource / "demo", installation);
+    WriteBehind(installation, "cfg/ribbon.xml", R"(<panel KEYWORD="PanelRegions" NAME="">)", pieces[0]);
+    WriteBehind(installation, "lang/en/viewer.xlf", R"(<file id="RibbonBarCfg">)", pieces[1]);
+    WriteMissingIcons(installation);
+    const std::vector<Diagnostic> findings = installation.Check();
+    EXPECT_FALSE(findings.empty());
+    for (const Diagnostic& finding : findings) {
+        EXPECT_EQ(finding.code, "missing-text") << CheckedInstallation::Describe(finding);
+        EXPECT_NE(finding.text.find(L"CityNairobi"), std::wstring::npos) << wstring2String(finding.text);
+    }
 }
 
 std::string Replaced(std::string text, std::string_view before, std::string_view after) {
