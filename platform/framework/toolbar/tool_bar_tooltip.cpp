@@ -113,7 +113,8 @@ BOOL CMFCToolBar::OnNeedTipText(UINT, NMHDR* pNMH, LRESULT* pResult) {
     const bool isOwn = m_pToolTip != nullptr && pNMH->hwndFrom == m_pToolTip->GetSafeHwnd();
     CMFCToolBarButton* button = GetButton(isOwn ? m_iTooltipButton : static_cast<int>(pNMH->idFrom) - 1);
     m_strToolTip.Empty();
-    if (!button || !OnUserToolTip(button, m_strToolTip)) {
+    // Over an open menu the tooltip would cover what it says.
+    if (!button || button->IsDroppedDown() || !OnUserToolTip(button, m_strToolTip)) {
         return FALSE;
     }
     m_strToolTip += KeysBehind(*button, GetTopLevelFrame());

@@ -78,6 +78,21 @@ TEST_F(ToolBarTooltip, IsSilentOnSeparatorsAndWhereTooltipsAreOff) {
     CMFCToolBar::SetShowTooltips(TRUE);
 }
 
+TEST_F(ToolBarTooltip, IsSilentWhileTheButtonsMenuIsOpen) {
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, 3010, L"Ten");
+    const int index = Bar().InsertButton(CMFCToolBarMenuButton(3020, menu, -1, L"Menu"));
+    LayOut();
+    MoveTo(CenterOf(index));
+    EXPECT_EQ(AskedText(), L"Menu");
+    auto* const button = static_cast<CMFCToolBarMenuButton*>(Bar().GetButton(index));
+    ASSERT_TRUE(button->OpenPopupMenu(&Bar()));
+    EXPECT_EQ(AskedText(), L"");
+    CMFCPopupMenu::CloseAll();
+    EXPECT_EQ(AskedText(), L"Menu");
+}
+
 TEST_F(ToolBarTooltip, GoesWithTheBar) {
     const HWND window = Tooltip()->m_hWnd;
     Bar().DestroyWindow();
