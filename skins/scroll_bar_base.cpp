@@ -84,7 +84,8 @@ void CScrollBarBase::OnMouseWheelScroll() {
     DrawTrack();
 }
 
-bool CScrollBarBase::CanScroll() { return m_totalLength > 0 && GetBaseScrollLimit() > 0; }
+// 0 alone says that there is nothing to scroll.
+bool CScrollBarBase::CanScroll() { return m_totalLength != 0 && GetBaseScrollLimit() != 0; }
 
 void CScrollBarBase::PlaceParts() {
     const scroll::Parts parts = scroll::Arrange(DirectionOf(m_isVertical), fx::FromSize(m_client.Size()), m_arrowSize);

@@ -49,6 +49,14 @@ TEST_F(ScrollBarState, TheThumbIsNeverShorterThan15Pixels) {
     EXPECT_EQ(m_bar.m_thumb.Height(), 15);
 }
 
+TEST_F(ScrollBarState, ALengthOrALimitBelow0IsNot0AndHasTheShortestThumb) {
+    Open(CSize(20, 200), -400);
+    EXPECT_EQ(m_bar.m_thumb, CRect(0, 18, 18, 33));
+    m_bar.limit = -10;
+    m_bar.SetTotalLength(1000000);
+    EXPECT_EQ(m_bar.m_thumb, CRect(0, 18, 18, 33));
+}
+
 TEST_F(ScrollBarState, APositionBeyondTheLimitLeavesTheThumbInTheTrack) {
     m_bar.position = 5000;
     Open();
