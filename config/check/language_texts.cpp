@@ -68,11 +68,16 @@ public:
         ReportLateDeclaration(FileDiagnostics(m_file, m_sink));
         m_texts.isUsable = varnhold::ReadTranslationFile(path, m_texts.code, *this) && m_texts.isUsable;
         ReportDuplicates();
-        ReportUntranslated();
+        m_ofFiles.push_back({m_file, std::move(m_untranslated), m_translated});
     }
 
-    /// When all files are read: a folder of the wrong name is one fault.
-    void ReportOtherLanguages() const {
+    /// When all files are read: a folder of the wrong name is one fault, and what is foreign in it is not known.
+    void ReportLanguage() const {
+        for (const Untranslated& file : m_ofFiles) {
+            if (m_otherLanguages.empty()) {
+                ReportUntranslated(file);
+            }
+        }
         for (const OtherLanguage& one : m_otherLanguages) {
             FileDiagnostics(one.place.file, m_sink)
                 .Report(CodeOf(TranslationProblem::OtherLanguage), one.place.position, one.place.text,
@@ -143,6 +148,12 @@ private:
         std::wstring earlierFile;
         TextPosition earlier;
     };
+    struct Untranslated {
+        std::wstring file;
+        /// Keys and places.
+        std::vector<std::pair<std::wstring, TextPosition>> units;
+        std::size_t translated = 0;
+    };
     struct OtherLanguage {
         RelatedPlace place;
         std::vector<RelatedPlace> others;
@@ -182,16 +193,16 @@ private:
     }
 
     /// Where nothing is translated, that is one thing to say.
-    void ReportUntranslated() const {
+    void ReportUntranslated(const Untranslated& file) const {
         constexpr std::size_t few = 3;
-        const FileDiagnostics diagnostics(m_file, m_sink);
-        if (m_translated == 0 && m_untranslated.size() > few) {
-            diagnostics.Report("untranslated-text", m_untranslated.front().second,
-                               L"none of the " + std::to_wstring(m_untranslated.size()) + L" units has a target",
+        const FileDiagnostics diagnostics(file.file, m_sink);
+        if (file.translated == 0 && file.units.size() > few) {
+            diagnostics.Report("untranslated-text", file.units.front().second,
+                               L"none of the " + std::to_wstring(file.units.size()) + L" units has a target",
                                L"translate them, or let srcLang be the language of the texts");
             return;
         }
-        for (const auto& [key, position] : m_untranslated) {
+        for (const auto& [key, position] : file.units) {
             diagnostics.Report("untranslated-text", position, L"the unit " + Quoted(key) + L" has no target",
                                L"translate it");
         }
@@ -206,6 +217,7 @@ private:
     std::size_t m_translated = 0;
     std::vector<Duplicate> m_duplicates;
     std::size_t m_units = 0;
+    std::vector<Untranslated> m_ofFiles;
     std::vector<OtherLanguage> m_otherLanguages;
     std::map<std::string, std::map<std::wstring, PlacedText>> m_otherTexts;
 };
@@ -256,7 +268,7 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
                 reader.Read(*files.Find(InLanguageFolder(code, name)));
             }
         }
-        reader.ReportOtherLanguages();
+        reader.ReportLanguage();
         if (isLanguage) {
             languages.push_back(std::move(texts));
         }

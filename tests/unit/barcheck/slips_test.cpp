@@ -247,6 +247,14 @@ TEST_F(SlipWithFiles, AFolderThatIsNoLanguagesNameIsOneFinding) {
     ExpectOne("lang/ger/a.xlf:2:1 bad-table", L"give the folder the name of its language");
 }
 
+TEST_F(SlipWithFiles, InAFolderOfAnotherNameNothingIsUntranslatedBesides) {
+    m_installation.Write("lang/en/b.xlf", "<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\" "
+                                          "srcLang=\"de\" trgLang=\"en\">\n<file id=\"Other\"/>\n</xliff>\n");
+    ASSERT_EQ(m_installation.Findings(), "");
+    fs::rename(Path("lang/en"), Path("lang/english"));
+    ExpectOne("lang/english/b.xlf:1:1 bad-table", L"trgLang is \"en\", but the folder is \"english\"");
+}
+
 TEST_F(SlipWithFiles, ATableBesideTheFoldersIsSaidWhereItBelongs) {
     fs::copy(Path("lang/en/a.xlf"), Path("lang/a.xlf"));
     ExpectOne("lang/a.xlf:1:1 bad-table", L"put it into the folder of its language");
