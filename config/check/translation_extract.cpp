@@ -254,7 +254,11 @@ private:
         }
         const std::size_t end = from == std::string::npos ? from : m_table.find(kFileEnd, from);
         if (end == std::string::npos) {
-            CopyUpTo(std::max(m_copied, m_table.rfind("</xliff>")));
+            const std::size_t close = m_table.rfind("</xliff>");
+            if (close == std::string::npos) {
+                return; // <xliff/>, or written in another way: what was asked for is not there then
+            }
+            CopyUpTo(std::max(m_copied, close));
             m_out += "  <file id=\"" + std::string(kRibbonSection) + "\">" + lineEnd + added + "  </file>" + lineEnd;
             return;
         }

@@ -146,6 +146,18 @@ TEST_F(Extracting, NothingIsWrittenWhereACommentLooksLikeTheSection) {
     EXPECT_EQ(table, before);
 }
 
+TEST_F(Extracting, NothingIsWrittenWhereTheDocumentElementHasNoEndTagOfItsOwn) {
+    for (const char* const before : {"<xliff version=\"2.0\" srcLang=\"en\"/>",
+                                     "<xliff version=\"2.0\" srcLang=\"en\"><file id=\"Other\"/></xliff >"}) {
+        std::string table = before;
+        TableCompletion completion;
+        completion.asked = {{L"In", L"cfg/ribbon.xml"}};
+        CompletionCounts counts;
+        EXPECT_FALSE(CompleteTable(table, completion, counts));
+        EXPECT_EQ(table, before);
+    }
+}
+
 TEST_F(Extracting, NothingIsWrittenWhereSomethingCannotBeRead) {
     WriteSample(m_installation);
     const std::string before = Read("lang/de/a.xlf");
