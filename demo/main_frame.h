@@ -108,7 +108,6 @@ private:
     void TakeBarIcons();
     void CopyPicture(CBitmap* picture);
     void SavePicture(CBitmap* picture);
-    void RequestPage(const CMapWindow::PictureTaker& taker);
     PrintPages PagesWith(CBitmap& page) const;
     void PrintOn(CWnd& owner, CBitmap* page);
     DialogLook LookOfDialogs() const;

@@ -32,6 +32,10 @@
 
 namespace {
 
+// Pixels of a page's picture for each that the page has in the window.
+constexpr int kOnScreen = 1;
+constexpr int kOnPaper = 2; // paper is finer
+
 /// The window is the frame's open one as long as this lives, for the record.
 class OpenDialog {
 public:
@@ -258,20 +262,12 @@ void CMainFrame::SavePicture() {
     m_map.RequestPicture([this](CBitmap* picture) { SavePicture(picture); });
 }
 
-/// Of the map what goes on the page now.
-void CMainFrame::RequestPage(const CMapWindow::PictureTaker& taker) {
-    m_map.RequestPicture([box = m_state.PageBox(), taker](CBitmap* whole) {
-        CBitmap page;
-        taker(whole != nullptr && CutPicture(*whole, box, page) ? &page : nullptr);
-    });
-}
-
 void CMainFrame::CopyPage() {
-    RequestPage([this](CBitmap* page) { CopyPicture(page); });
+    m_map.RequestPage(kOnScreen, [this](CBitmap* page) { CopyPicture(page); });
 }
 
 void CMainFrame::SavePage() {
-    RequestPage([this](CBitmap* page) { SavePicture(page); });
+    m_map.RequestPage(kOnScreen, [this](CBitmap* page) { SavePicture(page); });
 }
 
 PrintPages CMainFrame::PagesWith(CBitmap& page) const {
@@ -297,7 +293,7 @@ void CMainFrame::PrintOn(CWnd& owner, CBitmap* page) {
 }
 
 void CMainFrame::PrintPage() {
-    RequestPage([this](CBitmap* page) { PrintOn(*this, page); });
+    m_map.RequestPage(kOnPaper, [this](CBitmap* page) { PrintOn(*this, page); });
 }
 
 DialogLook CMainFrame::LookOfDialogs() const {
@@ -307,7 +303,7 @@ DialogLook CMainFrame::LookOfDialogs() const {
 }
 
 void CMainFrame::PreviewPage() {
-    RequestPage([this](CBitmap* page) {
+    m_map.RequestPage(kOnPaper, [this](CBitmap* page) {
         if (page == nullptr) {
             Warn(ViewerText("PrintFailed"), *this);
             return;

@@ -335,6 +335,19 @@ WindowBox MapState::PageBox() const {
     return {left, top, left + width, top + height};
 }
 
+WindowBox MapState::WrittenBox() const {
+    return m_mode == MapMode::Print ? PageBox() : WindowBox{0, 0, m_width, m_height};
+}
+
+MapState MapState::OfPage(int factor) const {
+    const WindowBox box = PageBox();
+    MapState page = Enlarged(factor);
+    page.m_width = (box.right - box.left) * factor;
+    page.m_height = (box.bottom - box.top) * factor;
+    page.m_mode = MapMode::Browse;
+    return page;
+}
+
 MapState MapState::Enlarged(int factor) const {
     MapState enlarged = *this;
     enlarged.m_width *= factor;

@@ -134,6 +134,8 @@ public:
     void SetPage(PageShape page);
     /// What of the window goes on the page: an A4 sheet as large as fits, with a margin around.
     WindowBox PageBox() const;
+    /// Where texts stand: on the page while one is chosen, so that it has all of them, otherwise all over the window.
+    WindowBox WrittenBox() const;
 
     /// What was read from files, in the order in which it was opened.
     const std::vector<std::shared_ptr<const GeoFeatures>>& Opened() const noexcept { return m_opened; }
@@ -150,6 +152,9 @@ public:
 
     /// The same view in a window that is `factor` times as wide and high.
     MapState Enlarged(int factor) const;
+    /// What goes on the page as a map of its own, in a window that is `factor` times as wide and high as the page's box
+    /// and shows nothing of the working mode.
+    MapState OfPage(int factor) const;
 
     /// Rises with every change that shows.
     unsigned Version() const noexcept { return m_version; }

@@ -58,14 +58,15 @@ std::wstring DegreeText(int degrees, wchar_t positive, wchar_t negative) {
     return result;
 }
 
-/// Numbers along the upper and the left edge of what is seen; those without room, on the map or beside each other, are
-/// left out.
+/// Numbers along the upper and the left edge of what is written on; those without room, on the map or beside each
+/// other, are left out.
 void DrawGraticuleNumbers(const MapCanvas& canvas, const TextStyle& style, TextPlaces& places) {
     const int spacing = canvas.state.GraticuleSpacing();
     const PointF northWest = canvas.At({-180, 90});
     const PointF southEast = canvas.At({180, -90});
-    const REAL top = std::max(northWest.Y, REAL(0));
-    const REAL left = std::max(northWest.X, REAL(0));
+    const WindowBox written = canvas.state.WrittenBox();
+    const REAL top = std::max(northWest.Y, static_cast<REAL>(written.top));
+    const REAL left = std::max(northWest.X, static_cast<REAL>(written.left));
     const auto write = [&](const std::wstring& text, PointF at) {
         const RectF place = PlaceOfText(canvas, style.font, text, at);
         const bool isOnMap = place.GetRight() <= southEast.X && place.GetBottom() <= southEast.Y;
@@ -148,8 +149,9 @@ void DrawScaleBar(const MapCanvas& canvas, const TextStyle& style, TextPlaces& p
     const double pixelsPerKilometre = view.pixelsPerDegree / (kKilometresPerDegree * shrink);
     const double kilometres = RoundLength(160 * canvas.style.scale / pixelsPerKilometre);
     const REAL length = static_cast<REAL>(kilometres * pixelsPerKilometre);
-    const REAL left = canvas.Scaled(16);
-    const REAL bottom = static_cast<REAL>(canvas.state.WindowHeight()) - canvas.Scaled(16);
+    const WindowBox box = canvas.state.WrittenBox();
+    const REAL left = static_cast<REAL>(box.left) + canvas.Scaled(16);
+    const REAL bottom = static_cast<REAL>(box.bottom) - canvas.Scaled(16);
 
     Gdiplus::Pen halo(canvas.Lit(MapLayer::ScaleBar, canvas.colors.halo), canvas.Scaled(5));
     Gdiplus::Pen ink(canvas.Ink(MapLayer::ScaleBar, canvas.colors.text), canvas.Scaled(2));
@@ -177,7 +179,9 @@ void DrawMapTexts(const MapCanvas& canvas, const std::vector<City>& cities) {
     const Gdiplus::Font small(&family, canvas.Scaled(11), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font normal(&family, canvas.Scaled(12), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
     const Gdiplus::Font names(&family, canvas.Scaled(state.NameSize()), Gdiplus::FontStyleRegular, Gdiplus::UnitPixel);
-    TextPlaces places(state.WindowWidth(), state.WindowHeight());
+    const WindowBox written = state.WrittenBox();
+    TextPlaces places({static_cast<double>(written.left), static_cast<double>(written.top),
+                       static_cast<double>(written.right), static_cast<double>(written.bottom)});
     if (state.IsShown(MapLayer::ScaleBar)) {
         DrawScaleBar(canvas, StyleOf(canvas, normal, MapLayer::ScaleBar, MapLabel::ScaleBarText), places);
     }

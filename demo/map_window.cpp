@@ -196,6 +196,13 @@ void CMapWindow::RequestPicture(PictureTaker taker) {
     m_drawer->OrderKept(m_state, m_style, m_keptOrder);
 }
 
+void CMapWindow::RequestPage(int fineness, PictureTaker taker) {
+    MapPaintStyle style = m_style;
+    style.scale *= fineness;
+    m_takers[++m_keptOrder] = std::move(taker);
+    m_drawer->OrderKept(m_state.OfPage(fineness), style, m_keptOrder);
+}
+
 // A taker may run for long, or end the window: nothing of the window is held while it does.
 void CMapWindow::HandOver(HBITMAP drawn, const MapState& state, const PictureTaker& taker) {
     CBitmap picture;

@@ -41,6 +41,8 @@ public:
     /// Hands over a picture of the map as it is now: at once where it is drawn, otherwise when it is. Whoever waits for
     /// it here would keep the whole program waiting.
     void RequestPicture(PictureTaker taker);
+    /// The same of what goes on the page, drawn for itself: `fineness` pixels for each that the page has in the window.
+    void RequestPage(int fineness, PictureTaker taker);
 
 protected:
     afx_msg void OnPaint();

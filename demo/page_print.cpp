@@ -5,6 +5,9 @@
 #include <commdlg.h>
 #include <winspool.h>
 
+#include <algorithm>
+#include <array>
+#include <cstdint>
 #include <memory>
 #include <type_traits>
 #include <vector>
@@ -52,6 +55,38 @@ PrintSheet SheetOf(HDC printer) {
     return sheet;
 }
 
+/// The picture in no more pixels than the sheet has for it: each is the mean of all that it stands for, whereas devices
+/// leave out lines and parts of letters.
+std::vector<std::uint32_t> Shrunk(const std::vector<std::uint32_t>& pixels, int width, int height, int newWidth,
+                                  int newHeight) {
+    if (newWidth == width && newHeight == height) {
+        return pixels;
+    }
+    const auto begin = [](int at, int all, int parts) {
+        return static_cast<int>(static_cast<std::int64_t>(at) * all / parts);
+    };
+    std::vector<std::uint32_t> shrunk;
+    shrunk.reserve(static_cast<std::size_t>(newWidth) * newHeight);
+    for (int row = 0; row < newHeight; ++row) {
+        const int top = begin(row, height, newHeight), bottom = begin(row + 1, height, newHeight);
+        for (int column = 0; column < newWidth; ++column) {
+            const int left = begin(column, width, newWidth), right = begin(column + 1, width, newWidth);
+            std::array<std::uint32_t, 3> sums = {};
+            for (int y = top; y < bottom; ++y) {
+                for (int x = left; x < right; ++x) {
+                    const std::uint32_t pixel = pixels[static_cast<std::size_t>(y) * width + x];
+                    for (std::size_t channel = 0; channel < sums.size(); ++channel) {
+                        sums[channel] += pixel >> (8 * channel) & 0xFF;
+                    }
+                }
+            }
+            const auto count = static_cast<std::uint32_t>((bottom - top) * (right - left));
+            shrunk.push_back(sums[2] / count << 16 | sums[1] / count << 8 | sums[0] / count);
+        }
+    }
+    return shrunk;
+}
+
 } // namespace
 
 bool DrawOnSheet(HDC printer, CBitmap& picture) { return DrawOnSheet(printer, picture, SheetOf(printer)); }
@@ -72,11 +107,15 @@ bool DrawOnSheet(HDC printer, CBitmap& picture, const PrintSheet& sheet) {
                     static_cast<UINT>(description.bmHeight), pixels.data(), &info, DIB_RGB_COLORS) == 0) {
         return false;
     }
+    const int width = std::min<int>(place.right - place.left, description.bmWidth);
+    const int height = std::min<int>(place.bottom - place.top, description.bmHeight);
+    pixels = Shrunk(pixels, description.bmWidth, description.bmHeight, width, height);
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height;
     ::SetStretchBltMode(printer, HALFTONE);
     ::SetBrushOrgEx(printer, 0, 0, nullptr);
     return ::StretchDIBits(printer, place.left, place.top, place.right - place.left, place.bottom - place.top, 0, 0,
-                           description.bmWidth, description.bmHeight, pixels.data(), &info, DIB_RGB_COLORS,
-                           SRCCOPY) > 0;
+                           width, height, pixels.data(), &info, DIB_RGB_COLORS, SRCCOPY) > 0;
 }
 
 namespace {

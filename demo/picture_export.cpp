@@ -86,21 +86,3 @@ std::wstring AskForMapFile(HWND owner, const std::wstring& filterName) {
     return AskForFile(owner, {filterName, L"*.geojson;*.json"}, nullptr, OFN_FILEMUSTEXIST | OFN_HIDEREADONLY,
                       ::GetOpenFileNameW);
 }
-
-bool CutPicture(CBitmap& picture, const WindowBox& part, CBitmap& cut) {
-    const int width = part.right - part.left;
-    const int height = part.bottom - part.top;
-    CClientDC screen(nullptr);
-    CDC source;
-    CDC target;
-    if (width <= 0 || height <= 0 || !cut.CreateCompatibleBitmap(&screen, width, height) ||
-        !source.CreateCompatibleDC(&screen) || !target.CreateCompatibleDC(&screen)) {
-        return false;
-    }
-    CBitmap* const sourceBefore = source.SelectObject(&picture);
-    CBitmap* const targetBefore = target.SelectObject(&cut);
-    const BOOL isCut = target.BitBlt(0, 0, width, height, &source, part.left, part.top, SRCCOPY);
-    source.SelectObject(sourceBefore);
-    target.SelectObject(targetBefore);
-    return isCut != FALSE;
-}

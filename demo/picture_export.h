@@ -2,8 +2,6 @@
 
 #include <afxwin.h>
 
-#include "map_state.h"
-
 #include <string>
 
 /// Puts the picture on the clipboard, which then owns the bitmap. False, and the picture stays the caller's, when the
@@ -16,5 +14,3 @@ bool PutTextOnClipboard(HWND owner, const std::wstring& text);
 std::wstring AskForPictureFile(HWND owner, const std::wstring& filterName);
 /// The file that the user chose to open; empty when the question was cancelled.
 std::wstring AskForMapFile(HWND owner, const std::wstring& filterName);
-/// Copies a part of the picture into a new bitmap. False when there is no room for one, or the part is empty.
-bool CutPicture(CBitmap& picture, const WindowBox& part, CBitmap& cut);

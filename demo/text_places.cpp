@@ -3,7 +3,8 @@
 #include <algorithm>
 
 bool TextPlaces::Take(const TextBox& box) {
-    const bool isInside = box.left >= 0 && box.top >= 0 && box.right <= m_width && box.bottom <= m_height;
+    const bool isInside = box.left >= m_written.left && box.top >= m_written.top && box.right <= m_written.right &&
+                          box.bottom <= m_written.bottom;
     const auto covers = [&box](const TextBox& other) {
         return box.left < other.right && other.left < box.right && box.top < other.bottom && other.top < box.bottom;
     };

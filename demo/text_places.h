@@ -10,11 +10,11 @@ struct TextBox {
     double bottom = 0;
 };
 
-/// Where texts stand on a picture: none over another, none over what was kept free, and none cut off at the picture's
-/// edge.
+/// Where texts stand on a part of a picture: none over another, none over what was kept free, and none cut off at the
+/// part's edge.
 class TextPlaces {
 public:
-    TextPlaces(double width, double height) : m_width(width), m_height(height) {}
+    explicit TextPlaces(const TextBox& written) : m_written(written) {}
 
     /// No text from here on stands there. The box may lie over anything.
     void KeepFree(const TextBox& box) { m_taken.push_back(box); }
@@ -22,8 +22,7 @@ public:
     bool Take(const TextBox& box);
 
 private:
-    double m_width;
-    double m_height;
+    TextBox m_written;
     std::vector<TextBox> m_taken;
 };
 

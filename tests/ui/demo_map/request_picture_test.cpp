@@ -89,6 +89,62 @@ TEST_F(RequestedPicture, HasTheSizeOfTheMapAndIsWhollyDrawn) {
     EXPECT_EQ(corner, GroundOf(state));
 }
 
+/// What a picture is, and whether its left lower part, where the scale bar stands, has anything but the ground.
+struct SeenPicture {
+    CSize size;
+    bool hasScaleBar = false;
+};
+
+SeenPicture Look(CBitmap& picture, COLORREF ground) {
+    BITMAP measured{};
+    picture.GetBitmap(&measured);
+    SeenPicture seen{{measured.bmWidth, measured.bmHeight}};
+    CClientDC screen(nullptr);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap* const before = dc.SelectObject(&picture);
+    for (int y = measured.bmHeight / 2; y < measured.bmHeight; ++y) {
+        for (int x = 0; x < measured.bmWidth / 2; ++x) {
+            seen.hasScaleBar = seen.hasScaleBar || dc.GetPixel(x, y) != ground;
+        }
+    }
+    dc.SelectObject(before);
+    return seen;
+}
+
+TEST_F(RequestedPicture, OfAPageHasItsScaleBarOnIt) {
+    map->MoveWindow(0, 0, 4 * kWidth, 4 * kHeight); // the bar takes some room
+    state.SetShown(MapLayer::ScaleBar, true);
+    state.SetMode(MapMode::Print);
+    map->ShowState();
+    const WindowBox box = state.PageBox();
+    for (const int fineness : {1, 2}) {
+        SeenPicture seen;
+        map->RequestPage(fineness, [&](CBitmap* picture) { seen = Look(*picture, GroundOf(state)); });
+        ASSERT_TRUE(PumpUntil([&] { return seen.size.cx > 0; }));
+        EXPECT_EQ(seen.size, CSize(fineness * (box.right - box.left), fineness * (box.bottom - box.top)));
+        EXPECT_TRUE(seen.hasScaleBar);
+    }
+}
+
+TEST_F(RequestedPicture, OfAPageHasNoCrossOfTheMarks) {
+    state.SetMode(MapMode::Edit);
+    map->ShowState();
+    bool isTaken = false;
+    map->RequestPage(1, [&](CBitmap* picture) {
+        isTaken = true;
+        CClientDC screen(nullptr);
+        CDC dc;
+        dc.CreateCompatibleDC(&screen);
+        CBitmap* const before = dc.SelectObject(picture);
+        BITMAP measured{};
+        picture->GetBitmap(&measured);
+        EXPECT_EQ(dc.GetPixel(measured.bmWidth / 2 + 8, measured.bmHeight / 2), GroundOf(state));
+        dc.SelectObject(before);
+    });
+    ASSERT_TRUE(PumpUntil([&] { return isTaken; }));
+}
+
 TEST_F(RequestedPicture, OfAMapThatIsBeingDrawnComesWhenItIs) {
     Show(MapPalette::Night);
     ASSERT_FALSE(map->IsFinished());

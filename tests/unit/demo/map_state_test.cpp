@@ -265,3 +265,45 @@ TEST(MapPage, AWindowWithoutRoomHasAnEmptyPage) {
     EXPECT_EQ(page.right - page.left, 0);
     EXPECT_EQ(page.bottom - page.top, 0);
 }
+
+TEST(MapPage, TextsKeepToThePageWhileOneIsChosen) {
+    MapState state;
+    state.SetWindowSize(1200, 600);
+    const WindowBox all = state.WrittenBox();
+    EXPECT_EQ(std::tuple(all.left, all.top, all.right, all.bottom), std::tuple(0, 0, 1200, 600));
+    state.SetMode(MapMode::Print);
+    const WindowBox page = state.PageBox(), written = state.WrittenBox();
+    EXPECT_EQ(std::tuple(written.left, written.top, written.right, written.bottom),
+              std::tuple(page.left, page.top, page.right, page.bottom));
+}
+
+TEST(MapPage, OnItsOwnIsAMapThatShowsTheSamePlaces) {
+    for (const int fineness : {1, 2}) {
+        MapState state;
+        state.SetWindowSize(1200, 600);
+        state.SetMode(MapMode::Print);
+        state.CenterOn({20, 45});
+        const WindowBox box = state.PageBox();
+        const MapState page = state.OfPage(fineness);
+        EXPECT_EQ(page.WindowWidth(), fineness * (box.right - box.left));
+        EXPECT_EQ(page.WindowHeight(), fineness * (box.bottom - box.top));
+        EXPECT_EQ(page.WrittenBox().right, page.WindowWidth()) << "it is written on all over";
+        const double pixel = 1 / state.View().pixelsPerDegree;
+        const GeoPoint corner = page.ToPlace(0, 0), seen = state.ToPlace(box.left, box.top);
+        EXPECT_NEAR(corner.longitude, seen.longitude, pixel);
+        EXPECT_NEAR(corner.latitude, seen.latitude, pixel);
+        const GeoPoint end = page.ToPlace(page.WindowWidth(), page.WindowHeight());
+        const GeoPoint seenEnd = state.ToPlace(box.right, box.bottom);
+        EXPECT_NEAR(end.longitude, seenEnd.longitude, pixel);
+        EXPECT_NEAR(end.latitude, seenEnd.latitude, pixel);
+    }
+}
+
+TEST(MapPage, OnItsOwnShowsNothingOfTheWorkingMode) {
+    MapState state;
+    state.SetWindowSize(1200, 600);
+    state.SetMode(MapMode::Edit);
+    state.AddMark();
+    EXPECT_EQ(state.OfPage(1).Mode(), MapMode::Browse);
+    EXPECT_EQ(state.OfPage(1).Marks().size(), 1u);
+}

@@ -76,6 +76,25 @@ TEST(DrawOnSheet, AWidePictureKeepsItsProportions) {
     EXPECT_EQ(::GetPixel(sheet.Dc(), sheet.Width() / 2, middle - height / 2 + 4), kRed);
 }
 
+TEST(DrawOnSheet, OfAPictureThatIsFinerThanTheSheetNoLineIsLeftOut) {
+    const BitmapSheet sheet;
+    const PrintSheet small{80, 80, 0, 0, 25, 25}; // its margins leave 50 pixels, a quarter of the picture's
+    CBitmap picture;
+    MakePicture(picture, 200, 200);
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CBitmap* const before = dc.SelectObject(&picture);
+    for (int line = 0; line < 200; line += 4) {
+        dc.FillSolidRect(CRect(line + line / 4 % 4, 0, line + line / 4 % 4 + 1, 200), kWhite);
+    }
+    dc.SelectObject(before);
+    ASSERT_TRUE(DrawOnSheet(sheet.Dc(), picture, small));
+    for (int x = 16; x < 64; ++x) {
+        const COLORREF seen = ::GetPixel(sheet.Dc(), x, 40);
+        EXPECT_NEAR(GetGValue(seen), (3 * GetGValue(kRed) + 255) / 4, 2) << x;
+    }
+}
+
 TEST(DrawOnSheet, AMetafileHoldsThePictureOnce) {
     const HDC recorder = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
     CBitmap picture;

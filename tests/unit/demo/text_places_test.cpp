@@ -7,7 +7,7 @@ namespace {
 /// Of a picture of 200 x 100 pixels.
 class MapTexts : public testing::Test {
 protected:
-    TextPlaces m_places{200, 100};
+    TextPlaces m_places{{0, 0, 200, 100}};
 };
 
 TEST_F(MapTexts, NoneStandsOverAnother) {
@@ -30,6 +30,16 @@ TEST_F(MapTexts, NoneIsCutOffAtAnEdge) {
     EXPECT_FALSE(m_places.Take({10, 95, 30, 101}));
     EXPECT_TRUE(m_places.Take({0, 0, 30, 20}));
     EXPECT_TRUE(m_places.Take({170, 80, 200, 100}));
+}
+
+TEST(MapTextsOfAPart, NoneIsCutOffAtThePartsEdge) {
+    TextPlaces places({50, 20, 150, 80});
+    EXPECT_FALSE(places.Take({49, 30, 80, 40}));
+    EXPECT_FALSE(places.Take({60, 19, 80, 40}));
+    EXPECT_FALSE(places.Take({140, 30, 151, 40}));
+    EXPECT_FALSE(places.Take({60, 70, 80, 81}));
+    EXPECT_TRUE(places.Take({50, 20, 80, 40}));
+    EXPECT_TRUE(places.Take({120, 60, 150, 80}));
 }
 
 TEST_F(MapTexts, NoneStandsOverWhatWasKeptFree) {
