@@ -48,14 +48,8 @@ void DrawMark(CDC* pDC, const CRect& rect, BOOL isRadio, COLORREF color) {
 }
 
 void DrawSubmenuArrow(CDC* pDC, const CRect& rect, COLORREF color) {
-    const int half = std::max(3, ribbon::CurrentMetrics().Scaled(3));
-    const CPoint middle = rect.CenterPoint();
-    const COLORREF oldColor = pDC->GetBkColor();
-    for (int column = 0; column <= half; ++column) {
-        const int reach = half - column;
-        pDC->FillSolidRect(middle.x - half / 2 + column, middle.y - reach, 1, 2 * reach + 1, color);
-    }
-    pDC->SetBkColor(oldColor);
+    visual::PaintChevron(*pDC, rect, visual::ArrowDirection::Right, visual::FromColorRef(color),
+                         {visual::StyleSkin(0), ribbon::CurrentMetrics().scale});
 }
 
 } // namespace

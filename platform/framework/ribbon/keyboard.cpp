@@ -5,11 +5,12 @@
 
 #include <imm.h>
 
-#include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "afxRibbonEdit.h"
 #include "afxribbonpanelmenu.h"
 #include "fx/window_guard.h"
+#include "visual/manager_instance.h"
+#include "visual/paint_ribbon.h"
 #include "window/focus.h"
 
 using ribbon::KeyEvent;
@@ -214,14 +215,9 @@ void RibbonKeyboard::DrawFocus(CDC& dc) const {
     if (focused == nullptr || focused->GetRect().IsRectEmpty() || (edit != nullptr && edit->TakesTyping())) {
         return;
     }
-    CRect rect = focused->GetRect();
-    const int inset = afxGlobalData.ScalePixels(2);
-    rect.DeflateRect(inset, inset);
-    const COLORREF text = dc.SetTextColor(RGB(0, 0, 0));
-    const COLORREF background = dc.SetBkColor(RGB(255, 255, 255));
-    dc.DrawFocusRect(rect);
-    dc.SetBkColor(background);
-    dc.SetTextColor(text);
+    const CRect rect = focused->GetRect();
+    const COLORREF ground = dc.GetPixel(rect.TopLeft()); // beside the round corner of its plate
+    visual::PaintFocus(dc, rect, visual::FromColorRef(ground != CLR_INVALID ? ground : 0), visual::CurrentLook());
 }
 
 // ---- pop-ups and lists

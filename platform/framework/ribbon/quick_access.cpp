@@ -6,6 +6,7 @@
 #include "ribbon/bar_menus.h"
 #include "ribbon/element_metrics.h"
 #include "ribbon/metrics.h"
+#include "visual/manager_instance.h"
 
 // ---- the default state
 
@@ -59,13 +60,14 @@ void CMFCRibbonQuickAccessCustomizeButton::OnDraw(CDC* pDC) {
     const COLORREF color = isOnCaption && !hasFace
                                ? CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(IsDisabled())
                                : ribbon::TextColor(pDC, onFace, IsDisabled());
-    const int half = afxGlobalData.ScalePixels(3);
-    const int toArrow = half + half / 2; // from the top of the line above it
-    const CPoint corner(m_rect.CenterPoint().x - half, m_rect.CenterPoint().y - (toArrow + half) / 2);
-    pDC->FillSolidRect(corner.x, corner.y, 2 * half - 1, std::max(half / 3, 1), color);
-    for (int row = 0; row < half; ++row) {
-        pDC->FillSolidRect(corner.x + row, corner.y + toArrow + row, 2 * (half - row) - 1, 1, color);
-    }
+    const visual::Look look = visual::CurrentLook();
+    const int half = look.Px(3), step = look.Px(3); // of the line, and from it to the middle of the arrow
+    const CPoint middle = m_rect.CenterPoint();
+    visual::PaintSolid(*pDC, {middle.x - half, middle.y - step, middle.x + half + 1, middle.y - step + look.Line()},
+                       visual::FromColorRef(color));
+    CRect arrow = m_rect;
+    arrow.OffsetRect(0, step / 2 + 1);
+    visual::PaintChevron(*pDC, arrow, visual::ArrowDirection::Down, visual::FromColorRef(color), look);
 }
 
 void CMFCRibbonQuickAccessCustomizeButton::OnShowPopupMenu() {

@@ -1,12 +1,11 @@
 // The commands that the quick access toolbar has no room for, and the button that shows them.
-#include <algorithm>
-
 #include "afxglobals.h"
 #include "afxribbonbar.h"
 #include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_menus.h"
 #include "ribbon/bar_parts.h"
+#include "visual/manager_instance.h"
 
 IMPLEMENT_DYNCREATE(CMFCRibbonQuickAccessMoreButton, CMFCRibbonButton)
 
@@ -21,13 +20,11 @@ void CMFCRibbonQuickAccessMoreButton::OnDraw(CDC* pDC) {
     OnFillBackground(pDC);
     OnDrawBorder(pDC);
     const COLORREF color = CMFCVisualManager::GetInstance()->GetRibbonQuickAccessToolBarTextColor(IsDisabled());
-    const int half = afxGlobalData.ScalePixels(3);
-    const int thick = std::max(half / 2, 1);
-    const CPoint center = m_rect.CenterPoint();
-    for (const int left : {center.x - half - 1, center.x + 1}) {
-        for (int row = -half; row <= half; ++row) {
-            pDC->FillSolidRect(left + half - std::abs(row), center.y + row, thick, 1, color);
-        }
+    const visual::Look look = visual::CurrentLook();
+    for (const int aside : {-look.Px(2), look.Px(2)}) {
+        CRect arrow = m_rect;
+        arrow.OffsetRect(aside, 0);
+        visual::PaintChevron(*pDC, arrow, visual::ArrowDirection::Right, visual::FromColorRef(color), look);
     }
 }
 

@@ -5,6 +5,8 @@
 #include "toolbar/button_drag.h"
 #include "toolbar/choose_buttons.h"
 #include "toolbar/metrics.h"
+#include "visual/manager_instance.h"
+#include "visual/paint_ribbon.h"
 
 #include <cstdlib>
 #include <utility>
@@ -75,7 +77,7 @@ void CommandList::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) {
     dc->SetTextColor(before);
     const UINT noFocus = ODS_NOFOCUSRECT;
     if ((lpDrawItemStruct->itemState & (ODS_FOCUS | noFocus)) == ODS_FOCUS) {
-        dc->DrawFocusRect(row);
+        visual::PaintFocus(*dc, row, visual::FromColorRef(dc->GetPixel(row.TopLeft())), visual::CurrentLook());
     }
 }
 

@@ -4,6 +4,8 @@
 #include "fx/dc_scope.h"
 #include "fx/registered_messages.h"
 #include "toolbar/metrics.h"
+#include "visual/manager_instance.h"
+#include "visual/paint_ribbon.h"
 
 #include <algorithm>
 #include <memory>
@@ -114,8 +116,8 @@ bool HidesCue(HWND window, UINT cue) { return (::SendMessageW(window, WM_QUERYUI
 
 void DrawFocus(CDC& dc, HWND window, CRect rect) {
     if (::GetFocus() == window && !HidesCue(window, UISF_HIDEFOCUS)) {
-        rect.DeflateRect(Scaled(3), Scaled(3));
-        dc.DrawFocusRect(rect);
+        rect.DeflateRect(Scaled(2), Scaled(2));
+        visual::PaintFocus(dc, rect, visual::FromColorRef(dc.GetPixel(rect.TopLeft())), visual::CurrentLook());
     }
 }
 

@@ -8,8 +8,7 @@
 #include "fx/dc_scope.h"
 #include "toolbar/menu_row.h"
 #include "toolbar/metrics.h"
-
-#include <algorithm>
+#include "visual/manager_instance.h"
 
 using toolbar::Scaled;
 
@@ -33,20 +32,9 @@ int TextWidth(CDC& dc, const CString& text, UINT flags) {
     return rect.Width();
 }
 
-/// A filled triangle in the middle of the rectangle.
 void DrawArrow(CDC& dc, const CRect& rect, bool isToTheRight, COLORREF color) {
-    const int depth = std::max(3, Scaled(4)); // from base to tip
-    const CPoint centre = rect.CenterPoint();
-    for (int i = 0; i < depth; ++i) {
-        const int half = depth - 1 - i;
-        const CPoint start(centre.x - depth / 2 + i, centre.y - half);
-        const CPoint lying(centre.x - half, centre.y - depth / 2 + i);
-        if (isToTheRight) {
-            dc.FillSolidRect(CRect(start, CSize(1, 2 * half + 1)), color);
-        } else {
-            dc.FillSolidRect(CRect(lying, CSize(2 * half + 1, 1)), color);
-        }
-    }
+    visual::PaintChevron(dc, rect, isToTheRight ? visual::ArrowDirection::Right : visual::ArrowDirection::Down,
+                         visual::FromColorRef(color), visual::CurrentLook());
 }
 
 /// The host's drawing of the image. TRUE: done.

@@ -1,6 +1,7 @@
 // The part of CMFCVisualManager that rooms below the managers call without a virtual function.
 #include "visual/manager_instance.h"
 
+#include "afxglobals.h"
 #include "afxvisualmanager.h"
 
 #include <algorithm>
@@ -10,12 +11,20 @@ namespace {
 visual::ManagerMaker g_maker = nullptr;
 CMFCVisualManager* g_manager = nullptr;
 
+/// Opens the table, which managers keep for themselves and their kin.
+struct SkinReader : CMFCVisualManager {
+    static const visual::Skin& SkinOf(const CMFCVisualManager& manager) { return (manager.*&SkinReader::GetSkin)(); }
+};
+
 } // namespace
 
 namespace visual {
 
 void SetManagerMaker(ManagerMaker maker) { g_maker = maker; }
 CMFCVisualManager* StandingManager() { return g_manager; }
+Look CurrentLook() {
+    return {SkinReader::SkinOf(*CMFCVisualManager::GetInstance()), afxGlobalData.GetRibbonImageScale()};
+}
 void SetStandingManager(CMFCVisualManager* manager) { g_manager = manager; }
 
 } // namespace visual

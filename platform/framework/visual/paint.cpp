@@ -188,9 +188,6 @@ void PaintEtchedLine(HDC dc, const RECT& rect, bool isUpright, Argb dark, Argb l
     PaintSolid(dc, {rect.left, y + line, rect.right, y + 2 * line}, light);
 }
 
-namespace {
-
-/// Two strokes that meet in a point: the arrow of flat skins.
 void PaintChevron(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, const Look& look) {
     const int reach = look.Px(4), depth = look.Px(2) + look.Line();
     const LONG middleX = (rect.left + rect.right) / 2, middleY = (rect.top + rect.bottom) / 2;
@@ -223,8 +220,6 @@ void PaintChevron(HDC dc, const RECT& rect, ArrowDirection direction, Argb color
     });
     FillPolygon(canvas.View(), points, color);
 }
-
-} // namespace
 
 void PaintArrow(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, Argb light, const Look& look) {
     if (look.skin.isFlat) {

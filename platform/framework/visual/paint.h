@@ -51,7 +51,9 @@ void PaintEtchedLine(HDC dc, const RECT& rect, bool isUpright, Argb dark, Argb l
 
 enum class ArrowDirection { Up, Down, Left, Right };
 
-/// A small filled triangle in the middle of the rectangle with a light edge below it.
+/// Two strokes that meet in a point, in the middle of the rectangle.
+void PaintChevron(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, const Look& look);
+/// A chevron in flat skins, otherwise a small filled triangle with a light edge below it.
 void PaintArrow(HDC dc, const RECT& rect, ArrowDirection direction, Argb color, Argb light, const Look& look);
 void PaintCheckMark(HDC dc, const RECT& rect, Argb color, const Look& look);
 void PaintRadioMark(HDC dc, const RECT& rect, Argb color, const Look& look);

@@ -133,18 +133,26 @@ void PaintCategory(HDC dc, const RECT& rect, LONG gapLeft, LONG gapRight, const 
     }
 }
 
+namespace {
+
+/// Between panels lies one line, darker than the ground or lighter: the skin has both beside each other. They lie in
+/// the gap behind the panel, as far from its elements as from those of the next one.
+void PaintLineBehind(HDC dc, const RECT& rect, const Face& panel, const Look& look) {
+    const int margin = look.Px(4), line = look.Line();
+    const LONG right = rect.right;
+    PaintSolid(dc, {right, rect.top + margin, right + line, rect.bottom - margin}, panel.outer);
+    PaintSolid(dc, {right + line, rect.top + margin, right + 2 * line, rect.bottom - margin}, panel.inner);
+}
+
+} // namespace
+
 void PaintPanel(HDC dc, const RECT& rect, const RECT& caption, bool isHot, const Look& look) {
     const Face& face = look.skin[isHot ? FaceSlot::RibbonPanelHot : FaceSlot::RibbonPanel];
     const Face& strip = look.skin[isHot ? FaceSlot::PanelCaptionHot : FaceSlot::PanelCaption];
     const bool hasStrip = !IsRectEmpty(&caption);
     const int line = look.Line(), radius = look.Radius();
     if (look.skin.isFlat) {
-        // Between panels lies one line, darker than the ground or lighter: the skin has both beside each other. They
-        // lie in the gap behind the panel, as far from its elements as from those of the next one.
-        const int margin = look.Px(4);
-        const LONG right = rect.right;
-        PaintSolid(dc, {right, rect.top + margin, right + line, rect.bottom - margin}, face.outer);
-        PaintSolid(dc, {right + line, rect.top + margin, right + 2 * line, rect.bottom - margin}, face.inner);
+        PaintLineBehind(dc, rect, face, look);
         return;
     }
     const Canvas canvas(
@@ -214,6 +222,9 @@ void PaintDefaultPane(HDC dc, const RECT& rect, const ElementState& state, const
                           : state.isHot                      ? FaceSlot::DefaultPaneHot
                                                              : FaceSlot::DefaultPane;
     PaintFace(dc, rect, look.skin[slot], Corners::All(look.Radius()), look);
+    if (look.skin.isFlat) {
+        PaintLineBehind(dc, rect, look.skin[FaceSlot::RibbonPanel], look);
+    }
 }
 
 namespace {
@@ -361,6 +372,12 @@ Argb TextColorOn(Argb ground, const Skin& skin) {
     constexpr Argb white = 0xFFFFFFFF;
     constexpr Argb black = 0xFF000000;
     return Contrast(white, ground) >= Contrast(black, ground) ? white : black;
+}
+
+void PaintFocus(HDC dc, const RECT& rect, Argb ground, const Look& look) {
+    Face ring;
+    ring.outer = ring.inner = Readable(look.skin[ColorSlot::Accent], TextColorOn(ground, look.skin), {ground});
+    PaintFace(dc, rect, ring, Corners::All(look.Radius()), look);
 }
 
 void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state, const Look& look) {

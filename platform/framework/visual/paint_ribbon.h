@@ -53,6 +53,9 @@ void PaintZoomButton(HDC dc, const RECT& rect, bool isPlus, const ElementState& 
 void PaintApplicationButton(HDC dc, const RECT& rect, const ElementState& state, const Look& look);
 /// Of a text on any ground: the ribbon's where that can be read, else white or black.
 Argb TextColorOn(Argb ground, const Skin& skin);
+/// A ring along the inside of the rectangle, around what has the keyboard's focus: in the skin's accent where that can
+/// be told from `ground`, the opaque colour that lies there.
+void PaintFocus(HDC dc, const RECT& rect, Argb ground, const Look& look);
 void PaintCaption(HDC dc, const RECT& rect, bool isActive, const Look& look);
 void PaintCaptionButton(HDC dc, const RECT& rect, WindowGlyph glyph, const ElementState& state, const Look& look);
 /// The same for a maximised MDI child, on the row of tabs.
