@@ -105,6 +105,10 @@ class IconPixels(unittest.TestCase):
             if " name-" not in what:  # letters of three sizes stand on one line
                 self.assertLessEqual(abs(box[1] - (image.height - box[3])), most, f"{what} {box}")
 
+    def test_the_land_of_regions_has_sharp_edges_in_small_pictures(self):
+        for name, size in itertools.product((name for name in names() if name.startswith("region-")), (16, 20, 24)):
+            self.assertGreaterEqual(sharpness(icon(path_of("modle", "16", name), size)), 0.6, f"{name} {size}")
+
     def test_pictures_of_every_size_are_sharper_than_scaled_ones(self):
         for size, larger in ((16, 20), (20, 24), (24, 32), (28, 32), (40, 48), (48, 56)):
             drawn = [sharpness(icon(path_of("modle", "16", name), size)) for name in names()]
