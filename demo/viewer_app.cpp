@@ -67,6 +67,7 @@ public:
         }
         SettleWindow(frame->GetSafeHwnd());
         frame->FinishMap();
+        SettleWindow(frame->GetSafeHwnd()); // the status bar no longer shows that it is drawn
         m_exitCode = WriteScreenshot(frame->GetSafeHwnd(), options->screenshot) ? 0 : 1;
         frame->DestroyWindow();
         return FALSE;
