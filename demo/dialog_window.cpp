@@ -38,7 +38,7 @@ std::wstring TextOf(HWND window) {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CDialogWindow, CWnd)
+BEGIN_MESSAGE_MAP(CDialogWindow, CCaptionWindow)
 ON_WM_CLOSE()
 ON_WM_ERASEBKGND()
 ON_WM_CTLCOLOR()
@@ -52,14 +52,14 @@ bool CDialogWindow::Make(CWnd& owner, const std::wstring& title, DWORD style, CS
     m_isMirrored = (owner.GetExStyle() & WS_EX_LAYOUTRTL) != 0;
     m_ground.CreateSolidBrush(m_look.colors.ground);
     const DWORD extended = WS_EX_CONTROLPARENT | (m_isMirrored ? WS_EX_LAYOUTRTL : 0);
-    CRect outer(CPoint(0, 0), size);
-    ::AdjustWindowRectEx(outer, style, FALSE, extended);
+    const DWORD own = WithoutCaption(style);
+    const CRect outer(CPoint(0, 0), OuterSize(size, own));
     CRect around;
     owner.GetWindowRect(around);
     const CPoint middle = around.CenterPoint();
-    const LPCTSTR windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW));
+    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DROPSHADOW, ::LoadCursor(nullptr, IDC_ARROW));
     const CPoint corner(std::max(0L, middle.x - outer.Width() / 2), std::max(0L, middle.y - outer.Height() / 2));
-    if (!CreateEx(extended, windowClass, title.c_str(), style | WS_CLIPCHILDREN, CRect(corner, outer.Size()), &owner,
+    if (!CreateEx(extended, windowClass, title.c_str(), own | WS_CLIPCHILDREN, CRect(corner, outer.Size()), &owner,
                   0)) {
         return false;
     }
@@ -68,8 +68,8 @@ bool CDialogWindow::Make(CWnd& owner, const std::wstring& title, DWORD style, CS
 }
 
 void CDialogWindow::FitInside(CSize size) {
-    CRect outer(CPoint(0, 0), size), around;
-    ::AdjustWindowRectEx(outer, GetStyle(), FALSE, 0);
+    const CRect outer(CPoint(0, 0), OuterSize(size, GetStyle()));
+    CRect around;
     GetOwner()->GetWindowRect(around);
     const CPoint middle = around.CenterPoint();
     SetWindowPos(nullptr, middle.x - outer.Width() / 2, middle.y - outer.Height() / 2, outer.Width(), outer.Height(),
@@ -103,7 +103,7 @@ BOOL CDialogWindow::OnCommand(WPARAM wParam, LPARAM lParam) {
         EndModalLoop(static_cast<int>(id));
         return TRUE;
     }
-    return CWnd::OnCommand(wParam, lParam);
+    return CCaptionWindow::OnCommand(wParam, lParam);
 }
 
 void CDialogWindow::OnClose() { EndModalLoop(IDCANCEL); }

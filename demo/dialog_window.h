@@ -1,7 +1,7 @@
 #pragma once
 
+#include "caption_window.h"
 #include "dialog_list.h"
-#include "layer_list.h"
 
 #include <afxcontrolbars.h>
 
@@ -20,7 +20,7 @@ struct DialogLook {
 
 /// A window over the frame that is answered or closed before the frame goes on: the system's own controls, with the
 /// keys that they have in dialogs, painted in the viewer's skin. Mirrored where its owner is.
-class CDialogWindow : public CWnd {
+class CDialogWindow : public CCaptionWindow {
 public:
     /// A control as the record tells of it.
     struct Part {
@@ -39,7 +39,7 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
-    explicit CDialogWindow(DialogLook look) : m_look(std::move(look)) {}
+    explicit CDialogWindow(DialogLook look) : CCaptionWindow(look.colors), m_look(std::move(look)) {}
     ~CDialogWindow() override { DestroyWindow(); }
 
     /// Hidden, in the middle of the owner; `size` is that of the inside, in pixels. False: there is none.

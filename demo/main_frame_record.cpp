@@ -132,7 +132,11 @@ void CMainFrame::WriteRecord(Moment moment) {
         for (const auto& [name, value] : shown.values) {
             values[name] = value;
         }
-        record["dialog"] = {{"name", shown.name}, {"parts", std::move(parts)}, {"values", std::move(values)}};
+        const CRect caption = m_dialog->CaptionOnScreen();
+        record["dialog"] = {{"name", shown.name},
+                            {"captionOnScreen", {caption.left, caption.top, caption.right, caption.bottom}},
+                            {"parts", std::move(parts)},
+                            {"values", std::move(values)}};
     }
     record["popupOpen"] = CMFCPopupMenu::GetActiveMenu() != nullptr;
     record["warnings"] = nlohmann::ordered_json::array();

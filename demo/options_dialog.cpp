@@ -18,6 +18,7 @@ constexpr int kListDepth = 240; // with its lines
 constexpr int kLeastButton = 80;
 
 constexpr UINT kFirstList = 100;
+constexpr char kNote[] = "OptionsAtNextStart";
 
 int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
@@ -102,8 +103,9 @@ std::optional<ViewerOptions> COptionsDialog::Ask(CWnd& owner) {
     if (!Make(owner, ViewerText("OptionsTitle"), style, CSize(1, 1)) || !MakeControls()) {
         return std::nullopt;
     }
-    FitInside(Place(false));
-    Place(true);
+    const OptionsPlaces places = PlaceOptions(Measure());
+    FitInside(CSize(places.width, places.height));
+    PlaceControls(places);
     ShowChosen();
     m_lists[0].SetFocus();
     std::optional<ViewerOptions> answer;
@@ -126,47 +128,52 @@ bool COptionsDialog::MakeControls() {
         }
     }
     SetDefaultButton(IDOK);
-    return AddLabel(m_note, ViewerText("OptionsAtNextStart")) && AddButton(m_take, IDOK, ViewerText("ButtonOk")) &&
+    return AddLabel(m_note, ViewerText(kNote)) && AddButton(m_take, IDOK, ViewerText("ButtonOk")) &&
            AddButton(m_cancel, IDCANCEL, ViewerText("ButtonCancel"));
 }
 
-/// The size that all of it needs.
-CSize COptionsDialog::Place(bool isMoving) {
+OptionsMeasures COptionsDialog::Measure() {
+    OptionsMeasures measures;
+    measures.rows = static_cast<int>(kRows);
+    measures.margin = Scaled(kMargin);
+    measures.gap = Scaled(kGap);
+    measures.listWidth = Scaled(kListWidth);
+    measures.listDepth = Scaled(kListDepth);
+    measures.rowHeight = RowHeight();
+    CRect closed;
+    m_lists[0].MoveWindow(0, 0, measures.listWidth, measures.listDepth);
+    m_lists[0].GetWindowRect(closed);
+    measures.listHeight = closed.Height();
+    const auto width = [this](const CButton& button) {
+        return std::max(Scaled(kLeastButton),
+                        static_cast<int>(ButtonSize(static_cast<UINT>(button.GetDlgCtrlID())).cx));
+    };
+    measures.takeWidth = width(m_take);
+    measures.cancelWidth = width(m_cancel);
     CClientDC dc(this);
     CFont* const before = dc.SelectObject(&afxGlobalData.fontRegular);
-    int labels = 0;
+    const auto extent = [&dc](const char* text) {
+        return static_cast<int>(dc.GetTextExtent(ViewerText(text).c_str()).cx);
+    };
     for (const Row& row : Rows()) {
-        labels = std::max(labels, static_cast<int>(dc.GetTextExtent(ViewerText(row.label).c_str()).cx));
+        measures.labelWidth = std::max(measures.labelWidth, extent(row.label));
     }
-    const int note = static_cast<int>(dc.GetTextExtent(ViewerText("OptionsAtNextStart").c_str()).cx);
+    measures.noteWidth = extent(kNote);
     dc.SelectObject(before);
-    const int margin = Scaled(kMargin), gap = Scaled(kGap), height = RowHeight();
-    const int listLeft = margin + labels + 2 * gap;
-    const int right = std::max(listLeft + Scaled(kListWidth), margin + note);
-    int top = margin;
+    return measures;
+}
+
+void COptionsDialog::PlaceControls(const OptionsPlaces& places) {
+    const auto move = [](CWnd& control, const WindowBox& box) {
+        control.MoveWindow(box.left, box.top, box.right - box.left, box.bottom - box.top);
+    };
     for (std::size_t row = 0; row < kRows; ++row) {
-        if (isMoving) {
-            m_lists[row].MoveWindow(listLeft, top, right - listLeft, Scaled(kListDepth));
-            CRect face; // the system gives it its height; its text and the label have one base line
-            m_lists[row].GetWindowRect(face);
-            m_labels[row].MoveWindow(margin, top, labels + gap, face.Height());
-        }
-        top += height + gap;
+        move(m_labels[row], places.labels[row]);
+        move(m_lists[row], places.lists[row]);
     }
-    if (isMoving) {
-        m_note.MoveWindow(margin, top, right - margin, height);
-    }
-    top += height + gap;
-    int buttonRight = right;
-    for (CButton* const button : {&m_cancel, &m_take}) {
-        const int width =
-            std::max(Scaled(kLeastButton), static_cast<int>(ButtonSize(static_cast<UINT>(button->GetDlgCtrlID())).cx));
-        if (isMoving) {
-            button->MoveWindow(buttonRight - width, top, width, height);
-        }
-        buttonRight -= width + gap;
-    }
-    return {right + margin, top + height + margin};
+    move(m_note, places.note);
+    move(m_take, places.take);
+    move(m_cancel, places.cancel);
 }
 
 void COptionsDialog::ShowChosen() {

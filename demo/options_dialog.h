@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialog_window.h"
+#include "options_layout.h"
 
 #include <array>
 #include <optional>
@@ -35,7 +36,8 @@ private:
     static constexpr std::size_t kRows = 6;
 
     bool MakeControls();
-    CSize Place(bool isMoving);
+    OptionsMeasures Measure();
+    void PlaceControls(const OptionsPlaces& places);
     void ShowChosen();
     ViewerOptions Chosen() const;
 

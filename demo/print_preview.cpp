@@ -254,6 +254,7 @@ void CPrintPreview::OnSize(UINT type, int width, int height) {
 }
 
 void CPrintPreview::OnGetMinMaxInfo(MINMAXINFO* info) {
+    CDialogWindow::OnGetMinMaxInfo(info);
     info->ptMinTrackSize = {Scaled(kWidth) / 2, Scaled(kHeight) / 2};
 }
 

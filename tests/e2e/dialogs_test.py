@@ -65,6 +65,31 @@ class Skins(unittest.TestCase):
                     viewer.click_part("bars")
                     viewer.key("Escape")
 
+    def test_the_caption_has_the_ground_of_the_skin(self):
+        for skin, is_dark in (("black", True), ("silver", False)):
+            for name, keys in (("options", ("alt+s", "o")), ("preview", ("ctrl+shift+v",))):
+                with self.subTest(skin, dialog=name), DialogViewer(BIN_DIR, "--lang", "en", "--skin", skin) as viewer:
+                    viewer.open_dialog(name, *keys)
+                    caption = viewer.settled_look().crop(viewer.record["dialog"]["captionOnScreen"]).convert("L")
+                    most = max(range(256), key=caption.histogram().__getitem__)
+                    self.assertEqual(most < 128, is_dark, f"the ground has {most}")
+                    self.assertGreater(caption.getextrema()[1] - caption.getextrema()[0], 100, "a title can be read")
+
+    def test_the_captions_button_closes_it(self):
+        with DialogViewer(BIN_DIR, "--lang", "en", "--skin", "black") as viewer:
+            viewer.open_dialog("options", "alt+s", "o")
+            _, top, right, bottom = viewer.record["dialog"]["captionOnScreen"]
+            viewer.click(right - 12, (top + bottom) // 2)
+            viewer.wait_for_closed()
+
+    def test_the_caption_moves_it(self):
+        with DialogViewer(BIN_DIR, "--lang", "en", "--skin", "black") as viewer:
+            viewer.open_dialog("options", "alt+s", "o")
+            left, top, _, bottom = viewer.record["dialog"]["captionOnScreen"]
+            middle = (top + bottom) // 2
+            viewer.drag(left + 80, middle, left + 120, middle + 30)
+            viewer.wait_for(lambda record: record["dialog"]["captionOnScreen"][:2] == [left + 40, top + 30])
+
     def test_the_words_about_the_program_stand_on_the_skins_ground(self):
         for skin, is_dark in (("black", True), ("silver", False)):
             with self.subTest(skin), DialogViewer(BIN_DIR, "--lang", "en", "--skin", skin) as viewer:
