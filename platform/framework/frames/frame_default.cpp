@@ -10,6 +10,8 @@
 #include "afxpriv.h"
 #include "afxribbonbar.h"
 #include "afxvisualmanager.h"
+#include "fx/dark_caption.h"
+#include "toolbar/dark_dialog.h"
 
 namespace {
 
@@ -46,6 +48,13 @@ void AskToolBarsForStates(CDockingManager& manager) {
     }
 }
 
+/// The caption that the system draws is as dark as what the frame holds.
+void FollowLook(const CFrameWnd& frame) {
+    if ((frame.GetStyle() & WS_CHILD) == 0) {
+        fx::SetDarkCaption(frame.m_hWnd, toolbar::IsLookDark());
+    }
+}
+
 bool Grows(const WINDOWPOS& place, CSize former) {
     return (place.flags & SWP_NOSIZE) == 0 && (place.cx > former.cx || place.cy > former.cy);
 }
@@ -58,6 +67,7 @@ LRESULT CFrameImpl::OnDefault(UINT message, WPARAM wParam, LPARAM lParam, System
         return OnEraseBkgnd(reinterpret_cast<HDC>(wParam), system);
     case WM_SHOWWINDOW:
         if (wParam != FALSE) {
+            FollowLook(*m_frame);
             AskToolBarsForStates(m_dockingManager);
         }
         break;
@@ -186,6 +196,7 @@ void CFrameImpl::OnDpiChanged(UINT dpi, const RECT* place) {
 }
 
 void CFrameImpl::OnChangeVisualManager() {
+    FollowLook(*m_frame);
     if (m_replacesCaption) {
         m_regionSize = CSize(-1, -1);
         UpdateRegion();

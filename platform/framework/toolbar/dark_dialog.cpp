@@ -336,6 +336,8 @@ void Dress(HWND dialog, const MaybeColors& colors) {
 
 } // namespace
 
+bool IsLookDark() { return DarkColors().has_value(); }
+
 void DressDialog(HWND dialog) { Dress(dialog, DarkColors()); }
 
 } // namespace toolbar

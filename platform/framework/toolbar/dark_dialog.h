@@ -4,6 +4,9 @@
 
 namespace toolbar {
 
+/// Whether the current look's windows are light on dark.
+bool IsLookDark();
+
 /// Gives a dialog of the framework's, or a page of one, the colours of the current look where that is dark: ground,
 /// texts, fields, push buttons and tabs. Under a light look it stays as the system draws it. When the window and its
 /// controls are there, once; it follows every change of the look from then on (AFX_WM_CHANGEVISUALMANAGER, which a

@@ -20,6 +20,7 @@ target_sources(framework PRIVATE
   control_tool_bar_control.cpp
   control_tool_tip_control.cpp
   control_tree_control.cpp
+  dark_caption.cpp
   dialog_data_exchange.cpp
   dialog_data_validation.cpp
   dialog_ex.cpp
