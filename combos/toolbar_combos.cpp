@@ -1,6 +1,7 @@
 #include "toolbar_combos.h"
 
 #include "combos/item_bits.h"
+#include "combos/mark_sizes.h"
 #include "combos/window_combo_parts.h"
 #include "window_combos.h"
 
@@ -20,6 +21,18 @@ Combo* HostedIn(const CMFCToolBarComboBoxButton& button) {
     return combo && combo->GetSafeHwnd() ? combo : nullptr;
 }
 
+/// The closed face is as high as the bar's other fields; the list's rows have a font of their own.
+void FitFace(CComboBox& combo) {
+    combo.SetItemHeight(-1, static_cast<UINT>(fx::Scaled(window_combo::rowHeight, MarkScale())));
+}
+
+template <class Combo>
+void FitFaceOf(const CMFCToolBarComboBoxButton& button) {
+    if (auto* const combo = HostedIn<Combo>(button)) {
+        FitFace(*combo);
+    }
+}
+
 /// Null: there is no such window, and the button takes a plain one.
 template <class Combo>
 CComboBox* MakeHosted(CWnd* bar, const CRect& rect, UINT id) {
@@ -28,6 +41,7 @@ CComboBox* MakeHosted(CWnd* bar, const CRect& rect, UINT id) {
         return nullptr;
     }
     combo->SetOwner(bar->GetOwner());
+    FitFace(*combo);
     return combo.release();
 }
 
@@ -126,6 +140,11 @@ BOOL CMFCCheckCombo::OnClick(CWnd* bar, BOOL delay) {
 
 void CMFCCheckCombo::CopyFrom(const CMFCToolBarButton& src) { CMFCToolBarComboBoxButton::CopyFrom(src); }
 
+void CMFCCheckCombo::OnGlobalFontsChanged() {
+    CMFCToolBarComboBoxButton::OnGlobalFontsChanged(); // a new font may change the height too
+    FitFaceOf<CCheckComboBox>(*this);
+}
+
 // ---- a swatch and a light
 
 CMFCMultiCombo::CMFCMultiCombo() : CMFCToolBarComboBoxButton(0, -1) {}
@@ -182,6 +201,11 @@ BOOL CMFCMultiCombo::OnClick(CWnd* bar, BOOL delay) {
 
 void CMFCMultiCombo::CopyFrom(const CMFCToolBarButton& src) { CMFCToolBarComboBoxButton::CopyFrom(src); }
 
+void CMFCMultiCombo::OnGlobalFontsChanged() {
+    CMFCToolBarComboBoxButton::OnGlobalFontsChanged(); // a new font may change the height too
+    FitFaceOf<CMultiCombo>(*this);
+}
+
 // ---- a light alone
 
 CMFCMultiCombo2::CMFCMultiCombo2() : CMFCToolBarComboBoxButton(0, -1) {}
@@ -222,6 +246,11 @@ BOOL CMFCMultiCombo2::OnClick(CWnd* bar, BOOL delay) {
 }
 
 void CMFCMultiCombo2::CopyFrom(const CMFCToolBarButton& src) { CMFCToolBarComboBoxButton::CopyFrom(src); }
+
+void CMFCMultiCombo2::OnGlobalFontsChanged() {
+    CMFCToolBarComboBoxButton::OnGlobalFontsChanged(); // a new font may change the height too
+    FitFaceOf<CVesMultiCombo>(*this);
+}
 
 // ---- a flag
 

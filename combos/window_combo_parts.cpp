@@ -1,5 +1,7 @@
 #include "combos/window_combo_parts.h"
 
+#include <afxtoolbar.h>
+#include <afxtoolbarcomboboxbutton.h>
 #include <afxwin.h>
 #include <fx/dc_scope.h>
 #include <fx/to_rect.h>
@@ -33,6 +35,26 @@ RowColors ColorsOf(const DRAWITEMSTRUCT& item, bool isEnabled) {
     return isEnabled ? RowColors{COLOR_WINDOWTEXT, COLOR_WINDOW} : RowColors{COLOR_GRAYTEXT, COLOR_BTNFACE};
 }
 
+/// The closed face on a bar that draws its combos flat is one of the bar's fields, in its colours and its font.
+bool IsFieldOfBar(const CComboBox& combo, const DRAWITEMSTRUCT& item) {
+    return (item.itemState & ODS_COMBOBOXEDIT) != 0 && CMFCToolBarComboBoxButton::IsFlatMode() &&
+           DYNAMIC_DOWNCAST(CMFCToolBar, combo.GetParent()) != nullptr;
+}
+
+/// Fills the ground and gives the context the text's colour.
+void FillGround(const CComboBox& combo, CDC& dc, const DRAWITEMSTRUCT& item, const CRect& ground) {
+    const HDC handle = dc.GetSafeHdc();
+    if (IsFieldOfBar(combo, item) && (item.itemState & ODS_SELECTED) == 0) {
+        const LRESULT brush = ::SendMessageW(::GetParent(combo.m_hWnd), WM_CTLCOLOREDIT,
+                                             reinterpret_cast<WPARAM>(handle), reinterpret_cast<LPARAM>(combo.m_hWnd));
+        ::FillRect(handle, ground, reinterpret_cast<HBRUSH>(brush));
+        return;
+    }
+    const RowColors colors = ColorsOf(item, ::IsWindowEnabled(combo.m_hWnd) != FALSE);
+    ::FillRect(handle, ground, ::GetSysColorBrush(colors.ground));
+    dc.SetTextColor(::GetSysColor(colors.text));
+}
+
 } // namespace
 
 void DrawRow(const CComboBox& combo, const DRAWITEMSTRUCT& item, const marks::Rect& row, Face face,
@@ -44,15 +66,15 @@ void DrawRow(const CComboBox& combo, const DRAWITEMSTRUCT& item, const marks::Re
     CFont font;
     CreateRowFont(font, face);
     const fx::DcState state(*dc);
-    dc->SelectObject(&font);
-    const RowColors colors = ColorsOf(item, ::IsWindowEnabled(combo.m_hWnd) != FALSE);
+    dc->SelectObject(IsFieldOfBar(combo, item) ? combo.GetFont() : &font);
     const CRect ground = fx::ToRect(row);
-    ::FillRect(dc->GetSafeHdc(), ground, ::GetSysColorBrush(colors.ground));
+    FillGround(combo, *dc, item, ground);
     const auto index = static_cast<int>(item.itemID);
     if (index >= 0) {
         CRect text = ground;
+        const COLORREF textColor = dc->GetTextColor();
         text.left = paintMarks(combo, *dc, item, row);
-        dc->SetTextColor(::GetSysColor(colors.text));
+        dc->SetTextColor(textColor);
         dc->SetBkMode(TRANSPARENT);
         dc->DrawText(L" " + TextOf(combo, index), text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
     }

@@ -29,6 +29,7 @@ public:
 
     BOOL OnClick(CWnd* bar, BOOL delay = TRUE) override;
     void CopyFrom(const CMFCToolBarButton& src) override;
+    void OnGlobalFontsChanged() override;
 
 protected:
     CComboBox* CreateCombo(CWnd* bar, const CRect& rect) override;
@@ -58,6 +59,7 @@ public:
 
     BOOL OnClick(CWnd* bar, BOOL delay = TRUE) override;
     void CopyFrom(const CMFCToolBarButton& src) override;
+    void OnGlobalFontsChanged() override;
 
 protected:
     CComboBox* CreateCombo(CWnd* bar, const CRect& rect) override;
@@ -82,6 +84,7 @@ public:
 
     BOOL OnClick(CWnd* bar, BOOL delay = TRUE) override;
     void CopyFrom(const CMFCToolBarButton& src) override;
+    void OnGlobalFontsChanged() override;
 
 protected:
     CComboBox* CreateCombo(CWnd* bar, const CRect& rect) override;

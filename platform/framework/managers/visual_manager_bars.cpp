@@ -145,7 +145,12 @@ void CMFCVisualManager::OnDrawComboBorder(CDC* pDC, CRect rect, BOOL bDisabled, 
     const FaceSlot slot = bDisabled                      ? FaceSlot::EditDisabled
                           : bIsDropped || bIsHighlighted ? FaceSlot::EditHot
                                                          : FaceSlot::Edit;
-    visual::PaintFrame(*pDC, rect, GetSkin()[slot].outer, LookOf(GetSkin()).Line());
+    if (GetSkin().isFlat) {
+        visual::PaintBorders(*pDC, rect, GetSkin()[slot], visual::PlateCorners(GetSkin(), LookOf(GetSkin())),
+                             LookOf(GetSkin()));
+    } else {
+        visual::PaintFrame(*pDC, rect, GetSkin()[slot].outer, LookOf(GetSkin()).Line());
+    }
 }
 
 void CMFCVisualManager::OnDrawComboDropButton(CDC* pDC, CRect rect, BOOL bDisabled, BOOL bIsDropped,

@@ -3,6 +3,8 @@
 
 #include "afxtoolbar.h"
 #include "afxvisualmanager.h"
+#include "toolbar/combo_face.h"
+#include "toolbar/field_look.h"
 #include "toolbar/hosted_control.h"
 #include "toolbar/metrics.h"
 
@@ -73,6 +75,7 @@ void CMFCToolBarComboBoxButton::MakeCombo(CWnd& parent) {
     }
     toolbar::HostControl(parent, m_pWndCombo->m_hWnd);
     m_rectPlaced.SetRectEmpty();
+    toolbar::DrawFaceOf(m_pWndCombo->m_hWnd);
     m_pWndCombo->SetFont(&afxGlobalData.fontRegular);
     MakeEdit(parent);
     FillCombo();
@@ -251,7 +254,7 @@ void CMFCToolBarComboBoxButton::OnDraw(CDC* pDC, const CRect& rect, CMFCToolBarI
     const BOOL isDropped = IsDroppedDown();
     const BOOL isHot = !isDisabled && (bHighlight || HasFocus());
     const CRect border = GetComboRect();
-    pDC->FillSolidRect(border, ::GetSysColor(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW));
+    toolbar::DrawField(*pDC, border, isDisabled != FALSE);
     CRect drop = border;
     drop.DeflateRect(1, 1);
     drop.left = std::max<LONG>(drop.left, drop.right - ::GetSystemMetrics(SM_CXVSCROLL));
@@ -260,11 +263,8 @@ void CMFCToolBarComboBoxButton::OnDraw(CDC* pDC, const CRect& rect, CMFCToolBarI
     manager->OnDrawComboBorder(pDC, border, isDisabled, isDropped, isHot, this);
 }
 
-HBRUSH CMFCToolBarComboBoxButton::OnCtlColor(CDC* pDC, UINT) {
-    const bool isDisabled = IsDisabledState();
-    pDC->SetTextColor(::GetSysColor(isDisabled ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
-    pDC->SetBkColor(::GetSysColor(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW));
-    return ::GetSysColorBrush(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW);
+HBRUSH CMFCToolBarComboBoxButton::OnCtlColor(CDC* pDC, UINT nCtlColor) {
+    return nCtlColor == CTLCOLOR_LISTBOX ? toolbar::ColorList(*pDC) : toolbar::ColorField(*pDC, IsDisabledState());
 }
 
 // ---- input

@@ -4,6 +4,7 @@
 #include "afxtoolbar.h"
 #include "afxvisualmanager.h"
 #include "toolbar/buttons_of.h"
+#include "toolbar/field_look.h"
 #include "toolbar/hosted_control.h"
 #include "toolbar/metrics.h"
 
@@ -336,16 +337,11 @@ void CMFCToolBarEditBoxButton::OnDraw(CDC* pDC, const CRect& rect, CMFCToolBarIm
     }
     CRect border;
     GetEditBorder(border);
-    pDC->FillSolidRect(border, ::GetSysColor(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW));
+    toolbar::DrawField(*pDC, border, isDisabled != FALSE);
     CMFCVisualManager::GetInstance()->OnDrawEditBorder(pDC, border, isDisabled, isHot, this);
 }
 
-HBRUSH CMFCToolBarEditBoxButton::OnCtlColor(CDC* pDC, UINT) {
-    const bool isDisabled = IsDisabledState();
-    pDC->SetTextColor(::GetSysColor(isDisabled ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
-    pDC->SetBkColor(::GetSysColor(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW));
-    return ::GetSysColorBrush(isDisabled ? COLOR_BTNFACE : COLOR_WINDOW);
-}
+HBRUSH CMFCToolBarEditBoxButton::OnCtlColor(CDC* pDC, UINT) { return toolbar::ColorField(*pDC, IsDisabledState()); }
 
 BOOL CMFCToolBarEditBoxButton::OnClick(CWnd*, BOOL) {
     if (!ShowsEdit() || IsDisabledState() || !::IsWindowVisible(GetHwnd())) {
