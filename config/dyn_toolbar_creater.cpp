@@ -48,13 +48,6 @@ public:
         return bar;
     }
 
-    /// A bar that has come into its file since has nothing kept, and where the program puts it is right: the states of
-    /// the others are whole all the same.
-    BOOL LoadState(LPCTSTR profileName, int index, UINT id) override {
-        CMFCToolBarEx::LoadState(profileName, index, id);
-        return TRUE;
-    }
-
 protected:
     void PostNcDestroy() override {
         CMFCToolBarEx::PostNcDestroy();

@@ -21,13 +21,6 @@ struct ConfigurationChange;
 /// cfg\toolbar.xml. Their combos of layers show the same as the ribbon's. The frame owns the toolbars' windows and
 /// outlives this.
 class ClassicBars {
-    /// A menu bar keeps nothing, and says of itself that nothing was found: then the application could not tell whether
-    /// the places of the toolbars are damaged.
-    class MenuBarWithoutState : public CMfcMenubarEx {
-    public:
-        BOOL LoadState(LPCTSTR, int, UINT) override { return TRUE; }
-    };
-
 public:
     explicit ClassicBars(const MapState& state) : m_state(state) {}
 
@@ -77,7 +70,7 @@ private:
 
     const MapState& m_state;
     CFrameWndEx* m_frame = nullptr;
-    MenuBarWithoutState m_menuBar;
+    CMfcMenubarEx m_menuBar;
     CDynMenuCreater m_menu;
     HostMenu m_help{HostMenu::Kind::Help};
     CDynToolBarCreater m_toolbars;

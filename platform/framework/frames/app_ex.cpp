@@ -41,6 +41,16 @@ public:
     BOOL WriteInt(LPCTSTR section, LPCTSTR entry, int value) override {
         return m_application.WriteSectionInt(section, entry, value);
     }
+    BOOL HasEntry(LPCTSTR section, LPCTSTR entry) override {
+        if (m_application.m_pszRegistryKey == nullptr) {
+            return FALSE;
+        }
+        const HKEY application = m_application.GetAppRegistryKey();
+        const LSTATUS found = ::RegGetValueW(application, m_application.GetRegSectionPath(section), entry, RRF_RT_ANY,
+                                             nullptr, nullptr, nullptr);
+        ::RegCloseKey(application);
+        return found == ERROR_SUCCESS;
+    }
     BOOL HasObject(LPCTSTR section, LPCTSTR entry) override {
         LPBYTE data = nullptr;
         UINT size = 0;

@@ -10,6 +10,7 @@
 #include "panes/dock_rows.h"
 #include "panes/dock_state.h"
 #include "panes/mini_frame_place.h"
+#include "panes/pane_state.h"
 
 #include <iterator>
 #include <set>
@@ -100,10 +101,13 @@ BOOL CDockingManager::SaveState(LPCTSTR lpszProfileName, UINT uiID) {
     return isSaved;
 }
 
+// A pane of which nothing was kept, such as one that the program has had for the first time, loses nothing.
 BOOL CDockingManager::LoadState(LPCTSTR lpszProfileName, UINT uiID) {
     BOOL isLoaded = TRUE;
     for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
-        isLoaded &= static_cast<CBasePane*>(m_lstControlBars.GetNext(position))->LoadState(lpszProfileName);
+        auto& pane = *static_cast<CBasePane*>(m_lstControlBars.GetNext(position));
+        const bool isPaneLoaded = pane.LoadState(lpszProfileName) != FALSE;
+        isLoaded &= isPaneLoaded || !panes::HasKeptState(pane, lpszProfileName);
     }
     if (!m_isRestoreDisabled) {
         isLoaded &= LoadPlaces(lpszProfileName, uiID);

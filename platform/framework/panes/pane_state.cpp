@@ -1,5 +1,6 @@
-#include "afxPane.h"
+#include "panes/pane_state.h"
 
+#include "afxPane.h"
 #include "fx/app.h"
 #include "fx/state_store.h"
 
@@ -25,15 +26,27 @@ fx::StateStore* Store() {
     return application != nullptr ? application->GetStateStore() : nullptr;
 }
 
+constexpr LPCTSTR kBasePane = L"BasePane";
+constexpr LPCTSTR kPane = L"Pane";
+constexpr LPCTSTR kVisibleEntry = L"IsVisible";
+constexpr LPCTSTR kAlignmentEntry = L"RecentAlignment";
+
 } // namespace
+
+bool panes::HasKeptState(const CBasePane& pane, LPCTSTR profile) {
+    constexpr auto kNoId = static_cast<UINT>(-1);
+    fx::StateStore* const store = Store();
+    return store != nullptr && (store->HasEntry(SectionOf(pane, profile, -1, kNoId, kBasePane), kVisibleEntry) ||
+                                store->HasEntry(SectionOf(pane, profile, -1, kNoId, kPane), kAlignmentEntry));
+}
 
 BOOL CBasePane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
     fx::StateStore* const store = Store();
     if (!store) {
         return FALSE;
     }
-    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"BasePane");
-    const int isVisible = store->ReadInt(section, L"IsVisible", -1);
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, kBasePane);
+    const int isVisible = store->ReadInt(section, kVisibleEntry, -1);
     if (isVisible == -1) {
         return FALSE;
     }
@@ -43,8 +56,8 @@ BOOL CBasePane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
 
 BOOL CBasePane::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
     fx::StateStore* const store = Store();
-    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"BasePane");
-    return store && store->WriteInt(section, L"IsVisible", GetRecentVisibleState());
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, kBasePane);
+    return store && store->WriteInt(section, kVisibleEntry, GetRecentVisibleState());
 }
 
 BOOL CPane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
@@ -52,8 +65,8 @@ BOOL CPane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
     if (!store) {
         return FALSE;
     }
-    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"Pane");
-    const DWORD alignment = static_cast<DWORD>(store->ReadInt(section, L"RecentAlignment", 0));
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, kPane);
+    const DWORD alignment = static_cast<DWORD>(store->ReadInt(section, kAlignmentEntry, 0));
     // Only sides that the host still allows are taken back; where a docked pane lies the docking manager knows.
     if ((alignment & m_dwEnabledAlignment) != 0 && GetParentDockSite() == nullptr && !IsFloating()) {
         SetPaneAlignment(alignment);
@@ -63,7 +76,7 @@ BOOL CPane::LoadState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
 
 BOOL CPane::SaveState(LPCTSTR lpszProfileName, int nIndex, UINT uiID) {
     fx::StateStore* const store = Store();
-    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, L"Pane");
-    return store && store->WriteInt(section, L"RecentAlignment", static_cast<int>(GetCurrentAlignment())) &&
+    const CString section = SectionOf(*this, lpszProfileName, nIndex, uiID, kPane);
+    return store && store->WriteInt(section, kAlignmentEntry, static_cast<int>(GetCurrentAlignment())) &&
            CBasePane::SaveState(lpszProfileName, nIndex, uiID);
 }

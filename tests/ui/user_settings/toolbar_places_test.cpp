@@ -168,6 +168,23 @@ TEST_F(ToolBarPlaces, ThatAreDamagedAreToldOfAlthoughABarIsNew) {
     EXPECT_FALSE(run.Restore());
 }
 
+TEST_F(ToolBarPlaces, ADamagedValueOfOneBarIsToldOfAndCostsNothingElse) {
+    MoveAndKeep();
+    ProgramRun run(m_installation, Group(BarOf("New") + BarOf("One") + BarOf("Same") + BarOf("Same")));
+    {
+        const CNamedToolBars named(run.m_bars);
+        CString section;
+        section.Format(L"BasePane-%d", run.Bar(1).GetDlgCtrlID());
+        ASSERT_TRUE(App().IsStateExists(section));
+        ASSERT_TRUE(App().WriteSectionString(section, L"IsVisible", L"perhaps"));
+        EXPECT_FALSE(run.Bar(1).LoadState(nullptr));
+        EXPECT_FALSE(run.Bar(0).LoadState(nullptr)) << "nothing was kept of it";
+        EXPECT_TRUE(run.Bar(2).LoadState(nullptr));
+    }
+    EXPECT_FALSE(run.Restore());
+    EXPECT_EQ(run.Sides(), "TLTB");
+}
+
 TEST_F(ToolBarPlaces, TheBarsHaveTheirOwnNumbersAfterwards) {
     ProgramRun run(m_installation, Group(BarOf("One") + BarOf("Same") + BarOf("Same")));
     std::vector<int> numbers;

@@ -12,6 +12,8 @@ namespace fx {
 /// A section is a path below the application's base section, an entry a name in it.
 class StateStore {
 public:
+    /// Whether there is such an entry, damaged or not: to read one that is missing may leave an empty section behind.
+    virtual BOOL HasEntry(LPCTSTR section, LPCTSTR entry) = 0;
     /// missing when there is no such entry.
     virtual int ReadInt(LPCTSTR section, LPCTSTR entry, int missing) = 0;
     virtual BOOL WriteInt(LPCTSTR section, LPCTSTR entry, int value) = 0;
