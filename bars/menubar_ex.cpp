@@ -1,6 +1,9 @@
 // The menu bar with a button at its right edge.
 #include "menubar_ex.h"
 
+#include <afxtoolbarcomboboxbutton.h>
+
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -27,6 +30,25 @@ void MoveChildsButtons(const CMFCMenuBar& bar, int distance) {
 void Keep(std::unique_ptr<CMenu> menu) {
     static auto& kept = *new std::vector<std::unique_ptr<CMenu>>;
     kept.push_back(std::move(menu));
+}
+
+/// Moves the field in which help is asked for out of the way of what lies at the right edge: that button, and those of
+/// a maximised child.
+void MakeRoom(CMFCMenuBar& bar, const CRect& rightButton) {
+    CMFCToolBarComboBoxButton* const help = bar.GetHelpCombobox();
+    if (help == nullptr) {
+        return;
+    }
+    CRect end = rightButton;
+    for (int i = 0; i < bar.GetSystemButtonsCount(); ++i) {
+        end.left = std::min(end.left, bar.GetSystemButton(static_cast<UINT>(i), FALSE)->Rect().left);
+    }
+    CRect place = help->Rect();
+    CRect shared;
+    if (shared.IntersectRect(place, end)) {
+        place.MoveToX(end.left - place.Width());
+        help->SetRect(place);
+    }
 }
 
 } // namespace
@@ -98,6 +120,9 @@ void CMfcMenubarEx::AdjustLocations() {
     button->SetRect(place);
     if (IsHorizontal()) {
         MoveChildsButtons(*this, place.Width());
+        if (GetHelpCombobox() != button) {
+            MakeRoom(*this, place);
+        }
     }
 }
 

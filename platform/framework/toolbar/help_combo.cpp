@@ -2,6 +2,7 @@
 
 #include "fx/dc_scope.h"
 #include "fx/window_dc.h"
+#include "toolbar/field_look.h"
 
 #include <memory>
 
@@ -45,7 +46,8 @@ private:
         GetRect(&room);
         CClientDC dc(this);
         const fx::DcSelection font(dc.m_hDC, static_cast<HFONT>(afxGlobalData.fontRegular));
-        const fx::TextColour colour(dc, ::GetSysColor(COLOR_GRAYTEXT));
+        ColorField(dc, false);
+        const fx::TextColour colour(dc, HintColor(dc));
         dc.DrawText(prompt, room, DT_SINGLELINE | DT_LEFT | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     }
 };
@@ -65,6 +67,24 @@ void HelpCombo::CopyFrom(const CMFCToolBarButton& src) {
     if (const auto* const other = DYNAMIC_DOWNCAST(HelpCombo, &src)) {
         m_prompt = other->m_prompt;
     }
+}
+
+// While a bar is laid out its buttons lie in a row for a moment; windows that followed would be seen there.
+void HelpCombo::OnMove() {
+    if (!m_isHeld) {
+        CMFCToolBarComboBoxButton::OnMove();
+    }
+}
+
+void HelpCombo::OnSize(int iSize) {
+    if (!m_isHeld) {
+        CMFCToolBarComboBoxButton::OnSize(iSize);
+    }
+}
+
+void HelpCombo::Settle() {
+    m_isHeld = false;
+    CMFCToolBarComboBoxButton::OnMove();
 }
 
 SIZE HelpCombo::OnCalculateSize(CDC* pDC, const CSize& sizeDefault, BOOL bHorz) {

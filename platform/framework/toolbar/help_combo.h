@@ -22,13 +22,14 @@ public:
     BOOL IsEditable() const override { return FALSE; }
     SIZE OnCalculateSize(CDC* pDC, const CSize& sizeDefault, BOOL bHorz) override;
 
-    // Its windows move once, when the bar has found its place.
-    void OnMove() override {}
-    void OnSize(int) override {}
+    void OnMove() override;
+    void OnSize(int iSize) override;
     CMFCToolBarComboBoxButton& Combo() override { return *this; }
-    void Settle() override { CMFCToolBarComboBoxButton::OnMove(); }
+    void Hold() override { m_isHeld = true; }
+    void Settle() override;
 
 private:
+    bool m_isHeld = true;
     CString m_prompt;
 };
 

@@ -7,6 +7,7 @@
 #include "afxvisualmanager.h"
 #include "fx/window_dc.h"
 #include "fx/window_guard.h"
+#include "toolbar/help_field.h"
 #include "toolbar/menu_items.h"
 #include "toolbar/metrics.h"
 
@@ -213,6 +214,7 @@ void CMFCMenuBar::AdjustLocations() {
     if (!m_hWnd) {
         return;
     }
+    toolbar::HoldHelpField(*this);
     CMFCToolBar::AdjustLocations();
     CRect client;
     GetClientRect(&client);

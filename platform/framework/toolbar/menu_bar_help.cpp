@@ -5,6 +5,7 @@
 #include "toolbar/help_field.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -17,7 +18,35 @@ toolbar::HelpField* HelpFieldOf(const CMFCMenuBar& bar) {
     return nullptr;
 }
 
+bool IsOfMaximizedChild(const CMFCToolBarButton& button) {
+    return button.IsKindOf(RUNTIME_CLASS(CMFCToolBarMenuButtonsButton)) ||
+           button.IsKindOf(RUNTIME_CLASS(CMFCToolBarSystemMenuButton));
+}
+
+/// Moves the field, and the buttons that follow it in its row, as far right as they have room before `right`.
+void MoveToEnd(const CMFCMenuBar& bar, CMFCToolBarComboBoxButton& field, LONG right) {
+    std::vector<CMFCToolBarButton*> moved = {&field};
+    for (int i = bar.ButtonToIndex(&field) + 1; i < bar.GetCount(); ++i) {
+        CMFCToolBarButton* const button = bar.GetButton(i);
+        if (button->Rect().top == field.Rect().top && !IsOfMaximizedChild(*button)) {
+            moved.push_back(button);
+        }
+    }
+    const auto shift = static_cast<int>(std::max(0L, right - moved.back()->Rect().right));
+    for (CMFCToolBarButton* const button : moved) {
+        CRect place = button->Rect();
+        place.OffsetRect(shift, 0);
+        button->SetRect(place);
+    }
+}
+
 } // namespace
+
+void toolbar::HoldHelpField(const CMFCMenuBar& bar) {
+    if (HelpField* const help = HelpFieldOf(bar)) {
+        help->Hold();
+    }
+}
 
 CMFCToolBarComboBoxButton* CMFCMenuBar::GetHelpCombobox() {
     toolbar::HelpField* const help = HelpFieldOf(*this);
@@ -29,7 +58,8 @@ std::unique_ptr<CMFCToolBarButton> CMFCMenuBar::CopyOfHelpCombo() {
     return help ? toolbar::CopyOf(*help) : nullptr;
 }
 
-// At the right edge of its row, before the buttons of a maximised child.
+// At the right edge of its row, before the buttons of a maximised child. Buttons that follow it in its row keep behind
+// it.
 void CMFCMenuBar::PlaceHelpCombo() {
     toolbar::HelpField* const help = HelpFieldOf(*this);
     if (!help) {
@@ -42,10 +72,7 @@ void CMFCMenuBar::PlaceHelpCombo() {
         for (int i = 0; i < GetSystemButtonsCount(); ++i) {
             right = std::min(right, GetSystemButton(static_cast<UINT>(i), FALSE)->Rect().left);
         }
-        CMFCToolBarComboBoxButton& combo = help->Combo();
-        CRect place = combo.Rect();
-        place.MoveToX(std::max(place.left, right - place.Width()));
-        combo.SetRect(place);
+        MoveToEnd(*this, help->Combo(), right);
     }
     help->Settle();
 }

@@ -378,3 +378,75 @@ TEST_F(MenubarExOverAChild, ARebuildOverAMaximisedChildKeepsTheRightHandButtonAt
     Maximize();
     ExpectHelpAtTheRightEdge();
 }
+
+TEST_F(MenubarExOverAChild, TheFieldForHelpHasItsRoomBesideBoth) {
+    TheBar().EnableHelpCombobox(2401, L"Ask", 120);
+    PumpPending();
+    for (const char* when : {"the field last", "the button behind it"}) {
+        Maximize();
+        ASSERT_EQ(TheBar().GetSystemButtonsCount(), 3);
+        const CRect field = TheBar().GetHelpCombobox()->Rect();
+        const CRect help = TheBar().GetButton(CMfcMenubarEx::s_nRightBtnIndex)->Rect();
+        CRect shared;
+        EXPECT_FALSE(shared.IntersectRect(field, help)) << when;
+        for (UINT i = 0; i < 3; ++i) {
+            EXPECT_FALSE(shared.IntersectRect(field, TheBar().GetSystemButton(i, FALSE)->Rect())) << when << i;
+        }
+        Restore();
+        Build();
+    }
+}
+
+namespace {
+
+constexpr UINT kAsk = 2401;
+
+class MenubarExWithHelpField : public MenubarEx {
+protected:
+    /// Both have their room in the bar, and the field's windows lie where it says.
+    void ExpectRoomForBoth(const char* when) {
+        CMFCToolBarComboBoxButton* const help = TheBar().GetHelpCombobox();
+        ASSERT_NE(help, nullptr) << when;
+        const CRect right = PlaceOf(CMfcMenubarEx::s_nRightBtnIndex);
+        EXPECT_EQ(right.right, Client().right) << when;
+        const CRect field = help->Rect();
+        CRect shared;
+        EXPECT_FALSE(shared.IntersectRect(field, right)) << when;
+        EXPECT_GE(field.left, PlaceOf(1).right) << when;
+        EXPECT_NEAR(field.right, right.left, 4) << when;
+        CRect edit;
+        help->GetEditCtrl()->GetWindowRect(&edit);
+        TheBar().ScreenToClient(&edit);
+        EXPECT_GE(edit.left, field.left) << when;
+        EXPECT_LE(edit.right, field.right) << when;
+    }
+};
+
+} // namespace
+
+TEST_F(MenubarExWithHelpField, LeavesTheRightHandButtonItsRoomWhicheverCameFirst) {
+    BuildWithRightMenu();
+    TheBar().EnableHelpCombobox(kAsk, L"Ask", 120);
+    PumpPending();
+    ExpectRoomForBoth("the field last");
+    SetWidth(480);
+    ExpectRoomForBoth("narrower");
+    Build();
+    PumpPending();
+    ExpectRoomForBoth("the button last");
+    EXPECT_EQ(CMfcMenubarEx::s_nRightBtnIndex, TheBar().GetCount() - 1);
+    SetWidth(640);
+    ExpectRoomForBoth("wider");
+}
+
+TEST_F(MenubarExWithHelpField, AndInAMirroredBar) {
+    m_frame->ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    TheBar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    TheBar().EnableHelpCombobox(kAsk, L"Ask", 120);
+    BuildWithRightMenu();
+    ExpectRoomForBoth("mirrored");
+    CRect edit, bar;
+    TheBar().GetHelpCombobox()->GetEditCtrl()->GetWindowRect(&edit);
+    TheBar().GetWindowRect(&bar);
+    EXPECT_LT(edit.left - bar.left, bar.right - edit.right) << "at the other end of the screen's bar";
+}
