@@ -23,6 +23,8 @@ public:
     /// Black in the combos' drop lists (CMFCPopupMenuBarEx), which lie on light ground, under the pointer too.
     COLORREF GetMenuItemTextColor(CMFCToolBarMenuButton* button, BOOL highlighted, BOOL disabled) override;
     void OnUpdateSystemColors() override;
+    /// A row of docked bars goes on as those that lie flat in it.
+    void OnFillBarBackground(CDC* dc, CBasePane* bar, CRect client, CRect clip, BOOL nonClient = FALSE) override;
     void OnDrawMenuBorder(CDC* dc, CMFCPopupMenu* menu, CRect rect) override;
     void OnDrawSeparator(CDC* dc, CBasePane* bar, CRect rect, BOOL horizontal) override;
 

@@ -3,6 +3,7 @@
 #include "src/skin_palette.h"
 #include "src/skin_table_of.h"
 
+#include <afxDockSite.h>
 #include <afxglobals.h>
 #include <afxpopupmenu.h>
 #include <afxribbonbar.h>
@@ -150,11 +151,16 @@ void CMFCVisualManagerOffice20072::OnFillBarBackground(CDC* pDC, CBasePane* pBar
         return;
     }
     CMFCVisualManagerOffice2007::OnFillBarBackground(pDC, pBar, rectClient, rectClip, bNCArea);
-    // A bar lies flat on its second colour; of the first one there is a hint along its top, where bars lie in rows.
     const bool isToolBar = pBar != nullptr && pBar->IsKindOf(RUNTIME_CLASS(CMFCToolBar)) &&
                            !pBar->IsKindOf(RUNTIME_CLASS(CMFCPopupMenuBar));
-    if (isToolBar && CanDrawStyle()) {
-        pDC->FillSolidRect(rectClient, m_clrToolBarGradientDark);
+    const bool isRowOfBars = pBar != nullptr && pBar->IsKindOf(RUNTIME_CLASS(CDockSite));
+    if ((!isToolBar && !isRowOfBars) || !CanDrawStyle()) {
+        return;
+    }
+    pDC->FillSolidRect(rectClient, m_clrToolBarGradientDark);
+    // A bar lies flat on its second colour; of the first one there is a hint along the top of a row, which goes on
+    // where the row is longer than its bars are.
+    if (pBar->IsHorizontal()) {
         rectClient.bottom = rectClient.top + 1;
         constexpr int hint = 2; // tenths
         pDC->FillSolidRect(rectClient, ToColorRef(visual::Mix(Opaque(m_clrToolBarGradientDark),
