@@ -43,7 +43,7 @@ class BrokenFiles(unittest.TestCase):
         """Its keys, and the message that comes where something cannot be read; gives what is shown then."""
         viewer.key("ctrl+shift+r")
         if expects_message:
-            viewer.wait_until(lambda: len(viewer.windows(TITLE)) > 1, "a message is shown")
+            viewer.wait_for_message(TITLE)
             viewer.key("Return")
             viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 1, "the message is gone")
 
@@ -51,7 +51,7 @@ class BrokenFiles(unittest.TestCase):
         """What the message says that comes of it, and the record after it has gone."""
         count = len(viewer.record["warnings"])
         act()
-        viewer.wait_until(lambda: len(viewer.windows(TITLE)) > 1, "a message is shown")
+        viewer.wait_for_message(TITLE)
         viewer.key("Return")
         viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 1, "the message is gone")
         record = viewer.wait_for(lambda record: len(record["warnings"]) == count + 1 and record["idle"])
@@ -104,7 +104,7 @@ class BrokenFiles(unittest.TestCase):
         with Viewer(self.folder, "--lang", "en", "--category", "2") as viewer:
             self.rewrite(self.file("lang", "zh-CN", "viewer.xlf"), lambda text: text[:300])
             viewer.click_command("LanguageChinese")
-            viewer.wait_until(lambda: len(viewer.windows(TITLE)) > 1, "a message is shown")
+            viewer.wait_for_message(TITLE)
             viewer.key("Return")
             viewer.key("ctrl+i")
             record = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 5)

@@ -108,7 +108,7 @@ class WithoutAPrinter(unittest.TestCase):
         """Reads the message that stands above the frame, and gives the record after it has gone."""
         title = text_of(BIN_DIR, language, "ViewerTitle")
         count = len(viewer.record["warnings"])
-        viewer.wait_until(lambda: len(viewer.windows(title)) > 1, "a message is shown")
+        viewer.wait_for_message(title)
         viewer.key("Return")
         record = viewer.wait_for(lambda record: len(record["warnings"]) == count + 1)
         viewer.wait_until(lambda: len(viewer.windows(title)) == 1, "it was the only one")

@@ -17,7 +17,7 @@ class ChangedAtTheStart(Viewer):
     """Meets a message about the ribbon's file before the frame appears; the file is whole when the message goes."""
 
     def begin(self):
-        self.wait_until(lambda: self.windows("Map viewer"), "a message is shown")
+        self.wait_for_message("Map viewer", windows=1)
         edit_file(self._bin, "cfg/ribbon.xml", 'KEYWORD="CatLayers" NAME="', 'KEYWORD="CatLayers" NAME=""')
         self.key("Return")
         super().begin()

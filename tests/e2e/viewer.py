@@ -273,10 +273,15 @@ class Viewer:
 
     def _wait_for_keyboard(self):
         """Between two windows, as when a message has gone, no one has the keys for a moment."""
-        def is_ours():
-            return subprocess.run(["xdotool", "getwindowfocus", "getwindowpid"], env=self._environment,
-                                  capture_output=True).returncode == 0
-        self.wait_until(is_ours, "a window has the keys", pause=0.02)
+        self.wait_until(lambda: self._tell("getwindowfocus", "getwindowpid"), "a window has the keys", pause=0.02)
+
+    def wait_for_message(self, *titles, windows=2):
+        """Until so many windows are shown under one of the titles, and the uppermost of them has the keys: Wine takes a
+        change of the focus that it hears of when the message has gone already for the loss of it."""
+        def has_keys():
+            shown = max((self.windows(title) for title in titles), key=len)
+            return len(shown) >= windows and self._tell("getwindowfocus") == shown[-1:]
+        self.wait_until(has_keys, "a message is shown", pause=0.02)
 
     def key(self, *names):
         self._wait_for_keyboard()
@@ -287,10 +292,13 @@ class Viewer:
         self._xdotool("type", "--delay", 30, text)
 
     def windows(self, title):
-        """Names the shown windows with exactly this title."""
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], env=self._environment,
-                               capture_output=True, text=True)
-        return found.stdout.split()
+        """Names the shown windows with exactly this title, the uppermost last."""
+        return self._tell("search", "--onlyvisible", "--name", f"^{title}$")
+
+    def _tell(self, *words):
+        """What xdotool answers; nothing where it cannot."""
+        told = subprocess.run(["xdotool", *words], env=self._environment, capture_output=True, text=True)
+        return told.stdout.split() if told.returncode == 0 else []
 
     def wheel(self, x, y, steps):
         """Turns the wheel over a point: away from the person for positive steps."""

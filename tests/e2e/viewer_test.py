@@ -525,7 +525,7 @@ class PlaceField(unittest.TestCase):
             viewer.wait_for(lambda record: abs(record["map"]["longitude"] - 139.69) < 0.1)
             viewer.click_command("PlaceEdit")
             viewer.key("ctrl+a", "N", "o", "w", "h", "e", "r", "e", "Return")
-            viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 2, "a message is shown")
+            viewer.wait_for_message(TITLE)
             viewer.key("Escape")
             viewer.wait_until(lambda: len(viewer.windows(TITLE)) == 1, "the message is gone")
             viewer.click_command("ZoomIn")
@@ -821,7 +821,7 @@ class BrokenRibbonViewer(Viewer):
     """Meets a message before the frame appears."""
 
     def begin(self):
-        self.wait_until(lambda: self.windows(TITLE), "a message is shown")
+        self.wait_for_message(TITLE, windows=1)
         self.key("Return")
         super().begin()
 
