@@ -235,9 +235,9 @@ class Monkey:
 
     def shows(self, search, name, value):
         """Whether the record says so soon after the command was searched for."""
-        # Without a window manager a window that goes leaves the keys to the window under the pointer.
+        # Without a window manager a window that goes may leave the keys to nobody; a click gets them back.
         self._place.read()
-        self._hands.give([["mousemove", *self._place.caption()], REST, ["key", "ctrl+f"]])
+        self._hands.give([REST, *self.pressed(*self._place.caption(), 1), REST, ["key", "ctrl+f"]])
         is_open = self.sees(lambda record: record["search"]["open"])
         self._hands.give([["type", "--delay", 1, search], ["key", "Return"]])
         return is_open and self.sees(lambda record: record[name] == value and record["map"]["finished"])
