@@ -37,6 +37,9 @@ void FuzzTable(std::string_view bytes) {
     if (!varnhold::ReadTranslationText(bytes, L"en", before)) {
         return;
     }
+    if (wstring2String(string2wstring(std::string(bytes))) != bytes) {
+        return; // only a table in UTF-8 is completed: whoever reads the file sees to that
+    }
     TableCompletion completion;
     completion.asked = {{L"Open", L"cfg/ribbon.xml: \"two\" <lines> & more"}, {L"Open.tooltip", L"a --> b"}};
     completion.sources = {{L"Open", L"Open <a> & \"b\""}};
