@@ -261,7 +261,7 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
         texts.code = code;
         TextReader reader(texts, sink);
         bool isLanguage = false;
-        texts.isUsable = !ReportUnread(files, L"lang\\" + code, true, sink); // its texts may be in those
+        texts.hasUnread = ReportUnread(files, L"lang\\" + code, true, sink);
         for (const std::wstring& name : files.FilesIn(L"lang\\" + code)) {
             if (IsTableName(name)) {
                 isLanguage = true;

@@ -20,6 +20,8 @@ struct LanguageTexts {
     std::wstring code;
     /// False: one of its tables is broken, and then the language is not used.
     bool isUsable = true;
+    /// Files of it that nobody reads lie beside its tables, which was reported: what is missing may be there.
+    bool hasUnread = false;
     /// A section of it is lost, which was reported: what is missing may be there.
     bool hasLostSection = false;
     /// How many of its units have no key, which was reported: so many texts may seem missing.

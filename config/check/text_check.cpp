@@ -274,7 +274,8 @@ private:
     }
 
     static bool Lacks(const LanguageTexts& language, const std::wstring& key) {
-        return language.isUsable && !language.commands.contains(key) && !language.leftOut.contains(key);
+        return language.isUsable && !language.hasUnread && !language.commands.contains(key) &&
+               !language.leftOut.contains(key);
     }
     static bool LacksName(const LanguageTexts& language, const std::wstring& keyword, const Asked& asked) {
         return asked.name && Lacks(language, keyword);

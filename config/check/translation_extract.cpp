@@ -77,7 +77,7 @@ std::size_t BehindStartTag(std::string_view text, std::size_t at) {
         } else if (text[at] == '"' || text[at] == '\'') {
             quote = text[at];
         } else if (text[at] == '>') {
-            return text[at - 1] == '/' ? std::string_view::npos : at + 1;
+            return at > 0 && text[at - 1] == '/' ? std::string_view::npos : at + 1;
         }
     }
     return std::string_view::npos;

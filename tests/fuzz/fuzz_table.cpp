@@ -37,8 +37,8 @@ void FuzzTable(std::string_view bytes) {
     if (!varnhold::ReadTranslationText(bytes, L"en", before)) {
         return;
     }
-    if (wstring2String(string2wstring(std::string(bytes))) != bytes) {
-        return; // only a table in UTF-8 is completed: whoever reads the file sees to that
+    if (bytes.starts_with("\xEF\xBB\xBF") || wstring2String(string2wstring(std::string(bytes))) != bytes) {
+        return; // only a table in UTF-8 is completed, without a mark: whoever reads the file sees to that
     }
     TableCompletion completion;
     completion.asked = {{L"Open", L"cfg/ribbon.xml: \"two\" <lines> & more"}, {L"Open.tooltip", L"a --> b"}};
