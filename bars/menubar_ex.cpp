@@ -57,6 +57,11 @@ CMfcMenubarEx::CMfcMenubarEx() = default;
 
 CMfcMenubarEx::~CMfcMenubarEx() { DestroyWindow(); }
 
+void CMfcMenubarEx::SetMenuButtonRTC(CRuntimeClass* menuButtonClass) {
+    CMFCMenuBar::SetMenuButtonRTC(menuButtonClass);
+    m_menuButtonClass = menuButtonClass;
+}
+
 void CMfcMenubarEx::SetRightHMenu(HMENU menu) {
     if (menu != nullptr && ::IsMenu(menu)) {
         m_hRightMenu = menu;
@@ -87,6 +92,16 @@ void CMfcMenubarEx::CreateFromMenu(HMENU menu, BOOL isDefaultMenu, BOOL forceUpd
     }
 }
 
+// Who knows the bar as a CMFCMenuBar alone chooses the class there: then its first button has it.
+CRuntimeClass* CMfcMenubarEx::GetRightButtonClass() const {
+    if (m_menuButtonClass != nullptr) {
+        return m_menuButtonClass;
+    }
+    // That of a maximised child comes before them.
+    const auto* const first = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, GetButton(GetSystemMenu() != nullptr ? 1 : 0));
+    return first != nullptr ? first->GetRuntimeClass() : RUNTIME_CLASS(CMFCToolBarMenuButton);
+}
+
 void CMfcMenubarEx::AddRightButton() {
     CMenu* const menu = CMenu::FromHandle(m_hRightMenu);
     CString text;
@@ -94,7 +109,7 @@ void CMfcMenubarEx::AddRightButton() {
     const CMenu* const popup = menu->GetSubMenu(0);
     ENSURE(popup != nullptr);
     const std::unique_ptr<CMFCToolBarMenuButton> button(
-        static_cast<CMFCToolBarMenuButton*>(GetMenuButtonRTC()->CreateObject()));
+        static_cast<CMFCToolBarMenuButton*>(GetRightButtonClass()->CreateObject()));
     button->CreateFromMenu(popup->m_hMenu);
     button->m_strText = text;
     button->m_bText = TRUE;

@@ -1,7 +1,5 @@
 #include "toolbar_ex.h"
 
-#include <afxvisualmanager.h>
-
 #include <map>
 #include <memory>
 
@@ -20,19 +18,19 @@ std::map<UINT, OwnedIcon>& DisabledIcons() {
     return s_icons;
 }
 
-/// The icon where the image would stand, in the disabled style of images.
-void DrawDisabledIcon(CDC* dc, HICON icon, const CRect& place) {
-    CMFCToolBarImages images;
-    images.SetImageSize(place.Size());
-    CAfxDrawState state;
-    const int index = images.AddIcon(icon, TRUE);
-    if (index < 0 || !images.PrepareDrawImage(state, place.Size())) {
-        return;
+/// A button that looks like another one, with the first image of any list as its own. Without a command id: setting the
+/// image of a button is setting that of its command.
+class Look : public CMFCToolBarButton {
+public:
+    explicit Look(const CMFCToolBarButton& button) : CMFCToolBarButton(0, -1) {
+        CopyFrom(button);
+        OnChangeParentWnd(button.GetParentWnd());
+        m_nID = 0;
+        SetImage(0);
+        // As all images of icons: in the disabled style, and not for want of another image.
+        m_nStyle |= TBBS_INDETERMINATE;
     }
-    constexpr BYTE kOpaque = 255;
-    images.Draw(dc, place.left, place.top, index, FALSE, TRUE, TRUE, TRUE, FALSE, kOpaque);
-    images.EndDrawImage(state);
-}
+};
 
 } // namespace
 
@@ -62,21 +60,16 @@ HICON CMFCToolBarButtonDisIco::GetDisabledIcon(UINT id) {
 void CMFCToolBarButtonDisIco::OnDraw(CDC* dc, const CRect& rect, CMFCToolBarImages* images, BOOL horizontal,
                                      BOOL customizeMode, BOOL highlighted, BOOL drawBorder, BOOL grayDisabledButtons) {
     const HICON icon = (m_nStyle & TBBS_DISABLED) != 0 && images && IsDrawImage() ? GetDisabledIcon(m_nID) : nullptr;
-    if (!icon) {
+    CMFCToolBarImages disabled;
+    disabled.SetImageSize(images ? images->GetImageSize(TRUE) : SIZE{});
+    CAfxDrawState state;
+    if (!icon || disabled.AddIcon(icon, TRUE) < 0 || !disabled.PrepareDrawImage(state, disabled.GetImageSize())) {
         CMFCToolBarButton::OnDraw(dc, rect, images, horizontal, customizeMode, highlighted, drawBorder,
                                   grayDisabledButtons);
         return;
     }
-    // The base class's steps with another image; a disabled button is never hot.
-    FillInterior(dc, rect, FALSE);
-    Content content = PlaceContent(rect, images->GetImageSize(TRUE), horizontal);
-    if ((m_nStyle & TBBS_PRESSED) && CMFCVisualManager::GetInstance()->IsOffsetPressedButton()) {
-        content.image.OffsetRect(1, 1);
-        content.text.OffsetRect(1, 1);
-    }
-    DrawDisabledIcon(dc, icon, content.image);
-    DrawButtonText(dc, content.text, FALSE);
-    if (drawBorder && HaveHotBorder()) {
-        DrawButtonBorder(dc, rect, FALSE);
-    }
+    Look look(*this);
+    look.OnCalculateSize(dc, rect.Size(), horizontal); // measures the text
+    look.OnDraw(dc, rect, &disabled, horizontal, customizeMode, FALSE, drawBorder, TRUE);
+    disabled.EndDrawImage(state);
 }

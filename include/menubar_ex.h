@@ -17,6 +17,9 @@ public:
     CMfcMenubarEx();
     ~CMfcMenubarEx() override;
 
+    /// The class of the buttons, that of the right-hand one too: CMFCToolBarMenuButton or one derived from it.
+    void SetMenuButtonRTC(CRuntimeClass* menuButtonClass);
+
     /// Shown from the next CreateFromMenu on. A handle that is no menu changes nothing.
     void SetRightHMenu(HMENU menu);
     /// Loads the menu resource, which then stays for the life of the process. Nothing changes where there is none.
@@ -43,4 +46,7 @@ protected:
 
 private:
     void AddRightButton();
+    CRuntimeClass* GetRightButtonClass() const;
+
+    CRuntimeClass* m_menuButtonClass = nullptr; ///< Null while none was chosen here.
 };

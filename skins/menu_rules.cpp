@@ -56,15 +56,15 @@ CRect StatusSeparatorRect(const CRect& rect, BOOL isBottomFrame, int width) {
     return area;
 }
 
-COLORREF FlatToolBarColor(CMFCVisualManagerOffice2007::Style style, COLORREF color) {
+COLORREF FlatToolBarColor(int style, COLORREF color) {
     switch (style) {
-    case CMFCVisualManagerOffice2007::Office2007_ObsidianBlack:
+    case kBlackStyle:
         return RGB(168, 176, 186);
-    case CMFCVisualManagerOffice2007::Office2007_Aqua:
+    case kAquaStyle:
         return RGB(159, 158, 185);
-    case CMFCVisualManagerOffice2007::Office2007_Silver:
+    case kSilverStyle:
         return RGB(192, 192, 192);
-    case CMFCVisualManagerOffice2007::Office2007_LunaBlue:
+    default:
         break;
     }
     return color;

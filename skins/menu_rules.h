@@ -1,9 +1,12 @@
 #pragma once
 
-#include <afxvisualmanageroffice2007.h>
+#include <atltypes.h>
 
 // The dark skin's rules of menus and bars, as pure functions. Pixels.
 namespace skins {
+
+/// The platform's styles that have a colour of their own here.
+inline constexpr int kBlackStyle = 1, kAquaStyle = 2, kSilverStyle = 3;
 
 /// What a row of a pop-up menu is measured by.
 struct MenuSeparatorPlace {
@@ -31,6 +34,6 @@ CRect RibbonSeparatorRect(const CRect& rect, int width);
 CRect StatusSeparatorRect(const CRect& rect, BOOL isBottomFrame, int width);
 
 /// The first fill colour of toolbars that lie flat; `color` where the style keeps its own.
-COLORREF FlatToolBarColor(CMFCVisualManagerOffice2007::Style style, COLORREF color);
+COLORREF FlatToolBarColor(int style, COLORREF color);
 
 } // namespace skins

@@ -45,7 +45,8 @@ void CQKVisualManagerOffice2007Black::OnDrawMenuBorder(CDC* dc, CMFCPopupMenu* m
         CMFCVisualManagerOffice2003::OnDrawMenuBorder(dc, menu, rect);
         return;
     }
-    const bool isRibbonMenu = menu->IsKindOf(RUNTIME_CLASS(CMFCRibbonPanelMenu)) != FALSE;
+    const CMFCPopupMenuBar* const bar = menu->GetMenuBar();
+    const bool isRibbonMenu = bar != nullptr && bar->IsKindOf(RUNTIME_CLASS(CMFCRibbonPanelMenuBar));
     if (isRibbonMenu && DrawRibbonMenuFrame(dc, menu, rect)) {
         return;
     }
@@ -55,8 +56,7 @@ void CQKVisualManagerOffice2007Black::OnDrawMenuBorder(CDC* dc, CMFCPopupMenu* m
     }
     DrawPopupBorder(dc, rect);
     DrawCustomBorder(dc, rect, kBorderWidth, m_clrMenuBorder);
-    const CMFCPopupMenuBar* const bar = menu->GetMenuBar();
-    if (bar != nullptr && bar->IsKindOf(RUNTIME_CLASS(CMFCRibbonPanelMenuBar))) {
+    if (isRibbonMenu) {
         DrawCustomBorder(dc, rect, 1, m_clrRibbonMenuInnerBorder);
     }
 }
@@ -103,7 +103,8 @@ void CQKVisualManagerOffice2007Black::DrawToolBarSeparator(CDC* dc, const CRect&
     const CRect line = skins::ToolBarSeparatorRect(rect, horizontal);
     const CPoint middle = line.CenterPoint();
     // The line itself and the light one beside it.
-    const auto draw = [&](CPen& pen, int step) {
+    const auto draw = [&](COLORREF color, int step) {
+        CPen pen(PS_SOLID, 1, color);
         CPen* const former = dc->SelectObject(&pen);
         if (horizontal) {
             dc->MoveTo(middle.x + step, line.top);
@@ -114,6 +115,7 @@ void CQKVisualManagerOffice2007Black::DrawToolBarSeparator(CDC* dc, const CRect&
         }
         dc->SelectObject(former);
     };
-    draw(m_penSeparator, 0);
-    draw(m_penSeparatorLight, 1);
+    const ToolBarColors colors = GetToolBarSeparatorColors();
+    draw(colors.dark, 0);
+    draw(colors.light, 1);
 }

@@ -37,14 +37,14 @@ BARWRIGHT_SKIN_COLORS(BARWRIGHT_DEFINE)
 #undef BARWRIGHT_DEFINE
 
 CQKVisualManagerOffice2007Black::CQKVisualManagerOffice2007Black() {
-    SetStyle(Office2007_ObsidianBlack);
+    SetPlatformStyle(skins::kBlackStyle);
     SetDropDownIconPath(kDropDownIcon);
     SetSkinImages(kBlackImages);
     SetBaseStyle(kDarkBaseStyle);
 }
 
 CQKVisualManagerOffice2007Silver::CQKVisualManagerOffice2007Silver() {
-    SetStyle(Office2007_Silver);
+    SetPlatformStyle(skins::kSilverStyle);
     SetDropDownIconPath(kDropDownIcon);
     SetSkinImages(kSilverImages);
     SetBaseStyle(kLightBaseStyle);
@@ -63,14 +63,14 @@ void CQKVisualManagerOffice2007Black::OnUpdateSystemColors() {
 }
 
 void CQKVisualManagerOffice2007Black::BeginDrawFlatToolBar() {
-    s_savedToolBarLight = m_clrToolBarGradientLight;
-    s_savedToolBarDark = m_clrToolBarGradientDark;
-    m_clrToolBarGradientLight = skins::FlatToolBarColor(GetStyle(), m_clrToolBarGradientLight);
+    const ToolBarColors now = GetToolBarColors();
+    s_savedToolBarLight = now.light;
+    s_savedToolBarDark = now.dark;
+    SetToolBarColors({skins::FlatToolBarColor(GetPlatformStyle(), now.light), now.dark});
 }
 
 void CQKVisualManagerOffice2007Black::EndDrawFlatToolBar() {
-    m_clrToolBarGradientLight = s_savedToolBarLight;
-    m_clrToolBarGradientDark = s_savedToolBarDark;
+    SetToolBarColors({s_savedToolBarLight, s_savedToolBarDark});
 }
 
 // ---- what the silver skin takes from the platform

@@ -207,7 +207,9 @@ BOOL CMFCToolBar::OnSetDefaultButtonText(CMFCToolBarButton* pButton) {
 void CMFCToolBar::OnChangeVisualManager() {
     if (m_bRoundShape) {
         m_bRoundShape = FALSE;
-        SetWindowRgn(nullptr, FALSE);
+        if (m_hWnd) {
+            SetWindowRgn(nullptr, FALSE);
+        }
     }
     if (m_hWnd) {
         AdjustDockedLayout();

@@ -144,6 +144,26 @@ COLORREF CMFCVisualManagerOffice20072::OnDrawRibbonTabsFrame(CDC* pDC, CMFCRibbo
     return text;
 }
 
+void CMFCVisualManagerOffice20072::SetPlatformStyle(int nStyle) { SetStyle(static_cast<Style>(nStyle)); }
+
+int CMFCVisualManagerOffice20072::GetPlatformStyle() const { return GetStyle(); }
+
+CMFCVisualManagerOffice20072::ToolBarColors CMFCVisualManagerOffice20072::GetToolBarColors() const {
+    return {m_clrToolBarGradientLight, m_clrToolBarGradientDark};
+}
+
+void CMFCVisualManagerOffice20072::SetToolBarColors(const ToolBarColors& colors) {
+    m_clrToolBarGradientLight = colors.light;
+    m_clrToolBarGradientDark = colors.dark;
+}
+
+CMFCVisualManagerOffice20072::ToolBarColors CMFCVisualManagerOffice20072::GetToolBarSeparatorColors() const {
+    LOGPEN dark{}, light{};
+    ::GetObjectW(m_penSeparator.GetSafeHandle(), sizeof dark, &dark);
+    ::GetObjectW(m_penSeparatorLight.GetSafeHandle(), sizeof light, &light);
+    return {light.lopnColor, dark.lopnColor};
+}
+
 void CMFCVisualManagerOffice20072::OnFillBarBackground(CDC* pDC, CBasePane* pBar, CRect rectClient, CRect rectClip,
                                                        BOOL bNCArea) {
     if (CMFCPopupMenuBar* const list = MenuOf(pBar); list != nullptr && CanDrawStyle() && IsLightDropList(list)) {

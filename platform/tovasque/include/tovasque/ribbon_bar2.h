@@ -35,9 +35,6 @@ public:
     BOOL OnShowRibbonContextMenu(CWnd* pWnd, int x, int y, CMFCRibbonBaseElement* pHit) override;
 
 protected:
-    /// The row that stands for the frame's caption, in client pixels of the bar; empty while the frame has its own.
-    using CMFCRibbonBar::m_rectCaption;
-
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -49,6 +49,14 @@ public:
     CMFCToolTipInfo& GetToolTipInfo();
     BOOL GetToolTipInfo(CMFCToolTipInfo& params, UINT nType = (UINT)(-1)) override;
 
+    /// What toolbars are filled with: one end and the other.
+    struct ToolBarColors {
+        COLORREF light;
+        COLORREF dark;
+    };
+    ToolBarColors GetToolBarColors() const;
+    void SetToolBarColors(const ToolBarColors& colors);
+
     /// FALSE: flat colours only, no pictures.
     void SetImageMode(BOOL bImages);
     BOOL IsImageMode() const { return m_bImageMode; }
@@ -78,6 +86,9 @@ protected:
     void SetSkinImages(const std::array<LPCTSTR, tovasque::kSkinImages>& paths);
     void SetDropDownIconPath(LPCTSTR lpszPath) { m_strDropDownIcon = lpszPath; }
     void SetBaseStyle(int nStyle);
+    /// The platform's own: 0 blue, 1 black, 2 aqua, 3 silver.
+    void SetPlatformStyle(int nStyle);
+    int GetPlatformStyle() const;
 
     /// Rows of this drop list have dark texts, so it lies on the colour of text fields.
     virtual BOOL IsLightDropList(CMFCPopupMenuBar*) { return FALSE; }
@@ -96,6 +107,9 @@ protected:
     void DrawRibbonSeparator(CDC* pDC, CRect rect);
     /// Width of the above, in pixels.
     int GetRibbonSeparatorWidth() const;
+
+    /// The line of a toolbar's separator: dark, and light beside it.
+    ToolBarColors GetToolBarSeparatorColors() const;
 
     const visual::Skin& GetSkin() const override;
 
