@@ -78,10 +78,13 @@ SharedIcon Load(const wchar_t* path, int usualSide, int drawnSide) {
 /// What one painting has loaded. User-interface thread only, like every ribbon element.
 class IconsOfThisPaint {
 public:
+    /// Where nothing is painted, one that is shared with nobody.
     static SharedIcon Find(const wchar_t* path, int usualSide, int drawnSide) {
         auto& icons = Icons();
         if (icons.empty()) {
-            fx::CallAtPaintEnd([] { Icons().clear(); });
+            if (!fx::CallAtPaintEnd([] { Icons().clear(); })) {
+                return Load(path, usualSide, drawnSide);
+            }
         } else if (icons.size() >= kMostShared) {
             icons.clear();
         }
@@ -108,8 +111,7 @@ private:
 
 FileIcon::FileIcon(const wchar_t* path, int usualSide, int drawnSide) {
     if (*path) {
-        m_loaded =
-            fx::IsPainting() ? IconsOfThisPaint::Find(path, usualSide, drawnSide) : Load(path, usualSide, drawnSide);
+        m_loaded = IconsOfThisPaint::Find(path, usualSide, drawnSide);
     }
 }
 

@@ -9,9 +9,9 @@ class CMFCToolBarImages;
 struct LoadedIcon;
 
 /// An icon that was loaded from a file; may be empty. The file is read anew for each, with one exception: whatever is
-/// drawn from a file while one window paints (fx::IsPainting) shares one icon, which is destroyed when that painting
-/// ends. So a file that was changed, removed or put back shows at the very next paint, whatever its size and time stamp
-/// say, and no icon is alive between two paints.
+/// drawn from a file while one window paints (fx::CallAtPaintEnd) shares one icon, which is destroyed when that
+/// painting ends. So a file that was changed, removed or put back shows at the very next paint, whatever its size and
+/// time stamp say, and no icon is alive between two paints.
 class FileIcon {
 public:
     FileIcon() = default;

@@ -4,6 +4,7 @@
 #include "elements/icon_file.h"
 
 #include <afxglobals.h>
+#include <afxribboncategory.h>
 #include <afxtoolbarimages.h>
 #include <fx/dc_scope.h>
 #include <fx/geometry.h>
@@ -77,7 +78,9 @@ CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, int smallIma
 
 CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, HICON largeIcon, BOOL alwaysShowDescription,
                                              HICON smallIcon, BOOL autoDestroyIcon, BOOL alphaBlendIcon)
-    : CMFCRibbonButton(id, text, largeIcon, alwaysShowDescription, smallIcon, autoDestroyIcon, alphaBlendIcon) {}
+    : CMFCRibbonButton(id, text, largeIcon, alwaysShowDescription, smallIcon, autoDestroyIcon, alphaBlendIcon),
+      m_destroysIcons(autoDestroyIcon),
+      m_blendsIcons(alphaBlendIcon) {}
 
 CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, const CString& largeIconPath,
                                              BOOL alwaysShowDescription, const CString& smallIconPath,
@@ -87,7 +90,9 @@ CMFCRibbonUNIcoButton::CMFCRibbonUNIcoButton(UINT id, LPCTSTR text, const CStrin
       m_largeIconPath(largeIconPath),
       m_smallIconPath(smallIconPath),
       m_largeAlternatePath(keepLargePath ? largeIconPath : AlternateOf(largeIconPath)),
-      m_smallAlternatePath(AlternateOf(smallIconPath)) {
+      m_smallAlternatePath(AlternateOf(smallIconPath)),
+      m_destroysIcons(autoDestroyIcon),
+      m_blendsIcons(alphaBlendIcon) {
     TryIconFile(m_largeIconPath, largeSide);
     TryIconFile(m_smallIconPath, smallSide);
 }
@@ -118,7 +123,7 @@ void CMFCRibbonUNIcoButton::DrawImage(CDC* dc, RibbonImageType type, CRect rect)
 
 void CMFCRibbonUNIcoButton::DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type,
                                                 CRect rect) {
-    const fx::ScopedChange disabled(original.m_bIsDisabled, m_bIsDisabled);
+    const fx::ScopedChange<const CMFCRibbonUNIcoButton*> state(original.m_drawnFor, this);
     const PlaceOf place(original, GetRect());
     original.DrawImage(dc, type, rect);
 }
@@ -135,16 +140,15 @@ void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect r
                                       drawnSide(true, largeSide));
     const FileIcon small = ChosenIcon(m_smallIconPath, alternate ? m_smallAlternatePath : m_smallIconPath, smallSide,
                                       drawnSide(type == RibbonImageSmall, smallSide));
-    // The handles are the element's own for the time of this draw only.
-    const fx::ScopedChange largeHandle(m_hIcon, large.Get() ? large.Get() : m_hIcon);
-    if (!m_hIcon) {
-        const fx::ScopedChange noSmallHandle(m_hIconSmall, static_cast<HICON>(nullptr));
-        CMFCRibbonButton::DrawImage(dc, type, rect);
+    const HICON largeIcon = large.Get() ? large.Get() : GetIcon(TRUE);
+    if (!largeIcon) {
+        DrawFromImageIndex(dc, type, rect);
         return;
     }
-    const fx::ScopedChange smallHandle(m_hIconSmall, small.Get() ? small.Get() : m_hIconSmall);
-    const HICON icon = type == RibbonImageSmall && m_hIconSmall ? m_hIconSmall : m_hIcon;
-    if (!m_bIsDisabled) {
+    const HICON ownSmallIcon = GetIcon(FALSE) != GetIcon(TRUE) ? GetIcon(FALSE) : nullptr;
+    const HICON smallIcon = small.Get() ? small.Get() : ownSmallIcon;
+    const HICON icon = type == RibbonImageSmall && smallIcon ? smallIcon : largeIcon;
+    if (!IsDisabled()) {
         DrawEnabledIcon(dc, icon, scaled, rect.TopLeft());
         return;
     }
@@ -152,13 +156,26 @@ void CMFCRibbonUNIcoButton::DrawIconFiles(CDC* dc, RibbonImageType type, CRect r
     const FileIcon* const file = icon == large.Get() ? &large : icon == small.Get() ? &small : nullptr;
     const int side = std::clamp<int>(file ? file->GetSide() : 0, unscaled.cx, std::max(unscaled.cx, scaled.cx));
     if (file) {
-        DrawDisabledIcon(dc, file->GetList(side, m_bAlphaBlendIcon), scaled, rect.TopLeft());
+        DrawDisabledIcon(dc, file->GetList(side, m_blendsIcons), scaled, rect.TopLeft());
         return;
     }
     CMFCToolBarImages own;
     own.SetImageSize(CSize(side, side));
-    own.AddIcon(icon, m_bAlphaBlendIcon);
+    own.AddIcon(icon, m_blendsIcons);
     DrawDisabledIcon(dc, &own, scaled, rect.TopLeft());
+}
+
+// The platform's button would prefer a small icon of its own.
+void CMFCRibbonUNIcoButton::DrawFromImageIndex(CDC* dc, RibbonImageType type, CRect rect) {
+    if (!GetIcon(FALSE)) {
+        CMFCRibbonButton::DrawImage(dc, type, rect);
+        return;
+    }
+    const BOOL isLarge = type == RibbonImageLarge;
+    CMFCRibbonCategory* const category = GetParentCategory();
+    if (const int index = GetImageIndex(isLarge); category && index >= 0) {
+        category->OnDrawImage(dc, rect, this, isLarge, index, TRUE);
+    }
 }
 
 void CMFCRibbonUNIcoButton::DrawDisabledIcon(CDC* dc, CMFCToolBarImages* list, CSize scaled, CPoint corner) {
@@ -180,46 +197,28 @@ void CMFCRibbonUNIcoButton::DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, C
                  DI_NORMAL | (isRightToLeft ? DI_NOMIRROR : 0));
 }
 
+BOOL CMFCRibbonUNIcoButton::IsDisabled() const {
+    return m_drawnFor ? m_drawnFor->IsDisabled() : CMFCRibbonButton::IsDisabled();
+}
+
+// The platform's button measures and draws the shown text.
+void CMFCRibbonUNIcoButton::OnDraw(CDC* dc) { CMFCRibbonButton::OnDraw(dc); }
+
+void CMFCRibbonUNIcoButton::OnAfterChangeRect(CDC* dc) { CMFCRibbonButton::OnAfterChangeRect(dc); }
+
 CString CMFCRibbonUNIcoButton::GetShownText() const {
-    return CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1).c_str();
-}
-
-// The member, not SetText: that would take a part of the text for key tips.
-void CMFCRibbonUNIcoButton::OnDraw(CDC* dc) {
-    const fx::ScopedChange displayed(m_strText, GetShownText());
-    CMFCRibbonButton::OnDraw(dc);
-}
-
-void CMFCRibbonUNIcoButton::OnAfterChangeRect(CDC* dc) {
-    const fx::ScopedChange displayed(m_strText, GetShownText());
-    CMFCRibbonButton::OnAfterChangeRect(dc);
-}
-
-void CMFCRibbonUNIcoButton::OnCalcTextSize(CDC* dc) {
-    const fx::ScopedChange displayed(m_strText, GetShownText());
-    CMFCRibbonButton::OnCalcTextSize(dc);
-}
-
-CSize CMFCRibbonUNIcoButton::GetRegularSize(CDC* dc) {
-    const fx::ScopedChange displayed(m_strText, GetShownText());
-    return CMFCRibbonButton::GetRegularSize(dc);
-}
-
-CSize CMFCRibbonUNIcoButton::GetIntermediateSize(CDC* dc) {
-    const fx::ScopedChange displayed(m_strText, GetShownText());
-    return CMFCRibbonButton::GetIntermediateSize(dc);
-}
-
-CSize CMFCRibbonUNIcoButton::GetCompactSize(CDC* dc) {
-    const fx::ScopedChange displayed(m_strText, GetShownText());
-    return CMFCRibbonButton::GetCompactSize(dc);
+    return CMultiLanguageMgr::translation(GetText(), "Common", -1).c_str();
 }
 
 void CMFCRibbonUNIcoButton::CopyFrom(const CMFCRibbonBaseElement& src) {
     const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonUNIcoButton, &src);
-    if (source && !m_bAutoDestroyIcon) {
+    if (source && !m_destroysIcons) {
         m_largeIconPath = source->m_largeIconPath;
         m_smallIconPath = source->m_smallIconPath;
+    }
+    if (source) {
+        m_destroysIcons = source->m_destroysIcons;
+        m_blendsIcons = source->m_blendsIcons;
     }
     CMFCRibbonButton::CopyFrom(src);
 }

@@ -1,8 +1,9 @@
 #include "ribbon_label_ex.h"
 
+#include "commands/menu_fonts.h"
 #include "host_messages.h"
 
-#include <afxglobals.h>
+#include <afxmenubar.h>
 #include <afxribbonbar.h>
 #include <afxvisualmanager.h>
 #include <fx/dc_scope.h>
@@ -36,18 +37,21 @@ HWND OwnerOf(const CWnd* window) {
 
 } // namespace
 
-CMFCRibbonLabelEx::CMFCRibbonLabelEx(LPCTSTR text, BOOL multiLine) : CMFCRibbonLabel(text, multiLine) {}
+CMFCRibbonLabelEx::CMFCRibbonLabelEx(LPCTSTR text, BOOL multiLine)
+    : CMFCRibbonLabel(text, multiLine), m_isMultiLine(multiLine != FALSE) {}
 
 CString CMFCRibbonLabelEx::GetShownText() const {
-    return CMultiLanguageMgr::translation(m_strText.GetString(), "Common", -1).c_str();
+    return CMultiLanguageMgr::translation(GetText(), "Common", -1).c_str();
 }
 
 void CMFCRibbonLabelEx::CopyFrom(const CMFCRibbonBaseElement& src) {
     CMFCRibbonLabel::CopyFrom(src);
     const auto* const source = DYNAMIC_DOWNCAST(CMFCRibbonLabelEx, &src);
     if (!source) {
+        m_isMultiLine = IsWholeRowHeight() != FALSE; // as the platform's label then is
         return;
     }
+    m_isMultiLine = source->m_isMultiLine;
     m_right = source->m_right;
     m_textColor = source->m_textColor;
     m_leftOffset = source->m_leftOffset;
@@ -61,10 +65,7 @@ void CMFCRibbonLabelEx::SetLeftOffset(int offset) {
 
 // The room is that of the text which will be shown, at its place.
 CSize CMFCRibbonLabelEx::GetRegularSize(CDC* dc) {
-    const CString key = m_strText;
-    m_strText = GetShownText();
     CSize size = CMFCRibbonLabel::GetRegularSize(dc);
-    m_strText = key;
     size.cx += std::max(0, m_leftOffset);
     return size;
 }
@@ -74,7 +75,7 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
         return;
     }
     CMFCVisualManager* const visual = CMFCVisualManager::GetInstance();
-    const fx::DcSelection font(*dc, IsMenuMode() ? afxGlobalData.fontBold : afxGlobalData.fontRegular);
+    const fx::DcSelection font(*dc, IsMenuMode() ? BoldMenuFont() : CMFCMenuBar::GetMenuFont().GetSafeHandle());
     const fx::TextColour colour(*dc, dc->GetTextColor());
     CRect rect = GetRect();
     if (IsMenuMode()) {
@@ -90,7 +91,7 @@ void CMFCRibbonLabelEx::OnDraw(CDC* dc) {
 
     const CString text = GetShownText();
     UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
-    if (IsMultiLine() && !IsMenuMode()) {
+    if (m_isMultiLine && !IsMenuMode()) {
         format = DT_WORDBREAK | DT_NOPREFIX;
         rect = CentredLines(dc, text, rect, format);
     }

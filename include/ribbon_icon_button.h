@@ -57,16 +57,13 @@ public:
     // CMFCRibbonButton. A button that was copied for another bar takes size and picture from the one that it was copied
     // from, while that one is an icon-file button.
     CSize GetImageSize(RibbonImageType type) const override;
-    /// The translation of the text.
+    /// The translation of the text: what is measured and drawn.
     CString GetShownText() const override;
     void DrawImage(CDC* dc, RibbonImageType type, CRect rect) override;
     void OnDraw(CDC* dc) override;
-    // Measure and place the text that OnDraw shows.
-    void OnCalcTextSize(CDC* dc) override;
-    CSize GetRegularSize(CDC* dc) override;
-    CSize GetIntermediateSize(CDC* dc) override;
-    CSize GetCompactSize(CDC* dc) override;
     void OnAfterChangeRect(CDC* dc) override;
+    /// While it draws for a copy, that one's state.
+    BOOL IsDisabled() const override;
     /// Copies the primary paths unless this button destroys its icons itself; the alternates are not copied, so a copy
     /// without an original draws no picture.
     void CopyFrom(const CMFCRibbonBaseElement& src) override;
@@ -75,6 +72,7 @@ private:
     CMFCRibbonUNIcoButton* GetIconButtonOriginal() const;
     void DrawThroughOriginal(CMFCRibbonUNIcoButton& original, CDC* dc, RibbonImageType type, CRect rect);
     void DrawIconFiles(CDC* dc, RibbonImageType type, CRect rect);
+    void DrawFromImageIndex(CDC* dc, RibbonImageType type, CRect rect);
     /// The first image of the list, made grey, then drawn `scaled`; nothing for null or an empty list.
     static void DrawDisabledIcon(CDC* dc, CMFCToolBarImages* list, CSize scaled, CPoint corner);
     void DrawEnabledIcon(CDC* dc, HICON icon, CSize scaled, CPoint corner) const;
@@ -85,6 +83,9 @@ private:
     CString m_smallIconPath;
     CString m_largeAlternatePath;
     CString m_smallAlternatePath;
+    BOOL m_destroysIcons = FALSE;
+    BOOL m_blendsIcons = FALSE;
+    const CMFCRibbonUNIcoButton* m_drawnFor = nullptr; ///< the copy that shows its picture now; not owned
 };
 
 /// An icon-file button that can be held at its small form: while it is in small mode it has no large form.

@@ -31,6 +31,7 @@ protected:
     CMFCRibbonLabelEx() : CMFCRibbonLabel(L"") {}
 
 private:
+    bool m_isMultiLine = false;
     bool m_right = false;
     COLORREF m_textColor = 0xFFFFFFFF;
     int m_leftOffset = 0;

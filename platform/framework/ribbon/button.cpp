@@ -161,7 +161,7 @@ BOOL CMFCRibbonButton::IsSingleLineText() const {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
     const int limit = ribbon::LargeSingleLineWidth(metrics, fx::FromSize(GetImageSize(RibbonImageLarge)));
     const auto measure = [](std::wstring_view text) { return ribbon::MeasureText(nullptr, text).width; };
-    const CString text = ribbon::PlainText(m_strText);
+    const CString text = ribbon::PlainText(GetShownText());
     return !ribbon::BreakInTwo(View(text), measure, limit, 0).HasSecondLine(View(text));
 }
 
@@ -172,7 +172,7 @@ void CMFCRibbonButton::CleanUpSizes() {
 
 void CMFCRibbonButton::OnCalcTextSize(CDC* pDC) {
     CMFCRibbonBaseElement::OnCalcTextSize(pDC);
-    m_sizeTextRight = fx::ToSize(ribbon::MeasureText(pDC, View(ribbon::PlainText(m_strText))));
+    m_sizeTextRight = fx::ToSize(ribbon::MeasureText(pDC, View(ribbon::PlainText(GetShownText()))));
     m_sizeTextBottom = HasLargeMode() ? DrawBottomText(pDC, TRUE) : CSize(0, 0);
 }
 
@@ -203,7 +203,7 @@ ribbon::ButtonContent CMFCRibbonButton::CollectContent(CDC* pDC, BOOL bLarge, BO
         content.look = bImageOnly ? ButtonLook::ImageOnly : ButtonLook::Small;
     }
 
-    const CString plain = ribbon::PlainText(m_strText);
+    const CString plain = ribbon::PlainText(GetShownText());
     const std::wstring_view text = View(plain);
     content.rightText = ribbon::MeasureText(pDC, text);
     if (content.look != ButtonLook::Large) {

@@ -56,10 +56,10 @@ COLORREF CMFCRibbonButton::OnFillBackground(CDC* pDC) {
 void CMFCRibbonButton::OnDrawBorder(CDC* pDC) { CMFCVisualManager::GetInstance()->OnDrawRibbonButtonBorder(pDC, this); }
 
 void CMFCRibbonButton::DrawFaceText(CDC* pDC, const Face& face, COLORREF clrText) {
-    if (m_strText.IsEmpty() || face.parts.text.IsEmpty()) {
+    const CString text = ribbon::PlainText(GetShownText());
+    if (text.IsEmpty() || face.parts.text.IsEmpty()) {
         return;
     }
-    const CString text = ribbon::PlainText(m_strText);
     if (face.content.look != ribbon::ButtonLook::Large) {
         const UINT format = WithEnd(kOneLine, face.content.rightText.width, face.parts.text.Width());
         DrawRibbonText(pDC, text, fx::ToRect(face.parts.text), format, clrText);

@@ -58,9 +58,10 @@ ribbon::MenuRowContent CMFCRibbonButton::CollectMenuRow(CDC* pDC) const {
     ribbon::MenuRowContent content;
     const BOOL isLarge = m_pParentMenu != nullptr ? m_pParentMenu->HasLargeRows(this) : IsAlwaysLargeImage();
     content.image = fx::FromSize(GetImageSize(GetImageTypeFor(isLarge)));
-    content.text = ribbon::MeasureText(pDC, View(TextOf(m_strText)));
+    const CString text = GetShownText();
+    content.text = ribbon::MeasureText(pDC, View(TextOf(text)));
     content.text.height = ribbon::CurrentMetrics().textHeight;
-    content.keys = ribbon::MeasureText(pDC, View(KeysOf(m_strText)));
+    content.keys = ribbon::MeasureText(pDC, View(KeysOf(text)));
     if (isLarge && m_bIsAlwaysShowDescription && !m_strDescription.IsEmpty()) {
         content.description = ribbon::MeasureText(pDC, View(m_strDescription));
     }
@@ -92,12 +93,13 @@ void CMFCRibbonButton::DrawMenuRow(CDC* pDC) {
             DrawMark(pDC, fx::ToRect(face.frame), IsRadio(), color);
         }
     }
-    DrawRibbonText(pDC, TextOf(m_strText), fx::ToRect(face.text), kRowText, color);
+    const CString text = GetShownText();
+    DrawRibbonText(pDC, TextOf(text), fx::ToRect(face.text), kRowText, color);
     if (!face.description.IsEmpty()) {
         DrawRibbonText(pDC, m_strDescription, fx::ToRect(face.description), kRowText, color);
     }
     if (!face.keys.IsEmpty()) {
-        DrawRibbonText(pDC, KeysOf(m_strText), fx::ToRect(face.keys), kRowText, color);
+        DrawRibbonText(pDC, KeysOf(text), fx::ToRect(face.keys), kRowText, color);
     }
     if (!face.arrow.IsEmpty()) {
         DrawSubmenuArrow(pDC, fx::ToRect(face.arrow), color);

@@ -31,9 +31,10 @@ void CMFCRibbonLabel::CopyFrom(const CMFCRibbonBaseElement& src) {
 // A multi-line label takes the width at which its text fits the panel's rows.
 CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     const ribbon::FaceMetrics metrics = ribbon::CurrentMetrics();
-    const fx::Size text = ribbon::MeasureText(pDC, {GetText(), wcslen(GetText())});
+    const CString shown = GetShownText();
+    const fx::Size text = ribbon::MeasureText(pDC, {shown.GetString(), static_cast<size_t>(shown.GetLength())});
     m_sizeTextRight = fx::ToSize(text);
-    if (!m_bIsMultiLine || m_strText.IsEmpty()) {
+    if (!m_bIsMultiLine || shown.IsEmpty()) {
         // In a panel's row it is as high as its neighbours; on a status bar its text only stands in the middle.
         const bool isInRow = m_pRibbonBar == nullptr || m_pRibbonBar->IsMainRibbonBar();
         const int height = isInRow ? metrics.RowHeight() : metrics.textHeight + 2 * metrics.Scaled(kStatusMarginY);
@@ -47,7 +48,7 @@ CSize CMFCRibbonLabel::GetRegularSize(CDC* pDC) {
     CRect lines(0, 0, text.width / kMultiLineRows, 0);
     for (int width = lines.right; width <= text.width; width += step) {
         lines = CRect(0, 0, width, 0);
-        dc->DrawText(m_strText, lines, DT_WORDBREAK | DT_NOPREFIX | DT_CALCRECT);
+        dc->DrawText(shown, lines, DT_WORDBREAK | DT_NOPREFIX | DT_CALCRECT);
         if (lines.Height() <= limit && lines.Width() <= width) {
             break;
         }
@@ -65,13 +66,14 @@ void CMFCRibbonLabel::OnDraw(CDC* pDC) {
         return;
     }
     const ribbon::TextContext context(pDC);
+    const CString shown = GetShownText();
     if (IsMenuMode()) {
         // A heading of the rows below it.
         const COLORREF color = CMFCVisualManager::GetInstance()->OnDrawMenuLabel(pDC, m_rect);
         CFont* regular = pDC->SelectObject(&afxGlobalData.fontBold);
         CRect heading = m_rect;
         heading.DeflateRect(m_szMargin.cx, 0);
-        DrawRibbonText(pDC, m_strText, heading, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS, color);
+        DrawRibbonText(pDC, shown, heading, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS, color);
         pDC->SelectObject(regular);
         return;
     }
@@ -82,10 +84,10 @@ void CMFCRibbonLabel::OnDraw(CDC* pDC) {
     if (m_bIsMultiLine) {
         format = DT_WORDBREAK | DT_NOPREFIX;
         CRect needed = text;
-        const int height = pDC->DrawText(m_strText, needed, format | DT_CALCRECT);
+        const int height = pDC->DrawText(shown, needed, format | DT_CALCRECT);
         text.DeflateRect(0, std::max(0, (text.Height() - height) / 2));
     }
-    DrawRibbonText(pDC, m_strText, text, format, ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
+    DrawRibbonText(pDC, shown, text, format, ribbon::TextColor(pDC, static_cast<COLORREF>(-1), IsDisabled()));
 }
 
 int CMFCRibbonLabel::DrawRibbonText(CDC* pDC, const CString& strText, CRect rectText, UINT uiDTFlags,

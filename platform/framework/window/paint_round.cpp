@@ -37,4 +37,10 @@ void EndPaintRound() {
 }
 
 bool fx::IsPainting() { return g_round.Get().depth > 0; }
-void fx::CallAtPaintEnd(void (*drop)()) { g_round.Get().drops.push_back(drop); }
+bool fx::CallAtPaintEnd(void (*drop)()) {
+    if (!IsPainting()) {
+        return false;
+    }
+    g_round.Get().drops.push_back(drop);
+    return true;
+}

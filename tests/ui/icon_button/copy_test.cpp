@@ -98,7 +98,7 @@ public:
     void DrawImage(CDC*, RibbonImageType, CRect rect) override {
         drawnAt = rect;
         heldRect = m_rect;
-        wasDisabled = m_bIsDisabled;
+        wasDisabled = IsDisabled();
     }
     CRect drawnAt;
     CRect heldRect;

@@ -10,7 +10,8 @@ namespace fx {
 FRAMEWORK_API bool IsPainting();
 
 /// For what is made once for everything that one painting draws: `drop` is called once in this thread when the painting
-/// that goes on now ends, or when another window is painted in the middle of it. Only while IsPainting.
-FRAMEWORK_API void CallAtPaintEnd(void (*drop)());
+/// that goes on now ends, or when another window is painted in the middle of it. False: none goes on, and nothing is
+/// called.
+FRAMEWORK_API bool CallAtPaintEnd(void (*drop)());
 
 } // namespace fx
