@@ -1,5 +1,9 @@
 #include "ribbon_slider_sync.h"
 
+#include <afxglobals.h>
+#include <fx/slider_geometry.h>
+#include <fx/to_rect.h>
+
 #include <algorithm>
 #include <utility>
 
@@ -139,27 +143,43 @@ void CMFCRibbonSliderSync::ChangePos(int pos) {
 
 // ---- input
 
-void CMFCRibbonSliderSync::OnMouseMove(CPoint point) {
-    if (IsDisabled()) {
-        return;
-    }
-    const RibbonSliderPart part = GetPartFromPoint(point);
-    if (part != m_HotPart) {
-        m_HotPart = part;
-        Redraw();
-    }
-    if (m_PressedPart != RibbonSliderPart::Thumb) {
-        return;
-    }
-    ChangePos(GetPosFromPoint(point));
+namespace {
+
+fx::slider::State StateOf(const CMFCRibbonSlider& slider) {
+    return {slider.GetRangeMin(), slider.GetRangeMax(), slider.GetPos(), slider.HasZoomButtons() != FALSE};
+}
+
+} // namespace
+
+RibbonSliderPart CMFCRibbonSliderSync::PartAt(CPoint point) const {
+    const fx::slider::Face face =
+        fx::slider::Place(fx::FromRect(GetRect()), StateOf(*this), afxGlobalData.GetRibbonImageScale());
+    return fx::slider::PartAt(face, fx::FromPoint(point));
+}
+
+int CMFCRibbonSliderSync::PosAt(CPoint point) const {
+    return fx::slider::PositionAt(fx::FromRect(GetRect()), StateOf(*this), afxGlobalData.GetRibbonImageScale(),
+                                  static_cast<int>(point.x));
+}
+
+// A press can end without a release.
+RibbonSliderPart CMFCRibbonSliderSync::PressedPart() const { return IsPressed() ? m_pressed : RibbonSliderPart::None; }
+
+// The hot part follows the pointer, and a pressed thumb moves the slider (ChangePos).
+void CMFCRibbonSliderSync::OnMouseMove(CPoint point) { CMFCRibbonSlider::OnMouseMove(point); }
+
+void CMFCRibbonSliderSync::OnLButtonDown(CPoint point) {
+    m_pressed = IsDisabled() ? RibbonSliderPart::None : PartAt(point);
+    CMFCRibbonSlider::OnLButtonDown(point);
 }
 
 // A press beside the parts moves the thumb to that end; one that was taken back ends on another part than its own.
 void CMFCRibbonSliderSync::OnLButtonUp(CPoint point) {
-    const RibbonSliderPart pressed = std::exchange(m_PressedPart, RibbonSliderPart::None);
-    m_bIsPressed = FALSE;
-    Redraw();
-    if (IsDisabled() || !GetRect().PtInRect(point) || GetPartFromPoint(point) != pressed) {
+    const RibbonSliderPart pressed = PressedPart();
+    m_pressed = RibbonSliderPart::None;
+    // The platform's slider ends its press as one that was taken back.
+    CMFCRibbonSlider::OnLButtonUp(GetRect().TopLeft() - CSize(1, 1));
+    if (IsDisabled() || !GetRect().PtInRect(point) || PartAt(point) != pressed) {
         return;
     }
     if (pressed == RibbonSliderPart::Increase) {
@@ -167,7 +187,7 @@ void CMFCRibbonSliderSync::OnLButtonUp(CPoint point) {
     } else if (pressed == RibbonSliderPart::Decrease) {
         TakePos(PosAfter(*this, -static_cast<long long>(GetZoomIncrement())));
     } else {
-        TakePos(GetPosFromPoint(point));
+        TakePos(PosAt(point));
     }
 }
 
@@ -176,9 +196,9 @@ BOOL CMFCRibbonSliderSync::OnAutoRepeat() {
     if (IsDisabled()) {
         return FALSE;
     }
-    if (m_PressedPart == RibbonSliderPart::Increase) {
+    if (PressedPart() == RibbonSliderPart::Increase) {
         TakePos(PosAfter(*this, GetZoomIncrement()));
-    } else if (m_PressedPart == RibbonSliderPart::Decrease) {
+    } else if (PressedPart() == RibbonSliderPart::Decrease) {
         TakePos(PosAfter(*this, -static_cast<long long>(GetZoomIncrement())));
     }
     return TRUE;

@@ -3,6 +3,7 @@
 #include "barwright_api.h"
 
 #include <afxribbonslider.h>
+#include <fx/ribbon_slider_part.h>
 
 #include <vector>
 
@@ -33,6 +34,7 @@ public:
     /// Refused where the chain would become a ring.
     void SetOriginal(CMFCRibbonBaseElement* original) override;
     void OnMouseMove(CPoint point) override;
+    void OnLButtonDown(CPoint point) override;
     void OnLButtonUp(CPoint point) override;
     BOOL OnAutoRepeat() override;
 
@@ -46,6 +48,11 @@ private:
     void Unlink();
     void ShowPos(int pos, int redraw);
     void TakePos(int pos);
+    RibbonSliderPart PartAt(CPoint point) const;
+    int PosAt(CPoint point) const;
+    RibbonSliderPart PressedPart() const;
+
+    RibbonSliderPart m_pressed = RibbonSliderPart::None; ///< by the press that came last
 
     // None of them is owned.
     CMFCRibbonSliderSync* m_source = nullptr;    // the original, where that is a synchronised slider

@@ -23,7 +23,6 @@ add_library(framework_portable OBJECT EXCLUDE_FROM_ALL
   ribbon/main_panel_geometry.cpp
   ribbon/menu_geometry.cpp
   ribbon/panel_layout.cpp
-  ribbon/slider_geometry.cpp
   ribbon/status_layout.cpp
   ribbon/text_break.cpp
   visual/pixels.cpp

@@ -1,30 +1,27 @@
 #pragma once
 
-#include "fx/ribbon_slider_part.h"
+#include "fx/slider_geometry.h"
 #include "ribbon/face_types.h"
 
-// Sizes, rectangles and positions of a ribbon slider.
+// Sizes, rectangles and positions of a ribbon slider, in the metrics of all faces.
 namespace ribbon {
 
-struct SliderState {
-    int minimum = 0;
-    int maximum = 100;
-    int position = 0;
-    bool hasButtons = false;
-};
-
-struct SliderFace {
-    Rect decrease;
-    Rect channel; // the whole way of the thumb, as high as the element
-    Rect thumb;
-    Rect increase;
-};
+using SliderState = fx::slider::State;
+using SliderFace = fx::slider::Face;
 
 // channelWidth: at 96 DPI.
-Size MeasureSlider(int channelWidth, bool hasButtons, const FaceMetrics& metrics);
-SliderFace PlaceSlider(const Rect& rect, const SliderState& state, const FaceMetrics& metrics);
-RibbonSliderPart SliderPartAt(const SliderFace& face, Point point);
-// The position whose thumb is centred nearest to x; inside the range always.
-int SliderPositionAt(const Rect& rect, const SliderState& state, const FaceMetrics& metrics, int x);
+inline Size MeasureSlider(int channelWidth, bool hasButtons, const FaceMetrics& metrics) {
+    return {metrics.Scaled(channelWidth) + 2 * fx::slider::SideWidth(hasButtons, metrics.scale), metrics.RowHeight()};
+}
+
+inline SliderFace PlaceSlider(const Rect& rect, const SliderState& state, const FaceMetrics& metrics) {
+    return fx::slider::Place(rect, state, metrics.scale);
+}
+
+inline RibbonSliderPart SliderPartAt(const SliderFace& face, Point point) { return fx::slider::PartAt(face, point); }
+
+inline int SliderPositionAt(const Rect& rect, const SliderState& state, const FaceMetrics& metrics, int x) {
+    return fx::slider::PositionAt(rect, state, metrics.scale, x);
+}
 
 } // namespace ribbon
