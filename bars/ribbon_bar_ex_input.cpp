@@ -39,9 +39,28 @@ CPoint CursorOn(const CWnd& window) {
 
 /// The element of the ribbon pop-up that is open, where the cursor is on one.
 CMFCRibbonBaseElement* ElementOfPopup() {
-    auto* const menu = DYNAMIC_DOWNCAST(CMFCRibbonPanelMenu, CMFCPopupMenu::GetActiveMenu());
+    CMFCPopupMenu* const menu = CMFCPopupMenu::GetActiveMenu();
     auto* const bar = menu != nullptr ? DYNAMIC_DOWNCAST(CMFCRibbonPanelMenuBar, menu->GetMenuBar()) : nullptr;
     return bar != nullptr ? bar->HitTest(CursorOn(*bar)) : nullptr;
+}
+
+/// The category whose tab an element of the bar is; null for any other element. A copy on the quick access toolbar has
+/// its original's category, and a command of its own: only the tab lies where the category says that its tab does.
+const CMFCRibbonCategoryEx* CategoryOfTab(const CMFCRibbonBaseElement& element) {
+    const auto* const category = DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, element.GetParentCategory());
+    return category != nullptr && category->GetTabRect() == element.GetRect() ? category : nullptr;
+}
+
+/// The bar's own tooltip, where the notification comes from one.
+CToolTipCtrl* TooltipOf(const CWnd& bar, const NMHDR& notification) {
+    auto* const control = DYNAMIC_DOWNCAST(CToolTipCtrl, CWnd::FromHandlePermanent(notification.hwndFrom));
+    TOOLINFOW tool = {};
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
+    const bool isOwn =
+        control != nullptr &&
+        ::SendMessageW(control->GetSafeHwnd(), TTM_ENUMTOOLSW, 0, reinterpret_cast<LPARAM>(&tool)) != 0 &&
+        tool.hwnd == bar.GetSafeHwnd();
+    return isOwn ? control : nullptr;
 }
 
 } // namespace
@@ -49,9 +68,8 @@ CMFCRibbonBaseElement* ElementOfPopup() {
 // ---- clicks
 
 void CMFCRibbonBarEx::OnLButtonDown(UINT nFlags, CPoint point) {
-    // A copy on the quick access toolbar has its original's category, and a command of its own.
-    const CMFCRibbonBaseElement* const hit = DYNAMIC_DOWNCAST(CMFCRibbonTab, HitTest(point));
-    auto* const category = hit != nullptr ? DYNAMIC_DOWNCAST(CMFCRibbonCategoryEx, hit->GetParentCategory()) : nullptr;
+    const CMFCRibbonBaseElement* const hit = HitTest(point);
+    const CMFCRibbonCategoryEx* const category = hit != nullptr ? CategoryOfTab(*hit) : nullptr;
     if (category == nullptr) {
         CMFCRibbonBar2::OnLButtonDown(nFlags, point);
         return;
@@ -121,7 +139,7 @@ void CMFCRibbonBarEx::OnPaneContextMenu(CWnd* pParentFrame, CPoint point) {
     DeactivateKeyboardFocus(FALSE);
     CPoint client = point;
     ScreenToClient(&client);
-    if (HitTest(client, TRUE, TRUE) == nullptr && m_rectCaption.PtInRect(client)) {
+    if (HitTest(client, TRUE, TRUE) == nullptr && client.y >= 0 && client.y < GetCaptionHeight()) {
         return;
     }
     CMFCRibbonBar2::OnPaneContextMenu(pParentFrame, point);
@@ -156,8 +174,8 @@ BOOL CMFCRibbonBarEx::OnNeedTipText(UINT /*id*/, NMHDR* pNMH, LRESULT* pResult) 
     if (!IsToolTipEnabled()) {
         return TRUE;
     }
-    CToolTipCtrl* const control = GetToolTipCtrl();
-    if (control == nullptr || pNMH->hwndFrom != control->GetSafeHwnd() || CMFCPopupMenu::GetActiveMenu() != nullptr) {
+    CToolTipCtrl* const control = TooltipOf(*this, *pNMH);
+    if (control == nullptr || CMFCPopupMenu::GetActiveMenu() != nullptr) {
         return FALSE;
     }
     CMFCRibbonBaseElement* const element = HitTest(CursorOn(*this), TRUE);

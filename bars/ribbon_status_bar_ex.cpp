@@ -33,7 +33,8 @@ constexpr wchar_t kSeparator[] = L"Separator";
 constexpr wchar_t kLabel[] = L"label";
 constexpr wchar_t kSlider[] = L"slider";
 constexpr int kIconSide = 16;
-constexpr int kSliderWidth = 50; // of one that names none
+constexpr int kSliderWidth = 50;            // of one that names none
+constexpr UINT kFirstUnusedId = 0xFFFFFFFE; // no command has it; downwards
 
 bool IsSameName(const wchar_t* one, const wchar_t* other) { return ::lstrcmpiW(one, other) == 0; }
 
@@ -184,13 +185,15 @@ void CMFCRibbonStatusBarEx::SetEleWidth(int index, int width) {
 }
 
 void CMFCRibbonStatusBarEx::RemoveAllEx() {
-    ElementArray gone;
-    gone.Append(m_arExtendedElements);
-    m_arExtendedElements.RemoveAll();
-    for (INT_PTR index = 0; index < gone.GetSize(); ++index) {
-        delete gone[index];
+    // Elements are removed by their ids, which several may have.
+    while (Element* const element = GetExElement(GetExCount() - 1)) {
+        UINT unused = kFirstUnusedId;
+        while (FindElement(unused) != nullptr) {
+            --unused;
+        }
+        element->SetID(unused);
+        RemoveElement(unused);
     }
-    MarkLayoutDirty();
 }
 
 // The bar's own ways to remove elements do not know of applications.
@@ -215,28 +218,34 @@ void CMFCRibbonStatusBarEx::RecalcLayout() {
     status::Shape shape;
     shape.client = {client.Width(), client.Height()};
     shape.gripWidth = GripWidthOf(*this, client);
-    shape.borderHeight = IsBottomFrame() ? ::GetSystemMetrics(SM_CYSIZEFRAME) : 0;
     shape.showsInformation = IsInformationMode() != FALSE;
+    // The platform places its own parts and the elements: once for each size, as its layout takes as long as this one.
+    if (const FrameParts parts = {client.Size(), shape.gripWidth, IsBottomFrame()}; parts != m_frameParts) {
+        m_frameParts = parts;
+        CMFCRibbonStatusBar::RecalcLayout();
+    }
     for (int index = 0; index < GetCount(); ++index) {
         shape.elements.push_back(MeasureElement(*GetElement(index), dc));
         shape.elements.back().fixedWidth = m_mapWidths[index];
     }
-    for (INT_PTR index = 0; index < m_arExtendedElements.GetSize(); ++index) {
-        shape.extended.push_back(MeasureElement(*m_arExtendedElements[index], dc));
+    for (int index = 0; index < GetExCount(); ++index) {
+        shape.extended.push_back(MeasureElement(*GetExElement(index), dc));
     }
 
     const status::Places places = status::Arrange(shape);
-    m_rectSizeGrip = fx::ToRect(places.sizeGrip);
-    m_rectBottomResize = fx::ToRect(places.bottomResize);
-    m_rectInformation = fx::ToRect(places.information);
-    m_nSpace = shape.showsInformation ? m_nSpace : places.space;
-    for (INT_PTR index = m_arExtendedElements.GetSize(); index-- > 0;) {
-        PlaceElement(*m_arExtendedElements[index], places.extended[static_cast<std::size_t>(index)], true, dc);
+    m_informationPlace = fx::ToRect(places.information);
+    m_space = shape.showsInformation ? m_space : places.space;
+    for (int index = GetExCount(); index-- > 0;) {
+        PlaceElement(*GetExElement(index), places.extended[static_cast<std::size_t>(index)], true, dc);
     }
     for (int index = 0; index < GetCount(); ++index) {
         const auto place = static_cast<std::size_t>(index);
         PlaceElement(*GetElement(index), places.elements[place], !places.isSkipped[place], dc);
     }
+}
+
+void CMFCRibbonStatusBarEx::OnDrawInformation(CDC* dc, CString& information, CRect /*rect*/) {
+    CMFCRibbonStatusBar::OnDrawInformation(dc, information, m_informationPlace);
 }
 
 CMFCRibbonBaseElement* CMFCRibbonStatusBarEx::HitTest(CPoint point, int bCheckActiveCategory, int bCheckPanelCaption) {

@@ -16,17 +16,6 @@ constexpr int kSecondSlotHeight = 23;
 
 int CentredTop(const fx::Rect& area, int height) { return area.top + std::max((area.Height() - height) / 2, 0); }
 
-void PlaceGrip(const Shape& shape, int right, Places& places) {
-    if (shape.gripWidth <= 0) {
-        return;
-    }
-    places.sizeGrip = {right, 0, shape.client.width, shape.client.height};
-    if (shape.borderHeight > 0) {
-        places.sizeGrip = places.sizeGrip.Moved(0, -shape.borderHeight);
-        places.bottomResize = {0, shape.client.height - shape.borderHeight, shape.client.width, shape.client.height};
-    }
-}
-
 /// From the last to the first; answers the left end of what was placed.
 int PackExtended(const std::vector<Item>& items, const fx::Rect& area, std::vector<fx::Rect>& rects) {
     int x = area.right;
@@ -130,7 +119,6 @@ private:
 Places Arrange(const Shape& shape) {
     Places places;
     const int right = shape.client.width - std::max(shape.gripWidth, 0);
-    PlaceGrip(shape, right, places);
     fx::Rect area{0, kMarginY, right, shape.client.height - kMarginY};
     area.right = PackExtended(shape.extended, area, places.extended) - kBesideExtended;
     places.elements.assign(shape.elements.size(), {});

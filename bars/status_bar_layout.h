@@ -19,8 +19,7 @@ struct Item {
 /// What the layout depends on. Pixels; the rules' own lengths do not follow the display's scale.
 struct Shape {
     fx::Size client;
-    int gripWidth = 0;    ///< 0: no size grip
-    int borderHeight = 0; ///< of the frame's lower border where the bar covers it, else 0
+    int gripWidth = 0; ///< 0: no size grip
     bool showsInformation = false;
     std::vector<Item> elements;
     std::vector<Item> extended;
@@ -33,8 +32,6 @@ struct Places {
     /// Main elements that keep out of the layout: a separator that follows none, and all of them in information mode.
     std::vector<bool> isSkipped;
     fx::Rect information;
-    fx::Rect sizeGrip;
-    fx::Rect bottomResize;
     int space = 0; ///< between the last main element and the extended ones
 };
 

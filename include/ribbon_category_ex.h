@@ -16,7 +16,8 @@ public:
     void SetID(UINT id) { m_nID = id; }
 
 protected:
-    CMFCRibbonCategoryEx() = default;
+    /// The bar gives it bar, name and images once it is made.
+    CMFCRibbonCategoryEx() : CMFCRibbonCategory(nullptr, L"", 0, 0) {}
 
 private:
     UINT m_nID = 0;

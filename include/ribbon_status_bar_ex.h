@@ -46,6 +46,8 @@ public:
 
     /// Lays out at once.
     void RecalcLayout() override;
+    /// What is free behind the last main element, in pixels.
+    int GetSpace() const { return m_space; }
     CMFCRibbonBaseElement* HitTest(CPoint point, int bCheckActiveCategory = FALSE,
                                    int bCheckPanelCaption = FALSE) override;
     /// Does nothing: what the bar shows is the host's.
@@ -56,6 +58,10 @@ public:
 protected:
     /// Deletes all extended elements. Their applications stay known without any.
     void RemoveAllEx();
+    void OnDrawInformation(CDC* dc, CString& information, CRect rect) override;
+
+    /// Where the information text lies; empty without one.
+    CRect m_informationPlace = CRect(0, 0, 0, 0);
 
     DECLARE_MESSAGE_MAP()
 
@@ -64,4 +70,14 @@ private:
     /// Of each application, by its display name; not owned.
     std::map<std::wstring, std::vector<CMFCRibbonBaseElement*>> m_mapAppElements;
     std::map<std::int32_t, std::int32_t> m_mapWidths; ///< by the element's index
+
+    /// What the platform's own parts, as the size grip, were placed for.
+    struct FrameParts {
+        CSize client = CSize(-1, -1);
+        int gripWidth = 0;
+        BOOL isBottomFrame = FALSE;
+        bool operator==(const FrameParts&) const = default;
+    };
+    FrameParts m_frameParts;
+    int m_space = 0;
 };

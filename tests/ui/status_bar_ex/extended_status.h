@@ -26,7 +26,7 @@
 class OpenStatusBarEx : public CMFCRibbonStatusBarEx {
 public:
     using CMFCRibbonStatusBarEx::GetSizeGripWidth;
-    using CMFCRibbonStatusBarEx::m_rectInformation;
+    using CMFCRibbonStatusBarEx::m_informationPlace;
     using CMFCRibbonStatusBarEx::m_rectSizeGrip;
     using CMFCRibbonStatusBarEx::RemoveAllEx;
 

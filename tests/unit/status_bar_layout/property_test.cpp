@@ -28,7 +28,6 @@ public:
         Shape shape;
         shape.client = {Pick(0, 1200), Pick(24, 60)};
         shape.gripWidth = OneIn(2) ? std::min(18, shape.client.height) : 0;
-        shape.borderHeight = OneIn(4) ? 4 : 0;
         shape.showsInformation = OneIn(12);
         for (int count = Pick(0, 9); count > 0; --count) {
             shape.elements.push_back(MakeItem());
