@@ -27,9 +27,13 @@ public:
     /// What is shown instead of the F1 hint; empty: nothing is.
     static CString m_sStrGlobleDesciption;
 
+    void SetDescription(const CString description) override;
+
 protected:
     afx_msg void OnShow(NMHDR* notification, LRESULT* result);
+    afx_msg void OnPop(NMHDR* notification, LRESULT* result);
     afx_msg void OnPaint();
+    afx_msg void OnWindowPosChanging(WINDOWPOS* place);
     DECLARE_MESSAGE_MAP()
 
     /// 0 x 0 for what has no image.
@@ -37,9 +41,13 @@ protected:
     BOOL OnDrawIcon(CDC* dc, CRect rect) override;
     CSize OnDrawDescription(CDC* dc, CRect rect, BOOL calcOnly) override;
 
+    // Of the tooltip that appeared last, in pixels.
+    CSize m_iconSize = CSize(0, 0);
+    CPoint m_margin = CPoint(0, 0);
+
 private:
     /// A description that is shown.
-    bool HasHint() const { return m_hasHelp && GetParams().m_bDrawDescription && !m_strDescription.IsEmpty(); }
+    bool HasHint() const { return m_hasHelp && GetParams().m_bDrawDescription && !m_description.IsEmpty(); }
     hint::Layout GetLayout() const;
     bool IsF1Hint() const;
     bool HelpFileExists() const;
@@ -47,7 +55,11 @@ private:
     void Place(CSize size, LRESULT& result);
     void DrawBottomIcon(CDC& dc, const CRect& rect) const;
 
+    CString m_description;
     bool m_hasHelp = true;
+    bool m_isAppearing = false;        ///< the platform's tooltip measures itself: nothing of it is placed
+    CRect m_place = CRect(0, 0, 0, 0); ///< screen; empty while it is not shown
+    bool m_isPlaced = false;           ///< it was moved there
     // Measured when the tooltip appeared.
     CSize m_labelSize = CSize(0, 0);
     CSize m_descriptionSize = CSize(0, 0);

@@ -10,6 +10,7 @@
 #include <afxglobals.h>
 #include <afxribbonbar.h>
 #include <afxtoolbar.h>
+#include <fx/scoped_change.h>
 #include <fx/to_rect.h>
 #include <varnhold/file_op.h>
 #include <varnhold/strings_mfc.h>
@@ -45,7 +46,9 @@ IMPLEMENT_DYNCREATE(CToolTipCtrlEx, CMFCToolTipCtrl)
 
 BEGIN_MESSAGE_MAP(CToolTipCtrlEx, CMFCToolTipCtrl)
 ON_WM_PAINT()
+ON_WM_WINDOWPOSCHANGING()
 ON_NOTIFY_REFLECT(TTN_SHOW, OnShow)
+ON_NOTIFY_REFLECT(TTN_POP, OnPop)
 END_MESSAGE_MAP()
 
 CToolTipCtrlEx::CToolTipCtrlEx() {
@@ -56,7 +59,7 @@ CToolTipCtrlEx::CToolTipCtrlEx() {
     }
 }
 
-bool CToolTipCtrlEx::IsF1Hint() const { return m_strDescription == CAddRibbonBar::m_strHelpF1; }
+bool CToolTipCtrlEx::IsF1Hint() const { return m_description == CAddRibbonBar::m_strHelpF1; }
 
 bool CToolTipCtrlEx::HelpFileExists() const {
     const CString name = GetHelpFileName(static_cast<int>(m_pRibbonButton->GetID()), m_pRibbonButton->GetText());
@@ -71,22 +74,29 @@ CSize CToolTipCtrlEx::GetIconSize() {
     return m_pHotButton && m_pHotButton->GetImage() >= 0 && images ? CSize(images->GetImageSize(TRUE)) : CSize(0, 0);
 }
 
+void CToolTipCtrlEx::SetDescription(const CString description) {
+    m_description = description;
+    CMFCToolTipCtrl::SetDescription(description);
+}
+
 void CToolTipCtrlEx::OnShow(NMHDR* notification, LRESULT* result) {
-    *result = 0;
-    m_rectShow.SetRectEmpty();
-    UpdateParams();
-    if (GetParams().m_bBalloonTooltip) {
+    m_place.SetRectEmpty();
+    {
+        // It takes the look of the present manager and its label.
+        const fx::ScopedChange appearing(m_isAppearing, true);
         CMFCToolTipCtrl::OnShow(notification, result);
+    }
+    *result = 0;
+    if (GetParams().m_bBalloonTooltip) {
         return;
     }
-    m_strLabel = GetLabel();
-    m_hasHelp = m_strDescription.IsEmpty() || !m_pRibbonButton || HelpFileExists();
-    m_sizeImage = GetParams().m_bDrawIcon ? GetIconSize() : CSize(0, 0);
+    m_hasHelp = m_description.IsEmpty() || !m_pRibbonButton || HelpFileExists();
+    m_iconSize = GetParams().m_bDrawIcon ? GetIconSize() : CSize(0, 0);
     const auto corners = GetParams().m_bRoundedCorners ? hint::Corners::Rounded : hint::Corners::Square;
     const auto help = HasHint() ? hint::Help::With : hint::Help::Without;
-    const auto icon = hint::KindOfIcon(static_cast<int>(m_sizeImage.cx), afxGlobalData.GetRibbonImageScale());
+    const auto icon = hint::KindOfIcon(static_cast<int>(m_iconSize.cx), afxGlobalData.GetRibbonImageScale());
     const hint::Margins margins = hint::MarginsOf(corners, help, icon);
-    m_ptMargin = CPoint(ScaledForDisplay(margins.x), ScaledForDisplay(margins.y));
+    m_margin = CPoint(ScaledForDisplay(margins.x), ScaledForDisplay(margins.y));
 
     CClientDC dc(this);
     const CRect nowhere(0, 0, 0, 0);
@@ -96,9 +106,9 @@ void CToolTipCtrlEx::OnShow(NMHDR* notification, LRESULT* result) {
 }
 
 hint::Layout CToolTipCtrlEx::GetLayout() const {
-    const hint::Content content = {fx::FromSize(m_sizeImage), fx::FromSize(m_labelSize),
-                                   fx::FromSize(m_descriptionSize), HasHint() ? hint::Help::With : hint::Help::Without};
-    const fx::Point margin = fx::FromPoint(m_ptMargin);
+    const hint::Content content = {fx::FromSize(m_iconSize), fx::FromSize(m_labelSize), fx::FromSize(m_descriptionSize),
+                                   HasHint() ? hint::Help::With : hint::Help::Without};
+    const fx::Point margin = fx::FromPoint(m_margin);
     return hint::Arrange(content, {margin.x, margin.y});
 }
 
@@ -114,9 +124,9 @@ void CToolTipCtrlEx::Place(CSize size, LRESULT& result) {
     request.workArea = fx::FromRect(screen.WorkAreaAt(fx::ToPoint(hint::PointOf(request))));
     request.ribbon = BarOf(m_pRibbonButton);
     const hint::Place place = hint::PlaceOnScreen(request);
-    m_bMovedForShow = place.isPlaced;
-    // The system may size the window once more; the base class holds it to this.
-    m_rectShow = CRect(fx::ToPoint(place.corner), size);
+    m_isPlaced = place.isPlaced;
+    // The system may size the window once more: it is held to this.
+    m_place = CRect(fx::ToPoint(place.corner), size);
     const UINT stays = place.isPlaced ? 0 : SWP_NOMOVE;
     SetWindowPos(nullptr, place.corner.x, place.corner.y, size.cx, size.cy,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED | stays);
@@ -126,4 +136,27 @@ void CToolTipCtrlEx::Place(CSize size, LRESULT& result) {
                                                : nullptr,
                  FALSE);
     result = place.isPlaced ? 1 : 0;
+}
+
+// The platform's tooltip would hold the window to its own measures.
+void CToolTipCtrlEx::OnWindowPosChanging(WINDOWPOS* place) {
+    if (m_isAppearing) {
+        place->flags |= SWP_NOMOVE | SWP_NOSIZE;
+    }
+    if (!m_place.IsRectEmpty()) {
+        if ((place->flags & SWP_NOSIZE) == 0) {
+            place->cx = m_place.Width();
+            place->cy = m_place.Height();
+        }
+        if ((place->flags & SWP_NOMOVE) == 0 && m_isPlaced) {
+            place->x = m_place.left;
+            place->y = m_place.top;
+        }
+    }
+    CToolTipCtrl::OnWindowPosChanging(place);
+}
+
+void CToolTipCtrlEx::OnPop(NMHDR* /*notification*/, LRESULT* result) {
+    m_place.SetRectEmpty();
+    *result = 0;
 }

@@ -1,11 +1,14 @@
 // What the ribbon's tooltip draws.
 #include "tooltip_ctrl_ex.h"
 
+#include "commands/menu_fonts.h"
 #include "skins/tooltip_geometry.h"
 #include "skins/tooltip_screen.h"
 
 #include <afxglobals.h>
+#include <afxmenubar.h>
 #include <afxtoolbar.h>
+#include <fx/dc_scope.h>
 #include <fx/to_rect.h>
 
 #include <algorithm>
@@ -14,19 +17,6 @@ namespace {
 
 constexpr COLORREF kReplacementColor = RGB(255, 0, 0);
 constexpr int kLargestRegularIcon = 32; // at 96 DPI
-
-/// Selects a font and gives the earlier one back.
-class FontScope {
-public:
-    FontScope(CDC& dc, CFont& font) : m_dc(dc), m_earlier(dc.SelectObject(&font)) {}
-    ~FontScope() { m_dc.SelectObject(m_earlier); }
-    FontScope(const FontScope&) = delete;
-    FontScope& operator=(const FontScope&) = delete;
-
-private:
-    CDC& m_dc;
-    CFont* m_earlier;
-};
 
 /// A picture of the window in memory, copied to it at the end.
 class WindowPicture {
@@ -70,9 +60,9 @@ BOOL CToolTipCtrlEx::OnDrawIcon(CDC* dc, CRect rect) {
 }
 
 int CToolTipCtrlEx::DescriptionWidth(CDC& dc, const CString& text) const {
-    const bool isRegularIcon = m_sizeImage.cx <= ScaledForDisplay(kLargestRegularIcon);
+    const bool isRegularIcon = m_iconSize.cx <= ScaledForDisplay(kLargestRegularIcon);
     if (m_nFixedWidthRegular > 0 && isRegularIcon) {
-        const int beside = m_sizeImage.cx > 0 ? static_cast<int>(m_sizeImage.cx + m_ptMargin.x) : 0;
+        const int beside = m_iconSize.cx > 0 ? static_cast<int>(m_iconSize.cx + m_margin.x) : 0;
         return std::max(1, ScaledForDisplay(m_nFixedWidthRegular) - beside);
     }
     CRect line(0, 0, 0, 0);
@@ -85,10 +75,10 @@ CSize CToolTipCtrlEx::OnDrawDescription(CDC* dc, CRect rect, BOOL calcOnly) {
         return CSize(0, 0);
     }
     // Bold is for what a tooltip begins with.
-    const bool isBold = GetParams().m_bBoldLabel && m_strLabel.IsEmpty();
-    const FontScope font(*dc, isBold ? afxGlobalData.fontBold : afxGlobalData.fontTooltip);
+    const bool isBold = GetParams().m_bBoldLabel && GetWindowTextLength() == 0;
+    const fx::DcSelection font(*dc, isBold ? BoldMenuFont() : CMFCMenuBar::GetMenuFont().GetSafeHandle());
     const bool isReplaced = IsF1Hint() && !m_sStrGlobleDesciption.IsEmpty();
-    const CString& text = isReplaced ? m_sStrGlobleDesciption : m_strDescription;
+    const CString& text = isReplaced ? m_sStrGlobleDesciption : m_description;
     constexpr UINT format = DT_WORDBREAK | DT_NOPREFIX;
     if (calcOnly) {
         CRect used(0, 0, DescriptionWidth(*dc, text), 0);
@@ -139,7 +129,7 @@ void CToolTipCtrlEx::OnPaint() {
     OnDrawLabel(&dc, fx::ToRect(layout.label), FALSE);
     if (layout.separator) {
         if (GetParams().m_bDrawSeparator) {
-            OnDrawSeparator(&dc, layout.label.left, static_cast<int>(client.right - m_ptMargin.x), *layout.separator);
+            OnDrawSeparator(&dc, layout.label.left, static_cast<int>(client.right - m_margin.x), *layout.separator);
         }
         OnDrawDescription(&dc, fx::ToRect(layout.description), FALSE);
     }

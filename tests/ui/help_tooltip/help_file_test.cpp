@@ -9,7 +9,7 @@ namespace {
 
 TEST_F(HelpTooltip, WithoutAHelpFileThereIsNoHint) {
     const CRect rect = Show();
-    EXPECT_EQ(m_tip.m_ptMargin, CPoint(6, 4));
+    EXPECT_EQ(m_tip.m_margin, CPoint(6, 4));
     EXPECT_EQ(DescriptionSize(), CSize(0, 0));
     EXPECT_EQ(rect.Size(), CSize(LabelSize().cx + 32 + 6 + 12, 32 + 8));
 }
@@ -17,7 +17,7 @@ TEST_F(HelpTooltip, WithoutAHelpFileThereIsNoHint) {
 TEST_F(HelpTooltip, WithAHelpFileItGrowsByTheDescriptionAndWideMargins) {
     AddHelp();
     const CRect rect = Show();
-    EXPECT_EQ(m_tip.m_ptMargin, CPoint(6, 14));
+    EXPECT_EQ(m_tip.m_margin, CPoint(6, 14));
     const CSize label = LabelSize(), description = DescriptionSize();
     EXPECT_GT(description.cx, 0);
     EXPECT_EQ(rect.Width(), std::max(label.cx, description.cx) + 32 + 6 + 12);
@@ -28,47 +28,47 @@ TEST_F(HelpTooltip, ASmallIconHasSmallerMargins) {
     UseSmallIcon();
     AddHelp();
     Show();
-    EXPECT_EQ(m_tip.m_sizeImage, CSize(16, 16));
-    EXPECT_EQ(m_tip.m_ptMargin, CPoint(6, 8));
+    EXPECT_EQ(m_tip.m_iconSize, CSize(16, 16));
+    EXPECT_EQ(m_tip.m_margin, CPoint(6, 8));
 }
 
 TEST_F(HelpTooltip, WithoutRoundedCornersMarginsAreSmall) {
     m_tip.m_Params.m_bRoundedCorners = FALSE;
     AddHelp();
     Show();
-    EXPECT_EQ(m_tip.m_ptMargin, CPoint(4, 2));
+    EXPECT_EQ(m_tip.m_margin, CPoint(4, 2));
 }
 
 TEST_F(HelpTooltip, MarginsAndIconGrowWithTheScale) {
     ASSERT_TRUE(afxGlobalData.SetRibbonImageScale(1.5));
     AddHelp();
     Show();
-    EXPECT_EQ(m_tip.m_sizeImage, CSize(48, 48));
-    EXPECT_EQ(m_tip.m_ptMargin, CPoint(9, 21));
+    EXPECT_EQ(m_tip.m_iconSize, CSize(48, 48));
+    EXPECT_EQ(m_tip.m_margin, CPoint(9, 21));
 }
 
 TEST_F(HelpTooltip, AHelpFileThatComesOrGoesCountsAtTheNextShow) {
     Show();
-    EXPECT_EQ(m_tip.m_ptMargin.y, 4);
+    EXPECT_EQ(m_tip.m_margin.y, 4);
     AddHelp();
     Show();
-    EXPECT_EQ(m_tip.m_ptMargin.y, 14);
+    EXPECT_EQ(m_tip.m_margin.y, 14);
     m_help.Remove("open.swf");
     Show();
-    EXPECT_EQ(m_tip.m_ptMargin.y, 4);
+    EXPECT_EQ(m_tip.m_margin.y, 4);
 }
 
 TEST_F(HelpTooltip, AFolderOfThatNameIsNoHelpFile) {
     m_help.Write("open.swf/inside");
     Show();
-    EXPECT_EQ(m_tip.m_ptMargin.y, 4);
+    EXPECT_EQ(m_tip.m_margin.y, 4);
 }
 
 TEST_F(HelpTooltip, ACommandWithoutARegisteredHelpFileHasNone) {
     AddHelp();
     UseButton(std::make_unique<CMFCRibbonUNIcoButton>(kCommand + 1, L"Open", m_icon32));
     Show();
-    EXPECT_EQ(m_tip.m_ptMargin.y, 4);
+    EXPECT_EQ(m_tip.m_margin.y, 4);
 }
 
 TEST_F(HelpTooltip, AnyDescriptionOfAnElementNeedsTheHelpFile) {
@@ -85,21 +85,21 @@ TEST_F(HelpTooltip, WithoutAHotElementADescriptionNeedsNoFile) {
     m_tip.SetDescription(L"Reads a drawing.");
     Show();
     EXPECT_GT(DescriptionSize().cx, 0);
-    EXPECT_EQ(m_tip.m_ptMargin, CPoint(6, 4)) << "no icon to make room below";
+    EXPECT_EQ(m_tip.m_margin, CPoint(6, 4)) << "no icon to make room below";
 }
 
 TEST_F(HelpTooltip, WithoutADescriptionThereIsNoHint) {
     AddHelp();
     m_tip.SetDescription(L"");
     const CRect rect = Show();
-    EXPECT_EQ(m_tip.m_ptMargin, CPoint(6, 4));
+    EXPECT_EQ(m_tip.m_margin, CPoint(6, 4));
     EXPECT_EQ(rect.Height(), 32 + 8);
 }
 
 TEST_F(HelpTooltip, IconsThatAreNotShownTakeNoRoom) {
     m_tip.m_Params.m_bDrawIcon = FALSE;
     const CRect rect = Show();
-    EXPECT_EQ(m_tip.m_sizeImage, CSize(0, 0));
+    EXPECT_EQ(m_tip.m_iconSize, CSize(0, 0));
     EXPECT_EQ(rect.Size(), LabelSize() + CSize(12, 8));
 }
 
@@ -196,7 +196,7 @@ TEST_F(HelpTooltip, TheHelpFolderIsAskedForOnceInAProcess) {
     ::CloseHandle(turn);
     AddHelp();
     Show();
-    EXPECT_EQ(m_tip.m_ptMargin.y, 14) << "the file of the first folder is still found";
+    EXPECT_EQ(m_tip.m_margin.y, 14) << "the file of the first folder is still found";
 }
 
 } // namespace

@@ -76,10 +76,10 @@ public:
 class ShownTip : public CToolTipCtrlEx {
 public:
     using CToolTipCtrlEx::GetIconSize;
+    using CToolTipCtrlEx::m_iconSize;
+    using CToolTipCtrlEx::m_margin;
     using CToolTipCtrlEx::m_Params;
     using CToolTipCtrlEx::m_pHotButton;
-    using CToolTipCtrlEx::m_ptMargin;
-    using CToolTipCtrlEx::m_sizeImage;
     using CToolTipCtrlEx::OnDrawDescription;
     using CToolTipCtrlEx::OnDrawLabel;
     using CToolTipCtrlEx::OnShow;
