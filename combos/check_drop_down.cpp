@@ -5,7 +5,10 @@
 #include "ribbon_multi_combo.h"
 
 #include <afxglobals.h>
+#include <fx/scoped_change.h>
 #include <fx/window_guard.h>
+
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CMFCPopupMenuBarEx, CMFCPopupMenuBar)
 IMPLEMENT_DYNCREATE(CMFCCheckDropDown, CMFCDropDownListBox)
@@ -29,6 +32,24 @@ constexpr bool exclusiveClick = true;
 
 // ---- the rows
 
+// By pointer to none that is gone: a program may end with lists open.
+std::vector<CMFCPopupMenuBarEx*>& CMFCPopupMenuBarEx::Bars() {
+    static auto& bars = *new std::vector<CMFCPopupMenuBarEx*>;
+    return bars;
+}
+
+CMFCPopupMenuBarEx::CMFCPopupMenuBarEx() { Bars().push_back(this); }
+
+CMFCPopupMenuBarEx::~CMFCPopupMenuBarEx() { std::erase(Bars(), this); }
+
+CRibbonNotifyCombox::~CRibbonNotifyCombox() {
+    for (CMFCPopupMenuBarEx* const bar : CMFCPopupMenuBarEx::Bars()) {
+        if (bar->m_notifyChild == this) {
+            bar->m_notifyChild = nullptr;
+        }
+    }
+}
+
 // The rows of a list are as high as a line of text. A bar that shows a menu has higher ones, and still the line counts.
 int CMFCPopupMenuBarEx::ZoneAt(CPoint point) const {
     return marks::ZoneAt(m_zones, point.x, point.y, afxGlobalData.GetTextHeight());
@@ -37,10 +58,28 @@ int CMFCPopupMenuBarEx::ZoneAt(CPoint point) const {
 void CMFCPopupMenuBarEx::OnLButtonDown(UINT flags, CPoint point) {
     // Neither tracked nor closed: what a mark does comes with the release.
     if (m_notifyChild && HitTest(point) >= 0 && ZoneAt(point) >= 0) {
-        m_bAcceptsRelease = TRUE;
+        m_isMarkPressed = true;
         return;
     }
     CMFCPopupMenuBar::OnLButtonDown(flags, point);
+}
+
+// A press in a zone was kept back: a row that is chosen all the same gets it now.
+void CMFCPopupMenuBarEx::ReleaseOnRow(UINT flags, CPoint point) {
+    if (std::exchange(m_isMarkPressed, false)) {
+        const fx::WindowGuard guard(this);
+        CMFCPopupMenuBar::OnLButtonDown(flags, point);
+        if (guard.IsGone()) {
+            return;
+        }
+    }
+    CMFCPopupMenuBar::OnLButtonUp(flags, point);
+}
+
+void CMFCPopupMenuBarEx::RedrawRow(int row) {
+    CRect rect(0, 0, 0, 0);
+    GetItemRect(row, rect);
+    InvalidateRect(rect);
 }
 
 // In the next three the host may have closed the list, or destroyed all around it, when the notify child comes back.
@@ -55,11 +94,12 @@ void CMFCPopupMenuBarEx::OnLButtonUp(UINT flags, CPoint point) {
             return;
         }
         if (isDone) {
-            InvalidateRow(row);
+            m_isMarkPressed = false;
+            RedrawRow(row);
             return;
         }
     }
-    CMFCPopupMenuBar::OnLButtonUp(flags, point);
+    ReleaseOnRow(flags, point);
 }
 
 // The row is not looked at: a double click in the column below the last row counts, too.
@@ -85,16 +125,15 @@ CMFCCheckDropDown::CMFCCheckDropDown(CMFCRibbonComboBox* combo) : CMFCDropDownLi
     m_rows.SetNotifyChild(dynamic_cast<CRibbonNotifyCombox*>(combo));
 }
 
-// Closing may take a while: a host that is told of it may pump messages for the rows.
-void CMFCCheckDropDown::OnParentComboDestroyed() {
-    m_rows.SetNotifyChild(nullptr);
-    CMFCDropDownListBox::OnParentComboDestroyed();
+void CMFCCheckDropDown::RecalcLayout(BOOL notify) {
+    const fx::ScopedChange layout(m_isInLayout, true);
+    CMFCDropDownListBox::RecalcLayout(notify);
 }
 
 void CMFCCheckDropDown::OnSize(UINT type, int cx, int cy) {
     CMFCDropDownListBox::OnSize(type, cx, cy);
     // The height in which the list opens, or which it takes for another item, is no wish of the user's.
-    if (!IsShown() || IsInLayout()) {
+    if (!IsShown() || m_isInLayout) {
         return;
     }
     CMFCRibbonBaseElement* const combo = GetParentRibbonElement();

@@ -3,7 +3,7 @@
 #include "check_drop_down.h"
 
 #include <afxRibbonPanel.h>
-#include <fx/accessibility_data.h>
+#include <fx/item_marks.h>
 #include <varnhold/language.h>
 
 #include <algorithm>
@@ -82,19 +82,4 @@ int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWid
     return marksWidth + static_cast<int>(dc.GetTextExtent(InOneLine(DisplayedTextOf(combo, index))).cx) + marks::gap;
 }
 
-void ShowMarkChange(CMFCRibbonComboBox& combo, int index) {
-    combo.RedrawItem(index);
-    TellMarkChange(combo, index);
-}
-
-void TellMarkChange(CMFCRibbonComboBox& combo, int index) {
-    if (index < 0 || index != combo.GetACCCurrentRow()) {
-        return;
-    }
-    combo.NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
-    combo.NotifyAccessibility(EVENT_OBJECT_DESCRIPTIONCHANGE); // the words stand there
-}
-
-void AddWords(CAccessibilityData& data, const CString& words) {
-    data.m_strDescription += data.m_strDescription.IsEmpty() ? words : L", " + words;
-}
+bool ShowMarkChange(CMFCRibbonComboBox& combo, int index) { return fx::ShowItemMark(combo, index); }

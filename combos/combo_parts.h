@@ -12,8 +12,6 @@
 #include <memory>
 #include <vector>
 
-class CAccessibilityData;
-
 /// What the three ribbon combos with marks have in common.
 
 /// The elements of the same ribbon bar with the combo's command id; null for one of another class.
@@ -31,9 +29,6 @@ std::vector<Combo*> ElementsWithIdOf(const Combo& combo) {
     }
     return found;
 }
-
-/// Adds an item's state, in words, to what assistive programs are told.
-void AddWords(CAccessibilityData& data, const CString& words);
 
 /// The panel that shows the combo is no longer hot: the open list is.
 void CoolPanelOf(const CMFCRibbonComboBox& combo);
@@ -100,23 +95,6 @@ struct MarkedComboState {
         TakeStaticHeight(combo);
     }
 
-    // ---- what assistive programs are told; State has `WordsFor(index)`
-
-    static BOOL Describe(Combo& combo, CWnd* parent, CAccessibilityData& data) {
-        const BOOL isDescribed = combo.CMFCRibbonComboBox::SetACCData(parent, data);
-        if (const int row = combo.GetACCCurrentRow(); isDescribed && row >= 0) {
-            AddWords(data, State::Of(combo)->WordsFor(row));
-        }
-        return isDescribed;
-    }
-    static BOOL DescribeRow(Combo& combo, int row, CAccessibilityData& data) {
-        if (!combo.CMFCRibbonComboBox::SetACCRowData(row, data)) {
-            return FALSE;
-        }
-        AddWords(data, State::Of(combo)->WordsFor(row));
-        return TRUE;
-    }
-
 private:
     void TakeOver(const MarkedComboState& source) {
         rows = source.rows;
@@ -156,12 +134,8 @@ std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, c
 /// selected.
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);
 
-/// To which a panel that lacks room may narrow the edit area, at 96 DPI: the marks, and a word beside them.
-inline constexpr int leastEditWidth = 72;
-
-/// Draws the element, and the item's row in its open list, after its mark has changed; then TellMarkChange.
-void ShowMarkChange(CMFCRibbonComboBox& combo, int index);
-/// Assistive programs are told of a changed mark when it is of the item that the element speaks of.
-void TellMarkChange(CMFCRibbonComboBox& combo, int index);
+/// Draws the element, and the item's row in its open list, after its mark has changed, and tells assistive programs.
+/// False: the element does not speak of that item now.
+bool ShowMarkChange(CMFCRibbonComboBox& combo, int index);
 /// A word as people read it.
 CString Displayed(const wchar_t* word);

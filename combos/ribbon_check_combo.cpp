@@ -7,7 +7,6 @@
 
 #include <afxglobals.h>
 #include <afxvisualmanager.h>
-#include <fx/accessibility_data.h>
 
 #include <algorithm>
 
@@ -49,7 +48,9 @@ struct CMFCRibbonCheckComb::State : MarkedComboState<CMFCRibbonCheckComb, State,
     /// The same for the checks of all items.
     static void ShowChangeOfAll(CMFCRibbonCheckComb& combo) {
         combo.Redraw();
-        TellMarkChange(combo, combo.GetACCCurrentRow());
+        // The element speaks of one of them.
+        for (int index = 0; index < CountOf(combo) && !ShowMarkChange(combo, index); ++index) {
+        }
         RedrawCopies(combo);
     }
     static void RedrawCopies(CMFCRibbonCheckComb& combo) {
@@ -103,15 +104,10 @@ void CMFCRibbonCheckComb::UserStaticDropDownHeight(bool use) { State::UseStaticH
 
 void CMFCRibbonCheckComb::SetStaticDropDownHeight(int height) { State::SetStaticHeight(*this, height); }
 
-void CMFCRibbonCheckComb::DropDownList() {
-    if (!BeginDropDown()) {
-        return;
-    }
-    State::PrepareToDrop(*this);
-    OpenDropDown(GetRect().Width());
-}
+void CMFCRibbonCheckComb::DropDownList() { CMFCRibbonComboBox::DropDownList(); }
 
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonCheckComb::MakeDropDownList() {
+    State::PrepareToDrop(*this);
     const int editBottom = std::max(static_cast<int>(GetCommandRect().bottom), afxGlobalData.GetTextHeight());
     return MakeMarkedList(*this, {marks::CheckZone(MarkSizes::Current().checkBox, editBottom)});
 }
@@ -182,8 +178,6 @@ BOOL CMFCRibbonCheckComb::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMenu
     return TRUE;
 }
 
-int CMFCRibbonCheckComb::GetLeastEditWidth() const { return leastEditWidth; }
-
 int CMFCRibbonCheckComb::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
     return RowWidthOf(*this, *dc, index, static_cast<int>(State::Place(*this, CRect()).text.left));
 }
@@ -197,14 +191,7 @@ void CMFCRibbonCheckComb::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 
 CString CMFCRibbonCheckComb::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
 
-BOOL CMFCRibbonCheckComb::SetACCData(CWnd* parent, CAccessibilityData& data) {
-    return State::Describe(*this, parent, data);
-}
-
-BOOL CMFCRibbonCheckComb::SetACCRowData(int row, CAccessibilityData& data) {
-    const BOOL isDescribed = State::DescribeRow(*this, row, data);
-    if (isDescribed && m_state->rows.GetOrEmpty(row)) {
-        data.m_nState |= STATE_SYSTEM_CHECKED;
-    }
-    return isDescribed;
+CString CMFCRibbonCheckComb::GetItemStateText(int index, BOOL& isChecked) const {
+    isChecked = m_state->rows.GetOrEmpty(index) ? TRUE : FALSE;
+    return m_state->WordsFor(index);
 }

@@ -4,8 +4,6 @@
 #include "host_messages.h"
 #include "ribbon_multi_combo.h"
 
-#include <fx/accessibility_data.h>
-
 IMPLEMENT_DYNCREATE(CMFCRibbonVesMultiCombo, CMFCRibbonComboBox)
 
 namespace {
@@ -19,6 +17,18 @@ struct CMFCRibbonVesMultiCombo::State : MarkedComboState<CMFCRibbonVesMultiCombo
         const marks::LightRow place = marks::PlaceLightRow(fx::FromRect(row), MarkSizes::Current().icon);
         DrawLight(dc, place.light, rows.GetOrEmpty(index) ? LightState::On : LightState::Off);
         DrawTextOf(combo, dc, index, place.text);
+    }
+    struct Change {
+        bool isSet = false;
+        bool isHeard = false; ///< assistive programs were told
+    };
+    Change SetLight(CMFCRibbonVesMultiCombo& combo, int index, bool light, bool redraw) {
+        if (!rows.Set(index, CountOf(combo), light)) {
+            return {};
+        }
+        const bool isHeard = redraw && ShowMarkChange(combo, index);
+        ChangeCopies(combo, [=](CMFCRibbonVesMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
+        return {true, isHeard};
     }
     CString WordsFor(int index) const { return Displayed(rows.GetOrEmpty(index) ? L"light on" : L"light off"); }
 };
@@ -42,14 +52,7 @@ INT_PTR CMFCRibbonVesMultiCombo::AddItem(LPCTSTR text, DWORD_PTR data) {
 void CMFCRibbonVesMultiCombo::RemoveAll() { State::RemoveAll(*this); }
 
 bool CMFCRibbonVesMultiCombo::SetItemLight(int index, bool light, bool redraw) {
-    if (!m_state->rows.Set(index, CountOf(*this), light)) {
-        return false;
-    }
-    if (redraw) {
-        ShowMarkChange(*this, index);
-    }
-    State::ChangeCopies(*this, [=](CMFCRibbonVesMultiCombo& copy) { copy.SetItemLight(index, light, redraw); });
-    return true;
+    return m_state->SetLight(*this, index, light, redraw).isSet;
 }
 
 bool CMFCRibbonVesMultiCombo::SetItemLight(const wchar_t* text, bool light, bool redraw) {
@@ -68,15 +71,10 @@ std::wstring CMFCRibbonVesMultiCombo::findTypeKeyNameByIndex(int index) const { 
 
 // ---- the list
 
-void CMFCRibbonVesMultiCombo::DropDownList() {
-    if (!BeginDropDown()) {
-        return;
-    }
-    State::PrepareToDrop(*this);
-    OpenDropDown(GetRect().Width());
-}
+void CMFCRibbonVesMultiCombo::DropDownList() { CMFCRibbonComboBox::DropDownList(); }
 
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonVesMultiCombo::MakeDropDownList() {
+    State::PrepareToDrop(*this);
     return MakeMarkedList(*this, marks::LightZones(MarkSizes::Current().icon));
 }
 
@@ -88,14 +86,10 @@ bool CMFCRibbonVesMultiCombo::NotifyChangeData(int index, int zone, bool /*exclu
         return false;
     }
     const bool light = !m_state->rows.GetOrEmpty(index);
-    const bool isHeard = index == GetACCCurrentRow(); // of the light, before the item is selected
-    SetItemLight(index, light, true);
+    // The light first: assistive programs may hear of it before the item is selected.
+    const bool isHeard = m_state->SetLight(*this, index, light, true).isHeard;
     SelectRow(*this, index);
-    if (isHeard) {
-        RedrawItem(index);
-    } else {
-        ShowMarkChange(*this, index);
-    }
+    fx::ShowItemMark(*this, index, !isHeard);
     TellHost(host, WM_VESCOMBO_LIGHT_CHANGED, TextOf(*this, index), light ? 1 : 0);
     return true;
 }
@@ -126,8 +120,6 @@ BOOL CMFCRibbonVesMultiCombo::OnDrawDropListItem(CDC* dc, int index, CMFCToolBar
     return TRUE;
 }
 
-int CMFCRibbonVesMultiCombo::GetLeastEditWidth() const { return leastEditWidth; }
-
 int CMFCRibbonVesMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
     return RowWidthOf(*this, *dc, index, marks::PlaceLightRow({}, MarkSizes::Current().icon).text.left);
 }
@@ -141,10 +133,6 @@ void CMFCRibbonVesMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 
 CString CMFCRibbonVesMultiCombo::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
 
-BOOL CMFCRibbonVesMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
-    return State::Describe(*this, parent, data);
-}
-
-BOOL CMFCRibbonVesMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
-    return State::DescribeRow(*this, row, data);
+CString CMFCRibbonVesMultiCombo::GetItemStateText(int index, BOOL& /*isChecked*/) const {
+    return m_state->WordsFor(index);
 }

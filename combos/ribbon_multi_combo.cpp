@@ -5,8 +5,6 @@
 #include "combos/mark_sizes.h"
 #include "host_messages.h"
 
-#include <fx/accessibility_data.h>
-
 IMPLEMENT_DYNCREATE(CMFCRibbonMultiCombo, CMFCRibbonComboBox)
 
 namespace {
@@ -143,15 +141,10 @@ void CMFCRibbonMultiCombo::UserStaticDropDownHeight(bool use) { State::UseStatic
 
 void CMFCRibbonMultiCombo::SetStaticDropDownHeight(int height) { State::SetStaticHeight(*this, height); }
 
-void CMFCRibbonMultiCombo::DropDownList() {
-    if (!BeginDropDown()) {
-        return;
-    }
-    State::PrepareToDrop(*this);
-    OpenDropDown(GetRect().Width());
-}
+void CMFCRibbonMultiCombo::DropDownList() { CMFCRibbonComboBox::DropDownList(); }
 
 std::unique_ptr<CMFCDropDownListBox> CMFCRibbonMultiCombo::MakeDropDownList() {
+    State::PrepareToDrop(*this);
     return MakeMarkedList(*this, marks::SwatchZones(GetCommandRect().Height(), ScaledIconSize()));
 }
 
@@ -168,10 +161,7 @@ bool CMFCRibbonMultiCombo::AskForLight(HWND host, const CString& text, int index
     // This element's light only, in whatever colour the host has given it meanwhile.
     const bool isChanged =
         isAllowed && m_state->rows.Modify(index, CountOf(*this), [wanted](rowInfo& info) { info.light = wanted; });
-    RedrawItem(index);
-    if (isChanged) {
-        TellMarkChange(*this, index);
-    }
+    fx::ShowItemMark(*this, index, isChanged);
     return true;
 }
 
@@ -250,8 +240,6 @@ BOOL CMFCRibbonMultiCombo::OnDrawDropListItem(CDC* dc, int index, CMFCToolBarMen
     return TRUE;
 }
 
-int CMFCRibbonMultiCombo::GetLeastEditWidth() const { return leastEditWidth; }
-
 int CMFCRibbonMultiCombo::GetDropListItemWidth(CDC* dc, int index, CSize /*text*/) {
     return RowWidthOf(*this, *dc, index,
                       marks::PlaceSwatchRow({0, 0, 0, ScaledIconSize()}, ScaledIconSize()).text.left);
@@ -266,10 +254,6 @@ void CMFCRibbonMultiCombo::OnDrawSelectedItem(CDC* dc, CRect /*edit*/) {
 
 CString CMFCRibbonMultiCombo::GetShownItemText(int index) const { return DisplayedTextOf(*this, index); }
 
-BOOL CMFCRibbonMultiCombo::SetACCData(CWnd* parent, CAccessibilityData& data) {
-    return State::Describe(*this, parent, data);
-}
-
-BOOL CMFCRibbonMultiCombo::SetACCRowData(int row, CAccessibilityData& data) {
-    return State::DescribeRow(*this, row, data);
+CString CMFCRibbonMultiCombo::GetItemStateText(int index, BOOL& /*isChecked*/) const {
+    return m_state->WordsFor(index);
 }

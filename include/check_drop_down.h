@@ -14,7 +14,8 @@ class BARWRIGHT_API CMFCPopupMenuBarEx : public CMFCPopupMenuBar {
     DECLARE_DYNCREATE(CMFCPopupMenuBarEx)
 
 public:
-    CMFCPopupMenuBarEx() = default;
+    CMFCPopupMenuBarEx();
+    ~CMFCPopupMenuBarEx() override;
 
     /// Not owned; null: none.
     void SetNotifyChild(CRibbonNotifyCombox* child) { m_notifyChild = child; }
@@ -29,10 +30,16 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CRibbonNotifyCombox;
     int ZoneAt(CPoint point) const;
+    void ReleaseOnRow(UINT flags, CPoint point);
+    void RedrawRow(int row);
+    /// All that there are.
+    static std::vector<CMFCPopupMenuBarEx*>& Bars();
 
     std::vector<CRect> m_zones;
     CRibbonNotifyCombox* m_notifyChild = nullptr;
+    bool m_isMarkPressed = false;
 };
 
 /// The drop list of the combos with marks. Its window owns it. When the user resizes it, its height becomes that of all
@@ -48,7 +55,7 @@ public:
     /// See CMFCPopupMenuBarEx.
     void SetSpRects(const std::vector<CRect>& zones) { m_rows.SetSpRects(zones); }
 
-    void OnParentComboDestroyed() override;
+    void RecalcLayout(BOOL notify = TRUE) override;
 
 protected:
     CMFCCheckDropDown() = default;
@@ -57,4 +64,5 @@ protected:
 
 private:
     CMFCPopupMenuBarEx m_rows;
+    bool m_isInLayout = false; ///< what changes its size now is not the user
 };

@@ -4,6 +4,7 @@
 #include "ribbon_notify_combox.h"
 
 #include <afxribboncombobox.h>
+#include <fx/item_marks.h>
 
 #include <map>
 #include <memory>
@@ -16,7 +17,9 @@
 ///
 /// Copies of one element (those with its command id on the same ribbon bar) are changed along by AddItem, RemoveAll and
 /// SetItemCheck. The container owns the combo; the host may destroy it in any message that it gets from it.
-class BARWRIGHT_API CMFCRibbonCheckComb : public CMFCRibbonComboBox, public CRibbonNotifyCombox {
+class BARWRIGHT_API CMFCRibbonCheckComb : public CMFCRibbonComboBox,
+                                          public CRibbonNotifyCombox,
+                                          public RibbonItemMarks {
     DECLARE_DYNCREATE(CMFCRibbonCheckComb)
 
 public:
@@ -60,11 +63,9 @@ public:
     BOOL OnToggleDropListItem(int index) override;
     void OnLButtonDown(CPoint point) override;
     void OnCalcTextSize(CDC* dc) override;
-    BOOL SetACCData(CWnd* parent, CAccessibilityData& data) override;
-    BOOL SetACCRowData(int row, CAccessibilityData& data) override;
+    CString GetItemStateText(int index, BOOL& isChecked) const override;
 
 protected:
-    int GetLeastEditWidth() const override;
     std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override;
     void OnDrawSelectedItem(CDC* dc, CRect edit) override;
 

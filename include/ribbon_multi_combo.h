@@ -4,6 +4,7 @@
 #include "ribbon_notify_combox.h"
 
 #include <afxribboncombobox.h>
+#include <fx/item_marks.h>
 
 #include <map>
 #include <memory>
@@ -20,7 +21,9 @@
 /// SetItemClr and SetItemLight. The container owns the combo; the host may destroy it in any message that it gets from
 /// it. Setters are false, and nothing changed, without such an item; getters are false, and the argument untouched,
 /// when the position was never given a state (the count of items plays no part).
-class BARWRIGHT_API CMFCRibbonMultiCombo : public CMFCRibbonComboBox, public CRibbonNotifyCombox {
+class BARWRIGHT_API CMFCRibbonMultiCombo : public CMFCRibbonComboBox,
+                                           public CRibbonNotifyCombox,
+                                           public RibbonItemMarks {
     DECLARE_DYNCREATE(CMFCRibbonMultiCombo)
 
 public:
@@ -79,11 +82,9 @@ public:
     int GetDropListItemWidth(CDC* dc, int index, CSize text) override;
     BOOL OnToggleDropListItem(int index) override;
     void OnLButtonDown(CPoint point) override;
-    BOOL SetACCData(CWnd* parent, CAccessibilityData& data) override;
-    BOOL SetACCRowData(int row, CAccessibilityData& data) override;
+    CString GetItemStateText(int index, BOOL& isChecked) const override;
 
 protected:
-    int GetLeastEditWidth() const override;
     CMFCRibbonMultiCombo();
     std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override;
     void OnDrawSelectedItem(CDC* dc, CRect edit) override;
@@ -99,7 +100,9 @@ private:
 /// A ribbon combo box whose items each have a light and nothing else: a click on it switches the light first and tells
 /// the host afterwards (WM_VESCOMBO_LIGHT_CHANGED). In all else a CMFCRibbonMultiCombo without colours and without a
 /// static height.
-class BARWRIGHT_API CMFCRibbonVesMultiCombo : public CMFCRibbonComboBox, public CRibbonNotifyCombox {
+class BARWRIGHT_API CMFCRibbonVesMultiCombo : public CMFCRibbonComboBox,
+                                              public CRibbonNotifyCombox,
+                                              public RibbonItemMarks {
     DECLARE_DYNCREATE(CMFCRibbonVesMultiCombo)
 
 public:
@@ -130,11 +133,9 @@ public:
     int GetDropListItemWidth(CDC* dc, int index, CSize text) override;
     BOOL OnToggleDropListItem(int index) override;
     void OnLButtonDown(CPoint point) override;
-    BOOL SetACCData(CWnd* parent, CAccessibilityData& data) override;
-    BOOL SetACCRowData(int row, CAccessibilityData& data) override;
+    CString GetItemStateText(int index, BOOL& isChecked) const override;
 
 protected:
-    int GetLeastEditWidth() const override;
     CMFCRibbonVesMultiCombo();
     std::unique_ptr<CMFCDropDownListBox> MakeDropDownList() override;
     void OnDrawSelectedItem(CDC* dc, CRect edit) override;

@@ -4,7 +4,33 @@
 #include <oleacc.h>
 
 #include "fx/accessibility_data.h"
+#include "fx/item_marks.h"
 #include "ribbon/access_texts.h"
+
+namespace {
+
+/// Answers whether the item has a check, and set.
+bool AddMarks(const CMFCRibbonComboBox& combo, int index, CAccessibilityData& data) {
+    const auto* const marks = dynamic_cast<const RibbonItemMarks*>(&combo);
+    BOOL isChecked = FALSE;
+    const CString words = marks != nullptr && index >= 0 ? marks->GetItemStateText(index, isChecked) : CString();
+    if (!words.IsEmpty()) {
+        data.m_strDescription += data.m_strDescription.IsEmpty() ? words : L", " + words;
+    }
+    return isChecked != FALSE;
+}
+
+} // namespace
+
+bool fx::ShowItemMark(CMFCRibbonComboBox& combo, int index, bool isChanged) {
+    combo.RedrawItem(index);
+    if (!isChanged || index < 0 || index != combo.GetACCCurrentRow()) {
+        return false;
+    }
+    combo.NotifyAccessibility(EVENT_OBJECT_STATECHANGE);
+    combo.NotifyAccessibility(EVENT_OBJECT_DESCRIPTIONCHANGE); // the words stand there
+    return true;
+}
 
 BOOL CMFCRibbonComboBox::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     CMFCRibbonEdit::SetACCData(pParent, data);
@@ -18,6 +44,7 @@ BOOL CMFCRibbonComboBox::SetACCData(CWnd* pParent, CAccessibilityData& data) {
     if (!m_bHasEditBox) {
         data.m_strDefaultAction = RibbonAccessText(RibbonAccessTextId::Open);
     }
+    AddMarks(*this, row, data);
     return TRUE;
 }
 
@@ -67,6 +94,7 @@ BOOL CMFCRibbonComboBox::SetACCRowData(int nRow, CAccessibilityData& data) {
         }
         data.m_nState |= STATE_SYSTEM_FOCUSABLE | (nRow == bar.GetHotRow() ? STATE_SYSTEM_FOCUSED : 0);
     }
+    data.m_nState |= AddMarks(*this, nRow, data) ? STATE_SYSTEM_CHECKED : 0;
     data.m_rect = shown;
     if (shown.IsRectEmpty()) {
         data.m_nState |=

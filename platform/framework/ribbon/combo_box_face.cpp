@@ -5,6 +5,7 @@
 #include <afxvisualmanager.h>
 
 #include "fx/dc_scope.h"
+#include "fx/item_marks.h"
 #include "fx/scoped_change.h"
 #include "popups/row_text.h"
 #include "ribbon/element_metrics.h"
@@ -146,7 +147,10 @@ void CMFCRibbonComboBox::OpenDropDown(int nMinWidth) {
     pList->SetParentRibbonElement(this);
     pList->SetCurSel(m_nSelected);
     pList->SetMaxHeight(GetDropDownHeight());
-    pList->SetMinWidth(nMinWidth >= 0 ? nMinWidth : m_rectCommand.Width() + m_rectMenu.Width());
+    // Marks and texts have the room of the whole element.
+    const bool isMarked = dynamic_cast<const RibbonItemMarks*>(this) != nullptr;
+    const int usual = isMarked ? m_rect.Width() : m_rectCommand.Width() + m_rectMenu.Width();
+    pList->SetMinWidth(nMinWidth >= 0 ? nMinWidth : usual);
     if (m_bResizeList) {
         pList->EnableVertResize(2 * afxGlobalData.GetTextHeight());
     }

@@ -4,6 +4,7 @@
 #include <afxribboncategory.h>
 #include <afxvisualmanager.h>
 
+#include "fx/item_marks.h"
 #include "ribbon/edit_geometry.h"
 #include "ribbon/edit_unseen.h"
 #include "ribbon/element_metrics.h"
@@ -14,8 +15,9 @@
 IMPLEMENT_DYNCREATE(CMFCRibbonEdit, CMFCRibbonButton)
 
 namespace {
-constexpr int kDefaultWidth = 108; // of the edit area, at 96 DPI
-constexpr int kLeastWidth = 40;    // the same in a panel that lacks room
+constexpr int kDefaultWidth = 108;  // of the edit area, at 96 DPI
+constexpr int kLeastWidth = 40;     // the same in a panel that lacks room
+constexpr int kLeastWithMarks = 72; // of a combo whose items have marks: those, and a word beside them
 } // namespace
 
 struct CMFCRibbonEdit::Layout {
@@ -110,7 +112,9 @@ CSize CMFCRibbonEdit::GetIntermediateSize(CDC* pDC) {
     return fx::ToSize(ribbon::MeasureEdit(CollectContent(pDC, TRUE), ribbon::CurrentMetrics()));
 }
 
-int CMFCRibbonEdit::GetLeastEditWidth() const { return kLeastWidth; }
+int CMFCRibbonEdit::GetLeastEditWidth() const {
+    return dynamic_cast<const RibbonItemMarks*>(this) != nullptr ? kLeastWithMarks : kLeastWidth;
+}
 
 int CMFCRibbonEdit::GetNarrowestWidth(CDC* pDC) {
     ribbon::EditContent content = CollectContent(pDC, TRUE);
