@@ -16,13 +16,24 @@ END_MESSAGE_MAP()
 
 namespace {
 
+/// One of the bar's own special buttons, whose classes the interface names alone, as a button; null where it has none.
+CMFCToolBarButton* ButtonOf(const CMFCMenuBar& bar, const void* special) {
+    for (int i = 0; special != nullptr && i < bar.GetCount(); ++i) {
+        if (bar.GetButton(i) == special) {
+            return bar.GetButton(i);
+        }
+    }
+    return nullptr;
+}
+
 /// Moves the buttons of a maximised child, which lie at the bar's right edge, to the left.
 void MoveChildsButtons(const CMFCMenuBar& bar, int distance) {
     for (int i = 0; i < bar.GetSystemButtonsCount(); ++i) {
-        CMFCToolBarMenuButtonsButton* const button = bar.GetSystemButton(static_cast<UINT>(i), FALSE);
-        CRect place = button->Rect();
-        place.OffsetRect(-distance, 0);
-        button->SetRect(place);
+        if (CMFCToolBarButton* const button = ButtonOf(bar, bar.GetSystemButton(static_cast<UINT>(i), FALSE))) {
+            CRect place = button->Rect();
+            place.OffsetRect(-distance, 0);
+            button->SetRect(place);
+        }
     }
 }
 
@@ -41,7 +52,9 @@ void MakeRoom(CMFCMenuBar& bar, const CRect& rightButton) {
     }
     CRect end = rightButton;
     for (int i = 0; i < bar.GetSystemButtonsCount(); ++i) {
-        end.left = std::min(end.left, bar.GetSystemButton(static_cast<UINT>(i), FALSE)->Rect().left);
+        if (const CMFCToolBarButton* const button = ButtonOf(bar, bar.GetSystemButton(static_cast<UINT>(i), FALSE))) {
+            end.left = std::min(end.left, button->Rect().left);
+        }
     }
     CRect place = help->Rect();
     CRect shared;
@@ -97,8 +110,8 @@ CRuntimeClass* CMfcMenubarEx::GetRightButtonClass() const {
     if (m_menuButtonClass != nullptr) {
         return m_menuButtonClass;
     }
-    // That of a maximised child comes before them.
-    const auto* const first = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, GetButton(GetSystemMenu() != nullptr ? 1 : 0));
+    const bool isChilds = GetCount() > 0 && ButtonOf(*this, GetSystemMenu()) == GetButton(0);
+    const auto* const first = DYNAMIC_DOWNCAST(CMFCToolBarMenuButton, GetButton(isChilds ? 1 : 0));
     return first != nullptr ? first->GetRuntimeClass() : RUNTIME_CLASS(CMFCToolBarMenuButton);
 }
 
@@ -114,7 +127,7 @@ void CMfcMenubarEx::AddRightButton() {
     button->m_strText = text;
     button->m_bText = TRUE;
     // Behind the menu's own, whose indexes the buttons of a maximised child do not change by coming and going.
-    const int childsFirst = ButtonToIndex(GetSystemMenu());
+    const int childsFirst = ButtonToIndex(ButtonOf(*this, GetSystemMenu()));
     s_nRightBtnIndex = InsertButton(*button, childsFirst); // a copy
     AdjustLayout();
     if (GetSafeHwnd() != nullptr) {

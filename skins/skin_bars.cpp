@@ -5,7 +5,6 @@
 
 #include <afxDockSite.h>
 #include <afxtoolbar.h>
-#include <fx/scoped_change.h>
 
 namespace {
 
@@ -33,9 +32,12 @@ bool HasFlatBar(const CDockSite& site, const CRect& row) {
 void CQKVisualManagerOffice2007Black::OnFillBarBackground(CDC* dc, CBasePane* bar, CRect client, CRect clip,
                                                           BOOL nonClient) {
     const auto* const site = DYNAMIC_DOWNCAST(CDockSite, bar);
-    const COLORREF light = site != nullptr && HasFlatBar(*site, client)
-                               ? skins::FlatToolBarColor(GetStyle(), m_clrToolBarGradientLight)
-                               : m_clrToolBarGradientLight;
-    const fx::ScopedChange<COLORREF> first(m_clrToolBarGradientLight, light);
+    if (site == nullptr || !HasFlatBar(*site, client)) {
+        CMFCVisualManagerOffice20072::OnFillBarBackground(dc, bar, client, clip, nonClient);
+        return;
+    }
+    const ToolBarColors colors = GetToolBarColors();
+    SetToolBarColors({skins::FlatToolBarColor(GetPlatformStyle(), colors.light), colors.dark});
     CMFCVisualManagerOffice20072::OnFillBarBackground(dc, bar, client, clip, nonClient);
+    SetToolBarColors(colors);
 }
