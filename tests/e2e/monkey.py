@@ -27,8 +27,8 @@ TOLD_WAIT = 1000
 GROWTH = 1.3  # of the memory, besides what caches may take
 CACHES = 16 << 20
 # What the system and its drivers keep on their own account comes and goes by a few; the viewer's own caches hold up to a
-# hundred pictures, and get their last one late.
-MORE_OBJECTS = {"gdi": 120, "icons": 20, "menus": 10, "windows": 6, "threads": 6, "descriptors": 20}
+# hundred pictures, and get their last one late; each bar makes the window of its tooltips when it first has one to show.
+MORE_OBJECTS = {"gdi": 120, "icons": 20, "menus": 10, "windows": 10, "threads": 6, "descriptors": 20}
 MOST_EXITS = 3  # of one run, by the window's own ways out: a random click finds them now and then
 # What leaves the program, or writes into fields of the system's dialogs, is not among them.
 KEYS = ["Up", "Down", "Left", "Right", "Tab", "space", "Escape", "Home", "End", "Prior", "Next", "F6", "F10", "Alt_L", "plus", "minus",
