@@ -59,8 +59,7 @@ void DrawTextOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, const fx::R
         return;
     }
     const int mode = dc.SetBkMode(TRANSPARENT);
-    dc.DrawText(InOneLine(DisplayedTextOf(combo, index)), &rect,
-                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    dc.DrawText(InOneLine(DisplayedTextOf(combo, index)), &rect, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     dc.SetBkMode(mode);
 }
 

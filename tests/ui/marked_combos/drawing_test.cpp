@@ -71,37 +71,6 @@ TEST_F(ComboDrawing, AFaceWithoutASelectionShowsAnUncheckedBoxAndNoText) {
     EXPECT_LE(changed.right, edit.right);
 }
 
-/// As much of the text as fits, with the signs of what is left out.
-CString Shortened(const CString& text, int width) {
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
-    const HGDIOBJ before = ::SelectObject(dc.GetSafeHdc(), afxGlobalData.fontRegular.GetSafeHandle());
-    std::wstring shortened(text.GetString());
-    shortened.resize(shortened.size() + 4); // room for the signs
-    CRect rect(0, 0, width, 100);
-    ::DrawTextW(dc.GetSafeHdc(), shortened.data(), text.GetLength(), rect,
-                DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_MODIFYSTRING | DT_CALCRECT);
-    ::SelectObject(dc.GetSafeHdc(), before);
-    return shortened.c_str();
-}
-
-TEST_F(ComboDrawing, ATextThatIsTooLongEndsWithAnEllipsis) {
-    const CString tooLong = L"A layer with a name that no face of a combo has the room for";
-    auto& combo = Add<CMFCRibbonMultiCombo>();
-    combo.AddItem(tooLong);
-    combo.SelectItem(3);
-    const ComboPicture face = Face(combo);
-    const CRect edit = InFace(combo, combo.GetEditRect());
-    const marks::SwatchRow place =
-        marks::PlaceSwatchRow({edit.left, edit.top, edit.right, edit.bottom}, MarkSizes::Current().icon);
-    const CString shortened = Shortened(tooLong, edit.right - place.text.left);
-    ASSERT_EQ(shortened.Right(3), L"...");
-    ASSERT_LT(shortened.GetLength(), tooLong.GetLength());
-    combo.AddItem(shortened);
-    combo.SelectItem(4);
-    EXPECT_TRUE(Face(combo).DifferenceTo(face).IsRectEmpty()) << Text(Face(combo).DifferenceTo(face));
-}
-
 TEST_F(ComboDrawing, ADisabledFaceIsDrawnInAnotherWay) {
     auto& combo = Add<CMFCRibbonCheckComb>();
     combo.SelectItem(1);
