@@ -414,7 +414,8 @@ TEST_F(DialogLookTest, UnderADarkLookButtonsAndTabsAreDarkAndWorkAsEver) {
         return point;
     }());
     EXPECT_EQ(m_dialog->GetActiveIndex(), kOptionsPage);
-    EXPECT_EQ(PixelOf(tabs, last.left + 3, last.top + 3), face) << "the tab in front";
+    EXPECT_EQ(PixelOf(tabs, last.left + 5, last.top + 5), face) << "the tab in front";
+    EXPECT_NE(PixelOf(tabs, last.left + 3, last.CenterPoint().y), face) << "the ring of what has the keyboard";
 }
 
 TEST_F(DialogLookTest, AnOpenDialogFollowsTheLookAtOnceOnEveryPageInBothDirections) {
