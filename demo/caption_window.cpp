@@ -76,16 +76,22 @@ CSize CCaptionWindow::OuterSize(CSize inside, DWORD style) {
     return {inside.cx + 2 * measures.border, inside.cy + 2 * measures.border + measures.caption};
 }
 
+FrameMeasures CCaptionWindow::Measures() const {
+    FrameMeasures measures = MeasuresFor(GetStyle());
+    measures.hasClose = CanClose();
+    return measures;
+}
+
 CRect CCaptionWindow::CaptionOnScreen() const {
     CRect window;
     GetWindowRect(window);
-    const WindowBox inside = PlaceFrame(window.Width(), window.Height(), MeasuresFor(GetStyle())).inside;
+    const WindowBox inside = PlaceFrame(window.Width(), window.Height(), Measures()).inside;
     return {window.left, window.top, window.right, window.top + inside.top};
 }
 
 void CCaptionWindow::OnNcCalcSize(BOOL /*calculates*/, NCCALCSIZE_PARAMS* sizes) {
     RECT& rect = sizes->rgrc[0];
-    const WindowBox inside = PlaceFrame(rect.right - rect.left, rect.bottom - rect.top, MeasuresFor(GetStyle())).inside;
+    const WindowBox inside = PlaceFrame(rect.right - rect.left, rect.bottom - rect.top, Measures()).inside;
     rect = {rect.left + inside.left, rect.top + inside.top, rect.left + inside.right, rect.top + inside.bottom};
 }
 
@@ -94,8 +100,8 @@ LRESULT CCaptionWindow::OnNcHitTest(CPoint point) {
     GetWindowRect(window);
     const bool isMirrored = (GetExStyle() & WS_EX_LAYOUTRTL) != 0;
     const int x = isMirrored ? window.right - 1 - point.x : point.x - window.left;
-    const FrameHit hit = HitFrame(x, point.y - window.top, window.Width(), window.Height(), MeasuresFor(GetStyle()),
-                                  IsSizable() && !IsZoomed());
+    const FrameHit hit =
+        HitFrame(x, point.y - window.top, window.Width(), window.Height(), Measures(), IsSizable() && !IsZoomed());
     const auto* const row = std::ranges::find(kHits, hit, &HitRow::hit);
     return isMirrored ? row->mirroredCode : row->code;
 }
@@ -114,7 +120,7 @@ void CCaptionWindow::OnNcPaint() {
     CRect window;
     GetWindowRect(window);
     window.OffsetRect(-window.TopLeft());
-    const FramePlaces places = PlaceFrame(window.Width(), window.Height(), MeasuresFor(GetStyle()));
+    const FramePlaces places = PlaceFrame(window.Width(), window.Height(), Measures());
     const WindowBox& inside = places.inside;
     const std::array<CRect, 4> frame = {{{0, 0, window.right, inside.top},
                                          {0, inside.top, inside.left, inside.bottom},
@@ -149,9 +155,10 @@ void CCaptionWindow::DrawCaption(SoftCanvas& canvas, const FramePlaces& places) 
     const UINT side = (GetExStyle() & WS_EX_LAYOUTRTL) != 0 ? DT_RIGHT | DT_RTLREADING : DT_LEFT;
     dc.SetTextColor(m_isActive ? m_colors.text : m_colors.secondary);
     dc.DrawText(text, title, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | side);
-    DrawButton(canvas, HTCLOSE, FromPlace(places.close, all.Width()));
-    if (places.maximize.right > places.maximize.left) {
-        DrawButton(canvas, HTMAXBUTTON, FromPlace(places.maximize, all.Width()));
+    for (const auto& [hit, place] : {std::pair(HTCLOSE, places.close), std::pair(HTMAXBUTTON, places.maximize)}) {
+        if (place.right > place.left) {
+            DrawButton(canvas, hit, FromPlace(place, all.Width()));
+        }
     }
 }
 

@@ -18,6 +18,8 @@ public:
 protected:
     explicit CCaptionWindow(const ViewerColors& colors) : m_colors(colors) {}
 
+    /// Whether the caption has a button for that.
+    virtual bool CanClose() const { return true; }
     /// Of the system's styles what is left to it: it knows of no caption.
     static DWORD WithoutCaption(DWORD style) { return style & ~static_cast<DWORD>(WS_CAPTION | WS_MINIMIZEBOX); }
     /// Size of a window with that inside, in pixels.
@@ -35,6 +37,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    FrameMeasures Measures() const;
     bool IsSizable() const { return (GetStyle() & WS_THICKFRAME) != 0; }
     CRect FromPlace(const WindowBox& place, int width) const;
     void DrawCaption(SoftCanvas& canvas, const FramePlaces& places) const;

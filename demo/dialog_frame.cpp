@@ -25,7 +25,7 @@ FramePlaces PlaceFrame(int width, int height, const FrameMeasures& measures) {
     const int left = measures.border, right = std::max(width - measures.border, left);
     const int top = measures.border, under = top + measures.caption;
     places.inside = {left, under, right, std::max(height - measures.border, under)};
-    const int close = std::max(right - measures.button, left);
+    const int close = measures.hasClose ? std::max(right - measures.button, left) : right;
     const int maximize = measures.hasMaximize ? std::max(close - measures.button, left) : close;
     places.close = {close, top, right, under};
     places.maximize = {maximize, top, close, under};

@@ -12,6 +12,7 @@ struct FrameMeasures {
     int button = 0;  ///< Its width; it is as high as the caption.
     int gap = 0;     ///< Around the icon and before the buttons.
     bool hasMaximize = false;
+    bool hasClose = true;
 };
 
 struct FramePlaces {
@@ -19,7 +20,7 @@ struct FramePlaces {
     WindowBox icon;
     WindowBox title;
     WindowBox maximize; ///< Empty where there is no such button.
-    WindowBox close;
+    WindowBox close;    ///< As that one.
 };
 
 FramePlaces PlaceFrame(int width, int height, const FrameMeasures& measures);

@@ -30,6 +30,45 @@ struct IconDestroyer {
     void operator()(HICON icon) const { ::DestroyIcon(icon); }
 };
 
+/// A window and those that own it take no input as long as this lives; those that took none before take none after it.
+class DisabledOwners {
+public:
+    explicit DisabledOwners(HWND first) {
+        for (HWND window = first; window != nullptr; window = ::GetWindow(window, GW_OWNER)) {
+            if (!::EnableWindow(window, FALSE)) {
+                m_windows.push_back(window);
+            }
+        }
+    }
+    ~DisabledOwners() { Enable(); }
+    DisabledOwners(const DisabledOwners&) = delete;
+    DisabledOwners& operator=(const DisabledOwners&) = delete;
+
+    void Enable() {
+        for (const HWND window : m_windows) {
+            ::EnableWindow(window, TRUE);
+        }
+        m_windows.clear();
+    }
+
+private:
+    std::vector<HWND> m_windows;
+};
+
+CRect WorkAreaOf(const CWnd& window) {
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromWindow(window.GetSafeHwnd(), MONITOR_DEFAULTTONEAREST), &monitor);
+    return monitor.rcWork;
+}
+
+/// Without the mark before the letter that answers.
+int WidthOf(CDC& dc, const std::wstring& text) {
+    CRect rect(0, 0, 0, 0);
+    dc.DrawText(text.c_str(), rect, DT_CALCRECT | DT_SINGLELINE);
+    return rect.Width();
+}
+
 std::wstring TextOf(HWND window) {
     std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
     text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
@@ -69,24 +108,33 @@ bool CDialogWindow::Make(CWnd& owner, const std::wstring& title, DWORD style, CS
 
 void CDialogWindow::FitInside(CSize size) {
     const CRect outer(CPoint(0, 0), OuterSize(size, GetStyle()));
-    CRect around;
-    GetOwner()->GetWindowRect(around);
+    const CRect screen = WorkAreaOf(*GetOwner());
+    CRect around = screen;
+    if (!GetOwner()->IsIconic()) {
+        GetOwner()->GetWindowRect(around);
+    }
     const CPoint middle = around.CenterPoint();
-    SetWindowPos(nullptr, middle.x - outer.Width() / 2, middle.y - outer.Height() / 2, outer.Width(), outer.Height(),
-                 SWP_NOZORDER);
+    const auto within = [](LONG at, LONG length, LONG from, LONG to) {
+        return static_cast<int>(std::max(std::min(at, to - length), from));
+    };
+    SetWindowPos(nullptr, within(middle.x - outer.Width() / 2, outer.Width(), screen.left, screen.right),
+                 within(middle.y - outer.Height() / 2, outer.Height(), screen.top, screen.bottom), outer.Width(),
+                 outer.Height(), SWP_NOZORDER);
 }
 
 int CDialogWindow::Run(const std::function<void()>& finish) {
-    CWnd* const owner = GetOwner();
-    owner->EnableWindow(FALSE);
+    const HWND owner = GetOwner()->GetSafeHwnd();
+    DisabledOwners owners(owner);
     ShowWindow(SW_SHOW);
     UpdateWindow();
     const int answer = RunModalLoop(MLF_NOIDLEMSG);
     if (finish) {
         finish();
     }
-    owner->EnableWindow(TRUE); // first: the system would give the focus to another program
-    owner->SetActiveWindow();
+    owners.Enable(); // first: the system would give the focus to another program
+    if (::IsWindowVisible(owner)) {
+        ::SetActiveWindow(owner);
+    }
     DestroyWindow();
     return answer;
 }
@@ -156,7 +204,7 @@ CSize CDialogWindow::ButtonSize(UINT id) const {
     CClientDC dc(nullptr);
     CFont* const before = dc.SelectObject(&afxGlobalData.fontRegular);
     const std::wstring text = TextOf(::GetDlgItem(GetSafeHwnd(), static_cast<int>(id)));
-    int width = static_cast<int>(dc.GetTextExtent(text.c_str()).cx);
+    int width = WidthOf(dc, text);
     width += m_links.contains(id) ? 0 : 2 * Scaled(kButtonMargin);
     dc.SelectObject(before);
     const auto icon = m_icons.find(id);
@@ -238,7 +286,7 @@ void CDialogWindow::DrawButton(const DRAWITEMSTRUCT& item) const {
     const std::wstring text = TextOf(item.hwndItem);
     const auto icon = m_icons.find(item.CtlID);
     CDC& dc = canvas.Dc();
-    int width = static_cast<int>(dc.GetTextExtent(text.c_str()).cx);
+    int width = WidthOf(dc, text);
     const bool hasIcon = icon != m_icons.end() && !icon->second.empty();
     const int side = Scaled(kIconSide), gap = text.empty() ? 0 : Scaled(kIconGap);
     width += hasIcon ? side + gap : 0;
@@ -252,7 +300,8 @@ void CDialogWindow::DrawButton(const DRAWITEMSTRUCT& item) const {
     }
     dc.SetTextColor(isDisabled ? colors.secondary : colors.text);
     dc.DrawText(text.c_str(), rest,
-                DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX | (m_isMirrored ? DT_RTLREADING : 0));
+                DT_SINGLELINE | DT_CENTER | DT_VCENTER | (m_isMirrored ? DT_RTLREADING : 0) |
+                    ((item.itemState & ODS_NOACCEL) != 0 ? DT_HIDEPREFIX : 0));
     if (hasIcon && isDisabled) { // paler, as its text is
         canvas.FillRounded(all, 0, colors.ground, kEdge);
     }

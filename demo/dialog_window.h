@@ -51,7 +51,8 @@ protected:
     /// called when it is known and the controls are still there.
     int Run(const std::function<void()>& finish = {});
 
-    /// `icon`: the name of one in the look's folder, or empty.
+    /// `icon`: the name of one in the look's folder, or empty. `text`: with "&" before the letter that clicks it, if
+    /// there is one.
     bool AddButton(CButton& button, UINT id, const std::wstring& text, const std::wstring& icon = {});
     /// The one that Enter means, where the focus is on no other.
     void SetDefaultButton(UINT id) { m_defaultButton = id; }

@@ -71,6 +71,20 @@ LayerRowTexts ListTexts() {
             CMultiLanguageMgr::GetLanguage() == L"zh-CN"};
 }
 
+/// As the system's message box has it for a QKMessageStatus.
+UINT MessageStyle(int status) {
+    struct Row {
+        int status;
+        UINT style;
+    };
+    static constexpr std::array<Row, 4> kRows = {{{QK_MESSAGE_INFORMATION, MB_OK | MB_ICONINFORMATION},
+                                                  {QK_MESSAGE_QUESTION, MB_YESNO | MB_ICONQUESTION},
+                                                  {QK_MESSAGE_WARNING, MB_OK | MB_ICONWARNING},
+                                                  {QK_MESSAGE_ERROR, MB_OK | MB_ICONERROR}}};
+    const auto* const found = std::ranges::find(kRows, status, &Row::status);
+    return found != kRows.end() ? found->style : kRows.front().style;
+}
+
 std::wstring InstallationDirectory() {
     std::wstring path;
     FileOp::GetAppPath(path);
@@ -136,7 +150,10 @@ CMainFrame::CMainFrame(const DemoOptions& options)
       m_controls(m_state),
       m_memory(options.isFresh            ? L""
                : options.settings.empty() ? ViewerMemory::OwnFolder()
-                                          : options.settings) {
+                                          : options.settings),
+      m_messages([this](const std::wstring& text, int status, HWND owner) {
+          return AskMessage(text, MessageStyle(status), owner);
+      }) {
     m_memory.Load(m_state);
     const KeptViewer& kept = m_memory.Viewer();
     if (options.scalePercent == 0 && kept.scalePercent > 0) {

@@ -22,6 +22,8 @@
 #include "viewer_status_bar.h"
 #include "working_modes.h"
 
+#include "varnhold/message_box.h"
+
 #include <memory>
 #include <type_traits>
 
@@ -55,6 +57,9 @@ public:
     void Show();
     /// Says what could not be kept or found again, if there is anything to say.
     void TellTroubles();
+    /// Shows a message in the viewer's skin and waits; `style` and the answer are those of the system's message box.
+    /// Without an owner it stands over what was active last.
+    int AskMessage(const std::wstring& text, UINT style, HWND owner);
     /// Reads all files again, as the command does; icons too, and toolbars and keys where their files are among those
     /// that have changed. False: they cannot be read, which was said.
     bool ShowFilesAnew(const ConfigurationChange& change);
@@ -176,6 +181,7 @@ private:
     ViewerMemory m_memory;
     LanguageNames m_languageNames;
     CSearchWindow m_search{[this](UINT id) { PostMessage(WM_COMMAND, id); }};
+    const ScopedMessageBoxHandler m_messages;
     const CDialogWindow* m_dialog = nullptr; ///< The open one, for the record.
     bool m_tellsPlace = false;
     CSearchField* m_searchField = nullptr;         ///< As the next.

@@ -5,6 +5,7 @@
 #include "command_index.h"
 #include "configuration_files.h"
 #include "menu_id_mgr.h"
+#include "message_window.h"
 #include "options_dialog.h"
 #include "page_print.h"
 #include "picture_export.h"
@@ -29,6 +30,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <utility>
 
 namespace {
 
@@ -39,13 +41,15 @@ constexpr int kOnPaper = 2; // paper is finer
 /// The window is the frame's open one as long as this lives, for the record.
 class OpenDialog {
 public:
-    OpenDialog(const CDialogWindow*& place, const CDialogWindow& dialog) : m_place(place) { m_place = &dialog; }
-    ~OpenDialog() { m_place = nullptr; }
+    OpenDialog(const CDialogWindow*& place, const CDialogWindow& dialog)
+        : m_place(place), m_before(std::exchange(place, &dialog)) {}
+    ~OpenDialog() { m_place = m_before; }
     OpenDialog(const OpenDialog&) = delete;
     OpenDialog& operator=(const OpenDialog&) = delete;
 
 private:
     const CDialogWindow*& m_place;
+    const CDialogWindow* m_before; ///< A message may stand over another window.
 };
 
 } // namespace
@@ -69,6 +73,26 @@ void CMainFrame::TellAbout() {
     CAboutBox box(LookOfDialogs());
     const OpenDialog open(m_dialog, box);
     box.Show(*this, ViewerText("ViewerTitle"));
+}
+
+int CMainFrame::AskMessage(const std::wstring& text, UINT style, HWND owner) {
+    HWND over = owner != nullptr ? ::GetAncestor(owner, GA_ROOT) : ::GetLastActivePopup(GetSafeHwnd());
+    over = over != nullptr ? over : GetSafeHwnd();
+    if (over != nullptr && CMessageWindow::HasButtonsOf(style)) {
+        CMessageWindow window(LookOfDialogs());
+        const OpenDialog open(m_dialog, window);
+        // No record before the first one: it says that the viewer can be used.
+        const auto record = [this] {
+            if (m_status && !m_recorded.empty()) {
+                WriteRecord();
+            }
+        };
+        if (const auto answer = window.Ask(*CWnd::FromHandle(over), getMessageBoxTitle(), text, style, record)) {
+            return *answer;
+        }
+    }
+    return ::MessageBoxW(owner, text.c_str(), getMessageBoxTitle().c_str(),
+                         style | (owner != nullptr ? MB_APPLMODAL : MB_TASKMODAL));
 }
 
 void CMainFrame::TellKeyboard() { QKMessageBox(ViewerText("KeyboardText"), QK_MESSAGE_INFORMATION, GetSafeHwnd()); }
@@ -99,8 +123,8 @@ bool CMainFrame::TellBrokenFiles(const std::wstring& language) {
 void CMainFrame::Warn(const std::wstring& message) { Warn(message, *this); }
 
 void CMainFrame::Warn(const std::wstring& message, CWnd& owner) {
-    m_warnings.push_back(message);
     QKMessageBox(message, QK_MESSAGE_WARNING, owner.GetSafeHwnd());
+    m_warnings.push_back(message);
 }
 
 void CMainFrame::ReloadFiles() { SwitchLanguage(CMultiLanguageMgr::GetLanguage()); }

@@ -82,6 +82,13 @@ public:
         return wantsMore;
     }
 
+    /// What the framework asks, too, is asked in the viewer's skin.
+    int DoMessageBox(LPCTSTR text, UINT style, UINT helpId) override {
+        const UINT shown = (style & MB_ICONMASK) == 0 ? style | MB_ICONEXCLAMATION : style;
+        return m_pMainWnd != nullptr ? static_cast<CMainFrame*>(m_pMainWnd)->AskMessage(text, shown, nullptr)
+                                     : CWinAppEx::DoMessageBox(text, style, helpId);
+    }
+
     int ExitInstance() override {
         m_followed.reset();
         m_watchman.reset();

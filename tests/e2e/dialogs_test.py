@@ -101,6 +101,67 @@ class Skins(unittest.TestCase):
                 viewer.wait_for_closed()
 
 
+class Messages(unittest.TestCase):
+    """What the viewer tells, in a window of its skin, with the keys of the system's message box."""
+    WARNING = 2
+
+    def open(self, skin="black", language="en"):
+        return DialogViewer(BIN_DIR, "--lang", language, "--skin", skin, "--mode", "print")
+
+    def ask(self, viewer, language="en"):
+        viewer.key("ctrl+p")
+        title = text_of(BIN_DIR, language, "ViewerTitle")
+        viewer.wait_for_message(title)
+        viewer.wait_for(lambda record: record.get("dialog", {}).get("name") == "message")
+        return title
+
+    def wait_for_answer(self, viewer, title):
+        viewer.wait_for(lambda record: "dialog" not in record and record["warnings"])
+        viewer.wait_until(lambda: len(viewer.windows(title)) == 1, "the message is gone")
+
+    def test_it_says_its_text_on_the_ground_of_the_skin(self):
+        for skin, is_dark in (("black", True), ("silver", False)):
+            for language in ("en", "zh-CN", "he"):
+                with self.subTest(skin, language=language), self.open(skin, language) as viewer:
+                    title = self.ask(viewer, language)
+                    dialog = viewer.record["dialog"]
+                    self.assertEqual(dialog["parts"]["text"]["text"], text_of(BIN_DIR, language, "NoPrinter"))
+                    self.assertEqual(dialog["parts"]["ok"]["text"], text_of(BIN_DIR, language, "ButtonOk"))
+                    self.assertEqual(dialog["values"]["kind"], self.WARNING)
+                    look = viewer.settled_look()
+                    for place in (dialog["parts"]["text"]["onScreen"], dialog["captionOnScreen"]):
+                        part = look.crop(place).convert("L")
+                        most = max(range(256), key=part.histogram().__getitem__)
+                        self.assertEqual(most < 128, is_dark, f"the ground has {most}")
+                        self.assertGreater(part.getextrema()[1] - part.getextrema()[0], 100, "a text can be read")
+                    viewer.key("Return")
+                    self.wait_for_answer(viewer, title)
+
+    def test_keys_clicks_and_its_caption_answer_it(self):
+        with self.open() as viewer:
+            def click_close():
+                _, top, right, bottom = viewer.record["dialog"]["captionOnScreen"]
+                viewer.click(right - 12, (top + bottom) // 2)
+
+            for number, answer in enumerate((lambda: viewer.key("Return"), lambda: viewer.key("Escape"), lambda: viewer.key("space"),
+                                             lambda: viewer.click_part("ok"), click_close), 1):
+                title = self.ask(viewer)
+                answer()
+                self.wait_for_answer(viewer, title)
+                viewer.wait_for(lambda record: len(record["warnings"]) == number)
+
+    def test_the_viewer_takes_no_command_until_it_is_answered(self):
+        with self.open() as viewer:
+            title = self.ask(viewer)
+            before = viewer.record["map"]["pixelsPerDegree"]
+            viewer.key("ctrl+i")
+            viewer.click_command("ModeBrowse")
+            viewer.click_part("ok")
+            self.wait_for_answer(viewer, title)
+            record = viewer.wait_for(lambda record: record["idle"])
+            self.assertEqual((record["map"]["pixelsPerDegree"], record["mode"]), (before, "print"))
+
+
 class WithoutAPrinter(unittest.TestCase):
     """A system without any printer, as the tests' one is."""
 

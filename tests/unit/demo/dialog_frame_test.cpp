@@ -37,6 +37,15 @@ TEST(DialogFrame, WithoutThatButtonTheTitleHasItsRoom) {
     EXPECT_EQ(places.title.right, places.close.left - kFixed.gap);
 }
 
+TEST(DialogFrame, WithoutAButtonToCloseItTheCaptionIsHitThere) {
+    FrameMeasures measures = kFixed;
+    measures.hasClose = false;
+    const FramePlaces places = PlaceFrame(kWidth, kHeight, measures);
+    EXPECT_EQ(places.close.left, places.close.right);
+    EXPECT_EQ(places.title.right, 399 - kFixed.gap);
+    EXPECT_EQ(HitFrame(380, 20, kWidth, kHeight, measures, false), FrameHit::Caption);
+}
+
 TEST(DialogFrame, NothingIsTurnedInsideOutWhereThereIsNoRoom) {
     for (const int side : {0, 1, 20, 60}) {
         const FramePlaces places = PlaceFrame(side, side, kSizable);
