@@ -140,34 +140,40 @@ double RoundLength(double limit) {
     return power;
 }
 
-/// Keeps the numbers and names away from its line and its text.
+/// No longer than a quarter of what is written on, and above the marks that lie where it would stand. Keeps the numbers
+/// and names away from its line and its text.
 void DrawScaleBar(const MapCanvas& canvas, const TextStyle& style, TextPlaces& places) {
     constexpr double kKilometresPerDegree = 111.32;
     constexpr double kPi = 3.14159265358979;
+    constexpr double kHighestRise = 32; // pixels at 96 DPI
     const MapView& view = canvas.state.View();
     const double shrink = std::max(std::cos(view.center.latitude * kPi / 180), 0.05);
     const double pixelsPerKilometre = view.pixelsPerDegree / (kKilometresPerDegree * shrink);
-    const double kilometres = RoundLength(160 * canvas.style.scale / pixelsPerKilometre);
-    const REAL length = static_cast<REAL>(kilometres * pixelsPerKilometre);
     const WindowBox box = canvas.state.WrittenBox();
+    const double longest = std::min(160 * canvas.style.scale, (box.right - box.left) / 4.0);
+    const double kilometres = RoundLength(longest / pixelsPerKilometre);
+    const REAL length = static_cast<REAL>(kilometres * pixelsPerKilometre);
     const REAL left = static_cast<REAL>(box.left) + canvas.Scaled(16);
-    const REAL bottom = static_cast<REAL>(box.bottom) - canvas.Scaled(16);
+    const REAL lowest = static_cast<REAL>(box.bottom) - canvas.Scaled(16);
+    wchar_t number[32];
+    std::swprintf(number, std::size(number), L"%g ", kilometres);
+    const std::wstring text = number + canvas.style.kilometres;
+    const REAL above = canvas.Scaled(22), haloWidth = canvas.Scaled(5);
+    const RectF written = PlaceOfText(canvas, style.font, text, PointF(left + canvas.Scaled(4), lowest - above));
+    const REAL right = std::max(left + length, written.GetRight());
+    const RectF whole(left - haloWidth / 2, written.Y, right - left + haloWidth, above + haloWidth / 2);
+    const REAL bottom = lowest - static_cast<REAL>(places.RiseOf(ToBox(whole), canvas.Scaled(kHighestRise)));
 
-    Gdiplus::Pen halo(canvas.Lit(MapLayer::ScaleBar, canvas.colors.halo), canvas.Scaled(5));
+    Gdiplus::Pen halo(canvas.Lit(MapLayer::ScaleBar, canvas.colors.halo), haloWidth);
     Gdiplus::Pen ink(canvas.Ink(MapLayer::ScaleBar, canvas.colors.text), canvas.Scaled(2));
     const REAL tick = canvas.Scaled(6);
     const std::array<PointF, 4> line = {PointF(left, bottom - tick), PointF(left, bottom),
                                         PointF(left + length, bottom), PointF(left + length, bottom - tick)};
     canvas.graphics.DrawLines(&halo, line.data(), static_cast<INT>(line.size()));
     canvas.graphics.DrawLines(&ink, line.data(), static_cast<INT>(line.size()));
-    wchar_t number[32];
-    std::swprintf(number, std::size(number), L"%g ", kilometres);
-    const std::wstring text = number + canvas.style.kilometres;
-    const PointF at(left + canvas.Scaled(4), bottom - canvas.Scaled(22));
+    const PointF at(written.X, bottom - above);
     DrawHaloText(canvas, style, text, at);
-    const RectF written = PlaceOfText(canvas, style.font, text, at);
-    const REAL right = std::max(left + length, written.GetRight());
-    places.KeepFree(ToBox(RectF(left, at.Y, right - left, bottom - at.Y)));
+    places.KeepFree(ToBox(RectF(left, at.Y, right - left, above)));
 }
 
 } // namespace
@@ -182,15 +188,15 @@ void DrawMapTexts(const MapCanvas& canvas, const std::vector<City>& cities) {
     const WindowBox written = state.WrittenBox();
     TextPlaces places({static_cast<double>(written.left), static_cast<double>(written.top),
                        static_cast<double>(written.right), static_cast<double>(written.bottom)});
+    if (state.IsShown(MapLayer::Cities)) {
+        ForEachShownCity(canvas, cities,
+                         [&](const City&, PointF at, REAL radius) { KeepFreeOfTexts(canvas, at, radius, places); });
+    }
     if (state.IsShown(MapLayer::ScaleBar)) {
         DrawScaleBar(canvas, StyleOf(canvas, normal, MapLayer::ScaleBar, MapLabel::ScaleBarText), places);
     }
     if (state.IsShown(MapLayer::Graticule)) {
         DrawGraticuleNumbers(canvas, StyleOf(canvas, small, MapLayer::Graticule, MapLabel::GraticuleNumbers), places);
-    }
-    if (state.IsShown(MapLayer::Cities)) {
-        ForEachShownCity(canvas, cities,
-                         [&](const City&, PointF at, REAL radius) { KeepFreeOfTexts(canvas, at, radius, places); });
     }
     if (state.IsShown(MapLayer::Opened)) {
         DrawOpenedNames(canvas, StyleOf(canvas, names, MapLayer::Opened, MapLabel::CityNames), places);

@@ -20,6 +20,9 @@ public:
     void KeepFree(const TextBox& box) { m_taken.push_back(box); }
     /// True, and the place is taken, when a text may stand there. Boxes may touch.
     bool Take(const TextBox& box);
+    /// How far up the box has to go until it lies over nothing that is kept free or taken; 0, too, where it would have
+    /// to go further than `limit`.
+    double RiseOf(const TextBox& box, double limit) const;
 
 private:
     TextBox m_written;

@@ -49,6 +49,20 @@ TEST_F(MapTexts, NoneStandsOverWhatWasKeptFree) {
     EXPECT_TRUE(m_places.Take({52, 42, 80, 60}));
 }
 
+TEST_F(MapTexts, ABoxRisesUntilItLiesOverNothing) {
+    m_places.KeepFree({20, 85, 24, 89});
+    EXPECT_EQ(m_places.RiseOf({10, 80, 60, 95}, 50), 10) << "its lower edge on the mark's upper one";
+    EXPECT_EQ(m_places.RiseOf({30, 80, 60, 95}, 50), 0) << "beside the mark";
+    m_places.KeepFree({40, 66, 44, 72});
+    EXPECT_EQ(m_places.RiseOf({10, 80, 60, 95}, 50), 29) << "above the second one, which it met on its way";
+}
+
+TEST_F(MapTexts, ABoxThatWouldHaveToRiseTooFarStays) {
+    m_places.KeepFree({20, 30, 24, 90});
+    EXPECT_EQ(m_places.RiseOf({10, 80, 60, 95}, 50), 0);
+    EXPECT_EQ(m_places.RiseOf({10, 80, 60, 95}, 65), 65);
+}
+
 TEST_F(MapTexts, WhatIsRefusedTakesNoPlace) {
     EXPECT_FALSE(m_places.Take({190, 10, 220, 20}));
     EXPECT_TRUE(m_places.Take({180, 10, 200, 20}));
