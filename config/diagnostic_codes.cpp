@@ -20,7 +20,9 @@ constexpr DiagnosticCode kCodes[] = {
      "KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
     {"xml-encoding", Error,
      "The file's encoding is not known, is not the one it names, or the file holds bytes that it does not have.",
-     "A file of unknown encoding is not loaded. Bytes that the encoding does not have are read as U+FFFD.",
+     "A file of unknown encoding is not loaded. Where a byte-order mark stands it counts, whatever the first line "
+     "says. "
+     "Bytes that the encoding does not have are read as U+FFFD.",
      "Save the file as UTF-8 and let its first line say so.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"\xFF\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"zoom\"/>"},
@@ -43,8 +45,12 @@ constexpr DiagnosticCode kCodes[] = {
      "Write what it should hold, or remove it.", RibbonFile, "<ribbon>\n</ribbon>",
      "<ribbon>\n  <row KEYWORD=\"StatusEx_btns\"><item KEYWORD=\"Separator\"/></row>\n</ribbon>"},
     {"missing-file", Error,
-     "A file that was named, or that an installation must have, is not there, or its name ends in .xml.txt.",
-     "The library shows a message box that asks whether the file exists, or builds no toolbars.",
+     "A file that was named, or that the others show to be needed, is not there, or its name ends in .xml.txt: the "
+     "ribbon file, where status-bar buttons lead nowhere or many texts have no element; one that lies there under "
+     "nearly "
+     "its name; the folder lang with the tables.",
+     "The library shows a message box that asks whether the file exists, or builds no toolbars. Without tables every "
+     "text shows as its keyword.",
      "Put the file there or mend the name."},
     {"unreadable-file", Error, "The file cannot be read: no permission, no plain file, or longer than 256 MB.",
      "It is not loaded.", "Mend what the message says."},

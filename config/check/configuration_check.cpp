@@ -5,6 +5,7 @@
 #include "config/check/gathered_elements.h"
 #include "config/check/icon_check.h"
 #include "config/check/installation_files.h"
+#include "config/check/missing_file_check.h"
 #include "config/check/text_check.h"
 #include "config/check/twin_check.h"
 #include "config/diagnostic_codes.h"
@@ -207,6 +208,10 @@ bool ReportMisnamed(const InstallationFiles& files, DiagnosticsSink& sink) {
     return !misnamed.empty();
 }
 
+bool HasFinding(GatheringSink& sink, std::string_view code) {
+    return std::ranges::find(sink.Findings(), code, &Diagnostic::code) != sink.Findings().end();
+}
+
 } // namespace
 
 bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
@@ -223,12 +228,23 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     isComplete = isComplete && !areMisnamed;
     if (selection.files.empty() && !areMisnamed) {
         ReportTogether(sink, files.FullPath(L"cfg\\ribbon.xml"), {1, 1}, "missing-file",
-                       L"there is no cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml");
+                       L"there is no cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml",
+                       MendOfMissingConfiguration(files));
         isComplete = false;
     }
     JoinShiftedLevels(sink);
     std::size_t lostKeywords = CountLostKeywords(sink);
     const std::vector<LanguageTexts> languages = ReadLanguages(files, request.language, sink);
+    if (!selection.namesFiles) {
+        if (languages.empty() && request.language.empty() && !HasFinding(sink, "bad-table")) {
+            ReportMissingTables(sink.Elements(), files, sink);
+        }
+        constexpr std::size_t all = 1'000'000; // keywords of files that were not read
+        const bool isAnyMissing =
+            !selection.files.empty() && !areMisnamed &&
+            ReportMissingKinds(sink.Elements(), files, languages, isComplete ? lostKeywords : all, sink);
+        isComplete = isComplete && !isAnyMissing;
+    }
     // Whoever names files has others, whose keywords are not known here.
     const bool knowsAllKeywords = isComplete && !selection.namesFiles;
     const std::set<std::wstring> meant = CheckTexts(sink.Elements(), languages, sink);
