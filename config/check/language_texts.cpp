@@ -65,7 +65,7 @@ public:
         m_translated = 0;
         m_duplicates.clear();
         m_units = 0;
-        ReportLateDeclaration(FileDiagnostics(m_file, m_sink));
+        ReportDeclaration(FileDiagnostics(m_file, m_sink));
         m_texts.isUsable = varnhold::ReadTranslationFile(path, m_texts.code, *this) && m_texts.isUsable;
         ReportDuplicates();
         m_ofFiles.push_back({m_file, std::move(m_untranslated), m_translated});
