@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr std::string_view kStatusTypes[] = {"BUTTON", "SLIDER", "label"};
 constexpr std::string_view kModifiers[] = {"Ctrl", "Shift", "Alt"};
 
 bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
@@ -46,11 +45,25 @@ std::vector<std::string> Narrow(const std::vector<std::wstring>& words) {
     return narrow;
 }
 
-/// In a row of status-bar buttons, which has fewer kinds.
-std::string WithStatusTypes(std::string attributes) {
-    constexpr std::string_view of = "type=\"type\"";
-    const std::size_t at = attributes.find(of);
-    return at == std::string::npos ? attributes : attributes.replace(at, of.size(), "type=\"statusType\"");
+/// The words of ElementTypes that a row of status-bar buttons knows.
+std::vector<std::wstring> StatusTypes() {
+    std::vector<std::wstring> types = ElementTypes();
+    std::erase_if(types, [](const std::wstring& type) {
+        const ElementKind kind = KindOfElement(type);
+        return kind != ElementKind::Button && kind != ElementKind::Label && kind != ElementKind::Slider;
+    });
+    return types;
+}
+
+/// The same attributes where one of them has another type.
+std::string Retyped(std::string attributes, std::string_view type, std::string_view other) {
+    const std::string before = "type=\"" + std::string(type) + "\"";
+    const std::string after = "type=\"" + std::string(other) + "\"";
+    for (std::size_t at = attributes.find(before); at != std::string::npos;
+         at = attributes.find(before, at + after.size())) {
+        attributes.replace(at, before.size(), after);
+    }
+    return attributes;
 }
 
 std::string TypeWithPattern(std::string_view name, const std::string& pattern) {
@@ -59,13 +72,32 @@ std::string TypeWithPattern(std::string_view name, const std::string& pattern) {
            "\"/>\n    </xs:restriction>\n  </xs:simpleType>\n";
 }
 
+/// The words, which editors complete, and what the pattern takes besides.
+std::string TypeWithWords(std::string_view name, const std::vector<std::string>& words, const std::string& pattern) {
+    constexpr std::string_view open = "      <xs:simpleType>\n        <xs:restriction base=\"xs:string\">\n";
+    constexpr std::string_view close = "        </xs:restriction>\n      </xs:simpleType>\n";
+    std::string text = "  <xs:simpleType name=\"" + std::string(name) + "\">\n    <xs:union>\n" + std::string(open);
+    for (const std::string& word : words) {
+        text += "          <xs:enumeration value=\"" + word + "\"/>\n";
+    }
+    text += std::string(close) + std::string(open) + "          <xs:pattern value=\"" + pattern + "\"/>\n";
+    return text + std::string(close) + "    </xs:union>\n  </xs:simpleType>\n";
+}
+
+/// The words, in any letter case.
+std::string TypeOfWords(std::string_view name, const std::vector<std::wstring>& wide) {
+    const std::vector<std::string> words = Narrow(wide);
+    return TypeWithWords(name, words, OneOf(words));
+}
+
 std::string_view TypeOf(AttributeUse use) {
     switch (use) {
     case AttributeUse::Type:
         return "type";
     case AttributeUse::Size:
+        return "size";
     case AttributeUse::Width:
-        return "number";
+        return "width";
     case AttributeUse::GroupBefore:
     case AttributeUse::CateTab:
     case AttributeUse::AcceptF1:
@@ -75,13 +107,17 @@ std::string_view TypeOf(AttributeUse use) {
         return "icon";
     case AttributeUse::HotKey:
         return "shortcut";
+    case AttributeUse::ShortKey:
+        return "letter";
     default:
         return "xs:string";
     }
 }
 
 std::string Attribute(const std::string& name, AttributeUse use, bool isRequired) {
-    return "    <xs:attribute name=\"" + name + "\" type=\"" + std::string(TypeOf(use)) + "\"" +
+    // An empty keyword, or title of a toolbar, is none; a name is empty as a rule, as its text stands in the tables.
+    const bool isNeeded = isRequired && (use == AttributeUse::Keyword || use == AttributeUse::Prompt);
+    return "    <xs:attribute name=\"" + name + "\" type=\"" + std::string(isNeeded ? "needed" : TypeOf(use)) + "\"" +
            (isRequired ? " use=\"required\"" : "") + "/>\n";
 }
 
@@ -136,6 +172,8 @@ std::string Schema(std::string_view root, const std::string& types) {
 
 const std::string kIconType = TypeWithPattern("icon", R"((.*\\)?[^/\\]*)");
 
+const std::string kNeededType = TypeWithPattern("needed", ".+");
+
 std::string RibbonSchema() {
     using enum AttributeUse;
     const std::span<const AttributeRule> rules = RibbonAttributeRules();
@@ -143,31 +181,37 @@ std::string RibbonSchema() {
                                 std::initializer_list<AttributeUse> required) {
         return Attributes(rules, leftOut, required);
     };
+    // Where a size says nothing, any number will do.
+    const auto unsized = [&](std::initializer_list<AttributeUse> leftOut,
+                             std::initializer_list<AttributeUse> required) {
+        return Retyped(Retyped(attributes(leftOut, required), "size", "number"), "width", "number");
+    };
     return Schema(
         "ribbon",
         ComplexType("ribbon", {{"row", "row"}}, "") +
-            ComplexType("row", {{"category", "category"}, {"item", "reference"}}, attributes({Type, CateTab}, {})) +
-            ComplexType("reference", {}, WithStatusTypes(attributes({CateTab}, {Keyword}))) +
-            ComplexType("category", {{"panel", "panel"}}, attributes({Type}, {Keyword, Name})) +
-            ComplexType("panel", {{"item", "element"}, {"group", "group"}}, attributes({Type, CateTab}, {})) +
+            ComplexType("row", {{"category", "category"}, {"item", "reference"}}, unsized({Type, CateTab}, {})) +
+            ComplexType("reference", {},
+                        Retyped(Retyped(attributes({CateTab}, {Keyword}), "type", "statusType"), "size", "number")) +
+            ComplexType("category", {{"panel", "panel"}}, unsized({Type}, {Keyword, Name})) +
+            ComplexType("panel", {{"item", "element"}, {"group", "group"}}, unsized({Type, CateTab}, {})) +
             ComplexType("element", {{"item", "subItem"}}, attributes({CateTab}, {Keyword, Type})) +
-            ComplexType("group", {{"item", "subItem"}}, attributes({CateTab}, {Type})) +
-            ComplexType("subItem", {}, attributes({CateTab}, {Keyword, Type})) +
-            TypeWithPattern("type", OneOf(Narrow(ElementTypes()))) +
-            TypeWithPattern("statusType", OneOf(kStatusTypes)) + TypeWithPattern("number", "[+\\-]?[0-9]{1,10}") +
-            TypeWithPattern("flag", "[YyNn]?") + kIconType);
+            ComplexType("group", {{"item", "subItem"}}, unsized({CateTab}, {Type})) +
+            ComplexType("subItem", {}, attributes({CateTab}, {Keyword, Type})) + TypeOfWords("type", ElementTypes()) +
+            TypeOfWords("statusType", StatusTypes()) + TypeWithWords("size", {"16", "32"}, "\\+?0*(16|32)") +
+            TypeWithPattern("number", "[+\\-]?[0-9]{1,10}") + TypeWithPattern("width", "\\+?0*[1-9][0-9]{0,9}") +
+            TypeWithWords("flag", {"Y", "N"}, "[yn]?") + kNeededType + kIconType);
 }
 
 std::string MenuSchema() {
     const std::string attributes = Attributes(MenuAttributeRules(), {}, {});
-    return Schema("menu", ComplexType("menu", {{"group", "group"}, {"item", "item"}}, "") +
-                              ComplexType("group", {{"popup", "popup"}, {"item", "item"}}, "") +
-                              ComplexType("popup", {{"popup", "popup"}, {"item", "item"}},
-                                          Attributes(MenuAttributeRules(), {AttributeUse::HotKey},
-                                                     {AttributeUse::Keyword, AttributeUse::Name})) +
-                              ComplexType("item", {}, attributes) +
-                              TypeWithPattern("shortcut", "|[!-~]|((" + OneOf(kModifiers) + ")\\+)+[!-*,-~]") +
-                              kIconType);
+    return Schema("menu",
+                  ComplexType("menu", {{"group", "group"}, {"item", "item"}}, "") +
+                      ComplexType("group", {{"popup", "popup"}, {"item", "item"}}, "") +
+                      ComplexType("popup", {{"popup", "popup"}, {"item", "item"}},
+                                  Attributes(MenuAttributeRules(), {AttributeUse::HotKey},
+                                             {AttributeUse::Keyword, AttributeUse::Name})) +
+                      ComplexType("item", {}, attributes) + TypeWithPattern("letter", "[^ &amp;]?") + kNeededType +
+                      TypeWithPattern("shortcut", "|[!-~]|((" + OneOf(kModifiers) + ")\\+)+[!-*,-~]") + kIconType);
 }
 
 std::string ToolBarSchema() {
@@ -178,8 +222,8 @@ std::string ToolBarSchema() {
         ComplexType("toolbars", {{"group", "group"}}, "") +
             ComplexType("group", {{"toolbar", "toolbar"}, {"bar", "toolbar"}}, Attributes(rules, {Type}, {Keyword})) +
             ComplexType("toolbar", {{"button", "button"}, {"item", "button"}}, Attributes(rules, {Type}, {Prompt})) +
-            ComplexType("button", {}, Attributes(rules, {}, {Type})) +
-            TypeWithPattern("type", OneOf(Narrow(ToolBarItemTypes()))) + kIconType);
+            ComplexType("button", {}, Attributes(rules, {}, {Type})) + TypeOfWords("type", ToolBarItemTypes()) +
+            kNeededType + kIconType);
 }
 
 } // namespace
