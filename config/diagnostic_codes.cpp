@@ -51,9 +51,10 @@ constexpr DiagnosticCode kCodes[] = {
      "its name; the folder lang with the tables.",
      "The library shows a message box that asks whether the file exists, or builds no toolbars. Without tables every "
      "text shows as its keyword.",
-     "Put the file there or mend the name."},
+     "Put the file there or mend the name.", Files, "cfg\\menu.xml\ncfg\\ribon.xml", "cfg\\menu.xml\ncfg\\ribbon.xml"},
     {"unreadable-file", Error, "The file cannot be read: no permission, no plain file, or longer than 256 MB.",
-     "It is not loaded.", "Mend what the message says."},
+     "It is not loaded.", "Mend what the message says.", Files, "cfg\\menu.xml\ncfg\\ribbon.xml (257 MB)",
+     "cfg\\menu.xml\ncfg\\ribbon.xml"},
 
     {kWrongKind, Error, "A ribbon, menu or toolbar file has the name, or stands in the place, of one of another kind.",
      "It is read as what it is not: hardly anything is built from it. Nothing else is said of it, and what refers to "
@@ -202,7 +203,9 @@ constexpr DiagnosticCode kCodes[] = {
      "same "
      "icon.",
      "It is a command of its own, without CMD: only a program that knows the keyword does something.",
-     "Write the keyword as the command has it."},
+     "Write the keyword as the command has it.", Twin,
+     "<item TYPE=\"button\" KEYWORD=\"Opne\" PROMPT=\"Open\" PICPATH=\"pic\\example.ico\"/>",
+     "<item TYPE=\"button\" KEYWORD=\"Open\" PROMPT=\"Open\" PICPATH=\"pic\\example.ico\"/>"},
     {"shortcut-syntax", Error,
      "HOTKEY is read as something else than it says. Only Ctrl, Shift and Alt, each once and joined by \"+\" without "
      "blanks, may stand before the key, and only the first character of the key counts.",
@@ -273,7 +276,10 @@ constexpr DiagnosticCode kCodes[] = {
     {"missing-text", Warning,
      "An element asks for a text (NAME, MENUNAME, TOOLTIP) that a language's tables do not have under its keyword.",
      "The keyword itself is shown for a name, nothing for a tooltip.",
-     "Add the unit KEYWORD or KEYWORD.tooltip to section RibbonBarCfg, or do not ask for the text."},
+     "Add the unit KEYWORD or KEYWORD.tooltip to section RibbonBarCfg, or do not ask for the text.", ToolTip,
+     "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>",
+     "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\" "
+     "name=\"In.tooltip\"><segment><source>Shows less, larger</source></segment></unit>"},
     {"duplicate-text", Warning, "A language's tables have two units of one key in one section.",
      "The later one counts, in the order of the files' names.", "Remove one of the two.", Table,
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\" "

@@ -16,6 +16,9 @@ enum class ExampleFrame {
     ToolBar, ///< buttons of a toolbar
     Table,   ///< units of a translation table
     Field,   ///< the same, where "Place" is the text of an edit of WIDTH 60
+    ToolTip, ///< the same, where "In" has a name and a tooltip
+    Twin,    ///< buttons of a toolbar, where a ribbon has the command "Open" with the icon pic\\example.ico
+    Files,   ///< names of files of an installation, each with its size where that matters
 };
 
 /// One kind of problem: what the guide says of it and what the tests prove. Texts are UTF-8.

@@ -6,6 +6,7 @@ namespace {
 struct FrameText {
     ExampleFrame frame;
     std::string_view where;
+    std::string_view language = "xml";
 };
 constexpr FrameText kFrames[] = {
     {ExampleFrame::RibbonFile, "A ribbon file"},
@@ -16,6 +17,9 @@ constexpr FrameText kFrames[] = {
     {ExampleFrame::ToolBar, "In a toolbar of a toolbar file"},
     {ExampleFrame::Table, "In a translation table"},
     {ExampleFrame::Field, "In a translation table, where `Place` is the text of an edit of `WIDTH=\"60\"`"},
+    {ExampleFrame::ToolTip, "In a translation table, where `In` is a button with `NAME` and `TOOLTIP`"},
+    {ExampleFrame::Twin, "In a toolbar of a toolbar file, where a button `Open` of the ribbon has the same icon"},
+    {ExampleFrame::Files, "Files of an installation", "text"},
 };
 
 /// Bytes that are no text show as what they are read as.
@@ -31,7 +35,8 @@ std::string ExampleOf(const DiagnosticCode& code) {
     std::string text;
     for (const FrameText& frame : kFrames) {
         if (frame.frame == code.frame) {
-            text += std::string(frame.where) + ":\n\n```xml\n" + Shown(code.wrong) + "\n```\n\nMended:\n\n```xml\n" +
+            const std::string fence = "```" + std::string(frame.language) + "\n";
+            text += std::string(frame.where) + ":\n\n" + fence + Shown(code.wrong) + "\n```\n\nMended:\n\n" + fence +
                     Shown(code.right) + "\n```\n\n";
         }
     }
