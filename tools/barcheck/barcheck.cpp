@@ -30,7 +30,7 @@ std::string ReportOf(const std::vector<Diagnostic>& findings, const BarcheckOpti
     case ReportFormat::Json:
         return JsonReport(findings);
     case ReportFormat::Sarif:
-        return SarifReport(findings);
+        return SarifReport(findings, options.folder);
     case ReportFormat::Github:
         return GithubReport(findings, options.folder);
     case ReportFormat::Text:

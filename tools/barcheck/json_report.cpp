@@ -66,7 +66,7 @@ std::string JsonReport(const std::vector<Diagnostic>& findings) {
     return Write(report);
 }
 
-std::string SarifReport(const std::vector<Diagnostic>& findings) {
+std::string SarifReport(const std::vector<Diagnostic>& findings, const std::wstring& folder) {
     Json rules = Json::array();
     for (const DiagnosticCode& code : DiagnosticCodes()) {
         rules.push_back(RuleOf(code));
@@ -78,9 +78,9 @@ std::string SarifReport(const std::vector<Diagnostic>& findings) {
                        {"ruleIndex", FindDiagnosticCode(finding.code) - DiagnosticCodes().data()},
                        {"level", NameOf(finding.severity)},
                        {"message", {{"text", wstring2String(text)}}},
-                       {"locations", Json::array({LocationOf(finding.file, finding.position)})}};
+                       {"locations", Json::array({LocationOf(folder + finding.file, finding.position)})}};
         for (const RelatedPlace& place : finding.related) {
-            Json related = LocationOf(place.file, place.position);
+            Json related = LocationOf(folder + place.file, place.position);
             related["message"] = {{"text", wstring2String(place.text)}};
             result["relatedLocations"].push_back(std::move(related));
         }

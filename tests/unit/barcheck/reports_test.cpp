@@ -82,6 +82,21 @@ TEST(BarcheckReport, SarifNamesRulesPlacesAndLevels) {
     EXPECT_EQ(Json::parse(SarifReport({}))["runs"][0]["results"], Json::array());
 }
 
+TEST(BarcheckReport, SarifNamesFilesFromWhereTheProgramWasStarted) {
+    const std::vector<Diagnostic> findings = {{L"cfg/a.xml",
+                                               {3, 4},
+                                               DiagnosticSeverity::Error,
+                                               "missing-file",
+                                               L"gone",
+                                               L"",
+                                               {{L"cfg/b.xml", {5, 6}, L"here"}}}};
+    const Json report = Json::parse(SarifReport(findings, L"the product/files/"));
+    const Json& result = report["runs"][0]["results"][0];
+    const auto uriOf = [](const Json& location) { return location["physicalLocation"]["artifactLocation"]["uri"]; };
+    EXPECT_EQ(uriOf(result["locations"][0]), "the%20product/files/cfg/a.xml");
+    EXPECT_EQ(uriOf(result["relatedLocations"][0]), "the%20product/files/cfg/b.xml");
+}
+
 TEST(BarcheckReport, GithubCommandsAreOneLineEachWithTheirSignsEscaped) {
     EXPECT_EQ(GithubReport(SomeFindings()), "::warning file=cfg/a b.xml,line=2,col=4,title=unknown-attribute::50%25 of "
                                             "\"\xE5\x9C\xB0\xE5\x9B\xBE\"%0Ais wrong (mend it)\n"
