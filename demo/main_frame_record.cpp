@@ -8,144 +8,165 @@
 #include "varnhold/language.h"
 #include "varnhold/strings.h"
 
-void CMainFrame::WriteRecord(Moment moment) {
-    if (m_options.record.empty()) {
-        return;
-    }
-    const MapView& view = m_state.View();
-    nlohmann::ordered_json layers = nlohmann::ordered_json::array();
-    for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
-        layers.push_back(m_state.IsShown(static_cast<MapLayer>(i)));
-    }
-    nlohmann::ordered_json styles = nlohmann::ordered_json::array();
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+/// Left, top, right, bottom; pixels.
+Json RectRecord(const CRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
+
+/// On the screen.
+Json WindowRecord(const CWnd& window) {
+    CRect rect;
+    window.GetWindowRect(rect);
+    return RectRecord(rect);
+}
+
+Json MapRecord(const MapState& state, bool isFinished) {
+    Json layers = Json::array(), styles = Json::array(), labels = Json::array(), marks = Json::array();
     for (int i = 0; i < static_cast<int>(MapLayer::Count); ++i) {
         const auto layer = static_cast<MapLayer>(i);
-        styles.push_back({{"color", ShownColor(m_state, layer)},
-                          {"lit", m_state.IsLit(layer)},
-                          {"locked", m_state.IsLocked(layer)}});
+        layers.push_back(state.IsShown(layer));
+        styles.push_back(
+            {{"color", ShownColor(state, layer)}, {"lit", state.IsLit(layer)}, {"locked", state.IsLocked(layer)}});
     }
-    nlohmann::ordered_json labels = nlohmann::ordered_json::array();
     for (int i = 0; i < static_cast<int>(MapLabel::Count); ++i) {
-        labels.push_back(m_state.IsLit(static_cast<MapLabel>(i)));
+        labels.push_back(state.IsLit(static_cast<MapLabel>(i)));
     }
-    nlohmann::ordered_json marks = nlohmann::ordered_json::array();
-    for (const GeoPoint& mark : m_state.Marks()) {
+    for (const GeoPoint& mark : state.Marks()) {
         marks.push_back({mark.longitude, mark.latitude});
     }
-    nlohmann::ordered_json record = {{"map",
-                                      {{"longitude", view.center.longitude},
-                                       {"latitude", view.center.latitude},
-                                       {"pixelsPerDegree", view.pixelsPerDegree},
-                                       {"layers", std::move(layers)},
-                                       {"layerStyles", std::move(styles)},
-                                       {"labelsLit", std::move(labels)},
-                                       {"marks", std::move(marks)},
-                                       {"opened", m_state.Opened().size()},
-                                       {"page", m_state.Page() == PageShape::Portrait ? "portrait" : "landscape"},
-                                       {"palette", static_cast<int>(m_state.Palette())},
-                                       {"finished", m_map.IsFinished()}}},
-                                     {"language", wstring2String(CMultiLanguageMgr::GetLanguage())},
-                                     {"mode", wstring2String(WorkingModes::NameOf(m_state.Mode()))},
-                                     {"skin", wstring2String(m_skin)},
-                                     {"iconStyle", wstring2String(m_iconStyle)},
-                                     {"classicBars", m_bars.IsShown()},
-                                     {"frame", DumpFrame({.ribbon = &m_ribbon,
-                                                          .statusBar = m_status.get(),
-                                                          .commands = {m_commandTexts},
-                                                          .menus = {m_bars.Menu().GetMenu()},
-                                                          .accelerators = m_hAccelTable,
-                                                          .application = m_status->Application(),
-                                                          .toolBars = m_bars.GroupedToolbars()})}};
-    CRect ribbon;
-    m_ribbon.GetWindowRect(ribbon);
-    const auto onScreen = [&ribbon](CRect rect) {
-        rect.OffsetRect(ribbon.TopLeft());
-        return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
-    };
-    const auto places = [](const CMFCToolBar& bar) {
-        nlohmann::ordered_json rects = nlohmann::ordered_json::array();
-        for (const CRect& place : ClassicBars::PlacesOf(bar)) {
-            rects.push_back({place.left, place.top, place.right, place.bottom});
-        }
-        return rects;
-    };
-    record["menuBarOnScreen"] = places(m_bars.MenuBar());
-    record["toolbarsOnScreen"] = nlohmann::ordered_json::array();
-    for (const auto& [group, bar] : m_bars.GroupedToolbars()) {
-        record["toolbarsOnScreen"].push_back(places(*bar));
+    const MapView& view = state.View();
+    return {{"longitude", view.center.longitude},
+            {"latitude", view.center.latitude},
+            {"pixelsPerDegree", view.pixelsPerDegree},
+            {"layers", std::move(layers)},
+            {"layerStyles", std::move(styles)},
+            {"labelsLit", std::move(labels)},
+            {"marks", std::move(marks)},
+            {"opened", state.Opened().size()},
+            {"page", state.Page() == PageShape::Portrait ? "portrait" : "landscape"},
+            {"palette", static_cast<int>(state.Palette())},
+            {"finished", isFinished}};
+}
+
+/// The buttons of a toolbar.
+Json ButtonPlaces(const CMFCToolBar& bar) {
+    Json places = Json::array();
+    for (const CRect& place : ClassicBars::PlacesOf(bar)) {
+        places.push_back(RectRecord(place));
     }
-    record["ribbonOnScreen"] = {ribbon.left, ribbon.top, ribbon.right, ribbon.bottom};
-    CRect whole;
-    GetWindowRect(whole);
-    record["frameOnScreen"] = {whole.left, whole.top, whole.right, whole.bottom};
-    CRect status;
-    m_status->GetWindowRect(status);
-    record["statusOnScreen"] = {status.left, status.top, status.right, status.bottom};
-    record["quickAccessOnScreen"] = onScreen(m_ribbon.GetQuickAccessToolbarLocation());
-    if (const CMFCRibbonApplicationButton* const button = m_ribbon.GetApplicationButton()) {
+    return places;
+}
+
+Json ToolbarPlaces(const ClassicBars& bars) {
+    Json places = Json::array();
+    for (const auto& [group, bar] : bars.GroupedToolbars()) {
+        places.push_back(ButtonPlaces(*bar));
+    }
+    return places;
+}
+
+/// Adds where the parts of the ribbon are on the screen. `skinButton` and `searchField` may be null.
+void AddRibbonPlaces(Json& record, const CMFCRibbonBar& ribbon, const CMFCRibbonBaseElement* skinButton,
+                     const CMFCRibbonBaseElement* searchField) {
+    CRect bar;
+    ribbon.GetWindowRect(bar);
+    const auto onScreen = [&bar](CRect rect) {
+        rect.OffsetRect(bar.TopLeft());
+        return RectRecord(rect);
+    };
+    const auto placeOf = [&onScreen](const CMFCRibbonBaseElement* element) {
+        return onScreen(element != nullptr ? element->GetRect() : CRect(0, 0, 0, 0));
+    };
+    record["ribbonOnScreen"] = RectRecord(bar);
+    record["quickAccessOnScreen"] = onScreen(ribbon.GetQuickAccessToolbarLocation());
+    if (const CMFCRibbonApplicationButton* const button = ribbon.GetApplicationButton()) {
         record["applicationButtonOnScreen"] = onScreen(button->GetRect());
     }
-    record["tabsOnScreen"] = nlohmann::ordered_json::array();
-    for (int i = 0; i < m_ribbon.GetCategoryCount(); ++i) {
-        record["tabsOnScreen"].push_back(onScreen(m_ribbon.GetCategory(i)->GetTabRect()));
+    record["tabsOnScreen"] = Json::array();
+    for (int i = 0; i < ribbon.GetCategoryCount(); ++i) {
+        record["tabsOnScreen"].push_back(onScreen(ribbon.GetCategory(i)->GetTabRect()));
     }
-    CRect skinButton(0, 0, 0, 0);
-    if (m_skinButton != nullptr) {
-        skinButton = m_skinButton->GetRect();
-    }
-    record["skinButtonOnScreen"] = onScreen(skinButton);
-    CRect searchField(0, 0, 0, 0);
-    if (m_searchField != nullptr) {
-        searchField = m_searchField->GetRect();
-    }
-    record["searchFieldOnScreen"] = onScreen(searchField);
-    record["search"] = {{"open", m_search.IsOpen()}, {"marked", m_search.Marked()}};
-    nlohmann::ordered_json found = nlohmann::ordered_json::array();
-    for (const SearchCommand* const command : m_search.Shown()) {
-        const CRect place = m_search.PlaceOf(static_cast<int>(found.size()));
+    record["skinButtonOnScreen"] = placeOf(skinButton);
+    record["searchFieldOnScreen"] = placeOf(searchField);
+}
+
+Json SearchRecord(const CSearchWindow& search) {
+    Json found = Json::array();
+    for (const SearchCommand* const command : search.Shown()) {
+        const CRect place = search.PlaceOf(static_cast<int>(found.size()));
         found.push_back({{"keyword", wstring2String(command->keyword)},
                          {"name", wstring2String(command->name)},
                          {"place", wstring2String(command->place)},
                          {"keys", wstring2String(command->keys)},
                          {"enabled", command->isEnabled},
-                         {"onScreen", {place.left, place.top, place.right, place.bottom}}});
+                         {"onScreen", RectRecord(place)}});
     }
-    record["search"]["found"] = std::move(found);
-    const auto part = [this](CMapPane::Part which) {
-        const CRect rect = m_pane.PlaceOf(which);
-        return nlohmann::ordered_json{rect.left, rect.top, rect.right, rect.bottom};
-    };
-    record["paneOnScreen"] = {{"list", part(CMapPane::Part::List)},
-                              {"map", part(CMapPane::Part::Map)},
-                              {"down", part(CMapPane::Part::Down)},
-                              {"across", part(CMapPane::Part::Across)}};
+    return {{"open", search.IsOpen()}, {"marked", search.Marked()}, {"found", std::move(found)}};
+}
+
+Json PanePlaces(const CMapPane& pane) {
+    const auto part = [&pane](CMapPane::Part which) { return RectRecord(pane.PlaceOf(which)); };
+    return {{"list", part(CMapPane::Part::List)},
+            {"map", part(CMapPane::Part::Map)},
+            {"down", part(CMapPane::Part::Down)},
+            {"across", part(CMapPane::Part::Across)}};
+}
+
+Json DialogRecord(const CDialogWindow& dialog) {
+    const CDialogWindow::Description shown = dialog.Describe();
+    Json parts = Json::object(), values = Json::object();
+    for (const CDialogWindow::Part& one : shown.parts) {
+        parts[one.name] = {
+            {"text", wstring2String(one.text)}, {"enabled", one.isEnabled}, {"onScreen", RectRecord(one.onScreen)}};
+    }
+    for (const auto& [name, value] : shown.values) {
+        values[name] = value;
+    }
+    return {{"name", shown.name},
+            {"captionOnScreen", RectRecord(dialog.CaptionOnScreen())},
+            {"parts", std::move(parts)},
+            {"values", std::move(values)}};
+}
+
+} // namespace
+
+void CMainFrame::WriteRecord(Moment moment) {
+    if (m_options.record.empty()) {
+        return;
+    }
+    Json record = {{"map", MapRecord(m_state, m_map.IsFinished())},
+                   {"language", wstring2String(CMultiLanguageMgr::GetLanguage())},
+                   {"mode", wstring2String(WorkingModes::NameOf(m_state.Mode()))},
+                   {"skin", wstring2String(m_skin)},
+                   {"iconStyle", wstring2String(m_iconStyle)},
+                   {"classicBars", m_bars.IsShown()},
+                   {"frame", DumpFrame({.ribbon = &m_ribbon,
+                                        .statusBar = m_status.get(),
+                                        .commands = {m_commandTexts},
+                                        .menus = {m_bars.Menu().GetMenu()},
+                                        .accelerators = m_hAccelTable,
+                                        .application = m_status->Application(),
+                                        .toolBars = m_bars.GroupedToolbars()})},
+                   {"menuBarOnScreen", ButtonPlaces(m_bars.MenuBar())},
+                   {"toolbarsOnScreen", ToolbarPlaces(m_bars)},
+                   {"frameOnScreen", WindowRecord(*this)},
+                   {"statusOnScreen", WindowRecord(*m_status)},
+                   {"search", SearchRecord(m_search)},
+                   {"paneOnScreen", PanePlaces(m_pane)},
+                   {"popupOpen", CMFCPopupMenu::GetActiveMenu() != nullptr},
+                   {"idle", moment == Moment::Idle},
+                   {"ribbonMinimized", IsRibbonMinimized()},
+                   {"quickAccessBelow", IsQuickAccessBelow()}};
+    AddRibbonPlaces(record, m_ribbon, m_skinButton, m_searchField);
     if (m_dialog != nullptr) {
-        const CDialogWindow::Description shown = m_dialog->Describe();
-        nlohmann::ordered_json parts = nlohmann::ordered_json::object();
-        for (const CDialogWindow::Part& one : shown.parts) {
-            const CRect& place = one.onScreen;
-            parts[one.name] = {{"text", wstring2String(one.text)},
-                               {"enabled", one.isEnabled},
-                               {"onScreen", {place.left, place.top, place.right, place.bottom}}};
-        }
-        nlohmann::ordered_json values = nlohmann::ordered_json::object();
-        for (const auto& [name, value] : shown.values) {
-            values[name] = value;
-        }
-        const CRect caption = m_dialog->CaptionOnScreen();
-        record["dialog"] = {{"name", shown.name},
-                            {"captionOnScreen", {caption.left, caption.top, caption.right, caption.bottom}},
-                            {"parts", std::move(parts)},
-                            {"values", std::move(values)}};
+        record["dialog"] = DialogRecord(*m_dialog);
     }
-    record["popupOpen"] = CMFCPopupMenu::GetActiveMenu() != nullptr;
-    record["warnings"] = nlohmann::ordered_json::array();
+    record["warnings"] = Json::array();
     for (const std::wstring& warning : m_warnings) {
         record["warnings"].push_back(wstring2String(warning));
     }
-    record["idle"] = moment == Moment::Idle;
-    record["ribbonMinimized"] = IsRibbonMinimized();
-    record["quickAccessBelow"] = IsQuickAccessBelow();
     std::string text = record.dump();
     if (text == m_recorded) {
         return;
