@@ -4,6 +4,7 @@
 #include "config/check/icon_check.h"
 #include "config/check/text_check.h"
 #include "config/diagnostic_codes.h"
+#include "config/to_problem.h"
 #include "configuration_problems.h"
 #include "menu_id_mgr.h"
 
@@ -21,23 +22,6 @@ ConfigurationProblemSink& HostSink() {
     static ConfigurationProblemSink sink;
     return sink;
 }
-
-ConfigurationProblem ToProblem(const Diagnostic& diagnostic) {
-    ConfigurationProblem problem{diagnostic.file,
-                                 diagnostic.position.line,
-                                 diagnostic.position.column,
-                                 static_cast<ConfigurationProblem::Severity>(diagnostic.severity),
-                                 std::string(diagnostic.code),
-                                 diagnostic.text,
-                                 diagnostic.fix,
-                                 {}};
-    for (const RelatedPlace& place : diagnostic.related) {
-        problem.related.push_back({place.file, place.position.line, place.position.column, place.text});
-    }
-    return problem;
-}
-static_assert(static_cast<int>(DiagnosticSeverity::Note) == static_cast<int>(ConfigurationProblem::Severity::Note));
-static_assert(static_cast<int>(DiagnosticSeverity::Error) == static_cast<int>(ConfigurationProblem::Severity::Error));
 
 /// The keywords of references that lead somewhere: the command is registered, or may be before it is needed.
 std::set<std::wstring> KnownReferences(std::span<const GatheredElement> elements) {

@@ -38,6 +38,18 @@ struct ConfigurationProblem {
 /// CDynMenuCreater, CDynToolBarCreater) ends, in its thread. May not throw, and may not load anything itself.
 typedef boost::function<void(const ConfigurationProblem& problem)> ConfigurationProblemSink;
 
+/// Which bars a file is for.
+enum class ConfiguredBars { Ribbon, Menu, ToolBars };
+
+/// Why nothing would be built of a file that is loaded now, for a host that builds its bars anew while it runs and
+/// keeps what it shows as long as a file is broken: the file cannot be read or is no XML, there is no element in it, or
+/// a shortcut of a menu names no key, which ends its loading by an exception unless its command is another file's.
+/// Empty: it can be loaded. `path`: the full path. Builds and registers nothing. User-interface thread.
+BARWRIGHT_API std::vector<ConfigurationProblem> FindLoadFaults(const std::wstring& path, ConfiguredBars bars);
+
+/// The same of the tables of a language: why CMultiLanguageMgr::SetLanguage would refuse it. Empty without a code.
+BARWRIGHT_API std::vector<ConfigurationProblem> FindLanguageFaults(const std::wstring& code);
+
 /// Replaces the sink and returns the earlier one. The first one is empty: then nobody looks for problems, and loading
 /// takes no longer. Texts are looked up in the language in force; what takes other files to know, as that two of them
 /// use one keyword differently, is left to the program barcheck. User-interface thread.
