@@ -5,6 +5,7 @@ usage: watch_test.py BIN_DIR [TEST...]
 """
 import json
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -209,8 +210,51 @@ class Watching(unittest.TestCase):
             out, err = barview.finish()
         self.assertEqual(broken["ribbon"], barview.first["ribbon"])
         self.assertEqual([e["text"] for e in elements(mended, 1)], ["Area"])
-        self.assertRegex(err, r"barview: cfg\\ribbon\.xml:\d+:\d+: ")
+        self.assertRegex(err, r"(?m)^cfg/ribbon\.xml:\d+:\d+: error: .+ \[xml-syntax\]$")
         self.assertIn(r"as before: cfg\ribbon.xml", out)
+
+    def test_standard_error_has_what_barcheck_says_of_the_broken_file(self):
+        with Watched(1) as barview:
+            barview.edit("cfg/menu.xml", "Ctrl+S", "Ctrl+")
+            broken = barview.next()
+            checked = subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), "--null", os.path.join(BIN_DIR, "barcheck.exe"),
+                                      barview.root, "cfg/menu.xml"], capture_output=True, text=True, errors="replace").stdout
+            out, err = barview.finish()
+        self.assertEqual((broken["menu"], broken["accelerators"]), (barview.first["menu"], barview.first["accelerators"]))
+        lines = checked.splitlines()
+        start = [line.startswith("cfg/menu.xml:2:") and line.endswith(" [shortcut-syntax]") for line in lines].index(True)
+        self.assertEqual(lines[start + 1], "    " + MENU.splitlines()[1].replace("Ctrl+S", "Ctrl+"))
+        self.assertEqual(lines[start + 2].strip(), "^")
+        self.assertTrue(lines[start + 3].startswith("    fix: "))
+        self.assertIn("\n".join(lines[start:start + 4]) + "\n", err)
+        self.assertIn(r"as before: cfg\menu.xml", out)
+
+    def test_of_two_files_that_change_at_once_the_good_one_is_shown_and_the_mended_one_follows(self):
+        with Watched(2) as barview:
+            barview.edit("cfg/menu.xml", "Ctrl+S", "Ctrl+")
+            barview.edit("cfg/ribbon.xml", 'KEYWORD="Measure"', 'KEYWORD="Area"')
+            first = barview.next()
+            barview.edit("cfg/menu.xml", "Ctrl+", "Ctrl+E")
+            mended = barview.next()
+            out, _ = barview.finish()
+        self.assertEqual([e["text"] for e in elements(first, 1)], ["Area"])
+        self.assertEqual(first["accelerators"], barview.first["accelerators"])
+        self.assertEqual([entry["key"] for entry in mended["accelerators"]], [0x45])
+        self.assertEqual(out.splitlines(), [r"barview: built anew: cfg\ribbon.xml", r"barview: as before: cfg\menu.xml",
+                                            r"barview: built anew: cfg\menu.xml"])
+
+    def test_a_broken_table_is_told_with_its_place_until_it_is_mended(self):
+        with Watched(3) as barview:
+            barview.edit("lang/en/a.xlf", "</file>", "</fil>")
+            broken = barview.next()
+            barview.edit("cfg/ribbon.xml", 'KEYWORD="Measure"', 'KEYWORD="Area"')
+            changed = barview.next()
+            barview.write("lang/en/a.xlf", TABLE.replace("Open it", "Open now"))
+            mended = barview.next()
+            _, err = barview.finish()
+        self.assertEqual([elements(dump)[0]["text"] for dump in (broken, changed, mended)], ["Open it", "Open it", "Open now"])
+        self.assertEqual([e["text"] for e in elements(changed, 1)], ["Area"])
+        self.assertEqual(len(re.findall(r"(?m)^lang/en/a\.xlf:\d+:\d+: error: .+ \[xml-syntax\]$", err)), 2, err)
 
     def test_an_edited_text_is_shown_everywhere(self):
         with Watched(1) as barview:

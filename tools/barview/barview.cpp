@@ -9,6 +9,7 @@
 #include "configuration_problems.h"
 #include "configuration_watch.h"
 #include "frame_dump.h"
+#include "problem_report.h"
 #include "ribbon_icon_button.h"
 #include "screenshot.h"
 #include "skin_visual_managers.h"
@@ -21,6 +22,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -75,6 +77,9 @@ public:
         if (frame == nullptr) {
             return FALSE;
         }
+        if (m_options.isWatching) {
+            frame->ShowFaults();
+        }
         if (m_options.isWatching || m_options.IsUnattended()) {
             SettleWindow(frame->GetSafeHwnd());
             WriteOutputs(*frame);
@@ -124,19 +129,29 @@ private:
 
     void Take(const ConfigurationChange& change) {
         auto& frame = *static_cast<CPreviewFrame*>(m_pMainWnd);
-        FindUnnamedFiles(m_options); // one may be new, or gone
+        FindUnnamedFiles(m_options);           // one may be new, or gone
+        m_report.emplace(m_options.directory); // the lines are other ones now
         const bool isBuilt = frame.Rebuild(change);
         SettleWindow(frame.GetSafeHwnd());
         WriteOutputs(frame);
-        std::wstring line = isBuilt ? L"built anew:" : L"as before:";
+        std::wstring built;
+        std::wstring kept;
         for (const std::wstring& file : change.files) {
-            line += L" " + file;
+            (isBuilt && !frame.IsWaiting(file) ? built : kept) += L" " + file;
         }
-        std::fprintf(stdout, "barview: %s\n", wstring2String(line).c_str());
+        PrintFiles(L"built anew:", built);
+        PrintFiles(L"as before:", kept);
         std::fflush(stdout);
         if (m_options.changes > 0 && --m_options.changes == 0) {
             m_watch.Stop();
             frame.PostMessage(WM_CLOSE);
+        }
+    }
+
+    /// Nothing where there are no files.
+    static void PrintFiles(const std::wstring& what, const std::wstring& files) {
+        if (!files.empty()) {
+            std::fprintf(stdout, "barview: %s\n", wstring2String(what + files).c_str());
         }
     }
 
@@ -211,13 +226,9 @@ private:
     void Prepare(const std::wstring& directory) {
         FileOp::SetAppPath(directory);
         CMultiLanguageMgr::SetProblemSink([](const std::wstring& problem) { Complain(problem); });
+        m_report.emplace(m_options.directory);
         SetConfigurationProblemSink([this](const ConfigurationProblem& problem) {
-            const std::wstring& directory = m_options.directory;
-            ConfigurationProblem shown = problem;
-            if (shown.file.starts_with(directory)) {
-                shown.file.erase(0, directory.size());
-            }
-            std::fprintf(stderr, "%s\n", wstring2String(FormatConfigurationProblem(shown)).c_str());
+            std::fputs(wstring2String(m_report->Of(problem)).c_str(), stderr);
         });
         if (!m_options.language.empty() && !CMultiLanguageMgr::SetLanguage(m_options.language)) {
             Complain(L"no usable language " + m_options.language);
@@ -246,6 +257,7 @@ private:
     BarviewOptions m_options;
     std::unique_ptr<GdiPlusSession> m_gdiPlus;
     std::unique_ptr<ScopedMessageBoxHandler> m_answer;
+    std::optional<ProblemReport> m_report; ///< Of the files as they are now.
     CConfigurationWatch m_watch;
     int m_exitCode = 0;
 };

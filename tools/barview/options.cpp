@@ -115,8 +115,9 @@ const wchar_t* BarviewUsage() {
            L"--against marks what is different in the installation directory OTHER.\n"
            L"--watch builds the bars anew whose files below DIR change, and writes --screenshot and --dump again each "
            L"time;\n"
-           L"a broken file leaves what is shown as it is, and the caption says what is wrong. --changes leaves after N "
-           L"of them.\n";
+           L"a broken file leaves its bars as they are, and caption and standard error say what is wrong. --changes "
+           L"leaves after N\n"
+           L"of them. --help writes this text.\n";
 }
 
 std::optional<BarviewOptions> ParseBarviewOptions(const std::vector<std::wstring>& arguments, std::wstring& error) {

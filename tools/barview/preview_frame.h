@@ -2,6 +2,7 @@
 
 #include "options.h"
 
+#include "configuration_problems.h"
 #include "dyn_menu_creater.h"
 #include "dyn_toolbar_creater.h"
 #include "ribbon_bar_ex.h"
@@ -30,9 +31,14 @@ public:
     BOOL CreateFrame();
     /// Builds the bars; false when a file could not be loaded, or when what was asked for is not there.
     bool Build();
-    /// Builds the bars anew whose files have changed. Where one of these files is broken nothing changes, and the
-    /// caption and standard error say what is wrong. True when anything was built.
+    /// Builds the bars anew whose files have changed now, or earlier when they could not be built. Bars of which a file
+    /// is broken stay as they are, and all bars keep their texts while a table is broken; the caption and standard
+    /// error say what is wrong until it is mended. True when anything was built.
     bool Rebuild(const ConfigurationChange& change);
+    /// Whether bars that the file is for are still to be built anew.
+    bool IsWaiting(const std::wstring& file) const;
+    /// Behind Build, for a frame that lives on: the caption says which files were broken at the start.
+    void ShowFaults();
     /// The same as if every file had changed.
     bool RebuildAll();
 
@@ -45,11 +51,22 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    /// The bars of one kind of file, by the commands that came with them.
+    /// What is built anew together.
     struct Bars {
         bool isRibbon = false;
         bool areMenus = false;
         bool areToolBars = false;
+        bool areTexts = false; ///< The tables are to be read again, and all bars after them.
+
+        bool AreAny() const { return isRibbon || areMenus || areToolBars || areTexts; }
+        void Add(const Bars& others);
+        void Remove(const Bars& others);
+        bool HaveAnyOf(const Bars& others) const;
+    };
+    /// What is broken, in the order in which bars are built, and whose bars it keeps as they are.
+    struct Faults {
+        std::vector<ConfigurationProblem> problems;
+        Bars kept;
     };
 
     /// What a host would declare: the categories that the file added and its quick access commands.
@@ -66,13 +83,18 @@ private:
     /// False when no ribbon file of that name has a status row.
     bool ShowApplication();
 
-    bool RebuildBars(const Bars& bars);
+    /// What a change of the file asks for.
+    Bars BarsOf(const std::wstring& file) const;
+    /// The language that was asked for, also while it cannot be read.
+    std::wstring WantedLanguage() const;
+    bool RebuildWaiting();
+    void RebuildBars(const Bars& bars);
     void RebuildRibbon();
     void RebuildMenus();
     void RebuildToolBars();
-    /// What is wrong with the first file that cannot be loaded; empty: nothing.
-    std::wstring FindBroken(const Bars& bars) const;
-    void ShowProblem(const std::wstring& problem);
+    Faults FindFaults() const;
+    /// In the caption; the directory alone where there are none.
+    void ShowInCaption(const Faults& faults);
 
     const BarviewOptions& m_options;
     CMFCRibbonBarEx m_ribbon;
@@ -85,4 +107,5 @@ private:
     std::set<std::wstring> m_ofMenus;
     std::set<std::wstring> m_ofToolBars;
     std::uint32_t m_firstToolBar = 0;
+    Bars m_waiting; ///< Whose files have changed since they were built.
 };

@@ -6,62 +6,93 @@
 #include "configuration_watch.h"
 #include "kept_command_ids.h"
 
-#include "varnhold/language.h"
-#include "varnhold/xml.h"
+#include "problem_report.h"
 
-#include <list>
+#include "varnhold/language.h"
+#include "varnhold/strings.h"
+
+#include <algorithm>
+#include <cstdio>
 
 // The bars of files that have changed, built anew while the window stays.
 
-namespace {
-
-/// Whether the library reads the file; where not, what is wrong with it.
-std::wstring ProblemOf(const std::wstring& directory, const std::wstring& file) {
-    CXmlDocumentWrapper document;
-    if (document.Load(directory + file)) {
-        return {};
-    }
-    const std::wstring& text = document.GetErrorText();
-    return text.starts_with(directory) ? text.substr(directory.size()) : text;
+void CPreviewFrame::Bars::Add(const Bars& others) {
+    isRibbon = isRibbon || others.isRibbon;
+    areMenus = areMenus || others.areMenus;
+    areToolBars = areToolBars || others.areToolBars;
+    areTexts = areTexts || others.areTexts;
 }
 
-} // namespace
+void CPreviewFrame::Bars::Remove(const Bars& others) {
+    isRibbon = isRibbon && !others.isRibbon;
+    areMenus = areMenus && !others.areMenus;
+    areToolBars = areToolBars && !others.areToolBars;
+    areTexts = areTexts && !others.areTexts;
+}
+
+bool CPreviewFrame::Bars::HaveAnyOf(const Bars& others) const {
+    return (isRibbon && others.isRibbon) || (areMenus && others.areMenus) || (areToolBars && others.areToolBars) ||
+           (areTexts && others.areTexts);
+}
+
+CPreviewFrame::Bars CPreviewFrame::BarsOf(const std::wstring& file) const {
+    using enum ConfigurationFileKind;
+    const ConfigurationFileKind kind = KindOfConfigurationFile(file);
+    // Files may be named otherwise on the command line.
+    const auto isAmong = [&file](const std::vector<std::wstring>& files) {
+        return std::ranges::find(files, file) != files.end();
+    };
+    return {.isRibbon = kind == Ribbon || isAmong(m_options.ribbonFiles),
+            .areMenus = kind == Menu || kind == Icon || isAmong(m_options.menuFiles),
+            .areToolBars = kind == ToolBars || kind == Icon || isAmong(m_options.toolBarFiles),
+            .areTexts = kind == Texts};
+}
 
 bool CPreviewFrame::Rebuild(const ConfigurationChange& change) {
-    using enum ConfigurationFileKind;
-    Bars bars{change.Has(Ribbon), change.Has(Menu), change.Has(ToolBars)};
-    for (const std::wstring& file : change.files) { // files that were named on the command line
-        const auto isAmong = [&file](const std::vector<std::wstring>& files) {
-            return std::ranges::find(files, file) != files.end();
-        };
-        bars.isRibbon = bars.isRibbon || isAmong(m_options.ribbonFiles);
-        bars.areMenus = bars.areMenus || isAmong(m_options.menuFiles);
-        bars.areToolBars = bars.areToolBars || isAmong(m_options.toolBarFiles);
+    for (const std::wstring& file : change.files) {
+        m_waiting.Add(BarsOf(file));
     }
-    if (change.Has(Texts)) {
-        const std::wstring language = CMultiLanguageMgr::GetLanguage();
-        if (!language.empty() && !CMultiLanguageMgr::SetLanguage(language)) {
-            ShowProblem(L"no usable language " + language);
-            return false;
-        }
-        bars = {true, true, true};
-    }
-    if (change.Has(Icon)) {
-        bars.areMenus = bars.areToolBars = true;
+    if (change.Has(ConfigurationFileKind::Icon)) {
         ForgetIcons();
         m_ribbon.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     }
-    return RebuildBars(bars);
+    return RebuildWaiting();
 }
 
-bool CPreviewFrame::RebuildAll() { return RebuildBars({true, true, true}); }
+bool CPreviewFrame::RebuildAll() {
+    m_waiting.Add({.isRibbon = true, .areMenus = true, .areToolBars = true});
+    return RebuildWaiting();
+}
 
-bool CPreviewFrame::RebuildBars(const Bars& bars) {
-    const std::wstring problem = FindBroken(bars);
-    ShowProblem(problem);
-    if (!problem.empty() || (!bars.isRibbon && !bars.areMenus && !bars.areToolBars)) {
-        return false;
+bool CPreviewFrame::IsWaiting(const std::wstring& file) const { return m_waiting.HaveAnyOf(BarsOf(file)); }
+
+std::wstring CPreviewFrame::WantedLanguage() const {
+    return m_options.language.empty() ? CMultiLanguageMgr::GetLanguage() : m_options.language;
+}
+
+bool CPreviewFrame::RebuildWaiting() {
+    const Faults faults = FindFaults();
+    ProblemReport report(m_options.directory);
+    for (const ConfigurationProblem& problem : faults.problems) {
+        std::fputs(wstring2String(report.Of(problem)).c_str(), stderr);
     }
+    std::fflush(stderr);
+    ShowInCaption(faults);
+    const std::wstring language = WantedLanguage();
+    if (m_waiting.areTexts && !faults.kept.areTexts && (language.empty() || CMultiLanguageMgr::SetLanguage(language))) {
+        m_waiting = {.isRibbon = true, .areMenus = true, .areToolBars = true};
+    }
+    Bars bars = m_waiting;
+    bars.Remove(faults.kept);
+    bars.areTexts = false;
+    m_waiting.Remove(bars);
+    if (bars.AreAny()) {
+        RebuildBars(bars);
+    }
+    return bars.AreAny();
+}
+
+void CPreviewFrame::RebuildBars(const Bars& bars) {
     std::set<std::wstring> forgotten;
     for (const auto& [isMeant, keywords] : {std::pair(bars.isRibbon, &m_ofRibbon), std::pair(bars.areMenus, &m_ofMenus),
                                             std::pair(bars.areToolBars, &m_ofToolBars)}) {
@@ -80,7 +111,6 @@ bool CPreviewFrame::RebuildBars(const Bars& bars) {
         RebuildToolBars();
     }
     RecalcLayout();
-    return true;
 }
 
 void CPreviewFrame::RebuildRibbon() {
@@ -122,23 +152,30 @@ void CPreviewFrame::RebuildToolBars() {
     BuildToolBars();
 }
 
-std::wstring CPreviewFrame::FindBroken(const Bars& bars) const {
-    for (const auto& [isMeant, files] :
-         {std::pair(bars.isRibbon, &m_options.ribbonFiles), std::pair(bars.areMenus, &m_options.menuFiles),
-          std::pair(bars.areToolBars, &m_options.toolBarFiles)}) {
-        for (const std::wstring& file : *files) {
-            if (const std::wstring problem = isMeant ? ProblemOf(m_options.directory, file) : std::wstring();
-                !problem.empty()) {
-                return problem;
-            }
+CPreviewFrame::Faults CPreviewFrame::FindFaults() const {
+    Faults faults;
+    const auto add = [&faults](const std::vector<ConfigurationProblem>& problems, bool& isKept) {
+        isKept = isKept || !problems.empty();
+        faults.problems.insert(faults.problems.end(), problems.begin(), problems.end());
+    };
+    const auto look = [&](const std::vector<std::wstring>& files, ConfiguredBars bars, bool& isKept) {
+        for (const std::wstring& file : files) {
+            add(FindLoadFaults(m_options.directory + file, bars), isKept);
         }
-    }
-    return {};
+    };
+    look(m_options.ribbonFiles, ConfiguredBars::Ribbon, faults.kept.isRibbon);
+    look(m_options.menuFiles, ConfiguredBars::Menu, faults.kept.areMenus);
+    look(m_options.toolBarFiles, ConfiguredBars::ToolBars, faults.kept.areToolBars);
+    add(FindLanguageFaults(WantedLanguage()), faults.kept.areTexts);
+    return faults;
 }
 
-void CPreviewFrame::ShowProblem(const std::wstring& problem) {
-    SetWindowText(problem.empty() ? m_options.directory.c_str() : (problem + L" - " + m_options.directory).c_str());
-    if (!problem.empty()) {
-        Complain(problem);
+void CPreviewFrame::ShowFaults() { ShowInCaption(FindFaults()); }
+
+void CPreviewFrame::ShowInCaption(const Faults& faults) {
+    std::wstring caption = m_options.directory;
+    if (!faults.problems.empty()) {
+        caption = ProblemReport(m_options.directory).InShort(faults.problems.front()) + L" - " + caption;
     }
+    SetWindowText(caption.c_str());
 }

@@ -12,6 +12,7 @@
 #include "tests/support/ui_test.h"
 
 #include <varnhold/file_op.h>
+#include <varnhold/language.h>
 
 #include <cstdlib>
 
@@ -120,10 +121,81 @@ TEST_F(RebuiltBars, ABrokenFileLeavesThemAndTheCaptionSaysWhatIsWrongUntilItIsMe
     m_directory.Write("cfg/ribbon.xml", "<ribbon>\n</row>");
     EXPECT_FALSE(m_frame->Rebuild({{L"cfg\\ribbon.xml"}}));
     EXPECT_EQ(Find<CMFCRibbonButton>(L"Open"), element);
-    EXPECT_EQ(Title().Left(17), L"cfg\\ribbon.xml:2:");
+    EXPECT_EQ(Title().Left(17), L"cfg/ribbon.xml:2:");
     m_directory.Write("cfg/ribbon.xml", kRibbon);
     EXPECT_TRUE(m_frame->Rebuild({{L"cfg\\ribbon.xml"}}));
     EXPECT_EQ(Title(), m_options.directory.c_str());
+}
+
+TEST_F(RebuiltBars, AShortcutThatNamesNoKeyIsABrokenFileAndTheMenusStay) {
+    m_directory.Write("cfg/menu.xml", "<menu><g><p KEYWORD='File' MENUNAME=''>\n"
+                                      "<i KEYWORD='Save' MENUNAME='' HOTKEY='Ctrl+'/></p></g></menu>");
+    EXPECT_FALSE(m_frame->Rebuild({{L"cfg\\menu.xml"}}));
+    EXPECT_EQ(m_frame->Sources().menus.front()->GetMenuItemCount(), 1u);
+    EXPECT_EQ(Title().Left(19), L"cfg/menu.xml:2:31: ");
+    m_directory.Write("cfg/menu.xml", kMenu);
+    EXPECT_TRUE(m_frame->Rebuild({{L"cfg\\menu.xml"}}));
+    EXPECT_EQ(Title(), m_options.directory.c_str());
+}
+
+TEST_F(RebuiltBars, AFileWithoutAnElementIsABrokenFile) {
+    const CMFCRibbonBaseElement* const element = Find<CMFCRibbonButton>(L"Open");
+    m_directory.Write("cfg/ribbon.xml", "<ribbon/>");
+    EXPECT_FALSE(m_frame->Rebuild({{L"cfg\\ribbon.xml"}}));
+    EXPECT_EQ(Find<CMFCRibbonButton>(L"Open"), element);
+    EXPECT_EQ(Title().Left(20), L"cfg/ribbon.xml:1:1: ");
+}
+
+TEST_F(RebuiltBars, OfTwoFilesThatChangeAtOnceTheGoodOneIsBuiltAndTheOtherWaits) {
+    std::string menu = kMenu;
+    menu.replace(menu.find("'Save'"), 6, "'Keep'");
+    m_directory.Write("cfg/menu.xml", menu);
+    m_directory.Write("cfg/ribbon.xml", "<ribbon>");
+    EXPECT_TRUE(m_frame->Rebuild({{L"cfg\\menu.xml", L"cfg\\ribbon.xml"}}));
+    EXPECT_FALSE(m_frame->IsWaiting(L"cfg\\menu.xml"));
+    EXPECT_TRUE(m_frame->IsWaiting(L"cfg\\ribbon.xml"));
+    int id = 0;
+    EXPECT_TRUE(CMenuIdMgr::Ins()->GetMenuId(L"Keep", id));
+    EXPECT_EQ(Title().Left(15), L"cfg/ribbon.xml:");
+}
+
+TEST_F(RebuiltBars, AGoodChangeOfAnotherFileLeavesTheCaptionThatSaysWhatIsBroken) {
+    m_directory.Write("cfg/ribbon.xml", "<ribbon>");
+    EXPECT_FALSE(m_frame->Rebuild({{L"cfg\\ribbon.xml"}}));
+    m_directory.Write("cfg/menu.xml", kMenu);
+    EXPECT_TRUE(m_frame->Rebuild({{L"cfg\\menu.xml"}}));
+    EXPECT_EQ(Title().Left(15), L"cfg/ribbon.xml:");
+    m_directory.Write("cfg/ribbon.xml", kRibbon);
+    EXPECT_TRUE(m_frame->Rebuild({{L"cfg\\ribbon.xml"}}));
+    EXPECT_EQ(Title(), m_options.directory.c_str());
+}
+
+TEST_F(RebuiltBars, TextsThatChangeWhileAFileIsBrokenAreThereWhenItIsMended) {
+    const auto write = [this](const std::string& text) {
+        m_directory.Write("lang/en/a.xlf",
+                          "<xliff version='2.0'><file id='RibbonBarCfg'>\n<unit id='Map'><segment><source>" + text +
+                              "</source></segment></unit></file></xliff>");
+    };
+    m_options.language = L"en";
+    write("First");
+    EXPECT_TRUE(m_frame->Rebuild({{L"lang\\en\\a.xlf"}}));
+    EXPECT_STREQ(Ribbon().GetCategory(0)->GetName(), L"First");
+    m_directory.Write("cfg/ribbon.xml", "<ribbon>");
+    EXPECT_FALSE(m_frame->Rebuild({{L"cfg\\ribbon.xml"}}));
+    write("Second");
+    EXPECT_TRUE(m_frame->Rebuild({{L"lang\\en\\a.xlf"}})); // menus and toolbars
+    EXPECT_STREQ(Ribbon().GetCategory(0)->GetName(), L"First");
+    // A broken table, at last, leaves its texts in force; the caption says so.
+    m_directory.Write("cfg/ribbon.xml", kRibbon);
+    m_directory.Write("lang/en/a.xlf", "<xliff version='2.0'>\n<file></xliff>");
+    EXPECT_TRUE(m_frame->Rebuild({{L"cfg\\ribbon.xml", L"lang\\en\\a.xlf"}}));
+    EXPECT_STREQ(Ribbon().GetCategory(0)->GetName(), L"Second");
+    EXPECT_EQ(Title().Left(19), L"lang/en/a.xlf:2:7: ");
+    write("Third");
+    EXPECT_TRUE(m_frame->Rebuild({{L"lang\\en\\a.xlf"}}));
+    EXPECT_STREQ(Ribbon().GetCategory(0)->GetName(), L"Third");
+    EXPECT_EQ(Title(), m_options.directory.c_str());
+    CMultiLanguageMgr::SetLanguage(L"");
 }
 
 SIZE_T WorkingSet() {
