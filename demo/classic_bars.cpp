@@ -1,6 +1,7 @@
 #include "classic_bars.h"
 
 #include "command_index.h"
+#include "configuration_problems.h"
 #include "configuration_watch.h"
 #include "layer_controls.h"
 #include "map_painter.h"
@@ -8,12 +9,16 @@
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "toolbar_combos.h"
+#include "viewer_text.h"
 
+#include "varnhold/file_op.h"
 #include "varnhold/language.h"
+#include "varnhold/message_box.h"
 #include "varnhold/strings.h"
 
 #include <algorithm>
 #include <memory>
+#include <stdexcept>
 #include <type_traits>
 
 namespace {
@@ -74,6 +79,26 @@ std::vector<ACCEL> Without(std::vector<ACCEL> shortcuts, const std::vector<ACCEL
     return shortcuts;
 }
 
+/// False, with an empty menu, when the file cannot be used, which the user was told. A file that is no XML is told by
+/// the load itself; a shortcut that names no key leaves it as an exception.
+bool LoadTelling(CDynMenuCreater& menu, const wchar_t* file, const CWnd& owner) {
+    try {
+        return menu.Load(file);
+    } catch (const std::out_of_range&) {
+        std::wstring path;
+        FileOp::GetAppPath(path);
+        path += file;
+        std::wstring lines;
+        for (const ConfigurationProblem& problem : FindLoadFaults(path, ConfiguredBars::Menu)) {
+            lines += L"\n" + problem.file + L':' + std::to_wstring(problem.line) + L':' +
+                     std::to_wstring(problem.column) + L": " + problem.text;
+        }
+        QKMessageBox(WithName(ViewerText("FilesBroken"), lines.empty() ? L"\n" + path : lines), QK_MESSAGE_WARNING,
+                     owner.GetSafeHwnd());
+        return false;
+    }
+}
+
 } // namespace
 
 bool ClassicBars::HasKeys(const ConfigurationChange& change) {
@@ -81,12 +106,16 @@ bool ClassicBars::HasKeys(const ConfigurationChange& change) {
 }
 
 void ClassicBars::TakeShortcuts() {
+    std::vector<ACCEL> before = ShortcutsOf(*m_frame);
     if (!m_shortcuts.empty()) {
         GiveShortcuts(*m_frame, Without(ShortcutsOf(*m_frame), m_shortcuts));
     }
     const std::vector<ACCEL> others = ShortcutsOf(*m_frame);
     CDynMenuCreater keys;
-    keys.Load(kKeysFile);
+    if (!LoadTelling(keys, kKeysFile, *m_frame)) {
+        GiveShortcuts(*m_frame, std::move(before)); // those that were taken before stay
+        return;
+    }
     keys.SetAppAccelTable();
     m_shortcuts = Without(ShortcutsOf(*m_frame), others);
 }
@@ -102,7 +131,7 @@ bool ClassicBars::Create(CFrameWndEx& frame) {
 }
 
 void ClassicBars::Build() {
-    m_menu.Load(kMenuFile);
+    LoadTelling(m_menu, kMenuFile, *m_frame);
     m_menuBar.SetRightHMenu(m_help.Build());
     m_menuBar.CreateFromMenu(m_menu.GetMenu()->GetSafeHmenu(), TRUE, TRUE);
     if (m_toolbars.empty() || m_areToolbarsStale) {

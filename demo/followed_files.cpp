@@ -33,6 +33,8 @@ void FollowedFiles::Begin() {
     m_hasBegun = true;
     if (!m_waiting.files.empty()) {
         Show(std::vector<std::wstring>(m_waiting.files)); // what has been shown waits no more
+    } else {
+        AreAllWhole();
     }
 }
 
@@ -43,14 +45,19 @@ void FollowedFiles::Take(const ConfigurationChange& change) {
     }
 }
 
-/// `files`: what is told.
-void FollowedFiles::Show(const std::vector<std::wstring>& files) {
+/// Says which are not.
+bool FollowedFiles::AreAllWhole() const {
     const std::vector<std::wstring> broken = FindBrokenFiles(CMultiLanguageMgr::GetLanguage());
     for (const std::wstring& line : broken) {
         PrintLine(stderr, line);
     }
     m_host.showProblem(broken.empty() ? std::wstring() : broken.front());
-    const bool isBuilt = broken.empty() && m_host.rebuild(m_waiting);
+    return broken.empty();
+}
+
+/// `files`: what is told.
+void FollowedFiles::Show(const std::vector<std::wstring>& files) {
+    const bool isBuilt = AreAllWhole() && m_host.rebuild(m_waiting);
     if (isBuilt) {
         m_waiting.files.clear();
     }

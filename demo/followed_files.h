@@ -21,12 +21,14 @@ public:
     /// Notices from here on what is changed, so that it belongs before the files are read. What was built or not is
     /// written to standard output, each file that is broken to standard error.
     explicit FollowedFiles(Host host);
-    /// The bars are there: what has been noticed so far is shown, and what comes at once.
+    /// The bars are there: what has been noticed so far is shown, or what was broken from the start is told; what comes
+    /// is shown at once.
     void Begin();
 
     bool IsFollowing() const { return m_watch.IsWatching(); }
 
 private:
+    bool AreAllWhole() const;
     void Take(const ConfigurationChange& change);
     void Show(const std::vector<std::wstring>& files);
 

@@ -11,6 +11,10 @@ import unittest
 from viewer import Viewer, copy_installation, edit_file
 
 BIN_DIR = ""
+# By the file: what stands there, and the same with a shortcut that names no key. A command of the menu has one only where it is
+# in no file before.
+KEYLESS = {"keys.xml": ('HOTKEY="Ctrl+I"', 'HOTKEY="Ctrl+"'),
+           "menu.xml": ("</menu>", '<item KEYWORD="Keyless" HOTKEY="Ctrl+"/></menu>')}
 
 
 class ChangedAtTheStart(Viewer):
@@ -19,6 +23,15 @@ class ChangedAtTheStart(Viewer):
     def begin(self):
         self.wait_for_message("Map viewer", windows=1)
         edit_file(self._bin, "cfg/ribbon.xml", 'KEYWORD="CatLayers" NAME="', 'KEYWORD="CatLayers" NAME=""')
+        self.key("Return")
+        super().begin()
+
+
+class ToldAtTheStart(Viewer):
+    """Meets a message about a file before the frame appears, and goes on."""
+
+    def begin(self):
+        self.wait_for_message("Map viewer", windows=1)
         self.key("Return")
         super().begin()
 
@@ -110,6 +123,36 @@ class Following(unittest.TestCase):
             self.assertEqual(len(viewer.record["toolbarsOnScreen"][1]), count)
             self.edit("cfg/menu.xml", "</men>", "</menu>")
             viewer.wait_for(lambda record: len(record["toolbarsOnScreen"][1]) == count - 1)
+
+    def test_a_shortcut_that_names_no_key_leaves_menu_and_keys_as_they_were(self):
+        with Viewer(self.folder, "--lang", "en", "--follow") as viewer:
+            def zoomed():
+                """Its key works; what is shown then."""
+                before = viewer.record["map"]["pixelsPerDegree"]
+                viewer.key("ctrl+i")
+                frame = viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > before)["frame"]
+                return frame["menu"], frame["accelerators"]
+            first = zoomed()
+            for name, (whole, keyless) in KEYLESS.items():
+                self.edit("cfg/" + name, whole, keyless)
+                viewer.wait_until(lambda: viewer.windows(f".*{name}:.*"), "the caption says what is broken")
+                self.assertRegex(viewer.errors(), name + r":\d+:\d+: nothing stands where the shortcut's key belongs")
+                self.assertEqual(zoomed(), first)
+                self.edit("cfg/" + name, keyless, whole)
+                viewer.wait_until(lambda: not viewer.windows(f".*{name}:.*"), "the caption is the viewer's again")
+                self.assertEqual(zoomed(), first)
+
+    def test_a_shortcut_that_names_no_key_is_told_at_the_start_and_the_viewer_goes_on(self):
+        shown = {"keys.xml": lambda frame: "I" in {chr(entry["key"]) for entry in frame["accelerators"]},
+                 "menu.xml": lambda frame: bool(frame["menu"])}
+        for name, (whole, keyless) in KEYLESS.items():
+            self.edit("cfg/" + name, whole, keyless)
+            with ToldAtTheStart(self.folder, "--lang", "en", "--follow") as viewer:
+                viewer.wait_until(lambda: viewer.windows(f".*{name}:.*"), "the caption says what is broken")
+                self.assertFalse(shown[name](viewer.record["frame"]))
+                self.edit("cfg/" + name, keyless, whole)
+                viewer.wait_for(lambda record: shown[name](record["frame"]))
+                viewer.wait_until(lambda: not viewer.windows(f".*{name}:.*"), "the caption is the viewer's again")
 
     def test_keys_are_as_their_file_is(self):
         with Viewer(self.folder, "--lang", "en", "--follow") as viewer:
