@@ -266,6 +266,16 @@ class Pictures(OwnInstallation):
         self.assertGreater(colours, 200)
 
 
+class BarviewUsage(unittest.TestCase):
+    def test_help_lists_every_option_and_itself(self):
+        result = run("barview.exe", "--help")
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        options = set(re.findall(r"--[a-z]+", result.stdout))
+        self.assertEqual(options, {"--help", "--ribbon", "--menu", "--toolbars", "--lang", "--skin", "--size", "--scale", "--category",
+                                   "--path", "--app", "--screenshot", "--dump", "--watch", "--changes", "--matrix", "--skins", "--langs",
+                                   "--scales", "--sizes", "--against", "--batch"})
+
+
 class DemoUsage(unittest.TestCase):
     def test_an_unknown_skin_is_refused(self):
         result = run("demo.exe", "--skin", "gold")

@@ -153,7 +153,7 @@ const char* BarcheckUsage() {
            "       barcheck DIR --model [--lang LANG]\n"
            "       barcheck --models LIST [--lang LANG]\n"
            "       barcheck --schema ribbon|menu|toolbar|table\n"
-           "       barcheck --guide | --attributes\n"
+           "       barcheck --guide | --attributes | --help\n"
            "Says what is wrong with the configuration of the installation directory DIR: its ribbon, menu and toolbar\n"
            "files, the translation tables below lang and the icons that the files name. It reads them as the library\n"
            "does. Without a FILE (relative to DIR) it takes cfg\\ribbon*.xml, cfg\\menu*.xml and cfg\\toolbar*.xml, "
@@ -176,5 +176,6 @@ const char* BarcheckUsage() {
            "  --schema  an XML schema for this kind of file, as in docs/schemas\n"
            "  --guide   what every code means, as in docs/diagnostics.md\n"
            "  --attributes  every attribute of the files, as in docs/attributes.md\n"
+           "  --help    this text; so does -h\n"
            "Exit code: 0 nothing but notes, 1 findings, or a table that was not written, 2 wrong usage.\n";
 }

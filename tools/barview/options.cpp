@@ -96,6 +96,7 @@ const wchar_t* BarviewUsage() {
            L"[--against "
            L"OTHER]\n"
            L"       barview --batch LIST [--lang LANG] [--skin black|silver] [--size WxH] [--scale PERCENT]\n"
+           L"       barview --help\n"
            L"Shows the bars that the configuration in the installation directory DIR builds. Without --ribbon, "
            L"--menu\n"
            L"or --toolbars it takes cfg\\ribbon*.xml, cfg\\menu*.xml or cfg\\toolbar*.xml in name order. With "
