@@ -62,7 +62,7 @@ fuzz: setup-fuzz
 
 install: setup
 	@[ -n "$(PREFIX)" ] || { echo "usage: make install PREFIX=FOLDER" >&2; exit 2; }
-	@scripts/build windows-release barwright barview package_files
+	@scripts/build windows-release barwright barview barcheck package_files
 	@cmake --install $(RELEASE) --prefix "$(PREFIX)" >build/install.log
 	@echo "installed in $(PREFIX); see $(PREFIX)/share/doc/barwright/README.md"
 

@@ -1,6 +1,6 @@
 # Installs the build TREE below BINARY, copies the examples out of the package, and configures and builds each there with
 # the package's own tool chain file: whatever one takes from the library's tree is an error. The small host is then clicked by
-# TESTS, and the viewer draws a picture of itself.
+# TESTS, and the viewer draws a picture of itself. The tools that come with the library run from where they were installed.
 cmake_minimum_required(VERSION 3.25)
 file(REMOVE_RECURSE ${BINARY})
 set(prefix ${BINARY}/prefix)
@@ -35,6 +35,9 @@ function(build_example folder flags)
 endfunction()
 
 run("the installation" ${CMAKE_COMMAND} --install ${TREE} --prefix ${prefix})
+# The tools for configurators, with the DLLs that lie beside them.
+run("the installed checker" ${WINE_RUN} --null ${prefix}/bin/barcheck.exe ${prefix}/share/barwright/examples/viewer --strict)
+run("the installed preview" ${WINE_RUN} --null ${prefix}/bin/barview.exe --help)
 run("the check of the guides' links" ${CMAKE_CURRENT_LIST_DIR}/../scripts/package-docs --check ${prefix})
 build_example(host -O2 example_host.exe cfg/ribbon.xml)
 build_example(viewer -O0 viewer.exe cfg/ribbon.xml lang/en lang/zh-CN lang/he data/coast.bin pic/skin/icon)
