@@ -59,6 +59,7 @@ class Viewer:
         self._folder = tempfile.TemporaryDirectory()
         self._record_file = os.path.join(self._folder.name, "record.json")
         self._read = None, None  # which state of the file was read, and what
+        self._frame_with_keys = None  # the window that had them last while no dialog was shown
         self._errors = open(os.path.join(self._folder.name, "errors.txt"), "w+", encoding="utf-8", errors="replace")
 
     def __enter__(self):
@@ -272,8 +273,17 @@ class Viewer:
         self.click(right - 5, (top + bottom) // 2)
 
     def _wait_for_keyboard(self):
-        """Between two windows, as when a message has gone, no one has the keys for a moment."""
-        self.wait_until(lambda: self._tell("getwindowfocus", "getwindowpid"), "a window has the keys", pause=0.02)
+        """Between two windows, as when a message has gone, no one has the keys for a moment. A dialog that is shown has them
+        a moment later: one that goes before it had them leaves Wine without any."""
+        def has_keys():
+            if not self._tell("getwindowfocus", "getwindowpid"):
+                return False
+            focus = self._tell("getwindowfocus")
+            is_dialog_shown = "dialog" in (self._read_record() or {})
+            if not is_dialog_shown:
+                self._frame_with_keys = focus
+            return not is_dialog_shown or focus != self._frame_with_keys
+        self.wait_until(has_keys, "a window has the keys", pause=0.02)
 
     def wait_for_message(self, *titles, windows=2):
         """Until so many windows are shown under one of the titles, and the uppermost of them has the keys: Wine takes a
