@@ -86,16 +86,40 @@ std::size_t BehindStartTag(std::string_view text, std::size_t at) {
 /// Takes the notes of both categories out of a unit, and what is empty without them.
 void RemoveOwnNotes(std::string& unit) {
     constexpr std::string_view noNotes = "<notes></notes>";
-    for (const std::string_view start : {kPlaceNote, kUnusedNote, noNotes}) {
-        const std::size_t note = unit.find(start);
-        const std::size_t end = start == noNotes ? note : unit.find(kNoteEnd, note);
-        if (note != std::string::npos && end != std::string::npos) {
-            unit.erase(note, end + (start == noNotes ? start.size() : kNoteEnd.size()) - note);
+    bool isAnyRemoved = false;
+    for (const std::string_view start : {kPlaceNote, kUnusedNote}) {
+        for (std::size_t note = unit.find(start); note != std::string::npos; note = unit.find(start, note)) {
+            const std::size_t end = unit.find(kNoteEnd, note);
+            if (end == std::string::npos) {
+                return;
+            }
+            unit.erase(note, end + kNoteEnd.size() - note);
+            isAnyRemoved = true;
         }
+    }
+    const std::size_t empty = unit.find(noNotes);
+    if (isAnyRemoved && empty != std::string::npos) {
+        unit.erase(empty, noNotes.size());
     }
 }
 
-void AddNote(std::string& unit, const std::string& note) {
+std::string PlaceNote(const std::wstring& text) {
+    return std::string(kPlaceNote) + EscapedMarkup(text) + std::string(kNoteEnd);
+}
+
+/// A note for each place; of many the first ones, and how many there are besides.
+std::string PlaceNotes(const AskedText& asked) {
+    std::string notes;
+    for (std::size_t i = 0; i < std::min(asked.places.size(), kMostPlaces); ++i) {
+        notes += PlaceNote(asked.places[i]);
+    }
+    if (asked.places.size() > kMostPlaces) {
+        notes += PlaceNote(L"and in " + std::to_wstring(asked.places.size() - kMostPlaces) + L" more places");
+    }
+    return notes;
+}
+
+void AddNotes(std::string& unit, const std::string& note) {
     constexpr std::string_view notes = "<notes>";
     const std::size_t inside = BehindStartTag(unit, 0);
     if (inside == std::string::npos) {
@@ -149,9 +173,8 @@ private:
 
 std::string NewUnit(const AskedText& asked, const std::wstring& source, const std::string& id) {
     const std::string key = wstring2String(asked.key);
-    return "    <unit id=\"" + id + "\" name=\"" + EscapedMarkup(key) + "\"><notes>" + std::string(kPlaceNote) +
-           EscapedMarkup(asked.note) + std::string(kNoteEnd) + "</notes><segment><source>" + EscapedMarkup(source) +
-           "</source></segment></unit>";
+    return "    <unit id=\"" + id + "\" name=\"" + EscapedMarkup(key) + "\"><notes>" + PlaceNotes(asked) +
+           "</notes><segment><source>" + EscapedMarkup(source) + "</source></segment></unit>";
 }
 
 /// As the table ends its lines.
@@ -225,9 +248,9 @@ private:
         std::string text = m_table.substr(m_copied, end - m_copied);
         RemoveOwnNotes(text);
         if (isAsked) {
-            AddNote(text, std::string(kPlaceNote) + EscapedMarkup(asked->second->note) + std::string(kNoteEnd));
+            AddNotes(text, PlaceNotes(*asked->second));
         } else if (!isUsed) {
-            AddNote(text, std::string(kUnusedNote) + "no file of the configuration uses it" + std::string(kNoteEnd));
+            AddNotes(text, std::string(kUnusedNote) + "no file of the configuration uses it" + std::string(kNoteEnd));
         }
         ++(isUsed ? m_counts.kept : m_counts.unused);
         m_out += text;
@@ -292,6 +315,41 @@ bool CompleteTable(std::string& table, const TableCompletion& completion, Comple
     }
     table = std::move(completed);
     return true;
+}
+
+std::vector<std::wstring> CommandKeysOf(const std::string& table) {
+    std::vector<std::wstring> keys;
+    UnitList list;
+    if (!ReadUnits(table, list)) {
+        return keys;
+    }
+    for (UnitList::Unit& unit : list.units) {
+        if (unit.section == kRibbonSection) {
+            keys.push_back(std::move(unit.key));
+        }
+    }
+    return keys;
+}
+
+std::vector<std::size_t> TablesForTexts(std::span<const AskedText> asked,
+                                        std::span<const std::vector<std::wstring>> keys) {
+    std::map<std::wstring, std::size_t> tableOf;
+    for (std::size_t table = 0; table < keys.size(); ++table) {
+        for (const std::wstring& key : keys[table]) {
+            tableOf.emplace(key, table);
+        }
+    }
+    const auto known = [&tableOf](const AskedText& text) { return tableOf.find(text.key); };
+    const auto first = std::ranges::find_if(asked, [&](const AskedText& text) { return known(text) != tableOf.end(); });
+    std::size_t near = first == asked.end() ? 0 : known(*first)->second;
+    std::vector<std::size_t> tables;
+    tables.reserve(asked.size());
+    for (const AskedText& text : asked) {
+        const auto own = known(text);
+        near = own == tableOf.end() ? near : own->second;
+        tables.push_back(near);
+    }
+    return tables;
 }
 
 std::string EmptyTable(const std::wstring& sourceLanguage, const std::wstring& language) {

@@ -8,6 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace {
 
@@ -42,8 +45,18 @@ TEST_F(Extracting, ANewTableHasAllTextsWithTheirPlacesAndTheEnglishSources) {
                    "PanelFile, small button: one line</note></notes><segment><source>Save</source></segment></unit>"),
         std::string::npos)
         << table;
-    EXPECT_NE(table.find("menu MenuFile, item; its tooltip"), std::string::npos);
-    EXPECT_NE(table.find("field: 130 pixels at 100 %; its tooltip"), std::string::npos);
+    for (const char* const note :
+         {"cfg/ribbon.xml, tab: one line, cut where all tabs have no room in the window",
+          "tab CatMap, caption of a panel: one line below it", "tab CatMap, panel PanelFile, large button: two lines",
+          "panel PanelZoom, item of a button or group: one line", "panel PanelZoom, label: one line",
+          "panel PanelZoom, field: 90 pixels at 100 %", "panel PanelZoom, field; its tooltip: broken into lines",
+          "panel PanelZoom, combo: one line in front of its list", "panel PanelZoom, slider; its tooltip",
+          "status bar, slider: not drawn, but read out", "status bar, button; its tooltip",
+          "status bar, label: one line; left out where the bar has no room", "cfg/menu.xml, menu bar, popup: one line",
+          "menu MenuFile, popup: one line", "menu MenuFile, item: one line, with the shortcut behind it",
+          "menu MenuFile, item; its tooltip: broken into lines"}) {
+        EXPECT_NE(table.find(note), std::string::npos) << note;
+    }
     for (const Diagnostic& finding : m_installation.Check()) {
         EXPECT_EQ(finding.code, "untranslated-text");
     }
@@ -57,6 +70,100 @@ TEST_F(Extracting, WhatIsTranslatedStaysAndASecondRunChangesNothing) {
     Extract(L"de");
     EXPECT_EQ(Read("lang/de/a.xlf"), once);
     EXPECT_EQ(m_installation.Findings(), "");
+}
+
+TEST_F(Extracting, ATextThatStandsInManyPlacesHasANoteForEach) {
+    WriteSample(m_installation);
+    Extract(L"fr");
+    EXPECT_TRUE(Has("lang/fr/commands.xlf",
+                    "name=\"Open\"><notes><note category=\"place\">cfg/ribbon.xml, tab CatMap, panel PanelFile, large "
+                    "button: two lines</note><note category=\"place\">cfg/menu.xml, menu MenuFile, item: one "
+                    "line</note></notes>"))
+        << Read("lang/fr/commands.xlf");
+    const std::string once = Read("lang/fr/commands.xlf");
+    Extract(L"fr");
+    EXPECT_EQ(Read("lang/fr/commands.xlf"), once);
+}
+
+TEST_F(Extracting, OfManyPlacesTheFirstAreNotedAndTheOthersCounted) {
+    std::string panels;
+    for (const char name : std::string("ABCDEFGHIJK")) {
+        panels += "<p KEYWORD=\"" + std::string(1, name) + "\"><i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>" +
+                  "<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/></p>";
+    }
+    m_installation.Write("cfg/ribbon.xml", "<r><r><c KEYWORD=\"Map\" NAME=\"\">" + panels + "</c></r></r>");
+    m_installation.WriteTable("en", "<unit id=\"In\"><segment><source>In</source></segment></unit>");
+    Extract(L"en");
+    EXPECT_TRUE(Has("lang/en/a.xlf", "panel H, large button: two lines</note><note category=\"place\">and in 3 more "
+                                     "places</note></notes>"));
+    EXPECT_FALSE(Has("lang/en/a.xlf", "panel I"));
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    Extract(L"en");
+    EXPECT_FALSE(Has("lang/en/a.xlf", "panel A"));
+    EXPECT_FALSE(Has("lang/en/a.xlf", "more places"));
+}
+
+TEST_F(Extracting, OfSeveralTablesEachIsCompletedAndANewTextGoesWhereTheOneBeforeItStands) {
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"
+                                                      "<i KEYWORD=\"New1\" NAME=\"\" TYPE=\"BUTTON\"/>"
+                                                      "<i KEYWORD=\"Out\" NAME=\"\" TYPE=\"BUTTON\"/>"
+                                                      "<i KEYWORD=\"New2\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    const auto table = [](const std::string& units) {
+        return "\xEF\xBB\xBF<xliff version=\"2.0\" srcLang=\"en\" trgLang=\"de\">\n<file id=\"RibbonBarCfg\">\n" +
+               units +
+               "</file>\n<file id=\"Common\"><unit id=\"c\"><segment><source>c</source></segment></unit>"
+               "</file>\n</xliff>\n";
+    };
+    const auto unit = [](const std::string& key) {
+        return "<unit id=\"" + key + "\"><notes><note>mine</note></notes><segment><source>" + key +
+               "</source><target>de " + key + "</target></segment></unit>\n";
+    };
+    m_installation.Write("lang/de/a.xlf", table(unit("Out") + unit("Old")));
+    m_installation.Write("lang/de/b.xlf", table(unit("In")));
+    m_installation.Write("lang/de/c.xlf", "<xliff version=\"2.0\" srcLang=\"en\"><file id=\"Common\"/></xliff>");
+    const std::string untouched = Read("lang/de/c.xlf");
+    EXPECT_EQ(Extract(L"de"), "lang/de/a.xlf: 1 new, 1 kept, 1 unused\nlang/de/b.xlf: 2 new, 1 kept, 0 unused");
+    const std::string place = "<notes><note category=\"place\">cfg/ribbon.xml, tab Map, panel Views";
+    EXPECT_TRUE(Has("lang/de/a.xlf", "<unit id=\"Out\">" + place));
+    EXPECT_TRUE(Has("lang/de/a.xlf", "<unit id=\"Old\"><notes><note category=\"unused\">"));
+    EXPECT_TRUE(Has("lang/de/a.xlf", "name=\"New2\">" + place));
+    EXPECT_TRUE(Has("lang/de/b.xlf", "<unit id=\"In\">" + place));
+    EXPECT_TRUE(Has("lang/de/b.xlf", "name=\"New1\">" + place));
+    EXPECT_TRUE(Has("lang/de/b.xlf", "name=\"Map\">")); // none is asked for before it
+    for (const char* const kept : {"<target>de Out</target>", "<target>de Old</target>", "<note>mine</note>",
+                                   "<unit id=\"c\"><segment><source>c</source>"}) {
+        EXPECT_TRUE(Has("lang/de/a.xlf", kept)) << kept;
+    }
+    EXPECT_EQ(Read("lang/de/c.xlf"), untouched);
+    const std::string once = Read("lang/de/a.xlf") + Read("lang/de/b.xlf");
+    Extract(L"de");
+    EXPECT_EQ(Read("lang/de/a.xlf") + Read("lang/de/b.xlf"), once);
+}
+
+TEST_F(Extracting, ATableOfCommandsInAnotherEncodingStopsItBeforeAnythingIsWritten) {
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    m_installation.Write("lang/en/a.xlf",
+                         "<xliff version=\"2.0\" srcLang=\"en\"><file id=\"RibbonBarCfg\"><unit id=\"In\">"
+                         "<segment><source>In</source></segment></unit></file></xliff>");
+    m_installation.Write("lang/en/b.xlf",
+                         "<?xml version='1.0' encoding='GBK'?><xliff version='2.0' srcLang='en'><file "
+                         "id='RibbonBarCfg'><unit id='Map'><segment><source>\xB5\xD8</source></segment></unit>"
+                         "</file></xliff>");
+    EXPECT_EQ(Extract(L"en"), "not: lang/en/b.xlf is not in UTF-8: save it so first");
+    EXPECT_FALSE(Has("lang/en/a.xlf", "note"));
+}
+
+TEST_F(Extracting, AByteOrderMarkStaysAndNothingElseLiesBesideTheTable) {
+    m_installation.Write("cfg/ribbon.xml", RibbonWith("<i KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"));
+    m_installation.Write("lang/en/a.xlf",
+                         "\xEF\xBB\xBF<xliff version=\"2.0\" srcLang=\"en\"><file id=\"RibbonBarCfg\"><unit "
+                         "id=\"In\"><segment><source>In</source></segment></unit></file></xliff>");
+    EXPECT_EQ(Extract(L"en"), "lang/en/a.xlf: 1 new, 1 kept, 0 unused");
+    std::ifstream stream(m_installation.Directory().Path() / "lang/en/a.xlf", std::ios::binary);
+    std::string start(3, ' ');
+    stream.read(start.data(), 3);
+    EXPECT_EQ(start, "\xEF\xBB\xBF");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(m_installation.Directory().Path() / "lang/en"), {}), 1);
 }
 
 TEST_F(Extracting, WhatNoFileUsesIsMarkedUntilOneDoes) {
@@ -140,7 +247,7 @@ TEST_F(Extracting, NothingIsWrittenWhereACommentLooksLikeTheSection) {
     std::string table = "<xliff version=\"2.0\" srcLang=\"en\"><!-- <file id=\"RibbonBarCfg\"> </file> --></xliff>";
     const std::string before = table;
     TableCompletion completion;
-    completion.asked = {{L"In", L"cfg/ribbon.xml"}};
+    completion.asked = {{L"In", {L"cfg/ribbon.xml"}}};
     CompletionCounts counts;
     EXPECT_FALSE(CompleteTable(table, completion, counts));
     EXPECT_EQ(table, before);
@@ -151,7 +258,7 @@ TEST_F(Extracting, NothingIsWrittenWhereTheDocumentElementHasNoEndTagOfItsOwn) {
                                      "<xliff version=\"2.0\" srcLang=\"en\"><file id=\"Other\"/></xliff >"}) {
         std::string table = before;
         TableCompletion completion;
-        completion.asked = {{L"In", L"cfg/ribbon.xml"}};
+        completion.asked = {{L"In", {L"cfg/ribbon.xml"}}};
         CompletionCounts counts;
         EXPECT_FALSE(CompleteTable(table, completion, counts));
         EXPECT_EQ(table, before);

@@ -130,7 +130,10 @@ TEST_F(ShortcutFile, PlacesOfTextsAreThoseWhereTheyShow) {
     for (const AskedText& asked : CollectAskedTexts(sink.Elements(), m_installation.Directory().Prefix())) {
         if (asked.key == L"Measure") {
             isFound = true;
-            EXPECT_TRUE(asked.note.starts_with(L"cfg/ribbon.xml")) << wstring2String(asked.note);
+            for (const std::wstring& place : asked.places) {
+                EXPECT_TRUE(place.starts_with(L"cfg/ribbon.xml")) << wstring2String(place);
+            }
+            EXPECT_FALSE(asked.places.empty());
         }
     }
     EXPECT_TRUE(isFound);
