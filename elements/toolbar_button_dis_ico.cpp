@@ -60,16 +60,18 @@ HICON CMFCToolBarButtonDisIco::GetDisabledIcon(UINT id) {
 void CMFCToolBarButtonDisIco::OnDraw(CDC* dc, const CRect& rect, CMFCToolBarImages* images, BOOL horizontal,
                                      BOOL customizeMode, BOOL highlighted, BOOL drawBorder, BOOL grayDisabledButtons) {
     const HICON icon = (m_nStyle & TBBS_DISABLED) != 0 && images && IsDrawImage() ? GetDisabledIcon(m_nID) : nullptr;
-    CMFCToolBarImages disabled;
-    disabled.SetImageSize(images ? images->GetImageSize(TRUE) : SIZE{});
-    CAfxDrawState state;
-    if (!icon || disabled.AddIcon(icon, TRUE) < 0 || !disabled.PrepareDrawImage(state, disabled.GetImageSize())) {
-        CMFCToolBarButton::OnDraw(dc, rect, images, horizontal, customizeMode, highlighted, drawBorder,
-                                  grayDisabledButtons);
-        return;
+    if (icon) {
+        CMFCToolBarImages disabled;
+        disabled.SetImageSize(images->GetImageSize(TRUE));
+        CAfxDrawState state;
+        if (disabled.AddIcon(icon, TRUE) >= 0 && disabled.PrepareDrawImage(state, disabled.GetImageSize())) {
+            Look look(*this);
+            look.OnCalculateSize(dc, rect.Size(), horizontal); // measures the text
+            look.OnDraw(dc, rect, &disabled, horizontal, customizeMode, FALSE, drawBorder, TRUE);
+            disabled.EndDrawImage(state);
+            return;
+        }
     }
-    Look look(*this);
-    look.OnCalculateSize(dc, rect.Size(), horizontal); // measures the text
-    look.OnDraw(dc, rect, &disabled, horizontal, customizeMode, FALSE, drawBorder, TRUE);
-    disabled.EndDrawImage(state);
+    CMFCToolBarButton::OnDraw(dc, rect, images, horizontal, customizeMode, highlighted, drawBorder,
+                              grayDisabledButtons);
 }
