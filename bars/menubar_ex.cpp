@@ -26,14 +26,22 @@ CMFCToolBarButton* ButtonOf(const CMFCMenuBar& bar, const void* special) {
     return nullptr;
 }
 
-/// Moves the buttons of a maximised child, which lie at the bar's right edge, to the left.
-void MoveChildsButtons(const CMFCMenuBar& bar, int distance) {
+/// The buttons of a maximised child, which lie at the bar's right edge.
+std::vector<CMFCToolBarButton*> ChildsButtons(const CMFCMenuBar& bar) {
+    std::vector<CMFCToolBarButton*> buttons;
     for (int i = 0; i < bar.GetSystemButtonsCount(); ++i) {
         if (CMFCToolBarButton* const button = ButtonOf(bar, bar.GetSystemButton(static_cast<UINT>(i), FALSE))) {
-            CRect place = button->Rect();
-            place.OffsetRect(-distance, 0);
-            button->SetRect(place);
+            buttons.push_back(button);
         }
+    }
+    return buttons;
+}
+
+void MoveToTheLeft(const std::vector<CMFCToolBarButton*>& buttons, int distance) {
+    for (CMFCToolBarButton* const button : buttons) {
+        CRect place = button->Rect();
+        place.OffsetRect(-distance, 0);
+        button->SetRect(place);
     }
 }
 
@@ -45,16 +53,14 @@ void Keep(std::unique_ptr<CMenu> menu) {
 
 /// Moves the field in which help is asked for out of the way of what lies at the right edge: that button, and those of
 /// a maximised child.
-void MakeRoom(CMFCMenuBar& bar, const CRect& rightButton) {
+void MakeRoom(CMFCMenuBar& bar, const CRect& rightButton, const std::vector<CMFCToolBarButton*>& childsButtons) {
     CMFCToolBarComboBoxButton* const help = bar.GetHelpCombobox();
     if (help == nullptr) {
         return;
     }
     CRect end = rightButton;
-    for (int i = 0; i < bar.GetSystemButtonsCount(); ++i) {
-        if (const CMFCToolBarButton* const button = ButtonOf(bar, bar.GetSystemButton(static_cast<UINT>(i), FALSE))) {
-            end.left = std::min(end.left, button->Rect().left);
-        }
+    for (const CMFCToolBarButton* const button : childsButtons) {
+        end.left = std::min(end.left, button->Rect().left);
     }
     CRect place = help->Rect();
     CRect shared;
@@ -147,9 +153,10 @@ void CMfcMenubarEx::AdjustLocations() {
     place.OffsetRect(client.right - place.right, 0);
     button->SetRect(place);
     if (IsHorizontal()) {
-        MoveChildsButtons(*this, place.Width());
+        const std::vector<CMFCToolBarButton*> childsButtons = ChildsButtons(*this);
+        MoveToTheLeft(childsButtons, place.Width());
         if (GetHelpCombobox() != button) {
-            MakeRoom(*this, place);
+            MakeRoom(*this, place, childsButtons);
         }
     }
 }
