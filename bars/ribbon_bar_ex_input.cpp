@@ -4,6 +4,8 @@
 #include "menu_id_mgr.h"
 #include "ribbon_category_ex.h"
 
+#include "commands/sent_commands.h"
+
 #include <afxcontextmenumanager.h>
 #include <afxribbonpanelmenu.h>
 #include <afxtooltipctrl.h>
@@ -21,11 +23,9 @@ constexpr int kContextMenuShown = -11;
 constexpr UINT kCustomizeText = 17096;
 constexpr wchar_t kChangeSkinText[] = L"更改皮肤";
 
-/// Posts a command without notification code and control. WM_COMMAND has 16 bits for it: a larger id would arrive as
-/// another command, so that it is not sent.
+/// Posts a command, where it can be sent, without notification code and control.
 void PostCommand(HWND receiver, UINT id) {
-    constexpr UINT kLargestSent = 0xFFFF;
-    if (id <= kLargestSent) {
+    if (CanBeSent(id)) {
         ::PostMessageW(receiver, WM_COMMAND, MAKEWPARAM(id, 0), 0);
     }
 }

@@ -1,5 +1,7 @@
 #include "combos/window_combo_parts.h"
 
+#include "commands/sent_commands.h"
+
 #include <afxtoolbar.h>
 #include <afxtoolbarcomboboxbutton.h>
 #include <afxwin.h>
@@ -104,10 +106,9 @@ HWND HostOf(const CComboBox& combo) {
 
 void TellParent(const CComboBox& combo, UINT code) {
     const HWND parent = ::GetParent(combo.m_hWnd);
-    constexpr int kLargestSent = 0xFFFF; // a larger id would arrive as another command
-    if (parent && combo.GetDlgCtrlID() <= kLargestSent) {
-        ::SendMessageW(parent, WM_COMMAND, MAKEWPARAM(combo.GetDlgCtrlID(), code),
-                       reinterpret_cast<LPARAM>(combo.m_hWnd));
+    const auto id = static_cast<UINT>(combo.GetDlgCtrlID());
+    if (parent && CanBeSent(id)) {
+        ::SendMessageW(parent, WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(combo.m_hWnd));
     }
 }
 
