@@ -135,7 +135,7 @@ std::unique_ptr<CMFCDropDownListBox> MakeMarkedList(CMFCRibbonComboBox& combo, c
 int RowWidthOf(const CMFCRibbonComboBox& combo, CDC& dc, int index, int marksWidth);
 
 /// Draws the element, and the item's row in its open list, after its mark has changed, and tells assistive programs.
-/// False: the element does not speak of that item now.
+/// Index -1: the marks of all items. False: the element does not speak of that item now.
 bool ShowMarkChange(CMFCRibbonComboBox& combo, int index);
 /// A word as people read it.
 CString Displayed(const wchar_t* word);

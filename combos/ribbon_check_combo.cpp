@@ -47,10 +47,7 @@ struct CMFCRibbonCheckComb::State : MarkedComboState<CMFCRibbonCheckComb, State,
     }
     /// The same for the checks of all items.
     static void ShowChangeOfAll(CMFCRibbonCheckComb& combo) {
-        combo.Redraw();
-        // The element speaks of one of them.
-        for (int index = 0; index < CountOf(combo) && !ShowMarkChange(combo, index); ++index) {
-        }
+        ShowMarkChange(combo, -1);
         RedrawCopies(combo);
     }
     static void RedrawCopies(CMFCRibbonCheckComb& combo) {

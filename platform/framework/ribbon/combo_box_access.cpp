@@ -23,8 +23,14 @@ bool AddMarks(const CMFCRibbonComboBox& combo, int index, CAccessibilityData& da
 } // namespace
 
 bool fx::ShowItemMark(CMFCRibbonComboBox& combo, int index, bool isChanged) {
-    combo.RedrawItem(index);
-    if (!isChanged || index < 0 || index != combo.GetACCCurrentRow()) {
+    const bool isOfAll = index < 0;
+    if (isOfAll) {
+        combo.Redraw();
+    } else {
+        combo.RedrawItem(index);
+    }
+    const int heard = combo.GetACCCurrentRow();
+    if (!isChanged || heard < 0 || (!isOfAll && index != heard)) {
         return false;
     }
     combo.NotifyAccessibility(EVENT_OBJECT_STATECHANGE);

@@ -24,8 +24,8 @@ protected:
 
 namespace fx {
 
-/// Draws the face and the item's row in the open list. Of a changed mark assistive programs hear where the element
-/// speaks of the item now; false: they were told nothing.
+/// Draws the face and the item's row in the open list, of index -1 the rows of all items. Of a changed mark assistive
+/// programs hear where the element speaks of the item now; false: they were told nothing.
 FRAMEWORK_API bool ShowItemMark(CMFCRibbonComboBox& combo, int index, bool isChanged = true);
 
 } // namespace fx
