@@ -21,8 +21,7 @@ constexpr DiagnosticCode kCodes[] = {
     {"xml-encoding", Error,
      "The file's encoding is not known, is not the one it names, or the file holds bytes that it does not have.",
      "A file of unknown encoding is not loaded. Where a byte-order mark stands it counts, whatever the first line "
-     "says. "
-     "Bytes that the encoding does not have are read as U+FFFD.",
+     "says. Bytes that the encoding does not have are read as U+FFFD.",
      "Save the file as UTF-8 and let its first line say so.", Panel,
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"\xFF\"/>",
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\" CMD=\"zoom\"/>"},
@@ -47,8 +46,7 @@ constexpr DiagnosticCode kCodes[] = {
     {"missing-file", Error,
      "A file that was named, or that the others show to be needed, is not there, or its name ends in .xml.txt: the "
      "ribbon file, where status-bar buttons lead nowhere or many texts have no element; one that lies there under "
-     "nearly "
-     "its name; the folder lang with the tables.",
+     "nearly its name; the folder lang with the tables.",
      "The library shows a message box that asks whether the file exists, or builds no toolbars. Without tables every "
      "text shows as its keyword.",
      "Put the file there or mend the name.", Files, "cfg\\menu.xml\ncfg\\ribon.xml", "cfg\\menu.xml\ncfg\\ribbon.xml"},
@@ -58,8 +56,7 @@ constexpr DiagnosticCode kCodes[] = {
 
     {kWrongKind, Error, "A ribbon, menu or toolbar file has the name, or stands in the place, of one of another kind.",
      "It is read as what it is not: hardly anything is built from it. Nothing else is said of it, and what refers to "
-     "the "
-     "file that should be there is not spoken of.",
+     "the file that should be there is not spoken of.",
      "Put the right file there. The names of the files begin with ribbon, menu and toolbar.", RibbonFile,
      "<menu>\n  <group>\n    <popup KEYWORD=\"Edit\" MENUNAME=\"\"><item KEYWORD=\"Undo\" MENUNAME=\"\" "
      "HOTKEY=\"Ctrl+Z\"/></popup>\n  </group>\n</menu>",
@@ -118,8 +115,7 @@ constexpr DiagnosticCode kCodes[] = {
      "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"missing-caption", Warning,
      "Nothing asks for the text that shows the element: a category, a label, a button without an icon, also of the "
-     "status "
-     "bar, a popup or an item of a menu without NAME (MENUNAME), a toolbar without PROMPT.",
+     "status bar, a popup or an item of a menu without NAME (MENUNAME), a toolbar without PROMPT.",
      "It is there, but shows nothing.", "Add NAME=\"\" (MENUNAME=\"\" in a menu), or the PROMPT of the toolbar.", Panel,
      "<item KEYWORD=\"In\" TYPE=\"BUTTON\"/>", "<item KEYWORD=\"In\" NAME=\"\" TYPE=\"BUTTON\"/>"},
     {"children-lost", Warning,
@@ -200,8 +196,7 @@ constexpr DiagnosticCode kCodes[] = {
      "TYPE=\"BUTTON\"/></panel></category></row>\n</ribbon>"},
     {"similar-keyword", Warning,
      "A button of a toolbar has a keyword that no ribbon or menu file has, but nearly that of the command with the "
-     "same "
-     "icon.",
+     "same icon.",
      "It is a command of its own, without CMD: only a program that knows the keyword does something.",
      "Write the keyword as the command has it.", Twin,
      "<item TYPE=\"button\" KEYWORD=\"Opne\" PROMPT=\"Open\" PICPATH=\"pic\\example.ico\"/>",
@@ -287,8 +282,7 @@ constexpr DiagnosticCode kCodes[] = {
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>"},
     {"long-text", Warning,
      "A text is wider at 100 % than the field that shows it, or than a window of 1,280 pixels. Widths are estimated, "
-     "and "
-     "only what is clearly wider is said.",
+     "and only what is clearly wider is said.",
      "It is cut off, or its panel shows as a button alone.", "Shorten the text, or give the edit a larger WIDTH.",
      Field,
      "<unit id=\"a\" name=\"In\"><segment><source>In</source></segment></unit>\n<unit id=\"b\" "
