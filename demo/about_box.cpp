@@ -2,6 +2,7 @@
 
 #include "barwright_version.h"
 #include "resource.h"
+#include "scaled.h"
 #include "viewer_text.h"
 
 #include <afxglobals.h>
@@ -28,8 +29,6 @@ constexpr int kIconSide = 48;
 constexpr int kTextWidth = 320;
 constexpr int kLeastButton = 80;
 constexpr UINT kFirstLink = 200;
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 std::wstring TextOf(const CWnd& control) {
     CString text;

@@ -1,8 +1,7 @@
 #include "caption_window.h"
 
+#include "scaled.h"
 #include "soft_canvas.h"
-
-#include <afxglobals.h>
 
 #include <algorithm>
 #include <array>
@@ -24,8 +23,6 @@ constexpr double kHot = 0.12; // of the text's colour over the ground
 constexpr double kPressed = 0.22;
 constexpr COLORREF kCloseHot = RGB(196, 43, 28); // with white on it, in both skins
 constexpr COLORREF kOnCloseHot = RGB(255, 255, 255);
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 FrameMeasures MeasuresFor(DWORD style) {
     const bool isSizable = (style & WS_THICKFRAME) != 0;

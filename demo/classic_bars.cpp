@@ -1,6 +1,7 @@
 #include "classic_bars.h"
 
 #include "command_index.h"
+#include "configuration_files.h"
 #include "configuration_problems.h"
 #include "configuration_watch.h"
 #include "layer_controls.h"
@@ -90,8 +91,7 @@ bool LoadTelling(CDynMenuCreater& menu, const wchar_t* file, const CWnd& owner) 
         path += file;
         std::wstring lines;
         for (const ConfigurationProblem& problem : FindLoadFaults(path, ConfiguredBars::Menu)) {
-            lines += L"\n" + problem.file + L':' + std::to_wstring(problem.line) + L':' +
-                     std::to_wstring(problem.column) + L": " + problem.text;
+            lines += L"\n" + PlaceAndText(problem);
         }
         QKMessageBox(WithName(ViewerText("FilesBroken"), lines.empty() ? L"\n" + path : lines), QK_MESSAGE_WARNING,
                      owner.GetSafeHwnd());

@@ -42,12 +42,16 @@ bool Check(const std::wstring& path, std::vector<std::wstring>& broken) {
 /// A menu with a shortcut that names no key is well-formed, and cannot be loaded.
 void CheckBars(const std::wstring& path, ConfiguredBars bars, std::vector<std::wstring>& broken) {
     for (const ConfigurationProblem& problem : FindLoadFaults(path, bars)) {
-        broken.push_back(problem.file + L':' + std::to_wstring(problem.line) + L':' + std::to_wstring(problem.column) +
-                         L": " + problem.text);
+        broken.push_back(PlaceAndText(problem));
     }
 }
 
 } // namespace
+
+std::wstring PlaceAndText(const ConfigurationProblem& problem) {
+    return problem.file + L':' + std::to_wstring(problem.line) + L':' + std::to_wstring(problem.column) + L": " +
+           problem.text;
+}
 
 std::vector<std::wstring> FindBrokenFiles(const std::wstring& language) {
     std::wstring folder;

@@ -1,8 +1,7 @@
 #include "dialog_list.h"
 
+#include "scaled.h"
 #include "soft_canvas.h"
-
-#include <afxglobals.h>
 
 #include <algorithm>
 #include <array>
@@ -22,8 +21,6 @@ constexpr double kField = 0.06; // of the text's colour over the ground
 // After these the system paints a part of the face by itself.
 constexpr std::array<UINT, 9> kPaintedAfter = {WM_SETFOCUS, WM_KILLFOCUS, WM_LBUTTONDOWN,    WM_LBUTTONUP, WM_KEYDOWN,
                                                WM_ENABLE,   CB_SETCURSEL, WM_CAPTURECHANGED, WM_COMMAND};
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 std::wstring ChosenText(const CComboBox& list) {
     const int chosen = list.GetCurSel();

@@ -1,5 +1,6 @@
 #include "dialog_window.h"
 
+#include "scaled.h"
 #include "soft_canvas.h"
 
 #include <afxglobals.h>
@@ -23,8 +24,6 @@ constexpr double kPressedPlate = 0.25;
 constexpr double kDefaultPlate = 0.3;
 constexpr double kMarkedItem = 0.16;
 constexpr double kEdge = 0.45;
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 struct IconDestroyer {
     void operator()(HICON icon) const { ::DestroyIcon(icon); }

@@ -1,9 +1,8 @@
 #include "layer_list.h"
 
 #include "map_painter.h"
+#include "scaled.h"
 #include "soft_canvas.h"
-
-#include <afxglobals.h>
 
 #include <algorithm>
 
@@ -21,8 +20,6 @@ constexpr int kWheelRows = 3;
 constexpr double kHotStrength = 0.08; // of the text's colour over the ground
 constexpr double kMarkStrength = 0.22;
 constexpr UINT kBarId = 1;
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 COLORREF ToColorRef(std::uint32_t rgb) { return RGB(rgb >> 16 & 0xFF, rgb >> 8 & 0xFF, rgb & 0xFF); }
 

@@ -1,5 +1,6 @@
 #include "message_window.h"
 
+#include "scaled.h"
 #include "soft_canvas.h"
 #include "viewer_text.h"
 
@@ -15,8 +16,6 @@ constexpr int kGap = 8;
 constexpr int kIconSide = 32;
 constexpr int kWidestText = 420;
 constexpr int kLeastButton = 80;
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 struct Button {
     UINT id;

@@ -1,5 +1,6 @@
 #include "options_dialog.h"
 
+#include "scaled.h"
 #include "viewer_text.h"
 
 #include "varnhold/language.h"
@@ -19,8 +20,6 @@ constexpr int kLeastButton = 80;
 
 constexpr UINT kFirstList = 100;
 constexpr char kNote[] = "OptionsAtNextStart";
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 /// A line of a list: the value as the options have it, and its text. Those of the bars are known to their files.
 struct Line {

@@ -1,5 +1,6 @@
 #include "print_preview.h"
 
+#include "scaled.h"
 #include "viewer_text.h"
 
 #include <afxglobals.h>
@@ -56,8 +57,6 @@ constexpr std::array<KeyRow, 9> kKeys = {{{VK_PRIOR, IdPrevious},
                                           {'0', IdWhole},
                                           {VK_NUMPAD0, IdWhole},
                                           {'P', IdPrint}}};
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 COLORREF Darker(COLORREF color) {
     constexpr int percent = 70;

@@ -1,6 +1,7 @@
 #include "search_field.h"
 
 #include "library_context.h"
+#include "scaled.h"
 #include "soft_canvas.h"
 
 #include <afxglobals.h>
@@ -24,8 +25,6 @@ constexpr COLORREF kPrompt = RGB(222, 226, 234);
 constexpr double kRest = 0.12; // of the ink over the ground
 constexpr double kHot = 0.2;
 constexpr double kPressed = 0.28;
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 } // namespace
 

@@ -1,6 +1,7 @@
 #include "search_window.h"
 
 #include "command_index.h"
+#include "scaled.h"
 #include "soft_canvas.h"
 #include "viewer_text.h"
 
@@ -29,8 +30,6 @@ constexpr double kMarkStrength = 0.1;  // of the text's colour over the ground
 constexpr double kLineStrength = 0.35; // of the secondary colour: in pop-ups lines are lighter than a dark ground
 constexpr UINT kEditId = 1;
 constexpr UINT kCloseLater = WM_APP + 1;
-
-int Scaled(int pixels) { return afxGlobalData.ScalePixels(pixels); }
 
 struct IconDestroyer {
     void operator()(HICON icon) const { ::DestroyIcon(icon); }
