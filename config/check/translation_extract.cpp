@@ -341,13 +341,13 @@ std::vector<std::size_t> TablesForTexts(std::span<const AskedText> asked,
     }
     const auto known = [&tableOf](const AskedText& text) { return tableOf.find(text.key); };
     const auto first = std::ranges::find_if(asked, [&](const AskedText& text) { return known(text) != tableOf.end(); });
-    std::size_t near = first == asked.end() ? 0 : known(*first)->second;
+    std::size_t nearest = first == asked.end() ? 0 : known(*first)->second;
     std::vector<std::size_t> tables;
     tables.reserve(asked.size());
     for (const AskedText& text : asked) {
         const auto own = known(text);
-        near = own == tableOf.end() ? near : own->second;
-        tables.push_back(near);
+        nearest = own == tableOf.end() ? nearest : own->second;
+        tables.push_back(nearest);
     }
     return tables;
 }
