@@ -29,7 +29,7 @@ file(GLOB_RECURSE guides CONFIGURE_DEPENDS docs/*)
 add_custom_command(OUTPUT ${guides_folder}.stamp
   COMMAND ${PROJECT_SOURCE_DIR}/scripts/package-docs ${guides_folder}
   COMMAND ${CMAKE_COMMAND} -E touch ${guides_folder}.stamp
-  DEPENDS ${PROJECT_SOURCE_DIR}/scripts/package-docs ${guides} README.md CHANGELOG.md LICENSE
+  DEPENDS ${PROJECT_SOURCE_DIR}/scripts/package-docs ${guides} README.md cmake/package-readme.md CHANGELOG.md LICENSE
   WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} VERBATIM)
 add_custom_target(package_files ALL DEPENDS ${boost_folder}.stamp ${guides_folder}.stamp)
 add_dependencies(package_files demo_files) # the viewer's, which is installed as an example
