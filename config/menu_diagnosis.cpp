@@ -28,7 +28,7 @@ void MenuDiagnosis::CheckTexts(const MetElement& met, const wchar_t* effect) con
     const std::wstring_view keyword = met.ValueOf(AttributeUse::Keyword);
     const std::wstring meant =
         keyword.empty() ? ClosestWord(met.ValueOf(AttributeUse::Name), {L"SEPARATOR"}) : std::wstring();
-    if (!meant.empty() && name->isMeant) {
+    if (!meant.empty() && hasName && name->isMeant) {
         return; // one fault: the attribute's name
     }
     if (!meant.empty()) {

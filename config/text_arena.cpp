@@ -24,7 +24,7 @@ void* TextArena::TakeFromNewBlock(std::size_t bytes) {
 
 std::wstring_view TextArena::Widen(std::string_view utf8) {
     if (utf8.empty()) {
-        return {L"", 0};
+        return L"";
     }
     auto* const letters = static_cast<wchar_t*>(Take((utf8.size() + 1) * sizeof(wchar_t), alignof(wchar_t)));
     const std::size_t length = string2wstring(utf8, letters);

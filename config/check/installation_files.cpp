@@ -40,6 +40,7 @@ constexpr wchar_t kSeparator = L'/';
 
 std::vector<std::wstring> Values(const std::map<std::wstring, std::wstring>& names) {
     std::vector<std::wstring> values;
+    values.reserve(names.size());
     for (const auto& [folded, name] : names) {
         values.push_back(name);
     }

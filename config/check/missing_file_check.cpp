@@ -65,7 +65,7 @@ std::wstring FileOfKind(const InstallationFiles& files, ConfigurationKind kind) 
     if (std::wstring misspelt = MisspeltFile(files, kind); !misspelt.empty()) {
         return misspelt;
     }
-    const std::wstring usual = UsualName(kind);
+    std::wstring usual = UsualName(kind);
     if (Holds(files, usual, kind)) {
         return usual;
     }
