@@ -2,18 +2,29 @@
 #include "config/check/text_width.h"
 
 #include "config/element_kind.h"
+#include "config/ribbon_diagnosis.h"
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace {
 
 // Pixels at 100 %.
-constexpr int kUsualField = 50;  // of an edit whose file names no width
-constexpr int kFieldMargin = 3;  // on each side of an edit's text
-constexpr int kWindow = 1280;    // what is wider alone than this fits into no usual window
-constexpr int kDoubtPercent = 5; // fonts differ: only what is wider by more than this is clearly wider
+constexpr int kUsualField = 50;       // of an edit or a slider whose file names no width
+constexpr int kFieldMargin = 3;       // on each side of an edit's text
+constexpr int kComboField = 108;      // behind the caption of a combo
+constexpr int kIcon = 16;             // before the text of a button in the status bar
+constexpr int kWindow = 1280;         // what is wider alone than this fits into no usual window
+constexpr int kToolTipLine = 640;     // a tooltip is broken into lines that are at most so wide
+constexpr int kToolTipLines = 45;     // of which a usual screen has room for so many
+constexpr int kDoubtPercent = 5;      // fonts differ: only what is wider by more than this is clearly wider
+constexpr wchar_t kUnspaced = 0x2E80; // from here on are the scripts that are written without spaces
+
+constexpr std::wstring_view kToolTipSuffix = L".tooltip";
 
 /// What a text has room in.
 struct Room {
@@ -44,12 +55,19 @@ bool ShowsItsName(ElementRole role) {
     case ElementRole::Panel:
     case ElementRole::RibbonElement:
     case ElementRole::SubItem:
+    case ElementRole::StatusButton:
     case ElementRole::Popup:
     case ElementRole::MenuItem:
         return true;
     default:
         return false;
     }
+}
+
+/// What a window has room for besides.
+Room RoomInWindow(int taken, const std::wstring& besides) {
+    return {kWindow - taken, L"not even a window of " + std::to_wstring(kWindow) + L" has room for it" + besides,
+            std::nullopt};
 }
 
 /// None: the element shows no text, or is reported for something that decides on it.
@@ -60,6 +78,14 @@ std::optional<Room> RoomOf(const MetElement& element) {
     if (element.isPassedOver || isReported || name == nullptr || name->isMeant || keyword == nullptr ||
         !ShowsItsName(element.role)) {
         return std::nullopt;
+    }
+    if (element.role == ElementRole::StatusButton) {
+        return KindOfElement(element.ValueOf(AttributeUse::Type)) == ElementKind::Slider
+                   ? std::nullopt
+                   : std::optional(RoomInWindow(0, L""));
+    }
+    if (const MetAttribute* const shortcut = element.Find(AttributeUse::HotKey)) {
+        return RoomInWindow(TextWidth(shortcut->value), L" and the shortcut behind it");
     }
     const bool isInPanel = element.role == ElementRole::RibbonElement || element.role == ElementRole::SubItem;
     const ElementKind kind = isInPanel ? KindOfElement(element.ValueOf(AttributeUse::Type)) : ElementKind::Button;
@@ -76,18 +102,46 @@ std::optional<Room> RoomOf(const MetElement& element) {
     case ElementKind::Group:
     case ElementKind::Slider:
         return std::nullopt;
+    case ElementKind::CheckCombo:
+    case ElementKind::MultiCombo:
+    case ElementKind::LightCombo:
+        return RoomInWindow(kComboField, L" and the list behind it");
     default:
-        return Room{kWindow, L"not even a window of " + std::to_wstring(kWindow) + L" has room for it", std::nullopt};
+        return RoomInWindow(0, L"");
     }
 }
 
-/// Words in a large button stand on two lines; elsewhere, and in a word, there is one.
-int NeededWidth(const MetElement& element, std::wstring_view text) {
-    const int width = TextWidth(text);
-    const bool isLarge = element.role == ElementRole::RibbonElement &&
-                         KindOfElement(element.ValueOf(AttributeUse::Type)) == ElementKind::Button &&
-                         element.ValueOf(AttributeUse::Size) != L"16";
-    return isLarge && text.find(L' ') != std::wstring_view::npos ? width / 2 : width;
+/// A tooltip is as wide as it must be, but a screen has an end.
+std::optional<Room> RoomOfToolTip(const MetElement& element) {
+    const MetAttribute* const toolTip = element.Find(AttributeUse::ToolTip);
+    const bool isTold = element.isPassedOver || element.IsReported(AttributeUse::Keyword) || toolTip == nullptr ||
+                        toolTip->isMeant || !ShowsItsName(element.role);
+    if (isTold) {
+        return std::nullopt;
+    }
+    return Room{kToolTipLine * kToolTipLines,
+                L"a tooltip has room for " + std::to_wstring(kToolTipLines) + L" lines of " +
+                    std::to_wstring(kToolTipLine),
+                std::nullopt};
+}
+
+bool IsLargeButton(const MetElement& element) {
+    return element.role == ElementRole::RibbonElement &&
+           KindOfElement(element.ValueOf(AttributeUse::Type)) == ElementKind::Button &&
+           element.ValueOf(AttributeUse::Size) != L"16";
+}
+
+/// On two lines, where it can be broken.
+int WidthOnTwoLines(std::wstring_view text) {
+    int width = TextWidth(text);
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        const bool isSpace = text[i] == L' ';
+        if (isSpace || text[i] >= kUnspaced || text[i - 1] >= kUnspaced) {
+            width =
+                std::min(width, std::max(TextWidth(text.substr(0, i)), TextWidth(text.substr(isSpace ? i + 1 : i))));
+        }
+    }
+    return width;
 }
 
 bool IsClearlyWider(int width, int room) {
@@ -101,33 +155,20 @@ public:
         : m_languages(languages), m_sink(sink) {}
 
     void Take(const GatheredElement& gathered) {
-        const std::optional<Room> room = RoomOf(gathered.element);
-        if (!room) {
-            return;
+        const MetElement& element = gathered.element;
+        const std::wstring keyword(element.ValueOf(AttributeUse::Keyword));
+        m_status.Follow(gathered, *this);
+        if (const std::optional<Room> room = RoomOf(element)) {
+            TakeText(gathered, keyword, *room, IsLargeButton(element) ? WidthOnTwoLines : TextWidth);
         }
-        const std::wstring keyword(gathered.element.ValueOf(AttributeUse::Keyword));
-        std::vector<TooLong> tooLong;
-        std::size_t texts = 0;
-        for (const LanguageTexts& language : m_languages) {
-            const auto found = language.commands.find(keyword);
-            if (!language.isUsable || found == language.commands.end()) {
-                continue;
-            }
-            ++texts;
-            if (const int width = NeededWidth(gathered.element, found->second.text);
-                IsClearlyWider(width, room->width)) {
-                tooLong.push_back({&language, &found->second, width});
-            }
+        if (const std::optional<Room> room = RoomOfToolTip(element)) {
+            TakeText(gathered, keyword + std::wstring(kToolTipSuffix), *room, TextWidth);
         }
-        // Where no language has room in it, the place is too small.
-        if (room->setBy && texts > 1 && tooLong.size() == texts) {
-            ReportPlace(gathered, *room, tooLong);
-            return;
-        }
-        for (const TooLong& text : tooLong) {
-            ReportText(gathered, *room, text);
+        if (element.role == ElementRole::ToolBar || element.role == ElementRole::ToolBarButton) {
+            TakeWritten(gathered);
         }
     }
+    void Finish() { m_status.Report(*this); }
 
 private:
     struct TooLong {
@@ -135,6 +176,101 @@ private:
         const PlacedText* text;
         int width;
     };
+
+    /// What the buttons of a status row need together, in each language.
+    class StatusRow {
+    public:
+        void Follow(const GatheredElement& gathered, LongTextCheck& check) {
+            const MetElement& element = gathered.element;
+            if (element.role == ElementRole::StatusButton && m_row && !element.isPassedOver) {
+                Add(element, check);
+            } else if (element.role != ElementRole::StatusButton || element.isPassedOver) {
+                Report(check);
+                const bool isStatus = element.role == ElementRole::Row && !element.isPassedOver &&
+                                      element.ValueOf(AttributeUse::Keyword) == kStatusRow;
+                m_row = isStatus ? &gathered : nullptr;
+                m_widths.assign(check.m_languages.size(), 0);
+                m_isTold = false;
+            }
+        }
+
+        void Report(const LongTextCheck& check) {
+            const GatheredElement* const row = std::exchange(m_row, nullptr);
+            const auto widest = std::ranges::max_element(m_widths);
+            if (!row || m_isTold || widest == m_widths.end() || !IsClearlyWider(*widest, kWindow)) {
+                return;
+            }
+            const LanguageTexts& language =
+                check.m_languages[static_cast<std::size_t>(std::distance(m_widths.begin(), widest))];
+            ReportTogether(check.m_sink, *row->file, PlaceOf(row->element, AttributeUse::Keyword), "long-text",
+                           L"the buttons of this row are together about " + std::to_wstring(*widest) +
+                               L" pixels wide at 100 % in " + language.code + L"; a window of " +
+                               std::to_wstring(kWindow) + L" leaves the first ones out",
+                           L"shorten the texts, or take buttons out");
+        }
+
+    private:
+        void Add(const MetElement& element, const LongTextCheck& check) {
+            const ElementKind kind = KindOfElement(element.ValueOf(AttributeUse::Type));
+            const std::wstring keyword(element.ValueOf(AttributeUse::Keyword));
+            for (std::size_t i = 0; i < m_widths.size(); ++i) {
+                const LanguageTexts& language = check.m_languages[i];
+                if (kind == ElementKind::Slider) {
+                    m_widths[i] += FieldWidth(element).value_or(0);
+                    continue;
+                }
+                const auto found = language.commands.find(keyword);
+                if (!language.isUsable || !element.Has(AttributeUse::Name) || found == language.commands.end()) {
+                    continue;
+                }
+                const int width = TextWidth(found->second.text);
+                m_isTold = m_isTold || IsClearlyWider(width, kWindow); // by the text itself
+                m_widths[i] += width + (kind == ElementKind::Label ? 0 : kIcon);
+            }
+        }
+
+        const GatheredElement* m_row = nullptr;
+        std::vector<int> m_widths;
+        bool m_isTold = false;
+    };
+
+    void TakeText(const GatheredElement& gathered, const std::wstring& key, const Room& room,
+                  int (*widthOf)(std::wstring_view)) {
+        std::vector<TooLong> tooLong;
+        std::size_t texts = 0;
+        for (const LanguageTexts& language : m_languages) {
+            const auto found = language.commands.find(key);
+            if (!language.isUsable || found == language.commands.end()) {
+                continue;
+            }
+            ++texts;
+            if (const int width = widthOf(found->second.text); IsClearlyWider(width, room.width)) {
+                tooLong.push_back({&language, &found->second, width});
+            }
+        }
+        // Where no language has room in it, the place is too small.
+        if (room.setBy && texts > 1 && tooLong.size() == texts) {
+            ReportPlace(gathered, room, tooLong);
+            return;
+        }
+        for (const TooLong& text : tooLong) {
+            ReportText(gathered, room, text);
+        }
+    }
+
+    /// Texts that are shown as the file has them.
+    void TakeWritten(const GatheredElement& gathered) {
+        const MetAttribute* const prompt = gathered.element.Find(AttributeUse::Prompt);
+        if (gathered.element.isPassedOver || !prompt || prompt->isMeant || prompt->isReported) {
+            return;
+        }
+        const Room room = RoomInWindow(0, L"");
+        if (const int width = TextWidth(prompt->value); IsClearlyWider(width, room.width)) {
+            ReportTogether(m_sink, *gathered.file, prompt->position, "long-text",
+                           L"this text is about " + std::to_wstring(width) + L" pixels wide at 100 %; " + room.place,
+                           L"shorten it");
+        }
+    }
 
     void ReportPlace(const GatheredElement& gathered, const Room& room, const std::vector<TooLong>& tooLong) {
         int widest = 0;
@@ -150,7 +286,7 @@ private:
     }
 
     void ReportText(const GatheredElement& gathered, const Room& room, const TooLong& tooLong) {
-        if (!m_seen.insert({tooLong.text, room.width}).second) {
+        if (!m_seen.insert({tooLong.text, room.setBy ? room.width : kWindow}).second) {
             return; // two elements of one keyword
         }
         ReportTogether(m_sink, tooLong.text->file, tooLong.text->position, "long-text",
@@ -163,6 +299,7 @@ private:
     std::span<const LanguageTexts> m_languages;
     DiagnosticsSink& m_sink;
     std::set<std::pair<const PlacedText*, int>> m_seen;
+    StatusRow m_status;
 };
 
 } // namespace
@@ -173,4 +310,5 @@ void CheckTextLengths(std::span<const GatheredElement> elements, std::span<const
     for (const GatheredElement& gathered : elements) {
         check.Take(gathered);
     }
+    check.Finish();
 }

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 /// An installation whose only panel holds one element, with its text in each language.
@@ -102,6 +104,135 @@ TEST_F(TextLength, NoWindowHasRoomForATextOfThirteenHundredPixels) {
     EXPECT_EQ(Findings(), "");
     Write("<e KEYWORD='A' NAME='' TYPE='BUTTON' SIZE='32'/>", text + text);
     EXPECT_EQ(Findings(), place);
+}
+
+/// Of single words, about so wide.
+std::string WideText(int width) {
+    std::string text;
+    while (TextWidth(string2wstring(text)) < width) {
+        text += "word ";
+    }
+    return text;
+}
+
+TEST_F(TextLength, ALargeButtonHasTwoLinesBrokenBetweenWords) {
+    const std::string button = "<e KEYWORD='A' NAME='' TYPE='BUTTON' SIZE='32'/>";
+    const std::string word(260, 'n'); // in one piece
+    Write(button, "a " + word);
+    EXPECT_EQ(Findings(), "lang/en/a.xlf:4:1 long-text\n");
+    std::string unspaced;
+    for (int i = 0; i < 150; ++i) { // 1,800 pixels, which can be broken anywhere
+        unspaced += "\xE4\xB8\xAD";
+    }
+    Write(button, unspaced);
+    EXPECT_EQ(Findings(), "");
+    Write(button, unspaced + unspaced);
+    EXPECT_EQ(Findings(), "lang/en/a.xlf:4:1 long-text\n");
+}
+
+TEST_F(TextLength, TheCaptionOfAComboLeavesRoomForItsList) {
+    const std::string text = WideText(1270);
+    Write("<e KEYWORD='A' NAME='' TYPE='label'/>", text);
+    EXPECT_EQ(Findings(), "");
+    for (const char* const type : {"qkRibbonCheckComb", "qkRibbonMultiComb", "qkRibbonMultiComb2"}) {
+        Write("<e KEYWORD='A' NAME='' TYPE='" + std::string(type) + "'/>", text);
+        EXPECT_EQ(Findings(), "lang/en/a.xlf:4:1 long-text\n") << type;
+    }
+}
+
+TEST_F(TextLength, AMenuItemLeavesRoomForItsShortcut) {
+    const auto write = [this](const std::string& attributes) {
+        m_installation.Write("cfg/menu.xml", "<m><g><p KEYWORD='Map' MENUNAME=''>\n<i KEYWORD='A' MENUNAME=''" +
+                                                 attributes + "/></p></g></m>");
+    };
+    m_installation.Write("lang/en/a.xlf", CheckedInstallation::Table(CheckedInstallation::Unit("Map", "Map") +
+                                                                         CheckedInstallation::Unit("A", WideText(1300)),
+                                                                     "en"));
+    write("");
+    EXPECT_EQ(Findings(), "");
+    write(" HOTKEY='Ctrl+Shift+K'");
+    EXPECT_EQ(Findings(), "lang/en/a.xlf:4:1 long-text\n");
+}
+
+TEST_F(TextLength, ATooltipHasTheLinesOfAScreen) {
+    const auto write = [this](int width) {
+        m_installation.Write("cfg/ribbon.xml", RibbonWith("<e KEYWORD='A' TOOLTIP='' TYPE='slider'/>"));
+        m_installation.Write("lang/en/a.xlf",
+                             CheckedInstallation::Table(CheckedInstallation::Unit("Map", "Map") +
+                                                            CheckedInstallation::Unit("A.tooltip", WideText(width)),
+                                                        "en"));
+    };
+    write(640 * 45);
+    EXPECT_EQ(Findings(), "");
+    write(640 * 50);
+    EXPECT_EQ(Findings(), "lang/en/a.xlf:4:1 long-text\n");
+}
+
+/// Whose only row of status-bar buttons holds these.
+class StatusTextLength : public TextLength {
+protected:
+    void WriteRow(const std::string& buttons, const std::string& english, const std::string& german) const {
+        m_installation.Write("cfg/ribbon.xml",
+                             "<r>\n<r KEYWORD='StatusEx_btns'>" + buttons +
+                                 "</r><r><c KEYWORD='Map' NAME=''><p KEYWORD='P'><b KEYWORD='A' NAME='' "
+                                 "TYPE='slider'/><b KEYWORD='B' NAME='' TYPE='slider'/></p></c></r></r>");
+        for (const auto& [language, text] : {std::pair("en", english), std::pair("de", german)}) {
+            m_installation.Write(std::string("lang/") + language + "/a.xlf",
+                                 CheckedInstallation::Table(CheckedInstallation::Unit("Map", "Map") +
+                                                                CheckedInstallation::Unit("A", text) +
+                                                                CheckedInstallation::Unit("B", text),
+                                                            language));
+        }
+    }
+    static constexpr const char* kTwoLabels =
+        "<b KEYWORD='A' NAME='' TYPE='label'/><b KEYWORD='B' NAME='' TYPE='label'/>";
+};
+
+TEST_F(StatusTextLength, AButtonThatNoWindowHasRoomForIsSaidByItsText) {
+    WriteRow("<b KEYWORD='A' NAME='' TYPE='label'/>", "Short", WideText(1400));
+    EXPECT_EQ(Findings(), "lang/de/a.xlf:4:1 long-text\n");
+    WriteRow("<b KEYWORD='A' NAME='' TYPE='slider'/>", "Short", WideText(1400)); // which does not draw it
+    EXPECT_EQ(Findings(), "");
+}
+
+TEST_F(StatusTextLength, ARowThatIsTooWideTogetherIsSaidOnceWithTheWorstLanguage) {
+    WriteRow(kTwoLabels, WideText(500), WideText(600));
+    EXPECT_EQ(Findings(), "");
+    WriteRow(kTwoLabels, WideText(500), WideText(700));
+    const std::vector<Diagnostic> findings = m_installation.Check();
+    ASSERT_EQ(findings.size(), 1u);
+    EXPECT_EQ(CheckedInstallation::Describe(findings[0]), "cfg/ribbon.xml:2:4 long-text\n");
+    EXPECT_NE(findings[0].text.find(L" in de"), std::wstring::npos);
+}
+
+TEST_F(StatusTextLength, ASliderOfARowHasItsWidth) {
+    const std::string slider = "<b KEYWORD='B' NAME='' TYPE='slider' WIDTH='";
+    const std::string label = "'/><b KEYWORD='A' NAME='' TYPE='label'/>";
+    WriteRow(slider + "100" + label, WideText(1000), WideText(1000));
+    EXPECT_EQ(Findings(), "");
+    WriteRow(slider + "500" + label, WideText(1000), WideText(1000));
+    EXPECT_EQ(Findings(), "cfg/ribbon.xml:2:4 long-text\n");
+}
+
+TEST_F(TextLength, TextsOfToolbarsAreThoseOfTheFile) {
+    const auto write = [this](const std::string& title, const std::string& text) {
+        m_installation.Write("cfg/toolbar.xml", "<t><g KEYWORD='G'><b PROMPT='" + title +
+                                                    "'>\n<i TYPE='button' KEYWORD='T' PROMPT='" + text +
+                                                    "'/></b></g></t>");
+        m_installation.Write("lang/en/a.xlf", CheckedInstallation::Table("", "en"));
+    };
+    const std::string icon = "cfg/toolbar.xml:2:1 missing-icon\n";
+    const auto withoutIcon = [&] {
+        std::string findings = Findings();
+        const std::size_t at = findings.find(icon);
+        return at == std::string::npos ? findings : findings.erase(at, icon.size());
+    };
+    write(WideText(1000), WideText(1000));
+    EXPECT_EQ(withoutIcon(), "");
+    write(WideText(1400), "In");
+    EXPECT_EQ(withoutIcon(), "cfg/toolbar.xml:1:22 long-text\n");
+    write("Zoom", WideText(1400));
+    EXPECT_EQ(withoutIcon(), "cfg/toolbar.xml:2:30 long-text\n");
 }
 
 TEST_F(TextLength, OfATextThatIsNotAskedForNothingIsSaid) {
