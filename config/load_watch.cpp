@@ -1,8 +1,6 @@
 #include "config/load_watch.h"
 
-#include "config/check/command_check.h"
-#include "config/check/icon_check.h"
-#include "config/check/text_check.h"
+#include "config/check/configuration_check.h"
 #include "config/diagnostic_codes.h"
 #include "config/to_problem.h"
 #include "configuration_problems.h"
@@ -13,8 +11,11 @@
 #include <varnhold/strings.h>
 
 #include <algorithm>
+#include <set>
+#include <span>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -23,40 +24,28 @@ ConfigurationProblemSink& HostSink() {
     return sink;
 }
 
-/// The keywords of references that lead somewhere: the command is registered, or may be before it is needed.
-std::set<std::wstring> KnownReferences(std::span<const GatheredElement> elements) {
-    std::set<std::wstring> known;
+/// What quick access items and status-bar buttons of the file refer to, where it is registered, by whomever.
+std::set<std::wstring> RegisteredReferences(std::span<const GatheredElement> elements) {
+    std::set<std::wstring> registered;
     for (const GatheredElement& gathered : elements) {
-        const std::wstring keyword(gathered.element.ValueOf(AttributeUse::Keyword));
+        const ElementRole role = gathered.element.role;
+        std::wstring keyword(gathered.element.ValueOf(AttributeUse::Keyword));
         int id = 0;
-        // Status-bar buttons are made later.
-        if (gathered.element.role == ElementRole::StatusButton || CMenuIdMgr::Ins()->GetMenuId(keyword, id)) {
-            known.insert(keyword);
+        if ((role == ElementRole::QuickAccessItem || role == ElementRole::StatusButton) &&
+            CMenuIdMgr::Ins()->GetMenuId(keyword, id)) {
+            registered.insert(std::move(keyword));
         }
     }
-    return known;
+    return registered;
 }
 
-void CheckWhole(GatheringSink& gathered) {
+std::vector<Diagnostic> FindProblems(GatheringSink& gathered) {
     const std::vector<GatheredElement>& elements = gathered.Elements();
     std::wstring directory;
     if (elements.empty() || !FileOp::GetAppPath(directory)) {
-        return;
+        return std::move(gathered.Findings());
     }
-    const InstallationFiles files(directory);
-    std::vector<LanguageTexts> languages;
-    if (const std::wstring language = CMultiLanguageMgr::GetLanguage(); !language.empty()) {
-        languages = ReadLanguages(files, language, DroppedDiagnostics()); // the service has told its problems
-    }
-    JoinShiftedLevels(gathered);
-    std::set<std::wstring> known = KnownReferences(elements);
-    if (CountLostKeywords(gathered) > 0) {
-        AddKeywordsWithTexts(languages, known);
-    }
-    known.merge(CheckTexts(elements, languages, gathered));
-    CheckCommands(elements, true, known, gathered);
-    CheckAccessKeys(elements, languages, gathered);
-    CheckIcons(elements, files, gathered);
+    return CheckLoadedFile(directory, {gathered, CMultiLanguageMgr::GetLanguage(), RegisteredReferences(elements)});
 }
 
 } // namespace
@@ -67,14 +56,18 @@ LoadWatch::~LoadWatch() {
     if (!HostSink()) {
         return;
     }
-    CheckWhole(m_gathered);
-    const auto place = [](const Diagnostic& finding) {
-        return std::tuple(finding.position.line, finding.position.column);
+    std::vector<Diagnostic> findings = FindProblems(m_gathered);
+    // Those of the file first; a text that has no room stands in a table.
+    const std::wstring file = m_gathered.Elements().empty() ? std::wstring() : *m_gathered.Elements().front().file;
+    const auto place = [&file](const Diagnostic& finding) {
+        const bool isElsewhere = !file.empty() && finding.file != file;
+        return std::tuple(isElsewhere, isElsewhere ? finding.file : std::wstring(), finding.position.line,
+                          finding.position.column);
     };
-    std::ranges::stable_sort(m_gathered.Findings(), {}, place);
+    std::ranges::stable_sort(findings, {}, place);
     // A copy: the sink may be replaced meanwhile.
     const ConfigurationProblemSink sink = HostSink();
-    for (const Diagnostic& finding : m_gathered.Findings()) {
+    for (const Diagnostic& finding : findings) {
         sink(ToProblem(finding));
     }
 }

@@ -51,8 +51,8 @@ BARWRIGHT_API std::vector<ConfigurationProblem> FindLoadFaults(const std::wstrin
 BARWRIGHT_API std::vector<ConfigurationProblem> FindLanguageFaults(const std::wstring& code);
 
 /// Replaces the sink and returns the earlier one. The first one is empty: then nobody looks for problems, and loading
-/// takes no longer. Texts are looked up in the language in force; what takes other files to know, as that two of them
-/// use one keyword differently, is left to the program barcheck. User-interface thread.
+/// takes no longer. It hears what the program barcheck finds in the file, in the language in force and beside all other
+/// files of the installation, except what is wrong with a translation table by itself. User-interface thread.
 BARWRIGHT_API ConfigurationProblemSink SetConfigurationProblemSink(const ConfigurationProblemSink& sink);
 
 /// "file:line:column: severity: text [code]", and the fix in brackets behind it.

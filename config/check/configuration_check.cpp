@@ -56,7 +56,18 @@ bool ReadFile(const std::wstring& fullPath, ConfigurationKind kind, DiagnosticsS
 struct FileToRead {
     std::wstring fullPath;
     ConfigurationKind kind = ConfigurationKind::Ribbon;
+    /// What was met in it when it was read by somebody else; null: it is to be read.
+    const GatheringSink* gathered = nullptr;
 };
+
+void Repeat(const GatheringSink& gathered, DiagnosticsSink& sink) {
+    for (const Diagnostic& finding : gathered.Findings()) {
+        sink.Report(finding);
+    }
+    for (const GatheredElement& element : gathered.Elements()) {
+        sink.Meet(*element.file, element.element);
+    }
+}
 
 /// The full paths of the files that are named, without those that are named twice; of configuration files or of tables.
 std::vector<std::wstring> NamedFiles(const CheckRequest& request, const InstallationFiles& files,
@@ -134,7 +145,11 @@ bool ReadFiles(const std::vector<FileToRead>& files, DiagnosticsSink& sink) {
     KindWatch watch(sink);
     bool isComplete = true;
     for (const FileToRead& file : files) {
-        isComplete = ReadFile(file.fullPath, file.kind, watch) && isComplete;
+        if (file.gathered) {
+            Repeat(*file.gathered, watch);
+        } else {
+            isComplete = ReadFile(file.fullPath, file.kind, watch) && isComplete;
+        }
     }
     return isComplete && !watch.HasWrongKind();
 }
@@ -212,17 +227,22 @@ bool HasFinding(GatheringSink& sink, std::string_view code) {
     return std::ranges::find(sink.Findings(), code, &Diagnostic::code) != sink.Findings().end();
 }
 
-} // namespace
+/// What is to be checked, and what is known of it besides its files.
+struct Checking {
+    const InstallationFiles& files;
+    Selection selection;
+    /// Empty: all that there are.
+    std::wstring language;
+    std::set<std::wstring> registered;
+    /// False: it has no texts yet, and what is wrong with its tables is told elsewhere.
+    bool hasTexts = true;
+    bool tellsOfTables = true;
+};
 
-bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
-    const std::vector<FileToRead> files = Select(request, InstallationFiles(request.directory)).files;
-    return ReadFiles(files, sink) && !files.empty();
-}
-
-std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
-    const InstallationFiles files(request.directory);
-    GatheringSink sink;
-    const Selection selection = Select(request, files);
+/// Reads the files, and then says what takes all of them together.
+void CheckTogether(const Checking& checking, GatheringSink& sink) {
+    const InstallationFiles& files = checking.files;
+    const Selection& selection = checking.selection;
     bool isComplete = ReadFiles(selection.files, sink);
     const bool areMisnamed = !selection.namesFiles && ReportMisnamed(files, sink);
     isComplete = isComplete && !areMisnamed;
@@ -234,9 +254,13 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     }
     JoinShiftedLevels(sink);
     std::size_t lostKeywords = CountLostKeywords(sink);
-    const std::vector<LanguageTexts> languages = ReadLanguages(files, request.language, sink);
+    std::vector<LanguageTexts> languages;
+    if (checking.hasTexts) {
+        DiagnosticsSink& ofTables = checking.tellsOfTables ? static_cast<DiagnosticsSink&>(sink) : DroppedDiagnostics();
+        languages = ReadLanguages(files, checking.language, ofTables);
+    }
     if (!selection.namesFiles) {
-        if (languages.empty() && request.language.empty() && !HasFinding(sink, "bad-table")) {
+        if (checking.hasTexts && languages.empty() && checking.language.empty() && !HasFinding(sink, "bad-table")) {
             ReportMissingTables(sink.Elements(), files, sink);
         }
         constexpr std::size_t all = 1'000'000; // keywords of files that were not read
@@ -254,6 +278,7 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     const std::size_t shortcuts = PutShortcutsFirst(sink);
     CheckAccessKeys(std::span(sink.Elements()).subspan(shortcuts), languages, sink);
     std::set<std::wstring> known = meant;
+    known.insert(checking.registered.begin(), checking.registered.end());
     isComplete = AddKeywordsOf(selection.others, known) && isComplete;
     if (lostKeywords > 0) {
         AddKeywordsWithTexts(languages, known);
@@ -266,9 +291,46 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
         CheckUnusedTexts(sink.Elements(), languages, meant, lostKeywords, sink);
     }
     CheckIcons(sink.Elements(), files, sink);
+}
+
+/// Whether it is about the file, or about what the file needs of a table.
+bool IsAbout(const Diagnostic& finding, const std::wstring& file) {
+    return finding.file == file ||
+           (IsTableName(finding.file) &&
+            std::ranges::find(finding.related, file, &RelatedPlace::file) != finding.related.end());
+}
+
+/// All files that the installation has, with this one among them, or it alone where it is none of them.
+Selection SelectLoaded(const LoadedFile& loaded, const InstallationFiles& files) {
+    Selection selection = Select({files.Directory(), {}, {}}, files);
+    const std::wstring& path = *loaded.gathered.Elements().front().file;
+    const auto own = std::ranges::find(selection.files, FoldedPath(path),
+                                       [](const FileToRead& file) { return FoldedPath(file.fullPath); });
+    if (own != selection.files.end()) {
+        own->fullPath = path;
+        own->gathered = &loaded.gathered;
+    } else {
+        selection.namesFiles = true;
+        selection.others = std::exchange(selection.files, {{path, ConfigurationKind::Ribbon, &loaded.gathered}});
+    }
+    return selection;
+}
+
+} // namespace
+
+bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
+    const std::vector<FileToRead> files = Select(request, InstallationFiles(request.directory)).files;
+    return ReadFiles(files, sink) && !files.empty();
+}
+
+std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
+    const InstallationFiles files(request.directory);
+    GatheringSink sink;
+    const Checking checking{files, Select(request, files), request.language, {}};
+    CheckTogether(checking, sink);
     std::vector<Diagnostic> findings = std::move(sink.Findings());
-    KeepNamed(findings, selection, files);
-    Sort(findings, selection.files);
+    KeepNamed(findings, checking.selection, files);
+    Sort(findings, checking.selection.files);
     for (Diagnostic& finding : findings) {
         finding.file = files.RelativeName(finding.file);
         for (RelatedPlace& place : finding.related) {
@@ -276,4 +338,24 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
         }
     }
     return findings;
+}
+
+std::vector<Diagnostic> CheckLoadedFile(const std::wstring& directory, const LoadedFile& loaded) {
+    const InstallationFiles files(directory);
+    Checking checking{files, SelectLoaded(loaded, files), loaded.language, loaded.registered, !loaded.language.empty(),
+                      false};
+    if (checking.selection.namesFiles) {
+        // Status-bar buttons are made later, and what they stand for may come until then.
+        for (const GatheredElement& gathered : loaded.gathered.Elements()) {
+            if (gathered.element.role == ElementRole::StatusButton) {
+                checking.registered.emplace(gathered.element.ValueOf(AttributeUse::Keyword));
+            }
+        }
+    }
+    GatheringSink sink;
+    CheckTogether(checking, sink);
+    std::vector<Diagnostic>& findings = sink.Findings();
+    const std::wstring& file = *loaded.gathered.Elements().front().file;
+    std::erase_if(findings, [&file](const Diagnostic& finding) { return !IsAbout(finding, file); });
+    return std::move(findings);
 }

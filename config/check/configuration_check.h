@@ -4,6 +4,7 @@
 #include "config/configuration_kind.h"
 #include "config/diagnostics.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,16 @@ struct CheckRequest {
     std::wstring language;
 };
 
+/// A file that a running program has just loaded.
+struct LoadedFile {
+    /// What its reader reported and met; at least one element.
+    const GatheringSink& gathered;
+    /// The language in force; empty: there are no texts.
+    std::wstring language;
+    /// Keywords that references in it lead to, because the program has registered them.
+    std::set<std::wstring> registered;
+};
+
 /// Reads the files alone, into the sink. False when one of them could not be loaded.
 bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink);
 
@@ -26,3 +37,7 @@ bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink);
 /// findings name files relative to the directory, with "/", and are in the order in which the files are read, each file
 /// from its beginning to its end.
 std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request);
+
+/// The same of the one file alone, as if all others that the installation has were loaded, too. Findings about what the
+/// file needs of a table stand in the table. They name files by full paths and are in no order.
+std::vector<Diagnostic> CheckLoadedFile(const std::wstring& directory, const LoadedFile& loaded);

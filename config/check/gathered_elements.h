@@ -30,6 +30,7 @@ public:
     /// Puts all elements from that one on before the others, and returns how many they are.
     std::size_t PutFirst(std::size_t from);
     std::vector<Diagnostic>& Findings() { return m_findings; }
+    const std::vector<Diagnostic>& Findings() const { return m_findings; }
 
 private:
     std::set<std::wstring> m_files;

@@ -228,7 +228,9 @@ private:
                 ReportTogether(m_sink, text.file, text.position, "bad-table",
                                L"the section " + Quoted(section) +
                                    L" of this text is not the one of commands: they have no text in " + language.code,
-                               DidYouMean(std::wstring(kSection)));
+                               DidYouMean(std::wstring(kSection)),
+                               {PlaceOf(*m_asked.at(m_inOrder.front()).first, AttributeUse::Keyword,
+                                        L"the first that asks for one")});
                 return;
             }
         }
@@ -266,10 +268,10 @@ private:
             return false;
         }
         m_meant.insert(KeywordOf(written));
-        ReportTogether(m_sink, found->second.file, found->second.position, "missing-text",
-                       L"no element has the keyword " + Quoted(written) + L", and for " + Quoted(keyword) + L" " +
-                           missing.text,
-                       DidYouMean(wanted));
+        ReportTogether(
+            m_sink, found->second.file, found->second.position, "missing-text",
+            L"no element has the keyword " + Quoted(written) + L", and for " + Quoted(keyword) + L" " + missing.text,
+            DidYouMean(wanted), {PlaceOf(*missing.asked->first, AttributeUse::Keyword, L"it is asked for here")});
         return true;
     }
 
