@@ -120,7 +120,7 @@ void CMainFrame::Show() {
 // Behind the bars, which are as configured until now.
 void CMainFrame::RestoreState() {
     const KeptViewer& kept = m_memory.Viewer();
-    if (kept.iconStyle) {
+    if (kept.iconStyle && IsIconStyleOfSkin(*kept.iconStyle)) {
         SwitchIconStyle(*kept.iconStyle);
     }
     if (CUserSettings* const bars = m_memory.Bars()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -7,7 +8,7 @@
 struct ViewerSkin {
     const wchar_t* name;
     int style;                ///< As the ribbon numbers them.
-    const wchar_t* iconStyle; ///< "0": light icons for dark ground
+    const wchar_t* iconStyle; ///< "0": light icons for dark ground; "1": dark ones
     const wchar_t* icons;     ///< The folder of those that can be seen on it
     const wchar_t* iconSet;   ///< The end of its name
 };
@@ -24,4 +25,9 @@ inline const ViewerSkin* FindViewerSkin(const std::wstring& name) {
         }
     }
     return nullptr;
+}
+
+/// Whether some skin's icons have that style.
+inline bool IsIconStyleOfSkin(const std::wstring& style) {
+    return std::ranges::any_of(kViewerSkins, [&style](const ViewerSkin& skin) { return style == skin.iconStyle; });
 }

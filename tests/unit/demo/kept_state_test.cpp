@@ -30,7 +30,7 @@ KeptViewer ChangedViewer() {
     KeptViewer viewer;
     viewer.language = L"zh-CN";
     viewer.skin = L"black";
-    viewer.iconStyle = L"";
+    viewer.iconStyle = L"1";
     viewer.window = KeptWindow{{-1200, 30, 80, 900}, true};
     viewer.showsClassicBars = true;
     viewer.startMode = L"print";
