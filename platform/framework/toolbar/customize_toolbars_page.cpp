@@ -53,7 +53,7 @@ public:
 
 protected:
     afx_msg void OnItemChanged(NMHDR* header, LRESULT* result);
-    afx_msg void OnReset();
+    afx_msg void OnResetBar();
     afx_msg void OnResetAll();
     afx_msg void OnNew();
     afx_msg void OnRename();
@@ -78,7 +78,7 @@ private:
 
 BEGIN_MESSAGE_MAP(ToolBarsPage, CustomizePage)
 ON_NOTIFY(LVN_ITEMCHANGED, kBars, &ToolBarsPage::OnItemChanged)
-ON_BN_CLICKED(kReset, &ToolBarsPage::OnReset)
+ON_BN_CLICKED(kReset, &ToolBarsPage::OnResetBar)
 ON_BN_CLICKED(kResetAll, &ToolBarsPage::OnResetAll)
 ON_BN_CLICKED(kNew, &ToolBarsPage::OnNew)
 ON_BN_CLICKED(kRename, &ToolBarsPage::OnRename)
@@ -141,7 +141,7 @@ void ToolBarsPage::ShowChecked(int row) {
     bar->ShowPane(isWanted, FALSE, FALSE);
 }
 
-void ToolBarsPage::OnReset() {
+void ToolBarsPage::OnResetBar() {
     if (!IsConfirmed(kAskResetBarText)) {
         return;
     }

@@ -534,6 +534,19 @@ TEST_F(BarListTest, ResetPutsTheButtonsOfTheSelectedBarBack) {
     EXPECT_EQ(m_box.Count(), 3);
 }
 
+// What the sheet calls so is that all of it was cancelled.
+TEST_F(BarListTest, ACancelledSheetAsksForNoResetOfABar) {
+    RealDrag(OnScreen(Bar(), 0, 0), CPoint(20, 20));
+    SelectBar(L"Second");
+    SelectBar(L"First");
+    ASSERT_TRUE(IsEnabled(kReset));
+    PSHNOTIFY cancelled{};
+    cancelled.hdr = {m_dialogWindow, 0, static_cast<UINT>(PSN_RESET)};
+    m_dialog->GetActivePage()->SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&cancelled));
+    EXPECT_EQ(m_box.Count(), 0);
+    EXPECT_EQ(Contents(), L"3002 | 3003");
+}
+
 TEST_F(BarListTest, ABarThatNobodyHasChangedCannotBeReset) {
     SelectBar(L"First");
     EXPECT_FALSE(IsEnabled(kReset));
