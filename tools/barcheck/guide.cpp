@@ -36,8 +36,8 @@ std::string ExampleOf(const DiagnosticCode& code) {
     for (const FrameText& frame : kFrames) {
         if (frame.frame == code.frame) {
             const std::string fence = "```" + std::string(frame.language) + "\n";
-            text += std::string(frame.where) + ":\n\n" + fence + Shown(code.wrong) + "\n```\n\nMended:\n\n" + fence +
-                    Shown(code.right) + "\n```\n\n";
+            text.append(frame.where).append(":\n\n").append(fence).append(Shown(code.wrong));
+            text.append("\n```\n\nMended:\n\n").append(fence).append(Shown(code.right)).append("\n```\n\n");
         }
     }
     return text;
@@ -56,8 +56,8 @@ std::string DiagnosticsGuide() {
         "| code | severity | what is wrong |\n|---|---|---|\n";
     for (const DiagnosticCode& code : DiagnosticCodes()) {
         const std::string name(code.code);
-        guide += "| [`" + name + "`](#" + name + ") | " + std::string(NameOf(code.severity)) + " | " +
-                 std::string(code.meaning) + " |\n";
+        guide.append("| [`").append(name).append("`](#").append(name).append(") | ");
+        guide.append(NameOf(code.severity)).append(" | ").append(code.meaning).append(" |\n");
     }
     guide += "\n";
     for (const DiagnosticCode& code : DiagnosticCodes()) {

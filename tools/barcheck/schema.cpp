@@ -39,6 +39,7 @@ std::string OneOf(const Words& words) {
 
 std::vector<std::string> Narrow(const std::vector<std::wstring>& words) {
     std::vector<std::string> narrow;
+    narrow.reserve(words.size());
     for (const std::wstring& word : words) {
         narrow.push_back(wstring2String(word));
     }

@@ -52,6 +52,7 @@ CMFCToolBar* BarAt(CPoint screen) {
 
 DropPlace PlaceIn(const CMFCToolBar& bar, CPoint screen) {
     std::vector<fx::Rect> buttons;
+    buttons.reserve(static_cast<std::size_t>(bar.GetCount()));
     for (int index = 0; index < bar.GetCount(); ++index) {
         buttons.push_back(fx::FromRect(bar.GetButton(index)->Rect()));
     }
@@ -87,7 +88,7 @@ bool ButtonDrag::Start(std::unique_ptr<ButtonDrag> drag, CWnd* parent) {
     if (!drag->TakeMouse(parent)) {
         return false;
     }
-    drag.release(); // it is the window's own now
+    static_cast<void>(drag.release()); // it is the window's own now
     return true;
 }
 
