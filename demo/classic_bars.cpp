@@ -4,6 +4,7 @@
 #include "configuration_files.h"
 #include "configuration_problems.h"
 #include "configuration_watch.h"
+#include "installed_icon.h"
 #include "layer_controls.h"
 #include "map_painter.h"
 #include "menu_id_mgr.h"
@@ -246,8 +247,7 @@ void FillIcons(CMFCToolBarImages& images, const std::vector<CString>& files) {
     images.Clear();
     images.SetImageSize(CSize(kIconSide, kIconSide));
     for (const CString& file : files) {
-        const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(
-            static_cast<HICON>(::LoadImageW(nullptr, file, IMAGE_ICON, kIconSide, kIconSide, LR_LOADFROMFILE)));
+        const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(LoadInstalledIcon(file, kIconSide));
         images.AddIcon(icon ? icon.get() : ::LoadIconW(nullptr, IDI_APPLICATION));
     }
 }

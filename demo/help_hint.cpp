@@ -1,5 +1,6 @@
 #include "help_hint.h"
 
+#include "installed_icon.h"
 #include "library_context.h"
 #include "tooltip_ctrl_ex.h"
 
@@ -17,8 +18,7 @@ bool Has(const CString& path, DWORD kind) {
 }
 
 HICON LoadHint(const std::wstring& folder, int side) {
-    const CString path = GetIconPathStr(folder + L"help.ico", side);
-    return static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, side, side, LR_LOADFROMFILE));
+    return LoadInstalledIcon(GetIconPathStr(folder + L"help.ico", side), side);
 }
 
 void Replace(HICON& icon, HICON other) {

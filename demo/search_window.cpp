@@ -1,6 +1,7 @@
 #include "search_window.h"
 
 #include "command_index.h"
+#include "installed_icon.h"
 #include "scaled.h"
 #include "soft_canvas.h"
 #include "viewer_text.h"
@@ -363,8 +364,8 @@ void CSearchWindow::DrawIcon(CDC& dc, const SearchCommand& command, const CRect&
     if (command.icon.empty()) {
         return;
     }
-    const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(static_cast<HICON>(
-        ::LoadImageW(nullptr, command.icon.c_str(), IMAGE_ICON, place.Width(), place.Height(), LR_LOADFROMFILE)));
+    const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(
+        LoadInstalledIcon(command.icon.c_str(), place.Width()));
     const CRect shown = Mirrored(place);
     if (icon) {
         ::DrawIconEx(dc.GetSafeHdc(), shown.left, shown.top, icon.get(), shown.Width(), shown.Height(), 0, nullptr,

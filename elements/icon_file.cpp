@@ -1,6 +1,7 @@
 #include "elements/icon_file.h"
 
 #include "elements/icon_loading.h"
+#include "installed_icon.h"
 
 #include <fx/paint_round.h>
 #include <varnhold/file_op.h>
@@ -108,6 +109,10 @@ private:
 };
 
 } // namespace
+
+HICON LoadInstalledIcon(const wchar_t* path, int side) {
+    return *path == 0 || LeavesInstallation(path) ? nullptr : ReadIconFile(path, side, side).icon;
+}
 
 FileIcon::FileIcon(const wchar_t* path, int usualSide, int drawnSide) {
     if (*path) {

@@ -100,23 +100,28 @@ HICON PlainIcon(const IconFileReader& read, int side) {
 
 } // namespace
 
-std::shared_ptr<const LoadedIcon> LoadIconFile(const wchar_t* path, int usualSide, int drawnSide) {
+SizedIcon ReadIconFile(const wchar_t* path, int usualSide, int drawnSide) {
     ++LoadedIcon::s_readCount;
     InputFile file(path);
     if (!file.IsOpen()) {
-        return nullptr;
+        return {};
     }
     const IconFileReader read = [&file](std::uint64_t offset, std::span<std::uint8_t> bytes) {
         return file.Read(offset, bytes);
     };
     const auto pictures = ReadIconHeaders(read);
     if (!MayDecode(pictures)) {
-        return nullptr;
+        return {};
     }
     const int side = SideToLoad(*pictures, usualSide, drawnSide);
     HICON icon = PlainIcon(read, side);
     if (!icon) {
         icon = static_cast<HICON>(::LoadImageW(nullptr, path, IMAGE_ICON, side, side, LR_LOADFROMFILE));
     }
-    return icon ? std::make_shared<const LoadedIcon>(icon, side) : nullptr;
+    return {icon, side};
+}
+
+std::shared_ptr<const LoadedIcon> LoadIconFile(const wchar_t* path, int usualSide, int drawnSide) {
+    const SizedIcon read = ReadIconFile(path, usualSide, drawnSide);
+    return read.icon ? std::make_shared<const LoadedIcon>(read.icon, read.side) : nullptr;
 }

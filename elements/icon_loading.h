@@ -30,6 +30,15 @@ private:
     mutable std::map<std::pair<int, bool>, std::unique_ptr<CMFCToolBarImages>> m_lists; // null: could not be made
 };
 
+/// An icon that its holder destroys, and the side at which it was loaded, in pixels.
+struct SizedIcon {
+    HICON icon = nullptr;
+    int side = 0;
+};
+
 /// Reads an icon file at `usualSide` x `usualSide` pixels, or for a picture that is drawn `drawnSide` pixels wide as
-/// SideToLoad says. Null for what cannot be opened, is no icon or may not be decoded.
+/// SideToLoad says. No icon for what cannot be opened, is none or may not be decoded.
+SizedIcon ReadIconFile(const wchar_t* path, int usualSide, int drawnSide);
+
+/// The same for whoever shares it; null for none.
 std::shared_ptr<const LoadedIcon> LoadIconFile(const wchar_t* path, int usualSide, int drawnSide);

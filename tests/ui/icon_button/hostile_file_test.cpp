@@ -1,4 +1,5 @@
 // Icon files that are too large to decode at a paint, and paths that lead out of the installation directory.
+#include "installed_icon.h"
 #include "tests/support/icon_file_bytes.h"
 #include "tests/ui/icon_button/icon_fixture.h"
 
@@ -36,6 +37,22 @@ TEST_F(HostileIconFile, LargePictureBesideAFittingOneIsNotDecodedEither) {
     EXPECT_EQ(ColourOf(m_directory.Write("pic/one.ico", bytes).c_str()), red);
 }
 
+TEST_F(HostileIconFile, IconThatAHostDrawsItselfHasTheSameLimit) {
+    const CString sound = WriteIcon("pic/longest.ico", 1024, red);
+    const HICON icon = LoadInstalledIcon(sound, 16);
+    ICONINFO parts = {};
+    ASSERT_TRUE(::GetIconInfo(icon, &parts));
+    BITMAP picture = {};
+    ::GetObjectW(parts.hbmColor, sizeof picture, &picture);
+    EXPECT_EQ(picture.bmWidth, 16);
+    ::DeleteObject(parts.hbmColor);
+    ::DeleteObject(parts.hbmMask);
+    ::DestroyIcon(icon);
+    EXPECT_EQ(LoadInstalledIcon(WriteIcon("pic/longer.ico", 1032, red), 16), nullptr);
+    EXPECT_EQ(LoadInstalledIcon(L"", 16), nullptr);
+    EXPECT_EQ(LoadInstalledIcon(L"Z:\\no\\such\\file.ico", 16), nullptr);
+}
+
 class IconPlace : public HostileIconFile {
 protected:
     void SetUp() override {
@@ -57,6 +74,7 @@ TEST_F(IconPlace, PathThatLeadsOutOfTheInstallationIsNotRead) {
                                 L".\\..\\outside.ico", L"..\\application\\beside.ico", L"..\\app\\..\\outside.ico"}) {
         EXPECT_EQ(ColourOf(InApp(path)), nothing) << path;
         EXPECT_TRUE(LeavesInstallation(InApp(path))) << path;
+        EXPECT_EQ(LoadInstalledIcon(InApp(path), 32), nullptr) << path;
     }
     EXPECT_EQ(FileIcon::GetReadCount(), before);
 }
