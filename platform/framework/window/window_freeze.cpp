@@ -41,6 +41,8 @@ protected:
 
 private:
     bool TakePicture(CSize size);
+    bool DrawPicture();
+    void ShowFrameAsItIs();
 
     HWND m_frame;
     CBitmap m_picture;
@@ -75,17 +77,36 @@ WindowFreeze::Cover::Cover(HWND frame) : m_frame(frame) {
 WindowFreeze::Cover::~Cover() {
     if (::IsWindow(m_frame)) {
         ::RedrawWindow(m_frame, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
+        ShowFrameAsItIs();
     }
     ::GdiFlush();
     DestroyWindow();
+}
+
+// What a window uncovers comes to the screen piece by piece where the system keeps no picture of it: the new frame is
+// seen first as the picture over it, all at once.
+void WindowFreeze::Cover::ShowFrameAsItIs() {
+    CRect frame;
+    CRect own(0, 0, 0, 0);
+    ::GetWindowRect(m_frame, frame);
+    if (GetSafeHwnd() != nullptr) {
+        GetWindowRect(own);
+    }
+    if (!own.IsRectEmpty() && frame == own && DrawPicture()) {
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    }
 }
 
 bool WindowFreeze::Cover::TakePicture(CSize size) {
     const HDC screen = ::GetDC(nullptr);
     const bool isMade = m_picture.Attach(::CreateCompatibleBitmap(screen, size.cx, size.cy)) != FALSE;
     ::ReleaseDC(nullptr, screen);
+    return isMade && DrawPicture();
+}
+
+bool WindowFreeze::Cover::DrawPicture() {
     CDC memory;
-    if (!isMade || !memory.CreateCompatibleDC(nullptr)) {
+    if (!memory.CreateCompatibleDC(nullptr)) {
         return false;
     }
     const DcSelection selected(memory, m_picture);

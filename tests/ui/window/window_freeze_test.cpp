@@ -79,6 +79,41 @@ COLORREF MiddleOf(HWND window) {
     return colour;
 }
 
+COLORREF g_lastOfCover = 0;
+
+LRESULT CALLBACK LookAtCover(int code, WPARAM window, LPARAM data) {
+    if (code == HCBT_DESTROYWND) {
+        g_lastOfCover = MiddleOf(reinterpret_cast<HWND>(window));
+    }
+    return ::CallNextHookEx(nullptr, code, window, data);
+}
+
+TEST(WindowFreezing, TheCoverShowsTheNewPictureBeforeItGoes) {
+    Frame frame;
+    HHOOK hook = nullptr;
+    {
+        const fx::WindowFreeze freeze;
+        frame.m_child.SetColour(kNew);
+        EXPECT_EQ(MiddleOf(OwnedBy(frame.m_frame).front()), kOld);
+        hook = ::SetWindowsHookExW(WH_CBT, &LookAtCover, nullptr, ::GetCurrentThreadId());
+    }
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_EQ(g_lastOfCover, kNew);
+}
+
+TEST(WindowFreezing, AFrameThatHasMovedIsNotShownInTheOldPlace) {
+    Frame frame;
+    HHOOK hook = nullptr;
+    {
+        const fx::WindowFreeze freeze;
+        frame.m_child.SetColour(kNew);
+        frame.m_frame.SetWindowPos(nullptr, 80, 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        hook = ::SetWindowsHookExW(WH_CBT, &LookAtCover, nullptr, ::GetCurrentThreadId());
+    }
+    ::UnhookWindowsHookEx(hook);
+    EXPECT_EQ(g_lastOfCover, kOld);
+}
+
 TEST(WindowFreezing, TheOldPictureLiesOverTheFrameUntilTheEnd) {
     Frame frame;
     CRect place, coverPlace;
