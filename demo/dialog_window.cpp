@@ -1,5 +1,6 @@
 #include "dialog_window.h"
 
+#include "installed_icon.h"
 #include "scaled.h"
 #include "soft_canvas.h"
 
@@ -127,11 +128,11 @@ int CDialogWindow::Run(const std::function<void()>& finish) {
     ShowWindow(SW_SHOW);
     UpdateWindow();
     const int answer = RunModalLoop(MLF_NOIDLEMSG);
-    if (finish) {
+    if (finish && GetSafeHwnd() != nullptr) { // it may have gone together with its owner
         finish();
     }
     owners.Enable(); // first: the system would give the focus to another program
-    if (::IsWindowVisible(owner)) {
+    if (::IsWindowVisible(owner) && ::IsWindowEnabled(owner)) { // else it would come before what it waits for
         ::SetActiveWindow(owner);
     }
     DestroyWindow();
@@ -253,8 +254,8 @@ void CDialogWindow::OnDrawItem(int /*id*/, LPDRAWITEMSTRUCT item) {
 
 void CDialogWindow::DrawIcon(HDC dc, const std::wstring& name, const CRect& place) const {
     const std::wstring path = m_look.icons + L"16\\" + name + L".ico";
-    const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(static_cast<HICON>(
-        ::LoadImageW(nullptr, path.c_str(), IMAGE_ICON, place.Width(), place.Height(), LR_LOADFROMFILE)));
+    const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(
+        LoadInstalledIcon(path.c_str(), place.Width()));
     if (icon) {
         ::DrawIconEx(dc, place.left, place.top, icon.get(), place.Width(), place.Height(), 0, nullptr, DI_NORMAL);
     }

@@ -69,6 +69,7 @@ public:
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT createStruct);
     afx_msg void OnClose();
+    afx_msg void OnEnable(BOOL isEnabled);
     afx_msg void OnDestroy();
     afx_msg BOOL OnNcActivate(BOOL isActive);
     afx_msg void OnEndSession(BOOL isEnding);
@@ -100,6 +101,8 @@ private:
     void Mirror();
     void RestoreState();
     void KeepState();
+    /// Answers the windows that wait over the frame as their close buttons do, the uppermost first.
+    void CloseDialogs();
 
     void BuildRibbon();
     void BuildStatusBar();
@@ -183,6 +186,8 @@ private:
     CSearchWindow m_search{[this](UINT id) { PostMessage(WM_COMMAND, id); }};
     const ScopedMessageBoxHandler m_messages;
     const CDialogWindow* m_dialog = nullptr; ///< The open one, for the record.
+    bool m_isToClose = false;                ///< As soon as no dialog waits for an answer any more.
+    bool m_isPreviewOrdered = false;
     bool m_tellsPlace = false;
     CSearchField* m_searchField = nullptr;         ///< As the next.
     CMFCRibbonUNIcoButton* m_skinButton = nullptr; ///< The ribbon's, beside the tabs; null when there is none.

@@ -327,7 +327,11 @@ DialogLook CMainFrame::LookOfDialogs() const {
 }
 
 void CMainFrame::PreviewPage() {
+    if (std::exchange(m_isPreviewOrdered, true)) {
+        return; // one is on its way
+    }
     m_map.RequestPage(kOnPaper, [this](CBitmap* page) {
+        m_isPreviewOrdered = false; // the frame takes no input from here on
         if (page == nullptr) {
             Warn(ViewerText("PrintFailed"), *this);
             return;

@@ -1,6 +1,7 @@
 // What the frame finds again at its start, and what it keeps at its end.
 #include "main_frame.h"
 
+#include "open_dialogs.h"
 #include "system_language.h"
 #include "viewer_skins.h"
 #include "viewer_text.h"
@@ -10,6 +11,7 @@
 #include "varnhold/message_box.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -166,10 +168,35 @@ void CMainFrame::KeepState() {
     static_cast<CWinAppEx*>(AfxGetApp())->SaveState(this, DockingSection(m_options.settings).c_str());
 }
 
+// Another program, or the end of what runs this one, closes the frame whatever stands over it. Whoever shows a dialog
+// goes on with the frame when it has been answered: that has to come first.
 void CMainFrame::OnClose() {
+    if (!IsWindowEnabled()) {
+        m_isToClose = true;
+        CloseDialogs();
+        return;
+    }
+    WriteRecord(); // the last one
     KeepState();
     TellTroubles();
     CFrameWndEx::OnClose();
+}
+
+void CMainFrame::CloseDialogs() {
+    for (const HWND window : DialogsOver(GetSafeHwnd())) {
+        ::PostMessageW(window, WM_CLOSE, 0, 0);
+    }
+}
+
+void CMainFrame::OnEnable(BOOL isEnabled) {
+    CFrameWndEx::OnEnable(isEnabled);
+    if (isEnabled == FALSE) {
+        return;
+    }
+    if (std::exchange(m_isToClose, false)) {
+        PostMessage(WM_CLOSE);
+    }
+    m_map.ResumeRequests();
 }
 
 void CMainFrame::OnDestroy() {

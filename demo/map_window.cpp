@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -146,17 +147,27 @@ void CMapWindow::TellWork(bool isAtWork) {
 LRESULT CMapWindow::OnPictureFinished(WPARAM, LPARAM) {
     TakePicture();
     Invalidate(FALSE);
+    std::ranges::move(m_drawer->TakeKept(), std::back_inserter(m_finished));
+    HandOverFinished();
+    return 0;
+}
+
+// A taker may open a window and so come back here, or end this one.
+void CMapWindow::HandOverFinished() {
     const fx::WindowGuard guard(this);
-    for (const auto& drawn : m_drawer->TakeKept()) {
-        // A taker may open a window and so come back here, or end this one.
+    while (guard.IsAlive() && !m_finished.empty() && ::IsWindowEnabled(::GetAncestor(GetSafeHwnd(), GA_ROOT))) {
+        const std::unique_ptr<DrawnMap> drawn = std::move(m_finished.front());
+        m_finished.pop_front();
         if (const auto taker = m_takers.extract(drawn->order)) {
             HandOver(drawn->bitmap, drawn->state, taker.mapped());
         }
-        if (guard.IsGone()) {
-            break;
-        }
     }
-    return 0;
+}
+
+void CMapWindow::ResumeRequests() {
+    if (!m_finished.empty()) {
+        PostMessage(kPictureFinishedMessage);
+    }
 }
 
 void CMapWindow::Finish() {

@@ -7,6 +7,7 @@
 #include "map_painter.h"
 #include "map_state.h"
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <memory>
@@ -39,10 +40,13 @@ public:
     /// Takes a sharp picture of the map; null when there was no room for one.
     using PictureTaker = std::function<void(CBitmap* picture)>;
     /// Hands over a picture of the map as it is now: at once where it is drawn, otherwise when it is. Whoever waits for
-    /// it here would keep the whole program waiting.
+    /// it here would keep the whole program waiting. While the frame takes no input, as another window waits over it
+    /// for an answer, pictures wait, too: a taker may open a window of its own.
     void RequestPicture(PictureTaker taker);
     /// The same of what goes on the page, drawn for itself: `fineness` pixels for each that the page has in the window.
     void RequestPage(int fineness, PictureTaker taker);
+    /// The frame takes input again: pictures that have waited for that are handed over when this has returned.
+    void ResumeRequests();
 
 protected:
     afx_msg void OnPaint();
@@ -63,15 +67,17 @@ private:
 
     void OrderPicture();
     void TakePicture();
+    void HandOverFinished();
     void HandOver(HBITMAP drawn, const MapState& state, const PictureTaker& taker);
     void TellWork(bool isAtWork);
 
     MapState& m_state;
     const MapData& m_data;
     MapPaintStyle m_style;
-    std::unique_ptr<DrawnMap> m_drawn;         ///< The last finished picture, perhaps of an earlier state.
-    unsigned m_order = 0;                      ///< The last order that the drawer was given.
-    std::map<unsigned, PictureTaker> m_takers; ///< Of the pictures that were ordered for them.
+    std::unique_ptr<DrawnMap> m_drawn;                ///< The last finished picture, perhaps of an earlier state.
+    unsigned m_order = 0;                             ///< The last order that the drawer was given.
+    std::map<unsigned, PictureTaker> m_takers;        ///< Of the pictures that were ordered for them.
+    std::deque<std::unique_ptr<DrawnMap>> m_finished; ///< Of those, not handed over yet.
     unsigned m_keptOrder = 0;
     unsigned m_shownVersion = 0;
     bool m_dragging = false;

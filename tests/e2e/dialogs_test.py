@@ -273,6 +273,44 @@ class PrintPreview(unittest.TestCase):
             viewer.open_dialog("preview", "alt+f", "Down", "Down", "Down", "Down", "Return")
 
 
+class OneAtATime(unittest.TestCase):
+    """The pages of a preview take a moment to draw, in which the viewer can be used."""
+
+    def open(self):
+        return DialogViewer(BIN_DIR, "--lang", "en", "--skin", "silver", "--scale", "200")
+
+    def test_a_preview_that_is_ordered_twice_opens_once(self):
+        with self.open() as viewer:
+            viewer.open_dialog("preview", "ctrl+shift+v", "ctrl+shift+v")
+            viewer.settled_look()
+            self.assertEqual(len(viewer.windows("Print preview")), 1)
+            viewer.key("Escape")
+            viewer.wait_for_closed()
+            viewer.open_dialog("message", "F1")
+            self.assertEqual(viewer.windows("Print preview"), [])
+
+    def test_a_preview_waits_until_a_message_that_came_before_it_is_answered(self):
+        with self.open() as viewer:
+            viewer.open_dialog("message", "ctrl+shift+v", "F1")
+            viewer.settled_look()
+            self.assertEqual(viewer.windows("Print preview"), [])
+            viewer.key("Escape")
+            viewer.wait_for(lambda record: record.get("dialog", {}).get("name") == "preview")
+            viewer.key("Escape")
+            viewer.wait_for_closed()
+            viewer.key("ctrl+i")  # and the frame has the keys
+            before = viewer.record["map"]["pixelsPerDegree"]
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > before)
+
+    def test_a_click_on_the_frame_leaves_what_it_waits_for_before_it(self):
+        with self.open() as viewer:
+            viewer.open_dialog("message", "F1")
+            left, top, right, _ = viewer.record["frameOnScreen"]
+            viewer.double_click((left + right) // 2, top + 10)
+            viewer.click_part("ok")
+            viewer.wait_for_closed()
+
+
 class Options(unittest.TestCase):
     OPEN = ("alt+f", "Down", "Down", "Down", "Down", "Down", "Down", "Return")
 

@@ -145,6 +145,10 @@ class Viewer:
             time.sleep(0.05)
         raise AssertionError(f"no record met the condition in {DEADLINE} s; last one: {record and record.get('map', record)}")
 
+    def last_record(self):
+        """Of a run that has ended."""
+        return self._read_record()
+
     def _read_record(self):
         """None before the first one and while one is written. It is long: one that has been read is not read again."""
         try:

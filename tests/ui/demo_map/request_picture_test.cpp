@@ -89,6 +89,38 @@ TEST_F(RequestedPicture, HasTheSizeOfTheMapAndIsWhollyDrawn) {
     EXPECT_EQ(corner, GroundOf(state));
 }
 
+TEST_F(RequestedPicture, WaitsAsLongAsTheFrameTakesNoInput) {
+    Show(MapPalette::Night);
+    map->RequestPicture(Keep());
+    map->RequestPicture(Keep());
+    ::EnableWindow(parent.GetSafeHwnd(), FALSE); // another window waits over it for an answer
+    map->Finish();
+    PumpPending();
+    EXPECT_TRUE(kept.empty());
+    ::EnableWindow(parent.GetSafeHwnd(), TRUE);
+    map->ResumeRequests();
+    EXPECT_TRUE(kept.empty()) << "whoever enables the frame may not have finished yet";
+    PumpPending();
+    EXPECT_EQ(kept, std::vector<COLORREF>(2, GroundIn(MapPalette::Night)));
+}
+
+TEST_F(RequestedPicture, WaitsWhileTheTakerOfAnotherOneKeepsTheFrameFromInput) {
+    Show(MapPalette::Night);
+    std::size_t meanwhile = 1;
+    map->RequestPicture([&](CBitmap*) {
+        ::EnableWindow(parent.GetSafeHwnd(), FALSE);
+        map->Finish();
+        PumpPending();
+        meanwhile = kept.size();
+        ::EnableWindow(parent.GetSafeHwnd(), TRUE);
+    });
+    map->RequestPicture(Keep());
+    map->Finish();
+    PumpPending();
+    EXPECT_EQ(meanwhile, 0u);
+    EXPECT_EQ(kept.size(), 1u);
+}
+
 /// What a picture is, and whether its left lower part, where the scale bar stands, has anything but the ground.
 struct SeenPicture {
     CSize size;
