@@ -59,7 +59,7 @@ private:
 };
 
 /// The command of a button, which takes the icon for menus and toolbars where it was registered before.
-UINT ObtainCommand(const ToolBarInfo& info, HICON icon) {
+UINT ObtainCommand(const ToolBarInfo& info, const CommandIcon& icon) {
     CMenuIdMgr& registry = *CMenuIdMgr::Ins();
     int id = 0;
     if (registry.GetMenuId(info.strKeyword, id)) {
@@ -102,7 +102,7 @@ void InsertItem(CMFCToolBar& bar, ToolBarItemKind kind, const ToolBarInfo& info,
 
 /// An icon of one load and its first place in the list; -1: it could not be loaded.
 struct ButtonIcon {
-    FileIcon icon;
+    CommandIcon icon;
     int image = -1;
 };
 /// Many buttons may have the same few files.
@@ -110,14 +110,11 @@ using ButtonIcons = std::map<std::wstring, ButtonIcon>;
 
 /// Every button has a place of its own in the list.
 int AddImage(ButtonIcon& loaded) {
-    if (!loaded.icon.Get()) {
-        return -1;
-    }
     // A copy of pixels that are there costs less than those of the icon.
     if (loaded.image >= 0) {
         return UserImages().AddImage(UserImages(), loaded.image);
     }
-    loaded.image = UserImages().AddIcon(loaded.icon.Get(), FALSE);
+    loaded.image = AddCommandIcon(UserImages(), loaded.icon);
     return loaded.image;
 }
 
@@ -131,9 +128,8 @@ void AddItem(CMFCToolBar& bar, const ToolBarInfo& info, ButtonIcons& icons) {
     if (known == icons.end()) {
         known = icons.emplace(info.strPicPath, ButtonIcon{LoadCommandIcon(info.strPicPath), -1}).first;
     }
-    const FileIcon& icon = known->second.icon;
     const int image = AddImage(known->second);
-    InsertItem(bar, kind, info, ObtainCommand(info, icon.Get()), image);
+    InsertItem(bar, kind, info, ObtainCommand(info, known->second.icon), image);
 }
 
 /// Empty without a window.

@@ -19,6 +19,7 @@
 #include "varnhold/strings.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <stdexcept>
 #include <type_traits>
@@ -242,13 +243,29 @@ struct IconDestroyer {
     void operator()(HICON icon) const { ::DestroyIcon(icon); }
 };
 
+using OwnedIcon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer>;
+
+/// The sides of the pictures that each of the viewer's icon files has.
+constexpr std::array kPictureSides = {16, 20, 24, 32, 40, 48, 64};
+
+/// Of the picture for the display's scale: the smallest that need not be enlarged.
+int DrawnSide() {
+    const int drawn = afxGlobalData.ScalePixels(kIconSide);
+    const auto* const found = std::ranges::find_if(kPictureSides, [drawn](int side) { return side >= drawn; });
+    return found != kPictureSides.end() ? *found : kPictureSides.back();
+}
+
 /// Fills the list anew: `files` in the order of its indexes. An index without a file has an empty picture.
 void FillIcons(CMFCToolBarImages& images, const std::vector<CString>& files) {
     images.Clear();
     images.SetImageSize(CSize(kIconSide, kIconSide));
     for (const CString& file : files) {
-        const std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> icon(LoadInstalledIcon(file, kIconSide));
-        images.AddIcon(icon ? icon.get() : ::LoadIconW(nullptr, IDI_APPLICATION));
+        const OwnedIcon icon(LoadInstalledIcon(file, kIconSide));
+        const int index = images.AddIcon(icon ? icon.get() : ::LoadIconW(nullptr, IDI_APPLICATION));
+        if (const int side = DrawnSide(); icon && side > kIconSide) {
+            const OwnedIcon larger(LoadInstalledIcon(file, side));
+            images.SetLargerIcon(index, larger.get(), CSize(side, side));
+        }
     }
 }
 

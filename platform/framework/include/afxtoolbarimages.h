@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+#include <memory>
 #include <vector>
 
 #include <afxwin.h>
@@ -42,6 +44,10 @@ public:
     int AddIcon(HICON hIcon, BOOL bAlphaBlend = FALSE);
     int AddImage(HBITMAP hbmp, BOOL bSetBitPerPixel = FALSE);
     int AddImage(const CMFCToolBarImages& imageList, int nIndex);
+    /// Gives the image a second picture, in a larger size of its own: it is drawn where the image is shown larger than
+    /// GetImageSize, and follows it in whatever is done to the list. The icon stays the caller's. FALSE: there is no
+    /// such image, the size is not larger than the list's, or the icon has no picture.
+    BOOL SetLargerIcon(int nIndex, HICON hIcon, SIZE sizeIcon);
     /// A bitmap resource, or one of type "PNG". bAdd appends instead of replacing.
     BOOL Load(UINT uiResID, HINSTANCE hinstRes = NULL, BOOL bAdd = FALSE);
     /// A BMP or PNG file; a file larger than nMaxFileSize bytes (0: any) is refused.
@@ -156,7 +162,10 @@ private:
     void TrimWell();
     void UpdateCount();
     CRect GetSourceRect(int nIndex) const;
-    BOOL BlendImage(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, UINT nLook, BYTE alphaSrc);
+    /// The image's second picture, a list of it alone, for where the image is drawn in that size; null: the image's own
+    /// one is as good.
+    const CMFCToolBarImages* LargerFor(int nIndex, SIZE sizeDrawn) const;
+    BOOL BlendImage(CDC* pDC, const CRect& rectDest, int iImageIndex, const CRect& rectSrc, UINT nLook, BYTE alphaSrc);
 
     HBITMAP m_hbmImageWell = NULL;
     CSize m_sizeImage = CSize(16, 15);
@@ -168,6 +177,7 @@ private:
     int m_iCount = 0;
     int m_nBitsPerPixel = 0;
     int m_nLightPercentage = -1;
+    std::map<int, std::unique_ptr<CMFCToolBarImages>> m_larger; ///< second pictures by the index of their image
     std::vector<COLORREF> m_mappedColors; ///< the system's colours that MapTo3dColors has put in; empty: none
     double m_dblScale = 1.0;
     COLORREF m_clrTransparent = RGB(192, 192, 192);

@@ -32,6 +32,7 @@ void CMFCToolBarImages::Clear() {
     m_strFile.Empty();
     m_mapOffsets.RemoveAll();
     m_mappedColors.clear();
+    m_larger.clear();
 }
 
 void CMFCToolBarImages::SetWell(HBITMAP hbmp, int nSpare) {
@@ -120,6 +121,30 @@ int CMFCToolBarImages::AddIcon(HICON hIcon, BOOL /*bAlphaBlend*/) {
     return picture.bitmap != nullptr && Append(picture.bitmap, TRUE) ? m_iCount - 1 : -1;
 }
 
+BOOL CMFCToolBarImages::SetLargerIcon(int nIndex, HICON hIcon, SIZE sizeIcon) {
+    const bool isLarger = sizeIcon.cx > m_sizeImage.cx && sizeIcon.cy > m_sizeImage.cy;
+    if (nIndex < 0 || nIndex >= m_iCount || !isLarger) {
+        return FALSE;
+    }
+    auto larger = std::make_unique<CMFCToolBarImages>();
+    larger->SetImageSize(sizeIcon);
+    if (larger->AddIcon(hIcon) < 0) {
+        return FALSE;
+    }
+    m_larger[nIndex] = std::move(larger);
+    return TRUE;
+}
+
+// One that is too small is still nearer to what is drawn than the list's own. The list may have been resized meanwhile.
+const CMFCToolBarImages* CMFCToolBarImages::LargerFor(int nIndex, SIZE sizeDrawn) const {
+    const auto found = m_larger.find(nIndex);
+    const bool isEnlarged = sizeDrawn.cx > m_sizeImage.cx || sizeDrawn.cy > m_sizeImage.cy;
+    if (!isEnlarged || found == m_larger.end() || found->second->m_sizeImage.cx <= m_sizeImage.cx) {
+        return nullptr;
+    }
+    return found->second.get();
+}
+
 int CMFCToolBarImages::AddImage(HBITMAP hbmp, BOOL) {
     const Picture picture = visual::PictureFromBitmap(hbmp, m_bAutoCheckPremlt);
     const int first = m_iCount;
@@ -130,6 +155,16 @@ int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) 
     if (nIndex < 0 || nIndex >= imageList.m_iCount || imageList.m_sizeImage != m_sizeImage) {
         return -1;
     }
+    const auto withLarger = [this, &imageList, nIndex](int added) {
+        const auto found = imageList.m_larger.find(nIndex);
+        if (found != imageList.m_larger.end()) {
+            auto larger = std::make_unique<CMFCToolBarImages>();
+            if (found->second->CopyTo(*larger)) {
+                m_larger[added] = std::move(larger);
+            }
+        }
+        return added;
+    };
     const PixelView well = ViewOf(m_hbmImageWell);
     const int kept = m_iCount * m_sizeImage.cx;
     const bool isAlike = m_nBitsPerPixel == imageList.m_nBitsPerPixel && well.height == m_sizeImage.cy;
@@ -137,7 +172,7 @@ int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) 
         const PixelView source = &imageList == this ? well : ViewOf(imageList.m_hbmImageWell);
         CopyPixels(source, imageList.GetSourceRect(nIndex), well, kept);
         m_nSpare = well.width - kept - m_sizeImage.cx;
-        return m_iCount++;
+        return withLarger(m_iCount++);
     }
     std::uint32_t* bits = nullptr;
     const HBITMAP one = visual::MakeBitmap32(m_sizeImage.cx, m_sizeImage.cy, &bits);
@@ -146,7 +181,7 @@ int CMFCToolBarImages::AddImage(const CMFCToolBarImages& imageList, int nIndex) 
     }
     CopyPixels(ViewOf(imageList.m_hbmImageWell), imageList.GetSourceRect(nIndex),
                {bits, m_sizeImage.cx, m_sizeImage.cy}, 0);
-    return Append(one, imageList.m_nBitsPerPixel == 32) ? m_iCount - 1 : -1;
+    return Append(one, imageList.m_nBitsPerPixel == 32) ? withLarger(m_iCount - 1) : -1;
 }
 
 BOOL CMFCToolBarImages::Load(UINT uiResID, HINSTANCE hinstRes, BOOL bAdd) {
@@ -229,6 +264,13 @@ BOOL CMFCToolBarImages::CopyTo(CMFCToolBarImages& imageList) {
         m_mapOffsets.GetNextAssoc(position, id, offset);
         imageList.m_mapOffsets.SetAt(id, offset);
     }
+    for (const auto& [index, larger] : m_larger) {
+        auto copy = std::make_unique<CMFCToolBarImages>();
+        if (!larger->CopyTo(*copy)) {
+            return FALSE;
+        }
+        imageList.m_larger[index] = std::move(copy);
+    }
     return TRUE;
 }
 
@@ -241,6 +283,7 @@ BOOL CMFCToolBarImages::DeleteImage(int iImage) {
     if (width == 0) {
         SetWell(nullptr);
         m_iCount = 0;
+        m_larger.clear();
         return TRUE;
     }
     std::uint32_t* bits = nullptr;
@@ -253,10 +296,20 @@ BOOL CMFCToolBarImages::DeleteImage(int iImage) {
     CopyPixels(source, CRect((iImage + 1) * step, 0, m_iCount * step, source.height), target, iImage * step);
     SetWell(rest);
     --m_iCount;
+    std::map<int, std::unique_ptr<CMFCToolBarImages>> kept;
+    for (auto& [index, larger] : m_larger) {
+        if (index != iImage) {
+            kept[index > iImage ? index - 1 : index] = std::move(larger);
+        }
+    }
+    m_larger = std::move(kept);
     return TRUE;
 }
 
 void CMFCToolBarImages::SetImageSize(SIZE sizeImage, BOOL bUpdateCount) {
+    if (m_sizeImage != CSize(sizeImage)) {
+        m_larger.clear(); // the images are others now
+    }
     m_sizeImage = sizeImage;
     if (bUpdateCount) {
         UpdateCount();
@@ -269,6 +322,7 @@ SIZE CMFCToolBarImages::GetImageSize(BOOL bDest) const {
 
 void CMFCToolBarImages::SetSingleImage() {
     TrimWell();
+    m_larger.clear();
     const PixelView view = ViewOf(m_hbmImageWell);
     m_sizeImage = CSize(view.width, view.height);
     m_iCount = view.bits != nullptr ? 1 : 0;
@@ -344,6 +398,9 @@ BOOL CMFCToolBarImages::GrayImages(int nGrayImageLuminancePercentage) {
         const unsigned grey = std::min(luma * percent / 100, visual::AlphaOf(pixel));
         view.bits[i] = visual::MakeArgb(visual::AlphaOf(pixel), grey, grey, grey);
     }
+    for (const auto& [index, larger] : m_larger) {
+        larger->GrayImages(nGrayImageLuminancePercentage);
+    }
     return TRUE;
 }
 
@@ -357,6 +414,9 @@ BOOL CMFCToolBarImages::Mirror() {
             std::reverse(&view.At(image * m_sizeImage.cx, y), &view.At(image * m_sizeImage.cx, y) + m_sizeImage.cx);
         }
     }
+    for (const auto& [index, larger] : m_larger) {
+        larger->Mirror();
+    }
     return TRUE;
 }
 
@@ -368,6 +428,9 @@ BOOL CMFCToolBarImages::MirrorVert() {
     const int height = std::min<int>(m_sizeImage.cy, view.height);
     for (int y = 0; y < height / 2; ++y) {
         std::swap_ranges(&view.At(0, y), &view.At(0, y) + view.width, &view.At(0, height - 1 - y));
+    }
+    for (const auto& [index, larger] : m_larger) {
+        larger->MirrorVert();
     }
     return TRUE;
 }
@@ -383,14 +446,16 @@ BOOL CMFCToolBarImages::SmoothResize(double dblImageScale) {
     if (resized == nullptr) {
         return FALSE;
     }
-    const PixelView source = ViewOf(m_hbmImageWell), target{bits, static_cast<int>(size.cx) * m_iCount, size.cy};
-    std::vector<std::uint32_t> from(static_cast<std::size_t>(m_sizeImage.cx) * m_sizeImage.cy);
+    const PixelView target{bits, static_cast<int>(size.cx) * m_iCount, size.cy};
     std::vector<std::uint32_t> to(static_cast<std::size_t>(size.cx) * size.cy);
     for (int image = 0; image < m_iCount; ++image) {
         // One image at a time, so that neighbours do not run into each other.
-        const PixelView one{from.data(), m_sizeImage.cx, m_sizeImage.cy}, scaled{to.data(), size.cx, size.cy};
-        std::ranges::fill(from, 0u);
-        CopyPixels(source, GetSourceRect(image), one, 0);
+        const CMFCToolBarImages* const larger = LargerFor(image, size);
+        const CMFCToolBarImages& source = larger != nullptr ? *larger : *this;
+        const CRect place = source.GetSourceRect(larger != nullptr ? 0 : image);
+        std::vector<std::uint32_t> from(static_cast<std::size_t>(place.Width()) * place.Height());
+        const PixelView one{from.data(), place.Width(), place.Height()}, scaled{to.data(), size.cx, size.cy};
+        CopyPixels(ViewOf(source.m_hbmImageWell), place, one, 0);
         visual::Resample(one, scaled);
         CopyPixels(scaled, CRect(0, 0, size.cx, size.cy), target, image * size.cx);
     }

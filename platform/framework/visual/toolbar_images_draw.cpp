@@ -1,7 +1,7 @@
 #include "afxtoolbarimages.h"
 
 #include "afxglobals.h"
-#include "fx/dc_scope.h"
+#include "gdi/device_pixels.h"
 #include "visual/image_source.h"
 #include "visual/scratch_picture.h"
 
@@ -99,7 +99,7 @@ BOOL CMFCToolBarImages::Draw(CDC* pDC, int x, int y, int iImageIndex, BOOL bHili
     look |= bIndeterminate ? LookIndeterminate : 0;
     look |= bShadow ? LookShadow : 0;
     look |= bInactive && m_bFadeInactive ? LookFaded : 0;
-    return BlendImage(pDC, CRect(CPoint(x, y), size), GetSourceRect(iImageIndex), look, alphaSrc);
+    return BlendImage(pDC, CRect(CPoint(x, y), size), iImageIndex, CRect(CPoint(0, 0), m_sizeImage), look, alphaSrc);
 }
 
 BOOL CMFCToolBarImages::DrawEx(CDC* pDC, CRect rect, int iImageIndex, ImageAlignHorz horzAlign,
@@ -107,9 +107,8 @@ BOOL CMFCToolBarImages::DrawEx(CDC* pDC, CRect rect, int iImageIndex, ImageAlign
     if (iImageIndex < 0 || iImageIndex >= m_iCount) {
         return FALSE;
     }
-    CRect source = rectSrc.IsRectEmpty() ? CRect(CPoint(0, 0), m_sizeImage) : rectSrc;
+    const CRect source = rectSrc.IsRectEmpty() ? CRect(CPoint(0, 0), m_sizeImage) : rectSrc;
     const CSize size = source.Size();
-    source.OffsetRect(GetSourceRect(iImageIndex).TopLeft());
     CRect target = rect;
     if (horzAlign != ImageAlignHorzStretch) {
         const int free = rect.Width() - size.cx;
@@ -121,20 +120,27 @@ BOOL CMFCToolBarImages::DrawEx(CDC* pDC, CRect rect, int iImageIndex, ImageAlign
         target.top += vertAlign == ImageAlignVertCenter ? free / 2 : vertAlign == ImageAlignVertBottom ? free : 0;
         target.bottom = target.top + size.cy;
     }
-    return BlendImage(pDC, target, source, 0, alphaSrc);
+    return BlendImage(pDC, target, iImageIndex, source, 0, alphaSrc);
 }
 
-BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect& rectSrc, UINT nLook, BYTE alphaSrc) {
+BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, int iImageIndex, const CRect& rectSrc, UINT nLook,
+                                   BYTE alphaSrc) {
     if (rectDest.IsRectEmpty() || rectSrc.IsRectEmpty()) {
         return FALSE;
     }
-    const visual::ScratchPicture whole(rectSrc.Width(), rectSrc.Height());
+    const bool isWhole = rectSrc == CRect(CPoint(0, 0), m_sizeImage);
+    const CMFCToolBarImages* const larger = isWhole ? LargerFor(iImageIndex, rectDest.Size()) : nullptr;
+    const CMFCToolBarImages& list = larger != nullptr ? *larger : *this;
+    const CRect source = larger != nullptr
+                             ? larger->GetSourceRect(0)
+                             : CRect(rectSrc.TopLeft() + GetSourceRect(iImageIndex).TopLeft(), rectSrc.Size());
+    const visual::ScratchPicture whole(source.Width(), source.Height());
     if (whole.IsEmpty()) {
         return FALSE;
     }
-    CopyImage(visual::ViewOf(m_hbmImageWell), rectSrc, whole.View(), m_nBitsPerPixel == 32, m_clrTransparent);
+    CopyImage(visual::ViewOf(list.m_hbmImageWell), source, whole.View(), list.m_nBitsPerPixel == 32, m_clrTransparent);
     std::optional<visual::ScratchPicture> scaled;
-    if (rectDest.Size() != rectSrc.Size()) {
+    if (rectDest.Size() != source.Size()) {
         scaled.emplace(rectDest.Width(), rectDest.Height());
         if (scaled->IsEmpty()) {
             return FALSE;
@@ -159,9 +165,15 @@ BOOL CMFCToolBarImages::BlendImage(CDC* pDC, const CRect& rectDest, const CRect&
     const BLENDFUNCTION over{AC_SRC_OVER, 0, static_cast<BYTE>(alpha), AC_SRC_ALPHA};
     BOOL drawn = FALSE;
     {
-        const fx::PictureScope place(*pDC, rectDest);
-        drawn = ::AlphaBlend(*pDC, place.Corner().x, place.Corner().y, rectDest.Width(), rectDest.Height(),
-                             image.Context(), 0, 0, rectDest.Width(), rectDest.Height(), over);
+        // An image is not turned round in a mirrored window: an arrow to the west points to the left there, too.
+        const bool isMirrored = gdi::IsMirrored(*pDC);
+        const POINT corner = isMirrored ? gdi::DeviceCorner(*pDC, rectDest) : POINT(rectDest.TopLeft());
+        std::optional<gdi::ScopedDevicePixels> pixels;
+        if (isMirrored) {
+            pixels.emplace(*pDC);
+        }
+        drawn = ::AlphaBlend(*pDC, corner.x, corner.y, rectDest.Width(), rectDest.Height(), image.Context(), 0, 0,
+                             rectDest.Width(), rectDest.Height(), over);
     }
     m_rectLastDraw = rectDest;
     return drawn;

@@ -192,6 +192,7 @@ BOOL CMFCToolBarImages::UpdateImage(int iImage, HBITMAP hbmp) {
                      [this](std::uint32_t pixel) { return IsClear(pixel, false, m_clrTransparent) ? 0 : pixel; });
     }
     visual::CopyPixels(added, CRect(CPoint(0, 0), m_sizeImage), ViewOf(m_hbmImageWell), iImage * m_sizeImage.cx);
+    m_larger.erase(iImage);
     ::DeleteObject(picture.bitmap);
     return TRUE;
 }
@@ -238,6 +239,9 @@ void CMFCToolBarImages::AdaptColors(COLORREF clrBase, COLORREF clrTone) {
                                 moved(visual::GreenOf(pixel), GetGValue(clrBase), GetGValue(clrTone)),
                                 moved(visual::BlueOf(pixel), GetBValue(clrBase), GetBValue(clrTone)));
     });
+    for (const auto& [index, larger] : m_larger) {
+        larger->AdaptColors(clrBase, clrTone);
+    }
 }
 
 BOOL CMFCToolBarImages::MapTo3dColors(BOOL, COLORREF clrSrc, COLORREF clrDest) {

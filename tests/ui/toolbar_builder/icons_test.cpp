@@ -5,6 +5,8 @@
 #include "tests/support/icon_writer.h"
 
 #include <afxcommandmanager.h>
+#include <afxdrawmanager.h>
+#include <afxglobals.h>
 
 #include <filesystem>
 #include <fstream>
@@ -30,6 +32,52 @@ TEST_F(ToolBarBuilder, AnIconIsTheUsersImageOfItsButton) {
     ASSERT_NE(CMFCToolBar::GetUserImages(), nullptr) << "the library's list stands in for missing user's images";
     EXPECT_EQ(CSize(CMFCToolBar::GetUserImages()->GetImageSize()), CSize(16, 16));
     EXPECT_LT(with.GetImage(), CMFCToolBar::GetUserImages()->GetCount());
+}
+
+/// A display of one and a half times the usual size, for one test.
+class ScopedScale {
+public:
+    ScopedScale() { EXPECT_TRUE(afxGlobalData.SetRibbonImageScale(1.5)); }
+    ~ScopedScale() { afxGlobalData.SetRibbonImageScale(0); }
+    ScopedScale(const ScopedScale&) = delete;
+    ScopedScale& operator=(const ScopedScale&) = delete;
+};
+
+COLORREF DrawnColor(CMFCToolBarImages& images, int index, int side) {
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    void* bits = nullptr;
+    CBitmap bitmap;
+    bitmap.Attach(CDrawingManager::CreateBitmap_32(CSize(side, side), &bits));
+    CBitmap* const before = dc.SelectObject(&bitmap);
+    images.DrawEx(&dc, CRect(0, 0, side, side), index, CMFCToolBarImages::ImageAlignHorzStretch,
+                  CMFCToolBarImages::ImageAlignVertStretch);
+    const COLORREF color = dc.GetPixel(side / 2, side / 2);
+    dc.SelectObject(before);
+    return color;
+}
+
+TEST_F(ToolBarBuilder, ALargerDisplayShowsTheFilesPictureThatFitsItNotTheSmallOneEnlarged) {
+    const ScopedScale scale;
+    const std::filesystem::path file(GetIconPathStr(L"pic\\bar.ico", 16).GetString());
+    std::filesystem::create_directories(file.parent_path());
+    const std::string bytes = MakeIconFile({{16, {0xFF0000, 0xFF0000}}, {24, {0x0000FF, 0x0000FF}}});
+    std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    constexpr int known = 40803;
+    CMenuIdMgr::Ins()->Add(L"B", known, L"", L"", L"", L"", L"");
+    GetCmdMgr()->ClearCmdImage(known);
+    ASSERT_TRUE(Load("<g KEYWORD='G'><b><i TYPE='button' KEYWORD='A' PICPATH='pic\\bar.ico'/>"
+                     "<i TYPE='button' KEYWORD='B' PICPATH='pic\\bar.ico'/></b></g>"));
+    CMFCToolBarImages& users = *CMFCToolBar::GetUserImages();
+    EXPECT_EQ(CSize(users.GetImageSize()), CSize(16, 16));
+    for (const int button : {0, 1}) {
+        const int image = First().GetButton(button)->GetImage();
+        EXPECT_EQ(DrawnColor(users, image, 16), RGB(255, 0, 0)) << button;
+        EXPECT_EQ(DrawnColor(users, image, 24), RGB(0, 0, 255)) << button;
+    }
+    const int ofCommand = GetCmdMgr()->GetCmdImage(known);
+    EXPECT_EQ(DrawnColor(*CMFCToolBar::GetImages(), ofCommand, 16), RGB(255, 0, 0)) << "in menus";
+    EXPECT_EQ(DrawnColor(*CMFCToolBar::GetImages(), ofCommand, 24), RGB(0, 0, 255)) << "in menus";
 }
 
 TEST_F(ToolBarBuilder, ARegisteredCommandWithoutAnImageGetsTheSharedOne) {

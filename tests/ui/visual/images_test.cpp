@@ -134,6 +134,77 @@ TEST_F(Images, IconsAreAddedAtTheListsSize) {
     EXPECT_EQ(m_images.AddIcon(nullptr), -1);
 }
 
+/// A list of images of 4 x 4 pixels, the first of which, red, is blue in a picture of 8 x 8.
+class ImagesWithALarger : public Images {
+protected:
+    void SetUp() override {
+        Images::SetUp();
+        const HICON icon = MakeTranslucentIcon(8, 0xFF0000C0);
+        ASSERT_TRUE(m_images.SetLargerIcon(0, icon, CSize(8, 8)));
+        ::DestroyIcon(icon);
+    }
+    COLORREF DrawnAt(CMFCToolBarImages& images, int index, int side) {
+        m_dc.FillSolidRect(0, 0, 32, 32, RGB(255, 255, 255));
+        CAfxDrawState state;
+        EXPECT_TRUE(images.PrepareDrawImage(state, CSize(side, side)));
+        EXPECT_TRUE(images.Draw(&m_dc, 0, 0, index));
+        images.EndDrawImage(state);
+        return m_dc.GetPixel(side / 2, side / 2);
+    }
+    static constexpr COLORREF kRed = RGB(0xC0, 0, 0), kGreen = RGB(0, 0xC0, 0), kBlue = RGB(0, 0, 0xC0);
+};
+
+TEST_F(ImagesWithALarger, TheLargerPictureIsDrawnWhereTheImageIsEnlarged) {
+    EXPECT_EQ(DrawnAt(m_images, 0, 4), kRed);
+    EXPECT_EQ(DrawnAt(m_images, 0, 3), kRed) << "made smaller";
+    for (const int side : {6, 8, 12}) {
+        EXPECT_EQ(DrawnAt(m_images, 0, side), kBlue) << side;
+    }
+    EXPECT_EQ(DrawnAt(m_images, 1, 8), kGreen) << "one that has none";
+    EXPECT_TRUE(m_images.DrawEx(&m_dc, CRect(0, 0, 8, 8), 0, CMFCToolBarImages::ImageAlignHorzStretch,
+                                CMFCToolBarImages::ImageAlignVertStretch));
+    EXPECT_EQ(m_dc.GetPixel(4, 4), kBlue);
+    EXPECT_TRUE(m_images.DrawEx(&m_dc, CRect(0, 0, 8, 8), 0, CMFCToolBarImages::ImageAlignHorzStretch,
+                                CMFCToolBarImages::ImageAlignVertStretch, CRect(0, 0, 2, 2)));
+    EXPECT_EQ(m_dc.GetPixel(4, 4), kRed) << "a part of the image is one of the list's own";
+}
+
+TEST_F(ImagesWithALarger, TheLargerPictureFollowsItsImage) {
+    CMFCToolBarImages copy;
+    ASSERT_TRUE(m_images.CopyTo(copy));
+    EXPECT_EQ(DrawnAt(copy, 0, 8), kBlue);
+    EXPECT_EQ(m_images.AddImage(m_images, 0), 3);
+    EXPECT_EQ(DrawnAt(m_images, 3, 8), kBlue) << "a copy";
+    ASSERT_TRUE(m_images.DeleteImage(0));
+    EXPECT_EQ(DrawnAt(m_images, 0, 8), kGreen);
+    EXPECT_EQ(DrawnAt(m_images, 2, 8), kBlue) << "it has moved up with its image";
+    ASSERT_TRUE(m_images.GrayImages(100));
+    const COLORREF grey = DrawnAt(m_images, 2, 8);
+    EXPECT_EQ(GetRValue(grey), GetBValue(grey));
+    m_images.Clear();
+    m_images.SetImageSize(CSize(4, 4));
+    const HBITMAP strip = Strip({0xFFC00000});
+    m_images.AddImage(strip);
+    ::DeleteObject(strip);
+    EXPECT_EQ(DrawnAt(m_images, 0, 8), kRed) << "gone with the images";
+}
+
+TEST_F(ImagesWithALarger, ResizingTakesTheLargerPicture) {
+    ASSERT_TRUE(m_images.SmoothResize(2));
+    EXPECT_EQ(DrawnAt(m_images, 0, 8), kBlue);
+    EXPECT_EQ(DrawnAt(m_images, 1, 8), kGreen);
+}
+
+TEST_F(ImagesWithALarger, OnlyALargerPictureOfAnImageThatIsThereIsTaken) {
+    const HICON icon = MakeTranslucentIcon(8, 0xFF0000C0);
+    EXPECT_FALSE(m_images.SetLargerIcon(3, icon, CSize(8, 8))) << "no such image";
+    EXPECT_FALSE(m_images.SetLargerIcon(-1, icon, CSize(8, 8)));
+    EXPECT_FALSE(m_images.SetLargerIcon(1, icon, CSize(4, 4))) << "not larger";
+    EXPECT_FALSE(m_images.SetLargerIcon(1, nullptr, CSize(8, 8)));
+    EXPECT_EQ(DrawnAt(m_images, 1, 8), kGreen);
+    ::DestroyIcon(icon);
+}
+
 TEST_F(Images, AnIconsSoftEdgesAreKeptWithoutBlendingToo) {
     for (const BOOL blends : {FALSE, TRUE}) {
         const HICON icon = MakeTranslucentIcon(4, 0x80000000);
