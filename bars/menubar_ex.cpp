@@ -100,6 +100,8 @@ void CMfcMenubarEx::SetRightHMenu(int resourceId) {
 }
 
 void CMfcMenubarEx::CreateFromMenu(HMENU menu, BOOL isDefaultMenu, BOOL forceUpdate) {
+    FollowRightButton();
+    m_rightButton = nullptr;
     // The first place is never that of the right-hand button beside others.
     if (s_nRightBtnIndex > 0) {
         RemoveButton(s_nRightBtnIndex);
@@ -135,14 +137,27 @@ void CMfcMenubarEx::AddRightButton() {
     // Behind the menu's own, whose indexes the buttons of a maximised child do not change by coming and going.
     const int childsFirst = ButtonToIndex(ButtonOf(*this, GetSystemMenu()));
     s_nRightBtnIndex = InsertButton(*button, childsFirst); // a copy
+    m_rightIndex = s_nRightBtnIndex;
+    m_rightButton = GetButton(m_rightIndex);
     AdjustLayout();
     if (GetSafeHwnd() != nullptr) {
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_FRAME);
     }
 }
 
+// The field in which help is asked for may stand before it. An index that another bar has set stays.
+void CMfcMenubarEx::FollowRightButton() {
+    const int index = m_rightButton != nullptr ? ButtonToIndex(m_rightButton) : -1;
+    if (index >= 0 && index != m_rightIndex && s_nRightBtnIndex == m_rightIndex) {
+        s_nRightBtnIndex = index;
+    }
+    m_rightIndex = index;
+    m_rightButton = GetButton(index);
+}
+
 void CMfcMenubarEx::AdjustLocations() {
     CMFCMenuBar::AdjustLocations();
+    FollowRightButton();
     CMFCToolBarButton* const button = GetButton(s_nRightBtnIndex);
     if (button == nullptr || GetSafeHwnd() == nullptr) {
         return;

@@ -48,5 +48,10 @@ private:
     void AddRightButton();
     CRuntimeClass* GetRightButtonClass() const;
 
+    /// Follows the button when one before it has come or gone.
+    void FollowRightButton();
+
     CRuntimeClass* m_menuButtonClass = nullptr; ///< Null while none was chosen here.
+    CMFCToolBarButton* m_rightButton = nullptr; ///< Null: this bar has none, or it is gone. Compared, never touched.
+    int m_rightIndex = -1;                      ///< Where it was when the bar last looked.
 };

@@ -439,6 +439,31 @@ TEST_F(MenubarExWithHelpField, LeavesTheRightHandButtonItsRoomWhicheverCameFirst
     ExpectRoomForBoth("wider");
 }
 
+TEST_F(MenubarExWithHelpField, TheIndexOfTheRightHandButtonFollowsWhenTheFieldBeforeItGoes) {
+    TheBar().EnableHelpCombobox(kAsk, L"Ask", 120);
+    BuildWithRightMenu();
+    ASSERT_EQ(CMfcMenubarEx::s_nRightBtnIndex, 3) << "behind two menus and the field";
+    TheBar().EnableHelpCombobox(0);
+    PumpPending();
+    EXPECT_EQ(CMfcMenubarEx::s_nRightBtnIndex, 2);
+    EXPECT_EQ(TextAt(2), L"&Help");
+    EXPECT_EQ(PlaceOf(2).right, Client().right);
+    SetWidth(640);
+    EXPECT_EQ(PlaceOf(2).right, Client().right) << "wider";
+    Build();
+    PumpPending();
+    EXPECT_EQ(TheBar().GetCount(), 3) << "the one button is built anew";
+    EXPECT_EQ(CMfcMenubarEx::s_nRightBtnIndex, 2);
+}
+
+TEST_F(MenubarExWithHelpField, AnIndexThatAnotherBarHasSetStays) {
+    TheBar().EnableHelpCombobox(kAsk, L"Ask", 120);
+    BuildWithRightMenu();
+    CMfcMenubarEx::s_nRightBtnIndex = 1;
+    TheBar().EnableHelpCombobox(0);
+    EXPECT_EQ(CMfcMenubarEx::s_nRightBtnIndex, 1);
+}
+
 TEST_F(MenubarExWithHelpField, AndInAMirroredBar) {
     m_frame->ModifyStyleEx(0, WS_EX_LAYOUTRTL);
     TheBar().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
