@@ -27,7 +27,13 @@ void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF
 
 BOOL CDC::DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags) { return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags); }
 BOOL CDC::DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState) {
-    return ::DrawFrameControl(m_hDC, lpRect, nType, nState);
+    if (nType != DFC_BUTTON || !gdi::IsMirrored(m_hDC)) {
+        return ::DrawFrameControl(m_hDC, lpRect, nType, nState);
+    }
+    // A tick does not change its direction in a mirrored window.
+    RECT onDevice = gdi::DeviceRect(m_hDC, *lpRect);
+    const gdi::ScopedDevicePixels pixels(m_hDC);
+    return ::DrawFrameControl(m_hDC, &onDevice, nType, nState);
 }
 void CDC::DrawFocusRect(LPCRECT lpRect) { ::DrawFocusRect(m_hDC, lpRect); }
 
