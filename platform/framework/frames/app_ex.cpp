@@ -6,7 +6,10 @@
 #include "afxMDIFrameWndEx.h"
 #include "afxtoolbar.h"
 #include "afxtooltipmanager.h"
+#include "afxusertoolsmanager.h"
+#include "core/framework_text.h"
 #include "fx/state_store.h"
+#include "toolbar/customize_texts.h"
 
 #include <algorithm>
 #include <new>
@@ -81,6 +84,7 @@ struct CWinAppEx::Managers {
     std::unique_ptr<CKeyboardManager> keyboard;
     std::unique_ptr<CTooltipManager> toolTip;
     std::unique_ptr<CContextMenuManager> contextMenus;
+    std::unique_ptr<CUserToolsManager> userTools;
 };
 
 CWinAppEx::CWinAppEx(BOOL bResourceSmartUpdate)
@@ -93,6 +97,29 @@ CWinAppEx::~CWinAppEx() = default;
 int CWinAppEx::ExitInstance() {
     m_managers = std::make_unique<Managers>(*this);
     return CWinApp::ExitInstance();
+}
+
+BOOL CWinAppEx::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWinApp::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+        return TRUE;
+    }
+    CUserToolsManager* const tools = afxUserToolsManager;
+    if (tools == nullptr || tools->FindTool(nID) == nullptr) {
+        return FALSE;
+    }
+    if (nCode == CN_UPDATE_COMMAND_UI) {
+        static_cast<CCmdUI*>(pExtra)->Enable();
+        return TRUE;
+    }
+    if (nCode == CN_COMMAND && pHandlerInfo == nullptr) {
+        const CString program = tools->FindTool(nID)->GetCommand();
+        if (!tools->InvokeTool(nID)) {
+            CString text;
+            text.Format(FrameworkText(toolbar::kToolFailedText), static_cast<LPCTSTR>(program));
+            AfxMessageBox(text, MB_OK | MB_ICONEXCLAMATION);
+        }
+    }
+    return nCode == CN_COMMAND;
 }
 
 LPCTSTR CWinAppEx::SetRegistryBase(LPCTSTR lpszSectionName) {
@@ -240,6 +267,20 @@ CContextMenuManager* CWinAppEx::GetContextMenuManager() {
     return m_managers->contextMenus.get();
 }
 
+BOOL CWinAppEx::EnableUserTools(const UINT uiCmdToolsDummy, const UINT uiCmdFirst, const UINT uiCmdLast,
+                                CRuntimeClass* pToolRTC, UINT uArgMenuID, UINT uInitDirMenuID) {
+    const bool isOfTools = pToolRTC != nullptr && pToolRTC->IsDerivedFrom(RUNTIME_CLASS(CUserTool));
+    if (m_managers->userTools != nullptr || uiCmdToolsDummy == 0 || uiCmdFirst == 0 || uiCmdLast < uiCmdFirst ||
+        !isOfTools) {
+        return FALSE;
+    }
+    m_managers->userTools = std::make_unique<CUserToolsManager>(uiCmdToolsDummy, uiCmdFirst, uiCmdLast, pToolRTC,
+                                                                uArgMenuID, uInitDirMenuID);
+    return TRUE;
+}
+
+CUserToolsManager* CWinAppEx::GetUserToolsManager() { return m_managers->userTools.get(); }
+
 BOOL CWinAppEx::ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd) {
     return GetContextMenuManager()->ShowPopupMenu(uiMenuResId, point.x, point.y, pWnd);
 }
@@ -250,6 +291,9 @@ BOOL CWinAppEx::LoadState(LPCTSTR lpszSectionName, CFrameImpl* pFrameImpl) {
     }
     PreLoadState();
     CMFCToolBar::LoadParameters();
+    if (m_managers->userTools != nullptr) {
+        m_managers->userTools->LoadState();
+    }
     const BOOL isLoaded = pFrameImpl == nullptr || pFrameImpl->LoadState();
     if (m_bLoadWindowPlacement && pFrameImpl != nullptr) {
         ReloadWindowPlacement(pFrameImpl->Frame());
@@ -272,6 +316,9 @@ BOOL CWinAppEx::SaveState(LPCTSTR lpszSectionName, CFrameImpl* pFrameImpl) {
     }
     PreSaveState();
     BOOL isSaved = CMFCToolBar::SaveParameters();
+    if (m_managers->userTools != nullptr) {
+        isSaved &= m_managers->userTools->SaveState();
+    }
     if (pFrameImpl != nullptr) {
         isSaved &= pFrameImpl->SaveState();
         KeepFramePlacement(*pFrameImpl->Frame());

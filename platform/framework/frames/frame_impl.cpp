@@ -8,6 +8,7 @@
 #include "frames/window_list.h"
 #include "fx/mdi.h"
 #include "ribbon/keyboard.h"
+#include "toolbar/user_tool_items.h"
 #include "window/mouse_messages.h"
 
 #include <windowsx.h>
@@ -134,6 +135,9 @@ void CFrameImpl::SetPaneEntry(UINT entry, bool showsToolbarsOnly) {
 
 void CFrameImpl::OnShowPopupMenu(CMFCPopupMenu* popup) {
     m_activePopup = popup;
+    if (popup != nullptr) {
+        toolbar::ShowUserTools(*popup);
+    }
     auto* const mdiFrame = DYNAMIC_DOWNCAST(CMDIFrameWnd, m_frame);
     if (mdiFrame != nullptr && popup != nullptr) {
         ListChildWindows(*popup, *mdiFrame);

@@ -6,6 +6,7 @@
 #include <vector>
 
 class CMFCToolBarButton;
+class CUserTool;
 
 namespace toolbar {
 class CommandCatalog;
@@ -23,7 +24,8 @@ class CommandCatalog;
 #define AFX_CUSTOMIZE_MENUAMPERS 0x0080
 
 /// Lets the user change the toolbars and the keys of a frame: pages for commands, which are dragged from a list into
-/// toolbars, for toolbars, for keys and for options. While it is open the toolbars are in the customize mode
+/// toolbars, for toolbars, for the user's tools (after CWinAppEx::EnableUserTools, without AFX_CUSTOMIZE_NOTOOLS), for
+/// keys, for menus and for options. While it is open the toolbars are in the customize mode
 /// (CMFCToolBar::IsCustomizeMode): their buttons are dragged within and between bars and, beside all of them, away, and
 /// send no commands. Modeless; made with new, it deletes itself with its window:
 ///
@@ -99,12 +101,23 @@ public:
     /// NULL when the frame is gone.
     CFrameWnd* Frame() const;
     BOOL AskAssignKey(ACCEL& key) { return OnAssignKey(&key); }
+    BOOL AskToolsValidity(const CObList& tools) { return CheckToolsValidity(tools); }
+    void TellToolsPage() { OnInitToolsPage(); }
+    void TellBeforeChange(CUserTool& tool) { OnBeforeChangeTool(&tool); }
+    void TellAfterChange(CUserTool& tool) { OnAfterChangeTool(&tool); }
     /// The dialog that is open; NULL: none is.
     static CMFCToolBarsCustomizeDialog* Current();
 
 protected:
     /// The user has chosen the key for a command; it may be changed. FALSE: it is not assigned.
     virtual BOOL OnAssignKey(ACCEL* pAccel);
+    /// The user leaves the page of tools or closes the dialog. FALSE: the page stays, and the override has said why.
+    virtual BOOL CheckToolsValidity(const CObList& lstTools);
+    /// The page of tools is about to be shown for the first time.
+    virtual void OnInitToolsPage();
+    /// What the tool is made of is about to change, and has changed.
+    virtual void OnBeforeChangeTool(CUserTool* pSelTool);
+    virtual void OnAfterChangeTool(CUserTool* pSelTool);
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     afx_msg void OnClose();
@@ -120,10 +133,13 @@ private:
     /// A row with Help and Close below the pages.
     void PlaceButtons();
     void TellHelp();
+    /// FALSE: a tool is not valid; its page is in front then.
+    BOOL MayClose();
 
     std::unique_ptr<toolbar::CommandCatalog> m_catalog;
     std::vector<std::unique_ptr<CPropertyPage>> m_ownPages;
-    HWND m_frame = NULL; ///< may go while the dialog is open
+    CPropertyPage* m_toolsPage = NULL; ///< one of the own pages; NULL: there are no tools
+    HWND m_frame = NULL;               ///< may go while the dialog is open
     BOOL m_bUserToolBars = FALSE;
     BOOL m_bFromMenus = FALSE;
     bool m_isOpen = false; ///< the frame has heard that it opens

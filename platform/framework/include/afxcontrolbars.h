@@ -49,6 +49,8 @@
 #include "afxToolBarsCustomizeDialog.h"
 #include "afxtooltipctrl.h"
 #include "afxtooltipmanager.h"
+#include "afxusertool.h"
+#include "afxusertoolsmanager.h"
 #include "afxvisualmanager.h"
 #include "afxvisualmanageroffice2003.h"
 #include "afxvisualmanageroffice2007.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "afxusertool.h"
 #include "afxwin.h"
 
 #include <memory>
@@ -10,6 +11,7 @@ class CFrameWndEx;
 class CMDIFrameWndEx;
 class CKeyboardManager;
 class CTooltipManager;
+class CUserToolsManager;
 
 namespace fx {
 template <class Base>
@@ -26,6 +28,8 @@ public:
     ~CWinAppEx() override;
 
     int ExitInstance() override;
+    /// Enables and carries out the commands of user tools that nobody before the application has handled.
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
     // Registry base: the section below which everything of this object lies. "Workspace" unless set.
     LPCTSTR SetRegistryBase(LPCTSTR lpszSectionName = NULL);
@@ -62,12 +66,20 @@ public:
     CKeyboardManager* GetKeyboardManager();
     CTooltipManager* GetTooltipManager();
     CContextMenuManager* GetContextMenuManager();
+    /// Makes the manager of the user's tools; see CUserToolsManager. FALSE: there is one already, the ids are none, or
+    /// the class is not one of tools.
+    BOOL EnableUserTools(const UINT uiCmdToolsDummy, const UINT uiCmdFirst, const UINT uiCmdLast,
+                         CRuntimeClass* pToolRTC = RUNTIME_CLASS(CUserTool), UINT uArgMenuID = 0,
+                         UINT uInitDirMenuID = 0);
+    /// NULL without EnableUserTools.
+    CUserToolsManager* GetUserToolsManager();
 
     /// Shows a menu resource at a screen point by GetContextMenuManager; its commands go to pWnd's frame. FALSE when
     /// the menu is missing.
     virtual BOOL ShowPopupMenu(UINT uiMenuResId, const CPoint& point, CWnd* pWnd);
 
-    /// Where the frame's panes are and what they keep, the frame's place and size, and what holds for all toolbars;
+    /// Where the frame's panes are and what they keep, the frame's place and size, the user's tools, and what holds for
+    /// all toolbars;
     /// below lpszSectionName or, without one, the present base section. CFrameWndEx::LoadFrame calls it for its frame,
     /// and closing the main frame saves, where the application has a registry key. Shortcuts are the host's to keep
     /// (CKeyboardManager::SaveState): ids of configured commands change from one configuration to the next. FALSE:

@@ -4,6 +4,7 @@
 #include "afximageeditordialog.h"
 #include "afxkeyboardmanager.h"
 #include "afxmenubar.h"
+#include "afxusertoolsmanager.h"
 #include "core/framework_text.h"
 #include "fx/registered_messages.h"
 #include "fx/scoped_change.h"
@@ -90,13 +91,18 @@ void CMFCToolBarsCustomizeDialog::AddFrameMenu() {
     }
 }
 
-// Without a manager of keys there is nobody to change them.
+// Without a manager of keys there is nobody to change them; the same holds for tools.
 void CMFCToolBarsCustomizeDialog::AddPages(const CList<CRuntimeClass*, CRuntimeClass*>* custom) {
     m_ownPages.push_back(toolbar::MakeCommandsPage(*this));
     m_ownPages.push_back(toolbar::MakeToolBarsPage(*this));
+    if (afxUserToolsManager != nullptr && (m_uiFlags & AFX_CUSTOMIZE_NOTOOLS) == 0) {
+        m_ownPages.push_back(toolbar::MakeToolsPage(*this));
+        m_toolsPage = m_ownPages.back().get();
+    }
     if (afxKeyboardManager != nullptr) {
         m_ownPages.push_back(toolbar::MakeKeyboardPage(*this));
     }
+    m_ownPages.push_back(toolbar::MakeMenusPage(*this));
     m_ownPages.push_back(toolbar::MakeOptionsPage(*this));
     for (POSITION position = custom != nullptr ? custom->GetHeadPosition() : nullptr; position != nullptr;) {
         std::unique_ptr<CObject> made(custom->GetNext(position)->CreateObject());
@@ -199,7 +205,23 @@ BOOL CMFCToolBarsCustomizeDialog::OnCommand(WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void CMFCToolBarsCustomizeDialog::OnClose() { DestroyWindow(); }
+BOOL CMFCToolBarsCustomizeDialog::MayClose() {
+    const fx::WindowGuard guard(this);
+    if (m_toolsPage == nullptr || afxUserToolsManager == nullptr) {
+        return TRUE;
+    }
+    const BOOL isValid = CheckToolsValidity(afxUserToolsManager->GetUserTools());
+    if (!isValid && guard.IsAlive()) {
+        SetActivePage(m_toolsPage);
+    }
+    return isValid && guard.IsAlive();
+}
+
+void CMFCToolBarsCustomizeDialog::OnClose() {
+    if (MayClose()) {
+        DestroyWindow();
+    }
+}
 
 BOOL CMFCToolBarsCustomizeDialog::OnHelpInfo(HELPINFO*) {
     TellHelp();
@@ -225,3 +247,7 @@ BOOL CMFCToolBarsCustomizeDialog::OnEditToolbarMenuImage(CWnd* pWndParent, CBitm
 }
 
 BOOL CMFCToolBarsCustomizeDialog::OnAssignKey(ACCEL*) { return TRUE; }
+BOOL CMFCToolBarsCustomizeDialog::CheckToolsValidity(const CObList&) { return TRUE; }
+void CMFCToolBarsCustomizeDialog::OnInitToolsPage() {}
+void CMFCToolBarsCustomizeDialog::OnBeforeChangeTool(CUserTool*) {}
+void CMFCToolBarsCustomizeDialog::OnAfterChangeTool(CUserTool*) {}

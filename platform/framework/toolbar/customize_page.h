@@ -32,7 +32,10 @@ constexpr short kPageHeight = 178;
 
 std::unique_ptr<CPropertyPage> MakeCommandsPage(CMFCToolBarsCustomizeDialog& dialog);
 std::unique_ptr<CPropertyPage> MakeToolBarsPage(CMFCToolBarsCustomizeDialog& dialog);
+/// Only while there is a manager of tools.
+std::unique_ptr<CPropertyPage> MakeToolsPage(CMFCToolBarsCustomizeDialog& dialog);
 std::unique_ptr<CPropertyPage> MakeKeyboardPage(CMFCToolBarsCustomizeDialog& dialog);
+std::unique_ptr<CPropertyPage> MakeMenusPage(CMFCToolBarsCustomizeDialog& dialog);
 std::unique_ptr<CPropertyPage> MakeOptionsPage(CMFCToolBarsCustomizeDialog& dialog);
 
 } // namespace toolbar

@@ -8,7 +8,7 @@
 
 namespace {
 
-enum Page : int { kCommandsPage, kToolBarsPage, kKeyboardPage, kOptionsPage };
+enum Page : int { kCommandsPage, kToolBarsPage, kKeyboardPage, kMenusPage, kOptionsPage };
 
 // The controls of the pages.
 constexpr int kCategories = 1001;
@@ -747,7 +747,7 @@ TEST_F(KeyPageTest, WithoutAManagerOfKeysThereIsNoPageForThem) {
     Close();
     CKeyboardManager* const manager = std::exchange(afxKeyboardManager, nullptr);
     Open();
-    EXPECT_EQ(m_dialog->GetPageCount(), 3);
+    EXPECT_EQ(m_dialog->GetPageCount(), 4);
     Close();
     afxKeyboardManager = manager;
 }

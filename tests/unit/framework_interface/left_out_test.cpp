@@ -170,26 +170,24 @@ LEFT_OUT("docking of the plain control bars", CFrameWnd, DockControlBar, EnableD
          SetDockState)
 LEFT_OUT("docking of the plain control bars", CControlBar, DrawGripper, EnableDocking)
 
-LEFT_OUT("customizing: tear-off menus, user tools", CWinAppEx, EnableTearOffMenus, EnableUserTools, GetMouseManager,
-         GetShellManager, GetUserToolsManager, InitMouseManager, InitShellManager)
-LEFT_OUT("customizing: tear-off menus, user tools", CFrameWndEx, GetTearOffBars, OnDrawMenuLogo, OnShowCustomizePane,
-         OnTearOffMenu, OnToolbarContextMenu, SetupToolbarMenu)
-LEFT_OUT("customizing: tear-off menus, user tools", CMDIFrameWndEx, GetTearOffBars, OnDrawMenuLogo, OnShowCustomizePane,
+LEFT_OUT("customizing: tear-off menus", CWinAppEx, EnableTearOffMenus, GetMouseManager, GetShellManager,
+         InitMouseManager, InitShellManager)
+LEFT_OUT("customizing: tear-off menus", CFrameWndEx, GetTearOffBars, OnDrawMenuLogo, OnShowCustomizePane, OnTearOffMenu,
+         OnToolbarContextMenu, SetupToolbarMenu)
+LEFT_OUT("customizing: tear-off menus", CMDIFrameWndEx, GetTearOffBars, OnDrawMenuLogo, OnShowCustomizePane,
          OnTearOffMenu, SetupToolbarMenu)
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonBaseElement, AddToListBox, OnDrawOnList)
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonCheckBox, OnDrawOnList)
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonEdit, OnDrawOnList)
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCRibbonSeparator, AddToListBox, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus", CMFCRibbonBaseElement, AddToListBox, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus", CMFCRibbonCheckBox, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus", CMFCRibbonEdit, OnDrawOnList)
+LEFT_OUT("customizing: tear-off menus", CMFCRibbonSeparator, AddToListBox, OnDrawOnList)
 
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCToolBarButton, CreateFromOleData, GetClipboardFormat,
-         PrepareDrag, SetClipboardFormatName)
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCToolBarMenuButton, EnableQuickCustomize, IsQuickMode,
-         SetTearOff)
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCPopupMenu, AlwaysShowEmptyToolsEntry, CreateTearOffBar,
+LEFT_OUT("customizing: tear-off menus", CMFCToolBarButton, CreateFromOleData, GetClipboardFormat, PrepareDrag,
+         SetClipboardFormatName)
+LEFT_OUT("customizing: tear-off menus", CMFCToolBarMenuButton, EnableQuickCustomize, IsQuickMode, SetTearOff)
+LEFT_OUT("customizing: tear-off menus", CMFCPopupMenu, AlwaysShowEmptyToolsEntry, CreateTearOffBar,
          GetQuickCustomizeType, IsAlwaysShowEmptyToolsEntry, IsCustomizePane, IsQuickCustomize, SetQuickCustomizeType,
          SetQuickMode)
-LEFT_OUT("customizing: tear-off menus, user tools", CMFCPopupMenuBar, BuildOrigItems, FindDestintationToolBar,
-         LoadFromHash)
+LEFT_OUT("customizing: tear-off menus", CMFCPopupMenuBar, BuildOrigItems, FindDestintationToolBar, LoadFromHash)
 
 LEFT_OUT("two toolbars that share a row and its buttons", CMFCToolBar, CanHandleSiblings, GetSiblingToolBar,
          IsOneRowWithSibling, IsSibling, SetOneRowWithSibling, SetSiblingToolBar, SetTwoRowsWithSibling)
@@ -304,7 +302,6 @@ class CDialogBar;
 class CReBar;
 class CImage;
 class CSplitterWnd;
-class CUserTool;
 class CMFCVisualManagerVS2005;
 class CMFCVisualManagerWindows;
 class CMFCVisualManagerWindows7;
@@ -326,9 +323,8 @@ class CMFCRibbonCustomizePropertyPage;
 LEFT_OUT_CLASSES("older bars, replaced by the panes", CToolBar, CDialogBar, CReBar)
 LEFT_OUT_CLASSES("pictures: the framework keeps them in image lists", CImage)
 LEFT_OUT_CLASSES("windows of several parts", CSplitterWnd)
-LEFT_OUT_CLASSES("tools of the user's", CUserTool)
-LEFT_OUT("tools of the user's", CMFCToolBarsCustomizeDialog, CheckToolsValidity, EnableTools, OnAfterChangeTool,
-         OnBeforeChangeTool, OnInitToolsPage)
+LEFT_OUT("what it does is not documented", CMFCToolBarsCustomizeDialog, EnableTools)
+LEFT_OUT("what it does is not documented", CUserTool, CopyIconToClipboard)
 LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
                  CMFCVisualManagerWindows7)
 LEFT_OUT("helpers of the docking panes", CGlobalUtils, AdjustRectToworkArea, CalcExpectedDockedRect, CanBeAttached,

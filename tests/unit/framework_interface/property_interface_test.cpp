@@ -108,7 +108,54 @@ INTERFACE_OF(CMFCToolBarsCustomizeDialog) {
     MEMBER(BOOL, SetUserCategory, (LPCTSTR));
 }
 
-PROTECTED_INTERFACE_OF(CMFCToolBarsCustomizeDialog) { VIRTUAL(BOOL, OnAssignKey, (ACCEL*)); }
+PROTECTED_INTERFACE_OF(CMFCToolBarsCustomizeDialog) {
+    VIRTUAL(BOOL, CheckToolsValidity, (const CObList&));
+    VIRTUAL(void, OnAfterChangeTool, (CUserTool*));
+    VIRTUAL(BOOL, OnAssignKey, (ACCEL*));
+    VIRTUAL(void, OnBeforeChangeTool, (CUserTool*));
+    VIRTUAL(void, OnInitToolsPage, ());
+}
+
+INTERFACE_OF(CUserTool) {
+    BASE(CObject);
+    MADE_FROM();
+    MEMBER(void, DrawToolIcon, (CDC*, const CRect&));
+    MEMBER(const CString&, GetCommand, () const);
+    MEMBER(UINT, GetCommandId, () const);
+    VIRTUAL(BOOL, Invoke, ());
+    VIRTUAL(void, Serialize, (CArchive&));
+    MEMBER(void, SetCommand, (LPCTSTR));
+    VIRTUAL(HICON, SetToolIcon, ());
+    DATA(CString, m_strArguments);
+    DATA(CString, m_strInitialDirectory);
+    DATA(CString, m_strLabel);
+}
+
+PROTECTED_INTERFACE_OF(CUserTool) { VIRTUAL(HICON, LoadDefaultIcon, ()); }
+
+INTERFACE_OF(CUserToolsManager) {
+    BASE(CObject);
+    MADE_FROM();
+    MADE_FROM(UINT, UINT, UINT, CRuntimeClass*, UINT, UINT);
+    MEMBER(CUserTool*, CreateNewTool, ());
+    MEMBER(CUserTool*, FindTool, (UINT) const);
+    MEMBER(UINT, GetArgumentsMenuID, () const);
+    MEMBER(const CString&, GetDefExt, () const);
+    MEMBER(const CString&, GetFilter, () const);
+    MEMBER(UINT, GetInitialDirMenuID, () const);
+    MEMBER(int, GetMaxTools, () const);
+    MEMBER(UINT, GetToolsEntryCmd, () const);
+    MEMBER(const CObList&, GetUserTools, () const);
+    MEMBER(BOOL, InvokeTool, (UINT));
+    MEMBER(BOOL, IsUserToolCmd, (UINT) const);
+    MEMBER(BOOL, LoadState, (LPCTSTR));
+    MEMBER(BOOL, MoveToolDown, (CUserTool*));
+    MEMBER(BOOL, MoveToolUp, (CUserTool*));
+    MEMBER(BOOL, RemoveTool, (CUserTool*));
+    MEMBER(BOOL, SaveState, (LPCTSTR));
+    MEMBER(void, SetDefExt, (const CString&));
+    MEMBER(void, SetFilter, (const CString&));
+}
 
 INTERFACE_OF(CMFCAcceleratorKey) {
     BASE(CObject);

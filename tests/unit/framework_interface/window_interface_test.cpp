@@ -164,7 +164,9 @@ INTERFACE_OF(CWinAppEx) {
     MEMBER(int, GetDataVersionMinor, () const);
     MEMBER(int, GetInt, (LPCTSTR, int));
     CALL(GetInt, LPCTSTR);
+    MEMBER(BOOL, EnableUserTools, (UINT, UINT, UINT, CRuntimeClass*, UINT, UINT));
     MEMBER(CContextMenuManager*, GetContextMenuManager, ());
+    MEMBER(CUserToolsManager*, GetUserToolsManager, ());
     MEMBER(CKeyboardManager*, GetKeyboardManager, ());
     MEMBER(BOOL, GetObject, (LPCTSTR, CObject&));
     MEMBER(CString, GetRegSectionPath, (LPCTSTR));

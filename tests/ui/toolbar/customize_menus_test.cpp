@@ -1,0 +1,146 @@
+// The page of menus in the customize dialog: context menus are changed by the real mouse and put back.
+#include "tests/ui/toolbar/customize_pages.h"
+
+namespace {
+
+constexpr int kResetFrame = 1001;
+constexpr int kMenus = 1002;
+constexpr int kResetMenu = 1003;
+constexpr UINT kMenuResource = 310;
+
+class CustomizeMenusTest : public CustomizePageTest {
+protected:
+    CustomizeMenusTest() {
+        m_before = std::exchange(afxContextMenuManager, nullptr);
+        m_manager = std::make_unique<CContextMenuManager>();
+        m_manager->AddMenu(L"Map", kMenuResource);
+    }
+    ~CustomizeMenusTest() override {
+        Close();
+        m_manager.reset();
+        afxContextMenuManager = m_before;
+    }
+    HMENU Popup() const { return ::GetSubMenu(m_manager->GetMenuByName(L"Map"), 0); }
+    std::vector<UINT> Shown() const {
+        std::vector<UINT> ids;
+        for (int position = 0; position < ::GetMenuItemCount(Popup()); ++position) {
+            ids.push_back(::GetMenuItemID(Popup(), position));
+        }
+        return ids;
+    }
+    /// The bar on the page.
+    CMFCToolBar& HostBar() {
+        for (POSITION position = CMFCToolBar::GetAllToolbars().GetHeadPosition(); position != nullptr;) {
+            auto* const bar = const_cast<CMFCToolBar*>(
+                static_cast<const CMFCToolBar*>(CMFCToolBar::GetAllToolbars().GetNext(position)));
+            if (::GetParent(bar->m_hWnd) == m_dialog->GetActivePage()->m_hWnd) {
+                return *bar;
+            }
+        }
+        ADD_FAILURE() << "there is none";
+        return Bar();
+    }
+    static CPoint OnScreen(const CMFCToolBar& bar, int index) {
+        CRect rect;
+        bar.GetItemRect(index, rect);
+        bar.ClientToScreen(&rect);
+        return rect.CenterPoint();
+    }
+    static void Mouse(CPoint screen, DWORD flags) {
+        SendMouse(screen, flags);
+        PumpPending();
+    }
+    CMFCPopupMenuBar* OpenMenu() {
+        const CPoint at = OnScreen(HostBar(), 0);
+        Mouse(at, 0);
+        Mouse(at, MOUSEEVENTF_LEFTDOWN);
+        Mouse(at, MOUSEEVENTF_LEFTUP);
+        CMFCPopupMenu* const menu = CMFCPopupMenu::GetActiveMenu();
+        return menu != nullptr ? menu->GetMenuBar() : nullptr;
+    }
+    static void Drag(CPoint from, CPoint to) {
+        Mouse(from, 0);
+        Mouse(from, MOUSEEVENTF_LEFTDOWN);
+        for (int step = 1; step <= 8; ++step) {
+            Mouse(CPoint(from.x + (to.x - from.x) * step / 8, from.y + (to.y - from.y) * step / 8), 0);
+        }
+        Mouse(to, MOUSEEVENTF_LEFTUP);
+    }
+
+    CContextMenuManager* m_before = nullptr;
+    std::unique_ptr<CContextMenuManager> m_manager;
+};
+
+using Ids = std::vector<UINT>;
+
+TEST_F(CustomizeMenusTest, ACommandThatIsDraggedOffAnOpenContextMenuIsGoneFromItAndComesBackWithReset) {
+    ASSERT_EQ(Shown(), (Ids{3041, 3042, 3043}));
+    Open();
+    ASSERT_TRUE(GoTo(L"Menu"));
+    CMFCPopupMenuBar* const menu = OpenMenu();
+    ASSERT_NE(menu, nullptr);
+    const HMENU handle = m_manager->GetMenuByName(L"Map");
+    Drag(OnScreen(*menu, 1), CPoint(20, 20));
+    CMFCPopupMenu::CloseAll();
+    PumpPending();
+    EXPECT_EQ(Shown(), (Ids{3041, 3043}));
+    EXPECT_EQ(m_manager->GetMenuByName(L"Map"), handle) << "who holds the menu holds it still";
+    EXPECT_TRUE(IsOpen());
+    ClickAndAnswer(kResetMenu, IDNO);
+    EXPECT_EQ(Shown(), (Ids{3041, 3043}));
+    ClickAndAnswer(kResetMenu, IDYES);
+    EXPECT_EQ(Shown(), (Ids{3041, 3042, 3043}));
+    EXPECT_EQ(m_manager->GetMenuByName(L"Map"), handle);
+}
+
+TEST_F(CustomizeMenusTest, ACommandMovesWithinAnOpenContextMenuAndTheDefaultItemStaysIt) {
+    ::SetMenuDefaultItem(Popup(), 3043, FALSE);
+    Open();
+    ASSERT_TRUE(GoTo(L"Menu"));
+    CMFCPopupMenuBar* const menu = OpenMenu();
+    ASSERT_NE(menu, nullptr);
+    Drag(OnScreen(*menu, 2), OnScreen(*menu, 0) + CSize(0, -5));
+    CMFCPopupMenu::CloseAll();
+    PumpPending();
+    EXPECT_EQ(Shown(), (Ids{3043, 3041, 3042}));
+    EXPECT_EQ(::GetMenuDefaultItem(Popup(), FALSE, 0), 3043u);
+}
+
+TEST_F(CustomizeMenusTest, AMenuThatOnlyOpensAndClosesStaysTheSame) {
+    Open();
+    ASSERT_TRUE(GoTo(L"Menu"));
+    const HMENU popup = Popup();
+    ASSERT_NE(OpenMenu(), nullptr);
+    CMFCPopupMenu::CloseAll();
+    PumpPending();
+    EXPECT_EQ(Popup(), popup);
+    EXPECT_EQ(Contents(), L"3001 3002 | 3003") << "the frame's bars";
+}
+
+TEST_F(CustomizeMenusTest, WithoutContextMenusAndAMenuBarThereIsNothingToPutBack) {
+    m_manager.reset();
+    Open();
+    ASSERT_TRUE(GoTo(L"Menu"));
+    EXPECT_FALSE(IsEnabled(kMenus));
+    EXPECT_FALSE(IsEnabled(kResetMenu));
+    EXPECT_FALSE(IsEnabled(kResetFrame));
+}
+
+TEST_F(CustomizeMenusTest, TheMenuBarOfTheFrameIsPutBack) {
+    CMFCMenuBar menuBar;
+    ASSERT_TRUE(menuBar.Create(m_frame));
+    const HMENU menu = ::LoadMenuW(AfxGetResourceHandle(), MAKEINTRESOURCEW(kMenuResource));
+    menuBar.CreateFromMenu(menu, TRUE, TRUE);
+    ASSERT_EQ(menuBar.GetCount(), 1);
+    menuBar.InsertButton(CMFCToolBarButton(3001, -1, L"Added"));
+    Open();
+    ASSERT_TRUE(GoTo(L"Menu"));
+    ASSERT_TRUE(IsEnabled(kResetFrame));
+    ClickAndAnswer(kResetFrame, IDYES);
+    EXPECT_EQ(menuBar.GetCount(), 1);
+    Close();
+    menuBar.DestroyWindow();
+    ::DestroyMenu(menu);
+}
+
+} // namespace
