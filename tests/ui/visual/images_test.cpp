@@ -261,6 +261,31 @@ TEST_F(Images, MirroringRightToLeftTurnsEachImage) {
     EXPECT_EQ(m_dc.GetPixel(0, 0), RGB(0xC0, 0, 0));
 }
 
+TEST_F(Images, AnImageIsNotTurnedRoundInAMirroredWindow) {
+    const HBITMAP halves = Strip({0xFFC00000, 0xFF00C000});
+    CMFCToolBarImages images;
+    images.SetImageSize(CSize(8, 4));
+    ASSERT_EQ(images.AddImage(halves), 0);
+    ::DeleteObject(halves);
+    ::SetLayout(m_dc, LAYOUT_RTL);
+    EXPECT_TRUE(images.Draw(&m_dc, 2, 1, 0));
+    EXPECT_TRUE(images.DrawEx(&m_dc, CRect(2, 11, 18, 19), 0, CMFCToolBarImages::ImageAlignHorzStretch,
+                              CMFCToolBarImages::ImageAlignVertStretch));
+    ::SetLayout(m_dc, 0);
+    const COLORREF white = RGB(255, 255, 255), red = RGB(0xC0, 0, 0), green = RGB(0, 0xC0, 0);
+    // Of 32 pixels the rectangle from 2 to 10 has those from 22 on.
+    EXPECT_EQ(m_dc.GetPixel(21, 2), white);
+    EXPECT_EQ(m_dc.GetPixel(22, 2), red);
+    EXPECT_EQ(m_dc.GetPixel(25, 2), red);
+    EXPECT_EQ(m_dc.GetPixel(26, 2), green);
+    EXPECT_EQ(m_dc.GetPixel(29, 2), green);
+    EXPECT_EQ(m_dc.GetPixel(30, 2), white);
+    EXPECT_EQ(m_dc.GetPixel(13, 12), white);
+    EXPECT_EQ(m_dc.GetPixel(14, 12), red) << "enlarged";
+    EXPECT_EQ(m_dc.GetPixel(29, 12), green);
+    EXPECT_EQ(m_dc.GetPixel(30, 12), white);
+}
+
 TEST_F(Images, AListThatGrowsImageByImageKeepsEachAndShowsNoRoomForMore) {
     CMFCToolBarImages grown;
     grown.SetImageSize(CSize(4, 4));

@@ -296,6 +296,20 @@ TEST_F(MirroredCanvas, EachRectangleThroughTheBufferEqualsTheSameDrawingAtOnce) 
     }
 }
 
+TEST_F(MirroredCanvas, TheTickOfACheckBoxIsNotTurned) {
+    constexpr UINT checked = DFCS_BUTTONCHECK | DFCS_CHECKED;
+    const auto mirrored = Pixels([](CDC& dc) {
+        CRect box(3, 3, 19, 19);
+        dc.DrawFrameControl(box, DFC_BUTTON, checked);
+    });
+    const auto plain = Pixels([](CDC& dc) {
+        ::SetLayout(dc, 0);
+        CRect box(g_width - 19, 3, g_width - 3, 19);
+        dc.DrawFrameControl(box, DFC_BUTTON, checked);
+    });
+    EXPECT_EQ(Rows(mirrored), Rows(plain));
+}
+
 // A context may be mirrored and leave pictures unturned; what is filled lies where the other kind has it.
 TEST_F(MirroredCanvas, FillsLieInTheSamePlacesWhetherPicturesAreTurnedOrNot) {
     const auto fill = [](CDC& dc) {
