@@ -31,9 +31,30 @@ PopupPlacement PlaceBeside(const PopupRequest& request) {
     return result;
 }
 
+CRect Reflected(const CRect& rect) { return CRect(-rect.right, rect.top, -rect.left, rect.bottom); }
+
+/// As seen in a mirror at the screen's left edge.
+PopupPlacement PlaceMirrored(PopupRequest request) {
+    request.isMirrored = false;
+    request.wanted.x = -request.wanted.x;
+    request.avoid = Reflected(request.avoid);
+    request.workArea = Reflected(request.workArea);
+    PopupPlacement result = toolbar::PlacePopup(request);
+    result.rect = Reflected(result.rect);
+    if (result.direction == CMFCPopupMenu::DROP_DIRECTION_RIGHT) {
+        result.direction = CMFCPopupMenu::DROP_DIRECTION_LEFT;
+    } else if (result.direction == CMFCPopupMenu::DROP_DIRECTION_LEFT) {
+        result.direction = CMFCPopupMenu::DROP_DIRECTION_RIGHT;
+    }
+    return result;
+}
+
 } // namespace
 
 PopupPlacement toolbar::PlacePopup(const PopupRequest& request) {
+    if (request.isMirrored) {
+        return PlaceMirrored(request);
+    }
     const CRect& work = request.workArea;
     PopupRequest fitted = request;
     fitted.size.cx = std::min<int>(request.size.cx, work.Width());

@@ -17,6 +17,7 @@ struct PopupRequest {
     CRect avoid;                 ///< what opened it, screen; empty: nothing
     CRect workArea;              ///< the monitor's
     bool isRightAligned = false; ///< wanted is the upper right corner
+    bool isMirrored = false;     ///< all of it the other way round: wanted is a right corner, beside is to the left
     NoRoom noRoom = NoRoom::Cut;
 };
 

@@ -6,6 +6,7 @@
 #include "fx/window_guard.h"
 #include "popups/user_settings.h"
 #include "toolbar/help_field.h"
+#include "toolbar/key_direction.h"
 #include "toolbar/metrics.h"
 #include "window/mouse_messages.h"
 
@@ -181,6 +182,7 @@ BOOL CMFCMenuBar::OnWalkKey(UINT key) {
         }
         return TRUE;
     }
+    key = toolbar::KeyFromTheLeft(*this, key);
     switch (key) {
     case VK_LEFT:
     case VK_RIGHT:

@@ -173,7 +173,8 @@ BOOL CMFCToolBarMenuButton::OpenPopupMenu(CWnd* pWnd) {
     if (isInMenu) {
         // The first item beside the one that opened it, with the borders over each other.
         const int border = menu->GetBorderSize();
-        corner.Offset(-border, -border);
+        const bool isMirrored = (m_pWndParent->GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+        corner.Offset(isMirrored ? border : -border, -border);
     }
     m_pPopupMenu = menu;
     menu->SetParentButton(this);

@@ -54,6 +54,11 @@ CMFCPopupMenu::~CMFCPopupMenu() {
 
 BOOL CMFCPopupMenu::PreCreateWindow(CREATESTRUCT& cs) {
     cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS | CS_SAVEBITS, ::LoadCursorW(nullptr, IDC_ARROW));
+    // It runs the way of what its button lies in; the system does not hand that down to windows of their own.
+    const CWnd* const opener = m_pParentBtn != nullptr ? m_pParentBtn->GetParentWnd() : nullptr;
+    if (opener->GetSafeHwnd() != nullptr) {
+        cs.dwExStyle |= opener->GetExStyle() & WS_EX_LAYOUTRTL;
+    }
     return CMiniFrameWnd::PreCreateWindow(cs);
 }
 

@@ -10,6 +10,7 @@
 #include "popups/row_stack.h"
 #include "popups/user_settings.h"
 #include "toolbar/button_drag.h"
+#include "toolbar/key_direction.h"
 #include "toolbar/menu_source.h"
 #include "toolbar/metrics.h"
 #include "toolbar/popup_menu_rows.h"
@@ -383,7 +384,7 @@ BOOL CMFCPopupMenuBar::OnKey(UINT nChar) {
         StepTo(FindSelectable(*step));
         return TRUE;
     }
-    switch (nChar) {
+    switch (toolbar::KeyFromTheLeft(*this, nChar)) {
     case VK_RIGHT:
         if (m_iHighlighted < 0 || !OpenSubMenu(m_iHighlighted, TRUE)) {
             if (CMFCToolBar* bar = popup->GetRootPopupMenu()->GetParentToolBar()) {

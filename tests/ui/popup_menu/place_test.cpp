@@ -69,6 +69,32 @@ TEST_P(PopupPlaceTest, APopupOpensWhereThereIsRoom) {
     EXPECT_EQ(placement.direction, test.direction) << test.name;
 }
 
+namespace {
+
+CRect Reflected(const CRect& rect) {
+    return rect.IsRectEmpty() ? rect : CRect(work.right - rect.right, rect.top, work.right - rect.left, rect.bottom);
+}
+
+CMFCPopupMenu::DROP_DIRECTION Reflected(CMFCPopupMenu::DROP_DIRECTION direction) {
+    return direction == toTheRight ? toTheLeft : direction == toTheLeft ? toTheRight : direction;
+}
+
+} // namespace
+
+TEST_P(PopupPlaceTest, OfAMirroredWindowItOpensTheOtherWayRound) {
+    const Case& test = GetParam();
+    PopupRequest request;
+    request.isMirrored = true;
+    request.wanted = CPoint(work.right - test.wanted.x, test.wanted.y);
+    request.size = test.size;
+    request.avoid = Reflected(test.avoid);
+    request.workArea = work;
+    request.isRightAligned = test.isRightAligned;
+    const toolbar::PopupPlacement placement = PlacePopup(request);
+    EXPECT_EQ(placement.rect, Reflected(test.expected)) << test.name;
+    EXPECT_EQ(placement.direction, Reflected(test.direction)) << test.name;
+}
+
 INSTANTIATE_TEST_SUITE_P(All, PopupPlaceTest, ::testing::ValuesIn(cases));
 
 TEST(PopupRoomTest, WhatCannotScrollKeepsItsSizeAndCoversWhatOpenedIt) {
