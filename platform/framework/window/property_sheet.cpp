@@ -98,14 +98,23 @@ int CALLBACK CPropertySheet::SheetProc(HWND window, UINT message, LPARAM lParam)
     if (t_made == nullptr) {
         return 0;
     }
-    if (message == PSCB_PRECREATE && t_made->m_style != 0) {
-        // Of the form with more fields the style stands behind version, signature, help id and extended style.
+    if (message == PSCB_PRECREATE) {
+        // Of the form with more fields both styles stand behind version, signature and help id.
         auto* const plain = reinterpret_cast<DLGTEMPLATE*>(lParam);
         auto* const words = reinterpret_cast<WORD*>(lParam);
         const bool isExtended = words[0] == 1 && words[1] == 0xFFFF;
-        constexpr std::size_t kExtendedStyleField = 3;
-        DWORD& style = isExtended ? reinterpret_cast<DWORD*>(lParam)[kExtendedStyleField] : plain->style;
-        style = (style & DS_SETFONT) | (t_made->m_style & ~static_cast<DWORD>(WS_VISIBLE));
+        constexpr std::size_t kExtendedStyleField = 2;
+        auto* const fields = reinterpret_cast<DWORD*>(lParam);
+        DWORD& exStyle = isExtended ? fields[kExtendedStyleField] : plain->dwExtendedStyle;
+        DWORD& style = isExtended ? fields[kExtendedStyleField + 1] : plain->style;
+        if (t_made->m_style != 0) {
+            style = (style & DS_SETFONT) | (t_made->m_style & ~static_cast<DWORD>(WS_VISIBLE));
+        }
+        // The system asks the process alone for windows without an owner.
+        DWORD layout = 0;
+        if (::GetProcessDefaultLayout(&layout) && (layout & LAYOUT_RTL) != 0) {
+            exStyle |= WS_EX_LAYOUTRTL;
+        }
     } else if (message == PSCB_INITIALIZED && t_made->m_hWnd == nullptr) {
         t_made->SubclassWindow(window);
     }

@@ -126,6 +126,18 @@ TEST_F(CustomizeMenusTest, WithoutContextMenusAndAMenuBarThereIsNothingToPutBack
     EXPECT_FALSE(IsEnabled(kResetFrame));
 }
 
+TEST_F(CustomizeMenusTest, TheDialogOfAMirroredFrameRunsFromTheRight) {
+    m_frame->ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    const CMFCToolBarsCustomizeDialog& dialog = Open();
+    EXPECT_TRUE(dialog.GetExStyle() & WS_EX_LAYOUTRTL);
+    ASSERT_TRUE(GoTo(L"Menu"));
+    CRect list;
+    CRect button;
+    ::GetWindowRect(Item(kMenus), &list);
+    ::GetWindowRect(Item(kResetMenu), &button);
+    EXPECT_LT(button.right, list.left) << "what is behind the list lies at its left";
+}
+
 TEST_F(CustomizeMenusTest, TheMenuBarOfTheFrameIsPutBack) {
     CMFCMenuBar menuBar;
     ASSERT_TRUE(menuBar.Create(m_frame));
