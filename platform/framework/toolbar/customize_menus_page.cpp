@@ -18,14 +18,14 @@ enum Item : int { kResetFrame = 1001, kMenus, kResetMenu, kPlace, kHint };
 constexpr DWORD kPush = BS_PUSHBUTTON | WS_TABSTOP;
 
 constexpr fx::DialogItem kItems[] = {
-    {-1, kFrameMenuText, 7, 7, 248, 24, fx::DialogControl::Button, BS_GROUPBOX},
-    {-1, kFrameMenuHint, 14, 18, 172, 8},
-    {kResetFrame, kResetFrameMenuText, 190, 14, 58, 14, fx::DialogControl::Button, kPush},
-    {-1, kContextMenusText, 7, 38, 248, 133, fx::DialogControl::Button, BS_GROUPBOX},
-    {kMenus, 0, 14, 50, 172, 120, fx::DialogControl::ComboBox, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP},
-    {kResetMenu, kResetContextMenuText, 190, 50, 58, 14, fx::DialogControl::Button, kPush},
-    {kHint, kEditMenuText, 14, 69, 234, 18},
-    {kPlace, 0, 14, 91, 234, 18},
+    {-1, kFrameMenuText, 7, 7, 248, 8},
+    {-1, kFrameMenuHint, 14, 22, 174, 8},
+    {kResetFrame, kResetFrameMenuText, 195, 19, 60, 14, fx::DialogControl::Button, kPush},
+    {-1, kContextMenusText, 7, 48, 248, 8},
+    {kMenus, 0, 14, 61, 174, 120, fx::DialogControl::ComboBox, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP},
+    {kResetMenu, kResetContextMenuText, 195, 60, 60, 14, fx::DialogControl::Button, kPush},
+    {kHint, kEditMenuText, 14, 81, 241, 18},
+    {kPlace, 0, 14, 104, 241, 18},
 };
 
 bool HasSameItems(HMENU one, HMENU other) {
@@ -171,6 +171,7 @@ END_MESSAGE_MAP()
 void MenusPage::ShowMenu() {
     const HMENU menu = Menu();
     m_bar.Show(Name(), menu != nullptr ? ::GetSubMenu(menu, 0) : nullptr);
+    m_bar.ShowWindow(menu != nullptr ? SW_SHOWNA : SW_HIDE);
     EnableItem(kResetMenu, menu != nullptr);
     const CMFCMenuBar* const frames = MenuBarOf(Dialog().Frame(), m_bar);
     EnableItem(kResetFrame, frames != nullptr && frames->CanBeRestored());
