@@ -5,6 +5,7 @@
 #include "configuration_problems.h"
 #include "configuration_watch.h"
 #include "installed_icon.h"
+#include "kept_bar_states.h"
 #include "layer_controls.h"
 #include "map_painter.h"
 #include "menu_id_mgr.h"
@@ -169,9 +170,7 @@ void ClassicBars::BuildToolbars() {
         m_frame->ShowPane(bar, FALSE, TRUE, FALSE);
     }
     if (!earlier.empty()) {
-        PutInPlaceOf(earlier);
-        Remove(earlier);
-        DockNewToolbars();
+        ReplaceToolBars(*m_frame, earlier, m_toolbars);
     }
     NumberToolbars();
     HideToolbars(m_hidden);
@@ -192,40 +191,11 @@ bool ClassicBars::LoadToolbars() {
     return isLoaded;
 }
 
-/// Each of the toolbars that is also among the earlier ones goes where that one is.
-void ClassicBars::PutInPlaceOf(const CDynToolBarCreater& earlier) {
-    auto former = earlier.GetGroupedToolBars();
-    for (const auto& [group, bar] : m_toolbars.GetGroupedToolBars()) {
-        const auto found = std::ranges::find_if(former, [&, &group = group, &bar = bar](const auto& one) {
-            return one.first == group && earlier.GetName(one.second) == m_toolbars.GetName(bar);
-        });
-        if (found == former.end()) {
-            continue;
-        }
-        CMFCToolBar& place = *found->second;
-        former.erase(found); // toolbars of one name follow each other
-        if (const CPaneFrameWnd* const miniFrame = place.GetParentMiniFrame()) {
-            CRect rect;
-            miniFrame->GetWindowRect(&rect);
-            bar->FloatPane(rect, DM_UNKNOWN, false);
-        } else {
-            m_frame->DockPaneLeftOf(bar, &place);
-        }
-    }
-}
-
 void ClassicBars::DockNewToolbars() {
     for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
         if (bar->GetParentDockSite() == nullptr && !bar->IsFloating()) {
             m_frame->DockPane(bar);
         }
-    }
-}
-
-void ClassicBars::Remove(const CDynToolBarCreater& toolbars) {
-    for (CMFCToolBar* const bar : toolbars.GetAllToolBar()) {
-        m_frame->RemovePaneFromDockManager(bar, FALSE, FALSE, FALSE, nullptr);
-        bar->DestroyWindow();
     }
 }
 

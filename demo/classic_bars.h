@@ -63,8 +63,6 @@ public:
 private:
     void BuildToolbars();
     bool LoadToolbars();
-    void Remove(const CDynToolBarCreater& toolbars);
-    void PutInPlaceOf(const CDynToolBarCreater& earlier);
     void NumberToolbars();
     void FillCombos();
 

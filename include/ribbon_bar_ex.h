@@ -73,6 +73,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CKeptRibbonStates;
+
     /// Positions of categories; `active` is the one that was active when the path was left.
     struct PathRange {
         int first;

@@ -2,14 +2,17 @@
 
 #include "add_ribbon_bar.h"
 #include "frame_dump.h"
+#include "kept_bar_states.h"
 #include "kept_command_ids.h"
 #include "new_keywords.h"
 
 #include "varnhold/strings.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <stdexcept>
+#include <utility>
 
 BEGIN_MESSAGE_MAP(CPreviewFrame, CFrameWndEx)
 ON_WM_CREATE()
@@ -39,7 +42,9 @@ bool CPreviewFrame::Build() {
     m_firstToolBar = CDynToolBarCreater::s_ToolbarIndex;
     isComplete = BuildRibbon() && isComplete;
     isComplete = BuildMenus() && isComplete;
-    isComplete = BuildToolBars() && isComplete;
+    EnableDocking(CBRS_ALIGN_ANY);
+    isComplete = BuildToolBars(AllBars().toolBars) && isComplete;
+    CountToolBars(true);
     isComplete = ShowPath() && isComplete;
     isComplete = ShowCategory() && isComplete;
     isComplete = ShowApplication() && isComplete;
@@ -56,9 +61,12 @@ DumpSources CPreviewFrame::Sources() {
     for (const auto& creater : m_menus) {
         sources.menus.push_back(creater->GetMenu());
     }
-    for (const auto& [group, bar] : m_toolBars.GetGroupedToolBars()) {
-        sources.toolBars.emplace_back(group, bar);
+    for (const std::wstring& file : m_options.toolBarFiles) {
+        for (const auto& [group, bar] : m_toolBars[file].GetGroupedToolBars()) {
+            sources.toolBars.emplace_back(group, bar);
+        }
     }
+    std::ranges::stable_sort(sources.toolBars, {}, [](const auto& one) { return one.first; });
     return sources;
 }
 
@@ -123,20 +131,22 @@ bool CPreviewFrame::BuildMenus() {
     return isComplete;
 }
 
-bool CPreviewFrame::BuildToolBars() {
-    const NewKeywords keywords(m_ofToolBars);
+bool CPreviewFrame::BuildToolBars(const std::set<std::wstring>& files) {
     bool isComplete = true;
-    EnableDocking(CBRS_ALIGN_ANY);
     for (const std::wstring& file : m_options.toolBarFiles) {
-        const std::size_t before = m_toolBars.GetAllToolBar().size();
-        if (!m_toolBars.Load(file, this) || m_toolBars.GetAllToolBar().size() == before) {
+        if (!files.contains(file)) {
+            continue;
+        }
+        const NewKeywords keywords(m_ofToolBars[file]);
+        CDynToolBarCreater built;
+        if (!built.Load(file, this) || built.GetAllToolBar().empty()) {
             Complain(L"not loaded: " + file);
             isComplete = false;
         }
-    }
-    for (CMFCToolBar* const bar : m_toolBars.GetAllToolBar()) {
-        bar->EnableDocking(CBRS_ALIGN_ANY);
-        DockPane(bar);
+        for (CMFCToolBar* const bar : built.GetAllToolBar()) {
+            bar->EnableDocking(CBRS_ALIGN_ANY);
+        }
+        ReplaceToolBars(*this, std::exchange(m_toolBars[file], built), built);
     }
     return isComplete;
 }

@@ -10,6 +10,7 @@
 
 #include <afxcontrolbars.h>
 
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -55,10 +56,10 @@ private:
     struct Bars {
         bool isRibbon = false;
         bool areMenus = false;
-        bool areToolBars = false;
-        bool areTexts = false; ///< The tables are to be read again, and all bars after them.
+        bool areTexts = false;           ///< The tables are to be read again, and all bars after them.
+        std::set<std::wstring> toolBars; ///< The files whose toolbars.
 
-        bool AreAny() const { return isRibbon || areMenus || areToolBars || areTexts; }
+        bool AreAny() const { return isRibbon || areMenus || areTexts || !toolBars.empty(); }
         void Add(const Bars& others);
         void Remove(const Bars& others);
         bool HaveAnyOf(const Bars& others) const;
@@ -76,8 +77,8 @@ private:
     // False when a file could not be loaded.
     bool BuildRibbon();
     bool BuildMenus();
-    /// False when a file could not be loaded, or holds no toolbar.
-    bool BuildToolBars();
+    /// Of those files, in place of those that they had. False when a file could not be loaded, or holds no toolbar.
+    bool BuildToolBars(const std::set<std::wstring>& files);
     /// False when there is no category of the name that was asked for.
     bool ShowCategory();
     /// False when no ribbon file of that name has a status row.
@@ -85,13 +86,18 @@ private:
 
     /// What a change of the file asks for.
     Bars BarsOf(const std::wstring& file) const;
+    /// All that are built, without the texts.
+    Bars AllBars() const;
     /// The language that was asked for, also while it cannot be read.
     std::wstring WantedLanguage() const;
     bool RebuildWaiting();
-    void RebuildBars(const Bars& bars);
+    void RebuildBars(const Bars& asked);
     void RebuildRibbon();
     void RebuildMenus();
-    void RebuildToolBars();
+    void RebuildToolBars(const std::set<std::wstring>& files);
+    bool HasManyUnusedImages() const;
+    /// The next one gets the number behind theirs.
+    void CountToolBars(bool areAll);
     Faults FindFaults() const;
     /// In the caption; the directory alone where there are none.
     void ShowInCaption(const Faults& faults);
@@ -101,11 +107,12 @@ private:
     CMFCRibbonStatusBarEx m_status;
     std::vector<std::vector<std::wstring>> m_commands;
     std::vector<std::unique_ptr<CDynMenuCreater>> m_menus;
-    CDynToolBarCreater m_toolBars;
+    std::map<std::wstring, CDynToolBarCreater> m_toolBars; ///< By their files.
     // The commands that came with each, to be forgotten when it is built anew.
     std::set<std::wstring> m_ofRibbon;
     std::set<std::wstring> m_ofMenus;
-    std::set<std::wstring> m_ofToolBars;
+    std::map<std::wstring, std::set<std::wstring>> m_ofToolBars;
     std::uint32_t m_firstToolBar = 0;
-    Bars m_waiting; ///< Whose files have changed since they were built.
+    int m_toolBarImages = 0; ///< So many were there when all were built.
+    Bars m_waiting;          ///< Whose files have changed since they were built.
 };

@@ -1,9 +1,9 @@
 #include "forget_icons.h"
 #include "preview_frame.h"
-#include "ribbon_states.h"
 
 #include "add_ribbon_bar.h"
 #include "configuration_watch.h"
+#include "kept_bar_states.h"
 #include "kept_command_ids.h"
 
 #include "problem_report.h"
@@ -19,20 +19,21 @@
 void CPreviewFrame::Bars::Add(const Bars& others) {
     isRibbon = isRibbon || others.isRibbon;
     areMenus = areMenus || others.areMenus;
-    areToolBars = areToolBars || others.areToolBars;
     areTexts = areTexts || others.areTexts;
+    toolBars.insert(others.toolBars.begin(), others.toolBars.end());
 }
 
 void CPreviewFrame::Bars::Remove(const Bars& others) {
     isRibbon = isRibbon && !others.isRibbon;
     areMenus = areMenus && !others.areMenus;
-    areToolBars = areToolBars && !others.areToolBars;
     areTexts = areTexts && !others.areTexts;
+    std::erase_if(toolBars, [&others](const std::wstring& file) { return others.toolBars.contains(file); });
 }
 
 bool CPreviewFrame::Bars::HaveAnyOf(const Bars& others) const {
-    return (isRibbon && others.isRibbon) || (areMenus && others.areMenus) || (areToolBars && others.areToolBars) ||
-           (areTexts && others.areTexts);
+    return (isRibbon && others.isRibbon) || (areMenus && others.areMenus) || (areTexts && others.areTexts) ||
+           std::ranges::any_of(toolBars,
+                               [&others](const std::wstring& file) { return others.toolBars.contains(file); });
 }
 
 CPreviewFrame::Bars CPreviewFrame::BarsOf(const std::wstring& file) const {
@@ -42,10 +43,23 @@ CPreviewFrame::Bars CPreviewFrame::BarsOf(const std::wstring& file) const {
     const auto isAmong = [&file](const std::vector<std::wstring>& files) {
         return std::ranges::find(files, file) != files.end();
     };
-    return {.isRibbon = kind == Ribbon || isAmong(m_options.ribbonFiles),
-            .areMenus = kind == Menu || kind == Icon || isAmong(m_options.menuFiles),
-            .areToolBars = kind == ToolBars || kind == Icon || isAmong(m_options.toolBarFiles),
-            .areTexts = kind == Texts};
+    Bars bars{.isRibbon = kind == Ribbon || isAmong(m_options.ribbonFiles),
+              .areMenus = kind == Menu || kind == Icon || isAmong(m_options.menuFiles),
+              .areTexts = kind == Texts,
+              .toolBars = {}};
+    if (kind == Icon) {
+        bars.toolBars = AllBars().toolBars;
+    } else if (kind == ToolBars || isAmong(m_options.toolBarFiles)) {
+        bars.toolBars = {file};
+    }
+    return bars;
+}
+
+CPreviewFrame::Bars CPreviewFrame::AllBars() const {
+    return {.isRibbon = true,
+            .areMenus = true,
+            .areTexts = false,
+            .toolBars = {m_options.toolBarFiles.begin(), m_options.toolBarFiles.end()}};
 }
 
 bool CPreviewFrame::Rebuild(const ConfigurationChange& change) {
@@ -60,7 +74,7 @@ bool CPreviewFrame::Rebuild(const ConfigurationChange& change) {
 }
 
 bool CPreviewFrame::RebuildAll() {
-    m_waiting.Add({.isRibbon = true, .areMenus = true, .areToolBars = true});
+    m_waiting.Add(AllBars());
     return RebuildWaiting();
 }
 
@@ -80,7 +94,8 @@ bool CPreviewFrame::RebuildWaiting() {
     ShowInCaption(faults);
     const std::wstring language = WantedLanguage();
     if (m_waiting.areTexts && !faults.kept.areTexts && (language.empty() || CMultiLanguageMgr::SetLanguage(language))) {
-        m_waiting = {.isRibbon = true, .areMenus = true, .areToolBars = true};
+        m_waiting.areTexts = false;
+        m_waiting.Add(AllBars());
     }
     Bars bars = m_waiting;
     bars.Remove(faults.kept);
@@ -92,13 +107,21 @@ bool CPreviewFrame::RebuildWaiting() {
     return bars.AreAny();
 }
 
-void CPreviewFrame::RebuildBars(const Bars& bars) {
+void CPreviewFrame::RebuildBars(const Bars& asked) {
+    Bars bars = asked;
+    if (!bars.toolBars.empty() && HasManyUnusedImages()) {
+        bars.toolBars = AllBars().toolBars;
+    }
     std::set<std::wstring> forgotten;
-    for (const auto& [isMeant, keywords] : {std::pair(bars.isRibbon, &m_ofRibbon), std::pair(bars.areMenus, &m_ofMenus),
-                                            std::pair(bars.areToolBars, &m_ofToolBars)}) {
+    const auto forget = [&forgotten](bool isMeant, const std::set<std::wstring>& keywords) {
         if (isMeant) {
-            forgotten.insert(keywords->begin(), keywords->end());
+            forgotten.insert(keywords.begin(), keywords.end());
         }
+    };
+    forget(bars.isRibbon, m_ofRibbon);
+    forget(bars.areMenus, m_ofMenus);
+    for (const auto& [file, keywords] : m_ofToolBars) {
+        forget(bars.toolBars.contains(file), keywords);
     }
     const CKeptCommandIds kept(forgotten);
     if (bars.isRibbon) {
@@ -107,19 +130,20 @@ void CPreviewFrame::RebuildBars(const Bars& bars) {
     if (bars.areMenus) {
         RebuildMenus();
     }
-    if (bars.areToolBars) {
-        RebuildToolBars();
+    if (!bars.toolBars.empty()) {
+        RebuildToolBars(bars.toolBars);
     }
     RecalcLayout();
 }
 
 void CPreviewFrame::RebuildRibbon() {
-    const RibbonStates states(m_ribbon);
-    m_ribbon.RemoveAllCategories();
-    CAddRibbonBar::m_smStatusExBtns.clear();
-    m_commands.clear();
-    BuildRibbon();
-    states.GiveTo(m_ribbon);
+    {
+        const CKeptRibbonStates states(m_ribbon);
+        m_ribbon.RemoveAllCategories();
+        CAddRibbonBar::m_smStatusExBtns.clear();
+        m_commands.clear();
+        BuildRibbon();
+    }
     if (m_status.GetSafeHwnd()) {
         m_status.SetExEleApp(m_options.application.c_str());
     }
@@ -137,19 +161,45 @@ void CPreviewFrame::RebuildMenus() {
     BuildMenus();
 }
 
-void CPreviewFrame::RebuildToolBars() {
-    for (CMFCToolBar* const bar : m_toolBars.GetAllToolBar()) {
-        RemovePaneFromDockManager(bar, FALSE, FALSE, FALSE, nullptr);
-        bar->DestroyWindow();
+void CPreviewFrame::RebuildToolBars(const std::set<std::wstring>& files) {
+    for (auto file = m_toolBars.begin(); file != m_toolBars.end();) {
+        if (std::ranges::find(m_options.toolBarFiles, file->first) == m_options.toolBarFiles.end()) {
+            ReplaceToolBars(*this, file->second, {}); // it has gone
+            m_ofToolBars.erase(file->first);
+            file = m_toolBars.erase(file);
+        } else {
+            ++file;
+        }
     }
-    m_toolBars = CDynToolBarCreater();
-    CDynToolBarCreater::s_ToolbarIndex = m_firstToolBar;
-    // Each button takes a place of its own in the list of icons.
-    if (CMFCToolBarImages* const images = CMFCToolBar::GetUserImages()) {
+    const bool areAll = files == AllBars().toolBars;
+    CMFCToolBarImages* const images = CMFCToolBar::GetUserImages();
+    if (areAll && images) {
         images->Clear();
         CMFCToolBar::SetUserImages(nullptr);
     }
-    BuildToolBars();
+    BuildToolBars(files);
+    CountToolBars(areAll);
+}
+
+/// Each button takes a place of its own in the list of icons, and those of bars that have gone stay there until all
+/// are built anew.
+bool CPreviewFrame::HasManyUnusedImages() const {
+    const CMFCToolBarImages* const images = CMFCToolBar::GetUserImages();
+    return images && images->GetCount() > 2 * m_toolBarImages && FindFaults().kept.toolBars.empty();
+}
+
+void CPreviewFrame::CountToolBars(bool areAll) {
+    CDynToolBarCreater::s_ToolbarIndex = m_firstToolBar;
+    for (const auto& [file, creater] : m_toolBars) {
+        for (const CMFCToolBar* const bar : creater.GetAllToolBar()) {
+            const auto next = static_cast<std::uint32_t>(bar->GetDlgCtrlID()) + 1;
+            CDynToolBarCreater::s_ToolbarIndex = std::max(CDynToolBarCreater::s_ToolbarIndex, next);
+        }
+    }
+    if (areAll) {
+        const CMFCToolBarImages* const images = CMFCToolBar::GetUserImages();
+        m_toolBarImages = images ? images->GetCount() : 0;
+    }
 }
 
 CPreviewFrame::Faults CPreviewFrame::FindFaults() const {
@@ -165,7 +215,13 @@ CPreviewFrame::Faults CPreviewFrame::FindFaults() const {
     };
     look(m_options.ribbonFiles, ConfiguredBars::Ribbon, faults.kept.isRibbon);
     look(m_options.menuFiles, ConfiguredBars::Menu, faults.kept.areMenus);
-    look(m_options.toolBarFiles, ConfiguredBars::ToolBars, faults.kept.areToolBars);
+    for (const std::wstring& file : m_options.toolBarFiles) {
+        bool isKept = false;
+        look({file}, ConfiguredBars::ToolBars, isKept);
+        if (isKept) {
+            faults.kept.toolBars.insert(file);
+        }
+    }
     add(FindLanguageFaults(WantedLanguage()), faults.kept.areTexts);
     return faults;
 }
