@@ -17,6 +17,7 @@ BIN_DIR = ""
 RIBBON = """<ribbon><row><category KEYWORD='Map' NAME=''><panel KEYWORD='P' NAME=''><i KEYWORD='Open' NAME='' TYPE='BUTTON'/></panel>
 </category><category KEYWORD='Tools' NAME=''><panel KEYWORD='Q' NAME=''><i KEYWORD='%s' NAME='' TYPE='BUTTON'/></panel></category>
 </row></ribbon>"""
+GONE = "<category KEYWORD='Old' NAME=''><panel KEYWORD='R' NAME=''><i KEYWORD='Older' NAME='' TYPE='BUTTON'/></panel></category>"
 TABLE = """<xliff xmlns="urn:oasis:names:tc:xliff:document:2.0" version="2.0" srcLang="en"><file id="RibbonBarCfg">
 <unit id="Open"><segment><source>Open the file</source></segment></unit>
 <unit id="Tools"><segment><source>Tools</source></segment></unit></file></xliff>"""
@@ -53,6 +54,25 @@ class Pictures(unittest.TestCase):
             # The second tab's button is another one.
             self.assertEqual(page.count('<figure class="changed">'), 2 * 3)
             self.assertEqual({name[0] for name in re.findall(r'src="before/([^"]+)"', page)}, {"2"})
+
+    def test_a_tab_that_only_the_other_one_has_is_shown_as_gone(self):
+        with tempfile.TemporaryDirectory() as self.folder, alone_in_prefix():
+            now, before = self.installation("now", "Area"), self.installation("before", "Area")
+            with open(os.path.join(before, "cfg", "ribbon.xml"), "w", encoding="utf-8") as file:
+                file.write((RIBBON % "Area").replace("</row>", GONE + "</row>"))
+            out = os.path.join(self.folder, "out")
+            result = subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), os.path.join(BIN_DIR, "barview.exe"), now, "--matrix", out,
+                                     "--against", before, "--skins", "silver", "--langs", "en", "--scales", "100", "--sizes", "500x200"],
+                                    capture_output=True, text=True, errors="replace")
+            self.assertEqual(result.returncode, 0, result.stderr)
+            with open(os.path.join(out, "index.html"), encoding="utf-8") as file:
+                page = file.read()
+            self.assertIn("<h2>Old</h2>", page)
+            self.assertEqual(page.count("<b>gone</b>"), 1)
+            self.assertEqual(page.count("<b>changed</b>"), 2, "its tab stands beside the others")
+            old = re.search(r"<h2>Old</h2>.*?</section>", page, re.S).group()
+            self.assertRegex(old, r'src="before/3-en-silver-100-500x200\.png"')
+            self.assertNotIn("pictures/", old)
 
 
 if __name__ == "__main__":

@@ -16,6 +16,7 @@
 #include <iterator>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -131,15 +132,26 @@ private:
     bool m_isWritten = true;
 };
 
-/// Marks the pictures that the other configuration does not have, or has otherwise.
+bool AreOfOnePlace(const MatrixPicture& a, const MatrixPicture& b) {
+    return a.tab == b.tab && a.skin == b.skin && a.language == b.language && a.scale == b.scale && a.width == b.width &&
+           a.height == b.height;
+}
+
+/// Marks the pictures that the other configuration does not have, or has otherwise, and adds those that it alone has.
 void Compare(std::vector<MatrixPicture>& pictures, const std::vector<MatrixPicture>& others, const fs::path& out) {
     for (MatrixPicture& picture : pictures) {
-        const auto other = std::ranges::find_if(others, [&picture](const MatrixPicture& one) {
-            return one.tab == picture.tab && one.skin == picture.skin && one.language == picture.language &&
-                   one.scale == picture.scale && one.width == picture.width && one.height == picture.height;
-        });
+        const auto other =
+            std::ranges::find_if(others, [&picture](const MatrixPicture& one) { return AreOfOnePlace(one, picture); });
         picture.before = other == others.end() ? std::wstring() : other->file;
         picture.isChanged = picture.before.empty() || !AreSame(out / picture.file, out / picture.before);
+    }
+    for (const MatrixPicture& other : others) {
+        if (std::ranges::none_of(pictures, [&other](const MatrixPicture& one) { return AreOfOnePlace(one, other); })) {
+            MatrixPicture gone = other;
+            gone.before = std::exchange(gone.file, {});
+            gone.isChanged = true;
+            pictures.push_back(std::move(gone));
+        }
     }
 }
 

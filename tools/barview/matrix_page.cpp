@@ -46,12 +46,21 @@ std::string Image(const std::wstring& file, const std::string& caption) {
     return "<a href=\"" + address + "\"><img loading=\"lazy\" src=\"" + address + "\" alt=\"" + caption + "\"></a>";
 }
 
+const char* ChangeOf(const MatrixPicture& picture) {
+    return picture.file.empty() ? "gone" : picture.before.empty() ? "new" : "changed";
+}
+
 std::string Figure(const MatrixPicture& picture) {
     const std::string caption = Escaped(picture.language) + ", " + Escaped(picture.skin) + ", " +
                                 std::to_string(picture.scale) + " %, " + std::to_string(picture.width) + " × " +
                                 std::to_string(picture.height);
     std::string figure = std::string("<figure") + (picture.isChanged ? " class=\"changed\"" : "") + "><figcaption>" +
-                         caption + (picture.isChanged ? " <b>changed</b>" : "") + "</figcaption>";
+                         caption + (picture.isChanged ? " <b>" + std::string(ChangeOf(picture)) + "</b>" : "") +
+                         "</figcaption>";
+    if (picture.file.empty()) {
+        return figure + "<div class=\"both\"><span>before</span>" + Image(picture.before, caption + ", before") +
+               "</div></figure>\n";
+    }
     const std::string now = Image(picture.file, caption);
     if (!picture.isChanged) {
         return figure + now + "</figure>\n";
@@ -95,6 +104,7 @@ std::string MatrixPage(const std::wstring& title, std::span<const MatrixPicture>
     return "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><meta name=\"viewport\" "
            "content=\"width=device-width, initial-scale=1\"><title>" +
            Escaped(title) + "</title><style>" + kStyle + "</style></head><body>\n<h1>" + Escaped(title) + "</h1>\n<p>" +
-           std::to_string(pictures.size()) + " pictures" + (changes.empty() ? ".</p" : changes) + ">\n<nav>" + links +
-           "</nav>\n<main>\n" + sections + "</main>\n</body></html>\n";
+           std::to_string(std::ranges::count_if(pictures, [](const MatrixPicture& one) { return !one.file.empty(); })) +
+           " pictures" + (changes.empty() ? ".</p" : changes) + ">\n<nav>" + links + "</nav>\n<main>\n" + sections +
+           "</main>\n</body></html>\n";
 }

@@ -11,7 +11,7 @@ struct MatrixPicture {
     int scale = 100; ///< percent
     int width = 0;   ///< of the window, pixels
     int height = 0;
-    std::wstring file;
+    std::wstring file; ///< Empty: the tab is gone.
     /// Of the other configuration; empty where there is none.
     std::wstring before;
     bool isChanged = false;

@@ -47,6 +47,36 @@ std::string PseudoTable(const AllTexts& all) {
     return table + "</xliff>\n";
 }
 
+/// Files may name icons and others anywhere below the directory. Not the tables, nor the programs that lie there.
+bool IsOfInstallation(const fs::path& relative) {
+    constexpr std::wstring_view programs[] = {L".exe", L".dll", L".pdb", L".lib", L".a"};
+    const std::wstring extension = relative.extension().wstring();
+    return !varnhold::EqualsIgnoringCase(relative.begin()->wstring(), L"lang") &&
+           std::ranges::none_of(programs, [&extension](std::wstring_view program) {
+               return varnhold::EqualsIgnoringCase(extension, program);
+           });
+}
+
+/// The same files under other names where the disk can do that, otherwise copies; what cannot be read is left out.
+void MirrorFolder(const fs::path& from, const fs::path& made, bool (*isWanted)(const fs::path& relative)) {
+    std::error_code error;
+    fs::recursive_directory_iterator entry(from, fs::directory_options::skip_permission_denied, error);
+    for (const fs::recursive_directory_iterator end; !error && entry != end; entry.increment(error)) {
+        const fs::path relative = entry->path().lexically_relative(from);
+        std::error_code ofEntry;
+        if (!isWanted(relative)) {
+            entry.disable_recursion_pending();
+        } else if (entry->is_directory(ofEntry)) {
+            fs::create_directories(made / relative, ofEntry);
+        } else if (entry->is_regular_file(ofEntry)) {
+            fs::create_hard_link(entry->path(), made / relative, ofEntry);
+            if (ofEntry) {
+                fs::copy_file(entry->path(), made / relative, ofEntry);
+            }
+        }
+    }
+}
+
 } // namespace
 
 std::wstring PseudoText(const std::wstring& text) {
@@ -71,10 +101,7 @@ PseudoInstallation::PseudoInstallation(const std::wstring& directory, const std:
     const fs::path from(directory);
     std::error_code error;
     fs::create_directories(made / "lang" / kPseudoLanguage, error);
-    for (const char* const folder : {"cfg", "pic"}) {
-        std::error_code ofFolder; // there need be no icons
-        fs::copy(from / folder, made / folder, fs::copy_options::recursive, ofFolder);
-    }
+    MirrorFolder(from, made, IsOfInstallation);
     AllTexts texts;
     std::error_code ofTables;
     for (const auto& entry : fs::directory_iterator(from / "lang" / language, ofTables)) {

@@ -9,8 +9,8 @@ inline constexpr wchar_t kPseudoLanguage[] = L"qps-ploc";
 /// cut off. What stands behind "&", and words in braces or with "%", stay as they are.
 std::wstring PseudoText(const std::wstring& text);
 
-/// A directory of its own with the configuration, the icons and the tables of an installation and, beside these, tables
-/// of the made-up language, made from those of `language`. Gone with the object.
+/// A directory of its own with all files of an installation, except its programs and its tables, and with a table of
+/// the made-up language, made from those of `language`. Gone with the object.
 class PseudoInstallation {
 public:
     /// `directory`: with its closing separator.

@@ -54,6 +54,18 @@ TEST(MatrixPage, MarksWhatHasChangedBesideWhatItWas) {
     EXPECT_EQ(Count(page, "class=\"difference\""), 1u);
 }
 
+TEST(MatrixPage, ShowsATabThatIsGoneAsItWas) {
+    const MatrixPicture pictures[] = {{L"Map", L"silver", L"en", 100, 640, 300, L"pictures/1.png", {}, true},
+                                      {L"Old", L"silver", L"en", 100, 640, 300, {}, L"before/2.png", true}};
+    const std::string page = MatrixPage(L"x", pictures);
+    EXPECT_NE(page.find("<h2>Old</h2>"), page.npos);
+    EXPECT_NE(page.find("<b>gone</b>"), page.npos);
+    EXPECT_NE(page.find("<b>new</b>"), page.npos);
+    EXPECT_NE(page.find("<img loading=\"lazy\" src=\"before/2.png\""), page.npos);
+    EXPECT_EQ(page.find("src=\"\""), page.npos);
+    EXPECT_NE(page.find("<p>1 pictures, 2 changed."), page.npos);
+}
+
 TEST(MatrixPage, WritesAddressesOfFilesInAnyLanguage) {
     const std::string page = MatrixPage(L"x", std::vector{Picture(L"Map", L"p/a b-中.png")});
     EXPECT_NE(page.find("src=\"p/a%20b-%E4%B8%AD.png\""), page.npos);

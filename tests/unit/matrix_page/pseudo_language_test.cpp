@@ -28,12 +28,20 @@ TEST(PseudoInstallation, HasTheFilesAndATableOfTheMadeUpLanguageAsLongAsItLives)
     directory.Write("lang/en/a.xlf",
                     "<xliff version=\"2.0\" srcLang=\"en\"><file id=\"S\"><unit id=\"u\" name=\"a &amp; b\">"
                     "<segment><source>Go &lt;on&gt;</source></segment></unit></file></xliff>");
+    for (const char* const file : {"own/icons/16/a.ico", "help/open.swf", "bars.xml", "program.EXE"}) {
+        directory.Write(file, "x");
+    }
     std::wstring made;
     {
         const PseudoInstallation pseudo(directory.Prefix(), L"en");
         made = pseudo.Directory();
         ASSERT_FALSE(made.empty());
         EXPECT_TRUE(fs::exists(fs::path(made) / "cfg" / "ribbon.xml"));
+        for (const char* const file : {"own/icons/16/a.ico", "help/open.swf", "bars.xml"}) {
+            EXPECT_TRUE(fs::exists(fs::path(made) / file)) << file;
+        }
+        EXPECT_FALSE(fs::exists(fs::path(made) / "program.EXE"));
+        EXPECT_FALSE(fs::exists(fs::path(made) / "lang" / "en"));
         struct Texts : varnhold::TranslationFileVisitor {
             void VisitUnit(const varnhold::TranslationUnit& unit, const varnhold::TextPlace&) override {
                 found = unit.key;
@@ -49,6 +57,7 @@ TEST(PseudoInstallation, HasTheFilesAndATableOfTheMadeUpLanguageAsLongAsItLives)
         EXPECT_EQ(texts.text, L"[Gö <öñ>~~~]");
     }
     EXPECT_FALSE(fs::exists(fs::path(made)));
+    EXPECT_TRUE(fs::exists(directory.Path() / "bars.xml")); // only its other name has gone
 }
 
 } // namespace
