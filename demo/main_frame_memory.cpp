@@ -208,6 +208,10 @@ void CMainFrame::OnEndSession(BOOL isEnding) {
     if (isEnding) {
         KeepState();
     }
+    if (isEnding && !IsWindowEnabled()) {
+        OnClose(); // as there; all is kept by now, whether or not the system leaves time for it
+        return;
+    }
     CFrameWndEx::OnEndSession(isEnding);
 }
 

@@ -1,7 +1,7 @@
-// Asks the window of that title which nobody owns to close, as another program or the system does: by a message to it,
-// whatever stands over it.
+// Asks the window of that title which nobody owns to close, as another program does it: by a message to it, whatever
+// stands over it; or tells it that the session ends, as the system does.
 //
-// usage: close_window TITLE
+// usage: close_window TITLE [session]
 #include <windows.h>
 
 #include <string>
@@ -26,10 +26,20 @@ BOOL CALLBACK Look(HWND window, LPARAM target) {
 } // namespace
 
 int wmain(int count, wchar_t** words) {
-    if (count != 2) {
+    if (count != 2 && !(count == 3 && std::wstring(words[2]) == L"session")) {
         return 2;
     }
     Search search{words[1]};
     ::EnumWindows(&Look, reinterpret_cast<LPARAM>(&search));
-    return search.found != nullptr && ::PostMessageW(search.found, WM_CLOSE, 0, 0) ? 0 : 1;
+    if (search.found == nullptr) {
+        return 1;
+    }
+    if (count == 2) {
+        return ::PostMessageW(search.found, WM_CLOSE, 0, 0) ? 0 : 1;
+    }
+    if (!::SendMessageW(search.found, WM_QUERYENDSESSION, 0, 0)) {
+        return 1;
+    }
+    ::SendMessageW(search.found, WM_ENDSESSION, TRUE, 0);
+    return 0;
 }

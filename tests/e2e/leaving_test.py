@@ -17,8 +17,8 @@ class LeavingViewer(Viewer):
     def __init__(self, *arguments):
         super().__init__(BIN_DIR, "--lang", "en", "--skin", "silver", *arguments)
 
-    def ask_to_close(self):
-        subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), os.path.join(BIN_DIR, "close_window.exe"), text_of(BIN_DIR, "en", "ViewerTitle")],
+    def ask_to_close(self, *how):
+        subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), os.path.join(BIN_DIR, "close_window.exe"), text_of(BIN_DIR, "en", "ViewerTitle"), *how],
                        env=self.environment, check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def open_dialog(self, name, *keys):
@@ -41,15 +41,24 @@ class LeavingViewer(Viewer):
 class Leaving(unittest.TestCase):
     """What is open is answered as its close button does it, and then the viewer leaves as after its own command."""
 
-    def leaves(self, show, *arguments):
+    def leaves(self, show, *arguments, how=()):
         with LeavingViewer(*arguments) as viewer:
             show(viewer)
-            viewer.ask_to_close()
+            viewer.ask_to_close(*how)
             self.assertEqual(viewer.wait_for_end(), 0)
             self.assertNotIn("dialog", viewer.last_record(), "it was answered before the window went")
 
     def test_with_nothing_open_it_leaves(self):
         self.leaves(lambda viewer: None)
+
+    def test_with_nothing_open_it_leaves_at_the_end_of_the_session(self):
+        self.leaves(lambda viewer: None, how=["session"])
+
+    def test_at_the_end_of_the_session_a_message_over_the_print_preview_is_answered_first(self):
+        def show(viewer):
+            viewer.open_dialog("preview", "ctrl+shift+v")
+            viewer.open_dialog("message", "ctrl+p")
+        self.leaves(show, "--mode", "print", how=["session"])
 
     def test_a_message_is_answered_first(self):
         self.leaves(lambda viewer: viewer.open_dialog("message", "F1"))

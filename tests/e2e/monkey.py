@@ -73,14 +73,16 @@ class Hands:
 
     def __enter__(self):
         # Its answers come line by line, and all it says at the end of a line.
+        self._complaints = tempfile.TemporaryFile("w+", encoding="utf-8")
         self._xdotool = subprocess.Popen(["stdbuf", "-oL", "xdotool", "-"], env=self._environment, stdin=subprocess.PIPE,
-                                         stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+                                         stdout=subprocess.PIPE, stderr=self._complaints, text=True)
         return self
 
     def __exit__(self, *_):
         self._xdotool.stdin.close()
         self._xdotool.wait()
         self._xdotool.stdout.close()
+        self._complaints.close()
 
     def give(self, parts):
         for part in parts:
@@ -88,7 +90,8 @@ class Hands:
             self._xdotool.stdin.write(words + "\ngetmouselocation\n")
             self._xdotool.stdin.flush()
             if not self._xdotool.stdout.readline():
-                raise RuntimeError("xdotool has left")
+                self._complaints.seek(0)
+                raise RuntimeError(f"xdotool has left with {self._xdotool.wait()} at {words}: {self._complaints.read()[-1000:]}")
             self._pause()
 
     def _pause(self):
@@ -228,9 +231,6 @@ class Monkey:
 
     def rest(self):
         """The state in which growth is measured: nothing is open, and everything has been shown once."""
-        self._place.read()
-        if self._place.is_minimised():
-            self._hands.give(self.maximize())
         for search, name in SHOWN_ONCE:
             if not any(self.shows_dialog(search, name) for _ in range(TRIES_AT_REST)) and not self._viewer.has_left():
                 print(f"  {name} was not shown at rest", flush=True)
@@ -259,6 +259,9 @@ class Monkey:
         """Whether the search was there for it."""
         # Without a window manager a window that goes may leave the keys to nobody; a click gets them back.
         self._place.read()
+        if self._place.is_minimised():
+            self._hands.give(self.maximize())
+            self._place.read()
         self._hands.give([REST, *self.pressed(*self._place.caption(), 1), REST, ["key", "ctrl+f"]])
         is_open = self.sees(lambda record: record["search"]["open"])
         self._hands.give([["type", "--delay", 1, search], ["key", "Return"]])
