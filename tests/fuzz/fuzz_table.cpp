@@ -41,7 +41,8 @@ void FuzzTable(std::string_view bytes) {
         return; // only a table in UTF-8 is completed, without a mark: whoever reads the file sees to that
     }
     TableCompletion completion;
-    completion.asked = {{L"Open", L"cfg/ribbon.xml: \"two\" <lines> & more"}, {L"Open.tooltip", L"a --> b"}};
+    completion.asked = {{L"Open", {L"cfg/ribbon.xml: \"two\" <lines> & more", L"cfg/menu.xml </note>"}},
+                        {L"Open.tooltip", {L"a --> b"}}};
     completion.sources = {{L"Open", L"Open <a> & \"b\""}};
     completion.keywords = {L"Open", L"Kept"};
     std::string table(bytes);
