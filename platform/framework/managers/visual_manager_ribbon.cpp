@@ -40,6 +40,14 @@ COLORREF ButtonTextColor(const visual::Skin& skin, const ElementState& state) {
     return ToColorRef(skin[isLit ? ColorSlot::RibbonTextHot : ColorSlot::RibbonText]);
 }
 
+// The tab row lies on the ribbon's ground and not on a panel: its elements belong to no category.
+bool IsInTabRow(const CMFCRibbonBaseElement& element) {
+    CMFCRibbonBar* const bar = element.GetParentRibbonBar();
+    return bar != nullptr && element.GetParentCategory() == nullptr && element.GetParentPanel() == nullptr &&
+           !element.IsQATMode() && !element.IsKindOf(RUNTIME_CLASS(CMFCRibbonQuickAccessCustomizeButton)) &&
+           !visual::IsStatusBar(bar);
+}
+
 // A status bar's plates are thin enough for one colour in every state.
 COLORREF StatusTextColor(const CMFCRibbonBaseElement& element, const visual::Skin& skin) {
     return ToColorRef(skin[element.IsDisabled() ? ColorSlot::StatusTextDisabled : ColorSlot::StatusText]);
@@ -227,8 +235,12 @@ COLORREF CMFCVisualManager::OnFillRibbonButton(CDC* pDC, CMFCRibbonButton* pButt
         return FillMenuRow(pDC, *pButton, state, GetSkin());
     }
     visual::PaintButton(*pDC, PartsOf(*pButton), state, LookOf(GetSkin()));
-    return visual::IsStatusBar(pButton->GetParentRibbonBar()) ? StatusTextColor(*pButton, GetSkin())
-                                                              : ButtonTextColor(GetSkin(), state);
+    if (visual::IsStatusBar(pButton->GetParentRibbonBar())) {
+        return StatusTextColor(*pButton, GetSkin());
+    }
+    const COLORREF color = ButtonTextColor(GetSkin(), state);
+    const bool isPlain = color == ToColorRef(GetSkin()[ColorSlot::RibbonText]);
+    return isPlain && IsInTabRow(*pButton) ? ToColorRef(GetSkin()[ColorSlot::TabText]) : color;
 }
 
 COLORREF CMFCVisualManager::OnDrawRibbonStatusBarPane(CDC* pDC, CMFCRibbonStatusBar* pBar,

@@ -30,6 +30,22 @@ TEST_F(LookSwitch, TheNewManagerDrawsTheFramesAnew) {
     EXPECT_GT(CountingLook::s_categories, 0);
 }
 
+TEST_F(LookSwitch, ATextInTheTabRowIsReadOnTheRowsGround) {
+    auto* const button = new CMFCRibbonButton(commands::firstHandled + 601, L"Style");
+    Bar().AddToTabs(button);
+    for (const auto style :
+         {CMFCVisualManagerOffice2007::Office2007_LunaBlue, CMFCVisualManagerOffice2007::Office2007_ObsidianBlack,
+          CMFCVisualManagerOffice2007::Office2007_Silver, CMFCVisualManagerOffice2007::Office2007_Aqua}) {
+        CMFCVisualManagerOffice2007::SetStyle(style);
+        CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(CMFCVisualManagerOffice2007));
+        Bar().RecalcLayout();
+        CMFCVisualManager& manager = *CMFCVisualManager::GetInstance();
+        CClientDC dc(&Bar());
+        const COLORREF tabs = manager.OnDrawRibbonTabsFrame(&dc, &Bar(), CRect(0, 0, 1, 1));
+        EXPECT_EQ(manager.OnFillRibbonButton(&dc, button), tabs) << "style " << style;
+    }
+}
+
 /// Notes the rectangle that it was told of last.
 class NotingButton : public CMFCRibbonButton {
 public:
