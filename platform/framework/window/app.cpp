@@ -72,7 +72,8 @@ void CWinApp::SetCurrentHandles(HINSTANCE instance, LPTSTR commandLine, int show
         m_pszExeName = Keep(name);
     }
     if (m_pszAppName == nullptr) {
-        m_pszAppName = m_pszExeName;
+        CString title;
+        m_pszAppName = title.LoadString(AFX_IDS_APP_TITLE) && !title.IsEmpty() ? Keep(title.GetString()) : m_pszExeName;
     }
     if (m_pszHelpFilePath == nullptr) {
         m_pszHelpFilePath = Keep(folder + name + L".hlp");
