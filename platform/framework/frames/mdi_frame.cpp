@@ -1,6 +1,8 @@
 #include "afxwin.h"
 
 #include "afxext.h"
+#include "fx/doc_template.h"
+#include "fx/document.h"
 #include "fx/window_guard.h"
 
 #include <vector>
@@ -9,6 +11,8 @@ IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(CMDIFrameWnd, CFrameWnd)
 ON_WM_DESTROY()
+ON_COMMAND(ID_WINDOW_NEW, &CMDIFrameWnd::OnWindowNew)
+ON_UPDATE_COMMAND_UI(ID_WINDOW_NEW, &CMDIFrameWnd::OnUpdateMDIWindowCmd)
 ON_UPDATE_COMMAND_UI(ID_WINDOW_ARRANGE, &CMDIFrameWnd::OnUpdateMDIWindowCmd)
 ON_UPDATE_COMMAND_UI(ID_WINDOW_CASCADE, &CMDIFrameWnd::OnUpdateMDIWindowCmd)
 ON_UPDATE_COMMAND_UI(ID_WINDOW_TILE_HORZ, &CMDIFrameWnd::OnUpdateMDIWindowCmd)
@@ -183,6 +187,18 @@ BOOL CMDIFrameWnd::OnMDIWindowCmd(UINT nID) {
         return TRUE;
     default:
         return FALSE;
+    }
+}
+
+void CMDIFrameWnd::OnWindowNew() {
+    CMDIChildWnd* const active = MDIGetActive();
+    CDocument* const document = active != nullptr ? active->GetActiveDocument() : nullptr;
+    CDocTemplate* const kind = document != nullptr ? document->GetDocTemplate() : nullptr;
+    if (kind == nullptr) {
+        return;
+    }
+    if (CFrameWnd* const frame = kind->CreateNewFrame(document, active)) {
+        kind->InitialUpdateFrame(frame, document);
     }
 }
 

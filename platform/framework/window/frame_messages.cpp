@@ -140,3 +140,22 @@ void CFrameWnd::UpdateMenuItem(CCmdUI& state, CMenu& menu) {
     }
     state.m_nIndexMax = count;
 }
+
+void CFrameWnd::OnUpdateKeyIndicator(CCmdUI* pCmdUI) {
+    struct Indicator {
+        UINT id;
+        int key;
+    };
+    static constexpr Indicator kIndicators[] = {
+        {ID_INDICATOR_CAPS, VK_CAPITAL},
+        {ID_INDICATOR_NUM, VK_NUMLOCK},
+        {ID_INDICATOR_SCRL, VK_SCROLL},
+        {ID_INDICATOR_KANA, VK_KANA},
+    };
+    const auto* const found = std::ranges::find(kIndicators, pCmdUI->m_nID, &Indicator::id);
+    if (found == std::end(kIndicators)) {
+        pCmdUI->ContinueRouting();
+        return;
+    }
+    pCmdUI->Enable((::GetKeyState(found->key) & 1) != 0);
+}

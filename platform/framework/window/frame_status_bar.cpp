@@ -12,6 +12,7 @@ using namespace control;
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CStatusBar, CControlBar)
+ON_WM_PAINT()
 ON_WM_SIZE()
 ON_MESSAGE(WM_SETTEXT, &CStatusBar::OnSetText)
 END_MESSAGE_MAP()
@@ -190,6 +191,9 @@ LRESULT CStatusBar::OnSetText(WPARAM, LPARAM lParam) {
     const int messagePane = CommandToIndex(ID_SEPARATOR);
     return messagePane >= 0 ? SetPaneText(messagePane, reinterpret_cast<LPCTSTR>(lParam)) : Default();
 }
+
+// The system's window draws the panes; a bar of another kind would draw itself.
+void CStatusBar::OnPaint() { Default(); }
 
 void CStatusBar::OnSize(UINT nType, int cx, int cy) {
     CControlBar::OnSize(nType, cx, cy);

@@ -189,4 +189,24 @@ TEST_F(DocumentTest, ADocumentThatIsDeletedLeavesItsViewsWithout) {
     frame->DestroyWindow();
 }
 
+TEST_F(DocumentTest, TheProgramIsCalledAsItsResourceSays) {
+    EXPECT_STREQ(g_application.m_pszAppName, L"Garden planner");
+}
+
+TEST_F(DocumentTest, ANewWindowShowsTheDocumentOfTheActiveOneOnceMore) {
+    Plan* const plan = NewMulti();
+    m_main->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
+    EXPECT_EQ(Plan::s_count, 1);
+    EXPECT_EQ(PlanChild::s_count, 2);
+    EXPECT_EQ(PlanView::s_count, 2);
+    EXPECT_EQ(TitleOf(m_main->MDIGetActive()), L"Untitled:2");
+    plan->SetModifiedFlag(FALSE);
+}
+
+TEST_F(DocumentTest, WithoutADocumentThereIsNoNewWindow) {
+    MakeMain();
+    m_main->SendMessage(WM_COMMAND, ID_WINDOW_NEW);
+    EXPECT_EQ(PlanChild::s_count, 0);
+}
+
 } // namespace

@@ -52,6 +52,8 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnUpdateMDIWindowCmd(CCmdUI* pCmdUI);
     afx_msg BOOL OnMDIWindowCmd(UINT nID);
+    /// Another frame for the active child's document. Nothing without one.
+    afx_msg void OnWindowNew();
     DECLARE_MESSAGE_MAP()
 
     friend class CMDIChildWnd; // shows the frame's own menu while it has none
