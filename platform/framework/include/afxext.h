@@ -5,6 +5,8 @@
 #include "afxcmn.h"
 #include "afxwin.h"
 #include "fx/control_bar.h"
+#include "fx/control_view.h"
+#include "fx/form_view.h"
 #include "fx/print.h"
 #include "fx/status_bar.h"
 

@@ -22,6 +22,7 @@
 #include "fx/mdi.h"
 #include "fx/menu.h"
 #include "fx/mini_frame.h"
+#include "fx/scroll_view.h"
 #include "fx/thread.h"
 #include "fx/view.h"
 #include "fx/window_dc.h"

@@ -38,5 +38,9 @@ target_sources(framework PRIVATE
   property_sheet.cpp
   property_sheet_pages.cpp
   view.cpp
+  view_control.cpp
+  view_edit.cpp
+  view_form.cpp
+  view_scroll.cpp
   mini_frame.cpp
 )

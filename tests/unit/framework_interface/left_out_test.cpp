@@ -3,6 +3,7 @@
 #include "interface.h"
 
 #include "afxcontrolbars.h"
+#include "afxdlgs.h"
 #include "afxext.h"
 #include "afxglobalutils.h"
 #include "afxpriv.h"
@@ -111,6 +112,22 @@ LEFT_OUT("printing and its preview", CMDIChildWndEx, OnSetPreviewMode)
 LEFT_OUT("printing and its preview", CView, OnEndPrintPreview)
 LEFT_OUT("printing and its preview", CDockingManager, IsPrintPreviewValid, SetPrintPreviewMode)
 LEFT_OUT("printing and its preview", CMFCRibbonBar, AddPrintPreviewCategory, EnablePrintPreview, IsPrintPreviewEnabled)
+
+LEFT_OUT("printing and its preview", CEditView, GetPrinterFont, SetPrinterFont, PrintInsideRect)
+
+LEFT_OUT("the dialog that finds and replaces", CEditView, OnFindNext, OnReplaceAll, OnReplaceSel, OnTextNotFound)
+
+LEFT_OUT("formats of rich text", CFontDialog, GetCharFormat)
+
+LEFT_OUT("what programs add to the newer form of the dialog for files", CFileDialog, AddCheckButton, AddComboBox,
+         AddControlItem, AddEditBox, AddMenu, AddPlace, AddPushButton, AddRadioButtonList, AddSeparator, AddText,
+         ApplyOFNToShellDialog, EnableOpenDropDown, EndVisualGroup, GetCheckButtonState, GetControlItemState,
+         GetControlState, GetEditBoxText, GetIFileDialogCustomize, GetIFileOpenDialog, GetIFileSaveDialog, GetResult,
+         GetResults, GetSelectedControlItem, IsPickFoldersMode, MakeProminent, RemoveControlItem, SetCheckButtonState,
+         SetControlItemState, SetControlItemText, SetControlLabel, SetControlState, SetEditBoxText, SetProperties,
+         SetSelectedControlItem, StartVisualGroup, UpdateOFNFromShellDialog, OnButtonClicked, OnCheckButtonToggled,
+         OnControlActivating, OnItemSelected)
+LEFT_OUT("lists of the dialog for files before it was the shell's", CFileDialog, OnLBSelChangedNotify)
 
 LEFT_OUT("dragging and scrolling of views", CView, OnDragEnter, OnDragLeave, OnDragOver, OnDragScroll, OnDrop, OnDropEx,
          OnScroll, OnScrollBy)
