@@ -181,7 +181,17 @@ void CMFCRibbonStatusBarEx::SetExEleApp(const CString& app) {
 
 void CMFCRibbonStatusBarEx::SetEleWidth(int index, int width) {
     m_mapWidths[index] = width;
-    MarkLayoutDirty();
+    m_hasNewWidths = true;
+    if (GetSafeHwnd() != nullptr) {
+        Invalidate();
+    }
+}
+
+LRESULT CMFCRibbonStatusBarEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_PAINT && m_hasNewWidths) {
+        RecalcLayout();
+    }
+    return CMFCRibbonStatusBar::WindowProc(message, wParam, lParam);
 }
 
 void CMFCRibbonStatusBarEx::RemoveAllEx() {
@@ -210,6 +220,7 @@ void CMFCRibbonStatusBarEx::RecalcLayout() {
     if (GetSafeHwnd() == nullptr) {
         return;
     }
+    m_hasNewWidths = false;
     CClientDC dc(this);
     const CFont* const own = GetFont();
     const fx::DcSelection font(dc, own != nullptr ? own->GetSafeHandle() : nullptr);

@@ -42,6 +42,7 @@ public:
     void SetExEleApp(const CString& app);
 
     /// Gives a main element, counted from 0, a fixed width in pixels, from the next layout on; below 1 it has its own.
+    /// The bar is laid out before it is painted next, if nothing else lays it out earlier.
     void SetEleWidth(int index, int width);
 
     /// Lays out at once.
@@ -59,6 +60,7 @@ protected:
     /// Deletes all extended elements. Their applications stay known without any.
     void RemoveAllEx();
     void OnDrawInformation(CDC* dc, CString& information, CRect rect) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     /// Where the information text lies; empty without one.
     CRect m_informationPlace = CRect(0, 0, 0, 0);
@@ -70,6 +72,7 @@ private:
     /// Of each application, by its display name; not owned.
     std::map<std::wstring, std::vector<CMFCRibbonBaseElement*>> m_mapAppElements;
     std::map<std::int32_t, std::int32_t> m_mapWidths; ///< by the element's index
+    bool m_hasNewWidths = false;                      ///< nothing was laid out with them yet
 
     /// What the platform's own parts, as the size grip, were placed for.
     struct FrameParts {

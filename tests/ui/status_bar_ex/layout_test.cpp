@@ -58,10 +58,10 @@ TEST_F(StatusBarExLayout, AWidthOfZeroRestoresItsOwn) {
     bar.EnsureLayout();
     const int own = button->GetRect().Width();
     bar.SetEleWidth(3, 80);
-    bar.EnsureLayout();
+    bar.RecalcLayout();
     ASSERT_NE(button->GetRect().Width(), own);
     bar.SetEleWidth(3, 0);
-    bar.EnsureLayout();
+    bar.RecalcLayout();
     EXPECT_EQ(button->GetRect().Width(), own);
 }
 
@@ -72,7 +72,7 @@ TEST_F(StatusBarExLayout, AWidthForAnIndexThatHasNoElementHarmsNobody) {
     for (const int index : {-1, 7, 1000000}) {
         bar.SetEleWidth(index, 80);
     }
-    bar.EnsureLayout();
+    bar.RecalcLayout();
     EXPECT_EQ(button.GetRect(), before);
 }
 
@@ -221,6 +221,21 @@ TEST_F(StatusBarExLayout, AFixedWidthTakesEffectAtTheNextLayoutNotBefore) {
     EXPECT_EQ(bar.layouts, layouts);
     bar.RecalcLayout();
     EXPECT_EQ(button.GetRect().Width(), before.Width() + 30);
+}
+
+TEST_F(StatusBarExLayout, AFixedWidthIsLaidOutBeforeTheNextPaintingAndOnce) {
+    const CMFCRibbonButton& button = AddMain(L"a");
+    bar.EnsureLayout();
+    bar.UpdateWindow();
+    const int width = button.GetRect().Width() + 30;
+    const int layouts = bar.layouts;
+    bar.SetEleWidth(0, width);
+    bar.SetEleWidth(1, width);
+    bar.UpdateWindow();
+    EXPECT_EQ(button.GetRect().Width(), width);
+    EXPECT_EQ(bar.layouts, layouts + 1);
+    bar.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_EQ(bar.layouts, layouts + 1);
 }
 
 TEST_F(StatusBarExLayout, AWidthThatIsStoredAgainTakesThePlaceOfTheFirst) {
