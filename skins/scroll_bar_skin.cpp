@@ -39,7 +39,7 @@ std::wstring FileForScale(const std::wstring& path) {
     const int percent = static_cast<int>(afxGlobalData.GetRibbonImageScale() * 100 + 0.5);
     for (const int larger : tovasque::kFilePercents) {
         if (larger <= percent) {
-            if (const std::wstring file = tovasque::FileForPercent(path, larger); FileOp::FileExist(file)) {
+            if (std::wstring file = tovasque::FileForPercent(path, larger); FileOp::FileExist(file)) {
                 return file;
             }
         }
