@@ -3,6 +3,8 @@
 #include "fx/view.h"
 #include "fx/wheel_rest.h"
 
+class CBrush;
+
 /// A view of something larger than its window. What OnDraw draws has its own co-ordinates, in units of the map mode;
 /// OnPrepareDC moves them by what is scrolled. A derived class calls SetScrollSizes before the first layout, mostly in
 /// OnInitialUpdate or OnUpdate.
