@@ -283,7 +283,7 @@ constexpr DiagnosticCode kCodes[] = {
     {"long-text", Warning,
      "A text is wider at 100 % than the field that shows it, than a window of 1,280 pixels with what stands beside it "
      "there (a combo's list, a menu item's shortcut), or as a tooltip than 45 lines of 640 pixels; or the status-bar "
-     "buttons of a row are together wider than such a window. Widths are estimated, and only what is clearly wider is "
+     "buttons of a row are together wider than 1,920 pixels. Widths are estimated, and only what is clearly wider is "
      "said.",
      "It is cut off, its panel shows as a button alone, or the status bar leaves it out.",
      "Shorten the text, or give the edit a larger WIDTH.", Field,

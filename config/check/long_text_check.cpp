@@ -19,6 +19,7 @@ constexpr int kFieldMargin = 3;       // on each side of an edit's text
 constexpr int kComboField = 108;      // behind the caption of a combo
 constexpr int kIcon = 16;             // before the text of a button in the status bar
 constexpr int kWindow = 1280;         // what is wider alone than this fits into no usual window
+constexpr int kWideWindow = 1920;     // the same for a row of buttons, which may be meant for large screens
 constexpr int kToolTipLine = 640;     // a tooltip is broken into lines that are at most so wide
 constexpr int kToolTipLines = 45;     // of which a usual screen has room for so many
 constexpr int kDoubtPercent = 5;      // fonts differ: only what is wider by more than this is clearly wider
@@ -197,7 +198,7 @@ private:
         void Report(const LongTextCheck& check) {
             const GatheredElement* const row = std::exchange(m_row, nullptr);
             const auto widest = std::ranges::max_element(m_widths);
-            if (!row || m_isTold || widest == m_widths.end() || !IsClearlyWider(*widest, kWindow)) {
+            if (!row || m_isTold || widest == m_widths.end() || !IsClearlyWider(*widest, kWideWindow)) {
                 return;
             }
             const LanguageTexts& language =
@@ -205,7 +206,7 @@ private:
             ReportTogether(check.m_sink, *row->file, PlaceOf(row->element, AttributeUse::Keyword), "long-text",
                            L"the buttons of this row are together about " + std::to_wstring(*widest) +
                                L" pixels wide at 100 % in " + language.code + L"; a window of " +
-                               std::to_wstring(kWindow) + L" leaves the first ones out",
+                               std::to_wstring(kWideWindow) + L" leaves the first ones out",
                            L"shorten the texts, or take buttons out");
         }
 

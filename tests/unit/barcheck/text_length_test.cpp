@@ -196,9 +196,9 @@ TEST_F(StatusTextLength, AButtonThatNoWindowHasRoomForIsSaidByItsText) {
 }
 
 TEST_F(StatusTextLength, ARowThatIsTooWideTogetherIsSaidOnceWithTheWorstLanguage) {
-    WriteRow(kTwoLabels, WideText(500), WideText(600));
+    WriteRow(kTwoLabels, WideText(500), WideText(900));
     EXPECT_EQ(Findings(), "");
-    WriteRow(kTwoLabels, WideText(500), WideText(700));
+    WriteRow(kTwoLabels, WideText(500), WideText(1100));
     const std::vector<Diagnostic> findings = m_installation.Check();
     ASSERT_EQ(findings.size(), 1u);
     EXPECT_EQ(CheckedInstallation::Describe(findings[0]), "cfg/ribbon.xml:2:4 long-text\n");
@@ -208,9 +208,9 @@ TEST_F(StatusTextLength, ARowThatIsTooWideTogetherIsSaidOnceWithTheWorstLanguage
 TEST_F(StatusTextLength, ASliderOfARowHasItsWidth) {
     const std::string slider = "<b KEYWORD='B' NAME='' TYPE='slider' WIDTH='";
     const std::string label = "'/><b KEYWORD='A' NAME='' TYPE='label'/>";
-    WriteRow(slider + "100" + label, WideText(1000), WideText(1000));
+    WriteRow(slider + "700" + label, WideText(1000), WideText(1000));
     EXPECT_EQ(Findings(), "");
-    WriteRow(slider + "500" + label, WideText(1000), WideText(1000));
+    WriteRow(slider + "1100" + label, WideText(1000), WideText(1000));
     EXPECT_EQ(Findings(), "cfg/ribbon.xml:2:4 long-text\n");
 }
 
