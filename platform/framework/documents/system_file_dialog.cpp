@@ -159,7 +159,7 @@ POSITION CFileDialog::GetStartPosition() const {
 
 CString CFileDialog::GetNextPathName(POSITION& pos) const {
     const auto* text = reinterpret_cast<LPCTSTR>(pos);
-    const CString first = m_ofn.lpstrFile;
+    CString first = m_ofn.lpstrFile;
     const LPCTSTR names = TextBehind(m_ofn.lpstrFile);
     if ((m_ofn.Flags & OFN_ALLOWMULTISELECT) == 0 || *names == 0) {
         pos = nullptr;

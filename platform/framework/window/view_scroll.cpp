@@ -151,20 +151,19 @@ bool CScrollView::ScrollByBar(int bar, UINT code) {
     ::GetScrollInfo(m_hWnd, bar, &info);
     const int line = static_cast<int>(isHorizontal ? m_linePixels.cx : m_linePixels.cy);
     const int page = static_cast<int>(isHorizontal ? m_pagePixels.cx : m_pagePixels.cy);
-    const int now = static_cast<int>(isHorizontal ? m_position.x : m_position.y);
-    int next = now;
+    int next = static_cast<int>(isHorizontal ? m_position.x : m_position.y);
     switch (code) {
     case SB_LINEUP:
-        next = now - line;
+        next -= line;
         break;
     case SB_LINEDOWN:
-        next = now + line;
+        next += line;
         break;
     case SB_PAGEUP:
-        next = now - page;
+        next -= page;
         break;
     case SB_PAGEDOWN:
-        next = now + page;
+        next += page;
         break;
     case SB_TOP:
         next = 0;
