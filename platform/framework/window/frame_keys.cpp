@@ -33,3 +33,12 @@ BOOL fx::TranslateFrameKey(HWND dialog, MSG& message) {
     }
     return !hasAskedMain && TakesKeys(main) && main->PreTranslateMessage(&message);
 }
+
+BOOL fx::TranslateDialogInput(HWND dialog, MSG& message, BOOL(WINAPI* takeInput)(HWND dialog, MSG* message)) {
+    const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    const bool isMouse = message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
+    if (isKey && TranslateFrameKey(dialog, message)) {
+        return TRUE;
+    }
+    return (isKey || isMouse) && takeInput(dialog, &message);
+}

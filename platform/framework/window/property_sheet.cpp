@@ -283,12 +283,9 @@ BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg) {
     if (CWnd::PreTranslateMessage(pMsg)) {
         return TRUE;
     }
-    const bool isKey = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
-    const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
-    if (isKey && fx::TranslateFrameKey(m_hWnd, *pMsg)) {
-        return TRUE;
-    }
-    return (isKey || isMouse) && PropSheet_IsDialogMessage(m_hWnd, pMsg);
+    return fx::TranslateDialogInput(m_hWnd, *pMsg, [](HWND sheet, MSG* message) -> BOOL {
+        return PropSheet_IsDialogMessage(sheet, message) ? TRUE : FALSE;
+    });
 }
 
 BOOL CPropertySheet::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {

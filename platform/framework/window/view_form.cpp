@@ -83,10 +83,5 @@ BOOL CFormView::PreTranslateMessage(MSG* pMsg) {
     if (CScrollView::PreTranslateMessage(pMsg)) {
         return TRUE;
     }
-    const bool isKey = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
-    const bool isMouse = pMsg->message >= WM_MOUSEFIRST && pMsg->message <= WM_MOUSELAST;
-    if (isKey && fx::TranslateFrameKey(m_hWnd, *pMsg)) {
-        return TRUE;
-    }
-    return (isKey || isMouse) && IsDialogMessage(pMsg);
+    return fx::TranslateDialogInput(m_hWnd, *pMsg, &::IsDialogMessageW);
 }
