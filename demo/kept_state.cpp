@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <functional>
 #include <map>
+#include <optional>
 
 namespace {
 
@@ -31,6 +32,7 @@ constexpr std::array<const char*, kLayerCount> kLayerNames = {"relief", "coast",
                                                               "cities", "names", "scalebar", "opened"};
 constexpr std::array<const char*, kLabelCount> kLabelNames = {"graticuleNumbers", "cityNames", "scaleBarText"};
 constexpr std::array<const char*, 3> kPaletteNames = {"natural", "night", "plain"};
+constexpr const char* kSkinPalette = "skin"; // no palette is chosen
 
 /// What is thrown where an entry cannot be used; the reader of the file names the entry.
 struct Unusable {};
@@ -168,6 +170,11 @@ Json LabelsToJson(const MapState& map) {
     return labels;
 }
 
+const char* PaletteName(const MapState& map) {
+    const auto chosen = map.ChosenPalette();
+    return chosen ? kPaletteNames[static_cast<std::size_t>(*chosen)] : kSkinPalette;
+}
+
 Json MapToJson(const MapState& map) {
     Json marks = Json::array();
     for (const GeoPoint& mark : map.Marks()) {
@@ -180,7 +187,7 @@ Json MapToJson(const MapState& map) {
     return {{"view", ToJson(map.View())},
             {"layers", LayersToJson(map)},
             {"labels", LabelsToJson(map)},
-            {"palette", kPaletteNames[static_cast<std::size_t>(map.Palette())]},
+            {"palette", PaletteName(map)},
             {"spacing", map.GraticuleSpacing()},
             {"smooth", map.IsSmooth()},
             {"lineWidth", map.LineWidth()},
@@ -248,7 +255,9 @@ void ReadMap(EntryReader& reader, const Json& object, MapState& map) {
         map.SetPage(name == L"portrait" ? PageShape::Portrait : PageShape::Landscape);
     };
     const auto palette = [&](const Json& value) {
-        map.SetPalette(static_cast<MapPalette>(IndexOf(kPaletteNames, wstring2String(TextOf(value)))));
+        const std::string name = wstring2String(TextOf(value));
+        map.SetPalette(name == kSkinPalette ? std::nullopt
+                                            : std::optional(static_cast<MapPalette>(IndexOf(kPaletteNames, name))));
     };
     reader.Read(object, "map.",
                 {{"view", [&](const Json& value) { map.SetFirstView(ViewOf(value)); }},

@@ -207,6 +207,7 @@ void CMainFrame::SwitchSkin(const std::wstring& name) {
     m_skin = name == L"switch" ? std::find_if(kViewerSkins.begin(), kViewerSkins.end(), isOther)->name : name;
     ApplySkin();
     TakeBarIcons();
+    ShowState(); // the palette may have come with the skin
 }
 
 void CMainFrame::TakeBarIcons() { m_bars.TakeIcons(m_ribbon, FindViewerSkin(m_skin)->iconSet); }

@@ -218,9 +218,20 @@ void MapState::SetLit(MapLabel label, bool lit) {
     Changed();
 }
 
-void MapState::SetPalette(MapPalette palette) {
+void MapState::SetPalette(std::optional<MapPalette> palette) {
+    const MapPalette before = Palette();
     m_palette = palette;
-    Changed();
+    if (Palette() != before) {
+        Changed();
+    }
+}
+
+void MapState::SetSkinPalette(MapPalette palette) {
+    const MapPalette before = Palette();
+    m_skinPalette = palette;
+    if (Palette() != before) {
+        Changed();
+    }
 }
 
 void MapState::SetGraticuleSpacing(int degrees) {
@@ -345,6 +356,7 @@ MapState MapState::OfPage(int factor) const {
     page.m_width = (box.right - box.left) * factor;
     page.m_height = (box.bottom - box.top) * factor;
     page.m_mode = MapMode::Browse;
+    page.m_skinPalette = MapPalette::Natural;
     return page;
 }
 

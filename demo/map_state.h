@@ -108,8 +108,13 @@ public:
     /// A text whose light is off is written faintly.
     bool IsLit(MapLabel label) const noexcept { return m_labelsLit[static_cast<int>(label)]; }
     void SetLit(MapLabel label, bool lit);
-    MapPalette Palette() const noexcept { return m_palette; }
-    void SetPalette(MapPalette palette);
+    /// What the map is drawn with: the user's choice, or else what goes with the skin.
+    MapPalette Palette() const noexcept { return m_palette.value_or(m_skinPalette); }
+    /// Nothing where the palette follows the skin, as it does at first.
+    std::optional<MapPalette> ChosenPalette() const noexcept { return m_palette; }
+    void SetPalette(std::optional<MapPalette> palette);
+    /// The palette that goes with the skin.
+    void SetSkinPalette(MapPalette palette);
     int GraticuleSpacing() const noexcept { return m_spacing; }
     void SetGraticuleSpacing(int degrees);
     bool IsSmooth() const noexcept { return m_smooth; }
@@ -153,7 +158,7 @@ public:
     /// The same view in a window that is `factor` times as wide and high.
     MapState Enlarged(int factor) const;
     /// What goes on the page as a map of its own, in a window that is `factor` times as wide and high as the page's box
-    /// and shows nothing of the working mode.
+    /// and shows nothing of the working mode; paper has no skin, so that a palette nobody chose is the natural one.
     MapState OfPage(int factor) const;
 
     /// Rises with every change that shows.
@@ -178,7 +183,8 @@ private:
     bool m_lit[kLayerCount] = {true, true, true, true, true, true, true, true};
     bool m_locked[kLayerCount] = {};
     bool m_labelsLit[static_cast<int>(MapLabel::Count)] = {true, true, true};
-    MapPalette m_palette = MapPalette::Natural;
+    std::optional<MapPalette> m_palette;
+    MapPalette m_skinPalette = MapPalette::Natural;
     int m_spacing = 15;
     bool m_smooth = true;
     int m_lineWidth = 1;

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -28,10 +29,12 @@ constexpr std::array<LayerName, 8> kLayers = {{{L"relief", MapLayer::Relief},
 
 struct PaletteName {
     const wchar_t* parameter;
-    MapPalette palette;
+    std::optional<MapPalette> palette; ///< Nothing: the one that goes with the skin.
 };
-constexpr std::array<PaletteName, 3> kPalettes = {
-    {{L"natural", MapPalette::Natural}, {L"night", MapPalette::Night}, {L"plain", MapPalette::Plain}}};
+constexpr std::array<PaletteName, 4> kPalettes = {{{L"skin", std::nullopt},
+                                                   {L"natural", MapPalette::Natural},
+                                                   {L"night", MapPalette::Night},
+                                                   {L"plain", MapPalette::Plain}}};
 
 template <class Table>
 auto FindByParameter(const Table& table, const std::wstring& parameter) {
@@ -197,7 +200,7 @@ boost::shared_ptr<CMenuReactor> MakeLayerReactor(MapState& state, const ViewerHo
         },
         [&state](const std::wstring& name) {
             const auto row = FindByParameter(kPalettes, name);
-            return row != kPalettes.end() && state.Palette() == row->palette;
+            return row != kPalettes.end() && state.ChosenPalette() == row->palette;
         });
     reactor->Serve(
         L"spacing", [&state](const std::wstring& degrees) { state.SetGraticuleSpacing(Integer(degrees)); },

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "map_state.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -11,11 +13,12 @@ struct ViewerSkin {
     const wchar_t* iconStyle; ///< "0": light icons for dark ground; "1": dark ones
     const wchar_t* icons;     ///< The folder of those that can be seen on it
     const wchar_t* iconSet;   ///< The end of its name
+    MapPalette palette;       ///< What the map is drawn with while the user has chosen none
 };
 
 inline constexpr std::array<ViewerSkin, 2> kViewerSkins = {
-    {{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\", L"\\modle\\"},
-     {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\", L"\\modle_0\\"}}};
+    {{L"silver", 1, L"1", L"pic\\skin\\icon\\modle\\", L"\\modle\\", MapPalette::Natural},
+     {L"black", 0, L"0", L"pic\\skin\\icon\\modle_0\\", L"\\modle_0\\", MapPalette::Night}}};
 
 /// Null for any other name.
 inline const ViewerSkin* FindViewerSkin(const std::wstring& name) {

@@ -186,7 +186,7 @@ class NextStart(unittest.TestCase):
         with open(self.file, "w", encoding="utf-8") as file:
             json.dump(kept, file)
         after = self.run_once(message=True)
-        self.assertEqual((after["language"], after["skin"], after["map"]["palette"]), ("zh-CN", "black", 0))
+        self.assertEqual((after["language"], after["skin"], after["map"]["palette"]), ("zh-CN", "black", 1))  # the palette is still the skin's
 
     def test_a_damaged_place_of_the_toolbars_is_told_and_loses_nothing_else(self):
         self.run_once("--lang", "zh-CN", "--bars", "classic")

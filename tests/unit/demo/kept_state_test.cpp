@@ -67,6 +67,7 @@ TEST(KeptState, AFirstStartComesBackAsSuch) {
     EXPECT_FALSE(viewer.window);
     EXPECT_FALSE(viewer.iconStyle);
     EXPECT_FALSE(map.Color(MapLayer::Coast));
+    EXPECT_FALSE(map.ChosenPalette());
 }
 
 TEST(KeptState, TheKeptViewIsShownInsteadOfTheWorldAndTheHistoryBeginsThere) {

@@ -307,3 +307,35 @@ TEST(MapPage, OnItsOwnShowsNothingOfTheWorkingMode) {
     EXPECT_EQ(state.OfPage(1).Mode(), MapMode::Browse);
     EXPECT_EQ(state.OfPage(1).Marks().size(), 1u);
 }
+
+TEST(MapPalette, FollowsTheSkinUntilTheUserChoosesOne) {
+    MapState state;
+    EXPECT_EQ(state.Palette(), MapPalette::Natural);
+    state.SetSkinPalette(MapPalette::Night);
+    EXPECT_EQ(state.Palette(), MapPalette::Night);
+    state.SetPalette(MapPalette::Plain);
+    state.SetSkinPalette(MapPalette::Natural);
+    EXPECT_EQ(state.Palette(), MapPalette::Plain);
+    state.SetPalette(std::nullopt);
+    EXPECT_EQ(state.Palette(), MapPalette::Natural);
+}
+
+TEST(MapPalette, OnlyAnotherOneIsDrawnAnew) {
+    MapState state;
+    state.SetPalette(MapPalette::Natural);
+    const unsigned version = state.Version();
+    state.SetSkinPalette(MapPalette::Night);
+    state.SetPalette(MapPalette::Natural);
+    EXPECT_EQ(state.Version(), version);
+    state.SetPalette(std::nullopt);
+    EXPECT_GT(state.Version(), version);
+}
+
+TEST(MapPalette, OfAPageIsTheSkinsOnlyWhereTheUserChoseIt) {
+    MapState state;
+    state.SetWindowSize(1200, 600);
+    state.SetSkinPalette(MapPalette::Night);
+    EXPECT_EQ(state.OfPage(1).Palette(), MapPalette::Natural);
+    state.SetPalette(MapPalette::Night);
+    EXPECT_EQ(state.OfPage(1).Palette(), MapPalette::Night);
+}
