@@ -218,6 +218,10 @@ void MapState::SetLit(MapLabel label, bool lit) {
     Changed();
 }
 
+MapPalette MapState::Palette() const noexcept {
+    return m_palette.value_or(m_mode == MapMode::Print ? MapPalette::Natural : m_skinPalette);
+}
+
 void MapState::SetPalette(std::optional<MapPalette> palette) {
     const MapPalette before = Palette();
     m_palette = palette;

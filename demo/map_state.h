@@ -108,8 +108,9 @@ public:
     /// A text whose light is off is written faintly.
     bool IsLit(MapLabel label) const noexcept { return m_labelsLit[static_cast<int>(label)]; }
     void SetLit(MapLabel label, bool lit);
-    /// What the map is drawn with: the user's choice, or else what goes with the skin.
-    MapPalette Palette() const noexcept { return m_palette.value_or(m_skinPalette); }
+    /// What the map is drawn with: the user's choice, or else what goes with the skin. Paper has no skin: while a page
+    /// is chosen, and on it, a palette that nobody chose is the natural one.
+    MapPalette Palette() const noexcept;
     /// Nothing where the palette follows the skin, as it does at first.
     std::optional<MapPalette> ChosenPalette() const noexcept { return m_palette; }
     void SetPalette(std::optional<MapPalette> palette);
@@ -158,7 +159,7 @@ public:
     /// The same view in a window that is `factor` times as wide and high.
     MapState Enlarged(int factor) const;
     /// What goes on the page as a map of its own, in a window that is `factor` times as wide and high as the page's box
-    /// and shows nothing of the working mode; paper has no skin, so that a palette nobody chose is the natural one.
+    /// and shows nothing of the working mode.
     MapState OfPage(int factor) const;
 
     /// Rises with every change that shows.

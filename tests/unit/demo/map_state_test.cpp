@@ -336,6 +336,9 @@ TEST(MapPalette, OfAPageIsTheSkinsOnlyWhereTheUserChoseIt) {
     state.SetWindowSize(1200, 600);
     state.SetSkinPalette(MapPalette::Night);
     EXPECT_EQ(state.OfPage(1).Palette(), MapPalette::Natural);
+    state.SetMode(MapMode::Print);
+    EXPECT_EQ(state.Palette(), MapPalette::Natural) << "what is seen is what is printed";
     state.SetPalette(MapPalette::Night);
+    EXPECT_EQ(state.Palette(), MapPalette::Night);
     EXPECT_EQ(state.OfPage(1).Palette(), MapPalette::Night);
 }
