@@ -31,12 +31,9 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 
 namespace {
 
-/// How long a change of the skin waits for the map in its colours; a slow one follows by itself.
-constexpr std::chrono::milliseconds kMapPatience{300};
 constexpr UINT kFirstCommand = 41000;
 constexpr UINT kLastCommand = 49999;
 constexpr UINT kLightTakenMessage = WM_APP + 2;
@@ -451,9 +448,7 @@ void CMainFrame::ApplySkin() {
         CMFCRibbonUNIcoButton::SetSkinStyle(skin->iconStyle);
         m_helpHint.TakeIcons(skin->icons);
         m_state.SetSkinPalette(skin->palette);
-        m_map.ShowState();
         m_pane.SetSkin(static_cast<UINT>(skin->style));
-        m_map.AwaitPicture(kMapPatience);
         m_ribbon.ChangeSkinColor(skin->style, true); // which paints all that the frame shows
     }
 }

@@ -74,12 +74,7 @@ std::unique_ptr<DrawnMap> MapDrawer::Take() {
 
 void MapDrawer::Wait() {
     std::unique_lock lock(m_mutex);
-    m_changed.wait(lock, [this] { return IsIdle(); });
-}
-
-void MapDrawer::Wait(std::chrono::milliseconds patience) {
-    std::unique_lock lock(m_mutex);
-    m_changed.wait_for(lock, patience, [this] { return IsIdle(); });
+    m_changed.wait(lock, [this] { return !m_isAtWork && !HasRequest(); });
 }
 
 void MapDrawer::Run() {

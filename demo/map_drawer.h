@@ -5,7 +5,6 @@
 
 #include <windows.h>
 
-#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -50,8 +49,6 @@ public:
     std::unique_ptr<DrawnMap> Take();
     /// Returns when nothing is ordered or at work any more.
     void Wait();
-    /// The same, but not later than after `patience`.
-    void Wait(std::chrono::milliseconds patience);
 
 private:
     struct Request {
@@ -61,7 +58,6 @@ private:
     };
 
     void Run();
-    bool IsIdle() const { return !m_isAtWork && !HasRequest(); }
     bool HasRequest() const { return m_request || !m_keptRequests.empty(); }
 
     MapPainter m_painter; ///< The thread's.

@@ -176,13 +176,6 @@ void CMapWindow::Finish() {
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
 }
 
-void CMapWindow::AwaitPicture(std::chrono::milliseconds patience) {
-    if (m_drawer && !IsFinished()) {
-        m_drawer->Wait(patience);
-        TakePicture();
-    }
-}
-
 void CMapWindow::SetStyle(const MapPaintStyle& style) {
     m_style = style;
     OrderPicture();

@@ -7,7 +7,6 @@
 #include "map_painter.h"
 #include "map_state.h"
 
-#include <chrono>
 #include <deque>
 #include <functional>
 #include <map>
@@ -32,8 +31,6 @@ public:
     bool IsFinished() const { return m_drawn && m_drawn->order == m_order; }
     /// Waits for the sharp picture of the present state and shows it; for those who photograph the window.
     void Finish();
-    /// Waits for it a little, where the next paint should show it together with something else.
-    void AwaitPicture(std::chrono::milliseconds patience);
     /// Is told of the place under the pointer whenever it moves.
     void SetPointerListener(std::function<void(GeoPoint)> listener) { m_pointerListener = std::move(listener); }
     /// Is called whenever the view or the window's size has become another one.
