@@ -16,7 +16,8 @@ namespace varnhold {
 
 namespace {
 
-constexpr std::size_t kBlockSize = 1024;
+/// So many bytes are counted anew for a position at most.
+constexpr std::size_t kBlockSize = 64;
 
 // Source bytes of a small element and of a small attribute: what the tables of a document are made ready for.
 constexpr std::size_t kBytesPerElement = 64;
