@@ -3,19 +3,20 @@
 #include <varnhold/strings.h>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
-/// Enough for most files.
-constexpr std::size_t kFirstBlockSize = std::size_t(16) << 10;
-/// So large that the heap takes it from the system and gives it back at once: what smaller blocks leave behind would
-/// stay with the process when all records are long gone.
-constexpr std::size_t kFurtherBlockSize = std::size_t(1) << 20;
+/// By the number of blocks that there are. The first is enough for a small file, the second for a usual one; asking the
+/// system for more takes as long as reading a hundred elements. The others are so large that the heap takes them from
+/// the system and gives them back at once: what smaller blocks leave behind would stay with the process when all
+/// records are long gone.
+constexpr std::array<std::size_t, 3> kBlockSizes = {std::size_t(16) << 10, std::size_t(64) << 10, std::size_t(1) << 20};
 
 } // namespace
 
 void* TextArena::TakeFromNewBlock(std::size_t bytes) {
-    m_size = std::max(bytes, m_blocks.empty() ? kFirstBlockSize : kFurtherBlockSize);
+    m_size = std::max(bytes, kBlockSizes[std::min(m_blocks.size(), kBlockSizes.size() - 1)]);
     m_blocks.push_back(std::make_unique_for_overwrite<std::byte[]>(m_size));
     m_block = m_blocks.back().get();
     m_used = bytes;
