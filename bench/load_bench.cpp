@@ -1,16 +1,19 @@
 // CAddRibbonBar::Load of a whole file into a ribbon bar, beside the icon loads that it cannot do without.
 #include "add_ribbon_bar.h"
 #include "bench_frame.h"
+#include "configuration_problems.h"
 #include "menu_id_mgr.h"
 #include "run_benchmarks.h"
 #include "scenario.h"
 
 #include "varnhold/file_op.h"
+#include "varnhold/language.h"
 #include "varnhold/xml.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
+#include <chrono>
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -39,6 +42,46 @@ void Load(benchmark::State& state) {
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
+
+/// An installation of which nothing changes, as most of the time: all kinds of files and two languages.
+struct Installation : ScenarioDirectory {
+    Installation() {
+        AddInstallation(1000, kIconFiles, 2);
+        const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(Path())) {
+            if (entry.is_regular_file()) {
+                std::filesystem::last_write_time(entry.path(), longAgo);
+            }
+        }
+    }
+};
+
+void LoadInInstallation(benchmark::State& state, const ConfigurationProblemSink& sink) {
+    static const Installation installation;
+    const std::wstring earlier = Scenario().Path().wstring() + L"\\";
+    FileOp::SetAppPath(installation.Path().wstring() + L"\\");
+    CMultiLanguageMgr::SetLanguage(L"en");
+    SetConfigurationProblemSink(sink);
+    for (auto _ : state) {
+        CAddRibbonBar builder;
+        if (!builder.Load(L"cfg\\ribbon625.xml", &g_frame->m_ribbon, 1)) {
+            state.SkipWithError("the file could not be loaded");
+        }
+        state.PauseTiming();
+        g_frame->m_ribbon.RemoveAllCategories();
+        CMenuIdMgr::Destroy();
+        state.ResumeTiming();
+    }
+    SetConfigurationProblemSink({});
+    CMultiLanguageMgr::SetLanguage(L"");
+    FileOp::SetAppPath(earlier);
+}
+
+void LoadHeard(benchmark::State& state) {
+    LoadInInstallation(state, [&state](const ConfigurationProblem&) { state.SkipWithError("there are problems"); });
+}
+
+void LoadUnheard(benchmark::State& state) { LoadInInstallation(state, {}); }
 
 void TryIcon(const std::wstring& root, std::size_t number, int side, benchmark::State& state) {
     const std::wstring path = ScenarioIcon(root, side, number);
@@ -106,6 +149,8 @@ CLoadApp s_app;
 } // namespace
 
 BENCHMARK(Load)->Name("Load")->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadHeard)->Name("Load with a sink")->Unit(benchmark::kMillisecond);
+BENCHMARK(LoadUnheard)->Name("Load with a sink/floor: without")->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadFloor)->Name("Load/floor: each icon file loaded once")->Unit(benchmark::kMillisecond);
 BENCHMARK(LoadOwnFloor)
     ->Name("Load/floor: parse, trial loads, an entry and an element each")

@@ -1,6 +1,7 @@
 #include "config/load_watch.h"
 
 #include "config/check/configuration_check.h"
+#include "config/check/kept_readings.h"
 #include "config/diagnostic_codes.h"
 #include "config/to_problem.h"
 #include "configuration_problems.h"
@@ -24,6 +25,12 @@ ConfigurationProblemSink& HostSink() {
     return sink;
 }
 
+/// From one load to the next, as long as somebody listens.
+KeptReadings& Readings() {
+    static KeptReadings readings;
+    return readings;
+}
+
 /// What quick access items and status-bar buttons of the file refer to, where it is registered, by whomever.
 std::set<std::wstring> RegisteredReferences(std::span<const GatheredElement> elements) {
     std::set<std::wstring> registered;
@@ -45,7 +52,8 @@ std::vector<Diagnostic> FindProblems(GatheringSink& gathered) {
     if (elements.empty() || !FileOp::GetAppPath(directory)) {
         return std::move(gathered.Findings());
     }
-    return CheckLoadedFile(directory, {gathered, CMultiLanguageMgr::GetLanguage(), RegisteredReferences(elements)});
+    return CheckLoadedFile(directory, {gathered, CMultiLanguageMgr::GetLanguage(), RegisteredReferences(elements)},
+                           Readings());
 }
 
 } // namespace
@@ -73,6 +81,9 @@ LoadWatch::~LoadWatch() {
 }
 
 ConfigurationProblemSink SetConfigurationProblemSink(const ConfigurationProblemSink& sink) {
+    if (!sink) {
+        Readings() = {};
+    }
     return std::exchange(HostSink(), sink);
 }
 

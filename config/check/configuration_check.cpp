@@ -5,13 +5,12 @@
 #include "config/check/gathered_elements.h"
 #include "config/check/icon_check.h"
 #include "config/check/installation_files.h"
+#include "config/check/kept_readings.h"
 #include "config/check/missing_file_check.h"
+#include "config/check/read_file.h"
 #include "config/check/text_check.h"
 #include "config/check/twin_check.h"
 #include "config/diagnostic_codes.h"
-#include "config/menu_file.h"
-#include "config/ribbon_file.h"
-#include "config/toolbar_file.h"
 
 #include <algorithm>
 #include <iterator>
@@ -22,36 +21,6 @@
 #include <utility>
 
 namespace {
-
-/// Reads a file to its end and builds nothing.
-class MenuReading : public MenuFileVisitor {
-    void VisitItem(const MenuInfo& /*info*/, std::size_t /*level*/) override {}
-    void VisitPopup(const MenuInfo& /*info*/, std::size_t /*level*/) override {}
-    void LeaveBranch() override {}
-};
-
-class ToolBarReading : public ToolBarFileVisitor {
-    void VisitGroup(const ToolBarInfo& /*info*/) override {}
-    bool VisitToolBar(const ToolBarInfo& /*info*/) override { return true; }
-    void VisitButton(const ToolBarInfo& /*info*/) override {}
-};
-
-bool ReadFile(const std::wstring& fullPath, ConfigurationKind kind, DiagnosticsSink& sink) {
-    switch (kind) {
-    case ConfigurationKind::Ribbon: {
-        RibbonRecords rows;
-        return LoadRibbonFile(fullPath, rows, sink);
-    }
-    case ConfigurationKind::Menu: {
-        MenuReading reading;
-        return LoadMenuFile(fullPath, reading, sink);
-    }
-    case ConfigurationKind::ToolBars:
-        break;
-    }
-    ToolBarReading reading;
-    return LoadToolBarFile(fullPath, reading, sink);
-}
 
 struct FileToRead {
     std::wstring fullPath;
@@ -140,15 +109,35 @@ private:
     bool m_hasWrongKind = false;
 };
 
+/// Reads the file, or repeats what was met in it when it was as it is now. False when it cannot be loaded.
+bool ReadOnce(const FileToRead& file, const InstallationFiles& files, KeptReadings& kept, DiagnosticsSink& sink) {
+    const FileReading& reading =
+        kept.files.Get(file.fullPath, files.StampOf(files.RelativeName(file.fullPath)), [&file] {
+            FileReading read;
+            read.isLoaded = ReadConfigurationFile(file.fullPath, file.kind, read.gathered);
+            return read;
+        });
+    Repeat(reading.gathered, sink);
+    return reading.isLoaded;
+}
+
+/// Where files are read from: `kept` is null where nothing is kept.
+struct Source {
+    const InstallationFiles& installation;
+    KeptReadings* kept = nullptr;
+};
+
 /// Whether all that the files should hold is known.
-bool ReadFiles(const std::vector<FileToRead>& files, DiagnosticsSink& sink) {
+bool ReadFiles(const std::vector<FileToRead>& files, const Source& source, DiagnosticsSink& sink) {
     KindWatch watch(sink);
     bool isComplete = true;
     for (const FileToRead& file : files) {
         if (file.gathered) {
             Repeat(*file.gathered, watch);
+        } else if (source.kept) {
+            isComplete = ReadOnce(file, source.installation, *source.kept, watch) && isComplete;
         } else {
-            isComplete = ReadFile(file.fullPath, file.kind, watch) && isComplete;
+            isComplete = ReadConfigurationFile(file.fullPath, file.kind, watch) && isComplete;
         }
     }
     return isComplete && !watch.HasWrongKind();
@@ -169,13 +158,13 @@ void Sort(std::vector<Diagnostic>& findings, const std::vector<FileToRead>& file
 }
 
 /// The keywords of all elements of the files, which are not reported.
-bool AddKeywordsOf(const std::vector<FileToRead>& files, std::set<std::wstring>& keywords) {
+bool AddKeywordsOf(const std::vector<FileToRead>& files, const Source& source, std::set<std::wstring>& keywords) {
     class Silent : public GatheringSink {
     public:
         void Report(const Diagnostic& /*diagnostic*/) override {}
     };
     Silent sink;
-    const bool isComplete = ReadFiles(files, sink);
+    const bool isComplete = ReadFiles(files, source, sink);
     for (const GatheredElement& gathered : sink.Elements()) {
         const ElementRole role = gathered.element.role;
         if (role != ElementRole::QuickAccessItem && role != ElementRole::StatusButton) {
@@ -229,21 +218,36 @@ bool HasFinding(GatheringSink& sink, std::string_view code) {
 
 /// What is to be checked, and what is known of it besides its files.
 struct Checking {
-    const InstallationFiles& files;
+    Source source;
     Selection selection;
     /// Empty: all that there are.
     std::wstring language;
     std::set<std::wstring> registered;
-    /// False: it has no texts yet, and what is wrong with its tables is told elsewhere.
+    /// False: it has no texts yet.
     bool hasTexts = true;
-    bool tellsOfTables = true;
 };
+
+/// What is wrong with tables by themselves is told where nothing is kept; a program that loads file after file tells it
+/// elsewhere.
+std::span<const LanguageTexts> TextsOf(const Checking& checking, std::vector<LanguageTexts>& read,
+                                       DiagnosticsSink& sink) {
+    const auto& [files, kept] = checking.source;
+    if (!checking.hasTexts) {
+        return {};
+    }
+    if (!kept) {
+        read = ReadLanguages(files, checking.language, sink);
+        return read;
+    }
+    return kept->languages.Get(checking.language, StampOfLanguage(files, checking.language),
+                               [&] { return ReadLanguages(files, checking.language, DroppedDiagnostics()); });
+}
 
 /// Reads the files, and then says what takes all of them together.
 void CheckTogether(const Checking& checking, GatheringSink& sink) {
-    const InstallationFiles& files = checking.files;
+    const InstallationFiles& files = checking.source.installation;
     const Selection& selection = checking.selection;
-    bool isComplete = ReadFiles(selection.files, sink);
+    bool isComplete = ReadFiles(selection.files, checking.source, sink);
     const bool areMisnamed = !selection.namesFiles && ReportMisnamed(files, sink);
     isComplete = isComplete && !areMisnamed;
     if (selection.files.empty() && !areMisnamed) {
@@ -254,11 +258,8 @@ void CheckTogether(const Checking& checking, GatheringSink& sink) {
     }
     JoinShiftedLevels(sink);
     std::size_t lostKeywords = CountLostKeywords(sink);
-    std::vector<LanguageTexts> languages;
-    if (checking.hasTexts) {
-        DiagnosticsSink& ofTables = checking.tellsOfTables ? static_cast<DiagnosticsSink&>(sink) : DroppedDiagnostics();
-        languages = ReadLanguages(files, checking.language, ofTables);
-    }
+    std::vector<LanguageTexts> read;
+    const std::span<const LanguageTexts> languages = TextsOf(checking, read, sink);
     if (!selection.namesFiles) {
         if (checking.hasTexts && languages.empty() && checking.language.empty() && !HasFinding(sink, "bad-table")) {
             ReportMissingTables(sink.Elements(), files, sink);
@@ -279,7 +280,7 @@ void CheckTogether(const Checking& checking, GatheringSink& sink) {
     CheckAccessKeys(std::span(sink.Elements()).subspan(shortcuts), languages, sink);
     std::set<std::wstring> known = meant;
     known.insert(checking.registered.begin(), checking.registered.end());
-    isComplete = AddKeywordsOf(selection.others, known) && isComplete;
+    isComplete = AddKeywordsOf(selection.others, checking.source, known) && isComplete;
     if (lostKeywords > 0) {
         AddKeywordsWithTexts(languages, known);
     }
@@ -290,7 +291,7 @@ void CheckTogether(const Checking& checking, GatheringSink& sink) {
             std::ranges::count(sink.Findings(), std::string_view("duplicate-keyword"), &Diagnostic::code));
         CheckUnusedTexts(sink.Elements(), languages, meant, lostKeywords, sink);
     }
-    CheckIcons(sink.Elements(), files, sink);
+    CheckIcons(sink.Elements(), files, checking.source.kept ? &checking.source.kept->icons : nullptr, sink);
 }
 
 /// Whether it is about the file, or about what the file needs of a table.
@@ -319,14 +320,15 @@ Selection SelectLoaded(const LoadedFile& loaded, const InstallationFiles& files)
 } // namespace
 
 bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink) {
-    const std::vector<FileToRead> files = Select(request, InstallationFiles(request.directory)).files;
-    return ReadFiles(files, sink) && !files.empty();
+    const InstallationFiles installation(request.directory);
+    const std::vector<FileToRead> files = Select(request, installation).files;
+    return ReadFiles(files, {installation}, sink) && !files.empty();
 }
 
 std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     const InstallationFiles files(request.directory);
     GatheringSink sink;
-    const Checking checking{files, Select(request, files), request.language, {}};
+    const Checking checking{{files}, Select(request, files), request.language, {}};
     CheckTogether(checking, sink);
     std::vector<Diagnostic> findings = std::move(sink.Findings());
     KeepNamed(findings, checking.selection, files);
@@ -340,10 +342,13 @@ std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request) {
     return findings;
 }
 
-std::vector<Diagnostic> CheckLoadedFile(const std::wstring& directory, const LoadedFile& loaded) {
+std::vector<Diagnostic> CheckLoadedFile(const std::wstring& directory, const LoadedFile& loaded, KeptReadings& kept) {
     const InstallationFiles files(directory);
-    Checking checking{files, SelectLoaded(loaded, files), loaded.language, loaded.registered, !loaded.language.empty(),
-                      false};
+    if (kept.directory != directory) {
+        kept = {directory, {}, {}, {}};
+    }
+    Checking checking{
+        {files, &kept}, SelectLoaded(loaded, files), loaded.language, loaded.registered, !loaded.language.empty()};
     if (checking.selection.namesFiles) {
         // Status-bar buttons are made later, and what they stand for may come until then.
         for (const GatheredElement& gathered : loaded.gathered.Elements()) {

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+struct KeptReadings;
+
 /// What is to be checked.
 struct CheckRequest {
     /// The installation directory, with its closing separator.
@@ -39,5 +41,6 @@ bool GatherConfiguration(const CheckRequest& request, GatheringSink& sink);
 std::vector<Diagnostic> CheckConfiguration(const CheckRequest& request);
 
 /// The same of the one file alone, as if all others that the installation has were loaded, too. Findings about what the
-/// file needs of a table stand in the table. They name files by full paths and are in no order.
-std::vector<Diagnostic> CheckLoadedFile(const std::wstring& directory, const LoadedFile& loaded);
+/// file needs of a table stand in the table. They name files by full paths and are in no order. What is read of the
+/// others is kept for the next file.
+std::vector<Diagnostic> CheckLoadedFile(const std::wstring& directory, const LoadedFile& loaded, KeptReadings& kept);

@@ -17,6 +17,10 @@ struct GatheredElement {
 /// Keeps what readers report and meet, in reading order.
 class GatheringSink : public DiagnosticsSink {
 public:
+    GatheringSink() = default;
+    GatheringSink(GatheringSink&&) = default; // elements point into the sink
+    GatheringSink& operator=(GatheringSink&&) = default;
+
     void Report(const Diagnostic& diagnostic) override { m_findings.push_back(diagnostic); }
     void Meet(const std::wstring& file, const MetElement& element) override {
         m_elements.push_back({&*m_files.insert(file).first, element});

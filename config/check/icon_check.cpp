@@ -53,8 +53,6 @@ std::wstring FolderOf(const std::wstring& path) {
     return slash == std::wstring::npos ? std::wstring() : path.substr(0, slash);
 }
 
-enum class IconState { Fine, NoIcon, CutOff, TooLarge, TooSmall };
-
 IconFileReader ReaderOf(std::ifstream& stream) {
     return [&stream](std::uint64_t offset, std::span<std::uint8_t> bytes) -> std::size_t {
         constexpr std::uint64_t farthest = std::uint64_t(1) << 40;
@@ -100,7 +98,8 @@ IconState StateOf(const std::wstring& path, int side) {
 
 class IconCheck {
 public:
-    IconCheck(const InstallationFiles& files, DiagnosticsSink& sink) : m_files(files), m_sink(sink) {}
+    IconCheck(const InstallationFiles& files, KeptIcons* kept, DiagnosticsSink& sink)
+        : m_files(files), m_kept(kept), m_sink(sink) {}
 
     void Take(const GatheredElement& gathered) {
         const MetAttribute* const icon = gathered.element.Find(AttributeUse::Icon);
@@ -114,7 +113,7 @@ public:
             const std::wstring path = IconFileBelow({}, icon->value, side);
             if (m_seen.insert(FoldedPath(path)).second) {
                 if (const auto found = m_files.Find(path)) {
-                    CheckFile(gathered, *icon, path, StateOf(*found, side), side);
+                    CheckFile(gathered, *icon, path, StateOfFile(path, *found, side), side);
                 } else {
                     missing.push_back(path);
                 }
@@ -140,6 +139,11 @@ private:
         const MetAttribute* icon;
         std::vector<std::wstring> paths;
     };
+
+    IconState StateOfFile(const std::wstring& path, const std::wstring& fullPath, int side) const {
+        const auto look = [&] { return StateOf(fullPath, side); };
+        return m_kept ? m_kept->Get(FoldedPath(path), m_files.StampOf(path), look) : look();
+    }
 
     void Report(const GatheredElement& gathered, const MetAttribute& icon, std::string_view code, std::wstring text,
                 std::wstring fix) const {
@@ -290,6 +294,7 @@ private:
     }
 
     const InstallationFiles& m_files;
+    KeptIcons* m_kept;
     DiagnosticsSink& m_sink;
     /// Paths that an element named before.
     std::set<std::wstring> m_seen;
@@ -301,8 +306,9 @@ private:
 
 } // namespace
 
-void CheckIcons(std::span<const GatheredElement> elements, const InstallationFiles& files, DiagnosticsSink& sink) {
-    IconCheck check(files, sink);
+void CheckIcons(std::span<const GatheredElement> elements, const InstallationFiles& files, KeptIcons* kept,
+                DiagnosticsSink& sink) {
+    IconCheck check(files, kept, sink);
     for (const GatheredElement& gathered : elements) {
         check.Take(gathered);
     }

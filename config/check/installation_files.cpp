@@ -1,36 +1,9 @@
 #include "config/check/installation_files.h"
 
-#include <varnhold/letter_case.h>
-#include <varnhold/strings.h>
-
 #include <algorithm>
-#include <filesystem>
+#include <utility>
 
 namespace {
-
-namespace fs = std::filesystem;
-
-std::wstring Folded(std::wstring_view name) {
-    std::wstring folded(name);
-    std::ranges::transform(folded, folded.begin(), [](wchar_t c) { return varnhold::LowerAscii(c); });
-    return folded;
-}
-
-fs::path NativePath(const std::wstring& path) {
-#ifdef _WIN32
-    return fs::path(path);
-#else
-    return fs::path(wstring2String(path));
-#endif
-}
-
-std::wstring NameOf(const fs::path& path) {
-#ifdef _WIN32
-    return path.filename().native();
-#else
-    return string2wstring(path.filename().native());
-#endif
-}
 
 #ifdef _WIN32
 constexpr wchar_t kSeparator = L'\\';
@@ -38,19 +11,10 @@ constexpr wchar_t kSeparator = L'\\';
 constexpr wchar_t kSeparator = L'/';
 #endif
 
-std::vector<std::wstring> Values(const std::map<std::wstring, std::wstring>& names) {
-    std::vector<std::wstring> values;
-    values.reserve(names.size());
-    for (const auto& [folded, name] : names) {
-        values.push_back(name);
-    }
-    return values;
-}
-
 } // namespace
 
 std::wstring FoldedPath(std::wstring_view path) {
-    std::wstring folded = Folded(path);
+    std::wstring folded = FoldedName(path);
     std::ranges::replace(folded, L'\\', L'/');
     return folded;
 }
@@ -78,26 +42,17 @@ InstallationFiles::InstallationFiles(std::wstring directory) : m_directory(std::
 const InstallationFiles::Folder* InstallationFiles::Open(const std::vector<std::wstring>& parts) const {
     std::wstring path = m_directory;
     std::wstring key;
-    const Folder* folder = nullptr;
     for (std::size_t i = 0;; ++i) {
         const auto [found, isNew] = m_folders.try_emplace(key);
+        Folder& folder = found->second;
         if (isNew) {
-            found->second.path = path;
-            std::error_code error;
-            for (fs::directory_iterator entry(NativePath(path), error), end; !error && entry != end;
-                 entry.increment(error)) {
-                std::error_code ignored;
-                const std::wstring name = NameOf(entry->path());
-                auto& names = entry->is_directory(ignored) ? found->second.folders : found->second.files;
-                names.emplace(Folded(name), name);
-            }
+            folder = {path, ListFolder(path)};
         }
-        folder = &found->second;
         if (i == parts.size()) {
-            return folder;
+            return &folder;
         }
-        const auto next = folder->folders.find(Folded(parts[i]));
-        if (next == folder->folders.end()) {
+        const auto next = folder.listing.folders.find(FoldedName(parts[i]));
+        if (next == folder.listing.folders.end()) {
             return nullptr;
         }
         key += next->first + L'/';
@@ -105,19 +60,30 @@ const InstallationFiles::Folder* InstallationFiles::Open(const std::vector<std::
     }
 }
 
-std::optional<std::wstring> InstallationFiles::Find(std::wstring_view path) const {
+std::pair<const InstallationFiles::Folder*, const ListedFile*>
+InstallationFiles::FindListed(std::wstring_view path) const {
     auto parts = PathParts(path);
     if (!parts || parts->empty()) {
-        return std::nullopt;
+        return {};
     }
     const std::wstring name = std::move(parts->back());
     parts->pop_back();
     const Folder* const folder = Open(*parts);
     if (!folder) {
-        return std::nullopt;
+        return {};
     }
-    const auto found = folder->files.find(Folded(name));
-    return found == folder->files.end() ? std::nullopt : std::optional(folder->path + found->second);
+    const auto found = folder->listing.files.find(FoldedName(name));
+    return {folder, found == folder->listing.files.end() ? nullptr : &found->second};
+}
+
+std::optional<std::wstring> InstallationFiles::Find(std::wstring_view path) const {
+    const auto [folder, file] = FindListed(path);
+    return file ? std::optional(folder->path + file->name) : std::nullopt;
+}
+
+std::optional<FileStamp> InstallationFiles::StampOf(std::wstring_view path) const {
+    const ListedFile* const file = FindListed(path).second;
+    return file ? file->stamp : std::nullopt;
 }
 
 std::wstring InstallationFiles::FullPath(std::wstring_view path) const {
@@ -130,13 +96,25 @@ std::wstring InstallationFiles::FullPath(std::wstring_view path) const {
 std::vector<std::wstring> InstallationFiles::FilesIn(std::wstring_view folder) const {
     const auto parts = PathParts(folder);
     const Folder* const found = parts ? Open(*parts) : nullptr;
-    return found ? Values(found->files) : std::vector<std::wstring>();
+    std::vector<std::wstring> names;
+    if (found) {
+        for (const auto& [folded, file] : found->listing.files) {
+            names.push_back(file.name);
+        }
+    }
+    return names;
 }
 
 std::vector<std::wstring> InstallationFiles::FoldersIn(std::wstring_view folder) const {
     const auto parts = PathParts(folder);
     const Folder* const found = parts ? Open(*parts) : nullptr;
-    return found ? Values(found->folders) : std::vector<std::wstring>();
+    std::vector<std::wstring> names;
+    if (found) {
+        for (const auto& [folded, name] : found->listing.folders) {
+            names.push_back(name);
+        }
+    }
+    return names;
 }
 
 bool InstallationFiles::LeadsOut(std::wstring_view path) { return !PathParts(path); }

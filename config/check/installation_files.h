@@ -1,9 +1,12 @@
 #pragma once
 
+#include "config/check/folder_listing.h"
+
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 /// The files below an installation directory, found as Windows finds them: letter case does not count, and both "\" and
@@ -16,6 +19,9 @@ public:
     /// The full path of a file that is given relative to the directory, in the spelling that it has. Nothing for a
     /// folder, for what is not there and for what lies outside.
     std::optional<std::wstring> Find(std::wstring_view path) const;
+    /// How that file was when its folder was read. Nothing where there is no such file, or where this would not tell
+    /// whether it has changed.
+    std::optional<FileStamp> StampOf(std::wstring_view path) const;
     /// The full path that such a file would have.
     std::wstring FullPath(std::wstring_view path) const;
     /// The names of the files, or of the folders, in a folder, in order without regard to letter case.
@@ -30,12 +36,13 @@ public:
 
 private:
     struct Folder {
-        std::wstring path;                          ///< with its closing separator
-        std::map<std::wstring, std::wstring> files; ///< by the name in small letters
-        std::map<std::wstring, std::wstring> folders;
+        std::wstring path; ///< with its closing separator
+        FolderListing listing;
     };
     /// Null when there is no such folder. `parts`: folder names.
     const Folder* Open(const std::vector<std::wstring>& parts) const;
+    /// The file, null where it is not there, and its folder.
+    std::pair<const Folder*, const ListedFile*> FindListed(std::wstring_view path) const;
 
     std::wstring m_directory;
     mutable std::map<std::wstring, Folder> m_folders;

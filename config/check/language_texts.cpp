@@ -279,3 +279,15 @@ std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const s
     }
     return languages;
 }
+
+std::optional<FolderStamp> StampOfLanguage(const InstallationFiles& files, const std::wstring& language) {
+    FolderStamp stamp;
+    for (const std::wstring& name : files.FilesIn(L"lang\\" + language)) {
+        const std::optional<FileStamp> ofFile = files.StampOf(InLanguageFolder(language, name));
+        if (!ofFile) {
+            return std::nullopt;
+        }
+        stamp.emplace_back(name, *ofFile);
+    }
+    return stamp;
+}

@@ -4,9 +4,14 @@
 #include "config/diagnostics.h"
 
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
+
+/// The files of a folder.
+using FolderStamp = std::vector<std::pair<std::wstring, FileStamp>>;
 
 /// A text of a translation table, and where it stands.
 struct PlacedText {
@@ -38,3 +43,7 @@ struct LanguageTexts {
 /// and its like, bad-table, duplicate-text, untranslated-text; missing-file for a language that is not there.
 std::vector<LanguageTexts> ReadLanguages(const InstallationFiles& files, const std::wstring& only,
                                          DiagnosticsSink& sink);
+
+/// How the files of that language are: as long as it is the same ReadLanguages gives the same texts. Nothing where this
+/// cannot be told.
+std::optional<FolderStamp> StampOfLanguage(const InstallationFiles& files, const std::wstring& language);

@@ -1,12 +1,12 @@
 #include "config/load_watch.h"
 
 #include "config/check/configuration_check.h"
-#include "config/menu_file.h"
-#include "config/ribbon_file.h"
-#include "config/toolbar_file.h"
+#include "config/check/read_file.h"
 #include "configuration_problems.h"
 #include "menu_id_mgr.h"
 #include "tests/unit/barcheck/sample_installation.h"
+
+#include "tests/support/heard_problems.h"
 
 #include <varnhold/file_op.h>
 #include <varnhold/language.h>
@@ -14,30 +14,27 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
+#include <cstring>
 #include <filesystem>
-#include <functional>
+#include <fstream>
 #include <iterator>
 #include <set>
 #include <string_view>
 
 namespace {
 
-class MenuReading : public MenuFileVisitor {
-    void VisitItem(const MenuInfo& /*info*/, std::size_t /*level*/) override {}
-    void VisitPopup(const MenuInfo& /*info*/, std::size_t /*level*/) override {}
-    void LeaveBranch() override {}
-};
+namespace fs = std::filesystem;
 
-class ToolBarReading : public ToolBarFileVisitor {
-    void VisitGroup(const ToolBarInfo& /*info*/) override {}
-    bool VisitToolBar(const ToolBarInfo& /*info*/) override { return true; }
-    void VisitButton(const ToolBarInfo& /*info*/) override {}
-};
-
-/// The sample installation, checked by the checker and loaded by a program that listens.
+/// The sample installation, checked by the checker and loaded by a program that listens all the time.
 class SinkAndChecker : public testing::Test {
 protected:
-    SinkAndChecker() : m_appPath(m_installation.Directory().Prefix()) { WriteSample(m_installation); }
+    SinkAndChecker() : m_appPath(m_installation.Directory().Prefix()) {
+        WriteSample(m_installation);
+        for (const SampleFile& file : SampleFiles()) {
+            WriteLongAgo(file.name, file.text);
+        }
+    }
     ~SinkAndChecker() override {
         CMultiLanguageMgr::SetLanguage(L"");
         CMenuIdMgr::Destroy();
@@ -56,33 +53,33 @@ protected:
                 text += wstring2String(file) + ":" + std::to_string(problem.line) + ":" +
                         std::to_string(problem.column) + " " + problem.code + "\n";
             });
-        Load(L"ribbon", [](const std::wstring& path, DiagnosticsSink& sink) {
-            RibbonRecords records;
-            LoadRibbonFile(path, records, sink);
-        });
-        Load(L"menu", [](const std::wstring& path, DiagnosticsSink& sink) {
-            MenuReading reading;
-            LoadMenuFile(path, reading, sink);
-        });
-        Load(L"toolbar", [](const std::wstring& path, DiagnosticsSink& sink) {
-            ToolBarReading reading;
-            LoadToolBarFile(path, reading, sink);
-        });
+        Load(L"ribbon", ConfigurationKind::Ribbon);
+        Load(L"menu", ConfigurationKind::Menu);
+        Load(L"toolbar", ConfigurationKind::ToolBars);
         SetConfigurationProblemSink(earlier);
         return text;
+    }
+
+    /// As a file that was written some hours ago, each later than the one before: what is read of such files is kept.
+    void WriteLongAgo(const std::string& name, const std::string& text) {
+        m_installation.Write(name, text);
+        SetTime(name, ++m_written);
+    }
+    /// `seconds`: from a time that lies some hours back.
+    void SetTime(const std::string& name, int seconds) const {
+        fs::last_write_time(m_installation.Directory().Path() / name, m_longAgo + std::chrono::seconds(seconds));
     }
 
     const CheckedInstallation m_installation;
 
 private:
     /// Reads a file as a builder does, which registers its commands.
-    void Load(const std::wstring& name,
-              const std::function<void(const std::wstring& path, DiagnosticsSink& sink)>& read) const {
+    void Load(const std::wstring& name, ConfigurationKind kind) const {
         const std::wstring directory = m_installation.Directory().Prefix();
         const std::wstring file = L"cfg/" + name + L".xml";
         {
             LoadWatch watch;
-            read(directory + file, watch.Sink());
+            ReadConfigurationFile(directory + file, kind, watch.Sink());
         }
         GatheringSink gathered;
         GatherConfiguration({directory, {file}, {}}, gathered);
@@ -97,6 +94,9 @@ private:
     }
 
     ScopedAppPath m_appPath;
+    const HeardProblems m_listener;
+    const fs::file_time_type m_longAgo = fs::file_time_type::clock::now() - std::chrono::hours(10);
+    int m_written = 0;
 };
 
 /// Whether a place is in a file that is loaded, and not in a table.
@@ -123,13 +123,13 @@ TEST_F(SinkAndChecker, EachPlantedFaultIsHeardAsItIsFound) {
     EXPECT_EQ(Heard(L"de"), "");
     std::set<std::string> ofTables;
     for (const PlantedFault& fault : kPlantedFaults) {
-        m_installation.Write(fault.file, TextWithFault(fault));
+        WriteLongAgo(fault.file, TextWithFault(fault));
         const std::wstring language = std::string_view(fault.file).starts_with("lang/en") ? L"en" : L"de";
         const std::string found = FoundForFiles(m_installation, language, ofTables);
         EXPECT_TRUE(!found.empty() || std::string_view(fault.file).starts_with("lang/")) << fault.code;
         EXPECT_EQ(Heard(language), found) << fault.code << " " << fault.before << "\n-> " << fault.after;
         for (const SampleFile& file : SampleFiles()) {
-            m_installation.Write(file.name, file.text);
+            WriteLongAgo(file.name, file.text);
         }
     }
     // What the documentation says that only the checker tells.
@@ -161,7 +161,7 @@ TEST_F(SinkAndChecker, WhatStandsTwiceIsHeard) {
 }
 
 TEST_F(SinkAndChecker, WithoutALanguageNoTextIsMissed) {
-    std::filesystem::remove_all(m_installation.Directory().Path() / "lang");
+    fs::remove_all(m_installation.Directory().Path() / "lang");
     EXPECT_EQ(Heard(L""), "");
 }
 
@@ -172,6 +172,92 @@ TEST_F(SinkAndChecker, AFileThatAnotherOneContradictsIsToldWhenItIsLoaded) {
     m_installation.Write("cfg/menu.xml", menu);
     EXPECT_EQ(Heard(L"en"), m_installation.Findings({}, L"en"));
     EXPECT_NE(Heard(L"en").find("cfg/menu.xml:5:13 duplicate-keyword"), std::string::npos);
+}
+
+/// A change that leaves the file's length as it is. What is wrong then is told by another file, or about the file that
+/// is loaded, and not by its own reading.
+struct QuietChange {
+    const char* file;
+    const char* before;
+    const char* after;
+    const char* heard;
+};
+const QuietChange kQuietChanges[] = {
+    {"cfg/ribbon.xml", "CMD=\"open\"", "CMD=\"load\"", "cfg/menu.xml:5:13 duplicate-keyword\n"},
+    {"lang/de/a.xlf", "id=\"Print\"", "id=\"Paint\"", "cfg/menu.xml:6:13 missing-text\n"},
+    {"pic/icon/16/save.ico", "\x01", "\x03", "cfg/ribbon.xml:17:73 icon-format\n"}, // which says that it is an icon
+};
+
+class KeptReading : public SinkAndChecker {
+protected:
+    KeptReading() {
+        std::string menu = SampleMenu();
+        const std::string item = "<item KEYWORD=\"Open\" MENUNAME=\"\"";
+        WriteLongAgo("cfg/menu.xml", menu.insert(menu.find(item) + item.size(), " CMD=\"open\""));
+    }
+    /// Without a trace in the file's length and time.
+    void ChangeQuietly(const QuietChange& change) const {
+        const fs::path path = m_installation.Directory().Path() / change.file;
+        const fs::file_time_type time = fs::last_write_time(path);
+        std::string text = Contents(path);
+        const std::size_t place = text.find(change.before);
+        ASSERT_NE(place, std::string::npos) << change.before;
+        text.replace(place, std::strlen(change.before), change.after);
+        m_installation.Write(change.file, text);
+        fs::last_write_time(path, time);
+    }
+
+private:
+    static std::string Contents(const fs::path& path) {
+        std::ifstream stream(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+};
+
+TEST_F(KeptReading, AFileOfTheSameLengthAndTimeIsNotReadAgainByTheLoadOfAnother) {
+    SetTime("pic/icon/16/save.ico", 0);
+    for (const QuietChange& change : kQuietChanges) {
+        EXPECT_EQ(Heard(L"de"), "") << change.file;
+        ChangeQuietly(change);
+        EXPECT_EQ(Heard(L"de"), "") << change.file;
+        SetTime(change.file, -1);
+        EXPECT_EQ(Heard(L"de"), change.heard);
+        ChangeQuietly({change.file, change.after, change.before, ""});
+        SetTime(change.file, -2);
+    }
+}
+
+TEST_F(KeptReading, AFileThatWasWrittenAMomentAgoIsReadAgain) {
+    for (const QuietChange& change : kQuietChanges) {
+        fs::last_write_time(m_installation.Directory().Path() / change.file, fs::file_time_type::clock::now());
+        EXPECT_EQ(Heard(L"de"), "") << change.file;
+        ChangeQuietly(change);
+        EXPECT_EQ(Heard(L"de"), change.heard);
+        ChangeQuietly({change.file, change.after, change.before, ""});
+    }
+}
+
+TEST_F(KeptReading, WhatIsAddedAndTakenAwayIsNoticed) {
+    EXPECT_EQ(Heard(L"de"), "");
+    const fs::path folder = m_installation.Directory().Path();
+    fs::rename(folder / "lang/de/a.xlf", folder / "lang/de/b.txt");
+    WriteLongAgo("lang/de/c.xlf", CheckedInstallation::Table(CheckedInstallation::Unit("Open", "Auf"), "de"));
+    const std::string without = Heard(L"de");
+    EXPECT_NE(without.find("missing-text"), std::string::npos);
+    EXPECT_EQ(without, m_installation.Findings({}, L"de"));
+    fs::rename(folder / "lang/de/b.txt", folder / "lang/de/d.xlf");
+    EXPECT_EQ(Heard(L"de"), "");
+    WriteLongAgo("cfg/status.xml", RibbonWith("<item KEYWORD=\"Undo\" TYPE=\"BUTTON\"/>"));
+    EXPECT_EQ(Heard(L"de"), "cfg/menu.xml:14:13 duplicate-keyword\n");
+    fs::remove(folder / "cfg/status.xml");
+    EXPECT_EQ(Heard(L"de"), "");
+}
+
+TEST_F(KeptReading, NothingIsKeptForNobody) {
+    SetConfigurationProblemSink({});
+    EXPECT_EQ(Heard(L"de"), "");
+    ChangeQuietly(kQuietChanges[1]);
+    EXPECT_EQ(Heard(L"de"), kQuietChanges[1].heard);
 }
 
 } // namespace
