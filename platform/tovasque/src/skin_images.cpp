@@ -129,70 +129,13 @@ void SetFrames(const Pixels& pixels, const SkinImageUse& use, int percent, std::
     }
 }
 
-} // namespace
-
-const SkinImageUse& UseOf(SkinImage image) { return kUses[static_cast<std::size_t>(image) - 1]; }
-
-const visual::Plate* SkinPictures::FindPlate(std::uint32_t number, visual::PlatePlace place, int height,
-                                             double scale) const {
-    if (number == 0 || number > kPlates.size()) {
-        return nullptr;
-    }
-    const PlateUse& use = kPlates[number - 1];
-    const bool isTall = height >= kTwoRows * scale;
-    const Frame frame = place == visual::PlatePlace::StatusBar ? use.status
-                        : place == visual::PlatePlace::Joined  ? use.joined
-                        : isTall                               ? use.tall
-                                                               : use.narrow;
-    const Loaded& loaded = Load(frame.image, scale);
-    return loaded.pixels.IsEmpty() ? nullptr : &loaded.frames[static_cast<std::size_t>(frame.frame)];
-}
-
-const SkinPictures::Loaded& SkinPictures::Load(SkinImage image, double scale) const {
-    const int percent = static_cast<int>(std::lround(scale * 100));
-    const auto [entry, isNew] = m_loaded.try_emplace({image, percent});
-    if (isNew) {
-        entry->second = image == SkinImage::DropArrow ? ReadArrow(percent) : Read(image, percent);
-    }
-    return entry->second;
-}
-
-SkinPictures::Loaded SkinPictures::ReadArrow(int percent) const {
-    std::wstring directory;
-    if (m_dropDownIcon.IsEmpty() || !FileOp::GetAppPath(directory)) {
-        return {};
-    }
-    const std::wstring path = directory + static_cast<LPCTSTR>(m_dropDownIcon);
-    const int side = Scaled(kIconSide, percent);
-    Loaded loaded;
-    for (const visual::Argb color : m_arrowColors) {
-        const Pixels shape = ReadIconShape(path, side, color);
-        if (shape.IsEmpty()) {
-            return {};
-        }
-        loaded.pixels.bits.insert(loaded.pixels.bits.end(), shape.bits.begin(), shape.bits.end());
-    }
-    loaded.pixels.width = side;
-    loaded.pixels.height = side * static_cast<int>(m_arrowColors.size());
-    SetFrames(loaded.pixels, {SkinImage::DropArrow, static_cast<int>(m_arrowColors.size()), 0, 0, 0, 0, false, true},
-              percent, loaded.frames);
-    return loaded;
-}
-
-SkinPictures::Loaded SkinPictures::Read(SkinImage image, int percent) const {
-    const CString& relative = m_paths[static_cast<std::size_t>(image) - 1];
-    std::wstring directory;
-    if (relative.IsEmpty() || !FileOp::GetAppPath(directory)) {
-        return {};
-    }
-    const std::wstring path = directory + static_cast<LPCTSTR>(relative);
-    const SkinImageUse& use = UseOf(image);
+LoadedPicture ReadPicture(const SkinImageUse& use, const std::wstring& path, int percent, LookedAtFiles& files) {
     const auto read = [&](int filePercent) {
-        Pixels pixels = ReadPngFile(FileForPercent(path, filePercent));
+        Pixels pixels = ReadPngFile(files.Add(FileForPercent(path, filePercent)));
         return pixels.height % use.frames == 0 ? pixels : Pixels{};
     };
     int filePercent = 100;
-    Loaded loaded;
+    LoadedPicture loaded;
     for (const int larger : kFilePercents) {
         if (larger <= percent && loaded.pixels.IsEmpty()) {
             loaded.pixels = read(filePercent = larger);
@@ -210,6 +153,69 @@ SkinPictures::Loaded SkinPictures::Read(SkinImage image, int percent) const {
             Scaled(loaded.pixels, std::max(MulDiv(loaded.pixels.width, percent, filePercent), 1), frame * use.frames);
     }
     SetFrames(loaded.pixels, use, percent, loaded.frames);
+    return loaded;
+}
+
+} // namespace
+
+const SkinImageUse& UseOf(SkinImage image) { return kUses[static_cast<std::size_t>(image) - 1]; }
+
+const visual::Plate* SkinPictures::FindPlate(std::uint32_t number, visual::PlatePlace place, int height,
+                                             double scale) const {
+    if (number == 0 || number > kPlates.size()) {
+        return nullptr;
+    }
+    const PlateUse& use = kPlates[number - 1];
+    const bool isTall = height >= kTwoRows * scale;
+    const Frame frame = place == visual::PlatePlace::StatusBar ? use.status
+                        : place == visual::PlatePlace::Joined  ? use.joined
+                        : isTall                               ? use.tall
+                                                               : use.narrow;
+    const LoadedPicture& loaded = Load(frame.image, scale);
+    return loaded.pixels.IsEmpty() ? nullptr : &loaded.frames[static_cast<std::size_t>(frame.frame)];
+}
+
+const LoadedPicture& SkinPictures::Load(SkinImage image, double scale) const {
+    const int percent = static_cast<int>(std::lround(scale * 100));
+    std::shared_ptr<const LoadedPicture>& loaded = m_loaded[{image, percent}];
+    if (loaded == nullptr) {
+        loaded = Find(image, percent);
+    }
+    return *loaded;
+}
+
+std::shared_ptr<const LoadedPicture> SkinPictures::Find(SkinImage image, int percent) const {
+    const bool isArrow = image == SkinImage::DropArrow;
+    const CString& relative = isArrow ? m_dropDownIcon : m_paths[static_cast<std::size_t>(image) - 1];
+    std::wstring directory;
+    if (relative.IsEmpty() || !FileOp::GetAppPath(directory)) {
+        return std::make_shared<const LoadedPicture>();
+    }
+    const std::wstring path = directory + static_cast<LPCTSTR>(relative);
+    std::wstring key = path + L'|' + std::to_wstring(static_cast<int>(image)) + L'|' + std::to_wstring(percent);
+    for (const visual::Argb color : m_arrowColors) {
+        key += isArrow ? L'|' + std::to_wstring(color) : std::wstring();
+    }
+    return FindPicture(key, [&](LookedAtFiles& files) {
+        return isArrow ? ReadArrow(path, percent, files) : ReadPicture(UseOf(image), path, percent, files);
+    });
+}
+
+LoadedPicture SkinPictures::ReadArrow(const std::wstring& path, int percent, LookedAtFiles& files) const {
+    files.Add(path);
+    const int side = Scaled(kIconSide, percent);
+    LoadedPicture loaded;
+    for (const visual::Argb color : m_arrowColors) {
+        const Pixels shape = ReadIconShape(path, side, color);
+        if (shape.IsEmpty()) {
+            return {};
+        }
+        loaded.pixels.bits.insert(loaded.pixels.bits.end(), shape.bits.begin(), shape.bits.end());
+    }
+    loaded.pixels.width = side;
+    loaded.pixels.height = side * static_cast<int>(m_arrowColors.size());
+    SetFrames(loaded.pixels, {SkinImage::DropArrow, static_cast<int>(m_arrowColors.size()), 0, 0, 0, 0, false, true},
+              percent, loaded.frames);
     return loaded;
 }
 

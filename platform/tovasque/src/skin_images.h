@@ -1,12 +1,13 @@
 #pragma once
 
-#include "src/picture_file.h"
+#include "src/kept_pictures.h"
 #include "tovasque/visual_manager_office2007_2.h"
 
 #include <fx/skin_table.h>
 
 #include <array>
 #include <map>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -45,7 +46,7 @@ struct SkinImageUse {
 /// What the picture of that number paints.
 const SkinImageUse& UseOf(SkinImage image);
 
-/// The pictures of one skin, read when first asked for and kept.
+/// The pictures of one skin, looked for when first asked for and from then on the same.
 class SkinPictures final : public visual::PlateSource {
 public:
     /// Both are the manager's.
@@ -62,19 +63,15 @@ public:
                                    double scale) const override;
 
 private:
-    /// A picture at one scale; without pixels when no file could be used.
-    struct Loaded {
-        Pixels pixels;
-        std::array<visual::Plate, 3> frames;
-    };
-    const Loaded& Load(SkinImage image, double scale) const;
-    Loaded Read(SkinImage image, int percent) const;
-    Loaded ReadArrow(int percent) const;
+    const LoadedPicture& Load(SkinImage image, double scale) const;
+    std::shared_ptr<const LoadedPicture> Find(SkinImage image, int percent) const;
+    LoadedPicture ReadArrow(const std::wstring& path, int percent, LookedAtFiles& files) const;
 
     const std::array<CString, kSkinImages>& m_paths; ///< the manager's
     const CString& m_dropDownIcon;
     std::array<visual::Argb, 2> m_arrowColors{};
-    mutable std::map<std::pair<SkinImage, int>, Loaded> m_loaded; ///< by picture and percent
+    mutable std::map<std::pair<SkinImage, int>, std::shared_ptr<const LoadedPicture>>
+        m_loaded; ///< by picture and percent
 };
 
 } // namespace tovasque

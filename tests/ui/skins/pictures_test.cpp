@@ -8,6 +8,7 @@
 
 #include <afxribbonbar.h>
 
+#include <chrono>
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -36,6 +37,13 @@ protected:
         const std::filesystem::path path = m_directory.Path() / "made.png";
         EXPECT_EQ(picture.Save(path.wstring().c_str(), &kPngEncoder, nullptr), Gdiplus::Ok);
         return FileBytes(path);
+    }
+
+    /// The file is as old as that.
+    std::filesystem::file_time_type SetWritten(std::chrono::seconds age) const {
+        const auto written = std::filesystem::file_time_type::clock::now() - age;
+        std::filesystem::last_write_time(m_directory.Path() / kFile, written);
+        return written;
     }
 
     /// What a new black skin paints.
@@ -136,6 +144,46 @@ TEST_F(SkinPictureFiles, APictureIsReadOnceForEachManager) {
     skin.OnDrawRibbonTabsFrame(canvas.Dc(), nullptr, CRect(0, 0, 30, 30));
     EXPECT_EQ(canvas.At(10, 10), Pixel(kPicture));
     EXPECT_EQ(Painted(), Pixel(kTabRow));
+}
+
+TEST_F(SkinPictureFiles, AReplacedADeletedAndARestoredPictureEachShowWithTheNextManager) {
+    const std::string picture = MakePicture(kPicture);
+    m_directory.Write(kFile, picture);
+    const auto longAgo = SetWritten(std::chrono::hours(2));
+    EXPECT_EQ(Painted(), Pixel(kPicture));
+    m_directory.Write(kFile, MakePicture(kLargerPicture));
+    SetWritten(std::chrono::hours(1));
+    EXPECT_EQ(Painted(), Pixel(kLargerPicture));
+    std::filesystem::remove(m_directory.Path() / kFile);
+    EXPECT_EQ(Painted(), Pixel(kTabRow));
+    m_directory.Write(kFile, picture);
+    std::filesystem::last_write_time(m_directory.Path() / kFile, longAgo);
+    EXPECT_EQ(Painted(), Pixel(kPicture));
+    m_directory.Write(kFileAt150, MakePicture(kLargerPicture, 24, 24));
+    EXPECT_EQ(Painted(), Pixel(kPicture));
+    afxGlobalData.SetRibbonImageScale(1.5);
+    EXPECT_EQ(Painted(), Pixel(kLargerPicture));
+    std::filesystem::remove(m_directory.Path() / kFileAt150);
+    EXPECT_EQ(Painted(), Pixel(kPicture));
+}
+
+TEST_F(SkinPictureFiles, TheNextManagerDoesNotReadAPictureAgainThatIsUnchanged) {
+    m_directory.Write(kFile, MakePicture(kPicture));
+    const auto written = SetWritten(std::chrono::hours(1));
+    EXPECT_EQ(Painted(), Pixel(kPicture));
+    // Who read this would see that it is none.
+    m_directory.Write(kFile, std::string(std::filesystem::file_size(m_directory.Path() / kFile), 'x'));
+    std::filesystem::last_write_time(m_directory.Path() / kFile, written);
+    EXPECT_EQ(Painted(), Pixel(kPicture));
+}
+
+TEST_F(SkinPictureFiles, APictureThatWasWrittenThisMomentIsReadAgain) {
+    m_directory.Write(kFile, MakePicture(kPicture));
+    const auto written = SetWritten(std::chrono::seconds(0));
+    EXPECT_EQ(Painted(), Pixel(kPicture));
+    m_directory.Write(kFile, std::string(std::filesystem::file_size(m_directory.Path() / kFile), 'x'));
+    std::filesystem::last_write_time(m_directory.Path() / kFile, written);
+    EXPECT_EQ(Painted(), Pixel(kTabRow)) << "its stamp says nothing";
 }
 
 TEST_F(SkinPictureFiles, FramesThatDoNotDivideThePictureLeaveTheFlatColour) {
