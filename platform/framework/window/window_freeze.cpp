@@ -1,7 +1,6 @@
 #include "fx/window_freeze.h"
 
 #include "afxwin.h"
-#include "fx/dc_scope.h"
 #include "fx/paint_round.h"
 #include "fx/window_dc.h"
 #include "window/thread_windows.h"
@@ -40,12 +39,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool TakePicture(CSize size);
-    bool DrawPicture();
     void ShowFrameAsItIs();
 
     HWND m_frame;
-    CBitmap m_picture;
 };
 
 BEGIN_MESSAGE_MAP(WindowFreeze::Cover, CWnd)
@@ -57,9 +53,6 @@ END_MESSAGE_MAP()
 WindowFreeze::Cover::Cover(HWND frame) : m_frame(frame) {
     CRect rect;
     ::GetWindowRect(frame, rect);
-    if (!TakePicture(rect.Size())) {
-        return;
-    }
     constexpr DWORD through = WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT;
     if (!CreateEx(through, AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW)), nullptr, WS_POPUP | WS_DISABLED,
                   rect.left, rect.top, rect.Width(), rect.Height(), frame, nullptr)) {
@@ -92,36 +85,17 @@ void WindowFreeze::Cover::ShowFrameAsItIs() {
     if (GetSafeHwnd() != nullptr) {
         GetWindowRect(own);
     }
-    if (!own.IsRectEmpty() && frame == own && DrawPicture()) {
+    if (!own.IsRectEmpty() && frame == own) {
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     }
 }
 
-bool WindowFreeze::Cover::TakePicture(CSize size) {
-    const HDC screen = ::GetDC(nullptr);
-    const bool isMade = m_picture.Attach(::CreateCompatibleBitmap(screen, size.cx, size.cy)) != FALSE;
-    ::ReleaseDC(nullptr, screen);
-    return isMade && DrawPicture();
-}
-
-bool WindowFreeze::Cover::DrawPicture() {
-    CDC memory;
-    if (!memory.CreateCompatibleDC(nullptr)) {
-        return false;
-    }
-    const DcSelection selected(memory, m_picture);
-    DrawWindowPicture(memory, m_frame, 0, 0);
-    return true;
-}
-
+// Painted once as it comes and once before it goes, from the frame's own pixels: a picture kept in between would cost
+// as much again as the window does.
 void WindowFreeze::Cover::OnPaint() {
     CPaintDC dc(this);
-    CRect client;
-    GetClientRect(client);
-    CDC memory;
-    memory.CreateCompatibleDC(&dc);
-    const DcSelection selected(memory, m_picture);
-    dc.BitBlt(0, 0, client.Width(), client.Height(), &memory, 0, 0, SRCCOPY);
+    ::SetLayout(dc, 0);
+    DrawWindowPicture(dc, m_frame, 0, 0);
 }
 
 WindowFreeze::WindowFreeze() {
