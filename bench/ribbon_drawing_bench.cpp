@@ -1,6 +1,7 @@
 // A ribbon of 1,600 pixels that shows 100 buttons with icon files: painting it in every way that a user causes, beside
 // two floors: the icon draws and text draws of the same paint and nothing else, once with each icon file read and
-// decoded for it, and once with all pictures in memory.
+// decoded for it, and once with all pictures in memory. Changing the skin has a floor of its own: the skin's pictures
+// read and decoded, and the whole window drawn with them. The pictures lie beside the program.
 #include <afxvisualmanageroffice2007.h>
 
 #include "bench_frame.h"
@@ -8,6 +9,7 @@
 #include "ribbon_bar_ex.h"
 #include "ribbon_icon_button.h"
 #include "scenario.h"
+#include "skin_visual_managers.h"
 
 #include <benchmark/benchmark.h>
 
@@ -15,13 +17,16 @@
 #include <array>
 #include <cstdio>
 #include <functional>
+#include <gdiplus.h>
 #include <memory>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace {
 
 constexpr std::size_t kIconFiles = 20;
-constexpr int kWidth = 1600, kNarrowWidth = 1500;
+constexpr int kWidth = 1600, kNarrowWidth = 1500, kBarHeight = 150;
 constexpr int kPanels = 5, kButtonsInAPanel = 20, kButtons = kPanels * kButtonsInAPanel;
 
 ScenarioDirectory& Scenario() {
@@ -211,12 +216,13 @@ private:
     std::array<HICON, kIconFiles> m_large, m_small;
 };
 
-/// A bitmap as wide as the bar.
+/// A bitmap as large as what is drawn of the window.
 class FloorCanvas {
 public:
-    FloorCanvas() {
+    explicit FloorCanvas(CWnd& window = Ribbon(), CSize size = CSize(kWidth, kBarHeight))
+        : m_window(&window), m_size(size) {
         m_memory.CreateCompatibleDC(&m_window);
-        m_bitmap.CreateCompatibleBitmap(&m_window, kWidth, 150);
+        m_bitmap.CreateCompatibleBitmap(&m_window, size.cx, size.cy);
         m_previous = m_memory.SelectObject(&m_bitmap);
         m_font = m_memory.SelectObject(&afxGlobalData.fontRegular);
     }
@@ -226,6 +232,14 @@ public:
     }
     FloorCanvas(const FloorCanvas&) = delete;
     FloorCanvas& operator=(const FloorCanvas&) = delete;
+
+    void Fill(CRect rect, COLORREF color) { m_memory.FillSolidRect(rect, color); }
+    void Stretch(CRect rect, HDC picture, CSize pictureSize) {
+        const BLENDFUNCTION over{AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+        ::AlphaBlend(m_memory, rect.left, rect.top, rect.Width(), rect.Height(), picture, 0, 0, pictureSize.cx,
+                     pictureSize.cy, over);
+    }
+    void Show() { m_window.BitBlt(0, 0, m_size.cx, m_size.cy, &m_memory, 0, 0, SRCCOPY); }
 
     void Draw(const DrawCalls& calls, const FloorIcons& icons) {
         for (long i = 0; i < calls.icons; ++i) {
@@ -239,7 +253,8 @@ public:
     }
 
 private:
-    CClientDC m_window{&Ribbon()};
+    CClientDC m_window;
+    CSize m_size;
     CDC m_memory;
     CBitmap m_bitmap;
     CBitmap* m_previous;
@@ -264,6 +279,86 @@ void RunMemoryFloor(benchmark::State& state, const Action& action) {
     }
 }
 
+/// A skin's pictures, in memory for GDI.
+class FloorPictures {
+public:
+    explicit FloorPictures(std::span<const std::wstring> files) {
+        for (const std::wstring& file : files) {
+            Gdiplus::Bitmap source(file.c_str());
+            const INT width = static_cast<INT>(source.GetWidth()), height = static_cast<INT>(source.GetHeight());
+            const Gdiplus::Rect whole(0, 0, width, height);
+            Gdiplus::BitmapData data;
+            if (source.LockBits(&whole, Gdiplus::ImageLockModeRead, PixelFormat32bppPARGB, &data) == Gdiplus::Ok) {
+                m_bitmaps.push_back(::CreateBitmap(width, height, 1, 32, nullptr));
+                ::SetBitmapBits(m_bitmaps.back(), static_cast<DWORD>(data.Stride * height), data.Scan0);
+                m_sizes.emplace_back(width, height);
+                source.UnlockBits(&data);
+            }
+        }
+    }
+    ~FloorPictures() {
+        for (const HBITMAP bitmap : m_bitmaps) {
+            ::DeleteObject(bitmap);
+        }
+    }
+    FloorPictures(const FloorPictures&) = delete;
+    FloorPictures& operator=(const FloorPictures&) = delete;
+
+    std::size_t Count() const { return m_bitmaps.size(); }
+    HBITMAP Bitmap(std::size_t index) const { return m_bitmaps[index]; }
+    CSize Size(std::size_t index) const { return m_sizes[index]; }
+
+private:
+    std::vector<HBITMAP> m_bitmaps;
+    std::vector<CSize> m_sizes;
+};
+
+/// The files of a skin's pictures as its manager knows them.
+std::vector<std::wstring> PictureFiles(bool isSilver) {
+    CMFCVisualManager::SetDefaultManager(isSilver ? RUNTIME_CLASS(CQKVisualManagerOffice2007Silver)
+                                                  : RUNTIME_CLASS(CQKVisualManagerOffice2007Black));
+    wchar_t program[MAX_PATH];
+    ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const std::wstring directory(program, std::wstring(program).rfind(L'\\') + 1);
+    std::vector<std::wstring> files;
+    const auto& skin = static_cast<CMFCVisualManagerOffice20072&>(*CMFCVisualManager::GetInstance());
+    for (const CString& path : skin.GetSkinImages()) {
+        files.push_back(directory + path.GetString());
+    }
+    return files;
+}
+
+/// All of the window drawn off the screen and shown at once, as the switch shows it.
+void RunSwitchFloor(benchmark::State& state, const Action& action) {
+    constexpr std::size_t ground = 6; // of a category, in the skins' list
+    const DrawCalls calls = CallsOf(action);
+    const std::vector<std::wstring> files[] = {PictureFiles(false), PictureFiles(true)};
+    bool isSilver = false;
+    for (auto _ : state) {
+        isSilver = !isSilver;
+        const FloorPictures pictures(files[isSilver ? 1 : 0]);
+        if (pictures.Count() != files[0].size()) {
+            state.SkipWithError("the skins' pictures do not lie beside the program");
+            return;
+        }
+        CRect client;
+        g_frame->GetClientRect(client);
+        const CRect bar(0, 0, kWidth, kBarHeight);
+        const FloorIcons icons(calls.icons);
+        FloorCanvas canvas(*g_frame, client.Size());
+        canvas.Fill(client, isSilver ? RGB(235, 240, 244) : RGB(75, 80, 90));
+        canvas.Fill(bar, isSilver ? RGB(255, 255, 255) : RGB(60, 64, 73));
+        CDC picture;
+        picture.CreateCompatibleDC(nullptr);
+        const HGDIOBJ previous = ::SelectObject(picture, pictures.Bitmap(ground));
+        canvas.Stretch(bar, picture, pictures.Size(ground));
+        ::SelectObject(picture, previous);
+        canvas.Draw(calls, icons);
+        canvas.Show();
+        ::GdiFlush();
+    }
+}
+
 struct Floor {
     const char* name;
     void (*run)(benchmark::State& state, const Action& action);
@@ -273,12 +368,20 @@ constexpr Floor kFloors[] = {
     {"icon draws and texts, all pictures in memory", RunMemoryFloor},
 };
 
+constexpr Floor kSwitchFloors[] = {
+    {"its pictures decoded, each icon file once, the window drawn with them", RunSwitchFloor},
+};
+
+std::span<const Floor> FloorsOf(const Action& action) {
+    return action.run == SwitchSkin ? std::span<const Floor>(kSwitchFloors) : std::span<const Floor>(kFloors);
+}
+
 void Register() {
     for (const Action& action : kActions) {
         benchmark::RegisterBenchmark(action.name, [&action](benchmark::State& state) {
             Run(state, action);
         })->Unit(benchmark::kMicrosecond);
-        for (const auto& [floor, run] : kFloors) {
+        for (const auto& [floor, run] : FloorsOf(action)) {
             benchmark::RegisterBenchmark((std::string(action.name) + "/floor: " + floor).c_str(),
                                          [&action, run](benchmark::State& state) { run(state, action); })
                 ->Unit(benchmark::kMicrosecond);
@@ -300,7 +403,11 @@ protected:
                          bar.Width());
             return;
         }
+        ULONG_PTR token = 0;
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&token, &input, nullptr);
         benchmark::RunSpecifiedBenchmarks();
+        Gdiplus::GdiplusShutdown(token);
     }
 };
 
