@@ -4,6 +4,7 @@
 #include "afxglobals.h"
 #include "afxmenubar.h"
 #include "afxpopupmenu.h"
+#include "afxusertoolsmanager.h"
 #include "afxvisualmanager.h"
 #include "fx/dc_scope.h"
 #include "toolbar/menu_row.h"
@@ -41,6 +42,11 @@ void DrawArrow(CDC& dc, const CRect& rect, bool isToTheRight, COLORREF color) {
 BOOL DrawByFrame(CDC* dc, const CMFCToolBarMenuButton& button, const CRect& rect) {
     CFrameWnd* frame = button.GetParentWnd() ? button.GetParentWnd()->GetTopLevelFrame() : nullptr;
     return frame && frame->OnDrawMenuImage(dc, &button, rect);
+}
+
+/// The user's tool that the item starts; null: it starts none.
+CUserTool* ToolOf(const CMFCToolBarMenuButton& button) {
+    return afxUserToolsManager != nullptr ? afxUserToolsManager->FindTool(button.m_nID) : nullptr;
 }
 
 } // namespace
@@ -198,6 +204,8 @@ void CMFCToolBarMenuButton::DrawMenuItemImage(CDC* pDC, const CRect& rectImage, 
         pImages->Draw(pDC, rectImage.left + (rectImage.Width() - size.cx) / 2,
                       rectImage.top + (rectImage.Height() - size.cy) / 2, GetImage(), FALSE,
                       IsDisabledState() && bGrayDisabled);
+    } else if (CUserTool* const tool = ToolOf(*this)) {
+        tool->DrawToolIcon(pDC, rectImage);
     } else if (isChecked) {
         manager->OnDrawMenuCheck(pDC, this, frame, bHighlight, m_bIsRadio);
     }

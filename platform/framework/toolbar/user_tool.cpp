@@ -25,6 +25,15 @@ CString FoundProgram(const CString& command) {
     return length > 0 && length < path.size() ? CString(path.data()) : command;
 }
 
+/// The program's first icon in the size in which it is drawn; null: it has none.
+HICON IconOf(const CString& program) {
+    const CSize size = SmallIcon();
+    HICON icon = nullptr;
+    // The number of icons, and -1 for a file that holds none.
+    const bool hasOne = ::PrivateExtractIconsW(program, 0, size.cx, size.cy, &icon, nullptr, 1, 0) == 1;
+    return hasOne ? icon : nullptr;
+}
+
 } // namespace
 
 CUserTool::CUserTool() = default;
@@ -59,7 +68,7 @@ HICON CUserTool::SetToolIcon() {
         m_hIcon = nullptr;
     }
     if (!m_strCommand.IsEmpty()) {
-        ::ExtractIconExW(FoundProgram(m_strCommand), 0, nullptr, &m_hIcon, 1);
+        m_hIcon = IconOf(FoundProgram(m_strCommand));
     }
     if (m_hIcon == nullptr) {
         m_hIcon = LoadDefaultIcon();
@@ -67,7 +76,11 @@ HICON CUserTool::SetToolIcon() {
     return m_hIcon;
 }
 
-HICON CUserTool::LoadDefaultIcon() { return ::CopyIcon(::LoadIconW(nullptr, IDI_APPLICATION)); }
+HICON CUserTool::LoadDefaultIcon() {
+    const CSize size = SmallIcon();
+    const HICON shared = ::LoadIconW(nullptr, IDI_APPLICATION);
+    return static_cast<HICON>(::CopyImage(shared, IMAGE_ICON, size.cx, size.cy, LR_COPYFROMRESOURCE));
+}
 
 void CUserTool::DrawToolIcon(CDC* pDC, const CRect& rectImage) {
     if (m_hIcon == nullptr) {

@@ -1,5 +1,6 @@
 #include "toolbar/user_tool_items.h"
 
+#include "afxcommandmanager.h"
 #include "afxpopupmenu.h"
 #include "afxusertoolsmanager.h"
 
@@ -31,7 +32,9 @@ void toolbar::ShowUserTools(CMFCPopupMenu& menu) {
     int row = place;
     for (POSITION position = tools.GetHeadPosition(); position != nullptr;) {
         const auto* const tool = static_cast<const CUserTool*>(tools.GetNext(position));
-        menu.InsertItem(CMFCToolBarMenuButton(tool->GetCommandId(), nullptr, -1, tool->m_strLabel), row++);
+        const UINT command = tool->GetCommandId();
+        const int image = GetCmdMgr()->GetCmdImage(command, FALSE);
+        menu.InsertItem(CMFCToolBarMenuButton(command, nullptr, image, tool->m_strLabel), row++);
     }
     menu.RemoveItem(row);
 }

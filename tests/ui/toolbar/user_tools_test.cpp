@@ -1,4 +1,6 @@
 // The user's tools: the list, the commands, the page of the customize dialog.
+#include "tests/support/canvas.h"
+#include "tests/support/icon_handle.h"
 #include "tests/ui/toolbar/customize_pages.h"
 
 namespace {
@@ -19,6 +21,11 @@ public:
     BOOL Invoke() override {
         ++s_started;
         return s_works;
+    }
+
+protected:
+    HICON LoadDefaultIcon() override {
+        return MakeIcon(16, RGB(0, 200, 0), [](int, int) { return true; });
     }
 };
 IMPLEMENT_DYNCREATE(NotedTool, CUserTool)
@@ -153,6 +160,67 @@ TEST_F(UserToolsTest, AMenuShowsTheToolsWhereTheirCommandStands) {
     Add(L"B");
     EXPECT_EQ(rows(), (std::vector<UINT>{3001, kFirst, kFirst + 1, 3002}));
     ::DestroyMenu(menu);
+}
+
+TEST_F(UserToolsTest, AMenuShowsTheIconOfAToolUnlessItsCommandHasAnImage) {
+    Add(L"A").SetToolIcon();
+    Add(L"B").SetToolIcon();
+    AddImages(*CMFCToolBar::GetImages(), 1);
+    GetCmdMgr()->SetCmdImage(kFirst + 1, 0, FALSE);
+    const HMENU menu = ::CreatePopupMenu();
+    ::AppendMenuW(menu, MF_STRING, kDummy, L"(tools)");
+    ::AppendMenuW(menu, MF_STRING, 3001, L"None");
+    CMFCPopupMenu* const popup = App().GetContextMenuManager()->ShowPopupMenu(menu, 300, 300, m_frame, FALSE, FALSE);
+    ASSERT_NE(popup, nullptr);
+    ASSERT_EQ(popup->GetMenuItemCount(), 3);
+    CMFCPopupMenuBar& bar = *popup->GetMenuBar();
+    Canvas canvas(ClientSize(bar));
+    constexpr std::uint32_t kGreen = 0x00C800;
+    const auto greens = [&](int row) {
+        CMFCToolBarMenuButton& item = *popup->GetMenuItem(row);
+        item.OnDraw(canvas.Dc(), item.Rect(), CMFCToolBar::GetImages(), FALSE, FALSE, FALSE, FALSE, TRUE);
+        CRect image;
+        item.GetImageRect(image);
+        image.InflateRect(0, 1); // images are a row lower than icons here
+        int count = 0;
+        for (int y = item.Rect().top; y < item.Rect().bottom; ++y) {
+            for (int x = item.Rect().left; x < item.Rect().right; ++x) {
+                const bool isGreen = canvas.At(x, y) == kGreen;
+                EXPECT_TRUE(!isGreen || image.PtInRect(CPoint(x, y))) << x << "," << y;
+                count += isGreen ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    EXPECT_EQ(greens(0), 16 * 16);
+    EXPECT_EQ(greens(1), 0) << "the image that the user has given to the command";
+    EXPECT_EQ(greens(2), 0) << "no tool";
+    CMFCPopupMenu::CloseAll();
+    PumpPending();
+    GetCmdMgr()->ClearCmdImage(kFirst + 1);
+    ::DestroyMenu(menu);
+}
+
+TEST_F(UserToolsTest, TheIconOfAProgramHasTheSizeInWhichItIsDrawn) {
+    const auto widthOf = [](HICON icon) {
+        ICONINFO info{};
+        ::GetIconInfo(icon, &info);
+        BITMAP bitmap{};
+        ::GetObjectW(info.hbmMask, sizeof(bitmap), &bitmap);
+        ::DeleteObject(info.hbmMask);
+        ::DeleteObject(info.hbmColor);
+        return static_cast<int>(bitmap.bmWidth);
+    };
+    CUserTool tool;
+    const double before = afxGlobalData.GetRibbonImageScale();
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        afxGlobalData.SetRibbonImageScale(scale);
+        for (LPCTSTR program : {L"notepad.exe", L"C:\\no\\such\\program.exe"}) {
+            tool.SetCommand(program);
+            EXPECT_EQ(widthOf(tool.SetToolIcon()), static_cast<int>(16 * scale)) << CStringA(program).GetString();
+        }
+    }
+    afxGlobalData.SetRibbonImageScale(before);
 }
 
 // ---- the page
