@@ -39,7 +39,7 @@ bool HasSameItems(HMENU one, HMENU other) {
         ReadMenuItem(one, position, first);
         ReadMenuItem(other, position, second);
         const bool isSame = first.id == second.id && first.text == second.text &&
-                            (first.style & TBBS_SEPARATOR) == (second.style & TBBS_SEPARATOR) &&
+                            ((first.style ^ second.style) & (TBBS_SEPARATOR | TBBS_BREAK | kColumnLine)) == 0 &&
                             (first.submenu != nullptr) == (second.submenu != nullptr);
         if (!isSame || (first.submenu != nullptr && !HasSameItems(first.submenu, second.submenu))) {
             return false;

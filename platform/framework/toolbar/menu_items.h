@@ -5,14 +5,16 @@
 // Items of the system's menus as buttons know them.
 namespace toolbar {
 
+/// Style of an item that begins a column, beside TBBS_BREAK: with a line before the column.
+constexpr UINT kColumnLine = MAKELONG(0, 0x4000);
+
 struct MenuItem {
     UINT id = 0; ///< (UINT)-1: opens a submenu
     CString text;
-    UINT style = 0; ///< TBBS_
+    UINT style = 0; ///< TBBS_; of an item that begins a column TBBS_BREAK, with kColumnLine or without
     BOOL isRadio = FALSE;
     HMENU submenu = nullptr;
     bool isDefault = false;
-    bool breaksColumn = false;
 };
 
 /// FALSE when there is no item at the position.

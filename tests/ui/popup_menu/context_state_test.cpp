@@ -46,6 +46,20 @@ TEST_F(ContextStateTest, AChangedMenuComesBackWithItsChangesAndItsInnerMenus) {
     EXPECT_TRUE(::GetMenuState(menu, 3103, MF_BYCOMMAND) & MF_CHECKED);
 }
 
+TEST_F(ContextStateTest, ColumnsComeBackWhereTheyBegan) {
+    ::AppendMenuW(::GetSubMenu(m_manager.GetMenuById(301), 0), MF_STRING | MF_MENUBREAK, 3103, L"Three");
+    ::AppendMenuW(::GetSubMenu(m_manager.GetMenuById(301), 0), MF_STRING | MF_MENUBARBREAK, 3104, L"Four");
+    ASSERT_TRUE(m_manager.SaveState(kProfile));
+    CContextMenuManager next;
+    next.AddMenu(L"First", 301);
+    ASSERT_TRUE(next.LoadState(kProfile));
+    const HMENU menu = next.GetMenuByName(L"First");
+    constexpr UINT kBreaks = MF_MENUBREAK | MF_MENUBARBREAK;
+    EXPECT_EQ(::GetMenuState(menu, 3101, MF_BYCOMMAND) & kBreaks, 0u);
+    EXPECT_EQ(::GetMenuState(menu, 3103, MF_BYCOMMAND) & kBreaks, static_cast<UINT>(MF_MENUBREAK));
+    EXPECT_EQ(::GetMenuState(menu, 3104, MF_BYCOMMAND) & kBreaks, static_cast<UINT>(MF_MENUBARBREAK));
+}
+
 TEST_F(ContextStateTest, AMenuThatTheNextRunDoesNotHaveIsPassedOver) {
     ASSERT_TRUE(m_manager.SaveState(kProfile));
     CContextMenuManager next;

@@ -106,6 +106,35 @@ TEST_F(CustomizeMenusTest, ACommandMovesWithinAnOpenContextMenuAndTheDefaultItem
     EXPECT_EQ(::GetMenuDefaultItem(Popup(), FALSE, 0), 3043u);
 }
 
+TEST_F(CustomizeMenusTest, ColumnsOfAContextMenuStayWhereTheyBeginWhenItIsChanged) {
+    ::ModifyMenuW(Popup(), 1, MF_BYPOSITION | MF_STRING | MF_MENUBREAK, 3042, L"Two");
+    ::ModifyMenuW(Popup(), 2, MF_BYPOSITION | MF_STRING | MF_MENUBARBREAK, 3043, L"Three");
+    ::AppendMenuW(Popup(), MF_SEPARATOR | MF_MENUBREAK, 0, nullptr);
+    ::AppendMenuW(Popup(), MF_STRING, 3044, L"Four");
+    constexpr UINT kBreaks = MFT_MENUBREAK | MFT_MENUBARBREAK;
+    const auto breaks = [this] {
+        std::vector<UINT> found;
+        for (int position = 0; position < ::GetMenuItemCount(Popup()); ++position) {
+            MENUITEMINFOW info{};
+            info.cbSize = sizeof(info);
+            info.fMask = MIIM_FTYPE;
+            ::GetMenuItemInfoW(Popup(), static_cast<UINT>(position), TRUE, &info);
+            found.push_back(info.fType & kBreaks);
+        }
+        return found;
+    };
+    ASSERT_EQ(breaks(), (std::vector<UINT>{0, MFT_MENUBREAK, MFT_MENUBARBREAK, MFT_MENUBREAK, 0}));
+    Open();
+    ASSERT_TRUE(GoTo(L"Menu"));
+    CMFCPopupMenuBar* const menu = OpenMenu();
+    ASSERT_NE(menu, nullptr);
+    Drag(OnScreen(*menu, 0), CPoint(20, 20));
+    CMFCPopupMenu::CloseAll();
+    PumpPending();
+    EXPECT_EQ(Shown(), (Ids{3042, 3043, 0, 3044}));
+    EXPECT_EQ(breaks(), (std::vector<UINT>{MFT_MENUBREAK, MFT_MENUBARBREAK, MFT_MENUBREAK, 0}));
+}
+
 TEST_F(CustomizeMenusTest, AMenuThatOnlyOpensAndClosesStaysTheSame) {
     Open();
     ASSERT_TRUE(GoTo(L"Menu"));
