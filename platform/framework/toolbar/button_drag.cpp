@@ -21,7 +21,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-constexpr UINT_PTR kOpenTimer = 1;
+constexpr UINT_PTR kWaitTimer = 1;
 
 bool MayBeChanged(const CMFCToolBar& bar) {
     return bar.IsWindowVisible() && !bar.IsLocked() && !bar.IsKindOf(RUNTIME_CLASS(CMFCMenuBar));
@@ -175,22 +175,32 @@ void ButtonDrag::ShowMark(HWND target, const DropPlace& place) {
     m_place = place;
 }
 
-void ButtonDrag::WaitOver(CMFCToolBarMenuButton* opener) {
-    if (opener == m_opener) {
+void ButtonDrag::WaitOver(CMFCToolBarMenuButton* opener, const PageTab& tab) {
+    if (opener == m_opener && tab == m_tab) {
         return;
     }
     m_opener = opener;
-    KillTimer(kOpenTimer);
-    if (opener != nullptr && opener != m_button && !opener->IsDroppedDown()) {
-        SetTimer(kOpenTimer, MenuDelay(), nullptr);
+    m_tab = tab;
+    KillTimer(kWaitTimer);
+    const bool opens = opener != nullptr && opener != m_button && !opener->IsDroppedDown();
+    if (opens || tab) {
+        SetTimer(kWaitTimer, MenuDelay(), nullptr);
     }
 }
 
+// The host hears of both, and may end this.
 void ButtonDrag::OnTimer(UINT_PTR nIDEvent) {
     KillTimer(nIDEvent);
-    CMFCToolBarMenuButton* const opener = m_isUnderWay ? FindOpener(m_last) : nullptr;
+    if (!m_isUnderWay) {
+        return;
+    }
+    if (m_tab && m_tab == PageTabAt(m_last)) {
+        ShowPage(m_tab);
+        return;
+    }
+    CMFCToolBarMenuButton* const opener = FindOpener(m_last);
     if (opener != nullptr && opener == m_opener && !opener->IsDroppedDown()) {
-        opener->OpenPopupMenu(); // the host hears of it, and may end this
+        opener->OpenPopupMenu();
     }
 }
 
@@ -204,7 +214,7 @@ void ButtonDrag::MoveTo(CPoint screen) {
         Cancel();
         return;
     }
-    WaitOver(m_hasMoved ? FindOpener(screen) : nullptr);
+    WaitOver(m_hasMoved ? FindOpener(screen) : nullptr, m_hasMoved ? PageTabAt(screen) : PageTab());
     CMFCToolBar* const target = FindTarget(screen);
     const bool isWelcome = target != nullptr && button->CanBeDropped(target);
     ShowMark(isWelcome && m_hasMoved ? target->m_hWnd : nullptr, isWelcome ? PlaceIn(*target, screen) : DropPlace{});
@@ -213,7 +223,7 @@ void ButtonDrag::MoveTo(CPoint screen) {
 
 void ButtonDrag::Stop() {
     m_isUnderWay = false;
-    KillTimer(kOpenTimer);
+    KillTimer(kWaitTimer);
     ShowMark(nullptr, {});
     ReleaseMouse();
 }

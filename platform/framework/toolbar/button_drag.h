@@ -3,6 +3,7 @@
 #include "afxtoolbar.h"
 
 #include "toolbar/drop_place.h"
+#include "toolbar/page_tab.h"
 #include "window/drag_window.h"
 
 #include <memory>
@@ -14,8 +15,9 @@ namespace toolbar {
 
 /// A toolbar's button, or an item of a menu, in its user's hand, from the press on. The window deletes itself
 /// afterwards. Over a toolbar, and over an open menu of a bar, the gap is marked in which it would come to lie; a
-/// button that opens a menu opens it when the pointer rests there. Beside all bars and menus it is removed when it is
-/// let go. With Ctrl a copy is made. Esc, or the loss of the mouse, ends it. A command from a list lies in no bar:
+/// button that opens a menu opens it when the pointer rests there, and the page of a tab that it rests on comes to the
+/// front: what is dragged may come from one page and belong to another. Beside all bars and menus it is removed when it
+/// is let go. With Ctrl a copy is made. Esc, or the loss of the mouse, ends it. A command from a list lies in no bar:
 /// copies of it are dropped, and beside all bars nothing happens. Whatever menus were open are closed at the end.
 class ButtonDrag : public fx::DragWindow {
 public:
@@ -56,7 +58,8 @@ private:
     bool IsFromList() const { return m_command && m_item == nullptr; }
     CMFCToolBar* FindTarget(CPoint screen) const;
     CMFCToolBarMenuButton* FindOpener(CPoint screen) const;
-    void WaitOver(CMFCToolBarMenuButton* opener);
+    /// Starts to wait where the pointer begins to rest on something else.
+    void WaitOver(CMFCToolBarMenuButton* opener, const PageTab& tab);
     void ShowMark(HWND target, const DropPlace& place);
     void Stop();
     void Leave();
@@ -76,6 +79,7 @@ private:
     CPoint m_start;
     CPoint m_last;
     const CMFCToolBarMenuButton* m_opener = nullptr; ///< the pointer rests on it; only compared
+    PageTab m_tab;                                   ///< or on this
     HWND m_target = nullptr;
     DropPlace m_place;
 };

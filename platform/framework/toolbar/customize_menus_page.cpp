@@ -24,8 +24,8 @@ constexpr fx::DialogItem kItems[] = {
     {-1, kContextMenusText, 7, 48, 248, 8},
     {kMenus, 0, 14, 61, 174, 120, fx::DialogControl::ComboBox, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP},
     {kResetMenu, kResetContextMenuText, 195, 60, 60, 14, fx::DialogControl::Button, kPush},
-    {kHint, kEditMenuText, 14, 81, 241, 18},
-    {kPlace, 0, 14, 104, 241, 18},
+    {kHint, kEditMenuText, 14, 81, 241, 36},
+    {kPlace, 0, 14, 122, 241, 18},
 };
 
 bool HasSameItems(HMENU one, HMENU other) {

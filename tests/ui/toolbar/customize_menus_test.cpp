@@ -1,6 +1,8 @@
 // The page of menus in the customize dialog: context menus are changed by the real mouse and put back.
 #include "tests/ui/toolbar/customize_pages.h"
 
+#include <commctrl.h>
+
 namespace {
 
 constexpr int kResetFrame = 1001;
@@ -45,6 +47,28 @@ protected:
         bar.GetItemRect(index, rect);
         bar.ClientToScreen(&rect);
         return rect.CenterPoint();
+    }
+    CPoint OnTab(LPCTSTR text) {
+        CTabCtrl& tabs = *m_dialog->GetTabControl();
+        CRect rect(0, 0, 0, 0);
+        for (int index = 0; index < tabs.GetItemCount(); ++index) {
+            wchar_t name[100] = {};
+            TCITEMW item{};
+            item.mask = TCIF_TEXT;
+            item.pszText = name;
+            item.cchTextMax = 100;
+            tabs.GetItem(index, &item);
+            if (CString(name) == text) {
+                tabs.GetItemRect(index, &rect);
+            }
+        }
+        tabs.ClientToScreen(&rect);
+        return rect.CenterPoint();
+    }
+    CString TextOf(UINT position) const {
+        wchar_t text[100] = {};
+        ::GetMenuStringW(Popup(), position, text, 100, MF_BYPOSITION);
+        return text;
     }
     static void Mouse(CPoint screen, DWORD flags) {
         SendMouse(screen, flags);
@@ -104,6 +128,37 @@ TEST_F(CustomizeMenusTest, ACommandMovesWithinAnOpenContextMenuAndTheDefaultItem
     PumpPending();
     EXPECT_EQ(Shown(), (Ids{3043, 3041, 3042}));
     EXPECT_EQ(::GetMenuDefaultItem(Popup(), FALSE, 0), 3043u);
+}
+
+TEST_F(CustomizeMenusTest, ACommandOfTheCommandsPageComesOverTheTabOfTheMenuPageIntoItsContextMenu) {
+    CMFCToolBarsCustomizeDialog& dialog = Open();
+    dialog.AddButton(L"More", CMFCToolBarButton(3099, -1, L"Ninety-nine"));
+    constexpr int kCategories = 1001;
+    constexpr int kCommands = 1002;
+    dialog.FillCategoriesListBox(*static_cast<CListBox*>(dialog.GetActivePage()->GetDlgItem(kCategories)), FALSE);
+    Select(kCategories, 1);
+    CRect row;
+    ::SendMessageW(Item(kCommands), LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+    ::MapWindowPoints(Item(kCommands), nullptr, reinterpret_cast<POINT*>(&row), 2);
+    const CPoint from(row.left + 20, row.CenterPoint().y);
+    Mouse(from, 0);
+    Mouse(from, MOUSEEVENTF_LEFTDOWN);
+    Mouse(from + CSize(0, 10), 0);
+    ASSERT_NE(::GetCapture(), nullptr);
+    const CPropertyPage* const before = dialog.GetActivePage();
+    Mouse(OnTab(L"Menu"), 0);
+    EXPECT_EQ(dialog.GetActivePage(), before) << "only where the pointer rests";
+    ASSERT_TRUE(PumpUntil([&] { return dialog.GetActivePage() != before; }));
+    ASSERT_NE(::GetCapture(), nullptr) << "the command is still in the hand";
+    Mouse(OnScreen(HostBar(), 0), 0);
+    ASSERT_TRUE(PumpUntil([] { return CMFCPopupMenu::GetActiveMenu() != nullptr; }));
+    CMFCPopupMenuBar& menu = *CMFCPopupMenu::GetActiveMenu()->GetMenuBar();
+    const CPoint to = OnScreen(menu, 1) + CSize(0, -5);
+    Mouse(to, 0);
+    Mouse(to, MOUSEEVENTF_LEFTUP);
+    EXPECT_EQ(Shown(), (Ids{3041, 3099, 3042, 3043}));
+    EXPECT_EQ(TextOf(1), L"Ninety-nine");
+    EXPECT_TRUE(IsOpen());
 }
 
 TEST_F(CustomizeMenusTest, ColumnsOfAContextMenuStayWhereTheyBeginWhenItIsChanged) {
