@@ -74,14 +74,18 @@ void CContextMenuManager::GetMenuNames(CStringList& listOfNames) const {
 
 namespace {
 
-/// The point for a menu that a key asked for.
+/// The point for a menu that a key asked for: of a window in a mirrored frame its right corner.
 CPoint KeyPoint(CWnd* owner) {
     CRect client(0, 0, 0, 0);
+    bool isMirrored = false;
     if (owner && owner->GetSafeHwnd()) {
         owner->GetClientRect(&client);
         owner->ClientToScreen(&client);
+        client.NormalizeRect();
+        const CFrameWnd* const frame = owner->GetTopLevelFrame();
+        isMirrored = ((owner->GetExStyle() | (frame ? frame->GetExStyle() : 0)) & WS_EX_LAYOUTRTL) != 0;
     }
-    return client.TopLeft();
+    return CPoint(isMirrored ? client.right : client.left, client.top);
 }
 
 } // namespace

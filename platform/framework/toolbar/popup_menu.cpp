@@ -54,10 +54,15 @@ CMFCPopupMenu::~CMFCPopupMenu() {
 
 BOOL CMFCPopupMenu::PreCreateWindow(CREATESTRUCT& cs) {
     cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS | CS_SAVEBITS, ::LoadCursorW(nullptr, IDC_ARROW));
-    // It runs the way of what its button lies in; the system does not hand that down to windows of their own.
-    const CWnd* const opener = m_pParentBtn != nullptr ? m_pParentBtn->GetParentWnd() : nullptr;
+    // It runs the way of what its button lies in, a context menu the way of its window or of the frame around it; the
+    // system does not hand that down to windows of their own.
+    const CWnd* const opener = m_pParentBtn != nullptr ? m_pParentBtn->GetParentWnd()
+                               : m_hMenu != nullptr    ? CWnd::FromHandlePermanent(m_hParentWnd)
+                                                       : nullptr;
     if (opener->GetSafeHwnd() != nullptr) {
-        cs.dwExStyle |= opener->GetExStyle() & WS_EX_LAYOUTRTL;
+        const CWnd* const around = m_pParentBtn == nullptr ? opener->GetTopLevelFrame() : nullptr;
+        const DWORD styles = opener->GetExStyle() | (around != nullptr ? around->GetExStyle() : 0);
+        cs.dwExStyle |= styles & WS_EX_LAYOUTRTL;
     }
     return CMiniFrameWnd::PreCreateWindow(cs);
 }

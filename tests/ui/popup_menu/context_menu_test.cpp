@@ -85,3 +85,36 @@ TEST_F(ContextMenuTest, TheFirstManagerIsTheProgramsOne) {
     EXPECT_FALSE(m_manager.AddMenu(L"Missing", 4711));
     EXPECT_EQ(m_manager.GetMenuByName(L"Missing"), nullptr);
 }
+
+// ---- from right to left
+
+class MirroredContextMenuTest : public ContextMenuTest {
+protected:
+    MirroredContextMenuTest() { m_frame->ModifyStyleEx(0, WS_EX_LAYOUTRTL); }
+    static CRect PlaceOf(const CWnd& window) {
+        CRect place;
+        window.GetWindowRect(&place);
+        return place;
+    }
+};
+
+TEST_F(MirroredContextMenuTest, AMenuOfAMirroredFrameRunsFromTheRightAndEndsAtThePoint) {
+    const CMFCPopupMenu* const menu = m_manager.ShowPopupMenu(m_menu, 500, 200, m_frame, FALSE, FALSE);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(menu->GetExStyle() & WS_EX_LAYOUTRTL);
+    EXPECT_EQ(PlaceOf(*menu).right, 500);
+    EXPECT_EQ(PlaceOf(*menu).top, 200);
+}
+
+TEST_F(MirroredContextMenuTest, SoDoesTheMenuOfAWindowInItThatIsNotMirrored) {
+    CWnd map;
+    ASSERT_TRUE(map.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(20, 80, 220, 180), m_frame, 1));
+    map.ModifyStyleEx(WS_EX_LAYOUTRTL, 0);
+    const CMFCPopupMenu* menu = m_manager.ShowPopupMenu(m_menu, 500, 200, &map, FALSE, FALSE);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(menu->GetExStyle() & WS_EX_LAYOUTRTL);
+    menu = m_manager.ShowPopupMenu(m_menu, -1, -1, &map, FALSE, FALSE);
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(PlaceOf(*menu).right, PlaceOf(map).right) << "a key's menu begins at the corner where lines begin";
+    EXPECT_EQ(PlaceOf(*menu).top, PlaceOf(map).top);
+}
