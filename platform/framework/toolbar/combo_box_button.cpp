@@ -218,7 +218,8 @@ void CMFCToolBarComboBoxButton::PlaceCombo() {
         return;
     }
     // Border and drop button are the toolbar's to draw and to be pressed on.
-    m_pWndCombo->SetWindowRgn(g_isFlat && !item.IsRectEmpty() ? ::CreateRectRgnIndirect(item) : nullptr, TRUE);
+    const bool isFace = g_isFlat && !item.IsRectEmpty();
+    m_pWndCombo->SetWindowRgn(isFace ? toolbar::FaceRegion(item, place.Size()) : nullptr, TRUE);
 }
 
 void CMFCToolBarComboBoxButton::ShowCombo() {

@@ -2,6 +2,7 @@
 
 #include "afxtoolbarcomboboxbutton.h"
 #include "fx/dc_scope.h"
+#include "visual/manager_instance.h"
 
 #include <commctrl.h>
 
@@ -72,11 +73,39 @@ void DrawText(const Face& face, HDC handle) {
     dc.DrawText(text, place, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
+/// What the border of a field leaves of it.
+struct Inside {
+    CRect rect;
+    int radius; ///< of its corners
+};
+
+Inside InsideOf(SIZE field) {
+    const visual::Look look = visual::CurrentLook();
+    const int line = look.Line();
+    return {CRect(line, line, field.cx - line, field.cy - line), look.skin.isFlat ? look.Radius() - line : 0};
+}
+
+/// In the context's own units: pictures are drawn into contexts that know nothing of the window's region.
+void ClipToField(HWND combo, HDC dc) {
+    CRect client;
+    ::GetClientRect(combo, &client);
+    const Inside inside = InsideOf(client.Size());
+    if (inside.radius > 0) {
+        ::BeginPath(dc);
+        // A mirrored context lays the shape one pixel beside: it keeps that off the border at either side.
+        ::RoundRect(dc, inside.rect.left + 1, inside.rect.top, inside.rect.right, inside.rect.bottom + 1,
+                    2 * inside.radius, 2 * inside.radius);
+        ::EndPath(dc);
+        ::SelectClipPath(dc, RGN_AND);
+    }
+}
+
 void Draw(HWND combo, HDC dc) {
     const Face face = FaceOf(combo);
     const fx::DcSelection font(dc, reinterpret_cast<HGDIOBJ>(Send(combo, WM_GETFONT)));
     const int saved = ::SaveDC(dc);
     ::IntersectClipRect(dc, face.item.left, face.item.top, face.item.right, face.item.bottom);
+    ClipToField(combo, dc);
     face.isOwnerDrawn ? DrawByOwner(face, dc) : DrawText(face, dc);
     ::RestoreDC(dc, saved);
 }
@@ -110,6 +139,19 @@ LRESULT CALLBACK FaceProc(HWND window, UINT message, WPARAM wParam, LPARAM lPara
 }
 
 } // namespace
+
+HRGN FaceRegion(const RECT& item, SIZE field) {
+    const HRGN region = ::CreateRectRgnIndirect(&item);
+    const Inside inside = InsideOf(field);
+    if (inside.radius > 0) {
+        // The last two sides of a rounded region lie a pixel further in than those of its rectangle.
+        CRgn rounded;
+        rounded.CreateRoundRectRgn(inside.rect.left, inside.rect.top, inside.rect.right + 1, inside.rect.bottom + 1,
+                                   2 * inside.radius, 2 * inside.radius);
+        ::CombineRgn(region, region, static_cast<HRGN>(rounded.GetSafeHandle()), RGN_AND);
+    }
+    return region;
+}
 
 void DrawFaceOf(HWND combo) {
     const auto style = static_cast<DWORD>(::GetWindowLongPtrW(combo, GWL_STYLE));

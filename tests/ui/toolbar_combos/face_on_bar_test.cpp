@@ -83,4 +83,41 @@ TYPED_TEST(FaceOnBar, IsAsHighAsTheScaleOfTheBarAsks) {
     EXPECT_EQ(height, 54);
 }
 
+/// From a corner of the field inwards, both ways, as far as its corner is round.
+TYPED_TEST(FaceOnBar, LeavesTheRoundCornersOfTheFieldToTheBarAtEveryScale) {
+    this->template Use<CQKVisualManagerOffice2007Silver>();
+    for (const UINT dpi : {96u, 144u, 192u, 288u}) {
+        for (const bool isMirrored : {false, true}) {
+            afxGlobalData.SetScreenDpi(dpi);
+            afxGlobalData.UpdateFonts();
+            ToldBar made;
+            made.template Make<TypeParam>(BarPlace::Docked);
+            if (isMirrored) {
+                made.bar.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+                made.Combo().ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+            }
+            made.bar.OnGlobalFontsChanged();
+            CRect place;
+            made.Combo().GetClientRect(&place);
+            CRgn region;
+            region.CreateRectRgn(0, 0, 0, 0);
+            ASSERT_NE(made.Combo().GetWindowRgn(region), ERROR);
+            const int radius = MulDiv(3, static_cast<int>(dpi), 96);
+            const int line = dpi >= 192 ? static_cast<int>(dpi) / 96 : 1;
+            // A circle's point at 45 degrees, inside of the line.
+            const int cut = line + static_cast<int>((radius - line) * (1 - 0.7071));
+            for (int x = 0; x < cut; ++x) {
+                for (int y = 0; y < cut; ++y) {
+                    for (const CPoint at :
+                         {CPoint(x, y), CPoint(place.right - 1 - x, y), CPoint(x, place.bottom - 1 - y),
+                          CPoint(place.right - 1 - x, place.bottom - 1 - y)}) {
+                        EXPECT_FALSE(region.PtInRegion(at)) << dpi << " " << isMirrored << ": " << at.x << "," << at.y;
+                    }
+                }
+            }
+            EXPECT_TRUE(region.PtInRegion(place.CenterPoint()));
+        }
+    }
+}
+
 } // namespace
