@@ -4,6 +4,7 @@
 #include "geo_json.h"
 #include "host_messages.h"
 #include "library_context.h"
+#include "map_menu.h"
 #include "menu_event.h"
 #include "menu_id_mgr.h"
 #include "picture_export.h"
@@ -17,9 +18,11 @@
 #include "search_field.h"
 #include "system_language.h"
 #include "system_skin.h"
+#include "tool_arguments.h"
 #include "tooltip_ctrl_ex.h"
 #include "viewer_skins.h"
 #include "viewer_text.h"
+#include "viewer_tool.h"
 
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"
@@ -128,9 +131,11 @@ ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
 ON_WM_HELPINFO()
 ON_COMMAND_RANGE(kFirstCommand, kLastCommand, OnConfiguredCommand)
+ON_COMMAND(ID_TOOLS_ENTRY, OnToolsEntry)
 ON_COMMAND_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE1 + _AFX_MRU_COUNT - 1, OnRecentFile)
 ON_UPDATE_COMMAND_UI_RANGE(kFirstCommand, kLastCommand, OnUpdateConfiguredCommand)
 ON_REGISTERED_MESSAGE(AFX_WM_ON_CHANGE_RIBBON_CATEGORY, OnCategoryChanged)
+ON_REGISTERED_MESSAGE(AFX_WM_RESETCONTEXTMENU, OnResetContextMenu)
 ON_MESSAGE(kRebuildMessage, OnRebuildRibbon)
 ON_MESSAGE(kLightTakenMessage, OnLightTaken)
 ON_MESSAGE(WM_COMBO_CHECK_CHANGED, OnLayerChecked)
@@ -169,6 +174,10 @@ CMainFrame::CMainFrame(const DemoOptions& options)
     dispatcher->addReactor(MakeFileReactor(m_state, *this));
     dispatcher->addReactor(MakeModeReactor(m_state, *this));
     dispatcher->addReactor(MakeSettingsReactor(*this));
+    // A keyword that is known when the files are read keeps its number: the application stands for this one
+    // (EnableUserTools).
+    CMenuIdMgr::Ins()->Add(L"UserTools", ID_TOOLS_ENTRY, L"", L"", L"", L"", L"");
+    CViewerTool::SetValues([this](const std::wstring& name) { return ToolValue(name); });
     m_state.SetMode(WorkingModes::ModeOf(options.mode.empty() ? kept.startMode : options.mode));
 }
 
@@ -215,6 +224,8 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
             m_status->ShowWork(isAtWork);
         }
     });
+    m_map.SetMenuListener(
+        [this](CPoint point) { afxContextMenuManager->ShowPopupMenu(IDR_MAP_MENU, point.x, point.y, &m_map); });
     DragAcceptFiles();
     return 0;
 }
@@ -317,6 +328,7 @@ void CMainFrame::BuildRibbon() {
     m_ribbon.setHMenu(m_contextMenu.Build());
     m_bars.Build();
     TakeBarIcons();
+    map_menu::Add();
     m_controls.Attach(m_ribbon);
     ShowState(); // first: the layout paints at once
     m_ribbon.ForceRecalcLayout();
@@ -376,6 +388,20 @@ void CMainFrame::OnRecentFile(UINT id) {
         OpenMapFile((*files)[index].GetString());
         TakeChange();
     }
+}
+
+// The user has put it back as it was.
+LRESULT CMainFrame::OnResetContextMenu(WPARAM, LPARAM menu) {
+    map_menu::Fill(reinterpret_cast<HMENU>(menu));
+    return 0;
+}
+
+std::wstring CMainFrame::ToolValue(const std::wstring& name) const {
+    CRecentFileList* const files = AfxGetApp()->GetRecentFileList();
+    if (name == L"MapFile" && files != nullptr && files->GetSize() > 0) {
+        return (*files)[0].GetString();
+    }
+    return name == L"Place" ? PlaceArgument(m_state.View().center) : std::wstring();
 }
 
 void CMainFrame::OnUpdateConfiguredCommand(CCmdUI* commandUi) {

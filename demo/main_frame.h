@@ -78,6 +78,8 @@ protected:
     afx_msg void OnDropFiles(HDROP drop);
     afx_msg void OnConfiguredCommand(UINT id);
     afx_msg void OnRecentFile(UINT id);
+    afx_msg void OnToolsEntry() { CustomizeBars(); }
+    afx_msg LRESULT OnResetContextMenu(WPARAM resource, LPARAM menu);
     afx_msg void OnUpdateConfiguredCommand(CCmdUI* commandUi);
     afx_msg LRESULT OnCategoryChanged(WPARAM, LPARAM);
     afx_msg LRESULT OnRebuildRibbon(WPARAM, LPARAM);
@@ -135,6 +137,7 @@ private:
     void ReloadFiles() override;
     /// Says which of the files cannot be read now; then nothing is built from them.
     bool TellBrokenFiles(const std::wstring& language);
+    std::wstring ToolValue(const std::wstring& name) const;
     void Warn(const std::wstring& message);
     void Warn(const std::wstring& message, CWnd& owner);
     void SwitchLanguage(const std::wstring& code) override;

@@ -99,6 +99,7 @@ ON_WM_LBUTTONUP()
 ON_WM_LBUTTONDBLCLK()
 ON_WM_MOUSEMOVE()
 ON_WM_MOUSEWHEEL()
+ON_WM_CONTEXTMENU()
 ON_WM_CAPTURECHANGED()
 ON_MESSAGE(kPictureFinishedMessage, OnPictureFinished)
 END_MESSAGE_MAP()
@@ -255,6 +256,12 @@ void CMapWindow::OnMouseMove(UINT, CPoint point) {
 void CMapWindow::OnLButtonUp(UINT, CPoint) {
     if (m_dragging) {
         ReleaseCapture();
+    }
+}
+
+void CMapWindow::OnContextMenu(CWnd*, CPoint point) {
+    if (m_menuListener) {
+        m_menuListener(point);
     }
 }
 

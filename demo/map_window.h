@@ -33,6 +33,8 @@ public:
     void Finish();
     /// Is told of the place under the pointer whenever it moves.
     void SetPointerListener(std::function<void(GeoPoint)> listener) { m_pointerListener = std::move(listener); }
+    /// Is told where on the screen a right click wants the map's menu; (-1, -1): the key for menus wants it.
+    void SetMenuListener(std::function<void(CPoint)> listener) { m_menuListener = std::move(listener); }
     /// Is called whenever the view or the window's size has become another one.
     void SetViewListener(std::function<void()> listener) { m_viewListener = std::move(listener); }
     /// Is told when a picture is being drawn, and when the one of the present state is there.
@@ -58,6 +60,7 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnContextMenu(CWnd* window, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* window);
     afx_msg LRESULT OnPictureFinished(WPARAM, LPARAM);
     DECLARE_MESSAGE_MAP()
@@ -83,6 +86,7 @@ private:
     bool m_dragging = false;
     CPoint m_dragFrom;
     std::function<void(GeoPoint)> m_pointerListener;
+    std::function<void(CPoint)> m_menuListener;
     std::function<void()> m_viewListener;
     std::function<void(bool isAtWork)> m_workListener;
     std::unique_ptr<MapDrawer> m_drawer; ///< Made with the window.

@@ -2,8 +2,11 @@
 #include "configuration_problems.h"
 #include "followed_files.h"
 #include "main_frame.h"
+#include "map_menu.h"
 #include "options.h"
+#include "resource.h"
 #include "screenshot.h"
+#include "viewer_tool.h"
 #include "watchman.h"
 
 #include "varnhold/language.h"
@@ -30,7 +33,9 @@ public:
             [](const ConfigurationProblem& problem) { PrintLine(FormatConfigurationProblem(problem)); });
         CMultiLanguageMgr::SetProblemSink(PrintLine);
         m_gdiPlus.emplace();
-        InitContextMenuManager(); // the ribbon's right click asks it
+        InitContextMenuManager(); // the right clicks on ribbon and map ask it
+        EnableUserTools(ID_TOOLS_ENTRY, ID_USER_TOOL_FIRST, ID_USER_TOOL_LAST, RUNTIME_CLASS(CViewerTool),
+                        IDR_TOOL_ARGUMENTS);
         if (options->scalePercent > 0) {
             afxGlobalData.SetRibbonImageScale(options->scalePercent / 100.0);
         }
@@ -100,6 +105,9 @@ public:
 protected:
     /// The frame keeps its state itself, and a start that is to keep nothing does not.
     void OnClosingMainFrame(CFrameImpl*) override {}
+    // The user's tools are kept with the rest of the state; context menus are the program's to keep.
+    void LoadCustomState() override { map_menu::Load(); }
+    void SaveCustomState() override { map_menu::Save(); }
 
 private:
     static void PrintLine(const std::wstring& line) { std::fprintf(stderr, "%s\n", wstring2String(line).c_str()); }

@@ -319,6 +319,11 @@ class Viewer:
         """Names the shown windows with exactly this title, the uppermost last."""
         return self._tell("search", "--onlyvisible", "--name", f"^{title}$")
 
+    def corner_of_window(self, title):
+        """Of the uppermost shown window with this title, on the screen."""
+        told = dict(line.split("=") for line in self._tell("getwindowgeometry", "--shell", self.windows(title)[-1]))
+        return int(told["X"]), int(told["Y"])
+
     def _tell(self, *words):
         """What xdotool answers; nothing where it cannot."""
         told = subprocess.run(["xdotool", *words], env=self._environment, capture_output=True, text=True)

@@ -13,7 +13,7 @@ import tempfile
 import time
 import unittest
 
-from viewer import ROOT, Viewer
+from viewer import ROOT, Viewer, copy_installation, edit_file
 
 BIN_DIR = ""
 MAP_AREA = "800x300+100+350"
@@ -227,6 +227,82 @@ class CustomizeDialog(WithClassicBars):
             viewer.act("mousemove", x, y, "sleep", 0.2, "click", 3, "sleep", 0.5)
             viewer.key("Up", "Return")  # the last one
             self.wait_for_dialog(viewer)
+
+
+class MenuOfTheMap(WithClassicBars):
+    """The context menu that the application keeps, and the user's tools at its end."""
+
+    def test_a_right_click_on_the_map_and_the_key_for_menus_offer_its_commands(self):
+        with self.open() as viewer:
+            before = self.scale(viewer.record)
+            viewer.hover(640, 500)
+            viewer.act("click", 3, "sleep", 0.5)
+            viewer.key("Down", "Return")  # the first one
+            viewer.wait_for(lambda record: self.scale(record) == 2 * before)
+            viewer.key("shift+F10")
+            viewer.key("Down", "Return")  # the first one is chosen already
+            viewer.wait_for(lambda record: self.scale(record) == before)
+
+    def test_a_changed_menu_comes_back_in_another_language_and_with_other_numbers(self):
+        with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryDirectory() as program:
+            copy_installation(BIN_DIR, program)
+            settings = os.path.join(folder, "settings")
+
+            def open_viewer(language):
+                return Viewer(program, "--lang", language, "--bars", "classic", "--size", "1280x800", memory=("--settings", settings))
+
+            def zoom_out_by_the_first(viewer):
+                start = self.scale(viewer.record)
+                viewer.key("ctrl+i")
+                before = self.scale(viewer.wait_for(lambda record: self.scale(record) > start))
+                viewer.hover(640, 500)
+                viewer.act("click", 3, "sleep", 0.5)
+                viewer.key("Down", "Return")
+                viewer.wait_for(lambda record: self.scale(record) == before / 2)
+            with open_viewer("en") as viewer:
+                viewer.key("alt+s", "c")
+                viewer.wait_until(lambda: viewer.windows("Customize"), "the dialog")
+                viewer.key(*["ctrl+Tab"] * 4)
+                left, top = viewer.corner_of_window("Customize")
+                # The button of the menu on the page, and its first row, off everything.
+                viewer.click(left + 54, top + 300)
+                viewer.drag(left + 80, top + 328, 1330, 850)
+                viewer.key("Escape", "Escape")
+                viewer.wait_until(lambda: not viewer.windows("Customize"), "the end of the dialog")
+                zoom_out_by_the_first(viewer)
+                viewer.leave()
+            edit_file(program, "cfg/keys.xml", "<group>", '<group><item KEYWORD="Another" MENUNAME="" CMD="none"/>')
+            with open_viewer("zh-CN") as viewer:
+                zoom_out_by_the_first(viewer)
+
+    def test_a_tool_that_the_user_writes_down_is_told_the_place_and_kept(self):
+        with tempfile.TemporaryDirectory() as folder:
+            told = os.path.join(folder, "told.txt")
+
+            def open_menu_and_start(viewer):
+                viewer.key("alt+s", "Up", "Return")  # the last one of the menu
+                viewer.wait_until(lambda: os.path.exists(told) and os.path.getsize(told) > 0, "what the tool has written")
+                with open(told, encoding="utf-8") as file:
+                    self.assertRegex(file.read().strip(), r"^-?\d+\.\d{4},-?\d+\.\d{4}$")
+                os.remove(told)
+
+            def viewer_of_the_folder():
+                return Viewer(BIN_DIR, "--lang", "en", "--bars", "classic", memory=("--settings", folder))
+            with viewer_of_the_folder() as viewer:
+                viewer.key("alt+s", "c")
+                viewer.wait_until(lambda: viewer.windows("Customize"), "the dialog")
+                viewer.key("ctrl+Tab", "ctrl+Tab", "alt+n")
+                viewer.write("Place")
+                viewer.key("Tab")
+                viewer.write("cmd.exe")
+                viewer.key("Tab", "Tab")
+                viewer.write("/c echo $(Place)>Z:" + told.replace("/", "\\"))
+                viewer.key("Escape")
+                viewer.wait_until(lambda: not viewer.windows("Customize"), "the end of the dialog")
+                open_menu_and_start(viewer)
+                viewer.leave()
+            with viewer_of_the_folder() as viewer:
+                open_menu_and_start(viewer)
 
 
 class ApplicationMenu(unittest.TestCase):
