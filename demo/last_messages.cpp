@@ -13,22 +13,23 @@ LastMessages::~LastMessages() { s_listening = nullptr; }
 LRESULT CALLBACK LastMessages::OnTaken(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION && wParam == PM_REMOVE && s_listening != nullptr) {
         const auto& taken = *reinterpret_cast<const MSG*>(lParam);
-        s_listening->Add(taken.hwnd, taken.message, taken.wParam);
+        s_listening->Add(taken);
     }
     return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-void LastMessages::Add(HWND window, UINT message, WPARAM wParam) {
-    if (message == WM_NULL) { // the question of whoever watches
+void LastMessages::Add(const MSG& message) {
+    if (message.message == WM_NULL) { // the question of whoever watches
         return;
     }
     const std::scoped_lock lock(m_mutex);
     Entry& entry = m_entries[m_count++ % m_entries.size()];
     entry.when = std::chrono::system_clock::now();
-    entry.message = message;
-    entry.wParam = wParam;
+    entry.message = message.message;
+    entry.wParam = message.wParam;
+    entry.lParam = message.lParam;
     entry.windowClass = {};
-    ::GetClassNameA(window, entry.windowClass.data(), static_cast<int>(entry.windowClass.size()));
+    ::GetClassNameA(message.hwnd, entry.windowClass.data(), static_cast<int>(entry.windowClass.size()));
 }
 
 std::vector<LastMessages::Entry> LastMessages::Copy() const {

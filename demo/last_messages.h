@@ -19,6 +19,7 @@ public:
         std::chrono::system_clock::time_point when;
         UINT message = 0;
         WPARAM wParam = 0;
+        LPARAM lParam = 0;
         std::array<char, 24> windowClass = {}; ///< Its beginning; ends with a NUL.
     };
 
@@ -38,7 +39,7 @@ private:
     using Hook = std::unique_ptr<std::remove_pointer_t<HHOOK>, HookRemover>;
 
     static LRESULT CALLBACK OnTaken(int code, WPARAM wParam, LPARAM lParam);
-    void Add(HWND window, UINT message, WPARAM wParam);
+    void Add(const MSG& message);
 
     static LastMessages* s_listening;
 

@@ -73,6 +73,7 @@ protected:
     afx_msg void OnDestroy();
     afx_msg BOOL OnNcActivate(BOOL isActive);
     afx_msg void OnEndSession(BOOL isEnding);
+    afx_msg void OnTimer(UINT_PTR timer);
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg void OnSetFocus(CWnd* earlier);
     afx_msg void OnDropFiles(HDROP drop);
@@ -94,6 +95,9 @@ protected:
 private:
     /// Posted to itself: the bars are to be built anew when what is at work now has finished.
     static constexpr UINT kRebuildMessage = WM_APP + 1;
+
+    /// Whether the pause between two records has not passed; then one is written after it.
+    bool IsRecordTooEarly();
 
     // What was kept, and keeping it.
     void StartInLanguage();
@@ -200,4 +204,5 @@ private:
     std::vector<std::wstring> m_commandTexts; ///< As the builder met them, for the record.
     std::vector<std::wstring> m_warnings;     ///< That were shown so far, for the record.
     std::string m_recorded;                   ///< What the file of the record says.
+    ULONGLONG m_recordedAt = 0;               ///< When it was last compared; milliseconds of the system's run.
 };

@@ -176,6 +176,10 @@ void CMainFrame::OnClose() {
         CloseDialogs();
         return;
     }
+    if (m_options.stays) {
+        return;
+    }
+    m_recordedAt = 0;
     WriteRecord(); // the last one
     KeepState();
     TellTroubles();

@@ -12,6 +12,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr UINT_PTR kRecordTimer = 0x5243;
+
 /// Left, top, right, bottom; pixels.
 Json RectRecord(const CRect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
 
@@ -132,8 +134,28 @@ Json DialogRecord(const CDialogWindow& dialog) {
 
 } // namespace
 
+bool CMainFrame::IsRecordTooEarly() {
+    const auto pause = static_cast<ULONGLONG>(m_options.recordPause);
+    const ULONGLONG since = ::GetTickCount64() - m_recordedAt;
+    if (since >= pause || m_recorded.empty() || GetSafeHwnd() == nullptr) {
+        return false;
+    }
+    SetTimer(kRecordTimer, static_cast<UINT>(pause - since), nullptr);
+    return true;
+}
+
+// A timer's message sets off no rest, which writes the record otherwise.
+void CMainFrame::OnTimer(UINT_PTR timer) {
+    if (timer != kRecordTimer) {
+        CFrameWndEx::OnTimer(timer);
+        return;
+    }
+    KillTimer(kRecordTimer);
+    WriteRecord(Moment::Idle);
+}
+
 void CMainFrame::WriteRecord(Moment moment) {
-    if (m_options.record.empty()) {
+    if (m_options.record.empty() || IsRecordTooEarly()) {
         return;
     }
     Json record = {{"map", MapRecord(m_state, m_map.IsFinished())},
@@ -167,6 +189,7 @@ void CMainFrame::WriteRecord(Moment moment) {
     for (const std::wstring& warning : m_warnings) {
         record["warnings"].push_back(wstring2String(warning));
     }
+    m_recordedAt = ::GetTickCount64();
     std::string text = record.dump();
     if (text == m_recorded) {
         return;

@@ -20,7 +20,9 @@ struct DemoOptions {
     std::wstring mapFile;                 ///< GeoJSON file that is opened at the start; empty: none.
     std::wstring screenshot;              ///< PNG file to write, then leave; empty: stay.
     std::wstring record;                  ///< JSON file that is written anew after each change; empty: none.
+    int recordPause = 0;                  ///< Milliseconds at least between two records; the last state is written too.
     bool followsFiles = false;            ///< The bars are built anew whenever their files are written.
+    bool stays = false;                   ///< Nothing that is done in it closes it, for long tests.
     std::wstring watch;                   ///< File that lines about the state of the process are added to; empty: none.
 };
 

@@ -25,6 +25,20 @@ long long Milliseconds(Duration duration) {
     return std::chrono::duration_cast<std::chrono::milliseconds>(duration).count();
 }
 
+/// With their times since a moment.
+nlohmann::ordered_json MessageLines(const std::vector<LastMessages::Entry>& taken,
+                                    std::chrono::system_clock::time_point since) {
+    nlohmann::ordered_json messages = nlohmann::ordered_json::array();
+    for (const LastMessages::Entry& entry : taken) {
+        messages.push_back({{"at", Milliseconds(entry.when - since)},
+                            {"message", entry.message},
+                            {"wParam", entry.wParam},
+                            {"lParam", entry.lParam},
+                            {"class", entry.windowClass.data()}});
+    }
+    return messages;
+}
+
 } // namespace
 
 Watchman::Watchman(HWND window, const std::wstring& file)
@@ -56,19 +70,12 @@ Watchman::Spent Watchman::SpentSoFar() const {
 void Watchman::TellWait(std::ofstream& lines, const WaitTime& wait, const Spent& before,
                         const std::vector<LastMessages::Entry>& taken) const {
     const Spent after = SpentSoFar();
-    nlohmann::ordered_json messages = nlohmann::ordered_json::array();
-    for (const LastMessages::Entry& entry : taken) {
-        messages.push_back({{"at", Milliseconds(entry.when - wait.asked)},
-                            {"message", entry.message},
-                            {"wParam", entry.wParam},
-                            {"class", entry.windowClass.data()}});
-    }
     const nlohmann::ordered_json line = {{"wait", Milliseconds(wait.answered - wait.asked)},
                                          {"began", Milliseconds(wait.asked.time_since_epoch())},
                                          {"ended", Milliseconds(wait.answered.time_since_epoch())},
                                          {"thread", after.thread - before.thread},
                                          {"process", after.process - before.process},
-                                         {"messages", std::move(messages)}};
+                                         {"messages", MessageLines(taken, wait.asked)}};
     lines << line.dump() << std::endl;
 }
 
@@ -106,4 +113,6 @@ void Watchman::Run() {
         }
         ::Sleep(kPause);
     }
+    const nlohmann::ordered_json left = {{"left", MessageLines(m_messages.Copy(), Clock::now())}};
+    lines << left.dump() << std::endl;
 }

@@ -18,7 +18,7 @@
 /// far in milliseconds and how many objects of each kind the process holds from the system; and for each wait that a
 /// person would notice one with its begin and end (milliseconds since 1970), the processor time that the window's
 /// thread and the whole process spent meanwhile, and the last messages that it had taken from its queue when it was
-/// noticed.
+/// noticed. At its end {"left": [...]}, the last messages: what closed the window is among them.
 class Watchman {
 public:
     /// Begins at once, from the window's own thread; the window outlives this.

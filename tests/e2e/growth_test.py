@@ -11,8 +11,9 @@ import tempfile
 import time
 import unittest
 
+from hands import Hands
 from machine_time import program_of
-from monkey import REST, Hands, Held, read_record
+from monkey import REST, Held, read_record
 from viewer import DEADLINE, Viewer
 
 BIN_DIR = ""
@@ -24,7 +25,7 @@ BETWEEN_LOOKS = 0.005
 
 
 def keys(*names):
-    return [["key", "--delay", 1, *names]]
+    return [["key", *names]]
 
 
 def click(place, button=1):
@@ -37,7 +38,7 @@ def double_click(x, y):
 
 
 def search(text):
-    return [*keys("ctrl+f"), ["type", "--delay", 1, text]]
+    return [*keys("ctrl+f"), ["type", text]]
 
 
 def says(name, value):

@@ -3,9 +3,11 @@
 
 usage: leaving_test.py BIN_DIR [TEST...]
 """
+import json
 import os
 import subprocess
 import sys
+import tempfile
 import unittest
 
 from viewer import ROOT, Viewer, text_of
@@ -160,6 +162,40 @@ class Leaving(unittest.TestCase):
             viewer.move(left + 200, bottom + 200)
             viewer.move(left + 210, bottom + 210)
         self.leaves(show, "--bars", "classic")
+
+
+class Staying(unittest.TestCase):
+    """What random input needs: nothing that is done in the viewer closes it, and its records may be fewer."""
+
+    def test_what_closes_it_otherwise_leaves_it_as_it_is(self):
+        with LeavingViewer("--stay") as viewer:
+            for close in (lambda: viewer.key("alt+F4"), viewer.ask_to_close):
+                before = viewer.record["map"]["pixelsPerDegree"]
+                close()
+                viewer.key("ctrl+i")
+                viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > before)
+
+    def test_a_message_that_waits_is_answered_all_the_same(self):
+        with LeavingViewer("--stay") as viewer:
+            viewer.open_dialog("message", "F1")
+            viewer.ask_to_close()
+            viewer.wait_for(lambda record: "dialog" not in record)
+
+    def test_the_last_state_is_recorded_when_the_pause_has_passed(self):
+        with LeavingViewer("--record-pause", 1500) as viewer:
+            before = viewer.record["map"]["pixelsPerDegree"]
+            viewer.act("key", "ctrl+i", "ctrl+i")  # within one pause
+            viewer.wait_for(lambda record: record["map"]["pixelsPerDegree"] > 3 * before and record["map"]["finished"])
+
+    def test_it_says_what_closed_it(self):
+        with tempfile.TemporaryDirectory() as notes:
+            watch = os.path.join(notes, "watch.txt")
+            with LeavingViewer("--watch", watch) as viewer:
+                self.assertEqual(viewer.leave(), 0)
+            with open(watch, encoding="utf-8") as file:
+                last = json.loads(file.readlines()[-1])
+        alt_and_f4 = (0x0104, 0x73)
+        self.assertIn(alt_and_f4, [(message["message"], message["wParam"]) for message in last["left"]])
 
 
 if __name__ == "__main__":

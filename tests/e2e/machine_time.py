@@ -53,7 +53,7 @@ class Thread:
         for file in self._files.values():
             os.close(file)
 
-    def _figures(self):
+    def figures(self):
         """In nanoseconds: how long it ran, how long it stood ready and got no processor; None when it is gone."""
         try:
             ran, ready, _ = os.pread(self._files["schedstat"], 100, 0).split()
@@ -63,7 +63,7 @@ class Thread:
 
     def ready_seconds(self):
         """How long it stood ready and got no processor, so far; None when it is gone."""
-        figures = self._figures()
+        figures = self.figures()
         return figures and figures[1] / 1e9
 
     def sleep(self):
@@ -72,7 +72,7 @@ class Thread:
             state = os.pread(self._files["stat"], 1000, 0).rsplit(b")", 1)[1].split()[0]
         except (OSError, IndexError):
             return "for ever"
-        return self._figures() if state == b"S" else None
+        return self.figures() if state == b"S" else None
 
 
 def threads_of(process):

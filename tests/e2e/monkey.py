@@ -4,20 +4,22 @@ alive, answers within two seconds and does not grow, neither in memory nor in wh
 machine had no processor is not counted against it (machine_time.py); a wait that a person would notice is told with what was
 going on.
 
-usage: monkey.py BIN_DIR [--events 20000] [--seed N] [--skins ...] [--langs ...] [--scales ...]
-The events are shared out evenly over all combinations of the skins, languages and scales to start in.
+usage: monkey.py BIN_DIR [--events 20000] [--each N] [--seed N] [--skins ...] [--langs ...] [--scales ...]
+The events are shared out evenly over all combinations of the skins, languages and scales to start in, or each gets its N; skins and
+languages change as events, too. A session that the program leaves by one of its own ways out is gone on with in a new one. Several
+run side by side with a BARWRIGHT_E2E_PREFIX for each.
 """
 import argparse
 import itertools
 import json
 import os
 import random
-import subprocess
 import sys
 import tempfile
 import time
 
-from machine_time import MachineTime, Thread, program_of, server_of
+from hands import Hands, Pace
+from machine_time import MachineTime, program_of, server_of
 from viewer import DEADLINE, Viewer
 from wine_session import PREFIX
 
@@ -29,14 +31,15 @@ CACHES = 16 << 20
 # What the system and its drivers keep on their own account comes and goes by a few; the viewer's own caches hold up to a
 # hundred pictures, and get their last one late; each bar makes the window of its tooltips when it first has one to show.
 MORE_OBJECTS = {"gdi": 120, "icons": 20, "menus": 10, "windows": 10, "threads": 6, "descriptors": 20}
-MOST_EXITS = 3  # of one run, by the window's own ways out: a random click finds them now and then
+EVENTS_OF_AN_EXIT = 1000  # at least, but for the first few: a random input finds the window's own ways out now and then
+FIRST_EXITS = 3
 # What leaves the program, or writes into fields of the system's dialogs, is not among them.
 KEYS = ["Up", "Down", "Left", "Right", "Tab", "space", "Escape", "Home", "End", "Prior", "Next", "F6", "F10", "Alt_L", "plus", "minus",
         "ctrl+i", "ctrl+u", "ctrl+w", "ctrl+l", "ctrl+k", "ctrl+b", "ctrl+n", "ctrl+r", "ctrl+g", "ctrl+t", "ctrl+m", "ctrl+e",
         "ctrl+f", "ctrl+F1", "ctrl+shift+r", "ctrl+shift+c"]
 SEARCHES = ["hebrew", "chinese", "english", "black", "silver", "browse", "edit", "print", "below", "minimize",
             "print preview", "options"]
-REST = ["key", "--delay", 1] + ["Escape"] * 5
+REST = ["key"] + ["Escape"] * 5
 # What leads to the state in which growth is measured, and what the record says then.
 SHOWN_AT_REST = [("hebrew", "language", "he"), ("chinese", "language", "zh-CN"), ("black", "skin", "black"), ("edit", "mode", "edit"),
                  ("print", "mode", "print"), ("english", "language", "en"), ("silver", "skin", "silver"), ("browse", "mode", "browse")]
@@ -44,9 +47,18 @@ SHOWN_AT_REST = [("hebrew", "language", "he"), ("chinese", "language", "zh-CN"),
 # images, tooltips' windows.
 SHOWN_ONCE = [("about", "about"), ("options", "options"), ("print preview", "preview")]
 TRIES_AT_REST = 3
+DOINGS = 30  # that are told of a wait: what set it off is among the first
 HEIGHT_OF_A_CAPTION = 40  # a window of no more than that is minimised
-LONGEST_PAUSE = 0.3  # seconds that an event waits for what the one before it set off; longer than that nobody holds still
-QUIET_LOOKS, BETWEEN_LOOKS = 3, 0.0015
+LEAST_HEIGHT = 250  # at 100 %; a lower window has no room for its ribbon and the search in it
+# Most events come before the one before them has done all that it set off, as those of a quick hand do; now and then one waits
+# for that, however long it takes, so that what it meets on the screen is up to date and no more than these few lie in the queue.
+QUICK = Pace(0.015, 1)
+UP_TO_DATE = Pace(10, 3)
+EVENTS_TO_A_REST = 16
+PAUSE_BETWEEN_RECORDS = 200  # milliseconds; the viewer's record costs more than most events
+# What the viewer took from its queue last says what closed it: these messages are input or come of it.
+TOLD_MESSAGES = {0x0010: "close", 0x00A1: "button down on the frame", 0x0100: "key", 0x0104: "key with Alt", 0x0111: "command",
+                 0x0112: "system command", 0x0201: "button down", 0x0202: "button up", 0x0203: "double click"}
 
 
 def held(value, end):
@@ -63,58 +75,17 @@ def read_record(record_file):
         return None
 
 
-class Hands:
-    """Gives input to a display through one process that stays, as starting one takes longer than most events; use it as a
-    context. An event is a list of parts, each in the words of xdotool; between two of them the program may come to rest."""
-
-    def __init__(self, environment, process):
-        self._environment = environment
-        self._thread = Thread(process, process)  # its first one, which is the window's
-
-    def __enter__(self):
-        # Its answers come line by line, and all it says at the end of a line.
-        self._complaints = tempfile.TemporaryFile("w+", encoding="utf-8")
-        self._xdotool = subprocess.Popen(["stdbuf", "-oL", "xdotool", "-"], env=self._environment, stdin=subprocess.PIPE,
-                                         stdout=subprocess.PIPE, stderr=self._complaints, text=True)
-        return self
-
-    def __exit__(self, *_):
-        self._xdotool.stdin.close()
-        self._xdotool.wait()
-        self._xdotool.stdout.close()
-        self._complaints.close()
-
-    def give(self, parts):
-        for part in parts:
-            words = " ".join(f'"{word}"' if " " in str(word) else str(word) for word in part)
-            self._xdotool.stdin.write(words + "\ngetmouselocation\n")
-            self._xdotool.stdin.flush()
-            if not self._xdotool.stdout.readline():
-                self._complaints.seek(0)
-                raise RuntimeError(f"xdotool has left with {self._xdotool.wait()} at {words}: {self._complaints.read()[-1000:]}")
-            self._pause()
-
-    def _pause(self):
-        """Until the window's thread has slept through a few looks."""
-        end, quiet, before = time.monotonic() + LONGEST_PAUSE, 0, None
-        while quiet < QUIET_LOOKS and time.monotonic() < end:
-            time.sleep(BETWEEN_LOOKS)
-            now = self._thread.sleep()
-            quiet = quiet + 1 if now is not None and now == before else 0
-            before = now
-
-
 class Place:
     """Of the window, as its record tells it: left, top, right, bottom on the screen."""
 
-    def __init__(self, record_file):
-        self._record_file = record_file
+    def __init__(self, viewer):
+        self._viewer = viewer
         self.box = (0, 0, 1280, 800)
         self.status = (0, 770, 1280, 800)
         self.is_mirrored = False
 
     def read(self):
-        record = read_record(self._record_file)
+        record = self._viewer.last_record()
         if record is None:
             return
         self.box = tuple(record["frameOnScreen"])
@@ -122,7 +93,15 @@ class Place:
         self.is_mirrored = record["language"] == "he"
 
     def is_minimised(self):
-        return self.box[3] - self.box[1] <= HEIGHT_OF_A_CAPTION
+        return self.height() <= HEIGHT_OF_A_CAPTION
+
+    def height(self):
+        return self.box[3] - self.box[1]
+
+    def seen(self):
+        """Of the box what lies on the screen; the rest is out of a hand's reach."""
+        left, top, right, bottom = self.box
+        return held(left + 2, SCREEN_WIDTH), held(top + 2, SCREEN_HEIGHT), held(right + 2, SCREEN_WIDTH), held(bottom + 2, SCREEN_HEIGHT)
 
     def caption(self):
         left, top, right, _ = self.box
@@ -140,24 +119,29 @@ def spoken(parts):
 class Monkey:
     """The kinds of events with their shares, in thousandths."""
 
-    def __init__(self, viewer, hands, seed):
+    def __init__(self, viewer, hands, seed, scale):
         self._viewer = viewer
         self._hands = hands
-        self._random = random.Random(seed)
-        self._place = Place(viewer.record_file)
+        self._seed = seed
+        self._random = None  # the event's own: what one does with it changes nothing of those behind it
+        self._scale = scale / 100
+        self._place = Place(viewer)
         self._kinds = [(330, self.click), (50, self.right_click), (100, self.wheel), (80, self.drag), (40, self.hover), (40, self.calm),
                        (60, self.search), (25, self.size), (5, self.maximize), (10, self.rebuild), (260, self.key)]
         self._looks_again = False  # the window has another place or size
         self.log = []  # (seconds since 1970, parts)
+        self.missed = 0  # of what was to be shown at rest
 
     def point(self):
         # Not the window's own buttons, at the end of the caption in either direction, nor the exit in the application menu.
         left, top, right, bottom = self._place.box
+        seen_left, seen_top, seen_right, seen_bottom = self._place.seen()
         while True:
-            x = held(self._random.randint(left + 2, max(left, right - 2) + 2), SCREEN_WIDTH)
-            y = held(self._random.randint(top + 2, max(top, bottom - 2) + 2), SCREEN_HEIGHT)
-            in_caption = y < top + 34 and (x < left + 130 or x > right - 130)
-            at_exit = top + 270 < y < top + 480 and (380 < x - left < 620 or 380 < right - x < 620)
+            x = round(seen_left + self._random.random() * (seen_right - seen_left))
+            y = round(seen_top + self._random.random() * (seen_bottom - seen_top))
+            down, inward = (y - top) / self._scale, min(x - left, right - x) / self._scale
+            in_caption = down < 34 and inward < 130
+            at_exit = 270 < down < 480 and any(380 < side / self._scale < 620 for side in (x - left, right - x))
             if not in_caption and not at_exit:
                 return x, y
 
@@ -186,13 +170,13 @@ class Monkey:
 
     @staticmethod
     def searched(text):
-        return [REST, ["key", "--delay", 1, "ctrl+f"], ["type", "--delay", 1, text], ["key", "--delay", 1, "Return"]]
+        return [REST, ["key", "ctrl+f"], ["type", text], ["key", "Return"]]
 
     def search(self):
         return self.searched(self._random.choice(SEARCHES))
 
     def key(self):
-        return [["key", "--delay", 1, self._random.choice(KEYS)]]
+        return [["key", self._random.choice(KEYS)]]
 
     def rebuild(self):
         return [REST, ["key", "ctrl+shift+r"]]
@@ -213,42 +197,56 @@ class Monkey:
         self._looks_again = True
         return [REST, *self.pressed(*self._place.caption(), 1, times=2)]
 
+    def is_low(self):
+        return self._place.height() < LEAST_HEIGHT * self._scale
+
     def play(self, events):
         """How many of them went well: fewer when the viewer left."""
         kinds, shares = [kind for _, kind in self._kinds], [share for share, _ in self._kinds]
         for count in range(events):
-            if self._looks_again or count % 10 == 0:
+            is_calm = self._looks_again or count % EVENTS_TO_A_REST == 0
+            if is_calm:
                 self._place.read()
                 self._looks_again = False
+            self._random = random.Random(f"{self._seed} {len(self.log)}")
             kind = self._random.choices(kinds, shares)[0]
-            # A double click on its caption brings a minimised window back, too; there is nothing else to do with it.
-            parts = self.maximize() if self._place.is_minimised() else kind()
+            # A double click on its caption brings a minimised window back, too; there is nothing else to do with it. One that is too
+            # low for most of what it has does not stay so for long.
+            parts = self.maximize() if self._place.is_minimised() or is_calm and self.is_low() else kind()
             self.log.append((time.time(), parts))
-            self._hands.give(parts)
+            self._hands.give(parts, UP_TO_DATE if is_calm else QUICK)
             if self._viewer.has_left():
                 return count
         return events
 
     def rest(self):
-        """The state in which growth is measured: nothing is open, and everything has been shown once."""
+        """The state in which growth is measured: nothing is open, and everything has been shown once. False when the viewer has
+        left."""
         for search, name in SHOWN_ONCE:
-            if not any(self.shows_dialog(search, name) for _ in range(TRIES_AT_REST)) and not self._viewer.has_left():
-                print(f"  {name} was not shown at rest", flush=True)
+            self.bring(f"{name} shown", self.shows_dialog, search, name)
         # It comes with menus and toolbars.
         self._hands.give([*self.searched("customize"), REST])
         if self.sees(lambda record: record["classicBars"]):
-            self._hands.give([["key", "--delay", 1, "alt+z"], REST, ["key", "--delay", 1, "ctrl+m"]])
-        if not self.sees(lambda record: not record["classicBars"]):
-            print("  the ribbon did not come back at rest", flush=True)
+            self._hands.give([["key", "alt+z"], REST])
+            self.bring("the ribbon back", self.shows_ribbon)
         for search, name, value in SHOWN_AT_REST:
-            if not any(self.shows(search, name, value) for _ in range(TRIES_AT_REST)) and not self._viewer.has_left():
-                print(f"  {name} did not become {value} at rest", flush=True)
+            self.bring(f"{name} {value}", self.shows, search, name, value)
         self._hands.give([REST])
+        return not self._viewer.has_left()
+
+    def bring(self, what, attempt, *arguments):
+        if not any(attempt(*arguments) for _ in range(TRIES_AT_REST)) and not self._viewer.has_left():
+            print(f"  {what} did not come at rest", flush=True)
+            self.missed += 1
+
+    def shows_ribbon(self):
+        self._hands.give([REST, ["key", "ctrl+m"]])
+        return self.sees(lambda record: not record["classicBars"])
 
     def shows_dialog(self, search, name):
         self.order(search)
         is_shown = self.sees(lambda record: record.get("dialog", {}).get("name") == name)
-        self._hands.give([["key", "--delay", 1, "Escape"]])
+        self._hands.give([["key", "Escape"]])
         return is_shown and self.sees(lambda record: "dialog" not in record)
 
     def shows(self, search, name, value):
@@ -259,18 +257,19 @@ class Monkey:
         """Whether the search was there for it."""
         # Without a window manager a window that goes may leave the keys to nobody; a click gets them back.
         self._place.read()
-        if self._place.is_minimised():
+        if self.is_low():
             self._hands.give(self.maximize())
+            self.sees(lambda record: record["frameOnScreen"][3] - record["frameOnScreen"][1] > HEIGHT_OF_A_CAPTION)
             self._place.read()
         self._hands.give([REST, *self.pressed(*self._place.caption(), 1), REST, ["key", "ctrl+f"]])
         is_open = self.sees(lambda record: record["search"]["open"])
-        self._hands.give([["type", "--delay", 1, search], ["key", "Return"]])
+        self._hands.give([["type", search], ["key", "Return"]])
         return is_open
 
     def sees(self, condition):
-        end = time.monotonic() + DEADLINE
+        end = time.monotonic() + DEADLINE / 4  # there are more tries
         while time.monotonic() < end and not self._viewer.has_left():
-            record = read_record(self._viewer.record_file)
+            record = self._viewer.last_record()
             if record is not None and condition(record):
                 return True
             time.sleep(0.02)
@@ -278,7 +277,7 @@ class Monkey:
 
     def doings(self, wait):
         """What was done just before a wait and during it."""
-        return [spoken(parts) for when, parts in self.log if wait["began"] / 1000 - 1 < when < wait["ended"] / 1000]
+        return [spoken(parts) for when, parts in self.log if wait["began"] / 1000 - 1 < when < wait["ended"] / 1000][:DOINGS]
 
 
 def told(watch, name="longest"):
@@ -286,6 +285,12 @@ def told(watch, name="longest"):
     with open(watch, encoding="utf-8") as file:
         lines = [json.loads(line) for line in file if line.endswith("\n")]
     return [line for line in lines if not name or name in line]
+
+
+def last_taken(watch):
+    """What of input the viewer took from its queue before it left in order; nothing where it did not."""
+    return [f'{TOLD_MESSAGES[entry["message"]]} {entry["wParam"]:#x} {entry["lParam"]:#x} of {entry["class"]}'
+            for line in told(watch, "left") for entry in line["left"] if entry["message"] in TOLD_MESSAGES]
 
 
 def resident_bytes(process):
@@ -321,37 +326,40 @@ class Life:
     def __init__(self):
         self.played = 0
         self.exit_code = None  # None: alive at the end
+        self.left_in_order = False
         self.before = self.after = None
-        self.longest = self.longest_own = 0
+        self.missed = self.longest = self.longest_own = 0
 
     @property
-    def is_flat(self):
-        return self.after is None or self.after.is_flat_after(self.before)
+    def is_well(self):
+        return ((self.exit_code is None or self.left_in_order) and self.missed == 0 and self.longest_own < LONGEST_WAIT and
+                (self.after is None or self.after.is_flat_after(self.before)))
 
-    def live(self, folder, seed, events, arguments):
+    def live(self, folder, seed, events, arguments, scale):
         with tempfile.TemporaryDirectory() as notes:
             watch = os.path.join(notes, "watch.txt")
-            with Viewer(folder, *arguments, "--watch", watch) as viewer:
+            with Viewer(folder, *arguments, "--scale", scale, "--watch", watch, "--record-pause", PAUSE_BETWEEN_RECORDS, "--stay") as viewer:
                 process = program_of(viewer.record_file)
                 with MachineTime(process, server_of(PREFIX), viewer.display_server) as machine, Hands(viewer.environment, process) as hands:
-                    monkey = Monkey(viewer, hands, seed)
+                    monkey = Monkey(viewer, hands, seed, scale)
                     self.play(monkey, viewer, events, lambda: Held(process, watch))
                     if viewer.has_left():
                         self.exit_code = viewer.wait_for_end()
-                        print(f"  left with {self.exit_code} after:", *(spoken(parts) for _, parts in monkey.log[-8:]), sep="\n    ", flush=True)
+                        print(f"  left with {self.exit_code} after:", *(spoken(parts) for _, parts in monkey.log[-8:]), sep="\n    ")
+                        taken = last_taken(watch)
+                        self.left_in_order = self.exit_code == 0 and bool(taken)
+                        print("  having taken:", *taken, sep="\n    ", flush=True)
+                    self.missed = monkey.missed
                     self.judge(watch, machine, monkey)
 
     def play(self, monkey, viewer, events, look):
         """Looks at what is held after a part of the events, when what is made once is made, and at the end."""
         self.played = monkey.play(events // 4)
-        monkey.rest()
-        if viewer.has_left():
-            return
-        self.before = look()
-        self.played += monkey.play(events - events // 4)
-        monkey.rest()
-        if not viewer.has_left():
-            self.after = look()
+        if monkey.rest():
+            self.before = look()
+            self.played += monkey.play(events - events // 4)
+            if monkey.rest():
+                self.after = look()
 
     def judge(self, watch, machine, monkey):
         lines = told(watch, "")
@@ -370,32 +378,33 @@ class Life:
 def run(folder, seed, events, skin, language, scale):
     """True when all went well."""
     remaining, exits, is_well = events, 0, True
-    while remaining > 0 and is_well and exits <= MOST_EXITS:
+    most_exits = FIRST_EXITS + events // EVENTS_OF_AN_EXIT
+    while remaining > 0 and is_well and exits <= most_exits:
         life, begin = Life(), time.monotonic()
-        life.live(folder, seed + 1000 * exits, remaining, ("--lang", language, "--skin", skin, "--scale", scale))
+        life.live(folder, seed + 1000 * exits, remaining, ("--lang", language, "--skin", skin), scale)
         remaining -= life.played
-        is_well = life.exit_code in (None, 0) and life.is_flat and life.longest_own < LONGEST_WAIT
+        is_well = life.is_well
         state = "alive" if life.exit_code is None else f"left with {life.exit_code}"
         seconds = time.monotonic() - begin
         print(f"seed {seed + 1000 * exits}, {skin}, {language}, {scale} %: {life.played} events in {seconds:.0f} s, {state}, longest wait "
               f"{life.longest_own} ms ({life.longest} with the machine's part)\n  held: {life.before}\n  then: {life.after}", flush=True)
-        if life.exit_code is not None:
-            exits += 1
-            remaining = max(remaining, 0)
-    return is_well and exits <= MOST_EXITS
+        exits += life.exit_code is not None
+    return is_well and exits <= most_exits
 
 
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("folder")
     parser.add_argument("--events", type=int, default=20000)
+    parser.add_argument("--each", type=int)
     parser.add_argument("--seed", type=int, default=20)
     parser.add_argument("--skins", nargs="+", default=["silver", "black"])
     parser.add_argument("--langs", nargs="+", default=["en", "zh-CN", "he"])
     parser.add_argument("--scales", type=int, nargs="+", default=[100, 150, 200])
     options = parser.parse_args()
     combinations = list(itertools.product(options.skins, options.langs, options.scales))
-    results = [run(os.path.abspath(options.folder), options.seed + index, options.events // len(combinations), *combination)
+    events = options.each or options.events // len(combinations)
+    results = [run(os.path.abspath(options.folder), options.seed + index, events, *combination)
                for index, combination in enumerate(combinations)]
     print(f"{sum(results)} of {len(results)} runs went well")
     return 0 if all(results) else 1

@@ -4,7 +4,8 @@ import fcntl
 import os
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
-PREFIX = os.path.join(ROOT, "build", "wine-e2e")
+# Long runs have their own beside the tests'.
+PREFIX = os.environ.get("BARWRIGHT_E2E_PREFIX", os.path.join(ROOT, "build", "wine-e2e"))
 
 
 @contextlib.contextmanager
