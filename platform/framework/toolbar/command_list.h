@@ -2,6 +2,7 @@
 
 #include "afxwin.h"
 #include "toolbar/command_catalog.h"
+#include "toolbar/row_list.h"
 
 #include <functional>
 
@@ -9,10 +10,8 @@ namespace toolbar {
 
 /// A list box of commands with their images, out of which they can be dragged into toolbars. It knows the buttons of a
 /// catalog and owns none; Show it anew when they change.
-class CommandList : public CListBox {
+class CommandList : public RowList {
 public:
-    /// Takes over the list box with that id, which is owner-drawn, with strings.
-    void TakeOver(int id, CWnd& page);
     void Show(const std::vector<CMFCToolBarButton*>& commands);
     /// Null: none is selected.
     CMFCToolBarButton* Selected() const;
@@ -20,8 +19,8 @@ public:
     void SetFrame(std::function<CWnd*()> frame) { m_frame = std::move(frame); }
 
 protected:
-    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    void DrawRow(CDC& dc, const CRect& rect, int row, bool isSelected) override;
+    int LeastHeight() const override;
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);

@@ -12,7 +12,7 @@ enum Item : int { kCategories = 1001, kCommands };
 constexpr fx::DialogItem kItems[] = {
     {-1, kCategoriesText, 7, 7, 88, 8},
     {kCategories, 0, 7, 17, 88, 128, fx::DialogControl::ListBox,
-     LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
+     LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
     {-1, kCommandsText, 102, 7, 153, 8},
     {kCommands, 0, 102, 17, 153, 128, fx::DialogControl::ListBox,
      LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
@@ -27,7 +27,7 @@ public:
 
     BOOL OnInitDialog() override {
         CustomizePage::OnInitDialog();
-        m_categories.SubclassDlgItem(kCategories, this);
+        m_categories.TakeOver(kCategories, *this);
         m_commands.TakeOver(kCommands, *this);
         Dialog().FillCategoriesListBox(m_categories, FALSE);
         m_categories.SetCurSel(0);
@@ -47,7 +47,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CListBox m_categories;
+    RowList m_categories;
     CommandList m_commands;
 };
 

@@ -27,7 +27,7 @@ constexpr fx::DialogItem kItems[] = {
      LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
     {-1, kCurrentKeysText, 133, 7, 122, 8},
     {kCurrent, 0, 133, 17, 122, 44, fx::DialogControl::ListBox,
-     LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
+     LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
     {kRemove, kRemoveText, 133, 65, 58, 14, fx::DialogControl::Button, kPush},
     {-1, kNewKeyText, 133, 88, 122, 8},
     {kNewKey, 0, 133, 98, 122, 13, fx::DialogControl::Edit, ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP},
@@ -51,7 +51,7 @@ public:
         CustomizePage::OnInitDialog();
         m_category.SubclassDlgItem(kCategory, this);
         m_commands.TakeOver(kCommands, *this);
-        m_current.SubclassDlgItem(kCurrent, this);
+        m_current.TakeOver(kCurrent, *this);
         m_newKey.SubclassDlgItem(kNewKey, this);
         Dialog().FillCategoriesComboBox(m_category, FALSE);
         m_category.SetCurSel(0);
@@ -84,7 +84,7 @@ private:
 
     CComboBox m_category;
     CommandList m_commands;
-    CListBox m_current;
+    RowList m_current;
     KeyBox m_newKey;
     std::vector<ACCEL> m_shown; ///< the rows of the list of current keys
 };

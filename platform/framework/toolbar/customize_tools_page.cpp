@@ -4,6 +4,7 @@
 #include "fx/scoped_change.h"
 #include "fx/window_guard.h"
 #include "toolbar/customize_page.h"
+#include "toolbar/row_list.h"
 
 #include <commdlg.h>
 
@@ -34,7 +35,7 @@ constexpr DWORD kField = ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP;
 constexpr fx::DialogItem kItems[] = {
     {-1, kToolsText, 7, 7, 180, 8},
     {kTools, 0, 7, 17, 180, 76, fx::DialogControl::ListBox,
-     LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
+     LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL | WS_BORDER | WS_TABSTOP},
     {kNew, kNewToolText, 195, 17, 60, 14, fx::DialogControl::Button, kPush},
     {kDelete, kDeleteText, 195, 34, 60, 14, fx::DialogControl::Button, kPush},
     {kUp, kMoveUpText, 195, 59, 60, 14, fx::DialogControl::Button, kPush},
@@ -73,7 +74,7 @@ public:
     BOOL OnInitDialog() override {
         Dialog().TellToolsPage();
         CustomizePage::OnInitDialog();
-        m_tools.SubclassDlgItem(kTools, this);
+        m_tools.TakeOver(kTools, *this);
         SetDlgItemText(kFindCommand, L"...");
         for (const int id : {kOfferArguments, kOfferDirectories}) {
             SetDlgItemText(id, L">");
@@ -116,7 +117,7 @@ private:
     /// Puts a text where the field has its caret.
     void Offer(UINT menuResource, int button, int field);
 
-    CListBox m_tools;
+    RowList m_tools;
     bool m_isShowing = false; ///< the fields are being filled
 };
 

@@ -1,8 +1,10 @@
 #include "toolbar/dark_dialog.h"
 
 #include "afxvisualmanager.h"
+#include "fx/dark_caption.h"
 #include "fx/dc_scope.h"
 #include "fx/registered_messages.h"
+#include "toolbar/dialog_fields.h"
 #include "toolbar/metrics.h"
 #include "visual/manager_instance.h"
 #include "visual/paint_ribbon.h"
@@ -48,25 +50,39 @@ COLORREF Mixed(COLORREF from, COLORREF to, int part) {
                mix(GetBValue(from), GetBValue(to)));
 }
 
+/// Pale, yet seen on the ground.
+COLORREF Dimmed(COLORREF text, COLORREF ground) {
+    constexpr int kPalest = 45, kStep = 5;
+    constexpr double kSeen = 3.0;
+    int part = kPalest;
+    while (part < 100 &&
+           visual::Contrast(visual::FromColorRef(Mixed(ground, text, part)), visual::FromColorRef(ground)) < kSeen) {
+        part += kStep;
+    }
+    return Mixed(ground, text, part);
+}
+
 using MaybeColors = std::optional<Colors>; ///< nothing: the system draws
 
 /// What a window is drawn with under a dark look.
 struct Look {
     explicit Look(Colors colors)
         : text(colors.text),
-          dimmedText(Mixed(colors.ground, colors.text, 45)),
           ground(colors.ground),
           face(Mixed(colors.ground, colors.text, 14)),
           pressedFace(Mixed(colors.ground, colors.text, 28)),
           border(Mixed(colors.ground, colors.text, 40)),
+          dimmedText(Dimmed(colors.text, face)),
           groundBrush(colors.ground) {}
 
+    FieldColors OfFields() const { return {text, dimmedText, ground, face, border}; }
+
     COLORREF text;
-    COLORREF dimmedText;
     COLORREF ground;
     COLORREF face;
     COLORREF pressedFace;
     COLORREF border;
+    COLORREF dimmedText; ///< on faces
     CBrush groundBrush;
 };
 
@@ -143,8 +159,8 @@ void PaintButton(HWND window, CDC& dc, const Look& look) {
 }
 
 bool ChangesButton(UINT message) {
-    constexpr UINT kMessages[] = {BM_SETSTATE, BM_SETSTYLE,      WM_SETFOCUS,  WM_KILLFOCUS,  WM_ENABLE,
-                                  WM_SETTEXT,  WM_UPDATEUISTATE, WM_LBUTTONUP, WM_LBUTTONDOWN};
+    constexpr UINT kMessages[] = {BM_SETSTATE, BM_SETCHECK, BM_SETSTYLE,      WM_SETFOCUS,  WM_KILLFOCUS,
+                                  WM_ENABLE,   WM_SETTEXT,  WM_UPDATEUISTATE, WM_LBUTTONUP, WM_LBUTTONDOWN};
     return std::ranges::find(kMessages, message) != std::end(kMessages);
 }
 
@@ -169,6 +185,102 @@ LRESULT CALLBACK ButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); // the system has drawn its own
     }
     return result;
+}
+
+// ---- boxes to be checked
+
+bool IsBox(HWND button) {
+    const LONG type = ::GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK;
+    return type == BS_CHECKBOX || type == BS_AUTOCHECKBOX || type == BS_3STATE || type == BS_AUTO3STATE;
+}
+
+LRESULT CALLBACK BoxProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+    if (message == WM_NCDESTROY) {
+        return Leave(window, &BoxProc, wParam, lParam, data);
+    }
+    if (LookOf(data) == nullptr && !RunsFromTheRight(window)) {
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+    if (message == WM_ERASEBKGND) {
+        return TRUE;
+    }
+    if (message == WM_PAINT) {
+        CPaintDC dc(CWnd::FromHandle(window));
+        PaintBox(window, dc);
+        return 0;
+    }
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    if (ChangesButton(message) && ::IsWindow(window)) {
+        ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); // the system has drawn its own
+    }
+    return result;
+}
+
+// ---- lists and fields
+
+LRESULT CALLBACK FieldProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+    if (message == WM_NCDESTROY) {
+        return Leave(window, &FieldProc, wParam, lParam, data);
+    }
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    const Look* const look = message == WM_NCPAINT ? LookOf(data) : nullptr;
+    if (look != nullptr) {
+        PaintFieldBorder(window, look->OfFields());
+    }
+    return result;
+}
+
+bool ChangesCombo(UINT message) {
+    constexpr UINT kMessages[] = {CB_SETCURSEL,  CB_SHOWDROPDOWN, WM_SETFOCUS,  WM_KILLFOCUS,   WM_ENABLE,
+                                  WM_COMMAND,    WM_KEYDOWN,      WM_CHAR,      WM_SETTEXT,     WM_UPDATEUISTATE,
+                                  WM_MOUSEWHEEL, WM_LBUTTONUP,    WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_CAPTURECHANGED};
+    return std::ranges::find(kMessages, message) != std::end(kMessages);
+}
+
+LRESULT CALLBACK DropListProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+    if (message == WM_NCDESTROY) {
+        return Leave(window, &DropListProc, wParam, lParam, data);
+    }
+    const Look* const look = LookOf(data);
+    if (look == nullptr) {
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+    if (message == WM_ERASEBKGND) {
+        return TRUE;
+    }
+    if (message == WM_PAINT) {
+        CPaintDC dc(CWnd::FromHandle(window));
+        PaintDropList(window, dc, look->OfFields());
+        return 0;
+    }
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    if (ChangesCombo(message) && ::IsWindow(window)) {
+        ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); // the system has drawn its own
+    }
+    return result;
+}
+
+/// Whether the list view's rows are painted here: the system has one bright ground for a selected row without the
+/// keyboard, and mirrors ticks.
+LRESULT OnListNotice(const NMHDR& header, const Look* look, LRESULT otherwise) {
+    if (header.code != static_cast<UINT>(NM_CUSTOMDRAW) || (look == nullptr && !RunsFromTheRight(header.hwndFrom))) {
+        return otherwise;
+    }
+    const auto& row = reinterpret_cast<const NMLVCUSTOMDRAW&>(header);
+    if (row.nmcd.dwDrawStage == CDDS_PREPAINT) {
+        return CDRF_NOTIFYITEMDRAW;
+    }
+    if (row.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) {
+        PaintListRow(row);
+        return CDRF_SKIPDEFAULT;
+    }
+    return otherwise;
+}
+
+bool IsListView(HWND window) {
+    wchar_t name[64] = {};
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return ::lstrcmpiW(name, WC_LISTVIEWW) == 0;
 }
 
 // ---- tabs
@@ -251,7 +363,7 @@ void FollowLook(HWND dialog) {
     for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         ::SendMessageW(child, AFX_WM_CHANGEVISUALMANAGER, 0, 0);
     }
-    ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 LRESULT ColorControl(const Look& look, HDC dc, HWND control) {
@@ -268,6 +380,11 @@ LRESULT CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         FollowLook(window);
     }
     const Look* const look = LookOf(data);
+    if (message == WM_NOTIFY) {
+        const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
+        const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+        return IsListView(header.hwndFrom) ? OnListNotice(header, look, result) : result;
+    }
     if (look == nullptr) {
         return ::DefSubclassProc(window, message, wParam, lParam);
     }
@@ -297,12 +414,15 @@ void DressListView(HWND list, const MaybeColors& colors) {
         ::SendMessageW(list, message, 0, static_cast<LPARAM>(ground));
     }
     ::SendMessageW(list, LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(text));
+    Subclass(list, &FieldProc, colors);
 }
 
 void DressButton(HWND button, const MaybeColors& colors) {
     const LONG type = ::GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK;
     if (type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON) {
         Subclass(button, &ButtonProc, colors);
+    } else if (IsBox(button)) {
+        Subclass(button, &BoxProc, colors);
     } else {
         // A themed box has a text that nobody can colour.
         const wchar_t* const theme = colors ? L"" : nullptr;
@@ -315,14 +435,29 @@ struct KnownControl {
     void (*dress)(HWND control, const MaybeColors& colors);
 };
 
+void DressField(HWND field, const MaybeColors& colors) { Subclass(field, &FieldProc, colors); }
+
+void DressCombo(HWND combo, const MaybeColors& colors) {
+    if ((::GetWindowLongW(combo, GWL_STYLE) & (CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) ==
+        CBS_DROPDOWNLIST) {
+        Subclass(combo, &DropListProc, colors);
+    }
+}
+
 constexpr KnownControl kControls[] = {
     {WC_BUTTONW, DressButton},
     {WC_LISTVIEWW, DressListView},
+    {WC_LISTBOXW, DressField},
+    {WC_EDITW, DressField},
+    {WC_COMBOBOXW, DressCombo},
     {WC_TABCONTROLW, [](HWND tabs, const MaybeColors& colors) { Subclass(tabs, &TabsProc, colors); }},
 };
 
 void Dress(HWND dialog, const MaybeColors& colors) {
     Subclass(dialog, &DialogProc, colors);
+    if ((::GetWindowLongW(dialog, GWL_STYLE) & WS_CHILD) == 0) {
+        fx::SetDarkCaption(dialog, colors.has_value());
+    }
     for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         wchar_t name[64] = {};
         ::GetClassNameW(child, name, static_cast<int>(std::size(name)));
