@@ -22,6 +22,17 @@ std::vector<HWND> ShownFrames() {
     return windows;
 }
 
+// What is drawn reaches the screen by another way than what comes and goes on it, and may be overtaken there when the
+// machine has much to do. A pixel of the screen is read when all that was asked for before has been done; the first
+// one may come before a window does, which the second one does not.
+void WaitForScreen() {
+    ::GdiFlush();
+    const HDC screen = ::GetDC(nullptr);
+    ::GetPixel(screen, 0, 0);
+    ::GetPixel(screen, 0, 0);
+    ::ReleaseDC(nullptr, screen);
+}
+
 } // namespace
 
 namespace fx {
@@ -40,8 +51,10 @@ protected:
 
 private:
     void ShowFrameAsItIs();
+    void TakePicture();
 
     HWND m_frame;
+    bool m_isTaken = false; ///< The frame's picture, which the window's pixels are the only copy of.
 };
 
 BEGIN_MESSAGE_MAP(WindowFreeze::Cover, CWnd)
@@ -63,8 +76,8 @@ WindowFreeze::Cover::Cover(HWND frame) : m_frame(frame) {
     const UINT keep = above == m_hWnd ? SWP_NOZORDER : 0;
     ::SetWindowPos(m_hWnd, above, 0, 0, 0, 0,
                    SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_SHOWWINDOW | keep);
-    UpdateWindow();
-    ::GdiFlush();
+    TakePicture();
+    WaitForScreen();
 }
 
 WindowFreeze::Cover::~Cover() {
@@ -72,7 +85,7 @@ WindowFreeze::Cover::~Cover() {
         ::RedrawWindow(m_frame, nullptr, nullptr, RDW_ALLCHILDREN | RDW_UPDATENOW);
         ShowFrameAsItIs();
     }
-    ::GdiFlush();
+    WaitForScreen();
     DestroyWindow();
 }
 
@@ -86,14 +99,24 @@ void WindowFreeze::Cover::ShowFrameAsItIs() {
         GetWindowRect(own);
     }
     if (!own.IsRectEmpty() && frame == own) {
-        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        TakePicture();
     }
 }
 
+void WindowFreeze::Cover::TakePicture() {
+    m_isTaken = false;
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    m_isTaken = true;
+}
+
 // Painted once as it comes and once before it goes, from the frame's own pixels: a picture kept in between would cost
-// as much again as the window does.
+// as much again as the window does. Who has all windows painted anew meanwhile has this one painted, too, when the
+// frame is half done: then it stays as it is.
 void WindowFreeze::Cover::OnPaint() {
     CPaintDC dc(this);
+    if (m_isTaken) {
+        return;
+    }
     ::SetLayout(dc, 0);
     DrawWindowPicture(dc, m_frame, 0, 0);
 }

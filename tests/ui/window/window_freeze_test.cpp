@@ -88,6 +88,16 @@ LRESULT CALLBACK LookAtCover(int code, WPARAM window, LPARAM data) {
     return ::CallNextHookEx(nullptr, code, window, data);
 }
 
+TEST(WindowFreezing, ACoverThatIsPaintedAnewInTheMiddleShowsTheOldPicture) {
+    Frame frame;
+    const fx::WindowFreeze freeze;
+    const HWND cover = OwnedBy(frame.m_frame).front();
+    frame.m_child.SetColour(kNew);
+    frame.m_child.UpdateWindow();
+    ::RedrawWindow(cover, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+    EXPECT_EQ(MiddleOf(cover), kOld);
+}
+
 TEST(WindowFreezing, TheCoverShowsTheNewPictureBeforeItGoes) {
     Frame frame;
     HHOOK hook = nullptr;
