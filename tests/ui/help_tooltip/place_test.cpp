@@ -1,5 +1,10 @@
 // Where the tooltip's window goes.
+#include "tests/support/import_spy.h"
 #include "tests/ui/help_tooltip/tooltip_fixture.h"
+
+extern "C" {
+extern void* __imp_GetMonitorInfoW;
+}
 
 namespace {
 
@@ -94,6 +99,22 @@ TEST_F(HelpPlace, TheSystemsScreenAnswersToo) {
     CPoint pointer;
     ::GetCursorPos(&pointer);
     EXPECT_EQ(system.Pointer(), pointer);
+}
+
+int g_asked = 0;
+BOOL WINAPI NoMonitorInformation(HMONITOR, LPMONITORINFO) {
+    ++g_asked;
+    return FALSE;
+}
+
+TEST_F(HelpPlace, WithoutInformationOnTheMonitorTheDesktopsWorkAreaCounts) {
+    TooltipScreen::Use(nullptr);
+    CRect desktop;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &desktop, 0);
+    const ImportSpy<decltype(NoMonitorInformation)> none(__imp_GetMonitorInfoW, &NoMonitorInformation);
+    ASSERT_FALSE(desktop.IsRectEmpty());
+    EXPECT_EQ(TooltipScreen::Get().WorkAreaAt(CPoint(-5000, 100)), desktop);
+    EXPECT_EQ(g_asked, 1);
 }
 
 TEST_F(HelpPlace, ItNeitherTakesTheFocusNorTheForeground) {

@@ -64,6 +64,11 @@ TEST_F(ScrollBarDrag, MoreStepsThanThereAreMoveNothing) {
     EXPECT_EQ(m_bar.moves, (Moves{10})) << "all that there are are made";
 }
 
+TEST_F(ScrollBarDrag, TowardsTheBeginningMoreStepsThanThereAreAreMade) {
+    DragTo(-400);
+    EXPECT_EQ(m_bar.moves, (Moves{-40})) << "only steps above their number are left out";
+}
+
 TEST_F(ScrollBarDrag, TheThumbStaysInTheTrackHoweverFarThePointerGoes) {
     DragTo(5000);
     EXPECT_EQ(m_bar.m_thumb.bottom, m_bar.m_track.bottom);

@@ -35,6 +35,16 @@ TEST_F(ScrollBarDrawing, WithALimitOf0ItShowsItsGroundAlone) {
     EXPECT_EQ(Shown(m_bar).Colours(CRect(0, 0, 20, 200)), (std::set<COLORREF>{kGround}));
 }
 
+TEST_F(ScrollBarDrawing, PartsWithoutASizeAreNotDrawn) {
+    Open();
+    for (const int width : {2, 1, 0}) {
+        m_bar.SetScrollWidth(width);
+        m_bar.SetTotalLength(1000);
+        m_bar.RedrawWindow();
+        EXPECT_EQ(Shown(m_bar).Colours(CRect(0, 0, 20, 200)), (std::set<COLORREF>{kGround})) << width;
+    }
+}
+
 TEST_F(ScrollBarDrawing, ArrowsStandInTheMiddleInTheirOwnSize) {
     Open();
     const Shown shown(m_bar);
