@@ -52,18 +52,23 @@ CMFCPopupMenu::~CMFCPopupMenu() {
     }
 }
 
+bool toolbar::IsOpenedMirrored(const CMFCToolBarMenuButton* button, HMENU menu, HWND parent) {
+    const CWnd* const window = CWnd::FromHandlePermanent(parent);
+    const bool isOfBar = window != nullptr && window->IsKindOf(RUNTIME_CLASS(CMFCToolBar));
+    const CWnd* const opener = button != nullptr            ? button->GetParentWnd()
+                               : menu != nullptr || isOfBar ? window
+                                                            : nullptr;
+    if (opener->GetSafeHwnd() == nullptr) {
+        return false;
+    }
+    const CWnd* const around = button == nullptr ? opener->GetTopLevelFrame() : nullptr;
+    return ((opener->GetExStyle() | (around != nullptr ? around->GetExStyle() : 0)) & WS_EX_LAYOUTRTL) != 0;
+}
+
 BOOL CMFCPopupMenu::PreCreateWindow(CREATESTRUCT& cs) {
     cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS | CS_SAVEBITS, ::LoadCursorW(nullptr, IDC_ARROW));
-    // It runs the way of what its button lies in, a context menu the way of its window or of the frame around it; the
-    // system does not hand that down to windows of their own.
-    const CWnd* const opener = m_pParentBtn != nullptr ? m_pParentBtn->GetParentWnd()
-                               : m_hMenu != nullptr    ? CWnd::FromHandlePermanent(m_hParentWnd)
-                                                       : nullptr;
-    if (opener->GetSafeHwnd() != nullptr) {
-        const CWnd* const around = m_pParentBtn == nullptr ? opener->GetTopLevelFrame() : nullptr;
-        const DWORD styles = opener->GetExStyle() | (around != nullptr ? around->GetExStyle() : 0);
-        cs.dwExStyle |= styles & WS_EX_LAYOUTRTL;
-    }
+    // The system does not hand it down to windows of their own.
+    cs.dwExStyle |= toolbar::IsOpenedMirrored(m_pParentBtn, m_hMenu, m_hParentWnd) ? WS_EX_LAYOUTRTL : 0;
     return CMiniFrameWnd::PreCreateWindow(cs);
 }
 

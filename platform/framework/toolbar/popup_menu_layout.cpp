@@ -84,7 +84,7 @@ void CMFCPopupMenu::Place() {
     request.workArea = toolbar::WorkAreaAround(CRect(m_ptWanted, CSize(0, 0)));
     request.avoid = GetAvoidedArea();
     request.isRightAligned = m_bRightAlign != FALSE;
-    request.isMirrored = (m_pParentBtn != nullptr || m_hMenu != nullptr) && (GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    request.isMirrored = toolbar::IsOpenedMirrored(m_pParentBtn, m_hMenu, m_hParentWnd);
     request.size = CalcWindowSize(request.workArea.Height() - screenMargin);
     const toolbar::PopupPlacement placement = toolbar::PlacePopup(request);
     m_DropDirection = placement.direction;

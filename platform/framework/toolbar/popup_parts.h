@@ -4,6 +4,14 @@
 #include "popups/menu_shadow.h"
 #include "popups/scroll_strips.h"
 
+namespace toolbar {
+
+/// Whether a pop-up runs from the right: the way of what its button lies in; without a button that of the toolbar, or,
+/// of a context menu (`menu`), that of the window or of the frame around it.
+bool IsOpenedMirrored(const CMFCToolBarMenuButton* button, HMENU menu, HWND parent);
+
+} // namespace toolbar
+
 /// What a pop-up needs beside its bar.
 struct CMFCPopupMenu::Parts {
     toolbar::MenuShadow shadow;

@@ -4,6 +4,7 @@
 #include "afxpopupmenu.h"
 #include "afxtoolbarmenubutton.h"
 #include "afxvisualmanager.h"
+#include "fx/window_guard.h"
 #include "toolbar/chevron.h"
 #include "toolbar/choose_buttons.h"
 #include "toolbar/menu_source.h"
@@ -123,11 +124,25 @@ BOOL CMFCToolBar::OpenOverflowMenu() {
             rows.push_back(isSeparator ? nullptr : toolbar::MenuItemFor(button));
         }
     }
+    // Fields have no text of their own; the host, who knows what they are called, may end the bar when it is asked.
+    const fx::WindowGuard guard(this);
+    for (const auto& row : rows) {
+        CString name;
+        if (row != nullptr && row->m_strText.IsEmpty() && OnUserToolTip(row.get(), name) && guard.IsAlive()) {
+            row->m_strText = name;
+        }
+        if (guard.IsGone()) {
+            return FALSE;
+        }
+    }
     CRect place = m_rectOverflow;
     ClientToScreen(&place);
     auto* const menu = new OverflowMenu(*this);
-    if (!menu->Create(this, IsHorizontal() ? place.left : place.right, IsHorizontal() ? place.bottom : place.top,
-                      nullptr)) {
+    // Below the button from where lines begin on, or beside it where they end.
+    place.NormalizeRect();
+    const bool isMirrored = (GetExStyle() & WS_EX_LAYOUTRTL) != 0;
+    const bool isAtLeft = (IsHorizontal() != FALSE) != isMirrored;
+    if (!menu->Create(this, isAtLeft ? place.left : place.right, IsHorizontal() ? place.bottom : place.top, nullptr)) {
         return FALSE;
     }
     menu->SetMessageWnd(GetCommandTarget());

@@ -208,6 +208,68 @@ TEST_F(ToolBarDockingTest, TheMenuOfTheRestHoldsTheButtonsThatWereLeftOutAndSend
     EXPECT_EQ(m_frame->commands, (std::vector<UINT>{last}));
 }
 
+TEST_F(ToolBarDockingTest, TheMenuOfTheRestOfAMirroredBarRunsFromTheRightBelowTheRightEdgeOfItsButton) {
+    m_frame->ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    m_bar.ModifyStyleEx(0, WS_EX_LAYOUTRTL);
+    Resize(200);
+    CRect button = m_bar.GetOverflowRect();
+    m_pointer.Click(m_bar.m_hWnd, button.CenterPoint());
+    const CMFCPopupMenu* const menu = CMFCPopupMenu::GetActiveMenu();
+    ASSERT_NE(menu, nullptr);
+    m_bar.ClientToScreen(&button);
+    button.NormalizeRect();
+    CRect place;
+    menu->GetWindowRect(&place);
+    EXPECT_TRUE(menu->GetExStyle() & WS_EX_LAYOUTRTL);
+    EXPECT_NEAR(place.right, button.right, 1);
+    EXPECT_EQ(place.top, button.bottom);
+}
+
+CString NameOf(UINT command) {
+    CString name;
+    name.Format(L"Name of %u", command);
+    return name;
+}
+
+/// Knows what its buttons are called.
+class NamingBar : public CMFCToolBar {
+public:
+    std::function<void()> onAsked;
+
+    BOOL OnUserToolTip(CMFCToolBarButton* button, CString& text) const override {
+        if (onAsked) {
+            onAsked();
+        }
+        text = NameOf(button->m_nID);
+        return TRUE;
+    }
+};
+
+TEST_F(ToolBarDockingTest, AFieldThatWasLeftOutIsCalledInTheMenuOfTheRestWhatItsTooltipSays) {
+    NamingBar bar;
+    bar.Create(m_frame, AFX_DEFAULT_TOOLBAR_STYLE, 79);
+    for (UINT index = 0; index < 3; ++index) {
+        bar.InsertButton(CMFCToolBarComboBoxButton(kFirstCommand + index, -1, CBS_DROPDOWNLIST, 150));
+    }
+    bar.InsertButton(CMFCToolBarButton(kFirstCommand + 3, -1, L"Text"));
+    bar.EnableDocking(CBRS_ALIGN_ANY);
+    m_frame->RecalcLayout();
+    m_frame->DockPane(&bar);
+    Resize(200);
+    m_pointer.Click(bar.m_hWnd, bar.GetOverflowRect().CenterPoint());
+    CMFCPopupMenu* const menu = CMFCPopupMenu::GetActiveMenu();
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->GetMenuItemCount(), 3);
+    EXPECT_EQ(menu->GetMenuItem(0)->m_strText, NameOf(kFirstCommand + 1));
+    EXPECT_EQ(menu->GetMenuItem(1)->m_strText, NameOf(kFirstCommand + 2));
+    EXPECT_EQ(menu->GetMenuItem(2)->m_strText, L"Text");
+    CMFCPopupMenu::CloseAll();
+    PumpPending();
+    bar.onAsked = [&bar] { bar.DestroyWindow(); };
+    m_pointer.Click(bar.m_hWnd, bar.GetOverflowRect().CenterPoint());
+    EXPECT_EQ(CMFCPopupMenu::GetActiveMenu(), nullptr) << "the host ended the bar when it was asked";
+}
+
 TEST_F(ToolBarDockingTest, ASecondClickOnTheButtonOfTheRestClosesTheMenu) {
     Resize(200);
     m_pointer.Click(m_bar.m_hWnd, m_bar.GetOverflowRect().CenterPoint());
