@@ -7,6 +7,7 @@
 #include "installed_icon.h"
 #include "kept_bar_states.h"
 #include "layer_controls.h"
+#include "library_context.h"
 #include "map_painter.h"
 #include "menu_id_mgr.h"
 #include "ribbon_icon_button.h"
@@ -144,6 +145,7 @@ void ClassicBars::Build() {
         const std::string title = wstring2String(m_titles[bar].GetString());
         bar->SetWindowText(CMultiLanguageMgr::translationW(title, -1, "RibbonBarCfg").c_str());
     }
+    NameButtons();
     FillCombos();
     int customize = 0;
     if (CMenuIdMgr::Ins()->GetMenuId(L"CustomizeBars", customize)) {
@@ -163,6 +165,7 @@ void ClassicBars::BuildToolbars() {
     }
     m_frame->EnableDocking(CBRS_ALIGN_ANY);
     m_titles.clear();
+    m_names.clear();
     for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
         m_titles[bar] = m_toolbars.GetName(bar).c_str();
         bar->EnableDocking(CBRS_ALIGN_ANY);
@@ -189,6 +192,25 @@ bool ClassicBars::LoadToolbars() {
     const bool isLoaded = m_toolbars.Load(kToolbarFile, m_frame);
     m_configuredIcons = isLoaded ? CMFCToolBar::GetUserImages() : m_configuredIcons;
     return isLoaded;
+}
+
+// Menus show what has no room on its bar, and the file speaks one language. What users call a button stays.
+void ClassicBars::NameButtons() {
+    std::map<UINT, CString> names;
+    for (CMFCToolBar* const bar : m_toolbars.GetAllToolBar()) {
+        for (int i = 0; i < bar->GetCount(); ++i) {
+            std::wstring keyword;
+            CMFCToolBarButton& button = *bar->GetButton(i);
+            if (CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(button.m_nID), keyword)) {
+                const auto given = m_names.find(button.m_nID);
+                if (given == m_names.end() || given->second == button.m_strText) {
+                    button.m_strText = BarText(keyword).c_str();
+                }
+                names[button.m_nID] = BarText(keyword).c_str();
+            }
+        }
+    }
+    m_names = std::move(names);
 }
 
 void ClassicBars::DockNewToolbars() {
@@ -225,6 +247,26 @@ int DrawnSide() {
     return found != kPictureSides.end() ? *found : kPictureSides.back();
 }
 
+/// The combos' commands are on the ribbon as well, without a picture. Where a bar has too little room they are rows of
+/// a menu.
+CString IconFileOf(const CMFCRibbonBar& ribbon, UINT id, const wchar_t* set) {
+    struct Row {
+        const wchar_t* keyword;
+        const wchar_t* file;
+    };
+    static constexpr std::array<Row, 3> kRows = {{{L"LayersShown", L"pic\\skin\\icon\\modle\\layers.ico"},
+                                                  {L"LayerColors", L"pic\\skin\\icon\\modle\\palette-natural.ico"},
+                                                  {L"LabelLights", L"pic\\skin\\icon\\modle\\names.ico"}}};
+    std::wstring keyword;
+    CString file = CommandIconFile(ribbon, id, set);
+    if (file.IsEmpty() && CMenuIdMgr::Ins()->GetMenuMark(static_cast<int>(id), keyword)) {
+        const auto* const row = std::ranges::find(kRows, keyword, &Row::keyword);
+        file = row != kRows.end() ? GetIconPathStr(row->file, kIconSide) : CString();
+        file.Replace(L"\\modle\\", set);
+    }
+    return file;
+}
+
 /// Fills the list anew: `files` in the order of its indexes. An index without a file has an empty picture.
 void FillIcons(CMFCToolBarImages& images, const std::vector<CString>& files) {
     images.Clear();
@@ -249,7 +291,7 @@ void ClassicBars::TakeIcons(CMFCRibbonBar& ribbon, const wchar_t* set) {
             const int index = button.GetImage();
             if (index >= 0) {
                 ofButtons.resize(std::max(ofButtons.size(), static_cast<std::size_t>(index) + 1));
-                ofButtons[static_cast<std::size_t>(index)] = CommandIconFile(ribbon, button.m_nID, set);
+                ofButtons[static_cast<std::size_t>(index)] = IconFileOf(ribbon, button.m_nID, set);
             }
         }
     }

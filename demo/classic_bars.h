@@ -64,6 +64,7 @@ private:
     void BuildToolbars();
     bool LoadToolbars();
     void NumberToolbars();
+    void NameButtons();
     void FillCombos();
 
     const MapState& m_state;
@@ -77,6 +78,7 @@ private:
     CMFCToolBarImages* m_configuredIcons = nullptr; ///< The library's list, which m_icons stands in for.
     std::vector<ACCEL> m_shortcuts;                 ///< Of cfg\keys.xml.
     std::map<CMFCToolBar*, CString> m_titles;       ///< As the file has them.
+    std::map<UINT, CString> m_names;                ///< Of the buttons by their commands, as they were given last.
     CMFCToolBarImages m_icons; ///< Of the toolbars, in place of the library's list; outlives the bars' windows.
     std::vector<std::wstring> m_hidden; ///< What is hidden even when the bars are shown.
     bool m_isShown = false;

@@ -229,6 +229,21 @@ class CustomizeDialog(WithClassicBars):
             self.wait_for_dialog(viewer)
 
 
+class NamesOfButtons(WithClassicBars):
+    """Menus show what has no room on its bar."""
+
+    @staticmethod
+    def names(record):
+        return [button["text"] for bar in record["frame"]["toolbars"] for button in bar["buttons"] if button.get("text")]
+
+    def test_buttons_and_combos_are_called_what_their_commands_are_in_the_language_in_force(self):
+        with Viewer(BIN_DIR, "--lang", "zh-CN", "--bars", "classic") as viewer:
+            self.assertEqual(self.names(viewer.record)[:2], ["放大", "缩小"])
+            self.assertEqual(self.names(viewer.record)[-4:], ["图层", "颜色", "文字", "锁定图层"])
+            viewer.key("alt+s", "l", "Down", "Return")  # the second language
+            viewer.wait_for(lambda record: record["language"] == "en" and self.names(record)[-4:] == ["Layers", "Colors", "Texts", "Lock layer"])
+
+
 class MenuOfTheMap(WithClassicBars):
     """The context menu that the application keeps, and the user's tools at its end."""
 
