@@ -161,6 +161,35 @@ TEST_F(MenuShortcuts, KeyReachesTheCommandOnce) {
     frame.DestroyWindow();
 }
 
+/// Notes the commands that come to it.
+struct NotingFrame : MenuFrame {
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override {
+        if (code == CN_COMMAND && !info) {
+            commands.push_back(id);
+            return TRUE;
+        }
+        return MenuFrame::OnCmdMsg(id, code, extra, info);
+    }
+    std::vector<UINT> commands;
+};
+
+TEST_F(MenuShortcuts, OfTwoCommandsWithOneShortcutTheEarlierHasItAndTheFramesBeforeTheFiles) {
+    NotingFrame frame;
+    ASSERT_TRUE(frame.Create(nullptr, L"noting", WS_OVERLAPPEDWINDOW, CRect(0, 0, 400, 300)));
+    const fx::ScopedChange main(AfxGetThread()->m_pMainWnd, static_cast<CWnd*>(&frame));
+    ACCEL own{0, 'F', 7};
+    frame.m_hAccelTable = ::CreateAcceleratorTableW(&own, 1);
+    ASSERT_TRUE(Load("<i KEYWORD='A' HOTKEY='Q'/><i KEYWORD='B' HOTKEY='Q'/><i KEYWORD='C' HOTKEY='F'/>"));
+    EXPECT_EQ(m_creater.m_nAccelCount, 4) << "nothing takes duplicates away";
+    m_creater.SetAppAccelTable();
+    for (const WPARAM letter : {'Q', 'F'}) {
+        MSG key{frame.m_hWnd, WM_CHAR, letter, 1, 0, {}};
+        EXPECT_TRUE(frame.PreTranslateMessage(&key));
+    }
+    EXPECT_EQ(frame.commands, (std::vector<UINT>{m_firstId, 7}));
+    frame.DestroyWindow();
+}
+
 TEST_F(MenuShortcuts, TenThousandTakeNoQuadraticTime) {
     std::string items;
     for (int i = 0; i < 10000; ++i) {

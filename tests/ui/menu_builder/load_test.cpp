@@ -18,6 +18,14 @@ TEST_F(MenuBuilder, GroupOfThreeItemsGivesATopMenuOfThreeItems) {
     EXPECT_EQ(Outline(), L"<A>#0 <B>#1 <C>#2");
 }
 
+TEST_F(MenuBuilder, BeforeTheFirstLoadThereIsNoMenuAndNoShortcut) {
+    EXPECT_EQ(m_creater.GetMenu()->GetSafeHmenu(), nullptr);
+    EXPECT_EQ(m_creater.m_pAccel, nullptr);
+    EXPECT_EQ(m_creater.m_nAccelCount, 0);
+    EXPECT_TRUE(m_creater.m_strPath.empty());
+    EXPECT_TRUE(m_creater.m_vecCmd.empty());
+}
+
 TEST_F(MenuBuilder, GetMenuIsTheObjectItself) {
     EXPECT_EQ(m_creater.GetMenu(), &m_creater);
     ASSERT_TRUE(Load("<i KEYWORD='A'/>"));

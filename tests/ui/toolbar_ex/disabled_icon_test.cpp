@@ -57,6 +57,17 @@ TEST_F(DisabledIcon, WithoutOneADisabledButtonLooksLikeThePlatforms) {
     }
 }
 
+TEST_F(DisabledIcon, TwoAmpersandsInTheButtonsTextAreShownAsOne) {
+    Canvas canvas;
+    CDC& dc = *canvas.Dc();
+    const auto widthOf = [&dc](LPCTSTR text) {
+        CMFCToolBarButtonDisIco button(kId, -1, text);
+        return static_cast<int>(CSize(button.OnCalculateSize(&dc, CSize(0, 0), TRUE)).cx);
+    };
+    const int margins = widthOf(L"X") - static_cast<int>(dc.GetTextExtent(L"X").cx);
+    EXPECT_EQ(widthOf(L"Fish && Chips"), margins + static_cast<int>(dc.GetTextExtent(L"Fish & Chips").cx));
+}
+
 TEST_F(DisabledIcon, IsDrawnInThePlaceOfTheImage) {
     const std::vector<std::uint32_t> without = Draw<CMFCToolBarButtonDisIco>(TBBS_DISABLED);
     CMFCToolBarButtonDisIco::SetDisabledIcon(kId, MakeIcon(kSide, RGB(200, 0, 0), [](int x, int) { return x >= 8; }));
