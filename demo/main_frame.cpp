@@ -13,6 +13,7 @@
 #include "ribbon_check_combo.h"
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
+#include "scaled.h"
 #include "screenshot.h"
 #include "script_font.h"
 #include "search_field.h"
@@ -37,6 +38,8 @@
 
 namespace {
 
+constexpr int kLeastWidth = 320; // pixels at 96 DPI, as the next
+constexpr int kLeastHeight = 260;
 constexpr UINT kFirstCommand = 41000;
 constexpr UINT kLastCommand = 49999;
 constexpr UINT kLightTakenMessage = WM_APP + 2;
@@ -128,6 +131,7 @@ ON_WM_DESTROY()
 ON_WM_NCACTIVATE()
 ON_WM_ENDSESSION()
 ON_WM_TIMER()
+ON_WM_GETMINMAXINFO()
 ON_WM_SETFOCUS()
 ON_WM_DROPFILES()
 ON_WM_HELPINFO()
@@ -229,6 +233,13 @@ int CMainFrame::OnCreate(LPCREATESTRUCT createStruct) {
         [this](CPoint point) { afxContextMenuManager->ShowPopupMenu(IDR_MAP_MENU, point.x, point.y, &m_map); });
     DragAcceptFiles();
     return 0;
+}
+
+// Below that the ribbon is not shown, and what is left is of no use.
+void CMainFrame::OnGetMinMaxInfo(MINMAXINFO* info) {
+    CFrameWndEx::OnGetMinMaxInfo(info);
+    info->ptMinTrackSize.x = std::max<LONG>(info->ptMinTrackSize.x, Scaled(kLeastWidth));
+    info->ptMinTrackSize.y = std::max<LONG>(info->ptMinTrackSize.y, Scaled(kLeastHeight));
 }
 
 // The window class has the icon for the display's own scale only.

@@ -74,6 +74,7 @@ protected:
     afx_msg BOOL OnNcActivate(BOOL isActive);
     afx_msg void OnEndSession(BOOL isEnding);
     afx_msg void OnTimer(UINT_PTR timer);
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
     afx_msg BOOL OnHelpInfo(HELPINFO* info);
     afx_msg void OnSetFocus(CWnd* earlier);
     afx_msg void OnDropFiles(HDROP drop);

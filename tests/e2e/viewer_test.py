@@ -917,6 +917,21 @@ class BrokenRibbonViewer(Viewer):
         super().begin()
 
 
+class SizeOfTheWindow(unittest.TestCase):
+    LEAST = 320, 260  # at 100 %
+
+    def test_it_does_not_become_smaller_than_its_ribbon_can_be_shown(self):
+        for percent in (100, 150):
+            with self.subTest(percent=percent), Viewer(BIN_DIR, "--lang", "en", "--scale", percent) as viewer:
+                _, _, right, bottom = viewer.record["statusOnScreen"]
+                viewer.drag(right - 5, bottom - 5, 30, 20)
+                size = [length * percent // 100 for length in self.LEAST]
+                frame = viewer.wait_for(lambda record: record["frameOnScreen"][2] < right - 100 and record["idle"])["frameOnScreen"]
+                self.assertEqual([frame[2] - frame[0], frame[3] - frame[1]], size)
+                self.assertFalse(viewer.record["ribbonMinimized"])
+                self.assertGreater(viewer.record["ribbonOnScreen"][3], viewer.record["ribbonOnScreen"][1])
+
+
 class LeavingTheViewer(unittest.TestCase):
     def run_demo(self, *arguments):
         return subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), "--null", os.path.join(BIN_DIR, "demo.exe"),
