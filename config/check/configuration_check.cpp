@@ -231,16 +231,17 @@ struct Checking {
 /// elsewhere.
 std::span<const LanguageTexts> TextsOf(const Checking& checking, std::vector<LanguageTexts>& read,
                                        DiagnosticsSink& sink) {
-    const auto& [files, kept] = checking.source;
+    const InstallationFiles& files = checking.source.installation;
     if (!checking.hasTexts) {
         return {};
     }
-    if (!kept) {
+    if (!checking.source.kept) {
         read = ReadLanguages(files, checking.language, sink);
         return read;
     }
-    return kept->languages.Get(checking.language, StampOfLanguage(files, checking.language),
-                               [&] { return ReadLanguages(files, checking.language, DroppedDiagnostics()); });
+    return checking.source.kept->languages.Get(checking.language, StampOfLanguage(files, checking.language), [&] {
+        return ReadLanguages(files, checking.language, DroppedDiagnostics());
+    });
 }
 
 /// Reads the files, and then says what takes all of them together.
