@@ -13,7 +13,9 @@ constexpr DiagnosticCode kCodes[] = {
     // The file as a whole.
     {"xml-syntax", Error, "The file is not well-formed XML.",
      "The file is not loaded at all: the library says so in a message box, or builds no toolbars. Only a \"<\" in a "
-     "value is taken as it is, and a declaration that does not begin the file is passed over.",
+     "value is taken as it is, and a declaration that does not begin the file and two dashes within a comment are "
+     "passed "
+     "over.",
      "Mend the markup at the place that is named, or a little before it: what is missing is noticed late.", RibbonFile,
      "<ribbon>\n  <row KEYWORD=\"Main\"\n</ribbon>",
      "<ribbon>\n  <row KEYWORD=\"Main\"><category KEYWORD=\"Map\" NAME=\"\"><panel KEYWORD=\"Zoom\"><item "
@@ -54,7 +56,8 @@ constexpr DiagnosticCode kCodes[] = {
      "It is not loaded.", "Mend what the message says.", Files, "cfg\\menu.xml\ncfg\\ribbon.xml (257 MB)",
      "cfg\\menu.xml\ncfg\\ribbon.xml"},
 
-    {kWrongKind, Error, "A ribbon, menu or toolbar file has the name, or stands in the place, of one of another kind.",
+    {kWrongKind, Error,
+     "A ribbon, menu or toolbar file has the name, or stands in the place, of one of another kind, or a web page does.",
      "It is read as what it is not: hardly anything is built from it. Nothing else is said of it, and what refers to "
      "the file that should be there is not spoken of.",
      "Put the right file there. The names of the files begin with ribbon, menu and toolbar.", RibbonFile,
@@ -303,7 +306,9 @@ constexpr DiagnosticCode kCodes[] = {
     {"bad-table", Warning,
      "A translation table, or a unit of it, is not what it should be: no XLIFF 2 file, a trgLang that is not its "
      "folder, a file element without id, a unit without key or segment, a segment with two sources or targets, a text "
-     "with an element that XLIFF 2 does not have there; or it lies where no table is read, or ends in .xliff, .xlif or "
+     "with an element that XLIFF 2 does not have there; texts whose letters were lost when the file was saved, or read "
+     "in "
+     "another encoding; or it lies where no table is read, or ends in .xliff, .xlif or "
      ".xlf.txt instead of .xlf.",
      "A file that is no XLIFF 2 keeps the whole language from being used; of the others the faulty part is skipped.",
      "Mend what the message says.", Table,

@@ -1,17 +1,15 @@
 #include "config/load_document.h"
 
+#include "config/broken_bytes.h"
 #include "config/diagnostic_codes.h"
+#include "config/refused_elsewhere.h"
 #include "config/suggestion.h"
 #include "config/syntax_hint.h"
 
 #include <varnhold/file_op.h>
 #include <varnhold/letter_case.h>
-#include <varnhold/strings.h>
 
 #include <algorithm>
-#include <array>
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 
 namespace {
@@ -76,6 +74,22 @@ void ReportKind(const CXmlDocumentWrapper& document, ConfigurationKind kind, Con
                            L" begins with " + Quoted(FileNameStart(other)));
 }
 
+/// What a server sends in the place of a file that is not there, or that nobody may have.
+bool IsWebPage(const CXmlDocumentWrapper& document) {
+    varnhold::XmlCursor at(document);
+    return varnhold::EqualsIgnoringCase(std::wstring_view(at.GetName()), std::wstring_view(L"html")) &&
+           at.ToFirstChild() &&
+           (varnhold::EqualsIgnoringCase(std::wstring_view(at.GetName()), std::wstring_view(L"head")) ||
+            varnhold::EqualsIgnoringCase(std::wstring_view(at.GetName()), std::wstring_view(L"body")));
+}
+
+void ReportWebPage(const CXmlDocumentWrapper& document, ConfigurationKind kind, const FileDiagnostics& diagnostics) {
+    const std::wstring expected(NameOf(kind));
+    diagnostics.Report(kWrongKind, varnhold::XmlCursor(document).GetPosition(),
+                       L"this is a web page in the place of a " + expected + L": nothing in it is built",
+                       L"put the " + expected + L" here; a server sends a page where it has no such file");
+}
+
 /// Where no place is known it is the beginning of the file.
 TextPosition PlaceOf(const CXmlDocumentWrapper& document) {
     return {std::max<std::size_t>(1, document.GetErrorLine()), std::max<std::size_t>(1, document.GetErrorColumn())};
@@ -95,8 +109,9 @@ void ReportError(const CXmlDocumentWrapper& document, const std::wstring& fullPa
 
 void ReportOddity(const XmlOddity& oddity, const FileDiagnostics& diagnostics) {
     const auto* const found = std::ranges::find(kOddities, oddity.kind, &OddityText::kind);
-    std::wstring fix =
-        oddity.kind == XmlOddityKind::LooseText ? HintForLooseText(diagnostics.File(), oddity.position) : L"";
+    std::wstring fix = oddity.kind == XmlOddityKind::LooseText ? HintForLooseText(diagnostics.File(), oddity.position)
+                       : oddity.kind == XmlOddityKind::BrokenCharacter ? HintForBrokenBytes(diagnostics.File())
+                                                                       : L"";
     if (fix.empty()) {
         fix = found->fix;
     }
@@ -114,103 +129,12 @@ bool LoadDocument(const std::wstring& fullPath, ConfigurationKind kind, FileDiag
     } else if (const auto other = OtherKindOf(varnhold::XmlCursor(document), kind)) {
         ReportKind(document, kind, *other, diagnostics);
         diagnostics.StopListening();
+    } else if (IsWebPage(document)) {
+        ReportWebPage(document, kind, diagnostics);
+        diagnostics.StopListening();
     } else {
-        ReportDeclaration(diagnostics);
+        ReportRefusedElsewhere(diagnostics);
         ReportOddities(document, diagnostics);
     }
     return isLoaded;
-}
-
-namespace {
-
-constexpr std::string_view kDeclaration = "<?xml ";
-
-void ReportLateDeclaration(std::string_view text, const FileDiagnostics& diagnostics) {
-    const std::string_view before = text.substr(0, text.find_first_not_of(" \t\r\n"));
-    if (before.empty() || !text.substr(before.size()).starts_with(kDeclaration)) {
-        return;
-    }
-    const std::size_t lineStart = before.rfind('\n') + 1; // npos + 1 is 0
-    diagnostics.Report(
-        "xml-syntax", {1 + static_cast<std::size_t>(std::ranges::count(before, '\n')), 1 + before.size() - lineStart},
-        L"something stands before the declaration: here it is passed over, elsewhere the file is refused",
-        L"let <?xml begin the file, without a blank or a line before it");
-}
-
-/// What the first bytes of a file show of its encoding, before anything in it can be read.
-struct FirstBytes {
-    std::string_view bytes;
-    std::wstring_view encoding;
-    bool isMark;
-    /// In small letters.
-    std::array<std::string_view, 3> names;
-};
-using namespace std::string_view_literals;
-constexpr FirstBytes kFirstBytes[] = {
-    {"\xEF\xBB\xBF"sv, L"UTF-8", true, {"utf-8", "utf8"}},
-    {"\xFF\xFE"sv, L"UTF-16", true, {"utf-16", "utf16", "utf-16le"}},
-    {"\xFE\xFF"sv, L"UTF-16", true, {"utf-16", "utf16", "utf-16be"}},
-    {"<\0"sv, L"UTF-16", false, {"utf-16", "utf16", "utf-16le"}},
-    {"\0<"sv, L"UTF-16", false, {"utf-16", "utf16", "utf-16be"}},
-};
-
-/// Null for a file that begins with its declaration alone, byte by byte.
-const FirstBytes* FindFirstBytes(const std::wstring& fullPath) {
-#ifdef _WIN32
-    const std::filesystem::path native(fullPath);
-#else
-    const std::filesystem::path native(wstring2String(fullPath));
-#endif
-    std::array<char, 3> read{};
-    std::ifstream stream(native, std::ios::binary);
-    stream.read(read.data(), read.size());
-    const std::string_view bytes(read.data(), static_cast<std::size_t>(stream.gcount()));
-    const auto* const found =
-        std::ranges::find_if(kFirstBytes, [bytes](const FirstBytes& one) { return bytes.starts_with(one.bytes); });
-    return found == std::end(kFirstBytes) ? nullptr : found;
-}
-
-/// Where the name of the encoding begins and ends in a text that a declaration begins; nothing where it names none.
-std::string_view DeclaredEncoding(std::string_view text) {
-    constexpr std::string_view attribute = "encoding";
-    if (!text.starts_with(kDeclaration)) {
-        return {};
-    }
-    const std::string_view declaration = text.substr(0, text.find("?>"));
-    const std::size_t name = declaration.find(attribute);
-    const std::size_t open = name == declaration.npos ? name : declaration.find_first_of("\"'", name);
-    if (open == declaration.npos) {
-        return {};
-    }
-    const std::size_t close = declaration.find(declaration[open], open + 1);
-    return close == declaration.npos ? std::string_view() : declaration.substr(open + 1, close - open - 1);
-}
-
-void ReportForeignEncoding(std::string_view text, const FileDiagnostics& diagnostics) {
-    const std::string_view declared = DeclaredEncoding(text);
-    const FirstBytes* const first = declared.empty() ? nullptr : FindFirstBytes(diagnostics.File());
-    const bool isForeign = first && std::ranges::none_of(first->names, [declared](std::string_view name) {
-                               return varnhold::EqualsIgnoringCase(declared, name);
-                           });
-    if (!isForeign) {
-        return;
-    }
-    const std::wstring encoding(first->encoding);
-    const std::size_t place = static_cast<std::size_t>(declared.data() - text.data());
-    diagnostics.Report("xml-encoding", {1, 1 + place},
-                       L"the declaration says " + Quoted(string2wstring(std::string(declared))) + L", and " +
-                           (first->isMark ? L"the file's byte-order mark says " : L"its first bytes say ") + encoding +
-                           L", which counts; other programs refuse the file",
-                       encoding == L"UTF-8" ? L"write encoding=\"UTF-8\""
-                                            : L"save the file as UTF-8, or write encoding=\"" + encoding + L"\"");
-}
-
-} // namespace
-
-void ReportDeclaration(const FileDiagnostics& diagnostics) {
-    std::string text;
-    if (varnhold::ReadXmlText(diagnostics.File(), text)) {
-        ReportLateDeclaration(text, diagnostics);
-        ReportForeignEncoding(text, diagnostics);
-    }
 }

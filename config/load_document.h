@@ -11,7 +11,3 @@ bool LoadDocument(const std::wstring& fullPath, ConfigurationKind kind, FileDiag
 
 /// Reports what was found odd in a document: a text between the tags, a reference that is not known and their like.
 void ReportOddity(const varnhold::XmlOddity& oddity, const FileDiagnostics& diagnostics);
-
-/// Reports what other programs refuse a file for although the library reads it: an XML declaration that something
-/// stands before, and one that names another encoding than the file's first bytes show.
-void ReportDeclaration(const FileDiagnostics& diagnostics);

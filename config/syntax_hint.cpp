@@ -11,9 +11,19 @@ namespace {
 
 using varnhold::TextPosition;
 
-constexpr std::wstring_view kTypographicQuotes = L"\u201C\u201D\u201E\u201F\u2018\u2019\u201A\u00AB\u00BB\uFF02";
+constexpr std::wstring_view kTypographicQuotes = L"\u201C\u201D\u201E\u201F\u2018\u2019\u201A\u00AB\u00BB";
 /// They look like a blank, or like nothing.
 constexpr std::wstring_view kOtherBlanks = L"\u00A0\u2007\u202F\u3000\u200B\u2060\uFEFF";
+
+/// Signs of markup as a Chinese or Japanese keyboard writes them.
+constexpr std::wstring_view kWideSigns = L"\uFF1C\uFF1E\uFF1D\uFF0F\uFF02\uFF07";
+constexpr std::wstring_view kNarrowSigns = L"<>=/\"'";
+
+std::wstring HintForWideSign(wchar_t sign) {
+    const std::size_t at = kWideSigns.find(sign);
+    return std::wstring(L"write the narrow sign ") + kNarrowSigns[at] + L": the one that stands here is " + sign +
+           L", as a Chinese keyboard has it";
+}
 
 bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') || c == L'_'; }
 bool IsDigit(wchar_t c) { return c >= L'0' && c <= L'9'; }
@@ -88,6 +98,49 @@ std::optional<TextPosition> FindOpenQuote(std::string_view text, TextPosition no
     return TextPosition{noticed.line - 1, last + 1};
 }
 
+/// The first sign of markup that is a wide one between the place and the last value, or tag, before it.
+std::optional<std::size_t> FindWideSign(const Place& place) {
+    const std::wstring_view line = place.line;
+    const std::size_t last = line.substr(0, std::min(place.column - 1, line.size())).find_last_of(L"\"'<");
+    const std::size_t found =
+        line.substr(0, std::min(place.column + 1, line.size())).find_first_of(kWideSigns, last + 1); // npos + 1 is 0
+    return found == line.npos ? std::nullopt : std::optional(found);
+}
+
+/// What programs write who know nothing of XML; in the text bytes that are no UTF-8 have been replaced.
+struct ForeignStart {
+    std::string_view start;
+    const wchar_t* fix;
+};
+constexpr ForeignStart kForeignStarts[] = {
+    {"PK\x03\x04", L"this is an archive, or a document of an office program: save it as plain text"},
+    {"%PDF", L"this is a PDF document: a configuration file is plain text"},
+    {"\x89PNG", L"this is a picture: a configuration file is plain text"},
+    {"\xEF\xBF\xBDPNG", L"this is a picture: a configuration file is plain text"},
+};
+
+/// A file that holds NULs is another program's, or its end was never written.
+SyntaxHint HintForNul(std::string_view text, TextPosition noticed) {
+    const auto* const foreign =
+        std::ranges::find_if(kForeignStarts, [text](const ForeignStart& one) { return text.starts_with(one.start); });
+    if (foreign != std::end(kForeignStarts)) {
+        return {{1, 1}, foreign->fix};
+    }
+    return {noticed, L"the file was not written to its end: save it again, or take an earlier copy"};
+}
+
+/// Whether the file ends before the tag at the place does.
+bool EndsInTag(std::string_view text, TextPosition noticed) {
+    std::size_t start = 0;
+    for (std::size_t line = 1; line < noticed.line && start < text.size(); ++line) {
+        start = std::min(text.find('\n', start), text.size() - 1) + 1;
+    }
+    const std::string_view lines = text.substr(start);
+    const std::size_t open = lines.rfind('<');
+    return lines.find('\n') >= lines.find_last_not_of("\r\n") && open != lines.npos &&
+           lines.find('>', open) == lines.npos;
+}
+
 /// Whether a tool for versions left the line where two of them differ.
 bool IsMergeMark(std::wstring_view line) {
     constexpr std::wstring_view marks[] = {L"<<<<<<<", L"=======", L">>>>>>>", L"|||||||"};
@@ -116,6 +169,8 @@ constexpr Slip kSlips[] = {
      L"is a quotation mark missing, before this place or in the line before?"},
     {[](const Place& place) { return place.Here() == L'<' && place.At(place.column + 1) == L'!'; },
      L"a comment cannot stand within a tag: put it before"},
+    {[](const Place& place) { return place.Before() == L'<' && (place.Here() == L' ' || place.Here() == L'='); },
+     L"write &lt; for the sign itself, or the name of an element right behind it"},
     {[](const Place& place) { return IsDigit(place.Here()) && place.Before() == L'<'; },
      L"the name of an element begins with a letter"},
     {[](const Place& place) {
@@ -130,8 +185,17 @@ constexpr Slip kSlips[] = {
 
 SyntaxHint HintForSyntax(std::string_view text, TextPosition noticed, std::wstring_view reason) {
     const Place place = PlaceAt(text, noticed);
+    if (reason.find(L"NUL") != reason.npos) {
+        return HintForNul(text, noticed);
+    }
     if (IsMergeMark(place.line)) {
         return {{noticed.line, 1}, kMergeHint};
+    }
+    if (const auto wide = FindWideSign(place)) {
+        return {{noticed.line, *wide + 1}, HintForWideSign(place.line[*wide])};
+    }
+    if (EndsInTag(text, noticed)) {
+        return {noticed, L"the file ends within this tag: save it again, or take an earlier copy"};
     }
     if (auto comment = FindSwallowingComment(text, noticed)) {
         return std::move(*comment);
@@ -142,6 +206,12 @@ SyntaxHint HintForSyntax(std::string_view text, TextPosition noticed, std::wstri
     }
     if (reason.find(L"does not end") != reason.npos) {
         return {noticed, L"is the \"/\" of that tag missing, or an end tag too many?"};
+    }
+    if (reason.find(L"is not ended") != reason.npos) {
+        return {noticed, L"is its end tag missing, or was the file not written to its end?"};
+    }
+    if (reason.find(L"ends no element") != reason.npos) {
+        return {noticed, L"the document element has ended before: remove what follows, or an end tag too many above"};
     }
     if (reason.find(L"text outside") != reason.npos && noticed.line == 1 && noticed.column == 1) {
         return {noticed, L"a configuration file begins with \"<\": is this a file of another kind?"};
@@ -166,6 +236,9 @@ std::wstring HintForLooseText(const std::wstring& fullPath, TextPosition positio
     }
     if (std::wstring_view(place.line).substr(position.column - 1).starts_with(L"-->")) {
         return L"a comment ends at its first -->: none can stand within another";
+    }
+    if (place.Here() != 0 && kWideSigns.find(place.Here()) != kWideSigns.npos) {
+        return HintForWideSign(place.Here());
     }
     return place.Here() != 0 && kOtherBlanks.find(place.Here()) != kOtherBlanks.npos
                ? L"remove the character that stands here, although nobody sees it"

@@ -2,7 +2,9 @@
 
 #include "config/check/file_kind.h"
 #include "config/check/gathered_elements.h"
+#include "config/check/spoilt_texts.h"
 #include "config/load_document.h"
+#include "config/refused_elsewhere.h"
 #include "config/ribbon_attributes.h"
 #include "config/suggestion.h"
 #include "config/syntax_hint.h"
@@ -65,9 +67,11 @@ public:
         m_translated = 0;
         m_duplicates.clear();
         m_units = 0;
-        ReportDeclaration(FileDiagnostics(m_file, m_sink));
+        m_spoilt.Clear();
+        ReportRefusedElsewhere(FileDiagnostics(m_file, m_sink));
         m_texts.isUsable = varnhold::ReadTranslationFile(path, m_texts.code, *this) && m_texts.isUsable;
         ReportDuplicates();
+        ReportSpoilt();
         m_ofFiles.push_back({m_file, std::move(m_untranslated), m_translated});
     }
 
@@ -101,6 +105,7 @@ public:
             m_duplicates.push_back({key, position, placed->second.file, placed->second.position});
         }
         placed->second = {unit.text, m_file, position};
+        m_spoilt.Take(unit.text, position);
         if (m_isForeign && !unit.isTranslated) {
             m_untranslated.emplace_back(key, position);
         } else {
@@ -158,6 +163,23 @@ private:
         RelatedPlace place;
         std::vector<RelatedPlace> others;
     };
+
+    /// One thing to say of the whole file: it was saved so.
+    void ReportSpoilt() const {
+        const FileDiagnostics diagnostics(m_file, m_sink);
+        if (const SpoiltTexts::Kind& misread = m_spoilt.Misread(); misread.count > 0) {
+            diagnostics.Report("bad-table", misread.first,
+                               std::to_wstring(misread.count) +
+                                   L" texts of this file are UTF-8 that was read as another encoding, and saved again",
+                               L"take an earlier copy, or let a program read it as UTF-8 before it saves it");
+        }
+        if (const SpoiltTexts::Kind& lost = m_spoilt.Lost(); lost.count > 0) {
+            diagnostics.Report("bad-table", lost.first,
+                               L"question marks stand in the place of letters in " + std::to_wstring(lost.count) +
+                                   L" texts of this file: it was saved in an encoding that does not have them",
+                               L"take an earlier copy, and save it as UTF-8");
+        }
+    }
 
     void TakeOtherLanguage(const RelatedPlace& place) {
         for (OtherLanguage& one : m_otherLanguages) {
@@ -217,6 +239,7 @@ private:
     std::size_t m_translated = 0;
     std::vector<Duplicate> m_duplicates;
     std::size_t m_units = 0;
+    SpoiltTexts m_spoilt;
     std::vector<Untranslated> m_ofFiles;
     std::vector<OtherLanguage> m_otherLanguages;
     std::map<std::string, std::map<std::wstring, PlacedText>> m_otherTexts;

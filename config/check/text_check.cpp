@@ -261,7 +261,10 @@ private:
             }
         }
         const std::wstring wanted = isToolTip ? keyword + std::wstring(kToolTipSuffix) : keyword;
-        const std::wstring written = ClosestWord(wanted, unused);
+        std::wstring written = ClosestWord(wanted, unused);
+        if (written.empty() && !isToolTip) {
+            written = OnlyStrange(language);
+        }
         const auto found = std::ranges::find_if(
             language.commands, [&](const auto& entry) { return !written.empty() && nameOf(entry.first) == written; });
         if (found == language.commands.end()) {
@@ -273,6 +276,25 @@ private:
             L"no element has the keyword " + Quoted(written) + L", and for " + Quoted(keyword) + L" " + missing.text,
             DidYouMean(wanted), {PlaceOf(*missing.asked->first, AttributeUse::Keyword, L"it is asked for here")});
         return true;
+    }
+
+    /// The one keyword of a language that neither an element nor another language has, where it also lacks one alone:
+    /// whoever lost the one wrote the other. Empty when there are none or several.
+    std::wstring OnlyStrange(const LanguageTexts& language) const {
+        const auto lacking = std::ranges::count_if(m_inOrder, [&](const std::wstring& keyword) {
+            return CountMissing(language, keyword, m_asked.at(keyword)) > 0;
+        });
+        std::set<std::wstring> strange;
+        for (const auto& entry : language.commands) {
+            const std::wstring& key = entry.first;
+            const bool isElsewhere = std::ranges::any_of(m_languages, [&](const LanguageTexts& other) {
+                return &other != &language && other.commands.contains(key);
+            });
+            if (!isElsewhere && !m_keywords.contains(KeywordOf(key)) && !m_keywords.contains(key)) {
+                strange.insert(KeywordOf(key));
+            }
+        }
+        return lacking == 1 && strange.size() == 1 ? *strange.begin() : std::wstring();
     }
 
     static bool Lacks(const LanguageTexts& language, const std::wstring& key) {

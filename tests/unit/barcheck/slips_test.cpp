@@ -150,6 +150,23 @@ const PlantedSlip kSlips[] = {
     {{"cfg/menu.xml", "</menu>\n", "</menu>\n@@<menu></menu>\n", "xml-syntax"}, L"a second document element"},
     {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD=\"PanelTools\"@@\u00A0NAME=\"\"", "xml-syntax"},
      kBlank},
+    {{"cfg/menu.xml", "</menu>\n", "</menu>\n@@</popup>\n</menu>\n", "xml-syntax"},
+     L"the document element has ended before"},
+    {{"cfg/ribbon.xml", "<row KEYWORD=\"StatusEx_btns\">", "<!-- status @@-- bar --><row KEYWORD=\"StatusEx_btns\">",
+      "xml-syntax"},
+     L"two dashes stand within a comment"},
+    {{"cfg/toolbar.xml", "  <group KEYWORD=\"Main\">", "  <!-- bars @@----><group KEYWORD=\"Main\">", "xml-syntax"},
+     L"elsewhere the file is refused"},
+    // Signs of a Chinese keyboard.
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\"", "KEYWORD@@\uFF1D\uFF02PanelTools\uFF02 NAME=\"\"",
+      "xml-syntax"},
+     L"write the narrow sign =: the one that stands here is \uFF1D"},
+    {{"cfg/menu.xml", "CMD=\"exit\"/>", "CMD=\"exit\"@@\uFF0F>", "xml-syntax"}, L"write the narrow sign /"},
+    {{"cfg/ribbon.xml", "KEYWORD=\"PanelTools\" NAME=\"\">", "KEYWORD=\"PanelTools\" NAME=\"\"@@\uFF1E", "xml-syntax"},
+     L"write the narrow sign >"},
+    {{"cfg/ribbon.xml", "<item KEYWORD=\"ScaleLabel\"", "@@\uFF1Citem KEYWORD=\"In\"/>\n<item KEYWORD=\"ScaleLabel\"",
+      "stray-text"},
+     L"write the narrow sign <"},
     // What a tool for versions leaves.
     {{"cfg/ribbon.xml", "  <row KEYWORD=\"Main\">", "@@<<<<<<< HEAD\n  <row KEYWORD=\"Main\">", "xml-syntax"}, kMerge},
     {{"cfg/menu.xml", "  <group>", "  <group>\n@@=======", "stray-text"}, kMerge},
@@ -170,6 +187,11 @@ const PlantedSlip kSlips[] = {
     {{"lang/de/a.xlf", "<xliff xmlns=\"urn:oasis:names:tc:xliff:document:2.0\" version=\"2.0\"",
       "@@<xliff version=\"1.2\"", "bad-table"},
      L"a table begins with <xliff version=\"2.0\">"},
+    {{"lang/en/a.xlf", "<source>West</source>", "<source>West <@@ East</source>", "xml-syntax"},
+     L"write &lt; for the sign itself"},
+    {{"lang/de/a.xlf", "<unit id=\"West\">", "@@<unit id=\"\u897F\u8FB9\">", "missing-text"},
+     L"did you mean \"West\"?"},
+    {{"lang/en/a.xlf", "<unit id=\"Undo\">", "@@<unit id=\"TakeBack\">", "missing-text"}, L"did you mean \"Undo\"?"},
     {{"lang/de/a.xlf", "<?xml version", " @@<?xml version", "xml-syntax"}, kDeclaration},
     {{"lang/de/a.xlf", "<unit id=\"West\">", "<unit id=@@\u201CWest\u201D>", "xml-syntax"}, kStraight},
     {{"lang/de/a.xlf", "<unit id=\"West\"><segment><source>West</source><target>de West</target>",
@@ -312,6 +334,78 @@ TEST_F(SlipWithFiles, APictureThatIsCalledAnIconIsNone) {
 TEST_F(SlipWithFiles, AFileThatAnEditorGaveItsOwnEndingIsOneFinding) {
     fs::rename(Path("cfg/ribbon.xml"), Path("cfg/ribbon.xml.txt"));
     ExpectOne("cfg/ribbon.xml.txt:1:1 missing-file", L"call it ribbon.xml");
+}
+
+TEST_F(SlipWithFiles, AFileThatWasNotWrittenToItsEndIsOneFinding) {
+    const std::string whole = SampleRibbon();
+    const std::string inTag = whole.substr(0, whole.find("KEYWORD=\"West\"") + 10);
+    m_installation.Write("cfg/ribbon.xml", inTag);
+    ExpectOne("cfg/ribbon.xml:25:26 xml-syntax", L"the file ends within this tag");
+    m_installation.Write("cfg/ribbon.xml", whole.substr(0, inTag.rfind("<item")));
+    ExpectOne("cfg/ribbon.xml:25:10 xml-syntax", L"was the file not written to its end?");
+    m_installation.Write("cfg/ribbon.xml", inTag + std::string(512, '\0'));
+    ExpectOne("cfg/ribbon.xml:25:27 xml-syntax", L"the file was not written to its end");
+}
+
+TEST_F(SlipWithFiles, WhatAnotherProgramWroteIsNamed) {
+    m_installation.Write("cfg/menu.xml", std::string("PK\x03\x04\x14\0\x06\0\x08\0", 10));
+    ExpectOne("cfg/menu.xml:1:1 xml-syntax", L"this is an archive, or a document of an office program");
+    m_installation.Write("cfg/menu.xml", std::string("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16));
+    ExpectOne("cfg/menu.xml:1:1 xml-syntax", L"this is a picture");
+}
+
+TEST_F(SlipWithFiles, APageThatAServerSentIsOneFinding) {
+    for (const char* const start : {"", "<!DOCTYPE html>\n"}) {
+        m_installation.Write("cfg/ribbon.xml",
+                             std::string(start) +
+                                 "<html><head><title>Sign in</title></head><body><p>Who?</p></body></html>");
+        const std::string line = *start ? "2" : "1";
+        ExpectOne("cfg/ribbon.xml:" + line + ":1 wrong-kind", L"this is a web page");
+    }
+}
+
+/// "Map" in Chinese.
+constexpr const char* kMapInUtf8 = "\xE5\x9C\xB0\xE5\x9B\xBE";
+constexpr const char* kMapInGbk = "\xB5\xD8\xCD\xBC";
+
+TEST_F(SlipWithFiles, ChineseLettersInAFileThatSaysUtf8AreNamed) {
+    std::string ribbon = SampleRibbon();
+    const std::size_t place = ribbon.find("<ribbon>");
+    m_installation.Write("cfg/ribbon.xml", std::string(ribbon).insert(place, "<!--" + std::string(kMapInGbk) + "-->"));
+    ExpectOne("cfg/ribbon.xml:2:5 xml-encoding", L"they are letters in GBK");
+    m_installation.Write("cfg/ribbon.xml", ribbon.insert(place, "<!-- f\xFCr -->"));
+    ExpectOne("cfg/ribbon.xml:2:7 xml-encoding", L"save the file in the encoding that its first line names");
+}
+
+/// The sample's table of a language with another text for each key: `text` behind the language's code.
+std::string TableWithTexts(const std::string& text) {
+    const std::string target = "<target>de ";
+    std::string table = SampleTable("de");
+    for (std::size_t at = table.find(target); at != std::string::npos; at = table.find(target, at)) {
+        at += target.size() - 3;
+        table.replace(at, table.find('<', at) - at, text);
+    }
+    return table;
+}
+
+TEST_F(SlipWithFiles, ATableWhoseLettersWereLostIsOneFinding) {
+    m_installation.Write("lang/de/a.xlf", TableWithTexts(kMapInUtf8));
+    ASSERT_EQ(m_installation.Findings(), "");
+    m_installation.Write("lang/de/a.xlf", TableWithTexts("?? (1)"));
+    ExpectOne("lang/de/a.xlf:4:5 bad-table", L"question marks stand in the place of letters in 31 texts");
+    m_installation.Write("lang/de/a.xlf", TableWithTexts("What??"));
+    EXPECT_EQ(m_installation.Findings(), "");
+}
+
+TEST_F(SlipWithFiles, ATableThatWasReadInAnotherEncodingAndSavedIsOneFinding) {
+    // The letters that the western encoding has for the bytes, among them two of its own.
+    m_installation.Write("lang/de/a.xlf", TableWithTexts("\u00E5\u0153\u00B0\u00E5\u203A\u00BE"));
+    ExpectOne("lang/de/a.xlf:4:5 bad-table", L"31 texts of this file are UTF-8 that was read as another encoding");
+    for (const char* const meant :
+         {"\u00E9t\u00E9 \u00E0 \u00DCbung", "\u00AB\u00E0\u00BB", "\u20AC 5", "\u5730\u56FE"}) {
+        m_installation.Write("lang/de/a.xlf", TableWithTexts(meant));
+        EXPECT_EQ(m_installation.Findings(), "") << meant;
+    }
 }
 
 TEST_F(SlipWithFiles, LetterCaseOfNamesIsNone) {
