@@ -23,13 +23,8 @@ namespace fs = std::filesystem;
 
 /// How many edits are tried; BARWRIGHT_MUTATIONS asks for another number.
 int EditCount() {
-#ifdef _WIN32
-    constexpr int usual = 60; // files are slow there
-#else
-    constexpr int usual = 600;
-#endif
     const char* const asked = std::getenv("BARWRIGHT_MUTATIONS");
-    return asked ? std::atoi(asked) : usual;
+    return asked ? std::atoi(asked) : BARWRIGHT_EDITS;
 }
 
 /// So many edits that give no finding are shown before the rest is left.
