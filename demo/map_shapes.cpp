@@ -25,6 +25,12 @@ void AddRing(const MapCanvas& canvas, const GeoRing& ring, std::vector<PointF>& 
 /// A dot with a rim round it.
 void DrawDot(const MapCanvas& canvas, PointF at, REAL radius, const Gdiplus::Brush& dot, const Gdiplus::Brush& rim) {
     const REAL outer = radius + canvas.Scaled(1.2);
+    // As of marks: curves far away may never end.
+    RectF reach(0, 0, static_cast<REAL>(canvas.state.WindowWidth()), static_cast<REAL>(canvas.state.WindowHeight()));
+    reach.Inflate(outer, outer);
+    if (!reach.Contains(at)) {
+        return;
+    }
     canvas.graphics.FillEllipse(&rim, RectF(at.X - outer, at.Y - outer, 2 * outer, 2 * outer));
     canvas.graphics.FillEllipse(&dot, RectF(at.X - radius, at.Y - radius, 2 * radius, 2 * radius));
 }

@@ -35,15 +35,22 @@ void DrawMarks(Graphics& graphics, const MapState& state, const MapPaintStyle& s
     const Gdiplus::SolidBrush ink(kMarkRim);
     const Gdiplus::Pen rim(kMarkRim, Scaled(style, 1.5));
     const REAL radius = Scaled(style, kMarkRadius);
+    // Curves far away are not only unseen: some places there make what turns them into lines go on for ever.
+    RectF reach(0, 0, static_cast<REAL>(state.WindowWidth()), static_cast<REAL>(state.WindowHeight()));
+    reach.Inflate(2 * radius, 2 * radius);
     int number = 0;
     for (const GeoPoint& place : state.Marks()) {
+        ++number;
         double x = 0;
         double y = 0;
         state.ToWindow(place, x, y);
         const RectF disc(static_cast<REAL>(x) - radius, static_cast<REAL>(y) - radius, 2 * radius, 2 * radius);
+        if (!reach.IntersectsWith(disc)) {
+            continue;
+        }
         graphics.FillEllipse(&fill, disc);
         graphics.DrawEllipse(&rim, disc);
-        const std::wstring text = std::to_wstring(++number);
+        const std::wstring text = std::to_wstring(number);
         graphics.DrawString(text.c_str(), static_cast<INT>(text.size()), &font, disc, &centred, &ink);
     }
 }
