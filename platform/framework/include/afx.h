@@ -11,6 +11,8 @@
 #include "fx/dump_context.h"
 #include "fx/exceptions.h"
 #include "fx/file.h"
+#include "fx/file_find.h"
 #include "fx/module_state.h"
 #include "fx/object.h"
+#include "fx/stdio_file.h"
 #include "fx/string.h"

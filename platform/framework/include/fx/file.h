@@ -98,6 +98,10 @@ protected:
     CString m_strFileName;
 };
 
+/// What the system shows as the name of the file, for captions and lists. nMax: the room in lpszTitle in characters.
+/// 0: it is there; else the room that it needs, and nothing was written.
+FRAMEWORK_API UINT AFXAPI AfxGetFileTitle(LPCTSTR lpszPathName, LPTSTR lpszTitle, UINT nMax);
+
 class FRAMEWORK_API CMemFile : public CFile {
     DECLARE_DYNAMIC(CMemFile)
 public:
