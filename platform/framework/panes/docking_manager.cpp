@@ -4,6 +4,7 @@
 #include "afxext.h"
 #include "afxPane.h"
 #include "afxPaneFrameWnd.h"
+#include "fx/handle_bits.h"
 #include "fx/scoped_change.h"
 #include "panes/pane_drag.h"
 #include "panes/pane_layout.h"
@@ -171,7 +172,7 @@ std::vector<CBasePane*> CDockingManager::PanesToPlace() const {
     std::vector<CBasePane*> panes;
     for (POSITION position = m_lstControlBars.GetHeadPosition(); position;) {
         auto* pane = static_cast<CBasePane*>(m_lstControlBars.GetNext(position));
-        const bool isInFrame = ::GetParent(pane->m_hWnd) == m_pParentWnd->m_hWnd;
+        const bool isInFrame = fx::IsSameHandle(::GetParent(pane->m_hWnd), m_pParentWnd->m_hWnd);
         if (isInFrame && pane->IsVisible() && pane->GetCurrentAlignment() != 0) {
             panes.push_back(pane);
         }

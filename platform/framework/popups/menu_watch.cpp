@@ -2,6 +2,7 @@
 
 #include "afxpopupmenu.h"
 #include "afxpriv.h"
+#include "fx/handle_bits.h"
 #include "window/drag_window.h"
 #include "window/input_filter.h"
 
@@ -69,7 +70,7 @@ BOOL OnOutsideClick(CMFCPopupMenu* active, const MSG& message) {
 
 bool IsOwnerOfChain(HWND window) {
     const HWND root = RootOf(g_active)->GetSafeHwnd();
-    return root && ::GetWindow(root, GW_OWNER) == window;
+    return root && fx::IsSameHandle(::GetWindow(root, GW_OWNER), window);
 }
 
 /// Whether a sent message ends the chain.

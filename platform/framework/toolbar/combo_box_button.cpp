@@ -3,6 +3,7 @@
 
 #include "afxtoolbar.h"
 #include "afxvisualmanager.h"
+#include "fx/handle_bits.h"
 #include "toolbar/combo_face.h"
 #include "toolbar/field_look.h"
 #include "toolbar/hosted_control.h"
@@ -53,7 +54,8 @@ CComboBox* CMFCToolBarComboBoxButton::CreateCombo(CWnd* pWndParent, const CRect&
 }
 
 void CMFCToolBarComboBoxButton::OnChangeParentWnd(CWnd* pWndParent) {
-    const bool isSame = m_pWndCombo && pWndParent && ::GetParent(m_pWndCombo->m_hWnd) == pWndParent->GetSafeHwnd();
+    const bool isSame =
+        m_pWndCombo && pWndParent && fx::IsSameHandle(::GetParent(m_pWndCombo->m_hWnd), pWndParent->GetSafeHwnd());
     CMFCToolBarButton::OnChangeParentWnd(pWndParent);
     if (isSame) {
         return;

@@ -3,6 +3,7 @@
 
 #include "afxtoolbar.h"
 #include "afxvisualmanager.h"
+#include "fx/handle_bits.h"
 #include "toolbar/buttons_of.h"
 #include "toolbar/field_look.h"
 #include "toolbar/hosted_control.h"
@@ -112,7 +113,8 @@ CEdit* CMFCToolBarEditBoxButton::CreateEdit(CWnd* pWndParent, const CRect& rect)
 }
 
 void CMFCToolBarEditBoxButton::OnChangeParentWnd(CWnd* pWndParent) {
-    const bool isSame = m_pWndEdit && pWndParent && ::GetParent(m_pWndEdit->m_hWnd) == pWndParent->GetSafeHwnd();
+    const bool isSame =
+        m_pWndEdit && pWndParent && fx::IsSameHandle(::GetParent(m_pWndEdit->m_hWnd), pWndParent->GetSafeHwnd());
     CMFCToolBarButton::OnChangeParentWnd(pWndParent);
     if (isSame) {
         return;

@@ -1,4 +1,5 @@
 #include "afxdlgs.h"
+#include "fx/handle_bits.h"
 
 #include <algorithm>
 #include <iterator>
@@ -172,7 +173,7 @@ BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) { return CWnd::PreTranslateMe
 BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     const auto& header = *reinterpret_cast<const NMHDR*>(lParam);
     const PageNotification* const known =
-        header.hwndFrom == ::GetParent(m_hWnd) ? PageNotification::Find(header.code) : nullptr;
+        fx::IsSameHandle(header.hwndFrom, ::GetParent(m_hWnd)) ? PageNotification::Find(header.code) : nullptr;
     if (known == nullptr) {
         return CDialog::OnNotify(wParam, lParam, pResult);
     }

@@ -32,6 +32,21 @@ protected:
     const HANDLE m_handle = reinterpret_cast<HANDLE>(0x1234);
 };
 
+// Windows made late in a long run of the system have such numbers, and functions of the system disagree about them.
+TEST_F(HandleMap, AHandleIsTheSameWithAndWithoutItsSign) {
+    const HANDLE withSign = reinterpret_cast<HANDLE>(0xFFFFFFFF8001003C);
+    const HANDLE withoutSign = reinterpret_cast<HANDLE>(0x000000008001003C);
+    CHandled object;
+    m_map.SetPermanent(withSign, &object);
+    EXPECT_EQ(m_map.LookupPermanent(withoutSign), &object);
+    EXPECT_EQ(m_map.FromHandle(withoutSign, RUNTIME_CLASS(CHandled)), &object);
+    m_map.RemovePermanent(withoutSign, &object);
+    EXPECT_EQ(m_map.LookupPermanent(withSign), nullptr);
+    CHandled* const temporary = m_map.FromHandle(withoutSign, RUNTIME_CLASS(CHandled));
+    EXPECT_EQ(m_map.LookupTemporary(withSign), temporary);
+    EXPECT_EQ(m_map.TemporaryCount(), 1U);
+}
+
 TEST_F(HandleMap, AUnknownHandleGetsOneTemporaryObject) {
     CHandled* const object = m_map.FromHandle(m_handle, RUNTIME_CLASS(CHandled));
     ASSERT_NE(object, nullptr);

@@ -2,6 +2,7 @@
 
 // CHandleMap: finds the framework object of a Windows handle, on the calling thread.
 
+#include "fx/handle_bits.h"
 #include "fx/object.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@
 /// Permanent entries belong to objects that own their handle and unregister it. For any other handle a temporary object
 /// is made on request; it owns nothing of the handle and lives until it is deleted at idle. Idle time may come while a
 /// handler that asked for it still runs a modal loop: so each knows at which depth of nested handlers it was asked for.
-/// One map serves one thread. Object needs a run-time class.
+/// One map serves one thread. Object needs a run-time class. Handles are compared as fx::IsSameHandle does.
 template <class Object, class Handle>
 class CHandleMap {
 public:
@@ -34,6 +35,7 @@ public:
         if (handle == nullptr) {
             return nullptr;
         }
+        handle = fx::CanonicalHandle(handle);
         if (Object* const permanent = LookupPermanent(handle); permanent != nullptr && permanent->IsKindOf(kind)) {
             return permanent;
         }
@@ -52,17 +54,17 @@ public:
         return temporary.object.get();
     }
     Object* LookupPermanent(Handle handle) const {
-        const auto found = m_permanent.find(handle);
+        const auto found = m_permanent.find(fx::CanonicalHandle(handle));
         return found == m_permanent.end() ? nullptr : found->second;
     }
     Object* LookupTemporary(Handle handle) const {
-        const auto found = m_temporary.find(handle);
+        const auto found = m_temporary.find(fx::CanonicalHandle(handle));
         return found == m_temporary.end() ? nullptr : found->second.object.get();
     }
-    void SetPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
+    void SetPermanent(Handle handle, Object* object) { m_permanent[fx::CanonicalHandle(handle)] = object; }
     /// Leaves an entry alone that another object has taken over meanwhile.
     void RemovePermanent(Handle handle, const Object* object) {
-        const auto found = m_permanent.find(handle);
+        const auto found = m_permanent.find(fx::CanonicalHandle(handle));
         if (found != m_permanent.end() && found->second == object) {
             m_permanent.erase(found);
         }
