@@ -139,7 +139,10 @@ void CMFCRibbonBarEx::OnPaneContextMenu(CWnd* pParentFrame, CPoint point) {
     DeactivateKeyboardFocus(FALSE);
     CPoint client = point;
     ScreenToClient(&client);
-    if (HitTest(client, TRUE, TRUE) == nullptr && client.y >= 0 && client.y < GetCaptionHeight()) {
+    CRect caption;
+    GetClientRect(caption);
+    caption.bottom = GetCaptionHeight();
+    if (HitTest(client, TRUE, TRUE) == nullptr && caption.PtInRect(client)) {
         return;
     }
     CMFCRibbonBar2::OnPaneContextMenu(pParentFrame, point);
