@@ -88,7 +88,7 @@ void CQKVisualManagerOffice2007Black::DrawMenuSeparator(CDC* dc, CMFCPopupMenuBa
     bar->GetClientRect(&client);
     const CRect line = skins::MenuSeparatorRect(
         {rect, static_cast<int>(client.right), static_cast<int>(bar->GetCurrentMenuImageSize().cx),
-         GetMenuImageMargin(), !bar->m_bDisableSideBarInXPMode,
+         GetMenuImageMargin(), !bar->m_bDisableSideBarInXPMode && !bar->IsDropDownListMode(),
          DYNAMIC_DOWNCAST(CMFCPopupMenu, bar->GetParent()) != nullptr, afxGlobalData.GetRibbonImageScale()});
     CPen pen(PS_SOLID, 1, m_clrMenuSeparator);
     CPen* const formerPen = dc->SelectObject(&pen);

@@ -8,6 +8,7 @@
 #include <afxribbonstatusbar.h>
 #include <afxtoolbar.h>
 #include <afxtoolbarmenubutton.h>
+#include <fx/popup_rows.h>
 #include <fx/scoped_change.h>
 
 namespace {
@@ -253,6 +254,27 @@ TEST_F(SkinRules, AMenuWithoutColumnOfImagesHasSeparatorsFromItsEdge) {
     ASSERT_TRUE(bar.Create(&m_frame));
     bar.MoveWindow(0, 0, 120, 100);
     bar.m_bDisableSideBarInXPMode = TRUE;
+    Canvas canvas(CSize(120, 40));
+    skin.OnDrawSeparator(canvas.Dc(), &bar, CRect(30, 10, 100, 22), FALSE);
+    EXPECT_EQ(canvas.BoundsOf(Pixel(kMenuSeparator)).left, 0);
+}
+
+TEST_F(SkinRules, ADropListHasNoColumnOfImagesBesideItsSeparators) {
+    struct NoRows final : toolbar::PopupRows {
+        int GetRowCount() const override { return 0; }
+        CString GetRowText(int) const override { return {}; }
+        int MeasureRows(CDC&) override { return 0; }
+        int MeasureRow(CDC&, int) override { return 0; }
+        BOOL DrawRow(CDC&, int, CMFCToolBarMenuButton&, BOOL) override { return FALSE; }
+        void ChooseRow(int) override {}
+        BOOL ToggleRow(int) override { return FALSE; }
+    };
+    NoRows rows;
+    auto& skin = Use<OpenBlackSkin>();
+    CMFCPopupMenuBar bar;
+    ASSERT_TRUE(bar.Create(&m_frame));
+    bar.MoveWindow(0, 0, 120, 100);
+    bar.SetRows(&rows);
     Canvas canvas(CSize(120, 40));
     skin.OnDrawSeparator(canvas.Dc(), &bar, CRect(30, 10, 100, 22), FALSE);
     EXPECT_EQ(canvas.BoundsOf(Pixel(kMenuSeparator)).left, 0);
