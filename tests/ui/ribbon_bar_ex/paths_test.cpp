@@ -74,11 +74,11 @@ TEST_F(RibbonPaths, AnUnknownNameLeavesTheCategoriesAsTheyWere) {
     EXPECT_EQ(Bar().Path(), L"browse");
 }
 
-TEST_F(RibbonPaths, AnUnknownNameStillRecordsTheActiveCategoryOfThePathThatIsShown) {
+TEST_F(RibbonPaths, AfterAnUnknownNameTheActiveCategoryIsStillRemembered) {
     Bar().ShowPath(L"browse");
     Activate(1);
     EXPECT_FALSE(Bar().ShowPath(L"unknown"));
-    // Left behind the bar's back: what the failed call recorded is all there is.
+    // Left behind the bar's back.
     Bar().RemoveCategory(5);
     Activate(1);
     Bar().ShowPath(L"edit");
