@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kSteps = 3000;
+constexpr int kSteps = 10000;
 constexpr UINT kSides[] = {AFX_IDW_DOCKBAR_TOP, AFX_IDW_DOCKBAR_BOTTOM, AFX_IDW_DOCKBAR_LEFT, AFX_IDW_DOCKBAR_RIGHT};
 
 class RandomDockingTest : public DockingTest {

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kSteps = 2000;
+constexpr int kSteps = 10000;
 constexpr UINT kCombo = 3900;
 constexpr UINT kSides[] = {AFX_IDW_DOCKBAR_TOP, AFX_IDW_DOCKBAR_BOTTOM, AFX_IDW_DOCKBAR_LEFT, AFX_IDW_DOCKBAR_RIGHT};
 
