@@ -31,6 +31,28 @@ class WrittenFromTheRight(unittest.TestCase):
             self.assertGreater(min(pane["list"][0], pane["list"][2]), max(pane["map"][0], pane["map"][2]) - 1)
             self.assertEqual(record["frame"]["ribbon"]["categories"][0]["name"], "מפה")
 
+    def test_a_bar_at_the_side_shows_itself_when_the_row_above_goes(self):
+        """The pixels that a moved window takes along are its own."""
+        def grip(viewer, index):
+            left, top, right, bottom = viewer.record["toolbarsOnScreen"][index][0]
+            return right + 6, (top + bottom) // 2
+
+        def strip(viewer):
+            look = self.settled(viewer)
+            places = viewer.record["toolbarsOnScreen"][0]
+            return look.crop((places[0][0], places[0][1], places[-1][2], places[-1][3]))
+
+        with Viewer(BIN_DIR, "--lang", "he", "--skin", "silver", "--bars", "classic") as viewer:
+            first = viewer.record["toolbarsOnScreen"]
+            status = viewer.record["statusOnScreen"]
+            for index, target in ((0, (12, 420)), (1, (700, status[1] - 8)), (2, (700, 420))):
+                viewer.drag(*grip(viewer, index), *target)
+                viewer.hover(640, 300)
+                viewer.wait_for(lambda record: record["toolbarsOnScreen"][index] != first[index])
+                if index == 1:
+                    before = strip(viewer)
+            self.assertIsNone(ImageChops.difference(strip(viewer), before).getbbox())
+
     def test_the_map_is_not_turned_round(self):
         """West stays left: a drag to the left shows what lies in the east."""
         with Viewer(BIN_DIR, "--lang", "he") as viewer:

@@ -9,6 +9,7 @@
 #include "panes/dock_rows.h"
 #include "panes/pane_menu.h"
 #include "window/bar_place.h"
+#include "window/moving_flags.h"
 
 #include <utility>
 
@@ -251,7 +252,7 @@ HDWP CBasePane::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, 
 }
 
 HDWP CBasePane::MoveWindow(CRect& rect, BOOL bRepaint, HDWP hdwp) {
-    const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | (bRepaint ? 0u : SWP_NOREDRAW);
+    const UINT flags = fx::MovingFlags(m_hWnd) | (bRepaint ? 0u : SWP_NOREDRAW);
     return SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(), flags, hdwp);
 }
 

@@ -2,6 +2,7 @@
 
 #include "afxbasepane.h"
 #include "afxPaneFrameWnd.h"
+#include "window/moving_flags.h"
 
 namespace panes {
 
@@ -59,13 +60,13 @@ HDWP DeferMove(HDWP deferred, HWND window, const RECT& place) {
     if (::EqualRect(&now, &place)) {
         return deferred;
     }
+    const CSize size(place.right - place.left, place.bottom - place.top);
+    const UINT flags = fx::MovingFlags(window);
     const HDWP next = deferred
-                          ? ::DeferWindowPos(deferred, window, nullptr, place.left, place.top, place.right - place.left,
-                                             place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE)
+                          ? ::DeferWindowPos(deferred, window, nullptr, place.left, place.top, size.cx, size.cy, flags)
                           : nullptr;
     if (!next) {
-        ::SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                       SWP_NOZORDER | SWP_NOACTIVATE);
+        ::SetWindowPos(window, nullptr, place.left, place.top, size.cx, size.cy, flags);
     }
     return next;
 }

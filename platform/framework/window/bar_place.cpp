@@ -2,6 +2,7 @@
 
 #include "afxwin.h"
 #include "window/bar_strip.h"
+#include "window/moving_flags.h"
 
 namespace frame_bars {
 
@@ -17,7 +18,7 @@ void TakePlaceInFrame(const CWnd& bar, DWORD style, CSize size, AFX_SIZEPARENTPA
     (isHorizontal ? place.sizeTotal.cy : place.sizeTotal.cx) += thickness;
     if (place.hDWP != nullptr) {
         place.hDWP = ::DeferWindowPos(place.hDWP, bar.m_hWnd, nullptr, strip.left, strip.top, strip.right - strip.left,
-                                      strip.bottom - strip.top, SWP_NOZORDER | SWP_NOACTIVATE);
+                                      strip.bottom - strip.top, fx::MovingFlags(bar.m_hWnd));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "fx/app.h"
 #include "fx/frame.h"
 #include "fx/wnd.h"
+#include "window/moving_flags.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ RECT WorkArea(HWND window) {
 }
 
 void MovePart(AFX_SIZEPARENTPARAMS* layout, HWND window, const RECT& rect) {
-    const UINT flags = SWP_NOACTIVATE | SWP_NOZORDER;
+    const UINT flags = fx::MovingFlags(window);
     const int width = rect.right - rect.left;
     const int height = rect.bottom - rect.top;
     if (layout->hDWP != nullptr) {
