@@ -7,6 +7,8 @@
 #include <afxcommandmanager.h>
 #include <afxtoolbar.h>
 
+#include <varnhold/file_op.h>
+
 #include <stdexcept>
 
 namespace {
@@ -24,6 +26,13 @@ TEST_F(MenuBuilder, BeforeTheFirstLoadThereIsNoMenuAndNoShortcut) {
     EXPECT_EQ(m_creater.m_nAccelCount, 0);
     EXPECT_TRUE(m_creater.m_strPath.empty());
     EXPECT_TRUE(m_creater.m_vecCmd.empty());
+}
+
+TEST_F(MenuBuilder, AnUnknownInstallationDirectoryLoadsNothingAndShowsNoMessage) {
+    ASSERT_TRUE(Load("<i KEYWORD='A'/>"));
+    const ScopedAppPath unknown([](std::wstring&) { return false; });
+    EXPECT_FALSE(m_creater.Load(L"menu.xml"));
+    EXPECT_TRUE(m_messages.empty());
 }
 
 TEST_F(MenuBuilder, GetMenuIsTheObjectItself) {
@@ -93,6 +102,17 @@ TEST_F(MenuBuilder, SeparatorAddsAnEmptyCommandTextWhateverStandsBeforeItsName) 
     EXPECT_FALSE(CMenuIdMgr::Ins()->GetMenuId(L"S", id));
 }
 
+TEST_F(MenuBuilder, PopupIsRegisteredWithItsTextsAsAnItemIs) {
+    ASSERT_TRUE(m_installation.Translate("P"));
+    ASSERT_TRUE(Load("<g><p KEYWORD='P' MENUNAME='' TOOLTIP='' Param='7'><i KEYWORD='A'/></p></g>"));
+    std::wstring name;
+    std::wstring tip;
+    std::wstring param;
+    EXPECT_TRUE(CMenuIdMgr::Ins()->GetMenuName(L"P", name) && CMenuIdMgr::Ins()->GetToolTip(0, tip) &&
+                CMenuIdMgr::Ins()->GetCmdParam(0, param));
+    EXPECT_EQ(name + L"|" + tip + L"|" + param, L"<P>|tip of <P>|7");
+}
+
 TEST_F(MenuBuilder, PopupTakesARegisteredKeywordToIdZero) {
     CMenuIdMgr::Ins()->Add(L"P", 12345, L"n", L"", L"", L"", L"");
     ASSERT_TRUE(Load("<g><p KEYWORD='P' MENUNAME=''><i KEYWORD='A'/></p></g>"));
@@ -128,6 +148,12 @@ TEST_F(MenuBuilder, RecentFilePlaceholderGetsTheFrameworksIdAndTakesNone) {
     EXPECT_EQ(Outline(), L"<QK_DEF_ZJWJ>#recent <A>#0");
     int id = 0;
     EXPECT_FALSE(CMenuIdMgr::Ins()->GetMenuId(L"QK_DEF_ZJWJ", id));
+    EXPECT_EQ(::GetMenuItemID(m_creater.m_hMenu, 0), 57616u);
+}
+
+TEST_F(MenuBuilder, RecentFilePlaceholderIsNotLookedUp) {
+    CMenuIdMgr::Ins()->Add(L"QK_DEF_ZJWJ", 12345, L"n", L"", L"", L"", L"");
+    ASSERT_TRUE(Load("<i KEYWORD='QK_DEF_ZJWJ' MENUNAME=''/>"));
     EXPECT_EQ(::GetMenuItemID(m_creater.m_hMenu, 0), 57616u);
 }
 

@@ -29,7 +29,26 @@ TEST_F(ToolBarBuilder, ABarOfTheHostsJoinsAGroupThatExistsAndIsConfiguredInAnyCa
     EXPECT_EQ(creater.GetAllToolBar().size(), 1u);
     EXPECT_TRUE(creater.AddCustomBar(L"G", &own, L""));
     EXPECT_EQ(creater.GetToolBar(L"G", L"own"), &own);
+    EXPECT_EQ(creater.GetName(&own), L"Own") << "the window's text, where no name is given";
     own.DestroyWindow();
+}
+
+TEST_F(ToolBarBuilder, ABarOfTheHostsHasTheGivenName) {
+    ASSERT_TRUE(Load("<g KEYWORD='G'><b PROMPT='1'/></g>"));
+    CMFCToolBar own;
+    ASSERT_TRUE(own.Create(&frame));
+    own.SetWindowText(L"Own");
+    EXPECT_TRUE(creater.AddCustomBar(L"G", &own, L"given"));
+    EXPECT_EQ(creater.GetName(&own), L"given");
+    own.DestroyWindow();
+}
+
+TEST_F(ToolBarBuilder, AnUnknownInstallationDirectoryLoadsNothing) {
+    ASSERT_TRUE(Load("<g KEYWORD='G'><b PROMPT='1'/></g>"));
+    CDynToolBarCreater other;
+    const ScopedAppPath unknown([](std::wstring&) { return false; });
+    EXPECT_FALSE(other.Load(L"toolbar.xml", &frame));
+    EXPECT_TRUE(other.empty());
 }
 
 TEST_F(ToolBarBuilder, BarsAreDockedShownAndHiddenByGroup) {
