@@ -3,6 +3,7 @@ import os
 import xml.etree.ElementTree as xml
 
 F1_HINT = "按F1键获得此功能视频"
+RECENT_FILES = "QK_DEF_ZJWJ"  # takes no id
 FIRST_ID = 41000
 # Of the lists of each kind of combo; None: the framework's own.
 COMBO_HEIGHTS = {"QKRIBBONCHECKCOMB": 560, "QKRIBBONMULTICOMB": 560, "QKRIBBONMULTICOMB2": None}
@@ -79,9 +80,9 @@ class Expectation:
         """A menu behind the ribbon: its items take ids for the keywords that are new."""
         for item in xml.parse(menu_file).getroot().iter("item"):
             keyword = item.get("KEYWORD")
-            if keyword and item.get("CMD") and keyword not in self.registry:
+            if keyword and keyword != RECENT_FILES and keyword not in self.registry:
                 self.registry[keyword] = {"id": self.next_id, "keyword": keyword, "name": self._texts.get(keyword, keyword),
-                                          "tooltip": self._texts.get(keyword + ".tooltip", ""), "cmd": item.get("CMD"),
+                                          "tooltip": self._texts.get(keyword + ".tooltip", ""), "cmd": item.get("CMD", ""),
                                           "param": item.get("Param", ""), "help": ""}
                 self.next_id += 1
 
