@@ -79,6 +79,35 @@ TEST_F(DisabledIcon, IsDrawnInThePlaceOfTheImage) {
     EXPECT_EQ(with.back(), without.back());
 }
 
+TEST_F(DisabledIcon, IsDrawnInTheDisabledStyleOfImageLists) {
+    CMFCToolBarButtonDisIco::SetDisabledIcon(kId, Red());
+    const std::vector<std::uint32_t> got = Draw<CMFCToolBarButtonDisIco>(TBBS_DISABLED);
+    CMFCToolBarImages list;
+    list.SetImageSize(CSize(kSide, kSide));
+    const HICON icon = Red();
+    list.AddIcon(icon, TRUE);
+    ::DestroyIcon(icon);
+    Canvas canvas;
+    CAfxDrawState state;
+    ASSERT_TRUE(list.PrepareDrawImage(state));
+    constexpr int kCorner = (kButton - kSide) / 2;
+    ASSERT_TRUE(list.Draw(canvas.Dc(), kCorner, kCorner, 0, FALSE, TRUE, TRUE, TRUE));
+    list.EndDrawImage(state);
+    EXPECT_EQ(Middle(got), canvas.At(kButton / 2, kButton / 2));
+    canvas.Dc()->FillSolidRect(0, 0, 1, 1, RGB(200, 0, 0));
+    EXPECT_NE(Middle(got), canvas.At(0, 0));
+}
+
+TEST_F(DisabledIcon, OfAnotherSizeIsDrawnInTheSizeOfTheBarsImages) {
+    CMFCToolBarButtonDisIco::SetDisabledIcon(
+        kId, MakeIcon(2 * kSide, RGB(200, 0, 0), [](int x, int) { return x >= kSide; }));
+    const std::vector<std::uint32_t> got = Draw<CMFCToolBarButtonDisIco>(TBBS_DISABLED);
+    const auto at = [&got](int x) { return got[static_cast<std::size_t>(kButton / 2 * kButton + x)]; };
+    EXPECT_EQ(at(kButton / 2 - 3), at(0)) << "its left half is clear";
+    EXPECT_NE(at(kButton / 2 + 3), at(0));
+    EXPECT_EQ(at(kButton - 1), at(0)) << "it stays within the image's place";
+}
+
 TEST_F(DisabledIcon, ButtonThatIsEnabledKeepsItsImage) {
     const std::vector<std::uint32_t> without = Draw<CMFCToolBarButtonDisIco>(TBBS_BUTTON);
     CMFCToolBarButtonDisIco::SetDisabledIcon(kId, Red());
