@@ -120,15 +120,24 @@ LRESULT Leave(HWND window, SUBCLASSPROC procedure, WPARAM wParam, LPARAM lParam,
     return ::DefSubclassProc(window, WM_NCDESTROY, wParam, lParam);
 }
 
-CString TextOf(HWND window) {
-    CString text;
-    const int length = ::GetWindowTextLengthW(window);
-    ::GetWindowTextW(window, text.GetBuffer(length + 1), length + 1);
-    text.ReleaseBuffer();
-    return text;
+/// What a control does that is painted by `paint` in the system's place, which draws its own when something has
+/// changed.
+template <class Paint>
+LRESULT PaintInstead(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool (*changes)(UINT), Paint paint) {
+    if (message == WM_ERASEBKGND) {
+        return TRUE;
+    }
+    if (message == WM_PAINT) {
+        CPaintDC dc(CWnd::FromHandle(window));
+        paint(dc);
+        return 0;
+    }
+    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
+    if (changes(message) && ::IsWindow(window)) {
+        ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    }
+    return result;
 }
-
-bool HidesCue(HWND window, UINT cue) { return (::SendMessageW(window, WM_QUERYUISTATE, 0, 0) & cue) != 0; }
 
 void DrawFocus(CDC& dc, HWND window, CRect rect) {
     if (::GetFocus() == window && !HidesCue(window, UISF_HIDEFOCUS)) {
@@ -138,7 +147,7 @@ void DrawFocus(CDC& dc, HWND window, CRect rect) {
 }
 
 void DrawLabel(CDC& dc, HWND window, const CString& text, CRect rect, COLORREF color) {
-    const fx::DcSelection font(dc.m_hDC, reinterpret_cast<HGDIOBJ>(::SendMessageW(window, WM_GETFONT, 0, 0)));
+    const fx::DcSelection font(dc.m_hDC, FontOf(window));
     const fx::TextColour colour(dc, color);
     const UINT prefix = HidesCue(window, UISF_HIDEACCEL) ? DT_HIDEPREFIX : 0u;
     dc.DrawText(text, rect, DT_SINGLELINE | DT_CENTER | DT_VCENTER | prefix);
@@ -172,19 +181,8 @@ LRESULT CALLBACK ButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     if (look == nullptr) {
         return ::DefSubclassProc(window, message, wParam, lParam);
     }
-    if (message == WM_ERASEBKGND) {
-        return TRUE;
-    }
-    if (message == WM_PAINT) {
-        CPaintDC dc(CWnd::FromHandle(window));
-        PaintButton(window, dc, *look);
-        return 0;
-    }
-    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    if (ChangesButton(message) && ::IsWindow(window)) {
-        ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); // the system has drawn its own
-    }
-    return result;
+    return PaintInstead(window, message, wParam, lParam, &ChangesButton,
+                        [&](CDC& dc) { PaintButton(window, dc, *look); });
 }
 
 // ---- boxes to be checked
@@ -201,19 +199,7 @@ LRESULT CALLBACK BoxProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam
     if (LookOf(data) == nullptr && !RunsFromTheRight(window)) {
         return ::DefSubclassProc(window, message, wParam, lParam);
     }
-    if (message == WM_ERASEBKGND) {
-        return TRUE;
-    }
-    if (message == WM_PAINT) {
-        CPaintDC dc(CWnd::FromHandle(window));
-        PaintBox(window, dc);
-        return 0;
-    }
-    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    if (ChangesButton(message) && ::IsWindow(window)) {
-        ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); // the system has drawn its own
-    }
-    return result;
+    return PaintInstead(window, message, wParam, lParam, &ChangesButton, [&](CDC& dc) { PaintBox(window, dc); });
 }
 
 // ---- lists and fields
@@ -245,19 +231,8 @@ LRESULT CALLBACK DropListProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     if (look == nullptr) {
         return ::DefSubclassProc(window, message, wParam, lParam);
     }
-    if (message == WM_ERASEBKGND) {
-        return TRUE;
-    }
-    if (message == WM_PAINT) {
-        CPaintDC dc(CWnd::FromHandle(window));
-        PaintDropList(window, dc, look->OfFields());
-        return 0;
-    }
-    const LRESULT result = ::DefSubclassProc(window, message, wParam, lParam);
-    if (ChangesCombo(message) && ::IsWindow(window)) {
-        ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); // the system has drawn its own
-    }
-    return result;
+    return PaintInstead(window, message, wParam, lParam, &ChangesCombo,
+                        [&](CDC& dc) { PaintDropList(window, dc, look->OfFields()); });
 }
 
 /// Whether the list view's rows are painted here: the system has one bright ground for a selected row without the

@@ -17,18 +17,6 @@ constexpr int kTextMargin = 3;
 constexpr int kUsualSide = 13;
 constexpr int kChevronSide = 16;
 
-bool HidesCue(HWND window, UINT cue) { return (::SendMessageW(window, WM_QUERYUISTATE, 0, 0) & cue) != 0; }
-
-HGDIOBJ FontOf(HWND window) { return reinterpret_cast<HGDIOBJ>(::SendMessageW(window, WM_GETFONT, 0, 0)); }
-
-CString TextOf(HWND window) {
-    CString text;
-    const int length = ::GetWindowTextLengthW(window);
-    ::GetWindowTextW(window, text.GetBuffer(length + 1), length + 1);
-    text.ReleaseBuffer();
-    return text;
-}
-
 void PaintFocusOn(CDC& dc, const CRect& rect) {
     visual::PaintFocus(dc, rect, visual::FromColorRef(dc.GetPixel(rect.TopLeft())), visual::CurrentLook());
 }
@@ -56,6 +44,16 @@ int BoxSide(const CDC& dc) {
 CRect BoxAt(int left, int middle, int side) { return CRect(CPoint(left, middle - side / 2), CSize(side, side)); }
 
 } // namespace
+
+bool HidesCue(HWND window, UINT cue) { return (::SendMessageW(window, WM_QUERYUISTATE, 0, 0) & cue) != 0; }
+
+HGDIOBJ FontOf(HWND window) { return reinterpret_cast<HGDIOBJ>(::SendMessageW(window, WM_GETFONT, 0, 0)); }
+
+CString TextOf(HWND window) {
+    CString text;
+    CWnd::FromHandle(window)->GetWindowText(text);
+    return text;
+}
 
 bool RunsFromTheRight(HWND window) { return (::GetWindowLongW(window, GWL_EXSTYLE) & WS_EX_LAYOUTRTL) != 0; }
 

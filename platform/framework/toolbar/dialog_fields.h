@@ -15,6 +15,12 @@ struct FieldColors {
     COLORREF border;
 };
 
+/// Whether the keyboard cue (UISF_HIDEFOCUS, UISF_HIDEACCEL) is not to be seen.
+bool HidesCue(HWND window, UINT cue);
+/// The control's; null: the system's.
+HGDIOBJ FontOf(HWND window);
+CString TextOf(HWND window);
+
 /// A window that runs from the right. The system mirrors the marks in it, a tick among them.
 bool RunsFromTheRight(HWND window);
 

@@ -14,10 +14,8 @@
 namespace {
 
 CString TextOf(HWND control) {
-    const int length = ::GetWindowTextLengthW(control);
     CString text;
-    ::GetWindowTextW(control, text.GetBuffer(length + 1), length + 1);
-    text.ReleaseBuffer();
+    CWnd::FromHandle(control)->GetWindowText(text);
     return text;
 }
 
