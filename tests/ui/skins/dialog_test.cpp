@@ -65,13 +65,6 @@ constexpr int kFirstOption = 1001;
 
 class SkinDialog : public SkinTest {
 protected:
-    static void UseSkin(bool isBlack) {
-        if (isBlack) {
-            Use<OpenBlackSkin>();
-        } else {
-            Use<OpenSilverSkin>();
-        }
-    }
     ~SkinDialog() override {
         if (::IsWindow(m_dialogWindow)) {
             ::SendMessageW(m_dialogWindow, WM_CLOSE, 0, 0);

@@ -47,6 +47,13 @@ protected:
         CMFCVisualManager::SetDefaultManager(RUNTIME_CLASS(Skin));
         return static_cast<Skin&>(*CMFCVisualManager::GetInstance());
     }
+    static void UseSkin(bool isBlack) {
+        if (isBlack) {
+            Use<OpenBlackSkin>();
+        } else {
+            Use<OpenSilverSkin>();
+        }
+    }
 };
 
 /// 0x00RRGGBB, as a canvas has it.

@@ -129,13 +129,6 @@ const Standing kStandings[] = {
 
 class SkinSwitching : public SkinTest {
 protected:
-    static void UseSkin(bool isBlack) {
-        if (isBlack) {
-            Use<OpenBlackSkin>();
-        } else {
-            Use<OpenSilverSkin>();
-        }
-    }
     static WindowPicture FreshPicture(bool isBlack, const Standing& standing) {
         UseSkin(isBlack);
         FullFrame frame;

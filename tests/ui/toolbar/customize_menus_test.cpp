@@ -51,17 +51,7 @@ protected:
     CPoint OnTab(LPCTSTR text) {
         CTabCtrl& tabs = *m_dialog->GetTabControl();
         CRect rect(0, 0, 0, 0);
-        for (int index = 0; index < tabs.GetItemCount(); ++index) {
-            wchar_t name[100] = {};
-            TCITEMW item{};
-            item.mask = TCIF_TEXT;
-            item.pszText = name;
-            item.cchTextMax = 100;
-            tabs.GetItem(index, &item);
-            if (CString(name) == text) {
-                tabs.GetItemRect(index, &rect);
-            }
-        }
+        tabs.GetItemRect(FindTab(text), &rect);
         tabs.ClientToScreen(&rect);
         return rect.CenterPoint();
     }

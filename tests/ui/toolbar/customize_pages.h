@@ -23,9 +23,9 @@ protected:
         PumpPending();
     }
     bool IsOpen() const { return ::IsWindow(m_dialogWindow) != FALSE; }
-    /// The page under that tab. False: there is none.
-    bool GoTo(LPCTSTR tab) {
-        CTabCtrl& tabs = *m_dialog->GetTabControl();
+    /// -1: there is no such tab.
+    int FindTab(LPCTSTR tab) const {
+        const CTabCtrl& tabs = *m_dialog->GetTabControl();
         for (int index = 0; index < tabs.GetItemCount(); ++index) {
             wchar_t text[100] = {};
             TCITEMW item{};
@@ -34,12 +34,17 @@ protected:
             item.cchTextMax = 100;
             tabs.GetItem(index, &item);
             if (CString(text) == tab) {
-                const BOOL isInFront = m_dialog->SetActivePage(index);
-                PumpPending();
-                return isInFront != FALSE;
+                return index;
             }
         }
-        return false;
+        return -1;
+    }
+    /// The page under that tab. False: there is none.
+    bool GoTo(LPCTSTR tab) {
+        const int index = FindTab(tab);
+        const BOOL isInFront = index >= 0 && m_dialog->SetActivePage(index);
+        PumpPending();
+        return isInFront != FALSE;
     }
     HWND Item(int id) const { return ::GetDlgItem(m_dialog->GetActivePage()->m_hWnd, id); }
     bool IsEnabled(int id) const { return ::IsWindowEnabled(Item(id)) != FALSE; }
