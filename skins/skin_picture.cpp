@@ -61,7 +61,7 @@ std::unique_ptr<Gdiplus::Bitmap> CopyPixels(Gdiplus::Bitmap& source) {
 
 std::unique_ptr<Gdiplus::Bitmap> Decode(const std::wstring& path) {
     const std::vector<BYTE> bytes = ReadBytes(path);
-    if (bytes.empty() || ClaimsTooMuch(bytes) || !fx::StartGdiPlus()) {
+    if (!tovasque::IsWholePng(bytes) || ClaimsTooMuch(bytes) || !fx::StartGdiPlus()) {
         return nullptr;
     }
     IStream* const stream = ::SHCreateMemStream(bytes.data(), static_cast<UINT>(bytes.size()));
@@ -84,30 +84,16 @@ std::unique_ptr<Gdiplus::Bitmap> Decode(const std::wstring& path) {
 
 std::size_t SkinPicture::s_decodeCount = 0;
 
-SkinPicture::Stamp SkinPicture::StampOf(const std::wstring& path) {
-    WIN32_FILE_ATTRIBUTE_DATA data = {};
-    if (!::GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data) ||
-        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-        return {};
-    }
-    return {data.ftLastWriteTime, data.nFileSizeHigh, data.nFileSizeLow, true};
-}
-
-bool SkinPicture::IsSame(const Stamp& one, const Stamp& other) {
-    return one.isFile == other.isFile && one.sizeHigh == other.sizeHigh && one.sizeLow == other.sizeLow &&
-           ::CompareFileTime(&one.written, &other.written) == 0;
-}
-
 bool SkinPicture::Take(const std::wstring& path) {
-    const Stamp stamp = StampOf(path);
-    if (m_isTaken && path == m_path && IsSame(stamp, m_stamp)) {
+    const varnhold::FileStamp stamp = varnhold::StampOf(path);
+    if (m_isTaken && path == m_path && stamp == m_stamp) {
         return false;
     }
     m_path = path;
     m_stamp = stamp;
-    m_isTaken = true;
+    m_isTaken = varnhold::IsSettled(stamp);
     m_bitmap.reset();
-    if (stamp.isFile) {
+    if (stamp.IsFile()) {
         ++s_decodeCount;
         m_bitmap = Decode(path);
     }

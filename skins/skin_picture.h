@@ -6,6 +6,8 @@
 
 #include <gdiplus.h>
 
+#include <varnhold/file_stamp.h>
+
 #include <memory>
 #include <string>
 
@@ -15,7 +17,8 @@ public:
     /// A picture with a longer side is not loaded: it would take gigabytes, and no bar is so long.
     static constexpr UINT kLongestSide = 4096;
 
-    /// Takes the file. Nothing is read when it was the one before and has not changed since. True when it was read, or
+    /// Takes the file. Nothing is read when it was the one before and has not changed since; one that was written a
+    /// moment before it was read is read again, for its stamp does not tell. True when it was read, or
     /// could not be and is gone: what was made of the earlier picture is out of date.
     bool Take(const std::wstring& path);
 
@@ -26,20 +29,11 @@ public:
     static std::size_t GetDecodeCount() { return s_decodeCount; }
 
 private:
-    struct Stamp {
-        FILETIME written = {};
-        DWORD sizeHigh = 0;
-        DWORD sizeLow = 0;
-        bool isFile = false;
-    };
-    static Stamp StampOf(const std::wstring& path);
-    static bool IsSame(const Stamp& one, const Stamp& other);
-
     // User-interface thread only.
     static std::size_t s_decodeCount;
 
     std::wstring m_path;
-    Stamp m_stamp;
-    bool m_isTaken = false;
+    varnhold::FileStamp m_stamp;
+    bool m_isTaken = false; ///< ... and what was taken stands for the file as long as its stamp does
     std::unique_ptr<Gdiplus::Bitmap> m_bitmap;
 };

@@ -3,9 +3,9 @@
 #include "src/picture_file.h"
 
 #include <fx/skin_table.h>
+#include <varnhold/file_stamp.h>
 
 #include <array>
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -18,13 +18,6 @@ struct LoadedPicture {
     Pixels pixels;
     std::array<visual::Plate, 3> frames;
 };
-
-/// What changes when a file is written anew; all zero where there is no file.
-struct FileStamp {
-    std::uint64_t writeTime = 0, size = 0;
-    bool operator==(const FileStamp&) const = default;
-};
-FileStamp StampOf(const std::wstring& path);
 
 /// Notes what the files were when they were looked at, one after the other.
 class LookedAtFiles {
@@ -39,7 +32,7 @@ public:
 private:
     struct File {
         std::wstring path;
-        FileStamp stamp;
+        varnhold::FileStamp stamp;
     };
     std::vector<File> m_files;
     bool m_areSettled = true;

@@ -15,8 +15,6 @@ namespace tovasque {
 namespace {
 
 constexpr std::size_t kMostBytes = std::size_t(4) << 20; // far beyond any picture of the permitted size
-constexpr std::size_t kHeaderEnd = 33;
-constexpr std::size_t kEndChunk = 12; // length, name and checksum of the chunk that closes a file
 
 struct FileCloser {
     void operator()(HANDLE file) const { ::CloseHandle(file); }
@@ -101,12 +99,8 @@ Pixels Decode(Gdiplus::Bitmap& source) {
 
 bool ReadPngSize(const std::vector<unsigned char>& file, int& width, int& height) {
     const std::optional<PngSize> claimed = ClaimedPngSize(file);
-    if (!claimed || file.size() < kHeaderEnd + kEndChunk ||
-        std::memcmp(file.data() + file.size() - kEndChunk + 4, "IEND", 4) != 0) {
-        return false;
-    }
-    if (claimed->width == 0 || claimed->height == 0 || claimed->width > kMostPixelsASide ||
-        claimed->height > kMostPixelsASide) {
+    if (!claimed || !IsWholePng(file) || claimed->width == 0 || claimed->height == 0 ||
+        claimed->width > kMostPixelsASide || claimed->height > kMostPixelsASide) {
         return false;
     }
     width = static_cast<int>(claimed->width);

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <set>
@@ -137,7 +139,14 @@ private:
     HDC m_dc;
 };
 
-/// Writes an opaque PNG whose pixels the function colours.
+/// The file was written that long ago.
+inline std::filesystem::file_time_type SetWritten(const std::filesystem::path& file, std::chrono::seconds age) {
+    const auto written = std::filesystem::file_time_type::clock::now() - age;
+    std::filesystem::last_write_time(file, written);
+    return written;
+}
+
+/// Writes an opaque PNG whose pixels the function colours; an hour old, as those of an installation are.
 inline void WriteSkinPicture(const TemporaryDirectory& folder, const std::string& name, CSize size,
                              const std::function<COLORREF(int x, int y)>& colour) {
     Gdiplus::Bitmap picture(size.cx, size.cy, PixelFormat32bppARGB);
@@ -150,6 +159,7 @@ inline void WriteSkinPicture(const TemporaryDirectory& folder, const std::string
     const std::wstring path = folder.Write(name, "");
     const CLSID png{0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
     ASSERT_EQ(picture.Save(path.c_str(), &png, nullptr), Gdiplus::Ok);
+    SetWritten(path, std::chrono::hours(1));
 }
 
 /// A vertical bar of 20 x 200 pixels, half of whose content it shows, in an installation with small pictures.

@@ -212,6 +212,7 @@ TEST_F(ScrollBarDrawing, AReplacedADeletedAndARestoredFileEachShowAtTheVeryNextP
     const char* const thumb = "pic/skin/black/verticalNormal.png";
     const auto replace = [this](const char* name, CSize size, COLORREF colour) {
         WriteSkinPicture(m_folder, name, size, [colour](int, int) { return colour; });
+        SetWritten(m_folder.Path() / name, std::chrono::seconds(0));
     };
     const auto arrowAndThumb = [this] {
         m_bar.RedrawWindow();

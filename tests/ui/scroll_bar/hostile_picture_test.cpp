@@ -49,10 +49,59 @@ TEST_F(ScrollBarPicture, ATruncatedHeaderIsLeftOut) {
     }
 }
 
-TEST_F(ScrollBarPicture, OneCutInItsPixelsIsHarmless) {
+TEST_F(ScrollBarPicture, OneCutInItsPixelsIsLeftOut) {
     m_folder.Write("pic/skin/black/verticalNormal.png", Bytes().substr(0, Bytes().size() / 2));
+    ExpectNoThumb();
+}
+
+// A decoder makes a picture of it all the same; some do wherever it is cut.
+TEST_F(ScrollBarPicture, OneCutInItsLastBytesIsLeftOut) {
+    m_folder.Write("pic/skin/black/verticalNormal.png", Bytes().substr(0, Bytes().size() - 2));
+    ExpectNoThumb();
+}
+
+TEST_F(ScrollBarPicture, OneCutAnywhereIsLeftOut) {
+    const std::string whole = Bytes();
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        m_folder.Write("pic/skin/black/verticalNormal.png", whole.substr(0, length));
+        SkinPicture picture;
+        picture.Take(File().wstring());
+        EXPECT_EQ(picture.Get(), nullptr) << length << " of " << whole.size();
+    }
+    m_folder.Write("pic/skin/black/verticalNormal.png", whole);
+    SkinPicture picture;
+    picture.Take(File().wstring());
+    EXPECT_NE(picture.Get(), nullptr);
+}
+
+/// Of one colour all over, so that every colour gives a file of the same length.
+void WritePlainThumb(const TemporaryDirectory& folder, COLORREF colour) {
+    WriteSkinPicture(folder, "pic/skin/black/verticalNormal.png", CSize(18, 60), [=](int, int) { return colour; });
+}
+
+TEST_F(ScrollBarPicture, AReplacementOfTheSameLengthAndTheSameTimeIsSeenWhereTheTimeIsThisMoment) {
+    WritePlainThumb(m_folder, RGB(10, 20, 30));
+    const auto written = SetWritten(File(), std::chrono::seconds(0));
+    const auto length = std::filesystem::file_size(File());
     Open();
-    m_bar.RedrawWindow();
+    EXPECT_EQ(Shown(m_bar).At(m_bar.ThumbMiddle()), RGB(10, 20, 30));
+    for (const COLORREF colour : {RGB(40, 50, 60), RGB(70, 80, 90)}) {
+        WritePlainThumb(m_folder, colour);
+        std::filesystem::last_write_time(File(), written);
+        ASSERT_EQ(std::filesystem::file_size(File()), length);
+        m_bar.RedrawWindow();
+        EXPECT_EQ(Shown(m_bar).At(m_bar.ThumbMiddle()), colour);
+    }
+}
+
+TEST_F(ScrollBarPicture, OneThatWasWrittenThisMomentIsReadAgainUntilItsStampTells) {
+    SkinPicture picture;
+    SetWritten(File(), std::chrono::seconds(0));
+    EXPECT_TRUE(picture.Take(File().wstring()));
+    EXPECT_TRUE(picture.Take(File().wstring()));
+    SetWritten(File(), std::chrono::seconds(3));
+    EXPECT_TRUE(picture.Take(File().wstring())) << "another stamp";
+    EXPECT_FALSE(picture.Take(File().wstring()));
 }
 
 TEST_F(ScrollBarPicture, AHeaderOf20000Times20000PixelsIsLeftOutWithoutDecoding) {

@@ -43,4 +43,13 @@ inline std::optional<PngSize> ClaimedPngSize(std::span<const unsigned char> file
     return PngSize{bigEndian(widthAt), bigEndian(heightAt)};
 }
 
+/// A PNG file with the chunk that closes one at its end. A decoder makes a picture of one that is cut off, too: the
+/// part that is there, with nothing or anything below it.
+inline bool IsWholePng(std::span<const unsigned char> file) {
+    constexpr std::array<unsigned char, 4> closing{'I', 'E', 'N', 'D'};
+    constexpr std::size_t headerEnd = 33, chunkSize = 12, nameAt = 4; // length, name, checksum
+    return ClaimedPngSize(file) && file.size() >= headerEnd + chunkSize &&
+           std::ranges::equal(file.last(chunkSize).subspan(nameAt, closing.size()), closing);
+}
+
 } // namespace tovasque
