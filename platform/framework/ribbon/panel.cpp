@@ -5,6 +5,7 @@
 #include "afxribbonpanelmenu.h"
 #include "afxvisualmanager.h"
 #include "ribbon/bar_parts.h"
+#include "ribbon/panel_picture.h"
 #include "ribbon/shown_text.h"
 
 #include <memory>
@@ -14,8 +15,6 @@ using ElementArray = CArray<CMFCRibbonBaseElement*, CMFCRibbonBaseElement*>;
 IMPLEMENT_DYNCREATE(CMFCRibbonPanel, CObject)
 
 namespace {
-
-constexpr int kBehind = 2; // pixels at 96 DPI up to the next panel: a flat skin has its line there
 
 RibbonElementFlow FlowOf(CMFCRibbonBaseElement& element, bool hasLarge, bool hasSmaller) {
     if (hasLarge) {
@@ -296,22 +295,15 @@ void CMFCRibbonPanel::Hide(CDC* pDC) {
 }
 
 void CMFCRibbonPanel::DoPaint(CDC* pDC) {
-    CRect reach = m_rect;
-    reach.right += afxGlobalData.ScalePixels(kBehind);
-    if (m_rect.IsRectEmpty() || !pDC->RectVisible(reach)) {
+    if (m_rect.IsRectEmpty() || !pDC->RectVisible(ReachOfPanel(*this))) {
         return;
     }
     if (m_bCollapsed) {
         m_btnDefault.OnDraw(pDC);
         return;
     }
-    CMFCVisualManager* manager = CMFCVisualManager::GetInstance();
-    const COLORREF color = manager->OnDrawRibbonPanel(pDC, this, m_rect, m_rectCaption);
-    const COLORREF previous = pDC->SetTextColor(color == static_cast<COLORREF>(-1) ? afxGlobalData.clrBarText : color);
-    if (pDC->RectVisible(m_rectCaption)) {
-        manager->OnDrawRibbonPanelCaption(pDC, this, m_rectCaption);
-        LaunchButton().OnDraw(pDC);
-    }
+    const COLORREF previous = pDC->GetTextColor();
+    DrawBelowElements(*pDC, *this, LaunchButton());
     for (int index = 0; index < GetCount(); ++index) {
         CMFCRibbonBaseElement& element = *m_arElements[index];
         if (!element.GetRect().IsRectEmpty() && pDC->RectVisible(element.GetRect())) {
@@ -324,7 +316,17 @@ void CMFCRibbonPanel::DoPaint(CDC* pDC) {
 // ---- pointer and command update
 
 void CMFCRibbonPanel::Highlight(BOOL bHighlight, CPoint point) {
-    const bool changes = !m_bHighlighted != !bHighlight;
+    CMFCRibbonBar* const bar = m_pParent != nullptr ? m_pParent->GetParentRibbonBar() : nullptr;
+    const bool isSeen = bar != nullptr && bar->GetSafeHwnd() != nullptr && !m_rect.IsRectEmpty();
+    if (!m_bHighlighted != !bHighlight && isSeen && !m_bCollapsed) {
+        // Where a panel under the pointer is drawn as any other its elements need no paint. Only the manager knows, and
+        // it may be the host's own.
+        const PanelPicture before(*this, LaunchButton());
+        m_bHighlighted = bHighlight;
+        if (!before.ShowsTheSameAs(PanelPicture(*this, LaunchButton()))) {
+            bar->InvalidateRect(ReachOfPanel(*this), FALSE);
+        }
+    }
     m_bHighlighted = bHighlight;
     CMFCRibbonBaseElement* former = GetHighlighted();
     CMFCRibbonBaseElement* hit = bHighlight ? HitTest(point) : nullptr;
@@ -333,10 +335,6 @@ void CMFCRibbonPanel::Highlight(BOOL bHighlight, CPoint point) {
     }
     if (hit != nullptr && !hit->IsSeparator()) {
         hit->SetHighlighted(TRUE);
-    }
-    CMFCRibbonBar* bar = m_pParent != nullptr ? m_pParent->GetParentRibbonBar() : nullptr;
-    if (changes && bar != nullptr && bar->GetSafeHwnd() != nullptr) {
-        bar->InvalidateRect(m_rect, FALSE);
     }
 }
 
