@@ -163,6 +163,7 @@ testing::AssertionResult ShowTheSame(const std::vector<Picture>& one, const std:
 struct Use {
     const char* name;
     void (*begin)(WholeFrame& frame, Pointer& pointer);
+    bool opensPopup = false;
 };
 
 void DoNothing(WholeFrame& /*frame*/, Pointer& /*pointer*/) {}
@@ -207,16 +208,16 @@ void OpenQuickAccessMenu(WholeFrame& frame, Pointer& /*pointer*/) {
     frame.bar.OnShowRibbonQATMenu(&frame.bar, rect.left + 100, rect.top + 40, nullptr);
 }
 
-constexpr Use kOpenUses[] = {{"OpenMenu", OpenMenu},
-                             {"DroppedList", DropList},
-                             {"CollapsedPanel", OpenPanel},
-                             {"PageOfMinimizedRibbon", OpenPage},
+constexpr Use kOpenUses[] = {{"OpenMenu", OpenMenu, true},
+                             {"DroppedList", DropList, true},
+                             {"CollapsedPanel", OpenPanel, true},
+                             {"PageOfMinimizedRibbon", OpenPage, true},
                              {"MaximizedFrame", Maximize}};
 constexpr Use kOtherUses[] = {{"AtRest", DoNothing},
                               {"MinimizedRibbon", Minimize},
                               {"KeyTips", ShowTips},
                               {"QuickAccessBelow", GoBelow},
-                              {"QuickAccessMenu", OpenQuickAccessMenu}};
+                              {"QuickAccessMenu", OpenQuickAccessMenu, true}};
 
 class LiveSwitch : public testing::TestWithParam<Use> {
 protected:
@@ -236,6 +237,19 @@ protected:
         m_window = m_frame->GetSafeHwnd();
         GetParam().begin(*m_frame, m_pointer);
         PumpPending();
+        m_popup = ActivePopup();
+        ASSERT_EQ(m_popup != nullptr, GetParam().opensPopup);
+    }
+    static HWND ActivePopup() {
+        CMFCPopupMenu* const popup = CMFCPopupMenu::GetActiveMenu();
+        return popup != nullptr && popup->IsWindowVisible() ? popup->GetSafeHwnd() : nullptr;
+    }
+    /// The frame, and the pop-up that has been open since Open.
+    std::vector<Picture> Photograph() const {
+        EXPECT_EQ(ActivePopup(), m_popup);
+        std::vector<Picture> pictures = PhotographWindows(*m_frame);
+        EXPECT_EQ(pictures.size(), GetParam().opensPopup ? 2U : 1U);
+        return pictures;
     }
     void Close() {
         CMFCPopupMenu::CloseAll();
@@ -256,23 +270,24 @@ protected:
 
     WholeFrame* m_frame = nullptr;
     HWND m_window = nullptr;
+    HWND m_popup = nullptr; ///< that the use has opened
     Pointer m_pointer;
 };
 
 TEST_P(LiveSwitch, EverythingShowsWhatAFrameShowsThatWasMadeInTheSkin) {
     for (const int style : {kSilver, kBlack}) {
         Open(style);
-        const std::vector<Picture> fresh = PhotographWindows(*m_frame);
+        const std::vector<Picture> fresh = Photograph();
         Close();
         Open(style == kSilver ? kBlack : kSilver);
         m_frame->bar.ChangeSkinColor(style, true);
-        const std::vector<Picture> switched = PhotographWindows(*m_frame);
+        const std::vector<Picture> switched = Photograph();
         EXPECT_TRUE(ShowTheSame(fresh, switched)) << "style " << style;
         // And after a way there and back.
         m_frame->bar.ChangeSkinColor(style == kSilver ? kBlack : kSilver, true);
         PumpPending();
         m_frame->bar.ChangeSkinColor(style, true);
-        EXPECT_TRUE(ShowTheSame(fresh, PhotographWindows(*m_frame))) << "style " << style;
+        EXPECT_TRUE(ShowTheSame(fresh, Photograph())) << "style " << style;
         Save(fresh, L"fresh" + std::to_wstring(style));
         Save(switched, L"switched" + std::to_wstring(style));
         Close();
@@ -282,14 +297,16 @@ TEST_P(LiveSwitch, EverythingShowsWhatAFrameShowsThatWasMadeInTheSkin) {
 /// The uses in which something stands open, or is another size.
 class ManySwitches : public LiveSwitch {};
 
-TEST_P(ManySwitches, AThousandSwitchesLeaveNothingBehind) {
+TEST_P(ManySwitches, AThousandSwitchesLeaveNothingBehindAndShowWhatTheFirstSkinShowed) {
     Open(kSilver);
+    const std::vector<Picture> fresh = Photograph();
     EXPECT_TRUE(RepeatedLeavesNothingBehind(10, 1000, [this](int round) {
         m_frame->bar.ChangeSkinColor(round % 2, round % 3 == 0);
         if (round % 20 < 2) {
             PumpPending(); // paints
         }
     }));
+    EXPECT_TRUE(ShowTheSame(fresh, Photograph())) << "the last one was to silver";
 }
 
 std::string NameOf(const testing::TestParamInfo<Use>& info) { return info.param.name; }
