@@ -491,14 +491,20 @@ class WorkingModes(unittest.TestCase):
 
 class SkinsOfTheViewer(unittest.TestCase):
     PREFERENCE = r"HKCU\Software\Microsoft\Windows\CurrentVersion\Themes\Personalize"
+    WITH_IT = {"black": ("0", 1), "silver": ("1", 0)}  # the style of the icons, and what the map is drawn with
+
+    def expect_what_comes_with_the_skin(self, record):
+        self.assertEqual((record["iconStyle"], record["map"]["palette"]), self.WITH_IT[record["skin"]], record["skin"])
 
     def test_the_button_beside_the_tabs_changes_the_skin_and_back(self):
         with Viewer(BIN_DIR, "--skin", "silver") as viewer:
             left, top, right, bottom = viewer.record["skinButtonOnScreen"]
+            self.expect_what_comes_with_the_skin(viewer.record)
             for skin, manager in (("black", "CQKVisualManagerOffice2007Black"), ("silver", "CQKVisualManagerOffice2007Silver")):
                 viewer.click((left + right) // 2, (top + bottom) // 2)
                 record = viewer.wait_for(lambda record: record["skin"] == skin)
                 self.assertEqual(record["frame"]["skin"]["manager"], manager)
+                self.expect_what_comes_with_the_skin(record)
 
     def test_a_switch_shows_what_a_fresh_start_in_that_skin_shows(self):
         with tempfile.TemporaryDirectory() as folder:
@@ -515,13 +521,15 @@ class SkinsOfTheViewer(unittest.TestCase):
                     if now == last:
                         return
                     last = now
-            with Viewer(BIN_DIR, "--skin", "black", "--category", "2") as viewer:
-                settle(viewer, fresh)
-            with Viewer(BIN_DIR, "--skin", "silver", "--category", "2") as viewer:
-                viewer.click_command("SkinBlack")
-                viewer.wait_for(lambda record: record["skin"] == "black")
-                settle(viewer, switched)
-            self.assertEqual(changed_pixels(fresh, switched, "1280x800+0+0"), 0)
+            for skin, other, command in (("black", "silver", "SkinBlack"), ("silver", "black", "SkinSilver")):
+                with Viewer(BIN_DIR, "--skin", skin, "--category", "2") as viewer:
+                    settle(viewer, fresh)
+                    self.expect_what_comes_with_the_skin(viewer.record)
+                with Viewer(BIN_DIR, "--skin", other, "--category", "2") as viewer:
+                    viewer.click_command(command)
+                    self.expect_what_comes_with_the_skin(viewer.wait_for(lambda record: record["skin"] == skin))
+                    settle(viewer, switched)
+                self.assertEqual(changed_pixels(fresh, switched, "1280x800+0+0"), 0, skin)
 
     def test_it_starts_in_the_skin_that_the_system_prefers(self):
         for value, skin in (("0", "black"), ("1", "silver")):
