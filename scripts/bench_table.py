@@ -17,6 +17,7 @@ RATIO_BARS = {
     ("dispatch to 10 reactors", ""): 1.5,
     ("file into records", ""): 3.0,
     ("full repaint", "each icon file"): 1.25,
+    ("tab switch", "each icon file"): 1.25,
     ("skin switch", "its pictures"): 1.25,
     ("Load", "parse"): 1.5,
     ("scroll-bar drag frame", ""): 1.25,
