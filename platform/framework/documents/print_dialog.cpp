@@ -100,3 +100,31 @@ UINT CPrintInfo::GetMinPage() const { return m_pPD->m_pd.nMinPage; }
 UINT CPrintInfo::GetMaxPage() const { return m_pPD->m_pd.nMaxPage; }
 UINT CPrintInfo::GetFromPage() const { return m_pPD->m_pd.nFromPage; }
 UINT CPrintInfo::GetToPage() const { return m_pPD->m_pd.nToPage; }
+
+// ---- the application's printer
+
+BOOL CWinApp::GetPrinterDeviceDefaults(PRINTDLGW* pPrintDlg) {
+    if (m_hDevNames == nullptr) {
+        CPrintDialog system(TRUE);
+        if (system.GetDefaults()) {
+            SelectPrinter(system.m_pd.hDevNames, system.m_pd.hDevMode);
+        }
+    }
+    pPrintDlg->hDevNames = m_hDevNames;
+    pPrintDlg->hDevMode = m_hDevMode;
+    return m_hDevNames != nullptr;
+}
+
+BOOL CWinApp::CreatePrinterDC(CDC& dc) {
+    CPrintDialog printer(TRUE);
+    return GetPrinterDeviceDefaults(&printer.m_pd) && dc.Attach(printer.CreatePrinterDC());
+}
+
+void CWinApp::OnFilePrintSetup() {
+    CPrintDialog dialog(TRUE);
+    dialog.m_pd.hDevNames = m_hDevNames;
+    dialog.m_pd.hDevMode = m_hDevMode;
+    dialog.DoModal();
+    // It may have moved the blocks, left or not.
+    SelectPrinter(dialog.m_pd.hDevNames, dialog.m_pd.hDevMode, FALSE);
+}

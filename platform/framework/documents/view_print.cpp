@@ -1,11 +1,13 @@
 // How a view prints.
 #include "afxwin.h"
 #include "documents/file_prompt.h"
+#include "documents/preview_window.h"
 #include "documents/print_progress.h"
 #include "fx/document.h"
 #include "fx/print.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -47,14 +49,44 @@ CString JobName(const CView& view) {
     return title;
 }
 
+HGLOBAL CopyOf(HGLOBAL block) {
+    const SIZE_T size = ::GlobalSize(block);
+    const HGLOBAL copy = ::GlobalAlloc(GMEM_MOVEABLE, size);
+    if (copy != nullptr) {
+        std::memcpy(::GlobalLock(copy), ::GlobalLock(block), size);
+        ::GlobalUnlock(copy);
+        ::GlobalUnlock(block);
+    }
+    return copy;
+}
+
+/// The printer that the user has chosen for all jobs; a job frees its own copy.
+void TakeChosenPrinter(PRINTDLG& job) {
+    CWinApp* const application = AfxGetApp();
+    if (job.hDC != nullptr || job.hDevNames != nullptr || application == nullptr || !application->IsPrinterSelected()) {
+        return;
+    }
+    PRINTDLG chosen = {};
+    application->GetPrinterDeviceDefaults(&chosen);
+    job.hDevNames = CopyOf(chosen.hDevNames);
+    job.hDevMode = chosen.hDevMode != nullptr ? CopyOf(chosen.hDevMode) : nullptr;
+}
+
+bool HasPrinter(CPrintDialog& dialog) {
+    return dialog.m_pd.hDevNames != nullptr
+               ? dialog.CreatePrinterDC() != nullptr
+               : dialog.GetDefaults() && (dialog.m_pd.hDC != nullptr || dialog.CreatePrinterDC() != nullptr);
+}
+
 } // namespace
 
 fx::PrinterCalls fx::SetPrinterCalls(const PrinterCalls& calls) { return std::exchange(g_calls, calls); }
 
 BOOL CView::DoPreparePrinting(CPrintInfo* pInfo) {
     CPrintDialog& dialog = *pInfo->m_pPD;
+    TakeChosenPrinter(dialog.m_pd);
     if (pInfo->m_bPreview || pInfo->m_bDirect) {
-        if (dialog.m_pd.hDC == nullptr && !(dialog.GetDefaults() && (dialog.m_pd.hDC || dialog.CreatePrinterDC()))) {
+        if (dialog.m_pd.hDC == nullptr && !HasPrinter(dialog)) {
             AfxMessageBox(AFX_IDP_FAILED_TO_START_PRINT, MB_ICONEXCLAMATION);
             return FALSE;
         }
@@ -117,4 +149,26 @@ bool CView::PrintPage(CDC& dc, CPrintInfo& info) {
     dc.DPtoLP(&info.m_rectDraw);
     OnPrint(&dc, &info);
     return g_calls.endPage(dc) > 0;
+}
+
+void CView::OnFilePrintPreview() {
+    CPrintInfo info;
+    info.m_bPreview = TRUE;
+    if (!OnPreparePrinting(&info) || info.m_pPD->m_pd.hDC == nullptr) {
+        return;
+    }
+    PrinterDc dc(info.m_pPD->m_pd.hDC);
+    OnBeginPrinting(&dc, &info);
+    fx::PreviewPages pages(*this, info);
+    CFrameWnd* const frame = GetTopLevelFrame();
+    const auto end = [&](CPreviewView& preview) { OnEndPrintPreview(&dc, &info, CPoint(0, 0), &preview); };
+    if (fx::RunPreview(frame, pages, JobName(*this), end) && frame != nullptr) {
+        frame->PostMessage(WM_COMMAND, ID_FILE_PRINT);
+    }
+}
+
+void AFXAPI AFXPrintPreview(CView* pView) {
+    if (pView != nullptr) {
+        pView->OnFilePrintPreview();
+    }
 }

@@ -47,6 +47,11 @@ BOOL DockingFrameOf<Base>::EnableDocking(DWORD dwDockStyle) {
 }
 
 template <class Base>
+BOOL DockingFrameOf<Base>::EnableAutoHidePanes(DWORD dwDockStyle) {
+    return m_dockManager.EnableAutoHidePanes(dwDockStyle);
+}
+
+template <class Base>
 void DockingFrameOf<Base>::DockPane(CBasePane* pBar, UINT nDockBarID, LPCRECT lpRect) {
     m_dockManager.DockPane(pBar, nDockBarID, lpRect);
 }

@@ -50,6 +50,9 @@ public:
     /// Sides where DockPane may put panes.
     BOOL EnableDocking(DWORD dwStyle);
     DWORD GetEnabledAlignment() const { return m_dwEnabledAlignment; }
+    /// Sides where panes may hide by themselves, of those kinds that can.
+    BOOL EnableAutoHidePanes(DWORD dwStyle);
+    DWORD GetEnabledAutoHideAlignment() const { return m_dwEnabledAutoHideAlignment; }
     /// nDockBarID: AFX_IDW_DOCKBAR_ of a side, 0 keeps the pane's alignment. Refused (nothing happens) unless both the
     /// pane and the frame allow the side.
     void DockPane(CBasePane* pBar, UINT nDockBarID = 0, LPCRECT lpRect = NULL);
@@ -137,6 +140,7 @@ private:
     HWND DocumentFocus() const;
 
     DWORD m_dwEnabledAlignment = 0;
+    DWORD m_dwEnabledAutoHideAlignment = 0;
     BOOL m_bIsInAdjustLayout = FALSE;
     int m_nLockCount = 0;
     bool m_isLayoutPending = false;

@@ -8,6 +8,7 @@
 #include "fx/control_view.h"
 #include "fx/form_view.h"
 #include "fx/print.h"
+#include "fx/print_preview.h"
 #include "fx/status_bar.h"
 
 class CDocument;

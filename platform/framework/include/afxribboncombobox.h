@@ -168,6 +168,65 @@ private:
     std::shared_ptr<BOOL> m_life;
 };
 
+// A font of the system's.
+class FRAMEWORK_API CMFCFontInfo : public CObject {
+public:
+    CMFCFontInfo(LPCTSTR lpszName, LPCTSTR lpszScript, BYTE nCharSet, BYTE nPitchAndFamily, int nType);
+
+    // "Arial (Western)"; the name alone where there is no script.
+    CString GetFullName() const;
+    BOOL operator==(const CMFCFontInfo& other) const;
+
+    const CString m_strName;
+    const CString m_strScript; // as the system calls what the font can write
+    const BYTE m_nCharSet;
+    const BYTE m_nPitchAndFamily;
+    const int m_nType; // TRUETYPE_FONTTYPE and so on
+};
+
+// A combo box of the system's fonts by name. With m_bDrawUsingFont each is written in itself in the list.
+class FRAMEWORK_API CMFCRibbonFontComboBox : public CMFCRibbonComboBox {
+    DECLARE_DYNCREATE(CMFCRibbonFontComboBox)
+
+public:
+    // For all of them: each row is written in its font, but for those of symbols.
+    static inline BOOL m_bDrawUsingFont = FALSE;
+
+    // Has the fonts at once. nFontType: any of DEVICE_FONTTYPE, RASTER_FONTTYPE and TRUETYPE_FONTTYPE; nCharSet:
+    // DEFAULT_CHARSET takes all of them; nPitchAndFamily: FIXED_PITCH or VARIABLE_PITCH and a family, as in LOGFONT.
+    CMFCRibbonFontComboBox(UINT nID, int nFontType = DEVICE_FONTTYPE | RASTER_FONTTYPE | TRUETYPE_FONTTYPE,
+                           BYTE nCharSet = DEFAULT_CHARSET, BYTE nPitchAndFamily = DEFAULT_PITCH, int nWidth = -1);
+    ~CMFCRibbonFontComboBox() override;
+
+    // Other fonts. The text in the field stays, and is selected where it is among them.
+    void BuildFonts(int nFontType = DEVICE_FONTTYPE | RASTER_FONTTYPE | TRUETYPE_FONTTYPE,
+                    BYTE nCharSet = DEFAULT_CHARSET, BYTE nPitchAndFamily = DEFAULT_PITCH);
+    // The same ones, as the system has them now.
+    void RebuildFonts();
+    // Selects a font by its name, in capitals or not. bExact: only one of that character set. FALSE, and nothing
+    // changed: there is none.
+    BOOL SetFont(LPCTSTR lpszName, BYTE nCharSet = DEFAULT_CHARSET, BOOL bExact = FALSE);
+    // -1: the selected one. NULL: there is none. Good until the fonts are built anew.
+    const CMFCFontInfo* GetFontDesc(int iIndex = -1) const;
+
+    int GetFontType() const { return m_nFontType; }
+    BYTE GetCharSet() const { return m_nCharSet; }
+    BYTE GetPitchAndFamily() const { return m_nPitchAndFamily; }
+
+    void CopyFrom(const CMFCRibbonBaseElement& src) override;
+    BOOL OnDrawDropListItem(CDC* pDC, int nIndex, CMFCToolBarMenuButton* pButton, BOOL bHighlight) override;
+    int GetDropListItemWidth(CDC* pDC, int nIndex, CSize sizeText) override;
+
+protected:
+    CMFCRibbonFontComboBox();
+
+private:
+    int m_nFontType = DEVICE_FONTTYPE | RASTER_FONTTYPE | TRUETYPE_FONTTYPE;
+    BYTE m_nCharSet = DEFAULT_CHARSET;
+    BYTE m_nPitchAndFamily = DEFAULT_PITCH;
+    std::vector<std::shared_ptr<const CMFCFontInfo>> m_fonts; // of the items, in their order
+};
+
 // The list that a combo box drops down: a pop-up with one row for each text, whatever their number. Made with new; from
 // Track on the window owns the object. It never has the focus: with an edit box the keys that it does not use go to
 // the edit window. A derived class may have a bar of its own (GetMenuBar), which needs to be no list: the rows are

@@ -37,6 +37,11 @@ BOOL CDockingManager::EnableDocking(DWORD dwStyle) {
     return m_dwEnabledAlignment != 0;
 }
 
+BOOL CDockingManager::EnableAutoHidePanes(DWORD dwStyle) {
+    m_dwEnabledAutoHideAlignment |= dwStyle & CBRS_ALIGN_ANY;
+    return m_dwEnabledAutoHideAlignment != 0;
+}
+
 CDockSite* CDockingManager::FindDockSite(DWORD dwAlignment, BOOL) {
     const std::size_t index = IndexOf(dwAlignment);
     CDockSite* const site = index < m_sites.size() ? m_sites[index].get() : nullptr;

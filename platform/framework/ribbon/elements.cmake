@@ -11,6 +11,7 @@ target_sources(framework PRIVATE
   combo_box.cpp
   combo_box_access.cpp
   combo_box_face.cpp
+  font_combo_box.cpp
   drop_down_list.cpp
   edit.cpp
   edit_tool.cpp

@@ -7,6 +7,7 @@
 #include "window/thread_state.h"
 
 #include <clocale>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
@@ -48,6 +49,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) {
 }
 
 CWinApp::~CWinApp() {
+    SelectPrinter(nullptr, nullptr);
     DeleteTemplates();
     if (g_application == this) {
         g_application = nullptr;
@@ -293,4 +295,25 @@ void AFXAPI AfxWinTerm() {
     CWnd::DeleteTempMap();
     CMenu::DeleteTempMap();
     fx::EndOle(fx::CurrentThread());
+}
+
+void CWinApp::SelectPrinter(HANDLE hDevNames, HANDLE hDevMode, BOOL bFreeOld) {
+    const HGLOBAL names = std::exchange(m_hDevNames, hDevNames), settings = std::exchange(m_hDevMode, hDevMode);
+    if (bFreeOld) {
+        for (const auto& [before, now] : {std::pair(names, m_hDevNames), std::pair(settings, m_hDevMode)}) {
+            if (before != nullptr && before != now) {
+                ::GlobalFree(before);
+            }
+        }
+    }
+}
+
+BOOL AFXAPI AfxInitRichEdit2() {
+    static const HMODULE s_library = ::LoadLibraryW(L"riched20.dll");
+    return s_library != nullptr;
+}
+
+BOOL AFXAPI AfxInitRichEdit() {
+    static const HMODULE s_library = ::LoadLibraryW(L"riched32.dll");
+    return s_library != nullptr;
 }

@@ -4,6 +4,8 @@
 #include "window/menu_items.h"
 
 #include <algorithm>
+#include <shellapi.h>
+#include <string>
 #include <utility>
 
 // What the frame tells its user: prompts in the message bar, tooltips, the state of menu items.
@@ -158,4 +160,16 @@ void CFrameWnd::OnUpdateKeyIndicator(CCmdUI* pCmdUI) {
         return;
     }
     pCmdUI->Enable((::GetKeyState(found->key) & 1) != 0);
+}
+
+void CFrameWnd::OnDropFiles(HDROP hDropInfo) {
+    SetActiveWindow(); // the user is here now
+    CWinApp* const application = AfxGetApp();
+    const UINT count = ::DragQueryFileW(hDropInfo, 0xFFFFFFFF, nullptr, 0);
+    for (UINT i = 0; i < count && application != nullptr; ++i) {
+        std::wstring path(::DragQueryFileW(hDropInfo, i, nullptr, 0) + 1, L'\0');
+        ::DragQueryFileW(hDropInfo, i, path.data(), static_cast<UINT>(path.size()));
+        application->OpenDocumentFile(path.c_str());
+    }
+    ::DragFinish(hDropInfo);
 }

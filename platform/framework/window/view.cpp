@@ -54,6 +54,7 @@ BOOL CView::OnPreparePrinting(CPrintInfo*) { return TRUE; }
 void CView::OnBeginPrinting(CDC*, CPrintInfo*) {}
 void CView::OnPrint(CDC* pDC, CPrintInfo*) { OnDraw(pDC); }
 void CView::OnEndPrinting(CDC*, CPrintInfo*) {}
+void CView::OnEndPrintPreview(CDC* pDC, CPrintInfo* pInfo, POINT, CPreviewView*) { OnEndPrinting(pDC, pInfo); }
 
 void CView::OnUpdate(CView*, LPARAM, CObject*) { Invalidate(); }
 

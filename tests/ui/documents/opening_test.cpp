@@ -1,6 +1,8 @@
 // The application's commands for files.
 #include "plans.h"
 
+#include <shlobj.h>
+
 using namespace std::string_view_literals;
 
 namespace {
@@ -136,6 +138,31 @@ TEST_F(Opening, ACommandLineForTheShellHasNothingToDo) {
         g_application.m_nCmdShow = show;
     }
     EXPECT_EQ(Plan::s_count, 0);
+}
+
+// As the shell hands them over.
+HDROP Dropped(const std::vector<std::wstring>& paths) {
+    std::wstring list;
+    for (const std::wstring& path : paths) {
+        list += path + L'\0';
+    }
+    list += L'\0';
+    const HGLOBAL block =
+        ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + list.size() * sizeof(wchar_t));
+    auto* const files = static_cast<DROPFILES*>(::GlobalLock(block));
+    files->pFiles = sizeof(DROPFILES);
+    files->fWide = TRUE;
+    list.copy(reinterpret_cast<wchar_t*>(files + 1), list.size());
+    ::GlobalUnlock(block);
+    return static_cast<HDROP>(block);
+}
+
+TEST_F(Opening, EachFileThatIsDroppedOnAFrameIsOpened) {
+    MakeMain();
+    const HDROP files = Dropped({Written("a.note"), Written("b.note")});
+    m_main->SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(files));
+    EXPECT_EQ(Plan::s_count, 2);
+    EXPECT_EQ(::GlobalSize(files), 0u) << "the frame frees what it was given";
 }
 
 } // namespace

@@ -16,6 +16,7 @@ BEGIN_MESSAGE_MAP(PlanView, CView)
 ON_COMMAND_EX(kCommand, &PlanView::OnCommandOfView)
 ON_COMMAND(ID_FILE_PRINT, &CView::OnFilePrint)
 ON_COMMAND(ID_FILE_PRINT_DIRECT, &CView::OnFilePrint)
+ON_COMMAND(ID_FILE_PRINT_PREVIEW, &CView::OnFilePrintPreview)
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(PlanFrame, CFrameWnd)

@@ -78,6 +78,7 @@ public:
             info->m_pPD->m_pd.nToPage = m_to;
         }
         m_isDirect = info->m_bDirect;
+        m_isPreview = info->m_bPreview;
         return m_isPrintable;
     }
     void OnBeginPrinting(CDC* dc, CPrintInfo*) override {
@@ -85,6 +86,9 @@ public:
     }
     void OnPrint(CDC* dc, CPrintInfo* info) override {
         s_job.push_back("page " + std::to_string(info->m_nCurPage));
+        if (s_paint != nullptr) {
+            s_paint(*dc, info->m_rectDraw);
+        }
         CView::OnPrint(dc, info);
     }
     void OnEndPrinting(CDC*, CPrintInfo*) override { s_job.push_back("end"); }
@@ -93,6 +97,8 @@ public:
     WORD m_length = 0, m_from = 0, m_to = 0;
     BOOL m_isPrintable = TRUE;
     BOOL m_isDirect = FALSE;
+    BOOL m_isPreview = FALSE;
+    static inline void (*s_paint)(CDC& dc, const CRect& page) = nullptr;
 
     static inline int s_count = 0;
     int m_updates = 0;

@@ -80,4 +80,66 @@ TEST_F(Printing, TheDirectCommandIsKnownAsSuch) {
     EXPECT_TRUE(m_view->m_isDirect);
 }
 
+HGLOBAL NamesOf(const std::wstring& driver, const std::wstring& device) {
+    const std::size_t letters = sizeof(DEVNAMES) / sizeof(wchar_t) + driver.size() + device.size() + 3;
+    const HGLOBAL block = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, letters * sizeof(wchar_t));
+    auto* const names = static_cast<DEVNAMES*>(::GlobalLock(block));
+    auto* const text = reinterpret_cast<wchar_t*>(names);
+    names->wDriverOffset = sizeof(DEVNAMES) / sizeof(wchar_t);
+    names->wDeviceOffset = static_cast<WORD>(names->wDriverOffset + driver.size() + 1);
+    names->wOutputOffset = static_cast<WORD>(names->wDeviceOffset + device.size() + 1);
+    driver.copy(text + names->wDriverOffset, driver.size());
+    device.copy(text + names->wDeviceOffset, device.size());
+    ::GlobalUnlock(block);
+    return block;
+}
+
+/// The screen, in the place of a printer.
+class ChosenPrinter : public Printing {
+protected:
+    void SetUp() override {
+        Printing::SetUp();
+        g_application.SelectPrinter(NamesOf(L"DISPLAY", L"DISPLAY"), nullptr);
+    }
+    void TearDown() override {
+        g_application.SelectPrinter(nullptr, nullptr);
+        Printing::TearDown();
+    }
+};
+
+TEST_F(ChosenPrinter, IsToldAndMakesContexts) {
+    PRINTDLGW told{};
+    EXPECT_TRUE(g_application.GetPrinterDeviceDefaults(&told));
+    EXPECT_NE(told.hDevNames, nullptr);
+    EXPECT_EQ(told.hDevMode, nullptr);
+    CDC dc;
+    EXPECT_TRUE(g_application.CreatePrinterDC(dc));
+    EXPECT_EQ(dc.GetDeviceCaps(HORZRES), ::GetSystemMetrics(SM_CXSCREEN));
+}
+
+TEST_F(ChosenPrinter, IsTheOneOfPreviewsAndOfJobsWithoutADialog) {
+    for (BOOL CPrintInfo::*const kind : {&CPrintInfo::m_bPreview, &CPrintInfo::m_bDirect}) {
+        CPrintInfo info;
+        info.*kind = TRUE;
+        ASSERT_TRUE(m_view->DoPreparePrinting(&info));
+        EXPECT_STREQ(info.m_pPD->GetDeviceName(), L"DISPLAY");
+        EXPECT_EQ(::GetDeviceCaps(info.m_pPD->m_pd.hDC, HORZRES), ::GetSystemMetrics(SM_CXSCREEN));
+        PRINTDLGW told{};
+        g_application.GetPrinterDeviceDefaults(&told);
+        EXPECT_NE(info.m_pPD->m_pd.hDevNames, told.hDevNames) << "the job frees its own copy";
+    }
+}
+
+TEST_F(ChosenPrinter, AnotherOneFreesTheFormerUnlessItIsKept) {
+    PRINTDLGW told{};
+    g_application.GetPrinterDeviceDefaults(&told);
+    const HGLOBAL former = told.hDevNames;
+    g_application.SelectPrinter(NamesOf(L"DISPLAY", L"DISPLAY"), nullptr, FALSE);
+    EXPECT_GT(::GlobalSize(former), 0u);
+    ::GlobalFree(former);
+    EXPECT_TRUE(g_application.IsPrinterSelected());
+    g_application.SelectPrinter(nullptr, nullptr);
+    EXPECT_FALSE(g_application.IsPrinterSelected());
+}
+
 } // namespace

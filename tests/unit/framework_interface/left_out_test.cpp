@@ -74,8 +74,6 @@ LEFT_OUT("help is the host's matter", CFrameWnd, OnContextHelp)
 LEFT_OUT("help is the host's matter", CFrameWndEx, OnContextHelp)
 
 LEFT_OUT("thumbnails, progress and buttons in the task bar", CWnd, OnDrawIconicThumbnailOrLivePreview)
-LEFT_OUT("thumbnails, progress and buttons in the task bar", CWinApp, EnableTaskbarInteraction,
-         IsTaskbarInteractionEnabled)
 LEFT_OUT("thumbnails, progress and buttons in the task bar", CFrameWnd, SetProgressBarPosition, SetProgressBarRange,
          SetProgressBarState, SetTaskbarOverlayIcon)
 LEFT_OUT("thumbnails, progress and buttons in the task bar", CMDIChildWndEx, CanShowOnTaskBarTabs,
@@ -102,14 +100,11 @@ LEFT_OUT("searches, previews and thumbnails of the shell, mail", CDocument, Begi
 LEFT_OUT("frames in place in other programs, previews of the shell", CDocTemplate, CreateOleFrame, CreatePreviewFrame,
          SetContainerInfo, SetPreviewInfo, SetServerInfo)
 
-LEFT_OUT("printing and its preview", CWinApp, CreatePrinterDC, GetPrinterDeviceDefaults, SelectPrinter,
-         OnFilePrintSetup)
 LEFT_OUT("printing and its preview", CFrameWnd, OnSetPreviewMode, SetActivePreviewView)
 LEFT_OUT("printing and its preview", CFrameWndEx, IsPrintPreview, OnPostPreviewFrame, OnSetPreviewMode,
          SetPrintPreviewFrame)
 LEFT_OUT("printing and its preview", CMDIFrameWndEx, IsPrintPreview, OnSetPreviewMode, SetPrintPreviewFrame)
 LEFT_OUT("printing and its preview", CMDIChildWndEx, OnSetPreviewMode)
-LEFT_OUT("printing and its preview", CView, OnEndPrintPreview)
 LEFT_OUT("printing and its preview", CDockingManager, IsPrintPreviewValid, SetPrintPreviewMode)
 LEFT_OUT("printing and its preview", CMFCRibbonBar, AddPrintPreviewCategory, EnablePrintPreview, IsPrintPreviewEnabled)
 
@@ -161,10 +156,10 @@ LEFT_OUT("a frame over the whole screen", CMDIFrameWndEx, EnableFullScreenMainMe
          ShowFullScreen)
 
 LEFT_OUT("panes that float, hide by themselves or are dragged", CFrameWndEx, ActiveItemRecalcLayout, AddDockSite,
-         EnableAutoHidePanes, OnCloseDockingPane, SetDockState)
+         OnCloseDockingPane, SetDockState)
 LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIFrameWndEx, ActiveItemRecalcLayout, AddDockSite,
-         EnableAutoHidePanes, OnCloseDockingPane)
-LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIChildWndEx, AddDockSite, EnableAutoHidePanes)
+         OnCloseDockingPane)
+LEFT_OUT("panes that float, hide by themselves or are dragged", CMDIChildWndEx, AddDockSite)
 LEFT_OUT("panes that float, hide by themselves or are dragged", CBasePane, DockPaneUsingRTTI, FillWindowRect,
          GetPaneRect, IsTooltipTopmost, OnDrawCaption, OnMovePaneDivider, PaneFromPoint, SetPaneRect,
          SetRestoredFromRegistry)
@@ -173,12 +168,12 @@ LEFT_OUT("panes that float, hide by themselves or are dragged", CPane, AllocElem
          SetDockState, SetVirtualRect, StretchPaneDeferWndPos, ToggleAutoHide, UpdateVirtualRect, m_bHandleMinSize)
 LEFT_OUT("panes that float, hide by themselves or are dragged", CDockingManager, AddDockSite, AdjustPaneFrames,
          AdjustRectToClientArea, AlignAutoHidePane, AutoHidePane, BringBarsToTop, BuildPanesMenu,
-         CalcExpectedDockedRect, DeterminePaneAndStatus, EnableAutoHidePanes, EnableDockSiteMenu, FixupVirtualRects,
-         GetEnabledAutoHideAlignment, GetSmartDockingManager, GetSmartDockingManagerPermanent, GetSmartDockingParams,
-         GetSmartDockingTheme, HideAutoHidePanes, InsertDockSite, IsDockSiteMenu, OnActivateFrame, OnClosePopupMenu,
-         OnMoveMiniFrame, ProcessPaneContextMenuCommand, ReleaseEmptyPaneContainers, ReplacePane,
-         ResortMiniFramesForZOrder, SetAutohideZOrder, SetDockState, SetSmartDockingParams, ShowDelayShowMiniFrames,
-         StartSDocking, StopSDocking, m_nTimeOutBeforeDockingBarDock, m_nTimeOutBeforeToolBarDock)
+         CalcExpectedDockedRect, DeterminePaneAndStatus, EnableDockSiteMenu, FixupVirtualRects, GetSmartDockingManager,
+         GetSmartDockingManagerPermanent, GetSmartDockingParams, GetSmartDockingTheme, HideAutoHidePanes,
+         InsertDockSite, IsDockSiteMenu, OnActivateFrame, OnClosePopupMenu, OnMoveMiniFrame,
+         ProcessPaneContextMenuCommand, ReleaseEmptyPaneContainers, ReplacePane, ResortMiniFramesForZOrder,
+         SetAutohideZOrder, SetDockState, SetSmartDockingParams, ShowDelayShowMiniFrames, StartSDocking, StopSDocking,
+         m_nTimeOutBeforeDockingBarDock, m_nTimeOutBeforeToolBarDock)
 LEFT_OUT("panes that float, hide by themselves or are dragged", CRecentDockSiteInfo, GetRecentDefaultPaneDivider,
          GetRecentDockedPercent, GetRecentListOfPanes, GetRecentPaneContainer, GetRecentTabContainer, IsRecentLeftPane,
          SaveListOfRecentPanes, StoreDockInfo)
@@ -251,6 +246,17 @@ LEFT_OUT("looks of controls that the framework does not have", CMFCVisualManager
          OnDrawTasksGroupAreaBorder, OnDrawTasksGroupCaption, OnErasePopupWindowButton, OnFillAutoHideButtonBackground,
          OnFillHeaderCtrlBackground, OnFillOutlookBarCaption, OnFillOutlookPageButton, OnFillPopupWindowBackground,
          OnFillTasksGroupInterior, OnFillTasksPaneBackground, SetUseGlobalTheme)
+LEFT_OUT("looks of controls that the framework does not have", CMFCVisualManagerVS2005, GetPropertyGridGroupColor,
+         OnDrawAutoHideButtonBorder, OnFillAutoHideButtonBackground)
+LEFT_OUT("looks of controls that the framework does not have", CMFCVisualManagerWindows, IsDefaultWinXPPopupButton,
+         OnDrawBrowseButton, OnDrawCaptionButtonIcon, OnDrawControlBorder, OnDrawHeaderCtrlBorder,
+         OnDrawHeaderCtrlSortArrow, OnDrawOutlookPageButtonBorder, OnDrawPopupWindowButtonBorder, OnDrawSpinButtons,
+         OnDrawTabsButtonBorder, OnDrawTask, OnDrawTasksGroupAreaBorder, OnDrawTasksGroupCaption,
+         OnErasePopupWindowButton, OnFillOutlookPageButton, OnFillTasksGroupInterior, OnFillTasksPaneBackground,
+         m_b3DTabsXPTheme)
+LEFT_OUT("what it does is not documented", CMFCVisualManagerWindows7, CleanStyle, CleanUp, DrawNcBtn, DrawNcText,
+         DrawSeparator, GetRibbonBar, IsRibbonPresent, OnDrawRadioButton, OnDrawRibbonGalleryButton,
+         OnFillMenuImageRect, SetResourceHandle, SetStyle)
 LEFT_OUT("looks of controls that the framework does not have", CMFCVisualManagerOffice2007, GetCaptionBarTextColor,
          OnDrawCaptionBarInfoArea, OnDrawHeaderCtrlBorder, OnDrawOutlookBarSplitter, OnDrawOutlookPageButtonBorder,
          OnDrawPopupWindowCaption, OnDrawPropertySheetListItem, OnDrawTabsButtonBorder, OnDrawTask,
@@ -319,11 +325,7 @@ class CDialogBar;
 class CReBar;
 class CImage;
 class CSplitterWnd;
-class CMFCVisualManagerVS2005;
-class CMFCVisualManagerWindows;
-class CMFCVisualManagerWindows7;
 class CMFCRibbonColorButton;
-class CMFCRibbonFontComboBox;
 class CMFCRibbonGallery;
 class CMFCRibbonGalleryMenuButton;
 class CMFCRibbonLinkCtrl;
@@ -342,8 +344,6 @@ LEFT_OUT_CLASSES("pictures: the framework keeps them in image lists", CImage)
 LEFT_OUT_CLASSES("windows of several parts", CSplitterWnd)
 LEFT_OUT("what it does is not documented", CMFCToolBarsCustomizeDialog, EnableTools)
 LEFT_OUT("what it does is not documented", CUserTool, CopyIconToClipboard)
-LEFT_OUT_CLASSES("looks that follow the themes of certain systems", CMFCVisualManagerVS2005, CMFCVisualManagerWindows,
-                 CMFCVisualManagerWindows7)
 LEFT_OUT("helpers of the docking panes", CGlobalUtils, AdjustRectToworkArea, CalcExpectedDockedRect, CanBeAttached,
          CanPaneBeInFloatingMultiPaneFrameWnd, CheckAlignment, CyFromString, DecimalFromString, FlipRect,
          ForceAdjustLayout, GetOppositeAlignment, GetPaneAndAlignFromPoint, GetWndIcon, SetNewParent, StringFromCy,
@@ -353,7 +353,6 @@ LEFT_OUT("the side to which menus of a floating bar open is decided by the room 
 LEFT_OUT_CLASSES("panes that float, hide by themselves or are dragged, and tab windows", CMFCBaseTabCtrl, CDockablePane,
                  CPaneDivider)
 LEFT_OUT_CLASSES("numbers of pictures of menus", CMenuImages)
-LEFT_OUT_CLASSES("ribbon elements that nobody uses", CMFCRibbonColorButton, CMFCRibbonFontComboBox, CMFCRibbonGallery,
-                 CMFCRibbonGalleryIcon, CMFCRibbonGalleryMenuButton, CMFCRibbonLinkCtrl, CMFCRibbonMiniToolBar,
-                 CMFCRibbonUndoButton)
+LEFT_OUT_CLASSES("ribbon elements that nobody uses", CMFCRibbonColorButton, CMFCRibbonGallery, CMFCRibbonGalleryIcon,
+                 CMFCRibbonGalleryMenuButton, CMFCRibbonLinkCtrl, CMFCRibbonMiniToolBar, CMFCRibbonUndoButton)
 LEFT_OUT_CLASSES("customizing the ribbon in a dialog", CMFCRibbonCustomizeDialog, CMFCRibbonCustomizePropertyPage)

@@ -257,6 +257,24 @@ INTERFACE_OF(CMFCRibbonComboBox) {
     MEMBER(void, SetDropDownHeight, (int));
 }
 
+INTERFACE_OF(CMFCRibbonFontComboBox) {
+    BASE(CMFCRibbonComboBox);
+    MADE_FROM(UINT, int, BYTE, BYTE, int);
+    MADE_FROM(UINT);
+    MEMBER(void, BuildFonts, (int, BYTE, BYTE));
+    CALL(BuildFonts);
+    NAMED(CreateObject);
+    MEMBER(BYTE, GetCharSet, () const);
+    MEMBER(const CMFCFontInfo*, GetFontDesc, (int) const);
+    CALL(GetFontDesc);
+    MEMBER(int, GetFontType, () const);
+    MEMBER(BYTE, GetPitchAndFamily, () const);
+    NAMED(GetThisClass);
+    MEMBER(void, RebuildFonts, ());
+    MEMBER(BOOL, SetFont, (LPCTSTR, BYTE, BOOL));
+    CALL(SetFont, LPCTSTR);
+}
+
 INTERFACE_OF(CMFCRibbonContextCaption) {
     BASE(CMFCRibbonButton);
     NAMED(CreateObject);

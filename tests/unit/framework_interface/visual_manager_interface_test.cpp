@@ -4,6 +4,8 @@
 #include "afxvisualmanageroffice2003.h"
 #include "afxvisualmanageroffice2007.h"
 #include "afxvisualmanagerofficexp.h"
+#include "afxvisualmanagervs2008.h"
+#include "afxvisualmanagerwindows7.h"
 
 INTERFACE_OF(CMFCBaseVisualManager) {
     BASE(CObject);
@@ -202,6 +204,36 @@ INTERFACE_OF(CMFCVisualManager) {
 }
 
 INTERFACE_OF(CMFCVisualManagerOfficeXP) { BASE(CMFCVisualManager); }
+
+INTERFACE_OF(CMFCVisualManagerVS2005) {
+    BASE(CMFCVisualManagerOffice2003);
+    MADE_FROM(BOOL);
+    MADE_FROM();
+    VIRTUAL(void, OnDrawSeparator, (CDC*, CBasePane*, CRect, BOOL));
+    VIRTUAL(void, OnFillHighlightedArea, (CDC*, CRect, CBrush*, CMFCToolBarButton*));
+    VIRTUAL(void, OnUpdateSystemColors, ());
+}
+
+INTERFACE_OF(CMFCVisualManagerWindows) {
+    BASE(CMFCVisualManagerOfficeXP);
+    MADE_FROM(BOOL);
+    MADE_FROM();
+    MEMBER(BOOL, IsOfficeStyleMenus, () const);
+    VIRTUAL(BOOL, IsOfficeXPStyleMenus, () const);
+    STATIC(BOOL, IsWinXPThemeAvailible, ());
+    VIRTUAL(void, OnDrawMenuBorder, (CDC*, CMFCPopupMenu*, CRect));
+    VIRTUAL(void, OnDrawSeparator, (CDC*, CBasePane*, CRect, BOOL));
+    VIRTUAL(void, OnFillBarBackground, (CDC*, CBasePane*, CRect, CRect, BOOL));
+    VIRTUAL(void, OnHighlightMenuItem, (CDC*, CMFCToolBarMenuButton*, CRect, COLORREF&));
+    VIRTUAL(void, OnUpdateSystemColors, ());
+    MEMBER(void, SetOfficeStyleMenus, (BOOL));
+    CALL(SetOfficeStyleMenus);
+}
+
+INTERFACE_OF(CMFCVisualManagerWindows7) {
+    BASE(CMFCVisualManagerWindows);
+    MADE_FROM();
+}
 
 INTERFACE_OF(CMFCVisualManagerOffice2003) {
     BASE(CMFCVisualManagerOfficeXP);

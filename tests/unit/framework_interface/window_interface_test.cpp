@@ -113,6 +113,14 @@ INTERFACE_OF(CWinApp) {
     DATA(LPCTSTR, m_pszHelpFilePath);
     DATA(LPCTSTR, m_pszProfileName);
     DATA(LPCTSTR, m_pszRegistryKey);
+    MEMBER(BOOL, CreatePrinterDC, (CDC&));
+    MEMBER(BOOL, EnableTaskbarInteraction, (BOOL));
+    CALL(EnableTaskbarInteraction);
+    MEMBER(BOOL, GetPrinterDeviceDefaults, (PRINTDLGW*));
+    VIRTUAL(BOOL, IsTaskbarInteractionEnabled, ());
+    MEMBER(void, SelectPrinter, (HANDLE, HANDLE, BOOL));
+    CALL(SelectPrinter, HANDLE, HANDLE);
+    MEMBER(void, OnFilePrintSetup, ());
 }
 
 PROTECTED_INTERFACE_OF(CWinApp) {
@@ -336,6 +344,7 @@ INTERFACE_OF(CView) {
 PROTECTED_INTERFACE_OF(CView) {
     VIRTUAL(void, OnBeginPrinting, (CDC*, CPrintInfo*));
     VIRTUAL(void, OnEndPrinting, (CDC*, CPrintInfo*));
+    VIRTUAL(void, OnEndPrintPreview, (CDC*, CPrintInfo*, POINT, CPreviewView*));
     VIRTUAL(BOOL, OnPreparePrinting, (CPrintInfo*));
     VIRTUAL(void, OnPrint, (CDC*, CPrintInfo*));
     VIRTUAL(void, OnActivateFrame, (UINT, CFrameWnd*));

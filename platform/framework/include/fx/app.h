@@ -4,6 +4,8 @@
 #include "fx/thread.h"
 #include "fx/wnd.h"
 
+#include <commdlg.h>
+
 #include <afxcoll.h>
 
 #include <functional>
@@ -122,12 +124,31 @@ public:
     virtual void DoWaitCursor(int nCode);
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
 
+    /// The printer of the next jobs: movable memory blocks, which the application owns from here on; NULL: the system's
+    /// own printer. bFreeOld FALSE: those that it had before are the caller's.
+    void SelectPrinter(HANDLE hDevNames, HANDLE hDevMode, BOOL bFreeOld = TRUE);
+    /// The user or the program has chosen one.
+    BOOL IsPrinterSelected() const { return m_hDevNames != nullptr; }
+    /// FALSE: there is no printer.
+    BOOL CreatePrinterDC(CDC& dc);
+    /// hDevNames and hDevMode of the chosen printer, else of the system's own one; they stay the application's. FALSE:
+    /// there is no printer.
+    BOOL GetPrinterDeviceDefaults(PRINTDLGW* pPrintDlg);
+    /// FALSE for TRUE: the framework shows nothing in the task bar but the window.
+    BOOL EnableTaskbarInteraction(BOOL bEnable = TRUE) { return !bEnable; }
+    virtual BOOL IsTaskbarInteractionEnabled() { return FALSE; }
+    /// Controls look like that anyway; older programs ask for it.
+    BOOL Enable3dControls() { return TRUE; }
+    BOOL Enable3dControlsStatic() { return TRUE; }
+
     // Handlers for maps of derived classes, which name them as the base's: ON_COMMAND(ID_FILE_NEW,
     // &CWinApp::OnFileNew).
     /// A new document; where there are several kinds with names for that, the user chooses one.
     afx_msg void OnFileNew();
     /// Asks for a file and opens it.
     afx_msg void OnFileOpen();
+    /// Asks for the printer of the next jobs and previews. The system's own one until then.
+    afx_msg void OnFilePrintSetup();
     /// Asks the main window to close. In the map of every application for ID_APP_EXIT.
     afx_msg void OnAppExit();
     /// Offers WM_COMMANDHELP to the active window, then to its parents and owners; where none answers TRUE, the main
@@ -161,6 +182,9 @@ protected:
     afx_msg BOOL OnOpenRecentFile(UINT nID);
     DECLARE_MESSAGE_MAP()
 
+    HGLOBAL m_hDevMode = nullptr; ///< of the chosen printer, owned; null: the system's own one
+    HGLOBAL m_hDevNames = nullptr;
+
 private:
     friend BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
     /// Fills the names that the constructor of the derived class left null.
@@ -180,6 +204,10 @@ FRAMEWORK_API CWinApp* AFXAPI AfxGetApp();
 /// The calling thread's main window, else null.
 FRAMEWORK_API CWnd* AFXAPI AfxGetMainWnd();
 FRAMEWORK_API LPCTSTR AFXAPI AfxGetAppName();
+/// Rich edit controls in dialog templates need it: of the class "RichEdit20W", and of the older "RICHEDIT". FALSE: the
+/// system has none.
+FRAMEWORK_API BOOL AFXAPI AfxInitRichEdit2();
+FRAMEWORK_API BOOL AFXAPI AfxInitRichEdit();
 
 /// Prepares the calling thread and the application object. Programs with their own main call it before anything else.
 FRAMEWORK_API BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow);

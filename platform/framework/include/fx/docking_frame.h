@@ -27,6 +27,8 @@ public:
                                    CBasePane* pBarReplacement);
     CBasePane* GetPane(UINT nID);
     BOOL EnableDocking(DWORD dwDockStyle);
+    /// Sides where panes may hide by themselves, of those kinds that can (CBasePane::CanAutoHide).
+    BOOL EnableAutoHidePanes(DWORD dwDockStyle);
     void DockPane(CBasePane* pBar, UINT nDockBarID = 0, LPCRECT lpRect = NULL);
     BOOL DockPaneLeftOf(CPane* pBar, CPane* pLeftOf);
     void ShowPane(CBasePane* pBar, BOOL bShow, BOOL bDelay, BOOL bActivate);

@@ -179,6 +179,8 @@ protected:
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
     afx_msg void OnExitMenuLoop(BOOL bIsTrackPopupMenu);
+    /// Opens each of the files, where the frame takes any (DragAcceptFiles).
+    afx_msg void OnDropFiles(HDROP hDropInfo);
     /// ID_INDICATOR_CAPS, _NUM, _SCRL and _KANA are enabled while their key is on.
     afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);

@@ -4,7 +4,12 @@
 
 class CDocument;
 class CFrameWnd;
+class CPreviewView;
 struct CPrintInfo;
+
+namespace fx {
+class PreviewPages;
+} // namespace fx
 
 /// Style of a view that a frame makes.
 #define AFX_WS_DEFAULT_VIEW (WS_CHILD | WS_VISIBLE | WS_BORDER)
@@ -29,6 +34,8 @@ public:
     BOOL DoPreparePrinting(CPrintInfo* pInfo);
     /// The commands ID_FILE_PRINT and, without a dialog, ID_FILE_PRINT_DIRECT, for maps of derived classes.
     afx_msg void OnFilePrint();
+    /// The command ID_FILE_PRINT_PREVIEW, for maps of derived classes; see AFXPrintPreview.
+    afx_msg void OnFilePrintPreview();
     /// Before every drawing on the screen (pInfo is then NULL) and of a page. The base does nothing for the screen, and
     /// ends the printing of a document whose length nobody has told behind the first page.
     virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = NULL);
@@ -52,6 +59,9 @@ protected:
     /// A page; the base calls OnDraw.
     virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
     virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    /// Instead of it when the job was a preview, which is about to close; the base calls OnEndPrinting. point: not
+    /// used.
+    virtual void OnEndPrintPreview(CDC* pDC, CPrintInfo* pInfo, POINT point, CPreviewView* pView);
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PostNcDestroy() override;
@@ -76,4 +86,5 @@ private:
 
     friend class CDocument;
     friend class CFrameWnd;
+    friend class fx::PreviewPages;
 };
