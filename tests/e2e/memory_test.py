@@ -62,7 +62,13 @@ class NextStart(unittest.TestCase):
         viewer.click_command("LanguageChinese")
         viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][0]["name"] == "地图")
         viewer.click_command("SkinBlack")
-        viewer.wait_for(lambda record: record["skin"] == "black")
+        viewer.wait_for(lambda record: record["skin"] == "black" and record["map"]["palette"] == 1)
+        viewer.click(*viewer.tab_middle(1))
+        viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][1]["active"])
+        viewer.click_command("PaletteNatural")  # not this skin's
+        viewer.wait_for(lambda record: record["map"]["palette"] == 0)
+        viewer.click(*viewer.tab_middle(2))
+        viewer.wait_for(lambda record: record["frame"]["ribbon"]["categories"][2]["active"])
         viewer.click_command("QuickAccessBelow")
         viewer.wait_for(lambda record: record["quickAccessBelow"])
         viewer.key("ctrl+g")
@@ -84,6 +90,7 @@ class NextStart(unittest.TestCase):
 
     def test_all_that_was_changed_is_there_again(self):
         before = self.run_once("--lang", "en", "--skin", "silver", "--category", "2", act=self.change)
+        self.assertEqual((before["map"]["palette"], self.kept()["map"]["palette"]), (0, "natural"))
         after = self.run_once()
         self.assert_alike(after, before)
         self.assert_alike(self.run_once(), before)  # what was found again is kept, too
