@@ -9,8 +9,10 @@
 
 #include "varnhold/language.h"
 #include "varnhold/message_box.h"
+#include "varnhold/strings.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <utility>
 
 namespace {
@@ -57,6 +59,15 @@ WindowBox NormalPlace(HWND window) {
 /// Other settings have other places of the toolbars.
 std::wstring DockingSection(const std::wstring& folder) {
     return folder.empty() ? kDockingSection : kDockingSection + std::to_wstring(std::hash<std::wstring>()(folder));
+}
+
+/// They may be back with the next files: nothing is lost, so nobody is asked about it.
+void TellUnknownKeywords(const CUserSettings& settings) {
+    for (const std::wstring& keyword : settings.UnknownKeywords()) {
+        std::fprintf(stderr,
+                     "demo: the kept settings name \"%s\", which the files no longer have; it is kept for later\n",
+                     wstring2String(keyword).c_str());
+    }
 }
 
 } // namespace
@@ -127,6 +138,7 @@ void CMainFrame::RestoreState() {
     }
     if (CUserSettings* const bars = m_memory.Bars()) {
         bars->ApplyTo(m_ribbon);
+        TellUnknownKeywords(*bars);
         auto* const application = static_cast<CWinAppEx*>(AfxGetApp());
         application->SetRegistryBase(DockingSection(m_options.settings).c_str());
         if (application->IsStateExists(kDockingPlaces)) {

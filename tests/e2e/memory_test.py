@@ -95,6 +95,19 @@ class NextStart(unittest.TestCase):
         self.assert_alike(after, before)
         self.assert_alike(self.run_once(), before)  # what was found again is kept, too
 
+    def test_a_kept_command_that_is_gone_is_named_and_kept_for_later(self):
+        self.run_once("--lang", "en", "--skin", "silver", "--category", "2", act=self.change)
+        with open(self.bars, encoding="utf-8") as file:
+            text = file.read()
+        self.assertIn('<item KEYWORD="ZoomOut"/>', text)
+        with open(self.bars, "w", encoding="utf-8") as file:
+            file.write(text.replace('<item KEYWORD="ZoomOut"/>', '<item KEYWORD="GoneCommand"/>'))
+        with KeptViewer(self.folder) as viewer:
+            self.assertEqual(viewer.leave(), 0)
+            self.assertEqual(viewer.errors().count('"GoneCommand"'), 1, viewer.errors())
+        with open(self.bars, encoding="utf-8") as file:
+            self.assertIn('"GoneCommand"', file.read())
+
     def test_the_window_is_where_it_was_left_and_maximised_if_it_was(self):
         self.run_once()
         kept = self.kept()
