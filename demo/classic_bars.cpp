@@ -15,6 +15,8 @@
 #include "toolbar_combos.h"
 #include "viewer_text.h"
 
+#include "user_settings.h"
+
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"
 #include "varnhold/message_box.h"
@@ -122,6 +124,32 @@ void ClassicBars::TakeShortcuts() {
     }
     keys.SetAppAccelTable();
     m_shortcuts = Without(ShortcutsOf(*m_frame), others);
+}
+
+void ClassicBars::ApplyUserKeys(CUserSettings& settings) {
+    CKeyboardManager& manager = *static_cast<CWinAppEx*>(AfxGetApp())->GetKeyboardManager();
+    manager.KeepOriginalKeys(m_frame); // what "Reset all" goes back to
+    std::vector<ACCEL> configured = ShortcutsOf(*m_frame);
+    m_configuredKeys.reset(::CreateAcceleratorTableW(configured.data(), static_cast<int>(configured.size())));
+    if (const HACCEL users = settings.ApplyTo(m_frame->m_hAccelTable)) {
+        manager.UpdateAccelTable(nullptr, users, m_frame);
+    }
+}
+
+void ClassicBars::KeepUserKeys(CUserSettings& settings) const {
+    if (m_configuredKeys) {
+        settings.TakeFrom(m_configuredKeys.get(), m_frame->m_hAccelTable);
+    }
+}
+
+bool ClassicBars::LeaveUserKeys(CUserSettings& settings) {
+    if (!m_configuredKeys) {
+        return false;
+    }
+    KeepUserKeys(settings);
+    static_cast<CWinAppEx*>(AfxGetApp())->GetKeyboardManager()->ResetAll();
+    m_configuredKeys.reset();
+    return true;
 }
 
 bool ClassicBars::Create(CFrameWndEx& frame) {

@@ -10,11 +10,13 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+class CUserSettings;
 struct ConfigurationChange;
 
 /// The viewer's menu bar and toolbars, which stand in for its ribbon when the user wants them: cfg\menu.xml and
@@ -30,6 +32,12 @@ public:
     /// were taken before; shortcuts of others stay. A menu file gives shortcuts only to commands that no file before it
     /// has.
     void TakeShortcuts();
+    /// Behind Build, when all commands are there: the user's own keys over those of the files.
+    void ApplyUserKeys(CUserSettings& settings);
+    /// What the user has changed of the keys since they were applied; nothing before.
+    void KeepUserKeys(CUserSettings& settings) const;
+    /// Keeps them and leaves the frame those of the files, for files that are read anew. False: none were applied.
+    bool LeaveUserKeys(CUserSettings& settings);
     /// The menu bar, hidden; the first pane of the frame. False: there is none.
     bool Create(CFrameWndEx& frame);
     /// Behind the ribbon: the menu, with its icons, and the toolbars, in the language in force.
@@ -67,8 +75,13 @@ private:
     void NameButtons();
     void FillCombos();
 
+    struct TableEnd {
+        void operator()(HACCEL table) const { ::DestroyAcceleratorTable(table); }
+    };
+
     const MapState& m_state;
     CFrameWndEx* m_frame = nullptr;
+    std::unique_ptr<std::remove_pointer_t<HACCEL>, TableEnd> m_configuredKeys; ///< null: no user's keys are applied
     CMfcMenubarEx m_menuBar;
     CDynMenuCreater m_menu;
     HostMenu m_help{HostMenu::Kind::Help};

@@ -294,6 +294,11 @@ std::string WriteKept(const KeptViewer& viewer, const MapState& map) {
         hidden.push_back(wstring2String(title));
     }
     json["hiddenToolbars"] = std::move(hidden);
+    Json opened = Json::array();
+    for (const std::wstring& path : viewer.openedFiles) {
+        opened.push_back(wstring2String(path));
+    }
+    json["openedFiles"] = std::move(opened);
     if (viewer.window) {
         const WindowBox& place = viewer.window->place;
         json["window"] = {{"place", {place.left, place.top, place.right, place.bottom}},
@@ -320,6 +325,7 @@ std::optional<std::vector<std::string>> ReadKept(const std::string& text, KeptVi
          {"scale", [&](const Json& value) { viewer.scalePercent = ScaleOf(value); }},
          {"classicBars", [&](const Json& value) { viewer.showsClassicBars = FlagOf(value); }},
          {"hiddenToolbars", [&](const Json& value) { viewer.hiddenToolbars = ListOf<std::wstring>(value, TextOf); }},
+         {"openedFiles", [&](const Json& value) { viewer.openedFiles = ListOf<std::wstring>(value, TextOf); }},
          {"map", [&](const Json& value) { ReadMap(reader, value, map); }}});
     return reader.unusable;
 }

@@ -23,6 +23,7 @@ struct KeptViewer {
     std::wstring startMode;                   ///< The working mode of the next start; empty: browsing.
     int scalePercent = 0;                     ///< Of texts and icons; 0: as the screen says.
     std::vector<std::wstring> hiddenToolbars; ///< Their titles as their file has them.
+    std::vector<std::wstring> openedFiles;    ///< Full paths of the map's layers of the user's own, in their order.
 };
 
 /// As a readable text.

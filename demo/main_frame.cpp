@@ -35,6 +35,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 
 namespace {
 
@@ -296,6 +297,8 @@ void CMainFrame::OpenMapFile(const std::wstring& path) {
                                                             "MapFileEmpty"};
     const GeoJsonResult read = ReadGeoJsonFile(path);
     if (read.features) {
+        m_openedFiles.resize(m_state.Opened().size()); // none when all were closed
+        m_openedFiles.push_back(std::filesystem::absolute(path).wstring());
         m_state.Open(read.features, read.features->box);
         AfxGetApp()->AddToRecentFileList(path.c_str());
         ShowState();

@@ -107,6 +107,8 @@ private:
     /// Brings the windows to the direction in which the language in force is written.
     void Mirror();
     void RestoreState();
+    /// The files whose layers the user had opened; those that are gone are told and left out.
+    void ReopenFiles();
     void KeepState();
     /// Answers the windows that wait over the frame as their close buttons do, the uppermost first.
     void CloseDialogs();
@@ -177,6 +179,7 @@ private:
     };
     std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer> m_icon; ///< The window's small one.
     DemoOptions m_options;
+    std::vector<std::wstring> m_openedFiles; ///< full paths of what m_state has opened, or more when it has closed them
     MapData m_data;
     MapState m_state;
     CMapWindow m_map;

@@ -72,6 +72,8 @@ bool CMainFrame::ShowFilesAnew(const ConfigurationChange& change) {
     }
     {
         const CommandsAnew anew;
+        CUserSettings* const settings = m_memory.Bars();
+        const bool hasUserKeys = settings != nullptr && m_bars.LeaveUserKeys(*settings);
         if (ClassicBars::HasKeys(change)) {
             m_bars.TakeShortcuts(); // first, as at the start
         }
@@ -79,6 +81,9 @@ bool CMainFrame::ShowFilesAnew(const ConfigurationChange& change) {
             m_bars.ForgetToolbars();
         }
         BuildRibbon();
+        if (hasUserKeys) {
+            m_bars.ApplyUserKeys(*settings);
+        }
     }
     m_ribbon.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     WriteRecord();

@@ -1,6 +1,7 @@
 // What the frame finds again at its start, and what it keeps at its end.
 #include "main_frame.h"
 
+#include "geo_json.h"
 #include "open_dialogs.h"
 #include "system_language.h"
 #include "viewer_skins.h"
@@ -130,14 +131,30 @@ void CMainFrame::Show() {
     UpdateWindow();
 }
 
+void CMainFrame::ReopenFiles() {
+    if (!m_options.mapFile.empty()) {
+        return; // that one alone was asked for
+    }
+    for (const std::wstring& path : m_memory.Viewer().openedFiles) {
+        if (const GeoJsonResult read = ReadGeoJsonFile(path); read.features) {
+            m_state.Reopen(read.features);
+            m_openedFiles.push_back(path);
+        } else {
+            m_memory.AddTrouble("MapFileUnreadable", path);
+        }
+    }
+}
+
 // Behind the bars, which are as configured until now.
 void CMainFrame::RestoreState() {
     const KeptViewer& kept = m_memory.Viewer();
     if (kept.iconStyle && IsIconStyleOfSkin(*kept.iconStyle)) {
         SwitchIconStyle(*kept.iconStyle);
     }
+    ReopenFiles();
     if (CUserSettings* const bars = m_memory.Bars()) {
         bars->ApplyTo(m_ribbon);
+        m_bars.ApplyUserKeys(*bars);
         TellUnknownKeywords(*bars);
         auto* const application = static_cast<CWinAppEx*>(AfxGetApp());
         application->SetRegistryBase(DockingSection(m_options.settings).c_str());
@@ -173,8 +190,11 @@ void CMainFrame::KeepState() {
     kept.window = KeptWindow{NormalPlace(GetSafeHwnd()), IsIconic() ? wasMaximized : IsZoomed() != FALSE};
     kept.showsClassicBars = m_bars.IsShown();
     kept.hiddenToolbars = m_bars.HiddenToolbars();
+    m_openedFiles.resize(m_state.Opened().size());
+    kept.openedFiles = m_openedFiles;
     m_modes.KeepQuickAccess();
     bars->TakeFrom(m_ribbon);
+    m_bars.KeepUserKeys(*bars);
     m_memory.Save(m_state);
     const CNamedToolBars named(m_bars.Toolbars());
     static_cast<CWinAppEx*>(AfxGetApp())->SaveState(this, DockingSection(m_options.settings).c_str());

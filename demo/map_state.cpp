@@ -271,6 +271,11 @@ void MapState::Open(std::shared_ptr<const GeoFeatures> features, const GeoBox& b
     Changed();
 }
 
+void MapState::Reopen(std::shared_ptr<const GeoFeatures> features) {
+    m_opened.push_back(std::move(features));
+    Changed();
+}
+
 void MapState::CloseOpened() {
     if (!m_opened.empty()) {
         m_opened.clear();

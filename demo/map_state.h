@@ -147,6 +147,8 @@ public:
     const std::vector<std::shared_ptr<const GeoFeatures>>& Opened() const noexcept { return m_opened; }
     /// Adds what a file holds, shows its layer, and all of it in the window.
     void Open(std::shared_ptr<const GeoFeatures> features, const GeoBox& box);
+    /// One that was open when the viewer was left: the view and what is shown stay.
+    void Reopen(std::shared_ptr<const GeoFeatures> features);
     void CloseOpened();
 
     int SliderPosition() const;

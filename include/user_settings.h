@@ -73,6 +73,9 @@ public:
     /// Gives the commands that have shortcuts here those keys instead of their own, in a copy of the table; a key that
     /// another command had is taken from it. The caller owns what is returned, null when the table needs no change.
     HACCEL ApplyTo(HACCEL configured);
+    /// Keeps the keys of each command that has others in the table now than configured, and forgets those of commands
+    /// that have the configured ones again. Rows of characters and commands without a keyword are left out.
+    void TakeFrom(HACCEL configured, HACCEL now);
 #endif
     /// The keys of a command from now on, such as "Ctrl+Shift+S", "F5" or "Alt+Del"; none: it has no keys. Texts that
     /// name no key are left out. Applied by the next ApplyTo.

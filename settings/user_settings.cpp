@@ -313,6 +313,33 @@ HACCEL CUserSettings::ApplyTo(HACCEL configured) {
     return after == before ? nullptr : MakeTable(after);
 }
 
+void CUserSettings::TakeFrom(HACCEL configured, HACCEL now) {
+    using Keys = std::vector<ShortcutKey>;
+    std::map<std::uint16_t, std::pair<Keys, Keys>> commands;
+    for (const auto& [table, keys] :
+         {std::pair(configured, &std::pair<Keys, Keys>::first), std::pair(now, &std::pair<Keys, Keys>::second)}) {
+        for (const ShortcutRow& row : RowsOf(table)) {
+            if (row.isVirtualKey && row.id != 0) {
+                (commands[row.id].*keys).push_back(row.key);
+            }
+        }
+    }
+    for (const auto& [id, keys] : commands) {
+        const std::wstring keyword = KeywordOf(id);
+        const auto& [before, after] = keys;
+        if (!IsKept(keyword)) {
+            continue;
+        }
+        if (std::is_permutation(before.begin(), before.end(), after.begin(), after.end())) {
+            ResetShortcuts(keyword);
+            continue;
+        }
+        std::vector<std::wstring> texts;
+        std::transform(after.begin(), after.end(), std::back_inserter(texts), ShortcutKeyText);
+        SetShortcuts(keyword, texts);
+    }
+}
+
 void CUserSettings::SetShortcuts(const std::wstring& keyword, const std::vector<std::wstring>& keys) {
     KeptShortcuts& kept = Obtain(
         m_keeper->kept.shortcuts, [&keyword](const KeptShortcuts& shortcuts) { return shortcuts.keyword == keyword; },

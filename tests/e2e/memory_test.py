@@ -108,6 +108,58 @@ class NextStart(unittest.TestCase):
         with open(self.bars, encoding="utf-8") as file:
             self.assertIn('"GoneCommand"', file.read())
 
+    def test_opened_files_are_open_again_and_one_that_is_gone_is_told(self):
+        with tempfile.TemporaryDirectory() as folder:
+            paths = [os.path.join(folder, name) for name in ("first.geojson", "second.geojson")]
+            for path, place in zip(paths, ([8.5, 47.4], [116.4, 39.9])):
+                with open(path, "w", encoding="utf-8") as file:
+                    json.dump({"type": "Point", "coordinates": place}, file)
+            windows = ["Z:" + path.replace("/", "\\") for path in paths]
+            self.run_once("--lang", "en", "--open", windows[0])
+            self.assertEqual(self.kept()["openedFiles"], windows[:1])
+            kept = self.kept()
+            kept["openedFiles"] = windows
+            with open(self.file, "w", encoding="utf-8") as file:
+                json.dump(kept, file)
+            before = self.run_once(act=lambda viewer: viewer.key("ctrl+i"))
+            self.assertEqual(before["map"]["opened"], 2)
+            after = self.run_once()
+            self.assertEqual(after["map"]["opened"], 2)
+            for key in ("longitude", "latitude", "pixelsPerDegree", "layers"):
+                self.assertEqual(after["map"][key], before["map"][key], key)
+            os.remove(paths[0])
+            self.assertEqual(self.run_once(message=True)["map"]["opened"], 1)
+            self.assertEqual(self.kept()["openedFiles"], windows[1:])
+            self.assertEqual(self.run_once()["map"]["opened"], 1)  # told once
+
+    def test_keys_that_the_user_gave_commands_are_theirs_again_by_keyword(self):
+        def give_a_key(viewer):
+            viewer.key("alt+s", "c")
+            viewer.wait_until(lambda: viewer.windows("Customize"), "the dialog")
+            viewer.key(*["ctrl+Tab"] * 3)  # the page of the keys
+            for key in ("alt+d", "Down", "alt+p", "ctrl+shift+F9", "Tab", "space", "Escape"):
+                viewer.act("sleep", 0.2, "key", key)
+            viewer.wait_until(lambda: not viewer.windows("Customize"), "the end of the dialog")
+
+        def command_of(record, flags, key):
+            """Its keyword."""
+            numbers = [row["cmd"] for row in record["frame"]["accelerators"] if (row["virt"], row["key"]) == (flags, key)]
+            return [command["keyword"] for command in record["frame"]["registry"] if command["id"] in numbers]
+
+        def press_it(viewer):
+            viewer.key("ctrl+shift+F9")
+            viewer.wait_for(lambda record: 0 < record["map"]["longitude"] < 40 and record["map"]["pixelsPerDegree"] > 5)
+        with tempfile.TemporaryDirectory() as program:
+            copy_installation(BIN_DIR, program)
+            self.run_once("--lang", "en", "--bars", "classic", act=give_a_key, program=program)
+            edit_file(program, "cfg/keys.xml", "<group>", '<group><item KEYWORD="Another" MENUNAME="" CMD="none"/>')
+            after = self.run_once(act=press_it, program=program)
+            self.assertEqual(command_of(after, 1 | 4 | 8, 0x78), ["RegionAfrica"])  # a virtual key with Shift and Ctrl
+            self.assertEqual(command_of(after, 1 | 8, ord("I")), ["ZoomIn"])  # as configured
+            with open(self.bars, encoding="utf-8") as file:
+                self.assertEqual(file.read().count("<shortcut "), 1)
+            self.assertEqual(command_of(self.run_once(program=program), 1 | 4 | 8, 0x78), ["RegionAfrica"])
+
     def test_the_window_is_where_it_was_left_and_maximised_if_it_was(self):
         self.run_once()
         kept = self.kept()

@@ -87,4 +87,22 @@ TEST_F(ShortcutSettings, WithoutATableTheUsersKeysMakeOne) {
     EXPECT_THAT(RowsOf(table), ElementsAre(L"9 83 501"));
 }
 
+TEST_F(ShortcutSettings, WhatTheUserChangedInTheTableIsTakenFromIt) {
+    ACCEL rows[] = {{FVIRTKEY, VK_F5, 500}, {0, 'x', 9}};
+    const HACCEL changed = m_tables.emplace_back(::CreateAcceleratorTableW(rows, 2));
+    m_settings.SetShortcuts(L"Gone", {L"F6"});
+    m_settings.TakeFrom(Configured(), changed);
+    ASSERT_TRUE(m_settings.Save());
+    CUserSettings next((m_directory.Path() / L"bars.xml").wstring());
+    EXPECT_EQ(next.Load(), CUserSettings::Source::File);
+    EXPECT_THAT(RowsOf(Applied(next)), ElementsAre(L"0 120 9", L"1 116 500"));
+    EXPECT_THAT(next.UnknownKeywords(), ElementsAre(L"Gone"));
+}
+
+TEST_F(ShortcutSettings, KeysThatAreAsConfiguredAgainAreForgotten) {
+    m_settings.SetShortcuts(L"Open", {L"F5"});
+    m_settings.TakeFrom(Configured(), Configured());
+    EXPECT_EQ(Applied(m_settings), nullptr);
+}
+
 } // namespace

@@ -36,6 +36,7 @@ KeptViewer ChangedViewer() {
     viewer.startMode = L"print";
     viewer.scalePercent = 150;
     viewer.hiddenToolbars = {L"\u5730\u56FE", L"Map"};
+    viewer.openedFiles = {L"C:\\maps\\\u5730.geojson", L"D:\\a.json"};
     return viewer;
 }
 
@@ -57,6 +58,7 @@ TEST(KeptState, AllOfItComesBack) {
     EXPECT_TRUE(unusable->empty());
     EXPECT_EQ(WriteKept(viewer, map), text);
     EXPECT_EQ(viewer.hiddenToolbars, ChangedViewer().hiddenToolbars);
+    EXPECT_EQ(viewer.openedFiles, ChangedViewer().openedFiles);
 }
 
 TEST(KeptState, AFirstStartComesBackAsSuch) {
@@ -95,6 +97,7 @@ TEST(KeptState, AnUnusableEntryIsNamedAndAllOthersAreTaken) {
         {"-1200", "1e9", "window"},
         {"-1200", "100", "window"}, // its left side right of its right one
         {R"("hiddenToolbars": [)", R"("hiddenToolbars": [1,)", "hiddenToolbars"},
+        {R"("openedFiles": [)", R"("openedFiles": [{},)", "openedFiles"},
         {"116.25", "1e300", "map.view"},
         {R"("palette": "night")", R"("palette": "pink")", "map.palette"},
         {R"("smooth": false)", R"("smooth": [])", "map.smooth"},
