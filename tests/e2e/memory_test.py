@@ -11,6 +11,7 @@ import tempfile
 import unittest
 
 from viewer import ROOT, Viewer, copy_installation, edit_file
+from wine_session import PREFIX
 
 BIN_DIR = ""
 TITLES = ("Map viewer", "地图浏览器")
@@ -262,9 +263,9 @@ class NextStart(unittest.TestCase):
 
     def test_a_damaged_place_of_the_toolbars_is_told_and_loses_nothing_else(self):
         self.run_once("--lang", "zh-CN", "--bars", "classic")
-        reg = os.path.join(ROOT, "build", "wine-e2e", "drive_c", "windows", "system32", "reg.exe")
+        reg = os.path.join(PREFIX, "drive_c", "windows", "system32", "reg.exe")
         found = subprocess.run([os.path.join(ROOT, "scripts", "wine-run"), "--null", reg, "query", r"HKCU\Software\Barwright\demo", "/s"],
-                               env=dict(os.environ, BARWRIGHT_WINEPREFIX=os.path.join(ROOT, "build", "wine-e2e")), capture_output=True, text=True, check=True)
+                               env=dict(os.environ, BARWRIGHT_WINEPREFIX=PREFIX), capture_output=True, text=True, check=True)
         keys = [line.strip() for line in found.stdout.splitlines() if line.strip().endswith("DockingManager")]
         self.assertTrue(keys)
         damage = [["add", key, "/v", "Places", "/t", "REG_BINARY", "/d", "0102030405", "/f"] for key in keys]
