@@ -13,9 +13,8 @@
 #include "ribbon_icon_button.h"
 #include "ribbon_lookup.h"
 #include "toolbar_combos.h"
-#include "viewer_text.h"
-
 #include "user_settings.h"
+#include "viewer_text.h"
 
 #include "varnhold/file_op.h"
 #include "varnhold/language.h"

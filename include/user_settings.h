@@ -11,6 +11,7 @@
 #include <vector>
 
 class CDynToolBarCreater;
+class CFrameWndEx;
 class CMDIFrameWndEx;
 class CMFCRibbonBarEx;
 
@@ -53,7 +54,7 @@ public:
     bool Save();
 
     /// What was not applied because no command, or no place for it, has that keyword now, once each, in the file's
-    /// order. Complete after all ApplyTo calls.
+    /// order; behind them the names of toolbars that are gone. Complete after all ApplyTo calls.
     std::vector<std::wstring> UnknownKeywords() const;
 
 #ifdef _WIN32
@@ -68,6 +69,7 @@ public:
     /// Toolbars are known by their group and their name (CDynToolBarCreater::GetName); the layout follows when the
     /// application is idle. Where they are docked is the application's to keep, see CNamedToolBars.
     void ApplyTo(const CDynToolBarCreater& toolbars, CMDIFrameWndEx& frame);
+    void ApplyTo(const CDynToolBarCreater& toolbars, CFrameWndEx& frame);
     void TakeFrom(const CDynToolBarCreater& toolbars);
 
     /// Gives the commands that have shortcuts here those keys instead of their own, in a copy of the table; a key that

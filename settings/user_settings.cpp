@@ -167,6 +167,30 @@ public:
         });
     }
 
+    template <class Frame>
+    void RestoreBars(const CDynToolBarCreater& toolbars, Frame& frame) {
+        ForEachBar(toolbars, [&](CMFCToolBar& bar, const BarName& name) {
+            const bool isShown = bar.IsVisible() != FALSE;
+            configuredBars[name] = isShown;
+            const auto bars = FindBar(name);
+            if (bars != kept.toolBars.end() && bars->isShown != isShown) {
+                frame.ShowPane(&bar, bars->isShown ? TRUE : FALSE, TRUE, FALSE);
+            }
+        });
+    }
+
+    /// Of toolbars that none of those to which the settings were applied is; none before the first.
+    Keywords UnknownBars() const {
+        Keywords names;
+        for (const KeptToolBar& bar : kept.toolBars) {
+            const bool isKnown = configuredBars.empty() || configuredBars.contains({bar.group, bar.title, bar.number});
+            if (!isKnown && std::find(names.begin(), names.end(), bar.title) == names.end()) {
+                names.push_back(bar.title);
+            }
+        }
+        return names;
+    }
+
     static bool CanShow(const CMFCRibbonBarEx& ribbon, const std::wstring& keyword) {
         const unsigned int id = IdOf(keyword);
         return id != 0 && ribbon.FindByID(id, FALSE, TRUE) != nullptr;
@@ -211,7 +235,12 @@ bool CUserSettings::Save() {
     return m_keeper->file.Save(written);
 }
 
-std::vector<std::wstring> CUserSettings::UnknownKeywords() const { return m_keeper->unknown; }
+std::vector<std::wstring> CUserSettings::UnknownKeywords() const {
+    Keywords all = m_keeper->unknown;
+    const Keywords bars = m_keeper->UnknownBars();
+    all.insert(all.end(), bars.begin(), bars.end());
+    return all;
+}
 
 void CUserSettings::ApplyTo(CMFCRibbonBarEx& ribbon) {
     const std::list<std::wstring> paths = ribbon.Paths();
@@ -266,14 +295,11 @@ void CUserSettings::TakeFrom(CMFCRibbonBarEx& ribbon) {
 }
 
 void CUserSettings::ApplyTo(const CDynToolBarCreater& toolbars, CMDIFrameWndEx& frame) {
-    Keeper::ForEachBar(toolbars, [&](CMFCToolBar& bar, const Keeper::BarName& name) {
-        const bool isShown = bar.IsVisible() != FALSE;
-        m_keeper->configuredBars[name] = isShown;
-        const auto kept = m_keeper->FindBar(name);
-        if (kept != m_keeper->kept.toolBars.end() && kept->isShown != isShown) {
-            frame.ShowPane(&bar, kept->isShown ? TRUE : FALSE, TRUE, FALSE);
-        }
-    });
+    m_keeper->RestoreBars(toolbars, frame);
+}
+
+void CUserSettings::ApplyTo(const CDynToolBarCreater& toolbars, CFrameWndEx& frame) {
+    m_keeper->RestoreBars(toolbars, frame);
 }
 
 void CUserSettings::TakeFrom(const CDynToolBarCreater& toolbars) {

@@ -7,17 +7,25 @@
 #include "tests/support/ui_test.h"
 #include "user_settings.h"
 
+#include <gmock/gmock.h>
+
 #include <memory>
+#include <type_traits>
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 namespace {
 
 /// Lives on the stack: its window's end does not delete it.
-class BarsFrame : public CMDIFrameWndEx {
+template <class Base>
+class BarsFrame : public Base {
 protected:
     void PostNcDestroy() override {}
 };
 
 /// One run of a program with toolbars.
+template <class Frame = CMDIFrameWndEx>
 class BarsRun {
 public:
     BarsRun(TranslatedInstallation& installation, const std::string& groups) {
@@ -25,8 +33,7 @@ public:
         m_frame.ShowWindow(SW_SHOWNOACTIVATE);
         installation.Directory().Write("toolbar.xml", "<bars>" + groups + "</bars>");
         EXPECT_TRUE(m_bars.Load(L"toolbar.xml", &m_frame));
-        m_bars.EnableDocking(CBRS_ALIGN_ANY, &m_frame);
-        m_bars.DockPane(&m_frame);
+        Dock();
         PumpPending();
     }
     ~BarsRun() {
@@ -35,6 +42,19 @@ public:
     }
     BarsRun(const BarsRun&) = delete;
     BarsRun& operator=(const BarsRun&) = delete;
+
+    void Dock() {
+        if constexpr (std::is_base_of_v<CMDIFrameWndEx, Frame>) {
+            m_bars.EnableDocking(CBRS_ALIGN_ANY, &m_frame);
+            m_bars.DockPane(&m_frame);
+        } else {
+            m_frame.EnableDocking(CBRS_ALIGN_ANY);
+            for (CMFCToolBar* const bar : m_bars.GetAllToolBar()) {
+                bar->EnableDocking(CBRS_ALIGN_ANY);
+                m_frame.DockPane(bar);
+            }
+        }
+    }
 
     /// A letter for each toolbar, "+" when it is shown.
     std::string Shown() {
@@ -51,7 +71,7 @@ public:
         PumpPending();
     }
 
-    BarsFrame m_frame;
+    BarsFrame<Frame> m_frame;
     CDynToolBarCreater m_bars;
 };
 
@@ -70,7 +90,7 @@ protected:
 
     /// Hides the third bar, one of two with the same title, and keeps that.
     void HideTheThird() {
-        BarsRun run(m_installation, kBars);
+        BarsRun<> run(m_installation, kBars);
         CUserSettings settings(File());
         settings.ApplyTo(run.m_bars, run.m_frame);
         run.Show(2, false);
@@ -84,7 +104,7 @@ protected:
 
 TEST_F(ToolBarSettings, AHiddenToolbarIsHiddenInTheNextRun) {
     HideTheThird();
-    BarsRun run(m_installation, kBars);
+    BarsRun<> run(m_installation, kBars);
     ASSERT_EQ(run.Shown(), "+++");
     CUserSettings settings(File());
     settings.Load();
@@ -94,7 +114,7 @@ TEST_F(ToolBarSettings, AHiddenToolbarIsHiddenInTheNextRun) {
 
 TEST_F(ToolBarSettings, OneIsKnownByItsNameInTheFileWhateverItsTitleHasBecome) {
     HideTheThird();
-    BarsRun run(m_installation, kBars);
+    BarsRun<> run(m_installation, kBars);
     for (CMFCToolBar* const bar : run.m_bars.GetAllToolBar()) {
         bar->SetWindowText(L"\u4E00"); // as in another language
     }
@@ -107,7 +127,7 @@ TEST_F(ToolBarSettings, OneIsKnownByItsNameInTheFileWhateverItsTitleHasBecome) {
 TEST_F(ToolBarSettings, OneThatIsShownAgainStaysShown) {
     HideTheThird();
     {
-        BarsRun run(m_installation, kBars);
+        BarsRun<> run(m_installation, kBars);
         CUserSettings settings(File());
         settings.Load();
         settings.ApplyTo(run.m_bars, run.m_frame);
@@ -115,7 +135,7 @@ TEST_F(ToolBarSettings, OneThatIsShownAgainStaysShown) {
         settings.TakeFrom(run.m_bars);
         ASSERT_TRUE(settings.Save());
     }
-    BarsRun run(m_installation, kBars);
+    BarsRun<> run(m_installation, kBars);
     CUserSettings settings(File());
     settings.Load();
     settings.ApplyTo(run.m_bars, run.m_frame);
@@ -125,15 +145,27 @@ TEST_F(ToolBarSettings, OneThatIsShownAgainStaysShown) {
 TEST_F(ToolBarSettings, AToolbarThatIsGoneIsRememberedForLater) {
     HideTheThird();
     {
-        BarsRun run(m_installation, "<g KEYWORD='G'><b PROMPT='Other'/></g>");
+        BarsRun<> run(m_installation, "<g KEYWORD='G'><b PROMPT='Other'/></g>");
         CUserSettings settings(File());
         settings.Load();
+        EXPECT_THAT(settings.UnknownKeywords(), IsEmpty()) << "nobody knows yet which bars there are";
         settings.ApplyTo(run.m_bars, run.m_frame);
+        EXPECT_THAT(settings.UnknownKeywords(), ElementsAre(L"Same"));
         settings.TakeFrom(run.m_bars);
         EXPECT_EQ(run.Shown(), "+");
         ASSERT_TRUE(settings.Save());
     }
-    BarsRun run(m_installation, kBars);
+    BarsRun<> run(m_installation, kBars);
+    CUserSettings settings(File());
+    settings.Load();
+    settings.ApplyTo(run.m_bars, run.m_frame);
+    EXPECT_EQ(run.Shown(), "++-");
+    EXPECT_THAT(settings.UnknownKeywords(), IsEmpty());
+}
+
+TEST_F(ToolBarSettings, AFrameWithoutChildrenIsServedToo) {
+    HideTheThird();
+    BarsRun<CFrameWndEx> run(m_installation, kBars);
     CUserSettings settings(File());
     settings.Load();
     settings.ApplyTo(run.m_bars, run.m_frame);
