@@ -1,10 +1,10 @@
 // The sheets of a print preview.
 #include "afxcontrolbars.h"
 #include "documents/preview_pages.h"
+#include "fx/dc_scope.h"
 #include "fx/print_preview.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -13,7 +13,17 @@ constexpr int kShadow = 3;
 constexpr double kInch = 25.4; ///< millimetres
 constexpr double kWhole = 100; ///< percent
 
-int Scaled(int pixels) { return static_cast<int>(std::lround(pixels * afxGlobalData.GetRibbonImageScale())); }
+/// So many sheets beside each other with the margins round them, in pixels.
+struct Layout {
+    Layout(CSize millimetres, double scale, UINT sheets)
+        : margin(afxGlobalData.ScalePixels(kMargin)),
+          sheet(static_cast<int>(millimetres.cx * scale), static_cast<int>(millimetres.cy * scale)),
+          whole(static_cast<int>(sheets) * (sheet.cx + margin) + margin, sheet.cy + 2 * margin) {}
+
+    int margin;
+    CSize sheet;
+    CSize whole;
+};
 
 } // namespace
 
@@ -72,36 +82,31 @@ double CPreviewView::PixelsPerMillimetre(int zoom) const {
     }
     CRect room;
     GetClientRect(room);
-    const int margin = Scaled(kMargin), shown = static_cast<int>(m_shown);
+    const int margin = afxGlobalData.ScalePixels(kMargin), shown = static_cast<int>(m_shown);
     const double across = static_cast<double>(room.Width() - (shown + 1) * margin) / (shown * m_pages.Sheet().cx);
     const double down = static_cast<double>(room.Height() - 2 * margin) / m_pages.Sheet().cy;
     return std::max({std::min(across, down), 1.0 / m_pages.Sheet().cx, 1.0 / m_pages.Sheet().cy});
 }
 
 std::vector<CRect> CPreviewView::GetSheets() const {
-    const double scale = PixelsPerMillimetre(m_zoom);
-    const CSize sheet(static_cast<int>(m_pages.Sheet().cx * scale), static_cast<int>(m_pages.Sheet().cy * scale));
-    const int margin = Scaled(kMargin), shown = static_cast<int>(m_shown);
+    const Layout layout(m_pages.Sheet(), PixelsPerMillimetre(m_zoom), m_shown);
     CRect room;
     GetClientRect(room);
     const CPoint scroll = GetDeviceScrollPosition();
-    const CSize whole(shown * sheet.cx + (shown + 1) * margin, sheet.cy + 2 * margin);
-    const int left = std::max(0, (room.Width() - static_cast<int>(whole.cx)) / 2) + margin - scroll.x;
-    const int top = std::max(0, (room.Height() - static_cast<int>(whole.cy)) / 2) + margin - scroll.y;
+    const int left = std::max(0L, (room.Width() - layout.whole.cx) / 2) + layout.margin - scroll.x;
+    const int top = std::max(0L, (room.Height() - layout.whole.cy) / 2) + layout.margin - scroll.y;
     std::vector<CRect> sheets;
     for (UINT page = m_page; page <= LastShown(); ++page) {
-        sheets.emplace_back(CPoint(left + static_cast<int>(page - m_page) * (sheet.cx + margin), top), sheet);
+        const int across = static_cast<int>(page - m_page) * (layout.sheet.cx + layout.margin);
+        sheets.emplace_back(CPoint(left + across, top), layout.sheet);
     }
     return sheets;
 }
 
 void CPreviewView::Lay() {
-    const double scale = PixelsPerMillimetre(m_zoom);
-    const int margin = Scaled(kMargin), shown = static_cast<int>(m_shown);
-    const CSize whole(static_cast<int>(m_pages.Sheet().cx * scale) * shown + (shown + 1) * margin,
-                      static_cast<int>(m_pages.Sheet().cy * scale) + 2 * margin);
     // What fits has nothing to scroll, however it is rounded.
-    SetScrollSizes(MM_TEXT, m_zoom > 0 ? whole : CSize(1, 1));
+    const CSize fitting(1, 1);
+    SetScrollSizes(MM_TEXT, m_zoom > 0 ? Layout(m_pages.Sheet(), PixelsPerMillimetre(m_zoom), m_shown).whole : fitting);
     Invalidate();
 }
 
@@ -116,20 +121,15 @@ BOOL CPreviewView::OnEraseBkgnd(CDC*) { return TRUE; }
 void CPreviewView::OnDraw(CDC* pDC) {
     CRect room;
     GetClientRect(room);
-    CDC memory;
-    CBitmap bitmap;
-    if (room.IsRectEmpty() || !memory.CreateCompatibleDC(pDC) ||
-        !bitmap.CreateCompatibleBitmap(pDC, room.Width(), room.Height())) {
-        return;
-    }
-    CBitmap* const before = memory.SelectObject(&bitmap);
-    memory.FillSolidRect(room, ::GetSysColor(COLOR_APPWORKSPACE));
+    const CPoint scroll = GetDeviceScrollPosition();
+    room += scroll; // as the context counts
+    fx::MemoryDc memory(*pDC, room);
+    memory->FillSolidRect(room, ::GetSysColor(COLOR_APPWORKSPACE));
+    const int shadow = afxGlobalData.ScalePixels(kShadow);
     UINT page = m_page;
-    for (const CRect& sheet : GetSheets()) {
-        memory.FillSolidRect(sheet + CPoint(Scaled(kShadow), Scaled(kShadow)), ::GetSysColor(COLOR_3DDKSHADOW));
+    for (const CRect& seen : GetSheets()) {
+        const CRect sheet = seen + scroll;
+        memory->FillSolidRect(sheet + CPoint(shadow, shadow), ::GetSysColor(COLOR_3DDKSHADOW));
         m_pages.Draw(memory, sheet, page++);
     }
-    const CPoint scroll = GetDeviceScrollPosition();
-    pDC->BitBlt(scroll.x, scroll.y, room.Width(), room.Height(), &memory, 0, 0, SRCCOPY);
-    memory.SelectObject(before);
 }

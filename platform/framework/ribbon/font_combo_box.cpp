@@ -3,6 +3,8 @@
 
 #include <afxtoolbarmenubutton.h>
 
+#include "fx/dc_scope.h"
+
 #include <algorithm>
 
 IMPLEMENT_DYNCREATE(CMFCRibbonFontComboBox, CMFCRibbonComboBox)
@@ -62,9 +64,13 @@ Fonts FindFonts(int type, BYTE charSet, BYTE pitchAndFamily) {
 /// written as they are elsewhere.
 class RowFont {
 public:
-    RowFont(CDC& dc, const CMFCFontInfo* info) : m_dc(dc) {
+    RowFont(CDC& dc, const CMFCFontInfo* info) : m_selection(dc.m_hDC, Make(dc, info)) {}
+
+private:
+    /// Null: the context's own font.
+    HGDIOBJ Make(CDC& dc, const CMFCFontInfo* info) {
         if (info == nullptr || info->m_nCharSet == SYMBOL_CHARSET) {
-            return;
+            return nullptr;
         }
         LOGFONT font{};
         dc.GetCurrentFont()->GetLogFont(&font);
@@ -72,20 +78,11 @@ public:
         font.lfPitchAndFamily = info->m_nPitchAndFamily;
         ::lstrcpynW(font.lfFaceName, info->m_strName, LF_FACESIZE);
         m_font.CreateFontIndirect(&font);
-        m_before = dc.SelectObject(&m_font);
+        return m_font.GetSafeHandle();
     }
-    ~RowFont() {
-        if (m_before != nullptr) {
-            m_dc.SelectObject(m_before);
-        }
-    }
-    RowFont(const RowFont&) = delete;
-    RowFont& operator=(const RowFont&) = delete;
 
-private:
-    CDC& m_dc;
-    CFont m_font;
-    CFont* m_before = nullptr;
+    CFont m_font; // outlives its selection
+    fx::DcSelection m_selection;
 };
 
 } // namespace
