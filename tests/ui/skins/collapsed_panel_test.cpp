@@ -13,27 +13,23 @@ namespace {
 /// Where the arrow was drawn last, the bar's client pixels.
 CRect g_arrow(0, 0, 0, 0);
 
-class ArrowNotingBlackSkin : public OpenBlackSkin {
-    DECLARE_DYNCREATE(ArrowNotingBlackSkin)
-
+template <class Skin>
+class ArrowNoting : public Skin {
 public:
     void OnDrawRibbonDefaultPaneButtonIndicator(CDC* dc, CMFCRibbonButton* button, CRect rect, BOOL isSelected,
                                                 BOOL isHot) override {
         g_arrow = rect;
-        OpenBlackSkin::OnDrawRibbonDefaultPaneButtonIndicator(dc, button, rect, isSelected, isHot);
+        Skin::OnDrawRibbonDefaultPaneButtonIndicator(dc, button, rect, isSelected, isHot);
     }
+};
+
+class ArrowNotingBlackSkin : public ArrowNoting<OpenBlackSkin> {
+    DECLARE_DYNCREATE(ArrowNotingBlackSkin)
 };
 IMPLEMENT_DYNCREATE(ArrowNotingBlackSkin, OpenBlackSkin)
 
-class ArrowNotingSilverSkin : public OpenSilverSkin {
+class ArrowNotingSilverSkin : public ArrowNoting<OpenSilverSkin> {
     DECLARE_DYNCREATE(ArrowNotingSilverSkin)
-
-public:
-    void OnDrawRibbonDefaultPaneButtonIndicator(CDC* dc, CMFCRibbonButton* button, CRect rect, BOOL isSelected,
-                                                BOOL isHot) override {
-        g_arrow = rect;
-        OpenSilverSkin::OnDrawRibbonDefaultPaneButtonIndicator(dc, button, rect, isSelected, isHot);
-    }
 };
 IMPLEMENT_DYNCREATE(ArrowNotingSilverSkin, OpenSilverSkin)
 
