@@ -7,7 +7,7 @@
 #include "fx/print.h"
 
 #include <algorithm>
-#include <cstring>
+#include <ole2.h>
 #include <utility>
 
 namespace {
@@ -50,14 +50,7 @@ CString JobName(const CView& view) {
 }
 
 HGLOBAL CopyOf(HGLOBAL block) {
-    const SIZE_T size = ::GlobalSize(block);
-    const HGLOBAL copy = ::GlobalAlloc(GMEM_MOVEABLE, size);
-    if (copy != nullptr) {
-        std::memcpy(::GlobalLock(copy), ::GlobalLock(block), size);
-        ::GlobalUnlock(copy);
-        ::GlobalUnlock(block);
-    }
-    return copy;
+    return block != nullptr ? ::OleDuplicateData(block, CF_PRIVATEFIRST, GMEM_MOVEABLE) : nullptr;
 }
 
 /// The printer that the user has chosen for all jobs; a job frees its own copy.
@@ -69,7 +62,7 @@ void TakeChosenPrinter(PRINTDLG& job) {
     PRINTDLG chosen = {};
     application->GetPrinterDeviceDefaults(&chosen);
     job.hDevNames = CopyOf(chosen.hDevNames);
-    job.hDevMode = chosen.hDevMode != nullptr ? CopyOf(chosen.hDevMode) : nullptr;
+    job.hDevMode = CopyOf(chosen.hDevMode);
 }
 
 bool HasPrinter(CPrintDialog& dialog) {
